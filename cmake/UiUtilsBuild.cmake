@@ -1,0 +1,41 @@
+# Settings that every target of the tree shares, and the helper that publishes headers.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic)
+if(UIUTILS_WERROR)
+    add_compile_options(-Werror)
+endif()
+add_compile_definitions(
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+    QT_NO_FOREACH QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS)
+
+# uiutils_install_headers(<folder below include> <header>...)
+#
+# Headers lie in rooms in the tree and flat once installed, so an include of a sibling room
+# ("document/reporttemplate.h") has to become a plain one ("reporttemplate.h") on the way.
+function(uiutils_install_headers folder)
+    set(flat "${CMAKE_CURRENT_BINARY_DIR}/headers")
+    foreach(header IN LISTS ARGN)
+        set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${header}")
+        file(READ "${CMAKE_CURRENT_SOURCE_DIR}/${header}" text)
+        string(REGEX REPLACE "#include \"[a-z_0-9]+/([a-z_0-9]+\\.h)\"" "#include \"\\1\"" text "${text}")
+        get_filename_component(name "${header}" NAME)
+        file(CONFIGURE OUTPUT "${flat}/${name}" CONTENT "${text}" @ONLY)
+        install(FILES "${flat}/${name}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${folder}")
+    endforeach()
+endfunction()

@@ -1,0 +1,133 @@
+#include "core/durablefile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace uiutils {
+
+namespace {
+
+QString systemError()
+{
+    return qt_error_string(errno);
+}
+
+/// A file that did not exist before, beside the target, removed again unless it was renamed.
+class TemporarySibling
+{
+public:
+    explicit TemporarySibling(const QString& target)
+    {
+        const QFileInfo info(target);
+        // Names of 255 bytes are legal: the temporary one must not grow out of the target's own.
+        const QString stem = info.path() + QLatin1String("/.uiutils-");
+        do {
+            m_path = stem + QString::number(QRandomGenerator::global()->generate(), 36) + QLatin1String(".tmp");
+            m_fd = ::open(QFile::encodeName(m_path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                    0666);
+        } while (m_fd < 0 && (errno == EEXIST || errno == EINTR));
+        m_created = m_fd >= 0;
+    }
+    ~TemporarySibling()
+    {
+        if (m_fd >= 0)
+            ::close(m_fd);
+        if (m_created && !m_renamed)
+            ::unlink(QFile::encodeName(m_path).constData());
+    }
+    Q_DISABLE_COPY_MOVE(TemporarySibling)
+
+    bool isOpen() const { return m_fd >= 0; }
+
+    bool write(const QByteArray& contents)
+    {
+        qint64 done = 0;
+        while (done < contents.size()) {
+            const ssize_t n = ::write(m_fd, contents.constData() + done, size_t(contents.size() - done));
+            if (n < 0 && errno == EINTR)
+                continue;
+            if (n <= 0)
+                return false;
+            done += n;
+        }
+        return true;
+    }
+
+    bool sync()
+    {
+        int result = 0;
+        do {
+            result = ::fsync(m_fd);
+        } while (result != 0 && errno == EINTR);
+        return result == 0;
+    }
+
+    bool close()
+    {
+        const int fd = m_fd;
+        m_fd = -1;
+        // After EINTR the descriptor is gone on Linux, and what was synced is safe.
+        return ::close(fd) == 0 || errno == EINTR;
+    }
+
+    bool renameTo(const QString& target)
+    {
+        m_renamed
+                = ::rename(QFile::encodeName(m_path).constData(), QFile::encodeName(target).constData()) == 0;
+        return m_renamed;
+    }
+
+private:
+    QString m_path;
+    int m_fd = -1;
+    bool m_created = false;
+    bool m_renamed = false;
+};
+
+/// Makes the rename survive a power cut. Not an error when it fails: the file is whole under its name either way.
+void syncFolder(const QString& folder)
+{
+    const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    ::fsync(fd);
+    ::close(fd);
+}
+
+QString failure(const char* text, const QString& path, const QString& reason)
+{
+    return QCoreApplication::translate("DurableFile", text).arg(path, reason);
+}
+
+} // namespace
+
+bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error)
+{
+    QString ignored;
+    QString& message = error ? *error : ignored;
+
+    TemporarySibling file(path);
+    if (!file.isOpen()) {
+        message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot create a file in the folder of %1: %2"), path,
+                systemError());
+        return false;
+    }
+    if (!file.write(contents) || !file.sync() || !file.close()) {
+        message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"), path, systemError());
+        return false;
+    }
+    if (!file.renameTo(path)) {
+        message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot replace %1: %2"), path, systemError());
+        return false;
+    }
+    syncFolder(QFileInfo(path).path());
+    return true;
+}
+
+} // namespace uiutils

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QLatin1String>
+
+/// Ids of the service items that the library itself reads.
+namespace uiutils::itemids {
+
+/// The folder of a system setting; the setting's own name and a colon follow.
+inline const QLatin1String systemSetting(":config:basemgr:system:");
+/// Names of the technician and customer fields that a report shows.
+inline const QLatin1String technicianFields(":config:basemgr:system:techFieldsIncludedInReport:stringARRAY:");
+inline const QLatin1String customerFields(":config:basemgr:system:customerFieldsIncludedInReport:stringARRAY:");
+
+inline const QLatin1String softwareNames(":result:basemgr:swrev:names:stringARRAY:");
+inline const QLatin1String softwareVersions(":result:basemgr:swrev:versions:stringARRAY:");
+
+/// Hardware assemblies: a name that ends in "_top" follows, the value reads "description|assembly id|barcode".
+inline const QLatin1String hardware(":result:basemgr:eeprom:");
+inline const QLatin1String hardwareNameEnd("_top");
+
+inline const QLatin1String jobId(":result:basemgr:jobmanager:jobID:");
+inline const QLatin1String jobBan(":result:basemgr:jobmanager:jobBAN:");
+inline const QLatin1String jobTechnician(":result:basemgr:jobmanager:jobTechnician:");
+
+inline const QLatin1String configuration(":config:");
+inline const QLatin1String result(":result:");
+
+} // namespace uiutils::itemids

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+/// Where the instrument keeps things, and where they lie on this machine's disk.
+namespace uiutils::paths {
+
+/// Folder of the saved reports.
+inline const QLatin1String reports("/cust/public/reports/");
+/// Folder of the status icons and of the logo.
+inline const QLatin1String images("/base/qml/common/images/");
+inline const QLatin1String passIcon("/base/qml/common/images/pass_icon.png");
+inline const QLatin1String marginalIcon("/base/qml/common/images/marginal_icon.png");
+inline const QLatin1String failIcon("/base/qml/common/images/fail_icon.png");
+inline const QLatin1String logo("/base/qml/common/images/Norda_Color-medium.png");
+/// Start of the name of a temporary plot image; number and ".png" follow.
+inline const QLatin1String plotImageStem("/tmp/rep_plot_");
+
+/// The temporary image of the plot with that number.
+QString plotImage(int number);
+
+} // namespace uiutils::paths
+
+namespace uiutils {
+
+/// The place on disk of an instrument path. Paths below /cust, /mnt/usb and /base and temporary plot images are
+/// put below the folder that the environment variable UIUTILS_ROOT names; every other path, and every path while
+/// the variable is empty or unset, comes back unchanged.
+///
+/// Call it only where the disk is touched or a process is started: everything that is shown, stored or signalled
+/// keeps the instrument's form.
+QString onDisk(const QString& path);
+
+} // namespace uiutils

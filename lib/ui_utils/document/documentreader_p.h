@@ -1,0 +1,101 @@
+#pragma once
+
+#include "document/reportkeys_p.h"
+
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+namespace uiutils {
+
+/// The text of a leaf: a string as it is, a number or boolean in its text form, anything else empty.
+QString textOf(const QJsonValue& value);
+
+/// A leaf's text as a reader sees it: "EMPTY" stands for no text.
+QString shownTextOf(const QJsonValue& value);
+
+/// Reads a report or section node: the one place that knows in which order a document is walked.
+///
+/// Children come in the ascending string order of their keys ("row_1", "row_10", "row_2"). A key belongs to a family
+/// when it contains the family's word and holds an object.
+class NodeReader
+{
+public:
+    struct Attribute
+    {
+        QString name;
+        QString value;
+    };
+
+    explicit NodeReader(const QJsonObject& node)
+        : m_node(node)
+    {
+    }
+
+    QString text(QLatin1String key) const { return textOf(m_node.value(key)); }
+    bool has(QLatin1String key) const { return m_node.contains(key); }
+    QString tag() const { return text(keys::tag); }
+    QString title() const { return text(keys::title); }
+
+    /// False only when a key "enabled" says so: false, "false", "0" or the number 0.
+    bool isEnabled() const;
+
+    /// The "attr_" keys, their prefix taken off, in key order.
+    QVector<Attribute> attributes() const;
+
+    /// The texts of the "log_" keys in key order.
+    QStringList logEntries() const;
+
+    /// Calls visit(QJsonObject section) for each section.
+    template<typename Visitor> void forEachSection(Visitor visit) const
+    {
+        forEachChild(keys::sectionFamily, [&](const QString&, const QJsonObject& child) { visit(child); });
+    }
+
+    /// Calls visit(QString key, QJsonObject table) for each table.
+    template<typename Visitor> void forEachTable(Visitor visit) const { forEachChild(keys::tableFamily, visit); }
+
+protected:
+    template<typename Visitor> void forEachChild(QLatin1String family, Visitor visit) const
+    {
+        for (auto it = m_node.begin(); it != m_node.end(); ++it) {
+            const QJsonValue value = it.value();
+            if (!value.isObject())
+                continue;
+            const QString key = it.key();
+            if (key.contains(family))
+                visit(key, value.toObject());
+        }
+    }
+
+    QJsonObject m_node;
+};
+
+/// Reads a table node.
+class TableReader : public NodeReader
+{
+public:
+    /// A wider table keeps its first columns only, so that a count from a damaged file costs no memory.
+    static constexpr int maximumColumns = 1000;
+
+    explicit TableReader(const QJsonObject& table);
+
+    /// The number of value columns.
+    int columnCount() const { return m_cellKeys.size(); }
+    /// One label for each column, empty where the table has none.
+    QStringList columnLabels() const;
+    bool usesRowLabels() const;
+    bool isPlot() const { return text(keys::label) == keys::plot; }
+
+    /// The key of the cell in that column.
+    const QString& cellKey(int column) const { return m_cellKeys.at(column); }
+
+    /// Calls visit(QString key, QJsonObject row) for each row.
+    template<typename Visitor> void forEachRow(Visitor visit) const { forEachChild(keys::rowFamily, visit); }
+
+private:
+    QStringList m_cellKeys;
+};
+
+} // namespace uiutils

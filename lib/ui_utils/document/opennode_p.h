@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QVector>
+
+#include <array>
+
+namespace uiutils {
+
+/// A node of a report document that is being built: the keys set so far and its numbered children.
+///
+/// A child's number is the count of keys that contain its family's word when it arrives. That count is kept as keys
+/// arrive, and children wait in arrival order until take(), because inserting "row_10" behind "row_9" into a
+/// QJsonObject moves every key that sorts after it.
+class OpenNode
+{
+public:
+    /// In the order of their words, which is the order in which children are laid into the node.
+    enum Family { Row, Section, Table, FamilyCount };
+
+    explicit OpenNode(const QJsonObject& keys = QJsonObject());
+
+    /// The value of the key "node_type".
+    QString nodeType() const;
+
+    /// Sets a key, in place of what stood under it, a child included.
+    void set(const QString& key, const QJsonValue& value);
+
+    /// Stores a child under the next number of its family, in place of what stood under that key.
+    void append(Family family, const QJsonValue& child);
+
+    /// The finished node. The open one is empty afterwards.
+    QJsonObject take();
+
+private:
+    struct Child
+    {
+        int number;
+        QJsonValue value;
+    };
+    struct Children
+    {
+        /// Keys of the node that contain the family's word, children included.
+        int keyCount = 0;
+        /// In ascending order of their numbers, none twice, none of them a key of m_keys.
+        QVector<Child> waiting;
+    };
+
+    void count(const QString& key);
+    QJsonValue* waitingChild(const QString& key);
+
+    QJsonObject m_keys;
+    std::array<Children, FamilyCount> m_children;
+};
+
+} // namespace uiutils

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QXmlStreamWriter>
+
+class ReportItem;
+class ReportTable;
+class Style;
+
+/// Writes one HTML 4.01 page into a string that it owns. Its element operations are the only place where markup is
+/// made: whatever text they are given, the page stays well-formed and no text becomes markup.
+///
+/// The attribute map holds the page's switches of style and content, filled with defaults.
+class UIUTILS_EXPORT HtmlStreamWriter : public QXmlStreamWriter
+{
+public:
+    enum Alignment { AlignCenter = 0, AlignLeft = 1, AlignRight = 2 };
+    enum Status { StatusNone = 0, StatusPass = 16, StatusMarginal = 32, StatusFail = 64 };
+
+    /// Starts the page. `indentStep` is the left margin of a table per nesting level, in pixels. A ReportTable for
+    /// each table is appended to `items`, whose owner deletes it; null collects nothing.
+    HtmlStreamWriter(int indentStep, QList<ReportItem*>* items);
+    virtual ~HtmlStreamWriter();
+    Q_DISABLE_COPY_MOVE(HtmlStreamWriter)
+
+    QVariant attribute(const QString& name) const { return m_attributes.value(name); }
+    bool hasAttribute(const QString& name) const { return m_attributes.contains(name); }
+    void setAttribute(const QString& name, const QVariant& value) { m_attributes.insert(name, value); }
+
+    /// What has been written so far.
+    const QString& output() const { return m_output; }
+
+    /// Writes the head; no title element for an empty title, no style element without styles.
+    void writeHead(const QString& title, const QList<Style*>& styles);
+    /// Opens the body; an attribute whose name is no HTML attribute name is left out.
+    void startBody(const QVariantMap& attributes);
+
+    /// Opens a table and its first row. `tableAttributes` may set "cellpadding" (5), "rules" (rows) and "frame" (box).
+    void startTable(const QString& title, const QStringList& columnLabels, bool hasLabelColumn, int nestingLevel,
+            const QVariantMap& tableAttributes = QVariantMap());
+    /// Opens a row unless one is open. A row that gets no cell leaves no trace.
+    void startRow();
+    /// Writes a row's label as its next cell.
+    void writeHeaderCell(const QString& text, int align);
+    /// Writes the next cell with its status icon; does nothing while no row is open and when the row is full.
+    void writeCell(const QString& text, int status = StatusNone, int align = AlignCenter);
+    /// Writes one empty cell over the next `columns` columns, or over as many as the row still has.
+    void writeEmptyCells(int columns);
+    /// Closes the open row.
+    void endRow();
+    void endTable();
+
+    void writeParagraph(const QString& text);
+    /// Writes a heading; levels below 1 and above 3 are written as 1 and 3.
+    void writeHeading(int level, const QString& text);
+    /// Writes an image whose source is a path or an URI.
+    void writeImage(const QString& source);
+    /// Writes a paragraph that holds a PNG image.
+    void writeImageParagraph(const QByteArray& png);
+
+private:
+    void fillDefaults();
+    bool beginCell(int columns);
+    void writeHeaderRow(const QStringList& columnLabels, bool hasLabelColumn);
+    void writeStatusIcon(int status);
+    const QString& iconSource(const QString& path);
+
+    QString m_output;
+    QVariantMap m_attributes;
+    int m_indentStep;
+    int m_columnCount = 2;
+    int m_currentColumn = 0;
+    bool m_hasLabelColumn = true;
+    bool m_rowOpen = false;
+    QMap<QString, QByteArray> m_iconCache;
+    // The same icons as URIs: encoding one for each of ten thousand cells would cost more than the cells.
+    QMap<QString, QString> m_iconSources;
+    QList<ReportItem*>* m_items;
+    ReportTable* m_currentTable = nullptr;
+};

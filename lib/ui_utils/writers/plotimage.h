@@ -1,0 +1,42 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+
+#include <QByteArray>
+#include <QColor>
+#include <QSize>
+#include <QString>
+
+class QImage;
+
+/// Draws the result arrays of a service, x against y, into a PNG image.
+///
+/// A curve is a pair of array items whose ids end in "_x:doubleARRAY:" and "_y:doubleARRAY:" and agree before that.
+/// Whatever the arrays hold, write() makes an image; a point that is not finite is left out. It needs a
+/// QGuiApplication.
+class UIUTILS_EXPORT PlotImage
+{
+public:
+    PlotImage();
+
+    void setService(const QString& service) { m_service = service; }
+    /// The colour behind the curve, as CSS names it or "#rrggbb"; an empty or unknown one means white.
+    void setCurveBackground(const QString& color);
+    /// In pixels; a width or height below 1 means the default of 600 x 400, others are kept within 50 to 4,000.
+    void setSize(int width, int height);
+
+    /// Draws the plot and writes it to `path`, an instrument path. Returns false when the file could not be written;
+    /// getData() holds the image all the same.
+    bool write(const QString& path);
+
+    /// The PNG of the last write().
+    QByteArray getData() const { return m_data; }
+
+private:
+    QImage draw() const;
+
+    QString m_service;
+    QColor m_background = Qt::white;
+    QSize m_size;
+    QByteArray m_data;
+};

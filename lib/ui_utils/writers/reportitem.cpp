@@ -1,0 +1,15 @@
+#include "writers/reportitem.h"
+
+ReportItem::ReportItem() = default;
+
+ReportItem::~ReportItem() = default;
+
+namespace uiutils {
+
+QList<ReportItem*>& sharedReportItems()
+{
+    static QList<ReportItem*> items;
+    return items;
+}
+
+} // namespace uiutils

@@ -1,0 +1,378 @@
+#include "writers/templatetohtmlwriter.h"
+
+#include "core/paths.h"
+#include "document/documentreader_p.h"
+#include "document/reporttemplate.h"
+#include "service/instrumentinfo_p.h"
+#include "writers/htmlstreamwriter.h"
+#include "writers/plotimage.h"
+#include "writers/style.h"
+
+#include <kiv/system.h>
+
+#include <QCoreApplication>
+#include <QDate>
+
+namespace instrument = uiutils::instrument;
+namespace keys = uiutils::keys;
+using uiutils::NodeReader;
+using uiutils::TableReader;
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("TemplateToHtmlWriter", text);
+}
+
+/// "Sat Nov 21 2026".
+QString textDate()
+{
+    return QDate::currentDate().toString(Qt::TextDate);
+}
+
+/// The number at the end of a child's key; 0 when there is none.
+int childNumber(const QString& key)
+{
+    return key.mid(key.lastIndexOf(QLatin1Char('_')) + 1).toInt();
+}
+
+/// A two-column table of labels and values; none without rows.
+void writeLabelledTexts(HtmlStreamWriter& html, const QString& title, const QString& valueLabel, int nestingLevel,
+        const instrument::LabelledTexts& rows)
+{
+    if (rows.isEmpty())
+        return;
+    html.startTable(title, {valueLabel}, true, nestingLevel);
+    for (const instrument::LabelledText& row : rows) {
+        html.startRow();
+        html.writeHeaderCell(row.label, HtmlStreamWriter::AlignRight);
+        html.writeCell(row.text);
+        html.endRow();
+    }
+    html.endTable();
+}
+
+/// Fields of a person that nobody filled in hold "default".
+instrument::LabelledTexts withoutDefaults(instrument::LabelledTexts fields)
+{
+    for (instrument::LabelledText& field : fields) {
+        if (field.text == QLatin1String("default"))
+            field.text.clear();
+    }
+    return fields;
+}
+
+} // namespace
+
+struct TemplateToHtmlWriter::OverallStatus
+{
+    const char* flag;
+    const char* text;
+    /// How the status reads in the page's comment.
+    QLatin1String word;
+    int icon;
+};
+
+TemplateToHtmlWriter::TemplateToHtmlWriter(const ReportTemplate& document, QList<ReportItem*>* items)
+    : m_document(document.object())
+{
+    const int indentStep = uiutils::textOf(m_document.value(keys::indentPixels)).toInt();
+    m_html = std::make_unique<HtmlStreamWriter>(indentStep, items);
+}
+
+TemplateToHtmlWriter::~TemplateToHtmlWriter() = default;
+
+void TemplateToHtmlWriter::setAttribute(const QString& name, const QVariant& value)
+{
+    m_html->setAttribute(name, value);
+}
+
+QVariant TemplateToHtmlWriter::attribute(const QString& name) const
+{
+    return m_html->attribute(name);
+}
+
+QString TemplateToHtmlWriter::getHtml()
+{
+    if (m_isWritten)
+        return m_html->output();
+    m_isWritten = true;
+
+    const QList<Style*> rules = styles();
+    m_html->writeHead(title(), rules);
+    qDeleteAll(rules);
+
+    writeBodyStart();
+    tablesToHtml(m_document);
+    sectionsToHtml(m_document);
+    writeSystemInformation();
+    if (isSet("includeCustomerInfoEnd"))
+        writeCustomerTable();
+    if (isSet("includeTechnicianInfoEnd"))
+        writeTechnicianTable();
+    m_html->writeEndElement();
+    m_html->writeEndDocument();
+    return m_html->output();
+}
+
+QString TemplateToHtmlWriter::title() const
+{
+    const QString name = keys::title;
+    return m_html->hasAttribute(name) ? attribute(name).toString() : NodeReader(m_document).title();
+}
+
+bool TemplateToHtmlWriter::isSet(const char* name) const
+{
+    return attribute(QLatin1String(name)).toBool();
+}
+
+QList<Style*> TemplateToHtmlWriter::styles() const
+{
+    QList<Style*> rules;
+    const auto add = [&](const QString& selector) {
+        rules += new Style(selector);
+        return rules.constLast();
+    };
+    const auto text = [&](const QString& name) { return attribute(name).toString(); };
+
+    for (int level = 1; level <= 3; ++level) {
+        Style* heading = add(QStringLiteral("h%1").arg(level));
+        heading->setProperty(QStringLiteral("background-color"), text(QStringLiteral("h%1_bg").arg(level)));
+        heading->setProperty(QStringLiteral("color"), text(QStringLiteral("h%1_fg").arg(level)));
+        heading->setMarginTop(12);
+        heading->setMarginBottom(5);
+    }
+
+    Style* paragraph = add(QStringLiteral("p"));
+    paragraph->setProperty(QStringLiteral("font-size"), QStringLiteral("medium"));
+    paragraph->setMarginTop(5);
+    paragraph->setMarginBottom(5);
+
+    Style* body = add(QStringLiteral("body"));
+    body->setFontFamily(text(QStringLiteral("body_font_family")));
+    body->setProperty(QStringLiteral("margin-right"), QStringLiteral("%1%").arg(2));
+    body->setProperty(QStringLiteral("margin-left"), QStringLiteral("%1%").arg(2));
+
+    Style* table = add(QStringLiteral("table"));
+    table->setFontFamily(text(QStringLiteral("table_font_family")));
+    table->setProperty(QStringLiteral("font-size"), QStringLiteral("medium"));
+    table->setProperty(QStringLiteral("margin"), QStringLiteral("10px"));
+    table->setBackground(text(QStringLiteral("table_bg")));
+    table->setProperty(QStringLiteral("border-width"), QStringLiteral("1px"));
+
+    Style* headerCell = add(QStringLiteral("th"));
+    headerCell->setFontFamily(text(QStringLiteral("table_header_font_family")));
+    headerCell->setBackground(text(QStringLiteral("table_header_bg")));
+    headerCell->setProperty(QStringLiteral("color"), text(QStringLiteral("table_header_fg")));
+    headerCell->setPadding(2, 8);
+
+    Style* cell = add(QStringLiteral("td"));
+    cell->setFontFamily(text(QStringLiteral("table_cell_font_family")));
+    cell->setBackground(text(QStringLiteral("table_cell_bg")));
+    cell->setPadding(3, 8);
+    return rules;
+}
+
+void TemplateToHtmlWriter::writeBodyStart()
+{
+    m_html->startBody(m_bodyAttributes);
+    // The page renderer draws a title block of its own.
+    const bool isForPage = isSet("isForPDF");
+    if (!isForPage) {
+        const QString logo = attribute(QStringLiteral("logo")).toString();
+        if (!logo.isEmpty())
+            m_html->writeImage(logo);
+        writeTestInformation();
+        if (isSet("includeJobInfo"))
+            writeJobTable();
+    }
+    if (isSet("includeCustomerInfoTop"))
+        writeCustomerTable();
+    if (isSet("includeTechnicianInfoTop"))
+        writeTechnicianTable();
+}
+
+TemplateToHtmlWriter::OverallStatus TemplateToHtmlWriter::overallStatus() const
+{
+    static const OverallStatus statuses[] = {
+            {"pass", QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Pass"), QLatin1String("pass"),
+                    HtmlStreamWriter::StatusPass},
+            {"marginal", QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Marginal"), QLatin1String("marginal"),
+                    HtmlStreamWriter::StatusMarginal},
+            {"fail", QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Fail"), QLatin1String("fail"),
+                    HtmlStreamWriter::StatusFail},
+            {"notCompleted", QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Not Completed"),
+                    QLatin1String("not completed"), HtmlStreamWriter::StatusNone},
+    };
+    for (const OverallStatus& status : statuses) {
+        if (isSet(status.flag))
+            return status;
+    }
+    return {nullptr, nullptr, QLatin1String("unknown"), HtmlStreamWriter::StatusNone};
+}
+
+void TemplateToHtmlWriter::writeTestInformation()
+{
+    const auto writeRow = [this](const QString& label, const QString& text, int status) {
+        m_html->startRow();
+        m_html->writeHeaderCell(label, HtmlStreamWriter::AlignRight);
+        m_html->writeCell(text, status);
+        m_html->endRow();
+    };
+    const OverallStatus status = overallStatus();
+
+    m_html->startTable(tr("Test Information"), {tr("Value")}, true, -1);
+    writeRow(tr("Title"), title(), HtmlStreamWriter::StatusNone);
+    writeRow(tr("Timestamp"), textDate() + QLatin1Char(' ') + System::getInstance().getCurrentTime(),
+            HtmlStreamWriter::StatusNone);
+    if (status.text)
+        writeRow(tr("Overall Status"), tr(status.text), status.icon);
+    m_html->writeComment(QStringLiteral("report_status=%1").arg(status.word));
+    m_html->endTable();
+}
+
+void TemplateToHtmlWriter::writeJobTable()
+{
+    writeLabelledTexts(*m_html, tr("Job Manager Information"), tr("Value"), 0, instrument::jobFields());
+}
+
+void TemplateToHtmlWriter::writeCustomerTable()
+{
+    writeLabelledTexts(
+            *m_html, tr("Customer Information"), tr("Value"), 0, withoutDefaults(instrument::customerFields()));
+}
+
+void TemplateToHtmlWriter::writeTechnicianTable()
+{
+    writeLabelledTexts(
+            *m_html, tr("Technician Information"), tr("Value"), 0, withoutDefaults(instrument::technicianFields()));
+}
+
+void TemplateToHtmlWriter::writeSystemInformation()
+{
+    const bool showsSoftware = isSet("showSoftwareRevs");
+    const bool showsHardware = isSet("showHardwareRevs");
+    if (!showsSoftware && !showsHardware)
+        return;
+    m_html->writeHeading(1, tr("Solvant System Information"));
+    if (showsSoftware)
+        writeSoftwareTable();
+    if (showsHardware)
+        writeHardwareTable();
+}
+
+void TemplateToHtmlWriter::writeSoftwareTable()
+{
+    writeLabelledTexts(*m_html, tr("Software Revisions"), tr("Version"), 0, instrument::softwareRevisions());
+}
+
+void TemplateToHtmlWriter::writeHardwareTable()
+{
+    const QVector<QStringList> assemblies = instrument::hardwareAssemblies();
+    if (assemblies.isEmpty())
+        return;
+    m_html->startTable(tr("Hardware"), {tr("Assembly"), tr("ID")}, false, 0);
+    for (const QStringList& parts : assemblies) {
+        m_html->startRow();
+        for (const QString& part : parts)
+            m_html->writeCell(part);
+        m_html->endRow();
+    }
+    m_html->endTable();
+}
+
+void TemplateToHtmlWriter::sectionsToHtml(const QJsonObject& node)
+{
+    ++m_depth;
+    NodeReader(node).forEachSection([this](const QJsonObject& section) { sectionToHtml(section); });
+    --m_depth;
+}
+
+void TemplateToHtmlWriter::sectionToHtml(const QJsonObject& object)
+{
+    const NodeReader section(object);
+    if (!section.isEnabled())
+        return;
+    const QString title = section.title();
+    if (!title.isEmpty())
+        m_html->writeHeading(m_depth, title);
+    const QStringList logEntries = section.logEntries();
+    for (const QString& entry : logEntries)
+        m_html->writeParagraph(entry);
+    writeConfigurationValues(section);
+    tablesToHtml(object);
+    sectionsToHtml(object);
+}
+
+void TemplateToHtmlWriter::writeConfigurationValues(const NodeReader& section)
+{
+    const QString module = section.text(keys::configModule);
+    if (module.isEmpty())
+        return;
+    const QString own = section.text(keys::service);
+    const QString service = own.isEmpty() ? NodeReader(m_document).text(keys::service) : own;
+    writeLabelledTexts(*m_html, tr("Configuration Values"), tr("Value"), m_depth,
+            instrument::configurationValues(service, module));
+}
+
+void TemplateToHtmlWriter::tablesToHtml(const QJsonObject& node)
+{
+    NodeReader(node).forEachTable([this](const QString& key, const QJsonObject& object) {
+        const TableReader table(object);
+        if (table.isPlot())
+            plotToHtml(table, childNumber(key));
+        else
+            tableToHtml(table);
+    });
+}
+
+void TemplateToHtmlWriter::tableToHtml(const TableReader& table)
+{
+    QVariantMap attributes;
+    const QVector<NodeReader::Attribute> pairs = table.attributes();
+    for (const NodeReader::Attribute& pair : pairs)
+        attributes.insert(pair.name, pair.value);
+
+    const bool hasLabels = table.usesRowLabels();
+    m_html->startTable(table.title(), table.columnLabels(), hasLabels, m_depth, attributes);
+    table.forEachRow([&](const QString& key, const QJsonObject& row) {
+        if (key.startsWith(keys::rowFamily))
+            rowToHtml(table, hasLabels, row);
+    });
+    m_html->endTable();
+}
+
+void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, const QJsonObject& row)
+{
+    m_html->startRow();
+    if (hasLabel)
+        m_html->writeHeaderCell(uiutils::shownTextOf(row.value(keys::label)), HtmlStreamWriter::AlignRight);
+
+    int missing = 0;
+    for (int column = 0; column < table.columnCount(); ++column) {
+        const QJsonValue value = row.value(table.cellKey(column));
+        if (!value.isObject()) {
+            ++missing;
+            continue;
+        }
+        m_html->writeEmptyCells(missing);
+        missing = 0;
+        const QJsonObject cell = value.toObject();
+        m_html->writeCell(uiutils::shownTextOf(cell.value(keys::label)),
+                uiutils::textOf(cell.value(keys::statusAttribute)).toInt(),
+                uiutils::textOf(cell.value(keys::alignAttribute)).toInt());
+    }
+    m_html->writeEmptyCells(missing);
+    m_html->endRow();
+}
+
+void TemplateToHtmlWriter::plotToHtml(const TableReader& table, int number)
+{
+    PlotImage plot;
+    plot.setService(table.text(keys::service));
+    plot.setCurveBackground(attribute(QStringLiteral("plot_curve_bg")).toString());
+    plot.setSize(attribute(QStringLiteral("plot_width")).toInt(), attribute(QStringLiteral("plot_height")).toInt());
+    plot.write(uiutils::paths::plotImage(number));
+    m_html->writeImageParagraph(plot.getData());
+}

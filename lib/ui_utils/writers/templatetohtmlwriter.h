@@ -1,0 +1,76 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+#include "writers/reportitem.h"
+
+#include <QJsonObject>
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+
+class HtmlStreamWriter;
+class ReportTemplate;
+class Style;
+
+namespace uiutils {
+class NodeReader;
+class TableReader;
+} // namespace uiutils
+
+/// Turns a report document into one stand-alone HTML page, and in the same pass collects its tables as report items
+/// for the page renderer.
+///
+/// The writer never fails: what is missing reads as empty. Set the attributes first, then call getHtml().
+class UIUTILS_EXPORT TemplateToHtmlWriter
+{
+public:
+    /// Keeps the document as it is now. The tables are appended to `items`, whose owner deletes them; null collects
+    /// none.
+    explicit TemplateToHtmlWriter(
+            const ReportTemplate& document, QList<ReportItem*>* items = &uiutils::sharedReportItems());
+    virtual ~TemplateToHtmlWriter();
+    Q_DISABLE_COPY_MOVE(TemplateToHtmlWriter)
+
+    /// Sets a switch of style or content, in place of the writer's default; docs/html-report.md lists them.
+    void setAttribute(const QString& name, const QVariant& value);
+    /// A switch's value; invalid when it is neither set nor has a default.
+    QVariant attribute(const QString& name) const;
+
+    /// Attributes of the page's body element.
+    void setBodyAttributes(const QVariantMap& attributes) { m_bodyAttributes = attributes; }
+
+    /// The page. The first call writes it; later calls return the same text.
+    QString getHtml();
+
+private:
+    struct OverallStatus;
+
+    QString title() const;
+    QList<Style*> styles() const;
+    bool isSet(const char* name) const;
+    OverallStatus overallStatus() const;
+
+    void writeBodyStart();
+    void writeTestInformation();
+    void writeJobTable();
+    void writeCustomerTable();
+    void writeTechnicianTable();
+    void writeSystemInformation();
+    void writeSoftwareTable();
+    void writeHardwareTable();
+
+    void sectionsToHtml(const QJsonObject& node);
+    void sectionToHtml(const QJsonObject& section);
+    void tablesToHtml(const QJsonObject& node);
+    void tableToHtml(const uiutils::TableReader& table);
+    void rowToHtml(const uiutils::TableReader& table, bool hasLabel, const QJsonObject& row);
+    void plotToHtml(const uiutils::TableReader& table, int number);
+    void writeConfigurationValues(const uiutils::NodeReader& section);
+
+    QJsonObject m_document;
+    QVariantMap m_bodyAttributes;
+    std::unique_ptr<HtmlStreamWriter> m_html;
+    int m_depth = 0;
+    bool m_isWritten = false;
+};

@@ -1,0 +1,25 @@
+#include <kiv/kivbackend.h>
+
+namespace {
+
+KIVBackend* s_current = nullptr;
+
+} // namespace
+
+KIVBackend::KIVBackend() = default;
+
+KIVBackend::~KIVBackend()
+{
+    if (s_current == this)
+        s_current = nullptr;
+}
+
+void KIVBackend::setCurrent(KIVBackend* backend)
+{
+    s_current = backend;
+}
+
+KIVBackend* KIVBackend::current()
+{
+    return s_current;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <kiv/kiv_export.h>
+
+#include <QString>
+
+class KIVClientInterface;
+class QObject;
+
+/// What stands behind the static entry points of this library.
+///
+/// A host registers one back end before it creates its first page and keeps it until the last page is gone. Without
+/// one every entry point gives its neutral answer (null, the local clock).
+class KIV_EXPORT KIVBackend
+{
+public:
+    KIVBackend();
+    /// Unregisters the back end when it is the current one.
+    virtual ~KIVBackend();
+    Q_DISABLE_COPY_MOVE(KIVBackend)
+
+    /// Makes `backend` the one that the entry points ask; null for none. The caller keeps ownership.
+    static void setCurrent(KIVBackend* backend);
+    static KIVBackend* current();
+
+    /// See KIVClientInterface::getBaseMgrClient().
+    virtual KIVClientInterface* baseManagerClient() = 0;
+
+    /// See KIVClientInterface::getSessionBusClient().
+    virtual KIVClientInterface* serviceClient(const QString& service, QObject* parent) = 0;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "servicefile_p.h"
+
+#include <kiv/kivclientitem.h>
+
+namespace kiv::embedded {
+
+/// An item that lives in this process.
+class EmbeddedItem final : public KIVClientItem
+{
+    Q_OBJECT
+
+public:
+    EmbeddedItem(ItemDescription description, QObject* parent);
+
+    QString getId() const override { return m_description.id; }
+    QString getLabel() const override { return m_description.label; }
+    QVariant getValue() const override { return m_description.value; }
+    QString getValueString(bool showUnits = true) const override;
+    QString getUnitString() const override { return m_description.unit; }
+    QVariant getAttribute(const QString& name) const override { return m_description.attributes.value(name); }
+
+    /// Takes the value and tells the clients when it differs.
+    void setValue(const QVariant& value);
+
+private:
+    ItemDescription m_description;
+};
+
+} // namespace kiv::embedded

@@ -1,0 +1,185 @@
+#include "core/durablefile.h"
+#include "core/paths.h"
+#include "core/xmltext_p.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <unistd.h>
+
+using namespace uiutils;
+
+namespace {
+
+QByteArray contentsOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
+}
+
+QStringList namesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot | QDir::System, QDir::Name);
+}
+
+/// Lets no file of this process grow past `bytes` while it lives: every write beyond fails like on a full disk.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        ::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit {bytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+    Q_DISABLE_COPY_MOVE(FileSizeLimit)
+
+private:
+    rlimit m_before {};
+};
+
+} // namespace
+
+class CoreTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pathsOnDisk_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("moved");
+        QTest::newRow("report") << "/cust/public/reports/a.html" << true;
+        QTest::newRow("folder itself") << "/cust" << true;
+        QTest::newRow("stick") << "/mnt/usb/a.html" << true;
+        QTest::newRow("stick itself") << "/mnt/usb" << true;
+        QTest::newRow("base") << "/base/bin/viewer" << true;
+        QTest::newRow("plot") << "/tmp/rep_plot_3.png" << true;
+        QTest::newRow("same beginning") << "/customer/a" << false;
+        QTest::newRow("other mount") << "/mnt/usb2/a" << false;
+        QTest::newRow("other temporary file") << "/tmp/a.png" << false;
+        QTest::newRow("relative") << "cust/a" << false;
+        QTest::newRow("empty") << "" << false;
+    }
+    void pathsOnDisk()
+    {
+        QFETCH(QString, path);
+        QFETCH(bool, moved);
+        const QByteArray before = qgetenv("UIUTILS_ROOT");
+        qputenv("UIUTILS_ROOT", "/root of mine");
+        QCOMPARE(onDisk(path), moved ? QLatin1String("/root of mine") + path : path);
+        qputenv("UIUTILS_ROOT", "");
+        QCOMPARE(onDisk(path), path);
+        qputenv("UIUTILS_ROOT", before);
+    }
+
+    void durableWriteReplacesWhole()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("report.html"));
+        QString error;
+        QVERIFY2(writeFileDurably(path, QByteArray(100'000, 'a'), &error), qPrintable(error));
+        QVERIFY2(writeFileDurably(path, QByteArray(), &error), qPrintable(error));
+        QCOMPARE(contentsOf(path), QByteArray());
+        QVERIFY2(writeFileDurably(path, QByteArray("short"), &error), qPrintable(error));
+        QCOMPARE(contentsOf(path), QByteArray("short"));
+        QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("report.html")});
+    }
+
+    void durableWriteTakesTheLongestName()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QString(255, QLatin1Char('n')));
+        QVERIFY(writeFileDurably(path, QByteArray("x")));
+        QCOMPARE(contentsOf(path), QByteArray("x"));
+    }
+
+    void durableWriteDoesNotFollowAPlantedLink()
+    {
+        QTemporaryDir dir;
+        const QString victim = dir.filePath(QStringLiteral("victim"));
+        const QString link = dir.filePath(QStringLiteral("rep_plot_0.png"));
+        QVERIFY(writeFileDurably(victim, QByteArray("untouched")));
+        QVERIFY(QFile::link(victim, link));
+        QVERIFY(writeFileDurably(link, QByteArray("new")));
+        QCOMPARE(contentsOf(victim), QByteArray("untouched"));
+        QCOMPARE(contentsOf(link), QByteArray("new"));
+        QVERIFY(!QFileInfo(link).isSymLink());
+    }
+
+    void failedWriteLeavesTheOldFile_data()
+    {
+        QTest::addColumn<int>("size");
+        QTest::newRow("smaller than any buffer") << 100;
+        QTest::newRow("larger than any buffer") << 1'000'000;
+    }
+    void failedWriteLeavesTheOldFile()
+    {
+        QFETCH(int, size);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("report.html"));
+        QVERIFY(writeFileDurably(path, QByteArray("the old report")));
+
+        QString error;
+        {
+            const FileSizeLimit full(10);
+            QVERIFY(!writeFileDurably(path, QByteArray(size, 'n'), &error));
+        }
+        QVERIFY2(error.contains(path), qPrintable(error));
+        QCOMPARE(contentsOf(path), QByteArray("the old report"));
+        QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("report.html")});
+    }
+
+    void targetsThatCannotBeWritten()
+    {
+        QTemporaryDir dir;
+        QString error;
+        const QString inNoFolder = dir.filePath(QStringLiteral("missing/report.html"));
+        QVERIFY(!writeFileDurably(inNoFolder, QByteArray("x"), &error));
+        QVERIFY2(error.contains(inNoFolder), qPrintable(error));
+
+        const QString folder = dir.filePath(QStringLiteral("folder"));
+        QVERIFY(QDir().mkdir(folder));
+        QVERIFY(!writeFileDurably(folder, QByteArray("x"), &error));
+        QVERIFY2(error.contains(folder), qPrintable(error));
+        QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("folder")});
+    }
+
+    void markupText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("clean");
+        const QChar high(0xd83d);
+        const QChar low(0xde00);
+        const QString pair = QString(high) + low;
+        const QString replaced(QChar(QChar::ReplacementCharacter));
+        QTest::newRow("plain") << QStringLiteral("a\tb\nc\rd <&>\"'") << QStringLiteral("a\tb\nc\rd <&>\"'");
+        QTest::newRow("scripts") << QStringLiteral("Ελλάδα 中文 العربية") << QStringLiteral("Ελλάδα 中文 العربية");
+        QTest::newRow("controls") << QString(QLatin1String("a\0b\x01\x1f\x7f", 6)) + QChar(0x85) + QLatin1Char('c')
+                                  << QStringLiteral("abc");
+        QTest::newRow("pair") << QString(QLatin1Char('x') + pair) << QString(QLatin1Char('x') + pair);
+        QTest::newRow("high alone") << QString(QString(high) + QLatin1Char('x')) << QString(replaced + QLatin1Char('x'));
+        QTest::newRow("high at the end") << QString(QLatin1Char('x') + QString(high))
+                                         << QString(QLatin1Char('x') + replaced);
+        QTest::newRow("low before high") << QString(QString(low) + high) << QString(replaced + replaced);
+        QTest::newRow("high before a pair") << QString(QString(high) + pair) << QString(replaced + pair);
+        QTest::newRow("non-characters") << QString(QString(QChar(0xfffe)) + QChar(0xffff) + QChar(0xfffd))
+                                        << QString(replaced + replaced + replaced);
+        QTest::newRow("private use") << QString(QChar(0xe000)) << QString(QChar(0xe000));
+    }
+    void markupText()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, clean);
+        QCOMPARE(uiutils::markupText(text), clean);
+    }
+};
+
+QTEST_GUILESS_MAIN(CoreTest)
+#include "tst_core.moc"

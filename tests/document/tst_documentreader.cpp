@@ -1,0 +1,108 @@
+#include "document/documentreader_p.h"
+
+#include <QJsonDocument>
+#include <QtTest>
+
+using namespace uiutils;
+
+namespace {
+
+QJsonObject json(const QByteArray& text)
+{
+    return QJsonDocument::fromJson(text).object();
+}
+
+} // namespace
+
+class DocumentReaderTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void childrenComeInStringOrder()
+    {
+        const QJsonObject node = json(R"({
+            "table_2": {"tag": "2"}, "table_10": {"tag": "10"}, "table_1": {"tag": "1"}, "my_table_": {"tag": "my"},
+            "table_3": "no object", "attr_table_": "neither", "section_1": {"tag": "s1"}, "section_0": {"tag": "s0"}
+        })");
+        QStringList seen;
+        NodeReader(node).forEachTable([&](const QString& key, const QJsonObject& table) {
+            seen += key + "=" + NodeReader(table).tag();
+        });
+        QCOMPARE(seen, (QStringList {"my_table_=my", "table_1=1", "table_10=10", "table_2=2"}));
+        seen.clear();
+        NodeReader(node).forEachSection([&](const QJsonObject& section) { seen += NodeReader(section).tag(); });
+        QCOMPARE(seen, (QStringList {"s0", "s1"}));
+    }
+
+    void attributesAndLogEntries()
+    {
+        const NodeReader node(json(R"({
+            "attr_b": "2", "attr_a": 1.5, "attr_": "no name", "attribute": "none",
+            "log_1": "second", "log_0": "first", "log_2": "EMPTY", "catalog_1": "none"
+        })"));
+        const QVector<NodeReader::Attribute> attributes = node.attributes();
+        QCOMPARE(attributes.size(), 3);
+        QCOMPARE(attributes.at(0).name, QString());
+        QCOMPARE(attributes.at(1).name, QString("a"));
+        QCOMPARE(attributes.at(1).value, QString("1.5"));
+        QCOMPARE(attributes.at(2).value, QString("2"));
+        QCOMPARE(node.logEntries(), (QStringList {"first", "second", ""}));
+    }
+
+    void enabled_data()
+    {
+        QTest::addColumn<QByteArray>("node");
+        QTest::addColumn<bool>("enabled");
+        QTest::newRow("absent") << QByteArray("{}") << true;
+        QTest::newRow("true") << QByteArray(R"({"enabled": true})") << true;
+        QTest::newRow("false") << QByteArray(R"({"enabled": false})") << false;
+        QTest::newRow("text false") << QByteArray(R"({"enabled": "false"})") << false;
+        QTest::newRow("text 0") << QByteArray(R"({"enabled": "0"})") << false;
+        QTest::newRow("empty text") << QByteArray(R"({"enabled": ""})") << true;
+        QTest::newRow("other text") << QByteArray(R"({"enabled": "no"})") << true;
+        QTest::newRow("null") << QByteArray(R"({"enabled": null})") << true;
+    }
+    void enabled()
+    {
+        QFETCH(QByteArray, node);
+        QFETCH(bool, enabled);
+        QCOMPARE(NodeReader(json(node)).isEnabled(), enabled);
+    }
+
+    void columnCount_data()
+    {
+        QTest::addColumn<QByteArray>("count");
+        QTest::addColumn<int>("columns");
+        QTest::newRow("number") << QByteArray("3") << 3;
+        QTest::newRow("text as the builder sets it") << QByteArray("\"3\"") << 3;
+        QTest::newRow("zero") << QByteArray("0") << 0;
+        QTest::newRow("negative") << QByteArray("-4") << 0;
+        QTest::newRow("2^31") << QByteArray("2147483648") << TableReader::maximumColumns;
+        QTest::newRow("1e300") << QByteArray("1e300") << TableReader::maximumColumns;
+        QTest::newRow("word") << QByteArray("\"many\"") << 0;
+        QTest::newRow("object") << QByteArray("{}") << 0;
+    }
+    void columnCount()
+    {
+        QFETCH(QByteArray, count);
+        QFETCH(int, columns);
+        const TableReader table(json("{\"col_label_1\": \"B\", \"num_columns\": " + count + "}"));
+        QCOMPARE(table.columnCount(), columns);
+        QCOMPARE(table.columnLabels().size(), columns);
+        if (columns == 3)
+            QCOMPARE(table.columnLabels(), (QStringList {"", "B", ""}));
+    }
+
+    void rowLabels()
+    {
+        QVERIFY(!TableReader(json("{}")).usesRowLabels());
+        QVERIFY(TableReader(json(R"({"use_row_labels": true})")).usesRowLabels());
+        QVERIFY(TableReader(json(R"({"use_row_labels": "true"})")).usesRowLabels());
+        QVERIFY(!TableReader(json(R"({"use_row_labels": false})")).usesRowLabels());
+        QVERIFY(!TableReader(json(R"({"use_row_labels": "0"})")).usesRowLabels());
+    }
+};
+
+QTEST_GUILESS_MAIN(DocumentReaderTest)
+#include "tst_documentreader.moc"

@@ -1,0 +1,371 @@
+#include "document/reporttemplate.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+/// The document's rules in their plainest form, every count taken by walking the keys: what ReportTemplate has to
+/// agree with, however it keeps its counts.
+class PlainBuilder
+{
+public:
+    void beginReport(const QString& tag) { m_stack.append(QJsonObject {{"node_type", "report"}, {"tag", tag}}); }
+    void setKey(const QString& key, const QString& text)
+    {
+        if (!m_stack.isEmpty())
+            m_stack.last().insert(key, text);
+    }
+    void beginSection(const QString& tag, const QString& title)
+    {
+        if (!m_stack.isEmpty())
+            m_stack.append(QJsonObject {{"node_type", "section"}, {"tag", tag}, {"title", title}});
+    }
+    void beginTable(const QString& tag, const QString& title)
+    {
+        if (!m_stack.isEmpty())
+            m_stack.append(QJsonObject {{"node_type", "table"}, {"tag", tag}, {"title", title},
+                    {"use_row_labels", true}, {"col_label_0", "Value"}, {"num_columns", 1}});
+    }
+    void addRow(const QString& tag, const QString& label, const QString& text, const QVariantMap& attributes)
+    {
+        QJsonObject cell {{"label", text}, {"tag", tag}, {"title", label}};
+        for (auto it = attributes.cbegin(); it != attributes.cend(); ++it)
+            cell.insert("attr_" + it.key(), it.value().toString());
+        if (!m_stack.isEmpty() && m_stack.constLast().value("node_type") == "table")
+            insertChild("row_", QJsonObject {{"label", label}, {"cell_0", cell}});
+    }
+    void end(const QString& type)
+    {
+        if (m_stack.size() < 2 || m_stack.constLast().value("node_type") != type)
+            return;
+        const QJsonObject closed = m_stack.takeLast();
+        const QJsonValue parent = m_stack.constLast().value("node_type");
+        if (parent == "section" || parent == "report")
+            insertChild(type + "_", closed);
+    }
+    void endReport()
+    {
+        if (!m_stack.isEmpty())
+            root = m_stack.takeLast();
+    }
+
+    QJsonObject root;
+
+private:
+    void insertChild(const QString& family, const QJsonObject& child)
+    {
+        QJsonObject& parent = m_stack.last();
+        const QStringList keys = parent.keys();
+        const auto count = std::count_if(
+                keys.cbegin(), keys.cend(), [&](const QString& key) { return key.contains(family); });
+        parent.insert(family + QString::number(count), child);
+    }
+
+    QVector<QJsonObject> m_stack;
+};
+
+QJsonObject rowsOf(int count)
+{
+    ReportTemplate report;
+    report.beginReport("r");
+    report.beginTable("t", "Table");
+    for (int i = 0; i < count; ++i)
+        report.addRow("tag", "row", i, {});
+    report.endTable();
+    report.endReport();
+    return report.object().value("table_0").toObject();
+}
+
+QString writeFile(const QTemporaryDir& dir, const QByteArray& contents)
+{
+    QFile file(dir.filePath("document.json"));
+    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() ? file.fileName() : QString();
+}
+
+} // namespace
+
+class ReportTemplateTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void layout()
+    {
+        ReportTemplate report;
+        report.beginReport("otdr");
+        report.setKey("title", "Fiber 7");
+        report.addAttribute("unit", 3.5);
+        report.beginSection("events", "Events");
+        report.beginSection("inner", "Inner");
+        report.endSection();
+        report.beginTable("list", "List");
+        report.addRow("loss", "Loss", 0.25, {{"unit", "dB"}, {"status", 16}});
+        report.addRow("ok", "Fine", true, {});
+        report.endTable();
+        report.endSection();
+        report.endReport();
+
+        const QJsonObject expected = QJsonDocument::fromJson(R"({
+            "node_type": "report", "tag": "otdr", "title": "Fiber 7", "attr_unit": "3.5",
+            "section_0": {
+                "node_type": "section", "tag": "events", "title": "Events",
+                "section_0": { "node_type": "section", "tag": "inner", "title": "Inner" },
+                "table_0": {
+                    "node_type": "table", "tag": "list", "title": "List",
+                    "use_row_labels": true, "col_label_0": "Value", "num_columns": 1,
+                    "row_1": { "label": "Loss", "cell_0": { "label": "0.25", "tag": "loss", "title": "Loss",
+                        "attr_unit": "dB", "attr_status": "16" } },
+                    "row_2": { "label": "Fine", "cell_0": { "label": "true", "tag": "ok", "title": "Fine" } }
+                }
+            }
+        })").object();
+        QCOMPARE(report.object(), expected);
+        QCOMPARE(QJsonDocument::fromJson(report.toJson().toUtf8()).object(), expected);
+        QCOMPARE(report.getAttr("attr_unit"), QVariant("3.5"));
+        QVERIFY(!report.getAttr("unit").isValid());
+        QCOMPARE(report.getTag(), QString());
+    }
+
+    void keysThatContainAFamilysWordCount()
+    {
+        ReportTemplate report;
+        report.beginReport("r");
+        report.setKey("my_section_note", "counts");
+        report.beginSection("a", "A");
+        report.endSection();
+        report.beginTable("t", "T");
+        report.setKey("row_count", 5);
+        report.setKey("row_count", 6);
+        report.addAttribute("row_2", "counts too");
+        report.addRow("x", "first", 1, {});
+        report.addRow("x", "second", 2, {});
+        report.endTable();
+        report.endReport();
+
+        QVERIFY(report.object().contains("section_1"));
+        const QJsonObject table = report.object().value("table_0").toObject();
+        QCOMPARE(table.value("row_3").toObject().value("label").toString(), QString("first"));
+        QCOMPARE(table.value("row_4").toObject().value("label").toString(), QString("second"));
+        QCOMPARE(table.value("row_count").toString(), QString("6"));
+        QVERIFY(!table.contains("row_2"));
+    }
+
+    void rowNumbersHaveNoGaps()
+    {
+        for (const int count : {0, 1, 9, 10, 12, 101, 1234}) {
+            const QJsonObject table = rowsOf(count);
+            QCOMPARE(table.size(), 6 + count);
+            for (int number = 1; number <= count; ++number) {
+                const QJsonObject cell
+                        = table.value(QString("row_%1").arg(number)).toObject().value("cell_0").toObject();
+                QCOMPARE(cell.value("label").toString(), QString::number(number - 1));
+            }
+        }
+    }
+
+    /// Any sequence of calls, sensible or not, gives what the plain rules give.
+    void agreesWithThePlainRules_data()
+    {
+        QTest::addColumn<quint32>("seed");
+        for (quint32 seed = 1; seed <= 60; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
+    void agreesWithThePlainRules()
+    {
+        QFETCH(quint32, seed);
+        QRandomGenerator random(seed);
+        const QStringList keys {"title", "row_1", "row_2", "row_5", "row_10", "row_02", "row_x", "use_row_labels",
+                "section_0", "section_1", "x_section_", "table_0", "table_2", "a_table_", "node_type", "tag", "row_-1"};
+        const QStringList texts {"x", "report", "section", "table", ""};
+
+        ReportTemplate report;
+        PlainBuilder plain;
+        for (int step = 0; step < 400; ++step) {
+            const QString key = keys.at(random.bounded(keys.size()));
+            const QString text = texts.at(random.bounded(texts.size()));
+            switch (random.bounded(13)) {
+            case 0:
+                report.beginReport(text);
+                plain.beginReport(text);
+                break;
+            case 1:
+                report.setKey(key, text);
+                plain.setKey(key, text);
+                break;
+            case 2:
+                report.addAttribute(key, text);
+                plain.setKey("attr_" + key, text);
+                break;
+            case 3:
+                report.beginSection(text, key);
+                plain.beginSection(text, key);
+                break;
+            case 4:
+                report.beginTable(text, key);
+                plain.beginTable(text, key);
+                break;
+            case 5:
+                report.endTable();
+                plain.end("table");
+                break;
+            case 6:
+                report.endSection();
+                plain.end("section");
+                break;
+            case 7:
+                if (random.bounded(4) == 0) {
+                    report.endReport();
+                    plain.endReport();
+                }
+                break;
+            default:
+                report.addRow(text, key, step, {{key, text}});
+                plain.addRow(text, key, QString::number(step), {{key, text}});
+            }
+            QCOMPARE(report.object(), plain.root);
+        }
+        for (int open = 0; open < 400; ++open) {
+            report.endTable();
+            plain.end("table");
+            report.endSection();
+            plain.end("section");
+            report.endReport();
+            plain.endReport();
+            QCOMPARE(report.object(), plain.root);
+        }
+    }
+
+    void nothingHappensOnAnEmptyStack()
+    {
+        ReportTemplate report;
+        QCOMPARE(report.toJson(), QString(QJsonDocument().toJson()));
+        report.setKey("title", "x");
+        report.addAttribute("a", "x");
+        report.beginSection("s", "S");
+        report.beginTable("t", "T");
+        report.addRow("x", "X", 1, {});
+        report.endTable();
+        report.endSection();
+        report.endReport();
+        QVERIFY(report.object().isEmpty());
+    }
+
+    void theOnlyOpenNodeStaysOpen()
+    {
+        ReportTemplate report;
+        report.beginReport("r");
+        report.setKey("node_type", "section");
+        report.setKey("title", "kept");
+        report.endSection();
+        report.endReport();
+        QCOMPARE(report.getAttr("title"), QVariant("kept"));
+    }
+
+    void endReportTakesWhateverIsOpen()
+    {
+        ReportTemplate report;
+        report.beginReport("r");
+        report.beginTable("t", "T");
+        report.addRow("x", "X", 1, {});
+        report.endReport();
+        QCOMPARE(report.getAttr("node_type"), QVariant("table"));
+        QVERIFY(report.object().contains("row_1"));
+        report.endReport();
+        QCOMPARE(report.getAttr("tag"), QVariant("r"));
+    }
+
+    void builtDocumentsReadBack()
+    {
+        QTemporaryDir dir;
+        ReportTemplate built;
+        built.beginReport("otdr");
+        built.setKey("title", QString::fromUtf8("Ελλάδα \"<&>\" 中文 \\ \n"));
+        built.endReport();
+
+        ReportTemplate read;
+        read.readFile(writeFile(dir, built.toJson().toUtf8()));
+        QVERIFY2(!read.hasError(), qPrintable(read.errorString()));
+        QCOMPARE(read.object(), built.object());
+        QCOMPARE(read.getTag(), QString("otdr"));
+        QCOMPARE(read.getPath(), dir.filePath("document.json"));
+    }
+
+    void damagedFiles_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::addColumn<QString>("place");
+        QTest::newRow("empty") << QByteArray() << "1:1";
+        QTest::newRow("truncated") << QByteArray("{\"tag\": \"otdr\",\n  \"title\": \"Fi") << "2:";
+        QTest::newRow("no object") << QByteArray("[1, 2]") << "1:1";
+        QTest::newRow("not UTF-8") << QByteArray("{\n\"tag\": \"\xff\xfe\"}") << "2:";
+        QTest::newRow("garbage behind it") << QByteArray("{}\n\n x") << "3:";
+        QTest::newRow("too deep") << QByteArray(100'000, '[') << "1:";
+        QTest::newRow("NUL") << QByteArray("{\"tag\": \"a\0b\"", 12) << "1:";
+    }
+    void damagedFiles()
+    {
+        QFETCH(QByteArray, contents);
+        QFETCH(QString, place);
+        QTemporaryDir dir;
+        const QString path = writeFile(dir, contents);
+
+        ReportTemplate report;
+        report.readFile(writeFile(dir, "{\"tag\": \"old\"}"));
+        QCOMPARE(report.getTag(), QString("old"));
+        report.readFile(writeFile(dir, contents));
+        QVERIFY(report.hasError());
+        QVERIFY2(report.errorString().startsWith(path + ":" + place), qPrintable(report.errorString()));
+        QVERIFY(report.object().isEmpty());
+        QCOMPARE(report.getTag(), QString());
+
+        report.beginReport("new");
+        report.endReport();
+        QVERIFY(!report.hasError());
+    }
+
+    void filesThatCannotBeRead()
+    {
+        QTemporaryDir dir;
+        ReportTemplate report;
+        report.readFile(dir.filePath("missing.json"));
+        QVERIFY(report.hasError());
+        QVERIFY2(report.errorString().contains("missing.json"), qPrintable(report.errorString()));
+
+        report.readFile(dir.path());
+        QVERIFY(report.hasError());
+        report.readFile("/dev/zero");
+        QVERIFY(report.hasError());
+
+        QFile large(dir.filePath("large.json"));
+        QVERIFY(large.open(QIODevice::WriteOnly));
+        QVERIFY(large.resize(PlovJsonDocument::maximumFileSize + 1));
+        report.readFile(large.fileName());
+        QVERIFY(report.hasError());
+        QVERIFY2(report.errorString().contains("256"), qPrintable(report.errorString()));
+    }
+
+    /// What the JSON parser takes at the most is held, written and read again.
+    void deepestDocument()
+    {
+        QTemporaryDir dir;
+        ReportTemplate report;
+        report.beginReport("deep");
+        for (int i = 0; i < 1000; ++i)
+            report.beginSection("s", "S");
+        for (int i = 0; i < 1000; ++i)
+            report.endSection();
+        report.endReport();
+        ReportTemplate read;
+        read.readFile(writeFile(dir, report.toJson().toUtf8()));
+        QVERIFY2(!read.hasError(), qPrintable(read.errorString()));
+        QCOMPARE(read.object(), report.object());
+    }
+};
+
+QTEST_GUILESS_MAIN(ReportTemplateTest)
+#include "tst_reporttemplate.moc"
