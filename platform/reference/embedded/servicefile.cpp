@@ -10,6 +10,8 @@
 #include <QJsonDocument>
 #include <QSet>
 
+#include <cmath>
+
 // Resources of a library are only there once somebody asked for them.
 static void initSchemas()
 {
@@ -55,7 +57,8 @@ ItemDescription itemDescription(const QJsonObject& object)
     return item;
 }
 
-/// What the schema cannot say: an id stands once, and the mark of an array in it agrees with the type.
+/// What the schema cannot say: an id stands once, the mark of an array in it agrees with the type, and a number of
+/// 32 bits without sign, too large for the validator's integers, is whole.
 QString itemProblem(const QJsonObject& object, const QSet<QString>& knownIds)
 {
     const QString id = object.value(QLatin1String("id")).toString();
@@ -69,6 +72,9 @@ QString itemProblem(const QJsonObject& object, const QSet<QString>& knownIds)
             return QCoreApplication::translate("ServiceFile", "the type %1 and the id %2 disagree on whether it is an array")
                     .arg(type, id);
     }
+    const double number = object.value(QLatin1String("value")).toDouble();
+    if (type == QLatin1String("uint") && number != std::floor(number))
+        return QCoreApplication::translate("ServiceFile", "the value of %1 is no whole number").arg(id);
     return QString();
 }
 

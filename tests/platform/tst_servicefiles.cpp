@@ -1,0 +1,125 @@
+#include <embedded/embeddedbackend.h>
+#include <embedded/embeddedservice.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using kiv::embedded::EmbeddedBackend;
+
+namespace {
+
+bool writeFile(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
+}
+
+QByteArray oneItem(const QByteArray& item)
+{
+    return "{\"service\": \"s\", \"items\": [" + item + "]}";
+}
+
+} // namespace
+
+class ServiceFilesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// The files that ship, and the ones that the tests use, are the schema's first readers.
+    void shippedFilesLoad_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QStringList>("services");
+        QTest::newRow("shipped") << UIUTILS_SOURCE_DIR "/platform/reference/services"
+                                 << QStringList {"basemgr", "loopback"};
+        QTest::newRow("of the tests") << UIUTILS_TEST_DATA_DIR "/services" << QStringList {"basemgr", "kinds"};
+    }
+    void shippedFilesLoad()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QStringList, services);
+        EmbeddedBackend backend;
+        const QStringList problems = backend.loadFolders({folder});
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.join("\n")));
+        QCOMPARE(backend.serviceNames(), services);
+        for (const QString& service : services)
+            QVERIFY(!backend.service(service)->itemIds().isEmpty());
+    }
+
+    void refusedFiles_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::addColumn<QString>("place");
+        QTest::newRow("empty") << QByteArray() << ":1:1: ";
+        QTest::newRow("syntax") << QByteArray("{\n  \"service\": \"s\",\n  \"items\": [,]\n}") << ":3:14: ";
+        QTest::newRow("root") << QByteArray("[]") << ":1:1: ";
+        QTest::newRow("no service name") << QByteArray("{\"items\": []}") << ": /: ";
+        QTest::newRow("items of the wrong kind") << QByteArray("{\"service\": \"s\", \"items\": {}}") << ": /items: ";
+        QTest::newRow("unknown key") << QByteArray("{\"service\": \"s\", \"items\": [], \"itmes\": []}") << ": /";
+        QTest::newRow("no id") << oneItem("{\"type\": \"bool\"}") << ": /items/0: ";
+        QTest::newRow("unknown type") << oneItem("{\"id\": \":config:a:\", \"type\": \"float\"}") << ": /items/0/type: ";
+        QTest::newRow("value of another type")
+                << oneItem("{\"id\": \":config:a:\", \"type\": \"bool\"},"
+                           "{\"id\": \":config:b:\", \"type\": \"double\", \"value\": \"1\"}")
+                << ": /items/1/value: ";
+        QTest::newRow("number beyond its type")
+                << oneItem("{\"id\": \":config:a:\", \"type\": \"int\", \"value\": 2147483648}") << ": /items/0/value: ";
+        QTest::newRow("element of another type")
+                << oneItem("{\"id\": \":config:a:stringARRAY:\", \"type\": \"stringARRAY\", \"value\": [\"x\", 1]}")
+                << ": /items/0/value/1: ";
+        QTest::newRow("fraction") << oneItem("{\"id\": \":config:a:\", \"type\": \"uint\", \"value\": 1.5}")
+                                  << ": /items/0: ";
+        QTest::newRow("category") << oneItem("{\"id\": \":setting:a:\", \"type\": \"bool\"}") << ": /items/0/id: ";
+        QTest::newRow("no closing colon") << oneItem("{\"id\": \":config:a\", \"type\": \"bool\"}") << ": /items/0/id: ";
+        QTest::newRow("huge id") << oneItem("{\"id\": \":config:" + QByteArray(200'000, 'a') + ":\", \"type\": \"bool\"}")
+                                 << ": /items/0/id: ";
+        QTest::newRow("array mark without the type")
+                << oneItem("{\"id\": \":config:a:stringARRAY:\", \"type\": \"bool\"}") << ": /items/0: ";
+        QTest::newRow("type without the array mark")
+                << oneItem("{\"id\": \":config:a:\", \"type\": \"doubleARRAY\"}") << ": /items/0: ";
+        QTest::newRow("id twice") << oneItem("{\"id\": \":config:a:\", \"type\": \"bool\"},"
+                                             "{\"id\": \":config:a:\", \"type\": \"bool\"}")
+                                  << ": /items/1: ";
+        QTest::newRow("deep") << QByteArray(3000, '[') << ":1:";
+    }
+    void refusedFiles()
+    {
+        QFETCH(QByteArray, contents);
+        QFETCH(QString, place);
+        QTemporaryDir dir;
+        const QString path = dir.filePath("bad.service.json");
+        QVERIFY(writeFile(path, contents));
+        QVERIFY(writeFile(dir.filePath("good.service.json"), "{\"service\": \"good\", \"items\": []}"));
+
+        EmbeddedBackend backend;
+        const QStringList problems = backend.loadFolders({dir.path()});
+        QCOMPARE(problems.size(), 1);
+        QVERIFY2(problems.first().startsWith(path + place), qPrintable(problems.first()));
+        QVERIFY(problems.first().size() > path.size() + place.size());
+        QCOMPARE(backend.serviceNames(), QStringList {"good"});
+    }
+
+    void folders()
+    {
+        QTemporaryDir dir;
+        QVERIFY(writeFile(dir.filePath("a.service.json"), "{\"service\": \"same\", \"items\": []}"));
+        QVERIFY(writeFile(dir.filePath("b.service.json"), "{\"service\": \"same\", \"items\": []}"));
+        QVERIFY(writeFile(dir.filePath("other.json"), "not looked at"));
+        EmbeddedBackend backend;
+        const QStringList problems = backend.loadFolders({dir.filePath("missing"), dir.path()});
+        QCOMPARE(problems.size(), 2);
+        QVERIFY2(problems.at(0).startsWith(dir.filePath("missing")), qPrintable(problems.at(0)));
+        QVERIFY2(problems.at(1).startsWith(dir.filePath("b.service.json")) && problems.at(1).contains("a.service.json"),
+                qPrintable(problems.at(1)));
+
+        qputenv("KIV_SERVICES", "/one::/two");
+        QCOMPARE(EmbeddedBackend::foldersFromEnvironment(), (QStringList {"/one", "/two"}));
+        qputenv("KIV_SERVICES", "");
+        QCOMPARE(EmbeddedBackend::foldersFromEnvironment(), QStringList());
+    }
+};
+
+QTEST_GUILESS_MAIN(ServiceFilesTest)
+#include "tst_servicefiles.moc"
