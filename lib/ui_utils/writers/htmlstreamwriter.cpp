@@ -189,8 +189,9 @@ void HtmlStreamWriter::startTable(const QString& title, const QStringList& colum
     writeAttribute(QStringLiteral("cellpadding"), QString::number(setting("cellpadding", 5).toInt()));
     writeAttribute(QStringLiteral("rules"), markupText(setting("rules", QStringLiteral("rows")).toString()));
     writeAttribute(QStringLiteral("frame"), markupText(setting("frame", QStringLiteral("box")).toString()));
+    m_tableHasRows = false;
     if (!title.isEmpty()) {
-        writeStartElement(words().tr);
+        startTableRow();
         writeStartElement(words().th);
         writeAttribute(QStringLiteral("colspan"), QString::number(qMax(1, m_columnCount)));
         writeTextElement(QStringLiteral("i"), markupText(title));
@@ -208,12 +209,18 @@ void HtmlStreamWriter::writeHeaderRow(const QStringList& columnLabels, bool hasL
             columnLabels.cbegin(), columnLabels.cend(), [](const QString& label) { return !label.isEmpty(); });
     if (!hasText)
         return;
-    writeStartElement(words().tr);
+    startTableRow();
     if (hasLabelColumn)
         writeTextElement(words().th, QString());
     for (const QString& label : columnLabels)
         writeTextElement(words().th, markupText(label));
     writeEndElement();
+}
+
+void HtmlStreamWriter::startTableRow()
+{
+    m_tableHasRows = true;
+    writeStartElement(words().tr);
 }
 
 void HtmlStreamWriter::startRow()
@@ -229,7 +236,7 @@ bool HtmlStreamWriter::beginCell(int columns)
     if (!m_rowOpen || m_currentColumn >= m_columnCount)
         return false;
     if (m_currentColumn == 0)
-        writeStartElement(words().tr);
+        startTableRow();
     m_currentColumn += columns;
     writeStartElement(words().td);
     return true;
@@ -284,6 +291,9 @@ void HtmlStreamWriter::endRow()
 void HtmlStreamWriter::endTable()
 {
     endRow();
+    // "<table/>" would be read as a table that never ends.
+    if (!m_tableHasRows)
+        writeCharacters(QString());
     writeEndElement();
     m_currentTable = nullptr;
 }

@@ -67,6 +67,7 @@ public:
 
 private:
     void fillDefaults();
+    void startTableRow();
     bool beginCell(int columns);
     void writeHeaderRow(const QStringList& columnLabels, bool hasLabelColumn);
     void writeStatusIcon(int status);
@@ -79,6 +80,7 @@ private:
     int m_currentColumn = 0;
     bool m_hasLabelColumn = true;
     bool m_rowOpen = false;
+    bool m_tableHasRows = false;
     QMap<QString, QByteArray> m_iconCache;
     // The same icons as URIs: encoding one for each of ten thousand cells would cost more than the cells.
     QMap<QString, QString> m_iconSources;

@@ -1,0 +1,45 @@
+#include "case.h"
+
+#include <algorithm>
+#include <ctime>
+
+namespace bench {
+
+namespace {
+
+double cpuMilliseconds()
+{
+    timespec now {};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
+}
+
+double measured(const std::function<void()>& run)
+{
+    const double before = cpuMilliseconds();
+    run();
+    return cpuMilliseconds() - before;
+}
+
+double median(QVector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
+}
+
+} // namespace
+
+Timing interleaved(int runs, const std::function<void()>& ours, const std::function<void()>& floor)
+{
+    ours();
+    floor();
+    QVector<double> oursTimes;
+    QVector<double> floorTimes;
+    for (int run = 0; run < runs; ++run) {
+        oursTimes += measured(ours);
+        floorTimes += measured(floor);
+    }
+    return {median(oursTimes), median(floorTimes)};
+}
+
+} // namespace bench

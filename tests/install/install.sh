@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Installs the build into a folder of its own and builds and runs a consumer against it, both ways.
+set -euo pipefail
+cmake=$1 compiler=$2 build=$3 work=$4 flags=$5
+consumer=$(cd "$(dirname "$0")" && pwd)/consumer
+prefix="$work/prefix with a blank"
+
+rm -rf "$prefix" "$work/consumer"
+"$cmake" --install "$build" --prefix "$prefix" >/dev/null
+
+"$cmake" -S "$consumer" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$compiler" \
+    -DCMAKE_CXX_FLAGS="$flags" >/dev/null
+"$cmake" --build "$work/consumer" >/dev/null
+"$work/consumer/consumer" "$prefix/share/uiutils/services"
+
+# pkg-config quotes no blanks, so this way gets a prefix without one.
+plain=$(mktemp -d)
+trap 'rm -rf "$plain"' EXIT
+"$cmake" --install "$build" --prefix "$plain" >/dev/null
+export PKG_CONFIG_PATH
+PKG_CONFIG_PATH=$(dirname "$(find "$plain" -name uiutils.pc)")
+# shellcheck disable=SC2046,SC2086
+"$compiler" -std=c++17 -fPIC $flags "$consumer/pkgconfig.cpp" -o "$plain/consumer" $(pkg-config --cflags --libs uiutils)
+LD_LIBRARY_PATH=$(pkg-config --variable=libdir uiutils) "$plain/consumer"
+
+library=$(find "$plain" -name 'libuiutils.so.1')
+test -n "$library"
+# Hidden visibility: what is private must not be reachable from outside.
+if nm -DC --defined-only "$library" | grep -E ' [A-Z] uiutils::(OpenNode|onDisk|writeFileDurably|NodeReader)'; then
+    echo "private symbols are exported" >&2
+    exit 1
+fi

@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# Holds the includes of the library against its rooms: an include never runs back up.
+#
+#   module -> report -> writers, templ2xmlwriter, files, local -> service, document -> platform/contract
+#   everything may use core; core uses Qt only; the library never uses platform/reference
+set -euo pipefail
+cd "$1"
+
+# Every room on a line, followed by the rooms that it may include beside itself and core.
+rooms='
+core
+document kiv
+service document kiv
+local service document kiv
+files service document kiv
+writers service document kiv
+templ2xmlwriter service document kiv
+report writers templ2xmlwriter files local service document kiv
+module report writers templ2xmlwriter files local service document kiv
+'
+
+faults=0
+complain() {
+    echo "$1"
+    faults=$((faults + 1))
+}
+
+check_room() {
+    local room=$1 allowed=" $* core " line file target
+    [ "$room" = core ] && allowed=" core "
+    [ -d "lib/ui_utils/$room" ] || return 0
+    while IFS= read -r line; do
+        file=${line%%:*}
+        target=$(sed -E 's/.*#include [<"]([a-z0-9_]+)\/.*/\1/' <<<"$line")
+        [[ $allowed == *" $target "* ]] || complain "$file: room $room must not include $target/"
+    done < <(grep -rHE '#include ([<"](kiv|embedded)/|"[a-z0-9_]+/)' "lib/ui_utils/$room" --include='*.h' --include='*.cpp')
+}
+
+while read -r -a words; do
+    [ ${#words[@]} -gt 0 ] && check_room "${words[@]}"
+done <<<"$rooms"
+
+while IFS= read -r folder; do
+    grep -qE "^$(basename "$folder")( |\$)" <<<"$rooms" || complain "$folder: a room that the rule does not know"
+done < <(find lib/ui_utils -mindepth 1 -maxdepth 1 -type d)
+
+while IFS= read -r line; do
+    complain "${line%%:*}: the contract must not include what stands above it"
+done < <(grep -rHE '#include [<"](embedded|core|document|service|writers|module)/' platform/contract || true)
+
+while IFS= read -r header; do
+    complain "$header: a public header includes a private one"
+done < <(grep -lrE '#include "[a-z0-9_]+/[a-z0-9_]+_p\.h"' lib/ui_utils --include='*.h' | grep -v '_p\.h$' || true)
+
+[ "$faults" -eq 0 ] && echo "The include rule holds."
+exit $((faults > 0))

@@ -1,0 +1,395 @@
+#include "golden.h"
+
+#include "core/paths.h"
+#include "document/reporttemplate.h"
+#include "writers/htmlstreamwriter.h"
+#include "writers/reporttable.h"
+#include "writers/style.h"
+#include "writers/templatetohtmlwriter.h"
+
+#include <embedded/embeddedbackend.h>
+
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+
+#include <memory>
+
+namespace {
+
+bool writeFile(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
+}
+
+void readDocument(ReportTemplate& report, const QString& name)
+{
+    report.readFile(UIUTILS_TEST_DATA_DIR "/documents/" + name + ".json");
+    QVERIFY2(!report.hasError(), qPrintable(report.errorString()));
+}
+
+/// tidy's complaint about a page that it does not accept; empty for an accepted one.
+QString tidyErrors(const QString& html)
+{
+    QProcess tidy;
+    tidy.start("tidy", {"-q", "-e", "-utf8"});
+    if (!tidy.waitForStarted())
+        return "tidy cannot be started";
+    tidy.write(html.toUtf8());
+    tidy.closeWriteChannel();
+    if (!tidy.waitForFinished(60'000))
+        return "tidy does not end";
+    return tidy.exitCode() < 2 ? QString() : QString::fromUtf8(tidy.readAllStandardError()).left(2000);
+}
+
+/// The names of all elements and the text of the page, read as the XML that it is too.
+struct ParsedPage
+{
+    explicit ParsedPage(const QString& html)
+    {
+        QXmlStreamReader reader(html);
+        while (!reader.atEnd()) {
+            reader.readNext();
+            if (reader.isStartElement()) {
+                elements += reader.name().toString();
+                for (const QXmlStreamAttribute& attribute : reader.attributes())
+                    attributeNames += attribute.name().toString();
+            } else if (reader.isCharacters()) {
+                text += reader.text();
+            }
+        }
+        error = reader.errorString();
+    }
+
+    QStringList elements;
+    QStringList attributeNames;
+    QString text;
+    QString error;
+};
+
+/// Today's date and time in the page are the only part that differs from run to run.
+QString withoutTimestamp(QString html)
+{
+    static const QRegularExpression timestamp(
+            "[A-Z][a-z]{2} [A-Z][a-z]{2} [ 0-9]?[0-9] [0-9]{4} [0-9]{2}:[0-9]{2}:[0-9]{2}");
+    return html.replace(timestamp, "TIMESTAMP");
+}
+
+QString pageOf(const ReportTemplate& report, const QVariantMap& attributes = {})
+{
+    TemplateToHtmlWriter writer(report, nullptr);
+    for (auto it = attributes.cbegin(); it != attributes.cend(); ++it)
+        writer.setAttribute(it.key(), it.value());
+    return writer.getHtml();
+}
+
+QStringList texts(const QVector<ReportTable::Cell>& cells)
+{
+    QStringList texts;
+    for (const ReportTable::Cell& cell : cells)
+        texts += cell.text;
+    return texts;
+}
+
+} // namespace
+
+class HtmlWriterTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_root;
+    std::unique_ptr<kiv::embedded::EmbeddedBackend> m_backend;
+
+    QString iconFile(const char* name) const { return m_root.filePath(QString("base/qml/common/images/") + name); }
+
+private Q_SLOTS:
+    void init()
+    {
+        qputenv("UIUTILS_ROOT", m_root.path().toLocal8Bit());
+        QVERIFY(QDir(m_root.path()).mkpath("base/qml/common/images"));
+        QVERIFY(QDir(m_root.path()).mkpath("tmp"));
+        QVERIFY(writeFile(iconFile("pass_icon.png"), "pass"));
+        QVERIFY(writeFile(iconFile("marginal_icon.png"), "marginal"));
+        QVERIFY(writeFile(iconFile("fail_icon.png"), "fail"));
+        m_backend = std::make_unique<kiv::embedded::EmbeddedBackend>();
+        QCOMPARE(m_backend->loadFolders({UIUTILS_TEST_DATA_DIR "/services"}), QStringList());
+    }
+    void cleanup()
+    {
+        m_backend.reset();
+        qDeleteAll(uiutils::sharedReportItems());
+        uiutils::sharedReportItems().clear();
+    }
+
+    void goldens_data()
+    {
+        QTest::addColumn<QString>("document");
+        QTest::addColumn<QString>("golden");
+        QTest::addColumn<QVariantMap>("attributes");
+        const QVariantMap noSystem {{"showSoftwareRevs", false}, {"showHardwareRevs", false}};
+        QTest::newRow("twelve rows") << "twelve-rows" << "twelve-rows" << noSystem;
+        QTest::newRow("eleven tables") << "eleven-tables" << "eleven-tables" << noSystem;
+        QTest::newRow("defaults") << "empty" << "empty" << QVariantMap();
+        QTest::newRow("hostile") << "hostile" << "hostile" << noSystem;
+        QTest::newRow("everything on") << "everything" << "everything"
+                                       << QVariantMap {{"includeJobInfo", true}, {"includeCustomerInfoTop", true},
+                                                  {"includeTechnicianInfoTop", true}, {"includeCustomerInfoEnd", true},
+                                                  {"includeTechnicianInfoEnd", true}, {"marginal", true},
+                                                  {"fail", true}, {"title", "Set by the caller"}, {"logo", ""}};
+        QTest::newRow("for pages") << "everything" << "everything-pdf"
+                                   << QVariantMap {{"isForPDF", true}, {"includeJobInfo", true},
+                                              {"includeCustomerInfoTop", true}, {"includeTechnicianInfoTop", true},
+                                              {"pass", true}, {"showHardwareRevs", false}};
+    }
+    void goldens()
+    {
+        QFETCH(QString, document);
+        QFETCH(QString, golden);
+        QFETCH(QVariantMap, attributes);
+        ReportTemplate report;
+        readDocument(report, document);
+        const QString html = pageOf(report, attributes);
+
+        const QString difference = goldenDifference(
+                UIUTILS_TEST_DATA_DIR "/html/" + golden + ".html", withoutTimestamp(html).toUtf8());
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));
+        QCOMPARE(tidyErrors(html), QString());
+        QCOMPARE(ParsedPage(html).error, QString());
+    }
+
+    void status_data()
+    {
+        QTest::addColumn<QVariantMap>("flags");
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<QString>("icon");
+        QTest::newRow("none") << QVariantMap() << "unknown" << "";
+        QTest::newRow("false") << QVariantMap {{"pass", false}} << "unknown" << "";
+        QTest::newRow("pass first") << QVariantMap {{"fail", true}, {"pass", true}} << "pass" << "pass";
+        QTest::newRow("marginal") << QVariantMap {{"marginal", true}} << "marginal" << "marginal";
+        QTest::newRow("fail") << QVariantMap {{"fail", "true"}} << "fail" << "fail";
+        QTest::newRow("not completed") << QVariantMap {{"notCompleted", true}} << "not completed" << "";
+    }
+    void status()
+    {
+        QFETCH(QVariantMap, flags);
+        QFETCH(QString, word);
+        QFETCH(QString, icon);
+        const QString html = pageOf(ReportTemplate(), flags);
+        QVERIFY(html.contains("<!--report_status=" + word + "-->"));
+        QCOMPARE(html.contains("Overall Status"), word != "unknown");
+        QCOMPARE(html.contains("data:image/png;base64," + icon.toUtf8().toBase64() + "\""), !icon.isEmpty());
+    }
+
+    void margins_data()
+    {
+        QTest::addColumn<QString>("step");
+        QTest::addColumn<QString>("margin");
+        QTest::newRow("absent") << "" << "0px";
+        QTest::newRow("10") << "10" << "-10px";
+        QTest::newRow("1") << "1" << "auto";
+        QTest::newRow("no number") << "1em" << "0px";
+    }
+    void margins()
+    {
+        QFETCH(QString, step);
+        QFETCH(QString, margin);
+        ReportTemplate report;
+        report.beginReport("r");
+        if (!step.isEmpty())
+            report.setKey("indent_pix", step);
+        report.endReport();
+        QVERIFY(pageOf(report, {{"indent_pix", "77"}}).contains("<table style=\"margin-left:" + margin + "\""));
+    }
+
+    void pageWithoutHeadEntries()
+    {
+        HtmlStreamWriter html(0, nullptr);
+        html.writeHead(QString(), {});
+        QVERIFY(!html.output().contains("<title"));
+        QVERIFY(!html.output().contains("<style"));
+        QVERIFY(html.output().contains("<meta http-equiv=\"Content-Type\" content=\"text/html;charset=UTF-8\"/>"));
+        QVERIFY(html.output().contains("<!DOCTYPE html PUBLIC \"-//W3C//DTD Html 4.01 Transitional//EN\""));
+    }
+
+    void bodyAttributes()
+    {
+        TemplateToHtmlWriter writer(ReportTemplate(), nullptr);
+        writer.setBodyAttributes({{"class", "a \"b\" <c>"}, {"x onload=", "evil"}, {"id", 7}});
+        const QString html = writer.getHtml();
+        QVERIFY2(html.contains("<body class=\"a &quot;b&quot; &lt;c&gt;\" id=\"7\">"), qPrintable(html));
+        QCOMPARE(writer.getHtml(), html);
+    }
+
+    void cellsKeepToTheirRow()
+    {
+        QList<ReportItem*> items;
+        {
+            HtmlStreamWriter html(0, &items);
+            html.startBody({});
+            html.writeCell("before any table");
+            html.startTable("T", {"A", "B"}, true, 0);
+            html.writeHeaderCell("label", HtmlStreamWriter::AlignRight);
+            html.writeCell("a", HtmlStreamWriter::StatusFail, HtmlStreamWriter::AlignLeft);
+            html.writeCell("b");
+            html.writeCell("surplus");
+            html.endRow();
+            html.writeCell("between rows");
+            html.startRow();
+            html.endRow();
+            html.startRow();
+            html.writeEmptyCells(7);
+            html.endTable();
+            html.writeCell("behind the table");
+            html.writeEndDocument();
+
+            const ParsedPage page(html.output());
+            QCOMPARE(page.error, QString());
+            QCOMPARE(page.elements.count("tr"), 4);
+            QCOMPARE(page.text.simplified(), QString("T A B label a b"));
+        }
+        QCOMPARE(items.size(), 1);
+        const auto* table = dynamic_cast<ReportTable*>(items.first());
+        QVERIFY(table);
+        QCOMPARE(table->title(), QString("T"));
+        QCOMPARE(table->columnLabels(), (QStringList {"A", "B"}));
+        QCOMPARE(table->columnCount(), 3);
+        QCOMPARE(table->rowCount(), 2);
+        QCOMPARE(texts(table->row(0)), (QStringList {"label", "a", "b"}));
+        QVERIFY(table->row(0).at(0).kind == ReportTable::CellKind::RowLabel);
+        QCOMPARE(table->row(0).at(1).status, 64);
+        QCOMPARE(int(table->row(0).at(1).alignment), 1);
+        QCOMPARE(int(table->row(1).at(0).columnSpan), 3);
+        qDeleteAll(items);
+    }
+
+    void everyTableBecomesAnItem()
+    {
+        ReportTemplate report;
+        readDocument(report, "eleven-tables");
+        const auto titlesAfter = [&](QList<ReportItem*>* items) {
+            TemplateToHtmlWriter(report, items).getHtml();
+            QStringList titles;
+            for (ReportItem* item : qAsConst(*items))
+                titles += dynamic_cast<ReportTable*>(item)->title();
+            return titles;
+        };
+        const QStringList expected {"Test Information", "Channel 0", "Channel 1", "Channel 10", "Channel 2",
+                "Channel 3", "Channel 4", "Channel 5", "Channel 6", "Channel 7", "Channel 8", "Channel 9",
+                "Software Revisions", "Hardware"};
+        QCOMPARE(titlesAfter(&uiutils::sharedReportItems()), expected);
+        QList<ReportItem*> own;
+        QCOMPARE(titlesAfter(&own), expected);
+        QCOMPARE(uiutils::sharedReportItems().size(), expected.size());
+        qDeleteAll(own);
+    }
+
+    void iconsAreReadOnce()
+    {
+        HtmlStreamWriter html(0, nullptr);
+        html.startBody({});
+        html.startTable("T", {"A"}, false, 0);
+        html.writeCell("1", HtmlStreamWriter::StatusFail);
+        html.endRow();
+        QVERIFY(QFile::remove(iconFile("fail_icon.png")));
+        html.startRow();
+        html.writeCell("2", HtmlStreamWriter::StatusFail);
+        html.endTable();
+        QCOMPARE(html.output().count("base64," + QByteArray("fail").toBase64() + "\""), 2);
+
+        HtmlStreamWriter later(0, nullptr);
+        later.startBody({});
+        later.startTable("T", {"A"}, false, 0);
+        later.writeCell("1", HtmlStreamWriter::StatusFail);
+        QVERIFY(later.output().contains("src=\"data:image/png;base64,\" width=\"20\" height=\"20\""));
+    }
+
+    void unreadableIconsGiveAnEmptyImage()
+    {
+        QVERIFY(QFile::remove(iconFile("fail_icon.png")));
+        QVERIFY(QDir().mkdir(iconFile("fail_icon.png")));
+        QFile large(iconFile("pass_icon.png"));
+        QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(2'000'000));
+        large.close();
+        for (const char* flag : {"pass", "fail"})
+            QVERIFY(pageOf(ReportTemplate(), {{flag, true}}).contains("\"data:image/png;base64,\""));
+        QVERIFY(QDir().rmdir(iconFile("fail_icon.png")));
+    }
+
+    void withoutAPlatform()
+    {
+        m_backend.reset();
+        ReportTemplate report;
+        readDocument(report, "everything");
+        const QString html = pageOf(report,
+                {{"includeJobInfo", true}, {"includeCustomerInfoTop", true}, {"includeTechnicianInfoEnd", true}});
+        QVERIFY(html.contains("Solvant System Information"));
+        QVERIFY(!html.contains("Job Manager Information"));
+        QVERIFY(!html.contains("Customer Information"));
+        QVERIFY(!html.contains("Software Revisions"));
+        QVERIFY(!html.contains("Configuration Values"));
+        QCOMPARE(tidyErrors(html), QString());
+    }
+
+    /// Whatever the texts hold, they stay text: the page keeps its elements and gives the texts back.
+    void textsStayText()
+    {
+        QRandomGenerator random(20'261'121);
+        const auto randomText = [&] {
+            QString text;
+            for (int length = random.bounded(1, 30); length > 0; --length) {
+                const uint c = random.bounded(4) ? random.bounded(0x100U) : random.bounded(0x110000U);
+                if (c < 0x10000)
+                    text += QChar(ushort(c));
+                else
+                    text += QString(QChar(QChar::highSurrogate(c))) + QChar(QChar::lowSurrogate(c));
+            }
+            return text;
+        };
+        ReportTemplate report;
+        report.beginReport(randomText());
+        report.setKey("title", randomText());
+        for (int section = 0; section < 20; ++section) {
+            report.beginSection(randomText(), randomText());
+            report.setKey("log_0", randomText());
+            report.setKey("config_module", randomText());
+            report.beginTable(randomText(), randomText());
+            report.addAttribute("rules", randomText());
+            for (int row = 0; row < 20; ++row)
+                report.addRow(randomText(), randomText(), randomText() + "<!--" + randomText(), {{"status", randomText()}});
+            report.endTable();
+            report.endSection();
+        }
+        report.endReport();
+        const QString html = pageOf(report);
+        const ParsedPage page(html);
+        QCOMPARE(page.error, QString());
+        QCOMPARE(page.elements.count("h1"), 21);
+        QCOMPARE(page.elements.count("td"), 2 * (2 + 20 * 20) + 2 * 2 + 2 * 2);
+        const QSet<QString> elements(page.elements.cbegin(), page.elements.cend());
+        QVERIFY((QSet<QString> {"html", "head", "title", "style", "meta", "body", "img", "table", "tr", "th", "td",
+                "i", "b", "h1", "p"}).contains(elements));
+        const QSet<QString> attributes(page.attributeNames.cbegin(), page.attributeNames.cend());
+        QVERIFY((QSet<QString> {"type", "http-equiv", "content", "src", "style", "cellpadding", "rules", "frame",
+                "colspan", "align"}).contains(attributes));
+        QCOMPARE(tidyErrors(html), QString());
+    }
+
+    void styles()
+    {
+        Style style("h1");
+        style.setPadding(2, 8);
+        style.setMarginLeft(-1);
+        style.setMarginTop(-10);
+        style.setProperty("color", "red");
+        style.setProperty("color", "blue");
+        QCOMPARE(style.toCss(), QString("color:blue; margin-left:auto; margin-top:-10px; padding:2px 8px"));
+        QCOMPARE(Style().toCss(), QString());
+    }
+};
+
+QTEST_MAIN(HtmlWriterTest)
+#include "tst_htmlwriter.moc"
