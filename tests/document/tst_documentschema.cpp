@@ -1,0 +1,97 @@
+#include "document/reporttemplate.h"
+#include "jsonschema_p.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QtTest>
+
+using kiv::embedded::schemaViolation;
+
+/// The published schema and the builder speak of the same document.
+class DocumentSchemaTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QJsonObject m_schema;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QFile file(UIUTILS_SOURCE_DIR "/docs/report-document.schema.json");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        m_schema = QJsonDocument::fromJson(file.readAll()).object();
+        QVERIFY(!m_schema.isEmpty());
+    }
+
+    void builtDocumentsConform()
+    {
+        ReportTemplate report;
+        report.beginReport("otdr");
+        report.setKey("title", "Fiber 7");
+        report.setKey("indent_pix", 10);
+        report.addAttribute("unit", 3.5);
+        report.beginTable("direct", "Directly in the report");
+        report.endTable();
+        for (int section = 0; section < 3; ++section) {
+            report.beginSection("outer", "Outer");
+            report.setKey("log_0", "A line");
+            report.setKey("enabled", true);
+            report.beginSection("inner", "Inner");
+            report.beginTable("list", "List");
+            for (int row = 0; row < 12; ++row)
+                report.addRow("loss", "Loss", row * 0.5, {{"status", 16}, {"align", 2}, {"unit", "dB"}});
+            report.endTable();
+            report.endSection();
+            report.endSection();
+        }
+        report.endReport();
+        QCOMPARE(schemaViolation(m_schema, report.object()), QString());
+    }
+
+    void goldenDocumentsConform_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"twelve-rows", "eleven-tables"})
+            QTest::newRow(name) << name;
+    }
+    void goldenDocumentsConform()
+    {
+        QFETCH(QString, name);
+        ReportTemplate report;
+        report.readFile(UIUTILS_TEST_DATA_DIR "/documents/" + name + ".json");
+        QVERIFY(!report.hasError());
+        QCOMPARE(schemaViolation(m_schema, report.object()), QString());
+    }
+
+    void otherDocumentsDoNot_data()
+    {
+        QTest::addColumn<QByteArray>("document");
+        QTest::addColumn<QString>("place");
+        QTest::newRow("no node type") << QByteArray(R"({"tag": "x"})") << "/: ";
+        QTest::newRow("another root") << QByteArray(R"({"tag": "x", "node_type": "table"})") << "/node_type: ";
+        QTest::newRow("number as attribute")
+                << QByteArray(R"({"tag": "x", "node_type": "report", "attr_a": 1})") << "/attr_a: ";
+        QTest::newRow("row without a label")
+                << QByteArray(R"({"tag": "x", "node_type": "report", "section_0": {"node_type": "section", "tag": "",
+                       "title": "", "table_0": {"node_type": "table", "tag": "", "title": "", "use_row_labels": true,
+                       "num_columns": 1, "row_1": {}}}})")
+                << "/section_0/table_0/row_1: ";
+        QTest::newRow("unknown status")
+                << QByteArray(R"({"tag": "x", "node_type": "report", "table_0": {"node_type": "table", "tag": "",
+                       "title": "", "use_row_labels": true, "num_columns": 1,
+                       "row_1": {"label": "", "cell_0": {"label": "", "attr_status": "17"}}}})")
+                << "/table_0/row_1/cell_0/attr_status: ";
+    }
+    void otherDocumentsDoNot()
+    {
+        QFETCH(QByteArray, document);
+        QFETCH(QString, place);
+        const QString violation = schemaViolation(m_schema, QJsonDocument::fromJson(document).object());
+        QVERIFY2(violation.startsWith(place), qPrintable(violation));
+    }
+};
+
+QTEST_GUILESS_MAIN(DocumentSchemaTest)
+#include "tst_documentschema.moc"
