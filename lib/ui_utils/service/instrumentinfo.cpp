@@ -79,7 +79,9 @@ QVector<QStringList> hardwareAssemblies()
 {
     QVector<QStringList> assemblies;
     const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
-    const QStringList ids = client ? client->getItemIds(itemids::hardware) : QStringList();
+    if (!client)
+        return assemblies;
+    const QStringList ids = client->getItemIds(itemids::hardware);
     for (const QString& id : ids) {
         const KIVClientItem* item = client->getItem(id);
         if (!item || !item->getName().endsWith(itemids::hardwareNameEnd))

@@ -15,7 +15,7 @@ using uiutils::markupText;
 
 namespace {
 
-constexpr qint64 maximumIconSize = 1024 * 1024;
+constexpr qint64 maximumIconSize = qint64(1024) * 1024;
 
 // Shared for good: a cell is written in well under a microsecond, and every literal's copy would show.
 struct Words

@@ -41,10 +41,10 @@ EmbeddedItem::EmbeddedItem(ItemDescription description, QObject* parent)
 
 QString EmbeddedItem::getValueString(bool showUnits) const
 {
-    const QString text = shownText(m_description.value, m_description.precision);
+    QString text = shownText(m_description.value, m_description.precision);
     if (!showUnits || m_description.unit.isEmpty() || text.isEmpty())
         return text;
-    return text + QLatin1Char(' ') + m_description.unit;
+    return text.append(QLatin1Char(' ')).append(m_description.unit);
 }
 
 void EmbeddedItem::setValue(const QVariant& value)
