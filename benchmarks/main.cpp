@@ -54,13 +54,22 @@ int main(int argc, char** argv)
             QStringLiteral("9"));
     const QCommandLineOption jsonOption(
             QStringLiteral("json"), QStringLiteral("Write the figures to FILE as well."), QStringLiteral("FILE"));
-    parser.addOptions({runsOption, jsonOption});
+    const QCommandLineOption onlyOption(QStringLiteral("only"),
+            QStringLiteral("Measure one room only: document or html."), QStringLiteral("ROOM"));
+    parser.addOptions({runsOption, jsonOption, onlyOption});
     parser.process(app);
     const int runs = qMax(7, parser.value(runsOption).toInt());
 
     kiv::embedded::EmbeddedBackend backend;
     backend.loadFolders({QStringLiteral(UIUTILS_SERVICES_DIR)});
-    const QVector<bench::Result> results = bench::documentCases(runs) + bench::htmlCases(runs);
+    const auto isWanted = [&](const QString& room) {
+        return !parser.isSet(onlyOption) || parser.value(onlyOption) == room;
+    };
+    QVector<bench::Result> results;
+    if (isWanted(QStringLiteral("document")))
+        results += bench::documentCases(runs);
+    if (isWanted(QStringLiteral("html")))
+        results += bench::htmlCases(runs);
     printTable(results);
     if (parser.isSet(jsonOption) && !writeJson(parser.value(jsonOption), results)) {
         QTextStream(stderr) << "uiutils-bench: cannot write " << parser.value(jsonOption) << '\n';

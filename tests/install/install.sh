@@ -8,7 +8,7 @@ prefix="$work/prefix with a blank"
 rm -rf "$prefix" "$work/consumer"
 "$cmake" --install "$build" --prefix "$prefix" >/dev/null
 
-"$cmake" -S "$consumer" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$compiler" \
+"$cmake" -G Ninja -S "$consumer" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_COMPILER="$compiler" \
     -DCMAKE_CXX_FLAGS="$flags" >/dev/null
 "$cmake" --build "$work/consumer" >/dev/null
 "$work/consumer/consumer" "$prefix/share/uiutils/services"

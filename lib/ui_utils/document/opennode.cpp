@@ -77,11 +77,13 @@ void OpenNode::append(Family family, const QJsonValue& child)
 {
     Children& children = m_children[family];
     const int number = children.keyCount;
-    const QString key = childKey(familyWord(family), number);
-    if (m_keys.contains(key)) {
+    if (children.hasNumberedKey) {
+        const QString key = childKey(familyWord(family), number);
         // Somebody set a key of that very name: it is replaced, the count stays, and so does the next number.
-        m_keys.insert(key, child);
-        return;
+        if (m_keys.contains(key)) {
+            m_keys.insert(key, child);
+            return;
+        }
     }
     children.waiting.append({number, child});
     ++children.keyCount;
@@ -96,7 +98,7 @@ QJsonObject OpenNode::take()
                 [](const Child& a, const Child& b) { return DecimalText(a.number) < DecimalText(b.number); });
         for (const Child& child : qAsConst(waiting))
             m_keys.insert(childKey(familyWord(family), child.number), child.value);
-        m_children[family].keyCount = 0;
+        m_children[family] = Children();
     }
     QJsonObject node;
     node.swap(m_keys);
@@ -106,8 +108,11 @@ QJsonObject OpenNode::take()
 void OpenNode::count(const QString& key)
 {
     for (int family = 0; family < FamilyCount; ++family) {
-        if (key.contains(familyWord(family)))
-            ++m_children[family].keyCount;
+        const QLatin1String word = familyWord(family);
+        if (!key.contains(word))
+            continue;
+        ++m_children[family].keyCount;
+        m_children[family].hasNumberedKey |= childNumber(key, word) >= 0;
     }
 }
 

@@ -42,6 +42,8 @@ private:
     {
         /// Keys of the node that contain the family's word, children included.
         int keyCount = 0;
+        /// Whether a key of m_keys is named like a child of the family.
+        bool hasNumberedKey = false;
         /// In ascending order of their numbers, none twice, none of them a key of m_keys.
         QVector<Child> waiting;
     };

@@ -33,6 +33,11 @@ struct Words
     const QString th = QStringLiteral("th");
     const QString tr = QStringLiteral("tr");
     const QString width = QStringLiteral("width");
+
+    // Line breaks with the indentation of a row, of its cells and of what stands in them.
+    const QString rowBreak = QStringLiteral("\n            ");
+    const QString cellBreak = QStringLiteral("\n                ");
+    const QString contentBreak = QStringLiteral("\n                    ");
 };
 
 const Words& words()
@@ -223,6 +228,15 @@ void HtmlStreamWriter::startTableRow()
     writeStartElement(words().tr);
 }
 
+// The base class writes an indentation level by level, which takes much of its time. Rows write theirs in one piece, to
+// the same effect.
+void HtmlStreamWriter::writeBreak(const QString& indentation)
+{
+    // Ends the tag that is open.
+    writeCharacters(QString());
+    m_output += indentation;
+}
+
 void HtmlStreamWriter::startRow()
 {
     if (m_rowOpen)
@@ -235,9 +249,12 @@ bool HtmlStreamWriter::beginCell(int columns)
 {
     if (!m_rowOpen || m_currentColumn >= m_columnCount)
         return false;
-    if (m_currentColumn == 0)
+    if (m_currentColumn == 0) {
         startTableRow();
+        setAutoFormatting(false);
+    }
     m_currentColumn += columns;
+    writeBreak(words().cellBreak);
     writeStartElement(words().td);
     return true;
 }
@@ -247,7 +264,9 @@ void HtmlStreamWriter::writeHeaderCell(const QString& text, int align)
     if (!beginCell(1))
         return;
     writeAttribute(words().align, alignmentName(align));
+    writeBreak(words().contentBreak);
     writeTextElement(words().b, markupText(text));
+    writeBreak(words().cellBreak);
     writeEndElement();
     if (m_currentTable)
         m_currentTable->appendCell({text, StatusNone, qint8(align), ReportTable::CellKind::RowLabel, 1});
@@ -280,8 +299,11 @@ void HtmlStreamWriter::writeEmptyCells(int columns)
 
 void HtmlStreamWriter::endRow()
 {
-    if (m_rowOpen && m_currentColumn > 0)
+    if (m_rowOpen && m_currentColumn > 0) {
+        writeBreak(words().rowBreak);
         writeEndElement();
+        setAutoFormatting(true);
+    }
     if (m_currentTable)
         m_currentTable->endRow();
     m_rowOpen = false;
@@ -326,6 +348,7 @@ void HtmlStreamWriter::writeStatusIcon(int status)
     const QLatin1String path = iconPath(status);
     if (path.isEmpty())
         return;
+    writeBreak(words().contentBreak);
     writeEmptyElement(words().img);
     writeAttribute(words().src, iconSource(path));
     writeAttribute(words().width, words().iconSize);

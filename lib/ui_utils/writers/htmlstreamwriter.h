@@ -69,6 +69,7 @@ private:
     void fillDefaults();
     void startTableRow();
     bool beginCell(int columns);
+    void writeBreak(const QString& indentation);
     void writeHeaderRow(const QStringList& columnLabels, bool hasLabelColumn);
     void writeStatusIcon(int status);
     const QString& iconSource(const QString& path);
