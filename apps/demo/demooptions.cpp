@@ -1,0 +1,121 @@
+#include "demooptions.h"
+
+#include "loopbackmeasurement.h"
+
+#include <embedded/embeddedbackend.h>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+
+namespace uiutils::demo {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("DemoOptions", text);
+}
+
+QString defaultRoot()
+{
+    const QString fromEnvironment = qEnvironmentVariable("UIUTILS_ROOT");
+    if (!fromEnvironment.isEmpty())
+        return fromEnvironment;
+    QString state = qEnvironmentVariable("XDG_STATE_HOME");
+    if (!QDir::isAbsolutePath(state))
+        state = QDir::homePath() + QStringLiteral("/.local/state");
+    return state + QStringLiteral("/uiutils-demo");
+}
+
+/// The service files of the source tree, or those installed beside the program.
+QString ownServiceFolder()
+{
+    const QString ofTree = QStringLiteral(UIUTILS_DEMO_SERVICES_DIR);
+    if (QDir(ofTree).exists())
+        return ofTree;
+    return QDir::cleanPath(
+            QCoreApplication::applicationDirPath() + QStringLiteral("/../share/uiutils/services"));
+}
+
+QStringList defaultServiceFolders()
+{
+    const QStringList fromEnvironment = kiv::embedded::EmbeddedBackend::foldersFromEnvironment();
+    return fromEnvironment.isEmpty() ? QStringList{ownServiceFolder()} : fromEnvironment;
+}
+
+DemoOptions answered(const QString& message)
+{
+    DemoOptions options;
+    options.outcome = DemoOptions::Answered;
+    options.message = message;
+    return options;
+}
+
+DemoOptions misused(const QString& message)
+{
+    DemoOptions options;
+    options.outcome = DemoOptions::Misused;
+    options.message = message + QLatin1Char('\n') + tr("Try --help for the options.");
+    return options;
+}
+
+} // namespace
+
+DemoOptions readOptions(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+            tr("Measures TCP over this machine's loopback interface and saves a report of it, the way a test "
+               "application of the instrument does.\n"
+               "With a display a window opens. Without one, or with --tour, the program runs by itself.\n\n"
+               "Exit status: 0 done, 1 failed, 2 wrong command line."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption root(QStringLiteral("root"),
+            tr("Keep everything that is written below <folder> (default: %1).").arg(defaultRoot()),
+            tr("folder"), defaultRoot());
+    const QCommandLineOption services(QStringLiteral("services"),
+            tr("Publish the services described in <folder>; may be given more than once (default: %1).")
+                    .arg(defaultServiceFolders().join(QLatin1Char(':'))),
+            tr("folder"));
+    const QCommandLineOption samples(QStringLiteral("samples"),
+            tr("Take <number> samples of each quantity, %1 to %2 (default: %1).")
+                    .arg(LoopbackMeasurement::fewestSamples)
+                    .arg(LoopbackMeasurement::mostSamples),
+            tr("number"), QString::number(LoopbackMeasurement::fewestSamples));
+    const QCommandLineOption tour(
+            QStringLiteral("tour"), tr("Measure, save a report, take a picture of each page and quit."));
+    parser.addOptions({root, services, samples, tour});
+
+    if (!parser.parse(arguments))
+        return misused(parser.errorText());
+    if (parser.isSet(help))
+        return answered(parser.helpText());
+    if (parser.isSet(version)) {
+        return answered(QCoreApplication::applicationName() + QLatin1Char(' ')
+                + QCoreApplication::applicationVersion() + QLatin1Char('\n'));
+    }
+    if (!parser.positionalArguments().isEmpty())
+        return misused(tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst()));
+    if (parser.value(root).isEmpty())
+        return misused(tr("--root needs the name of a folder."));
+    if (parser.values(services).contains(QString()))
+        return misused(tr("--services needs the name of a folder."));
+
+    DemoOptions options;
+    bool isNumber = false;
+    options.samples = parser.value(samples).toInt(&isNumber);
+    if (!isNumber || options.samples < LoopbackMeasurement::fewestSamples
+            || options.samples > LoopbackMeasurement::mostSamples) {
+        return misused(tr("--samples needs a number from %1 to %2.")
+                               .arg(LoopbackMeasurement::fewestSamples)
+                               .arg(LoopbackMeasurement::mostSamples));
+    }
+    options.root = QDir::cleanPath(QDir().absoluteFilePath(parser.value(root)));
+    options.serviceFolders = parser.isSet(services) ? parser.values(services) : defaultServiceFolders();
+    options.isTour = parser.isSet(tour);
+    return options;
+}
+
+} // namespace uiutils::demo

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace uiutils::demo {
+
+/// What the command line and the environment ask of the demo.
+struct DemoOptions
+{
+    enum Outcome {
+        Run,
+        /// `message` is for standard output, and the program is done.
+        Answered,
+        /// `message` says what is wrong with the command line.
+        Misused,
+    };
+
+    Outcome outcome = Run;
+    QString message;
+    /// Absolute folder below which the instrument's paths lie.
+    QString root;
+    QStringList serviceFolders;
+    /// Samples of each quantity.
+    int samples = 0;
+    bool isTour = false;
+};
+
+/// Reads the arguments, the program's own name first. Needs a QCoreApplication and no display.
+DemoOptions readOptions(const QStringList& arguments);
+
+} // namespace uiutils::demo

@@ -1,0 +1,22 @@
+#include "demotypes.h"
+
+#include "loopbackmeasurement.h"
+#include "reportsaver.h"
+#include "samplemodel.h"
+
+#include <QUrl>
+#include <QtQml>
+
+namespace uiutils::demo {
+
+void registerDemoTypes()
+{
+    const char* const uri = "UiUtils.Demo";
+    qmlRegisterType<LoopbackMeasurement>(uri, 1, 0, "LoopbackMeasurement");
+    qmlRegisterType<ReportSaver>(uri, 1, 0, "ReportSaver");
+    qmlRegisterUncreatableType<SampleModel>(
+            uri, 1, 0, "SampleModel", QStringLiteral("A SampleModel comes from a LoopbackMeasurement"));
+    qmlRegisterSingletonType(QUrl(QStringLiteral("qrc:/uiutils/demo/Theme.qml")), uri, 1, 0, "Theme");
+}
+
+} // namespace uiutils::demo

@@ -1,0 +1,47 @@
+#include "displaysetup.h"
+
+#include <QGuiApplication>
+
+namespace uiutils::demo {
+
+namespace {
+
+bool isSet(const char* variable)
+{
+    return !qEnvironmentVariableIsEmpty(variable);
+}
+
+} // namespace
+
+DisplaySetup::DisplaySetup()
+{
+    ensureRuntimeFolder();
+    if (isSet("QT_QPA_PLATFORM"))
+        return;
+    // Later ones stand in when the display does not answer or its plug-in is missing.
+    QByteArray platforms("offscreen");
+    if (isSet("DISPLAY"))
+        platforms.prepend("xcb;");
+    if (isSet("WAYLAND_DISPLAY"))
+        platforms.prepend("wayland;");
+    qputenv("QT_QPA_PLATFORM", platforms);
+    if (platforms == "offscreen" && !isSet("QT_QUICK_BACKEND"))
+        qputenv("QT_QUICK_BACKEND", "software");
+}
+
+bool DisplaySetup::isOffScreen()
+{
+    const QString platform = QGuiApplication::platformName();
+    return platform == QLatin1String("offscreen") || platform == QLatin1String("minimal");
+}
+
+void DisplaySetup::ensureRuntimeFolder()
+{
+    if (isSet("XDG_RUNTIME_DIR"))
+        return;
+    m_runtimeFolder = std::make_unique<QTemporaryDir>();
+    if (m_runtimeFolder->isValid())
+        qputenv("XDG_RUNTIME_DIR", m_runtimeFolder->path().toLocal8Bit());
+}
+
+} // namespace uiutils::demo

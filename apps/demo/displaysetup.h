@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace uiutils::demo {
+
+/// Chooses where the program draws, before the application object is made: on the display that the
+/// environment names, or off screen when there is none. Keep it until the application object is gone.
+class DisplaySetup
+{
+public:
+    DisplaySetup();
+
+    /// Whether nobody can see and use the window. Ask once the application object exists: a display that is
+    /// named need not answer.
+    static bool isOffScreen();
+
+private:
+    void ensureRuntimeFolder();
+
+    std::unique_ptr<QTemporaryDir> m_runtimeFolder;
+};
+
+} // namespace uiutils::demo

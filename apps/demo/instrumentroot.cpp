@@ -1,0 +1,71 @@
+#include "instrumentroot.h"
+
+#include "core/durablefile.h"
+#include "core/paths.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace uiutils::demo {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("InstrumentRoot", text);
+}
+
+QByteArray contentsOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool installImage(const QString& name, const QString& folder, QString* error)
+{
+    const QString target = folder + name;
+    const QByteArray image = contentsOf(QStringLiteral(":/uiutils/images/") + name);
+    return contentsOf(target) == image || writeFileDurably(target, image, error);
+}
+
+} // namespace
+
+bool makeFolder(const QString& folder, QString* error)
+{
+    // The nearest thing on the way that exists decides what there is to say.
+    QFileInfo nearest(folder);
+    while (!nearest.exists() && nearest.path() != nearest.filePath())
+        nearest.setFile(nearest.path());
+    if (!nearest.isDir()) {
+        *error = tr("The folder %1 cannot be made, because %2 is a file. Name another folder with --root.")
+                         .arg(folder, nearest.filePath());
+        return false;
+    }
+    if (QDir().mkpath(folder))
+        return true;
+    *error = tr(
+            "The folder %1 cannot be made in %2. Check that you may write there, or name another folder with "
+            "--root.")
+                     .arg(folder, nearest.filePath());
+    return false;
+}
+
+bool prepareInstrumentRoot(const QString& root, QString* error)
+{
+    const QString images = root + paths::images;
+    if (!makeFolder(images, error))
+        return false;
+    const QStringList names = QDir(QStringLiteral(":/uiutils/images")).entryList();
+    for (const QString& name : names) {
+        if (!installImage(name, images, error)) {
+            *error += QLatin1Char(' ')
+                    + tr("Check that you may write there, or name another folder with --root.");
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace uiutils::demo

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "loopbackprobe.h"
+#include "samplemodel.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <QThread>
+
+namespace uiutils::demo {
+
+/// Measures round-trip time and throughput of TCP over this machine's loopback interface, with a server and a
+/// client of its own.
+///
+/// Client and server share a thread apart from the display, so that drawing delays no sample; everything here
+/// is called, and every signal comes, on the thread of this object. start() may be called again after any
+/// end. The object may be destroyed at any time and waits only for the exchange step under way.
+class LoopbackMeasurement : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(State state READ state NOTIFY stateChanged)
+    Q_PROPERTY(bool running READ isRunning NOTIFY stateChanged)
+    /// The state in words.
+    Q_PROPERTY(QString stateText READ stateText NOTIFY stateChanged)
+    /// What ended the run early and what to do; empty unless the state is Failed.
+    Q_PROPERTY(QString errorText READ errorText NOTIFY stateChanged)
+    /// Share of the samples of this run that were taken, 0 to 1.
+    Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
+    /// "address:port" of the server of the last run; empty before the first.
+    Q_PROPERTY(QString serverAddress READ serverAddress NOTIFY serverAddressChanged)
+    /// When the last run began, ISO 8601 with the offset from UTC; empty before the first.
+    Q_PROPERTY(QString startTime READ startTime NOTIFY stateChanged)
+    /// How the samples of the last run were taken, in sentences for a reader of the report.
+    Q_PROPERTY(QString method READ method NOTIFY stateChanged)
+    /// Samples of each quantity in the next run, fewestSamples to mostSamples; other values are brought into
+    /// range.
+    Q_PROPERTY(int samples READ samples WRITE setSamples NOTIFY samplesChanged)
+    Q_PROPERTY(uiutils::demo::SampleModel* roundTrip READ roundTrip CONSTANT)
+    Q_PROPERTY(uiutils::demo::SampleModel* throughput READ throughput CONSTANT)
+    /// Worse of the two quantities' statuses; StatusNone until a run has finished.
+    Q_PROPERTY(int status READ status NOTIFY statusChanged)
+
+public:
+    enum State { Idle, Connecting, MeasuringRoundTrip, MeasuringThroughput, Finished, Cancelled, Failed };
+    Q_ENUM(State)
+
+    static constexpr int fewestSamples = 20;
+    static constexpr int mostSamples = 200;
+    /// Limits at the start: what any machine that is fit for this instrument's screens keeps with ease.
+    static constexpr double maximumRoundTripMilliseconds = 1;
+    static constexpr double minimumThroughputMegabits = 1000;
+
+    explicit LoopbackMeasurement(QObject* parent = nullptr);
+    ~LoopbackMeasurement() override;
+
+    State state() const { return m_state; }
+    bool isRunning() const;
+    QString stateText() const;
+    QString errorText() const { return m_errorText; }
+    double progress() const;
+    QString serverAddress() const { return m_serverAddress; }
+    QString startTime() const;
+    QString method() const;
+    int samples() const { return m_settings.samples; }
+    SampleModel* roundTrip() { return &m_roundTrip; }
+    SampleModel* throughput() { return &m_throughput; }
+    int status() const;
+
+    void setSamples(int samples);
+    /// Silence of the connection, above zero, after which a run fails; for the next run.
+    void setPatience(int milliseconds) { m_settings.patienceMilliseconds = milliseconds; }
+    /// Pause between two samples, 0 or more; for the next run.
+    void setPause(int milliseconds) { m_settings.pauseMilliseconds = milliseconds; }
+    /// Port on the loopback address of a server to use in place of an own one, 0 for an own one; for the next
+    /// run.
+    void setServerPort(quint16 port) { m_settings.port = port; }
+
+    /// Drops the samples of the run before and starts one; does nothing while one is running.
+    Q_INVOKABLE void start();
+    /// Ends the run at once and keeps the samples taken; does nothing when none is running.
+    Q_INVOKABLE void cancel();
+
+Q_SIGNALS:
+    void stateChanged();
+    void progressChanged();
+    void serverAddressChanged();
+    void samplesChanged();
+    void statusChanged();
+    /// A sample was appended to one of the two quantities.
+    void sampleTaken(uiutils::demo::SampleModel* quantity, double value);
+    /// One of these three ends each run, after the state has changed.
+    void finished();
+    void cancelled();
+    void failed(const QString& text);
+
+private:
+    void listenTo(LoopbackProbe* probe);
+    void take(SampleModel* quantity, double value);
+    void end(State state, const QString& errorText = {});
+    void setState(State state);
+
+    LoopbackSettings m_settings;
+    /// As m_settings was when the last run began.
+    LoopbackSettings m_runSettings;
+    SampleModel m_roundTrip;
+    SampleModel m_throughput;
+    QThread m_thread;
+    /// Lives in m_thread; null while no run is under way.
+    LoopbackProbe* m_probe = nullptr;
+    /// Number of the run: what an ended run still has on its way is told by it and dropped.
+    int m_run = 0;
+    State m_state = Idle;
+    QString m_errorText;
+    QString m_serverAddress;
+    QDateTime m_startTime;
+};
+
+} // namespace uiutils::demo

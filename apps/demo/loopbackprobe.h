@@ -1,0 +1,90 @@
+#pragma once
+
+#include <QByteArray>
+#include <QElapsedTimer>
+#include <QObject>
+#include <QString>
+#include <QTcpSocket>
+#include <QTimer>
+
+#include <memory>
+
+namespace uiutils::demo {
+
+class LoopbackServer;
+
+/// How one run is to be measured.
+struct LoopbackSettings
+{
+    /// Samples of each quantity.
+    int samples = 20;
+    /// Bytes of the message whose way there and back is timed.
+    int messageBytes = 64;
+    /// Mebibytes (MiB) sent for one throughput sample.
+    int transferMebibytes = 8;
+    /// Pause between two samples in milliseconds, so that they are spread over time.
+    int pauseMilliseconds = 40;
+    /// Silence of the connection, in milliseconds, after which the run fails.
+    int patienceMilliseconds = 5000;
+    /// Port of a server on the loopback address; 0 starts one for the run.
+    quint16 port = 0;
+};
+
+/// One run: connects, takes the samples of the round-trip time and then those of the throughput, all on the
+/// event loop of the thread that it lives in. Delete it to break the run off.
+///
+/// One exchange of each kind before the first sample is not counted: it pays for the start of the connection
+/// and for cold caches.
+class LoopbackProbe : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit LoopbackProbe(const LoopbackSettings& settings);
+    ~LoopbackProbe() override;
+
+    /// Starts the run; call it once, in the probe's own thread.
+    void start();
+
+Q_SIGNALS:
+    /// The client talks to the server at "address:port".
+    void connectedTo(const QString& address);
+    void roundTripTaken(double milliseconds);
+    /// In Mbit/s, a million bits a second.
+    void throughputTaken(double megabitsPerSecond);
+    /// All samples were taken. Either this or failed() ends the run.
+    void finished();
+    /// The run ended early; the text says what happened and what to do.
+    void failed(const QString& text);
+
+private:
+    enum class Phase { Connecting, RoundTrip, Throughput, Over };
+
+    bool openServer();
+    void beginPhase(Phase phase);
+    void beginExchange();
+    void sendMessage();
+    void sendTransfer();
+    void feedTransfer();
+    void readReply();
+    void completeExchange(qint64 nanoseconds);
+    void connectionFailed();
+    void giveUp();
+    void fail(const QString& text);
+    QString activity() const;
+
+    const LoopbackSettings m_settings;
+    std::unique_ptr<LoopbackServer> m_server;
+    QTcpSocket m_socket;
+    QTimer m_pause;
+    QTimer m_patience;
+    QElapsedTimer m_clock;
+    QString m_address;
+    Phase m_phase = Phase::Connecting;
+    /// Samples taken in this phase; -1 while the exchange that is not counted is under way.
+    int m_taken = -1;
+    QByteArray m_expectedReply;
+    qint64 m_unsent = 0;
+};
+
+} // namespace uiutils::demo

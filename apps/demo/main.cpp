@@ -1,0 +1,143 @@
+#include "demooptions.h"
+#include "demotypes.h"
+#include "displaysetup.h"
+#include "instrumentroot.h"
+#include "loopbackmeasurement.h"
+#include "reportsaver.h"
+#include "tour.h"
+
+#include "module/uiutilsmodule.h"
+
+#include <embedded/embeddedbackend.h>
+
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+#include <cstdio>
+
+using namespace uiutils::demo;
+
+namespace {
+
+constexpr int exitDone = 0;
+constexpr int exitFailed = 1;
+constexpr int exitMisused = 2;
+
+void say(const QString& text)
+{
+    std::fprintf(stdout, "%s\n", qUtf8Printable(text));
+    std::fflush(stdout);
+}
+
+int complain(const QString& text, int exitCode = exitFailed)
+{
+    std::fprintf(stderr, "uiutils-demo: %s\n", qUtf8Printable(text));
+    return exitCode;
+}
+
+void list(const QString& heading, const QStringList& files)
+{
+    if (files.isEmpty())
+        return;
+    say(heading);
+    for (const QString& file : files)
+        say(file);
+}
+
+bool loadServices(kiv::embedded::EmbeddedBackend& backend, const QStringList& folders)
+{
+    const QStringList problems = backend.loadFolders(folders);
+    for (const QString& problem : problems)
+        complain(problem);
+    if (!backend.serviceNames().isEmpty())
+        return true;
+    complain(QCoreApplication::translate(
+            "main", "No service could be loaded from %1. Name a folder with service files with --services.")
+                     .arg(folders.join(QStringLiteral(", "))));
+    return false;
+}
+
+/// The main window, or null when its page cannot be loaded.
+QQuickWindow* openWindow(QQmlApplicationEngine& engine, LoopbackMeasurement* measurement, ReportSaver* saver)
+{
+    engine.setInitialProperties({{QStringLiteral("measurement"), QVariant::fromValue(measurement)},
+            {QStringLiteral("saver"), QVariant::fromValue(saver)}});
+    engine.load(QUrl(QStringLiteral("qrc:/uiutils/demo/Main.qml")));
+    return engine.rootObjects().isEmpty() ? nullptr
+                                          : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
+}
+
+int runTour(Tour& tour)
+{
+    QObject::connect(
+            &tour, &Tour::finished, qApp, [] { QCoreApplication::exit(exitDone); }, Qt::QueuedConnection);
+    QObject::connect(
+            &tour, &Tour::failed, qApp, [](const QString& text) { QCoreApplication::exit(complain(text)); },
+            Qt::QueuedConnection);
+    tour.start();
+    return QCoreApplication::exec();
+}
+
+int runDemo(const DemoOptions& options)
+{
+    qputenv("UIUTILS_ROOT", options.root.toLocal8Bit());
+    kiv::embedded::EmbeddedBackend backend;
+    if (!loadServices(backend, options.serviceFolders))
+        return exitFailed;
+    QString error;
+    if (!prepareInstrumentRoot(options.root, &error))
+        return complain(error);
+    say(QCoreApplication::translate("main", "Everything is written below %1").arg(options.root));
+
+    uiutils::registerTypes();
+    registerDemoTypes();
+    // The pages draw their own controls on top of this style; another one would show through.
+    qputenv("QT_QUICK_CONTROLS_STYLE", "Default");
+    const bool isOffScreen = DisplaySetup::isOffScreen();
+    if (isOffScreen)
+        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+
+    LoopbackMeasurement measurement;
+    measurement.setSamples(options.samples);
+    ReportSaver saver;
+    QQmlApplicationEngine engine;
+    QQuickWindow* const window = openWindow(engine, &measurement, &saver);
+    if (!window)
+        return complain(QCoreApplication::translate("main",
+                "The main page could not be loaded, for the reason given above. Check that the QML modules "
+                "QtQuick, "
+                "QtQuick.Controls, QtQuick.Layouts and QtQuick.Window are installed."));
+
+    Tour tour(window, &measurement, options.root + QStringLiteral("/pictures/"));
+    const int exitCode = options.isTour || isOffScreen ? runTour(tour) : QCoreApplication::exec();
+    list(QCoreApplication::translate("main", "Reports:"), saver.files());
+    list(QCoreApplication::translate("main", "Pictures:"), tour.pictures());
+    return exitCode;
+}
+
+/// The options are read before the display is opened, so that --help works without one.
+DemoOptions readOptionsOf(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    return readOptions(QCoreApplication::arguments());
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setApplicationName(QStringLiteral("uiutils-demo"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(UIUTILS_DEMO_VERSION));
+    const DemoOptions options = readOptionsOf(argc, argv);
+    if (options.outcome == DemoOptions::Misused)
+        return complain(options.message, exitMisused);
+    if (options.outcome == DemoOptions::Answered) {
+        std::fputs(qUtf8Printable(options.message), stdout);
+        return exitDone;
+    }
+
+    const DisplaySetup display;
+    const QGuiApplication application(argc, argv);
+    return runDemo(options);
+}

@@ -1,0 +1,101 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Layouts 1.15
+import UiUtils.Demo 1.0
+
+ApplicationWindow {
+    id: window
+
+    required property LoopbackMeasurement measurement
+    required property ReportSaver saver
+    // The page shown: 0 Measure, 1 Results, 2 Report.
+    property alias page: navigation.currentIndex
+
+    // Saves the report of the last run; the reason when that failed, an empty text when it did not.
+    function saveReport() {
+        return reportPage.save()
+    }
+
+    width: 1024
+    height: 600
+    minimumWidth: 880
+    minimumHeight: 540
+    visible: true
+    title: qsTr("TCP loopback test")
+    background: Rectangle { color: Theme.background }
+
+    header: Rectangle {
+        implicitHeight: 56
+        color: Theme.card
+
+        RowLayout {
+            anchors { fill: parent; leftMargin: Theme.margin; rightMargin: Theme.margin }
+            spacing: Theme.margin
+
+            Image {
+                Layout.preferredWidth: 150
+                Layout.preferredHeight: 40
+                horizontalAlignment: Image.AlignLeft
+                source: "qrc:/uiutils/images/Norda_Color-medium.png"
+                fillMode: Image.PreserveAspectFit
+                mipmap: true
+                Accessible.ignored: true
+            }
+            Text {
+                Layout.fillWidth: true
+                text: window.title
+                color: Theme.text
+                font.pixelSize: Theme.headingText
+                horizontalAlignment: Text.AlignHCenter
+            }
+            Item {
+                Layout.preferredWidth: 150
+                Layout.preferredHeight: 40
+
+                StatusBadge {
+                    anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+                    status: window.measurement.status
+                    word: window.measurement.roundTrip.statusText(status)
+                    pixelSize: Theme.headingText
+                }
+            }
+        }
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 1
+            color: Theme.border
+        }
+    }
+
+    StackLayout {
+        anchors.fill: parent
+        currentIndex: navigation.currentIndex
+
+        MeasurePage {
+            focus: true
+            measurement: window.measurement
+        }
+        ResultsPage {
+            measurement: window.measurement
+        }
+        ReportPage {
+            id: reportPage
+            measurement: window.measurement
+            saver: window.saver
+        }
+    }
+
+    footer: TabBar {
+        id: navigation
+        spacing: 0
+
+        NavigationTab { text: qsTr("Measure") }
+        NavigationTab { text: qsTr("Results") }
+        NavigationTab { text: qsTr("Report") }
+    }
+
+    Shortcut { sequence: "Ctrl+1"; onActivated: navigation.currentIndex = 0 }
+    Shortcut { sequence: "Ctrl+2"; onActivated: navigation.currentIndex = 1 }
+    Shortcut { sequence: "Ctrl+3"; onActivated: navigation.currentIndex = 2 }
+}

@@ -1,0 +1,28 @@
+import QtQuick 2.15
+import UiUtils.Demo 1.0
+
+// Icon and word of a status; nothing for no status.
+Row {
+    id: badge
+
+    property int status: 0
+    property string word
+    property int pixelSize: Theme.bodyText
+
+    visible: status !== 0
+    spacing: 6
+
+    Image {
+        anchors.verticalCenter: parent.verticalCenter
+        width: 22
+        height: 22
+        smooth: true
+        source: Theme.statusIcon(badge.status)
+    }
+    Text {
+        anchors.verticalCenter: parent.verticalCenter
+        text: badge.word
+        color: Theme.text
+        font.pixelSize: badge.pixelSize
+    }
+}

@@ -1,0 +1,19 @@
+import QtQuick 2.15
+import UiUtils.Demo 1.0
+
+// A small number under its name.
+Column {
+    property alias name: nameText.text
+    property alias value: valueText.text
+
+    Text {
+        id: nameText
+        color: Theme.mutedText
+        font.pixelSize: Theme.smallText
+    }
+    Text {
+        id: valueText
+        color: Theme.text
+        font.pixelSize: Theme.bodyText
+    }
+}

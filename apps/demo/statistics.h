@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QVector>
+
+namespace uiutils::demo {
+
+/// What a series of samples comes to, in the unit of the samples. All zero for an empty series.
+struct Statistics
+{
+    int count = 0;
+    double minimum = 0;
+    /// The middle sample by size, or the mean of the two middle ones.
+    double median = 0;
+    double maximum = 0;
+    /// Mean of the absolute differences of neighbouring samples; zero for fewer than two.
+    double jitter = 0;
+};
+
+/// The statistics of the samples, which are given in the order in which they were taken.
+Statistics statisticsOf(const QVector<double>& samples);
+
+} // namespace uiutils::demo

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QObject>
+#include <QQueue>
+#include <QQuickItemGrabResult>
+#include <QQuickWindow>
+#include <QSharedPointer>
+#include <QStringList>
+#include <QTimer>
+
+namespace uiutils::demo {
+
+class LoopbackMeasurement;
+
+/// Uses the demo the way a user does, by itself: measures, looks at each page, saves the report.
+///
+/// It owns none of what it is given. Pictures of the pages are written to a folder; a picture is there whole
+/// or not at all.
+class Tour : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `window` is the loaded main page; `pictures` the folder of the pictures, with a "/" at its end.
+    Tour(QQuickWindow* window, LoopbackMeasurement* measurement, const QString& pictures);
+
+    /// The pictures written so far.
+    QStringList pictures() const { return m_pictures; }
+
+    void start();
+
+Q_SIGNALS:
+    /// Everything is done.
+    void finished();
+    /// The tour ended early; the text says what happened and what to do.
+    void failed(const QString& text);
+
+private:
+    enum Page { MeasurePage, ResultsPage, ReportPage };
+
+    /// A page to show and the name of its picture.
+    struct Stop
+    {
+        Page page;
+        QString picture;
+        bool savesReport = false;
+    };
+
+    void watchSamples();
+    void visitAll();
+    void visit(const Stop& stop);
+    void visitNext();
+    void takePicture(const QString& name);
+    void keepPicture(const QString& path);
+    bool saveReport();
+    void fail(const QString& text);
+
+    QQuickWindow* const m_window;
+    LoopbackMeasurement* const m_measurement;
+    const QString m_folder;
+    QStringList m_pictures;
+    QQueue<Stop> m_stops;
+    /// The picture under way; null between pictures.
+    QSharedPointer<QQuickItemGrabResult> m_grab;
+    /// Runs while a picture is under way.
+    QTimer m_patience;
+    bool m_isMeasured = false;
+    bool m_isOver = false;
+};
+
+} // namespace uiutils::demo

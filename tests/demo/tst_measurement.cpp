@@ -1,0 +1,251 @@
+#include "loopbackmeasurement.h"
+#include "loopbackprotocol.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QtTest>
+
+#include <functional>
+#include <memory>
+
+using namespace uiutils::demo;
+
+/// What a far end does with a connection.
+using Serve = std::function<void(QTcpSocket*)>;
+Q_DECLARE_METATYPE(Serve)
+
+namespace {
+
+constexpr int samples = LoopbackMeasurement::fewestSamples;
+constexpr int longWait = 60000;
+
+/// A far end that does what a test wants done with each connection.
+class TestServer : public QTcpServer
+{
+public:
+    explicit TestServer(const Serve& serve)
+    {
+        connect(this, &QTcpServer::newConnection, this, [this, serve] { serve(nextPendingConnection()); });
+        if (!listen(QHostAddress::LocalHost))
+            qFatal("The test server cannot listen: %s", qPrintable(errorString()));
+    }
+};
+
+/// Answers as the protocol wants, each request `delay` milliseconds after its last byte.
+Serve answeringAfter(int delay)
+{
+    return [delay](QTcpSocket* socket) {
+        struct Request
+        {
+            protocol::Header header;
+            QByteArray bytes;
+            qint64 missing = -1;
+        };
+        auto request = std::make_shared<Request>();
+        QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket, delay, request] {
+            if (request->missing < 0) {
+                request->bytes = socket->read(protocol::headerSize);
+                if (!protocol::decode(request->bytes, &request->header))
+                    qFatal("The client sent no request.");
+                request->missing = qint64(request->header.payload);
+            }
+            const QByteArray payload = socket->read(request->missing);
+            request->missing -= payload.size();
+            if (request->header.kind == protocol::Echo)
+                request->bytes += payload;
+            if (request->missing > 0)
+                return;
+            request->missing = -1;
+            QTimer::singleShot(
+                    delay, Qt::PreciseTimer, socket, [socket, request] { socket->write(request->bytes); });
+        });
+    };
+}
+
+} // namespace
+
+class MeasurementTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_measurement = std::make_unique<LoopbackMeasurement>();
+        m_measurement->setPause(0);
+        m_finished = std::make_unique<QSignalSpy>(m_measurement.get(), &LoopbackMeasurement::finished);
+        m_failed = std::make_unique<QSignalSpy>(m_measurement.get(), &LoopbackMeasurement::failed);
+        m_cancelled = std::make_unique<QSignalSpy>(m_measurement.get(), &LoopbackMeasurement::cancelled);
+        m_taken = std::make_unique<QSignalSpy>(m_measurement.get(), &LoopbackMeasurement::sampleTaken);
+    }
+
+    void wholeRun()
+    {
+        QCOMPARE(m_measurement->state(), LoopbackMeasurement::Idle);
+        QCOMPARE(m_measurement->progress(), 0.0);
+        QList<LoopbackMeasurement::State> states;
+        connect(m_measurement.get(), &LoopbackMeasurement::stateChanged, this,
+                [&] { states += m_measurement->state(); });
+        m_measurement->start();
+        // A second start has nothing to say while the first runs.
+        m_measurement->start();
+        QVERIFY(m_finished->wait(longWait));
+
+        QCOMPARE(states,
+                (QList<LoopbackMeasurement::State>{LoopbackMeasurement::Connecting,
+                        LoopbackMeasurement::MeasuringRoundTrip, LoopbackMeasurement::MeasuringThroughput,
+                        LoopbackMeasurement::Finished}));
+        QCOMPARE(m_taken->count(), 2 * samples);
+        QCOMPARE(m_measurement->roundTrip()->count(), samples);
+        QCOMPARE(m_measurement->throughput()->count(), samples);
+        QVERIFY(m_measurement->roundTrip()->minimum() > 0);
+        QVERIFY(m_measurement->throughput()->minimum() > 0);
+        QCOMPARE(m_measurement->progress(), 1.0);
+        QVERIFY(m_measurement->status() != StatusNone);
+        QVERIFY(m_measurement->serverAddress().startsWith("127.0.0.1:"));
+        QVERIFY(QDateTime::fromString(m_measurement->startTime(), Qt::ISODate).isValid());
+        QCOMPARE(m_failed->count(), 0);
+    }
+
+    /// A far end of known slowness bounds every sample from below, the clock on the wall bounds their sum
+    /// from above: a slip in a unit or in what is timed breaks one of the two.
+    void samplesAgreeWithTheClock()
+    {
+        constexpr int delay = 4;
+        constexpr double transferMegabits = 8 * 1024 * 1024 * 8 / 1e6;
+        const TestServer server(answeringAfter(delay));
+        m_measurement->setServerPort(server.serverPort());
+        QElapsedTimer clock;
+        clock.start();
+        m_measurement->start();
+        QVERIFY(m_finished->wait(longWait));
+        const double elapsed = double(clock.elapsed()) + 1;
+
+        double sum = 0;
+        for (int i = 0; i < samples; ++i) {
+            const double roundTrip = m_measurement->roundTrip()->valueAt(i);
+            const double transfer = transferMegabits / m_measurement->throughput()->valueAt(i) * 1000;
+            // Timers are allowed to be early by less than a millisecond.
+            QVERIFY2(roundTrip > delay - 1, qPrintable(QString::number(roundTrip)));
+            QVERIFY2(transfer > delay - 1, qPrintable(QString::number(transfer)));
+            sum += roundTrip + transfer;
+        }
+        QVERIFY2(sum <= elapsed, qPrintable(QStringLiteral("%1 ms of %2 ms").arg(sum).arg(elapsed)));
+    }
+
+    void cancelledInMidRunAndStartedAgain_data()
+    {
+        QTest::addColumn<int>("after");
+        QTest::newRow("before the first sample") << 0;
+        QTest::newRow("in the round-trip time") << 3;
+        QTest::newRow("in the throughput") << samples + 3;
+    }
+
+    void cancelledInMidRunAndStartedAgain()
+    {
+        QFETCH(const int, after);
+        const auto cancelIfDue = [&] {
+            if (m_taken->count() == after)
+                m_measurement->cancel();
+        };
+        const auto connection
+                = connect(m_measurement.get(), &LoopbackMeasurement::sampleTaken, this, cancelIfDue);
+        m_measurement->start();
+        cancelIfDue();
+        QTRY_COMPARE_WITH_TIMEOUT(m_cancelled->count(), 1, longWait);
+        QCOMPARE(m_measurement->state(), LoopbackMeasurement::Cancelled);
+        QCOMPARE(m_taken->count(), after);
+        QCOMPARE(m_measurement->status(), int(StatusNone));
+        disconnect(connection);
+
+        // Samples of the first run that were still on their way must not be counted in the second.
+        m_measurement->start();
+        QVERIFY(m_finished->wait(longWait));
+        QCOMPARE(m_taken->count(), after + 2 * samples);
+        QCOMPARE(m_measurement->roundTrip()->count(), samples);
+        QCOMPARE(m_measurement->throughput()->count(), samples);
+        QCOMPARE(m_cancelled->count(), 1);
+        QCOMPARE(m_failed->count(), 0);
+    }
+
+    void cancelWithoutARunDoesNothing()
+    {
+        m_measurement->cancel();
+        QCOMPARE(m_cancelled->count(), 0);
+        QCOMPARE(m_measurement->state(), LoopbackMeasurement::Idle);
+    }
+
+    void badServerFailsInWords_data()
+    {
+        QTest::addColumn<Serve>("serve");
+        QTest::addColumn<QString>("what");
+        QTest::newRow("never answers") << Serve([](QTcpSocket*) {}) << "was silent for 0.2 s";
+        QTest::newRow("closes") << Serve([](QTcpSocket* socket) { socket->close(); }) << "broke while";
+        QTest::newRow("babbles") << Serve([](QTcpSocket* socket) { socket->write(QByteArray(64, 'x')); })
+                                 << "does not belong to the question";
+    }
+
+    void badServerFailsInWords()
+    {
+        QFETCH(const Serve, serve);
+        QFETCH(const QString, what);
+        const TestServer server(serve);
+        m_measurement->setServerPort(server.serverPort());
+        m_measurement->setPatience(200);
+        m_measurement->start();
+        QVERIFY(m_failed->wait(longWait));
+
+        QCOMPARE(m_measurement->state(), LoopbackMeasurement::Failed);
+        const QString text = m_measurement->errorText();
+        QVERIFY2(text.contains(what), qPrintable(text));
+        QVERIFY2(text.contains(QStringLiteral("127.0.0.1:%1").arg(server.serverPort())), qPrintable(text));
+        QVERIFY2(text.contains("start again"), qPrintable(text));
+        QCOMPARE(m_taken->count(), 0);
+        QCOMPARE(m_finished->count(), 0);
+
+        // The next run, with a server of its own, knows nothing of it.
+        m_measurement->setServerPort(0);
+        m_measurement->setPatience(longWait);
+        m_measurement->start();
+        QVERIFY(m_measurement->errorText().isEmpty());
+        QVERIFY(m_finished->wait(longWait));
+        QCOMPARE(m_failed->count(), 1);
+    }
+
+    void nobodyListening()
+    {
+        quint16 freePort = 0;
+        {
+            const TestServer server([](QTcpSocket*) {});
+            freePort = server.serverPort();
+        }
+        m_measurement->setServerPort(freePort);
+        m_measurement->start();
+        QVERIFY(m_failed->wait(longWait));
+        QVERIFY2(m_measurement->errorText().contains("while connecting"),
+                qPrintable(m_measurement->errorText()));
+    }
+
+    void destroyedInMidRun()
+    {
+        m_measurement->start();
+        QTRY_VERIFY_WITH_TIMEOUT(m_measurement->throughput()->count() > 2, longWait);
+        m_measurement.reset();
+
+        // Nor does it matter that the run has hardly begun.
+        LoopbackMeasurement shortLived;
+        shortLived.start();
+    }
+
+private:
+    std::unique_ptr<LoopbackMeasurement> m_measurement;
+    std::unique_ptr<QSignalSpy> m_finished;
+    std::unique_ptr<QSignalSpy> m_failed;
+    std::unique_ptr<QSignalSpy> m_cancelled;
+    std::unique_ptr<QSignalSpy> m_taken;
+};
+
+QTEST_GUILESS_MAIN(MeasurementTest)
+#include "tst_measurement.moc"

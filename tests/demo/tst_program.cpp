@@ -1,0 +1,263 @@
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QImage>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+struct Outcome
+{
+    int exitCode = -1;
+    QString output;
+    QString errors;
+};
+
+/// Runs the demo where there is no display, but for what `variables` say.
+Outcome runDemo(const QStringList& arguments, const QMap<QString, QString>& variables = {})
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name :
+            {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_QUICK_BACKEND", "XDG_RUNTIME_DIR"})
+        environment.remove(name);
+    for (auto it = variables.begin(); it != variables.end(); ++it)
+        environment.insert(it.key(), it.value());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(UIUTILS_DEMO_PROGRAM), arguments);
+    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit) {
+        process.kill();
+        process.waitForFinished();
+        return {-1, process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+QByteArray contentsOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList filesBelow(const QString& folder)
+{
+    QStringList files;
+    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        files += it.next();
+    files.sort();
+    return files;
+}
+
+/// What a reader of the page sees, words apart by single blanks.
+QString wordsOf(const QByteArray& html)
+{
+    return QString::fromUtf8(html).remove(QRegularExpression("<[^>]*>")).simplified();
+}
+
+/// "Sample 1 0.05 ms Sample 2 ..." of a section's table.
+QStringList samplesOf(const QJsonObject& section)
+{
+    const QJsonObject table = section["table_0"].toObject();
+    QMap<int, QString> rows;
+    for (auto it = table.begin(); it != table.end(); ++it) {
+        const QJsonObject row = it.value().toObject();
+        if (it.key().startsWith("row_"))
+            rows[it.key().mid(4).toInt()]
+                    = row["label"].toString() + ' ' + row["cell_0"].toObject()["label"].toString();
+    }
+    return rows.values();
+}
+
+} // namespace
+
+class ProgramTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+    }
+
+    void tour_data()
+    {
+        QTest::addColumn<int>("samples");
+        QTest::newRow("as few as may be") << 20;
+        QTest::newRow("numbers of three digits") << 120;
+    }
+
+    void tour()
+    {
+        QFETCH(const int, samples);
+        const QString root = m_folder->filePath("a new/root");
+        const Outcome outcome = runDemo({"--tour", "--root", root, "--samples", QString::number(samples)});
+        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
+        QCOMPARE(outcome.errors, QString());
+
+        const QStringList reports = filesBelow(root + "/cust/public/reports");
+        const QStringList pictures = filesBelow(root + "/pictures");
+        QCOMPARE(reports.size(), 2);
+        QCOMPARE(pictures.size(), 4);
+        for (const QString& file : reports + pictures)
+            QVERIFY2(outcome.output.split('\n').contains(file), qPrintable(outcome.output));
+        checkReport(reports.at(0), reports.at(1), samples);
+        for (const QString& picture : pictures)
+            checkPicture(picture);
+    }
+
+    /// Without a display, or with one that does not answer, nobody has to ask for the tour.
+    void runsByItself_data()
+    {
+        QTest::addColumn<QString>("display");
+        QTest::newRow("no display") << "";
+        QTest::newRow("a display that is not there") << "127.0.0.1:9999";
+    }
+
+    void runsByItself()
+    {
+        QFETCH(const QString, display);
+        const Outcome outcome = runDemo({}, {{"UIUTILS_ROOT", m_folder->path()}, {"DISPLAY", display}});
+        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
+        QCOMPARE(filesBelow(m_folder->filePath("cust/public/reports")).size(), 2);
+    }
+
+    void secondTourBesideTheFirst()
+    {
+        const QString root = m_folder->path();
+        QCOMPARE(runDemo({"--tour", "--root", root}).exitCode, 0);
+        const QString icon = root + "/base/qml/common/images/pass_icon.png";
+        const QByteArray drawn = contentsOf(icon);
+        QVERIFY(!QImage::fromData(drawn).isNull());
+        QFile damaged(icon);
+        QVERIFY(damaged.open(QIODevice::WriteOnly));
+        damaged.write("damaged");
+        damaged.close();
+
+        QCOMPARE(runDemo({"--tour", "--root", root}).exitCode, 0);
+        QCOMPARE(contentsOf(icon), drawn);
+    }
+
+    void failures_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("root is a file") << QStringList{"--tour", "--root", "%1/file"} << "%1/file is a file";
+        QTest::newRow("root below a file")
+                << QStringList{"--tour", "--root", "%1/file/root"} << "%1/file is a file";
+        QTest::newRow("icon folder is a file")
+                << QStringList{"--tour", "--root", "%1/blocked"} << "%1/blocked/base is a file";
+        QTest::newRow("no service folder") << QStringList{"--tour", "--root", "%1/root", "--services",
+                "%1/none"} << "No service could be loaded from %1/none";
+        QTest::newRow("broken service") << QStringList{"--tour", "--root", "%1/root", "--services",
+                "%1/broken"} << "bad.service.json";
+    }
+
+    /// Each ends with exit status 1 and a sentence, and leaves the disk as it was.
+    void failures()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, sentence);
+        QDir folder(m_folder->path());
+        QVERIFY(folder.mkpath("broken") && folder.mkpath("blocked"));
+        for (const char* name : {"file", "blocked/base", "broken/bad.service.json"}) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("{ no service");
+        }
+        const QStringList before = filesBelow(folder.path());
+
+        const Outcome outcome = runDemo(arguments.replaceInStrings("%1", folder.path()));
+        QCOMPARE(outcome.exitCode, 1);
+        sentence.replace("%1", folder.path());
+        QVERIFY2(outcome.errors.contains(sentence), qPrintable(outcome.errors));
+        QCOMPARE(filesBelow(folder.path()), before);
+        QVERIFY(!folder.exists("root"));
+    }
+
+    /// A folder stands where the last picture should go: what was finished before is kept and named.
+    void pictureThatCannotBeWritten()
+    {
+        QVERIFY(QDir(m_folder->path()).mkpath("pictures/4-report.png"));
+        const Outcome outcome = runDemo({"--tour", "--root", m_folder->path()});
+        QCOMPARE(outcome.exitCode, 1);
+        QVERIFY2(outcome.errors.contains("4-report.png"), qPrintable(outcome.errors));
+        QCOMPARE(filesBelow(m_folder->filePath("pictures")).size(), 3);
+        QVERIFY(outcome.output.contains("3-results.png"));
+        QVERIFY(!outcome.output.contains("4-report.png"));
+    }
+
+    void commandLine_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
+        QTest::newRow("help") << QStringList{"--help"} << 0;
+        QTest::newRow("version") << QStringList{"--version"} << 0;
+        QTest::newRow("unknown option") << QStringList{"--rot", "x"} << 2;
+        QTest::newRow("argument") << QStringList{"x"} << 2;
+        QTest::newRow("no root") << QStringList{"--root"} << 2;
+        QTest::newRow("empty root") << QStringList{"--root", ""} << 2;
+        QTest::newRow("too few samples") << QStringList{"--samples", "19"} << 2;
+        QTest::newRow("too many samples") << QStringList{"--samples", "201"} << 2;
+        QTest::newRow("no number") << QStringList{"--samples", "many"} << 2;
+    }
+
+    void commandLine()
+    {
+        QFETCH(const QStringList, arguments);
+        const Outcome outcome = runDemo(arguments);
+        QTEST(outcome.exitCode, "exitCode");
+        // An answer goes to standard output, a complaint to standard error.
+        QCOMPARE(outcome.output.isEmpty(), outcome.exitCode != 0);
+        QCOMPARE(outcome.errors.isEmpty(), outcome.exitCode == 0);
+    }
+
+private:
+    void checkReport(const QString& page, const QString& document, int samples)
+    {
+        QVERIFY(page.endsWith(".html") && document.endsWith(".json"));
+        const QJsonObject report = QJsonDocument::fromJson(contentsOf(document)).object();
+        const QJsonObject section = report["section_0"].toObject();
+        const QStringList roundTrips = samplesOf(section["section_0"].toObject());
+        const QStringList throughputs = samplesOf(section["section_1"].toObject());
+        QCOMPARE(roundTrips.size(), samples);
+        QCOMPARE(throughputs.size(), samples);
+        QCOMPARE(section["attr_samples"].toString(), QString::number(samples));
+
+        // All samples stand on the page in the order in which they were taken.
+        const QByteArray html = contentsOf(page);
+        const QString words = wordsOf(html);
+        QVERIFY2(words.contains(roundTrips.join(' ')), qPrintable(words));
+        QVERIFY2(words.contains(throughputs.join(' ')), qPrintable(words));
+        QVERIFY(QRegularExpression("report_status=(pass|marginal|fail)").match(html).hasMatch());
+
+        // The page needs no other file.
+        QVERIFY(html.contains("src=\"data:image/png;base64,"));
+        QVERIFY(!QRegularExpression("src=\"(?!data:)").match(html).hasMatch());
+    }
+
+    /// A page has far more than one colour; a window that drew nothing has not.
+    void checkPicture(const QString& path)
+    {
+        const QImage image(path);
+        QCOMPARE(image.size(), QSize(1024, 600));
+        QSet<QRgb> colors;
+        for (int y = 0; y < image.height(); y += 2) {
+            for (int x = 0; x < image.width(); x += 2)
+                colors.insert(image.pixel(x, y));
+        }
+        QVERIFY2(colors.size() > 20, qPrintable(path));
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+QTEST_GUILESS_MAIN(ProgramTest)
+#include "tst_program.moc"

@@ -1,0 +1,126 @@
+#include "limit.h"
+#include "samplemodel.h"
+#include "statistics.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace uiutils::demo;
+
+class StatisticsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void statistics_data()
+    {
+        QTest::addColumn<QVector<double>>("samples");
+        QTest::addColumn<double>("minimum");
+        QTest::addColumn<double>("median");
+        QTest::addColumn<double>("maximum");
+        QTest::addColumn<double>("jitter");
+        QTest::newRow("none") << QVector<double>{} << 0.0 << 0.0 << 0.0 << 0.0;
+        QTest::newRow("one") << QVector<double>{7} << 7.0 << 7.0 << 7.0 << 0.0;
+        QTest::newRow("odd, unsorted") << QVector<double>{9, 1, 5} << 1.0 << 5.0 << 9.0 << 6.0;
+        QTest::newRow("even: mean of the middle two")
+                << QVector<double>{8, 2, 4, 100} << 2.0 << 6.0 << 100.0 << 104.0 / 3;
+        QTest::newRow("order matters to jitter only")
+                << QVector<double>{2, 4, 8, 100} << 2.0 << 6.0 << 100.0 << 98.0 / 3;
+        QTest::newRow("all the same") << QVector<double>{3, 3, 3, 3} << 3.0 << 3.0 << 3.0 << 0.0;
+    }
+
+    void statistics()
+    {
+        QFETCH(const QVector<double>, samples);
+        const Statistics result = statisticsOf(samples);
+        QCOMPARE(result.count, samples.size());
+        QTEST(result.minimum, "minimum");
+        QTEST(result.median, "median");
+        QTEST(result.maximum, "maximum");
+        QTEST(result.jitter, "jitter");
+    }
+
+    void judge_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<double>("value");
+        QTest::addColumn<int>("status");
+        const auto row = [](const char* name, Limit::Kind kind, double value, Status status) {
+            QTest::newRow(name) << int(kind) << value << int(status);
+        };
+        row("well below a ceiling", Limit::AtMost, 1, StatusPass);
+        row("a fifth below a ceiling", Limit::AtMost, 80, StatusPass);
+        row("just below a ceiling", Limit::AtMost, 80.1, StatusMarginal);
+        row("on a ceiling", Limit::AtMost, 100, StatusMarginal);
+        row("above a ceiling", Limit::AtMost, 100.1, StatusFail);
+        row("well above a floor", Limit::AtLeast, 1000, StatusPass);
+        row("a fifth above a floor", Limit::AtLeast, 120, StatusPass);
+        row("just above a floor", Limit::AtLeast, 119.9, StatusMarginal);
+        row("on a floor", Limit::AtLeast, 100, StatusMarginal);
+        row("below a floor", Limit::AtLeast, 99.9, StatusFail);
+    }
+
+    void judge()
+    {
+        QFETCH(const int, kind);
+        QFETCH(const double, value);
+        const Limit limit{Limit::Kind(kind), 100};
+        QTEST(int(limit.judge(value)), "status");
+    }
+
+    /// Three digits count, none is invented beyond what the clock tells, and zero is no trap.
+    void texts_data()
+    {
+        QTest::addColumn<int>("mostDecimals");
+        QTest::addColumn<double>("value");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("zero") << 4 << 0.0 << "0.000 u";
+        QTest::newRow("tiny") << 4 << 0.00042 << "0.0004 u";
+        QTest::newRow("below a tenth") << 4 << 0.02194 << "0.0219 u";
+        QTest::newRow("below one") << 4 << 0.1234 << "0.123 u";
+        QTest::newRow("one") << 4 << 1.0 << "1.00 u";
+        QTest::newRow("hundreds") << 4 << 123.4 << "123 u";
+        QTest::newRow("no decimals") << 0 << 12345.6 << "12346 u";
+    }
+
+    void texts()
+    {
+        QFETCH(const int, mostDecimals);
+        QFETCH(const double, value);
+        QLocale::setDefault(QLocale::c());
+        const SampleModel model("Quantity", "u", mostDecimals, {Limit::AtMost, 1}, nullptr);
+        QTEST(model.text(value), "text");
+    }
+
+    /// A new limit judges what is there already, and a limit that makes no sense changes nothing.
+    void changedLimitJudgesAnew()
+    {
+        SampleModel model("Time", "ms", 3, {Limit::AtMost, 1}, nullptr);
+        QCOMPARE(model.status(), int(StatusNone));
+        model.append(0.5);
+        model.append(0.25);
+        QCOMPARE(model.status(), int(StatusPass));
+
+        const QSignalSpy rejudged(&model, &SampleModel::dataChanged);
+        const QSignalSpy statusChanged(&model, &SampleModel::statusChanged);
+        model.setLimit(0.3);
+        QCOMPARE(rejudged.count(), 1);
+        QCOMPARE(statusChanged.count(), 1);
+        QCOMPARE(model.data(model.index(0), SampleModel::StatusRole).toInt(), int(StatusFail));
+        QCOMPARE(model.data(model.index(1), SampleModel::StatusRole).toInt(), int(StatusMarginal));
+        QCOMPARE(model.status(), int(StatusFail));
+
+        model.setLimit(0);
+        model.setLimit(-1);
+        QCOMPARE(model.limit(), 0.3);
+        QCOMPARE(rejudged.count(), 1);
+
+        model.clear();
+        QCOMPARE(model.count(), 0);
+        QCOMPARE(model.maximum(), 0.0);
+        QCOMPARE(model.status(), int(StatusNone));
+    }
+};
+
+QTEST_GUILESS_MAIN(StatisticsTest)
+#include "tst_statistics.moc"
