@@ -47,7 +47,10 @@ private Q_SLOTS:
         QCOMPARE(attributes.at(1).name, QString("a"));
         QCOMPARE(attributes.at(1).value, QString("1.5"));
         QCOMPARE(attributes.at(2).value, QString("2"));
-        QCOMPARE(node.logEntries(), (QStringList {"first", "second", ""}));
+        QStringList entries;
+        for (const NodeReader::LogEntry& entry : node.logEntries())
+            entries += entry.key + "=" + entry.text;
+        QCOMPARE(entries, (QStringList {"log_0=first", "log_1=second", "log_2="}));
     }
 
     void enabled_data()

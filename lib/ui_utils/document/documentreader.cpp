@@ -45,12 +45,13 @@ QVector<NodeReader::Attribute> NodeReader::attributes() const
     return attributes;
 }
 
-QStringList NodeReader::logEntries() const
+QVector<NodeReader::LogEntry> NodeReader::logEntries() const
 {
-    QStringList entries;
+    QVector<LogEntry> entries;
     for (auto it = m_node.begin(); it != m_node.end(); ++it) {
-        if (it.key().startsWith(keys::logFamily))
-            entries += shownTextOf(it.value());
+        const QString key = it.key();
+        if (key.startsWith(keys::logFamily))
+            entries.append({key, shownTextOf(it.value())});
     }
     return entries;
 }

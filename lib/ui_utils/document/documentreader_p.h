@@ -5,7 +5,11 @@
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
+#include <QVarLengthArray>
 #include <QVector>
+
+#include <algorithm>
+#include <utility>
 
 namespace uiutils {
 
@@ -28,6 +32,12 @@ public:
         QString value;
     };
 
+    struct LogEntry
+    {
+        QString key;
+        QString text;
+    };
+
     explicit NodeReader(const QJsonObject& node)
         : m_node(node)
     {
@@ -44,8 +54,8 @@ public:
     /// The "attr_" keys, their prefix taken off, in key order.
     QVector<Attribute> attributes() const;
 
-    /// The texts of the "log_" keys in key order.
-    QStringList logEntries() const;
+    /// The "log_" keys and their texts in key order.
+    QVector<LogEntry> logEntries() const;
 
     /// Calls visit(QJsonObject section) for each section.
     template<typename Visitor> void forEachSection(Visitor visit) const
@@ -71,6 +81,21 @@ protected:
 
     QJsonObject m_node;
 };
+
+/// Calls visit(QJsonObject cell) for each cell of a row, in the order of their numbers.
+template<typename Visitor> void forEachCell(const QJsonObject& row, Visitor visit)
+{
+    QVarLengthArray<std::pair<int, QJsonObject>, 16> cells;
+    for (auto it = row.begin(); it != row.end(); ++it) {
+        const QJsonValue value = it.value();
+        const QString key = it.key();
+        if (value.isObject() && key.startsWith(keys::cellFamily))
+            cells.append({key.midRef(keys::cellFamily.size()).toInt(), value.toObject()});
+    }
+    std::stable_sort(cells.begin(), cells.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    for (const auto& cell : cells)
+        visit(cell.second);
+}
 
 /// Reads a table node.
 class TableReader : public NodeReader

@@ -18,31 +18,33 @@ QStringList baseManagerList(QLatin1String id)
     return item ? item->getValue().toStringList() : QStringList();
 }
 
-LabelledTexts userFields(QLatin1String listId)
+QString shownLabel(const QString& label, const QString& name)
 {
-    LabelledTexts fields;
-    const QStringList names = baseManagerList(listId);
-    if (names.isEmpty())
-        return fields;
-    const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
-    for (const QString& name : names) {
-        const QString id = name.startsWith(QLatin1Char(':')) ? name : itemids::systemSetting + name + QLatin1Char(':');
-        if (const KIVClientItem* item = client->getItem(id))
-            fields.append({item->getLabel(), item->getValueString()});
-    }
-    return fields;
+    return label.isEmpty() ? name : label;
 }
 
 } // namespace
 
-LabelledTexts technicianFields()
+QStringList technicianFieldNames()
 {
-    return userFields(itemids::technicianFields);
+    return baseManagerList(itemids::technicianFields);
 }
 
-LabelledTexts customerFields()
+QStringList customerFieldNames()
 {
-    return userFields(itemids::customerFields);
+    return baseManagerList(itemids::customerFields);
+}
+
+LabelledTexts userFields(const QStringList& names)
+{
+    LabelledTexts fields;
+    const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
+    for (const QString& name : names) {
+        const QString id = name.startsWith(QLatin1Char(':')) ? name : itemids::systemSetting + name + QLatin1Char(':');
+        if (const KIVClientItem* item = client ? client->getItem(id) : nullptr)
+            fields.append({shownLabel(item->getLabel(), item->getName()), item->getValueString()});
+    }
+    return fields;
 }
 
 LabelledTexts jobFields()
@@ -93,21 +95,23 @@ QVector<QStringList> hardwareAssemblies()
     return assemblies;
 }
 
-LabelledTexts configurationValues(const QString& service, const QString& module)
+KIVItemSnapshot settingsOf(const QString& service)
 {
-    LabelledTexts values;
     const KIVClientInterface* client = service.isEmpty() ? KIVClientInterface::getBaseMgrClient()
                                                          : KIVClientInterface::getSessionBusClient(service);
-    if (!client || module.isEmpty())
+    return KIVItemSnapshot(client, itemids::configuration);
+}
+
+LabelledTexts configurationValues(const KIVItemSnapshot& settings, const QString& module)
+{
+    LabelledTexts values;
+    if (module.isEmpty())
         return values;
     const QString word = QLatin1Char(':') + module + QLatin1Char(':');
-    const QStringList ids = client->getItemIds(itemids::configuration);
-    for (const QString& id : ids) {
-        const KIVClientItem* item = id.contains(word) ? client->getItem(id) : nullptr;
-        if (!item)
-            continue;
-        const QString label = item->getLabel().isEmpty() ? item->getName() : item->getLabel();
-        values.append({label, item->getValue().isValid() ? item->getValueString() : QStringLiteral("default")});
+    for (const KIVItemSnapshot::Item& item : settings.items()) {
+        if (item.id.contains(word))
+            values.append({shownLabel(item.label, item.name),
+                    item.value.isValid() ? item.valueString : QStringLiteral("default")});
     }
     return values;
 }

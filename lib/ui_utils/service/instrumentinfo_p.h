@@ -1,5 +1,7 @@
 #pragma once
 
+#include <kiv/kivitemsnapshot.h>
+
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -15,10 +17,13 @@ struct LabelledText
 };
 using LabelledTexts = QVector<LabelledText>;
 
-/// The technician's and the customer's fields that the unit is set to include in reports, in the set order, with
-/// their values as the service gives them ("default" where nobody entered anything).
-LabelledTexts technicianFields();
-LabelledTexts customerFields();
+/// Names of the technician's and the customer's fields that the unit is set to include in reports, in the set order.
+QStringList technicianFieldNames();
+QStringList customerFieldNames();
+
+/// Those of the named fields that exist, with their values as the service gives them ("default" where nobody entered
+/// anything). A field without a label goes by its item's name.
+LabelledTexts userFields(const QStringList& names);
 
 /// Identity of the job, "Job ID" and so on.
 LabelledTexts jobFields();
@@ -29,8 +34,10 @@ LabelledTexts softwareRevisions();
 /// One entry for each hardware assembly: the parts of its description, empty ones included.
 QVector<QStringList> hardwareAssemblies();
 
-/// The settings of `module` on the service, in the order of their ids; "default" for one without a value. An empty
-/// service name means the base manager.
-LabelledTexts configurationValues(const QString& service, const QString& module);
+/// The settings of the service as they are now, in the order of their ids. An empty name means the base manager.
+KIVItemSnapshot settingsOf(const QString& service);
+
+/// The settings of `module` among those of a service, in their order there; "default" for one without a value.
+LabelledTexts configurationValues(const KIVItemSnapshot& settings, const QString& module);
 
 } // namespace uiutils::instrument

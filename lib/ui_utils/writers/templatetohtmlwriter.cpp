@@ -239,14 +239,14 @@ void TemplateToHtmlWriter::writeJobTable()
 
 void TemplateToHtmlWriter::writeCustomerTable()
 {
-    writeLabelledTexts(
-            *m_html, tr("Customer Information"), tr("Value"), 0, withoutDefaults(instrument::customerFields()));
+    writeLabelledTexts(*m_html, tr("Customer Information"), tr("Value"), 0,
+            withoutDefaults(instrument::userFields(instrument::customerFieldNames())));
 }
 
 void TemplateToHtmlWriter::writeTechnicianTable()
 {
-    writeLabelledTexts(
-            *m_html, tr("Technician Information"), tr("Value"), 0, withoutDefaults(instrument::technicianFields()));
+    writeLabelledTexts(*m_html, tr("Technician Information"), tr("Value"), 0,
+            withoutDefaults(instrument::userFields(instrument::technicianFieldNames())));
 }
 
 void TemplateToHtmlWriter::writeSystemInformation()
@@ -297,9 +297,9 @@ void TemplateToHtmlWriter::sectionToHtml(const QJsonObject& object)
     const QString title = section.title();
     if (!title.isEmpty())
         m_html->writeHeading(m_depth, title);
-    const QStringList logEntries = section.logEntries();
-    for (const QString& entry : logEntries)
-        m_html->writeParagraph(entry);
+    const QVector<NodeReader::LogEntry> logEntries = section.logEntries();
+    for (const NodeReader::LogEntry& entry : logEntries)
+        m_html->writeParagraph(entry.text);
     writeConfigurationValues(section);
     tablesToHtml(object);
     sectionsToHtml(object);
@@ -313,7 +313,7 @@ void TemplateToHtmlWriter::writeConfigurationValues(const NodeReader& section)
     const QString own = section.text(keys::service);
     const QString service = own.isEmpty() ? NodeReader(m_document).text(keys::service) : own;
     writeLabelledTexts(*m_html, tr("Configuration Values"), tr("Value"), m_depth,
-            instrument::configurationValues(service, module));
+            instrument::configurationValues(instrument::settingsOf(service), module));
 }
 
 void TemplateToHtmlWriter::tablesToHtml(const QJsonObject& node)

@@ -1,0 +1,281 @@
+#include "templ2xmlwriter/templatetoxmlwriter.h"
+
+#include "core/xmlname_p.h"
+#include "core/xmltext_p.h"
+#include "document/documentreader_p.h"
+#include "document/reporttemplate.h"
+#include "service/instrumentinfo_p.h"
+
+#include <QDebug>
+#include <QSet>
+
+namespace instrument = uiutils::instrument;
+namespace keys = uiutils::keys;
+using uiutils::markupText;
+using uiutils::NodeReader;
+using uiutils::TableReader;
+using uiutils::xmlName;
+
+namespace {
+
+const QString removedElement = QStringLiteral("removeSection");
+const QString namelessName = QStringLiteral("_");
+
+/// The element name of an item: its label in lower case, words joined by "_".
+QString labelName(const QString& label)
+{
+    return label.isEmpty() ? namelessName : xmlName(label.toLower().replace(QLatin1Char(' '), QLatin1Char('_')));
+}
+
+void writeFields(QXmlStreamWriter& xml, const instrument::LabelledTexts& fields)
+{
+    for (const instrument::LabelledText& field : fields)
+        xml.writeTextElement(labelName(field.label), markupText(field.text));
+}
+
+void logFields(const char* name, const QStringList& fields)
+{
+    for (const QString& field : fields)
+        qDebug().noquote() << QString(QLatin1String(name) + QLatin1String(" value setting ") + field);
+}
+
+} // namespace
+
+TemplateToXmlWriter::TemplateToXmlWriter(
+        const ReportTemplate& document, bool jobManagerMode, bool includeCustomerInfo, bool generate)
+    : m_xml(&m_output)
+    , m_document(document.object())
+    , m_jobManagerMode(jobManagerMode)
+    , m_includeCustomerInfo(includeCustomerInfo)
+    , m_snapshot(instrument::settingsOf(NodeReader(m_document).text(keys::service)))
+{
+    m_snapshot.labelSort();
+    m_xml.setAutoFormatting(true);
+    m_xml.writeStartDocument();
+    startElement(NodeReader(m_document).tag(), keys::report);
+    if (!generate)
+        return;
+
+    writeAttributes(m_document);
+    tablesToXml(m_document);
+    sectionsToXml(m_document);
+    if (!m_jobManagerMode)
+        writeVersions();
+    m_xml.writeEndDocument();
+}
+
+TemplateToXmlWriter::~TemplateToXmlWriter() = default;
+
+QString TemplateToXmlWriter::getXml()
+{
+    if (!m_hasCustomFields)
+        insertCustomFields();
+    m_hasCustomFields = true;
+    return m_output;
+}
+
+void TemplateToXmlWriter::sectionsToXml(const QJsonObject& node)
+{
+    NodeReader(node).forEachSection([this](const QJsonObject& section) {
+        if (NodeReader(section).tag().isEmpty())
+            qWarning().noquote() << "Section missing tag:" << NodeReader(section).title();
+        else
+            sectionToXml(section);
+        // Only now: nested sections are siblings of their parent.
+        sectionsToXml(section);
+    });
+}
+
+void TemplateToXmlWriter::sectionToXml(const QJsonObject& object)
+{
+    const NodeReader section(object);
+    const QString title = section.title();
+    if (!title.isEmpty())
+        m_xml.writeComment(uiutils::xmlComment(title));
+    startElement(section.tag(), keys::section);
+    writeAttributes(object);
+    logEntriesToXml(section);
+    configurationToXml(section);
+    tablesToXml(object);
+    m_xml.writeEndElement();
+}
+
+void TemplateToXmlWriter::logEntriesToXml(const NodeReader& section)
+{
+    const QVector<NodeReader::LogEntry> entries = section.logEntries();
+    for (const NodeReader::LogEntry& entry : entries) {
+        m_xml.writeComment(uiutils::xmlComment(entry.key));
+        m_xml.writeTextElement(QStringLiteral("log"), markupText(entry.text));
+    }
+}
+
+void TemplateToXmlWriter::configurationToXml(const NodeReader& section)
+{
+    const QString module = section.text(keys::configModule);
+    if (module.isEmpty())
+        return;
+    const QString service = section.text(keys::service);
+    KIVItemSnapshot settings = m_snapshot;
+    if (!service.isEmpty()) {
+        settings = instrument::settingsOf(service);
+        settings.labelSort();
+    }
+    const instrument::LabelledTexts values = instrument::configurationValues(settings, module);
+    if (values.isEmpty())
+        return;
+    m_xml.writeStartElement(QStringLiteral("configuration"));
+    m_xml.writeAttribute(QStringLiteral("module"), markupText(module));
+    writeFields(m_xml, values);
+    m_xml.writeEndElement();
+}
+
+void TemplateToXmlWriter::tablesToXml(const QJsonObject& node)
+{
+    NodeReader(node).forEachTable([this](const QString&, const QJsonObject& object) {
+        const TableReader table(object);
+        startElement(table.tag(), keys::table);
+        writeAttributes(object);
+        table.forEachRow([this](const QString&, const QJsonObject& row) { rowToXml(row); });
+        m_xml.writeEndElement();
+    });
+}
+
+void TemplateToXmlWriter::rowToXml(const QJsonObject& row)
+{
+    static const QString element = QStringLiteral("row");
+    static const QString labelAttribute = keys::label;
+    m_xml.writeStartElement(element);
+    m_xml.writeAttribute(labelAttribute, markupText(uiutils::shownTextOf(row.value(keys::label))));
+    uiutils::forEachCell(row, [this](const QJsonObject& cell) { cellToXml(cell); });
+    m_xml.writeEndElement();
+}
+
+void TemplateToXmlWriter::cellToXml(const QJsonObject& cell)
+{
+    startElement(uiutils::textOf(cell.value(keys::tag)), QStringLiteral("cell"));
+    writeAttributes(cell);
+    m_xml.writeCharacters(markupText(uiutils::shownTextOf(cell.value(keys::label))));
+    m_xml.writeEndElement();
+}
+
+void TemplateToXmlWriter::writeTechInfo(QXmlStreamWriter& xml) const
+{
+    const QStringList names = instrument::technicianFieldNames();
+    qDebug() << "techInfoList size" << names.size();
+    if (names.isEmpty()) {
+        qDebug() << "techFieldsIncludedInReport setting empty.";
+        return;
+    }
+    logFields("techInfoList", names);
+    xml.writeStartElement(QStringLiteral("TechnicianInformation"));
+    writeFields(xml, instrument::userFields(names));
+    xml.writeEndElement();
+}
+
+void TemplateToXmlWriter::writeCustomerInfo(QXmlStreamWriter& xml) const
+{
+    qDebug() << "writeCustomerInfo" << m_includeCustomerInfo;
+    if (!m_includeCustomerInfo)
+        return;
+    const QStringList names = instrument::customerFieldNames();
+    qDebug() << "customerInfoList size" << names.size();
+    if (names.isEmpty()) {
+        qDebug() << "customerFieldsIncludedInReport setting empty.";
+        return;
+    }
+    logFields("customerInfoList", names);
+    xml.writeStartElement(QStringLiteral("CustomerInformation"));
+    writeFields(xml, instrument::userFields(names));
+    xml.writeEndElement();
+}
+
+void TemplateToXmlWriter::insertCustomFields()
+{
+    // Written inside an element of their own, so that they come indented by one level, and then taken out of it.
+    QString blocks;
+    QXmlStreamWriter xml(&blocks);
+    xml.setAutoFormatting(true);
+    xml.writeStartElement(removedElement);
+    if (!m_jobManagerMode)
+        writeCustomerInfo(xml);
+    writeTechInfo(xml);
+    xml.writeEndElement();
+
+    const QString start = QLatin1Char('<') + removedElement + QLatin1String(">\n");
+    const int begin = blocks.indexOf(start);
+    if (begin < 0)
+        return;
+    blocks.remove(0, begin + start.size());
+    blocks.truncate(blocks.lastIndexOf(QLatin1String("</") + removedElement));
+
+    const int declarationEnd = m_output.indexOf(QLatin1Char('>'));
+    const int rootEnd = m_output.indexOf(QLatin1Char('>'), declarationEnd + 1);
+    if (rootEnd < 0)
+        return;
+    if (m_output.at(rootEnd - 1) == QLatin1Char('/')) {
+        const QString endTag = QLatin1String("</") + elementName(NodeReader(m_document).tag(), keys::report) + QLatin1Char('>');
+        m_output.replace(rootEnd - 1, 2, QLatin1String(">\n") + blocks + endTag);
+    } else {
+        m_output.insert(rootEnd + 2, blocks);
+    }
+}
+
+void TemplateToXmlWriter::writeVersions()
+{
+    m_xml.writeStartElement(QStringLiteral("hardwareInfo"));
+    const QVector<QStringList> assemblies = instrument::hardwareAssemblies();
+    for (const QStringList& parts : assemblies) {
+        m_xml.writeEmptyElement(QStringLiteral("assembly"));
+        m_xml.writeAttribute(QStringLiteral("description"), markupText(parts.value(0)));
+        m_xml.writeAttribute(QStringLiteral("assemblyID"), markupText(parts.value(1)));
+        m_xml.writeAttribute(QStringLiteral("barcodeID"), markupText(parts.value(2)));
+    }
+    m_xml.writeEndElement();
+
+    m_xml.writeStartElement(QStringLiteral("softwareInfo"));
+    const instrument::LabelledTexts revisions = instrument::softwareRevisions();
+    for (const instrument::LabelledText& revision : revisions) {
+        m_xml.writeEmptyElement(QStringLiteral("software"));
+        m_xml.writeAttribute(QStringLiteral("name"), markupText(revision.label));
+        m_xml.writeAttribute(QStringLiteral("version"), markupText(revision.text));
+    }
+    m_xml.writeEndElement();
+}
+
+QString TemplateToXmlWriter::elementName(const QString& tag, const QString& fallback)
+{
+    return tag.isEmpty() ? fallback : nameOf(tag);
+}
+
+void TemplateToXmlWriter::startElement(const QString& tag, const QString& fallback)
+{
+    m_xml.writeStartElement(elementName(tag, fallback));
+}
+
+void TemplateToXmlWriter::writeAttributes(const QJsonObject& node)
+{
+    QVector<NodeReader::Attribute> attributes = NodeReader(node).attributes();
+    // Names differ in the document; only mapped ones can meet.
+    bool isAnyMapped = false;
+    for (NodeReader::Attribute& attribute : attributes) {
+        const QString& name = nameOf(attribute.name);
+        isAnyMapped |= name != attribute.name;
+        attribute.name = name;
+    }
+    QSet<QString> written;
+    for (const NodeReader::Attribute& attribute : qAsConst(attributes)) {
+        if (isAnyMapped && written.contains(attribute.name))
+            continue;
+        if (isAnyMapped)
+            written += attribute.name;
+        m_xml.writeAttribute(attribute.name, markupText(attribute.value));
+    }
+}
+
+const QString& TemplateToXmlWriter::nameOf(const QString& tag)
+{
+    auto it = m_names.constFind(tag);
+    if (it == m_names.constEnd())
+        it = m_names.insert(tag, tag.isEmpty() ? namelessName : xmlName(tag));
+    return *it;
+}
