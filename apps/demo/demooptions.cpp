@@ -19,7 +19,7 @@ QString tr(const char* text)
 
 QString defaultRoot()
 {
-    const QString fromEnvironment = qEnvironmentVariable("UIUTILS_ROOT");
+    QString fromEnvironment = qEnvironmentVariable("UIUTILS_ROOT");
     if (!fromEnvironment.isEmpty())
         return fromEnvironment;
     QString state = qEnvironmentVariable("XDG_STATE_HOME");
@@ -31,7 +31,7 @@ QString defaultRoot()
 /// The service files of the source tree, or those installed beside the program.
 QString ownServiceFolder()
 {
-    const QString ofTree = QStringLiteral(UIUTILS_DEMO_SERVICES_DIR);
+    QString ofTree = QStringLiteral(UIUTILS_DEMO_SERVICES_DIR);
     if (QDir(ofTree).exists())
         return ofTree;
     return QDir::cleanPath(
@@ -70,7 +70,8 @@ DemoOptions readOptions(const QStringList& arguments)
                "application of the instrument does.\n"
                "With a display a window opens. Without one, or with --tour, the program runs by itself.\n\n"
                "Exit status: 0 done, 1 failed, 2 wrong command line."));
-    const QCommandLineOption help = parser.addHelpOption();
+    // The parser's own help option would bring options of Qt along.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption root(QStringLiteral("root"),
             tr("Keep everything that is written below <folder> (default: %1).").arg(defaultRoot()),
@@ -86,7 +87,7 @@ DemoOptions readOptions(const QStringList& arguments)
             tr("number"), QString::number(LoopbackMeasurement::fewestSamples));
     const QCommandLineOption tour(
             QStringLiteral("tour"), tr("Measure, save a report, take a picture of each page and quit."));
-    parser.addOptions({root, services, samples, tour});
+    parser.addOptions({help, root, services, samples, tour});
 
     if (!parser.parse(arguments))
         return misused(parser.errorText());

@@ -6,7 +6,7 @@ namespace uiutils::demo {
 
 LoopbackMeasurement::LoopbackMeasurement(QObject* parent)
     : QObject(parent)
-    , m_roundTrip(tr("Round-trip time"), QStringLiteral("ms"), 4,
+    , m_roundTrip(tr("Round-trip time"), QStringLiteral("ms"), 3,
               {Limit::AtMost, maximumRoundTripMilliseconds}, this)
     , m_throughput(tr("Throughput"), QStringLiteral("Mbit/s"), 0, {Limit::AtLeast, minimumThroughputMegabits},
               this)

@@ -10,10 +10,10 @@ namespace uiutils::demo {
 
 namespace {
 
-constexpr qint64 mebibyte = 1024 * 1024;
+constexpr qint64 mebibyte = 1 << 20;
 /// Bytes given to the socket at once, and how many of them may wait in it.
 constexpr int slice = 256 * 1024;
-constexpr qint64 mostWaiting = 2 * slice;
+constexpr qint64 mostWaiting = 512 * 1024LL;
 
 /// What transfers are made of; made once, so that no sample pays for it.
 const QByteArray& filler()

@@ -17,7 +17,7 @@ enum Kind : quint32 {
 constexpr quint32 magic = 0x55694c42;
 constexpr int headerSize = 16;
 /// Echoes are held in memory, so a larger one is refused.
-constexpr quint64 largestEcho = 1024 * 1024;
+constexpr quint64 largestEcho = 1 << 20;
 
 struct Header
 {

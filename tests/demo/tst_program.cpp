@@ -91,7 +91,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("samples");
         QTest::newRow("as few as may be") << 20;
-        QTest::newRow("numbers of three digits") << 120;
+        QTest::newRow("numbers of three digits") << 100;
     }
 
     void tour()
