@@ -34,7 +34,7 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("services");
         QTest::newRow("shipped") << UIUTILS_SOURCE_DIR "/platform/reference/services"
                                  << QStringList {"basemgr", "loopback"};
-        QTest::newRow("of the tests") << UIUTILS_TEST_DATA_DIR "/services" << QStringList {"basemgr", "kinds"};
+        QTest::newRow("of the tests") << UIUTILS_TEST_DATA_DIR "/services" << QStringList {"basemgr", "kinds", "plots"};
     }
     void shippedFilesLoad()
     {

@@ -15,18 +15,28 @@ namespace {
 const QString xId = QStringLiteral(":result:kinds:trace_x:doubleARRAY:");
 const QString yId = QStringLiteral(":result:kinds:trace_y:doubleARRAY:");
 
-/// How many pixels hold the curve's colour or shades of it on white.
-int curvePixels(const QImage& image)
+/// Where the picture holds the curve's colour, or shades of it.
+QRect curveExtent(const QImage& image)
 {
-    int count = 0;
+    QRect extent;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
             const QRgb pixel = image.pixel(x, y);
-            if (qBlue(pixel) > qRed(pixel) + 40)
-                ++count;
+            if (qBlue(pixel) > qRed(pixel) + 60)
+                extent |= QRect(x, y, 1, 1);
         }
     }
-    return count;
+    return extent;
+}
+
+/// Fonts differ a little from machine to machine, and with them the place of the axes.
+bool isNear(const QRect& a, const QRect& b)
+{
+    const auto near = [](int x, int y) { return qAbs(x - y) <= 12; };
+    return a.isNull() == b.isNull()
+            && (a.isNull()
+                    || (near(a.left(), b.left()) && near(a.top(), b.top()) && near(a.right(), b.right())
+                            && near(a.bottom(), b.bottom())));
 }
 
 } // namespace
@@ -49,26 +59,32 @@ private Q_SLOTS:
     {
         QTest::addColumn<QVariantList>("xs");
         QTest::addColumn<QVariantList>("ys");
-        QTest::addColumn<bool>("hasCurve");
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QRect>("extent");
         QVariantList ramp;
         QVariantList squares;
         for (int i = 0; i < 50; ++i) {
             ramp += double(i);
             squares += double(i * i);
         }
-        QTest::newRow("curve") << ramp << squares << true;
-        QTest::newRow("unequal lengths") << ramp << squares.mid(0, 10) << true;
-        QTest::newRow("equal values") << ramp << QVariantList {3.0, 3.0, 3.0} << true;
+        const QSize small(300, 200);
+        QTest::newRow("curve") << ramp << squares << small << QRect(39, 25, 253, 141);
+        QTest::newRow("large") << ramp << squares << QSize(2000, 1200) << QRect(120, 96, 1853, 1006);
+        QTest::newRow("unequal lengths") << ramp << squares.mid(0, 10) << small << QRect(30, 47, 265, 119);
+        QTest::newRow("equal values") << ramp << QVariantList {3.0, 3.0, 3.0} << small << QRect(26, 91, 265, 4);
+        QTest::newRow("one point") << QVariantList {5.0} << QVariantList {1e9} << small << QRect(174, 91, 3, 4);
         QTest::newRow("points that are not finite")
-                << ramp << QVariantList {1.0, qQNaN(), 2.0, qInf(), 3.0, -qInf()} << true;
-        QTest::newRow("empty") << QVariantList() << QVariantList() << false;
-        QTest::newRow("nothing finite") << ramp << QVariantList {qQNaN(), qInf()} << false;
+                << ramp << QVariantList {1.0, qQNaN(), 2.0, qInf(), 3.0, -qInf()} << small << QRect(26, 20, 269, 146);
+        QTest::newRow("empty") << QVariantList() << QVariantList() << small << QRect();
+        QTest::newRow("nothing finite") << ramp << QVariantList {qQNaN(), qInf()} << small << QRect();
+        QTest::newRow("no numbers") << QVariantList {"a", QVariant()} << QVariantList {"b", "c"} << small << QRect();
     }
     void arrays()
     {
         QFETCH(QVariantList, xs);
         QFETCH(QVariantList, ys);
-        QFETCH(bool, hasCurve);
+        QFETCH(QSize, size);
+        QFETCH(QRect, extent);
         kiv::embedded::EmbeddedBackend backend;
         QVERIFY(backend.loadFile(UIUTILS_TEST_DATA_DIR "/services/kinds.service.json"));
         QVERIFY(backend.service("kinds")->setValue(xId, xs));
@@ -76,14 +92,47 @@ private Q_SLOTS:
 
         PlotImage plot;
         plot.setService("kinds");
-        plot.setSize(300, 200);
+        plot.setSize(size.width(), size.height());
         QVERIFY(plot.write("/tmp/rep_plot_4.png"));
         QFile file(m_root.filePath("tmp/rep_plot_4.png"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), plot.getData());
         const QImage image = QImage::fromData(plot.getData(), "PNG");
-        QCOMPARE(image.size(), QSize(300, 200));
-        QCOMPARE(curvePixels(image) > 100, hasCurve);
+        QCOMPARE(image.size(), size);
+        const QRect drawn = curveExtent(image);
+        const QString difference = QString("%1,%2 %3x%4").arg(drawn.x()).arg(drawn.y()).arg(drawn.width()).arg(drawn.height());
+        QVERIFY2(isNear(drawn, extent), qPrintable(difference));
+    }
+
+    void aPlantedLinkIsNotFollowed()
+    {
+        QFile victim(m_root.filePath("victim"));
+        QVERIFY(victim.open(QIODevice::WriteOnly) && victim.write("untouched") > 0);
+        victim.close();
+        QVERIFY(QFile::link(victim.fileName(), m_root.filePath("tmp/rep_plot_7.png")));
+        PlotImage plot;
+        QVERIFY(plot.write("/tmp/rep_plot_7.png"));
+        QVERIFY(victim.open(QIODevice::ReadOnly));
+        QCOMPARE(victim.readAll(), QByteArray("untouched"));
+        QVERIFY(!QFileInfo(m_root.filePath("tmp/rep_plot_7.png")).isSymLink());
+    }
+
+    /// Curves of one service share the picture; what the service says about scale and limits moves the curve.
+    void severalCurvesScalesAndLimits()
+    {
+        kiv::embedded::EmbeddedBackend backend;
+        QVERIFY(backend.loadFile(UIUTILS_TEST_DATA_DIR "/services/plots.service.json"));
+        const auto extentOf = [](const char* service) {
+            PlotImage plot;
+            plot.setService(service);
+            plot.setSize(600, 400);
+            [&] { QVERIFY(plot.write("/tmp/rep_plot_0.png")); }();
+            // Below the legend, which shows the curve's colour too.
+            return curveExtent(QImage::fromData(plot.getData(), "PNG").copy(0, 100, 600, 300));
+        };
+        // Decades on a logarithmic axis are evenly apart; the limit far above pushes the curve down.
+        const QRect curve = extentOf("plots");
+        QVERIFY2(curve.height() > 60 && curve.height() < 140, qPrintable(QString::number(curve.height())));
     }
 
     void sizes_data()

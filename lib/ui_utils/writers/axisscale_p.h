@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QLocale>
+#include <QString>
+#include <QVector>
+
+namespace uiutils {
+
+/// The values from `low` to `high`; empty until a value is taken in.
+struct Interval
+{
+    double low = 1;
+    double high = 0;
+
+    bool isEmpty() const { return low > high; }
+    /// Widens the interval to hold `value`; one that is not finite is left out.
+    void include(double value);
+};
+
+/// The arithmetic of a plot's axis: which values it spans, where its round ticks lie and how they read.
+///
+/// Whatever interval it is given (empty, of no extent, at the ends of what a double holds), it spans a proper one.
+class AxisScale
+{
+public:
+    enum Kind { Linear, Logarithmic };
+    /// Whether the axis ends with the data or at the next tick beyond them.
+    enum Ends { AtData, AtTicks };
+
+    /// An axis for `data` with at most `maximumTicks` ticks; less than three count as three. A logarithmic axis takes
+    /// positive values only.
+    AxisScale(Interval data, Kind kind, Ends ends, int maximumTicks);
+
+    double low() const { return m_low; }
+    double high() const { return m_high; }
+
+    /// Where `value` lies between the ends, 0 to 1; NaN for one that a logarithmic axis cannot hold.
+    double position(double value) const;
+
+    /// Round values to label, ascending.
+    const QVector<double>& ticks() const { return m_ticks; }
+    /// Further grid lines between the ticks of a logarithmic axis.
+    const QVector<double>& minorTicks() const { return m_minorTicks; }
+
+    /// A tick's value as the user of `locale` reads it, with as many decimals as it takes to tell ticks apart.
+    QString label(double tick, const QLocale& locale) const;
+
+private:
+    void scaleLinearly(Interval data, Ends ends, int maximumTicks);
+    void scaleLogarithmically(Interval data, int maximumTicks);
+    void addFineTicks(Interval data);
+    void addDecades(int first, int last, int maximumTicks);
+
+    Kind m_kind;
+    double m_low = 0;
+    double m_high = 1;
+    double m_step = 1;
+    QVector<double> m_ticks;
+    QVector<double> m_minorTicks;
+};
+
+} // namespace uiutils

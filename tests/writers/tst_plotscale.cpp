@@ -1,0 +1,190 @@
+#include "writers/axisscale_p.h"
+#include "writers/plotdata_p.h"
+
+#include <QtMath>
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace uiutils;
+
+namespace {
+
+constexpr double huge = std::numeric_limits<double>::max();
+constexpr double tiny = std::numeric_limits<double>::denorm_min();
+
+Interval interval(const QVector<double>& values)
+{
+    Interval interval;
+    for (const double value : values)
+        interval.include(value);
+    return interval;
+}
+
+QStringList labels(const AxisScale& scale)
+{
+    QStringList labels;
+    for (const double tick : scale.ticks())
+        labels += scale.label(tick, QLocale(QLocale::English, QLocale::UnitedStates));
+    return labels;
+}
+
+PlotData oneCurve(const QVector<QPointF>& points)
+{
+    PlotData data;
+    data.curves.append(PlotCurve());
+    for (const QPointF& point : points) {
+        data.curves.last().xs += point.x();
+        data.curves.last().ys += point.y();
+    }
+    return data;
+}
+
+QVector<QVector<QPointF>> stretchesOf(const PlotData& data, int columns)
+{
+    const AxisScale x(data.xExtent(), data.xKind, AxisScale::AtData, 10);
+    const AxisScale y(data.yExtent(), data.yKind, AxisScale::AtData, 10);
+    return visibleStretches(data, data.curves.first(), x, y, columns);
+}
+
+} // namespace
+
+class PlotScaleTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ticks_data()
+    {
+        QTest::addColumn<QVector<double>>("data");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("ends");
+        QTest::addColumn<int>("maximum");
+        QTest::addColumn<QStringList>("expected");
+        using V = QVector<double>;
+        const int linear = AxisScale::Linear;
+        const int log = AxisScale::Logarithmic;
+        const int ticks = AxisScale::AtTicks;
+        const int data = AxisScale::AtData;
+        QTest::newRow("tens") << V {0, 97} << linear << ticks << 6 << QStringList {"0", "20", "40", "60", "80", "100"};
+        QTest::newRow("within the data") << V {3, 97} << linear << data << 6 << QStringList {"20", "40", "60", "80"};
+        QTest::newRow("both signs") << V {-19.9, 5.2} << linear << ticks << 7
+                                    << QStringList {"-20", "-15", "-10", "-5", "0", "5", "10"};
+        QTest::newRow("fractions") << V {0.12, 0.17} << linear << ticks << 6
+                                   << QStringList {"0.12", "0.13", "0.14", "0.15", "0.16", "0.17"};
+        QTest::newRow("thousands") << V {21141, 43281} << linear << ticks << 4
+                                   << QStringList {"20,000", "30,000", "40,000", "50,000"};
+        QTest::newRow("large") << V {0, 4e9} << linear << ticks << 3 << QStringList {"0", "2e+09", "4e+09"};
+        QTest::newRow("small") << V {0, 4e-8} << linear << ticks << 3 << QStringList {"0", "2e-08", "4e-08"};
+        QTest::newRow("no data") << V {} << linear << ticks << 3 << QStringList {"0.0", "0.5", "1.0"};
+        QTest::newRow("nothing finite") << V {qQNaN(), qInf(), -qInf()} << linear << ticks << 3
+                                        << QStringList {"0.0", "0.5", "1.0"};
+        QTest::newRow("decades") << V {0.002, 35} << log << ticks << 6
+                                 << QStringList {"0.001", "0.01", "0.1", "1", "10", "100"};
+        QTest::newRow("many decades") << V {1e-12, 1} << log << ticks << 5
+                                      << QStringList {"1e-12", "1e-09", "1e-06", "0.001", "1"};
+        QTest::newRow("within a decade") << V {3, 8} << log << ticks << 6 << QStringList {"2", "5", "10"};
+        QTest::newRow("not positive") << V {-3, 0} << log << ticks << 6 << QStringList {"1", "10"};
+    }
+    void ticks()
+    {
+        QFETCH(QVector<double>, data);
+        QFETCH(int, kind);
+        QFETCH(int, ends);
+        QFETCH(int, maximum);
+        QFETCH(QStringList, expected);
+        const AxisScale scale(interval(data), AxisScale::Kind(kind), AxisScale::Ends(ends), maximum);
+        QCOMPARE(labels(scale), expected);
+    }
+
+    /// Whatever it is asked to span, an axis is a proper one: ends in order, data within, few ticks, all within.
+    void everyAxisIsProper()
+    {
+        const QVector<double> values {-huge, -1e300, -3.7e8, -1, -1e-9, -tiny, 0, tiny, 1e-300, 1e-9, 0.3, 1, 1 + 1e-15, 7,
+                3.7e8, 3.7e8 + 1e-6, 1e300, huge};
+        for (const double a : values) {
+            for (const double b : values) {
+                for (const auto kind : {AxisScale::Linear, AxisScale::Logarithmic}) {
+                    for (const auto ends : {AxisScale::AtData, AxisScale::AtTicks}) {
+                        for (const int maximum : {-1, 2, 5, 40}) {
+                            const AxisScale scale(interval({a, b}), kind, ends, maximum);
+                            const QByteArray which = QString("%1 to %2, kind %3, ends %4, %5 ticks")
+                                                             .arg(a).arg(b).arg(kind).arg(ends).arg(maximum).toUtf8();
+                            QVERIFY2(std::isfinite(scale.low()) && std::isfinite(scale.high()), which);
+                            QVERIFY2(scale.low() < scale.high(), which);
+                            QVERIFY2(scale.ticks().size() <= qMax(maximum, 7), which);
+                            QVERIFY2(kind == AxisScale::Linear || scale.low() > 0, which);
+                            for (const double tick : scale.ticks()) {
+                                const double position = scale.position(tick);
+                                QVERIFY2(position > -1e-6 && position < 1 + 1e-6, which);
+                            }
+                            if (ends == AxisScale::AtTicks)
+                                QVERIFY2(scale.ticks().size() >= 2, which);
+                            if (kind == AxisScale::Linear && std::abs(a) < 1e300)
+                                QVERIFY2(scale.position(a) > -1e-6 && scale.position(a) < 1 + 1e-6, which);
+                        }
+                    }
+                }
+            }
+        }
+    }
+
+    void positions()
+    {
+        const AxisScale linear(interval({0, 10}), AxisScale::Linear, AxisScale::AtData, 5);
+        QCOMPARE(linear.position(2.5), 0.25);
+        const AxisScale log(interval({1, 100}), AxisScale::Logarithmic, AxisScale::AtData, 5);
+        QCOMPARE(log.position(10), 0.5);
+        QVERIFY(std::isnan(log.position(0)));
+        QCOMPARE(log.minorTicks().size(), 16);
+    }
+
+    void noSpikeIsLost()
+    {
+        QVector<QPointF> points;
+        for (int i = 0; i < 100'000; ++i)
+            points += QPointF(i, i == 31'415 ? 100 : i == 27'182 ? -100 : std::sin(i));
+        const PlotData data = oneCurve(points);
+        const auto stretches = stretchesOf(data, 500);
+        QCOMPARE(stretches.size(), 1);
+        QVERIFY(stretches.first().size() <= 4 * 501);
+        double lowest = 1;
+        double highest = 0;
+        double previous = 0;
+        for (const QPointF& point : stretches.first()) {
+            lowest = qMin(lowest, point.y());
+            highest = qMax(highest, point.y());
+            QVERIFY(point.x() >= previous);
+            previous = point.x();
+        }
+        QCOMPARE(lowest, 0.0);
+        QCOMPARE(highest, 1.0);
+        QCOMPARE(stretches.first().first(), QPointF(0, 0.5));
+    }
+
+    void pointsThatCannotBeDrawnPartTheCurve()
+    {
+        const auto stretches = stretchesOf(
+                oneCurve({{0, 1}, {1, 2}, {2, qQNaN()}, {3, 4}, {qInf(), 5}, {5, -qInf()}, {6, 0}, {7, 1}}), 100);
+        QCOMPARE(stretches.size(), 3);
+        QCOMPARE(stretches.at(0).size(), 2);
+        QCOMPARE(stretches.at(1).size(), 1);
+        QCOMPARE(stretches.at(2).size(), 2);
+
+        PlotData log = oneCurve({{1, 1}, {2, 0}, {3, -1}, {4, 10}});
+        log.yKind = AxisScale::Logarithmic;
+        QCOMPARE(stretchesOf(log, 100).size(), 2);
+        QVERIFY(stretchesOf(oneCurve({}), 100).isEmpty());
+    }
+
+    void backAndForthKeepsItsOrder()
+    {
+        const auto stretches = stretchesOf(oneCurve({{0, 0}, {10, 1}, {0, 2}, {10, 3}}), 10);
+        QCOMPARE(stretches.first().size(), 4);
+        QCOMPARE(stretches.first().at(2).x(), 0.0);
+    }
+};
+
+QTEST_GUILESS_MAIN(PlotScaleTest)
+#include "tst_plotscale.moc"
