@@ -55,7 +55,8 @@ bool makeFolder(const QString& folder, QString* error)
 bool prepareInstrumentRoot(const QString& root, QString* error)
 {
     const QString images = root + paths::images;
-    if (!makeFolder(images, error))
+    // Reports leave their plots in the instrument's /tmp.
+    if (!makeFolder(images, error) || !makeFolder(root + QStringLiteral("/tmp"), error))
         return false;
     const QStringList names = QDir(QStringLiteral(":/uiutils/images")).entryList();
     for (const QString& name : names) {

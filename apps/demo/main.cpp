@@ -4,6 +4,7 @@
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
 #include "reportsaver.h"
+#include "resultpublisher.h"
 #include "tour.h"
 
 #include "module/uiutilsmodule.h"
@@ -11,6 +12,7 @@
 #include <embedded/embeddedbackend.h>
 
 #include <QGuiApplication>
+#include <QLoggingCategory>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 
@@ -100,6 +102,7 @@ int runDemo(const DemoOptions& options)
 
     LoopbackMeasurement measurement;
     measurement.setSamples(options.samples);
+    publishResults(&measurement, &backend);
     ReportSaver saver;
     QQmlApplicationEngine engine;
     QQuickWindow* const window = openWindow(engine, &measurement, &saver);
@@ -137,6 +140,8 @@ int main(int argc, char** argv)
         return exitDone;
     }
 
+    // What the library notes for its developers is no business of a user, who may ask for it by QT_LOGGING_RULES.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     const DisplaySetup display;
     const QGuiApplication application(argc, argv);
     return runDemo(options);

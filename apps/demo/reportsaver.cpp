@@ -3,9 +3,11 @@
 #include "core/durablefile.h"
 #include "core/paths.h"
 #include "instrumentroot.h"
+#include "templ2xmlwriter/templatetoxmlwriter.h"
 #include "writers/templatetohtmlwriter.h"
 
 #include <QFile>
+#include <QVector>
 
 #include <optional>
 
@@ -35,6 +37,8 @@ QByteArray pageOf(const ReportTemplate& report, const QVariantMap& attributes)
 {
     TemplateToHtmlWriter writer(report, nullptr);
     writer.setAttribute(QStringLiteral("logo"), dataUriOf(paths::logo));
+    writer.setAttribute(QStringLiteral("plot_width"), 640);
+    writer.setAttribute(QStringLiteral("plot_height"), 320);
     writer.setAttribute(QStringLiteral("includeJobInfo"), true);
     writer.setAttribute(QStringLiteral("includeTechnicianInfoTop"), true);
     writer.setAttribute(QStringLiteral("includeCustomerInfoTop"), true);
@@ -43,12 +47,38 @@ QByteArray pageOf(const ReportTemplate& report, const QVariantMap& attributes)
     return writer.getHtml().toUtf8();
 }
 
+QByteArray xmlOf(const ReportTemplate& report)
+{
+    return TemplateToXmlWriter(report, false, true, true).getXml().toUtf8();
+}
+
 /// Puts a file back to what it was. That this fails as well leaves nothing more to try.
 void restore(const QString& path, const std::optional<QByteArray>& contents)
 {
     const bool isRestored = contents ? writeFileDurably(path, *contents) : QFile::remove(path);
     if (!isRestored)
         qWarning("%s could not be put back to what it was.", qUtf8Printable(path));
+}
+
+struct NewFile
+{
+    QString path;
+    QByteArray contents;
+};
+
+/// Writes all of the files, or none: when one fails, those before it get back what they held.
+bool writeAll(const QVector<NewFile>& files, QString* error)
+{
+    QVector<std::optional<QByteArray>> before;
+    for (int i = 0; i < files.size(); ++i) {
+        before += contentsOf(files.at(i).path);
+        if (writeFileDurably(files.at(i).path, files.at(i).contents, error))
+            continue;
+        while (--i >= 0)
+            restore(files.at(i).path, before.at(i));
+        return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -76,19 +106,16 @@ bool ReportSaver::save(ReportTemplate* report, const QString& name, const QVaria
     if (!makeFolder(folder(), &error))
         return refuse(error);
 
-    const QString page = folder() + name + QStringLiteral(".html");
-    const QString document = folder() + name + QStringLiteral(".json");
-    const std::optional<QByteArray> pageBefore = contentsOf(page);
-    const QString advice
-            = tr("No report was saved. Check the free space and that you may write there, or choose "
-                 "another name; then save again.");
-    if (!writeFileDurably(page, pageOf(*report, writerAttributes), &error))
-        return refuse(error + QLatin1Char(' ') + advice);
-    if (!writeFileDurably(document, report->toJson().toUtf8(), &error)) {
-        restore(page, pageBefore);
-        return refuse(error + QLatin1Char(' ') + advice);
+    const QString stem = folder() + name;
+    if (!writeAll({{stem + QStringLiteral(".html"), pageOf(*report, writerAttributes)},
+                          {stem + QStringLiteral(".xml"), xmlOf(*report)},
+                          {stem + QStringLiteral(".json"), report->toJson().toUtf8()}},
+                &error)) {
+        return refuse(error + QLatin1Char(' ')
+                + tr("No report was saved. Check the free space and that you may write there, or choose "
+                     "another name; then save again."));
     }
-    addFiles({page, document});
+    addFiles({stem + QStringLiteral(".html"), stem + QStringLiteral(".xml"), stem + QStringLiteral(".json")});
     setErrorText({});
     return true;
 }

@@ -106,7 +106,7 @@ private Q_SLOTS:
         focusButton("Save");
         QTest::keyClick(m_window, Qt::Key_Space);
         QCOMPARE(m_saver->errorText(), QString());
-        QCOMPARE(m_saver->files().size(), 2);
+        QCOMPARE(m_saver->files().size(), 3);
         QVERIFY(QFile::exists(m_saver->files().constFirst()));
     }
 

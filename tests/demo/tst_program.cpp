@@ -63,7 +63,7 @@ QString wordsOf(const QByteArray& html)
 /// "Sample 1 0.05 ms Sample 2 ..." of a section's table.
 QStringList samplesOf(const QJsonObject& section)
 {
-    const QJsonObject table = section["table_0"].toObject();
+    const QJsonObject table = section["table_1"].toObject();
     QMap<int, QString> rows;
     for (auto it = table.begin(); it != table.end(); ++it) {
         const QJsonObject row = it.value().toObject();
@@ -104,7 +104,7 @@ private Q_SLOTS:
 
         const QStringList reports = filesBelow(root + "/cust/public/reports");
         const QStringList pictures = filesBelow(root + "/pictures");
-        QCOMPARE(reports.size(), 2);
+        QCOMPARE(reports.size(), 3);
         QCOMPARE(pictures.size(), 4);
         for (const QString& file : reports + pictures)
             QVERIFY2(outcome.output.split('\n').contains(file), qPrintable(outcome.output));
@@ -126,7 +126,7 @@ private Q_SLOTS:
         QFETCH(const QString, display);
         const Outcome outcome = runDemo({}, {{"UIUTILS_ROOT", m_folder->path()}, {"DISPLAY", display}});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
-        QCOMPARE(filesBelow(m_folder->filePath("cust/public/reports")).size(), 2);
+        QCOMPARE(filesBelow(m_folder->filePath("cust/public/reports")).size(), 3);
     }
 
     void secondTourBesideTheFirst()
@@ -237,6 +237,17 @@ private:
         QVERIFY2(words.contains(roundTrips.join(' ')), qPrintable(words));
         QVERIFY2(words.contains(throughputs.join(' ')), qPrintable(words));
         QVERIFY(QRegularExpression("report_status=(pass|marginal|fail)").match(html).hasMatch());
+
+        // Each quantity is plotted.
+        QRegularExpressionMatchIterator plots
+                = QRegularExpression("<p>\\s*<img src=\"data:image/png;base64,([^\"]+)\"").globalMatch(html);
+        int curves = 0;
+        while (plots.hasNext()) {
+            const QImage plot = QImage::fromData(QByteArray::fromBase64(plots.next().captured(1).toLatin1()));
+            QCOMPARE(plot.size(), QSize(640, 320));
+            ++curves;
+        }
+        QCOMPARE(curves, 2);
 
         // The page needs no other file.
         QVERIFY(html.contains("src=\"data:image/png;base64,"));

@@ -40,14 +40,15 @@ private Q_SLOTS:
         m_report->endReport();
     }
 
-    void bothFilesAreWritten()
+    void allFilesAreWritten()
     {
         QVERIFY(QDir().mkpath(onDisk(paths::images)));
         QVERIFY(writeFileDurably(onDisk(paths::logo), "picture"));
         QVERIFY2(m_saver->save(m_report.get(), "first", {{"marginal", true}}),
                 qPrintable(m_saver->errorText()));
 
-        QCOMPARE(m_saver->files(), QStringList({m_folder + "first.html", m_folder + "first.json"}));
+        QCOMPARE(m_saver->files(), QStringList({m_folder + "first.html", m_folder + "first.xml", m_folder + "first.json"}));
+        QVERIFY(contentsOf(m_folder + "first.xml").contains("<report>"));
         QCOMPARE(contentsOf(m_folder + "first.json"), m_report->toJson().toUtf8());
         const QByteArray page = contentsOf(m_folder + "first.html");
         QVERIFY(page.contains("Line &lt;3&gt;"));
@@ -55,7 +56,7 @@ private Q_SLOTS:
         QVERIFY(page.contains("src=\"data:image/png;base64," + QByteArray("picture").toBase64() + '"'));
 
         QVERIFY(m_saver->save(m_report.get(), "first", {}));
-        QCOMPARE(m_saver->files().size(), 2);
+        QCOMPARE(m_saver->files().size(), 3);
     }
 
     void withoutALogoThePageStillStandsAlone()
@@ -95,8 +96,8 @@ private Q_SLOTS:
         QVERIFY(QDir(m_root->path()).isEmpty());
     }
 
-    /// A folder stands where the second file should go.
-    void secondFileFailing()
+    /// A folder stands where the last file should go.
+    void lastFileFailing()
     {
         QVERIFY(QDir().mkpath(m_folder + "half.json"));
         QVERIFY(!m_saver->save(m_report.get(), "half", {}));
@@ -106,12 +107,13 @@ private Q_SLOTS:
                 QStringList("half.json"));
     }
 
-    void secondFileFailingKeepsAnEarlierFirst()
+    void lastFileFailingKeepsEarlierOnes()
     {
         QVERIFY(QDir().mkpath(m_folder + "half.json"));
         QVERIFY(writeFileDurably(m_folder + "half.html", "an earlier page"));
         QVERIFY(!m_saver->save(m_report.get(), "half", {}));
         QCOMPARE(contentsOf(m_folder + "half.html"), QByteArray("an earlier page"));
+        QVERIFY(!QFile::exists(m_folder + "half.xml"));
     }
 
     void firstFileFailing()

@@ -33,7 +33,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QStringList>("services");
         QTest::newRow("shipped") << UIUTILS_SOURCE_DIR "/platform/reference/services"
-                                 << QStringList {"basemgr", "loopback"};
+                                 << QStringList {"basemgr", "loopback", "loopback_rtt", "loopback_throughput"};
         QTest::newRow("of the tests") << UIUTILS_TEST_DATA_DIR "/services" << QStringList {"basemgr", "kinds", "plots"};
     }
     void shippedFilesLoad()

@@ -19,8 +19,8 @@ QtObject {
         addRunAttributes()
         report.setKey("log_0", measurement.method)
         addSummary()
-        addQuantity("round_trip_time", measurement.roundTrip)
-        addQuantity("throughput", measurement.throughput)
+        addQuantity("round_trip_time", measurement.roundTrip, "loopback_rtt")
+        addQuantity("throughput", measurement.throughput, "loopback_throughput")
         report.endSection()
         report.endReport()
     }
@@ -50,16 +50,24 @@ QtObject {
         addPlainRow(tag + "_limit", qsTr("%1, limit").arg(quantity.title), quantity.limitText)
     }
 
-    function addQuantity(tag, quantity) {
+    function addQuantity(tag, quantity, service) {
         report.beginSection(tag, quantity.title)
         report.addAttribute("unit", quantity.unit)
         report.addAttribute("limit", quantity.limitText)
+        addPlot(tag, service)
         report.beginTable(tag + "_samples", qsTr("Samples"))
         keepRowsInOrder(quantity.count)
         for (let i = 0; i < quantity.count; ++i)
             addValueRow("sample", qsTr("Sample %1").arg(i + 1), quantity, quantity.valueAt(i))
         report.endTable()
         report.endSection()
+    }
+
+    function addPlot(tag, service) {
+        report.beginTable(tag + "_plot", qsTr("Plot"))
+        report.setKey("label", "plot")
+        report.setKey("service", service)
+        report.endTable()
     }
 
     function addPlainRow(tag, label, text) {

@@ -94,7 +94,7 @@ FocusScope {
                         if (page.saver.errorText)
                             return page.saver.errorText
                         return page.wasSaved ? qsTr("The report is saved.")
-                                             : qsTr("A web page and a JSON document are written. Files of the same "
+                                             : qsTr("A web page, an XML and a JSON file are written. Files of the same "
                                                     + "name are replaced.")
                     }
                     color: page.hasResults && page.saver.errorText ? Theme.fail : Theme.mutedText

@@ -23,6 +23,7 @@ public:
 
     /// Takes the value and tells the clients when it differs.
     void setValue(const QVariant& value);
+    void setAttribute(const QString& name, const QVariant& value) { m_description.attributes.insert(name, value); }
 
 private:
     ItemDescription m_description;

@@ -36,4 +36,13 @@ bool EmbeddedService::setValue(const QString& id, const QVariant& value)
     return true;
 }
 
+bool EmbeddedService::setAttribute(const QString& id, const QString& name, const QVariant& value)
+{
+    EmbeddedItem* item = m_items.value(id);
+    if (!item)
+        return false;
+    item->setAttribute(name, value);
+    return true;
+}
+
 } // namespace kiv::embedded

@@ -35,6 +35,9 @@ public:
     /// KIVClientItem::valueChanged() before the call returns when the value differs from the old one.
     bool setValue(const QString& id, const QVariant& value);
 
+    /// Sets an attribute of an item, which nobody is told of. Returns false when there is no such item.
+    bool setAttribute(const QString& id, const QString& name, const QVariant& value);
+
 private:
     friend class EmbeddedBackend;
     EmbeddedService(const ServiceDescription& description, QObject* parent);
