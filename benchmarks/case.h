@@ -33,5 +33,7 @@ Timing interleaved(int runs, const std::function<void()>& ours, const std::funct
 
 QVector<Result> documentCases(int runs);
 QVector<Result> htmlCases(int runs);
+QVector<Result> xmlCases(int runs);
+QVector<Result> plotCases(int runs);
 
 } // namespace bench

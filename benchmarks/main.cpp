@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLoggingCategory>
 #include <QTextStream>
 
 #include <embedded/embeddedbackend.h>
@@ -45,6 +46,7 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication app(argc, argv);
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Measures the library against floors in the same run."));
@@ -55,21 +57,26 @@ int main(int argc, char** argv)
     const QCommandLineOption jsonOption(
             QStringLiteral("json"), QStringLiteral("Write the figures to FILE as well."), QStringLiteral("FILE"));
     const QCommandLineOption onlyOption(QStringLiteral("only"),
-            QStringLiteral("Measure one room only: document or html."), QStringLiteral("ROOM"));
+            QStringLiteral("Measure this room only: document, html, plot or xml."), QStringLiteral("ROOM"));
     parser.addOptions({runsOption, jsonOption, onlyOption});
     parser.process(app);
     const int runs = qMax(7, parser.value(runsOption).toInt());
 
     kiv::embedded::EmbeddedBackend backend;
     backend.loadFolders({QStringLiteral(UIUTILS_SERVICES_DIR)});
-    const auto isWanted = [&](const QString& room) {
-        return !parser.isSet(onlyOption) || parser.value(onlyOption) == room;
-    };
+    const QMap<QString, QVector<bench::Result> (*)(int)> rooms {{QStringLiteral("document"), bench::documentCases},
+            {QStringLiteral("html"), bench::htmlCases}, {QStringLiteral("plot"), bench::plotCases},
+            {QStringLiteral("xml"), bench::xmlCases}};
+    const QStringList wanted = parser.isSet(onlyOption) ? parser.values(onlyOption) : rooms.keys();
     QVector<bench::Result> results;
-    if (isWanted(QStringLiteral("document")))
-        results += bench::documentCases(runs);
-    if (isWanted(QStringLiteral("html")))
-        results += bench::htmlCases(runs);
+    for (const QString& room : wanted) {
+        if (!rooms.contains(room)) {
+            QTextStream(stderr) << "uiutils-bench: no room " << room << ", there are "
+                                << rooms.keys().join(QLatin1String(", ")) << '\n';
+            return 2;
+        }
+        results += rooms.value(room)(runs);
+    }
     printTable(results);
     if (parser.isSet(jsonOption) && !writeJson(parser.value(jsonOption), results)) {
         QTextStream(stderr) << "uiutils-bench: cannot write " << parser.value(jsonOption) << '\n';

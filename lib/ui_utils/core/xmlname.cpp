@@ -41,11 +41,16 @@ bool isReserved(const QString& name)
     return name.startsWith(QLatin1String("xml"), Qt::CaseInsensitive);
 }
 
+bool isXmlName(const QString& name)
+{
+    return isNameStart(name.at(0)) && !isReserved(name) && std::all_of(name.cbegin(), name.cend(), isNameCharacter);
+}
+
 } // namespace
 
 QString xmlName(const QString& name)
 {
-    if (name.isEmpty())
+    if (name.isEmpty() || isXmlName(name))
         return name;
     QString result;
     result.reserve(name.size() + 1);

@@ -34,17 +34,6 @@ bool NodeReader::isEnabled() const
     return !isFalse(text(keys::enabled));
 }
 
-QVector<NodeReader::Attribute> NodeReader::attributes() const
-{
-    QVector<Attribute> attributes;
-    for (auto it = m_node.begin(); it != m_node.end(); ++it) {
-        const QString key = it.key();
-        if (key.startsWith(keys::attributeFamily))
-            attributes.append({key.mid(keys::attributeFamily.size()), textOf(it.value())});
-    }
-    return attributes;
-}
-
 QVector<NodeReader::LogEntry> NodeReader::logEntries() const
 {
     QVector<LogEntry> entries;

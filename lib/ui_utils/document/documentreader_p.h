@@ -26,12 +26,6 @@ QString shownTextOf(const QJsonValue& value);
 class NodeReader
 {
 public:
-    struct Attribute
-    {
-        QString name;
-        QString value;
-    };
-
     struct LogEntry
     {
         QString key;
@@ -44,6 +38,8 @@ public:
     }
 
     QString text(QLatin1String key) const { return textOf(m_node.value(key)); }
+    /// How many keys the node has: at least as many as it has children.
+    int keyCount() const { return m_node.size(); }
     bool has(QLatin1String key) const { return m_node.contains(key); }
     QString tag() const { return text(keys::tag); }
     QString title() const { return text(keys::title); }
@@ -51,8 +47,17 @@ public:
     /// False only when a key "enabled" says so: false, "false", "0" or the number 0.
     bool isEnabled() const;
 
-    /// The "attr_" keys, their prefix taken off, in key order.
-    QVector<Attribute> attributes() const;
+    /// Calls visit(QString name, QString value) for each "attr_" key, its prefix taken off, in key order.
+    template<typename Visitor> void forEachAttribute(Visitor visit) const
+    {
+        for (auto it = m_node.begin(); it != m_node.end(); ++it) {
+            const QString key = it.key();
+            if (key.startsWith(keys::attributeFamily))
+                visit(key.mid(keys::attributeFamily.size()), textOf(it.value()));
+            else if (key > keys::attributeFamily)
+                return;
+        }
+    }
 
     /// The "log_" keys and their texts in key order.
     QVector<LogEntry> logEntries() const;
@@ -87,12 +92,19 @@ template<typename Visitor> void forEachCell(const QJsonObject& row, Visitor visi
 {
     QVarLengthArray<std::pair<int, QJsonObject>, 16> cells;
     for (auto it = row.begin(); it != row.end(); ++it) {
-        const QJsonValue value = it.value();
         const QString key = it.key();
-        if (value.isObject() && key.startsWith(keys::cellFamily))
+        if (!key.startsWith(keys::cellFamily)) {
+            if (key > keys::cellFamily)
+                break;
+            continue;
+        }
+        const QJsonValue value = it.value();
+        if (value.isObject())
             cells.append({key.midRef(keys::cellFamily.size()).toInt(), value.toObject()});
     }
-    std::stable_sort(cells.begin(), cells.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    // Up to ten cells, the order of their keys is that of their numbers.
+    if (cells.size() > 10)
+        std::stable_sort(cells.begin(), cells.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     for (const auto& cell : cells)
         visit(cell.second);
 }

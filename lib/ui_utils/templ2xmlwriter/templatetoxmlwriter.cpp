@@ -1,5 +1,6 @@
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 
+#include "core/directmarkup_p.h"
 #include "core/xmlname_p.h"
 #include "core/xmltext_p.h"
 #include "document/documentreader_p.h"
@@ -11,6 +12,7 @@
 
 namespace instrument = uiutils::instrument;
 namespace keys = uiutils::keys;
+using uiutils::beginLine;
 using uiutils::markupText;
 using uiutils::NodeReader;
 using uiutils::TableReader;
@@ -25,6 +27,11 @@ const QString namelessName = QStringLiteral("_");
 QString labelName(const QString& label)
 {
     return label.isEmpty() ? namelessName : xmlName(label.toLower().replace(QLatin1Char(' '), QLatin1Char('_')));
+}
+
+QString elementName(const QString& tag, const QString& fallback)
+{
+    return tag.isEmpty() ? fallback : xmlName(tag);
 }
 
 void writeFields(QXmlStreamWriter& xml, const instrument::LabelledTexts& fields)
@@ -57,7 +64,7 @@ TemplateToXmlWriter::TemplateToXmlWriter(
         return;
 
     writeAttributes(m_document);
-    tablesToXml(m_document);
+    tablesToXml(m_document, 1);
     sectionsToXml(m_document);
     if (!m_jobManagerMode)
         writeVersions();
@@ -96,7 +103,7 @@ void TemplateToXmlWriter::sectionToXml(const QJsonObject& object)
     writeAttributes(object);
     logEntriesToXml(section);
     configurationToXml(section);
-    tablesToXml(object);
+    tablesToXml(object, 2);
     m_xml.writeEndElement();
 }
 
@@ -129,24 +136,42 @@ void TemplateToXmlWriter::configurationToXml(const NodeReader& section)
     m_xml.writeEndElement();
 }
 
-void TemplateToXmlWriter::tablesToXml(const QJsonObject& node)
+void TemplateToXmlWriter::tablesToXml(const QJsonObject& node, int level)
 {
-    NodeReader(node).forEachTable([this](const QString&, const QJsonObject& object) {
+    NodeReader(node).forEachTable([this, level](const QString&, const QJsonObject& object) {
         const TableReader table(object);
         startElement(table.tag(), keys::table);
         writeAttributes(object);
-        table.forEachRow([this](const QString&, const QJsonObject& row) { rowToXml(row); });
+        rowsToXml(table, level + 1);
         m_xml.writeEndElement();
     });
 }
 
-void TemplateToXmlWriter::rowToXml(const QJsonObject& row)
+void TemplateToXmlWriter::rowsToXml(const TableReader& table, int level)
+{
+    // As much as rows of one short cell take; what is not written to costs no memory.
+    constexpr int charactersOfARow = 180;
+    uiutils::makeRoom(m_output, qint64(table.keyCount()) * charactersOfARow);
+    m_xml.setAutoFormatting(false);
+    table.forEachRow([this, level](const QString&, const QJsonObject& row) { rowToXml(row, level); });
+    m_xml.setAutoFormatting(true);
+}
+
+void TemplateToXmlWriter::rowToXml(const QJsonObject& row, int level)
 {
     static const QString element = QStringLiteral("row");
     static const QString labelAttribute = keys::label;
+    beginLine(m_xml, m_output, level);
     m_xml.writeStartElement(element);
-    m_xml.writeAttribute(labelAttribute, markupText(uiutils::shownTextOf(row.value(keys::label))));
-    uiutils::forEachCell(row, [this](const QJsonObject& cell) { cellToXml(cell); });
+    uiutils::writeAttribute(m_xml, m_output, labelAttribute, uiutils::shownTextOf(row.value(keys::label)));
+    bool hasCells = false;
+    uiutils::forEachCell(row, [&](const QJsonObject& cell) {
+        hasCells = true;
+        beginLine(m_xml, m_output, level + 1);
+        cellToXml(cell);
+    });
+    if (hasCells)
+        beginLine(m_xml, m_output, level);
     m_xml.writeEndElement();
 }
 
@@ -154,7 +179,7 @@ void TemplateToXmlWriter::cellToXml(const QJsonObject& cell)
 {
     startElement(uiutils::textOf(cell.value(keys::tag)), QStringLiteral("cell"));
     writeAttributes(cell);
-    m_xml.writeCharacters(markupText(uiutils::shownTextOf(cell.value(keys::label))));
+    uiutils::writeText(m_xml, m_output, uiutils::shownTextOf(cell.value(keys::label)));
     m_xml.writeEndElement();
 }
 
@@ -242,11 +267,6 @@ void TemplateToXmlWriter::writeVersions()
     m_xml.writeEndElement();
 }
 
-QString TemplateToXmlWriter::elementName(const QString& tag, const QString& fallback)
-{
-    return tag.isEmpty() ? fallback : nameOf(tag);
-}
-
 void TemplateToXmlWriter::startElement(const QString& tag, const QString& fallback)
 {
     m_xml.writeStartElement(elementName(tag, fallback));
@@ -254,28 +274,24 @@ void TemplateToXmlWriter::startElement(const QString& tag, const QString& fallba
 
 void TemplateToXmlWriter::writeAttributes(const QJsonObject& node)
 {
-    QVector<NodeReader::Attribute> attributes = NodeReader(node).attributes();
-    // Names differ in the document; only mapped ones can meet.
-    bool isAnyMapped = false;
-    for (NodeReader::Attribute& attribute : attributes) {
-        const QString& name = nameOf(attribute.name);
-        isAnyMapped |= name != attribute.name;
-        attribute.name = name;
-    }
-    QSet<QString> written;
-    for (const NodeReader::Attribute& attribute : qAsConst(attributes)) {
-        if (isAnyMapped && written.contains(attribute.name))
-            continue;
-        if (isAnyMapped)
-            written += attribute.name;
-        m_xml.writeAttribute(attribute.name, markupText(attribute.value));
-    }
-}
+    QVector<QPair<QString, QString>> mapped;
+    NodeReader(node).forEachAttribute([&](const QString& name, const QString& value) {
+        const QString xml = name.isEmpty() ? namelessName : xmlName(name);
+        if (xml == name)
+            uiutils::writeAttribute(m_xml, m_output, name, value);
+        else
+            mapped.append({xml, value});
+    });
+    if (mapped.isEmpty())
+        return;
 
-const QString& TemplateToXmlWriter::nameOf(const QString& tag)
-{
-    auto it = m_names.constFind(tag);
-    if (it == m_names.constEnd())
-        it = m_names.insert(tag, tag.isEmpty() ? namelessName : xmlName(tag));
-    return *it;
+    // Names differ in the document; only mapped ones can meet another.
+    QSet<QString> written;
+    NodeReader(node).forEachAttribute([&](const QString& name, const QString&) { written += name; });
+    for (const auto& attribute : qAsConst(mapped)) {
+        if (written.contains(attribute.first))
+            continue;
+        written += attribute.first;
+        uiutils::writeAttribute(m_xml, m_output, attribute.first, attribute.second);
+    }
 }

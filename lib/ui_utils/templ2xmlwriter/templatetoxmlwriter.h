@@ -4,7 +4,6 @@
 
 #include <kiv/kivitemsnapshot.h>
 
-#include <QHash>
 #include <QJsonObject>
 #include <QString>
 #include <QXmlStreamWriter>
@@ -39,8 +38,9 @@ private:
     void sectionToXml(const QJsonObject& section);
     void logEntriesToXml(const uiutils::NodeReader& section);
     void configurationToXml(const uiutils::NodeReader& section);
-    void tablesToXml(const QJsonObject& node);
-    void rowToXml(const QJsonObject& row);
+    void tablesToXml(const QJsonObject& node, int level);
+    void rowsToXml(const uiutils::TableReader& table, int level);
+    void rowToXml(const QJsonObject& row, int level);
     void cellToXml(const QJsonObject& cell);
 
     void writeTechInfo(QXmlStreamWriter& xml) const;
@@ -48,10 +48,8 @@ private:
     void insertCustomFields();
     void writeVersions();
 
-    QString elementName(const QString& tag, const QString& fallback);
     void startElement(const QString& tag, const QString& fallback);
     void writeAttributes(const QJsonObject& node);
-    const QString& nameOf(const QString& tag);
 
     QString m_output;
     QXmlStreamWriter m_xml;
@@ -60,6 +58,4 @@ private:
     bool m_includeCustomerInfo;
     bool m_hasCustomFields = false;
     KIVItemSnapshot m_snapshot;
-    // A report repeats few tags many times.
-    QHash<QString, QString> m_names;
 };

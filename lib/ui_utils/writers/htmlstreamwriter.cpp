@@ -1,5 +1,6 @@
 #include "writers/htmlstreamwriter.h"
 
+#include "core/directmarkup_p.h"
 #include "core/paths.h"
 #include "core/xmltext_p.h"
 #include "writers/reporttable.h"
@@ -11,6 +12,7 @@
 
 #include <limits>
 
+using uiutils::beginLine;
 using uiutils::markupText;
 
 namespace {
@@ -33,12 +35,12 @@ struct Words
     const QString th = QStringLiteral("th");
     const QString tr = QStringLiteral("tr");
     const QString width = QStringLiteral("width");
-
-    // Line breaks with the indentation of a row, of its cells and of what stands in them.
-    const QString rowBreak = QStringLiteral("\n            ");
-    const QString cellBreak = QStringLiteral("\n                ");
-    const QString contentBreak = QStringLiteral("\n                    ");
 };
+
+// Indentation levels of a table that stands in the body.
+constexpr int rowLevel = 3;
+constexpr int cellLevel = 4;
+constexpr int contentLevel = 5;
 
 const Words& words()
 {
@@ -228,13 +230,12 @@ void HtmlStreamWriter::startTableRow()
     writeStartElement(words().tr);
 }
 
-// The base class writes an indentation level by level, which takes much of its time. Rows write theirs in one piece, to
-// the same effect.
-void HtmlStreamWriter::writeBreak(const QString& indentation)
+void HtmlStreamWriter::expectRows(int rows)
 {
-    // Ends the tag that is open.
-    writeCharacters(QString());
-    m_output += indentation;
+    // As much as rows of short texts take; what is not written to costs no memory.
+    constexpr int charactersOfARow = 70;
+    constexpr int charactersOfACell = 90;
+    uiutils::makeRoom(m_output, qint64(rows) * (charactersOfARow + m_columnCount * charactersOfACell));
 }
 
 void HtmlStreamWriter::startRow()
@@ -254,7 +255,7 @@ bool HtmlStreamWriter::beginCell(int columns)
         setAutoFormatting(false);
     }
     m_currentColumn += columns;
-    writeBreak(words().cellBreak);
+    beginLine(*this, m_output, cellLevel);
     writeStartElement(words().td);
     return true;
 }
@@ -263,10 +264,12 @@ void HtmlStreamWriter::writeHeaderCell(const QString& text, int align)
 {
     if (!beginCell(1))
         return;
-    writeAttribute(words().align, alignmentName(align));
-    writeBreak(words().contentBreak);
-    writeTextElement(words().b, markupText(text));
-    writeBreak(words().cellBreak);
+    uiutils::writeAttribute(*this, m_output, words().align, alignmentName(align));
+    beginLine(*this, m_output, contentLevel);
+    writeStartElement(words().b);
+    uiutils::writeText(*this, m_output, text);
+    writeEndElement();
+    beginLine(*this, m_output, cellLevel);
     writeEndElement();
     if (m_currentTable)
         m_currentTable->appendCell({text, StatusNone, qint8(align), ReportTable::CellKind::RowLabel, 1});
@@ -276,9 +279,9 @@ void HtmlStreamWriter::writeCell(const QString& text, int status, int align)
 {
     if (!beginCell(1))
         return;
-    writeAttribute(words().align, alignmentName(align));
+    uiutils::writeAttribute(*this, m_output, words().align, alignmentName(align));
     writeStatusIcon(status);
-    writeCharacters(markupText(text));
+    uiutils::writeText(*this, m_output, text);
     writeEndElement();
     if (m_currentTable)
         m_currentTable->appendCell({text, status, qint8(align), ReportTable::CellKind::Value, 1});
@@ -300,7 +303,7 @@ void HtmlStreamWriter::writeEmptyCells(int columns)
 void HtmlStreamWriter::endRow()
 {
     if (m_rowOpen && m_currentColumn > 0) {
-        writeBreak(words().rowBreak);
+        beginLine(*this, m_output, rowLevel);
         writeEndElement();
         setAutoFormatting(true);
     }
@@ -348,11 +351,11 @@ void HtmlStreamWriter::writeStatusIcon(int status)
     const QLatin1String path = iconPath(status);
     if (path.isEmpty())
         return;
-    writeBreak(words().contentBreak);
+    beginLine(*this, m_output, contentLevel);
     writeEmptyElement(words().img);
-    writeAttribute(words().src, iconSource(path));
-    writeAttribute(words().width, words().iconSize);
-    writeAttribute(words().height, words().iconSize);
+    uiutils::writeAttribute(*this, m_output, words().src, iconSource(path));
+    uiutils::writeAttribute(*this, m_output, words().width, words().iconSize);
+    uiutils::writeAttribute(*this, m_output, words().height, words().iconSize);
 }
 
 const QString& HtmlStreamWriter::iconSource(const QString& path)

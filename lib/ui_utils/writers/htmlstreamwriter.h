@@ -45,6 +45,8 @@ public:
     /// Opens a table and its first row. `tableAttributes` may set "cellpadding" (5), "rules" (rows) and "frame" (box).
     void startTable(const QString& title, const QStringList& columnLabels, bool hasLabelColumn, int nestingLevel,
             const QVariantMap& tableAttributes = QVariantMap());
+    /// Says how many rows the open table is about to get, so that what is written need not be moved time and again.
+    void expectRows(int rows);
     /// Opens a row unless one is open. A row that gets no cell leaves no trace.
     void startRow();
     /// Writes a row's label as its next cell.
@@ -69,7 +71,6 @@ private:
     void fillDefaults();
     void startTableRow();
     bool beginCell(int columns);
-    void writeBreak(const QString& indentation);
     void writeHeaderRow(const QStringList& columnLabels, bool hasLabelColumn);
     void writeStatusIcon(int status);
     const QString& iconSource(const QString& path);

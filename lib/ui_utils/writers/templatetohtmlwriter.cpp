@@ -330,12 +330,11 @@ void TemplateToHtmlWriter::tablesToHtml(const QJsonObject& node)
 void TemplateToHtmlWriter::tableToHtml(const TableReader& table)
 {
     QVariantMap attributes;
-    const QVector<NodeReader::Attribute> pairs = table.attributes();
-    for (const NodeReader::Attribute& pair : pairs)
-        attributes.insert(pair.name, pair.value);
+    table.forEachAttribute([&](const QString& name, const QString& value) { attributes.insert(name, value); });
 
     const bool hasLabels = table.usesRowLabels();
     m_html->startTable(table.title(), table.columnLabels(), hasLabels, m_depth, attributes);
+    m_html->expectRows(table.keyCount());
     table.forEachRow([&](const QString& key, const QJsonObject& row) {
         if (key.startsWith(keys::rowFamily))
             rowToHtml(table, hasLabels, row);

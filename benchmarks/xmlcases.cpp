@@ -1,0 +1,16 @@
+#include "writercase.h"
+
+#include "document/reporttemplate.h"
+#include "templ2xmlwriter/templatetoxmlwriter.h"
+
+namespace bench {
+
+QVector<Result> xmlCases(int runs)
+{
+    const Writer writer {QStringLiteral("XML text"),
+            [](const ReportTemplate& report) { return TemplateToXmlWriter(report, false, true, true).getXml(); },
+            [](const QString& text) { return text; }};
+    return writerCases(writer, runs, 10'000) + writerCases(writer, runs, 100'000);
+}
+
+} // namespace bench

@@ -1,0 +1,65 @@
+#include "core/directmarkup_p.h"
+
+#include "core/xmltext_p.h"
+
+#include <algorithm>
+
+namespace uiutils {
+
+namespace {
+
+/// Longer tables than this are made room for as they come.
+constexpr qint64 mostRoom = 256 * 1024 * 1024;
+
+/// Whether the text stands in markup as it is, without a character that has to be escaped or left out.
+bool isPlain(const QString& text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar character) {
+        const ushort c = character.unicode();
+        return c >= 0x20 && c != '<' && c != '>' && c != '&' && c != '"' && (c < 0x7f || (c >= 0xa0 && c < 0xd800));
+    });
+}
+
+} // namespace
+
+void beginLine(QXmlStreamWriter& writer, QString& output, int level)
+{
+    static const QString deepest = QLatin1Char('\n') + QString(8 * 4, QLatin1Char(' '));
+    // Ends the tag that is open.
+    writer.writeCharacters(QString());
+    output.append(deepest.constData(), 1 + 4 * qBound(0, level, 8));
+}
+
+void writeAttribute(QXmlStreamWriter& writer, QString& output, const QString& name, const QString& value)
+{
+    if (!isPlain(value)) {
+        writer.writeAttribute(name, markupText(value));
+        return;
+    }
+    output += QLatin1Char(' ');
+    output += name;
+    output += QLatin1String("=\"");
+    output += value;
+    output += QLatin1Char('"');
+}
+
+void writeText(QXmlStreamWriter& writer, QString& output, const QString& text)
+{
+    if (!isPlain(text)) {
+        writer.writeCharacters(markupText(text));
+        return;
+    }
+    // Ends the tag that is open.
+    writer.writeCharacters(QString());
+    output += text;
+}
+
+void makeRoom(QString& output, qint64 characters)
+{
+    const qint64 needed = output.size() + std::min(characters, mostRoom);
+    const qint64 capacity = output.capacity();
+    if (needed > capacity && needed < 2 * mostRoom)
+        output.reserve(int(std::max(needed, capacity + capacity / 2)));
+}
+
+} // namespace uiutils
