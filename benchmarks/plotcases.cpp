@@ -32,8 +32,8 @@ uiutils::PlotData trace()
 /// The plot's points as pixels of the whole picture, ready made.
 QVector<QPointF> pixels(const uiutils::PlotData& data)
 {
-    const uiutils::AxisScale x(data.xExtent(), data.xKind, uiutils::AxisScale::AtData, 10);
-    const uiutils::AxisScale y(data.yExtent(), data.yKind, uiutils::AxisScale::AtTicks, 10);
+    const uiutils::AxisScale x(data.extent().x, data.xKind, uiutils::AxisScale::AtData, 10);
+    const uiutils::AxisScale y(data.extent().y, data.yKind, uiutils::AxisScale::AtTicks, 10);
     QVector<QPointF> result;
     for (int i = 0; i < points; ++i) {
         const QPointF point = data.curves.constFirst().point(i);

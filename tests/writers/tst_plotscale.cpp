@@ -43,8 +43,8 @@ PlotData oneCurve(const QVector<QPointF>& points)
 
 QVector<QVector<QPointF>> stretchesOf(const PlotData& data, int columns)
 {
-    const AxisScale x(data.xExtent(), data.xKind, AxisScale::AtData, 10);
-    const AxisScale y(data.yExtent(), data.yKind, AxisScale::AtData, 10);
+    const AxisScale x(data.extent().x, data.xKind, AxisScale::AtData, 10);
+    const AxisScale y(data.extent().y, data.yKind, AxisScale::AtData, 10);
     return visibleStretches(data, data.curves.first(), x, y, columns);
 }
 

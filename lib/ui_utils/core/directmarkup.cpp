@@ -9,7 +9,7 @@ namespace uiutils {
 namespace {
 
 /// Longer tables than this are made room for as they come.
-constexpr qint64 mostRoom = 256 * 1024 * 1024;
+constexpr qint64 mostRoom = qint64(256) * 1024 * 1024;
 
 /// Whether the text stands in markup as it is, without a character that has to be escaped or left out.
 bool isPlain(const QString& text)

@@ -94,8 +94,8 @@ void AxisScale::scaleLinearly(Interval data, Ends ends, int maximumTicks)
     }
     m_low = ends == AtTicks ? first * m_step : data.low;
     m_high = ends == AtTicks ? last * m_step : data.high;
-    for (double n = first; n <= last; ++n)
-        m_ticks += n * m_step;
+    for (int n = 0; n <= int(last - first); ++n)
+        m_ticks += (first + n) * m_step;
 }
 
 void AxisScale::scaleLogarithmically(Interval data, int maximumTicks)

@@ -93,32 +93,21 @@ private:
 
 } // namespace
 
-Interval PlotData::xExtent() const
+PlotExtent PlotData::extent() const
 {
-    Interval extent;
+    PlotExtent extent;
     for (const PlotCurve& curve : curves) {
         for (int i = 0; i < curve.size(); ++i) {
             const QPointF point = curve.point(i);
-            if (isDrawable(point))
-                extent.include(point.x());
-        }
-    }
-    return extent;
-}
-
-Interval PlotData::yExtent() const
-{
-    Interval extent;
-    for (const PlotCurve& curve : curves) {
-        for (int i = 0; i < curve.size(); ++i) {
-            const QPointF point = curve.point(i);
-            if (isDrawable(point))
-                extent.include(point.y());
+            if (!isDrawable(point))
+                continue;
+            extent.x.include(point.x());
+            extent.y.include(point.y());
         }
     }
     for (const PlotLimit& limit : limits) {
         if (yKind == AxisScale::Linear || limit.value > 0)
-            extent.include(limit.value);
+            extent.y.include(limit.value);
     }
     return extent;
 }

@@ -40,6 +40,13 @@ struct PlotLimit
     QString unit;
 };
 
+/// The values that the axes of a plot have to hold: those of points that can be drawn, and the limits.
+struct PlotExtent
+{
+    Interval x;
+    Interval y;
+};
+
 /// What a service says about its plot.
 struct PlotData
 {
@@ -50,9 +57,7 @@ struct PlotData
     AxisScale::Kind xKind = AxisScale::Linear;
     AxisScale::Kind yKind = AxisScale::Linear;
 
-    /// The values that the axes have to hold: those of points that can be drawn, and the limits.
-    Interval xExtent() const;
-    Interval yExtent() const;
+    PlotExtent extent() const;
     /// Whether a point is finite and lies where the axes can show it.
     bool isDrawable(const QPointF& point) const;
 };

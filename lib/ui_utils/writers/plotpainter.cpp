@@ -35,8 +35,9 @@ PlotPainter::PlotPainter(QPainter& painter, const PlotData& data, const QSize& s
     , m_background(background)
     , m_unit(qBound(10.0, std::min(size.width(), size.height()) / 26.0, 30.0))
     , m_metrics(scaledFont())
-    , m_x(data.xExtent(), data.xKind, AxisScale::AtData, int(size.width() / (m_unit * 6)))
-    , m_y(data.yExtent(), data.yKind, AxisScale::AtTicks, int(size.height() / (m_unit * 3)))
+    , m_extent(data.extent())
+    , m_x(m_extent.x, data.xKind, AxisScale::AtData, int(size.width() / (m_unit * 6)))
+    , m_y(m_extent.y, data.yKind, AxisScale::AtTicks, int(size.height() / (m_unit * 3)))
 {
 }
 
@@ -61,7 +62,7 @@ void PlotPainter::draw()
         drawCurve(i);
     drawLimits();
     m_painter.setClipping(false);
-    if (m_data.xExtent().isEmpty())
+    if (m_extent.x.isEmpty())
         m_painter.drawText(m_frame, Qt::AlignCenter, QCoreApplication::translate("PlotImage", "No data"));
     drawTickLabels();
     drawTitles();

@@ -48,6 +48,7 @@ private:
     QColor m_background;
     double m_unit;
     QFontMetricsF m_metrics;
+    PlotExtent m_extent;
     AxisScale m_x;
     AxisScale m_y;
     QRectF m_frame;
