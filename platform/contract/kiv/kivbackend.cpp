@@ -14,6 +14,11 @@ KIVBackend::~KIVBackend()
         s_current = nullptr;
 }
 
+BaseFormatter* KIVBackend::createFormatter(const QString&) const
+{
+    return nullptr;
+}
+
 void KIVBackend::setCurrent(KIVBackend* backend)
 {
     s_current = backend;

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class BaseFormatter;
 class KIVClientInterface;
 class QObject;
 
@@ -28,4 +29,7 @@ public:
 
     /// See KIVClientInterface::getSessionBusClient().
     virtual KIVClientInterface* serviceClient(const QString& service, QObject* parent) = 0;
+
+    /// See getFormatter(). A back end without formatters need not have it.
+    virtual BaseFormatter* createFormatter(const QString& name) const;
 };

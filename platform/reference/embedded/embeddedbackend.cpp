@@ -2,6 +2,7 @@
 
 #include "embeddedclient_p.h"
 #include "embeddedservice.h"
+#include "formatters/formatters_p.h"
 #include "servicefile_p.h"
 
 #include <QCoreApplication>
@@ -92,6 +93,11 @@ EmbeddedService* EmbeddedBackend::service(const QString& name) const
 KIVClientInterface* EmbeddedBackend::baseManagerClient()
 {
     return serviceClient(baseManagerName, nullptr);
+}
+
+BaseFormatter* EmbeddedBackend::createFormatter(const QString& name) const
+{
+    return formatters::create(name);
 }
 
 KIVClientInterface* EmbeddedBackend::serviceClient(const QString& service, QObject* parent)

@@ -46,6 +46,7 @@ public:
 
     KIVClientInterface* baseManagerClient() override;
     KIVClientInterface* serviceClient(const QString& service, QObject* parent) override;
+    BaseFormatter* createFormatter(const QString& name) const override;
 
 private:
     struct Private;
