@@ -1,0 +1,91 @@
+#include "console.h"
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+#include <cstdio>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace uiutils::convert {
+
+namespace {
+
+bool isProgressShown = false;
+
+QString& warningSubject()
+{
+    static QString subject;
+    return subject;
+}
+
+QString printable(QString text)
+{
+    for (QChar& c : text) {
+        if (c.category() == QChar::Other_Control)
+            c = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
+void print(const QString& text)
+{
+    std::fputs(text.toUtf8().constData(), stderr);
+}
+
+/// Characters of a terminal's line, 0 when there is no terminal that can go back on its line.
+int terminalWidth()
+{
+    winsize size{};
+    if (::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) != 0 || qgetenv("TERM") == "dumb")
+        return 0;
+    return size.ws_col > 0 ? size.ws_col : 80;
+}
+
+void sayQtMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
+{
+    const QString message
+            = type == QtWarningMsg ? QCoreApplication::translate("Console", "warning: %1").arg(text) : text;
+    say(warningSubject().isEmpty() ? message : warningSubject() + QStringLiteral(": ") + message);
+}
+
+} // namespace
+
+void say(const QString& message)
+{
+    clearProgress();
+    print(QStringLiteral("reportconvert: %1\n").arg(printable(message)));
+}
+
+void showProgress(const QString& text)
+{
+    const int width = terminalWidth();
+    if (width == 0)
+        return;
+    clearProgress();
+    // A line that wraps could not be taken back.
+    print(printable(text).left(width - 1));
+    isProgressShown = true;
+}
+
+void clearProgress()
+{
+    if (isProgressShown)
+        print(QStringLiteral("\r\033[K"));
+    isProgressShown = false;
+}
+
+void installWarningHandler()
+{
+    // What the library notes for its developers is no business of a user, who may ask for it by
+    // QT_LOGGING_RULES.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    qInstallMessageHandler(sayQtMessage);
+}
+
+void setWarningSubject(const QString& name)
+{
+    warningSubject() = name;
+}
+
+} // namespace uiutils::convert

@@ -1,0 +1,191 @@
+#include "conversion.h"
+
+#include "console.h"
+#include "core/durablefile.h"
+#include "document/reporttemplate.h"
+#include "exitstatus.h"
+#include "jsonschema_p.h"
+#include "signals.h"
+#include "streams.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QTemporaryFile>
+
+#include <cstring>
+
+namespace uiutils::convert {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Conversion", text);
+}
+
+const QJsonObject& documentSchema()
+{
+    static const QJsonObject schema = [] {
+        QFile file(QStringLiteral(":/uiutils/reportconvert/report-document.schema.json"));
+        return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object()
+                                              : QJsonObject();
+    }();
+    return schema;
+}
+
+/// Devices are written to, never replaced by a file, which root could do even to /dev/null.
+bool isNoFile(const QString& path)
+{
+    const QFileInfo info(path);
+    const QString folder = QFileInfo(info.path()).canonicalFilePath() + QLatin1Char('/');
+    return (info.exists() && !info.isFile()) || folder == QLatin1String("/dev/")
+            || folder.startsWith(QLatin1String("/proc/"));
+}
+
+/// What can be done about a file that could not be written.
+QString advice(const QString& path)
+{
+    const QFileInfo folder(QFileInfo(path).path());
+    if (!folder.exists())
+        return tr("The folder %1 does not exist: make it, or name another with --output.")
+                .arg(folder.filePath());
+    if (!folder.isDir())
+        return tr("%1 is no folder: name another with --output.").arg(folder.filePath());
+    return tr(
+            "Check the free space there and that you may write there, or name another folder with --output.");
+}
+
+} // namespace
+
+Conversion::Conversion(const Plan& plan, const Options& options, const QString& scratchFolder)
+    : m_plan(plan)
+    , m_options(options)
+    , m_scratchFolder(scratchFolder)
+{
+}
+
+int Conversion::run()
+{
+    for (const Job& job : m_plan.jobs) {
+        if (isStopped())
+            break;
+        setWarningSubject(job.name());
+        convertDocument(job);
+    }
+    setWarningSubject({});
+    clearProgress();
+    if (m_signal == 0)
+        return m_hasFailed ? ExitFailed : ExitDone;
+    say(tr("Stopped by SIG%1: %2 of %3 files were written.")
+                    .arg(QLatin1String(::sigabbrev_np(m_signal)))
+                    .arg(m_written)
+                    .arg(m_plan.targetCount()));
+    return ExitSignalled + m_signal;
+}
+
+void Conversion::convertDocument(const Job& job)
+{
+    announce(job.name());
+    ReportTemplate report;
+    if (!read(job, report) || !hasAcceptableLayout(job, report))
+        return;
+    for (const Target& target : job.targets) {
+        if (isStopped())
+            return;
+        announce(target.path);
+        write(target, target.format->generate(report, m_options.page));
+    }
+}
+
+bool Conversion::read(const Job& job, ReportTemplate& report)
+{
+    if (job.document == standardStream)
+        return readStandardInput(job, report);
+    report.readFile(job.document);
+    return !report.hasError() || fail(report.errorString());
+}
+
+bool Conversion::readStandardInput(const Job& job, ReportTemplate& report)
+{
+    const auto failNamed
+            = [&](const QString& reason) { return fail(job.name() + QStringLiteral(": ") + reason); };
+    // By way of a file, so that the one reader of documents with its limits reads this one too.
+    QTemporaryFile copy(m_scratchFolder + QStringLiteral("/input"));
+    if (!copy.open())
+        return failNamed(tr("cannot be kept meanwhile: %1").arg(copy.errorString()));
+    QString error;
+    if (!copyStandardInput(copy, &error))
+        return error.isEmpty() ? !isStopped() : failNamed(error);
+    if (!copy.flush())
+        return failNamed(tr("cannot be kept meanwhile: %1").arg(copy.errorString()));
+    report.readFile(copy.fileName());
+    return !report.hasError() || fail(report.errorString().replace(copy.fileName(), job.name()));
+}
+
+bool Conversion::hasAcceptableLayout(const Job& job, const ReportTemplate& report)
+{
+    const QString violation = kiv::embedded::schemaViolation(documentSchema(), report.object());
+    if (violation.isEmpty())
+        return true;
+    if (m_options.isStrict)
+        return fail(job.name() + QStringLiteral(": ") + violation);
+    say(tr("%1: warning: not the layout of a report document: %2").arg(job.name(), violation));
+    return true;
+}
+
+void Conversion::write(const Target& target, const QByteArray& bytes)
+{
+    QString error;
+    const bool isWritten = target.path.isEmpty() ? writeStandardOutput(bytes, &error)
+                                                 : writeFile(target.path, bytes, &error);
+    if (isWritten)
+        ++m_written;
+    else if (!error.isEmpty())
+        fail(error);
+    else
+        isStopped();
+}
+
+bool Conversion::writeFile(const QString& path, const QByteArray& bytes, QString* error) const
+{
+    if (isNoFile(path)) {
+        *error = tr("%1 is no regular file, and is not replaced. Name another with --output, or \"-\" for "
+                    "standard output.")
+                         .arg(path);
+        return false;
+    }
+    // Only now, so that a call which has nothing to write leaves no empty folder; why it fails, the write
+    // tells.
+    if (!m_plan.newFolder.isEmpty())
+        QDir().mkpath(m_plan.newFolder);
+    if (writeFileDurably(path, bytes, error))
+        return true;
+    *error += QStringLiteral(". ") + advice(path);
+    return false;
+}
+
+void Conversion::announce(const QString& name)
+{
+    const int count = m_plan.targetCount();
+    if (count > 1)
+        showProgress(tr("%1 of %2 files written, %3").arg(m_written).arg(count).arg(name));
+}
+
+bool Conversion::fail(const QString& message)
+{
+    say(message);
+    m_hasFailed = true;
+    return false;
+}
+
+bool Conversion::isStopped()
+{
+    if (m_signal == 0)
+        m_signal = pendingSignal();
+    return m_signal != 0;
+}
+
+} // namespace uiutils::convert

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "plan.h"
+
+#include <QString>
+
+class ReportTemplate;
+
+namespace uiutils::convert {
+
+/// Carries out a plan: reads each document once, checks its layout and writes its targets. Every failure is
+/// said when it happens and stops nothing but its own document or file; a signal stops everything between two
+/// files.
+class Conversion
+{
+public:
+    /// `scratchFolder` is where standard input is kept while it is read.
+    Conversion(const Plan& plan, const Options& options, const QString& scratchFolder);
+
+    /// Returns the program's exit status.
+    int run();
+
+private:
+    void convertDocument(const Job& job);
+    bool read(const Job& job, ReportTemplate& report);
+    bool readStandardInput(const Job& job, ReportTemplate& report);
+    bool hasAcceptableLayout(const Job& job, const ReportTemplate& report);
+    void write(const Target& target, const QByteArray& bytes);
+    bool writeFile(const QString& path, const QByteArray& bytes, QString* error) const;
+    void announce(const QString& name);
+    bool fail(const QString& message);
+    bool isStopped();
+
+    const Plan& m_plan;
+    const Options& m_options;
+    QString m_scratchFolder;
+    int m_written = 0;
+    bool m_hasFailed = false;
+    /// The signal that stopped the run, or 0.
+    int m_signal = 0;
+};
+
+} // namespace uiutils::convert

@@ -1,0 +1,111 @@
+#include "console.h"
+#include "conversion.h"
+#include "core/paths.h"
+#include "exitstatus.h"
+#include "options.h"
+#include "plan.h"
+#include "signals.h"
+#include "streams.h"
+#include "workspace.h"
+
+#include <embedded/embeddedbackend.h>
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QTextCodec>
+
+using namespace uiutils::convert;
+
+namespace {
+
+int complain(const QString& message, ExitStatus status)
+{
+    say(message);
+    return status;
+}
+
+int answer(const QString& message)
+{
+    QString error;
+    return writeStandardOutput(message.toUtf8(), &error) ? ExitDone : complain(error, ExitFailed);
+}
+
+/// False when what is missing makes the call fail.
+bool loadServices(kiv::embedded::EmbeddedBackend& backend, const Options& options)
+{
+    const QStringList problems = backend.loadFolders(options.serviceFolders);
+    for (const QString& problem : problems)
+        say(problem);
+    if (options.isStrict && !problems.isEmpty())
+        return false;
+    if (options.serviceFolders.isEmpty() || !backend.serviceNames().isEmpty())
+        return true;
+    say(QCoreApplication::translate(
+            "main", "No service could be loaded from %1. Name a folder with service files with --services.")
+                    .arg(options.serviceFolders.join(QStringLiteral(", "))));
+    return false;
+}
+
+/// A root of the caller's own is not filled, and a page without its icons looks whole at first sight.
+void warnOfMissingIcons(const Plan& plan)
+{
+    if (!plan.writesPages() || QFile::exists(uiutils::onDisk(uiutils::paths::passIcon)))
+        return;
+    say(QCoreApplication::translate("main",
+            "warning: pages will show no status icons, because UIUTILS_ROOT names %1, where there are none.")
+                    .arg(qEnvironmentVariable("UIUTILS_ROOT")));
+}
+
+int convert(const Options& options, const Plan& plan, const QString& scratchFolder)
+{
+    kiv::embedded::EmbeddedBackend backend;
+    if (!loadServices(backend, options))
+        return ExitFailed;
+    warnOfMissingIcons(plan);
+    return Conversion(plan, options, scratchFolder).run();
+}
+
+Options readOptionsOf(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    return readOptions(QCoreApplication::arguments());
+}
+
+/// Plots need fonts and nothing else of a display: one that is there but does not answer must not matter.
+void forgetDisplay()
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Names of files are UTF-8 in every locale, "C" included.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    QCoreApplication::setApplicationName(QStringLiteral("reportconvert"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(UIUTILS_CONVERT_VERSION));
+    holdStandardStreams();
+    holdSignals();
+    installWarningHandler();
+
+    const Options options = readOptionsOf(argc, argv);
+    if (options.outcome == Options::Misused)
+        return complain(options.message, ExitMisused);
+    if (options.outcome == Options::Answered)
+        return answer(options.message);
+    const Plan plan = makePlan(options);
+    if (!plan.error.isEmpty())
+        return complain(plan.error, ExitMisused);
+
+    Workspace workspace;
+    QString error;
+    if (!workspace.prepare(&error))
+        return complain(error, ExitFailed);
+    forgetDisplay();
+    // A document's name after "--" could look like one of the toolkit's own options.
+    int nameOnly = 1;
+    const QGuiApplication application(nameOnly, argv);
+    return convert(options, plan, workspace.path());
+}

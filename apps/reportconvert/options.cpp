@@ -1,0 +1,171 @@
+#include "options.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace uiutils::convert {
+
+namespace {
+
+const QLatin1String everyFormat("all");
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Options", text);
+}
+
+Options answered(const QString& message)
+{
+    Options options;
+    options.outcome = Options::Answered;
+    options.message = message;
+    return options;
+}
+
+Options misused(const QString& message)
+{
+    Options options;
+    options.outcome = Options::Misused;
+    options.message = message + QLatin1Char(' ') + tr("Try --help for the options.");
+    return options;
+}
+
+/// The rows of the format table as the help shows them.
+QString formatHelp()
+{
+    QString text;
+    for (const Format* format : allFormats()) {
+        text += QStringLiteral("                           %1  %2\n")
+                        .arg(format->name, -5)
+                        .arg(QCoreApplication::translate("Formats", format->description));
+    }
+    return text;
+}
+
+/// In the shape that help2man reads: the parser's own text has no sections for exit status and examples.
+QString helpText()
+{
+    return tr(R"(Usage: reportconvert [OPTION]... DOCUMENT...
+Convert report documents of the instrument (JSON) to HTML, XML or JSON.
+
+A DOCUMENT is a file of up to 256 MiB, or "-" for standard input. Each is
+converted by itself: one that fails is named and does not stop the others. A
+file is replaced only by a whole new one, and a document never by its own
+output.
+
+Options:
+  -f, --format=FORMAT    write FORMAT; may be given more than once, and may be
+                         left out when the suffix of OUTPUT tells it:
+%1                           all    every format
+  -o, --output=OUTPUT    where to write: a folder (made when OUTPUT ends in "/";
+                         default: the current one), which gets a file with the
+                         document's name and the format's suffix, "report" for
+                         standard input; or, for one document and one format,
+                         a file, or "-" for standard output
+  -s, --services=FOLDER  fill the tables about unit, user and job, and the
+                         plots, from the service files in FOLDER; may be given
+                         more than once or with colons; without it those tables
+                         are left out and plots are empty
+      --title=TEXT       title of HTML pages, in place of the document's
+      --no-logo          leave the logo out of HTML pages
+      --strict           a document that does not have the layout of a report
+                         document, or a service file that cannot be used, is an
+                         error; without it a warning
+  -h, --help             show this help
+  -v, --version          show the version
+
+Exit status:
+  0      every document was converted
+  1      one or more could not be read or written; the messages say which
+  2      the command line is wrong, or would have one file written twice or a
+         document overwritten; nothing was written
+  128+N  stopped by signal N; files that were written are whole
+
+Environment:
+  UIUTILS_ROOT  folder of status icons (base/qml/common/images) and temporary
+                plot images (tmp) in place of the program's own temporary one
+  TMPDIR        where that temporary folder is made
+
+Examples:
+  reportconvert --format html report.json
+                    writes report.html into the current folder
+
+  reportconvert --format all --services services --output converted/ *.json
+                    writes every document in every format into "converted"
+
+  reportconvert --format xml --output - - < report.json | xmllint -
+                    converts from standard input to standard output
+)")
+            .arg(formatHelp());
+}
+
+/// Appends the formats that `name` stands for; false when there is none.
+bool addFormats(const QString& name, QVector<const Format*>* formats)
+{
+    if (name == everyFormat) {
+        *formats = allFormats();
+        return true;
+    }
+    const Format* const format = formatByName(name);
+    if (format && !formats->contains(format))
+        *formats += format;
+    return format;
+}
+
+QStringList splitFolders(const QStringList& values)
+{
+    return values.join(QLatin1Char(':')).split(QLatin1Char(':'), Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+Options readOptions(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    const auto named = [](const char* shortName, const char* longName, const char* value = nullptr) {
+        return QCommandLineOption(
+                {QLatin1String(shortName), QLatin1String(longName)}, {}, QLatin1String(value));
+    };
+    const QCommandLineOption help = named("h", "help");
+    const QCommandLineOption version = named("v", "version");
+    const QCommandLineOption format = named("f", "format", "FORMAT");
+    const QCommandLineOption output = named("o", "output", "OUTPUT");
+    const QCommandLineOption services = named("s", "services", "FOLDER");
+    const QCommandLineOption title(QStringLiteral("title"), {}, QStringLiteral("TEXT"));
+    const QCommandLineOption noLogo(QStringLiteral("no-logo"));
+    const QCommandLineOption strict(QStringLiteral("strict"));
+    parser.addOptions({help, version, format, output, services, title, noLogo, strict});
+
+    if (!parser.parse(arguments))
+        return misused(parser.errorText());
+    if (parser.isSet(help))
+        return answered(helpText());
+    if (parser.isSet(version))
+        return answered(
+                QStringLiteral("reportconvert (uiutils) %1\n").arg(QCoreApplication::applicationVersion()));
+
+    Options options;
+    options.documents = parser.positionalArguments();
+    if (options.documents.isEmpty())
+        return misused(tr("No document is given; \"-\" reads one from standard input."));
+    if (options.documents.contains(QString()))
+        return misused(tr("The name of a document is empty."));
+    const QStringList formats = parser.values(format);
+    for (const QString& name : formats) {
+        if (!addFormats(name, &options.formats))
+            return misused(tr("There is no format \"%1\", only %2 and all.").arg(name, formatNames()));
+    }
+    options.output = parser.isSet(output) ? parser.value(output) : QStringLiteral(".");
+    if (options.output.isEmpty())
+        return misused(tr("--output needs the name of a folder or file, or \"-\"."));
+    options.serviceFolders = splitFolders(parser.values(services));
+    if (parser.isSet(services) && options.serviceFolders.isEmpty())
+        return misused(tr("--services needs the name of a folder."));
+    if (parser.isSet(title))
+        options.page.title = parser.value(title);
+    options.page.hasLogo = !parser.isSet(noLogo);
+    options.isStrict = parser.isSet(strict);
+    return options;
+}
+
+} // namespace uiutils::convert

@@ -1,0 +1,190 @@
+#include "plan.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+#include <algorithm>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace uiutils::convert {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Plan", text);
+}
+
+bool isStandardStream(const QString& name)
+{
+    return name == standardStream;
+}
+
+bool isFolder(const QString& output)
+{
+    return output.endsWith(QLatin1Char('/')) || QFileInfo(output).isDir();
+}
+
+/// "report" of "/tmp/report.json"; a name without that suffix stays whole.
+QString baseName(const QString& document)
+{
+    if (isStandardStream(document))
+        return QStringLiteral("report");
+    const QString name = QFileInfo(document).fileName();
+    const QLatin1String suffix(".json");
+    const bool isLonger = name.size() > suffix.size();
+    return isLonger && name.endsWith(suffix, Qt::CaseInsensitive) ? name.chopped(suffix.size()) : name;
+}
+
+/// Device and inode, which a file keeps under each of its names.
+using Identity = std::pair<dev_t, ino_t>;
+
+std::optional<Identity> identityOf(const QString& document)
+{
+    struct stat status
+    {
+    };
+    const int result = isStandardStream(document) ? ::fstat(STDIN_FILENO, &status)
+                                                  : ::stat(QFile::encodeName(document).constData(), &status);
+    if (result != 0 || !S_ISREG(status.st_mode))
+        return std::nullopt;
+    return Identity(status.st_dev, status.st_ino);
+}
+
+/// One spelling for all that lead to the same entry of the same folder. The entry itself is not followed, for
+/// a link there is replaced.
+QString entryKey(const QString& path)
+{
+    const QFileInfo info(path);
+    const QString folder = QFileInfo(info.path()).canonicalFilePath();
+    return folder.isEmpty() ? QDir::cleanPath(info.absoluteFilePath())
+                            : QDir(folder).filePath(info.fileName());
+}
+
+QString clashOf(const QVector<Job>& jobs)
+{
+    QHash<QString, QString> documentOf;
+    for (const Job& job : jobs) {
+        for (const Target& target : job.targets) {
+            const QString key = entryKey(target.path);
+            if (documentOf.contains(key)) {
+                return tr("%1 and %2 would both be written to %3. Convert them in two calls, into different "
+                          "folders.")
+                        .arg(documentOf.value(key), job.name(), target.path);
+            }
+            documentOf.insert(key, job.name());
+        }
+    }
+    return {};
+}
+
+QString overwrittenDocument(const QVector<Job>& jobs)
+{
+    QHash<Identity, QString> documents;
+    for (const Job& job : jobs) {
+        if (const std::optional<Identity> identity = identityOf(job.document))
+            documents.insert(*identity, job.name());
+    }
+    for (const Job& job : jobs) {
+        for (const Target& target : job.targets) {
+            const std::optional<Identity> identity = identityOf(target.path);
+            if (identity && documents.contains(*identity)) {
+                return tr("%1 would overwrite the document %2. Name another folder or file with --output.")
+                        .arg(target.path, documents.value(*identity));
+            }
+        }
+    }
+    return {};
+}
+
+Plan refused(const QString& error)
+{
+    Plan plan;
+    plan.error = error;
+    return plan;
+}
+
+Plan intoFolder(const Options& options)
+{
+    Plan plan;
+    for (const QString& document : options.documents) {
+        Job job{document, {}};
+        for (const Format* format : options.formats) {
+            const QString file = baseName(document) + QLatin1Char('.') + format->suffix;
+            job.targets += Target{format, QDir::cleanPath(QDir(options.output).filePath(file))};
+        }
+        plan.jobs += job;
+    }
+    if (!QFileInfo(options.output).isDir())
+        plan.newFolder = options.output;
+    return plan;
+}
+
+/// The plan for standard output or one file.
+Plan intoOne(const Options& options)
+{
+    const bool toStandardOutput = isStandardStream(options.output);
+    if (options.documents.size() > 1 || options.formats.size() > 1) {
+        return refused(toStandardOutput
+                        ? tr("Standard output takes one document in one format. Name a folder with --output.")
+                        : tr("%1 is no folder, and a file takes one document in one format. For a folder "
+                             "that is to be made, end its name in \"/\".")
+                                  .arg(options.output));
+    }
+    Plan plan;
+    const Target target{options.formats.constFirst(), toStandardOutput ? QString() : options.output};
+    plan.jobs += Job{options.documents.constFirst(), {target}};
+    return plan;
+}
+
+} // namespace
+
+QString Job::name() const
+{
+    return isStandardStream(document) ? QStringLiteral("<standard input>") : document;
+}
+
+int Plan::targetCount() const
+{
+    int count = 0;
+    for (const Job& job : jobs)
+        count += job.targets.size();
+    return count;
+}
+
+bool Plan::writesPages() const
+{
+    return std::any_of(jobs.begin(), jobs.end(), [](const Job& job) {
+        return std::any_of(job.targets.begin(), job.targets.end(),
+                [](const Target& target) { return target.format->isPage; });
+    });
+}
+
+Plan makePlan(const Options& given)
+{
+    Options options = given;
+    const bool writesFolder = !isStandardStream(options.output) && isFolder(options.output);
+    if (options.formats.isEmpty()) {
+        const Format* const format
+                = writesFolder ? nullptr : formatBySuffix(QFileInfo(options.output).suffix().toLower());
+        if (!format)
+            return refused(tr("Name a format with --format: %1 or all.").arg(formatNames()));
+        options.formats += format;
+    }
+    Plan plan = writesFolder ? intoFolder(options) : intoOne(options);
+    if (plan.error.isEmpty() && options.page.isChanged() && !plan.writesPages())
+        plan.error = tr("--title and --no-logo change HTML pages only, and none is asked for.");
+    if (plan.error.isEmpty())
+        plan.error = clashOf(plan.jobs);
+    if (plan.error.isEmpty())
+        plan.error = overwrittenDocument(plan.jobs);
+    return plan;
+}
+
+} // namespace uiutils::convert

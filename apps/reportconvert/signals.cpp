@@ -1,0 +1,65 @@
+#include "signals.h"
+
+#include <cerrno>
+#include <csignal>
+#include <poll.h>
+#include <sys/signalfd.h>
+
+namespace uiutils::convert {
+
+namespace {
+
+// What ends a program from outside.
+const int endingSignals[] = {SIGINT, SIGTERM, SIGHUP};
+
+int signalDescriptor = -1;
+
+/// nohup and background jobs ignore some: held back, such a signal would become pending all the same.
+bool isIgnored(int signal)
+{
+    struct sigaction action
+    {
+    };
+    return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
+} // namespace
+
+void holdSignals()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    sigset_t held;
+    sigemptyset(&held);
+    for (const int signal : endingSignals) {
+        if (!isIgnored(signal))
+            sigaddset(&held, signal);
+    }
+    ::pthread_sigmask(SIG_BLOCK, &held, nullptr);
+    // Made readable by a signal that waits, and never read: poll() can wait for both without a gap between
+    // them.
+    signalDescriptor = ::signalfd(-1, &held, SFD_CLOEXEC);
+}
+
+int pendingSignal()
+{
+    sigset_t pending;
+    if (::sigpending(&pending) != 0)
+        return 0;
+    sigset_t held;
+    ::pthread_sigmask(SIG_BLOCK, nullptr, &held);
+    for (const int signal : endingSignals) {
+        if (sigismember(&pending, signal) == 1 && sigismember(&held, signal) == 1)
+            return signal;
+    }
+    return 0;
+}
+
+bool waitFor(int fd, short events)
+{
+    pollfd waiting[] = {{fd, events, 0}, {signalDescriptor, POLLIN, 0}};
+    while (::poll(waiting, 2, -1) < 0 && errno == EINTR) { }
+    return pendingSignal() == 0;
+}
+
+} // namespace uiutils::convert

@@ -1,0 +1,99 @@
+#include "streams.h"
+
+#include "signals.h"
+
+#include <kiv/plovjsondocument.h>
+
+#include <QCoreApplication>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+namespace uiutils::convert {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Streams", text);
+}
+
+bool fail(const QString& reason, QString* error)
+{
+    *error = reason;
+    return false;
+}
+
+/// Why a write to standard output failed, and what to do.
+QString outputError()
+{
+    if (errno == EPIPE)
+        return tr("Cannot write to standard output: its reader has closed it.");
+    return tr("Cannot write to standard output: %1. Name a file with --output.").arg(qt_error_string(errno));
+}
+
+bool isPassing(int error)
+{
+    return error == EINTR || error == EAGAIN || error == EWOULDBLOCK;
+}
+
+} // namespace
+
+void holdStandardStreams()
+{
+    // In ascending order, for open() takes the lowest number that is free.
+    for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(fd, F_GETFD) < 0)
+            ::open("/dev/null", fd == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    }
+}
+
+bool copyStandardInput(QIODevice& target, QString* error)
+{
+    std::array<char, 65536> buffer{};
+    qint64 total = 0;
+    while (waitFor(STDIN_FILENO, POLLIN)) {
+        const ssize_t count = ::read(STDIN_FILENO, buffer.data(), buffer.size());
+        if (count < 0 && isPassing(errno))
+            continue;
+        if (count < 0)
+            return fail(tr("cannot be read: %1").arg(qt_error_string(errno)), error);
+        if (count == 0)
+            return true;
+        total += count;
+        if (total > PlovJsonDocument::maximumFileSize) {
+            return fail(tr("larger than the %1 MiB that a document may have")
+                                .arg(PlovJsonDocument::maximumFileSize / 1024 / 1024),
+                    error);
+        }
+        if (target.write(buffer.data(), count) != count)
+            return fail(tr("cannot be kept meanwhile: %1").arg(target.errorString()), error);
+    }
+    return false;
+}
+
+bool writeStandardOutput(const QByteArray& bytes, QString* error)
+{
+    qint64 done = 0;
+    while (done < bytes.size()) {
+        if (!waitFor(STDOUT_FILENO, POLLOUT))
+            return false;
+        // A pipe that is ready takes this much at once, so that no write blocks where a signal could not end
+        // it.
+        const ssize_t count = ::write(
+                STDOUT_FILENO, bytes.constData() + done, size_t(qMin<qint64>(PIPE_BUF, bytes.size() - done)));
+        if (count < 0 && isPassing(errno))
+            continue;
+        if (count < 0)
+            return fail(outputError(), error);
+        done += count;
+    }
+    // Some file systems tell only now that there was no room.
+    return ::close(STDOUT_FILENO) == 0 || fail(outputError(), error);
+}
+
+} // namespace uiutils::convert

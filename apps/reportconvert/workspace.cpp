@@ -1,0 +1,64 @@
+#include "workspace.h"
+
+#include "core/paths.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+namespace uiutils::convert {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Workspace", text);
+}
+
+/// Not QDir::tempPath(), which is "/" when TMPDIR names a folder that does not exist.
+QString place()
+{
+    const QString named = qEnvironmentVariable("TMPDIR");
+    return named.isEmpty() ? QStringLiteral("/tmp") : named;
+}
+
+} // namespace
+
+Workspace::Workspace()
+    : m_folder(place() + QStringLiteral("/reportconvert-XXXXXX"))
+{
+}
+
+bool Workspace::prepare(QString* error)
+{
+    if (!m_folder.isValid()) {
+        *error = tr("No temporary folder can be made in %1: %2. Name another place with TMPDIR.")
+                         .arg(place(), m_folder.errorString());
+        return false;
+    }
+    // Without one the toolkit would make a folder in /tmp that stays.
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(path()));
+    if (!qEnvironmentVariableIsEmpty("UIUTILS_ROOT") || makeRoot())
+        return true;
+    *error = tr("The temporary folder %1 cannot be filled. Check the free space there, or name another "
+                "place with TMPDIR.")
+                     .arg(path());
+    return false;
+}
+
+bool Workspace::makeRoot()
+{
+    const QString images = path() + paths::images;
+    if (!QDir().mkpath(images) || !QDir().mkpath(path() + QStringLiteral("/tmp")))
+        return false;
+    const QDir drawn(QStringLiteral(":/uiutils/images"));
+    const QStringList names = drawn.entryList();
+    for (const QString& name : names) {
+        if (!QFile::copy(drawn.filePath(name), images + name))
+            return false;
+    }
+    return qputenv("UIUTILS_ROOT", QFile::encodeName(path()));
+}
+
+} // namespace uiutils::convert
