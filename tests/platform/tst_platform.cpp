@@ -3,6 +3,7 @@
 #include <kiv/kivbackend.h>
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
+#include <kiv/kivitemsnapshot.h>
 #include <kiv/system.h>
 
 #include <QLocale>
@@ -151,6 +152,25 @@ private Q_SLOTS:
         QTRY_COMPARE(item->getValue(), QVariant(100.0));
         QCOMPARE(changes.size(), 2);
         QVERIFY(!m_setup->report("kinds", ":config:kinds:unknown:", 1));
+    }
+
+    void snapshotsKeepWhatWas()
+    {
+        KIVItemSnapshot snapshot(KIVClientInterface::getSessionBusClient("kinds"), ":config:kinds:test:");
+        const auto names = [&] {
+            QStringList names;
+            for (const KIVItemSnapshot::Item& item : snapshot.items())
+                names += item.name;
+            return names;
+        };
+        QCOMPARE(names(), (QStringList {"count", "hosts", "level", "name", "on", "speed"}));
+        snapshot.labelSort();
+        QCOMPARE(names(), (QStringList {"count", "hosts", "on", "level", "name", "speed"}));
+        QVERIFY(m_setup->report("kinds", ":config:kinds:test:speed:", 1.0));
+        m_setup.reset();
+        QCOMPARE(snapshot.items().last().value, QVariant(1234.5));
+        QCOMPARE(snapshot.items().last().label, QString("Speed"));
+        QVERIFY(KIVItemSnapshot(nullptr).items().isEmpty());
     }
 
     void timeOfDay()
