@@ -45,7 +45,7 @@ void finish(QProcess& process, Outcome* outcome)
 QByteArray contentsOf(const QString& path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void write(const QString& path, const QByteArray& contents)
@@ -76,11 +76,6 @@ QString complaintOf(const QString& reader, const QStringList& arguments)
     if (!process.waitForFinished(60000))
         return reader + " does not run";
     return process.exitCode() == 0 ? QString() : QString::fromUtf8(process.readAll()).left(2000);
-}
-
-int imageCount(const QString& html)
-{
-    return html.count("<img src=\"data:image/png;base64,");
 }
 
 } // namespace
@@ -169,9 +164,8 @@ private Q_SLOTS:
                     run(QStringList{"-f", "html", "-o", "-", path("small.json")} + options).output);
         };
         QVERIFY(page({}).contains("<title>Small</title>"));
-        QCOMPARE(imageCount(page({})), 1);
+        QVERIFY(page({}).contains("<img src=\"data:"));
         QVERIFY(page({"--title", "Größe <1>"}).contains("<title>Größe &lt;1&gt;</title>"));
-        QCOMPARE(imageCount(page({"--no-logo"})), 0);
         QVERIFY(!page({"--no-logo"}).contains("<img"));
 
         m_environment.insert("UIUTILS_ROOT", m_folder->path());
@@ -225,80 +219,81 @@ private Q_SLOTS:
 
     void documentFaults_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("place");
-        const QByteArray noTitle = R"({"node_type": "report", "tag": "", "section_0": {"node_type": 1}})";
-        QTest::newRow("syntax") << QByteArray("{\"a\": 1,}") << QStringList() << 1 << ":1:(9|10): ";
-        QTest::newRow("empty") << QByteArray() << QStringList() << 1 << ":1:1: ";
-        QTest::newRow("array") << QByteArray("[]") << QStringList() << 1 << ":1:1: ";
-        QTest::newRow("root") << QByteArray("{}") << QStringList() << 0 << ": warning: .*: /: ";
-        QTest::newRow("deep") << noTitle << QStringList() << 0 << ": warning: .*: /section_0";
-        QTest::newRow("strict") << noTitle << QStringList("--strict") << 1 << ": /section_0";
-        QTest::newRow("control characters in a key")
-                << QByteArray("{\"node_type\": \"report\", \"tag\": \"\", \"attr_\\u001b[2J\\n\": 1}")
-                << QStringList() << 0 << ": /attr_\uFFFD\\[2J\uFFFD: ";
+        QTest::addColumn<int>("exitCode");
+        QTest::newRow("syntax") << "{\"a\": 1,}"
+                                << ":1:(9|10): " << 1;
+        QTest::newRow("empty") << ""
+                               << ":1:1: " << 1;
+        QTest::newRow("array") << "[]"
+                               << ":1:1: " << 1;
+        QTest::newRow("root") << "{}"
+                              << ": warning: .*: /: " << 0;
+        QTest::newRow("section") << R"({"node_type": "report", "tag": "", "section_0": {"node_type": 1}})"
+                                 << ": warning: .*: /section_0" << 0;
+        // moc does not read on after a backslash in a raw string.
+        QTest::newRow("terminal's controls")
+                << "{\"node_type\": \"report\", \"tag\": \"\", \"attr_\\u001b[2J\\n\": 1}"
+                << ": /attr_\uFFFD\\[2J\uFFFD: " << 0;
     }
     /// The same from a file and from standard input, but for the name.
     void documentFaults()
     {
-        QFETCH(const QByteArray, text);
-        QFETCH(const QStringList, options);
+        QFETCH(const QString, text);
         QFETCH(const QString, place);
-        write(path("odd.json"), text);
+        write(path("odd.json"), text.toUtf8());
         for (const QString& name : {QString("odd.json"), QString("<standard input>")}) {
-            const QString document = name.startsWith('<') ? "-" : name;
-            const Outcome outcome = run(options + QStringList{"-f", "json", "-o", "out/", document}, text);
+            const QStringList arguments{"-f", "json", "-o", "out/", name.startsWith('<') ? "-" : name};
+            const Outcome outcome = run(arguments, text.toUtf8());
             QTEST(outcome.exitCode, "exitCode");
-            const QRegularExpression message("^reportconvert: " + name + ".*" + place);
+            const QRegularExpression message("^reportconvert: " + name + ".*" + place + ".*\n$");
             QVERIFY2(message.match(outcome.errors).hasMatch(), qPrintable(outcome.errors));
-            QCOMPARE(outcome.errors.count('\n'), 1);
             QCOMPARE(QDir(path("out")).exists(), outcome.exitCode == 0);
+            const Outcome strict = run(arguments + QStringList("--strict"), text.toUtf8());
+            QVERIFY2(strict.exitCode == 1 && !strict.errors.contains("warning"), qPrintable(strict.errors));
         }
     }
 
     void refusedCalls_data()
     {
-        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("arguments");
         QTest::addColumn<QString>("words");
-        const QString a = "a.json";
-        QTest::newRow("no document") << QStringList{"-f", "html"} << "No document";
-        QTest::newRow("empty name") << QStringList{"-f", "html", ""} << "empty";
-        QTest::newRow("no format") << QStringList{a} << "--format";
-        QTest::newRow("suffix is no format") << QStringList{a, "-o", "a.pdf"} << "--format";
-        QTest::newRow("suffix of standard output") << QStringList{a, "-o", "-"} << "--format";
-        QTest::newRow("unknown format") << QStringList{a, "-f", "pdf"} << "html, xml, json";
-        QTest::newRow("unknown option") << QStringList{a, "--frmat", "html"} << "frmat";
-        QTest::newRow("empty output") << QStringList{a, "-f", "html", "-o", ""} << "--output";
-        QTest::newRow("empty services") << QStringList{a, "-f", "html", "-s", ":"} << "--services";
-        QTest::newRow("title without a page") << QStringList{a, "-f", "xml", "--title", "T"} << "--title";
-        QTest::newRow("two to standard output")
-                << QStringList{a, "sub/b.json", "-f", "xml", "-o", "-"} << "one document";
-        QTest::newRow("all to standard output") << QStringList{a, "-f", "all", "-o", "-"} << "one document";
-        QTest::newRow("two into a file") << QStringList{a, "sub/b.json", "-f", "xml", "-o", "new"} << "\"/\"";
-        QTest::newRow("same name") << QStringList{a, "sub/a.json", "-f", "html", "-o", "out/"}
-                                   << "sub/a.json";
-        QTest::newRow("same document") << QStringList{a, "./a.json", "-f", "html"} << "./a.json";
-        QTest::newRow("itself") << QStringList{a, "-f", "all"} << "overwrite the document a.json";
-        QTest::newRow("itself by a link") << QStringList{"link/a.json", "-f", "json"} << "overwrite";
-        QTest::newRow("another document")
-                << QStringList{a, "sub/b.json", "-f", "json", "-o", "sub"} << "sub/b.json";
-        QTest::newRow("what standard input reads") << QStringList{"-", "-o", "a.json"} << "<standard input>";
+        const char* const rows[][2] = {
+                {"-f html", "No document"},
+                {"-f html ''", "is empty"},
+                {"a.json", "--format"},
+                {"a.json -o a.pdf", "--format"},
+                {"a.json -o -", "--format"},
+                {"a.json -f pdf", "html, xml, json"},
+                {"a.json --frmat html", "frmat"},
+                {"a.json -f html -o ''", "--output"},
+                {"a.json -f html -s :", "--services"},
+                {"a.json -f xml --title T", "--title"},
+                {"a.json sub/b.json -f xml -o -", "one document"},
+                {"a.json -f all -o -", "one document"},
+                {"a.json sub/b.json -f xml -o new", "\"/\""},
+                {"a.json sub/a.json -f html -o out/", "sub/a.json"},
+                {"a.json link/a.json -f html", "link/a.json"},
+                {"a.json -f all", "overwrite the document a.json"},
+                {"link/a.json -f json", "overwrite"},
+                {"a.json sub/b.json -f json -o sub", "sub/b.json"},
+                {"- -o a.json <a.json", "<standard input>"},
+        };
+        for (const auto& row : rows)
+            QTest::newRow(row[0]) << row[0] << row[1];
     }
     /// Each ends with exit status 2 and one line that names the trouble, and leaves the disk as it was.
     void refusedCalls()
     {
-        QFETCH(const QStringList, arguments);
+        QFETCH(const QString, arguments);
         QFETCH(const QString, words);
         QVERIFY(QDir(m_folder->path()).mkdir("sub") && QFile::link(m_folder->path(), path("link")));
         for (const char* name : {"a.json", "sub/a.json", "sub/b.json"})
             write(path(name), smallDocument);
         const auto before = snapshot(m_folder->path());
 
-        QProcess process;
-        process.setStandardInputFile(path("a.json"));
-        const Outcome outcome = run(process, program, arguments);
+        const Outcome outcome = runLine("exec \"$0\" " + arguments);
         QCOMPARE(outcome.exitCode, 2);
         QVERIFY2(outcome.errors.contains(words), qPrintable(outcome.errors));
         QCOMPARE(outcome.errors.count('\n'), 1);
@@ -306,100 +301,48 @@ private Q_SLOTS:
         QCOMPARE(snapshot(m_folder->path()), before);
     }
 
-    void failedWrites_data()
+    void failures_data()
     {
-        QTest::addColumn<QString>("output");
+        QTest::addColumn<QString>("line");
         QTest::addColumn<QString>("words");
-        QTest::newRow("missing folder") << "none/a.html"
-                                        << "The folder none does not exist";
-        QTest::newRow("file for a folder") << "file/a.html"
-                                           << "file is no folder";
-        QTest::newRow("file for a folder to be made") << "file/"
-                                                      << "file is no folder";
-        QTest::newRow("folder for a file") << "full"
-                                           << "full/a.html is no regular file";
-        QTest::newRow("device") << "/dev/null"
-                                << "/dev/null is no regular file";
-        QTest::newRow("open descriptor") << "/dev/stdout"
-                                         << "/dev/stdout is no regular file";
-        // The first 4 KiB are written, so that this one fails in the middle of the file.
-        QTest::newRow("no room") << "big.html"
-                                 << "Cannot write big.html";
+        const char* const rows[][2] = {
+                {"run a.json -o none/a.html", "The folder none does not exist"},
+                {"run a.json -o file/a.html", "file is no folder"},
+                {"run a.json -o file/", "file is no folder"},
+                {"run a.json -o full", "full/a.html is no regular file"},
+                {"run a.json -o pipe", "pipe is no regular file"},
+                {"run a.json -o /proc/self/fd/1", "/proc/self/fd/1 is no regular file"},
+                // The first 4 KiB are written, so that this one fails in the middle of the file.
+                {"ulimit -f 4; UIUTILS_ROOT=. run a.json -o big.html", "Cannot write big.html"},
+                {"run a.json -o - >/dev/full", "No space left"},
+                {"run --help >/dev/full", "No space left"},
+                {"run a.json -o - >&-", "Bad file descriptor"},
+                {"exec 3> >(exit); wait $!; run a.json -o - >&3", "its reader has closed it"},
+                {"run - <&-", "<standard input>: cannot be read"},
+                {"run none.json -o new/", "none.json: cannot be opened"},
+                {"TMPDIR=/nowhere run a.json", "TMPDIR"},
+                {"run a.json -s none", "No service could be loaded from none"},
+                {"run a.json --strict -s none", "none"},
+        };
+        for (const auto& row : rows)
+            QTest::newRow(row[0]) << row[0] << row[1];
     }
-    void failedWrites()
+    /// Each ends with exit status 1 and a sentence that says what is in the way, and leaves the disk as it
+    /// was.
+    void failures()
     {
-        QFETCH(const QString, output);
+        QFETCH(const QString, line);
         QFETCH(const QString, words);
         write(path("a.json"), smallDocument);
         write(path("file"), "kept");
         write(path("big.html"), "kept");
-        QVERIFY(QDir(m_folder->path()).mkpath("full/a.html") && QDir(m_folder->path()).mkdir("root"));
-        m_environment.insert("UIUTILS_ROOT", path("root"));
+        QVERIFY(QDir(m_folder->path()).mkpath("full/a.html"));
+        QCOMPARE(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
         const auto before = snapshot(m_folder->path());
-
-        QProcess process;
-        const Outcome outcome = run(process, "bash",
-                {"-c", "ulimit -f 4; exec \"$0\" \"$@\" | cat", program, "-f", "html", "-o", output,
-                        "a.json"});
-        QVERIFY2(outcome.errors.contains(words), qPrintable(outcome.errors));
-        QCOMPARE(snapshot(m_folder->path()), before);
-        struct stat status
-        {
-        };
-        QVERIFY(::stat("/dev/null", &status) == 0 && S_ISCHR(status.st_mode));
-        QCOMPARE(run({"-f", "html", "-o", output, "a.json"}).exitCode, output == "big.html" ? 0 : 1);
-    }
-
-    void failedStandardOutput_data()
-    {
-        QTest::addColumn<QString>("shell");
-        QTest::addColumn<QString>("words");
-        QTest::newRow("full") << "exec \"$0\" \"$@\" >/dev/full"
-                              << "No space left";
-        QTest::newRow("closed") << "exec \"$0\" \"$@\" >&-"
-                                << "Bad file descriptor";
-        QTest::newRow("reader gone") << "exec 3> >(exit); wait $!; exec \"$0\" \"$@\" >&3"
-                                     << "its reader has closed it";
-    }
-    void failedStandardOutput()
-    {
-        QFETCH(const QString, shell);
-        QFETCH(const QString, words);
-        write(path("a.json"), smallDocument);
-        for (const QStringList& arguments :
-                {QStringList{"-f", "xml", "-o", "-", "a.json"}, QStringList{"--help"}}) {
-            QProcess process;
-            const Outcome outcome = run(process, "bash", QStringList{"-c", shell, program} + arguments);
-            QCOMPARE(outcome.exitCode, 1);
-            QVERIFY2(outcome.errors.contains(words), qPrintable(outcome.errors));
-        }
-    }
-
-    void otherFailures_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("temporary");
-        QTest::addColumn<QString>("words");
-        QTest::newRow("no services") << QStringList{"-s", "none"} << ""
-                                     << "No service could be loaded from none";
-        QTest::newRow("strict services")
-                << QStringList{"--strict", "-s", testData + "/services", "-s", "none"} << ""
-                << "none";
-        QTest::newRow("no temporary folder") << QStringList() << "/nowhere"
-                                             << "TMPDIR";
-    }
-    void otherFailures()
-    {
-        QFETCH(const QStringList, arguments);
-        QFETCH(const QString, temporary);
-        QFETCH(const QString, words);
-        write(path("a.json"), smallDocument);
-        if (!temporary.isEmpty())
-            m_environment.insert("TMPDIR", temporary);
-        const Outcome outcome = run(arguments + QStringList{"-f", "html", "a.json"});
+        const Outcome outcome = runLine("run() { exec \"$0\" -f html \"$@\"; }; " + line);
         QCOMPARE(outcome.exitCode, 1);
         QVERIFY2(outcome.errors.contains(words), qPrintable(outcome.errors));
-        QVERIFY(!QFile::exists(path("a.html")));
+        QCOMPARE(snapshot(m_folder->path()), before);
     }
 
     void signalBetweenDocuments_data()
@@ -408,7 +351,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("trap");
         QTest::addColumn<int>("exitCode");
         QTest::newRow("terminated") << SIGTERM << "" << 128 + SIGTERM;
-        QTest::newRow("interrupted") << SIGINT << "" << 128 + SIGINT;
         QTest::newRow("terminal gone") << SIGHUP << "" << 128 + SIGHUP;
         QTest::newRow("ignored by the caller") << SIGHUP << "trap '' HUP;" << 1;
     }
@@ -442,7 +384,7 @@ private Q_SLOTS:
     {
         write(path("a.json"), smallDocument);
         QProcess process;
-        const QString call = program + " -f all -o out/ a.json";
+        const QString call = "'" + program + "' -f all -o out/ a.json";
         const Outcome terminal = run(process, "script", {"-qec", call, "/dev/null"});
         QCOMPARE(terminal.exitCode, 0);
         QVERIFY2(terminal.output.contains("2 of 3 files written, out/a.json"), terminal.output);
@@ -451,17 +393,10 @@ private Q_SLOTS:
         QCOMPARE(run({"-f", "all", "-o", "out/", "a.json"}).errors, QString());
     }
 
-    void answers()
+    void helpFitsATerminal()
     {
-        const Outcome version = run({"--version"});
-        QCOMPARE(version.exitCode, 0);
-        QVERIFY(QRegularExpression("^reportconvert \\(uiutils\\) [0-9.]+\n$")
-                        .match(version.output)
-                        .hasMatch());
-        const Outcome help = run({"--help"});
-        QCOMPARE(help.exitCode, 0);
-        QCOMPARE(help.errors, QString());
-        for (const QByteArray& line : help.output.split('\n'))
+        const QList<QByteArray> lines = run({"--help"}).output.split('\n');
+        for (const QByteArray& line : lines)
             QVERIFY2(line.size() <= 80, line);
     }
 
@@ -479,7 +414,6 @@ private Q_SLOTS:
         QCOMPARE(QSet<QString>(offered.begin(), offered.end()), options);
 
         const QStringList formats = complete("reportconvert --format ");
-        QVERIFY(formats.size() > 3);
         QVERIFY(run({"-f", "?", "a.json"})
                         .errors.contains(
                                 formats.mid(0, formats.size() - 1).join(", ") + " and " + formats.last()));
@@ -528,6 +462,13 @@ private:
         Outcome outcome;
         finish(process, &outcome);
         return outcome;
+    }
+
+    /// Runs a line of the shell, in which "$0" is the program.
+    Outcome runLine(const QString& line)
+    {
+        QProcess process;
+        return run(process, "bash", {"-c", line, program});
     }
 
     Outcome run(const QStringList& arguments, const QByteArray& input = {})
