@@ -57,28 +57,18 @@ std::optional<Identity> identityOf(const QString& document)
     return Identity(status.st_dev, status.st_ino);
 }
 
-/// One spelling for all that lead to the same entry of the same folder. The entry itself is not followed, for
-/// a link there is replaced.
-QString entryKey(const QString& path)
-{
-    const QFileInfo info(path);
-    const QString folder = QFileInfo(info.path()).canonicalFilePath();
-    return folder.isEmpty() ? QDir::cleanPath(info.absoluteFilePath())
-                            : QDir(folder).filePath(info.fileName());
-}
-
+/// All targets lie in one folder, so that two of them are the same file only when they are spelt alike.
 QString clashOf(const QVector<Job>& jobs)
 {
     QHash<QString, QString> documentOf;
     for (const Job& job : jobs) {
         for (const Target& target : job.targets) {
-            const QString key = entryKey(target.path);
-            if (documentOf.contains(key)) {
+            if (documentOf.contains(target.path)) {
                 return tr("%1 and %2 would both be written to %3. Convert them in two calls, into different "
                           "folders.")
-                        .arg(documentOf.value(key), job.name(), target.path);
+                        .arg(documentOf.value(target.path), job.name(), target.path);
             }
-            documentOf.insert(key, job.name());
+            documentOf.insert(target.path, job.name());
         }
     }
     return {};
