@@ -12,7 +12,6 @@
 
 #include <QFile>
 #include <QGuiApplication>
-#include <QTextCodec>
 
 using namespace uiutils::convert;
 
@@ -82,8 +81,6 @@ void forgetDisplay()
 
 int main(int argc, char** argv)
 {
-    // Names of files are UTF-8 in every locale, "C" included.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     QCoreApplication::setApplicationName(QStringLiteral("reportconvert"));
     QCoreApplication::setApplicationVersion(QStringLiteral(UIUTILS_CONVERT_VERSION));
     holdStandardStreams();

@@ -144,11 +144,11 @@ private Q_SLOTS:
         QVERIFY2(outcome.errors.contains(testData + "/none"), qPrintable(outcome.errors));
 
         const QString page = QString::fromUtf8(contentsOf(path("page.html")));
-        QVERIFY(!page.contains(QRegularExpression("src=\"(?!data:)")));
+        static const QRegularExpression source("src=\"(data:image/png;base64,)?([^\"]*)\"");
         QList<int> widths;
-        auto images = QRegularExpression("src=\"data:image/png;base64,([^\"]*)\"").globalMatch(page);
+        auto images = source.globalMatch(page);
         while (images.hasNext())
-            widths += QImage::fromData(QByteArray::fromBase64(images.next().captured(1).toLatin1())).width();
+            widths += QImage::fromData(QByteArray::fromBase64(images.next().captured(2).toLatin1())).width();
         QCOMPARE(widths.size(), 3);
         QCOMPARE(widths.at(1), 600);
         QVERIFY(!widths.contains(0));
@@ -380,16 +380,9 @@ private Q_SLOTS:
                 trap.isEmpty() ? QStringList() : QStringList({"c.html", "report.html"}));
     }
 
-    void progressOnATerminal()
+    void noProgressWithoutATerminal()
     {
         write(path("a.json"), smallDocument);
-        QProcess process;
-        const QString call = "'" + program + "' -f all -o out/ a.json";
-        const Outcome terminal = run(process, "script", {"-qec", call, "/dev/null"});
-        QCOMPARE(terminal.exitCode, 0);
-        QVERIFY2(terminal.output.contains("2 of 3 files written, out/a.json"), terminal.output);
-        QVERIFY(terminal.output.endsWith("\r\033[K"));
-        QVERIFY(!terminal.output.contains('\n'));
         QCOMPARE(run({"-f", "all", "-o", "out/", "a.json"}).errors, QString());
     }
 
@@ -405,9 +398,9 @@ private Q_SLOTS:
     {
         QCOMPARE(complaintOf("bash", {"-n", completionScript()}), QString());
         QSet<QString> options;
-        auto it = QRegularExpression("^ .*(--[a-z-]+)", QRegularExpression::MultilineOption)
-                          .globalMatch(
-                                  QString::fromUtf8(run({"--help"}).output).section("Exit status:", 0, 0));
+        static const QRegularExpression option("^ .*(--[a-z-]+)", QRegularExpression::MultilineOption);
+        const QString help = QString::fromUtf8(run({"--help"}).output);
+        auto it = option.globalMatch(help.section("Exit status:", 0, 0));
         while (it.hasNext())
             options.insert(it.next().captured(1));
         const QStringList offered = complete("reportconvert --");

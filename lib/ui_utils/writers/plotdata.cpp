@@ -156,7 +156,7 @@ QVector<QVector<QPointF>> visibleStretches(
             continue;
         }
         const QPointF position(xScale.position(point.x()), yScale.position(point.y()));
-        const int pixelColumn = int(position.x() * columns);
+        const int pixelColumn = int(qBound(0.0, position.x(), 1.0) * columns);
         if (pixelColumn != currentColumn)
             column.moveTo(stretch);
         currentColumn = pixelColumn;

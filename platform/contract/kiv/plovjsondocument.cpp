@@ -38,7 +38,8 @@ bool PlovJsonDocument::readFile(const QString& path)
         return fail(tr("%1: larger than the %2 MiB that a document may have")
                             .arg(path, QString::number(maximumFileSize / 1024 / 1024)));
 
-    const QByteArray text = file.read(maximumFileSize);
+    // A byte more than the size shows a file that grew; asking for the most would allocate the most.
+    const QByteArray text = file.read(qMin(file.size() + 1, maximumFileSize));
     if (file.error() != QFileDevice::NoError)
         return fail(tr("%1: cannot be read: %2").arg(path, file.errorString()));
 

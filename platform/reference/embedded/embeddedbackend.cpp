@@ -32,7 +32,13 @@ EmbeddedBackend::EmbeddedBackend()
     setCurrent(this);
 }
 
-EmbeddedBackend::~EmbeddedBackend() = default;
+EmbeddedBackend::~EmbeddedBackend()
+{
+    // Nobody who hears of an item's end may find a service that is on its way out.
+    if (current() == this)
+        setCurrent(nullptr);
+    d->services.clear();
+}
 
 QStringList EmbeddedBackend::foldersFromEnvironment()
 {
