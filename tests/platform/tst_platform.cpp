@@ -152,6 +152,10 @@ private Q_SLOTS:
         QTRY_COMPARE(item->getValue(), QVariant(100.0));
         QCOMPARE(changes.size(), 2);
         QVERIFY(!m_setup->report("kinds", ":config:kinds:unknown:", 1));
+        // A large counter's steps are changes too.
+        QVERIFY(m_setup->report("kinds", item->getId(), 2e13));
+        QVERIFY(m_setup->report("kinds", item->getId(), 2e13 + 1));
+        QTRY_COMPARE(changes.size(), 4);
     }
 
     void snapshotsKeepWhatWas()

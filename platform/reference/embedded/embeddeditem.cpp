@@ -2,6 +2,9 @@
 
 #include <QLocale>
 
+#include <algorithm>
+#include <cmath>
+
 namespace kiv::embedded {
 
 namespace {
@@ -31,6 +34,21 @@ QString shownText(const QVariant& value, int precision)
     }
 }
 
+/// QVariant compares doubles with a tolerance, which would swallow the steps of a large counter.
+bool isSame(const QVariant& a, const QVariant& b)
+{
+    if (a.type() != b.type())
+        return false;
+    if (a.type() == QVariant::List) {
+        const QVariantList as = a.toList();
+        const QVariantList bs = b.toList();
+        return std::equal(as.cbegin(), as.cend(), bs.cbegin(), bs.cend(), isSame);
+    }
+    if (a.type() != QVariant::Double)
+        return a == b;
+    return a.toDouble() == b.toDouble() || (std::isnan(a.toDouble()) && std::isnan(b.toDouble()));
+}
+
 } // namespace
 
 EmbeddedItem::EmbeddedItem(ItemDescription description, QObject* parent)
@@ -49,7 +67,7 @@ QString EmbeddedItem::getValueString(bool showUnits) const
 
 void EmbeddedItem::setValue(const QVariant& value)
 {
-    if (value == m_description.value)
+    if (isSame(value, m_description.value))
         return;
     m_description.value = value;
     Q_EMIT valueChanged();
