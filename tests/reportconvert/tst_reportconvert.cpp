@@ -14,8 +14,12 @@
 #include <QtTest>
 
 #include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
 #include <memory>
+#include <poll.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -96,6 +100,7 @@ private Q_SLOTS:
         for (const char* name : {"UIUTILS_ROOT", "XDG_RUNTIME_DIR", "QT_QPA_PLATFORM", "DISPLAY"})
             m_environment.remove(name);
         m_environment.insert("TMPDIR", m_scratch->path());
+        m_environment.insert("TERM", "linux");
     }
 
     /// However a run ends, nothing of it stays in the temporary folder.
@@ -380,10 +385,31 @@ private Q_SLOTS:
                 trap.isEmpty() ? QStringList() : QStringList({"c.html", "report.html"}));
     }
 
-    void noProgressWithoutATerminal()
+    void progressOnATerminalOnly()
     {
         write(path("a.json"), smallDocument);
-        QCOMPARE(run({"-f", "all", "-o", "out/", "a.json"}).errors, QString());
+        const QString line = "exec \"$0\" -f all -o out/ a.json";
+        QCOMPARE(runLine(line).errors, QString());
+
+        const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
+        QVERIFY(::grantpt(terminal) == 0 && ::unlockpt(terminal) == 0);
+        const QByteArray name = ::ptsname(terminal);
+        // What was written is lost when nobody holds the other end.
+        const int otherEnd = ::open(name.constData(), O_RDWR | O_NOCTTY);
+        QCOMPARE(runLine(line + " 2>" + name).exitCode, 0);
+        // The terminal hands on what was written in its own time, and in pieces.
+        const QByteArray cleared = "\r\033[K";
+        QByteArray shown;
+        pollfd waiting{terminal, POLLIN, 0};
+        while (shown.count(cleared) < 4 && ::poll(&waiting, 1, 10000) > 0) {
+            char piece[256];
+            shown.append(piece, int(qMax<ssize_t>(0, ::read(terminal, piece, sizeof piece))));
+        }
+        ::close(otherEnd);
+        ::close(terminal);
+        QVERIFY2(shown.contains("2 of 3 files written, out/a.json"), shown);
+        QVERIFY(shown.endsWith(cleared));
+        QVERIFY(!shown.contains('\n'));
     }
 
     void helpFitsATerminal()
