@@ -31,10 +31,10 @@ public:
     QVariant getValue() const { return m_value; }
 
     /// The text of any value, with its unit when units are shown.
-    virtual QString format(const QVariant& value) const = 0;
+    Q_INVOKABLE virtual QString format(const QVariant& value) const = 0;
 
     /// The unit that the text of the held value carries, for example "dB" or "MHz"; empty without one.
-    virtual QString getUnitString() const = 0;
+    Q_INVOKABLE virtual QString getUnitString() const = 0;
 
 private:
     QVariant m_value;

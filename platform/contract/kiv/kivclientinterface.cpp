@@ -19,3 +19,10 @@ KIVClientInterface* KIVClientInterface::getSessionBusClient(const QString& servi
     KIVBackend* backend = KIVBackend::current();
     return backend ? backend->serviceClient(service, parent) : nullptr;
 }
+
+bool KIVClientInterface::getItemList(const QString& service, QStringList* ids) const
+{
+    const bool isOwn = service == getServiceName();
+    *ids = isOwn ? getItemIds() : QStringList();
+    return isOwn;
+}

@@ -9,13 +9,22 @@
 /// One item that a service publishes, as its clients see it.
 ///
 /// **Ids** are colon-separated words that begin and end with a colon. The first word is the category: ":config:" is
-/// settable, ":result:" read-only, ":action:" invocable. A last word "stringARRAY" or "doubleARRAY" marks an array.
+/// settable, ":result:" read-only, ":action:" invocable. A last word "stringARRAY" or "doubleARRAY" marks an array. The
+/// id of a service's manifest, through which a batch of settings is applied, ends in ":manifest:".
 ///
-/// **Values** are a QString, bool, int, uint or double; a "stringARRAY" item holds a QStringList, a "doubleARRAY"
-/// item a QVariantList of doubles. An item without a value holds an invalid variant.
+/// **Values** are a QString, bool, int, uint or double; a "stringARRAY" item holds a QStringList, a "doubleARRAY" item a
+/// QVariantList of doubles, an aggregate a QVariantMap, a list aggregate a QVariantList of those. An item without a value
+/// holds an invalid variant. A client sets values through KIVClientInterface::setItem().
 ///
-/// **Ownership**: items belong to the back end. They live as long as their service is published; keep one over a
-/// return to the event loop only in a QPointer.
+/// **Kinds**: an enumeration is a KIVEnumClientItem, an array a KIVVecClientItem, a record a KivAggregateClientItem, a
+/// table a KivListAggregateClientItem; qobject_cast tells them apart.
+///
+/// **Signals** come on the thread of the item, after the accessors give the new answer, once per change, and not when
+/// what is reported equals what was. A slot may do anything but delete the item.
+///
+/// **Ownership**: items belong to the back end. They live as long as their service is reachable and publishes them; keep
+/// one over a return to the event loop only in a QPointer. One that comes back under its id is a new object, see
+/// KIVClientInterface::itemsChanged().
 ///
 /// **Blocking**: no accessor blocks; a back end that talks to another process answers from what it last heard.
 class KIV_EXPORT KIVClientItem : public QObject
@@ -23,8 +32,42 @@ class KIV_EXPORT KIVClientItem : public QObject
     Q_OBJECT
 
 public:
+    /// What getType() answers; a kind that is not listed is a single value like any other.
+    enum TypeCode : unsigned
+    {
+        TypeNone = 0,
+        TypeString = 0x1,
+        TypeBool = 0x2,
+        TypeInt = 0x4,
+        TypeUInt = 0x8,
+        TypeDouble = 0x10,
+        TypeStringArray = 0x20,
+        TypeDoubleArray = 0x40,
+        TypeAction = 0x80,
+        /// A KivAggregateClientItem.
+        TypeAggregate = 0x4000000,
+        /// A KivListAggregateClientItem.
+        TypeListAggregate = 0x8000000,
+    };
+
+    /// What getQualityCode() answers: how the service judges the value.
+    enum Quality
+    {
+        QualityNone = 0,
+        QualityPassing = 16,
+        QualityWarning = 32,
+        QualityFailing = 64,
+    };
+
     explicit KIVClientItem(QObject* parent = nullptr);
     ~KIVClientItem() override;
+
+    /// A TypeCode.
+    virtual unsigned getType() const = 0;
+
+    /// The type's name: "std::string", "bool", "int", "uint", "double", "std::vector<string>", "std::vector<double>",
+    /// "action", "aggregate" or "listAggregate"; empty for an item without a type. An enumeration has the type of its value.
+    virtual QString getTypeName() const = 0;
 
     /// The full id, for example ":config:basemgr:system:saveLocation:". Never empty, never changes.
     virtual QString getId() const = 0;
@@ -38,17 +81,40 @@ public:
     virtual QVariant getValue() const = 0;
 
     /// The value as a user reads it, in the user's locale; with the unit behind a blank when `showUnits` is true and
-    /// the item has one. Elements of an array are separated by ", ".
+    /// the item has one. Elements of an array are separated by ", "; an enumeration reads as its choice's label.
     virtual QString getValueString(bool showUnits = true) const = 0;
 
     /// The unit alone, for example "Mbit/s"; empty without one.
     virtual QString getUnitString() const = 0;
 
-    /// A further attribute by its name; invalid when the item has none of that name.
+    /// The limits of the value, for a text those of its length; invalid where there is none.
+    virtual QVariant getMinRange() const = 0;
+    virtual QVariant getMaxRange() const = 0;
+
+    /// Whether the service can give or take the value now; an item that is not ready keeps its last value.
+    virtual bool isReady() const = 0;
+
+    /// A Quality.
+    virtual int getQualityCode() const = 0;
+
+    /// Whether the item has a meaning in the service's present state. Only for items without an expression.
+    virtual bool isApplicable() const = 0;
+
+    /// When the item has a meaning, as an expression over other items such as "cfg.mode == 2" or "module.res.state != 0";
+    /// empty when isApplicable() decides.
+    virtual QString getApplicableExpr() const = 0;
+
+    /// A further attribute by its name; invalid when the item has none of that name. These are known to the screens:
+    /// "label", "type", "minRange", "maxRange" (as the accessors give them), "precision" (decimals), "inputType" (which
+    /// entry field, a number), "regex" (of an acceptable text), "formatter" (a name for getFormatter()) and "enum" (not
+    /// empty on an enumeration).
     virtual QVariant getAttribute(const QString& name) const = 0;
 
 Q_SIGNALS:
-    /// The value differs from what it was. Emitted after the accessors give the new value, once per change, and not
-    /// when a value equal to the old one is reported.
     void valueChanged();
+    void unitsChanged();
+    void isReadyChanged();
+    void qualityChanged();
+    /// Not emitted for what an expression decides.
+    void isApplicableChanged();
 };

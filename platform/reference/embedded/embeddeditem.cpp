@@ -1,5 +1,6 @@
 #include "embeddeditem_p.h"
 
+#include <QHash>
 #include <QLocale>
 
 #include <algorithm>
@@ -55,6 +56,32 @@ EmbeddedItem::EmbeddedItem(ItemDescription description, QObject* parent)
     : KIVClientItem(parent)
     , m_description(std::move(description))
 {
+}
+
+unsigned EmbeddedItem::getType() const
+{
+    static const QHash<QString, unsigned> codes {
+            {QStringLiteral("std::string"), TypeString},
+            {QStringLiteral("bool"), TypeBool},
+            {QStringLiteral("int"), TypeInt},
+            {QStringLiteral("uint"), TypeUInt},
+            {QStringLiteral("double"), TypeDouble},
+            {QStringLiteral("stringARRAY"), TypeStringArray},
+            {QStringLiteral("doubleARRAY"), TypeDoubleArray},
+    };
+    return codes.value(m_description.type, TypeNone);
+}
+
+QString EmbeddedItem::getTypeName() const
+{
+    switch (getType()) {
+    case TypeStringArray:
+        return QStringLiteral("std::vector<string>");
+    case TypeDoubleArray:
+        return QStringLiteral("std::vector<double>");
+    default:
+        return m_description.type;
+    }
 }
 
 QString EmbeddedItem::getValueString(bool showUnits) const

@@ -49,9 +49,10 @@ ItemDescription itemDescription(const QJsonObject& object)
 {
     ItemDescription item;
     item.id = object.value(QLatin1String("id")).toString();
+    item.type = object.value(QLatin1String("type")).toString();
     item.label = object.value(QLatin1String("label")).toString();
     item.unit = object.value(QLatin1String("unit")).toString();
-    item.value = itemValue(object.value(QLatin1String("type")).toString(), object.value(QLatin1String("value")));
+    item.value = itemValue(item.type, object.value(QLatin1String("value")));
     item.precision = object.value(QLatin1String("precision")).toInt(-1);
     item.attributes = object.value(QLatin1String("attributes")).toObject().toVariantMap();
     return item;

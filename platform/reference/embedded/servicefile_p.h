@@ -11,6 +11,7 @@ namespace kiv::embedded {
 struct ItemDescription
 {
     QString id;
+    QString type;
     QString label;
     QString unit;
     QVariant value;

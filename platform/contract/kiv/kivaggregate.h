@@ -1,0 +1,60 @@
+#pragma once
+
+#include <kiv/kiv_export.h>
+
+#include <QByteArray>
+#include <QList>
+#include <QVariant>
+#include <QVector>
+
+/// A record: named members, each with a value, in a fixed order. Names are UTF-8. A plain value: copies are independent
+/// and cheap.
+class KIV_EXPORT KivAggregate
+{
+public:
+    KivAggregate() = default;
+    /// A name that stands twice counts once, with the first value.
+    explicit KivAggregate(const QVector<QPair<QByteArray, QVariant>>& members);
+
+    QList<QByteArray> getPropertyNames() const;
+
+    /// The member's value; invalid without such a member.
+    QVariant getPropertyVariant(const QByteArray& name) const;
+
+    /// Sets a member, converting `value` to the type that the member has. Returns false, and changes nothing, when there
+    /// is no such member or the value cannot be converted.
+    bool setPropertyFromVariant(const QByteArray& name, const QVariant& value);
+
+    /// The record as one value, as KIVClientInterface::setItem() takes it: a QVariantMap.
+    QVariant toVariant() const;
+
+private:
+    int indexOf(const QByteArray& name) const;
+
+    QVector<QPair<QByteArray, QVariant>> m_members;
+};
+
+/// A table: rows of named members. A plain value: copies are independent and cheap.
+class KIV_EXPORT KivListAggregate
+{
+public:
+    KivListAggregate() = default;
+    /// Every row holds one value per name; what a row lacks is invalid, what it has too much is dropped.
+    KivListAggregate(const QList<QByteArray>& names, const QVector<QVariantList>& rows);
+
+    /// The members' names in their order, also without rows.
+    QList<QByteArray> getPropertyNames() const { return m_names; }
+
+    /// Number of rows.
+    int getSize() const { return m_rows.size(); }
+
+    /// The member of a row counted from 0; invalid outside the table.
+    QVariant getPropertyVariant(const QByteArray& name, int row) const;
+
+    /// The table as one value: a QVariantList with a QVariantMap for each row.
+    QVariant toVariant() const;
+
+private:
+    QList<QByteArray> m_names;
+    QVector<QVariantList> m_rows;
+};

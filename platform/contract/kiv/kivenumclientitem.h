@@ -1,0 +1,47 @@
+#pragma once
+
+#include <kiv/kiv_export.h>
+#include <kiv/kivclientitem.h>
+
+/// The choices of an enumeration, in the order in which they are offered. They belong to their item and may change while
+/// it lives. Positions outside 0 to count() - 1 give the neutral answer (-1, an empty text, false).
+class KIV_EXPORT KIVEnumChoicesClientItem : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit KIVEnumChoicesClientItem(QObject* parent = nullptr);
+    ~KIVEnumChoicesClientItem() override;
+
+    virtual int count() const = 0;
+    virtual int valueAt(int position) const = 0;
+    /// The name in programs, for example "Internal"; unique among the choices.
+    virtual QString nameAt(int position) const = 0;
+    /// The text that the user reads.
+    virtual QString labelAt(int position) const = 0;
+    /// Whether the choice may be taken now.
+    virtual bool isApplicableAt(int position) const = 0;
+
+    /// The position of the choice with that value, or -1.
+    virtual int indexOf(int value) const;
+    bool contains(int value) const { return indexOf(value) >= 0; }
+    /// The label of the choice with that value; empty without one. Values below zero are passed as their two's complement.
+    QString labelForValue(unsigned value) const { return labelAt(indexOf(int(value))); }
+
+Q_SIGNALS:
+    /// The choices, or what one of them says of itself, are others than before.
+    void valueChanged();
+};
+
+/// An item whose value is one of a few numbers.
+class KIV_EXPORT KIVEnumClientItem : public KIVClientItem
+{
+    Q_OBJECT
+
+public:
+    explicit KIVEnumClientItem(QObject* parent = nullptr);
+    ~KIVEnumClientItem() override;
+
+    /// The choices, owned by the item; null when the service names none. The same object as long as the item lives.
+    virtual KIVEnumChoicesClientItem* getChoices() const = 0;
+};
