@@ -22,7 +22,16 @@ inline const QLatin1String jobId(":result:basemgr:jobmanager:jobID:");
 inline const QLatin1String jobBan(":result:basemgr:jobmanager:jobBAN:");
 inline const QLatin1String jobTechnician(":result:basemgr:jobmanager:jobTechnician:");
 
+/// Ends the ids of arrays.
+inline const QLatin1String arrayMark("ARRAY:");
+/// Ends the id of the item that stands for a whole service.
+inline const QLatin1String manifest(":manifest:");
+/// What takes its place in the ids of the actions on a whole service.
+inline const QLatin1String applyConfig(":applyconfig:");
+inline const QLatin1String saveConfig(":saveconfig:");
+
 inline const QLatin1String configuration(":config:");
 inline const QLatin1String result(":result:");
+inline const QLatin1String action(":action:");
 
 } // namespace uiutils::itemids

@@ -1,14 +1,61 @@
 #include "module/uiutilsmodule.h"
 
+#include "core/userdata.h"
 #include "document/reporttemplate.h"
+#include "service/forgivingvalidator.h"
+#include "service/kivaggregatedata.h"
+#include "service/kivlistaggregatedata.h"
+#include "service/kivsignal.h"
+#include "service/manifest.h"
+#include "service/qmlaggregate.h"
+#include "service/qmllistaggregate.h"
 
 #include <QtQml>
 
 namespace uiutils {
 
+namespace {
+
+QObject* userData(QQmlEngine*, QJSEngine*)
+{
+    QQmlEngine::setObjectOwnership(UserData::getInstance(), QQmlEngine::CppOwnership);
+    return UserData::getInstance();
+}
+
+template<typename Type>
+void registerOfManifest(const char* uri, const char* name)
+{
+    qmlRegisterUncreatableType<Type>(uri, 1, 0, name,
+            QStringLiteral("%1 comes from the manifest of a service.").arg(QLatin1String(name)));
+}
+
+void registerServiceTypes(const char* uri)
+{
+    registerOfManifest<KivData>(uri, "KivData");
+    registerOfManifest<KivAggregateData>(uri, "KivAggregateData");
+    registerOfManifest<KivListAggregateData>(uri, "KivListAggregateData");
+    registerOfManifest<QMLListAggregate>(uri, "QMLListAggregate");
+    qmlRegisterUncreatableType<Manifest>(
+            uri, 1, 0, "Manifest", QStringLiteral("A manifest is made by the application, which has the service's client."));
+    qmlRegisterUncreatableType<KIVClientInterface>(
+            uri, 1, 0, "KIVClientInterface", QStringLiteral("Clients come from the platform."));
+    qmlRegisterUncreatableType<BaseFormatter>(
+            uri, 1, 0, "BaseFormatter", QStringLiteral("Formatters come from the platform."));
+    qmlRegisterType<KIVSignal>(uri, 1, 0, "KIVSignal");
+    qmlRegisterType<ForgivingValidator>(uri, 1, 0, "ForgivingValidator");
+    qmlRegisterSingletonType<UserData>(uri, 1, 0, "UserData", userData);
+
+    qRegisterMetaType<QQmlPropertyMap*>();
+    qRegisterMetaType<QMLListAggregate*>("QMLListAggregate *");
+    qmlRegisterAnonymousType<QValidator>(uri, 1);
+}
+
+} // namespace
+
 void registerTypes(const char* uri)
 {
     qmlRegisterType<ReportTemplate>(uri, 1, 0, "ReportTemplate");
+    registerServiceTypes(uri);
 }
 
 } // namespace uiutils

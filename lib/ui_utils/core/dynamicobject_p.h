@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QVector>
+
+#include <memory>
+
+namespace uiutils {
+
+/// An object whose read-only, constant properties are known only at run time. All are made in one go: QQmlPropertyMap
+/// takes time that grows with the square of its keys.
+class DynamicObject : public QObject
+{
+public:
+    /// More than a meta-object can number; the rest is left out.
+    static constexpr int maximumProperties = 32767;
+
+    ~DynamicObject() override;
+
+    const QMetaObject* metaObject() const override;
+    void* qt_metacast(const char* className) override;
+    int qt_metacall(QMetaObject::Call call, int id, void** arguments) override;
+
+protected:
+    /// All properties have the type of that registered name. `className` has to outlive the object.
+    DynamicObject(const char* className, const QVector<QByteArray>& names, const QByteArray& typeName, QObject* parent);
+
+    /// Writes the property's value to `result`, which points to one of the properties' type.
+    virtual void readProperty(int index, void* result) const = 0;
+
+private:
+    class Layout;
+    std::unique_ptr<Layout> m_layout;
+};
+
+} // namespace uiutils

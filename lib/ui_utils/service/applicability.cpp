@@ -1,0 +1,292 @@
+#include "service/applicability_p.h"
+
+#include <QRegularExpression>
+#include <QSet>
+#include <QVector>
+
+namespace uiutils {
+
+namespace {
+
+struct Token
+{
+    enum Kind
+    {
+        Name,
+        Literal,
+        Operator,
+    };
+    Kind kind;
+    QString text;
+};
+
+/// The expression over the names under which QML knows the items.
+QString withItemNames(QString expression, const QString& tag)
+{
+    expression.replace(QLatin1String(".cfg."), QLatin1String("_cfg_"));
+    expression.replace(QLatin1String(".res."), QLatin1String("_res_"));
+    expression.replace(QLatin1String("cfg."), tag + QLatin1String("_cfg_"));
+    expression.replace(QLatin1String("res."), tag + QLatin1String("_res_"));
+    return expression;
+}
+
+std::optional<QVector<Token>> tokens(const QString& expression, QString* problem)
+{
+    static const QRegularExpression token(QStringLiteral(
+            R"(\s*(?:([A-Za-z_$][\w$]*))"
+            R"(|((?:0[xX][0-9A-Fa-f]+|(?:\d+\.?\d*|\.\d+)(?:[eE][+-]?\d+)?)(?![\w$.])|"(?:[^"\\\n]|\\.)*"|'(?:[^'\\\n]|\\.)*'))"
+            R"(|(===|!==|==|!=|<=|>=|&&|\|\||<<|>>>|>>|\+(?!\+)|-(?!-)|[*/%<>!~&|^?:.,()\[\]])))"));
+
+    QVector<Token> list;
+    const QString text = expression.trimmed();
+    for (int at = 0; at < text.size();) {
+        const QRegularExpressionMatch match
+                = token.match(text, at, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption);
+        if (!match.hasMatch()) {
+            *problem = QStringLiteral("\"%1\" is not allowed here").arg(text.mid(at).trimmed().left(20));
+            return std::nullopt;
+        }
+        const Token::Kind kind = match.capturedLength(1) > 0 ? Token::Name
+                : match.capturedLength(2) > 0                ? Token::Literal
+                                                             : Token::Operator;
+        list.append({kind, match.captured(int(kind) + 1)});
+        at = match.capturedEnd();
+    }
+    return list;
+}
+
+bool isItemName(const QString& name)
+{
+    static const QRegularExpression itemName(QStringLiteral("_(cfg|res|act)_."));
+    return itemName.match(name).hasMatch();
+}
+
+bool isLiteralName(const QString& name)
+{
+    static const QSet<QString> names {QStringLiteral("true"), QStringLiteral("false"), QStringLiteral("null"),
+            QStringLiteral("undefined"), QStringLiteral("NaN"), QStringLiteral("Infinity")};
+    return names.contains(name);
+}
+
+bool isProperty(const QString& name)
+{
+    static const QSet<QString> names {QStringLiteral("id"), QStringLiteral("name"), QStringLiteral("type"),
+            QStringLiteral("inputType"), QStringLiteral("precision"), QStringLiteral("label"), QStringLiteral("regex"),
+            QStringLiteral("readOnly"), QStringLiteral("enums"), QStringLiteral("value"), QStringLiteral("isReady"),
+            QStringLiteral("qualityCode"), QStringLiteral("error"), QStringLiteral("valueString"),
+            QStringLiteral("valueStringNoUnits"), QStringLiteral("unitString"), QStringLiteral("arraySelection"),
+            QStringLiteral("arraySelectionString"), QStringLiteral("enumCount"), QStringLiteral("valueCount"),
+            QStringLiteral("applicable"), QStringLiteral("minRange"), QStringLiteral("maxRange"),
+            QStringLiteral("rangeDescription")};
+    return names.contains(name);
+}
+
+bool isAccessor(const QString& name)
+{
+    static const QSet<QString> names {QStringLiteral("variantAt"), QStringLiteral("at"), QStringLiteral("getArrayValue"),
+            QStringLiteral("getProperty"), QStringLiteral("enumLabel"), QStringLiteral("enumLabelForValue"),
+            QStringLiteral("enumValue"), QStringLiteral("enumIndex"), QStringLiteral("applicableAt")};
+    return names.contains(name);
+}
+
+/// Walks the tokens once. It lets through what is known to be harmless, and only well-formed expressions, because the engine
+/// does not tell its caller of others.
+class Translator
+{
+public:
+    explicit Translator(const QVector<Token>& tokens)
+        : m_tokens(tokens)
+    {
+    }
+
+    std::optional<QString> run(QString* problem)
+    {
+        while (m_at < m_tokens.size() && m_problem.isEmpty())
+            translateNext();
+        if (m_problem.isEmpty() && (m_wantsOperand || !m_open.isEmpty()))
+            m_problem = QStringLiteral("the expression is not complete");
+        if (m_problem.isEmpty())
+            return m_result;
+        *problem = m_problem;
+        return std::nullopt;
+    }
+
+private:
+    void translateNext()
+    {
+        const Token& token = m_tokens.at(m_at);
+        if (token.kind == Token::Operator)
+            translateOperator(token.text);
+        else if (!m_wantsOperand)
+            refuse(token.text);
+        else if (token.kind == Token::Name)
+            translateName(token.text);
+        else
+            takeOperand();
+    }
+
+    void translateName(const QString& name)
+    {
+        if (isItemName(name)) {
+            takeOperand();
+            translateMember();
+        } else if (isLiteralName(name)) {
+            takeOperand();
+        } else {
+            refuse(name);
+        }
+    }
+
+    /// Behind an item's name: a property, perhaps members of its value, or an accessor; else the value is meant.
+    void translateMember()
+    {
+        if (!isOperator(m_at, '.')) {
+            m_result += QLatin1String(".value");
+            return;
+        }
+        const QString member = m_at + 1 < m_tokens.size() ? m_tokens.at(m_at + 1).text : QString();
+        if (isAccessor(member) && isOperator(m_at + 2, '(')) {
+            take(3);
+            open(Call);
+        } else if (isProperty(member)) {
+            take(2);
+            while (isOperator(m_at, '.') && m_at + 1 < m_tokens.size() && m_tokens.at(m_at + 1).kind == Token::Name)
+                take(2);
+        } else {
+            refuse(member);
+        }
+    }
+
+    void translateOperator(const QString& text)
+    {
+        if (text == QLatin1String("("))
+            translateBracket();
+        else if (text == QLatin1String(")"))
+            close(text);
+        else if (text == QLatin1String("["))
+            translateIndex();
+        else if (text == QLatin1String(".") || text == QLatin1String("]"))
+            refuse(text);
+        else if (m_wantsOperand)
+            translateSign(text);
+        else
+            translateInfix(text);
+    }
+
+    void translateBracket()
+    {
+        if (!m_wantsOperand)
+            return refuse(QStringLiteral("("));
+        take();
+        open(Group);
+    }
+
+    /// An element; a plain number leads nowhere else.
+    void translateIndex()
+    {
+        if (m_wantsOperand || !isNumber(m_at + 1) || !isOperator(m_at + 2, ']'))
+            return refuse(QStringLiteral("["));
+        take(3);
+    }
+
+    void translateSign(const QString& text)
+    {
+        static const QSet<QString> signs {
+                QStringLiteral("!"), QStringLiteral("~"), QStringLiteral("+"), QStringLiteral("-")};
+        if (!signs.contains(text))
+            return refuse(text);
+        take();
+    }
+
+    void translateInfix(const QString& text)
+    {
+        if (text == QLatin1String("!") || text == QLatin1String("~"))
+            return refuse(text);
+        if (text == QLatin1String(":"))
+            return close(text);
+        if (text == QLatin1String(",") && (m_open.isEmpty() || m_open.constLast() != Call))
+            return refuse(text);
+        take();
+        m_wantsOperand = true;
+        if (text == QLatin1String("?"))
+            open(Condition);
+    }
+
+    enum Opened
+    {
+        Group,
+        Call,
+        Condition,
+    };
+
+    void open(Opened what)
+    {
+        m_open.append(what);
+        m_wantsOperand = true;
+    }
+
+    /// Ends what a bracket or a question mark began.
+    void close(const QString& text)
+    {
+        const bool isCondition = text == QLatin1String(":");
+        if (m_wantsOperand || m_open.isEmpty() || (m_open.constLast() == Condition) != isCondition)
+            return refuse(text);
+        m_open.removeLast();
+        take();
+        m_wantsOperand = isCondition;
+    }
+
+    bool isNumber(int at) const
+    {
+        return at < m_tokens.size() && m_tokens.at(at).kind == Token::Literal && m_tokens.at(at).text.at(0).isDigit();
+    }
+
+    bool isOperator(int at, char c) const
+    {
+        return at < m_tokens.size() && m_tokens.at(at).kind == Token::Operator
+                && m_tokens.at(at).text == QLatin1Char(c);
+    }
+
+    void takeOperand()
+    {
+        take();
+        m_wantsOperand = false;
+    }
+
+    void take(int count = 1)
+    {
+        for (int end = m_at + count; m_at < end; ++m_at) {
+            const Token& token = m_tokens.at(m_at);
+            // Two signs that stood apart must not grow together.
+            const bool isSpaced = token.kind == Token::Operator && token.text != QLatin1String(".");
+            m_result += isSpaced ? QLatin1Char(' ') + token.text + QLatin1Char(' ') : token.text;
+        }
+    }
+
+    void refuse(const QString& text) { m_problem = QStringLiteral("\"%1\" is not allowed here").arg(text); }
+
+    const QVector<Token>& m_tokens;
+    int m_at = 0;
+    bool m_wantsOperand = true;
+    QVector<Opened> m_open;
+    QString m_result;
+    QString m_problem;
+};
+
+} // namespace
+
+std::optional<QString> translatedApplicability(const QString& expression, const QString& tag, QString* problem)
+{
+    // Far beyond what anybody writes; the parser of the engine goes as deep as the brackets do.
+    constexpr int longest = 2000;
+    if (expression.size() > longest) {
+        *problem = QStringLiteral("the expression is longer than %1 characters").arg(longest);
+        return std::nullopt;
+    }
+    const std::optional<QVector<Token>> list = tokens(withItemNames(expression, tag), problem);
+    if (!list)
+        return std::nullopt;
+    return Translator(*list).run(problem);
+}
+
+} // namespace uiutils

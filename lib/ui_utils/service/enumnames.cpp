@@ -1,0 +1,36 @@
+#include "service/enumnames_p.h"
+
+#include <kiv/kivenumclientitem.h>
+
+#include <QSet>
+
+namespace uiutils {
+
+EnumNames* EnumNames::create(const KIVEnumChoicesClientItem& choices, QObject* parent)
+{
+    QVector<QByteArray> names;
+    QVector<int> values;
+    QSet<QByteArray> known;
+    for (int i = 0, count = choices.count(); i < count; ++i) {
+        const QByteArray name = choices.nameAt(i).toUtf8();
+        if (name.isEmpty() || known.contains(name))
+            continue;
+        known.insert(name);
+        names.append(name);
+        values.append(choices.valueAt(i));
+    }
+    return new EnumNames(names, values, parent);
+}
+
+EnumNames::EnumNames(const QVector<QByteArray>& names, const QVector<int>& values, QObject* parent)
+    : DynamicObject("EnumNames", names, QByteArrayLiteral("int"), parent)
+    , m_values(values)
+{
+}
+
+void EnumNames::readProperty(int index, void* result) const
+{
+    *static_cast<int*>(result) = m_values.at(index);
+}
+
+} // namespace uiutils

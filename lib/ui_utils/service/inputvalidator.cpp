@@ -1,0 +1,107 @@
+#include "service/inputvalidator_p.h"
+
+#include "service/forgivingvalidator.h"
+
+#include <QDoubleValidator>
+#include <QIntValidator>
+#include <QSet>
+#include <QVector>
+#include <QtDebug>
+
+#include <cmath>
+#include <limits>
+
+namespace uiutils {
+
+namespace {
+
+int wholeLimit(const QVariant& limit)
+{
+    const double number = limit.toDouble();
+    if (std::isnan(number))
+        return 0;
+    constexpr double least = std::numeric_limits<int>::min();
+    constexpr double most = std::numeric_limits<int>::max();
+    return int(qBound(least, number, most));
+}
+
+double realLimit(const QVariant& limit)
+{
+    const double number = limit.toDouble();
+    return std::isnan(number) ? 0 : number;
+}
+
+bool isUsable(const QRegularExpression& expression)
+{
+    // A length below zero reads as plain text, which nobody could ever enter.
+    static const QRegularExpression negativeLength(QStringLiteral("^\\.\\{(-\\d+,-?\\d+|\\d+,-\\d+)\\}$"));
+    return expression.isValid() && !negativeLength.match(expression.pattern()).hasMatch();
+}
+
+void warnOnce(const QString& pattern, const QString& reason)
+{
+    static QSet<QString> known;
+    constexpr int mostRemembered = 1000;
+    if (known.contains(pattern) || known.size() >= mostRemembered)
+        return;
+    known.insert(pattern);
+    qWarning("The regular expression \"%s\" of an item cannot be used (%s); every text is accepted in its place.",
+            qUtf8Printable(pattern.left(200)), qUtf8Printable(reason));
+}
+
+} // namespace
+
+QString withEscapedHyphens(const QString& pattern)
+{
+    // A bracket expression: its first member may be a closing bracket, and named classes have brackets of their own.
+    static const QRegularExpression brackets(QStringLiteral(R"(\\.|\[\^?\]?(?:\[:\^?\w+:\]|\\.|[^\]\\])*\])"),
+            QRegularExpression::DotMatchesEverythingOption);
+    // Other escapes are passed over whole, so that the second half of a doubled backslash starts none.
+    static const QRegularExpression escapes(
+            QStringLiteral(R"(\\(?:[dDwWsShHvV]|[pP]\{[^}]*\}|[pP]\w)(-(?=[^\]]))?|\\.)"),
+            QRegularExpression::DotMatchesEverythingOption);
+
+    QVector<int> hyphens;
+    for (auto outer = brackets.globalMatch(pattern); outer.hasNext();) {
+        const QRegularExpressionMatch bracket = outer.next();
+        if (bracket.capturedView().startsWith(QLatin1Char('\\')))
+            continue;
+        for (auto inner = escapes.globalMatch(bracket.captured()); inner.hasNext();) {
+            const QRegularExpressionMatch escape = inner.next();
+            if (escape.capturedLength(1) > 0)
+                hyphens.append(bracket.capturedStart() + escape.capturedStart(1));
+        }
+    }
+    QString repaired = pattern;
+    while (!hyphens.isEmpty())
+        repaired.insert(hyphens.takeLast(), QLatin1Char('\\'));
+    return repaired;
+}
+
+QRegularExpression inputExpression(const QString& pattern)
+{
+    const QRegularExpression expression(pattern, QRegularExpression::UseUnicodePropertiesOption);
+    if (isUsable(expression))
+        return expression;
+    const QRegularExpression repaired(withEscapedHyphens(pattern), QRegularExpression::UseUnicodePropertiesOption);
+    if (isUsable(repaired))
+        return repaired;
+    warnOnce(pattern, expression.isValid() ? QStringLiteral("a length below zero") : expression.errorString());
+    return QRegularExpression(QStringLiteral(".*"), QRegularExpression::DotMatchesEverythingOption);
+}
+
+QValidator* createValidator(const InputRule& rule, QObject* parent)
+{
+    if (rule.type == QLatin1String("std::string"))
+        return new ForgivingValidator(inputExpression(rule.regex), parent);
+    if (rule.type == QLatin1String("double")) {
+        constexpr unsigned mostDecimals = std::numeric_limits<int>::max();
+        auto* validator = new QDoubleValidator(realLimit(rule.minimum), realLimit(rule.maximum),
+                int(qMin(rule.precision, mostDecimals)), parent);
+        validator->setNotation(QDoubleValidator::StandardNotation);
+        return validator;
+    }
+    return new QIntValidator(wholeLimit(rule.minimum), wholeLimit(rule.maximum), parent);
+}
+
+} // namespace uiutils

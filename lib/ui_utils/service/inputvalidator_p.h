@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QRegularExpression>
+#include <QString>
+#include <QVariant>
+
+class QObject;
+class QValidator;
+
+namespace uiutils {
+
+/// What an entry is held to.
+struct InputRule
+{
+    /// The type's name, for example "double".
+    QString type;
+    /// Of a text.
+    QString regex;
+    /// Of a number; what is no number counts as 0.
+    QVariant minimum;
+    QVariant maximum;
+    unsigned precision = 0;
+};
+
+/// A validator of an item's entry: a ForgivingValidator for "std::string", a QDoubleValidator for "double", else a
+/// QIntValidator. The parent owns it.
+QValidator* createValidator(const InputRule& rule, QObject* parent);
+
+/// The expression for `pattern`. One that PCRE2 refuses for a hyphen behind a class escape ("[\d-.]") is read as its
+/// author meant it; one that cannot be repaired accepts everything and is logged once.
+QRegularExpression inputExpression(const QString& pattern);
+
+/// `pattern` with the hyphens escaped that stand behind a class escape inside brackets.
+QString withEscapedHyphens(const QString& pattern);
+
+} // namespace uiutils

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "service/kivdata.h"
+
+class KivAggregateClientItem;
+class QMLAggregate;
+
+/// A record of a service as QML sees it: `value` is a QMLAggregate with a key for each member.
+class UIUTILS_EXPORT KivAggregateData : public KivData
+{
+    Q_OBJECT
+
+public:
+    KivAggregateData(KivAggregateClientItem* item, Manifest* manifest);
+    ~KivAggregateData() override;
+
+    /// The map as a QQmlPropertyMap*; the wrapper owns it.
+    QVariant getValue() const override;
+
+    /// Sets all keys of the map to what the item holds.
+    void updateQmlMapFromItem();
+    /// Sends the item's record with one member changed, or holds it back during a transaction, and emits valueChanged().
+    /// The map keeps its value until the service reports the new record.
+    void updateAggregateProperty(QString const& key, QVariant value);
+
+private:
+    void slotValueChanged() override;
+    KivAggregateClientItem* aggregateItem() const;
+
+    QPointer<QMLAggregate> m_map;
+};

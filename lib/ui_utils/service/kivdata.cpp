@@ -1,0 +1,623 @@
+#include "service/kivdata.h"
+
+#include "core/itemids.h"
+#include "core/userdata.h"
+#include "service/applicability_p.h"
+#include "service/enumnames_p.h"
+#include "service/inputrange_p.h"
+#include "service/inputvalidator_p.h"
+#include "service/manifest.h"
+
+#include <kiv/kivenumclientitem.h>
+#include <kiv/kivvecclientitem.h>
+
+#include <QQmlContext>
+#include <QQmlExpression>
+
+#include <cstdio>
+
+namespace {
+
+KIVEnumChoicesClientItem* choicesOf(KIVClientItem* item)
+{
+    const auto* enumeration = qobject_cast<KIVEnumClientItem*>(item);
+    return enumeration ? enumeration->getChoices() : nullptr;
+}
+
+bool isWithin(int index, int count)
+{
+    return index >= 0 && index < count;
+}
+
+} // namespace
+
+KivData::KivData(QObject* parent)
+    : QObject(parent)
+{
+}
+
+KivData::KivData(KIVClientItem* item, Manifest* manifest)
+    : QObject(manifest)
+    , m_item(item)
+{
+    if (!item)
+        return;
+    m_id = item->getId();
+    m_value = item->getValue();
+    connectItem();
+}
+
+KivData::~KivData()
+{
+    Manifest::forget(m_id, this);
+}
+
+// --- The item ------------------------------------------------------------------------------------
+
+void KivData::connectItem()
+{
+    connect(m_item, &KIVClientItem::valueChanged, this, &KivData::slotValueChanged);
+    connect(m_item, &KIVClientItem::unitsChanged, this, &KivData::slotUnitsChanged);
+    connect(m_item, &KIVClientItem::isReadyChanged, this, &KivData::slotIsReadyChanged);
+    connect(m_item, &KIVClientItem::qualityChanged, this, &KivData::slotQualityChanged);
+    connect(m_item, &KIVClientItem::isApplicableChanged, this, &KivData::slotApplicChanged);
+    if (const KIVEnumChoicesClientItem* choices = choicesOf(m_item))
+        connect(choices, &KIVEnumChoicesClientItem::valueChanged, this, &KivData::slotChoicesChanged);
+}
+
+void KivData::bindItem(KIVClientItem* item)
+{
+    if (m_item)
+        m_item->disconnect(this);
+    m_item = item;
+    delete m_expression;
+    m_expression = nullptr;
+    m_isExpressionRefused = false;
+    if (item)
+        connectItem();
+    announceItem();
+}
+
+/// Everything may be different with another item. A pending change stays: the user has not taken it back.
+void KivData::announceItem()
+{
+    const QPointer<KivData> self(this);
+    const auto stillHere = [&] { return !self.isNull(); };
+    slotUnitsChanged();
+    if (stillHere())
+        slotQualityChanged();
+    if (stillHere())
+        slotChoicesChanged();
+    if (stillHere())
+        slotApplicChanged();
+    if (stillHere())
+        Q_EMIT isReadyChanged();
+    if (!stillHere())
+        return;
+    if (m_item && !m_changed)
+        slotValueChanged();
+    else
+        Q_EMIT valueChanged();
+}
+
+Manifest* KivData::manifest() const
+{
+    return qobject_cast<Manifest*>(parent());
+}
+
+KIVClientInterface* KivData::getClient() const
+{
+    const Manifest* owner = manifest();
+    return owner ? owner->client() : nullptr;
+}
+
+// --- What the item is ----------------------------------------------------------------------------
+
+QString KivData::getQmlTag() const
+{
+    const Manifest* owner = manifest();
+    if (!m_item || !owner)
+        return QString();
+    const QString kind = m_id.startsWith(QLatin1String(":act"))   ? QStringLiteral("act")
+            : m_id.startsWith(QLatin1String(":res")) ? QStringLiteral("res")
+            : m_id.startsWith(QLatin1String(":con")) ? QStringLiteral("cfg")
+                                                     : QString();
+    return owner->getQmlTag() + QLatin1Char('_') + kind + QLatin1Char('_') + getName();
+}
+
+QString KivData::getId() const
+{
+    return m_id;
+}
+
+QString KivData::getName() const
+{
+    return m_item ? m_item->getName() : QString();
+}
+
+QString KivData::getType() const
+{
+    return m_item ? m_item->getTypeName() : QString();
+}
+
+unsigned KivData::getInputType() const
+{
+    return getAttr(QStringLiteral("inputType")).toUInt();
+}
+
+unsigned KivData::getPrecision() const
+{
+    return getAttr(QStringLiteral("precision")).toUInt();
+}
+
+void KivData::setPrecision(unsigned)
+{
+    // The property is written by pages that also serve local items; a service keeps its own.
+}
+
+QString KivData::getLabel() const
+{
+    return m_item ? m_item->getLabel() : QString();
+}
+
+QString KivData::getRegex() const
+{
+    const QString regex = getAttr(QStringLiteral("regex")).toString();
+    return regex.isEmpty() ? uiutils::lengthExpression(getMinRange(), getMaxRange()) : regex;
+}
+
+QVariant KivData::getMinRange() const
+{
+    return m_item ? m_item->getMinRange() : QVariant();
+}
+
+QVariant KivData::getMaxRange() const
+{
+    return m_item ? m_item->getMaxRange() : QVariant();
+}
+
+QString KivData::getRangeDescription() const
+{
+    uiutils::InputRange range;
+    range.minimum = getMinRange();
+    range.maximum = getMaxRange();
+    range.inputType = getInputType();
+    range.type = getType();
+    range.precision = getPrecision();
+    range.formatter = getBaseFormatter();
+    return uiutils::rangeDescription(range);
+}
+
+/// Made when it is first asked for: most items are never edited.
+QValidator* KivData::getValidator() const
+{
+    if (!m_validator) {
+        uiutils::InputRule rule;
+        rule.type = getType();
+        rule.regex = getRegex();
+        rule.minimum = getMinRange();
+        rule.maximum = getMaxRange();
+        rule.precision = getPrecision();
+        m_validator = uiutils::createValidator(rule, const_cast<KivData*>(this));
+    }
+    return m_validator;
+}
+
+/// Made when it is first asked for, and then told every value.
+BaseFormatter* KivData::getBaseFormatter() const
+{
+    if (m_hasFormatter)
+        return m_formatter;
+    m_hasFormatter = true;
+    const QString name = getAttr(QStringLiteral("formatter")).toString();
+    const bool isEnumeration = !getAttr(QStringLiteral("enum")).toString().isEmpty();
+    if (name.isEmpty() || isEnumeration || getType() == QLatin1String("std::string"))
+        return nullptr;
+    m_formatter = getFormatter(name);
+    if (!m_formatter)
+        return nullptr;
+    m_formatter->setParent(const_cast<KivData*>(this));
+    const QVariant precision = getAttr(QStringLiteral("precision"));
+    if (!precision.isNull())
+        m_formatter->setPrecision(precision.toInt());
+    m_formatter->setValue(m_value);
+    return m_formatter;
+}
+
+QVariant KivData::getProperty(QString const& prop) const
+{
+    return getAttr(prop);
+}
+
+QVariant KivData::getAttr(QString const& key) const
+{
+    return m_item ? m_item->getAttribute(key) : QVariant();
+}
+
+bool KivData::isReadOnly() const
+{
+    return !getId().startsWith(QLatin1String(":config"));
+}
+
+bool KivData::isReady() const
+{
+    return m_item && m_item->isReady();
+}
+
+int KivData::getQualityCode() const
+{
+    return m_item ? m_item->getQualityCode() : 0;
+}
+
+QString KivData::getError() const
+{
+    return m_error;
+}
+
+// --- The value -----------------------------------------------------------------------------------
+
+QVariant KivData::getValue() const
+{
+    return m_value;
+}
+
+QString KivData::getValueString(bool showUnits) const
+{
+    if (m_item)
+        return m_item->getValueString(showUnits);
+    if (BaseFormatter* formatter = getBaseFormatter()) {
+        const bool shown = formatter->getShowUnits();
+        formatter->setShowUnits(showUnits);
+        const QString text = formatter->format(m_value);
+        formatter->setShowUnits(shown);
+        return text;
+    }
+    if (m_value.type() == QVariant::Double)
+        return uiutils::fixedPointText(m_value.toDouble(), getPrecision());
+    return m_value.toString();
+}
+
+QString KivData::getValueStringNoUnits() const
+{
+    return getValueString(false);
+}
+
+QString KivData::getUnitString() const
+{
+    if (m_item)
+        return m_item->getUnitString();
+    const BaseFormatter* formatter = getBaseFormatter();
+    return formatter ? formatter->getUnitString() : QString();
+}
+
+void KivData::setValue(QVariant value)
+{
+    if (!getClient() || isReadOnly())
+        return;
+    const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
+    if (choices && !choices->contains(value.toInt())) {
+        refuse(QStringLiteral("Invalid enum value %1").arg(value.toInt()));
+        return;
+    }
+    writeValue(value);
+}
+
+void KivData::writeValue(QVariant value)
+{
+    const Manifest* owner = manifest();
+    if (owner && owner->isChanging()) {
+        m_changed = true;
+        m_sent = false;
+        m_previous = m_value;
+        setValueInternal(value);
+        return;
+    }
+    const QPointer<KivData> self(this);
+    KIVClientInterface* client = getClient();
+    const bool isTaken = client && client->setItem(getId(), value);
+    if (!self)
+        return;
+    if (isTaken)
+        setValueInternal(value);
+    else
+        checkAppError();
+}
+
+void KivData::setValueInternal(QVariant& value)
+{
+    m_value = value;
+    if (m_formatter)
+        m_formatter->setValue(m_value);
+    const QPointer<KivData> self(this);
+    if (qobject_cast<KIVVecClientItem*>(m_item))
+        Q_EMIT valueCountChanged();
+    if (self)
+        Q_EMIT valueChanged();
+}
+
+void KivData::apply()
+{
+    if (!m_changed)
+        return;
+    m_changed = false;
+    const QPointer<KivData> self(this);
+    QVariant value = m_value;
+    KIVClientInterface* client = getClient();
+    const bool isRefused = client && !client->setItem(getId(), value);
+    if (self)
+        setValueInternal(value);
+    if (self && isRefused)
+        checkAppError();
+}
+
+void KivData::revert()
+{
+    if (!m_changed)
+        return;
+    m_changed = false;
+    QVariant previous = m_previous;
+    setValueInternal(previous);
+}
+
+void KivData::checkAppError()
+{
+    if (const KIVClientInterface* client = getClient())
+        refuse(client->getLastError());
+}
+
+void KivData::refuse(const QString& error)
+{
+    m_error = error;
+    Q_EMIT errorChanged(getName(), error);
+}
+
+void KivData::invoke()
+{
+    if (KIVClientInterface* client = getClient())
+        client->invokeAction(getId());
+}
+
+QString KivData::invokeWithStringArg(QString const& arg)
+{
+    QString reply;
+    if (KIVClientInterface* client = getClient())
+        client->sendAction(getId(), arg, &reply, KIVClientInterface::callTimeout);
+    return reply;
+}
+
+// --- Elements of an array ------------------------------------------------------------------------
+
+QVariantList KivData::elements() const
+{
+    const bool isArray = m_item ? qobject_cast<KIVVecClientItem*>(m_item) != nullptr
+                                : m_id.endsWith(uiutils::itemids::arrayMark);
+    return isArray ? m_value.toList() : QVariantList();
+}
+
+QVariant KivData::variantAt(int ind) const
+{
+    return elements().value(ind);
+}
+
+QVariant KivData::at(int ind) const
+{
+    return variantAt(ind);
+}
+
+QVariant KivData::getArrayValue(int index) const
+{
+    return variantAt(index);
+}
+
+void KivData::setAt(int ind, QVariant const& val)
+{
+    QVariantList list = elements();
+    if (!isWithin(ind, list.size()))
+        return;
+    list[ind] = val;
+    QVariant value = list;
+    if (m_value.type() == QVariant::StringList)
+        value.convert(QVariant::StringList);
+    setValue(value);
+}
+
+int KivData::getValueCount() const
+{
+    return elements().size();
+}
+
+QString KivData::arraySelectionKey() const
+{
+    return getId() + QLatin1String(":array_selection:");
+}
+
+/// Selections are shared by all wrappers of an id; only those that somebody asked for theirs listen.
+void KivData::followUserData() const
+{
+    if (m_followsUserData)
+        return;
+    m_followsUserData = true;
+    auto* self = const_cast<KivData*>(this);
+    connect(UserData::getInstance(), &UserData::signalDataChanged, self, [self](const QString& key) {
+        if (key == self->arraySelectionKey())
+            Q_EMIT self->arraySelectionChanged();
+    });
+}
+
+int KivData::getArraySelection() const
+{
+    followUserData();
+    const int count = getValueCount();
+    const QVariant kept = UserData::getInstance()->getData(arraySelectionKey());
+    if (kept.isValid() && isWithin(kept.toInt(), count))
+        return kept.toInt();
+    return count > 0 ? 0 : -1;
+}
+
+void KivData::setArraySelection(int index)
+{
+    if (isWithin(index, getValueCount()) && index != getArraySelection())
+        UserData::getInstance()->setData(arraySelectionKey(), index);
+}
+
+QString KivData::getArraySelectionString() const
+{
+    return variantAt(getArraySelection()).toString();
+}
+
+// --- Choices of an enumeration -------------------------------------------------------------------
+
+QObject* KivData::getEnums() const
+{
+    const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
+    if (!m_enums && choices)
+        m_enums = uiutils::EnumNames::create(*choices, const_cast<KivData*>(this));
+    return m_enums;
+}
+
+int KivData::getEnumCount() const
+{
+    const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
+    return choices ? choices->count() : 0;
+}
+
+QString KivData::enumLabel(int const& index)
+{
+    return isWithin(index, getEnumCount()) ? choicesOf(m_item)->labelAt(index) : QString();
+}
+
+QString KivData::enumLabelForValue(int const& index)
+{
+    const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
+    return choices && choices->contains(index) ? choices->labelForValue(unsigned(index)) : QString();
+}
+
+int KivData::enumValue(int const& index)
+{
+    return isWithin(index, getEnumCount()) ? choicesOf(m_item)->valueAt(index) : -1;
+}
+
+int KivData::enumIndex(int const& value)
+{
+    const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
+    return choices ? choices->indexOf(value) : -1;
+}
+
+bool KivData::applicableAt(int const& index)
+{
+    return isWithin(index, getEnumCount()) && choicesOf(m_item)->isApplicableAt(index);
+}
+
+// --- Applicability -------------------------------------------------------------------------------
+
+bool KivData::isApplicable()
+{
+    if (!m_item)
+        return true;
+    const QString expression = m_item->getApplicableExpr();
+    if (expression.isEmpty())
+        return m_item->isApplicable();
+    compileApplicability(expression);
+    if (getId().startsWith(QLatin1String(":action:")))
+        return true;
+    if (m_isExpressionRefused)
+        return false;
+    return !m_expression || evaluateApplicability();
+}
+
+void KivData::compileApplicability(const QString& expression)
+{
+    if (m_expression && !m_expression->context()) {
+        delete m_expression;
+        m_expression = nullptr;
+    }
+    const Manifest* owner = manifest();
+    QQmlContext* context = Manifest::qmlContext();
+    if (m_expression || m_isExpressionRefused || expression == QLatin1String("true") || !owner || !context)
+        return;
+
+    QString problem;
+    const std::optional<QString> translated
+            = uiutils::translatedApplicability(expression, owner->getQmlTag(), &problem);
+    if (!translated) {
+        m_isExpressionRefused = true;
+        reportExpressionError(problem);
+        return;
+    }
+    m_expression = new QQmlExpression(context, this, *translated, this);
+    connect(m_expression, &QQmlExpression::valueChanged, this, &KivData::slotApplicChanged);
+    m_expression->setNotifyOnValueChanged(true);
+}
+
+bool KivData::evaluateApplicability()
+{
+    // Items may ask each other in a circle.
+    if (m_isEvaluating) {
+        reportExpressionError(QStringLiteral("the expression depends on itself"));
+        return false;
+    }
+    m_isEvaluating = true;
+    const bool result = m_expression->evaluate().toBool();
+    m_isEvaluating = false;
+    if (!m_expression->hasError())
+        return result;
+    reportExpressionError(m_expression->error().toString());
+    m_expression->clearError();
+    return false;
+}
+
+void KivData::reportExpressionError(const QString& problem) const
+{
+    std::printf("Applicable expression error: %s %s\n", qPrintable(getName()), qPrintable(problem));
+    std::fflush(stdout);
+}
+
+// --- Reports of the item -------------------------------------------------------------------------
+
+void KivData::settleReport()
+{
+    if (!m_id.startsWith(QLatin1String(":config")))
+        return;
+    m_changed = false;
+    m_sent = false;
+}
+
+void KivData::slotValueChanged()
+{
+    settleReport();
+    if (!m_item)
+        return;
+    QVariant value = m_item->getValue();
+    setValueInternal(value);
+}
+
+void KivData::slotUnitsChanged()
+{
+    Q_EMIT unitsChanged();
+}
+
+void KivData::slotChoicesChanged()
+{
+    if (m_enums)
+        m_enums->deleteLater();
+    m_enums = nullptr;
+    Q_EMIT enumCountChanged();
+}
+
+void KivData::slotIsReadyChanged()
+{
+    const QPointer<KivData> self(this);
+    Q_EMIT isReadyChanged();
+    if (self)
+        Q_EMIT valueChanged();
+}
+
+void KivData::slotQualityChanged()
+{
+    Q_EMIT qualityCodeChanged();
+}
+
+void KivData::slotApplicChanged()
+{
+    Q_EMIT applicableChanged();
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+
+#include <kiv/kivclientinterface.h>
+
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+/// Relays to QML the errors that a service reports of its own accord.
+class UIUTILS_EXPORT KIVSignal : public QObject
+{
+    Q_OBJECT
+    /// The name of the service to listen to. Writing connects to it when it can be reached, and leaves the one before;
+    /// serviceChanged() is not emitted.
+    Q_PROPERTY(QString service READ getService WRITE setService NOTIFY serviceChanged)
+
+public:
+    explicit KIVSignal(QObject* parent = nullptr);
+    ~KIVSignal() override;
+
+    QString getService() const { return m_service; }
+    void setService(const QString& service);
+
+Q_SIGNALS:
+    void serviceChanged();
+    /// The service reported an error, in words for the user.
+    void signalKIVError(QString error);
+
+public Q_SLOTS:
+    void slotError(QString error);
+
+private:
+    QString m_service;
+    QPointer<KIVClientInterface> m_client;
+};

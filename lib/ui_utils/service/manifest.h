@@ -1,0 +1,88 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+
+#include <kiv/kivclientinterface.h>
+
+#include <QMap>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+
+class KivData;
+class QQmlContext;
+
+/// The registry of one service's items for QML, and the transaction that changes several of them at once.
+///
+/// Constructing a manifest wraps every item that the service lists and enters the wrappers in a registry that all manifests
+/// of the process share; setQmlContext() makes them known to QML by their names. A transaction begins with startChanges():
+/// from then on values set on wrappers are held back until applyChanges() sends them as one action, or revertChanges()
+/// drops them.
+///
+/// **Ownership**: the wrappers are children of their manifest. The client is not owned and may be null or go away; then
+/// nothing is sent. The registry holds plain pointers; the entry of a wrapper that is gone is null.
+///
+/// Everything runs on the thread of the QML engine.
+class UIUTILS_EXPORT Manifest : public QObject
+{
+    Q_OBJECT
+    /// The service's name.
+    Q_PROPERTY(QString name READ getServiceName CONSTANT)
+
+public:
+    /// Wraps the items of the service `name`. `qmlTag` begins the names of the items in QML; the service's name does when
+    /// it is empty.
+    Manifest(KIVClientInterface* client, QString const& qmlTag, QString const& name, QObject* parent = nullptr);
+    ~Manifest() override;
+
+    QString getQmlTag() const { return m_qmlTag.isEmpty() ? m_name : m_qmlTag; }
+    QString getServiceName() const { return m_name; }
+    KIVClientInterface* client() const { return m_client; }
+
+    /// Whether a transaction runs.
+    bool isChanging() const { return m_changing; }
+
+    /// Begins a transaction; nothing happens when one runs.
+    Q_INVOKABLE void startChanges();
+    /// Ends the transaction and sends all pending changes of the process to the service as one action. What was sent is not
+    /// sent again unless it is changed again. When the service refuses, every wrapper concerned emits
+    /// KivData::errorChanged(), and its change stays pending.
+    Q_INVOKABLE void applyChanges();
+    /// Ends the transaction and drops all pending changes of the process.
+    Q_INVOKABLE void revertChanges();
+    /// Asks the service to keep its configuration under a name that users know it by.
+    Q_INVOKABLE void saveConfig(QString const& friendlyName, bool hasHomeScreenIcon);
+
+    /// The registered ids that contain both texts, in ascending order; an empty text is contained in all.
+    static QStringList getKivIds(QString const& contains, QString const& filter);
+    /// The wrapper that is registered under the id; null without one.
+    static KivData* getKivData(QString const& id);
+    KivData* getItem(QString const& id) const { return getKivData(id); }
+
+    /// Makes the items that are registered now known by name to everything below `context`. Call it anew after further
+    /// items have been registered.
+    static void setQmlContext(QQmlContext* context);
+    /// The context last given to setQmlContext(); null when it is gone.
+    static QQmlContext* qmlContext();
+
+private:
+    friend class KivData;
+    /// Takes a wrapper that is about to go out of the registry.
+    static void forget(const QString& id, const KivData* wrapper);
+
+    void registerItem(const QString& id);
+    void bindItems();
+    QString actionId(QLatin1String action) const;
+    bool send(const QString& actionId, const QString& argument);
+
+    /// Never destroyed, because wrappers may outlive every other static object.
+    static QMap<QString, KivData*>& m_items;
+    static QPointer<QQmlContext> s_pContext;
+
+    QPointer<KIVClientInterface> m_client;
+    QString m_name;
+    QString m_manifestId;
+    bool m_changing = false;
+    QString m_qmlTag;
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+
+#include <QPointer>
+#include <QQmlPropertyMap>
+
+class KivAggregateData;
+
+/// The members of a record as keys of a map. What QML writes goes to the service; the key changes when the service reports
+/// the new record, because the service has the last word.
+class UIUTILS_EXPORT QMLAggregate : public QQmlPropertyMap
+{
+    // No meta-object of its own: one between the map's and the keys would hide keys from QML.
+
+public:
+    /// `owner` owns the map.
+    explicit QMLAggregate(KivAggregateData& owner);
+    ~QMLAggregate() override;
+
+    /// Ends the map; while QML is writing one of its keys, as soon as that is over.
+    void release();
+
+protected:
+    QVariant updateValue(QString const& key, QVariant const& input) override;
+
+private:
+    QPointer<KivAggregateData> m_owner;
+    bool m_isWriting = false;
+};

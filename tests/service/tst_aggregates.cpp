@@ -1,0 +1,221 @@
+#include "recordedservice.h"
+
+#include "service/kivaggregatedata.h"
+#include "service/kivlistaggregatedata.h"
+#include "service/kivsignal.h"
+#include "service/manifest.h"
+#include "service/qmllistaggregate.h"
+
+#include <kiv/kivbackend.h>
+
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlExpression>
+#include <QQmlPropertyMap>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+const QString limitsId = ":config:rec:limits:";
+const QString eventsId = ":result:rec:events:";
+
+KivAggregate limits(double low, double high)
+{
+    return KivAggregate({{"low", low}, {"high", high}, {QString::fromUtf8("größe").toUtf8(), "big"}});
+}
+
+KivListAggregate events(int rows)
+{
+    QVector<QVariantList> list;
+    for (int i = 0; i < rows; ++i)
+        list.append({i * 10, QString("event %1").arg(i)});
+    return KivListAggregate({"distance", "kind"}, list);
+}
+
+} // namespace
+
+class AggregatesTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<RecordedClient> m_client;
+    std::unique_ptr<Manifest> m_manifest;
+    RecordedAggregate* m_limits = nullptr;
+    RecordedList* m_events = nullptr;
+
+    static QQmlPropertyMap* map() { return Manifest::getKivData(limitsId)->getValue().value<QQmlPropertyMap*>(); }
+    static QMLListAggregate* model() { return Manifest::getKivData(eventsId)->getValue().value<QMLListAggregate*>(); }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_client = std::make_unique<RecordedClient>();
+        m_limits = m_client->add<RecordedAggregate>(limitsId);
+        m_limits->aggregate = limits(1, 2);
+        m_events = m_client->add<RecordedList>(eventsId);
+        m_events->list = events(2);
+        m_manifest = std::make_unique<Manifest>(m_client.get(), "t", "rec");
+    }
+    void cleanup()
+    {
+        m_manifest.reset();
+        m_client.reset();
+    }
+
+    void aRecordIsAMap()
+    {
+        QCOMPARE(map()->value("low"), QVariant(1.0));
+        QCOMPARE(map()->value(QString::fromUtf8("größe")), QVariant("big"));
+        QSignalSpy changes(Manifest::getKivData(limitsId), &KivData::valueChanged);
+        m_limits->aggregate = limits(3, 4);
+        Q_EMIT m_limits->valueChanged();
+        QCOMPARE(map()->value("high"), QVariant(4.0));
+        QCOMPARE(changes.size(), 1);
+    }
+
+    void aMemberWrittenFromQml()
+    {
+        QQmlEngine engine;
+        Manifest::setQmlContext(engine.rootContext());
+        QSignalSpy changes(Manifest::getKivData(limitsId), &KivData::valueChanged);
+        QQmlExpression write(engine.rootContext(), nullptr, "t_cfg_limits.value.low = 7; t_cfg_limits.value.low");
+        // The service has the last word.
+        QCOMPARE(write.evaluate(), QVariant(1.0));
+        QVERIFY2(!write.hasError(), qPrintable(write.error().toString()));
+        QCOMPARE(m_client->calls.size(), 1);
+        QCOMPARE(m_client->calls.first().id, limitsId);
+        const QVariantMap sent = m_client->calls.first().argument.toMap();
+        QCOMPARE(sent.value("low"), QVariant(7.0));
+        QCOMPARE(sent.value("high"), QVariant(2.0));
+        QCOMPARE(changes.size(), 2);
+
+        m_client->refusal = "low is over high";
+        QSignalSpy errors(Manifest::getKivData(limitsId), &KivData::errorChanged);
+        write.evaluate();
+        QCOMPARE(errors.size(), 1);
+        QCOMPARE(errors.first().at(1), QVariant("low is over high"));
+        QQmlExpression wrong(engine.rootContext(), nullptr, "t_cfg_limits.value.low = 'no number'");
+        wrong.evaluate();
+        QCOMPARE(errors.size(), 2);
+        QCOMPARE(m_client->calls.size(), 2);
+    }
+
+    void aPendingRecordStartsFromTheItemsOwn()
+    {
+        auto* record = static_cast<KivAggregateData*>(Manifest::getKivData(limitsId));
+        m_manifest->startChanges();
+        record->updateAggregateProperty("low", 5);
+        record->updateAggregateProperty("high", 6);
+        QVERIFY(m_client->calls.isEmpty());
+        m_manifest->applyChanges();
+        QVERIFY(m_client->calls.last().argument.toString().contains("\"high\": 6"));
+        QVERIFY(m_client->calls.last().argument.toString().contains("\"low\": 1"));
+    }
+
+    void aRecordWithoutItsItem()
+    {
+        auto* record = static_cast<KivAggregateData*>(Manifest::getKivData(limitsId));
+        m_client->remove(limitsId);
+        record->updateAggregateProperty("low", 5);
+        record->updateQmlMapFromItem();
+        QCOMPARE(map()->value("low"), QVariant(1.0));
+        QVERIFY(m_client->calls.isEmpty());
+        m_client->add<RecordedAggregate>(limitsId)->aggregate = limits(8, 9);
+        Q_EMIT m_client->itemsChanged();
+        QCOMPARE(map()->value("low"), QVariant(8.0));
+    }
+
+    void aTableIsAModel()
+    {
+        QCOMPARE(model()->rowCount(), 2);
+        QCOMPARE(model()->roleNames(), (QHash<int, QByteArray> {{257, "distance"}, {258, "kind"}}));
+        QCOMPARE(model()->data(model()->index(1), 257), QVariant(10));
+        QVERIFY(!model()->data(model()->index(2), 257).isValid());
+        QVERIFY(!model()->data(model()->index(0), 259).isValid());
+        QVERIFY(!model()->data(QModelIndex(), 257).isValid());
+        QCOMPARE(model()->rowCount(model()->index(0)), 0);
+    }
+
+    void aNewTableResetsTheModel()
+    {
+        QSignalSpy before(model(), &QAbstractItemModel::modelAboutToBeReset);
+        QSignalSpy after(model(), &QAbstractItemModel::modelReset);
+        QSignalSpy changes(Manifest::getKivData(eventsId), &KivData::valueChanged);
+        QMLListAggregate* same = model();
+        m_events->list = events(0);
+        Q_EMIT m_events->valueChanged();
+        QCOMPARE(before.size(), 1);
+        QCOMPARE(after.size(), 1);
+        QVERIFY(changes.isEmpty());
+        QCOMPARE(model(), same);
+        QCOMPARE(model()->rowCount(), 0);
+        QCOMPARE(model()->roleNames().size(), 2);
+    }
+
+    void slotsMayDeleteTheWrapper()
+    {
+        connect(map(), &QQmlPropertyMap::valueChanged, this, [this] { m_manifest.reset(); });
+        QQmlEngine engine;
+        Manifest::setQmlContext(engine.rootContext());
+        const QPointer<KivData> record = Manifest::getKivData(limitsId);
+        connect(record, &KivData::valueChanged, this, [this] { m_manifest.reset(); });
+        QQmlExpression(engine.rootContext(), nullptr, "t_cfg_limits.value.low = 7").evaluate();
+        QVERIFY(!record);
+    }
+
+    void theEngineNeverCollectsTheMap()
+    {
+        QQmlEngine engine;
+        Manifest::setQmlContext(engine.rootContext());
+        const QPointer<QQmlPropertyMap> kept = map();
+        QQmlExpression(engine.rootContext(), nullptr, "var m = t_cfg_limits.value; m.low").evaluate();
+        engine.collectGarbage();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(kept);
+    }
+
+    void errorsThatAServiceReports()
+    {
+        class Backend final : public KIVBackend
+        {
+        public:
+            explicit Backend(KIVClientInterface* client)
+                : m_client(client)
+            {
+                setCurrent(this);
+            }
+            KIVClientInterface* baseManagerClient() override { return nullptr; }
+            KIVClientInterface* serviceClient(const QString& service, QObject*) override
+            {
+                return service == "rec" ? m_client : nullptr;
+            }
+
+        private:
+            KIVClientInterface* m_client;
+        } backend(m_client.get());
+
+        KIVSignal relay;
+        QSignalSpy errors(&relay, &KIVSignal::signalKIVError);
+        QSignalSpy changes(&relay, &KIVSignal::serviceChanged);
+        relay.setProperty("service", "rec");
+        relay.setService("rec");
+        Q_EMIT m_client->SigError("out of paper");
+        QCOMPARE(errors.size(), 1);
+        QCOMPARE(errors.first().first(), QVariant("out of paper"));
+        QVERIFY(changes.isEmpty());
+        relay.setService("unknown");
+        Q_EMIT m_client->SigError("again");
+        QCOMPARE(errors.size(), 1);
+        relay.setService("rec");
+        m_manifest.reset();
+        m_client.reset();
+        relay.setService("unknown");
+    }
+};
+
+QTEST_GUILESS_MAIN(AggregatesTest)
+#include "tst_aggregates.moc"

@@ -1,0 +1,235 @@
+#include "recordedservice.h"
+
+#include "service/applicability_p.h"
+#include "service/kivdata.h"
+#include "service/manifest.h"
+
+#include <QFile>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QSignalSpy>
+#include <QTemporaryFile>
+#include <QtTest>
+
+#include <cstdio>
+#include <memory>
+#include <unistd.h>
+
+namespace {
+
+/// What is printed to standard output while it lives.
+class CapturedOutput
+{
+public:
+    CapturedOutput()
+    {
+        std::fflush(stdout);
+        m_file.open();
+        m_stdout = dup(STDOUT_FILENO);
+        dup2(m_file.handle(), STDOUT_FILENO);
+    }
+    ~CapturedOutput() { restore(); }
+
+    QString text()
+    {
+        restore();
+        QFile file(m_file.fileName());
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+
+private:
+    void restore()
+    {
+        if (m_stdout < 0)
+            return;
+        std::fflush(stdout);
+        dup2(m_stdout, STDOUT_FILENO);
+        close(m_stdout);
+        m_stdout = -1;
+    }
+
+    QTemporaryFile m_file;
+    int m_stdout = -1;
+};
+
+} // namespace
+
+class ApplicabilityTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<RecordedClient> m_client;
+    std::unique_ptr<Manifest> m_manifest;
+    RecordedItem<KIVClientItem>* m_mode = nullptr;
+
+    KivData* itemWith(const QString& expression, const QString& id = ":config:rec:asking:")
+    {
+        m_client->add(id)->state->expression = expression;
+        m_manifest = std::make_unique<Manifest>(m_client.get(), "tag", "rec");
+        Manifest::setQmlContext(m_engine->rootContext());
+        return Manifest::getKivData(id);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_engine = std::make_unique<QQmlEngine>();
+        m_client = std::make_unique<RecordedClient>();
+        m_mode = m_client->add(":config:rec:mode:", 2);
+        m_client->add(":result:rec:name:", "fiber")->state->ready = false;
+        m_client->add<RecordedItem<KIVVecClientItem>>(":result:rec:list:doubleARRAY:", QVariantList {1.5, 2.5});
+    }
+    void cleanup()
+    {
+        m_manifest.reset();
+        m_client.reset();
+        m_engine.reset();
+    }
+
+    void translations_data()
+    {
+        QTest::addColumn<QString>("expression");
+        QTest::addColumn<QString>("translated");
+        QTest::newRow("own item") << "cfg.mode == 2" << "t_cfg_mode.value == 2";
+        QTest::newRow("of a module") << "module.res.state!=0" << "module_res_state.value != 0";
+        QTest::newRow("property") << "cfg.mode.isReady" << "t_cfg_mode.isReady";
+        QTest::newRow("value's member") << "cfg.limits.value.low > 1" << "t_cfg_limits.value.low > 1";
+        QTest::newRow("accessor") << "cfg.mode.enumLabel(0)=='a'" << "t_cfg_mode.enumLabel (0 ) == 'a'";
+        QTest::newRow("element") << "res.list[1] > 2" << "t_res_list.value[1 ]  > 2";
+        QTest::newRow("grouping") << "!(cfg.a||cfg.b)&&true" << " ! (t_cfg_a.value || t_cfg_b.value )  && true";
+        QTest::newRow("text with a bracket") << "cfg.a == ')(\\''" << "t_cfg_a.value == ')(\\''";
+        QTest::newRow("signs apart") << "cfg.a - -1" << "t_cfg_a.value -  - 1";
+    }
+    void translations()
+    {
+        QFETCH(QString, expression);
+        QFETCH(QString, translated);
+        QString problem;
+        const std::optional<QString> result = uiutils::translatedApplicability(expression, "t", &problem);
+        QVERIFY2(result, qPrintable(problem));
+        QCOMPARE(result->simplified().remove(' '), translated.simplified().remove(' '));
+    }
+
+    void refusals_data()
+    {
+        QTest::addColumn<QString>("expression");
+        for (const char* expression : {"cfg.mode = 2", "cfg.mode += 2", "cfg.mode++", "--cfg.mode", "cfg.mode.value = 3",
+                     "function(){return true}()", "(() => true)()", "Qt.quit()", "applicable", "value == 2",
+                     "cfg.mode.setValue(3)", "cfg.mode.invoke()", "cfg.mode.apply()", "cfg.mode.destroy()",
+                     "cfg.mode.value.constructor('x')", "cfg.mode.enumLabel", "cfg.mode.client", "cfg.mode.validator.bottom",
+                     "cfg.mode.parent", "(cfg.mode)(1)", "'a'.repeat(9)", "/x/.test('x')", "`x`", "cfg.mode; cfg.mode",
+                     "{}", "[1]", "cfg.mode['setValue'](3)", "cfg.mode.value['constructor']", "new Date()", "delete cfg.mode",
+                     "typeof cfg.mode", "eval('1')", "this", "cfg.", "cfg.mode.", "a.cfg.mode.value.x()", "1x", "\\u0061",
+                     "cfg.mode == 'open", "cfg.mode == == 1", "", "(cfg.mode", "cfg.mode)", "cfg.mode ? 1",
+                     "1 : 2", "(cfg.mode ? 1) : 2", "cfg.mode, 1", "cfg.mode 1", "cfg.list.at()", "!"})
+            QTest::addRow("<%s>", expression) << QString(expression);
+        QTest::newRow("endless") << QString(100000, '(');
+    }
+    void refusals()
+    {
+        QFETCH(QString, expression);
+        QString problem;
+        QVERIFY(!uiutils::translatedApplicability(expression, "t", &problem));
+        QVERIFY(!problem.isEmpty());
+    }
+
+    void answers_data()
+    {
+        QTest::addColumn<QString>("expression");
+        QTest::addColumn<bool>("answer");
+        QTest::newRow("true") << "true" << true;
+        QTest::newRow("value") << "cfg.mode == 2" << true;
+        QTest::newRow("other value") << "cfg.mode == 3" << false;
+        QTest::newRow("text") << "res.name == 'fiber' && cfg.mode >= 2" << true;
+        QTest::newRow("readiness") << "res.name.isReady" << false;
+        QTest::newRow("element") << "res.list.at(1) == 2.5 && res.list[0] == 1.5" << true;
+        QTest::newRow("choice of two") << "cfg.mode == 2 ? false : true" << false;
+        QTest::newRow("module") << "tag.cfg.mode == 2" << true;
+    }
+    void answers()
+    {
+        QFETCH(QString, expression);
+        QFETCH(bool, answer);
+        CapturedOutput output;
+        QCOMPARE(itemWith(expression)->isApplicable(), answer);
+        QCOMPARE(output.text(), QString());
+    }
+
+    void withoutAnExpressionTheItemDecides()
+    {
+        KivData* asking = itemWith(QString());
+        auto* item = static_cast<RecordedItem<KIVClientItem>*>(m_client->getItem(":config:rec:asking:"));
+        QVERIFY(asking->isApplicable());
+        item->state->applicable = false;
+        QVERIFY(!asking->isApplicable());
+    }
+
+    void aChangeElsewhereIsHeard()
+    {
+        KivData* asking = itemWith("cfg.mode == 2");
+        QVERIFY(asking->isApplicable());
+        QSignalSpy changes(asking, &KivData::applicableChanged);
+        m_mode->state->value = 3;
+        Q_EMIT m_mode->valueChanged();
+        QCOMPARE(changes.size(), 1);
+        QVERIFY(!asking->isApplicable());
+    }
+
+    void faultyExpressionsAreNotApplicable_data()
+    {
+        QTest::addColumn<QString>("expression");
+        QTest::addColumn<QString>("line");
+        QTest::newRow("refused") << "Qt.quit()" << "Applicable expression error: asking \"Qt\" is not allowed here\n";
+        QTest::newRow("unknown item") << "cfg.nothing == 1" << "ReferenceError: tag_cfg_nothing is not defined\n";
+        QTest::newRow("no expression") << "cfg.mode == == 1" << "Applicable expression error: asking ";
+        QTest::newRow("asks itself") << "cfg.asking.applicable"
+                                     << "Applicable expression error: asking the expression depends on itself\n";
+    }
+    void faultyExpressionsAreNotApplicable()
+    {
+        QFETCH(QString, expression);
+        QFETCH(QString, line);
+        CapturedOutput output;
+        KivData* asking = itemWith(expression);
+        QVERIFY(!asking->isApplicable());
+        QVERIFY(!asking->isApplicable());
+        const QString text = output.text();
+        QVERIFY2(text.contains(line), qPrintable(text));
+        QVERIFY(text.startsWith("Applicable expression error: asking "));
+    }
+
+    void actionsAreAlwaysApplicable()
+    {
+        QVERIFY(itemWith("cfg.mode == 3", ":action:rec:asking:")->isApplicable());
+    }
+
+    void itemsOfAnotherServiceMayComeLater()
+    {
+        CapturedOutput output;
+        KivData* asking = itemWith("other.res.late == 5");
+        QVERIFY(!asking->isApplicable());
+        RecordedClient other;
+        other.add(":result:other:late:", 5);
+        Manifest otherManifest(&other, "other", "other");
+        Manifest::setQmlContext(m_engine->rootContext());
+        QVERIFY(asking->isApplicable());
+    }
+
+    void anotherEngine()
+    {
+        KivData* asking = itemWith("cfg.mode == 2");
+        QVERIFY(asking->isApplicable());
+        m_engine.reset();
+        QVERIFY(asking->isApplicable());
+        m_engine = std::make_unique<QQmlEngine>();
+        Manifest::setQmlContext(m_engine->rootContext());
+        m_mode->state->value = 3;
+        Q_EMIT m_mode->valueChanged();
+        QVERIFY(!asking->isApplicable());
+    }
+};
+
+QTEST_GUILESS_MAIN(ApplicabilityTest)
+#include "tst_applicability.moc"

@@ -1,0 +1,230 @@
+#include "service/forgivingvalidator.h"
+#include "service/inputrange_p.h"
+#include "service/inputvalidator_p.h"
+#include "service/kivdata.h"
+
+#include <kiv/baseformatter.h>
+
+#include <QDoubleValidator>
+#include <QIntValidator>
+#include <QLocale>
+#include <QtTest>
+
+using uiutils::InputRange;
+using uiutils::InputRule;
+
+namespace {
+
+class Tagger final : public BaseFormatter
+{
+public:
+    QString format(const QVariant& value) const override { return "[" + value.toString() + "]"; }
+    QString getUnitString() const override { return "dB"; }
+};
+
+QValidator::State stateOf(QValidator* validator, QString text)
+{
+    int position = 0;
+    return validator->validate(text, position);
+}
+
+} // namespace
+
+class InputsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QLocale::setDefault(QLocale::c()); }
+
+    void rangeTexts_data()
+    {
+        QTest::addColumn<unsigned>("inputType");
+        QTest::addColumn<QVariant>("minimum");
+        QTest::addColumn<QVariant>("maximum");
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<bool>("formatted");
+        QTest::addColumn<QString>("text");
+        const QVariant none;
+        const QString text = "std::string";
+        QTest::newRow("IP") << 1u << none << none << text << false << "Please enter IP address";
+        QTest::newRow("IPv4") << 2u << none << none << text << false << "0.0.0.0 - 255.255.255.255";
+        QTest::newRow("IPv6") << 3u << none << none << text << false << "Please enter IPv6 address";
+        QTest::newRow("MAC") << 4u << none << none << text << false << "00:00:00:00:00:00 - FF:FF:FF:FF:FF:FF";
+        QTest::newRow("URL") << 15u << none << none << text << false << "Please enter URL";
+        QTest::newRow("DNS") << 20u << none << none << text << false << "Please enter DNS name";
+        QTest::newRow("password, at most") << 17u << QVariant(0) << QVariant(16) << text << false << "16 max chars";
+        QTest::newRow("password, exactly") << 17u << QVariant(8) << QVariant(8) << text << false << "8 chars";
+        QTest::newRow("password, between") << 17u << QVariant(8) << QVariant(16) << text << false << "8 - 16 chars";
+        QTest::newRow("nothing at all wins over equal") << 8u << QVariant("0") << QVariant("0") << text << false << "0 max chars";
+        QTest::newRow("zero in another spelling") << 8u << QVariant("00") << QVariant(16) << text << false << "00 - 16 chars";
+        QTest::newRow("digits") << 18u << QVariant(2) << QVariant(4) << text << false << "2 - 4 digits";
+        QTest::newRow("phone, at most") << 19u << QVariant(0) << QVariant(15) << text << false << "15 max digits";
+        QTest::newRow("phone, exactly") << 19u << QVariant(9) << QVariant(9) << text << false << "9 digits";
+        for (unsigned type : {8u, 9u, 10u, 11u, 12u, 17u, 18u, 19u}) {
+            QTest::addRow("type %u without a minimum", type) << type << none << QVariant(5) << text << true << "";
+            QTest::addRow("type %u without a maximum", type) << type << QVariant(5) << none << text << false << "";
+        }
+        QTest::newRow("int") << 9u << QVariant(-5) << QVariant(5) << "int" << false << "-5 - 5 ";
+        QTest::newRow("int with units") << 10u << QVariant(0) << QVariant(5) << "int" << true << "0 - 5 dB";
+        QTest::newRow("one int") << 9u << QVariant(5) << QVariant(5) << "int" << true << "5 only";
+        QTest::newRow("real") << 11u << QVariant(0.5) << QVariant(1000) << "double" << false << "0.50 - 1000.00 ";
+        QTest::newRow("real, formatted") << 12u << QVariant(0.5) << QVariant(100) << "double" << true << "[0.5] - [100]";
+        QTest::newRow("real, no number") << 11u << QVariant("low") << QVariant(1) << "double" << false << "low - 1.00 ";
+        QTest::newRow("text in general") << 0u << QVariant(8) << QVariant(32) << text << false << "8 - 32 chars";
+        QTest::newRow("text without limits") << 14u << none << none << text << false << " -  chars";
+        QTest::newRow("text with units") << 16u << QVariant(1) << QVariant(2) << text << true << "1 - 2 dB";
+        QTest::newRow("number in general") << 13u << QVariant(0) << QVariant(100) << "double" << true << "0 - 100 dB";
+        QTest::newRow("unknown type") << 77u << QVariant("%2") << QVariant("%3") << "int" << true << "%2 - %3 dB";
+    }
+    void rangeTexts()
+    {
+        QFETCH(unsigned, inputType);
+        QFETCH(QVariant, minimum);
+        QFETCH(QVariant, maximum);
+        QFETCH(QString, type);
+        QFETCH(bool, formatted);
+        QFETCH(QString, text);
+        const Tagger formatter;
+        InputRange range;
+        range.minimum = minimum;
+        range.maximum = maximum;
+        range.inputType = inputType;
+        range.type = type;
+        range.precision = 2;
+        range.formatter = formatted ? &formatter : nullptr;
+        QCOMPARE(uiutils::rangeDescription(range), text);
+    }
+
+    void realNumbersReadAsUsersTypeThem()
+    {
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        QCOMPARE(uiutils::fixedPointText(12345.678, 2), QString("12345,68"));
+        QLocale::setDefault(QLocale::c());
+        QVERIFY(uiutils::fixedPointText(0.1, 2'000'000'000).size() < 400);
+    }
+
+    void lengthExpressions()
+    {
+        QCOMPARE(uiutils::lengthExpression(8, 32), QString(".{8,32}"));
+        QCOMPARE(uiutils::lengthExpression("8", 32.0), QString(".{8,32}"));
+        QCOMPARE(uiutils::lengthExpression(QVariant(), 32), QString(".*"));
+        QCOMPARE(uiutils::lengthExpression(8, "many"), QString(".*"));
+    }
+
+    void escapedHyphens_data()
+    {
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QString>("repaired");
+        QTest::newRow("digits") << R"([\d-.])" << R"([\d\-.])";
+        QTest::newRow("several") << R"(^[\w-.]+@[\w-_.]+$)" << R"(^[\w\-.]+@[\w\-_.]+$)";
+        QTest::newRow("at the end stays") << R"([\d-])" << R"([\d-])";
+        QTest::newRow("a range stays") << R"([a-z\d-x])" << R"([a-z\d\-x])";
+        QTest::newRow("outside brackets stays") << R"(\d-.)" << R"(\d-.)";
+        QTest::newRow("a doubled backslash is no class") << R"([\\d-f])" << R"([\\d-f])";
+        QTest::newRow("closing bracket first") << R"([]\d-x])" << R"([]\d\-x])";
+        QTest::newRow("negated") << R"([^\s-x])" << R"([^\s\-x])";
+        QTest::newRow("named class before") << R"([[:alpha:]\d-.])" << R"([[:alpha:]\d\-.])";
+        QTest::newRow("escaped bracket") << R"(\[\d-.)" << R"(\[\d-.)";
+        QTest::newRow("property") << R"([\p{L}-.])" << R"([\p{L}\-.])";
+    }
+    void escapedHyphens()
+    {
+        QFETCH(QString, pattern);
+        QFETCH(QString, repaired);
+        QCOMPARE(uiutils::withEscapedHyphens(pattern), repaired);
+    }
+
+    void expressions_data()
+    {
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QString>("accepted");
+        QTest::addColumn<QString>("refused");
+        QTest::newRow("plain") << "[a-z]{2}" << "ab" << "abc";
+        QTest::newRow("repaired") << R"([\d-.]+)" << "1-2.3" << "a";
+        QTest::newRow("beyond repair") << "[unclosed" << "anything\nat all" << "";
+        QTest::newRow("reversed lengths") << ".{8,2}" << "abc" << "";
+        QTest::newRow("lengths beyond the engine") << ".{0,100000}" << "abc" << "";
+        QTest::newRow("negative lengths") << ".{-5,10}" << "abc" << "";
+        QTest::newRow("letters of any script") << R"(\w+)" << QString::fromUtf8("žлό") << "a b";
+    }
+    void expressions()
+    {
+        QFETCH(QString, pattern);
+        QFETCH(QString, accepted);
+        QFETCH(QString, refused);
+        InputRule rule;
+        rule.type = "std::string";
+        rule.regex = pattern;
+        QObject owner;
+        QValidator* validator = uiutils::createValidator(rule, &owner);
+        QCOMPARE(stateOf(validator, accepted), QValidator::Acceptable);
+        QVERIFY(refused.isEmpty() || stateOf(validator, refused) != QValidator::Acceptable);
+    }
+
+    void unusableExpressionsAreLoggedOnce()
+    {
+        static int warnings = 0;
+        const QtMessageHandler before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
+            warnings += text.contains("\"(once\" of an item cannot be used");
+        });
+        uiutils::inputExpression("(once");
+        uiutils::inputExpression("(once");
+        qInstallMessageHandler(before);
+        QCOMPARE(warnings, 1);
+    }
+
+    void anEmptyEntryIsNeverInvalid()
+    {
+        ForgivingValidator validator(QRegularExpression("[1-9][0-9]"));
+        QCOMPARE(validator.validate("", 0), ForgivingValidator::Intermediate);
+        QCOMPARE(validator.validate("1", 1), ForgivingValidator::Intermediate);
+        QCOMPARE(validator.validate("12", 2), ForgivingValidator::Acceptable);
+        QCOMPARE(validator.validate("x", 1), ForgivingValidator::Invalid);
+        QCOMPARE(ForgivingValidator(QRegularExpression(".*")).validate("", 0), ForgivingValidator::Acceptable);
+        // QML reaches the invokable, and a derived class can change it.
+        ForgivingValidator::ValidatorState state = ForgivingValidator::Invalid;
+        QVERIFY(QMetaObject::invokeMethod(&validator, "validate", Q_RETURN_ARG(ForgivingValidator::ValidatorState, state),
+                Q_ARG(QString, "12"), Q_ARG(int, 2)));
+        QCOMPARE(state, ForgivingValidator::Acceptable);
+    }
+
+    void numbers_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QVariant>("minimum");
+        QTest::addColumn<QVariant>("maximum");
+        QTest::addColumn<double>("bottom");
+        QTest::addColumn<double>("top");
+        QTest::newRow("int") << "int" << QVariant(-3) << QVariant("7") << -3.0 << 7.0;
+        QTest::newRow("no range") << "int" << QVariant() << QVariant("many") << 0.0 << 0.0;
+        QTest::newRow("beyond int") << "uint" << QVariant(0) << QVariant(4294967295.0) << 0.0 << 2147483647.0;
+        QTest::newRow("nan") << "int" << QVariant(qQNaN()) << QVariant(qInf()) << 0.0 << 2147483647.0;
+        QTest::newRow("real") << "double" << QVariant(0.25) << QVariant(2) << 0.25 << 2.0;
+        QTest::newRow("real nan") << "double" << QVariant(qQNaN()) << QVariant() << 0.0 << 0.0;
+        QTest::newRow("untyped") << "" << QVariant(1) << QVariant(2) << 1.0 << 2.0;
+    }
+    void numbers()
+    {
+        QFETCH(QString, type);
+        QFETCH(QVariant, minimum);
+        QFETCH(QVariant, maximum);
+        QFETCH(double, bottom);
+        QFETCH(double, top);
+        InputRule rule;
+        rule.type = type;
+        rule.minimum = minimum;
+        rule.maximum = maximum;
+        rule.precision = 2'000'000'000;
+        QObject owner;
+        QValidator* validator = uiutils::createValidator(rule, &owner);
+        QCOMPARE(validator->property("bottom").toDouble(), bottom);
+        QCOMPARE(validator->property("top").toDouble(), top);
+        auto* real = qobject_cast<QDoubleValidator*>(validator);
+        QCOMPARE(real != nullptr, type == "double");
+        QVERIFY(!real || (real->notation() == QDoubleValidator::StandardNotation && real->decimals() == 2'000'000'000));
+    }
+};
+
+QTEST_GUILESS_MAIN(InputsTest)
+#include "tst_inputs.moc"

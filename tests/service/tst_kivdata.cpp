@@ -1,0 +1,443 @@
+#include "recordedservice.h"
+
+#include "core/userdata.h"
+#include "service/forgivingvalidator.h"
+#include "service/kivdata.h"
+#include "service/manifest.h"
+
+#include <kiv/baseformatter.h>
+#include <kiv/kivbackend.h>
+
+#include <QIntValidator>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+/// Names of an object's signals in the order in which they come.
+class SignalLog : public QObject
+{
+public:
+    explicit SignalLog(KivData* wrapper)
+    {
+        connect(wrapper, &KivData::errorChanged, this, [this](const QString& id, const QString& error) {
+            names.append("error " + id + ": " + error);
+        });
+        const auto log = [this, wrapper](void (KivData::*signal)(), const QString& name) {
+            connect(wrapper, signal, this, [this, name] { names.append(name); });
+        };
+        log(&KivData::valueChanged, "value");
+        log(&KivData::unitsChanged, "units");
+        log(&KivData::valueCountChanged, "valueCount");
+        log(&KivData::qualityCodeChanged, "quality");
+        log(&KivData::applicableChanged, "applicable");
+        log(&KivData::enumCountChanged, "enumCount");
+        log(&KivData::isReadyChanged, "ready");
+        log(&KivData::arraySelectionChanged, "selection");
+        log(&KivData::precisionChanged, "precision");
+    }
+
+    QStringList take()
+    {
+        QStringList taken;
+        taken.swap(names);
+        return taken;
+    }
+
+    QStringList names;
+};
+
+class Bracketer final : public BaseFormatter
+{
+public:
+    QString format(const QVariant& value) const override
+    {
+        return QString("[%1/%2%3]").arg(value.toString()).arg(getPrecision()).arg(getShowUnits() ? " u" : "");
+    }
+    QString getUnitString() const override { return "u" + getValue().toString(); }
+};
+
+class Formatters final : public KIVBackend
+{
+public:
+    Formatters() { setCurrent(this); }
+    KIVClientInterface* baseManagerClient() override { return nullptr; }
+    KIVClientInterface* serviceClient(const QString&, QObject*) override { return nullptr; }
+    BaseFormatter* createFormatter(const QString& name) const override
+    {
+        return name == "brackets" ? new Bracketer : nullptr;
+    }
+};
+
+const QString speedId = ":config:rec:test:speed:";
+const QString resultId = ":result:rec:test:level:";
+const QString modeId = ":config:rec:test:mode:";
+const QString hostsId = ":config:rec:test:hosts:stringARRAY:";
+const QString startId = ":action:rec:test:start:";
+
+} // namespace
+
+class KivDataTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<RecordedClient> m_client;
+    std::unique_ptr<Manifest> m_manifest;
+    RecordedItem<KIVClientItem>* m_speed = nullptr;
+    RecordedEnum* m_mode = nullptr;
+
+    KivData* wrapper(const QString& id) const { return Manifest::getKivData(id); }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_client = std::make_unique<RecordedClient>();
+        m_speed = m_client->add(speedId, 10);
+        m_speed->state->type = "int";
+        m_client->add(resultId, 5);
+        m_mode = m_client->add<RecordedEnum>(modeId, 1);
+        m_mode->choices.choices = {{1, "Slow", "Slow mode"}, {7, "Fast", "Fast mode", false}};
+        m_client->add<RecordedItem<KIVVecClientItem>>(hostsId, QStringList {"a", "b"});
+        m_client->add(startId);
+        m_manifest = std::make_unique<Manifest>(m_client.get(), "tag", "rec");
+    }
+    void cleanup()
+    {
+        m_manifest.reset();
+        m_client.reset();
+    }
+
+    void aWriteGoesToTheService()
+    {
+        KivData* speed = wrapper(speedId);
+        SignalLog log(speed);
+        speed->setProperty("value", 12);
+        QCOMPARE(m_client->calls.size(), 1);
+        QCOMPARE(m_client->calls.first().what, QString("set"));
+        QCOMPARE(m_client->calls.first().id, speedId);
+        QCOMPARE(m_client->calls.first().argument, QVariant(12));
+        QCOMPARE(speed->getValue(), QVariant(12));
+        QCOMPARE(log.take(), QStringList {"value"});
+    }
+
+    void aRefusedWriteSaysWhy()
+    {
+        KivData* speed = wrapper(speedId);
+        SignalLog log(speed);
+        m_client->refusal = "too fast";
+        speed->setValue(99);
+        QCOMPARE(speed->getValue(), QVariant(10));
+        QCOMPARE(log.take(), QStringList {"error speed: too fast"});
+        QCOMPARE(speed->getError(), QString("too fast"));
+    }
+
+    void onlySettingsAreWritten()
+    {
+        KivData* level = wrapper(resultId);
+        SignalLog log(level);
+        QVERIFY(level->isReadOnly());
+        level->setValue(6);
+        m_manifest->startChanges();
+        level->setValue(6);
+        QVERIFY(m_client->calls.isEmpty());
+        QCOMPARE(level->getValue(), QVariant(5));
+        QVERIFY(log.take().isEmpty());
+        QVERIFY(wrapper(startId)->isReadOnly());
+
+        RecordedState lone;
+        lone.id = speedId;
+        RecordedItem<KIVClientItem> item(&lone);
+        KivData withoutClient(&item, nullptr);
+        withoutClient.setValue(3);
+        QVERIFY(!withoutClient.getValue().isValid());
+    }
+
+    void choices()
+    {
+        KivData* mode = wrapper(modeId);
+        SignalLog log(mode);
+        mode->setValue(2);
+        QCOMPARE(log.take(), QStringList {"error mode: Invalid enum value 2"});
+        QVERIFY(m_client->calls.isEmpty());
+        mode->setValue(7.0);
+        QCOMPARE(log.take(), QStringList {"value"});
+
+        QCOMPARE(mode->getEnumCount(), 2);
+        QCOMPARE(mode->enumLabel(1), QString("Fast mode"));
+        QCOMPARE(mode->enumLabelForValue(7), QString("Fast mode"));
+        QCOMPARE(mode->enumValue(1), 7);
+        QCOMPARE(mode->enumIndex(7), 1);
+        QVERIFY(mode->applicableAt(0) && !mode->applicableAt(1));
+        for (int outside : {-1, 2, 1000}) {
+            QCOMPARE(mode->enumLabel(outside), QString());
+            QCOMPARE(mode->enumLabelForValue(outside), QString());
+            QCOMPARE(mode->enumValue(outside), -1);
+            QCOMPARE(mode->enumIndex(outside), -1);
+            QVERIFY(!mode->applicableAt(outside));
+        }
+        QCOMPARE(wrapper(speedId)->enumIndex(1), -1);
+        QVERIFY(!wrapper(speedId)->getEnums());
+
+        QPointer<QObject> names = mode->getEnums();
+        QCOMPARE(names->property("Fast"), QVariant(7));
+        m_mode->choices.choices = {{3, "Only", "The only one"}};
+        Q_EMIT m_mode->choices.valueChanged();
+        QCOMPARE(log.take(), QStringList {"enumCount"});
+        QCOMPARE(mode->getEnums()->property("Only"), QVariant(3));
+        QVERIFY(!mode->getEnums()->property("Fast").isValid());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!names);
+    }
+
+    void reportsOfTheService()
+    {
+        KivData* speed = wrapper(speedId);
+        SignalLog log(speed);
+        m_speed->state->value = 11;
+        Q_EMIT m_speed->valueChanged();
+        QCOMPARE(speed->getValue(), QVariant(11));
+        QCOMPARE(log.take(), QStringList {"value"});
+        Q_EMIT m_speed->unitsChanged();
+        Q_EMIT m_speed->isReadyChanged();
+        Q_EMIT m_speed->qualityChanged();
+        Q_EMIT m_speed->isApplicableChanged();
+        QCOMPARE(log.take(), (QStringList {"units", "ready", "value", "quality", "applicable"}));
+        SignalLog hosts(wrapper(hostsId));
+        Q_EMIT m_client->getItem(hostsId)->valueChanged();
+        QCOMPARE(hosts.take(), (QStringList {"valueCount", "value"}));
+    }
+
+    void aTransactionHoldsBack()
+    {
+        KivData* speed = wrapper(speedId);
+        SignalLog log(speed);
+        m_manifest->startChanges();
+        speed->setValue(20);
+        speed->setValue(30);
+        QVERIFY(m_client->calls.isEmpty());
+        QCOMPARE(log.take(), (QStringList {"value", "value"}));
+        // Only the last write is taken back.
+        speed->revert();
+        QCOMPARE(speed->getValue(), QVariant(20));
+        speed->revert();
+        QCOMPARE(speed->getValue(), QVariant(20));
+        QCOMPARE(log.take(), QStringList {"value"});
+
+        speed->setValue(40);
+        speed->apply();
+        QCOMPARE(m_client->calls.size(), 1);
+        QCOMPARE(m_client->calls.first().argument, QVariant(40));
+        speed->apply();
+        speed->revert();
+        QCOMPARE(m_client->calls.size(), 1);
+        QCOMPARE(speed->getValue(), QVariant(40));
+    }
+
+    void theServicesReportEndsAPendingChange()
+    {
+        KivData* speed = wrapper(speedId);
+        m_manifest->startChanges();
+        speed->setValue(20);
+        m_speed->state->value = 15;
+        Q_EMIT m_speed->valueChanged();
+        QCOMPARE(speed->getValue(), QVariant(15));
+        speed->revert();
+        speed->apply();
+        QCOMPARE(speed->getValue(), QVariant(15));
+        QVERIFY(m_client->calls.isEmpty());
+    }
+
+    void actions()
+    {
+        KivData* start = wrapper(startId);
+        start->invoke();
+        QCOMPARE(start->invokeWithStringArg("now"), QString("done now"));
+        QCOMPARE(m_client->calls.size(), 2);
+        QCOMPARE(m_client->calls.at(0).what, QString("invoke"));
+        QCOMPARE(m_client->calls.at(1).id, startId);
+        QCOMPARE(m_client->calls.at(1).timeout, 500);
+        QVERIFY(m_client->calls.at(1).wantsReply);
+        m_client.reset();
+        start->invoke();
+        QCOMPARE(start->invokeWithStringArg("now"), QString());
+    }
+
+    void elementsOfAnArray()
+    {
+        KivData* hosts = wrapper(hostsId);
+        QCOMPARE(hosts->getValueCount(), 2);
+        QCOMPARE(hosts->variantAt(1), QVariant("b"));
+        QCOMPARE(hosts->at(0), hosts->getArrayValue(0));
+        QVERIFY(!hosts->at(2).isValid() && !hosts->at(-1).isValid());
+        hosts->setAt(1, "c");
+        QCOMPARE(m_client->calls.last().argument, QVariant(QStringList {"a", "c"}));
+        QCOMPARE(m_client->calls.last().argument.type(), QVariant::StringList);
+        const int calls = m_client->calls.size();
+        hosts->setAt(2, "x");
+        hosts->setAt(-1, "x");
+        QCOMPARE(m_client->calls.size(), calls);
+        QVERIFY(!wrapper(speedId)->at(0).isValid());
+        QCOMPARE(wrapper(speedId)->getArraySelection(), -1);
+    }
+
+    void theSelectionIsKeptUnderTheId()
+    {
+        KivData* hosts = wrapper(hostsId);
+        QSignalSpy relay(UserData::getInstance(), &UserData::signalDataChanged);
+        SignalLog log(hosts);
+        QCOMPARE(hosts->getArraySelection(), 0);
+        hosts->setArraySelection(1);
+        hosts->setArraySelection(1);
+        hosts->setArraySelection(2);
+        hosts->setArraySelection(-1);
+        QCOMPARE(log.take(), QStringList {"selection"});
+        QCOMPARE(relay.size(), 1);
+        QCOMPARE(relay.first().at(0), QVariant(hostsId + ":array_selection:"));
+        QCOMPARE(relay.first().at(1), QVariant(1));
+        QCOMPARE(hosts->getArraySelectionString(), QString("b"));
+
+        Manifest another(m_client.get(), "other", "rec");
+        KivData* sameItem = wrapper(hostsId);
+        QVERIFY(sameItem != hosts);
+        QCOMPARE(sameItem->getArraySelection(), 1);
+        sameItem->setArraySelection(0);
+        QCOMPARE(log.take(), QStringList {"selection"});
+    }
+
+    void texts()
+    {
+        m_speed->state->unit = " km/h";
+        KivData* speed = wrapper(speedId);
+        QCOMPARE(speed->property("valueString"), QVariant("<10 km/h>"));
+        QCOMPARE(speed->getValueStringNoUnits(), QString("<10>"));
+        QCOMPARE(speed->getUnitString(), QString(" km/h"));
+        QCOMPARE(speed->getQmlTag(), QString("tag_cfg_speed"));
+        QCOMPARE(wrapper(resultId)->getQmlTag(), QString("tag_res_level"));
+        QCOMPARE(wrapper(startId)->getQmlTag(), QString("tag_act_start"));
+        QCOMPARE(wrapper(hostsId)->getQmlTag(), QString("tag_cfg_hosts"));
+        RecordedClient odd;
+        odd.add(":other:x:y:");
+        Manifest oddManifest(&odd, "", "rec");
+        QCOMPARE(wrapper(":other:x:y:")->getQmlTag(), QString("rec__y"));
+        QCOMPARE(KivData().getQmlTag(), QString());
+    }
+
+    void formatters()
+    {
+        const Formatters platform;
+        m_speed->state->attributes = {{"formatter", "brackets"}, {"precision", 3}};
+        const KivData* speed = wrapper(speedId);
+        QVERIFY(speed->getBaseFormatter());
+        QCOMPARE(speed->getBaseFormatter(), speed->getBaseFormatter());
+        QCOMPARE(speed->getBaseFormatter()->getPrecision(), 3);
+        QCOMPARE(speed->getBaseFormatter()->getUnitString(), QString("u10"));
+        wrapper(speedId)->setValue(11);
+        QCOMPARE(speed->getBaseFormatter()->getUnitString(), QString("u11"));
+        m_client->remove(speedId);
+        QCOMPARE(speed->getValueString(true), QString("[11/3 u]"));
+        QCOMPARE(speed->getValueString(false), QString("[11/3]"));
+        QVERIFY(speed->getBaseFormatter()->getShowUnits());
+        QCOMPARE(speed->getUnitString(), QString("u11"));
+        m_mode->state->attributes = {{"formatter", "brackets"}, {"enum", "mode"}};
+        QVERIFY(!wrapper(modeId)->getBaseFormatter());
+    }
+
+    void anItemThatVanishesAndReturns()
+    {
+        KivData* speed = wrapper(speedId);
+        m_speed->state->quality = 16;
+        SignalLog log(speed);
+        m_client->remove(speedId);
+        const QStringList everything {"units", "quality", "enumCount", "applicable", "ready", "value"};
+        QCOMPARE(log.take(), everything);
+        QVERIFY(!speed->isReady());
+        QCOMPARE(speed->getQualityCode(), 0);
+        QCOMPARE(speed->getValue(), QVariant(10));
+        QCOMPARE(speed->getValueString(), QString("10"));
+        QCOMPARE(speed->getId(), speedId);
+        QVERIFY(speed->isApplicable());
+        QVERIFY(!speed->getAttr("label").isValid());
+
+        auto* again = m_client->add(speedId, 77);
+        Q_EMIT m_client->itemsChanged();
+        QCOMPARE(log.take(), everything);
+        QCOMPARE(speed->getValue(), QVariant(77));
+        again->state->value = 78;
+        Q_EMIT again->valueChanged();
+        QCOMPARE(speed->getValue(), QVariant(78));
+    }
+
+    void aPendingChangeOutlivesTheService()
+    {
+        KivData* speed = wrapper(speedId);
+        m_manifest->startChanges();
+        speed->setValue(42);
+        m_client->remove(speedId);
+        m_client->add(speedId, 10);
+        Q_EMIT m_client->itemsChanged();
+        QCOMPARE(speed->getValue(), QVariant(42));
+        speed->apply();
+        QCOMPARE(m_client->calls.last().argument, QVariant(42));
+    }
+
+    void slotsMayDeleteTheSender_data()
+    {
+        QTest::addColumn<QString>("signal");
+        for (const char* name : {"valueCountChanged()", "valueChanged()", "isReadyChanged()", "unitsChanged()",
+                     "arraySelectionChanged()", "errorChanged(QString,QString)"})
+            QTest::newRow(name) << QString(name);
+    }
+    void slotsMayDeleteTheSender()
+    {
+        QFETCH(QString, signal);
+        KivData* hosts = wrapper(hostsId);
+        const QPointer<KivData> guard(hosts);
+        const QByteArray normalized = "2" + signal.toLatin1();
+        connect(hosts, normalized.constData(), this, SLOT(deleteSender()));
+        hosts->setArraySelection(1 - hosts->getArraySelection());
+        if (guard)
+            hosts->setAt(0, "z");
+        if (guard) {
+            m_client->refusal = "no";
+            hosts->setAt(0, "y");
+        }
+        if (guard)
+            m_client->remove(hostsId);
+        QVERIFY(!guard);
+        QVERIFY(!wrapper(hostsId));
+        QVERIFY(Manifest::getKivIds(hostsId, QString()).contains(hostsId));
+    }
+
+    void oddItems()
+    {
+        RecordedClient odd;
+        for (const char* id : {"no colons", ":", "::", ":config:", ":config:odd:1:"})
+            odd.add(id, qQNaN())->state->type = QString();
+        odd.add<RecordedEnum>(":config:odd:empty:");
+        odd.add(":config:odd:wide:", 1.5)->state->type = "double";
+        static_cast<RecordedItem<KIVClientItem>*>(odd.items.value(":config:odd:wide:"))->state->attributes
+                = {{"precision", 2'000'000'000u}, {"minRange", "low"}, {"maxRange", QVariantList {1}}, {"inputType", 11}};
+        odd.add(":config:odd:huge:", QString(1 << 20, 'x'))->state->attributes = {{"inputType", "many"}, {"regex", "(("}};
+        Manifest manifest(&odd, "odd", "rec");
+        for (const QString& id : odd.list) {
+            KivData* item = wrapper(id);
+            QVERIFY(item);
+            for (int i = 0; i < item->metaObject()->propertyCount(); ++i)
+                item->metaObject()->property(i).read(item);
+            item->setValue(QVariant());
+            item->setAt(0, 1);
+            item->setArraySelection(0);
+        }
+        QCOMPARE(wrapper(":config:odd:empty:")->getEnumCount(), 0);
+        QCOMPARE(wrapper(":config:odd:wide:")->getRangeDescription(), QString(""));
+    }
+
+public Q_SLOTS:
+    void deleteSender() { delete sender(); }
+};
+
+QTEST_GUILESS_MAIN(KivDataTest)
+#include "tst_kivdata.moc"

@@ -1,0 +1,243 @@
+#include "recordedservice.h"
+
+#include "service/kivdata.h"
+#include "service/manifest.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlExpression>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <memory>
+
+/// The registry of the process, the transaction, and the names that QML knows.
+class ManifestTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<RecordedClient> m_client;
+
+    static QJsonObject sentChanges(const RecordedClient& client)
+    {
+        return QJsonDocument::fromJson(client.calls.last().argument.toString().toLatin1()).object();
+    }
+    static QVariant evaluated(QQmlContext* context, const QString& expression)
+    {
+        return QQmlExpression(context, nullptr, expression).evaluate();
+    }
+
+private Q_SLOTS:
+    void init() { m_client = std::make_unique<RecordedClient>(); }
+    void cleanup() { m_client.reset(); }
+
+    void theRegistry()
+    {
+        m_client->add(":config:rec:system:a:");
+        m_client->add(":config:rec:b:");
+        m_client->add(":result:rec:system:c:");
+        m_client->list += {":config:rec:missing:", ":config:rec:b:", ":result:rec:manifest:"};
+        Manifest manifest(m_client.get(), "", "rec");
+        QCOMPARE(manifest.getQmlTag(), QString("rec"));
+        QCOMPARE(manifest.property("name"), QVariant("rec"));
+        QCOMPARE(Manifest::getKivIds(":config:", ""), (QStringList {":config:rec:b:", ":config:rec:system:a:"}));
+        QCOMPARE(Manifest::getKivIds(":config:", "system"), QStringList {":config:rec:system:a:"});
+        QCOMPARE(Manifest::getKivIds("CONFIG", ""), QStringList());
+        QVERIFY(!Manifest::getKivData(":config:rec:missing:"));
+        QVERIFY(!Manifest::getKivData(":result:rec:manifest:"));
+        QCOMPARE(Manifest::getKivIds("missing", ""), QStringList());
+        // Listed twice: the later wrapper is the registered one, both belong to the manifest.
+        QCOMPARE(manifest.findChildren<KivData*>().size(), 4);
+        QCOMPARE(manifest.getItem(":config:rec:b:")->parent(), &manifest);
+    }
+
+    void ofTwoManifestsTheLaterCounts()
+    {
+        m_client->add(":config:rec:shared:", 1);
+        const auto first = std::make_unique<Manifest>(m_client.get(), "first", "rec");
+        KivData* firstWrapper = Manifest::getKivData(":config:rec:shared:");
+        auto second = std::make_unique<Manifest>(m_client.get(), "second", "rec");
+        QVERIFY(Manifest::getKivData(":config:rec:shared:") != firstWrapper);
+        second.reset();
+        QVERIFY(!Manifest::getKivData(":config:rec:shared:"));
+        QCOMPARE(Manifest::getKivIds("shared", ""), QStringList {":config:rec:shared:"});
+    }
+
+    void aBatchOfChanges()
+    {
+        for (const char* name : {"plain", "mode_2", "mode_12", "a_1", "ab_1", "x3", "untouched"})
+            m_client->add(QString(":config:rec:test:%1:").arg(name), 0);
+        m_client->add(QString::fromUtf8(":config:rec:test:n_\u0663:"), 0);
+        m_client->list.append(":result:rec:test:manifest:");
+        Manifest manifest(m_client.get(), "", "rec");
+        manifest.startChanges();
+        QVERIFY(manifest.isChanging());
+        manifest.startChanges();
+        for (const QString& id : m_client->items.keys()) {
+            if (!id.contains("untouched"))
+                Manifest::getKivData(id)->setValue(id.size());
+        }
+        Manifest::getKivData(":config:rec:test:plain:")->setValue(QString::fromUtf8("Ås"));
+        manifest.applyChanges();
+        QVERIFY(!manifest.isChanging());
+        QCOMPARE(m_client->calls.size(), 1);
+        const RecordedClient::Call call = m_client->calls.first();
+        QCOMPARE(call.what, QString("send"));
+        QCOMPARE(call.id, QString(":action:rec:test:applyconfig:"));
+        QCOMPARE(call.timeout, 500);
+        QVERIFY(!call.wantsReply);
+        QVERIFY(call.argument.toString().startsWith("{\n    \""));
+        QCOMPARE(sentChanges(*m_client).keys(),
+                (QStringList {"a_1", "ab:1", "mode:2", "mode_12", QString::fromUtf8("n_\u0663"), "plain", "x3"}));
+        QCOMPARE(sentChanges(*m_client).value("plain").toString(), QString::fromUtf8("Ås"));
+    }
+
+    void whatWasSentIsNotSentAgain()
+    {
+        m_client->add(":config:rec:a:", 0);
+        m_client->add(":config:rec:b:", 0);
+        Manifest manifest(m_client.get(), "", "rec");
+        manifest.applyChanges();
+        QCOMPARE(m_client->calls.last().id, QString());
+        QCOMPARE(m_client->calls.last().argument.toString(), QString("{\n}\n"));
+
+        manifest.startChanges();
+        Manifest::getKivData(":config:rec:a:")->setValue(1);
+        manifest.applyChanges();
+        QCOMPARE(sentChanges(*m_client).size(), 1);
+        manifest.applyChanges();
+        QCOMPARE(sentChanges(*m_client).size(), 0);
+        manifest.startChanges();
+        Manifest::getKivData(":config:rec:a:")->setValue(2);
+        Manifest::getKivData(":config:rec:b:")->setValue(3);
+        manifest.applyChanges();
+        QCOMPARE(sentChanges(*m_client).size(), 2);
+    }
+
+    void aRefusedBatchStaysPending()
+    {
+        m_client->add(":config:rec:a:", 0);
+        m_client->add(":config:rec:b:", 0);
+        Manifest manifest(m_client.get(), "", "rec");
+        QSignalSpy errors(Manifest::getKivData(":config:rec:a:"), &KivData::errorChanged);
+        QSignalSpy others(Manifest::getKivData(":config:rec:b:"), &KivData::errorChanged);
+        manifest.startChanges();
+        Manifest::getKivData(":config:rec:a:")->setValue(1);
+        m_client->refusal = "a is out of range";
+        manifest.applyChanges();
+        QCOMPARE(errors.size(), 1);
+        QCOMPARE(errors.first(), (QVariantList {"a", "a is out of range"}));
+        QVERIFY(others.isEmpty());
+        m_client->refusal.clear();
+        manifest.applyChanges();
+        QCOMPARE(sentChanges(*m_client).value("a").toInt(), 1);
+    }
+
+    void revertingWalksEveryItemOfTheProcess()
+    {
+        m_client->add(":config:rec:a:", 1);
+        RecordedClient otherClient;
+        otherClient.add(":config:rec:b:", 2);
+        Manifest manifest(m_client.get(), "", "rec");
+        auto other = std::make_unique<Manifest>(&otherClient, "", "rec");
+        manifest.startChanges();
+        other->startChanges();
+        KivData* a = Manifest::getKivData(":config:rec:a:");
+        KivData* b = Manifest::getKivData(":config:rec:b:");
+        a->setValue(10);
+        b->setValue(20);
+        // Whoever hears of the first item's return may take the second one away.
+        connect(a, &KivData::valueChanged, this, [&] { other.reset(); });
+        manifest.revertChanges();
+        QCOMPARE(a->getValue(), QVariant(1));
+        QVERIFY(!Manifest::getKivData(":config:rec:b:"));
+        manifest.revertChanges();
+        manifest.applyChanges();
+        QVERIFY(m_client->calls.last().argument.toString() == "{\n}\n");
+    }
+
+    void savingAConfiguration()
+    {
+        m_client->list = QStringList {":result:rec:first:manifest:", ":result:rec:last:manifest:"};
+        Manifest manifest(m_client.get(), "", "rec");
+        manifest.saveConfig("My, setup %2", true);
+        QCOMPARE(m_client->calls.last().id, QString(":action:rec:last:saveconfig:"));
+        QCOMPARE(m_client->calls.last().argument, QVariant("My, setup %2,1"));
+        m_client.reset();
+        manifest.saveConfig("gone", false);
+        manifest.applyChanges();
+        Manifest without(nullptr, "", "none");
+        without.saveConfig("x", false);
+        without.applyChanges();
+    }
+
+    void namesInQml()
+    {
+        QTest::ignoreMessage(QtDebugMsg, " Error setting QML context");
+        Manifest::setQmlContext(nullptr);
+
+        m_client->add(":config:rec:system:level:", 5);
+        m_client->add(":result:rec:level:", 6);
+        m_client->add(":config:rec:other:level:", 7);
+        auto manifest = std::make_unique<Manifest>(m_client.get(), "tag", "rec");
+        QQmlEngine engine;
+        QQmlContext context(engine.rootContext());
+        Manifest::setQmlContext(&context);
+        QCOMPARE(Manifest::qmlContext(), &context);
+        QCOMPARE(context.contextObject()->metaObject()->className(), "KIVContextObject");
+        // Two items of one name: the last in the order of ids.
+        QCOMPARE(evaluated(&context, "tag_cfg_level.value"), QVariant(5));
+        QCOMPARE(evaluated(&context, "tag_res_level.value"), QVariant(6));
+        QCOMPARE(evaluated(&context, "typeof tag_cfg_later"), QVariant("undefined"));
+
+        m_client->add(":config:rec:later:", 8);
+        Manifest later(m_client.get(), "tag", "rec");
+        QCOMPARE(evaluated(&context, "typeof tag_cfg_later"), QVariant("undefined"));
+        QQmlExpression live(&context, nullptr, "tag_cfg_level.value");
+        live.setNotifyOnValueChanged(true);
+        live.evaluate();
+        Manifest::setQmlContext(&context);
+        QCOMPARE(evaluated(&context, "tag_cfg_later.value"), QVariant(8));
+        manifest.reset();
+        QCOMPARE(evaluated(&context, "tag_cfg_later.value"), QVariant(8));
+        QCOMPARE(live.evaluate(), QVariant(5));
+    }
+
+    void wrappersAndContextsGoInAnyOrder()
+    {
+        m_client->add(":config:rec:a:", 1);
+        auto manifest = std::make_unique<Manifest>(m_client.get(), "t", "rec");
+        auto engine = std::make_unique<QQmlEngine>();
+        auto* context = new QQmlContext(engine->rootContext(), engine.get());
+        Manifest::setQmlContext(context);
+        manifest.reset();
+        QVERIFY(evaluated(context, "t_cfg_a === null").toBool());
+        // A new context object leaves out what is gone.
+        Manifest::setQmlContext(context);
+        QCOMPARE(evaluated(context, "typeof t_cfg_a"), QVariant("undefined"));
+        engine.reset();
+        QVERIFY(!Manifest::qmlContext());
+        Manifest again(m_client.get(), "t", "rec");
+        QVERIFY(Manifest::getKivData(":config:rec:a:")->isApplicable());
+    }
+
+    void moreNamesThanQmlCanKnow()
+    {
+        for (int i = 0; i < 32800; ++i)
+            m_client->add(QString(":result:rec:n%1:").arg(i, 5, 10, QLatin1Char('0')), i);
+        Manifest manifest(m_client.get(), "t", "rec");
+        QQmlEngine engine;
+        QQmlContext context(engine.rootContext());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("those after t_res_n32766 are left out"));
+        Manifest::setQmlContext(&context);
+        QCOMPARE(evaluated(&context, "t_res_n32766.value"), QVariant(32766));
+        QCOMPARE(evaluated(&context, "typeof t_res_n32767"), QVariant("undefined"));
+    }
+};
+
+QTEST_GUILESS_MAIN(ManifestTest)
+#include "tst_manifest.moc"
