@@ -40,3 +40,23 @@ function(uiutils_install_headers folder)
         install(FILES "${flat}/${name}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${folder}")
     endforeach()
 endfunction()
+
+# uiutils_install_manual(<program> <what it does, in a few words>)
+#
+# The manual page is the program's own help; without help2man there is none.
+find_program(UIUTILS_HELP2MAN help2man)
+function(uiutils_install_manual program summary)
+    if(NOT UIUTILS_HELP2MAN OR CMAKE_CROSSCOMPILING)
+        return()
+    endif()
+    set(page "${CMAKE_CURRENT_BINARY_DIR}/${program}.1")
+    add_custom_command(OUTPUT "${page}"
+        COMMAND "${CMAKE_COMMAND}" -E env LC_ALL=C.UTF-8
+            "${UIUTILS_HELP2MAN}" --no-info --section=1 "--name=${summary}" "--output=${page}" "./$<TARGET_FILE_NAME:${program}>"
+        # help2man hands the program to a shell as it is, so its path may hold no blank.
+        WORKING_DIRECTORY "$<TARGET_FILE_DIR:${program}>"
+        DEPENDS ${program}
+        VERBATIM)
+    add_custom_target(${program}_man ALL DEPENDS "${page}")
+    install(FILES "${page}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+endfunction()

@@ -1,8 +1,7 @@
 #include "demooptions.h"
 
+#include "common/locations.h"
 #include "loopbackmeasurement.h"
-
-#include <embedded/embeddedbackend.h>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -15,33 +14,6 @@ namespace {
 QString tr(const char* text)
 {
     return QCoreApplication::translate("DemoOptions", text);
-}
-
-QString defaultRoot()
-{
-    QString fromEnvironment = qEnvironmentVariable("UIUTILS_ROOT");
-    if (!fromEnvironment.isEmpty())
-        return fromEnvironment;
-    QString state = qEnvironmentVariable("XDG_STATE_HOME");
-    if (!QDir::isAbsolutePath(state))
-        state = QDir::homePath() + QStringLiteral("/.local/state");
-    return state + QStringLiteral("/uiutils-demo");
-}
-
-/// The service files of the source tree, or those installed beside the program.
-QString ownServiceFolder()
-{
-    QString ofTree = QStringLiteral(UIUTILS_DEMO_SERVICES_DIR);
-    if (QDir(ofTree).exists())
-        return ofTree;
-    return QDir::cleanPath(
-            QCoreApplication::applicationDirPath() + QStringLiteral("/../share/uiutils/services"));
-}
-
-QStringList defaultServiceFolders()
-{
-    const QStringList fromEnvironment = kiv::embedded::EmbeddedBackend::foldersFromEnvironment();
-    return fromEnvironment.isEmpty() ? QStringList{ownServiceFolder()} : fromEnvironment;
 }
 
 DemoOptions answered(const QString& message)
@@ -64,6 +36,8 @@ DemoOptions misused(const QString& message)
 
 DemoOptions readOptions(const QStringList& arguments)
 {
+    const QString ownRoot = apps::defaultRoot(QStringLiteral("uiutils-demo"));
+    const QStringList ownServices = apps::defaultServiceFolders();
     QCommandLineParser parser;
     parser.setApplicationDescription(
             tr("Measures TCP over this machine's loopback interface and saves a report of it, the way a test "
@@ -74,11 +48,11 @@ DemoOptions readOptions(const QStringList& arguments)
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption root(QStringLiteral("root"),
-            tr("Keep everything that is written below <folder> (default: %1).").arg(defaultRoot()),
-            tr("folder"), defaultRoot());
+            tr("Keep everything that is written below <folder> (default: %1).").arg(ownRoot),
+            tr("folder"), ownRoot);
     const QCommandLineOption services(QStringLiteral("services"),
             tr("Publish the services described in <folder>; may be given more than once (default: %1).")
-                    .arg(defaultServiceFolders().join(QLatin1Char(':'))),
+                    .arg(ownServices.join(QLatin1Char(':'))),
             tr("folder"));
     const QCommandLineOption samples(QStringLiteral("samples"),
             tr("Take <number> samples of each quantity, %1 to %2 (default: %1).")
@@ -114,7 +88,7 @@ DemoOptions readOptions(const QStringList& arguments)
                                .arg(LoopbackMeasurement::mostSamples));
     }
     options.root = QDir::cleanPath(QDir().absoluteFilePath(parser.value(root)));
-    options.serviceFolders = parser.isSet(services) ? parser.values(services) : defaultServiceFolders();
+    options.serviceFolders = parser.isSet(services) ? parser.values(services) : ownServices;
     options.isTour = parser.isSet(tour);
     return options;
 }

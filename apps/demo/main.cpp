@@ -1,13 +1,12 @@
+#include "common/displaysetup.h"
+#include "common/instrument.h"
 #include "demooptions.h"
 #include "demotypes.h"
-#include "displaysetup.h"
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
 #include "reportsaver.h"
 #include "resultpublisher.h"
 #include "tour.h"
-
-#include "module/uiutilsmodule.h"
 
 #include <embedded/embeddedbackend.h>
 
@@ -19,6 +18,7 @@
 #include <cstdio>
 
 using namespace uiutils::demo;
+using uiutils::apps::DisplaySetup;
 
 namespace {
 
@@ -92,7 +92,6 @@ int runDemo(const DemoOptions& options)
         return complain(error);
     say(QCoreApplication::translate("main", "Everything is written below %1").arg(options.root));
 
-    uiutils::registerTypes();
     registerDemoTypes();
     // The pages draw their own controls on top of this style; another one would show through.
     qputenv("QT_QUICK_CONTROLS_STYLE", "Default");
@@ -104,7 +103,9 @@ int runDemo(const DemoOptions& options)
     measurement.setSamples(options.samples);
     publishResults(&measurement, &backend);
     ReportSaver saver;
+    uiutils::apps::Instrument instrument(backend);
     QQmlApplicationEngine engine;
+    instrument.showTo(&engine);
     QQuickWindow* const window = openWindow(engine, &measurement, &saver);
     if (!window)
         return complain(QCoreApplication::translate("main",

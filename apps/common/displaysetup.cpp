@@ -1,8 +1,8 @@
-#include "displaysetup.h"
+#include "common/displaysetup.h"
 
 #include <QGuiApplication>
 
-namespace uiutils::demo {
+namespace uiutils::apps {
 
 namespace {
 
@@ -44,4 +44,4 @@ void DisplaySetup::ensureRuntimeFolder()
         qputenv("XDG_RUNTIME_DIR", m_runtimeFolder->path().toLocal8Bit());
 }
 
-} // namespace uiutils::demo
+} // namespace uiutils::apps

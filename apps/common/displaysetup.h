@@ -4,7 +4,7 @@
 
 #include <memory>
 
-namespace uiutils::demo {
+namespace uiutils::apps {
 
 /// Chooses where the program draws, before the application object is made: on the display that the
 /// environment names, or off screen when there is none. Keep it until the application object is gone.
@@ -23,4 +23,4 @@ private:
     std::unique_ptr<QTemporaryDir> m_runtimeFolder;
 };
 
-} // namespace uiutils::demo
+} // namespace uiutils::apps

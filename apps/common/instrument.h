@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QQmlPropertyMap>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+class Manifest;
+class QQmlEngine;
+
+namespace kiv::embedded {
+class EmbeddedBackend;
+}
+
+namespace uiutils::apps {
+
+/// The published services as pages know them: every item by its name, and the manifests as members of `services`, as in
+/// `services.basemgr.startChanges()`.
+class Instrument
+{
+public:
+    /// Makes a manifest for each service that `backend` publishes. The back end has to stay.
+    explicit Instrument(const kiv::embedded::EmbeddedBackend& backend);
+    ~Instrument();
+    Q_DISABLE_COPY_MOVE(Instrument)
+
+    /// Makes them known to all pages of the engine, which must not have loaded one yet and has to go before this object.
+    void showTo(QQmlEngine* engine);
+
+    /// One line for each item: its name in QML, type and value, parted by tabs.
+    QStringList listing() const;
+
+private:
+    QVector<Manifest*> m_manifests;
+    QQmlPropertyMap m_byName;
+};
+
+} // namespace uiutils::apps

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace uiutils::apps {
+
+/// The folder that stands for the instrument's disk unless the user names one: UIUTILS_ROOT, else one of the program's own
+/// in the user's state folder.
+QString defaultRoot(const QString& program);
+
+/// The folders of the service files unless the user names some: those of KIV_SERVICES, else the ones that ship.
+QStringList defaultServiceFolders();
+
+/// Where the library's QML modules lie: in the tree's build, else where they are installed beside the program.
+QString qmlModuleFolder();
+
+} // namespace uiutils::apps

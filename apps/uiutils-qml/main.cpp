@@ -1,0 +1,110 @@
+#include "options.h"
+#include "pagewindow.h"
+
+#include "common/displaysetup.h"
+#include "common/instrument.h"
+
+#include <embedded/embeddedbackend.h>
+
+#include <QGuiApplication>
+#include <QLoggingCategory>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QTimer>
+
+#include <cstdio>
+
+using namespace uiutils;
+using qmltool::Options;
+using qmltool::PageWindow;
+
+namespace {
+
+constexpr int exitDone = 0;
+constexpr int exitFailed = 1;
+constexpr int exitMisused = 2;
+
+int complain(const QString& text, int exitCode = exitFailed)
+{
+    std::fprintf(stderr, "uiutils-qml: %s\n", qUtf8Printable(text));
+    return exitCode;
+}
+
+bool loadServices(kiv::embedded::EmbeddedBackend& backend, const Options& options)
+{
+    const QStringList problems = backend.loadFolders(options.serviceFolders);
+    for (const QString& problem : problems)
+        complain(problem);
+    if (!backend.serviceNames().isEmpty())
+        return true;
+    complain(QCoreApplication::translate(
+            "main", "No service could be loaded from %1. Name a folder with service files with --services.")
+                     .arg(options.serviceFolders.join(QStringLiteral(", "))));
+    return false;
+}
+
+int list(const apps::Instrument& instrument)
+{
+    const QStringList lines = instrument.listing();
+    for (const QString& line : lines)
+        std::printf("%s\n", qUtf8Printable(line));
+    return exitDone;
+}
+
+int show(apps::Instrument& instrument, const Options& options)
+{
+    if (apps::DisplaySetup::isOffScreen())
+        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
+    QQmlEngine engine;
+    instrument.showTo(&engine);
+    for (const QString& folder : options.importFolders)
+        engine.addImportPath(folder);
+    QObject::connect(&engine, &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    QObject::connect(&engine, &QQmlEngine::exit, qApp, &QCoreApplication::exit, Qt::QueuedConnection);
+
+    const PageWindow page(&engine, options.page);
+    if (!page.window())
+        return complain(page.error());
+    if (options.picture.isEmpty())
+        return QCoreApplication::exec();
+
+    // Behind what the page has queued for its first turn.
+    QTimer::singleShot(0, page.window(), [&] {
+        const QString error = qmltool::writePicture(page.window(), options.picture);
+        QCoreApplication::exit(error.isEmpty() ? exitDone : complain(error));
+    });
+    return QCoreApplication::exec();
+}
+
+/// The options are read before the display is opened, so that --help works without one.
+Options readOptionsOf(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    return qmltool::readOptions(QCoreApplication::arguments());
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setApplicationName(QStringLiteral("uiutils-qml"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(UIUTILS_QML_VERSION));
+    const Options options = readOptionsOf(argc, argv);
+    if (options.outcome == Options::Misused)
+        return complain(options.message, exitMisused);
+    if (options.outcome == Options::Answered) {
+        std::fputs(qUtf8Printable(options.message), stdout);
+        return exitDone;
+    }
+
+    // What the library notes for its developers is no business of a user, who may ask for it by QT_LOGGING_RULES.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\nqml.debug=true"));
+    qputenv("UIUTILS_ROOT", options.root.toLocal8Bit());
+    const apps::DisplaySetup display;
+    const QGuiApplication application(argc, argv);
+    kiv::embedded::EmbeddedBackend backend;
+    if (!loadServices(backend, options))
+        return exitFailed;
+    apps::Instrument instrument(backend);
+    return options.outcome == Options::List ? list(instrument) : show(instrument, options);
+}

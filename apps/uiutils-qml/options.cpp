@@ -1,0 +1,91 @@
+#include "options.h"
+
+#include "common/locations.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+
+namespace uiutils::qmltool {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Options", text);
+}
+
+Options answered(const QString& message)
+{
+    Options options;
+    options.outcome = Options::Answered;
+    options.message = message;
+    return options;
+}
+
+Options misused(const QString& message)
+{
+    Options options;
+    options.outcome = Options::Misused;
+    options.message = message + QLatin1Char('\n') + tr("Try --help for the options.");
+    return options;
+}
+
+} // namespace
+
+Options readOptions(const QStringList& arguments)
+{
+    const QString ownRoot = apps::defaultRoot(QStringLiteral("uiutils-qml"));
+    const QStringList ownServices = apps::defaultServiceFolders();
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+            tr("Shows a QML page with every item of the described services under its name, such as "
+               "basemgr_cfg_saveLocation, and the services themselves as members of \"services\", such as "
+               "services.basemgr.\n\n"
+               "Exit status: 0 done, 1 failed, 2 wrong command line."));
+    parser.addPositionalArgument(QStringLiteral("page"), tr("The QML file to show."), QStringLiteral("page.qml"));
+    // The parser's own help option would bring options of Qt along.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption services({QStringLiteral("s"), QStringLiteral("services")},
+            tr("Publish the services described in <folder>; may be given more than once (default: %1).")
+                    .arg(ownServices.join(QLatin1Char(':'))),
+            tr("folder"));
+    const QCommandLineOption imports({QStringLiteral("I"), QStringLiteral("import")},
+            tr("Look for further QML modules in <folder>; may be given more than once."), tr("folder"));
+    const QCommandLineOption root(QStringLiteral("root"),
+            tr("Keep everything that is written, also changed settings, below <folder> (default: %1).").arg(ownRoot),
+            tr("folder"), ownRoot);
+    const QCommandLineOption picture(
+            QStringLiteral("grab"), tr("Write a picture of the page to <file> (PNG) and quit."), tr("file"));
+    const QCommandLineOption list(QStringLiteral("list"),
+            tr("List the items, one on a line: name in QML, type and value, parted by tabs. Needs no page."));
+    parser.addOptions({help, services, imports, root, picture, list});
+
+    if (!parser.parse(arguments))
+        return misused(parser.errorText());
+    if (parser.isSet(help))
+        return answered(parser.helpText());
+    if (parser.isSet(version)) {
+        return answered(QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion()
+                + QLatin1Char('\n'));
+    }
+    for (const QCommandLineOption& option : {services, imports, root, picture}) {
+        if (parser.values(option).contains(QString()))
+            return misused(tr("--%1 needs a name.").arg(option.names().constLast()));
+    }
+    const QStringList pages = parser.positionalArguments();
+    if (parser.isSet(list) != pages.isEmpty() || pages.size() > 1)
+        return misused(parser.isSet(list) ? tr("--list takes no page.") : tr("Name one page to show."));
+
+    Options options;
+    options.outcome = parser.isSet(list) ? Options::List : Options::Show;
+    options.page = pages.value(0);
+    options.serviceFolders = parser.isSet(services) ? parser.values(services) : ownServices;
+    options.importFolders = parser.values(imports);
+    options.root = QDir::cleanPath(QDir().absoluteFilePath(parser.value(root)));
+    options.picture = parser.value(picture);
+    return options;
+}
+
+} // namespace uiutils::qmltool

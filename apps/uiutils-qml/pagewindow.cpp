@@ -1,0 +1,85 @@
+#include "pagewindow.h"
+
+#include "core/durablefile.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QImage>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QUrl>
+
+namespace uiutils::qmltool {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("PageWindow", text);
+}
+
+QString plainTextOf(const QQmlComponent& component)
+{
+    QStringList lines;
+    const QList<QQmlError> errors = component.errors();
+    for (const QQmlError& error : errors)
+        lines.append(error.toString());
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
+
+PageWindow::PageWindow(QQmlEngine* engine, const QString& file)
+    : m_component(engine)
+{
+    if (!QFileInfo(file).isFile()) {
+        m_error = tr("There is no page %1.").arg(file);
+        return;
+    }
+    m_component.loadUrl(QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()), QQmlComponent::PreferSynchronous);
+    m_root.reset(m_component.create());
+    if (m_root)
+        show(engine);
+    else
+        m_error = plainTextOf(m_component);
+}
+
+PageWindow::~PageWindow() = default;
+
+void PageWindow::show(QQmlEngine* engine)
+{
+    m_window = qobject_cast<QQuickWindow*>(m_root.get());
+    if (m_window) {
+        m_window->show();
+        return;
+    }
+    auto* item = qobject_cast<QQuickItem*>(m_root.get());
+    if (!item) {
+        m_error = tr("The page is neither an item nor a window.");
+        return;
+    }
+    auto view = std::make_unique<QQuickView>(engine, nullptr);
+    view->setResizeMode(QQuickView::SizeRootObjectToView);
+    if (item->width() <= 0 || item->height() <= 0)
+        item->setSize({1024, 600});
+    // The view takes the page over.
+    view->setContent(m_component.url(), &m_component, m_root.release());
+    m_window = view.get();
+    m_ownWindow = std::move(view);
+    m_window->show();
+}
+
+QString writePicture(QQuickWindow* window, const QString& file)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QString error;
+    if (!window->grabWindow().save(&buffer, "PNG"))
+        return tr("The page gave no picture for %1.").arg(file);
+    return writeFileDurably(file, bytes, &error) ? QString() : error;
+}
+
+} // namespace uiutils::qmltool

@@ -1,0 +1,15 @@
+#include "module/uiutilsmodule.h"
+
+#include <QQmlExtensionPlugin>
+
+/// Registers the library's types when a page imports the module.
+class UiUtilsPlugin final : public QQmlExtensionPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QQmlExtensionInterface_iid)
+
+public:
+    void registerTypes(const char* uri) override { uiutils::registerTypes(uri); }
+};
+
+#include "uiutilsplugin.moc"
