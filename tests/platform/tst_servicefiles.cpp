@@ -70,7 +70,7 @@ private Q_SLOTS:
                 << oneItem("{\"id\": \":config:a:stringARRAY:\", \"type\": \"stringARRAY\", \"value\": [\"x\", 1]}")
                 << ": /items/0/value/1: ";
         QTest::newRow("fraction") << oneItem("{\"id\": \":config:a:\", \"type\": \"uint\", \"value\": 1.5}")
-                                  << ": /items/0: ";
+                                  << ": /items/0/value: ";
         QTest::newRow("category") << oneItem("{\"id\": \":setting:a:\", \"type\": \"bool\"}") << ": /items/0/id: ";
         QTest::newRow("no closing colon") << oneItem("{\"id\": \":config:a\", \"type\": \"bool\"}") << ": /items/0/id: ";
         QTest::newRow("huge id") << oneItem("{\"id\": \":config:" + QByteArray(200'000, 'a') + ":\", \"type\": \"bool\"}")

@@ -1,13 +1,14 @@
 #include "embeddedbackend.h"
 
 #include "embeddedclient_p.h"
-#include "embeddedservice.h"
+#include "descriptioncheck_p.h"
 #include "formatters/formatters_p.h"
+#include "servicedata_p.h"
 #include "servicefile_p.h"
+#include "serviceregistry_p.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QMap>
 
 namespace kiv::embedded {
 
@@ -15,15 +16,8 @@ const QLatin1String EmbeddedBackend::baseManagerName("basemgr");
 
 struct EmbeddedBackend::Private
 {
-    struct Published
-    {
-        EmbeddedService* service = nullptr;
-        EmbeddedClient* sharedClient = nullptr;
-        QString file;
-    };
-
-    QObject owner;
-    QMap<QString, Published> services;
+    ServiceRegistry registry;
+    QString stateFolder;
 };
 
 EmbeddedBackend::EmbeddedBackend()
@@ -37,7 +31,14 @@ EmbeddedBackend::~EmbeddedBackend()
     // Nobody who hears of an item's end may find a service that is on its way out.
     if (current() == this)
         setCurrent(nullptr);
-    d->services.clear();
+    const QStringList names = d->registry.names();
+    for (const QString& name : names)
+        withdraw(name);
+}
+
+void EmbeddedBackend::setStateFolder(const QString& path)
+{
+    d->stateFolder = path;
 }
 
 QStringList EmbeddedBackend::foldersFromEnvironment()
@@ -47,6 +48,7 @@ QStringList EmbeddedBackend::foldersFromEnvironment()
 
 QStringList EmbeddedBackend::loadFolders(const QStringList& folders)
 {
+    const QPointer<QObject> alive(&d->registry);
     QStringList problems;
     for (const QString& folder : folders) {
         const QDir dir(folder);
@@ -57,9 +59,9 @@ QStringList EmbeddedBackend::loadFolders(const QStringList& folders)
         }
         const QStringList files = dir.entryList({QStringLiteral("*.service.json")}, QDir::Files, QDir::Name);
         for (const QString& file : files) {
-            QString problem;
-            if (!loadFile(dir.filePath(file), &problem))
-                problems += problem;
+            // A client that waited for the service may end the whole back end when it appears.
+            if (alive)
+                loadFile(dir.filePath(file), &problems);
         }
     }
     return problems;
@@ -67,33 +69,82 @@ QStringList EmbeddedBackend::loadFolders(const QStringList& folders)
 
 bool EmbeddedBackend::loadFile(const QString& path, QString* problem)
 {
+    QStringList problems;
+    const bool isLoaded = loadFile(path, &problems);
+    if (problem)
+        *problem = problems.join(QLatin1Char('\n'));
+    return isLoaded;
+}
+
+bool EmbeddedBackend::loadFile(const QString& path, QStringList* problems)
+{
     QString reason;
     const std::optional<ServiceDescription> description = readServiceFile(path, &reason);
-    if (description && d->services.contains(description->service))
-        reason = QCoreApplication::translate("EmbeddedBackend", "%1: /service: \"%2\" is published already by %3")
-                         .arg(path, description->service, d->services.value(description->service).file);
-    if (!reason.isEmpty()) {
-        if (problem)
-            *problem = reason;
+    if (!description) {
+        *problems += reason;
         return false;
     }
+    return publish(*description, path, problems);
+}
 
-    Private::Published published;
-    published.service = new EmbeddedService(*description, &d->owner);
-    published.sharedClient = new EmbeddedClient(published.service, &d->owner);
-    published.file = path;
-    d->services.insert(description->service, published);
+EmbeddedService* EmbeddedBackend::publish(const ServiceDescription& description, QString* problem)
+{
+    QStringList problems;
+    const QString reason = serviceProblem(description);
+    EmbeddedService* service = nullptr;
+    if (reason.isEmpty())
+        service = publish(description, QString(), &problems);
+    else
+        problems += reason;
+    if (problem)
+        *problem = problems.join(QLatin1Char('\n'));
+    return service;
+}
+
+EmbeddedService* EmbeddedBackend::publish(
+        const ServiceDescription& description, const QString& file, QStringList* problems)
+{
+    ServicePlace* place = d->registry.makePlace(description.service);
+    if (place->service()) {
+        const QString owner = place->file().isEmpty() ? QCoreApplication::translate("EmbeddedBackend", "the program") : place->file();
+        const QString reason
+                = QCoreApplication::translate("EmbeddedBackend", "/service: \"%1\" is published already by %2")
+                          .arg(description.service, owner);
+        *problems += file.isEmpty() ? reason : file + QLatin1String(": ") + reason;
+        return nullptr;
+    }
+    EmbeddedService* service = ServiceData::create(description, place);
+    ServiceData& data = ServiceData::of(*service);
+    data.registry = &d->registry;
+    if (!d->stateFolder.isEmpty()) {
+        data.keeper = std::make_unique<StateKeeper>(d->stateFolder, description.service, data.items);
+        QObject::connect(data.keeper.get(), &StateKeeper::failed, service, &EmbeddedService::reportError);
+        *problems += data.keeper->takeBack();
+    }
+    // Whoever hears of the new items may withdraw them at once.
+    const QPointer<EmbeddedService> published(service);
+    place->publish(service, file);
+    return published;
+}
+
+bool EmbeddedBackend::withdraw(const QString& name)
+{
+    ServicePlace* place = d->registry.place(name);
+    if (!place || !place->service())
+        return false;
+    place->withdraw();
     return true;
 }
 
 QStringList EmbeddedBackend::serviceNames() const
 {
-    return d->services.keys();
+    return d->registry.names();
 }
 
 EmbeddedService* EmbeddedBackend::service(const QString& name) const
 {
-    return d->services.value(name).service;
+    const ServicePlace* place = d->registry.place(name);
+    return place ? place->service() : nullptr;
 }
 
 KIVClientInterface* EmbeddedBackend::baseManagerClient()
@@ -108,10 +159,10 @@ BaseFormatter* EmbeddedBackend::createFormatter(const QString& name) const
 
 KIVClientInterface* EmbeddedBackend::serviceClient(const QString& service, QObject* parent)
 {
-    const Private::Published published = d->services.value(service);
-    if (!published.service || !parent)
-        return published.sharedClient;
-    return new EmbeddedClient(published.service, parent);
+    ServicePlace* place = d->registry.place(service);
+    if (!place || !place->service())
+        return nullptr;
+    return parent ? new EmbeddedClient(place, parent) : place->sharedClient();
 }
 
 } // namespace kiv::embedded

@@ -1,44 +1,109 @@
 #include "embeddedclient_p.h"
 
-#include "embeddedservice.h"
+#include "serviceregistry_p.h"
+
+#include <QThread>
+#include <QTimer>
+
+#include <algorithm>
 
 namespace kiv::embedded {
 
-EmbeddedClient::EmbeddedClient(EmbeddedService* service, QObject* parent)
-    : KIVClientInterface(parent)
-    , m_service(service)
-    , m_serviceName(service->name())
+namespace {
+
+void carryOutLater(EmbeddedService* service, qint64 delayMs, const std::function<Outcome(ServiceData&)>& request)
 {
+    QTimer::singleShot(std::chrono::milliseconds(delayMs), service, [service, request] {
+        if (service->isReachable())
+            request(ServiceData::of(*service));
+    });
+}
+
+} // namespace
+
+EmbeddedClient::EmbeddedClient(ServicePlace* place, QObject* parent)
+    : KIVClientInterface(parent)
+    , m_place(place)
+    , m_serviceName(place->name())
+{
+    connect(place, &ServicePlace::itemsChanged, this, &EmbeddedClient::itemsChanged);
+    connect(place, &ServicePlace::errorReported, this, &EmbeddedClient::SigError);
+}
+
+EmbeddedService* EmbeddedClient::service() const
+{
+    EmbeddedService* published = m_place ? m_place->service() : nullptr;
+    return published && published->isReachable() ? published : nullptr;
 }
 
 QStringList EmbeddedClient::getItemIds(const QString& prefix) const
 {
-    return m_service ? m_service->itemIds(prefix) : QStringList();
+    return service() ? service()->itemIds(prefix) : QStringList();
+}
+
+bool EmbeddedClient::getItemList(const QString& serviceName, QStringList* ids) const
+{
+    ids->clear();
+    if (serviceName != m_serviceName)
+        return false;
+    const QVector<ItemStore::StatePtr> states
+            = service() ? ServiceData::of(*service()).items.inOrder() : QVector<ItemStore::StatePtr>();
+    for (const ItemStore::StatePtr& state : states)
+        *ids += state->description.id;
+    return true;
 }
 
 KIVClientItem* EmbeddedClient::getItem(const QString& id) const
 {
-    return m_service ? m_service->item(id) : nullptr;
+    return service() ? service()->item(id) : nullptr;
 }
 
 bool EmbeddedClient::setItem(const QString& id, const QVariant& value)
 {
-    m_lastError.clear();
-    const bool isTaken = m_service && id.startsWith(QLatin1String(":config:")) && m_service->setValue(id, value);
-    if (!isTaken)
-        m_lastError = tr("%1 cannot be set.").arg(id);
-    return isTaken;
+    const QPointer<EmbeddedClient> self(this);
+    const Outcome outcome
+            = call(0, callTimeout, [id, value](ServiceData& service) { return setSetting(service, id, value); });
+    return remember(self, outcome);
 }
 
-bool EmbeddedClient::sendAction(const QString& id, const QString&, QString*, int)
+bool EmbeddedClient::sendAction(const QString& id, const QString& argument, QString* reply, int timeoutMs)
 {
-    return invokeAction(id);
+    const QPointer<EmbeddedClient> self(this);
+    const int delay = service() ? actionDelay(ServiceData::of(*service()), id) : 0;
+    const Outcome outcome = call(
+            delay, timeoutMs, [id, argument](ServiceData& service) { return carryOut(service, id, argument); });
+    if (outcome.isDone && reply)
+        *reply = outcome.text;
+    return remember(self, outcome);
 }
 
 bool EmbeddedClient::invokeAction(const QString& id)
 {
-    m_lastError = tr("There is no action %1.").arg(id);
-    return false;
+    return sendAction(id, QString(), nullptr, callTimeout);
+}
+
+Outcome EmbeddedClient::call(int delayMs, int timeoutMs, const Request& request) const
+{
+    EmbeddedService* called = service();
+    if (!called)
+        return {false, tr("The service %1 cannot be reached. Try again when it runs.").arg(m_serviceName)};
+    const qint64 delay = qint64(ServiceData::of(*called).delayMs) + delayMs;
+    const qint64 timeout = std::max(timeoutMs, 0);
+    // The contract forbids an event loop here: the caller's page stands still, as it does on an instrument.
+    QThread::msleep(static_cast<unsigned long>(std::min(delay, timeout)));
+    if (delay <= timeout)
+        return request(ServiceData::of(*called));
+    carryOutLater(called, delay - timeout, request);
+    return {false, tr("The service %1 did not answer within %2 ms. It may still do what was asked for.")
+                           .arg(m_serviceName, QString::number(timeout))};
+}
+
+/// A slot that heard of what was done may have deleted the client.
+bool EmbeddedClient::remember(const QPointer<EmbeddedClient>& client, const Outcome& outcome)
+{
+    if (client)
+        client->m_lastError = outcome.isDone ? QString() : outcome.text;
+    return outcome.isDone;
 }
 
 } // namespace kiv::embedded

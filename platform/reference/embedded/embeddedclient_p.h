@@ -1,24 +1,29 @@
 #pragma once
 
+#include "requests_p.h"
+
 #include <kiv/kivclientinterface.h>
 
 #include <QPointer>
 
+#include <functional>
+
 namespace kiv::embedded {
 
-class EmbeddedService;
+class ServicePlace;
 
-/// A client's view of a service in this process; answers like an empty service once the service is gone.
+/// A client's view of whatever service is published at a place; answers like an empty service while there is none.
 class EmbeddedClient final : public KIVClientInterface
 {
     Q_OBJECT
 
 public:
-    EmbeddedClient(EmbeddedService* service, QObject* parent);
+    EmbeddedClient(ServicePlace* place, QObject* parent);
 
-    bool isValid() const override { return m_service; }
+    bool isValid() const override { return service(); }
     QString getServiceName() const override { return m_serviceName; }
     QStringList getItemIds(const QString& prefix = QString()) const override;
+    bool getItemList(const QString& service, QStringList* ids) const override;
     KIVClientItem* getItem(const QString& id) const override;
     bool setItem(const QString& id, const QVariant& value) override;
     bool sendAction(const QString& id, const QString& argument, QString* reply, int timeoutMs) override;
@@ -26,8 +31,15 @@ public:
     QString getLastError() const override { return m_lastError; }
 
 private:
-    QPointer<EmbeddedService> m_service;
-    QString m_serviceName;
+    using Request = std::function<Outcome(ServiceData&)>;
+
+    /// The service, if it can be reached.
+    EmbeddedService* service() const;
+    Outcome call(int delayMs, int timeoutMs, const Request& request) const;
+    static bool remember(const QPointer<EmbeddedClient>& client, const Outcome& outcome);
+
+    const QPointer<ServicePlace> m_place;
+    const QString m_serviceName;
     QString m_lastError;
 };
 

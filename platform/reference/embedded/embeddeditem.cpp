@@ -1,103 +1,167 @@
 #include "embeddeditem_p.h"
 
-#include <QHash>
-#include <QLocale>
-
-#include <algorithm>
-#include <cmath>
+#include <kiv/kivaggregateclientitem.h>
+#include <kiv/kivenumclientitem.h>
+#include <kiv/kivvecclientitem.h>
 
 namespace kiv::embedded {
 
 namespace {
 
-QString shownText(const QVariant& value, int precision)
+/// One kind of item that answers from the state. Without signals of its own, so that one template serves all kinds.
+template<class Kind>
+class StatefulItem : public Kind
 {
-    const QLocale locale;
-    switch (int(value.type())) {
-    case QMetaType::Double:
-        return precision < 0 ? locale.toString(value.toDouble(), 'g', QLocale::FloatingPointShortest)
-                             : locale.toString(value.toDouble(), 'f', precision);
-    case QMetaType::Int:
-        return locale.toString(value.toInt());
-    case QMetaType::UInt:
-        return locale.toString(value.toUInt());
-    case QMetaType::QStringList:
-    case QMetaType::QVariantList: {
-        QStringList texts;
-        const QVariantList elements = value.toList();
-        texts.reserve(elements.size());
-        for (const QVariant& element : elements)
-            texts += shownText(element, precision);
-        return texts.join(QLatin1String(", "));
+public:
+    StatefulItem(std::shared_ptr<ItemState> state, QObject* parent)
+        : Kind(parent)
+        , m_state(std::move(state))
+    {
     }
-    default:
-        return value.toString();
-    }
-}
 
-/// QVariant compares doubles with a tolerance, which would swallow the steps of a large counter.
-bool isSame(const QVariant& a, const QVariant& b)
+    unsigned getType() const final { return m_state->type; }
+    QString getTypeName() const final { return m_state->typeName(); }
+    QString getId() const final { return m_state->description.id; }
+    QString getLabel() const final { return m_state->description.label; }
+    QVariant getValue() const final { return m_state->description.value; }
+    QString getValueString(bool showUnits = true) const final { return m_state->valueText(showUnits); }
+    QString getUnitString() const final { return m_state->unitText(); }
+    QVariant getMinRange() const final { return m_state->description.minimum; }
+    QVariant getMaxRange() const final { return m_state->description.maximum; }
+    bool isReady() const final { return m_state->description.isReady; }
+    int getQualityCode() const final { return m_state->description.quality; }
+    bool isApplicable() const final { return m_state->description.isApplicable; }
+    QString getApplicableExpr() const final { return m_state->description.applicableExpr; }
+    QVariant getAttribute(const QString& name) const final { return m_state->attribute(name); }
+
+protected:
+    const ItemDescription& description() const { return m_state->description; }
+    const std::shared_ptr<ItemState>& state() const { return m_state; }
+
+private:
+    const std::shared_ptr<ItemState> m_state;
+};
+
+using PlainItem = StatefulItem<KIVClientItem>;
+using ArrayItem = StatefulItem<KIVVecClientItem>;
+
+class Choices final : public KIVEnumChoicesClientItem
 {
-    if (a.type() != b.type())
-        return false;
-    if (a.type() == QVariant::List) {
-        const QVariantList as = a.toList();
-        const QVariantList bs = b.toList();
-        return std::equal(as.cbegin(), as.cend(), bs.cbegin(), bs.cend(), isSame);
+public:
+    Choices(std::shared_ptr<ItemState> state, QObject* parent)
+        : KIVEnumChoicesClientItem(parent)
+        , m_state(std::move(state))
+    {
     }
-    if (a.type() != QVariant::Double)
-        return a == b;
-    return a.toDouble() == b.toDouble() || (std::isnan(a.toDouble()) && std::isnan(b.toDouble()));
-}
+
+    int count() const override { return choices().size(); }
+    int valueAt(int position) const override { return contains(position) ? choices().at(position).value : -1; }
+    QString nameAt(int position) const override { return choices().value(position).name; }
+    QString labelAt(int position) const override
+    {
+        const ChoiceDescription choice = choices().value(position);
+        return choice.label.isEmpty() ? choice.name : choice.label;
+    }
+    bool isApplicableAt(int position) const override
+    {
+        return contains(position) && choices().at(position).isApplicable;
+    }
+
+private:
+    bool contains(int position) const { return position >= 0 && position < choices().size(); }
+    const QVector<ChoiceDescription>& choices() const { return m_state->description.choices; }
+
+    const std::shared_ptr<ItemState> m_state;
+};
+
+class EnumItem final : public StatefulItem<KIVEnumClientItem>
+{
+public:
+    using StatefulItem::StatefulItem;
+
+    /// Null until the service names choices for the first time.
+    KIVEnumChoicesClientItem* getChoices() const override
+    {
+        if (!m_choices && !description().choices.isEmpty())
+            m_choices = new Choices(state(), const_cast<EnumItem*>(this));
+        return m_choices;
+    }
+
+private:
+    mutable KIVEnumChoicesClientItem* m_choices = nullptr;
+};
+
+class AggregateItem final : public StatefulItem<KivAggregateClientItem>
+{
+public:
+    using StatefulItem::StatefulItem;
+
+    KivAggregate getAggregate() const override
+    {
+        const QVariantMap record = description().value.toMap();
+        QVector<QPair<QByteArray, QVariant>> members;
+        for (const MemberDescription& member : description().members)
+            members.append({member.name.toUtf8(), record.value(member.name)});
+        return KivAggregate(members);
+    }
+};
+
+class ListAggregateItem final : public StatefulItem<KivListAggregateClientItem>
+{
+public:
+    using StatefulItem::StatefulItem;
+
+    KivListAggregate getListAggregate() const override
+    {
+        QList<QByteArray> names;
+        for (const MemberDescription& member : description().members)
+            names.append(member.name.toUtf8());
+        return KivListAggregate(names, rows());
+    }
+
+private:
+    QVector<QVariantList> rows() const
+    {
+        QVector<QVariantList> rows;
+        const QVariantList records = description().value.toList();
+        rows.reserve(records.size());
+        for (const QVariant& record : records) {
+            const QVariantMap values = record.toMap();
+            QVariantList row;
+            for (const MemberDescription& member : description().members)
+                row.append(values.value(member.name));
+            rows.append(row);
+        }
+        return rows;
+    }
+};
 
 } // namespace
 
-EmbeddedItem::EmbeddedItem(ItemDescription description, QObject* parent)
-    : KIVClientItem(parent)
-    , m_description(std::move(description))
+KIVClientItem* createItem(const std::shared_ptr<ItemState>& state, QObject* parent)
 {
-}
-
-unsigned EmbeddedItem::getType() const
-{
-    static const QHash<QString, unsigned> codes {
-            {QStringLiteral("std::string"), TypeString},
-            {QStringLiteral("bool"), TypeBool},
-            {QStringLiteral("int"), TypeInt},
-            {QStringLiteral("uint"), TypeUInt},
-            {QStringLiteral("double"), TypeDouble},
-            {QStringLiteral("stringARRAY"), TypeStringArray},
-            {QStringLiteral("doubleARRAY"), TypeDoubleArray},
-    };
-    return codes.value(m_description.type, TypeNone);
-}
-
-QString EmbeddedItem::getTypeName() const
-{
-    switch (getType()) {
-    case TypeStringArray:
-        return QStringLiteral("std::vector<string>");
-    case TypeDoubleArray:
-        return QStringLiteral("std::vector<double>");
+    switch (state->type) {
+    case KIVClientItem::TypeStringArray:
+    case KIVClientItem::TypeDoubleArray:
+        return new ArrayItem(state, parent);
+    case KIVClientItem::TypeAggregate:
+        return new AggregateItem(state, parent);
+    case KIVClientItem::TypeListAggregate:
+        return new ListAggregateItem(state, parent);
     default:
-        return m_description.type;
+        break;
     }
+    if (state->isEnumeration())
+        return new EnumItem(state, parent);
+    return new PlainItem(state, parent);
 }
 
-QString EmbeddedItem::getValueString(bool showUnits) const
+void tellChoices(KIVClientItem* item)
 {
-    QString text = shownText(m_description.value, m_description.precision);
-    if (!showUnits || m_description.unit.isEmpty() || text.isEmpty())
-        return text;
-    return text.append(QLatin1Char(' ')).append(m_description.unit);
-}
-
-void EmbeddedItem::setValue(const QVariant& value)
-{
-    if (isSame(value, m_description.value))
-        return;
-    m_description.value = value;
-    Q_EMIT valueChanged();
+    const auto* enumeration = qobject_cast<KIVEnumClientItem*>(item);
+    KIVEnumChoicesClientItem* choices = enumeration ? enumeration->getChoices() : nullptr;
+    if (choices)
+        Q_EMIT choices->valueChanged();
 }
 
 } // namespace kiv::embedded

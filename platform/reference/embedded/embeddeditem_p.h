@@ -1,40 +1,13 @@
 #pragma once
 
-#include "servicefile_p.h"
-
-#include <kiv/kivclientitem.h>
+#include "itemstate_p.h"
 
 namespace kiv::embedded {
 
-/// An item that lives in this process.
-class EmbeddedItem final : public KIVClientItem
-{
-    Q_OBJECT
+/// The object that clients have of an item, of the kind that its type asks for; owned by `parent`.
+KIVClientItem* createItem(const std::shared_ptr<ItemState>& state, QObject* parent);
 
-public:
-    EmbeddedItem(ItemDescription description, QObject* parent);
-
-    unsigned getType() const override;
-    QString getTypeName() const override;
-    QString getId() const override { return m_description.id; }
-    QString getLabel() const override { return m_description.label; }
-    QVariant getValue() const override { return m_description.value; }
-    QString getValueString(bool showUnits = true) const override;
-    QString getUnitString() const override { return m_description.unit; }
-    QVariant getMinRange() const override { return QVariant(); }
-    QVariant getMaxRange() const override { return QVariant(); }
-    bool isReady() const override { return true; }
-    int getQualityCode() const override { return QualityNone; }
-    bool isApplicable() const override { return true; }
-    QString getApplicableExpr() const override { return QString(); }
-    QVariant getAttribute(const QString& name) const override { return m_description.attributes.value(name); }
-
-    /// Takes the value and tells the clients when it differs.
-    void setValue(const QVariant& value);
-    void setAttribute(const QString& name, const QVariant& value) { m_description.attributes.insert(name, value); }
-
-private:
-    ItemDescription m_description;
-};
+/// Tells that an enumeration's choices are others than before; nothing for other items.
+void tellChoices(KIVClientItem* item);
 
 } // namespace kiv::embedded

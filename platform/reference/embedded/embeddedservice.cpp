@@ -1,48 +1,241 @@
 #include "embeddedservice.h"
 
+#include "descriptioncheck_p.h"
 #include "embeddeditem_p.h"
+#include "requests_p.h"
+#include "valueconversion_p.h"
+
+#include <QPointer>
+
+#include <algorithm>
 
 namespace kiv::embedded {
 
+namespace {
+
+/// Changes a field and emits `changed` if that makes a difference.
+template<class Value>
+bool change(const ItemStore::StatePtr& state, Value ItemDescription::*field, const Value& value,
+        void (KIVClientItem::*changed)())
+{
+    if (!state)
+        return false;
+    if (state->description.*field == value)
+        return true;
+    state->description.*field = value;
+    if (state->item)
+        Q_EMIT (state->item->*changed)();
+    return true;
+}
+
+bool isSameChoice(const ChoiceDescription& a, const ChoiceDescription& b)
+{
+    return a.value == b.value && a.name == b.name && a.label == b.label && a.isApplicable == b.isApplicable;
+}
+
+} // namespace
+
 EmbeddedService::EmbeddedService(const ServiceDescription& description, QObject* parent)
     : QObject(parent)
-    , m_name(description.service)
+    , d(std::make_unique<ServiceData>())
 {
+    d->name = description.service;
+    setDelay(description.delayMs);
     for (const ItemDescription& item : description.items)
-        m_items.insert(item.id, new EmbeddedItem(item, this));
+        d->items.add(std::make_shared<ItemState>(item));
+    d->items.open();
 }
 
 EmbeddedService::~EmbeddedService() = default;
 
+QString EmbeddedService::name() const
+{
+    return d->name;
+}
+
 QStringList EmbeddedService::itemIds(const QString& prefix) const
 {
-    QStringList ids;
-    for (auto it = m_items.lowerBound(prefix); it != m_items.cend() && it.key().startsWith(prefix); ++it)
-        ids += it.key();
-    return ids;
+    return d->items.sortedIds(prefix);
 }
 
 KIVClientItem* EmbeddedService::item(const QString& id) const
 {
-    return m_items.value(id);
+    return d->items.object(id);
 }
 
 bool EmbeddedService::setValue(const QString& id, const QVariant& value)
 {
-    EmbeddedItem* item = m_items.value(id);
-    if (!item)
+    const ItemStore::StatePtr state = d->items.find(id);
+    if (!state || state->type == KIVClientItem::TypeAction)
         return false;
-    item->setValue(value);
+    const Conversion conversion
+            = value.isValid() ? convertToType(state->type, state->description.members, value) : Conversion();
+    if (!conversion.problem.isEmpty())
+        return false;
+    const ItemState::Changes changes = state->takeValue(conversion.value);
+    if (changes.value && state->isKept)
+        d->scheduleSave();
+    tell(state, changes);
     return true;
 }
 
 bool EmbeddedService::setAttribute(const QString& id, const QString& name, const QVariant& value)
 {
-    EmbeddedItem* item = m_items.value(id);
-    if (!item)
+    const ItemStore::StatePtr state = d->items.find(id);
+    if (!state)
         return false;
-    item->setAttribute(name, value);
+    const QString oldUnit = state->unitText();
+    state->setAttribute(name, value);
+    tell(state, {false, state->unitText() != oldUnit});
     return true;
+}
+
+bool EmbeddedService::setLabel(const QString& id, const QString& label)
+{
+    const ItemStore::StatePtr state = d->items.find(id);
+    if (!state)
+        return false;
+    state->description.label = label;
+    return true;
+}
+
+bool EmbeddedService::setUnit(const QString& id, const QString& unit)
+{
+    const ItemStore::StatePtr state = d->items.find(id);
+    if (!state)
+        return false;
+    const QString oldUnit = state->unitText();
+    state->description.unit = unit;
+    tell(state, {false, state->unitText() != oldUnit});
+    return true;
+}
+
+bool EmbeddedService::setReady(const QString& id, bool isReady)
+{
+    return change(d->items.find(id), &ItemDescription::isReady, isReady, &KIVClientItem::isReadyChanged);
+}
+
+bool EmbeddedService::setQuality(const QString& id, KIVClientItem::Quality quality)
+{
+    return change(d->items.find(id), &ItemDescription::quality, quality, &KIVClientItem::qualityChanged);
+}
+
+bool EmbeddedService::setApplicable(const QString& id, bool isApplicable)
+{
+    const ItemStore::StatePtr state = d->items.find(id);
+    if (!state || !state->description.applicableExpr.isEmpty())
+        return false;
+    return change(state, &ItemDescription::isApplicable, isApplicable, &KIVClientItem::isApplicableChanged);
+}
+
+bool EmbeddedService::setChoices(const QString& id, const QVector<ChoiceDescription>& choices)
+{
+    const ItemStore::StatePtr state = d->items.find(id);
+    if (!state || !state->isEnumeration() || !choicesProblem(state->type, choices).isEmpty())
+        return false;
+    QVector<ChoiceDescription>& old = state->description.choices;
+    if (std::equal(old.cbegin(), old.cend(), choices.cbegin(), choices.cend(), isSameChoice))
+        return true;
+    // An enumeration stays one when its last choice goes.
+    state->description.isEnumeration = true;
+    old = choices;
+    if (state->item)
+        tellChoices(state->item);
+    return true;
+}
+
+bool EmbeddedService::setRange(const QString& id, const QVariant& minimum, const QVariant& maximum)
+{
+    const ItemStore::StatePtr state = d->items.find(id);
+    if (!state)
+        return false;
+    const Limits limits = convertLimits(state->type, minimum, maximum);
+    if (!limits.problem.isEmpty())
+        return false;
+    state->description.minimum = limits.minimum;
+    state->description.maximum = limits.maximum;
+    return true;
+}
+
+bool EmbeddedService::setRefusal(const QString& id, const QString& text)
+{
+    const ItemStore::StatePtr state = d->items.find(id);
+    if (!state)
+        return false;
+    state->description.refusal = text;
+    return true;
+}
+
+void EmbeddedService::setDelay(int ms)
+{
+    d->delayMs = std::max(ms, 0);
+}
+
+bool EmbeddedService::setActionHandler(const QString& id, const ActionHandler& handler)
+{
+    if (!hasAction(*d, id))
+        return false;
+    if (handler)
+        d->handlers.insert(id, handler);
+    else
+        d->handlers.remove(id);
+    return true;
+}
+
+void EmbeddedService::reportError(const QString& text)
+{
+    Q_EMIT errorReported(text);
+}
+
+bool EmbeddedService::addItem(const ItemDescription& description, QString* problem)
+{
+    const QString reason = d->items.find(description.id)
+            ? tr("the service %1 has an item %2 already").arg(d->name, description.id)
+            : itemProblem(description);
+    if (problem)
+        *problem = reason;
+    if (!reason.isEmpty())
+        return false;
+    const auto state = std::make_shared<ItemState>(description);
+    if (d->keeper)
+        d->keeper->takeBack(*state);
+    d->items.add(state);
+    if (isReachable())
+        Q_EMIT itemsChanged();
+    return true;
+}
+
+bool EmbeddedService::removeItem(const QString& id)
+{
+    const ItemStore::StatePtr state = d->items.find(id);
+    if (!state)
+        return false;
+    if (d->keeper)
+        d->keeper->letGo(*state);
+    d->handlers.remove(id);
+    const QPointer<EmbeddedService> self(this);
+    d->items.remove(id);
+    if (self && isReachable())
+        Q_EMIT itemsChanged();
+    return true;
+}
+
+void EmbeddedService::setReachable(bool isReachable)
+{
+    if (isReachable == d->items.isOpen())
+        return;
+    const QPointer<EmbeddedService> self(this);
+    if (isReachable)
+        d->items.open();
+    else
+        d->items.close();
+    if (self)
+        Q_EMIT itemsChanged();
+}
+
+bool EmbeddedService::isReachable() const
+{
+    return d->items.isOpen();
 }
 
 } // namespace kiv::embedded

@@ -1,5 +1,6 @@
 #include "servicefile_p.h"
 
+#include "descriptioncheck_p.h"
 #include "jsonschema_p.h"
 
 #include <kiv/plovjsondocument.h>
@@ -8,9 +9,6 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSet>
-
-#include <cmath>
 
 // Resources of a library are only there once somebody asked for them.
 static void initSchemas()
@@ -32,51 +30,130 @@ const QJsonObject& serviceFileSchema()
     return schema;
 }
 
-QVariant itemValue(const QString& type, const QJsonValue& value)
+QString tr(const char* text)
 {
-    if (value.isUndefined())
-        return QVariant();
-    if (type == QLatin1String("int"))
-        return value.toInt();
-    if (type == QLatin1String("uint"))
-        return uint(value.toDouble());
-    if (type == QLatin1String("stringARRAY"))
-        return value.toVariant().toStringList();
-    return value.toVariant();
+    return QCoreApplication::translate("ServiceFile", text);
+}
+
+QString textOf(const QJsonObject& object, const char* key)
+{
+    return object.value(QLatin1String(key)).toString();
+}
+
+KIVClientItem::Quality qualityOf(const QString& name)
+{
+    if (name == QLatin1String("passing"))
+        return KIVClientItem::QualityPassing;
+    if (name == QLatin1String("warning"))
+        return KIVClientItem::QualityWarning;
+    return name == QLatin1String("failing") ? KIVClientItem::QualityFailing : KIVClientItem::QualityNone;
+}
+
+QVector<ChoiceDescription> choicesOf(const QJsonArray& array)
+{
+    QVector<ChoiceDescription> choices;
+    for (const QJsonValue& value : array) {
+        const QJsonObject object = value.toObject();
+        choices.append({object.value(QLatin1String("value")).toInt(), textOf(object, "name"), textOf(object, "label"),
+                object.value(QLatin1String("applicable")).toBool(true)});
+    }
+    return choices;
+}
+
+QVector<MemberDescription> membersOf(const QJsonArray& array)
+{
+    QVector<MemberDescription> members;
+    for (const QJsonValue& value : array)
+        members.append({textOf(value.toObject(), "name"), textOf(value.toObject(), "type")});
+    return members;
+}
+
+std::optional<ActionDescription> actionOf(const QJsonValue& value)
+{
+    if (!value.isObject())
+        return std::nullopt;
+    const QJsonObject object = value.toObject();
+    return ActionDescription {object.value(QLatin1String("set")).toObject().toVariantMap(), textOf(object, "reply"),
+            textOf(object, "fail"), object.value(QLatin1String("delay")).toInt()};
 }
 
 ItemDescription itemDescription(const QJsonObject& object)
 {
     ItemDescription item;
-    item.id = object.value(QLatin1String("id")).toString();
-    item.type = object.value(QLatin1String("type")).toString();
-    item.label = object.value(QLatin1String("label")).toString();
-    item.unit = object.value(QLatin1String("unit")).toString();
-    item.value = itemValue(item.type, object.value(QLatin1String("value")));
+    item.id = textOf(object, "id");
+    item.type = textOf(object, "type");
+    item.label = textOf(object, "label");
+    item.unit = textOf(object, "unit");
+    item.value = object.value(QLatin1String("value")).toVariant();
     item.precision = object.value(QLatin1String("precision")).toInt(-1);
     item.attributes = object.value(QLatin1String("attributes")).toObject().toVariantMap();
+    item.minimum = object.value(QLatin1String("minimum")).toVariant();
+    item.maximum = object.value(QLatin1String("maximum")).toVariant();
+    item.choices = choicesOf(object.value(QLatin1String("choices")).toArray());
+    item.isEnumeration = object.contains(QLatin1String("choices"));
+    item.members = membersOf(object.value(QLatin1String("members")).toArray());
+    item.quality = qualityOf(textOf(object, "quality"));
+    item.isReady = object.value(QLatin1String("ready")).toBool(true);
+    item.isApplicable = object.value(QLatin1String("applicable")).toBool(true);
+    item.applicableExpr = textOf(object, "applicable");
+    item.refusal = textOf(object, "refuse");
+    item.does = actionOf(object.value(QLatin1String("does")));
     return item;
 }
 
-/// What the schema cannot say: an id stands once, the mark of an array in it agrees with the type, and a number of
-/// 32 bits without sign, too large for the validator's integers, is whole.
-QString itemProblem(const QJsonObject& object, const QSet<QString>& knownIds)
+bool isOfKind(const QString& type, const QJsonValue& value)
 {
-    const QString id = object.value(QLatin1String("id")).toString();
-    if (knownIds.contains(id))
-        return QCoreApplication::translate("ServiceFile", "the id %1 stands twice").arg(id);
+    if (type == QLatin1String("std::string"))
+        return value.isString();
+    if (type == QLatin1String("bool"))
+        return value.isBool();
+    return value.isDouble();
+}
 
-    const QString type = object.value(QLatin1String("type")).toString();
-    for (const QString& array : {QStringLiteral("stringARRAY"), QStringLiteral("doubleARRAY")}) {
-        const bool isMarked = id.endsWith(QLatin1Char(':') + array + QLatin1Char(':'));
-        if (isMarked != (type == array))
-            return QCoreApplication::translate("ServiceFile", "the type %1 and the id %2 disagree on whether it is an array")
-                    .arg(type, id);
+/// The schema sees no further than a record's braces: what its members are stands elsewhere in the item. Converting alone
+/// would let a text pass for a number.
+QString recordProblem(const QString& place, const QVector<MemberDescription>& members, const QJsonObject& record)
+{
+    for (const MemberDescription& member : members) {
+        const QJsonValue value = record.value(member.name);
+        if (!value.isUndefined() && !isOfKind(member.type, value))
+            return place + QLatin1Char('/') + member.name + QLatin1String(": ")
+                    + tr("not of the type %1").arg(member.type);
     }
-    const double number = object.value(QLatin1String("value")).toDouble();
-    if (type == QLatin1String("uint") && number != std::floor(number))
-        return QCoreApplication::translate("ServiceFile", "the value of %1 is no whole number").arg(id);
     return QString();
+}
+
+QString recordsProblem(const ItemDescription& item, const QJsonValue& value)
+{
+    if (value.isObject())
+        return recordProblem(QStringLiteral("/value"), item.members, value.toObject());
+    const QJsonArray rows = item.members.isEmpty() ? QJsonArray() : value.toArray();
+    for (int i = 0; i < rows.size(); ++i) {
+        const QString problem
+                = recordProblem(QStringLiteral("/value/%1").arg(i), item.members, rows.at(i).toObject());
+        if (!problem.isEmpty())
+            return problem;
+    }
+    return QString();
+}
+
+ServiceDescription serviceDescription(const QJsonObject& root, QString* problem)
+{
+    ServiceDescription service;
+    service.service = textOf(root, "service");
+    service.delayMs = root.value(QLatin1String("delay")).toInt();
+    const QJsonArray items = root.value(QLatin1String("items")).toArray();
+    service.items.reserve(items.size());
+    for (int i = 0; i < items.size() && problem->isEmpty(); ++i) {
+        const QJsonObject object = items.at(i).toObject();
+        service.items += itemDescription(object);
+        const QString reason = recordsProblem(service.items.constLast(), object.value(QLatin1String("value")));
+        if (!reason.isEmpty())
+            *problem = QStringLiteral("/items/%1").arg(i) + reason;
+    }
+    if (problem->isEmpty())
+        *problem = serviceProblem(service);
+    return service;
 }
 
 } // namespace
@@ -88,28 +165,14 @@ std::optional<ServiceDescription> readServiceFile(const QString& path, QString* 
         *problem = document.errorString();
         return std::nullopt;
     }
-    const QJsonObject root = document.object();
-    const QString violation = schemaViolation(serviceFileSchema(), root);
-    if (!violation.isEmpty()) {
-        *problem = path + QLatin1String(": ") + violation;
-        return std::nullopt;
-    }
-
+    QString violation = schemaViolation(serviceFileSchema(), document.object());
     ServiceDescription service;
-    service.service = root.value(QLatin1String("service")).toString();
-    QSet<QString> ids;
-    const QJsonArray items = root.value(QLatin1String("items")).toArray();
-    for (int i = 0; i < items.size(); ++i) {
-        const QJsonObject object = items.at(i).toObject();
-        const QString reason = itemProblem(object, ids);
-        if (!reason.isEmpty()) {
-            *problem = QStringLiteral("%1: /items/%2: %3").arg(path, QString::number(i), reason);
-            return std::nullopt;
-        }
-        service.items += itemDescription(object);
-        ids += service.items.constLast().id;
-    }
-    return service;
+    if (violation.isEmpty())
+        service = serviceDescription(document.object(), &violation);
+    if (violation.isEmpty())
+        return service;
+    *problem = path + QLatin1String(": ") + violation;
+    return std::nullopt;
 }
 
 } // namespace kiv::embedded

@@ -1,0 +1,144 @@
+#include "configurations_p.h"
+
+#include "pendingwrites_p.h"
+#include "serviceregistry_p.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
+
+namespace kiv::embedded {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("EmbeddedService", text);
+}
+
+/// Finds settings by the last word of their ids. A service is indexed once, when the first name gets as far as it.
+class SettingFinder
+{
+public:
+    struct Setting
+    {
+        ServiceData* service = nullptr;
+        ItemStore::StatePtr state;
+    };
+
+    explicit SettingFinder(ServiceData& first)
+        : m_order {&first}
+    {
+        const QVector<EmbeddedService*> others
+                = first.registry ? first.registry->services() : QVector<EmbeddedService*>();
+        for (const EmbeddedService* other : others) {
+            ServiceData& data = ServiceData::of(*other);
+            if (&data != &first && data.items.isOpen())
+                m_order += &data;
+        }
+    }
+
+    Setting find(const QString& name)
+    {
+        const QString spelt = withUnderscore(name);
+        for (int i = 0; i < m_order.size(); ++i) {
+            const ItemStore::StatePtr exact = index(i).value(name);
+            const ItemStore::StatePtr state = exact ? exact : index(i).value(spelt);
+            if (state)
+                return {m_order.at(i), state};
+        }
+        return {};
+    }
+
+private:
+    using Index = QHash<QString, ItemStore::StatePtr>;
+
+    /// "level:3" stands for level_3: the underscore before one last digit travels as a colon.
+    static QString withUnderscore(QString name)
+    {
+        const int colon = name.size() - 2;
+        if (colon >= 0 && name.at(colon) == QLatin1Char(':') && name.at(colon + 1).isDigit())
+            name[colon] = QLatin1Char('_');
+        return name;
+    }
+
+    const Index& index(int service)
+    {
+        while (m_indexes.size() <= service)
+            m_indexes += indexOf(*m_order.at(m_indexes.size()));
+        return m_indexes.at(service);
+    }
+
+    static Index indexOf(const ServiceData& service)
+    {
+        Index index;
+        const QVector<ItemStore::StatePtr> states = service.items.inOrder();
+        for (const ItemStore::StatePtr& state : states) {
+            if (state->isSetting() && !index.contains(state->name()))
+                index.insert(state->name(), state);
+        }
+        return index;
+    }
+
+    QVector<ServiceData*> m_order;
+    QVector<Index> m_indexes;
+};
+
+Outcome refused(const QStringList& problems)
+{
+    return {false, tr("Nothing was set. %1").arg(problems.join(QLatin1Char(' ')))};
+}
+
+} // namespace
+
+Outcome applyConfiguration(ServiceData& service, const QString& argument)
+{
+    QJsonParseError error {};
+    const QJsonDocument document = QJsonDocument::fromJson(argument.toUtf8(), &error);
+    if (!document.isObject())
+        return refused({tr("The settings for the service %1 are not a JSON object of values by name%2.")
+                                .arg(service.name,
+                                        error.error == QJsonParseError::NoError ? QString()
+                                                                                : QLatin1String(": ") + error.errorString())});
+    const QJsonObject values = document.object();
+    SettingFinder finder(service);
+    PendingWrites writes;
+    QStringList problems;
+    QSet<const ItemState*> named;
+    for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
+        const SettingFinder::Setting setting = finder.find(it.key());
+        QString problem;
+        if (!setting.state)
+            problem = tr("There is no setting \"%1\".").arg(it.key());
+        else if (named.contains(setting.state.get()))
+            problem = tr("%1 is named twice.").arg(setting.state->title());
+        else
+            problem = writes.addWrite(*setting.service, setting.state, it.value().toVariant());
+        named += setting.state.get();
+        if (!problem.isEmpty())
+            problems += problem;
+    }
+    if (!problems.isEmpty())
+        return refused(problems);
+    const Outcome outcome {true, tr("Settings applied: %1.").arg(values.size())};
+    writes.apply();
+    return outcome;
+}
+
+Outcome saveConfiguration(ServiceData& service, const QString& argument)
+{
+    const int comma = argument.lastIndexOf(QLatin1Char(','));
+    const QString name = argument.left(comma).trimmed();
+    if (comma < 0 || name.isEmpty())
+        return {false, tr("The configuration of %1 was not saved: it needs a name, as in \"My settings,1\".")
+                               .arg(service.name)};
+    if (!service.keeper)
+        return {false, tr("The configuration \"%1\" was not saved: there is no folder to keep it in.").arg(name)};
+    QString error;
+    if (!service.keeper->saveConfiguration(name, &error))
+        return {false, error};
+    return {true, tr("The configuration was saved as \"%1\".").arg(name)};
+}
+
+} // namespace kiv::embedded

@@ -1,0 +1,195 @@
+#include "descriptioncheck_p.h"
+
+#include "itemtypes_p.h"
+#include "valueconversion_p.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QSet>
+
+#include <cmath>
+
+namespace kiv::embedded {
+
+namespace {
+
+constexpr int maximumNameLength = 255;
+constexpr int maximumPrecision = 15;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("ServiceFile", text);
+}
+
+QString idProblem(const ItemDescription& item, unsigned type)
+{
+    const QString& id = item.id;
+    const bool isAction = id.startsWith(QLatin1String(":action:"));
+    const bool hasCategory
+            = isAction || id.startsWith(QLatin1String(":config:")) || id.startsWith(QLatin1String(":result:"));
+    if (!hasCategory || !id.endsWith(QLatin1Char(':')) || id.size() > maximumNameLength)
+        return tr("the id %1 has no category, no colon at its end or more than %2 characters")
+                .arg(id.left(maximumNameLength), QString::number(maximumNameLength));
+    if (type == KIVClientItem::TypeNone)
+        return tr("the type %1 of %2 is unknown").arg(item.type, id);
+    for (const QString& array : {QStringLiteral("stringARRAY"), QStringLiteral("doubleARRAY")}) {
+        const bool isMarked = id.endsWith(QLatin1Char(':') + array + QLatin1Char(':'));
+        if (isMarked != (item.type == array))
+            return tr("the type %1 and the id %2 disagree on whether it is an array").arg(item.type, id);
+    }
+    if (isAction != (type == KIVClientItem::TypeAction))
+        return tr("the type %1 and the id %2 disagree on whether it is an action").arg(item.type, id);
+    return QString();
+}
+
+QString membersProblem(const ItemDescription& item, unsigned type)
+{
+    const bool needsMembers = type == KIVClientItem::TypeAggregate || type == KIVClientItem::TypeListAggregate;
+    if (needsMembers == item.members.isEmpty())
+        return needsMembers ? tr("a record or table without members") : tr("the type %1 has no members").arg(item.type);
+    QSet<QString> names;
+    for (int i = 0; i < item.members.size(); ++i) {
+        const MemberDescription& member = item.members.at(i);
+        const QString place = QStringLiteral("/members/%1: ").arg(i);
+        if (member.name.isEmpty() || names.contains(member.name))
+            return place + tr("the name \"%1\" is empty or stands twice").arg(member.name);
+        if (!isSimpleType(typeCode(member.type)))
+            return place + tr("the type %1 is none that a member can have").arg(member.type);
+        names += member.name;
+    }
+    return QString();
+}
+
+QString valueProblem(const ItemDescription& item, unsigned type)
+{
+    if (!item.value.isValid())
+        return QString();
+    const QString problem = convertToType(type, item.members, item.value).problem;
+    return problem.isEmpty() ? QString() : QLatin1String("/value: ") + problem;
+}
+
+QString enumerationProblem(const ItemDescription& item, unsigned type)
+{
+    const bool isEnumeration = item.isEnumeration || !item.choices.isEmpty();
+    if (isEnumeration && type != KIVClientItem::TypeInt && type != KIVClientItem::TypeUInt)
+        return tr("the type %1 has no choices").arg(item.type);
+    return choicesProblem(type, item.choices);
+}
+
+QString actionProblem(const ItemDescription& item, unsigned type)
+{
+    if (item.does && type != KIVClientItem::TypeAction)
+        return tr("the type %1 does nothing").arg(item.type);
+    return item.does && item.does->delayMs < 0 ? tr("a delay below zero") : QString();
+}
+
+QString rangeProblem(const ItemDescription& item, unsigned type)
+{
+    return convertLimits(type, item.minimum, item.maximum).problem;
+}
+
+QString precisionProblem(const ItemDescription& item, unsigned)
+{
+    const bool isSound = item.precision >= -1 && item.precision <= maximumPrecision;
+    return isSound ? QString() : tr("a precision outside 0 to %1").arg(maximumPrecision);
+}
+
+/// What an action sets must be there; a text with a place for the argument is only known when it is carried out.
+QString setProblem(const ItemDescription& action, const QHash<QString, const ItemDescription*>& items)
+{
+    for (auto it = action.does->set.cbegin(); it != action.does->set.cend(); ++it) {
+        const ItemDescription* item = items.value(it.key());
+        if (!item)
+            return tr("/does/set: there is no item %1").arg(it.key());
+        const bool waitsForArgument
+                = it->userType() == QMetaType::QString && it->toString().contains(QLatin1String("%1"));
+        const QString problem = convertToType(typeCode(item->type), item->members, *it).problem;
+        if (!waitsForArgument && !problem.isEmpty())
+            return tr("/does/set: the value of %1: %2").arg(it.key(), problem);
+    }
+    return QString();
+}
+
+QString atItem(int index, const QString& problem)
+{
+    const QLatin1String separator = problem.startsWith(QLatin1Char('/')) ? QLatin1String() : QLatin1String(": ");
+    return QStringLiteral("/items/%1").arg(index) + separator + problem;
+}
+
+} // namespace
+
+QString serviceProblem(const ServiceDescription& service)
+{
+    if (service.service.isEmpty() || service.service.size() > maximumNameLength)
+        return tr("/service: a name has 1 to %1 characters").arg(maximumNameLength);
+    QHash<QString, const ItemDescription*> items;
+    for (int i = 0; i < service.items.size(); ++i) {
+        const ItemDescription& item = service.items.at(i);
+        const QString problem
+                = items.contains(item.id) ? tr("the id %1 stands twice").arg(item.id) : itemProblem(item);
+        if (!problem.isEmpty())
+            return atItem(i, problem);
+        items.insert(item.id, &item);
+    }
+    for (int i = 0; i < service.items.size(); ++i) {
+        const QString problem = service.items.at(i).does ? setProblem(service.items.at(i), items) : QString();
+        if (!problem.isEmpty())
+            return atItem(i, problem);
+    }
+    return QString();
+}
+
+QString itemProblem(const ItemDescription& item)
+{
+    const unsigned type = typeCode(item.type);
+    for (const auto check : {idProblem, membersProblem, valueProblem, rangeProblem, enumerationProblem, actionProblem,
+                 precisionProblem}) {
+        const QString problem = check(item, type);
+        if (!problem.isEmpty())
+            return problem;
+    }
+    return QString();
+}
+
+QString choicesProblem(unsigned type, const QVector<ChoiceDescription>& choices)
+{
+    QSet<int> values;
+    QSet<QString> names;
+    for (int i = 0; i < choices.size(); ++i) {
+        const ChoiceDescription& choice = choices.at(i);
+        const QString place = QStringLiteral("/choices/%1: ").arg(i);
+        if (values.contains(choice.value) || (type == KIVClientItem::TypeUInt && choice.value < 0))
+            return place + tr("the value %1 stands twice or is below zero").arg(choice.value);
+        if (choice.name.isEmpty() || names.contains(choice.name))
+            return place + tr("the name \"%1\" is empty or stands twice").arg(choice.name);
+        values += choice.value;
+        names += choice.name;
+    }
+    return QString();
+}
+
+Limits convertLimits(unsigned type, const QVariant& minimum, const QVariant& maximum)
+{
+    if (!minimum.isValid() && !maximum.isValid())
+        return {};
+    const unsigned element = elementType(type);
+    if (element != KIVClientItem::TypeString && element != KIVClientItem::TypeInt && element != KIVClientItem::TypeUInt
+            && element != KIVClientItem::TypeDouble)
+        return {{}, {}, tr("a value of this type has no limits")};
+    // Lengths are whole numbers.
+    const unsigned limitType = element == KIVClientItem::TypeString ? unsigned(KIVClientItem::TypeInt) : element;
+    Limits limits;
+    for (const bool isMinimum : {true, false}) {
+        const QVariant& limit = isMinimum ? minimum : maximum;
+        const Conversion conversion = limit.isValid() ? convertToType(limitType, {}, limit) : Conversion();
+        if (!conversion.problem.isEmpty() || std::isnan(conversion.value.toDouble()))
+            return {{}, {}, (isMinimum ? QLatin1String("/minimum: ") : QLatin1String("/maximum: "))
+                            + (conversion.problem.isEmpty() ? tr("not a number") : conversion.problem)};
+        (isMinimum ? limits.minimum : limits.maximum) = conversion.value;
+    }
+    if (limits.minimum.isValid() && limits.maximum.isValid() && limits.minimum.toDouble() > limits.maximum.toDouble())
+        limits.problem = tr("the minimum is above the maximum");
+    return limits;
+}
+
+} // namespace kiv::embedded

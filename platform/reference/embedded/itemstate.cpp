@@ -1,0 +1,167 @@
+#include "itemstate_p.h"
+
+#include "descriptioncheck_p.h"
+#include "formatters/formatters_p.h"
+#include "itemtypes_p.h"
+#include "valueconversion_p.h"
+#include "valuetext_p.h"
+
+#include <algorithm>
+
+namespace kiv::embedded {
+
+namespace {
+
+QVariant converted(unsigned type, const QVector<MemberDescription>& members, const QVariant& value)
+{
+    return value.isValid() ? convertToType(type, members, value).value : QVariant();
+}
+
+} // namespace
+
+ItemState::ItemState(const ItemDescription& itemDescription)
+    : description(itemDescription)
+    , type(typeCode(itemDescription.type))
+{
+    description.value = converted(type, description.members, description.value);
+    const Limits limits = convertLimits(type, description.minimum, description.maximum);
+    description.minimum = limits.minimum;
+    description.maximum = limits.maximum;
+}
+
+QString ItemState::title() const
+{
+    return description.label.isEmpty() ? name() : description.label;
+}
+
+QString ItemState::name() const
+{
+    const QStringList words = description.id.split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    return words.value(words.size() - (elementType(type) == type ? 1 : 2));
+}
+
+QString ItemState::typeName() const
+{
+    switch (type) {
+    case KIVClientItem::TypeStringArray:
+        return QStringLiteral("std::vector<string>");
+    case KIVClientItem::TypeDoubleArray:
+        return QStringLiteral("std::vector<double>");
+    default:
+        return description.type;
+    }
+}
+
+QString ItemState::valueText(bool showUnits) const
+{
+    const QString choice = choiceText();
+    if (choice.isEmpty() && formatter())
+        return formattedText(showUnits);
+    const QString text
+            = choice.isEmpty() ? shownText(description.value, description.members, precision()) : choice;
+    return showUnits && !text.isEmpty() && !description.unit.isEmpty() ? text + QLatin1Char(' ') + description.unit : text;
+}
+
+QString ItemState::unitText() const
+{
+    if (!description.unit.isEmpty() || !formatter())
+        return description.unit;
+    formatter()->setValue(description.value);
+    return formatter()->getUnitString();
+}
+
+QVariant ItemState::attribute(const QString& name) const
+{
+    const auto own = description.attributes.constFind(name);
+    if (own != description.attributes.cend())
+        return *own;
+    if (name == QLatin1String("label"))
+        return description.label;
+    if (name == QLatin1String("type"))
+        return typeName();
+    if (name == QLatin1String("minRange"))
+        return description.minimum;
+    if (name == QLatin1String("maxRange"))
+        return description.maximum;
+    if (name == QLatin1String("precision") && description.precision >= 0)
+        return description.precision;
+    if (name == QLatin1String("enum") && isEnumeration())
+        return this->name();
+    return QVariant();
+}
+
+void ItemState::setAttribute(const QString& name, const QVariant& value)
+{
+    description.attributes.insert(name, value);
+    m_formatter.reset();
+    m_hasLookedForFormatter = false;
+}
+
+ItemState::Changes ItemState::takeValue(const QVariant& value)
+{
+    if (isSame(value, description.value))
+        return {};
+    // A formatter that scales shows another unit for another value.
+    const bool unitMayChange = description.unit.isEmpty() && formatter();
+    const QString oldUnit = unitMayChange ? unitText() : QString();
+    description.value = value;
+    return {true, unitMayChange && unitText() != oldUnit};
+}
+
+BaseFormatter* ItemState::formatter() const
+{
+    if (m_hasLookedForFormatter)
+        return m_formatter.get();
+    m_hasLookedForFormatter = true;
+    const QString name = description.attributes.value(QStringLiteral("formatter")).toString();
+    if (!name.isEmpty() && !description.members.size())
+        m_formatter.reset(formatters::create(name));
+    if (m_formatter)
+        m_formatter->setPrecision(precision());
+    return m_formatter.get();
+}
+
+QString ItemState::choiceText() const
+{
+    const auto choice = std::find_if(description.choices.cbegin(), description.choices.cend(),
+            [this](const ChoiceDescription& c) { return isSame(QVariant(c.value), description.value)
+                    || isSame(QVariant(uint(c.value)), description.value); });
+    if (choice == description.choices.cend())
+        return QString();
+    return choice->label.isEmpty() ? choice->name : choice->label;
+}
+
+QString ItemState::formattedText(bool showUnits) const
+{
+    const bool hasOwnUnit = !description.unit.isEmpty();
+    formatter()->setShowUnits(showUnits && !hasOwnUnit);
+    QString text;
+    if (elementType(type) == type) {
+        text = formatter()->format(description.value);
+    } else {
+        QStringList texts;
+        const QVariantList elements = description.value.toList();
+        for (const QVariant& element : elements)
+            texts += formatter()->format(element);
+        text = texts.join(QLatin1String(", "));
+    }
+    return showUnits && hasOwnUnit && !text.isEmpty() ? text + QLatin1Char(' ') + description.unit : text;
+}
+
+int ItemState::precision() const
+{
+    bool isNumber = false;
+    const int named = description.attributes.value(QStringLiteral("precision")).toInt(&isNumber);
+    return isNumber ? qBound(-1, named, 15) : description.precision;
+}
+
+void tell(const std::shared_ptr<ItemState>& state, ItemState::Changes changes)
+{
+    const std::shared_ptr<ItemState> held = state;
+    if (changes.value && held->item)
+        Q_EMIT held->item->valueChanged();
+    if (changes.unit && held->item)
+        Q_EMIT held->item->unitsChanged();
+}
+
+} // namespace kiv::embedded

@@ -1,0 +1,74 @@
+#include "pendingwrites_p.h"
+
+#include "valueconversion_p.h"
+#include "valuetext_p.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace kiv::embedded {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("PendingWrites", text);
+}
+
+QString refusal(const ItemState& state, const QVariant& value, const QString& problem)
+{
+    return tr("%1 cannot be set to %2: %3. Allowed: %4.")
+            .arg(state.title(), quotedText(value), problem, allowedText(state.description, state.type));
+}
+
+bool isAvailable(const ItemDescription& item, const QVariant& value)
+{
+    return std::none_of(item.choices.cbegin(), item.choices.cend(), [&](const ChoiceDescription& choice) {
+        return !choice.isApplicable && double(choice.value) == value.toDouble();
+    });
+}
+
+} // namespace
+
+QString PendingWrites::addWrite(ServiceData& service, const ItemStore::StatePtr& state, const QVariant& value)
+{
+    const ItemDescription& item = state->description;
+    if (!item.refusal.isEmpty())
+        return item.refusal;
+    if (!item.isReady)
+        return tr("%1 cannot be set now: it is not ready. Try again later.").arg(state->title());
+    const Conversion conversion = convertForItem(item, state->type, value);
+    if (!conversion.problem.isEmpty())
+        return refusal(*state, value, conversion.problem);
+    if (!isAvailable(item, conversion.value))
+        return refusal(*state, value, tr("not available now"));
+    m_writes.append({&service, state, conversion.value});
+    return QString();
+}
+
+QString PendingWrites::addReport(ServiceData& service, const ItemStore::StatePtr& state, const QVariant& value)
+{
+    const Conversion conversion = convertToType(state->type, state->description.members, value);
+    if (!conversion.problem.isEmpty())
+        return refusal(*state, value, conversion.problem);
+    m_writes.append({&service, state, conversion.value});
+    return QString();
+}
+
+void PendingWrites::apply()
+{
+    const QVector<Write> writes = std::move(m_writes);
+    QVector<ItemState::Changes> changes;
+    for (const Write& write : writes) {
+        changes += write.state->takeValue(write.value);
+        if (!write.state->isSetting())
+            continue;
+        write.state->isKept = true;
+        write.service->scheduleSave();
+    }
+    for (int i = 0; i < writes.size(); ++i)
+        tell(writes.at(i).state, changes.at(i));
+}
+
+} // namespace kiv::embedded

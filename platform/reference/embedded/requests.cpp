@@ -1,0 +1,113 @@
+#include "requests_p.h"
+
+#include "configurations_p.h"
+#include "pendingwrites_p.h"
+
+#include <QCoreApplication>
+
+namespace kiv::embedded {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("EmbeddedService", text);
+}
+
+/// Not QString::arg(), which would take a "%2" in a text for its own.
+QString withArgument(QString text, const QString& argument)
+{
+    return text.replace(QLatin1String("%1"), argument);
+}
+
+Outcome followDescription(ServiceData& service, const ActionDescription& does, const QString& argument)
+{
+    if (!does.fail.isEmpty())
+        return {false, does.fail};
+    PendingWrites writes;
+    for (auto it = does.set.cbegin(); it != does.set.cend(); ++it) {
+        const ItemStore::StatePtr state = service.items.find(it.key());
+        const QVariant value
+                = it->userType() == QMetaType::QString ? QVariant(withArgument(it->toString(), argument)) : *it;
+        const QString problem = state ? writes.addReport(service, state, value)
+                                      : tr("The service %1 has no item %2 any more.").arg(service.name, it.key());
+        if (!problem.isEmpty())
+            return {false, problem};
+    }
+    const Outcome outcome {true, withArgument(does.reply, argument)};
+    writes.apply();
+    return outcome;
+}
+
+Outcome callHandler(const EmbeddedService::ActionHandler& handler, const QString& argument)
+{
+    QString text;
+    const bool isDone = handler(argument, &text);
+    return {isDone, isDone || !text.isEmpty() ? text : tr("The action failed.")};
+}
+
+/// Whether the id is the manifest's with its two words replaced, for a manifest that the service has.
+bool isManifestAction(const ServiceData& service, const QString& id, QLatin1String action)
+{
+    const QLatin1String category(":action:");
+    const QString ending = QLatin1Char(':') + action + QLatin1Char(':');
+    if (!id.startsWith(category) || !id.endsWith(ending) || id.size() <= category.size() + ending.size())
+        return false;
+    const QString name = id.mid(category.size(), id.size() - category.size() - ending.size());
+    return bool(service.items.find(QLatin1String(":result:") + name + QLatin1String(":manifest:")));
+}
+
+ItemStore::StatePtr listedAction(const ServiceData& service, const QString& id)
+{
+    const ItemStore::StatePtr state = service.items.find(id);
+    return state && state->type == KIVClientItem::TypeAction ? state : nullptr;
+}
+
+} // namespace
+
+Outcome setSetting(ServiceData& service, const QString& id, const QVariant& value)
+{
+    const ItemStore::StatePtr state = service.items.find(id);
+    if (!state)
+        return {false, tr("The service %1 has no item %2.").arg(service.name, id)};
+    if (!state->isSetting())
+        return {false, tr("%1 cannot be set: it is no setting.").arg(state->title())};
+    PendingWrites writes;
+    const QString problem = writes.addWrite(service, state, value);
+    if (!problem.isEmpty())
+        return {false, problem};
+    writes.apply();
+    return {true, QString()};
+}
+
+Outcome carryOut(ServiceData& service, const QString& id, const QString& argument)
+{
+    // A copy: the handler may replace itself.
+    const EmbeddedService::ActionHandler handler = service.handlers.value(id);
+    if (handler)
+        return callHandler(handler, argument);
+    const ItemStore::StatePtr state = listedAction(service, id);
+    if (state && state->description.does)
+        return followDescription(service, *state->description.does, argument);
+    if (isManifestAction(service, id, QLatin1String("applyconfig")))
+        return applyConfiguration(service, argument);
+    if (isManifestAction(service, id, QLatin1String("saveconfig")))
+        return saveConfiguration(service, argument);
+    if (state)
+        return {false, tr("%1: the service %2 has nothing that carries it out.").arg(state->title(), service.name)};
+    return {false, tr("The service %1 has no action %2.").arg(service.name, id)};
+}
+
+int actionDelay(const ServiceData& service, const QString& id)
+{
+    const ItemStore::StatePtr state = listedAction(service, id);
+    return state && state->description.does ? state->description.does->delayMs : 0;
+}
+
+bool hasAction(const ServiceData& service, const QString& id)
+{
+    return listedAction(service, id) || isManifestAction(service, id, QLatin1String("applyconfig"))
+            || isManifestAction(service, id, QLatin1String("saveconfig"));
+}
+
+} // namespace kiv::embedded

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "embeddedservice.h"
+#include "itemstore_p.h"
+#include "statekeeper_p.h"
+
+namespace kiv::embedded {
+
+class ServiceRegistry;
+
+/// What the parts of the back end know of a service in common. It goes with the service.
+struct ServiceData
+{
+    QString name;
+    int delayMs = 0;
+    ItemStore items;
+    QHash<QString, EmbeddedService::ActionHandler> handlers;
+    /// Null when nothing is kept.
+    std::unique_ptr<StateKeeper> keeper;
+    /// The services that are published beside this one.
+    const ServiceRegistry* registry = nullptr;
+
+    static ServiceData& of(const EmbeddedService& service) { return *service.d; }
+    static EmbeddedService* create(const ServiceDescription& description, QObject* parent)
+    {
+        return new EmbeddedService(description, parent);
+    }
+
+    void scheduleSave()
+    {
+        if (keeper)
+            keeper->schedule();
+    }
+};
+
+} // namespace kiv::embedded

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <kiv/kivclientitem.h>
+
+#include <QString>
+#include <QVariant>
+#include <QVector>
+
+#include <optional>
+
+namespace kiv::embedded {
+
+/// One of the values that an enumeration can have.
+struct ChoiceDescription
+{
+    int value = 0;
+    /// The name in programs, unique among the choices.
+    QString name;
+    /// What the user reads; the name when it is empty.
+    QString label;
+    /// Whether the choice may be taken now.
+    bool isApplicable = true;
+};
+
+/// A member of a record, or a column of a table.
+struct MemberDescription
+{
+    QString name;
+    /// "std::string", "bool", "int", "uint" or "double".
+    QString type;
+};
+
+/// What an action does when a client asks for it. In `reply` and in the texts of `set`, "%1" stands for the argument.
+struct ActionDescription
+{
+    /// Values by the id of an item of the same service, of any category.
+    QVariantMap set;
+    QString reply;
+    /// Not empty: the action fails with this text and sets nothing.
+    QString fail;
+    /// Milliseconds until the answer, beside the service's own.
+    int delayMs = 0;
+};
+
+/// An item as it is when its service is published; docs/service-files.md tells what each field means.
+struct ItemDescription
+{
+    QString id;
+    /// As in a service file: "std::string", "bool", "int", "uint", "double", "stringARRAY", "doubleARRAY", "aggregate",
+    /// "listAggregate" or "action".
+    QString type;
+    QString label;
+    QString unit;
+    /// Converted to the item's type; invalid for an item without a value.
+    QVariant value;
+    QVariantMap attributes;
+    /// Decimals of a shown double; -1: as many as the value needs.
+    int precision = -1;
+    /// Limits of what clients set: of a number, or of the length of a text; invalid for none. Of an array, each element's.
+    QVariant minimum;
+    QVariant maximum;
+    /// An int or uint with choices is an enumeration, with `isEnumeration` also before it has any.
+    QVector<ChoiceDescription> choices;
+    bool isEnumeration = false;
+    /// Of an aggregate or a list aggregate.
+    QVector<MemberDescription> members;
+    KIVClientItem::Quality quality = KIVClientItem::QualityNone;
+    bool isReady = true;
+    bool isApplicable = true;
+    /// Decides instead of `isApplicable` unless it is empty.
+    QString applicableExpr;
+    /// Not empty: every write of a client is refused with this text.
+    QString refusal;
+    /// Of an action; without it the action needs a handler.
+    std::optional<ActionDescription> does;
+};
+
+struct ServiceDescription
+{
+    /// The name that clients ask for; 1 to 255 characters.
+    QString service;
+    /// In the order in which clients see them listed.
+    QVector<ItemDescription> items;
+    /// Milliseconds until the service answers a call.
+    int delayMs = 0;
+};
+
+} // namespace kiv::embedded

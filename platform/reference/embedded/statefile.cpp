@@ -1,0 +1,183 @@
+#include "statefile_p.h"
+
+#include <kiv/plovjsondocument.h>
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSaveFile>
+
+#include <cerrno>
+#include <cmath>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace kiv::embedded {
+
+namespace {
+
+constexpr int maximumNameBytes = 200;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("StateFile", text);
+}
+
+bool mustBeEncoded(char byte, bool isFirst)
+{
+    const auto code = static_cast<unsigned char>(byte);
+    return code < 0x20 || code == 0x7f || byte == '/' || byte == '%' || (isFirst && byte == '.');
+}
+
+/// The longest beginning that does not end inside a character.
+QByteArray beginning(const QByteArray& utf8, int bytes)
+{
+    while (bytes > 0 && (static_cast<unsigned char>(utf8.at(bytes)) & 0xc0) == 0x80)
+        --bytes;
+    return utf8.left(bytes);
+}
+
+bool sync(int fd)
+{
+    int result = 0;
+    do {
+        result = ::fsync(fd);
+    } while (result != 0 && errno == EINTR);
+    return result == 0;
+}
+
+/// Makes the rename survive a power cut. The file is whole under its name either way.
+void syncFolder(const QString& folder)
+{
+    const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    sync(fd);
+    ::close(fd);
+}
+
+QString freeDamagedName(const QString& path)
+{
+    const QString stem = path + QLatin1String(".damaged");
+    QString name = stem;
+    for (int i = 2; QFileInfo::exists(name); ++i)
+        name = stem + QLatin1Char('-') + QString::number(i);
+    return name;
+}
+
+bool moveAway(const QString& path, QString* problem)
+{
+    const QString name = freeDamagedName(path);
+    if (!QFile::rename(path, name)) {
+        *problem += QLatin1Char(' ')
+                + tr("It could not be moved out of the way, so changed settings are lost at the end.");
+        return false;
+    }
+    *problem += QLatin1Char(' ') + tr("It is now %1, and the settings are those of the service file.").arg(name);
+    return true;
+}
+
+} // namespace
+
+QString safeFileName(const QString& name)
+{
+    const QByteArray utf8 = name.toUtf8();
+    QByteArray safe;
+    for (int i = 0; i < utf8.size(); ++i) {
+        if (mustBeEncoded(utf8.at(i), i == 0))
+            safe += '%' + QByteArray(1, utf8.at(i)).toHex();
+        else
+            safe += utf8.at(i);
+    }
+    if (safe.size() > maximumNameBytes) {
+        const QByteArray checksum = QCryptographicHash::hash(utf8, QCryptographicHash::Sha256).toHex();
+        safe = beginning(safe, maximumNameBytes - 1 - checksum.size()) + '-' + checksum;
+    }
+    return QString::fromUtf8(safe);
+}
+
+QString stateFilePath(const QString& folder, const QString& service)
+{
+    return QDir(folder).filePath(safeFileName(service) + QLatin1String(".state.json"));
+}
+
+QJsonValue storableValue(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::Double:
+        return std::isfinite(value.toDouble()) ? QJsonValue(value.toDouble()) : QJsonValue(QJsonValue::Undefined);
+    case QMetaType::QVariantList: {
+        QJsonArray array;
+        const QVariantList list = value.toList();
+        for (const QVariant& element : list) {
+            const QJsonValue stored = storableValue(element);
+            if (stored.isUndefined())
+                return stored;
+            array.append(stored);
+        }
+        return array;
+    }
+    case QMetaType::QVariantMap: {
+        QJsonObject object;
+        const QVariantMap map = value.toMap();
+        for (auto it = map.cbegin(); it != map.cend(); ++it) {
+            const QJsonValue member = storableValue(*it);
+            if (member.isUndefined())
+                return member;
+            object.insert(it.key(), member);
+        }
+        return object;
+    }
+    default:
+        return value.isValid() ? QJsonValue::fromVariant(value) : QJsonValue(QJsonValue::Undefined);
+    }
+}
+
+bool readStateFile(const QString& path, QJsonObject* values, QString* problem)
+{
+    *values = QJsonObject();
+    // A link that leads nowhere is in the way too.
+    if (!QFileInfo::exists(path) && !QFileInfo(path).isSymLink())
+        return true;
+    PlovJsonDocument document;
+    if (!document.readFile(path)) {
+        *problem = document.errorString() + QLatin1Char('.');
+        return moveAway(path, problem);
+    }
+    const QJsonValue read = document.object().value(QLatin1String("values"));
+    if (!read.isObject()) {
+        *problem = tr("%1: /values: there are no values by item id.").arg(path);
+        return moveAway(path, problem);
+    }
+    *values = read.toObject();
+    return true;
+}
+
+bool writeStateFile(const QString& path, const QString& service, const QJsonObject& values, QString* error)
+{
+    const auto failed = [&](const QString& reason) {
+        *error = tr("The settings of %1 could not be kept in %2: %3.").arg(service, path, reason);
+        return false;
+    };
+    const QString folder = QFileInfo(path).path();
+    if (!QDir().mkpath(folder))
+        return failed(tr("the folder cannot be made"));
+    const QByteArray text
+            = QJsonDocument(QJsonObject {{QStringLiteral("service"), service}, {QStringLiteral("values"), values}})
+                      .toJson();
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush())
+        return failed(file.errorString());
+    if (!sync(file.handle()))
+        return failed(qt_error_string(errno));
+    if (!file.commit())
+        return failed(file.errorString());
+    syncFolder(folder);
+    return true;
+}
+
+} // namespace kiv::embedded

@@ -1,0 +1,297 @@
+#include "valueconversion_p.h"
+
+#include "itemtypes_p.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace kiv::embedded {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("ValueConversion", text);
+}
+
+bool isText(const QVariant& value)
+{
+    return value.userType() == QMetaType::QString || value.userType() == QMetaType::QByteArray;
+}
+
+bool isNumber(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Float:
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
+    }
+}
+
+Conversion toDouble(const QVariant& value)
+{
+    bool isRead = isNumber(value);
+    const double number = isText(value) ? value.toString().toDouble(&isRead) : value.toDouble();
+    return isRead ? Conversion {number, {}} : Conversion {{}, tr("not a number")};
+}
+
+template<class Integer>
+Conversion toInteger(const QVariant& value)
+{
+    const Conversion conversion = toDouble(value);
+    if (!conversion.problem.isEmpty())
+        return conversion;
+    const double number = conversion.value.toDouble();
+    if (!std::isfinite(number))
+        return {{}, tr("not a finite number")};
+    if (number != std::floor(number))
+        return {{}, tr("not a whole number")};
+    if (number < double(std::numeric_limits<Integer>::min()) || number > double(std::numeric_limits<Integer>::max()))
+        return {{}, tr("out of range")};
+    return {QVariant::fromValue(Integer(number)), {}};
+}
+
+Conversion toBool(const QVariant& value)
+{
+    if (value.userType() == QMetaType::Bool)
+        return {value, {}};
+    const QString text = isText(value) || isNumber(value) ? value.toString().trimmed() : QString();
+    if (text == QLatin1String("true") || text == QLatin1String("1"))
+        return {true, {}};
+    if (text == QLatin1String("false") || text == QLatin1String("0"))
+        return {false, {}};
+    return {{}, tr("neither true nor false")};
+}
+
+Conversion toText(const QVariant& value)
+{
+    if (!isText(value) && !isNumber(value) && value.userType() != QMetaType::Bool)
+        return {{}, tr("not a text")};
+    return {value.toString(), {}};
+}
+
+Conversion toSimple(unsigned type, const QVariant& value)
+{
+    switch (type) {
+    case KIVClientItem::TypeString:
+        return toText(value);
+    case KIVClientItem::TypeBool:
+        return toBool(value);
+    case KIVClientItem::TypeInt:
+        return toInteger<int>(value);
+    case KIVClientItem::TypeUInt:
+        return toInteger<uint>(value);
+    case KIVClientItem::TypeDouble:
+        return toDouble(value);
+    default:
+        return {{}, tr("not a value that an item of this type can have")};
+    }
+}
+
+bool isList(const QVariant& value)
+{
+    return !isText(value) && value.canConvert(QMetaType::QVariantList);
+}
+
+/// Long curves come as what they shall become; they are looked through, not copied.
+bool holdsOnly(const QVariantList& list, QMetaType::Type type)
+{
+    return std::all_of(list.cbegin(), list.cend(), [type](const QVariant& v) { return v.userType() == type; });
+}
+
+QString atElement(int index, const QString& problem)
+{
+    return tr("element %1: %2").arg(QString::number(index + 1), problem);
+}
+
+Conversion toArray(unsigned type, const QVariant& value)
+{
+    if (type == KIVClientItem::TypeStringArray && value.userType() == QMetaType::QStringList)
+        return {value, {}};
+    if (!isList(value))
+        return {{}, tr("not a list")};
+    QVariantList list = value.toList();
+    if (type == KIVClientItem::TypeDoubleArray && holdsOnly(list, QMetaType::Double))
+        return {list, {}};
+    QStringList texts;
+    for (int i = 0; i < list.size(); ++i) {
+        const Conversion element = toSimple(elementType(type), list.at(i));
+        if (!element.problem.isEmpty())
+            return {{}, atElement(i, element.problem)};
+        list[i] = element.value;
+        texts += type == KIVClientItem::TypeStringArray ? element.value.toString() : QString();
+    }
+    return {type == KIVClientItem::TypeStringArray ? QVariant(texts) : QVariant(list), {}};
+}
+
+Conversion toRecord(const QVector<MemberDescription>& members, const QVariant& value)
+{
+    if (isText(value) || !value.canConvert(QMetaType::QVariantMap))
+        return {{}, tr("not a record")};
+    QVariantMap rest = value.toMap();
+    QVariantMap record;
+    for (const MemberDescription& member : members) {
+        const auto given = rest.constFind(member.name);
+        if (given == rest.cend())
+            return {{}, tr("the member \"%1\" is missing").arg(member.name)};
+        const Conversion converted = toSimple(typeCode(member.type), *given);
+        if (!converted.problem.isEmpty())
+            return {{}, tr("member \"%1\": %2").arg(member.name, converted.problem)};
+        record.insert(member.name, converted.value);
+        rest.remove(member.name);
+    }
+    if (!rest.isEmpty())
+        return {{}, tr("there is no member \"%1\"").arg(rest.firstKey())};
+    return {record, {}};
+}
+
+Conversion toTable(const QVector<MemberDescription>& members, const QVariant& value)
+{
+    if (!isList(value))
+        return {{}, tr("not a list of records")};
+    QVariantList rows = value.toList();
+    for (int i = 0; i < rows.size(); ++i) {
+        const Conversion row = toRecord(members, rows.at(i));
+        if (!row.problem.isEmpty())
+            return {{}, atElement(i, row.problem)};
+        rows[i] = row.value;
+    }
+    return {rows, {}};
+}
+
+bool isBelow(double number, const QVariant& minimum)
+{
+    return minimum.isValid() && number < minimum.toDouble();
+}
+
+bool isAbove(double number, const QVariant& maximum)
+{
+    return maximum.isValid() && number > maximum.toDouble();
+}
+
+QString numberProblem(const ItemDescription& item, double number)
+{
+    if (!std::isfinite(number))
+        return tr("not a finite number");
+    return isBelow(number, item.minimum) || isAbove(number, item.maximum) ? tr("out of range") : QString();
+}
+
+QString textProblem(const ItemDescription& item, const QString& text)
+{
+    if (isBelow(text.size(), item.minimum))
+        return tr("too short");
+    if (isAbove(text.size(), item.maximum))
+        return tr("too long");
+    const QString pattern = item.attributes.value(QStringLiteral("regex")).toString();
+    if (pattern.isEmpty())
+        return QString();
+    const QRegularExpression form(QRegularExpression::anchoredPattern(pattern));
+    return form.isValid() && !form.match(text).hasMatch() ? tr("not of the expected form") : QString();
+}
+
+QString choiceProblem(const ItemDescription& item, const QVariant& value)
+{
+    if (item.choices.isEmpty())
+        return QString();
+    const bool isChoice = std::any_of(item.choices.cbegin(), item.choices.cend(),
+            [&](const ChoiceDescription& choice) { return double(choice.value) == value.toDouble(); });
+    return isChoice ? QString() : tr("not one of the choices");
+}
+
+QString simpleProblem(const ItemDescription& item, unsigned type, const QVariant& value)
+{
+    if (type == KIVClientItem::TypeString)
+        return textProblem(item, value.toString());
+    if (type != KIVClientItem::TypeInt && type != KIVClientItem::TypeUInt && type != KIVClientItem::TypeDouble)
+        return QString();
+    const QString problem = numberProblem(item, value.toDouble());
+    return problem.isEmpty() ? choiceProblem(item, value) : problem;
+}
+
+/// Members have no limits, but a number that is none can be neither sent nor kept.
+QString recordProblem(const QVariantMap& record)
+{
+    for (auto it = record.cbegin(); it != record.cend(); ++it) {
+        if (it->userType() == QMetaType::Double && !std::isfinite(it->toDouble()))
+            return tr("member \"%1\": %2").arg(it.key(), tr("not a finite number"));
+    }
+    return QString();
+}
+
+QString itemProblem(const ItemDescription& item, unsigned type, const QVariant& value)
+{
+    if (type == KIVClientItem::TypeAggregate)
+        return recordProblem(value.toMap());
+    if (isSimpleType(type))
+        return simpleProblem(item, type, value);
+    const QVariantList elements = value.toList();
+    for (int i = 0; i < elements.size(); ++i) {
+        const QString problem = type == KIVClientItem::TypeListAggregate
+                ? recordProblem(elements.at(i).toMap())
+                : simpleProblem(item, elementType(type), elements.at(i));
+        if (!problem.isEmpty())
+            return atElement(i, problem);
+    }
+    return QString();
+}
+
+} // namespace
+
+bool isSame(const QVariant& a, const QVariant& b)
+{
+    if (a.userType() != b.userType())
+        return false;
+    if (a.userType() == QMetaType::QVariantList) {
+        const QVariantList as = a.toList();
+        const QVariantList bs = b.toList();
+        return std::equal(as.cbegin(), as.cend(), bs.cbegin(), bs.cend(), isSame);
+    }
+    if (a.userType() == QMetaType::QVariantMap) {
+        const QVariantMap as = a.toMap();
+        const QVariantMap bs = b.toMap();
+        return as.keys() == bs.keys() && std::equal(as.cbegin(), as.cend(), bs.cbegin(), bs.cend(), isSame);
+    }
+    // QVariant compares doubles with a tolerance, which would swallow the steps of a large counter.
+    if (a.userType() == QMetaType::Double)
+        return a.toDouble() == b.toDouble() || (std::isnan(a.toDouble()) && std::isnan(b.toDouble()));
+    return a == b;
+}
+
+Conversion convertToType(unsigned type, const QVector<MemberDescription>& members, const QVariant& value)
+{
+    switch (type) {
+    case KIVClientItem::TypeStringArray:
+    case KIVClientItem::TypeDoubleArray:
+        return toArray(type, value);
+    case KIVClientItem::TypeAggregate:
+        return toRecord(members, value);
+    case KIVClientItem::TypeListAggregate:
+        return toTable(members, value);
+    default:
+        return toSimple(type, value);
+    }
+}
+
+Conversion convertForItem(const ItemDescription& item, unsigned type, const QVariant& value)
+{
+    Conversion conversion = convertToType(type, item.members, value);
+    if (conversion.problem.isEmpty())
+        conversion.problem = itemProblem(item, type, conversion.value);
+    return conversion;
+}
+
+} // namespace kiv::embedded

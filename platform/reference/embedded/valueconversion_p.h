@@ -1,0 +1,24 @@
+#pragma once
+
+#include "servicedescription.h"
+
+namespace kiv::embedded {
+
+/// A value in another type, or a few words on why it has none there ("not a number").
+struct Conversion
+{
+    QVariant value;
+    QString problem;
+};
+
+/// Whether two values are of one type and equal to the last bit.
+bool isSame(const QVariant& a, const QVariant& b);
+
+/// Converts to a type, with `members` for records and tables. Texts are read as in the C locale. A double may be NaN or
+/// infinite: that is for whoever wants it to refuse. A value that is invalid does not convert.
+Conversion convertToType(unsigned type, const QVector<MemberDescription>& members, const QVariant& value);
+
+/// Converts what a client sets and holds it against the item's limits, form and choices.
+Conversion convertForItem(const ItemDescription& item, unsigned type, const QVariant& value);
+
+} // namespace kiv::embedded
