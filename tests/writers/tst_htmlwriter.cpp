@@ -287,6 +287,38 @@ private Q_SLOTS:
         qDeleteAll(own);
     }
 
+    /// Plots are numbered through the page, whatever their tables' keys, and tables of one service share a picture.
+    void plotsOfAPage()
+    {
+        ReportTemplate report;
+        report.beginReport("r");
+        for (const char* service : {"plots", "kinds", "plots"}) {
+            report.beginSection("s", "S");
+            report.beginTable("t", "T");
+            report.setKey("label", "plot");
+            report.setKey("service", service);
+            report.endTable();
+            report.endSection();
+        }
+        report.endReport();
+        const QString html = pageOf(report);
+
+        const QDir folder(m_root.filePath("tmp"));
+        QCOMPARE(folder.entryList({"rep_plot_*"}, QDir::Files), (QStringList {"rep_plot_0.png", "rep_plot_1.png"}));
+        QStringList expected;
+        for (const char* name : {"rep_plot_0.png", "rep_plot_1.png", "rep_plot_0.png"}) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            expected += file.readAll().toBase64();
+        }
+        QVERIFY(expected.at(0) != expected.at(1));
+        QStringList pictures;
+        static const QRegularExpression picture("<p>\\s*<img src=\"data:image/png;base64,([^\"]*)\"");
+        for (auto it = picture.globalMatch(html); it.hasNext();)
+            pictures += it.next().captured(1);
+        QCOMPARE(pictures, expected);
+    }
+
     void iconsAreReadOnce()
     {
         HtmlStreamWriter html(0, nullptr);
