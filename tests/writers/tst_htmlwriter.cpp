@@ -266,6 +266,31 @@ private Q_SLOTS:
         qDeleteAll(items);
     }
 
+    void columnsWithoutLabelsShareAHeaderCell_data()
+    {
+        QTest::addColumn<QStringList>("labels");
+        QTest::addColumn<QString>("header");
+        const QString run("<th colspan=\"3\"></th>");
+        QTest::newRow("one") << QStringList {"A", ""} << "<th>A</th><th></th>";
+        QTest::newRow("at the end") << QStringList {"A", "", "", ""} << "<th>A</th>" + run;
+        QTest::newRow("in front") << QStringList {"", "", "", "A"} << run + "<th>A</th>";
+        QTest::newRow("twice") << QStringList {"", "", "", "A", "B", "", "", ""} << run + "<th>A</th><th>B</th>" + run;
+    }
+    void columnsWithoutLabelsShareAHeaderCell()
+    {
+        QFETCH(QStringList, labels);
+        QFETCH(QString, header);
+        QList<ReportItem*> items;
+        HtmlStreamWriter html(0, &items);
+        html.startTable("T", labels, true, 0);
+        html.writeHeaderCell("label", HtmlStreamWriter::AlignRight);
+        QCOMPARE(dynamic_cast<ReportTable*>(items.first())->columnLabels(), labels);
+        qDeleteAll(items);
+        static const QRegularExpression blanks(">\\s+<");
+        const QString written = QString(html.output()).replace(blanks, "><");
+        QVERIFY2(written.contains("<tr><th></th>" + header + "</tr>"), qPrintable(written));
+    }
+
     void everyTableBecomesAnItem()
     {
         ReportTemplate report;
