@@ -87,7 +87,8 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, count);
         QFETCH(int, columns);
-        const TableReader table(json("{\"col_label_1\": \"B\", \"num_columns\": " + count + "}"));
+        const TableReader table(json("{\"a\": \"A\", \"col_label_1\": \"B\", \"col_label_02\": \"no number\", \"col_label_-1\": \"\","
+                                     "\"col_label_1000\": \"too far\", \"num_columns\": " + count + "}"));
         QCOMPARE(table.columnCount(), columns);
         QCOMPARE(table.columnLabels().size(), columns);
         if (columns == 3)

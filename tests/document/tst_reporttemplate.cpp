@@ -4,6 +4,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -364,6 +365,66 @@ private Q_SLOTS:
         read.readFile(writeFile(dir, report.toJson().toUtf8()));
         QVERIFY2(!read.hasError(), qPrintable(read.errorString()));
         QCOMPARE(read.object(), report.object());
+    }
+
+    /// Sections beyond the deepest are left out with what they hold, and their ends close nothing else.
+    void tooDeepSections()
+    {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("1000 sections"));
+        ReportTemplate report;
+        report.beginReport("deep");
+        for (int i = 0; i < 20'000; ++i)
+            report.beginSection("s", "S");
+        report.beginTable("t", "lost");
+        report.addRow("r", "R", 1, {});
+        report.endTable();
+        for (int i = 0; i < 19'000; ++i)
+            report.endSection();
+        report.setKey("log_0", "in the deepest");
+        report.beginTable("t", "kept");
+        report.addRow("r", "R", 1, {});
+        report.endTable();
+        for (int i = 0; i < 999; ++i)
+            report.endSection();
+        report.setKey("log_0", "in the first");
+        report.endSection();
+        report.endReport();
+
+        QCOMPARE(report.object().value("section_0").toObject().value("log_0"), QJsonValue("in the first"));
+        QJsonObject node = report.object();
+        int depth = 0;
+        for (; node.contains("section_0"); ++depth)
+            node = node.value("section_0").toObject();
+        QCOMPARE(depth, 1000);
+        QCOMPARE(node.value("log_0"), QJsonValue("in the deepest"));
+        QCOMPARE(node.value("table_0").toObject().value("title"), QJsonValue("kept"));
+        QVERIFY(node.value("table_0").toObject().contains("row_1"));
+        QTemporaryDir dir;
+        ReportTemplate read;
+        read.readFile(writeFile(dir, report.toJson().toUtf8()));
+        QCOMPARE(read.object(), report.object());
+    }
+
+    /// Neither reports that nobody ended nor reports that were made sections change how deep one may go.
+    void depthOfReportsWithinReports()
+    {
+        ReportTemplate report;
+        for (int i = 0; i < 3000; ++i)
+            report.beginReport("left open");
+        report.beginSection("s", "S");
+        report.endSection();
+        report.endReport();
+        QVERIFY(report.object().contains("section_0"));
+
+        for (int i = 0; i < 20'000; ++i) {
+            report.beginReport("r");
+            report.setKey("node_type", "section");
+        }
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("1000 sections"));
+        for (int i = 0; i < 20'000; ++i)
+            report.endSection();
+        report.endReport();
+        QVERIFY(!report.toJson().isEmpty());
     }
 };
 

@@ -266,6 +266,31 @@ private Q_SLOTS:
         qDeleteAll(items);
     }
 
+    void columnsWithoutLabelsShareAHeaderCell_data()
+    {
+        QTest::addColumn<QStringList>("labels");
+        QTest::addColumn<QString>("header");
+        const QString run("<th colspan=\"3\"></th>");
+        QTest::newRow("one") << QStringList {"A", ""} << "<th>A</th><th></th>";
+        QTest::newRow("at the end") << QStringList {"A", "", "", ""} << "<th>A</th>" + run;
+        QTest::newRow("in front") << QStringList {"", "", "", "A"} << run + "<th>A</th>";
+        QTest::newRow("twice") << QStringList {"", "", "", "A", "B", "", "", ""} << run + "<th>A</th><th>B</th>" + run;
+    }
+    void columnsWithoutLabelsShareAHeaderCell()
+    {
+        QFETCH(QStringList, labels);
+        QFETCH(QString, header);
+        QList<ReportItem*> items;
+        HtmlStreamWriter html(0, &items);
+        html.startTable("T", labels, true, 0);
+        html.writeHeaderCell("label", HtmlStreamWriter::AlignRight);
+        QCOMPARE(dynamic_cast<ReportTable*>(items.first())->columnLabels(), labels);
+        qDeleteAll(items);
+        static const QRegularExpression blanks(">\\s+<");
+        const QString written = QString(html.output()).replace(blanks, "><");
+        QVERIFY2(written.contains("<tr><th></th>" + header + "</tr>"), qPrintable(written));
+    }
+
     void everyTableBecomesAnItem()
     {
         ReportTemplate report;
@@ -285,6 +310,38 @@ private Q_SLOTS:
         QCOMPARE(titlesAfter(&own), expected);
         QCOMPARE(uiutils::sharedReportItems().size(), expected.size());
         qDeleteAll(own);
+    }
+
+    /// Plots are numbered through the page, whatever their tables' keys, and tables of one service share a picture.
+    void plotsOfAPage()
+    {
+        ReportTemplate report;
+        report.beginReport("r");
+        for (const char* service : {"plots", "kinds", "plots"}) {
+            report.beginSection("s", "S");
+            report.beginTable("t", "T");
+            report.setKey("label", "plot");
+            report.setKey("service", service);
+            report.endTable();
+            report.endSection();
+        }
+        report.endReport();
+        const QString html = pageOf(report);
+
+        const QDir folder(m_root.filePath("tmp"));
+        QCOMPARE(folder.entryList({"rep_plot_*"}, QDir::Files), (QStringList {"rep_plot_0.png", "rep_plot_1.png"}));
+        QStringList expected;
+        for (const char* name : {"rep_plot_0.png", "rep_plot_1.png", "rep_plot_0.png"}) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            expected += file.readAll().toBase64();
+        }
+        QVERIFY(expected.at(0) != expected.at(1));
+        QStringList pictures;
+        static const QRegularExpression picture("<p>\\s*<img src=\"data:image/png;base64,([^\"]*)\"");
+        for (auto it = picture.globalMatch(html); it.hasNext();)
+            pictures += it.next().captured(1);
+        QCOMPARE(pictures, expected);
     }
 
     void iconsAreReadOnce()

@@ -50,19 +50,36 @@ TableReader::TableReader(const QJsonObject& table)
 {
     // Read as a double: the count of a damaged file need not fit an int.
     const double count = table.value(keys::numColumns).toVariant().toDouble();
-    const int columns = int(qBound(0.0, count, double(maximumColumns)));
-    m_cellKeys.reserve(columns);
-    for (int column = 0; column < columns; ++column)
-        m_cellKeys += numberedKey(keys::cellFamily, column);
+    m_columnCount = int(qBound(0.0, count, double(maximumColumns)));
 }
 
 QStringList TableReader::columnLabels() const
 {
-    QStringList labels;
-    labels.reserve(columnCount());
-    for (int column = 0; column < columnCount(); ++column)
-        labels += textOf(m_node.value(numberedKey(keys::columnLabelFamily, column)));
-    return labels;
+    QVector<QString> labels(m_columnCount);
+    for (auto it = m_node.begin(); it != m_node.end(); ++it) {
+        const QString key = it.key();
+        if (!key.startsWith(keys::columnLabelFamily)) {
+            if (key > keys::columnLabelFamily)
+                break;
+            continue;
+        }
+        const int column = key.midRef(keys::columnLabelFamily.size()).toInt();
+        if (column >= 0 && column < m_columnCount && key == numberedKey(keys::columnLabelFamily, column))
+            labels[column] = textOf(it.value());
+    }
+    return labels.toList();
+}
+
+const QString& TableReader::cellKey(int column)
+{
+    // Shared for good: tables that claim a thousand columns and fill two are many times cheaper so.
+    static const QStringList names = [] {
+        QStringList names;
+        for (int column = 0; column < maximumColumns; ++column)
+            names += numberedKey(keys::cellFamily, column);
+        return names;
+    }();
+    return names.at(column);
 }
 
 bool TableReader::usesRowLabels() const

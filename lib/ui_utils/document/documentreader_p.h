@@ -119,20 +119,20 @@ public:
     explicit TableReader(const QJsonObject& table);
 
     /// The number of value columns.
-    int columnCount() const { return m_cellKeys.size(); }
+    int columnCount() const { return m_columnCount; }
     /// One label for each column, empty where the table has none.
     QStringList columnLabels() const;
     bool usesRowLabels() const;
     bool isPlot() const { return text(keys::label) == keys::plot; }
 
     /// The key of the cell in that column.
-    const QString& cellKey(int column) const { return m_cellKeys.at(column); }
+    static const QString& cellKey(int column);
 
     /// Calls visit(QString key, QJsonObject row) for each row.
     template<typename Visitor> void forEachRow(Visitor visit) const { forEachChild(keys::rowFamily, visit); }
 
 private:
-    QStringList m_cellKeys;
+    int m_columnCount = 0;
 };
 
 } // namespace uiutils

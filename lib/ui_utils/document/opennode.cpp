@@ -50,8 +50,9 @@ struct DecimalText
 
 } // namespace
 
-OpenNode::OpenNode(const QJsonObject& keys)
-    : m_keys(keys)
+OpenNode::OpenNode(const QJsonObject& keys, int level)
+    : m_level(level)
+    , m_keys(keys)
 {
     for (auto it = keys.begin(); it != keys.end(); ++it)
         count(it.key());
@@ -73,8 +74,9 @@ void OpenNode::set(const QString& key, const QJsonValue& value)
     m_keys.insert(key, value);
 }
 
-void OpenNode::append(Family family, const QJsonValue& child)
+void OpenNode::append(Family family, const QJsonValue& child, int height)
 {
+    m_height = std::max(m_height, height + 1);
     Children& children = m_children[family];
     const int number = children.keyCount;
     if (children.hasNumberedKey) {

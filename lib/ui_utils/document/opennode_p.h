@@ -18,7 +18,12 @@ public:
     /// In the order of their words, which is the order in which children are laid into the node.
     enum Family { Row, Section, Table, FamilyCount };
 
-    explicit OpenNode(const QJsonObject& keys = QJsonObject());
+    /// `level` is the number of nodes around it in its report.
+    explicit OpenNode(const QJsonObject& keys = QJsonObject(), int level = 0);
+
+    int level() const { return m_level; }
+    /// How deep the nodes and rows are nested that it holds; 0 for none.
+    int height() const { return m_height; }
 
     /// The value of the key "node_type".
     QString nodeType() const;
@@ -26,8 +31,9 @@ public:
     /// Sets a key, in place of what stood under it, a child included.
     void set(const QString& key, const QJsonValue& value);
 
-    /// Stores a child under the next number of its family, in place of what stood under that key.
-    void append(Family family, const QJsonValue& child);
+    /// Stores a child, itself `height` nodes deep, under the next number of its family, in place of what stood under
+    /// that key.
+    void append(Family family, const QJsonValue& child, int height = 0);
 
     /// The finished node. The open one is empty afterwards.
     QJsonObject take();
@@ -51,6 +57,8 @@ private:
     void count(const QString& key);
     QJsonValue* waitingChild(const QString& key);
 
+    int m_level;
+    int m_height = 0;
     QJsonObject m_keys;
     std::array<Children, FamilyCount> m_children;
 };

@@ -8,6 +8,9 @@ namespace keys = uiutils::keys;
 
 namespace {
 
+// Everything that walks JSON calls itself for each level, Qt's own classes too, and its parser stops at 1,024.
+constexpr int deepestSection = 1000;
+
 bool takesChildren(const OpenNode& node)
 {
     const QString type = node.nodeType();
@@ -59,6 +62,7 @@ QString ReportTemplate::toJson() const
 void ReportTemplate::beginReport(const QString& tag)
 {
     m_openNodes.emplace_back(QJsonObject {{keys::nodeType, keys::report}, {keys::tag, tag}});
+    m_saidTooDeep = false;
 }
 
 void ReportTemplate::setKey(const QString& key, const QVariant& val)
@@ -75,13 +79,13 @@ void ReportTemplate::addAttribute(const QString& key, const QVariant& val)
 void ReportTemplate::beginSection(const QString& tag, const QString& title)
 {
     if (current())
-        m_openNodes.emplace_back(sectionNode(tag, title));
+        m_openNodes.emplace_back(sectionNode(tag, title), current()->level() + 1);
 }
 
 void ReportTemplate::beginTable(const QString& tag, const QString& title)
 {
     if (current())
-        m_openNodes.emplace_back(tableNode(tag, title));
+        m_openNodes.emplace_back(tableNode(tag, title), current()->level() + 1);
 }
 
 void ReportTemplate::addRow(
@@ -133,9 +137,25 @@ void ReportTemplate::closeInto(QLatin1String nodeType, int family)
     // The only open node has no parent to go to, and closing it would lose what it holds.
     if (m_openNodes.size() < 2 || current()->nodeType() != nodeType)
         return;
+    const int level = current()->level();
+    const int height = current()->height();
     const QJsonObject closed = takeCurrent();
-    if (takesChildren(*current()))
-        current()->append(OpenNode::Family(family), closed);
+    if (!takesChildren(*current()))
+        return;
+    const int deepest = deepestSection + (family == OpenNode::Table ? 1 : 0);
+    // The height, with a table's rows in it, counts where a node begun as a report was made a section by its key.
+    if (level > deepest || height > deepestSection + 1) {
+        warnOfDepth();
+        return;
+    }
+    current()->append(OpenNode::Family(family), closed, height);
+}
+
+void ReportTemplate::warnOfDepth()
+{
+    if (!m_saidTooDeep)
+        qWarning("ReportTemplate: what is nested more than %d sections deep is left out", deepestSection);
+    m_saidTooDeep = true;
 }
 
 QJsonObject ReportTemplate::takeCurrent()

@@ -47,7 +47,8 @@ public:
     Q_INVOKABLE void setKey(const QString& key, const QVariant& val);
     /// Stores the text of `val` as the attribute `key` of the current node: under "attr_" and the key.
     Q_INVOKABLE void addAttribute(const QString& key, const QVariant& val);
-    /// Opens a section in the current node.
+    /// Opens a section in the current node. A report holds 1,000 nested sections: one that is nested deeper is filled
+    /// and closed as any other, but left out with all that it holds, and a warning is logged once for each report.
     Q_INVOKABLE void beginSection(const QString& tag, const QString& title);
     /// Opens a table of one value column in the current node.
     Q_INVOKABLE void beginTable(const QString& tag, const QString& title);
@@ -77,9 +78,11 @@ private:
     uiutils::OpenNode* current();
     void closeInto(QLatin1String nodeType, int family);
     QJsonObject takeCurrent();
+    void warnOfDepth();
 
     PlovJsonDocument m_document;
     std::vector<uiutils::OpenNode> m_openNodes;
     QString m_tag;
     QString m_path;
+    bool m_saidTooDeep = false;
 };

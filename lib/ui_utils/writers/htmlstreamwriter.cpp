@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <limits>
 
 using uiutils::beginLine;
@@ -25,6 +26,7 @@ struct Words
     const QString align = QStringLiteral("align");
     const QString b = QStringLiteral("b");
     const QString center = QStringLiteral("center");
+    const QString colspan = QStringLiteral("colspan");
     const QString height = QStringLiteral("height");
     const QString iconSize = QStringLiteral("20");
     const QString img = QStringLiteral("img");
@@ -200,7 +202,7 @@ void HtmlStreamWriter::startTable(const QString& title, const QStringList& colum
     if (!title.isEmpty()) {
         startTableRow();
         writeStartElement(words().th);
-        writeAttribute(QStringLiteral("colspan"), QString::number(qMax(1, m_columnCount)));
+        writeAttribute(words().colspan, QString::number(qMax(1, m_columnCount)));
         writeTextElement(QStringLiteral("i"), markupText(title));
         writeEndElement();
         writeEndElement();
@@ -219,8 +221,29 @@ void HtmlStreamWriter::writeHeaderRow(const QStringList& columnLabels, bool hasL
     startTableRow();
     if (hasLabelColumn)
         writeTextElement(words().th, QString());
-    for (const QString& label : columnLabels)
+    int empty = 0;
+    for (const QString& label : columnLabels) {
+        if (label.isEmpty()) {
+            ++empty;
+            continue;
+        }
+        writeEmptyHeader(empty);
+        empty = 0;
         writeTextElement(words().th, markupText(label));
+    }
+    writeEmptyHeader(empty);
+    writeEndElement();
+}
+
+/// One cell for a run of columns without labels: a thousand of them cost a document 30 bytes.
+void HtmlStreamWriter::writeEmptyHeader(int columns)
+{
+    if (columns < 1)
+        return;
+    writeStartElement(words().th);
+    if (columns > 1)
+        writeAttribute(words().colspan, QString::number(columns));
+    writeCharacters(QString());
     writeEndElement();
 }
 
@@ -293,7 +316,7 @@ void HtmlStreamWriter::writeEmptyCells(int columns)
     if (span <= 0 || !beginCell(span))
         return;
     if (span > 1)
-        writeAttribute(QStringLiteral("colspan"), QString::number(span));
+        writeAttribute(words().colspan, QString::number(span));
     writeCharacters(QString());
     writeEndElement();
     if (m_currentTable)

@@ -72,6 +72,7 @@ private:
     void startTableRow();
     bool beginCell(int columns);
     void writeHeaderRow(const QStringList& columnLabels, bool hasLabelColumn);
+    void writeEmptyHeader(int columns);
     void writeStatusIcon(int status);
     const QString& iconSource(const QString& path);
 

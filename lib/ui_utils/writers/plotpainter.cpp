@@ -1,5 +1,7 @@
 #include "writers/plotpainter_p.h"
 
+#include "writers/curvepainter_p.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 
@@ -17,7 +19,6 @@ const QRgb gridColor = 0xd5dbe0;
 const QRgb minorGridColor = 0xedf0f2;
 const QRgb inkColor = 0x263238;
 constexpr int curvesThatShowTheirPoints = 60;
-constexpr int legendRowsAtMost = 3;
 
 QString titled(const QString& label, const QString& unit)
 {
@@ -66,7 +67,7 @@ void PlotPainter::draw()
         m_painter.drawText(m_frame, Qt::AlignCenter, QCoreApplication::translate("PlotImage", "No data"));
     drawTickLabels();
     drawTitles();
-    drawLegend();
+    m_legend.draw(m_painter, m_legendPlace, QColor(inkColor));
 }
 
 void PlotPainter::layOut()
@@ -81,22 +82,13 @@ void PlotPainter::layOut()
 
     const double left = labelWidth + 1.2 * m_unit;
     const double right = std::max(0.6 * m_unit, endLabel / 2 + 0.3 * m_unit);
-    const QVector<LegendEntry> entries = legendEntries();
-    int rows = entries.isEmpty() ? 0 : 1;
-    double x = 0;
-    for (const LegendEntry& entry : entries) {
-        const double width = m_metrics.horizontalAdvance(entry.text) + 4 * m_unit;
-        if (x > 0 && x + width > m_size.width() - left - right) {
-            ++rows;
-            x = 0;
-        }
-        x += width;
-    }
-    const double legendHeight = std::min(rows, legendRowsAtMost) * line;
+    m_legend = PlotLegend(legendEntries(), m_metrics, m_unit, m_size.width() - left - right);
+    const double legendHeight = m_legend.rowCount() * line;
     const double top = line + legendHeight + 0.8 * m_unit;
     const double bottom = 2 * line + 0.9 * m_unit;
-    m_frame = QRectF(left, top, m_size.width() - left - right, m_size.height() - top - bottom);
-    m_legend = QRectF(left, line + 0.4 * m_unit, m_frame.width(), legendHeight);
+    // Whole pixels, so that a curve is thinned out by the very columns that it is drawn in.
+    m_frame = QRectF(left, top, m_size.width() - left - right, m_size.height() - top - bottom).toRect();
+    m_legendPlace = QPointF(m_frame.left(), line + 0.4 * m_unit);
 }
 
 QPen PlotPainter::curvePen(int index) const
@@ -124,7 +116,7 @@ QString PlotPainter::yTitle() const
     return isShared ? first.unit : QString();
 }
 
-QVector<PlotPainter::LegendEntry> PlotPainter::legendEntries() const
+QVector<LegendEntry> PlotPainter::legendEntries() const
 {
     QVector<LegendEntry> entries;
     const bool isShared = !yTitle().isEmpty();
@@ -191,30 +183,6 @@ void PlotPainter::drawTitles()
             titled(m_data.xLabel, m_data.xUnit));
 }
 
-void PlotPainter::drawLegend()
-{
-    const double line = m_metrics.height();
-    double x = m_legend.left();
-    double y = m_legend.top();
-    const QVector<LegendEntry> entries = legendEntries();
-    for (const LegendEntry& entry : entries) {
-        const double width = m_metrics.horizontalAdvance(entry.text) + 4 * m_unit;
-        if (x > m_legend.left() && x + width > m_legend.right()) {
-            x = m_legend.left();
-            y += line;
-        }
-        if (y + line > m_legend.bottom() + 1)
-            return;
-        m_painter.setPen(entry.pen);
-        m_painter.drawLine(QPointF(x, y + line / 2), QPointF(x + 2 * m_unit, y + line / 2));
-        m_painter.setPen(QColor(inkColor));
-        const double room = std::min(width - 3 * m_unit + 1, m_legend.right() - x - 2.5 * m_unit);
-        m_painter.drawText(QRectF(x + 2.5 * m_unit, y, room, line), Qt::AlignLeft | Qt::AlignVCenter,
-                m_metrics.elidedText(entry.text, Qt::ElideRight, room));
-        x += width;
-    }
-}
-
 void PlotPainter::drawLimits()
 {
     m_painter.setPen(limitPen());
@@ -228,24 +196,19 @@ void PlotPainter::drawLimits()
 void PlotPainter::drawCurve(int index)
 {
     const PlotCurve& curve = m_data.curves.at(index);
-    const QPen pen = curvePen(index);
-    const double dot = pen.widthF() * 1.4;
     const bool showsPoints = curve.size() <= curvesThatShowTheirPoints;
-    const QVector<QVector<QPointF>> stretches
-            = visibleStretches(m_data, curve, m_x, m_y, std::max(1, int(m_frame.width())));
-    for (QVector<QPointF> stretch : stretches) {
+    QVector<QVector<QPointF>> stretches = visibleStretches(m_data, curve, m_x, m_y, std::max(1, int(m_frame.width())));
+    QVector<QPointF> dots;
+    for (QVector<QPointF>& stretch : stretches) {
         for (QPointF& point : stretch)
             point = QPointF(m_frame.left() + point.x() * m_frame.width(), m_frame.bottom() - point.y() * m_frame.height());
-        m_painter.setPen(pen);
-        m_painter.drawPolyline(stretch.constData(), stretch.size());
-        if (!showsPoints && stretch.size() > 1)
-            continue;
-        m_painter.setPen(Qt::NoPen);
-        m_painter.setBrush(pen.color());
-        for (const QPointF& point : qAsConst(stretch))
-            m_painter.drawEllipse(point, dot, dot);
-        m_painter.setBrush(Qt::NoBrush);
+        // A point without neighbours is no line.
+        if (showsPoints || stretch.size() == 1)
+            dots += stretch;
     }
+    CurvePainter painter(m_painter, m_frame, curvePen(index));
+    painter.drawLines(stretches);
+    painter.drawDots(dots);
 }
 
 } // namespace uiutils

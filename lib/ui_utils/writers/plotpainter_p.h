@@ -1,6 +1,7 @@
 #pragma once
 
 #include "writers/plotdata_p.h"
+#include "writers/plotlegend_p.h"
 
 #include <QColor>
 #include <QFontMetricsF>
@@ -19,12 +20,6 @@ public:
     void draw();
 
 private:
-    struct LegendEntry
-    {
-        QString text;
-        QPen pen;
-    };
-
     QFont scaledFont() const;
     QPen curvePen(int index) const;
     QPen limitPen() const;
@@ -35,7 +30,6 @@ private:
     void drawGrid();
     void drawTickLabels();
     void drawTitles();
-    void drawLegend();
     void drawLimits();
     void drawCurve(int index);
 
@@ -52,7 +46,8 @@ private:
     AxisScale m_x;
     AxisScale m_y;
     QRectF m_frame;
-    QRectF m_legend;
+    PlotLegend m_legend;
+    QPointF m_legendPlace;
 };
 
 } // namespace uiutils

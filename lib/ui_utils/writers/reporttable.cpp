@@ -2,12 +2,30 @@
 
 ReportTable::ReportTable(const QString& title, const QStringList& columnLabels, bool hasLabelColumn)
     : m_title(title)
-    , m_columnLabels(columnLabels)
+    , m_valueColumns(columnLabels.size())
     , m_hasLabelColumn(hasLabelColumn)
 {
+    for (int column = 0; column < m_valueColumns; ++column) {
+        if (!columnLabels.at(column).isEmpty())
+            m_labels.append({column, columnLabels.at(column)});
+    }
 }
 
 ReportTable::~ReportTable() = default;
+
+QStringList ReportTable::columnLabels() const
+{
+    QStringList labels;
+    labels.reserve(m_valueColumns);
+    for (const Label& label : m_labels) {
+        while (labels.size() < label.column)
+            labels += QString();
+        labels += label.text;
+    }
+    while (labels.size() < m_valueColumns)
+        labels += QString();
+    return labels;
+}
 
 void ReportTable::appendCell(const Cell& cell)
 {

@@ -29,10 +29,11 @@ public:
     ~ReportTable() override;
 
     QString title() const { return m_title; }
-    QStringList columnLabels() const { return m_columnLabels; }
+    /// One text for each value column, empty where the column has no label.
+    QStringList columnLabels() const;
     bool hasLabelColumn() const { return m_hasLabelColumn; }
     /// Columns of a row, the label column included.
-    int columnCount() const { return m_columnLabels.size() + (m_hasLabelColumn ? 1 : 0); }
+    int columnCount() const { return m_valueColumns + (m_hasLabelColumn ? 1 : 0); }
 
     /// Appends a cell to the last row, which opens with its first cell.
     void appendCell(const Cell& cell);
@@ -44,10 +45,18 @@ public:
     QVector<Cell> row(int index) const;
 
 private:
+    struct Label
+    {
+        int column;
+        QString text;
+    };
+
     bool hasOpenRow() const { return m_cells.size() > (m_rowEnds.isEmpty() ? 0 : m_rowEnds.constLast()); }
 
     QString m_title;
-    QStringList m_columnLabels;
+    int m_valueColumns;
+    // Those that have a text: a table may claim many more columns than it fills.
+    QVector<Label> m_labels;
     bool m_hasLabelColumn;
     // One flat list: a vector for each row would cost more than the cells.
     QVector<Cell> m_cells;

@@ -31,12 +31,6 @@ QString textDate()
     return QDate::currentDate().toString(Qt::TextDate);
 }
 
-/// The number at the end of a child's key; 0 when there is none.
-int childNumber(const QString& key)
-{
-    return key.mid(key.lastIndexOf(QLatin1Char('_')) + 1).toInt();
-}
-
 /// A two-column table of labels and values; none without rows.
 void writeLabelledTexts(HtmlStreamWriter& html, const QString& title, const QString& valueLabel, int nestingLevel,
         const instrument::LabelledTexts& rows)
@@ -113,6 +107,7 @@ QString TemplateToHtmlWriter::getHtml()
         writeTechnicianTable();
     m_html->writeEndElement();
     m_html->writeEndDocument();
+    m_plots.clear();
     return m_html->output();
 }
 
@@ -318,10 +313,10 @@ void TemplateToHtmlWriter::writeConfigurationValues(const NodeReader& section)
 
 void TemplateToHtmlWriter::tablesToHtml(const QJsonObject& node)
 {
-    NodeReader(node).forEachTable([this](const QString& key, const QJsonObject& object) {
+    NodeReader(node).forEachTable([this](const QString&, const QJsonObject& object) {
         const TableReader table(object);
         if (table.isPlot())
-            plotToHtml(table, childNumber(key));
+            m_html->writeImageParagraph(plotOf(table.text(keys::service)));
         else
             tableToHtml(table);
     });
@@ -366,12 +361,15 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
     m_html->endRow();
 }
 
-void TemplateToHtmlWriter::plotToHtml(const TableReader& table, int number)
+const QByteArray& TemplateToHtmlWriter::plotOf(const QString& service)
 {
+    const auto known = m_plots.constFind(service);
+    if (known != m_plots.constEnd())
+        return *known;
     PlotImage plot;
-    plot.setService(table.text(keys::service));
+    plot.setService(service);
     plot.setCurveBackground(attribute(QStringLiteral("plot_curve_bg")).toString());
     plot.setSize(attribute(QStringLiteral("plot_width")).toInt(), attribute(QStringLiteral("plot_height")).toInt());
-    plot.write(uiutils::paths::plotImage(number));
-    m_html->writeImageParagraph(plot.getData());
+    plot.write(uiutils::paths::plotImage(m_plots.size()));
+    return *m_plots.insert(service, plot.getData());
 }

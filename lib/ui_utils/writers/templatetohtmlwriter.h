@@ -3,6 +3,8 @@
 #include "core/uiutils_export.h"
 #include "writers/reportitem.h"
 
+#include <QByteArray>
+#include <QHash>
 #include <QJsonObject>
 #include <QString>
 #include <QVariant>
@@ -65,12 +67,14 @@ private:
     void tablesToHtml(const QJsonObject& node);
     void tableToHtml(const uiutils::TableReader& table);
     void rowToHtml(const uiutils::TableReader& table, bool hasLabel, const QJsonObject& row);
-    void plotToHtml(const uiutils::TableReader& table, int number);
+    const QByteArray& plotOf(const QString& service);
     void writeConfigurationValues(const uiutils::NodeReader& section);
 
     QJsonObject m_document;
     QVariantMap m_bodyAttributes;
     std::unique_ptr<HtmlStreamWriter> m_html;
+    // A picture of each service: the page holds them anyway, and drawing one takes longer than the rest of the page.
+    QHash<QString, QByteArray> m_plots;
     int m_depth = 0;
     bool m_isWritten = false;
 };

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QPainter>
+#include <QPen>
+#include <QPointF>
+#include <QRectF>
+#include <QVector>
+
+namespace uiutils {
+
+class CurveInk;
+
+/// Draws lines and dots of one curve in time that the picture's pixels bound, however many points there are
+/// and in whatever order they come.
+///
+/// What would paint the frame more than once is gathered pixel by pixel first. Such a curve covers itself, so
+/// that neither its dashes nor its single lines could be told apart.
+class CurvePainter
+{
+public:
+    /// Everything is in the painter's coordinates and within the frame.
+    CurvePainter(QPainter& painter, const QRectF& frame, const QPen& pen);
+
+    void drawLines(const QVector<QVector<QPointF>>& stretches);
+    void drawDots(const QVector<QPointF>& points);
+
+private:
+    bool coversItself(double paintedPixels) const;
+    double paintedPixels(const QVector<QPointF>& stretch) const;
+    void drawInPieces(const QVector<QPointF>& stretch);
+    void drawInk(const CurveInk& ink, double width);
+
+    QPainter& m_painter;
+    QRectF m_frame;
+    QPen m_pen;
+};
+
+} // namespace uiutils
