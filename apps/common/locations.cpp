@@ -9,12 +9,11 @@ namespace uiutils::apps {
 
 namespace {
 
-/// `ofTree` while the tree is there, else a folder beside the installed program.
-QString ofTreeOrBesideProgram(const QString& ofTree, const QString& fromProgram)
+/// The folder beside the installed program, or that of the tree for a program that was only built.
+QString besideProgramOrOfTree(const QString& fromProgram, const QString& ofTree)
 {
-    if (QDir(ofTree).exists())
-        return ofTree;
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1Char('/') + fromProgram);
+    const QString installed = QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1Char('/') + fromProgram);
+    return QDir(installed).exists() ? installed : ofTree;
 }
 
 } // namespace
@@ -35,13 +34,13 @@ QStringList defaultServiceFolders()
     const QStringList fromEnvironment = kiv::embedded::EmbeddedBackend::foldersFromEnvironment();
     if (!fromEnvironment.isEmpty())
         return fromEnvironment;
-    return {ofTreeOrBesideProgram(
-            QStringLiteral(UIUTILS_SERVICES_OF_TREE), QStringLiteral("../share/uiutils/services"))};
+    return {besideProgramOrOfTree(
+            QStringLiteral("../share/uiutils/services"), QStringLiteral(UIUTILS_SERVICES_OF_TREE))};
 }
 
 QString qmlModuleFolder()
 {
-    return ofTreeOrBesideProgram(QStringLiteral(UIUTILS_QML_OF_TREE), QStringLiteral(UIUTILS_QML_FROM_BIN));
+    return besideProgramOrOfTree(QStringLiteral(UIUTILS_QML_FROM_BIN), QStringLiteral(UIUTILS_QML_OF_TREE));
 }
 
 } // namespace uiutils::apps

@@ -12,7 +12,7 @@ QString defaultRoot(const QString& program);
 /// The folders of the service files unless the user names some: those of KIV_SERVICES, else the ones that ship.
 QStringList defaultServiceFolders();
 
-/// Where the library's QML modules lie: in the tree's build, else where they are installed beside the program.
+/// Where the library's QML modules lie: where they are installed beside the program, else in the tree's build.
 QString qmlModuleFolder();
 
 } // namespace uiutils::apps

@@ -1,20 +1,89 @@
+#include "core/userdata.h"
 #include "document/reporttemplate.h"
 #include "module/uiutilsmodule.h"
+#include "service/forgivingvalidator.h"
+#include "service/kivaggregatedata.h"
+#include "service/kivlistaggregatedata.h"
+#include "service/kivsignal.h"
+#include "service/manifest.h"
+#include "service/qmllistaggregate.h"
 
+#include <QFile>
 #include <QJsonObject>
+#include <QMetaMethod>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <memory>
+
+Q_DECLARE_METATYPE(const QMetaObject*)
 
 /// The types as a page reaches them: through an import and through the shared library.
 class ModuleTest : public QObject
 {
     Q_OBJECT
 
+    /// The description of one type, or an empty text.
+    static QString componentText(const QString& name)
+    {
+        QFile file(UIUTILS_QML_DIR "/UiUtils/plugins.qmltypes");
+        if (!file.open(QIODevice::ReadOnly))
+            return QString();
+        const QStringList components = QString::fromUtf8(file.readAll()).split("\n    Component {");
+        for (const QString& component : components) {
+            if (component.trimmed().startsWith(QString("name: \"%1\"\n").arg(name)))
+                return component;
+        }
+        return QString();
+    }
+
+    static bool mentions(const QString& text, const char* kind, const QString& name)
+    {
+        return QRegularExpression(QString("\\n        %1 \\{\\s+name: \"%2\"").arg(kind, name)).match(text).hasMatch();
+    }
+
 private Q_SLOTS:
     void initTestCase() { uiutils::registerTypes(); }
+
+    /// What tools know of the module, against what the classes have.
+    void descriptionForTools_data()
+    {
+        QTest::addColumn<const QMetaObject*>("type");
+        for (const QMetaObject* type : {&Manifest::staticMetaObject, &KivData::staticMetaObject,
+                     &KivAggregateData::staticMetaObject, &KivListAggregateData::staticMetaObject,
+                     &QMLListAggregate::staticMetaObject, &KIVSignal::staticMetaObject, &ForgivingValidator::staticMetaObject,
+                     &UserData::staticMetaObject, &ReportTemplate::staticMetaObject, &KIVClientInterface::staticMetaObject,
+                     &BaseFormatter::staticMetaObject})
+            QTest::newRow(type->className()) << type;
+    }
+    void descriptionForTools()
+    {
+        QFETCH(const QMetaObject*, type);
+        const QString text = componentText(type->className());
+        QVERIFY2(text.contains(QString("exports: [\"UiUtils/%1 1.0\"]").arg(type->className())), type->className());
+        for (int i = type->propertyOffset(); i < type->propertyCount(); ++i)
+            QVERIFY2(mentions(text, "Property", type->property(i).name()), type->property(i).name());
+        for (int i = type->methodOffset(); i < type->methodCount(); ++i) {
+            const QMetaMethod method = type->method(i);
+            if (method.access() == QMetaMethod::Private)
+                continue;
+            // A property's own notifier goes without saying.
+            const QString name = method.name();
+            if (method.parameterCount() == 0 && name.endsWith("Changed") && mentions(text, "Property", name.chopped(7)))
+                continue;
+            const char* kind = method.methodType() == QMetaMethod::Signal ? "Signal" : "Method";
+            QVERIFY2(mentions(text, kind, name), method.methodSignature());
+        }
+        for (int i = type->enumeratorOffset(); i < type->enumeratorCount(); ++i)
+            QVERIFY2(mentions(text, "Enum", type->enumerator(i).name()), type->enumerator(i).name());
+    }
+
+    void recordsHaveATypeOfTheirOwn()
+    {
+        QVERIFY(componentText("QQmlPropertyMap").contains("UiUtils/QMLAggregate 1.0"));
+    }
 
     void aPageBuildsAReport()
     {

@@ -329,6 +329,8 @@ private Q_SLOTS:
     {
         const Formatters platform;
         m_speed->state->attributes = {{"formatter", "brackets"}, {"precision", 3}};
+        m_mode->state->attributes = {{"formatter", "brackets"}, {"enum", "mode"}};
+        m_manifest = std::make_unique<Manifest>(m_client.get(), "tag", "rec");
         const KivData* speed = wrapper(speedId);
         QVERIFY(speed->getBaseFormatter());
         QCOMPARE(speed->getBaseFormatter(), speed->getBaseFormatter());
@@ -341,7 +343,6 @@ private Q_SLOTS:
         QCOMPARE(speed->getValueString(false), QString("[11/3]"));
         QVERIFY(speed->getBaseFormatter()->getShowUnits());
         QCOMPARE(speed->getUnitString(), QString("u11"));
-        m_mode->state->attributes = {{"formatter", "brackets"}, {"enum", "mode"}};
         QVERIFY(!wrapper(modeId)->getBaseFormatter());
     }
 

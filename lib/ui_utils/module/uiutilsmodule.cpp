@@ -34,6 +34,7 @@ void registerServiceTypes(const char* uri)
     registerOfManifest<KivData>(uri, "KivData");
     registerOfManifest<KivAggregateData>(uri, "KivAggregateData");
     registerOfManifest<KivListAggregateData>(uri, "KivListAggregateData");
+    registerOfManifest<QMLAggregate>(uri, "QMLAggregate");
     registerOfManifest<QMLListAggregate>(uri, "QMLListAggregate");
     qmlRegisterUncreatableType<Manifest>(
             uri, 1, 0, "Manifest", QStringLiteral("A manifest is made by the application, which has the service's client."));

@@ -44,6 +44,7 @@ KivData::KivData(KIVClientItem* item, Manifest* manifest)
         return;
     m_id = item->getId();
     m_value = item->getValue();
+    createFormatter();
     connectItem();
 }
 
@@ -73,6 +74,8 @@ void KivData::bindItem(KIVClientItem* item)
     delete m_expression;
     m_expression = nullptr;
     m_isExpressionRefused = false;
+    if (item && !m_formatter)
+        createFormatter();
     if (item)
         connectItem();
     announceItem();
@@ -191,7 +194,7 @@ QString KivData::getRangeDescription() const
 /// Made when it is first asked for: most items are never edited.
 QValidator* KivData::getValidator() const
 {
-    if (!m_validator) {
+    if (!m_validator && m_item) {
         uiutils::InputRule rule;
         rule.type = getType();
         rule.regex = getRegex();
@@ -203,25 +206,27 @@ QValidator* KivData::getValidator() const
     return m_validator;
 }
 
-/// Made when it is first asked for, and then told every value.
 BaseFormatter* KivData::getBaseFormatter() const
 {
-    if (m_hasFormatter)
-        return m_formatter;
-    m_hasFormatter = true;
+    return m_formatter;
+}
+
+/// There from the start, because the item that names it may vanish.
+void KivData::createFormatter()
+{
+    if (getType() == QLatin1String("std::string"))
+        return;
     const QString name = getAttr(QStringLiteral("formatter")).toString();
-    const bool isEnumeration = !getAttr(QStringLiteral("enum")).toString().isEmpty();
-    if (name.isEmpty() || isEnumeration || getType() == QLatin1String("std::string"))
-        return nullptr;
+    if (name.isEmpty() || !getAttr(QStringLiteral("enum")).toString().isEmpty())
+        return;
     m_formatter = getFormatter(name);
     if (!m_formatter)
-        return nullptr;
-    m_formatter->setParent(const_cast<KivData*>(this));
+        return;
+    m_formatter->setParent(this);
     const QVariant precision = getAttr(QStringLiteral("precision"));
     if (!precision.isNull())
         m_formatter->setPrecision(precision.toInt());
     m_formatter->setValue(m_value);
-    return m_formatter;
 }
 
 QVariant KivData::getProperty(QString const& prop) const

@@ -231,6 +231,7 @@ private:
     /// Follows another item, or none; called when the service's items have come or gone.
     void bindItem(KIVClientItem* item);
     void connectItem();
+    void createFormatter();
     void announceItem();
     void compileApplicability(const QString& expression);
     bool evaluateApplicability();
@@ -240,12 +241,11 @@ private:
     void followUserData() const;
 
     QVariant m_value;
-    mutable BaseFormatter* m_formatter = nullptr;
+    BaseFormatter* m_formatter = nullptr;
     mutable QValidator* m_validator = nullptr;
     QVariant m_previous;
     bool m_changed = false;
     bool m_sent = false;
-    mutable bool m_hasFormatter = false;
     bool m_isExpressionRefused = false;
     bool m_isEvaluating = false;
     mutable bool m_followsUserData = false;

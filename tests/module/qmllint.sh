@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# Runs qmllint over every QML file of the tree.
+set -euo pipefail
+qmllint=$1
+cd "$2"
+
+mapfile -d '' -t files < <(find apps lib qml tests docs -name '*.qml' -print0)
+((${#files[@]} > 0))
+"$qmllint" "${files[@]}"
+echo "${#files[@]} QML files"
