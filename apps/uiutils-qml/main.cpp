@@ -10,7 +10,6 @@
 #include <QLoggingCategory>
 #include <QQmlEngine>
 #include <QQuickWindow>
-#include <QTimer>
 
 #include <cstdio>
 
@@ -68,9 +67,7 @@ int show(apps::Instrument& instrument, const Options& options)
     if (options.picture.isEmpty())
         return QCoreApplication::exec();
 
-    // Behind what the page has queued for its first turn.
-    QTimer::singleShot(0, page.window(), [&] {
-        const QString error = qmltool::writePicture(page.window(), options.picture);
+    qmltool::takePicture(page.window(), options.picture, [](const QString& error) {
         QCoreApplication::exit(error.isEmpty() ? exitDone : complain(error));
     });
     return QCoreApplication::exec();

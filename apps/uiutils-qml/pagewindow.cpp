@@ -8,7 +8,9 @@
 #include <QImage>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QQuickItemGrabResult>
 #include <QQuickView>
+#include <QTimer>
 #include <QUrl>
 
 namespace uiutils::qmltool {
@@ -27,6 +29,27 @@ QString plainTextOf(const QQmlComponent& component)
     for (const QQmlError& error : errors)
         lines.append(error.toString());
     return lines.join(QLatin1Char('\n'));
+}
+
+QString writePicture(const QImage& image, const QString& file)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QString error;
+    if (!image.save(&buffer, "PNG"))
+        return tr("The page gave no picture for %1.").arg(file);
+    return writeFileDurably(file, bytes, &error) ? QString() : error;
+}
+
+void grab(QQuickWindow* window, const QString& file, const std::function<void(const QString&)>& done)
+{
+    const QSharedPointer<QQuickItemGrabResult> result = window->contentItem()->grabToImage();
+    if (!result)
+        return done(tr("The page gave no picture for %1.").arg(file));
+    // Queued, because the result, which this holds, must outlive its own signal.
+    QObject::connect(result.data(), &QQuickItemGrabResult::ready, window,
+            [result, file, done] { done(writePicture(result->image(), file)); }, Qt::QueuedConnection);
 }
 
 } // namespace
@@ -71,15 +94,20 @@ void PageWindow::show(QQmlEngine* engine)
     m_window->show();
 }
 
-QString writePicture(QQuickWindow* window, const QString& file)
+void takePicture(QQuickWindow* window, const QString& file, const std::function<void(const QString&)>& done)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QString error;
-    if (!window->grabWindow().save(&buffer, "PNG"))
-        return tr("The page gave no picture for %1.").arg(file);
-    return writeFileDurably(file, bytes, &error) ? QString() : error;
+    // Before the first frame the window has no size.
+    auto first = std::make_shared<QMetaObject::Connection>();
+    *first = QObject::connect(window, &QQuickWindow::frameSwapped, window, [window, file, done, first] {
+        QObject::disconnect(*first);
+        grab(window, file, done);
+    }, Qt::QueuedConnection);
+    // In which a window that is drawn at all has been drawn.
+    constexpr int patienceMs = 20000;
+    QTimer::singleShot(patienceMs, window, [file, done] {
+        done(tr("The page was not drawn in time for %1. Keep its window in sight, or unset DISPLAY and WAYLAND_DISPLAY.")
+                        .arg(file));
+    });
 }
 
 } // namespace uiutils::qmltool

@@ -4,6 +4,7 @@
 #include <QQmlComponent>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class QQmlEngine;
@@ -34,7 +35,7 @@ private:
     QString m_error;
 };
 
-/// Draws the window and writes the picture as PNG; returns what went wrong, or an empty text.
-QString writePicture(QQuickWindow* window, const QString& file);
+/// Takes a picture of the window once it is drawn, writes it as PNG and calls `done` with what went wrong, or an empty text.
+void takePicture(QQuickWindow* window, const QString& file, const std::function<void(const QString&)>& done);
 
 } // namespace uiutils::qmltool
