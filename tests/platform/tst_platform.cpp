@@ -92,7 +92,9 @@ private Q_SLOTS:
         KIVClientInterface* own = KIVClientInterface::getSessionBusClient("kinds", &parent);
         const QPointer<KIVClientItem> item = own->getItem(":config:kinds:test:speed:");
         QVERIFY(item);
+        QSignalSpy lists(own, &KIVClientInterface::itemsChanged);
         m_setup.reset();
+        QCOMPARE(lists.size(), 1);
         QVERIFY(!item);
         QVERIFY(!own->isValid());
         QVERIFY(!own->getItem(":config:kinds:test:speed:"));
@@ -519,6 +521,7 @@ private Q_SLOTS:
         QTest::newRow("unknown") << json({{"level_3", 4}, {"levle", 4}}) << QVariantMap() << QStringList {"levle"};
         QTest::newRow("result") << json({{"loss", 4}}) << QVariantMap() << QStringList {"loss"};
         QTest::newRow("twice") << json({{"level_3", 4}, {"level:3", 5}}) << QVariantMap() << QStringList {"Level", "twice"};
+        QTest::newRow("null") << "{\"level_3\": null}" << QVariantMap() << QStringList {"Level", "nothing"};
         QTest::newRow("no object") << "[1]" << QVariantMap() << QStringList {"station"};
         QTest::newRow("no JSON") << "{" << QVariantMap() << QStringList {"station", "unterminated"};
     }

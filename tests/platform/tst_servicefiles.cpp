@@ -1,5 +1,7 @@
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
+#include <kiv/kivclientinterface.h>
+#include <kiv/kivclientitem.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -33,7 +35,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QStringList>("services");
         QTest::newRow("shipped") << UIUTILS_SOURCE_DIR "/platform/reference/services"
-                                 << QStringList {"basemgr", "loopback", "loopback_rtt", "loopback_throughput"};
+                                 << QStringList {"basemgr", "loopback", "loopback_rtt", "loopback_throughput",
+                "optical"};
         QTest::newRow("of the tests") << UIUTILS_TEST_DATA_DIR "/services" << QStringList {"basemgr", "kinds", "plots", "station"};
     }
     void shippedFilesLoad()
@@ -46,6 +49,25 @@ private Q_SLOTS:
         QCOMPARE(backend.serviceNames(), services);
         for (const QString& service : services)
             QVERIFY(!backend.service(service)->itemIds().isEmpty());
+    }
+
+    /// A value that a screen could not give back would be a fault of the file.
+    void shippedSettingsTakeTheirOwnValues()
+    {
+        EmbeddedBackend backend;
+        backend.loadFolders({UIUTILS_SOURCE_DIR "/platform/reference/services"});
+        QStringList refusals;
+        int settings = 0;
+        for (const QString& service : backend.serviceNames()) {
+            KIVClientInterface* client = KIVClientInterface::getSessionBusClient(service);
+            for (const QString& id : client->getItemIds(":config:")) {
+                ++settings;
+                if (!client->setItem(id, client->getItem(id)->getValue()))
+                    refusals += client->getLastError();
+            }
+        }
+        QCOMPARE(refusals, QStringList {"The calibration is set in the factory only."});
+        QVERIFY(settings > 20);
     }
 
     void refusedFiles_data()
