@@ -36,7 +36,7 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("services");
         QTest::newRow("shipped") << UIUTILS_SOURCE_DIR "/platform/reference/services"
                                  << QStringList {"basemgr", "loopback", "loopback_rtt", "loopback_throughput",
-                "optical"};
+                                        "optical"};
         QTest::newRow("of the tests") << UIUTILS_TEST_DATA_DIR "/services" << QStringList {"basemgr", "kinds", "plots", "station"};
     }
     void shippedFilesLoad()
