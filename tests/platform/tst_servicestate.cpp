@@ -261,6 +261,14 @@ private Q_SLOTS:
         QTRY_VERIFY(QFile::exists(stateFile()));
         QCOMPARE(readJson(stateFile()).value("values").toObject(), (QJsonObject {{levelId, 1}, {prefix + "on:", false}}));
         QCOMPARE(errors.size(), 1);
+
+        // Without a next change the last moment to try again is the end of the service.
+        QVERIFY(QDir(m_dir->filePath("made")).removeRecursively() && write(m_dir->filePath("made"), "in the way"));
+        QVERIFY(run.client()->setItem(levelId, 2));
+        QTRY_COMPARE(errors.size(), 2);
+        QVERIFY(QFile::remove(m_dir->filePath("made")));
+        QVERIFY(run.backend()->withdraw("station"));
+        QCOMPARE(readJson(stateFile()).value("values").toObject().value(levelId).toInt(), 2);
     }
 
     void configurations_data()
