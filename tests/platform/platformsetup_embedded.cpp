@@ -5,16 +5,84 @@
 
 namespace {
 
+using kiv::embedded::EmbeddedService;
+
 class EmbeddedSetup final : public PlatformSetup
 {
 public:
     bool report(const QString& service, const QString& id, const QVariant& value) override
     {
-        kiv::embedded::EmbeddedService* published = backend.service(service);
-        return published && published->setValue(id, value);
+        return of(service) && of(service)->setValue(id, value);
+    }
+
+    bool change(const QString& service, const QString& id, Answer answer, const QVariant& value) override
+    {
+        EmbeddedService* published = of(service);
+        switch (published ? answer : Answer(-1)) {
+        case Answer::Ready:
+            return published->setReady(id, value.toBool());
+        case Answer::Quality:
+            return published->setQuality(id, KIVClientItem::Quality(value.toInt()));
+        case Answer::Unit:
+            return published->setUnit(id, value.toString());
+        case Answer::Applicable:
+            return published->setApplicable(id, value.toBool());
+        case Answer::Refusal:
+            return published->setRefusal(id, value.toString());
+        }
+        return false;
+    }
+
+    bool setChoices(const QString& service, const QString& id, const QVector<Choice>& choices) override
+    {
+        QVector<kiv::embedded::ChoiceDescription> descriptions;
+        for (const Choice& choice : choices)
+            descriptions.append({choice.value, choice.name, QString(), true});
+        return of(service) && of(service)->setChoices(id, descriptions);
+    }
+
+    bool addItem(const QString& service, const QString& id, const QString& type, const QVariant& value) override
+    {
+        kiv::embedded::ItemDescription item;
+        item.id = id;
+        item.type = type;
+        item.value = value;
+        return of(service) && of(service)->addItem(item);
+    }
+
+    bool removeItem(const QString& service, const QString& id) override
+    {
+        return of(service) && of(service)->removeItem(id);
+    }
+
+    bool setReachable(const QString& service, bool isReachable) override
+    {
+        EmbeddedService* published = of(service);
+        if (published)
+            published->setReachable(isReachable);
+        return published;
+    }
+
+    bool reportError(const QString& service, const QString& text) override
+    {
+        EmbeddedService* published = of(service);
+        if (published)
+            published->reportError(text);
+        return published;
+    }
+
+    bool setDelay(const QString& service, int ms) override
+    {
+        EmbeddedService* published = of(service);
+        if (published)
+            published->setDelay(ms);
+        return published;
     }
 
     kiv::embedded::EmbeddedBackend backend;
+
+private:
+    EmbeddedService* of(const QString& service) const { return backend.service(service); }
 };
 
 } // namespace

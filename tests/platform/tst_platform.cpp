@@ -1,16 +1,46 @@
 #include "platformsetup.h"
 
+#include <kiv/kivaggregateclientitem.h>
 #include <kiv/kivbackend.h>
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
+#include <kiv/kivenumclientitem.h>
 #include <kiv/kivitemsnapshot.h>
+#include <kiv/kivvecclientitem.h>
 #include <kiv/system.h>
 
+#include <QElapsedTimer>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLocale>
 #include <QPointer>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QtTest>
+
+namespace {
+
+KIVClientInterface* station()
+{
+    return KIVClientInterface::getSessionBusClient("station");
+}
+
+KIVClientItem* stationItem(const char* id)
+{
+    return station()->getItem(id);
+}
+
+const QString modeId = QStringLiteral(":config:station:setup:mode:");
+const QString levelId = QStringLiteral(":config:station:setup:level_3:");
+const QString stateId = QStringLiteral(":result:station:state:");
+const QString applyId = QStringLiteral(":action:station:applyconfig:");
+
+QString json(const QJsonObject& object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+} // namespace
 
 class PlatformTest : public QObject
 {
@@ -23,7 +53,8 @@ private Q_SLOTS:
     void init()
     {
         const QString data = QStringLiteral(UIUTILS_TEST_DATA_DIR "/services/");
-        m_setup = PlatformSetup::create({data + "basemgr.service.json", data + "kinds.service.json"});
+        m_setup = PlatformSetup::create({data + "basemgr.service.json", data + "kinds.service.json",
+                data + "station.service.json"});
         QVERIFY(m_setup);
     }
     void cleanup() { m_setup.reset(); }
@@ -61,7 +92,9 @@ private Q_SLOTS:
         KIVClientInterface* own = KIVClientInterface::getSessionBusClient("kinds", &parent);
         const QPointer<KIVClientItem> item = own->getItem(":config:kinds:test:speed:");
         QVERIFY(item);
+        QSignalSpy lists(own, &KIVClientInterface::itemsChanged);
         m_setup.reset();
+        QCOMPARE(lists.size(), 1);
         QVERIFY(!item);
         QVERIFY(!own->isValid());
         QVERIFY(!own->getItem(":config:kinds:test:speed:"));
@@ -156,6 +189,498 @@ private Q_SLOTS:
         QVERIFY(m_setup->report("kinds", item->getId(), 2e13));
         QVERIFY(m_setup->report("kinds", item->getId(), 2e13 + 1));
         QTRY_COMPARE(changes.size(), 4);
+    }
+
+    void kinds_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<unsigned>("type");
+        QTest::addColumn<QString>("typeName");
+        QTest::addColumn<QByteArray>("kind");
+        QTest::addColumn<QString>("text");
+        using Item = KIVClientItem;
+        const auto row = [](const char* id, unsigned type, const char* typeName, const char* kind, const char* text) {
+            QTest::newRow(id) << QString(id) << type << QString(typeName) << QByteArray(kind) << QString(text);
+        };
+        row(":config:station:setup:mode:", Item::TypeInt, "int", "KIVEnumClientItem", "Automatic");
+        row(":config:station:setup:level_3:", Item::TypeInt, "int", "KIVClientItem", "5 dB");
+        row(":config:station:setup:count:", Item::TypeUInt, "uint", "KIVClientItem", "7");
+        row(":config:station:setup:on:", Item::TypeBool, "bool", "KIVClientItem", "true");
+        row(":config:station:setup:title:", Item::TypeString, "std::string", "KIVClientItem", "First");
+        row(":config:station:setup:hosts:stringARRAY:", Item::TypeStringArray, "std::vector<string>", "KIVVecClientItem", "a");
+        row(":config:station:setup:points:doubleARRAY:", Item::TypeDoubleArray, "std::vector<double>", "KIVVecClientItem",
+                "1, 2");
+        row(":config:station:setup:limits:", Item::TypeAggregate, "aggregate", "KivAggregateClientItem", "2.5, -1");
+        row(":result:station:events:", Item::TypeListAggregate, "listAggregate", "KivListAggregateClientItem",
+                "1.5, Splice; 20, End");
+        row(":action:station:start:", Item::TypeAction, "action", "KIVClientItem", "");
+        // A formatter brings its own unit, but the item's comes first.
+        row(":result:station:loss:", Item::TypeDouble, "double", "KIVClientItem", "3.22 dB");
+        row(":result:station:gain:", Item::TypeDouble, "double", "KIVClientItem", "1,500.0 dBm");
+    }
+    void kinds()
+    {
+        QFETCH(QString, id);
+        QFETCH(unsigned, type);
+        QFETCH(QString, typeName);
+        QFETCH(QByteArray, kind);
+        QFETCH(QString, text);
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        const KIVClientItem* item = station()->getItem(id);
+        QVERIFY(item);
+        QCOMPARE(item->getType(), type);
+        QCOMPARE(item->getTypeName(), typeName);
+        QCOMPARE(item->getAttribute("type").toString(), typeName);
+        QCOMPARE(item->getValueString(), text);
+        for (const char* one : {"KIVEnumClientItem", "KIVVecClientItem", "KivAggregateClientItem", "KivListAggregateClientItem"})
+            QCOMPARE(item->inherits(one), kind == one);
+        QCOMPARE(item->getAttribute("enum").toString(), kind == "KIVEnumClientItem" ? item->getName() : QString());
+    }
+
+    void whatAnItemSaysOfItself()
+    {
+        const KIVClientItem* level = station()->getItem(levelId);
+        QCOMPARE(level->getMinRange(), QVariant(-10));
+        QCOMPARE(level->getMaxRange(), QVariant(10));
+        QCOMPARE(level->getAttribute("minRange"), QVariant(-10));
+        QCOMPARE(level->getAttribute("maxRange"), QVariant(10));
+        QCOMPARE(level->getAttribute("label"), QVariant("Level"));
+        QVERIFY(!level->getAttribute("precision").isValid());
+        QVERIFY(level->isReady() && level->isApplicable() && level->getApplicableExpr().isEmpty());
+
+        const KIVClientItem* power = stationItem(":config:station:setup:power:");
+        QCOMPARE(power->getAttribute("precision"), QVariant(1));
+        QCOMPARE(power->getApplicableExpr(), QString("cfg.mode == 2"));
+        QCOMPARE(stationItem(":config:station:setup:title:")->getMaxRange(), QVariant(8));
+        QVERIFY(!stationItem(":config:station:setup:count:")->getMinRange().isValid());
+        QVERIFY(!stationItem(":config:station:setup:warming:")->isReady());
+        QVERIFY(!stationItem(":result:station:gain:")->isApplicable());
+        QCOMPARE(stationItem(":result:station:loss:")->getQualityCode(), int(KIVClientItem::QualityWarning));
+        QCOMPARE(stationItem(":result:station:loss:")->getUnitString(), QString("dB"));
+    }
+
+    void recordsAndTables()
+    {
+        const auto* limits = qobject_cast<KivAggregateClientItem*>(stationItem(":config:station:setup:limits:"));
+        KivAggregate record = limits->getAggregate();
+        QCOMPARE(record.getPropertyNames(), (QList<QByteArray> {"upper", "lower"}));
+        QCOMPARE(record.getPropertyVariant("lower"), QVariant(-1));
+        QCOMPARE(record.toVariant(), limits->getValue());
+        QVERIFY(record.setPropertyFromVariant("upper", 9.5));
+        QVERIFY(station()->setItem(limits->getId(), record.toVariant()));
+        QTRY_COMPARE(limits->getAggregate().getPropertyVariant("upper"), QVariant(9.5));
+
+        const auto* events = qobject_cast<KivListAggregateClientItem*>(stationItem(":result:station:events:"));
+        QSignalSpy changes(events, &KIVClientItem::valueChanged);
+        const KivListAggregate table = events->getListAggregate();
+        QCOMPARE(table.getSize(), 2);
+        QCOMPARE(table.getPropertyNames(), (QList<QByteArray> {"position", "kind"}));
+        QCOMPARE(table.getPropertyVariant("position", 1), QVariant(20.0));
+        QVERIFY(m_setup->report("station", events->getId(), table.toVariant()));
+        QVERIFY(m_setup->report("station", events->getId(), QVariantList()));
+        QTRY_COMPARE(events->getListAggregate().getSize(), 0);
+        QCOMPARE(events->getListAggregate().getPropertyNames().size(), 2);
+        QCOMPARE(changes.size(), 1);
+    }
+
+    void choicesChange()
+    {
+        const auto* mode = qobject_cast<KIVEnumClientItem*>(station()->getItem(modeId));
+        KIVEnumChoicesClientItem* choices = mode->getChoices();
+        QCOMPARE(choices->count(), 3);
+        QCOMPARE(choices->indexOf(-2), 1);
+        QCOMPARE(choices->labelForValue(unsigned(-2)), QString("Manual"));
+        QCOMPARE(choices->labelAt(2), QString("From afar"));
+        QVERIFY(choices->isApplicableAt(1) && !choices->isApplicableAt(2));
+        QCOMPARE(choices->valueAt(3), -1);
+        QVERIFY(choices->nameAt(-1).isEmpty() && !choices->isApplicableAt(3));
+
+        QSignalSpy changes(choices, &KIVEnumChoicesClientItem::valueChanged);
+        QSignalSpy values(mode, &KIVClientItem::valueChanged);
+        QVERIFY(m_setup->setChoices("station", modeId, {{1, "One"}, {4, "Four"}}));
+        QVERIFY(m_setup->setChoices("station", modeId, {{1, "One"}, {4, "Four"}}));
+        QTRY_COMPARE(changes.size(), 1);
+        QCOMPARE(mode->getChoices(), choices);
+        QCOMPARE(mode->getValueString(), QString("One"));
+        QVERIFY(!station()->setItem(modeId, -2));
+        QVERIFY(station()->setItem(modeId, 4));
+        QTRY_COMPARE(values.size(), 1);
+        QVERIFY(!m_setup->setChoices("station", levelId, {{1, "One"}}));
+    }
+
+    void answersThatChange_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QVariant>("before");
+        QTest::addColumn<QVariant>("after");
+        QTest::addColumn<QByteArray>("changed");
+        using Answer = PlatformSetup::Answer;
+        const auto row = [](const char* name, Answer answer, const QVariant& before, const QVariant& after) {
+            QTest::newRow(name) << int(answer) << before << after << QByteArray(name);
+        };
+        row("isReadyChanged()", Answer::Ready, true, false);
+        row("qualityChanged()", Answer::Quality, KIVClientItem::QualityNone, KIVClientItem::QualityFailing);
+        row("unitsChanged()", Answer::Unit, "dB", "dBm");
+        row("isApplicableChanged()", Answer::Applicable, true, false);
+    }
+    void answersThatChange()
+    {
+        QFETCH(int, answer);
+        QFETCH(QVariant, before);
+        QFETCH(QVariant, after);
+        QFETCH(QByteArray, changed);
+        const KIVClientItem* item = station()->getItem(levelId);
+        std::vector<std::unique_ptr<QSignalSpy>> spies;
+        for (const char* signal : {SIGNAL(valueChanged()), SIGNAL(unitsChanged()), SIGNAL(isReadyChanged()),
+                     SIGNAL(qualityChanged()), SIGNAL(isApplicableChanged())})
+            spies.push_back(std::make_unique<QSignalSpy>(item, signal));
+        const auto drive = [&](const QVariant& value) {
+            return m_setup->change("station", levelId, PlatformSetup::Answer(answer), value);
+        };
+        QVERIFY(drive(before));
+        QVERIFY(drive(after));
+        QVERIFY(drive(after));
+        for (const auto& spy : spies)
+            QTRY_COMPARE(spy->size(), spy->signal() == changed ? 1 : 0);
+        const QVariantList now {item->isReady(), item->getQualityCode(), item->getUnitString(), item->isApplicable()};
+        QCOMPARE(now.at(answer), after);
+        QVERIFY(!m_setup->change("station", ":config:station:none:", PlatformSetup::Answer(answer), before));
+    }
+
+    void aFormatterScalesTheUnit()
+    {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        const KIVClientItem* rate = stationItem(":result:station:rate:");
+        QSignalSpy units(rate, &KIVClientItem::unitsChanged);
+        QCOMPARE(rate->getValueString(), QString("999 bit/s"));
+        QVERIFY(m_setup->report("station", rate->getId(), 998));
+        QVERIFY(m_setup->report("station", rate->getId(), 5000));
+        QTRY_COMPARE(units.size(), 1);
+        QCOMPARE(rate->getUnitString(), QString("kbit/s"));
+        QCOMPARE(rate->getValueString(false), QString("5"));
+    }
+
+    void writes_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QVariant>("given");
+        QTest::addColumn<QVariant>("taken");
+        QTest::addColumn<QStringList>("words");
+        const auto take = [](const char* row, const char* name, const QVariant& given, const QVariant& taken) {
+            QTest::newRow(row) << QString(name) << given << taken << QStringList();
+        };
+        take("double for an int", "level_3", 7.0, 7);
+        take("text for an int", "level_3", "-10", -10);
+        take("exponent for an int", "level_3", "1e1", 10);
+        take("text for a double", "power", "12.25", 12.25);
+        take("int for a double", "power", 12, 12.0);
+        take("whole uint", "count", 4294967295.0, 4294967295u);
+        take("number for a text", "title:any", 5, "5");
+        take("one for a bool", "on", 0, false);
+        take("text for a bool", "on", "false", false);
+        take("choice", "mode", -2.0, -2);
+        take("texts", "hosts:stringARRAY", QVariantList {"x", 5}, QStringList {"x", "5"});
+        take("numbers", "points:doubleARRAY", QVariantList {"1.5", 2}, QVariantList {1.5, 2.0});
+        take("record", "limits", QVariantMap {{"lower", 3.0}, {"upper", "1"}}, QVariantMap {{"lower", 3}, {"upper", 1.0}});
+        take("at the limit of the length", "title", "Abcdefgh", "Abcdefgh");
+        take("broken pattern", "note", "any", "any");
+
+        const auto refuse = [](const char* row, const char* name, const QVariant& given, const QStringList& words) {
+            QTest::newRow(row) << QString(name) << given << QVariant() << words;
+        };
+        refuse("no number", "level_3", "loud", {"Level", "\"loud\"", "-10 to 10 dB"});
+        refuse("empty text", "level_3", "", {"Level", "not a number"});
+        refuse("number of another locale", "power", "1,234", {"Power", "not a number"});
+        refuse("fraction", "level_3", 1.5, {"Level", "1.5", "whole"});
+        refuse("nothing", "level_3", QVariant(), {"Level", "nothing"});
+        refuse("truth value", "level_3", true, {"Level", "not a number"});
+        refuse("above", "level_3", 11, {"Level", "11", "-10 to 10 dB"});
+        refuse("below", "power", -0.001, {"Power", "0 to 100"});
+        refuse("not a number", "power", qQNaN(), {"Power", "finite"});
+        refuse("text of no number", "power", "inf", {"Power"});
+        refuse("below a uint", "count", -1, {"Count", "-1", "4,294,967,295"});
+        refuse("above a uint", "count", 4294967296.0, {"Count"});
+        refuse("neither", "on", 2, {"On", "true or false"});
+        refuse("no choice", "mode", 7, {"Mode", "7", "Automatic, Manual"});
+        refuse("choice that is not applicable", "mode", 3, {"Mode", "not available"});
+        refuse("short text", "title", "A", {"Title", "\"A\"", "2 to 8 characters"});
+        refuse("endless text", "title", QString(100'000, 'A'), {"Title", "2 to 8 characters"});
+        refuse("pattern that matches a part", "title", "Ab9", {"Title", "form"});
+        refuse("list for a text", "title", QVariantList {"Abc"}, {"Title", "not a text"});
+        refuse("text for a list", "hosts:stringARRAY", "abc", {"Hosts", "not a list"});
+        refuse("long element", "hosts:stringARRAY", QStringList {"a", "123456"}, {"Hosts", "element 2", "1 to 5 characters"});
+        refuse("element of another type", "points:doubleARRAY", QVariantList {1, "x"}, {"Points", "element 2"});
+        refuse("element that is none", "points:doubleARRAY", QVariantList {qInf()}, {"Points", "element 1", "finite"});
+        refuse("missing member", "limits", QVariantMap {{"lower", 1}}, {"Limits", "\"upper\""});
+        refuse("further member", "limits", QVariantMap {{"lower", 1}, {"upper", 1}, {"x", 1}}, {"Limits", "\"x\""});
+        refuse("member of another type", "limits", QVariantMap {{"lower", 1.5}, {"upper", 1}}, {"Limits", "\"lower\"", "whole"});
+        refuse("number for a record", "limits", 1, {"Limits", "not a record"});
+        refuse("refused", "locked", 2, {"The laser is on."});
+        refuse("not ready", "warming", 2, {"Warm-up", "not ready"});
+    }
+    void writes()
+    {
+        QFETCH(QString, name);
+        QFETCH(QVariant, given);
+        QFETCH(QVariant, taken);
+        QFETCH(QStringList, words);
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        QString id = ":config:station:setup:" + name + ":";
+        if (name == "title:any")
+            id = ":config:station:setup:note:";
+        const KIVClientItem* item = station()->getItem(id);
+        QVERIFY(item);
+        const QVariant before = item->getValue();
+        QSignalSpy changes(item, &KIVClientItem::valueChanged);
+        QCOMPARE(station()->setItem(id, given), taken.isValid());
+        const QString error = station()->getLastError();
+        QCOMPARE(error.isEmpty(), taken.isValid());
+        for (const QString& word : words)
+            QVERIFY2(error.contains(word), qPrintable(error));
+        QVERIFY(error.size() < 300);
+        QTRY_COMPARE(item->getValue(), taken.isValid() ? taken : before);
+        QCOMPARE(item->getValue().userType(), (taken.isValid() ? taken : before).userType());
+        QCOMPARE(changes.size(), taken.isValid() ? 1 : 0);
+    }
+
+    void onlySettingsAreSet()
+    {
+        for (const char* id : {":result:station:loss:", ":action:station:start:", ":config:station:setup:none:", ""}) {
+            QVERIFY2(!station()->setItem(id, 1), id);
+            QVERIFY2(station()->getLastError().contains("station") || station()->getLastError().contains("setting"),
+                    qPrintable(station()->getLastError()));
+        }
+        QVERIFY(station()->setItem(levelId, 1));
+        QVERIFY(station()->getLastError().isEmpty());
+        QVERIFY(m_setup->change("station", levelId, PlatformSetup::Answer::Refusal, "Not while it measures."));
+        QVERIFY(!station()->setItem(levelId, 2));
+        QCOMPARE(station()->getLastError(), QString("Not while it measures."));
+        QCOMPARE(station()->getItem(levelId)->getValue(), QVariant(1));
+    }
+
+    void actions()
+    {
+        const KIVClientItem* state = station()->getItem(stateId);
+        QString reply = "untouched";
+        QVERIFY(station()->sendAction(":action:station:start:", "fast", &reply, 1000));
+        QCOMPARE(reply, QString("Started fast (%2)."));
+        QTRY_COMPARE(state->getValue(), QVariant("runs fast"));
+        QTRY_COMPARE(stationItem(":config:station:setup:count:")->getValue(), QVariant(1u));
+
+        QVERIFY(!station()->sendAction(":action:station:fail:", "", &reply, 1000));
+        QCOMPARE(station()->getLastError(), QString("No fiber is connected."));
+        QVERIFY(!station()->invokeAction(":action:station:orphan:"));
+        QVERIFY(station()->getLastError().contains("Orphan"));
+        QVERIFY(!station()->invokeAction(":action:station:none:"));
+        QVERIFY(station()->getLastError().contains(":action:station:none:"));
+        QCOMPARE(reply, QString("Started fast (%2)."));
+        QCOMPARE(state->getValue(), QVariant("runs fast"));
+        QVERIFY(station()->invokeAction(":action:station:start:"));
+        QTRY_COMPARE(state->getValue(), QVariant("runs "));
+    }
+
+    void aLateAnswerIsLost()
+    {
+        const KIVClientItem* state = station()->getItem(stateId);
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(!station()->invokeAction(":action:station:slow:"));
+        QVERIFY2(clock.elapsed() >= KIVClientInterface::callTimeout && clock.elapsed() < 3000,
+                qPrintable(QString::number(clock.elapsed())));
+        const QString error = station()->getLastError();
+        QVERIFY2(error.contains("station") && error.contains("500"), qPrintable(error));
+        QCOMPARE(state->getValue(), QVariant("idle"));
+        QTRY_COMPARE(state->getValue(), QVariant("late"));
+
+        QString reply = "untouched";
+        QVERIFY(m_setup->setDelay("station", 20));
+        QVERIFY(!station()->sendAction(":action:station:start:", "late", &reply, 1));
+        QCOMPARE(reply, QString("untouched"));
+        QTRY_COMPARE(state->getValue(), QVariant("runs late"));
+        QVERIFY(station()->sendAction(":action:station:start:", "in time", &reply, 1000));
+        QCOMPARE(reply, QString("Started in time (%2)."));
+    }
+
+    void batches_data()
+    {
+        QTest::addColumn<QString>("argument");
+        QTest::addColumn<QVariantMap>("set");
+        QTest::addColumn<QStringList>("words");
+        const QString speedId = ":config:kinds:test:speed:";
+        QTest::newRow("own") << json({{"level_3", 4}, {"mode", -2}}) << QVariantMap {{levelId, 4}, {modeId, -2}}
+                             << QStringList();
+        QTest::newRow("travelling name") << json({{"level:3", "4"}}) << QVariantMap {{levelId, 4}} << QStringList();
+        QTest::newRow("other services") << json({{"level_3", 4}, {"speed", 2}, {"interval", 9}})
+                                        << QVariantMap {{levelId, 4}, {speedId, 2.0}, {":config:basemgr:gps:interval:", 9}}
+                                        << QStringList();
+        QTest::newRow("nothing to set") << "{}" << QVariantMap() << QStringList();
+        QTest::newRow("one is refused") << json({{"level_3", 4}, {"mode", 7}, {"on", "maybe"}}) << QVariantMap()
+                                        << QStringList {"Mode", "Automatic, Manual", "On", "true or false"};
+        QTest::newRow("other service refuses") << json({{"level_3", 4}, {"speed", "x"}}) << QVariantMap()
+                                               << QStringList {"Speed"};
+        QTest::newRow("unknown") << json({{"level_3", 4}, {"levle", 4}}) << QVariantMap() << QStringList {"levle"};
+        QTest::newRow("result") << json({{"loss", 4}}) << QVariantMap() << QStringList {"loss"};
+        QTest::newRow("twice") << json({{"level_3", 4}, {"level:3", 5}}) << QVariantMap() << QStringList {"Level", "twice"};
+        QTest::newRow("null") << "{\"level_3\": null}" << QVariantMap() << QStringList {"Level", "nothing"};
+        QTest::newRow("no object") << "[1]" << QVariantMap() << QStringList {"station"};
+        QTest::newRow("no JSON") << "{" << QVariantMap() << QStringList {"station", "unterminated"};
+    }
+    void batches()
+    {
+        QFETCH(QString, argument);
+        QFETCH(QVariantMap, set);
+        QFETCH(QStringList, words);
+        const QStringList clients {"station", "kinds", "basemgr"};
+        const auto valueOf = [&](const QString& id) {
+            for (const QString& name : clients) {
+                if (const KIVClientItem* item = KIVClientInterface::getSessionBusClient(name)->getItem(id))
+                    return item->getValue();
+            }
+            return QVariant();
+        };
+        const QVariant level = valueOf(levelId);
+        QSignalSpy changes(station()->getItem(levelId), &KIVClientItem::valueChanged);
+        QString reply;
+        QCOMPARE(station()->sendAction(applyId, argument, &reply, 1000), words.isEmpty());
+        QCOMPARE(reply.isEmpty(), !words.isEmpty());
+        for (const QString& word : words)
+            QVERIFY2(station()->getLastError().contains(word), qPrintable(station()->getLastError()));
+        for (auto it = set.cbegin(); it != set.cend(); ++it)
+            QTRY_COMPARE(valueOf(it.key()), *it);
+        QTRY_COMPARE(valueOf(levelId), set.value(levelId, level));
+        QCOMPARE(changes.size(), set.contains(levelId) ? 1 : 0);
+        QVERIFY(!KIVClientInterface::getSessionBusClient("kinds")->invokeAction(":action:kinds:applyconfig:"));
+    }
+
+    void itemsInTheOrderOfTheService()
+    {
+        QStringList ids {"old"};
+        QVERIFY(station()->getItemList("station", &ids));
+        QCOMPARE(ids.size(), station()->getItemIds().size());
+        QCOMPARE(ids.mid(0, 3), (QStringList {":result:station:manifest:", modeId, levelId}));
+        QVERIFY(!station()->getItemList("kinds", &ids));
+        QVERIFY(ids.isEmpty());
+    }
+
+    void itemsComeAndGo()
+    {
+        QSignalSpy lists(station(), &KIVClientInterface::itemsChanged);
+        const QString id = ":result:station:extra:";
+        QVERIFY(m_setup->addItem("station", id, "double", 2));
+        QTRY_COMPARE(lists.size(), 1);
+        const QPointer<KIVClientItem> item = station()->getItem(id);
+        QVERIFY(item);
+        QCOMPARE(item->getValue(), QVariant(2.0));
+        QStringList ids;
+        QVERIFY(station()->getItemList("station", &ids));
+        QCOMPARE(ids.last(), id);
+        QVERIFY(!m_setup->addItem("station", id, "double", 2));
+        QVERIFY(!m_setup->addItem("station", ":result:station:other:", "nonsense", 2));
+
+        QVERIFY(m_setup->removeItem("station", id));
+        QTRY_COMPARE(lists.size(), 2);
+        QVERIFY(!item && !station()->getItem(id));
+        QVERIFY(!station()->getItemIds().contains(id));
+        QVERIFY(!m_setup->removeItem("station", id));
+        QCOMPARE(lists.size(), 2);
+    }
+
+    void aServiceVanishesAndReturns()
+    {
+        QObject parent;
+        KIVClientInterface* client = KIVClientInterface::getSessionBusClient("station", &parent);
+        const QPointer<KIVClientItem> level = client->getItem(levelId);
+        QSignalSpy lists(client, &KIVClientInterface::itemsChanged);
+        int itemsThen = -1;
+        connect(client, &KIVClientInterface::itemsChanged, client, [&] { itemsThen = client->getItemIds().size(); });
+
+        QVERIFY(m_setup->setReachable("station", false));
+        QVERIFY(m_setup->setReachable("station", false));
+        QTRY_COMPARE(lists.size(), 1);
+        QCOMPARE(itemsThen, 0);
+        QVERIFY(!level && !client->isValid() && !client->getItem(levelId));
+        QStringList ids;
+        QVERIFY(client->getItemList("station", &ids) && ids.isEmpty());
+        QVERIFY(!client->setItem(levelId, 1));
+        QVERIFY(client->getLastError().contains("station"));
+        QVERIFY(!client->invokeAction(":action:station:start:"));
+
+        QVERIFY(m_setup->report("station", levelId, -7));
+        QVERIFY(m_setup->setReachable("station", true));
+        QTRY_COMPARE(lists.size(), 2);
+        QVERIFY(client->isValid() && itemsThen > 0);
+        QTRY_COMPARE(client->getItem(levelId)->getValue(), QVariant(-7));
+        QVERIFY(client->setItem(levelId, 1));
+        QVERIFY(client->getLastError().isEmpty());
+    }
+
+    void errorsReachEveryClient()
+    {
+        QObject parent;
+        QSignalSpy shared(station(), &KIVClientInterface::SigError);
+        QSignalSpy own(KIVClientInterface::getSessionBusClient("station", &parent), &KIVClientInterface::SigError);
+        QSignalSpy other(KIVClientInterface::getSessionBusClient("kinds"), &KIVClientInterface::SigError);
+        QVERIFY(m_setup->reportError("station", "The fan stands still."));
+        QTRY_COMPARE(shared.size(), 1);
+        QTRY_COMPARE(own.size(), 1);
+        QCOMPARE(own.first().first().toString(), QString("The fan stands still."));
+        QCOMPARE(other.size(), 0);
+    }
+
+    /// A page that goes on a change takes with it what the change came from.
+    void aSlotMayEndWhatItHearsOf_data()
+    {
+        QTest::addColumn<QString>("signal");
+        QTest::addColumn<QString>("end");
+        for (const char* signal : {"value", "batch", "action", "ready", "unit", "choices", "items", "error"}) {
+            for (const char* end : {"vanish", "remove", "backend"})
+                QTest::newRow(qPrintable(QString(signal) + " " + end)) << QString(signal) << QString(end);
+        }
+    }
+    void aSlotMayEndWhatItHearsOf()
+    {
+        QFETCH(QString, signal);
+        QFETCH(QString, end);
+        QObject page;
+        int calls = 0;
+        const auto finish = [&] {
+            if (++calls > 1)
+                return;
+            if (end == "vanish")
+                m_setup->setReachable("station", false);
+            else if (end == "remove")
+                m_setup->removeItem("station", signal == "choices" ? modeId : levelId);
+            else
+                m_setup.reset();
+        };
+        KIVClientInterface* client = station();
+        const KIVClientItem* level = client->getItem(levelId);
+        const auto* mode = qobject_cast<KIVEnumClientItem*>(client->getItem(modeId));
+        connect(level, &KIVClientItem::valueChanged, &page, finish);
+        connect(level, &KIVClientItem::isReadyChanged, &page, finish);
+        connect(level, &KIVClientItem::unitsChanged, &page, finish);
+        connect(mode->getChoices(), &KIVEnumChoicesClientItem::valueChanged, &page, finish);
+        connect(client, &KIVClientInterface::SigError, &page, finish);
+        if (signal == "items")
+            connect(client, &KIVClientInterface::itemsChanged, &page, finish);
+        if (signal == "value")
+            QVERIFY(client->setItem(levelId, 1));
+        else if (signal == "batch")
+            QVERIFY(client->sendAction(applyId, json({{"level_3", 1}, {"mode", -2}, {"on", false}}), nullptr, 1000));
+        else if (signal == "action")
+            QVERIFY(client->invokeAction(":action:station:level:"));
+        else if (signal == "ready")
+            m_setup->change("station", levelId, PlatformSetup::Answer::Ready, false);
+        else if (signal == "unit")
+            m_setup->change("station", levelId, PlatformSetup::Answer::Unit, "V");
+        else if (signal == "choices")
+            m_setup->setChoices("station", modeId, {{1, "One"}});
+        else if (signal == "items")
+            m_setup->addItem("station", ":result:station:extra:", "int", 1);
+        else
+            m_setup->reportError("station", "The fan stands still.");
+        QTRY_VERIFY(calls > 0);
+        QCOMPARE(bool(m_setup), end != "backend");
     }
 
     void snapshotsKeepWhatWas()

@@ -1,5 +1,7 @@
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
+#include <kiv/kivclientinterface.h>
+#include <kiv/kivclientitem.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -33,8 +35,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QStringList>("services");
         QTest::newRow("shipped") << UIUTILS_SOURCE_DIR "/platform/reference/services"
-                                 << QStringList {"basemgr", "loopback", "loopback_rtt", "loopback_throughput"};
-        QTest::newRow("of the tests") << UIUTILS_TEST_DATA_DIR "/services" << QStringList {"basemgr", "kinds", "plots"};
+                                 << QStringList {"basemgr", "loopback", "loopback_rtt", "loopback_throughput",
+                                        "optical"};
+        QTest::newRow("of the tests") << UIUTILS_TEST_DATA_DIR "/services" << QStringList {"basemgr", "kinds", "plots", "station"};
     }
     void shippedFilesLoad()
     {
@@ -46,6 +49,25 @@ private Q_SLOTS:
         QCOMPARE(backend.serviceNames(), services);
         for (const QString& service : services)
             QVERIFY(!backend.service(service)->itemIds().isEmpty());
+    }
+
+    /// A value that a screen could not give back would be a fault of the file.
+    void shippedSettingsTakeTheirOwnValues()
+    {
+        EmbeddedBackend backend;
+        backend.loadFolders({UIUTILS_SOURCE_DIR "/platform/reference/services"});
+        QStringList refusals;
+        int settings = 0;
+        for (const QString& service : backend.serviceNames()) {
+            KIVClientInterface* client = KIVClientInterface::getSessionBusClient(service);
+            for (const QString& id : client->getItemIds(":config:")) {
+                ++settings;
+                if (!client->setItem(id, client->getItem(id)->getValue()))
+                    refusals += client->getLastError();
+            }
+        }
+        QCOMPARE(refusals, QStringList {"The calibration is set in the factory only."});
+        QVERIFY(settings > 20);
     }
 
     void refusedFiles_data()
@@ -82,6 +104,53 @@ private Q_SLOTS:
         QTest::newRow("id twice") << oneItem("{\"id\": \":config:a:\", \"type\": \"bool\"},"
                                              "{\"id\": \":config:a:\", \"type\": \"bool\"}")
                                   << ": /items/1: ";
+        // The reasons that the schema cannot give.
+        const auto item = [](const char* id, const char* type, const char* rest) {
+            return oneItem(QByteArray("{\"id\": \"") + id + "\", \"type\": \"" + type + "\", " + rest + "}");
+        };
+        const QByteArray members = "\"members\": [{\"name\": \"a\", \"type\": \"int\"}]";
+        QTest::newRow("minimum of a bool") << item(":config:a:", "bool", "\"minimum\": 1") << ": /items/0: ";
+        QTest::newRow("minimum that is no int") << item(":config:a:", "int", "\"minimum\": 1.5")
+                                                << ": /items/0/minimum: ";
+        QTest::newRow("no value between the limits")
+                << item(":config:a:", "double", "\"minimum\": 2, \"maximum\": 1") << ": /items/0: ";
+        QTest::newRow("limit of another kind") << item(":config:a:", "int", "\"maximum\": \"9\"")
+                                               << ": /items/0/maximum: ";
+        QTest::newRow("choices of a double")
+                << item(":config:a:", "double", "\"choices\": []") << ": /items/0: ";
+        QTest::newRow("choice without a name")
+                << item(":config:a:", "int", "\"choices\": [{\"value\": 1}]") << ": /items/0/choices/0: ";
+        QTest::newRow("two choices of one value")
+                << item(":config:a:", "int",
+                           "\"choices\": [{\"value\": 1, \"name\": \"x\"}, {\"value\": 1, \"name\": \"y\"}]")
+                << ": /items/0/choices/1: ";
+        QTest::newRow("choice that a uint cannot be")
+                << item(":config:a:", "uint", "\"choices\": [{\"value\": -1, \"name\": \"x\"}]")
+                << ": /items/0/choices/0: ";
+        QTest::newRow("quality") << item(":result:a:", "int", "\"quality\": \"good\"") << ": /items/0/quality: ";
+        QTest::newRow("applicable") << item(":result:a:", "int", "\"applicable\": 1") << ": /items/0/applicable: ";
+        QTest::newRow("record without members") << item(":config:a:", "aggregate", "\"value\": {}") << ": /items/0: ";
+        QTest::newRow("members of an int") << item(":config:a:", "int", members.constData()) << ": /items/0: ";
+        QTest::newRow("member of another type")
+                << item(":config:a:", "aggregate", (members + ", \"value\": {\"a\": \"1\"}").constData())
+                << ": /items/0/value/a: ";
+        QTest::newRow("missing member")
+                << item(":config:a:", "aggregate", (members + ", \"value\": {}").constData()) << ": /items/0/value: ";
+        QTest::newRow("row of a table")
+                << item(":config:a:", "listAggregate", (members + ", \"value\": [{\"a\": 1}, {\"a\": true}]").constData())
+                << ": /items/0/value/1/a: ";
+        QTest::newRow("action among the settings") << item(":config:a:", "action", "\"label\": \"x\"") << ": /items/0: ";
+        QTest::newRow("setting among the actions") << item(":action:a:", "int", "\"label\": \"x\"") << ": /items/0: ";
+        QTest::newRow("action with a value") << item(":action:a:", "action", "\"value\": 1") << ": /items/0: ";
+        QTest::newRow("setting that does something")
+                << item(":config:a:", "int", "\"does\": {}") << ": /items/0: ";
+        QTest::newRow("action sets what is not there")
+                << item(":action:a:", "action", "\"does\": {\"set\": {\":result:x:\": 1}}") << ": /items/0/does/set: ";
+        QTest::newRow("action sets another type")
+                << item(":action:a:", "action",
+                           "\"does\": {\"set\": {\":result:b:\": \"one\"}}},{\"id\": \":result:b:\", \"type\": \"int\"")
+                << ": /items/0/does/set: ";
+        QTest::newRow("endless delay") << QByteArray("{\"service\": \"s\", \"items\": [], \"delay\": 1e9}") << ": /delay: ";
         QTest::newRow("deep") << QByteArray(3000, '[') << ":1:";
     }
     void refusedFiles()

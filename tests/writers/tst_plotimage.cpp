@@ -77,7 +77,7 @@ private Q_SLOTS:
                 << ramp << QVariantList {1.0, qQNaN(), 2.0, qInf(), 3.0, -qInf()} << small << QRect(26, 20, 269, 146);
         QTest::newRow("empty") << QVariantList() << QVariantList() << small << QRect();
         QTest::newRow("nothing finite") << ramp << QVariantList {qQNaN(), qInf()} << small << QRect();
-        QTest::newRow("no numbers") << QVariantList {qQNaN(), qInf()} << QVariantList {qQNaN(), -qInf()} << small << QRect();
+        QTest::newRow("no axis finite") << QVariantList {qQNaN(), qInf()} << QVariantList {qQNaN(), -qInf()} << small << QRect();
     }
     void arrays()
     {

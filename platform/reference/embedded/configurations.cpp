@@ -96,11 +96,12 @@ Outcome applyConfiguration(ServiceData& service, const QString& argument)
 {
     QJsonParseError error {};
     const QJsonDocument document = QJsonDocument::fromJson(argument.toUtf8(), &error);
-    if (!document.isObject())
-        return refused({tr("The settings for the service %1 are not a JSON object of values by name%2.")
-                                .arg(service.name,
-                                        error.error == QJsonParseError::NoError ? QString()
-                                                                                : QLatin1String(": ") + error.errorString())});
+    if (!document.isObject()) {
+        const bool isJson = error.error == QJsonParseError::NoError;
+        const QString reason = isJson ? tr("not an object") : error.errorString();
+        return refused({tr("The settings for the service %1 are not a JSON object of values by name: %2.")
+                                .arg(service.name, reason)});
+    }
     const QJsonObject values = document.object();
     SettingFinder finder(service);
     PendingWrites writes;

@@ -106,7 +106,9 @@ EmbeddedService* EmbeddedBackend::publish(
 {
     ServicePlace* place = d->registry.makePlace(description.service);
     if (place->service()) {
-        const QString owner = place->file().isEmpty() ? QCoreApplication::translate("EmbeddedBackend", "the program") : place->file();
+        const QString owner = place->file().isEmpty()
+                ? QCoreApplication::translate("EmbeddedBackend", "the program")
+                : place->file();
         const QString reason
                 = QCoreApplication::translate("EmbeddedBackend", "/service: \"%1\" is published already by %2")
                           .arg(description.service, owner);

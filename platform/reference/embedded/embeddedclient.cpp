@@ -89,8 +89,10 @@ Outcome EmbeddedClient::call(int delayMs, int timeoutMs, const Request& request)
         return {false, tr("The service %1 cannot be reached. Try again when it runs.").arg(m_serviceName)};
     const qint64 delay = qint64(ServiceData::of(*called).delayMs) + delayMs;
     const qint64 timeout = std::max(timeoutMs, 0);
-    // The contract forbids an event loop here: the caller's page stands still, as it does on an instrument.
-    QThread::msleep(static_cast<unsigned long>(std::min(delay, timeout)));
+    // The contract forbids an event loop here: the caller's page stands still, as it does on an instrument. Sleeping for no
+    // time at all would still cost a turn of the scheduler.
+    if (delay > 0)
+        QThread::msleep(static_cast<unsigned long>(std::min(delay, timeout)));
     if (delay <= timeout)
         return request(ServiceData::of(*called));
     carryOutLater(called, delay - timeout, request);

@@ -1,6 +1,6 @@
 #include "pendingwrites_p.h"
 
-#include "valueconversion_p.h"
+#include "valuelimits_p.h"
 #include "valuetext_p.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "statekeeper_p.h"
 
 #include "statefile_p.h"
-#include "valueconversion_p.h"
+#include "valuelimits_p.h"
 #include "valuetext_p.h"
 
 #include <QDir>

@@ -3,7 +3,6 @@
 #include "itemtypes_p.h"
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -113,11 +112,6 @@ bool holdsOnly(const QVariantList& list, QMetaType::Type type)
     return std::all_of(list.cbegin(), list.cend(), [type](const QVariant& v) { return v.userType() == type; });
 }
 
-QString atElement(int index, const QString& problem)
-{
-    return tr("element %1: %2").arg(QString::number(index + 1), problem);
-}
-
 Conversion toArray(unsigned type, const QVariant& value)
 {
     if (type == KIVClientItem::TypeStringArray && value.userType() == QMetaType::QStringList)
@@ -173,83 +167,12 @@ Conversion toTable(const QVector<MemberDescription>& members, const QVariant& va
     return {rows, {}};
 }
 
-bool isBelow(double number, const QVariant& minimum)
-{
-    return minimum.isValid() && number < minimum.toDouble();
-}
-
-bool isAbove(double number, const QVariant& maximum)
-{
-    return maximum.isValid() && number > maximum.toDouble();
-}
-
-QString numberProblem(const ItemDescription& item, double number)
-{
-    if (!std::isfinite(number))
-        return tr("not a finite number");
-    return isBelow(number, item.minimum) || isAbove(number, item.maximum) ? tr("out of range") : QString();
-}
-
-QString textProblem(const ItemDescription& item, const QString& text)
-{
-    if (isBelow(text.size(), item.minimum))
-        return tr("too short");
-    if (isAbove(text.size(), item.maximum))
-        return tr("too long");
-    const QString pattern = item.attributes.value(QStringLiteral("regex")).toString();
-    if (pattern.isEmpty())
-        return QString();
-    const QRegularExpression form(QRegularExpression::anchoredPattern(pattern));
-    return form.isValid() && !form.match(text).hasMatch() ? tr("not of the expected form") : QString();
-}
-
-QString choiceProblem(const ItemDescription& item, const QVariant& value)
-{
-    if (item.choices.isEmpty())
-        return QString();
-    const bool isChoice = std::any_of(item.choices.cbegin(), item.choices.cend(),
-            [&](const ChoiceDescription& choice) { return double(choice.value) == value.toDouble(); });
-    return isChoice ? QString() : tr("not one of the choices");
-}
-
-QString simpleProblem(const ItemDescription& item, unsigned type, const QVariant& value)
-{
-    if (type == KIVClientItem::TypeString)
-        return textProblem(item, value.toString());
-    if (type != KIVClientItem::TypeInt && type != KIVClientItem::TypeUInt && type != KIVClientItem::TypeDouble)
-        return QString();
-    const QString problem = numberProblem(item, value.toDouble());
-    return problem.isEmpty() ? choiceProblem(item, value) : problem;
-}
-
-/// Members have no limits, but a number that is none can be neither sent nor kept.
-QString recordProblem(const QVariantMap& record)
-{
-    for (auto it = record.cbegin(); it != record.cend(); ++it) {
-        if (it->userType() == QMetaType::Double && !std::isfinite(it->toDouble()))
-            return tr("member \"%1\": %2").arg(it.key(), tr("not a finite number"));
-    }
-    return QString();
-}
-
-QString itemProblem(const ItemDescription& item, unsigned type, const QVariant& value)
-{
-    if (type == KIVClientItem::TypeAggregate)
-        return recordProblem(value.toMap());
-    if (isSimpleType(type))
-        return simpleProblem(item, type, value);
-    const QVariantList elements = value.toList();
-    for (int i = 0; i < elements.size(); ++i) {
-        const QString problem = type == KIVClientItem::TypeListAggregate
-                ? recordProblem(elements.at(i).toMap())
-                : simpleProblem(item, elementType(type), elements.at(i));
-        if (!problem.isEmpty())
-            return atElement(i, problem);
-    }
-    return QString();
-}
-
 } // namespace
+
+QString atElement(int index, const QString& problem)
+{
+    return tr("element %1: %2").arg(QString::number(index + 1), problem);
+}
 
 bool isSame(const QVariant& a, const QVariant& b)
 {
@@ -284,14 +207,6 @@ Conversion convertToType(unsigned type, const QVector<MemberDescription>& member
     default:
         return toSimple(type, value);
     }
-}
-
-Conversion convertForItem(const ItemDescription& item, unsigned type, const QVariant& value)
-{
-    Conversion conversion = convertToType(type, item.members, value);
-    if (conversion.problem.isEmpty())
-        conversion.problem = itemProblem(item, type, conversion.value);
-    return conversion;
 }
 
 } // namespace kiv::embedded

@@ -18,7 +18,7 @@ bool isSame(const QVariant& a, const QVariant& b);
 /// infinite: that is for whoever wants it to refuse. A value that is invalid does not convert.
 Conversion convertToType(unsigned type, const QVector<MemberDescription>& members, const QVariant& value);
 
-/// Converts what a client sets and holds it against the item's limits, form and choices.
-Conversion convertForItem(const ItemDescription& item, unsigned type, const QVariant& value);
+/// What is wrong with an element of a list, counted from 0, for the user, who counts from 1.
+QString atElement(int index, const QString& problem);
 
 } // namespace kiv::embedded

@@ -117,7 +117,7 @@ QString shownText(const QVariant& value, const QVector<MemberDescription>& membe
 
 QString quotedText(const QVariant& value)
 {
-    if (!value.isValid())
+    if (!value.isValid() || value.userType() == QMetaType::Nullptr)
         return tr("nothing");
     QString text = value.toString();
     if (text.isEmpty() && value.canConvert(QMetaType::QVariantList))
