@@ -4,11 +4,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace uiutils;
@@ -113,6 +115,37 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo(link).isSymLink());
     }
 
+    void durableWriteKeepsPermissions_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::newRow("private") << 0600;
+        QTest::newRow("wider than the umask leaves") << 0666;
+        QTest::newRow("for reading only") << 0444;
+    }
+    void durableWriteKeepsPermissions()
+    {
+        QFETCH(int, mode);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("report.html"));
+        const auto modeOf = [](const QString& file) {
+            struct stat info {};
+            return ::lstat(QFile::encodeName(file).constData(), &info) == 0 ? int(info.st_mode & 07777) : -1;
+        };
+        const mode_t umaskBefore = ::umask(027);
+        const auto restoreUmask = qScopeGuard([umaskBefore] { ::umask(umaskBefore); });
+
+        QVERIFY(writeFileDurably(path, QByteArray("new")));
+        QCOMPARE(modeOf(path), 0640);
+        QCOMPARE(::chmod(QFile::encodeName(path).constData(), mode_t(mode)), 0);
+        QVERIFY(writeFileDurably(path, QByteArray("replaced")));
+        QCOMPARE(modeOf(path), mode);
+
+        const QString link = dir.filePath(QStringLiteral("link"));
+        QVERIFY(QFile::link(path, link));
+        QVERIFY(writeFileDurably(link, QByteArray("in place of the link")));
+        QCOMPARE(modeOf(link), 0640);
+    }
+
     void failedWriteLeavesTheOldFile_data()
     {
         QTest::addColumn<int>("size");
@@ -148,6 +181,8 @@ private Q_SLOTS:
         QVERIFY(QDir().mkdir(folder));
         QVERIFY(!writeFileDurably(folder, QByteArray("x"), &error));
         QVERIFY2(error.contains(folder), qPrintable(error));
+        QVERIFY(!writeFileDurably(dir.filePath(QStringLiteral("cut")) + QChar(0) + QLatin1String("off"), "x", &error));
+        QVERIFY2(error.contains(QLatin1String("NUL")), qPrintable(error));
         QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("folder")});
     }
 
