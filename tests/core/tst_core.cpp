@@ -67,6 +67,10 @@ private Q_SLOTS:
         QTest::newRow("other mount") << "/mnt/usb2/a" << false;
         QTest::newRow("other temporary file") << "/tmp/a.png" << false;
         QTest::newRow("relative") << "cust/a" << false;
+        QTest::newRow("relative upwards") << "../cust/a" << false;
+        QTest::newRow("out of the root") << "/cust/../.." << false;
+        QTest::newRow("out of the instrument's part") << "/cust/../etc/passwd" << false;
+        QTest::newRow("out of the plots") << "/tmp/rep_plot_/../../etc/passwd" << false;
         QTest::newRow("empty") << "" << false;
     }
     void pathsOnDisk()
@@ -76,6 +80,30 @@ private Q_SLOTS:
         const QByteArray before = qgetenv("UIUTILS_ROOT");
         qputenv("UIUTILS_ROOT", "/root of mine");
         QCOMPARE(onDisk(path), moved ? QLatin1String("/root of mine") + path : path);
+        qputenv("UIUTILS_ROOT", "");
+        QCOMPARE(onDisk(path), path);
+        qputenv("UIUTILS_ROOT", before);
+    }
+
+    void pathsAreCleanedBeforeTheyMove_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("moved");
+        QTest::newRow("doubled slash") << "//cust//a" << "/root/cust/a";
+        QTest::newRow("folder") << "/cust/public/reports/" << "/root/cust/public/reports/";
+        QTest::newRow("up and down") << "/cust/../mnt/./usb/a" << "/root/mnt/usb/a";
+        QTest::newRow("from elsewhere") << "/etc/../base/a" << "/root/base/a";
+        QTest::newRow("above the top") << "/../../cust/a" << "/root/cust/a";
+        QTest::newRow("above the top from inside") << "/cust/../../../cust/a" << "/root/cust/a";
+        QTest::newRow("inside") << "/cust/a/../../cust/b/.." << "/root/cust";
+    }
+    void pathsAreCleanedBeforeTheyMove()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, moved);
+        const QByteArray before = qgetenv("UIUTILS_ROOT");
+        qputenv("UIUTILS_ROOT", "/root");
+        QCOMPARE(onDisk(path), moved);
         qputenv("UIUTILS_ROOT", "");
         QCOMPARE(onDisk(path), path);
         qputenv("UIUTILS_ROOT", before);
