@@ -69,7 +69,7 @@ private Q_SLOTS:
         QTest::newRow("relative") << "cust/a" << false;
         QTest::newRow("relative upwards") << "../cust/a" << false;
         QTest::newRow("out of the root") << "/cust/../.." << false;
-        QTest::newRow("out of the instrument's part") << "/cust/../etc/passwd" << false;
+        QTest::newRow("out of the instrument's folders") << "/cust/../etc/passwd" << false;
         QTest::newRow("out of the plots") << "/tmp/rep_plot_/../../etc/passwd" << false;
         QTest::newRow("empty") << "" << false;
     }
