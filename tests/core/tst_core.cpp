@@ -4,11 +4,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace uiutils;
@@ -65,6 +67,10 @@ private Q_SLOTS:
         QTest::newRow("other mount") << "/mnt/usb2/a" << false;
         QTest::newRow("other temporary file") << "/tmp/a.png" << false;
         QTest::newRow("relative") << "cust/a" << false;
+        QTest::newRow("relative upwards") << "../cust/a" << false;
+        QTest::newRow("out of the root") << "/cust/../.." << false;
+        QTest::newRow("out of the instrument's folders") << "/cust/../etc/passwd" << false;
+        QTest::newRow("out of the plots") << "/tmp/rep_plot_/../../etc/passwd" << false;
         QTest::newRow("empty") << "" << false;
     }
     void pathsOnDisk()
@@ -74,6 +80,30 @@ private Q_SLOTS:
         const QByteArray before = qgetenv("UIUTILS_ROOT");
         qputenv("UIUTILS_ROOT", "/root of mine");
         QCOMPARE(onDisk(path), moved ? QLatin1String("/root of mine") + path : path);
+        qputenv("UIUTILS_ROOT", "");
+        QCOMPARE(onDisk(path), path);
+        qputenv("UIUTILS_ROOT", before);
+    }
+
+    void pathsAreCleanedBeforeTheyMove_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("moved");
+        QTest::newRow("doubled slash") << "//cust//a" << "/root/cust/a";
+        QTest::newRow("folder") << "/cust/public/reports/" << "/root/cust/public/reports/";
+        QTest::newRow("up and down") << "/cust/../mnt/./usb/a" << "/root/mnt/usb/a";
+        QTest::newRow("from elsewhere") << "/etc/../base/a" << "/root/base/a";
+        QTest::newRow("above the top") << "/../../cust/a" << "/root/cust/a";
+        QTest::newRow("above the top from inside") << "/cust/../../../cust/a" << "/root/cust/a";
+        QTest::newRow("inside") << "/cust/a/../../cust/b/.." << "/root/cust";
+    }
+    void pathsAreCleanedBeforeTheyMove()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, moved);
+        const QByteArray before = qgetenv("UIUTILS_ROOT");
+        qputenv("UIUTILS_ROOT", "/root");
+        QCOMPARE(onDisk(path), moved);
         qputenv("UIUTILS_ROOT", "");
         QCOMPARE(onDisk(path), path);
         qputenv("UIUTILS_ROOT", before);
@@ -113,6 +143,37 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo(link).isSymLink());
     }
 
+    void durableWriteKeepsPermissions_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::newRow("private") << 0600;
+        QTest::newRow("wider than the umask leaves") << 0666;
+        QTest::newRow("for reading only") << 0444;
+    }
+    void durableWriteKeepsPermissions()
+    {
+        QFETCH(int, mode);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("report.html"));
+        const auto modeOf = [](const QString& file) {
+            struct stat info {};
+            return ::lstat(QFile::encodeName(file).constData(), &info) == 0 ? int(info.st_mode & 07777) : -1;
+        };
+        const mode_t umaskBefore = ::umask(027);
+        const auto restoreUmask = qScopeGuard([umaskBefore] { ::umask(umaskBefore); });
+
+        QVERIFY(writeFileDurably(path, QByteArray("new")));
+        QCOMPARE(modeOf(path), 0640);
+        QCOMPARE(::chmod(QFile::encodeName(path).constData(), mode_t(mode)), 0);
+        QVERIFY(writeFileDurably(path, QByteArray("replaced")));
+        QCOMPARE(modeOf(path), mode);
+
+        const QString link = dir.filePath(QStringLiteral("link"));
+        QVERIFY(QFile::link(path, link));
+        QVERIFY(writeFileDurably(link, QByteArray("in place of the link")));
+        QCOMPARE(modeOf(link), 0640);
+    }
+
     void failedWriteLeavesTheOldFile_data()
     {
         QTest::addColumn<int>("size");
@@ -148,6 +209,8 @@ private Q_SLOTS:
         QVERIFY(QDir().mkdir(folder));
         QVERIFY(!writeFileDurably(folder, QByteArray("x"), &error));
         QVERIFY2(error.contains(folder), qPrintable(error));
+        QVERIFY(!writeFileDurably(dir.filePath(QStringLiteral("cut")) + QChar(0) + QLatin1String("off"), "x", &error));
+        QVERIFY2(error.contains(QLatin1String("NUL")), qPrintable(error));
         QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("folder")});
     }
 

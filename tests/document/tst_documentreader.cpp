@@ -35,6 +35,28 @@ private Q_SLOTS:
         QCOMPARE(seen, (QStringList {"s0", "s1"}));
     }
 
+    void aKeyOfTwoFamiliesBelongsToTheFirst_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("family");
+        QTest::newRow("row") << "row_table_0" << "row";
+        QTest::newRow("table") << "table_row_section_0" << "table";
+        QTest::newRow("section") << "section_table_" << "section";
+        QTest::newRow("inside") << "my_table_section_1" << "table";
+        QTest::newRow("of none") << "tables_rows" << "";
+    }
+    void aKeyOfTwoFamiliesBelongsToTheFirst()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, family);
+        const TableReader node(QJsonObject {{key, QJsonObject()}});
+        QStringList seen;
+        node.forEachSection([&](const QJsonObject&) { seen += "section"; });
+        node.forEachTable([&](const QString&, const QJsonObject&) { seen += "table"; });
+        node.forEachRow([&](const QString&, const QJsonObject&) { seen += "row"; });
+        QCOMPARE(seen.join(' '), family);
+    }
+
     void attributesAndLogEntries()
     {
         const NodeReader node(json(R"({

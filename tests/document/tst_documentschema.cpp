@@ -65,6 +65,33 @@ private Q_SLOTS:
         QCOMPARE(schemaViolation(m_schema, report.object()), QString());
     }
 
+    void otherRowsDoNot_data()
+    {
+        QTest::addColumn<QByteArray>("row");
+        QTest::addColumn<QString>("place");
+        QTest::newRow("first cell") << QByteArray(R"({"label": "", "cell_0": {}})") << "/cell_0: ";
+        QTest::newRow("later cell") << QByteArray(R"({"label": "", "cell_0": {"label": ""}, "cell_1": {}})") << "/cell_1: ";
+        QTest::newRow("first cell beside a later one")
+                << QByteArray(R"({"label": "", "cell_0": {}, "cell_1": {"label": ""}})") << "/cell_0: ";
+        QTest::newRow("cell with a zero in front") << QByteArray(R"({"label": "", "cell_01": 1})") << "/cell_01: ";
+        QTest::newRow("attribute of one's own")
+                << QByteArray(R"({"label": "", "cell_0": {"label": "", "attr_unit": 1}})") << "/cell_0/attr_unit: ";
+        QTest::newRow("title beside an attribute of one's own")
+                << QByteArray(R"({"label": "", "cell_0": {"label": "", "attr_unit": "", "title": 1}})") << "/cell_0/title: ";
+        QTest::newRow("fine") << QByteArray(R"({"label": "", "cell_x": 1, "note": 2, "cell_0": {"label": "", "x": 3}})") << "";
+    }
+    void otherRowsDoNot()
+    {
+        QFETCH(QByteArray, row);
+        QFETCH(QString, place);
+        const QJsonObject table {{"node_type", "table"}, {"tag", ""}, {"title", ""}, {"use_row_labels", true},
+                {"num_columns", 1}, {"row_1", QJsonDocument::fromJson(row).object()}};
+        const QString violation
+                = schemaViolation(m_schema, {{"node_type", "report"}, {"tag", ""}, {"table_0", table}});
+        QVERIFY2(place.isEmpty() ? violation.isEmpty() : violation.startsWith("/table_0/row_1" + place),
+                qPrintable(violation));
+    }
+
     void otherDocumentsDoNot_data()
     {
         QTest::addColumn<QByteArray>("document");

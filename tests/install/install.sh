@@ -1,9 +1,19 @@
 #!/usr/bin/env bash
-# Installs the build into a folder of its own and builds and runs a consumer against it, both ways.
+# Installs the build into a folder of its own and builds and runs a consumer against it, both ways. Given a folder for
+# libraries, it installs a build of its own, made for that folder, which is kept so that the next run is quick.
 set -euo pipefail
-cmake=$1 compiler=$2 build=$3 work=$4 flags=$5
-consumer=$(cd "$(dirname "$0")" && pwd)/consumer
+cmake=$1 compiler=$2 build=$3 work=$4 flags=$5 libdir=${6:-}
+here=$(cd "$(dirname "$0")" && pwd)
+consumer="$here/consumer"
 prefix="$work/prefix with a blank"
+
+if [ -n "$libdir" ]; then
+    build="$work/build"
+    "$cmake" -G Ninja -S "$here/../.." -B "$build" -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_FLAGS="$flags" \
+        -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 -DCMAKE_INSTALL_LIBDIR="$libdir" \
+        -DUIUTILS_BUILD_TESTS=OFF -DUIUTILS_BUILD_APPS=OFF >/dev/null
+    "$cmake" --build "$build" >/dev/null
+fi
 
 rm -rf "$prefix" "$work/consumer"
 "$cmake" --install "$build" --prefix "$prefix" >/dev/null
@@ -25,6 +35,9 @@ LD_LIBRARY_PATH=$(pkg-config --variable=libdir uiutils) "$plain/consumer"
 
 library=$(find "$plain" -name 'libuiutils.so.1')
 test -n "$library"
+if [ -n "$libdir" ]; then
+    test "$library" = "$plain/$libdir/libuiutils.so.1"
+fi
 # Hidden visibility: what is private must not be reachable from outside.
 if nm -DC --defined-only "$library" | grep -E ' [A-Z] uiutils::(OpenNode|onDisk|writeFileDurably|NodeReader)'; then
     echo "private symbols are exported" >&2

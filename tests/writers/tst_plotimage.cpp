@@ -1,3 +1,4 @@
+#include "writers/plotdata_p.h"
 #include "writers/plotimage.h"
 
 #include <embedded/embeddedbackend.h>
@@ -133,6 +134,27 @@ private Q_SLOTS:
         // Decades on a logarithmic axis are evenly apart; the limit far above pushes the curve down.
         const QRect curve = extentOf("plots");
         QVERIFY2(curve.height() > 60 && curve.height() < 140, qPrintable(QString::number(curve.height())));
+    }
+
+    /// Nothing longer than any plot has room for reaches the painter.
+    void hugeTexts()
+    {
+        QByteArray service = R"({"service": "huge", "items": [
+            {"id": ":result:huge:a_x:doubleARRAY:", "type": "doubleARRAY", "label": "HUGE", "unit": "HUGE", "value": [1]},
+            {"id": ":result:huge:a_y:doubleARRAY:", "type": "doubleARRAY", "label": "HUGE", "unit": "HUGE", "value": [1],
+             "attributes": {"upperLimit": 2}}]})";
+        QFile file(m_root.filePath("huge.service.json"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(service.replace("HUGE", QByteArray(100'000, 'w'))) > 0);
+        file.close();
+        kiv::embedded::EmbeddedBackend backend;
+        QVERIFY(backend.loadFile(file.fileName()));
+
+        const uiutils::PlotData data = uiutils::readPlotData("huge");
+        QCOMPARE(data.curves.size(), 1);
+        QCOMPARE(data.limits.size(), 1);
+        for (const QString& text : {data.xLabel, data.xUnit, data.curves.first().label, data.curves.first().unit,
+                     data.limits.first().unit})
+            QCOMPARE(text, QString(199, 'w') + QChar(0x2026));
     }
 
     void sizes_data()

@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace uiutils {
@@ -33,6 +34,8 @@ public:
                     0666);
         } while (m_fd < 0 && (errno == EEXIST || errno == EINTR));
         m_created = m_fd >= 0;
+        if (m_created)
+            takeModeOf(target);
     }
     ~TemporarySibling()
     {
@@ -84,6 +87,15 @@ public:
     }
 
 private:
+    /// While the file is still empty, so that what only some may read is never open to others. Not an error when it fails:
+    /// the file systems of memory sticks know no modes.
+    void takeModeOf(const QString& target)
+    {
+        struct stat old {};
+        if (::lstat(QFile::encodeName(target).constData(), &old) == 0 && S_ISREG(old.st_mode))
+            ::fchmod(m_fd, old.st_mode & 0777);
+    }
+
     QString m_path;
     int m_fd = -1;
     bool m_created = false;
@@ -112,6 +124,13 @@ bool writeFileDurably(const QString& path, const QByteArray& contents, QString* 
     QString ignored;
     QString& message = error ? *error : ignored;
 
+    // The system would take what stands before it for the whole path.
+    if (path.contains(QChar(QChar::Null))) {
+        message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"),
+                QString(path).replace(QChar(QChar::Null), QChar(QChar::ReplacementCharacter)),
+                QCoreApplication::translate("DurableFile", "The path holds a NUL character"));
+        return false;
+    }
     TemporarySibling file(path);
     if (!file.isOpen()) {
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot create a file in the folder of %1: %2"), path,

@@ -7,9 +7,10 @@ namespace uiutils {
 
 /// Writes `contents` to `path` so that, whatever happens meanwhile, the file holds either what it held before or all
 /// of `contents`: a new file in the same folder is written, checked, synced and renamed over the target, and the
-/// folder is synced. A link at `path` is replaced, never followed. The folder must exist.
+/// folder is synced. A link at `path` is replaced, never followed. The folder must exist. A file that is replaced hands
+/// its permissions on, where the file system knows any; a new one gets what the umask leaves.
 ///
-/// Returns false when any step failed; the target is then untouched, nothing is left beside it, and `error`, if
+/// Returns false when any step failed or the path holds a NUL character; the target is then untouched, nothing is left beside it, and `error`, if
 /// given, says which file, which step and why.
 [[nodiscard]] bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error = nullptr);
 

@@ -1,5 +1,6 @@
 #include "core/paths.h"
 
+#include <QDir>
 #include <QtGlobal>
 
 namespace uiutils {
@@ -27,7 +28,19 @@ QString paths::plotImage(int number)
 QString onDisk(const QString& path)
 {
     const QString root = qEnvironmentVariable("UIUTILS_ROOT");
-    return !root.isEmpty() && belongsToInstrument(path) ? root + path : path;
+    // A relative path is the machine's own, and cleaning one may leave ".." in it.
+    if (root.isEmpty() || !path.startsWith(QLatin1Char('/')))
+        return path;
+    QString clean = QDir::cleanPath(path);
+    // There is nothing above the top, and Qt leaves that to the system.
+    while (clean.startsWith(QLatin1String("/../")))
+        clean.remove(0, 3);
+    if (!belongsToInstrument(clean))
+        return path;
+    // What is written behind a folder's name stays behind it.
+    if (path.endsWith(QLatin1Char('/')))
+        clean += QLatin1Char('/');
+    return root + clean;
 }
 
 } // namespace uiutils

@@ -45,6 +45,18 @@ QVector<NodeReader::LogEntry> NodeReader::logEntries() const
     return entries;
 }
 
+bool NodeReader::belongsTo(const QString& key, QLatin1String family)
+{
+    const int place = key.indexOf(family);
+    if (place <= 0)
+        return place == 0;
+    const QLatin1String families[] = {keys::sectionFamily, keys::tableFamily, keys::rowFamily};
+    return std::none_of(std::begin(families), std::end(families), [&](QLatin1String other) {
+        const int otherPlace = key.indexOf(other);
+        return otherPlace >= 0 && otherPlace < place;
+    });
+}
+
 TableReader::TableReader(const QJsonObject& table)
     : NodeReader(table)
 {

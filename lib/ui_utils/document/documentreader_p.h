@@ -22,7 +22,8 @@ QString shownTextOf(const QJsonValue& value);
 /// Reads a report or section node: the one place that knows in which order a document is walked.
 ///
 /// Children come in the ascending string order of their keys ("row_1", "row_10", "row_2"). A key belongs to a family
-/// when it contains the family's word and holds an object.
+/// when it contains the family's word and holds an object; one that contains the words of several belongs to the family
+/// whose word comes first, so that no child is written twice.
 class NodeReader
 {
 public:
@@ -72,6 +73,8 @@ public:
     template<typename Visitor> void forEachTable(Visitor visit) const { forEachChild(keys::tableFamily, visit); }
 
 protected:
+    static bool belongsTo(const QString& key, QLatin1String family);
+
     template<typename Visitor> void forEachChild(QLatin1String family, Visitor visit) const
     {
         for (auto it = m_node.begin(); it != m_node.end(); ++it) {
@@ -79,7 +82,7 @@ protected:
             if (!value.isObject())
                 continue;
             const QString key = it.key();
-            if (key.contains(family))
+            if (belongsTo(key, family))
                 visit(key, value.toObject());
         }
     }

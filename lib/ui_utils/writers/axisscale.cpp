@@ -14,12 +14,16 @@ constexpr double largest = 1e300;
 constexpr double smallest = 1e-300;
 // An extent that is smaller against its own values drowns in their rounding.
 constexpr double finest = 1e-10;
+// The same for the logarithms of its values.
+constexpr double finestRatio = 1 + 1e-6;
+
+constexpr double roundDigits[] = {1, 2, 5};
 
 /// 1, 2 or 5 times a power of ten, the next that is not below `value`.
 double roundUp(double value)
 {
     const double power = std::pow(10, std::floor(std::log10(value)));
-    for (const double digit : {1.0, 2.0, 5.0}) {
+    for (const double digit : roundDigits) {
         if (digit * power >= value * (1 - finest))
             return digit * power;
     }
@@ -45,12 +49,34 @@ Interval positiveExtent(Interval data)
         return {1, 10};
     const double high = qBound(smallest, data.high, largest);
     const double low = qBound(smallest, data.low, high);
+    if (high < low * finestRatio)
+        return {low / 1.05, high * 1.05};
     return {low, high};
 }
 
 int decadeOf(double value)
 {
     return int(std::floor(std::log10(value) + finest));
+}
+
+/// The decade of the next power of ten that is not below `value`.
+int decadeAbove(double value)
+{
+    return -decadeOf(1 / value);
+}
+
+/// 1, 2 and 5 times the powers of ten within the interval.
+QVector<double> roundValues(Interval interval)
+{
+    QVector<double> values;
+    for (int decade = decadeOf(interval.low); decade <= decadeOf(interval.high); ++decade) {
+        for (const double digit : roundDigits) {
+            const double value = digit * std::pow(10, decade);
+            if (value >= interval.low * (1 - finest) && value <= interval.high * (1 + finest))
+                values += value;
+        }
+    }
+    return values;
 }
 
 } // namespace
@@ -74,7 +100,7 @@ AxisScale::AxisScale(Interval data, Kind kind, Ends ends, int maximumTicks)
     // An axis across zero that ends at ticks needs three.
     const int ticks = std::max(3, maximumTicks);
     if (kind == Logarithmic)
-        scaleLogarithmically(positiveExtent(data), ticks);
+        scaleLogarithmically(positiveExtent(data), ends, ticks);
     else
         scaleLinearly(linearExtent(data), ends, ticks);
 }
@@ -98,53 +124,60 @@ void AxisScale::scaleLinearly(Interval data, Ends ends, int maximumTicks)
         m_ticks += (first + n) * m_step;
 }
 
-void AxisScale::scaleLogarithmically(Interval data, int maximumTicks)
+void AxisScale::scaleLogarithmically(Interval data, Ends ends, int maximumTicks)
 {
-    const int first = decadeOf(data.low);
-    const int last = std::max(first + 1, -decadeOf(1 / data.high));
-    if (data.high < data.low * 10)
-        addFineTicks(data);
-    else
-        addDecades(first, last, maximumTicks);
+    const bool isNarrow = data.high < data.low * (ends == AtTicks ? 10 : 100);
+    if (isNarrow && addRoundTicks(data, ends, maximumTicks))
+        return;
+    if (addDecades(data, ends, maximumTicks))
+        return;
+    scaleLinearly(data, ends, maximumTicks);
+    m_hasEvenTicks = true;
 }
 
-/// Within a decade: from one 1, 2 or 5 times a power of ten to another.
-void AxisScale::addFineTicks(Interval data)
+/// Ticks at 1, 2 and 5 times the powers of ten. Returns false when those are too few or too many.
+bool AxisScale::addRoundTicks(Interval data, Ends ends, int maximumTicks)
 {
-    const double decade = std::pow(10, decadeOf(data.low));
-    QVector<double> candidates;
-    for (const double power : {decade, decade * 10}) {
-        for (const double digit : {1.0, 2.0, 5.0})
-            candidates += digit * power;
+    if (ends == AtTicks)
+        data = {1 / roundUp(1 / data.low), roundUp(data.high)};
+    const QVector<double> ticks = roundValues(data);
+    if (ticks.size() < 2 || ticks.size() > maximumTicks)
+        return false;
+    m_ticks = ticks;
+    m_low = ends == AtTicks ? ticks.constFirst() : data.low;
+    m_high = ends == AtTicks ? ticks.constLast() : data.high;
+    return true;
+}
+
+/// Ticks at powers of ten. Returns false when the data hold less than two of them, which an axis that ends at ticks
+/// always does.
+bool AxisScale::addDecades(Interval data, Ends ends, int maximumTicks)
+{
+    int first = decadeAbove(data.low);
+    int last = decadeOf(data.high);
+    if (ends == AtTicks) {
+        first = decadeOf(data.low);
+        last = std::max(first + 1, decadeAbove(data.high));
+        data = {std::pow(10, first), std::pow(10, last)};
     }
-    candidates += decade * 100;
+    if (last <= first)
+        return false;
+    m_low = data.low;
+    m_high = data.high;
 
-    int first = 0;
-    while (first + 1 < candidates.size() && candidates.at(first + 1) <= data.low * (1 + finest))
-        ++first;
-    int last = first + 1;
-    while (last + 1 < candidates.size() && candidates.at(last) < data.high * (1 - finest))
-        ++last;
-    m_ticks = candidates.mid(first, last - first + 1);
-    m_low = m_ticks.constFirst();
-    m_high = m_ticks.constLast();
-}
-
-void AxisScale::addDecades(int first, int last, int maximumTicks)
-{
     int stride = 1;
     while ((last - first) / stride + 1 > maximumTicks)
         ++stride;
     for (int decade = first; decade <= last; decade += stride)
         m_ticks += std::pow(10, decade);
-    m_low = std::pow(10, first);
-    m_high = std::pow(10, last);
-    if (stride > 1)
-        return;
-    for (int decade = first; decade < last; ++decade) {
-        for (int digit = 2; digit <= 9; ++digit)
-            m_minorTicks += digit * std::pow(10, decade);
+    for (int decade = decadeOf(m_low); stride == 1 && decade <= last; ++decade) {
+        for (int digit = 2; digit <= 9; ++digit) {
+            const double value = digit * std::pow(10, decade);
+            if (value > m_low && value < m_high)
+                m_minorTicks += value;
+        }
     }
+    return true;
 }
 
 double AxisScale::position(double value) const
@@ -159,8 +192,11 @@ double AxisScale::position(double value) const
 
 QString AxisScale::label(double tick, const QLocale& locale) const
 {
-    if (m_kind == Logarithmic)
-        return locale.toString(tick, 'g', 6);
+    if (m_kind == Logarithmic && !m_hasEvenTicks) {
+        // One form for the whole axis, so that neighbours can be compared.
+        const bool isPlain = m_ticks.constFirst() > 0.99e-4 && m_ticks.constLast() < 1.01e6;
+        return isPlain ? locale.toString(tick, 'f', std::max(0, -decadeOf(tick))) : locale.toString(tick, 'e', 0);
+    }
     const double magnitude = std::max(std::abs(m_low), std::abs(m_high));
     const int stepDecade = decadeOf(m_step);
     if (magnitude < 1e7 && stepDecade >= -6)

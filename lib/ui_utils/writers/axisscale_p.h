@@ -47,14 +47,16 @@ public:
 
 private:
     void scaleLinearly(Interval data, Ends ends, int maximumTicks);
-    void scaleLogarithmically(Interval data, int maximumTicks);
-    void addFineTicks(Interval data);
-    void addDecades(int first, int last, int maximumTicks);
+    void scaleLogarithmically(Interval data, Ends ends, int maximumTicks);
+    bool addRoundTicks(Interval data, Ends ends, int maximumTicks);
+    bool addDecades(Interval data, Ends ends, int maximumTicks);
 
     Kind m_kind;
     double m_low = 0;
     double m_high = 1;
     double m_step = 1;
+    // A logarithmic axis too short for round values of its own has ticks a step apart.
+    bool m_hasEvenTicks = false;
     QVector<double> m_ticks;
     QVector<double> m_minorTicks;
 };

@@ -15,6 +15,13 @@ namespace {
 const QLatin1String xEnd("_x:doubleARRAY:");
 const QLatin1String yEnd("_y:doubleARRAY:");
 
+/// A label or unit, as much of it as any plot has room for: a service may hold megabytes, and every character is measured.
+QString shownText(const QString& text)
+{
+    constexpr int longest = 200;
+    return text.size() <= longest ? text : text.left(longest - 1) + QChar(0x2026);
+}
+
 AxisScale::Kind scaleKind(const KIVClientItem& item)
 {
     return item.getAttribute(QStringLiteral("scale")).toString() == QLatin1String("log") ? AxisScale::Logarithmic
@@ -30,19 +37,19 @@ void addLimit(PlotData& data, const KIVClientItem& item, const QString& attribut
     const bool isKnown = std::any_of(data.limits.cbegin(), data.limits.cend(),
             [&](const PlotLimit& limit) { return limit.kind == kind && limit.value == value; });
     if (!isKnown)
-        data.limits.append({kind, value, item.getUnitString()});
+        data.limits.append({kind, value, shownText(item.getUnitString())});
 }
 
 void addCurve(PlotData& data, const KIVClientItem& x, const KIVClientItem& y)
 {
     if (data.curves.isEmpty()) {
-        data.xLabel = x.getLabel();
-        data.xUnit = x.getUnitString();
+        data.xLabel = shownText(x.getLabel());
+        data.xUnit = shownText(x.getUnitString());
         data.xKind = scaleKind(x);
         data.yKind = scaleKind(y);
     }
     const QString label = y.getLabel().isEmpty() ? y.getName() : y.getLabel();
-    data.curves.append({label, y.getUnitString(), x.getValue().toList(), y.getValue().toList()});
+    data.curves.append({shownText(label), shownText(y.getUnitString()), x.getValue().toList(), y.getValue().toList()});
     addLimit(data, y, QStringLiteral("lowerLimit"), PlotLimit::Lower);
     addLimit(data, y, QStringLiteral("upperLimit"), PlotLimit::Upper);
 }
