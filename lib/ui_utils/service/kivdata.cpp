@@ -11,6 +11,7 @@
 #include <kiv/kivenumclientitem.h>
 #include <kiv/kivvecclientitem.h>
 
+#include <QJSValue>
 #include <QQmlContext>
 #include <QQmlExpression>
 
@@ -22,6 +23,12 @@ KIVEnumChoicesClientItem* choicesOf(KIVClientItem* item)
 {
     const auto* enumeration = qobject_cast<KIVEnumClientItem*>(item);
     return enumeration ? enumeration->getChoices() : nullptr;
+}
+
+/// What QML hands over as an array or object of its own is nothing that a service or a settings file knows.
+QVariant plainValue(const QVariant& value)
+{
+    return value.userType() == qMetaTypeId<QJSValue>() ? value.value<QJSValue>().toVariant() : value;
 }
 
 bool isWithin(int index, int count)
@@ -299,6 +306,7 @@ void KivData::setValue(QVariant value)
 {
     if (!getClient() || isReadOnly())
         return;
+    value = plainValue(value);
     const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
     if (choices && !choices->contains(value.toInt())) {
         refuse(QStringLiteral("Invalid enum value %1").arg(value.toInt()));
@@ -419,7 +427,7 @@ void KivData::setAt(int ind, QVariant const& val)
     QVariantList list = elements();
     if (!isWithin(ind, list.size()))
         return;
-    list[ind] = val;
+    list[ind] = plainValue(val);
     QVariant value = list;
     if (m_value.type() == QVariant::StringList)
         value.convert(QVariant::StringList);
