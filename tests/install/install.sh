@@ -38,6 +38,18 @@ test -n "$library"
 if [ -n "$libdir" ]; then
     test "$library" = "$plain/$libdir/libuiutils.so.1"
 fi
+# The QML module finds the library where it was installed, and an installed program its services.
+plugin=$(find "$plain" -path '*/qt5/qml/UiUtils/libuiutilsplugin.so')
+for file in qmldir plugins.qmltypes; do
+    test -s "$(dirname "$plugin")/$file"
+done
+if LD_LIBRARY_PATH='' ldd "$plugin" | grep 'libuiutils\|libkiv' | grep -v " => $plain/"; then
+    echo "the QML module does not find its library" >&2
+    exit 1
+fi
+if [ -x "$plain/bin/uiutils-qml" ]; then
+    "$plain/bin/uiutils-qml" --root "$plain/root" --list | grep -q '^basemgr_cfg_saveLocation'
+fi
 # Hidden visibility: what is private must not be reachable from outside.
 if nm -DC --defined-only "$library" | grep -E ' [A-Z] uiutils::(OpenNode|onDisk|writeFileDurably|NodeReader)'; then
     echo "private symbols are exported" >&2

@@ -1,0 +1,113 @@
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+/// The program as its users start it.
+class UiUtilsQmlTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    struct Outcome
+    {
+        int exitCode = -1;
+        QString output;
+        QString errors;
+    };
+
+    Outcome run(QStringList arguments) const
+    {
+        QProcess process;
+        arguments += {"--root", m_folder.filePath("root")};
+        process.start(UIUTILS_QML_PROGRAM, arguments);
+        Outcome outcome;
+        if (process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit)
+            outcome.exitCode = process.exitCode();
+        else
+            process.kill();
+        process.waitForFinished();
+        outcome.output = QString::fromUtf8(process.readAllStandardOutput());
+        outcome.errors = QString::fromUtf8(process.readAllStandardError());
+        return outcome;
+    }
+
+    QString page(const QByteArray& body) const
+    {
+        const QString path = m_folder.filePath("page.qml");
+        QFile file(path);
+        const QByteArray text = "import QtQuick 2.15\nimport UiUtils 1.0\n" + body;
+        return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() ? path : QString();
+    }
+
+    QTemporaryDir m_folder;
+    const QString m_services = UIUTILS_SOURCE_DIR "/tests/qml/services";
+
+private Q_SLOTS:
+    void commandLines_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("help") << QStringList {"--help"} << 0 << "--services";
+        QTest::newRow("nothing") << QStringList {} << 2 << "Name one page";
+        QTest::newRow("two pages") << QStringList {"a.qml", "b.qml"} << 2 << "Name one page";
+        QTest::newRow("unknown option") << QStringList {"--colour", "a.qml"} << 2 << "colour";
+        QTest::newRow("list and page") << QStringList {"--list", "a.qml"} << 2 << "--list takes no page";
+        QTest::newRow("empty folder name") << QStringList {"--services", "", "a.qml"} << 2 << "--services needs";
+        QTest::newRow("no such page") << QStringList {"/nowhere/a.qml"} << 1 << "There is no page /nowhere/a.qml";
+        QTest::newRow("no such folder") << QStringList {"--services", "/nowhere", "--list"} << 1 << "/nowhere";
+    }
+    void commandLines()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, exitCode);
+        QFETCH(QString, words);
+        const Outcome outcome = run(arguments);
+        QCOMPARE(outcome.exitCode, exitCode);
+        QVERIFY2((exitCode == 0 ? outcome.output : outcome.errors).contains(words), qPrintable(outcome.errors));
+    }
+
+    void listsTheItems()
+    {
+        const Outcome outcome = run({"--list", "--services", m_services});
+        QCOMPARE(outcome.exitCode, 0);
+        const QStringList lines = outcome.output.split('\n');
+        QVERIFY2(lines.contains("field_cfg_name\tstd::string\tFiber 7"), qPrintable(outcome.output));
+        QVERIFY(lines.contains("field_cfg_mode\tint\tAutomatic"));
+    }
+
+    void aPageUsesTheItems()
+    {
+        const QString file = page("Item { Component.onCompleted: { console.log(field_cfg_name.value, services.field.name);"
+                                  " field_cfg_locked.value = 5; console.log(field_cfg_locked.error); Qt.exit(7) } }");
+        const Outcome outcome = run({file, "--services", m_services});
+        QCOMPARE(outcome.exitCode, 7);
+        QVERIFY2(outcome.errors.contains("Fiber 7 field"), qPrintable(outcome.errors));
+        QVERIFY(outcome.errors.contains("The key is turned."));
+    }
+
+    void takesAPicture()
+    {
+        const QString picture = m_folder.filePath("page.png");
+        const Outcome outcome = run({page("Rectangle { width: 60; height: 40; color: field_cfg_on.value ? 'red' : 'blue' }"),
+                "--services", m_services, "--grab", picture});
+        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
+        const QImage image(picture);
+        QCOMPARE(image.size(), QSize(60, 40));
+        QCOMPARE(image.pixelColor(30, 20), QColor(Qt::blue));
+    }
+
+    void aFaultyPage()
+    {
+        const Outcome outcome = run({page("Item { colour: 'red' }"), "--services", m_services});
+        QCOMPARE(outcome.exitCode, 1);
+        QVERIFY2(outcome.errors.contains("page.qml:3") && outcome.errors.contains("colour"), qPrintable(outcome.errors));
+        QCOMPARE(run({page("QtObject {}"), "--services", m_services}).exitCode, 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(UiUtilsQmlTest)
+#include "tst_uiutilsqml.moc"
