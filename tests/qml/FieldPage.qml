@@ -7,6 +7,8 @@ Column {
     id: page
 
     property string lastError
+    property KIVClientInterface client: field_res_loss.client
+    property BaseFormatter formatter: field_res_loss.formatter
     property alias nameField: nameField
     property alias rangeRow: rangeRow
     property alias rangeField: rangeField

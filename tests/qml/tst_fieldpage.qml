@@ -53,6 +53,13 @@ Item {
             compare(page.lossText.enabled, false)
         }
 
+        function test_platformObjectsAreProperties() {
+            compare(page.client, field_cfg_mode.client)
+            compare(page.formatter.format(1.5), "1.50 dB")
+            compare(page.formatter.getUnitString(), "dB")
+            compare(field_cfg_mode.formatter, null)
+        }
+
         function test_editsWithTheValidator() {
             type(page.nameField, "Trunk 12")
             compare(driver.value(":config:field:setup:name:"), "Trunk 12")
