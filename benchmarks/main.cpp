@@ -57,16 +57,16 @@ int main(int argc, char** argv)
     const QCommandLineOption jsonOption(
             QStringLiteral("json"), QStringLiteral("Write the figures to FILE as well."), QStringLiteral("FILE"));
     const QCommandLineOption onlyOption(QStringLiteral("only"),
-            QStringLiteral("Measure this room only: document, html, plot or xml."), QStringLiteral("ROOM"));
+            QStringLiteral("Measure this room only: binding, document, html, plot or xml."), QStringLiteral("ROOM"));
     parser.addOptions({runsOption, jsonOption, onlyOption});
     parser.process(app);
     const int runs = qMax(7, parser.value(runsOption).toInt());
 
     kiv::embedded::EmbeddedBackend backend;
     backend.loadFolders({QStringLiteral(UIUTILS_SERVICES_DIR)});
-    const QMap<QString, QVector<bench::Result> (*)(int)> rooms {{QStringLiteral("document"), bench::documentCases},
-            {QStringLiteral("html"), bench::htmlCases}, {QStringLiteral("plot"), bench::plotCases},
-            {QStringLiteral("xml"), bench::xmlCases}};
+    const QMap<QString, QVector<bench::Result> (*)(int)> rooms {{QStringLiteral("binding"), bench::bindingCases},
+            {QStringLiteral("document"), bench::documentCases}, {QStringLiteral("html"), bench::htmlCases},
+            {QStringLiteral("plot"), bench::plotCases}, {QStringLiteral("xml"), bench::xmlCases}};
     const QStringList wanted = parser.isSet(onlyOption) ? parser.values(onlyOption) : rooms.keys();
     QVector<bench::Result> results;
     for (const QString& room : wanted) {
