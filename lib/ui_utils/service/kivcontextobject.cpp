@@ -12,7 +12,7 @@ KIVContextObject::KIVContextObject(const QMap<QString, KivData*>& items, QObject
 }
 
 KIVContextObject::KIVContextObject(const Names& names, QObject* parent)
-    : DynamicObject("KIVContextObject", names.names, QByteArrayLiteral("KivData*"), parent)
+    : DynamicObject("KIVContextObject", names.names, qRegisterMetaType<KivData*>(), parent)
     , m_wrappers(names.wrappers)
 {
 }
@@ -21,9 +21,6 @@ KIVContextObject::~KIVContextObject() = default;
 
 KIVContextObject::Names KIVContextObject::namesOf(const QMap<QString, KivData*>& items)
 {
-    // The meta-object looks the type up by its name.
-    qRegisterMetaType<KivData*>();
-
     QVector<QPair<QString, KivData*>> named;
     named.reserve(items.size());
     for (KivData* wrapper : items) {
