@@ -13,6 +13,7 @@
 
 #include <QQmlContext>
 #include <QQmlExpression>
+#include <QStringBuilder>
 
 #include <cstdio>
 
@@ -118,11 +119,11 @@ QString KivData::getQmlTag() const
     const Manifest* owner = manifest();
     if (!m_item || !owner)
         return QString();
-    const QString kind = m_id.startsWith(QLatin1String(":act"))   ? QStringLiteral("act")
-            : m_id.startsWith(QLatin1String(":res")) ? QStringLiteral("res")
-            : m_id.startsWith(QLatin1String(":con")) ? QStringLiteral("cfg")
-                                                     : QString();
-    return owner->getQmlTag() + QLatin1Char('_') + kind + QLatin1Char('_') + getName();
+    const QLatin1String kind = m_id.startsWith(QLatin1String(":act")) ? QLatin1String("act")
+            : m_id.startsWith(QLatin1String(":res"))                  ? QLatin1String("res")
+            : m_id.startsWith(QLatin1String(":con"))                  ? QLatin1String("cfg")
+                                                                      : QLatin1String();
+    return owner->getQmlTag() % QLatin1Char('_') % kind % QLatin1Char('_') % getName();
 }
 
 QString KivData::getId() const
