@@ -76,4 +76,12 @@ QString PlainLabels::valueString() const
     return valueText(m_value, m_unit);
 }
 
+PlainNames::PlainNames(PlainLabels* labels, QObject* parent)
+    : QObject(parent)
+    , m_labels(labels)
+{
+}
+
+PlainNames::~PlainNames() = default;
+
 } // namespace bench

@@ -132,4 +132,18 @@ private:
     bool m_isReady = true;
 };
 
+/// A context object with one name for one object. Bindings read it faster than a property of the context.
+class PlainNames : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bench::PlainLabels* bench_cfg_int_0 MEMBER m_labels CONSTANT)
+
+public:
+    explicit PlainNames(PlainLabels* labels, QObject* parent = nullptr);
+    ~PlainNames() override;
+
+private:
+    PlainLabels* m_labels;
+};
+
 } // namespace bench

@@ -17,7 +17,6 @@ namespace bench {
 namespace {
 
 constexpr int updates = 20'000;
-const QString itemName = QStringLiteral("bench_cfg_int_0");
 
 const QByteArray bindingPage(R"(
     import QtQml 2.15
@@ -76,7 +75,8 @@ Result updateCase(int runs, const QString& name, const QByteArray& text)
     const Page page(text, [](QQmlContext* context) { Manifest::setQmlContext(context); });
 
     PlainLabels labels;
-    const Page plainPage(text, [&](QQmlContext* context) { context->setContextProperty(itemName, &labels); });
+    PlainNames names(&labels);
+    const Page plainPage(text, [&](QQmlContext* context) { context->setContextObject(&names); });
 
     int next = 1000;
     const Timing timing = interleaved(
