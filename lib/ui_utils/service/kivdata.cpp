@@ -329,11 +329,13 @@ void KivData::setValueInternal(QVariant& value)
     m_value = value;
     if (m_formatter)
         m_formatter->setValue(m_value);
-    const QPointer<KivData> self(this);
-    if (qobject_cast<KIVVecClientItem*>(m_item))
+    if (qobject_cast<KIVVecClientItem*>(m_item)) {
+        const QPointer<KivData> self(this);
         Q_EMIT valueCountChanged();
-    if (self)
-        Q_EMIT valueChanged();
+        if (!self)
+            return;
+    }
+    Q_EMIT valueChanged();
 }
 
 void KivData::apply()
@@ -577,7 +579,8 @@ void KivData::reportExpressionError(const QString& problem) const
 
 void KivData::settleReport()
 {
-    if (!m_id.startsWith(QLatin1String(":config")))
+    const bool isPending = m_changed || m_sent;
+    if (!isPending || !m_id.startsWith(QLatin1String(":config")))
         return;
     m_changed = false;
     m_sent = false;
