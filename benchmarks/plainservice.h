@@ -61,7 +61,7 @@ public:
     bool isValid() const override { return true; }
     QString getServiceName() const override { return m_name; }
     QStringList getItemIds(const QString&) const override { return m_ids; }
-    KIVClientItem* getItem(const QString& id) const override { return m_itemOfId.value(id); }
+    KIVClientItem* getItem(const QString& id) const override;
     bool setItem(const QString&, const QVariant&) override { return false; }
     bool sendAction(const QString&, const QString&, QString*, int) override { return false; }
     bool invokeAction(const QString&) override { return false; }
@@ -72,6 +72,7 @@ private:
     QStringList m_ids;
     QVector<PlainServiceItem*> m_items;
     QHash<QString, PlainServiceItem*> m_itemOfId;
+    mutable int m_next = 0;
 };
 
 } // namespace bench
