@@ -28,7 +28,6 @@ qint64 statusBytes(const char* field)
 
 qint64 growthHere(const std::function<void()>& run)
 {
-    malloc_trim(0);
     QFile peak(QStringLiteral("/proc/self/clear_refs"));
     if (!peak.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || peak.write("5") != 1)
         return -1;
