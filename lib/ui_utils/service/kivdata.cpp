@@ -327,6 +327,11 @@ void KivData::writeValue(QVariant value)
 void KivData::setValueInternal(QVariant& value)
 {
     m_value = value;
+    announceValue();
+}
+
+void KivData::announceValue()
+{
     if (m_formatter)
         m_formatter->setValue(m_value);
     if (qobject_cast<KIVVecClientItem*>(m_item)) {
@@ -591,8 +596,8 @@ void KivData::slotValueChanged()
     settleReport();
     if (!m_item)
         return;
-    QVariant value = m_item->getValue();
-    setValueInternal(value);
+    m_value = m_item->getValue();
+    announceValue();
 }
 
 void KivData::slotUnitsChanged()

@@ -232,6 +232,7 @@ private:
     void bindItem(KIVClientItem* item);
     void connectItem();
     void announceItem();
+    void announceValue();
     void compileApplicability(const QString& expression);
     bool evaluateApplicability();
     void reportExpressionError(const QString& problem) const;
