@@ -65,7 +65,8 @@ public:
     {
     }
 
-    /// CPU milliseconds that the names of both services take to become known to a page that knows those of the first.
+    /// CPU milliseconds that the names of both services take to become known to a page that knows those of
+    /// the first.
     double contextObject(int bindings)
     {
         QQmlEngine engine;
@@ -113,10 +114,13 @@ QVector<Result> contextCases(int runs)
     QVector<Result> results;
     for (const int bindings : {0, 200, 2'000}) {
         const Timing timing = interleavedParts(
-                runs, [&] { return services.contextObject(bindings); }, [&] { return services.contextProperties(); });
-        results.append({QStringLiteral("binding: context of %L1 names, %L2 bindings / setContextProperties, none")
-                                .arg(allNames).arg(bindings),
-                QStringLiteral("ms CPU"), timing.ours, timing.floor, 1.6});
+                runs, [&] { return services.contextObject(bindings); },
+                [&] { return services.contextProperties(); });
+        results.append(
+                {QStringLiteral("binding: context of %L1 names, %L2 bindings / setContextProperties, none")
+                                .arg(allNames)
+                                .arg(bindings),
+                        QStringLiteral("ms CPU"), timing.ours, timing.floor, 1.6});
     }
     return results;
 }

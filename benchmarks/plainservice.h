@@ -48,8 +48,8 @@ private:
     QVariant m_maximum;
 };
 
-/// A service of settings of type int, string and double in equal parts, named "int_0", "string_1", "double_2", "int_3"
-/// and so on, and listed in that order.
+/// A service of settings of type int, string and double in equal parts, named "int_0", "string_1",
+/// "double_2", "int_3" and so on, and listed in that order.
 class PlainService final : public KIVClientInterface
 {
 public:

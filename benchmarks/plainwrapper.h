@@ -9,8 +9,8 @@ class KIVClientItem;
 
 namespace bench {
 
-/// What a programmer would write by hand in the place of KivData: the same properties, each read from a member, a
-/// validator, and five connections that keep the members up to date.
+/// What a programmer would write by hand in the place of KivData: the same properties, each read from a
+/// member, a validator, and five connections that keep the members up to date.
 class PlainWrapper : public QObject
 {
     Q_OBJECT
@@ -95,7 +95,8 @@ private:
     QValidator* m_validator;
 };
 
-/// Six properties of an item as a programmer would write them by hand, with the notifiers that KivData has for them.
+/// Six properties of an item as a programmer would write them by hand, with the notifiers that KivData has
+/// for them.
 class PlainLabels : public QObject
 {
     Q_OBJECT

@@ -67,15 +67,15 @@ private:
 };
 
 /// How a page comes to know an object written by hand.
-enum class Known
-{
+enum class Known {
     /// As a property of the context, as is usual.
     AsContextProperty,
     /// By a context object, which bindings read faster, and which the library has too.
     ByContextObject,
 };
 
-/// Microseconds from a report of the service, or a write to the object written by hand, to the page's new values.
+/// Microseconds from a report of the service, or a write to the object written by hand, to the page's new
+/// values.
 Result updateCase(int runs, const QString& name, const QByteArray& text, Known known)
 {
     PlainService service(QStringLiteral("bench"), 3);
@@ -112,13 +112,14 @@ Result updateCase(int runs, const QString& name, const QByteArray& text, Known k
 
 QVector<Result> updateCases(int runs)
 {
-    return {updateCase(runs, QStringLiteral("binding: update of a binding / object written by hand"), bindingPage,
-                    Known::AsContextProperty),
+    return {updateCase(runs, QStringLiteral("binding: update of a binding / object written by hand"),
+                    bindingPage, Known::AsContextProperty),
             updateCase(runs, QStringLiteral("binding: update of a binding / same, known by a context object"),
                     bindingPage, Known::ByContextObject),
-            updateCase(runs, QStringLiteral("binding: update of six labels / object written by hand"), labelsPage,
-                    Known::AsContextProperty),
-            updateCase(runs, QStringLiteral("binding: update of six labels / same, known by a context object"),
+            updateCase(runs, QStringLiteral("binding: update of six labels / object written by hand"),
+                    labelsPage, Known::AsContextProperty),
+            updateCase(runs,
+                    QStringLiteral("binding: update of six labels / same, known by a context object"),
                     labelsPage, Known::ByContextObject)};
 }
 
