@@ -28,9 +28,15 @@ struct Timing
     double floor = 0;
 };
 
+/// CPU milliseconds of this process that `run` takes.
+double measured(const std::function<void()>& run);
+
 /// Runs the two in turn, once unmeasured and then `runs` times measured.
 Timing interleaved(int runs, const std::function<void()>& ours, const std::function<void()>& floor);
+/// The same for runs of which only a part counts: each tells what it measured.
+Timing interleavedParts(int runs, const std::function<double()>& ours, const std::function<double()>& floor);
 
+QVector<Result> bindingCases(int runs);
 QVector<Result> documentCases(int runs);
 QVector<Result> htmlCases(int runs);
 QVector<Result> xmlCases(int runs);

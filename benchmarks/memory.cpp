@@ -1,11 +1,12 @@
 #include "memory.h"
 
+#include "childprocess.h"
+
 #include <QByteArray>
 #include <QFile>
 
+#include <cmath>
 #include <malloc.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace bench {
 
@@ -27,7 +28,6 @@ qint64 statusBytes(const char* field)
 
 qint64 growthHere(const std::function<void()>& run)
 {
-    malloc_trim(0);
     QFile peak(QStringLiteral("/proc/self/clear_refs"));
     if (!peak.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || peak.write("5") != 1)
         return -1;
@@ -37,28 +37,30 @@ qint64 growthHere(const std::function<void()>& run)
     return before < 0 || after < 0 ? -1 : after - before;
 }
 
+/// What the program holds of the heap.
+double heapBytes()
+{
+    const struct mallinfo2 heap = mallinfo2();
+    return double(heap.uordblks) + double(heap.hblkhd);
+}
+
 } // namespace
 
 qint64 peakGrowth(const std::function<void()>& run)
 {
-    int ends[2];
-    if (::pipe(ends) != 0)
-        return -1;
-    const pid_t child = ::fork();
-    if (child < 0)
-        return -1;
-    if (child == 0) {
-        const qint64 growth = growthHere(run);
-        const bool told = ::write(ends[1], &growth, sizeof growth) == sizeof growth;
-        ::_exit(told ? 0 : 1);
-    }
-    qint64 growth = -1;
-    if (::read(ends[0], &growth, sizeof growth) != sizeof growth)
-        growth = -1;
-    ::close(ends[0]);
-    ::close(ends[1]);
-    ::waitpid(child, nullptr, 0);
-    return growth;
+    const double growth = inChild([&] { return double(growthHere(run)); });
+    return std::isnan(growth) ? -1 : qint64(growth);
+}
+
+qint64 heapGrowth(const std::function<void()>& prepare, const std::function<void()>& run)
+{
+    const double growth = inChild([&] {
+        prepare();
+        const double before = heapBytes();
+        run();
+        return heapBytes() - before;
+    });
+    return std::isnan(growth) ? -1 : qint64(growth);
 }
 
 } // namespace bench

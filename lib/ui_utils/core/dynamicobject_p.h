@@ -23,8 +23,8 @@ public:
     int qt_metacall(QMetaObject::Call call, int id, void** arguments) override;
 
 protected:
-    /// All properties have the type of that registered name. `className` has to outlive the object.
-    DynamicObject(const char* className, const QVector<QByteArray>& names, const QByteArray& typeName, QObject* parent);
+    /// All properties have the registered type of that id. The names have to differ.
+    DynamicObject(const char* className, const QVector<QByteArray>& names, int type, QObject* parent);
 
     /// Writes the property's value to `result`, which points to one of the properties' type.
     virtual void readProperty(int index, void* result) const = 0;

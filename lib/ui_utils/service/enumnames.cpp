@@ -23,7 +23,7 @@ EnumNames* EnumNames::create(const KIVEnumChoicesClientItem& choices, QObject* p
 }
 
 EnumNames::EnumNames(const QVector<QByteArray>& names, const QVector<int>& values, QObject* parent)
-    : DynamicObject("EnumNames", names, QByteArrayLiteral("int"), parent)
+    : DynamicObject("EnumNames", names, QMetaType::Int, parent)
     , m_values(values)
 {
 }

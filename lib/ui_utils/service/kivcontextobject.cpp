@@ -12,7 +12,7 @@ KIVContextObject::KIVContextObject(const QMap<QString, KivData*>& items, QObject
 }
 
 KIVContextObject::KIVContextObject(const Names& names, QObject* parent)
-    : DynamicObject("KIVContextObject", names.names, QByteArrayLiteral("KivData*"), parent)
+    : DynamicObject("KIVContextObject", names.names, qRegisterMetaType<KivData*>(), parent)
     , m_wrappers(names.wrappers)
 {
 }
@@ -21,15 +21,12 @@ KIVContextObject::~KIVContextObject() = default;
 
 KIVContextObject::Names KIVContextObject::namesOf(const QMap<QString, KivData*>& items)
 {
-    // The meta-object looks the type up by its name.
-    qRegisterMetaType<KivData*>();
-
-    QVector<QPair<QString, KivData*>> named;
+    QVector<QPair<QByteArray, KivData*>> named;
     named.reserve(items.size());
     for (KivData* wrapper : items) {
-        const QString name = wrapper ? wrapper->getQmlTag() : QString();
+        QByteArray name = wrapper ? wrapper->getQmlTag().toUtf8() : QByteArray();
         if (!name.isEmpty())
-            named.append({name, wrapper});
+            named.append({std::move(name), wrapper});
     }
     // Stable, so that of equal names the last one stays the last.
     std::stable_sort(named.begin(), named.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
@@ -37,11 +34,11 @@ KIVContextObject::Names KIVContextObject::namesOf(const QMap<QString, KivData*>&
     Names names;
     names.names.reserve(named.size());
     names.wrappers.reserve(named.size());
-    for (int i = 0; i < named.size(); ++i) {
-        if (i + 1 < named.size() && named.at(i + 1).first == named.at(i).first)
+    for (auto it = named.begin(); it != named.end(); ++it) {
+        if (it + 1 != named.end() && (it + 1)->first == it->first)
             continue;
-        names.names.append(named.at(i).first.toUtf8());
-        names.wrappers.append(named.at(i).second);
+        names.names.append(std::move(it->first));
+        names.wrappers.append(it->second);
     }
     static bool isReported = false;
     if (names.names.size() > maximumProperties && !isReported) {

@@ -14,6 +14,7 @@
 #include <QJSValue>
 #include <QQmlContext>
 #include <QQmlExpression>
+#include <QStringBuilder>
 
 #include <cstdio>
 
@@ -128,11 +129,11 @@ QString KivData::getQmlTag() const
     const Manifest* owner = manifest();
     if (!m_item || !owner)
         return QString();
-    const QString kind = m_id.startsWith(QLatin1String(":act"))   ? QStringLiteral("act")
-            : m_id.startsWith(QLatin1String(":res")) ? QStringLiteral("res")
-            : m_id.startsWith(QLatin1String(":con")) ? QStringLiteral("cfg")
-                                                     : QString();
-    return owner->getQmlTag() + QLatin1Char('_') + kind + QLatin1Char('_') + getName();
+    const QLatin1String kind = m_id.startsWith(QLatin1String(":act")) ? QLatin1String("act")
+            : m_id.startsWith(QLatin1String(":res"))                  ? QLatin1String("res")
+            : m_id.startsWith(QLatin1String(":con"))                  ? QLatin1String("cfg")
+                                                                      : QLatin1String();
+    return owner->getQmlTag() % QLatin1Char('_') % kind % QLatin1Char('_') % getName();
 }
 
 QString KivData::getId() const
@@ -339,13 +340,20 @@ void KivData::writeValue(QVariant value)
 void KivData::setValueInternal(QVariant& value)
 {
     m_value = value;
+    announceValue();
+}
+
+void KivData::announceValue()
+{
     if (m_formatter)
         m_formatter->setValue(m_value);
-    const QPointer<KivData> self(this);
-    if (qobject_cast<KIVVecClientItem*>(m_item))
+    if (qobject_cast<KIVVecClientItem*>(m_item)) {
+        const QPointer<KivData> self(this);
         Q_EMIT valueCountChanged();
-    if (self)
-        Q_EMIT valueChanged();
+        if (!self)
+            return;
+    }
+    Q_EMIT valueChanged();
 }
 
 void KivData::apply()
@@ -589,7 +597,8 @@ void KivData::reportExpressionError(const QString& problem) const
 
 void KivData::settleReport()
 {
-    if (!m_id.startsWith(QLatin1String(":config")))
+    const bool isPending = m_changed || m_sent;
+    if (!isPending || !m_id.startsWith(QLatin1String(":config")))
         return;
     m_changed = false;
     m_sent = false;
@@ -600,8 +609,8 @@ void KivData::slotValueChanged()
     settleReport();
     if (!m_item)
         return;
-    QVariant value = m_item->getValue();
-    setValueInternal(value);
+    m_value = m_item->getValue();
+    announceValue();
 }
 
 void KivData::slotUnitsChanged()

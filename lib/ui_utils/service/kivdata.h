@@ -233,6 +233,7 @@ private:
     void connectItem();
     void createFormatter();
     void announceItem();
+    void announceValue();
     void compileApplicability(const QString& expression);
     bool evaluateApplicability();
     void reportExpressionError(const QString& problem) const;

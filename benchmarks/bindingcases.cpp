@@ -1,0 +1,10 @@
+#include "bindingcases.h"
+
+namespace bench {
+
+QVector<Result> bindingCases(int runs)
+{
+    return createCases(runs) + updateCases(runs) + contextCases(runs);
+}
+
+} // namespace bench
