@@ -2,6 +2,8 @@
 
 #include "core/userdata.h"
 #include "document/reporttemplate.h"
+#include "local/uidata.h"
+#include "local/uidatacontainer.h"
 #include "service/forgivingvalidator.h"
 #include "service/kivaggregatedata.h"
 #include "service/kivlistaggregatedata.h"
@@ -51,12 +53,30 @@ void registerServiceTypes(const char* uri)
     qmlRegisterAnonymousType<QValidator>(uri, 1);
 }
 
+QObject* sharedContainer(QQmlEngine*, QJSEngine*)
+{
+    QQmlEngine::setObjectOwnership(UiDataContainer::shared(), QQmlEngine::CppOwnership);
+    return UiDataContainer::shared();
+}
+
+void registerLocalTypes(const char* uri)
+{
+    qmlRegisterType<UiData>(uri, 1, 0, "UiData");
+    qmlRegisterType<StringUiData>(uri, 1, 0, "StringUiData");
+    qmlRegisterType<BoolUiData>(uri, 1, 0, "BoolUiData");
+    qmlRegisterType<EnumUiData>(uri, 1, 0, "EnumUiData");
+    qmlRegisterType<UiDataEnums>(uri, 1, 0, "UiDataEnums");
+    qmlRegisterType<UiEnumType>(uri, 1, 0, "UiEnumType");
+    qmlRegisterSingletonType<UiDataContainer>(uri, 1, 0, "UiDataContainer", sharedContainer);
+}
+
 } // namespace
 
 void registerTypes(const char* uri)
 {
     qmlRegisterType<ReportTemplate>(uri, 1, 0, "ReportTemplate");
     registerServiceTypes(uri);
+    registerLocalTypes(uri);
 }
 
 } // namespace uiutils

@@ -7,11 +7,11 @@
 #include "service/inputrange_p.h"
 #include "service/inputvalidator_p.h"
 #include "service/manifest.h"
+#include "service/valuetext_p.h"
 
 #include <kiv/kivenumclientitem.h>
 #include <kiv/kivvecclientitem.h>
 
-#include <QJSValue>
 #include <QQmlContext>
 #include <QQmlExpression>
 #include <QStringBuilder>
@@ -24,12 +24,6 @@ KIVEnumChoicesClientItem* choicesOf(KIVClientItem* item)
 {
     const auto* enumeration = qobject_cast<KIVEnumClientItem*>(item);
     return enumeration ? enumeration->getChoices() : nullptr;
-}
-
-/// What QML hands over as an array or object of its own is nothing that a service or a settings file knows.
-QVariant plainValue(const QVariant& value)
-{
-    return value.userType() == qMetaTypeId<QJSValue>() ? value.value<QJSValue>().toVariant() : value;
 }
 
 bool isWithin(int index, int count)
@@ -202,7 +196,12 @@ QString KivData::getRangeDescription() const
 /// Made when it is first asked for: most items are never edited.
 QValidator* KivData::getValidator() const
 {
-    if (!m_validator && m_item) {
+    return m_validator || m_item ? currentValidator() : nullptr;
+}
+
+QValidator* KivData::currentValidator() const
+{
+    if (!m_validator) {
         uiutils::InputRule rule;
         rule.type = getType();
         rule.regex = getRegex();
@@ -212,6 +211,15 @@ QValidator* KivData::getValidator() const
         m_validator = uiutils::createValidator(rule, const_cast<KivData*>(this));
     }
     return m_validator;
+}
+
+void KivData::renewValidator()
+{
+    // An entry field takes leave of the old one only when it hears of the new one.
+    if (m_validator)
+        m_validator->deleteLater();
+    m_validator = nullptr;
+    currentValidator();
 }
 
 BaseFormatter* KivData::getBaseFormatter() const
@@ -227,13 +235,20 @@ void KivData::createFormatter()
     const QString name = getAttr(QStringLiteral("formatter")).toString();
     if (name.isEmpty() || !getAttr(QStringLiteral("enum")).toString().isEmpty())
         return;
+    adoptFormatter(name);
+    const QVariant precision = getAttr(QStringLiteral("precision"));
+    if (m_formatter && !precision.isNull())
+        m_formatter->setPrecision(precision.toInt());
+}
+
+void KivData::adoptFormatter(const QString& name)
+{
+    if (m_formatter || name.isEmpty())
+        return;
     m_formatter = getFormatter(name);
     if (!m_formatter)
         return;
     m_formatter->setParent(this);
-    const QVariant precision = getAttr(QStringLiteral("precision"));
-    if (!precision.isNull())
-        m_formatter->setPrecision(precision.toInt());
     m_formatter->setValue(m_value);
 }
 
@@ -278,16 +293,8 @@ QString KivData::getValueString(bool showUnits) const
 {
     if (m_item)
         return m_item->getValueString(showUnits);
-    if (BaseFormatter* formatter = getBaseFormatter()) {
-        const bool shown = formatter->getShowUnits();
-        formatter->setShowUnits(showUnits);
-        const QString text = formatter->format(m_value);
-        formatter->setShowUnits(shown);
-        return text;
-    }
-    if (m_value.type() == QVariant::Double)
-        return uiutils::fixedPointText(m_value.toDouble(), getPrecision());
-    return m_value.toString();
+    BaseFormatter* formatter = getBaseFormatter();
+    return formatter ? uiutils::formattedText(*formatter, m_value, showUnits) : uiutils::plainText(m_value, getPrecision());
 }
 
 QString KivData::getValueStringNoUnits() const
@@ -307,7 +314,7 @@ void KivData::setValue(QVariant value)
 {
     if (!getClient() || isReadOnly())
         return;
-    value = plainValue(value);
+    value = uiutils::plainValue(value);
     const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
     if (choices && !choices->contains(value.toInt())) {
         refuse(QStringLiteral("Invalid enum value %1").arg(value.toInt()));
@@ -337,16 +344,21 @@ void KivData::writeValue(QVariant value)
         checkAppError();
 }
 
-void KivData::setValueInternal(QVariant& value)
+void KivData::holdValue(const QVariant& value)
 {
     m_value = value;
+    if (m_formatter)
+        m_formatter->setValue(m_value);
+}
+
+void KivData::setValueInternal(QVariant& value)
+{
+    holdValue(value);
     announceValue();
 }
 
 void KivData::announceValue()
 {
-    if (m_formatter)
-        m_formatter->setValue(m_value);
     if (qobject_cast<KIVVecClientItem*>(m_item)) {
         const QPointer<KivData> self(this);
         Q_EMIT valueCountChanged();
@@ -435,7 +447,7 @@ void KivData::setAt(int ind, QVariant const& val)
     QVariantList list = elements();
     if (!isWithin(ind, list.size()))
         return;
-    list[ind] = plainValue(val);
+    list[ind] = uiutils::plainValue(val);
     QVariant value = list;
     if (m_value.type() == QVariant::StringList)
         value.convert(QVariant::StringList);
@@ -609,7 +621,7 @@ void KivData::slotValueChanged()
     settleReport();
     if (!m_item)
         return;
-    m_value = m_item->getValue();
+    holdValue(m_item->getValue());
     announceValue();
 }
 

@@ -219,6 +219,14 @@ Q_SIGNALS:
 protected:
     KIVClientItem* item() const { return m_item; }
     Manifest* manifest() const;
+    /// Keeps a value and hands it to the formatter; tells nobody.
+    void holdValue(const QVariant& value);
+    /// Takes a formatter of that name unless there is one already.
+    void adoptFormatter(const QString& name);
+    /// The validator for what the accessors say, made by the first call.
+    QValidator* currentValidator() const;
+    /// Makes the validator anew; the old one goes when the event loop runs.
+    void renewValidator();
     /// Ends a pending change when the service itself reports a setting.
     void settleReport();
     /// Publishes why a write was not even tried through `error` and errorChanged().

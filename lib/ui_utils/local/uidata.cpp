@@ -1,0 +1,699 @@
+#include "local/uidata.h"
+
+#include "local/uidatacontainer.h"
+#include "service/valuetext_p.h"
+
+#include <kiv/baseformatter.h>
+
+#include <QColor>
+#include <QDateTime>
+#include <QDebug>
+#include <QPointF>
+#include <QQmlEngine>
+#include <QRectF>
+#include <QVector3D>
+#include <QVector4D>
+
+const QString UiData::TYPE_STRING = QStringLiteral("std::string");
+const QString UiData::TYPE_VEC_STRING = QStringLiteral("std::vector<string>");
+const QString UiData::TYPE_VEC_DOUBLE = QStringLiteral("std::vector<double>");
+const QString UiData::TYPE_VEC_INT = QStringLiteral("std::vector<int32_t>");
+const QString UiData::TYPE_BOOL = QStringLiteral("bool");
+const QString UiData::TYPE_ENUM = QStringLiteral("eUiEnum");
+const QString UiData::TYPE_UINT = QStringLiteral("uint");
+const QString UiData::TYPE_INT = QStringLiteral("int");
+const QString UiData::TYPE_UINT64 = QStringLiteral("quint64");
+const QString UiData::TYPE_INT64 = QStringLiteral("qint64");
+const QString UiData::TYPE_DOUBLE = QStringLiteral("double");
+
+namespace {
+
+namespace keys {
+const QString name = QStringLiteral("name");
+const QString label = QStringLiteral("label");
+const QString type = QStringLiteral("type");
+const QString registerId = QStringLiteral("registerId");
+const QString readOnly = QStringLiteral("readOnly");
+const QString ready = QStringLiteral("ready");
+const QString applicable = QStringLiteral("applicable");
+const QString qualityCode = QStringLiteral("qualityCode");
+const QString precision = QStringLiteral("precision");
+const QString inputType = QStringLiteral("inputType");
+const QString minRange = QStringLiteral("minRange");
+const QString maxRange = QStringLiteral("maxRange");
+const QString regex = QStringLiteral("regex");
+const QString persistent = QStringLiteral("persistent");
+const QString mandatory = QStringLiteral("mandatory");
+const QString valueOk = QStringLiteral("valueOk");
+const QString formatter = QStringLiteral("formatter");
+} // namespace keys
+
+constexpr int longestVectorText = 1024 * 1024;
+
+bool isWithin(int index, int count)
+{
+    return index >= 0 && index < count;
+}
+
+QString joined(const QVector<double>& numbers, int digits = 15)
+{
+    QStringList texts;
+    for (const double number : numbers)
+        texts.append(QString::number(number, 'g', digits));
+    return texts.join(QLatin1Char(','));
+}
+
+/// A literal such as "1,2" or "10:20" in a QML file arrives as a point or a time where any value is taken. A form wants what
+/// was written.
+QVariant asWritten(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::QPointF: {
+        const QPointF point = value.toPointF();
+        return joined({point.x(), point.y()});
+    }
+    case QMetaType::QSizeF: {
+        const QSizeF size = value.toSizeF();
+        return QString::number(size.width(), 'g', 15) + QLatin1Char('x') + QString::number(size.height(), 'g', 15);
+    }
+    case QMetaType::QRectF: {
+        const QRectF rect = value.toRectF();
+        return joined({rect.x(), rect.y(), rect.width()}) + QLatin1Char('x') + QString::number(rect.height(), 'g', 15);
+    }
+    case QMetaType::QVector3D: {
+        const QVector3D vector = value.value<QVector3D>();
+        return joined({vector.x(), vector.y(), vector.z()}, 6);
+    }
+    case QMetaType::QVector4D: {
+        const QVector4D vector = value.value<QVector4D>();
+        return joined({vector.x(), vector.y(), vector.z(), vector.w()}, 6);
+    }
+    case QMetaType::QTime:
+        return value.toTime().toString(
+                value.toTime().second() == 0 ? QStringLiteral("HH:mm") : QStringLiteral("HH:mm:ss"));
+    case QMetaType::QDateTime:
+        return value.toDateTime().toString(Qt::ISODate);
+    case QMetaType::QDate:
+        return value.toDate().toString(Qt::ISODate);
+    case QMetaType::QColor:
+        return value.value<QColor>().name();
+    default:
+        return value;
+    }
+}
+
+/// The comma-joined text that stands for a vector, whatever QML gave.
+QString vectorText(const QVariant& value)
+{
+    if (value.type() != QVariant::List && value.type() != QVariant::StringList)
+        return value.toString();
+    return value.toStringList().join(QLatin1Char(','));
+}
+
+} // namespace
+
+UiData::UiData(QObject* parent)
+    : KivData(parent)
+    , m_enumList(new UiDataEnums(this))
+    , m_enumMap(new QQmlPropertyMap(this))
+{
+    QQmlEngine::setObjectOwnership(m_enumMap, QQmlEngine::CppOwnership);
+    QQmlEngine::setObjectOwnership(m_enumList, QQmlEngine::CppOwnership);
+    connect(m_enumList, &UiDataEnums::itemsChanged, this, &UiData::slotEnumUpdate);
+    // A range is set in two steps; the validator waits until both are done.
+    connect(this, &UiData::minRangeChanged, this, &UiData::slotValidatorUpdate, Qt::QueuedConnection);
+    connect(this, &UiData::maxRangeChanged, this, &UiData::slotValidatorUpdate, Qt::QueuedConnection);
+    connect(this, &UiData::regexChanged, this, &UiData::slotValidatorUpdate);
+}
+
+UiData::~UiData()
+{
+    UiDataContainer::shared()->removeItem(this);
+    // The context holds a plain pointer.
+    const QString id = getRegisterId();
+    if (m_rootContext && m_rootContext->isValid() && !id.isEmpty()
+            && m_rootContext->contextProperty(id).value<QObject*>() == this)
+        m_rootContext->setContextProperty(id, nullptr);
+}
+
+// --- Attributes ----------------------------------------------------------------------------------
+
+void UiData::setAttributes(const QMap<QString, QVariant>& attributes)
+{
+    if (attributes != m_attributes)
+        m_attributes = attributes;
+    slotValidatorUpdate();
+    adoptFormatter(getAttr(keys::formatter).toString());
+}
+
+QString UiData::getId() const
+{
+    const QString name = getName();
+    return QStringLiteral(":ui_only:%1:").arg(name.isEmpty() ? getRegisterId() : name);
+}
+
+QString UiData::getName() const
+{
+    return getAttr(keys::name).toString();
+}
+
+QString UiData::getType() const
+{
+    return getAttr(keys::type).toString();
+}
+
+void UiData::setType(const QString& type)
+{
+    m_attributes.insert(keys::type, type);
+    Q_EMIT typeChanged();
+}
+
+QString UiData::getLabel() const
+{
+    return getAttr(keys::label).toString();
+}
+
+void UiData::setLabel(const QString& label)
+{
+    m_attributes.insert(keys::label, label);
+    Q_EMIT labelChanged();
+}
+
+QString UiData::getRegex() const
+{
+    return getAttr(keys::regex).toString();
+}
+
+void UiData::setRegex(const QString& regex)
+{
+    m_attributes.insert(keys::regex, regex);
+    Q_EMIT regexChanged();
+}
+
+QVariant UiData::getMinRange() const
+{
+    return getAttr(keys::minRange);
+}
+
+void UiData::setMinRange(const QVariant& minimum)
+{
+    m_attributes.insert(keys::minRange, uiutils::plainValue(minimum));
+    const QPointer<UiData> self(this);
+    Q_EMIT minRangeChanged();
+    if (self)
+        Q_EMIT rangeDescriptionChanged();
+}
+
+QVariant UiData::getMaxRange() const
+{
+    return getAttr(keys::maxRange);
+}
+
+void UiData::setMaxRange(const QVariant& maximum)
+{
+    m_attributes.insert(keys::maxRange, uiutils::plainValue(maximum));
+    const QPointer<UiData> self(this);
+    Q_EMIT maxRangeChanged();
+    if (self)
+        Q_EMIT rangeDescriptionChanged();
+}
+
+void UiData::setPrecision(unsigned precision)
+{
+    m_attributes.insert(keys::precision, precision);
+    Q_EMIT precisionChanged();
+}
+
+void UiData::setInputType(unsigned inputType)
+{
+    m_attributes.insert(keys::inputType, inputType);
+    Q_EMIT inputTypeChanged();
+}
+
+QString UiData::getRegisterId() const
+{
+    return getAttr(keys::registerId).toString();
+}
+
+void UiData::setRegisterId(const QString& id)
+{
+    if (m_attributes.contains(keys::registerId)) {
+        qWarning("registerId already exsist!");
+        return;
+    }
+    m_attributes.insert(keys::registerId, id);
+}
+
+bool UiData::isReadOnly() const
+{
+    return getAttr(keys::readOnly).toBool();
+}
+
+void UiData::setReadOnly(bool readOnly)
+{
+    m_attributes.insert(keys::readOnly, readOnly);
+    Q_EMIT readOnlyChanged();
+}
+
+bool UiData::isReady() const
+{
+    return m_attributes.value(keys::ready, true).toBool();
+}
+
+void UiData::setReady(bool ready)
+{
+    m_attributes.insert(keys::ready, ready);
+    const QPointer<UiData> self(this);
+    Q_EMIT isReadyChanged();
+    if (self)
+        Q_EMIT KivData::isReadyChanged();
+}
+
+bool UiData::isApplicable()
+{
+    return m_attributes.value(keys::applicable, true).toBool();
+}
+
+void UiData::setApplicable(bool applicable)
+{
+    m_attributes.insert(keys::applicable, applicable);
+    slotApplicChanged();
+}
+
+void UiData::slotApplicChanged()
+{
+    const QPointer<UiData> self(this);
+    Q_EMIT applicableChanged();
+    if (self)
+        Q_EMIT KivData::applicableChanged();
+}
+
+bool UiData::isPersistent() const
+{
+    return getAttr(keys::persistent).toBool();
+}
+
+void UiData::setPersistent(bool persistent)
+{
+    m_attributes.insert(keys::persistent, persistent);
+}
+
+bool UiData::isMandatory() const
+{
+    return getAttr(keys::mandatory).toBool();
+}
+
+void UiData::setMandatory(bool mandatory)
+{
+    const bool isChange = mandatory != isMandatory();
+    m_attributes.insert(keys::mandatory, mandatory);
+    if (isChange)
+        Q_EMIT mandatoryChanged();
+}
+
+bool UiData::isValueOk() const
+{
+    return m_attributes.value(keys::valueOk, true).toBool();
+}
+
+void UiData::setValueOk(bool valueOk)
+{
+    const bool isChange = valueOk != isValueOk();
+    m_attributes.insert(keys::valueOk, valueOk);
+    if (isChange)
+        Q_EMIT valueOkChanged();
+}
+
+int UiData::getQualityCode() const
+{
+    return getAttr(keys::qualityCode).toInt();
+}
+
+void UiData::setQuality(int code)
+{
+    m_attributes.insert(keys::qualityCode, code);
+    Q_EMIT qualityCodeChanged();
+}
+
+void UiData::setQualityNone()
+{
+    setQuality(KIVClientItem::QualityNone);
+}
+
+void UiData::setPassing()
+{
+    setQuality(KIVClientItem::QualityPassing);
+}
+
+void UiData::setWarning()
+{
+    setQuality(KIVClientItem::QualityWarning);
+}
+
+void UiData::setFailing()
+{
+    setQuality(KIVClientItem::QualityFailing);
+}
+
+QVariant UiData::getProperty(QString const& prop) const
+{
+    return getAttr(prop);
+}
+
+QValidator* UiData::getValidator() const
+{
+    return currentValidator();
+}
+
+void UiData::slotValidatorUpdate()
+{
+    renewValidator();
+    Q_EMIT validatorChanged();
+}
+
+// --- The value -----------------------------------------------------------------------------------
+
+bool UiData::isVector() const
+{
+    const QString type = getType();
+    return type == TYPE_VEC_INT || type == TYPE_VEC_DOUBLE || type == TYPE_VEC_STRING;
+}
+
+void UiData::setValue(QVariant value)
+{
+    value = asWritten(uiutils::plainValue(value));
+    if (!isVector()) {
+        holdValue(value);
+        Q_EMIT valueChanged();
+        return;
+    }
+    holdValue(vectorText(value).left(longestVectorText));
+    updateVectorValue();
+    const QPointer<UiData> self(this);
+    Q_EMIT valueCountChanged();
+    if (self)
+        Q_EMIT valueChanged();
+}
+
+void UiData::setValue(QVector<QVariant> elements)
+{
+    m_elements = elements;
+    joinElements();
+    const QPointer<UiData> self(this);
+    Q_EMIT valueChanged();
+    if (self)
+        Q_EMIT valueCountChanged();
+}
+
+QVariant UiData::element(const QVariant& value) const
+{
+    const QString type = getType();
+    const QVariant plain = uiutils::plainValue(value);
+    if (type == TYPE_VEC_DOUBLE)
+        return plain.toDouble();
+    if (type == TYPE_VEC_INT)
+        return plain.toInt();
+    return plain.toString();
+}
+
+void UiData::updateVectorValue()
+{
+    const QString nothing(QChar(0));
+    const bool isText = getType() == TYPE_VEC_STRING;
+    const QStringList parts = getValue().toString().split(QLatin1Char(','));
+    m_elements.clear();
+    m_elements.reserve(parts.size());
+    for (const QString& part : parts) {
+        if (!isText || part != nothing)
+            m_elements.append(element(part));
+    }
+}
+
+void UiData::joinElements()
+{
+    QStringList texts;
+    texts.reserve(m_elements.size());
+    for (const QVariant& part : qAsConst(m_elements))
+        texts.append(part.toString());
+    holdValue(texts.join(QLatin1Char(',')));
+}
+
+QString UiData::getValueString(bool showUnits) const
+{
+    if (BaseFormatter* formatter = getBaseFormatter())
+        return uiutils::formattedText(*formatter, getValue(), showUnits);
+    const QString type = getType();
+    if (type == TYPE_BOOL)
+        return getValue().toInt() != 0 ? tr("True") : tr("False");
+    if (type == TYPE_ENUM) {
+        const int position = m_enumValues.indexOf(getValue().toInt());
+        return getValue().isValid() ? m_enumLabels.value(position) : QString();
+    }
+    return type == TYPE_DOUBLE ? uiutils::plainText(getValue().toDouble(), getPrecision()) : getValue().toString();
+}
+
+int UiData::getValueCount() const
+{
+    return m_elements.size();
+}
+
+QVariant UiData::variantAt(int ind) const
+{
+    return m_elements.value(ind);
+}
+
+QVariant UiData::at(int ind) const
+{
+    return variantAt(ind);
+}
+
+QVariant UiData::getArrayValue(int index) const
+{
+    return variantAt(index);
+}
+
+void UiData::setAt(int ind, QVariant const& val)
+{
+    if (!isWithin(ind, m_elements.size()))
+        return;
+    m_elements[ind] = element(val);
+    joinElements();
+    const QPointer<UiData> self(this);
+    Q_EMIT valueChanged();
+    if (self)
+        Q_EMIT arraySelectionChanged();
+}
+
+void UiData::insertAt(int ind, const QVariant& val)
+{
+    if (!isVector() || !isWithin(ind, m_elements.size() + 1))
+        return;
+    m_elements.insert(ind, element(val));
+    joinElements();
+    const QPointer<UiData> self(this);
+    Q_EMIT valueChanged();
+    if (self)
+        Q_EMIT valueCountChanged();
+    if (self)
+        Q_EMIT arraySelectionChanged();
+}
+
+void UiData::removeAt(int at)
+{
+    if (!isWithin(at, m_elements.size()))
+        return;
+    m_elements.removeAt(at);
+    m_arraySelection = qMax(0, qMin(m_arraySelection, m_elements.size() - 1));
+    joinElements();
+    const QPointer<UiData> self(this);
+    Q_EMIT valueChanged();
+    if (self)
+        Q_EMIT arraySelectionChanged();
+    if (self)
+        Q_EMIT valueCountChanged();
+}
+
+int UiData::getArraySelection() const
+{
+    return isWithin(m_arraySelection, m_elements.size()) ? m_arraySelection : -1;
+}
+
+void UiData::setArraySelection(int index)
+{
+    if (!isWithin(index, m_elements.size()))
+        return;
+    m_arraySelection = index;
+    Q_EMIT arraySelectionChanged();
+}
+
+QString UiData::getArraySelectionString() const
+{
+    return variantAt(getArraySelection()).toString();
+}
+
+// --- Choices -------------------------------------------------------------------------------------
+
+void UiData::setUiEnumList(UiDataEnums* list)
+{
+    if (list == m_enumList)
+        return;
+    if (m_enumList)
+        disconnect(m_enumList, &UiDataEnums::itemsChanged, this, &UiData::slotEnumUpdate);
+    m_enumList = list;
+    const QPointer<UiData> self(this);
+    if (list)
+        connect(list, &UiDataEnums::itemsChanged, this, &UiData::slotEnumUpdate);
+    if (getType() != TYPE_ENUM) {
+        setType(TYPE_ENUM);
+        if (self)
+            Q_EMIT typeChanged();
+    }
+    // One that is still being filled tells when it is done.
+    if (self && (!m_enumList || m_enumList->isComplete()))
+        slotEnumUpdate();
+}
+
+void UiData::setEnums(const QList<int>& values, const QStringList& labels, const QStringList& names)
+{
+    if (!m_enumList)
+        return;
+    for (int i = 0; i < values.size(); ++i)
+        m_enumList->append(new UiEnumType(m_enumList, labels.value(i), names.value(i), values.at(i), true));
+    m_enumList->componentComplete();
+}
+
+void UiData::setEnums(const QList<int>& values, const QStringList& labels)
+{
+    setEnums(values, labels, QStringList());
+}
+
+void UiData::slotEnumUpdate()
+{
+    const QStringList known = m_enumMap->keys();
+    for (const QString& key : known)
+        m_enumMap->clear(key);
+    m_enumLabels.clear();
+    m_enumValues.clear();
+    const QList<UiEnumType*> choices = m_enumList ? m_enumList->getEnumList() : QList<UiEnumType*>();
+    for (const UiEnumType* choice : choices) {
+        if (!choice->getName().isEmpty())
+            m_enumMap->insert(choice->getName(), choice->getValue());
+        m_enumLabels.append(choice->getLabel());
+        m_enumValues.append(choice->getValue());
+    }
+    const QPointer<UiData> self(this);
+    Q_EMIT valueChanged();
+    if (self)
+        Q_EMIT enumLabelsChanged();
+    if (self)
+        Q_EMIT enumCountChanged();
+}
+
+int UiData::getEnumCount() const
+{
+    return getType() == TYPE_BOOL ? 2 : m_enumValues.size();
+}
+
+QString UiData::enumLabel(int const& index)
+{
+    if (getType() == TYPE_BOOL)
+        return index == 0 ? tr("False") : index == 1 ? tr("True") : QString();
+    return m_enumLabels.value(index);
+}
+
+QString UiData::enumLabelForValue(int const& enumVal)
+{
+    const int position = enumIndex(enumVal);
+    return position < 0 ? QString() : enumLabel(position);
+}
+
+int UiData::enumValue(int const& index)
+{
+    if (getType() == TYPE_BOOL)
+        return isWithin(index, 2) ? index : -1;
+    return m_enumValues.value(index, -1);
+}
+
+int UiData::enumIndex(int const& enumVal)
+{
+    if (getType() == TYPE_BOOL)
+        return isWithin(enumVal, 2) ? enumVal : -1;
+    return m_enumValues.indexOf(enumVal);
+}
+
+bool UiData::applicableAt(int const& i)
+{
+    if (getType() == TYPE_BOOL)
+        return isWithin(i, 2);
+    const UiEnumType* choice = m_enumList ? m_enumList->at(i) : nullptr;
+    return choice && choice->isApplicable();
+}
+
+// --- Nothing to send -----------------------------------------------------------------------------
+
+void UiData::invoke() { }
+
+QString UiData::invokeWithStringArg(QString const&)
+{
+    return QString();
+}
+
+void UiData::apply() { }
+
+void UiData::revert() { }
+
+// --- In QML --------------------------------------------------------------------------------------
+
+QObject* UiData::getObjectParent() const
+{
+    return m_declarer ? m_declarer.data() : parent();
+}
+
+void UiData::classBegin() { }
+
+void UiData::componentComplete()
+{
+    QQmlEngine* engine = qmlEngine(this);
+    if (!engine) {
+        qWarning("registerId is used for context property name in a engine");
+        return;
+    }
+    // The container becomes the parent, but the item is no older than the page.
+    m_declarer = parent();
+    if (m_declarer)
+        connect(m_declarer, &QObject::destroyed, this, [this] { delete this; });
+    const QPointer<UiData> self(this);
+    UiDataContainer::shared()->addItem(this);
+    if (self)
+        registerInEngine(engine->rootContext());
+    if (!self || !isVector() || !m_elements.isEmpty() || getValue().toString().isEmpty())
+        return;
+    updateVectorValue();
+    Q_EMIT valueCountChanged();
+}
+
+void UiData::registerInEngine(QQmlContext* rootContext)
+{
+    m_rootContext = rootContext;
+    const QString id = getRegisterId();
+    if (!id.isEmpty())
+        rootContext->setContextProperty(id, this);
+}
+
+StringUiData::StringUiData(QObject* parent)
+    : UiData(parent)
+{
+    setAttributes({{keys::type, TYPE_STRING}});
+}
+
+BoolUiData::BoolUiData(QObject* parent)
+    : UiData(parent)
+{
+    setAttributes({{keys::type, TYPE_BOOL}});
+}
+
+EnumUiData::EnumUiData(QObject* parent)
+    : UiData(parent)
+{
+    setAttributes({{keys::type, TYPE_ENUM}});
+}

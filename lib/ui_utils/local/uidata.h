@@ -1,0 +1,233 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+#include "local/uidataenums.h"
+#include "service/kivdata.h"
+
+#include <QMap>
+#include <QQmlContext>
+#include <QQmlParserStatus>
+#include <QQmlPropertyMap>
+#include <QStringList>
+#include <QVector>
+
+/// A data item that no service publishes: a form's field, with the face of a service item.
+///
+/// Everything but the value is kept as an attribute by name; the properties are views of those. Items that QML declares
+/// enter the shared UiDataContainer when they are complete, and go with the object that declared them; with a register id
+/// they are known by it everywhere in the engine. C++ code sets items up with setAttributes() and setEnums().
+///
+/// Setters emit on every write, also of what is there already, but for `mandatory` and `valueOk`, which emit changes of the
+/// effective flag, and `persistent`, which never does. Setting attributes as a whole emits validatorChanged() alone.
+class UIUTILS_EXPORT UiData : public KivData, public QQmlParserStatus
+{
+    Q_OBJECT
+    Q_INTERFACES(QQmlParserStatus)
+    Q_CLASSINFO("DefaultProperty", "uiEnumList")
+    /// The choices. Setting a list makes the item an enumeration.
+    Q_PROPERTY(UiDataEnums* uiEnumList READ getUiEnumList WRITE setUiEnumList)
+    Q_PROPERTY(QString label READ getLabel WRITE setLabel NOTIFY labelChanged)
+    /// The object that declared the item.
+    Q_PROPERTY(QObject* objectParent READ getObjectParent)
+    Q_PROPERTY(bool isReady READ isReady WRITE setReady NOTIFY isReadyChanged)
+    Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly NOTIFY readOnlyChanged)
+    Q_PROPERTY(bool applicable READ isApplicable WRITE setApplicable NOTIFY applicableChanged)
+    Q_PROPERTY(QString rangeDescription READ getRangeDescription NOTIFY rangeDescriptionChanged)
+    /// The limits. The validator follows when the event loop runs, so that both can be set first.
+    Q_PROPERTY(QVariant minRange READ getMinRange WRITE setMinRange NOTIFY minRangeChanged)
+    Q_PROPERTY(QVariant maxRange READ getMaxRange WRITE setMaxRange NOTIFY maxRangeChanged)
+    /// One of the TYPE_ texts; any other behaves as a whole number.
+    Q_PROPERTY(QString type READ getType WRITE setType NOTIFY typeChanged)
+    /// The name under which all pages of the engine know the item. Written once.
+    Q_PROPERTY(QString registerId READ getRegisterId WRITE setRegisterId)
+    Q_PROPERTY(uint inputType READ getInputType WRITE setInputType NOTIFY inputTypeChanged)
+    /// Whether the item takes the stored value of its id when it enters a container.
+    Q_PROPERTY(bool persistent READ isPersistent WRITE setPersistent)
+    /// Whether the container waits for this item's value to be acceptable.
+    Q_PROPERTY(bool mandatory READ isMandatory WRITE setMandatory NOTIFY mandatoryChanged)
+    /// Whether the value is acceptable, as the page found; true at first.
+    Q_PROPERTY(bool valueOk READ isValueOk WRITE setValueOk NOTIFY valueOkChanged)
+    /// What a text has to match; empty accepts everything. The validator follows at once.
+    Q_PROPERTY(QString regex READ getRegex WRITE setRegex NOTIFY regexChanged)
+    Q_PROPERTY(QValidator* validator READ getValidator NOTIFY validatorChanged)
+    /// The choices' values by their names.
+    Q_PROPERTY(QQmlPropertyMap* enums READ getEnumMap CONSTANT)
+    Q_PROPERTY(QStringList enumLabels READ getEnumLabels NOTIFY enumLabelsChanged)
+
+public:
+    static const QString TYPE_STRING;
+    static const QString TYPE_VEC_STRING;
+    static const QString TYPE_VEC_DOUBLE;
+    static const QString TYPE_VEC_INT;
+    static const QString TYPE_BOOL;
+    static const QString TYPE_ENUM;
+    static const QString TYPE_UINT;
+    static const QString TYPE_INT;
+    static const QString TYPE_UINT64;
+    static const QString TYPE_INT64;
+    static const QString TYPE_DOUBLE;
+
+    explicit UiData(QObject* parent = nullptr);
+    ~UiData() override;
+
+    // --- The item by its attributes ---
+
+    /// Replaces all attributes. The first "formatter" among them stays the item's for good.
+    void setAttributes(const QMap<QString, QVariant>& attributes);
+    QVariant getAttr(QString const& key) const override { return m_attributes.value(key); }
+
+    /// ":ui_only:NAME:" with the item's name, or with its register id when it has none.
+    QString getId() const override;
+    QString getName() const override;
+    QString getType() const override;
+    void setType(const QString& type);
+    QString getLabel() const override;
+    void setLabel(const QString& label);
+    QString getRegex() const override;
+    void setRegex(const QString& regex);
+    QVariant getMinRange() const override;
+    void setMinRange(const QVariant& minimum);
+    QVariant getMaxRange() const override;
+    void setMaxRange(const QVariant& maximum);
+    void setPrecision(unsigned precision) override;
+    void setInputType(unsigned inputType);
+    QString getRegisterId() const;
+    void setRegisterId(const QString& id);
+    bool isReadOnly() const override;
+    void setReadOnly(bool readOnly);
+    bool isReady() const override;
+    void setReady(bool ready);
+    bool isApplicable() override;
+    void setApplicable(bool applicable);
+    bool isPersistent() const;
+    void setPersistent(bool persistent);
+    bool isMandatory() const;
+    void setMandatory(bool mandatory);
+    bool isValueOk() const;
+    void setValueOk(bool valueOk);
+    int getQualityCode() const override;
+    QValidator* getValidator() const override;
+
+    // --- The value ---
+
+    /// Takes any value, read-only or not: the code that owns a form sets its fields. The text of a vector is cut at 1 MiB.
+    void setValue(QVariant value) override;
+    /// Sets the elements of a vector.
+    void setValue(QVector<QVariant> elements);
+    QString getValueString(bool showUnits = true) const override;
+    int getValueCount() const override;
+    QVariant at(int ind) const override;
+    int getArraySelection() const override;
+    void setArraySelection(int index) override;
+    QString getArraySelectionString() const override;
+
+    // --- The choices ---
+
+    UiDataEnums* getUiEnumList() const { return m_enumList; }
+    void setUiEnumList(UiDataEnums* list);
+    /// Adds choices, the three lists position by position; what a list lacks is empty.
+    void setEnums(const QList<int>& values, const QStringList& labels, const QStringList& names);
+    void setEnums(const QList<int>& values, const QStringList& labels);
+    QObject* getEnums() const override { return m_enumMap; }
+    QQmlPropertyMap* getEnumMap() const { return m_enumMap; }
+    QStringList getEnumLabels() const { return m_enumLabels; }
+    int getEnumCount() const override;
+
+    void classBegin() override;
+    void componentComplete() override;
+
+public Q_SLOTS:
+    /// A local item has no action.
+    void invoke() override;
+    QString invokeWithStringArg(QString const& arg) override;
+    void slotApplicChanged() override;
+    void slotEnumUpdate();
+    void slotValidatorUpdate();
+
+public:
+    Q_INVOKABLE QObject* getObjectParent() const;
+    /// Sets the quality code to 0, 16, 32 or 64.
+    Q_INVOKABLE void setQualityNone();
+    Q_INVOKABLE void setPassing();
+    Q_INVOKABLE void setWarning();
+    Q_INVOKABLE void setFailing();
+    Q_INVOKABLE QVariant getProperty(QString const& prop) const override;
+    /// Element `ind` of a vector; undefined outside.
+    Q_INVOKABLE QVariant variantAt(int ind) const override;
+    /// Inserts before element `ind`, or behind the last one; nothing happens for any other position.
+    Q_INVOKABLE void insertAt(int ind, const QVariant& val);
+    Q_INVOKABLE void removeAt(int at);
+    Q_INVOKABLE QVariant getArrayValue(int index) const override;
+    Q_INVOKABLE void setAt(int ind, QVariant const& val) override;
+    Q_INVOKABLE QString enumLabel(int const& index) override;
+    Q_INVOKABLE QString enumLabelForValue(int const& enumVal) override;
+    Q_INVOKABLE int enumValue(int const& index) override;
+    Q_INVOKABLE int enumIndex(int const& enumVal) override;
+    Q_INVOKABLE bool applicableAt(int const& i) override;
+    /// A local item has nothing pending.
+    Q_INVOKABLE void apply() override;
+    Q_INVOKABLE void revert() override;
+
+Q_SIGNALS:
+    void labelChanged();
+    void enumLabelsChanged();
+    void readOnlyChanged();
+    /// Emitted together with KivData's signal of that name, for listeners of either.
+    void isReadyChanged();
+    void minRangeChanged();
+    void maxRangeChanged();
+    void typeChanged();
+    void rangeDescriptionChanged();
+    /// Emitted together with KivData's signal of that name, for listeners of either.
+    void applicableChanged();
+    void inputTypeChanged();
+    void mandatoryChanged();
+    void valueOkChanged();
+    void regexChanged();
+    void validatorChanged();
+
+private:
+    bool isVector() const;
+    QVariant element(const QVariant& value) const;
+    void updateVectorValue();
+    void joinElements();
+    void setQuality(int code);
+    void registerInEngine(QQmlContext* rootContext);
+
+    QMap<QString, QVariant> m_attributes;
+    QVector<QVariant> m_elements;
+    int m_arraySelection = 0;
+    QPointer<UiDataEnums> m_enumList;
+    QQmlPropertyMap* m_enumMap;
+    QStringList m_enumLabels;
+    QList<int> m_enumValues;
+    QPointer<QObject> m_declarer;
+    QPointer<QQmlContext> m_rootContext;
+};
+
+/// A text.
+class UIUTILS_EXPORT StringUiData : public UiData
+{
+    Q_OBJECT
+
+public:
+    explicit StringUiData(QObject* parent = nullptr);
+};
+
+/// A yes or no, with the choices "False" and "True".
+class UIUTILS_EXPORT BoolUiData : public UiData
+{
+    Q_OBJECT
+
+public:
+    explicit BoolUiData(QObject* parent = nullptr);
+};
+
+/// One of the choices that are declared in it.
+class UIUTILS_EXPORT EnumUiData : public UiData
+{
+    Q_OBJECT
+
+public:
+    explicit EnumUiData(QObject* parent = nullptr);
+};

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+#include "local/uienumtype.h"
+
+#include <QList>
+#include <QObject>
+#include <QQmlListProperty>
+#include <QQmlParserStatus>
+
+/// The choices of a local data item, in their order.
+///
+/// The list owns no choice; one that is destroyed leaves it. Choices come in silently until componentComplete(), which
+/// announces them at once; from then on every further one emits itemsChanged(). A choice whose applicability changes always
+/// does.
+class UIUTILS_EXPORT UiDataEnums : public QObject, public QQmlParserStatus
+{
+    Q_OBJECT
+    Q_INTERFACES(QQmlParserStatus)
+    Q_CLASSINFO("DefaultProperty", "items")
+    /// The choices as QML declares them; only UiEnumType objects are taken.
+    Q_PROPERTY(QQmlListProperty<QObject> items READ getItems NOTIFY itemsChanged)
+
+public:
+    explicit UiDataEnums(QObject* parent = nullptr);
+    ~UiDataEnums() override;
+
+    /// The choice at a position from 0; null outside.
+    Q_INVOKABLE UiEnumType* at(int i) const;
+    /// Adds a choice at the end; null is ignored.
+    Q_INVOKABLE void append(UiEnumType* a);
+
+    QList<UiEnumType*> getEnumList() const { return m_choices; }
+    bool isComplete() const { return m_complete; }
+    QQmlListProperty<QObject> getItems();
+
+    void classBegin() override;
+    /// Ends the silent filling and emits itemsChanged() once.
+    void componentComplete() override;
+
+Q_SIGNALS:
+    void itemsChanged();
+
+private:
+    void forget(QObject* choice);
+
+    QList<UiEnumType*> m_choices;
+    bool m_complete = false;
+};

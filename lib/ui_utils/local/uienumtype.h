@@ -1,0 +1,46 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+
+#include <QObject>
+#include <QString>
+
+/// One choice of a local data item.
+class UIUTILS_EXPORT UiEnumType : public QObject
+{
+    Q_OBJECT
+    /// The text that the user reads. Every write emits labelChanged().
+    Q_PROPERTY(QString label READ getLabel WRITE setLabel NOTIFY labelChanged)
+    /// The key of the choice in the item's `enums`. Meant to be set once, where the choice is declared: writing emits nothing.
+    Q_PROPERTY(QString name READ getName WRITE setName NOTIFY nameChanged)
+    /// The value that the item takes with this choice. Every write emits valueChanged().
+    Q_PROPERTY(int value READ getValue WRITE setValue NOTIFY valueChanged)
+    /// Whether the choice may be taken now; true at first. A write emits applicableChanged() when it changes the flag.
+    Q_PROPERTY(bool applicable READ isApplicable WRITE setApplicable NOTIFY applicableChanged)
+
+public:
+    explicit UiEnumType(QObject* parent = nullptr);
+    UiEnumType(QObject* parent, const QString& label, const QString& name, int value, bool applicable);
+    ~UiEnumType() override;
+
+    QString getLabel() const { return m_label; }
+    void setLabel(const QString& label);
+    QString getName() const { return m_name; }
+    void setName(const QString& name) { m_name = name; }
+    int getValue() const { return m_value; }
+    void setValue(int value);
+    bool isApplicable() const { return m_applicable; }
+    void setApplicable(bool applicable);
+
+Q_SIGNALS:
+    void applicableChanged();
+    void labelChanged();
+    void nameChanged();
+    void valueChanged();
+
+private:
+    QString m_label;
+    QString m_name;
+    int m_value = 0;
+    bool m_applicable = true;
+};

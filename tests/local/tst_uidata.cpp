@@ -1,0 +1,394 @@
+#include "local/uidata.h"
+
+#include <embedded/embeddedbackend.h>
+
+#include <QDoubleValidator>
+#include <QIntValidator>
+#include <QLocale>
+#include <QMetaMethod>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+/// Names of an object's signals in the order in which they come; those of a base that the class declares anew are marked.
+class SignalLog : public QObject
+{
+public:
+    explicit SignalLog(QObject* object)
+        : m_object(object)
+    {
+        const QMetaObject* type = object->metaObject();
+        for (int i = QObject::staticMetaObject.methodCount(); i < type->methodCount(); ++i) {
+            if (type->method(i).methodType() == QMetaMethod::Signal)
+                QMetaObject::connect(object, i, this, QObject::staticMetaObject.methodCount() + i);
+        }
+    }
+
+    int qt_metacall(QMetaObject::Call call, int id, void** arguments) override
+    {
+        id = QObject::qt_metacall(call, id, arguments);
+        if (id < 0 || call != QMetaObject::InvokeMetaMethod)
+            return id;
+        const QMetaObject* type = m_object->metaObject();
+        const QString name = type->method(id).name();
+        const bool isHidden = type->indexOfSignal(type->method(id).methodSignature()) != id;
+        names.append(isHidden ? "KivData::" + name : name);
+        return -1;
+    }
+
+    QStringList take()
+    {
+        QStringList taken;
+        taken.swap(names);
+        return taken;
+    }
+
+    QStringList names;
+
+private:
+    QObject* m_object;
+};
+
+QStringList words(const char* text)
+{
+    return QString(text).split(' ', Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+class UiDataTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QLocale::setDefault(QLocale::c()); }
+
+    void everyWriteIsTold_data()
+    {
+        QTest::addColumn<QString>("property");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QStringList>("first");
+        QTest::addColumn<QStringList>("again");
+        const auto row = [](const char* property, const QVariant& value, const char* first, const char* again) {
+            QTest::newRow(property) << QString(property) << value << words(first) << words(again);
+        };
+        row("label", "Name", "labelChanged", "labelChanged");
+        row("type", "double", "typeChanged", "typeChanged");
+        row("readOnly", true, "readOnlyChanged", "readOnlyChanged");
+        row("isReady", true, "isReadyChanged KivData::isReadyChanged", "isReadyChanged KivData::isReadyChanged");
+        row("applicable", false, "applicableChanged KivData::applicableChanged", "applicableChanged KivData::applicableChanged");
+        row("minRange", 5, "minRangeChanged rangeDescriptionChanged", "minRangeChanged rangeDescriptionChanged");
+        row("maxRange", 5, "maxRangeChanged rangeDescriptionChanged", "maxRangeChanged rangeDescriptionChanged");
+        row("regex", "a*", "validatorChanged regexChanged", "validatorChanged regexChanged");
+        row("inputType", 9u, "inputTypeChanged", "inputTypeChanged");
+        row("precision", 3u, "precisionChanged", "precisionChanged");
+        row("value", 1, "valueChanged", "valueChanged");
+        row("persistent", true, "", "");
+        row("mandatory", true, "mandatoryChanged", "");
+        row("valueOk", false, "valueOkChanged", "");
+        row("registerId", "id", "", "");
+    }
+    void everyWriteIsTold()
+    {
+        QFETCH(QString, property);
+        QFETCH(QVariant, value);
+        QFETCH(QStringList, first);
+        QFETCH(QStringList, again);
+        if (property == "registerId")
+            QTest::ignoreMessage(QtWarningMsg, "registerId already exsist!");
+        UiData item;
+        SignalLog log(&item);
+        QVERIFY(item.setProperty(property.toLatin1(), value));
+        QCOMPARE(log.take(), first);
+        QCOMPARE(item.property(property.toLatin1()), value);
+        item.setProperty(property.toLatin1(), value);
+        QCOMPARE(log.take(), again);
+    }
+
+    void defaults()
+    {
+        UiData item;
+        SignalLog log(&item);
+        QVERIFY(item.isReady() && item.isApplicable() && item.isValueOk());
+        QVERIFY(!item.isReadOnly() && !item.isMandatory() && !item.isPersistent());
+        // Writing the default first changes nothing that counts.
+        item.setMandatory(false);
+        item.setValueOk(true);
+        QVERIFY(log.take().isEmpty());
+        QCOMPARE(item.getId(), QString(":ui_only::"));
+        item.setRegisterId("first");
+        QTest::ignoreMessage(QtWarningMsg, "registerId already exsist!");
+        item.setRegisterId("second");
+        QCOMPARE(item.getId(), QString(":ui_only:first:"));
+        item.setAttributes({{"name", "reportName"}});
+        QCOMPARE(item.getId(), QString(":ui_only:reportName:"));
+        QCOMPARE(item.getName(), QString("reportName"));
+        item.setPassing();
+        QCOMPARE(item.getQualityCode(), 16);
+        item.setFailing();
+        QCOMPARE(item.property("qualityCode").toInt(), 64);
+        QCOMPARE(item.invokeWithStringArg("x"), QString());
+        item.setValue(3);
+        item.revert();
+        QCOMPARE(item.getValue(), QVariant(3));
+    }
+
+    void validators()
+    {
+        UiData item;
+        item.setType(UiData::TYPE_DOUBLE);
+        QPointer<QValidator> before = item.getValidator();
+        QSignalSpy changes(&item, &UiData::validatorChanged);
+        item.setMinRange(1);
+        item.setMaxRange(9);
+        QVERIFY(changes.isEmpty());
+        QCoreApplication::processEvents();
+        QCOMPARE(changes.size(), 2);
+        const auto* range = qobject_cast<QDoubleValidator*>(item.getValidator());
+        QVERIFY(range && range->bottom() == 1 && range->top() == 9);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!before);
+
+        item.setType(UiData::TYPE_STRING);
+        item.setRegex("[a-c]+");
+        QCOMPARE(changes.size(), 3);
+        QString text = "abd";
+        int position = 0;
+        QCOMPARE(item.getValidator()->validate(text, position), QValidator::Invalid);
+        item.setRegex(QString());
+        QCOMPARE(item.getValidator()->validate(text, position), QValidator::Acceptable);
+
+        item.setAttributes({{"type", "nonsense"}, {"minRange", "low"}, {"maxRange", QVariant()}});
+        QCOMPARE(changes.size(), 5);
+        const auto* none = qobject_cast<QIntValidator*>(item.getValidator());
+        QVERIFY(none && none->bottom() == 0 && none->top() == 0);
+    }
+
+    void rangeTexts()
+    {
+        UiData item;
+        item.setAttributes({{"type", UiData::TYPE_STRING}, {"minRange", 8}, {"maxRange", 16}, {"inputType", KivData::INPUT_PASSWORD}});
+        QCOMPARE(item.getRangeDescription(), QString("8 - 16 chars"));
+        item.setInputType(KivData::INPUT_IPV4);
+        QCOMPARE(item.property("rangeDescription"), QVariant("0.0.0.0 - 255.255.255.255"));
+    }
+
+    void texts_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("text") << UiData::TYPE_STRING << QVariant("abc") << "abc";
+        QTest::newRow("true") << UiData::TYPE_BOOL << QVariant(true) << "True";
+        QTest::newRow("false") << UiData::TYPE_BOOL << QVariant() << "False";
+        QTest::newRow("any number is true") << UiData::TYPE_BOOL << QVariant(2) << "True";
+        QTest::newRow("choice") << UiData::TYPE_ENUM << QVariant(20) << "Twenty";
+        QTest::newRow("no choice") << UiData::TYPE_ENUM << QVariant(21) << "";
+        QTest::newRow("real") << UiData::TYPE_DOUBLE << QVariant(1) << "1.00";
+        QTest::newRow("whole") << UiData::TYPE_INT64 << QVariant(-9007199254740993LL) << "-9007199254740993";
+        QTest::newRow("nothing") << UiData::TYPE_INT << QVariant() << "";
+        QTest::newRow("vector") << UiData::TYPE_VEC_INT << QVariant("1,,3") << "1,,3";
+    }
+    void texts()
+    {
+        QFETCH(QString, type);
+        QFETCH(QVariant, value);
+        QFETCH(QString, text);
+        UiData item;
+        item.setAttributes({{"type", type}, {"precision", 2}});
+        item.setEnums({10, 20}, {"Ten", "Twenty"});
+        item.setValue(value);
+        QCOMPARE(item.getValueString(), text);
+    }
+
+    void aFormatterStays()
+    {
+        kiv::embedded::EmbeddedBackend backend;
+        UiData item;
+        item.setAttributes({{"type", UiData::TYPE_DOUBLE}, {"formatter", "dB"}, {"inputType", KivData::INPUT_FLOAT},
+                {"minRange", 0}, {"maxRange", 10}});
+        item.setValue(1.5);
+        QCOMPARE(item.getValueString(), QString("1.50 dB"));
+        QCOMPARE(item.getValueStringNoUnits(), QString("1.50"));
+        QCOMPARE(item.getUnitString(), QString("dB"));
+        QCOMPARE(item.getRangeDescription(), QString("0.00 dB - 10.00 dB"));
+        item.setAttributes({{"type", UiData::TYPE_DOUBLE}, {"formatter", "percent"}});
+        QCOMPARE(item.getValueString(), QString("1.50 dB"));
+    }
+
+    void vectors_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QVariantList>("elements");
+        QTest::newRow("int") << UiData::TYPE_VEC_INT << QVariant("1,,x,3") << QVariantList {1, 0, 0, 3};
+        QTest::newRow("real") << UiData::TYPE_VEC_DOUBLE << QVariant("1.5,,-2e3") << QVariantList {1.5, 0.0, -2000.0};
+        QTest::newRow("text") << UiData::TYPE_VEC_STRING << QVariant("a,,b") << QVariantList {"a", "", "b"};
+        QTest::newRow("empty") << UiData::TYPE_VEC_INT << QVariant("") << QVariantList {0};
+        QTest::newRow("NUL") << UiData::TYPE_VEC_STRING << QVariant(QString("a,") + QChar(0) + ",b") << QVariantList {"a", "b"};
+        QTest::newRow("list") << UiData::TYPE_VEC_INT << QVariant(QVariantList {4, 5}) << QVariantList {4, 5};
+    }
+    void vectors()
+    {
+        QFETCH(QString, type);
+        QFETCH(QVariant, value);
+        QFETCH(QVariantList, elements);
+        UiData item;
+        item.setType(type);
+        SignalLog log(&item);
+        item.setValue(value);
+        QCOMPARE(log.take(), words("valueCountChanged valueChanged"));
+        QCOMPARE(item.getValueCount(), elements.size());
+        for (int i = 0; i < elements.size(); ++i) {
+            QCOMPARE(item.variantAt(i), elements.at(i));
+            QCOMPARE(item.variantAt(i).type(), elements.at(i).type());
+        }
+    }
+
+    void elements()
+    {
+        UiData item;
+        item.setType(UiData::TYPE_VEC_INT);
+        item.setValue(QVariant("1,2,3"));
+        SignalLog log(&item);
+        item.setAt(1, "20");
+        QCOMPARE(log.take(), words("valueChanged arraySelectionChanged"));
+        item.insertAt(3, 4);
+        QCOMPARE(log.take(), words("valueChanged valueCountChanged arraySelectionChanged"));
+        item.setArraySelection(3);
+        QCOMPARE(log.take(), words("arraySelectionChanged"));
+        QCOMPARE(item.getArraySelectionString(), QString("4"));
+        item.removeAt(0);
+        QCOMPARE(log.take(), words("valueChanged arraySelectionChanged valueCountChanged"));
+        QCOMPARE(item.getValue(), QVariant("20,3,4"));
+        QCOMPARE(item.getArraySelection(), 2);
+        for (int outside : {-1, 3, 1000}) {
+            item.setAt(outside, 1);
+            item.removeAt(outside);
+            item.setArraySelection(outside);
+            item.insertAt(outside + (outside > 0), 1);
+            QVERIFY(!item.variantAt(outside).isValid());
+        }
+        QVERIFY(log.take().isEmpty());
+        item.setValue(QVector<QVariant> {7, 8});
+        QCOMPARE(log.take(), words("valueChanged valueCountChanged"));
+        QCOMPARE(item.getValue(), QVariant("7,8"));
+        item.setValue(QVariant(QString(3 << 20, '1')));
+        QCOMPARE(item.getValue().toString().size(), 1 << 20);
+    }
+
+    void choices()
+    {
+        UiData item;
+        SignalLog log(&item);
+        item.setType(UiData::TYPE_ENUM);
+        log.take();
+        item.setEnums({3, 5, 5}, {"Three", "Five", "Also five"}, {"three", "five", "five"});
+        QCOMPARE(log.take(), words("valueChanged enumLabelsChanged enumCountChanged"));
+        QCOMPARE(item.getEnumLabels(), (QStringList {"Three", "Five", "Also five"}));
+        QCOMPARE(item.getEnumMap()->value("five"), QVariant(5));
+        QCOMPARE(item.enumIndex(5), 1);
+        QCOMPARE(item.enumLabelForValue(3), QString("Three"));
+        QCOMPARE(item.enumValue(2), 5);
+        QCOMPARE(item.enumIndex(4), -1);
+        QCOMPARE(item.enumLabel(3), QString());
+        QCOMPARE(item.enumValue(-1), -1);
+        item.getUiEnumList()->at(1)->setApplicable(false);
+        QCOMPARE(log.take(), words("valueChanged enumLabelsChanged enumCountChanged"));
+        QVERIFY(item.applicableAt(0) && !item.applicableAt(1) && !item.applicableAt(3));
+        item.setEnums({9}, {"Nine"});
+        QCOMPARE(item.getEnumCount(), 4);
+        // One announcement for the choice, one for the completion.
+        QCOMPARE(log.take().count("enumCountChanged"), 2);
+
+        BoolUiData flag;
+        QCOMPARE(flag.getEnumCount(), 2);
+        QCOMPARE(flag.enumLabel(0), QString("False"));
+        QCOMPARE(flag.enumLabelForValue(1), QString("True"));
+        QCOMPARE(flag.enumValue(1), 1);
+        QVERIFY(flag.applicableAt(1) && !flag.applicableAt(2));
+        QCOMPARE(flag.enumIndex(2), -1);
+    }
+
+    void anotherListOfChoices()
+    {
+        UiData item;
+        SignalLog log(&item);
+        auto list = std::make_unique<UiDataEnums>();
+        UiEnumType one(nullptr, "One", "one", 1, true);
+        list->append(&one);
+        item.setUiEnumList(list.get());
+        QCOMPARE(log.take(), words("typeChanged typeChanged"));
+        QCOMPARE(item.getType(), UiData::TYPE_ENUM);
+        list->componentComplete();
+        QCOMPARE(item.getEnumLabels(), QStringList {"One"});
+        log.take();
+        item.setUiEnumList(list.get());
+        QVERIFY(log.take().isEmpty());
+        list.reset();
+        QVERIFY(!item.applicableAt(0));
+        item.slotEnumUpdate();
+        QCOMPARE(item.getEnumCount(), 0);
+    }
+
+    void listsOfChoices()
+    {
+        UiDataEnums list;
+        QSignalSpy changes(&list, &UiDataEnums::itemsChanged);
+        auto first = std::make_unique<UiEnumType>(nullptr, "a", "a", 1, true);
+        list.append(first.get());
+        list.append(nullptr);
+        QVERIFY(changes.isEmpty());
+        first->setApplicable(true);
+        QVERIFY(changes.isEmpty());
+        first->setApplicable(false);
+        QCOMPARE(changes.size(), 1);
+        list.componentComplete();
+        QCOMPARE(changes.size(), 2);
+        UiEnumType second;
+        list.append(&second);
+        QCOMPARE(changes.size(), 3);
+        first.reset();
+        QCOMPARE(list.getEnumList(), QList<UiEnumType*> {&second});
+        QVERIFY(!list.at(1) && !list.at(-1));
+
+        SignalLog log(&second);
+        second.setLabel("b");
+        second.setLabel("b");
+        second.setName("b");
+        second.setValue(0);
+        QCOMPARE(log.take(), words("labelChanged labelChanged valueChanged"));
+    }
+
+    void slotsMayDeleteTheItem()
+    {
+        for (const char* signal : {SIGNAL(minRangeChanged()), SIGNAL(isReadyChanged()), SIGNAL(typeChanged()),
+                     SIGNAL(valueCountChanged()), SIGNAL(valueChanged()), SIGNAL(enumLabelsChanged()), SIGNAL(regexChanged())}) {
+            const QPointer<UiData> item = new UiData;
+            connect(item, signal, this, SLOT(deleteSender()));
+            item->setMinRange(1);
+            if (item)
+                item->setReady(false);
+            if (item)
+                item->setType(UiData::TYPE_VEC_INT);
+            if (item)
+                item->setValue(QVariant("1,2"));
+            if (item)
+                item->removeAt(0);
+            if (item)
+                item->setRegex("x");
+            if (item)
+                item->slotEnumUpdate();
+            QVERIFY2(!item, signal);
+        }
+    }
+
+public Q_SLOTS:
+    void deleteSender() { delete sender(); }
+};
+
+QTEST_GUILESS_MAIN(UiDataTest)
+#include "tst_uidata.moc"

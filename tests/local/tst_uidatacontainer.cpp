@@ -1,0 +1,234 @@
+#include "local/uidata.h"
+#include "local/uidatacontainer.h"
+#include "module/uiutilsmodule.h"
+
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlExpression>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <memory>
+
+/// Items together: those that C++ adds, and those that pages declare, which meet in the shared container.
+class UiDataContainerTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    static std::unique_ptr<UiData> named(const QString& name, const QMap<QString, QVariant>& more = {})
+    {
+        auto item = std::make_unique<UiData>();
+        QMap<QString, QVariant> attributes = more;
+        attributes.insert("name", name);
+        attributes.insert("type", UiData::TYPE_STRING);
+        item->setAttributes(attributes);
+        return item;
+    }
+
+    static std::unique_ptr<QObject> page(QQmlEngine& engine, const QByteArray& body)
+    {
+        QQmlComponent component(&engine);
+        component.setData("import QtQml 2.15\nimport UiUtils 1.0\n" + body, QUrl());
+        std::unique_ptr<QObject> object(component.create());
+        if (!object)
+            qWarning("%s", qPrintable(component.errorString()));
+        return object;
+    }
+
+private Q_SLOTS:
+    void initTestCase() { uiutils::registerTypes(); }
+
+    void mandatoryItemsDecide()
+    {
+        UiDataContainer container;
+        QSignalSpy verdicts(&container, &UiDataContainer::allItemsOkChanged);
+        QSignalSpy changes(&container, &UiDataContainer::valueChanged);
+        QVERIFY(!container.getAllItemsOk());
+        auto free = named("free", {{"valueOk", false}});
+        container.addItem(free.get());
+        QVERIFY(container.getAllItemsOk());
+        QCOMPARE(verdicts.size(), 1);
+        QCOMPARE(changes.size(), 1);
+        auto needed = named("needed", {{"mandatory", true}, {"valueOk", false}});
+        container.addItem(needed.get());
+        QVERIFY(!container.getAllItemsOk());
+        needed->setValueOk(true);
+        QVERIFY(!container.getAllItemsOk());
+        needed->setValue(QVariant("x"));
+        QVERIFY(container.getAllItemsOk());
+        free->setValue(QVariant("y"));
+        QCOMPARE(verdicts.size(), 3);
+        QCOMPARE(changes.size(), 4);
+        free.reset();
+        QCOMPARE(container.getItems().keys(), QStringList {":ui_only:needed:"});
+    }
+
+    void storedValues()
+    {
+        UiDataContainer container;
+        container.setPersistentConfigMap({{":ui_only:kept:", "stored"}, {":ui_only:other:", "stored"}});
+        auto kept = named("kept", {{"persistent", true}});
+        kept->setValue(QVariant("declared"));
+        QSignalSpy changes(&container, &UiDataContainer::valueChanged);
+        container.addItem(kept.get());
+        QCOMPARE(kept->getValue(), QVariant("stored"));
+        QCOMPARE(changes.size(), 1);
+        auto other = named("other");
+        other->setValue(QVariant("declared"));
+        container.addItem(other.get());
+        QCOMPARE(other->getValue(), QVariant("declared"));
+        container.setPersistentConfigMap({{":ui_only:kept:", "later"}});
+        QCOMPARE(kept->getValue(), QVariant("stored"));
+    }
+
+    void entriesAreTakenOutByTheirOwnItemOnly()
+    {
+        UiDataContainer container;
+        auto first = named("same");
+        auto second = named("same");
+        container.addItem(first.get());
+        container.addItem(second.get());
+        container.removeItem(first.get());
+        QCOMPARE(container.getItems().value(":ui_only:same:"), second.get());
+        container.removeItem(second.get());
+        container.removeItem(second.get());
+        container.removeItem(nullptr);
+        container.addItem(nullptr);
+        QVERIFY(container.getItems().isEmpty());
+        // An item that goes by another name now leaves nothing behind.
+        container.addItem(first.get());
+        first->setAttributes({{"name", "renamed"}});
+        first.reset();
+        QVERIFY(container.getItems().isEmpty());
+    }
+
+    void aPageDeclaresItems()
+    {
+        QQmlEngine engine;
+        auto root = page(engine, R"(
+            QtObject {
+                property StringUiData user: StringUiData { registerId: "formUser"; mandatory: true; valueOk: false; value: "Ines" }
+                property EnumUiData mode: EnumUiData {
+                    registerId: "formMode"
+                    value: 2
+                    UiDataEnums {
+                        UiEnumType { label: "One"; name: "one"; value: 1 }
+                        UiEnumType { label: "Two"; name: "two"; value: 2; applicable: false }
+                    }
+                }
+                property UiData list: UiData { registerId: "formList"; type: "std::vector<int32_t>"; value: "1,2" }
+                property bool ok: UiDataContainer.allItemsOk
+                property int two: formMode.enums.two
+                property KivData alike: mode
+            })");
+        QVERIFY(root);
+        QCOMPARE(root->property("ok"), QVariant(false));
+        const QMap<QString, UiData*> items = UiDataContainer::shared()->getItems();
+        QCOMPARE(items.keys(), (QStringList {":ui_only:formList:", ":ui_only:formMode:", ":ui_only:formUser:"}));
+        QCOMPARE(items.value(":ui_only:formMode:")->getEnumLabels(), (QStringList {"One", "Two"}));
+        QCOMPARE(items.value(":ui_only:formMode:")->getValueString(), QString("Two"));
+        QCOMPARE(root->property("two"), QVariant(2));
+        QCOMPARE(items.value(":ui_only:formList:")->getValueCount(), 2);
+        QCOMPARE(items.value(":ui_only:formUser:")->getObjectParent(), root.get());
+        QQmlExpression(engine.rootContext(), nullptr, "formUser.valueOk = true; formUser.value = 'x'").evaluate();
+        QCOMPARE(root->property("ok"), QVariant(true));
+        engine.collectGarbage();
+        QVERIFY(UiDataContainer::shared()->getItems().contains(":ui_only:formMode:"));
+
+        // The items go with the page, although the container is their parent.
+        root.reset();
+        QVERIFY(UiDataContainer::shared()->getItems().isEmpty());
+        QVERIFY(QQmlExpression(engine.rootContext(), nullptr, "formUser === null").evaluate().toBool());
+    }
+
+    /// QML reads a text that looks like a point or a time as one when it stands as a literal.
+    void literalTexts_data()
+    {
+        QTest::addColumn<QString>("text");
+        for (const char* text : {"1,2", "1.5,-2.25", "1,2,3", "0.1,0.2,0.3,0.4", "1,,3", "640x480", "1,2,3x4", "10:20", "10:20:30",
+                     "2020-02-29", "2020-02-29T10:20:30", "#ff0000", "plain"})
+            QTest::newRow(text) << QString(text);
+    }
+    void literalTexts()
+    {
+        QFETCH(QString, text);
+        QQmlEngine engine;
+        auto root = page(engine, QString("StringUiData { value: \"%1\" }").arg(text).toLatin1());
+        QVERIFY(root);
+        QCOMPARE(root->property("valueString").toString(), text);
+    }
+
+    void tenChoicesOneAnnouncement()
+    {
+        QQmlEngine engine;
+        QByteArray choices;
+        for (int i = 0; i < 10; ++i)
+            choices += "UiEnumType { name: 'n" + QByteArray::number(i) + "'; value: " + QByteArray::number(i) + " }\n";
+        auto root = page(engine, "QtObject { id: top; property int count: 0; property UiDataEnums list: UiDataEnums {"
+                                 " onItemsChanged: top.count++\n" + choices + "} }");
+        QVERIFY(root);
+        QCOMPARE(root->property("count"), QVariant(1));
+    }
+
+    void withoutAnEngine()
+    {
+        UiData item;
+        QTest::ignoreMessage(QtWarningMsg, "registerId is used for context property name in a engine");
+        item.componentComplete();
+        QVERIFY(!UiDataContainer::shared()->getItems().values().contains(&item));
+    }
+
+    void anyOrderOfEnds()
+    {
+        auto engine = std::make_unique<QQmlEngine>();
+        const QByteArray body = "QtObject { property UiData a: UiData { registerId: 'anyA' } property UiData b: UiData { registerId:"
+                                " 'not a name' } property UiData c: UiData { registerId: 'anyA' } }";
+        auto first = page(*engine, body);
+        auto second = page(*engine, body);
+        first.reset();
+        engine.reset();
+        second.reset();
+        QVERIFY(UiDataContainer::shared()->getItems().isEmpty());
+
+        auto* item = new UiData;
+        {
+            UiDataContainer container;
+            container.addItem(item);
+        }
+        engine = std::make_unique<QQmlEngine>();
+        auto third = page(*engine, body);
+        delete UiDataContainer::s_dcInstance;
+        third.reset();
+        QVERIFY(UiDataContainer::shared()->getItems().isEmpty());
+    }
+
+    void oddValuesFromQml()
+    {
+        QQmlEngine engine;
+        auto root = page(engine, R"(
+            QtObject {
+                property list<UiData> items: [
+                    UiData { type: "double" }, UiData { type: "bool" }, UiData { type: "std::vector<double>" }, UiData {},
+                    UiData { type: "nonsense" }, StringUiData {}, EnumUiData {} ]
+                Component.onCompleted: {
+                    for (const item of items) {
+                        for (const value of [undefined, null, NaN, {}, [1, "x"], "text", new Date(NaN), item]) {
+                            item.value = value
+                            item.minRange = value
+                            item.maxRange = value
+                            item.setAt(0, value)
+                            item.insertAt(0, value)
+                            item.valueString + item.rangeDescription
+                        }
+                    }
+                }
+            })");
+        QVERIFY(root);
+        QCoreApplication::processEvents();
+    }
+};
+
+QTEST_GUILESS_MAIN(UiDataContainerTest)
+#include "tst_uidatacontainer.moc"
