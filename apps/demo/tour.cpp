@@ -58,7 +58,7 @@ void Tour::start()
 void Tour::watchSamples()
 {
     // The measure page in the midst of its work: half of the second quantity is there.
-    if (m_measurement->throughput()->count() == m_measurement->samples() / 2)
+    if (m_measurement->throughput()->count() == m_measurement->throughputSamples() / 2)
         visit({MeasurePage, QStringLiteral("1-measuring")});
 }
 
