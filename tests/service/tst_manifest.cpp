@@ -126,15 +126,25 @@ private Q_SLOTS:
     {
         m_client->add(":config:rec:a:", 0);
         m_client->add(":config:rec:b:", 0);
+        RecordedClient otherClient;
+        otherClient.add(":config:rec:elsewhere:", 0);
         Manifest manifest(m_client.get(), "", "rec");
+        Manifest other(&otherClient, "", "rec");
         QSignalSpy errors(Manifest::getKivData(":config:rec:a:"), &KivData::errorChanged);
         QSignalSpy others(Manifest::getKivData(":config:rec:b:"), &KivData::errorChanged);
+        // Another service's setting travels along, and what refused it is not that service.
+        KivData* elsewhere = Manifest::getKivData(":config:rec:elsewhere:");
+        const QSignalSpy errorsElsewhere(elsewhere, &KivData::errorChanged);
         manifest.startChanges();
+        other.startChanges();
+        elsewhere->setValue(2);
         Manifest::getKivData(":config:rec:a:")->setValue(1);
         m_client->refusal = "a is out of range";
         manifest.applyChanges();
         QCOMPARE(errors.size(), 1);
         QCOMPARE(errors.first(), (QVariantList {"a", "a is out of range"}));
+        QCOMPARE(errorsElsewhere.size(), 1);
+        QCOMPARE(elsewhere->getError(), QString("a is out of range"));
         QVERIFY(others.isEmpty());
         m_client->refusal.clear();
         manifest.applyChanges();

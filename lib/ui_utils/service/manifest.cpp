@@ -138,11 +138,13 @@ void Manifest::applyChanges()
 
     if (!m_client || send(actionId(itemids::applyConfig), plainJson(changes)))
         return;
+    // Of this service, which answered for the settings of the others too.
+    const QString error = m_client ? m_client->getLastError() : QString();
     for (const QPointer<KivData>& wrapper : qAsConst(senders)) {
         if (!wrapper)
             continue;
         wrapper->m_sent = false;
-        wrapper->checkAppError();
+        wrapper->refuse(error);
     }
 }
 
