@@ -88,6 +88,12 @@ QString LoopbackMeasurement::method() const
                     text(qRound(marginalShare * 100)), text(m_runSettings.throughputSamples));
 }
 
+QString LoopbackMeasurement::rangeText()
+{
+    return tr("A run takes %1 to %2 samples of each and messages of %3 B or more; what lies beyond is brought into range.")
+            .arg(QString::number(fewestSamples), QString::number(mostSamples), QString::number(smallestMessage));
+}
+
 int LoopbackMeasurement::status() const
 {
     return m_state == Finished ? qMax(m_roundTrip.status(), m_throughput.status()) : StatusNone;

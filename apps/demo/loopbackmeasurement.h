@@ -35,6 +35,8 @@ class LoopbackMeasurement : public QObject
     /// Samples of a quantity in the next run, fewestSamples to mostSamples; other values are brought into range.
     Q_PROPERTY(int roundTripSamples READ roundTripSamples WRITE setRoundTripSamples NOTIFY samplesChanged)
     Q_PROPERTY(int throughputSamples READ throughputSamples WRITE setThroughputSamples NOTIFY samplesChanged)
+    /// What a run can be asked for, in a sentence.
+    Q_PROPERTY(QString rangeText READ rangeText CONSTANT)
     Q_PROPERTY(uiutils::demo::SampleModel* roundTrip READ roundTrip CONSTANT)
     Q_PROPERTY(uiutils::demo::SampleModel* throughput READ throughput CONSTANT)
     /// Worse of the two quantities' statuses; StatusNone until a run has finished.
@@ -63,6 +65,7 @@ public:
     QString serverAddress() const { return m_serverAddress; }
     QString startTime() const;
     QString method() const;
+    static QString rangeText();
     int roundTripSamples() const { return m_settings.roundTripSamples; }
     int throughputSamples() const { return m_settings.throughputSamples; }
     int messageBytes() const { return m_settings.messageBytes; }
