@@ -209,6 +209,7 @@ private Q_SLOTS:
         if (!taken.isValid()) {
             QTest::keyClick(m_window, Qt::Key_Return);
             QVERIFY(fieldOf(id)->hasActiveFocus());
+            picture("not acceptable");
             type(id, shown);
         }
         press("Apply");
@@ -237,6 +238,7 @@ private Q_SLOTS:
         for (int i = 0; i < 2; ++i) {
             press("Apply");
             QCOMPARE(shownTimes("Nothing was set. " + words), times);
+            picture(QStringLiteral("refused-%1").arg(times));
             QCOMPARE(served(lastName), QVariant("Halvorsen"));
             QCOMPARE(served(roundTripLimit), QVariant(1.0));
             QVERIFY(isChanged(lastName) && isChanged(roundTripLimit));
@@ -275,6 +277,40 @@ private Q_SLOTS:
         QVERIFY(!fieldOf(roundTripSamples)->isVisible());
         type(lastName, "Berg");
         QVERIFY(button("Apply")->isEnabled());
+    }
+
+    /// The keyboard goes through all settings, and each comes into sight.
+    void keyboardReachesEverySetting()
+    {
+        m_window->setProperty("page", 3);
+        fieldOf(":config:basemgr:system:userInfo_firstName:")->forceActiveFocus();
+        const auto* view = firstItem([](const QQuickItem* item) {
+            return item->property("contentHeight").toReal() > 400 && item->isVisible();
+        });
+        int fields = 0;
+        for (; m_window->activeFocusItem()->inherits("QQuickTextField")
+                || m_window->activeFocusItem()->inherits("QQuickComboBox"); ++fields) {
+            const QQuickItem* field = m_window->activeFocusItem();
+            waitForFrame();
+            const QRectF sight = view->mapRectToScene(QRectF(0, 0, view->width(), view->height()));
+            QVERIFY(sight.contains(field->mapRectToScene(QRectF(0, 0, field->width(), field->height()))));
+            QTest::keyClick(m_window, Qt::Key_Tab);
+        }
+        QCOMPARE(fields, 14);
+        picture("last setting");
+    }
+
+    void fingerScrollsFromAField()
+    {
+        m_window->setProperty("page", 3);
+        waitForFrame();
+        QQuickItem* const field = fieldOf(lastName);
+        const QPoint start = field->mapToScene(QPointF(field->width() / 2, field->height() / 2)).toPoint();
+        QTest::mousePress(m_window, Qt::LeftButton, Qt::NoModifier, start);
+        for (int y = 0; y <= 150; y += 15)
+            QTest::mouseMove(m_window, start - QPoint(0, y));
+        QTest::mouseRelease(m_window, Qt::LeftButton, Qt::NoModifier, start - QPoint(0, 150));
+        QTRY_VERIFY(field->mapToScene(QPointF()).y() < start.y() - 100);
     }
 
     void settingsSurviveARestart()

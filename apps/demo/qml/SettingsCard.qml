@@ -36,7 +36,7 @@ Card {
     ColumnLayout {
         id: column
         anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.margin }
-        spacing: Theme.gap
+        spacing: Theme.margin
 
         Text {
             text: card.title
