@@ -113,8 +113,7 @@ private Q_SLOTS:
         QCOMPARE(roundTrip->limit(), LoopbackMeasurement::maximumRoundTripMilliseconds);
         QQuickItem* const raise = button("+");
         QVERIFY(raise->width() >= 44 && raise->height() >= 44);
-        QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier,
-                raise->mapToScene(QPointF(raise->width() / 2, raise->height() / 2)).toPoint());
+        click(raise);
         QCOMPARE(roundTrip->limit(), 2 * LoopbackMeasurement::maximumRoundTripMilliseconds);
         QCOMPARE(served(roundTripLimit), QVariant(roundTrip->limit()));
     }
@@ -238,6 +237,7 @@ private Q_SLOTS:
         for (int i = 0; i < 2; ++i) {
             press("Apply");
             QCOMPARE(shownTimes("Nothing was set. " + words), times);
+            QVERIFY(isInSight(fieldOf(lastName)));
             picture(QStringLiteral("refused-%1").arg(times));
             QCOMPARE(served(lastName), QVariant("Halvorsen"));
             QCOMPARE(served(roundTripLimit), QVariant(1.0));
@@ -284,20 +284,41 @@ private Q_SLOTS:
     {
         m_window->setProperty("page", 3);
         fieldOf(":config:basemgr:system:userInfo_firstName:")->forceActiveFocus();
-        const auto* view = firstItem([](const QQuickItem* item) {
-            return item->property("contentHeight").toReal() > 400 && item->isVisible();
-        });
         int fields = 0;
         for (; m_window->activeFocusItem()->inherits("QQuickTextField")
                 || m_window->activeFocusItem()->inherits("QQuickComboBox"); ++fields) {
             const QQuickItem* field = m_window->activeFocusItem();
             waitForFrame();
-            const QRectF sight = view->mapRectToScene(QRectF(0, 0, view->width(), view->height()));
-            QVERIFY(sight.contains(field->mapRectToScene(QRectF(0, 0, field->width(), field->height()))));
+            QVERIFY(isInSight(field));
             QTest::keyClick(m_window, Qt::Key_Tab);
         }
         QCOMPARE(fields, 14);
         picture("last setting");
+    }
+
+    void fingerChooses()
+    {
+        service(saveLocation)->setChoices(saveLocation,
+                {{0, "Internal", "Internal", true}, {1, "Usb", "USB", false}, {2, "Both", "Internal and USB", true}});
+        m_window->setProperty("page", 3);
+        fieldOf(saveLocation)->forceActiveFocus();
+        waitForFrame();
+        click(fieldOf(saveLocation));
+        waitForFrame();
+        picture("choices");
+        const auto choice = [this](const QString& label) {
+            return firstItem([&](const QQuickItem* item) {
+                return item->inherits("QQuickItemDelegate") && textOf(item) == label;
+            });
+        };
+        QVERIFY(choice("USB")->height() >= 44);
+        // What is not there now cannot be taken.
+        click(choice("USB"));
+        QVERIFY(!isChanged(saveLocation));
+        click(choice("Internal and USB"));
+        QVERIFY(isChanged(saveLocation));
+        press("Apply");
+        QCOMPARE(served(saveLocation), QVariant(2));
     }
 
     void fingerScrollsFromAField()
@@ -472,6 +493,17 @@ private:
         });
     }
 
+    /// Whether the settings page is scrolled so that the whole item can be seen.
+    bool isInSight(const QQuickItem* item) const
+    {
+        const auto* view = firstItem([](const QQuickItem* candidate) {
+            return candidate->isVisible() && candidate->inherits("QQuickFlickable")
+                    && candidate->property("contentHeight").toReal() > candidate->height();
+        });
+        const QRectF sight = view->mapRectToScene(QRectF(0, 0, view->width(), view->height()));
+        return sight.contains(item->mapRectToScene(QRectF(0, 0, item->width(), item->height())));
+    }
+
     void type(const QString& id, const QString& text)
     {
         QQuickItem* const field = fieldOf(id);
@@ -493,6 +525,12 @@ private:
     {
         focusButton(words);
         QTest::keyClick(m_window, Qt::Key_Space);
+    }
+
+    void click(const QQuickItem* item)
+    {
+        QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier,
+                item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
     }
 
     int shownTimes(const QString& words) const

@@ -79,7 +79,9 @@ ColumnLayout {
     Text {
         Layout.fillWidth: true
         readonly property string refusal: row.blamed ? row.entry.refusal : ""
-        text: refusal || (row.item ? row.item.rangeDescription.trim() : "")
+        readonly property string range: row.item ? row.item.rangeDescription.trim() : ""
+        // Of a range without limits nothing but its dash is left.
+        text: refusal || (/\w/.test(range) ? range : "")
         visible: text
         color: refusal || !row.acceptable ? Theme.fail : Theme.mutedText
         font.pixelSize: Theme.smallText

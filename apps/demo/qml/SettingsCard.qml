@@ -27,7 +27,7 @@ Card {
         rows.forEach(row => row.reset())
     }
 
-    implicitHeight: column.implicitHeight + noteText.height + 3 * Theme.margin
+    implicitHeight: column.implicitHeight + 2 * Theme.margin + (note ? noteText.height + Theme.margin : 0)
     Component.onCompleted: rows.forEach(row => {
         row.edited.connect(card.edited)
         row.refused.connect(card.refused)

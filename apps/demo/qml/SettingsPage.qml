@@ -43,6 +43,8 @@ FocusScope {
         const rows = cards.reduce((all, card) => all.concat(card.rows), []).filter(row => row.changed)
         const named = rows.filter(row => refusal.indexOf(row.item.label) >= 0)
         rows.forEach(row => row.blamed = named.length === 0 || named.indexOf(row) >= 0)
+        if (rows.length > 0)
+            view.reveal(named.length > 0 ? named[0] : rows[0])
     }
 
     function revert() {
@@ -81,6 +83,13 @@ FocusScope {
                 return false
             }
 
+            function reveal(item) {
+                const room = 2 * Theme.touch
+                const top = item.mapToItem(contentItem, 0, 0).y
+                const highest = top + item.height + room - height
+                contentY = Math.max(0, Math.min(Math.max(contentY, highest), top - room, contentHeight - height))
+            }
+
             Layout.fillWidth: true
             Layout.fillHeight: true
             clip: true
@@ -88,12 +97,8 @@ FocusScope {
             boundsBehavior: Flickable.StopAtBounds
             ScrollBar.vertical: ScrollBar { policy: ScrollBar.AsNeeded }
             onFocusedChanged: {
-                if (!isInside(focused))
-                    return
-                const room = 2 * Theme.touch
-                const top = focused.mapToItem(contentItem, 0, 0).y
-                const highest = top + focused.height + room - height
-                contentY = Math.max(0, Math.min(Math.max(contentY, highest), top - room, contentHeight - height))
+                if (isInside(focused))
+                    reveal(focused)
             }
 
             Loader {
@@ -186,13 +191,16 @@ FocusScope {
                     ItemField { Layout.fillWidth: true; item: basemgr_cfg_userInfo_phone; unset: "default" }
                 }
                 SettingsCard {
-                    id: reports
+                    id: customer
                     Layout.fillWidth: true
-                    title: qsTr("Reports")
+                    title: qsTr("Customer")
                     onEdited: page.begin()
                     onRefused: page.refusal = words
 
-                    ItemChoice { Layout.fillWidth: true; item: basemgr_cfg_saveLocation }
+                    ItemField { Layout.fillWidth: true; item: basemgr_cfg_customerInfo_name; unset: "default" }
+                    ItemField { Layout.fillWidth: true; item: basemgr_cfg_customerInfo_address; unset: "default" }
+                    ItemField { Layout.fillWidth: true; item: basemgr_cfg_customerInfo_circuitID; unset: "default" }
+                    ItemField { Layout.fillWidth: true; item: basemgr_cfg_customerInfo_contact; unset: "default" }
                 }
             }
             ColumnLayout {
@@ -215,16 +223,13 @@ FocusScope {
                     ItemField { Layout.fillWidth: true; item: loopback_cfg_messageSize }
                 }
                 SettingsCard {
-                    id: customer
+                    id: reports
                     Layout.fillWidth: true
-                    title: qsTr("Customer")
+                    title: qsTr("Reports")
                     onEdited: page.begin()
                     onRefused: page.refusal = words
 
-                    ItemField { Layout.fillWidth: true; item: basemgr_cfg_customerInfo_name; unset: "default" }
-                    ItemField { Layout.fillWidth: true; item: basemgr_cfg_customerInfo_address; unset: "default" }
-                    ItemField { Layout.fillWidth: true; item: basemgr_cfg_customerInfo_circuitID; unset: "default" }
-                    ItemField { Layout.fillWidth: true; item: basemgr_cfg_customerInfo_contact; unset: "default" }
+                    ItemChoice { Layout.fillWidth: true; item: basemgr_cfg_saveLocation }
                 }
             }
         }
