@@ -13,7 +13,7 @@ namespace uiutils::demo {
 
 class LoopbackMeasurement;
 
-/// Uses the demo the way a user does, by itself: measures, looks at each page, saves the report.
+/// Uses the demo the way a user does, by itself: measures, looks at each page, tries out settings, saves the report.
 ///
 /// It owns none of what it is given. Pictures of the pages are written to a folder; a picture is there whole
 /// or not at all.
