@@ -55,10 +55,10 @@ DemoOptions readOptions(const QStringList& arguments)
                     .arg(ownServices.join(QLatin1Char(':'))),
             tr("folder"));
     const QCommandLineOption samples(QStringLiteral("samples"),
-            tr("Take <number> samples of each quantity, %1 to %2 (default: %1).")
+            tr("Take <number> samples of each quantity, %1 to %2 (default: as the settings say).")
                     .arg(LoopbackMeasurement::fewestSamples)
                     .arg(LoopbackMeasurement::mostSamples),
-            tr("number"), QString::number(LoopbackMeasurement::fewestSamples));
+            tr("number"));
     const QCommandLineOption tour(
             QStringLiteral("tour"), tr("Measure, save a report, take a picture of each page and quit."));
     parser.addOptions({help, root, services, samples, tour});
@@ -79,10 +79,11 @@ DemoOptions readOptions(const QStringList& arguments)
         return misused(tr("--services needs the name of a folder."));
 
     DemoOptions options;
-    bool isNumber = false;
-    options.samples = parser.value(samples).toInt(&isNumber);
-    if (!isNumber || options.samples < LoopbackMeasurement::fewestSamples
-            || options.samples > LoopbackMeasurement::mostSamples) {
+    if (parser.isSet(samples))
+        options.samples = parser.value(samples).toInt();
+    if (parser.isSet(samples)
+            && (options.samples < LoopbackMeasurement::fewestSamples
+                    || options.samples > LoopbackMeasurement::mostSamples)) {
         return misused(tr("--samples needs a number from %1 to %2.")
                                .arg(LoopbackMeasurement::fewestSamples)
                                .arg(LoopbackMeasurement::mostSamples));

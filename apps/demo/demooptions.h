@@ -21,7 +21,7 @@ struct DemoOptions
     /// Absolute folder below which the instrument's paths lie.
     QString root;
     QStringList serviceFolders;
-    /// Samples of each quantity.
+    /// Samples of each quantity; 0 for as many as the settings say.
     int samples = 0;
     bool isTour = false;
 };

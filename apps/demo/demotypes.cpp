@@ -1,5 +1,6 @@
 #include "demotypes.h"
 
+#include "itementry.h"
 #include "loopbackmeasurement.h"
 #include "reportsaver.h"
 #include "samplemodel.h"
@@ -12,6 +13,7 @@ namespace uiutils::demo {
 void registerDemoTypes()
 {
     const char* const uri = "UiUtils.Demo";
+    qmlRegisterType<ItemEntry>(uri, 1, 0, "ItemEntry");
     qmlRegisterType<LoopbackMeasurement>(uri, 1, 0, "LoopbackMeasurement");
     qmlRegisterType<ReportSaver>(uri, 1, 0, "ReportSaver");
     qmlRegisterUncreatableType<SampleModel>(

@@ -19,7 +19,7 @@ struct Limit
     enum Kind { AtMost, AtLeast };
 
     Kind kind = AtMost;
-    /// In the unit of the values; above zero.
+    /// In the unit of the values; 0 or more.
     double bound = 0;
 
     /// StatusFail when the value misses the bound, StatusMarginal when it keeps it by less than the marginal

@@ -1,5 +1,7 @@
 #include "loopbackmeasurement.h"
 
+#include "loopbackprotocol.h"
+
 #include <QLocale>
 
 namespace uiutils::demo {
@@ -53,7 +55,7 @@ QString LoopbackMeasurement::stateText() const
 
 double LoopbackMeasurement::progress() const
 {
-    return double(m_roundTrip.count() + m_throughput.count()) / (2.0 * m_runSettings.samples);
+    return double(m_roundTrip.count() + m_throughput.count()) / double(m_runSettings.roundTripSamples + m_runSettings.throughputSamples);
 }
 
 QString LoopbackMeasurement::startTime() const
@@ -72,7 +74,7 @@ QString LoopbackMeasurement::method() const
             "unit. "
             "Round-trip time: %1 samples, each the time from sending a message of %2 bytes until all of its "
             "echo "
-            "had arrived. Throughput: %1 samples, each the time for sending %3 MiB until the server had "
+            "had arrived. Throughput: %6 samples, each the time for sending %3 MiB until the server had "
             "acknowledged the last byte; 1 Mbit/s is 1,000,000 bits a second. Between samples there is a "
             "pause of "
             "%4 ms, and one exchange of each kind before the first sample is not counted. Jitter is the mean "
@@ -81,9 +83,15 @@ QString LoopbackMeasurement::method() const
             "marginal when it keeps it by less, and fails when it misses it; the overall status is that of "
             "the "
             "worse median.")
-            .arg(text(m_runSettings.samples), text(m_runSettings.messageBytes),
+            .arg(text(m_runSettings.roundTripSamples), text(m_runSettings.messageBytes),
                     text(m_runSettings.transferMebibytes), text(m_runSettings.pauseMilliseconds),
-                    text(qRound(marginalShare * 100)));
+                    text(qRound(marginalShare * 100)), text(m_runSettings.throughputSamples));
+}
+
+QString LoopbackMeasurement::rangeText()
+{
+    return tr("A run takes %1 to %2 samples of each and messages of %3 B or more; what lies beyond is brought into range.")
+            .arg(QString::number(fewestSamples), QString::number(mostSamples), QString::number(smallestMessage));
 }
 
 int LoopbackMeasurement::status() const
@@ -91,13 +99,36 @@ int LoopbackMeasurement::status() const
     return m_state == Finished ? qMax(m_roundTrip.status(), m_throughput.status()) : StatusNone;
 }
 
+void LoopbackMeasurement::setRoundTripSamples(int samples)
+{
+    setCount(&m_settings.roundTripSamples, samples);
+}
+
+void LoopbackMeasurement::setThroughputSamples(int samples)
+{
+    setCount(&m_settings.throughputSamples, samples);
+}
+
 void LoopbackMeasurement::setSamples(int samples)
 {
+    setRoundTripSamples(samples);
+    setThroughputSamples(samples);
+}
+
+void LoopbackMeasurement::setCount(int* count, int samples)
+{
     samples = qBound(fewestSamples, samples, mostSamples);
-    if (samples == m_settings.samples)
+    if (samples == *count)
         return;
-    m_settings.samples = samples;
+    *count = samples;
     Q_EMIT samplesChanged();
+}
+
+void LoopbackMeasurement::setMessageBytes(int bytes)
+{
+    // The number that tells a message from the one before has to fit behind the header.
+    static_assert(smallestMessage >= protocol::headerSize + 3 && largestMessage <= int(protocol::largestEcho));
+    m_settings.messageBytes = qBound(smallestMessage, bytes, largestMessage);
 }
 
 void LoopbackMeasurement::start()
@@ -167,7 +198,7 @@ void LoopbackMeasurement::take(SampleModel* quantity, double value)
     Q_EMIT progressChanged();
     Q_EMIT sampleTaken(quantity, value);
     // Whoever heard of the sample may have cancelled the run.
-    if (isRunning() && m_roundTrip.count() == m_runSettings.samples)
+    if (isRunning() && m_roundTrip.count() == m_runSettings.roundTripSamples)
         setState(MeasuringThroughput);
 }
 

@@ -32,9 +32,11 @@ class LoopbackMeasurement : public QObject
     Q_PROPERTY(QString startTime READ startTime NOTIFY stateChanged)
     /// How the samples of the last run were taken, in sentences for a reader of the report.
     Q_PROPERTY(QString method READ method NOTIFY stateChanged)
-    /// Samples of each quantity in the next run, fewestSamples to mostSamples; other values are brought into
-    /// range.
-    Q_PROPERTY(int samples READ samples WRITE setSamples NOTIFY samplesChanged)
+    /// Samples of a quantity in the next run, fewestSamples to mostSamples; other values are brought into range.
+    Q_PROPERTY(int roundTripSamples READ roundTripSamples WRITE setRoundTripSamples NOTIFY samplesChanged)
+    Q_PROPERTY(int throughputSamples READ throughputSamples WRITE setThroughputSamples NOTIFY samplesChanged)
+    /// What a run can be asked for, in a sentence.
+    Q_PROPERTY(QString rangeText READ rangeText CONSTANT)
     Q_PROPERTY(uiutils::demo::SampleModel* roundTrip READ roundTrip CONSTANT)
     Q_PROPERTY(uiutils::demo::SampleModel* throughput READ throughput CONSTANT)
     /// Worse of the two quantities' statuses; StatusNone until a run has finished.
@@ -46,6 +48,8 @@ public:
 
     static constexpr int fewestSamples = 20;
     static constexpr int mostSamples = 200;
+    static constexpr int smallestMessage = 20;
+    static constexpr int largestMessage = 65536;
     /// Limits at the start: what any machine that is fit for this instrument's screens keeps with ease.
     static constexpr double maximumRoundTripMilliseconds = 1;
     static constexpr double minimumThroughputMegabits = 1000;
@@ -61,12 +65,21 @@ public:
     QString serverAddress() const { return m_serverAddress; }
     QString startTime() const;
     QString method() const;
-    int samples() const { return m_settings.samples; }
+    static QString rangeText();
+    int roundTripSamples() const { return m_settings.roundTripSamples; }
+    int throughputSamples() const { return m_settings.throughputSamples; }
+    int messageBytes() const { return m_settings.messageBytes; }
     SampleModel* roundTrip() { return &m_roundTrip; }
     SampleModel* throughput() { return &m_throughput; }
     int status() const;
 
+    void setRoundTripSamples(int samples);
+    void setThroughputSamples(int samples);
+    /// The same count for both.
     void setSamples(int samples);
+    /// Bytes of the message whose way there and back is timed, smallestMessage to largestMessage; other values are
+    /// brought into range; for the next run.
+    void setMessageBytes(int bytes);
     /// Silence of the connection, above zero, after which a run fails; for the next run.
     void setPatience(int milliseconds) { m_settings.patienceMilliseconds = milliseconds; }
     /// Pause between two samples, 0 or more; for the next run.
@@ -98,6 +111,7 @@ private:
     void take(SampleModel* quantity, double value);
     void end(State state, const QString& errorText = {});
     void setState(State state);
+    void setCount(int* count, int samples);
 
     LoopbackSettings m_settings;
     /// As m_settings was when the last run began.

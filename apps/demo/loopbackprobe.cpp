@@ -153,7 +153,7 @@ void LoopbackProbe::completeExchange(qint64 nanoseconds)
         Q_EMIT throughputTaken(
                 double(m_settings.transferMebibytes * mebibyte) * 8 * 1e3 / double(nanoseconds));
 
-    if (++m_taken < m_settings.samples) {
+    if (++m_taken < wantedSamples()) {
         m_pause.start();
         return;
     }
@@ -192,12 +192,17 @@ void LoopbackProbe::fail(const QString& text)
     Q_EMIT failed(text);
 }
 
+int LoopbackProbe::wantedSamples() const
+{
+    return m_phase == Phase::Throughput ? m_settings.throughputSamples : m_settings.roundTripSamples;
+}
+
 QString LoopbackProbe::activity() const
 {
     if (m_phase == Phase::Connecting)
         return tr("connecting");
     const QString number = QString::number(qMax(m_taken, 0) + 1);
-    const QString count = QString::number(m_settings.samples);
+    const QString count = QString::number(wantedSamples());
     return m_phase == Phase::RoundTrip ? tr("measuring round-trip time, sample %1 of %2").arg(number, count)
                                        : tr("measuring throughput, sample %1 of %2").arg(number, count);
 }

@@ -16,9 +16,9 @@ class LoopbackServer;
 /// How one run is to be measured.
 struct LoopbackSettings
 {
-    /// Samples of each quantity.
-    int samples = 20;
-    /// Bytes of the message whose way there and back is timed.
+    int roundTripSamples = 20;
+    int throughputSamples = 20;
+    /// Bytes of the message whose way there and back is timed; room for the protocol's header at least.
     int messageBytes = 64;
     /// Mebibytes (MiB) sent for one throughput sample.
     int transferMebibytes = 8;
@@ -72,6 +72,8 @@ private:
     void giveUp();
     void fail(const QString& text);
     QString activity() const;
+    /// Samples of the quantity that is being measured.
+    int wantedSamples() const;
 
     const LoopbackSettings m_settings;
     std::unique_ptr<LoopbackServer> m_server;

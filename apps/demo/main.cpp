@@ -1,14 +1,17 @@
 #include "common/displaysetup.h"
 #include "common/instrument.h"
+#include "core/paths.h"
 #include "demooptions.h"
 #include "demotypes.h"
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
+#include "measurementsettings.h"
 #include "reportsaver.h"
 #include "resultpublisher.h"
 #include "tour.h"
 
 #include <embedded/embeddedbackend.h>
+#include <kiv/kivclientinterface.h>
 
 #include <QGuiApplication>
 #include <QLoggingCategory>
@@ -85,6 +88,7 @@ int runDemo(const DemoOptions& options)
 {
     qputenv("UIUTILS_ROOT", options.root.toLocal8Bit());
     kiv::embedded::EmbeddedBackend backend;
+    backend.setStateFolder(options.root + uiutils::paths::serviceSettings);
     if (!loadServices(backend, options.serviceFolders))
         return exitFailed;
     QString error;
@@ -100,7 +104,11 @@ int runDemo(const DemoOptions& options)
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
 
     LoopbackMeasurement measurement;
-    measurement.setSamples(options.samples);
+    const MeasurementSettings settings(&measurement,
+            KIVClientInterface::getSessionBusClient(QStringLiteral("loopback")),
+            options.samples > 0 ? MeasurementSettings::KeepSampleCounts : MeasurementSettings::FollowSampleCounts);
+    if (options.samples > 0)
+        measurement.setSamples(options.samples);
     publishResults(&measurement, &backend);
     ReportSaver saver;
     uiutils::apps::Instrument instrument(backend);

@@ -56,7 +56,7 @@ QString SampleModel::limitText() const
 
 void SampleModel::setLimit(double limit)
 {
-    if (limit <= 0 || limit == m_limit.bound)
+    if (!(limit >= 0) || limit == m_limit.bound)
         return;
     m_limit.bound = limit;
     Q_EMIT limitChanged();

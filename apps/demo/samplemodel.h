@@ -52,7 +52,7 @@ public:
     double limit() const { return m_limit.bound; }
     QString limitText() const;
 
-    /// Judges every sample anew. A limit of zero or less is ignored.
+    /// Judges every sample anew. A limit below zero, or none at all (NaN), is ignored.
     void setLimit(double limit);
 
     /// A number of this quantity without its unit, for a big figure.

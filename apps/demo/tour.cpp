@@ -6,8 +6,11 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QLocale>
 #include <QQuickItem>
 #include <QVariant>
+
+#include <utility>
 
 namespace uiutils::demo {
 
@@ -58,7 +61,7 @@ void Tour::start()
 void Tour::watchSamples()
 {
     // The measure page in the midst of its work: half of the second quantity is there.
-    if (m_measurement->throughput()->count() == m_measurement->samples() / 2)
+    if (m_measurement->throughput()->count() == m_measurement->throughputSamples() / 2)
         visit({MeasurePage, QStringLiteral("1-measuring")});
 }
 
@@ -67,7 +70,9 @@ void Tour::visitAll()
     m_isMeasured = true;
     visit({MeasurePage, QStringLiteral("2-measured")});
     visit({ResultsPage, QStringLiteral("3-results")});
-    visit({ReportPage, QStringLiteral("4-report"), true});
+    visit({SettingsPage, QStringLiteral("4-changing"), &Tour::changeSettings});
+    visit({SettingsPage, QStringLiteral("5-settings"), &Tour::applySettings});
+    visit({ReportPage, QStringLiteral("6-report"), &Tour::saveReport});
 }
 
 void Tour::visit(const Stop& stop)
@@ -82,14 +87,15 @@ void Tour::visitNext()
     if (m_isOver)
         return;
     if (m_stops.isEmpty()) {
-        m_isOver = m_isMeasured;
-        if (m_isOver)
-            Q_EMIT finished();
+        if (!m_isMeasured || !restoreSettings())
+            return;
+        m_isOver = true;
+        Q_EMIT finished();
         return;
     }
     const Stop stop = m_stops.dequeue();
     m_window->setProperty("page", stop.page);
-    if (!stop.savesReport || saveReport())
+    if (!stop.deed || (this->*stop.deed)())
         takePicture(stop.picture);
 }
 
@@ -135,15 +141,57 @@ void Tour::keepPicture(const QString& path)
 
 bool Tour::saveReport()
 {
-    QVariant problem;
-    if (!QMetaObject::invokeMethod(m_window, "saveReport", Q_RETURN_ARG(QVariant, problem))) {
-        fail(tr("The main page cannot save a report; its QML files do not belong to this program. Install it "
-                "anew."));
-        return false;
+    return doOnPage("saveReport");
+}
+
+bool Tour::changeSettings()
+{
+    return enter(QStringLiteral(":config:basemgr:system:userInfo_lastName:"), QStringLiteral("Solheim"))
+            && enter(QStringLiteral(":config:loopback:limits:maximumRtt:"), QLocale().toString(2));
+}
+
+bool Tour::applySettings()
+{
+    return doOnPage("applySettings");
+}
+
+bool Tour::restoreSettings()
+{
+    const QMap<QString, QString> before = std::exchange(m_before, {});
+    for (auto it = before.cbegin(); it != before.cend(); ++it) {
+        if (!enter(it.key(), it.value()))
+            return false;
     }
+    m_before.clear();
+    return before.isEmpty() || applySettings();
+}
+
+bool Tour::enter(const QString& setting, const QString& text)
+{
+    QVariant before;
+    if (!QMetaObject::invokeMethod(m_window, "enterSetting", Q_RETURN_ARG(QVariant, before), Q_ARG(QVariant, setting),
+                Q_ARG(QVariant, text)))
+        return failAsForeign();
+    // Services of the user's own may lack the setting.
+    if (before.isValid())
+        m_before.insert(setting, before.toString());
+    return true;
+}
+
+bool Tour::doOnPage(const char* function)
+{
+    QVariant problem;
+    if (!QMetaObject::invokeMethod(m_window, function, Q_RETURN_ARG(QVariant, problem)))
+        return failAsForeign();
     if (problem.toString().isEmpty())
         return true;
     fail(problem.toString());
+    return false;
+}
+
+bool Tour::failAsForeign()
+{
+    fail(tr("The main page lacks what the tour uses; its QML files do not belong to this program. Install it anew."));
     return false;
 }
 
@@ -153,6 +201,7 @@ void Tour::fail(const QString& text)
         return;
     m_isOver = true;
     m_patience.stop();
+    restoreSettings();
     Q_EMIT failed(text);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QObject>
 #include <QQueue>
 #include <QQuickItemGrabResult>
@@ -12,7 +13,7 @@ namespace uiutils::demo {
 
 class LoopbackMeasurement;
 
-/// Uses the demo the way a user does, by itself: measures, looks at each page, saves the report.
+/// Uses the demo the way a user does, by itself: measures, looks at each page, tries out settings, saves the report.
 ///
 /// It owns none of what it is given. Pictures of the pages are written to a folder; a picture is there whole
 /// or not at all.
@@ -36,14 +37,14 @@ Q_SIGNALS:
     void failed(const QString& text);
 
 private:
-    enum Page { MeasurePage, ResultsPage, ReportPage };
+    enum Page { MeasurePage, ResultsPage, ReportPage, SettingsPage };
 
-    /// A page to show and the name of its picture.
+    /// A page to show, the name of its picture, and what is done there before that; false when it failed.
     struct Stop
     {
         Page page;
         QString picture;
-        bool savesReport = false;
+        bool (Tour::*deed)() = nullptr;
     };
 
     void watchSamples();
@@ -53,6 +54,14 @@ private:
     void takePicture(const QString& name);
     void keepPicture(const QString& path);
     bool saveReport();
+    bool changeSettings();
+    bool applySettings();
+    /// Gives the settings back what they were before the tour; the tour is the user's guest.
+    bool restoreSettings();
+    bool enter(const QString& setting, const QString& text);
+    /// Calls a function of the main page that gives what went wrong.
+    bool doOnPage(const char* function);
+    bool failAsForeign();
     void fail(const QString& text);
 
     QQuickWindow* const m_window;
@@ -60,6 +69,8 @@ private:
     const QString m_folder;
     QStringList m_pictures;
     QQueue<Stop> m_stops;
+    /// What the fields showed before the tour, by the settings' ids.
+    QMap<QString, QString> m_before;
     /// The picture under way; null between pictures.
     QSharedPointer<QQuickItemGrabResult> m_grab;
     /// Runs while a picture is under way.

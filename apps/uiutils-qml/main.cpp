@@ -4,6 +4,8 @@
 #include "common/displaysetup.h"
 #include "common/instrument.h"
 
+#include "core/paths.h"
+
 #include <embedded/embeddedbackend.h>
 
 #include <QGuiApplication>
@@ -100,6 +102,7 @@ int main(int argc, char** argv)
     const apps::DisplaySetup display;
     const QGuiApplication application(argc, argv);
     kiv::embedded::EmbeddedBackend backend;
+    backend.setStateFolder(options.root + paths::serviceSettings);
     if (!loadServices(backend, options))
         return exitFailed;
     apps::Instrument instrument(backend);

@@ -1,5 +1,11 @@
 #include "loopbackmeasurement.h"
 #include "loopbackprotocol.h"
+#include "measurementsettings.h"
+
+#include <embedded/embeddedbackend.h>
+#include <embedded/embeddedservice.h>
+#include <kiv/kivclientinterface.h>
+#include <kiv/kivclientitem.h>
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
@@ -21,6 +27,8 @@ namespace {
 
 constexpr int samples = LoopbackMeasurement::fewestSamples;
 constexpr int longWait = 60000;
+const char* const serviceFile = UIUTILS_SOURCE_DIR "/platform/reference/services/loopback.service.json";
+const char* const roundTripLimit = ":config:loopback:limits:maximumRtt:";
 
 /// A far end that does what a test wants done with each connection.
 class TestServer : public QTcpServer
@@ -113,6 +121,103 @@ private Q_SLOTS:
         QVERIFY(m_measurement->serverAddress().startsWith("127.0.0.1:"));
         QVERIFY(QDateTime::fromString(m_measurement->startTime(), Qt::ISODate).isValid());
         QCOMPARE(m_failed->count(), 0);
+    }
+
+    void runAsAsked_data()
+    {
+        QTest::addColumn<int>("roundTrips");
+        QTest::addColumn<int>("throughputs");
+        QTest::addColumn<int>("messageBytes");
+        QTest::newRow("smallest message") << samples << samples + 3 << LoopbackMeasurement::smallestMessage;
+        QTest::newRow("largest message") << samples + 3 << samples << LoopbackMeasurement::largestMessage;
+    }
+
+    void runAsAsked()
+    {
+        QFETCH(const int, roundTrips);
+        QFETCH(const int, throughputs);
+        QFETCH(const int, messageBytes);
+        m_measurement->setRoundTripSamples(roundTrips);
+        m_measurement->setThroughputSamples(throughputs);
+        m_measurement->setMessageBytes(messageBytes);
+        m_measurement->start();
+        QVERIFY(m_finished->wait(longWait));
+        QCOMPARE(m_measurement->roundTrip()->count(), roundTrips);
+        QCOMPARE(m_measurement->throughput()->count(), throughputs);
+        QCOMPARE(m_measurement->progress(), 1.0);
+        QVERIFY(m_measurement->method().contains(QLocale().toString(messageBytes)));
+    }
+
+    void followsTheService_data()
+    {
+        using Settings = MeasurementSettings;
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<double>("value");
+        QTest::addColumn<int>("counts");
+        QTest::addColumn<double>("expected");
+        const QString roundTrips = ":config:loopback:test:rttSamples:";
+        const QString throughputs = ":config:loopback:test:throughputSamples:";
+        const QString bytes = ":config:loopback:test:messageSize:";
+        QTest::newRow("round trips") << roundTrips << 30.0 << int(Settings::FollowSampleCounts) << 30.0;
+        QTest::newRow("too many") << roundTrips << 9999.0 << int(Settings::FollowSampleCounts) << 200.0;
+        QTest::newRow("counts asked for otherwise") << roundTrips << 30.0 << int(Settings::KeepSampleCounts) << 20.0;
+        QTest::newRow("throughputs") << throughputs << 31.0 << int(Settings::FollowSampleCounts) << 31.0;
+        QTest::newRow("too few") << throughputs << 1.0 << int(Settings::FollowSampleCounts) << 20.0;
+        QTest::newRow("message") << bytes << 1024.0 << int(Settings::KeepSampleCounts) << 1024.0;
+        QTest::newRow("message without room") << bytes << 1.0 << int(Settings::KeepSampleCounts) << 20.0;
+        QTest::newRow("round-trip limit") << QString(roundTripLimit) << 0.25 << int(Settings::KeepSampleCounts) << 0.25;
+        QTest::newRow("no time at all") << QString(roundTripLimit) << 0.0 << int(Settings::FollowSampleCounts) << 0.0;
+        QTest::newRow("throughput limit")
+                << QString(":config:loopback:limits:minimumThroughput:") << 5.0 << int(Settings::FollowSampleCounts) << 5.0;
+    }
+
+    /// Taken at the start, and from a service that came back.
+    void followsTheService()
+    {
+        QFETCH(const QString, id);
+        QFETCH(const double, value);
+        QFETCH(const int, counts);
+        kiv::embedded::EmbeddedBackend services;
+        QVERIFY(services.loadFile(serviceFile));
+        const double before = taken(id);
+        services.service("loopback")->setValue(id, value);
+        const MeasurementSettings settings(m_measurement.get(), KIVClientInterface::getSessionBusClient("loopback"),
+                MeasurementSettings::SampleCounts(counts));
+        QTEST(taken(id), "expected");
+
+        // Back as its file says, and changed once more.
+        services.withdraw("loopback");
+        QVERIFY(services.loadFile(serviceFile));
+        services.service("loopback")->setValue(id, before);
+        QCOMPARE(taken(id), before);
+        services.service("loopback")->setValue(id, value);
+        QTEST(taken(id), "expected");
+    }
+
+    /// The service and the measurement end with the same limit, whichever of them it was changed at.
+    void oneLimit_data()
+    {
+        QTest::addColumn<QString>("refusal");
+        QTest::addColumn<double>("expected");
+        QTest::newRow("taken") << "" << 5.0;
+        QTest::newRow("refused") << "The limits are the customer's." << 1.0;
+    }
+
+    void oneLimit()
+    {
+        QFETCH(const QString, refusal);
+        kiv::embedded::EmbeddedBackend services;
+        QVERIFY(services.loadFile(serviceFile));
+        const MeasurementSettings settings(m_measurement.get(), KIVClientInterface::getSessionBusClient("loopback"),
+                MeasurementSettings::FollowSampleCounts);
+        services.service("loopback")->setRefusal(roundTripLimit, refusal);
+        if (!refusal.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(refusal));
+        m_measurement->roundTrip()->setLimit(5);
+        QFETCH(const double, expected);
+        QTRY_COMPARE(m_measurement->roundTrip()->limit(), expected);
+        QCOMPARE(services.service("loopback")->item(roundTripLimit)->getValue().toDouble(),
+                m_measurement->roundTrip()->limit());
     }
 
     /// A far end of known slowness bounds every sample from below, the clock on the wall bounds their sum
@@ -249,6 +354,16 @@ private Q_SLOTS:
     }
 
 private:
+    /// What the measurement holds for that setting.
+    double taken(const QString& id)
+    {
+        if (id.contains(":limits:"))
+            return (id == roundTripLimit ? m_measurement->roundTrip() : m_measurement->throughput())->limit();
+        if (id.contains("message"))
+            return m_measurement->messageBytes();
+        return id.contains("rtt") ? m_measurement->roundTripSamples() : m_measurement->throughputSamples();
+    }
+
     std::unique_ptr<LoopbackMeasurement> m_measurement;
     std::unique_ptr<QSignalSpy> m_finished;
     std::unique_ptr<QSignalSpy> m_failed;

@@ -1,8 +1,15 @@
+#include "common/instrument.h"
 #include "core/paths.h"
 #include "demotypes.h"
 #include "loopbackmeasurement.h"
-#include "module/uiutilsmodule.h"
+#include "measurementsettings.h"
 #include "reportsaver.h"
+#include "service/kivdata.h"
+
+#include <embedded/embeddedbackend.h>
+#include <embedded/embeddedservice.h>
+#include <kiv/kivclientinterface.h>
+#include <kiv/kivclientitem.h>
 
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
@@ -22,6 +29,11 @@ using namespace uiutils::demo;
 namespace {
 
 constexpr int longWait = 60000;
+
+const char* const lastName = ":config:basemgr:system:userInfo_lastName:";
+const char* const saveLocation = ":config:basemgr:system:saveLocation:";
+const char* const roundTripLimit = ":config:loopback:limits:maximumRtt:";
+const char* const roundTripSamples = ":config:loopback:test:rttSamples:";
 
 QList<QQuickItem*> itemsBelow(const QQuickItem* item)
 {
@@ -59,34 +71,19 @@ private Q_SLOTS:
         QVERIFY(m_root.isValid());
         qputenv("UIUTILS_ROOT", m_root.path().toLocal8Bit());
         qputenv("QT_QUICK_CONTROLS_STYLE", "Default");
-        uiutils::registerTypes();
         registerDemoTypes();
     }
 
     void init()
     {
-        m_measurement = std::make_unique<LoopbackMeasurement>();
-        m_measurement->setPause(0);
-        m_saver = std::make_unique<ReportSaver>();
-        m_engine = std::make_unique<QQmlApplicationEngine>();
-        connect(m_engine.get(), &QQmlEngine::warnings, this, [this](const QList<QQmlError>& warnings) {
-            for (const QQmlError& warning : warnings)
-                m_warnings += warning.toString();
-        });
-        m_warnings.clear();
-        m_engine->setInitialProperties({{"measurement", QVariant::fromValue(m_measurement.get())},
-                {"saver", QVariant::fromValue(m_saver.get())}});
-        m_engine->load(QUrl("qrc:/uiutils/demo/Main.qml"));
-        QVERIFY(!m_engine->rootObjects().isEmpty());
-        m_window = qobject_cast<QQuickWindow*>(m_engine->rootObjects().constFirst());
-        QVERIFY(m_window);
-        m_window->requestActivate();
-        QVERIFY(QTest::qWaitForWindowActive(m_window));
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        m_settingsFolder = std::make_unique<QTemporaryDir>();
+        startProgram();
     }
 
     void cleanup()
     {
-        m_engine.reset();
+        endProgram();
         QCOMPARE(m_warnings, QStringList());
     }
 
@@ -116,9 +113,249 @@ private Q_SLOTS:
         QCOMPARE(roundTrip->limit(), LoopbackMeasurement::maximumRoundTripMilliseconds);
         QQuickItem* const raise = button("+");
         QVERIFY(raise->width() >= 44 && raise->height() >= 44);
-        QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier,
-                raise->mapToScene(QPointF(raise->width() / 2, raise->height() / 2)).toPoint());
+        click(raise);
         QCOMPARE(roundTrip->limit(), 2 * LoopbackMeasurement::maximumRoundTripMilliseconds);
+        QCOMPARE(served(roundTripLimit), QVariant(roundTrip->limit()));
+    }
+
+    /// What is typed is held back over a change of the page, and reaches both services at once.
+    void settingsAreAppliedTogether()
+    {
+        QTest::keyClick(m_window, Qt::Key_4, Qt::ControlModifier);
+        type(lastName, "Berg");
+        type(roundTripLimit, "0.25");
+        QCOMPARE(served(lastName), QVariant("Halvorsen"));
+        QCOMPARE(m_measurement->roundTrip()->limit(), 1.0);
+        QVERIFY(showsText("2 changes are not applied yet."));
+
+        QTest::keyClick(m_window, Qt::Key_1, Qt::ControlModifier);
+        QTest::keyClick(m_window, Qt::Key_4, Qt::ControlModifier);
+        QCOMPARE(textOf(fieldOf(lastName)), QString("Berg"));
+        QVERIFY(isChanged(roundTripLimit) && !isChanged(roundTripSamples));
+
+        press("Apply");
+        QCOMPARE(served(lastName), QVariant("Berg"));
+        QCOMPARE(served(roundTripLimit), QVariant(0.25));
+        QCOMPARE(m_measurement->roundTrip()->limit(), 0.25);
+        QVERIFY(showsText("All settings are applied."));
+        QVERIFY(!button("Apply")->isEnabled() && !button("Revert")->isEnabled());
+    }
+
+    /// Also of a field that was changed twice, of one that cannot be applied, and of one that went back by itself.
+    void revertRestoresWhatTheServicesHold()
+    {
+        m_window->setProperty("page", 3);
+        type(lastName, "Berg");
+        type(roundTripSamples, "");
+        QTest::keyClick(m_window, Qt::Key_Backtab);
+        type(lastName, "Dahl");
+        choose(saveLocation);
+        type(roundTripLimit, "5");
+        type(roundTripLimit, "1.000");
+        QVERIFY(!isChanged(roundTripLimit));
+        QVERIFY(isChanged(saveLocation));
+
+        press("Revert");
+        QCOMPARE(textOf(fieldOf(lastName)), QString("Halvorsen"));
+        QCOMPARE(textOf(fieldOf(roundTripSamples)), QString("40"));
+        QVERIFY(showsText("All settings are applied."));
+        type(roundTripSamples, "50");
+        press("Apply");
+        QCOMPARE(served(lastName), QVariant("Halvorsen"));
+        QCOMPARE(served(saveLocation), QVariant(0));
+        QCOMPARE(served(roundTripLimit), QVariant(1.0));
+        QCOMPARE(served(roundTripSamples), QVariant(50u));
+    }
+
+    void entries_data()
+    {
+        QTest::addColumn<QString>("id");
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QVariant>("taken");
+        const QString limit = roundTripLimit;
+        QTest::newRow("point") << limit << "en_US" << "0.25" << QVariant(0.25);
+        QTest::newRow("comma") << limit << "de_DE" << "0,25" << QVariant(0.25);
+        QTest::newRow("thousands without separators") << limit << "de_DE" << "1234,5" << QVariant(1234.5);
+        QTest::newRow("no number") << limit << "de_DE" << "" << QVariant();
+        QTest::newRow("too large") << limit << "en_US" << "20000" << QVariant();
+        QTest::newRow("whole number") << QString(roundTripSamples) << "de_DE" << "1500" << QVariant(1500u);
+        QTest::newRow("fewer than one") << QString(roundTripSamples) << "en_US" << "0" << QVariant();
+        QTest::newRow("text with a comma") << QString(lastName) << "de_DE" << "Berg, Ida" << QVariant("Berg, Ida");
+        QTest::newRow("letters beyond ASCII")
+                << QString(lastName) << "de_DE" << QString::fromUtf8("Sørensen") << QVariant(QString::fromUtf8("Sørensen"));
+        QTest::newRow("no name") << QString(lastName) << "en_US" << "" << QVariant("default");
+    }
+
+    /// An entry that cannot be taken stands in the way of all, until it is corrected.
+    void entries()
+    {
+        QFETCH(const QString, id);
+        QFETCH(const QString, locale);
+        QFETCH(const QString, typed);
+        QFETCH(const QVariant, taken);
+        endProgram();
+        QLocale::setDefault(QLocale(locale));
+        startProgram();
+        m_window->setProperty("page", 3);
+        const QVariant before = served(id);
+        const QString shown = textOf(fieldOf(id));
+        type(":config:basemgr:system:userInfo_techID:", "T-1");
+        type(id, typed);
+        QCOMPARE(textOf(fieldOf(id)), typed);
+        QCOMPARE(button("Apply")->isEnabled(), taken.isValid());
+        QCOMPARE(hasFailColor(id), !taken.isValid());
+        if (!taken.isValid()) {
+            QTest::keyClick(m_window, Qt::Key_Return);
+            QVERIFY(fieldOf(id)->hasActiveFocus());
+            picture("not acceptable");
+            type(id, shown);
+        }
+        press("Apply");
+        QCOMPARE(served(id), taken.isValid() ? taken : before);
+        QCOMPARE(served(":config:basemgr:system:userInfo_techID:"), QVariant("T-1"));
+    }
+
+    void refusedSettingsAreToldInWords_data()
+    {
+        QTest::addColumn<QString>("words");
+        QTest::addColumn<int>("times");
+        // In the bar, and at each setting that the words may concern.
+        QTest::newRow("named") << "Last Name cannot be changed in the field." << 2;
+        QTest::newRow("not named") << "The roster is closed." << 3;
+    }
+
+    void refusedSettingsAreToldInWords()
+    {
+        QFETCH(const QString, words);
+        QFETCH(const int, times);
+        service(lastName)->setRefusal(lastName, words);
+        m_window->setProperty("page", 3);
+        type(lastName, "Berg");
+        type(roundTripLimit, "2");
+        // At every try.
+        for (int i = 0; i < 2; ++i) {
+            press("Apply");
+            QCOMPARE(shownTimes("Nothing was set. " + words), times);
+            QVERIFY(isInSight(fieldOf(lastName)));
+            picture(QStringLiteral("refused-%1").arg(times));
+            QCOMPARE(served(lastName), QVariant("Halvorsen"));
+            QCOMPARE(served(roundTripLimit), QVariant(1.0));
+            QVERIFY(isChanged(lastName) && isChanged(roundTripLimit));
+        }
+
+        service(lastName)->setRefusal(lastName, QString());
+        press("Apply");
+        QCOMPARE(served(lastName), QVariant("Berg"));
+        QCOMPARE(served(roundTripLimit), QVariant(2.0));
+        QCOMPARE(shownTimes("Nothing was set. " + words), 0);
+    }
+
+    /// The service has the last word on a setting; what it says of others leaves the entry alone.
+    void settingsFollowTheService()
+    {
+        m_window->setProperty("page", 3);
+        type(lastName, "Berg");
+        type(roundTripSamples, "");
+        service(lastName)->setReady(lastName, false);
+        QVERIFY(!fieldOf(lastName)->isEnabled());
+        service(lastName)->setReady(lastName, true);
+        service(roundTripSamples)->setReady(roundTripSamples, false);
+        service(roundTripSamples)->setReady(roundTripSamples, true);
+        service(roundTripLimit)->setValue(roundTripLimit, 3);
+        QCOMPARE(textOf(fieldOf(lastName)), QString("Berg"));
+        QCOMPARE(textOf(fieldOf(roundTripSamples)), QString());
+        QCOMPARE(textOf(fieldOf(roundTripLimit)), QString("3.000"));
+        QVERIFY(isChanged(lastName) && !isChanged(roundTripLimit));
+
+        service(lastName)->setValue(lastName, "Dahl");
+        QCOMPARE(textOf(fieldOf(lastName)), QString("Dahl"));
+        QVERIFY(!isChanged(lastName));
+
+        // What does not apply is hidden and hinders nothing.
+        service(roundTripSamples)->setApplicable(roundTripSamples, false);
+        QVERIFY(!fieldOf(roundTripSamples)->isVisible());
+        type(lastName, "Berg");
+        QVERIFY(button("Apply")->isEnabled());
+    }
+
+    /// The keyboard goes through all settings, and each comes into sight.
+    void keyboardReachesEverySetting()
+    {
+        m_window->setProperty("page", 3);
+        fieldOf(":config:basemgr:system:userInfo_firstName:")->forceActiveFocus();
+        int fields = 0;
+        for (; m_window->activeFocusItem()->inherits("QQuickTextField")
+                || m_window->activeFocusItem()->inherits("QQuickComboBox"); ++fields) {
+            const QQuickItem* field = m_window->activeFocusItem();
+            waitForFrame();
+            QVERIFY(isInSight(field));
+            QTest::keyClick(m_window, Qt::Key_Tab);
+        }
+        QCOMPARE(fields, 14);
+        picture("last setting");
+    }
+
+    void fingerChooses()
+    {
+        service(saveLocation)->setChoices(saveLocation,
+                {{0, "Internal", "Internal", true}, {1, "Usb", "USB", false}, {2, "Both", "Internal and USB", true}});
+        m_window->setProperty("page", 3);
+        fieldOf(saveLocation)->forceActiveFocus();
+        waitForFrame();
+        click(fieldOf(saveLocation));
+        waitForFrame();
+        picture("choices");
+        const auto choice = [this](const QString& label) {
+            return firstItem([&](const QQuickItem* item) {
+                return item->inherits("QQuickItemDelegate") && textOf(item) == label;
+            });
+        };
+        QVERIFY(choice("USB")->height() >= 44);
+        // What is not there now cannot be taken.
+        click(choice("USB"));
+        QVERIFY(!isChanged(saveLocation));
+        click(choice("Internal and USB"));
+        QVERIFY(isChanged(saveLocation));
+        press("Apply");
+        QCOMPARE(served(saveLocation), QVariant(2));
+    }
+
+    void fingerScrollsFromAField()
+    {
+        m_window->setProperty("page", 3);
+        waitForFrame();
+        QQuickItem* const field = fieldOf(lastName);
+        const QPoint start = field->mapToScene(QPointF(field->width() / 2, field->height() / 2)).toPoint();
+        QTest::mousePress(m_window, Qt::LeftButton, Qt::NoModifier, start);
+        for (int y = 0; y <= 150; y += 15)
+            QTest::mouseMove(m_window, start - QPoint(0, y));
+        QTest::mouseRelease(m_window, Qt::LeftButton, Qt::NoModifier, start - QPoint(0, 150));
+        QTRY_VERIFY(field->mapToScene(QPointF()).y() < start.y() - 100);
+    }
+
+    void settingsSurviveARestart()
+    {
+        m_window->setProperty("page", 3);
+        type(lastName, "Berg");
+        type(roundTripLimit, "0.25");
+        press("Apply");
+        endProgram();
+        startProgram();
+        QCOMPARE(textOf(fieldOf(lastName)), QString("Berg"));
+        QCOMPARE(m_measurement->roundTrip()->limit(), 0.25);
+    }
+
+    /// The page does without services that a user's own folder lacks.
+    void noServicesNoSettings()
+    {
+        endProgram();
+        m_serviceFolders.clear();
+        startProgram();
+        m_serviceFolders = QStringList(shippedServices);
+        m_window->setProperty("page", 3);
+        QVERIFY(shownTexts().size() > 0);
+        QVERIFY(showsText("There are no settings, because the services basemgr and loopback are not published."));
     }
 
     void noReportWithoutAMeasurement()
@@ -168,7 +405,7 @@ private Q_SLOTS:
             for (SampleModel* quantity : {m_measurement->roundTrip(), m_measurement->throughput()})
                 quantity->setLimit(quantity->median());
         }
-        for (int page = 0; page < 3; ++page) {
+        for (int page = 0; page < 4; ++page) {
             m_window->setProperty("page", page);
             waitForFrame();
             picture(QStringLiteral("%1-%2-%3").arg(state).arg(size.width()).arg(page));
@@ -180,6 +417,129 @@ private Q_SLOTS:
     }
 
 private:
+    void startProgram()
+    {
+        m_services = std::make_unique<kiv::embedded::EmbeddedBackend>();
+        m_services->setStateFolder(m_settingsFolder->path());
+        QCOMPARE(m_services->loadFolders(m_serviceFolders), QStringList());
+        m_measurement = std::make_unique<LoopbackMeasurement>();
+        m_measurement->setPause(0);
+        m_settings = std::make_unique<MeasurementSettings>(m_measurement.get(),
+                KIVClientInterface::getSessionBusClient("loopback"), MeasurementSettings::KeepSampleCounts);
+        m_saver = std::make_unique<ReportSaver>();
+        m_instrument = std::make_unique<uiutils::apps::Instrument>(*m_services);
+        m_engine = std::make_unique<QQmlApplicationEngine>();
+        connect(m_engine.get(), &QQmlEngine::warnings, this, [this](const QList<QQmlError>& warnings) {
+            for (const QQmlError& warning : warnings)
+                m_warnings += warning.toString();
+        });
+        m_warnings.clear();
+        m_instrument->showTo(m_engine.get());
+        m_engine->setInitialProperties({{"measurement", QVariant::fromValue(m_measurement.get())},
+                {"saver", QVariant::fromValue(m_saver.get())}});
+        m_engine->load(QUrl("qrc:/uiutils/demo/Main.qml"));
+        QVERIFY(!m_engine->rootObjects().isEmpty());
+        m_window = qobject_cast<QQuickWindow*>(m_engine->rootObjects().constFirst());
+        QVERIFY(m_window);
+        m_window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(m_window));
+    }
+
+    void endProgram()
+    {
+        m_engine.reset();
+        m_instrument.reset();
+        m_settings.reset();
+        m_measurement.reset();
+        m_services.reset();
+    }
+
+    kiv::embedded::EmbeddedService* service(const QString& id) const
+    {
+        return m_services->service(id.section(':', 2, 2));
+    }
+
+    /// The value that the service holds.
+    QVariant served(const QString& id) const { return service(id)->item(id)->getValue(); }
+
+    /// The row of a setting.
+    QQuickItem* rowOf(const QString& id) const
+    {
+        return firstItem([&](const QQuickItem* item) {
+            const auto* data = item->property("item").value<KivData*>();
+            return data && data->getId() == id;
+        });
+    }
+
+    /// The control in it.
+    QQuickItem* fieldOf(const QString& id) const
+    {
+        const QList<QQuickItem*> items = itemsBelow(rowOf(id));
+        const auto isControl = [](const QQuickItem* item) {
+            return item->inherits("QQuickTextField") || item->inherits("QQuickComboBox");
+        };
+        return *std::find_if(items.begin(), items.end(), isControl);
+    }
+
+    bool isChanged(const QString& id) const { return rowOf(id)->property("changed").toBool(); }
+
+    /// Whether what may be entered stands there as a warning.
+    bool hasFailColor(const QString& id) const
+    {
+        const QList<QQuickItem*> items = itemsBelow(rowOf(id));
+        return std::any_of(items.begin(), items.end(), [](const QQuickItem* item) {
+            return item->inherits("QQuickText") && !textOf(item).isEmpty()
+                    && item->property("color").value<QColor>() == QColor("#b3261e");
+        });
+    }
+
+    /// Whether the settings page is scrolled so that the whole item can be seen.
+    bool isInSight(const QQuickItem* item) const
+    {
+        const auto* view = firstItem([](const QQuickItem* candidate) {
+            return candidate->isVisible() && candidate->inherits("QQuickFlickable")
+                    && candidate->property("contentHeight").toReal() > candidate->height();
+        });
+        const QRectF sight = view->mapRectToScene(QRectF(0, 0, view->width(), view->height()));
+        return sight.contains(item->mapRectToScene(QRectF(0, 0, item->width(), item->height())));
+    }
+
+    void type(const QString& id, const QString& text)
+    {
+        QQuickItem* const field = fieldOf(id);
+        field->forceActiveFocus();
+        QVERIFY(QMetaObject::invokeMethod(field, "selectAll"));
+        QTest::keyClick(m_window, Qt::Key_Delete);
+        for (const QChar letter : text)
+            QTest::sendKeyEvent(QTest::Click, m_window, Qt::Key_unknown, letter, Qt::NoModifier);
+    }
+
+    /// Takes the next choice, with the keyboard.
+    void choose(const QString& id)
+    {
+        fieldOf(id)->forceActiveFocus();
+        QTest::keyClick(m_window, Qt::Key_Down);
+    }
+
+    void press(const QString& words)
+    {
+        focusButton(words);
+        QTest::keyClick(m_window, Qt::Key_Space);
+    }
+
+    void click(const QQuickItem* item)
+    {
+        QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier,
+                item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
+    }
+
+    int shownTimes(const QString& words) const
+    {
+        const QList<QQuickItem*> texts = shownTexts();
+        return int(std::count_if(
+                texts.begin(), texts.end(), [&](const QQuickItem* text) { return textOf(text) == words; }));
+    }
+
     void measure()
     {
         m_measurement->start();
@@ -263,9 +623,7 @@ private:
 
     bool showsText(const QString& words) const
     {
-        const QList<QQuickItem*> texts = shownTexts();
-        return std::any_of(
-                texts.begin(), texts.end(), [&](const QQuickItem* text) { return textOf(text) == words; });
+        return shownTimes(words) > 0;
     }
 
     /// For eyes: pictures of every page and state in the folder that UIUTILS_DEMO_PICTURES names.
@@ -280,7 +638,14 @@ private:
         QVERIFY(grab->saveToFile(folder + '/' + name + ".png"));
     }
 
+    const QString shippedServices = UIUTILS_SOURCE_DIR "/platform/reference/services";
+
     QTemporaryDir m_root;
+    std::unique_ptr<QTemporaryDir> m_settingsFolder;
+    QStringList m_serviceFolders {shippedServices};
+    std::unique_ptr<kiv::embedded::EmbeddedBackend> m_services;
+    std::unique_ptr<MeasurementSettings> m_settings;
+    std::unique_ptr<uiutils::apps::Instrument> m_instrument;
     std::unique_ptr<LoopbackMeasurement> m_measurement;
     std::unique_ptr<ReportSaver> m_saver;
     std::unique_ptr<QQmlApplicationEngine> m_engine;

@@ -105,7 +105,7 @@ private Q_SLOTS:
         const QStringList reports = filesBelow(root + "/cust/public/reports");
         const QStringList pictures = filesBelow(root + "/pictures");
         QCOMPARE(reports.size(), 3);
-        QCOMPARE(pictures.size(), 4);
+        QCOMPARE(pictures.size(), 6);
         for (const QString& file : reports + pictures)
             QVERIFY2(outcome.output.split('\n').contains(file), qPrintable(outcome.output));
         checkReport(reports.at(0), reports.at(1), samples);
@@ -182,16 +182,45 @@ private Q_SLOTS:
         QVERIFY(!folder.exists("root"));
     }
 
+    /// Settings of an earlier run are used, and what the tour itself tries out stands in its report only.
+    void settingsSurviveARestart()
+    {
+        const QString kept = m_folder->filePath("cust/private/lastconfigs/services/");
+        QVERIFY(QDir().mkpath(kept));
+        QFile basemgr(kept + "basemgr.state.json");
+        QVERIFY(basemgr.open(QIODevice::WriteOnly));
+        basemgr.write(R"({ "service": "basemgr", "values": { ":config:basemgr:system:userInfo_firstName:": "Signe",
+                ":config:basemgr:system:userInfo_lastName:": "Dahl" } })");
+        basemgr.close();
+        QFile loopback(kept + "loopback.state.json");
+        QVERIFY(loopback.open(QIODevice::WriteOnly));
+        loopback.write(R"({ "service": "loopback", "values": { ":config:loopback:test:rttSamples:": 22 } })");
+        loopback.close();
+
+        for (int run = 0; run < 2; ++run) {
+            const Outcome outcome = runDemo({"--tour", "--root", m_folder->path()});
+            QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
+            QCOMPARE(outcome.errors, QString());
+            const QString words = wordsOf(contentsOf(filesBelow(m_folder->filePath("cust/public/reports")).at(3 * run)));
+            QVERIFY2(words.contains("Signe"), qPrintable(words));
+            QVERIFY2(words.contains("Solheim") && !words.contains("Dahl"), qPrintable(words));
+            QVERIFY2(words.contains("at most 2.00 ms"), qPrintable(words));
+            QVERIFY2(words.contains("Sample 22") && words.contains("Sample 40"), qPrintable(words));
+        }
+        const QJsonObject values = QJsonDocument::fromJson(contentsOf(basemgr.fileName())).object()["values"].toObject();
+        QCOMPARE(values[":config:basemgr:system:userInfo_lastName:"].toString(), QString("Dahl"));
+    }
+
     /// A folder stands where the last picture should go: what was finished before is kept and named.
     void pictureThatCannotBeWritten()
     {
-        QVERIFY(QDir(m_folder->path()).mkpath("pictures/4-report.png"));
+        QVERIFY(QDir(m_folder->path()).mkpath("pictures/6-report.png"));
         const Outcome outcome = runDemo({"--tour", "--root", m_folder->path()});
         QCOMPARE(outcome.exitCode, 1);
-        QVERIFY2(outcome.errors.contains("4-report.png"), qPrintable(outcome.errors));
-        QCOMPARE(filesBelow(m_folder->filePath("pictures")).size(), 3);
-        QVERIFY(outcome.output.contains("3-results.png"));
-        QVERIFY(!outcome.output.contains("4-report.png"));
+        QVERIFY2(outcome.errors.contains("6-report.png"), qPrintable(outcome.errors));
+        QCOMPARE(filesBelow(m_folder->filePath("pictures")).size(), 5);
+        QVERIFY(outcome.output.contains("5-settings.png"));
+        QVERIFY(!outcome.output.contains("6-report.png"));
     }
 
     void commandLine_data()

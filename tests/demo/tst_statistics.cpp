@@ -5,6 +5,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <cmath>
+
 using namespace uiutils::demo;
 
 class StatisticsTest : public QObject
@@ -110,7 +112,7 @@ private Q_SLOTS:
         QCOMPARE(model.data(model.index(1), SampleModel::StatusRole).toInt(), int(StatusMarginal));
         QCOMPARE(model.status(), int(StatusFail));
 
-        model.setLimit(0);
+        model.setLimit(std::nan(""));
         model.setLimit(-1);
         QCOMPARE(model.limit(), 0.3);
         QCOMPARE(rejudged.count(), 1);

@@ -81,7 +81,8 @@ private Q_SLOTS:
             if (!id.contains("untouched"))
                 Manifest::getKivData(id)->setValue(id.size());
         }
-        Manifest::getKivData(":config:rec:test:plain:")->setValue(QString::fromUtf8("Ås"));
+        const QString beyondAscii = QString::fromUtf8("Ås \"\\\" \U0001F4E1");
+        Manifest::getKivData(":config:rec:test:plain:")->setValue(beyondAscii);
         manifest.applyChanges();
         QVERIFY(!manifest.isChanging());
         QCOMPARE(m_client->calls.size(), 1);
@@ -93,7 +94,10 @@ private Q_SLOTS:
         QVERIFY(call.argument.toString().startsWith("{\n    \""));
         QCOMPARE(sentChanges(*m_client).keys(),
                 (QStringList {"a_1", "ab:1", "mode:2", "mode_12", QString::fromUtf8("n_\u0663"), "plain", "x3"}));
-        QCOMPARE(sentChanges(*m_client).value("plain").toString(), QString::fromUtf8("Ås"));
+        QCOMPARE(sentChanges(*m_client).value("plain").toString(), beyondAscii);
+        // A service that takes the argument for the text that it is reads the same.
+        const QByteArray asText = call.argument.toString().toUtf8();
+        QCOMPARE(QJsonDocument::fromJson(asText).object().value("plain").toString(), beyondAscii);
     }
 
     void whatWasSentIsNotSentAgain()
@@ -122,15 +126,25 @@ private Q_SLOTS:
     {
         m_client->add(":config:rec:a:", 0);
         m_client->add(":config:rec:b:", 0);
+        RecordedClient otherClient;
+        otherClient.add(":config:rec:elsewhere:", 0);
         Manifest manifest(m_client.get(), "", "rec");
+        Manifest other(&otherClient, "", "rec");
         QSignalSpy errors(Manifest::getKivData(":config:rec:a:"), &KivData::errorChanged);
         QSignalSpy others(Manifest::getKivData(":config:rec:b:"), &KivData::errorChanged);
+        // Another service's setting travels along, and what refused it is not that service.
+        KivData* elsewhere = Manifest::getKivData(":config:rec:elsewhere:");
+        const QSignalSpy errorsElsewhere(elsewhere, &KivData::errorChanged);
         manifest.startChanges();
+        other.startChanges();
+        elsewhere->setValue(2);
         Manifest::getKivData(":config:rec:a:")->setValue(1);
         m_client->refusal = "a is out of range";
         manifest.applyChanges();
         QCOMPARE(errors.size(), 1);
         QCOMPARE(errors.first(), (QVariantList {"a", "a is out of range"}));
+        QCOMPARE(errorsElsewhere.size(), 1);
+        QCOMPARE(elsewhere->getError(), QString("a is out of range"));
         QVERIFY(others.isEmpty());
         m_client->refusal.clear();
         manifest.applyChanges();

@@ -8,12 +8,21 @@ ApplicationWindow {
 
     required property LoopbackMeasurement measurement
     required property ReportSaver saver
-    // The page shown: 0 Measure, 1 Results, 2 Report.
+    // The page shown: 0 Measure, 1 Results, 2 Report, 3 Settings.
     property alias page: navigation.currentIndex
 
     // Saves the report of the last run; the reason when that failed, an empty text when it did not.
     function saveReport() {
         return reportPage.save()
+    }
+
+    // What a user does on the settings page: enters a text for the setting of that id, which gives the text that stood
+    // there; applies all entries, which gives the reason when that failed.
+    function enterSetting(id, text) {
+        return settingsPage.enter(id, text)
+    }
+    function applySettings() {
+        return settingsPage.apply()
     }
 
     width: 1024
@@ -84,6 +93,10 @@ ApplicationWindow {
             measurement: window.measurement
             saver: window.saver
         }
+        SettingsPage {
+            id: settingsPage
+            measurement: window.measurement
+        }
     }
 
     footer: TabBar {
@@ -93,9 +106,14 @@ ApplicationWindow {
         NavigationTab { text: qsTr("Measure") }
         NavigationTab { text: qsTr("Results") }
         NavigationTab { text: qsTr("Report") }
+        NavigationTab {
+            text: qsTr("Settings")
+            marked: settingsPage.changed > 0
+        }
     }
 
     Shortcut { sequence: "Ctrl+1"; onActivated: navigation.currentIndex = 0 }
     Shortcut { sequence: "Ctrl+2"; onActivated: navigation.currentIndex = 1 }
     Shortcut { sequence: "Ctrl+3"; onActivated: navigation.currentIndex = 2 }
+    Shortcut { sequence: "Ctrl+4"; onActivated: navigation.currentIndex = 3 }
 }

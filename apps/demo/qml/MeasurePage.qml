@@ -20,7 +20,7 @@ FocusScope {
                 Layout.fillHeight: true
                 Layout.preferredWidth: 1
                 quantity: page.measurement.roundTrip
-                slots: Math.max(page.measurement.samples, quantity.count)
+                slots: Math.max(page.measurement.roundTripSamples, quantity.count)
                 steps: [0.01, 0.02, 0.05, 0.1, 0.2, 0.5, 1, 2, 5, 10, 20, 50]
             }
             QuantityCard {
@@ -28,7 +28,7 @@ FocusScope {
                 Layout.fillHeight: true
                 Layout.preferredWidth: 1
                 quantity: page.measurement.throughput
-                slots: Math.max(page.measurement.samples, quantity.count)
+                slots: Math.max(page.measurement.throughputSamples, quantity.count)
                 steps: [50, 100, 200, 500, 1000, 2000, 5000, 10000, 20000, 50000, 100000]
             }
         }

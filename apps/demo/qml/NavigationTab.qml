@@ -5,11 +5,15 @@ import UiUtils.Demo 1.0
 TabButton {
     id: control
 
+    // Something on the page is not done yet.
+    property bool marked: false
+
     implicitHeight: 60
     font { pixelSize: Theme.headingText; bold: checked }
-    Accessible.name: text
+    Accessible.name: marked ? qsTr("%1, with changes that are not applied").arg(text) : text
 
     contentItem: Text {
+        id: label
         text: control.text
         font: control.font
         color: control.checked ? Theme.primary : Theme.mutedText
@@ -23,6 +27,11 @@ TabButton {
             width: parent.width
             height: 4
             color: control.checked ? Theme.primary : Theme.border
+        }
+        ChangeMark {
+            anchors { horizontalCenter: parent.horizontalCenter; horizontalCenterOffset: label.implicitWidth / 2 + 16 }
+            anchors.verticalCenter: parent.verticalCenter
+            visible: control.marked
         }
         Rectangle {
             anchors { fill: parent; margins: 6 }

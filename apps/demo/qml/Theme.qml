@@ -5,6 +5,8 @@ import QtQuick 2.15
 QtObject {
     readonly property color background: "#edf2f5"
     readonly property color card: "#ffffff"
+    // Of what is entered and not applied yet.
+    readonly property color changedCard: "#fff4e0"
     readonly property color border: "#cfdae2"
     readonly property color text: "#14283a"
     readonly property color mutedText: "#56656f"

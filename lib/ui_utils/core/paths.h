@@ -13,6 +13,8 @@ inline const QLatin1String passIcon("/base/qml/common/images/pass_icon.png");
 inline const QLatin1String marginalIcon("/base/qml/common/images/marginal_icon.png");
 inline const QLatin1String failIcon("/base/qml/common/images/fail_icon.png");
 inline const QLatin1String logo("/base/qml/common/images/Norda_Color-medium.png");
+/// Folder in which the services keep the settings that users change.
+inline const QLatin1String serviceSettings("/cust/private/lastconfigs/services/");
 /// Start of the name of a temporary plot image; number and ".png" follow.
 inline const QLatin1String plotImageStem("/tmp/rep_plot_");
 

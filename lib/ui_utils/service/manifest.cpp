@@ -31,6 +31,22 @@ QString batchName(QString name)
     return name;
 }
 
+/// The JSON text with everything beyond ASCII escaped: services differ in whether they take the argument for text or for
+/// the bytes of its UTF-8, and so it reads the same either way.
+QString plainJson(const QVariantMap& values)
+{
+    const QString json = QString::fromUtf8(QJsonDocument(QJsonObject::fromVariantMap(values)).toJson());
+    QString plain;
+    plain.reserve(json.size());
+    for (const QChar unit : json) {
+        if (unit.unicode() < 0x80)
+            plain += unit;
+        else
+            plain += QStringLiteral("\\u%1").arg(int(unit.unicode()), 4, 16, QLatin1Char('0'));
+    }
+    return plain;
+}
+
 } // namespace
 
 Manifest::Manifest(KIVClientInterface* client, QString const& qmlTag, QString const& name, QObject* parent)
@@ -120,14 +136,15 @@ void Manifest::applyChanges()
         senders.append(wrapper);
     }
 
-    const QByteArray json = QJsonDocument(QJsonObject::fromVariantMap(changes)).toJson();
-    if (!m_client || send(actionId(itemids::applyConfig), QString::fromLatin1(json.constData())))
+    if (!m_client || send(actionId(itemids::applyConfig), plainJson(changes)))
         return;
+    // Of this service, which answered for the settings of the others too.
+    const QString error = m_client ? m_client->getLastError() : QString();
     for (const QPointer<KivData>& wrapper : qAsConst(senders)) {
         if (!wrapper)
             continue;
         wrapper->m_sent = false;
-        wrapper->checkAppError();
+        wrapper->refuse(error);
     }
 }
 

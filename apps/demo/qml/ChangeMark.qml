@@ -1,0 +1,10 @@
+import QtQuick 2.15
+import UiUtils.Demo 1.0
+
+// Stands beside what is entered and not applied yet.
+Rectangle {
+    implicitWidth: 12
+    implicitHeight: 12
+    radius: 6
+    color: Theme.focus
+}
