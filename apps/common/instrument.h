@@ -32,7 +32,12 @@ public:
 
 private:
     QVector<Manifest*> m_manifests;
-    QQmlPropertyMap m_byName;
+    /// Pages may read the services and not replace them.
+    class Services final : public QQmlPropertyMap
+    {
+        QVariant updateValue(const QString& key, const QVariant&) override { return value(key); }
+    };
+    Services m_byName;
 };
 
 } // namespace uiutils::apps

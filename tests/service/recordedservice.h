@@ -8,6 +8,7 @@
 #include <QMap>
 #include <QVector>
 
+#include <functional>
 #include <memory>
 
 /// A service of which a test knows every call, and which reports nothing unless the test says so.
@@ -127,7 +128,12 @@ public:
         return true;
     }
     KIVClientItem* getItem(const QString& id) const override { return items.value(id); }
-    bool setItem(const QString& id, const QVariant& value) override { return record({"set", id, value, 0, false}); }
+    bool setItem(const QString& id, const QVariant& value) override
+    {
+        if (onSet)
+            onSet(value);
+        return record({"set", id, value, 0, false});
+    }
     bool sendAction(const QString& id, const QString& argument, QString* reply, int timeout) override
     {
         if (reply)
@@ -159,6 +165,8 @@ public:
     }
 
     QVector<Call> calls;
+    /// What the service does before it answers.
+    std::function<void(const QVariant&)> onSet;
     /// Refuses every call with this text while it is not empty.
     QString refusal;
     QMap<QString, KIVClientItem*> items;

@@ -16,6 +16,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -98,8 +99,7 @@ private Q_SLOTS:
         write.evaluate();
         QCOMPARE(errors.size(), 1);
         QCOMPARE(errors.first().at(1), QVariant("low is over high"));
-        QQmlExpression wrong(engine.rootContext(), nullptr, "t_cfg_limits.value.low = 'no number'");
-        wrong.evaluate();
+        static_cast<KivAggregateData*>(Manifest::getKivData(limitsId))->updateAggregateProperty("none", 1);
         QCOMPARE(errors.size(), 2);
         QCOMPARE(m_client->calls.size(), 2);
     }
@@ -154,6 +154,69 @@ private Q_SLOTS:
         QCOMPARE(model(), same);
         QCOMPARE(model()->rowCount(), 0);
         QCOMPARE(model()->roleNames().size(), 2);
+    }
+
+    void numbersThatHardlyDiffer()
+    {
+        m_limits->aggregate = limits(1690000000000.0, 2);
+        Q_EMIT m_limits->valueChanged();
+        m_limits->aggregate = limits(1690000000001.0, 2);
+        Q_EMIT m_limits->valueChanged();
+        QCOMPARE(map()->value("low").toDouble() - 1690000000000.0, 1.0);
+    }
+
+    /// Whoever hears of one member may let the service report a whole new record or table.
+    void reportsWithinReports()
+    {
+        QQmlEngine engine;
+        Manifest::setQmlContext(engine.rootContext());
+        QQmlExpression watch(engine.rootContext(), nullptr, "t_cfg_limits.value.low");
+        watch.setNotifyOnValueChanged(true);
+        watch.evaluate();
+        bool isFirst = true;
+        connect(&watch, &QQmlExpression::valueChanged, this, [&] {
+            if (!std::exchange(isFirst, false))
+                return;
+            m_limits->aggregate = limits(30, 30);
+            Q_EMIT m_limits->valueChanged();
+        });
+        m_limits->aggregate = limits(20, 20);
+        Q_EMIT m_limits->valueChanged();
+        QCOMPARE(map()->value("low"), QVariant(30.0));
+        QCOMPARE(map()->value("high"), QVariant(30.0));
+
+        connect(model(), &QAbstractItemModel::modelAboutToBeReset, this, [&] { m_events->list = events(5); });
+        m_events->list = events(4);
+        Q_EMIT m_events->valueChanged();
+        QCOMPARE(model()->rowCount(), 5);
+    }
+
+    void aTableThatReturnsWithOtherMembers()
+    {
+        QSignalSpy changes(Manifest::getKivData(eventsId), &KivData::valueChanged);
+        m_client->remove(eventsId);
+        m_client->add<RecordedList>(eventsId)->list = KivListAggregate({"loss"}, {{0.5}});
+        Q_EMIT m_client->itemsChanged();
+        QCOMPARE(model()->roleNames().values(), QList<QByteArray> {"loss"});
+        QCOMPARE(model()->data(model()->index(0), 257), QVariant(0.5));
+        QCOMPARE(changes.size(), 2);
+    }
+
+    /// A write within a write, and then the end of everything.
+    void nestedWrites()
+    {
+        QQmlEngine engine;
+        Manifest::setQmlContext(engine.rootContext());
+        int depth = 0;
+        const QPointer<KivData> record = Manifest::getKivData(limitsId);
+        connect(record, &KivData::valueChanged, this, [&] {
+            if (++depth == 1)
+                QQmlExpression(engine.rootContext(), nullptr, "t_cfg_limits.value.high = 8").evaluate();
+            else
+                m_manifest.reset();
+        });
+        QQmlExpression(engine.rootContext(), nullptr, "t_cfg_limits.value.low = 7").evaluate();
+        QVERIFY(!record);
     }
 
     void slotsMayDeleteTheWrapper()

@@ -155,6 +155,43 @@ private Q_SLOTS:
         QVERIFY(!withoutClient.getValue().isValid());
     }
 
+    /// The service's own report is the last word, and a handler that settles ends.
+    void writesThatAreAnsweredOrRepeated()
+    {
+        KivData* speed = wrapper(speedId);
+        m_client->onSet = [this](const QVariant&) {
+            m_speed->state->value = 50;
+            Q_EMIT m_speed->valueChanged();
+        };
+        SignalLog log(speed);
+        speed->setValue(99);
+        QCOMPARE(speed->getValue(), QVariant(50));
+        QCOMPARE(log.take(), QStringList {"value"});
+        m_client->onSet = nullptr;
+
+        speed->setValue("42");
+        QCOMPARE(speed->getValue(), QVariant(42));
+        QCOMPARE(speed->getValue().type(), QVariant::Int);
+        speed->setValue(1.5);
+        QCOMPARE(speed->getValue(), QVariant(1.5));
+
+        connect(speed, &KivData::valueChanged, this, [speed] { speed->setValue(qMin(speed->getValue().toInt(), 7)); });
+        speed->setValue(1000);
+        QCOMPARE(speed->getValue(), QVariant(7));
+    }
+
+    void aRefusedApplyCanBeTakenBack()
+    {
+        KivData* speed = wrapper(speedId);
+        m_manifest->startChanges();
+        speed->setValue(50);
+        m_client->refusal = "too fast";
+        speed->apply();
+        QCOMPARE(speed->getError(), QString("too fast"));
+        speed->revert();
+        QCOMPARE(speed->getValue(), QVariant(10));
+    }
+
     void choices()
     {
         KivData* mode = wrapper(modeId);
@@ -162,6 +199,11 @@ private Q_SLOTS:
         mode->setValue(2);
         QCOMPARE(log.take(), QStringList {"error mode: Invalid enum value 2"});
         QVERIFY(m_client->calls.isEmpty());
+        for (const QVariant& odd : {QVariant("fast"), QVariant(), QVariant(7.4), QVariant(4294967297.0), QVariant(qQNaN())}) {
+            mode->setValue(odd);
+            QCOMPARE(log.take().size(), 1);
+            QCOMPARE(mode->getValue(), QVariant(1));
+        }
         mode->setValue(7.0);
         QCOMPARE(log.take(), QStringList {"value"});
 
@@ -255,11 +297,17 @@ private Q_SLOTS:
         KivData* start = wrapper(startId);
         start->invoke();
         QCOMPARE(start->invokeWithStringArg("now"), QString("done now"));
+        SignalLog log(start);
         QCOMPARE(m_client->calls.size(), 2);
         QCOMPARE(m_client->calls.at(0).what, QString("invoke"));
         QCOMPARE(m_client->calls.at(1).id, startId);
         QCOMPARE(m_client->calls.at(1).timeout, 500);
         QVERIFY(m_client->calls.at(1).wantsReply);
+        QVERIFY(log.take().isEmpty());
+        m_client->refusal = "no lamp";
+        start->invoke();
+        start->invokeWithStringArg("now");
+        QCOMPARE(log.take(), (QStringList {"error start: no lamp", "error start: no lamp"}));
         m_client.reset();
         start->invoke();
         QCOMPARE(start->invokeWithStringArg("now"), QString());
@@ -305,6 +353,16 @@ private Q_SLOTS:
         QCOMPARE(sameItem->getArraySelection(), 1);
         sameItem->setArraySelection(0);
         QCOMPARE(log.take(), QStringList {"selection"});
+
+        // What is selected may change with the array.
+        hosts->setArraySelection(1);
+        log.take();
+        auto* item = static_cast<RecordedItem<KIVClientItem>*>(m_client->getItem(hostsId));
+        item->state->value = QStringList {"a", "c"};
+        Q_EMIT item->valueChanged();
+        QCOMPARE(log.take(), (QStringList {"valueCount", "selection", "value"}));
+        Q_EMIT item->valueChanged();
+        QCOMPARE(log.take(), (QStringList {"valueCount", "value"}));
     }
 
     void texts()
@@ -352,8 +410,10 @@ private Q_SLOTS:
         m_speed->state->quality = 16;
         SignalLog log(speed);
         m_client->remove(speedId);
-        const QStringList everything {"units", "quality", "enumCount", "applicable", "ready", "value"};
+        const QStringList everything {"units", "quality", "enumCount", "applicable", "ready", "precision", "value"};
         QCOMPARE(log.take(), everything);
+        Q_EMIT m_client->itemsChanged();
+        QVERIFY(log.take().isEmpty());
         QVERIFY(!speed->isReady());
         QCOMPARE(speed->getQualityCode(), 0);
         QCOMPARE(speed->getValue(), QVariant(10));
@@ -369,6 +429,26 @@ private Q_SLOTS:
         again->state->value = 78;
         Q_EMIT again->valueChanged();
         QCOMPARE(speed->getValue(), QVariant(78));
+    }
+
+    /// Entry fields hold the validator, so it is the same one.
+    void otherLimitsAfterTheReturn()
+    {
+        KivData* speed = wrapper(speedId);
+        const QPointer<QValidator> validator = speed->getValidator();
+        m_client->remove(speedId);
+        QCOMPARE(speed->getValidator(), validator);
+        auto* again = m_client->add(speedId, 77);
+        again->state->type = "int";
+        again->state->attributes = {{"minRange", 0}, {"maxRange", 100}};
+        Q_EMIT m_client->itemsChanged();
+        QCOMPARE(speed->getValidator(), validator);
+        QCOMPARE(static_cast<QIntValidator*>(speed->getValidator())->top(), 100);
+        m_client->remove(speedId);
+        m_client->add(speedId, "text");
+        Q_EMIT m_client->itemsChanged();
+        QVERIFY(qobject_cast<ForgivingValidator*>(speed->getValidator()));
+        QVERIFY(validator);
     }
 
     void aPendingChangeOutlivesTheService()

@@ -2,6 +2,8 @@
 
 #include <private/qmetaobject_p.h>
 #include <private/qobject_p.h>
+#include <private/qqmldata_p.h>
+#include <private/qqmlpropertycache_p.h>
 
 #include <cstring>
 #include <vector>
@@ -11,8 +13,7 @@ namespace uiutils {
 /// The tables that the meta-object compiler would write for such a class. QMetaObjectBuilder writes them too, but looks
 /// each property's type up by its name, more than once, and so takes several times as long.
 ///
-/// A meta-object that is marked as dynamic, so that QML does not keep what it learnt of it longer than it lives, has to be
-/// one that can be asked for further properties.
+/// A meta-object that is marked as dynamic has to be one that can be asked for further properties.
 class DynamicObject::Layout final : public QAbstractDynamicMetaObject
 {
 public:
@@ -73,6 +74,10 @@ DynamicObject::DynamicObject(const char* className, const QVector<QByteArray>& n
     : QObject(parent)
     , m_layout(std::make_unique<Layout>(className, names, type))
 {
+    // QML keeps what it learns of a meta-object under its address, for ever. What is learnt of this one must go with it,
+    // because another one may lie at its address later.
+    QQmlData* data = QQmlData::get(this, true);
+    data->propertyCache = new QQmlPropertyCache(m_layout.get());
 }
 
 DynamicObject::~DynamicObject() = default;

@@ -1,5 +1,7 @@
 #include "core/userdata.h"
 
+#include "core/plainvalue_p.h"
+
 UserData* UserData::m_singleton = nullptr;
 
 UserData* UserData::getInstance()
@@ -11,11 +13,10 @@ UserData* UserData::getInstance()
 
 void UserData::setData(const QString& key, const QVariant& value)
 {
+    const QVariant plain = uiutils::plainValue(value);
     QVariant& kept = m_values[key];
-    if (kept == value && kept.isValid() == value.isValid())
+    if (uiutils::isSameValue(kept, plain))
         return;
-    kept = value;
-    // A copy, because a slot may set another key and move the table.
-    const QVariant announced = value;
-    Q_EMIT signalDataChanged(key, announced);
+    kept = plain;
+    Q_EMIT signalDataChanged(key, plain);
 }

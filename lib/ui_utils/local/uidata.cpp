@@ -1,5 +1,6 @@
 #include "local/uidata.h"
 
+#include "core/plainvalue_p.h"
 #include "local/uidatacontainer.h"
 #include "service/valuetext_p.h"
 

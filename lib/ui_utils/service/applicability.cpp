@@ -20,21 +20,12 @@ struct Token
     QString text;
 };
 
-/// The expression over the names under which QML knows the items.
-QString withItemNames(QString expression, const QString& tag)
-{
-    expression.replace(QLatin1String(".cfg."), QLatin1String("_cfg_"));
-    expression.replace(QLatin1String(".res."), QLatin1String("_res_"));
-    expression.replace(QLatin1String("cfg."), tag + QLatin1String("_cfg_"));
-    expression.replace(QLatin1String("res."), tag + QLatin1String("_res_"));
-    return expression;
-}
-
 std::optional<QVector<Token>> tokens(const QString& expression, QString* problem)
 {
     static const QRegularExpression token(QStringLiteral(
             R"(\s*(?:([A-Za-z_$][\w$]*))"
-            R"(|((?:0[xX][0-9A-Fa-f]+|(?:\d+\.?\d*|\.\d+)(?:[eE][+-]?\d+)?)(?![\w$.])|"(?:[^"\\\n]|\\.)*"|'(?:[^'\\\n]|\\.)*'))"
+            R"(|((?:0[xX][0-9A-Fa-f]+|(?:(?:0|[1-9]\d*)(?:\.\d*)?|\.\d+)(?:[eE][+-]?\d+)?)(?![\w$.]))"
+            R"(|"(?:[^"\\\p{Cc}\x{2028}\x{2029}]|\\[\\'"nt])*"|'(?:[^'\\\p{Cc}\x{2028}\x{2029}]|\\[\\'"nt])*'))"
             R"(|(===|!==|==|!=|<=|>=|&&|\|\||<<|>>>|>>|\+(?!\+)|-(?!-)|[*/%<>!~&|^?:.,()\[\]])))"));
 
     QVector<Token> list;
@@ -55,6 +46,12 @@ std::optional<QVector<Token>> tokens(const QString& expression, QString* problem
     return list;
 }
 
+bool isKind(const QString& word)
+{
+    return word == QLatin1String("cfg") || word == QLatin1String("res");
+}
+
+/// A name as QML knows it, written out by the service itself.
 bool isItemName(const QString& name)
 {
     static const QRegularExpression itemName(QStringLiteral("_(cfg|res|act)_."));
@@ -68,6 +65,8 @@ bool isLiteralName(const QString& name)
     return names.contains(name);
 }
 
+/// All but the objects and `applicable`: items that asked each other for theirs would ask in circles, or so often that the
+/// screen stands still.
 bool isProperty(const QString& name)
 {
     static const QSet<QString> names {QStringLiteral("id"), QStringLiteral("name"), QStringLiteral("type"),
@@ -76,7 +75,7 @@ bool isProperty(const QString& name)
             QStringLiteral("qualityCode"), QStringLiteral("error"), QStringLiteral("valueString"),
             QStringLiteral("valueStringNoUnits"), QStringLiteral("unitString"), QStringLiteral("arraySelection"),
             QStringLiteral("arraySelectionString"), QStringLiteral("enumCount"), QStringLiteral("valueCount"),
-            QStringLiteral("applicable"), QStringLiteral("minRange"), QStringLiteral("maxRange"),
+            QStringLiteral("minRange"), QStringLiteral("maxRange"),
             QStringLiteral("rangeDescription")};
     return names.contains(name);
 }
@@ -94,8 +93,9 @@ bool isAccessor(const QString& name)
 class Translator
 {
 public:
-    explicit Translator(const QVector<Token>& tokens)
+    Translator(const QVector<Token>& tokens, const QString& tag)
         : m_tokens(tokens)
+        , m_tag(tag)
     {
     }
 
@@ -125,9 +125,16 @@ private:
             takeOperand();
     }
 
+    /// An item is written as "cfg.mode", "module.cfg.mode" or by the name that QML knows it by.
     void translateName(const QString& name)
     {
-        if (isItemName(name)) {
+        if (++m_names > mostNames) {
+            m_problem = QStringLiteral("the expression has more than %1 names").arg(mostNames);
+        } else if (isKind(name) && isName(m_at + 2) && isOperator(m_at + 1, '.')) {
+            takeItem(m_tag, name, 3);
+        } else if (isKind(nameAt(m_at + 2)) && isOperator(m_at + 1, '.') && isOperator(m_at + 3, '.') && isName(m_at + 4)) {
+            takeItem(name, nameAt(m_at + 2), 5);
+        } else if (isItemName(name)) {
             takeOperand();
             translateMember();
         } else if (isLiteralName(name)) {
@@ -137,6 +144,18 @@ private:
         }
     }
 
+    /// `count` tokens that name the item, its own name the last.
+    void takeItem(const QString& tag, const QString& kind, int count)
+    {
+        static const QRegularExpression identifier(QStringLiteral("^[A-Za-z_$][\\w$]*$"));
+        if (!identifier.match(tag).hasMatch())
+            return refuse(tag);
+        m_result += tag + QLatin1Char('_') + kind + QLatin1Char('_') + nameAt(m_at + count - 1);
+        m_at += count;
+        m_wantsOperand = false;
+        translateMember();
+    }
+
     /// Behind an item's name: a property, perhaps members of its value, or an accessor; else the value is meant.
     void translateMember()
     {
@@ -144,13 +163,13 @@ private:
             m_result += QLatin1String(".value");
             return;
         }
-        const QString member = m_at + 1 < m_tokens.size() ? m_tokens.at(m_at + 1).text : QString();
+        const QString member = nameAt(m_at + 1);
         if (isAccessor(member) && isOperator(m_at + 2, '(')) {
             take(3);
             open(Call);
         } else if (isProperty(member)) {
             take(2);
-            while (isOperator(m_at, '.') && m_at + 1 < m_tokens.size() && m_tokens.at(m_at + 1).kind == Token::Name)
+            while (isOperator(m_at, '.') && isName(m_at + 1))
                 take(2);
         } else {
             refuse(member);
@@ -236,6 +255,9 @@ private:
         m_wantsOperand = isCondition;
     }
 
+    bool isName(int at) const { return at < m_tokens.size() && m_tokens.at(at).kind == Token::Name; }
+    QString nameAt(int at) const { return isName(at) ? m_tokens.at(at).text : QString(); }
+
     bool isNumber(int at) const
     {
         return at < m_tokens.size() && m_tokens.at(at).kind == Token::Literal && m_tokens.at(at).text.at(0).isDigit();
@@ -265,7 +287,12 @@ private:
 
     void refuse(const QString& text) { m_problem = QStringLiteral("\"%1\" is not allowed here").arg(text); }
 
+    /// Far more than anybody compares; each may be a long text that is copied.
+    static constexpr int mostNames = 64;
+
     const QVector<Token>& m_tokens;
+    const QString m_tag;
+    int m_names = 0;
     int m_at = 0;
     bool m_wantsOperand = true;
     QVector<Opened> m_open;
@@ -283,10 +310,10 @@ std::optional<QString> translatedApplicability(const QString& expression, const 
         *problem = QStringLiteral("the expression is longer than %1 characters").arg(longest);
         return std::nullopt;
     }
-    const std::optional<QVector<Token>> list = tokens(withItemNames(expression, tag), problem);
+    const std::optional<QVector<Token>> list = tokens(expression, problem);
     if (!list)
         return std::nullopt;
-    return Translator(*list).run(problem);
+    return Translator(*list, tag).run(problem);
 }
 
 } // namespace uiutils

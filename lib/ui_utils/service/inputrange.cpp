@@ -33,13 +33,21 @@ const LengthTexts charTexts {QT_TRANSLATE_NOOP("KivData", "%1 max chars"), QT_TR
 const LengthTexts digitTexts {QT_TRANSLATE_NOOP("KivData", "%1 max digits"), QT_TRANSLATE_NOOP("KivData", "%1 digits"),
         QT_TRANSLATE_NOOP("KivData", "%1 - %2 digits")};
 
+/// Never with an exponent, which no user would type.
+QString limitText(const QVariant& limit)
+{
+    if (limit.type() == QVariant::Double)
+        return QString::number(limit.toDouble(), 'f', QLocale::FloatingPointShortest);
+    return limit.toString();
+}
+
 class Describer
 {
 public:
     explicit Describer(const InputRange& range)
         : m_range(range)
-        , m_minimum(range.minimum.toString())
-        , m_maximum(range.maximum.toString())
+        , m_minimum(limitText(range.minimum))
+        , m_maximum(limitText(range.maximum))
         , m_units(range.formatter ? range.formatter->getUnitString() : QString())
     {
     }

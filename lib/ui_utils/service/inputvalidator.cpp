@@ -90,18 +90,38 @@ QRegularExpression inputExpression(const QString& pattern)
     return QRegularExpression(QStringLiteral(".*"), QRegularExpression::DotMatchesEverythingOption);
 }
 
+bool applyRule(const InputRule& rule, QValidator* validator)
+{
+    auto* text = qobject_cast<ForgivingValidator*>(validator);
+    auto* real = qobject_cast<QDoubleValidator*>(validator);
+    auto* whole = qobject_cast<QIntValidator*>(validator);
+    const bool isText = rule.type == QLatin1String("std::string");
+    const bool isReal = rule.type == QLatin1String("double");
+    if (isText && text) {
+        text->setRegularExpression(inputExpression(rule.regex));
+    } else if (isReal && real) {
+        constexpr unsigned mostDecimals = std::numeric_limits<int>::max();
+        real->setRange(realLimit(rule.minimum), realLimit(rule.maximum), int(qMin(rule.precision, mostDecimals)));
+        real->setNotation(QDoubleValidator::StandardNotation);
+    } else if (!isText && !isReal && whole) {
+        whole->setRange(wholeLimit(rule.minimum), wholeLimit(rule.maximum));
+    } else {
+        return false;
+    }
+    return true;
+}
+
 QValidator* createValidator(const InputRule& rule, QObject* parent)
 {
+    QValidator* validator = nullptr;
     if (rule.type == QLatin1String("std::string"))
-        return new ForgivingValidator(inputExpression(rule.regex), parent);
-    if (rule.type == QLatin1String("double")) {
-        constexpr unsigned mostDecimals = std::numeric_limits<int>::max();
-        auto* validator = new QDoubleValidator(realLimit(rule.minimum), realLimit(rule.maximum),
-                int(qMin(rule.precision, mostDecimals)), parent);
-        validator->setNotation(QDoubleValidator::StandardNotation);
-        return validator;
-    }
-    return new QIntValidator(wholeLimit(rule.minimum), wholeLimit(rule.maximum), parent);
+        validator = new ForgivingValidator(parent);
+    else if (rule.type == QLatin1String("double"))
+        validator = new QDoubleValidator(parent);
+    else
+        validator = new QIntValidator(parent);
+    applyRule(rule, validator);
+    return validator;
 }
 
 } // namespace uiutils

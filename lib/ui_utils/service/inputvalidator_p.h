@@ -26,6 +26,9 @@ struct InputRule
 /// QIntValidator. The parent owns it.
 QValidator* createValidator(const InputRule& rule, QObject* parent);
 
+/// Makes `validator` hold entries to `rule`. Returns false, and changes nothing, when the rule takes one of another kind.
+bool applyRule(const InputRule& rule, QValidator* validator);
+
 /// The expression for `pattern`. One that PCRE2 refuses for a hyphen behind a class escape ("[\d-.]") is read as its
 /// author meant it; one that cannot be repaired accepts everything and is logged once.
 QRegularExpression inputExpression(const QString& pattern);

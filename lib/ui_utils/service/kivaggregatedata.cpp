@@ -1,5 +1,6 @@
 #include "service/kivaggregatedata.h"
 
+#include "core/plainvalue_p.h"
 #include "service/qmlaggregate.h"
 
 #include <kiv/kivaggregateclientitem.h>
@@ -37,12 +38,21 @@ void KivAggregateData::updateQmlMapFromItem()
     if (!source)
         return;
     const KivAggregate aggregate = source->getAggregate();
+    const QPointer<KivAggregateData> self(this);
     const QPointer<QMLAggregate> map = m_map;
+    const unsigned fill = ++m_fills;
     const QList<QByteArray> names = aggregate.getPropertyNames();
     for (const QByteArray& name : names) {
-        // A slot on the keys may delete the wrapper, and the map with it.
-        if (map)
-            map->insert(QString::fromUtf8(name), aggregate.getPropertyVariant(name));
+        // A slot on a key may delete the wrapper, and the map with it, or let the service report anew.
+        if (!self || fill != m_fills)
+            return;
+        const QString key = QString::fromUtf8(name);
+        const QVariant value = aggregate.getPropertyVariant(name);
+        // The map takes numbers that hardly differ for the same.
+        if (map->value(key) == value && !uiutils::isSameValue(map->value(key), value))
+            map->insert(key, QVariant());
+        if (self && fill == m_fills)
+            map->insert(key, value);
     }
 }
 
@@ -52,10 +62,10 @@ void KivAggregateData::updateAggregateProperty(QString const& key, QVariant valu
     const QPointer<KivAggregateData> self(this);
     if (source && getClient() && !isReadOnly()) {
         KivAggregate aggregate = source->getAggregate();
-        if (aggregate.setPropertyFromVariant(key.toUtf8(), value))
+        if (aggregate.setPropertyFromVariant(key.toUtf8(), uiutils::plainValue(value)))
             writeValue(aggregate.toVariant());
         else
-            refuse(tr("%1 does not take this value: %2").arg(key, value.toString().left(100)));
+            refuse(tr("%1 has no member %2.").arg(getLabel().isEmpty() ? getName() : getLabel(), key));
     }
     if (self)
         Q_EMIT valueChanged();

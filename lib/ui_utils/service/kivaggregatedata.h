@@ -28,4 +28,6 @@ private:
     KivAggregateClientItem* aggregateItem() const;
 
     QPointer<QMLAggregate> m_map;
+    /// Counts the fillings of the map.
+    unsigned m_fills = 0;
 };

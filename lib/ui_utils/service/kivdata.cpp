@@ -1,6 +1,7 @@
 #include "service/kivdata.h"
 
 #include "core/itemids.h"
+#include "core/plainvalue_p.h"
 #include "core/userdata.h"
 #include "service/applicability_p.h"
 #include "service/enumnames_p.h"
@@ -9,6 +10,7 @@
 #include "service/manifest.h"
 #include "service/valuetext_p.h"
 
+#include <kiv/kivaggregateclientitem.h>
 #include <kiv/kivenumclientitem.h>
 #include <kiv/kivvecclientitem.h>
 
@@ -59,6 +61,7 @@ KivData::~KivData()
 
 void KivData::connectItem()
 {
+    m_isBound = true;
     connect(m_item, &KIVClientItem::valueChanged, this, &KivData::slotValueChanged);
     connect(m_item, &KIVClientItem::unitsChanged, this, &KivData::slotUnitsChanged);
     connect(m_item, &KIVClientItem::isReadyChanged, this, &KivData::slotIsReadyChanged);
@@ -73,13 +76,15 @@ void KivData::bindItem(KIVClientItem* item)
     if (m_item)
         m_item->disconnect(this);
     m_item = item;
+    m_isBound = false;
     delete m_expression;
     m_expression = nullptr;
     m_isExpressionRefused = false;
-    if (item && !m_formatter)
+    if (item) {
         createFormatter();
-    if (item)
+        updateValidator();
         connectItem();
+    }
     announceItem();
 }
 
@@ -97,11 +102,14 @@ void KivData::announceItem()
         slotApplicChanged();
     if (stillHere())
         Q_EMIT isReadyChanged();
+    if (stillHere())
+        Q_EMIT precisionChanged();
     if (!stillHere())
         return;
-    if (m_item && !m_changed)
+    const bool isTable = qobject_cast<KivListAggregateClientItem*>(m_item);
+    if (m_item && !isPending())
         slotValueChanged();
-    else
+    if (stillHere() && (!m_item || isPending() || isTable))
         Q_EMIT valueChanged();
 }
 
@@ -201,16 +209,22 @@ QValidator* KivData::getValidator() const
 
 QValidator* KivData::currentValidator() const
 {
-    if (!m_validator) {
-        uiutils::InputRule rule;
-        rule.type = getType();
-        rule.regex = getRegex();
-        rule.minimum = getMinRange();
-        rule.maximum = getMaxRange();
-        rule.precision = getPrecision();
-        m_validator = uiutils::createValidator(rule, const_cast<KivData*>(this));
-    }
+    if (!m_validator)
+        m_validator = uiutils::createValidator(inputRule(), const_cast<KivData*>(this));
     return m_validator;
+}
+
+uiutils::InputRule KivData::inputRule() const
+{
+    return {getType(), getRegex(), getMinRange(), getMaxRange(), getPrecision()};
+}
+
+/// Entry fields hold the validator as long as the wrapper lives, so it takes the new rule over. One of another kind stays
+/// beside its successor.
+void KivData::updateValidator()
+{
+    if (m_validator && !uiutils::applyRule(inputRule(), m_validator))
+        m_validator = nullptr;
 }
 
 void KivData::renewValidator()
@@ -235,6 +249,9 @@ void KivData::createFormatter()
     const QString name = getAttr(QStringLiteral("formatter")).toString();
     if (name.isEmpty() || !getAttr(QStringLiteral("enum")).toString().isEmpty())
         return;
+    // QML may still hold the one of another name, which stays as long as the wrapper.
+    if (m_formatter && m_formatter->objectName() != name)
+        m_formatter = nullptr;
     adoptFormatter(name);
     const QVariant precision = getAttr(QStringLiteral("precision"));
     if (m_formatter && !precision.isNull())
@@ -249,6 +266,7 @@ void KivData::adoptFormatter(const QString& name)
     if (!m_formatter)
         return;
     m_formatter->setParent(this);
+    m_formatter->setObjectName(name);
     m_formatter->setValue(m_value);
 }
 
@@ -316,7 +334,9 @@ void KivData::setValue(QVariant value)
         return;
     value = uiutils::plainValue(value);
     const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
-    if (choices && !choices->contains(value.toInt())) {
+    const bool isWhole = uiutils::fittedValue(value, QMetaType::Int).userType() == QMetaType::Int
+            || uiutils::fittedValue(value, QMetaType::UInt).userType() == QMetaType::UInt;
+    if (choices && !(isWhole && choices->contains(value.toInt()))) {
         refuse(QStringLiteral("Invalid enum value %1").arg(value.toInt()));
         return;
     }
@@ -325,6 +345,10 @@ void KivData::setValue(QVariant value)
 
 void KivData::writeValue(QVariant value)
 {
+    // Of the type that the service reports, so that a page finds a number where it wrote the text of one.
+    value = uiutils::fittedValue(value, m_value.userType());
+    if (m_isAnnouncing && uiutils::isSameValue(value, m_value))
+        return;
     const Manifest* owner = manifest();
     if (owner && owner->isChanging()) {
         m_changed = true;
@@ -335,13 +359,14 @@ void KivData::writeValue(QVariant value)
     }
     const QPointer<KivData> self(this);
     KIVClientInterface* client = getClient();
+    const unsigned reports = m_reports;
     const bool isTaken = client && client->setItem(getId(), value);
     if (!self)
         return;
-    if (isTaken)
-        setValueInternal(value);
-    else
+    if (!isTaken)
         checkAppError();
+    else if (m_reports == reports)
+        setValueInternal(value);
 }
 
 void KivData::holdValue(const QVariant& value)
@@ -359,35 +384,68 @@ void KivData::setValueInternal(QVariant& value)
 
 void KivData::announceValue()
 {
+    const QPointer<KivData> self(this);
+    const bool wasAnnouncing = m_isAnnouncing;
+    m_isAnnouncing = true;
     if (qobject_cast<KIVVecClientItem*>(m_item)) {
-        const QPointer<KivData> self(this);
         Q_EMIT valueCountChanged();
         if (!self)
             return;
+        announceSelection();
     }
-    Q_EMIT valueChanged();
+    if (self)
+        Q_EMIT valueChanged();
+    if (self)
+        m_isAnnouncing = wasAnnouncing;
+}
+
+void KivData::announceSelection()
+{
+    if (!m_followsUserData)
+        return;
+    const int selection = getArraySelection();
+    const QString text = getArraySelectionString();
+    if (selection == m_selection && text == m_selectionText)
+        return;
+    m_selection = selection;
+    m_selectionText = text;
+    Q_EMIT arraySelectionChanged();
 }
 
 void KivData::apply()
 {
     if (!m_changed)
         return;
+    const bool wasPending = isPending();
     m_changed = false;
+    m_sent = false;
+    if (!wasPending)
+        return;
     const QPointer<KivData> self(this);
     QVariant value = m_value;
     KIVClientInterface* client = getClient();
+    const unsigned reports = m_reports;
     const bool isRefused = client && !client->setItem(getId(), value);
-    if (self)
+    const QString error = isRefused ? client->getLastError() : QString();
+    if (!self)
+        return;
+    // What was refused stays pending, so that it can be mended or taken back.
+    m_changed = isRefused;
+    if (m_reports == reports)
         setValueInternal(value);
     if (self && isRefused)
-        checkAppError();
+        refuse(error);
 }
 
 void KivData::revert()
 {
     if (!m_changed)
         return;
+    const bool wasPending = isPending();
     m_changed = false;
+    m_sent = false;
+    if (!wasPending)
+        return;
     QVariant previous = m_previous;
     setValueInternal(previous);
 }
@@ -406,15 +464,19 @@ void KivData::refuse(const QString& error)
 
 void KivData::invoke()
 {
-    if (KIVClientInterface* client = getClient())
-        client->invokeAction(getId());
+    const QPointer<KivData> self(this);
+    KIVClientInterface* client = getClient();
+    if (client && !client->invokeAction(getId()) && self)
+        checkAppError();
 }
 
 QString KivData::invokeWithStringArg(QString const& arg)
 {
     QString reply;
-    if (KIVClientInterface* client = getClient())
-        client->sendAction(getId(), arg, &reply, KIVClientInterface::callTimeout);
+    const QPointer<KivData> self(this);
+    KIVClientInterface* client = getClient();
+    if (client && !client->sendAction(getId(), arg, &reply, KIVClientInterface::callTimeout) && self)
+        checkAppError();
     return reply;
 }
 
@@ -473,8 +535,10 @@ void KivData::followUserData() const
     auto* self = const_cast<KivData*>(this);
     connect(UserData::getInstance(), &UserData::signalDataChanged, self, [self](const QString& key) {
         if (key == self->arraySelectionKey())
-            Q_EMIT self->arraySelectionChanged();
+            self->announceSelection();
     });
+    self->m_selection = getArraySelection();
+    self->m_selectionText = getArraySelectionString();
 }
 
 int KivData::getArraySelection() const
@@ -584,14 +648,7 @@ void KivData::compileApplicability(const QString& expression)
 
 bool KivData::evaluateApplicability()
 {
-    // Items may ask each other in a circle.
-    if (m_isEvaluating) {
-        reportExpressionError(QStringLiteral("the expression depends on itself"));
-        return false;
-    }
-    m_isEvaluating = true;
     const bool result = m_expression->evaluate().toBool();
-    m_isEvaluating = false;
     if (!m_expression->hasError())
         return result;
     reportExpressionError(m_expression->error().toString());
@@ -621,6 +678,7 @@ void KivData::slotValueChanged()
     settleReport();
     if (!m_item)
         return;
+    ++m_reports;
     holdValue(m_item->getValue());
     announceValue();
 }

@@ -15,6 +15,10 @@
 class Manifest;
 class QQmlExpression;
 
+namespace uiutils {
+struct InputRule;
+}
+
 /// One service item as QML sees it.
 ///
 /// A wrapper follows its item: what the service reports becomes a property change here, and a write to `value` is sent to
@@ -241,11 +245,17 @@ private:
     void connectItem();
     void createFormatter();
     void announceItem();
+    void updateValidator();
+    /// Whether a change waits to be sent.
+    bool isPending() const { return m_changed && !m_sent; }
+    /// Emits what tells of a change of the selected element, for those that asked for it.
+    void announceSelection();
     void announceValue();
     void compileApplicability(const QString& expression);
     bool evaluateApplicability();
     void reportExpressionError(const QString& problem) const;
     QVariantList elements() const;
+    uiutils::InputRule inputRule() const;
     QString arraySelectionKey() const;
     void followUserData() const;
 
@@ -254,13 +264,21 @@ private:
     mutable QValidator* m_validator = nullptr;
     QVariant m_previous;
     bool m_changed = false;
+    /// The change went out with a batch that the service took.
     bool m_sent = false;
+    /// Follows an item, or did when the service was last heard of.
+    bool m_isBound = false;
+    /// A write of what is held already, by a slot on the announcement of it, ends there.
+    bool m_isAnnouncing = false;
     bool m_isExpressionRefused = false;
-    bool m_isEvaluating = false;
     mutable bool m_followsUserData = false;
     QPointer<KIVClientItem> m_item;
     QString m_error;
     QQmlExpression* m_expression = nullptr;
     QString m_id;
     mutable QObject* m_enums = nullptr;
+    /// Counts the service's reports, so that a write knows whether it was answered meanwhile.
+    unsigned m_reports = 0;
+    QString m_selectionText;
+    int m_selection = -1;
 };

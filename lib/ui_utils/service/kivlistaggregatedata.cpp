@@ -25,8 +25,10 @@ QVariant KivListAggregateData::getValue() const
 void KivListAggregateData::slotValueChanged()
 {
     settleReport();
-    if (const auto* source = qobject_cast<KivListAggregateClientItem*>(item())) {
-        const KivListAggregate list = source->getListAggregate();
-        m_model->reset([&] { m_list = list; });
-    }
+    if (!item())
+        return;
+    m_model->reset([this] {
+        if (const auto* source = qobject_cast<KivListAggregateClientItem*>(item()))
+            m_list = source->getListAggregate();
+    });
 }

@@ -31,22 +31,6 @@ QString batchName(QString name)
     return name;
 }
 
-/// The JSON text with everything beyond ASCII escaped: services differ in whether they take the argument for text or for
-/// the bytes of its UTF-8, and so it reads the same either way.
-QString plainJson(const QVariantMap& values)
-{
-    const QString json = QString::fromUtf8(QJsonDocument(QJsonObject::fromVariantMap(values)).toJson());
-    QString plain;
-    plain.reserve(json.size());
-    for (const QChar unit : json) {
-        if (unit.unicode() < 0x80)
-            plain += unit;
-        else
-            plain += QStringLiteral("\\u%1").arg(int(unit.unicode()), 4, 16, QLatin1Char('0'));
-    }
-    return plain;
-}
-
 } // namespace
 
 Manifest::Manifest(KIVClientInterface* client, QString const& qmlTag, QString const& name, QObject* parent)
@@ -102,9 +86,11 @@ void Manifest::bindItems()
             return;
         if (!wrapper)
             continue;
+        // One that has its item keeps it: items that are gone have been destroyed.
+        if (wrapper->m_item)
+            continue;
         KIVClientItem* item = m_client->getItem(wrapper->m_id);
-        // An item that was destroyed leaves the wrapper without one, whatever its address was.
-        if (item != wrapper->m_item || !item)
+        if (item || wrapper->m_isBound)
             wrapper->bindItem(item);
     }
 }
@@ -124,27 +110,35 @@ void Manifest::startChanges()
 void Manifest::applyChanges()
 {
     m_changing = false;
-    QVariantMap changes;
-    QVector<QPointer<KivData>> senders;
+    if (!m_client)
+        return;
+    // By name: of settings with one name in a batch, the last one travels and the others stay pending.
+    QMap<QString, QPointer<KivData>> senders;
     const QStringList ids = m_items.keys();
     for (const QString& id : ids) {
         KivData* wrapper = m_items.value(id);
-        if (!wrapper || !wrapper->m_changed || wrapper->m_sent)
-            continue;
-        changes.insert(batchName(wrapper->getName()), wrapper->m_value);
-        wrapper->m_sent = true;
-        senders.append(wrapper);
+        if (wrapper && wrapper->isPending())
+            senders.insert(batchName(wrapper->getName()), wrapper);
+    }
+    QVariantMap changes;
+    for (auto it = senders.cbegin(); it != senders.cend(); ++it) {
+        changes.insert(it.key(), (*it)->m_value);
+        (*it)->m_sent = true;
     }
 
-    if (!m_client || send(actionId(itemids::applyConfig), plainJson(changes)))
+    // The service takes the text for bytes.
+    const QByteArray json = QJsonDocument(QJsonObject::fromVariantMap(changes)).toJson();
+    if (send(actionId(itemids::applyConfig), QString::fromLatin1(json.constData())))
         return;
-    // Of this service, which answered for the settings of the others too.
+    // This service answered for the settings of the others too.
     const QString error = m_client ? m_client->getLastError() : QString();
     for (const QPointer<KivData>& wrapper : qAsConst(senders)) {
-        if (!wrapper)
-            continue;
-        wrapper->m_sent = false;
-        wrapper->refuse(error);
+        if (wrapper)
+            wrapper->m_sent = false;
+    }
+    for (const QPointer<KivData>& wrapper : qAsConst(senders)) {
+        if (wrapper)
+            wrapper->refuse(error);
     }
 }
 

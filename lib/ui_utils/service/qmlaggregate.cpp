@@ -11,7 +11,7 @@ QMLAggregate::~QMLAggregate() = default;
 
 void QMLAggregate::release()
 {
-    if (m_isWriting)
+    if (m_writes > 0)
         deleteLater();
     else
         delete this;
@@ -20,9 +20,9 @@ void QMLAggregate::release()
 QVariant QMLAggregate::updateValue(QString const& key, QVariant const& input)
 {
     // The map itself is needed until its base has ended the write.
-    m_isWriting = true;
+    ++m_writes;
     if (m_owner)
         m_owner->updateAggregateProperty(key, input);
-    m_isWriting = false;
+    --m_writes;
     return value(key);
 }

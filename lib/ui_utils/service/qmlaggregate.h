@@ -26,5 +26,5 @@ protected:
 
 private:
     QPointer<KivAggregateData> m_owner;
-    bool m_isWriting = false;
+    int m_writes = 0;
 };

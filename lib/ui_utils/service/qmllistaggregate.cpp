@@ -6,8 +6,14 @@ QMLListAggregate::QMLListAggregate(const KivListAggregate& list, QObject* parent
     : QAbstractListModel(parent)
     , m_list(list)
 {
+    readRoles();
+}
+
+void QMLListAggregate::readRoles()
+{
+    m_roles.clear();
     int role = Qt::UserRole;
-    const QList<QByteArray> names = list.getPropertyNames();
+    const QList<QByteArray> names = m_list.getPropertyNames();
     for (const QByteArray& name : names)
         m_roles.insert(++role, name);
 }
@@ -34,5 +40,6 @@ void QMLListAggregate::reset(const std::function<void()>& change)
     if (!self)
         return;
     change();
+    readRoles();
     endResetModel();
 }

@@ -28,6 +28,8 @@ public:
     void reset(const std::function<void()>& change);
 
 private:
+    void readRoles();
+
     const KivListAggregate& m_list;
     QHash<int, QByteArray> m_roles;
 };

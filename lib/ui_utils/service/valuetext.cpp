@@ -4,8 +4,6 @@
 
 #include <kiv/baseformatter.h>
 
-#include <QJSValue>
-
 namespace uiutils {
 
 QString formattedText(BaseFormatter& formatter, const QVariant& value, bool showUnits)
@@ -20,11 +18,6 @@ QString formattedText(BaseFormatter& formatter, const QVariant& value, bool show
 QString plainText(const QVariant& value, unsigned precision)
 {
     return value.type() == QVariant::Double ? fixedPointText(value.toDouble(), precision) : value.toString();
-}
-
-QVariant plainValue(const QVariant& value)
-{
-    return value.userType() == qMetaTypeId<QJSValue>() ? value.value<QJSValue>().toVariant() : value;
 }
 
 } // namespace uiutils

@@ -13,7 +13,4 @@ QString formattedText(BaseFormatter& formatter, const QVariant& value, bool show
 /// A value without a formatter as users read it: a double with `precision` decimals, anything else as its text.
 QString plainText(const QVariant& value, unsigned precision);
 
-/// `value` without the wrapping that QML gives its own arrays and objects, which no service and no settings file knows.
-QVariant plainValue(const QVariant& value);
-
 } // namespace uiutils

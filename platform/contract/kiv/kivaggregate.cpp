@@ -31,11 +31,7 @@ bool KivAggregate::setPropertyFromVariant(const QByteArray& name, const QVariant
     const int index = indexOf(name);
     if (index < 0)
         return false;
-    const QVariant& old = m_members.at(index).second;
-    QVariant converted = value;
-    if (old.isValid() && !converted.convert(old.userType()))
-        return false;
-    m_members[index].second = converted;
+    m_members[index].second = value;
     return true;
 }
 

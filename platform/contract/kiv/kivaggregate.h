@@ -21,8 +21,8 @@ public:
     /// The member's value; invalid without such a member.
     QVariant getPropertyVariant(const QByteArray& name) const;
 
-    /// Sets a member, converting `value` to the type that the member has. Returns false, and changes nothing, when there
-    /// is no such member or the value cannot be converted.
+    /// Sets a member to `value` as it is; the service converts it when it gets the record. Returns false, and changes
+    /// nothing, when there is no such member.
     bool setPropertyFromVariant(const QByteArray& name, const QVariant& value);
 
     /// The record as one value, as KIVClientInterface::setItem() takes it: a QVariantMap.

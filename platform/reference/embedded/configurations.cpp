@@ -94,8 +94,12 @@ Outcome refused(const QStringList& problems)
 
 Outcome applyConfiguration(ServiceData& service, const QString& argument)
 {
+    // Screens send the bytes of the JSON's UTF-8 as if each were a character; the text itself is understood too.
     QJsonParseError error {};
-    const QJsonDocument document = QJsonDocument::fromJson(argument.toUtf8(), &error);
+    QJsonDocument document = QJsonDocument::fromJson(argument.toLatin1(), &error);
+    const bool isText = argument != QString::fromLatin1(argument.toLatin1());
+    if (isText || !document.isObject())
+        document = QJsonDocument::fromJson(argument.toUtf8(), &error);
     if (!document.isObject()) {
         const bool isJson = error.error == QJsonParseError::NoError;
         const QString reason = isJson ? tr("not an object") : error.errorString();

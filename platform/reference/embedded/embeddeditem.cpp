@@ -79,10 +79,9 @@ class EnumItem final : public StatefulItem<KIVEnumClientItem>
 public:
     using StatefulItem::StatefulItem;
 
-    /// Null until the service names choices for the first time.
     KIVEnumChoicesClientItem* getChoices() const override
     {
-        if (!m_choices && !description().choices.isEmpty())
+        if (!m_choices)
             m_choices = new Choices(state(), const_cast<EnumItem*>(this));
         return m_choices;
     }
