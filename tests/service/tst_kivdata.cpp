@@ -357,7 +357,7 @@ private Q_SLOTS:
         // What is selected may change with the array.
         hosts->setArraySelection(1);
         log.take();
-        auto* item = static_cast<RecordedItem<KIVClientItem>*>(m_client->getItem(hostsId));
+        auto* item = static_cast<RecordedItem<KIVVecClientItem>*>(m_client->getItem(hostsId));
         item->state->value = QStringList {"a", "c"};
         Q_EMIT item->valueChanged();
         QCOMPARE(log.take(), (QStringList {"valueCount", "selection", "value"}));

@@ -1,5 +1,7 @@
 #include "local/uidataenums.h"
 
+#include <algorithm>
+
 namespace {
 
 UiDataEnums* ownerOf(QQmlListProperty<QObject>* property)
@@ -53,8 +55,12 @@ void UiDataEnums::append(UiEnumType* a)
 void UiDataEnums::forget(QObject* choice)
 {
     // Only its address is left of it.
-    const int removed = m_choices.removeAll(static_cast<UiEnumType*>(choice));
-    if (removed > 0 && m_complete)
+    const auto end = std::remove_if(m_choices.begin(), m_choices.end(),
+            [choice](const UiEnumType* kept) { return static_cast<const QObject*>(kept) == choice; });
+    if (end == m_choices.end())
+        return;
+    m_choices.erase(end, m_choices.end());
+    if (m_complete)
         Q_EMIT itemsChanged();
 }
 
