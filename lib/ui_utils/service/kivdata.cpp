@@ -54,6 +54,8 @@ KivData::KivData(KIVClientItem* item, Manifest* manifest)
 
 KivData::~KivData()
 {
+    if (m_announcing)
+        *m_announcing = false;
     Manifest::forget(m_id, this);
 }
 
@@ -347,7 +349,7 @@ void KivData::writeValue(QVariant value)
 {
     // Of the type that the service reports, so that a page finds a number where it wrote the text of one.
     value = uiutils::fittedValue(value, m_value.userType());
-    if (m_isAnnouncing && uiutils::isSameValue(value, m_value))
+    if (m_announcing && uiutils::isSameValue(value, m_value))
         return;
     const Manifest* owner = manifest();
     if (owner && owner->isChanging()) {
@@ -384,25 +386,24 @@ void KivData::setValueInternal(QVariant& value)
 
 void KivData::announceValue()
 {
-    const QPointer<KivData> self(this);
-    const bool wasAnnouncing = m_isAnnouncing;
-    m_isAnnouncing = true;
-    if (qobject_cast<KIVVecClientItem*>(m_item)) {
+    // A slot may delete the wrapper, whose end then clears this; values come often, and a QPointer costs more.
+    bool isAlive = true;
+    bool* const outer = m_announcing;
+    m_announcing = &isAlive;
+    if (qobject_cast<KIVVecClientItem*>(m_item))
         Q_EMIT valueCountChanged();
-        if (!self)
-            return;
+    if (isAlive && m_followsUserData)
         announceSelection();
-    }
-    if (self)
+    if (isAlive)
         Q_EMIT valueChanged();
-    if (self)
-        m_isAnnouncing = wasAnnouncing;
+    if (isAlive)
+        m_announcing = outer;
+    else if (outer)
+        *outer = false;
 }
 
 void KivData::announceSelection()
 {
-    if (!m_followsUserData)
-        return;
     const int selection = getArraySelection();
     const QString text = getArraySelectionString();
     if (selection == m_selection && text == m_selectionText)

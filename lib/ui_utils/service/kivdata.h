@@ -268,8 +268,6 @@ private:
     bool m_sent = false;
     /// Follows an item, or did when the service was last heard of.
     bool m_isBound = false;
-    /// A write of what is held already, by a slot on the announcement of it, ends there.
-    bool m_isAnnouncing = false;
     bool m_isExpressionRefused = false;
     mutable bool m_followsUserData = false;
     QPointer<KIVClientItem> m_item;
@@ -279,6 +277,8 @@ private:
     mutable QObject* m_enums = nullptr;
     /// Counts the service's reports, so that a write knows whether it was answered meanwhile.
     unsigned m_reports = 0;
+    /// Set while the value is announced: a slot that writes what is held already ends the matter.
+    bool* m_announcing = nullptr;
     QString m_selectionText;
     int m_selection = -1;
 };
