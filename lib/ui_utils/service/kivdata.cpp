@@ -413,14 +413,17 @@ void KivData::announceSelection()
     Q_EMIT arraySelectionChanged();
 }
 
-void KivData::apply()
+bool KivData::endChange()
 {
-    if (!m_changed)
-        return;
     const bool wasPending = isPending();
     m_changed = false;
     m_sent = false;
-    if (!wasPending)
+    return wasPending;
+}
+
+void KivData::apply()
+{
+    if (!endChange())
         return;
     const QPointer<KivData> self(this);
     QVariant value = m_value;
@@ -440,12 +443,7 @@ void KivData::apply()
 
 void KivData::revert()
 {
-    if (!m_changed)
-        return;
-    const bool wasPending = isPending();
-    m_changed = false;
-    m_sent = false;
-    if (!wasPending)
+    if (!endChange())
         return;
     QVariant previous = m_previous;
     setValueInternal(previous);
@@ -667,11 +665,9 @@ void KivData::reportExpressionError(const QString& problem) const
 
 void KivData::settleReport()
 {
-    const bool isPending = m_changed || m_sent;
-    if (!isPending || !m_id.startsWith(QLatin1String(":config")))
-        return;
-    m_changed = false;
-    m_sent = false;
+    const bool isPendingOrSent = m_changed || m_sent;
+    if (isPendingOrSent && m_id.startsWith(QLatin1String(":config")))
+        endChange();
 }
 
 void KivData::slotValueChanged()

@@ -248,6 +248,8 @@ private:
     void updateValidator();
     /// Whether a change waits to be sent.
     bool isPending() const { return m_changed && !m_sent; }
+    /// Forgets a change; returns whether it was pending.
+    bool endChange();
     /// Emits what tells of a change of the selected element, for those that asked for it.
     void announceSelection();
     void announceValue();
