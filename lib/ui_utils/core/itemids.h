@@ -22,8 +22,6 @@ inline const QLatin1String jobId(":result:basemgr:jobmanager:jobID:");
 inline const QLatin1String jobBan(":result:basemgr:jobmanager:jobBAN:");
 inline const QLatin1String jobTechnician(":result:basemgr:jobmanager:jobTechnician:");
 
-/// Ends the ids of arrays.
-inline const QLatin1String arrayMark("ARRAY:");
 /// Ends the id of the item that stands for a whole service.
 inline const QLatin1String manifest(":manifest:");
 /// What takes its place in the ids of the actions on a whole service.

@@ -19,6 +19,7 @@
 #include <QStringBuilder>
 
 #include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -64,6 +65,7 @@ KivData::~KivData()
 void KivData::connectItem()
 {
     m_isBound = true;
+    m_isVector = qobject_cast<KIVVecClientItem*>(m_item);
     connect(m_item, &KIVClientItem::valueChanged, this, &KivData::slotValueChanged);
     connect(m_item, &KIVClientItem::unitsChanged, this, &KivData::slotUnitsChanged);
     connect(m_item, &KIVClientItem::isReadyChanged, this, &KivData::slotIsReadyChanged);
@@ -371,9 +373,9 @@ void KivData::writeValue(QVariant value)
         setValueInternal(value);
 }
 
-void KivData::holdValue(const QVariant& value)
+void KivData::holdValue(QVariant value)
 {
-    m_value = value;
+    m_value = std::move(value);
     if (m_formatter)
         m_formatter->setValue(m_value);
 }
@@ -390,7 +392,7 @@ void KivData::announceValue()
     bool isAlive = true;
     bool* const outer = m_announcing;
     m_announcing = &isAlive;
-    if (qobject_cast<KIVVecClientItem*>(m_item))
+    if (m_isVector)
         Q_EMIT valueCountChanged();
     if (isAlive && m_followsUserData)
         announceSelection();
@@ -483,9 +485,7 @@ QString KivData::invokeWithStringArg(QString const& arg)
 
 QVariantList KivData::elements() const
 {
-    const bool isArray = m_item ? qobject_cast<KIVVecClientItem*>(m_item) != nullptr
-                                : m_id.endsWith(uiutils::itemids::arrayMark);
-    return isArray ? m_value.toList() : QVariantList();
+    return m_isVector ? m_value.toList() : QVariantList();
 }
 
 QVariant KivData::variantAt(int ind) const

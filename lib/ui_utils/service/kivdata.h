@@ -224,7 +224,7 @@ protected:
     KIVClientItem* item() const { return m_item; }
     Manifest* manifest() const;
     /// Keeps a value and hands it to the formatter; tells nobody.
-    void holdValue(const QVariant& value);
+    void holdValue(QVariant value);
     /// Takes a formatter of that name unless there is one already.
     void adoptFormatter(const QString& name);
     /// The validator for what the accessors say, made by the first call.
@@ -270,6 +270,8 @@ private:
     bool m_sent = false;
     /// Follows an item, or did when the service was last heard of.
     bool m_isBound = false;
+    /// Whether the item is an array, or was when it was last there.
+    bool m_isVector = false;
     bool m_isExpressionRefused = false;
     mutable bool m_followsUserData = false;
     QPointer<KIVClientItem> m_item;
