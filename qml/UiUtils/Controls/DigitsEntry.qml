@@ -11,7 +11,7 @@ FieldEntry {
             return checkLength(text)
         return Number(text) < Number(minimum || 0) || Number(text) > Number(maximum || Number.MAX_SAFE_INTEGER) ? rangeText : ""
     }
-    function valueOf(text) {
+    function parsed(text) {
         return !isNumber ? text : text === "" ? undefined : Number(text)
     }
 

@@ -6,7 +6,7 @@ FieldEntry {
     function textOf(value) {
         return value === undefined || value === null || value === "" || isNaN(Number(value)) ? "" : Formats.durationText(Number(value))
     }
-    function valueOf(text) {
+    function parsed(text) {
         return text === "" ? undefined : Formats.secondsOf(text)
     }
     function check(text) {

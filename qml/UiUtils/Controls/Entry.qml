@@ -34,7 +34,7 @@ FocusScope {
     property bool isInvalid: complaint !== ""
     property string news
 
-    default property alias editor: slot.data
+    default property alias content: slot.data
 
     signal committed(var value)
 

@@ -35,7 +35,7 @@ Entry {
         return value === undefined || value === null ? "" : String(value)
     }
     // The value that a text stands for; asked for acceptable texts only.
-    function valueOf(text) {
+    function parsed(text) {
         return text
     }
     // What is wrong with a text, in words.
@@ -74,7 +74,7 @@ Entry {
             restore()
             return true
         }
-        const newValue = valueOf(typed)
+        const newValue = parsed(typed)
         isEdited = false
         if (store(newValue) !== "") {
             isEdited = true
@@ -125,7 +125,7 @@ Entry {
     // A container looks at `valueOk` only when it hears of a value.
     function tellWhetherOk() {
         const isOk = problem === ""
-        if (!face.isLocal || !face.hasItem || item.valueOk === isOk)
+        if (!face.isLocal || !item || item.valueOk === isOk)
             return
         item.valueOk = isOk
         if (item && item.mandatory)
@@ -144,7 +144,11 @@ Entry {
             hasNews = true
     }
     onProblemChanged: tellWhetherOk()
-    onItemChanged: settle()
+    onItemChanged: {
+        settle()
+        // Once everything here is about the new one.
+        Qt.callLater(tellWhetherOk)
+    }
     onVisibleChanged: {
         if (!visible && padLoader.item)
             padLoader.item.close()

@@ -131,6 +131,7 @@ QtObject {
         ignoreUnknownSignals: true
         function onErrorChanged(id, error) { face.refusal = error || qsTr("The entry was refused.") }
         function onValueChanged() { ++face.reports }
+        function onValueCountChanged() { ++face.reports }
         function onIsReadyChanged() { face.describe() }
         function onEnumCountChanged() { face.describe() }
         function onEnumLabelsChanged() { face.describe() }

@@ -2,7 +2,7 @@ import QtQuick 2.15
 
 // The editor of one element of a list; without a row it is the line for the next one.
 Loader {
-    id: editor
+    id: elementEntry
 
     // A ListEntry, which cannot be said: each would need the other to be known first.
     property var list
@@ -15,33 +15,33 @@ Loader {
     Component {
         id: textElement
         TextEntry {
-            forbidden: editor.list.face.isLocal ? "," : ""
+            forbidden: elementEntry.list.face.isLocal ? "," : ""
             type: "std::string"
             compact: true
-            label: editor.list.labelOfRow(editor.row)
-            unit: editor.list.unit
-            minimum: editor.list.minimum
-            maximum: editor.list.maximum
-            rangeText: editor.list.rangeText
-            acceptsEmpty: editor.row < 0
-            value: editor.list.element(editor.row, editor.list.face.reports)
-            storeWith: newValue => editor.list.storeRow(editor.row, newValue)
+            label: elementEntry.list.labelOfRow(elementEntry.row)
+            unit: elementEntry.list.unit
+            minimum: elementEntry.list.minimum
+            maximum: elementEntry.list.maximum
+            rangeText: elementEntry.list.rangeText
+            acceptsEmpty: elementEntry.row < 0
+            value: elementEntry.list.element(elementEntry.row, elementEntry.list.face.reports)
+            storeWith: newValue => elementEntry.list.storeRow(elementEntry.row, newValue)
         }
     }
     Component {
         id: numberElement
         NumberEntry {
-            type: editor.list.type === "std::vector<double>" ? "double" : "int"
-            decimals: editor.list.decimals
+            type: elementEntry.list.type === "std::vector<double>" ? "double" : "int"
+            decimals: elementEntry.list.decimals
             compact: true
-            label: editor.list.labelOfRow(editor.row)
-            unit: editor.list.unit
-            minimum: editor.list.minimum
-            maximum: editor.list.maximum
-            rangeText: editor.list.rangeText
-            acceptsEmpty: editor.row < 0
-            value: editor.list.element(editor.row, editor.list.face.reports)
-            storeWith: newValue => editor.list.storeRow(editor.row, newValue)
+            label: elementEntry.list.labelOfRow(elementEntry.row)
+            unit: elementEntry.list.unit
+            minimum: elementEntry.list.minimum
+            maximum: elementEntry.list.maximum
+            rangeText: elementEntry.list.rangeText
+            acceptsEmpty: elementEntry.row < 0
+            value: elementEntry.list.element(elementEntry.row, elementEntry.list.face.reports)
+            storeWith: newValue => elementEntry.list.storeRow(elementEntry.row, newValue)
         }
     }
 }

@@ -2,6 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import UiUtils.Controls 1.0
+import "formats.js" as Formats
 
 // The elements of an array, one under the other, and a line for the next one.
 Entry {
@@ -58,10 +59,8 @@ Entry {
     }
 
     function follow() {
-        const count = face.hasItem ? item.valueCount : 0
-        // While its service is away an item has no elements to tell.
-        if (face.hasItem && !face.isLocal && item.type === "")
-            return
+        const source = face.item
+        const count = source ? source.valueCount : 0
         while (rows.count < count)
             rows.append({ unused: 0 })
         while (rows.count > count)
@@ -87,7 +86,8 @@ Entry {
         return isText ? element : String(element).replace(".", Qt.locale().decimalPoint)
     }
 
-    rangeText: isText ? face.textRange : face.tidyRange
+    rangeText: isText ? face.textRange : Formats.rangeText(minimum, maximum, textOf, unit)
+    readonly property bool isLong: rows.count > visibleRows
 
     Connections {
         target: entry.face
@@ -102,7 +102,8 @@ Entry {
         id: view
         objectName: "rows"
         Layout.fillWidth: true
-        Layout.preferredHeight: Math.min(contentHeight, entry.visibleRows * (ControlsStyle.touch + spacing) + ControlsStyle.touch / 2)
+        // A row that is cut off says that there is more.
+        Layout.preferredHeight: entry.isLong ? entry.visibleRows * (ControlsStyle.touch + spacing) + ControlsStyle.touch / 2 : contentHeight
         visible: count > 0
         model: rows
         clip: true
@@ -110,12 +111,12 @@ Entry {
         // Rows keep what is typed in them while they are scrolled out of sight.
         cacheBuffer: 4000
         boundsBehavior: Flickable.StopAtBounds
-        ScrollBar.vertical: ScrollBar { policy: view.contentHeight > view.height ? ScrollBar.AlwaysOn : ScrollBar.AsNeeded }
+        ScrollBar.vertical: ScrollBar { policy: entry.isLong ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
 
         delegate: FocusScope {
             id: row
 
-            width: view.width - (view.contentHeight > view.height ? 12 : 0)
+            width: view.width - (entry.isLong ? 12 : 0)
             height: line.implicitHeight
             Keys.onUpPressed: entry.focusRow(Math.max(0, index - 1))
             Keys.onDownPressed: entry.focusRow(index + 1)

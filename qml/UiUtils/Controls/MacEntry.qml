@@ -6,7 +6,7 @@ FieldEntry {
     function check(text) {
         return Formats.macProblem(text) || checkLength(Formats.macText(text))
     }
-    function valueOf(text) {
+    function parsed(text) {
         return text === "" ? "" : Formats.macText(text)
     }
 

@@ -26,7 +26,7 @@ FieldEntry {
         return plain.replace(".", Qt.locale().decimalPoint)
     }
 
-    function valueOf(text) {
+    function parsed(text) {
         return text === "" ? undefined : Number(Formats.plainNumber(text, Qt.locale()))
     }
 
@@ -43,7 +43,7 @@ FieldEntry {
             return outside()
         const fraction = /\.([0-9]*)/.exec(plain)
         if (!whole && decimals >= 0 && fraction && fraction[1].length > decimals)
-            return decimals === 0 ? qsTr("A whole number is needed") : qsTr("At most %1 decimals").arg(decimals)
+            return decimals === 0 ? qsTr("A whole number is needed") : qsTr("Decimals: at most %1").arg(decimals)
         return ""
     }
 

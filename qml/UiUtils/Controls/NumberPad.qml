@@ -87,6 +87,7 @@ Popup {
             event.accepted = false
     }
 
+    objectName: "pad"
     parent: Overlay.overlay
     anchors.centerIn: parent
     modal: true

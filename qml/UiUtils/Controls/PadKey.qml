@@ -8,6 +8,7 @@ EntryButton {
     property string types: text
     property bool quiet: false
 
+    objectName: text
     implicitWidth: ControlsStyle.padKeyWidth
     implicitHeight: ControlsStyle.padKeyHeight
     font { pixelSize: quiet ? ControlsStyle.bodyText : ControlsStyle.headingText; bold: true }

@@ -21,7 +21,7 @@ FieldEntry {
             return ""
         return isNumber && !isNaN(Number(value)) ? Number(value).toString(radix).toUpperCase() : String(value)
     }
-    function valueOf(text) {
+    function parsed(text) {
         return !isNumber ? bare(text) : text === "" ? undefined : parseInt(bare(text), radix)
     }
     function check(text) {
