@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
+import QtQuick.Window 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
@@ -12,6 +13,19 @@ Rectangle {
     // What a local item of the right column is: a text unless it says otherwise.
     component Field: UiData {
         type: "std::string"
+    }
+
+    // Keys walk out of sight otherwise.
+    function showFocus() {
+        const item = Window.activeFocusItem
+        let within = item
+        while (within && within !== columns)
+            within = within.parent
+        if (!within)
+            return
+        const top = item.mapToItem(columns, 0, 0).y
+        if (top < page.contentY || top + item.height + 40 > page.contentY + page.height)
+            page.contentY = Math.max(0, Math.min(top - page.height / 3, page.contentHeight - page.height))
     }
 
     width: 1024
@@ -50,6 +64,8 @@ Rectangle {
     Field { id: away; label: "Sensor"; value: "Probe 2"; isReady: false }
     Field { id: fixed; label: "Serial number"; value: "UT-000417"; readOnly: true }
 
+    Window.onActiveFocusItemChanged: showFocus()
+
     Flickable {
         id: page
         anchors.fill: parent
@@ -67,14 +83,14 @@ Rectangle {
             Repeater {
                 model: [
                     { title: "Items of a service",
-                      items: [optical_cfg_cable_1, optical_cfg_mode, optical_cfg_range, optical_cfg_pulse, optical_cfg_wavelength,
-                              optical_cfg_backscatter, optical_cfg_offset, optical_cfg_duration, optical_cfg_collector,
-                              optical_cfg_storeTraces, optical_cfg_stages, optical_cfg_calibration, optical_res_state,
-                              optical_res_loss, optical_res_returnLoss, optical_res_length, optical_res_laserPower,
+                      items: [optical_cfg_mode, optical_cfg_range, optical_cfg_pulse, optical_cfg_backscatter, optical_res_loss,
+                              optical_cfg_stages, optical_cfg_cable_1, optical_cfg_wavelength, optical_cfg_offset,
+                              optical_cfg_duration, optical_cfg_collector, optical_cfg_storeTraces, optical_cfg_calibration,
+                              optical_res_state, optical_res_returnLoss, optical_res_length, optical_res_laserPower,
                               optical_res_worstEvent] },
                     { title: "Items of this page",
-                      items: [site, attenuation, count, connector, buzzer, duration, marks, address, anyAddress, address6, mac,
-                              url, fileName, password, phone, pin, pattern, mode, lines, judged, away, fixed] }
+                      items: [site, address, password, buzzer, duration, connector, attenuation, count, marks, anyAddress,
+                              address6, mac, url, fileName, phone, pin, pattern, mode, lines, judged, away, fixed] }
                 ]
 
                 Rectangle {

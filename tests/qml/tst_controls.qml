@@ -321,6 +321,7 @@ Item {
             compare(item.value, "1.5,3.25")
             const names = createTemporaryObject(localComponent, root, { type: "std::vector<string>", value: "a" })
             const list = make(entryComponent, { item: names })
+            tryCompare(findChild(list, "rows"), "count", 1)
             enter(findChild(list, "adder"), "b,c")
             compare(names.value, "a")
         }
@@ -339,6 +340,26 @@ Item {
             compare(driver.value(":config:entry:name:"), "Fiber 7")
             keyClick(Qt.Key_Return)
             compare(driver.value(":config:entry:name:"), "Halfway")
+        }
+
+        function test_leavingByForceCommitsNothing() {
+            const list = make(entryComponent, { item: entry_cfg_hosts })
+            const rows = findChild(list, "rows")
+            tryCompare(rows, "count", 2)
+            type(rows.itemAtIndex(0), "typed")
+            driver.setReachable(false, "entry")
+            driver.setReachable(true, "entry")
+            compare(driver.value(":config:entry:hosts:stringARRAY:")[0], "alpha")
+            compare(list.entry.note, "1 - 8 chars")
+            compare(fieldOf(rows.itemAtIndex(0)).text, "typed")
+
+            driver.report(":config:entry:mode:", 2)
+            const far = make(entryComponent, { item: entry_cfg_far })
+            type(far, "70")
+            driver.report(":config:entry:mode:", 1)
+            compare(driver.value(":config:entry:far:"), 7)
+            driver.report(":config:entry:mode:", 2)
+            compare(fieldOf(far).text, "70")
         }
 
         function test_madeWhileTheServiceIsAway() {
@@ -389,6 +410,11 @@ Item {
             enter(entry, "North")
             compare(site.value, "North")
             verify(UiDataContainer.allItemsOk)
+            // The next field may be worse.
+            const street = createTemporaryObject(localComponent, root, { type: "std::string", value: "", mandatory: true })
+            entry.item = street
+            tryCompare(street, "valueOk", false)
+            verify(site.valueOk)
         }
 
         function test_withoutAnItem() {

@@ -32,6 +32,7 @@ Entry {
         box.currentIndex = Qt.binding(() => entry.position)
     }
 
+    isAcceptable: !mandatory || position >= 0
     rangeText: ""
     plainText: box.displayText
 

@@ -23,7 +23,7 @@ QtObject {
 
     // The least that a glove hits.
     property int touch: 48
-    property int padKeyWidth: 76
+    property int padKeyWidth: 84
     property int padKeyHeight: 60
     property int margin: 14
     property int gap: 8

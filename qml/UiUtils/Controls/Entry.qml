@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
+import UiUtils 1.0
 import UiUtils.Controls 1.0
 
 // What all entries have in common: label, quality, the editor, and the line that says what is wrong or what is wanted.
@@ -22,7 +23,7 @@ FocusScope {
     // Stands in for writing to the item; takes the value and returns why it was refused, or an empty text.
     property var storeWith: null
 
-    readonly property bool isReady: face.isReady
+    property bool isReady: face.isReady
     readonly property var currentValue: face.hasItem ? face.value : value
     readonly property alias face: face
     // What users with a screen reader hear beside the name.
@@ -33,6 +34,8 @@ FocusScope {
     property string complaint: face.refusal
     property bool isInvalid: complaint !== ""
     property string news
+    // Whether what stands in the editor could be committed.
+    property bool isAcceptable: true
 
     default property alias content: slot.data
 
@@ -45,6 +48,25 @@ FocusScope {
             return face.write(newValue)
         value = newValue
         return ""
+    }
+
+    // A container looks at `valueOk` only when it hears of a value.
+    function tellWhetherOk() {
+        if (!face.isLocal || !item || item.valueOk === isAcceptable)
+            return
+        item.valueOk = isAcceptable
+        if (item && item.mandatory)
+            UiDataContainer.slotValueUpdated()
+    }
+
+    onIsAcceptableChanged: tellWhetherOk()
+    // Once everything here is about the new one.
+    onItemChanged: Qt.callLater(tellWhetherOk)
+    Component.onCompleted: tellWhetherOk()
+
+    Connections {
+        target: face
+        function onIsLocalChanged() { entry.tellWhetherOk() }
     }
 
     visible: face.isApplicable

@@ -1,7 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
-import UiUtils 1.0
 import UiUtils.Controls 1.0
 
 // An entry of one line. What the user types is the user's until it is committed or taken back: no report of the service, no
@@ -122,16 +121,7 @@ Entry {
         commit()
     }
 
-    // A container looks at `valueOk` only when it hears of a value.
-    function tellWhetherOk() {
-        const isOk = problem === ""
-        if (!face.isLocal || !item || item.valueOk === isOk)
-            return
-        item.valueOk = isOk
-        if (item && item.mandatory)
-            UiDataContainer.slotValueUpdated()
-    }
-
+    isAcceptable: problem === ""
     complaint: face.refusal !== "" ? face.refusal : isEdited ? problem : ""
     isInvalid: face.refusal !== "" || isEdited && isTried && problem !== ""
     news: hasNews ? qsTr("Changed meanwhile to %1").arg(echoMode === TextInput.Normal ? shownText : qsTr("another one")) : ""
@@ -143,25 +133,12 @@ Entry {
         else
             hasNews = true
     }
-    onProblemChanged: tellWhetherOk()
-    onItemChanged: {
-        settle()
-        // Once everything here is about the new one.
-        Qt.callLater(tellWhetherOk)
-    }
+    onItemChanged: settle()
     onVisibleChanged: {
         if (!visible && padLoader.item)
             padLoader.item.close()
     }
-    Component.onCompleted: {
-        settle()
-        tellWhetherOk()
-    }
-
-    Connections {
-        target: face
-        function onIsLocalChanged() { entry.tellWhetherOk() }
-    }
+    Component.onCompleted: settle()
 
     EntryFrame {
         Layout.fillWidth: true
@@ -198,7 +175,8 @@ Entry {
                 onTextEdited: entry.takeTyping()
                 onAccepted: entry.commit()
                 onActiveFocusChanged: {
-                    if (!activeFocus && entry && !(padLoader.item && padLoader.item.visible))
+                    // A field that is disabled or loses its meaning was not left by the user.
+                    if (!activeFocus && entry && enabled && face.isApplicable && !(padLoader.item && padLoader.item.visible))
                         entry.commit()
                 }
 

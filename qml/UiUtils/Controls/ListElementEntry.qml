@@ -18,6 +18,7 @@ Loader {
             forbidden: elementEntry.list.face.isLocal ? "," : ""
             type: "std::string"
             compact: true
+            isReady: elementEntry.list.isReady
             label: elementEntry.list.labelOfRow(elementEntry.row)
             unit: elementEntry.list.unit
             minimum: elementEntry.list.minimum
@@ -34,6 +35,7 @@ Loader {
             type: elementEntry.list.type === "std::vector<double>" ? "double" : "int"
             decimals: elementEntry.list.decimals
             compact: true
+            isReady: elementEntry.list.isReady
             label: elementEntry.list.labelOfRow(elementEntry.row)
             unit: elementEntry.list.unit
             minimum: elementEntry.list.minimum

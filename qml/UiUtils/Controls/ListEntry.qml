@@ -25,6 +25,9 @@ Entry {
     }
 
     function storeRow(index, newValue) {
+        // A row that is being disabled loses the focus before it hears why.
+        if (!face.item || !face.item.isReady)
+            return qsTr("Not ready")
         return index < 0 ? append(newValue) : replace(index, newValue)
     }
 
@@ -76,6 +79,7 @@ Entry {
             adder.forceActiveFocus()
     }
 
+    isAcceptable: !mandatory || count > 0
     plainText: face.hasItem ? allText(face.reports) : ""
 
     function allText(reports) {
@@ -86,7 +90,7 @@ Entry {
         return isText ? element : String(element).replace(".", Qt.locale().decimalPoint)
     }
 
-    rangeText: isText ? face.textRange : Formats.rangeText(minimum, maximum, textOf, unit)
+    rangeText: Formats.rangeText(minimum, maximum, textOf, isText ? qsTr("chars") : unit)
     readonly property bool isLong: rows.count > visibleRows
 
     Connections {
