@@ -429,6 +429,18 @@ Item {
             compare(fieldOf(entry).text, "2")
         }
 
+        function test_textWithoutAnItem() {
+            const entry = make(textComponent, { minimum: 3, value: "abc" })
+            enter(entry, "ab")
+            compare(entry.value, "abc")
+            compare(entry.note, "At least 3 chars")
+            entry.mandatory = true
+            enter(entry, "")
+            compare(entry.value, "abc")
+            enter(entry, "abcd")
+            compare(entry.value, "abcd")
+        }
+
         function test_password() {
             const item = createTemporaryObject(localComponent, root, { type: "std::string", value: "open sesame", inputType: KivData.INPUT_PASSWORD })
             const entry = make(entryComponent, { item: item })

@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import "formats.js" as Formats
 
 // Digits that are no number, such as a code: zeros at the beginning count. An item of a number's type gets a number.
 FieldEntry {
@@ -9,13 +10,15 @@ FieldEntry {
             return qsTr("Only digits can be used here")
         if (!isNumber)
             return checkLength(text)
-        return Number(text) < Number(minimum || 0) || Number(text) > Number(maximum || Number.MAX_SAFE_INTEGER) ? rangeText : ""
+        const least = Number(minimum || 0)
+        const most = maximum === undefined ? Math.min(Formats.typeLimits(type)[1], Number.MAX_SAFE_INTEGER) : Number(maximum)
+        return Number(text) < least || Number(text) > most ? Formats.rangeText(least, most, String, "") : ""
     }
     function parsed(text) {
         return !isNumber ? text : text === "" ? undefined : Number(text)
     }
 
-    rangeText: face.textRange
+    rangeText: isNumber ? Formats.rangeText(minimum, maximum, String, unit) : lengthText
     inputMethodHints: Qt.ImhDigitsOnly
     hasPad: true
 }

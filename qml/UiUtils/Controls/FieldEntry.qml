@@ -2,6 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import UiUtils.Controls 1.0
+import "formats.js" as Formats
 
 // An entry of one line. What the user types is the user's until it is committed or taken back: no report of the service, no
 // refusal and no loss of the service changes it.
@@ -18,6 +19,9 @@ Entry {
     // Whether nothing at all may be committed. A form's field may be left empty, a service has its own mind.
     property bool acceptsEmpty: !mandatory && (!face.hasItem || face.isLocal)
 
+    // The limits of a text in words: the item's own where it has both.
+    readonly property string lengthText: face.minimum !== undefined && face.maximum !== undefined
+                                         ? face.tidyRange : Formats.rangeText(minimum, maximum, String, qsTr("chars"))
     readonly property string text: field.text
     // What is wrong with the text; empty when it can be committed.
     readonly property string problem: problemOf(field.text)
@@ -50,9 +54,9 @@ Entry {
 
     // The limits of a text are those of its length; a form's item leaves them to its entry.
     function checkLength(text) {
-        if (!face.matches(text) || text.length < Number(minimum || 0) || text.length > Number(maximum || Infinity))
-            return rangeText !== "" ? rangeText : qsTr("The form of this entry is different")
-        return ""
+        if (text.length < Number(minimum || 0) || text.length > Number(maximum || Infinity))
+            return lengthText
+        return face.matches(text) ? "" : qsTr("This is not in the form that is needed")
     }
 
     // --- Commit and restore ---

@@ -7,6 +7,6 @@ FieldEntry {
         return (text === "" ? "" : Formats.fileNameProblem(text)) || checkLength(text)
     }
 
-    rangeText: face.textRange
+    rangeText: lengthText
     inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
 }

@@ -37,8 +37,6 @@ QtObject {
 
     // The item's own words about its range, without the gaps that missing limits and units leave in them.
     readonly property string tidyRange: rangeDescription.replace(/\s+/g, " ").trim()
-    // Those of a text, which has a range only where it has limits.
-    readonly property string textRange: minimum !== undefined && maximum !== undefined ? tidyRange : ""
 
     // Why the last write was refused, in words; empty when it was not.
     property string refusal

@@ -5,7 +5,7 @@ FieldEntry {
         return checkLength(text)
     }
 
-    rangeText: face.textRange
+    rangeText: lengthText
     echoMode: TextInput.Password
     inputMethodHints: Qt.ImhHiddenText | Qt.ImhSensitiveData | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
 }

@@ -6,7 +6,7 @@ FieldEntry {
         return Formats.phoneProblem(text) || checkLength(text)
     }
 
-    rangeText: face.textRange
+    rangeText: lengthText
     placeholderText: "+1 555 0100"
     inputMethodHints: Qt.ImhDialableCharactersOnly
 }

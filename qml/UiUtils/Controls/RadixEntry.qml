@@ -39,7 +39,7 @@ FieldEntry {
         return number >= least && number <= most ? "" : Formats.rangeText(least, most, textOf, unit)
     }
 
-    rangeText: isNumber ? Formats.rangeText(minimum, maximum, textOf, unit) : face.textRange
+    rangeText: isNumber ? Formats.rangeText(minimum, maximum, textOf, unit) : lengthText
     // Where the field is plain text for reading, too, the digits are what counts.
     plainText: shownText
 }

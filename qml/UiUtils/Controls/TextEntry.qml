@@ -13,5 +13,5 @@ FieldEntry {
         return checkLength(text)
     }
 
-    rangeText: face.textRange
+    rangeText: lengthText
 }
