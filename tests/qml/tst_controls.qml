@@ -36,12 +36,25 @@ Item {
         TextEntry {}
     }
     Component {
+        id: listComponent
+        // The item is complete only after its entry.
+        Column {
+            property alias names: names
+            UiData { id: names; value: "a,b"; type: "std::vector<string>" }
+            Repeater {
+                model: [names]
+                ItemEntry { width: 400; item: modelData }
+            }
+        }
+    }
+    Component {
         id: choicesComponent
         EnumUiData {
             value: 1
             uiEnumList: UiDataEnums {
                 UiEnumType { label: "One"; value: 1 }
                 UiEnumType { label: "Two"; value: 2; applicable: false }
+                UiEnumType { label: "Three"; value: 3; applicable: false }
             }
         }
     }
@@ -225,6 +238,15 @@ Item {
             keyClick(Qt.Key_Down)
             compare(item.value, 2)
             compare(box.displayText, "Two")
+            // The place among more choices is the same.
+            item.uiEnumList.at(2).applicable = true
+            compare(box.currentIndex, 1)
+
+            const fixed = findChild(make(entryComponent, { item: entry_cfg_fixed }), "box")
+            fixed.forceActiveFocus()
+            keyClick(Qt.Key_Down)
+            compare(fixed.currentIndex, 0)
+            compare(fixed.displayText, "One")
         }
 
         function test_hiddenWithoutMeaning() {
@@ -295,9 +317,13 @@ Item {
             compare(fieldOf(findChild(entry, "adder")).text, "")
             tryCompare(rows, "count", 3)
             waitForRendering(rows)
+            type(rows.itemAtIndex(2), "not taken yet")
             mouseClick(findChild(rows.itemAtIndex(0), "removeButton"))
             compare(hosts(), ["gamma", "delta"])
             tryVerify(() => fieldOf(rows.itemAtIndex(0)).text === "gamma")
+            compare(fieldOf(rows.itemAtIndex(1)).text, "not taken yet")
+            fieldOf(rows.itemAtIndex(1)).forceActiveFocus()
+            keyClick(Qt.Key_Escape)
             driver.setReachable(false, "entry")
             compare(rows.count, 2)
             driver.setReachable(true, "entry")
@@ -319,11 +345,10 @@ Item {
             waitForRendering(rows)
             mouseClick(findChild(rows.itemAtIndex(1), "removeButton"))
             compare(item.value, "1.5,3.25")
-            const names = createTemporaryObject(localComponent, root, { type: "std::vector<string>", value: "a" })
-            const list = make(entryComponent, { item: names })
-            tryCompare(findChild(list, "rows"), "count", 1)
-            enter(findChild(list, "adder"), "b,c")
-            compare(names.value, "a")
+            const list = make(listComponent)
+            tryCompare(findChild(list, "rows"), "count", 2)
+            enter(findChild(list, "adder"), "c,d")
+            compare(list.names.value, "a,b")
         }
 
         function test_serviceGoesWhileEditing() {
@@ -357,9 +382,16 @@ Item {
             const far = make(entryComponent, { item: entry_cfg_far })
             type(far, "70")
             driver.report(":config:entry:mode:", 1)
+            verify(!fieldOf(far).activeFocus)
             compare(driver.value(":config:entry:far:"), 7)
             driver.report(":config:entry:mode:", 2)
             compare(fieldOf(far).text, "70")
+
+            const item = createTemporaryObject(localComponent, root, { type: "std::string", value: "before" })
+            const local = make(entryComponent, { item: item })
+            type(local, "after")
+            item.isReady = false
+            compare(item.value, "before")
         }
 
         function test_madeWhileTheServiceIsAway() {
@@ -414,6 +446,9 @@ Item {
             const street = createTemporaryObject(localComponent, root, { type: "std::string", value: "", mandatory: true })
             entry.item = street
             tryCompare(street, "valueOk", false)
+            const town = createTemporaryObject(localComponent, root, { type: "std::string", value: "", mandatory: true })
+            entry.item = town
+            tryCompare(town, "valueOk", false)
             verify(site.valueOk)
         }
 

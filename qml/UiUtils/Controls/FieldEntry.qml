@@ -138,6 +138,11 @@ Entry {
             hasNews = true
     }
     onItemChanged: settle()
+    Connections {
+        target: face
+        // A hidden field would go on taking keys.
+        function onIsApplicableChanged() { field.focus = face.isApplicable }
+    }
     onVisibleChanged: {
         if (!visible && padLoader.item)
             padLoader.item.close()
@@ -179,8 +184,8 @@ Entry {
                 onTextEdited: entry.takeTyping()
                 onAccepted: entry.commit()
                 onActiveFocusChanged: {
-                    // A field that is disabled or loses its meaning was not left by the user.
-                    if (!activeFocus && entry && enabled && face.isApplicable && !(padLoader.item && padLoader.item.visible))
+                    // A field that loses its meaning was not left by the user.
+                    if (!activeFocus && entry && face.isApplicable && !(padLoader.item && padLoader.item.visible))
                         entry.commit()
                 }
 
