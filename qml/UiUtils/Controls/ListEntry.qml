@@ -159,6 +159,7 @@ Entry {
     RowLayout {
         Layout.fillWidth: true
         Layout.leftMargin: 30
+        Layout.rightMargin: entry.isLong ? 12 : 0
         spacing: 4
 
         ListElementEntry {
