@@ -43,6 +43,12 @@ plugin=$(find "$plain" -path '*/qt5/qml/UiUtils/libuiutilsplugin.so')
 for file in qmldir plugins.qmltypes; do
     test -s "$(dirname "$plugin")/$file"
 done
+# Every file that the entries' qmldir names is there.
+controls="$(dirname "$plugin")/Controls"
+while read -r file; do
+    test -s "$controls/$file"
+done < <(sed -n 's/.* \([A-Za-z]*\.qml\)$/\1/p' "$controls/qmldir")
+test -s "$controls/ItemEntry.qml"
 if LD_LIBRARY_PATH='' ldd "$plugin" | grep 'libuiutils\|libkiv' | grep -v " => $plain/"; then
     echo "the QML module does not find its library" >&2
     exit 1

@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
+#include <QQmlError>
 #include <QtQuickTest>
 
 #include <memory>
@@ -21,24 +22,46 @@ public:
     {
     }
 
-    /// The service as its file says.
+    /// The services as their files say.
     Q_INVOKABLE void reset()
     {
-        m_backend->withdraw("field");
-        QString problem;
-        if (!m_backend->loadFile(UIUTILS_SOURCE_DIR "/tests/qml/services/field.service.json", &problem))
-            qFatal("%s", qPrintable(problem));
+        for (const char* name : {"field", "entry"}) {
+            m_backend->withdraw(name);
+            QString problem;
+            if (!m_backend->loadFile(QString(UIUTILS_SOURCE_DIR "/tests/qml/services/%1.service.json").arg(name), &problem))
+                qFatal("%s", qPrintable(problem));
+        }
     }
-    Q_INVOKABLE void report(const QString& id, const QVariant& value) { service()->setValue(id, value); }
-    Q_INVOKABLE QVariant value(const QString& id) const { return service()->item(id)->getValue(); }
-    Q_INVOKABLE void setReady(const QString& id, bool isReady) { service()->setReady(id, isReady); }
-    Q_INVOKABLE void setReachable(bool isReachable) { service()->setReachable(isReachable); }
-    Q_INVOKABLE void reportError(const QString& text) { service()->reportError(text); }
+    Q_INVOKABLE void report(const QString& id, const QVariant& value) { serviceOf(id)->setValue(id, value); }
+    Q_INVOKABLE QVariant value(const QString& id) const { return serviceOf(id)->item(id)->getValue(); }
+    Q_INVOKABLE void setReady(const QString& id, bool isReady) { serviceOf(id)->setReady(id, isReady); }
+    Q_INVOKABLE void setReachable(bool isReachable, const QString& name = "field")
+    {
+        m_backend->service(name)->setReachable(isReachable);
+    }
+    Q_INVOKABLE void reportError(const QString& text) { m_backend->service("field")->reportError(text); }
+
+    Q_INVOKABLE void setLocale(const QString& name) { QLocale::setDefault(QLocale(name)); }
+
+    /// What the engine has complained about since the last call.
+    Q_INVOKABLE QStringList takeWarnings()
+    {
+        QStringList taken;
+        taken.swap(m_warnings);
+        return taken;
+    }
+    void noteWarnings(const QList<QQmlError>& warnings)
+    {
+        for (const QQmlError& warning : warnings)
+            m_warnings.append(warning.toString());
+    }
 
 private:
-    kiv::embedded::EmbeddedService* service() const { return m_backend->service("field"); }
+    /// The second word of an id here is its service.
+    kiv::embedded::EmbeddedService* serviceOf(const QString& id) const { return m_backend->service(id.section(':', 2, 2)); }
 
     kiv::embedded::EmbeddedBackend* m_backend;
+    QStringList m_warnings;
 };
 
 class Setup : public QObject
@@ -54,8 +77,16 @@ public Q_SLOTS:
     }
     void qmlEngineAvailable(QQmlEngine* engine)
     {
+        connect(engine, &QQmlEngine::warnings, this, [this](const auto& warnings) { m_driver.noteWarnings(warnings); });
         engine->rootContext()->setContextProperty("driver", &m_driver);
         m_instrument->showTo(engine);
+    }
+    /// Test cases take the warnings of their own tests; what is left came between them.
+    void cleanupTestCase()
+    {
+        const QStringList left = m_driver.takeWarnings();
+        if (!left.isEmpty())
+            qFatal("%s", qPrintable(left.join('\n')));
     }
 
 private:

@@ -1,0 +1,99 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Layouts 1.15
+import UiUtils.Controls 1.0
+
+// One of an enumeration's choices; written at once. Choices that do not apply now are not offered, but one that is set is
+// shown all the same.
+Entry {
+    id: entry
+
+    // Choices of an entry without an item, as { label, value }.
+    property var choices: face.choices
+
+    readonly property int position: choices.findIndex(choice => choice.value === Number(currentValue))
+
+    // The label is the item's business for a value that is not offered.
+    function labelOf(value) {
+        if (position >= 0)
+            return choices[position].label
+        if (value === undefined || value === null || value === "")
+            return ""
+        return (face.hasItem ? item.enumLabelForValue(value) : "") || lastLabel || String(value)
+    }
+
+    // Survives the service, which takes its labels along.
+    property string lastLabel
+
+    function take(index) {
+        const chosen = choices[index]
+        if (chosen && chosen.value !== Number(currentValue) && store(chosen.value) === "")
+            committed(chosen.value)
+        box.currentIndex = Qt.binding(() => entry.position)
+    }
+
+    isAcceptable: !mandatory || position >= 0
+    rangeText: ""
+    plainText: box.displayText
+
+    ComboBox {
+        id: box
+        objectName: "box"
+        Layout.fillWidth: true
+        implicitHeight: ControlsStyle.touch
+        focus: true
+        model: entry.choices
+        textRole: "label"
+        currentIndex: entry.position
+        displayText: entry.labelOf(entry.currentValue)
+        leftPadding: 0
+        font.pixelSize: ControlsStyle.bodyText
+        Accessible.name: entry.label
+        Accessible.description: entry.note
+        Keys.onReturnPressed: popup.open()
+        Keys.onEnterPressed: popup.open()
+        // A new list forgets the place.
+        onModelChanged: currentIndex = Qt.binding(() => entry.position)
+        onActivated: entry.take(index)
+
+        contentItem: Text {
+            leftPadding: ControlsStyle.margin
+            text: box.displayText + (entry.unit !== "" && box.displayText !== "" ? " " + entry.unit : "")
+            textFormat: Text.PlainText
+            font: box.font
+            color: box.enabled ? ControlsStyle.text : ControlsStyle.mutedText
+            verticalAlignment: Text.AlignVCenter
+            elide: Text.ElideRight
+        }
+        indicator: Text {
+            x: box.width - width - ControlsStyle.margin
+            y: (box.height - height) / 2
+            text: "\u25be"
+            font.pixelSize: ControlsStyle.headingText
+            color: box.enabled ? ControlsStyle.primary : ControlsStyle.border
+        }
+        background: EntryFrame {
+            isFocused: box.activeFocus
+            isInvalid: entry.isInvalid
+            quality: entry.face.quality
+        }
+        delegate: ItemDelegate {
+            id: choice
+            width: box.width
+            height: ControlsStyle.touch
+            highlighted: box.highlightedIndex === index
+            contentItem: Text {
+                leftPadding: 4
+                text: modelData.label
+                textFormat: Text.PlainText
+                color: ControlsStyle.text
+                font { pixelSize: ControlsStyle.bodyText; bold: entry.position === index }
+                verticalAlignment: Text.AlignVCenter
+                elide: Text.ElideRight
+            }
+            background: Rectangle {
+                color: choice.highlighted ? ControlsStyle.pressed : ControlsStyle.field
+            }
+        }
+    }
+}

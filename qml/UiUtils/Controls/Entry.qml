@@ -1,0 +1,164 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import UiUtils 1.0
+import UiUtils.Controls 1.0
+
+// What all entries have in common: label, quality, the editor, and the line that says what is wrong or what is wanted.
+FocusScope {
+    id: entry
+
+    // The service item or local item that is edited. Without one an entry works on `value` alone.
+    property var item
+    property var value
+    property string label: face.label
+    property string unit: face.unit
+    property bool readOnly: face.readOnly
+    property bool mandatory: face.mandatory
+    property string type: face.type
+    property var minimum: face.minimum
+    property var maximum: face.maximum
+    property string rangeText: face.rangeDescription
+    // In a row of a list: without label and range.
+    property bool compact: false
+    // Stands in for writing to the item; takes the value and returns why it was refused, or an empty text.
+    property var storeWith: null
+
+    property bool isReady: face.isReady
+    readonly property var currentValue: face.hasItem ? face.value : value
+    readonly property alias face: face
+    // What users with a screen reader hear beside the name.
+    readonly property alias note: noteText.text
+
+    // Set by the editors.
+    property string plainText: face.valueString
+    property string complaint: face.refusal
+    property bool isInvalid: complaint !== ""
+    property string news
+    // Whether what stands in the editor could be committed.
+    property bool isAcceptable: true
+
+    default property alias content: slot.data
+
+    signal committed(var value)
+
+    function store(newValue) {
+        if (storeWith)
+            return storeWith(newValue)
+        if (face.hasItem)
+            return face.write(newValue)
+        value = newValue
+        return ""
+    }
+
+    // A container looks at `valueOk` only when it hears of a value.
+    function tellWhetherOk() {
+        if (!face.isLocal || !item || item.valueOk === isAcceptable)
+            return
+        item.valueOk = isAcceptable
+        if (item && item.mandatory)
+            UiDataContainer.slotValueUpdated()
+    }
+
+    onIsAcceptableChanged: tellWhetherOk()
+    // Once everything here is about the new one.
+    onItemChanged: Qt.callLater(tellWhetherOk)
+    Component.onCompleted: tellWhetherOk()
+
+    Connections {
+        target: face
+        function onIsLocalChanged() { entry.tellWhetherOk() }
+    }
+
+    visible: face.isApplicable
+    implicitWidth: 320
+    implicitHeight: column.implicitHeight
+
+    ItemFace {
+        id: face
+        item: entry.item
+    }
+
+    // No layout: its height would follow the width of wrapped texts within one change, which goes round in circles.
+    Column {
+        id: column
+        width: parent.width
+        spacing: 3
+
+        RowLayout {
+            width: parent.width
+            visible: !entry.compact && (entry.label !== "" || face.quality !== 0)
+            spacing: 4
+
+            Text {
+                Layout.maximumWidth: column.width - qualityWord.implicitWidth - 24
+                text: entry.label
+                textFormat: Text.PlainText
+                color: ControlsStyle.mutedText
+                font.pixelSize: ControlsStyle.smallText
+                elide: Text.ElideRight
+            }
+            Text {
+                Layout.fillWidth: true
+                text: entry.mandatory && !entry.readOnly ? "*" : ""
+                color: ControlsStyle.invalid
+                font { pixelSize: ControlsStyle.smallText; bold: true }
+            }
+            Text {
+                id: qualityWord
+                text: ControlsStyle.qualityWord(face.quality)
+                color: ControlsStyle.qualityColor(face.quality)
+                font { pixelSize: ControlsStyle.smallText; bold: true }
+            }
+        }
+
+        ColumnLayout {
+            id: slot
+            width: parent.width
+            visible: !entry.readOnly
+            enabled: entry.isReady
+            spacing: ControlsStyle.gap
+        }
+
+        Text {
+            width: parent.width
+            height: Math.max(ControlsStyle.touch, implicitHeight)
+            visible: entry.readOnly
+            text: entry.plainText === "" ? "\u2013" : entry.plainText
+            textFormat: Text.PlainText
+            verticalAlignment: Text.AlignVCenter
+            wrapMode: Text.Wrap
+            color: !entry.isReady ? ControlsStyle.mutedText
+                 : face.quality !== 0 ? ControlsStyle.qualityColor(face.quality) : ControlsStyle.text
+            font { pixelSize: ControlsStyle.headingText; bold: face.quality !== 0 }
+            Accessible.role: Accessible.StaticText
+            Accessible.name: entry.label + " " + text
+        }
+        Text {
+            id: noteText
+            width: parent.width
+            visible: text !== ""
+            text: face.isMissing ? qsTr("Not available")
+                : !entry.isReady ? qsTr("Not ready")
+                : entry.readOnly ? ""
+                : entry.complaint !== "" ? entry.complaint
+                : entry.compact ? "" : entry.rangeText
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            color: entry.isInvalid && entry.isReady ? ControlsStyle.invalid : ControlsStyle.mutedText
+            font { pixelSize: ControlsStyle.smallText; bold: entry.isInvalid && entry.isReady }
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+        Text {
+            width: parent.width
+            visible: text !== "" && !entry.readOnly
+            text: entry.news
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            color: ControlsStyle.news
+            font.pixelSize: ControlsStyle.smallText
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+    }
+}

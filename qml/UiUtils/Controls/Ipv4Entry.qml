@@ -1,0 +1,15 @@
+import QtQuick 2.15
+import "formats.js" as Formats
+
+FieldEntry {
+    function check(text) {
+        return Formats.ipv4Problem(text) || checkLength(text)
+    }
+
+    rangeText: "0.0.0.0 - 255.255.255.255"
+    placeholderText: "192.0.2.1"
+    // Not digits only: such a keyboard has no points in a comma country.
+    inputMethodHints: Qt.ImhPreferNumbers | Qt.ImhNoPredictiveText
+    hasPad: true
+    padSeparator: "."
+}

@@ -1,0 +1,186 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Layouts 1.15
+import UiUtils.Controls 1.0
+import "formats.js" as Formats
+
+// The elements of an array, one under the other, and a line for the next one.
+Entry {
+    id: entry
+
+    // Rows that are seen at once; more are scrolled.
+    property int visibleRows: 3
+    property int decimals: face.decimals
+
+    readonly property bool isText: type === "std::vector<string>"
+    readonly property int count: rows.count
+
+    // Called with the number of reports, so that a binding asks again after each.
+    function element(index, reports) {
+        return face.hasItem && index >= 0 ? item.at(index) : undefined
+    }
+
+    function labelOfRow(index) {
+        return index < 0 ? qsTr("New element of %1").arg(label) : qsTr("Element %1 of %2").arg(index + 1).arg(label)
+    }
+
+    function storeRow(index, newValue) {
+        // A row that is being disabled loses the focus before it hears why.
+        if (!face.item || !face.item.isReady)
+            return qsTr("Not ready")
+        return index < 0 ? append(newValue) : replace(index, newValue)
+    }
+
+    function write(change, local) {
+        return face.writeWith(() => {
+            if (face.isLocal) {
+                local()
+                return
+            }
+            const list = face.elements()
+            change(list)
+            item.value = list
+        })
+    }
+
+    function replace(index, newValue) {
+        return write(list => list[index] = newValue, () => item.setAt(index, newValue))
+    }
+
+    function append(newValue) {
+        const refusal = write(list => list.push(newValue), () => item.insertAt(item.valueCount, newValue))
+        if (refusal === "")
+            committed(newValue)
+        return refusal
+    }
+
+    function remove(index) {
+        // The row goes first, so that those behind it keep what is typed in them.
+        rows.remove(index)
+        write(list => list.splice(index, 1), () => item.removeAt(index))
+        follow()
+    }
+
+    function follow() {
+        const source = face.item
+        const count = source ? source.valueCount : 0
+        while (rows.count < count)
+            rows.append({ unused: 0 })
+        while (rows.count > count)
+            rows.remove(rows.count - 1)
+    }
+
+    function focusRow(index) {
+        view.positionViewAtIndex(index, ListView.Contain)
+        const row = view.itemAtIndex(index)
+        if (row)
+            row.forceActiveFocus()
+        else
+            adder.forceActiveFocus()
+    }
+
+    isAcceptable: !mandatory || count > 0
+    plainText: face.hasItem ? allText(face.reports) : ""
+
+    function allText(reports) {
+        return face.elements().map(textOf).join(", ")
+    }
+
+    function textOf(element) {
+        return isText ? element : String(element).replace(".", Qt.locale().decimalPoint)
+    }
+
+    rangeText: Formats.rangeText(minimum, maximum, textOf, isText ? qsTr("chars") : unit)
+    readonly property bool isLong: rows.count > visibleRows
+
+    Connections {
+        target: entry.face
+        function onReportsChanged() { entry.follow() }
+        function onTypeChanged() { entry.follow() }
+    }
+    Component.onCompleted: follow()
+
+    ListModel { id: rows }
+
+    ListView {
+        id: view
+        objectName: "rows"
+        Layout.fillWidth: true
+        // A row that is cut off says that there is more.
+        Layout.preferredHeight: entry.isLong ? entry.visibleRows * (ControlsStyle.touch + spacing) + ControlsStyle.touch / 2 : contentHeight
+        visible: count > 0
+        model: rows
+        clip: true
+        spacing: 4
+        // Rows keep what is typed in them while they are scrolled out of sight.
+        cacheBuffer: 4000
+        boundsBehavior: Flickable.StopAtBounds
+        ScrollBar.vertical: ScrollBar { policy: entry.isLong ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
+
+        delegate: FocusScope {
+            id: row
+
+            width: view.width - (entry.isLong ? 12 : 0)
+            height: line.implicitHeight
+            Keys.onUpPressed: entry.focusRow(Math.max(0, index - 1))
+            Keys.onDownPressed: entry.focusRow(index + 1)
+            onActiveFocusChanged: {
+                if (activeFocus && entry.face.hasItem)
+                    entry.item.arraySelection = index
+            }
+
+            RowLayout {
+                id: line
+                width: parent.width
+                spacing: 4
+
+                Text {
+                    Layout.preferredWidth: 26
+                    text: index + 1
+                    horizontalAlignment: Text.AlignRight
+                    color: ControlsStyle.mutedText
+                    font.pixelSize: ControlsStyle.smallText
+                }
+                ListElementEntry {
+                    Layout.fillWidth: true
+                    list: entry
+                    row: index
+                }
+                EntryButton {
+                    objectName: "removeButton"
+                    text: "\u00d7"
+                    font.pixelSize: ControlsStyle.padText
+                    Accessible.name: qsTr("Remove element %1 of %2").arg(index + 1).arg(entry.label)
+                    onClicked: entry.remove(index)
+                }
+            }
+        }
+    }
+    RowLayout {
+        Layout.fillWidth: true
+        Layout.leftMargin: 30
+        Layout.rightMargin: entry.isLong ? 12 : 0
+        spacing: 4
+
+        ListElementEntry {
+            id: adder
+            list: entry
+            objectName: "adder"
+            Layout.fillWidth: true
+            Keys.onUpPressed: {
+                if (rows.count > 0)
+                    entry.focusRow(rows.count - 1)
+            }
+        }
+        EntryButton {
+            objectName: "addButton"
+            text: "+"
+            font.pixelSize: ControlsStyle.padText
+            Accessible.name: qsTr("Add to %1").arg(entry.label)
+            onClicked: {
+                if (adder.item)
+                    adder.item.commit()
+            }
+        }
+    }
+}

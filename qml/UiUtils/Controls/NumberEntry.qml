@@ -1,0 +1,65 @@
+import QtQuick 2.15
+import UiUtils 1.0
+import "formats.js" as Formats
+
+// A number, written as the user's locale writes it and handed on as a plain number.
+FieldEntry {
+    id: entry
+
+    // Decimals that are shown and taken; -1 for any.
+    property int decimals: face.decimals
+    property bool whole: Formats.isWholeType(type) || face.inputType === KivData.INPUT_INT
+                         || face.inputType === KivData.INPUT_POSITIVE_INT
+    property bool positive: face.inputType === KivData.INPUT_POSITIVE_INT || face.inputType === KivData.INPUT_POSITIVE_FLOAT
+
+    readonly property var least: Math.max(Formats.typeLimits(type)[0], positive ? 0 : -Infinity,
+                                          minimum === undefined ? -Infinity : Number(minimum))
+    readonly property var most: Math.min(Formats.typeLimits(type)[1], maximum === undefined ? Infinity : Number(maximum))
+
+    function textOf(value) {
+        if (value === undefined || value === null || value === "")
+            return ""
+        const number = Number(value)
+        if (isNaN(number))
+            return String(value)
+        const plain = decimals >= 0 && !whole ? number.toFixed(decimals) : String(number)
+        return plain.replace(".", Qt.locale().decimalPoint)
+    }
+
+    function parsed(text) {
+        return text === "" ? undefined : Number(Formats.plainNumber(text, Qt.locale()))
+    }
+
+    function check(text) {
+        const plain = Formats.plainNumber(text, Qt.locale())
+        const number = Number(plain)
+        if (plain === "") {
+            const point = Qt.locale().decimalPoint
+            return point !== "." && text.includes(".") ? qsTr("Decimals stand behind \"%1\"").arg(point) : qsTr("This is no number")
+        }
+        if (whole && !Number.isInteger(number))
+            return qsTr("A whole number is needed")
+        if (number < least || number > most)
+            return outside()
+        const fraction = /\.([0-9]*)/.exec(plain)
+        if (!whole && decimals >= 0 && fraction && fraction[1].length > decimals)
+            return decimals === 0 ? qsTr("A whole number is needed") : qsTr("Decimals: at most %1").arg(decimals)
+        return ""
+    }
+
+    function outside() {
+        return rangeText !== "" ? rangeText : Formats.rangeText(isFinite(least) ? least : undefined,
+                                                                isFinite(most) ? most : undefined, textOf, unit)
+    }
+
+    // The item's own words where they tell the limits as they are.
+    rangeText: {
+        const isDescribed = face.inputType >= KivData.INPUT_INT && face.inputType <= KivData.INPUT_POSITIVE_FLOAT
+                          && (whole || decimals >= 0 || face.hasFormatter) && face.minimum !== undefined && face.maximum !== undefined
+        return isDescribed ? Formats.withUnit(face.tidyRange, unit) : Formats.rangeText(minimum, maximum, textOf, unit)
+    }
+    inputMethodHints: whole && least >= 0 ? Qt.ImhDigitsOnly : Qt.ImhFormattedNumbersOnly
+    hasPad: true
+    padSeparator: whole || decimals === 0 ? "" : Qt.locale().decimalPoint
+    padHasSign: least < 0
+}

@@ -1,0 +1,12 @@
+import QtQuick 2.15
+import "formats.js" as Formats
+
+FieldEntry {
+    function check(text) {
+        return Formats.phoneProblem(text) || checkLength(text)
+    }
+
+    rangeText: lengthText
+    placeholderText: "+1 555 0100"
+    inputMethodHints: Qt.ImhDialableCharactersOnly
+}

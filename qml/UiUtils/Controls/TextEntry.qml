@@ -1,0 +1,17 @@
+import QtQuick 2.15
+
+// Any text, of the length and form that the item asks for.
+FieldEntry {
+    // Characters that this text may not have.
+    property string forbidden
+
+    function check(text) {
+        for (const character of forbidden) {
+            if (text.includes(character))
+                return qsTr("\"%1\" cannot be used here").arg(character)
+        }
+        return checkLength(text)
+    }
+
+    rangeText: lengthText
+}

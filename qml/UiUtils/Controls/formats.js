@@ -1,0 +1,145 @@
+.pragma library
+
+// How addresses, names and numbers are written. Each check returns what is wrong with a text, in words, or an empty text.
+
+function ipv4Problem(text) {
+    const parts = text.split(".")
+    if (parts.length !== 4)
+        return qsTr("Four numbers with points between them, such as 192.0.2.1")
+    if (!parts.every(part => /^[0-9]{1,3}$/.test(part) && Number(part) <= 255))
+        return qsTr("Each part is a number from 0 to 255")
+    // Some programs would take them for octal.
+    return parts.some(part => /^0[0-9]/.test(part)) ? qsTr("No part begins with a 0") : ""
+}
+
+function groupsOf(text) {
+    return text === "" ? [] : text.split(":")
+}
+
+function ipv6Problem(text) {
+    const form = qsTr("Up to eight groups with colons between them, such as 2001:db8::1")
+    let address = text.replace(/%[A-Za-z0-9._-]+$/, "")
+    const halves = address.split("::")
+    if (halves.length > 2)
+        return qsTr("\"::\" stands only once")
+    const groups = halves.reduce((all, half) => all.concat(groupsOf(half)), [])
+    let count = groups.length
+    const last = groups[count - 1] || ""
+    if (last.includes(".") && !address.endsWith("::")) {
+        const problem = ipv4Problem(last)
+        if (problem !== "")
+            return problem
+        groups.pop()
+        ++count
+    }
+    if (!groups.every(group => /^[0-9A-Fa-f]{1,4}$/.test(group)))
+        return groups.some(group => group === "") ? form : qsTr("Each group is one to four hexadecimal digits")
+    return halves.length === 2 ? (count <= 7 ? "" : form) : count === 8 ? "" : form
+}
+
+function macProblem(text) {
+    return /^([0-9A-Fa-f]{2}([:-]))([0-9A-Fa-f]{2}\2){4}[0-9A-Fa-f]{2}$/.test(text) || /^[0-9A-Fa-f]{12}$/.test(text)
+            ? "" : qsTr("Six pairs of hexadecimal digits, such as 00:1A:2B:3C:4D:5E")
+}
+
+function macText(text) {
+    return text.replace(/[:-]/g, "").toUpperCase().match(/../g).join(":")
+}
+
+function urlProblem(text) {
+    if (/\s/.test(text))
+        return qsTr("A URL has no blanks")
+    return /^[A-Za-z][A-Za-z0-9+.-]*:\/\/([^\/?#@]*@)?(\[[0-9A-Fa-f:.]+\]|[^\/?#@:\[\]]+)(:[0-9]{1,5})?([\/?#].*)?$/.test(text)
+            ? "" : qsTr("Scheme and host, such as https://host/path")
+}
+
+function utf8Length(text) {
+    return encodeURIComponent(text.replace(/[\uD800-\uDFFF]/g, "__")).replace(/%../g, "x").length
+}
+
+function fileNameProblem(text) {
+    // Those of a stick that other computers read as well.
+    if (/[\/\\:*?"<>|\u0000-\u001f\u007f]/.test(text))
+        return qsTr("A file name has none of / \\ : * ? \" < > |")
+    if (/^\.+$/.test(text) || /^\s|[\s.]$/.test(text))
+        return qsTr("A file name begins with no blank and ends with no blank or point")
+    return utf8Length(text) > 255 ? qsTr("This file name is too long") : ""
+}
+
+function phoneProblem(text) {
+    return /^\+?[0-9 ()\/*#-]*$/.test(text) && /[0-9*#]/.test(text)
+            ? "" : qsTr("Digits, + at the beginning, blanks and ( ) / - * #")
+}
+
+// `range` with the unit behind it, unless it says it already.
+function withUnit(range, unit) {
+    return range === "" || unit === "" || range.includes(unit) ? range : range + " " + unit
+}
+
+// A number as a program writes it, from one that a user wrote in the locale; empty when it is none. Group separators are not
+// taken: where they are points, "1.5" would become 15.
+function plainNumber(text, locale) {
+    let plain = ""
+    for (const character of text.trim()) {
+        const digit = character.charCodeAt(0) - locale.zeroDigit.charCodeAt(0)
+        if (digit >= 0 && digit <= 9)
+            plain += digit
+        else if (character === locale.decimalPoint)
+            plain += "."
+        else if (character === ".")
+            return ""
+        else
+            plain += character === locale.negativeSign ? "-" : character
+    }
+    return /^[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?$/.test(plain) && isFinite(Number(plain)) ? plain : ""
+}
+
+function durationText(seconds) {
+    const whole = Math.abs(Math.round(seconds))
+    const two = number => (number < 10 ? "0" : "") + number
+    return (seconds < 0 ? "-" : "") + Math.floor(whole / 3600) + ":" + two(Math.floor(whole / 60) % 60) + ":" + two(whole % 60)
+}
+
+// The seconds of "h:mm:ss", "m:ss" or "s"; NaN for any other text.
+function secondsOf(text) {
+    const match = /^(?:(?:([0-9]{1,6}):)?([0-9]{1,6}):)?([0-9]{1,9})$/.exec(text)
+    if (!match)
+        return NaN
+    const hours = match[1] === undefined ? 0 : Number(match[1])
+    const minutes = match[2] === undefined ? 0 : Number(match[2])
+    const seconds = Number(match[3])
+    if ((match[2] !== undefined && seconds > 59) || (match[1] !== undefined && minutes > 59))
+        return NaN
+    return hours * 3600 + minutes * 60 + seconds
+}
+
+function isWholeType(type) {
+    return ["int", "uint", "qint64", "quint64", "std::vector<int32_t>"].includes(type)
+}
+
+// The numbers that a type can hold, and that can be told apart.
+function typeLimits(type) {
+    switch (type) {
+    case "int":
+    case "std::vector<int32_t>":
+        return [-2147483648, 2147483647]
+    case "uint":
+        return [0, 4294967295]
+    case "quint64":
+        return [0, Number.MAX_SAFE_INTEGER]
+    case "qint64":
+        return [Number.MIN_SAFE_INTEGER, Number.MAX_SAFE_INTEGER]
+    default:
+        return [-Infinity, Infinity]
+    }
+}
+
+// The range in words, each limit written by `write`.
+function rangeText(minimum, maximum, write, unit) {
+    const behind = unit === "" ? "" : " " + unit
+    if (minimum !== undefined && maximum !== undefined)
+        return "%1 - %2%3".arg(write(minimum)).arg(write(maximum)).arg(behind)
+    if (minimum !== undefined)
+        return qsTr("At least %1").arg(write(minimum) + behind)
+    return maximum !== undefined ? qsTr("At most %1").arg(write(maximum) + behind) : ""
+}
