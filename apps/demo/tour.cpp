@@ -73,6 +73,7 @@ void Tour::visitAll()
     visit({SettingsPage, QStringLiteral("4-changing"), &Tour::changeSettings});
     visit({SettingsPage, QStringLiteral("5-settings"), &Tour::applySettings});
     visit({ReportPage, QStringLiteral("6-report"), &Tour::saveReport});
+    visit({GalleryPage, QStringLiteral("7-entries")});
 }
 
 void Tour::visit(const Stop& stop)

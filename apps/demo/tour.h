@@ -37,7 +37,7 @@ Q_SIGNALS:
     void failed(const QString& text);
 
 private:
-    enum Page { MeasurePage, ResultsPage, ReportPage, SettingsPage };
+    enum Page { MeasurePage, ResultsPage, ReportPage, SettingsPage, GalleryPage };
 
     /// A page to show, the name of its picture, and what is done there before that; false when it failed.
     struct Stop

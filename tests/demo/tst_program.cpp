@@ -105,7 +105,7 @@ private Q_SLOTS:
         const QStringList reports = filesBelow(root + "/cust/public/reports");
         const QStringList pictures = filesBelow(root + "/pictures");
         QCOMPARE(reports.size(), 3);
-        QCOMPARE(pictures.size(), 6);
+        QCOMPARE(pictures.size(), 7);
         for (const QString& file : reports + pictures)
             QVERIFY2(outcome.output.split('\n').contains(file), qPrintable(outcome.output));
         checkReport(reports.at(0), reports.at(1), samples);

@@ -8,7 +8,7 @@ ApplicationWindow {
 
     required property LoopbackMeasurement measurement
     required property ReportSaver saver
-    // The page shown: 0 Measure, 1 Results, 2 Report, 3 Settings.
+    // The page shown: 0 Measure, 1 Results, 2 Report, 3 Settings, 4 Entries.
     property alias page: navigation.currentIndex
 
     // Saves the report of the last run; the reason when that failed, an empty text when it did not.
@@ -97,6 +97,14 @@ ApplicationWindow {
             id: settingsPage
             measurement: window.measurement
         }
+        Loader {
+            readonly property bool isWanted: navigation.currentIndex === 4
+
+            // Its many entries are made when somebody looks at them, and stay.
+            active: false
+            onIsWantedChanged: active = true
+            sourceComponent: services.optical ? galleryPage : noGallery
+        }
     }
 
     footer: TabBar {
@@ -110,10 +118,21 @@ ApplicationWindow {
             text: qsTr("Settings")
             marked: settingsPage.changed > 0
         }
+        NavigationTab { text: qsTr("Entries") }
     }
 
     Shortcut { sequence: "Ctrl+1"; onActivated: navigation.currentIndex = 0 }
     Shortcut { sequence: "Ctrl+2"; onActivated: navigation.currentIndex = 1 }
     Shortcut { sequence: "Ctrl+3"; onActivated: navigation.currentIndex = 2 }
     Shortcut { sequence: "Ctrl+4"; onActivated: navigation.currentIndex = 3 }
+    Shortcut { sequence: "Ctrl+5"; onActivated: navigation.currentIndex = 4 }
+
+    Component {
+        id: galleryPage
+        GalleryPage {}
+    }
+    Component {
+        id: noGallery
+        EmptyNote { text: qsTr("The service \"optical\", whose items this page shows, is not there.") }
+    }
 }
