@@ -1,5 +1,7 @@
 #include "core/userdata.h"
 #include "document/reporttemplate.h"
+#include "local/uidata.h"
+#include "local/uidatacontainer.h"
 #include "module/uiutilsmodule.h"
 #include "service/forgivingvalidator.h"
 #include "service/kivaggregatedata.h"
@@ -55,7 +57,9 @@ private Q_SLOTS:
                      &KivAggregateData::staticMetaObject, &KivListAggregateData::staticMetaObject,
                      &QMLListAggregate::staticMetaObject, &KIVSignal::staticMetaObject, &ForgivingValidator::staticMetaObject,
                      &UserData::staticMetaObject, &ReportTemplate::staticMetaObject, &KIVClientInterface::staticMetaObject,
-                     &BaseFormatter::staticMetaObject})
+                     &BaseFormatter::staticMetaObject, &UiData::staticMetaObject, &StringUiData::staticMetaObject,
+                     &BoolUiData::staticMetaObject, &EnumUiData::staticMetaObject, &UiDataEnums::staticMetaObject,
+                     &UiEnumType::staticMetaObject, &UiDataContainer::staticMetaObject})
             QTest::newRow(type->className()) << type;
     }
     void descriptionForTools()
