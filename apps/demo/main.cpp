@@ -1,6 +1,6 @@
 #include "common/displaysetup.h"
 #include "common/instrument.h"
-#include "core/paths.h"
+#include "common/startup.h"
 #include "demooptions.h"
 #include "demotypes.h"
 #include "instrumentroot.h"
@@ -21,24 +21,14 @@
 #include <cstdio>
 
 using namespace uiutils::demo;
-using uiutils::apps::DisplaySetup;
+using namespace uiutils::apps;
 
 namespace {
-
-constexpr int exitDone = 0;
-constexpr int exitFailed = 1;
-constexpr int exitMisused = 2;
 
 void say(const QString& text)
 {
     std::fprintf(stdout, "%s\n", qUtf8Printable(text));
     std::fflush(stdout);
-}
-
-int complain(const QString& text, int exitCode = exitFailed)
-{
-    std::fprintf(stderr, "uiutils-demo: %s\n", qUtf8Printable(text));
-    return exitCode;
 }
 
 void list(const QString& heading, const QStringList& files)
@@ -48,19 +38,6 @@ void list(const QString& heading, const QStringList& files)
     say(heading);
     for (const QString& file : files)
         say(file);
-}
-
-bool loadServices(kiv::embedded::EmbeddedBackend& backend, const QStringList& folders)
-{
-    const QStringList problems = backend.loadFolders(folders);
-    for (const QString& problem : problems)
-        complain(problem);
-    if (!backend.serviceNames().isEmpty())
-        return true;
-    complain(QCoreApplication::translate(
-            "main", "No service could be loaded from %1. Name a folder with service files with --services.")
-                     .arg(folders.join(QStringLiteral(", "))));
-    return false;
 }
 
 /// The main window, or null when its page cannot be loaded.
@@ -88,8 +65,7 @@ int runDemo(const DemoOptions& options)
 {
     qputenv("UIUTILS_ROOT", options.root.toLocal8Bit());
     kiv::embedded::EmbeddedBackend backend;
-    backend.setStateFolder(options.root + uiutils::paths::serviceSettings);
-    if (!loadServices(backend, options.serviceFolders))
+    if (!uiutils::apps::loadServices(backend, options.serviceFolders, options.root))
         return exitFailed;
     QString error;
     if (!prepareInstrumentRoot(options.root, &error))

@@ -3,8 +3,7 @@
 
 #include "common/displaysetup.h"
 #include "common/instrument.h"
-
-#include "core/paths.h"
+#include "common/startup.h"
 
 #include <embedded/embeddedbackend.h>
 
@@ -16,33 +15,14 @@
 #include <cstdio>
 
 using namespace uiutils;
+using apps::complain;
+using apps::exitDone;
+using apps::exitFailed;
+using apps::exitMisused;
 using qmltool::Options;
 using qmltool::PageWindow;
 
 namespace {
-
-constexpr int exitDone = 0;
-constexpr int exitFailed = 1;
-constexpr int exitMisused = 2;
-
-int complain(const QString& text, int exitCode = exitFailed)
-{
-    std::fprintf(stderr, "uiutils-qml: %s\n", qUtf8Printable(text));
-    return exitCode;
-}
-
-bool loadServices(kiv::embedded::EmbeddedBackend& backend, const Options& options)
-{
-    const QStringList problems = backend.loadFolders(options.serviceFolders);
-    for (const QString& problem : problems)
-        complain(problem);
-    if (!backend.serviceNames().isEmpty())
-        return true;
-    complain(QCoreApplication::translate(
-            "main", "No service could be loaded from %1. Name a folder with service files with --services.")
-                     .arg(options.serviceFolders.join(QStringLiteral(", "))));
-    return false;
-}
 
 int list(const apps::Instrument& instrument)
 {
@@ -102,8 +82,7 @@ int main(int argc, char** argv)
     const apps::DisplaySetup display;
     const QGuiApplication application(argc, argv);
     kiv::embedded::EmbeddedBackend backend;
-    backend.setStateFolder(options.root + paths::serviceSettings);
-    if (!loadServices(backend, options))
+    if (!apps::loadServices(backend, options.serviceFolders, options.root))
         return exitFailed;
     apps::Instrument instrument(backend);
     return options.outcome == Options::List ? list(instrument) : show(instrument, options);
