@@ -161,6 +161,17 @@ private Q_SLOTS:
         item.setRegex(QString());
         QCOMPARE(item.getValidator()->validate(text, position), QValidator::Acceptable);
 
+        // In whatever order a page says what an item is.
+        UiData ordered;
+        ordered.setType(UiData::TYPE_DOUBLE);
+        QVERIFY(ordered.getValidator());
+        ordered.setPrecision(4);
+        QCOMPARE(qobject_cast<QDoubleValidator*>(ordered.getValidator())->decimals(), 4);
+        ordered.setRegex("[A-Z]+");
+        ordered.setType(UiData::TYPE_STRING);
+        text = "zz";
+        QCOMPARE(ordered.getValidator()->validate(text, position), QValidator::Invalid);
+
         item.setAttributes({{"type", "nonsense"}, {"minRange", "low"}, {"maxRange", QVariant()}});
         QCOMPARE(changes.size(), 5);
         const auto* none = qobject_cast<QIntValidator*>(item.getValidator());
@@ -229,6 +240,7 @@ private Q_SLOTS:
         QTest::newRow("text") << UiData::TYPE_VEC_STRING << QVariant("a,,b") << QVariantList {"a", "", "b"};
         QTest::newRow("empty") << UiData::TYPE_VEC_INT << QVariant("") << QVariantList {0};
         QTest::newRow("NUL") << UiData::TYPE_VEC_STRING << QVariant(QString("a,") + QChar(0) + ",b") << QVariantList {"a", "b"};
+        QTest::newRow("no elements") << UiData::TYPE_VEC_INT << QVariant(QVariantList()) << QVariantList();
         QTest::newRow("list") << UiData::TYPE_VEC_INT << QVariant(QVariantList {4, 5}) << QVariantList {4, 5};
     }
     void vectors()
@@ -366,10 +378,12 @@ private Q_SLOTS:
     void slotsMayDeleteTheItem()
     {
         for (const char* signal : {SIGNAL(minRangeChanged()), SIGNAL(isReadyChanged()), SIGNAL(typeChanged()),
-                     SIGNAL(valueCountChanged()), SIGNAL(valueChanged()), SIGNAL(enumLabelsChanged()), SIGNAL(regexChanged())}) {
+                     SIGNAL(valueCountChanged()), SIGNAL(valueChanged()), SIGNAL(enumLabelsChanged()), SIGNAL(regexChanged()), SIGNAL(validatorChanged())}) {
             const QPointer<UiData> item = new UiData;
             connect(item, signal, this, SLOT(deleteSender()));
-            item->setMinRange(1);
+            item->setAttributes({{"formatter", "dB"}});
+            if (item)
+                item->setMinRange(1);
             if (item)
                 item->setReady(false);
             if (item)

@@ -143,8 +143,10 @@ void UiData::setAttributes(const QMap<QString, QVariant>& attributes)
 {
     if (attributes != m_attributes)
         m_attributes = attributes;
+    const QPointer<UiData> self(this);
     slotValidatorUpdate();
-    adoptFormatter(getAttr(keys::formatter).toString());
+    if (self)
+        adoptFormatter(getAttr(keys::formatter).toString());
 }
 
 QString UiData::getId() const
@@ -166,6 +168,8 @@ QString UiData::getType() const
 void UiData::setType(const QString& type)
 {
     m_attributes.insert(keys::type, type);
+    // QML sets properties in the order in which they are written, the type perhaps behind the expression.
+    updateValidator();
     Q_EMIT typeChanged();
 }
 
@@ -222,6 +226,7 @@ void UiData::setMaxRange(const QVariant& maximum)
 void UiData::setPrecision(unsigned precision)
 {
     m_attributes.insert(keys::precision, precision);
+    updateValidator();
     Q_EMIT precisionChanged();
 }
 
@@ -389,7 +394,11 @@ void UiData::setValue(QVariant value)
         return;
     }
     holdValue(vectorText(value).left(longestVectorText));
-    updateVectorValue();
+    // An empty text is one empty element, an empty list none.
+    if (value.type() != QVariant::String && value.toList().isEmpty() && getValue().toString().isEmpty() && value.isValid())
+        m_elements.clear();
+    else
+        updateVectorValue();
     const QPointer<UiData> self(this);
     Q_EMIT valueCountChanged();
     if (self)

@@ -229,6 +229,8 @@ protected:
     void adoptFormatter(const QString& name);
     /// The validator for what the accessors say, made by the first call.
     QValidator* currentValidator() const;
+    /// Lets the validator, when there is one, follow what the accessors say; tells nobody.
+    void updateValidator();
     /// Makes the validator anew; the old one goes when the event loop runs.
     void renewValidator();
     /// Ends a pending change when the service itself reports a setting.
@@ -245,7 +247,6 @@ private:
     void connectItem();
     void createFormatter();
     void announceItem();
-    void updateValidator();
     /// Whether a change waits to be sent.
     bool isPending() const { return m_changed && !m_sent; }
     /// Forgets a change; returns whether it was pending.

@@ -32,7 +32,7 @@ Entry {
         box.currentIndex = Qt.binding(() => entry.position)
     }
 
-    isAcceptable: !mandatory || position >= 0
+    isAcceptable: !mandatory || position >= 0 || !face.isApplicable
     rangeText: ""
     plainText: box.displayText
 
@@ -50,8 +50,21 @@ Entry {
         font.pixelSize: ControlsStyle.bodyText
         Accessible.name: entry.label
         Accessible.description: entry.note
-        Keys.onReturnPressed: popup.open()
-        Keys.onEnterPressed: popup.open()
+        Keys.onReturnPressed: openByKey()
+        Keys.onEnterPressed: openByKey()
+        // The box would close again with the key.
+        Keys.onReleased: {
+            event.accepted = isOpening && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
+            isOpening = false
+        }
+
+        property bool isOpening: false
+
+        function openByKey() {
+            isOpening = true
+            popup.open()
+        }
+
         // A new list forgets the place.
         onModelChanged: currentIndex = Qt.binding(() => entry.position)
         onActivated: entry.take(index)

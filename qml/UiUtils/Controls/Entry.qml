@@ -50,19 +50,40 @@ FocusScope {
         return ""
     }
 
+    // The item that was told that what stands here is not acceptable.
+    property var blockedItem: null
+
     // A container looks at `valueOk` only when it hears of a value.
     function tellWhetherOk() {
-        if (!face.isLocal || !item || item.valueOk === isAcceptable)
+        if (!face.isLocal || !item)
             return
-        item.valueOk = isAcceptable
-        if (item && item.mandatory)
-            UiDataContainer.slotValueUpdated()
+        if (item.valueOk !== isAcceptable)
+            item.valueOk = isAcceptable
+        blockedItem = isAcceptable ? null : item
+        UiDataContainer.slotValueUpdated()
+    }
+
+    // What was typed goes with the entry, so that the item's own value counts again.
+    function releaseItem() {
+        const left = blockedItem
+        blockedItem = null
+        if (!left || left.valueOk)
+            return
+        const isEmpty = left.value === undefined || left.value === null || left.value === ""
+        left.valueOk = !(left.mandatory && isEmpty)
+        UiDataContainer.slotValueUpdated()
     }
 
     onIsAcceptableChanged: tellWhetherOk()
-    // Once everything here is about the new one.
-    onItemChanged: Qt.callLater(tellWhetherOk)
+    onMandatoryChanged: tellWhetherOk()
+    onItemChanged: {
+        if (blockedItem !== item)
+            releaseItem()
+        // Once everything here is about the new one.
+        Qt.callLater(tellWhetherOk)
+    }
     Component.onCompleted: tellWhetherOk()
+    Component.onDestruction: releaseItem()
 
     Connections {
         target: face
@@ -115,7 +136,8 @@ FocusScope {
             id: slot
             width: parent.width
             visible: !entry.readOnly
-            enabled: entry.isReady
+            // What is disabled loses the focus; a hidden editor would go on taking keys.
+            enabled: entry.isReady && !entry.readOnly && face.isApplicable
             spacing: ControlsStyle.gap
         }
 

@@ -54,7 +54,7 @@ Entry {
 
     // The limits of a text are those of its length; a form's item leaves them to its entry.
     function checkLength(text) {
-        if (text.length < Number(minimum || 0) || text.length > Number(maximum || Infinity))
+        if (text.length < Number(minimum || 0) || text.length > (maximum === undefined ? Infinity : Number(maximum)))
             return lengthText
         return face.matches(text) ? "" : qsTr("This is not in the form that is needed")
     }
@@ -125,7 +125,7 @@ Entry {
         commit()
     }
 
-    isAcceptable: problem === ""
+    isAcceptable: problem === "" || !face.isApplicable
     complaint: face.refusal !== "" ? face.refusal : isEdited ? problem : ""
     isInvalid: face.refusal !== "" || isEdited && isTried && problem !== ""
     news: hasNews ? qsTr("Changed meanwhile to %1").arg(echoMode === TextInput.Normal ? shownText : qsTr("another one")) : ""
@@ -137,7 +137,12 @@ Entry {
         else
             hasNews = true
     }
-    onItemChanged: settle()
+    onItemChanged: {
+        // What stands on the pad was meant for the other one.
+        if (padLoader.item)
+            padLoader.item.close()
+        settle()
+    }
     Connections {
         target: face
         // A hidden field would go on taking keys.

@@ -142,5 +142,6 @@ QtObject {
         function onPrecisionChanged() { face.describe() }
         function onReadOnlyChanged() { face.describe() }
         function onMandatoryChanged() { face.describe() }
+        function onValidatorChanged() { face.describe() }
     }
 }

@@ -26,7 +26,7 @@ Entry {
 
     function storeRow(index, newValue) {
         // A row that is being disabled loses the focus before it hears why.
-        if (!face.item || !face.item.isReady)
+        if (!face.item || !face.item.isReady || !face.isApplicable || readOnly)
             return qsTr("Not ready")
         return index < 0 ? append(newValue) : replace(index, newValue)
     }
@@ -57,7 +57,8 @@ Entry {
     function remove(index) {
         // The row goes first, so that those behind it keep what is typed in them.
         rows.remove(index)
-        write(list => list.splice(index, 1), () => item.removeAt(index))
+        if (write(list => list.splice(index, 1), () => item.removeAt(index)) !== "")
+            rows.insert(index, { unused: 0 })
         follow()
     }
 
@@ -79,7 +80,7 @@ Entry {
             adder.forceActiveFocus()
     }
 
-    isAcceptable: !mandatory || count > 0
+    isAcceptable: !mandatory || count > 0 || !face.isApplicable
     plainText: face.hasItem ? allText(face.reports) : ""
 
     function allText(reports) {

@@ -42,7 +42,8 @@ FieldEntry {
         if (number < least || number > most)
             return outside()
         const fraction = /\.([0-9]*)/.exec(plain)
-        if (!whole && decimals >= 0 && fraction && fraction[1].length > decimals)
+        const isTooFine = fraction && fraction[1].length > decimals || Number(number.toFixed(Math.max(decimals, 0))) !== number
+        if (!whole && decimals >= 0 && isTooFine)
             return decimals === 0 ? qsTr("A whole number is needed") : qsTr("Decimals: at most %1").arg(decimals)
         return ""
     }
@@ -58,6 +59,9 @@ FieldEntry {
                           && (whole || decimals >= 0 || face.hasFormatter) && face.minimum !== undefined && face.maximum !== undefined
         return isDescribed ? Formats.withUnit(face.tidyRange, unit) : Formats.rangeText(minimum, maximum, textOf, unit)
     }
+    // A local item without a precision rounds its text to whole numbers.
+    plainText: face.hasItem && (!face.isLocal || face.hasFormatter && shownText !== "") ? face.valueString
+             : shownText === "" ? "" : Formats.withUnit(shownText, unit)
     inputMethodHints: whole && least >= 0 ? Qt.ImhDigitsOnly : Qt.ImhFormattedNumbersOnly
     hasPad: true
     padSeparator: whole || decimals === 0 ? "" : Qt.locale().decimalPoint
