@@ -50,8 +50,8 @@ Entry {
         font.pixelSize: ControlsStyle.bodyText
         Accessible.name: entry.label
         Accessible.description: entry.note
-        Keys.onReturnPressed: openByKey()
-        Keys.onEnterPressed: openByKey()
+        Keys.onReturnPressed: event.accepted = openByKey()
+        Keys.onEnterPressed: event.accepted = openByKey()
         // The box would close again with the key.
         Keys.onReleased: {
             event.accepted = isOpening && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
@@ -60,9 +60,12 @@ Entry {
 
         property bool isOpening: false
 
+        // False when it was open: then the key chooses.
         function openByKey() {
-            isOpening = true
-            popup.open()
+            isOpening = !popup.visible
+            if (isOpening)
+                popup.open()
+            return isOpening
         }
 
         // A new list forgets the place.

@@ -31,7 +31,7 @@ FieldEntry {
                 return qsTr("Only the digits %1 can be used here").arg(radix > 10 ? "0 - 9, A - F" : digits[0] + " - " + digits[radix - 1])
         }
         if (!isNumber)
-            return checkLength(written)
+            return checkLength(bare(text))
         const limits = Formats.typeLimits(type)
         const number = parseInt(written, radix)
         const least = minimum === undefined ? Math.max(limits[0], 0) : Number(minimum)
