@@ -178,6 +178,21 @@ private Q_SLOTS:
         QCOMPARE(sentChanges(*m_client).value("a").toInt(), 9);
     }
 
+    void aChangeWaitsForItsService()
+    {
+        m_client->add(":config:rec:a:", 1);
+        Manifest manifest(m_client.get(), "", "rec");
+        manifest.startChanges();
+        Manifest::getKivData(":config:rec:a:")->setValue(9);
+        m_client->remove(":config:rec:a:");
+        manifest.applyChanges();
+        QCOMPARE(sentChanges(*m_client).size(), 0);
+        m_client->add(":config:rec:a:", 1);
+        Q_EMIT m_client->itemsChanged();
+        manifest.applyChanges();
+        QCOMPARE(sentChanges(*m_client).value("a").toInt(), 9);
+    }
+
     void ofOneNameTheOtherStaysPending()
     {
         m_client->add(":config:rec:one:level:", 0);

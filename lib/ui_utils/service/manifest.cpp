@@ -117,7 +117,8 @@ void Manifest::applyChanges()
     const QStringList ids = m_items.keys();
     for (const QString& id : ids) {
         KivData* wrapper = m_items.value(id);
-        if (wrapper && wrapper->isPending())
+        // A setting whose service is away has no name to go by; its change waits.
+        if (wrapper && wrapper->isPending() && wrapper->m_item)
             senders.insert(batchName(wrapper->getName()), wrapper);
     }
     QVariantMap changes;
