@@ -11,12 +11,17 @@ inline const QLatin1String systemSetting(":config:basemgr:system:");
 inline const QLatin1String technicianFields(":config:basemgr:system:techFieldsIncludedInReport:stringARRAY:");
 inline const QLatin1String customerFields(":config:basemgr:system:customerFieldsIncludedInReport:stringARRAY:");
 
+inline const QLatin1String technicianFirstName("userInfo_firstName");
+inline const QLatin1String technicianLastName("userInfo_lastName");
+
 inline const QLatin1String softwareNames(":result:basemgr:swrev:names:stringARRAY:");
 inline const QLatin1String softwareVersions(":result:basemgr:swrev:versions:stringARRAY:");
 
 /// Hardware assemblies: a name that ends in "_top" follows, the value reads "description|assembly id|barcode".
 inline const QLatin1String hardware(":result:basemgr:eeprom:");
 inline const QLatin1String hardwareNameEnd("_top");
+
+inline const QLatin1String baseUnit(":result:basemgr:eeprom:base_barcode_top:");
 
 inline const QLatin1String jobId(":result:basemgr:jobmanager:jobID:");
 inline const QLatin1String jobBan(":result:basemgr:jobmanager:jobBAN:");

@@ -47,6 +47,25 @@ LabelledTexts userFields(const QStringList& names)
     return fields;
 }
 
+QString technicianName()
+{
+    const QStringList included = technicianFieldNames();
+    QStringList parts;
+    for (const QLatin1String& name : {itemids::technicianFirstName, itemids::technicianLastName}) {
+        const LabelledTexts fields = included.contains(name) ? userFields({name}) : LabelledTexts();
+        if (!fields.isEmpty() && fields.constFirst().text != QLatin1String("default"))
+            parts += fields.constFirst().text;
+    }
+    return parts.join(QLatin1Char(' ')).trimmed();
+}
+
+QString unitId()
+{
+    const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
+    const KIVClientItem* item = client ? client->getItem(itemids::baseUnit) : nullptr;
+    return item ? item->getValue().toString().section(QLatin1Char('|'), 2, 2) : QString();
+}
+
 LabelledTexts jobFields()
 {
     static const struct

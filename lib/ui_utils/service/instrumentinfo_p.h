@@ -25,6 +25,13 @@ QStringList customerFieldNames();
 /// anything). A field without a label goes by its item's name.
 LabelledTexts userFields(const QStringList& names);
 
+/// The technician's first and last name, as far as they are among the fields that reports include; empty where nobody
+/// entered one.
+QString technicianName();
+
+/// The barcode of the base unit.
+QString unitId();
+
 /// Identity of the job, "Job ID" and so on.
 LabelledTexts jobFields();
 

@@ -3,11 +3,13 @@
 #include "core/directmarkup_p.h"
 #include "core/paths.h"
 #include "core/xmltext_p.h"
+#include "writers/reportheader.h"
+#include "writers/reportimage.h"
 #include "writers/reporttable.h"
+#include "writers/reporttext.h"
+#include "writers/statusicons_p.h"
 #include "writers/style.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -18,7 +20,8 @@ using uiutils::markupText;
 
 namespace {
 
-constexpr qint64 maximumIconSize = qint64(1024) * 1024;
+/// On screens that browsers take for granted.
+constexpr qreal pixelsOfAPoint = 96.0 / 72.0;
 
 // Shared for good: a cell is written in well under a microsecond, and every literal's copy would show.
 struct Words
@@ -60,29 +63,6 @@ const QString& alignmentName(int align)
     default:
         return words().center;
     }
-}
-
-QLatin1String iconPath(int status)
-{
-    switch (status) {
-    case HtmlStreamWriter::StatusPass:
-        return uiutils::paths::passIcon;
-    case HtmlStreamWriter::StatusMarginal:
-        return uiutils::paths::marginalIcon;
-    case HtmlStreamWriter::StatusFail:
-        return uiutils::paths::failIcon;
-    default:
-        return QLatin1String();
-    }
-}
-
-/// The bytes of an image file; none when it cannot be read, is no regular file or is too large to be an icon.
-QByteArray readIcon(const QString& path)
-{
-    QFile file(uiutils::onDisk(path));
-    if (!QFileInfo(file).isFile() || file.size() > maximumIconSize || !file.open(QIODevice::ReadOnly))
-        return QByteArray();
-    return file.readAll();
 }
 
 QString pngSource(const QByteArray& png)
@@ -145,6 +125,27 @@ void HtmlStreamWriter::fillDefaults()
             {QStringLiteral("includeCustomerInfoEnd"), false},
             {QStringLiteral("includeTechnicianInfoEnd"), false},
     };
+}
+
+void HtmlStreamWriter::discardText()
+{
+    m_keepsText = false;
+    m_output.clear();
+}
+
+/// The room stays for the next piece.
+void HtmlStreamWriter::dropText()
+{
+    if (!m_keepsText)
+        m_output.resize(0);
+}
+
+void HtmlStreamWriter::append(ReportItem* item)
+{
+    if (m_items)
+        m_items->append(item);
+    else
+        delete item;
 }
 
 void HtmlStreamWriter::writeHead(const QString& title, const QList<Style*>& styles)
@@ -258,6 +259,8 @@ void HtmlStreamWriter::expectRows(int rows)
     // As much as rows of short texts take; what is not written to costs no memory.
     constexpr int charactersOfARow = 70;
     constexpr int charactersOfACell = 90;
+    if (!m_keepsText)
+        return;
     uiutils::makeRoom(m_output, qint64(rows) * (charactersOfARow + m_columnCount * charactersOfACell));
 }
 
@@ -334,6 +337,7 @@ void HtmlStreamWriter::endRow()
         m_currentTable->endRow();
     m_rowOpen = false;
     m_currentColumn = 0;
+    dropText();
 }
 
 void HtmlStreamWriter::endTable()
@@ -349,11 +353,15 @@ void HtmlStreamWriter::endTable()
 void HtmlStreamWriter::writeParagraph(const QString& text)
 {
     writeTextElement(QStringLiteral("p"), markupText(text));
+    append(new ReportText(text));
+    dropText();
 }
 
 void HtmlStreamWriter::writeHeading(int level, const QString& text)
 {
     writeTextElement(QStringLiteral("h%1").arg(qBound(1, level, 3)), markupText(text));
+    append(new ReportHeader(level, text));
+    dropText();
 }
 
 void HtmlStreamWriter::writeImage(const QString& source)
@@ -362,8 +370,11 @@ void HtmlStreamWriter::writeImage(const QString& source)
     writeAttribute(words().src, markupText(source));
 }
 
-void HtmlStreamWriter::writeImageParagraph(const QByteArray& png)
+void HtmlStreamWriter::writeImageParagraph(const QByteArray& png, int pixels)
 {
+    append(new ReportImage(png, pixels * pixelsOfAPoint));
+    if (!m_keepsText)
+        return;
     writeStartElement(QStringLiteral("p"));
     writeImage(pngSource(png));
     writeEndElement();
@@ -371,7 +382,7 @@ void HtmlStreamWriter::writeImageParagraph(const QByteArray& png)
 
 void HtmlStreamWriter::writeStatusIcon(int status)
 {
-    const QLatin1String path = iconPath(status);
+    const QLatin1String path = uiutils::statusIconPath(status);
     if (path.isEmpty())
         return;
     beginLine(*this, m_output, contentLevel);
@@ -385,7 +396,7 @@ const QString& HtmlStreamWriter::iconSource(const QString& path)
 {
     auto it = m_iconSources.find(path);
     if (it == m_iconSources.end()) {
-        const QByteArray& bytes = *m_iconCache.insert(path, readIcon(path));
+        const QByteArray& bytes = *m_iconCache.insert(path, uiutils::readIcon(path));
         it = m_iconSources.insert(path, pngSource(bytes));
     }
     return *it;

@@ -36,6 +36,8 @@ public:
 
     /// What has been written so far.
     const QString& output() const { return m_output; }
+    /// From now on only report items are kept, and no text.
+    void discardText();
 
     /// Writes the head; no title element for an empty title, no style element without styles.
     void writeHead(const QString& title, const QList<Style*>& styles);
@@ -64,8 +66,8 @@ public:
     void writeHeading(int level, const QString& text);
     /// Writes an image whose source is a path or an URI.
     void writeImage(const QString& source);
-    /// Writes a paragraph that holds a PNG image.
-    void writeImageParagraph(const QByteArray& png);
+    /// Writes a paragraph that holds a PNG image, shown with so many of its pixels for one of the page's.
+    void writeImageParagraph(const QByteArray& png, int pixels = 1);
 
 private:
     void fillDefaults();
@@ -74,6 +76,8 @@ private:
     void writeHeaderRow(const QStringList& columnLabels, bool hasLabelColumn);
     void writeEmptyHeader(int columns);
     void writeStatusIcon(int status);
+    void append(ReportItem* item);
+    void dropText();
     const QString& iconSource(const QString& path);
 
     QString m_output;
@@ -84,6 +88,7 @@ private:
     bool m_hasLabelColumn = true;
     bool m_rowOpen = false;
     bool m_tableHasRows = false;
+    bool m_keepsText = true;
     QMap<QString, QByteArray> m_iconCache;
     // The same icons as URIs: encoding one for each of ten thousand cells would cost more than the cells.
     QMap<QString, QString> m_iconSources;

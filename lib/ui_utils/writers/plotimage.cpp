@@ -8,6 +8,12 @@
 #include <QImage>
 #include <QPainter>
 
+namespace {
+
+constexpr int maximumSide = 4000;
+
+} // namespace
+
 PlotImage::PlotImage()
 {
     setSize(0, 0);
@@ -22,7 +28,7 @@ void PlotImage::setCurveBackground(const QString& color)
 
 void PlotImage::setSize(int width, int height)
 {
-    m_size = QSize(width < 1 ? 600 : qBound(50, width, 4000), height < 1 ? 400 : qBound(50, height, 4000));
+    m_size = QSize(width < 1 ? 600 : qBound(50, width, maximumSide), height < 1 ? 400 : qBound(50, height, maximumSide));
 }
 
 bool PlotImage::write(const QString& path)
@@ -36,10 +42,12 @@ bool PlotImage::write(const QString& path)
 
 QImage PlotImage::draw() const
 {
-    QImage image(m_size, QImage::Format_RGB32);
+    // Never finer than the largest picture.
+    const QSize size = (m_size * m_pixelScale).boundedTo(QSize(maximumSide, maximumSide));
+    QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::white);
     const uiutils::PlotData data = uiutils::readPlotData(m_service);
     QPainter painter(&image);
-    uiutils::PlotPainter(painter, data, m_size, m_background).draw();
+    uiutils::PlotPainter(painter, data, size, m_background).draw();
     return image;
 }

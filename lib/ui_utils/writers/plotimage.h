@@ -28,6 +28,9 @@ public:
     /// In pixels; a width or height below 1 means the default of 600 x 400, others are kept within 50 to 4,000.
     void setSize(int width, int height);
 
+    /// How many pixels the picture has for each of its size, along both sides: 1 by default, more for paper.
+    void setPixelScale(int scale) { m_pixelScale = qBound(1, scale, 4); }
+
     /// Draws the plot and writes it to `path`, an instrument path. Returns false when the file could not be written;
     /// getData() holds the image all the same.
     bool write(const QString& path);
@@ -41,5 +44,6 @@ private:
     QString m_service;
     QColor m_background = Qt::white;
     QSize m_size;
+    int m_pixelScale = 1;
     QByteArray m_data;
 };

@@ -4,6 +4,8 @@ ReportItem::ReportItem() = default;
 
 ReportItem::~ReportItem() = default;
 
+void ReportItem::release() { }
+
 namespace uiutils {
 
 QList<ReportItem*>& sharedReportItems()

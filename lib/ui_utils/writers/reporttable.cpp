@@ -1,5 +1,7 @@
 #include "writers/reporttable.h"
 
+#include "writers/tablelayout_p.h"
+
 ReportTable::ReportTable(const QString& title, const QStringList& columnLabels, bool hasLabelColumn)
     : m_title(title)
     , m_valueColumns(columnLabels.size())
@@ -29,6 +31,7 @@ QStringList ReportTable::columnLabels() const
 
 void ReportTable::appendCell(const Cell& cell)
 {
+    m_hasSpans = m_hasSpans || cell.columnSpan > 1;
     m_cells.append(cell);
 }
 
@@ -45,7 +48,47 @@ int ReportTable::rowCount() const
 
 QVector<ReportTable::Cell> ReportTable::row(int index) const
 {
-    const int begin = index == 0 ? 0 : m_rowEnds.at(index - 1);
-    const int end = index < m_rowEnds.size() ? m_rowEnds.at(index) : m_cells.size();
-    return m_cells.mid(begin, end - begin);
+    return m_cells.mid(rowBegin(index), rowEnd(index) - rowBegin(index));
+}
+
+const ReportTable::Cell* ReportTable::cellAt(int row, int column) const
+{
+    const Cell* cell = m_cells.constData() + rowBegin(row);
+    const Cell* const end = m_cells.constData() + rowEnd(row);
+    if (!m_hasSpans)
+        return column < end - cell ? cell + column : nullptr;
+    int at = 0;
+    for (; cell != end && at < column; ++cell)
+        at += cell->columnSpan;
+    return cell != end && at == column ? cell : nullptr;
+}
+
+void ReportTable::measure(const uiutils::PageStyle& style, const QSizeF& page)
+{
+    m_layout = std::make_unique<uiutils::TableLayout>(*this, style, page);
+}
+
+void ReportTable::release()
+{
+    m_layout.reset();
+}
+
+ReportItem::Position ReportTable::end() const
+{
+    return {m_layout->rowCount(), 0};
+}
+
+ReportItem::Portion ReportTable::split(const Position& begin, qreal room, bool isWholePage) const
+{
+    return m_layout->split(begin, room, isWholePage);
+}
+
+void ReportTable::draw(uiutils::PageCanvas& canvas, const Portion& portion, const QPointF& topLeft) const
+{
+    m_layout->draw(canvas, portion, topLeft);
+}
+
+qreal ReportTable::spaceAbove() const
+{
+    return m_layout->spaceAbove();
 }

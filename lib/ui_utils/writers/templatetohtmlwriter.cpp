@@ -31,6 +31,9 @@ QString textDate()
     return QDate::currentDate().toString(Qt::TextDate);
 }
 
+/// Enough for a plot's letters to be as sharp as the page's.
+constexpr int plotPixelsOnPaper = 2;
+
 /// A two-column table of labels and values; none without rows.
 void writeLabelledTexts(HtmlStreamWriter& html, const QString& title, const QString& valueLabel, int nestingLevel,
         const instrument::LabelledTexts& rows)
@@ -89,10 +92,21 @@ QVariant TemplateToHtmlWriter::attribute(const QString& name) const
 
 QString TemplateToHtmlWriter::getHtml()
 {
-    if (m_isWritten)
-        return m_html->output();
-    m_isWritten = true;
+    if (!m_isWritten)
+        writePage();
+    return m_html->output();
+}
 
+void TemplateToHtmlWriter::collectItems()
+{
+    m_html->discardText();
+    m_plotPixels = plotPixelsOnPaper;
+    writePage();
+}
+
+void TemplateToHtmlWriter::writePage()
+{
+    m_isWritten = true;
     const QList<Style*> rules = styles();
     m_html->writeHead(title(), rules);
     qDeleteAll(rules);
@@ -108,13 +122,31 @@ QString TemplateToHtmlWriter::getHtml()
     m_html->writeEndElement();
     m_html->writeEndDocument();
     m_plots.clear();
-    return m_html->output();
 }
 
 QString TemplateToHtmlWriter::title() const
 {
     const QString name = keys::title;
     return m_html->hasAttribute(name) ? attribute(name).toString() : NodeReader(m_document).title();
+}
+
+QString TemplateToHtmlWriter::timestamp()
+{
+    return textDate() + QLatin1Char(' ') + System::getInstance().getCurrentTime();
+}
+
+QVector<ReportPDF::Field> TemplateToHtmlWriter::titleFields() const
+{
+    QVector<ReportPDF::Field> fields {{tr("Timestamp"), timestamp()}};
+    const OverallStatus status = overallStatus();
+    if (status.text)
+        fields.append({tr("Overall Status"), tr(status.text), status.icon});
+    if (isSet("includeJobInfo")) {
+        const instrument::LabelledTexts job = instrument::jobFields();
+        for (const instrument::LabelledText& field : job)
+            fields.append({field.label, field.text});
+    }
+    return fields;
 }
 
 bool TemplateToHtmlWriter::isSet(const char* name) const
@@ -219,8 +251,7 @@ void TemplateToHtmlWriter::writeTestInformation()
 
     m_html->startTable(tr("Test Information"), {tr("Value")}, true, -1);
     writeRow(tr("Title"), title(), HtmlStreamWriter::StatusNone);
-    writeRow(tr("Timestamp"), textDate() + QLatin1Char(' ') + System::getInstance().getCurrentTime(),
-            HtmlStreamWriter::StatusNone);
+    writeRow(tr("Timestamp"), timestamp(), HtmlStreamWriter::StatusNone);
     if (status.text)
         writeRow(tr("Overall Status"), tr(status.text), status.icon);
     m_html->writeComment(QStringLiteral("report_status=%1").arg(status.word));
@@ -316,7 +347,7 @@ void TemplateToHtmlWriter::tablesToHtml(const QJsonObject& node)
     NodeReader(node).forEachTable([this](const QString&, const QJsonObject& object) {
         const TableReader table(object);
         if (table.isPlot())
-            m_html->writeImageParagraph(plotOf(table.text(keys::service)));
+            plotToHtml(table.text(keys::service));
         else
             tableToHtml(table);
     });
@@ -361,15 +392,18 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
     m_html->endRow();
 }
 
-const QByteArray& TemplateToHtmlWriter::plotOf(const QString& service)
+void TemplateToHtmlWriter::plotToHtml(const QString& service)
 {
-    const auto known = m_plots.constFind(service);
-    if (known != m_plots.constEnd())
-        return *known;
-    PlotImage plot;
-    plot.setService(service);
-    plot.setCurveBackground(attribute(QStringLiteral("plot_curve_bg")).toString());
-    plot.setSize(attribute(QStringLiteral("plot_width")).toInt(), attribute(QStringLiteral("plot_height")).toInt());
-    plot.write(uiutils::paths::plotImage(m_plots.size()));
-    return *m_plots.insert(service, plot.getData());
+    auto known = m_plots.constFind(service);
+    if (known == m_plots.constEnd()) {
+        PlotImage plot;
+        plot.setService(service);
+        plot.setCurveBackground(attribute(QStringLiteral("plot_curve_bg")).toString());
+        plot.setSize(
+                attribute(QStringLiteral("plot_width")).toInt(), attribute(QStringLiteral("plot_height")).toInt());
+        plot.setPixelScale(m_plotPixels);
+        plot.write(uiutils::paths::plotImage(m_plots.size()));
+        known = m_plots.insert(service, plot.getData());
+    }
+    m_html->writeImageParagraph(*known, m_plotPixels);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/uiutils_export.h"
-#include "writers/reportitem.h"
+#include "writers/reportpdf.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -42,17 +42,28 @@ public:
     /// Attributes of the page's body element.
     void setBodyAttributes(const QVariantMap& attributes) { m_bodyAttributes = attributes; }
 
+    /// The report's title: the attribute "title", or the document's own where that is not set.
+    QString title() const;
+    /// Date and time of now as the page shows them.
+    static QString timestamp();
+    /// What a title block says of the test: its time, its overall status if one is set, and the job if the page
+    /// includes it.
+    QVector<ReportPDF::Field> titleFields() const;
+
+    /// Makes the pass for its report items alone; nothing is kept of the page, which getHtml() then has no text of.
+    void collectItems();
+
     /// The page. The first call writes it; later calls return the same text.
     QString getHtml();
 
 private:
     struct OverallStatus;
 
-    QString title() const;
     QList<Style*> styles() const;
     bool isSet(const char* name) const;
     OverallStatus overallStatus() const;
 
+    void writePage();
     void writeBodyStart();
     void writeTestInformation();
     void writeJobTable();
@@ -67,7 +78,7 @@ private:
     void tablesToHtml(const QJsonObject& node);
     void tableToHtml(const uiutils::TableReader& table);
     void rowToHtml(const uiutils::TableReader& table, bool hasLabel, const QJsonObject& row);
-    const QByteArray& plotOf(const QString& service);
+    void plotToHtml(const QString& service);
     void writeConfigurationValues(const uiutils::NodeReader& section);
 
     QJsonObject m_document;
@@ -75,6 +86,8 @@ private:
     std::unique_ptr<HtmlStreamWriter> m_html;
     // A picture of each service: the page holds them anyway, and drawing one takes longer than the rest of the page.
     QHash<QString, QByteArray> m_plots;
+    // Of a page's pixel: paper is finer than a screen.
+    int m_plotPixels = 1;
     int m_depth = 0;
     bool m_isWritten = false;
 };

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace uiutils {
+
+/// A file that did not exist before, in the folder of a target, removed again unless it was renamed to it. What cannot be
+/// done leaves the reason in errno.
+class TemporarySibling
+{
+public:
+    /// `target` is a path on disk.
+    explicit TemporarySibling(const QString& target);
+    ~TemporarySibling();
+    Q_DISABLE_COPY_MOVE(TemporarySibling)
+
+    bool isOpen() const { return m_fd >= 0; }
+    const QString& path() const { return m_path; }
+
+    bool write(const QByteArray& contents);
+    bool sync();
+    bool close();
+    bool renameTo(const QString& target);
+
+private:
+    void takeModeOf(const QString& target);
+
+    QString m_path;
+    int m_fd = -1;
+    bool m_created = false;
+    bool m_renamed = false;
+};
+
+} // namespace uiutils

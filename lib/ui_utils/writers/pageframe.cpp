@@ -1,0 +1,78 @@
+#include "writers/pageframe_p.h"
+
+#include "writers/pagecanvas_p.h"
+#include "writers/pagestyle_p.h"
+#include "writers/wrappedtext_p.h"
+
+#include <QCoreApplication>
+
+namespace uiutils {
+
+namespace {
+
+// In points.
+constexpr qreal margin = 42;
+constexpr qreal edge = 28;
+constexpr qreal ruleDistance = 3;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("ReportPDF", text);
+}
+
+} // namespace
+
+PageFrame::PageFrame(const PageStyle& style, const QSizeF& paper, const Texts& texts)
+    : m_style(style)
+    , m_texts(texts)
+    , m_left(style.points(margin))
+    , m_width(paper.width() - 2 * m_left)
+    , m_headerTop(style.points(edge))
+    , m_footerTop(paper.height() - style.points(edge) - style.small.lineHeight())
+{
+    const qreal line = style.small.lineHeight() + style.points(ruleDistance);
+    const qreal gap = style.points(8);
+    const qreal top = m_headerTop + line + gap;
+    m_body = QRectF(m_left, top, m_width, m_footerTop - style.points(ruleDistance) - gap - top);
+}
+
+void PageFrame::draw(PageCanvas& canvas, int page, int pageCount) const
+{
+    if (page > 1)
+        drawHeader(canvas);
+    drawFooter(canvas, page, pageCount);
+    canvas.flush();
+}
+
+void PageFrame::drawHeader(PageCanvas& canvas) const
+{
+    drawLine(canvas, m_headerTop, m_texts.title, {}, m_texts.documentTitle);
+    const qreal rule = m_headerTop + m_style.small.lineHeight() + m_style.points(ruleDistance);
+    canvas.fill(QRectF(m_left, rule, m_width, m_style.hairline), m_style.rule);
+}
+
+void PageFrame::drawFooter(PageCanvas& canvas, int page, int pageCount) const
+{
+    canvas.fill(QRectF(m_left, m_footerTop - m_style.points(ruleDistance), m_width, m_style.hairline), m_style.rule);
+    const QString unit = m_texts.unitId.isEmpty() ? QString() : tr("Unit ID: %1").arg(m_texts.unitId);
+    drawLine(canvas, m_footerTop, unit, m_texts.timestamp, tr("Page %1 of %2").arg(page).arg(pageCount));
+}
+
+void PageFrame::drawLine(
+        PageCanvas& canvas, qreal top, const QString& left, const QString& middle, const QString& right) const
+{
+    const auto drawn = [&](const QString& text, qreal room, Qt::Alignment alignment) {
+        const QString shown = WrappedText::elided(m_style.small, text, room, 1);
+        canvas.drawText(m_style.small, shown, {m_left, top}, m_width, alignment, m_style.mutedInk, 0, 1);
+        return WrappedText::naturalWidth(m_style.small, shown);
+    };
+    const qreal gap = m_style.points(8);
+    const qreal rightWidth = WrappedText::naturalWidth(m_style.small, right);
+    const qreal middleWidth = WrappedText::naturalWidth(m_style.small, middle);
+    const qreal leftRoom = middle.isEmpty() ? m_width - rightWidth - gap : (m_width - middleWidth) / 2 - gap;
+    drawn(left, qMax(leftRoom, m_width / 4), Qt::AlignLeft);
+    drawn(middle, m_width / 2, Qt::AlignHCenter);
+    drawn(right, m_width / 2, Qt::AlignRight);
+}
+
+} // namespace uiutils

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QRectF>
+#include <QString>
+
+namespace uiutils {
+
+class PageCanvas;
+class PageStyle;
+
+/// What stands around the body of every page: a header line on all but the first, and the footer.
+class PageFrame
+{
+public:
+    struct Texts
+    {
+        QString documentTitle;
+        QString title;
+        QString unitId;
+        QString timestamp;
+    };
+
+    PageFrame(const PageStyle& style, const QSizeF& paper, const Texts& texts);
+
+    /// What the frame leaves for the body.
+    QRectF body() const { return m_body; }
+
+    /// `page` counts from 1.
+    void draw(PageCanvas& canvas, int page, int pageCount) const;
+
+private:
+    void drawHeader(PageCanvas& canvas) const;
+    void drawFooter(PageCanvas& canvas, int page, int pageCount) const;
+    /// Texts at the left, in the middle and at the right of a line.
+    void drawLine(PageCanvas& canvas, qreal top, const QString& left, const QString& middle,
+            const QString& right) const;
+
+    const PageStyle& m_style;
+    Texts m_texts;
+    qreal m_left;
+    qreal m_width;
+    qreal m_headerTop;
+    qreal m_footerTop;
+    QRectF m_body;
+};
+
+} // namespace uiutils

@@ -1,0 +1,50 @@
+#include "writers/reportimage.h"
+
+#include "writers/pagecanvas_p.h"
+#include "writers/pagestyle_p.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+namespace {
+
+/// Read from the file's head, without decoding the image.
+QSizeF sizeOf(QByteArray encoded)
+{
+    QBuffer buffer(&encoded);
+    return QImageReader(&buffer).size();
+}
+
+} // namespace
+
+ReportImage::ReportImage(const QByteArray& encoded, qreal pixelsOfAPoint)
+    : m_encoded(encoded)
+    , m_naturalSize(sizeOf(encoded) / qMax(pixelsOfAPoint, 0.01))
+{
+}
+
+ReportImage::~ReportImage() = default;
+
+void ReportImage::measure(const uiutils::PageStyle& style, const QSizeF& page)
+{
+    m_spaceAbove = style.points(8);
+    m_size = QSizeF(style.points(m_naturalSize.width()), style.points(m_naturalSize.height()));
+    if (m_size.width() > page.width() || m_size.height() > page.height())
+        m_size.scale(page, Qt::KeepAspectRatio);
+}
+
+ReportItem::Position ReportImage::end() const
+{
+    return m_naturalSize.isEmpty() ? Position() : Position {1, 0};
+}
+
+ReportItem::Portion ReportImage::split(const Position& begin, qreal room, bool isWholePage) const
+{
+    const bool fits = m_size.height() <= room || isWholePage;
+    return fits ? Portion {begin, end(), m_size.height()} : Portion {begin, begin, 0};
+}
+
+void ReportImage::draw(uiutils::PageCanvas& canvas, const Portion&, const QPointF& topLeft) const
+{
+    canvas.drawImage(m_encoded, QRectF(topLeft, m_size));
+}

@@ -1,0 +1,42 @@
+#include "writers/reporttext.h"
+
+#include "writers/pagestyle_p.h"
+#include "writers/textblock_p.h"
+
+ReportText::ReportText(const QString& text)
+    : m_text(text)
+{
+}
+
+ReportText::~ReportText() = default;
+
+void ReportText::measure(const uiutils::PageStyle& style, const QSizeF& page)
+{
+    m_block = std::make_unique<uiutils::TextBlock>(style.body, m_text, page.width(), style.ink);
+    m_block->setSpaceAbove(style.points(5));
+}
+
+void ReportText::release()
+{
+    m_block.reset();
+}
+
+ReportItem::Position ReportText::end() const
+{
+    return m_block->end();
+}
+
+ReportItem::Portion ReportText::split(const Position& begin, qreal room, bool isWholePage) const
+{
+    return m_block->split(begin, room, isWholePage);
+}
+
+void ReportText::draw(uiutils::PageCanvas& canvas, const Portion& portion, const QPointF& topLeft) const
+{
+    m_block->draw(canvas, portion, topLeft);
+}
+
+qreal ReportText::spaceAbove() const
+{
+    return m_block->spaceAbove();
+}

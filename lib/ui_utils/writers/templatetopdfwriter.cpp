@@ -1,0 +1,42 @@
+#include "writers/templatetopdfwriter.h"
+
+#include "document/reporttemplate.h"
+#include "service/instrumentinfo_p.h"
+
+TemplateToPdfWriter::TemplateToPdfWriter(const ReportTemplate& document, QList<ReportItem*>* items)
+    : m_html(document, items)
+    , m_items(items)
+    , m_subject(document.getAttr(QStringLiteral("subject")).toString())
+{
+    setAttribute(QStringLiteral("isForPDF"), true);
+}
+
+TemplateToPdfWriter::~TemplateToPdfWriter() = default;
+
+bool TemplateToPdfWriter::write(const QString& path, QString* error)
+{
+    qDeleteAll(*m_items);
+    m_items->clear();
+    m_html.collectItems();
+    setUpPages();
+    return m_pages.print(path, error);
+}
+
+void TemplateToPdfWriter::setUpPages()
+{
+    const auto text = [this](const char* name) { return m_html.attribute(QLatin1String(name)).toString(); };
+    const auto textOr = [&](const char* name, const QString& fallback) {
+        const QString own = text(name);
+        return own.isEmpty() ? fallback : own;
+    };
+    m_pages.setItems(*m_items);
+    m_pages.setOrientation(text("orientation") == QLatin1String("portrait") ? ReportPDF::Portrait : ReportPDF::Landscape);
+    m_pages.setTitle(m_html.title());
+    m_pages.setAuthor(textOr("author", uiutils::instrument::technicianName()));
+    m_pages.setSubject(textOr("subject", m_subject));
+    m_pages.setProducer(text("producer"));
+    m_pages.setLogo(text("logo"));
+    m_pages.setUnitId(textOr("unitId", uiutils::instrument::unitId()));
+    m_pages.setTimestamp(m_html.timestamp());
+    m_pages.setFields(m_html.titleFields());
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+#include "writers/reportitem.h"
+#include "writers/reportpdf.h"
+#include "writers/templatetohtmlwriter.h"
+
+#include <QString>
+#include <QVariant>
+
+class ReportTemplate;
+
+/// Turns a report document into a PDF file: has the HTML writer's pass collect the items, and ReportPDF print them.
+class UIUTILS_EXPORT TemplateToPdfWriter
+{
+public:
+    /// Keeps the document as it is now. The items of the pass are kept in `items` until the next one, which deletes them.
+    explicit TemplateToPdfWriter(
+            const ReportTemplate& document, QList<ReportItem*>* items = &uiutils::sharedReportItems());
+    ~TemplateToPdfWriter();
+    Q_DISABLE_COPY_MOVE(TemplateToPdfWriter)
+
+    /// Sets a switch of content: those of the HTML writer; "logo", an instrument path; "orientation", "portrait" or
+    /// anything else for landscape; "unitId", in place of the unit's own; "author", in place of the
+    /// technician's name; "subject", in place of the document's; "producer".
+    void setAttribute(const QString& name, const QVariant& value) { m_html.setAttribute(name, value); }
+
+    /// Tells how far write() is, and cancels it.
+    ReportPDF& pages() { return m_pages; }
+
+    /// Prints the file; see ReportPDF::print() for what it returns.
+    bool write(const QString& path, QString* error = nullptr);
+
+private:
+    void setUpPages();
+
+    TemplateToHtmlWriter m_html;
+    QList<ReportItem*>* m_items;
+    QString m_subject;
+    ReportPDF m_pages;
+};
