@@ -40,6 +40,7 @@ QVector<Result> bindingCases(int runs);
 QVector<Result> documentCases(int runs);
 QVector<Result> htmlCases(int runs);
 QVector<Result> xmlCases(int runs);
+QVector<Result> pdfCases(int runs);
 QVector<Result> plotCases(int runs);
 QVector<Result> localCases(int runs);
 

@@ -3,7 +3,11 @@
 #include "memory.h"
 #include "tokens.h"
 
+#include "core/paths.h"
 #include "document/reporttemplate.h"
+
+#include <QDir>
+#include <QFile>
 
 #include <cstdio>
 #include <cstdlib>
@@ -22,6 +26,19 @@ void buildReport(ReportTemplate& report, int rows, int status)
     report.endTable();
     report.endSection();
     report.endReport();
+}
+
+void installIcons(const QString& root)
+{
+    const QString folder = root + uiutils::paths::images;
+    const QStringList icons = QDir(QStringLiteral(UIUTILS_IMAGES_DIR)).entryList({QStringLiteral("*.png")});
+    bool isDone = QDir().mkpath(folder) && !icons.isEmpty();
+    for (const QString& icon : icons)
+        isDone = isDone && QFile::copy(QStringLiteral(UIUTILS_IMAGES_DIR "/") + icon, folder + icon);
+    if (!isDone) {
+        fputs("uiutils-bench: the icons cannot be put in place\n", stderr);
+        std::exit(1);
+    }
 }
 
 QVector<Result> writerCases(const Writer& writer, int runs, int rows)

@@ -9,6 +9,9 @@ namespace bench {
 /// A report of one section with one table: a label, a value and its attributes in each row.
 void buildReport(ReportTemplate& report, int rows, int status);
 
+/// Puts the icons into the instrument's root at `root`; ends the program when that fails.
+void installIcons(const QString& root);
+
 /// A writer of reports, as the benchmarks see it.
 struct Writer
 {

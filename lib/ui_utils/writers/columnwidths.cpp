@@ -12,6 +12,8 @@ namespace {
 
 /// What the columns of row labels get of the width if they can, so that tables below each other are parted alike.
 constexpr qreal labelShare = 0.3;
+/// Halves a width until the rest cannot be seen.
+constexpr int bisections = 40;
 
 template<typename Measure> qreal sumOf(const ColumnBand& band, Measure measure)
 {
@@ -61,9 +63,16 @@ void share(ColumnBand& band, const QVector<ColumnDemand>& demands, qreal total, 
     if (naturalSum <= total) {
         spread(band, labels, total, natural);
     } else if (minimalSum <= total) {
-        const qreal part = (total - minimalSum) / (naturalSum - minimalSum);
+        // One long remark does not make the columns beside it break their short texts.
+        const auto limited = [&](const ColumnWidth& c, qreal limit) { return qMax(minimal(c), qMin(natural(c), limit)); };
+        qreal low = 0;
+        qreal high = total;
+        for (int i = 0; i < bisections; ++i) {
+            const qreal limit = (low + high) / 2;
+            (sumOf(band, [&](const ColumnWidth& c) { return limited(c, limit); }) > total ? high : low) = limit;
+        }
         for (ColumnWidth& c : band)
-            c.width = minimal(c) + (natural(c) - minimal(c)) * part;
+            c.width = limited(c, low);
     } else {
         std::vector<qreal> widths;
         for (const ColumnWidth& c : band)
@@ -74,44 +83,49 @@ void share(ColumnBand& band, const QVector<ColumnDemand>& demands, qreal total, 
     }
 }
 
+/// Deals the columns out to bands, each as wide as `need` lets it be.
+template<typename Need>
+QVector<ColumnBand> dealt(const QVector<ColumnDemand>& demands, qreal total, int labels, Need need)
+{
+    QVector<ColumnBand> bands;
+    ColumnBand common;
+    ColumnBand band;
+    qreal commonNeed = 0;
+    qreal bandNeed = 0;
+    for (int column = 0; column < demands.size(); ++column) {
+        const ColumnDemand& demand = demands.at(column);
+        if (demand.isEmpty())
+            continue;
+        if (column < labels) {
+            common.append({column, 0});
+            commonNeed += need(demand);
+            continue;
+        }
+        if (!band.isEmpty() && commonNeed + bandNeed + need(demand) > total) {
+            bands += common + band;
+            band.clear();
+            bandNeed = 0;
+        }
+        band.append({column, 0});
+        bandNeed += need(demand);
+    }
+    if (!band.isEmpty() || (bands.isEmpty() && !common.isEmpty()))
+        bands += common + band;
+    return bands;
+}
+
 } // namespace
 
 QVector<ColumnBand> columnBands(const QVector<ColumnDemand>& demands, qreal total, qreal least, int labels)
 {
-    // What a column cannot do with less than.
-    const auto needed = [&](int column) {
-        const ColumnDemand& demand = demands.at(column);
-        return qMin(qMin(demand.minimal, demand.natural), least);
-    };
-    ColumnBand common;
-    qreal commonNeed = 0;
-    for (int column = 0; column < qMin(labels, demands.size()); ++column) {
-        if (demands.at(column).isEmpty())
-            continue;
-        common.append({column, 0});
-        commonNeed += needed(column);
-    }
-
-    QVector<ColumnBand> bands;
-    ColumnBand band = common;
-    qreal need = commonNeed;
-    for (int column = labels; column < demands.size(); ++column) {
-        if (demands.at(column).isEmpty())
-            continue;
-        if (need + needed(column) > total && band.size() > common.size()) {
-            bands += band;
-            band = common;
-            need = commonNeed;
-        }
-        band.append({column, 0});
-        need += needed(column);
-    }
-    if (band.size() > common.size() || bands.isEmpty())
-        bands += band;
-    if (bands.constFirst().isEmpty())
-        return {};
-    for (ColumnBand& each : bands)
-        share(each, demands, total, labels);
+    const auto scarce = [&](const ColumnDemand& d) { return qMin(qMin(d.minimal, d.natural), least); };
+    // Where there have to be several bands, there is room for every column in one of them.
+    const auto ample = [&](const ColumnDemand& d) { return qMin(d.natural, qMax(2 * least, scarce(d))); };
+    QVector<ColumnBand> bands = dealt(demands, total, labels, scarce);
+    if (bands.size() > 1)
+        bands = dealt(demands, total, labels, ample);
+    for (ColumnBand& band : bands)
+        share(band, demands, total, labels);
     return bands;
 }
 

@@ -11,12 +11,20 @@ namespace uiutils {
 namespace {
 
 constexpr int maximumTitleLines = 3;
+constexpr qreal maximumCenteredLines = 2;
 /// Of a page's height, for labels that are repeated on each page.
 constexpr qreal maximumLabelShare = 0.25;
 /// Below this many points, columns move to another band.
 constexpr qreal leastColumnWidth = 48;
 /// A width that was measured holds its text, whatever is lost on the way.
 constexpr qreal tolerance = 0.01;
+
+/// Estimated.
+qreal takesLinesOf(const PageFont& font, const QString& text, qreal width)
+{
+    const qreal plainWidth = font.plainWidth(text);
+    return (plainWidth < 0 ? text.size() * font.lineHeight() / 2 : plainWidth) / width;
+}
 
 Qt::Alignment alignmentFor(int code)
 {
@@ -271,9 +279,12 @@ void TableLayout::drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, co
         int beginLine, int endLine) const
 {
     const PageFont& font = fontOf(cell);
-    const Qt::Alignment alignment = alignmentFor(cell.alignment);
+    Qt::Alignment alignment = alignmentFor(cell.alignment);
     const qreal icon = iconSpace(cell);
     if (icon <= 0) {
+        // A paragraph is read from the left, whatever suits figures.
+        if (alignment == Qt::AlignHCenter && takesLinesOf(font, cell.text, width) > maximumCenteredLines)
+            alignment = Qt::AlignLeft;
         canvas.drawText(font, cell.text, topLeft, width, alignment, m_style.ink, beginLine, endLine);
         return;
     }

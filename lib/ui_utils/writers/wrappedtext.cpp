@@ -11,7 +11,7 @@ namespace uiutils {
 namespace {
 
 /// QTextLayout takes some fifty bytes for each character that it lays out at once.
-constexpr int maximumParagraph = 8192;
+constexpr int maximumStretch = 8192;
 
 bool isLineEnd(QChar c)
 {
@@ -27,28 +27,28 @@ QString pageText(const QString& text)
     return clean;
 }
 
-/// Calls visit(begin, length) for each stretch that is laid out by itself.
+/// Calls visit(begin, length) for what lies between line ends.
 template<typename Visitor> void forEachParagraph(const QString& text, Visitor visit)
 {
     int begin = 0;
-    while (begin <= text.size()) {
-        int end = begin;
-        while (end < text.size() && !isLineEnd(text.at(end)) && end - begin < maximumParagraph)
-            ++end;
-        if (end == text.size() || isLineEnd(text.at(end))) {
-            visit(begin, end - begin);
-            begin = end + 1;
+    for (int end = 0; end <= text.size(); ++end) {
+        if (end < text.size() && !isLineEnd(text.at(end)))
             continue;
-        }
-        // Between words, if there is a blank; never between the halves of one character.
-        const int blank = text.lastIndexOf(QLatin1Char(' '), end - 1);
-        if (blank > begin)
-            end = blank + 1;
-        else if (text.at(end).isLowSurrogate())
-            --end;
         visit(begin, end - begin);
-        begin = end;
+        begin = end + 1;
     }
+}
+
+/// Where the stretch that begins at `begin` ends: at a blank, if there is one; never between the halves of a character.
+int endOfStretch(const QString& text, int begin, int end)
+{
+    if (end - begin <= maximumStretch)
+        return end;
+    const int limit = begin + maximumStretch;
+    const int blank = text.lastIndexOf(QLatin1Char(' '), limit - 1);
+    if (blank > begin)
+        return blank + 1;
+    return text.at(limit).isLowSurrogate() ? limit - 1 : limit;
 }
 
 bool isBreak(QChar c)
@@ -82,12 +82,18 @@ WrappedText::~WrappedText() = default;
 void WrappedText::addParagraph(const PageFont& font, int begin, int length, qreal width)
 {
     const qreal plainWidth = font.plainWidth(QStringView(m_text).mid(begin, length));
-    if (plainWidth < 0)
-        addShaped(font, begin, length, width);
-    else if (plainWidth <= width)
+    if (plainWidth < 0) {
+        const int end = begin + length;
+        for (int at = begin; at < end;) {
+            const int stretchEnd = endOfStretch(m_text, at, end);
+            addShaped(font, at, stretchEnd - at, width);
+            at = stretchEnd;
+        }
+    } else if (plainWidth <= width) {
         m_lines.push_back({begin, length, plainWidth, -1, 0});
-    else
+    } else {
         addPlain(font, begin, length, width);
+    }
 }
 
 /// Fills line after line with as many words as fit.

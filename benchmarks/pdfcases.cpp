@@ -1,0 +1,218 @@
+#include "memory.h"
+#include "writercase.h"
+
+#include "document/reporttemplate.h"
+#include "writers/pageprinter_p.h"
+#include "writers/reporttable.h"
+#include "writers/templatetohtmlwriter.h"
+#include "writers/templatetopdfwriter.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QTextDocument>
+
+#include <cstdlib>
+
+namespace bench {
+
+namespace {
+
+constexpr int tables = 10;
+constexpr int columns = 3;
+
+/// Ten tables of three columns, `rows` rows together.
+void buildTables(ReportTemplate& report, int rows, int status)
+{
+    report.beginReport(QStringLiteral("bench"));
+    report.setKey(QStringLiteral("title"), QStringLiteral("Benchmark"));
+    for (int table = 0; table < tables; ++table) {
+        report.beginSection(QStringLiteral("section"), QStringLiteral("Section %1").arg(table));
+        report.beginTable(QStringLiteral("table"), QStringLiteral("Measurements %1").arg(table));
+        report.setKey(QStringLiteral("num_columns"), 2);
+        for (int row = 0; row < rows / tables; ++row) {
+            const int number = table * (rows / tables) + row;
+            report.addRow(QStringLiteral("tag"), QStringLiteral("Measurement point %1").arg(number),
+                    QStringLiteral("%1 dBm").arg(-20 - number * 0.013, 0, 'f', 3),
+                    {{QStringLiteral("status"), status}});
+        }
+        report.endTable();
+        report.endSection();
+    }
+    report.endReport();
+}
+
+/// Items as the HTML pass makes them, with a third column.
+class Items
+{
+public:
+    explicit Items(int rows, int status = 0)
+    {
+        for (int table = 0; table < tables; ++table) {
+            auto* item = new ReportTable(QStringLiteral("Measurements %1").arg(table),
+                    {QStringLiteral("Point"), QStringLiteral("Level"), QStringLiteral("Channel")}, false);
+            for (int row = 0; row < rows / tables; ++row) {
+                const int number = table * (rows / tables) + row;
+                item->appendCell({QStringLiteral("Measurement point %1").arg(number)});
+                item->appendCell({QStringLiteral("%1 dBm").arg(-20 - number * 0.013, 0, 'f', 3), status, 2});
+                item->appendCell({QStringLiteral("Channel %1").arg(number % 97)});
+                item->endRow();
+            }
+            m_items += item;
+        }
+    }
+    ~Items() { qDeleteAll(m_items); }
+    Q_DISABLE_COPY_MOVE(Items)
+
+    const QList<ReportItem*>& list() const { return m_items; }
+
+private:
+    QList<ReportItem*> m_items;
+};
+
+void printItems(const Items& items, const QString& path)
+{
+    uiutils::PageSettings settings;
+    settings.frame.documentTitle = QStringLiteral("Benchmark");
+    uiutils::PagePrinter printer(settings, items.list(), [](int, int) { return true; });
+    if (printer.print(path) != uiutils::PagePrinter::Printed) {
+        fprintf(stderr, "uiutils-bench: cannot print to %s\n", qPrintable(path));
+        std::exit(1);
+    }
+}
+
+/// Each cell measured and drawn by itself, in columns of the same width, on pages of the same printer.
+void printPlainly(const Items& items, const QString& path)
+{
+    QPrinter printer(QPrinter::ScreenResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setPageSize(QPageSize(QPageSize::Letter));
+    printer.setFullPage(true);
+    printer.setOutputFileName(path);
+    QPainter painter(&printer);
+    const QFont font(QStringLiteral("sans-serif"), 9);
+    painter.setFont(font);
+    const QFontMetrics metrics(font, &printer);
+    const QRect page = printer.paperRect(QPrinter::DevicePixel).toRect().adjusted(60, 60, -60, -60);
+    const int width = page.width() / columns;
+    int top = page.top();
+    for (const ReportItem* item : items.list()) {
+        const auto* table = static_cast<const ReportTable*>(item);
+        for (int row = 0; row < table->rowCount(); ++row) {
+            int height = 0;
+            for (int column = 0; column < columns; ++column) {
+                height = qMax(height, metrics.boundingRect(QRect(0, 0, width, page.height()), Qt::TextWordWrap,
+                                                     table->cellAt(row, column)->text).height());
+            }
+            if (top + height > page.bottom()) {
+                printer.newPage();
+                top = page.top();
+            }
+            for (int column = 0; column < columns; ++column) {
+                painter.drawText(QRect(page.left() + column * width, top, width, height), Qt::TextWordWrap,
+                        table->cellAt(row, column)->text);
+            }
+            top += height;
+        }
+    }
+}
+
+/// How many images the file holds.
+int imagesIn(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().count("/Subtype /Image") : -1;
+}
+
+QVector<Result> printCases(int runs, int rows, const QString& path)
+{
+    const Items items(rows);
+    const Timing timing = interleaved(
+            runs, [&] { printItems(items, path); }, [&] { printPlainly(items, path + QStringLiteral(".floor")); });
+    printItems(items, path);
+    const double size = double(QFile(path).size());
+    const double growth = double(peakGrowth([&] { printItems(items, path); })) / 1e6;
+    return {{QStringLiteral("pages of %L1 rows / boundingRect and drawText of their cells").arg(rows),
+                    QStringLiteral("ms CPU"), timing.ours, timing.floor, 0.8},
+            {QStringLiteral("   peak memory growth of it / 4 MB"), QStringLiteral("MB"), growth, 4, 1},
+            {QStringLiteral("   size of the file / 100 bytes a row"), QStringLiteral("bytes per row"), size / rows,
+                    100, 1}};
+}
+
+/// A document from the first pass to the finished file, and the parts of it.
+QVector<Result> documentCases(int runs, int rows, const QString& path)
+{
+    ReportTemplate report;
+    buildTables(report, rows, 0);
+    const auto pass = [&] {
+        QList<ReportItem*> items;
+        TemplateToHtmlWriter writer(report, &items);
+        writer.setAttribute(QStringLiteral("isForPDF"), true);
+        writer.collectItems();
+        qDeleteAll(items);
+    };
+    const auto whole = [&] {
+        QList<ReportItem*> items;
+        TemplateToPdfWriter writer(report, &items);
+        if (!writer.write(path))
+            std::exit(1);
+        qDeleteAll(items);
+    };
+    const Timing timing = interleaved(runs, pass, whole);
+    return {{QStringLiteral("   HTML pass for items of %L1 rows / document to finished file").arg(rows),
+            QStringLiteral("ms CPU"), timing.ours, timing.floor, 0}};
+}
+
+/// The same rows by way of HTML and the toolkit's own rich text.
+Result richTextCase(int runs, int rows, const QString& path)
+{
+    ReportTemplate report;
+    buildTables(report, rows, 0);
+    const QString html = TemplateToHtmlWriter(report, nullptr).getHtml();
+    const auto whole = [&] {
+        QList<ReportItem*> items;
+        TemplateToPdfWriter writer(report, &items);
+        if (!writer.write(path))
+            std::exit(1);
+        qDeleteAll(items);
+    };
+    const Timing timing = interleaved(runs, whole, [&] {
+        QTextDocument document;
+        document.setHtml(html);
+        QPrinter printer(QPrinter::ScreenResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setPageSize(QPageSize(QPageSize::Letter));
+        printer.setOutputFileName(path + QStringLiteral(".peer"));
+        document.print(&printer);
+    });
+    return {QStringLiteral("document of %L1 rows to finished file / QTextDocument::print of its HTML").arg(rows),
+            QStringLiteral("ms CPU"), timing.ours, timing.floor, 0};
+}
+
+} // namespace
+
+QVector<Result> pdfCases(int runs)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("bench.pdf"));
+    qputenv("UIUTILS_ROOT", QFile::encodeName(folder.path()));
+    installIcons(folder.path());
+
+    constexpr int few = 10'000;
+    constexpr int many = 100'000;
+    QVector<Result> results = printCases(runs, few, path);
+    results += printCases(runs, many, path);
+    results.append({QStringLiteral("pages of 100,000 rows / pages of 10,000 rows"), QStringLiteral("ms CPU"),
+            results.at(3).ours, results.at(0).ours, 11});
+    printItems(Items(few, 64), path);
+    const int imagesOfMany = imagesIn(path);
+    printItems(Items(tables, 64), path);
+    results.append({QStringLiteral("images in a file of 10,000 failed rows / of 10"), QStringLiteral("images"),
+            double(imagesOfMany), double(imagesIn(path)), 1});
+    results += documentCases(runs, few, path);
+    results += documentCases(runs, many, path);
+    results.append(richTextCase(runs, few, path));
+    return results;
+}
+
+} // namespace bench
