@@ -48,7 +48,15 @@ double heapBytes()
 
 qint64 peakGrowth(const std::function<void()>& run)
 {
-    const double growth = inChild([&] { return double(growthHere(run)); });
+    return peakGrowth([] {}, run);
+}
+
+qint64 peakGrowth(const std::function<void()>& prepare, const std::function<void()>& run)
+{
+    const double growth = inChild([&] {
+        prepare();
+        return double(growthHere(run));
+    });
     return std::isnan(growth) ? -1 : qint64(growth);
 }
 

@@ -10,6 +10,9 @@ namespace bench {
 /// the system does not tell.
 qint64 peakGrowth(const std::function<void()>& run);
 
+/// The same behind `prepare`, which a child that shares no code pages with anybody yet may need.
+qint64 peakGrowth(const std::function<void()>& prepare, const std::function<void()>& run);
+
 /// By how many bytes what the program holds of the heap has grown when `run` has run behind `prepare` in a fresh child
 /// process; -1 when there is no answer. Exact to the byte, but blind to what was freed meanwhile.
 qint64 heapGrowth(const std::function<void()>& prepare, const std::function<void()>& run);

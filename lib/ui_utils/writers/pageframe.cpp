@@ -36,16 +36,11 @@ PageFrame::PageFrame(const PageStyle& style, const QSizeF& paper, const Texts& t
     m_body = QRectF(m_left, top, m_width, m_footerTop - style.points(ruleDistance) - gap - top);
 }
 
-void PageFrame::draw(PageCanvas& canvas, int page, int pageCount) const
+void PageFrame::drawHeader(PageCanvas& canvas, int page) const
 {
-    if (page > 1)
-        drawHeader(canvas);
-    drawFooter(canvas, page, pageCount);
-    canvas.flush();
-}
-
-void PageFrame::drawHeader(PageCanvas& canvas) const
-{
+    // The first page has the title block.
+    if (page == 1)
+        return;
     drawLine(canvas, m_headerTop, m_texts.title, {}, m_texts.documentTitle);
     const qreal rule = m_headerTop + m_style.small.lineHeight() + m_style.points(ruleDistance);
     canvas.fill(QRectF(m_left, rule, m_width, m_style.hairline), m_style.rule);

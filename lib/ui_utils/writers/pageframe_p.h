@@ -25,12 +25,11 @@ public:
     /// What the frame leaves for the body.
     QRectF body() const { return m_body; }
 
-    /// `page` counts from 1.
-    void draw(PageCanvas& canvas, int page, int pageCount) const;
+    /// `page` counts from 1. To be drawn before and behind the body, which is the order in which readers copy the text.
+    void drawHeader(PageCanvas& canvas, int page) const;
+    void drawFooter(PageCanvas& canvas, int page, int pageCount) const;
 
 private:
-    void drawHeader(PageCanvas& canvas) const;
-    void drawFooter(PageCanvas& canvas, int page, int pageCount) const;
     /// Texts at the left, in the middle and at the right of a line.
     void drawLine(PageCanvas& canvas, qreal top, const QString& left, const QString& middle,
             const QString& right) const;

@@ -68,18 +68,19 @@ PagePrinter::Outcome PagePrinter::printPages()
 void PagePrinter::drawPage(PageCanvas& canvas, int page)
 {
     const QPointF origin = m_frame->body().topLeft();
-    m_frame->draw(canvas, page + 1, m_pageCount);
+    m_frame->drawHeader(canvas, page + 1);
     for (; m_nextPortion < m_placed.size() && m_placed.at(m_nextPortion).page == page; ++m_nextPortion) {
         const PlacedPortion& placed = m_placed.at(m_nextPortion);
         m_items.at(placed.item)->draw(canvas, placed.portion, origin + QPointF(0, placed.top));
         if (placed.portion.begin == ReportItem::Position())
-            addBookmark(placed);
+            addToOutline(placed);
     }
+    m_frame->drawFooter(canvas, page + 1, m_pageCount);
     canvas.flush();
 }
 
 /// A heading stands in the one of a higher level, and a table in the last heading.
-void PagePrinter::addBookmark(const PlacedPortion& placed)
+void PagePrinter::addToOutline(const PlacedPortion& placed)
 {
     const ReportItem& item = *m_items.at(placed.item);
     const int heading = item.headingLevel();
@@ -89,7 +90,7 @@ void PagePrinter::addBookmark(const PlacedPortion& placed)
     if (title.isEmpty())
         return;
     const int level = heading > 0 ? heading - 1 : m_headingLevel;
-    m_bookmarks.append({title, level, placed.page, (m_frame->body().top() + placed.top) / m_style->points(1)});
+    m_outline.append({title, level, placed.page, (m_frame->body().top() + placed.top) / m_style->points(1)});
 }
 
 } // namespace uiutils

@@ -3,6 +3,7 @@
 #include "writers/pageflow_p.h"
 #include "writers/pageframe_p.h"
 #include "writers/pagestyle_p.h"
+#include "writers/pdfannotation_p.h"
 #include "writers/titleblock_p.h"
 
 #include <QPrinter>
@@ -25,18 +26,6 @@ struct PageSettings
 class PagePrinter
 {
 public:
-    /// A title that the file's outline lists.
-    struct Bookmark
-    {
-        QString title;
-        /// 0 for the outermost.
-        int level;
-        /// From 0.
-        int page;
-        /// Points from the page's top edge.
-        qreal top;
-    };
-
     /// Told how many of the pages are printed; false stops the printer.
     using Progress = std::function<bool(int page, int pageCount)>;
 
@@ -50,13 +39,14 @@ public:
     /// Prints to `path` on disk. `Failed` means that the device could not write.
     Outcome print(const QString& path);
 
-    const QVector<Bookmark>& bookmarks() const { return m_bookmarks; }
+    /// The headings and tables that were printed.
+    const QVector<pdf::OutlineEntry>& outline() const { return m_outline; }
 
 private:
     bool layOut();
     Outcome printPages();
     void drawPage(PageCanvas& canvas, int page);
-    void addBookmark(const PlacedPortion& placed);
+    void addToOutline(const PlacedPortion& placed);
 
     PageFrame::Texts m_frameTexts;
     Progress m_progress;
@@ -69,7 +59,7 @@ private:
     int m_nextPortion = 0;
     int m_pageCount = 0;
     int m_headingLevel = 0;
-    QVector<Bookmark> m_bookmarks;
+    QVector<pdf::OutlineEntry> m_outline;
 };
 
 } // namespace uiutils

@@ -1,5 +1,6 @@
 #include "writers/reportpdf.h"
 
+#include "core/durablefile.h"
 #include "core/paths.h"
 #include "core/temporarysibling_p.h"
 #include "writers/pageprinter_p.h"
@@ -22,7 +23,7 @@ public:
 private:
     uiutils::PageSettings settings() const;
     bool tellProgress(int page, int pageCount);
-    bool finish(const QVector<uiutils::PagePrinter::Bookmark>& bookmarks);
+    bool finish(const QString& printed, const QVector<uiutils::pdf::OutlineEntry>& outline);
     bool fail(const QString& text, const QString& reason);
 
     QPointer<ReportPDF> m_owner;
@@ -72,12 +73,21 @@ bool ReportPDF::Job::run()
     case uiutils::PagePrinter::Printed:
         break;
     }
-    return finish(printer.bookmarks());
+    return finish(printed.path(), printer.outline());
 }
 
-bool ReportPDF::Job::finish(const QVector<uiutils::PagePrinter::Bookmark>&)
+/// A printer device tells nothing of a disk that took no more: only a file that can be read again to its end was printed.
+bool ReportPDF::Job::finish(const QString& printed, const QVector<uiutils::pdf::OutlineEntry>& outline)
 {
-    return true;
+    const ReportPDF& owner = *m_owner;
+    QString error;
+    const QByteArray file = uiutils::pdf::annotated(printed,
+            {owner.m_title.isEmpty() ? owner.m_documentTitle : owner.m_title, owner.m_author, owner.m_subject,
+                    owner.m_producer, outline},
+            &error);
+    if (file.isEmpty())
+        return fail(tr("Cannot write %1: %2"), error);
+    return uiutils::writeFileDurably(m_target, file, &m_error);
 }
 
 ReportPDF::ReportPDF(QObject* parent)
