@@ -5,10 +5,12 @@
 #include "instrumentroot.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 #include "writers/templatetohtmlwriter.h"
+#include "writers/templatetopdfwriter.h"
 
 #include <QFile>
 #include <QVector>
 
+#include <functional>
 #include <optional>
 
 namespace uiutils::demo {
@@ -33,10 +35,9 @@ QString dataUriOf(const QString& instrumentPath)
     return QStringLiteral("data:image/png;base64,") + QString::fromLatin1(bytes.toBase64());
 }
 
-QByteArray pageOf(const ReportTemplate& report, const QVariantMap& attributes)
+/// What the page and the printed pages have in common.
+template<typename Writer> void setAttributes(Writer& writer, const QVariantMap& attributes)
 {
-    TemplateToHtmlWriter writer(report, nullptr);
-    writer.setAttribute(QStringLiteral("logo"), dataUriOf(paths::logo));
     writer.setAttribute(QStringLiteral("plot_width"), 640);
     writer.setAttribute(QStringLiteral("plot_height"), 320);
     writer.setAttribute(QStringLiteral("includeJobInfo"), true);
@@ -44,6 +45,13 @@ QByteArray pageOf(const ReportTemplate& report, const QVariantMap& attributes)
     writer.setAttribute(QStringLiteral("includeCustomerInfoTop"), true);
     for (auto it = attributes.begin(); it != attributes.end(); ++it)
         writer.setAttribute(it.key(), it.value());
+}
+
+QByteArray pageOf(const ReportTemplate& report, const QVariantMap& attributes)
+{
+    TemplateToHtmlWriter writer(report, nullptr);
+    writer.setAttribute(QStringLiteral("logo"), dataUriOf(paths::logo));
+    setAttributes(writer, attributes);
     return writer.getHtml().toUtf8();
 }
 
@@ -60,11 +68,27 @@ void restore(const QString& path, const std::optional<QByteArray>& contents)
         qWarning("%s could not be put back to what it was.", qUtf8Printable(path));
 }
 
+/// A file that is to be written, and what writes it.
 struct NewFile
 {
     QString path;
-    QByteArray contents;
+    std::function<bool(const QString& path, QString* error)> write;
 };
+
+NewFile fileOf(const QString& path, const QByteArray& contents)
+{
+    return {path, [contents](const QString& target, QString* error) { return writeFileDurably(target, contents, error); }};
+}
+
+bool printPages(const ReportTemplate& report, const QVariantMap& attributes, const QString& path, QString* error)
+{
+    QList<ReportItem*> items;
+    TemplateToPdfWriter writer(report, &items);
+    setAttributes(writer, attributes);
+    const bool isPrinted = writer.write(path, error);
+    qDeleteAll(items);
+    return isPrinted;
+}
 
 /// Writes all of the files, or none: when one fails, those before it get back what they held.
 bool writeAll(const QVector<NewFile>& files, QString* error)
@@ -72,7 +96,7 @@ bool writeAll(const QVector<NewFile>& files, QString* error)
     QVector<std::optional<QByteArray>> before;
     for (int i = 0; i < files.size(); ++i) {
         before += contentsOf(files.at(i).path);
-        if (writeFileDurably(files.at(i).path, files.at(i).contents, error))
+        if (files.at(i).write(files.at(i).path, error))
             continue;
         while (--i >= 0)
             restore(files.at(i).path, before.at(i));
@@ -107,15 +131,19 @@ bool ReportSaver::save(ReportTemplate* report, const QString& name, const QVaria
         return refuse(error);
 
     const QString stem = folder() + name;
-    if (!writeAll({{stem + QStringLiteral(".html"), pageOf(*report, writerAttributes)},
-                          {stem + QStringLiteral(".xml"), xmlOf(*report)},
-                          {stem + QStringLiteral(".json"), report->toJson().toUtf8()}},
+    const QString pages = stem + QStringLiteral(".pdf");
+    const QString page = stem + QStringLiteral(".html");
+    const QString xml = stem + QStringLiteral(".xml");
+    const QString document = stem + QStringLiteral(".json");
+    const auto print = [&](const QString& path, QString* why) { return printPages(*report, writerAttributes, path, why); };
+    if (!writeAll({{pages, print}, fileOf(page, pageOf(*report, writerAttributes)), fileOf(xml, xmlOf(*report)),
+                          fileOf(document, report->toJson().toUtf8())},
                 &error)) {
         return refuse(error + QLatin1Char(' ')
                 + tr("No report was saved. Check the free space and that you may write there, or choose "
                      "another name; then save again."));
     }
-    addFiles({stem + QStringLiteral(".html"), stem + QStringLiteral(".xml"), stem + QStringLiteral(".json")});
+    addFiles({pages, page, xml, document});
     setErrorText({});
     return true;
 }

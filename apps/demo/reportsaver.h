@@ -8,7 +8,8 @@
 
 namespace uiutils::demo {
 
-/// Saves a report document as a web page, as XML and as JSON in the instrument's report folder: all files or none.
+/// Saves a report document as PDF, as a web page, as XML and as JSON in the instrument's report folder: all files or
+/// none.
 class ReportSaver : public QObject
 {
     Q_OBJECT
@@ -26,8 +27,8 @@ public:
     QString errorText() const { return m_errorText; }
     QString folder() const;
 
-    /// Writes `name`.html, `name`.xml and `name`.json and replaces files of these names. `writerAttributes` are switches
-    /// of the page's writer and win over those set here. The report stays the caller's.
+    /// Writes `name`.pdf, `name`.html, `name`.xml and `name`.json and replaces files of these names. `writerAttributes` are
+    /// switches of the writers of the pages and win over those set here. The report stays the caller's.
     ///
     /// Returns false, with the reason in errorText, when a file could not be written; the folder then holds
     /// what it held before.

@@ -103,7 +103,7 @@ private Q_SLOTS:
         focusButton("Save");
         QTest::keyClick(m_window, Qt::Key_Space);
         QCOMPARE(m_saver->errorText(), QString());
-        QCOMPARE(m_saver->files().size(), 3);
+        QCOMPARE(m_saver->files().size(), 4);
         QVERIFY(QFile::exists(m_saver->files().constFirst()));
     }
 

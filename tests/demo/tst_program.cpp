@@ -104,11 +104,12 @@ private Q_SLOTS:
 
         const QStringList reports = filesBelow(root + "/cust/public/reports");
         const QStringList pictures = filesBelow(root + "/pictures");
-        QCOMPARE(reports.size(), 3);
+        QCOMPARE(reports.size(), 4);
         QCOMPARE(pictures.size(), 7);
         for (const QString& file : reports + pictures)
             QVERIFY2(outcome.output.split('\n').contains(file), qPrintable(outcome.output));
         checkReport(reports.at(0), reports.at(1), samples);
+        checkPages(reports.at(2));
         for (const QString& picture : pictures)
             checkPicture(picture);
     }
@@ -126,7 +127,7 @@ private Q_SLOTS:
         QFETCH(const QString, display);
         const Outcome outcome = runDemo({}, {{"UIUTILS_ROOT", m_folder->path()}, {"DISPLAY", display}});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
-        QCOMPARE(filesBelow(m_folder->filePath("cust/public/reports")).size(), 3);
+        QCOMPARE(filesBelow(m_folder->filePath("cust/public/reports")).size(), 4);
     }
 
     void secondTourBesideTheFirst()
@@ -201,7 +202,7 @@ private Q_SLOTS:
             const Outcome outcome = runDemo({"--tour", "--root", m_folder->path()});
             QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
             QCOMPARE(outcome.errors, QString());
-            const QString words = wordsOf(contentsOf(filesBelow(m_folder->filePath("cust/public/reports")).at(3 * run)));
+            const QString words = wordsOf(contentsOf(filesBelow(m_folder->filePath("cust/public/reports")).at(4 * run)));
             QVERIFY2(words.contains("Signe"), qPrintable(words));
             QVERIFY2(words.contains("Solheim") && !words.contains("Dahl"), qPrintable(words));
             QVERIFY2(words.contains("at most 2.00 ms"), qPrintable(words));
@@ -281,6 +282,17 @@ private:
         // The page needs no other file.
         QVERIFY(html.contains("src=\"data:image/png;base64,"));
         QVERIFY(!QRegularExpression("src=\"(?!data:)").match(html).hasMatch());
+    }
+
+    void checkPages(const QString& file)
+    {
+        QVERIFY(file.endsWith(".pdf"));
+        QProcess reader;
+        reader.start("pdftotext", {file, "-"});
+        QVERIFY(reader.waitForFinished() && reader.exitCode() == 0);
+        const QString words = QString::fromUtf8(reader.readAllStandardOutput()).simplified();
+        for (const char* text : {"Solvant Report", "Overall Status", "Job ID", "Unit ID: ", "Page 1 of "})
+            QVERIFY2(words.contains(text), text);
     }
 
     /// A page has far more than one colour; a window that drew nothing has not.

@@ -47,7 +47,9 @@ private Q_SLOTS:
         QVERIFY2(m_saver->save(m_report.get(), "first", {{"marginal", true}}),
                 qPrintable(m_saver->errorText()));
 
-        QCOMPARE(m_saver->files(), QStringList({m_folder + "first.html", m_folder + "first.xml", m_folder + "first.json"}));
+        QCOMPARE(m_saver->files(), QStringList({m_folder + "first.pdf", m_folder + "first.html",
+                                            m_folder + "first.xml", m_folder + "first.json"}));
+        QVERIFY(contentsOf(m_folder + "first.pdf").startsWith("%PDF-"));
         QVERIFY(contentsOf(m_folder + "first.xml").contains("<report>"));
         QCOMPARE(contentsOf(m_folder + "first.json"), m_report->toJson().toUtf8());
         const QByteArray page = contentsOf(m_folder + "first.html");
@@ -56,7 +58,7 @@ private Q_SLOTS:
         QVERIFY(page.contains("src=\"data:image/png;base64," + QByteArray("picture").toBase64() + '"'));
 
         QVERIFY(m_saver->save(m_report.get(), "first", {}));
-        QCOMPARE(m_saver->files().size(), 3);
+        QCOMPARE(m_saver->files().size(), 4);
     }
 
     void withoutALogoThePageStillStandsAlone()
@@ -121,7 +123,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(m_folder + "half.html"));
         QVERIFY(!m_saver->save(m_report.get(), "half", {}));
         QVERIFY(m_saver->errorText().contains(m_folder + "half.html"));
-        QVERIFY(!QFile::exists(m_folder + "half.json"));
+        QVERIFY(!QFile::exists(m_folder + "half.json") && !QFile::exists(m_folder + "half.pdf"));
     }
 
     void folderThatCannotBeMade()
@@ -139,5 +141,5 @@ private:
     std::unique_ptr<ReportTemplate> m_report;
 };
 
-QTEST_GUILESS_MAIN(ReportSaverTest)
+QTEST_MAIN(ReportSaverTest)
 #include "tst_reportsaver.moc"

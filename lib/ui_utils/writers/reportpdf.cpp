@@ -6,6 +6,7 @@
 #include "writers/pageprinter_p.h"
 #include "writers/statusicons_p.h"
 
+#include <QGuiApplication>
 #include <QPointer>
 
 #include <cerrno>
@@ -101,9 +102,15 @@ ReportPDF::~ReportPDF() = default;
 
 bool ReportPDF::print(const QString& path, QString* error)
 {
+    QString ignored;
+    QString& message = error ? *error : ignored;
     if (m_isPrinting) {
-        if (error)
-            *error = tr("Cannot print %1 while another file is being printed.").arg(path);
+        message = tr("Cannot print %1 while another file is being printed.").arg(path);
+        return false;
+    }
+    // The toolkit would end the program.
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
+        message = tr("Cannot print %1: the program has no fonts, because it is not a QGuiApplication.").arg(path);
         return false;
     }
     const QPointer<ReportPDF> self(this);
@@ -111,8 +118,7 @@ bool ReportPDF::print(const QString& path, QString* error)
     m_isCancelled = false;
     Job job(*this, uiutils::onDisk(path));
     const bool isPrinted = job.run();
-    if (error)
-        *error = job.error();
+    message = job.error();
     if (self)
         m_isPrinting = false;
     return isPrinted;
