@@ -12,6 +12,10 @@ namespace {
 
 constexpr int maximumTitleLines = 3;
 constexpr qreal maximumCenteredLines = 2;
+/// Of a table that is carried over, on the page where it begins.
+constexpr int leastRows = 3;
+/// Of a page's height: a table up to it is not parted.
+constexpr qreal maximumMovedShare = 0.25;
 /// Of a page's height, for labels that are repeated on each page.
 constexpr qreal maximumLabelShare = 0.25;
 /// Below this many points, columns move to another band.
@@ -183,9 +187,23 @@ ReportItem::Portion TableLayout::split(
     const qreal head = headHeight(begin);
     const int bandEnd = (bandOf(begin) + 1) * m_rowsOfABand;
     ReportItem::Portion portion = takeRows(m_lines, m_heights, begin, bandEnd, room - head, isWholePage);
-    if (!portion.isEmpty())
-        portion.height += head;
+    if (portion.isEmpty() || (!isWholePage && isBetterMoved(portion, bandEnd)))
+        return {begin, begin, 0};
+    portion.height += head;
     return portion;
+}
+
+/// Whether the beginning of a table is too little to stand at a page's foot: a few rows of many, or part of a table that
+/// can easily be read in one piece.
+bool TableLayout::isBetterMoved(const ReportItem::Portion& portion, int bandEnd) const
+{
+    const bool begins = portion.begin.line == 0 && portion.begin.row % m_rowsOfABand == 0;
+    if (!begins || portion.end.row == bandEnd)
+        return false;
+    if (portion.end.row - portion.begin.row < leastRows)
+        return true;
+    const qreal room = m_page.height() * maximumMovedShare - headHeight(portion.begin);
+    return takeRows(m_lines, m_heights, portion.begin, bandEnd, room, false).end.row == bandEnd;
 }
 
 template<typename Visitor> void TableLayout::forEachRow(const ReportItem::Portion& portion, Visitor visit) const
