@@ -41,6 +41,7 @@ QVector<Result> documentCases(int runs);
 QVector<Result> htmlCases(int runs);
 QVector<Result> xmlCases(int runs);
 QVector<Result> plotCases(int runs);
+QVector<Result> textCases(int runs);
 QVector<Result> localCases(int runs);
 
 } // namespace bench
