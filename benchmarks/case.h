@@ -42,6 +42,7 @@ QVector<Result> htmlCases(int runs);
 QVector<Result> xmlCases(int runs);
 QVector<Result> pdfCases(int runs);
 QVector<Result> plotCases(int runs);
+QVector<Result> textCases(int runs);
 QVector<Result> localCases(int runs);
 
 } // namespace bench

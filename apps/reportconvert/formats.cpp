@@ -3,6 +3,7 @@
 #include "document/reporttemplate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 #include "writers/templatetohtmlwriter.h"
+#include "writers/textreport.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -43,16 +44,30 @@ QByteArray xmlOf(const ReportTemplate& report, const PageSettings&)
 
 QByteArray jsonOf(const ReportTemplate& report, const PageSettings&)
 {
-    return report.toJson().toUtf8();
+    return reportJson(report).toUtf8();
+}
+
+QByteArray textOf(const ReportTemplate& report, const PageSettings& settings)
+{
+    TextLayout layout;
+    layout.title = settings.title;
+    layout.timestamp = QDateTime::currentDateTime();
+    // As in the page.
+    layout.includeJobInfo = true;
+    layout.includeTechnicianInfoTop = true;
+    layout.includeCustomerInfoTop = true;
+    return reportText(report, layout).toUtf8();
 }
 
 const Format formatTable[] = {
         {QLatin1String("html"), QLatin1String("html"),
-                QT_TRANSLATE_NOOP("Formats", "one page that needs no other file"), true, htmlOf},
+                QT_TRANSLATE_NOOP("Formats", "one page that needs no other file"), true, true, htmlOf},
         {QLatin1String("xml"), QLatin1String("xml"),
-                QT_TRANSLATE_NOOP("Formats", "for machines, elements named by the tags"), false, xmlOf},
+                QT_TRANSLATE_NOOP("Formats", "for machines, elements named by the tags"), false, false, xmlOf},
         {QLatin1String("json"), QLatin1String("json"),
-                QT_TRANSLATE_NOOP("Formats", "the document itself, sorted and indented"), false, jsonOf},
+                QT_TRANSLATE_NOOP("Formats", "the document itself, sorted and indented"), false, false, jsonOf},
+        {QLatin1String("text"), QLatin1String("txt"),
+                QT_TRANSLATE_NOOP("Formats", "80 columns, for a mail or a printer"), true, false, textOf},
 };
 
 template <typename Predicate> const Format* findFormat(Predicate isWanted)

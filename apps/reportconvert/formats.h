@@ -10,14 +10,12 @@ class ReportTemplate;
 
 namespace uiutils::convert {
 
-/// What the command line says about HTML pages.
+/// What the command line says about the looks of what people read.
 struct PageSettings
 {
     /// Null: the document's own title.
     QString title;
     bool hasLogo = true;
-
-    bool isChanged() const { return !title.isNull() || !hasLogo; }
 };
 
 /// A format that documents are converted to. One more row of the table in formats.cpp makes one more format.
@@ -27,7 +25,9 @@ struct Format
     /// Of the file's name, without the dot.
     QLatin1String suffix;
     const char* description;
-    /// Whether PageSettings make a difference.
+    /// Whether PageSettings::title makes a difference.
+    bool hasTitle;
+    /// Whether it shows pictures: the logo, status icons.
     bool isPage;
     /// The text in UTF-8.
     QByteArray (*generate)(const ReportTemplate& report, const PageSettings& settings);
@@ -40,7 +40,7 @@ const QVector<const Format*>& allFormats();
 const Format* formatByName(const QString& name);
 const Format* formatBySuffix(const QString& suffix);
 
-/// "html, xml, json".
+/// "html, xml, json, text".
 QString formatNames();
 
 } // namespace uiutils::convert

@@ -48,7 +48,7 @@ bool loadServices(kiv::embedded::EmbeddedBackend& backend, const Options& option
 /// A root of the caller's own is not filled, and a page without its icons looks whole at first sight.
 void warnOfMissingIcons(const Plan& plan)
 {
-    if (!plan.writesPages() || QFile::exists(uiutils::onDisk(uiutils::paths::passIcon)))
+    if (!plan.writes(&Format::isPage) || QFile::exists(uiutils::onDisk(uiutils::paths::passIcon)))
         return;
     say(QCoreApplication::translate("main",
             "warning: pages will show no status icons, because UIUTILS_ROOT names %1, where there are none.")

@@ -46,7 +46,8 @@ QString formatHelp()
 QString helpText()
 {
     return tr(R"(Usage: reportconvert [OPTION]... DOCUMENT...
-Convert report documents of the instrument (JSON) to HTML, XML or JSON.
+Convert report documents of the instrument (JSON) to HTML, XML, JSON or plain
+text.
 
 A DOCUMENT is a file of up to 256 MiB, or "-" for standard input. Each is
 converted by itself: one that fails is named and does not stop the others. A
@@ -66,7 +67,8 @@ Options:
                          plots, from the service files in FOLDER; may be given
                          more than once or with colons; without it those tables
                          are left out and plots are empty
-      --title=TEXT       title of HTML pages, in place of the document's
+      --title=TEXT       title of HTML pages and plain texts, in place of the
+                         document's
       --no-logo          leave the logo out of HTML pages
       --strict           a document that does not have the layout of a report
                          document, or a service file that cannot be used, is an

@@ -148,11 +148,11 @@ int Plan::targetCount() const
     return count;
 }
 
-bool Plan::writesPages() const
+bool Plan::writes(bool Format::*flag) const
 {
-    return std::any_of(jobs.begin(), jobs.end(), [](const Job& job) {
+    return std::any_of(jobs.begin(), jobs.end(), [flag](const Job& job) {
         return std::any_of(job.targets.begin(), job.targets.end(),
-                [](const Target& target) { return target.format->isPage; });
+                [flag](const Target& target) { return target.format->*flag; });
     });
 }
 
@@ -168,8 +168,10 @@ Plan makePlan(const Options& given)
         options.formats += format;
     }
     Plan plan = writesFolder ? intoFolder(options) : intoOne(options);
-    if (plan.error.isEmpty() && options.page.isChanged() && !plan.writesPages())
-        plan.error = tr("--title and --no-logo change HTML pages only, and none is asked for.");
+    if (plan.error.isEmpty() && !options.page.title.isNull() && !plan.writes(&Format::hasTitle))
+        plan.error = tr("--title changes HTML pages and plain texts only, and neither is asked for.");
+    if (plan.error.isEmpty() && !options.page.hasLogo && !plan.writes(&Format::isPage))
+        plan.error = tr("--no-logo changes HTML pages only, and none is asked for.");
     if (plan.error.isEmpty())
         plan.error = clashOf(plan.jobs);
     if (plan.error.isEmpty())

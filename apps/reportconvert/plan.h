@@ -36,7 +36,8 @@ struct Plan
     QString error;
 
     int targetCount() const;
-    bool writesPages() const;
+    /// Whether a format is asked for of which that flag is true.
+    bool writes(bool Format::*flag) const;
 };
 
 /// Gives every document and format its target. Refuses two targets of one name, and a target that is one of

@@ -1,5 +1,6 @@
 #include "document/reporttemplate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
+#include "writers/textreport.h"
 
 #include <embedded/embeddedbackend.h>
 
@@ -121,7 +122,7 @@ private Q_SLOTS:
                 path("new/folder/"), document});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
         QCOMPARE(QDir(path("new/folder")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-                QStringList({name + ".html", name + ".json", name + ".xml"}));
+                QStringList({name + ".html", name + ".json", name + ".txt", name + ".xml"}));
 
         kiv::embedded::EmbeddedBackend backend;
         backend.loadFolders({testData + "/services"});
@@ -130,6 +131,13 @@ private Q_SLOTS:
         const QString stem = path("new/folder/") + name;
         QCOMPARE(contentsOf(stem + ".json"), report.toJson().toUtf8());
         QCOMPARE(contentsOf(stem + ".xml"), TemplateToXmlWriter(report, false, true, true).getXml().toUtf8());
+        // The time of the run is the only difference.
+        static const QRegularExpression timestamp("\n  Timestamp  .*\\d\\d:\\d\\d:\\d\\d\n");
+        QString text = QString::fromUtf8(contentsOf(stem + ".txt"));
+        QVERIFY(text.contains(timestamp));
+        uiutils::TextLayout layout;
+        layout.includeJobInfo = layout.includeCustomerInfoTop = layout.includeTechnicianInfoTop = true;
+        QCOMPARE(text.remove(timestamp), uiutils::reportText(report, layout));
         QCOMPARE(complaintOf("xmllint", {"--noout", stem + ".html", stem + ".xml"}), QString());
         QCOMPARE(complaintOf("tidy", {"-q", "-e", "--show-warnings", "no", stem + ".html"}), QString());
     }
@@ -172,6 +180,8 @@ private Q_SLOTS:
         QVERIFY(page({}).contains("<img src=\"data:"));
         QVERIFY(page({"--title", "Größe <1>"}).contains("<title>Größe &lt;1&gt;</title>"));
         QVERIFY(!page({"--no-logo"}).contains("<img"));
+        QCOMPARE(run({"-o", "small.txt", "--title", "Größe", path("small.json")}).exitCode, 0);
+        QVERIFY(contentsOf(path("small.txt")).startsWith("=====\nGröße\n=====\n"));
 
         m_environment.insert("UIUTILS_ROOT", m_folder->path());
         const Outcome bare = run({"-f", "html", "-o", "-", path("small.json")});
@@ -270,11 +280,12 @@ private Q_SLOTS:
                 {"a.json", "--format"},
                 {"a.json -o a.pdf", "--format"},
                 {"a.json -o -", "--format"},
-                {"a.json -f pdf", "html, xml, json"},
+                {"a.json -f pdf", "html, xml, json, text"},
                 {"a.json --frmat html", "frmat"},
                 {"a.json -f html -o ''", "--output"},
                 {"a.json -f html -s :", "--services"},
                 {"a.json -f xml --title T", "--title"},
+                {"a.json -f text --no-logo", "--no-logo"},
                 {"a.json sub/b.json -f xml -o -", "one document"},
                 {"a.json -f all -o -", "one document"},
                 {"a.json sub/b.json -f xml -o new", "\"/\""},
@@ -401,13 +412,13 @@ private Q_SLOTS:
         const QByteArray cleared = "\r\033[K";
         QByteArray shown;
         pollfd waiting{terminal, POLLIN, 0};
-        while (shown.count(cleared) < 4 && ::poll(&waiting, 1, 10000) > 0) {
+        while (shown.count(cleared) < 5 && ::poll(&waiting, 1, 10000) > 0) {
             char piece[256];
             shown.append(piece, int(qMax<ssize_t>(0, ::read(terminal, piece, sizeof piece))));
         }
         ::close(otherEnd);
         ::close(terminal);
-        QVERIFY2(shown.contains("2 of 3 files written, out/a.json"), shown);
+        QVERIFY2(shown.contains("2 of 4 files written, out/a.json"), shown);
         QVERIFY(shown.endsWith(cleared));
         QVERIFY(!shown.contains('\n'));
     }

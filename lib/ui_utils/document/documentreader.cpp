@@ -94,6 +94,16 @@ const QString& TableReader::cellKey(int column)
     return names.at(column);
 }
 
+int TableReader::columnOf(const QString& key) const
+{
+    if (!key.startsWith(keys::cellFamily))
+        return -1;
+    bool isNumber = false;
+    const int column = key.midRef(keys::cellFamily.size()).toInt(&isNumber);
+    // "cell_07" and "cell_+7" are no cell's keys.
+    return isNumber && column >= 0 && column < m_columnCount && cellKey(column) == key ? column : -1;
+}
+
 bool TableReader::usesRowLabels() const
 {
     return has(keys::useRowLabels) && !text(keys::useRowLabels).isEmpty() && !isFalse(text(keys::useRowLabels));

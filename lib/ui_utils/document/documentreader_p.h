@@ -134,7 +134,36 @@ public:
     /// Calls visit(QString key, QJsonObject row) for each row.
     template<typename Visitor> void forEachRow(Visitor visit) const { forEachChild(keys::rowFamily, visit); }
 
+    /// Calls visit(int column, QJsonObject cell) for each cell that a row has in a column of the table, in the order of the
+    /// columns. It costs what the row holds: a table may claim many more columns than it fills.
+    template<typename Visitor> void forEachCellOf(const QJsonObject& row, Visitor visit) const
+    {
+        if (m_columnCount > 2 * row.size())
+            return forEachSparseCell(row, visit);
+        for (int column = 0; column < m_columnCount; ++column) {
+            const QJsonValue value = row.value(cellKey(column));
+            if (value.isObject())
+                visit(column, value.toObject());
+        }
+    }
+
 private:
+    template<typename Visitor> void forEachSparseCell(const QJsonObject& row, Visitor visit) const
+    {
+        QVarLengthArray<std::pair<int, QJsonObject>, 16> cells;
+        for (auto it = row.begin(); it != row.end(); ++it) {
+            const int column = columnOf(it.key());
+            const QJsonValue value = column < 0 ? QJsonValue() : it.value();
+            if (value.isObject())
+                cells.append({column, value.toObject()});
+        }
+        std::sort(cells.begin(), cells.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+        for (const auto& cell : cells)
+            visit(cell.first, cell.second);
+    }
+    /// The column whose cells have that key; below zero for none of the table's.
+    int columnOf(const QString& key) const;
+
     int m_columnCount = 0;
 };
 

@@ -104,17 +104,30 @@ PlotExtent PlotData::extent() const
 {
     PlotExtent extent;
     for (const PlotCurve& curve : curves) {
-        for (int i = 0; i < curve.size(); ++i) {
-            const QPointF point = curve.point(i);
-            if (!isDrawable(point))
-                continue;
-            extent.x.include(point.x());
-            extent.y.include(point.y());
-        }
+        const PlotExtent own = extentOf(curve);
+        if (own.x.isEmpty())
+            continue;
+        extent.x.include(own.x.low);
+        extent.x.include(own.x.high);
+        extent.y.include(own.y.low);
+        extent.y.include(own.y.high);
     }
     for (const PlotLimit& limit : limits) {
         if (yKind == AxisScale::Linear || limit.value > 0)
             extent.y.include(limit.value);
+    }
+    return extent;
+}
+
+PlotExtent PlotData::extentOf(const PlotCurve& curve) const
+{
+    PlotExtent extent;
+    for (int i = 0; i < curve.size(); ++i) {
+        const QPointF point = curve.point(i);
+        if (!isDrawable(point))
+            continue;
+        extent.x.include(point.x());
+        extent.y.include(point.y());
     }
     return extent;
 }

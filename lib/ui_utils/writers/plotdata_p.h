@@ -58,6 +58,8 @@ struct PlotData
     AxisScale::Kind yKind = AxisScale::Linear;
 
     PlotExtent extent() const;
+    /// The same of the points of one curve alone.
+    PlotExtent extentOf(const PlotCurve& curve) const;
     /// Whether a point is finite and lies where the axes can show it.
     bool isDrawable(const QPointF& point) const;
 };

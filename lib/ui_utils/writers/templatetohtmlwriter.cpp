@@ -3,9 +3,9 @@
 #include "core/paths.h"
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
-#include "service/instrumentinfo_p.h"
 #include "writers/htmlstreamwriter.h"
 #include "writers/plotimage.h"
+#include "writers/reportcontent_p.h"
 #include "writers/style.h"
 
 #include <kiv/system.h>
@@ -25,23 +25,16 @@ QString tr(const char* text)
     return QCoreApplication::translate("TemplateToHtmlWriter", text);
 }
 
-/// "Sat Nov 21 2026".
-QString textDate()
-{
-    return QDate::currentDate().toString(Qt::TextDate);
-}
-
 /// Enough for a plot's letters to be as sharp as the page's.
 constexpr int plotPixelsOnPaper = 2;
 
 /// A two-column table of labels and values; none without rows.
-void writeLabelledTexts(HtmlStreamWriter& html, const QString& title, const QString& valueLabel, int nestingLevel,
-        const instrument::LabelledTexts& rows)
+void writeInformation(HtmlStreamWriter& html, const uiutils::InformationTable& table, int nestingLevel)
 {
-    if (rows.isEmpty())
+    if (table.rows.isEmpty())
         return;
-    html.startTable(title, {valueLabel}, true, nestingLevel);
-    for (const instrument::LabelledText& row : rows) {
+    html.startTable(table.title, {table.valueLabel}, true, nestingLevel);
+    for (const instrument::LabelledText& row : table.rows) {
         html.startRow();
         html.writeHeaderCell(row.label, HtmlStreamWriter::AlignRight);
         html.writeCell(row.text);
@@ -50,22 +43,12 @@ void writeLabelledTexts(HtmlStreamWriter& html, const QString& title, const QStr
     html.endTable();
 }
 
-/// Fields of a person that nobody filled in hold "default".
-instrument::LabelledTexts withoutDefaults(instrument::LabelledTexts fields)
-{
-    for (instrument::LabelledText& field : fields) {
-        if (field.text == QLatin1String("default"))
-            field.text.clear();
-    }
-    return fields;
-}
-
 } // namespace
 
 struct TemplateToHtmlWriter::OverallStatus
 {
     const char* flag;
-    const char* text;
+    uiutils::ReportStatus status;
     /// How the status reads in the page's comment.
     QLatin1String word;
     int icon;
@@ -132,17 +115,18 @@ QString TemplateToHtmlWriter::title() const
 
 QString TemplateToHtmlWriter::timestamp()
 {
-    return textDate() + QLatin1Char(' ') + System::getInstance().getCurrentTime();
+    return uiutils::dateText(QDate::currentDate()) + QLatin1Char(' ') + System::getInstance().getCurrentTime();
 }
 
 QVector<ReportPDF::Field> TemplateToHtmlWriter::titleFields() const
 {
     QVector<ReportPDF::Field> fields {{tr("Timestamp"), timestamp()}};
     const OverallStatus status = overallStatus();
-    if (status.text)
-        fields.append({tr("Overall Status"), tr(status.text), status.icon});
+    const QString statusText = uiutils::overallText(status.status);
+    if (!statusText.isEmpty())
+        fields.append({tr("Overall Status"), statusText, status.icon});
     if (isSet("includeJobInfo")) {
-        const instrument::LabelledTexts job = instrument::jobFields();
+        const instrument::LabelledTexts job = uiutils::jobTable().rows;
         for (const instrument::LabelledText& field : job)
             fields.append({field.label, field.text});
     }
@@ -222,21 +206,18 @@ void TemplateToHtmlWriter::writeBodyStart()
 
 TemplateToHtmlWriter::OverallStatus TemplateToHtmlWriter::overallStatus() const
 {
+    using uiutils::ReportStatus;
     static const OverallStatus statuses[] = {
-            {"pass", QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Pass"), QLatin1String("pass"),
-                    HtmlStreamWriter::StatusPass},
-            {"marginal", QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Marginal"), QLatin1String("marginal"),
-                    HtmlStreamWriter::StatusMarginal},
-            {"fail", QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Fail"), QLatin1String("fail"),
-                    HtmlStreamWriter::StatusFail},
-            {"notCompleted", QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Not Completed"),
-                    QLatin1String("not completed"), HtmlStreamWriter::StatusNone},
+            {"pass", ReportStatus::Pass, QLatin1String("pass"), HtmlStreamWriter::StatusPass},
+            {"marginal", ReportStatus::Marginal, QLatin1String("marginal"), HtmlStreamWriter::StatusMarginal},
+            {"fail", ReportStatus::Fail, QLatin1String("fail"), HtmlStreamWriter::StatusFail},
+            {"notCompleted", ReportStatus::NotCompleted, QLatin1String("not completed"), HtmlStreamWriter::StatusNone},
     };
     for (const OverallStatus& status : statuses) {
         if (isSet(status.flag))
             return status;
     }
-    return {nullptr, nullptr, QLatin1String("unknown"), HtmlStreamWriter::StatusNone};
+    return {nullptr, ReportStatus::Unknown, QLatin1String("unknown"), HtmlStreamWriter::StatusNone};
 }
 
 void TemplateToHtmlWriter::writeTestInformation()
@@ -252,27 +233,26 @@ void TemplateToHtmlWriter::writeTestInformation()
     m_html->startTable(tr("Test Information"), {tr("Value")}, true, -1);
     writeRow(tr("Title"), title(), HtmlStreamWriter::StatusNone);
     writeRow(tr("Timestamp"), timestamp(), HtmlStreamWriter::StatusNone);
-    if (status.text)
-        writeRow(tr("Overall Status"), tr(status.text), status.icon);
+    const QString statusText = uiutils::overallText(status.status);
+    if (!statusText.isEmpty())
+        writeRow(tr("Overall Status"), statusText, status.icon);
     m_html->writeComment(QStringLiteral("report_status=%1").arg(status.word));
     m_html->endTable();
 }
 
 void TemplateToHtmlWriter::writeJobTable()
 {
-    writeLabelledTexts(*m_html, tr("Job Manager Information"), tr("Value"), 0, instrument::jobFields());
+    writeInformation(*m_html, uiutils::jobTable(), 0);
 }
 
 void TemplateToHtmlWriter::writeCustomerTable()
 {
-    writeLabelledTexts(*m_html, tr("Customer Information"), tr("Value"), 0,
-            withoutDefaults(instrument::userFields(instrument::customerFieldNames())));
+    writeInformation(*m_html, uiutils::customerTable(), 0);
 }
 
 void TemplateToHtmlWriter::writeTechnicianTable()
 {
-    writeLabelledTexts(*m_html, tr("Technician Information"), tr("Value"), 0,
-            withoutDefaults(instrument::userFields(instrument::technicianFieldNames())));
+    writeInformation(*m_html, uiutils::technicianTable(), 0);
 }
 
 void TemplateToHtmlWriter::writeSystemInformation()
@@ -290,7 +270,7 @@ void TemplateToHtmlWriter::writeSystemInformation()
 
 void TemplateToHtmlWriter::writeSoftwareTable()
 {
-    writeLabelledTexts(*m_html, tr("Software Revisions"), tr("Version"), 0, instrument::softwareRevisions());
+    writeInformation(*m_html, uiutils::softwareTable(), 0);
 }
 
 void TemplateToHtmlWriter::writeHardwareTable()
@@ -333,13 +313,7 @@ void TemplateToHtmlWriter::sectionToHtml(const QJsonObject& object)
 
 void TemplateToHtmlWriter::writeConfigurationValues(const NodeReader& section)
 {
-    const QString module = section.text(keys::configModule);
-    if (module.isEmpty())
-        return;
-    const QString own = section.text(keys::service);
-    const QString service = own.isEmpty() ? NodeReader(m_document).text(keys::service) : own;
-    writeLabelledTexts(*m_html, tr("Configuration Values"), tr("Value"), m_depth,
-            instrument::configurationValues(instrument::settingsOf(service), module));
+    writeInformation(*m_html, uiutils::configurationTable(section, NodeReader(m_document)), m_depth);
 }
 
 void TemplateToHtmlWriter::tablesToHtml(const QJsonObject& node)

@@ -4,10 +4,12 @@
 #include <uiutils/reporttemplate.h>
 #include <uiutils/style.h>
 #include <uiutils/templatetohtmlwriter.h>
+#include <uiutils/textreport.h>
 #include <uiutils/uiutilsmodule.h>
 
 int main()
 {
     uiutils::registerTypes();
-    return TemplateToHtmlWriter(ReportTemplate(), nullptr).getHtml().isEmpty() ? 1 : 0;
+    const ReportTemplate report;
+    return TemplateToHtmlWriter(report, nullptr).getHtml().isEmpty() || uiutils::reportText(report).isEmpty() ? 1 : 0;
 }
