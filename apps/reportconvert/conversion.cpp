@@ -96,8 +96,23 @@ void Conversion::convertDocument(const Job& job)
         if (isStopped())
             return;
         announce(target.path);
-        write(target, target.format->generate(report, m_options.page));
+        writeTarget(target, report);
     }
+}
+
+void Conversion::writeTarget(const Target& target, const ReportTemplate& report)
+{
+    const auto goesOn = [&](int page, int pageCount) {
+        if (pageCount > 0)
+            showProgress(tr("%1: page %2 of %3").arg(target.name()).arg(page).arg(pageCount));
+        return !isStopped();
+    };
+    Generation generation {m_options.page, m_scratchFolder, goesOn, {}};
+    const QByteArray bytes = target.format->generate(report, generation);
+    if (!bytes.isNull())
+        write(target, bytes);
+    else if (!generation.error.isEmpty())
+        fail(target.name() + QStringLiteral(": ") + generation.error);
 }
 
 bool Conversion::read(const Job& job, ReportTemplate& report)

@@ -25,6 +25,7 @@ private:
     bool read(const Job& job, ReportTemplate& report);
     bool readStandardInput(const Job& job, ReportTemplate& report);
     bool hasAcceptableLayout(const Job& job, const ReportTemplate& report);
+    void writeTarget(const Target& target, const ReportTemplate& report);
     void write(const Target& target, const QByteArray& bytes);
     bool writeFile(const QString& path, const QByteArray& bytes, QString* error) const;
     void announce(const QString& name);

@@ -3,10 +3,14 @@
 #include "document/reporttemplate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 #include "writers/templatetohtmlwriter.h"
+#include "writers/templatetopdfwriter.h"
 #include "writers/textreport.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QMimeDatabase>
 
 #include <algorithm>
 #include <iterator>
@@ -15,42 +19,91 @@ namespace uiutils::convert {
 
 namespace {
 
-/// The logo itself, so that the page needs no other file.
-QString logoUri()
+/// What the page writers take.
+constexpr qint64 maximumLogoSize = qint64(1024) * 1024;
+
+QByteArray contentsOf(const QString& path)
 {
-    QFile file(QStringLiteral(":/uiutils/images/Norda_Color-medium.png"));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QStringLiteral("data:image/png;base64,") + QString::fromLatin1(file.readAll().toBase64());
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QByteArray htmlOf(const ReportTemplate& report, const PageSettings& settings)
+QString logoFile(const PageSettings& page)
 {
-    TemplateToHtmlWriter writer(report, nullptr);
-    writer.setAttribute(QStringLiteral("logo"), settings.hasLogo ? logoUri() : QString());
-    if (!settings.title.isNull())
-        writer.setAttribute(QStringLiteral("title"), settings.title);
+    return page.logoFile.isEmpty() ? QStringLiteral(":/uiutils/images/Norda_Color-medium.png") : page.logoFile;
+}
+
+/// The logo itself, so that the page needs no other file.
+QString logoUri(const PageSettings& page)
+{
+    const QByteArray bytes = contentsOf(logoFile(page));
+    const QString type = QMimeDatabase().mimeTypeForData(bytes).name();
+    return QStringLiteral("data:%1;base64,%2").arg(type, QString::fromLatin1(bytes.toBase64()));
+}
+
+/// What pages on the screen and on paper have in common.
+template<typename Writer> void setAttributes(Writer& writer, const PageSettings& page)
+{
+    if (!page.title.isNull())
+        writer.setAttribute(QStringLiteral("title"), page.title);
     // Without services these tables have no rows and leave no trace.
     writer.setAttribute(QStringLiteral("includeJobInfo"), true);
     writer.setAttribute(QStringLiteral("includeTechnicianInfoTop"), true);
     writer.setAttribute(QStringLiteral("includeCustomerInfoTop"), true);
+}
+
+QByteArray htmlOf(const ReportTemplate& report, Generation& generation)
+{
+    TemplateToHtmlWriter writer(report, nullptr);
+    setAttributes(writer, generation.page);
+    writer.setAttribute(QStringLiteral("logo"), generation.page.hasLogo ? logoUri(generation.page) : QString());
     return writer.getHtml().toUtf8();
 }
 
-QByteArray xmlOf(const ReportTemplate& report, const PageSettings&)
+/// Puts the logo where the writer can read it, whatever the user's path would mean on an instrument.
+QString scratchLogo(const Generation& generation)
+{
+    const QString path = generation.scratchFolder + QStringLiteral("/logo");
+    QFile file(path);
+    const QByteArray bytes = contentsOf(logoFile(generation.page));
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? path : QString();
+}
+
+QByteArray pdfOf(const ReportTemplate& report, Generation& generation)
+{
+    const PageSettings& page = generation.page;
+    const QString own = report.getAttr(QStringLiteral("orientation")).toString();
+    QList<ReportItem*> items;
+    TemplateToPdfWriter writer(report, &items);
+    setAttributes(writer, page);
+    writer.setAttribute(QStringLiteral("logo"), page.hasLogo ? scratchLogo(generation) : QString());
+    if (!page.orientation.isEmpty() || !own.isEmpty())
+        writer.setAttribute(QStringLiteral("orientation"), page.orientation.isEmpty() ? own : page.orientation);
+    writer.setAttribute(QStringLiteral("unitId"), page.unitId);
+    QObject::connect(&writer.pages(), &ReportPDF::progressChanged, &writer.pages(), [&](int done, int count) {
+        if (!generation.goesOn(done, count))
+            writer.pages().cancel();
+    });
+    const QString path = generation.scratchFolder + QStringLiteral("/pages.pdf");
+    const bool isPrinted = writer.write(path, &generation.error);
+    qDeleteAll(items);
+    return isPrinted ? contentsOf(path) : QByteArray();
+}
+
+QByteArray xmlOf(const ReportTemplate& report, Generation&)
 {
     return TemplateToXmlWriter(report, false, true, true).getXml().toUtf8();
 }
 
-QByteArray jsonOf(const ReportTemplate& report, const PageSettings&)
+QByteArray jsonOf(const ReportTemplate& report, Generation&)
 {
     return reportJson(report).toUtf8();
 }
 
-QByteArray textOf(const ReportTemplate& report, const PageSettings& settings)
+QByteArray textOf(const ReportTemplate& report, Generation& generation)
 {
     TextLayout layout;
-    layout.title = settings.title;
+    layout.title = generation.page.title;
     layout.timestamp = QDateTime::currentDateTime();
     // As in the page.
     layout.includeJobInfo = true;
@@ -61,13 +114,15 @@ QByteArray textOf(const ReportTemplate& report, const PageSettings& settings)
 
 const Format formatTable[] = {
         {QLatin1String("html"), QLatin1String("html"),
-                QT_TRANSLATE_NOOP("Formats", "one page that needs no other file"), true, true, htmlOf},
+                QT_TRANSLATE_NOOP("Formats", "one page that needs no other file"), true, true, false, htmlOf},
+        {QLatin1String("pdf"), QLatin1String("pdf"),
+                QT_TRANSLATE_NOOP("Formats", "Letter pages to print or to hand on"), true, true, true, pdfOf},
         {QLatin1String("xml"), QLatin1String("xml"),
-                QT_TRANSLATE_NOOP("Formats", "for machines, elements named by the tags"), false, false, xmlOf},
+                QT_TRANSLATE_NOOP("Formats", "for machines, elements named by the tags"), false, false, false, xmlOf},
         {QLatin1String("json"), QLatin1String("json"),
-                QT_TRANSLATE_NOOP("Formats", "the document itself, sorted and indented"), false, false, jsonOf},
+                QT_TRANSLATE_NOOP("Formats", "the document itself, sorted and indented"), false, false, false, jsonOf},
         {QLatin1String("text"), QLatin1String("txt"),
-                QT_TRANSLATE_NOOP("Formats", "80 columns, for a mail or a printer"), true, false, textOf},
+                QT_TRANSLATE_NOOP("Formats", "80 columns, for a mail or a printer"), true, false, false, textOf},
 };
 
 template <typename Predicate> const Format* findFormat(Predicate isWanted)
@@ -77,6 +132,19 @@ template <typename Predicate> const Format* findFormat(Predicate isWanted)
 }
 
 } // namespace
+
+QString logoProblem(const QString& path)
+{
+    const auto tr = [](const char* text) { return QCoreApplication::translate("Formats", text); };
+    const QFileInfo file(path);
+    if (!file.isFile() || !file.isReadable())
+        return tr("The logo %1 cannot be read. Name a picture file with --logo.").arg(path);
+    if (file.size() > maximumLogoSize)
+        return tr("The logo %1 is larger than 1 MiB. Make it smaller.").arg(path);
+    if (!QImageReader(path).canRead())
+        return tr("The logo %1 is no picture in a known format. Name a PNG or JPEG file with --logo.").arg(path);
+    return {};
+}
 
 const QVector<const Format*>& allFormats()
 {

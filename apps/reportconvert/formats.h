@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <functional>
+
 class ReportTemplate;
 
 namespace uiutils::convert {
@@ -16,6 +18,24 @@ struct PageSettings
     /// Null: the document's own title.
     QString title;
     bool hasLogo = true;
+    /// A picture in place of the instrument's logo; empty for none.
+    QString logoFile;
+    /// "portrait" or "landscape"; empty: as the document says.
+    QString orientation;
+    /// Empty: that of the unit whose services are loaded.
+    QString unitId;
+};
+
+/// What surrounds the conversion of one document into one format.
+struct Generation
+{
+    const PageSettings& page;
+    /// For what is kept only meanwhile.
+    QString scratchFolder;
+    /// Told of the pages that are done, and of how many there will be; false stops the conversion.
+    std::function<bool(int page, int pageCount)> goesOn;
+    /// Why nothing was made; empty when it was stopped.
+    QString error;
 };
 
 /// A format that documents are converted to. One more row of the table in formats.cpp makes one more format.
@@ -29,9 +49,14 @@ struct Format
     bool hasTitle;
     /// Whether it shows pictures: the logo, status icons.
     bool isPage;
-    /// The text in UTF-8.
-    QByteArray (*generate)(const ReportTemplate& report, const PageSettings& settings);
+    /// Whether it is parted into sheets of paper.
+    bool isPaper;
+    /// The contents of the file, text in UTF-8; null when it failed or was stopped.
+    QByteArray (*generate)(const ReportTemplate& report, Generation& generation);
 };
+
+/// Why the picture cannot be a logo, or nothing.
+QString logoProblem(const QString& file);
 
 /// Every format, in the order in which they are written.
 const QVector<const Format*>& allFormats();
@@ -40,7 +65,7 @@ const QVector<const Format*>& allFormats();
 const Format* formatByName(const QString& name);
 const Format* formatBySuffix(const QString& suffix);
 
-/// "html, xml, json, text".
+/// "html, pdf, xml, json, text".
 QString formatNames();
 
 } // namespace uiutils::convert

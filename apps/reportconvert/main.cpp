@@ -61,6 +61,9 @@ int convert(const Options& options, const Plan& plan, const QString& scratchFold
     if (!loadServices(backend, options))
         return ExitFailed;
     warnOfMissingIcons(plan);
+    const QString problem = options.page.logoFile.isEmpty() ? QString() : logoProblem(options.page.logoFile);
+    if (!problem.isEmpty())
+        return complain(problem, ExitMisused);
     return Conversion(plan, options, scratchFolder).run();
 }
 

@@ -46,8 +46,8 @@ QString formatHelp()
 QString helpText()
 {
     return tr(R"(Usage: reportconvert [OPTION]... DOCUMENT...
-Convert report documents of the instrument (JSON) to HTML, XML, JSON or plain
-text.
+Convert report documents of the instrument (JSON) to HTML, PDF, XML, JSON or
+plain text.
 
 A DOCUMENT is a file of up to 256 MiB, or "-" for standard input. Each is
 converted by itself: one that fails is named and does not stop the others. A
@@ -67,9 +67,15 @@ Options:
                          plots, from the service files in FOLDER; may be given
                          more than once or with colons; without it those tables
                          are left out and plots are empty
-      --title=TEXT       title of HTML pages and plain texts, in place of the
+      --title=TEXT       title of HTML, PDF and plain texts, in place of the
                          document's
-      --no-logo          leave the logo out of HTML pages
+      --logo=FILE        picture in place of the logo of HTML and PDF, up to
+                         1 MiB
+      --no-logo          leave the logo out
+      --orientation=WAY  of PDF pages: portrait or landscape; without it as the
+                         document says
+      --unit-id=TEXT     unit in the footer of PDF pages, in place of the one
+                         that the services name
       --strict           a document that does not have the layout of a report
                          document, or a service file that cannot be used, is an
                          error; without it a warning
@@ -114,6 +120,11 @@ bool addFormats(const QString& name, QVector<const Format*>* formats)
     return format;
 }
 
+bool isOrientation(const QString& text)
+{
+    return text == QLatin1String("portrait") || text == QLatin1String("landscape");
+}
+
 QStringList splitFolders(const QStringList& values)
 {
     return values.join(QLatin1Char(':')).split(QLatin1Char(':'), Qt::SkipEmptyParts);
@@ -134,9 +145,12 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption output = named("o", "output", "OUTPUT");
     const QCommandLineOption services = named("s", "services", "FOLDER");
     const QCommandLineOption title(QStringLiteral("title"), {}, QStringLiteral("TEXT"));
+    const QCommandLineOption logo(QStringLiteral("logo"), {}, QStringLiteral("FILE"));
     const QCommandLineOption noLogo(QStringLiteral("no-logo"));
+    const QCommandLineOption orientation(QStringLiteral("orientation"), {}, QStringLiteral("WAY"));
+    const QCommandLineOption unitId(QStringLiteral("unit-id"), {}, QStringLiteral("TEXT"));
     const QCommandLineOption strict(QStringLiteral("strict"));
-    parser.addOptions({help, version, format, output, services, title, noLogo, strict});
+    parser.addOptions({help, version, format, output, services, title, logo, noLogo, orientation, unitId, strict});
 
     if (!parser.parse(arguments))
         return misused(parser.errorText());
@@ -166,6 +180,16 @@ Options readOptions(const QStringList& arguments)
     if (parser.isSet(title))
         options.page.title = parser.value(title);
     options.page.hasLogo = !parser.isSet(noLogo);
+    if (parser.isSet(logo) && parser.isSet(noLogo))
+        return misused(tr("--logo and --no-logo cannot be used together."));
+    if (parser.isSet(logo) && parser.value(logo).isEmpty())
+        return misused(tr("--logo needs the name of a picture file."));
+    options.page.logoFile = parser.value(logo);
+    if (parser.isSet(orientation) && !isOrientation(parser.value(orientation)))
+        return misused(tr("There is no orientation \"%1\", only portrait and landscape.")
+                               .arg(parser.value(orientation)));
+    options.page.orientation = parser.value(orientation);
+    options.page.unitId = parser.value(unitId);
     options.isStrict = parser.isSet(strict);
     return options;
 }

@@ -133,6 +133,18 @@ Plan intoOne(const Options& options)
     return plan;
 }
 
+/// An option that makes no difference to any format that is asked for, in words.
+QString idleOption(const PageSettings& page, const Plan& plan)
+{
+    if (!page.title.isNull() && !plan.writes(&Format::hasTitle))
+        return tr("--title changes HTML pages, PDF files and plain texts only, and none is asked for.");
+    if ((!page.hasLogo || !page.logoFile.isEmpty()) && !plan.writes(&Format::isPage))
+        return tr("--logo and --no-logo change HTML pages and PDF files only, and none is asked for.");
+    if ((!page.orientation.isEmpty() || !page.unitId.isEmpty()) && !plan.writes(&Format::isPaper))
+        return tr("--orientation and --unit-id change PDF files only, and none is asked for.");
+    return {};
+}
+
 } // namespace
 
 QString Job::name() const
@@ -168,10 +180,8 @@ Plan makePlan(const Options& given)
         options.formats += format;
     }
     Plan plan = writesFolder ? intoFolder(options) : intoOne(options);
-    if (plan.error.isEmpty() && !options.page.title.isNull() && !plan.writes(&Format::hasTitle))
-        plan.error = tr("--title changes HTML pages and plain texts only, and neither is asked for.");
-    if (plan.error.isEmpty() && !options.page.hasLogo && !plan.writes(&Format::isPage))
-        plan.error = tr("--no-logo changes HTML pages only, and none is asked for.");
+    if (plan.error.isEmpty())
+        plan.error = idleOption(options.page, plan);
     if (plan.error.isEmpty())
         plan.error = clashOf(plan.jobs);
     if (plan.error.isEmpty())

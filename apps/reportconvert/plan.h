@@ -13,6 +13,9 @@ struct Target
     const Format* format;
     /// Empty for standard output.
     QString path;
+
+    /// As messages name it.
+    QString name() const { return path.isEmpty() ? QStringLiteral("<standard output>") : path; }
 };
 
 /// One document and what becomes of it.

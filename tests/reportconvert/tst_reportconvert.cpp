@@ -122,7 +122,7 @@ private Q_SLOTS:
                 path("new/folder/"), document});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
         QCOMPARE(QDir(path("new/folder")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-                QStringList({name + ".html", name + ".json", name + ".txt", name + ".xml"}));
+                QStringList({name + ".html", name + ".json", name + ".pdf", name + ".txt", name + ".xml"}));
 
         kiv::embedded::EmbeddedBackend backend;
         backend.loadFolders({testData + "/services"});
@@ -140,6 +140,7 @@ private Q_SLOTS:
         QCOMPARE(text.remove(timestamp), uiutils::reportText(report, layout));
         QCOMPARE(complaintOf("xmllint", {"--noout", stem + ".html", stem + ".xml"}), QString());
         QCOMPARE(complaintOf("tidy", {"-q", "-e", "--show-warnings", "no", stem + ".html"}), QString());
+        QCOMPARE(complaintOf("qpdf", {"--check", stem + ".pdf"}), QString());
     }
 
     /// Icons, logo, plot and the services' tables are inside, and no other file is needed.
@@ -187,6 +188,62 @@ private Q_SLOTS:
         const Outcome bare = run({"-f", "html", "-o", "-", path("small.json")});
         QVERIFY2(bare.errors.contains("UIUTILS_ROOT"), qPrintable(bare.errors));
         QCOMPARE(bare.exitCode, 0);
+    }
+
+    void paperOptions()
+    {
+        write(path("small.json"), smallDocument);
+        QImage logo(640, 320, QImage::Format_RGB32);
+        logo.fill(Qt::red);
+        QVERIFY(logo.save(path("red.png")));
+        const auto described = [&](const QStringList& options) {
+            const Outcome outcome = run(QStringList {"-o", "a.pdf", "small.json"} + options);
+            return outcome.errors + run("pdfinfo", {"a.pdf"}) + run("pdftotext", {"a.pdf", "-"})
+                    + run("pdfimages", {"-list", "a.pdf"});
+        };
+        const QString plain = described({});
+        for (const char* text : {"612 x 792", "Page 1 of 1", "Small"})
+            QVERIFY2(plain.contains(text), qPrintable(plain));
+        QVERIFY(!plain.contains("Unit ID"));
+        const QString other = described({"--orientation", "landscape", "--unit-id", "U-9", "--logo", "red.png", "--title",
+                "Größe", "-s", testData + "/services"});
+        for (const char* text : {"792 x 612", "Unit ID: U-9", "Größe", " 640   320 "})
+            QVERIFY2(other.contains(text), qPrintable(other));
+        QVERIFY(described({"-s", testData + "/services"}).contains("Unit ID: WB1"));
+        QVERIFY(!described({"--no-logo"}).contains(" image "));
+
+        write(path("wide.json"), QByteArray(smallDocument).replace("{", "{\"orientation\": \"landscape\","));
+        QCOMPARE(run({"-f", "pdf", "-o", "-", "wide.json"}).output.left(5), QByteArray("%PDF-"));
+        QCOMPARE(run({"-f", "pdf", "wide.json"}).exitCode, 0);
+        QVERIFY(run("pdfinfo", {"wide.pdf"}).contains("792 x 612"));
+    }
+
+    /// The old file stays, and nothing lies beside it.
+    void interruptedPages()
+    {
+        QByteArray rows;
+        for (int i = 0; i < 30000; ++i)
+            rows += QByteArray(",'row_%1':{'label':'l','cell_0':{'label':'v'}}").replace("%1", QByteArray::number(i));
+        const QByteArray head = "{'node_type':'report','tag':'t','table_0':{'node_type':'table','tag':'t','title':'T',"
+                                "'use_row_labels':true,'num_columns':1";
+        write(path("long.json"), QByteArray(head + rows + "}}").replace('\'', '"'));
+        write(path("long.pdf"), "old");
+        QProcess process;
+        prepare(process);
+        process.start(program, {"-f", "pdf", "long.json"});
+        QVERIFY(process.waitForStarted());
+        const auto isPrinting = [&] {
+            QDirIterator it(m_scratch->path(), {"*.tmp"}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+            return it.hasNext() && QFileInfo(it.next()).size() > 0;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(isPrinting(), 60000);
+        QCOMPARE(::kill(pid_t(process.processId()), SIGINT), 0);
+        Outcome outcome;
+        finish(process, &outcome);
+        QCOMPARE(outcome.exitCode, 128 + SIGINT);
+        QVERIFY2(outcome.errors.contains("0 of 1 files were written"), qPrintable(outcome.errors));
+        QCOMPARE(contentsOf(path("long.pdf")), QByteArray("old"));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList({"long.json", "long.pdf"}));
     }
 
     /// Neither the locale nor a display that does not answer matters, nor a name that looks like an option.
@@ -278,14 +335,19 @@ private Q_SLOTS:
                 {"-f html", "No document"},
                 {"-f html ''", "is empty"},
                 {"a.json", "--format"},
-                {"a.json -o a.pdf", "--format"},
+                {"a.json -o a.doc", "--format"},
                 {"a.json -o -", "--format"},
-                {"a.json -f pdf", "html, xml, json, text"},
+                {"a.json -f doc", "html, pdf, xml, json, text"},
                 {"a.json --frmat html", "frmat"},
                 {"a.json -f html -o ''", "--output"},
                 {"a.json -f html -s :", "--services"},
                 {"a.json -f xml --title T", "--title"},
                 {"a.json -f text --no-logo", "--no-logo"},
+                {"a.json -f html --unit-id 1", "--unit-id"},
+                {"a.json -f pdf --orientation diagonal", "diagonal"},
+                {"a.json -f pdf --logo ''", "--logo"},
+                {"a.json -f pdf --logo x --no-logo", "together"},
+                {"a.json -f pdf --logo a.json", "a.json is no picture"},
                 {"a.json sub/b.json -f xml -o -", "one document"},
                 {"a.json -f all -o -", "one document"},
                 {"a.json sub/b.json -f xml -o new", "\"/\""},
@@ -410,15 +472,17 @@ private Q_SLOTS:
         QCOMPARE(runLine(line + " 2>" + name).exitCode, 0);
         // The terminal hands on what was written in its own time, and in pieces.
         const QByteArray cleared = "\r\033[K";
+        // Five files and the document, two steps of one page, and the end.
+        const int clearedTimes = 8;
         QByteArray shown;
         pollfd waiting{terminal, POLLIN, 0};
-        while (shown.count(cleared) < 5 && ::poll(&waiting, 1, 10000) > 0) {
+        while (shown.count(cleared) < clearedTimes && ::poll(&waiting, 1, 10000) > 0) {
             char piece[256];
             shown.append(piece, int(qMax<ssize_t>(0, ::read(terminal, piece, sizeof piece))));
         }
         ::close(otherEnd);
         ::close(terminal);
-        QVERIFY2(shown.contains("2 of 4 files written, out/a.json"), shown);
+        QVERIFY2(shown.contains("out/a.pdf: page 1 of 1"), shown);
         QVERIFY(shown.endsWith(cleared));
         QVERIFY(!shown.contains('\n'));
     }
@@ -499,6 +563,13 @@ private:
     {
         QProcess process;
         return run(process, "bash", {"-c", line, program});
+    }
+
+    /// What another program prints.
+    QString run(const char* other, const QStringList& arguments)
+    {
+        QProcess process;
+        return QString::fromUtf8(run(process, other, arguments).output);
     }
 
     Outcome run(const QStringList& arguments, const QByteArray& input = {})
