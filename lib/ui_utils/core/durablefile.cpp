@@ -23,16 +23,13 @@ QString systemError()
 class TemporarySibling
 {
 public:
-    explicit TemporarySibling(const QString& target)
+    /// An empty `name` makes up one that nobody has.
+    TemporarySibling(const QString& target, const QString& name)
     {
-        const QFileInfo info(target);
-        // Names of 255 bytes are legal: the temporary one must not grow out of the target's own.
-        const QString stem = info.path() + QLatin1String("/.uiutils-");
-        do {
-            m_path = stem + QString::number(QRandomGenerator::global()->generate(), 36) + QLatin1String(".tmp");
-            m_fd = ::open(QFile::encodeName(m_path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
-                    0666);
-        } while (m_fd < 0 && (errno == EEXIST || errno == EINTR));
+        if (name.isEmpty())
+            createUnderNewName(QFileInfo(target).path());
+        else
+            createUnder(name);
         m_created = m_fd >= 0;
         if (m_created)
             takeModeOf(target);
@@ -87,6 +84,31 @@ public:
     }
 
 private:
+    void createUnderNewName(const QString& folder)
+    {
+        // Names of 255 bytes are legal: the temporary one must not grow out of the target's own.
+        const QString stem = folder + QLatin1String("/.uiutils-");
+        do {
+            m_path = stem + QString::number(QRandomGenerator::global()->generate(), 36) + QLatin1String(".tmp");
+            open();
+        } while (m_fd < 0 && (errno == EEXIST || errno == EINTR));
+    }
+
+    /// What lies there was left by a power cut. A folder stays, and is an error.
+    void createUnder(const QString& name)
+    {
+        m_path = name;
+        do {
+            ::unlink(QFile::encodeName(m_path).constData());
+            open();
+        } while (m_fd < 0 && errno == EINTR);
+    }
+
+    void open()
+    {
+        m_fd = ::open(QFile::encodeName(m_path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+    }
+
     /// While the file is still empty, so that what only some may read is never open to others. Not an error when it fails:
     /// the file systems of memory sticks know no modes.
     void takeModeOf(const QString& target)
@@ -119,7 +141,7 @@ QString failure(const char* text, const QString& path, const QString& reason)
 
 } // namespace
 
-bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error)
+bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error, const QString& temporary)
 {
     QString ignored;
     QString& message = error ? *error : ignored;
@@ -131,7 +153,7 @@ bool writeFileDurably(const QString& path, const QByteArray& contents, QString* 
                 QCoreApplication::translate("DurableFile", "The path holds a NUL character"));
         return false;
     }
-    TemporarySibling file(path);
+    TemporarySibling file(path, temporary);
     if (!file.isOpen()) {
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot create a file in the folder of %1: %2"), path,
                 systemError());

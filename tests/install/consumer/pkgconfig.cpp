@@ -1,4 +1,5 @@
 #include <uiutils/htmlstreamwriter.h>
+#include <uiutils/pdffile.h>
 #include <uiutils/plotimage.h>
 #include <uiutils/reporttable.h>
 #include <uiutils/reporttemplate.h>
@@ -6,8 +7,10 @@
 #include <uiutils/templatetohtmlwriter.h>
 #include <uiutils/uiutilsmodule.h>
 
-int main()
+int main(int, char** argv)
 {
+    // Anything will do: the log says when a file is not tried out first.
+    PDFFile().setFilename(QString::fromLocal8Bit(argv[0]));
     uiutils::registerTypes();
     return TemplateToHtmlWriter(ReportTemplate(), nullptr).getHtml().isEmpty() ? 1 : 0;
 }
