@@ -42,5 +42,6 @@ QVector<Result> htmlCases(int runs);
 QVector<Result> xmlCases(int runs);
 QVector<Result> plotCases(int runs);
 QVector<Result> localCases(int runs);
+QVector<Result> pdfFileCases(int runs);
 
 } // namespace bench

@@ -22,7 +22,7 @@ struct Room
 /// In the order in which they are measured: behind the bindings, documents and texts take a third longer.
 const Room rooms[] {{"document", bench::documentCases}, {"html", bench::htmlCases}, {"plot", bench::plotCases},
         {"xml", bench::xmlCases}, {"binding", bench::bindingCases},
-        {"local", bench::localCases}};
+        {"local", bench::localCases}, {"pdffile", bench::pdfFileCases}};
 
 QStringList roomNames()
 {
@@ -76,7 +76,8 @@ int main(int argc, char** argv)
     const QCommandLineOption jsonOption(
             QStringLiteral("json"), QStringLiteral("Write the figures to FILE as well."), QStringLiteral("FILE"));
     const QCommandLineOption onlyOption(QStringLiteral("only"),
-            QStringLiteral("Measure this room only: document, html, plot, xml, binding or local."), QStringLiteral("ROOM"));
+            QStringLiteral("Measure this room only: document, html, plot, xml, binding, local or pdffile."),
+            QStringLiteral("ROOM"));
     parser.addOptions({runsOption, jsonOption, onlyOption});
     parser.process(app);
     const int runs = qMax(7, parser.value(runsOption).toInt());

@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <new>
 #include <ostream>
 #include <streambuf>
 #include <sys/mman.h>
@@ -104,6 +105,8 @@ unsigned char resultFor(const char* contents, std::uint64_t bytes)
         const int code = error.GetError();
         return code > probe::harmless && code < probe::otherError ? static_cast<unsigned char>(code)
                                                                   : probe::otherError;
+    } catch (const std::bad_alloc&) {
+        return PoDoFo::ePdfError_OutOfMemory;
     } catch (...) {
         return probe::otherError;
     }
