@@ -44,5 +44,6 @@ QVector<Result> pdfCases(int runs);
 QVector<Result> plotCases(int runs);
 QVector<Result> textCases(int runs);
 QVector<Result> localCases(int runs);
+QVector<Result> pdfFileCases(int runs);
 
 } // namespace bench

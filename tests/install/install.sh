@@ -31,7 +31,12 @@ export PKG_CONFIG_PATH
 PKG_CONFIG_PATH=$(dirname "$(find "$plain" -name uiutils.pc)")
 # shellcheck disable=SC2046,SC2086
 "$compiler" -std=c++17 -fPIC $flags "$consumer/pkgconfig.cpp" -o "$plain/consumer" $(pkg-config --cflags --libs uiutils)
-LD_LIBRARY_PATH=$(pkg-config --variable=libdir uiutils) "$plain/consumer"
+said=$(LD_LIBRARY_PATH=$(pkg-config --variable=libdir uiutils) "$plain/consumer" 2>&1)
+# The library finds its helper in a tree that was installed elsewhere than it was configured for.
+if ! grep -q 'Unable to write PDF report' <<<"$said" || grep -q 'without being tried out' <<<"$said"; then
+    echo "PDF files are not tried out: $said" >&2
+    exit 1
+fi
 
 library=$(find "$plain" -name 'libuiutils.so.1')
 test -n "$library"
@@ -57,7 +62,7 @@ if [ -x "$plain/bin/uiutils-qml" ]; then
     "$plain/bin/uiutils-qml" --root "$plain/root" --list | grep -q '^basemgr_cfg_saveLocation'
 fi
 # Hidden visibility: what is private must not be reachable from outside.
-if nm -DC --defined-only "$library" | grep -E ' [A-Z] uiutils::(OpenNode|onDisk|writeFileDurably|NodeReader)'; then
+if nm -DC --defined-only "$library" | grep -E ' [A-Z] uiutils::(OpenNode|onDisk|writeFileDurably|NodeReader|PdfProbe|pdf::)'; then
     echo "private symbols are exported" >&2
     exit 1
 fi

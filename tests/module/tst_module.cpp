@@ -9,6 +9,7 @@
 #include "service/kivsignal.h"
 #include "service/manifest.h"
 #include "service/qmllistaggregate.h"
+#include "writers/pdffile.h"
 
 #include <QFile>
 #include <QJsonObject>
@@ -59,7 +60,8 @@ private Q_SLOTS:
                      &UserData::staticMetaObject, &ReportTemplate::staticMetaObject, &KIVClientInterface::staticMetaObject,
                      &BaseFormatter::staticMetaObject, &UiData::staticMetaObject, &StringUiData::staticMetaObject,
                      &BoolUiData::staticMetaObject, &EnumUiData::staticMetaObject, &UiDataEnums::staticMetaObject,
-                     &UiEnumType::staticMetaObject, &UiDataContainer::staticMetaObject})
+                     &UiEnumType::staticMetaObject, &UiDataContainer::staticMetaObject,
+                     &PDFFile::staticMetaObject})
             QTest::newRow(type->className()) << type;
     }
     void descriptionForTools()

@@ -36,7 +36,7 @@ QString failure(const char* text, const QString& path, const QString& reason)
 
 } // namespace
 
-bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error)
+bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error, const QString& temporary)
 {
     QString ignored;
     QString& message = error ? *error : ignored;
@@ -48,7 +48,7 @@ bool writeFileDurably(const QString& path, const QByteArray& contents, QString* 
                 QCoreApplication::translate("DurableFile", "The path holds a NUL character"));
         return false;
     }
-    TemporarySibling file(path);
+    TemporarySibling file(path, temporary);
     if (!file.isOpen()) {
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot create a file in the folder of %1: %2"), path,
                 systemError());

@@ -10,8 +10,12 @@ namespace uiutils {
 /// folder is synced. A link at `path` is replaced, never followed. The folder must exist. A file that is replaced hands
 /// its permissions on, where the file system knows any; a new one gets what the umask leaves.
 ///
+/// The new file has a name of its own that nobody else has, or `temporary`, a path in the same folder; a file that lies
+/// there goes.
+///
 /// Returns false when any step failed or the path holds a NUL character; the target is then untouched, nothing is left beside it, and `error`, if
 /// given, says which file, which step and why.
-[[nodiscard]] bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error = nullptr);
+[[nodiscard]] bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error = nullptr,
+        const QString& temporary = QString());
 
 } // namespace uiutils

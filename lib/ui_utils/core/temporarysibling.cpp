@@ -11,19 +11,40 @@
 
 namespace uiutils {
 
-TemporarySibling::TemporarySibling(const QString& target)
+TemporarySibling::TemporarySibling(const QString& target, const QString& name)
 {
-    const QFileInfo info(target);
-    // Names of 255 bytes are legal: the temporary one must not grow out of the target's own.
-    const QString stem = info.path() + QLatin1String("/.uiutils-");
-    do {
-        m_path = stem + QString::number(QRandomGenerator::global()->generate(), 36) + QLatin1String(".tmp");
-        m_fd = ::open(
-                QFile::encodeName(m_path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
-    } while (m_fd < 0 && (errno == EEXIST || errno == EINTR));
+    if (name.isEmpty())
+        createUnderNewName(QFileInfo(target).path());
+    else
+        createUnder(name);
     m_created = m_fd >= 0;
     if (m_created)
         takeModeOf(target);
+}
+
+void TemporarySibling::createUnderNewName(const QString& folder)
+{
+    // Names of 255 bytes are legal: the temporary one must not grow out of the target's own.
+    const QString stem = folder + QLatin1String("/.uiutils-");
+    do {
+        m_path = stem + QString::number(QRandomGenerator::global()->generate(), 36) + QLatin1String(".tmp");
+        open();
+    } while (m_fd < 0 && (errno == EEXIST || errno == EINTR));
+}
+
+/// What lies there was left by a power cut. A folder stays, and is an error.
+void TemporarySibling::createUnder(const QString& name)
+{
+    m_path = name;
+    do {
+        ::unlink(QFile::encodeName(m_path).constData());
+        open();
+    } while (m_fd < 0 && errno == EINTR);
+}
+
+void TemporarySibling::open()
+{
+    m_fd = ::open(QFile::encodeName(m_path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
 }
 
 TemporarySibling::~TemporarySibling()

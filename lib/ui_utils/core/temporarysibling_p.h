@@ -10,8 +10,8 @@ namespace uiutils {
 class TemporarySibling
 {
 public:
-    /// `target` is a path on disk.
-    explicit TemporarySibling(const QString& target);
+    /// `target` is a path on disk. An empty `name` makes up one that nobody has; what lies under another goes.
+    explicit TemporarySibling(const QString& target, const QString& name = QString());
     ~TemporarySibling();
     Q_DISABLE_COPY_MOVE(TemporarySibling)
 
@@ -24,6 +24,9 @@ public:
     bool renameTo(const QString& target);
 
 private:
+    void createUnderNewName(const QString& folder);
+    void createUnder(const QString& name);
+    void open();
     void takeModeOf(const QString& target);
 
     QString m_path;

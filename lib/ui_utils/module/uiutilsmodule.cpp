@@ -11,6 +11,7 @@
 #include "service/manifest.h"
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
+#include "writers/pdffile.h"
 
 #include <QtQml>
 
@@ -75,6 +76,7 @@ void registerLocalTypes(const char* uri)
 void registerTypes(const char* uri)
 {
     qmlRegisterType<ReportTemplate>(uri, 1, 0, "ReportTemplate");
+    qmlRegisterType<PDFFile>(uri, 1, 0, "PDFFile");
     registerServiceTypes(uri);
     registerLocalTypes(uri);
 }

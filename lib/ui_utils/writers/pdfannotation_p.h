@@ -27,13 +27,14 @@ struct Annotation
     QString author;
     QString subject;
     QString producer;
-    /// In the order of the document. Takes the place of the outline that the file has; an empty one leaves it.
+    /// In the order of the document. Takes the place of the outline that the file has; an empty one leaves
+    /// it.
     QVector<OutlineEntry> outline;
 };
 
-/// The file at `source`, a path on disk, with the annotation. The file must be one that this process has printed itself: it is
-/// not tried out first. Returns the bytes of the whole new file, or nothing and sets `error` when the file is not whole or
-/// cannot be read.
+/// The file at `source`, a path on disk, with the annotation. The file must be one that this process has
+/// printed itself: it is not tried out first. Returns the bytes of the whole new file, or nothing and sets
+/// `error` when the file is not whole or cannot be read.
 QByteArray annotated(const QString& source, const Annotation& annotation, QString* error);
 
 } // namespace uiutils::pdf

@@ -30,9 +30,10 @@ bool fail(QString* error, const char* words)
 
 /// Where PDFDocEncoding is not Latin-1: 0x18 to 0x1f, and 0x7f to 0xa0.
 constexpr char16_t accents[] = u"\u02D8\u02C7\u02C6\u02D9\u02DD\u02DB\u02DA\u02DC";
-constexpr char16_t marks[] = u"\uFFFD\u2022\u2020\u2021\u2026\u2014\u2013\u0192\u2044\u2039\u203A\u2212\u2030\u201E\u201C"
-                             u"\u201D\u2018\u2019\u201A\u2122\uFB01\uFB02\u0141\u0152\u0160\u0178\u017D\u0131\u0142\u0153"
-                             u"\u0161\u017E\uFFFD\u20AC";
+constexpr char16_t marks[]
+        = u"\uFFFD\u2022\u2020\u2021\u2026\u2014\u2013\u0192\u2044\u2039\u203A\u2212\u2030\u201E\u201C"
+          u"\u201D\u2018\u2019\u201A\u2122\uFB01\uFB02\u0141\u0152\u0160\u0178\u017D\u0131\u0142\u0153"
+          u"\u0161\u017E\uFFFD\u20AC";
 
 QChar fromPdfDocEncoding(uchar byte)
 {
@@ -62,8 +63,8 @@ QString fromUtf16(const QByteArray& bytes, int begin, bool bigEndian)
     return result;
 }
 
-/// Of a string with the mark of the other byte order PoDoFo turns the bytes and forgets that they are UTF-16, unless it is
-/// written in hexadecimal. No other text has zeros.
+/// Of a string with the mark of the other byte order PoDoFo turns the bytes and forgets that they are UTF-16,
+/// unless it is written in hexadecimal. No other text has zeros.
 bool isTurned(const QByteArray& bytes)
 {
     return bytes.size() % 2 == 0 && bytes.contains('\0');
@@ -73,7 +74,8 @@ bool isTurned(const QByteArray& bytes)
 bool isPlain(const QString& text)
 {
     return std::all_of(text.begin(), text.end(), [](QChar c) {
-        return (c >= QLatin1Char(' ') && c <= QLatin1Char('~')) || c == QLatin1Char('\n') || c == QLatin1Char('\t');
+        return (c >= QLatin1Char(' ') && c <= QLatin1Char('~')) || c == QLatin1Char('\n')
+                || c == QLatin1Char('\t');
     });
 }
 
@@ -81,7 +83,10 @@ bool isPlain(const QString& text)
 class ArrayBuffer : public std::streambuf
 {
 public:
-    explicit ArrayBuffer(QByteArray& array) : m_array(array) { }
+    explicit ArrayBuffer(QByteArray& array)
+        : m_array(array)
+    {
+    }
 
 protected:
     std::streamsize xsputn(const char* data, std::streamsize size) override
@@ -110,8 +115,9 @@ void prepare()
     Q_UNUSED(prepared)
 }
 
-/// For a file without document information PoDoFo invents some, dated now and with its own name as the producer. Nothing
-/// tells of that but that no parser made the object; objects that lie packed in a stream have none either.
+/// For a file without document information PoDoFo invents some, dated now and with its own name as the
+/// producer. Nothing tells of that but that no parser made the object; objects that lie packed in a stream
+/// have none either.
 void forgetInvention(PoDoFo::PdfMemDocument& document)
 {
     PoDoFo::PdfObject* info = document.GetInfo()->GetObject();
@@ -213,9 +219,9 @@ PoDoFo::PdfString stringOf(const QString& text)
 
 QDateTime dateTime(const QString& text)
 {
-    static const QRegularExpression expression(QStringLiteral(
-            "^\\s*(?:D:)?(\\d{4})(?:(\\d\\d)(?:(\\d\\d)(?:(\\d\\d)(?:(\\d\\d)(\\d\\d)?)?)?)?)?"
-            "(?:(Z)(?:00'?(?:00'?)?)?|([+-])(\\d\\d)(?:'?(\\d\\d)?'?)?)?\\s*\\z"));
+    static const QRegularExpression expression(
+            QStringLiteral("^\\s*(?:D:)?(\\d{4})(?:(\\d\\d)(?:(\\d\\d)(?:(\\d\\d)(?:(\\d\\d)(\\d\\d)?)?)?)?)?"
+                           "(?:(Z)(?:00'?(?:00'?)?)?|([+-])(\\d\\d)(?:'?(\\d\\d)?'?)?)?\\s*\\z"));
     const QRegularExpressionMatch match = expression.match(text);
     if (!match.hasMatch())
         return QDateTime();
@@ -231,7 +237,8 @@ QDateTime dateTime(const QString& text)
     if (match.capturedLength(8) == 0)
         return QDateTime(date, time, Qt::LocalTime);
     const int offset = (number(9, 0) * 60 + number(10, 0)) * 60;
-    return QDateTime(date, time, Qt::OffsetFromUTC, match.capturedRef(8) == QLatin1String("-") ? -offset : offset);
+    return QDateTime(
+            date, time, Qt::OffsetFromUTC, match.capturedRef(8) == QLatin1String("-") ? -offset : offset);
 }
 
 std::unique_ptr<PoDoFo::PdfMemDocument> load(const QByteArray& contents, QString* error)
@@ -278,7 +285,8 @@ bool isWholePdf(QIODevice& device, QString* error)
     if (position < 0)
         return fail(error, QT_TRANSLATE_NOOP("PdfDocument", "The PDF file has no end"));
     if (position == 0 || !device.seek(position) || !isTableStart(device.read(32)))
-        return fail(error, QT_TRANSLATE_NOOP("PdfDocument", "The PDF file has lost the table of its objects"));
+        return fail(
+                error, QT_TRANSLATE_NOOP("PdfDocument", "The PDF file has lost the table of its objects"));
     return true;
 }
 

@@ -1,4 +1,5 @@
 #include <uiutils/htmlstreamwriter.h>
+#include <uiutils/pdffile.h>
 #include <uiutils/plotimage.h>
 #include <uiutils/reporttable.h>
 #include <uiutils/reporttemplate.h>
@@ -7,8 +8,10 @@
 #include <uiutils/textreport.h>
 #include <uiutils/uiutilsmodule.h>
 
-int main()
+int main(int, char** argv)
 {
+    // Anything will do: the log says when a file is not tried out first.
+    PDFFile().setFilename(QString::fromLocal8Bit(argv[0]));
     uiutils::registerTypes();
     const ReportTemplate report;
     return TemplateToHtmlWriter(report, nullptr).getHtml().isEmpty() || uiutils::reportText(report).isEmpty() ? 1 : 0;

@@ -1,0 +1,497 @@
+#include "pdfsamples.h"
+
+#include "writers/pdfdocument_p.h"
+#include "writers/pdffile.h"
+
+#include <QDir>
+#include <QLocale>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+using samples::described;
+using samples::readFile;
+using samples::writeFile;
+
+namespace {
+
+const char loadFailure[] = "^Unable to write PDF report: .";
+const char writeFailure[] = "^Unable to write file: .";
+
+/// No file may grow beyond `bytes` while this lives: what a full disk does, for those who are not root too.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        m_handler = ::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        ::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int) = nullptr;
+};
+
+void expectMessage(const char* pattern)
+{
+    QTest::ignoreMessage(QtDebugMsg, QRegularExpression(pattern));
+}
+
+} // namespace
+
+class PdfFileTest : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+    QStringList files(const QString& folder) const
+    {
+        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    QString made(const QString& name, const QByteArray& contents) const
+    {
+        writeFile(path(name), contents);
+        return path(name);
+    }
+
+private Q_SLOTS:
+    void readsTextsInEveryEncoding_data()
+    {
+        QTest::addColumn<QByteArray>("string");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("plain") << QByteArray("(Fiber \\(7\\) \\\\ end)") << "Fiber (7) \\ end";
+        QTest::newRow("hex") << QByteArray("<46 69 62 65 72>") << "Fiber";
+        QTest::newRow("UTF-16") << QByteArray("<FEFF 03BB 0020 D83D DE00>") << QString::fromUtf8("λ 😀");
+        QTest::newRow("UTF-16, odd") << QByteArray("<FEFF 0041 00>") << "A";
+        QTest::newRow("UTF-16, the other order") << QByteArray("<FFFE 4100 BB03>") << QString::fromUtf8("Aλ");
+        QTest::newRow("UTF-16, the other order, not in hex")
+                << QByteArray("(\\377\\376A\\000\\273\\003)") << QString::fromUtf8("Aλ");
+        QTest::newRow("UTF-8") << QByteArray("<EFBBBF CEBB>") << QString::fromUtf8("λ");
+        QTest::newRow("accents") << QByteArray("<18 19 1a 1b 1c 1d 1e 1f>") << QString::fromUtf8("˘ˇˆ˙˝˛˚˜");
+        QTest::newRow("marks") << QByteArray("<80 84 85 8c 8d 92 93 9b 9e a0>")
+                               << QString::fromUtf8("•—–„“™ﬁłž€");
+        QTest::newRow("Latin-1") << QByteArray("<a1 b5 c4 ff>") << QString::fromUtf8("¡µÄÿ");
+        QTest::newRow("nothing") << QByteArray("()") << "";
+        QTest::newRow("only a mark") << QByteArray("<FEFF>") << "";
+        QTest::newRow("a number") << QByteArray("12") << "";
+        QTest::newRow("a name") << QByteArray("/Fiber") << "";
+        QTest::newRow("elsewhere") << QByteArray("5 0 R") << "Referred";
+        QTest::newRow("nowhere") << QByteArray("99 0 R") << "";
+        QTest::newRow("itself") << QByteArray("4 0 R") << "";
+    }
+    void readsTextsInEveryEncoding()
+    {
+        QFETCH(QByteArray, string);
+        samples::Sketch sketch;
+        sketch.addPage().add("<</Title " + string + "/Other " + string + ">>");
+        sketch.add("(Referred)");
+        PDFFile file;
+        file.setFilename(made("strings.pdf", sketch.finished("/Info 4 0 R")));
+        QTEST(file.getTitle(), "text");
+        QTEST(file.getMetaData("Other"), "text");
+        QCOMPARE(file.getAuthor(), QString());
+    }
+
+    void keepsTexts_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("plain") << "Fiber (7) \\ end";
+        QTest::newRow("unbalanced") << ")))((\\";
+        QTest::newRow("lines") << "one\ntwo\rthree\r\nfour";
+        QTest::newRow("Latin-1") << QString::fromUtf8("Größe µm þÿ");
+        QTest::newRow("looks marked") << QString::fromUtf8("þÿAB");
+        QTest::newRow("scripts") << QString::fromUtf8("λ 光纤 😀");
+        QTest::newRow("controls") << QString("a\x18z\x7f");
+        QTest::newRow("NUL") << QString("a") + QChar(QChar::Null) + "b";
+        QTest::newRow("nothing") << "";
+        QTest::newRow("long") << QString(100'000, QChar(0x3bb));
+    }
+    void keepsTexts()
+    {
+        QFETCH(QString, text);
+        const QString name = made("texts.pdf", described(""));
+        PDFFile file;
+        file.setFilename(name);
+        file.setTitle(text);
+        file.setMetaData("Job number", text);
+        file.write(QString());
+        PDFFile again;
+        again.setFilename(name);
+        QCOMPARE(again.getTitle(), text);
+        QCOMPARE(again.getMetaData("Job number"), text);
+        QCOMPARE(samples::faultsOf(name), QString());
+    }
+
+    void otherReadersSeeTheTexts()
+    {
+        const QString name = made("readers.pdf", described("/Creator(Kept)"));
+        PDFFile file;
+        file.setFilename(name);
+        file.setTitle(QString::fromUtf8("Größe λ 😀"));
+        file.setAuthor("A (b)");
+        file.setSubject("S");
+        file.setProducer("P");
+        file.write(QString());
+        const QString output = samples::outputOf("pdfinfo", {"-enc", "UTF-8", name});
+        const QMap<QString, QString> expected{{"Title", QString::fromUtf8("Größe λ 😀")}, {"Author", "A (b)"},
+                {"Subject", "S"}, {"Producer", "P"}, {"Creator", "Kept"}, {"Pages", "1"}};
+        for (auto it = expected.begin(); it != expected.end(); ++it)
+            QVERIFY2(output.contains(QRegularExpression(
+                             "(?m)^" + it.key() + ":\\s+" + QRegularExpression::escape(it.value()) + "$")),
+                    qPrintable(output));
+    }
+
+    void aLoneSurrogateIsReplaced()
+    {
+        PDFFile file;
+        file.setFilename(made("surrogate.pdf", described("")));
+        file.setTitle(QString("a") + QChar(0xd83d));
+        QCOMPARE(file.getTitle(), QString("a?"));
+    }
+
+    void dates_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QDateTime>("utc");
+        const auto at = [](int y, int mo, int d, int h, int mi, int s) {
+            return QDateTime({y, mo, d}, {h, mi, s}, Qt::UTC);
+        };
+        // Local time is five hours behind.
+        QTest::newRow("year") << "D:2026" << at(2026, 1, 1, 5, 0, 0);
+        QTest::newRow("month") << "D:202603" << at(2026, 3, 1, 5, 0, 0);
+        QTest::newRow("day") << "D:20260314" << at(2026, 3, 14, 5, 0, 0);
+        QTest::newRow("hour") << "D:2026031407" << at(2026, 3, 14, 12, 0, 0);
+        QTest::newRow("minute") << "D:202603140730" << at(2026, 3, 14, 12, 30, 0);
+        QTest::newRow("second") << "D:20260314073015" << at(2026, 3, 14, 12, 30, 15);
+        QTest::newRow("unmarked") << "20260314073015Z" << at(2026, 3, 14, 7, 30, 15);
+        QTest::newRow("UTC") << "D:20260314073015Z" << at(2026, 3, 14, 7, 30, 15);
+        QTest::newRow("UTC with zeros") << "D:20260314073015Z00'00'" << at(2026, 3, 14, 7, 30, 15);
+        QTest::newRow("east") << "D:20260314073015+01'30'" << at(2026, 3, 14, 6, 0, 15);
+        QTest::newRow("west") << "D:20260314233015-01'30'" << at(2026, 3, 15, 1, 0, 15);
+        QTest::newRow("one quote") << "D:20260314073015+01'30" << at(2026, 3, 14, 6, 0, 15);
+        QTest::newRow("no quote") << "D:20260314073015+0130" << at(2026, 3, 14, 6, 0, 15);
+        QTest::newRow("hours only") << "D:20260314073015+01'" << at(2026, 3, 14, 6, 30, 15);
+        QTest::newRow("leap day") << "D:20240229Z" << at(2024, 2, 29, 0, 0, 0);
+        for (const char* text : {"", "D:", "D:26", "D:20261", "D:20261301", "D:20260230", "D:20260314250000",
+                     "D:20260314076000", "D:20260314073015+24'00'", "D:20260314073015+01'60'",
+                     "D:20260314073015 nonsense", "yesterday"})
+            QTest::newRow(qPrintable(QString("no date: %1").arg(text))) << text << QDateTime();
+    }
+    void dates()
+    {
+        QFETCH(QString, text);
+        QFETCH(QDateTime, utc);
+        qputenv("TZ", "XYZ5");
+        tzset();
+        const QDateTime date = uiutils::pdf::dateTime(text).toUTC();
+        PDFFile file;
+        file.setFilename(made("dates.pdf", described("/CreationDate(" + text.toLatin1() + ")")));
+        const QString shown = file.getCreationDate();
+        const QString expected
+                = utc.isValid() ? QLocale().toString(utc.toLocalTime(), QLocale::LongFormat) : QString();
+        qputenv("TZ", "UTC");
+        tzset();
+        QCOMPARE(date.isValid(), utc.isValid());
+        QCOMPARE(date, utc);
+        QCOMPARE(shown, expected);
+    }
+
+    void nothingIsInvented()
+    {
+        samples::Sketch sketch;
+        sketch.addPage();
+        PDFFile file;
+        file.setFilename(made("bare.pdf", sketch.finished()));
+        QCOMPARE(file.getProducer(), QString());
+        QCOMPARE(file.getCreationDate(), QString());
+        file.setTitle("T");
+        file.write(path("bare2.pdf"));
+        file.setFilename(path("bare2.pdf"));
+        QCOMPARE(file.getTitle(), QString("T"));
+        QCOMPARE(file.getProducer(), QString());
+    }
+
+    void signalsAreCounted()
+    {
+        const QString name = made("signals.pdf", described("/Title(Old)"));
+        PDFFile file;
+        QSignalSpy loaded(&file, &PDFFile::filenameChanged);
+        QSignalSpy title(&file, &PDFFile::titleChanged);
+        QSignalSpy author(&file, &PDFFile::authorChanged);
+        QSignalSpy subject(&file, &PDFFile::subjectChanged);
+        QSignalSpy producer(&file, &PDFFile::producerChanged);
+        const auto counts = [&] {
+            return QVector<int>{
+                    loaded.count(), title.count(), author.count(), subject.count(), producer.count()};
+        };
+        file.setTitle("lost");
+        file.setMetaData("Title", "lost");
+        file.write(path("lost.pdf"));
+        QCOMPARE(counts(), (QVector<int>{0, 0, 0, 0, 0}));
+        QVERIFY(!QFile::exists(path("lost.pdf")));
+
+        file.setFilename(name);
+        file.setFilename(name);
+        QCOMPARE(counts(), (QVector<int>{2, 0, 0, 0, 0}));
+        QCOMPARE(file.getTitle(), QString("Old"));
+        file.setTitle("New");
+        file.setTitle("New");
+        file.setAuthor("A");
+        file.setSubject("S");
+        file.setProducer("P");
+        QCOMPARE(counts(), (QVector<int>{2, 2, 1, 1, 1}));
+
+        expectMessage(loadFailure);
+        file.setFilename(path("absent.pdf"));
+        QCOMPARE(file.getFilename(), path("absent.pdf"));
+        QCOMPARE(file.getTitle(), QString());
+        file.setTitle("lost");
+        QCOMPARE(counts(), (QVector<int>{3, 2, 1, 1, 1}));
+    }
+
+    void aReloadForgetsChanges()
+    {
+        PDFFile file;
+        file.setFilename(made("reload.pdf", described("/Title(Old)")));
+        file.setTitle("New");
+        file.setFilename(path("reload.pdf"));
+        QCOMPARE(file.getTitle(), QString("Old"));
+    }
+
+    void writesOverItsOwnFile_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("usual") << "own"
+                               << "a.pdf";
+        QTest::newRow("twice") << "own.pdf"
+                               << "b.pdf.pdf";
+        QTest::newRow("not at the end") << "own.pdf"
+                                        << "c.pdf.bak";
+        QTest::newRow("without") << "own.pdf"
+                                 << "d";
+        QTest::newRow("capitals") << "own"
+                                  << "E.PDF";
+        QTest::newRow("nothing else") << "own"
+                                      << ".pdf";
+        QTest::newRow("longest name") << "own" << QString(251, 'f') + ".pdf";
+    }
+    void writesOverItsOwnFile()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, name);
+        const QString inside = path("over/" + folder);
+        QVERIFY(QDir().mkpath(inside));
+        const QString whole = inside + '/' + name;
+        writeFile(whole, described("/Title(Old)"));
+        QFile::setPermissions(whole, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+        const auto permissions = QFile::permissions(whole);
+        PDFFile file;
+        file.setFilename(whole);
+        for (const QString& title : {QString("First"), QString("Second")}) {
+            file.setTitle(title);
+            file.write(title == "First" ? QString() : whole);
+            QCOMPARE(file.getTitle(), title);
+            PDFFile again;
+            again.setFilename(whole);
+            QCOMPARE(again.getTitle(), title);
+        }
+        QCOMPARE(files(inside), QStringList{name});
+        QCOMPARE(QFile::permissions(whole), permissions);
+        QVERIFY(QDir(path("over")).removeRecursively());
+    }
+
+    /// A folder has the temporary name: writing over the own file cannot begin, writing elsewhere needs no
+    /// such name.
+    void ownFileGoesThroughItsTemporaryName()
+    {
+        QVERIFY(QDir().mkpath(path("temporary/link")));
+        const QByteArray old = described("/Title(Old)");
+        writeFile(path("temporary/a.pdf"), old);
+        QVERIFY(QDir().mkpath(path("temporary/a_tmp.pdf")));
+        PDFFile file;
+        file.setFilename(path("temporary/a.pdf"));
+        file.setTitle("New");
+        for (const QString& target :
+                {QString(), path("temporary/./a.pdf"), path("temporary/link/../a.pdf")}) {
+            expectMessage(writeFailure);
+            file.write(target);
+            QCOMPARE(readFile(path("temporary/a.pdf")), old);
+        }
+        file.write(path("temporary/b.pdf"));
+        QVERIFY(!readFile(path("temporary/b.pdf")).isEmpty());
+        QVERIFY(QDir().rmdir(path("temporary/a_tmp.pdf")));
+        // One that a power cut left behind is no obstacle, and does not stay.
+        writeFile(path("temporary/a_tmp.pdf"), "torn");
+        file.write(QString());
+        QVERIFY(readFile(path("temporary/a.pdf")) != old);
+        QCOMPARE(files(path("temporary")), (QStringList{"a.pdf", "b.pdf", "link"}));
+    }
+
+    void aWrittenFileDoesNotDependOnTheOldOne()
+    {
+        const QString name = path("gone.pdf");
+        samples::print(name, 3);
+        PDFFile file;
+        file.setFilename(name);
+        QCOMPARE(file.getTitle(), QString("Printed"));
+        QVERIFY(!file.getCreationDate().isEmpty());
+        // What is there now is not what was loaded, and shorter.
+        writeFile(name, "something else");
+        file.setTitle("Kept");
+        file.write(path("kept.pdf"));
+        QVERIFY(QFile::remove(name));
+        file.write(QString());
+        for (const QString& written : {path("kept.pdf"), name}) {
+            QCOMPARE(samples::faultsOf(written), QString());
+            QVERIFY(samples::outputOf("pdftotext", {written, "-"}).contains("Page 2, line 39"));
+        }
+    }
+
+    void aFullDiskLeavesTheFile()
+    {
+        QVERIFY(QDir().mkpath(path("full")));
+        samples::print(path("full/a.pdf"), 2);
+        const QByteArray before = readFile(path("full/a.pdf"));
+        PDFFile file;
+        file.setFilename(path("full/a.pdf"));
+        file.setTitle("New");
+        {
+            const FullDisk disk(2000);
+            expectMessage(writeFailure);
+            file.write(QString());
+            expectMessage(writeFailure);
+            file.write(path("full/b.pdf"));
+        }
+        QCOMPARE(readFile(path("full/a.pdf")), before);
+        QCOMPARE(files(path("full")), QStringList{"a.pdf"});
+        // It is as usable as before.
+        file.write(QString());
+        file.setFilename(path("full/a.pdf"));
+        QCOMPARE(file.getTitle(), QString("New"));
+    }
+
+    void failedWrites()
+    {
+        PDFFile file;
+        file.setFilename(made("failed.pdf", described("")));
+        for (const QString& target : {path("absent/b.pdf"), QString("a") + QChar(QChar::Null) + ".pdf"}) {
+            expectMessage(writeFailure);
+            file.write(target);
+        }
+    }
+
+    void whatIsNoFileIsRefused_data()
+    {
+        QTest::addColumn<QString>("name");
+        QVERIFY(QDir().mkpath(path("odd/folder.pdf")));
+        QVERIFY(::mkfifo(qPrintable(path("odd/pipe.pdf")), 0600) == 0);
+        writeFile(path("odd/empty.pdf"), "");
+        writeFile(path("odd/text.pdf"), "Not a PDF file, but a text of some length that says so.");
+        QFile large(path("odd/large.pdf"));
+        QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(64 * 1024 * 1024 + 1));
+        for (const char* name :
+                {"folder.pdf", "pipe.pdf", "empty.pdf", "text.pdf", "large.pdf", "absent.pdf"})
+            QTest::newRow(name) << path(QString("odd/") + name);
+        QTest::newRow("device") << "/dev/zero";
+        QTest::newRow("NUL") << path("bare.pdf") + QChar(QChar::Null) + "x";
+        QTest::newRow("no name") << "";
+    }
+    void whatIsNoFileIsRefused()
+    {
+        QFETCH(QString, name);
+        PDFFile file;
+        QSignalSpy loaded(&file, &PDFFile::filenameChanged);
+        expectMessage(loadFailure);
+        file.setFilename(name);
+        QCOMPARE(loaded.count(), 1);
+        QCOMPARE(file.getFilename(), name);
+        QCOMPARE(file.getTitle(), QString());
+    }
+
+    void hostileKeysDoNoHarm()
+    {
+        const QString name = made("keys.pdf", described("/Title(Kept)/Number 5"));
+        PDFFile file;
+        file.setFilename(name);
+        const QString fits(127, 'k');
+        for (const QString& key :
+                {QString(), QString("a") + QChar(QChar::Null) + "b", QString("line\nbreak"), fits + "k"}) {
+            file.setMetaData(key, "value");
+            QCOMPARE(file.getMetaData(key), QString());
+        }
+        const QStringList keys{
+                fits, "Trapped", "with blank", "a/b(c)<d>[e]{f}%g#h", QString::fromUtf8("λ 😀"), "Number"};
+        for (const QString& key : keys)
+            file.setMetaData(key, "value of " + key);
+        file.write(QString());
+        file.setFilename(name);
+        for (const QString& key : keys)
+            QCOMPARE(file.getMetaData(key), "value of " + key);
+        QCOMPARE(file.getTitle(), QString("Kept"));
+        QCOMPARE(samples::faultsOf(name), QString());
+    }
+
+    /// What other programs make of a file is read, changed and written twice.
+    void otherKindsOfFiles_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::newRow("object streams") << QStringList{"--object-streams=generate"};
+        QTest::newRow("linearized") << QStringList{"--linearize"};
+        QTest::newRow("both") << QStringList{"--linearize", "--object-streams=generate"};
+    }
+    void otherKindsOfFiles()
+    {
+        QFETCH(QStringList, options);
+        samples::print(path("plain.pdf"), 3);
+        const QString name = path("kind.pdf");
+        const QString made = samples::outputOf("qpdf", options + QStringList{path("plain.pdf"), name});
+        QVERIFY2(QFile::exists(name), qPrintable(made));
+        PDFFile file;
+        file.setFilename(name);
+        QCOMPARE(file.getTitle(), QString("Printed"));
+        for (const QString& title : {QString("First"), QString::fromUtf8("Zweiter, λ")}) {
+            file.setTitle(title);
+            file.write(QString());
+            QCOMPARE(samples::faultsOf(name), QString());
+            PDFFile again;
+            again.setFilename(name);
+            QCOMPARE(again.getTitle(), title);
+            QVERIFY(samples::outputOf("pdftotext", {name, "-"}).contains("Page 2, line 39"));
+        }
+        QVERIFY(QFile::remove(name));
+    }
+
+    /// With a password that is not asked for, too: what PoDoFo reads of such a file is not what stands there.
+    void encryptedFilesAreRefused()
+    {
+        samples::print(path("plain.pdf"), 1);
+        for (const QString& password : {QString(), QString("user")}) {
+            samples::outputOf("qpdf",
+                    {"--encrypt", password, "owner", "256", "--", path("plain.pdf"), path("locked.pdf")});
+            QVERIFY(readFile(path("locked.pdf")).contains("/Encrypt"));
+            PDFFile file;
+            expectMessage(loadFailure);
+            file.setFilename(path("locked.pdf"));
+            QCOMPARE(file.getTitle(), QString());
+        }
+    }
+};
+
+QTEST_MAIN(PdfFileTest)
+#include "tst_pdffile.moc"

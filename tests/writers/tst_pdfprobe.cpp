@@ -1,0 +1,354 @@
+#include "pdfsamples.h"
+
+#include "writers/pdffile.h"
+#include "writers/pdfprobe_p.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cerrno>
+#include <csignal>
+#include <random>
+#include <sys/wait.h>
+
+using samples::Sketch;
+using uiutils::PdfProbe;
+
+namespace {
+
+QByteArray repeated(const QByteArray& text, int times)
+{
+    return text.repeated(times);
+}
+
+/// Behind Qt's four bytes of length, what the filter FlateDecode reads.
+QByteArray deflated(const QByteArray& data)
+{
+    return qCompress(data, 9).mid(4);
+}
+
+Sketch page()
+{
+    return Sketch().addPage();
+}
+
+/// A file whose table of objects is this stream.
+QByteArray withTableStream(const QByteArray& keys, const QByteArray& data)
+{
+    Sketch sketch = page();
+    const int table = sketch.size();
+    sketch.addStream("/Type/XRef/Root 1 0 R" + keys, data);
+    return sketch.finishedAt(table);
+}
+
+using SetUp = void (*)();
+
+void ignoreChildren()
+{
+    ::signal(SIGCHLD, SIG_IGN);
+}
+void reapAll(int)
+{
+    while (::waitpid(-1, nullptr, WNOHANG) > 0) { }
+}
+void stealChildren()
+{
+    ::signal(SIGCHLD, reapAll);
+}
+void blockAll()
+{
+    sigset_t all;
+    ::sigfillset(&all);
+    ::sigprocmask(SIG_SETMASK, &all, nullptr);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(SetUp)
+
+/// Files that are made to harm, and the helper that meets them first.
+class PdfProbeTest : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+
+    QString script(const QString& name, const QByteArray& text) const
+    {
+        samples::writeFile(path(name), "#!/bin/sh\n" + text + '\n');
+        QFile::setPermissions(path(name), QFile::ReadOwner | QFile::ExeOwner);
+        return path(name);
+    }
+
+    /// What an application does with a file. Returns whether it was loaded.
+    bool use(const QString& name)
+    {
+        PDFFile file;
+        file.setFilename(name);
+        file.getCreationDate();
+        file.setTitle("Changed");
+        const bool loaded = file.getTitle() == "Changed";
+        file.write(path("used.pdf"));
+        QFile::remove(path("used.pdf"));
+        return loaded;
+    }
+
+private Q_SLOTS:
+    void initTestCase() { QLoggingCategory::setFilterRules("default.debug=false"); }
+
+    /// Files that would bring this process down, or hang it, must not pass; what comes of the others is PoDoFo's
+    /// affair.
+    void hostileFiles_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::newRow("not hostile at all") << withTableStream("/Size 4/W[1 2 1]", page().binaryTable());
+        const auto object = [](const QByteArray& body) {
+            Sketch sketch = page();
+            sketch.add(body);
+            return sketch.finished("/Info 4 0 R");
+        };
+        for (const int depth : {300, 100'000}) {
+            const QByteArray name = QByteArray::number(depth);
+            QTest::newRow("dictionaries within each other, " + name) << object(repeated("<</A", depth));
+            QTest::newRow("dictionaries, closed, " + name)
+                    << object(repeated("<</A", depth) + "1" + repeated(">>", depth));
+            QTest::newRow("arrays within each other, " + name)
+                    << object("<</Title" + repeated("[", depth) + repeated("]", depth) + ">>");
+            QTest::newRow("arrays in the trailer, " + name) << page().finished("/X" + repeated("[", depth));
+        }
+        QTest::newRow("dictionaries and nothing else")
+                << "%PDF-1.4\n1 0 obj" + repeated("<<", 330) + "\nstartxref\n9\n%%EOF";
+        const QByteArray filters = "/Filter[" + repeated("/FlateDecode ", 200'000) + "]";
+        QTest::newRow("filters of a table") << withTableStream("/Size 4/W[1 2 1]" + filters, deflated("x"));
+        QTest::newRow("filters of text") << withTableStream(
+                "/Size 4/W[1 2 1]/Filter[" + repeated("/ASCIIHexDecode ", 50'000) + "]", "00>");
+
+        const QByteArray bomb = deflated(deflated(QByteArray(96 << 20, '\0')));
+        QTest::newRow("bomb for a table") << withTableStream(
+                "/Size 4/W[1 2 1]/Index[0 25000000]/Filter[/FlateDecode/FlateDecode]", bomb);
+        {
+            Sketch sketch = page();
+            sketch.addStream("/Type/ObjStm/N 1/First 4/Filter[/FlateDecode/FlateDecode]", bomb);
+            const int table = sketch.size();
+            const QByteArray rows = sketch.binaryTable() + QByteArray("\2\0\4\0", 4);
+            sketch.addStream("/Type/XRef/Size 6/W[1 2 1]/Root 1 0 R/Info 5 0 R", rows);
+            QTest::newRow("bomb for objects") << sketch.finishedAt(table);
+        }
+        for (const QByteArray& widths : {QByteArray("[1 2]"), QByteArray("[-1 2 1]"),
+                     QByteArray("[1 99999999 1]"), QByteArray("[0 0 0]"),
+                     QByteArray("[9223372036854775807 2 1]"), QByteArray("[8 8 8]"), QByteArray("(a)")})
+            QTest::newRow("widths " + widths) << withTableStream("/Size 4/W" + widths, page().binaryTable());
+        for (const QByteArray& index : {QByteArray("[0 2147483647]"), QByteArray("[-5 4]"), QByteArray("[1]"),
+                     QByteArray("[/a/b]"), QByteArray("[9223372036854775807 4]")})
+            QTest::newRow("index " + index)
+                    << withTableStream("/Size 4/W[1 2 1]/Index" + index, page().binaryTable());
+
+        const QByteArray id = "/ID[<00><00>]";
+        int number = 0;
+        for (const QByteArray& keys : {QByteArray(""), QByteArray("/Filter/Standard"),
+                     QByteArray("/Filter/Standard/V 1/R 2/O()/U()/P 0"),
+                     QByteArray("/Filter/Standard/V 5/R 6/O(a)/U(b)/OE(c)/UE(d)/Perms(e)/P -4"),
+                     QByteArray("/Filter/Standard/V 5/R 5/O(a)/U(b)/P -4"),
+                     QByteArray("/Filter/Standard/V 2/R 3/Length -8/O(a)/U(b)/P -4"),
+                     QByteArray("/Filter/Standard/V 2/R 3/Length 99999999/O(a)/U(b)/P -4"),
+                     QByteArray("/Filter/Standard/V 4/R 4/Length 128/O(a)/U(b)/P "
+                                "-4/CF<</StdCF<</CFM/AESV2/Length 9999>>>>/StmF/StdCF"),
+                     QByteArray("/Filter/Standard/V 2/R 3/Length 128/O 5/U[1]/P(x)"),
+                     QByteArray("/Filter 3/V/a/R(b)")}) {
+            QTest::addRow("encryption %d", number) << page().finished("/Encrypt<<" + keys + ">>" + id);
+            QTest::addRow("encryption without an id %d", number++)
+                    << page().finished("/Encrypt<<" + keys + ">>");
+        }
+        QTest::newRow("encryption that is a page") << page().finished("/Encrypt 3 0 R" + id);
+        QTest::newRow("encryption that is not there") << page().finished("/Encrypt 99 0 R" + id);
+
+        Sketch loop;
+        loop.add("<</Type/Catalog/Pages 2 0 R>>");
+        loop.add("<</Type/Pages/Kids[2 0 R 3 0 R]/Parent 3 0 R/Count 2147483647>>");
+        loop.add("<</Type/Pages/Kids[2 0 R 3 0 R]/Parent 2 0 R/Count -1>>");
+        QTest::newRow("pages within themselves") << loop.finished();
+        QTest::newRow("a catalog that is its pages") << [] {
+            Sketch sketch;
+            sketch.add("<</Type/Catalog/Pages 1 0 R/Kids[1 0 R]/Count 1>>");
+            return sketch.finished("/Info 1 0 R");
+        }();
+        QTest::newRow("a length that is the stream's own")
+                << object("<</Length 4 0 R>>stream\nabc\nendstream");
+        QTest::newRow("lengths of each other") << [] {
+            Sketch sketch = page();
+            sketch.add("<</Length 5 0 R>>stream\nabc\nendstream");
+            sketch.add("<</Length 4 0 R>>stream\nabc\nendstream");
+            return sketch.finished();
+        }();
+        for (const QByteArray& length : {QByteArray("-1"), QByteArray("9223372036854775807"),
+                     QByteArray("2147483648"), QByteArray("1e9"), QByteArray("(a)")})
+            QTest::newRow("length " + length) << object("<</Length " + length + ">>stream\nabc\nendstream");
+        for (const QByteArray& key : {QByteArray("Prev"), QByteArray("XRefStm")}) {
+            const int table = page().size();
+            QTest::newRow(key + ", itself") << page().finished("/" + key + " " + QByteArray::number(table));
+            for (const QByteArray& offset :
+                    {QByteArray("-1"), QByteArray("0"), QByteArray("9"), QByteArray("9223372036854775807")})
+                QTest::newRow(key + " " + offset) << page().finished("/" + key + " " + offset);
+        }
+        for (const QByteArray& size :
+                {QByteArray("9223372036854775807"), QByteArray("-1"), QByteArray("8388607"), QByteArray("0")})
+            QTest::newRow("size " + size)
+                    << page().finishedWith(page().table() + "trailer\n<</Root 1 0 R/Size " + size + ">>\n");
+        for (const QByteArray& section : {QByteArray("0 99999999"), QByteArray("4294967295 2"),
+                     QByteArray("-1 4"), QByteArray("0 -4")})
+            QTest::newRow("section " + section) << page().finishedWith(
+                    "xref\n" + section + page().table().mid(8) + "trailer\n<</Root 1 0 R/Size 4>>\n");
+        QTest::newRow("offset of the table, negative")
+                << page().finished().replace("startxref\n", "startxref\n-");
+        QTest::newRow("information that is itself") << object("4 0 R");
+        QTest::newRow("information that is a number") << object("5");
+        QTest::newRow("information that is the pages") << page().finished("/Info 2 0 R");
+        QTest::newRow("root that is not there") << Sketch().finished();
+        QTest::newRow("a text without an end") << object("<</Title(" + repeated("(", 1'000'000));
+        QTest::newRow("a name without an end") << object("<</" + repeated("a", 1'000'000));
+        QTest::newRow("a long comment") << object("%" + repeated("a", 1'000'000));
+    }
+    void hostileFiles()
+    {
+        QFETCH(QByteArray, contents);
+        const QString name = path("hostile.pdf");
+        samples::writeFile(name, contents);
+        const bool loaded = use(name);
+        QString error;
+        const bool passes = PdfProbe().passes(contents, &error);
+        QVERIFY(passes || !loaded);
+        QCOMPARE(error.isEmpty(), passes);
+    }
+
+    /// 1,000 files with some bytes changed, cut out, doubled or cut off, always the same.
+    void damagedFiles()
+    {
+        samples::print(path("printed.pdf"), 2);
+        samples::outputOf("qpdf", {"--object-streams=generate", path("printed.pdf"), path("packed.pdf")});
+        samples::outputOf(
+                "qpdf", {"--encrypt", "", "owner", "256", "--", path("printed.pdf"), path("locked.pdf")});
+        const QVector<QByteArray> bases{samples::described("/Title(A)/Author<FEFF0041>"),
+                samples::readFile(path("packed.pdf")), samples::readFile(path("printed.pdf")),
+                samples::readFile(path("locked.pdf"))};
+        std::mt19937 random(20260314);
+        const auto below = [&random](int limit) { return int(random() % unsigned(qMax(1, limit))); };
+        int loaded = 0;
+        for (int round = 0; round < 1000; ++round) {
+            QByteArray contents = bases.at(round % bases.size());
+            QVERIFY(!contents.isEmpty());
+            for (int change = below(4); change >= 0; --change) {
+                const int at = below(contents.size());
+                const int size = 1 + below(40);
+                switch (below(6)) {
+                case 0:
+                    contents[at] = char(below(256));
+                    break;
+                case 1:
+                    contents[at] = "0123456789<>[]()/ \n"[below(19)];
+                    break;
+                case 2:
+                    contents.remove(at, size);
+                    break;
+                case 3:
+                    contents.insert(at, contents.mid(below(contents.size()), size));
+                    break;
+                case 4:
+                    contents.replace(at, size, contents.mid(below(contents.size()), size));
+                    break;
+                default:
+                    if (below(8) == 0)
+                        contents.truncate(qMax(1, at));
+                    break;
+                }
+            }
+            samples::writeFile(path("damaged.pdf"), contents);
+            loaded += use(path("damaged.pdf"));
+        }
+        // Both happen, or the damage was not of the right kind.
+        QVERIFY2(loaded > 100 && loaded < 900, qPrintable(QString::number(loaded)));
+    }
+
+    void helpersThatFail_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("error");
+        QTest::newRow("dies") << QByteArray("printf S; kill -SEGV $$")
+                              << "The file cannot be read without harm";
+        QTest::newRow("says nothing more")
+                << QByteArray("printf S") << "The file cannot be read without harm";
+        QTest::newRow("hangs") << QByteArray("printf S; exec sleep 1000")
+                               << "Reading the file takes too long";
+        QTest::newRow("hangs at once") << QByteArray("exec sleep 1000") << "Reading the file takes too long";
+        QTest::newRow("finds a fault") << QByteArray("printf 'S\\012'") << "Error 10";
+    }
+    void helpersThatFail()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, error);
+        const PdfProbe probe(script("helper", text), 300);
+        QString actual;
+        QVERIFY(!probe.passes("%PDF-", &actual));
+        if (error == "Error 10")
+            QVERIFY(!actual.isEmpty() && !actual.contains("harm"));
+        else
+            QCOMPARE(actual, error);
+        // Nothing of it is left.
+        QCOMPARE(::waitpid(-1, nullptr, WNOHANG), -1);
+        QCOMPARE(errno, ECHILD);
+    }
+
+    void theHelperSeesTheFileAndNoSecrets()
+    {
+        qputenv("UIUTILS_SECRET", "x");
+        const QByteArray text = "(cat /dev/stdin; env) >" + path("seen").toUtf8() + "\nprintf 'S\\000'";
+        QString error;
+        QVERIFY(PdfProbe(script("spy", text), 10000).passes("bytes", &error));
+        qunsetenv("UIUTILS_SECRET");
+        const QByteArray seen = samples::readFile(path("seen"));
+        QVERIFY(seen.startsWith("bytesLD_LIBRARY_PATH="));
+        QVERIFY(!seen.contains("SECRET"));
+    }
+
+    void withoutAHelperFilesPass()
+    {
+        QTest::ignoreMessage(
+                QtWarningMsg, QRegularExpression("^PDF files are loaded without being tried out first"));
+        for (const QString& helper :
+                {QString(), path("absent"), m_folder.path(), script("broken", "exit 127")}) {
+            QString error;
+            QVERIFY(PdfProbe(helper, 1000).passes("%PDF-", &error));
+            QCOMPARE(error, QString());
+        }
+    }
+
+    void whateverTheHostDoesWithChildren_data()
+    {
+        QTest::addColumn<SetUp>("setUp");
+        QTest::newRow("ignores them") << SetUp(ignoreChildren);
+        QTest::newRow("takes the end of all") << SetUp(stealChildren);
+        QTest::newRow("blocks signals") << SetUp(blockAll);
+    }
+    void whateverTheHostDoesWithChildren()
+    {
+        QFETCH(SetUp, setUp);
+        sigset_t mask;
+        ::sigprocmask(SIG_SETMASK, nullptr, &mask);
+        setUp();
+        QString error;
+        const bool good = PdfProbe().passes(samples::described("/Title(A)"), &error);
+        const bool bad = PdfProbe().passes(samples::described("/Title(A)").left(200), &error);
+        const bool hanging
+                = PdfProbe(script("hanging", "printf S; exec sleep 1000"), 300).passes("x", &error);
+        ::signal(SIGCHLD, SIG_DFL);
+        ::sigprocmask(SIG_SETMASK, &mask, nullptr);
+        QVERIFY(good);
+        QVERIFY(!bad);
+        QVERIFY(!hanging);
+    }
+};
+
+QTEST_MAIN(PdfProbeTest)
+#include "tst_pdfprobe.moc"
