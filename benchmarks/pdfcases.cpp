@@ -3,6 +3,7 @@
 
 #include "document/reporttemplate.h"
 #include "writers/pageprinter_p.h"
+#include "writers/pdfannotation_p.h"
 #include "writers/reporttable.h"
 #include "writers/templatetohtmlwriter.h"
 #include "writers/templatetopdfwriter.h"
@@ -142,7 +143,19 @@ QVector<Result> printCases(int runs, int rows, const QString& path)
                     100, 1}};
 }
 
-/// A document from the first pass to the finished file, and the parts of it.
+void writeDocument(const ReportTemplate& report, const QString& path)
+{
+    QList<ReportItem*> items;
+    TemplateToPdfWriter writer(report, &items);
+    QString error;
+    if (!writer.write(path, &error)) {
+        fprintf(stderr, "uiutils-bench: %s\n", qPrintable(error));
+        std::exit(1);
+    }
+    qDeleteAll(items);
+}
+
+/// Parts of the road from a document to the finished file, held against all of it.
 QVector<Result> documentCases(int runs, int rows, const QString& path)
 {
     ReportTemplate report;
@@ -154,16 +167,23 @@ QVector<Result> documentCases(int runs, int rows, const QString& path)
         writer.collectItems();
         qDeleteAll(items);
     };
-    const auto whole = [&] {
-        QList<ReportItem*> items;
-        TemplateToPdfWriter writer(report, &items);
-        if (!writer.write(path))
-            std::exit(1);
-        qDeleteAll(items);
-    };
-    const Timing timing = interleaved(runs, pass, whole);
+    const auto whole = [&] { writeDocument(report, path); };
+    const Timing passTime = interleaved(runs, pass, whole);
+
+    const Items items(rows);
+    const QString printed = path + QStringLiteral(".printed");
+    printItems(items, printed);
+    uiutils::pdf::Annotation annotation {QStringLiteral("Title"), QStringLiteral("Author"), QStringLiteral("Subject"),
+            QStringLiteral("Producer"), {}};
+    for (int i = 0; i < 2 * tables; ++i)
+        annotation.outline.append({QStringLiteral("Entry %1").arg(i), i % 2, i, 0});
+    QString error;
+    const Timing annotationTime
+            = interleaved(runs, [&] { uiutils::pdf::annotated(printed, annotation, &error); }, whole);
     return {{QStringLiteral("   HTML pass for items of %L1 rows / document to finished file").arg(rows),
-            QStringLiteral("ms CPU"), timing.ours, timing.floor, 0}};
+                    QStringLiteral("ms CPU"), passTime.ours, passTime.floor, 0},
+            {QStringLiteral("   metadata and outline of %L1 rows / document to finished file").arg(rows),
+                    QStringLiteral("ms CPU"), annotationTime.ours, annotationTime.floor, 0}};
 }
 
 /// The same rows by way of HTML and the toolkit's own rich text.
@@ -172,14 +192,7 @@ Result richTextCase(int runs, int rows, const QString& path)
     ReportTemplate report;
     buildTables(report, rows, 0);
     const QString html = TemplateToHtmlWriter(report, nullptr).getHtml();
-    const auto whole = [&] {
-        QList<ReportItem*> items;
-        TemplateToPdfWriter writer(report, &items);
-        if (!writer.write(path))
-            std::exit(1);
-        qDeleteAll(items);
-    };
-    const Timing timing = interleaved(runs, whole, [&] {
+    const Timing timing = interleaved(runs, [&] { writeDocument(report, path); }, [&] {
         QTextDocument document;
         document.setHtml(html);
         QPrinter printer(QPrinter::ScreenResolution);
@@ -201,6 +214,10 @@ QVector<Result> pdfCases(int runs)
     qputenv("UIUTILS_ROOT", QFile::encodeName(folder.path()));
     installIcons(folder.path());
 
+    // Before anything else has loaded fonts and the printer's code.
+    const Items handful(tables);
+    const double firstGrowth = double(peakGrowth([&] { printItems(handful, path); })) / 1e6;
+
     constexpr int few = 10'000;
     constexpr int many = 100'000;
     QVector<Result> results = printCases(runs, few, path);
@@ -212,6 +229,8 @@ QVector<Result> pdfCases(int runs)
     printItems(Items(tables, 64), path);
     results.append({QStringLiteral("images in a file of 10,000 failed rows / of 10"), QStringLiteral("images"),
             double(imagesOfMany), double(imagesIn(path)), 1});
+    results.append({QStringLiteral("memory of a process's first file, 10 rows / 4 MB"), QStringLiteral("MB"), firstGrowth,
+            4, 0});
     results += documentCases(runs, few, path);
     results += documentCases(runs, many, path);
     results.append(richTextCase(runs, few, path));
