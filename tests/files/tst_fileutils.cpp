@@ -89,46 +89,46 @@ private Q_SLOTS:
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("trayEntries");
-        const auto add = [](const char* name, const Operation& operation, KIVNotification::Kind kind, const QString& title,
-                                 const QString& text, int trayEntries) {
+        const auto add = [](const char* name, const Operation& operation, KIVNotification::Kind kind,
+                                 const QString& title, const QString& text, int trayEntries) {
             QTest::newRow(name) << operation << kind << title << text << trayEntries;
         };
         const auto error = KIVNotification::Error;
         const auto request = KIVNotification::Request;
 
-        add("full", [](FileUtils& f) { f.sendNotificationDriveFull("/mnt/usb"); }, error, "I/O Error", "Drive USB: is full", 1);
-        add("reading", [](FileUtils& f) { f.sendNotificationReadError("/cust/public/%1.txt"); }, error, "Read Error",
+        add("full", [](auto& f) { f.sendNotificationDriveFull("/mnt/usb"); }, error, "I/O Error", "Drive USB: is full", 1);
+        add("reading", [](auto& f) { f.sendNotificationReadError("/cust/public/%1.txt"); }, error, "Read Error",
                 "There was an error reading Internal:/%1.txt", 1);
-        add("writing", [](FileUtils& f) { f.sendNotificationWriteError("cut:/mnt/usb/a"); }, error, "Write Error",
+        add("writing", [](auto& f) { f.sendNotificationWriteError("cut:/mnt/usb/a"); }, error, "Write Error",
                 "There was an error writing to USB:/a", 1);
-        add("space", [](FileUtils& f) { f.sendNotificationNotEnoughSpace("/mnt/usb/%2", 1'500'000'000); }, error,
+        add("space", [](auto& f) { f.sendNotificationNotEnoughSpace("/mnt/usb/%2", 1'500'000'000); }, error,
                 "Not Enough Space", "Not enough disk space for USB:/%2 - would need 1.50 G", 0);
 
-        add("overwrite file", [](FileUtils& f) { f.sendNotificationOverwriteRequest("/cust/public/%2", {}); }, request,
+        add("overwrite file", [](auto& f) { f.sendNotificationOverwriteRequest("/cust/public/%2", {}); }, request,
                 "File Exists", "Do you want to overwrite File Internal:/%2?", 0);
-        add("overwrite folder", [](FileUtils& f) { f.sendNotificationOverwriteRequest("/cust/public/folder", {}); }, request,
+        add("overwrite folder", [](auto& f) { f.sendNotificationOverwriteRequest("/cust/public/folder", {}); }, request,
                 "File Exists", "Do you want to overwrite Directory Internal:/folder?", 0);
-        add("overwrite all", [](FileUtils& f) { f.sendNotificationOverwriteRequest("", {}); }, request, "File Exists",
+        add("overwrite all", [](auto& f) { f.sendNotificationOverwriteRequest("", {}); }, request, "File Exists",
                 "Do you want to overwrite all files/directories?", 0);
         add("overwrite report",
-                [](FileUtils& f) { f.sendNotificationOverwriteReportRequest("/cust/public/reports/a.pdf", {}); }, request,
+                [](auto& f) { f.sendNotificationOverwriteReportRequest("/cust/public/reports/a.pdf", {}); }, request,
                 "Report Exists", "Do you want to overwrite report Internal:/reports/a.pdf?", 0);
         add("overwrite compressed report",
-                [](FileUtils& f) { f.sendNotificationOverwriteReportRequest("/cust/public/a.pdf.gz", {}); }, request,
+                [](auto& f) { f.sendNotificationOverwriteReportRequest("/cust/public/a.pdf.gz", {}); }, request,
                 "Report Exists", "Do you want to overwrite report Internal:/a.pdf?", 0);
         add("overwrite other compressed report",
-                [](FileUtils& f) { f.sendNotificationOverwriteReportRequest("/cust/public/a.html.gz", {}); }, request,
+                [](auto& f) { f.sendNotificationOverwriteReportRequest("/cust/public/a.html.gz", {}); }, request,
                 "Report Exists", "Do you want to overwrite report Internal:/a.html.gz?", 0);
         add("overwrite screenshot",
-                [](FileUtils& f) { f.sendNotificationOverwriteScreenshotRequest("/cust/public/s.png", "i.png", {}); }, request,
+                [](auto& f) { f.sendNotificationOverwriteScreenshotRequest("/cust/public/s.png", "i.png", {}); }, request,
                 "File Exists", "Do you want to overwrite screenshot Internal:/s.png?", 0);
-        add("delete file", [](FileUtils& f) { f.sendNotificationDeleteRequest("/mnt/usb/%1", {}); }, request, "Delete File",
+        add("delete file", [](auto& f) { f.sendNotificationDeleteRequest("/mnt/usb/%1", {}); }, request, "Delete File",
                 "Do you want to delete the File USB:/%1?", 0);
-        add("delete folder", [](FileUtils& f) { f.sendNotificationDeleteRequest("cut:/cust/public/folder", {}); }, request,
+        add("delete folder", [](auto& f) { f.sendNotificationDeleteRequest("cut:/cust/public/folder", {}); }, request,
                 "Delete Directory", "Do you want to delete the Directory Internal:/folder?", 0);
-        add("delete several", [](FileUtils& f) { f.sendNotificationDeleteRequest("/mnt/usb/a\n/mnt/usb/b", {}); }, request,
+        add("delete several", [](auto& f) { f.sendNotificationDeleteRequest("/mnt/usb/a\n/mnt/usb/b", {}); }, request,
                 "Delete Files", "Do you want to delete these 2 files?", 0);
-        add("delete with a line feed behind", [](FileUtils& f) { f.sendNotificationDeleteRequest("/mnt/usb/a\n", {}); },
+        add("delete with a line feed behind", [](auto& f) { f.sendNotificationDeleteRequest("/mnt/usb/a\n", {}); },
                 request, "Delete Files", "Do you want to delete these 2 files?", 0);
     }
     void notifications()

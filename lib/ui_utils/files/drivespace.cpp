@@ -62,8 +62,8 @@ public:
             return 0;
         m_way.append(folder);
         qint64 blocks = 0;
-        const QFileInfoList entries
-                = QDir(place).entryInfoList(QDir::Dirs | QDir::Files | QDir::Drives | QDir::NoDotAndDotDot, QDir::Unsorted);
+        const QDir::Filters filters = QDir::Dirs | QDir::Files | QDir::Drives | QDir::NoDotAndDotDot;
+        const QFileInfoList entries = QDir(place).entryInfoList(filters, QDir::Unsorted);
         for (const QFileInfo& entry : entries)
             blocks = sumOf(blocks, blocksOf(entry, source, destination));
         m_way.removeLast();
@@ -94,9 +94,11 @@ private:
 
 std::optional<DriveSpace> driveSpaceAt(const QString& path)
 {
-    struct statvfs drive {};
     const QString existing = nearestExisting(path);
-    if (existing.isEmpty() || ::statvfs(QFile::encodeName(onDisk(existing)).constData(), &drive) != 0 || drive.f_bsize == 0)
+    if (existing.isEmpty())
+        return std::nullopt;
+    struct statvfs drive {};
+    if (::statvfs(QFile::encodeName(onDisk(existing)).constData(), &drive) != 0 || drive.f_bsize == 0)
         return std::nullopt;
     return DriveSpace {clamped(drive.f_bsize), clamped(drive.f_bavail)};
 }

@@ -16,8 +16,8 @@ struct DriveSpace
     qint64 available = 0;
 };
 
-/// The drive on which `path` lies or would lie: that of the nearest part of it that exists. Nothing when no part exists or the
-/// system does not say. An instrument path.
+/// The drive on which `path` lies or would lie: that of the nearest part of it that exists. Nothing when no part exists
+/// or the system does not say. An instrument path.
 std::optional<DriveSpace> driveSpaceAt(const QString& path);
 
 /// Blocks for `bytes`; none for 0 and less.

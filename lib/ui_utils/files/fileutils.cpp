@@ -125,9 +125,10 @@ void FileUtils::sendNotificationNotEnoughSpace(QString real_path, qint64 needed)
 
 void FileUtils::sendNotificationOverwriteRequest(QString real_file_path_to, QMap<QString, QString> optional_args)
 {
+    const QString name = getSanitizedPathName(real_file_path_to);
     const QString text = real_file_path_to.isEmpty()
             ? tr("Do you want to overwrite all files/directories?")
-            : tr("Do you want to overwrite %1 %2?").arg(kindOf(real_file_path_to), getSanitizedPathName(real_file_path_to));
+            : tr("Do you want to overwrite %1 %2?").arg(kindOf(real_file_path_to), name);
     sendRequest(tr("File Exists"), text, optional_args);
 }
 
@@ -154,7 +155,8 @@ void FileUtils::sendNotificationOverwriteReportRequest(QString real_file_path, Q
 void FileUtils::sendNotificationOverwriteScreenshotRequest(
         QString real_file_path, QString icon_file, QMap<QString, QString> optional_args)
 {
-    sendRequest(tr("File Exists"), tr("Do you want to overwrite screenshot %1?").arg(getSanitizedPathName(real_file_path)),
+    const QString name = getSanitizedPathName(real_file_path);
+    sendRequest(tr("File Exists"), tr("Do you want to overwrite screenshot %1?").arg(name),
             joined({{fileNameKey, real_file_path}, {iconFileKey, icon_file}}, optional_args));
 }
 

@@ -10,11 +10,11 @@
 
 /// One thing that the user is told or asked: a title, a text, and values for whoever hears the answer.
 ///
-/// It is filled first and raised then, in the tray, in a dialog, or in both. KIVNotificationModelManager shows it and reports
-/// the answer to a request.
+/// It is filled first and raised then, in the tray, in a dialog, or in both. KIVNotificationModelManager shows it and
+/// reports the answer to a request.
 ///
-/// **Ownership**: whoever makes a notification owns it, before and after the answer. Deleting it takes it back: its dialog
-/// closes, or never comes up, and nobody hears an answer. What it has put into the tray stays there.
+/// **Ownership**: whoever makes a notification owns it, before and after the answer. Deleting it takes it back: its
+/// dialog closes, or never comes up, and nobody hears an answer. What it has put into the tray stays there.
 ///
 /// **Thread**: that of the screens. No call blocks, and none fails.
 class KIV_EXPORT KIVNotification : public QObject
@@ -64,8 +64,8 @@ public:
     /// Puts an entry with the present texts on top of the tray, another one with each call.
     void notifyTray();
 
-    /// Opens a dialog with the texts, or lets it wait until those before it are answered. An open dialog follows when the texts
-    /// change. Nothing happens while the notification is open or waits already.
+    /// Opens a dialog with the texts, or lets it wait until those before it are answered. An open dialog follows when
+    /// the texts change. Nothing happens while the notification is open or waits already.
     void notifyDialog();
 
 Q_SIGNALS:

@@ -8,19 +8,19 @@
 
 /// What the user is told and asked now: the tray as a list model, newest entry first, and one dialog at a time.
 ///
-/// **Tray**: entries are copies of the texts as they were when KIVNotification::notifyTray() was called, and stay until the
-/// user removes them. Beyond `maximumTrayEntries` the oldest go. Roles: `kind` (a KIVNotification::Kind), `longLabel`, `msg`
-/// (texts) and `time` (a QDateTime).
+/// **Tray**: entries are copies of the texts as they were when KIVNotification::notifyTray() was called, and stay until
+/// the user removes them. Beyond `maximumTrayEntries` the oldest go. Roles: `kind` (a KIVNotification::Kind),
+/// `longLabel`, `msg` (texts) and `time` (a QDateTime).
 ///
-/// **Dialogs** open in the order in which KIVNotification::notifyDialog() was called; the others wait. They are no copies: a
-/// notification that is destroyed leaves the queue, whether its dialog is open or waits, and the next one opens. Nothing is
-/// ever dropped from the queue.
+/// **Dialogs** open in the order in which KIVNotification::notifyDialog() was called; the others wait. They are no
+/// copies: a notification that is destroyed leaves the queue, whether its dialog is open or waits, and the next one
+/// opens. Nothing is ever dropped from the queue.
 ///
 /// **Answers**: the view calls accept() or reject() for the open dialog. The notification has left the queue and
-/// currentDialogChanged() has been emitted when notificationAccepted() or notificationRejected() is, exactly once, and for
-/// requests alone: whoever closes the message of an error has neither accepted nor rejected anything. Everybody hears all
-/// answers and looks for its own by the notification's value "uid". A slot may raise other notifications; the one that was
-/// answered it lets go by deleteLater(), since others may still have to hear of it.
+/// currentDialogChanged() has been emitted when notificationAccepted() or notificationRejected() is, exactly once, and
+/// for requests alone: whoever closes the message of an error has neither accepted nor rejected anything. Everybody
+/// hears all answers and looks for its own by the notification's value "uid". A slot may raise other notifications; the
+/// one that was answered it lets go by deleteLater(), since others may still have to hear of it.
 ///
 /// **Thread**: that of the screens. No call blocks, and none fails.
 class KIV_EXPORT KIVNotificationModelManager : public QAbstractListModel
@@ -44,8 +44,8 @@ public:
 
     static constexpr int maximumTrayEntries = 100;
 
-    /// The one manager of the process, made by the first call; never null. It belongs to nobody and outlives every screen, so
-    /// that none takes the tray along; `parent` is for platforms whose manager needs an owner.
+    /// The one manager of the process, made by the first call; never null. It belongs to nobody and outlives every
+    /// screen, so that none takes the tray along; `parent` is for platforms whose manager needs an owner.
     static KIVNotificationModelManager* instance(QObject* parent = nullptr);
 
     int count() const { return m_tray.size(); }
@@ -56,8 +56,8 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// The user's answer to the open dialog; the one answer of a dialog that is no request is either. Nothing happens without
-    /// an open dialog.
+    /// The user's answer to the open dialog; the one answer of a dialog that is no request is either. Nothing happens
+    /// without an open dialog.
     Q_INVOKABLE void accept();
     Q_INVOKABLE void reject();
 
