@@ -1,5 +1,6 @@
 #include "core/userdata.h"
 #include "document/reporttemplate.h"
+#include "files/fileutils.h"
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
 #include "module/uiutilsmodule.h"
@@ -10,6 +11,8 @@
 #include "service/manifest.h"
 #include "service/qmllistaggregate.h"
 #include "writers/pdffile.h"
+
+#include <kiv/kivnotificationmodelmanager.h>
 
 #include <QFile>
 #include <QJsonObject>
@@ -60,7 +63,8 @@ private Q_SLOTS:
                      &UserData::staticMetaObject, &ReportTemplate::staticMetaObject, &KIVClientInterface::staticMetaObject,
                      &BaseFormatter::staticMetaObject, &UiData::staticMetaObject, &StringUiData::staticMetaObject,
                      &BoolUiData::staticMetaObject, &EnumUiData::staticMetaObject, &UiDataEnums::staticMetaObject,
-                     &UiEnumType::staticMetaObject, &UiDataContainer::staticMetaObject,
+                     &UiEnumType::staticMetaObject, &UiDataContainer::staticMetaObject, &FileUtils::staticMetaObject,
+                     &KIVNotification::staticMetaObject, &KIVNotificationModelManager::staticMetaObject,
                      &PDFFile::staticMetaObject})
             QTest::newRow(type->className()) << type;
     }
@@ -68,7 +72,9 @@ private Q_SLOTS:
     {
         QFETCH(const QMetaObject*, type);
         const QString text = componentText(type->className());
-        QVERIFY2(text.contains(QString("exports: [\"UiUtils/%1 1.0\"]").arg(type->className())), type->className());
+        const bool isManager = type == &KIVNotificationModelManager::staticMetaObject;
+        const QString exported = isManager ? "Notifications" : type->className();
+        QVERIFY2(text.contains(QString("exports: [\"UiUtils/%1 1.0\"]").arg(exported)), type->className());
         for (int i = type->propertyOffset(); i < type->propertyCount(); ++i)
             QVERIFY2(mentions(text, "Property", type->property(i).name()), type->property(i).name());
         for (int i = type->methodOffset(); i < type->methodCount(); ++i) {
@@ -132,6 +138,44 @@ private Q_SLOTS:
         QCOMPARE(cell.value("attr_status").toString(), QString("16"));
         QCOMPARE(cell.value("attr_unit").toString(), QString("dB"));
         QCOMPARE(table.value("row_2").toObject().value("cell_0").toObject().value("label").toString(), QString("two"));
+    }
+
+    /// What QML can hand over in place of a map of texts, and which of two overloads it means.
+    void aPageAsksForFiles()
+    {
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData(R"(
+            import QtQml 2.15
+            import UiUtils 1.0
+            FileUtils {
+                property bool roomForBytes: checkDriveSpaceForFile(9e18, "/")
+                property bool roomForFile: checkDriveSpaceForFile("/no such file", Qt.resolvedUrl(".").toString().slice(7))
+                property var answers: []
+                onAccepted: answers.push("yes " + notification.value("Filename") + notification.value("step"))
+                onRejected: answers.push("no " + notification.value("Filename") + notification.value("step"))
+                function ask() {
+                    sendNotificationDeleteRequest("/mnt/usb/a", { step: 2, note: "x" })
+                    const asked = Notifications.currentDialog.longLabel
+                    Notifications.accept()
+                    sendNotificationDeleteRequest("/mnt/usb/b", {})
+                    Notifications.reject()
+                    sendNotificationOverwriteRequest("", { step: "3", Filename: "own" })
+                    Notifications.accept()
+                    return asked
+                }
+            }
+        )", QUrl::fromLocalFile("/tmp/"));
+        const std::unique_ptr<QObject> object(component.create());
+        QVERIFY2(object, qPrintable(component.errorString()));
+        QVERIFY(object->property("roomForFile").toBool());
+        QVERIFY(!object->property("roomForBytes").toBool());
+        KIVNotificationModelManager::instance()->accept();
+        QVariant asked;
+        QVERIFY(QMetaObject::invokeMethod(object.get(), "ask", Q_RETURN_ARG(QVariant, asked)));
+        QCOMPARE(asked.toString(), QString("Delete File"));
+        QCOMPARE(object->property("answers").toStringList(),
+                (QStringList {"yes /mnt/usb/a2", "no /mnt/usb/bundefined", "yes own3"}));
     }
 };
 

@@ -3,6 +3,8 @@
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -42,6 +44,13 @@ public:
     Q_INVOKABLE void reportError(const QString& text) { m_backend->service("field")->reportError(text); }
 
     Q_INVOKABLE void setLocale(const QString& name) { QLocale::setDefault(QLocale(name)); }
+
+    /// What comes of a key that has been pressed long ago.
+    Q_INVOKABLE void holdKey(int key)
+    {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(QGuiApplication::focusWindow(), &event);
+    }
 
     /// What the engine has complained about since the last call.
     Q_INVOKABLE QStringList takeWarnings()

@@ -2,6 +2,7 @@
 
 #include "core/userdata.h"
 #include "document/reporttemplate.h"
+#include "files/fileutils.h"
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
 #include "service/forgivingvalidator.h"
@@ -12,6 +13,8 @@
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
 #include "writers/pdffile.h"
+
+#include <kiv/kivnotificationmodelmanager.h>
 
 #include <QtQml>
 
@@ -71,6 +74,38 @@ void registerLocalTypes(const char* uri)
     qmlRegisterSingletonType<UiDataContainer>(uri, 1, 0, "UiDataContainer", sharedContainer);
 }
 
+QObject* notifications(QQmlEngine*, QJSEngine*)
+{
+    QQmlEngine::setObjectOwnership(KIVNotificationModelManager::instance(), QQmlEngine::CppOwnership);
+    return KIVNotificationModelManager::instance();
+}
+
+QMap<QString, QString> textsOf(const QJSValue& object)
+{
+    QMap<QString, QString> texts;
+    const QVariantMap values = object.toVariant().toMap();
+    for (auto it = values.cbegin(); it != values.cend(); ++it)
+        texts.insert(it.key(), it.value().toString());
+    return texts;
+}
+
+/// QML hands over an object of its own where a map of texts is wanted.
+void registerTexts()
+{
+    qRegisterMetaType<QMap<QString, QString>>("QMap<QString,QString>");
+    if (!QMetaType::hasRegisteredConverterFunction<QJSValue, QMap<QString, QString>>())
+        QMetaType::registerConverter<QJSValue, QMap<QString, QString>>(textsOf);
+}
+
+void registerFileTypes(const char* uri)
+{
+    registerTexts();
+    qmlRegisterUncreatableType<KIVNotification>(
+            uri, 1, 0, "KIVNotification", QStringLiteral("A notification is made by whoever tells or asks something."));
+    qmlRegisterSingletonType<KIVNotificationModelManager>(uri, 1, 0, "Notifications", notifications);
+    qmlRegisterType<FileUtils>(uri, 1, 0, "FileUtils");
+}
+
 } // namespace
 
 void registerTypes(const char* uri)
@@ -79,6 +114,7 @@ void registerTypes(const char* uri)
     qmlRegisterType<PDFFile>(uri, 1, 0, "PDFFile");
     registerServiceTypes(uri);
     registerLocalTypes(uri);
+    registerFileTypes(uri);
 }
 
 } // namespace uiutils

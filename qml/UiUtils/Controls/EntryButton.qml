@@ -13,8 +13,14 @@ Button {
     padding: 0
     font { pixelSize: ControlsStyle.bodyText; bold: true }
     Accessible.name: text
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    // A key that is held down does it once, and not at all what it was not pressed on.
+    Keys.onReturnPressed: pressBy(event)
+    Keys.onEnterPressed: pressBy(event)
+
+    function pressBy(event) {
+        if (!event.isAutoRepeat)
+            clicked()
+    }
 
     contentItem: Text {
         text: control.text

@@ -1,0 +1,214 @@
+#include "files/fileutils.h"
+
+#include "core/paths.h"
+#include "files/drivespace_p.h"
+
+#include <kiv/kivnotificationmodelmanager.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+using uiutils::onDisk;
+
+namespace {
+
+const QLatin1String uidKey("uid");
+const QLatin1String fileNameKey("Filename");
+const QLatin1String iconFileKey("IconFile");
+
+/// The path without the mark of a clipboard in front.
+QString withoutMark(const QString& path)
+{
+    for (const QLatin1String mark : {QLatin1String("copy:"), QLatin1String("cut:")}) {
+        if (path.startsWith(mark))
+            return path.mid(mark.size());
+    }
+    return path;
+}
+
+QString kindOf(const QString& path)
+{
+    return QFileInfo(onDisk(withoutMark(path))).isDir() ? FileUtils::tr("Directory") : FileUtils::tr("File");
+}
+
+/// `first`, with those of `others` that it has not, and in place of those that it has.
+QMap<QString, QString> joined(QMap<QString, QString> first, const QMap<QString, QString>& others)
+{
+    for (auto it = others.cbegin(); it != others.cend(); ++it)
+        first.insert(it.key(), it.value());
+    return first;
+}
+
+} // namespace
+
+FileUtils::FileUtils(QObject* parent)
+    : QObject(parent)
+{
+    KIVNotificationModelManager* manager = KIVNotificationModelManager::instance();
+    connect(manager, &KIVNotificationModelManager::notificationAccepted, this, &FileUtils::onNotificationAccepted);
+    connect(manager, &KIVNotificationModelManager::notificationRejected, this, &FileUtils::onNotificationRejected);
+}
+
+FileUtils::~FileUtils() = default;
+
+void FileUtils::onNotificationAccepted(KIVNotification* notification)
+{
+    if (isPending(notification))
+        Q_EMIT accepted(notification);
+}
+
+void FileUtils::onNotificationRejected(KIVNotification* notification)
+{
+    if (isPending(notification))
+        Q_EMIT rejected(notification);
+}
+
+QString FileUtils::getSanitizedPathName(QString path)
+{
+    const QLatin1String internal("/cust/public");
+    const QLatin1String stick("/mnt/usb");
+    path = withoutMark(path);
+    if (path.startsWith(internal))
+        return path.replace(0, internal.size(), tr("Internal:"));
+    if (path.startsWith(stick))
+        return path.replace(0, stick.size(), tr("USB:"));
+    return path;
+}
+
+bool FileUtils::checkDriveSpaceForFile(qint64 src_file_size, QString dest_path)
+{
+    const auto space = uiutils::driveSpaceAt(dest_path);
+    if (!space)
+        return false;
+    const qint64 freed = uiutils::blocksOfFile(dest_path, space->blockSize);
+    return hasRoom(dest_path, *space, uiutils::blocksFor(src_file_size, space->blockSize) - freed);
+}
+
+bool FileUtils::checkDriveSpaceForFile(QString src_file, QString dest_path)
+{
+    return checkDriveSpaceForFile(QFileInfo(onDisk(src_file)).size(), dest_path);
+}
+
+bool FileUtils::checkDriveSpaceForDir(QString src_path, QString dest_path)
+{
+    if (!QFileInfo::exists(onDisk(src_path))) {
+        qCritical("FileUtils::checkDriveSpaceForDir - source path %s does not exist", qUtf8Printable(src_path));
+        return false;
+    }
+    const auto space = uiutils::driveSpaceAt(dest_path);
+    return space && hasRoom(dest_path, *space, getDirSize(src_path, dest_path, space->blockSize));
+}
+
+void FileUtils::sendNotificationDriveFull(QString real_path)
+{
+    sendError(tr("I/O Error"), tr("Drive %1 is full").arg(getSanitizedPathName(real_path)));
+}
+
+void FileUtils::sendNotificationReadError(QString real_path)
+{
+    sendError(tr("Read Error"), tr("There was an error reading %1").arg(getSanitizedPathName(real_path)));
+}
+
+void FileUtils::sendNotificationWriteError(QString real_path)
+{
+    sendError(tr("Write Error"), tr("There was an error writing to %1").arg(getSanitizedPathName(real_path)));
+}
+
+void FileUtils::sendNotificationNotEnoughSpace(QString real_path, qint64 needed)
+{
+    const QString text = tr("Not enough disk space for %1 - would need %2");
+    KIVNotification* notification = freshNotification(
+            tr("Not Enough Space"), text.arg(getSanitizedPathName(real_path), uiutils::sizeText(needed)));
+    notification->setError();
+    notification->notifyDialog();
+}
+
+void FileUtils::sendNotificationOverwriteRequest(QString real_file_path_to, QMap<QString, QString> optional_args)
+{
+    const QString name = getSanitizedPathName(real_file_path_to);
+    const QString text = real_file_path_to.isEmpty()
+            ? tr("Do you want to overwrite all files/directories?")
+            : tr("Do you want to overwrite %1 %2?").arg(kindOf(real_file_path_to), name);
+    sendRequest(tr("File Exists"), text, optional_args);
+}
+
+void FileUtils::sendNotificationDeleteRequest(QString real_file_path, QMap<QString, QString> optional_args)
+{
+    const int count = real_file_path.count(QLatin1Char('\n')) + 1;
+    const QString kind = count > 1 ? tr("Files") : kindOf(real_file_path);
+    const QString text = count > 1
+            ? tr("Do you want to delete these %1 files?").arg(count)
+            : tr("Do you want to delete the %1 %2?").arg(kind, getSanitizedPathName(real_file_path));
+    sendRequest(tr("Delete %1").arg(kind), text, joined({{fileNameKey, real_file_path}}, optional_args));
+}
+
+void FileUtils::sendNotificationOverwriteReportRequest(QString real_file_path, QMap<QString, QString> optional_args)
+{
+    const QLatin1String compression(".gz");
+    QString name = getSanitizedPathName(real_file_path);
+    if (name.endsWith(QLatin1String(".pdf.gz")))
+        name.chop(compression.size());
+    sendRequest(tr("Report Exists"), tr("Do you want to overwrite report %1?").arg(name),
+            joined({{fileNameKey, real_file_path}}, optional_args));
+}
+
+void FileUtils::sendNotificationOverwriteScreenshotRequest(
+        QString real_file_path, QString icon_file, QMap<QString, QString> optional_args)
+{
+    const QString name = getSanitizedPathName(real_file_path);
+    sendRequest(tr("File Exists"), tr("Do you want to overwrite screenshot %1?").arg(name),
+            joined({{fileNameKey, real_file_path}, {iconFileKey, icon_file}}, optional_args));
+}
+
+qint64 FileUtils::getDirSize(QString src_path, QString dest_path, qint64 fs_block_size)
+{
+    if (!QFileInfo::exists(onDisk(src_path))) {
+        qCritical("FileUtils::getDirSize - source path %s does not exist", qUtf8Printable(src_path));
+        return 0;
+    }
+    return fs_block_size < 1 ? 0 : uiutils::blocksOfTree(src_path, dest_path, fs_block_size);
+}
+
+KIVNotification* FileUtils::freshNotification(const QString& title, const QString& text)
+{
+    // Whoever is hearing its answer may be the one who raises the next.
+    if (m_notification)
+        m_notification->deleteLater();
+    m_notification = new KIVNotification(this);
+    m_notification->setLongLabel(title);
+    m_notification->setMsg(text);
+    return m_notification;
+}
+
+void FileUtils::sendError(const QString& title, const QString& text)
+{
+    KIVNotification* notification = freshNotification(title, text);
+    notification->setError();
+    notification->notifyTray();
+    notification->notifyDialog();
+}
+
+void FileUtils::sendRequest(const QString& title, const QString& text, const QMap<QString, QString>& values)
+{
+    KIVNotification* notification = freshNotification(title, text);
+    notification->setRequest();
+    for (auto it = values.cbegin(); it != values.cend(); ++it)
+        notification->setValue(it.key(), it.value());
+    notification->notifyDialog();
+}
+
+bool FileUtils::isPending(const KIVNotification* notification) const
+{
+    if (!m_notification || !notification)
+        return false;
+    const QVariant uid = m_notification->value(uidKey);
+    return uid.isValid() && uid == notification->value(uidKey);
+}
+
+bool FileUtils::hasRoom(const QString& path, const uiutils::DriveSpace& space, qint64 blocks)
+{
+    if (blocks <= space.available)
+        return true;
+    sendNotificationNotEnoughSpace(path, uiutils::bytesIn(blocks - space.available, space.blockSize));
+    return false;
+}

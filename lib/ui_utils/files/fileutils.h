@@ -1,0 +1,89 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+
+#include <kiv/kivnotification.h>
+
+#include <QMap>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+namespace uiutils {
+struct DriveSpace;
+}
+
+/// File work as the user meets it: whether there is room for what is to be written, what went wrong, and what may be
+/// overwritten or deleted.
+///
+/// Paths are the instrument's ("/cust/public/a.html"); texts show them as getSanitizedPathName() makes them.
+///
+/// At most one notification of an object is pending: raising one takes back the one before it. accepted() and
+/// rejected() report the answer to that one, which carries the optional arguments as values. Nothing here copies, moves
+/// or deletes.
+class UIUTILS_EXPORT FileUtils : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit FileUtils(QObject* parent = nullptr);
+    ~FileUtils() override;
+
+public Q_SLOTS:
+    /// The answers of all dialogs come in here.
+    void onNotificationAccepted(KIVNotification* notification);
+    void onNotificationRejected(KIVNotification* notification);
+
+public:
+    /// The path as users read it: without "copy:" or "cut:" in front, with "Internal:" for "/cust/public" and "USB:"
+    /// for "/mnt/usb".
+    Q_INVOKABLE QString getSanitizedPathName(QString path);
+
+    /// Whether `src_file_size` bytes fit at `dest_path`, where a file that exists is overwritten. If not, tells the
+    /// user how much is missing. False without a message when nothing can be found out about the drive.
+    Q_INVOKABLE bool checkDriveSpaceForFile(qint64 src_file_size, QString dest_path);
+    /// The same for the size of the file `src_file`, 0 bytes when there is none.
+    Q_INVOKABLE bool checkDriveSpaceForFile(QString src_file, QString dest_path);
+    /// The same for everything below the folder `src_path`, copied into the folder `dest_path`. False with a line in
+    /// the log when `src_path` does not exist.
+    Q_INVOKABLE bool checkDriveSpaceForDir(QString src_path, QString dest_path);
+
+    /// Errors, in the tray and in a dialog.
+    Q_INVOKABLE void sendNotificationDriveFull(QString real_path);
+    Q_INVOKABLE void sendNotificationReadError(QString real_path);
+    Q_INVOKABLE void sendNotificationWriteError(QString real_path);
+    /// An error in a dialog alone; `needed` in bytes.
+    Q_INVOKABLE void sendNotificationNotEnoughSpace(QString real_path, qint64 needed);
+
+    /// Asks whether the file or folder may be overwritten; an empty path stands for all of them. `optional_args` become
+    /// values of the notification.
+    Q_INVOKABLE void sendNotificationOverwriteRequest(QString real_file_path_to, QMap<QString, QString> optional_args);
+    /// Asks whether the file or folder may be deleted, or several, parted by line feeds. The value "Filename" is
+    /// `real_file_path`.
+    Q_INVOKABLE void sendNotificationDeleteRequest(QString real_file_path, QMap<QString, QString> optional_args);
+    /// Asks whether the report may be overwritten; a compressed PDF is named without ".gz". The value "Filename" is
+    /// `real_file_path`.
+    void sendNotificationOverwriteReportRequest(QString real_file_path, QMap<QString, QString> optional_args);
+    /// Asks whether the screenshot may be overwritten. The value "Filename" is `real_file_path`, "IconFile" `icon_file`.
+    void sendNotificationOverwriteScreenshotRequest(
+            QString real_file_path, QString icon_file, QMap<QString, QString> optional_args);
+
+    /// How many blocks of `fs_block_size` bytes the files below `src_path` need beyond those that files of their names
+    /// below `dest_path` give back. Links to folders are followed, but not back to a folder that leads there. 0 with a
+    /// line in the log when `src_path` does not exist; 0 for a block size below 1.
+    Q_INVOKABLE qint64 getDirSize(QString src_path, QString dest_path, qint64 fs_block_size);
+
+Q_SIGNALS:
+    /// The user's answer to the pending request.
+    void accepted(KIVNotification* notification);
+    void rejected(KIVNotification* notification);
+
+private:
+    KIVNotification* freshNotification(const QString& title, const QString& text);
+    void sendError(const QString& title, const QString& text);
+    void sendRequest(const QString& title, const QString& text, const QMap<QString, QString>& values);
+    bool isPending(const KIVNotification* notification) const;
+    bool hasRoom(const QString& path, const uiutils::DriveSpace& space, qint64 blocks);
+
+    QPointer<KIVNotification> m_notification;
+};

@@ -1,0 +1,208 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Window 2.15
+import UiUtils 1.0
+import UiUtils.Controls 1.0
+
+// The open dialog of the notifications, one at a time. A window needs one of these, anywhere on its page.
+Popup {
+    id: dialog
+
+    readonly property KIVNotification notification: Notifications.currentDialog
+    readonly property Item overlay: Overlay.overlay
+
+    // For so long after it has come up, in milliseconds, a dialog takes no answer: the tap or key may have been meant for what
+    // was there before.
+    property int graceTime: 300
+
+    function answer(isAccepted) {
+        if (grace.running)
+            return
+        if (isAccepted)
+            Notifications.accept()
+        else
+            Notifications.reject()
+    }
+
+    // Who had the focus before.
+    property Item interrupted: null
+
+    function focusOwner() {
+        return overlay ? overlay.Window.activeFocusItem : null
+    }
+
+    // Popups leave that to windows of one kind.
+    function giveFocusBack() {
+        const owner = focusOwner()
+        const isFree = owner === null || owner === overlay.Window.contentItem
+        if (isFree && interrupted !== null && interrupted.enabled)
+            interrupted.forceActiveFocus()
+        interrupted = null
+    }
+
+    onAboutToShow: interrupted = focusOwner()
+    onClosed: giveFocusBack()
+    onNotificationChanged: {
+        if (notification !== null && graceTime > 0)
+            grace.restart()
+    }
+    Component.onCompleted: notificationChanged()
+
+    objectName: "notificationDialog"
+    parent: overlay
+    anchors.centerIn: parent
+    // A page that is being made has no window yet.
+    visible: notification !== null && overlay !== null
+    modal: true
+    focus: true
+    closePolicy: Popup.NoAutoClose
+    padding: 20
+    width: overlay ? Math.min(560, overlay.width - 2 * ControlsStyle.margin) : 560
+    background: Rectangle {
+        radius: ControlsStyle.radius + 4
+        color: ControlsStyle.background
+        border { width: 1; color: ControlsStyle.border }
+    }
+    Overlay.modal: Rectangle { color: "#80000000" }
+
+    contentItem: Column {
+        // Each has buttons of its own: a press that began on those of the one before ends with them.
+        Repeater {
+            model: dialog.notification !== null ? [dialog.notification] : []
+
+            delegate: FocusScope {
+                id: content
+
+                readonly property int kind: modelData ? modelData.kind : KIVNotification.Notice
+                readonly property bool isRequest: kind === KIVNotification.Request
+                readonly property string title: modelData ? modelData.longLabel : ""
+                readonly property string msg: modelData ? modelData.msg : ""
+
+                width: parent ? parent.width : 0
+                height: column.implicitHeight
+                focus: true
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: mark.word + ": " + title
+                Accessible.description: msg
+                Keys.onEscapePressed: {
+                    if (!event.isAutoRepeat)
+                        dialog.answer(false)
+                }
+                Keys.onUpPressed: scrolled.scroll(-1)
+                Keys.onDownPressed: scrolled.scroll(1)
+                // What is asked overwrites and deletes: a key pressed in passing must not say yes.
+                Component.onCompleted: (isRequest ? rejectButton : acceptButton).forceActiveFocus()
+
+                // No layout: its height would follow the width of wrapped texts within one change, which goes round in circles.
+                Column {
+                    id: column
+                    width: parent.width
+                    spacing: ControlsStyle.margin + 4
+
+                    Item {
+                        width: parent.width
+                        height: Math.max(mark.height, titleText.implicitHeight)
+
+                        NotificationMark {
+                            id: mark
+                            objectName: "mark"
+                            kind: content.kind
+                        }
+                        Text {
+                            id: titleText
+                            objectName: "dialogTitle"
+                            anchors { left: mark.right; leftMargin: ControlsStyle.margin; right: parent.right; verticalCenter: parent.verticalCenter }
+                            text: content.title
+                            textFormat: Text.PlainText
+                            wrapMode: Text.Wrap
+                            maximumLineCount: 2
+                            elide: Text.ElideRight
+                            color: ControlsStyle.text
+                            font { pixelSize: ControlsStyle.headingText; bold: true }
+                        }
+                    }
+                    Flickable {
+                        id: scrolled
+
+                        readonly property bool isLong: contentHeight > height
+
+                        function scroll(direction) {
+                            const end = Math.max(0, contentHeight - height)
+                            contentY = Math.max(0, Math.min(contentY + direction * ControlsStyle.touch, end))
+                        }
+
+                        objectName: "scrolled"
+                        width: parent.width
+                        height: Math.min(contentHeight, (dialog.overlay ? dialog.overlay.height / 2 : 300))
+                        contentHeight: msgText.implicitHeight
+                        clip: true
+                        boundsBehavior: Flickable.StopAtBounds
+                        ScrollBar.vertical: ScrollBar { policy: scrolled.isLong ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
+
+                        Text {
+                            id: msgText
+                            objectName: "dialogText"
+                            width: scrolled.width - ControlsStyle.margin
+                            text: content.msg
+                            textFormat: Text.PlainText
+                            wrapMode: Text.Wrap
+                            color: ControlsStyle.text
+                            font.pixelSize: ControlsStyle.bodyText
+                        }
+                    }
+                    Item {
+                        width: parent.width
+                        height: ControlsStyle.touch
+
+                        Text {
+                            objectName: "waitingText"
+                            anchors { left: parent.left; right: buttons.left; rightMargin: ControlsStyle.gap; verticalCenter: parent.verticalCenter }
+                            text: Notifications.waitingDialogs > 0 ? qsTr("%1 more").arg(Notifications.waitingDialogs) : ""
+                            elide: Text.ElideRight
+                            color: ControlsStyle.mutedText
+                            font.pixelSize: ControlsStyle.smallText
+                        }
+                        Row {
+                            id: buttons
+                            anchors.right: parent.right
+                            spacing: ControlsStyle.margin
+
+                            DialogButton {
+                                id: rejectButton
+                                objectName: "rejectButton"
+                                visible: content.isRequest
+                                text: qsTr("No")
+                                KeyNavigation.right: acceptButton
+                                onClicked: dialog.answer(false)
+                            }
+                            DialogButton {
+                                id: acceptButton
+                                objectName: "acceptButton"
+                                text: content.isRequest ? qsTr("Yes") : qsTr("OK")
+                                filled: true
+                                onClicked: dialog.answer(true)
+                            }
+                        }
+                    }
+                }
+            }
+        }
+    }
+
+    component DialogButton: EntryButton {
+        id: button
+
+        implicitWidth: 120
+        background: Rectangle {
+            radius: ControlsStyle.radius
+            color: button.filled ? (button.down ? ControlsStyle.primaryPressed : ControlsStyle.primary)
+                                 : button.down ? ControlsStyle.pressed : ControlsStyle.field
+            border { width: button.activeFocus ? 3 : 1; color: button.activeFocus ? ControlsStyle.focus : ControlsStyle.border }
+        }
+    }
+
+    Timer {
+        id: grace
+        interval: dialog.graceTime
+    }
+}

@@ -1,0 +1,394 @@
+#include "files/fileutils.h"
+
+#include <kiv/kivnotificationmodelmanager.h>
+
+#include <QDir>
+#include <QFile>
+#include <QScopeGuard>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <functional>
+#include <limits>
+#include <sys/mount.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+using Arguments = QMap<QString, QString>;
+using Operation = std::function<void(FileUtils&)>;
+
+Q_DECLARE_METATYPE(KIVNotification*)
+Q_DECLARE_METATYPE(Operation)
+Q_DECLARE_METATYPE(KIVNotification::Kind)
+
+namespace {
+
+constexpr qint64 block = 4096;
+
+KIVNotificationModelManager* manager()
+{
+    return KIVNotificationModelManager::instance();
+}
+
+bool writeFile(const QString& path, qint64 size)
+{
+    QFile file(path);
+    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) && file.resize(size);
+}
+
+} // namespace
+
+class FileUtilsTest : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_root;
+
+    /// The place of an instrument path on the disk of the test.
+    QString onDisk(const QString& path) const { return m_root.path() + path; }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_root.isValid());
+        qputenv("UIUTILS_ROOT", QFile::encodeName(m_root.path()));
+        QVERIFY(QDir().mkpath(onDisk("/cust/public/folder")));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+    }
+    void cleanup()
+    {
+        manager()->clear();
+        QVERIFY(!manager()->currentDialog());
+    }
+
+    void displayPaths_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("internal") << "/cust/public/reports/a.pdf" << "Internal:/reports/a.pdf";
+        QTest::newRow("stick") << "/mnt/usb/a" << "USB:/a";
+        QTest::newRow("copied") << "copy:/cust/public/a" << "Internal:/a";
+        QTest::newRow("cut") << "cut:/mnt/usb/a" << "USB:/a";
+        QTest::newRow("one mark alone") << "copy:cut:/mnt/usb/a" << "cut:/mnt/usb/a";
+        QTest::newRow("one folder alone") << "/cust/public/mnt/usb/cust/public" << "Internal:/mnt/usb/cust/public";
+        QTest::newRow("case counts") << "Copy:/CUST/public" << "Copy:/CUST/public";
+        QTest::newRow("only in front") << "/tmp/copy:/mnt/usb" << "/tmp/copy:/mnt/usb";
+        QTest::newRow("empty") << "" << "";
+    }
+    void displayPaths()
+    {
+        QFETCH(QString, path);
+        QTEST(FileUtils().getSanitizedPathName(path), "shown");
+    }
+
+    void notifications_data()
+    {
+        QTest::addColumn<Operation>("operation");
+        QTest::addColumn<KIVNotification::Kind>("kind");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("trayEntries");
+        const auto add = [](const char* name, const Operation& operation, KIVNotification::Kind kind,
+                                 const QString& title, const QString& text, int trayEntries) {
+            QTest::newRow(name) << operation << kind << title << text << trayEntries;
+        };
+        const auto error = KIVNotification::Error;
+        const auto request = KIVNotification::Request;
+
+        add("full", [](auto& f) { f.sendNotificationDriveFull("/mnt/usb"); }, error, "I/O Error", "Drive USB: is full", 1);
+        add("reading", [](auto& f) { f.sendNotificationReadError("/cust/public/%1.txt"); }, error, "Read Error",
+                "There was an error reading Internal:/%1.txt", 1);
+        add("writing", [](auto& f) { f.sendNotificationWriteError("cut:/mnt/usb/a"); }, error, "Write Error",
+                "There was an error writing to USB:/a", 1);
+        add("space", [](auto& f) { f.sendNotificationNotEnoughSpace("/mnt/usb/%2", 1'500'000'000); }, error,
+                "Not Enough Space", "Not enough disk space for USB:/%2 - would need 1.50 G", 0);
+
+        add("overwrite file", [](auto& f) { f.sendNotificationOverwriteRequest("/cust/public/%2", {}); }, request,
+                "File Exists", "Do you want to overwrite File Internal:/%2?", 0);
+        add("overwrite folder", [](auto& f) { f.sendNotificationOverwriteRequest("/cust/public/folder", {}); }, request,
+                "File Exists", "Do you want to overwrite Directory Internal:/folder?", 0);
+        add("overwrite all", [](auto& f) { f.sendNotificationOverwriteRequest("", {}); }, request, "File Exists",
+                "Do you want to overwrite all files/directories?", 0);
+        add("overwrite report",
+                [](auto& f) { f.sendNotificationOverwriteReportRequest("/cust/public/reports/a.pdf", {}); }, request,
+                "Report Exists", "Do you want to overwrite report Internal:/reports/a.pdf?", 0);
+        add("overwrite compressed report",
+                [](auto& f) { f.sendNotificationOverwriteReportRequest("/cust/public/a.pdf.gz", {}); }, request,
+                "Report Exists", "Do you want to overwrite report Internal:/a.pdf?", 0);
+        add("overwrite other compressed report",
+                [](auto& f) { f.sendNotificationOverwriteReportRequest("/cust/public/a.html.gz", {}); }, request,
+                "Report Exists", "Do you want to overwrite report Internal:/a.html.gz?", 0);
+        add("overwrite screenshot",
+                [](auto& f) { f.sendNotificationOverwriteScreenshotRequest("/cust/public/s.png", "i.png", {}); }, request,
+                "File Exists", "Do you want to overwrite screenshot Internal:/s.png?", 0);
+        add("delete file", [](auto& f) { f.sendNotificationDeleteRequest("/mnt/usb/%1", {}); }, request, "Delete File",
+                "Do you want to delete the File USB:/%1?", 0);
+        add("delete folder", [](auto& f) { f.sendNotificationDeleteRequest("cut:/cust/public/folder", {}); }, request,
+                "Delete Directory", "Do you want to delete the Directory Internal:/folder?", 0);
+        add("delete several", [](auto& f) { f.sendNotificationDeleteRequest("/mnt/usb/a\n/mnt/usb/b", {}); }, request,
+                "Delete Files", "Do you want to delete these 2 files?", 0);
+        add("delete with a line feed behind", [](auto& f) { f.sendNotificationDeleteRequest("/mnt/usb/a\n", {}); },
+                request, "Delete Files", "Do you want to delete these 2 files?", 0);
+    }
+    void notifications()
+    {
+        QFETCH(Operation, operation);
+        FileUtils files;
+        operation(files);
+        const KIVNotification* dialog = manager()->currentDialog();
+        QVERIFY(dialog);
+        QTEST(dialog->kind(), "kind");
+        QTEST(dialog->longLabel(), "title");
+        QTEST(dialog->msg(), "text");
+        QTEST(manager()->count(), "trayEntries");
+        if (manager()->count() == 1) {
+            const QModelIndex entry = manager()->index(0);
+            QTEST(entry.data(KIVNotificationModelManager::LongLabelRole).toString(), "title");
+            QTEST(entry.data(KIVNotificationModelManager::MsgRole).toString(), "text");
+        }
+    }
+
+    void amounts_data()
+    {
+        QTest::addColumn<qint64>("bytes");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("none") << qint64(0) << "0.00 K";
+        QTest::newRow("100 bytes") << qint64(100) << "0.00 K";
+        QTest::newRow("less than a thousand") << qint64(999) << "0.00 K";
+        QTest::newRow("a thousand") << qint64(1000) << "1.00 K";
+        QTest::newRow("less than a million") << qint64(999'994) << "999.99 K";
+        QTest::newRow("a million") << qint64(1'000'000) << "1.00 M";
+        QTest::newRow("rounded up") << qint64(999'999'999) << "1000.00 M";
+        QTest::newRow("thousand million") << qint64(1'000'000'000) << "1.00 G";
+        QTest::newRow("single precision") << qint64(999'995'000) << "999.99 M";
+        QTest::newRow("beyond 32 bits") << qint64(5'000'000'000) << "5.00 G";
+    }
+    void amounts()
+    {
+        QFETCH(qint64, bytes);
+        QFETCH(QString, text);
+        const QLocale before;
+        const auto restore = qScopeGuard([before] { QLocale::setDefault(before); });
+        QLocale::setDefault(QLocale(QLocale::German));
+        FileUtils files;
+        files.sendNotificationNotEnoughSpace("/mnt/usb", bytes);
+        QCOMPARE(manager()->currentDialog()->msg(), "Not enough disk space for USB: - would need " + text);
+    }
+
+    void values()
+    {
+        const Arguments arguments {{"step", "2"}, {"name", "x"}};
+        const auto kept = [](const char* key) { return manager()->currentDialog()->value(key).toString(); };
+        FileUtils files;
+        files.sendNotificationDeleteRequest("cut:/mnt/usb/a\n/mnt/usb/b", arguments);
+        QCOMPARE(kept("Filename"), QString("cut:/mnt/usb/a\n/mnt/usb/b"));
+        QCOMPARE(kept("step") + kept("name"), QString("2x"));
+        manager()->reject();
+        files.sendNotificationOverwriteRequest("/mnt/usb/a", arguments);
+        QCOMPARE(kept("step") + kept("name"), QString("2x"));
+        manager()->reject();
+        files.sendNotificationOverwriteReportRequest("/mnt/usb/a.pdf.gz", arguments);
+        QCOMPARE(kept("Filename") + kept("name"), QString("/mnt/usb/a.pdf.gzx"));
+        manager()->reject();
+        files.sendNotificationOverwriteScreenshotRequest("/mnt/usb/s.png", "/base/i.png", {{"Filename", "mine"}});
+        QCOMPARE(kept("Filename") + kept("IconFile"), QString("mine/base/i.png"));
+    }
+
+    void answersReachOnlyWhoAsked()
+    {
+        FileUtils first;
+        FileUtils second;
+        FileUtils idle;
+        QSignalSpy firstAccepted(&first, &FileUtils::accepted);
+        QSignalSpy secondRejected(&second, &FileUtils::rejected);
+        QSignalSpy others(&idle, &FileUtils::accepted);
+        QSignalSpy wrong(&second, &FileUtils::accepted);
+        first.sendNotificationOverwriteRequest("/mnt/usb/a", {{"key", "of first"}});
+        second.sendNotificationOverwriteRequest("/mnt/usb/b", {});
+        manager()->accept();
+        QCOMPARE(firstAccepted.size(), 1);
+        QCOMPARE(firstAccepted.at(0).at(0).value<KIVNotification*>()->value("key").toString(), QString("of first"));
+        QCOMPARE(secondRejected.size(), 0);
+        manager()->reject();
+        QCOMPARE(secondRejected.size(), 1);
+        QCOMPARE(firstAccepted.size(), 1);
+        QCOMPARE(others.size() + wrong.size(), 0);
+    }
+
+    void answersThatAreNotTheirs()
+    {
+        FileUtils files;
+        QSignalSpy accepted(&files, &FileUtils::accepted);
+        KIVNotification other;
+        files.onNotificationAccepted(&other);
+        files.onNotificationAccepted(nullptr);
+        files.sendNotificationOverwriteRequest("/mnt/usb/a", {});
+        KIVNotification* own = manager()->currentDialog();
+        files.onNotificationAccepted(&other);
+        files.onNotificationAccepted(nullptr);
+        QCOMPARE(accepted.size(), 0);
+
+        other.setValue("uid", own->value("uid"));
+        files.onNotificationAccepted(&other);
+        QCOMPARE(accepted.size(), 1);
+        for (KIVNotification* notification : {&other, own})
+            notification->setValue("uid", QVariant());
+        files.onNotificationAccepted(&other);
+        files.onNotificationAccepted(own);
+        QCOMPARE(accepted.size(), 1);
+    }
+
+    void theLastQuestionCounts()
+    {
+        FileUtils files;
+        QSignalSpy accepted(&files, &FileUtils::accepted);
+        files.sendNotificationOverwriteRequest("/mnt/usb/a", {});
+        const QPointer<KIVNotification> first = manager()->currentDialog();
+        files.sendNotificationOverwriteRequest("/mnt/usb/b", {});
+        // Answered in the same moment.
+        manager()->accept();
+        QCOMPARE(accepted.size(), 0);
+        QTRY_VERIFY(!first);
+        QCOMPARE(manager()->currentDialog()->msg(), QString("Do you want to overwrite File USB:/b?"));
+        files.sendNotificationOverwriteRequest("/mnt/usb/c", {});
+        QTRY_COMPARE(manager()->waitingDialogs(), 0);
+        manager()->accept();
+        QCOMPARE(accepted.size(), 1);
+    }
+
+    void anAnswerMayRaiseTheNextQuestion()
+    {
+        FileUtils files;
+        QStringList answered;
+        connect(&files, &FileUtils::accepted, this, [&](const KIVNotification* notification) {
+            answered.append(notification->value("Filename").toString());
+            if (answered.size() == 1)
+                files.sendNotificationDeleteRequest("/mnt/usb/b", {});
+            answered.append(notification->longLabel());
+        });
+        files.sendNotificationDeleteRequest("/mnt/usb/a", {});
+        manager()->accept();
+        QVERIFY(manager()->currentDialog());
+        manager()->accept();
+        QCOMPARE(answered, (QStringList {"/mnt/usb/a", "Delete File", "/mnt/usb/b", "Delete File"}));
+    }
+
+    void questionsGoWithTheirAsker()
+    {
+        auto files = std::make_unique<FileUtils>();
+        files->sendNotificationWriteError("/mnt/usb/a");
+        files.reset();
+        QVERIFY(!manager()->currentDialog());
+        QCOMPARE(manager()->count(), 1);
+        manager()->accept();
+    }
+
+    void treeSizes()
+    {
+        const QString source = "/cust/public/tree";
+        QVERIFY(writeFile(onDisk(source + "/empty"), 0));
+        QVERIFY(writeFile(onDisk(source + "/one"), 1));
+        QVERIFY(writeFile(onDisk(source + "/exact"), block));
+        QVERIFY(writeFile(onDisk(source + "/a/b/c %1"), block + 1));
+        FileUtils files;
+        QCOMPARE(files.getDirSize(source, "/mnt/usb/new", block), qint64(4));
+        QCOMPARE(files.getDirSize(source, "/mnt/usb/new", 1), 2 * block + 2);
+        QCOMPARE(files.getDirSize(source, "/mnt/usb/new", 0), qint64(0));
+
+        QVERIFY(writeFile(onDisk("/mnt/usb/old/a/b/c %1"), 5 * block));
+        QVERIFY(writeFile(onDisk("/mnt/usb/old/elsewhere"), 5 * block));
+        QCOMPARE(files.getDirSize(source, "/mnt/usb/old", block), qint64(4 - 5));
+
+        QTest::ignoreMessage(QtCriticalMsg, "FileUtils::getDirSize - source path /cust/public/no%s does not exist");
+        QCOMPARE(files.getDirSize("/cust/public/no%s", "/mnt/usb", block), qint64(0));
+        QTest::ignoreMessage(QtCriticalMsg, "FileUtils::checkDriveSpaceForDir - source path /cust/none does not exist");
+        QVERIFY(!files.checkDriveSpaceForDir("/cust/none", "/mnt/usb"));
+    }
+
+    void loopsOfLinksEnd()
+    {
+        const QString source = "/cust/public/loop";
+        QVERIFY(writeFile(onDisk(source + "/a/file"), 1));
+        QVERIFY(QFile::link(onDisk(source), onDisk(source + "/a/up")));
+        QVERIFY(QFile::link(".", onDisk(source + "/a/self")));
+        QVERIFY(QFile::link("nowhere", onDisk(source + "/a/dangling")));
+        FileUtils files;
+        QCOMPARE(files.getDirSize(source, "/mnt/usb/new", block), qint64(1));
+        // What is linked twice is copied twice.
+        QVERIFY(QFile::link(onDisk(source + "/a"), onDisk(source + "/second")));
+        QCOMPARE(files.getDirSize(source, "/mnt/usb/new", block), qint64(2));
+    }
+
+    void room()
+    {
+        FileUtils files;
+        struct statvfs drive {};
+        QCOMPARE(::statvfs(QFile::encodeName(m_root.path()).constData(), &drive), 0);
+        if (drive.f_bavail > 0)
+            QVERIFY(files.checkDriveSpaceForFile(qint64(1), "/cust/public/not/there/yet/a"));
+        QVERIFY(!manager()->currentDialog());
+
+        // Nothing of the path exists.
+        QVERIFY(!files.checkDriveSpaceForFile(qint64(0), "/no such folder of a test/a"));
+        QVERIFY(!files.checkDriveSpaceForFile(qint64(0), ""));
+        QVERIFY(!manager()->currentDialog());
+
+        QVERIFY(!files.checkDriveSpaceForFile(std::numeric_limits<qint64>::max(), "/mnt/usb/a"));
+        QVERIFY(manager()->currentDialog());
+        QVERIFY(manager()->currentDialog()->msg().startsWith("Not enough disk space for USB:/a - would need 92"));
+    }
+
+    /// Against a drive of 64 blocks.
+    void roomToTheBlock()
+    {
+        const QString stick = onDisk(QString::fromUtf8("/mnt/usb/stück"));
+        QVERIFY(QDir().mkpath(stick));
+        const QByteArray mountPoint = QFile::encodeName(stick);
+        if (::mount("none", mountPoint.constData(), "tmpfs", 0, "size=256k") != 0)
+            QSKIP("Only those who may mount a drive can fill one.");
+        const auto unmount = qScopeGuard([&] { ::umount2(mountPoint.constData(), MNT_DETACH); });
+        struct statvfs drive {};
+        QCOMPARE(::statvfs(mountPoint.constData(), &drive), 0);
+        const qint64 size = qint64(drive.f_bsize);
+        const qint64 available = qint64(drive.f_bavail);
+        QVERIFY(available > 16 && available < 100);
+
+        const QString target = QString::fromUtf8("/mnt/usb/stück/new/a");
+        const auto missing = [](const QString& path, const QString& amount) {
+            const QString text = "Not enough disk space for " + path + " - would need " + amount;
+            const bool isSaid = manager()->currentDialog() && manager()->currentDialog()->msg() == text;
+            manager()->accept();
+            return isSaid;
+        };
+        FileUtils files;
+        QVERIFY(files.checkDriveSpaceForFile(available * size, target));
+        QVERIFY(!manager()->currentDialog());
+        QVERIFY(!files.checkDriveSpaceForFile(available * size + 1, target));
+        QVERIFY(missing(QString::fromUtf8("USB:/stück/new/a"), "4.10 K"));
+        QCOMPARE(manager()->count(), 0);
+
+        QVERIFY(writeFile(onDisk("/cust/public/big/a"), (available + 2) * size));
+        QVERIFY(!files.checkDriveSpaceForFile(QString("/cust/public/big/a"), target));
+        QVERIFY(missing(QString::fromUtf8("USB:/stück/new/a"), "8.19 K"));
+        QVERIFY(!files.checkDriveSpaceForDir("/cust/public/big", QString::fromUtf8("/mnt/usb/stück/new")));
+        QVERIFY(missing(QString::fromUtf8("USB:/stück/new"), "8.19 K"));
+
+        // The last block goes to a file that the next one replaces.
+        QFile full(stick + "/full");
+        QVERIFY(full.open(QIODevice::WriteOnly));
+        const QByteArray contents(int(available * size), 'x');
+        QCOMPARE(full.write(contents), contents.size());
+        full.close();
+        QVERIFY(files.checkDriveSpaceForFile(available * size, QString::fromUtf8("/mnt/usb/stück/full")));
+        QVERIFY(!files.checkDriveSpaceForFile(size, target));
+        QVERIFY(missing(QString::fromUtf8("USB:/stück/new/a"), "4.10 K"));
+        QVERIFY(QDir().mkpath(onDisk("/cust/public/same")));
+        QVERIFY(writeFile(onDisk("/cust/public/same/full"), available * size));
+        QVERIFY(files.checkDriveSpaceForDir("/cust/public/same", QString::fromUtf8("/mnt/usb/stück")));
+        QVERIFY(!manager()->currentDialog());
+    }
+};
+
+QTEST_GUILESS_MAIN(FileUtilsTest)
+#include "tst_fileutils.moc"
