@@ -23,9 +23,12 @@ inline const QLatin1String hardwareNameEnd("_top");
 
 inline const QLatin1String baseUnit(":result:basemgr:eeprom:base_barcode_top:");
 
+inline const QLatin1String jobActive(":result:basemgr:jobmanager:isJobActive:");
 inline const QLatin1String jobId(":result:basemgr:jobmanager:jobID:");
 inline const QLatin1String jobBan(":result:basemgr:jobmanager:jobBAN:");
 inline const QLatin1String jobTechnician(":result:basemgr:jobmanager:jobTechnician:");
+/// Attaches the XML report that is its argument to the active job.
+inline const QLatin1String attachReport(":action:basemgr:jobmanager:attachReport:");
 
 /// Ends the id of the item that stands for a whole service.
 inline const QLatin1String manifest(":manifest:");

@@ -5,6 +5,9 @@
 /// Where the instrument keeps things, and where they lie on this machine's disk.
 namespace uiutils::paths {
 
+/// What users see as the unit's own storage, and as a memory stick.
+inline const QLatin1String publicFolder("/cust/public/");
+inline const QLatin1String usb("/mnt/usb/");
 /// Folder of the saved reports.
 inline const QLatin1String reports("/cust/public/reports/");
 /// Folder of the status icons and of the logo.
