@@ -236,7 +236,7 @@ KivData* Report::getConstSetting(const QString& name) const
 
 QString Report::getTemplatePath() const
 {
-    return m_document.getPath();
+    return m_templatePath;
 }
 
 void Report::setTemplatePath(const QString& path)
@@ -257,10 +257,11 @@ void Report::setTemplatePath(const QString& path)
 bool Report::readTemplate(const QString& path)
 {
     ReportTemplate trial;
-    trial.readFile(path);
+    trial.readFile(onDisk(path));
     if (trial.hasError())
         return false;
-    m_document.readFile(path);
+    m_document.readFile(onDisk(path));
+    m_templatePath = path;
     return !m_document.hasError();
 }
 
@@ -687,11 +688,13 @@ bool Report::save(bool overwrite)
     saveStarted(name);
     keepName();
     takeIncludeJobInfo();
-    if (!hasRoom())
+    if (!hasRoom()) {
+        saveFailed(name);
         return false;
-    prepareDocument();
+    }
     if (!checkForOverwrite(name, getSuffixForReport(), overwrite))
         return false;
+    prepareDocument();
     QStringList written;
     if (!writeFormats(name, overwrite, &written)) {
         saveFailed(name);

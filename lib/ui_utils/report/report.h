@@ -319,6 +319,7 @@ private:
     QMap<QString, UiData*> m_settings;
     std::unique_ptr<uiutils::ReportState> m_state;
     QPointer<KIVClientInterface> m_workflowClient;
+    QString m_templatePath;
     QString m_baseDirectory;
     QString m_tag;
     QString m_folder;
