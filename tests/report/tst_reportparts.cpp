@@ -323,6 +323,7 @@ private Q_SLOTS:
         QTest::newRow("no folder") << "/cust/public/reports/none/a.txt";
         QTest::newRow("a folder") << "/cust/public/reports/folder.txt";
         QTest::newRow("NUL") << QString("/cust/public/reports/a.txt") + QChar(QChar::Null) + "b";
+        QTest::newRow("NUL in the folder") << QString("/cust/public/reports/new") + QChar(QChar::Null) + "/a.txt";
         QTest::newRow("empty") << "";
     }
     void badTargets()
@@ -332,7 +333,7 @@ private Q_SLOTS:
         for (const bool compressed : {false, true}) {
             const uiutils::WrittenFile file = uiutils::writeReportFile(path, "contents", compressed);
             QVERIFY(!file.ok);
-            QVERIFY(!file.error.isEmpty());
+            QVERIFY(!file.error.isEmpty() && !file.error.contains(QChar(QChar::Null)));
             QCOMPARE(file.path, QString());
             QCOMPARE(names(), QStringList({"folder.txt", "folder.txt.gz"}));
         }
@@ -351,6 +352,7 @@ private Q_SLOTS:
         add("new.v2.html.gz", 3, 20);
         add("b.json", 2, 0);
         add("B.xml", 2, 1);
+        add("a.b.txt", 2, 1);
         add("a.txt", 2, 1);
         add("a.pdf.gz", 2, 1);
         for (const char* other : {".hidden.pdf", ".uiutils-1.tmp", ".pdf", "a.gz", "a.sor", "pdf", "a.pdf.gz.tmp"})
@@ -373,6 +375,7 @@ private Q_SLOTS:
                                     "B /cust/public/reports/B.xml XML 1 2 false",
                                     "a /cust/public/reports/a.pdf.gz PDF 1 2 true",
                                     "a /cust/public/reports/a.txt TEXT 1 2 false",
+                                    "a.b /cust/public/reports/a.b.txt TEXT 1 2 false",
                                     "b /cust/public/reports/b.json JSON 0 2 false",
                                     "linked /cust/public/reports/linked.pdf PDF 10 1 false",
                                     "old /cust/public/reports/old.pdf PDF 10 1 false"}));

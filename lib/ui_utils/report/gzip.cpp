@@ -55,7 +55,7 @@ QByteArray quoted(const QString& path)
 
 bool run(const char* command, const QString& place)
 {
-    // The shell would take what stands before a NUL for the whole name.
+    // The shell would see the word up to there, without its second quote.
     if (place.contains(QChar(QChar::Null)))
         return false;
     const ChildrenReport children;

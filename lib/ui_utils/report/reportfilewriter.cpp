@@ -80,7 +80,7 @@ WrittenFile writeAsItIs(const QString& path, const QByteArray& contents)
 
 WrittenFile writeReportFile(const QString& path, const QByteArray& contents, bool compressed)
 {
-    // Paths that the system would read otherwise are refused there, in words.
+    // What no path may hold is refused there, in words that can be shown.
     if (!compressed || path.contains(QChar(QChar::Null)))
         return writeAsItIs(path, contents);
     QString error;
