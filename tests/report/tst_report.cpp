@@ -1,11 +1,10 @@
-#include "report/overwritegate_p.h"
+#include "module/uiutilsmodule.h"
 #include "report/report.h"
 #include "report/reportnaming_p.h"
 #include "report/reportsettingsstore_p.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
-#include <kiv/filesystemusage.h>
 #include <kiv/kivnotificationmodelmanager.h>
 
 #include <QDir>
@@ -13,6 +12,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMetaMethod>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -20,6 +22,7 @@
 #include <csignal>
 #include <functional>
 #include <memory>
+#include <sys/mount.h>
 #include <sys/resource.h>
 
 using Setter = std::function<void(Report&)>;
@@ -39,7 +42,8 @@ KIVNotificationModelManager* manager()
 bool writeFile(const QString& path, const QByteArray& contents)
 {
     QFile file(path);
-    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
+    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly)
+            && file.write(contents) == contents.size();
 }
 
 QByteArray contentsOf(const QString& path)
@@ -88,8 +92,10 @@ public:
     QString json;
     QByteArray pages = "%PDF-";
     QStringList calls;
+    bool keepsName = true;
 
 protected:
+    bool keepsReportName() override { return keepsName; }
     void saveStarted(const QString&) override { calls << "started"; }
     void prepareDocument() override { calls << "prepare"; }
     void reportWritten(const QString&) override { calls << "written"; }
@@ -107,14 +113,14 @@ public:
     {
         ::signal(SIGXFSZ, SIG_IGN);
         ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit {bytes, m_before.rlim_max};
+        const rlimit limit{bytes, m_before.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &limit);
     }
     ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
     Q_DISABLE_COPY_MOVE(FileSizeLimit)
 
 private:
-    rlimit m_before {};
+    rlimit m_before{};
 };
 
 /// Counts all notifiers of a controller, in the order of their emission.
@@ -185,9 +191,11 @@ private Q_SLOTS:
         const auto add = [](const char* name, const Setter& set, const QStringList& emissions) {
             QTest::newRow(name) << set << emissions;
         };
-        const QStringList folder {"folderChanged", "reportFilesChanged", "saveLocationChanged"};
-        add("tag", [](Report& r) { r.setTag("x"); }, QStringList("tagChanged") + folder);
-        add("folder", [](Report& r) { r.setFolder("x"); }, folder);
+        const QStringList folder{"folderChanged", "reportFilesChanged", "saveLocationChanged"};
+        add(
+                "tag", [](Report& r) { r.setTag("x"); }, QStringList("tagChanged") + folder);
+        add(
+                "folder", [](Report& r) { r.setFolder("x"); }, folder);
         add("title", [](Report& r) { r.setTitle("x"); }, {"titleChanged"});
         add("subject", [](Report& r) { r.setSubject("x"); }, {"subjectChanged"});
         add("orientation", [](Report& r) { r.setOrientation("landscape"); }, {"orientationChanged"});
@@ -216,7 +224,8 @@ private Q_SLOTS:
         Report report;
         QCOMPARE(report.getOrientation(), QString("portrait"));
         QCOMPARE(report.getTitle(), QString());
-        writeTemplate("a.json", ", 'title': 'Template', 'subject': 'S', 'orientation': 'landscape', "
+        writeTemplate("a.json",
+                ", 'title': 'Template', 'subject': 'S', 'orientation': 'landscape', "
                 "'canWriteToFile': 'true', 'canWriteToJobManager': 'true'");
         Emissions emissions(report);
         report.setTemplatePath("/cust/a.json");
@@ -284,18 +293,28 @@ private Q_SLOTS:
         QTest::addColumn<bool>("isAccepted");
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("folder");
-        QTest::newRow("one") << "a" << true << "a.pdf" << "a/";
+        QTest::newRow("one") << "a" << true << "a.pdf"
+                             << "a/";
         QTest::newRow("50") << QString(50, 'a') << true << QString(50, 'a') + ".pdf" << QString(50, 'a') + "/";
         QTest::newRow("51") << QString(51, 'a') << false << QString(51, 'a') + ".pdf" << QString(51, 'a') + "/";
-        QTest::newRow("dots") << ".." << true << "_.pdf" << "_/";
-        QTest::newRow("more dots") << "..." << true << "....pdf" << ".../";
-        QTest::newRow("climbing") << "../x" << false << ".._x.pdf" << "_/x/";
-        QTest::newRow("climbing inside") << "x/../../y" << false << "x_.._.._y.pdf" << "x/_/_/y/";
-        QTest::newRow("from the root") << "/etc" << false << "_etc.pdf" << "etc/";
-        QTest::newRow("line feed") << "a\nb" << true << "a_b.pdf" << "a_b/";
-        QTest::newRow("control") << QString::fromLatin1("a\0\x1b\x7f", 4) << false << "a___.pdf" << "a___/";
-        QTest::newRow("suffixed") << "a.pdf" << true << "a.pdf" << "a.pdf/";
-        QTest::newRow("other case") << "a.PDF" << true << "a.PDF.pdf" << "a.PDF/";
+        QTest::newRow("dots") << ".." << true << "_.pdf"
+                              << "_/";
+        QTest::newRow("more dots") << "..." << true << "....pdf"
+                                   << ".../";
+        QTest::newRow("climbing") << "../x" << false << ".._x.pdf"
+                                  << "_/x/";
+        QTest::newRow("climbing inside") << "x/../../y" << false << "x_.._.._y.pdf"
+                                         << "x/_/_/y/";
+        QTest::newRow("from the root") << "/etc" << false << "_etc.pdf"
+                                       << "etc/";
+        QTest::newRow("line feed") << "a\nb" << true << "a_b.pdf"
+                                   << "a_b/";
+        QTest::newRow("control") << QString::fromLatin1("a\0\x1b\x7f", 4) << false << "a___.pdf"
+                                 << "a___/";
+        QTest::newRow("suffixed") << "a.pdf" << true << "a.pdf"
+                                  << "a.pdf/";
+        QTest::newRow("other case") << "a.PDF" << true << "a.PDF.pdf"
+                                    << "a.PDF/";
         QTest::newRow("letters") << QString::fromUtf8("Größe 1") << true << QString::fromUtf8("Größe 1.pdf")
                                  << QString::fromUtf8("Größe 1/");
     }
@@ -329,7 +348,7 @@ private Q_SLOTS:
         for (int format = -1; format <= 6; ++format) {
             report.getSetting("reportFormat")->setValue(format);
             suffixes << report.getSuffixForReport();
-            const QVector<bool> answers {
+            const QVector<bool> answers{
                     report.isPDF(), report.isXml(), report.isHtml(), report.isText(), report.isJson(), report.isAll()};
             QCOMPARE(answers.indexOf(true), format > 5 ? -1 : format);
             QCOMPARE(answers.count(true), format < 0 || format > 5 ? 0 : 1);
@@ -373,9 +392,10 @@ private Q_SLOTS:
         QTest::newRow("list") << QByteArray("[1]") << parse.arg("the file holds no object") << "";
         QTest::newRow("huge") << QByteArray(uiutils::largestReportSettings + 1, ' ') << parse.arg("the file is too large")
                               << "";
-        QTest::newRow("wrong shapes") << json("{'reportName': {}, 'reportFormat': '1', 'reportSync_SS': 7}")
-                                      << "" << "";
-        QTest::newRow("forbidden values") << json("{'reportName': '../x', 'reportFormat': 99}") << "" << "";
+        QTest::newRow("wrong shapes") << json("{'reportName': {}, 'reportFormat': '1', 'reportSync_SS': 7}") << ""
+                                      << "";
+        QTest::newRow("forbidden values") << json("{'reportName': '../x', 'reportFormat': 99}") << ""
+                                          << "";
         QTest::newRow("halves and strangers") << json("{'reportFormat': 1.5, 'x': 1, 'reportName': 'ok'}") << ""
                                               << "ok";
     }
@@ -476,8 +496,7 @@ private Q_SLOTS:
         QCOMPARE(contentsOf(path), QByteArray("größer"));
         QVERIFY(manager()->currentDialog());
         QCOMPARE(manager()->waitingDialogs(), 0);
-        QCOMPARE(manager()->currentDialog()->msg(),
-                QString("Do you want to overwrite report Internal:/reports/a.txt?"));
+        QCOMPARE(manager()->currentDialog()->msg(), QString("Do you want to overwrite report Internal:/reports/a.txt?"));
         manager()->reject();
         QCOMPARE(accepted.count(), 0);
         QCOMPARE(report.calls.count("declined"), 1);
@@ -572,6 +591,48 @@ private Q_SLOTS:
         QCOMPARE(names("/cust/public/reports/f").size(), obstacle == "full" || obstacle == "folder" ? 1 : 0);
     }
 
+    void fullDrivesAreToldBeforehand()
+    {
+        const QByteArray stick = QFile::encodeName(onDisk("/mnt/usb"));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        if (::mount("none", stick.constData(), "tmpfs", 0, "size=256k") != 0)
+            QSKIP("Only those who may mount a drive can fill one.");
+        const auto unmount = qScopeGuard([&] { ::umount2(stick.constData(), MNT_DETACH); });
+        QVERIFY(writeFile(onDisk("/mnt/usb/half"), QByteArray(128 * 1024, 'x')));
+        Controller report;
+        report.setUp("a", 3);
+        const double used = report.percentageFileSystemUsed("/mnt/usb/not/there");
+        QVERIFY2(used > 49 && used < 55, qPrintable(QString::number(used)));
+        for (int location : {1, 2}) {
+            QVERIFY(basemgr()->setValue(locationItem, location));
+            QVERIFY(basemgr()->setValue(usbItem, true));
+            QVERIFY(!report.save());
+            QVERIFY(!report.save());
+            QCOMPARE(manager()->currentDialog()->longLabel(), QString("Not Enough Space"));
+            QCOMPARE(manager()->waitingDialogs(), 0);
+            QCOMPARE(report.calls.constLast(), QString("failed"));
+            QVERIFY(!QFile::exists(onDisk("/cust/public/reports/a.txt")) && names("/mnt/usb").size() == 1);
+            // Without a stick nothing goes there.
+            QVERIFY(basemgr()->setValue(usbItem, false));
+            QVERIFY(report.save());
+            QVERIFY(QFile::remove(onDisk("/cust/public/reports/a.txt")));
+        }
+    }
+
+    void platformKeepsTheName()
+    {
+        int kept = 0;
+        const auto count = [&kept](const QString&, QString*) { return ++kept > 0; };
+        QVERIFY(basemgr()->setActionHandler(":action:basemgr:system:report_update_name_configs:", count));
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(report.save());
+        QCOMPARE(kept, 1);
+        report.keepsName = false;
+        QVERIFY(report.save(true));
+        QCOMPARE(kept, 1);
+    }
+
     void syncChoiceIsRecorded()
     {
         Controller report;
@@ -599,7 +660,8 @@ private Q_SLOTS:
     void viewerIsStarted()
     {
         const QString viewer = onDisk("/base/bin/pdf_viewer");
-        QVERIFY(writeFile(viewer, "#!/bin/sh\nprintf '%s\\n' \"$PWD\" \"$@\" > arguments.part\nmv arguments.part arguments\n"));
+        QVERIFY(writeFile(
+                viewer, "#!/bin/sh\nprintf '%s\\n' \"$PWD\" \"$@\" > arguments.part\nmv arguments.part arguments\n"));
         QVERIFY(QFile::setPermissions(viewer, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         QVERIFY(QDir().mkpath(onDisk("/base/qml/pdf_viewer")));
         Report report;
@@ -609,8 +671,38 @@ private Q_SLOTS:
         const QString arguments = onDisk("/base/qml/pdf_viewer/arguments");
         QTRY_VERIFY(QFile::exists(arguments));
         QCOMPARE(QString::fromUtf8(contentsOf(arguments)).split('\n'),
-                QStringList({onDisk("/base/qml/pdf_viewer"), "-plugin", "EvdevTouch:/dev/input/event1", "--dpy", "85", "-s",
-                        onDisk("/cust/a b.pdf.gz"), "-t", "View Report", ""}));
+                QStringList({onDisk("/base/qml/pdf_viewer"), "-plugin", "EvdevTouch:/dev/input/event1", "--dpy", "85",
+                        "-s", onDisk("/cust/a b.pdf.gz"), "-t", "View Report", ""}));
+    }
+
+    void aPageSaves()
+    {
+        uiutils::registerTypes("UiUtils");
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData(R"(
+            import QtQml 2.15
+            import UiUtils 1.0
+            Report {
+                folder: "page"
+                property string saved
+                property string label: settings.reportFormat.label
+                onReportGenerated: saved = filename
+                Component.onCompleted: {
+                    getSetting("reportName").value = "q"
+                    getSetting("reportFormat").value = 1
+                    startPossibleSave()
+                    save()
+                    gc()
+                }
+            }
+        )",
+                QUrl());
+        const std::unique_ptr<QObject> page(component.create());
+        QVERIFY2(page, qPrintable(component.errorString()));
+        QCOMPARE(page->property("saved").toString(), QString("/cust/public/reports/page/q.xml"));
+        QCOMPARE(page->property("label").toString(), QString("Format"));
+        QVERIFY(page->findChild<StringUiData*>());
     }
 
     void builtInPagesAndMarkup()

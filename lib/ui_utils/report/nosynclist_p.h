@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-/// The reports that the cloud leaves alone: instrument paths of the files, each with that of the record kept of it, which
-/// has "json" in place of the last suffix.
+/// The reports that the cloud leaves alone: instrument paths of the files, each with that of the record kept of it,
+/// which has "json" in place of the last suffix.
 namespace uiutils {
 
 /// The list as it is stored; empty without one.

@@ -17,8 +17,8 @@ public:
     ~OverwriteGate() = default;
     Q_DISABLE_COPY_MOVE(OverwriteGate)
 
-    /// The first of the instrument paths at which something lies; with `compressed` behind it ".gz" counts, too. Empty when
-    /// all are free.
+    /// The first of the instrument paths at which something lies; with `compressed` behind it ".gz" counts, too. Empty
+    /// when all are free.
     static QString firstTaken(const QStringList& paths, bool compressed);
 
     /// Asks for the report at `path`, which is pending until the answer.

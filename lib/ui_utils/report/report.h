@@ -205,7 +205,8 @@ public:
     Q_INVOKABLE bool writeToJobManager();
     /// How much of the file system at `path` is in use, 0 to 100.
     Q_INVOKABLE double percentageFileSystemUsed(const QString& path = QStringLiteral("/cust/public/reports/"));
-    /// Opens a PDF report in the instrument's viewer, the one saved last for an empty path; nothing happens for other files.
+    /// Opens a PDF report in the instrument's viewer, the one saved last for an empty path; nothing happens for other
+    /// files.
     Q_INVOKABLE void showPDF(const QString& path);
     /// The file of a saved report, given its name with or without suffix, the newest of several; empty without one.
     Q_INVOKABLE QString getOpenReportPath(const QString& nm);
@@ -218,8 +219,8 @@ public:
 
     /// Where the report `name` goes now, with `suffix` behind it unless it ends so. Makes the folder.
     virtual QString getSaveFilePath(const QString& name, const QString& suffix);
-    /// Writes a text as UTF-8, compressed if enabled, and tells the user. `path` has the suffix on it. A file that exists,
-    /// compressed or not, is not written but asked for, unless `overwrite`.
+    /// Writes a text as UTF-8, compressed if enabled, and tells the user. `path` has the suffix on it. A file that
+    /// exists, compressed or not, is not written but asked for, unless `overwrite`.
     virtual bool writeTextReport(const QString& path, const QString& text, const QString& suffix, bool overwrite);
 
 protected:
