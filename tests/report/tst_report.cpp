@@ -673,6 +673,11 @@ private Q_SLOTS:
         QCOMPARE(QString::fromUtf8(contentsOf(arguments)).split('\n'),
                 QStringList({onDisk("/base/qml/pdf_viewer"), "-plugin", "EvdevTouch:/dev/input/event1", "--dpy", "85",
                         "-s", onDisk("/cust/a b.pdf.gz"), "-t", "View Report", ""}));
+        QVERIFY(QFile::remove(arguments));
+        report.setTitle("Shown again");
+        report.showPDF("");
+        QTRY_VERIFY(QFile::exists(arguments));
+        QVERIFY(contentsOf(arguments).endsWith("/cust/a b.pdf.gz\n-t\nShown again\n"));
     }
 
     void aPageSaves()

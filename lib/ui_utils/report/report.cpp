@@ -626,7 +626,8 @@ bool Report::writeContents(const QString& path, const QByteArray& contents)
         qDebug("The report %s was not written: %s", qUtf8Printable(path), qUtf8Printable(file.error));
         return false;
     }
-    m_lastReport = file.path;
+    if (path.endsWith(PDF_EXTENSION))
+        m_lastPdf = file.path;
     if (path.endsWith(XML_EXTENSION) && changes(m_lastSavedXml, file.path))
         Q_EMIT lastSavedXMLChanged();
     reportWritten(file.path);
@@ -822,10 +823,11 @@ bool Report::writeToJobManager()
 
 void Report::showPDF(const QString& path)
 {
-    const QString shown = path.isEmpty() ? m_lastReport : path;
+    const QString shown = path.isEmpty() ? m_lastPdf : path;
     const QString windowTitle = path.isEmpty() ? getTitle() : tr("View Report");
     if (!shown.endsWith(PDF_EXTENSION) && !shown.endsWith(PDF_EXTENSION + GZIP_EXTENSION))
         return;
+    m_lastPdf = shown;
     QStringList arguments = QStringLiteral("-plugin EvdevTouch:/dev/input/event1 --dpy 85 -s").split(QLatin1Char(' '));
     arguments << onDisk(shown) << QStringLiteral("-t") << windowTitle;
     QProcess::startDetached(onDisk(uiutils::paths::pdfViewer), arguments, onDisk(uiutils::paths::pdfViewerFolder));

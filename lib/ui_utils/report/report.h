@@ -205,8 +205,8 @@ public:
     Q_INVOKABLE bool writeToJobManager();
     /// How much of the file system at `path` is in use, 0 to 100.
     Q_INVOKABLE double percentageFileSystemUsed(const QString& path = QStringLiteral("/cust/public/reports/"));
-    /// Opens a PDF report in the instrument's viewer, the one saved last for an empty path; nothing happens for other
-    /// files.
+    /// Opens a PDF report in the instrument's viewer, the one saved or shown last for an empty path; nothing happens
+    /// for other files.
     Q_INVOKABLE void showPDF(const QString& path);
     /// The file of a saved report, given its name with or without suffix, the newest of several; empty without one.
     Q_INVOKABLE QString getOpenReportPath(const QString& nm);
@@ -341,7 +341,7 @@ private:
     QString m_cdmTestLabel;
     QString m_jobSchema;
     QString m_lastSavedXml;
-    QString m_lastReport;
+    QString m_lastPdf;
     QStringList m_screenshots;
     QStringList m_syncedReports;
     QStringList m_unsyncedReports;
