@@ -520,6 +520,8 @@ void Report::handOnSwitches(Writer& writer) const
     writer.setAttribute(QStringLiteral("title"), getTitle());
     writer.setAttribute(QStringLiteral("logo"), QString(uiutils::paths::logo));
     writer.setAttribute(QStringLiteral("orientation"), getOrientation());
+    for (auto it = m_writerAttributes.cbegin(); it != m_writerAttributes.cend(); ++it)
+        writer.setAttribute(it.key(), it.value());
 }
 
 void Report::setHtmlWriterAttributes(TemplateToHtmlWriter& writer) const

@@ -258,7 +258,9 @@ protected:
     void saveSettings();
     /// The pages as the library prints them; empty when that fails.
     QByteArray generateDefaultPDFReport();
-    /// Hands the switches of this object on to a writer.
+    /// Sets a switch of the HTML writer and of the pages for all saves to come; it wins over those of this object.
+    void setWriterAttribute(const QString& name, const QVariant& value) { m_writerAttributes.insert(name, value); }
+    /// Hands the switches of this object on to a writer, and those of setWriterAttribute().
     void setHtmlWriterAttributes(TemplateToHtmlWriter& writer) const;
     /// True when the report may be written; otherwise the user is being asked.
     bool checkForOverwrite(const QString& name, const QString& suffix, bool overwrite);
@@ -343,6 +345,7 @@ private:
     QString m_lastSavedXml;
     QString m_lastPdf;
     QStringList m_screenshots;
+    QVariantMap m_writerAttributes;
     QStringList m_syncedReports;
     QStringList m_unsyncedReports;
 };
