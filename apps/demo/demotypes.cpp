@@ -2,7 +2,7 @@
 
 #include "itementry.h"
 #include "loopbackmeasurement.h"
-#include "reportsaver.h"
+#include "loopbackreport.h"
 #include "samplemodel.h"
 
 #include <QUrl>
@@ -15,7 +15,7 @@ void registerDemoTypes()
     const char* const uri = "UiUtils.Demo";
     qmlRegisterType<ItemEntry>(uri, 1, 0, "ItemEntry");
     qmlRegisterType<LoopbackMeasurement>(uri, 1, 0, "LoopbackMeasurement");
-    qmlRegisterType<ReportSaver>(uri, 1, 0, "ReportSaver");
+    qmlRegisterType<LoopbackReport>(uri, 1, 0, "LoopbackReport");
     qmlRegisterUncreatableType<SampleModel>(
             uri, 1, 0, "SampleModel", QStringLiteral("A SampleModel comes from a LoopbackMeasurement"));
     qmlRegisterSingletonType(QUrl(QStringLiteral("qrc:/uiutils/demo/Theme.qml")), uri, 1, 0, "Theme");

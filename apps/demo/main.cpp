@@ -5,8 +5,8 @@
 #include "demotypes.h"
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
+#include "loopbackreport.h"
 #include "measurementsettings.h"
-#include "reportsaver.h"
 #include "resultpublisher.h"
 #include "tour.h"
 
@@ -41,10 +41,9 @@ void list(const QString& heading, const QStringList& files)
 }
 
 /// The main window, or null when its page cannot be loaded.
-QQuickWindow* openWindow(QQmlApplicationEngine& engine, LoopbackMeasurement* measurement, ReportSaver* saver)
+QQuickWindow* openWindow(QQmlApplicationEngine& engine, LoopbackMeasurement* measurement)
 {
-    engine.setInitialProperties({{QStringLiteral("measurement"), QVariant::fromValue(measurement)},
-            {QStringLiteral("saver"), QVariant::fromValue(saver)}});
+    engine.setInitialProperties({{QStringLiteral("measurement"), QVariant::fromValue(measurement)}});
     engine.load(QUrl(QStringLiteral("qrc:/uiutils/demo/Main.qml")));
     return engine.rootObjects().isEmpty() ? nullptr
                                           : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
@@ -86,20 +85,21 @@ int runDemo(const DemoOptions& options)
     if (options.samples > 0)
         measurement.setSamples(options.samples);
     publishResults(&measurement, &backend);
-    ReportSaver saver;
     uiutils::apps::Instrument instrument(backend);
     QQmlApplicationEngine engine;
     instrument.showTo(&engine);
-    QQuickWindow* const window = openWindow(engine, &measurement, &saver);
+    QQuickWindow* const window = openWindow(engine, &measurement);
     if (!window)
         return complain(QCoreApplication::translate("main",
                 "The main page could not be loaded, for the reason given above. Check that the QML modules "
                 "QtQuick, "
                 "QtQuick.Controls, QtQuick.Layouts and QtQuick.Window are installed."));
 
-    Tour tour(window, &measurement, options.root + QStringLiteral("/pictures/"));
+    auto* const report = window->property("report").value<LoopbackReport*>();
+    report->keepFirstSettings();
+    Tour tour(window, &measurement, report, options.root + QStringLiteral("/pictures/"));
     const int exitCode = options.isTour || isOffScreen ? runTour(tour) : QCoreApplication::exec();
-    list(QCoreApplication::translate("main", "Reports:"), saver.files());
+    list(QCoreApplication::translate("main", "Reports:"), report->savedFiles());
     list(QCoreApplication::translate("main", "Pictures:"), tour.pictures());
     return exitCode;
 }

@@ -3,6 +3,10 @@
 #include "core/durablefile.h"
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
+#include "loopbackreport.h"
+#include "report/nsreport.h"
+
+#include <kiv/kivnotificationmodelmanager.h>
 
 #include <QBuffer>
 #include <QImage>
@@ -19,6 +23,22 @@ namespace {
 /// Time in which a window that is drawn at all has drawn a picture, in milliseconds.
 constexpr int picturePatience = 20000;
 
+const QString formatSetting = QStringLiteral("reportFormat");
+
+/// What the user is told or asked now; empty when nothing is.
+QString openDialogText()
+{
+    const KIVNotification* const dialog = KIVNotificationModelManager::instance()->currentDialog();
+    return dialog ? dialog->msg() : QString();
+}
+
+void closeDialogs()
+{
+    KIVNotificationModelManager* const dialogs = KIVNotificationModelManager::instance();
+    while (dialogs->currentDialog())
+        dialogs->reject();
+}
+
 /// The image as PNG; empty when there is no image.
 QByteArray pngOf(const QImage& image)
 {
@@ -30,9 +50,10 @@ QByteArray pngOf(const QImage& image)
 
 } // namespace
 
-Tour::Tour(QQuickWindow* window, LoopbackMeasurement* measurement, const QString& pictures)
+Tour::Tour(QQuickWindow* window, LoopbackMeasurement* measurement, LoopbackReport* report, const QString& pictures)
     : m_window(window)
     , m_measurement(measurement)
+    , m_report(report)
     , m_folder(pictures)
 {
     m_patience.setSingleShot(true);
@@ -73,7 +94,8 @@ void Tour::visitAll()
     visit({SettingsPage, QStringLiteral("4-changing"), &Tour::changeSettings});
     visit({SettingsPage, QStringLiteral("5-settings"), &Tour::applySettings});
     visit({ReportPage, QStringLiteral("6-report"), &Tour::saveReport});
-    visit({GalleryPage, QStringLiteral("7-entries")});
+    visit({ReportPage, QStringLiteral("7-question"), &Tour::saveAgain});
+    visit({GalleryPage, QStringLiteral("8-entries"), &Tour::leaveQuestion});
 }
 
 void Tour::visit(const Stop& stop)
@@ -142,7 +164,42 @@ void Tour::keepPicture(const QString& path)
 
 bool Tour::saveReport()
 {
-    return doOnPage("saveReport");
+    KivData* const format = m_report->getSetting(formatSetting);
+    m_formatBefore = format->getValue();
+    format->setValue(int(NSReport::REPORT_FORMAT_ALL));
+    bool isSaved = false;
+    if (!pressSave(&isSaved))
+        return false;
+    if (!isSaved)
+        fail(tr("The report was not saved. %1").arg(openDialogText()));
+    return isSaved;
+}
+
+bool Tour::saveAgain()
+{
+    bool isSaved = false;
+    if (!pressSave(&isSaved))
+        return false;
+    const KIVNotification* const question = KIVNotificationModelManager::instance()->currentDialog();
+    if (!isSaved && question && question->kind() == KIVNotification::Request)
+        return true;
+    fail(tr("A report that exists was to be saved again, and nobody was asked."));
+    return false;
+}
+
+bool Tour::leaveQuestion()
+{
+    closeDialogs();
+    return true;
+}
+
+bool Tour::pressSave(bool* isSaved)
+{
+    QVariant saved;
+    if (!QMetaObject::invokeMethod(m_window, "saveReport", Q_RETURN_ARG(QVariant, saved)))
+        return failAsForeign();
+    *isSaved = saved.toBool();
+    return true;
 }
 
 bool Tour::changeSettings()
@@ -158,6 +215,10 @@ bool Tour::applySettings()
 
 bool Tour::restoreSettings()
 {
+    if (m_formatBefore.isValid()) {
+        m_report->getSetting(formatSetting)->setValue(std::exchange(m_formatBefore, {}));
+        m_report->keepSettings();
+    }
     const QMap<QString, QString> before = std::exchange(m_before, {});
     for (auto it = before.cbegin(); it != before.cend(); ++it) {
         if (!enter(it.key(), it.value()))

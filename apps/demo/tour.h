@@ -12,6 +12,7 @@
 namespace uiutils::demo {
 
 class LoopbackMeasurement;
+class LoopbackReport;
 
 /// Uses the demo the way a user does, by itself: measures, looks at each page, tries out settings, saves the report.
 ///
@@ -23,7 +24,7 @@ class Tour : public QObject
 
 public:
     /// `window` is the loaded main page; `pictures` the folder of the pictures, with a "/" at its end.
-    Tour(QQuickWindow* window, LoopbackMeasurement* measurement, const QString& pictures);
+    Tour(QQuickWindow* window, LoopbackMeasurement* measurement, LoopbackReport* report, const QString& pictures);
 
     /// The pictures written so far.
     QStringList pictures() const { return m_pictures; }
@@ -54,6 +55,10 @@ private:
     void takePicture(const QString& name);
     void keepPicture(const QString& path);
     bool saveReport();
+    /// Saves once more, which the demo asks about first.
+    bool saveAgain();
+    /// Answers no, and closes whatever else has come up.
+    bool leaveQuestion();
     bool changeSettings();
     bool applySettings();
     /// Gives the settings back what they were before the tour; the tour is the user's guest.
@@ -61,16 +66,21 @@ private:
     bool enter(const QString& setting, const QString& text);
     /// Calls a function of the main page that gives what went wrong.
     bool doOnPage(const char* function);
+    /// Presses Save on the report page; false when there is none.
+    bool pressSave(bool* isSaved);
     bool failAsForeign();
     void fail(const QString& text);
 
     QQuickWindow* const m_window;
     LoopbackMeasurement* const m_measurement;
+    LoopbackReport* const m_report;
     const QString m_folder;
     QStringList m_pictures;
     QQueue<Stop> m_stops;
     /// What the fields showed before the tour, by the settings' ids.
     QMap<QString, QString> m_before;
+    /// The format that was chosen before the tour; invalid until it saves.
+    QVariant m_formatBefore;
     /// The picture under way; null between pictures.
     QSharedPointer<QQuickItemGrabResult> m_grab;
     /// Runs while a picture is under way.

@@ -2,14 +2,15 @@
 #include "core/paths.h"
 #include "demotypes.h"
 #include "loopbackmeasurement.h"
+#include "loopbackreport.h"
 #include "measurementsettings.h"
-#include "reportsaver.h"
 #include "service/kivdata.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
+#include <kiv/kivnotificationmodelmanager.h>
 
 #include <QQmlApplicationEngine>
 #include <QQuickItem>
@@ -84,6 +85,7 @@ private Q_SLOTS:
     void cleanup()
     {
         endProgram();
+        KIVNotificationModelManager::instance()->clear();
         QCOMPARE(m_warnings, QStringList());
     }
 
@@ -102,9 +104,16 @@ private Q_SLOTS:
         QCOMPARE(m_window->property("page").toInt(), 2);
         focusButton("Save");
         QTest::keyClick(m_window, Qt::Key_Space);
-        QCOMPARE(m_saver->errorText(), QString());
-        QCOMPARE(m_saver->files().size(), 4);
-        QVERIFY(QFile::exists(m_saver->files().constFirst()));
+        QCOMPARE(m_report->savedFiles().size(), 1);
+        QVERIFY(QFile::exists(m_report->savedFiles().constFirst()));
+
+        // Asked before the file is overwritten, and back on the page with the answer.
+        QTest::keyClick(m_window, Qt::Key_Space);
+        const KIVNotificationModelManager* const notifications = KIVNotificationModelManager::instance();
+        QVERIFY(notifications->currentDialog());
+        // Keys that come at once may have been meant for the page.
+        QTRY_VERIFY((QTest::keyClick(m_window, Qt::Key_Escape), !notifications->currentDialog()));
+        QTRY_VERIFY(button("Save")->hasActiveFocus());
     }
 
     void fingerChangesLimit()
@@ -363,22 +372,7 @@ private Q_SLOTS:
         m_window->setProperty("page", 2);
         QVERIFY(!button("Save")->isEnabled());
         QTest::keyClick(m_window, Qt::Key_Space);
-        QVERIFY(m_saver->files().isEmpty());
-    }
-
-    void failedSaveIsToldInWords()
-    {
-        measure();
-        QVERIFY(QDir().mkpath(m_saver->folder() + "taken.json"));
-        QQuickItem* const name = firstItem([](const QQuickItem* item) {
-            return item->inherits("QQuickTextField") && textOf(item).startsWith("loopback_");
-        });
-        name->setProperty("text", "taken");
-        m_window->setProperty("page", 2);
-        focusButton("Save");
-        QTest::keyClick(m_window, Qt::Key_Space);
-        QVERIFY(showsText(m_saver->errorText()));
-        QVERIFY(m_saver->errorText().contains("taken.json"));
+        QVERIFY(m_report->savedFiles().isEmpty());
     }
 
     /// No text is cut off, runs out of the window or over its neighbours' card, in any state of a page.
@@ -426,7 +420,6 @@ private:
         m_measurement->setPause(0);
         m_settings = std::make_unique<MeasurementSettings>(m_measurement.get(),
                 KIVClientInterface::getSessionBusClient("loopback"), MeasurementSettings::KeepSampleCounts);
-        m_saver = std::make_unique<ReportSaver>();
         m_instrument = std::make_unique<uiutils::apps::Instrument>(*m_services);
         m_engine = std::make_unique<QQmlApplicationEngine>();
         connect(m_engine.get(), &QQmlEngine::warnings, this, [this](const QList<QQmlError>& warnings) {
@@ -435,12 +428,13 @@ private:
         });
         m_warnings.clear();
         m_instrument->showTo(m_engine.get());
-        m_engine->setInitialProperties({{"measurement", QVariant::fromValue(m_measurement.get())},
-                {"saver", QVariant::fromValue(m_saver.get())}});
+        m_engine->setInitialProperties({{"measurement", QVariant::fromValue(m_measurement.get())}});
         m_engine->load(QUrl("qrc:/uiutils/demo/Main.qml"));
         QVERIFY(!m_engine->rootObjects().isEmpty());
         m_window = qobject_cast<QQuickWindow*>(m_engine->rootObjects().constFirst());
         QVERIFY(m_window);
+        m_report = m_window->property("report").value<LoopbackReport*>();
+        QVERIFY(m_report);
         m_window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(m_window));
     }
@@ -647,9 +641,9 @@ private:
     std::unique_ptr<MeasurementSettings> m_settings;
     std::unique_ptr<uiutils::apps::Instrument> m_instrument;
     std::unique_ptr<LoopbackMeasurement> m_measurement;
-    std::unique_ptr<ReportSaver> m_saver;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     QQuickWindow* m_window = nullptr;
+    LoopbackReport* m_report = nullptr;
     QStringList m_warnings;
 };
 

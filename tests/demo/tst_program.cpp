@@ -104,8 +104,8 @@ private Q_SLOTS:
 
         const QStringList reports = filesBelow(root + "/cust/public/reports");
         const QStringList pictures = filesBelow(root + "/pictures");
-        QCOMPARE(reports.size(), 4);
-        QCOMPARE(pictures.size(), 7);
+        QCOMPARE(reports.size(), 5);
+        QCOMPARE(pictures.size(), 8);
         for (const QString& file : reports + pictures)
             QVERIFY2(outcome.output.split('\n').contains(file), qPrintable(outcome.output));
         checkReport(reports.at(0), reports.at(1), samples);
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QFETCH(const QString, display);
         const Outcome outcome = runDemo({}, {{"UIUTILS_ROOT", m_folder->path()}, {"DISPLAY", display}});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
-        QCOMPARE(filesBelow(m_folder->filePath("cust/public/reports")).size(), 4);
+        QCOMPARE(filesBelow(m_folder->filePath("cust/public/reports")).size(), 5);
     }
 
     void secondTourBesideTheFirst()
@@ -202,7 +202,7 @@ private Q_SLOTS:
             const Outcome outcome = runDemo({"--tour", "--root", m_folder->path()});
             QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
             QCOMPARE(outcome.errors, QString());
-            const QString words = wordsOf(contentsOf(filesBelow(m_folder->filePath("cust/public/reports")).at(4 * run)));
+            const QString words = wordsOf(contentsOf(filesBelow(m_folder->filePath("cust/public/reports")).at(5 * run)));
             QVERIFY2(words.contains("Signe"), qPrintable(words));
             QVERIFY2(words.contains("Solheim") && !words.contains("Dahl"), qPrintable(words));
             QVERIFY2(words.contains("at most 2.00 ms"), qPrintable(words));
@@ -210,6 +210,8 @@ private Q_SLOTS:
         }
         const QJsonObject values = QJsonDocument::fromJson(contentsOf(basemgr.fileName())).object()["values"].toObject();
         QCOMPARE(values[":config:basemgr:system:userInfo_lastName:"].toString(), QString("Dahl"));
+        const QByteArray report = contentsOf(m_folder->filePath("cust/private/lastconfigs/reportSettings/loopback.json"));
+        QCOMPARE(QJsonDocument::fromJson(report).object()["reportFormat"].toInt(-1), 0);
     }
 
     /// A folder stands where the last picture should go: what was finished before is kept and named.

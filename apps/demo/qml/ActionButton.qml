@@ -13,8 +13,14 @@ Button {
     rightPadding: Theme.margin
     font { pixelSize: Theme.bodyText; bold: true }
     Accessible.name: text
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    // A key that is held down does it once.
+    Keys.onReturnPressed: pressBy(event)
+    Keys.onEnterPressed: pressBy(event)
+
+    function pressBy(event) {
+        if (!event.isAutoRepeat)
+            clicked()
+    }
 
     contentItem: Text {
         text: control.text

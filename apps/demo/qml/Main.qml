@@ -1,17 +1,19 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
+import UiUtils.Controls 1.0
 import UiUtils.Demo 1.0
 
 ApplicationWindow {
     id: window
 
     required property LoopbackMeasurement measurement
-    required property ReportSaver saver
     // The page shown: 0 Measure, 1 Results, 2 Report, 3 Settings, 4 Entries.
     property alias page: navigation.currentIndex
 
-    // Saves the report of the last run; the reason when that failed, an empty text when it did not.
+    readonly property alias report: reportPage.report
+
+    // Saves the report of the last run, as its page says; false when that asks the user or tells what is wrong.
     function saveReport() {
         return reportPage.save()
     }
@@ -91,7 +93,6 @@ ApplicationWindow {
         ReportPage {
             id: reportPage
             measurement: window.measurement
-            saver: window.saver
         }
         SettingsPage {
             id: settingsPage
@@ -106,6 +107,8 @@ ApplicationWindow {
             sourceComponent: services.optical ? galleryPage : noGallery
         }
     }
+
+    NotificationDialog {}
 
     footer: TabBar {
         id: navigation

@@ -7,11 +7,12 @@ QtObject {
     id: builder
 
     property LoopbackMeasurement measurement
-    readonly property ReportTemplate report: ReportTemplate {}
+    property ReportTemplate report
+    property string title
 
     readonly property int alignRight: 2
 
-    function build(title) {
+    function build() {
         report.beginReport("loopback_report")
         report.setKey("title", title)
         report.setKey("indent_pix", "10")

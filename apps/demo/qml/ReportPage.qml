@@ -1,42 +1,36 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
+import UiUtils 1.0
+import UiUtils.Controls 1.0
 import UiUtils.Demo 1.0
 
+// Names, saves and lists the reports of the runs. What goes wrong is told in dialogs.
 FocusScope {
     id: page
 
     property LoopbackMeasurement measurement
-    property ReportSaver saver
+    readonly property alias report: report
     readonly property bool hasResults: measurement.state === LoopbackMeasurement.Finished
-    // The files of the last save, to tell them from earlier ones.
-    property bool wasSaved: false
+    readonly property var titleItem: report.getSetting("reportTitle")
+    readonly property var nameItem: report.getSetting("reportName")
 
-    // Gives the reason when the report was not saved, and an empty text when it was.
+    // False when nothing was saved: the user is asked or told why, or the page says what is missing.
     function save() {
-        builder.build(titleField.text)
-        const flags = { 16: "pass", 32: "marginal", 64: "fail" }
-        wasSaved = saver.save(builder.report, nameField.text, { [flags[measurement.status]]: true })
-        return wasSaved ? "" : saver.errorText
+        return hasResults && titleEntry.commit() && nameEntry.commit() && report.save()
     }
 
-    // "loopback_20260131-142500": a name of its own for each run.
-    function proposedName(startTime) {
-        return "loopback_" + startTime.substring(0, 19).replace(/[-:]/g, "").replace("T", "-")
+    LoopbackReport {
+        id: report
+        measurement: page.measurement
+        tag: "loopback"
+        onContentWanted: builder.build()
+        onReportOverwriteAccepted: save(true)
     }
-
     ReportBuilder {
         id: builder
         measurement: page.measurement
-    }
-
-    Connections {
-        target: page.measurement
-
-        function onFinished() {
-            nameField.text = page.proposedName(page.measurement.startTime)
-            page.wasSaved = false
-        }
+        report: page.report.content
+        title: page.report.title
     }
 
     RowLayout {
@@ -46,59 +40,63 @@ FocusScope {
         Card {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            Layout.preferredWidth: 2
+            Layout.preferredWidth: 9
 
             ColumnLayout {
                 anchors { fill: parent; margins: Theme.margin }
-                spacing: Theme.margin
+                spacing: Theme.gap
 
                 Text {
                     text: qsTr("Save a report")
                     color: Theme.text
                     font { pixelSize: Theme.headingText; bold: true }
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
                 }
-                LabelledField {
-                    id: titleField
+                TextEntry {
+                    id: titleEntry
+                    objectName: "titleEntry"
                     Layout.fillWidth: true
-                    label: qsTr("Title on the report")
-                    text: qsTr("TCP loopback test")
-                    onAccepted: saveButton.save()
+                    item: page.titleItem
+                    rangeText: ""
                 }
-                LabelledField {
-                    id: nameField
+                FileNameEntry {
+                    id: nameEntry
+                    objectName: "nameEntry"
                     Layout.fillWidth: true
-                    label: qsTr("File name")
-                    text: "loopback"
-                    onAccepted: saveButton.save()
+                    item: page.nameItem
+                    // An empty one stands for this.
+                    placeholderText: page.hasResults ? report.proposedFileName() : ""
+                }
+                RowLayout {
+                    Layout.fillWidth: true
+                    spacing: Theme.margin
+
+                    ChoiceEntry {
+                        objectName: "formatEntry"
+                        Layout.fillWidth: true
+                        item: report.getSetting("reportFormat")
+                    }
+                    SwitchEntry {
+                        objectName: "compressionEntry"
+                        Layout.fillWidth: true
+                        item: report.getSetting("reportCompression")
+                    }
                 }
                 ActionButton {
-                    id: saveButton
-
-                    function save() {
-                        if (enabled)
-                            page.save()
-                    }
-
+                    objectName: "saveButton"
                     Layout.fillWidth: true
                     focus: true
-                    enabled: page.hasResults
+                    enabled: page.hasResults && page.titleItem.valueOk && page.nameItem.valueOk
                     text: qsTr("Save")
-                    onClicked: save()
+                    onClicked: page.save()
                 }
                 Text {
                     Layout.fillWidth: true
                     Layout.fillHeight: true
-                    text: {
-                        if (!page.hasResults)
-                            return qsTr("A report needs a finished measurement. Start one on the page Measure.")
-                        if (page.saver.errorText)
-                            return page.saver.errorText
-                        return page.wasSaved ? qsTr("The report is saved.")
-                                             : qsTr("A web page, an XML and a JSON file are written. Files of the same "
-                                                    + "name are replaced.")
-                    }
-                    color: page.hasResults && page.saver.errorText ? Theme.fail : Theme.mutedText
-                    font.pixelSize: Theme.bodyText
+                    text: page.hasResults ? "" : qsTr("First finish a measurement on the page Measure.")
+                    color: Theme.mutedText
+                    font.pixelSize: Theme.smallText
                     wrapMode: Text.Wrap
                     elide: Text.ElideRight
                     Accessible.role: Accessible.AlertMessage
@@ -106,78 +104,31 @@ FocusScope {
                 }
             }
         }
-        Card {
+        ColumnLayout {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            Layout.preferredWidth: 3
-            border { width: files.activeFocus ? 3 : 1; color: files.activeFocus ? Theme.focus : Theme.border }
+            Layout.preferredWidth: 16
+            spacing: Theme.margin
 
-            ColumnLayout {
-                anchors { fill: parent; margins: Theme.margin }
-                spacing: Theme.gap
+            Card {
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                Layout.preferredHeight: 8
 
-                Text {
-                    text: qsTr("Saved files")
-                    color: Theme.text
-                    font { pixelSize: Theme.headingText; bold: true }
+                SavedReports {
+                    anchors { fill: parent; margins: Theme.margin }
+                    report: page.report
                 }
-                ListView {
-                    id: files
-                    Layout.fillWidth: true
-                    Layout.fillHeight: true
-                    clip: true
-                    spacing: Theme.gap
+            }
+            Card {
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                Layout.preferredHeight: 5
+
+                NotificationTray {
+                    // Its heading has a button's height.
+                    anchors { fill: parent; margins: Theme.margin; topMargin: 2 }
                     activeFocusOnTab: true
-                    boundsBehavior: Flickable.StopAtBounds
-                    model: page.saver.files
-                    onCountChanged: positionViewAtEnd()
-                    Keys.onDownPressed: flick(0, -600)
-                    Keys.onUpPressed: flick(0, 600)
-                    ScrollBar.vertical: ScrollBar { policy: ScrollBar.AsNeeded }
-
-                    delegate: Rectangle {
-                        readonly property int nameStart: modelData.lastIndexOf("/") + 1
-
-                        width: files.width
-                        height: path.implicitHeight + 2 * Theme.gap
-                        radius: Theme.radius
-                        color: Theme.background
-
-                        Column {
-                            id: path
-                            anchors {
-                                left: parent.left
-                                right: parent.right
-                                verticalCenter: parent.verticalCenter
-                                margins: Theme.margin
-                            }
-                            spacing: 2
-
-                            Text {
-                                width: parent.width
-                                text: modelData.substring(nameStart)
-                                textFormat: Text.PlainText
-                                color: Theme.text
-                                font { pixelSize: Theme.bodyText; bold: true }
-                                wrapMode: Text.Wrap
-                            }
-                            Text {
-                                width: parent.width
-                                text: modelData.substring(0, nameStart)
-                                textFormat: Text.PlainText
-                                color: Theme.mutedText
-                                font.pixelSize: Theme.smallText
-                                wrapMode: Text.Wrap
-                            }
-                        }
-                    }
-
-                    EmptyNote {
-                        anchors { fill: parent; margins: Theme.margin }
-                        visible: files.count === 0
-                        text: qsTr("Nothing is saved yet. Reports will be written to\n%1").arg(page.saver.folder)
-                        wrapMode: Text.Wrap
-                    }
                 }
             }
         }

@@ -1,0 +1,172 @@
+#include "loopbackreport.h"
+
+#include "core/paths.h"
+#include "limit.h"
+#include "report/nsreport.h"
+#include "writers/templatetohtmlwriter.h"
+#include "writers/textreport.h"
+
+#include <QFile>
+
+namespace uiutils::demo {
+
+const QString LoopbackReport::titleSetting = QStringLiteral("reportTitle");
+const QString LoopbackReport::compressionSetting = QStringLiteral("reportCompression");
+
+namespace {
+
+constexpr int longestTitle = 80;
+
+/// The switches of the writers that show a status on the report.
+const struct
+{
+    QLatin1String name;
+    int status;
+} statusFlags[] = {{QLatin1String("pass"), StatusPass}, {QLatin1String("marginal"), StatusMarginal},
+        {QLatin1String("fail"), StatusFail}};
+
+/// The logo within the page itself; empty when there is none.
+QString logoUri()
+{
+    QFile file(onDisk(paths::logo));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QStringLiteral("data:image/png;base64,") + QString::fromLatin1(file.readAll().toBase64());
+}
+
+QMap<QString, QVariant> describe(const QString& name, const QString& type, const QString& label)
+{
+    return {{QStringLiteral("name"), name}, {QStringLiteral("type"), type}, {QStringLiteral("label"), label}};
+}
+
+} // namespace
+
+LoopbackReport::LoopbackReport(QObject* parent)
+    : Report(parent)
+{
+    for (const int format : {NSReport::REPORT_FORMAT_HTML, NSReport::REPORT_FORMAT_TEXT, NSReport::REPORT_FORMAT_JSON,
+                 NSReport::REPORT_FORMAT_ALL})
+        setFormatApplicable(format, true);
+    addSettings();
+    setIncludeJobInfo(true);
+    setIncludeCustomerInfo(true);
+    setWriterAttribute(QStringLiteral("includeTechnicianInfoTop"), true);
+    setWriterAttribute(QStringLiteral("plot_width"), 640);
+    setWriterAttribute(QStringLiteral("plot_height"), 320);
+}
+
+void LoopbackReport::addSettings()
+{
+    auto* title = new StringUiData;
+    QMap<QString, QVariant> attributes = describe(titleSetting, UiData::TYPE_STRING, tr("Title on the report"));
+    attributes.insert(QStringLiteral("minRange"), 0);
+    attributes.insert(QStringLiteral("maxRange"), longestTitle);
+    title->setAttributes(attributes);
+    addSetting(title);
+    auto* compression = new BoolUiData;
+    compression->setAttributes(describe(compressionSetting, UiData::TYPE_BOOL, tr("Compressed")));
+    addSetting(compression);
+
+    connect(title, &KivData::valueChanged, this, &LoopbackReport::takeSettings);
+    connect(compression, &KivData::valueChanged, this, &LoopbackReport::takeSettings);
+    title->setValue(tr("TCP loopback test"));
+    compression->setValue(false);
+}
+
+void LoopbackReport::takeSettings()
+{
+    setTitle(getSetting(titleSetting)->getValue().toString());
+    setCompressionEnabled(getSetting(compressionSetting)->getValue().toBool());
+}
+
+void LoopbackReport::setMeasurement(LoopbackMeasurement* measurement)
+{
+    if (measurement == m_measurement)
+        return;
+    if (m_measurement)
+        m_measurement->disconnect(this);
+    m_measurement = measurement;
+    if (measurement)
+        connect(measurement, &LoopbackMeasurement::finished, this, &LoopbackReport::proposeName);
+    Q_EMIT measurementChanged();
+}
+
+bool LoopbackReport::hasResults() const
+{
+    return m_measurement && m_measurement->state() == LoopbackMeasurement::Finished;
+}
+
+/// A name that was stored belongs to a run before.
+void LoopbackReport::settingsLoaded()
+{
+    proposeName();
+}
+
+void LoopbackReport::proposeName()
+{
+    if (hasResults())
+        getSetting(QStringLiteral("reportName"))->setValue(proposedFileName());
+}
+
+QString LoopbackReport::proposedFileName()
+{
+    const QString time = m_measurement ? m_measurement->startTime() : QString();
+    const QDateTime start = QDateTime::fromString(time, Qt::ISODate);
+    const QString stem = QStringLiteral("loopback");
+    return start.isValid() ? stem + start.toString(QStringLiteral("_yyyyMMdd-hhmmss")) : stem;
+}
+
+bool LoopbackReport::save(bool overwrite)
+{
+    setNotifiesTray(!isAll());
+    const bool isSaved = Report::save(overwrite);
+    setNotifiesTray(true);
+    return isSaved;
+}
+
+/// The last one of a save in all formats.
+bool LoopbackReport::writeJsonReport(const QString& path, bool overwrite)
+{
+    setNotifiesTray(true);
+    return Report::writeJsonReport(path, overwrite);
+}
+
+void LoopbackReport::keepFirstSettings()
+{
+    if (!QFile::exists(onDisk(paths::reportSettings + getFolder() + QStringLiteral(".json"))))
+        keepSettings();
+}
+
+void LoopbackReport::prepareDocument()
+{
+    Q_EMIT contentWanted();
+    // Of the last save, the others.
+    for (const auto& flag : statusFlags)
+        setWriterAttribute(flag.name, hasResults() && m_measurement->status() == flag.status);
+}
+
+void LoopbackReport::reportWritten(const QString& path)
+{
+    m_savedFiles += onDisk(path);
+    m_savedFiles.removeDuplicates();
+}
+
+QString LoopbackReport::generateTxtReport()
+{
+    return reportText(document());
+}
+
+QString LoopbackReport::generateJsonReport()
+{
+    return reportJson(document());
+}
+
+QString LoopbackReport::generateHtmlReport()
+{
+    TemplateToHtmlWriter writer(document(), nullptr);
+    setHtmlWriterAttributes(writer);
+    writer.setAttribute(QStringLiteral("logo"), logoUri());
+    return writer.getHtml();
+}
+
+} // namespace uiutils::demo

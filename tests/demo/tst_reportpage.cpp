@@ -1,0 +1,130 @@
+#include "common/instrument.h"
+#include "core/durablefile.h"
+#include "core/paths.h"
+#include "demotypes.h"
+#include "instrumentroot.h"
+#include "loopbackmeasurement.h"
+
+#include <embedded/embeddedbackend.h>
+
+#include <QDir>
+#include <QFile>
+#include <QLocale>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlError>
+#include <QTemporaryDir>
+#include <QtQuickTest>
+
+#include <csignal>
+#include <memory>
+#include <sys/resource.h>
+
+using namespace uiutils;
+using namespace uiutils::demo;
+
+/// The instrument's side, for the page under test.
+class Driver : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(uiutils::demo::LoopbackMeasurement* measurement READ measurement CONSTANT)
+
+public:
+    Driver()
+    {
+        m_measurement.setPause(0);
+        m_measurement.setSamples(LoopbackMeasurement::fewestSamples);
+        ::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_freeDisk);
+    }
+
+    LoopbackMeasurement* measurement() { return &m_measurement; }
+
+    /// An instrument without reports and settings.
+    Q_INVOKABLE void reset()
+    {
+        m_root = std::make_unique<QTemporaryDir>();
+        qputenv("UIUTILS_ROOT", m_root->path().toLocal8Bit());
+        QString error;
+        if (!prepareInstrumentRoot(m_root->path(), &error) || !makeFolder(folder(), &error))
+            qFatal("%s", qPrintable(error));
+    }
+
+    /// What lies in the report folder, hidden files too.
+    Q_INVOKABLE QStringList files() const { return QDir(folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+    Q_INVOKABLE QString contents(const QString& name) const
+    {
+        QFile file(folder() + name);
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+    Q_INVOKABLE void put(const QString& name, const QString& text) const
+    {
+        if (!writeFileDurably(folder() + name, text.toUtf8()))
+            qFatal("%s cannot be written", qPrintable(name));
+    }
+    Q_INVOKABLE void putFolder(const QString& name) const { QDir(folder()).mkdir(name); }
+
+    /// From now on no file can grow beyond so many bytes; a negative number takes that back.
+    Q_INVOKABLE void limitFiles(int bytes) const
+    {
+        const rlimit limit {bytes < 0 ? m_freeDisk.rlim_cur : rlim_t(bytes), m_freeDisk.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+
+    /// What the engine has complained about since the last call.
+    Q_INVOKABLE QStringList takeWarnings()
+    {
+        QStringList taken;
+        taken.swap(m_warnings);
+        return taken;
+    }
+    void noteWarnings(const QList<QQmlError>& warnings)
+    {
+        for (const QQmlError& warning : warnings)
+            m_warnings.append(warning.toString());
+    }
+
+private:
+    static QString folder() { return onDisk(paths::reports) + "loopback/"; }
+
+    std::unique_ptr<QTemporaryDir> m_root;
+    LoopbackMeasurement m_measurement;
+    rlimit m_freeDisk {};
+    QStringList m_warnings;
+};
+
+class Setup : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void applicationAvailable()
+    {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        qputenv("QT_QUICK_CONTROLS_STYLE", "Default");
+        const QStringList problems = m_backend.loadFolders({UIUTILS_SOURCE_DIR "/platform/reference/services"});
+        if (!problems.isEmpty())
+            qFatal("%s", qPrintable(problems.join('\n')));
+        registerDemoTypes();
+        m_driver = std::make_unique<Driver>();
+        m_instrument = std::make_unique<uiutils::apps::Instrument>(m_backend);
+    }
+    void qmlEngineAvailable(QQmlEngine* engine)
+    {
+        connect(engine, &QQmlEngine::warnings, this, [this](const auto& warnings) { m_driver->noteWarnings(warnings); });
+        engine->rootContext()->setContextProperty("driver", m_driver.get());
+        m_instrument->showTo(engine);
+    }
+    void cleanupTestCase()
+    {
+        m_driver.reset();
+    }
+
+private:
+    kiv::embedded::EmbeddedBackend m_backend;
+    std::unique_ptr<Driver> m_driver;
+    std::unique_ptr<uiutils::apps::Instrument> m_instrument;
+};
+
+QUICK_TEST_MAIN_WITH_SETUP(demo, Setup)
+#include "tst_reportpage.moc"

@@ -1,0 +1,257 @@
+import QtQuick 2.15
+import QtTest 1.15
+import UiUtils 1.0
+import UiUtils.Controls 1.0
+import UiUtils.Demo 1.0
+import "qrc:/uiutils/demo"
+
+// The report page under a user's hands.
+Item {
+    id: root
+
+    width: 1024
+    height: 484
+
+    Component {
+        id: windowComponent
+        Item {
+            readonly property alias page: page
+            readonly property alias dialog: dialog
+
+            anchors.fill: parent
+
+            ReportPage {
+                id: page
+                anchors.fill: parent
+                measurement: driver.measurement
+            }
+            NotificationDialog { id: dialog; graceTime: 0 }
+        }
+    }
+
+    TestCase {
+        name: "ReportPage"
+        when: windowShown
+
+        property var window
+        readonly property var page: window ? window.page : null
+        readonly property var dialog: window ? window.dialog : null
+
+        function initTestCase() {
+            driver.reset()
+            driver.measurement.start()
+            tryCompare(driver.measurement, "state", LoopbackMeasurement.Finished, 60000)
+        }
+
+        function init() {
+            driver.reset()
+            open()
+        }
+
+        function cleanup() {
+            driver.limitFiles(-1)
+            close()
+            tryCompare(Notifications, "currentDialog", null)
+            Notifications.clear()
+            compare(driver.takeWarnings(), [])
+        }
+
+        function open() {
+            window = createTemporaryObject(windowComponent, root)
+            verify(window)
+            waitForRendering(page)
+            // What was stored comes in a little later, and the name of the run on top of it.
+            tryVerify(() => field("nameEntry").text.startsWith("loopback_"))
+        }
+        // As at the end of the program.
+        function close() {
+            window.destroy()
+            window = null
+            wait(0)
+        }
+
+        function entry(name) {
+            const found = findChild(page, name)
+            verify(found, name)
+            return found
+        }
+        function field(name) {
+            return findChild(entry(name), "field")
+        }
+
+        function type(name, text) {
+            field(name).forceActiveFocus()
+            field(name).selectAll()
+            keyClick(Qt.Key_Backspace)
+            for (const character of text)
+                keyClick(character)
+            compare(field(name).text, text)
+        }
+
+        function choose(format) {
+            const box = findChild(entry("formatEntry"), "box")
+            box.forceActiveFocus()
+            while (box.displayText !== format && box.currentIndex < box.count - 1)
+                keyClick(Qt.Key_Down)
+            compare(box.displayText, format)
+        }
+
+        function tap(item) {
+            const touch = touchEvent(item)
+            touch.press(0, item).commit()
+            touch.release(0, item).commit()
+        }
+
+        function press() {
+            const button = entry("saveButton")
+            verify(button.enabled)
+            tap(button)
+        }
+
+        function part(name) {
+            tryVerify(() => dialog.opened)
+            return findChild(dialog.contentItem, name)
+        }
+
+        function rows() {
+            return page.report.reportFiles.map(file => file.name + " " + file.format + (file.compressed ? " gz" : ""))
+        }
+
+        function trayTitles() {
+            const titles = []
+            for (let i = 0; i < Notifications.count; ++i)
+                titles.push(Notifications.data(Notifications.index(i, 0), 257))
+            return titles
+        }
+
+        function test_firstSave_data() {
+            return [{ tag: "PDF", format: "PDF", suffixes: [".pdf"], start: "%PDF-" },
+                    { tag: "XML", format: "XML", suffixes: [".xml"], start: "<?xml" },
+                    { tag: "HTML", format: "HTML", suffixes: [".html"], start: "<?xml version=\"1.0\"?>\n<!DOCTYPE html" },
+                    { tag: "TEXT", format: "TEXT", suffixes: [".txt"], start: "========\nLine <3>" },
+                    { tag: "JSON", format: "JSON", suffixes: [".json"], start: "{" },
+                    { tag: "ALL", format: "ALL", suffixes: [".html", ".json", ".pdf", ".txt", ".xml"], start: "<?xml version=\"1.0\"?>\n<!DOCTYPE html" }]
+        }
+        function test_firstSave(data) {
+            type("titleEntry", "Line <3>")
+            type("nameEntry", "lindhof-17")
+            choose(data.format)
+            press()
+            compare(Notifications.currentDialog, null)
+            compare(driver.files(), data.suffixes.map(suffix => "lindhof-17" + suffix))
+            verify(driver.contents(driver.files()[0]).startsWith(data.start))
+            compare(page.report.reportFiles.length, data.suffixes.length)
+            compare(findChild(page, "reportList").count, data.suffixes.length)
+            // Of the files of one save the user is told once.
+            compare(trayTitles(), ["Report Saved"])
+        }
+
+        function test_compressed() {
+            choose("TEXT")
+            type("nameEntry", "small")
+            tap(findChild(entry("compressionEntry"), "switch"))
+            press()
+            compare(driver.files(), ["small.txt.gz"])
+            compare(rows(), ["small TEXT gz"])
+            press()
+            compare(part("dialogTitle").text, "Report Exists")
+        }
+
+        function test_overwrite_data() {
+            return [{ tag: "tap yes", act: () => tap(part("acceptButton")), format: "HTML", isReplaced: true },
+                    { tag: "tap no", act: () => tap(part("rejectButton")), format: "HTML" },
+                    { tag: "Enter in passing", act: () => { part("rejectButton"); keyClick(Qt.Key_Return) }, format: "HTML" },
+                    { tag: "Escape, all formats", act: () => { part("rejectButton"); keyClick(Qt.Key_Escape) }, format: "ALL" },
+                    { tag: "yes, all formats", act: () => tap(part("acceptButton")), format: "ALL", isReplaced: true }]
+        }
+        function test_overwrite(data) {
+            type("nameEntry", "lindhof-17")
+            driver.put("lindhof-17.html", "an earlier page")
+            driver.put("lindhof-17.xml", "an earlier text")
+            choose(data.format)
+            press()
+            compare(part("dialogTitle").text, "Report Exists")
+            compare(Notifications.waitingDialogs, 0)
+            compare(driver.contents("lindhof-17.html"), "an earlier page")
+            data.act()
+            compare(driver.contents("lindhof-17.html") !== "an earlier page", data.isReplaced === true)
+            compare(driver.contents("lindhof-17.xml") !== "an earlier text", data.isReplaced === true && data.format === "ALL")
+            compare(driver.files().length, data.isReplaced && data.format === "ALL" ? 5 : 2)
+            compare(trayTitles(), data.isReplaced ? ["Report Saved"] : [])
+            tryCompare(dialog, "visible", false)
+
+            // The next save asks anew, whatever was answered.
+            press()
+            compare(part("dialogTitle").text, "Report Exists")
+        }
+
+        function test_fullDisk_data() {
+            return [{ tag: "HTML", format: "HTML", file: "lindhof-17.html" }, { tag: "PDF", format: "PDF", file: "lindhof-17.pdf" },
+                    { tag: "TEXT", format: "TEXT", file: "lindhof-17.txt" }]
+        }
+        function test_fullDisk(data) {
+            type("nameEntry", "lindhof-17")
+            driver.put(data.file, "an earlier report")
+            choose(data.format)
+            press()
+            driver.limitFiles(1024)
+            tap(part("acceptButton"))
+            driver.limitFiles(-1)
+            compare(part("dialogTitle").text, "Write Error")
+            compare(driver.contents(data.file), "an earlier report")
+            compare(driver.files(), [data.file])
+            compare(trayTitles(), ["Write Error"])
+            tap(part("acceptButton"))
+            tryCompare(dialog, "visible", false)
+
+            press()
+            tap(part("acceptButton"))
+            verify(driver.contents(data.file) !== "an earlier report")
+            compare(trayTitles(), ["Report Saved", "Write Error"])
+        }
+
+        // A folder stands where the report should go.
+        function test_writeError() {
+            type("nameEntry", "taken")
+            choose("JSON")
+            driver.putFolder("taken.json")
+            press()
+            if (part("dialogTitle").text === "Report Exists")
+                tap(part("acceptButton"))
+            tryVerify(() => part("dialogTitle").text === "Write Error")
+            compare(driver.files(), [])
+        }
+
+        function test_names_data() {
+            return [{ tag: "slash", text: "a/b" }, { tag: "51", text: "x".repeat(51) }, 
+                    { tag: "50", text: "x".repeat(50), isGood: true },
+                    { tag: "blank and point", text: "Fiber 7.2", isGood: true },
+                    { tag: "none", text: "", isGood: true, isProposed: true }]
+        }
+        function test_names(data) {
+            type("nameEntry", data.text)
+            compare(entry("saveButton").enabled, data.isGood === true)
+            choose("TEXT")
+            if (data.isGood)
+                press()
+            else
+                tap(entry("saveButton"))
+            const name = data.isProposed ? page.report.proposedFileName() : data.text
+            compare(driver.files(), data.isGood ? [name + ".txt"] : [])
+        }
+
+        function test_settingsSurviveARestart() {
+            type("titleEntry", "Line <3>")
+            type("nameEntry", "lindhof-17")
+            choose("HTML")
+            tap(findChild(entry("compressionEntry"), "switch"))
+            press()
+            close()
+            open()
+            tryCompare(field("titleEntry"), "text", "Line <3>")
+            tryCompare(findChild(entry("formatEntry"), "box"), "displayText", "HTML")
+            compare(findChild(entry("compressionEntry"), "switch").checked, true)
+            compare(findChild(page, "reportList").count, 1)
+        }
+    }
+}
