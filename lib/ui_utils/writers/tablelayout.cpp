@@ -142,7 +142,7 @@ void TableLayout::measureRows(int band)
 {
     for (const ColumnWidth& column : m_bands.at(band)) {
         const qreal width = column.width - 2 * m_style.cellPadding + tolerance;
-        int* lines = m_lines.data() + band * m_rowsOfABand;
+        int* lines = m_lines.data() + qptrdiff(band) * m_rowsOfABand;
         for (int row = 0; row < m_table.rowCount(); ++row, ++lines) {
             const ReportTable::Cell* const cell = m_table.cellAt(row, column.column);
             if (!cell || cell->text.isEmpty())
