@@ -41,10 +41,11 @@ ReportItem::Position ReportImage::end() const
 ReportItem::Portion ReportImage::split(const Position& begin, qreal room, bool isWholePage) const
 {
     const bool fits = m_size.height() <= room || isWholePage;
-    return fits ? Portion {begin, end(), m_size.height()} : Portion {begin, begin, 0};
+    return fits ? Portion {begin, end(), qMin(m_size.height(), qMax(room, 0.0))} : Portion {begin, begin, 0};
 }
 
-void ReportImage::draw(uiutils::PageCanvas& canvas, const Portion&, const QPointF& topLeft) const
+void ReportImage::draw(uiutils::PageCanvas& canvas, const Portion& portion, const QPointF& topLeft) const
 {
-    canvas.drawImage(m_encoded, QRectF(topLeft, m_size));
+    // Below a heading there is less room than on a whole page.
+    canvas.drawImage(m_encoded, QRectF(topLeft, m_size.scaled({m_size.width(), portion.height}, Qt::KeepAspectRatio)));
 }

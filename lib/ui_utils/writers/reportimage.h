@@ -4,7 +4,8 @@
 
 #include <QByteArray>
 
-/// An image of a printed report: a plot. It is shown in its own size unless a page is too small for it.
+/// An image of a printed report: a plot. It is shown in its own size unless a page, with the heading
+/// above it, is too small for it.
 class UIUTILS_EXPORT ReportImage : public ReportItem
 {
 public:
