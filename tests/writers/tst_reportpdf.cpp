@@ -291,6 +291,7 @@ private Q_SLOTS:
         QTest::newRow("what is no image") << 5 << 1;
         QTest::newRow("control characters") << 6 << 1;
         QTest::newRow("a heading of pages") << 7 << 4;
+        QTest::newRow("an image of gigabytes") << 8 << 1;
     }
 
     void oddItems()
@@ -343,6 +344,16 @@ private Q_SLOTS:
         case 7:
             items += new ReportHeader(1, QString("heading ").repeated(1500));
             break;
+        case 8: {
+            // A head alone: what tries to decode it asks for 3.6 GB first.
+            QByteArray bitmap("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x30\x75\0\0\x30\x75\0\0\1\0\x20\0", 30);
+            bitmap.resize(54);
+            std::fill(bitmap.begin() + 30, bitmap.end(), '\0');
+            auto* image = new ReportImage(bitmap);
+            items += image;
+            QVERIFY(image->end() == ReportItem::Position());
+            break;
+        }
         }
         const QString path = printed(items, [&](ReportPDF& pdf) { pdf.setTitle(title); });
         QVERIFY(!path.isEmpty());
@@ -418,7 +429,10 @@ private Q_SLOTS:
         });
         QVERIFY(writer.write(m_path));
         QVERIFY(refused > 2 * items.size());
-        refused = 0;
+        // The items of the last pass go, and as many come.
+        const int count = items.size();
+        QVERIFY(writer.write(m_path));
+        QCOMPARE(items.size(), count);
         QVERIFY(otherWriter.write(m_path));
         other.setItems(items);
         QVERIFY(other.print(m_path));
@@ -469,7 +483,7 @@ private Q_SLOTS:
         ReportPDF pdf;
         QVERIFY(QDir(m_root.path()).mkpath("out/folder.pdf"));
         for (const QString& path : {m_root.filePath("none/report.pdf"), m_root.filePath("out/folder.pdf"), QString(),
-                     m_root.filePath("out/a") + QChar(0) + ".pdf"}) {
+                     m_root.filePath("out/a") + QChar(0) + ".pdf", m_root.filePath("out/new") + QChar(0) + "/a.pdf"}) {
             QString error;
             QVERIFY(!pdf.print(path, &error));
             QVERIFY(!error.isEmpty());

@@ -1,6 +1,7 @@
 #include "writers/pagecanvas_p.h"
 
 #include "writers/pagefont_p.h"
+#include "writers/pageimage_p.h"
 #include "writers/pagestyle_p.h"
 
 #include <QGlyphRun>
@@ -119,7 +120,7 @@ void PageCanvas::drawImage(const QByteArray& encoded, const QRectF& place)
     if (it == m_images.constEnd()) {
         if (m_images.size() >= maximumImages)
             m_images.clear();
-        it = m_images.insert(encoded, QImage::fromData(encoded));
+        it = m_images.insert(encoded, decodedImage(encoded));
     }
     if (!it->isNull())
         drawImage(*it, place);

@@ -1,25 +1,12 @@
 #include "writers/reportimage.h"
 
 #include "writers/pagecanvas_p.h"
+#include "writers/pageimage_p.h"
 #include "writers/pagestyle_p.h"
-
-#include <QBuffer>
-#include <QImageReader>
-
-namespace {
-
-/// Read from the file's head, without decoding the image.
-QSizeF sizeOf(QByteArray encoded)
-{
-    QBuffer buffer(&encoded);
-    return QImageReader(&buffer).size();
-}
-
-} // namespace
 
 ReportImage::ReportImage(const QByteArray& encoded, qreal pixelsOfAPoint)
     : m_encoded(encoded)
-    , m_naturalSize(sizeOf(encoded) / qMax(pixelsOfAPoint, 0.01))
+    , m_naturalSize(QSizeF(uiutils::encodedSize(encoded)) / qMax(pixelsOfAPoint, 0.01))
 {
 }
 

@@ -3,6 +3,7 @@
 #include "core/durablefile.h"
 #include "core/paths.h"
 #include "core/temporarysibling_p.h"
+#include "writers/pageimage_p.h"
 #include "writers/pageprinter_p.h"
 #include "writers/statusicons_p.h"
 
@@ -62,7 +63,7 @@ bool ReportPDF::Job::tellProgress(int page, int pageCount)
 uiutils::PageSettings ReportPDF::Job::settings() const
 {
     const ReportPDF& owner = *m_owner;
-    return {{QImage::fromData(uiutils::readIcon(owner.m_logo)), owner.m_documentTitle, owner.m_title, owner.m_fields},
+    return {{uiutils::decodedImage(uiutils::readIcon(owner.m_logo)), owner.m_documentTitle, owner.m_title, owner.m_fields},
             {owner.m_documentTitle, owner.m_title, owner.m_unitId, owner.m_timestamp},
             owner.m_orientation == Landscape ? QPageLayout::Landscape : QPageLayout::Portrait};
 }
