@@ -202,11 +202,19 @@ ReportItem::Portion TableLayout::split(
 {
     const qreal head = headHeight(begin);
     const int bandEnd = (bandOf(begin) + 1) * m_rowsOfABand;
-    ReportItem::Portion portion = takeRows(m_lines, m_heights, begin, bandEnd, room - head, isWholePage);
+    const bool mayTear = isWholePage || (begin == ReportItem::Position() && isFirstRowTornAnyway(room));
+    ReportItem::Portion portion = takeRows(m_lines, m_heights, begin, bandEnd, room - head, mayTear);
     if (portion.isEmpty() || (!isWholePage && isBetterMoved(portion, bandEnd)))
         return {begin, begin, 0};
     portion.height += head;
     return portion;
+}
+
+/// Whether a row that no page holds may as well begin here instead of leaving much of a page empty.
+bool TableLayout::isFirstRowTornAnyway(qreal room) const
+{
+    return room > m_page.height() * maximumMovedShare
+            && m_heights.of(m_lines.constFirst()) > m_page.height() - headHeight({});
 }
 
 /// Whether the beginning of a table is too little to stand at a page's foot: a few low rows of many, or part of a table

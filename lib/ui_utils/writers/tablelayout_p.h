@@ -33,6 +33,7 @@ private:
     qreal titleHeight(const Title& title) const;
     qreal labelsHeight(int band) const;
     qreal headHeight(const ReportItem::Position& begin) const;
+    bool isFirstRowTornAnyway(qreal room) const;
     bool isBetterMoved(const ReportItem::Portion& portion, int bandEnd) const;
     int bandOf(const ReportItem::Position& position) const { return position.row / m_rowsOfABand; }
 
