@@ -45,5 +45,6 @@ QVector<Result> plotCases(int runs);
 QVector<Result> textCases(int runs);
 QVector<Result> localCases(int runs);
 QVector<Result> pdfFileCases(int runs);
+QVector<Result> reportCases(int runs);
 
 } // namespace bench

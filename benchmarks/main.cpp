@@ -22,7 +22,7 @@ struct Room
 /// In the order in which they are measured: behind the bindings, documents and texts take a third longer.
 const Room rooms[] {{"document", bench::documentCases}, {"html", bench::htmlCases}, {"pdf", bench::pdfCases},
         {"plot", bench::plotCases}, {"xml", bench::xmlCases}, {"text", bench::textCases}, {"binding", bench::bindingCases},
-        {"local", bench::localCases}, {"pdffile", bench::pdfFileCases}};
+        {"local", bench::localCases}, {"pdffile", bench::pdfFileCases}, {"report", bench::reportCases}};
 
 QStringList roomNames()
 {
@@ -76,7 +76,8 @@ int main(int argc, char** argv)
     const QCommandLineOption jsonOption(
             QStringLiteral("json"), QStringLiteral("Write the figures to FILE as well."), QStringLiteral("FILE"));
     const QCommandLineOption onlyOption(QStringLiteral("only"),
-            QStringLiteral("Measure this room only: document, html, pdf, plot, xml, text, binding, local or pdffile."),
+            QStringLiteral("Measure this room only: document, html, pdf, plot, xml, text, binding, local, pdffile or "
+                           "report."),
             QStringLiteral("ROOM"));
     parser.addOptions({runsOption, jsonOption, onlyOption});
     parser.process(app);

@@ -4,6 +4,7 @@
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
 #include "module/uiutilsmodule.h"
+#include "report/report.h"
 #include "service/forgivingvalidator.h"
 #include "service/kivaggregatedata.h"
 #include "service/kivlistaggregatedata.h"
@@ -65,7 +66,7 @@ private Q_SLOTS:
                      &BoolUiData::staticMetaObject, &EnumUiData::staticMetaObject, &UiDataEnums::staticMetaObject,
                      &UiEnumType::staticMetaObject, &UiDataContainer::staticMetaObject, &FileUtils::staticMetaObject,
                      &KIVNotification::staticMetaObject, &KIVNotificationModelManager::staticMetaObject,
-                     &PDFFile::staticMetaObject})
+                     &PDFFile::staticMetaObject, &Report::staticMetaObject})
             QTest::newRow(type->className()) << type;
     }
     void descriptionForTools()

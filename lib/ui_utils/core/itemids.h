@@ -14,6 +14,16 @@ inline const QLatin1String customerFields(":config:basemgr:system:customerFields
 inline const QLatin1String technicianFirstName("userInfo_firstName");
 inline const QLatin1String technicianLastName("userInfo_lastName");
 
+/// Where reports are saved: 0 internal, 1 USB, 2 both.
+inline const QLatin1String saveLocation(":config:basemgr:system:saveLocation:");
+inline const QLatin1String usbAttached(":result:basemgr:system:usbAttached:");
+/// Has the platform keep the report's name as that of the next one.
+inline const QLatin1String updateNameConfigs(":action:basemgr:system:report_update_name_configs:");
+/// The name that a test proposes for its reports; empty for none.
+inline const QLatin1String customDefaultName(":result:basemgr:system:reportCustomDefaultName:");
+inline const QLatin1String cdmTestType(":config:basemgr:system:report_cdm_testType:");
+inline const QLatin1String cdmTestLabel(":config:basemgr:system:report_cdm_testLabel:");
+
 inline const QLatin1String softwareNames(":result:basemgr:swrev:names:stringARRAY:");
 inline const QLatin1String softwareVersions(":result:basemgr:swrev:versions:stringARRAY:");
 
@@ -23,9 +33,21 @@ inline const QLatin1String hardwareNameEnd("_top");
 
 inline const QLatin1String baseUnit(":result:basemgr:eeprom:base_barcode_top:");
 
+/// Everything that the base manager says of the job.
+inline const QLatin1String jobManager(":result:basemgr:jobmanager:");
+inline const QLatin1String jobActive(":result:basemgr:jobmanager:isJobActive:");
 inline const QLatin1String jobId(":result:basemgr:jobmanager:jobID:");
 inline const QLatin1String jobBan(":result:basemgr:jobmanager:jobBAN:");
 inline const QLatin1String jobTechnician(":result:basemgr:jobmanager:jobTechnician:");
+/// Attaches the XML report that is its argument to the active job.
+inline const QLatin1String attachReport(":action:basemgr:jobmanager:attachReport:");
+
+/// In the ids of items that say whether a job is active.
+inline const QLatin1String jobActiveWord("isJobActive");
+/// The service that leads users through the tests of a job.
+inline const QLatin1String workflowManager("orb.base.workflow_manager_app");
+/// Paths of the reports that the cloud leaves alone.
+inline const QLatin1String noSyncList(":config:basemgr:system:ss_nosync:stringARRAY:");
 
 /// Ends the id of the item that stands for a whole service.
 inline const QLatin1String manifest(":manifest:");

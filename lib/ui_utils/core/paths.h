@@ -5,8 +5,18 @@
 /// Where the instrument keeps things, and where they lie on this machine's disk.
 namespace uiutils::paths {
 
+/// What users see as the unit's own storage, and as a memory stick.
+inline const QLatin1String publicFolder("/cust/public/");
+inline const QLatin1String usb("/mnt/usb/");
 /// Folder of the saved reports.
 inline const QLatin1String reports("/cust/public/reports/");
+/// Folder of the settings that users make for reports.
+inline const QLatin1String reportSettings("/cust/private/lastconfigs/reportSettings/");
+/// The reports that the cloud leaves alone, one path a line.
+inline const QLatin1String noSyncList("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt");
+/// The instrument's viewer of PDF files, and the folder that it runs in.
+inline const QLatin1String pdfViewer("/base/bin/pdf_viewer");
+inline const QLatin1String pdfViewerFolder("/base/qml/pdf_viewer");
 /// Folder of the status icons and of the logo.
 inline const QLatin1String images("/base/qml/common/images/");
 inline const QLatin1String passIcon("/base/qml/common/images/pass_icon.png");

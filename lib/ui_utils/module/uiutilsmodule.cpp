@@ -5,6 +5,7 @@
 #include "files/fileutils.h"
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
+#include "report/report.h"
 #include "service/forgivingvalidator.h"
 #include "service/kivaggregatedata.h"
 #include "service/kivlistaggregatedata.h"
@@ -115,6 +116,7 @@ void registerTypes(const char* uri)
     registerServiceTypes(uri);
     registerLocalTypes(uri);
     registerFileTypes(uri);
+    qmlRegisterType<Report>(uri, 1, 0, "Report");
 }
 
 } // namespace uiutils

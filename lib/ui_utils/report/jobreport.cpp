@@ -1,0 +1,97 @@
+#include "report/jobreport_p.h"
+
+#include "core/itemids.h"
+#include "core/paths.h"
+
+#include <kiv/kivclientinterface.h>
+#include <kiv/kivclientitem.h>
+#include <kiv/schemavalidator.h>
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace uiutils {
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("Report", text);
+}
+
+const KIVClientItem* baseManagerItem(QLatin1String id)
+{
+    const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
+    return client ? client->getItem(id) : nullptr;
+}
+
+/// Why the schema does not allow the report; empty when it does.
+QString schemaProblem(const QByteArray& xml, const QString& schemaPath)
+{
+    if (schemaPath.isEmpty())
+        return QString();
+    SchemaValidator validator;
+    if (!validator.setSchemaFile(onDisk(schemaPath))) {
+        return translated(QT_TRANSLATE_NOOP("Report", "The schema %1 cannot be used: %2"))
+                .arg(schemaPath, validator.errors().join(QLatin1Char('\n')));
+    }
+    if (validator.validate(xml))
+        return QString();
+    return translated(QT_TRANSLATE_NOOP("Report", "The report is not what jobs accept: %1"))
+            .arg(validator.errors().join(QLatin1Char('\n')));
+}
+
+/// Why the base manager does not take the report; empty when it has.
+QString refusal(const QByteArray& xml)
+{
+    KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
+    if (!client || !isJobActive())
+        return translated(QT_TRANSLATE_NOOP("Report", "There is no active job"));
+    if (client->sendAction(itemids::attachReport, QString::fromUtf8(xml), nullptr, KIVClientInterface::callTimeout))
+        return QString();
+    return translated(QT_TRANSLATE_NOOP("Report", "The job has not taken the report: %1")).arg(client->getLastError());
+}
+
+} // namespace
+
+bool isJobActive()
+{
+    const KIVClientItem* item = baseManagerItem(itemids::jobActive);
+    return item && item->getValue().toBool();
+}
+
+QString jobSummary()
+{
+    static const struct
+    {
+        QLatin1String id;
+        const char* prefix;
+    } rows[] = {
+            {itemids::jobId, QT_TRANSLATE_NOOP("Report", "ID: ")},
+            {itemids::jobTechnician, QT_TRANSLATE_NOOP("Report", "Tech: ")},
+            {itemids::jobBan, QT_TRANSLATE_NOOP("Report", "BAN: ")},
+    };
+    QStringList parts;
+    for (const auto& row : rows) {
+        const KIVClientItem* item = isJobActive() ? baseManagerItem(row.id) : nullptr;
+        const QString text = item ? item->getValueString().simplified() : QString();
+        if (!text.isEmpty())
+            parts += translated(row.prefix) + text;
+    }
+    return parts.join(QLatin1String(", "));
+}
+
+bool attachToJob(const QByteArray& xml, const QString& schemaPath, QString* reason)
+{
+    QString problem;
+    // Without a job nobody need hear what is wrong with the report.
+    if (isJobActive())
+        problem = schemaProblem(xml, schemaPath);
+    if (problem.isEmpty())
+        problem = refusal(xml);
+    if (reason)
+        *reason = problem;
+    return problem.isEmpty();
+}
+
+} // namespace uiutils

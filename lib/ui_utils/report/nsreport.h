@@ -1,0 +1,29 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+
+#include <QDateTime>
+#include <QString>
+
+/// What reports and those who make them have in common.
+namespace NSReport {
+
+/// The formats that a report is saved in; ALL stands for every one that is applicable.
+enum ReportFormat {
+    REPORT_FORMAT_PDF = 0,
+    REPORT_FORMAT_XML,
+    REPORT_FORMAT_HTML,
+    REPORT_FORMAT_TEXT,
+    REPORT_FORMAT_JSON,
+    REPORT_FORMAT_ALL
+};
+
+/// Whether the two, in degrees, are a place on earth: -90 to 90 and -180 to 180. 0, 0 is none, because a receiver without
+/// a fix says so.
+UIUTILS_EXPORT bool isGeoLocationValid(double latitude, double longitude);
+
+/// The same moment in a time zone: an IANA id ("Europe/Oslo") or an offset of at most 14 hours ("+02:00", "-0330", "+02").
+/// `dateTime` as it is where it is invalid or the zone is not known.
+UIUTILS_EXPORT QDateTime adjustDateTimeToTimeZone(const QDateTime& dateTime, const QString& zone);
+
+} // namespace NSReport

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "files/fileutils.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace uiutils {
+
+/// Lets a report be written, or has the user asked whether it may take another's place.
+///
+/// There is at most one question: asking again takes the one before back, and an answer counts once.
+class OverwriteGate
+{
+public:
+    OverwriteGate() = default;
+    ~OverwriteGate() = default;
+    Q_DISABLE_COPY_MOVE(OverwriteGate)
+
+    /// The first of the instrument paths at which something lies; with `compressed` behind it ".gz" counts, too. Empty
+    /// when all are free.
+    static QString firstTaken(const QStringList& paths, bool compressed);
+
+    /// Asks for the report at `path`, which is pending until the answer.
+    void ask(const QString& path);
+    /// The pending report when the notification is the question about it, which is answered by that; empty otherwise.
+    QString takeAnswered(const KIVNotification* notification);
+
+private:
+    FileUtils m_question;
+    QString m_pendingPath;
+    QString m_token;
+};
+
+} // namespace uiutils

@@ -1,0 +1,96 @@
+#include "report/reportfilewriter_p.h"
+
+#include "core/durablefile.h"
+#include "core/paths.h"
+#include "report/gzip_p.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QtEndian>
+
+namespace uiutils {
+
+namespace {
+
+const QLatin1String gzipSuffix(".gz");
+
+QString failure(const char* text, const QString& path, const QString& reason)
+{
+    return QCoreApplication::translate("Report", text).arg(path, reason);
+}
+
+/// Whether these are gzip's bytes for so many: its mark in front, the number at the end. A disk that ran full may have cut
+/// them short without gzip's knowing.
+bool isWholeGzip(const QByteArray& bytes, int size)
+{
+    constexpr int headAndTail = 18;
+    return bytes.size() >= headAndTail && bytes.startsWith("\x1f\x8b")
+            && qFromLittleEndian<quint32>(bytes.constData() + bytes.size() - 4) == quint32(size);
+}
+
+bool writePlainly(const QString& place, const QByteArray& contents, QString* reason)
+{
+    QFile file(place);
+    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush();
+    *reason = file.errorString();
+    return isWritten;
+}
+
+/// The gzip form of a report. Empty, with the reason in `error`, when there is none.
+QByteArray compressedForm(const QString& path, const QByteArray& contents, QString* error)
+{
+    const QFileInfo target(onDisk(path));
+    // A folder of its own lets gzip note the report's name in the file, which unpackers show, and takes along on its end
+    // whatever gzip has left. It is beside the report because that drive is the one whose room was looked at.
+    const QTemporaryDir folder(target.path() + QLatin1String("/.uiutils-XXXXXX"));
+    if (!folder.isValid()) {
+        *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot compress %1: %2"), path, folder.errorString());
+        return QByteArray();
+    }
+    const QString place = folder.filePath(target.fileName());
+    QString reason;
+    if (!writePlainly(place, contents, &reason)) {
+        *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot compress %1: %2"), path, reason);
+        return QByteArray();
+    }
+    QByteArray bytes;
+    if (compressFileAt(place, path)) {
+        QFile file(place + gzipSuffix);
+        bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    if (isWholeGzip(bytes, contents.size()))
+        return bytes;
+    *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot compress %1: %2"), path,
+            QCoreApplication::translate("Report", "gzip is missing or has failed"));
+    return QByteArray();
+}
+
+WrittenFile writeAsItIs(const QString& path, const QByteArray& contents)
+{
+    WrittenFile file;
+    file.ok = writeFileDurably(onDisk(path), contents, &file.error);
+    if (file.ok)
+        file.path = path;
+    return file;
+}
+
+} // namespace
+
+WrittenFile writeReportFile(const QString& path, const QByteArray& contents, bool compressed)
+{
+    // What no path may hold is refused there, in words that can be shown.
+    if (!compressed || path.contains(QChar(QChar::Null)))
+        return writeAsItIs(path, contents);
+    QString error;
+    const QByteArray bytes = compressedForm(path, contents, &error);
+    if (!bytes.isEmpty())
+        return writeAsItIs(path + gzipSuffix, bytes);
+    WrittenFile file = writeAsItIs(path, contents);
+    file.ok = false;
+    file.error = error;
+    return file;
+}
+
+} // namespace uiutils

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace uiutils {
+
+struct WrittenFile
+{
+    bool ok = false;
+    /// The instrument path of the file that holds the contents now; empty when none does.
+    QString path;
+    /// What went wrong, in words.
+    QString error;
+};
+
+/// Writes a report to the instrument path as writeFileDurably() does, or, `compressed`, its gzip form to the path with
+/// ".gz" behind it, just as durably: what lay there before lies there until all of the new form is on the disk.
+///
+/// A report that cannot be compressed is not lost: it is written to `path` as it is, and the result says so, with `ok`
+/// false. The other form of the same report that an earlier save left stays, because nobody has asked for its end;
+/// nothing else lies beside afterwards. The folder must exist.
+WrittenFile writeReportFile(const QString& path, const QByteArray& contents, bool compressed);
+
+} // namespace uiutils

@@ -1,0 +1,108 @@
+#include "report/reportsettingsstore_p.h"
+
+#include "core/durablefile.h"
+#include "core/paths.h"
+#include "local/uidata.h"
+#include "report/reportnaming_p.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <optional>
+
+namespace uiutils {
+
+namespace {
+
+void logUnreadable(const QString& reason)
+{
+    qWarning("ERROR: Could not parse Json text:\n%s", qUtf8Printable(reason));
+}
+
+std::optional<QByteArray> contentsOf(const QString& path)
+{
+    QFile file(onDisk(path));
+    // A folder can be opened, too, but holds nothing.
+    if (QFileInfo(file).isDir() || !file.open(QIODevice::ReadOnly)) {
+        qWarning("Could not open %s for reading", qUtf8Printable(path));
+        return std::nullopt;
+    }
+    const QByteArray contents = file.read(largestReportSettings + 1);
+    if (contents.size() <= largestReportSettings)
+        return contents;
+    logUnreadable(QStringLiteral("the file is too large"));
+    return std::nullopt;
+}
+
+bool isChoice(const UiData& item, const QVariant& value)
+{
+    const UiDataEnums* choices = item.getUiEnumList();
+    const QList<UiEnumType*> list = choices ? choices->getEnumList() : QList<UiEnumType*>();
+    for (const UiEnumType* choice : list) {
+        if (choice->getValue() == value.toDouble())
+            return choice->isApplicable();
+    }
+    return false;
+}
+
+/// Files are edited by hand, come from other versions and lose their end: what a user could not have entered is left out.
+bool isAllowed(const UiData& item, const QJsonValue& value)
+{
+    const QString type = item.getType();
+    if (type == UiData::TYPE_BOOL)
+        return value.isBool();
+    if (type == UiData::TYPE_ENUM)
+        return value.isDouble() && isChoice(item, value.toVariant());
+    if (type != UiData::TYPE_STRING)
+        return !value.isNull();
+    if (!value.isString())
+        return false;
+    const QValidator* validator = item.getValidator();
+    QString text = value.toString();
+    int position = 0;
+    return text.isEmpty() || !validator || validator->validate(text, position) == QValidator::Acceptable;
+}
+
+} // namespace
+
+QString reportSettingsPath(const QString& folder)
+{
+    return paths::reportSettings + safeFolder(folder) + QLatin1String(".json");
+}
+
+void loadReportSettings(const QString& path, const ReportSettings& items)
+{
+    const std::optional<QByteArray> contents = contentsOf(path);
+    if (!contents)
+        return;
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(*contents, &error);
+    if (error.error != QJsonParseError::NoError)
+        return logUnreadable(error.errorString());
+    if (!document.isObject())
+        return logUnreadable(QStringLiteral("the file holds no object"));
+    const QJsonObject values = document.object();
+    for (auto it = items.cbegin(); it != items.cend(); ++it) {
+        const QJsonValue value = values.value(it.key());
+        if (!isAllowed(**it, value))
+            continue;
+        const bool isEnum = (*it)->getType() == UiData::TYPE_ENUM;
+        (*it)->setValue(isEnum ? QVariant(value.toInt()) : value.toVariant());
+    }
+}
+
+void saveReportSettings(const QString& path, const ReportSettings& items)
+{
+    QVariantMap values;
+    for (auto it = items.cbegin(); it != items.cend(); ++it)
+        values.insert(it.key(), (*it)->getValue());
+    const QString place = onDisk(path);
+    QDir().mkpath(QFileInfo(place).path());
+    if (!writeFileDurably(place, QJsonDocument(QJsonObject::fromVariantMap(values)).toJson()))
+        qWarning("Could not open %s for writing", qUtf8Printable(path));
+}
+
+} // namespace uiutils

@@ -1,0 +1,57 @@
+#include "report/savednotice_p.h"
+
+#include "core/paths.h"
+
+#include <kiv/kivnotification.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace uiutils {
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("Report", text);
+}
+
+QString reportNameOf(const QString& path)
+{
+    const QLatin1String compression(".gz");
+    const QString plain = path.endsWith(compression) ? path.chopped(compression.size()) : path;
+    return QFileInfo(plain).completeBaseName();
+}
+
+QString shownFolderOf(const QString& path)
+{
+    if (path.startsWith(paths::usb))
+        return QStringLiteral("USB");
+    QString folder = path.left(path.lastIndexOf(QLatin1Char('/')) + 1);
+    if (folder.startsWith(paths::publicFolder))
+        folder.remove(0, paths::publicFolder.size());
+    if (folder.endsWith(QLatin1Char('/')))
+        folder.chop(1);
+    return folder;
+}
+
+} // namespace
+
+QString savedMessage(const QString& path)
+{
+    const QString clean = QDir::cleanPath(path);
+    return translated(QT_TRANSLATE_NOOP("Report", "Report %1 saved\nFolder: %2"))
+            .arg(reportNameOf(clean), shownFolderOf(clean));
+}
+
+void postSavedNotice(const QString& path)
+{
+    // The tray keeps copies.
+    KIVNotification notification;
+    notification.setLongLabel(translated(QT_TRANSLATE_NOOP("Report", "Report Saved")));
+    notification.setMsg(savedMessage(path));
+    notification.notifyTray();
+}
+
+} // namespace uiutils

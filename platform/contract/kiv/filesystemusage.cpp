@@ -1,0 +1,59 @@
+#include <kiv/filesystemusage.h>
+
+#include <kiv/kivnotification.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+
+#include <optional>
+#include <sys/statvfs.h>
+
+namespace {
+
+std::optional<struct statvfs> fileSystemAt(const QString& directory)
+{
+    QString place = QFileInfo(directory).absoluteFilePath();
+    struct statvfs system {};
+    while (::statvfs(QFile::encodeName(place).constData(), &system) != 0) {
+        const int slash = place.lastIndexOf(QLatin1Char('/'));
+        if (slash < 0 || place == QLatin1String("/"))
+            return std::nullopt;
+        place = slash == 0 ? QStringLiteral("/") : place.left(slash);
+    }
+    return system;
+}
+
+/// One dialog is enough, however often a save is tried; the application's end takes it along.
+void tell(const QString& message)
+{
+    static QPointer<KIVNotification> told;
+    delete told;
+    told = new KIVNotification(QCoreApplication::instance());
+    told->setLongLabel(QCoreApplication::translate("FileSystemUsage", "Not Enough Space"));
+    told->setMsg(message);
+    told->setError();
+    told->notifyDialog();
+}
+
+} // namespace
+
+bool FileSystemUsage::checkAndNotifyBeforeSave(const QString& directory, const QString& message)
+{
+    const auto system = fileSystemAt(directory);
+    if (!system || double(system->f_bavail) * double(system->f_frsize) >= double(minimumFree))
+        return true;
+    tell(message);
+    return false;
+}
+
+double FileSystemUsage::percentageUsed(const QString& directory)
+{
+    const auto system = fileSystemAt(directory);
+    if (!system)
+        return 0;
+    const double used = double(system->f_blocks) - double(system->f_bfree);
+    const double usable = used + double(system->f_bavail);
+    return usable > 0 ? 100 * used / usable : 0;
+}

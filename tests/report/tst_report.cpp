@@ -1,0 +1,727 @@
+#include "module/uiutilsmodule.h"
+#include "report/report.h"
+#include "report/reportnaming_p.h"
+#include "report/reportsettingsstore_p.h"
+
+#include <embedded/embeddedbackend.h>
+#include <embedded/embeddedservice.h>
+#include <kiv/kivnotificationmodelmanager.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMetaMethod>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QScopeGuard>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <functional>
+#include <memory>
+#include <sys/mount.h>
+#include <sys/resource.h>
+
+using Setter = std::function<void(Report&)>;
+Q_DECLARE_METATYPE(Setter)
+
+namespace {
+
+const QString activeItem(":result:basemgr:jobmanager:isJobActive:");
+const QString locationItem(":config:basemgr:system:saveLocation:");
+const QString usbItem(":result:basemgr:system:usbAttached:");
+
+KIVNotificationModelManager* manager()
+{
+    return KIVNotificationModelManager::instance();
+}
+
+bool writeFile(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly)
+            && file.write(contents) == contents.size();
+}
+
+QByteArray contentsOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
+}
+
+/// JSON text with ' for ".
+QByteArray json(QByteArray text)
+{
+    return text.replace('\'', '"');
+}
+
+/// A derived controller that notes when it is called.
+class Controller : public Report
+{
+public:
+    QString generateTxtReport() override { return text; }
+    QString generateJsonReport() override { return json; }
+    bool writeXmlReport(const QString& path, bool overwrite) override
+    {
+        calls << "writeXml";
+        return Report::writeXmlReport(path, overwrite);
+    }
+    bool writeTextReport(const QString& path, const QString& contents, const QString& suffix, bool overwrite) override
+    {
+        calls << "writeText" + suffix;
+        return Report::writeTextReport(path, contents, suffix, overwrite);
+    }
+    QByteArray generatePDFReport() override { return pages; }
+    QString proposedFileName() override { return "proposed"; }
+
+    void setUp(const QString& name, int format)
+    {
+        for (int value = 0; value <= 5; ++value)
+            setFormatApplicable(value, true);
+        getSetting("reportName")->setValue(name);
+        getSetting("reportFormat")->setValue(format);
+    }
+    using Report::loadSettings;
+    using Report::saveSettings;
+    using Report::setFormatApplicable;
+
+    QString text;
+    QString json;
+    QByteArray pages = "%PDF-";
+    QStringList calls;
+    bool keepsName = true;
+
+protected:
+    bool keepsReportName() override { return keepsName; }
+    void saveStarted(const QString&) override { calls << "started"; }
+    void prepareDocument() override { calls << "prepare"; }
+    void reportWritten(const QString&) override { calls << "written"; }
+    void writeMetadata(const QString&, const QString& format) override { calls << "metadata " + format; }
+    void saveSucceeded(const QString&) override { calls << "succeeded"; }
+    void saveFailed(const QString&) override { calls << "failed"; }
+    void overwriteDeclined(const QString&) override { calls << "declined"; }
+};
+
+/// Lets no file grow past `bytes` while it lives, like a full disk.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        ::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+    Q_DISABLE_COPY_MOVE(FileSizeLimit)
+
+private:
+    rlimit m_before{};
+};
+
+/// Counts all notifiers of a controller, in the order of their emission.
+class Emissions : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Emissions(const Report& report)
+    {
+        const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("note()"));
+        for (int i = Report::staticMetaObject.methodOffset(); i < Report::staticMetaObject.methodCount(); ++i) {
+            const QMetaMethod method = Report::staticMetaObject.method(i);
+            if (method.methodType() == QMetaMethod::Signal)
+                QObject::connect(&report, method, this, slot);
+        }
+    }
+
+    QStringList names;
+
+private Q_SLOTS:
+    void note() { names << sender()->metaObject()->method(senderSignalIndex()).name(); }
+};
+
+} // namespace
+
+class ReportTest : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_root;
+    std::unique_ptr<kiv::embedded::EmbeddedBackend> m_backend;
+
+    QString onDisk(const QString& path) const { return m_root->path() + path; }
+    QStringList names(const QString& folder) const
+    {
+        return QDir(onDisk(folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+    kiv::embedded::EmbeddedService* basemgr() const { return m_backend->service("basemgr"); }
+    void writeTemplate(const QString& name, const QByteArray& fields)
+    {
+        QVERIFY(writeFile(onDisk("/cust/" + name), json("{'node_type': 'report', 'tag': 'otdr'" + fields + "}")));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_root = std::make_unique<QTemporaryDir>();
+        qputenv("UIUTILS_ROOT", QFile::encodeName(m_root->path()));
+        qunsetenv("PLOV_SHORTLABEL");
+        qunsetenv("PLOV_PROVIDER");
+        m_backend = std::make_unique<kiv::embedded::EmbeddedBackend>();
+        KIVBackend::setCurrent(m_backend.get());
+        QVERIFY(m_backend->loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));
+    }
+    void cleanup()
+    {
+        manager()->clear();
+        while (manager()->currentDialog())
+            delete manager()->currentDialog();
+        m_backend.reset();
+    }
+
+    void settersTellOfChangesAlone_data()
+    {
+        QTest::addColumn<Setter>("set");
+        QTest::addColumn<QStringList>("emissions");
+        const auto add = [](const char* name, const Setter& set, const QStringList& emissions) {
+            QTest::newRow(name) << set << emissions;
+        };
+        const QStringList folder{"folderChanged", "reportFilesChanged", "saveLocationChanged"};
+        add(
+                "tag", [](Report& r) { r.setTag("x"); }, QStringList("tagChanged") + folder);
+        add(
+                "folder", [](Report& r) { r.setFolder("x"); }, folder);
+        add("title", [](Report& r) { r.setTitle("x"); }, {"titleChanged"});
+        add("subject", [](Report& r) { r.setSubject("x"); }, {"subjectChanged"});
+        add("orientation", [](Report& r) { r.setOrientation("landscape"); }, {"orientationChanged"});
+        add("file", [](Report& r) { r.setCanWriteToFile(true); }, {"canWriteToFileChanged"});
+        add("job", [](Report& r) { r.setCanWriteToJobManager(true); }, {"canWriteToJobManagerChanged"});
+        add("job info", [](Report& r) { r.setIncludeJobInfo(true); }, {"includeJobInfoChanged"});
+        add("hardware", [](Report& r) { r.setShowHardwareRevs(false); }, {"showHardwareRevsChanged"});
+        add("software", [](Report& r) { r.setShowSoftwareRevs(false); }, {"showSoftwareRevsChanged"});
+        add("schema", [](Report& r) { r.setJobSchema("x"); }, {"jobSchemaChanged"});
+        add("screenshots", [](Report& r) { r.setScreenshotList({"x"}); }, {"screenshotListChanged"});
+        add("customer", [](Report& r) { r.setIncludeCustomerInfo(true); }, {});
+        add("tray", [](Report& r) { r.setNotifiesTray(false); }, {});
+    }
+    void settersTellOfChangesAlone()
+    {
+        QFETCH(Setter, set);
+        Report report;
+        Emissions emissions(report);
+        set(report);
+        set(report);
+        QTEST(emissions.names, "emissions");
+    }
+
+    void templateStandsBehindTheProperties()
+    {
+        Report report;
+        QCOMPARE(report.getOrientation(), QString("portrait"));
+        QCOMPARE(report.getTitle(), QString());
+        writeTemplate("a.json",
+                ", 'title': 'Template', 'subject': 'S', 'orientation': 'landscape', "
+                "'canWriteToFile': 'true', 'canWriteToJobManager': 'true'");
+        Emissions emissions(report);
+        report.setTemplatePath("/cust/a.json");
+        QCOMPARE(emissions.names,
+                QStringList({"templatePathChanged", "tagChanged", "orientationChanged", "titleChanged", "subjectChanged",
+                        "reportFilesChanged", "canWriteToJobManagerChanged", "canWriteToFileChanged"}));
+        QCOMPARE(report.getTitle() + report.getSubject() + report.getOrientation(), QString("TemplateSlandscape"));
+        QCOMPARE(report.getTag() + "," + report.getFolder(), QString("otdr,otdr"));
+        QVERIFY(report.getCanWriteToFile());
+        QVERIFY(report.getCanWriteToJobManager());
+        report.setCanWriteToFile(false);
+        QVERIFY(!report.getCanWriteToFile());
+
+        // One that cannot be read changes nothing.
+        emissions.names.clear();
+        QVERIFY(writeFile(onDisk("/cust/torn.json"), json("{'tag': 'x'")));
+        report.setTemplatePath("/cust/torn.json");
+        report.setTemplatePath("/cust/missing.json");
+        QCOMPARE(emissions.names, QStringList());
+        QCOMPARE(report.getTitle() + report.getTemplatePath(), QString("Template/cust/a.json"));
+    }
+
+    void servicesAreFollowed()
+    {
+        Report report;
+        report.setCanWriteToJobManager(true);
+        Emissions emissions(report);
+        QVERIFY(basemgr()->setValue(activeItem, false));
+        QTRY_COMPARE(emissions.names, QStringList({"canWriteToJobManagerChanged", "jobSummaryChanged"}));
+        QVERIFY(!report.getCanWriteToJobManager());
+        emissions.names.clear();
+        QVERIFY(basemgr()->setValue(":result:basemgr:jobmanager:jobID:", "2"));
+        QTRY_COMPARE(emissions.names, QStringList({"jobSummaryChanged"}));
+        emissions.names.clear();
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setValue(locationItem, 1));
+        QTRY_COMPARE(emissions.names, QStringList({"saveLocationChanged", "saveLocationChanged"}));
+        QCOMPARE(report.getSaveLocation(), QString("USB:/"));
+        QCOMPARE(report.getSaveFilePath("a", ".pdf"), QString("/mnt/usb/a.pdf"));
+        QVERIFY(basemgr()->setValue(usbItem, false));
+        QCOMPARE(report.getSaveLocation(), QString("Internal:/reports/"));
+
+        // A service that comes back has items of its own.
+        basemgr()->setReachable(false);
+        basemgr()->setReachable(true);
+        QCoreApplication::processEvents();
+        emissions.names.clear();
+        QVERIFY(basemgr()->setValue(activeItem, true));
+        QTRY_COMPARE(emissions.names, QStringList({"canWriteToJobManagerChanged", "jobSummaryChanged"}));
+    }
+
+    void testTypeAndLabel()
+    {
+        Report report;
+        report.setCdmTestTypeAndLabel();
+        QCOMPARE(report.getCdmTestType() + report.getCdmTestLabel(), QString("noneNone"));
+        QVERIFY(basemgr()->setValue(":config:basemgr:system:report_cdm_testType:", "OTDR"));
+        report.setCdmTestTypeAndLabel();
+        QCOMPARE(report.getCdmTestType() + report.getCdmTestLabel(), QString("OTDRNone"));
+    }
+
+    void names_data()
+    {
+        QTest::addColumn<QString>("given");
+        QTest::addColumn<bool>("isAccepted");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("one") << "a" << true << "a.pdf"
+                             << "a/";
+        QTest::newRow("50") << QString(50, 'a') << true << QString(50, 'a') + ".pdf" << QString(50, 'a') + "/";
+        QTest::newRow("51") << QString(51, 'a') << false << QString(51, 'a') + ".pdf" << QString(51, 'a') + "/";
+        QTest::newRow("dots") << ".." << true << "_.pdf"
+                              << "_/";
+        QTest::newRow("more dots") << "..." << true << "....pdf"
+                                   << ".../";
+        QTest::newRow("climbing") << "../x" << false << ".._x.pdf"
+                                  << "_/x/";
+        QTest::newRow("climbing inside") << "x/../../y" << false << "x_.._.._y.pdf"
+                                         << "x/_/_/y/";
+        QTest::newRow("from the root") << "/etc" << false << "_etc.pdf"
+                                       << "etc/";
+        QTest::newRow("line feed") << "a\nb" << true << "a_b.pdf"
+                                   << "a_b/";
+        QTest::newRow("control") << QString::fromLatin1("a\0\x1b\x7f", 4) << false << "a___.pdf"
+                                 << "a___/";
+        QTest::newRow("suffixed") << "a.pdf" << true << "a.pdf"
+                                  << "a.pdf/";
+        QTest::newRow("other case") << "a.PDF" << true << "a.PDF.pdf"
+                                    << "a.PDF/";
+        QTest::newRow("letters") << QString::fromUtf8("Größe 1") << true << QString::fromUtf8("Größe 1.pdf")
+                                 << QString::fromUtf8("Größe 1/");
+    }
+    void names()
+    {
+        QFETCH(QString, given);
+        Report report;
+        QString entered = given;
+        int position = 0;
+        const QValidator* validator = qobject_cast<UiData*>(report.getSetting("reportName"))->getValidator();
+        QTEST(validator->validate(entered, position) == QValidator::Acceptable, "isAccepted");
+        QTEST(uiutils::reportPath("", given, ".pdf").mid(1), "file");
+        QTEST(uiutils::reportFolder("/b", "", given).mid(3), "folder");
+    }
+
+    void proposedNamesAndFolders()
+    {
+        const QDateTime time(QDate(2025, 3, 3), QTime(14, 5, 9));
+        QCOMPARE(uiutils::proposedReportName("Fiber Test", time), QString("Fiber_Test_030325140509"));
+        QCOMPARE(uiutils::proposedReportName("R&D\r\n", time), QString("RD___030325140509"));
+        QVERIFY(QRegularExpression("^_\\d{12}$").match(Report().proposedFileName()).hasMatch());
+        QCOMPARE(uiutils::reportFolder("/b", "Pro/../v", "a/b"), QString("/b/Pro/_/v/a/b/"));
+        QCOMPARE(uiutils::reportFolder("/b/", "Prov", ""), QString("/b/"));
+        QCOMPARE(uiutils::reportSettingsPath("otdr"), QString("/cust/private/lastconfigs/reportSettings/otdr.json"));
+    }
+
+    void formatsAndSuffixes()
+    {
+        Controller report;
+        QStringList suffixes;
+        for (int format = -1; format <= 6; ++format) {
+            report.getSetting("reportFormat")->setValue(format);
+            suffixes << report.getSuffixForReport();
+            const QVector<bool> answers{
+                    report.isPDF(), report.isXml(), report.isHtml(), report.isText(), report.isJson(), report.isAll()};
+            QCOMPARE(answers.indexOf(true), format > 5 ? -1 : format);
+            QCOMPARE(answers.count(true), format < 0 || format > 5 ? 0 : 1);
+        }
+        QCOMPARE(suffixes, QStringList({"", ".pdf", ".xml", ".html", ".txt", ".json", "", ""}));
+        report.getSetting("reportFormat")->setValue(QVariant());
+        QCOMPARE(report.getFormat(), -1);
+    }
+
+    void settingsSurvive()
+    {
+        Controller first;
+        first.setFolder("otdr/a");
+        first.setUp("mine", 2);
+        first.getSetting("reportSync_SS")->setValue(true);
+        first.saveSettings();
+        const QString path = onDisk("/cust/private/lastconfigs/reportSettings/otdr/a.json");
+        QCOMPARE(QJsonDocument::fromJson(contentsOf(path)).object(),
+                QJsonObject({{"reportName", "mine"}, {"reportFormat", 2}, {"reportSync_SS", true}}));
+        Controller second;
+        second.setFolder("otdr/a");
+        second.setFormatApplicable(2, true);
+        QTRY_COMPARE(second.getSetting("reportName")->getValue(), QVariant("mine"));
+        QCOMPARE(second.getFormat(), 2);
+        QCOMPARE(second.getSetting("reportSync_SS")->getValue(), QVariant(true));
+        // What is not offered is not taken either.
+        Controller third;
+        third.setFolder("otdr/a");
+        third.loadSettings();
+        QCOMPARE(third.getFormat(), 0);
+    }
+
+    void brokenSettings_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::addColumn<QString>("log");
+        QTest::addColumn<QString>("name");
+        const QString parse = "ERROR: Could not parse Json text:\n%1";
+        QTest::newRow("empty") << QByteArray("") << parse.arg("illegal value") << "";
+        QTest::newRow("torn") << json("{'reportName': 'a") << parse.arg("unterminated string") << "";
+        QTest::newRow("list") << QByteArray("[1]") << parse.arg("the file holds no object") << "";
+        QTest::newRow("huge") << QByteArray(uiutils::largestReportSettings + 1, ' ') << parse.arg("the file is too large")
+                              << "";
+        QTest::newRow("wrong shapes") << json("{'reportName': {}, 'reportFormat': '1', 'reportSync_SS': 7}") << ""
+                                      << "";
+        QTest::newRow("forbidden values") << json("{'reportName': '../x', 'reportFormat': 99}") << ""
+                                          << "";
+        QTest::newRow("halves and strangers") << json("{'reportFormat': 1.5, 'x': 1, 'reportName': 'ok'}") << ""
+                                              << "ok";
+    }
+    void brokenSettings()
+    {
+        QFETCH(QByteArray, contents);
+        QFETCH(QString, log);
+        Controller report;
+        QVERIFY(writeFile(onDisk("/cust/private/lastconfigs/reportSettings/.json"), contents));
+        if (!log.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(log));
+        report.loadSettings();
+        QTEST(report.getSetting("reportName")->getValue().toString(), "name");
+        QCOMPARE(report.getFormat(), 0);
+        QCOMPARE(report.getSetting("reportSync_SS")->getValue().toBool(), false);
+    }
+    void unreachableSettings()
+    {
+        Controller report;
+        const QString path = "/cust/private/lastconfigs/reportSettings/.json";
+        QTest::ignoreMessage(QtWarningMsg, qPrintable("Could not open " + path + " for reading"));
+        report.loadSettings();
+        QVERIFY(QDir().mkpath(onDisk(path)));
+        QTest::ignoreMessage(QtWarningMsg, qPrintable("Could not open " + path + " for reading"));
+        report.loadSettings();
+        QTest::ignoreMessage(QtWarningMsg, qPrintable("Could not open " + path + " for writing"));
+        report.saveSettings();
+    }
+
+    void saves_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<QStringList>("files");
+        QTest::newRow("pdf") << 0 << QStringList("a.pdf");
+        QTest::newRow("text") << 3 << QStringList("a.txt");
+        QTest::newRow("json") << 4 << QStringList("a.json");
+        QTest::newRow("all that are offered") << 5 << QStringList({"a.pdf", "a.xml"});
+        QTest::newRow("none") << 6 << QStringList();
+    }
+    void saves()
+    {
+        QFETCH(int, format);
+        QFETCH(QStringList, files);
+        Controller report;
+        report.setFolder("f");
+        report.setUp("a", format);
+        for (int other : {2, 3, 4})
+            report.setFormatApplicable(other, format != 5);
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        QCOMPARE(report.save(), !files.isEmpty());
+        QCOMPARE(names("/cust/public/reports/f"), files);
+        QCOMPARE(generated.count(), files.isEmpty() ? 0 : 1);
+        QCOMPARE(manager()->count(), files.size());
+        if (!files.isEmpty())
+            QCOMPARE(generated.at(0).at(0).toString(), "/cust/public/reports/f/" + files.at(0));
+        if (format == 3)
+            QCOMPARE(contentsOf(onDisk("/cust/public/reports/f/a.txt")), QByteArray());
+        if (format == 4)
+            QCOMPARE(contentsOf(onDisk("/cust/public/reports/f/a.json")), QByteArray("{ }"));
+    }
+
+    void derivedControllersIntercept()
+    {
+        Controller report;
+        report.setUp("", 1);
+        Emissions emissions(report);
+        QVERIFY(report.save());
+        QCOMPARE(report.calls,
+                QStringList({"started", "prepare", "writeXml", "writeText.xml", "written", "metadata XML", "succeeded"}));
+        QCOMPARE(emissions.names,
+                QStringList({"lastSavedXMLChanged", "reportFilesChanged", "saveLocationChanged", "reportGenerated"}));
+        QCOMPARE(report.getLastSavedXML(), QString("/cust/public/reports/proposed.xml"));
+        QCOMPARE(manager()->data(manager()->index(0), KIVNotificationModelManager::MsgRole).toString(),
+                QString("Report proposed saved\nFolder: reports"));
+        QCOMPARE(report.getOpenReportPath("proposed"), report.getLastSavedXML());
+        QCOMPARE(report.getOpenReportPath("proposed.xml"), report.getLastSavedXML());
+        QCOMPARE(report.getOpenReportPath("../reports/proposed"), QString());
+        report.setNotifiesTray(false);
+        report.setCompressionEnabled(true);
+        report.calls.clear();
+        QVERIFY(report.save(true));
+        QCOMPARE(report.getLastSavedXML(), QString("/cust/public/reports/proposed.xml.gz"));
+        QCOMPARE(manager()->count(), 1);
+    }
+
+    void overwritingIsAskedFor()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        report.text = QString::fromUtf8("größer");
+        QVERIFY(report.save());
+        report.text = "new";
+        QSignalSpy accepted(&report, &Report::reportOverwriteAccepted);
+        QVERIFY(!report.save());
+        QVERIFY(!report.save());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        const QString path = onDisk("/cust/public/reports/a.txt");
+        QCOMPARE(contentsOf(path), QByteArray("größer"));
+        QVERIFY(manager()->currentDialog());
+        QCOMPARE(manager()->waitingDialogs(), 0);
+        QCOMPARE(manager()->currentDialog()->msg(), QString("Do you want to overwrite report Internal:/reports/a.txt?"));
+        manager()->reject();
+        QCOMPARE(accepted.count(), 0);
+        QCOMPARE(report.calls.count("declined"), 1);
+        QVERIFY(!report.calls.contains("failed"));
+
+        QVERIFY(!report.save());
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&report] { QVERIFY(report.save(true)); });
+        KIVNotification* question = manager()->currentDialog();
+        manager()->accept();
+        QCOMPARE(accepted.count(), 1);
+        QCOMPARE(contentsOf(path), QByteArray("new"));
+        // An answer counts once.
+        report.overwriteAccepted(question);
+        report.overwriteAccepted(nullptr);
+        QCOMPARE(accepted.count(), 1);
+    }
+    void compressedTwinsCount()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt.gz"), "x"));
+        report.setCompressionEnabled(true);
+        QVERIFY(!report.save());
+        QVERIFY(manager()->currentDialog());
+        report.setCompressionEnabled(false);
+        QVERIFY(report.save());
+    }
+    void answersReachTheAskerAlone()
+    {
+        Controller other;
+        other.setUp("b", 3);
+        QVERIFY(other.save());
+        QVERIFY(!other.save());
+        QSignalSpy accepted(&other, &Report::reportOverwriteAccepted);
+        {
+            Controller gone;
+            gone.setUp("b", 3);
+            QVERIFY(!gone.save());
+            QCOMPARE(manager()->waitingDialogs(), 1);
+        }
+        QCOMPARE(manager()->waitingDialogs(), 0);
+        Controller second;
+        second.setUp("b", 3);
+        QVERIFY(!second.save());
+        QSignalSpy secondAccepted(&second, &Report::reportOverwriteAccepted);
+        manager()->accept();
+        QCOMPARE(accepted.count(), 1);
+        QCOMPARE(secondAccepted.count(), 0);
+        manager()->reject();
+        QCOMPARE(secondAccepted.count(), 0);
+        QCOMPARE(second.calls.count("declined"), 1);
+        QCOMPARE(other.calls.count("declined"), 0);
+    }
+
+    void failuresAreTold_data()
+    {
+        QTest::addColumn<QString>("obstacle");
+        for (const char* obstacle : {"folder", "file in the way", "full", "long", "no pages"})
+            QTest::newRow(obstacle) << obstacle;
+    }
+    void failuresAreTold()
+    {
+        QFETCH(QString, obstacle);
+        Controller report;
+        report.setFolder("f");
+        const bool hasPages = obstacle != "no pages";
+        const QString name = obstacle == "long" ? QString(150, QChar(0xe9)) : QString("a");
+        report.setUp(name, hasPages ? 3 : 0);
+        report.text = QString(10'000, 'x');
+        report.pages.clear();
+        const QString target = onDisk("/cust/public/reports/f/" + name + ".txt");
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        QSignalSpy files(&report, &Report::reportFilesChanged);
+        if (obstacle == "folder")
+            QVERIFY(QDir().mkpath(target));
+        if (obstacle == "file in the way")
+            QVERIFY(writeFile(onDisk("/cust/public/reports/f"), ""));
+        if (obstacle == "full") {
+            QVERIFY(writeFile(target, "former"));
+            const FileSizeLimit limit(4096);
+            QVERIFY(!report.save(true));
+        } else {
+            QVERIFY(!report.save(true));
+        }
+        QCOMPARE(generated.count() + files.count(), 0);
+        QCOMPARE(report.calls.constLast(), QString("failed"));
+        QVERIFY(manager()->currentDialog());
+        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Write Error"));
+        QVERIFY(!report.calls.contains("written"));
+        if (obstacle == "full")
+            QCOMPARE(contentsOf(target), QByteArray("former"));
+        QCOMPARE(names("/cust/public/reports/f").size(), obstacle == "full" || obstacle == "folder" ? 1 : 0);
+    }
+
+    void fullDrivesAreToldBeforehand()
+    {
+        const QByteArray stick = QFile::encodeName(onDisk("/mnt/usb"));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        if (::mount("none", stick.constData(), "tmpfs", 0, "size=256k") != 0)
+            QSKIP("Only those who may mount a drive can fill one.");
+        const auto unmount = qScopeGuard([&] { ::umount2(stick.constData(), MNT_DETACH); });
+        QVERIFY(writeFile(onDisk("/mnt/usb/half"), QByteArray(128 * 1024, 'x')));
+        Controller report;
+        report.setUp("a", 3);
+        const double used = report.percentageFileSystemUsed("/mnt/usb/not/there");
+        QVERIFY2(used > 49 && used < 55, qPrintable(QString::number(used)));
+        for (int location : {1, 2}) {
+            QVERIFY(basemgr()->setValue(locationItem, location));
+            QVERIFY(basemgr()->setValue(usbItem, true));
+            QVERIFY(!report.save());
+            QVERIFY(!report.save());
+            QCOMPARE(manager()->currentDialog()->longLabel(), QString("Not Enough Space"));
+            QCOMPARE(manager()->waitingDialogs(), 0);
+            QCOMPARE(report.calls.constLast(), QString("failed"));
+            QVERIFY(!QFile::exists(onDisk("/cust/public/reports/a.txt")) && names("/mnt/usb").size() == 1);
+            // Without a stick nothing goes there.
+            QVERIFY(basemgr()->setValue(usbItem, false));
+            QVERIFY(report.save());
+            QVERIFY(QFile::remove(onDisk("/cust/public/reports/a.txt")));
+        }
+    }
+
+    void platformKeepsTheName()
+    {
+        int kept = 0;
+        const auto count = [&kept](const QString&, QString*) { return ++kept > 0; };
+        QVERIFY(basemgr()->setActionHandler(":action:basemgr:system:report_update_name_configs:", count));
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(report.save());
+        QCOMPARE(kept, 1);
+        report.keepsName = false;
+        QVERIFY(report.save(true));
+        QCOMPARE(kept, 1);
+    }
+
+    void syncChoiceIsRecorded()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(report.save());
+        QVERIFY(report.save(true));
+        const QString list = onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt");
+        QCOMPARE(contentsOf(list), QByteArray("/cust/public/reports/a.txt\n/cust/public/reports/a.json\n"));
+        QCOMPARE(basemgr()->item(":config:basemgr:system:ss_nosync:stringARRAY:")->getValue().toStringList().size(), 2);
+        report.getSetting("reportSync_SS")->setValue(true);
+        QVERIFY(report.save(true));
+        QCOMPARE(contentsOf(list), QByteArray());
+    }
+
+    void jobsTakeReportsOrSayWhyNot()
+    {
+        Controller report;
+        QVERIFY(report.writeToJobManager());
+        QVERIFY(!manager()->currentDialog());
+        QVERIFY(basemgr()->setValue(activeItem, false));
+        QVERIFY(!report.writeToJobManager());
+        QCOMPARE(manager()->currentDialog()->msg(), QString("There is no active job"));
+    }
+
+    void viewerIsStarted()
+    {
+        const QString viewer = onDisk("/base/bin/pdf_viewer");
+        QVERIFY(writeFile(
+                viewer, "#!/bin/sh\nprintf '%s\\n' \"$PWD\" \"$@\" > arguments.part\nmv arguments.part arguments\n"));
+        QVERIFY(QFile::setPermissions(viewer, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QVERIFY(QDir().mkpath(onDisk("/base/qml/pdf_viewer")));
+        Report report;
+        report.showPDF("/cust/a.PDF");
+        report.showPDF("");
+        report.showPDF("/cust/a b.pdf.gz");
+        const QString arguments = onDisk("/base/qml/pdf_viewer/arguments");
+        QTRY_VERIFY(QFile::exists(arguments));
+        QCOMPARE(QString::fromUtf8(contentsOf(arguments)).split('\n'),
+                QStringList({onDisk("/base/qml/pdf_viewer"), "-plugin", "EvdevTouch:/dev/input/event1", "--dpy", "85",
+                        "-s", onDisk("/cust/a b.pdf.gz"), "-t", "View Report", ""}));
+        QVERIFY(QFile::remove(arguments));
+        report.setTitle("Shown again");
+        report.showPDF("");
+        QTRY_VERIFY(QFile::exists(arguments));
+        QVERIFY(contentsOf(arguments).endsWith("/cust/a b.pdf.gz\n-t\nShown again\n"));
+    }
+
+    void aPageSaves()
+    {
+        uiutils::registerTypes("UiUtils");
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData(R"(
+            import QtQml 2.15
+            import UiUtils 1.0
+            Report {
+                folder: "page"
+                property string saved
+                property string label: settings.reportFormat.label
+                onReportGenerated: saved = filename
+                Component.onCompleted: {
+                    getSetting("reportName").value = "q"
+                    getSetting("reportFormat").value = 1
+                    startPossibleSave()
+                    save()
+                    gc()
+                }
+            }
+        )",
+                QUrl());
+        const std::unique_ptr<QObject> page(component.create());
+        QVERIFY2(page, qPrintable(component.errorString()));
+        QCOMPARE(page->property("saved").toString(), QString("/cust/public/reports/page/q.xml"));
+        QCOMPARE(page->property("label").toString(), QString("Format"));
+        QVERIFY(page->findChild<StringUiData*>());
+    }
+
+    void builtInPagesAndMarkup()
+    {
+        Report report;
+        report.setTitle("Own title");
+        QVERIFY(report.generatePDFReport().startsWith("%PDF-"));
+        QVERIFY(report.generateHtmlReport().contains("Own title"));
+        report.setShowSoftwareRevs(false);
+        QVERIFY(!report.generateHtmlReport().contains("Software Revisions"));
+        QVERIFY(report.generateXmlReport().startsWith("<?xml"));
+    }
+};
+
+QTEST_MAIN(ReportTest)
+
+#include "tst_report.moc"

@@ -1,0 +1,494 @@
+#include "report/gzip_p.h"
+#include "report/jobreport_p.h"
+#include "report/nsreport.h"
+#include "report/reportfilewriter_p.h"
+#include "report/reportlisting_p.h"
+#include "report/savednotice_p.h"
+
+#include <embedded/embeddedbackend.h>
+#include <embedded/embeddedservice.h>
+#include <kiv/kivnotificationmodelmanager.h>
+
+#include <QDir>
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <algorithm>
+#include <csignal>
+#include <limits>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int large = 100'000;
+
+bool writeFile(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
+}
+
+QByteArray contentsOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
+}
+
+QByteArray noise(int size)
+{
+    QRandomGenerator random(7);
+    QByteArray bytes(size, 0);
+    std::generate(bytes.begin(), bytes.end(), [&] { return char(random.bounded(256)); });
+    return bytes;
+}
+
+/// Gives the process a folder with this shell script as gzip and nothing else to look programs up in, or an empty one.
+class OtherGzip
+{
+public:
+    explicit OtherGzip(const QByteArray& script)
+    {
+        const QString path = m_folder.filePath("gzip");
+        if (!script.isEmpty())
+            writeFile(path, "#!/bin/sh\n" + script);
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner);
+        qputenv("PATH", QFile::encodeName(m_folder.path()));
+    }
+    ~OtherGzip() { qputenv("PATH", m_before); }
+    Q_DISABLE_COPY_MOVE(OtherGzip)
+
+private:
+    QTemporaryDir m_folder;
+    QByteArray m_before = qgetenv("PATH");
+};
+
+/// Lets no file of this process and its children grow past `bytes` while it lives, like a full disk.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        ::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit {bytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+    Q_DISABLE_COPY_MOVE(FileSizeLimit)
+
+private:
+    rlimit m_before {};
+};
+
+} // namespace
+
+class ReportPartsTest : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_root;
+
+    QString onDisk(const QString& path) const { return m_root->path() + path; }
+    QStringList names() const
+    {
+        return QDir(onDisk("/cust/public/reports"))
+                .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot | QDir::System, QDir::Name);
+    }
+    QByteArray unpacked(const QString& path) const
+    {
+        QProcess gzip;
+        gzip.start("gzip", {"-dc", onDisk(path)});
+        return gzip.waitForFinished() && gzip.exitCode() == 0 ? gzip.readAll() : QByteArray("<no gzip file>");
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_root = std::make_unique<QTemporaryDir>();
+        qputenv("UIUTILS_ROOT", QFile::encodeName(m_root->path()));
+        QVERIFY(QDir().mkpath(onDisk("/cust/public/reports/otdr")));
+        QVERIFY(QDir().rmdir(onDisk("/cust/public/reports/otdr")));
+        QVERIFY(QDir::setCurrent(onDisk("/cust/public/reports")));
+    }
+    void cleanup() { QDir::setCurrent("/"); }
+
+    void placesOnEarth_data()
+    {
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        const double infinite = std::numeric_limits<double>::infinity();
+        QTest::addColumn<double>("latitude");
+        QTest::addColumn<double>("longitude");
+        QTest::addColumn<bool>("isValid");
+        QTest::newRow("corner") << -90.0 << 180.0 << true;
+        QTest::newRow("equator") << 0.0 << 9.5 << true;
+        QTest::newRow("Greenwich") << 51.5 << 0.0 << true;
+        QTest::newRow("no fix") << 0.0 << -0.0 << false;
+        QTest::newRow("beyond the pole") << 90.001 << 0.0 << false;
+        QTest::newRow("once round") << 0.0 << -180.001 << false;
+        QTest::newRow("not a number") << nan << 10.0 << false;
+        QTest::newRow("infinite") << 10.0 << -infinite << false;
+    }
+    void placesOnEarth()
+    {
+        QFETCH(double, latitude);
+        QFETCH(double, longitude);
+        QTEST(NSReport::isGeoLocationValid(latitude, longitude), "isValid");
+    }
+
+    void timeZones_data()
+    {
+        QTest::addColumn<QString>("zone");
+        QTest::addColumn<int>("minutes");
+        QTest::newRow("summer") << "Europe/Oslo" << 120;
+        QTest::newRow("offset") << "+02:00" << 120;
+        QTest::newRow("west, half an hour") << "-0330" << -210;
+        QTest::newRow("hours") << "+14" << 840;
+        QTest::newRow("UTC") << "UTC" << 0;
+        for (const char* unknown : {"", "Europe/Nowhere", "+14:01", "+02:60", "+2", "../../etc/passwd", "+02:00\n"})
+            QTest::addRow("unknown: %s", unknown) << unknown << 60;
+    }
+    void timeZones()
+    {
+        QFETCH(QString, zone);
+        const QDateTime noon(QDate(2025, 7, 1), QTime(12, 0), Qt::OffsetFromUTC, 3600);
+        const QDateTime adjusted = NSReport::adjustDateTimeToTimeZone(noon, zone);
+        QCOMPARE(adjusted, noon);
+        QTEST(adjusted.offsetFromUtc() / 60, "minutes");
+        QVERIFY(!NSReport::adjustDateTimeToTimeZone(QDateTime(), zone).isValid());
+    }
+
+    void packsNamesThatAreNoOrdinaryOnes_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"plain.txt", "two words.txt", "a\"; touch hacked; \".txt", "$(touch hacked).txt",
+                     "`touch hacked`.txt", "${HOME}.txt", "back\\slash.txt", "at the end\\", "a'b.txt", "-d.txt", "--help",
+                     "line\nfeed.txt", "; touch hacked", "Größe 光纤.txt", "!!*?~&|<>.txt"})
+            QTest::newRow(name) << QString::fromUtf8(name);
+    }
+    void packsNamesThatAreNoOrdinaryOnes()
+    {
+        QFETCH(QString, name);
+        for (const QString& path : {"/cust/public/reports/" + name, name}) {
+            QVERIFY(writeFile(name, "contents"));
+            QVERIFY(uiutils::compressFile(path));
+            QCOMPARE(names(), QStringList(name + ".gz"));
+            QVERIFY(uiutils::uncompressFile(path + ".gz"));
+            QCOMPARE(names(), QStringList(name));
+            QCOMPARE(contentsOf(onDisk("/cust/public/reports/" + name)), QByteArray("contents"));
+        }
+    }
+
+    void gzipIsCalledAsAgreed()
+    {
+        const OtherGzip gzip("printf '%s|' \"$@\" > arguments");
+        QVERIFY(uiutils::compressFile("/cust/public/reports/a b.txt"));
+        QCOMPARE(contentsOf("arguments"), QFile::encodeName("-f|" + onDisk("/cust/public/reports/a b.txt|")));
+    }
+
+    void saysWhatCannotBePacked_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QByteArray>("gzip");
+        const QString report("/cust/public/reports/a.txt");
+        QTest::newRow("no gzip") << report << QByteArray();
+        QTest::newRow("gzip warns") << report << QByteArray("exit 2");
+        QTest::newRow("gzip dies") << report << QByteArray("kill -9 $$");
+        QTest::newRow("NUL") << report + QChar(QChar::Null) + "b" << QByteArray("exit 0");
+    }
+    void saysWhatCannotBePacked()
+    {
+        QFETCH(QString, path);
+        QFETCH(QByteArray, gzip);
+        QVERIFY(writeFile("a.txt", "contents"));
+        const OtherGzip other(gzip);
+        QTest::ignoreMessage(QtDebugMsg, qPrintable("Couldn't compress " + path));
+        QVERIFY(!uiutils::compressFile(path));
+        QTest::ignoreMessage(QtDebugMsg, "Couldn't uncompress /cust/public/reports/b.gz");
+        QVERIFY(!uiutils::uncompressFile("/cust/public/reports/b.gz"));
+        QCOMPARE(names(), QStringList("a.txt"));
+    }
+
+    void aHostMayIgnoreItsChildren()
+    {
+        QVERIFY(writeFile("a.txt", "contents"));
+        const auto before = ::signal(SIGCHLD, SIG_IGN);
+        const bool isPacked = uiutils::compressFile("/cust/public/reports/a.txt");
+        QTest::ignoreMessage(QtDebugMsg, "Couldn't compress /cust/public/reports/missing");
+        const bool isMissingPacked = uiutils::compressFile("/cust/public/reports/missing");
+        QVERIFY(::signal(SIGCHLD, before) == SIG_IGN);
+        QVERIFY(isPacked);
+        QVERIFY(!isMissingPacked);
+        QCOMPARE(names(), QStringList("a.txt.gz"));
+    }
+
+    void writesReports_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("contents");
+        QTest::newRow("text") << "Größe $(1).txt" << QByteArray("Loss 0.25 dB\n").repeated(1000);
+        QTest::newRow("empty") << "-f.txt" << QByteArray();
+        QTest::newRow("as long as names are") << QString(248, 'x') + ".txt" << noise(large);
+    }
+    void writesReports()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, contents);
+        const QString path = "/cust/public/reports/" + name;
+        QVERIFY(uiutils::writeReportFile(path, "another form", false).ok);
+        QVERIFY(writeFile("elsewhere", "kept"));
+        QVERIFY(QFile::link("elsewhere", name + ".gz"));
+
+        const uiutils::WrittenFile packed = uiutils::writeReportFile(path, contents, true);
+        QVERIFY2(packed.ok, qPrintable(packed.error));
+        QCOMPARE(packed.path, path + ".gz");
+        QVERIFY(!QFileInfo(name + ".gz").isSymLink());
+        QCOMPARE(unpacked(path + ".gz"), contents);
+        // Unpackers give the file the name that gzip has noted behind its ten bytes of head.
+        QCOMPARE(QFile::decodeName(contentsOf(name + ".gz").mid(10).constData()), name);
+        QCOMPARE(contentsOf(name), QByteArray("another form"));
+        QCOMPARE(contentsOf("elsewhere"), QByteArray("kept"));
+
+        const uiutils::WrittenFile plain = uiutils::writeReportFile(path, contents, false);
+        QVERIFY(plain.ok && plain.path == path && plain.error.isEmpty());
+        QCOMPARE(contentsOf(name), contents);
+        QStringList expected {name, name + ".gz", "elsewhere"};
+        expected.sort();
+        QStringList found = names();
+        found.sort();
+        QCOMPARE(found, expected);
+    }
+
+    void aReportThatCannotBePackedIsNotLost_data()
+    {
+        QTest::addColumn<QByteArray>("gzip");
+        QTest::newRow("missing") << QByteArray();
+        QTest::newRow("fails") << QByteArray("echo half > \"$2.gz\"\nexit 1");
+        QTest::newRow("writes half") << QByteArray("printf '\\037\\213half of what it should have' > \"$2.gz\"");
+        QTest::newRow("does nothing") << QByteArray("exit 0");
+    }
+    void aReportThatCannotBePackedIsNotLost()
+    {
+        QFETCH(QByteArray, gzip);
+        const QString path("/cust/public/reports/a.txt");
+        QVERIFY(uiutils::writeReportFile(path, "old", true).ok);
+        const OtherGzip other(gzip);
+        const uiutils::WrittenFile file = uiutils::writeReportFile(path, "new", true);
+        QVERIFY(!file.ok);
+        QCOMPARE(file.path, path);
+        QCOMPARE(file.error, QString("Cannot compress %1: gzip is missing or has failed").arg(path));
+        QCOMPARE(names(), QStringList({"a.txt", "a.txt.gz"}));
+        QCOMPARE(contentsOf("a.txt"), QByteArray("new"));
+        qputenv("PATH", "/usr/bin:/bin");
+        QCOMPARE(unpacked(path + ".gz"), QByteArray("old"));
+    }
+
+    void aFullDiskLeavesWhatWasThere_data()
+    {
+        QTest::addColumn<bool>("compressed");
+        QTest::addColumn<int>("room");
+        QTest::addColumn<QByteArray>("left");
+        QTest::newRow("plain") << false << large / 2 << QByteArray("old");
+        QTest::newRow("to be packed") << true << large / 2 << QByteArray("old");
+        // What cannot be made smaller gets larger.
+        QTest::newRow("no room for the packed") << true << large << noise(large);
+    }
+    void aFullDiskLeavesWhatWasThere()
+    {
+        QFETCH(bool, compressed);
+        QFETCH(int, room);
+        const QString path("/cust/public/reports/a.txt");
+        const QByteArray contents = noise(large);
+        QVERIFY(uiutils::writeReportFile(path, "old", false).ok);
+        QVERIFY(uiutils::writeReportFile(path, "old", true).ok);
+        uiutils::WrittenFile file;
+        {
+            const FileSizeLimit limit {rlim_t(room)};
+            file = uiutils::writeReportFile(path, contents, compressed);
+        }
+        QVERIFY(!file.ok);
+        QVERIFY(!file.error.isEmpty());
+        QTEST(contentsOf("a.txt"), "left");
+        QCOMPARE(file.path, contentsOf("a.txt") == contents ? path : QString());
+        QCOMPARE(unpacked(path + ".gz"), QByteArray("old"));
+        QCOMPARE(names(), QStringList({"a.txt", "a.txt.gz"}));
+    }
+
+    void badTargets_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("no folder") << "/cust/public/reports/none/a.txt";
+        QTest::newRow("a folder") << "/cust/public/reports/folder.txt";
+        QTest::newRow("NUL") << QString("/cust/public/reports/a.txt") + QChar(QChar::Null) + "b";
+        QTest::newRow("NUL in the folder") << QString("/cust/public/reports/new") + QChar(QChar::Null) + "/a.txt";
+        QTest::newRow("empty") << "";
+    }
+    void badTargets()
+    {
+        QFETCH(QString, path);
+        QVERIFY(QDir().mkpath("folder.txt/full") && QDir().mkpath("folder.txt.gz/full"));
+        for (const bool compressed : {false, true}) {
+            const uiutils::WrittenFile file = uiutils::writeReportFile(path, "contents", compressed);
+            QVERIFY(!file.ok);
+            QVERIFY(!file.error.isEmpty() && !file.error.contains(QChar(QChar::Null)));
+            QCOMPARE(file.path, QString());
+            QCOMPARE(names(), QStringList({"folder.txt", "folder.txt.gz"}));
+        }
+    }
+
+    void listsReports()
+    {
+        const QDateTime noon(QDate(2025, 7, 1), QTime(12, 0));
+        const auto add = [&](const QString& name, int minutes, int size) {
+            QVERIFY(writeFile(name, QByteArray(size, 'x')));
+            QFile file(name);
+            QVERIFY(file.open(QIODevice::Append));
+            QVERIFY(file.setFileTime(noon.addSecs(60 * minutes), QFileDevice::FileModificationTime));
+        };
+        add("old.pdf", 1, 10);
+        add("new.v2.html.gz", 3, 20);
+        add("b.json", 2, 0);
+        add("B.xml", 2, 1);
+        add("a.b.txt", 2, 1);
+        add("a.txt", 2, 1);
+        add("a.pdf.gz", 2, 1);
+        for (const char* other : {".hidden.pdf", ".uiutils-1.tmp", ".pdf", "a.gz", "a.sor", "pdf", "a.pdf.gz.tmp"})
+            add(other, 4, 1);
+        QVERIFY(QDir().mkpath("folder.pdf") && QFile::link("nowhere", "dangling.pdf"));
+        QVERIFY(QFile::link("folder.pdf", "linkedfolder.pdf") && QFile::link("old.pdf", "linked.pdf"));
+        QCOMPARE(::mkfifo("pipe.pdf", 0600), 0);
+        add("folder.pdf/inside.pdf", 4, 1);
+
+        for (const QString& folder : {QString("/cust/public/reports"), QString("/cust/public/reports/")}) {
+            QStringList lines;
+            const QVariantList files = uiutils::reportFiles(folder);
+            for (const QVariant& file : files) {
+                const QVariantMap map = file.toMap();
+                lines += QStringList({map["name"].toString(), map["path"].toString(), map["format"].toString(),
+                        map["size"].toString(), QString::number(noon.secsTo(map["time"].toDateTime()) / 60),
+                        map["compressed"].toString()}).join(' ');
+            }
+            QCOMPARE(lines, QStringList({"new.v2 /cust/public/reports/new.v2.html.gz HTML 20 3 true",
+                                    "B /cust/public/reports/B.xml XML 1 2 false",
+                                    "a /cust/public/reports/a.pdf.gz PDF 1 2 true",
+                                    "a /cust/public/reports/a.txt TEXT 1 2 false",
+                                    "a.b /cust/public/reports/a.b.txt TEXT 1 2 false",
+                                    "b /cust/public/reports/b.json JSON 0 2 false",
+                                    "linked /cust/public/reports/linked.pdf PDF 10 1 false",
+                                    "old /cust/public/reports/old.pdf PDF 10 1 false"}));
+        }
+        for (const QString& none : {QString(), QString("/cust/none"), QString("/cust/public/reports/a.txt")})
+            QVERIFY(uiutils::reportFiles(none).isEmpty());
+    }
+
+    void tellsOfTheJob()
+    {
+        QCOMPARE(uiutils::jobSummary(), QString());
+        kiv::embedded::EmbeddedBackend backend;
+        QVERIFY(!uiutils::isJobActive());
+        QVERIFY(backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));
+        kiv::embedded::EmbeddedService* service = backend.service("basemgr");
+        QVERIFY(uiutils::isJobActive());
+        QCOMPARE(uiutils::jobSummary(), QString("ID: WO-88213, Tech: Ines Halvorsen, BAN: 700 118 245"));
+        service->setValue(":result:basemgr:jobmanager:jobTechnician:", " ");
+        service->setValue(":result:basemgr:jobmanager:jobBAN:", "7\n%1");
+        QCOMPARE(uiutils::jobSummary(), QString("ID: WO-88213, BAN: 7 %1"));
+        service->setValue(":result:basemgr:jobmanager:isJobActive:", false);
+        QVERIFY(!uiutils::isJobActive());
+        QCOMPARE(uiutils::jobSummary(), QString());
+    }
+
+    void attachesReports_data()
+    {
+        QTest::addColumn<bool>("isJobActive");
+        QTest::addColumn<QString>("schema");
+        QTest::addColumn<QString>("xml");
+        QTest::addColumn<QString>("reason");
+        const QString fits = QString::fromUtf8("<report>Größe</report>");
+        QTest::newRow("no schema") << true << "" << "<anything/>" << "";
+        QTest::newRow("fits") << true << "job.xsd" << fits << "";
+        QTest::newRow("does not fit") << true << "job.xsd" << "<other/>"
+                                      << "The report is not what jobs accept: line 1: .*other.*";
+        QTest::newRow("no XML") << true << "job.xsd" << "" << "The report is not what jobs accept: .+";
+        QTest::newRow("missing schema") << true << "none.xsd" << fits
+                                        << "The schema /cust/private/none\\.xsd cannot be used: .+";
+        QTest::newRow("refused") << true << "" << "refuse" << "The job has not taken the report: Job %1 is closed";
+        QTest::newRow("no job") << false << "none.xsd" << fits << "There is no active job";
+    }
+    void attachesReports()
+    {
+        QFETCH(bool, isJobActive);
+        QFETCH(QString, schema);
+        QFETCH(QString, xml);
+        QFETCH(QString, reason);
+        QVERIFY(QDir().mkpath(onDisk("/cust/private")));
+        QVERIFY(writeFile(onDisk("/cust/private/job.xsd"),
+                "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'><xs:element name='report' type='xs:string'/>"
+                "</xs:schema>"));
+        kiv::embedded::EmbeddedBackend backend;
+        QVERIFY(backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));
+        kiv::embedded::EmbeddedService* service = backend.service("basemgr");
+        service->setValue(":result:basemgr:jobmanager:isJobActive:", isJobActive);
+        QStringList taken;
+        QVERIFY(service->setActionHandler(":action:basemgr:jobmanager:attachReport:",
+                [&](const QString& argument, QString* error) {
+                    if (argument == "refuse")
+                        *error = "Job %1 is closed";
+                    else
+                        taken += argument;
+                    return argument != "refuse";
+                }));
+        QString found("stale");
+        const QString schemaPath = schema.isEmpty() ? QString() : "/cust/private/" + schema;
+        QCOMPARE(uiutils::attachToJob(xml.toUtf8(), schemaPath, &found), reason.isEmpty());
+        QVERIFY2(QRegularExpression("\\A(?s:" + reason + ")\\z").match(found).hasMatch(), qPrintable(found));
+        QCOMPARE(taken, reason.isEmpty() ? QStringList(xml) : QStringList());
+        QCOMPARE(uiutils::attachToJob(xml.toUtf8(), schemaPath, nullptr), reason.isEmpty());
+    }
+    void theReferencePlatformTakesReports()
+    {
+        QString reason;
+        QVERIFY(!uiutils::attachToJob("<report/>", QString(), &reason));
+        QCOMPARE(reason, QString("There is no active job"));
+        kiv::embedded::EmbeddedBackend backend;
+        QVERIFY(backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));
+        QVERIFY2(uiutils::attachToJob("<report/>", QString(), &reason), qPrintable(reason));
+    }
+
+    void savedMessages_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("folder") << "/cust/public/reports/otdr/Fiber.7.pdf" << "Report Fiber.7 saved\nFolder: reports/otdr";
+        QTest::newRow("compressed") << "/cust/public/reports/a.txt.gz" << "Report a saved\nFolder: reports";
+        QTest::newRow("stick") << "/mnt/usb/otdr/a.html" << "Report a saved\nFolder: USB";
+        QTest::newRow("beside the stick") << "/mnt/usb2/a.html" << "Report a saved\nFolder: /mnt/usb2";
+        QTest::newRow("top") << "/cust/public/a.xml" << "Report a saved\nFolder: ";
+        QTest::newRow("elsewhere") << "/cust/private//a.xml" << "Report a saved\nFolder: /cust/private";
+        QTest::newRow("marks") << "/cust/public/%1/%2.xml" << "Report %2 saved\nFolder: %1";
+    }
+    void savedMessages()
+    {
+        QFETCH(QString, path);
+        QTEST(uiutils::savedMessage(path), "text");
+    }
+
+    void noticesStayInTheTray()
+    {
+        auto* manager = KIVNotificationModelManager::instance();
+        uiutils::postSavedNotice("/cust/public/reports/a.txt");
+        QCOMPARE(manager->count(), 1);
+        QVERIFY(!manager->currentDialog());
+        const QModelIndex entry = manager->index(0);
+        QCOMPARE(entry.data(KIVNotificationModelManager::KindRole).toInt(), int(KIVNotification::Notice));
+        QCOMPARE(entry.data(KIVNotificationModelManager::LongLabelRole).toString(), QString("Report Saved"));
+        QCOMPARE(entry.data(KIVNotificationModelManager::MsgRole).toString(), QString("Report a saved\nFolder: reports"));
+        manager->clear();
+    }
+};
+
+QTEST_GUILESS_MAIN(ReportPartsTest)
+#include "tst_reportparts.moc"
