@@ -21,6 +21,7 @@ namespace {
 
 /// What the page writers take.
 constexpr qint64 maximumLogoSize = qint64(1024) * 1024;
+constexpr qint64 maximumLogoPixels = 50'000'000;
 
 QByteArray contentsOf(const QString& path)
 {
@@ -87,7 +88,11 @@ QByteArray pdfOf(const ReportTemplate& report, Generation& generation)
     const QString path = generation.scratchFolder + QStringLiteral("/pages.pdf");
     const bool isPrinted = writer.write(path, &generation.error);
     qDeleteAll(items);
-    return isPrinted ? contentsOf(path) : QByteArray();
+    const QByteArray pages = isPrinted ? contentsOf(path) : QByteArray();
+    // Null without a reason would be taken for a signal.
+    if (isPrinted && pages.isEmpty())
+        generation.error = QCoreApplication::translate("Formats", "The printed pages cannot be read again.");
+    return pages.isEmpty() ? QByteArray() : pages;
 }
 
 QByteArray xmlOf(const ReportTemplate& report, Generation&)
@@ -141,6 +146,9 @@ QString logoProblem(const QString& path)
         return tr("The logo %1 cannot be read. Name a picture file with --logo.").arg(path);
     if (file.size() > maximumLogoSize)
         return tr("The logo %1 is larger than 1 MiB. Make it smaller.").arg(path);
+    const QSize size = QImageReader(path).size();
+    if (qint64(size.width()) * size.height() > maximumLogoPixels)
+        return tr("The logo %1 has more than 50 million pixels. Make it smaller.").arg(path);
     if (!QImageReader(path).canRead())
         return tr("The logo %1 is no picture in a known format. Name a PNG or JPEG file with --logo.").arg(path);
     return {};

@@ -165,8 +165,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         for (const char* name : {"plain.txt", "two words.txt", "a\"; touch hacked; \".txt", "$(touch hacked).txt",
-                     "`touch hacked`.txt", "${HOME}.txt", "back\\slash.txt", "at the end\\", "a'b.txt", "-d.txt", "--help",
-                     "line\nfeed.txt", "; touch hacked", "Größe 光纤.txt", "!!*?~&|<>.txt"})
+                     "`touch hacked`.txt", "${HOME}.txt", "back\\slash.txt", "at the end\\", "a'b.txt", "-d.txt",
+                     "--help", "line\nfeed.txt", "; touch hacked", "Größe 光纤.txt", "!!*?~&|<>.txt"})
             QTest::newRow(name) << QString::fromUtf8(name);
     }
     void packsNamesThatAreNoOrdinaryOnes()
@@ -462,7 +462,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("text");
-        QTest::newRow("folder") << "/cust/public/reports/otdr/Fiber.7.pdf" << "Report Fiber.7 saved\nFolder: reports/otdr";
+        QTest::newRow("folder") << "/cust/public/reports/otdr/Fiber.7.pdf"
+                                << "Report Fiber.7 saved\nFolder: reports/otdr";
         QTest::newRow("compressed") << "/cust/public/reports/a.txt.gz" << "Report a saved\nFolder: reports";
         QTest::newRow("stick") << "/mnt/usb/otdr/a.html" << "Report a saved\nFolder: USB";
         QTest::newRow("beside the stick") << "/mnt/usb2/a.html" << "Report a saved\nFolder: /mnt/usb2";
@@ -485,7 +486,8 @@ private Q_SLOTS:
         const QModelIndex entry = manager->index(0);
         QCOMPARE(entry.data(KIVNotificationModelManager::KindRole).toInt(), int(KIVNotification::Notice));
         QCOMPARE(entry.data(KIVNotificationModelManager::LongLabelRole).toString(), QString("Report Saved"));
-        QCOMPARE(entry.data(KIVNotificationModelManager::MsgRole).toString(), QString("Report a saved\nFolder: reports"));
+        QCOMPARE(entry.data(KIVNotificationModelManager::MsgRole).toString(),
+                QString("Report a saved\nFolder: reports"));
         manager->clear();
     }
 };

@@ -348,6 +348,7 @@ private Q_SLOTS:
                 {"a.json -f pdf --logo ''", "--logo"},
                 {"a.json -f pdf --logo x --no-logo", "together"},
                 {"a.json -f pdf --logo a.json", "a.json is no picture"},
+                {"a.json -f pdf --logo huge.bmp", "50 million pixels"},
                 {"a.json sub/b.json -f xml -o -", "one document"},
                 {"a.json -f all -o -", "one document"},
                 {"a.json sub/b.json -f xml -o new", "\"/\""},
@@ -369,6 +370,9 @@ private Q_SLOTS:
         QVERIFY(QDir(m_folder->path()).mkdir("sub") && QFile::link(m_folder->path(), path("link")));
         for (const char* name : {"a.json", "sub/a.json", "sub/b.json"})
             write(path(name), smallDocument);
+        // The head of 9,000 by 9,000 pixels.
+        write(path("huge.bmp"), QByteArray::fromHex("424d00000000000000003600000028000000282300002823000001002000")
+                        + QByteArray(24, '\0'));
         const auto before = snapshot(m_folder->path());
 
         const Outcome outcome = runLine("exec \"$0\" " + arguments);

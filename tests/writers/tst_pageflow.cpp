@@ -28,6 +28,8 @@ public:
     Position end() const override { return {m_lines.size(), 0}; }
     Portion split(const Position& begin, qreal room, bool isWholePage) const override
     {
+        if (m_lines.isEmpty())
+            qFatal("an item of nothing was split");
         Portion portion = uiutils::takeRows(m_lines, {10, 0}, begin, m_lines.size(), room - m_head, isWholePage);
         if (!portion.isEmpty())
             portion.height += m_head;
@@ -122,6 +124,7 @@ private Q_SLOTS:
 
         QTest::newRow("all") << 5 << 0 << 50.0 << false << 5;
         QTest::newRow("one would be left") << 5 << 0 << 49.0 << false << 3;
+        QTest::newRow("one of three would be left") << 3 << 0 << 25.0 << false << 0;
         QTest::newRow("only one fits") << 5 << 0 << 19.0 << false << 0;
         QTest::newRow("a single line") << 1 << 0 << 10.0 << false << 1;
         QTest::newRow("no page holds two") << 5 << 0 << 19.0 << true << 1;
@@ -167,6 +170,14 @@ private Q_SLOTS:
         // Several stay together.
         QCOMPARE(flow({new FakeItem(5), heading(), heading(), new FakeItem(2, 10)}, 100),
                 (QStringList {"0:0@0 0-5", "1:1@0 0-1", "1:2@15 0-1", "1:3@30 0-2", "2 pages"}));
+        // A row that no page holds below its headings is torn there rather than parted from them.
+        auto* tall = new FakeItem(1);
+        tall->setLines(0, 10);
+        QCOMPARE(flow({new FakeItem(5), heading(), tall}, 100),
+                (QStringList {"0:0@0 0-5", "1:1@0 0-1", "1:2@15 0-0.8", "2:2@0 0.8-1", "3 pages"}));
+        // What shows nothing does not count, and takes no room.
+        QCOMPARE(flow({new FakeItem(7), heading(), new FakeItem(0), new FakeItem(2, 10)}, 100),
+                (QStringList {"0:0@0 0-7", "1:1@0 0-1", "1:3@15 0-2", "2 pages"}));
         // The last one announces nothing.
         QCOMPARE(flow({new FakeItem(8), heading()}, 100), (QStringList {"0:0@0 0-8", "0:1@85 0-1", "1 pages"}));
         // More of them than a page holds cannot be kept together.

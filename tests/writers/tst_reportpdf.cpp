@@ -223,6 +223,22 @@ private Q_SLOTS:
         QCOMPARE(all, expected.remove(' '));
     }
 
+    void headingsStayWithTallRows()
+    {
+        auto* table = new ReportTable("", {""}, false);
+        for (int row = 0; row < 4; ++row)
+            addRow(*table, {QString("row%1 ").arg(row) + QString("word ").repeated(600)});
+        auto* filler = new ReportText(QString("line\n").repeated(30));
+        const QStringList pages = pagesOf(printed({filler, new ReportHeader(1, "Heading"), table}));
+        QVERIFY(!pages.at(0).contains("Heading"));
+        QVERIFY(pages.at(1).contains("Heading") && pages.at(1).contains("row0"));
+
+        // One that has to be torn anyway leaves no page empty.
+        auto* taller = new ReportTable("", {""}, false);
+        addRow(*taller, {QString("first ") + QString("word ").repeated(3000)});
+        QVERIFY(pagesOf(printed({new ReportHeader(1, "Heading"), taller})).at(0).contains("first"));
+    }
+
     void anyScript_data()
     {
         QTest::addColumn<QString>("text");
@@ -272,14 +288,15 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("kind");
         QTest::addColumn<int>("pages");
-        QTest::newRow("a title of 10,000 characters") << 0 << 1;
+        QTest::newRow("a title of 10,000 characters") << 0 << 3;
         QTest::newRow("hundreds of columns") << 1 << 2;
-        QTest::newRow("a row taller than pages") << 2 << 5;
+        QTest::newRow("a row taller than pages") << 2 << 4;
         QTest::newRow("empty tables") << 3 << 1;
         QTest::newRow("an image larger than a page") << 4 << 2;
         QTest::newRow("what is no image") << 5 << 1;
         QTest::newRow("control characters") << 6 << 1;
         QTest::newRow("a heading of pages") << 7 << 4;
+        QTest::newRow("an image too large to decode") << 8 << 1;
     }
 
     void oddItems()
@@ -294,8 +311,10 @@ private Q_SLOTS:
         items += table;
         switch (kind) {
         case 0:
-            title = QString("title ").repeated(1700);
-            addRow(*table, {"cell"});
+            title = QString("l").repeated(10000);
+            for (int i = 0; i < 100; ++i)
+                addRow(*table, {"cell"});
+            words = QStringList {"- Continued", "l\u2026 Solvant Report"};
             break;
         case 1:
             for (int i = 0; i < 300; ++i)
@@ -330,6 +349,16 @@ private Q_SLOTS:
         case 7:
             items += new ReportHeader(1, QString("heading ").repeated(1500));
             break;
+        case 8: {
+            // The head of 9,000 by 9,000 pixels.
+            const QByteArray bitmap
+                    = QByteArray::fromHex("424d00000000000000003600000028000000282300002823000001002000")
+                    + QByteArray(24, '\0');
+            auto* image = new ReportImage(bitmap);
+            items += image;
+            QVERIFY(image->end() == ReportItem::Position());
+            break;
+        }
         }
         const QString path = printed(items, [&](ReportPDF& pdf) { pdf.setTitle(title); });
         QVERIFY(!path.isEmpty());
@@ -387,6 +416,34 @@ private Q_SLOTS:
         qDeleteAll(items);
     }
 
+    /// Two that print the same items would take each other's layout away, and a writer deletes those of its last pass.
+    void onePrintsAtATime()
+    {
+        ReportTemplate document;
+        document.readFile(UIUTILS_TEST_DATA_DIR "/documents/everything.json");
+        QList<ReportItem*> items;
+        TemplateToPdfWriter writer(document, &items);
+        TemplateToPdfWriter otherWriter(document, &items);
+        ReportPDF other;
+        int refused = 0;
+        connect(&writer.pages(), &ReportPDF::progressChanged, this, [&] {
+            QString error;
+            other.setItems(items);
+            refused += !other.print(m_path, &error) && !error.isEmpty();
+            refused += !otherWriter.write(m_path, &error) && !error.isEmpty();
+        });
+        QVERIFY(writer.write(m_path));
+        QVERIFY(refused > 2 * items.size());
+        // The items of the last pass go, and as many come.
+        const int count = items.size();
+        QVERIFY(writer.write(m_path));
+        QCOMPARE(items.size(), count);
+        QVERIFY(otherWriter.write(m_path));
+        other.setItems(items);
+        QVERIFY(other.print(m_path));
+        qDeleteAll(items);
+    }
+
     void rendererMayGoMeanwhile()
     {
         writeOld();
@@ -431,7 +488,7 @@ private Q_SLOTS:
         ReportPDF pdf;
         QVERIFY(QDir(m_root.path()).mkpath("out/folder.pdf"));
         for (const QString& path : {m_root.filePath("none/report.pdf"), m_root.filePath("out/folder.pdf"), QString(),
-                     m_root.filePath("out/a") + QChar(0) + ".pdf"}) {
+                     m_root.filePath("out/a") + QChar(0) + ".pdf", m_root.filePath("out/new") + QChar(0) + "/a.pdf"}) {
             QString error;
             QVERIFY(!pdf.print(path, &error));
             QVERIFY(!error.isEmpty());

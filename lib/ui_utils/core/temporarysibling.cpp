@@ -13,7 +13,10 @@ namespace uiutils {
 
 TemporarySibling::TemporarySibling(const QString& target, const QString& name)
 {
-    if (name.isEmpty())
+    // The system would take what stands before it for the whole path.
+    if (target.contains(QChar(QChar::Null)))
+        errno = EINVAL;
+    else if (name.isEmpty())
         createUnderNewName(QFileInfo(target).path());
     else
         createUnder(name);

@@ -18,12 +18,12 @@ enum ReportFormat {
     REPORT_FORMAT_ALL
 };
 
-/// Whether the two, in degrees, are a place on earth: -90 to 90 and -180 to 180. 0, 0 is none, because a receiver without
-/// a fix says so.
+/// Whether the two, in degrees, are a place on earth: -90 to 90 and -180 to 180. 0, 0 is none, because a receiver
+/// without a fix says so.
 UIUTILS_EXPORT bool isGeoLocationValid(double latitude, double longitude);
 
-/// The same moment in a time zone: an IANA id ("Europe/Oslo") or an offset of at most 14 hours ("+02:00", "-0330", "+02").
-/// `dateTime` as it is where it is invalid or the zone is not known.
+/// The same moment in a time zone: an IANA id ("Europe/Oslo") or an offset of at most 14 hours ("+02:00", "-0330",
+/// "+02"). `dateTime` as it is where it is invalid or the zone is not known.
 UIUTILS_EXPORT QDateTime adjustDateTimeToTimeZone(const QDateTime& dateTime, const QString& zone);
 
 } // namespace NSReport

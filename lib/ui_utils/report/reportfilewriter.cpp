@@ -21,8 +21,8 @@ QString failure(const char* text, const QString& path, const QString& reason)
     return QCoreApplication::translate("Report", text).arg(path, reason);
 }
 
-/// Whether these are gzip's bytes for so many: its mark in front, the number at the end. A disk that ran full may have cut
-/// them short without gzip's knowing.
+/// Whether these are gzip's bytes for so many: its mark in front, the number at the end. A disk that ran full may have
+/// cut them short without gzip's knowing.
 bool isWholeGzip(const QByteArray& bytes, int size)
 {
     constexpr int headAndTail = 18;
@@ -42,8 +42,8 @@ bool writePlainly(const QString& place, const QByteArray& contents, QString* rea
 QByteArray compressedForm(const QString& path, const QByteArray& contents, QString* error)
 {
     const QFileInfo target(onDisk(path));
-    // A folder of its own lets gzip note the report's name in the file, which unpackers show, and takes along on its end
-    // whatever gzip has left. It is beside the report because that drive is the one whose room was looked at.
+    // A folder of its own lets gzip note the report's name in the file, which unpackers show, and takes along on its
+    // end whatever gzip has left. It is beside the report because that drive is the one whose room was looked at.
     const QTemporaryDir folder(target.path() + QLatin1String("/.uiutils-XXXXXX"));
     if (!folder.isValid()) {
         *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot compress %1: %2"), path, folder.errorString());

@@ -5,8 +5,8 @@
 
 namespace uiutils {
 
-/// The reports that lie in the folder, an instrument path, but not those of its sub-folders: newest first, those of one
-/// time by name. One map each:
+/// The reports that lie in the folder, an instrument path, but not those of its sub-folders: newest first, those of
+/// one time by name. One map each:
 ///
 /// | key | value |
 /// |---|---|
@@ -17,8 +17,8 @@ namespace uiutils {
 /// | `time` | when it was written last, a QDateTime in local time |
 /// | `compressed` | whether it is a gzip file |
 ///
-/// A report is a file, or a link to one, whose name is not hidden and ends in a format's suffix, with ".gz" behind it or
-/// not. Empty for a folder that cannot be read.
+/// A report is a file, or a link to one, whose name is not hidden and ends in a format's suffix, with ".gz" behind it
+/// or not. Empty for a folder that cannot be read.
 QVariantList reportFiles(const QString& folder);
 
 } // namespace uiutils

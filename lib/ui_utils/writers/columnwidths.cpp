@@ -10,8 +10,10 @@ namespace uiutils {
 
 namespace {
 
-/// What the columns of row labels get of the width if they can, so that tables below each other are parted alike.
+/// What the columns of row labels get of the width beside a few values if they can, so that tables of labels and values
+/// below each other are parted alike.
 constexpr qreal labelShare = 0.3;
+constexpr int fewValues = 2;
 /// Halves a width until the rest cannot be seen.
 constexpr int bisections = 40;
 
@@ -42,10 +44,14 @@ void spread(ColumnBand& band, int labels, qreal total, const std::function<qreal
 {
     qreal labelSum = 0;
     qreal valueSum = 0;
-    for (const ColumnWidth& c : qAsConst(band))
+    int values = 0;
+    for (const ColumnWidth& c : qAsConst(band)) {
         (c.column < labels ? labelSum : valueSum) += natural(c);
+        values += c.column < labels ? 0 : 1;
+    }
+    const qreal labelShareOfAll = values > fewValues ? labelSum / (labelSum + valueSum) : labelShare;
     const bool hasBoth = labelSum > 0 && valueSum > 0;
-    const qreal labelTotal = hasBoth ? qBound(labelSum, total * labelShare, total - valueSum) : total;
+    const qreal labelTotal = hasBoth ? qBound(labelSum, total * labelShareOfAll, total - valueSum) : total;
     const qreal valueTotal = hasBoth ? total - labelTotal : total;
     for (ColumnWidth& c : band) {
         const bool isLabel = c.column < labels;

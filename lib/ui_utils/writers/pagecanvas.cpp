@@ -1,6 +1,7 @@
 #include "writers/pagecanvas_p.h"
 
 #include "writers/pagefont_p.h"
+#include "writers/pageimage_p.h"
 #include "writers/pagestyle_p.h"
 
 #include <QGlyphRun>
@@ -52,9 +53,16 @@ void PageCanvas::frame(const QRectF& rectangle, const QColor& color)
 void PageCanvas::drawText(const PageFont& font, const QString& text, const QPointF& topLeft, qreal width,
         Qt::Alignment alignment, const QColor& color, int begin, int end)
 {
+    if (const WrappedText* lines = findParted(font, text, width)) {
+        lines->draw(*this, topLeft, width, alignment, color, begin, end);
+        return;
+    }
     const qreal plainWidth = font.plainWidth(text);
     if (plainWidth < 0 || plainWidth > width) {
-        wrapped(font, text, width).draw(*this, topLeft, width, alignment, color, begin, end);
+        auto lines = std::make_unique<WrappedText>(font, text, width);
+        lines->draw(*this, topLeft, width, alignment, color, begin, end);
+        if (end < lines->lineCount())
+            m_parted.push_back({&font, text, width, std::move(lines)});
         return;
     }
     if (begin > 0 || end < 1 || text.isEmpty())
@@ -64,14 +72,16 @@ void PageCanvas::drawText(const PageFont& font, const QString& text, const QPoin
     drawPlain(font, text, {topLeft.x() + indent, topLeft.y() + font.ascent()}, color);
 }
 
-const WrappedText& PageCanvas::wrapped(const PageFont& font, const QString& text, qreal width)
+const WrappedText* PageCanvas::findParted(const PageFont& font, const QString& text, qreal width) const
 {
-    // A text that is shared is the same one; comparing two megabytes for each page would be no better than wrapping them.
-    const bool isSame = m_lastWrapped && m_lastWrapped->font == &font && qFuzzyCompare(m_lastWrapped->width, width)
-            && m_lastWrapped->text.constData() == text.constData();
-    if (!isSame)
-        m_lastWrapped = Wrapped {&font, text, width, std::make_unique<WrappedText>(font, text, width)};
-    return *m_lastWrapped->lines;
+    for (const Parted& parted : m_parted) {
+        // A text that is shared is the same one; comparing megabytes for each page would be no better than wrapping
+        // them.
+        if (parted.font == &font && qFuzzyCompare(parted.width, width)
+                && parted.text.constData() == text.constData())
+            return parted.lines.get();
+    }
+    return nullptr;
 }
 
 void PageCanvas::drawPlain(
@@ -110,7 +120,7 @@ void PageCanvas::drawImage(const QByteArray& encoded, const QRectF& place)
     if (it == m_images.constEnd()) {
         if (m_images.size() >= maximumImages)
             m_images.clear();
-        it = m_images.insert(encoded, QImage::fromData(encoded));
+        it = m_images.insert(encoded, decodedImage(encoded));
     }
     if (!it->isNull())
         drawImage(*it, place);

@@ -10,7 +10,7 @@
 #include <QVector>
 
 #include <memory>
-#include <optional>
+#include <vector>
 
 class QPainter;
 class QTextLine;
@@ -41,6 +41,8 @@ public:
     /// Draws `text` into a box as wide as `width`, from its line `begin` to before `end`.
     void drawText(const PageFont& font, const QString& text, const QPointF& topLeft, qreal width,
             Qt::Alignment alignment, const QColor& color, int begin, int end);
+    /// Forgets the lines of texts that were drawn in part. To be called behind the last part of them.
+    void forgetParts() { m_parted.clear(); }
     /// Draws one line of a text that can be set glyph by glyph.
     void drawPlain(const PageFont& font, QStringView text, const QPointF& baseLine, const QColor& color);
     void drawShaped(const QTextLine& line, const QPointF& baseLine, const QColor& color);
@@ -53,7 +55,7 @@ public:
     void flush();
 
 private:
-    struct Wrapped
+    struct Parted
     {
         const PageFont* font;
         QString text;
@@ -61,7 +63,7 @@ private:
         std::unique_ptr<WrappedText> lines;
     };
 
-    const WrappedText& wrapped(const PageFont& font, const QString& text, qreal width);
+    const WrappedText* findParted(const PageFont& font, const QString& text, qreal width) const;
 
     QPainter& m_painter;
     const PageStyle& m_style;
@@ -69,8 +71,8 @@ private:
     QColor m_color;
     QVector<quint32> m_glyphs;
     QVector<QPointF> m_positions;
-    // A cell that goes on over a hundred pages is broken into lines once.
-    std::optional<Wrapped> m_lastWrapped;
+    // Cells that go on over a hundred pages are broken into lines once.
+    std::vector<Parted> m_parted;
     QHash<QByteArray, QImage> m_images;
 };
 

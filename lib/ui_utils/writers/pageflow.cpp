@@ -33,18 +33,28 @@ private:
     {
         ++m_page;
         m_top = 0;
+        m_hasHeadingsOnly = true;
+    }
+
+    /// Whether an item at `top` finds no more room on any other page: a page that holds nothing but the headings of the
+    /// item is as good as an empty one, where they would be parted from it. Headings of half a page are not kept.
+    bool isWholePage(qreal top, bool hasHeadingsOnly) const
+    {
+        return top <= 0 || (hasHeadingsOnly && top <= m_pageHeight / 2);
     }
 
     void place(int index)
     {
         const ReportItem& item = *m_items.at(index);
+        if (item.end() == ReportItem::Position())
+            return;
         if (!isAtTop() && isPartedFromNext(index, m_top))
             startPage();
         if (!isAtTop())
             m_top += item.spaceAbove();
         ReportItem::Position at;
         while (at != item.end()) {
-            const ReportItem::Portion portion = item.split(at, room(), isAtTop());
+            const ReportItem::Portion portion = item.split(at, room(), isWholePage(m_top, m_hasHeadingsOnly));
             if (portion.isEmpty()) {
                 if (isAtTop())
                     return;
@@ -53,6 +63,7 @@ private:
             }
             m_placed.append({m_page, index, m_top, portion});
             m_top += portion.height;
+            m_hasHeadingsOnly = m_hasHeadingsOnly && item.keepsWithNext();
             at = portion.end;
         }
     }
@@ -61,22 +72,26 @@ private:
     /// hold both.
     bool isPartedFromNext(int index, qreal top) const
     {
-        return m_items.at(index)->keepsWithNext() && !holdsWithNext(index, top) && holdsWithNext(index, 0);
+        return m_items.at(index)->keepsWithNext() && !holdsWithNext(index, top, m_hasHeadingsOnly)
+                && holdsWithNext(index, 0, true);
     }
 
-    bool holdsWithNext(int index, qreal top) const
+    bool holdsWithNext(int index, qreal top, bool hasHeadingsOnly) const
     {
-        while (index < m_items.size()) {
+        for (; index < m_items.size(); ++index) {
             const ReportItem& item = *m_items.at(index);
+            // What shows nothing has nothing to split.
+            if (item.end() == ReportItem::Position())
+                continue;
             if (top > 0)
                 top += item.spaceAbove();
-            const ReportItem::Portion portion = item.split({}, m_pageHeight - top, top <= 0);
-            if (!item.keepsWithNext() || index == m_items.size() - 1)
-                return !portion.isEmpty() || item.end() == ReportItem::Position();
+            const ReportItem::Portion portion
+                    = item.split({}, m_pageHeight - top, isWholePage(top, hasHeadingsOnly));
+            if (!item.keepsWithNext())
+                return !portion.isEmpty();
             if (portion.end != item.end())
                 return false;
             top += portion.height;
-            ++index;
         }
         return true;
     }
@@ -85,6 +100,8 @@ private:
     qreal m_pageHeight;
     int m_page = 0;
     qreal m_top = 0;
+    /// Whether all that stands on this page announces what comes next.
+    bool m_hasHeadingsOnly = true;
     QVector<PlacedPortion> m_placed;
 };
 
@@ -118,7 +135,7 @@ ReportItem::Portion takeLines(int lineCount, qreal lineHeight, int begin, qreal 
 {
     const int left = lineCount - begin;
     int taken = qMin(left, int((room + tolerance) / lineHeight));
-    if (taken == left - 1 && taken > 2)
+    if (taken == left - 1)
         --taken;
     if (taken < left && taken < 2)
         taken = isWholePage ? qMin(left, qMax(taken, 1)) : 0;

@@ -34,6 +34,22 @@ PageFrame::PageFrame(const PageStyle& style, const QSizeF& paper, const Texts& t
     const qreal gap = style.points(8);
     const qreal top = m_headerTop + line + gap;
     m_body = QRectF(m_left, top, m_width, m_footerTop - style.points(ruleDistance) - gap - top);
+    shortenTexts();
+}
+
+/// Once for all pages: a title may have a megabyte.
+void PageFrame::shortenTexts()
+{
+    const qreal gap = m_style.points(8);
+    const auto shorten = [this](QString& text, qreal room) {
+        text = text.isEmpty() ? text : WrappedText::elided(m_style.small, text, room, 1);
+        return WrappedText::naturalWidth(m_style.small, text);
+    };
+    const qreal documentWidth = shorten(m_texts.documentTitle, m_width / 2);
+    shorten(m_texts.title, m_width - documentWidth - gap);
+    const qreal middleWidth = shorten(m_texts.timestamp, m_width / 2);
+    m_unit = m_texts.unitId.isEmpty() ? QString() : tr("Unit ID: %1").arg(m_texts.unitId);
+    shorten(m_unit, (m_width - middleWidth) / 2 - gap);
 }
 
 void PageFrame::drawHeader(PageCanvas& canvas, int page) const
@@ -49,25 +65,18 @@ void PageFrame::drawHeader(PageCanvas& canvas, int page) const
 void PageFrame::drawFooter(PageCanvas& canvas, int page, int pageCount) const
 {
     canvas.fill(QRectF(m_left, m_footerTop - m_style.points(ruleDistance), m_width, m_style.hairline), m_style.rule);
-    const QString unit = m_texts.unitId.isEmpty() ? QString() : tr("Unit ID: %1").arg(m_texts.unitId);
-    drawLine(canvas, m_footerTop, unit, m_texts.timestamp, tr("Page %1 of %2").arg(page).arg(pageCount));
+    drawLine(canvas, m_footerTop, m_unit, m_texts.timestamp, tr("Page %1 of %2").arg(page).arg(pageCount));
 }
 
 void PageFrame::drawLine(
         PageCanvas& canvas, qreal top, const QString& left, const QString& middle, const QString& right) const
 {
-    const auto drawn = [&](const QString& text, qreal room, Qt::Alignment alignment) {
-        const QString shown = WrappedText::elided(m_style.small, text, room, 1);
-        canvas.drawText(m_style.small, shown, {m_left, top}, m_width, alignment, m_style.mutedInk, 0, 1);
-        return WrappedText::naturalWidth(m_style.small, shown);
+    const auto draw = [&](const QString& text, Qt::Alignment alignment) {
+        canvas.drawText(m_style.small, text, {m_left, top}, m_width, alignment, m_style.mutedInk, 0, 1);
     };
-    const qreal gap = m_style.points(8);
-    const qreal rightWidth = WrappedText::naturalWidth(m_style.small, right);
-    const qreal middleWidth = WrappedText::naturalWidth(m_style.small, middle);
-    const qreal leftRoom = middle.isEmpty() ? m_width - rightWidth - gap : (m_width - middleWidth) / 2 - gap;
-    drawn(left, qMax(leftRoom, m_width / 4), Qt::AlignLeft);
-    drawn(middle, m_width / 2, Qt::AlignHCenter);
-    drawn(right, m_width / 2, Qt::AlignRight);
+    draw(left, Qt::AlignLeft);
+    draw(middle, Qt::AlignHCenter);
+    draw(right, Qt::AlignRight);
 }
 
 } // namespace uiutils

@@ -30,12 +30,14 @@ public:
     void drawFooter(PageCanvas& canvas, int page, int pageCount) const;
 
 private:
+    void shortenTexts();
     /// Texts at the left, in the middle and at the right of a line.
     void drawLine(PageCanvas& canvas, qreal top, const QString& left, const QString& middle,
             const QString& right) const;
 
     const PageStyle& m_style;
     Texts m_texts;
+    QString m_unit;
     qreal m_left;
     qreal m_width;
     qreal m_headerTop;

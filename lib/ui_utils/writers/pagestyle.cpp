@@ -1,5 +1,6 @@
 #include "writers/pagestyle_p.h"
 
+#include "writers/pageimage_p.h"
 #include "writers/statusicons_p.h"
 
 #include <QPaintDevice>
@@ -43,7 +44,7 @@ const QImage& PageStyle::statusIcon(int status) const
         return none;
     auto it = m_icons.constFind(status);
     if (it == m_icons.constEnd())
-        it = m_icons.insert(status, QImage::fromData(readIcon(path)));
+        it = m_icons.insert(status, decodedImage(readIcon(path)));
     return *it;
 }
 

@@ -57,7 +57,7 @@ QString fromUtf16(const QByteArray& bytes, int begin, bool bigEndian)
 {
     QString result((bytes.size() - begin) / 2, Qt::Uninitialized);
     for (int i = 0; i < result.size(); ++i) {
-        const char* unit = bytes.constData() + begin + 2 * i;
+        const char* unit = bytes.constData() + begin + qptrdiff(2) * i;
         result[i] = bigEndian ? qFromBigEndian<ushort>(unit) : qFromLittleEndian<ushort>(unit);
     }
     return result;

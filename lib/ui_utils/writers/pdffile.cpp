@@ -20,7 +20,7 @@ namespace pdf = uiutils::pdf;
 
 namespace {
 
-constexpr qint64 largestFile = 64 * 1024 * 1024;
+constexpr qint64 largestFile = qint64(64) * 1024 * 1024;
 /// What a name in a PDF file may have, and what a file name may have.
 constexpr int longestKey = 127;
 constexpr int longestFileName = 255;

@@ -1,25 +1,12 @@
 #include "writers/reportimage.h"
 
 #include "writers/pagecanvas_p.h"
+#include "writers/pageimage_p.h"
 #include "writers/pagestyle_p.h"
-
-#include <QBuffer>
-#include <QImageReader>
-
-namespace {
-
-/// Read from the file's head, without decoding the image.
-QSizeF sizeOf(QByteArray encoded)
-{
-    QBuffer buffer(&encoded);
-    return QImageReader(&buffer).size();
-}
-
-} // namespace
 
 ReportImage::ReportImage(const QByteArray& encoded, qreal pixelsOfAPoint)
     : m_encoded(encoded)
-    , m_naturalSize(sizeOf(encoded) / qMax(pixelsOfAPoint, 0.01))
+    , m_naturalSize(QSizeF(uiutils::encodedSize(encoded)) / qMax(pixelsOfAPoint, 0.01))
 {
 }
 
@@ -41,10 +28,11 @@ ReportItem::Position ReportImage::end() const
 ReportItem::Portion ReportImage::split(const Position& begin, qreal room, bool isWholePage) const
 {
     const bool fits = m_size.height() <= room || isWholePage;
-    return fits ? Portion {begin, end(), m_size.height()} : Portion {begin, begin, 0};
+    return fits ? Portion {begin, end(), qMin(m_size.height(), qMax(room, 0.0))} : Portion {begin, begin, 0};
 }
 
-void ReportImage::draw(uiutils::PageCanvas& canvas, const Portion&, const QPointF& topLeft) const
+void ReportImage::draw(uiutils::PageCanvas& canvas, const Portion& portion, const QPointF& topLeft) const
 {
-    canvas.drawImage(m_encoded, QRectF(topLeft, m_size));
+    // Below a heading there is less room than on a whole page.
+    canvas.drawImage(m_encoded, QRectF(topLeft, m_size.scaled({m_size.width(), portion.height}, Qt::KeepAspectRatio)));
 }

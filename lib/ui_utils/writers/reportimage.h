@@ -4,12 +4,13 @@
 
 #include <QByteArray>
 
-/// An image of a printed report: a plot. It is shown in its own size unless a page is too small for it.
+/// An image of a printed report: a plot. It is shown in its own size unless a page, with the heading
+/// above it, is too small for it.
 class UIUTILS_EXPORT ReportImage : public ReportItem
 {
 public:
     /// `encoded` is a file's contents in a format that the toolkit reads. `pixelsOfAPoint` tells how fine it is printed. What
-    /// is no image takes no room.
+    /// is no image, or one of more than 50 million pixels, takes no room.
     explicit ReportImage(const QByteArray& encoded, qreal pixelsOfAPoint = 1);
     ~ReportImage() override;
 

@@ -3,13 +3,22 @@
 #include "core/durablefile.h"
 #include "core/paths.h"
 #include "core/temporarysibling_p.h"
+#include "writers/pageimage_p.h"
 #include "writers/pageprinter_p.h"
 #include "writers/statusicons_p.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QPointer>
+#include <QScopedValueRollback>
 
 #include <cerrno>
+
+namespace {
+
+bool isAnyPrinting = false;
+
+} // namespace
 
 /// One print(). A slot that hears of the progress may delete the renderer, which then counts as cancelled.
 class ReportPDF::Job
@@ -54,7 +63,7 @@ bool ReportPDF::Job::tellProgress(int page, int pageCount)
 uiutils::PageSettings ReportPDF::Job::settings() const
 {
     const ReportPDF& owner = *m_owner;
-    return {{QImage::fromData(uiutils::readIcon(owner.m_logo)), owner.m_documentTitle, owner.m_title, owner.m_fields},
+    return {{uiutils::decodedImage(uiutils::readIcon(owner.m_logo)), owner.m_documentTitle, owner.m_title, owner.m_fields},
             {owner.m_documentTitle, owner.m_title, owner.m_unitId, owner.m_timestamp},
             owner.m_orientation == Landscape ? QPageLayout::Landscape : QPageLayout::Portrait};
 }
@@ -64,6 +73,8 @@ bool ReportPDF::Job::run()
     const uiutils::TemporarySibling printed(m_target);
     if (!printed.isOpen())
         return fail(tr("Cannot create a file in the folder of %1: %2"), qt_error_string(errno));
+    // The mode of the file that it is to replace may be one that nobody writes to, and the printer opens it anew.
+    QFile::setPermissions(printed.path(), QFile::ReadOwner | QFile::WriteOwner);
     uiutils::PagePrinter printer(
             settings(), m_owner->m_items, [this](int page, int count) { return tellProgress(page, count); });
     switch (printer.print(printed.path())) {
@@ -100,11 +111,16 @@ ReportPDF::ReportPDF(QObject* parent)
 
 ReportPDF::~ReportPDF() = default;
 
+bool ReportPDF::isPrinting()
+{
+    return isAnyPrinting;
+}
+
 bool ReportPDF::print(const QString& path, QString* error)
 {
     QString ignored;
     QString& message = error ? *error : ignored;
-    if (m_isPrinting) {
+    if (isAnyPrinting) {
         message = tr("Cannot print %1 while another file is being printed.").arg(path);
         return false;
     }
@@ -113,14 +129,11 @@ bool ReportPDF::print(const QString& path, QString* error)
         message = tr("Cannot print %1: the program has no fonts, because it is not a QGuiApplication.").arg(path);
         return false;
     }
-    const QPointer<ReportPDF> self(this);
-    m_isPrinting = true;
+    const QScopedValueRollback<bool> printing(isAnyPrinting, true);
     m_isCancelled = false;
     Job job(*this, uiutils::onDisk(path));
     const bool isPrinted = job.run();
     message = job.error();
-    if (self)
-        m_isPrinting = false;
     return isPrinted;
 }
 

@@ -54,8 +54,12 @@ public:
     /// is whole and on the disk.
     ///
     /// Returns false, with `path` untouched and nothing left beside it, when a step failed, and then says in `error`
-    /// which and why; or when it was cancelled, and then `error` is empty. It does not return to the event loop.
+    /// which and why; or when it was cancelled, and then `error` is empty. It does not return to the event loop. While
+    /// it runs, no other of the program prints: items have one layout at a time.
     bool print(const QString& path, QString* error = nullptr);
+
+    /// Whether any print() of the program is running, and calls what is connected to progressChanged().
+    static bool isPrinting();
 
 public Q_SLOTS:
     /// Ends a print() that is running, before its next page. To be called by what is connected to progressChanged().
@@ -79,6 +83,5 @@ private:
     QString m_unitId;
     QString m_timestamp;
     QVector<Field> m_fields;
-    bool m_isPrinting = false;
     bool m_isCancelled = false;
 };

@@ -12,8 +12,14 @@ ReportText::~ReportText() = default;
 
 void ReportText::measure(const uiutils::PageStyle& style, const QSizeF& page)
 {
-    m_block = std::make_unique<uiutils::TextBlock>(style.body, m_text, page.width(), style.ink);
-    m_block->setSpaceAbove(style.points(5));
+    auto block = std::make_unique<uiutils::TextBlock>(style.body, m_text, page.width(), style.ink);
+    block->setSpaceAbove(style.points(5));
+    setBlock(std::move(block));
+}
+
+void ReportText::setBlock(std::unique_ptr<uiutils::TextBlock> block)
+{
+    m_block = std::move(block);
 }
 
 void ReportText::release()

@@ -24,6 +24,10 @@ public:
     void draw(uiutils::PageCanvas& canvas, const Portion& portion, const QPointF& topLeft) const override;
     qreal spaceAbove() const override;
 
+protected:
+    /// The text as measure() has laid it out.
+    void setBlock(std::unique_ptr<uiutils::TextBlock> block);
+
 private:
     QString m_text;
     std::unique_ptr<uiutils::TextBlock> m_block;

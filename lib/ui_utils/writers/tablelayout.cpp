@@ -12,6 +12,8 @@ namespace {
 
 constexpr int maximumTitleLines = 3;
 constexpr qreal maximumCenteredLines = 2;
+/// A text of more is not looked through on each page that it goes on over, but taken for a paragraph.
+constexpr int maximumLabelLength = 400;
 /// Of a table that is carried over, on the page where it begins.
 constexpr int leastRows = 3;
 /// Of a page's height: a table up to it is not parted.
@@ -24,15 +26,22 @@ constexpr qreal leastColumnWidth = 48;
 constexpr qreal tolerance = 0.01;
 
 /// Estimated.
-qreal takesLinesOf(const PageFont& font, const QString& text, qreal width)
+bool isParagraph(const PageFont& font, const QString& text, qreal width)
 {
+    if (text.size() > maximumLabelLength)
+        return true;
     const qreal plainWidth = font.plainWidth(text);
-    return (plainWidth < 0 ? text.size() * font.lineHeight() / 2 : plainWidth) / width;
+    return (plainWidth < 0 ? text.size() * font.lineHeight() / 2 : plainWidth) > maximumCenteredLines * width;
 }
 
 Qt::Alignment alignmentFor(int code)
 {
     return code == 1 ? Qt::AlignLeft : code == 2 ? Qt::AlignRight : Qt::AlignHCenter;
+}
+
+Qt::Alignment readingSideOf(const QString& text)
+{
+    return text.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
 }
 
 } // namespace
@@ -48,8 +57,8 @@ TableLayout::TableLayout(const ReportTable& table, const PageStyle& style, const
     m_bands = columnBands(
             demands(), page.width(), style.points(leastColumnWidth), table.hasLabelColumn() ? 1 : 0);
     if (!table.title().isEmpty()) {
-        m_title = makeTitle(table.title());
-        m_continuedTitle = makeTitle(QCoreApplication::translate("ReportPDF", "%1 - Continued").arg(table.title()));
+        m_title = makeTitle(shortTitle(table.title()));
+        m_continuedTitle = makeTitle(QCoreApplication::translate("ReportPDF", "%1 - Continued").arg(m_title.text));
         if (m_bands.isEmpty())
             m_bands += ColumnBand();
     }
@@ -117,32 +126,39 @@ void TableLayout::demandFor(const ReportTable::Cell& cell, ColumnDemand& demand)
         demand.minimal = qMax(demand.minimal, WrappedText::minimalWidth(fontOf(cell), cell.text) + beside);
 }
 
+QString TableLayout::shortTitle(const QString& text) const
+{
+    return WrappedText::elided(m_style.tableTitle, text, m_page.width() - 2 * m_style.cellPadding, maximumTitleLines);
+}
+
 TableLayout::Title TableLayout::makeTitle(const QString& text) const
 {
-    const qreal width = m_page.width() - 2 * m_style.cellPadding;
-    const QString shown = WrappedText::elided(m_style.tableTitle, text, width, maximumTitleLines);
-    return {shown, WrappedText(m_style.tableTitle, shown, width).lineCount()};
+    return {text, WrappedText(m_style.tableTitle, text, m_page.width() - 2 * m_style.cellPadding).lineCount()};
 }
 
 void TableLayout::measureLabels(int band)
 {
     const int maximum = qMax(1, int(m_page.height() * maximumLabelShare / m_style.bold.lineHeight()));
     int lines = 0;
+    QStringList shown;
     for (const ColumnWidth& column : m_bands.at(band)) {
-        const QString label = labelOf(column.column);
-        if (label.isEmpty())
-            continue;
-        const WrappedText wrapped(m_style.bold, label, column.width - 2 * m_style.cellPadding + tolerance);
-        lines = qMax(lines, qMin(maximum, wrapped.lineCount()));
+        const qreal width = column.width - 2 * m_style.cellPadding + tolerance;
+        QString label = labelOf(column.column);
+        if (!label.isEmpty()) {
+            label = WrappedText::elided(m_style.bold, label, width, maximum);
+            lines = qMax(lines, WrappedText(m_style.bold, label, width).lineCount());
+        }
+        shown += label;
     }
     m_labelLines += lines;
+    m_shownLabels += shown;
 }
 
 void TableLayout::measureRows(int band)
 {
     for (const ColumnWidth& column : m_bands.at(band)) {
         const qreal width = column.width - 2 * m_style.cellPadding + tolerance;
-        int* lines = m_lines.data() + band * m_rowsOfABand;
+        int* lines = m_lines.data() + qptrdiff(band) * m_rowsOfABand;
         for (int row = 0; row < m_table.rowCount(); ++row, ++lines) {
             const ReportTable::Cell* const cell = m_table.cellAt(row, column.column);
             if (!cell || cell->text.isEmpty())
@@ -186,21 +202,29 @@ ReportItem::Portion TableLayout::split(
 {
     const qreal head = headHeight(begin);
     const int bandEnd = (bandOf(begin) + 1) * m_rowsOfABand;
-    ReportItem::Portion portion = takeRows(m_lines, m_heights, begin, bandEnd, room - head, isWholePage);
+    const bool mayTear = isWholePage || (begin == ReportItem::Position() && isFirstRowTornAnyway(room));
+    ReportItem::Portion portion = takeRows(m_lines, m_heights, begin, bandEnd, room - head, mayTear);
     if (portion.isEmpty() || (!isWholePage && isBetterMoved(portion, bandEnd)))
         return {begin, begin, 0};
     portion.height += head;
     return portion;
 }
 
-/// Whether the beginning of a table is too little to stand at a page's foot: a few rows of many, or part of a table that
-/// can easily be read in one piece.
+/// Whether a row that no page holds may as well begin here instead of leaving much of a page empty.
+bool TableLayout::isFirstRowTornAnyway(qreal room) const
+{
+    return room > m_page.height() * maximumMovedShare
+            && m_heights.of(m_lines.constFirst()) > m_page.height() - headHeight({});
+}
+
+/// Whether the beginning of a table is too little to stand at a page's foot: a few low rows of many, or part of a table
+/// that can easily be read in one piece.
 bool TableLayout::isBetterMoved(const ReportItem::Portion& portion, int bandEnd) const
 {
     const bool begins = portion.begin.line == 0 && portion.begin.row % m_rowsOfABand == 0;
     if (!begins || portion.end.row == bandEnd)
         return false;
-    if (portion.end.row - portion.begin.row < leastRows)
+    if (portion.end.row - portion.begin.row < leastRows && portion.height < m_page.height() * maximumMovedShare)
         return true;
     const qreal room = m_page.height() * maximumMovedShare - headHeight(portion.begin);
     return takeRows(m_lines, m_heights, portion.begin, bandEnd, room, false).end.row == bandEnd;
@@ -235,6 +259,8 @@ void TableLayout::draw(PageCanvas& canvas, const ReportItem::Portion& portion, c
         at.ry() += height;
     });
     canvas.flush();
+    if (portion.end.line == 0)
+        canvas.forgetParts();
 }
 
 void TableLayout::drawTitle(PageCanvas& canvas, const Title& title, const QRectF& place) const
@@ -244,7 +270,7 @@ void TableLayout::drawTitle(PageCanvas& canvas, const Title& title, const QRectF
     canvas.fill(place, m_style.accent);
     canvas.drawText(m_style.tableTitle, title.text,
             place.topLeft() + QPointF(m_style.cellPadding, m_style.rowPadding),
-            place.width() - 2 * m_style.cellPadding, Qt::AlignLeft, m_style.onAccent, 0, title.lines);
+            place.width() - 2 * m_style.cellPadding, readingSideOf(m_table.title()), m_style.onAccent, 0, title.lines);
 }
 
 void TableLayout::drawLabels(PageCanvas& canvas, int band, const QRectF& place) const
@@ -252,13 +278,12 @@ void TableLayout::drawLabels(PageCanvas& canvas, int band, const QRectF& place) 
     if (m_labelLines.at(band) == 0)
         return;
     canvas.fill(place, m_style.labelFill);
-    qreal x = place.left();
-    for (const ColumnWidth& column : m_bands.at(band)) {
-        const qreal width = column.width - 2 * m_style.cellPadding;
-        const QString label
-                = WrappedText::elided(m_style.bold, labelOf(column.column), width + tolerance, m_labelLines.at(band));
-        canvas.drawText(m_style.bold, label, {x + m_style.cellPadding, place.top() + m_style.rowPadding},
-                width + tolerance, alignmentOf(column.column), m_style.ink, 0, m_labelLines.at(band));
+    qreal x = place.left() + m_style.cellPadding;
+    for (int i = 0; i < m_bands.at(band).size(); ++i) {
+        const ColumnWidth& column = m_bands.at(band).at(i);
+        canvas.drawText(m_style.bold, m_shownLabels.at(band).at(i), {x, place.top() + m_style.rowPadding},
+                column.width - 2 * m_style.cellPadding + tolerance, alignmentOf(column.column), m_style.ink, 0,
+                m_labelLines.at(band));
         x += column.width;
     }
 }
@@ -300,22 +325,24 @@ void TableLayout::drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, co
     Qt::Alignment alignment = alignmentFor(cell.alignment);
     const qreal icon = iconSpace(cell);
     if (icon <= 0) {
-        // A paragraph is read from the left, whatever suits figures.
-        if (alignment == Qt::AlignHCenter && takesLinesOf(font, cell.text, width) > maximumCenteredLines)
-            alignment = Qt::AlignLeft;
+        // A paragraph is read from its side, whatever suits figures.
+        if (alignment == Qt::AlignHCenter && isParagraph(font, cell.text, width))
+            alignment = readingSideOf(cell.text);
         canvas.drawText(font, cell.text, topLeft, width, alignment, m_style.ink, beginLine, endLine);
         return;
     }
-    // Icon and text stand together where the text alone would.
-    const qreal textWidth = qMin(WrappedText::naturalWidth(font, cell.text), width - icon);
-    const qreal spare = width - icon - textWidth;
+    // Icon and text stand together where the text alone would. A width of its own might break it otherwise than it was
+    // measured.
+    const qreal room = width - icon;
+    const bool isLong = cell.text.size() > maximumLabelLength;
+    const qreal spare = isLong ? 0 : qMax(0.0, room - WrappedText::naturalWidth(font, cell.text));
     const qreal indent = alignment == Qt::AlignLeft ? 0 : alignment == Qt::AlignRight ? spare : spare / 2;
     if (beginLine == 0) {
         canvas.drawImage(m_style.statusIcon(cell.status),
                 {topLeft + QPointF(indent, 0), QSizeF(m_heights.line, m_heights.line)});
     }
-    canvas.drawText(font, cell.text, topLeft + QPointF(indent + icon, 0), textWidth + tolerance, Qt::AlignLeft,
-            m_style.ink, beginLine, endLine);
+    canvas.drawText(font, cell.text, topLeft + QPointF(indent + icon, 0), room,
+            spare > 0 ? Qt::AlignLeft : readingSideOf(cell.text), m_style.ink, beginLine, endLine);
 }
 
 } // namespace uiutils

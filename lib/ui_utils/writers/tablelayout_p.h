@@ -29,11 +29,11 @@ private:
         int lines = 0;
     };
 
-    bool hasTitle() const { return m_title.lines > 0; }
     const Title& titleAt(const ReportItem::Position& begin) const;
     qreal titleHeight(const Title& title) const;
     qreal labelsHeight(int band) const;
     qreal headHeight(const ReportItem::Position& begin) const;
+    bool isFirstRowTornAnyway(qreal room) const;
     bool isBetterMoved(const ReportItem::Portion& portion, int bandEnd) const;
     int bandOf(const ReportItem::Position& position) const { return position.row / m_rowsOfABand; }
 
@@ -44,6 +44,7 @@ private:
 
     QVector<ColumnDemand> demands() const;
     void demandFor(const ReportTable::Cell& cell, ColumnDemand& demand) const;
+    QString shortTitle(const QString& text) const;
     Title makeTitle(const QString& text) const;
     void measureLabels(int band);
     void measureRows(int band);
@@ -66,8 +67,9 @@ private:
     int m_rowsOfABand = 1;
     Title m_title;
     Title m_continuedTitle;
-    // Of each band.
+    // Of each band, and the labels of its columns as they are shown: they are repeated on each page.
     QVector<int> m_labelLines;
+    QVector<QStringList> m_shownLabels;
     // Of each row, one band behind the other.
     QVector<int> m_lines;
 };

@@ -261,6 +261,11 @@ void TemplateToHtmlWriter::writeSystemInformation()
     const bool showsHardware = isSet("showHardwareRevs");
     if (!showsSoftware && !showsHardware)
         return;
+    // On paper a heading with nothing under it looks like something that was lost.
+    const bool hasTables = (showsSoftware && !uiutils::softwareTable().rows.isEmpty())
+            || (showsHardware && !instrument::hardwareAssemblies().isEmpty());
+    if (isSet("isForPDF") && !hasTables)
+        return;
     m_html->writeHeading(1, tr("Solvant System Information"));
     if (showsSoftware)
         writeSoftwareTable();

@@ -15,6 +15,9 @@ TemplateToPdfWriter::~TemplateToPdfWriter() = default;
 
 bool TemplateToPdfWriter::write(const QString& path, QString* error)
 {
+    // The items of the last pass may be the ones that are being printed.
+    if (ReportPDF::isPrinting())
+        return m_pages.print(path, error);
     qDeleteAll(*m_items);
     m_items->clear();
     m_html.collectItems();

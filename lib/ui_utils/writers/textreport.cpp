@@ -284,7 +284,7 @@ private:
         if (known->hasRows())
             known->write(m_lines, m_width);
         m_lines.putText(known->hasRows()
-                        ? word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "The curves are drawn in the HTML report."))
+                        ? word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "The curves are drawn in the HTML and PDF reports."))
                         : word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "There are no curves.")),
                 m_width, tableIndentation, tableIndentation);
     }

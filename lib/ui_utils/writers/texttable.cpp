@@ -78,7 +78,7 @@ int longestLine(QStringView text)
 {
     int width = 0;
     while (!text.isEmpty()) {
-        const int end = text.indexOf(QLatin1Char('\n'));
+        const auto end = text.indexOf(QLatin1Char('\n'));
         width = qMax(width, displayWidth(end < 0 ? text : text.left(end)));
         text = end < 0 ? QStringView() : text.mid(end + 1);
     }

@@ -45,10 +45,17 @@ int endOfStretch(const QString& text, int begin, int end)
     if (end - begin <= maximumStretch)
         return end;
     const int limit = begin + maximumStretch;
-    const int blank = text.lastIndexOf(QLatin1Char(' '), limit - 1);
-    if (blank > begin)
-        return blank + 1;
+    const int blank = int(QStringView(text).mid(begin, maximumStretch).lastIndexOf(QLatin1Char(' ')));
+    if (blank > 0)
+        return begin + blank + 1;
     return text.at(limit).isLowSurrogate() ? limit - 1 : limit;
+}
+
+QString withEllipsis(QString text)
+{
+    if (!text.isEmpty() && text.at(text.size() - 1).isHighSurrogate())
+        text.chop(1);
+    return text.trimmed() + QChar(0x2026);
 }
 
 bool isBreak(QChar c)
@@ -204,12 +211,14 @@ QString WrappedText::elided(const PageFont& font, const QString& text, qreal wid
         return text;
     const Line& last = whole.m_lines[size_t(maximumLines - 1)];
     QString shortened = whole.m_text.left(last.begin + last.length);
-    // Room for the ellipsis at the end of the last line.
-    const int spare = qMin(last.length, 2);
-    shortened.chop(spare);
-    if (!shortened.isEmpty() && shortened.at(shortened.size() - 1).isHighSurrogate())
-        shortened.chop(1);
-    return shortened.trimmed() + QChar(0x2026);
+    QString shown = withEllipsis(shortened);
+    // Doubled each time, for a character may be a mark without a width of its own, and so may a thousand of them.
+    const auto overflows = [&] { return WrappedText(font, shown, width).lineCount() > maximumLines; };
+    for (int spare = 1; !shortened.isEmpty() && overflows(); spare *= 2) {
+        shortened.chop(spare);
+        shown = withEllipsis(shortened);
+    }
+    return shown;
 }
 
 } // namespace uiutils

@@ -53,26 +53,26 @@ void KIVNotificationModelManager::reject()
 void KIVNotificationModelManager::remove(int row)
 {
     if (row >= 0 && row < count())
-        removeRows(row, row);
+        dropRows(row, row);
 }
 
 void KIVNotificationModelManager::clear()
 {
     if (count() > 0)
-        removeRows(0, count() - 1);
+        dropRows(0, count() - 1);
 }
 
 void KIVNotificationModelManager::addToTray(const KIVNotification& notification)
 {
     if (count() == maximumTrayEntries)
-        removeRows(maximumTrayEntries - 1, maximumTrayEntries - 1);
+        dropRows(maximumTrayEntries - 1, maximumTrayEntries - 1);
     beginInsertRows(QModelIndex(), 0, 0);
     m_tray.prepend({notification.kind(), notification.longLabel(), notification.msg(), notification.time()});
     endInsertRows();
     Q_EMIT countChanged();
 }
 
-void KIVNotificationModelManager::removeRows(int first, int last)
+void KIVNotificationModelManager::dropRows(int first, int last)
 {
     beginRemoveRows(QModelIndex(), first, last);
     m_tray.remove(first, last - first + 1);

@@ -89,7 +89,7 @@ private:
     ~KIVNotificationModelManager() override = default;
 
     void addToTray(const KIVNotification& notification);
-    void removeRows(int first, int last);
+    void dropRows(int first, int last);
     void addDialog(KIVNotification* notification);
     void takeDialog(int position);
     void forget(QObject* notification);
