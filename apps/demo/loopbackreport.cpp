@@ -116,6 +116,11 @@ QString LoopbackReport::proposedFileName()
     return start.isValid() ? stem + start.toString(QStringLiteral("_yyyyMMdd-hhmmss")) : stem;
 }
 
+QString LoopbackReport::cannotGenerateReportMessage()
+{
+    return hasResults() ? QString() : tr("First finish a measurement on the page Measure.");
+}
+
 bool LoopbackReport::save(bool overwrite)
 {
     setNotifiesTray(!isAll());

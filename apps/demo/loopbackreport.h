@@ -38,6 +38,7 @@ public:
     bool save(bool overwrite = false) override;
     /// "loopback_20260131-142500": a name of its own for each run; "loopback" before the first.
     QString proposedFileName() override;
+    QString cannotGenerateReportMessage() override;
     QString generateTxtReport() override;
     QString generateJsonReport() override;
     bool writeJsonReport(const QString& path, bool overwrite = false) override;

@@ -398,6 +398,7 @@ private Q_SLOTS:
         if (state == "marginal") {
             for (SampleModel* quantity : {m_measurement->roundTrip(), m_measurement->throughput()})
                 quantity->setLimit(quantity->median());
+            QVERIFY(QMetaObject::invokeMethod(m_window, "saveReport"));
         }
         for (int page = 0; page < 4; ++page) {
             m_window->setProperty("page", page);

@@ -94,7 +94,7 @@ FocusScope {
                 Text {
                     Layout.fillWidth: true
                     Layout.fillHeight: true
-                    text: page.hasResults ? "" : qsTr("First finish a measurement on the page Measure.")
+                    text: page.hasResults ? "" : report.cannotGenerateReportMessage()
                     color: Theme.mutedText
                     font.pixelSize: Theme.smallText
                     wrapMode: Text.Wrap

@@ -98,7 +98,8 @@ ColumnLayout {
                 }
                 Text {
                     visible: modelData.compressed
-                    text: qsTr("compressed")
+                    text: "gz"
+                    Accessible.name: qsTr("compressed")
                     color: Theme.mutedText
                     font.pixelSize: Theme.smallText
                 }
