@@ -27,6 +27,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -570,6 +571,11 @@ QByteArray Report::generateDefaultPDFReport()
 {
     const QTemporaryDir folder;
     const QString place = folder.filePath(QStringLiteral("report") + uiutils::pdfSuffix);
+    // The items of a long report are large, and nobody needs them once they are printed.
+    const auto release = qScopeGuard([] {
+        qDeleteAll(m_reportItems);
+        m_reportItems.clear();
+    });
     TemplateToPdfWriter writer(m_document, &m_reportItems);
     handOnSwitches(writer);
     writer.setAttribute(QStringLiteral("subject"), getSubject());
