@@ -1,6 +1,7 @@
 #include "core/userdata.h"
 #include "document/reporttemplate.h"
 #include "files/fileutils.h"
+#include "files/screenshot.h"
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
 #include "module/uiutilsmodule.h"
@@ -64,8 +65,8 @@ private Q_SLOTS:
                      &BaseFormatter::staticMetaObject, &UiData::staticMetaObject, &StringUiData::staticMetaObject,
                      &BoolUiData::staticMetaObject, &EnumUiData::staticMetaObject, &UiDataEnums::staticMetaObject,
                      &UiEnumType::staticMetaObject, &UiDataContainer::staticMetaObject, &FileUtils::staticMetaObject,
-                     &KIVNotification::staticMetaObject, &KIVNotificationModelManager::staticMetaObject,
-                     &PDFFile::staticMetaObject})
+                     &Screenshot::staticMetaObject, &KIVNotification::staticMetaObject,
+                     &KIVNotificationModelManager::staticMetaObject, &PDFFile::staticMetaObject})
             QTest::newRow(type->className()) << type;
     }
     void descriptionForTools()

@@ -27,6 +27,15 @@ inline const QLatin1String jobId(":result:basemgr:jobmanager:jobID:");
 inline const QLatin1String jobBan(":result:basemgr:jobmanager:jobBAN:");
 inline const QLatin1String jobTechnician(":result:basemgr:jobmanager:jobTechnician:");
 
+/// The service that knows the user's work orders, and what it says of the one that is worked on.
+inline const QLatin1String workflowManager("orb.base.workflow_manager_app");
+inline const QLatin1String activeWorkOrder(
+        ":config:workflow_manager_app:workflow_manager_reg_module:activeWorkOrderId:");
+inline const QLatin1String activeWorkflow(
+        ":config:workflow_manager_app:workflow_manager_reg_module:activeWorkOrderWorkflowId:");
+inline const QLatin1String workflowSession(
+        ":result:workflow_manager_app:workflow_manager_reg_module:internalSessionName:");
+
 /// Ends the id of the item that stands for a whole service.
 inline const QLatin1String manifest(":manifest:");
 /// What takes its place in the ids of the actions on a whole service.

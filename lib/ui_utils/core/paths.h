@@ -7,6 +7,11 @@ namespace uiutils::paths {
 
 /// Folder of the saved reports.
 inline const QLatin1String reports("/cust/public/reports/");
+/// Folder of the metadata records of cable tests.
+inline const QLatin1String cableMetadata("/cust/private/cable/metadata");
+/// Folders of the screenshots and of their metadata records.
+inline const QLatin1String screenshots("/cust/public/screenshots/");
+inline const QLatin1String screenshotMetadata("/cust/private/screenshots/metadata/");
 /// Folder of the status icons and of the logo.
 inline const QLatin1String images("/base/qml/common/images/");
 inline const QLatin1String passIcon("/base/qml/common/images/pass_icon.png");
