@@ -13,11 +13,21 @@
 
 namespace uiutils::apps {
 
+namespace {
+
+/// What begins the names of a service's items: the last part of a name such as "com.example.test", which QML cannot spell.
+QString tagOf(const QString& service)
+{
+    return service.section(QLatin1Char('.'), -1);
+}
+
+} // namespace
+
 Instrument::Instrument(const kiv::embedded::EmbeddedBackend& backend)
 {
     const QStringList names = backend.serviceNames();
     for (const QString& name : names) {
-        auto* manifest = new Manifest(KIVClientInterface::getSessionBusClient(name), QString(), name);
+        auto* manifest = new Manifest(KIVClientInterface::getSessionBusClient(name), tagOf(name), name);
         QQmlEngine::setObjectOwnership(manifest, QQmlEngine::CppOwnership);
         m_manifests.append(manifest);
         m_byName.insert(name, QVariant::fromValue<QObject*>(manifest));

@@ -1,6 +1,7 @@
 #include "core/userdata.h"
 #include "document/reporttemplate.h"
 #include "files/fileutils.h"
+#include "files/screenshot.h"
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
 #include "module/uiutilsmodule.h"
@@ -65,8 +66,9 @@ private Q_SLOTS:
                      &BaseFormatter::staticMetaObject, &UiData::staticMetaObject, &StringUiData::staticMetaObject,
                      &BoolUiData::staticMetaObject, &EnumUiData::staticMetaObject, &UiDataEnums::staticMetaObject,
                      &UiEnumType::staticMetaObject, &UiDataContainer::staticMetaObject, &FileUtils::staticMetaObject,
-                     &KIVNotification::staticMetaObject, &KIVNotificationModelManager::staticMetaObject,
-                     &PDFFile::staticMetaObject, &Report::staticMetaObject})
+                     &Screenshot::staticMetaObject, &KIVNotification::staticMetaObject,
+                     &KIVNotificationModelManager::staticMetaObject, &PDFFile::staticMetaObject,
+                     &Report::staticMetaObject})
             QTest::newRow(type->className()) << type;
     }
     void descriptionForTools()

@@ -36,8 +36,10 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("services");
         QTest::newRow("shipped") << UIUTILS_SOURCE_DIR "/platform/reference/services"
                                  << QStringList {"basemgr", "loopback", "loopback_rtt", "loopback_throughput",
-                                        "optical"};
-        QTest::newRow("of the tests") << UIUTILS_TEST_DATA_DIR "/services" << QStringList {"basemgr", "kinds", "plots", "station"};
+                                        "optical", "orb.base.workflow_manager_app"};
+        QTest::newRow("of the tests") << UIUTILS_TEST_DATA_DIR "/services"
+                                      << QStringList {"basemgr", "kinds", "orb.base.workflow_manager_app", "plots",
+                                             "station"};
     }
     void shippedFilesLoad()
     {

@@ -89,6 +89,14 @@ private Q_SLOTS:
         QVERIFY(outcome.errors.contains("The key is turned."));
     }
 
+    void aServiceWhoseNameQmlCannotSpell()
+    {
+        const QString file = page("Item { Component.onCompleted: { Qt.exit(workflow_manager_app_cfg_activeWorkOrderId.value =="
+                                  " 'WO-1' && services['orb.base.workflow_manager_app'] ? 7 : 8) } }");
+        const Outcome outcome = run({file, "--services", UIUTILS_TEST_DATA_DIR "/services"});
+        QVERIFY2(outcome.exitCode == 7, qPrintable(QString::number(outcome.exitCode) + outcome.errors));
+    }
+
     void takesAPicture()
     {
         const QString picture = m_folder.filePath("page.png");

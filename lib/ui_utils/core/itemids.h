@@ -44,10 +44,18 @@ inline const QLatin1String attachReport(":action:basemgr:jobmanager:attachReport
 
 /// In the ids of items that say whether a job is active.
 inline const QLatin1String jobActiveWord("isJobActive");
-/// The service that leads users through the tests of a job.
-inline const QLatin1String workflowManager("orb.base.workflow_manager_app");
 /// Paths of the reports that the cloud leaves alone.
 inline const QLatin1String noSyncList(":config:basemgr:system:ss_nosync:stringARRAY:");
+
+/// The service that leads users through the tests of a job.
+inline const QLatin1String workflowManager("orb.base.workflow_manager_app");
+/// What it says of the work order that is worked on.
+inline const QLatin1String activeWorkOrder(
+        ":config:workflow_manager_app:workflow_manager_reg_module:activeWorkOrderId:");
+inline const QLatin1String activeWorkflow(
+        ":config:workflow_manager_app:workflow_manager_reg_module:activeWorkOrderWorkflowId:");
+inline const QLatin1String workflowSession(
+        ":result:workflow_manager_app:workflow_manager_reg_module:internalSessionName:");
 
 /// Ends the id of the item that stands for a whole service.
 inline const QLatin1String manifest(":manifest:");

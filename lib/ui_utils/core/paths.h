@@ -17,6 +17,11 @@ inline const QLatin1String noSyncList("/cust/private/lastconfigs/base/basemgr/sy
 /// The instrument's viewer of PDF files, and the folder that it runs in.
 inline const QLatin1String pdfViewer("/base/bin/pdf_viewer");
 inline const QLatin1String pdfViewerFolder("/base/qml/pdf_viewer");
+/// Folder of the metadata records of cable tests.
+inline const QLatin1String cableMetadata("/cust/private/cable/metadata");
+/// Folders of the screenshots and of their metadata records.
+inline const QLatin1String screenshots("/cust/public/screenshots/");
+inline const QLatin1String screenshotMetadata("/cust/private/screenshots/metadata/");
 /// Folder of the status icons and of the logo.
 inline const QLatin1String images("/base/qml/common/images/");
 inline const QLatin1String passIcon("/base/qml/common/images/pass_icon.png");

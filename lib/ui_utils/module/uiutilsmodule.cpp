@@ -3,6 +3,7 @@
 #include "core/userdata.h"
 #include "document/reporttemplate.h"
 #include "files/fileutils.h"
+#include "files/screenshot.h"
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
 #include "report/report.h"
@@ -105,6 +106,7 @@ void registerFileTypes(const char* uri)
             uri, 1, 0, "KIVNotification", QStringLiteral("A notification is made by whoever tells or asks something."));
     qmlRegisterSingletonType<KIVNotificationModelManager>(uri, 1, 0, "Notifications", notifications);
     qmlRegisterType<FileUtils>(uri, 1, 0, "FileUtils");
+    qmlRegisterType<Screenshot>(uri, 1, 0, "Screenshot");
 }
 
 } // namespace

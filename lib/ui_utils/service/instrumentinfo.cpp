@@ -1,6 +1,7 @@
 #include "service/instrumentinfo_p.h"
 
 #include "core/itemids.h"
+#include "document/reportmetadata.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
@@ -16,6 +17,13 @@ QStringList baseManagerList(QLatin1String id)
     const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
     const KIVClientItem* item = client ? client->getItem(id) : nullptr;
     return item ? item->getValue().toStringList() : QStringList();
+}
+
+/// The value as a text; empty without a client or an item.
+QString textOf(const KIVClientInterface* client, QLatin1String id)
+{
+    const KIVClientItem* item = client ? client->getItem(id) : nullptr;
+    return item ? item->getValue().toString() : QString();
 }
 
 QString shownLabel(const QString& label, const QString& name)
@@ -61,9 +69,7 @@ QString technicianName()
 
 QString unitId()
 {
-    const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
-    const KIVClientItem* item = client ? client->getItem(itemids::baseUnit) : nullptr;
-    return item ? item->getValue().toString().section(QLatin1Char('|'), 2, 2) : QString();
+    return textOf(KIVClientInterface::getBaseMgrClient(), itemids::baseUnit).section(QLatin1Char('|'), 2, 2);
 }
 
 LabelledTexts jobFields()
@@ -84,6 +90,16 @@ LabelledTexts jobFields()
             fields.append({QCoreApplication::translate("TemplateToHtmlWriter", row.label), item->getValueString()});
     }
     return fields;
+}
+
+void addWorkOrder(ReportMetadata* metadata)
+{
+    const KIVClientInterface* client = KIVClientInterface::getSessionBusClient(itemids::workflowManager);
+    const QString order = textOf(client, itemids::activeWorkOrder);
+    if (order.isEmpty() || textOf(client, itemids::workflowSession) != qEnvironmentVariable("UIUTILS_SESSION"))
+        return;
+    metadata->setInfo(std::string("wo"), order.toStdString());
+    metadata->setInfo(std::string("workflowId"), textOf(client, itemids::activeWorkflow).toStdString());
 }
 
 LabelledTexts softwareRevisions()

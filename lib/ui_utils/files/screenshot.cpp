@@ -1,0 +1,31 @@
+#include "files/screenshot.h"
+
+#include "core/paths.h"
+#include "service/instrumentinfo_p.h"
+
+namespace paths = uiutils::paths;
+
+Screenshot::Screenshot() = default;
+Screenshot::~Screenshot() = default;
+
+void Screenshot::setBaseName(const QString& baseName)
+{
+    m_baseName = baseName;
+}
+
+void Screenshot::updateMetadataInformation()
+{
+    m_metadata.clear();
+    m_metadata.setFormat(QStringLiteral("image/png"));
+    m_metadata.setType(QStringLiteral("TESTDATA.screenshot"));
+    m_metadata.setMetadataPath(paths::screenshotMetadata);
+    m_metadata.setOriginBase(paths::screenshots);
+    uiutils::instrument::addWorkOrder(&m_metadata);
+}
+
+bool Screenshot::saveMetadata()
+{
+    updateMetadataInformation();
+    m_metadata.setMetadataName(m_baseName + QLatin1String(".png"));
+    return m_metadata.saveMetadataToFile();
+}

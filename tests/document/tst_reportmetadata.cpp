@@ -1,0 +1,275 @@
+#include "document/reportmetadata.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+QByteArray contentsOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
+}
+
+bool writeFile(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly)
+            && file.write(contents) == contents.size();
+}
+
+/// A soft limit on the size of files, as a full disk that comes and goes.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        ::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit {bytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+    Q_DISABLE_COPY_MOVE(FullDisk)
+
+private:
+    rlimit m_before {};
+};
+
+const char* const reports = "/cust/public/reports/otdr/";
+const char* const records = "/cust/private/reports/metadata/otdr/";
+
+ReportMetadata recordOf(const QString& name)
+{
+    ReportMetadata record;
+    record.setMetadataName(name);
+    record.updateMetadataPathBase(reports);
+    record.setType("result");
+    record.setFormat("PDF");
+    record.setTimeStamp("2026-11-21T09:05:07+01:00");
+    record.setInfo(QString("wo"), QString("WO-1"));
+    return record;
+}
+
+QStringList valuesOf(const ReportMetadata& record)
+{
+    return {record.type(), record.format(), record.timeStamp(), record.originFilePath(), record.getInfo("wo")};
+}
+
+} // namespace
+
+class ReportMetadataTest : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_root;
+
+    QString onDisk(const QString& path) const { return m_root.path() + path; }
+    QStringList recordsOnDisk() const
+    {
+        return QDir(onDisk(records)).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        QVERIFY(m_root.isValid());
+        qputenv("UIUTILS_ROOT", QFile::encodeName(m_root.path()));
+        QDir(onDisk("/cust")).removeRecursively();
+    }
+
+    void folders_data()
+    {
+        QTest::addColumn<QString>("reportFolder");
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("reports") << "/cust/public/reports/" << "/cust/private/reports/metadata/";
+        QTest::newRow("below") << "/cust/public/reports/otdr/a/" << "/cust/private/reports/metadata/otdr/a/";
+        QTest::newRow("autosave") << "/cust/private/reports/autosave/otdr/" << "/cust/private/reports/metadata/otdr/";
+        QTest::newRow("autosave of the public") << "/cust/public/reports/autosave/" << "/cust/public/reports/metadata/";
+        QTest::newRow("another autosave") << "/cust/public/reports/otdr/autosave/"
+                                          << "/cust/private/reports/metadata/otdr/autosave/";
+        QTest::newRow("without a slash behind") << "/cust/public/reports" << "/cust/private/reports/metadata";
+        QTest::newRow("autosave without one") << "/cust/private/reports/autosave" << "/cust/private/reports/metadata";
+        QTest::newRow("same beginning") << "/cust/public/reports2/" << "/cust/public/reports2/";
+        QTest::newRow("stick") << "/mnt/usb/" << "/mnt/usb/";
+        QTest::newRow("empty") << "" << "";
+    }
+    void folders()
+    {
+        QFETCH(QString, reportFolder);
+        ReportMetadata record;
+        record.updateMetadataPathBase(reportFolder);
+        QTEST(record.metadataPath(), "folder");
+        QCOMPARE(record.originBase(), reportFolder);
+    }
+
+    void originPaths_data()
+    {
+        QTest::addColumn<QString>("base");
+        QTest::addColumn<QString>("path");
+        QTest::newRow("closed") << "/cust/public/reports/" << "/cust/public/reports/a.pdf";
+        QTest::newRow("open") << "/cust/public/reports" << "/cust/public/reports/a.pdf";
+        QTest::newRow("closed twice") << "/mnt/usb//" << "/mnt/usb/a.pdf";
+        QTest::newRow("top") << "/" << "/a.pdf";
+        QTest::newRow("none") << "" << "a.pdf";
+    }
+    void originPaths()
+    {
+        QFETCH(QString, base);
+        QFETCH(QString, path);
+        ReportMetadata record;
+        record.setOriginBase(base);
+        record.setMetadataName("a.pdf");
+        record.updateMetadataPathCable();
+        const QString line = "originFilePath " + path + ", metadataPath /cust/private/cable/metadata";
+        QTest::ignoreMessage(QtDebugMsg, qPrintable(line));
+        record.updateOriginFilePath();
+        QCOMPARE(record.originFilePath(), path);
+    }
+
+    void writtenAndRead()
+    {
+        const QString odd = QString::fromUtf8("\"\n\\ 5 µm Größe %1 \xf0\x9f\x94\xa6") + QChar(0) + "}";
+        ReportMetadata record = recordOf(QString::fromUtf8("Größe 5%.pdf"));
+        record.setInfo(std::string("größe"), std::string("µ"));
+        record.setInfo(odd, odd);
+        record.setInfo(QString("wo"), QString("WO-2"));
+        QVERIFY(record.saveMetadataToFile());
+
+        const QString path = onDisk(records) + QString::fromUtf8("Größe 5%.pdf.metadata");
+        QCOMPARE(record.metadataFilePath(), path.mid(m_root.path().size()));
+        const QByteArray text = contentsOf(path);
+        const QJsonObject object = QJsonDocument::fromJson(text).object();
+        QVERIFY2(text.startsWith("{\n    \""), text.constData());
+        QCOMPARE(object.keys(), (QStringList {"format", "info", "originFilePath", "timeStamp", "type"}));
+        QCOMPARE(object.value("originFilePath").toString(),
+                QString::fromUtf8("/cust/public/reports/otdr/Größe 5%.pdf"));
+        QCOMPARE(object.value("info").toObject().size(), 3);
+
+        ReportMetadata other;
+        other.setMetadataName(record.metadataName());
+        other.updateMetadataPathBase("/cust/public/reports/otdr");
+        other.setInfo(QString("stale"), QString("x"));
+        QVERIFY(other.loadFromDisk());
+        QCOMPARE(valuesOf(other), valuesOf(record));
+        QCOMPARE(other.getInfo(QString::fromUtf8("größe")), QString::fromUtf8("µ"));
+        QCOMPARE(other.getInfo(odd), odd);
+        QCOMPARE(other.getInfo("stale"), QString());
+
+        record.clear();
+        QCOMPARE(valuesOf(record), (QStringList {"", "", "", "", ""}));
+        QCOMPARE(record.metadataName() + record.metadataPath() + record.originBase(), QString());
+    }
+
+    void recordsOfOthers_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<bool>("taken");
+        const QByteArray most(int(ReportMetadata::maximumFileSize), ' ');
+        QTest::newRow("empty object") << QByteArray("{}") << true;
+        QTest::newRow("unknown key") << QByteArray(R"({"later": [1], "info": {}})") << true;
+        QTest::newRow("as large as may be") << QByteArray(most).replace(0, 2, "{}") << true;
+        QTest::newRow("too large") << QByteArray("{}" + most) << false;
+        QTest::newRow("empty") << QByteArray() << false;
+        QTest::newRow("cut off") << QByteArray(R"({"type": "x", "info": {"wo": )") << false;
+        QTest::newRow("more behind") << QByteArray("{} {}") << false;
+        QTest::newRow("no object") << QByteArray(R"(["type"])") << false;
+        QTest::newRow("no UTF-8") << QByteArray("{\"type\": \"\xff\"}") << false;
+        QTest::newRow("number for a text") << QByteArray(R"({"format": "x", "type": 5})") << false;
+        QTest::newRow("list for pairs") << QByteArray(R"({"type": "x", "info": ["wo"]})") << false;
+        QTest::newRow("number in a pair") << QByteArray(R"({"type": "x", "info": {"wo": 5}})") << false;
+        QTest::newRow("object in a pair") << QByteArray(R"({"type": "x", "info": {"wo": {"wo": "x"}}})") << false;
+        QTest::newRow("deeply nested") << QByteArray("{\"info\": " + QByteArray(100'000, '[')) << false;
+    }
+    void recordsOfOthers()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(bool, taken);
+        ReportMetadata record = recordOf("a.pdf");
+        record.updateOriginFilePath();
+        const QStringList before = valuesOf(record);
+        QVERIFY(writeFile(onDisk(record.metadataFilePath()), text));
+        if (!taken)
+            QTest::ignoreMessage(QtWarningMsg, "bool ReportMetadata::loadFromDisk() Error while parsing JSON from "
+                                               "/cust/private/reports/metadata/otdr/a.pdf.metadata");
+        QCOMPARE(record.loadFromDisk(), taken);
+        QCOMPARE(valuesOf(record), taken ? QStringList({"", "", "", "", ""}) : before);
+    }
+
+    /// A pipe that nobody writes to would hold the reader for ever.
+    void nothingToRead()
+    {
+        ReportMetadata record = recordOf("a.pdf");
+        const QStringList before = valuesOf(record);
+        const auto isRefused = [&] {
+            QTest::ignoreMessage(QtWarningMsg, "bool ReportMetadata::loadFromDisk() Could not open "
+                                               "/cust/private/reports/metadata/otdr/a.pdf.metadata");
+            return !record.loadFromDisk() && valuesOf(record) == before;
+        };
+        const QString path = onDisk(record.metadataFilePath());
+        QVERIFY(isRefused());
+        QVERIFY(QDir().mkpath(path));
+        QVERIFY(isRefused());
+        QVERIFY(QDir().rmdir(path));
+        QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        QVERIFY(isRefused());
+    }
+
+    void failedWrites_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<int>("room");
+        QTest::addColumn<int>("pairs");
+        QTest::newRow("full disk") << "a.pdf" << records << 64 << 0;
+        QTest::newRow("larger than can be read") << "a.pdf" << records << 100'000'000 << 100'000;
+        QTest::newRow("a file for a folder") << "b.pdf" << QString(records) + "a.pdf.metadata" << 100'000 << 0;
+        QTest::newRow("out of the folder") << "../../a.pdf" << records << 100'000 << 0;
+        QTest::newRow("longer than names are") << QString(250, 'x') << records << 100'000 << 0;
+        QTest::newRow("no folder") << "a.pdf" << "" << 100'000 << 0;
+    }
+    void failedWrites()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, folder);
+        QFETCH(int, room);
+        QFETCH(int, pairs);
+        QVERIFY(recordOf("a.pdf").saveMetadataToFile());
+        const QByteArray before = contentsOf(onDisk(records) + "a.pdf.metadata");
+        const QStringList all = QDir(m_root.path()).entryList() + QDir::current().entryList();
+
+        ReportMetadata record = recordOf(name);
+        record.setMetadataPath(folder);
+        record.setFormat("HTML");
+        for (int i = 0; i < pairs; ++i)
+            record.setInfo(QString::number(i), QString("value"));
+        const QString line
+                = "bool ReportMetadata::saveMetadataToFile() could not open file " + record.metadataFilePath();
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(line));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^(The record has|Cannot (write|create|replace)) "));
+        bool isSaved = true;
+        {
+            const FullDisk disk {rlim_t(room)};
+            isSaved = record.saveMetadataToFile();
+        }
+        QVERIFY(!isSaved);
+        QCOMPARE(record.format(), QString("HTML"));
+        QCOMPARE(recordsOnDisk(), QStringList {"a.pdf.metadata"});
+        QCOMPARE(contentsOf(onDisk(records) + "a.pdf.metadata"), before);
+        QCOMPARE(QDir(m_root.path()).entryList() + QDir::current().entryList(), all);
+
+        // What hindered has gone.
+        QVERIFY(recordOf("a.pdf").saveMetadataToFile());
+    }
+};
+
+QTEST_GUILESS_MAIN(ReportMetadataTest)
+#include "tst_reportmetadata.moc"
