@@ -202,7 +202,7 @@ private Q_SLOTS:
                     + run("pdfimages", {"-list", "a.pdf"});
         };
         const QString plain = described({});
-        for (const char* text : {"612 x 792", "Page 1 of 1", "Small"})
+        for (const char* text : {"612 x 792", "Page 1 of 1", "Small", "Producer:        uiutils"})
             QVERIFY2(plain.contains(text), qPrintable(plain));
         QVERIFY(!plain.contains("Unit ID"));
         const QString other = described({"--orientation", "landscape", "--unit-id", "U-9", "--logo", "red.png", "--title",

@@ -37,7 +37,7 @@ void TemplateToPdfWriter::setUpPages()
     m_pages.setTitle(m_html.title());
     m_pages.setAuthor(textOr("author", uiutils::instrument::technicianName()));
     m_pages.setSubject(textOr("subject", m_subject));
-    m_pages.setProducer(text("producer"));
+    m_pages.setProducer(textOr("producer", QStringLiteral("uiutils")));
     m_pages.setLogo(text("logo"));
     m_pages.setUnitId(textOr("unitId", uiutils::instrument::unitId()));
     m_pages.setTimestamp(m_html.timestamp());
