@@ -12,6 +12,7 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <initializer_list>
 #include <memory>
 #include <optional>
 
@@ -162,7 +163,8 @@ public:
     Q_INVOKABLE virtual void startPossibleSave();
     /// Saves the report as the settings say, and emits reportGenerated(). False when nothing or not everything was
     /// written: the user has been told why, or is being asked whether to overwrite; after reportOverwriteAccepted() the
-    /// page calls save(true).
+    /// page calls save(true). A question that is still open is taken back. False without more from a slot of what a
+    /// save of the same controller emits before reportGenerated().
     Q_INVOKABLE virtual bool save(bool overwrite = false);
     Q_INVOKABLE void setTestTime(const QString& testTime) { m_testTime = testTime; }
     Q_INVOKABLE void setTestDuration(const QString& testDuration) { m_testDuration = testDuration; }
@@ -307,11 +309,18 @@ private:
     template<typename Writer>
     void handOnSwitches(Writer& writer) const;
 
+    /// Emits notifiers without arguments in their order. False when a slot has deleted the controller.
+    bool emitEach(std::initializer_list<void (Report::*)()> notifiers);
+    /// Runs a step of a save, in which no other save begins.
+    template<typename Step>
+    bool alone(const Step& step);
+    bool beginSave(const QString& name);
     QString chosenName();
     void keepName();
     void takeIncludeJobInfo();
     bool hasRoom() const;
     bool mayWrite(const QStringList& paths, bool overwrite);
+    bool writeAndRecord(const QString& name, bool overwrite, QStringList* written);
     bool writeFormats(const QString& name, bool overwrite, QStringList* written);
     bool writeContents(const QString& path, const QByteArray& contents);
     void recordSync(const QStringList& paths);
@@ -335,6 +344,7 @@ private:
     bool m_showSoftwareRevs = true;
     bool m_isCompressionEnabled = false;
     bool m_notifiesTray = true;
+    bool m_isSaving = false;
     QString m_testTime;
     QString m_testDuration;
     QString m_cdmTestType;
