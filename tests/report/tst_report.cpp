@@ -583,7 +583,7 @@ private Q_SLOTS:
     void failuresAreTold_data()
     {
         QTest::addColumn<QString>("obstacle");
-        for (const char* obstacle : {"folder", "file in the way", "full", "long", "no pages"})
+        for (const char* obstacle : {"folder", "file in the way", "full", "long", "no pages", "read-only"})
             QTest::newRow(obstacle) << obstacle;
     }
     void failuresAreTold()
@@ -603,6 +603,13 @@ private Q_SLOTS:
             QVERIFY(QDir().mkpath(target));
         if (obstacle == "file in the way")
             QVERIFY(writeFile(onDisk("/cust/public/reports/f"), ""));
+        const QByteArray folder = QFile::encodeName(onDisk("/cust/public/reports/f"));
+        const auto unmount = qScopeGuard([&] { ::umount2(folder.constData(), MNT_DETACH); });
+        if (obstacle == "read-only") {
+            QVERIFY(QDir().mkpath(onDisk("/cust/public/reports/f")));
+            if (::mount("none", folder.constData(), "tmpfs", MS_RDONLY, "size=2m") != 0)
+                QSKIP("Only those who may mount a drive can have one that is read-only.");
+        }
         if (obstacle == "full") {
             QVERIFY(writeFile(target, "former"));
             const FileSizeLimit limit(4096);

@@ -262,16 +262,16 @@ void Report::setTemplatePath(const QString& path)
             &Report::canWriteToFileChanged});
 }
 
-/// A file that cannot be read would empty the document, so another one tries it first.
+/// A file that cannot be read would empty the document, so another one reads it. Reading it twice might find two files.
 bool Report::readTemplate(const QString& path)
 {
     ReportTemplate trial;
     trial.readFile(onDisk(path));
     if (trial.hasError())
         return false;
-    m_document.readFile(onDisk(path));
+    m_document.adopt(trial);
     m_templatePath = path;
-    return !m_document.hasError();
+    return true;
 }
 
 QString Report::ownOrTemplate(const QString& own, const char* key) const
