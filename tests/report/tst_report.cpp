@@ -76,7 +76,7 @@ public:
         return Report::writeTextReport(path, contents, suffix, overwrite);
     }
     QByteArray generatePDFReport() override { return pages; }
-    QString proposedFileName() override { return "proposed"; }
+    QString proposedFileName() override { return proposed; }
 
     void setUp(const QString& name, int format)
     {
@@ -92,6 +92,7 @@ public:
 
     QString text;
     QString json;
+    QString proposed = "proposed";
     QByteArray pages = "%PDF-";
     QStringList calls;
     bool keepsName = true;
@@ -768,6 +769,21 @@ private Q_SLOTS:
         QCOMPARE(accepted.count(), 1);
     }
 
+    void dyingControllersSaveNothing()
+    {
+        QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt"), "kept"));
+        auto report = std::make_unique<Controller>();
+        report->setUp("a", 3);
+        QVERIFY(!report->save());
+        QVector<bool> saved;
+        Report* dying = report.get();
+        connect(manager(), &KIVNotificationModelManager::currentDialogChanged, dying,
+                [&saved, dying] { saved << dying->save(true); });
+        report.reset();
+        QCOMPARE(saved, QVector<bool>{false});
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.txt")), QByteArray("kept"));
+    }
+
     void savesDoNotNest()
     {
         Controller report;
@@ -810,6 +826,16 @@ private Q_SLOTS:
         QVERIFY(!manager()->currentDialog());
         manager()->accept();
         QCOMPARE(accepted.count(), 0);
+    }
+
+    void emptyNamesAndFoldersHaveDefaults()
+    {
+        Controller report;
+        report.setUp("", 3);
+        report.proposed.clear();
+        report.setBaseDirectory(QString());
+        QVERIFY(report.save());
+        QCOMPARE(names("/cust/public/reports"), QStringList("empty.txt"));
     }
 
     void compressingReplacesThePlainReport()

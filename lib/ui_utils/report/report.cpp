@@ -115,7 +115,12 @@ Report::Report(QObject* parent)
     m_workflowClient = KIVClientInterface::getSessionBusClient(uiutils::itemids::workflowManager);
 }
 
-Report::~Report() = default;
+/// A dialog that closes with its asker tells the pages, which may know the controller as long as it is a QObject.
+Report::~Report()
+{
+    m_isSaving = true;
+    m_state->gate.withdraw();
+}
 
 // --- Services ---
 
@@ -281,7 +286,8 @@ QString Report::ownOrTemplate(const QString& own, const char* key) const
 
 void Report::setBaseDirectory(const QString& directory)
 {
-    if (changes(m_baseDirectory, directory))
+    // With a slash behind it, no folder would be the top of the file system.
+    if (changes(m_baseDirectory, directory.isEmpty() ? QString(uiutils::paths::reports) : directory))
         emitEach({&Report::reportFilesChanged, &Report::saveLocationChanged});
 }
 
@@ -754,10 +760,10 @@ bool Report::beginSave(const QString& name)
 QString Report::chosenName()
 {
     const KivData* item = getSetting(nameSetting);
-    if (!item)
-        return QStringLiteral("empty");
-    const QString name = item->getValue().toString();
-    return name.isEmpty() ? proposedFileName() : name;
+    QString name = item ? item->getValue().toString() : QString();
+    if (item && name.isEmpty())
+        name = proposedFileName();
+    return name.isEmpty() ? QStringLiteral("empty") : name;
 }
 
 void Report::keepName()

@@ -39,7 +39,7 @@ class UIUTILS_EXPORT Report : public QObject
     Q_OBJECT
     /// The JSON file of the document. One that cannot be read changes nothing and emits nothing.
     Q_PROPERTY(QString templatePath READ getTemplatePath WRITE setTemplatePath NOTIFY templatePathChanged)
-    /// The folder below which the reports of the unit lie; ends in "/".
+    /// The folder below which the reports of the unit lie; ends in "/". Empty stands for the unit's own.
     Q_PROPERTY(QString baseDirectory READ getBaseDirectory WRITE setBaseDirectory)
     /// The kind of test; the template's while none is set.
     Q_PROPERTY(QString tag READ getTag WRITE setTag NOTIFY tagChanged)
