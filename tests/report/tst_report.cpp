@@ -24,6 +24,7 @@
 #include <memory>
 #include <sys/mount.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 using Setter = std::function<void(Report&)>;
 Q_DECLARE_METATYPE(Setter)
@@ -75,7 +76,7 @@ public:
         return Report::writeTextReport(path, contents, suffix, overwrite);
     }
     QByteArray generatePDFReport() override { return pages; }
-    QString proposedFileName() override { return "proposed"; }
+    QString proposedFileName() override { return proposed; }
 
     void setUp(const QString& name, int format)
     {
@@ -84,12 +85,14 @@ public:
         getSetting("reportName")->setValue(name);
         getSetting("reportFormat")->setValue(format);
     }
+    using Report::addSetting;
     using Report::loadSettings;
     using Report::saveSettings;
     using Report::setFormatApplicable;
 
     QString text;
     QString json;
+    QString proposed = "proposed";
     QByteArray pages = "%PDF-";
     QStringList calls;
     bool keepsName = true;
@@ -412,6 +415,29 @@ private Q_SLOTS:
         QCOMPARE(report.getFormat(), 0);
         QCOMPARE(report.getSetting("reportSync_SS")->getValue().toBool(), false);
     }
+    void ownSettings_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::addColumn<QVariant>("value");
+        QTest::newRow("stored") << json("{'own': 9}") << QVariant(9);
+        QTest::newRow("not stored") << QByteArray("{}") << QVariant(7);
+        QTest::newRow("null") << json("{'own': null}") << QVariant(7);
+        QTest::newRow("object") << json("{'own': {'a': 1}}") << QVariant(7);
+        QTest::newRow("text") << json("{'own': 'many'}") << QVariant(7);
+        QTest::newRow("out of range") << json("{'own': 11}") << QVariant(7);
+    }
+    void ownSettings()
+    {
+        QFETCH(QByteArray, contents);
+        Controller report;
+        auto* own = new UiData;
+        own->setAttributes({{"name", "own"}, {"type", UiData::TYPE_INT}, {"minRange", 0}, {"maxRange", 10}});
+        own->setValue(7);
+        report.addSetting(own);
+        QVERIFY(writeFile(onDisk("/cust/private/lastconfigs/reportSettings/.json"), contents));
+        report.loadSettings();
+        QTEST(own->getValue(), "value");
+    }
     void unreachableSettings()
     {
         Controller report;
@@ -423,6 +449,10 @@ private Q_SLOTS:
         report.loadSettings();
         QTest::ignoreMessage(QtWarningMsg, qPrintable("Could not open " + path + " for writing"));
         report.saveSettings();
+        // Nobody writes into this pipe.
+        QVERIFY(QDir().rmdir(onDisk(path)) && ::mkfifo(onDisk(path).toLocal8Bit().constData(), 0600) == 0);
+        QTest::ignoreMessage(QtWarningMsg, qPrintable("Could not open " + path + " for reading"));
+        report.loadSettings();
     }
 
     void saves_data()
@@ -450,7 +480,7 @@ private Q_SLOTS:
         QCOMPARE(generated.count(), files.isEmpty() ? 0 : 1);
         QCOMPARE(manager()->count(), files.size());
         if (!files.isEmpty())
-            QCOMPARE(generated.at(0).at(0).toString(), "/cust/public/reports/f/" + files.at(0));
+            QCOMPARE(generated.at(0).at(0).toString(), format == 5 ? "a" : "/cust/public/reports/f/" + files.at(0));
         if (format == 3)
             QCOMPARE(contentsOf(onDisk("/cust/public/reports/f/a.txt")), QByteArray());
         if (format == 4)
@@ -537,7 +567,7 @@ private Q_SLOTS:
             QVERIFY(!gone.save());
             QCOMPARE(manager()->waitingDialogs(), 1);
         }
-        QCOMPARE(manager()->waitingDialogs(), 0);
+        QTRY_COMPARE(manager()->waitingDialogs(), 0);
         Controller second;
         second.setUp("b", 3);
         QVERIFY(!second.save());
@@ -554,7 +584,7 @@ private Q_SLOTS:
     void failuresAreTold_data()
     {
         QTest::addColumn<QString>("obstacle");
-        for (const char* obstacle : {"folder", "file in the way", "full", "long", "no pages"})
+        for (const char* obstacle : {"folder", "file in the way", "full", "long", "no pages", "read-only"})
             QTest::newRow(obstacle) << obstacle;
     }
     void failuresAreTold()
@@ -574,6 +604,13 @@ private Q_SLOTS:
             QVERIFY(QDir().mkpath(target));
         if (obstacle == "file in the way")
             QVERIFY(writeFile(onDisk("/cust/public/reports/f"), ""));
+        const QByteArray folder = QFile::encodeName(onDisk("/cust/public/reports/f"));
+        const auto unmount = qScopeGuard([&] { ::umount2(folder.constData(), MNT_DETACH); });
+        if (obstacle == "read-only") {
+            QVERIFY(QDir().mkpath(onDisk("/cust/public/reports/f")));
+            if (::mount("none", folder.constData(), "tmpfs", MS_RDONLY, "size=2m") != 0)
+                QSKIP("Only those who may mount a drive can have one that is read-only.");
+        }
         if (obstacle == "full") {
             QVERIFY(writeFile(target, "former"));
             const FileSizeLimit limit(4096);
@@ -617,6 +654,210 @@ private Q_SLOTS:
             QVERIFY(report.save());
             QVERIFY(QFile::remove(onDisk("/cust/public/reports/a.txt")));
         }
+    }
+
+    void slotsMayDeleteTheController_data()
+    {
+        QTest::addColumn<Setter>("prepare");
+        QTest::addColumn<QStringList>("files");
+        const auto onSignal = [](void (Report::*signal)()) {
+            return [signal](Report& r) { connect(&r, signal, &r, [&r] { delete &r; }); };
+        };
+        const auto onNotification = [](void (KIVNotificationModelManager::*signal)()) {
+            return [signal](Report& r) {
+                // The dialog goes with the controller, which the manager tells, too.
+                connect(manager(), signal, &r, [&r, isFirst = true]() mutable {
+                    if (std::exchange(isFirst, false))
+                        delete &r;
+                });
+            };
+        };
+        const auto add = [](const char* name, const Setter& prepare, const QStringList& files) {
+            QTest::newRow(name) << prepare << files;
+        };
+        const auto dialog = onNotification(&KIVNotificationModelManager::currentDialogChanged);
+        const auto tray = onNotification(&KIVNotificationModelManager::countChanged);
+        const auto blocked = [](Report& r) {
+            QVERIFY(writeFile(QFile::decodeName(qgetenv("UIUTILS_ROOT")) + "/cust/public/reports/f", ""));
+            r.setFolder("f");
+        };
+        add("job info", onSignal(&Report::includeJobInfoChanged), {});
+        add("last XML", onSignal(&Report::lastSavedXMLChanged), {"a.xml"});
+        add("files", onSignal(&Report::reportFilesChanged), {"a.xml"});
+        add("location", onSignal(&Report::saveLocationChanged), {"a.xml"});
+        add("tray", tray, {"a.xml"});
+        add(
+                "generated", [](Report& r) { connect(&r, &Report::reportGenerated, &r, [&r] { delete &r; }); },
+                {"a.xml", "a.html"});
+        const auto failing = [=](const Setter& watch) {
+            return [=](Report& r) {
+                blocked(r);
+                watch(r);
+            };
+        };
+        add("error in the tray", failing(tray), {"f"});
+        add("error in a dialog", failing(dialog), {"f"});
+        add(
+                "question",
+                [=](Report& r) {
+                    QVERIFY(r.writeXmlReport(r.getSaveFilePath("a", ".xml")));
+                    dialog(r);
+                },
+                {"a.xml"});
+    }
+    void slotsMayDeleteTheController()
+    {
+        QFETCH(Setter, prepare);
+        const QPointer<Controller> report(new Controller);
+        report->setUp("a", 5);
+        for (int format : {0, 3, 4})
+            report->setFormatApplicable(format, false);
+        auto* jobInfo = new BoolUiData;
+        jobInfo->setAttributes({{"name", "includeJobInfo"}, {"type", "bool"}});
+        jobInfo->setValue(true);
+        report->addSetting(jobInfo);
+        prepare(*report);
+        report->save();
+        QVERIFY(!report);
+        QStringList found = names("/cust/public/reports");
+        std::sort(found.begin(), found.end(), std::greater<>());
+        QTEST(found, "files");
+    }
+    void notifiersMayDeleteTheController()
+    {
+        writeTemplate("a.json", "");
+        const QVector<Setter> changes{[](Report& r) { r.setTemplatePath("/cust/a.json"); },
+                [](Report& r) { r.setFolder("x"); }, [](Report& r) { r.setTag("x"); },
+                [](Report& r) { r.setBaseDirectory("/x/"); }};
+        for (const Setter& change : changes) {
+            const QPointer<Report> report(new Report);
+            for (const auto signal : {&Report::reportFilesChanged, &Report::tagChanged})
+                connect(report, signal, report, [&report] { delete report; });
+            change(*report);
+            QVERIFY(!report);
+        }
+        const QPointer<Report> report(new Report);
+        connect(report, &Report::canWriteToJobManagerChanged, report, [&report] { delete report; });
+        QVERIFY(basemgr()->setValue(activeItem, false));
+        QTRY_VERIFY(!report);
+    }
+    void storedValuesMayDeleteTheController()
+    {
+        QVERIFY(writeFile(onDisk("/cust/private/lastconfigs/reportSettings/.json"),
+                json("{'reportFormat': 1, 'reportName': 'a', 'reportSync_SS': true}")));
+        const QPointer<Report> report(new Report);
+        connect(report->getSetting("reportFormat"), &KivData::valueChanged, report, [&report] { delete report; });
+        report->slotCreateSettings();
+        QVERIFY(!report);
+    }
+    void answersMayDeleteTheirAsker()
+    {
+        const QPointer<Controller> first(new Controller);
+        Controller second;
+        QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt"), ""));
+        for (Controller* report : {first.data(), &second}) {
+            report->setUp("a", 3);
+            QVERIFY(!report->save());
+        }
+        QSignalSpy accepted(&second, &Report::reportOverwriteAccepted);
+        connect(first, &Report::reportOverwriteAccepted, first, [&first] { delete first; });
+        // The second hears this answer when the first has gone.
+        manager()->accept();
+        QVERIFY(!first);
+        QCOMPARE(accepted.count(), 0);
+        manager()->accept();
+        QCOMPARE(accepted.count(), 1);
+    }
+
+    void dyingControllersSaveNothing()
+    {
+        QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt"), "kept"));
+        auto report = std::make_unique<Controller>();
+        report->setUp("a", 3);
+        QVERIFY(!report->save());
+        QVector<bool> saved;
+        Report* dying = report.get();
+        connect(manager(), &KIVNotificationModelManager::currentDialogChanged, dying,
+                [&saved, dying] { saved << dying->save(true); });
+        report.reset();
+        QCOMPARE(saved, QVector<bool>{false});
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.txt")), QByteArray("kept"));
+    }
+
+    void savesDoNotNest()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        QVector<bool> nested;
+        connect(&report, &Report::reportFilesChanged, &report, [&] { nested << report.save(true); });
+        QVERIFY(report.save());
+        QCOMPARE(nested, QVector<bool>{false});
+        report.disconnect(&report);
+        // Whoever answers at once is heard, and one save may follow another.
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { nested << report.save(true); });
+        const auto watch = connect(manager(), &KIVNotificationModelManager::currentDialogChanged, &report, [] {
+            if (manager()->currentDialog())
+                manager()->accept();
+        });
+        QVERIFY(!report.save());
+        QCOMPARE(nested, QVector<bool>({false, true}));
+        disconnect(watch);
+        connect(&report, &Report::reportGenerated, &report, [&] {
+            if (report.getSetting("reportName")->getValue() != "b") {
+                report.getSetting("reportName")->setValue("b");
+                nested << report.save();
+            }
+        });
+        QVERIFY(report.save(true));
+        QCOMPARE(nested, QVector<bool>({false, true, true}));
+        QCOMPARE(names("/cust/public/reports"), QStringList({"a.txt", "b.txt"}));
+    }
+
+    void aNewSaveTakesTheQuestionBack()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(report.save());
+        QVERIFY(!report.save());
+        QSignalSpy accepted(&report, &Report::reportOverwriteAccepted);
+        report.getSetting("reportName")->setValue("b");
+        QVERIFY(report.save());
+        // An answer now would have "b" overwritten, which nobody has asked about.
+        QVERIFY(!manager()->currentDialog());
+        manager()->accept();
+        QCOMPARE(accepted.count(), 0);
+    }
+
+    void emptyNamesAndFoldersHaveDefaults()
+    {
+        Controller report;
+        report.setUp("", 3);
+        report.proposed.clear();
+        report.setBaseDirectory(QString());
+        QVERIFY(report.save());
+        QCOMPARE(names("/cust/public/reports"), QStringList("empty.txt"));
+    }
+
+    void compressingReplacesThePlainReport()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(report.save());
+        report.setCompressionEnabled(true);
+        QVERIFY(!report.save());
+        QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
+        QVERIFY(report.save(true));
+        QCOMPARE(names("/cust/public/reports"), QStringList("a.txt.gz"));
+    }
+
+    void reportsStayFromTheCloudThoughOthersFail()
+    {
+        Controller report;
+        report.setUp("a", 5);
+        QVERIFY(QDir().mkpath(onDisk("/cust/public/reports/a.xml/x")));
+        QVERIFY(!report.save(true));
+        const QByteArray list = contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"));
+        QVERIFY(list.contains("/a.pdf\n") && list.contains("/a.txt\n") && !list.contains("/a.xml\n"));
     }
 
     void platformKeepsTheName()
@@ -714,7 +955,10 @@ private Q_SLOTS:
     {
         Report report;
         report.setTitle("Own title");
+        writeTemplate("rows.json", ", 'table_0': {'node_type': 'table', 'title': 'T', 'num_columns': 1}");
+        report.setTemplatePath("/cust/rows.json");
         QVERIFY(report.generatePDFReport().startsWith("%PDF-"));
+        QVERIFY(Report::m_reportItems.isEmpty());
         QVERIFY(report.generateHtmlReport().contains("Own title"));
         report.setShowSoftwareRevs(false);
         QVERIFY(!report.generateHtmlReport().contains("Software Revisions"));

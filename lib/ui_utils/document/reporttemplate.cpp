@@ -49,6 +49,13 @@ void ReportTemplate::readFile(const QString& file)
     m_tag = m_document.object().value(keys::tag).toString();
 }
 
+void ReportTemplate::adopt(const ReportTemplate& other)
+{
+    m_document = other.m_document;
+    m_tag = other.m_tag;
+    m_path = other.m_path;
+}
+
 bool ReportTemplate::hasError() const
 {
     return m_document.hasError();

@@ -36,6 +36,9 @@ public:
     /// Replaces the document by that of a JSON file and takes the tag and the path from it. When the file cannot be
     /// read, the document and the tag are empty and hasError() is true. Nodes begun and not ended stay open.
     Q_INVOKABLE void readFile(const QString& file);
+    /// Replaces the document, the tag, the path and what readFile() said by those of `other`. Nodes begun and not ended
+    /// stay open.
+    void adopt(const ReportTemplate& other);
     /// Whether the last readFile() failed.
     Q_INVOKABLE bool hasError() const;
     /// The document as indented JSON text; empty for an empty document.

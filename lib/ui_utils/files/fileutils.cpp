@@ -49,7 +49,14 @@ FileUtils::FileUtils(QObject* parent)
     connect(manager, &KIVNotificationModelManager::notificationRejected, this, &FileUtils::onNotificationRejected);
 }
 
-FileUtils::~FileUtils() = default;
+/// Its dialog closes at once. One that is no longer open may be being answered, and others still have to hear of it.
+FileUtils::~FileUtils()
+{
+    if (!m_notification || m_notification == KIVNotificationModelManager::instance()->currentDialog())
+        return;
+    m_notification->setParent(nullptr);
+    m_notification->deleteLater();
+}
 
 void FileUtils::onNotificationAccepted(KIVNotification* notification)
 {
@@ -184,8 +191,11 @@ void FileUtils::sendError(const QString& title, const QString& text)
 {
     KIVNotification* notification = freshNotification(title, text);
     notification->setError();
+    // Whoever watches the tray may end the object that tells.
+    const QPointer<FileUtils> self(this);
     notification->notifyTray();
-    notification->notifyDialog();
+    if (self)
+        notification->notifyDialog();
 }
 
 void FileUtils::sendRequest(const QString& title, const QString& text, const QMap<QString, QString>& values)

@@ -2,6 +2,7 @@
 
 #include "core/itemids.h"
 #include "core/paths.h"
+#include "report/reportdestinations_p.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
@@ -17,12 +18,6 @@ namespace {
 QString translated(const char* text)
 {
     return QCoreApplication::translate("Report", text);
-}
-
-const KIVClientItem* baseManagerItem(QLatin1String id)
-{
-    const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
-    return client ? client->getItem(id) : nullptr;
 }
 
 /// Why the schema does not allow the report; empty when it does.
@@ -56,8 +51,7 @@ QString refusal(const QByteArray& xml)
 
 bool isJobActive()
 {
-    const KIVClientItem* item = baseManagerItem(itemids::jobActive);
-    return item && item->getValue().toBool();
+    return baseManagerValue(itemids::jobActive).toBool();
 }
 
 QString jobSummary()

@@ -36,7 +36,7 @@ void OverwriteGate::ask(const QString& path)
 {
     m_pendingPath = path;
     m_token = QUuid::createUuid().toString();
-    m_question.sendNotificationOverwriteReportRequest(path, {{tokenKey, m_token}});
+    m_question->sendNotificationOverwriteReportRequest(path, {{tokenKey, m_token}});
 }
 
 QString OverwriteGate::takeAnswered(const KIVNotification* notification)
@@ -45,6 +45,15 @@ QString OverwriteGate::takeAnswered(const KIVNotification* notification)
         return QString();
     m_token.clear();
     return std::exchange(m_pendingPath, QString());
+}
+
+void OverwriteGate::withdraw()
+{
+    if (m_token.isEmpty())
+        return;
+    m_token.clear();
+    m_pendingPath.clear();
+    m_question = std::make_unique<FileUtils>();
 }
 
 } // namespace uiutils

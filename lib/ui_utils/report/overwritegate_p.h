@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 namespace uiutils {
 
 /// Lets a report be written, or has the user asked whether it may take another's place.
@@ -25,9 +27,11 @@ public:
     void ask(const QString& path);
     /// The pending report when the notification is the question about it, which is answered by that; empty otherwise.
     QString takeAnswered(const KIVNotification* notification);
+    /// Takes the question back, if one is open: its answer would be taken for one about what is saved now.
+    void withdraw();
 
 private:
-    FileUtils m_question;
+    std::unique_ptr<FileUtils> m_question = std::make_unique<FileUtils>();
     QString m_pendingPath;
     QString m_token;
 };

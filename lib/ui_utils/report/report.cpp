@@ -32,6 +32,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 using uiutils::onDisk;
 
@@ -114,7 +115,12 @@ Report::Report(QObject* parent)
     m_workflowClient = KIVClientInterface::getSessionBusClient(uiutils::itemids::workflowManager);
 }
 
-Report::~Report() = default;
+/// A dialog that closes with its asker tells the pages, which may know the controller as long as it is a QObject.
+Report::~Report()
+{
+    m_isSaving = true;
+    m_state->gate.withdraw();
+}
 
 // --- Services ---
 
@@ -126,9 +132,7 @@ void Report::watchServices()
     watchItems();
     connect(client, &KIVClientInterface::itemsChanged, this, [this] {
         watchItems();
-        Q_EMIT canWriteToJobManagerChanged();
-        Q_EMIT jobSummaryChanged();
-        Q_EMIT saveLocationChanged();
+        emitEach({&Report::canWriteToJobManagerChanged, &Report::jobSummaryChanged, &Report::saveLocationChanged});
     });
 }
 
@@ -150,8 +154,20 @@ void Report::slotValueChanged()
 {
     const auto* item = qobject_cast<KIVClientItem*>(sender());
     if (item && item->getId().contains(uiutils::itemids::jobActiveWord))
-        Q_EMIT canWriteToJobManagerChanged();
-    Q_EMIT jobSummaryChanged();
+        emitEach({&Report::canWriteToJobManagerChanged, &Report::jobSummaryChanged});
+    else
+        Q_EMIT jobSummaryChanged();
+}
+
+bool Report::emitEach(std::initializer_list<void (Report::*)()> notifiers)
+{
+    const QPointer<Report> self(this);
+    for (const auto notifier : notifiers) {
+        Q_EMIT(this->*notifier)();
+        if (!self)
+            return false;
+    }
+    return true;
 }
 
 // --- Settings ---
@@ -193,16 +209,18 @@ void Report::setFormatApplicable(int format, bool applicable)
     const UiData* item = m_settings.value(formatSetting);
     const UiDataEnums* choices = item ? item->getUiEnumList() : nullptr;
     const QList<UiEnumType*> list = choices ? choices->getEnumList() : QList<UiEnumType*>();
-    for (UiEnumType* choice : list) {
-        if (choice->getValue() == format)
-            choice->setApplicable(applicable);
-    }
+    const auto choice = std::find_if(
+            list.cbegin(), list.cend(), [=](const UiEnumType* candidate) { return candidate->getValue() == format; });
+    if (choice != list.cend())
+        (*choice)->setApplicable(applicable);
 }
 
 void Report::slotCreateSettings()
 {
+    const QPointer<Report> self(this);
     loadSettings();
-    settingsLoaded();
+    if (self)
+        settingsLoaded();
 }
 
 void Report::loadSettings()
@@ -244,26 +262,21 @@ void Report::setTemplatePath(const QString& path)
 {
     if (!readTemplate(path))
         return;
-    Q_EMIT templatePathChanged();
-    Q_EMIT tagChanged();
-    Q_EMIT orientationChanged();
-    Q_EMIT titleChanged();
-    Q_EMIT subjectChanged();
-    Q_EMIT reportFilesChanged();
-    Q_EMIT canWriteToJobManagerChanged();
-    Q_EMIT canWriteToFileChanged();
+    emitEach({&Report::templatePathChanged, &Report::tagChanged, &Report::orientationChanged, &Report::titleChanged,
+            &Report::subjectChanged, &Report::reportFilesChanged, &Report::canWriteToJobManagerChanged,
+            &Report::canWriteToFileChanged});
 }
 
-/// A file that cannot be read would empty the document, so another one tries it first.
+/// A file that cannot be read would empty the document, so another one reads it. Reading it twice might find two files.
 bool Report::readTemplate(const QString& path)
 {
     ReportTemplate trial;
     trial.readFile(onDisk(path));
     if (trial.hasError())
         return false;
-    m_document.readFile(onDisk(path));
+    m_document.adopt(trial);
     m_templatePath = path;
-    return !m_document.hasError();
+    return true;
 }
 
 QString Report::ownOrTemplate(const QString& own, const char* key) const
@@ -273,10 +286,9 @@ QString Report::ownOrTemplate(const QString& own, const char* key) const
 
 void Report::setBaseDirectory(const QString& directory)
 {
-    if (!changes(m_baseDirectory, directory))
-        return;
-    Q_EMIT reportFilesChanged();
-    Q_EMIT saveLocationChanged();
+    // With a slash behind it, no folder would be the top of the file system.
+    if (changes(m_baseDirectory, directory.isEmpty() ? QString(uiutils::paths::reports) : directory))
+        emitEach({&Report::reportFilesChanged, &Report::saveLocationChanged});
 }
 
 QString Report::getTag() const
@@ -289,8 +301,7 @@ void Report::setTag(const QString& tag)
     const QString folder = getFolder();
     if (!changes(m_tag, tag))
         return;
-    Q_EMIT tagChanged();
-    if (getFolder() != folder)
+    if (emitEach({&Report::tagChanged}) && getFolder() != folder)
         tellFolder();
 }
 
@@ -307,9 +318,7 @@ void Report::setFolder(const QString& folder)
 
 void Report::tellFolder()
 {
-    Q_EMIT folderChanged();
-    Q_EMIT reportFilesChanged();
-    Q_EMIT saveLocationChanged();
+    emitEach({&Report::folderChanged, &Report::reportFilesChanged, &Report::saveLocationChanged});
 }
 
 bool Report::getCanWriteToJobManager() const
@@ -571,10 +580,10 @@ QByteArray Report::generateDefaultPDFReport()
 {
     const QTemporaryDir folder;
     const QString place = folder.filePath(QStringLiteral("report") + uiutils::pdfSuffix);
-    // The items of a long report are large, and nobody needs them once they are printed.
-    const auto release = qScopeGuard([] {
-        qDeleteAll(m_reportItems);
-        m_reportItems.clear();
+    // A report of many rows is large: its items go as soon as they are printed, unless others print them, too.
+    const auto dropItems = qScopeGuard([isNested = ReportPDF::isPrinting()] {
+        if (!isNested)
+            qDeleteAll(std::exchange(m_reportItems, {}));
     });
     TemplateToPdfWriter writer(m_document, &m_reportItems);
     handOnSwitches(writer);
@@ -634,14 +643,21 @@ bool Report::writeContents(const QString& path, const QByteArray& contents)
         qDebug("The report %s was not written: %s", qUtf8Printable(path), qUtf8Printable(file.error));
         return false;
     }
+    // The user has let go of a report of the name before it came to this.
+    if (m_isCompressionEnabled)
+        QFile::remove(onDisk(path));
     if (path.endsWith(PDF_EXTENSION))
         m_lastPdf = file.path;
+    // Slots and hooks may delete the controller. The file is there all the same.
+    const QPointer<Report> self(this);
+    const bool notifiesTray = m_notifiesTray;
     if (path.endsWith(XML_EXTENSION) && changes(m_lastSavedXml, file.path))
         Q_EMIT lastSavedXMLChanged();
-    reportWritten(file.path);
-    Q_EMIT reportFilesChanged();
-    Q_EMIT saveLocationChanged();
-    if (m_notifiesTray)
+    if (self)
+        reportWritten(file.path);
+    if (self)
+        emitEach({&Report::reportFilesChanged, &Report::saveLocationChanged});
+    if (self ? m_notifiesTray : notifiesTray)
         uiutils::postSavedNotice(file.path);
     return true;
 }
@@ -668,8 +684,10 @@ bool Report::mayWrite(const QStringList& paths, bool overwrite)
             Qt::UniqueConnection);
     connect(manager, &KIVNotificationModelManager::notificationRejected, this, &Report::overwriteRejected,
             Qt::UniqueConnection);
+    const QPointer<Report> self(this);
     m_state->gate.ask(taken);
-    overwriteAsked(taken);
+    if (self)
+        overwriteAsked(taken);
     return false;
 }
 
@@ -692,36 +710,64 @@ void Report::startPossibleSave() {}
 
 bool Report::save(bool overwrite)
 {
+    // A slot that hears of a save's progress would otherwise start one within the other, and that one the next.
+    if (m_isSaving)
+        return false;
+    const QPointer<Report> self(this);
+    m_state->gate.withdraw();
     saveSettings();
     const QString name = chosenName();
-    saveStarted(name);
-    keepName();
-    takeIncludeJobInfo();
-    if (!hasRoom()) {
-        saveFailed(name);
+    const auto fail = [&] {
+        if (self)
+            saveFailed(name);
         return false;
-    }
+    };
+    if (!alone([&] { return beginSave(name); }))
+        return fail();
     if (!checkForOverwrite(name, getSuffixForReport(), overwrite))
         return false;
-    prepareDocument();
     QStringList written;
-    if (!writeFormats(name, overwrite, &written)) {
-        saveFailed(name);
-        return false;
-    }
-    recordSync(written);
+    if (!alone([&] { return writeAndRecord(name, overwrite, &written); }))
+        return fail();
+    // Files of all formats have the name in common.
+    const QString saved = isAll() ? name : written.constFirst();
     saveSucceeded(written.constFirst());
-    Q_EMIT reportGenerated(written.constFirst());
+    if (self)
+        Q_EMIT reportGenerated(saved);
     return true;
+}
+
+/// False when the step fails, and when the controller has not survived it.
+template<typename Step>
+bool Report::alone(const Step& step)
+{
+    const QPointer<Report> self(this);
+    m_isSaving = true;
+    const bool isDone = step();
+    if (!self)
+        return false;
+    m_isSaving = false;
+    return isDone;
+}
+
+bool Report::beginSave(const QString& name)
+{
+    const QPointer<Report> self(this);
+    saveStarted(name);
+    if (self)
+        keepName();
+    if (self)
+        takeIncludeJobInfo();
+    return self && hasRoom();
 }
 
 QString Report::chosenName()
 {
     const KivData* item = getSetting(nameSetting);
-    if (!item)
-        return QStringLiteral("empty");
-    const QString name = item->getValue().toString();
-    return name.isEmpty() ? proposedFileName() : name;
+    QString name = item ? item->getValue().toString() : QString();
+    if (item && name.isEmpty())
+        name = proposedFileName();
+    return name.isEmpty() ? QStringLiteral("empty") : name;
 }
 
 void Report::keepName()
@@ -757,18 +803,35 @@ bool Report::checkForOverwrite(const QString& name, const QString& suffix, bool 
     return mayWrite(paths, overwrite);
 }
 
+/// What a user keeps from the cloud stays from it also when another format could not be written.
+bool Report::writeAndRecord(const QString& name, bool overwrite, QStringList* written)
+{
+    const QPointer<Report> self(this);
+    const bool isComplete = writeFormats(name, overwrite, written);
+    if (self)
+        recordSync(*written);
+    return isComplete;
+}
+
 bool Report::writeFormats(const QString& name, bool overwrite, QStringList* written)
 {
+    const QPointer<Report> self(this);
+    prepareDocument();
     bool ok = true;
-    const auto formats = uiutils::formatsToWrite(getFormat(), m_settings.value(formatSetting));
+    const auto formats = self ? uiutils::formatsToWrite(getFormat(), m_settings.value(formatSetting))
+                              : QList<const uiutils::ReportFormat*>();
     for (const uiutils::ReportFormat* format : formats) {
         const QString path = getSaveFilePath(name, format->suffix);
-        if (!(this->*format->writer)(path, overwrite)) {
-            ok = false;
+        const bool isWritten = (this->*format->writer)(path, overwrite);
+        if (!self)
+            return false;
+        ok = ok && isWritten;
+        if (!isWritten)
             continue;
-        }
         written->append(m_isCompressionEnabled ? path + GZIP_EXTENSION : path);
         writeMetadata(written->constLast(), QLatin1String(format->label));
+        if (!self)
+            return false;
     }
     return ok && !written->isEmpty();
 }
@@ -778,12 +841,13 @@ void Report::recordSync(const QStringList& paths)
     const KivData* item = getSetting(syncSetting);
     if (!item)
         return;
+    const QPointer<Report> self(this);
     const bool isSynced = item->getValue().toBool();
     (isSynced ? m_syncedReports : m_unsyncedReports) += paths;
     for (const QString& path : paths) {
-        if (isSynced)
+        if (self && isSynced)
             removeReportFromNoSyncList(path);
-        else
+        else if (self)
             addReportToNoSyncList(path);
     }
 }
@@ -816,8 +880,11 @@ double Report::percentageFileSystemUsed(const QString& path)
 bool Report::writeToJobManager()
 {
     QString reason;
+    const QPointer<Report> self(this);
     const bool attached = ensureValidJobData()
             && uiutils::attachToJob(generateJobManagerReport().toUtf8(), m_jobSchema, &reason);
+    if (!self)
+        return attached;
     if (attached) {
         updateJobTestMetadata();
         return true;

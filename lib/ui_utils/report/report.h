@@ -12,6 +12,7 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <initializer_list>
 #include <memory>
 #include <optional>
 
@@ -38,7 +39,7 @@ class UIUTILS_EXPORT Report : public QObject
     Q_OBJECT
     /// The JSON file of the document. One that cannot be read changes nothing and emits nothing.
     Q_PROPERTY(QString templatePath READ getTemplatePath WRITE setTemplatePath NOTIFY templatePathChanged)
-    /// The folder below which the reports of the unit lie; ends in "/".
+    /// The folder below which the reports of the unit lie; ends in "/". Empty stands for the unit's own.
     Q_PROPERTY(QString baseDirectory READ getBaseDirectory WRITE setBaseDirectory)
     /// The kind of test; the template's while none is set.
     Q_PROPERTY(QString tag READ getTag WRITE setTag NOTIFY tagChanged)
@@ -162,7 +163,8 @@ public:
     Q_INVOKABLE virtual void startPossibleSave();
     /// Saves the report as the settings say, and emits reportGenerated(). False when nothing or not everything was
     /// written: the user has been told why, or is being asked whether to overwrite; after reportOverwriteAccepted() the
-    /// page calls save(true).
+    /// page calls save(true). A question that is still open is taken back. False without more from a slot of what a
+    /// save of the same controller emits before reportGenerated().
     Q_INVOKABLE virtual bool save(bool overwrite = false);
     Q_INVOKABLE void setTestTime(const QString& testTime) { m_testTime = testTime; }
     Q_INVOKABLE void setTestDuration(const QString& testDuration) { m_testDuration = testDuration; }
@@ -287,7 +289,7 @@ Q_SIGNALS:
 
     /// The user lets the pending report be overwritten.
     void reportOverwriteAccepted();
-    /// A save has succeeded; `filename` is its path, that of the first file when there are several.
+    /// A save has succeeded: `filename` is the file's path, or for all formats the name that the files have in common.
     void reportGenerated(const QString& filename);
 
 public Q_SLOTS:
@@ -309,11 +311,18 @@ private:
     template<typename Writer>
     void handOnSwitches(Writer& writer) const;
 
+    /// Emits notifiers without arguments in their order. False when a slot has deleted the controller.
+    bool emitEach(std::initializer_list<void (Report::*)()> notifiers);
+    /// Runs a step of a save, in which no other save begins.
+    template<typename Step>
+    bool alone(const Step& step);
+    bool beginSave(const QString& name);
     QString chosenName();
     void keepName();
     void takeIncludeJobInfo();
     bool hasRoom() const;
     bool mayWrite(const QStringList& paths, bool overwrite);
+    bool writeAndRecord(const QString& name, bool overwrite, QStringList* written);
     bool writeFormats(const QString& name, bool overwrite, QStringList* written);
     bool writeContents(const QString& path, const QByteArray& contents);
     void recordSync(const QStringList& paths);
@@ -337,6 +346,7 @@ private:
     bool m_showSoftwareRevs = true;
     bool m_isCompressionEnabled = false;
     bool m_notifiesTray = true;
+    bool m_isSaving = false;
     QString m_testTime;
     QString m_testDuration;
     QString m_cdmTestType;

@@ -10,12 +10,15 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPointer>
 
 #include <optional>
 
 namespace uiutils {
 
 namespace {
+
+const QLatin1String vectorStart("std::vector<");
 
 void logUnreadable(const QString& reason)
 {
@@ -25,8 +28,8 @@ void logUnreadable(const QString& reason)
 std::optional<QByteArray> contentsOf(const QString& path)
 {
     QFile file(onDisk(path));
-    // A folder can be opened, too, but holds nothing.
-    if (QFileInfo(file).isDir() || !file.open(QIODevice::ReadOnly)) {
+    // A folder can be opened, too, but holds nothing, and a pipe would be waited for.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
         qWarning("Could not open %s for reading", qUtf8Printable(path));
         return std::nullopt;
     }
@@ -48,22 +51,33 @@ bool isChoice(const UiData& item, const QVariant& value)
     return false;
 }
 
+bool isAccepted(const UiData& item, QString text)
+{
+    const QValidator* validator = item.getValidator();
+    int position = 0;
+    return !validator || validator->validate(text, position) == QValidator::Acceptable;
+}
+
+bool isInRange(const UiData& item, double value)
+{
+    const QVariant minimum = item.getMinRange();
+    const QVariant maximum = item.getMaxRange();
+    return (!minimum.isValid() || value >= minimum.toDouble()) && (!maximum.isValid() || value <= maximum.toDouble());
+}
+
 /// Files are edited by hand, come from other versions and lose their end: what a user could not have entered is left out.
 bool isAllowed(const UiData& item, const QJsonValue& value)
 {
     const QString type = item.getType();
+    const QString text = value.toString();
     if (type == UiData::TYPE_BOOL)
         return value.isBool();
     if (type == UiData::TYPE_ENUM)
         return value.isDouble() && isChoice(item, value.toVariant());
-    if (type != UiData::TYPE_STRING)
-        return !value.isNull();
-    if (!value.isString())
-        return false;
-    const QValidator* validator = item.getValidator();
-    QString text = value.toString();
-    int position = 0;
-    return text.isEmpty() || !validator || validator->validate(text, position) == QValidator::Acceptable;
+    if (type == UiData::TYPE_STRING || type.startsWith(vectorStart))
+        return value.isString() && (text.isEmpty() || isAccepted(item, text));
+    // The validator of a number reads it as the user's language has it.
+    return value.isDouble() ? isInRange(item, value.toDouble()) : value.isString() && isAccepted(item, text);
 }
 
 } // namespace
@@ -85,9 +99,13 @@ void loadReportSettings(const QString& path, const ReportSettings& items)
     if (!document.isObject())
         return logUnreadable(QStringLiteral("the file holds no object"));
     const QJsonObject values = document.object();
-    for (auto it = items.cbegin(); it != items.cend(); ++it) {
+    // Whoever hears of a value may add or delete settings.
+    QMap<QString, QPointer<UiData>> takers;
+    for (auto it = items.cbegin(); it != items.cend(); ++it)
+        takers.insert(it.key(), *it);
+    for (auto it = takers.cbegin(); it != takers.cend(); ++it) {
         const QJsonValue value = values.value(it.key());
-        if (!isAllowed(**it, value))
+        if (!*it || !isAllowed(**it, value))
             continue;
         const bool isEnum = (*it)->getType() == UiData::TYPE_ENUM;
         (*it)->setValue(isEnum ? QVariant(value.toInt()) : value.toVariant());
