@@ -1,3 +1,5 @@
+#include "filesizelimit.h"
+
 #include "document/reportmetadata.h"
 
 #include <QDir>
@@ -7,8 +9,6 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -25,24 +25,6 @@ bool writeFile(const QString& path, const QByteArray& contents)
     return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly)
             && file.write(contents) == contents.size();
 }
-
-/// A soft limit on the size of files, as a full disk that comes and goes.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        ::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit {bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    rlimit m_before {};
-};
 
 const char* const reports = "/cust/public/reports/otdr/";
 const char* const records = "/cust/private/reports/metadata/otdr/";
@@ -257,7 +239,7 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^(The record has|Cannot (write|create|replace)) "));
         bool isSaved = true;
         {
-            const FullDisk disk {rlim_t(room)};
+            const FileSizeLimit disk {rlim_t(room)};
             isSaved = record.saveMetadataToFile();
         }
         QVERIFY(!isSaved);

@@ -1,3 +1,5 @@
+#include "filesizelimit.h"
+
 #include "module/uiutilsmodule.h"
 #include "report/report.h"
 #include "report/reportnaming_p.h"
@@ -19,11 +21,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <csignal>
 #include <functional>
 #include <memory>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using Setter = std::function<void(Report&)>;
@@ -106,24 +106,6 @@ protected:
     void saveSucceeded(const QString&) override { calls << "succeeded"; }
     void saveFailed(const QString&) override { calls << "failed"; }
     void overwriteDeclined(const QString&) override { calls << "declined"; }
-};
-
-/// Lets no file grow past `bytes` while it lives, like a full disk.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        ::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    Q_DISABLE_COPY_MOVE(FileSizeLimit)
-
-private:
-    rlimit m_before{};
 };
 
 /// Counts all notifiers of a controller, in the order of their emission.

@@ -1,3 +1,5 @@
+#include "filesizelimit.h"
+
 #include "report/gzip_p.h"
 #include "report/jobreport_p.h"
 #include "report/nsreport.h"
@@ -18,7 +20,6 @@
 #include <algorithm>
 #include <csignal>
 #include <limits>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -64,24 +65,6 @@ public:
 private:
     QTemporaryDir m_folder;
     QByteArray m_before = qgetenv("PATH");
-};
-
-/// Lets no file of this process and its children grow past `bytes` while it lives, like a full disk.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        ::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit {bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    Q_DISABLE_COPY_MOVE(FileSizeLimit)
-
-private:
-    rlimit m_before {};
 };
 
 } // namespace
@@ -286,7 +269,7 @@ private Q_SLOTS:
         QCOMPARE(unpacked(path + ".gz"), QByteArray("old"));
     }
 
-    void aFullDiskLeavesWhatWasThere_data()
+    void aFileSizeLimitLeavesWhatWasThere_data()
     {
         QTest::addColumn<bool>("compressed");
         QTest::addColumn<int>("room");
@@ -296,7 +279,7 @@ private Q_SLOTS:
         // What cannot be made smaller gets larger.
         QTest::newRow("no room for the packed") << true << large << noise(large);
     }
-    void aFullDiskLeavesWhatWasThere()
+    void aFileSizeLimitLeavesWhatWasThere()
     {
         QFETCH(bool, compressed);
         QFETCH(int, room);

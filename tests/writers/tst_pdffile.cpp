@@ -1,3 +1,5 @@
+#include "filesizelimit.h"
+
 #include "pdfsamples.h"
 
 #include "writers/pdfdocument_p.h"
@@ -9,8 +11,6 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using samples::described;
@@ -21,28 +21,6 @@ namespace {
 
 const char loadFailure[] = "^Unable to write PDF report: .";
 const char writeFailure[] = "^Unable to write file: .";
-
-/// No file may grow beyond `bytes` while this lives: what a full disk does, for those who are not root too.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        m_handler = ::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_before);
-        ::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int) = nullptr;
-};
 
 void expectMessage(const char* pattern)
 {
@@ -363,7 +341,7 @@ private Q_SLOTS:
         }
     }
 
-    void aFullDiskLeavesTheFile()
+    void aFileSizeLimitLeavesTheFile()
     {
         QVERIFY(QDir().mkpath(path("full")));
         samples::print(path("full/a.pdf"), 2);
@@ -372,7 +350,7 @@ private Q_SLOTS:
         file.setFilename(path("full/a.pdf"));
         file.setTitle("New");
         {
-            const FullDisk disk(2000);
+            const FileSizeLimit disk(2000);
             expectMessage(writeFailure);
             file.write(QString());
             expectMessage(writeFailure);

@@ -1,3 +1,5 @@
+#include "filesizelimit.h"
+
 #include "core/paths.h"
 #include "document/reporttemplate.h"
 #include "writers/reportheader.h"
@@ -21,9 +23,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
 #include <memory>
-#include <sys/resource.h>
 
 namespace {
 
@@ -80,24 +80,6 @@ void addRow(ReportTable& table, const QStringList& cells, int status = 0)
         table.appendCell({cell, status});
     table.endRow();
 }
-
-/// A soft limit on the size of files, as a full disk that comes and goes.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        ::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit {bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    Q_DISABLE_COPY_MOVE(FullDisk)
-
-private:
-    rlimit m_before {};
-};
 
 } // namespace
 
@@ -472,7 +454,7 @@ private Q_SLOTS:
             QString error;
             bool isPrinted = true;
             {
-                const FullDisk disk {rlim_t(room)};
+                const FileSizeLimit disk {rlim_t(room)};
                 isPrinted = pdf.print(m_path, &error);
             }
             QVERIFY2(!isPrinted, qPrintable(QString::number(room)));
