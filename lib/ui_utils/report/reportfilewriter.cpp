@@ -3,6 +3,7 @@
 #include "core/durablefile.h"
 #include "core/paths.h"
 #include "report/gzip_p.h"
+#include "report/reportformats_p.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -13,8 +14,6 @@
 namespace uiutils {
 
 namespace {
-
-const QLatin1String gzipSuffix(".gz");
 
 QString failure(const char* text, const QString& path, const QString& reason)
 {

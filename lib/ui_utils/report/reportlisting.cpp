@@ -1,6 +1,7 @@
 #include "report/reportlisting_p.h"
 
 #include "core/paths.h"
+#include "report/reportformats_p.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -13,18 +14,6 @@
 namespace uiutils {
 
 namespace {
-
-const struct Format
-{
-    QLatin1String suffix;
-    QString name;
-} formats[] = {
-        {QLatin1String(".pdf"), QStringLiteral("PDF")},
-        {QLatin1String(".xml"), QStringLiteral("XML")},
-        {QLatin1String(".html"), QStringLiteral("HTML")},
-        {QLatin1String(".txt"), QStringLiteral("TEXT")},
-        {QLatin1String(".json"), QStringLiteral("JSON")},
-};
 
 struct SavedReport
 {
@@ -40,17 +29,18 @@ struct SavedReport
 /// Takes the file's name apart. False when it is no report's.
 bool readName(const QString& fileName, SavedReport* report)
 {
-    const QLatin1String gzipSuffix(".gz");
     report->isCompressed = fileName.endsWith(gzipSuffix);
     const int end = fileName.size() - (report->isCompressed ? gzipSuffix.size() : 0);
     const QStringRef plain = fileName.leftRef(end);
-    const auto format = std::find_if(std::begin(formats), std::end(formats),
-            [&](const Format& candidate) { return plain.endsWith(candidate.suffix); });
-    if (format == std::end(formats))
+    const QList<ReportFormat>& formats = allReportFormats();
+    const auto format = std::find_if(formats.cbegin(), formats.cend(), [&](const ReportFormat& candidate) {
+        return !candidate.suffix.isEmpty() && plain.endsWith(candidate.suffix);
+    });
+    if (format == formats.cend())
         return false;
     report->fileName = fileName;
     report->name = fileName.left(end - format->suffix.size());
-    report->format = format->name;
+    report->format = QLatin1String(format->label);
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "report/savednotice_p.h"
 
 #include "core/paths.h"
+#include "report/reportformats_p.h"
 
 #include <kiv/kivnotification.h>
 
@@ -19,8 +20,7 @@ QString translated(const char* text)
 
 QString reportNameOf(const QString& path)
 {
-    const QLatin1String compression(".gz");
-    const QString plain = path.endsWith(compression) ? path.chopped(compression.size()) : path;
+    const QString plain = path.endsWith(gzipSuffix) ? path.chopped(gzipSuffix.size()) : path;
     return QFileInfo(plain).completeBaseName();
 }
 
