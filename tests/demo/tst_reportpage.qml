@@ -66,8 +66,7 @@ Item {
         // As at the end of the program.
         function close() {
             window.destroy()
-            window = null
-            wait(0)
+            tryVerify(() => !window)
         }
 
         function entry(name) {
