@@ -39,6 +39,8 @@ public:
     virtual bool removeItem(const QString& service, const QString& id) = 0;
     virtual bool setReachable(const QString& service, bool isReachable) = 0;
 
+    virtual bool setMounted(const QString& service, const QString& path, bool isMounted) = 0;
+
     virtual bool reportError(const QString& service, const QString& text) = 0;
     /// How long the service takes to answer a call, in milliseconds.
     virtual bool setDelay(const QString& service, int ms) = 0;

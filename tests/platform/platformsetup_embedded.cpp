@@ -63,6 +63,11 @@ public:
         return published;
     }
 
+    bool setMounted(const QString& service, const QString& path, bool isMounted) override
+    {
+        return of(service) && of(service)->setMounted(path, isMounted);
+    }
+
     bool reportError(const QString& service, const QString& text) override
     {
         EmbeddedService* published = of(service);

@@ -1,5 +1,6 @@
 #include "platformsetup.h"
 
+#include <kiv/filesystemusage.h>
 #include <kiv/kivaggregateclientitem.h>
 #include <kiv/kivbackend.h>
 #include <kiv/kivclientinterface.h>
@@ -700,6 +701,23 @@ private Q_SLOTS:
         QCOMPARE(snapshot.items().last().value, QVariant(1234.5));
         QCOMPARE(snapshot.items().last().label, QString("Speed"));
         QVERIFY(KIVItemSnapshot(nullptr).items().isEmpty());
+    }
+
+    void drives()
+    {
+        QVERIFY(FileSystemUsage::isMounted("/mnt/kinds drive/"));
+        QVERIFY(FileSystemUsage::isMounted("/mnt/kinds drive"));
+        for (const char* path : {"", "mnt/kinds drive", "/mnt/kinds drive/folder/", "/mnt", "/mnt/kinds"})
+            QVERIFY2(!FileSystemUsage::isMounted(path), path);
+
+        QVERIFY(!FileSystemUsage::isMounted("/mnt/usb/"));
+        QVERIFY(m_setup->setMounted("station", "/mnt/usb/", true));
+        QTRY_VERIFY(FileSystemUsage::isMounted("/mnt/usb/"));
+        QVERIFY(m_setup->setMounted("station", "/mnt/usb", false));
+        QTRY_VERIFY(!FileSystemUsage::isMounted("/mnt/usb/"));
+
+        m_setup.reset();
+        QVERIFY(!FileSystemUsage::isMounted("/mnt/kinds drive/"));
     }
 
     void timeOfDay()

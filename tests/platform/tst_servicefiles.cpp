@@ -153,6 +153,9 @@ private Q_SLOTS:
                            "\"does\": {\"set\": {\":result:b:\": \"one\"}}},{\"id\": \":result:b:\", \"type\": \"int\"")
                 << ": /items/0/does/set: ";
         QTest::newRow("endless delay") << QByteArray("{\"service\": \"s\", \"items\": [], \"delay\": 1e9}") << ": /delay: ";
+        QTest::newRow("mount point that is none")
+                << QByteArray("{\"service\": \"s\", \"items\": [], \"mounted\": [\"/mnt/usb/\", \"sda1\"]}")
+                << ": /mounted/1: ";
         QTest::newRow("deep") << QByteArray(3000, '[') << ":1:";
     }
     void refusedFiles()

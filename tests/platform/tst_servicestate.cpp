@@ -1,5 +1,6 @@
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
+#include <kiv/filesystemusage.h>
 #include <kiv/kivclientinterface.h>
 
 #include <QFile>
@@ -368,6 +369,32 @@ private Q_SLOTS:
         KIVClientInterface* client = run.client();
         QVERIFY(client->invokeAction(id));
         QVERIFY(!client->isValid());
+    }
+
+    void drivesGoWithTheirServices()
+    {
+        EmbeddedBackend backend;
+        ServiceDescription description;
+        QString problem;
+        description.service = "relative";
+        description.mounted = QStringList {"mnt/usb"};
+        QVERIFY(!backend.publish(description, &problem));
+        QVERIFY2(problem.startsWith("/mounted/0: "), qPrintable(problem));
+
+        description.mounted = QStringList {"/mnt/usb/"};
+        for (const char* name : {"one", "other"}) {
+            description.service = name;
+            QVERIFY(backend.publish(description));
+        }
+        QVERIFY(!backend.service("one")->setMounted("mnt/usb", true));
+        QVERIFY(backend.service("one")->setMounted("/mnt/usb", false));
+        QVERIFY(FileSystemUsage::isMounted("/mnt/usb/"));
+        backend.service("other")->setReachable(false);
+        QVERIFY(FileSystemUsage::isMounted("/mnt/usb/"));
+        QVERIFY(backend.withdraw("other"));
+        QVERIFY(!FileSystemUsage::isMounted("/mnt/usb/"));
+        // The system's own table is not asked by this back end.
+        QVERIFY(!FileSystemUsage::isMounted("/proc"));
     }
 };
 

@@ -1,8 +1,12 @@
 #include <kiv/filesystemusage.h>
 
+#include "mounttable_p.h"
+
+#include <kiv/kivbackend.h>
 #include <kiv/kivnotification.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QPointer>
@@ -37,6 +41,18 @@ void tell(const QString& message)
     told->notifyDialog();
 }
 
+bool isInSystemTable(const QString& path)
+{
+    QFile file(QStringLiteral("/proc/self/mountinfo"));
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray table = file.readAll();
+    if (kiv::listsMount(table, QFile::encodeName(path)))
+        return true;
+    const QString target = QFileInfo(path).canonicalFilePath();
+    return !target.isEmpty() && kiv::listsMount(table, QFile::encodeName(target));
+}
+
 } // namespace
 
 bool FileSystemUsage::checkAndNotifyBeforeSave(const QString& directory, const QString& message)
@@ -56,4 +72,14 @@ double FileSystemUsage::percentageUsed(const QString& directory)
     const double used = double(system->f_blocks) - double(system->f_bfree);
     const double usable = used + double(system->f_bavail);
     return usable > 0 ? 100 * used / usable : 0;
+}
+
+bool FileSystemUsage::isMounted(const QString& path)
+{
+    if (!path.startsWith(QLatin1Char('/')))
+        return false;
+    const QString mountPoint = QDir::cleanPath(path);
+    const KIVBackend* backend = KIVBackend::current();
+    const std::optional<bool> answer = backend ? backend->isMounted(mountPoint) : std::nullopt;
+    return answer ? *answer : isInSystemTable(mountPoint);
 }

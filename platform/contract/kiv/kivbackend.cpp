@@ -19,6 +19,11 @@ BaseFormatter* KIVBackend::createFormatter(const QString&) const
     return nullptr;
 }
 
+std::optional<bool> KIVBackend::isMounted(const QString&) const
+{
+    return std::nullopt;
+}
+
 void KIVBackend::setCurrent(KIVBackend* backend)
 {
     s_current = backend;

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <optional>
+
 class BaseFormatter;
 class KIVClientInterface;
 class QObject;
@@ -11,7 +13,7 @@ class QObject;
 /// What stands behind the static entry points of this library.
 ///
 /// A host registers one back end before it creates its first page and keeps it until the last page is gone. Without
-/// one every entry point gives its neutral answer (null, the local clock).
+/// one every entry point gives its neutral answer (null, the local clock, the system's mounts).
 class KIV_EXPORT KIVBackend
 {
 public:
@@ -32,4 +34,8 @@ public:
 
     /// See getFormatter(). A back end without formatters need not have it.
     virtual BaseFormatter* createFormatter(const QString& name) const;
+
+    /// Whether a drive is mounted at `path`, an absolute path without a slash behind; see FileSystemUsage::isMounted(). A back
+    /// end that leaves the answer to the system's table of mounts returns nothing, and need not have it.
+    virtual std::optional<bool> isMounted(const QString& path) const;
 };

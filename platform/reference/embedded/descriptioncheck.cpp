@@ -110,6 +110,15 @@ QString setProblem(const ItemDescription& action, const QHash<QString, const Ite
     return QString();
 }
 
+QString mountedProblem(const QStringList& paths)
+{
+    for (int i = 0; i < paths.size(); ++i) {
+        if (!paths.at(i).startsWith(QLatin1Char('/')))
+            return QStringLiteral("/mounted/%1: ").arg(i) + tr("a mount point begins with a slash");
+    }
+    return QString();
+}
+
 QString atItem(int index, const QString& problem)
 {
     const QLatin1String separator = problem.startsWith(QLatin1Char('/')) ? QLatin1String() : QLatin1String(": ");
@@ -136,7 +145,7 @@ QString serviceProblem(const ServiceDescription& service)
         if (!problem.isEmpty())
             return atItem(i, problem);
     }
-    return QString();
+    return mountedProblem(service.mounted);
 }
 
 QString itemProblem(const ItemDescription& item)

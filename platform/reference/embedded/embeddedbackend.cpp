@@ -10,6 +10,8 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <algorithm>
+
 namespace kiv::embedded {
 
 const QLatin1String EmbeddedBackend::baseManagerName("basemgr");
@@ -157,6 +159,13 @@ KIVClientInterface* EmbeddedBackend::baseManagerClient()
 BaseFormatter* EmbeddedBackend::createFormatter(const QString& name) const
 {
     return formatters::create(name);
+}
+
+std::optional<bool> EmbeddedBackend::isMounted(const QString& path) const
+{
+    const QVector<EmbeddedService*> services = d->registry.services();
+    return std::any_of(services.cbegin(), services.cend(),
+            [&path](const EmbeddedService* service) { return service->isMounted(path); });
 }
 
 KIVClientInterface* EmbeddedBackend::serviceClient(const QString& service, QObject* parent)

@@ -66,6 +66,8 @@ public:
     KIVClientInterface* baseManagerClient() override;
     KIVClientInterface* serviceClient(const QString& service, QObject* parent) override;
     BaseFormatter* createFormatter(const QString& name) const override;
+    /// Knows of every path: nothing is mounted but what a published service says is.
+    std::optional<bool> isMounted(const QString& path) const override;
 
 private:
     EmbeddedService* publish(const ServiceDescription& description, const QString& file, QStringList* problems);

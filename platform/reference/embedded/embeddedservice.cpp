@@ -5,6 +5,7 @@
 #include "requests_p.h"
 #include "valueconversion_p.h"
 
+#include <QDir>
 #include <QPointer>
 
 #include <algorithm>
@@ -44,6 +45,8 @@ EmbeddedService::EmbeddedService(const ServiceDescription& description, QObject*
     for (const ItemDescription& item : description.items)
         d->items.add(std::make_shared<ItemState>(item));
     d->items.open();
+    for (const QString& path : description.mounted)
+        setMounted(path, true);
 }
 
 EmbeddedService::~EmbeddedService() = default;
@@ -185,6 +188,22 @@ bool EmbeddedService::setActionHandler(const QString& id, const ActionHandler& h
 void EmbeddedService::reportError(const QString& text)
 {
     Q_EMIT errorReported(text);
+}
+
+bool EmbeddedService::setMounted(const QString& path, bool isMounted)
+{
+    if (!path.startsWith(QLatin1Char('/')))
+        return false;
+    if (isMounted)
+        d->mounted.insert(QDir::cleanPath(path));
+    else
+        d->mounted.remove(QDir::cleanPath(path));
+    return true;
+}
+
+bool EmbeddedService::isMounted(const QString& path) const
+{
+    return d->mounted.contains(QDir::cleanPath(path));
 }
 
 bool EmbeddedService::addItem(const ItemDescription& description, QString* problem)

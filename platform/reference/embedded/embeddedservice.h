@@ -83,6 +83,12 @@ public:
     /// Lets every client emit KIVClientInterface::SigError().
     void reportError(const QString& text);
 
+    /// Mounts a drive at `path`, an instrument's mount point such as "/mnt/usb/", or takes it away. Returns false when the
+    /// path does not begin with a slash. Nobody is told. A drive is there for as long as one service has it mounted, also
+    /// while that one cannot be reached, and goes with it.
+    bool setMounted(const QString& path, bool isMounted);
+    bool isMounted(const QString& path) const;
+
     /// Publishes a further item behind the others and takes back the value that was kept for it. Returns false, with the
     /// reason in `problem`, when the description is not sound or the id is taken. Clients emit itemsChanged().
     bool addItem(const ItemDescription& description, QString* problem = nullptr);

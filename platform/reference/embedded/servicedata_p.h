@@ -4,6 +4,8 @@
 #include "itemstore_p.h"
 #include "statekeeper_p.h"
 
+#include <QSet>
+
 namespace kiv::embedded {
 
 class ServiceRegistry;
@@ -15,6 +17,8 @@ struct ServiceData
     int delayMs = 0;
     ItemStore items;
     QHash<QString, EmbeddedService::ActionHandler> handlers;
+    /// Clean paths without a slash behind.
+    QSet<QString> mounted;
     /// Null when nothing is kept.
     std::unique_ptr<StateKeeper> keeper;
     /// The services that are published beside this one.

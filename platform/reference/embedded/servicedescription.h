@@ -3,6 +3,7 @@
 #include <kiv/kivclientitem.h>
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <QVector>
 
@@ -83,6 +84,8 @@ struct ServiceDescription
     QVector<ItemDescription> items;
     /// Milliseconds until the service answers a call.
     int delayMs = 0;
+    /// The instrument's mount points, as "/mnt/usb/", at which the service has a drive mounted.
+    QStringList mounted;
 };
 
 } // namespace kiv::embedded

@@ -142,6 +142,7 @@ ServiceDescription serviceDescription(const QJsonObject& root, QString* problem)
     ServiceDescription service;
     service.service = textOf(root, "service");
     service.delayMs = root.value(QLatin1String("delay")).toInt();
+    service.mounted = root.value(QLatin1String("mounted")).toVariant().toStringList();
     const QJsonArray items = root.value(QLatin1String("items")).toArray();
     service.items.reserve(items.size());
     for (int i = 0; i < items.size() && problem->isEmpty(); ++i) {

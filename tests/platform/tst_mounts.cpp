@@ -1,0 +1,78 @@
+#include <kiv/filesystemusage.h>
+#include <kiv/kivbackend.h>
+#include <kiv/mounttable_p.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const QByteArray table = "22 28 0:20 / /sys rw,nosuid shared:7 - sysfs sysfs rw\n"
+                         "97 28 8:17 / /mnt/usb rw,relatime shared:53 master:2 - vfat /dev/sdb1 rw\n"
+                         "98 28 8:18 / /mnt/my\\040stick\\134x rw - vfat /dev/sdb2 rw\n"
+                         "99 28 0:44 / /mnt/waiting rw shared:9 - autofs systemd-1 rw\n"
+                         "99 28 0:45 / /mnt/woken rw shared:9 - autofs systemd-1 rw\n"
+                         "100 28 8:19 / /mnt/woken rw - vfat /dev/sdc1 rw\n"
+                         "101 28 8:20 /mnt/other /mnt/bound rw - ext4 /mnt/device rw\n"
+                         "torn line\n";
+
+/// A back end without services, which leaves mounts to the system.
+class SilentBackend final : public KIVBackend
+{
+public:
+    KIVClientInterface* baseManagerClient() override { return nullptr; }
+    KIVClientInterface* serviceClient(const QString&, QObject*) override { return nullptr; }
+};
+
+} // namespace
+
+class MountsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void tableOfMounts_data()
+    {
+        QTest::addColumn<QByteArray>("path");
+        QTest::addColumn<bool>("isListed");
+        QTest::newRow("drive") << QByteArray("/mnt/usb") << true;
+        QTest::newRow("escaped") << QByteArray("/mnt/my stick\\x") << true;
+        QTest::newRow("as it is escaped") << QByteArray("/mnt/my\\040stick\\134x") << false;
+        QTest::newRow("above") << QByteArray("/mnt") << false;
+        QTest::newRow("below") << QByteArray("/mnt/usb/reports") << false;
+        QTest::newRow("empty") << QByteArray() << false;
+        QTest::newRow("mounted on demand, not yet") << QByteArray("/mnt/waiting") << false;
+        QTest::newRow("mounted on demand") << QByteArray("/mnt/woken") << true;
+        QTest::newRow("bound") << QByteArray("/mnt/bound") << true;
+        QTest::newRow("root of a bound one") << QByteArray("/mnt/other") << false;
+        QTest::newRow("device") << QByteArray("/mnt/device") << false;
+    }
+    void tableOfMounts()
+    {
+        QFETCH(QByteArray, path);
+        QFETCH(bool, isListed);
+        QCOMPARE(kiv::listsMount(table, path), isListed);
+    }
+
+    void theSystemAnswersForBackEndsThatDoNot()
+    {
+        QTemporaryDir dir;
+        const QString link = dir.filePath("link");
+        QVERIFY(QFile::link("/proc", link));
+        SilentBackend backend;
+        for (KIVBackend* current : {static_cast<KIVBackend*>(nullptr), static_cast<KIVBackend*>(&backend)}) {
+            KIVBackend::setCurrent(current);
+            QVERIFY(FileSystemUsage::isMounted("/proc"));
+            QVERIFY(FileSystemUsage::isMounted("/proc/"));
+            QVERIFY(FileSystemUsage::isMounted(link));
+            QVERIFY(FileSystemUsage::isMounted("/"));
+            QVERIFY(!FileSystemUsage::isMounted(dir.path()));
+            QVERIFY(!FileSystemUsage::isMounted(dir.filePath("missing")));
+            QVERIFY(!FileSystemUsage::isMounted("proc"));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(MountsTest)
+#include "tst_mounts.moc"
