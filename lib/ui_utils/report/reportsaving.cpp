@@ -39,6 +39,7 @@ private:
     bool hasRoom();
     bool mayWrite();
     bool write();
+    bool writeAndRecord();
     bool writeFormats();
     bool writeFormat(const uiutils::ReportFormat& format);
     void recordSync();
@@ -60,8 +61,6 @@ Report::Save::Save(Report& report, bool overwrite)
     : m_report(&report)
     , m_overwrite(overwrite)
 {
-    report.m_state->gate.withdraw();
-    report.m_state->beginSave();
 }
 
 Report::Save::~Save()
@@ -74,6 +73,10 @@ Report::Save::~Save()
 
 bool Report::Save::run()
 {
+    m_report->m_state->gate.withdraw();
+    if (!m_report)
+        return false;
+    m_report->m_state->beginSave();
     occupy(true);
     const bool isReady = getReady();
     // The user may answer at once, and have another save begin within this one.
@@ -83,7 +86,7 @@ bool Report::Save::run()
     if (!mayWrite())
         return false;
     occupy(true);
-    const bool isWritten = write() && copyToUsb();
+    const bool isWritten = write();
     occupy(false);
     return isWritten ? announce() : fail();
 }
@@ -169,19 +172,28 @@ bool Report::Save::mayWrite()
     return m_report->checkForOverwrite(m_name, m_report->getSuffixForReport(), m_overwrite);
 }
 
-/// What a user keeps from the cloud stays from it also when another format could not be written.
 bool Report::Save::write()
 {
     uiutils::SaveProgress& progress = m_report->m_state->progress;
+    const bool hasOldProgress = progress.value() > 0;
     progress.begin(formats().size());
     Q_EMIT m_report->savingChanged();
-    const bool isComplete = m_report && writeFormats();
-    if (m_report)
-        recordSync();
+    if (m_report && hasOldProgress)
+        Q_EMIT m_report->progressChanged();
+    const bool isWritten = m_report && writeAndRecord() && copyToUsb();
     if (!m_report)
         return false;
     progress.end();
     Q_EMIT m_report->savingChanged();
+    return m_report && isWritten;
+}
+
+/// What a user keeps from the cloud stays from it also when another format could not be written.
+bool Report::Save::writeAndRecord()
+{
+    const bool isComplete = writeFormats();
+    if (m_report)
+        recordSync();
     return m_report && isComplete;
 }
 
