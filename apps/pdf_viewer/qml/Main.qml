@@ -55,6 +55,13 @@ ApplicationWindow {
         document: window.document
         dotsPerInch: window.dotsPerInch
     }
+    PinchItem {
+        property real zoom: 1
+
+        anchors.fill: pages
+        onStarted: zoom = pages.zoom
+        onPinched: pages.zoomAround(zoom * factor, center.x, center.y)
+    }
     Text {
         anchors.centerIn: parent
         visible: window.document.state === ViewerDocument.Loading

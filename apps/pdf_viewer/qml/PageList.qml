@@ -133,20 +133,4 @@ ListView {
             page: index
         }
     }
-
-    PinchHandler {
-        property real start: 1
-
-        target: null
-        onActiveChanged: start = list.zoom
-        onActiveScaleChanged: {
-            if (active)
-                list.zoomAround(start * activeScale, centroid.position.x, centroid.position.y)
-        }
-    }
-    WheelHandler {
-        acceptedModifiers: Qt.ControlModifier
-        target: null
-        onWheel: list.zoomAround(list.zoom * Math.pow(1.25, event.angleDelta.y / 120), event.x, event.y)
-    }
 }
