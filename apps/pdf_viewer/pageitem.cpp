@@ -11,6 +11,8 @@ namespace {
 
 /// How long a size stays before a picture is drawn for it: fingers that pinch pass through many.
 constexpr int restMs = 120;
+/// When a page that has no picture is given up: rendering has limits of its own, which some files get around.
+constexpr int patienceMs = 30000;
 
 } // namespace
 
@@ -21,6 +23,9 @@ PageItem::PageItem(QQuickItem* parent)
     m_rest.setSingleShot(true);
     m_rest.setInterval(restMs);
     connect(&m_rest, &QTimer::timeout, this, &PageItem::request);
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(patienceMs);
+    connect(&m_patience, &QTimer::timeout, this, [this] { take(QImage()); });
 }
 
 PageItem::~PageItem()
@@ -101,12 +106,13 @@ void PageItem::request()
     if (m_job)
         m_job->isUnwanted = true;
     m_requested = pixels;
+    m_patience.start();
     m_job = m_document->render(m_page, pixels, this, [this](const QImage& picture) { take(picture); });
 }
 
 void PageItem::take(const QImage& picture)
 {
-    m_job.reset();
+    m_patience.stop();
     if (picture.isNull()) {
         // A coarse picture is better than none.
         if (m_picture.isNull())

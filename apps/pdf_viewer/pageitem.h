@@ -70,6 +70,7 @@ private:
     QSize m_requested;
     RenderJobPointer m_job;
     QTimer m_rest;
+    QTimer m_patience;
 };
 
 } // namespace uiutils::viewer

@@ -22,10 +22,11 @@ Rectangle {
     }
     Text {
         id: note
-        anchors { fill: parent; margins: Theme.gap }
+        // At the top, which is what is seen of a page that is larger than the screen.
+        anchors { fill: parent; margins: 2 * Theme.margin }
         text: {
             if (sheet.status === PageItem.Failed)
-                return qsTr("Page %1 cannot be drawn. It may be damaged.").arg(sheet.page + 1)
+                return qsTr("Page %1 cannot be drawn. The file may be damaged.").arg(sheet.page + 1)
             return sheet.status === PageItem.Drawing ? qsTr("Page %1").arg(sheet.page + 1) : ""
         }
         color: sheet.status === PageItem.Failed ? Theme.fail : Theme.mutedText
@@ -33,6 +34,5 @@ Rectangle {
         wrapMode: Text.Wrap
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignVCenter
     }
 }
