@@ -34,8 +34,10 @@ Item {
 
         function test_saveLocation_data() {
             return [{ tag: "internal", label: "Internal", isIn: true, location: 0, inUnit: ["a.txt"], onStick: [] },
-                    { tag: "USB", label: "USB", isIn: true, location: 1, inUnit: [], onStick: ["a.txt"] },
-                    { tag: "USB, without a stick", label: "USB", isIn: false, location: 1, inUnit: ["a.txt"], onStick: [] }]
+                    { tag: "USB", label: "USB", isIn: true, location: 1, inUnit: [], onStick: ["a.txt", "a.txt.metadata"] },
+                    { tag: "both", label: "Internal and USB", isIn: true, location: 2, inUnit: ["a.txt"], onStick: ["a.txt"] },
+                    { tag: "USB, without a stick", label: "USB", isIn: false, location: 1, inUnit: ["a.txt"], onStick: [] },
+                    { tag: "both, without a stick", label: "Internal and USB", isIn: false, location: 2, inUnit: ["a.txt"], onStick: [] }]
         }
         function test_saveLocation(data) {
             if (data.isIn)
@@ -44,7 +46,7 @@ Item {
             compare(driver.saveLocation(), data.location)
             compare(text("stickState"), data.isIn ? "A USB drive is plugged in."
                                                   : "Without a USB drive reports are saved on the unit.")
-            verify(text("usage").startsWith(data.onStick.length > 0 ? "USB " : "Unit "))
+            verify(text("usage").startsWith(data.inUnit.length === 0 ? "USB " : "Unit "))
             save("a")
             compare(driver.files(), data.inUnit)
             compare(driver.filesIn("mnt/usb"), data.onStick)
@@ -56,7 +58,7 @@ Item {
             pressStick()
             compare(page.report.saveLocation, "USB:/")
             save("a")
-            compare(driver.filesIn("mnt/usb"), ["a.txt"])
+            compare(driver.filesIn("mnt/usb"), ["a.txt", "a.txt.metadata"])
 
             pressStick()
             compare(page.report.saveLocation, "Internal:/reports/loopback/")
@@ -65,10 +67,33 @@ Item {
             compare(driver.files(), ["b.txt"])
 
             pressStick()
-            compare(driver.filesIn("mnt/usb"), ["a.txt"])
+            compare(driver.filesIn("mnt/usb"), ["a.txt", "a.txt.metadata"])
             close()
             open()
             compare(text("stickButton"), "Pull out")
+        }
+
+        // Nothing may end up in the unit's own folder under the mount.
+        function test_yanked_data() {
+            return [{ tag: "USB", label: "USB", inUnit: [], onStick: ["a.txt", "a.txt.metadata"] },
+                    { tag: "both", label: "Internal and USB", inUnit: ["a.txt"], onStick: ["a.txt"] }]
+        }
+        function test_yanked(data) {
+            choose(data.label, "locationEntry")
+            pressStick()
+            page.stick.yank()
+            compare(text("stickButton"), "Plug in")
+            save("a")
+            compare(part("dialogTitle").text, "Write Error")
+            compare(driver.files(), data.inUnit)
+            compare(driver.filesIn("mnt/usb"), [])
+            tap(part("acceptButton"))
+
+            pressStick()
+            press()
+            if (data.inUnit.length > 0)
+                tap(part("acceptButton"))
+            compare(driver.filesIn("mnt/usb"), data.onStick)
         }
 
         // Changes that the settings page holds back are none yet, and hold nothing back here.
