@@ -23,10 +23,13 @@ QString systemError()
 /// Makes the rename survive a power cut. File systems that cannot sync a folder keep it by other means, or not at all.
 bool syncFolder(const QString& folder)
 {
-    const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    int fd = -1;
+    do {
+        fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    } while (fd < 0 && errno == EINTR);
     // A folder may be one to write into and not to list.
     if (fd < 0)
-        return true;
+        return errno == EACCES;
     int result = 0;
     do {
         result = ::fsync(fd);
