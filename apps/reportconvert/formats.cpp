@@ -85,13 +85,9 @@ QByteArray pdfOf(const ReportTemplate& report, Generation& generation)
         if (!generation.goesOn(done, count))
             writer.pages().cancel();
     });
-    const QString path = generation.scratchFolder + QStringLiteral("/pages.pdf");
-    const bool isPrinted = writer.write(path, &generation.error);
+    const QByteArray pages = writer.toPdf(&generation.error);
     qDeleteAll(items);
-    const QByteArray pages = isPrinted ? contentsOf(path) : QByteArray();
-    // Null without a reason would be taken for a signal.
-    if (isPrinted && pages.isEmpty())
-        generation.error = QCoreApplication::translate("Formats", "The printed pages cannot be read again.");
+    // Null without a reason stands for a signal.
     return pages.isEmpty() ? QByteArray() : pages;
 }
 

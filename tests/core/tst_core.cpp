@@ -2,6 +2,8 @@
 
 #include "core/durablefile.h"
 #include "core/paths.h"
+#include "core/temporaryfolder_p.h"
+#include "core/temporarysibling_p.h"
 #include "core/xmltext_p.h"
 
 #include <QDir>
@@ -102,6 +104,32 @@ private Q_SLOTS:
         QVERIFY2(writeFileDurably(path, QByteArray("short"), &error), qPrintable(error));
         QCOMPARE(contentsOf(path), QByteArray("short"));
         QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("report.html")});
+    }
+
+    /// What belongs to somebody who lives stays, and so does what is no file of ours.
+    void whatKilledProcessesLeftGoes()
+    {
+        QTemporaryDir dir;
+        const auto make = [&](const char* name) {
+            const QString path = dir.filePath(name);
+            QFile file(path);
+            return file.open(QIODevice::WriteOnly) ? path : QString();
+        };
+        make(".uiutils-left.tmp");
+        make(".uiutils-other");
+        make("report.tmp");
+        QVERIFY(QDir(dir.path()).mkpath(".uiutils-left.dir/below"));
+        QVERIFY(QFile::link(dir.filePath("report.tmp"), dir.filePath(".uiutils-link.tmp")));
+        const TemporarySibling living(dir.filePath("report.html"));
+        const TemporaryFolder folder(dir.path());
+        QVERIFY(living.isOpen() && QFileInfo(folder.path()).isDir());
+        QVERIFY(writeFileDurably(dir.filePath("report.html"), "x"));
+        QStringList expected {".uiutils-link.tmp", ".uiutils-other", QFileInfo(living.path()).fileName(),
+                QFileInfo(folder.path()).fileName(), "report.html", "report.tmp"};
+        expected.sort();
+        QStringList found = namesIn(dir.path());
+        found.sort();
+        QCOMPARE(found, expected);
     }
 
     void durableWriteTakesTheLongestName()

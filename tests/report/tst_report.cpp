@@ -102,7 +102,11 @@ protected:
     void saveStarted(const QString&) override { calls << "started"; }
     void prepareDocument() override { calls << "prepare"; }
     void reportWritten(const QString&) override { calls << "written"; }
-    void writeMetadata(const QString&, const QString& format) override { calls << "metadata " + format; }
+    void writeMetadata(const QString& path, const QString& format) override
+    {
+        calls << "metadata " + format;
+        Report::writeMetadata(path, format);
+    }
     void saveSucceeded(const QString&) override { calls << "succeeded"; }
     void saveFailed(const QString&) override { calls << "failed"; }
     void overwriteDeclined(const QString&) override { calls << "declined"; }
@@ -478,7 +482,8 @@ private Q_SLOTS:
         QCOMPARE(report.calls,
                 QStringList({"started", "prepare", "writeXml", "writeText.xml", "written", "metadata XML", "succeeded"}));
         QCOMPARE(emissions.names,
-                QStringList({"lastSavedXMLChanged", "reportFilesChanged", "saveLocationChanged", "reportGenerated"}));
+                QStringList({"savingChanged", "lastSavedXMLChanged", "reportFilesChanged", "saveLocationChanged",
+                        "progressChanged", "savingChanged", "reportGenerated"}));
         QCOMPARE(report.getLastSavedXML(), QString("/cust/public/reports/proposed.xml"));
         QCOMPARE(manager()->data(manager()->index(0), KIVNotificationModelManager::MsgRole).toString(),
                 QString("Report proposed saved\nFolder: reports"));
@@ -618,6 +623,7 @@ private Q_SLOTS:
             QSKIP("Only those who may mount a drive can fill one.");
         const auto unmount = qScopeGuard([&] { ::umount2(stick.constData(), MNT_DETACH); });
         QVERIFY(writeFile(onDisk("/mnt/usb/half"), QByteArray(128 * 1024, 'x')));
+        QVERIFY(basemgr()->setMounted("/mnt/usb/", true));
         Controller report;
         report.setUp("a", 3);
         const double used = report.percentageFileSystemUsed("/mnt/usb/not/there");
@@ -636,6 +642,215 @@ private Q_SLOTS:
             QVERIFY(report.save());
             QVERIFY(QFile::remove(onDisk("/cust/public/reports/a.txt")));
         }
+    }
+
+    void namesOfNoFileAreRefused_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isSaved");
+        QTest::newRow("up") << ".." << false;
+        QTest::newRow("out") << "../../x" << false;
+        QTest::newRow("below") << "a/b" << false;
+        QTest::newRow("NUL") << QString("a") + QChar(QChar::Null) + "b" << false;
+        QTest::newRow("256 bytes") << QString(249, 'x') << false;
+        QTest::newRow("255 bytes") << QString(248, 'x') << true;
+        QTest::newRow("255 bytes with its own suffix") << QString(244, 'x') + ".txt" << true;
+    }
+    void namesOfNoFileAreRefused()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, isSaved);
+        Controller report;
+        report.setFolder("f");
+        report.setUp("a", 3);
+        report.setCompressionEnabled(true);
+        report.getSetting("reportName")->setValue(name);
+        if (report.getSetting("reportName")->getValue() != name) {
+            report.getSetting("reportName")->setValue("");
+            report.proposed = name;
+        }
+        QCOMPARE(report.save(), isSaved);
+        QCOMPARE(QFile::exists(onDisk("/cust/public/reports/f")), isSaved);
+        QCOMPARE(manager()->currentDialog() != nullptr, !isSaved);
+        if (!isSaved)
+            QCOMPARE(manager()->currentDialog()->longLabel(), QString("Write Error"));
+    }
+
+    void sticks_data()
+    {
+        QTest::addColumn<int>("location");
+        QTest::addColumn<bool>("isAnnounced");
+        QTest::addColumn<bool>("isMounted");
+        QTest::addColumn<bool>("isSaved");
+        QTest::addColumn<QStringList>("internal");
+        QTest::addColumn<QStringList>("stick");
+        const QStringList files{"a.txt.gz", "a.xml.gz"};
+        QStringList recorded = files;
+        for (const QString& file : files)
+            recorded << file + ".metadata";
+        recorded.sort();
+        const QStringList none;
+        QTest::newRow("internal") << 0 << true << true << true << files << none;
+        QTest::newRow("stick") << 1 << true << true << true << none << recorded;
+        QTest::newRow("no stick") << 1 << false << false << true << files << none;
+        QTest::newRow("not told yet") << 1 << false << true << true << files << none;
+        QTest::newRow("vanished") << 1 << true << false << false << none << none;
+        QTest::newRow("both") << 2 << true << true << true << files << files;
+        QTest::newRow("both, no stick") << 2 << false << false << true << files << none;
+        QTest::newRow("both, vanished") << 2 << true << false << false << files << none;
+    }
+    void sticks()
+    {
+        QFETCH(int, location);
+        QFETCH(bool, isAnnounced);
+        QFETCH(bool, isMounted);
+        QFETCH(bool, isSaved);
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        QVERIFY(basemgr()->setValue(locationItem, location));
+        QVERIFY(basemgr()->setValue(usbItem, isAnnounced));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", isMounted));
+        Controller report;
+        report.setUp("a", 5);
+        for (int format : {0, 2, 4})
+            report.setFormatApplicable(format, false);
+        report.setCompressionEnabled(true);
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        QCOMPARE(report.save(), isSaved);
+        QCOMPARE(generated.count(), isSaved ? 1 : 0);
+        QTEST(names("/cust/public/reports"), "internal");
+        QTEST(names("/mnt/usb"), "stick");
+        QCOMPARE(manager()->currentDialog() == nullptr, isSaved);
+        // Two files that cannot be written are one mishap.
+        QCOMPARE(manager()->waitingDialogs(), 0);
+        int errors = 0;
+        for (int i = 0; i < manager()->count(); ++i)
+            errors += manager()->data(manager()->index(i), KIVNotificationModelManager::LongLabelRole) == "Write Error";
+        QCOMPARE(errors, isSaved ? 0 : 1);
+        // What lies on the stick is asked about as well.
+        QVERIFY(!report.save() || !isSaved);
+        if (location == 2 && isSaved && !names("/mnt/usb").isEmpty()) {
+            manager()->reject();
+            QVERIFY(QDir(onDisk("/cust/public/reports")).removeRecursively());
+            QVERIFY(!report.save());
+            QVERIFY(manager()->currentDialog()->msg().contains("USB:/a.xml"));
+        }
+    }
+    void anAgreementHoldsForItsPlaceAlone()
+    {
+        QVERIFY(writeFile(onDisk("/mnt/usb/a.txt"), "old"));
+        QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt"), "precious"));
+        QVERIFY(basemgr()->setValue(locationItem, 1));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(!report.save());
+        QVector<bool> saved;
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        QVERIFY(basemgr()->setValue(usbItem, false));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", false));
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>{false});
+        QVERIFY(manager()->currentDialog());
+        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Write Error"));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.txt")), QByteArray("precious"));
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/a.txt")), QByteArray("old"));
+        // Another save is another question.
+        QVERIFY(!report.save());
+        QVERIFY(manager()->currentDialog());
+    }
+
+    void recordsTellOfReports()
+    {
+        QVERIFY(m_backend->loadFile(UIUTILS_SERVICES_DIR "/workflow_manager_app.service.json"));
+        QVERIFY(basemgr()->setValue(":config:basemgr:system:report_cdm_testType:", "otdr"));
+        Controller report;
+        report.setFolder("f");
+        report.setUp("a", 5);
+        report.setCdmTestTypeAndLabel();
+        const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
+        QVERIFY(report.save());
+        const QString folder = "/cust/private/reports/metadata/f/";
+        QCOMPARE(names(folder), QStringList({"a.html.metadata", "a.json.metadata", "a.pdf.metadata", "a.txt.metadata",
+                                        "a.xml.metadata"}));
+        const QJsonObject record = QJsonDocument::fromJson(contentsOf(onDisk(folder + "a.pdf.metadata"))).object();
+        QCOMPARE(record.size(), 5);
+        QCOMPARE(record["type"].toString() + record["format"].toString(), QString("resultPDF"));
+        QCOMPARE(record["originFilePath"].toString(), QString("/cust/public/reports/f/a.pdf"));
+        const QString stamp = record["timeStamp"].toString();
+        QVERIFY2(QRegularExpression("T.*[+-]\\d\\d:\\d\\d$").match(stamp).hasMatch(), qPrintable(stamp));
+        const QDateTime time = QDateTime::fromString(stamp, Qt::ISODate);
+        QVERIFY(time >= before && time <= QDateTime::currentDateTime());
+        QCOMPARE(record["info"].toObject(),
+                QJsonObject({{"wo", "WO-88213"}, {"workflowId", "ethernet-turn-up"}, {"jobId", "WO-88213"},
+                        {"testType", "otdr"}, {"testLabel", "None"}}));
+        // A record of yesterday's job would tell of the wrong one.
+        QVERIFY(basemgr()->setValue(activeItem, false));
+        QVERIFY(m_backend->withdraw("orb.base.workflow_manager_app"));
+        QVERIFY(report.save(true));
+        QVERIFY(contentsOf(onDisk(folder + "a.txt.metadata")).contains("\"info\": {\n    }"));
+    }
+    void aRecordThatCannotBeWrittenHindersNothing()
+    {
+        QVERIFY(writeFile(onDisk("/cust/private/reports"), "no folder"));
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(report.save());
+        QVERIFY(!manager()->currentDialog());
+    }
+
+    void savesCanBeCancelled()
+    {
+        Controller report;
+        report.setUp("a", 5);
+        QVector<double> progress;
+        connect(&report, &Report::progressChanged, &report, [&] {
+            progress << report.getProgress();
+            QVERIFY(report.isSaving());
+            if (progress.size() == 2)
+                report.cancel();
+        });
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        QVERIFY(!report.save());
+        QCOMPARE(progress, QVector<double>({0.2, 0.4}));
+        QCOMPARE(names("/cust/public/reports"), QStringList({"a.pdf", "a.xml"}));
+        QVERIFY(!manager()->currentDialog());
+        QCOMPARE(generated.count(), 0);
+        QVERIFY(!report.isSaving());
+        // What is written is kept from the cloud all the same, and the next save is not cancelled.
+        QVERIFY(contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt")).contains("a.xml"));
+        QVERIFY(report.save(true));
+    }
+    void pagesTellHowFarTheyAre()
+    {
+        Report report;
+        ReportTemplate* document = &report.document();
+        document->beginReport("t");
+        document->beginTable("t", "T");
+        for (int i = 0; i < 400; ++i)
+            document->addRow("r", "row", i, {});
+        document->endTable();
+        document->endReport();
+        report.getSetting("reportName")->setValue("a");
+        QVector<double> progress;
+        connect(&report, &Report::progressChanged, &report, [&] { progress << report.getProgress(); });
+        QVERIFY(report.save());
+        QVERIFY2(progress.size() > 4, qPrintable(QString::number(progress.size())));
+        QVERIFY(std::is_sorted(progress.cbegin(), progress.cend()));
+        QCOMPARE(progress.constLast(), 1.0);
+        connect(&report, &Report::progressChanged, &report, &Report::cancel);
+        const QByteArray before = contentsOf(onDisk("/cust/public/reports/a.pdf"));
+        QVERIFY(!report.save(true));
+        QVERIFY(!manager()->currentDialog());
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.pdf")), before);
+        // While the page lives on, it may take the controller along.
+        report.disconnect();
+        const QPointer<Report> dying(new Report);
+        dying->document().adopt(*document);
+        dying->setInteractive(true);
+        connect(dying, &Report::progressChanged, dying, [&] { delete dying; });
+        QVERIFY(!dying->save(true));
+        QVERIFY(!dying);
     }
 
     void slotsMayDeleteTheController_data()
@@ -868,6 +1083,29 @@ private Q_SLOTS:
         report.getSetting("reportSync_SS")->setValue(true);
         QVERIFY(report.save(true));
         QCOMPARE(contentsOf(list), QByteArray());
+    }
+    void aListThatCannotBeReadIsNotReplaced()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        const QString folder = onDisk("/cust/private/lastconfigs/base/basemgr/system");
+        QVERIFY(QDir().mkpath(folder + "/nosync_fileList.txt/x"));
+        // The report is safe; that it may be synced the user has to know.
+        QVERIFY(report.save());
+        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Sync"));
+        manager()->accept();
+        QVERIFY(QDir(folder + "/nosync_fileList.txt").removeRecursively());
+        const QByteArray foreign("/cust/public/caf\xe9\n\n/x\n/x\n");
+        QVERIFY(writeFile(folder + "/nosync_fileList.txt", foreign));
+        report.addReportToNoSyncList("/cust/a\n/cust/b");
+        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Sync"));
+        QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), foreign);
+        report.addReportToNoSyncList("/y.z/w");
+        QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), QByteArray("/cust/public/caf\xe9\n/x\n/y.z/w\n/y.z/w.json\n"));
+        report.writeNoSyncListToFile({"/1", "/2", "/1"});
+        QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), QByteArray("/1\n/2\n"));
+        QCOMPARE(basemgr()->item(":config:basemgr:system:ss_nosync:stringARRAY:")->getValue().toStringList(),
+                QStringList({"/1", "/2"}));
     }
 
     void jobsTakeReportsOrSayWhyNot()

@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
@@ -232,9 +233,17 @@ private Q_SLOTS:
         prepare(process);
         process.start(program, {"-f", "pdf", "long.json"});
         QVERIFY(process.waitForStarted());
+        // The pages grow in memory, in a file that only the process's own folder names.
         const auto isPrinting = [&] {
-            QDirIterator it(m_scratch->path(), {"*.tmp"}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-            return it.hasNext() && QFileInfo(it.next()).size() > 0;
+            const QString folder = QString("/proc/%1/fd/").arg(process.processId());
+            const QStringList names = QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+            return std::any_of(names.cbegin(), names.cend(), [&](const QString& name) {
+                char target[64] {};
+                struct stat file {};
+                const QByteArray link = (folder + name).toLocal8Bit();
+                return ::readlink(link, target, sizeof target - 1) > 0 && QByteArray(target).startsWith("/memfd:uiutils")
+                        && ::stat(link, &file) == 0 && file.st_size > 0;
+            });
         };
         QTRY_VERIFY_WITH_TIMEOUT(isPrinting(), 60000);
         QCOMPARE(::kill(pid_t(process.processId()), SIGINT), 0);

@@ -1,5 +1,6 @@
 #include "core/durablefile.h"
 
+#include "core/temporaries_p.h"
 #include "core/temporarysibling_p.h"
 
 #include <QCoreApplication>
@@ -48,6 +49,7 @@ bool writeFileDurably(const QString& path, const QByteArray& contents, QString* 
                 QCoreApplication::translate("DurableFile", "The path holds a NUL character"));
         return false;
     }
+    removeStaleTemporaries(QFileInfo(path).path());
     TemporarySibling file(path, temporary);
     if (!file.isOpen()) {
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot create a file in the folder of %1: %2"), path,

@@ -1,8 +1,9 @@
 #include "core/temporarysibling_p.h"
 
+#include "core/temporaries_p.h"
+
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -27,10 +28,8 @@ TemporarySibling::TemporarySibling(const QString& target, const QString& name)
 
 void TemporarySibling::createUnderNewName(const QString& folder)
 {
-    // Names of 255 bytes are legal: the temporary one must not grow out of the target's own.
-    const QString stem = folder + QLatin1String("/.uiutils-");
     do {
-        m_path = stem + QString::number(QRandomGenerator::global()->generate(), 36) + QLatin1String(".tmp");
+        m_path = newTemporaryPath(folder, temporaryFileEnd);
         open();
     } while (m_fd < 0 && (errno == EEXIST || errno == EINTR));
 }
@@ -48,6 +47,11 @@ void TemporarySibling::createUnder(const QString& name)
 void TemporarySibling::open()
 {
     m_fd = ::open(QFile::encodeName(m_path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+    if (m_fd < 0 || lockTemporary(m_fd))
+        return;
+    ::close(m_fd);
+    m_fd = -1;
+    errno = EEXIST;
 }
 
 TemporarySibling::~TemporarySibling()

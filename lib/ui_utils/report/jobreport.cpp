@@ -54,6 +54,11 @@ bool isJobActive()
     return baseManagerValue(itemids::jobActive).toBool();
 }
 
+bool hasJobId()
+{
+    return !baseManagerValue(itemids::jobId).toString().trimmed().isEmpty();
+}
+
 QString jobSummary()
 {
     static const struct

@@ -7,6 +7,8 @@
 namespace uiutils {
 
 bool isJobActive();
+/// Whether the job has an ID, without which nobody knows which one it is.
+bool hasJobId();
 
 /// The active job on one line, "ID: WO-1, Tech: Ana, BAN: 7", without what is not known. Empty without an active job.
 QString jobSummary();

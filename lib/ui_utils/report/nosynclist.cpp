@@ -1,18 +1,42 @@
 #include "report/nosynclist_p.h"
 
 #include "core/durablefile.h"
+#include "core/folderlock_p.h"
 #include "core/itemids.h"
 #include "core/paths.h"
 
 #include <kiv/kivclientinterface.h>
 
+#include <QByteArrayList>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <functional>
+#include <optional>
 
 namespace uiutils {
 
 namespace {
+
+const char lineFeed = '\n';
+/// Milliseconds for others to finish, who hold the list for as long as the disk takes to write it.
+constexpr int lockPatience = 10'000;
+/// How often the base manager is told anew because somebody has changed the list meanwhile.
+constexpr int mostTellings = 10;
+
+/// The paths as they are on the disk: of some, no text could be made and turned back.
+using Lines = QByteArrayList;
+using Change = std::function<Lines(Lines)>;
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("Report", text);
+}
 
 QString recordOf(const QString& path)
 {
@@ -21,42 +45,132 @@ QString recordOf(const QString& path)
     return (hasSuffix ? path.left(dot) : path) + QLatin1String(".json");
 }
 
+std::nullopt_t unreadable(const QString& reason, QString* error)
+{
+    *error = translated(QT_TRANSLATE_NOOP("Report", "Cannot read %1: %2")).arg(paths::noSyncList, reason);
+    return std::nullopt;
+}
+
+/// A list that nobody has made yet is empty; one that is there and cannot be read is not.
+std::optional<Lines> read(QString* error)
+{
+    const QByteArray place = QFile::encodeName(onDisk(paths::noSyncList));
+    // A pipe would be waited for.
+    const int fd = ::open(place.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
+        return errno == ENOENT ? std::optional<Lines>(Lines()) : unreadable(qt_error_string(errno), error);
+    QFile file;
+    file.open(fd, QIODevice::ReadOnly, QFile::AutoCloseHandle);
+    const QByteArray text = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return unreadable(file.errorString(), error);
+    Lines lines = text.split(lineFeed);
+    lines.removeAll(QByteArray());
+    return lines;
+}
+
+bool write(const Lines& lines, QString* error)
+{
+    QByteArray text = lines.join(lineFeed);
+    if (!text.isEmpty())
+        text += lineFeed;
+    return writeFileDurably(onDisk(paths::noSyncList), text, error);
+}
+
+Lines withoutDuplicates(const Lines& lines)
+{
+    Lines once;
+    QSet<QByteArray> known;
+    for (const QByteArray& line : lines) {
+        if (known.contains(line))
+            continue;
+        known.insert(line);
+        once.append(line);
+    }
+    return once;
+}
+
+/// After the lock is given back, for those who hear of it may change the list in their turn. The last who tells has told
+/// what stands there, whichever order the tellers come in.
+void tellBaseManager()
+{
+    KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
+    QString error;
+    std::optional<Lines> lines = client ? read(&error) : std::nullopt;
+    for (int i = 0; lines && i < mostTellings; ++i) {
+        QStringList paths;
+        for (const QByteArray& line : *lines)
+            paths.append(QString::fromUtf8(line));
+        client->setItem(itemids::noSyncList, paths);
+        std::optional<Lines> now = read(&error);
+        if (now == lines)
+            return;
+        lines = std::move(now);
+    }
+}
+
+bool edit(const Change& change, QString* error)
+{
+    const QString folder = QFileInfo(onDisk(paths::noSyncList)).path();
+    QDir().mkpath(folder);
+    {
+        const FolderLock lock(folder, lockPatience);
+        if (!lock.isLocked()) {
+            *error = translated(QT_TRANSLATE_NOOP("Report", "Cannot lock %1: %2")).arg(paths::noSyncList, lock.error());
+            return false;
+        }
+        const std::optional<Lines> former = read(error);
+        if (!former)
+            return false;
+        const Lines now = change(*former);
+        if (now == *former)
+            return true;
+        if (!write(now, error))
+            return false;
+    }
+    tellBaseManager();
+    return true;
+}
+
+/// It would be two paths for whoever reads the list.
+bool isOneLine(const QString& path, QString* error)
+{
+    if (!path.contains(QLatin1Char(lineFeed)))
+        return true;
+    *error = translated(QT_TRANSLATE_NOOP("Report", "%1 holds a line feed"))
+                     .arg(QString(path).replace(QLatin1Char(lineFeed), QChar(QChar::ReplacementCharacter)));
+    return false;
+}
+
 } // namespace
 
-QStringList noSyncList()
+bool addToNoSyncList(const QString& path, QString* error)
 {
-    QFile file(onDisk(paths::noSyncList));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return isOneLine(path, error)
+            && edit([&](const Lines& lines) { return withoutDuplicates(lines + Lines {path.toUtf8(), recordOf(path).toUtf8()}); },
+                    error);
 }
 
-QStringList withReport(QStringList list, const QString& path)
+bool removeFromNoSyncList(const QString& path, QString* error)
 {
-    list << path << recordOf(path);
-    list.removeDuplicates();
-    return list;
+    const auto without = [&](Lines lines) {
+        lines.removeAll(path.toUtf8());
+        lines.removeAll(recordOf(path).toUtf8());
+        return lines;
+    };
+    return isOneLine(path, error) && edit(without, error);
 }
 
-QStringList withoutReport(QStringList list, const QString& path)
+bool replaceNoSyncList(const QStringList& paths, QString* error)
 {
-    list.removeAll(path);
-    list.removeAll(recordOf(path));
-    return list;
-}
-
-bool writeNoSyncList(const QStringList& list)
-{
-    const QString text = list.join(QLatin1Char('\n')) + (list.isEmpty() ? QLatin1String() : QLatin1String("\n"));
-    const QString place = onDisk(paths::noSyncList);
-    QDir().mkpath(QFileInfo(place).path());
-    QString error;
-    const bool ok = writeFileDurably(place, text.toUtf8(), &error);
-    if (!ok)
-        qWarning("The list of reports that are not synced cannot be stored: %s", qUtf8Printable(error));
-    if (KIVClientInterface* client = ok ? KIVClientInterface::getBaseMgrClient() : nullptr)
-        client->setItem(itemids::noSyncList, list);
-    return ok;
+    Lines lines;
+    for (const QString& path : paths) {
+        if (!isOneLine(path, error))
+            return false;
+        if (!path.isEmpty())
+            lines.append(path.toUtf8());
+    }
+    return edit([&](const Lines&) { return withoutDuplicates(lines); }, error);
 }
 
 } // namespace uiutils

@@ -4,16 +4,16 @@
 #include <QStringList>
 
 /// The reports that the cloud leaves alone: instrument paths of the files, each with that of the record kept of it,
-/// which has "json" in place of the last suffix.
+/// which has "json" in place of the last suffix. One path a line; several processes may edit the list.
+///
+/// Changes are durable, and the base manager hears of them. Each returns false, with the reason in `error`, when the list
+/// has not been changed: it cannot be read, locked or written, or a path holds a line feed. A list that cannot be read is
+/// not taken for an empty one.
 namespace uiutils {
 
-/// The list as it is stored; empty without one.
-QStringList noSyncList();
-/// The list with or without a report, every path in it once.
-QStringList withReport(QStringList list, const QString& path);
-QStringList withoutReport(QStringList list, const QString& path);
-
-/// Stores the list durably and tells the base manager. False, with a line in the log, when it cannot be stored.
-bool writeNoSyncList(const QStringList& list);
+bool addToNoSyncList(const QString& path, QString* error);
+bool removeFromNoSyncList(const QString& path, QString* error);
+/// In place of all that stood there; each path once.
+bool replaceNoSyncList(const QStringList& paths, QString* error);
 
 } // namespace uiutils

@@ -293,8 +293,7 @@ void Report::setCanWriteToFile(bool allowed)
 
 QString Report::getSaveLocation()
 {
-    const QString folder = uiutils::ReportDestinations::current().folder(getReportFilePath());
-    return m_state->errors.getSanitizedPathName(folder);
+    return m_state->shown(m_state->destinations().folder(getReportFilePath()));
 }
 
 QVariantList Report::getReportFiles()
@@ -437,8 +436,10 @@ QString Report::getReportFilePath()
 
 QString Report::getSaveFilePath(const QString& name, const QString& suffix)
 {
-    const QString folder = uiutils::ReportDestinations::current().folder(getReportFilePath());
-    QDir().mkpath(onDisk(folder));
+    const QString folder = m_state->destinations().folder(getReportFilePath());
+    // On a stick there is one as long as the stick is there.
+    if (!uiutils::isOnUsb(folder))
+        QDir().mkpath(onDisk(folder));
     return uiutils::reportPath(folder, name, suffix);
 }
 
@@ -475,15 +476,6 @@ void Report::overwriteAsked(const QString&) {}
 void Report::overwriteDeclined(const QString&) {}
 void Report::saveSucceeded(const QString&) {}
 void Report::saveFailed(const QString&) {}
-void Report::writeMetadata(const QString&, const QString&) {}
-
-bool Report::ensureValidJobData()
-{
-    return true;
-}
-
-void Report::updateJobTestMetadata() {}
-
 bool Report::keepsReportName()
 {
     return true;

@@ -19,6 +19,7 @@
 class KIVClientInterface;
 class KIVNotification;
 class ReportItem;
+class ReportMetadata;
 class TemplateToHtmlWriter;
 
 namespace uiutils {
@@ -80,6 +81,13 @@ class UIUTILS_EXPORT Report : public QObject
     Q_PROPERTY(bool notifiesTray READ getNotifiesTray WRITE setNotifiesTray)
     /// Pictures of the screen that belong to the report.
     Q_PROPERTY(QStringList screenshotList READ getScreenshotList WRITE setScreenshotList NOTIFY screenshotListChanged)
+    /// Whether a save writes now, and how much of it is written, 0 to 1: a PDF page by page, all formats in equal shares.
+    Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
+    Q_PROPERTY(double progress READ getProgress NOTIFY progressChanged)
+    /// Whether the page lives on while a report is saved: save() then handles events between pages and formats, so that
+    /// the page can show the progress and call cancel(). It has to keep users from everything else for as long as `saving`
+    /// is true, as SaveProgress of UiUtils.Controls does, and must not go itself. False at first.
+    Q_PROPERTY(bool interactive READ isInteractive WRITE setInteractive NOTIFY interactiveChanged)
 
 public:
     static const QString PDF_EXTENSION;
@@ -135,6 +143,10 @@ public:
     void setNotifiesTray(bool notifies) { m_notifiesTray = notifies; }
     QStringList getScreenshotList() const { return m_screenshots; }
     void setScreenshotList(const QStringList& screenshots);
+    bool isSaving() const;
+    double getProgress() const;
+    bool isInteractive() const { return m_isInteractive; }
+    void setInteractive(bool interactive);
 
     QString getTestTime() const { return m_testTime; }
     QString getTestDuration() const { return m_testDuration; }
@@ -147,6 +159,9 @@ public:
     /// gzip fails.
     bool compressFile(const QString& path);
     bool uncompressFile(const QString& path);
+
+    /// Copies the saved report to the stick, durably, over one of its name; tells the user when that fails.
+    void saveToUsb(const QString& name, const QString& suffix);
 
     /// An NSReport::ReportFormat; -1 without the item "reportFormat" or its value.
     int getFormat() const;
@@ -162,9 +177,10 @@ public:
     /// A derived controller gets its data ready here before the page calls save().
     Q_INVOKABLE virtual void startPossibleSave();
     /// Saves the report as the settings say, and emits reportGenerated(). False when nothing or not everything was
-    /// written: the user has been told why, or is being asked whether to overwrite; after reportOverwriteAccepted() the
-    /// page calls save(true). A question that is still open is taken back. False without more from a slot of what a
-    /// save of the same controller emits before reportGenerated().
+    /// written: the user has been told why, has cancelled it, or is being asked whether to overwrite; after
+    /// reportOverwriteAccepted() the page calls save(true), which goes where the question was about. A question that is
+    /// still open is taken back. False without more from a slot of what a save of the same controller emits before
+    /// reportGenerated().
     Q_INVOKABLE virtual bool save(bool overwrite = false);
     Q_INVOKABLE void setTestTime(const QString& testTime) { m_testTime = testTime; }
     Q_INVOKABLE void setTestDuration(const QString& testDuration) { m_testDuration = testDuration; }
@@ -218,6 +234,9 @@ public:
     Q_INVOKABLE virtual QString getCdmTestLabel();
     /// Takes both from the base manager: "none" and "None" when it says nothing.
     Q_INVOKABLE virtual void setCdmTestTypeAndLabel();
+    /// Ends the save that is running before the next page or format. What is written by then stays; the user, who wants
+    /// it so, is told nothing.
+    Q_INVOKABLE void cancel();
 
     /// Where the report `name` goes now, with `suffix` behind it unless it ends so. Makes the folder.
     virtual QString getSaveFilePath(const QString& name, const QString& suffix);
@@ -242,14 +261,21 @@ protected:
     virtual void saveSucceeded(const QString& path);
     virtual void saveFailed(const QString& name);
 
-    /// Called for each report that a save has written: `format` is "PDF", "XML" and so on. The default keeps no record.
+    /// Called for each report that a save has written, once it is safe: `format` is "PDF", "XML" and so on. The default
+    /// writes its metadata record, which tells of the work order and of the job. A record that cannot be written is told
+    /// to the log alone.
     virtual void writeMetadata(const QString& path, const QString& format);
-    /// Whether what a job needs is there; asked before a report is attached to it.
+    /// Whether what the active job needs is there, its ID; asked before a report is attached to it or tells of it.
     virtual bool ensureValidJobData();
-    /// A report has been attached to the job.
+    /// Adds what the job manager and the test say to metadata(): "jobId", "testType", "testLabel".
     virtual void updateJobTestMetadata();
     /// Whether the platform shall keep the report's name as that of the next one; true.
     virtual bool keepsReportName();
+
+    /// The record of the report that was saved last, or is being saved.
+    ReportMetadata& metadata();
+    /// Adds "wo" and "workflowId" of the work order that is active in this session to metadata().
+    void addWorkOrderMetaDataInfo();
 
     /// Adds an item with name, type and label among its attributes to the settings, which own it from then on.
     void addSetting(UiData* item);
@@ -286,6 +312,9 @@ Q_SIGNALS:
     void jobSchemaChanged();
     void settingsChanged();
     void screenshotListChanged();
+    void savingChanged();
+    void progressChanged();
+    void interactiveChanged();
 
     /// The user lets the pending report be overwritten.
     void reportOverwriteAccepted();
@@ -302,6 +331,8 @@ public Q_SLOTS:
     void overwriteRejected(KIVNotification* notification);
 
 private:
+    class Save;
+
     void watchServices();
     void watchItems();
     void createSettings();
@@ -313,19 +344,14 @@ private:
 
     /// Emits notifiers without arguments in their order. False when a slot has deleted the controller.
     bool emitEach(std::initializer_list<void (Report::*)()> notifiers);
-    /// Runs a step of a save, in which no other save begins.
-    template<typename Step>
-    bool alone(const Step& step);
-    bool beginSave(const QString& name);
     QString chosenName();
-    void keepName();
-    void takeIncludeJobInfo();
-    bool hasRoom() const;
     bool mayWrite(const QStringList& paths, bool overwrite);
-    bool writeAndRecord(const QString& name, bool overwrite, QStringList* written);
-    bool writeFormats(const QString& name, bool overwrite, QStringList* written);
     bool writeContents(const QString& path, const QByteArray& contents);
-    void recordSync(const QStringList& paths);
+    bool copyToUsb(const QString& name, const QString& suffix);
+    void tellSyncError(const QString& consequence, const QString& reason);
+    /// How much of the format that is being written is done. False when it is to be given up.
+    bool goesOn(double share);
+    bool tellProgress(bool hasChanged);
 
     ReportTemplate m_document;
     QMap<QString, UiData*> m_settings;
@@ -347,6 +373,7 @@ private:
     bool m_isCompressionEnabled = false;
     bool m_notifiesTray = true;
     bool m_isSaving = false;
+    bool m_isInteractive = false;
     QString m_testTime;
     QString m_testDuration;
     QString m_cdmTestType;

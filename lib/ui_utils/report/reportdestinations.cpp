@@ -3,8 +3,11 @@
 #include "core/itemids.h"
 #include "core/paths.h"
 
+#include <kiv/filesystemusage.h>
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
+
+#include <QDir>
 
 namespace uiutils {
 
@@ -24,19 +27,38 @@ ReportDestinations ReportDestinations::current()
 {
     ReportDestinations destinations;
     destinations.location = baseManagerValue(itemids::saveLocation).toInt();
-    destinations.isUsbAttached = baseManagerValue(itemids::usbAttached).toBool();
+    destinations.isUsbAnnounced = baseManagerValue(itemids::usbAttached).toBool();
     return destinations;
 }
 
 QString ReportDestinations::folder(const QString& internal) const
 {
-    return location == SaveOnUsb && isUsbAttached ? QString(paths::usb) : internal;
+    return location == SaveOnUsb && isUsbAnnounced ? QString(paths::usb) : internal;
 }
 
 QStringList ReportDestinations::foldersToCheck(const QString& internal) const
 {
-    const QString first = folder(internal);
-    return copiesToUsb() ? QStringList {first, paths::usb} : QStringList {first};
+    QStringList folders {folder(internal)};
+    if (copiesToUsb())
+        folders += paths::usb;
+    if (!isDriveThere(paths::usb))
+        folders.removeAll(paths::usb);
+    return folders;
+}
+
+bool isOnUsb(const QString& path)
+{
+    return QDir::cleanPath(path).startsWith(paths::usb) || path == paths::usb;
+}
+
+QString usbPath(const QString& path)
+{
+    return paths::usb + path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+bool isDriveThere(const QString& path)
+{
+    return !isOnUsb(path) || FileSystemUsage::isMounted(paths::usb);
 }
 
 } // namespace uiutils

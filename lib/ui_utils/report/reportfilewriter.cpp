@@ -2,14 +2,18 @@
 
 #include "core/durablefile.h"
 #include "core/paths.h"
+#include "core/temporaries_p.h"
+#include "core/temporaryfolder_p.h"
 #include "report/gzip_p.h"
+#include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <QtEndian>
+
+#include <cerrno>
 
 namespace uiutils {
 
@@ -43,9 +47,10 @@ QByteArray compressedForm(const QString& path, const QByteArray& contents, QStri
     const QFileInfo target(onDisk(path));
     // A folder of its own lets gzip note the report's name in the file, which unpackers show, and takes along on its
     // end whatever gzip has left. It is beside the report because that drive is the one whose room was looked at.
-    const QTemporaryDir folder(target.path() + QLatin1String("/.uiutils-XXXXXX"));
-    if (!folder.isValid()) {
-        *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot compress %1: %2"), path, folder.errorString());
+    removeStaleTemporaries(target.path());
+    const TemporaryFolder folder(target.path());
+    if (folder.path().isEmpty()) {
+        *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot compress %1: %2"), path, qt_error_string(errno));
         return QByteArray();
     }
     const QString place = folder.filePath(target.fileName());
@@ -66,10 +71,32 @@ QByteArray compressedForm(const QString& path, const QByteArray& contents, QStri
     return QByteArray();
 }
 
+QString driveIsGone(const QString& path)
+{
+    return failure(QT_TRANSLATE_NOOP("Report", "Cannot write %1: %2"), path,
+            QCoreApplication::translate("Report", "the USB drive is not there"));
+}
+
+/// A stick that is pulled leaves its folder behind, in which the unit would keep what was to go along: before the write
+/// it must be there, and afterwards it must be there still.
+bool writeToDrive(const QString& path, const QByteArray& contents, QString* error)
+{
+    if (!isDriveThere(path)) {
+        *error = driveIsGone(path);
+        return false;
+    }
+    if (!writeFileDurably(onDisk(path), contents, error))
+        return false;
+    if (isDriveThere(path))
+        return true;
+    *error = driveIsGone(path);
+    return false;
+}
+
 WrittenFile writeAsItIs(const QString& path, const QByteArray& contents)
 {
     WrittenFile file;
-    file.ok = writeFileDurably(onDisk(path), contents, &file.error);
+    file.ok = writeToDrive(path, contents, &file.error);
     if (file.ok)
         file.path = path;
     return file;
@@ -80,7 +107,7 @@ WrittenFile writeAsItIs(const QString& path, const QByteArray& contents)
 WrittenFile writeReportFile(const QString& path, const QByteArray& contents, bool compressed)
 {
     // What no path may hold is refused there, in words that can be shown.
-    if (!compressed || path.contains(QChar(QChar::Null)))
+    if (!compressed || path.contains(QChar(QChar::Null)) || !isDriveThere(path))
         return writeAsItIs(path, contents);
     QString error;
     const QByteArray bytes = compressedForm(path, contents, &error);
@@ -90,6 +117,16 @@ WrittenFile writeReportFile(const QString& path, const QByteArray& contents, boo
     file.ok = false;
     file.error = error;
     return file;
+}
+
+bool copyReportFile(const QString& source, const QString& target, QString* error)
+{
+    QFile file(onDisk(source));
+    const QByteArray contents = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (file.error() == QFileDevice::NoError)
+        return writeToDrive(target, contents, error);
+    *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot read %1: %2"), source, file.errorString());
+    return false;
 }
 
 } // namespace uiutils

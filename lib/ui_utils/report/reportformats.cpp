@@ -35,11 +35,11 @@ const ReportFormat* reportFormat(int value)
     return nullptr;
 }
 
-QList<const ReportFormat*> formatsToWrite(int format, const UiData* item)
+ReportFormats formatsToWrite(int format, const UiData* item)
 {
     if (const ReportFormat* chosen = reportFormat(format); chosen && chosen->writer)
         return {chosen};
-    QList<const ReportFormat*> formats;
+    ReportFormats formats;
     const UiDataEnums* choices = item ? item->getUiEnumList() : nullptr;
     if (format != NSReport::REPORT_FORMAT_ALL || !choices)
         return formats;

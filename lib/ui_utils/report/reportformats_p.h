@@ -38,9 +38,11 @@ const QList<ReportFormat>& allReportFormats();
 /// Null for a value that is no format.
 const ReportFormat* reportFormat(int value);
 
+using ReportFormats = QList<const ReportFormat*>;
+
 /// What is written for the value `format`: itself, or for ALL those that `item` says are applicable; none for any other
 /// value.
-QList<const ReportFormat*> formatsToWrite(int format, const UiData* item);
+ReportFormats formatsToWrite(int format, const UiData* item);
 
 /// Fills an item with the choices.
 void addFormatChoices(UiData& item);

@@ -2,6 +2,7 @@
 
 #include "report/reportformats_p.h"
 
+#include <QFile>
 #include <QStringList>
 
 namespace uiutils {
@@ -11,6 +12,11 @@ namespace {
 QString withSlash(const QString& folder)
 {
     return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+}
+
+QString withSuffix(const QString& name, const QString& suffix)
+{
+    return name.endsWith(suffix) ? name : name + suffix;
 }
 
 } // namespace
@@ -38,6 +44,18 @@ QString safeFileName(const QString& name)
     return safe;
 }
 
+bool isFileName(const QString& name, const QString& suffix, bool compressed)
+{
+    if (name == QLatin1String(".") || name == QLatin1String("..") || name.contains(QLatin1Char('/'))
+            || name.contains(QChar(QChar::Null)))
+        return false;
+    constexpr int mostBytes = 255;
+    QString fileName = withSuffix(safeFileName(name), suffix);
+    if (compressed)
+        fileName += gzipSuffix;
+    return QFile::encodeName(fileName).size() <= mostBytes;
+}
+
 QString safeFolder(const QString& folder)
 {
     QStringList parts = folder.split(QLatin1Char('/'), Qt::SkipEmptyParts);
@@ -60,8 +78,7 @@ QString reportFolder(const QString& base, const QString& provider, const QString
 
 QString reportPath(const QString& directory, const QString& name, const QString& suffix)
 {
-    const QString path = withSlash(directory) + safeFileName(name);
-    return path.endsWith(suffix) ? path : path + suffix;
+    return withSlash(directory) + withSuffix(safeFileName(name), suffix);
 }
 
 QString reportNamed(const QString& name, const QVariantList& reports)

@@ -14,6 +14,10 @@ QString proposedReportName(const QString& shortLabel, const QDateTime& time);
 /// `name` as one part of a path: "/", NUL and control characters become "_", and so do "." and "..".
 QString safeFileName(const QString& name);
 
+/// Whether a report of that name can lie in a folder with the suffix and, `compressed`, ".gz" behind it: it leads nowhere
+/// else and has no more than 255 bytes.
+bool isFileName(const QString& name, const QString& suffix, bool compressed);
+
 /// `folder` as parts of a path below another: its parts are as safeFileName() makes them, and empty ones go. Has no "/" at
 /// its ends.
 QString safeFolder(const QString& folder);

@@ -1,277 +1,257 @@
-// The half of Report that makes contents and saves them.
+// The part of Report that saves.
 
 #include "report/report.h"
 
 #include "core/itemids.h"
 #include "core/paths.h"
-#include "report/gzip_p.h"
-#include "report/jobreport_p.h"
-#include "report/nosynclist_p.h"
 #include "report/reportdestinations_p.h"
-#include "report/reportfilewriter_p.h"
 #include "report/reportformats_p.h"
+#include "report/reportnaming_p.h"
 #include "report/reportstate_p.h"
-#include "report/savednotice_p.h"
-#include "templ2xmlwriter/templatetoxmlwriter.h"
-#include "writers/templatetohtmlwriter.h"
-#include "writers/templatetopdfwriter.h"
 
 #include <kiv/filesystemusage.h>
 #include <kiv/kivclientinterface.h>
-#include <kiv/kivnotificationmodelmanager.h>
 
-#include <QFile>
-#include <QProcess>
-#include <QScopeGuard>
-#include <QTemporaryDir>
+#include <QPointer>
 
 #include <algorithm>
 #include <utility>
 
-using uiutils::changes;
 using uiutils::onDisk;
 
-// --- Contents ---
-
-template<typename Writer>
-void Report::handOnSwitches(Writer& writer) const
+/// One save. Hooks and slots may delete the controller at any of its steps, and it ends there then.
+class Report::Save
 {
-    writer.setAttribute(QStringLiteral("includeJobInfo"), m_includeJobInfo);
-    writer.setAttribute(QStringLiteral("includeCustomerInfoTop"), m_includeCustomerInfo);
-    writer.setAttribute(QStringLiteral("showHardwareRevs"), m_showHardwareRevs);
-    writer.setAttribute(QStringLiteral("showSoftwareRevs"), m_showSoftwareRevs);
-    writer.setAttribute(QStringLiteral("title"), getTitle());
-    writer.setAttribute(QStringLiteral("logo"), QString(uiutils::paths::logo));
-    writer.setAttribute(QStringLiteral("orientation"), getOrientation());
-    for (auto it = m_writerAttributes.cbegin(); it != m_writerAttributes.cend(); ++it)
-        writer.setAttribute(it.key(), it.value());
+public:
+    Save(Report& report, bool overwrite);
+    ~Save();
+    Q_DISABLE_COPY_MOVE(Save)
+
+    bool run();
+
+private:
+    bool getReady();
+    bool takeName();
+    bool keepName();
+    bool takeJobInfo();
+    bool takeSyncChoice();
+    bool takeDestinations();
+    bool hasRoom();
+    bool mayWrite();
+    bool write();
+    bool writeFormats();
+    bool writeFormat(const uiutils::ReportFormat& format);
+    void recordSync();
+    bool copyToUsb();
+    bool announce();
+    bool fail();
+
+    void occupy(bool isOccupied);
+    uiutils::ReportFormats formats() const;
+
+    QPointer<Report> m_report;
+    bool m_overwrite;
+    bool m_isSynced = false;
+    QString m_name;
+    QStringList m_written;
+};
+
+Report::Save::Save(Report& report, bool overwrite)
+    : m_report(&report)
+    , m_overwrite(overwrite)
+{
+    report.m_state->gate.withdraw();
+    report.m_state->beginSave();
 }
 
-void Report::setHtmlWriterAttributes(TemplateToHtmlWriter& writer) const
+Report::Save::~Save()
 {
-    handOnSwitches(writer);
+    if (!m_report)
+        return;
+    m_report->m_state->fixedDestinations.reset();
+    m_report->m_state->endSave();
 }
 
-QString Report::generateTxtReport()
+bool Report::Save::run()
 {
-    return QString();
-}
-
-QString Report::generateJsonReport()
-{
-    return QString();
-}
-
-QString Report::generateXmlReport()
-{
-    return TemplateToXmlWriter(m_document, false, m_includeCustomerInfo, true).getXml();
-}
-
-QString Report::generateJobManagerReport()
-{
-    return TemplateToXmlWriter(m_document, true, m_includeCustomerInfo, true).getXml();
-}
-
-QString Report::generateHtmlReport()
-{
-    TemplateToHtmlWriter writer(m_document, nullptr);
-    setHtmlWriterAttributes(writer);
-    return writer.getHtml();
-}
-
-bool Report::hasCustomPDF()
-{
-    return false;
-}
-
-QByteArray Report::generatePDFReport()
-{
-    return generateDefaultPDFReport();
-}
-
-QByteArray Report::generateDefaultPDFReport()
-{
-    const QTemporaryDir folder;
-    const QString place = folder.filePath(QStringLiteral("report") + uiutils::pdfSuffix);
-    // A report of many rows is large: its items go as soon as they are printed, unless others print them, too.
-    const auto dropItems = qScopeGuard([isNested = ReportPDF::isPrinting()] {
-        if (!isNested)
-            qDeleteAll(std::exchange(m_reportItems, {}));
-    });
-    TemplateToPdfWriter writer(m_document, &m_reportItems);
-    handOnSwitches(writer);
-    writer.setAttribute(QStringLiteral("subject"), getSubject());
-    QString error;
-    QFile file(place);
-    if (folder.isValid() && writer.write(place, &error) && file.open(QIODevice::ReadOnly))
-        return file.readAll();
-    qDebug("The pages of the report could not be made: %s", qUtf8Printable(error));
-    return QByteArray();
-}
-
-// --- Writing ---
-
-bool Report::writeTxtReport(const QString& path, bool overwrite)
-{
-    return writeTextReport(path, generateTxtReport(), TXT_EXTENSION, overwrite);
-}
-
-bool Report::writeJsonReport(const QString& path, bool overwrite)
-{
-    const QString text = generateJsonReport();
-    return writeTextReport(path, text.isNull() ? QStringLiteral("{ }") : text, JSON_EXTENSION, overwrite);
-}
-
-bool Report::writeHtmlReport(const QString& path, bool overwrite)
-{
-    return writeTextReport(path, generateHtmlReport(), HTML_EXTENSION, overwrite);
-}
-
-bool Report::writeXmlReport(const QString& path, bool overwrite)
-{
-    return writeTextReport(path, generateXmlReport(), XML_EXTENSION, overwrite);
-}
-
-bool Report::writePDFReport(const QString& path, bool overwrite)
-{
-    if (!mayWrite({path}, overwrite))
+    occupy(true);
+    const bool isReady = getReady();
+    // The user may answer at once, and have another save begin within this one.
+    occupy(false);
+    if (!isReady)
+        return fail();
+    if (!mayWrite())
         return false;
-    const QByteArray pages = generatePDFReport();
-    if (!pages.isEmpty())
-        return writeContents(path, pages);
-    m_state->errors.sendNotificationWriteError(path);
-    return false;
+    occupy(true);
+    const bool isWritten = write() && copyToUsb();
+    occupy(false);
+    return isWritten ? announce() : fail();
 }
 
-bool Report::writeTextReport(const QString& path, const QString& text, const QString&, bool overwrite)
+bool Report::Save::getReady()
 {
-    return mayWrite({path}, overwrite) && writeContents(path, text.toUtf8());
+    m_report->saveSettings();
+    return takeName() && keepName() && takeJobInfo() && takeSyncChoice() && takeDestinations() && hasRoom();
 }
 
-bool Report::writeContents(const QString& path, const QByteArray& contents)
+/// A slot that hears of a save's progress would otherwise start one within the other, and that one the next.
+void Report::Save::occupy(bool isOccupied)
 {
-    const uiutils::WrittenFile file = uiutils::writeReportFile(path, contents, m_isCompressionEnabled);
-    if (!file.ok) {
-        m_state->errors.sendNotificationWriteError(path);
-        qDebug("The report %s was not written: %s", qUtf8Printable(path), qUtf8Printable(file.error));
+    if (m_report)
+        m_report->m_isSaving = isOccupied;
+}
+
+uiutils::ReportFormats Report::Save::formats() const
+{
+    return uiutils::formatsToWrite(m_report->getFormat(), m_report->m_settings.value(uiutils::formatSetting));
+}
+
+/// A name that is none of a file is refused before a folder is made for it.
+bool Report::Save::takeName()
+{
+    m_name = m_report->chosenName();
+    const auto wanted = formats();
+    const auto refused = std::find_if_not(wanted.cbegin(), wanted.cend(), [&](const uiutils::ReportFormat* format) {
+        return uiutils::isFileName(m_name, format->suffix, m_report->isCompressionEnabled());
+    });
+    if (refused != wanted.cend()) {
+        const QString path = m_report->getReportFilePath() + m_name + (*refused)->suffix;
+        m_report->m_state->tellWriteError(path, QStringLiteral("it is no name of a file, or too long"));
         return false;
     }
-    // The user has let go of a report of the name before it came to this.
-    if (m_isCompressionEnabled)
-        QFile::remove(onDisk(path));
-    if (path.endsWith(PDF_EXTENSION))
-        m_lastPdf = file.path;
-    // Slots and hooks may delete the controller. The file is there all the same.
-    const QPointer<Report> self(this);
-    const bool notifiesTray = m_notifiesTray;
-    if (path.endsWith(XML_EXTENSION) && changes(m_lastSavedXml, file.path))
-        Q_EMIT lastSavedXMLChanged();
-    if (self)
-        reportWritten(file.path);
-    if (self)
-        emitEach({&Report::reportFilesChanged, &Report::saveLocationChanged});
-    if (self ? m_notifiesTray : notifiesTray)
-        uiutils::postSavedNotice(file.path);
+    m_report->saveStarted(m_name);
+    return m_report;
+}
+
+bool Report::Save::keepName()
+{
+    KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
+    if (m_report->keepsReportName() && client)
+        client->invokeAction(uiutils::itemids::updateNameConfigs);
+    return m_report;
+}
+
+bool Report::Save::takeJobInfo()
+{
+    if (const KivData* item = m_report->getSetting(uiutils::jobInfoSetting))
+        m_report->setIncludeJobInfo(item->getValue().toBool());
+    return m_report;
+}
+
+bool Report::Save::takeSyncChoice()
+{
+    const KivData* item = m_report->getSetting(uiutils::syncSetting);
+    m_isSynced = item && item->getValue().toBool();
+    return m_report;
+}
+
+/// What the user has agreed to overwrite lies where the question found it, and nowhere else.
+bool Report::Save::takeDestinations()
+{
+    uiutils::ReportState& state = *m_report->m_state;
+    const auto agreed = std::exchange(state.agreedDestinations, std::nullopt);
+    state.fixedDestinations
+            = m_overwrite && agreed ? *agreed : uiutils::ReportDestinations::current();
     return true;
 }
 
-bool Report::compressFile(const QString& path)
+bool Report::Save::hasRoom()
 {
-    return uiutils::compressFile(path);
+    const QStringList folders = m_report->m_state->destinations().foldersToCheck(m_report->m_baseDirectory);
+    const QString message = tr("There is not enough space to save the report.");
+    return std::all_of(folders.cbegin(), folders.cend(), [&](const QString& folder) {
+        return FileSystemUsage::checkAndNotifyBeforeSave(onDisk(folder), message);
+    }) && m_report;
 }
 
-bool Report::uncompressFile(const QString& path)
+bool Report::Save::mayWrite()
 {
-    return uiutils::uncompressFile(path);
+    return m_report->checkForOverwrite(m_name, m_report->getSuffixForReport(), m_overwrite);
 }
 
-// --- The question ---
-
-bool Report::mayWrite(const QStringList& paths, bool overwrite)
+/// What a user keeps from the cloud stays from it also when another format could not be written.
+bool Report::Save::write()
 {
-    const QString taken = overwrite ? QString() : uiutils::OverwriteGate::firstTaken(paths, m_isCompressionEnabled);
-    if (taken.isEmpty())
+    uiutils::SaveProgress& progress = m_report->m_state->progress;
+    progress.begin(formats().size());
+    Q_EMIT m_report->savingChanged();
+    const bool isComplete = m_report && writeFormats();
+    if (m_report)
+        recordSync();
+    if (!m_report)
+        return false;
+    progress.end();
+    Q_EMIT m_report->savingChanged();
+    return m_report && isComplete;
+}
+
+bool Report::Save::writeFormats()
+{
+    m_report->prepareDocument();
+    const auto wanted = m_report ? formats() : uiutils::ReportFormats();
+    bool isComplete = !wanted.isEmpty();
+    for (const uiutils::ReportFormat* format : wanted) {
+        isComplete = writeFormat(*format) && isComplete;
+        if (!m_report || !m_report->tellProgress(m_report->m_state->progress.finishFormat()))
+            return false;
+    }
+    return isComplete;
+}
+
+bool Report::Save::writeFormat(const uiutils::ReportFormat& format)
+{
+    const QString path = m_report->getSaveFilePath(m_name, format.suffix);
+    if (!m_report || !(m_report->*format.writer)(path, m_overwrite) || !m_report)
+        return false;
+    m_written += m_report->m_isCompressionEnabled ? path + GZIP_EXTENSION : path;
+    m_report->writeMetadata(m_written.constLast(), QLatin1String(format.label));
+    return true;
+}
+
+void Report::Save::recordSync()
+{
+    (m_isSynced ? m_report->m_syncedReports : m_report->m_unsyncedReports) += m_written;
+    for (const QString& path : qAsConst(m_written)) {
+        if (m_report && m_isSynced)
+            m_report->removeReportFromNoSyncList(path);
+        else if (m_report)
+            m_report->addReportToNoSyncList(path);
+    }
+}
+
+bool Report::Save::copyToUsb()
+{
+    if (!m_report->m_state->destinations().copiesToUsb())
         return true;
-    const auto* manager = KIVNotificationModelManager::instance();
-    connect(manager, &KIVNotificationModelManager::notificationAccepted, this, &Report::overwriteAccepted,
-            Qt::UniqueConnection);
-    connect(manager, &KIVNotificationModelManager::notificationRejected, this, &Report::overwriteRejected,
-            Qt::UniqueConnection);
-    const QPointer<Report> self(this);
-    m_state->gate.ask(taken);
-    if (self)
-        overwriteAsked(taken);
+    bool isComplete = true;
+    const auto wanted = formats();
+    for (const uiutils::ReportFormat* format : wanted)
+        isComplete = m_report && m_report->copyToUsb(m_name, format->suffix) && isComplete;
+    return isComplete;
+}
+
+bool Report::Save::announce()
+{
+    // Files of all formats have the name in common.
+    const QString saved = m_report->isAll() ? m_name : m_written.constFirst();
+    m_report->saveSucceeded(m_written.constFirst());
+    if (m_report)
+        Q_EMIT m_report->reportGenerated(saved);
+    return true;
+}
+
+bool Report::Save::fail()
+{
+    if (m_report)
+        m_report->saveFailed(m_name);
     return false;
 }
-
-void Report::overwriteAccepted(KIVNotification* notification)
-{
-    if (!m_state->gate.takeAnswered(notification).isEmpty())
-        Q_EMIT reportOverwriteAccepted();
-}
-
-void Report::overwriteRejected(KIVNotification* notification)
-{
-    const QString path = m_state->gate.takeAnswered(notification);
-    if (!path.isEmpty())
-        overwriteDeclined(path);
-}
-
-// --- Saving ---
 
 void Report::startPossibleSave() {}
 
 bool Report::save(bool overwrite)
 {
-    // A slot that hears of a save's progress would otherwise start one within the other, and that one the next.
-    if (m_isSaving)
-        return false;
-    const QPointer<Report> self(this);
-    m_state->gate.withdraw();
-    saveSettings();
-    const QString name = chosenName();
-    const auto fail = [&] {
-        if (self)
-            saveFailed(name);
-        return false;
-    };
-    if (!alone([&] { return beginSave(name); }))
-        return fail();
-    if (!checkForOverwrite(name, getSuffixForReport(), overwrite))
-        return false;
-    QStringList written;
-    if (!alone([&] { return writeAndRecord(name, overwrite, &written); }))
-        return fail();
-    // Files of all formats have the name in common.
-    const QString saved = isAll() ? name : written.constFirst();
-    saveSucceeded(written.constFirst());
-    if (self)
-        Q_EMIT reportGenerated(saved);
-    return true;
-}
-
-/// False when the step fails, and when the controller has not survived it.
-template<typename Step>
-bool Report::alone(const Step& step)
-{
-    const QPointer<Report> self(this);
-    m_isSaving = true;
-    const bool isDone = step();
-    if (!self)
-        return false;
-    m_isSaving = false;
-    return isDone;
-}
-
-bool Report::beginSave(const QString& name)
-{
-    const QPointer<Report> self(this);
-    saveStarted(name);
-    if (self)
-        keepName();
-    if (self)
-        takeIncludeJobInfo();
-    return self && hasRoom();
+    return !m_isSaving && Save(*this, overwrite).run();
 }
 
 QString Report::chosenName()
@@ -281,142 +261,4 @@ QString Report::chosenName()
     if (item && name.isEmpty())
         name = proposedFileName();
     return name.isEmpty() ? QStringLiteral("empty") : name;
-}
-
-void Report::keepName()
-{
-    KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
-    if (keepsReportName() && client)
-        client->invokeAction(uiutils::itemids::updateNameConfigs);
-}
-
-void Report::takeIncludeJobInfo()
-{
-    if (const KivData* item = getSetting(uiutils::jobInfoSetting))
-        setIncludeJobInfo(item->getValue().toBool());
-}
-
-bool Report::hasRoom() const
-{
-    const QStringList folders = uiutils::ReportDestinations::current().foldersToCheck(m_baseDirectory);
-    const QString message = tr("There is not enough space to save the report.");
-    return std::all_of(folders.cbegin(), folders.cend(), [&](const QString& folder) {
-        return FileSystemUsage::checkAndNotifyBeforeSave(onDisk(folder), message);
-    });
-}
-
-bool Report::checkForOverwrite(const QString& name, const QString& suffix, bool overwrite)
-{
-    if (!suffix.isEmpty())
-        return mayWrite({getSaveFilePath(name, suffix)}, overwrite);
-    QStringList paths;
-    const auto formats = uiutils::formatsToWrite(getFormat(), m_settings.value(uiutils::formatSetting));
-    for (const uiutils::ReportFormat* format : formats)
-        paths.append(getSaveFilePath(name, format->suffix));
-    return mayWrite(paths, overwrite);
-}
-
-/// What a user keeps from the cloud stays from it also when another format could not be written.
-bool Report::writeAndRecord(const QString& name, bool overwrite, QStringList* written)
-{
-    const QPointer<Report> self(this);
-    const bool isComplete = writeFormats(name, overwrite, written);
-    if (self)
-        recordSync(*written);
-    return isComplete;
-}
-
-bool Report::writeFormats(const QString& name, bool overwrite, QStringList* written)
-{
-    const QPointer<Report> self(this);
-    prepareDocument();
-    bool ok = true;
-    const auto formats = self ? uiutils::formatsToWrite(getFormat(), m_settings.value(uiutils::formatSetting))
-                              : QList<const uiutils::ReportFormat*>();
-    for (const uiutils::ReportFormat* format : formats) {
-        const QString path = getSaveFilePath(name, format->suffix);
-        const bool isWritten = (this->*format->writer)(path, overwrite);
-        if (!self)
-            return false;
-        ok = ok && isWritten;
-        if (!isWritten)
-            continue;
-        written->append(m_isCompressionEnabled ? path + GZIP_EXTENSION : path);
-        writeMetadata(written->constLast(), QLatin1String(format->label));
-        if (!self)
-            return false;
-    }
-    return ok && !written->isEmpty();
-}
-
-void Report::recordSync(const QStringList& paths)
-{
-    const KivData* item = getSetting(uiutils::syncSetting);
-    if (!item)
-        return;
-    const QPointer<Report> self(this);
-    const bool isSynced = item->getValue().toBool();
-    (isSynced ? m_syncedReports : m_unsyncedReports) += paths;
-    for (const QString& path : paths) {
-        if (self && isSynced)
-            removeReportFromNoSyncList(path);
-        else if (self)
-            addReportToNoSyncList(path);
-    }
-}
-
-void Report::addReportToNoSyncList(const QString& filePath)
-{
-    writeNoSyncListToFile(uiutils::withReport(uiutils::noSyncList(), filePath));
-}
-
-void Report::removeReportFromNoSyncList(const QString& filePath)
-{
-    const QStringList former = uiutils::noSyncList();
-    const QStringList now = uiutils::withoutReport(former, filePath);
-    if (now != former)
-        writeNoSyncListToFile(now);
-}
-
-void Report::writeNoSyncListToFile(const QStringList& noSync_fileList)
-{
-    uiutils::writeNoSyncList(noSync_fileList);
-}
-
-double Report::percentageFileSystemUsed(const QString& path)
-{
-    return FileSystemUsage::percentageUsed(onDisk(path));
-}
-
-// --- The job ---
-
-bool Report::writeToJobManager()
-{
-    QString reason;
-    const QPointer<Report> self(this);
-    const bool attached = ensureValidJobData()
-            && uiutils::attachToJob(generateJobManagerReport().toUtf8(), m_jobSchema, &reason);
-    if (!self)
-        return attached;
-    if (attached) {
-        updateJobTestMetadata();
-        return true;
-    }
-    if (!reason.isEmpty())
-        m_state->tell(tr("Job Manager"), reason);
-    return false;
-}
-
-// --- The viewer ---
-
-void Report::showPDF(const QString& path)
-{
-    const QString shown = path.isEmpty() ? m_lastPdf : path;
-    const QString windowTitle = path.isEmpty() ? getTitle() : tr("View Report");
-    if (!shown.endsWith(PDF_EXTENSION) && !shown.endsWith(PDF_EXTENSION + GZIP_EXTENSION))
-        return;
-    m_lastPdf = shown;
-    QStringList arguments = QStringLiteral("-plugin EvdevTouch:/dev/input/event1 --dpy 85 -s").split(QLatin1Char(' '));
-    arguments << onDisk(shown) << QStringLiteral("-t") << windowTitle;
-    QProcess::startDetached(onDisk(uiutils::paths::pdfViewer), arguments, onDisk(uiutils::paths::pdfViewerFolder));
 }

@@ -1,6 +1,7 @@
 #include "report/savednotice_p.h"
 
 #include "core/paths.h"
+#include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
 
 #include <kiv/kivnotification.h>
@@ -26,7 +27,7 @@ QString reportNameOf(const QString& path)
 
 QString shownFolderOf(const QString& path)
 {
-    if (path.startsWith(paths::usb))
+    if (isOnUsb(path))
         return QStringLiteral("USB");
     QString folder = path.left(path.lastIndexOf(QLatin1Char('/')) + 1);
     if (folder.startsWith(paths::publicFolder))

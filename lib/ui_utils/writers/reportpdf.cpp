@@ -1,13 +1,12 @@
 #include "writers/reportpdf.h"
 
 #include "core/durablefile.h"
+#include "core/memoryfile_p.h"
 #include "core/paths.h"
-#include "core/temporarysibling_p.h"
 #include "writers/pageimage_p.h"
 #include "writers/pageprinter_p.h"
 #include "writers/statusicons_p.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QPointer>
 #include <QScopedValueRollback>
@@ -20,37 +19,26 @@ bool isAnyPrinting = false;
 
 } // namespace
 
-/// One print(). A slot that hears of the progress may delete the renderer, which then counts as cancelled.
+/// One run of the printer. A slot that hears of the progress may delete the renderer, which then counts as cancelled.
 class ReportPDF::Job
 {
 public:
-    Job(ReportPDF& owner, const QString& target);
+    explicit Job(ReportPDF& owner);
 
-    /// The file is whole, under its name and on the disk.
-    bool run();
-    QString error() const { return m_error; }
+    /// The whole file; nothing when it was cancelled, or could not be made for the reason in `error`.
+    QByteArray run(QString* error);
 
 private:
     uiutils::PageSettings settings() const;
     bool tellProgress(int page, int pageCount);
-    bool finish(const QString& printed, const QVector<uiutils::pdf::OutlineEntry>& outline);
-    bool fail(const QString& text, const QString& reason);
+    QByteArray finish(const QString& printed, const QVector<uiutils::pdf::OutlineEntry>& outline, QString* error) const;
 
     QPointer<ReportPDF> m_owner;
-    QString m_target;
-    QString m_error;
 };
 
-ReportPDF::Job::Job(ReportPDF& owner, const QString& target)
+ReportPDF::Job::Job(ReportPDF& owner)
     : m_owner(&owner)
-    , m_target(target)
 {
-}
-
-bool ReportPDF::Job::fail(const QString& text, const QString& reason)
-{
-    m_error = text.arg(m_target, reason);
-    return false;
 }
 
 bool ReportPDF::Job::tellProgress(int page, int pageCount)
@@ -68,38 +56,36 @@ uiutils::PageSettings ReportPDF::Job::settings() const
             owner.m_orientation == Landscape ? QPageLayout::Landscape : QPageLayout::Portrait};
 }
 
-bool ReportPDF::Job::run()
+QByteArray ReportPDF::Job::run(QString* error)
 {
-    const uiutils::TemporarySibling printed(m_target);
-    if (!printed.isOpen())
-        return fail(tr("Cannot create a file in the folder of %1: %2"), qt_error_string(errno));
-    // The mode of the file that it is to replace may be one that nobody writes to, and the printer opens it anew.
-    QFile::setPermissions(printed.path(), QFile::ReadOwner | QFile::WriteOwner);
+    const uiutils::MemoryFile printed;
+    if (printed.path().isEmpty()) {
+        *error = qt_error_string(errno);
+        return QByteArray();
+    }
     uiutils::PagePrinter printer(
             settings(), m_owner->m_items, [this](int page, int count) { return tellProgress(page, count); });
     switch (printer.print(printed.path())) {
     case uiutils::PagePrinter::Stopped:
-        return false;
+        return QByteArray();
     case uiutils::PagePrinter::Failed:
-        return fail(tr("Cannot write %1: %2"), tr("the disk took no more"));
+        *error = tr("there is not enough memory for its pages");
+        return QByteArray();
     case uiutils::PagePrinter::Printed:
         break;
     }
-    return finish(printed.path(), printer.outline());
+    return finish(printed.path(), printer.outline(), error);
 }
 
-/// A printer device tells nothing of a disk that took no more: only a file that can be read again to its end was printed.
-bool ReportPDF::Job::finish(const QString& printed, const QVector<uiutils::pdf::OutlineEntry>& outline)
+/// A printer device tells nothing of what could not be written: only a file that can be read again to its end was printed.
+QByteArray ReportPDF::Job::finish(
+        const QString& printed, const QVector<uiutils::pdf::OutlineEntry>& outline, QString* error) const
 {
     const ReportPDF& owner = *m_owner;
-    QString error;
-    const QByteArray file = uiutils::pdf::annotated(printed,
+    return uiutils::pdf::annotated(printed,
             {owner.m_title.isEmpty() ? owner.m_documentTitle : owner.m_title, owner.m_author, owner.m_subject,
                     owner.m_producer, outline},
-            &error);
-    if (file.isEmpty())
-        return fail(tr("Cannot write %1: %2"), error);
-    return uiutils::writeFileDurably(m_target, file, &m_error);
+            error);
 }
 
 ReportPDF::ReportPDF(QObject* parent)
@@ -120,21 +106,31 @@ bool ReportPDF::print(const QString& path, QString* error)
 {
     QString ignored;
     QString& message = error ? *error : ignored;
+    const QByteArray file = toPdf(&message);
+    if (!file.isEmpty())
+        return uiutils::writeFileDurably(uiutils::onDisk(path), file, &message);
+    if (!message.isEmpty())
+        message = tr("Cannot print %1: %2").arg(path, message);
+    return false;
+}
+
+QByteArray ReportPDF::toPdf(QString* error)
+{
+    QString ignored;
+    QString& message = error ? *error : ignored;
+    message.clear();
     if (isAnyPrinting) {
-        message = tr("Cannot print %1 while another file is being printed.").arg(path);
-        return false;
+        message = tr("another file is being printed");
+        return QByteArray();
     }
     // The toolkit would end the program.
     if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
-        message = tr("Cannot print %1: the program has no fonts, because it is not a QGuiApplication.").arg(path);
-        return false;
+        message = tr("the program has no fonts, because it is not a QGuiApplication");
+        return QByteArray();
     }
     const QScopedValueRollback<bool> printing(isAnyPrinting, true);
     m_isCancelled = false;
-    Job job(*this, uiutils::onDisk(path));
-    const bool isPrinted = job.run();
-    message = job.error();
-    return isPrinted;
+    return Job(*this).run(&message);
 }
 
 void ReportPDF::cancel()

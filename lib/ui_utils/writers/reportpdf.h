@@ -3,14 +3,15 @@
 #include "core/uiutils_export.h"
 #include "writers/reportitem.h"
 
+#include <QByteArray>
 #include <QObject>
 #include <QString>
 #include <QVector>
 
-/// Prints report items into a PDF file: Letter pages with a title block on the first, a header line on the others and a
+/// Prints report items as a PDF file: Letter pages with a title block on the first, a header line on the others and a
 /// footer on all of them, an outline of headings and tables, and title, author, subject and producer.
 ///
-/// Set what the pages are to show, then call print(). It needs a QGuiApplication.
+/// Set what the pages are to show, then call toPdf() or print(). They need a QGuiApplication.
 class UIUTILS_EXPORT ReportPDF : public QObject
 {
     Q_OBJECT
@@ -50,19 +51,21 @@ public:
     void setTimestamp(const QString& text) { m_timestamp = text; }
     void setFields(const QVector<Field>& fields) { m_fields = fields; }
 
-    /// Prints to `path`, an instrument path in a folder that exists: into a file beside it, which takes its place when it
-    /// is whole and on the disk.
-    ///
-    /// Returns false, with `path` untouched and nothing left beside it, when a step failed, and then says in `error`
-    /// which and why; or when it was cancelled, and then `error` is empty. It does not return to the event loop. While
-    /// it runs, no other of the program prints: items have one layout at a time.
+    /// Prints into memory and returns the whole file. Nothing when it was cancelled, and then `error` is empty, or when a
+    /// step failed, which `error` names. It does not return to the event loop. While it runs, no other of the program
+    /// prints: items have one layout at a time.
+    QByteArray toPdf(QString* error = nullptr);
+
+    /// Prints to `path`, an instrument path in a folder that exists; the file takes its place when it is whole and on the
+    /// disk. Returns false, with `path` untouched and nothing left beside it, when toPdf() returns nothing and when it cannot be
+    /// written.
     bool print(const QString& path, QString* error = nullptr);
 
-    /// Whether any print() of the program is running, and calls what is connected to progressChanged().
+    /// Whether any of the program is printing, and calls what is connected to progressChanged().
     static bool isPrinting();
 
 public Q_SLOTS:
-    /// Ends a print() that is running, before its next page. To be called by what is connected to progressChanged().
+    /// Ends what is being printed, before its next page. To be called by what is connected to progressChanged().
     void cancel();
 
 Q_SIGNALS:

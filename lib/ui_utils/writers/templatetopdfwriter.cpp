@@ -13,16 +13,27 @@ TemplateToPdfWriter::TemplateToPdfWriter(const ReportTemplate& document, QList<R
 
 TemplateToPdfWriter::~TemplateToPdfWriter() = default;
 
+QByteArray TemplateToPdfWriter::toPdf(QString* error)
+{
+    layOut();
+    return m_pages.toPdf(error);
+}
+
 bool TemplateToPdfWriter::write(const QString& path, QString* error)
+{
+    layOut();
+    return m_pages.print(path, error);
+}
+
+void TemplateToPdfWriter::layOut()
 {
     // The items of the last pass may be the ones that are being printed.
     if (ReportPDF::isPrinting())
-        return m_pages.print(path, error);
+        return;
     qDeleteAll(*m_items);
     m_items->clear();
     m_html.collectItems();
     setUpPages();
-    return m_pages.print(path, error);
 }
 
 void TemplateToPdfWriter::setUpPages()

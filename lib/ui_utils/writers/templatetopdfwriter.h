@@ -25,13 +25,16 @@ public:
     /// technician's name; "subject", in place of the document's; "producer".
     void setAttribute(const QString& name, const QVariant& value) { m_html.setAttribute(name, value); }
 
-    /// Tells how far write() is, and cancels it.
+    /// Tells how far toPdf() and write() are, and cancels them.
     ReportPDF& pages() { return m_pages; }
 
+    /// The file's bytes; see ReportPDF::toPdf() for when there are none.
+    QByteArray toPdf(QString* error = nullptr);
     /// Prints the file; see ReportPDF::print() for what it returns.
     bool write(const QString& path, QString* error = nullptr);
 
 private:
+    void layOut();
     void setUpPages();
 
     TemplateToHtmlWriter m_html;

@@ -1,0 +1,50 @@
+#include "core/folderlock_p.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QtDebug>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace uiutils {
+
+namespace {
+
+constexpr useconds_t pause = 500;
+
+} // namespace
+
+FolderLock::FolderLock(const QString& folder, int patience)
+{
+    do {
+        m_fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    } while (m_fd < 0 && errno == EINTR);
+    if (m_fd < 0 || !wait(patience))
+        m_error = qt_error_string(errno);
+}
+
+FolderLock::~FolderLock()
+{
+    if (m_fd >= 0)
+        ::close(m_fd);
+}
+
+/// Asks again and again, because a lock that is waited for in the system cannot be given up in time.
+bool FolderLock::wait(int patience) const
+{
+    QElapsedTimer waited;
+    waited.start();
+    while (::flock(m_fd, LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EINTR)
+            continue;
+        if (errno != EWOULDBLOCK || waited.hasExpired(patience))
+            return false;
+        ::usleep(pause);
+    }
+    return true;
+}
+
+} // namespace uiutils

@@ -1,0 +1,132 @@
+// The part of Report that hands on what is saved: to the stick, the cloud, the file browser, the job, the viewer.
+
+#include "report/report.h"
+
+#include "core/paths.h"
+#include "report/jobreport_p.h"
+#include "report/nosynclist_p.h"
+#include "report/reportdestinations_p.h"
+#include "report/reportfilewriter_p.h"
+#include "report/reportrecord_p.h"
+#include "report/reportstate_p.h"
+#include "service/instrumentinfo_p.h"
+
+#include <kiv/filesystemusage.h>
+
+#include <QPointer>
+#include <QProcess>
+
+using uiutils::onDisk;
+
+// --- The stick ---
+
+void Report::saveToUsb(const QString& name, const QString& suffix)
+{
+    copyToUsb(name, suffix);
+}
+
+bool Report::copyToUsb(const QString& name, const QString& suffix)
+{
+    const QString saved = getSaveFilePath(name, suffix) + (m_isCompressionEnabled ? GZIP_EXTENSION : QString());
+    const QString copy = uiutils::usbPath(saved);
+    QString error;
+    if (uiutils::copyReportFile(saved, copy, &error))
+        return true;
+    m_state->tellWriteError(copy, error);
+    return false;
+}
+
+double Report::percentageFileSystemUsed(const QString& path)
+{
+    return FileSystemUsage::percentageUsed(onDisk(path));
+}
+
+// --- The cloud ---
+
+void Report::addReportToNoSyncList(const QString& filePath)
+{
+    QString error;
+    if (!uiutils::addToNoSyncList(filePath, &error))
+        tellSyncError(tr("The cloud may take %1, although it is not to be synced.").arg(m_state->shown(filePath)), error);
+}
+
+void Report::removeReportFromNoSyncList(const QString& filePath)
+{
+    QString error;
+    if (!uiutils::removeFromNoSyncList(filePath, &error))
+        tellSyncError(tr("The cloud does not take %1, although it is to be synced.").arg(m_state->shown(filePath)), error);
+}
+
+void Report::writeNoSyncListToFile(const QStringList& noSync_fileList)
+{
+    QString error;
+    if (!uiutils::replaceNoSyncList(noSync_fileList, &error))
+        tellSyncError(tr("The list of reports that are not synced was not changed."), error);
+}
+
+void Report::tellSyncError(const QString& consequence, const QString& reason)
+{
+    qWarning("%s", qUtf8Printable(reason));
+    m_state->tell(tr("Sync"), consequence + QLatin1Char(' ') + reason);
+}
+
+// --- The file browser ---
+
+void Report::writeMetadata(const QString& path, const QString& format)
+{
+    uiutils::describeReport(&m_state->metadata, path, format, QDateTime::currentDateTime());
+    addWorkOrderMetaDataInfo();
+    if (uiutils::isJobActive() && ensureValidJobData())
+        updateJobTestMetadata();
+    m_state->metadata.saveMetadataToFile();
+}
+
+ReportMetadata& Report::metadata()
+{
+    return m_state->metadata;
+}
+
+void Report::addWorkOrderMetaDataInfo()
+{
+    uiutils::instrument::addWorkOrder(&m_state->metadata);
+}
+
+bool Report::ensureValidJobData()
+{
+    return uiutils::hasJobId();
+}
+
+void Report::updateJobTestMetadata()
+{
+    uiutils::addJobTest(&m_state->metadata, getCdmTestType(), getCdmTestLabel());
+}
+
+// --- The job ---
+
+bool Report::writeToJobManager()
+{
+    QString reason;
+    const QPointer<Report> self(this);
+    bool isAttached = false;
+    if (uiutils::isJobActive() && !ensureValidJobData())
+        reason = tr("The data of the job is not complete: it has no ID");
+    else
+        isAttached = uiutils::attachToJob(generateJobManagerReport().toUtf8(), m_jobSchema, &reason);
+    if (self && !isAttached)
+        m_state->tell(tr("Job Manager"), reason);
+    return isAttached;
+}
+
+// --- The viewer ---
+
+void Report::showPDF(const QString& path)
+{
+    const QString shown = path.isEmpty() ? m_lastPdf : path;
+    const QString windowTitle = path.isEmpty() ? getTitle() : tr("View Report");
+    if (!shown.endsWith(PDF_EXTENSION) && !shown.endsWith(PDF_EXTENSION + GZIP_EXTENSION))
+        return;
+    m_lastPdf = shown;
+    QStringList arguments = QStringLiteral("-plugin EvdevTouch:/dev/input/event1 --dpy 85 -s").split(QLatin1Char(' '));
+    arguments << onDisk(shown) << QStringLiteral("-t") << windowTitle;
+    QProcess::startDetached(onDisk(uiutils::paths::pdfViewer), arguments, onDisk(uiutils::paths::pdfViewerFolder));
+}

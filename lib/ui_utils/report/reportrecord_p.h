@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+class ReportMetadata;
+
+/// What the metadata record of a saved report says.
+namespace uiutils {
+
+/// Empties the record and makes it that of the report at the instrument path: a result in this format, made at `time`.
+void describeReport(ReportMetadata* record, const QString& path, const QString& format, const QDateTime& time);
+
+/// Adds what the job manager says of the active job, under "jobId", and the kind of test, under "testType" and "testLabel";
+/// what is empty is left out.
+void addJobTest(ReportMetadata* record, const QString& testType, const QString& testLabel);
+
+} // namespace uiutils

@@ -1,0 +1,190 @@
+// The part of Report that writes one file: the question before, the file, the notice behind.
+
+#include "report/report.h"
+
+#include "core/paths.h"
+#include "report/gzip_p.h"
+#include "report/reportdestinations_p.h"
+#include "report/reportfilewriter_p.h"
+#include "report/reportformats_p.h"
+#include "report/reportstate_p.h"
+#include "report/savednotice_p.h"
+
+#include <kiv/kivnotificationmodelmanager.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QPointer>
+
+using uiutils::changes;
+using uiutils::onDisk;
+
+bool Report::writeTxtReport(const QString& path, bool overwrite)
+{
+    return writeTextReport(path, generateTxtReport(), TXT_EXTENSION, overwrite);
+}
+
+bool Report::writeJsonReport(const QString& path, bool overwrite)
+{
+    const QString text = generateJsonReport();
+    return writeTextReport(path, text.isNull() ? QStringLiteral("{ }") : text, JSON_EXTENSION, overwrite);
+}
+
+bool Report::writeHtmlReport(const QString& path, bool overwrite)
+{
+    return writeTextReport(path, generateHtmlReport(), HTML_EXTENSION, overwrite);
+}
+
+bool Report::writeXmlReport(const QString& path, bool overwrite)
+{
+    return writeTextReport(path, generateXmlReport(), XML_EXTENSION, overwrite);
+}
+
+bool Report::writePDFReport(const QString& path, bool overwrite)
+{
+    if (!mayWrite({path}, overwrite))
+        return false;
+    const QPointer<Report> self(this);
+    const QByteArray pages = generatePDFReport();
+    if (!self)
+        return false;
+    if (!pages.isEmpty())
+        return writeContents(path, pages);
+    if (!m_state->progress.isCancelled())
+        m_state->tellWriteError(path, QStringLiteral("there are no pages"));
+    return false;
+}
+
+bool Report::writeTextReport(const QString& path, const QString& text, const QString&, bool overwrite)
+{
+    return mayWrite({path}, overwrite) && writeContents(path, text.toUtf8());
+}
+
+bool Report::writeContents(const QString& path, const QByteArray& contents)
+{
+    const uiutils::WrittenFile file = uiutils::writeReportFile(path, contents, m_isCompressionEnabled);
+    if (!file.ok) {
+        m_state->tellWriteError(path, file.error);
+        return false;
+    }
+    // The user has let go of a report of the name before it came to this.
+    if (m_isCompressionEnabled)
+        QFile::remove(onDisk(path));
+    if (path.endsWith(PDF_EXTENSION))
+        m_lastPdf = file.path;
+    // Slots and hooks may delete the controller. The file is there all the same.
+    const QPointer<Report> self(this);
+    const bool notifiesTray = m_notifiesTray;
+    if (path.endsWith(XML_EXTENSION) && changes(m_lastSavedXml, file.path))
+        Q_EMIT lastSavedXMLChanged();
+    if (self)
+        reportWritten(file.path);
+    if (self)
+        emitEach({&Report::reportFilesChanged, &Report::saveLocationChanged});
+    if (self ? m_notifiesTray : notifiesTray)
+        uiutils::postSavedNotice(file.path);
+    return true;
+}
+
+bool Report::compressFile(const QString& path)
+{
+    return uiutils::compressFile(path);
+}
+
+bool Report::uncompressFile(const QString& path)
+{
+    return uiutils::uncompressFile(path);
+}
+
+// --- The question ---
+
+bool Report::mayWrite(const QStringList& paths, bool overwrite)
+{
+    const QString taken = overwrite ? QString() : uiutils::OverwriteGate::firstTaken(paths, m_isCompressionEnabled);
+    if (taken.isEmpty())
+        return true;
+    const auto* manager = KIVNotificationModelManager::instance();
+    connect(manager, &KIVNotificationModelManager::notificationAccepted, this, &Report::overwriteAccepted,
+            Qt::UniqueConnection);
+    connect(manager, &KIVNotificationModelManager::notificationRejected, this, &Report::overwriteRejected,
+            Qt::UniqueConnection);
+    const QPointer<Report> self(this);
+    m_state->askedDestinations = m_state->fixedDestinations;
+    m_state->gate.ask(taken);
+    if (self)
+        overwriteAsked(taken);
+    return false;
+}
+
+void Report::overwriteAccepted(KIVNotification* notification)
+{
+    if (m_state->gate.takeAnswered(notification).isEmpty())
+        return;
+    m_state->agreedDestinations = m_state->askedDestinations;
+    Q_EMIT reportOverwriteAccepted();
+}
+
+void Report::overwriteRejected(KIVNotification* notification)
+{
+    const QString path = m_state->gate.takeAnswered(notification);
+    if (!path.isEmpty())
+        overwriteDeclined(path);
+}
+
+bool Report::checkForOverwrite(const QString& name, const QString& suffix, bool overwrite)
+{
+    const uiutils::ReportFormats formats = uiutils::formatsToWrite(getFormat(), m_settings.value(uiutils::formatSetting));
+    QStringList suffixes(suffix);
+    if (suffix.isEmpty()) {
+        suffixes.clear();
+        for (const uiutils::ReportFormat* format : formats)
+            suffixes += format->suffix;
+    }
+    const bool hasCopies = m_state->destinations().copiesToUsb() && uiutils::isDriveThere(uiutils::paths::usb);
+    QStringList paths;
+    for (const QString& one : qAsConst(suffixes)) {
+        paths += getSaveFilePath(name, one);
+        if (hasCopies)
+            paths += uiutils::usbPath(paths.constLast());
+    }
+    return mayWrite(paths, overwrite);
+}
+
+// --- Progress ---
+
+bool Report::isSaving() const
+{
+    return m_state->progress.isRunning();
+}
+
+double Report::getProgress() const
+{
+    return m_state->progress.value();
+}
+
+void Report::cancel()
+{
+    m_state->progress.cancel();
+}
+
+void Report::setInteractive(bool interactive)
+{
+    if (changes(m_isInteractive, interactive))
+        Q_EMIT interactiveChanged();
+}
+
+bool Report::goesOn(double share)
+{
+    return tellProgress(m_state->progress.advance(share));
+}
+
+/// False when the save is cancelled, and when a slot has deleted the controller.
+bool Report::tellProgress(bool hasChanged)
+{
+    const QPointer<Report> self(this);
+    if (hasChanged)
+        Q_EMIT progressChanged();
+    if (self && m_isInteractive && m_isSaving && m_state->progress.isPageDue())
+        QCoreApplication::processEvents();
+    return self && !m_state->progress.isCancelled();
+}

@@ -1,0 +1,127 @@
+#include "report/nosynclist_p.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr int processes = 4;
+constexpr int edits = 1000;
+/// Each report is a line, and so is its record.
+constexpr int linesPerReport = 2;
+constexpr int keptReports = edits / 5;
+
+const QString listPath("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt");
+
+QString reportOf(int process, int number)
+{
+    return QString("/cust/public/reports/otdr/process %1 report %2.pdf").arg(process).arg(number);
+}
+
+/// One process's edits: of five, three add a report and two take one away again.
+int runEditor(int process)
+{
+    QString error;
+    int added = 0;
+    int removed = 0;
+    for (int i = 0; i < edits; ++i) {
+        const bool isAdding = i % 5 < 3;
+        const bool isDone = isAdding ? uiutils::addToNoSyncList(reportOf(process, added++), &error)
+                                     : uiutils::removeFromNoSyncList(reportOf(process, removed++), &error);
+        if (!isDone) {
+            std::fprintf(stderr, "edit %d of process %d: %s\n", i, process, qPrintable(error));
+            return 1;
+        }
+    }
+    return 0;
+}
+
+QByteArray contentsOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Whole lines, and none of them twice.
+bool isWhole(const QByteArray& text)
+{
+    if (!text.isEmpty() && !text.endsWith('\n'))
+        return false;
+    const QByteArrayList lines = text.split('\n');
+    QSet<QByteArray> known;
+    for (int i = 0; i + 1 < lines.size(); ++i) {
+        const QByteArray& line = lines.at(i);
+        if (!line.startsWith("/cust/public/reports/otdr/process ") || !(line.endsWith(".pdf") || line.endsWith(".json"))
+                || known.contains(line))
+            return false;
+        known.insert(line);
+    }
+    return true;
+}
+
+} // namespace
+
+class NoSyncListTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void severalProcessesLoseNothing()
+    {
+        // A memory file system, because a disk that syncs every edit says no more.
+        const bool hasMemory = QFileInfo("/dev/shm").isWritable();
+        const QTemporaryDir root(hasMemory ? "/dev/shm/uiutils-test-XXXXXX" : QDir::tempPath() + "/uiutils-test-XXXXXX");
+        QVERIFY(root.isValid());
+        qputenv("UIUTILS_ROOT", QFile::encodeName(root.path()));
+        std::vector<std::unique_ptr<QProcess>> editors;
+        for (int i = 0; i < processes; ++i) {
+            editors.push_back(std::make_unique<QProcess>());
+            editors.back()->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+            editors.back()->start(QCoreApplication::applicationFilePath(), {"--edit", QString::number(i)});
+        }
+        const auto isAnyRunning = [&] {
+            return std::any_of(editors.cbegin(), editors.cend(),
+                    [](const auto& editor) { return editor->state() != QProcess::NotRunning; });
+        };
+        int looks = 0;
+        while (isAnyRunning()) {
+            QVERIFY(isWhole(contentsOf(root.path() + listPath)));
+            ++looks;
+            QTest::qWait(1);
+        }
+        QVERIFY(looks > 10);
+        for (const auto& editor : editors)
+            QCOMPARE(editor->exitCode(), 0);
+        const QByteArray text = contentsOf(root.path() + listPath);
+        QVERIFY(isWhole(text));
+        QCOMPARE(text.count('\n'), processes * keptReports * linesPerReport);
+        for (int process = 0; process < processes; ++process) {
+            for (int number = edits * 2 / 5; number < edits * 3 / 5; ++number)
+                QVERIFY(text.contains(reportOf(process, number).toUtf8() + '\n'));
+        }
+        const QStringList left = QDir(QFileInfo(root.path() + listPath).path())
+                                         .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        QCOMPARE(left, QStringList("nosync_fileList.txt"));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    if (argc == 3 && QByteArray(argv[1]) == "--edit")
+        return runEditor(QByteArray(argv[2]).toInt());
+    NoSyncListTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_nosynclist.moc"
