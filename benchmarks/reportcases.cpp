@@ -1,10 +1,14 @@
 #include "writercase.h"
 
 #include "core/durablefile.h"
+#include "core/paths.h"
 #include "document/reporttemplate.h"
-#include "report/reportfilewriter_p.h"
+#include "report/nsreport.h"
+#include "report/report.h"
 #include "report/reportlisting_p.h"
 #include "writers/textreport.h"
+
+#include <kiv/kivnotificationmodelmanager.h>
 
 #include <QDateTime>
 #include <QDir>
@@ -19,7 +23,8 @@ namespace bench {
 
 namespace {
 
-constexpr int rows = 10'000;
+constexpr int savedRows = 1000;
+const char* const suffixes[] {"pdf", "xml", "html", "txt", "json"};
 constexpr int files = 5'000;
 
 [[noreturn]] void giveUp(const char* text)
@@ -28,21 +33,86 @@ constexpr int files = 5'000;
     std::exit(1);
 }
 
-Result savingCase(const QString& format, const std::function<QString()>& generate, int runs)
+/// A page's controller over a document of a thousand rows.
+class BenchReport : public Report
 {
-    const QTemporaryDir folder;
-    const Timing timing = interleaved(
-            runs,
-            [&] {
-                if (!uiutils::writeReportFile(folder.filePath(QStringLiteral("ours")), generate().toUtf8(), false).ok)
-                    giveUp("the report cannot be saved");
-            },
-            [&] {
-                if (!uiutils::writeFileDurably(folder.filePath(QStringLiteral("floor")), generate().toUtf8()))
-                    giveUp("the text cannot be written");
-            });
-    const QString name = QStringLiteral("saving a report of %L1 rows as %2 / making and writing the text alone");
-    return {name.arg(rows).arg(format), QStringLiteral("ms CPU"), timing.ours, timing.floor, 1.3};
+public:
+    BenchReport()
+    {
+        for (int format = 0; format <= NSReport::REPORT_FORMAT_ALL; ++format)
+            setFormatApplicable(format, true);
+        setFolder(QStringLiteral("bench"));
+        getSetting(QStringLiteral("reportName"))->setValue(QStringLiteral("report"));
+        buildReport(document(), savedRows, 0);
+    }
+
+    void choose(int format) { getSetting(QStringLiteral("reportFormat"))->setValue(format); }
+    QString generateTxtReport() override { return uiutils::reportText(document()); }
+    QString generateJsonReport() override { return uiutils::reportJson(document()); }
+
+    /// What a save in the format writes into the report's file.
+    QByteArray contents(int format)
+    {
+        switch (format) {
+        case NSReport::REPORT_FORMAT_PDF: return generatePDFReport();
+        case NSReport::REPORT_FORMAT_XML: return generateXmlReport().toUtf8();
+        case NSReport::REPORT_FORMAT_HTML: return generateHtmlReport().toUtf8();
+        case NSReport::REPORT_FORMAT_TEXT: return generateTxtReport().toUtf8();
+        default: return generateJsonReport().toUtf8();
+        }
+    }
+};
+
+QByteArray bytesOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeForFloor(const QString& path, const QByteArray& contents)
+{
+    if (!uiutils::writeFileDurably(path, contents))
+        giveUp("a file of the floor cannot be written");
+}
+
+/// The floor makes the same contents and writes the same files, the settings, records and list beside the reports among
+/// them.
+QVector<Result> savingCases(int runs)
+{
+    const QTemporaryDir root;
+    const QByteArray rootBefore = qgetenv("UIUTILS_ROOT");
+    qputenv("UIUTILS_ROOT", QFile::encodeName(root.path()));
+    installIcons(root.path());
+    const char* const names[] {"PDF", "XML", "HTML", "text", "JSON", "all formats"};
+    QVector<Result> results;
+    for (int format = 0; format <= NSReport::REPORT_FORMAT_ALL; ++format) {
+        BenchReport report;
+        report.choose(format);
+        const bool isAll = format == NSReport::REPORT_FORMAT_ALL;
+        const int first = isAll ? 0 : format;
+        const int last = isAll ? NSReport::REPORT_FORMAT_JSON : format;
+        const auto save = [&] {
+            if (!report.save(true))
+                giveUp("the report cannot be saved");
+        };
+        save();
+        const QString recordName = QStringLiteral("report.%1.metadata").arg(QLatin1String(suffixes[first]));
+        const QByteArray record = bytesOf(uiutils::onDisk(QStringLiteral("/cust/private/reports/metadata/bench/") + recordName));
+        const QTemporaryDir floorFolder(root.filePath(QStringLiteral("floor-XXXXXX")));
+        const Timing timing = interleaved(runs, save, [&] {
+            for (int one = first; one <= last; ++one) {
+                const QString name = floorFolder.filePath(QString::number(one));
+                writeForFloor(name, report.contents(one));
+                writeForFloor(name + QStringLiteral(".metadata"), record);
+            }
+        });
+        const QString name = QStringLiteral("save() of %L1 rows, %2 / making and writing the same contents");
+        results += Result {name.arg(savedRows).arg(QLatin1String(names[format])), QStringLiteral("ms CPU"), timing.ours,
+                timing.floor, 1.3};
+    }
+    qputenv("UIUTILS_ROOT", rootBefore);
+    KIVNotificationModelManager::instance()->clear();
+    return results;
 }
 
 void makeReports(const QString& folder)
@@ -87,10 +157,9 @@ Result listingCase(int runs)
 
 QVector<Result> reportCases(int runs)
 {
-    ReportTemplate report;
-    buildReport(report, rows, 0);
-    return {savingCase(QStringLiteral("text"), [&] { return uiutils::reportText(report); }, runs),
-            savingCase(QStringLiteral("JSON"), [&] { return uiutils::reportJson(report); }, runs), listingCase(runs)};
+    QVector<Result> results = savingCases(runs);
+    results += listingCase(runs);
+    return results;
 }
 
 } // namespace bench

@@ -837,6 +837,8 @@ private Q_SLOTS:
         QVERIFY(report.save());
         QVERIFY2(progress.size() > 4, qPrintable(QString::number(progress.size())));
         QVERIFY(std::is_sorted(progress.cbegin(), progress.cend()));
+        report.cancel();
+        QVERIFY(!report.generatePDFReport().isEmpty());
         QCOMPARE(progress.constLast(), 1.0);
         connect(&report, &Report::progressChanged, &report, &Report::cancel);
         const QByteArray before = contentsOf(onDisk("/cust/public/reports/a.pdf"));

@@ -53,7 +53,8 @@ void OverwriteGate::withdraw()
         return;
     m_token.clear();
     m_pendingPath.clear();
-    m_question = std::make_unique<FileUtils>();
+    // Those who hear that the dialog has gone may delete whoever holds the gate.
+    const auto former = std::exchange(m_question, std::make_unique<FileUtils>());
 }
 
 } // namespace uiutils

@@ -79,7 +79,8 @@ QByteArray Report::generateDefaultPDFReport()
     TemplateToPdfWriter writer(m_document, &m_reportItems);
     handOnSwitches(writer);
     writer.setAttribute(QStringLiteral("subject"), getSubject());
-    if (!m_isSaving)
+    const bool isAlone = !m_state->progress.isRunning();
+    if (isAlone)
         m_state->progress.begin(1);
     // The controller may be gone when the next page asks.
     ReportPDF& pages = writer.pages();
@@ -90,6 +91,8 @@ QByteArray Report::generateDefaultPDFReport()
     });
     QString error;
     const QByteArray file = writer.toPdf(&error);
+    if (self && isAlone)
+        m_state->progress.end();
     if (!error.isEmpty())
         qDebug("The pages of the report could not be made: %s", qUtf8Printable(error));
     return file;

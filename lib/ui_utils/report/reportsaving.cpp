@@ -39,6 +39,7 @@ private:
     bool hasRoom();
     bool mayWrite();
     bool write();
+    bool writeAndRecord();
     bool writeFormats();
     bool writeFormat(const uiutils::ReportFormat& format);
     void recordSync();
@@ -47,12 +48,12 @@ private:
     bool fail();
 
     void occupy(bool isOccupied);
-    uiutils::ReportFormats formats() const;
 
     QPointer<Report> m_report;
     bool m_overwrite;
     bool m_isSynced = false;
     QString m_name;
+    uiutils::ReportFormats m_formats;
     QStringList m_written;
 };
 
@@ -60,8 +61,6 @@ Report::Save::Save(Report& report, bool overwrite)
     : m_report(&report)
     , m_overwrite(overwrite)
 {
-    report.m_state->gate.withdraw();
-    report.m_state->beginSave();
 }
 
 Report::Save::~Save()
@@ -74,6 +73,10 @@ Report::Save::~Save()
 
 bool Report::Save::run()
 {
+    m_report->m_state->gate.withdraw();
+    if (!m_report)
+        return false;
+    m_report->m_state->beginSave();
     occupy(true);
     const bool isReady = getReady();
     // The user may answer at once, and have another save begin within this one.
@@ -83,7 +86,7 @@ bool Report::Save::run()
     if (!mayWrite())
         return false;
     occupy(true);
-    const bool isWritten = write() && copyToUsb();
+    const bool isWritten = write();
     occupy(false);
     return isWritten ? announce() : fail();
 }
@@ -101,20 +104,15 @@ void Report::Save::occupy(bool isOccupied)
         m_report->m_isSaving = isOccupied;
 }
 
-uiutils::ReportFormats Report::Save::formats() const
-{
-    return uiutils::formatsToWrite(m_report->getFormat(), m_report->m_settings.value(uiutils::formatSetting));
-}
-
 /// A name that is none of a file is refused before a folder is made for it.
 bool Report::Save::takeName()
 {
     m_name = m_report->chosenName();
-    const auto wanted = formats();
-    const auto refused = std::find_if_not(wanted.cbegin(), wanted.cend(), [&](const uiutils::ReportFormat* format) {
+    m_formats = uiutils::formatsToWrite(m_report->getFormat(), m_report->m_settings.value(uiutils::formatSetting));
+    const auto refused = std::find_if_not(m_formats.cbegin(), m_formats.cend(), [&](const uiutils::ReportFormat* format) {
         return uiutils::isFileName(m_name, format->suffix, m_report->isCompressionEnabled());
     });
-    if (refused != wanted.cend()) {
+    if (refused != m_formats.cend()) {
         const QString path = m_report->getReportFilePath() + m_name + (*refused)->suffix;
         m_report->m_state->tellWriteError(path, QStringLiteral("it is no name of a file, or too long"));
         return false;
@@ -169,29 +167,37 @@ bool Report::Save::mayWrite()
     return m_report->checkForOverwrite(m_name, m_report->getSuffixForReport(), m_overwrite);
 }
 
-/// What a user keeps from the cloud stays from it also when another format could not be written.
 bool Report::Save::write()
 {
     uiutils::SaveProgress& progress = m_report->m_state->progress;
-    progress.begin(formats().size());
+    const bool hasOldProgress = progress.value() > 0;
+    progress.begin(m_formats.size());
     Q_EMIT m_report->savingChanged();
-    const bool isComplete = m_report && writeFormats();
-    if (m_report)
-        recordSync();
+    if (m_report && hasOldProgress)
+        Q_EMIT m_report->progressChanged();
+    const bool isWritten = m_report && writeAndRecord() && copyToUsb();
     if (!m_report)
         return false;
     progress.end();
     Q_EMIT m_report->savingChanged();
+    return m_report && isWritten;
+}
+
+/// What a user keeps from the cloud stays from it also when another format could not be written.
+bool Report::Save::writeAndRecord()
+{
+    const bool isComplete = writeFormats();
+    if (m_report)
+        recordSync();
     return m_report && isComplete;
 }
 
 bool Report::Save::writeFormats()
 {
     m_report->prepareDocument();
-    const auto wanted = m_report ? formats() : uiutils::ReportFormats();
-    bool isComplete = !wanted.isEmpty();
-    for (const uiutils::ReportFormat* format : wanted) {
-        isComplete = writeFormat(*format) && isComplete;
+    bool isComplete = m_report && !m_formats.isEmpty();
+    for (const uiutils::ReportFormat* format : qAsConst(m_formats)) {
+        isComplete = m_report && writeFormat(*format) && isComplete;
         if (!m_report || !m_report->tellProgress(m_report->m_state->progress.finishFormat()))
             return false;
     }
@@ -224,8 +230,7 @@ bool Report::Save::copyToUsb()
     if (!m_report->m_state->destinations().copiesToUsb())
         return true;
     bool isComplete = true;
-    const auto wanted = formats();
-    for (const uiutils::ReportFormat* format : wanted)
+    for (const uiutils::ReportFormat* format : qAsConst(m_formats))
         isComplete = m_report && m_report->copyToUsb(m_name, format->suffix) && isComplete;
     return isComplete;
 }

@@ -40,6 +40,13 @@ std::optional<QByteArray> contentsOf(const QString& path)
     return std::nullopt;
 }
 
+bool holds(const QString& place, const QByteArray& text)
+{
+    const QFileInfo info(place);
+    QFile file(place);
+    return info.isFile() && info.size() == text.size() && file.open(QIODevice::ReadOnly) && file.readAll() == text;
+}
+
 bool isChoice(const UiData& item, const QVariant& value)
 {
     const UiDataEnums* choices = item.getUiEnumList();
@@ -118,8 +125,12 @@ void saveReportSettings(const QString& path, const ReportSettings& items)
     for (auto it = items.cbegin(); it != items.cend(); ++it)
         values.insert(it.key(), (*it)->getValue());
     const QString place = onDisk(path);
+    const QByteArray text = QJsonDocument(QJsonObject::fromVariantMap(values)).toJson();
+    // Most saves change nothing, and the disk takes longer to keep a file than to read it.
+    if (holds(place, text))
+        return;
     QDir().mkpath(QFileInfo(place).path());
-    if (!writeFileDurably(place, QJsonDocument(QJsonObject::fromVariantMap(values)).toJson()))
+    if (!writeFileDurably(place, text))
         qWarning("Could not open %s for writing", qUtf8Printable(path));
 }
 

@@ -45,9 +45,14 @@ bool Report::writePDFReport(const QString& path, bool overwrite)
     if (!mayWrite({path}, overwrite))
         return false;
     const QPointer<Report> self(this);
+    const bool isAlone = !m_state->progress.isRunning();
+    if (isAlone)
+        m_state->progress.begin(1);
     const QByteArray pages = generatePDFReport();
     if (!self)
         return false;
+    if (isAlone)
+        m_state->progress.end();
     if (!pages.isEmpty())
         return writeContents(path, pages);
     if (!m_state->progress.isCancelled())
@@ -154,7 +159,7 @@ bool Report::checkForOverwrite(const QString& name, const QString& suffix, bool 
 
 bool Report::isSaving() const
 {
-    return m_state->progress.isRunning();
+    return m_isSaving && m_state->progress.isRunning();
 }
 
 double Report::getProgress() const

@@ -31,7 +31,7 @@ bool SaveProgress::finishFormat()
 
 void SaveProgress::end()
 {
-    *this = SaveProgress();
+    m_sinceLastTurn.invalidate();
 }
 
 /// Never back: a renderer says 0 of its pages as long as it does not know their number.

@@ -9,17 +9,20 @@ namespace uiutils {
 class SaveProgress
 {
 public:
+    /// From nothing, and not cancelled.
     void begin(int formats);
     /// The share of the format that is being written, 0 to 1. True when that is worth telling.
     bool advance(double share);
     /// The format is done with. True when that is worth telling.
     bool finishFormat();
+    /// How far it came, and whether it was cancelled, is still known.
     void end();
 
     bool isRunning() const { return m_sinceLastTurn.isValid(); }
     double value() const { return m_value; }
 
-    void cancel() { m_isCancelled = true; }
+    /// Without effect when nothing is running.
+    void cancel() { m_isCancelled = m_isCancelled || isRunning(); }
     bool isCancelled() const { return m_isCancelled; }
 
     /// Whether the page should get a turn: it has had none for as long as users notice.
