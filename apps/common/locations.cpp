@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 
 namespace uiutils::apps {
 
@@ -36,6 +37,16 @@ QStringList defaultServiceFolders()
         return fromEnvironment;
     return {besideProgramOrOfTree(
             QStringLiteral("../share/uiutils/services"), QStringLiteral(UIUTILS_SERVICES_OF_TREE))};
+}
+
+QString pdfViewerProgram()
+{
+    for (const QLatin1String place : {QLatin1String(UIUTILS_PDF_VIEWER_FROM_BIN), QLatin1String("pdf_viewer")}) {
+        const QFileInfo viewer(QCoreApplication::applicationDirPath() + QLatin1Char('/') + place);
+        if (viewer.isFile() && viewer.isExecutable())
+            return viewer.canonicalFilePath();
+    }
+    return QString();
 }
 
 QString qmlModuleFolder()

@@ -15,4 +15,7 @@ QStringList defaultServiceFolders();
 /// Where the library's QML modules lie: where they are installed beside the program, else in the tree's build.
 QString qmlModuleFolder();
 
+/// The viewer of PDF files, where it is installed or built beside the program; empty when it is not there.
+QString pdfViewerProgram();
+
 } // namespace uiutils::apps

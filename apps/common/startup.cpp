@@ -6,15 +6,7 @@
 
 #include <QCoreApplication>
 
-#include <cstdio>
-
 namespace uiutils::apps {
-
-int complain(const QString& text, int exitCode)
-{
-    std::fprintf(stderr, "%s: %s\n", qUtf8Printable(QCoreApplication::applicationName()), qUtf8Printable(text));
-    return exitCode;
-}
 
 bool loadServices(kiv::embedded::EmbeddedBackend& backend, const QStringList& folders, const QString& root)
 {

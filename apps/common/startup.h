@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/complaint.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -8,13 +10,6 @@ class EmbeddedBackend;
 }
 
 namespace uiutils::apps {
-
-constexpr int exitDone = 0;
-constexpr int exitFailed = 1;
-constexpr int exitMisused = 2;
-
-/// Says on standard error, behind the program's name, what went wrong. Returns the exit code.
-int complain(const QString& text, int exitCode = exitFailed);
 
 /// Publishes the services of the folders, with the settings that are kept below `root`, and complains of what could not be
 /// used. Returns false, having complained, when there is no service at all.

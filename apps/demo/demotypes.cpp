@@ -4,6 +4,7 @@
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
 #include "samplemodel.h"
+#include "usbstick.h"
 
 #include <QUrl>
 #include <QtQml>
@@ -16,6 +17,7 @@ void registerDemoTypes()
     qmlRegisterType<ItemEntry>(uri, 1, 0, "ItemEntry");
     qmlRegisterType<LoopbackMeasurement>(uri, 1, 0, "LoopbackMeasurement");
     qmlRegisterType<LoopbackReport>(uri, 1, 0, "LoopbackReport");
+    qmlRegisterType<UsbStick>(uri, 1, 0, "UsbStick");
     qmlRegisterUncreatableType<SampleModel>(
             uri, 1, 0, "SampleModel", QStringLiteral("A SampleModel comes from a LoopbackMeasurement"));
     qmlRegisterSingletonType(QUrl(QStringLiteral("qrc:/uiutils/demo/Theme.qml")), uri, 1, 0, "Theme");

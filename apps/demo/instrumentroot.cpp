@@ -30,6 +30,30 @@ bool installImage(const QString& name, const QString& folder, QString* error)
     return contentsOf(target) == image || writeFileDurably(target, image, error);
 }
 
+QString whatToDo()
+{
+    return QLatin1Char(' ') + tr("Check that you may write there, or name another folder with --root.");
+}
+
+/// A link of an earlier run may lead to a build that is gone.
+bool linkViewer(const QString& root, const QString& viewer, QString* error)
+{
+    if (viewer.isEmpty())
+        return true;
+    // The viewer is started in a folder that has to be there.
+    const QFileInfo there(root + paths::pdfViewer);
+    if (!makeFolder(there.path(), error) || !makeFolder(root + paths::pdfViewerFolder, error))
+        return false;
+    if (there.symLinkTarget() == viewer || (there.exists() && !there.isSymLink()))
+        return true;
+    const QString place = there.filePath();
+    QFile::remove(place);
+    if (QFile::link(viewer, place))
+        return true;
+    *error = tr("The link %1 to the viewer of PDF files cannot be made.").arg(place) + whatToDo();
+    return false;
+}
+
 } // namespace
 
 bool makeFolder(const QString& folder, QString* error)
@@ -52,7 +76,7 @@ bool makeFolder(const QString& folder, QString* error)
     return false;
 }
 
-bool prepareInstrumentRoot(const QString& root, QString* error)
+bool prepareInstrumentRoot(const QString& root, const QString& viewer, QString* error)
 {
     const QString images = root + paths::images;
     // Reports leave their plots in the instrument's /tmp.
@@ -61,12 +85,11 @@ bool prepareInstrumentRoot(const QString& root, QString* error)
     const QStringList names = QDir(QStringLiteral(":/uiutils/images")).entryList();
     for (const QString& name : names) {
         if (!installImage(name, images, error)) {
-            *error += QLatin1Char(' ')
-                    + tr("Check that you may write there, or name another folder with --root.");
+            *error += whatToDo();
             return false;
         }
     }
-    return true;
+    return linkViewer(root, viewer, error);
 }
 
 } // namespace uiutils::demo

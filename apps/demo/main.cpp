@@ -1,5 +1,6 @@
 #include "common/displaysetup.h"
 #include "common/instrument.h"
+#include "common/locations.h"
 #include "common/startup.h"
 #include "demooptions.h"
 #include "demotypes.h"
@@ -67,7 +68,7 @@ int runDemo(const DemoOptions& options)
     if (!uiutils::apps::loadServices(backend, options.serviceFolders, options.root))
         return exitFailed;
     QString error;
-    if (!prepareInstrumentRoot(options.root, &error))
+    if (!prepareInstrumentRoot(options.root, pdfViewerProgram(), &error))
         return complain(error);
     say(QCoreApplication::translate("main", "Everything is written below %1").arg(options.root));
 

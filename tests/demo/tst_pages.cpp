@@ -4,6 +4,7 @@
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
 #include "measurementsettings.h"
+#include "qmlwarnings.h"
 #include "service/kivdata.h"
 
 #include <embedded/embeddedbackend.h>
@@ -86,7 +87,7 @@ private Q_SLOTS:
     {
         endProgram();
         KIVNotificationModelManager::instance()->clear();
-        QCOMPARE(m_warnings, QStringList());
+        QCOMPARE(m_warnings.take(), QStringList());
     }
 
     /// Measure, cancel, measure, look, save: all with keys.
@@ -423,11 +424,8 @@ private:
                 KIVClientInterface::getSessionBusClient("loopback"), MeasurementSettings::KeepSampleCounts);
         m_instrument = std::make_unique<uiutils::apps::Instrument>(*m_services);
         m_engine = std::make_unique<QQmlApplicationEngine>();
-        connect(m_engine.get(), &QQmlEngine::warnings, this, [this](const QList<QQmlError>& warnings) {
-            for (const QQmlError& warning : warnings)
-                m_warnings += warning.toString();
-        });
-        m_warnings.clear();
+        m_warnings.take();
+        m_warnings.watch(m_engine.get());
         m_instrument->showTo(m_engine.get());
         m_engine->setInitialProperties({{"measurement", QVariant::fromValue(m_measurement.get())}});
         m_engine->load(QUrl("qrc:/uiutils/demo/Main.qml"));
@@ -457,12 +455,12 @@ private:
     /// The value that the service holds.
     QVariant served(const QString& id) const { return service(id)->item(id)->getValue(); }
 
-    /// The row of a setting.
+    /// The row of a setting on the settings page.
     QQuickItem* rowOf(const QString& id) const
     {
         return firstItem([&](const QQuickItem* item) {
             const auto* data = item->property("item").value<KivData*>();
-            return data && data->getId() == id;
+            return data && data->getId() == id && item->property("changed").isValid();
         });
     }
 
@@ -645,7 +643,7 @@ private:
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     QQuickWindow* m_window = nullptr;
     LoopbackReport* m_report = nullptr;
-    QStringList m_warnings;
+    QmlWarnings m_warnings;
 };
 
 QTEST_MAIN(PagesTest)

@@ -141,9 +141,29 @@ private Q_SLOTS:
         QVERIFY(damaged.open(QIODevice::WriteOnly));
         damaged.write("damaged");
         damaged.close();
+        const QString viewer = root + "/base/bin/pdf_viewer";
+        QFile::remove(viewer);
+        QVERIFY(QDir().mkpath(root + "/base/bin") && QFile::link("/nowhere/pdf_viewer", viewer));
 
         QCOMPARE(runDemo({"--tour", "--root", root}).exitCode, 0);
         QCOMPARE(contentsOf(icon), drawn);
+#ifdef UIUTILS_PDF_VIEWER
+        QCOMPARE(QFileInfo(viewer).canonicalFilePath(), QFileInfo(UIUTILS_PDF_VIEWER).canonicalFilePath());
+        QVERIFY(QFileInfo(root + "/base/qml/pdf_viewer").isDir());
+#endif
+    }
+
+    /// A viewer that somebody put there stays.
+    void aViewerOfItsOwn()
+    {
+        const QString viewer = m_folder->filePath("base/bin/pdf_viewer");
+        QVERIFY(QDir().mkpath(m_folder->filePath("base/bin")));
+        QFile own(viewer);
+        QVERIFY(own.open(QIODevice::WriteOnly) && own.write("own") == 3);
+        own.close();
+        QCOMPARE(runDemo({"--tour", "--root", m_folder->path()}).exitCode, 0);
+        QCOMPARE(contentsOf(viewer), QByteArray("own"));
+        QVERIFY(!QFileInfo(viewer).isSymLink());
     }
 
     void failures_data()

@@ -1,18 +1,21 @@
 #include "common/instrument.h"
 #include "core/durablefile.h"
+#include "core/itemids.h"
 #include "core/paths.h"
 #include "demotypes.h"
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
+#include "qmlwarnings.h"
 
 #include <embedded/embeddedbackend.h>
+#include <embedded/embeddedservice.h>
+#include <kiv/kivclientitem.h>
 
 #include <QDir>
 #include <QFile>
 #include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
-#include <QQmlError>
 #include <QTemporaryDir>
 #include <QtQuickTest>
 
@@ -30,7 +33,8 @@ class Driver : public QObject
     Q_PROPERTY(uiutils::demo::LoopbackMeasurement* measurement READ measurement CONSTANT)
 
 public:
-    Driver()
+    explicit Driver(kiv::embedded::EmbeddedBackend* backend)
+        : m_baseManager(backend->service("basemgr"))
     {
         m_measurement.setPause(0);
         m_measurement.setSamples(LoopbackMeasurement::fewestSamples);
@@ -40,14 +44,23 @@ public:
 
     LoopbackMeasurement* measurement() { return &m_measurement; }
 
-    /// An instrument without reports and settings.
+    /// An instrument without reports, settings and stick.
     Q_INVOKABLE void reset()
     {
         m_root = std::make_unique<QTemporaryDir>();
         qputenv("UIUTILS_ROOT", m_root->path().toLocal8Bit());
         QString error;
-        if (!prepareInstrumentRoot(m_root->path(), &error) || !makeFolder(folder(), &error))
+        if (!prepareInstrumentRoot(m_root->path(), QString(), &error) || !makeFolder(folder(), &error))
             qFatal("%s", qPrintable(error));
+        m_baseManager->setMounted(paths::usb, false);
+        m_baseManager->setValue(itemids::usbAttached, false);
+        m_baseManager->setValue(itemids::saveLocation, 0);
+    }
+    Q_INVOKABLE QVariant saveLocation() const { return m_baseManager->item(itemids::saveLocation)->getValue(); }
+    /// The files in a folder below the root.
+    Q_INVOKABLE QStringList filesIn(const QString& folder) const
+    {
+        return QDir(m_root->filePath(folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
 
     /// What lies in the report folder, hidden files too.
@@ -72,25 +85,17 @@ public:
     }
 
     /// What the engine has complained about since the last call.
-    Q_INVOKABLE QStringList takeWarnings()
-    {
-        QStringList taken;
-        taken.swap(m_warnings);
-        return taken;
-    }
-    void noteWarnings(const QList<QQmlError>& warnings)
-    {
-        for (const QQmlError& warning : warnings)
-            m_warnings.append(warning.toString());
-    }
+    Q_INVOKABLE QStringList takeWarnings() { return m_warnings.take(); }
+    void watch(QQmlEngine* engine) { m_warnings.watch(engine); }
 
 private:
     static QString folder() { return onDisk(paths::reports) + "loopback/"; }
 
+    kiv::embedded::EmbeddedService* const m_baseManager;
     std::unique_ptr<QTemporaryDir> m_root;
     LoopbackMeasurement m_measurement;
     rlimit m_freeDisk {};
-    QStringList m_warnings;
+    QmlWarnings m_warnings;
 };
 
 class Setup : public QObject
@@ -106,12 +111,12 @@ public Q_SLOTS:
         if (!problems.isEmpty())
             qFatal("%s", qPrintable(problems.join('\n')));
         registerDemoTypes();
-        m_driver = std::make_unique<Driver>();
+        m_driver = std::make_unique<Driver>(&m_backend);
         m_instrument = std::make_unique<uiutils::apps::Instrument>(m_backend);
     }
     void qmlEngineAvailable(QQmlEngine* engine)
     {
-        connect(engine, &QQmlEngine::warnings, this, [this](const auto& warnings) { m_driver->noteWarnings(warnings); });
+        m_driver->watch(engine);
         engine->rootContext()->setContextProperty("driver", m_driver.get());
         m_instrument->showTo(engine);
     }

@@ -1,127 +1,13 @@
 import QtQuick 2.15
-import QtTest 1.15
 import UiUtils 1.0
-import UiUtils.Controls 1.0
-import UiUtils.Demo 1.0
-import "qrc:/uiutils/demo"
 
 // The report page under a user's hands.
 Item {
-    id: root
-
     width: 1024
     height: 484
 
-    Component {
-        id: windowComponent
-        Item {
-            readonly property alias page: page
-            readonly property alias dialog: dialog
-
-            anchors.fill: parent
-
-            ReportPage {
-                id: page
-                anchors.fill: parent
-                measurement: driver.measurement
-            }
-            NotificationDialog { id: dialog; graceTime: 0 }
-        }
-    }
-
-    TestCase {
+    ReportPageCase {
         name: "ReportPage"
-        when: windowShown
-
-        property var window
-        readonly property var page: window ? window.page : null
-        readonly property var dialog: window ? window.dialog : null
-
-        function initTestCase() {
-            driver.reset()
-            driver.measurement.start()
-            tryCompare(driver.measurement, "state", LoopbackMeasurement.Finished, 60000)
-        }
-
-        function init() {
-            driver.reset()
-            open()
-        }
-
-        function cleanup() {
-            driver.limitFiles(-1)
-            close()
-            tryCompare(Notifications, "currentDialog", null)
-            Notifications.clear()
-            compare(driver.takeWarnings(), [])
-        }
-
-        function open() {
-            window = createTemporaryObject(windowComponent, root)
-            verify(window)
-            waitForRendering(page)
-            // What was stored comes in a little later, and the name of the run on top of it.
-            tryVerify(() => field("nameEntry").text.startsWith("loopback_"))
-        }
-        // As at the end of the program.
-        function close() {
-            window.destroy()
-            tryVerify(() => !window)
-        }
-
-        function entry(name) {
-            const found = findChild(page, name)
-            verify(found, name)
-            return found
-        }
-        function field(name) {
-            return findChild(entry(name), "field")
-        }
-
-        function type(name, text) {
-            field(name).forceActiveFocus()
-            field(name).selectAll()
-            keyClick(Qt.Key_Backspace)
-            for (const character of text)
-                keyClick(character)
-            compare(field(name).text, text)
-        }
-
-        function choose(format) {
-            const box = findChild(entry("formatEntry"), "box")
-            box.forceActiveFocus()
-            while (box.displayText !== format && box.currentIndex < box.count - 1)
-                keyClick(Qt.Key_Down)
-            compare(box.displayText, format)
-        }
-
-        function tap(item) {
-            const touch = touchEvent(item)
-            touch.press(0, item).commit()
-            touch.release(0, item).commit()
-        }
-
-        function press() {
-            const button = entry("saveButton")
-            verify(button.enabled)
-            tap(button)
-        }
-
-        function part(name) {
-            tryVerify(() => dialog.opened)
-            return findChild(dialog.contentItem, name)
-        }
-
-        function rows() {
-            return page.report.reportFiles.map(file => file.name + " " + file.format + (file.compressed ? " gz" : ""))
-        }
-
-        function trayTitles() {
-            const titles = []
-            for (let i = 0; i < Notifications.count; ++i)
-                titles.push(Notifications.data(Notifications.index(i, 0), 257))
-            return titles
-        }
 
         function test_firstSave_data() {
             return [{ tag: "PDF", format: "PDF", suffixes: [".pdf"], start: "%PDF-" },

@@ -61,6 +61,13 @@ fi
 if [ -x "$plain/bin/uiutils-qml" ]; then
     "$plain/bin/uiutils-qml" --root "$plain/root" --list | grep -q '^basemgr_cfg_saveLocation'
 fi
+# A viewer that is no command, which the programs beside it find.
+if [ -x "$build/bin/pdf_viewer" ]; then
+    test ! -e "$plain/bin/pdf_viewer"
+    "$plain/libexec/uiutils/pdf_viewer" --version >/dev/null
+    "$plain/bin/uiutils-demo" --tour --root "$plain/root" >/dev/null
+    test "$(readlink "$plain/root/base/bin/pdf_viewer")" = "$plain/libexec/uiutils/pdf_viewer"
+fi
 # Hidden visibility: what is private must not be reachable from outside.
 if nm -DC --defined-only "$library" | grep -E ' [A-Z] uiutils::(OpenNode|onDisk|writeFileDurably|NodeReader|PdfProbe|pdf::)'; then
     echo "private symbols are exported" >&2

@@ -1,4 +1,5 @@
 #include "common/instrument.h"
+#include "qmlwarnings.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
@@ -8,7 +9,6 @@
 #include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
-#include <QQmlError>
 #include <QtQuickTest>
 
 #include <memory>
@@ -53,24 +53,15 @@ public:
     }
 
     /// What the engine has complained about since the last call.
-    Q_INVOKABLE QStringList takeWarnings()
-    {
-        QStringList taken;
-        taken.swap(m_warnings);
-        return taken;
-    }
-    void noteWarnings(const QList<QQmlError>& warnings)
-    {
-        for (const QQmlError& warning : warnings)
-            m_warnings.append(warning.toString());
-    }
+    Q_INVOKABLE QStringList takeWarnings() { return m_warnings.take(); }
+    void watch(QQmlEngine* engine) { m_warnings.watch(engine); }
 
 private:
     /// The second word of an id here is its service.
     kiv::embedded::EmbeddedService* serviceOf(const QString& id) const { return m_backend->service(id.section(':', 2, 2)); }
 
     kiv::embedded::EmbeddedBackend* m_backend;
-    QStringList m_warnings;
+    QmlWarnings m_warnings;
 };
 
 class Setup : public QObject
@@ -86,7 +77,7 @@ public Q_SLOTS:
     }
     void qmlEngineAvailable(QQmlEngine* engine)
     {
-        connect(engine, &QQmlEngine::warnings, this, [this](const auto& warnings) { m_driver.noteWarnings(warnings); });
+        m_driver.watch(engine);
         engine->rootContext()->setContextProperty("driver", &m_driver);
         m_instrument->showTo(engine);
     }

@@ -10,9 +10,14 @@ FocusScope {
 
     property LoopbackMeasurement measurement
     readonly property alias report: report
+    readonly property alias stick: stick
     readonly property bool hasResults: measurement.state === LoopbackMeasurement.Finished
     readonly property var titleItem: report.getSetting("reportTitle")
     readonly property var nameItem: report.getSetting("reportName")
+    // Services of the user's own may lack it.
+    readonly property var locationItem: typeof basemgr_cfg_saveLocation === "undefined" ? null : basemgr_cfg_saveLocation
+    readonly property bool wantsUsb: locationItem !== null && location.served !== locationItem.enums.Internal
+    readonly property bool savesOnUsb: wantsUsb && location.served === locationItem.enums.Usb && stick.attached
 
     // False when nothing was saved: the user is asked or told why, or the page says what is missing.
     function save() {
@@ -25,6 +30,12 @@ FocusScope {
         tag: "loopback"
         onContentWanted: builder.build()
         onReportOverwriteAccepted: save(true)
+    }
+    UsbStick { id: stick }
+    // What the service holds, which is what counts, while another page's transaction holds something else back.
+    ItemEntry {
+        id: location
+        item: page.locationItem
     }
     ReportBuilder {
         id: builder
@@ -46,42 +57,144 @@ FocusScope {
                 anchors { fill: parent; margins: Theme.margin }
                 spacing: Theme.gap
 
-                Text {
-                    text: qsTr("Save a report")
-                    color: Theme.text
-                    font { pixelSize: Theme.headingText; bold: true }
-                    Accessible.role: Accessible.Heading
-                    Accessible.name: text
-                }
-                TextEntry {
-                    id: titleEntry
-                    objectName: "titleEntry"
-                    Layout.fillWidth: true
-                    item: page.titleItem
-                    rangeText: ""
-                }
-                FileNameEntry {
-                    id: nameEntry
-                    objectName: "nameEntry"
-                    Layout.fillWidth: true
-                    item: page.nameItem
-                    // An empty one stands for this.
-                    placeholderText: page.hasResults ? report.proposedFileName() : ""
-                }
                 RowLayout {
                     Layout.fillWidth: true
-                    spacing: Theme.margin
+                    spacing: Theme.gap
 
-                    ChoiceEntry {
-                        objectName: "formatEntry"
-                        Layout.fillWidth: true
-                        item: report.getSetting("reportFormat")
+                    Text {
+                        text: qsTr("Save a report")
+                        color: Theme.text
+                        font { pixelSize: Theme.headingText; bold: true }
+                        Accessible.role: Accessible.Heading
+                        Accessible.name: text
                     }
-                    SwitchEntry {
-                        objectName: "compressionEntry"
+                    Text {
+                        id: usage
+                        objectName: "usage"
+
+                        readonly property bool isOfStick: page.savesOnUsb
+                        property real percentage
+
+                        function refresh() {
+                            percentage = isOfStick ? report.percentageFileSystemUsed(stick.mountPoint)
+                                                   : report.percentageFileSystemUsed()
+                        }
+
                         Layout.fillWidth: true
-                        item: report.getSetting("reportCompression")
+                        text: (isOfStick ? qsTr("USB %1 % full") : qsTr("Unit %1 % full")).arg(Math.round(percentage))
+                        color: Theme.mutedText
+                        font.pixelSize: Theme.smallText
+                        horizontalAlignment: Text.AlignRight
+                        Component.onCompleted: refresh()
+                        onIsOfStickChanged: refresh()
+
+                        Connections {
+                            target: report
+                            function onReportFilesChanged() { usage.refresh() }
+                        }
                     }
+                }
+                ScrollArea {
+                    id: fields
+                    Layout.fillWidth: true
+                    Layout.fillHeight: true
+                    // The scroll bar and what frames a control lie in the card's margin.
+                    Layout.leftMargin: -Theme.gap
+                    Layout.rightMargin: -Theme.gap
+                    contentHeight: column.height
+                    room: Theme.touch / 2
+
+                    ColumnLayout {
+                        id: column
+                        x: Theme.gap
+                        width: fields.width - 2 * Theme.gap
+                        spacing: Theme.gap
+
+                        TextEntry {
+                            id: titleEntry
+                            objectName: "titleEntry"
+                            Layout.fillWidth: true
+                            item: page.titleItem
+                            rangeText: ""
+                        }
+                        FileNameEntry {
+                            id: nameEntry
+                            objectName: "nameEntry"
+                            Layout.fillWidth: true
+                            item: page.nameItem
+                            // An empty one stands for this.
+                            placeholderText: page.hasResults ? report.proposedFileName() : ""
+                        }
+                        RowLayout {
+                            Layout.fillWidth: true
+                            spacing: Theme.margin
+
+                            ChoiceEntry {
+                                objectName: "formatEntry"
+                                Layout.fillWidth: true
+                                item: report.getSetting("reportFormat")
+                            }
+                            SwitchEntry {
+                                objectName: "compressionEntry"
+                                Layout.fillWidth: true
+                                item: report.getSetting("reportCompression")
+                            }
+                        }
+                        ChoiceEntry {
+                            id: locationEntry
+                            objectName: "locationEntry"
+                            Layout.fillWidth: true
+                            visible: page.locationItem !== null
+                            item: page.locationItem
+                            news: location.pending ? qsTr("Not applied yet: see Settings.") : ""
+                            // At once, also while the settings page holds changes back.
+                            storeWith: value => face.writeWith(() => {
+                                item.value = value
+                                item.apply()
+                            })
+                        }
+                        RowLayout {
+                            Layout.fillWidth: true
+                            visible: stick.supported
+                            spacing: Theme.gap
+
+                            Text {
+                                objectName: "stickState"
+                                Layout.fillWidth: true
+                                text: stick.attached ? qsTr("A USB drive is plugged in.")
+                                    : page.wantsUsb ? qsTr("Without a USB drive reports are saved on the unit.")
+                                    : qsTr("No USB drive is plugged in.")
+                                color: page.wantsUsb && !stick.attached ? ControlsStyle.news : Theme.mutedText
+                                font.pixelSize: Theme.smallText
+                                wrapMode: Text.Wrap
+                                Accessible.role: Accessible.StaticText
+                                Accessible.name: text
+                            }
+                            ActionButton {
+                                objectName: "stickButton"
+                                Layout.preferredWidth: 110
+                                filled: false
+                                text: stick.attached ? qsTr("Pull out") : qsTr("Plug in")
+                                Accessible.description: qsTr("USB drive")
+                                onClicked: stick.attached ? stick.pull() : stick.plug()
+                            }
+                        }
+                        SwitchEntry {
+                            objectName: "syncEntry"
+                            Layout.fillWidth: true
+                            item: report.getSetting("reportSync_SS")
+                        }
+                    }
+                }
+                Text {
+                    Layout.fillWidth: true
+                    visible: text
+                    text: page.hasResults ? "" : report.cannotGenerateReportMessage()
+                    color: Theme.mutedText
+                    font.pixelSize: Theme.smallText
+                    wrapMode: Text.Wrap
+                    Accessible.role: Accessible.AlertMessage
+                    Accessible.name: text
                 }
                 ActionButton {
                     objectName: "saveButton"
@@ -90,17 +203,6 @@ FocusScope {
                     enabled: page.hasResults && page.titleItem.valueOk && page.nameItem.valueOk
                     text: qsTr("Save")
                     onClicked: page.save()
-                }
-                Text {
-                    Layout.fillWidth: true
-                    Layout.fillHeight: true
-                    text: page.hasResults ? "" : report.cannotGenerateReportMessage()
-                    color: Theme.mutedText
-                    font.pixelSize: Theme.smallText
-                    wrapMode: Text.Wrap
-                    elide: Text.ElideRight
-                    Accessible.role: Accessible.AlertMessage
-                    Accessible.name: text
                 }
             }
         }

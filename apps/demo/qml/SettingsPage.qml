@@ -1,6 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
-import QtQuick.Window 2.15
 import QtQuick.Layouts 1.15
 import UiUtils 1.0
 import UiUtils.Demo 1.0
@@ -69,37 +67,12 @@ FocusScope {
         visible: page.isServed
         spacing: Theme.margin
 
-        Flickable {
+        ScrollArea {
             id: view
-
-            // The control that the keyboard works on comes into sight.
-            readonly property Item focused: Window.activeFocusItem
-
-            function isInside(item) {
-                for (; item; item = item.parent) {
-                    if (item === contentItem)
-                        return true
-                }
-                return false
-            }
-
-            function reveal(item) {
-                const room = 2 * Theme.touch
-                const top = item.mapToItem(contentItem, 0, 0).y
-                const highest = top + item.height + room - height
-                contentY = Math.max(0, Math.min(Math.max(contentY, highest), top - room, contentHeight - height))
-            }
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            clip: true
             contentHeight: form.height
-            boundsBehavior: Flickable.StopAtBounds
-            ScrollBar.vertical: ScrollBar { policy: ScrollBar.AsNeeded }
-            onFocusedChanged: {
-                if (isInside(focused))
-                    reveal(focused)
-            }
 
             Loader {
                 id: form

@@ -1,0 +1,177 @@
+#include "usbstick.h"
+
+#include "core/itemids.h"
+#include "core/paths.h"
+#include "instrumentroot.h"
+
+#include <embedded/embeddedbackend.h>
+#include <embedded/embeddedservice.h>
+#include <kiv/filesystemusage.h>
+#include <kiv/kivclientitem.h>
+#include <kiv/kivnotification.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace uiutils::demo {
+
+using kiv::embedded::EmbeddedBackend;
+using kiv::embedded::EmbeddedService;
+
+namespace {
+
+/// Where the stick's files lie on disk while it is in.
+QString port()
+{
+    return QDir::cleanPath(onDisk(paths::usb));
+}
+
+/// The same while it is out. That it is there says so, over restarts too.
+QString shelf()
+{
+    return QDir::cleanPath(port() + QStringLiteral("/../../stick"));
+}
+
+EmbeddedBackend* backend()
+{
+    return dynamic_cast<EmbeddedBackend*>(KIVBackend::current());
+}
+
+EmbeddedService* baseManager()
+{
+    return backend() ? backend()->service(EmbeddedBackend::baseManagerName) : nullptr;
+}
+
+KIVClientItem* attachedItem()
+{
+    return baseManager() ? baseManager()->item(itemids::usbAttached) : nullptr;
+}
+
+void setNoticed(bool isAttached)
+{
+    if (baseManager())
+        baseManager()->setValue(itemids::usbAttached, isAttached);
+}
+
+void setMounted(bool isMounted)
+{
+    if (isMounted && baseManager())
+        baseManager()->setMounted(paths::usb, true);
+    if (isMounted || !backend())
+        return;
+    // Services of the user's own may have mounted it, too.
+    const QStringList names = backend()->serviceNames();
+    for (const QString& name : names)
+        backend()->service(name)->setMounted(paths::usb, false);
+}
+
+/// In one step, so that the files are always whole at one of the two places. An empty folder in the way goes; with nothing to move
+/// an empty folder is made.
+bool moveFolder(const QString& from, const QString& to, QString* error)
+{
+    if (!makeFolder(QFileInfo(to).path(), error))
+        return false;
+    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0)
+        return true;
+    const int reason = errno;
+    if (reason == ENOENT)
+        return makeFolder(to, error);
+    *error = UsbStick::tr("The files in %1 cannot be brought to %2: %3.")
+                     .arg(from, to, QString::fromLocal8Bit(std::strerror(reason)));
+    return false;
+}
+
+} // namespace
+
+UsbStick::UsbStick(QObject* parent)
+    : QObject(parent)
+{
+    if (isSupported())
+        settle();
+}
+
+void UsbStick::settle()
+{
+    const bool isOut = QFileInfo::exists(shelf());
+    const bool isIn = !isOut && (QFileInfo::exists(port()) || isAttached() || attachedItem()->getValue().toBool());
+    QString error;
+    const bool isThere = makeFolder(isIn ? port() : shelf(), &error);
+    setMounted(isIn && isThere);
+    setNoticed(isIn && isThere);
+    if (!isThere)
+        fail(error);
+}
+
+bool UsbStick::isSupported() const
+{
+    // Without a root folder of its own the demo would move what is really mounted there.
+    return attachedItem() && port() != QDir::cleanPath(paths::usb);
+}
+
+bool UsbStick::isAttached() const
+{
+    return FileSystemUsage::isMounted(paths::usb);
+}
+
+QString UsbStick::mountPoint() const
+{
+    return paths::usb;
+}
+
+bool UsbStick::plug()
+{
+    if (!isSupported())
+        return fail(tr("No service of this instrument knows of USB drives."));
+    const bool wasAttached = isAttached();
+    QString error;
+    if (!wasAttached && !moveFolder(shelf(), port(), &error))
+        return fail(error);
+    const QPointer<UsbStick> self(this);
+    setMounted(true);
+    setNoticed(true);
+    if (self && !wasAttached)
+        Q_EMIT attachedChanged();
+    return true;
+}
+
+bool UsbStick::pull()
+{
+    if (!yank())
+        return false;
+    setNoticed(false);
+    return true;
+}
+
+bool UsbStick::yank()
+{
+    if (!isAttached())
+        return true;
+    QString error;
+    if (!moveFolder(port(), shelf(), &error))
+        return fail(error);
+    // What is written there without a look at the mount goes astray, as on an instrument.
+    QDir().mkdir(port());
+    setMounted(false);
+    Q_EMIT attachedChanged();
+    return true;
+}
+
+bool UsbStick::fail(const QString& reason)
+{
+    // Of the same object one dialog is enough, however often it is tried.
+    delete findChild<KIVNotification*>();
+    auto* const told = new KIVNotification(this);
+    told->setLongLabel(tr("USB Drive"));
+    told->setMsg(reason);
+    told->setError();
+    told->notifyDialog();
+    return false;
+}
+
+} // namespace uiutils::demo

@@ -1,0 +1,95 @@
+#include "options.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace uiutils::viewer {
+
+namespace {
+
+constexpr int mostDotsPerInch = 600;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Options", text);
+}
+
+Options answered(const QString& message)
+{
+    Options options;
+    options.outcome = Options::Answered;
+    options.message = message;
+    return options;
+}
+
+Options misused(const QString& message)
+{
+    Options options;
+    options.outcome = Options::Misused;
+    options.message = message + QLatin1Char('\n') + tr("Try --help for the options.");
+    return options;
+}
+
+/// One line, whatever a report is called.
+QString titleOf(const QString& asked, const QString& file)
+{
+    const QString title = asked.simplified();
+    return title.isEmpty() ? QFileInfo(file).fileName() : title;
+}
+
+} // namespace
+
+Options readOptions(const QStringList& arguments)
+{
+    const Options standard;
+    QCommandLineParser parser;
+    // Words behind one hyphen, as Qt has them for its plug-ins.
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.setApplicationDescription(
+            tr("Shows a PDF file, also one that is compressed (.pdf.gz), on a touch screen or in a window.\n\n"
+               "Exit status: 0 done, 1 the file could not be shown, 2 wrong command line."));
+    parser.addPositionalArgument(QStringLiteral("file"), tr("The PDF file to show."), QStringLiteral("file.pdf"));
+    // The parser's own help option would bring options of Qt along.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption density(QStringLiteral("dpy"),
+            tr("The screen has <number> dots per inch, 1 to %1 (default: %2). At 100 % a page has its natural size there.")
+                    .arg(mostDotsPerInch)
+                    .arg(standard.dotsPerInch),
+            tr("number"));
+    const QCommandLineOption wholeScreen(QStringLiteral("s"),
+            tr("Take the whole screen, without a frame. Where a window system shares the screen out, the window is one among "
+               "others all the same."));
+    const QCommandLineOption title(QStringLiteral("t"), tr("Call the window <title> (default: the file's name)."), tr("title"));
+    const QCommandLineOption plugin(QStringLiteral("plugin"),
+            tr("Use the input plug-in <name:device>; may be given more than once. Without effect where a window system brings "
+               "the input, and where there is no such device."),
+            tr("name:device"));
+    parser.addOptions({help, density, wholeScreen, title, plugin});
+
+    if (!parser.parse(arguments))
+        return misused(parser.errorText());
+    if (parser.isSet(help))
+        return answered(parser.helpText());
+    if (parser.isSet(version)) {
+        return answered(QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion()
+                + QLatin1Char('\n'));
+    }
+    const QStringList files = parser.positionalArguments();
+    if (files.size() != 1 || files.constFirst().isEmpty())
+        return misused(tr("Name one PDF file to show."));
+
+    Options options;
+    if (parser.isSet(density))
+        options.dotsPerInch = parser.value(density).toInt();
+    if (options.dotsPerInch < 1 || options.dotsPerInch > mostDotsPerInch)
+        return misused(tr("--dpy needs a number from 1 to %1.").arg(mostDotsPerInch));
+    options.file = files.constFirst();
+    options.title = titleOf(parser.value(title), options.file);
+    options.isWholeScreen = parser.isSet(wholeScreen);
+    options.plugins = parser.values(plugin);
+    return options;
+}
+
+} // namespace uiutils::viewer

@@ -1,0 +1,175 @@
+import QtQuick 2.15
+
+// Where reports are saved, with a memory stick and without.
+Item {
+    id: root
+
+    width: 1024
+    height: 484
+
+    ReportPageCase {
+        name: "ReportUsb"
+
+        function text(name) {
+            return entry(name).text
+        }
+
+        function resize(size) {
+            root.width = size.width
+            root.height = size.height
+            waitForRendering(page)
+        }
+
+        // As a finger does it once the button is in sight.
+        function pressStick() {
+            entry("stickButton").forceActiveFocus()
+            tap(entry("stickButton"))
+        }
+
+        function save(name) {
+            choose("TEXT")
+            type("nameEntry", name)
+            press()
+        }
+
+        function test_saveLocation_data() {
+            return [{ tag: "internal", label: "Internal", isIn: true, location: 0, inUnit: ["a.txt"], onStick: [] },
+                    { tag: "USB", label: "USB", isIn: true, location: 1, inUnit: [], onStick: ["a.txt", "a.txt.metadata"] },
+                    { tag: "both", label: "Internal and USB", isIn: true, location: 2, inUnit: ["a.txt"], onStick: ["a.txt"] },
+                    { tag: "USB, without a stick", label: "USB", isIn: false, location: 1, inUnit: ["a.txt"], onStick: [] },
+                    { tag: "both, without a stick", label: "Internal and USB", isIn: false, location: 2, inUnit: ["a.txt"], onStick: [] }]
+        }
+        function test_saveLocation(data) {
+            if (data.isIn)
+                pressStick()
+            choose(data.label, "locationEntry")
+            compare(driver.saveLocation(), data.location)
+            compare(text("stickState"), data.isIn ? "A USB drive is plugged in."
+                                                  : "Without a USB drive reports are saved on the unit.")
+            verify(text("usage").startsWith(data.inUnit.length === 0 ? "USB " : "Unit "))
+            save("a")
+            compare(driver.files(), data.inUnit)
+            compare(driver.filesIn("mnt/usb"), data.onStick)
+        }
+
+        function test_plugAndPull() {
+            compare(text("stickState"), "No USB drive is plugged in.")
+            choose("USB", "locationEntry")
+            pressStick()
+            compare(page.report.saveLocation, "USB:/")
+            save("a")
+            compare(driver.filesIn("mnt/usb"), ["a.txt", "a.txt.metadata"])
+
+            pressStick()
+            compare(page.report.saveLocation, "Internal:/reports/loopback/")
+            compare(driver.filesIn("mnt/usb"), [])
+            save("b")
+            compare(driver.files(), ["b.txt"])
+
+            pressStick()
+            compare(driver.filesIn("mnt/usb"), ["a.txt", "a.txt.metadata"])
+            close()
+            open()
+            compare(text("stickButton"), "Pull out")
+        }
+
+        // Nothing may end up in the unit's own folder under the mount.
+        function test_yanked_data() {
+            return [{ tag: "USB", label: "USB", inUnit: [], onStick: ["a.txt", "a.txt.metadata"] },
+                    { tag: "both", label: "Internal and USB", inUnit: ["a.txt"], onStick: ["a.txt"] }]
+        }
+        function test_yanked(data) {
+            choose(data.label, "locationEntry")
+            pressStick()
+            page.stick.yank()
+            compare(text("stickButton"), "Plug in")
+            save("a")
+            compare(part("dialogTitle").text, "Write Error")
+            compare(driver.files(), data.inUnit)
+            compare(driver.filesIn("mnt/usb"), [])
+            tap(part("acceptButton"))
+
+            pressStick()
+            press()
+            if (data.inUnit.length > 0)
+                tap(part("acceptButton"))
+            compare(driver.filesIn("mnt/usb"), data.onStick)
+        }
+
+        // Changes that the settings page holds back are none yet, and hold nothing back here.
+        function test_locationIsTakenAtOnce() {
+            services.basemgr.startChanges()
+            basemgr_cfg_saveLocation.value = 1
+            compare(driver.saveLocation(), 0)
+            verify(findChild(entry("locationEntry"), "box").displayText === "USB")
+            compare(entry("locationEntry").news, "Not applied yet: see Settings.")
+            compare(text("stickState"), "No USB drive is plugged in.")
+            choose("Internal and USB", "locationEntry")
+            compare(driver.saveLocation(), 2)
+            compare(entry("locationEntry").news, "")
+            services.basemgr.revertChanges()
+            compare(driver.saveLocation(), 2)
+            compare(findChild(entry("locationEntry"), "box").displayText, "Internal and USB")
+        }
+
+        function test_syncSurvivesARestart() {
+            const toggle = findChild(entry("syncEntry"), "switch")
+            const wasOn = toggle.checked
+            toggle.forceActiveFocus()
+            tap(toggle)
+            save("a")
+            close()
+            open()
+            tryVerify(() => findChild(entry("syncEntry"), "switch").checked === !wasOn)
+        }
+
+        function test_fingerScrollsFromAField() {
+            const before = entry("stickButton").mapToItem(page, 0, 0).y
+            const start = field("nameEntry").mapToItem(page, 100, 24)
+            const touch = touchEvent(page)
+            touch.press(0, page, start.x, start.y).commit()
+            for (let moved = 8; moved <= 96; moved += 8)
+                touch.move(0, page, start.x, start.y - moved).commit()
+            touch.release(0, page, start.x, start.y - 96).commit()
+            tryVerify(() => entry("stickButton").mapToItem(page, 0, 0).y < before - 50)
+        }
+
+        // The page must not scroll under the finger, or the tap is lost.
+        function test_tapOnWhatIsPartlyHidden() {
+            resize(Qt.size(1024, 484))
+            const button = entry("stickButton")
+            const end = entry("saveButton").mapToItem(page, 0, 0).y
+            const bottom = () => button.mapToItem(page, 0, button.height).y
+            verify(bottom() > end)
+            const finger = button.mapToItem(page, 50, 8)
+            const touch = touchEvent(page)
+            touch.press(0, page, finger.x, finger.y).commit()
+            // No finger keeps still.
+            touch.move(0, page, finger.x + 1, finger.y).commit()
+            touch.release(0, page, finger.x + 1, finger.y).commit()
+            verify(page.stick.attached)
+            verify(bottom() <= end)
+        }
+
+        function test_fits_data() {
+            return [{ tag: "instrument", size: Qt.size(1024, 484) }, { tag: "smallest", size: Qt.size(880, 424) }]
+        }
+        function test_fits(data) {
+            resize(data.size)
+            choose("Internal and USB", "locationEntry")
+            waitForRendering(page)
+            const controls = [field("titleEntry"), field("nameEntry"), findChild(entry("formatEntry"), "box"),
+                              findChild(entry("compressionEntry"), "switch"), findChild(entry("locationEntry"), "box"),
+                              entry("stickButton"), findChild(entry("syncEntry"), "switch")]
+            for (const control of controls) {
+                control.forceActiveFocus()
+                verify(control.height >= 40, control)
+                const top = control.mapToItem(page, 0, 0).y
+                const end = entry("saveButton").mapToItem(page, 0, 0).y
+                verify(top >= 0 && top + control.height <= end, control + " is at " + top)
+            }
+            verify(!entry("stickState").truncated)
+            verify(!findChild(entry("locationEntry"), "box").contentItem.truncated)
+        }
+    }
+}

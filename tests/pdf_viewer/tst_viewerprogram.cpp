@@ -1,0 +1,70 @@
+#include "viewersamples.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+/// The program as it is started.
+class ViewerProgramTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    void start(const QStringList& arguments, const QByteArray& platform)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(name);
+        if (!platform.isEmpty())
+            environment.insert("QT_QPA_PLATFORM", platform);
+        m_viewer.setProcessEnvironment(environment);
+        m_viewer.start(UIUTILS_VIEWER_PROGRAM, arguments);
+    }
+
+    QProcess m_viewer;
+    QTemporaryDir m_folder;
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        m_viewer.kill();
+        m_viewer.waitForFinished();
+    }
+
+    void endings_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("help") << QStringList {"--help"} << 0 << "--dpy";
+        QTest::newRow("wrong command line") << QStringList {"--dpy", "0", "a.pdf"} << 2 << "--dpy needs a number";
+        QTest::newRow("nobody could see it") << QStringList {"a.pdf"} << 1 << "There is no display to show a.pdf on.";
+    }
+    void endings()
+    {
+        QFETCH(const QStringList, arguments);
+        QFETCH(const QString, words);
+        start(arguments, {});
+        QVERIFY(m_viewer.waitForFinished());
+        QTEST(m_viewer.exitCode(), "exitCode");
+        const QString told = m_viewer.exitCode() == 0 ? m_viewer.readAllStandardOutput() : m_viewer.readAllStandardError();
+        QVERIFY2(told.contains(words), qPrintable(told));
+    }
+
+    /// A plug-in for a device that is not there is ignored without a word.
+    void staysUntilItIsClosed()
+    {
+        const QString file = m_folder.filePath("a.pdf");
+        QVERIFY(samples::write(file, samples::barred(1)));
+        start({"-plugin", "EvdevTouch:/dev/input/event-none", "--dpy", "85", "-s", file, "-t", "View Report"}, "offscreen");
+        QVERIFY(!m_viewer.waitForFinished(2000));
+        m_viewer.terminate();
+        QVERIFY(m_viewer.waitForFinished());
+        QCOMPARE(m_viewer.exitCode(), SIGTERM);
+        QCOMPARE(QString(m_viewer.readAllStandardError()), QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(ViewerProgramTest)
+#include "tst_viewerprogram.moc"

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QQmlEngine>
+#include <QQmlError>
+#include <QStringList>
+
+/// What engines complain about. It has to stay as long as they do, or longer.
+class QmlWarnings : public QObject
+{
+public:
+    void watch(QQmlEngine* engine)
+    {
+        connect(engine, &QQmlEngine::warnings, this, [this](const QList<QQmlError>& warnings) {
+            for (const QQmlError& warning : warnings)
+                m_texts += warning.toString();
+        });
+    }
+
+    /// The complaints since the last call.
+    QStringList take()
+    {
+        QStringList taken;
+        taken.swap(m_texts);
+        return taken;
+    }
+
+private:
+    QStringList m_texts;
+};
