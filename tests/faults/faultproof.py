@@ -52,6 +52,9 @@ ERRORS = {
     "asks": ["EIO"],
 }
 
+# Failures that are let pass, as pairs of a pattern of what is printed and the reason. They are counted and shown.
+KNOWN = []
+
 
 def family(call):
     name = call.name
@@ -90,6 +93,9 @@ class Fault:
     @property
     def is_needed(self):
         """Whether the short form has it always."""
+        if self.actor == "disk":
+            return self.call != "tmp" and (self.kind in ("64k", "read-only")
+                                           or self.kind == "1100k" and self.scenario.startswith("large"))
         if self.kind == "kill":
             return self.call in tracelog.RENAMES | tracelog.REMOVALS | tracelog.SYNCS
         return self.kind == "ENOSPC" and self.call in tracelog.WRITES
@@ -140,6 +146,7 @@ class Bench:
         self.programs, self.folder, self.keep = programs, folder, keep
         self.local, self.servers, self.lock = threading.local(), [], threading.Lock()
         self.numbers = itertools.count()
+        self.is_ending = False
         self._make_gzip()
 
     def _make_gzip(self):
@@ -255,7 +262,7 @@ def prepare(bench, scenario):
     calls = {"deed": clean.calls()}
     expectation = verdict.Expectation(before, after)
     problems += clean_faults(scenario, expectation, after, answer) + [f"{path} is left in TMPDIR" for path in clean.temporaries()]
-    problems += tracelog.order_faults(calls["deed"], clean.root, True)
+    problems += tracelog.order_faults(calls["deed"], clean.root, claimed(scenario, expectation, answer["claim"]))
     if scenario.order.get("compressed"):
         packed = Run(bench, before)
         packed.save(deed_of(scenario), "new", actor="gzip")
@@ -346,18 +353,28 @@ def judge(run, prepared, answer, fault):
     if fault and fault.kind == "kill" and fault.actor == "deed":
         if answer["signal"] != signal.SIGKILL:
             problems.append("it was not killed")
-        return problems + tracelog.order_faults(run.calls(), run.root, False)
+        return problems + tracelog.order_faults(run.calls(), run.root, lambda _: False)
     if answer["signal"] or answer["exit"] != 0:
         return problems + [f"it ended with signal {answer['signal']}, status {answer['exit']}"]
     claim = answer["claim"]
     problems += verdict.claim_faults(prepared.scenario.order["kind"], expectation, actual, claim)
     if is_traced:
-        problems += tracelog.order_faults(run.calls(), run.root, bool(claim.get("saved")))
+        problems += tracelog.order_faults(
+            run.calls(), run.root, claimed(prepared.scenario, expectation, claim))
     call = call_of(prepared, fault) if fault else None
     if not call or not (call.name in tracelog.TIDYING or call.opens_folder):
         problems += [f"{path} is left over" for path in verdict.leftovers(actual)]
         problems += [f"{path} is left in TMPDIR" for path in run.temporaries()]
     return problems
+
+
+def claimed(scenario, expectation, claim):
+    """Of a path, whether the user, or whoever called, was told that the file is saved."""
+    if scenario.order["kind"] == "report":
+        told = {path.lstrip("/") for path in claim.get("written", [])}
+        told.update(expectation.reports if claim.get("saved") else [])
+        return lambda path: path in told
+    return lambda path: bool(claim.get("saved")) and path in expectation.targets
 
 
 def mend(run, prepared):
@@ -429,9 +446,7 @@ def try_disk(bench, prepared, fault):
     run = Run(bench, prepared.expectation.before, disk.mount)
     try:
         disk.fill(run)
-        # Large enough not to fit where the look at the room lets it pass.
-        order = {**deed_of(prepared.scenario)}
-        answer = run.save(order, "new")
+        answer = run.save(deed_of(prepared.scenario), "new")
         problems = judge(run, prepared, answer, None)
         disk.empty(run)
         problems += mend(run, prepared)
@@ -447,7 +462,7 @@ def chosen(faults, is_long):
     """The short form has what is needed first, then a spread that is the same each time."""
     if is_long:
         return faults
-    needed = [fault for fault in faults if fault.is_needed or fault.actor == "disk" and fault.kind in ("0", "64k", "read-only")]
+    needed = [fault for fault in faults if fault.is_needed]
     others = sorted(set(faults) - set(needed), key=lambda fault: zlib.crc32(str(fault).encode()))
     return needed + others[:OPTIONAL_IN_SHORT]
 
@@ -458,18 +473,24 @@ class Report:
     def __init__(self):
         self.lock = threading.Lock()
         self.counts = defaultdict(Counter)
-        self.failures = []
+        self.failures, self.known = [], []
 
     def add(self, fault, problems):
-        column = "kills" if fault.kind == "kill" else "disks" if fault.actor == "disk" else "errors"
+        known = [problem for problem in problems if reason_for(problem)]
+        problems = [problem for problem in problems if problem not in known]
+        column = {"kill": "kills", "none": "none"}.get(fault.kind, "disks" if fault.actor == "disk" else "errors")
         with self.lock:
-            self.counts[fault.scenario][column] += 1
+            if column != "none":
+                self.counts[fault.scenario][column] += 1
+            if known:
+                self.counts[fault.scenario]["known"] += 1
+                self.known.append((fault, known))
             if problems:
                 self.counts[fault.scenario]["failures"] += 1
                 self.failures.append((fault, problems))
 
     def print_table(self, prepared):
-        columns = ["calls", "kills", "errors", "disks", "failures"]
+        columns = ["calls", "kills", "errors", "disks", "known", "failures"]
         for item in prepared:
             self.counts[item.scenario.name]["calls"] = sum(
                 call.changes for calls in item.calls.values() for call in calls)
@@ -479,14 +500,27 @@ class Report:
             print(f"{name:<18}" + "".join(f"{counts[column]:>10}" for column in columns))
 
     def print_failures(self, command, limit):
-        kinds = defaultdict(list)
-        for fault, problems in self.failures:
-            for text in {kind_of(problem) for problem in problems}:
-                kinds[text].append(fault)
-        for text, faults in sorted(kinds.items(), key=lambda item: -len(item[1]))[:limit]:
+        for text, faults in _by_kind(self.known):
+            print(f"\nknown, in {len(faults)} runs: {text}\n  {reason_for(text)}")
+        kinds = _by_kind(self.failures)
+        for text, faults in kinds[:limit]:
             print(f"\nFAILED in {len(faults)} runs: {text}\n  repeat one: {command} --repeat '{faults[0]}'")
         if len(kinds) > limit:
             print(f"\nand {len(kinds) - limit} other kinds of failure")
+
+
+def _by_kind(failures):
+    """Pairs of a kind and its faults, the most frequent first."""
+    kinds = defaultdict(list)
+    for fault, problems in failures:
+        for text in {kind_of(problem) for problem in problems}:
+            kinds[text].append(fault)
+    return sorted(kinds.items(), key=lambda item: -len(item[1]))
+
+
+def reason_for(problem):
+    """Why a failure is known and let pass; None when it is not."""
+    return next((reason for pattern, reason in KNOWN if re.search(pattern, problem)), None)
 
 
 def kind_of(problem):
@@ -543,8 +577,13 @@ def arguments():
 
 
 def working_folder(options):
-    parent = options.work or ("/dev/shm" if os.access("/dev/shm", os.W_OK) else None)
-    return tempfile.mkdtemp(prefix="faultproof-", dir=parent)
+    """In memory where there is some: the faults are made, and need no disk. What killed runs have left there goes."""
+    parent = options.work or ("/dev/shm" if os.access("/dev/shm", os.W_OK) else tempfile.gettempdir())
+    for name in os.listdir(parent):
+        match = re.fullmatch(r"faultproof-(\d+)-\w+", name)
+        if match and not os.path.exists("/proc/" + match.group(1)):
+            shutil.rmtree(os.path.join(parent, name), ignore_errors=True)
+    return tempfile.mkdtemp(prefix=f"faultproof-{os.getpid()}-", dir=parent)
 
 
 def parsed(text):
@@ -573,7 +612,7 @@ def work(bench, options, selected):
         by_name = {item.scenario.name: item for item in prepared}
         can_mount = may_mount(bench.folder)
         if options.repeat:
-            faults = [parsed(options.repeat)]
+            faults = [fault for fault in [parsed(options.repeat)] if fault.kind != "none"]
         else:
             everything = [fault for item in prepared for fault in faults_of(item, True)]
             if can_mount:
@@ -581,7 +620,8 @@ def work(bench, options, selected):
             faults = chosen(everything, options.long)
 
         def run_one(fault):
-            if not options.long and not options.repeat and not fault.is_needed and time.monotonic() > deadline:
+            is_late = time.monotonic() > deadline and not options.long and not options.repeat
+            if bench.is_ending or is_late and not fault.is_needed:
                 return False
             attempt = try_disk if fault.actor == "disk" else try_fault
             try:
@@ -590,11 +630,14 @@ def work(bench, options, selected):
                 report.add(fault, [traceback.format_exc()])
             return True
 
-        done = sum(pool.map(run_one, faults))
+        try:
+            done = sum(pool.map(run_one, faults))
+        except KeyboardInterrupt:
+            bench.is_ending = True
+            raise
     for item in prepared:
         if item.problems:
-            report.counts[item.scenario.name]["failures"] += 1
-            report.failures.append((Fault(item.scenario.name, "deed", "none", 0, "none"), item.problems))
+            report.add(Fault(item.scenario.name, "deed", "none", 0, "none"), item.problems)
     report.print_table(prepared)
     if not can_mount:
         print("skipped: full and read-only disks, because nothing can be mounted here")
@@ -617,11 +660,16 @@ def main():
     folder = working_folder(options)
     bench = Bench(find_programs(options.programs), folder, options.keep)
     started = time.monotonic()
+    # The folder goes then, too.
+    signal.signal(signal.SIGTERM, lambda *_: os.kill(os.getpid(), signal.SIGINT))
     try:
         if not may_attach(bench):
             print("skipped: processes may not be traced here")
             return SKIPPED
         return work(bench, options, selected)
+    except KeyboardInterrupt:
+        print("stopped")
+        return 1
     finally:
         bench.close()
         print(f"\n{time.monotonic() - started:.0f} s")

@@ -69,6 +69,7 @@ public:
         m_filler = order.value("filler").toInt();
         setTitle("Fibre 12 " + m_variant);
         setSubject(m_variant);
+        metadata().setInfo(QString("variant"), m_variant);
         setCompressionEnabled(order.value("compressed").toBool());
         slotCreateSettings();
         getSetting("note")->setValue(m_variant);

@@ -30,9 +30,13 @@ class Scenario:
     files: dict = field(default_factory=dict)
 
 
-def _report(format_name, compressed=False, location=0, sync=True):
+# More than what has to be free for a save to begin: it is in the middle of its writes that such a report fills a disk.
+LARGE = 1_200_000
+
+
+def _report(format_name, compressed=False, location=0, sync=True, filler=0):
     order = {"kind": "report", "format": FORMATS[format_name], "compressed": compressed, "location": location,
-             "stick": location != 0, "sync": sync}
+             "stick": location != 0, "sync": sync, "filler": filler}
     stems = {0: [INTERNAL], 1: [STICK], 2: [INTERNAL, STICK]}[location]
     end = ".gz" if compressed else ""
     return order, [stem + suffix + end for stem in stems for suffix in SUFFIXES[format_name]]
@@ -57,6 +61,10 @@ def all_scenarios():
     scenarios += _pair("both-gz", *_report("text", compressed=True, location=2))
     scenarios += _pair("both-all", *_report("all", location=2))
     scenarios += _pair("unsynced", *_report("text", sync=False))
+
+    scenarios += _pair("large-text", *_report("text", filler=LARGE))
+    scenarios += _pair("large-gz", *_report("text", compressed=True, filler=LARGE))[1:]
+    scenarios += _pair("large-both", *_report("text", location=2, filler=LARGE))
 
     # A report that was kept from the cloud is no longer.
     order, reports = _report("text")

@@ -112,35 +112,39 @@ def shown(place, places):
 
 def neutral(text):
     """Without what is made up in names."""
-    return re.sub(r"/savescenario-\w+", "/savescenario-*", re.sub(r"\.uiutils-\w+(\.tmp)?", ".uiutils-*", text))
+    return re.sub(r"/savescenario-\w+", "/savescenario-*", re.sub(r"\.uiutils-\w+(\.\w+)?", ".uiutils-*", text))
 
 
-def order_faults(calls, root, success_claimed):
+def order_faults(calls, root, is_claimed):
     """What a power cut could make of the order in which files were written, synced and renamed.
 
-    What was not synced successfully counts as lost: the contents of a file, and the names in a folder.
+    What was not synced successfully counts as lost: the contents of a file, and the names in a folder. `is_claimed` says
+    of a path whether it was told that the file is there for good.
     """
     problems, unsynced, names = [], set(), {}
     for call in calls:
-        inside = call.place.startswith(root + "/")
-        if not inside or not call.succeeded:
+        if not call.place.startswith(root + "/") or not call.succeeded:
             continue
+        is_temporary = TEMPORARY.search(call.place)
         if call.name in WRITES:
             unsynced.add(call.place)
-            if not TEMPORARY.search(call.place):
+            if not is_temporary:
                 problems.append(f"{call.shown} is written in place")
         elif call.name in SYNCS:
             unsynced.discard(call.place)
             names.pop(call.place.rstrip("/"), None)
-        elif call.name in MAKERS and not TEMPORARY.search(call.place):
-            names.setdefault(os.path.dirname(call.place.rstrip("/")), []).append(call.shown)
+        elif call.name in MAKERS and not is_temporary:
+            made = call.place.rstrip("/")
+            names.setdefault(os.path.dirname(made), {})[made] = f"the making of {call.shown}"
         elif call.name in RENAMES:
             if call.place in unsynced:
                 problems.append(f"{call.shown}: the contents were not synced before")
-            names.setdefault(os.path.dirname(call.target), []).append(call.shown)
-        elif call.name in REMOVALS and not TEMPORARY.search(call.place) and os.path.dirname(call.place) in names:
+            names.setdefault(os.path.dirname(call.target), {})[call.target] = call.shown
+        elif call.name in REMOVALS and not is_temporary and os.path.dirname(call.place) in names:
             problems.append(f"{call.shown} is removed before the folder of what takes its place is synced")
-    if success_claimed:
+    targets = [call.target for call in calls if call.name in RENAMES and call.succeeded]
+    for target in filter(lambda path: is_claimed(os.path.relpath(path, root)), targets):
         for folder, changes in names.items():
-            problems.append(f"{os.path.relpath(folder, root)} is not synced: a power cut could undo {changes[-1]}")
+            problems += [f"{os.path.relpath(folder, root)} is not synced: a power cut could undo {what}"
+                         for path, what in changes.items() if path == target or target.startswith(path + "/")]
     return problems

@@ -13,7 +13,9 @@ import tracelog
 
 DATES = [rb"[A-Z][a-z]{2} [A-Z][a-z]{2} +\d{1,2} \d{4} \d\d:\d\d:\d\d", rb"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d[-+:.\dZ]*"]
 DATE = re.compile(b"|".join(DATES))
-SAVED, NOTICE, ERROR = "Report Saved", 0, 1
+SAVED, LIST_FAILED = "Report Saved", "Sync"
+# The kind of a dialog that tells of an error.
+ERROR = 1
 
 
 def snapshot(root):
@@ -72,7 +74,7 @@ class Expectation:
     def __init__(self, before, after):
         self.before, self.after = before, after
         self.targets = [path for path in after if before.get(path) != after[path]]
-        self.reports = [path for path in self.targets if not path.startswith("cust/private/")]
+        self.reports = [path for path in self.targets if not path.startswith("cust/private/") and not path.endswith(".metadata")]
         self.gone = [path for path in before if path not in after]
 
     def state_of(self, path, contents):
@@ -112,8 +114,10 @@ def claim_faults(kind, expectation, actual, claim):
             problems.append(f"{path} was reported as written, and is not")
     if kind == "report":
         problems += _save_faults(expectation, states, claim)
-    elif kind == "record" and claim["saved"] != all(map(has_new, expectation.targets)):
-        problems.append(f"saving the record returned {claim['saved']}")
+    elif kind == "record" and claim["saved"] and not all(map(has_new, expectation.targets)):
+        problems.append("saving the record returned true, and it is not there")
+    elif kind == "record" and not claim["saved"] and not claim["log"]:
+        problems.append("the record was not saved, and the log does not say so")
     elif kind in ("settings", "list") and not all(map(has_new, expectation.targets)) and not claim["log"]:
         problems.append("nothing was stored, and the log does not say so")
     if kind == "list" and claim["list"] and not has_new(scenarios.LIST):
@@ -125,20 +129,30 @@ def _save_faults(expectation, states, claim):
     problems = []
     tray, dialogs = claim["told"]["tray"], claim["told"]["dialogs"]
     notices = [entry for entry in tray if entry["title"] == SAVED]
+    # What the cloud may take has a dialog of its own: the user has wished otherwise, and may see to it.
+    of_list = [entry for entry in dialogs if entry["title"] == LIST_FAILED]
+    of_save = [entry for entry in dialogs if entry["title"] != LIST_FAILED]
     missing = [path for path in expectation.reports if states[path] != "new"]
     if claim["saved"] != bool(claim["generated"]):
         problems.append(f"save() is {claim['saved']}, but reportGenerated came {len(claim['generated'])} times")
     if len(notices) != len(claim["written"]):
         problems.append(f"the tray says {len(notices)} times \"{SAVED}\" for {len(claim['written'])} files")
+    if len(of_list) > 1:
+        problems.append(f"the user was told of the list in {len(of_list)} dialogs")
     if claim["saved"]:
         problems += [f"the user was told \"saved\", and {path} is not the new one" for path in missing]
-        if dialogs:
-            problems.append(f"a save that succeeded told of an error: {dialogs[0]['title']}")
-        silent = [path for path in expectation.targets if path not in expectation.reports and states[path] != "new"]
-        if silent and not claim["log"]:
-            problems.append(f"{silent[0]} was not stored, and the log does not say so")
-    elif len(dialogs) != 1:
-        problems.append(f"save() failed, and the user was told in {len(dialogs)} dialogs")
-    elif dialogs[0]["kind"] != ERROR:
-        problems.append(f"save() failed, and the dialog is no error: {dialogs[0]['title']}")
+        problems += [f"a save that succeeded told of an error: {entry['title']}" for entry in of_save]
+        problems += _silent_faults(expectation, states, claim, of_list)
+    elif len(of_save) != 1:
+        problems.append(f"save() failed, and the user was told in {len(of_save)} dialogs")
+    elif of_save[0]["kind"] != ERROR:
+        problems.append(f"save() failed, and the dialog is no error: {of_save[0]['title']}")
     return problems
+
+
+def _silent_faults(expectation, states, claim, of_list):
+    """What goes along with a report may fail, but not without a word."""
+    silent = [path for path in expectation.targets if path not in expectation.reports and states[path] != "new"]
+    if scenarios.LIST in silent and not of_list:
+        return ["the list does not say what the user wished, and the user was not told"]
+    return [f"{path} was not stored, and the log does not say so" for path in silent[:1] if not claim["log"]]
