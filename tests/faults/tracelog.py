@@ -140,7 +140,10 @@ def order_faults(calls, root, is_claimed):
             if call.place in unsynced:
                 problems.append(f"{call.shown}: the contents were not synced before")
             names.setdefault(os.path.dirname(call.target), {})[call.target] = call.shown
-        elif call.name in REMOVALS and not is_temporary and os.path.dirname(call.place) in names:
+        elif call.place in names.get(os.path.dirname(call.place), {}) and call.name in REMOVALS:
+            # A folder that was just made is given up.
+            del names[os.path.dirname(call.place)][call.place]
+        elif call.name in REMOVALS and not is_temporary and names.get(os.path.dirname(call.place)):
             problems.append(f"{call.shown} is removed before the folder of what takes its place is synced")
     targets = [call.target for call in calls if call.name in RENAMES and call.succeeded]
     for target in filter(lambda path: is_claimed(os.path.relpath(path, root)), targets):
