@@ -1,0 +1,683 @@
+#!/usr/bin/env python3
+"""Proves what is promised of saving: whatever happens to power, disk or stick, the user has the old file or the new one,
+whole, and is never told "saved" when it is not.
+
+Each scenario is saved once under strace, which lists every call to the file system. Then it is saved again for every
+call and every fault: killed before the call, or with that call failing. Each time everything that lies on the disk is
+compared with what was told, and one more save has to mend it and to leave nothing over.
+"""
+
+import argparse
+import concurrent.futures
+import itertools
+import json
+import os
+import re
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+import traceback
+import zlib
+from collections import Counter, defaultdict
+from dataclasses import dataclass
+
+sys.dont_write_bytecode = True
+import scenarios  # noqa: E402
+import tracelog  # noqa: E402
+import verdict  # noqa: E402
+
+SKIPPED = 77
+HANDSHAKE = ["-e", "inject=sched_get_priority_max:retval=7"]
+TRACED = "trace=" + ",".join("?" + name for name in tracelog.CHANGING + tracelog.READING) \
+    + ",sched_get_priority_max,sched_get_priority_min"
+QUIET = ["-qq", "-y", "-s", "8", "-e", "signal=none", "-e", TRACED]
+PATIENCE_S = 90
+OPTIONAL_IN_SHORT = 900
+SHORT_S = 75
+
+ERRORS = {
+    "opens": ["ENOSPC", "EIO", "EROFS", "EACCES", "EINTR"],
+    "opens to read": ["EIO", "EACCES", "EMFILE", "EINTR"],
+    "writes": ["ENOSPC", "EIO", "EINTR"],
+    "syncs": ["EIO", "ENOSPC", "EINTR"],
+    "closes": ["EIO", "ENOSPC", "EINTR"],
+    "names": ["ENOSPC", "EIO", "EROFS"],
+    "locks": ["ENOLCK", "EINTR", "EIO"],
+    "modes": ["EIO", "EROFS", "EPERM"],
+    "reads": ["EIO", "EINTR"],
+    "asks": ["EIO"],
+}
+
+# Failures that are let pass, as pairs of a pattern of what is printed and the reason. They are counted and shown.
+KNOWN = []
+
+
+def family(call):
+    name = call.name
+    if name in ("open", "openat", "creat"):
+        return "opens" if call.changes else "opens to read"
+    for names, label in ((tracelog.WRITES, "writes"), (tracelog.SYNCS, "syncs"), ({"close"}, "closes"), ({"flock"}, "locks"),
+                         (tracelog.RENAMES | tracelog.REMOVALS | tracelog.MAKERS, "names"),
+                         ({"link", "linkat", "symlink", "symlinkat"}, "names"), ({"read", "pread64"}, "reads")):
+        if name in names:
+            return label
+    return "modes" if call.changes else "asks"
+
+
+@dataclass(frozen=True)
+class Fault:
+    """One way of failing at one call. `actor` is who makes the call: "deed" or "gzip"."""
+
+    scenario: str
+    actor: str
+    call: str
+    number: int
+    kind: str
+
+    def __str__(self):
+        return f"{self.scenario}:{self.actor}.{self.call}.{self.number}:{self.kind}"
+
+    @property
+    def injection(self):
+        effect = "signal=SIGKILL" if self.kind == "kill" else "error=" + self.kind
+        return ["-e", f"inject={self.call}:{effect}:when={self.number}"]
+
+    @property
+    def is_short(self):
+        return self.kind in ("short", "full")
+
+    @property
+    def is_needed(self):
+        """Whether the short form has it always."""
+        if self.actor == "disk":
+            return self.call != "tmp" and (self.kind in ("64k", "read-only")
+                                           or self.kind == "1100k" and self.scenario.startswith("large"))
+        if self.kind == "kill":
+            return self.call in tracelog.RENAMES | tracelog.REMOVALS | tracelog.SYNCS
+        return self.kind == "ENOSPC" and self.call in tracelog.WRITES
+
+
+class Server:
+    """One process of savescenario, which does one deed at a time."""
+
+    def __init__(self, programs, folder):
+        environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": folder, "TZ": "UTC", "LC_ALL": "C.UTF-8",
+                       "LD_PRELOAD": programs["shortwrite"], "TMPDIR": folder, "QT_LOGGING_RULES": ""}
+        for name in ("UIUTILS_ROOT", "UIUTILS_SHORT_WRITE", "PLOV_PROVIDER", "PLOV_SHORTLABEL"):
+            environment.pop(name, None)
+        # pylint: disable=consider-using-with
+        self.process = subprocess.Popen([programs["savescenario"]], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                        stderr=subprocess.DEVNULL, env=environment)
+
+    def perform(self, order, trace):
+        """The answer to an order; `trace` is what strace is given besides, or None."""
+        self.process.stdin.write(json.dumps({**order, "traced": trace is not None}).encode() + b"\n")
+        self.process.stdin.flush()
+        pid = self._line()["process"]
+        tracer = None
+        if trace is not None:
+            # pylint: disable=consider-using-with
+            tracer = subprocess.Popen(["strace", *QUIET, *HANDSHAKE, *trace, "-p", str(pid)], stdin=subprocess.DEVNULL,
+                                      stderr=subprocess.DEVNULL)
+        answer = self._line()
+        if tracer:
+            tracer.wait(PATIENCE_S)
+        return answer
+
+    def _line(self):
+        line = self.process.stdout.readline()
+        if not line:
+            raise RuntimeError("savescenario has ended")
+        return json.loads(line)
+
+    def close(self):
+        self.process.stdin.close()
+        self.process.wait(PATIENCE_S)
+
+
+class Bench:
+    """Where runs are made: a folder, and a server for each thread."""
+
+    def __init__(self, programs, folder, keep):
+        self.programs, self.folder, self.keep = programs, folder, keep
+        self.local, self.servers, self.lock = threading.local(), [], threading.Lock()
+        self.numbers = itertools.count()
+        self.is_ending = False
+        self._make_gzip()
+
+    def _make_gzip(self):
+        """A gzip that is traced, for runs in whose PATH it comes first."""
+        self.bin = os.path.join(self.folder, "bin")
+        os.mkdir(self.bin)
+        path = os.path.join(self.bin, "gzip")
+        with open(path, "w", encoding="ascii") as script:
+            script.write('#!/bin/sh\nexec strace $UIUTILS_TRACE -o "$UIUTILS_TRACE_LOG" -- ' + shutil.which("gzip") + ' "$@"\n')
+        os.chmod(path, 0o755)
+
+    def server(self):
+        if not hasattr(self.local, "server"):
+            runtime = os.path.join(self.folder, f"runtime-{next(self.numbers)}")
+            os.mkdir(runtime, 0o700)
+            self.local.server = Server(self.programs, runtime)
+            with self.lock:
+                self.servers.append(self.local.server)
+        return self.local.server
+
+    def close(self):
+        for server in self.servers:
+            server.close()
+
+
+class Run:
+    """A root of its own and what is done in it."""
+
+    def __init__(self, bench, before, place=None):
+        self.bench = bench
+        self.folder = os.path.join(bench.folder, f"run-{next(bench.numbers)}")
+        self.root, self.temporary = os.path.join(self.folder, "root"), os.path.join(self.folder, "tmp")
+        self.log, self.short_log = os.path.join(self.folder, "log"), os.path.join(self.folder, "short")
+        os.makedirs(self.temporary)
+        os.makedirs(self.root)
+        if place:
+            place(self)
+        for path, contents in before.items():
+            self._put(path, contents)
+        os.makedirs(os.path.join(self.root, "mnt/usb"), exist_ok=True)
+
+    def _put(self, path, contents):
+        path = os.path.join(self.root, path)
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "wb") as file:
+            file.write(contents)
+
+    @property
+    def places(self):
+        return [(self.root, ""), (self.temporary, "tmp:")]
+
+    def save(self, order, variant, fault=None, actor=None):
+        """Does the deed under the fault, or under a trace of `actor`, or just so."""
+        environment = {"UIUTILS_ROOT": self.root, "TMPDIR": self.temporary, "PATH": os.environ["PATH"],
+                       "UIUTILS_SHORT_WRITE": ""}
+        order = {**order, "variant": variant, "environment": environment}
+        actor = fault.actor if fault else actor
+        trace = None
+        if fault and fault.is_short:
+            program = "savescenario" if actor == "deed" else "gzip"
+            order["shortWrite"] = f"{program}:{fault.number}:{fault.kind}:{self.short_log}"
+        elif actor == "deed":
+            trace = ["-o", self.log] + (fault.injection if fault else [])
+        elif actor == "gzip":
+            environment["PATH"] = self.bench.bin + ":" + environment["PATH"]
+            environment["UIUTILS_TRACE"] = " ".join(QUIET + (fault.injection if fault else []))
+            environment["UIUTILS_TRACE_LOG"] = self.log
+        return self.bench.server().perform(order, trace)
+
+    def calls(self):
+        return tracelog.read_log(self.log, self.places)
+
+    def state(self):
+        return verdict.snapshot(self.root)
+
+    def temporaries(self):
+        return sorted(os.listdir(self.temporary))
+
+    def end(self):
+        if not self.bench.keep:
+            shutil.rmtree(self.folder, ignore_errors=True)
+
+
+@dataclass
+class Prepared:
+    """A scenario that was saved once without a fault."""
+
+    scenario: scenarios.Scenario
+    expectation: verdict.Expectation
+    calls: dict  # by actor
+    problems: list
+
+
+def overwriting(order):
+    return {**order, "overwrite": True}
+
+
+def deed_of(scenario):
+    return {**scenario.order, "overwrite": scenario.prior is not None}
+
+
+def prepare(bench, scenario):
+    run = Run(bench, scenario.files)
+    problems = []
+    if scenario.prior is not None:
+        answer = run.save(overwriting(scenario.prior), "old")
+        if answer["claim"].get("saved") is False:
+            problems.append("what was to lie there before could not be saved")
+    before = run.state()
+    clean = Run(bench, before)
+    answer = clean.save(deed_of(scenario), "new", actor="deed")
+    after = clean.state()
+    calls = {"deed": clean.calls()}
+    expectation = verdict.Expectation(before, after)
+    problems += clean_faults(scenario, expectation, after, answer) + [f"{path} is left in TMPDIR" for path in clean.temporaries()]
+    problems += tracelog.order_faults(calls["deed"], clean.root, claimed(scenario, expectation, answer["claim"]))
+    if scenario.order.get("compressed"):
+        packed = Run(bench, before)
+        packed.save(deed_of(scenario), "new", actor="gzip")
+        calls["gzip"] = packed.calls()
+        if not calls["gzip"]:
+            problems.append("gzip was not seen")
+        packed.end()
+    run.end()
+    clean.end()
+    return Prepared(scenario, expectation, calls, problems)
+
+
+def clean_faults(scenario, expectation, after, answer):
+    if answer["signal"] or answer["exit"] != 0:
+        return [f"it ended with signal {answer['signal']}, status {answer['exit']}"]
+    problems = verdict.claim_faults(scenario.order["kind"], expectation, after, answer["claim"])
+    if scenario.reports is not None and sorted(expectation.reports) != sorted(scenario.reports):
+        problems.append(f"reports are {sorted(expectation.reports)}, not {sorted(scenario.reports)}")
+    if scenario.reports is not None and not answer["claim"]["saved"]:
+        problems.append("a save without a fault failed")
+    if not expectation.targets:
+        problems.append("nothing was written")
+    return problems + [f"{path} is left over" for path in verdict.leftovers(after)]
+
+
+def faults_of(prepared, with_reading):
+    for actor, calls in prepared.calls.items():
+        for call in calls:
+            if not call.changes and not with_reading:
+                continue
+            name = prepared.scenario.name
+            if call.changes:
+                yield Fault(name, actor, call.name, call.number, "kill")
+            for error in ERRORS[family(call)]:
+                yield Fault(name, actor, call.name, call.number, error)
+            if call.name == "write":
+                yield Fault(name, actor, call.name, call.of_files, "short")
+                yield Fault(name, actor, call.name, call.of_files, "full")
+
+
+def call_of(prepared, fault):
+    for call in prepared.calls[fault.actor]:
+        if call.name == fault.call and fault.number == (call.of_files if fault.is_short else call.number):
+            return call
+    return None
+
+
+def expected_place(prepared, fault):
+    call = call_of(prepared, fault)
+    return call.shown if call else None
+
+
+def hit_place(run, fault):
+    """Where the fault struck; None when it did not."""
+    if fault.is_short:
+        try:
+            with open(run.short_log, encoding="utf-8") as log:
+                return tracelog.shown(log.read(), run.places)
+        except FileNotFoundError:
+            return None
+    for call in run.calls():
+        if call.name == fault.call and call.number == fault.number and (call.injected or not call.succeeded):
+            return call.shown
+    return None
+
+
+def try_fault(bench, prepared, fault):
+    """What is wrong after this fault."""
+    scenario, expectation = prepared.scenario, prepared.expectation
+    run = Run(bench, expectation.before)
+    answer = run.save(deed_of(scenario), "new", fault)
+    problems = []
+    place, hit = expected_place(prepared, fault), hit_place(run, fault)
+    if hit != place:
+        problems.append(f"the fault did not strike {place}, but {hit}")
+    problems += judge(run, prepared, answer, fault)
+    problems += mend(run, prepared)
+    if problems and bench.keep:
+        problems.append(f"all of it is in {run.folder}")
+    run.end()
+    return problems
+
+
+def judge(run, prepared, answer, fault):
+    expectation, actual = prepared.expectation, run.state()
+    problems = verdict.file_faults(expectation, actual)
+    is_traced = fault and fault.actor == "deed" and not fault.is_short
+    if fault and fault.kind == "kill" and fault.actor == "deed":
+        if answer["signal"] != signal.SIGKILL:
+            problems.append("it was not killed")
+        return problems + tracelog.order_faults(run.calls(), run.root, lambda _: False)
+    if answer["signal"] or answer["exit"] != 0:
+        return problems + [f"it ended with signal {answer['signal']}, status {answer['exit']}"]
+    claim = answer["claim"]
+    problems += verdict.claim_faults(prepared.scenario.order["kind"], expectation, actual, claim)
+    if is_traced:
+        problems += tracelog.order_faults(
+            run.calls(), run.root, claimed(prepared.scenario, expectation, claim))
+    call = call_of(prepared, fault) if fault else None
+    if not call or not (call.name in tracelog.TIDYING or call.opens_folder):
+        problems += [f"{path} is left over" for path in verdict.leftovers(actual)]
+        problems += [f"{path} is left in TMPDIR" for path in run.temporaries()]
+    return problems
+
+
+def claimed(scenario, expectation, claim):
+    """Of a path, whether the user, or whoever called, was told that the file is saved."""
+    if scenario.order["kind"] == "report":
+        told = {path.lstrip("/") for path in claim.get("written", [])}
+        told.update(expectation.reports if claim.get("saved") else [])
+        return lambda path: path in told
+    return lambda path: bool(claim.get("saved")) and path in expectation.targets
+
+
+def mend(run, prepared):
+    """One more save, without a fault, in what was left."""
+    answer = run.save(overwriting(prepared.scenario.order), "new")
+    actual = run.state()
+    problems = clean_faults(prepared.scenario, prepared.expectation, actual, answer)
+    problems += [f"{path} {state}" for path, state in prepared.expectation.states(actual).items()
+                 if state != "new" and path in prepared.expectation.targets or state not in ("old", "new")]
+    problems += [f"{path} should have gone" for path in prepared.expectation.gone if path in actual]
+    return ["after one more save: " + problem for problem in problems]
+
+
+# --- Disks of a size ---
+
+class Disk:
+    """A file system of its own at one of the places, full up to a size, or read-only."""
+
+    SIZES = ["0", "4k", "16k", "64k", "1028k", "1040k", "1060k", "1100k", "1200k", "2m"]
+
+    def __init__(self, place, size):
+        self.place, self.size = place, size
+
+    def folder(self, run):
+        return {"root": run.root, "stick": os.path.join(run.root, "mnt/usb"), "tmp": run.temporary}[self.place]
+
+    def mount(self, run):
+        folder = self.folder(run)
+        os.makedirs(folder, exist_ok=True)
+        subprocess.run(["mount", "-t", "tmpfs", "-o", "size=64m,mode=0755", "faultproof", folder], check=True)
+
+    def fill(self, run):
+        """Leaves so much room as the size says."""
+        folder = self.folder(run)
+        if self.size == "read-only":
+            return self._remount(run, "ro")
+        used = os.statvfs(folder)
+        bytes_used = (used.f_blocks - used.f_bfree) * used.f_bsize
+        room = int(self.size.rstrip("km")) * {"k": 1024, "m": 1024 * 1024}.get(self.size[-1:], 1)
+        return self._remount(run, f"size={max(bytes_used + room, 4096)}")
+
+    def empty(self, run):
+        self._remount(run, "rw,size=64m")
+
+    def _remount(self, run, options):
+        subprocess.run(["mount", "-o", "remount," + options, self.folder(run)], check=True)
+
+    def unmount(self, run):
+        subprocess.run(["umount", "-l", self.folder(run)], check=True)
+
+
+def may_mount(folder):
+    place = os.path.join(folder, "mount")
+    os.mkdir(place)
+    if subprocess.run(["mount", "-t", "tmpfs", "none", place], capture_output=True, check=False).returncode != 0:
+        return False
+    return subprocess.run(["umount", place], capture_output=True, check=False).returncode == 0
+
+
+def disk_runs(prepared):
+    scenario = prepared.scenario
+    places = ["root", "tmp"] + (["stick"] if scenario.order.get("location") else [])
+    for place, size in itertools.product(places, Disk.SIZES + ["read-only"]):
+        yield Fault(scenario.name, "disk", place, 0, size)
+
+
+def try_disk(bench, prepared, fault):
+    disk = Disk(fault.call, fault.kind)
+    run = Run(bench, prepared.expectation.before, disk.mount)
+    try:
+        disk.fill(run)
+        answer = run.save(deed_of(prepared.scenario), "new")
+        problems = judge(run, prepared, answer, None)
+        disk.empty(run)
+        problems += mend(run, prepared)
+    finally:
+        disk.unmount(run)
+    run.end()
+    return problems
+
+
+# --- All of it ---
+
+def chosen(faults, is_long):
+    """The short form has what is needed first, then a spread that is the same each time."""
+    if is_long:
+        return faults
+    needed = [fault for fault in faults if fault.is_needed]
+    others = sorted(set(faults) - set(needed), key=lambda fault: zlib.crc32(str(fault).encode()))
+    return needed + others[:OPTIONAL_IN_SHORT]
+
+
+class Report:
+    """What came of all runs."""
+
+    def __init__(self):
+        self.lock = threading.Lock()
+        self.counts = defaultdict(Counter)
+        self.failures, self.known = [], []
+
+    def add(self, fault, problems):
+        known = [problem for problem in problems if reason_for(problem)]
+        problems = [problem for problem in problems if problem not in known]
+        column = {"kill": "kills", "none": "none"}.get(fault.kind, "disks" if fault.actor == "disk" else "errors")
+        with self.lock:
+            if column != "none":
+                self.counts[fault.scenario][column] += 1
+            if known:
+                self.counts[fault.scenario]["known"] += 1
+                self.known.append((fault, known))
+            if problems:
+                self.counts[fault.scenario]["failures"] += 1
+                self.failures.append((fault, problems))
+
+    def print_table(self, prepared):
+        columns = ["calls", "kills", "errors", "disks", "known", "failures"]
+        for item in prepared:
+            self.counts[item.scenario.name]["calls"] = sum(
+                call.changes for calls in item.calls.values() for call in calls)
+        total = sum(self.counts.values(), Counter())
+        print(f"{'scenario':<18}" + "".join(f"{column:>10}" for column in columns))
+        for name, counts in [*self.counts.items(), ("total", total)]:
+            print(f"{name:<18}" + "".join(f"{counts[column]:>10}" for column in columns))
+
+    def print_failures(self, command, limit):
+        for text, faults in _by_kind(self.known):
+            print(f"\nknown, in {len(faults)} runs: {text}\n  {reason_for(text)}")
+        kinds = _by_kind(self.failures)
+        for text, faults in kinds[:limit]:
+            print(f"\nFAILED in {len(faults)} runs: {text}\n  repeat one: {command} --repeat '{faults[0]}'")
+        if len(kinds) > limit:
+            print(f"\nand {len(kinds) - limit} other kinds of failure")
+
+
+def _by_kind(failures):
+    """Pairs of a kind and its faults, the most frequent first."""
+    kinds = defaultdict(list)
+    for fault, problems in failures:
+        for text in {kind_of(problem) for problem in problems}:
+            kinds[text].append(fault)
+    return sorted(kinds.items(), key=lambda item: -len(item[1]))
+
+
+def reason_for(problem):
+    """Why a failure is known and let pass; None when it is not."""
+    return next((reason for pattern, reason in KNOWN if re.search(pattern, problem)), None)
+
+
+def kind_of(problem):
+    """The same for all files of a kind."""
+    return problem if "Traceback" in problem else re.sub(r"Fibre 12[.a-z]*", "REPORT", tracelog.neutral(problem))
+
+
+def find_programs(folder):
+    base = os.path.abspath(folder)
+    places = [base, os.path.join(base, "../../bin"), os.path.join(base, "../../lib"), os.path.join(base, "bin"),
+              os.path.join(base, "lib")]
+    found = {}
+    for name, file in (("savescenario", "savescenario"), ("shortwrite", "libshortwrite.so")):
+        found[name] = next((os.path.join(place, file) for place in places if os.path.exists(os.path.join(place, file))), None)
+        if not found[name]:
+            sys.exit(f"{file} is not built: there is none in {folder}")
+    return found
+
+
+def why_not_here():
+    """What this proof needs and this machine does not have; None when all is there."""
+    for tool in ("strace", "qpdf", "gzip"):
+        if not shutil.which(tool):
+            return f"there is no {tool}"
+    for arguments in (["-f", "true"],):
+        if subprocess.run(["strace", "-o", "/dev/null", *arguments], capture_output=True, check=False).returncode != 0:
+            return "processes may not be traced here"
+    return None
+
+
+def may_attach(bench):
+    try:
+        run = Run(bench, {})
+        run.save({"kind": "settings"}, "new", actor="deed")
+        return bool(run.calls())
+    except RuntimeError:
+        return False
+    finally:
+        run.end()
+
+
+def arguments():
+    parser = argparse.ArgumentParser(description=__doc__.split("\n\n", maxsplit=1)[0])
+    parser.add_argument("--programs", default=os.path.join(os.path.dirname(__file__), "../../build/dev"),
+                        help="build folder")
+    parser.add_argument("--long", action="store_true", help="every call, every fault")
+    parser.add_argument("--only", metavar="SCENARIO", help="this scenario alone")
+    parser.add_argument("--list", action="store_true", help="print scenarios and their calls")
+    parser.add_argument("--repeat", metavar="SCENARIO:CALL:FAULT", help="this one run")
+    parser.add_argument("--keep", action="store_true", help="leave the folders of the runs")
+    parser.add_argument("--jobs", type=int, default=min(2, os.cpu_count() or 1))
+    parser.add_argument("--work", help="folder for the runs")
+    return parser.parse_args()
+
+
+def working_folder(options):
+    """In memory where there is some: the faults are made, and need no disk. What killed runs have left there goes."""
+    parent = options.work or ("/dev/shm" if os.access("/dev/shm", os.W_OK) else tempfile.gettempdir())
+    for name in os.listdir(parent):
+        match = re.fullmatch(r"faultproof-(\d+)-\w+", name)
+        if match and not os.path.exists("/proc/" + match.group(1)):
+            shutil.rmtree(os.path.join(parent, name), ignore_errors=True)
+    return tempfile.mkdtemp(prefix=f"faultproof-{os.getpid()}-", dir=parent)
+
+
+def parsed(text):
+    scenario, call, kind = text.split(":")
+    actor, name, number = call.split(".")
+    return Fault(scenario, actor, name, int(number), kind)
+
+
+def print_list(prepared):
+    for item in prepared:
+        print(item.scenario.name)
+        for actor, calls in item.calls.items():
+            for call in calls:
+                mark = "*" if call.changes else " "
+                print(f"  {mark} {actor}.{call.name}.{call.number}  {call.shown}  = {call.result}")
+
+
+def work(bench, options, selected):
+    deadline = time.monotonic() + SHORT_S
+    report = Report()
+    with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
+        prepared = list(pool.map(lambda scenario: prepare(bench, scenario), selected))
+        if options.list:
+            print_list(prepared)
+            return 0
+        by_name = {item.scenario.name: item for item in prepared}
+        can_mount = may_mount(bench.folder)
+        if options.repeat:
+            faults = [fault for fault in [parsed(options.repeat)] if fault.kind != "none"]
+        else:
+            everything = [fault for item in prepared for fault in faults_of(item, True)]
+            if can_mount:
+                everything += [fault for item in prepared for fault in disk_runs(item)]
+            faults = chosen(everything, options.long)
+
+        def run_one(fault):
+            is_late = time.monotonic() > deadline and not options.long and not options.repeat
+            if bench.is_ending or is_late and not fault.is_needed:
+                return False
+            attempt = try_disk if fault.actor == "disk" else try_fault
+            try:
+                report.add(fault, attempt(bench, by_name[fault.scenario], fault))
+            except Exception:  # a run that breaks the proof is a failure of that run
+                report.add(fault, [traceback.format_exc()])
+            return True
+
+        try:
+            done = sum(pool.map(run_one, faults))
+        except KeyboardInterrupt:
+            bench.is_ending = True
+            raise
+    for item in prepared:
+        if item.problems:
+            report.add(Fault(item.scenario.name, "deed", "none", 0, "none"), item.problems)
+    report.print_table(prepared)
+    if not can_mount:
+        print("skipped: full and read-only disks, because nothing can be mounted here")
+    if done < len(faults):
+        print(f"{len(faults) - done} of the runs of the short form were left out: the machine is slow")
+    report.print_failures(f"{sys.argv[0]} --programs {options.programs}", 40)
+    return 1 if report.failures else 0
+
+
+def main():
+    options = arguments()
+    reason = why_not_here()
+    if reason:
+        print(f"skipped: {reason}")
+        return SKIPPED
+    wanted = options.only or (options.repeat or "").split(":")[0]
+    selected = [scenario for scenario in scenarios.all_scenarios() if wanted in ("", scenario.name)]
+    if not selected:
+        sys.exit(f"there is no scenario {wanted}")
+    folder = working_folder(options)
+    bench = Bench(find_programs(options.programs), folder, options.keep)
+    started = time.monotonic()
+    # The folder goes then, too.
+    signal.signal(signal.SIGTERM, lambda *_: os.kill(os.getpid(), signal.SIGINT))
+    try:
+        if not may_attach(bench):
+            print("skipped: processes may not be traced here")
+            return SKIPPED
+        return work(bench, options, selected)
+    except KeyboardInterrupt:
+        print("stopped")
+        return 1
+    finally:
+        bench.close()
+        print(f"\n{time.monotonic() - started:.0f} s")
+        if options.keep:
+            print(f"kept: {folder}")
+        else:
+            shutil.rmtree(folder, ignore_errors=True)
+
+
+if __name__ == "__main__":
+    sys.exit(main())
