@@ -13,7 +13,6 @@ ModalDialog {
     property int delay: 200
 
     readonly property bool isSaving: report ? report.interactive && report.saving : false
-    // The controller does not tell that the next save starts at the beginning.
     readonly property real progress: isSaving ? report.progress : 0
     property bool isCancelled: false
 
