@@ -90,7 +90,7 @@ ApplicationWindow {
             }
             CameraButton {
                 objectName: "cameraButton"
-                enabled: shortcut.enabled
+                enabled: cameraShortcut.enabled
                 onClicked: camera.shoot(window)
             }
         }
@@ -164,7 +164,7 @@ ApplicationWindow {
     Shortcut { sequence: "Ctrl+5"; onActivated: navigation.currentIndex = 4 }
 
     Shortcut {
-        id: shortcut
+        id: cameraShortcut
         // Pictures of dialogs as well.
         context: Qt.ApplicationShortcut
         enabled: !window.report.saving

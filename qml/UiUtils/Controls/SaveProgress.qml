@@ -30,7 +30,15 @@ ModalDialog {
         return item && item.value ? item.value : report.title
     }
 
+    // The click that started the save is not over, and the button would take the next one for its own, wherever that is.
+    function takePointerFromPage() {
+        const page = overlay.parent
+        page.enabled = false
+        page.enabled = true
+    }
+
     onAboutToShow: {
+        takePointerFromPage()
         isCancelled = false
         isInSight = delay <= 0
     }
