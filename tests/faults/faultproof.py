@@ -391,39 +391,40 @@ def mend(run, prepared):
 # --- Disks of a size ---
 
 class Disk:
-    """A file system of its own at one of the places, full up to a size, or read-only."""
+    """A file system of its own at one of the places, with so much room left, or read-only."""
 
     SIZES = ["0", "4k", "16k", "64k", "1028k", "1040k", "1060k", "1100k", "1200k", "2m"]
 
-    def __init__(self, place, size):
-        self.place, self.size = place, size
+    def __init__(self, run, place, size):
+        self.size = size
+        self.folder = {"root": run.root, "stick": os.path.join(run.root, "mnt/usb"), "tmp": run.temporary}[place]
+        self.ballast = os.path.join(self.folder, "ballast")
 
-    def folder(self, run):
-        return {"root": run.root, "stick": os.path.join(run.root, "mnt/usb"), "tmp": run.temporary}[self.place]
+    def mount(self):
+        os.makedirs(self.folder, exist_ok=True)
+        self._call("mount", "-t", "tmpfs", "-o", "size=16m,mode=0755", "faultproof", self.folder)
 
-    def mount(self, run):
-        folder = self.folder(run)
-        os.makedirs(folder, exist_ok=True)
-        subprocess.run(["mount", "-t", "tmpfs", "-o", "size=64m,mode=0755", "faultproof", folder], check=True)
-
-    def fill(self, run):
-        """Leaves so much room as the size says."""
-        folder = self.folder(run)
+    def fill(self):
         if self.size == "read-only":
-            return self._remount(run, "ro")
-        used = os.statvfs(folder)
-        bytes_used = (used.f_blocks - used.f_bfree) * used.f_bsize
-        room = int(self.size.rstrip("km")) * {"k": 1024, "m": 1024 * 1024}.get(self.size[-1:], 1)
-        return self._remount(run, f"size={max(bytes_used + room, 4096)}")
+            return self._call("mount", "-o", "remount,bind,ro", self.folder)
+        system = os.statvfs(self.folder)
+        room = int(self.size.rstrip("km")) * {"k": 1024, "m": 1024 * 1024}.get(self.size[-1], 1)
+        with open(self.ballast, "wb") as file:
+            os.posix_fallocate(file.fileno(), 0, system.f_bavail * system.f_bsize - room)
+        return None
 
-    def empty(self, run):
-        self._remount(run, "rw,size=64m")
+    def empty(self):
+        if self.size == "read-only":
+            self._call("mount", "-o", "remount,bind,rw", self.folder)
+        else:
+            os.remove(self.ballast)
 
-    def _remount(self, run, options):
-        subprocess.run(["mount", "-o", "remount," + options, self.folder(run)], check=True)
+    def unmount(self):
+        self._call("umount", "-l", self.folder)
 
-    def unmount(self, run):
-        subprocess.run(["umount", "-l", self.folder(run)], check=True)
+    @staticmethod
+    def _call(*command):
+        subprocess.run(command, check=True)
 
 
 def may_mount(folder):
@@ -442,16 +443,20 @@ def disk_runs(prepared):
 
 
 def try_disk(bench, prepared, fault):
-    disk = Disk(fault.call, fault.kind)
-    run = Run(bench, prepared.expectation.before, disk.mount)
+    disks = []
+
+    def place(run):
+        disks.append(Disk(run, fault.call, fault.kind))
+        disks[0].mount()
+
+    run = Run(bench, prepared.expectation.before, place)
     try:
-        disk.fill(run)
+        disks[0].fill()
         answer = run.save(deed_of(prepared.scenario), "new")
-        problems = judge(run, prepared, answer, None)
-        disk.empty(run)
-        problems += mend(run, prepared)
+        disks[0].empty()
+        problems = judge(run, prepared, answer, None) + mend(run, prepared)
     finally:
-        disk.unmount(run)
+        disks[0].unmount()
     run.end()
     return problems
 
@@ -647,8 +652,19 @@ def work(bench, options, selected):
     return 1 if report.failures else 0
 
 
+def enter_own_mounts():
+    """Goes on with mounts that nobody else sees and that go with this process, where that is allowed."""
+    if os.environ.get("FAULTPROOF_MOUNTS"):
+        return
+    os.environ["FAULTPROOF_MOUNTS"] = "own"
+    command = ["unshare", "-m" if os.geteuid() == 0 else "-rm"]
+    if shutil.which("unshare") and subprocess.run([*command, "true"], capture_output=True, check=False).returncode == 0:
+        os.execvp("unshare", [*command, sys.executable, *sys.argv])
+
+
 def main():
     options = arguments()
+    enter_own_mounts()
     reason = why_not_here()
     if reason:
         print(f"skipped: {reason}")
