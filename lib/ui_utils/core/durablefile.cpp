@@ -20,14 +20,24 @@ QString systemError()
     return qt_error_string(errno);
 }
 
-/// Makes the rename survive a power cut. Not an error when it fails: the file is whole under its name either way.
-void syncFolder(const QString& folder)
+/// Makes the rename survive a power cut. File systems that cannot sync a folder keep it by other means, or not at all.
+bool syncFolder(const QString& folder)
 {
-    const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    int fd = -1;
+    do {
+        fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    } while (fd < 0 && errno == EINTR);
+    // A folder may be one to write into and not to list.
     if (fd < 0)
-        return;
-    ::fsync(fd);
+        return errno == EACCES;
+    int result = 0;
+    do {
+        result = ::fsync(fd);
+    } while (result != 0 && errno == EINTR);
+    const int reason = errno;
     ::close(fd);
+    errno = reason;
+    return result == 0 || reason == EINVAL || reason == EOPNOTSUPP;
 }
 
 QString failure(const char* text, const QString& path, const QString& reason)
@@ -64,8 +74,10 @@ bool writeFileDurably(const QString& path, const QByteArray& contents, QString* 
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot replace %1: %2"), path, systemError());
         return false;
     }
-    syncFolder(QFileInfo(path).path());
-    return true;
+    if (syncFolder(QFileInfo(path).path()))
+        return true;
+    message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot make sure that %1 outlives a power cut: %2"), path, systemError());
+    return false;
 }
 
 } // namespace uiutils

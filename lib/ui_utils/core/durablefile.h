@@ -13,8 +13,9 @@ namespace uiutils {
 /// The new file has a name of its own that nobody else has, or `temporary`, a path in the same folder; a file that lies
 /// there goes. What an earlier call has left in the folder, when its process was killed or the power went, goes first.
 ///
-/// Returns false when any step failed or the path holds a NUL character; the target is then untouched, nothing is left
-/// beside it, and `error`, if given, says which file, which step and why.
+/// Returns false when any step failed or the path holds a NUL character, with nothing left beside the target; `error`, if
+/// given, says which file, which step and why. The target is then untouched, but for the last step: a folder that cannot be
+/// synced may forget after a power cut what it holds now.
 [[nodiscard]] bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error = nullptr,
         const QString& temporary = QString());
 
