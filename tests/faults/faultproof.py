@@ -52,8 +52,11 @@ ERRORS = {
     "asks": ["EIO"],
 }
 
-# Failures that are let pass, as pairs of a pattern of what is printed and the reason. They are counted and shown.
-KNOWN = []
+# Failures that are let pass: kind of the fault, pattern of the failure, reason. They are counted and shown.
+KNOWN = [
+    ("EACCES", r"is not synced: a power cut could undo",
+     "A folder that may be written to and not listed cannot be opened to be synced."),
+]
 
 
 def family(call):
@@ -481,7 +484,7 @@ class Report:
         self.failures, self.known = [], []
 
     def add(self, fault, problems):
-        known = [problem for problem in problems if reason_for(problem)]
+        known = [problem for problem in problems if reason_for(fault, problem)]
         problems = [problem for problem in problems if problem not in known]
         column = {"kill": "kills", "none": "none"}.get(fault.kind, "disks" if fault.actor == "disk" else "errors")
         with self.lock:
@@ -506,7 +509,7 @@ class Report:
 
     def print_failures(self, command, limit):
         for text, faults in _by_kind(self.known):
-            print(f"\nknown, in {len(faults)} runs: {text}\n  {reason_for(text)}")
+            print(f"\nknown, in {len(faults)} runs: {text}\n  {reason_for(faults[0], text)}")
         kinds = _by_kind(self.failures)
         for text, faults in kinds[:limit]:
             print(f"\nFAILED in {len(faults)} runs: {text}\n  repeat one: {command} --repeat '{faults[0]}'")
@@ -523,9 +526,9 @@ def _by_kind(failures):
     return sorted(kinds.items(), key=lambda item: -len(item[1]))
 
 
-def reason_for(problem):
+def reason_for(fault, problem):
     """Why a failure is known and let pass; None when it is not."""
-    return next((reason for pattern, reason in KNOWN if re.search(pattern, problem)), None)
+    return next((reason for kind, pattern, reason in KNOWN if kind == fault.kind and re.search(pattern, problem)), None)
 
 
 def kind_of(problem):
