@@ -9,6 +9,7 @@ compared with what was told, and one more save has to mend it and to leave nothi
 
 import argparse
 import concurrent.futures
+import errno
 import itertools
 import json
 import os
@@ -90,8 +91,9 @@ class Fault:
         return ["-e", f"inject={self.call}:{effect}:when={self.number}"]
 
     @property
-    def is_short(self):
-        return self.kind in ("short", "full")
+    def is_preloaded(self):
+        """Whether it is made in the process: strace leaves out the call that it answers, and a descriptor stays open."""
+        return self.kind in ("short", "full") or self.call == "close" and self.kind != "kill"
 
     @property
     def is_needed(self):
@@ -109,8 +111,8 @@ class Server:
 
     def __init__(self, programs, folder):
         environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": folder, "TZ": "UTC", "LC_ALL": "C.UTF-8",
-                       "LD_PRELOAD": programs["shortwrite"], "TMPDIR": folder, "QT_LOGGING_RULES": ""}
-        for name in ("UIUTILS_ROOT", "UIUTILS_SHORT_WRITE", "PLOV_PROVIDER", "PLOV_SHORTLABEL"):
+                       "LD_PRELOAD": programs["preload"], "TMPDIR": folder, "QT_LOGGING_RULES": ""}
+        for name in ("UIUTILS_ROOT", "UIUTILS_FAULT", "PLOV_PROVIDER", "PLOV_SHORTLABEL"):
             environment.pop(name, None)
         # pylint: disable=consider-using-with
         self.process = subprocess.Popen([programs["savescenario"]], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
@@ -182,7 +184,7 @@ class Run:
         self.bench = bench
         self.folder = os.path.join(bench.folder, f"run-{next(bench.numbers)}")
         self.root, self.temporary = os.path.join(self.folder, "root"), os.path.join(self.folder, "tmp")
-        self.log, self.short_log = os.path.join(self.folder, "log"), os.path.join(self.folder, "short")
+        self.log, self.preload_log = os.path.join(self.folder, "log"), os.path.join(self.folder, "preloaded")
         os.makedirs(self.temporary)
         os.makedirs(self.root)
         if place:
@@ -204,13 +206,14 @@ class Run:
     def save(self, order, variant, fault=None, actor=None):
         """Does the deed under the fault, or under a trace of `actor`, or just so."""
         environment = {"UIUTILS_ROOT": self.root, "TMPDIR": self.temporary, "PATH": os.environ["PATH"],
-                       "UIUTILS_SHORT_WRITE": ""}
+                       "UIUTILS_FAULT": ""}
         order = {**order, "variant": variant, "environment": environment}
         actor = fault.actor if fault else actor
         trace = None
-        if fault and fault.is_short:
+        if fault and fault.is_preloaded:
             program = "savescenario" if actor == "deed" else "gzip"
-            order["shortWrite"] = f"{program}:{fault.number}:{fault.kind}:{self.short_log}"
+            mode = getattr(errno, fault.kind, fault.kind)
+            order["preloaded"] = f"{program}:{fault.number}:{mode}:{self.preload_log}"
         elif actor == "deed":
             trace = ["-o", self.log] + (fault.injection if fault else [])
         elif actor == "gzip":
@@ -299,8 +302,8 @@ def faults_of(prepared, with_reading):
             name = prepared.scenario.name
             if call.changes:
                 yield Fault(name, actor, call.name, call.number, "kill")
-            for error in ERRORS[family(call)]:
-                yield Fault(name, actor, call.name, call.number, error)
+            for error in ERRORS[family(call)] if call.name != "close" or call.changes else ():
+                yield Fault(name, actor, call.name, call.of_files if call.name == "close" else call.number, error)
             if call.name == "write":
                 yield Fault(name, actor, call.name, call.of_files, "short")
                 yield Fault(name, actor, call.name, call.of_files, "full")
@@ -308,7 +311,7 @@ def faults_of(prepared, with_reading):
 
 def call_of(prepared, fault):
     for call in prepared.calls[fault.actor]:
-        if call.name == fault.call and fault.number == (call.of_files if fault.is_short else call.number):
+        if call.name == fault.call and fault.number == (call.of_files if fault.is_preloaded else call.number):
             return call
     return None
 
@@ -320,9 +323,9 @@ def expected_place(prepared, fault):
 
 def hit_place(run, fault):
     """Where the fault struck; None when it did not."""
-    if fault.is_short:
+    if fault.is_preloaded:
         try:
-            with open(run.short_log, encoding="utf-8") as log:
+            with open(run.preload_log, encoding="utf-8") as log:
                 return tracelog.shown(log.read(), run.places)
         except FileNotFoundError:
             return None
@@ -339,7 +342,9 @@ def try_fault(bench, prepared, fault):
     answer = run.save(deed_of(scenario), "new", fault)
     problems = []
     place, hit = expected_place(prepared, fault), hit_place(run, fault)
-    if hit != place:
+    if not place:
+        problems.append("there is no such call")
+    elif hit != place:
         problems.append(f"the fault did not strike {place}, but {hit}")
     problems += judge(run, prepared, answer, fault)
     problems += mend(run, prepared)
@@ -352,7 +357,7 @@ def try_fault(bench, prepared, fault):
 def judge(run, prepared, answer, fault):
     expectation, actual = prepared.expectation, run.state()
     problems = verdict.file_faults(expectation, actual)
-    is_traced = fault and fault.actor == "deed" and not fault.is_short
+    is_traced = fault and fault.actor == "deed" and not fault.is_preloaded
     if fault and fault.kind == "kill" and fault.actor == "deed":
         if answer["signal"] != signal.SIGKILL:
             problems.append("it was not killed")
@@ -541,7 +546,7 @@ def find_programs(folder):
     places = [base, os.path.join(base, "../../bin"), os.path.join(base, "../../lib"), os.path.join(base, "bin"),
               os.path.join(base, "lib")]
     found = {}
-    for name, file in (("savescenario", "savescenario"), ("shortwrite", "libshortwrite.so")):
+    for name, file in (("savescenario", "savescenario"), ("preload", "libfaultpreload.so")):
         found[name] = next((os.path.join(place, file) for place in places if os.path.exists(os.path.join(place, file))), None)
         if not found[name]:
             sys.exit(f"{file} is not built: there is none in {folder}")
