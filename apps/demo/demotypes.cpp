@@ -4,6 +4,8 @@
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
 #include "samplemodel.h"
+#include "savedreportactions.h"
+#include "screencamera.h"
 #include "usbstick.h"
 
 #include <QUrl>
@@ -17,6 +19,8 @@ void registerDemoTypes()
     qmlRegisterType<ItemEntry>(uri, 1, 0, "ItemEntry");
     qmlRegisterType<LoopbackMeasurement>(uri, 1, 0, "LoopbackMeasurement");
     qmlRegisterType<LoopbackReport>(uri, 1, 0, "LoopbackReport");
+    qmlRegisterType<SavedReportActions>(uri, 1, 0, "SavedReportActions");
+    qmlRegisterType<ScreenCamera>(uri, 1, 0, "ScreenCamera");
     qmlRegisterType<UsbStick>(uri, 1, 0, "UsbStick");
     qmlRegisterUncreatableType<SampleModel>(
             uri, 1, 0, "SampleModel", QStringLiteral("A SampleModel comes from a LoopbackMeasurement"));

@@ -45,6 +45,9 @@ public:
     /// A page that needs no other file.
     QString generateHtmlReport() override;
 
+    /// For whoever has changed the saved files.
+    void tellFilesChanged() { Q_EMIT reportFilesChanged(); }
+
     /// Puts the settings on the disk as they are now.
     void keepSettings() { saveSettings(); }
     /// The same where there are none yet, so that from then on it is worth a warning when they cannot be read.

@@ -9,6 +9,7 @@
 #include "loopbackreport.h"
 #include "measurementsettings.h"
 #include "resultpublisher.h"
+#include "screencamera.h"
 #include "tour.h"
 
 #include <embedded/embeddedbackend.h>
@@ -98,9 +99,11 @@ int runDemo(const DemoOptions& options)
 
     auto* const report = window->property("report").value<LoopbackReport*>();
     report->keepFirstSettings();
-    Tour tour(window, &measurement, report, options.root + QStringLiteral("/pictures/"));
+    auto* const camera = window->property("camera").value<ScreenCamera*>();
+    Tour tour(window, &measurement, report, camera, options.root + QStringLiteral("/pictures/"));
     const int exitCode = options.isTour || isOffScreen ? runTour(tour) : QCoreApplication::exec();
     list(QCoreApplication::translate("main", "Reports:"), report->savedFiles());
+    list(QCoreApplication::translate("main", "Screenshots:"), camera->pictures());
     list(QCoreApplication::translate("main", "Pictures:"), tour.pictures());
     return exitCode;
 }

@@ -5,11 +5,10 @@
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
 #include "report/nsreport.h"
+#include "screencamera.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
 
-#include <QBuffer>
-#include <QImage>
 #include <QLocale>
 #include <QQuickItem>
 #include <QVariant>
@@ -39,21 +38,14 @@ void closeDialogs()
         dialogs->reject();
 }
 
-/// The image as PNG; empty when there is no image.
-QByteArray pngOf(const QImage& image)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    return image.save(&buffer, "PNG") ? bytes : QByteArray();
-}
-
 } // namespace
 
-Tour::Tour(QQuickWindow* window, LoopbackMeasurement* measurement, LoopbackReport* report, const QString& pictures)
+Tour::Tour(QQuickWindow* window, LoopbackMeasurement* measurement, LoopbackReport* report, ScreenCamera* camera,
+        const QString& pictures)
     : m_window(window)
     , m_measurement(measurement)
     , m_report(report)
+    , m_camera(camera)
     , m_folder(pictures)
 {
     m_patience.setSingleShot(true);
@@ -73,6 +65,7 @@ void Tour::start()
     connect(m_measurement, &LoopbackMeasurement::sampleTaken, this, &Tour::watchSamples);
     connect(m_measurement, &LoopbackMeasurement::finished, this, &Tour::visitAll);
     connect(m_measurement, &LoopbackMeasurement::failed, this, &Tour::fail);
+    connect(m_camera, &ScreenCamera::failed, this, &Tour::fail);
     connect(m_measurement, &LoopbackMeasurement::cancelled, this, [this] {
         fail(tr("The measurement was cancelled before the tour was over. Start the tour again."));
     });
@@ -90,7 +83,7 @@ void Tour::visitAll()
 {
     m_isMeasured = true;
     visit({MeasurePage, QStringLiteral("2-measured")});
-    visit({ResultsPage, QStringLiteral("3-results")});
+    visit({ResultsPage, QStringLiteral("3-results"), &Tour::takeScreenshot});
     visit({SettingsPage, QStringLiteral("4-changing"), &Tour::changeSettings});
     visit({SettingsPage, QStringLiteral("5-settings"), &Tour::applySettings});
     visit({ReportPage, QStringLiteral("6-report"), &Tour::saveReport});
@@ -160,6 +153,13 @@ void Tour::keepPicture(const QString& path)
         m_pictures += path;
         visitNext();
     }
+}
+
+/// It is kept by the time the tour's own picture of the page is, since windows give pictures in the order asked for.
+bool Tour::takeScreenshot()
+{
+    m_camera->shoot(m_window);
+    return !m_isOver;
 }
 
 bool Tour::saveReport()

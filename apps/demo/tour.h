@@ -13,6 +13,7 @@ namespace uiutils::demo {
 
 class LoopbackMeasurement;
 class LoopbackReport;
+class ScreenCamera;
 
 /// Uses the demo the way a user does, by itself: measures, looks at each page, tries out settings, saves the report.
 ///
@@ -24,7 +25,8 @@ class Tour : public QObject
 
 public:
     /// `window` is the loaded main page; `pictures` the folder of the pictures, with a "/" at its end.
-    Tour(QQuickWindow* window, LoopbackMeasurement* measurement, LoopbackReport* report, const QString& pictures);
+    Tour(QQuickWindow* window, LoopbackMeasurement* measurement, LoopbackReport* report, ScreenCamera* camera,
+            const QString& pictures);
 
     /// The pictures written so far.
     QStringList pictures() const { return m_pictures; }
@@ -54,6 +56,7 @@ private:
     void visitNext();
     void takePicture(const QString& name);
     void keepPicture(const QString& path);
+    bool takeScreenshot();
     bool saveReport();
     /// Saves once more, which the demo asks about first.
     bool saveAgain();
@@ -74,6 +77,7 @@ private:
     QQuickWindow* const m_window;
     LoopbackMeasurement* const m_measurement;
     LoopbackReport* const m_report;
+    ScreenCamera* const m_camera;
     const QString m_folder;
     QStringList m_pictures;
     QQueue<Stop> m_stops;

@@ -1,4 +1,5 @@
 #include "common/instrument.h"
+#include "core/durablefile.h"
 #include "core/paths.h"
 #include "demotypes.h"
 #include "loopbackmeasurement.h"
@@ -376,6 +377,107 @@ private Q_SLOTS:
         QVERIFY(m_report->savedFiles().isEmpty());
     }
 
+    /// The keys of the list, and where they leave the user.
+    void savedReportsByKeys()
+    {
+        removeReports();
+        for (const char* name : {"a.pdf", "b.txt", "c.txt"})
+            put(QString("/cust/public/reports/loopback/") + name, "a report");
+        // Notes what it is started with.
+        put("/base/bin/pdf_viewer", "#!/bin/sh\necho \"$@\" > shown.part && mv shown.part shown\n");
+        QVERIFY(QFile(m_root.filePath("base/bin/pdf_viewer")).setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        QVERIFY(QDir(m_root.path()).mkpath("base/qml/pdf_viewer"));
+        m_report->tellFilesChanged();
+        m_window->setProperty("page", 2);
+        const QQuickItem* const list = firstItem([](const QQuickItem* item) { return item->objectName() == "reportList"; });
+        QCOMPARE(list->property("count").toInt(), 3);
+        for (int i = 0; i < 20 && !list->hasActiveFocus(); ++i)
+            QTest::keyClick(m_window, Qt::Key_Tab);
+
+        // Times of files may be the same; the one that can be opened is somewhere.
+        while (!button("Open")->isVisible() && list->property("currentIndex").toInt() < 2) {
+            QTest::keyClick(m_window, Qt::Key_Return);
+            QTest::keyClick(m_window, Qt::Key_Down);
+        }
+        QTest::keyClick(m_window, Qt::Key_Return);
+        QTRY_VERIFY(QFile::exists(m_root.filePath("base/qml/pdf_viewer/shown")));
+        QVERIFY(contents("/base/qml/pdf_viewer/shown").contains(m_root.filePath("cust/public/reports/loopback/a.pdf").toUtf8()));
+
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(m_window, Qt::Key_Up);
+        QTest::keyClick(m_window, Qt::Key_Down);
+        QTest::keyClick(m_window, Qt::Key_Delete);
+        KIVNotificationModelManager* const notifications = KIVNotificationModelManager::instance();
+        QVERIFY(notifications->currentDialog());
+        QCOMPARE(notifications->currentDialog()->longLabel(), QString("Delete File"));
+        notifications->accept();
+        QCOMPARE(list->property("count").toInt(), 2);
+        QCOMPARE(list->property("currentIndex").toInt(), 1);
+        QTRY_VERIFY(list->hasActiveFocus());
+    }
+
+    /// With its dialogs, under a name of its own, and told once.
+    void screenshots()
+    {
+        KIVNotificationModelManager* const notifications = KIVNotificationModelManager::instance();
+        const QString folder = m_root.filePath("cust/public/screenshots");
+        put("/cust/public/screenshots", "no folder");
+        QTest::keyClick(m_window, Qt::Key_P, Qt::ControlModifier);
+        QTRY_VERIFY(notifications->currentDialog());
+        QCOMPARE(notifications->currentDialog()->longLabel(), QString("Write Error"));
+        QCOMPARE(notifications->count(), 1);
+        QVERIFY(QFile::remove(folder));
+
+        waitForFrame();
+        for (int taken = 1; taken <= 2; ++taken) {
+            QTest::keyClick(m_window, Qt::Key_Print);
+            QTRY_COMPARE(notifications->count(), 1 + taken);
+        }
+        const QDir pictures(folder);
+        const QStringList names = pictures.entryList({"screenshot_*.png"}, QDir::Files);
+        QCOMPARE(names.size(), 2);
+        for (const QString& name : names) {
+            const QImage picture(pictures.filePath(name));
+            QCOMPARE(picture.size(), m_window->size());
+            // The page below the open dialog is dimmed.
+            QVERIFY(picture.pixelColor(2, 300).lightness() < 200);
+            QVERIFY(QFile::exists(m_root.filePath("cust/private/screenshots/metadata/" + name + ".metadata")));
+        }
+        notifications->reject();
+        QTRY_VERIFY((QTest::keyClick(m_window, Qt::Key_Escape), !notifications->currentDialog()));
+    }
+
+    /// The report comes first, and then what went wrong with it.
+    void windowClosesOnceSaved_data()
+    {
+        QTest::addColumn<bool>("isWritten");
+        QTest::newRow("saved") << true;
+        QTest::newRow("not saved") << false;
+    }
+
+    void windowClosesOnceSaved()
+    {
+        QFETCH(const bool, isWritten);
+        QGuiApplication::setQuitOnLastWindowClosed(false);
+        removeReports();
+        if (!isWritten)
+            put("/cust/public/reports", "no folder");
+        connect(m_report, &Report::savingChanged, this, [this] {
+            if (m_report->isSaving())
+                QVERIFY(!m_window->close());
+        });
+        QCOMPARE(m_report->save(), isWritten);
+        QVERIFY(m_window->isVisible());
+        if (isWritten) {
+            QTRY_VERIFY(!m_window->isVisible());
+            return;
+        }
+        QCoreApplication::processEvents();
+        QVERIFY(m_window->isVisible());
+        KIVNotificationModelManager::instance()->reject();
+        QVERIFY(QFile::remove(m_root.filePath("cust/public/reports")));
+    }
+
     /// No text is cut off, runs out of the window or over its neighbours' card, in any state of a page.
     void textsFit_data()
     {
@@ -445,6 +547,23 @@ private:
         m_settings.reset();
         m_measurement.reset();
         m_services.reset();
+    }
+
+    /// Files of the instrument.
+    void put(const QString& path, const QByteArray& contents)
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(m_root.path() + path).path()));
+        QVERIFY(uiutils::writeFileDurably(m_root.path() + path, contents));
+    }
+    void removeReports()
+    {
+        QVERIFY(QDir(m_root.filePath("cust/public/reports")).removeRecursively());
+        m_report->tellFilesChanged();
+    }
+    QByteArray contents(const QString& path) const
+    {
+        QFile file(m_root.path() + path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
     kiv::embedded::EmbeddedService* service(const QString& id) const

@@ -106,11 +106,13 @@ private Q_SLOTS:
         const QStringList pictures = filesBelow(root + "/pictures");
         QCOMPARE(reports.size(), 5);
         QCOMPARE(pictures.size(), 8);
-        for (const QString& file : reports + pictures)
+        const QStringList screenshots = filesBelow(root + "/cust/public/screenshots");
+        QCOMPARE(screenshots.size(), 1);
+        for (const QString& file : reports + pictures + screenshots)
             QVERIFY2(outcome.output.split('\n').contains(file), qPrintable(outcome.output));
         checkReport(reports.at(0), reports.at(1), samples);
         checkPages(reports.at(2));
-        for (const QString& picture : pictures)
+        for (const QString& picture : pictures + screenshots)
             checkPicture(picture);
     }
 

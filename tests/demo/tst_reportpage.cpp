@@ -21,7 +21,9 @@
 
 #include <csignal>
 #include <memory>
+#include <sys/mount.h>
 #include <sys/resource.h>
+#include <utility>
 
 using namespace uiutils;
 using namespace uiutils::demo;
@@ -57,6 +59,29 @@ public:
         m_baseManager->setValue(itemids::saveLocation, 0);
     }
     Q_INVOKABLE QVariant saveLocation() const { return m_baseManager->item(itemids::saveLocation)->getValue(); }
+    Q_INVOKABLE void setSaveLocation(int location) const { m_baseManager->setValue(itemids::saveLocation, location); }
+    Q_INVOKABLE void setFewSamples() { m_measurement.setSamples(LoopbackMeasurement::fewestSamples); }
+    /// So many that a save of them takes its time.
+    Q_INVOKABLE void setManySamples() { m_measurement.setSamples(1500); }
+
+    /// Puts a file system with less room than a save asks for into the place of the stick's. False when this user may not.
+    Q_INVOKABLE bool fillStick()
+    {
+        m_isStickFull = ::mount("none", stickFolder().constData(), "tmpfs", 0, "size=256k") == 0;
+        return m_isStickFull;
+    }
+    Q_INVOKABLE void emptyStick()
+    {
+        if (std::exchange(m_isStickFull, false))
+            ::umount2(stickFolder().constData(), MNT_DETACH);
+    }
+
+    /// The text of a file below the root; of one that is no text, its beginning.
+    Q_INVOKABLE QString textOf(const QString& path) const
+    {
+        QFile file(m_root->filePath(path));
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
     /// The files in a folder below the root.
     Q_INVOKABLE QStringList filesIn(const QString& folder) const
     {
@@ -89,12 +114,14 @@ public:
     void watch(QQmlEngine* engine) { m_warnings.watch(engine); }
 
 private:
+    QByteArray stickFolder() const { return QFile::encodeName(m_root->filePath("mnt/usb")); }
     static QString folder() { return onDisk(paths::reports) + "loopback/"; }
 
     kiv::embedded::EmbeddedService* const m_baseManager;
     std::unique_ptr<QTemporaryDir> m_root;
     LoopbackMeasurement m_measurement;
     rlimit m_freeDisk {};
+    bool m_isStickFull = false;
     QmlWarnings m_warnings;
 };
 

@@ -1,14 +1,18 @@
 #include "common/instrument.h"
+#include "document/reporttemplate.h"
 #include "qmlwarnings.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
+#include <QTemporaryDir>
 #include <QtQuickTest>
 
 #include <memory>
@@ -45,6 +49,28 @@ public:
 
     Q_INVOKABLE void setLocale(const QString& name) { QLocale::setDefault(QLocale(name)); }
 
+    /// The file of a report document with so many rows, on an instrument without reports.
+    Q_INVOKABLE QString makeDocument(int rows)
+    {
+        m_root = std::make_unique<QTemporaryDir>();
+        qputenv("UIUTILS_ROOT", m_root->path().toLocal8Bit());
+        ReportTemplate document;
+        document.beginReport("long");
+        document.beginTable("samples", "Samples");
+        for (int i = 0; i < rows; ++i)
+            document.addRow("sample", "Sample", i, {});
+        document.endTable();
+        document.endReport();
+        QFile file(m_root->filePath("document.json"));
+        if (!file.open(QIODevice::WriteOnly) || file.write(document.toJson().toUtf8()) < rows)
+            qFatal("%s", qPrintable(file.errorString()));
+        return file.fileName();
+    }
+    Q_INVOKABLE QStringList savedReports() const
+    {
+        return QDir(m_root->filePath("cust/public/reports/long")).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
+
     /// What comes of a key that has been pressed long ago.
     Q_INVOKABLE void holdKey(int key)
     {
@@ -62,6 +88,7 @@ private:
 
     kiv::embedded::EmbeddedBackend* m_backend;
     QmlWarnings m_warnings;
+    std::unique_ptr<QTemporaryDir> m_root;
 };
 
 class Setup : public QObject

@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
+import UiUtils 1.0
 import UiUtils.Controls 1.0
 import UiUtils.Demo 1.0
 
@@ -12,6 +13,9 @@ ApplicationWindow {
     property alias page: navigation.currentIndex
 
     readonly property alias report: reportPage.report
+    readonly property alias camera: camera
+
+    property bool closesOnceSaved: false
 
     // Saves the report of the last run, as its page says; false when that asks the user or tells what is wrong.
     function saveReport() {
@@ -25,6 +29,19 @@ ApplicationWindow {
     }
     function applySettings() {
         return settingsPage.apply()
+    }
+
+    // What has gone wrong meanwhile is read first.
+    function closeOnceSaved() {
+        closesOnceSaved = false
+        if (Notifications.currentDialog === null)
+            window.close()
+    }
+
+    // A save would lose its page.
+    onClosing: {
+        close.accepted = !report.saving
+        closesOnceSaved = report.saving
     }
 
     width: 1024
@@ -44,7 +61,8 @@ ApplicationWindow {
             spacing: Theme.margin
 
             Image {
-                Layout.preferredWidth: 150
+                // As wide as what is on the right, so that the title is in the middle.
+                Layout.preferredWidth: 150 + Theme.touch + Theme.margin
                 Layout.preferredHeight: 40
                 horizontalAlignment: Image.AlignLeft
                 source: "qrc:/uiutils/images/Norda_Color-medium.png"
@@ -69,6 +87,11 @@ ApplicationWindow {
                     word: window.measurement.roundTrip.statusText(status)
                     pixelSize: Theme.headingText
                 }
+            }
+            CameraButton {
+                objectName: "cameraButton"
+                enabled: cameraShortcut.enabled
+                onClicked: camera.shoot(window)
             }
         }
         Rectangle {
@@ -108,7 +131,17 @@ ApplicationWindow {
         }
     }
 
+    ScreenCamera { id: camera }
     NotificationDialog {}
+    SaveProgress { report: window.report }
+    Connections {
+        target: window.report
+        function onSavingChanged() {
+            // The save has some way to go yet.
+            if (window.closesOnceSaved && !window.report.saving)
+                Qt.callLater(window.closeOnceSaved)
+        }
+    }
 
     footer: TabBar {
         id: navigation
@@ -129,6 +162,16 @@ ApplicationWindow {
     Shortcut { sequence: "Ctrl+3"; onActivated: navigation.currentIndex = 2 }
     Shortcut { sequence: "Ctrl+4"; onActivated: navigation.currentIndex = 3 }
     Shortcut { sequence: "Ctrl+5"; onActivated: navigation.currentIndex = 4 }
+
+    Shortcut {
+        id: cameraShortcut
+        // Pictures of dialogs as well.
+        context: Qt.ApplicationShortcut
+        enabled: !window.report.saving
+        sequences: ["Print", "Ctrl+P"]
+        autoRepeat: false
+        onActivated: camera.shoot(window)
+    }
 
     Component {
         id: galleryPage

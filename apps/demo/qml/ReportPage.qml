@@ -28,6 +28,7 @@ FocusScope {
         id: report
         measurement: page.measurement
         tag: "loopback"
+        interactive: true
         onContentWanted: builder.build()
         onReportOverwriteAccepted: save(true)
     }

@@ -3,12 +3,36 @@ import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import UiUtils.Demo 1.0
 
-// The reports in a report controller's folder, newest first.
+// The reports in a report controller's folder, newest first, and what can be done with the current one.
 ColumnLayout {
     id: saved
 
     property LoopbackReport report
     readonly property alias list: list
+    property var files: []
+    // Null without one.
+    readonly property var current: files[list.currentIndex] || null
+    // Nothing on the instrument shows the others.
+    readonly property bool canOpen: current !== null && current.format === "PDF"
+
+    // News come in at the top. Where nothing has, whoever deletes goes on where they are.
+    function refresh() {
+        const newest = files.length > 0 ? files[0] : null
+        const place = list.currentIndex
+        files = report.reportFiles
+        const isNews = files.length > 0 && (newest === null || files[0].time > newest.time)
+        list.currentIndex = isNews ? 0 : Math.min(place, files.length - 1)
+        list.positionViewAtIndex(list.currentIndex, ListView.Contain)
+    }
+
+    function open() {
+        if (canOpen)
+            report.showPDF(current.path)
+    }
+    function remove() {
+        if (current !== null)
+            actions.remove(current.path)
+    }
 
     // "34.5 kB"; decimal, as drives are sold.
     function sizeText(bytes) {
@@ -22,30 +46,78 @@ ColumnLayout {
 
     spacing: Theme.gap
 
+    SavedReportActions {
+        id: actions
+        report: saved.report
+    }
+
+    Component.onCompleted: refresh()
+    Connections {
+        target: saved.report
+        function onReportFilesChanged() { saved.refresh() }
+    }
+
     RowLayout {
         Layout.fillWidth: true
-        spacing: Theme.margin
+        spacing: Theme.gap
 
-        Text {
-            text: list.count > 0 ? qsTr("Saved reports (%1)").arg(list.count) : qsTr("Saved reports")
-            color: Theme.text
-            font { pixelSize: Theme.headingText; bold: true }
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
-        }
-        Text {
+        ColumnLayout {
             Layout.fillWidth: true
-            text: saved.report.saveLocation
-            textFormat: Text.PlainText
-            color: Theme.mutedText
-            font.pixelSize: Theme.smallText
-            horizontalAlignment: Text.AlignRight
-            elide: Text.ElideMiddle
+            spacing: 0
+
+            Text {
+                Layout.fillWidth: true
+                text: list.count > 0 ? qsTr("Saved reports (%1)").arg(list.count) : qsTr("Saved reports")
+                color: Theme.text
+                font { pixelSize: Theme.headingText; bold: true }
+                // Beside the buttons, in the smallest window.
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: Theme.smallText
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+            Text {
+                Layout.fillWidth: true
+                text: saved.report.saveLocation
+                textFormat: Text.PlainText
+                color: Theme.mutedText
+                font.pixelSize: Theme.smallText
+                elide: Text.ElideMiddle
+            }
+        }
+        ActionButton {
+            objectName: "openButton"
+            visible: saved.canOpen
+            filled: false
+            text: qsTr("Open")
+            onClicked: saved.open()
+        }
+        ActionButton {
+            objectName: "copyButton"
+            visible: saved.current !== null
+            filled: false
+            text: qsTr("To USB")
+            Accessible.name: qsTr("Copy to the USB drive")
+            onClicked: actions.copyToUsb(saved.current.path)
+        }
+        ActionButton {
+            objectName: "deleteButton"
+            visible: saved.current !== null
+            filled: false
+            text: qsTr("Delete")
+            onClicked: saved.remove()
         }
     }
     ListView {
         id: list
         objectName: "reportList"
+
+        // A key that is held down does it once.
+        function pressBy(event, act) {
+            if (!event.isAutoRepeat)
+                act()
+        }
+
         Layout.fillWidth: true
         Layout.fillHeight: true
         clip: true
@@ -53,12 +125,10 @@ ColumnLayout {
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
-        model: saved.report.reportFiles
-        // News come in at the top.
-        onModelChanged: {
-            currentIndex = 0
-            positionViewAtBeginning()
-        }
+        model: saved.files
+        Keys.onReturnPressed: pressBy(event, saved.open)
+        Keys.onEnterPressed: pressBy(event, saved.open)
+        Keys.onDeletePressed: pressBy(event, saved.remove)
         ScrollBar.vertical: ScrollBar { id: bar }
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Saved reports")
@@ -66,17 +136,23 @@ ColumnLayout {
         delegate: Rectangle {
             id: row
 
-            readonly property bool isCurrent: list.activeFocus && ListView.isCurrentItem
-
             width: list.width - (bar.size < 1 ? bar.width + 2 : 0)
-            height: 38
+            height: Theme.touch - list.spacing
             radius: Theme.radius
-            color: Theme.background
-            border { width: isCurrent ? 3 : 0; color: Theme.focus }
+            color: ListView.isCurrentItem ? Theme.selected : Theme.background
+            border { width: list.activeFocus && ListView.isCurrentItem ? 3 : 0; color: Theme.focus }
             Accessible.role: Accessible.ListItem
             Accessible.name: modelData.name + ", " + modelData.format
-            Accessible.description: sizeText.text + ", " + timeText.text
+            Accessible.description: details.text
+            Accessible.selected: ListView.isCurrentItem
 
+            MouseArea {
+                anchors.fill: parent
+                onClicked: {
+                    list.currentIndex = index
+                    list.forceActiveFocus()
+                }
+            }
             RowLayout {
                 anchors { fill: parent; leftMargin: Theme.gap; rightMargin: Theme.gap }
                 spacing: Theme.gap
@@ -87,14 +163,26 @@ ColumnLayout {
                     color: Theme.primary
                     font { pixelSize: Theme.smallText; bold: true }
                 }
-                Text {
+                ColumnLayout {
                     Layout.fillWidth: true
-                    text: modelData.name
-                    textFormat: Text.PlainText
-                    color: Theme.text
-                    font.pixelSize: Theme.smallText + 1
-                    // The ends of a name tell it from its neighbours.
-                    elide: Text.ElideMiddle
+                    spacing: 0
+
+                    Text {
+                        Layout.fillWidth: true
+                        text: modelData.name
+                        textFormat: Text.PlainText
+                        color: Theme.text
+                        font.pixelSize: Theme.smallText + 1
+                        // The ends of a name tell it from its neighbours.
+                        elide: Text.ElideMiddle
+                    }
+                    Text {
+                        id: details
+                        text: saved.sizeText(modelData.size) + ", "
+                              + modelData.time.toLocaleString(Qt.locale(), Locale.ShortFormat)
+                        color: Theme.mutedText
+                        font.pixelSize: Theme.smallText - 1
+                    }
                 }
                 Text {
                     visible: modelData.compressed
@@ -102,21 +190,6 @@ ColumnLayout {
                     Accessible.name: qsTr("compressed")
                     color: Theme.mutedText
                     font.pixelSize: Theme.smallText
-                }
-                Text {
-                    id: sizeText
-                    Layout.minimumWidth: 64
-                    text: saved.sizeText(modelData.size)
-                    color: Theme.mutedText
-                    font.pixelSize: Theme.smallText
-                    horizontalAlignment: Text.AlignRight
-                }
-                Text {
-                    id: timeText
-                    text: modelData.time.toLocaleString(Qt.locale(), Locale.ShortFormat)
-                    color: Theme.mutedText
-                    font.pixelSize: Theme.smallText
-                    horizontalAlignment: Text.AlignRight
                 }
             }
         }

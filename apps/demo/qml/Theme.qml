@@ -7,6 +7,7 @@ QtObject {
     readonly property color card: "#ffffff"
     // Of what is entered and not applied yet.
     readonly property color changedCard: "#fff4e0"
+    readonly property color selected: "#d3e5ef"
     readonly property color border: "#cfdae2"
     readonly property color text: "#14283a"
     readonly property color mutedText: "#56656f"

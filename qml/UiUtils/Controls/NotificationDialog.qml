@@ -1,15 +1,13 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
-import QtQuick.Window 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
 // The open dialog of the notifications, one at a time. A window needs one of these, anywhere on its page.
-Popup {
+ModalDialog {
     id: dialog
 
     readonly property KIVNotification notification: Notifications.currentDialog
-    readonly property Item overlay: Overlay.overlay
 
     // For so long after it has come up, in milliseconds, a dialog takes no answer: the tap or key may have been meant for what
     // was there before.
@@ -24,24 +22,6 @@ Popup {
             Notifications.reject()
     }
 
-    // Who had the focus before.
-    property Item interrupted: null
-
-    function focusOwner() {
-        return overlay ? overlay.Window.activeFocusItem : null
-    }
-
-    // Popups leave that to windows of one kind.
-    function giveFocusBack() {
-        const owner = focusOwner()
-        const isFree = owner === null || owner === overlay.Window.contentItem
-        if (isFree && interrupted !== null && interrupted.enabled)
-            interrupted.forceActiveFocus()
-        interrupted = null
-    }
-
-    onAboutToShow: interrupted = focusOwner()
-    onClosed: giveFocusBack()
     onNotificationChanged: {
         if (notification !== null && graceTime > 0)
             grace.restart()
@@ -49,21 +29,8 @@ Popup {
     Component.onCompleted: notificationChanged()
 
     objectName: "notificationDialog"
-    parent: overlay
-    anchors.centerIn: parent
     // A page that is being made has no window yet.
     visible: notification !== null && overlay !== null
-    modal: true
-    focus: true
-    closePolicy: Popup.NoAutoClose
-    padding: 20
-    width: overlay ? Math.min(560, overlay.width - 2 * ControlsStyle.margin) : 560
-    background: Rectangle {
-        radius: ControlsStyle.radius + 4
-        color: ControlsStyle.background
-        border { width: 1; color: ControlsStyle.border }
-    }
-    Overlay.modal: Rectangle { color: "#80000000" }
 
     contentItem: Column {
         // Each has buttons of its own: a press that began on those of the one before ends with them.
@@ -186,18 +153,6 @@ Popup {
                     }
                 }
             }
-        }
-    }
-
-    component DialogButton: EntryButton {
-        id: button
-
-        implicitWidth: 120
-        background: Rectangle {
-            radius: ControlsStyle.radius
-            color: button.filled ? (button.down ? ControlsStyle.primaryPressed : ControlsStyle.primary)
-                                 : button.down ? ControlsStyle.pressed : ControlsStyle.field
-            border { width: button.activeFocus ? 3 : 1; color: button.activeFocus ? ControlsStyle.focus : ControlsStyle.border }
         }
     }
 

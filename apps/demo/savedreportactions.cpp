@@ -1,0 +1,153 @@
+#include "savedreportactions.h"
+
+#include "core/durablefile.h"
+#include "core/paths.h"
+#include "document/reportmetadata.h"
+
+#include <kiv/filesystemusage.h>
+#include <kiv/kivnotification.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace uiutils::demo {
+
+namespace {
+
+const QString fileNameKey = QStringLiteral("Filename");
+
+QString folderOf(const QString& path)
+{
+    return path.left(path.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+QString nameOf(const QString& path)
+{
+    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+/// Up to its last suffix.
+QString stemOf(const QString& path)
+{
+    return path.left(path.lastIndexOf(QLatin1Char('.')) + 1);
+}
+
+QString usbPathOf(const QString& path)
+{
+    return paths::usb + nameOf(path);
+}
+
+/// Also a link that leads nowhere.
+bool isThere(const QString& path)
+{
+    const QFileInfo file(onDisk(path));
+    return file.exists() || file.isSymLink();
+}
+
+QString recordOf(const QString& path)
+{
+    ReportMetadata record;
+    record.updateMetadataPathBase(folderOf(path));
+    record.setMetadataName(nameOf(path));
+    return record.metadataFilePath();
+}
+
+void tellCopied(const QString& shownPath)
+{
+    // The tray keeps a copy.
+    KIVNotification notice;
+    notice.setLongLabel(SavedReportActions::tr("Report Copied"));
+    notice.setMsg(shownPath);
+    notice.notifyTray();
+}
+
+} // namespace
+
+SavedReportActions::SavedReportActions(QObject* parent)
+    : QObject(parent)
+{
+    connect(&m_removal, &FileUtils::accepted, this,
+            [this](const KIVNotification* question) { removeNow(question->value(fileNameKey).toString()); });
+    connect(&m_copying, &FileUtils::accepted, this,
+            [this](const KIVNotification* question) { copyNow(question->value(fileNameKey).toString()); });
+}
+
+void SavedReportActions::setReport(LoopbackReport* report)
+{
+    if (report == m_report)
+        return;
+    m_report = report;
+    Q_EMIT reportChanged();
+}
+
+void SavedReportActions::remove(const QString& path)
+{
+    m_removal.sendNotificationDeleteRequest(path, {});
+}
+
+void SavedReportActions::removeNow(const QString& path)
+{
+    const bool isGone = QFile::remove(onDisk(path)) || !isThere(path);
+    if (isGone)
+        forget(path);
+    else
+        m_removal.sendNotificationWriteError(path);
+    if (m_report)
+        m_report->tellFilesChanged();
+}
+
+void SavedReportActions::forget(const QString& path)
+{
+    const QString record = onDisk(recordOf(path));
+    if (QFileInfo::exists(record) && !QFile::remove(record))
+        qWarning("The record %s cannot be deleted.", qUtf8Printable(record));
+    if (!m_report)
+        return;
+    // Reports that differ in their format share an entry of the list. One too many does no harm; without it the cloud would
+    // take a report that is to be kept from it.
+    const QVariantList others = m_report->getReportFiles();
+    const bool isShared = std::any_of(others.cbegin(), others.cend(), [&](const QVariant& other) {
+        return stemOf(other.toMap().value(QStringLiteral("path")).toString()) == stemOf(path);
+    });
+    if (!isShared)
+        m_report->removeReportFromNoSyncList(path);
+}
+
+void SavedReportActions::copyToUsb(const QString& path)
+{
+    const QString target = usbPathOf(path);
+    // Without a drive the folder is the unit's.
+    if (FileSystemUsage::isMounted(paths::usb) && isThere(target))
+        m_copying.sendNotificationOverwriteRequest(target, {{fileNameKey, path}});
+    else
+        copyNow(path);
+}
+
+void SavedReportActions::copyNow(const QString& path)
+{
+    const QString target = usbPathOf(path);
+    if (!FileSystemUsage::isMounted(paths::usb)) {
+        m_copying.sendNotificationWriteError(target);
+        return;
+    }
+    QFile file(onDisk(path));
+    const QByteArray contents = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (file.error() != QFileDevice::NoError) {
+        m_copying.sendNotificationReadError(path);
+        return;
+    }
+    if (!m_copying.checkDriveSpaceForFile(contents.size(), target))
+        return;
+    QString error;
+    // A drive that is pulled leaves its folder behind, and the copy in the unit.
+    if (writeFileDurably(onDisk(target), contents, &error) && FileSystemUsage::isMounted(paths::usb)) {
+        tellCopied(m_copying.getSanitizedPathName(target));
+        return;
+    }
+    qWarning("The copy %s was not written: %s", qUtf8Printable(target), qUtf8Printable(error));
+    m_copying.sendNotificationWriteError(target);
+}
+
+} // namespace uiutils::demo

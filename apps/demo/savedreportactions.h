@@ -1,0 +1,45 @@
+#pragma once
+
+#include "files/fileutils.h"
+#include "loopbackreport.h"
+
+#include <QObject>
+#include <QPointer>
+
+namespace uiutils::demo {
+
+/// What users do with a saved report beside opening it. They are asked before anything is lost, and told what went wrong.
+///
+/// Paths are the instrument's, as `reportFiles` of the controller has them.
+class SavedReportActions : public QObject
+{
+    Q_OBJECT
+    /// Whose reports they are; stays the caller's. It tells that its files have changed.
+    Q_PROPERTY(uiutils::demo::LoopbackReport* report READ report WRITE setReport NOTIFY reportChanged)
+
+public:
+    explicit SavedReportActions(QObject* parent = nullptr);
+
+    LoopbackReport* report() const { return m_report; }
+    void setReport(LoopbackReport* report);
+
+    /// Asks whether the report may be deleted. A yes takes along its metadata record and what keeps it from the cloud.
+    Q_INVOKABLE void remove(const QString& path);
+    /// Copies the report to the USB drive; asks before it takes the place of a file there. The tray tells when the copy is safe.
+    Q_INVOKABLE void copyToUsb(const QString& path);
+
+Q_SIGNALS:
+    void reportChanged();
+
+private:
+    void removeNow(const QString& path);
+    void forget(const QString& path);
+    void copyNow(const QString& path);
+
+    QPointer<LoopbackReport> m_report;
+    /// Each has a question of its own.
+    FileUtils m_removal;
+    FileUtils m_copying;
+};
+
+} // namespace uiutils::demo

@@ -1,0 +1,156 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import UiUtils.Controls 1.0
+
+// How far a report is whose controller is `interactive` while it saves. From the first moment on users reach nothing below,
+// for the page must not change under a save; a window needs one of these for each such controller.
+ModalDialog {
+    id: dialog
+
+    property var report: null
+
+    // Milliseconds after which a save is long enough to be shown: a flash would help nobody.
+    property int delay: 200
+
+    readonly property bool isSaving: report ? report.interactive && report.saving : false
+    readonly property real progress: isSaving ? report.progress : 0
+    property bool isCancelled: false
+
+    // What is not seen cannot be meant.
+    function cancel() {
+        if (!isInSight || isCancelled)
+            return
+        isCancelled = true
+        report.cancel()
+    }
+
+    // The name that the controller makes up for an empty one has the time in it, which goes on.
+    function savedName() {
+        const item = report.getSetting("reportName")
+        return item && item.value ? item.value : report.title
+    }
+
+    // The click that started the save is not over, and the button would take the next one for its own, wherever that is.
+    function takePointerFromPage() {
+        const page = overlay.parent
+        page.enabled = false
+        page.enabled = true
+    }
+
+    onAboutToShow: {
+        takePointerFromPage()
+        isCancelled = false
+        isInSight = delay <= 0
+    }
+    onClosed: isInSight = false
+
+    objectName: "saveProgress"
+    visible: isSaving && overlay !== null
+    isInSight: false
+    enter: null
+    exit: null
+
+    contentItem: FocusScope {
+        implicitHeight: column.implicitHeight
+        focus: true
+        Accessible.role: Accessible.Dialog
+        Accessible.name: titleText.text
+        Accessible.description: nameText.text
+        Keys.onEscapePressed: {
+            if (!event.isAutoRepeat)
+                dialog.cancel()
+        }
+
+        Column {
+            id: column
+            width: parent.width
+            spacing: ControlsStyle.margin + 4
+
+            Text {
+                id: titleText
+                objectName: "progressTitle"
+                width: parent.width
+                text: dialog.isCancelled ? qsTr("Cancelling the save") : qsTr("Saving the report")
+                wrapMode: Text.Wrap
+                color: ControlsStyle.text
+                font { pixelSize: ControlsStyle.headingText; bold: true }
+            }
+            Text {
+                id: nameText
+                objectName: "progressName"
+                width: parent.width
+                text: dialog.isSaving ? dialog.savedName() : ""
+                textFormat: Text.PlainText
+                // The ends of a name tell it from its neighbours.
+                elide: Text.ElideMiddle
+                color: ControlsStyle.text
+                font.pixelSize: ControlsStyle.bodyText
+            }
+            Item {
+                width: parent.width
+                height: percentage.implicitHeight
+
+                ProgressBar {
+                    id: bar
+                    objectName: "progressBar"
+                    anchors { left: parent.left; right: percentage.left; rightMargin: ControlsStyle.margin; verticalCenter: parent.verticalCenter }
+                    value: dialog.progress
+                    padding: 0
+                    background: Rectangle {
+                        implicitHeight: 16
+                        radius: height / 2
+                        color: ControlsStyle.field
+                        border { width: 1; color: ControlsStyle.border }
+                    }
+                    contentItem: Item {
+                        implicitHeight: 16
+
+                        Rectangle {
+                            visible: width > 0
+                            width: bar.visualPosition * parent.width
+                            height: parent.height
+                            radius: height / 2
+                            color: ControlsStyle.primary
+                        }
+                    }
+                    Accessible.role: Accessible.ProgressBar
+                    Accessible.name: percentage.text
+                }
+                Text {
+                    id: percentage
+                    anchors.right: parent.right
+                    width: 56
+                    text: qsTr("%1 %").arg(Math.floor(100 * dialog.progress))
+                    horizontalAlignment: Text.AlignRight
+                    color: ControlsStyle.text
+                    font.pixelSize: ControlsStyle.bodyText
+                    Accessible.ignored: true
+                }
+            }
+            DialogButton {
+                objectName: "cancelButton"
+                anchors.right: parent.right
+                focus: true
+                enabled: dialog.isInSight && !dialog.isCancelled
+                text: qsTr("Cancel")
+                onClicked: dialog.cancel()
+            }
+        }
+    }
+
+    Timer {
+        interval: dialog.delay
+        running: dialog.visible && !dialog.isInSight
+        onTriggered: dialog.isInSight = true
+    }
+    // Timers stand still in a save that one of them has started.
+    Connections {
+        readonly property double start: dialog.isSaving ? Date.now() : 0
+
+        target: dialog.isSaving ? dialog.report : null
+        function onProgressChanged() {
+            if (Date.now() - start >= dialog.delay)
+                dialog.isInSight = true
+        }
+    }
+}
