@@ -9,7 +9,6 @@
 
 #include <QByteArrayList>
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
@@ -113,7 +112,7 @@ void tellBaseManager()
 bool edit(const Change& change, QString* error)
 {
     const QString folder = QFileInfo(onDisk(paths::noSyncList)).path();
-    QDir().mkpath(folder);
+    makeFolderDurably(folder);
     {
         const FolderLock lock(folder, lockPatience);
         if (!lock.isLocked()) {
