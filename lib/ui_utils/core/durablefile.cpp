@@ -68,12 +68,17 @@ bool writeFileDurably(const QString& path, const QByteArray& contents, QString* 
                 systemError());
         return false;
     }
-    if (!file.write(contents) || !file.sync() || !file.close()) {
+    if (!file.write(contents) || !file.sync()) {
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"), path, systemError());
         return false;
     }
+    // Open, and so locked, until it has its name: whoever cleans the folder would take it for left behind.
     if (!file.renameTo(path)) {
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot replace %1: %2"), path, systemError());
+        return false;
+    }
+    if (!file.close()) {
+        message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"), path, systemError());
         return false;
     }
     if (syncFolder(QFileInfo(path).path()))
