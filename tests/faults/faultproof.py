@@ -54,10 +54,7 @@ ERRORS = {
 }
 
 # Failures that are let pass: kind of the fault, pattern of the failure, reason. They are counted and shown.
-KNOWN = [
-    ("EACCES", r"is not synced: a power cut could undo|removed before the folder of what takes its place is synced",
-     "A folder that may be written to and not listed cannot be opened to be synced."),
-]
+KNOWN = []
 
 
 def family(call):

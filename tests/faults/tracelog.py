@@ -5,7 +5,7 @@ import re
 from dataclasses import dataclass, field
 
 # Calls that change files, or may: which ones do is seen in what they are called with.
-CHANGING = """open openat creat write pwrite64 writev pwritev pwritev2 fsync fdatasync sync_file_range rename renameat
+CHANGING = """open openat creat write pwrite64 writev pwritev pwritev2 fsync fdatasync syncfs sync_file_range rename renameat
  renameat2 unlink unlinkat mkdir mkdirat rmdir link linkat symlink symlinkat chmod fchmod fchmodat chown fchown fchownat
  ftruncate truncate fallocate utimensat close flock sendfile copy_file_range""".split()
 READING = "read pread64 getdents64 stat lstat newfstatat statx fstat access faccessat faccessat2 statfs fstatfs readlink".split()
@@ -83,11 +83,17 @@ def read_log(path, places):
         is_ours = any(place.startswith(folder) for folder, _ in places)
         is_open = name in ("open", "openat", "creat")
         is_opened_to_write = is_open and (name == "creat" or bool(WRITING_FLAG.search(arguments)))
-        if is_opened_to_write:
-            written.add(place)
-        is_written = place in written
+        # By its number, for a file that gets its name is closed under another one than it was opened. Files in memory have
+        # their place among the process's own.
+        descriptor = re.match(r"\d+", result if is_open else arguments)
+        if is_open and descriptor:
+            is_kept = is_opened_to_write and not place.startswith("/proc/")
+            (written.add if is_kept else written.discard)(descriptor.group())
+        is_written = not is_open and bool(descriptor) and descriptor.group() in written
         if name in of_files and is_written:
             of_files[name] += 1
+        if name == "close" and descriptor:
+            written.discard(descriptor.group())
         if not is_ours:
             continue
         changes = is_opened_to_write if is_open else is_written if name == "close" else name in CHANGING
@@ -131,6 +137,9 @@ def order_faults(calls, root, is_claimed):
         elif call.name in SYNCS:
             unsynced.discard(call.place)
             names.pop(call.place.rstrip("/"), None)
+        elif call.name == "syncfs":
+            unsynced.clear()
+            names.clear()
         elif call.name in MAKERS and not is_temporary:
             made = call.place.rstrip("/")
             names.setdefault(os.path.dirname(made), {})[made] = f"the making of {call.shown}"

@@ -22,19 +22,29 @@ QString systemError()
     return qt_error_string(errno);
 }
 
-/// Makes the rename survive a power cut. File systems that cannot sync a folder keep it by other means, or not at all.
-bool syncFolder(const QString& folder)
+int openToRead(const QString& path, int flags)
 {
     int fd = -1;
     do {
-        fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | flags);
     } while (fd < 0 && errno == EINTR);
-    // A folder may be one to write into and not to list.
+    return fd;
+}
+
+/// Makes the name of `member`, which was given to it in its folder just now, survive a power cut. File systems that cannot
+/// sync keep it by other means, or not at all.
+bool syncNameOf(const QString& member)
+{
+    int fd = openToRead(QFileInfo(member).path() + QLatin1Char('/'), O_DIRECTORY);
+    // A folder may be one to write into and not to list: then everything on its file system is synced.
+    const bool isClosed = fd < 0 && errno == EACCES;
+    if (isClosed)
+        fd = openToRead(member, 0);
     if (fd < 0)
-        return errno == EACCES;
+        return false;
     int result = 0;
     do {
-        result = ::fsync(fd);
+        result = isClosed ? ::syncfs(fd) : ::fsync(fd);
     } while (result != 0 && errno == EINTR);
     const int reason = errno;
     ::close(fd);
@@ -81,7 +91,7 @@ bool writeFileDurably(const QString& path, const QByteArray& contents, QString* 
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"), path, systemError());
         return false;
     }
-    if (syncFolder(QFileInfo(path).path()))
+    if (syncNameOf(path))
         return true;
     message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot make sure that %1 outlives a power cut: %2"), path, systemError());
     return false;
@@ -98,7 +108,7 @@ bool makeFolderDurably(const QString& path)
     const QByteArray name = QFile::encodeName(folder);
     if (::mkdir(name.constData(), 0777) != 0)
         return QFileInfo(folder).isDir();
-    if (syncFolder(above))
+    if (syncNameOf(folder))
         return true;
     ::rmdir(name.constData());
     return false;
