@@ -1,5 +1,6 @@
 #include "demooptions.h"
 
+#include "common/answers.h"
 #include "common/locations.h"
 #include "loopbackmeasurement.h"
 
@@ -16,21 +17,8 @@ QString tr(const char* text)
     return QCoreApplication::translate("DemoOptions", text);
 }
 
-DemoOptions answered(const QString& message)
-{
-    DemoOptions options;
-    options.outcome = DemoOptions::Answered;
-    options.message = message;
-    return options;
-}
-
-DemoOptions misused(const QString& message)
-{
-    DemoOptions options;
-    options.outcome = DemoOptions::Misused;
-    options.message = message + QLatin1Char('\n') + tr("Try --help for the options.");
-    return options;
-}
+constexpr auto answered = apps::answered<DemoOptions>;
+constexpr auto misused = apps::misused<DemoOptions>;
 
 } // namespace
 

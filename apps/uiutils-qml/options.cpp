@@ -1,5 +1,6 @@
 #include "options.h"
 
+#include "common/answers.h"
 #include "common/locations.h"
 
 #include <QCommandLineParser>
@@ -15,21 +16,8 @@ QString tr(const char* text)
     return QCoreApplication::translate("Options", text);
 }
 
-Options answered(const QString& message)
-{
-    Options options;
-    options.outcome = Options::Answered;
-    options.message = message;
-    return options;
-}
-
-Options misused(const QString& message)
-{
-    Options options;
-    options.outcome = Options::Misused;
-    options.message = message + QLatin1Char('\n') + tr("Try --help for the options.");
-    return options;
-}
+constexpr auto answered = apps::answered<Options>;
+constexpr auto misused = apps::misused<Options>;
 
 } // namespace
 
