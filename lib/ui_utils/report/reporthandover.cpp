@@ -78,7 +78,11 @@ void Report::writeMetadata(const QString& path, const QString& format)
     addWorkOrderMetaDataInfo();
     if (uiutils::isJobActive() && ensureValidJobData())
         updateJobTestMetadata();
-    m_state->metadata.saveMetadataToFile();
+    // Where a stick was, it would be the unit's.
+    if (uiutils::isDriveThere(path))
+        m_state->metadata.saveMetadataToFile();
+    else
+        qWarning("The record of %s was not written, because the drive is not there", qUtf8Printable(path));
 }
 
 ReportMetadata& Report::metadata()
