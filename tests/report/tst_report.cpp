@@ -863,6 +863,13 @@ private Q_SLOTS:
         report.setFolder("g");
         QVERIFY(!report.save());
         QCOMPARE(names("/mnt/usb/sites"), QStringList("f"));
+        // A report that is saved to the stick is its own copy.
+        report.setFolder("");
+        report.setBaseDirectory("/mnt/usb");
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setValue(locationItem, 2));
+        QVERIFY(report.save());
     }
     void recordsTellOfReports()
     {
@@ -1219,6 +1226,25 @@ private Q_SLOTS:
         QVERIFY(!report.save(true));
         const QByteArray list = contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"));
         QVERIFY(list.contains("/a.pdf\n") && list.contains("/a.txt\n") && !list.contains("/a.xml\n"));
+    }
+    void reportsThatCannotBeCompressedStayFromTheCloud()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        report.setCompressionEnabled(true);
+        const auto restore = qScopeGuard([path = qgetenv("PATH")] { qputenv("PATH", path); });
+        qputenv("PATH", "/nowhere");
+        QVERIFY(!report.save());
+        QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
+        QVERIFY(contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"))
+                        .contains("/cust/public/reports/a.txt\n"));
+    }
+    void theBaseManagerHearsOfAListThatOthersHaveMade()
+    {
+        const QString item(":config:basemgr:system:ss_nosync:stringARRAY:");
+        QVERIFY(writeFile(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"), "/a.pdf\n/a.json\n"));
+        Report().addReportToNoSyncList("/a.pdf");
+        QCOMPARE(basemgr()->item(item)->getValue().toStringList(), QStringList({"/a.pdf", "/a.json"}));
     }
 
     void platformKeepsTheName()

@@ -12,6 +12,7 @@
 #include <kiv/filesystemusage.h>
 #include <kiv/kivclientinterface.h>
 
+#include <QDir>
 #include <QPointer>
 
 #include <algorithm>
@@ -202,9 +203,11 @@ bool Report::Save::writeFormats()
         return false;
     bool isComplete = !m_formats.isEmpty();
     for (const uiutils::ReportFormat* format : qAsConst(m_formats)) {
-        isComplete = writeFormat(*format) && isComplete;
-        // The answer, which has all formats written, may not come while this save runs: it would be refused.
-        if (!m_report || m_report->m_state->gate.isAsking() || !m_report->tellProgress(m_report->m_state->progress.finishFormat()))
+        const bool isWritten = writeFormat(*format);
+        isComplete = isComplete && isWritten;
+        // An answer that comes while this save runs would be refused.
+        const bool isAsking = m_report && !isWritten && m_report->m_state->gate.isAsking();
+        if (!m_report || isAsking || !m_report->tellProgress(m_report->m_state->progress.finishFormat()))
             return false;
     }
     return isComplete;
@@ -223,7 +226,9 @@ bool Report::Save::writeFormat(const uiutils::ReportFormat& format)
 void Report::Save::recordSync()
 {
     (m_isSynced ? m_report->m_syncedReports : m_report->m_unsyncedReports) += m_written;
-    for (const QString& path : qAsConst(m_written)) {
+    // A report that could not be compressed lies there as well.
+    const QStringList paths = m_isSynced ? m_written : m_written + m_report->m_state->strays;
+    for (const QString& path : paths) {
         if (m_report && m_isSynced)
             m_report->removeReportFromNoSyncList(path);
         else if (m_report)
@@ -238,7 +243,10 @@ bool Report::Save::mayCopy()
     bool overwrite = m_overwrite;
     QStringList copies;
     for (const uiutils::ReportFormat* format : qAsConst(m_formats)) {
-        copies += uiutils::usbPath(m_report->getSaveFilePath(m_name, format->suffix));
+        const QString saved = m_report->getSaveFilePath(m_name, format->suffix);
+        if (QDir::cleanPath(saved) == uiutils::usbPath(saved))
+            continue;
+        copies += uiutils::usbPath(saved);
         overwrite = overwrite && checked.contains(copies.constLast());
     }
     return !uiutils::isDriveThere(uiutils::paths::usb) || m_report->mayWrite(copies, overwrite);

@@ -61,6 +61,8 @@ public:
     /// Of the save that runs: what the user has agreed to, and all that was looked at before anything was written.
     QStringList agreedPaths;
     QStringList checkedPaths;
+    /// Files that it has left, although they are not what was to be written.
+    QStringList strays;
 
     ReportDestinations destinations() const { return fixedDestinations.value_or(ReportDestinations::current()); }
 
@@ -76,6 +78,7 @@ public:
         fixedDestinations.reset();
         agreedPaths.clear();
         checkedPaths.clear();
+        strays.clear();
     }
 
     /// The report at `path` could not be written: the user is told where, the log why.

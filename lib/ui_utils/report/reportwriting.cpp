@@ -80,6 +80,8 @@ bool Report::writeContents(const QString& path, const QByteArray& contents)
 {
     const uiutils::WrittenFile file = uiutils::writeReportFile(path, contents, m_isCompressionEnabled);
     if (!file.ok) {
+        if (!file.path.isEmpty())
+            m_state->strays += file.path;
         m_state->tellWriteError(path, file.error);
         return false;
     }
