@@ -1284,6 +1284,16 @@ private Q_SLOTS:
         QVERIFY(report.save());
         QCOMPARE(manager()->currentDialog()->longLabel(), QString("Sync"));
         manager()->accept();
+        // A page that goes when its reports are saved takes the dialog along; two reports are one mishap.
+        manager()->clear();
+        {
+            Controller leaving;
+            leaving.setUp("b", 5);
+            leaving.setNotifiesTray(false);
+            QVERIFY(leaving.save());
+        }
+        QVERIFY(!manager()->currentDialog());
+        QCOMPARE(manager()->count(), 1);
         QVERIFY(QDir(folder + "/nosync_fileList.txt").removeRecursively());
         const QByteArray foreign("/cust/public/caf\xe9\n\n/x\n/x\n");
         QVERIFY(writeFile(folder + "/nosync_fileList.txt", foreign));

@@ -67,7 +67,7 @@ void Report::writeNoSyncListToFile(const QStringList& noSync_fileList)
 void Report::tellSyncError(const QString& consequence, const QString& reason)
 {
     qWarning("%s", qUtf8Printable(reason));
-    m_state->tell(tr("Sync"), consequence + QLatin1Char(' ') + reason);
+    m_state->tellSyncError(tr("Sync"), consequence + QLatin1Char(' ') + reason);
 }
 
 // --- The file browser ---

@@ -71,6 +71,7 @@ public:
     {
         endSave();
         m_isFirstError = true;
+        m_isSyncErrorTold = false;
     }
     void endSave()
     {
@@ -103,6 +104,17 @@ public:
         std::exchange(m_refusal, std::move(refusal)).reset();
         if (told)
             told->notifyDialog();
+        // The page may go now that the report is saved, and the dialog with it.
+        if (told)
+            told->notifyTray();
+    }
+
+    /// The same, once for each save.
+    void tellSyncError(const QString& title, const QString& text)
+    {
+        const bool isSave = m_isFirstError.has_value();
+        if (!isSave || !std::exchange(m_isSyncErrorTold, true))
+            tell(title, text);
     }
 
     /// What the user is told and asked ends here, while those who hear of it find everything whole.
@@ -119,6 +131,7 @@ private:
     std::unique_ptr<FileUtils> m_errors = std::make_unique<FileUtils>();
     std::unique_ptr<KIVNotification> m_refusal;
     std::optional<bool> m_isFirstError;
+    bool m_isSyncErrorTold = false;
 };
 
 } // namespace uiutils
