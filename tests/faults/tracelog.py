@@ -33,7 +33,7 @@ class Call:
     arguments: str
     result: str
     changes: bool
-    of_files: int = 0  # number among the writes to regular files
+    of_files: int = 0  # number among the writes to, or closings of, files that are written
     shown: str = field(default="")
 
     @property
@@ -67,7 +67,7 @@ def _places(name, arguments):
 
 def read_log(path, places):
     """The calls that touch something below `places` (pairs of a folder and how it is shown), in their order."""
-    counts, calls, files_written, opened = {}, [], 0, set()
+    counts, of_files, calls, written = {}, {"write": 0, "close": 0}, [], set()
     try:
         with open(path, encoding="utf-8", errors="replace") as log:
             lines = log.read().splitlines()
@@ -81,19 +81,17 @@ def read_log(path, places):
         counts[name] = counts.get(name, 0) + 1
         place, target = _places(name, arguments)
         is_ours = any(place.startswith(folder) for folder, _ in places)
-        if name == "write" and (is_ours or place.startswith("/") and not place.startswith(("/dev/", "/proc/"))):
-            files_written += 1
+        is_open = name in ("open", "openat", "creat")
+        is_opened_to_write = is_open and (name == "creat" or bool(WRITING_FLAG.search(arguments)))
+        if is_opened_to_write:
+            written.add(place)
+        is_written = place in written
+        if name in of_files and is_written:
+            of_files[name] += 1
         if not is_ours:
             continue
-        is_open = name in ("open", "openat", "creat")
-        changes = name in CHANGING and not is_open
-        if is_open:
-            changes = name == "creat" or bool(WRITING_FLAG.search(arguments))
-            if changes:
-                opened.add(place)
-        if name == "close":
-            changes = place in opened
-        call = Call(name, counts[name], place, target, arguments, result, changes, files_written if name == "write" else 0)
+        changes = is_opened_to_write if is_open else is_written if name == "close" else name in CHANGING
+        call = Call(name, counts[name], place, target, arguments, result, changes, of_files.get(name, 0))
         call.shown = shown(place, places)
         if target:
             call.shown += " -> " + shown(target, places)

@@ -4,11 +4,13 @@
 #include "core/temporarysibling_p.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace uiutils {
@@ -82,6 +84,23 @@ bool writeFileDurably(const QString& path, const QByteArray& contents, QString* 
     if (syncFolder(QFileInfo(path).path()))
         return true;
     message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot make sure that %1 outlives a power cut: %2"), path, systemError());
+    return false;
+}
+
+bool makeFolderDurably(const QString& path)
+{
+    const QString folder = QDir::cleanPath(path);
+    if (QFileInfo(folder).isDir())
+        return true;
+    const QString above = QFileInfo(folder).path();
+    if (folder.contains(QChar(QChar::Null)) || above == folder || !makeFolderDurably(above))
+        return false;
+    const QByteArray name = QFile::encodeName(folder);
+    if (::mkdir(name.constData(), 0777) != 0)
+        return QFileInfo(folder).isDir();
+    if (syncFolder(above))
+        return true;
+    ::rmdir(name.constData());
     return false;
 }
 

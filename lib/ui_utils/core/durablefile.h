@@ -20,4 +20,9 @@ namespace uiutils {
 [[nodiscard]] bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error = nullptr,
         const QString& temporary = QString());
 
+/// Makes the folder, and those above it that are missing, so that a power cut does not take it away together with what is
+/// written in it. False when there is none then: one that cannot be synced is removed again, so that no file in it is
+/// told to be safe.
+bool makeFolderDurably(const QString& path);
+
 } // namespace uiutils

@@ -1,5 +1,6 @@
 #include "report/report.h"
 
+#include "core/durablefile.h"
 #include "core/itemids.h"
 #include "core/paths.h"
 #include "report/jobreport_p.h"
@@ -15,7 +16,6 @@
 #include <kiv/kivclientitem.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QTimer>
 
@@ -439,7 +439,7 @@ QString Report::getSaveFilePath(const QString& name, const QString& suffix)
     const QString folder = m_state->destinations().folder(getReportFilePath());
     // Where a stick was, it would be the unit's.
     if (uiutils::isDriveThere(folder))
-        QDir().mkpath(onDisk(folder));
+        uiutils::makeFolderDurably(onDisk(folder));
     return uiutils::reportPath(folder, name, suffix);
 }
 

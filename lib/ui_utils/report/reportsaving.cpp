@@ -207,7 +207,9 @@ bool Report::Save::writeFormats()
         isComplete = isComplete && isWritten;
         // An answer that comes while this save runs would be refused.
         const bool isAsking = m_report && !isWritten && m_report->m_state->gate.isAsking();
-        if (!m_report || isAsking || !m_report->tellProgress(m_report->m_state->progress.finishFormat()))
+        // What was given up is not done.
+        if (!m_report || isAsking || m_report->m_state->progress.isCancelled()
+                || !m_report->tellProgress(m_report->m_state->progress.finishFormat()))
             return false;
     }
     return isComplete;
