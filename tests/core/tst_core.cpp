@@ -154,6 +154,21 @@ private Q_SLOTS:
         cleaner.join();
         QVERIFY2(failures == 0, qPrintable(QString::number(failures) + QLatin1Char(' ') + error));
     }
+    void writersOfOneTemporaryNameDoNotMix()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("report.pdf"));
+        const QString temporary = dir.filePath(QStringLiteral("report_tmp.pdf"));
+        {
+            TemporarySibling first(path, temporary);
+            QVERIFY(first.write("half"));
+            QVERIFY(!writeFileDurably(path, "other", nullptr, temporary));
+            QVERIFY(first.write(" and whole") && first.sync() && first.renameTo(path));
+        }
+        QCOMPARE(contentsOf(path), QByteArray("half and whole"));
+        QVERIFY(writeFileDurably(path, "other", nullptr, temporary));
+        QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("report.pdf")});
+    }
     void durableWriteTakesTheLongestName()
     {
         QTemporaryDir dir;

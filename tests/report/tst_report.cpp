@@ -63,7 +63,14 @@ QByteArray json(QByteArray text)
 class Controller : public Report
 {
 public:
-    QString generateTxtReport() override { return text; }
+    QString generateTxtReport() override
+    {
+        // It may be gone afterwards.
+        const QString result = text;
+        if (const auto making = whileMaking)
+            making();
+        return result;
+    }
     QString generateJsonReport() override { return json; }
     bool writeXmlReport(const QString& path, bool overwrite) override
     {
@@ -75,7 +82,13 @@ public:
         calls << "writeText" + suffix;
         return Report::writeTextReport(path, contents, suffix, overwrite);
     }
-    QByteArray generatePDFReport() override { return pages; }
+    QByteArray generatePDFReport() override
+    {
+        const QByteArray result = pages;
+        if (const auto making = whileMaking)
+            making();
+        return result;
+    }
     QString proposedFileName() override { return proposed; }
 
     void setUp(const QString& name, int format)
@@ -95,6 +108,7 @@ public:
     QString proposed = "proposed";
     QByteArray pages = "%PDF-";
     QStringList calls;
+    std::function<void()> whileMaking;
     bool keepsName = true;
 
 protected:
@@ -760,6 +774,103 @@ private Q_SLOTS:
         QVERIFY(manager()->currentDialog());
     }
 
+    void anAgreementHoldsForItsNameAlone()
+    {
+        Controller report;
+        for (const char* name : {"a", "b"}) {
+            report.setUp(name, 3);
+            report.text = name;
+            QVERIFY(report.save());
+        }
+        report.setUp("a", 3);
+        QVERIFY(!report.save());
+        report.getSetting("reportName")->setValue("b");
+        QVector<bool> saved;
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        report.text = "new";
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>{false});
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("b"));
+        QVERIFY(manager()->currentDialog() && manager()->currentDialog()->msg().contains("b.txt"));
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>({false, true}));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("new"));
+    }
+    void sticksThatComeLateAreAskedAbout_data()
+    {
+        QTest::addColumn<int>("location");
+        QTest::addColumn<int>("format");
+        for (const int location : {1, 2}) {
+            for (const int format : {0, 3})
+                QTest::addRow("%d, format %d", location, format) << location << format;
+        }
+    }
+    void sticksThatComeLateAreAskedAbout()
+    {
+        QFETCH(int, location);
+        QFETCH(int, format);
+        const QString name = format == 0 ? "a.pdf" : "a.txt";
+        QVERIFY(writeFile(onDisk("/mnt/port/" + name), "precious"));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        QVERIFY(basemgr()->setValue(locationItem, location));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        Controller report;
+        report.setUp("a", format);
+        report.text = "%PDF-";
+        report.whileMaking = [&] {
+            QDir().rename(onDisk("/mnt/usb"), onDisk("/mnt/point"));
+            QDir().rename(onDisk("/mnt/port"), onDisk("/mnt/usb"));
+            basemgr()->setMounted("/mnt/usb", true);
+        };
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        QVERIFY(!report.save());
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/" + name)), QByteArray("precious"));
+        QVERIFY(manager()->currentDialog());
+        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Report Exists"));
+        QCOMPARE(manager()->currentDialog()->msg(), "Do you want to overwrite report USB:/" + name + "?");
+        QCOMPARE(manager()->waitingDialogs(), 0);
+        QCOMPARE(generated.count(), 0);
+        report.whileMaking = nullptr;
+        QVector<bool> saved;
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>{true});
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/" + name)), QByteArray("%PDF-"));
+    }
+    void nothingIsPutWhereAStickWas()
+    {
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        QVERIFY(basemgr()->setValue(locationItem, 1));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        Controller report;
+        report.setUp("a", 3);
+        connect(&report, &Report::reportFilesChanged, &report, [&] { basemgr()->setMounted("/mnt/usb", false); });
+        QVERIFY(report.save());
+        QCOMPARE(names("/mnt/usb"), QStringList("a.txt"));
+    }
+    void foldersOnSticksAreMade()
+    {
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        Controller report;
+        report.setUp("a", 3);
+        report.setBaseDirectory("/mnt/usb/sites");
+        report.setFolder("f");
+        QVERIFY(report.save());
+        QVERIFY(names("/mnt/usb/sites/f").contains("a.txt"));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", false));
+        report.setFolder("g");
+        QVERIFY(!report.save());
+        QCOMPARE(names("/mnt/usb/sites"), QStringList("f"));
+        // A report that is saved to the stick is its own copy.
+        report.setFolder("");
+        report.setBaseDirectory("/mnt/usb");
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setValue(locationItem, 2));
+        QVERIFY(report.save());
+    }
     void recordsTellOfReports()
     {
         QVERIFY(m_backend->loadFile(UIUTILS_SERVICES_DIR "/workflow_manager_app.service.json"));
@@ -820,6 +931,22 @@ private Q_SLOTS:
         // What is written is kept from the cloud all the same, and the next save is not cancelled.
         QVERIFY(contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt")).contains("a.xml"));
         QVERIFY(report.save(true));
+        // Before the first format counts, too.
+        report.disconnect(&report);
+        report.setUp("b", 3);
+        connect(&report, &Report::savingChanged, &report, &Report::cancel);
+        QVERIFY(!report.save());
+        QVERIFY(!QFile::exists(onDisk("/cust/public/reports/b.txt")));
+        QVERIFY(!manager()->currentDialog());
+    }
+    void aSaveTellsTheNameThatItBeganWith()
+    {
+        Controller report;
+        report.setUp("a", 5);
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        connect(&report, &Report::savingChanged, &report, [&] { report.getSetting("reportFormat")->setValue(0); });
+        QVERIFY(report.save());
+        QCOMPARE(generated, QList<QVariantList>{{QString("a")}});
     }
     void pagesTellHowFarTheyAre()
     {
@@ -922,6 +1049,30 @@ private Q_SLOTS:
         std::sort(found.begin(), found.end(), std::greater<>());
         QTEST(found, "files");
     }
+    void generatorsMayDeleteTheController()
+    {
+        for (const int format : {0, 3}) {
+            const QPointer<Controller> report(new Controller);
+            report->setUp("a", format);
+            report->whileMaking = [&report] { delete report; };
+            QVERIFY(!report->save());
+            QVERIFY(!report);
+        }
+    }
+    void refusalsMayDeleteTheController()
+    {
+        const QPointer<Report> report(new Report);
+        QVERIFY(basemgr()->setValue(activeItem, false));
+        QVERIFY(!report->writeToJobManager());
+        // The dialog of the first makes room for the second.
+        connect(manager(), &KIVNotificationModelManager::currentDialogChanged, report, [&report, isFirst = true]() mutable {
+            if (std::exchange(isFirst, false))
+                delete report;
+        });
+        QVERIFY(!report->writeToJobManager());
+        QVERIFY(!report);
+        QVERIFY(!manager()->currentDialog());
+    }
     void notifiersMayDeleteTheController()
     {
         writeTemplate("a.json", "");
@@ -981,6 +1132,24 @@ private Q_SLOTS:
         report.reset();
         QCOMPARE(saved, QVector<bool>{false});
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.txt")), QByteArray("kept"));
+    }
+    void dyingControllersAnswer()
+    {
+        QVERIFY(writeFile(onDisk("/cust/public/reports/f"), ""));
+        auto report = std::make_unique<Controller>();
+        report->setUp("a", 3);
+        report->setFolder("f");
+        QVERIFY(!report->save());
+        QVERIFY(basemgr()->setValue(activeItem, false));
+        QVERIFY(!report->writeToJobManager());
+        QCOMPARE(manager()->waitingDialogs(), 1);
+        QStringList seen;
+        Report* dying = report.get();
+        connect(manager(), &KIVNotificationModelManager::currentDialogChanged, dying,
+                [&seen, dying] { seen << dying->getSaveLocation() << dying->getTitle() << QString::number(dying->getProgress()); });
+        report.reset();
+        QVERIFY(!manager()->currentDialog());
+        QVERIFY(seen.contains("Internal:/reports/f/"));
     }
 
     void savesDoNotNest()
@@ -1058,6 +1227,25 @@ private Q_SLOTS:
         const QByteArray list = contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"));
         QVERIFY(list.contains("/a.pdf\n") && list.contains("/a.txt\n") && !list.contains("/a.xml\n"));
     }
+    void reportsThatCannotBeCompressedStayFromTheCloud()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        report.setCompressionEnabled(true);
+        const auto restore = qScopeGuard([path = qgetenv("PATH")] { qputenv("PATH", path); });
+        qputenv("PATH", "/nowhere");
+        QVERIFY(!report.save());
+        QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
+        QVERIFY(contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"))
+                        .contains("/cust/public/reports/a.txt\n"));
+    }
+    void theBaseManagerHearsOfAListThatOthersHaveMade()
+    {
+        const QString item(":config:basemgr:system:ss_nosync:stringARRAY:");
+        QVERIFY(writeFile(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"), "/a.pdf\n/a.json\n"));
+        Report().addReportToNoSyncList("/a.pdf");
+        QCOMPARE(basemgr()->item(item)->getValue().toStringList(), QStringList({"/a.pdf", "/a.json"}));
+    }
 
     void platformKeepsTheName()
     {
@@ -1096,6 +1284,16 @@ private Q_SLOTS:
         QVERIFY(report.save());
         QCOMPARE(manager()->currentDialog()->longLabel(), QString("Sync"));
         manager()->accept();
+        // A page that goes when its reports are saved takes the dialog along; two reports are one mishap.
+        manager()->clear();
+        {
+            Controller leaving;
+            leaving.setUp("b", 5);
+            leaving.setNotifiesTray(false);
+            QVERIFY(leaving.save());
+        }
+        QVERIFY(!manager()->currentDialog());
+        QCOMPARE(manager()->count(), 1);
         QVERIFY(QDir(folder + "/nosync_fileList.txt").removeRecursively());
         const QByteArray foreign("/cust/public/caf\xe9\n\n/x\n/x\n");
         QVERIFY(writeFile(folder + "/nosync_fileList.txt", foreign));

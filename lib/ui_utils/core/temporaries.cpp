@@ -74,6 +74,18 @@ bool lockTemporary(int fd)
     return ::fstat(fd, &entry) != 0 || entry.st_nlink > 0;
 }
 
+bool removeUnlessHeld(const QString& path)
+{
+    const QByteArray place = QFile::encodeName(path);
+    const int fd = ::open(place.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    const bool isHeld = fd >= 0 && !tryLock(fd) && errno == EWOULDBLOCK;
+    if (!isHeld)
+        ::unlink(place.constData());
+    if (fd >= 0)
+        ::close(fd);
+    return !isHeld;
+}
+
 void removeStaleTemporaries(const QString& folder)
 {
     const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(QFile::encodeName(folder).constData()), &::closedir);

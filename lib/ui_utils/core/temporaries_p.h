@@ -16,6 +16,9 @@ QString newTemporaryPath(const QString& folder, QLatin1String end);
 /// system knows no locks, and then nobody cleans there.
 bool lockTemporary(int fd);
 
+/// Removes the file at `path`, unless its maker lives and holds its lock: false then. What cannot be removed stays.
+bool removeUnlessHeld(const QString& path);
+
 /// Removes what a killed process or a power cut has left in `folder`. What cannot be removed stays.
 void removeStaleTemporaries(const QString& folder);
 

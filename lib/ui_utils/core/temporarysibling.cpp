@@ -34,12 +34,16 @@ void TemporarySibling::createUnderNewName(const QString& folder)
     } while (m_fd < 0 && (errno == EEXIST || errno == EINTR));
 }
 
-/// What lies there was left by a power cut. A folder stays, and is an error.
+/// What lies there was left by a power cut, or is being written: two writers of one name would take each other's half file for
+/// their own. A folder stays, and is an error.
 void TemporarySibling::createUnder(const QString& name)
 {
     m_path = name;
     do {
-        ::unlink(QFile::encodeName(m_path).constData());
+        if (!removeUnlessHeld(m_path)) {
+            errno = EBUSY;
+            return;
+        }
         open();
     } while (m_fd < 0 && errno == EINTR);
 }

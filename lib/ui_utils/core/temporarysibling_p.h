@@ -10,7 +10,8 @@ namespace uiutils {
 class TemporarySibling
 {
 public:
-    /// `target` is a path on disk. An empty `name` makes up one that nobody has; what lies under another goes.
+    /// `target` is a path on disk. An empty `name` makes up one that nobody has; what lies under another goes,
+    /// unless its writer lives.
     explicit TemporarySibling(const QString& target, const QString& name = QString());
     ~TemporarySibling();
     Q_DISABLE_COPY_MOVE(TemporarySibling)

@@ -6,6 +6,7 @@
 #include "core/paths.h"
 
 #include <kiv/kivclientinterface.h>
+#include <kiv/kivclientitem.h>
 
 #include <QByteArrayList>
 #include <QCoreApplication>
@@ -77,6 +78,14 @@ bool write(const Lines& lines, QString* error)
     return writeFileDurably(onDisk(paths::noSyncList), text, error);
 }
 
+QStringList textsOf(const Lines& lines)
+{
+    QStringList texts;
+    for (const QByteArray& line : lines)
+        texts.append(QString::fromUtf8(line));
+    return texts;
+}
+
 Lines withoutDuplicates(const Lines& lines)
 {
     Lines once;
@@ -90,6 +99,14 @@ Lines withoutDuplicates(const Lines& lines)
     return once;
 }
 
+/// Whoever has made the list what it is may have been killed before the base manager heard of it.
+bool isTold(const Lines& lines)
+{
+    const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
+    const KIVClientItem* item = client ? client->getItem(itemids::noSyncList) : nullptr;
+    return !item || item->getValue().toStringList() == textsOf(lines);
+}
+
 /// After the lock is given back, for those who hear of it may change the list in their turn. The last who tells has told
 /// what stands there, whichever order the tellers come in.
 void tellBaseManager()
@@ -98,10 +115,7 @@ void tellBaseManager()
     QString error;
     std::optional<Lines> lines = client ? read(&error) : std::nullopt;
     for (int i = 0; lines && i < mostTellings; ++i) {
-        QStringList paths;
-        for (const QByteArray& line : *lines)
-            paths.append(QString::fromUtf8(line));
-        client->setItem(itemids::noSyncList, paths);
+        client->setItem(itemids::noSyncList, textsOf(*lines));
         std::optional<Lines> now = read(&error);
         if (now == lines)
             return;
@@ -123,9 +137,9 @@ bool edit(const Change& change, QString* error)
         if (!former)
             return false;
         const Lines now = change(*former);
-        if (now == *former)
+        if (now == *former && isTold(now))
             return true;
-        if (!write(now, error))
+        if (now != *former && !write(now, error))
             return false;
     }
     tellBaseManager();

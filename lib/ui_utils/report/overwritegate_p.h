@@ -27,6 +27,7 @@ public:
     void ask(const QString& path);
     /// The pending report when the notification is the question about it, which is answered by that; empty otherwise.
     QString takeAnswered(const KIVNotification* notification);
+    bool isAsking() const { return !m_token.isEmpty(); }
     /// Takes the question back, if one is open: its answer would be taken for one about what is saved now.
     void withdraw();
 

@@ -66,7 +66,7 @@ Report::Report(QObject* parent)
 Report::~Report()
 {
     m_isSaving = true;
-    m_state->gate.withdraw();
+    m_state->closeDialogs();
 }
 
 // --- Services ---
@@ -437,8 +437,8 @@ QString Report::getReportFilePath()
 QString Report::getSaveFilePath(const QString& name, const QString& suffix)
 {
     const QString folder = m_state->destinations().folder(getReportFilePath());
-    // On a stick there is one as long as the stick is there.
-    if (!uiutils::isOnUsb(folder))
+    // Where a stick was, it would be the unit's.
+    if (uiutils::isDriveThere(folder))
         uiutils::makeFolderDurably(onDisk(folder));
     return uiutils::reportPath(folder, name, suffix);
 }

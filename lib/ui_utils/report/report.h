@@ -346,6 +346,8 @@ private:
     bool emitEach(std::initializer_list<void (Report::*)()> notifiers);
     QString chosenName();
     bool mayWrite(const QStringList& paths, bool overwrite);
+    void ask(const QString& taken, const QStringList& paths);
+    bool writeGenerated(const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite);
     bool writeContents(const QString& path, const QByteArray& contents);
     bool copyToUsb(const QString& name, const QString& suffix);
     void tellSyncError(const QString& consequence, const QString& reason);

@@ -67,7 +67,7 @@ void Report::writeNoSyncListToFile(const QStringList& noSync_fileList)
 void Report::tellSyncError(const QString& consequence, const QString& reason)
 {
     qWarning("%s", qUtf8Printable(reason));
-    m_state->tell(tr("Sync"), consequence + QLatin1Char(' ') + reason);
+    m_state->tellSyncError(tr("Sync"), consequence + QLatin1Char(' ') + reason);
 }
 
 // --- The file browser ---
@@ -78,7 +78,11 @@ void Report::writeMetadata(const QString& path, const QString& format)
     addWorkOrderMetaDataInfo();
     if (uiutils::isJobActive() && ensureValidJobData())
         updateJobTestMetadata();
-    m_state->metadata.saveMetadataToFile();
+    // Where a stick was, it would be the unit's.
+    if (uiutils::isDriveThere(path))
+        m_state->metadata.saveMetadataToFile();
+    else
+        qWarning("The record of %s was not written, because the drive is not there", qUtf8Printable(path));
 }
 
 ReportMetadata& Report::metadata()

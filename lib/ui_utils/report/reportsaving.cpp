@@ -12,6 +12,7 @@
 #include <kiv/filesystemusage.h>
 #include <kiv/kivclientinterface.h>
 
+#include <QDir>
 #include <QPointer>
 
 #include <algorithm>
@@ -43,6 +44,7 @@ private:
     bool writeFormats();
     bool writeFormat(const uiutils::ReportFormat& format);
     void recordSync();
+    bool mayCopy();
     bool copyToUsb();
     bool announce();
     bool fail();
@@ -52,6 +54,7 @@ private:
     QPointer<Report> m_report;
     bool m_overwrite;
     bool m_isSynced = false;
+    bool m_isAll = false;
     QString m_name;
     uiutils::ReportFormats m_formats;
     QStringList m_written;
@@ -65,10 +68,8 @@ Report::Save::Save(Report& report, bool overwrite)
 
 Report::Save::~Save()
 {
-    if (!m_report)
-        return;
-    m_report->m_state->fixedDestinations.reset();
-    m_report->m_state->endSave();
+    if (m_report)
+        m_report->m_state->endSave();
 }
 
 bool Report::Save::run()
@@ -108,6 +109,7 @@ void Report::Save::occupy(bool isOccupied)
 bool Report::Save::takeName()
 {
     m_name = m_report->chosenName();
+    m_isAll = m_report->isAll();
     m_formats = uiutils::formatsToWrite(m_report->getFormat(), m_report->m_settings.value(uiutils::formatSetting));
     const auto refused = std::find_if_not(m_formats.cbegin(), m_formats.cend(), [&](const uiutils::ReportFormat* format) {
         return uiutils::isFileName(m_name, format->suffix, m_report->isCompressionEnabled());
@@ -147,9 +149,10 @@ bool Report::Save::takeSyncChoice()
 bool Report::Save::takeDestinations()
 {
     uiutils::ReportState& state = *m_report->m_state;
-    const auto agreed = std::exchange(state.agreedDestinations, std::nullopt);
-    state.fixedDestinations
-            = m_overwrite && agreed ? *agreed : uiutils::ReportDestinations::current();
+    const auto agreed = std::exchange(state.agreed, std::nullopt);
+    const bool isAgreed = m_overwrite && agreed;
+    state.agreedPaths = isAgreed ? agreed->paths : QStringList();
+    state.fixedDestinations = isAgreed ? agreed->destinations : uiutils::ReportDestinations::current();
     return true;
 }
 
@@ -195,11 +198,17 @@ bool Report::Save::writeAndRecord()
 bool Report::Save::writeFormats()
 {
     m_report->prepareDocument();
-    bool isComplete = m_report && !m_formats.isEmpty();
+    // It may have been cancelled meanwhile.
+    if (!m_report || !m_report->tellProgress(false))
+        return false;
+    bool isComplete = !m_formats.isEmpty();
     for (const uiutils::ReportFormat* format : qAsConst(m_formats)) {
-        isComplete = m_report && writeFormat(*format) && isComplete;
+        const bool isWritten = writeFormat(*format);
+        isComplete = isComplete && isWritten;
+        // An answer that comes while this save runs would be refused.
+        const bool isAsking = m_report && !isWritten && m_report->m_state->gate.isAsking();
         // What was given up is not done.
-        if (!m_report || m_report->m_state->progress.isCancelled()
+        if (!m_report || isAsking || m_report->m_state->progress.isCancelled()
                 || !m_report->tellProgress(m_report->m_state->progress.finishFormat()))
             return false;
     }
@@ -219,7 +228,9 @@ bool Report::Save::writeFormat(const uiutils::ReportFormat& format)
 void Report::Save::recordSync()
 {
     (m_isSynced ? m_report->m_syncedReports : m_report->m_unsyncedReports) += m_written;
-    for (const QString& path : qAsConst(m_written)) {
+    // A report that could not be compressed lies there as well.
+    const QStringList paths = m_isSynced ? m_written : m_written + m_report->m_state->strays;
+    for (const QString& path : paths) {
         if (m_report && m_isSynced)
             m_report->removeReportFromNoSyncList(path);
         else if (m_report)
@@ -227,11 +238,29 @@ void Report::Save::recordSync()
     }
 }
 
+/// A stick that was not there when the save began, or another one than then, may hold reports that nobody has asked about.
+bool Report::Save::mayCopy()
+{
+    const QStringList& checked = m_report->m_state->checkedPaths;
+    bool overwrite = m_overwrite;
+    QStringList copies;
+    for (const uiutils::ReportFormat* format : qAsConst(m_formats)) {
+        const QString saved = m_report->getSaveFilePath(m_name, format->suffix);
+        if (QDir::cleanPath(saved) == uiutils::usbPath(saved))
+            continue;
+        copies += uiutils::usbPath(saved);
+        overwrite = overwrite && checked.contains(copies.constLast());
+    }
+    return !uiutils::isDriveThere(uiutils::paths::usb) || m_report->mayWrite(copies, overwrite);
+}
+
 bool Report::Save::copyToUsb()
 {
     if (!m_report->m_state->destinations().copiesToUsb())
         return true;
-    bool isComplete = true;
+    bool isComplete = mayCopy();
+    if (!isComplete)
+        return false;
     for (const uiutils::ReportFormat* format : qAsConst(m_formats))
         isComplete = m_report && m_report->copyToUsb(m_name, format->suffix) && isComplete;
     return isComplete;
@@ -240,7 +269,7 @@ bool Report::Save::copyToUsb()
 bool Report::Save::announce()
 {
     // Files of all formats have the name in common.
-    const QString saved = m_report->isAll() ? m_name : m_written.constFirst();
+    const QString saved = m_isAll ? m_name : m_written.constFirst();
     m_report->saveSucceeded(m_written.constFirst());
     if (m_report)
         Q_EMIT m_report->reportGenerated(saved);

@@ -9,11 +9,14 @@
 #include <kiv/kivnotification.h>
 
 #include <QLatin1String>
+#include <QPointer>
 #include <QString>
+#include <QStringList>
 #include <QtDebug>
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 /// What the parts of the report controller share.
 namespace uiutils {
@@ -34,6 +37,13 @@ bool changes(Value& held, const Value& value)
     return true;
 }
 
+/// Which files the user lets a save overwrite, and where it goes: the answer holds for no others.
+struct Agreement
+{
+    ReportDestinations destinations;
+    QStringList paths;
+};
+
 /// What one controller keeps for its saves, and what the user is told and asked on its behalf. Questions have a sender of
 /// their own, because raising an error would take a pending one back.
 class ReportState
@@ -45,16 +55,32 @@ public:
 
     /// Where the save that runs goes, whatever is plugged or pulled meanwhile.
     std::optional<ReportDestinations> fixedDestinations;
-    /// Where the report goes that the user is being asked about, and the one that may be overwritten: the answer holds for no
-    /// other place.
-    std::optional<ReportDestinations> askedDestinations;
-    std::optional<ReportDestinations> agreedDestinations;
+    /// What the user is being asked about, and what was answered with yes. None when a writer asks that was called alone.
+    std::optional<Agreement> asked;
+    std::optional<Agreement> agreed;
+    /// Of the save that runs: what the user has agreed to, and all that was looked at before anything was written.
+    QStringList agreedPaths;
+    QStringList checkedPaths;
+    /// Files that it has left, although they are not what was to be written.
+    QStringList strays;
 
     ReportDestinations destinations() const { return fixedDestinations.value_or(ReportDestinations::current()); }
 
     /// From here to endSave(), one error is told however many files it hits.
-    void beginSave() { m_isFirstError = true; }
-    void endSave() { m_isFirstError.reset(); }
+    void beginSave()
+    {
+        endSave();
+        m_isFirstError = true;
+        m_isSyncErrorTold = false;
+    }
+    void endSave()
+    {
+        m_isFirstError.reset();
+        fixedDestinations.reset();
+        agreedPaths.clear();
+        checkedPaths.clear();
+        strays.clear();
+    }
 
     /// The report at `path` could not be written: the user is told where, the log why.
     void tellWriteError(const QString& path, const QString& reason)
@@ -64,24 +90,48 @@ public:
         if (m_isFirstError)
             m_isFirstError = false;
         if (!isToldAlready)
-            m_errors.sendNotificationWriteError(path);
+            m_errors->sendNotificationWriteError(path);
     }
 
     void tell(const QString& title, const QString& text)
     {
-        m_refusal = std::make_unique<KIVNotification>();
-        m_refusal->setLongLabel(title);
-        m_refusal->setMsg(text);
-        m_refusal->setError();
-        m_refusal->notifyDialog();
+        auto refusal = std::make_unique<KIVNotification>();
+        refusal->setLongLabel(title);
+        refusal->setMsg(text);
+        refusal->setError();
+        // Those who hear that the former dialog has gone may delete whoever tells.
+        const QPointer<KIVNotification> told(refusal.get());
+        std::exchange(m_refusal, std::move(refusal)).reset();
+        if (told)
+            told->notifyDialog();
+        // The page may go now that the report is saved, and the dialog with it.
+        if (told)
+            told->notifyTray();
     }
 
-    QString shown(const QString& path) { return m_errors.getSanitizedPathName(path); }
+    /// The same, once for each save.
+    void tellSyncError(const QString& title, const QString& text)
+    {
+        const bool isSave = m_isFirstError.has_value();
+        if (!isSave || !std::exchange(m_isSyncErrorTold, true))
+            tell(title, text);
+    }
+
+    /// What the user is told and asked ends here, while those who hear of it find everything whole.
+    void closeDialogs()
+    {
+        gate.withdraw();
+        m_refusal.reset();
+        m_errors = std::make_unique<FileUtils>();
+    }
+
+    QString shown(const QString& path) { return m_errors->getSanitizedPathName(path); }
 
 private:
-    FileUtils m_errors;
+    std::unique_ptr<FileUtils> m_errors = std::make_unique<FileUtils>();
     std::unique_ptr<KIVNotification> m_refusal;
     std::optional<bool> m_isFirstError;
+    bool m_isSyncErrorTold = false;
 };
 
 } // namespace uiutils

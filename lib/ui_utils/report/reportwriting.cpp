@@ -21,23 +21,33 @@ using uiutils::onDisk;
 
 bool Report::writeTxtReport(const QString& path, bool overwrite)
 {
-    return writeTextReport(path, generateTxtReport(), TXT_EXTENSION, overwrite);
+    return writeGenerated(path, &Report::generateTxtReport, TXT_EXTENSION, overwrite);
 }
 
 bool Report::writeJsonReport(const QString& path, bool overwrite)
 {
-    const QString text = generateJsonReport();
-    return writeTextReport(path, text.isNull() ? QStringLiteral("{ }") : text, JSON_EXTENSION, overwrite);
+    return writeGenerated(path, &Report::generateJsonReport, JSON_EXTENSION, overwrite);
 }
 
 bool Report::writeHtmlReport(const QString& path, bool overwrite)
 {
-    return writeTextReport(path, generateHtmlReport(), HTML_EXTENSION, overwrite);
+    return writeGenerated(path, &Report::generateHtmlReport, HTML_EXTENSION, overwrite);
 }
 
 bool Report::writeXmlReport(const QString& path, bool overwrite)
 {
-    return writeTextReport(path, generateXmlReport(), XML_EXTENSION, overwrite);
+    return writeGenerated(path, &Report::generateXmlReport, XML_EXTENSION, overwrite);
+}
+
+/// A long text takes time to make, in which the controller may go.
+bool Report::writeGenerated(
+        const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite)
+{
+    const QPointer<Report> self(this);
+    QString text = (this->*generate)();
+    if (text.isNull() && suffix == JSON_EXTENSION)
+        text = QStringLiteral("{ }");
+    return self && writeTextReport(path, text, suffix, overwrite);
 }
 
 bool Report::writePDFReport(const QString& path, bool overwrite)
@@ -53,8 +63,9 @@ bool Report::writePDFReport(const QString& path, bool overwrite)
         return false;
     if (isAlone)
         m_state->progress.end();
+    // A report of the name may have come while the pages were made, with a stick.
     if (!pages.isEmpty())
-        return writeContents(path, pages);
+        return mayWrite({path}, overwrite) && writeContents(path, pages);
     if (!m_state->progress.isCancelled())
         m_state->tellWriteError(path, QStringLiteral("there are no pages"));
     return false;
@@ -69,6 +80,8 @@ bool Report::writeContents(const QString& path, const QByteArray& contents)
 {
     const uiutils::WrittenFile file = uiutils::writeReportFile(path, contents, m_isCompressionEnabled);
     if (!file.ok) {
+        if (!file.path.isEmpty())
+            m_state->strays += file.path;
         m_state->tellWriteError(path, file.error);
         return false;
     }
@@ -108,24 +121,32 @@ bool Report::mayWrite(const QStringList& paths, bool overwrite)
     const QString taken = overwrite ? QString() : uiutils::OverwriteGate::firstTaken(paths, m_isCompressionEnabled);
     if (taken.isEmpty())
         return true;
+    ask(taken, paths);
+    return false;
+}
+
+/// Whoever answers yes agrees to `paths` and to what the save that runs has looked at before.
+void Report::ask(const QString& taken, const QStringList& paths)
+{
     const auto* manager = KIVNotificationModelManager::instance();
     connect(manager, &KIVNotificationModelManager::notificationAccepted, this, &Report::overwriteAccepted,
             Qt::UniqueConnection);
     connect(manager, &KIVNotificationModelManager::notificationRejected, this, &Report::overwriteRejected,
             Qt::UniqueConnection);
     const QPointer<Report> self(this);
-    m_state->askedDestinations = m_state->fixedDestinations;
+    m_state->asked.reset();
+    if (m_state->fixedDestinations)
+        m_state->asked = uiutils::Agreement {*m_state->fixedDestinations, m_state->checkedPaths + paths};
     m_state->gate.ask(taken);
     if (self)
         overwriteAsked(taken);
-    return false;
 }
 
 void Report::overwriteAccepted(KIVNotification* notification)
 {
     if (m_state->gate.takeAnswered(notification).isEmpty())
         return;
-    m_state->agreedDestinations = m_state->askedDestinations;
+    m_state->agreed = m_state->asked;
     Q_EMIT reportOverwriteAccepted();
 }
 
@@ -152,7 +173,13 @@ bool Report::checkForOverwrite(const QString& name, const QString& suffix, bool 
         if (hasCopies)
             paths += uiutils::usbPath(paths.constLast());
     }
-    return mayWrite(paths, overwrite);
+    m_state->checkedPaths = paths;
+    if (!overwrite || m_state->agreedPaths.isEmpty())
+        return mayWrite(paths, overwrite);
+    // The name, the format or the stick may be another than when the user said yes.
+    for (const QString& path : qAsConst(m_state->agreedPaths))
+        paths.removeAll(path);
+    return mayWrite(paths, false);
 }
 
 // --- Progress ---
