@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
+import UiUtils 1.0
 import UiUtils.Demo 1.0
 
 // The reports in a report controller's folder, newest first, and what can be done with the current one.
@@ -10,6 +11,8 @@ ColumnLayout {
     property LoopbackReport report
     readonly property alias list: list
     property var files: []
+    // Where they lie, which need not be where the next one is saved.
+    property string place
     // Null without one.
     readonly property var current: files[list.currentIndex] || null
     // Nothing on the instrument shows the others.
@@ -18,10 +21,11 @@ ColumnLayout {
     // News come in at the top. Where nothing has, whoever deletes goes on where they are.
     function refresh() {
         const newest = files.length > 0 ? files[0] : null
-        const place = list.currentIndex
+        const row = list.currentIndex
         files = report.reportFiles
+        place = words.getSanitizedPathName(report.getReportFilePath())
         const isNews = files.length > 0 && (newest === null || files[0].time > newest.time)
-        list.currentIndex = isNews ? 0 : Math.min(place, files.length - 1)
+        list.currentIndex = isNews ? 0 : Math.min(row, files.length - 1)
         list.positionViewAtIndex(list.currentIndex, ListView.Contain)
     }
 
@@ -46,6 +50,7 @@ ColumnLayout {
 
     spacing: Theme.gap
 
+    FileUtils { id: words }
     SavedReportActions {
         id: actions
         report: saved.report
@@ -77,8 +82,9 @@ ColumnLayout {
                 Accessible.name: text
             }
             Text {
+                objectName: "reportPlace"
                 Layout.fillWidth: true
-                text: saved.report.saveLocation
+                text: saved.place
                 textFormat: Text.PlainText
                 color: Theme.mutedText
                 font.pixelSize: Theme.smallText
@@ -169,7 +175,8 @@ ColumnLayout {
 
                     Text {
                         Layout.fillWidth: true
-                        text: modelData.name
+                        // A name may have line feeds.
+                        text: modelData.name.replace(/\s/g, " ")
                         textFormat: Text.PlainText
                         color: Theme.text
                         font.pixelSize: Theme.smallText + 1
