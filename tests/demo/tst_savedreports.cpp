@@ -89,6 +89,16 @@ private Q_SLOTS:
         QCOMPARE(notifications()->count(), 0);
     }
 
+    void deletingALineFeed()
+    {
+        put(folder + "a\nb.pdf", "report");
+        m_actions->remove(folder + "a\nb.pdf");
+        QVERIFY(question().contains("a b.pdf"));
+        notifications()->accept();
+        QCOMPARE(filesIn(folder), QStringList());
+        expectError(QString());
+    }
+
     void deletingWhatIsNoMoreAsItWas_data()
     {
         QTest::addColumn<Deed>("meanwhile");
