@@ -141,7 +141,8 @@ void SavedReportActions::copyNow(const QString& path)
     }
     QFile file(onDisk(path));
     const QByteArray contents = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    if (file.error() != QFileDevice::NoError) {
+    // Of more than an array holds Qt reads nothing, and calls that no error.
+    if (file.error() != QFileDevice::NoError || contents.size() != file.size()) {
         m_copying.sendNotificationReadError(path);
         return;
     }
