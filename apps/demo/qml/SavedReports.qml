@@ -135,7 +135,11 @@ ColumnLayout {
         Keys.onReturnPressed: pressBy(event, saved.open)
         Keys.onEnterPressed: pressBy(event, saved.open)
         Keys.onDeletePressed: pressBy(event, saved.remove)
-        ScrollBar.vertical: ScrollBar { id: bar }
+        // Always seen, because an edge may fall between two rows and hide that there are more.
+        ScrollBar.vertical: ScrollBar {
+            id: bar
+            policy: size < 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+        }
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Saved reports")
 
