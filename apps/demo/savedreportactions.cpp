@@ -88,6 +88,11 @@ void SavedReportActions::setReport(LoopbackReport* report)
     Q_EMIT reportChanged();
 }
 
+bool SavedReportActions::hasViewer() const
+{
+    return QFileInfo(onDisk(paths::pdfViewer)).isExecutable();
+}
+
 void SavedReportActions::remove(const QString& path)
 {
     m_removal.sendNotificationDeleteRequest(onOneLine(path), {{fileNameKey, path}});

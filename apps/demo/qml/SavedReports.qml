@@ -16,12 +16,14 @@ ColumnLayout {
     // Null without one.
     readonly property var current: files[list.currentIndex] || null
     // Nothing on the instrument shows the others.
-    readonly property bool canOpen: current !== null && current.format === "PDF"
+    readonly property bool canOpen: hasViewer && current !== null && current.format === "PDF"
+    property bool hasViewer: false
 
     // News come in at the top. Where nothing has, whoever deletes goes on where they are.
     function refresh() {
         const newest = files.length > 0 ? files[0] : null
         const row = list.currentIndex
+        hasViewer = actions.hasViewer()
         files = report.reportFiles
         place = words.getSanitizedPathName(report.getReportFilePath())
         const isNews = files.length > 0 && (newest === null || files[0].time > newest.time)
