@@ -2,6 +2,7 @@
 
 #include "core/durablefile.h"
 #include "core/paths.h"
+#include "core/temporaries_p.h"
 #include "core/temporaryfolder_p.h"
 #include "core/temporarysibling_p.h"
 #include "core/xmltext_p.h"
@@ -12,7 +13,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <atomic>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace uiutils;
@@ -132,6 +135,25 @@ private Q_SLOTS:
         QCOMPARE(found, expected);
     }
 
+    void cleaningLeavesLivingWritersAlone()
+    {
+        QTemporaryDir dir;
+        std::atomic<bool> isOver {false};
+        std::thread cleaner([&] {
+            while (!isOver)
+                removeStaleTemporaries(dir.path());
+        });
+        int failures = 0;
+        QString error;
+        for (int i = 0; i < 100; ++i) {
+            failures += !writeFileDurably(dir.filePath(QStringLiteral("report.html")), QByteArray("new"), &error);
+            const TemporaryFolder folder(dir.path());
+            failures += !QFileInfo(folder.path()).isDir();
+        }
+        isOver = true;
+        cleaner.join();
+        QVERIFY2(failures == 0, qPrintable(QString::number(failures) + QLatin1Char(' ') + error));
+    }
     void durableWriteTakesTheLongestName()
     {
         QTemporaryDir dir;

@@ -9,6 +9,7 @@ compared with what was told, and one more save has to mend it and to leave nothi
 
 import argparse
 import concurrent.futures
+import errno
 import itertools
 import json
 import os
@@ -52,7 +53,7 @@ ERRORS = {
     "asks": ["EIO"],
 }
 
-# Failures that are let pass, as pairs of a pattern of what is printed and the reason. They are counted and shown.
+# Failures that are let pass: kind of the fault, pattern of the failure, reason. They are counted and shown.
 KNOWN = []
 
 
@@ -87,8 +88,9 @@ class Fault:
         return ["-e", f"inject={self.call}:{effect}:when={self.number}"]
 
     @property
-    def is_short(self):
-        return self.kind in ("short", "full")
+    def is_preloaded(self):
+        """Whether it is made in the process: strace leaves out the call that it answers, and a descriptor stays open."""
+        return self.kind in ("short", "full") or self.call == "close" and self.kind != "kill"
 
     @property
     def is_needed(self):
@@ -106,8 +108,8 @@ class Server:
 
     def __init__(self, programs, folder):
         environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": folder, "TZ": "UTC", "LC_ALL": "C.UTF-8",
-                       "LD_PRELOAD": programs["shortwrite"], "TMPDIR": folder, "QT_LOGGING_RULES": ""}
-        for name in ("UIUTILS_ROOT", "UIUTILS_SHORT_WRITE", "PLOV_PROVIDER", "PLOV_SHORTLABEL"):
+                       "LD_PRELOAD": programs["preload"], "TMPDIR": folder, "QT_LOGGING_RULES": ""}
+        for name in ("UIUTILS_ROOT", "UIUTILS_FAULT", "PLOV_PROVIDER", "PLOV_SHORTLABEL"):
             environment.pop(name, None)
         # pylint: disable=consider-using-with
         self.process = subprocess.Popen([programs["savescenario"]], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
@@ -179,7 +181,7 @@ class Run:
         self.bench = bench
         self.folder = os.path.join(bench.folder, f"run-{next(bench.numbers)}")
         self.root, self.temporary = os.path.join(self.folder, "root"), os.path.join(self.folder, "tmp")
-        self.log, self.short_log = os.path.join(self.folder, "log"), os.path.join(self.folder, "short")
+        self.log, self.preload_log = os.path.join(self.folder, "log"), os.path.join(self.folder, "preloaded")
         os.makedirs(self.temporary)
         os.makedirs(self.root)
         if place:
@@ -201,13 +203,14 @@ class Run:
     def save(self, order, variant, fault=None, actor=None):
         """Does the deed under the fault, or under a trace of `actor`, or just so."""
         environment = {"UIUTILS_ROOT": self.root, "TMPDIR": self.temporary, "PATH": os.environ["PATH"],
-                       "UIUTILS_SHORT_WRITE": ""}
+                       "UIUTILS_FAULT": ""}
         order = {**order, "variant": variant, "environment": environment}
         actor = fault.actor if fault else actor
         trace = None
-        if fault and fault.is_short:
+        if fault and fault.is_preloaded:
             program = "savescenario" if actor == "deed" else "gzip"
-            order["shortWrite"] = f"{program}:{fault.number}:{fault.kind}:{self.short_log}"
+            mode = getattr(errno, fault.kind, fault.kind)
+            order["preloaded"] = f"{program}:{fault.number}:{mode}:{self.preload_log}"
         elif actor == "deed":
             trace = ["-o", self.log] + (fault.injection if fault else [])
         elif actor == "gzip":
@@ -296,8 +299,8 @@ def faults_of(prepared, with_reading):
             name = prepared.scenario.name
             if call.changes:
                 yield Fault(name, actor, call.name, call.number, "kill")
-            for error in ERRORS[family(call)]:
-                yield Fault(name, actor, call.name, call.number, error)
+            for error in ERRORS[family(call)] if call.name != "close" or call.changes else ():
+                yield Fault(name, actor, call.name, call.of_files if call.name == "close" else call.number, error)
             if call.name == "write":
                 yield Fault(name, actor, call.name, call.of_files, "short")
                 yield Fault(name, actor, call.name, call.of_files, "full")
@@ -305,7 +308,7 @@ def faults_of(prepared, with_reading):
 
 def call_of(prepared, fault):
     for call in prepared.calls[fault.actor]:
-        if call.name == fault.call and fault.number == (call.of_files if fault.is_short else call.number):
+        if call.name == fault.call and fault.number == (call.of_files if fault.is_preloaded else call.number):
             return call
     return None
 
@@ -317,9 +320,9 @@ def expected_place(prepared, fault):
 
 def hit_place(run, fault):
     """Where the fault struck; None when it did not."""
-    if fault.is_short:
+    if fault.is_preloaded:
         try:
-            with open(run.short_log, encoding="utf-8") as log:
+            with open(run.preload_log, encoding="utf-8") as log:
                 return tracelog.shown(log.read(), run.places)
         except FileNotFoundError:
             return None
@@ -336,7 +339,9 @@ def try_fault(bench, prepared, fault):
     answer = run.save(deed_of(scenario), "new", fault)
     problems = []
     place, hit = expected_place(prepared, fault), hit_place(run, fault)
-    if hit != place:
+    if not place:
+        problems.append("there is no such call")
+    elif hit != place:
         problems.append(f"the fault did not strike {place}, but {hit}")
     problems += judge(run, prepared, answer, fault)
     problems += mend(run, prepared)
@@ -349,7 +354,7 @@ def try_fault(bench, prepared, fault):
 def judge(run, prepared, answer, fault):
     expectation, actual = prepared.expectation, run.state()
     problems = verdict.file_faults(expectation, actual)
-    is_traced = fault and fault.actor == "deed" and not fault.is_short
+    is_traced = fault and fault.actor == "deed" and not fault.is_preloaded
     if fault and fault.kind == "kill" and fault.actor == "deed":
         if answer["signal"] != signal.SIGKILL:
             problems.append("it was not killed")
@@ -391,39 +396,40 @@ def mend(run, prepared):
 # --- Disks of a size ---
 
 class Disk:
-    """A file system of its own at one of the places, full up to a size, or read-only."""
+    """A file system of its own at one of the places, with so much room left, or read-only."""
 
     SIZES = ["0", "4k", "16k", "64k", "1028k", "1040k", "1060k", "1100k", "1200k", "2m"]
 
-    def __init__(self, place, size):
-        self.place, self.size = place, size
+    def __init__(self, run, place, size):
+        self.size = size
+        self.folder = {"root": run.root, "stick": os.path.join(run.root, "mnt/usb"), "tmp": run.temporary}[place]
+        self.ballast = os.path.join(self.folder, "ballast")
 
-    def folder(self, run):
-        return {"root": run.root, "stick": os.path.join(run.root, "mnt/usb"), "tmp": run.temporary}[self.place]
+    def mount(self):
+        os.makedirs(self.folder, exist_ok=True)
+        self._call("mount", "-t", "tmpfs", "-o", "size=16m,mode=0755", "faultproof", self.folder)
 
-    def mount(self, run):
-        folder = self.folder(run)
-        os.makedirs(folder, exist_ok=True)
-        subprocess.run(["mount", "-t", "tmpfs", "-o", "size=64m,mode=0755", "faultproof", folder], check=True)
-
-    def fill(self, run):
-        """Leaves so much room as the size says."""
-        folder = self.folder(run)
+    def fill(self):
         if self.size == "read-only":
-            return self._remount(run, "ro")
-        used = os.statvfs(folder)
-        bytes_used = (used.f_blocks - used.f_bfree) * used.f_bsize
-        room = int(self.size.rstrip("km")) * {"k": 1024, "m": 1024 * 1024}.get(self.size[-1:], 1)
-        return self._remount(run, f"size={max(bytes_used + room, 4096)}")
+            return self._call("mount", "-o", "remount,bind,ro", self.folder)
+        system = os.statvfs(self.folder)
+        room = int(self.size.rstrip("km")) * {"k": 1024, "m": 1024 * 1024}.get(self.size[-1], 1)
+        with open(self.ballast, "wb") as file:
+            os.posix_fallocate(file.fileno(), 0, system.f_bavail * system.f_bsize - room)
+        return None
 
-    def empty(self, run):
-        self._remount(run, "rw,size=64m")
+    def empty(self):
+        if self.size == "read-only":
+            self._call("mount", "-o", "remount,bind,rw", self.folder)
+        else:
+            os.remove(self.ballast)
 
-    def _remount(self, run, options):
-        subprocess.run(["mount", "-o", "remount," + options, self.folder(run)], check=True)
+    def unmount(self):
+        self._call("umount", "-l", self.folder)
 
-    def unmount(self, run):
-        subprocess.run(["umount", "-l", self.folder(run)], check=True)
+    @staticmethod
+    def _call(*command):
+        subprocess.run(command, check=True)
 
 
 def may_mount(folder):
@@ -442,16 +448,20 @@ def disk_runs(prepared):
 
 
 def try_disk(bench, prepared, fault):
-    disk = Disk(fault.call, fault.kind)
-    run = Run(bench, prepared.expectation.before, disk.mount)
+    disks = []
+
+    def place(run):
+        disks.append(Disk(run, fault.call, fault.kind))
+        disks[0].mount()
+
+    run = Run(bench, prepared.expectation.before, place)
     try:
-        disk.fill(run)
+        disks[0].fill()
         answer = run.save(deed_of(prepared.scenario), "new")
-        problems = judge(run, prepared, answer, None)
-        disk.empty(run)
-        problems += mend(run, prepared)
+        disks[0].empty()
+        problems = judge(run, prepared, answer, None) + mend(run, prepared)
     finally:
-        disk.unmount(run)
+        disks[0].unmount()
     run.end()
     return problems
 
@@ -476,7 +486,7 @@ class Report:
         self.failures, self.known = [], []
 
     def add(self, fault, problems):
-        known = [problem for problem in problems if reason_for(problem)]
+        known = [problem for problem in problems if reason_for(fault, problem)]
         problems = [problem for problem in problems if problem not in known]
         column = {"kill": "kills", "none": "none"}.get(fault.kind, "disks" if fault.actor == "disk" else "errors")
         with self.lock:
@@ -501,7 +511,7 @@ class Report:
 
     def print_failures(self, command, limit):
         for text, faults in _by_kind(self.known):
-            print(f"\nknown, in {len(faults)} runs: {text}\n  {reason_for(text)}")
+            print(f"\nknown, in {len(faults)} runs: {text}\n  {reason_for(faults[0], text)}")
         kinds = _by_kind(self.failures)
         for text, faults in kinds[:limit]:
             print(f"\nFAILED in {len(faults)} runs: {text}\n  repeat one: {command} --repeat '{faults[0]}'")
@@ -518,9 +528,9 @@ def _by_kind(failures):
     return sorted(kinds.items(), key=lambda item: -len(item[1]))
 
 
-def reason_for(problem):
+def reason_for(fault, problem):
     """Why a failure is known and let pass; None when it is not."""
-    return next((reason for pattern, reason in KNOWN if re.search(pattern, problem)), None)
+    return next((reason for kind, pattern, reason in KNOWN if kind == fault.kind and re.search(pattern, problem)), None)
 
 
 def kind_of(problem):
@@ -533,7 +543,7 @@ def find_programs(folder):
     places = [base, os.path.join(base, "../../bin"), os.path.join(base, "../../lib"), os.path.join(base, "bin"),
               os.path.join(base, "lib")]
     found = {}
-    for name, file in (("savescenario", "savescenario"), ("shortwrite", "libshortwrite.so")):
+    for name, file in (("savescenario", "savescenario"), ("preload", "libfaultpreload.so")):
         found[name] = next((os.path.join(place, file) for place in places if os.path.exists(os.path.join(place, file))), None)
         if not found[name]:
             sys.exit(f"{file} is not built: there is none in {folder}")
@@ -647,8 +657,19 @@ def work(bench, options, selected):
     return 1 if report.failures else 0
 
 
+def enter_own_mounts():
+    """Goes on with mounts that nobody else sees and that go with this process, where that is allowed."""
+    if os.environ.get("FAULTPROOF_MOUNTS"):
+        return
+    os.environ["FAULTPROOF_MOUNTS"] = "own"
+    command = ["unshare", "-m" if os.geteuid() == 0 else "-rm"]
+    if shutil.which("unshare") and subprocess.run([*command, "true"], capture_output=True, check=False).returncode == 0:
+        os.execvp("unshare", [*command, sys.executable, *sys.argv])
+
+
 def main():
     options = arguments()
+    enter_own_mounts()
     reason = why_not_here()
     if reason:
         print(f"skipped: {reason}")

@@ -180,8 +180,8 @@ QJsonObject perform(PageReport& report, const QJsonObject& order)
     const QString kind = order.value("kind").toString();
     QJsonArray generated;
     QObject::connect(&report, &Report::reportGenerated, [&](const QString& name) { generated.append(name); });
-    if (order.contains("shortWrite"))
-        qputenv("UIUTILS_SHORT_WRITE", QFile::encodeName(order.value("shortWrite").toString()));
+    if (order.contains("preloaded"))
+        qputenv("UIUTILS_FAULT", QFile::encodeName(order.value("preloaded").toString()));
     if (order.value("traced").toBool())
         waitForTracer();
     QJsonObject claim;

@@ -5,7 +5,7 @@ import re
 from dataclasses import dataclass, field
 
 # Calls that change files, or may: which ones do is seen in what they are called with.
-CHANGING = """open openat creat write pwrite64 writev pwritev pwritev2 fsync fdatasync sync_file_range rename renameat
+CHANGING = """open openat creat write pwrite64 writev pwritev pwritev2 fsync fdatasync syncfs sync_file_range rename renameat
  renameat2 unlink unlinkat mkdir mkdirat rmdir link linkat symlink symlinkat chmod fchmod fchmodat chown fchown fchownat
  ftruncate truncate fallocate utimensat close flock sendfile copy_file_range""".split()
 READING = "read pread64 getdents64 stat lstat newfstatat statx fstat access faccessat faccessat2 statfs fstatfs readlink".split()
@@ -33,7 +33,7 @@ class Call:
     arguments: str
     result: str
     changes: bool
-    of_files: int = 0  # number among the writes to regular files
+    of_files: int = 0  # number among the writes to, or closings of, files that are written
     shown: str = field(default="")
 
     @property
@@ -67,7 +67,7 @@ def _places(name, arguments):
 
 def read_log(path, places):
     """The calls that touch something below `places` (pairs of a folder and how it is shown), in their order."""
-    counts, calls, files_written, opened = {}, [], 0, set()
+    counts, of_files, calls, written = {}, {"write": 0, "close": 0}, [], set()
     try:
         with open(path, encoding="utf-8", errors="replace") as log:
             lines = log.read().splitlines()
@@ -81,19 +81,23 @@ def read_log(path, places):
         counts[name] = counts.get(name, 0) + 1
         place, target = _places(name, arguments)
         is_ours = any(place.startswith(folder) for folder, _ in places)
-        if name == "write" and (is_ours or place.startswith("/") and not place.startswith(("/dev/", "/proc/"))):
-            files_written += 1
+        is_open = name in ("open", "openat", "creat")
+        is_opened_to_write = is_open and (name == "creat" or bool(WRITING_FLAG.search(arguments)))
+        # By its number, for a file that gets its name is closed under another one than it was opened. Files in memory have
+        # their place among the process's own.
+        descriptor = re.match(r"\d+", result if is_open else arguments)
+        if is_open and descriptor:
+            is_kept = is_opened_to_write and not place.startswith("/proc/")
+            (written.add if is_kept else written.discard)(descriptor.group())
+        is_written = not is_open and bool(descriptor) and descriptor.group() in written
+        if name in of_files and is_written:
+            of_files[name] += 1
+        if name == "close" and descriptor:
+            written.discard(descriptor.group())
         if not is_ours:
             continue
-        is_open = name in ("open", "openat", "creat")
-        changes = name in CHANGING and not is_open
-        if is_open:
-            changes = name == "creat" or bool(WRITING_FLAG.search(arguments))
-            if changes:
-                opened.add(place)
-        if name == "close":
-            changes = place in opened
-        call = Call(name, counts[name], place, target, arguments, result, changes, files_written if name == "write" else 0)
+        changes = is_opened_to_write if is_open else is_written if name == "close" else name in CHANGING
+        call = Call(name, counts[name], place, target, arguments, result, changes, of_files.get(name, 0))
         call.shown = shown(place, places)
         if target:
             call.shown += " -> " + shown(target, places)
@@ -133,6 +137,9 @@ def order_faults(calls, root, is_claimed):
         elif call.name in SYNCS:
             unsynced.discard(call.place)
             names.pop(call.place.rstrip("/"), None)
+        elif call.name == "syncfs":
+            unsynced.clear()
+            names.clear()
         elif call.name in MAKERS and not is_temporary:
             made = call.place.rstrip("/")
             names.setdefault(os.path.dirname(made), {})[made] = f"the making of {call.shown}"

@@ -1104,6 +1104,17 @@ private Q_SLOTS:
         QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), foreign);
         report.addReportToNoSyncList("/y.z/w");
         QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), QByteArray("/cust/public/caf\xe9\n/x\n/y.z/w\n/y.z/w.json\n"));
+        // The JSON report that was kept back is not given away with the others of its name.
+        report.writeNoSyncListToFile({});
+        for (const char* path : {"/cust/a.pdf", "/cust/a.xml", "/cust/b.pdf", "/cust/b.json"})
+            report.addReportToNoSyncList(path);
+        QVERIFY(writeFile(onDisk("/cust/b.json"), "{}"));
+        report.removeReportFromNoSyncList("/cust/a.pdf");
+        report.removeReportFromNoSyncList("/cust/b.pdf");
+        QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), QByteArray("/cust/a.json\n/cust/a.xml\n/cust/b.json\n"));
+        report.removeReportFromNoSyncList("/cust/a.xml");
+        report.removeReportFromNoSyncList("/cust/b.json");
+        QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), QByteArray());
         report.writeNoSyncListToFile({"/1", "/2", "/1"});
         QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), QByteArray("/1\n/2\n"));
         QCOMPARE(basemgr()->item(":config:basemgr:system:ss_nosync:stringARRAY:")->getValue().toStringList(),

@@ -4,11 +4,13 @@
 #include "core/temporarysibling_p.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace uiutils {
@@ -20,19 +22,29 @@ QString systemError()
     return qt_error_string(errno);
 }
 
-/// Makes the rename survive a power cut. File systems that cannot sync a folder keep it by other means, or not at all.
-bool syncFolder(const QString& folder)
+int openToRead(const QString& path, int flags)
 {
     int fd = -1;
     do {
-        fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | flags);
     } while (fd < 0 && errno == EINTR);
-    // A folder may be one to write into and not to list.
+    return fd;
+}
+
+/// Makes the name of `member`, which was given to it in its folder just now, survive a power cut. File systems that cannot
+/// sync keep it by other means, or not at all.
+bool syncNameOf(const QString& member)
+{
+    int fd = openToRead(QFileInfo(member).path() + QLatin1Char('/'), O_DIRECTORY);
+    // A folder may be one to write into and not to list: then everything on its file system is synced.
+    const bool isClosed = fd < 0 && errno == EACCES;
+    if (isClosed)
+        fd = openToRead(member, 0);
     if (fd < 0)
-        return errno == EACCES;
+        return false;
     int result = 0;
     do {
-        result = ::fsync(fd);
+        result = isClosed ? ::syncfs(fd) : ::fsync(fd);
     } while (result != 0 && errno == EINTR);
     const int reason = errno;
     ::close(fd);
@@ -66,17 +78,39 @@ bool writeFileDurably(const QString& path, const QByteArray& contents, QString* 
                 systemError());
         return false;
     }
-    if (!file.write(contents) || !file.sync() || !file.close()) {
+    if (!file.write(contents) || !file.sync()) {
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"), path, systemError());
         return false;
     }
+    // Open, and so locked, until it has its name: whoever cleans the folder would take it for left behind.
     if (!file.renameTo(path)) {
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot replace %1: %2"), path, systemError());
         return false;
     }
-    if (syncFolder(QFileInfo(path).path()))
+    if (!file.close()) {
+        message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"), path, systemError());
+        return false;
+    }
+    if (syncNameOf(path))
         return true;
     message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot make sure that %1 outlives a power cut: %2"), path, systemError());
+    return false;
+}
+
+bool makeFolderDurably(const QString& path)
+{
+    const QString folder = QDir::cleanPath(path);
+    if (QFileInfo(folder).isDir())
+        return true;
+    const QString above = QFileInfo(folder).path();
+    if (folder.contains(QChar(QChar::Null)) || above == folder || !makeFolderDurably(above))
+        return false;
+    const QByteArray name = QFile::encodeName(folder);
+    if (::mkdir(name.constData(), 0777) != 0)
+        return QFileInfo(folder).isDir();
+    if (syncNameOf(folder))
+        return true;
+    ::rmdir(name.constData());
     return false;
 }
 

@@ -14,9 +14,15 @@ namespace uiutils {
 /// there goes. What an earlier call has left in the folder, when its process was killed or the power went, goes first.
 ///
 /// Returns false when any step failed or the path holds a NUL character, with nothing left beside the target; `error`, if
-/// given, says which file, which step and why. The target is then untouched, but for the last step: a folder that cannot be
-/// synced may forget after a power cut what it holds now.
+/// given, says which file, which step and why. The target is then untouched, but for the last steps: it holds all of
+/// `contents` when the system has trouble closing it, and when the folder cannot be synced, which may forget that after a
+/// power cut.
 [[nodiscard]] bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error = nullptr,
         const QString& temporary = QString());
+
+/// Makes the folder, and those above it that are missing, so that a power cut does not take it away together with what is
+/// written in it. False when there is none then: one that cannot be synced is removed again, so that no file in it is
+/// told to be safe.
+bool makeFolderDurably(const QString& path);
 
 } // namespace uiutils

@@ -14,22 +14,28 @@ namespace uiutils {
 
 TemporaryFolder::TemporaryFolder(const QString& parent)
 {
-    int result = 0;
     do {
         m_path = newTemporaryPath(parent, temporaryFolderEnd);
-        const QByteArray place = QFile::encodeName(m_path);
-        result = ::mkdir(place.constData(), 0700);
-        if (result != 0)
-            continue;
-        m_fd = ::open(place.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        if (m_fd < 0 || lockTemporary(m_fd))
-            return;
+    } while (!make(QFile::encodeName(m_path)) && (errno == EEXIST || errno == EINTR));
+    if (m_fd < 0)
+        m_path.clear();
+}
+
+/// False with EEXIST when it has been taken for left behind before its lock was, and has gone.
+bool TemporaryFolder::make(const QByteArray& place)
+{
+    if (::mkdir(place.constData(), 0700) != 0)
+        return false;
+    m_fd = ::open(place.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (m_fd >= 0 && lockTemporary(m_fd))
+        return true;
+    const int reason = m_fd >= 0 || errno == ENOENT ? EEXIST : errno;
+    if (m_fd >= 0)
         ::close(m_fd);
-        m_fd = -1;
-        result = -1;
-        errno = EEXIST;
-    } while (result != 0 && (errno == EEXIST || errno == EINTR));
-    m_path.clear();
+    m_fd = -1;
+    ::rmdir(place.constData());
+    errno = reason;
+    return false;
 }
 
 TemporaryFolder::~TemporaryFolder()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QtGlobal>
 
@@ -19,6 +20,8 @@ public:
     QString filePath(const QString& name) const { return m_path + QLatin1Char('/') + name; }
 
 private:
+    bool make(const QByteArray& place);
+
     QString m_path;
     int m_fd = -1;
 };

@@ -3,7 +3,6 @@
 #include "core/durablefile.h"
 #include "core/paths.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -195,7 +194,7 @@ bool ReportMetadata::write(QString* reason) const
         return false;
     }
     // Writing the file finds out whether the folder is there.
-    QDir().mkpath(onDisk(m_metadataPath));
+    uiutils::makeFolderDurably(onDisk(m_metadataPath));
     return uiutils::writeFileDurably(onDisk(metadataFilePath()), text, reason);
 }
 

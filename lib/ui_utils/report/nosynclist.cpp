@@ -9,11 +9,11 @@
 
 #include <QByteArrayList>
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <functional>
@@ -112,7 +112,7 @@ void tellBaseManager()
 bool edit(const Change& change, QString* error)
 {
     const QString folder = QFileInfo(onDisk(paths::noSyncList)).path();
-    QDir().mkpath(folder);
+    makeFolderDurably(folder);
     {
         const FolderLock lock(folder, lockPatience);
         if (!lock.isLocked()) {
@@ -130,6 +130,19 @@ bool edit(const Change& change, QString* error)
     }
     tellBaseManager();
     return true;
+}
+
+/// Whether the record's line stands for more than the report that leaves the list: for a JSON report of that name, or for
+/// reports of other formats that are still listed.
+bool isNeeded(const QString& record, const QString& report, const Lines& lines)
+{
+    if (record == report)
+        return false;
+    const auto hasRecord = [&](const QByteArray& line) {
+        const QString path = QString::fromUtf8(line);
+        return path != record && recordOf(path) == record;
+    };
+    return QFile::exists(onDisk(record)) || std::any_of(lines.cbegin(), lines.cend(), hasRecord);
 }
 
 /// It would be two paths for whoever reads the list.
@@ -153,9 +166,11 @@ bool addToNoSyncList(const QString& path, QString* error)
 
 bool removeFromNoSyncList(const QString& path, QString* error)
 {
+    const QString record = recordOf(path);
     const auto without = [&](Lines lines) {
         lines.removeAll(path.toUtf8());
-        lines.removeAll(recordOf(path).toUtf8());
+        if (!isNeeded(record, path, lines))
+            lines.removeAll(record.toUtf8());
         return lines;
     };
     return isOneLine(path, error) && edit(without, error);

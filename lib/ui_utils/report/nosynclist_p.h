@@ -12,6 +12,7 @@
 namespace uiutils {
 
 bool addToNoSyncList(const QString& path, QString* error);
+/// The record's path stays as long as it stands for another report, too: one of JSON, or of a further format.
 bool removeFromNoSyncList(const QString& path, QString* error);
 /// In place of all that stood there; each path once.
 bool replaceNoSyncList(const QStringList& paths, QString* error);

@@ -1,5 +1,6 @@
 #include "report/report.h"
 
+#include "core/durablefile.h"
 #include "core/itemids.h"
 #include "core/paths.h"
 #include "report/jobreport_p.h"
@@ -15,7 +16,6 @@
 #include <kiv/kivclientitem.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QTimer>
 
@@ -439,7 +439,7 @@ QString Report::getSaveFilePath(const QString& name, const QString& suffix)
     const QString folder = m_state->destinations().folder(getReportFilePath());
     // On a stick there is one as long as the stick is there.
     if (!uiutils::isOnUsb(folder))
-        QDir().mkpath(onDisk(folder));
+        uiutils::makeFolderDurably(onDisk(folder));
     return uiutils::reportPath(folder, name, suffix);
 }
 

@@ -198,7 +198,9 @@ bool Report::Save::writeFormats()
     bool isComplete = m_report && !m_formats.isEmpty();
     for (const uiutils::ReportFormat* format : qAsConst(m_formats)) {
         isComplete = m_report && writeFormat(*format) && isComplete;
-        if (!m_report || !m_report->tellProgress(m_report->m_state->progress.finishFormat()))
+        // What was given up is not done.
+        if (!m_report || m_report->m_state->progress.isCancelled()
+                || !m_report->tellProgress(m_report->m_state->progress.finishFormat()))
             return false;
     }
     return isComplete;

@@ -5,7 +5,6 @@
 #include "local/uidata.h"
 #include "report/reportnaming_p.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -129,7 +128,7 @@ void saveReportSettings(const QString& path, const ReportSettings& items)
     // Most saves change nothing, and the disk takes longer to keep a file than to read it.
     if (holds(place, text))
         return;
-    QDir().mkpath(QFileInfo(place).path());
+    makeFolderDurably(QFileInfo(place).path());
     if (!writeFileDurably(place, text))
         qWarning("Could not open %s for writing", qUtf8Printable(path));
 }
