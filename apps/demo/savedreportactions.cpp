@@ -46,6 +46,12 @@ bool isThere(const QString& path)
     return file.exists() || file.isSymLink();
 }
 
+/// A line feed in a file's name parts no two files, as it would in the question.
+QString onOneLine(QString path)
+{
+    return path.replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+
 QString recordOf(const QString& path)
 {
     ReportMetadata record;
@@ -82,9 +88,14 @@ void SavedReportActions::setReport(LoopbackReport* report)
     Q_EMIT reportChanged();
 }
 
+bool SavedReportActions::hasViewer() const
+{
+    return QFileInfo(onDisk(paths::pdfViewer)).isExecutable();
+}
+
 void SavedReportActions::remove(const QString& path)
 {
-    m_removal.sendNotificationDeleteRequest(path, {});
+    m_removal.sendNotificationDeleteRequest(onOneLine(path), {{fileNameKey, path}});
 }
 
 void SavedReportActions::removeNow(const QString& path)
@@ -103,7 +114,8 @@ void SavedReportActions::forget(const QString& path)
     const QString record = onDisk(recordOf(path));
     if (QFileInfo::exists(record) && !QFile::remove(record))
         qWarning("The record %s cannot be deleted.", qUtf8Printable(record));
-    if (!m_report)
+    // The list takes no path with a line feed.
+    if (!m_report || path.contains(QLatin1Char('\n')))
         return;
     // Reports that differ in their format share an entry of the list. One too many does no harm; without it the cloud would
     // take a report that is to be kept from it.
@@ -134,7 +146,8 @@ void SavedReportActions::copyNow(const QString& path)
     }
     QFile file(onDisk(path));
     const QByteArray contents = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    if (file.error() != QFileDevice::NoError) {
+    // Of more than an array holds Qt reads nothing, and calls that no error.
+    if (file.error() != QFileDevice::NoError || contents.size() != file.size()) {
         m_copying.sendNotificationReadError(path);
         return;
     }

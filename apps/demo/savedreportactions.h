@@ -23,6 +23,8 @@ public:
     LoopbackReport* report() const { return m_report; }
     void setReport(LoopbackReport* report);
 
+    /// Whether there is what the controller's showPDF() starts, which says nothing when there is not.
+    Q_INVOKABLE bool hasViewer() const;
     /// Asks whether the report may be deleted. A yes takes along its metadata record and what keeps it from the cloud.
     Q_INVOKABLE void remove(const QString& path);
     /// Copies the report to the USB drive; asks before it takes the place of a file there. The tray tells when the copy is safe.

@@ -381,14 +381,17 @@ private Q_SLOTS:
     void savedReportsByKeys()
     {
         removeReports();
-        for (const char* name : {"a.pdf", "b.txt", "c.txt"})
+        m_window->setProperty("page", 2);
+        put("/cust/public/reports/loopback/a.pdf", "a report");
+        m_report->tellFilesChanged();
+        QVERIFY(button("Delete")->isVisible() && !button("Open")->isVisible());
+        for (const char* name : {"b.txt", "c.txt"})
             put(QString("/cust/public/reports/loopback/") + name, "a report");
         // Notes what it is started with.
         put("/base/bin/pdf_viewer", "#!/bin/sh\necho \"$@\" > shown.part && mv shown.part shown\n");
         QVERIFY(QFile(m_root.filePath("base/bin/pdf_viewer")).setPermissions(QFile::ReadOwner | QFile::ExeOwner));
         QVERIFY(QDir(m_root.path()).mkpath("base/qml/pdf_viewer"));
         m_report->tellFilesChanged();
-        m_window->setProperty("page", 2);
         const QQuickItem* const list = firstItem([](const QQuickItem* item) { return item->objectName() == "reportList"; });
         QCOMPARE(list->property("count").toInt(), 3);
         for (int i = 0; i < 20 && !list->hasActiveFocus(); ++i)

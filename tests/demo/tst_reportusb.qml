@@ -58,6 +58,9 @@ Item {
             pressStick()
             compare(page.report.saveLocation, "USB:/")
             save("a")
+            // Those in the unit.
+            compare(findChild(page, "reportList").count, 0)
+            compare(text("reportPlace"), "Internal:/reports/loopback/")
             compare(driver.filesIn("mnt/usb"), ["a.txt", "a.txt.metadata"])
 
             pressStick()
@@ -83,6 +86,7 @@ Item {
             pressStick()
             page.stick.yank()
             compare(text("stickButton"), "Plug in")
+            compare(text("stickState"), "The USB drive was removed. Saving on it fails until it is back.")
             save("a")
             compare(part("dialogTitle").text, "Write Error")
             compare(driver.files(), data.inUnit)
@@ -124,6 +128,7 @@ Item {
         }
 
         function test_fingerScrollsFromAField() {
+            resize(Qt.size(880, 424))
             const before = entry("stickButton").mapToItem(page, 0, 0).y
             const start = field("nameEntry").mapToItem(page, 100, 24)
             const touch = touchEvent(page)
@@ -136,7 +141,7 @@ Item {
 
         // The page must not scroll under the finger, or the tap is lost.
         function test_tapOnWhatIsPartlyHidden() {
-            resize(Qt.size(1024, 484))
+            resize(Qt.size(880, 384))
             const button = entry("stickButton")
             const end = entry("saveButton").mapToItem(page, 0, 0).y
             const bottom = () => button.mapToItem(page, 0, button.height).y
@@ -158,6 +163,10 @@ Item {
             resize(data.size)
             choose("Internal and USB", "locationEntry")
             waitForRendering(page)
+            // Whoever comes to the page sees what the next save does, and on the instrument all of it.
+            const last = entry(data.tag === "instrument" ? "syncEntry" : "stickButton")
+            const end = entry("saveButton").mapToItem(page, 0, 0).y
+            verify(last.mapToItem(page, 0, last.height).y <= end)
             const controls = [field("titleEntry"), field("nameEntry"), findChild(entry("formatEntry"), "box"),
                               findChild(entry("compressionEntry"), "switch"), findChild(entry("locationEntry"), "box"),
                               entry("stickButton"), findChild(entry("syncEntry"), "switch")]
@@ -165,7 +174,6 @@ Item {
                 control.forceActiveFocus()
                 verify(control.height >= 40, control)
                 const top = control.mapToItem(page, 0, 0).y
-                const end = entry("saveButton").mapToItem(page, 0, 0).y
                 verify(top >= 0 && top + control.height <= end, control + " is at " + top)
             }
             verify(!entry("stickState").truncated)

@@ -89,6 +89,16 @@ private Q_SLOTS:
         QCOMPARE(notifications()->count(), 0);
     }
 
+    void deletingALineFeed()
+    {
+        put(folder + "a\nb.pdf", "report");
+        m_actions->remove(folder + "a\nb.pdf");
+        QVERIFY(question().contains("a b.pdf"));
+        notifications()->accept();
+        QCOMPARE(filesIn(folder), QStringList());
+        expectError(QString());
+    }
+
     void deletingWhatIsNoMoreAsItWas_data()
     {
         QTest::addColumn<Deed>("meanwhile");
@@ -130,12 +140,14 @@ private Q_SLOTS:
         const Deed taken = [](SavedReportsTest& test) { test.put("/mnt/usb/a.pdf", "old"); };
         const Deed pull = [](SavedReportsTest& test) { test.baseManager()->setMounted("/mnt/usb/", false); };
         const Deed vanish = [](SavedReportsTest&) { QFile::remove(onDisk(folder + "a.pdf")); };
+        const Deed grow = [](SavedReportsTest&) { QVERIFY(QFile::resize(onDisk(folder + "a.pdf"), qint64(3) << 30)); };
         const Deed no = [](SavedReportsTest&) { notifications()->reject(); };
         QTest::newRow("first") << nothing << nothing << QByteArray("report") << "";
         QTest::newRow("in place of another") << taken << nothing << QByteArray("report") << "";
         QTest::newRow("not in place of another") << taken << no << QByteArray("old") << "";
         QTest::newRow("no drive") << pull << nothing << QByteArray() << "Write Error";
         QTest::newRow("the drive is pulled") << taken << pull << QByteArray("old") << "Write Error";
+        QTest::newRow("more than can be read") << taken << grow << QByteArray("old") << "Read Error";
         QTest::newRow("the report is gone") << taken << vanish << QByteArray("old") << "Read Error";
     }
     void copying()

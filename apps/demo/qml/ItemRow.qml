@@ -21,7 +21,7 @@ ColumnLayout {
             return Theme.fail
         return changed ? Theme.focus : Theme.border
     }
-    readonly property color fillColor: !enabled ? Theme.background : changed ? Theme.changedCard : Theme.card
+    readonly property color fillColor: !enabled ? Theme.background : changed ? Theme.notice : Theme.card
     // Room that the unit takes at the right end of the control.
     readonly property real unitRoom: unitText.text ? unitText.width + 2 * Theme.margin : Theme.gap
     default property alias control: controlPlace.data

@@ -17,6 +17,9 @@ FocusScope {
     // Services of the user's own may lack it.
     readonly property var locationItem: typeof basemgr_cfg_saveLocation === "undefined" ? null : basemgr_cfg_saveLocation
     readonly property bool wantsUsb: locationItem !== null && location.served !== locationItem.enums.Internal
+    // A base manager that has not noticed says that the drive is there still, and a save there fails.
+    readonly property bool missesStick: wantsUsb && !stick.attached && typeof basemgr_res_usbAttached !== "undefined"
+                                        && basemgr_res_usbAttached.value === true
     readonly property bool savesOnUsb: wantsUsb && location.served === locationItem.enums.Usb && stick.attached
 
     // False when nothing was saved: the user is asked or told why, or the page says what is missing.
@@ -52,11 +55,16 @@ FocusScope {
         Card {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            Layout.preferredWidth: 9
+            Layout.preferredWidth: 5
 
             ColumnLayout {
-                anchors { fill: parent; margins: Theme.margin }
-                spacing: Theme.gap
+                id: form
+
+                // So that all of it is in sight on the instrument.
+                readonly property int closeness: 6
+
+                anchors { fill: parent; leftMargin: Theme.margin; rightMargin: Theme.margin; topMargin: Theme.gap; bottomMargin: Theme.gap }
+                spacing: closeness
 
                 RowLayout {
                     Layout.fillWidth: true
@@ -109,7 +117,7 @@ FocusScope {
                         id: column
                         x: Theme.gap
                         width: fields.width - 2 * Theme.gap
-                        spacing: Theme.gap
+                        spacing: form.closeness
 
                         TextEntry {
                             id: titleEntry
@@ -128,31 +136,29 @@ FocusScope {
                         }
                         RowLayout {
                             Layout.fillWidth: true
-                            spacing: Theme.margin
+                            spacing: Theme.gap
 
                             ChoiceEntry {
                                 objectName: "formatEntry"
-                                Layout.fillWidth: true
+                                Layout.fillWidth: page.locationItem === null
+                                Layout.alignment: Qt.AlignTop
+                                implicitWidth: 98
                                 item: report.getSetting("reportFormat")
                             }
-                            SwitchEntry {
-                                objectName: "compressionEntry"
+                            ChoiceEntry {
+                                id: locationEntry
+                                objectName: "locationEntry"
                                 Layout.fillWidth: true
-                                item: report.getSetting("reportCompression")
+                                Layout.alignment: Qt.AlignTop
+                                visible: page.locationItem !== null
+                                item: page.locationItem
+                                news: location.pending ? qsTr("Not applied yet: see Settings.") : ""
+                                // At once, also while the settings page holds changes back.
+                                storeWith: value => face.writeWith(() => {
+                                    item.value = value
+                                    item.apply()
+                                })
                             }
-                        }
-                        ChoiceEntry {
-                            id: locationEntry
-                            objectName: "locationEntry"
-                            Layout.fillWidth: true
-                            visible: page.locationItem !== null
-                            item: page.locationItem
-                            news: location.pending ? qsTr("Not applied yet: see Settings.") : ""
-                            // At once, also while the settings page holds changes back.
-                            storeWith: value => face.writeWith(() => {
-                                item.value = value
-                                item.apply()
-                            })
                         }
                         RowLayout {
                             Layout.fillWidth: true
@@ -163,6 +169,7 @@ FocusScope {
                                 objectName: "stickState"
                                 Layout.fillWidth: true
                                 text: stick.attached ? qsTr("A USB drive is plugged in.")
+                                    : page.missesStick ? qsTr("The USB drive was removed. Saving on it fails until it is back.")
                                     : page.wantsUsb ? qsTr("Without a USB drive reports are saved on the unit.")
                                     : qsTr("No USB drive is plugged in.")
                                 color: page.wantsUsb && !stick.attached ? ControlsStyle.news : Theme.mutedText
@@ -174,16 +181,27 @@ FocusScope {
                             ActionButton {
                                 objectName: "stickButton"
                                 Layout.preferredWidth: 110
+                                Layout.preferredHeight: Theme.touch
                                 filled: false
                                 text: stick.attached ? qsTr("Pull out") : qsTr("Plug in")
                                 Accessible.description: qsTr("USB drive")
                                 onClicked: stick.attached ? stick.pull() : stick.plug()
                             }
                         }
-                        SwitchEntry {
-                            objectName: "syncEntry"
+                        RowLayout {
                             Layout.fillWidth: true
-                            item: report.getSetting("reportSync_SS")
+                            spacing: Theme.gap
+
+                            SwitchEntry {
+                                objectName: "compressionEntry"
+                                implicitWidth: 118
+                                item: report.getSetting("reportCompression")
+                            }
+                            SwitchEntry {
+                                objectName: "syncEntry"
+                                Layout.fillWidth: true
+                                item: report.getSetting("reportSync_SS")
+                            }
                         }
                     }
                 }
@@ -210,7 +228,7 @@ FocusScope {
         ColumnLayout {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            Layout.preferredWidth: 16
+            Layout.preferredWidth: 8
             spacing: Theme.margin
 
             Card {

@@ -74,7 +74,8 @@ Card {
                     return
                 event.accepted = true
             }
-            ScrollBar.vertical: ScrollBar { policy: ScrollBar.AsNeeded }
+            // Always seen, because an edge may fall between two rows and hide that there are more.
+            ScrollBar.vertical: ScrollBar { policy: list.contentHeight > list.height ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
 
             delegate: Rectangle {
                 width: list.width

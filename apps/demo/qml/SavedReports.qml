@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
+import UiUtils 1.0
 import UiUtils.Demo 1.0
 
 // The reports in a report controller's folder, newest first, and what can be done with the current one.
@@ -10,18 +11,23 @@ ColumnLayout {
     property LoopbackReport report
     readonly property alias list: list
     property var files: []
+    // Where they lie, which need not be where the next one is saved.
+    property string place
     // Null without one.
     readonly property var current: files[list.currentIndex] || null
     // Nothing on the instrument shows the others.
-    readonly property bool canOpen: current !== null && current.format === "PDF"
+    readonly property bool canOpen: hasViewer && current !== null && current.format === "PDF"
+    property bool hasViewer: false
 
     // News come in at the top. Where nothing has, whoever deletes goes on where they are.
     function refresh() {
         const newest = files.length > 0 ? files[0] : null
-        const place = list.currentIndex
+        const row = list.currentIndex
+        hasViewer = actions.hasViewer()
         files = report.reportFiles
+        place = words.getSanitizedPathName(report.getReportFilePath())
         const isNews = files.length > 0 && (newest === null || files[0].time > newest.time)
-        list.currentIndex = isNews ? 0 : Math.min(place, files.length - 1)
+        list.currentIndex = isNews ? 0 : Math.min(row, files.length - 1)
         list.positionViewAtIndex(list.currentIndex, ListView.Contain)
     }
 
@@ -46,6 +52,7 @@ ColumnLayout {
 
     spacing: Theme.gap
 
+    FileUtils { id: words }
     SavedReportActions {
         id: actions
         report: saved.report
@@ -77,8 +84,9 @@ ColumnLayout {
                 Accessible.name: text
             }
             Text {
+                objectName: "reportPlace"
                 Layout.fillWidth: true
-                text: saved.report.saveLocation
+                text: saved.place
                 textFormat: Text.PlainText
                 color: Theme.mutedText
                 font.pixelSize: Theme.smallText
@@ -129,7 +137,11 @@ ColumnLayout {
         Keys.onReturnPressed: pressBy(event, saved.open)
         Keys.onEnterPressed: pressBy(event, saved.open)
         Keys.onDeletePressed: pressBy(event, saved.remove)
-        ScrollBar.vertical: ScrollBar { id: bar }
+        // Always seen, because an edge may fall between two rows and hide that there are more.
+        ScrollBar.vertical: ScrollBar {
+            id: bar
+            policy: size < 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+        }
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Saved reports")
 
@@ -169,7 +181,8 @@ ColumnLayout {
 
                     Text {
                         Layout.fillWidth: true
-                        text: modelData.name
+                        // A name may have line feeds.
+                        text: modelData.name.replace(/\s/g, " ")
                         textFormat: Text.PlainText
                         color: Theme.text
                         font.pixelSize: Theme.smallText + 1

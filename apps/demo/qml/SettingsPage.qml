@@ -85,7 +85,7 @@ FocusScope {
         Card {
             Layout.fillWidth: true
             Layout.preferredHeight: 72
-            color: page.changed > 0 ? Theme.changedCard : Theme.card
+            color: page.changed > 0 ? Theme.notice : Theme.card
             border { width: page.changed > 0 ? 2 : 1; color: page.refusal || !page.acceptable ? Theme.fail
                                                             : page.changed > 0 ? Theme.focus : Theme.border }
 
