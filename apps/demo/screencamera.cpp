@@ -8,7 +8,6 @@
 
 #include <QBuffer>
 #include <QDateTime>
-#include <QDir>
 #include <QFileInfo>
 #include <QQuickItem>
 
@@ -101,7 +100,7 @@ void ScreenCamera::keep(const QString& baseName)
         return;
     }
     // Where there is no folder, writing says so.
-    QDir().mkpath(onDisk(paths::screenshots));
+    makeFolderDurably(onDisk(paths::screenshots));
     QString error;
     if (!writeFileDurably(onDisk(path), bytes, &error)) {
         fail(path, error);
