@@ -347,6 +347,7 @@ private:
     QString chosenName();
     bool mayWrite(const QStringList& paths, bool overwrite);
     void ask(const QString& taken, const QStringList& paths);
+    QStringList targets(const QString& name, const QStringList& suffixes);
     bool writeGenerated(const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite);
     bool writeContents(const QString& path, const QByteArray& contents);
     bool copyToUsb(const QString& name, const QString& suffix);

@@ -57,6 +57,7 @@ private:
     bool m_isAll = false;
     QString m_name;
     uiutils::ReportFormats m_formats;
+    QStringList m_agreedPaths;
     QStringList m_written;
 };
 
@@ -151,7 +152,7 @@ bool Report::Save::takeDestinations()
     uiutils::ReportState& state = *m_report->m_state;
     const auto agreed = std::exchange(state.agreed, std::nullopt);
     const bool isAgreed = m_overwrite && agreed;
-    state.agreedPaths = isAgreed ? agreed->paths : QStringList();
+    m_agreedPaths = isAgreed ? agreed->paths : QStringList();
     state.fixedDestinations = isAgreed ? agreed->destinations : uiutils::ReportDestinations::current();
     return true;
 }
@@ -167,7 +168,15 @@ bool Report::Save::hasRoom()
 
 bool Report::Save::mayWrite()
 {
-    return m_report->checkForOverwrite(m_name, m_report->getSuffixForReport(), m_overwrite);
+    QStringList suffixes;
+    for (const uiutils::ReportFormat* format : qAsConst(m_formats))
+        suffixes += format->suffix;
+    QStringList paths = m_report->targets(m_name, suffixes);
+    m_report->m_state->checkedPaths = paths;
+    // The name, the format or the stick may be another than when the user said yes.
+    for (const QString& path : qAsConst(m_agreedPaths))
+        paths.removeAll(path);
+    return m_report->mayWrite(paths, m_overwrite && m_agreedPaths.isEmpty());
 }
 
 bool Report::Save::write()

@@ -58,8 +58,7 @@ public:
     /// What the user is being asked about, and what was answered with yes. None when a writer asks that was called alone.
     std::optional<Agreement> asked;
     std::optional<Agreement> agreed;
-    /// Of the save that runs: what the user has agreed to, and all that was looked at before anything was written.
-    QStringList agreedPaths;
+    /// What the save that runs has looked at before it wrote anything.
     QStringList checkedPaths;
     /// Files that it has left, although they are not what was to be written.
     QStringList strays;
@@ -77,7 +76,6 @@ public:
     {
         m_isFirstError.reset();
         fixedDestinations.reset();
-        agreedPaths.clear();
         checkedPaths.clear();
         strays.clear();
     }

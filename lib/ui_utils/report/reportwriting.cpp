@@ -166,20 +166,20 @@ bool Report::checkForOverwrite(const QString& name, const QString& suffix, bool 
         for (const uiutils::ReportFormat* format : formats)
             suffixes += format->suffix;
     }
+    return mayWrite(targets(name, suffixes), overwrite);
+}
+
+/// Where files of the name go, and on a stick that is there the copies of them.
+QStringList Report::targets(const QString& name, const QStringList& suffixes)
+{
     const bool hasCopies = m_state->destinations().copiesToUsb() && uiutils::isDriveThere(uiutils::paths::usb);
     QStringList paths;
-    for (const QString& one : qAsConst(suffixes)) {
-        paths += getSaveFilePath(name, one);
+    for (const QString& suffix : suffixes) {
+        paths += getSaveFilePath(name, suffix);
         if (hasCopies)
             paths += uiutils::usbPath(paths.constLast());
     }
-    m_state->checkedPaths = paths;
-    if (!overwrite || m_state->agreedPaths.isEmpty())
-        return mayWrite(paths, overwrite);
-    // The name, the format or the stick may be another than when the user said yes.
-    for (const QString& path : qAsConst(m_state->agreedPaths))
-        paths.removeAll(path);
-    return mayWrite(paths, false);
+    return paths;
 }
 
 // --- Progress ---
