@@ -10,8 +10,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace uiutils::demo {
 
 namespace {
@@ -26,12 +24,6 @@ QString folderOf(const QString& path)
 QString nameOf(const QString& path)
 {
     return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
-
-/// Up to its last suffix.
-QString stemOf(const QString& path)
-{
-    return path.left(path.lastIndexOf(QLatin1Char('.')) + 1);
 }
 
 QString usbPathOf(const QString& path)
@@ -117,14 +109,7 @@ void SavedReportActions::forget(const QString& path)
     // The list takes no path with a line feed.
     if (!m_report || path.contains(QLatin1Char('\n')))
         return;
-    // Reports that differ in their format share an entry of the list. One too many does no harm; without it the cloud would
-    // take a report that is to be kept from it.
-    const QVariantList others = m_report->getReportFiles();
-    const bool isShared = std::any_of(others.cbegin(), others.cend(), [&](const QVariant& other) {
-        return stemOf(other.toMap().value(QStringLiteral("path")).toString()) == stemOf(path);
-    });
-    if (!isShared)
-        m_report->removeReportFromNoSyncList(path);
+    m_report->removeReportFromNoSyncList(path);
 }
 
 void SavedReportActions::copyToUsb(const QString& path)

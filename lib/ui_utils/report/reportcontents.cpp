@@ -90,7 +90,7 @@ QByteArray Report::generateDefaultPDFReport()
             pages.cancel();
     });
     QString error;
-    const QByteArray file = writer.toPdf(&error);
+    QByteArray file = writer.toPdf(&error);
     if (self && isAlone)
         m_state->progress.end();
     if (!error.isEmpty())

@@ -123,7 +123,8 @@ bool copyReportFile(const QString& source, const QString& target, QString* error
 {
     QFile file(onDisk(source));
     const QByteArray contents = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    if (file.error() == QFileDevice::NoError)
+    // Of a file that memory cannot hold, nothing is read, and that is no error of the file's.
+    if (file.error() == QFileDevice::NoError && contents.size() == file.size())
         return writeToDrive(target, contents, error);
     *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot read %1: %2"), source, file.errorString());
     return false;

@@ -14,7 +14,7 @@ public:
     FileSystemUsage() = delete;
 
     /// What has to be free for a file to be saved, in bytes.
-    static constexpr qint64 minimumFree = 1024 * 1024;
+    static constexpr qint64 minimumFree = qint64(1024) * 1024;
 
     /// Whether there is room to save a file in `directory`. If not, the user is told so in a dialog with the text
     /// `message`. True when the file system does not say: whoever writes finds out.
