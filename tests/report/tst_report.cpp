@@ -743,6 +743,10 @@ private Q_SLOTS:
         // What lies on the stick is asked about as well.
         QVERIFY(!report.save() || !isSaved);
         if (location == 2 && isSaved && !names("/mnt/usb").isEmpty()) {
+            // A twin of another form goes with what may be overwritten.
+            QVERIFY(writeFile(onDisk("/mnt/usb/a.txt"), "plain"));
+            QVERIFY(report.save(true));
+            QTEST(names("/mnt/usb"), "stick");
             manager()->reject();
             QVERIFY(QDir(onDisk("/cust/public/reports")).removeRecursively());
             QVERIFY(!report.save());
@@ -930,6 +934,13 @@ private Q_SLOTS:
         QVERIFY(!report.isSaving());
         // What is written is kept from the cloud all the same, and the next save is not cancelled.
         QVERIFY(contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt")).contains("a.xml"));
+        QVERIFY(report.save(true));
+        // Behind the last one there is nothing left to cancel.
+        report.disconnect(&report);
+        connect(&report, &Report::progressChanged, &report, [&] {
+            if (report.getProgress() == 1)
+                report.cancel();
+        });
         QVERIFY(report.save(true));
         // Before the first format counts, too.
         report.disconnect(&report);

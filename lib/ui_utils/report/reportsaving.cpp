@@ -13,6 +13,7 @@
 #include <kiv/kivclientinterface.h>
 
 #include <QDir>
+#include <QFile>
 #include <QPointer>
 
 #include <algorithm>
@@ -46,6 +47,7 @@ private:
     void recordSync();
     bool mayCopy();
     bool copyToUsb();
+    bool copyToUsb(const uiutils::ReportFormat& format);
     bool announce();
     bool fail();
 
@@ -214,11 +216,13 @@ bool Report::Save::writeFormats()
     for (const uiutils::ReportFormat* format : qAsConst(m_formats)) {
         const bool isWritten = writeFormat(*format);
         isComplete = isComplete && isWritten;
-        // An answer that comes while this save runs would be refused.
-        const bool isAsking = m_report && !isWritten && m_report->m_state->gate.isAsking();
-        // What was given up is not done.
-        if (!m_report || isAsking || m_report->m_state->progress.isCancelled()
-                || !m_report->tellProgress(m_report->m_state->progress.finishFormat()))
+        // An answer that comes while this save runs would be refused; and what was given up is not done.
+        if (!m_report
+                || (!isWritten && (m_report->m_state->gate.isAsking() || m_report->m_state->progress.isCancelled())))
+            return false;
+        const bool goesOn = m_report->tellProgress(m_report->m_state->progress.finishFormat());
+        // Of what is written nothing can be cancelled any more.
+        if (!m_report || (!goesOn && format != m_formats.constLast()))
             return false;
     }
     return isComplete;
@@ -271,8 +275,18 @@ bool Report::Save::copyToUsb()
     if (!isComplete)
         return false;
     for (const uiutils::ReportFormat* format : qAsConst(m_formats))
-        isComplete = m_report && m_report->copyToUsb(m_name, format->suffix) && isComplete;
+        isComplete = m_report && copyToUsb(*format) && isComplete;
     return isComplete;
+}
+
+bool Report::Save::copyToUsb(const uiutils::ReportFormat& format)
+{
+    if (!m_report->copyToUsb(m_name, format.suffix))
+        return false;
+    // The user has let go of a report of the name before it came to this, whatever its form.
+    if (m_report && m_report->m_isCompressionEnabled)
+        QFile::remove(onDisk(uiutils::usbPath(m_report->getSaveFilePath(m_name, format.suffix))));
+    return true;
 }
 
 bool Report::Save::announce()
