@@ -110,7 +110,7 @@ Item {
         function test_progressGoesUp() {
             let looks = 0
             let seen = []
-            save(20000, () => {
+            save(40000, () => {
                 ++looks
                 // Also before there is anything to see.
                 tapMeanwhile(page.below)
@@ -137,7 +137,7 @@ Item {
                     { tag: "Enter", act: () => keyClick(Qt.Key_Return) }]
         }
         function test_cancel(data) {
-            save(20000, () => {
+            save(40000, () => {
                 // As one who looks where to press.
                 if (page.dialog.isInSight && page.report.progress > 0.3)
                     data.act()
@@ -145,18 +145,18 @@ Item {
             compare(page.answers, [false])
             // Of what is not written all is done at the end.
             const last = page.progress[page.progress.length - 2]
-            verify(last > 0.3 && last < 0.9, last)
+            verify(last > 0.3 && last < 1, last)
             compare(driver.savedReports(), [])
             compare(Notifications.currentDialog, null)
             compare(page.taps, 0)
             tryVerify(() => page.saveButton.activeFocus)
 
-            // The next one starts at the beginning.
-            let first = null
-            save(8000, () => first = first || { progress: page.dialog.progress, isCancelled: page.dialog.isCancelled })
+            // The next one starts at the beginning, however far it is when the page first sees it.
+            const told = page.progress.length
+            save(8000, () => {})
             compare(page.answers, [false, true])
-            verify(first.progress < 0.3, first.progress)
-            compare(first.isCancelled, false)
+            compare(page.progress[told], 0)
+            compare(page.dialog.isCancelled, false)
         }
 
         // Nobody sees what cannot be meant, and what is over at once is not shown.
