@@ -1,0 +1,190 @@
+#pragma once
+
+#include "filesizelimit.h"
+
+#include "module/uiutilsmodule.h"
+#include "report/report.h"
+#include "report/reportnaming_p.h"
+#include "report/reportsettingsstore_p.h"
+
+#include <embedded/embeddedbackend.h>
+#include <embedded/embeddedservice.h>
+#include <kiv/kivnotificationmodelmanager.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMetaMethod>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QScopeGuard>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <functional>
+#include <memory>
+#include <sys/mount.h>
+#include <sys/stat.h>
+
+using Setter = std::function<void(Report&)>;
+Q_DECLARE_METATYPE(Setter)
+
+
+inline const QString activeItem(":result:basemgr:jobmanager:isJobActive:");
+inline const QString locationItem(":config:basemgr:system:saveLocation:");
+inline const QString usbItem(":result:basemgr:system:usbAttached:");
+
+inline KIVNotificationModelManager* manager()
+{
+    return KIVNotificationModelManager::instance();
+}
+
+inline bool writeFile(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly)
+            && file.write(contents) == contents.size();
+}
+
+inline QByteArray contentsOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
+}
+
+/// JSON text with ' for ".
+inline QByteArray json(QByteArray text)
+{
+    return text.replace('\'', '"');
+}
+
+/// A derived controller that notes when it is called.
+class Controller : public Report
+{
+public:
+    QString generateTxtReport() override
+    {
+        // It may be gone afterwards.
+        const QString result = text;
+        if (const auto making = whileMaking)
+            making();
+        return result;
+    }
+    QString generateJsonReport() override { return json; }
+    bool writeXmlReport(const QString& path, bool overwrite) override
+    {
+        calls << "writeXml";
+        return Report::writeXmlReport(path, overwrite);
+    }
+    bool writeTextReport(const QString& path, const QString& contents, const QString& suffix, bool overwrite) override
+    {
+        calls << "writeText" + suffix;
+        return Report::writeTextReport(path, contents, suffix, overwrite);
+    }
+    QByteArray generatePDFReport() override
+    {
+        const QByteArray result = pages;
+        if (const auto making = whileMaking)
+            making();
+        return result;
+    }
+    QString proposedFileName() override { return proposed; }
+
+    void setUp(const QString& name, int format)
+    {
+        for (int value = 0; value <= 5; ++value)
+            setFormatApplicable(value, true);
+        getSetting("reportName")->setValue(name);
+        getSetting("reportFormat")->setValue(format);
+    }
+    using Report::addSetting;
+    using Report::loadSettings;
+    using Report::saveSettings;
+    using Report::setFormatApplicable;
+
+    QString text;
+    QString json;
+    QString proposed = "proposed";
+    QByteArray pages = "%PDF-";
+    QStringList calls;
+    std::function<void()> whileMaking;
+    bool keepsName = true;
+
+protected:
+    bool keepsReportName() override { return keepsName; }
+    void saveStarted(const QString&) override { calls << "started"; }
+    void prepareDocument() override { calls << "prepare"; }
+    void reportWritten(const QString&) override { calls << "written"; }
+    void writeMetadata(const QString& path, const QString& format) override
+    {
+        calls << "metadata " + format;
+        Report::writeMetadata(path, format);
+    }
+    void saveSucceeded(const QString&) override { calls << "succeeded"; }
+    void saveFailed(const QString&) override { calls << "failed"; }
+    void overwriteDeclined(const QString&) override { calls << "declined"; }
+};
+
+/// Counts all notifiers of a controller, in the order of their emission.
+class Emissions : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Emissions(const Report& report)
+    {
+        const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("note()"));
+        for (int i = Report::staticMetaObject.methodOffset(); i < Report::staticMetaObject.methodCount(); ++i) {
+            const QMetaMethod method = Report::staticMetaObject.method(i);
+            if (method.methodType() == QMetaMethod::Signal)
+                QObject::connect(&report, method, this, slot);
+        }
+    }
+
+    QStringList names;
+
+private Q_SLOTS:
+    void note() { names << sender()->metaObject()->method(senderSignalIndex()).name(); }
+};
+
+/// An instrument of its own, with a base manager, for each test.
+class ReportFixture : public QObject
+{
+    Q_OBJECT
+
+protected:
+    std::unique_ptr<QTemporaryDir> m_root;
+    std::unique_ptr<kiv::embedded::EmbeddedBackend> m_backend;
+
+    QString onDisk(const QString& path) const { return m_root->path() + path; }
+    QStringList names(const QString& folder) const
+    {
+        return QDir(onDisk(folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+    kiv::embedded::EmbeddedService* basemgr() const { return m_backend->service("basemgr"); }
+    void writeTemplate(const QString& name, const QByteArray& fields)
+    {
+        QVERIFY(writeFile(onDisk("/cust/" + name), json("{'node_type': 'report', 'tag': 'otdr'" + fields + "}")));
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_root = std::make_unique<QTemporaryDir>();
+        qputenv("UIUTILS_ROOT", QFile::encodeName(m_root->path()));
+        qunsetenv("PLOV_SHORTLABEL");
+        qunsetenv("PLOV_PROVIDER");
+        m_backend = std::make_unique<kiv::embedded::EmbeddedBackend>();
+        KIVBackend::setCurrent(m_backend.get());
+        QVERIFY(m_backend->loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));
+    }
+    void cleanup()
+    {
+        manager()->clear();
+        while (manager()->currentDialog())
+            delete manager()->currentDialog();
+        m_backend.reset();
+    }
+};

@@ -1,0 +1,765 @@
+#include "reportfixture.h"
+
+/// What a controller does: saving, asking, telling, handing on.
+class ReportSavingTest : public ReportFixture
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void saves_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<QStringList>("files");
+        QTest::newRow("pdf") << 0 << QStringList("a.pdf");
+        QTest::newRow("text") << 3 << QStringList("a.txt");
+        QTest::newRow("json") << 4 << QStringList("a.json");
+        QTest::newRow("all that are offered") << 5 << QStringList({"a.pdf", "a.xml"});
+        QTest::newRow("none") << 6 << QStringList();
+    }
+    void saves()
+    {
+        QFETCH(int, format);
+        QFETCH(QStringList, files);
+        Controller report;
+        report.setFolder("f");
+        report.setUp("a", format);
+        for (int other : {2, 3, 4})
+            report.setFormatApplicable(other, format != 5);
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        QCOMPARE(report.save(), !files.isEmpty());
+        QCOMPARE(names("/cust/public/reports/f"), files);
+        QCOMPARE(generated.count(), files.isEmpty() ? 0 : 1);
+        QCOMPARE(manager()->count(), files.size());
+        if (!files.isEmpty())
+            QCOMPARE(generated.at(0).at(0).toString(), format == 5 ? "a" : "/cust/public/reports/f/" + files.at(0));
+        if (format == 3)
+            QCOMPARE(contentsOf(onDisk("/cust/public/reports/f/a.txt")), QByteArray());
+        if (format == 4)
+            QCOMPARE(contentsOf(onDisk("/cust/public/reports/f/a.json")), QByteArray("{ }"));
+    }
+
+    void derivedControllersIntercept()
+    {
+        Controller report;
+        report.setUp("", 1);
+        Emissions emissions(report);
+        QVERIFY(report.save());
+        QCOMPARE(report.calls,
+                QStringList({"started", "prepare", "writeXml", "writeText.xml", "written", "metadata XML", "succeeded"}));
+        QCOMPARE(emissions.names,
+                QStringList({"savingChanged", "lastSavedXMLChanged", "reportFilesChanged", "saveLocationChanged",
+                        "progressChanged", "savingChanged", "reportGenerated"}));
+        QCOMPARE(report.getLastSavedXML(), QString("/cust/public/reports/proposed.xml"));
+        QCOMPARE(manager()->data(manager()->index(0), KIVNotificationModelManager::MsgRole).toString(),
+                QString("Report proposed saved\nFolder: reports"));
+        QCOMPARE(report.getOpenReportPath("proposed"), report.getLastSavedXML());
+        QCOMPARE(report.getOpenReportPath("proposed.xml"), report.getLastSavedXML());
+        QCOMPARE(report.getOpenReportPath("../reports/proposed"), QString());
+        report.setNotifiesTray(false);
+        report.setCompressionEnabled(true);
+        report.calls.clear();
+        QVERIFY(report.save(true));
+        QCOMPARE(report.getLastSavedXML(), QString("/cust/public/reports/proposed.xml.gz"));
+        QCOMPARE(manager()->count(), 1);
+    }
+
+    void overwritingIsAskedFor()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        report.text = QString::fromUtf8("größer");
+        QVERIFY(report.save());
+        report.text = "new";
+        QSignalSpy accepted(&report, &Report::reportOverwriteAccepted);
+        QVERIFY(!report.save());
+        QVERIFY(!report.save());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        const QString path = onDisk("/cust/public/reports/a.txt");
+        QCOMPARE(contentsOf(path), QByteArray("größer"));
+        QVERIFY(manager()->currentDialog());
+        QCOMPARE(manager()->waitingDialogs(), 0);
+        QCOMPARE(manager()->currentDialog()->msg(), QString("Do you want to overwrite report Internal:/reports/a.txt?"));
+        manager()->reject();
+        QCOMPARE(accepted.count(), 0);
+        QCOMPARE(report.calls.count("declined"), 1);
+        QVERIFY(!report.calls.contains("failed"));
+
+        QVERIFY(!report.save());
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&report] { QVERIFY(report.save(true)); });
+        KIVNotification* question = manager()->currentDialog();
+        manager()->accept();
+        QCOMPARE(accepted.count(), 1);
+        QCOMPARE(contentsOf(path), QByteArray("new"));
+        // An answer counts once.
+        report.overwriteAccepted(question);
+        report.overwriteAccepted(nullptr);
+        QCOMPARE(accepted.count(), 1);
+    }
+    void compressedTwinsCount()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt.gz"), "x"));
+        report.setCompressionEnabled(true);
+        QVERIFY(!report.save());
+        QVERIFY(manager()->currentDialog());
+        report.setCompressionEnabled(false);
+        QVERIFY(report.save());
+    }
+    void answersReachTheAskerAlone()
+    {
+        Controller other;
+        other.setUp("b", 3);
+        QVERIFY(other.save());
+        QVERIFY(!other.save());
+        QSignalSpy accepted(&other, &Report::reportOverwriteAccepted);
+        {
+            Controller gone;
+            gone.setUp("b", 3);
+            QVERIFY(!gone.save());
+            QCOMPARE(manager()->waitingDialogs(), 1);
+        }
+        QTRY_COMPARE(manager()->waitingDialogs(), 0);
+        Controller second;
+        second.setUp("b", 3);
+        QVERIFY(!second.save());
+        QSignalSpy secondAccepted(&second, &Report::reportOverwriteAccepted);
+        manager()->accept();
+        QCOMPARE(accepted.count(), 1);
+        QCOMPARE(secondAccepted.count(), 0);
+        manager()->reject();
+        QCOMPARE(secondAccepted.count(), 0);
+        QCOMPARE(second.calls.count("declined"), 1);
+        QCOMPARE(other.calls.count("declined"), 0);
+    }
+
+    void failuresAreTold_data()
+    {
+        QTest::addColumn<QString>("obstacle");
+        for (const char* obstacle : {"folder", "file in the way", "full", "long", "no pages", "read-only"})
+            QTest::newRow(obstacle) << obstacle;
+    }
+    void failuresAreTold()
+    {
+        QFETCH(QString, obstacle);
+        Controller report;
+        report.setFolder("f");
+        const bool hasPages = obstacle != "no pages";
+        const QString name = obstacle == "long" ? QString(150, QChar(0xe9)) : QString("a");
+        report.setUp(name, hasPages ? 3 : 0);
+        report.text = QString(10'000, 'x');
+        report.pages.clear();
+        const QString target = onDisk("/cust/public/reports/f/" + name + ".txt");
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        QSignalSpy files(&report, &Report::reportFilesChanged);
+        if (obstacle == "folder")
+            QVERIFY(QDir().mkpath(target));
+        if (obstacle == "file in the way")
+            QVERIFY(writeFile(onDisk("/cust/public/reports/f"), ""));
+        const QByteArray folder = QFile::encodeName(onDisk("/cust/public/reports/f"));
+        const auto unmount = qScopeGuard([&] { ::umount2(folder.constData(), MNT_DETACH); });
+        if (obstacle == "read-only") {
+            QVERIFY(QDir().mkpath(onDisk("/cust/public/reports/f")));
+            if (::mount("none", folder.constData(), "tmpfs", MS_RDONLY, "size=2m") != 0)
+                QSKIP("Only those who may mount a drive can have one that is read-only.");
+        }
+        if (obstacle == "full") {
+            QVERIFY(writeFile(target, "former"));
+            const FileSizeLimit limit(4096);
+            QVERIFY(!report.save(true));
+        } else {
+            QVERIFY(!report.save(true));
+        }
+        QCOMPARE(generated.count() + files.count(), 0);
+        QCOMPARE(report.calls.constLast(), QString("failed"));
+        QVERIFY(manager()->currentDialog());
+        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Write Error"));
+        QVERIFY(!report.calls.contains("written"));
+        if (obstacle == "full")
+            QCOMPARE(contentsOf(target), QByteArray("former"));
+        QCOMPARE(names("/cust/public/reports/f").size(), obstacle == "full" || obstacle == "folder" ? 1 : 0);
+    }
+
+    void fullDrivesAreToldBeforehand()
+    {
+        const QByteArray stick = QFile::encodeName(onDisk("/mnt/usb"));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        if (::mount("none", stick.constData(), "tmpfs", 0, "size=256k") != 0)
+            QSKIP("Only those who may mount a drive can fill one.");
+        const auto unmount = qScopeGuard([&] { ::umount2(stick.constData(), MNT_DETACH); });
+        QVERIFY(writeFile(onDisk("/mnt/usb/half"), QByteArray(128 * 1024, 'x')));
+        QVERIFY(basemgr()->setMounted("/mnt/usb/", true));
+        Controller report;
+        report.setUp("a", 3);
+        const double used = report.percentageFileSystemUsed("/mnt/usb/not/there");
+        QVERIFY2(used > 49 && used < 55, qPrintable(QString::number(used)));
+        for (int location : {1, 2}) {
+            QVERIFY(basemgr()->setValue(locationItem, location));
+            QVERIFY(basemgr()->setValue(usbItem, true));
+            QVERIFY(!report.save());
+            QVERIFY(!report.save());
+            QCOMPARE(manager()->currentDialog()->longLabel(), QString("Not Enough Space"));
+            QCOMPARE(manager()->waitingDialogs(), 0);
+            QCOMPARE(report.calls.constLast(), QString("failed"));
+            QVERIFY(!QFile::exists(onDisk("/cust/public/reports/a.txt")) && names("/mnt/usb").size() == 1);
+            // Without a stick nothing goes there.
+            QVERIFY(basemgr()->setValue(usbItem, false));
+            QVERIFY(report.save());
+            QVERIFY(QFile::remove(onDisk("/cust/public/reports/a.txt")));
+        }
+    }
+
+    void namesOfNoFileAreRefused_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isSaved");
+        QTest::newRow("up") << ".." << false;
+        QTest::newRow("out") << "../../x" << false;
+        QTest::newRow("below") << "a/b" << false;
+        QTest::newRow("NUL") << QString("a") + QChar(QChar::Null) + "b" << false;
+        QTest::newRow("256 bytes") << QString(249, 'x') << false;
+        QTest::newRow("255 bytes") << QString(248, 'x') << true;
+        QTest::newRow("255 bytes with its own suffix") << QString(244, 'x') + ".txt" << true;
+    }
+    void namesOfNoFileAreRefused()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, isSaved);
+        Controller report;
+        report.setFolder("f");
+        report.setUp("a", 3);
+        report.setCompressionEnabled(true);
+        report.getSetting("reportName")->setValue(name);
+        if (report.getSetting("reportName")->getValue() != name) {
+            report.getSetting("reportName")->setValue("");
+            report.proposed = name;
+        }
+        QCOMPARE(report.save(), isSaved);
+        QCOMPARE(QFile::exists(onDisk("/cust/public/reports/f")), isSaved);
+        QCOMPARE(manager()->currentDialog() != nullptr, !isSaved);
+        if (!isSaved)
+            QCOMPARE(manager()->currentDialog()->longLabel(), QString("Write Error"));
+    }
+
+    void sticks_data()
+    {
+        QTest::addColumn<int>("location");
+        QTest::addColumn<bool>("isAnnounced");
+        QTest::addColumn<bool>("isMounted");
+        QTest::addColumn<bool>("isSaved");
+        QTest::addColumn<QStringList>("internal");
+        QTest::addColumn<QStringList>("stick");
+        const QStringList files{"a.txt.gz", "a.xml.gz"};
+        QStringList recorded = files;
+        for (const QString& file : files)
+            recorded << file + ".metadata";
+        recorded.sort();
+        const QStringList none;
+        QTest::newRow("internal") << 0 << true << true << true << files << none;
+        QTest::newRow("stick") << 1 << true << true << true << none << recorded;
+        QTest::newRow("no stick") << 1 << false << false << true << files << none;
+        QTest::newRow("not told yet") << 1 << false << true << true << files << none;
+        QTest::newRow("vanished") << 1 << true << false << false << none << none;
+        QTest::newRow("both") << 2 << true << true << true << files << files;
+        QTest::newRow("both, no stick") << 2 << false << false << true << files << none;
+        QTest::newRow("both, vanished") << 2 << true << false << false << files << none;
+    }
+    void sticks()
+    {
+        QFETCH(int, location);
+        QFETCH(bool, isAnnounced);
+        QFETCH(bool, isMounted);
+        QFETCH(bool, isSaved);
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        QVERIFY(basemgr()->setValue(locationItem, location));
+        QVERIFY(basemgr()->setValue(usbItem, isAnnounced));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", isMounted));
+        Controller report;
+        report.setUp("a", 5);
+        for (int format : {0, 2, 4})
+            report.setFormatApplicable(format, false);
+        report.setCompressionEnabled(true);
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        QCOMPARE(report.save(), isSaved);
+        QCOMPARE(generated.count(), isSaved ? 1 : 0);
+        QTEST(names("/cust/public/reports"), "internal");
+        QTEST(names("/mnt/usb"), "stick");
+        QCOMPARE(manager()->currentDialog() == nullptr, isSaved);
+        // Two files that cannot be written are one mishap.
+        QCOMPARE(manager()->waitingDialogs(), 0);
+        int errors = 0;
+        for (int i = 0; i < manager()->count(); ++i)
+            errors += manager()->data(manager()->index(i), KIVNotificationModelManager::LongLabelRole) == "Write Error";
+        QCOMPARE(errors, isSaved ? 0 : 1);
+        // What lies on the stick is asked about as well.
+        QVERIFY(!report.save() || !isSaved);
+        if (location == 2 && isSaved && !names("/mnt/usb").isEmpty()) {
+            // A twin of another form goes with what may be overwritten.
+            QVERIFY(writeFile(onDisk("/mnt/usb/a.txt"), "plain"));
+            QVERIFY(report.save(true));
+            QTEST(names("/mnt/usb"), "stick");
+            manager()->reject();
+            QVERIFY(QDir(onDisk("/cust/public/reports")).removeRecursively());
+            QVERIFY(!report.save());
+            QVERIFY(manager()->currentDialog()->msg().contains("USB:/a.xml"));
+        }
+    }
+    void anAgreementHoldsForItsPlaceAlone()
+    {
+        QVERIFY(writeFile(onDisk("/mnt/usb/a.txt"), "old"));
+        QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt"), "precious"));
+        QVERIFY(basemgr()->setValue(locationItem, 1));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(!report.save());
+        QVector<bool> saved;
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        QVERIFY(basemgr()->setValue(usbItem, false));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", false));
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>{false});
+        QVERIFY(manager()->currentDialog());
+        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Write Error"));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.txt")), QByteArray("precious"));
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/a.txt")), QByteArray("old"));
+        // Another save is another question.
+        QVERIFY(!report.save());
+        QVERIFY(manager()->currentDialog());
+    }
+
+    void anAgreementHoldsForItsNameAlone()
+    {
+        Controller report;
+        for (const char* name : {"a", "b"}) {
+            report.setUp(name, 3);
+            report.text = name;
+            QVERIFY(report.save());
+        }
+        report.setUp("a", 3);
+        QVERIFY(!report.save());
+        report.getSetting("reportName")->setValue("b");
+        QVector<bool> saved;
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        report.text = "new";
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>{false});
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("b"));
+        QVERIFY(manager()->currentDialog() && manager()->currentDialog()->msg().contains("b.txt"));
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>({false, true}));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("new"));
+    }
+    void sticksThatComeLateAreAskedAbout_data()
+    {
+        QTest::addColumn<int>("location");
+        QTest::addColumn<int>("format");
+        for (const int location : {1, 2}) {
+            for (const int format : {0, 3})
+                QTest::addRow("%d, format %d", location, format) << location << format;
+        }
+    }
+    void sticksThatComeLateAreAskedAbout()
+    {
+        QFETCH(int, location);
+        QFETCH(int, format);
+        const QString name = format == 0 ? "a.pdf" : "a.txt";
+        QVERIFY(writeFile(onDisk("/mnt/port/" + name), "precious"));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        QVERIFY(basemgr()->setValue(locationItem, location));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        Controller report;
+        report.setUp("a", format);
+        report.text = "%PDF-";
+        report.whileMaking = [&] {
+            QDir().rename(onDisk("/mnt/usb"), onDisk("/mnt/point"));
+            QDir().rename(onDisk("/mnt/port"), onDisk("/mnt/usb"));
+            basemgr()->setMounted("/mnt/usb", true);
+        };
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        QVERIFY(!report.save());
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/" + name)), QByteArray("precious"));
+        QVERIFY(manager()->currentDialog());
+        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Report Exists"));
+        QCOMPARE(manager()->currentDialog()->msg(), "Do you want to overwrite report USB:/" + name + "?");
+        QCOMPARE(manager()->waitingDialogs(), 0);
+        QCOMPARE(generated.count(), 0);
+        report.whileMaking = nullptr;
+        QVector<bool> saved;
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>{true});
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/" + name)), QByteArray("%PDF-"));
+    }
+    void nothingIsPutWhereAStickWas()
+    {
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        QVERIFY(basemgr()->setValue(locationItem, 1));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        Controller report;
+        report.setUp("a", 3);
+        connect(&report, &Report::reportFilesChanged, &report, [&] { basemgr()->setMounted("/mnt/usb", false); });
+        QVERIFY(report.save());
+        QCOMPARE(names("/mnt/usb"), QStringList("a.txt"));
+    }
+    void foldersOnSticksAreMade()
+    {
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        Controller report;
+        report.setUp("a", 3);
+        report.setBaseDirectory("/mnt/usb/sites");
+        report.setFolder("f");
+        QVERIFY(report.save());
+        QVERIFY(names("/mnt/usb/sites/f").contains("a.txt"));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", false));
+        report.setFolder("g");
+        QVERIFY(!report.save());
+        QCOMPARE(names("/mnt/usb/sites"), QStringList("f"));
+        // A report that is saved to the stick is its own copy.
+        report.setFolder("");
+        report.setBaseDirectory("/mnt/usb");
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setValue(locationItem, 2));
+        QVERIFY(report.save());
+    }
+    void recordsTellOfReports()
+    {
+        QVERIFY(m_backend->loadFile(UIUTILS_SERVICES_DIR "/workflow_manager_app.service.json"));
+        QVERIFY(basemgr()->setValue(":config:basemgr:system:report_cdm_testType:", "otdr"));
+        Controller report;
+        report.setFolder("f");
+        report.setUp("a", 5);
+        report.setCdmTestTypeAndLabel();
+        const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
+        QVERIFY(report.save());
+        const QString folder = "/cust/private/reports/metadata/f/";
+        QCOMPARE(names(folder), QStringList({"a.html.metadata", "a.json.metadata", "a.pdf.metadata", "a.txt.metadata",
+                                        "a.xml.metadata"}));
+        const QJsonObject record = QJsonDocument::fromJson(contentsOf(onDisk(folder + "a.pdf.metadata"))).object();
+        QCOMPARE(record.size(), 5);
+        QCOMPARE(record["type"].toString() + record["format"].toString(), QString("resultPDF"));
+        QCOMPARE(record["originFilePath"].toString(), QString("/cust/public/reports/f/a.pdf"));
+        const QString stamp = record["timeStamp"].toString();
+        QVERIFY2(QRegularExpression("T.*[+-]\\d\\d:\\d\\d$").match(stamp).hasMatch(), qPrintable(stamp));
+        const QDateTime time = QDateTime::fromString(stamp, Qt::ISODate);
+        QVERIFY(time >= before && time <= QDateTime::currentDateTime());
+        QCOMPARE(record["info"].toObject(),
+                QJsonObject({{"wo", "WO-88213"}, {"workflowId", "ethernet-turn-up"}, {"jobId", "WO-88213"},
+                        {"testType", "otdr"}, {"testLabel", "None"}}));
+        // A record of yesterday's job would tell of the wrong one.
+        QVERIFY(basemgr()->setValue(activeItem, false));
+        QVERIFY(m_backend->withdraw("orb.base.workflow_manager_app"));
+        QVERIFY(report.save(true));
+        QVERIFY(contentsOf(onDisk(folder + "a.txt.metadata")).contains("\"info\": {\n    }"));
+    }
+    void aRecordThatCannotBeWrittenHindersNothing()
+    {
+        QVERIFY(writeFile(onDisk("/cust/private/reports"), "no folder"));
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(report.save());
+        QVERIFY(!manager()->currentDialog());
+    }
+
+    void savesCanBeCancelled()
+    {
+        Controller report;
+        report.setUp("a", 5);
+        QVector<double> progress;
+        connect(&report, &Report::progressChanged, &report, [&] {
+            progress << report.getProgress();
+            QVERIFY(report.isSaving());
+            if (progress.size() == 2)
+                report.cancel();
+        });
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        QVERIFY(!report.save());
+        QCOMPARE(progress, QVector<double>({0.2, 0.4}));
+        QCOMPARE(names("/cust/public/reports"), QStringList({"a.pdf", "a.xml"}));
+        QVERIFY(!manager()->currentDialog());
+        QCOMPARE(generated.count(), 0);
+        QVERIFY(!report.isSaving());
+        // What is written is kept from the cloud all the same, and the next save is not cancelled.
+        QVERIFY(contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt")).contains("a.xml"));
+        QVERIFY(report.save(true));
+        // Behind the last one there is nothing left to cancel.
+        report.disconnect(&report);
+        connect(&report, &Report::progressChanged, &report, [&] {
+            if (report.getProgress() == 1)
+                report.cancel();
+        });
+        QVERIFY(report.save(true));
+        // Before the first format counts, too.
+        report.disconnect(&report);
+        report.setUp("b", 3);
+        connect(&report, &Report::savingChanged, &report, &Report::cancel);
+        QVERIFY(!report.save());
+        QVERIFY(!QFile::exists(onDisk("/cust/public/reports/b.txt")));
+        QVERIFY(!manager()->currentDialog());
+    }
+    void aSaveTellsTheNameThatItBeganWith()
+    {
+        Controller report;
+        report.setUp("a", 5);
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        connect(&report, &Report::savingChanged, &report, [&] { report.getSetting("reportFormat")->setValue(0); });
+        QVERIFY(report.save());
+        QCOMPARE(generated, QList<QVariantList>{{QString("a")}});
+    }
+    void pagesTellHowFarTheyAre()
+    {
+        Report report;
+        ReportTemplate* document = &report.document();
+        document->beginReport("t");
+        document->beginTable("t", "T");
+        for (int i = 0; i < 400; ++i)
+            document->addRow("r", "row", i, {});
+        document->endTable();
+        document->endReport();
+        report.getSetting("reportName")->setValue("a");
+        QVector<double> progress;
+        connect(&report, &Report::progressChanged, &report, [&] { progress << report.getProgress(); });
+        QVERIFY(report.save());
+        QVERIFY2(progress.size() > 4, qPrintable(QString::number(progress.size())));
+        QVERIFY(std::is_sorted(progress.cbegin(), progress.cend()));
+        report.cancel();
+        QVERIFY(!report.generatePDFReport().isEmpty());
+        QCOMPARE(progress.constLast(), 1.0);
+        connect(&report, &Report::progressChanged, &report, &Report::cancel);
+        const QByteArray before = contentsOf(onDisk("/cust/public/reports/a.pdf"));
+        QVERIFY(!report.save(true));
+        QVERIFY(!manager()->currentDialog());
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.pdf")), before);
+        // While the page lives on, it may take the controller along.
+        report.disconnect();
+        const QPointer<Report> dying(new Report);
+        dying->document().adopt(*document);
+        dying->setInteractive(true);
+        connect(dying, &Report::progressChanged, dying, [&] { delete dying; });
+        QVERIFY(!dying->save(true));
+        QVERIFY(!dying);
+    }
+
+    void aNewSaveTakesTheQuestionBack()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(report.save());
+        QVERIFY(!report.save());
+        QSignalSpy accepted(&report, &Report::reportOverwriteAccepted);
+        report.getSetting("reportName")->setValue("b");
+        QVERIFY(report.save());
+        // An answer now would have "b" overwritten, which nobody has asked about.
+        QVERIFY(!manager()->currentDialog());
+        manager()->accept();
+        QCOMPARE(accepted.count(), 0);
+    }
+
+    void emptyNamesAndFoldersHaveDefaults()
+    {
+        Controller report;
+        report.setUp("", 3);
+        report.proposed.clear();
+        report.setBaseDirectory(QString());
+        QVERIFY(report.save());
+        QCOMPARE(names("/cust/public/reports"), QStringList("empty.txt"));
+    }
+
+    void compressingReplacesThePlainReport()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(report.save());
+        report.setCompressionEnabled(true);
+        QVERIFY(!report.save());
+        QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
+        QVERIFY(report.save(true));
+        QCOMPARE(names("/cust/public/reports"), QStringList("a.txt.gz"));
+    }
+
+    void reportsStayFromTheCloudThoughOthersFail()
+    {
+        Controller report;
+        report.setUp("a", 5);
+        QVERIFY(QDir().mkpath(onDisk("/cust/public/reports/a.xml/x")));
+        QVERIFY(!report.save(true));
+        const QByteArray list = contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"));
+        QVERIFY(list.contains("/a.pdf\n") && list.contains("/a.txt\n") && !list.contains("/a.xml\n"));
+    }
+    void reportsThatCannotBeCompressedStayFromTheCloud()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        report.setCompressionEnabled(true);
+        const auto restore = qScopeGuard([path = qgetenv("PATH")] { qputenv("PATH", path); });
+        qputenv("PATH", "/nowhere");
+        QVERIFY(!report.save());
+        QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
+        QVERIFY(contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"))
+                        .contains("/cust/public/reports/a.txt\n"));
+    }
+    void theBaseManagerHearsOfAListThatOthersHaveMade()
+    {
+        const QString item(":config:basemgr:system:ss_nosync:stringARRAY:");
+        QVERIFY(writeFile(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"), "/a.pdf\n/a.json\n"));
+        Report().addReportToNoSyncList("/a.pdf");
+        QCOMPARE(basemgr()->item(item)->getValue().toStringList(), QStringList({"/a.pdf", "/a.json"}));
+    }
+
+    void platformKeepsTheName()
+    {
+        int kept = 0;
+        const auto count = [&kept](const QString&, QString*) { return ++kept > 0; };
+        QVERIFY(basemgr()->setActionHandler(":action:basemgr:system:report_update_name_configs:", count));
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(report.save());
+        QCOMPARE(kept, 1);
+        report.keepsName = false;
+        QVERIFY(report.save(true));
+        QCOMPARE(kept, 1);
+    }
+
+    void syncChoiceIsRecorded()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(report.save());
+        QVERIFY(report.save(true));
+        const QString list = onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt");
+        QCOMPARE(contentsOf(list), QByteArray("/cust/public/reports/a.txt\n/cust/public/reports/a.json\n"));
+        QCOMPARE(basemgr()->item(":config:basemgr:system:ss_nosync:stringARRAY:")->getValue().toStringList().size(), 2);
+        report.getSetting("reportSync_SS")->setValue(true);
+        QVERIFY(report.save(true));
+        QCOMPARE(contentsOf(list), QByteArray());
+    }
+    void aListThatCannotBeReadIsNotReplaced()
+    {
+        Controller report;
+        report.setUp("a", 3);
+        const QString folder = onDisk("/cust/private/lastconfigs/base/basemgr/system");
+        QVERIFY(QDir().mkpath(folder + "/nosync_fileList.txt/x"));
+        // The report is safe; that it may be synced the user has to know.
+        QVERIFY(report.save());
+        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Sync"));
+        manager()->accept();
+        // A page that goes when its reports are saved takes the dialog along; two reports are one mishap.
+        manager()->clear();
+        {
+            Controller leaving;
+            leaving.setUp("b", 5);
+            leaving.setNotifiesTray(false);
+            QVERIFY(leaving.save());
+        }
+        QVERIFY(!manager()->currentDialog());
+        QCOMPARE(manager()->count(), 1);
+        QVERIFY(QDir(folder + "/nosync_fileList.txt").removeRecursively());
+        const QByteArray foreign("/cust/public/caf\xe9\n\n/x\n/x\n");
+        QVERIFY(writeFile(folder + "/nosync_fileList.txt", foreign));
+        report.addReportToNoSyncList("/cust/a\n/cust/b");
+        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Sync"));
+        QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), foreign);
+        report.addReportToNoSyncList("/y.z/w");
+        QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), QByteArray("/cust/public/caf\xe9\n/x\n/y.z/w\n/y.z/w.json\n"));
+        // The JSON report that was kept back is not given away with the others of its name.
+        report.writeNoSyncListToFile({});
+        for (const char* path : {"/cust/a.pdf", "/cust/a.xml", "/cust/b.pdf", "/cust/b.json"})
+            report.addReportToNoSyncList(path);
+        QVERIFY(writeFile(onDisk("/cust/b.json"), "{}"));
+        report.removeReportFromNoSyncList("/cust/a.pdf");
+        report.removeReportFromNoSyncList("/cust/b.pdf");
+        QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), QByteArray("/cust/a.json\n/cust/a.xml\n/cust/b.json\n"));
+        report.removeReportFromNoSyncList("/cust/a.xml");
+        report.removeReportFromNoSyncList("/cust/b.json");
+        QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), QByteArray());
+        report.writeNoSyncListToFile({"/1", "/2", "/1"});
+        QCOMPARE(contentsOf(folder + "/nosync_fileList.txt"), QByteArray("/1\n/2\n"));
+        QCOMPARE(basemgr()->item(":config:basemgr:system:ss_nosync:stringARRAY:")->getValue().toStringList(),
+                QStringList({"/1", "/2"}));
+    }
+
+    void jobsTakeReportsOrSayWhyNot()
+    {
+        Controller report;
+        QVERIFY(report.writeToJobManager());
+        QVERIFY(!manager()->currentDialog());
+        QVERIFY(basemgr()->setValue(activeItem, false));
+        QVERIFY(!report.writeToJobManager());
+        QCOMPARE(manager()->currentDialog()->msg(), QString("There is no active job"));
+    }
+
+    void viewerIsStarted()
+    {
+        const QString viewer = onDisk("/base/bin/pdf_viewer");
+        QVERIFY(writeFile(
+                viewer, "#!/bin/sh\nprintf '%s\\n' \"$PWD\" \"$@\" > arguments.part\nmv arguments.part arguments\n"));
+        QVERIFY(QFile::setPermissions(viewer, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QVERIFY(QDir().mkpath(onDisk("/base/qml/pdf_viewer")));
+        Report report;
+        report.showPDF("/cust/a.PDF");
+        report.showPDF("");
+        report.showPDF("/cust/a b.pdf.gz");
+        const QString arguments = onDisk("/base/qml/pdf_viewer/arguments");
+        QTRY_VERIFY(QFile::exists(arguments));
+        QCOMPARE(QString::fromUtf8(contentsOf(arguments)).split('\n'),
+                QStringList({onDisk("/base/qml/pdf_viewer"), "-plugin", "EvdevTouch:/dev/input/event1", "--dpy", "85",
+                        "-s", onDisk("/cust/a b.pdf.gz"), "-t", "View Report", ""}));
+        QVERIFY(QFile::remove(arguments));
+        report.setTitle("Shown again");
+        report.showPDF("");
+        QTRY_VERIFY(QFile::exists(arguments));
+        QVERIFY(contentsOf(arguments).endsWith("/cust/a b.pdf.gz\n-t\nShown again\n"));
+    }
+
+    void aPageSaves()
+    {
+        uiutils::registerTypes("UiUtils");
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData(R"(
+            import QtQml 2.15
+            import UiUtils 1.0
+            Report {
+                folder: "page"
+                property string saved
+                property string label: settings.reportFormat.label
+                onReportGenerated: saved = filename
+                Component.onCompleted: {
+                    getSetting("reportName").value = "q"
+                    getSetting("reportFormat").value = 1
+                    startPossibleSave()
+                    save()
+                    gc()
+                }
+            }
+        )",
+                QUrl());
+        const std::unique_ptr<QObject> page(component.create());
+        QVERIFY2(page, qPrintable(component.errorString()));
+        QCOMPARE(page->property("saved").toString(), QString("/cust/public/reports/page/q.xml"));
+        QCOMPARE(page->property("label").toString(), QString("Format"));
+        QVERIFY(page->findChild<StringUiData*>());
+    }
+
+    void builtInPagesAndMarkup()
+    {
+        Report report;
+        report.setTitle("Own title");
+        writeTemplate("rows.json", ", 'table_0': {'node_type': 'table', 'title': 'T', 'num_columns': 1}");
+        report.setTemplatePath("/cust/rows.json");
+        QVERIFY(report.generatePDFReport().startsWith("%PDF-"));
+        QVERIFY(Report::m_reportItems.isEmpty());
+        QVERIFY(report.generateHtmlReport().contains("Own title"));
+        report.setShowSoftwareRevs(false);
+        QVERIFY(!report.generateHtmlReport().contains("Software Revisions"));
+        QVERIFY(report.generateXmlReport().startsWith("<?xml"));
+    }
+};
+
+QTEST_MAIN(ReportSavingTest)
+
+#include "tst_reportsaving.moc"
