@@ -11,7 +11,8 @@ namespace uiutils {
 /// its permissions on, where the file system knows any; a new one gets what the umask leaves.
 ///
 /// The new file has a name of its own that nobody else has, or `temporary`, a path in the same folder; a file that lies
-/// there goes, and is an error while another writes it. What an earlier call has left in the folder, when its process was killed or the power went, goes first.
+/// there goes, and is an error while another writes it. What an earlier call has left in the folder, when its process was
+/// killed or the power went, goes first.
 ///
 /// Returns false when any step failed or the path holds a NUL character, with nothing left beside the target; `error`, if
 /// given, says which file, which step and why. The target is then untouched, but for the last steps: it holds all of
