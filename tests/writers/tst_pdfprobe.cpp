@@ -223,7 +223,8 @@ private Q_SLOTS:
         QCOMPARE(error.isEmpty(), passes);
     }
 
-    /// 1,000 files with some bytes changed, cut out, doubled or cut off, always the same.
+    /// 1,000 files with some bytes changed, cut out, doubled or cut off, always in the same places; dates and keys
+    /// in them differ from run to run.
     void damagedFiles()
     {
         samples::print(path("printed.pdf"), 2);
