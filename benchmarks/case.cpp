@@ -31,7 +31,8 @@ double measured(const std::function<void()>& run)
 
 Timing interleaved(int runs, const std::function<void()>& ours, const std::function<void()>& floor)
 {
-    return interleavedParts(runs, [&] { return measured(ours); }, [&] { return measured(floor); });
+    return interleavedParts(
+            runs, [&] { return measured(ours); }, [&] { return measured(floor); });
 }
 
 Timing interleavedParts(int runs, const std::function<double()>& ours, const std::function<double()>& floor)

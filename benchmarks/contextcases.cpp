@@ -114,13 +114,11 @@ QVector<Result> contextCases(int runs)
     QVector<Result> results;
     for (const int bindings : {0, 200, 2'000}) {
         const Timing timing = interleavedParts(
-                runs, [&] { return services.contextObject(bindings); },
-                [&] { return services.contextProperties(); });
-        results.append(
-                {QStringLiteral("binding: context of %L1 names, %L2 bindings / setContextProperties, none")
+                runs, [&] { return services.contextObject(bindings); }, [&] { return services.contextProperties(); });
+        results.append({QStringLiteral("binding: context of %L1 names, %L2 bindings / setContextProperties, none")
                                 .arg(allNames)
                                 .arg(bindings),
-                        QStringLiteral("ms CPU"), timing.ours, timing.floor, 1.6});
+                QStringLiteral("ms CPU"), timing.ours, timing.floor, 1.6});
     }
     return results;
 }

@@ -80,8 +80,8 @@ double makingTimeInParts(int items, int part)
 double makingMemory(int items, const Maker& make)
 {
     std::unique_ptr<PlainService> service;
-    return double(heapGrowth([&] { service = std::make_unique<PlainService>(serviceName, items); },
-                   [&] { make(*service); }))
+    return double(heapGrowth(
+                   [&] { service = std::make_unique<PlainService>(serviceName, items); }, [&] { make(*service); }))
             / 1e6;
 }
 
@@ -99,16 +99,14 @@ QVector<Result> createCases(int runs)
     const QString unit = QStringLiteral("us CPU per item");
     for (const int items : {1'000, 5'000, 20'000}) {
         const Timing timing = makingTimes(runs, items, makeByHand);
-        results.append({QStringLiteral("binding: create %L1 items / objects written by hand").arg(items),
-                unit, timing.ours * 1e3 / items, timing.floor * 1e3 / items, 1.5});
-        results.append({QStringLiteral("   heap memory of it / of the objects written by hand"),
-                QStringLiteral("MB"), makingMemory(items, makeWrappers), makingMemory(items, makeByHand),
-                1.25});
+        results.append({QStringLiteral("binding: create %L1 items / objects written by hand").arg(items), unit,
+                timing.ours * 1e3 / items, timing.floor * 1e3 / items, 1.5});
+        results.append({QStringLiteral("   heap memory of it / of the objects written by hand"), QStringLiteral("MB"),
+                makingMemory(items, makeWrappers), makingMemory(items, makeByHand), 1.25});
     }
     constexpr int most = 20'000;
     const Timing growth = interleavedParts(
-            runs, [&] { return makingTime(most, makeWrappers); },
-            [&] { return makingTimeInParts(most, 1'000); });
+            runs, [&] { return makingTime(most, makeWrappers); }, [&] { return makingTimeInParts(most, 1'000); });
     results.append({QStringLiteral("binding: create one of 20,000 items / one of 1,000"), unit,
             growth.ours * 1e3 / most, growth.floor * 1e3 / most, 1.5});
 
@@ -119,9 +117,8 @@ QVector<Result> createCases(int runs)
     results.append({QStringLiteral("   heap memory of it / of the property maps"), QStringLiteral("MB"),
             makingMemory(peers, makeWrappers), makingMemory(peers, makeMaps), 0});
 #ifdef BENCH_REMOTE_OBJECTS
-    results.append(
-            {QStringLiteral("binding: create %L1 items / dynamic replicas of Qt Remote Objects").arg(peers),
-                    unit, maps.ours * 1e3 / peers, replicaMicroseconds(runs, peers), 0});
+    results.append({QStringLiteral("binding: create %L1 items / dynamic replicas of Qt Remote Objects").arg(peers),
+            unit, maps.ours * 1e3 / peers, replicaMicroseconds(runs, peers), 0});
 #endif
     return results;
 }

@@ -17,8 +17,9 @@ namespace {
 QMap<QString, QVariant> attributes(int number)
 {
     return {{QStringLiteral("name"), QStringLiteral("item%1").arg(number)},
-            {QStringLiteral("label"), QStringLiteral("Item %1").arg(number)}, {QStringLiteral("type"), UiData::TYPE_INT},
-            {QStringLiteral("minRange"), 0}, {QStringLiteral("maxRange"), 100}, {QStringLiteral("mandatory"), true}};
+            {QStringLiteral("label"), QStringLiteral("Item %1").arg(number)},
+            {QStringLiteral("type"), UiData::TYPE_INT}, {QStringLiteral("minRange"), 0},
+            {QStringLiteral("maxRange"), 100}, {QStringLiteral("mandatory"), true}};
 }
 
 Result creation(int runs)
@@ -36,8 +37,8 @@ Result creation(int runs)
             new PlainWrapper(item, &owner);
     };
     const Timing timing = interleaved(runs, ours, byHand);
-    return {QStringLiteral("local: create and end an item / an object written by hand"), QStringLiteral("us CPU per item"),
-            timing.ours * 1e3 / items, timing.floor * 1e3 / items, 0};
+    return {QStringLiteral("local: create and end an item / an object written by hand"),
+            QStringLiteral("us CPU per item"), timing.ours * 1e3 / items, timing.floor * 1e3 / items, 0};
 }
 
 Result oneChange(int runs)

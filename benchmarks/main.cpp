@@ -21,8 +21,9 @@ struct Room
 
 /// In the order in which they are measured: behind the bindings, documents and texts take a third longer.
 const Room rooms[] {{"document", bench::documentCases}, {"html", bench::htmlCases}, {"pdf", bench::pdfCases},
-        {"plot", bench::plotCases}, {"xml", bench::xmlCases}, {"text", bench::textCases}, {"binding", bench::bindingCases},
-        {"local", bench::localCases}, {"pdffile", bench::pdfFileCases}, {"report", bench::reportCases}};
+        {"plot", bench::plotCases}, {"xml", bench::xmlCases}, {"text", bench::textCases},
+        {"binding", bench::bindingCases}, {"local", bench::localCases}, {"pdffile", bench::pdfFileCases},
+        {"report", bench::reportCases}};
 
 QStringList roomNames()
 {
@@ -37,8 +38,7 @@ void printTable(const QVector<bench::Result>& results)
     QTextStream out(stdout);
     out << "| case | ours | floor | unit | ratio | limit |\n|---|---:|---:|---|---:|---:|\n";
     for (const bench::Result& result : results) {
-        const QString limit
-                = result.limit > 0 ? QString::number(result.limit, 'f', 2) : QStringLiteral("-");
+        const QString limit = result.limit > 0 ? QString::number(result.limit, 'f', 2) : QStringLiteral("-");
         out << "| " << result.name << " | " << QString::number(result.ours, 'f', 2) << " | "
             << QString::number(result.floor, 'f', 2) << " | " << result.unit << " | "
             << QString::number(result.ratio(), 'f', 2) << " | " << limit << " |\n";
@@ -70,9 +70,8 @@ int main(int argc, char** argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Measures the library against floors in the same run."));
     parser.addHelpOption();
-    const QCommandLineOption runsOption(
-            QStringLiteral("runs"), QStringLiteral("Measured runs of each case, 7 or more."), QStringLiteral("N"),
-            QStringLiteral("9"));
+    const QCommandLineOption runsOption(QStringLiteral("runs"),
+            QStringLiteral("Measured runs of each case, 7 or more."), QStringLiteral("N"), QStringLiteral("9"));
     const QCommandLineOption jsonOption(
             QStringLiteral("json"), QStringLiteral("Write the figures to FILE as well."), QStringLiteral("FILE"));
     const QCommandLineOption onlyOption(QStringLiteral("only"),

@@ -102,8 +102,10 @@ void printPlainly(const Items& items, const QString& path)
         for (int row = 0; row < table->rowCount(); ++row) {
             int height = 0;
             for (int column = 0; column < columns; ++column) {
-                height = qMax(height, metrics.boundingRect(QRect(0, 0, width, page.height()), Qt::TextWordWrap,
-                                                     table->cellAt(row, column)->text).height());
+                height = qMax(height,
+                        metrics.boundingRect(QRect(0, 0, width, page.height()), Qt::TextWordWrap,
+                                       table->cellAt(row, column)->text)
+                                .height());
             }
             if (top + height > page.bottom()) {
                 printer.newPage();
@@ -134,13 +136,12 @@ QVector<Result> printCases(int runs, int rows, const QString& path)
     const double size = double(QFile(path).size());
     // A file of a few rows first: a forked process maps the toolkit's code anew, which is not the pages' doing.
     const Items few(tables);
-    const double growth
-            = double(peakGrowth([&] { printItems(few, path); }, [&] { printItems(items, path); })) / 1e6;
+    const double growth = double(peakGrowth([&] { printItems(few, path); }, [&] { printItems(items, path); })) / 1e6;
     return {{QStringLiteral("pages of %L1 rows / boundingRect and drawText of their cells").arg(rows),
                     QStringLiteral("ms CPU"), timing.ours, timing.floor, 0.8},
             {QStringLiteral("   peak memory growth of it / 4 MB"), QStringLiteral("MB"), growth, 4, 1},
-            {QStringLiteral("   size of the file / 100 bytes a row"), QStringLiteral("bytes per row"), size / rows,
-                    100, 1}};
+            {QStringLiteral("   size of the file / 100 bytes a row"), QStringLiteral("bytes per row"), size / rows, 100,
+                    1}};
 }
 
 void writeDocument(const ReportTemplate& report, const QString& path)
@@ -178,8 +179,8 @@ QVector<Result> documentCases(int runs, int rows, const QString& path)
     for (int i = 0; i < 2 * tables; ++i)
         annotation.outline.append({QStringLiteral("Entry %1").arg(i), i % 2, i, 0});
     QString error;
-    const Timing annotationTime
-            = interleaved(runs, [&] { uiutils::pdf::annotated(printed, annotation, &error); }, whole);
+    const Timing annotationTime = interleaved(
+            runs, [&] { uiutils::pdf::annotated(printed, annotation, &error); }, whole);
     return {{QStringLiteral("   HTML pass for items of %L1 rows / document to finished file").arg(rows),
                     QStringLiteral("ms CPU"), passTime.ours, passTime.floor, 0},
             {QStringLiteral("   metadata and outline of %L1 rows / document to finished file").arg(rows),
@@ -192,15 +193,17 @@ Result richTextCase(int runs, int rows, const QString& path)
     ReportTemplate report;
     buildTables(report, rows, 0);
     const QString html = TemplateToHtmlWriter(report, nullptr).getHtml();
-    const Timing timing = interleaved(runs, [&] { writeDocument(report, path); }, [&] {
-        QTextDocument document;
-        document.setHtml(html);
-        QPrinter printer(QPrinter::ScreenResolution);
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setPageSize(QPageSize(QPageSize::Letter));
-        printer.setOutputFileName(path + QStringLiteral(".peer"));
-        document.print(&printer);
-    });
+    const Timing timing = interleaved(
+            runs, [&] { writeDocument(report, path); },
+            [&] {
+                QTextDocument document;
+                document.setHtml(html);
+                QPrinter printer(QPrinter::ScreenResolution);
+                printer.setOutputFormat(QPrinter::PdfFormat);
+                printer.setPageSize(QPageSize(QPageSize::Letter));
+                printer.setOutputFileName(path + QStringLiteral(".peer"));
+                document.print(&printer);
+            });
     return {QStringLiteral("document of %L1 rows to finished file / QTextDocument::print of its HTML").arg(rows),
             QStringLiteral("ms CPU"), timing.ours, timing.floor, 0};
 }
@@ -229,8 +232,8 @@ QVector<Result> pdfCases(int runs)
     printItems(Items(tables, 64), path);
     results.append({QStringLiteral("images in a file of 10,000 failed rows / of 10"), QStringLiteral("images"),
             double(imagesOfMany), double(imagesIn(path)), 1});
-    results.append({QStringLiteral("memory of a process's first file, 10 rows / 4 MB"), QStringLiteral("MB"), firstGrowth,
-            4, 0});
+    results.append({QStringLiteral("memory of a process's first file, 10 rows / 4 MB"), QStringLiteral("MB"),
+            firstGrowth, 4, 0});
     results += documentCases(runs, few, path);
     results += documentCases(runs, many, path);
     results.append(richTextCase(runs, few, path));

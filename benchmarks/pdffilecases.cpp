@@ -27,8 +27,7 @@ void print(const QString& path, int pages)
         if (page > 0)
             writer.newPage();
         for (int line = 0; line < 40; ++line) {
-            painter.drawText(
-                    200, 200 + 250 * line, QStringLiteral("Event %1.%2: loss 0.25 dB").arg(page).arg(line));
+            painter.drawText(200, 200 + 250 * line, QStringLiteral("Event %1.%2: loss 0.25 dB").arg(page).arg(line));
         }
     }
 }
@@ -56,8 +55,8 @@ QVector<Result> ordinaryCases(int runs, const QString& path)
     const QByteArray contents = contentsOf(path);
     PDFFile file;
     QString error;
-    const Timing load = interleavedParts(runs, timed([&] { file.setFilename(path); }),
-            timed([&] { uiutils::pdf::load(contentsOf(path), &error); }));
+    const Timing load = interleavedParts(
+            runs, timed([&] { file.setFilename(path); }), timed([&] { uiutils::pdf::load(contentsOf(path), &error); }));
     file.setTitle(QStringLiteral("Fiber 7"));
     const Timing write = interleavedParts(runs, timed([&] { file.write(QString()); }),
             timed([&] { (void)uiutils::writeFileDurably(path, contents); }));

@@ -14,7 +14,7 @@ struct Kind
 
 const QVector<Kind>& kinds()
 {
-    static const QVector<Kind> list{{KIVClientItem::TypeInt, QStringLiteral("int"), QStringLiteral("int"), 7},
+    static const QVector<Kind> list {{KIVClientItem::TypeInt, QStringLiteral("int"), QStringLiteral("int"), 7},
             {KIVClientItem::TypeString, QStringLiteral("std::string"), QStringLiteral("string"),
                     QStringLiteral("seven")},
             {KIVClientItem::TypeDouble, QStringLiteral("double"), QStringLiteral("double"), 7.5}};
@@ -37,8 +37,7 @@ QString valueText(const QVariant& value, const QString& unit)
     return value.toString() + QLatin1Char(' ') + unit;
 }
 
-PlainServiceItem::PlainServiceItem(
-        TypeCode type, const QString& id, const QString& name, const QVariant& value)
+PlainServiceItem::PlainServiceItem(TypeCode type, const QString& id, const QString& name, const QVariant& value)
     : m_type(type)
     , m_typeName(typeNameOf(type))
     , m_id(id)

@@ -71,7 +71,8 @@ QVector<Result> plotCases(int runs)
 {
     const uiutils::PlotData data = trace();
     const QVector<QPointF> line = pixels(data);
-    const Timing timing = interleaved(runs, [&] { drawPlot(data); }, [&] { drawPolyline(line); });
+    const Timing timing = interleaved(
+            runs, [&] { drawPlot(data); }, [&] { drawPolyline(line); });
     return {{QStringLiteral("plot of %L1 points, axes and all / drawPolyline of the same points").arg(points),
             QStringLiteral("ms CPU"), timing.ours, timing.floor, 0.5}};
 }

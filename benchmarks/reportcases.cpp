@@ -54,11 +54,16 @@ public:
     QByteArray contents(int format)
     {
         switch (format) {
-        case NSReport::REPORT_FORMAT_PDF: return generatePDFReport();
-        case NSReport::REPORT_FORMAT_XML: return generateXmlReport().toUtf8();
-        case NSReport::REPORT_FORMAT_HTML: return generateHtmlReport().toUtf8();
-        case NSReport::REPORT_FORMAT_TEXT: return generateTxtReport().toUtf8();
-        default: return generateJsonReport().toUtf8();
+        case NSReport::REPORT_FORMAT_PDF:
+            return generatePDFReport();
+        case NSReport::REPORT_FORMAT_XML:
+            return generateXmlReport().toUtf8();
+        case NSReport::REPORT_FORMAT_HTML:
+            return generateHtmlReport().toUtf8();
+        case NSReport::REPORT_FORMAT_TEXT:
+            return generateTxtReport().toUtf8();
+        default:
+            return generateJsonReport().toUtf8();
         }
     }
 };
@@ -97,7 +102,8 @@ QVector<Result> savingCases(int runs)
         };
         save();
         const QString recordName = QStringLiteral("report.%1.metadata").arg(QLatin1String(suffixes[first]));
-        const QByteArray record = bytesOf(uiutils::onDisk(QStringLiteral("/cust/private/reports/metadata/bench/") + recordName));
+        const QByteArray record
+                = bytesOf(uiutils::onDisk(QStringLiteral("/cust/private/reports/metadata/bench/") + recordName));
         const QTemporaryDir floorFolder(root.filePath(QStringLiteral("floor-XXXXXX")));
         const Timing timing = interleaved(runs, save, [&] {
             for (int one = first; one <= last; ++one) {

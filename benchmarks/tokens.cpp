@@ -35,7 +35,8 @@ QVector<Token> tokensOf(const QString& markup)
         case QXmlStreamReader::StartElement: {
             // "<x/>" or "<x></x>": the reader does not tell, the text does.
             const bool isEmpty = markup.at(int(reader.characterOffset()) - 2) == QLatin1Char('/');
-            tokens.append({isEmpty ? Token::Empty : Token::Start, reader.name().toString(), pairs(reader.attributes())});
+            tokens.append(
+                    {isEmpty ? Token::Empty : Token::Start, reader.name().toString(), pairs(reader.attributes())});
             if (isEmpty)
                 reader.readNext();
             break;

@@ -112,14 +112,13 @@ Result updateCase(int runs, const QString& name, const QByteArray& text, Known k
 
 QVector<Result> updateCases(int runs)
 {
-    return {updateCase(runs, QStringLiteral("binding: update of a binding / object written by hand"),
-                    bindingPage, Known::AsContextProperty),
+    return {updateCase(runs, QStringLiteral("binding: update of a binding / object written by hand"), bindingPage,
+                    Known::AsContextProperty),
             updateCase(runs, QStringLiteral("binding: update of a binding / same, known by a context object"),
                     bindingPage, Known::ByContextObject),
-            updateCase(runs, QStringLiteral("binding: update of six labels / object written by hand"),
-                    labelsPage, Known::AsContextProperty),
-            updateCase(runs,
-                    QStringLiteral("binding: update of six labels / same, known by a context object"),
+            updateCase(runs, QStringLiteral("binding: update of six labels / object written by hand"), labelsPage,
+                    Known::AsContextProperty),
+            updateCase(runs, QStringLiteral("binding: update of six labels / same, known by a context object"),
                     labelsPage, Known::ByContextObject)};
 }
 

@@ -53,7 +53,8 @@ QVector<Result> writerCases(const Writer& writer, int runs, int rows)
         std::exit(1);
     }
 
-    const Timing timing = interleaved(runs, [&] { writer.write(report); }, [&] { emitTokens(tokens); });
+    const Timing timing = interleaved(
+            runs, [&] { writer.write(report); }, [&] { emitTokens(tokens); });
     const double size = double(text.size()) * sizeof(QChar) / 1e6;
     const double growth = double(peakGrowth([&] { writer.write(report); })) / 1e6;
     return {{QStringLiteral("%1 of %L2 rows / the same tokens, bare stream writer").arg(writer.product).arg(rows),

@@ -9,8 +9,7 @@
 namespace uiutils::apps {
 
 /// The line asked for a text, such as the help.
-template<typename Options>
-Options answered(const QString& message)
+template<typename Options> Options answered(const QString& message)
 {
     Options options;
     options.outcome = Options::Answered;
@@ -19,12 +18,12 @@ Options answered(const QString& message)
 }
 
 /// The line cannot be understood, for the reason in `message`.
-template<typename Options>
-Options misused(const QString& message)
+template<typename Options> Options misused(const QString& message)
 {
     Options options;
     options.outcome = Options::Misused;
-    options.message = message + QLatin1Char('\n') + QCoreApplication::translate("Options", "Try --help for the options.");
+    options.message
+            = message + QLatin1Char('\n') + QCoreApplication::translate("Options", "Try --help for the options.");
     return options;
 }
 

@@ -15,7 +15,8 @@ namespace uiutils::apps {
 
 namespace {
 
-/// What begins the names of a service's items: the last part of a name such as "com.example.test", which QML cannot spell.
+/// What begins the names of a service's items: the last part of a name such as "com.example.test", which QML cannot
+/// spell.
 QString tagOf(const QString& service)
 {
     return service.section(QLatin1Char('.'), -1);
@@ -53,7 +54,8 @@ QStringList Instrument::listing() const
     const QStringList ids = Manifest::getKivIds(QString(), QString());
     for (const QString& id : ids) {
         if (const KivData* item = Manifest::getKivData(id))
-            lines.append(QStringList {item->getQmlTag(), item->getType(), item->getValueString()}.join(QLatin1Char('\t')));
+            lines.append(
+                    QStringList {item->getQmlTag(), item->getType(), item->getValueString()}.join(QLatin1Char('\t')));
     }
     lines.sort();
     return lines;

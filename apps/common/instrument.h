@@ -24,7 +24,8 @@ public:
     ~Instrument();
     Q_DISABLE_COPY_MOVE(Instrument)
 
-    /// Makes them known to all pages of the engine, which must not have loaded one yet and has to go before this object.
+    /// Makes them known to all pages of the engine, which must not have loaded one yet and has to go before this
+    /// object.
     void showTo(QQmlEngine* engine);
 
     /// One line for each item: its name in QML, type and value, parted by tabs.

@@ -5,8 +5,8 @@
 
 namespace uiutils::apps {
 
-/// The folder that stands for the instrument's disk unless the user names one: UIUTILS_ROOT, else one of the program's own
-/// in the user's state folder.
+/// The folder that stands for the instrument's disk unless the user names one: UIUTILS_ROOT, else one of the program's
+/// own in the user's state folder.
 QString defaultRoot(const QString& program);
 
 /// The folders of the service files unless the user names some: those of KIV_SERVICES, else the ones that ship.

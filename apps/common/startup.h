@@ -11,8 +11,8 @@ class EmbeddedBackend;
 
 namespace uiutils::apps {
 
-/// Publishes the services of the folders, with the settings that are kept below `root`, and complains of what could not be
-/// used. Returns false, having complained, when there is no service at all.
+/// Publishes the services of the folders, with the settings that are kept below `root`, and complains of what could not
+/// be used. Returns false, having complained, when there is no service at all.
 bool loadServices(kiv::embedded::EmbeddedBackend& backend, const QStringList& folders, const QString& root);
 
 } // namespace uiutils::apps

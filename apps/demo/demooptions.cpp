@@ -36,8 +36,7 @@ DemoOptions readOptions(const QStringList& arguments)
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption root(QStringLiteral("root"),
-            tr("Keep everything that is written below <folder> (default: %1).").arg(ownRoot),
-            tr("folder"), ownRoot);
+            tr("Keep everything that is written below <folder> (default: %1).").arg(ownRoot), tr("folder"), ownRoot);
     const QCommandLineOption services(QStringLiteral("services"),
             tr("Publish the services described in <folder>; may be given more than once (default: %1).")
                     .arg(ownServices.join(QLatin1Char(':'))),
@@ -56,8 +55,8 @@ DemoOptions readOptions(const QStringList& arguments)
     if (parser.isSet(help))
         return answered(parser.helpText());
     if (parser.isSet(version)) {
-        return answered(QCoreApplication::applicationName() + QLatin1Char(' ')
-                + QCoreApplication::applicationVersion() + QLatin1Char('\n'));
+        return answered(QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion()
+                + QLatin1Char('\n'));
     }
     if (!parser.positionalArguments().isEmpty())
         return misused(tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst()));

@@ -69,9 +69,8 @@ bool makeFolder(const QString& folder, QString* error)
     }
     if (QDir().mkpath(folder))
         return true;
-    *error = tr(
-            "The folder %1 cannot be made in %2. Check that you may write there, or name another folder with "
-            "--root.")
+    *error = tr("The folder %1 cannot be made in %2. Check that you may write there, or name another folder with "
+                "--root.")
                      .arg(folder, nearest.filePath());
     return false;
 }

@@ -5,8 +5,8 @@
 namespace uiutils::demo {
 
 /// Makes the folder that stands for the instrument's disk, with the status icons and the logo in their place;
-/// what is there already and right is left alone. The viewer of PDF files is linked to the program `viewer`, unless that is
-/// empty or the folder has a viewer of its own, which is no link.
+/// what is there already and right is left alone. The viewer of PDF files is linked to the program `viewer`, unless
+/// that is empty or the folder has a viewer of its own, which is no link.
 ///
 /// False when it cannot be used; `error` then says which file, what happened and what to do.
 bool prepareInstrumentRoot(const QString& root, const QString& viewer, QString* error);

@@ -10,8 +10,8 @@ namespace uiutils::demo {
 
 /// What a row of a page enters for a setting while a transaction holds it back.
 ///
-/// The item itself shows the held value only; an entry also knows the service's, and so whether there is anything to apply.
-/// Entering the service's value again takes the change back.
+/// The item itself shows the held value only; an entry also knows the service's, and so whether there is anything to
+/// apply. Entering the service's value again takes the change back.
 class ItemEntry : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,8 @@ class ItemEntry : public QObject
     Q_PROPERTY(QVariant served READ served NOTIFY servedChanged)
     /// Whether the item's value waits to be applied.
     Q_PROPERTY(bool pending READ isPending NOTIFY pendingChanged)
-    /// Why the service did not take the entry, in its words; empty once something else is entered or the entry is settled.
+    /// Why the service did not take the entry, in its words; empty once something else is entered or the entry is
+    /// settled.
     Q_PROPERTY(QString refusal READ refusal NOTIFY refusalChanged)
 
 public:

@@ -8,10 +8,8 @@ namespace uiutils::demo {
 
 LoopbackMeasurement::LoopbackMeasurement(QObject* parent)
     : QObject(parent)
-    , m_roundTrip(tr("Round-trip time"), QStringLiteral("ms"), 3,
-              {Limit::AtMost, maximumRoundTripMilliseconds}, this)
-    , m_throughput(tr("Throughput"), QStringLiteral("Mbit/s"), 0, {Limit::AtLeast, minimumThroughputMegabits},
-              this)
+    , m_roundTrip(tr("Round-trip time"), QStringLiteral("ms"), 3, {Limit::AtMost, maximumRoundTripMilliseconds}, this)
+    , m_throughput(tr("Throughput"), QStringLiteral("Mbit/s"), 0, {Limit::AtLeast, minimumThroughputMegabits}, this)
 {
     m_thread.setObjectName(QStringLiteral("loopback"));
     connect(&m_roundTrip, &SampleModel::statusChanged, this, &LoopbackMeasurement::statusChanged);
@@ -55,7 +53,8 @@ QString LoopbackMeasurement::stateText() const
 
 double LoopbackMeasurement::progress() const
 {
-    return double(m_roundTrip.count() + m_throughput.count()) / double(m_runSettings.roundTripSamples + m_runSettings.throughputSamples);
+    return double(m_roundTrip.count() + m_throughput.count())
+            / double(m_runSettings.roundTripSamples + m_runSettings.throughputSamples);
 }
 
 QString LoopbackMeasurement::startTime() const
@@ -69,20 +68,13 @@ QString LoopbackMeasurement::method() const
         return {};
     const QLocale locale;
     const auto text = [&](int number) { return locale.toString(number); };
-    return tr(
-            "Measured with a TCP client and a TCP server of this program over the loopback interface of this "
-            "unit. "
-            "Round-trip time: %1 samples, each the time from sending a message of %2 bytes until all of its "
-            "echo "
-            "had arrived. Throughput: %6 samples, each the time for sending %3 MiB until the server had "
-            "acknowledged the last byte; 1 Mbit/s is 1,000,000 bits a second. Between samples there is a "
-            "pause of "
-            "%4 ms, and one exchange of each kind before the first sample is not counted. Jitter is the mean "
-            "difference between neighbouring samples. A value passes when it keeps its limit by %5 % or "
-            "more, is "
-            "marginal when it keeps it by less, and fails when it misses it; the overall status is that of "
-            "the "
-            "worse median.")
+    return tr("Measured with a TCP client and a TCP server of this program over the loopback interface of this unit. "
+              "Round-trip time: %1 samples, each the time from sending a message of %2 bytes until all of its echo had "
+              "arrived. Throughput: %6 samples, each the time for sending %3 MiB until the server had acknowledged the "
+              "last byte; 1 Mbit/s is 1,000,000 bits a second. Between samples there is a pause of %4 ms, and one "
+              "exchange of each kind before the first sample is not counted. Jitter is the mean difference between "
+              "neighbouring samples. A value passes when it keeps its limit by %5 % or more, is marginal when it keeps "
+              "it by less, and fails when it misses it; the overall status is that of the worse median.")
             .arg(text(m_runSettings.roundTripSamples), text(m_runSettings.messageBytes),
                     text(m_runSettings.transferMebibytes), text(m_runSettings.pauseMilliseconds),
                     text(qRound(marginalShare * 100)), text(m_runSettings.throughputSamples));
@@ -90,7 +82,8 @@ QString LoopbackMeasurement::method() const
 
 QString LoopbackMeasurement::rangeText()
 {
-    return tr("A run takes %1 to %2 samples of each and messages of %3 B or more; what lies beyond is brought into range.")
+    return tr(
+            "A run takes %1 to %2 samples of each and messages of %3 B or more; what lies beyond is brought into range.")
             .arg(QString::number(fewestSamples), QString::number(mostSamples), QString::number(smallestMessage));
 }
 

@@ -70,9 +70,8 @@ bool LoopbackProbe::openServer()
     m_server = std::make_unique<LoopbackServer>();
     if (m_server->listenOnLoopback())
         return true;
-    fail(tr("No server could be opened on the loopback address (%1). Check that the loopback interface is "
-            "up, "
-            "then start again.")
+    fail(tr("No server could be opened on the loopback address (%1). Check that the loopback interface is up, then "
+            "start again.")
                     .arg(m_server->errorString()));
     return false;
 }
@@ -133,8 +132,7 @@ void LoopbackProbe::readReply()
     const qint64 nanoseconds = m_clock.nsecsElapsed();
     if (m_expectedReply.isEmpty() || m_socket.readAll() != m_expectedReply) {
         fail(tr("The server at %1 gave an answer that does not belong to the question while %2. Another "
-                "program "
-                "may be listening there; start again.")
+                "program may be listening there; start again.")
                         .arg(m_address, activity()));
         return;
     }
@@ -150,8 +148,7 @@ void LoopbackProbe::completeExchange(qint64 nanoseconds)
     if (m_taken >= 0 && m_phase == Phase::RoundTrip)
         Q_EMIT roundTripTaken(double(nanoseconds) / 1e6);
     else if (m_taken >= 0)
-        Q_EMIT throughputTaken(
-                double(m_settings.transferMebibytes * mebibyte) * 8 * 1e3 / double(nanoseconds));
+        Q_EMIT throughputTaken(double(m_settings.transferMebibytes * mebibyte) * 8 * 1e3 / double(nanoseconds));
 
     if (++m_taken < wantedSamples()) {
         m_pause.start();

@@ -10,13 +10,14 @@ namespace uiutils::demo {
 
 /// Saves the report of a loopback measurement, in any format.
 ///
-/// Beside the settings of every report there are "reportTitle", the title on the report, and "reportCompression", whether
-/// the files are compressed.
+/// Beside the settings of every report there are "reportTitle", the title on the report, and "reportCompression",
+/// whether the files are compressed.
 class LoopbackReport : public Report
 {
     Q_OBJECT
     /// What is reported on; stays the caller's. The end of a run gives the report a new name.
-    Q_PROPERTY(uiutils::demo::LoopbackMeasurement* measurement READ measurement WRITE setMeasurement NOTIFY measurementChanged)
+    Q_PROPERTY(uiutils::demo::LoopbackMeasurement* measurement READ measurement WRITE setMeasurement NOTIFY
+                    measurementChanged)
     /// The document that the next save writes.
     Q_PROPERTY(ReportTemplate* content READ content CONSTANT)
 

@@ -47,8 +47,7 @@ QQuickWindow* openWindow(QQmlApplicationEngine& engine, LoopbackMeasurement* mea
 {
     engine.setInitialProperties({{QStringLiteral("measurement"), QVariant::fromValue(measurement)}});
     engine.load(QUrl(QStringLiteral("qrc:/uiutils/demo/Main.qml")));
-    return engine.rootObjects().isEmpty() ? nullptr
-                                          : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
+    return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
 }
 
 int runTour(Tour& tour)

@@ -14,8 +14,8 @@ class LoopbackMeasurement;
 class SampleModel;
 
 /// Keeps the measurement and the settings of the service "loopback" at one: sample counts, message size and limits come
-/// from the service, at once and whenever it reports others, and a limit that is changed at the measurement is set there.
-/// A limit that the service refuses goes back to what the service holds.
+/// from the service, at once and whenever it reports others, and a limit that is changed at the measurement is set
+/// there. A limit that the service refuses goes back to what the service holds.
 ///
 /// The measurement has to outlive it. Without a client, or for an item that the service does not have, the measurement
 /// keeps what it has.

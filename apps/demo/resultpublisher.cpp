@@ -31,7 +31,8 @@ void publish(const SampleModel& samples, kiv::embedded::EmbeddedService* service
 void publishResults(LoopbackMeasurement* measurement, const kiv::embedded::EmbeddedBackend* backend)
 {
     const auto publishAll = [measurement, backend] {
-        publish(*measurement->roundTrip(), backend->service(QStringLiteral("loopback_rtt")), QStringLiteral("upperLimit"));
+        publish(*measurement->roundTrip(), backend->service(QStringLiteral("loopback_rtt")),
+                QStringLiteral("upperLimit"));
         publish(*measurement->throughput(), backend->service(QStringLiteral("loopback_throughput")),
                 QStringLiteral("lowerLimit"));
     };

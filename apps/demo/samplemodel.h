@@ -34,8 +34,7 @@ public:
     enum Role { NumberRole = Qt::UserRole + 1, ValueRole, TextRole, StatusRole, StatusTextRole };
 
     /// Texts show three digits that count, with no more than `mostDecimals` of them after the point.
-    SampleModel(
-            const QString& title, const QString& unit, int mostDecimals, const Limit& limit, QObject* parent);
+    SampleModel(const QString& title, const QString& unit, int mostDecimals, const Limit& limit, QObject* parent);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -8,7 +8,8 @@
 
 namespace uiutils::demo {
 
-/// What users do with a saved report beside opening it. They are asked before anything is lost, and told what went wrong.
+/// What users do with a saved report beside opening it. They are asked before anything is lost, and told what went
+/// wrong.
 ///
 /// Paths are the instrument's, as `reportFiles` of the controller has them.
 class SavedReportActions : public QObject
@@ -27,7 +28,8 @@ public:
     Q_INVOKABLE bool hasViewer() const;
     /// Asks whether the report may be deleted. A yes takes along its metadata record and what keeps it from the cloud.
     Q_INVOKABLE void remove(const QString& path);
-    /// Copies the report to the USB drive; asks before it takes the place of a file there. The tray tells when the copy is safe.
+    /// Copies the report to the USB drive; asks before it takes the place of a file there. The tray tells when the copy
+    /// is safe.
     Q_INVOKABLE void copyToUsb(const QString& path);
 
 Q_SIGNALS:

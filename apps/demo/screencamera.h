@@ -15,8 +15,8 @@ namespace uiutils::demo {
 /// The image as PNG; empty when there is no image.
 QByteArray pngOf(const QImage& image);
 
-/// Takes pictures of the screen and keeps them in "/cust/public/screenshots/", each with its metadata record. The tray tells of
-/// each picture; a dialog tells when there is none.
+/// Takes pictures of the screen and keeps them in "/cust/public/screenshots/", each with its metadata record. The tray
+/// tells of each picture; a dialog tells when there is none.
 class ScreenCamera : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,8 @@ public:
     /// Where the pictures lie on this machine's disk, in their order.
     QStringList pictures() const { return m_pictures; }
 
-    /// "screenshot_20260131-142500" for a time of that text, with "_2", "_3" behind it when a picture of that name is there.
+    /// "screenshot_20260131-142500" for a time of that text, with "_2", "_3" behind it when a picture of that name is
+    /// there.
     static QString freeBaseName(const QString& time);
 
 Q_SIGNALS:

@@ -50,9 +50,8 @@ Tour::Tour(QQuickWindow* window, LoopbackMeasurement* measurement, LoopbackRepor
 {
     m_patience.setSingleShot(true);
     m_patience.setInterval(picturePatience);
-    connect(&m_patience, &QTimer::timeout, this, [this] {
-        fail(tr("The window was not drawn for %1 s. Keep it in sight.").arg(picturePatience / 1000));
-    });
+    connect(&m_patience, &QTimer::timeout, this,
+            [this] { fail(tr("The window was not drawn for %1 s. Keep it in sight.").arg(picturePatience / 1000)); });
 }
 
 void Tour::start()
@@ -66,9 +65,8 @@ void Tour::start()
     connect(m_measurement, &LoopbackMeasurement::finished, this, &Tour::visitAll);
     connect(m_measurement, &LoopbackMeasurement::failed, this, &Tour::fail);
     connect(m_camera, &ScreenCamera::failed, this, &Tour::fail);
-    connect(m_measurement, &LoopbackMeasurement::cancelled, this, [this] {
-        fail(tr("The measurement was cancelled before the tour was over. Start the tour again."));
-    });
+    connect(m_measurement, &LoopbackMeasurement::cancelled, this,
+            [this] { fail(tr("The measurement was cancelled before the tour was over. Start the tour again.")); });
     m_measurement->start();
 }
 

@@ -71,8 +71,8 @@ void setMounted(bool isMounted)
         backend()->service(name)->setMounted(paths::usb, false);
 }
 
-/// In one step, so that the files are always whole at one of the two places. An empty folder in the way goes; with nothing to move
-/// an empty folder is made.
+/// In one step, so that the files are always whole at one of the two places. An empty folder in the way goes; with
+/// nothing to move an empty folder is made.
 bool moveFolder(const QString& from, const QString& to, QString* error)
 {
     if (!makeFolder(QFileInfo(to).path(), error))

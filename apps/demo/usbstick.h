@@ -7,9 +7,10 @@ namespace uiutils::demo {
 
 /// The memory stick of an instrument that stands on a desk: what is plugged and pulled is a folder.
 ///
-/// While the stick is in, the folder lies at the instrument's mount point, a drive is mounted there and the base manager says
-/// that one is attached. While it is out, the folder lies where no path of the instrument leads, and what is left at the mount
-/// point is a folder of the unit's own, as on an instrument. The stick's files are moved as a whole and never touched.
+/// While the stick is in, the folder lies at the instrument's mount point, a drive is mounted there and the base
+/// manager says that one is attached. While it is out, the folder lies where no path of the instrument leads, and what
+/// is left at the mount point is a folder of the unit's own, as on an instrument. The stick's files are moved as a
+/// whole and never touched.
 ///
 /// Constructing it makes the three agree: a stick stays in or out over a restart; where there has been none yet, the
 /// services say. What cannot be done is told in a dialog. Works on the embedded back end that is current, and on a root
@@ -31,8 +32,8 @@ public:
     bool isAttached() const;
     QString mountPoint() const;
 
-    /// False when the stick cannot be put in or taken out, for which the user is told the reason. True and nothing more when it
-    /// is in or out already.
+    /// False when the stick cannot be put in or taken out, for which the user is told the reason. True and nothing more
+    /// when it is in or out already.
     Q_INVOKABLE bool plug();
     Q_INVOKABLE bool pull();
     /// Takes the stick out, and the base manager has not noticed yet. pull() lets it notice.

@@ -65,7 +65,8 @@ private:
     /// A gzip file may be several, one behind the other; what else follows is padding.
     bool startNextMember()
     {
-        const QByteArray rest = QByteArray::fromRawData(reinterpret_cast<const char*>(m_stream.next_in), int(m_stream.avail_in));
+        const QByteArray rest
+                = QByteArray::fromRawData(reinterpret_cast<const char*>(m_stream.next_in), int(m_stream.avail_in));
         return isGzip(rest) && inflateReset(&m_stream) == Z_OK;
     }
 

@@ -50,7 +50,8 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption wholeScreen(QStringLiteral("s"),
             tr("Take the whole screen, without a frame. Where a window system shares the screen out, the window is one among "
                "others all the same."));
-    const QCommandLineOption title(QStringLiteral("t"), tr("Call the window <title> (default: the file's name)."), tr("title"));
+    const QCommandLineOption title(
+            QStringLiteral("t"), tr("Call the window <title> (default: the file's name)."), tr("title"));
     const QCommandLineOption plugin(QStringLiteral("plugin"),
             tr("Use the input plug-in <name:device>; may be given more than once. Without effect where a window system brings "
                "the input, and where there is no such device."),

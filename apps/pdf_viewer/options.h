@@ -8,8 +8,7 @@ namespace uiutils::viewer {
 /// What the command line asks for.
 struct Options
 {
-    enum Outcome
-    {
+    enum Outcome {
         Show,
         /// `message` is for standard output, and the program is done.
         Answered,

@@ -10,8 +10,8 @@
 
 namespace uiutils::viewer {
 
-/// A page as a picture that fills the item. While the item changes its size, the picture that is there is stretched; a sharp
-/// one replaces it once the size has come to rest.
+/// A page as a picture that fills the item. While the item changes its size, the picture that is there is stretched; a
+/// sharp one replaces it once the size has come to rest.
 class PageItem : public QQuickItem
 {
     Q_OBJECT
@@ -20,8 +20,7 @@ class PageItem : public QQuickItem
     Q_PROPERTY(Status status READ status NOTIFY statusChanged)
 
 public:
-    enum Status
-    {
+    enum Status {
         /// Nothing to see yet.
         Drawing,
         /// A picture is shown; a sharper one may be on its way.

@@ -33,8 +33,9 @@ public:
     /// Whether the file was damaged, so that something may be missing.
     bool isRepaired() const;
 
-    /// A picture of a page, counted from 0, that fills `pixels`, in which it may be coarser: see renderedSize(). Null when the
-    /// page cannot be drawn, when `isUnwanted`, which is asked now and then, says so, or when it takes too long.
+    /// A picture of a page, counted from 0, that fills `pixels`, in which it may be coarser: see renderedSize(). Null
+    /// when the page cannot be drawn, when `isUnwanted`, which is asked now and then, says so, or when it takes too
+    /// long.
     QImage render(int page, QSize pixels, const std::function<bool()>& isUnwanted) const;
 
     /// The size that a picture gets which is to fill `pixels`: smaller where that would take too much memory.

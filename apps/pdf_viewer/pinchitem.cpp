@@ -20,8 +20,8 @@ constexpr qreal factorOfNotch = 1.25;
 
 bool isTouch(const QEvent* event)
 {
-    return event->type() == QEvent::TouchBegin || event->type() == QEvent::TouchUpdate || event->type() == QEvent::TouchEnd
-            || event->type() == QEvent::TouchCancel;
+    return event->type() == QEvent::TouchBegin || event->type() == QEvent::TouchUpdate
+            || event->type() == QEvent::TouchEnd || event->type() == QEvent::TouchCancel;
 }
 
 } // namespace

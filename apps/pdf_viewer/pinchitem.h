@@ -9,9 +9,9 @@ class QTouchEvent;
 
 namespace uiutils::viewer {
 
-/// An area in which two fingers pinch, over whatever else takes touches there. It sees touches before all items of its window
-/// do: lists take a finger that moves and do not give it back when a second one comes. A wheel that turns while Ctrl is held is a
-/// pinch too.
+/// An area in which two fingers pinch, over whatever else takes touches there. It sees touches before all items of its
+/// window do: lists take a finger that moves and do not give it back when a second one comes. A wheel that turns while
+/// Ctrl is held is a pinch too.
 class PinchItem : public QQuickItem
 {
     Q_OBJECT
@@ -24,8 +24,8 @@ public:
 Q_SIGNALS:
     /// Two fingers are down; other items hear no more of them.
     void started();
-    /// The fingers have moved: `factor` says how far they are apart, 1 being the distance at the start, and `center` is the
-    /// place between them in this item.
+    /// The fingers have moved: `factor` says how far they are apart, 1 being the distance at the start, and `center` is
+    /// the place between them in this item.
     void pinched(qreal factor, const QPointF& center);
 
 protected:

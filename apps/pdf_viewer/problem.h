@@ -5,8 +5,7 @@
 namespace uiutils::viewer {
 
 /// Why a file cannot be shown.
-enum class Problem
-{
+enum class Problem {
     None,
     Missing,
     NoFile,

@@ -79,7 +79,8 @@ void ViewerDocument::open(const QString& path)
             opened.isRepaired = (*pages)->isRepaired();
         }
         // The thread ends before this object does.
-        QMetaObject::invokeMethod(this, [this, opened] { take(opened); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+                this, [this, opened] { take(opened); }, Qt::QueuedConnection);
     });
 }
 
@@ -103,10 +104,13 @@ RenderJobPointer ViewerDocument::render(int page, QSize pixels, QObject* context
         if (isUnwanted() || !*pages)
             return;
         const QImage image = drawn(**pages, page, pixels, isUnwanted);
-        QMetaObject::invokeMethod(this, [guard, receive, job, image] {
-            if (guard && !job->isUnwanted)
-                receive(image);
-        }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+                this,
+                [guard, receive, job, image] {
+                    if (guard && !job->isUnwanted)
+                        receive(image);
+                },
+                Qt::QueuedConnection);
     });
     return job;
 }

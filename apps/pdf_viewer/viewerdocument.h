@@ -17,8 +17,8 @@ namespace uiutils::viewer {
 
 class PdfPages;
 
-/// The file on the screen. Reading and drawing go on in a thread of its own, so that the screen stays alive; all that is told
-/// is told in the thread of this object.
+/// The file on the screen. Reading and drawing go on in a thread of its own, so that the screen stays alive; all that
+/// is told is told in the thread of this object.
 class ViewerDocument : public QObject
 {
     Q_OBJECT
@@ -31,8 +31,7 @@ class ViewerDocument : public QObject
     Q_PROPERTY(bool isRepaired READ isRepaired NOTIFY stateChanged)
 
 public:
-    enum State
-    {
+    enum State {
         Loading,
         Ready,
         Failed,
@@ -47,8 +46,8 @@ public:
 
     /// Starts to read a file. Once for each object.
     void open(const QString& path);
-    /// Ends the thread, or gives up after `patienceMs`: false while a file holds it up, and then this object must not be
-    /// destroyed.
+    /// Ends the thread, or gives up after `patienceMs`: false while a file holds it up, and then this object must not
+    /// be destroyed.
     bool stop(int patienceMs);
 
     State state() const { return m_state; }
@@ -64,8 +63,8 @@ public:
     /// Size of a page, counted from 0, in points; empty when there is no such page.
     Q_INVOKABLE QSizeF pageSize(int page) const { return m_sizes.value(page); }
 
-    /// Has a page drawn and hands the picture, or a null one, to `receive` if `context` is still there and the job still
-    /// wanted.
+    /// Has a page drawn and hands the picture, or a null one, to `receive` if `context` is still there and the job
+    /// still wanted.
     RenderJobPointer render(int page, QSize pixels, QObject* context, const Receiver& receive);
 
 Q_SIGNALS:

@@ -36,7 +36,7 @@ void print(const QString& text)
 /// Characters of a terminal's line, 0 when there is no terminal that can go back on its line.
 int terminalWidth()
 {
-    winsize size{};
+    winsize size {};
     if (::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) != 0 || qgetenv("TERM") == "dumb")
         return 0;
     return size.ws_col > 0 ? size.ws_col : 80;

@@ -30,8 +30,7 @@ const QJsonObject& documentSchema()
 {
     static const QJsonObject schema = [] {
         QFile file(QStringLiteral(":/uiutils/reportconvert/report-document.schema.json"));
-        return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object()
-                                              : QJsonObject();
+        return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
     }();
     return schema;
 }
@@ -50,12 +49,10 @@ QString advice(const QString& path)
 {
     const QFileInfo folder(QFileInfo(path).path());
     if (!folder.exists())
-        return tr("The folder %1 does not exist: make it, or name another with --output.")
-                .arg(folder.filePath());
+        return tr("The folder %1 does not exist: make it, or name another with --output.").arg(folder.filePath());
     if (!folder.isDir())
         return tr("%1 is no folder: name another with --output.").arg(folder.filePath());
-    return tr(
-            "Check the free space there and that you may write there, or name another folder with --output.");
+    return tr("Check the free space there and that you may write there, or name another folder with --output.");
 }
 
 } // namespace
@@ -125,8 +122,7 @@ bool Conversion::read(const Job& job, ReportTemplate& report)
 
 bool Conversion::readStandardInput(const Job& job, ReportTemplate& report)
 {
-    const auto failNamed
-            = [&](const QString& reason) { return fail(job.name() + QStringLiteral(": ") + reason); };
+    const auto failNamed = [&](const QString& reason) { return fail(job.name() + QStringLiteral(": ") + reason); };
     // By way of a file, so that the one reader of documents with its limits reads this one too.
     QTemporaryFile copy(m_scratchFolder + QStringLiteral("/input"));
     if (!copy.open())
@@ -154,8 +150,8 @@ bool Conversion::hasAcceptableLayout(const Job& job, const ReportTemplate& repor
 void Conversion::write(const Target& target, const QByteArray& bytes)
 {
     QString error;
-    const bool isWritten = target.path.isEmpty() ? writeStandardOutput(bytes, &error)
-                                                 : writeFile(target.path, bytes, &error);
+    const bool isWritten
+            = target.path.isEmpty() ? writeStandardOutput(bytes, &error) : writeFile(target.path, bytes, &error);
     if (isWritten)
         ++m_written;
     else if (!error.isEmpty())

@@ -126,7 +126,7 @@ const Format formatTable[] = {
                 QT_TRANSLATE_NOOP("Formats", "80 columns, for a mail or a printer"), true, false, false, textOf},
 };
 
-template <typename Predicate> const Format* findFormat(Predicate isWanted)
+template<typename Predicate> const Format* findFormat(Predicate isWanted)
 {
     const auto it = std::find_if(std::begin(formatTable), std::end(formatTable), isWanted);
     return it == std::end(formatTable) ? nullptr : it;

@@ -50,8 +50,8 @@ void warnOfMissingIcons(const Plan& plan)
 {
     if (!plan.writes(&Format::isPage) || QFile::exists(uiutils::onDisk(uiutils::paths::passIcon)))
         return;
-    say(QCoreApplication::translate("main",
-            "warning: pages will show no status icons, because UIUTILS_ROOT names %1, where there are none.")
+    say(QCoreApplication::translate(
+            "main", "warning: pages will show no status icons, because UIUTILS_ROOT names %1, where there are none.")
                     .arg(qEnvironmentVariable("UIUTILS_ROOT")));
 }
 

@@ -136,8 +136,7 @@ Options readOptions(const QStringList& arguments)
 {
     QCommandLineParser parser;
     const auto named = [](const char* shortName, const char* longName, const char* value = nullptr) {
-        return QCommandLineOption(
-                {QLatin1String(shortName), QLatin1String(longName)}, {}, QLatin1String(value));
+        return QCommandLineOption({QLatin1String(shortName), QLatin1String(longName)}, {}, QLatin1String(value));
     };
     const QCommandLineOption help = named("h", "help");
     const QCommandLineOption version = named("v", "version");
@@ -157,8 +156,7 @@ Options readOptions(const QStringList& arguments)
     if (parser.isSet(help))
         return answered(helpText());
     if (parser.isSet(version))
-        return answered(
-                QStringLiteral("reportconvert (uiutils) %1\n").arg(QCoreApplication::applicationVersion()));
+        return answered(QStringLiteral("reportconvert (uiutils) %1\n").arg(QCoreApplication::applicationVersion()));
 
     Options options;
     options.documents = parser.positionalArguments();
@@ -186,8 +184,8 @@ Options readOptions(const QStringList& arguments)
         return misused(tr("--logo needs the name of a picture file."));
     options.page.logoFile = parser.value(logo);
     if (parser.isSet(orientation) && !isOrientation(parser.value(orientation)))
-        return misused(tr("There is no orientation \"%1\", only portrait and landscape.")
-                               .arg(parser.value(orientation)));
+        return misused(
+                tr("There is no orientation \"%1\", only portrait and landscape.").arg(parser.value(orientation)));
     options.page.orientation = parser.value(orientation);
     options.page.unitId = parser.value(unitId);
     options.isStrict = parser.isSet(strict);

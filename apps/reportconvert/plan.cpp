@@ -47,9 +47,7 @@ using Identity = std::pair<dev_t, ino_t>;
 
 std::optional<Identity> identityOf(const QString& document)
 {
-    struct stat status
-    {
-    };
+    struct stat status = {};
     const int result = isStandardStream(document) ? ::fstat(STDIN_FILENO, &status)
                                                   : ::stat(QFile::encodeName(document).constData(), &status);
     if (result != 0 || !S_ISREG(status.st_mode))
@@ -104,10 +102,10 @@ Plan intoFolder(const Options& options)
 {
     Plan plan;
     for (const QString& document : options.documents) {
-        Job job{document, {}};
+        Job job {document, {}};
         for (const Format* format : options.formats) {
             const QString file = baseName(document) + QLatin1Char('.') + format->suffix;
-            job.targets += Target{format, QDir::cleanPath(QDir(options.output).filePath(file))};
+            job.targets += Target {format, QDir::cleanPath(QDir(options.output).filePath(file))};
         }
         plan.jobs += job;
     }
@@ -128,8 +126,8 @@ Plan intoOne(const Options& options)
                                   .arg(options.output));
     }
     Plan plan;
-    const Target target{options.formats.constFirst(), toStandardOutput ? QString() : options.output};
-    plan.jobs += Job{options.documents.constFirst(), {target}};
+    const Target target {options.formats.constFirst(), toStandardOutput ? QString() : options.output};
+    plan.jobs += Job {options.documents.constFirst(), {target}};
     return plan;
 }
 
@@ -163,8 +161,8 @@ int Plan::targetCount() const
 bool Plan::writes(bool Format::*flag) const
 {
     return std::any_of(jobs.begin(), jobs.end(), [flag](const Job& job) {
-        return std::any_of(job.targets.begin(), job.targets.end(),
-                [flag](const Target& target) { return target.format->*flag; });
+        return std::any_of(
+                job.targets.begin(), job.targets.end(), [flag](const Target& target) { return target.format->*flag; });
     });
 }
 

@@ -17,9 +17,7 @@ int signalDescriptor = -1;
 /// nohup and background jobs ignore some: held back, such a signal would become pending all the same.
 bool isIgnored(int signal)
 {
-    struct sigaction action
-    {
-    };
+    struct sigaction action = {};
     return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }
 

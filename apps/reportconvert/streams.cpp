@@ -54,7 +54,7 @@ void holdStandardStreams()
 
 bool copyStandardInput(QIODevice& target, QString* error)
 {
-    std::array<char, 65536> buffer{};
+    std::array<char, 65536> buffer {};
     qint64 total = 0;
     while (waitFor(STDIN_FILENO, POLLIN)) {
         const ssize_t count = ::read(STDIN_FILENO, buffer.data(), buffer.size());
@@ -84,8 +84,8 @@ bool writeStandardOutput(const QByteArray& bytes, QString* error)
             return false;
         // A pipe that is ready takes this much at once, so that no write blocks where a signal could not end
         // it.
-        const ssize_t count = ::write(
-                STDOUT_FILENO, bytes.constData() + done, size_t(qMin<qint64>(PIPE_BUF, bytes.size() - done)));
+        const ssize_t count
+                = ::write(STDOUT_FILENO, bytes.constData() + done, size_t(qMin<qint64>(PIPE_BUF, bytes.size() - done)));
         if (count < 0 && isPassing(errno))
             continue;
         if (count < 0)

@@ -49,9 +49,8 @@ int show(apps::Instrument& instrument, const Options& options)
     if (options.picture.isEmpty())
         return QCoreApplication::exec();
 
-    qmltool::takePicture(page.window(), options.picture, [](const QString& error) {
-        QCoreApplication::exit(error.isEmpty() ? exitDone : complain(error));
-    });
+    qmltool::takePicture(page.window(), options.picture,
+            [](const QString& error) { QCoreApplication::exit(error.isEmpty() ? exitDone : complain(error)); });
     return QCoreApplication::exec();
 }
 

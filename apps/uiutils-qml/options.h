@@ -8,8 +8,7 @@ namespace uiutils::qmltool {
 /// What the command line asks for.
 struct Options
 {
-    enum Outcome
-    {
+    enum Outcome {
         Show,
         List,
         /// `message` is for standard output, and the program is done.

@@ -48,7 +48,8 @@ void grab(QQuickWindow* window, const QString& file, const std::function<void(co
     if (!result)
         return done(tr("The page gave no picture for %1.").arg(file));
     // Queued, because the result, which this holds, must outlive its own signal.
-    QObject::connect(result.data(), &QQuickItemGrabResult::ready, window,
+    QObject::connect(
+            result.data(), &QQuickItemGrabResult::ready, window,
             [result, file, done] { done(writePicture(result->image(), file)); }, Qt::QueuedConnection);
 }
 
@@ -98,10 +99,13 @@ void takePicture(QQuickWindow* window, const QString& file, const std::function<
 {
     // Before the first frame the window has no size.
     auto first = std::make_shared<QMetaObject::Connection>();
-    *first = QObject::connect(window, &QQuickWindow::frameSwapped, window, [window, file, done, first] {
-        QObject::disconnect(*first);
-        grab(window, file, done);
-    }, Qt::QueuedConnection);
+    *first = QObject::connect(
+            window, &QQuickWindow::frameSwapped, window,
+            [window, file, done, first] {
+                QObject::disconnect(*first);
+                grab(window, file, done);
+            },
+            Qt::QueuedConnection);
     // In which a window that is drawn at all has been drawn.
     constexpr int patienceMs = 20000;
     QTimer::singleShot(patienceMs, window, [file, done] {

@@ -35,7 +35,8 @@ private:
     QString m_error;
 };
 
-/// Takes a picture of the window once it is drawn, writes it as PNG and calls `done` with what went wrong, or an empty text.
+/// Takes a picture of the window once it is drawn, writes it as PNG and calls `done` with what went wrong, or an empty
+/// text.
 void takePicture(QQuickWindow* window, const QString& file, const std::function<void(const QString&)>& done);
 
 } // namespace uiutils::qmltool

@@ -203,7 +203,7 @@ private Q_SLOTS:
         QTemporaryDir dir;
         const QString path = dir.filePath(QStringLiteral("report.html"));
         const auto modeOf = [](const QString& file) {
-            struct stat info {};
+            struct stat info = {};
             return ::lstat(QFile::encodeName(file).constData(), &info) == 0 ? int(info.st_mode & 07777) : -1;
         };
         const mode_t umaskBefore = ::umask(027);

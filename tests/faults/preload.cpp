@@ -38,7 +38,7 @@ bool readOrder(Order* order)
 /// A file with a name: others are memory. Files that are read are closed by the loader as well, which calls nothing of this.
 bool isWrittenFile(int fd)
 {
-    struct stat status {};
+    struct stat status = {};
     return ::fstat(fd, &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink > 0
             && (::fcntl(fd, F_GETFL) & O_ACCMODE) != O_RDONLY;
 }

@@ -323,7 +323,7 @@ private Q_SLOTS:
     void room()
     {
         FileUtils files;
-        struct statvfs drive {};
+        struct statvfs drive = {};
         QCOMPARE(::statvfs(QFile::encodeName(m_root.path()).constData(), &drive), 0);
         if (drive.f_bavail > 0)
             QVERIFY(files.checkDriveSpaceForFile(qint64(1), "/cust/public/not/there/yet/a"));
@@ -348,7 +348,7 @@ private Q_SLOTS:
         if (::mount("none", mountPoint.constData(), "tmpfs", 0, "size=256k") != 0)
             QSKIP("Only those who may mount a drive can fill one.");
         const auto unmount = qScopeGuard([&] { ::umount2(mountPoint.constData(), MNT_DETACH); });
-        struct statvfs drive {};
+        struct statvfs drive = {};
         QCOMPARE(::statvfs(mountPoint.constData(), &drive), 0);
         const qint64 size = qint64(drive.f_bsize);
         const qint64 available = qint64(drive.f_bavail);

@@ -239,7 +239,7 @@ private Q_SLOTS:
             const QStringList names = QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
             return std::any_of(names.cbegin(), names.cend(), [&](const QString& name) {
                 char target[64] {};
-                struct stat file {};
+                struct stat file = {};
                 const QByteArray link = (folder + name).toLocal8Bit();
                 return ::readlink(link, target, sizeof target - 1) > 0 && QByteArray(target).startsWith("/memfd:uiutils")
                         && ::stat(link, &file) == 0 && file.st_size > 0;

@@ -31,8 +31,8 @@ int openToRead(const QString& path, int flags)
     return fd;
 }
 
-/// Makes the name of `member`, which was given to it in its folder just now, survive a power cut. File systems that cannot
-/// sync keep it by other means, or not at all.
+/// Makes the name of `member`, which was given to it in its folder just now, survive a power cut. File systems that
+/// cannot sync keep it by other means, or not at all.
 bool syncNameOf(const QString& member)
 {
     int fd = openToRead(QFileInfo(member).path() + QLatin1Char('/'), O_DIRECTORY);
@@ -74,8 +74,8 @@ bool writeFileDurably(const QString& path, const QByteArray& contents, QString* 
     removeStaleTemporaries(QFileInfo(path).path());
     TemporarySibling file(path, temporary);
     if (!file.isOpen()) {
-        message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot create a file in the folder of %1: %2"), path,
-                systemError());
+        message = failure(
+                QT_TRANSLATE_NOOP("DurableFile", "Cannot create a file in the folder of %1: %2"), path, systemError());
         return false;
     }
     if (!file.write(contents) || !file.sync()) {
@@ -93,7 +93,8 @@ bool writeFileDurably(const QString& path, const QByteArray& contents, QString* 
     }
     if (syncNameOf(path))
         return true;
-    message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot make sure that %1 outlives a power cut: %2"), path, systemError());
+    message = failure(
+            QT_TRANSLATE_NOOP("DurableFile", "Cannot make sure that %1 outlives a power cut: %2"), path, systemError());
     return false;
 }
 

@@ -11,19 +11,19 @@ namespace uiutils {
 /// its permissions on, where the file system knows any; a new one gets what the umask leaves.
 ///
 /// The new file has a name of its own that nobody else has, or `temporary`, a path in the same folder; a file that lies
-/// there goes, and is an error while another writes it. What an earlier call has left in the folder, when its process was
-/// killed or the power went, goes first.
+/// there goes, and is an error while another writes it. What an earlier call has left in the folder, when its process
+/// was killed or the power went, goes first.
 ///
-/// Returns false when any step failed or the path holds a NUL character, with nothing left beside the target; `error`, if
-/// given, says which file, which step and why. The target is then untouched, but for the last steps: it holds all of
-/// `contents` when the system has trouble closing it, and when the folder cannot be synced, which may forget that after a
-/// power cut.
+/// Returns false when any step failed or the path holds a NUL character, with nothing left beside the target; `error`,
+/// if given, says which file, which step and why. The target is then untouched, but for the last steps: it holds all of
+/// `contents` when the system has trouble closing it, and when the folder cannot be synced, which may forget that after
+/// a power cut.
 [[nodiscard]] bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error = nullptr,
         const QString& temporary = QString());
 
-/// Makes the folder, and those above it that are missing, so that a power cut does not take it away together with what is
-/// written in it. False when there is none then: one that cannot be synced is removed again, so that no file in it is
-/// told to be safe.
+/// Makes the folder, and those above it that are missing, so that a power cut does not take it away together with what
+/// is written in it. False when there is none then: one that cannot be synced is removed again, so that no file in it
+/// is told to be safe.
 bool makeFolderDurably(const QString& path);
 
 } // namespace uiutils

@@ -74,8 +74,8 @@ DynamicObject::DynamicObject(const char* className, const QVector<QByteArray>& n
     : QObject(parent)
     , m_layout(std::make_unique<Layout>(className, names, type))
 {
-    // QML keeps what it learns of a meta-object under its address, for ever. What is learnt of this one must go with it,
-    // because another one may lie at its address later.
+    // QML keeps what it learns of a meta-object under its address, for ever. What is learnt of this one must go with
+    // it, because another one may lie at its address later.
     QQmlData* data = QQmlData::get(this, true);
     data->propertyCache = new QQmlPropertyCache(m_layout.get());
 }

@@ -5,8 +5,8 @@
 
 namespace uiutils {
 
-/// Keeps other processes, and other locks of this one, out of a folder's files for as long as it lives. Whoever looks at
-/// the files without a lock is not kept out. Nothing is left behind, however the process ends.
+/// Keeps other processes, and other locks of this one, out of a folder's files for as long as it lives. Whoever looks
+/// at the files without a lock is not kept out. Nothing is left behind, however the process ends.
 class FolderLock
 {
 public:

@@ -5,8 +5,8 @@
 
 namespace uiutils {
 
-/// A file in memory, for those who can only write to a file that has a name. No disk can be too full for it, and nothing
-/// of it is left when the process ends.
+/// A file in memory, for those who can only write to a file that has a name. No disk can be too full for it, and
+/// nothing of it is left when the process ends.
 class MemoryFile
 {
 public:

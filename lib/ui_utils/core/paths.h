@@ -43,8 +43,8 @@ namespace uiutils {
 /// The place on disk of an instrument path. Paths below /cust, /mnt/usb and /base and temporary plot images are
 /// put below the folder that the environment variable UIUTILS_ROOT names; every other path, and every path while
 /// the variable is empty or unset, comes back unchanged. What a path means counts, not how it is spelt: "//cust" and
-/// "/tmp/../cust" are "/cust", and none is put anywhere but below the folder, which "/cust/../.." would leave. Links are
-/// not looked into.
+/// "/tmp/../cust" are "/cust", and none is put anywhere but below the folder, which "/cust/../.." would leave. Links
+/// are not looked into.
 ///
 /// Call it only where the disk is touched or a process is started: everything that is shown, stored or signalled
 /// keeps the instrument's form.

@@ -48,7 +48,7 @@ void removeIfStale(const QString& folder, int folderFd, const char* name, Kind k
     const int fd = ::openat(folderFd, name, flags);
     if (fd < 0)
         return;
-    struct stat entry {};
+    struct stat entry = {};
     if (tryLock(fd) && ::fstat(fd, &entry) == 0) {
         if (kind == Kind::Folder)
             QDir(folder + QLatin1Char('/') + QFile::decodeName(name)).removeRecursively();
@@ -70,7 +70,7 @@ bool lockTemporary(int fd)
 {
     if (!tryLock(fd))
         return errno != EWOULDBLOCK;
-    struct stat entry {};
+    struct stat entry = {};
     return ::fstat(fd, &entry) != 0 || entry.st_nlink > 0;
 }
 

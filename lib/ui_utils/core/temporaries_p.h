@@ -3,8 +3,8 @@
 #include <QLatin1String>
 #include <QString>
 
-/// Files and folders that stand beside a target while it is being made. Their makers hold a lock on them, which goes with
-/// the process however that ends: what has none was left behind.
+/// Files and folders that stand beside a target while it is being made. Their makers hold a lock on them, which goes
+/// with the process however that ends: what has none was left behind.
 namespace uiutils {
 
 /// A name in `folder` that nobody else has, with this behind it.

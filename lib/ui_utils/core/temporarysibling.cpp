@@ -34,8 +34,8 @@ void TemporarySibling::createUnderNewName(const QString& folder)
     } while (m_fd < 0 && (errno == EEXIST || errno == EINTR));
 }
 
-/// What lies there was left by a power cut, or is being written: two writers of one name would take each other's half file for
-/// their own. A folder stays, and is an error.
+/// What lies there was left by a power cut, or is being written: two writers of one name would take each other's half
+/// file for their own. A folder stays, and is an error.
 void TemporarySibling::createUnder(const QString& name)
 {
     m_path = name;
@@ -107,7 +107,7 @@ bool TemporarySibling::renameTo(const QString& target)
 /// the file systems of memory sticks know no modes.
 void TemporarySibling::takeModeOf(const QString& target)
 {
-    struct stat old {};
+    struct stat old = {};
     if (::lstat(QFile::encodeName(target).constData(), &old) == 0 && S_ISREG(old.st_mode))
         ::fchmod(m_fd, old.st_mode & 0777);
 }

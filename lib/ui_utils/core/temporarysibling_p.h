@@ -5,8 +5,8 @@
 
 namespace uiutils {
 
-/// A file that did not exist before, in the folder of a target, removed again unless it was renamed to it. What cannot be
-/// done leaves the reason in errno.
+/// A file that did not exist before, in the folder of a target, removed again unless it was renamed to it. What cannot
+/// be done leaves the reason in errno.
 class TemporarySibling
 {
 public:

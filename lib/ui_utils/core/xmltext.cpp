@@ -15,8 +15,7 @@ bool isControl(ushort c)
 bool isSuspicious(QChar character)
 {
     const ushort c = character.unicode();
-    return isControl(c)
-            || (c >= 0xd800 && (c < 0xe000 || c >= 0xfffe));
+    return isControl(c) || (c >= 0xd800 && (c < 0xe000 || c >= 0xfffe));
 }
 
 } // namespace

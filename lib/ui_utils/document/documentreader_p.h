@@ -134,8 +134,8 @@ public:
     /// Calls visit(QString key, QJsonObject row) for each row.
     template<typename Visitor> void forEachRow(Visitor visit) const { forEachChild(keys::rowFamily, visit); }
 
-    /// Calls visit(int column, QJsonObject cell) for each cell that a row has in a column of the table, in the order of the
-    /// columns. It costs what the row holds: a table may claim many more columns than it fills.
+    /// Calls visit(int column, QJsonObject cell) for each cell that a row has in a column of the table, in the order of
+    /// the columns. It costs what the row holds: a table may claim many more columns than it fills.
     template<typename Visitor> void forEachCellOf(const QJsonObject& row, Visitor visit) const
     {
         if (m_columnCount > 2 * row.size())

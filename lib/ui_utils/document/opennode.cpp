@@ -125,8 +125,8 @@ QJsonValue* OpenNode::waitingChild(const QString& key)
         if (number < 0)
             continue;
         QVector<Child>& waiting = m_children[family].waiting;
-        const auto it = std::lower_bound(waiting.begin(), waiting.end(), number,
-                [](const Child& child, int n) { return child.number < n; });
+        const auto it = std::lower_bound(
+                waiting.begin(), waiting.end(), number, [](const Child& child, int n) { return child.number < n; });
         return it != waiting.end() && it->number == number ? &it->value : nullptr;
     }
     return nullptr;

@@ -57,8 +57,8 @@ public:
     Q_INVOKABLE void beginTable(const QString& tag, const QString& title);
     /// Adds a row to the current table: its label and one cell with the text of `val`, the tag and the attributes.
     /// Does nothing when the current node is no table.
-    Q_INVOKABLE void addRow(const QString& tag, const QString& rowLabel, const QVariant& val,
-            const QMap<QString, QVariant>& attrs);
+    Q_INVOKABLE void addRow(
+            const QString& tag, const QString& rowLabel, const QVariant& val, const QMap<QString, QVariant>& attrs);
     /// Closes the current table into its section or report; does nothing when the current node is no table.
     Q_INVOKABLE void endTable();
     /// Closes the current section into its section or report; does nothing when the current node is no section.

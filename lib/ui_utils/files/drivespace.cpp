@@ -26,8 +26,7 @@ qint64 sumOf(qint64 a, qint64 b)
     return sum;
 }
 
-template<typename Unsigned>
-qint64 clamped(Unsigned number)
+template<typename Unsigned> qint64 clamped(Unsigned number)
 {
     return number > Unsigned(most) ? most : qint64(number);
 }
@@ -56,7 +55,7 @@ public:
 
     qint64 blocksOf(const QString& source, const QString& destination)
     {
-        struct stat folder {};
+        struct stat folder = {};
         const QString place = onDisk(source);
         if (::stat(QFile::encodeName(place).constData(), &folder) != 0 || isOnTheWay(folder))
             return 0;
@@ -97,7 +96,7 @@ std::optional<DriveSpace> driveSpaceAt(const QString& path)
     const QString existing = nearestExisting(path);
     if (existing.isEmpty())
         return std::nullopt;
-    struct statvfs drive {};
+    struct statvfs drive = {};
     if (::statvfs(QFile::encodeName(onDisk(existing)).constData(), &drive) != 0 || drive.f_bsize == 0)
         return std::nullopt;
     return DriveSpace {clamped(drive.f_bsize), clamped(drive.f_bavail)};

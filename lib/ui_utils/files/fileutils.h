@@ -64,7 +64,8 @@ public:
     /// Asks whether the report may be overwritten; a compressed PDF is named without ".gz". The value "Filename" is
     /// `real_file_path`.
     void sendNotificationOverwriteReportRequest(QString real_file_path, QMap<QString, QString> optional_args);
-    /// Asks whether the screenshot may be overwritten. The value "Filename" is `real_file_path`, "IconFile" `icon_file`.
+    /// Asks whether the screenshot may be overwritten. The value "Filename" is `real_file_path`, "IconFile"
+    /// `icon_file`.
     void sendNotificationOverwriteScreenshotRequest(
             QString real_file_path, QString icon_file, QMap<QString, QString> optional_args);
 

@@ -64,8 +64,8 @@ QString joined(const QVector<double>& numbers, int digits = 15)
     return texts.join(QLatin1Char(','));
 }
 
-/// A literal such as "1,2" or "10:20" in a QML file arrives as a point or a time where any value is taken. A form wants what
-/// was written.
+/// A literal such as "1,2" or "10:20" in a QML file arrives as a point or a time where any value is taken. A form wants
+/// what was written.
 QVariant asWritten(const QVariant& value)
 {
     switch (value.userType()) {
@@ -395,7 +395,8 @@ void UiData::setValue(QVariant value)
     }
     holdValue(vectorText(value).left(longestVectorText));
     // An empty text is one empty element, an empty list none.
-    if (value.type() != QVariant::String && value.toList().isEmpty() && getValue().toString().isEmpty() && value.isValid())
+    if (value.type() != QVariant::String && value.toList().isEmpty() && getValue().toString().isEmpty()
+            && value.isValid())
         m_elements.clear();
     else
         updateVectorValue();

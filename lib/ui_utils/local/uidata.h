@@ -14,11 +14,12 @@
 /// A data item that no service publishes: a form's field, with the face of a service item.
 ///
 /// Everything but the value is kept as an attribute by name; the properties are views of those. Items that QML declares
-/// enter the shared UiDataContainer when they are complete, and go with the object that declared them; with a register id
-/// they are known by it everywhere in the engine. C++ code sets items up with setAttributes() and setEnums().
+/// enter the shared UiDataContainer when they are complete, and go with the object that declared them; with a register
+/// id they are known by it everywhere in the engine. C++ code sets items up with setAttributes() and setEnums().
 ///
-/// Setters emit on every write, also of what is there already, but for `mandatory` and `valueOk`, which emit changes of the
-/// effective flag, and `persistent`, which never does. Setting attributes as a whole emits validatorChanged() alone.
+/// Setters emit on every write, also of what is there already, but for `mandatory` and `valueOk`, which emit changes of
+/// the effective flag, and `persistent`, which never does. Setting attributes as a whole emits validatorChanged()
+/// alone.
 class UIUTILS_EXPORT UiData : public KivData, public QQmlParserStatus
 {
     Q_OBJECT
@@ -110,7 +111,8 @@ public:
 
     // --- The value ---
 
-    /// Takes any value, read-only or not: the code that owns a form sets its fields. The text of a vector is cut at 1 MiB.
+    /// Takes any value, read-only or not: the code that owns a form sets its fields. The text of a vector is cut at 1
+    /// MiB.
     void setValue(QVariant value) override;
     /// Sets the elements of a vector.
     void setValue(QVector<QVariant> elements);

@@ -9,13 +9,13 @@
 
 class UiData;
 
-/// Local data items that belong together: one answer whether all of them may be used, one signal when any of them changes,
-/// and the place where persistent items find their stored values.
+/// Local data items that belong together: one answer whether all of them may be used, one signal when any of them
+/// changes, and the place where persistent items find their stored values.
 class UIUTILS_EXPORT UiDataContainer : public QObject
 {
     Q_OBJECT
-    /// Whether every mandatory item's value is acceptable. False until the first item comes in. Worked out anew when an item
-    /// comes in and when a value changes, not when an item's `valueOk` or `mandatory` alone does.
+    /// Whether every mandatory item's value is acceptable. False until the first item comes in. Worked out anew when an
+    /// item comes in and when a value changes, not when an item's `valueOk` or `mandatory` alone does.
     Q_PROPERTY(bool allItemsOk READ getAllItemsOk NOTIFY allItemsOkChanged)
 
 public:

@@ -11,8 +11,8 @@
 /// The choices of a local data item, in their order.
 ///
 /// The list owns no choice; one that is destroyed leaves it. Choices come in silently until componentComplete(), which
-/// announces them at once; from then on every further one emits itemsChanged(). A choice whose applicability changes always
-/// does.
+/// announces them at once; from then on every further one emits itemsChanged(). A choice whose applicability changes
+/// always does.
 class UIUTILS_EXPORT UiDataEnums : public QObject, public QQmlParserStatus
 {
     Q_OBJECT

@@ -11,7 +11,8 @@ class UIUTILS_EXPORT UiEnumType : public QObject
     Q_OBJECT
     /// The text that the user reads. Every write emits labelChanged().
     Q_PROPERTY(QString label READ getLabel WRITE setLabel NOTIFY labelChanged)
-    /// The key of the choice in the item's `enums`. Meant to be set once, where the choice is declared: writing emits nothing.
+    /// The key of the choice in the item's `enums`. Meant to be set once, where the choice is declared: writing emits
+    /// nothing.
     Q_PROPERTY(QString name READ getName WRITE setName NOTIFY nameChanged)
     /// The value that the item takes with this choice. Every write emits valueChanged().
     Q_PROPERTY(int value READ getValue WRITE setValue NOTIFY valueChanged)

@@ -30,11 +30,10 @@ QObject* userData(QQmlEngine*, QJSEngine*)
     return UserData::getInstance();
 }
 
-template<typename Type>
-void registerOfManifest(const char* uri, const char* name)
+template<typename Type> void registerOfManifest(const char* uri, const char* name)
 {
-    qmlRegisterUncreatableType<Type>(uri, 1, 0, name,
-            QStringLiteral("%1 comes from the manifest of a service.").arg(QLatin1String(name)));
+    qmlRegisterUncreatableType<Type>(
+            uri, 1, 0, name, QStringLiteral("%1 comes from the manifest of a service.").arg(QLatin1String(name)));
 }
 
 void registerServiceTypes(const char* uri)
@@ -44,8 +43,8 @@ void registerServiceTypes(const char* uri)
     registerOfManifest<KivListAggregateData>(uri, "KivListAggregateData");
     registerOfManifest<QMLAggregate>(uri, "QMLAggregate");
     registerOfManifest<QMLListAggregate>(uri, "QMLListAggregate");
-    qmlRegisterUncreatableType<Manifest>(
-            uri, 1, 0, "Manifest", QStringLiteral("A manifest is made by the application, which has the service's client."));
+    qmlRegisterUncreatableType<Manifest>(uri, 1, 0, "Manifest",
+            QStringLiteral("A manifest is made by the application, which has the service's client."));
     qmlRegisterUncreatableType<KIVClientInterface>(
             uri, 1, 0, "KIVClientInterface", QStringLiteral("Clients come from the platform."));
     qmlRegisterUncreatableType<BaseFormatter>(

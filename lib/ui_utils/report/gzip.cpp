@@ -18,7 +18,7 @@ class ChildrenReport
 public:
     ChildrenReport()
     {
-        struct sigaction standard {};
+        struct sigaction standard = {};
         standard.sa_handler = SIG_DFL;
         sigemptyset(&standard.sa_mask);
         const bool isKnown = ::sigaction(SIGCHLD, nullptr, &m_before) == 0;
@@ -33,7 +33,7 @@ public:
     Q_DISABLE_COPY_MOVE(ChildrenReport)
 
 private:
-    struct sigaction m_before {};
+    struct sigaction m_before = {};
     bool m_changed = false;
 };
 

@@ -107,8 +107,8 @@ bool isTold(const Lines& lines)
     return !item || item->getValue().toStringList() == textsOf(lines);
 }
 
-/// After the lock is given back, for those who hear of it may change the list in their turn. The last who tells has told
-/// what stands there, whichever order the tellers come in.
+/// After the lock is given back, for those who hear of it may change the list in their turn. The last who tells has
+/// told what stands there, whichever order the tellers come in.
 void tellBaseManager()
 {
     KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
@@ -146,8 +146,8 @@ bool edit(const Change& change, QString* error)
     return true;
 }
 
-/// Whether the record's line stands for more than the report that leaves the list: for a JSON report of that name, or for
-/// reports of other formats that are still listed.
+/// Whether the record's line stands for more than the report that leaves the list: for a JSON report of that name, or
+/// for reports of other formats that are still listed.
 bool isNeeded(const QString& record, const QString& report, const Lines& lines)
 {
     if (record == report)
@@ -174,7 +174,10 @@ bool isOneLine(const QString& path, QString* error)
 bool addToNoSyncList(const QString& path, QString* error)
 {
     return isOneLine(path, error)
-            && edit([&](const Lines& lines) { return withoutDuplicates(lines + Lines {path.toUtf8(), recordOf(path).toUtf8()}); },
+            && edit(
+                    [&](const Lines& lines) {
+                        return withoutDuplicates(lines + Lines {path.toUtf8(), recordOf(path).toUtf8()});
+                    },
                     error);
 }
 

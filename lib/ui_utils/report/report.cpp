@@ -422,7 +422,7 @@ QString Report::proposedFileName()
     return uiutils::proposedReportName(environmentText("PLOV_SHORTLABEL"), QDateTime::currentDateTime());
 }
 
-void Report::setCustomDefaultReportName(const QString&) {}
+void Report::setCustomDefaultReportName(const QString&) { }
 
 QString Report::cannotGenerateReportMessage()
 {
@@ -468,14 +468,14 @@ void Report::setCdmTestTypeAndLabel()
 
 // --- Hooks ---
 
-void Report::settingsLoaded() {}
-void Report::saveStarted(const QString&) {}
-void Report::prepareDocument() {}
-void Report::reportWritten(const QString&) {}
-void Report::overwriteAsked(const QString&) {}
-void Report::overwriteDeclined(const QString&) {}
-void Report::saveSucceeded(const QString&) {}
-void Report::saveFailed(const QString&) {}
+void Report::settingsLoaded() { }
+void Report::saveStarted(const QString&) { }
+void Report::prepareDocument() { }
+void Report::reportWritten(const QString&) { }
+void Report::overwriteAsked(const QString&) { }
+void Report::overwriteDeclined(const QString&) { }
+void Report::saveSucceeded(const QString&) { }
+void Report::saveFailed(const QString&) { }
 bool Report::keepsReportName()
 {
     return true;

@@ -81,12 +81,13 @@ class UIUTILS_EXPORT Report : public QObject
     Q_PROPERTY(bool notifiesTray READ getNotifiesTray WRITE setNotifiesTray)
     /// Pictures of the screen that belong to the report.
     Q_PROPERTY(QStringList screenshotList READ getScreenshotList WRITE setScreenshotList NOTIFY screenshotListChanged)
-    /// Whether a save writes now, and how much of it is written, 0 to 1: a PDF page by page, all formats in equal shares.
+    /// Whether a save writes now, and how much of it is written, 0 to 1: a PDF page by page, all formats in equal
+    /// shares.
     Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
     Q_PROPERTY(double progress READ getProgress NOTIFY progressChanged)
     /// Whether the page lives on while a report is saved: save() then handles events between pages and formats, so that
-    /// the page can show the progress and call cancel(). It has to keep users from everything else for as long as `saving`
-    /// is true, as SaveProgress of UiUtils.Controls does, and must not go itself. False at first.
+    /// the page can show the progress and call cancel(). It has to keep users from everything else for as long as
+    /// `saving` is true, as SaveProgress of UiUtils.Controls does, and must not go itself. False at first.
     Q_PROPERTY(bool interactive READ isInteractive WRITE setInteractive NOTIFY interactiveChanged)
 
 public:
@@ -262,8 +263,8 @@ protected:
     virtual void saveFailed(const QString& name);
 
     /// Called for each report that a save has written, once it is safe: `format` is "PDF", "XML" and so on. The default
-    /// writes its metadata record, which tells of the work order and of the job. A record that cannot be written is told
-    /// to the log alone.
+    /// writes its metadata record, which tells of the work order and of the job. A record that cannot be written is
+    /// told to the log alone.
     virtual void writeMetadata(const QString& path, const QString& format);
     /// Whether what the active job needs is there, its ID; asked before a report is attached to it or tells of it.
     virtual bool ensureValidJobData();
@@ -339,8 +340,7 @@ private:
     void tellFolder();
     bool readTemplate(const QString& path);
     QString ownOrTemplate(const QString& own, const char* key) const;
-    template<typename Writer>
-    void handOnSwitches(Writer& writer) const;
+    template<typename Writer> void handOnSwitches(Writer& writer) const;
 
     /// Emits notifiers without arguments in their order. False when a slot has deleted the controller.
     bool emitEach(std::initializer_list<void (Report::*)()> notifiers);

@@ -13,8 +13,7 @@
 
 #include <utility>
 
-template<typename Writer>
-void Report::handOnSwitches(Writer& writer) const
+template<typename Writer> void Report::handOnSwitches(Writer& writer) const
 {
     writer.setAttribute(QStringLiteral("includeJobInfo"), m_includeJobInfo);
     writer.setAttribute(QStringLiteral("includeCustomerInfoTop"), m_includeCustomerInfo);

@@ -22,8 +22,9 @@ struct ReportDestinations
     /// As the services say now.
     static ReportDestinations current();
 
-    /// The folder that a report is written into: a stick's, or `internal`. As long as no stick is announced, reports stay
-    /// in the unit; one that is announced and not there is an error of the write, and never a reason to save elsewhere.
+    /// The folder that a report is written into: a stick's, or `internal`. As long as no stick is announced, reports
+    /// stay in the unit; one that is announced and not there is an error of the write, and never a reason to save
+    /// elsewhere.
     QString folder(const QString& internal) const;
     /// The folders that need room: `internal`, the stick's, or both. A stick that is not there has none to ask for.
     QStringList foldersToCheck(const QString& internal) const;
@@ -41,8 +42,8 @@ bool isOnUsb(const QString& path);
 /// Where the copy of a saved report lies on the stick.
 QString usbPath(const QString& path);
 
-/// Whether the drive of an instrument path is there to be written to, now. Without a stick the folder of its mount point
-/// is the unit's, and nobody would find there what was to go with the stick.
+/// Whether the drive of an instrument path is there to be written to, now. Without a stick the folder of its mount
+/// point is the unit's, and nobody would find there what was to go with the stick.
 bool isDriveThere(const QString& path);
 
 } // namespace uiutils

@@ -19,11 +19,12 @@ struct WrittenFile
 ///
 /// A report that cannot be compressed is not lost: it is written to `path` as it is, and the result says so, with `ok`
 /// false. The other form of the same report that an earlier save left stays, because nobody has asked for its end;
-/// nothing else lies beside afterwards. The folder must exist, and a stick must be there: one that was pulled is an error.
+/// nothing else lies beside afterwards. The folder must exist, and a stick must be there: one that was pulled is an
+/// error.
 WrittenFile writeReportFile(const QString& path, const QByteArray& contents, bool compressed);
 
-/// Copies a saved report from one instrument path to another, durably and as it is. False, with the reason in `error` and
-/// what lay at `target` untouched, when that fails.
+/// Copies a saved report from one instrument path to another, durably and as it is. False, with the reason in `error`
+/// and what lay at `target` untouched, when that fails.
 bool copyReportFile(const QString& source, const QString& target, QString* error);
 
 } // namespace uiutils

@@ -21,7 +21,8 @@ const QList<ReportFormat>& allReportFormats()
                     &Report::writeTxtReport, false},
             {REPORT_FORMAT_JSON, QT_TRANSLATE_NOOP("Report", "JSON"), "REPORT_FORMAT_JSON", jsonSuffix,
                     &Report::writeJsonReport, false},
-            {REPORT_FORMAT_ALL, QT_TRANSLATE_NOOP("Report", "ALL"), "REPORT_FORMAT_ALL", QLatin1String(), nullptr, false},
+            {REPORT_FORMAT_ALL, QT_TRANSLATE_NOOP("Report", "ALL"), "REPORT_FORMAT_ALL", QLatin1String(), nullptr,
+                    false},
     };
     return formats;
 }

@@ -47,14 +47,16 @@ void Report::addReportToNoSyncList(const QString& filePath)
 {
     QString error;
     if (!uiutils::addToNoSyncList(filePath, &error))
-        tellSyncError(tr("The cloud may take %1, although it is not to be synced.").arg(m_state->shown(filePath)), error);
+        tellSyncError(
+                tr("The cloud may take %1, although it is not to be synced.").arg(m_state->shown(filePath)), error);
 }
 
 void Report::removeReportFromNoSyncList(const QString& filePath)
 {
     QString error;
     if (!uiutils::removeFromNoSyncList(filePath, &error))
-        tellSyncError(tr("%1 is still on the list of reports that are not synced.").arg(m_state->shown(filePath)), error);
+        tellSyncError(
+                tr("%1 is still on the list of reports that are not synced.").arg(m_state->shown(filePath)), error);
 }
 
 void Report::writeNoSyncListToFile(const QStringList& noSync_fileList)

@@ -11,8 +11,8 @@ namespace uiutils {
 /// Empties the record and makes it that of the report at the instrument path: a result in this format, made at `time`.
 void describeReport(ReportMetadata* record, const QString& path, const QString& format, const QDateTime& time);
 
-/// Adds what the job manager says of the active job, under "jobId", and the kind of test, under "testType" and "testLabel";
-/// what is empty is left out.
+/// Adds what the job manager says of the active job, under "jobId", and the kind of test, under "testType" and
+/// "testLabel"; what is empty is left out.
 void addJobTest(ReportMetadata* record, const QString& testType, const QString& testLabel);
 
 } // namespace uiutils

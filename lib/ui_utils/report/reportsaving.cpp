@@ -114,9 +114,10 @@ bool Report::Save::takeName()
     m_name = m_report->chosenName();
     m_isAll = m_report->isAll();
     m_formats = uiutils::formatsToWrite(m_report->getFormat(), m_report->m_settings.value(uiutils::formatSetting));
-    const auto refused = std::find_if_not(m_formats.cbegin(), m_formats.cend(), [&](const uiutils::ReportFormat* format) {
-        return uiutils::isFileName(m_name, format->suffix, m_report->isCompressionEnabled());
-    });
+    const auto refused
+            = std::find_if_not(m_formats.cbegin(), m_formats.cend(), [&](const uiutils::ReportFormat* format) {
+                  return uiutils::isFileName(m_name, format->suffix, m_report->isCompressionEnabled());
+              });
     if (refused != m_formats.cend()) {
         const QString path = m_report->getReportFilePath() + m_name + (*refused)->suffix;
         m_report->m_state->tellWriteError(path, QStringLiteral("it is no name of a file, or too long"));
@@ -251,7 +252,8 @@ void Report::Save::recordSync()
     }
 }
 
-/// A stick that was not there when the save began, or another one than then, may hold reports that nobody has asked about.
+/// A stick that was not there when the save began, or another one than then, may hold reports that nobody has asked
+/// about.
 bool Report::Save::mayCopy()
 {
     const QStringList& checked = m_report->m_state->checkedPaths;
@@ -306,7 +308,7 @@ bool Report::Save::fail()
     return false;
 }
 
-void Report::startPossibleSave() {}
+void Report::startPossibleSave() { }
 
 bool Report::save(bool overwrite)
 {

@@ -71,7 +71,8 @@ bool isInRange(const UiData& item, double value)
     return (!minimum.isValid() || value >= minimum.toDouble()) && (!maximum.isValid() || value <= maximum.toDouble());
 }
 
-/// Files are edited by hand, come from other versions and lose their end: what a user could not have entered is left out.
+/// Files are edited by hand, come from other versions and lose their end: what a user could not have entered is left
+/// out.
 bool isAllowed(const UiData& item, const QJsonValue& value)
 {
     const QString type = item.getType();

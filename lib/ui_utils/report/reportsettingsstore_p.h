@@ -16,8 +16,8 @@ constexpr qint64 largestReportSettings = 1024 * 1024;
 /// The instrument path of the file for a folder of reports.
 QString reportSettingsPath(const QString& folder);
 
-/// Has each item take its stored value, where that is one that the item allows. A file that cannot be read or understood
-/// leaves all as they are; a line in the log says so.
+/// Has each item take its stored value, where that is one that the item allows. A file that cannot be read or
+/// understood leaves all as they are; a line in the log says so.
 void loadReportSettings(const QString& path, const ReportSettings& items);
 
 /// Writes the values durably, with the folder if there is none. When that fails, what was stored stays; a line in the

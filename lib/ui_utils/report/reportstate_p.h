@@ -28,8 +28,7 @@ inline const QLatin1String syncSetting("reportSync_SS");
 inline const QLatin1String jobInfoSetting("includeJobInfo");
 
 /// Takes the value; false when it was held already.
-template<typename Value>
-bool changes(Value& held, const Value& value)
+template<typename Value> bool changes(Value& held, const Value& value)
 {
     if (held == value)
         return false;
@@ -44,8 +43,8 @@ struct Agreement
     QStringList paths;
 };
 
-/// What one controller keeps for its saves, and what the user is told and asked on its behalf. Questions have a sender of
-/// their own, because raising an error would take a pending one back.
+/// What one controller keeps for its saves, and what the user is told and asked on its behalf. Questions have a sender
+/// of their own, because raising an error would take a pending one back.
 class ReportState
 {
 public:
@@ -55,7 +54,8 @@ public:
 
     /// Where the save that runs goes, whatever is plugged or pulled meanwhile.
     std::optional<ReportDestinations> fixedDestinations;
-    /// What the user is being asked about, and what was answered with yes. None when a writer asks that was called alone.
+    /// What the user is being asked about, and what was answered with yes. None when a writer asks that was called
+    /// alone.
     std::optional<Agreement> asked;
     std::optional<Agreement> agreed;
     /// What the save that runs has looked at before it wrote anything.

@@ -40,8 +40,7 @@ bool Report::writeXmlReport(const QString& path, bool overwrite)
 }
 
 /// A long text takes time to make, in which the controller may go.
-bool Report::writeGenerated(
-        const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite)
+bool Report::writeGenerated(const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite)
 {
     const QPointer<Report> self(this);
     QString text = (this->*generate)();
@@ -159,7 +158,8 @@ void Report::overwriteRejected(KIVNotification* notification)
 
 bool Report::checkForOverwrite(const QString& name, const QString& suffix, bool overwrite)
 {
-    const uiutils::ReportFormats formats = uiutils::formatsToWrite(getFormat(), m_settings.value(uiutils::formatSetting));
+    const uiutils::ReportFormats formats
+            = uiutils::formatsToWrite(getFormat(), m_settings.value(uiutils::formatSetting));
     QStringList suffixes(suffix);
     if (suffix.isEmpty()) {
         suffixes.clear();

@@ -10,8 +10,7 @@ namespace {
 
 struct Token
 {
-    enum Kind
-    {
+    enum Kind {
         Name,
         Literal,
         Operator,
@@ -65,8 +64,8 @@ bool isLiteralName(const QString& name)
     return names.contains(name);
 }
 
-/// All but the objects and `applicable`: items that asked each other for theirs would ask in circles, or so often that the
-/// screen stands still.
+/// All but the objects and `applicable`: items that asked each other for theirs would ask in circles, or so often that
+/// the screen stands still.
 bool isProperty(const QString& name)
 {
     static const QSet<QString> names {QStringLiteral("id"), QStringLiteral("name"), QStringLiteral("type"),
@@ -75,21 +74,21 @@ bool isProperty(const QString& name)
             QStringLiteral("qualityCode"), QStringLiteral("error"), QStringLiteral("valueString"),
             QStringLiteral("valueStringNoUnits"), QStringLiteral("unitString"), QStringLiteral("arraySelection"),
             QStringLiteral("arraySelectionString"), QStringLiteral("enumCount"), QStringLiteral("valueCount"),
-            QStringLiteral("minRange"), QStringLiteral("maxRange"),
-            QStringLiteral("rangeDescription")};
+            QStringLiteral("minRange"), QStringLiteral("maxRange"), QStringLiteral("rangeDescription")};
     return names.contains(name);
 }
 
 bool isAccessor(const QString& name)
 {
-    static const QSet<QString> names {QStringLiteral("variantAt"), QStringLiteral("at"), QStringLiteral("getArrayValue"),
-            QStringLiteral("getProperty"), QStringLiteral("enumLabel"), QStringLiteral("enumLabelForValue"),
-            QStringLiteral("enumValue"), QStringLiteral("enumIndex"), QStringLiteral("applicableAt")};
+    static const QSet<QString> names {QStringLiteral("variantAt"), QStringLiteral("at"),
+            QStringLiteral("getArrayValue"), QStringLiteral("getProperty"), QStringLiteral("enumLabel"),
+            QStringLiteral("enumLabelForValue"), QStringLiteral("enumValue"), QStringLiteral("enumIndex"),
+            QStringLiteral("applicableAt")};
     return names.contains(name);
 }
 
-/// Walks the tokens once. It lets through what is known to be harmless, and only well-formed expressions, because the engine
-/// does not tell its caller of others.
+/// Walks the tokens once. It lets through what is known to be harmless, and only well-formed expressions, because the
+/// engine does not tell its caller of others.
 class Translator
 {
 public:
@@ -132,7 +131,8 @@ private:
             m_problem = QStringLiteral("the expression has more than %1 names").arg(mostNames);
         } else if (isKind(name) && isName(m_at + 2) && isOperator(m_at + 1, '.')) {
             takeItem(m_tag, name, 3);
-        } else if (isKind(nameAt(m_at + 2)) && isOperator(m_at + 1, '.') && isOperator(m_at + 3, '.') && isName(m_at + 4)) {
+        } else if (isKind(nameAt(m_at + 2)) && isOperator(m_at + 1, '.') && isOperator(m_at + 3, '.')
+                && isName(m_at + 4)) {
             takeItem(name, nameAt(m_at + 2), 5);
         } else if (isItemName(name)) {
             takeOperand();
@@ -231,8 +231,7 @@ private:
             open(Condition);
     }
 
-    enum Opened
-    {
+    enum Opened {
         Group,
         Call,
         Condition,

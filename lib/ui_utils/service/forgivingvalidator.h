@@ -13,8 +13,7 @@ class UIUTILS_EXPORT ForgivingValidator : public QRegularExpressionValidator
     Q_OBJECT
 
 public:
-    enum ValidatorState
-    {
+    enum ValidatorState {
         Invalid = QValidator::Invalid,
         Intermediate = QValidator::Intermediate,
         Acceptable = QValidator::Acceptable,
@@ -27,7 +26,7 @@ public:
 
     using QRegularExpressionValidator::validate;
 
-    /// The state of `input` with the cursor at `pos`: Acceptable when the expression matches the whole of it, Intermediate
-    /// when it is empty or could become a match, else Invalid.
+    /// The state of `input` with the cursor at `pos`: Acceptable when the expression matches the whole of it,
+    /// Intermediate when it is empty or could become a match, else Invalid.
     Q_INVOKABLE virtual ForgivingValidator::ValidatorState validate(QString input, int pos);
 };

@@ -77,7 +77,8 @@ public:
         if (isOpen())
             return QString();
         if (const BaseFormatter* formatter = m_range.formatter)
-            return QStringLiteral("%1 - %2").arg(formatter->format(m_range.minimum), formatter->format(m_range.maximum));
+            return QStringLiteral("%1 - %2").arg(
+                    formatter->format(m_range.minimum), formatter->format(m_range.maximum));
         return withUnits(realText(m_range.minimum), realText(m_range.maximum));
     }
 

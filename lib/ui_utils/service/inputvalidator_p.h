@@ -26,7 +26,8 @@ struct InputRule
 /// QIntValidator. The parent owns it.
 QValidator* createValidator(const InputRule& rule, QObject* parent);
 
-/// Makes `validator` hold entries to `rule`. Returns false, and changes nothing, when the rule takes one of another kind.
+/// Makes `validator` hold entries to `rule`. Returns false, and changes nothing, when the rule takes one of another
+/// kind.
 bool applyRule(const InputRule& rule, QValidator* validator);
 
 /// The expression for `pattern`. One that PCRE2 refuses for a hyphen behind a class escape ("[\d-.]") is read as its

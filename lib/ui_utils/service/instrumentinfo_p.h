@@ -8,8 +8,8 @@
 
 class ReportMetadata;
 
-/// What reports and their metadata tell about the unit, its user and its job, read from the services. Everything is empty where the
-/// service or the item is missing.
+/// What reports and their metadata tell about the unit, its user and its job, read from the services. Everything is
+/// empty where the service or the item is missing.
 namespace uiutils::instrument {
 
 struct LabelledText
@@ -37,9 +37,9 @@ QString unitId();
 /// Identity of the job, "Job ID" and so on.
 LabelledTexts jobFields();
 
-/// Adds the pairs "wo" and "workflowId" of the work order that is active in this application's session; nothing without one
-/// and when the workflow manager serves another session. The environment variable UIUTILS_SESSION names the application's;
-/// unset, it is the session without a name of units that know no others.
+/// Adds the pairs "wo" and "workflowId" of the work order that is active in this application's session; nothing without
+/// one and when the workflow manager serves another session. The environment variable UIUTILS_SESSION names the
+/// application's; unset, it is the session without a name of units that know no others.
 void addWorkOrder(ReportMetadata* metadata);
 
 /// Name and version of the installed components, as many as both lists hold.

@@ -19,8 +19,8 @@ public:
 
     /// Sets all keys of the map to what the item holds.
     void updateQmlMapFromItem();
-    /// Sends the item's record with one member changed, or holds it back during a transaction, and emits valueChanged().
-    /// The map keeps its value until the service reports the new record.
+    /// Sends the item's record with one member changed, or holds it back during a transaction, and emits
+    /// valueChanged(). The map keeps its value until the service reports the new record.
     void updateAggregateProperty(QString const& key, QVariant value);
 
 private:

@@ -43,8 +43,8 @@ KIVContextObject::Names KIVContextObject::namesOf(const QMap<QString, KivData*>&
     static bool isReported = false;
     if (names.names.size() > maximumProperties && !isReported) {
         isReported = true;
-        qWarning("%d service items have names, but QML can know only %d: those after %s are left out.", names.names.size(),
-                maximumProperties, names.names.at(maximumProperties - 1).constData());
+        qWarning("%d service items have names, but QML can know only %d: those after %s are left out.",
+                names.names.size(), maximumProperties, names.names.at(maximumProperties - 1).constData());
     }
     return names;
 }

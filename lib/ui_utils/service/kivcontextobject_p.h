@@ -11,8 +11,8 @@ class KivData;
 
 /// The wrappers of service items as properties that bear their names, for QQmlContext::setContextObject().
 ///
-/// Up to DynamicObject::maximumProperties names have room; the rest, in the order of names, is left out and the log says
-/// so once.
+/// Up to DynamicObject::maximumProperties names have room; the rest, in the order of names, is left out and the log
+/// says so once.
 class KIVContextObject final : public uiutils::DynamicObject
 {
 public:

@@ -223,8 +223,8 @@ uiutils::InputRule KivData::inputRule() const
     return {getType(), getRegex(), getMinRange(), getMaxRange(), getPrecision()};
 }
 
-/// Entry fields hold the validator as long as the wrapper lives, so it takes the new rule over. One of another kind stays
-/// beside its successor.
+/// Entry fields hold the validator as long as the wrapper lives, so it takes the new rule over. One of another kind
+/// stays beside its successor.
 void KivData::updateValidator()
 {
     if (m_validator && !uiutils::applyRule(inputRule(), m_validator))
@@ -316,7 +316,8 @@ QString KivData::getValueString(bool showUnits) const
     if (m_item)
         return m_item->getValueString(showUnits);
     BaseFormatter* formatter = getBaseFormatter();
-    return formatter ? uiutils::formattedText(*formatter, m_value, showUnits) : uiutils::plainText(m_value, getPrecision());
+    return formatter ? uiutils::formattedText(*formatter, m_value, showUnits)
+                     : uiutils::plainText(m_value, getPrecision());
 }
 
 QString KivData::getValueStringNoUnits() const

@@ -21,15 +21,16 @@ struct InputRule;
 
 /// One service item as QML sees it.
 ///
-/// A wrapper follows its item: what the service reports becomes a property change here, and a write to `value` is sent to
-/// the service, or held back while the Manifest isChanging(). Only items whose id begins with ":config" can be written.
+/// A wrapper follows its item: what the service reports becomes a property change here, and a write to `value` is sent
+/// to the service, or held back while the Manifest isChanging(). Only items whose id begins with ":config" can be
+/// written.
 ///
-/// **Ownership**: a wrapper belongs to its Manifest, the QObject parent. Everything that it hands out (validator, formatter,
-/// `enums`) belongs to the wrapper.
+/// **Ownership**: a wrapper belongs to its Manifest, the QObject parent. Everything that it hands out (validator,
+/// formatter, `enums`) belongs to the wrapper.
 ///
-/// **Without an item**, because the service vanished or never had one, a wrapper is not ready, keeps its last value and has
-/// the neutral answer elsewhere: no units, quality 0, no choices. When an item of the same id comes back it is followed
-/// again, and every notifier fires once.
+/// **Without an item**, because the service vanished or never had one, a wrapper is not ready, keeps its last value and
+/// has the neutral answer elsewhere: no units, quality 0, no choices. When an item of the same id comes back it is
+/// followed again, and every notifier fires once.
 ///
 /// Slots may delete the wrapper.
 class UIUTILS_EXPORT KivData : public QObject
@@ -51,8 +52,8 @@ class UIUTILS_EXPORT KivData : public QObject
     Q_PROPERTY(QString regex READ getRegex CONSTANT)
     /// False only for settings.
     Q_PROPERTY(bool readOnly READ isReadOnly CONSTANT)
-    /// The values of an enumeration's choices by their names, as in `item.enums.Internal`; null for other items. An object
-    /// of its own after the choices have changed.
+    /// The values of an enumeration's choices by their names, as in `item.enums.Internal`; null for other items. An
+    /// object of its own after the choices have changed.
     Q_PROPERTY(QObject* enums READ getEnums CONSTANT)
     /// The value; a pending one during a transaction.
     Q_PROPERTY(QVariant value READ getValue WRITE setValue NOTIFY valueChanged)
@@ -67,7 +68,8 @@ class UIUTILS_EXPORT KivData : public QObject
     /// The value as a user reads it, without its unit.
     Q_PROPERTY(QString valueStringNoUnits READ getValueStringNoUnits NOTIFY valueChanged)
     Q_PROPERTY(QString unitString READ getUnitString NOTIFY unitsChanged)
-    /// The selected element of an array item, from 0; -1 without elements. Kept under the item's id while the process runs.
+    /// The selected element of an array item, from 0; -1 without elements. Kept under the item's id while the process
+    /// runs.
     Q_PROPERTY(int arraySelection READ getArraySelection WRITE setArraySelection NOTIFY arraySelectionChanged)
     /// The selected element as text.
     Q_PROPERTY(QString arraySelectionString READ getArraySelectionString NOTIFY arraySelectionChanged)
@@ -90,8 +92,7 @@ class UIUTILS_EXPORT KivData : public QObject
 
 public:
     /// Which entry field or keyboard suits the value. The spelling of INPUT_DURATIO is what pages use.
-    enum InputType : unsigned
-    {
+    enum InputType : unsigned {
         INPUT_UNSPECIFIED = 0,
         INPUT_IP = 1,
         INPUT_IPV4 = 2,
@@ -125,8 +126,8 @@ public:
 
     /// Element `ind` of an array, from 0; undefined outside it. at() and getArrayValue() are the same.
     Q_INVOKABLE virtual QVariant variantAt(int ind) const;
-    /// The name under which QML knows the item: manifest's tag, "act", "res" or "cfg", and the item's name, joined by "_".
-    /// Empty without an item or a manifest.
+    /// The name under which QML knows the item: manifest's tag, "act", "res" or "cfg", and the item's name, joined by
+    /// "_". Empty without an item or a manifest.
     virtual QString getQmlTag() const;
     virtual QString getId() const;
     virtual QString getName() const;
@@ -142,8 +143,8 @@ public:
     virtual QString getValueStringNoUnits() const;
     virtual QString getUnitString() const;
     virtual QValidator* getValidator() const;
-    /// Sends `value` to the service, or holds it back while the manifest is changing. Nothing happens without a client and
-    /// on a read-only item. A value that the service refuses changes nothing; errorChanged() says why.
+    /// Sends `value` to the service, or holds it back while the manifest is changing. Nothing happens without a client
+    /// and on a read-only item. A value that the service refuses changes nothing; errorChanged() says why.
     virtual void setValue(QVariant value);
     virtual int getArraySelection() const;
     /// Takes 0 to valueCount - 1 and leaves everything as it is for any other index.

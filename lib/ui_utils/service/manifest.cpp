@@ -21,8 +21,8 @@ QPointer<QQmlContext> Manifest::s_pContext;
 
 namespace {
 
-/// The name under which the service expects a setting in a batch: the index of an indexed one ("level_3") stands behind a
-/// colon. Names of up to three characters stay as they are.
+/// The name under which the service expects a setting in a batch: the index of an indexed one ("level_3") stands behind
+/// a colon. Names of up to three characters stay as they are.
 QString batchName(QString name)
 {
     const int last = name.size() - 1;
@@ -60,9 +60,10 @@ void Manifest::registerItem(const QString& id)
     if (!item)
         return;
     KivData* wrapper = nullptr;
-    auto* aggregate = item->getType() == KIVClientItem::TypeAggregate ? qobject_cast<KivAggregateClientItem*>(item) : nullptr;
+    auto* aggregate
+            = item->getType() == KIVClientItem::TypeAggregate ? qobject_cast<KivAggregateClientItem*>(item) : nullptr;
     auto* list = item->getType() == KIVClientItem::TypeListAggregate ? qobject_cast<KivListAggregateClientItem*>(item)
-                                                                    : nullptr;
+                                                                     : nullptr;
     if (aggregate)
         wrapper = new KivAggregateData(aggregate, this);
     else if (list)

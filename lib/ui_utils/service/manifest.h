@@ -15,10 +15,10 @@ class QQmlContext;
 
 /// The registry of one service's items for QML, and the transaction that changes several of them at once.
 ///
-/// Constructing a manifest wraps every item that the service lists and enters the wrappers in a registry that all manifests
-/// of the process share; setQmlContext() makes them known to QML by their names. A transaction begins with startChanges():
-/// from then on values set on wrappers are held back until applyChanges() sends them as one action, or revertChanges()
-/// drops them.
+/// Constructing a manifest wraps every item that the service lists and enters the wrappers in a registry that all
+/// manifests of the process share; setQmlContext() makes them known to QML by their names. A transaction begins with
+/// startChanges(): from then on values set on wrappers are held back until applyChanges() sends them as one action, or
+/// revertChanges() drops them.
 ///
 /// **Ownership**: the wrappers are children of their manifest. The client is not owned and may be null or go away; then
 /// nothing is sent. The registry holds plain pointers; the entry of a wrapper that is gone is null.
@@ -31,8 +31,8 @@ class UIUTILS_EXPORT Manifest : public QObject
     Q_PROPERTY(QString name READ getServiceName CONSTANT)
 
 public:
-    /// Wraps the items of the service `name`. `qmlTag` begins the names of the items in QML; the service's name does when
-    /// it is empty.
+    /// Wraps the items of the service `name`. `qmlTag` begins the names of the items in QML; the service's name does
+    /// when it is empty.
     Manifest(KIVClientInterface* client, QString const& qmlTag, QString const& name, QObject* parent = nullptr);
     ~Manifest() override;
 
@@ -45,8 +45,8 @@ public:
 
     /// Begins a transaction; nothing happens when one runs.
     Q_INVOKABLE void startChanges();
-    /// Ends the transaction and sends all pending changes of the process to the service as one action. What was sent is not
-    /// sent again unless it is changed again. When the service refuses, every wrapper concerned emits
+    /// Ends the transaction and sends all pending changes of the process to the service as one action. What was sent is
+    /// not sent again unless it is changed again. When the service refuses, every wrapper concerned emits
     /// KivData::errorChanged(), and its change stays pending.
     Q_INVOKABLE void applyChanges();
     /// Ends the transaction and drops all pending changes of the process.

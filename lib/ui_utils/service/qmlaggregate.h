@@ -7,8 +7,8 @@
 
 class KivAggregateData;
 
-/// The members of a record as keys of a map. What QML writes goes to the service; the key changes when the service reports
-/// the new record, because the service has the last word.
+/// The members of a record as keys of a map. What QML writes goes to the service; the key changes when the service
+/// reports the new record, because the service has the last word.
 class UIUTILS_EXPORT QMLAggregate : public QQmlPropertyMap
 {
     // No meta-object of its own: one between the map's and the keys would hide keys from QML.

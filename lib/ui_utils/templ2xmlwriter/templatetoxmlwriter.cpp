@@ -238,7 +238,8 @@ void TemplateToXmlWriter::insertCustomFields()
     if (rootEnd < 0)
         return;
     if (m_output.at(rootEnd - 1) == QLatin1Char('/')) {
-        const QString endTag = QLatin1String("</") + elementName(NodeReader(m_document).tag(), keys::report) + QLatin1Char('>');
+        const QString endTag
+                = QLatin1String("</") + elementName(NodeReader(m_document).tag(), keys::report) + QLatin1Char('>');
         m_output.replace(rootEnd - 1, 2, QLatin1String(">\n") + blocks + endTag);
     } else {
         m_output.insert(rootEnd + 2, blocks);

@@ -24,8 +24,7 @@ class UIUTILS_EXPORT TemplateToXmlWriter
 public:
     /// Writes the document as it is now. `jobManagerMode` leaves out versions and customer; `includeCustomerInfo`
     /// lets the customer block in; without `generate` the root element stays open and empty.
-    TemplateToXmlWriter(
-            const ReportTemplate& document, bool jobManagerMode, bool includeCustomerInfo, bool generate);
+    TemplateToXmlWriter(const ReportTemplate& document, bool jobManagerMode, bool includeCustomerInfo, bool generate);
     virtual ~TemplateToXmlWriter();
     Q_DISABLE_COPY_MOVE(TemplateToXmlWriter)
 

@@ -201,7 +201,8 @@ QString AxisScale::label(double tick, const QLocale& locale) const
     const int stepDecade = decadeOf(m_step);
     if (magnitude < 1e7 && stepDecade >= -6)
         return locale.toString(tick, 'f', std::max(0, -stepDecade));
-    return tick == 0 ? locale.toString(0) : locale.toString(tick, 'e', qBound(0, decadeOf(std::abs(tick)) - stepDecade, 12));
+    return tick == 0 ? locale.toString(0)
+                     : locale.toString(tick, 'e', qBound(0, decadeOf(std::abs(tick)) - stepDecade, 12));
 }
 
 } // namespace uiutils

@@ -70,7 +70,8 @@ void share(ColumnBand& band, const QVector<ColumnDemand>& demands, qreal total, 
         spread(band, labels, total, natural);
     } else if (minimalSum <= total) {
         // One long remark does not make the columns beside it break their short texts.
-        const auto limited = [&](const ColumnWidth& c, qreal limit) { return qMax(minimal(c), qMin(natural(c), limit)); };
+        const auto limited
+                = [&](const ColumnWidth& c, qreal limit) { return qMax(minimal(c), qMin(natural(c), limit)); };
         qreal low = 0;
         qreal high = total;
         for (int i = 0; i < bisections; ++i) {

@@ -77,15 +77,13 @@ const WrappedText* PageCanvas::findParted(const PageFont& font, const QString& t
     for (const Parted& parted : m_parted) {
         // A text that is shared is the same one; comparing megabytes for each page would be no better than wrapping
         // them.
-        if (parted.font == &font && qFuzzyCompare(parted.width, width)
-                && parted.text.constData() == text.constData())
+        if (parted.font == &font && qFuzzyCompare(parted.width, width) && parted.text.constData() == text.constData())
             return parted.lines.get();
     }
     return nullptr;
 }
 
-void PageCanvas::drawPlain(
-        const PageFont& font, QStringView text, const QPointF& baseLine, const QColor& color)
+void PageCanvas::drawPlain(const PageFont& font, QStringView text, const QPointF& baseLine, const QColor& color)
 {
     if (m_font != &font || m_color != color) {
         flush();

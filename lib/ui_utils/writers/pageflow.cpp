@@ -85,8 +85,7 @@ private:
                 continue;
             if (top > 0)
                 top += item.spaceAbove();
-            const ReportItem::Portion portion
-                    = item.split({}, m_pageHeight - top, isWholePage(top, hasHeadingsOnly));
+            const ReportItem::Portion portion = item.split({}, m_pageHeight - top, isWholePage(top, hasHeadingsOnly));
             if (!item.keepsWithNext())
                 return !portion.isEmpty();
             if (portion.end != item.end())
@@ -107,8 +106,8 @@ private:
 
 } // namespace
 
-ReportItem::Portion takeRows(const QVector<int>& lines, const RowHeights& heights,
-        const ReportItem::Position& begin, int endRow, qreal room, bool mayTear)
+ReportItem::Portion takeRows(const QVector<int>& lines, const RowHeights& heights, const ReportItem::Position& begin,
+        int endRow, qreal room, bool mayTear)
 {
     ReportItem::Portion portion {begin, begin, 0};
     while (portion.end.row < endRow) {

@@ -20,8 +20,8 @@ struct RowHeights
 /// Takes rows from `begin` to before row `endRow` as long as they fit into `room`; `lines` tells the lines of each row.
 /// A row is taken whole or not at all; only one that begins the stack and `mayTear` is taken in part, at least a line
 /// of it.
-ReportItem::Portion takeRows(const QVector<int>& lines, const RowHeights& heights,
-        const ReportItem::Position& begin, int endRow, qreal room, bool mayTear);
+ReportItem::Portion takeRows(const QVector<int>& lines, const RowHeights& heights, const ReportItem::Position& begin,
+        int endRow, qreal room, bool mayTear);
 
 /// The same for lines of running text: neither the first nor the last line stands alone on a page.
 ReportItem::Portion takeLines(int lineCount, qreal lineHeight, int begin, qreal room, bool isWholePage);

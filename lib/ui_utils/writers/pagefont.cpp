@@ -81,13 +81,11 @@ const PageFont::Block& PageFont::loadBlock(uchar row) const
             continue;
         // The font's own table has no glyph for some blanks that look the same.
         const bool isBlank = character.category() == QChar::Separator_Space && character.unicode() == 0xa0;
-        const QVector<quint32> glyphs
-                = m_raw.glyphIndexesForString(isBlank ? QStringLiteral(" ") : QString(character));
+        const QVector<quint32> glyphs = m_raw.glyphIndexesForString(isBlank ? QStringLiteral(" ") : QString(character));
         if (glyphs.size() != 1 || glyphs.constFirst() == 0)
             continue;
         const qreal advance = m_raw.advancesForGlyphIndexes(glyphs).constFirst().x();
-        (*block)[size_t(cell)]
-                = {glyphs.constFirst(), float(std::round(advance * advanceSteps) / advanceSteps)};
+        (*block)[size_t(cell)] = {glyphs.constFirst(), float(std::round(advance * advanceSteps) / advanceSteps)};
     }
     m_blocks[row] = std::move(block);
     return *m_blocks[row];

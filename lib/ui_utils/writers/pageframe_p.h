@@ -32,8 +32,8 @@ public:
 private:
     void shortenTexts();
     /// Texts at the left, in the middle and at the right of a line.
-    void drawLine(PageCanvas& canvas, qreal top, const QString& left, const QString& middle,
-            const QString& right) const;
+    void drawLine(
+            PageCanvas& canvas, qreal top, const QString& left, const QString& middle, const QString& right) const;
 
     const PageStyle& m_style;
     Texts m_texts;

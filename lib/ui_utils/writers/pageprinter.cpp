@@ -6,8 +6,7 @@
 
 namespace uiutils {
 
-PagePrinter::PagePrinter(
-        const PageSettings& settings, const QList<ReportItem*>& items, const Progress& progress)
+PagePrinter::PagePrinter(const PageSettings& settings, const QList<ReportItem*>& items, const Progress& progress)
     : m_frameTexts(settings.frame)
     , m_progress(progress)
     , m_printer(QPrinter::ScreenResolution)

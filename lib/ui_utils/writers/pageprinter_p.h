@@ -21,8 +21,8 @@ struct PageSettings
     QPageLayout::Orientation orientation = QPageLayout::Portrait;
 };
 
-/// Prints items onto the pages of one PDF file, as the printer device writes it: whether the file is whole is for others
-/// to check.
+/// Prints items onto the pages of one PDF file, as the printer device writes it: whether the file is whole is for
+/// others to check.
 class PagePrinter
 {
 public:

@@ -59,7 +59,7 @@ private:
 
     static Page pageOf(const PdfObject& object, const PdfObject* box)
     {
-        Page page{object.Reference(), 0, 0, 0};
+        Page page {object.Reference(), 0, 0, 0};
         if (!box)
             return page;
         const PoDoFo::PdfRect rect(box->GetArray());
@@ -102,7 +102,7 @@ QVector<Links> linksOf(const QVector<OutlineEntry>& entries)
 {
     QVector<Links> links(entries.size() + 1);
     // The entries that the next one may lie in, outermost first.
-    QVector<int> open{entries.size()};
+    QVector<int> open {entries.size()};
     for (int i = 0; i < entries.size(); ++i) {
         const int depth = qBound(0, entries.at(i).level, open.size() - 1);
         open.resize(depth + 1);
@@ -175,8 +175,7 @@ private:
         // The outermost are seen; below zero is how many would be if the entry were opened.
         const bool outermost = links.parent < 0;
         if (links.children > 0)
-            object.GetDictionary().AddKey(
-                    "Count", PoDoFo::pdf_int64(outermost ? links.children : -links.children));
+            object.GetDictionary().AddKey("Count", PoDoFo::pdf_int64(outermost ? links.children : -links.children));
     }
 
     void setReference(PdfObject& object, const char* key, int index) const
@@ -195,9 +194,8 @@ private:
 void describe(PoDoFo::PdfMemDocument& document, const Annotation& annotation)
 {
     PoDoFo::PdfDictionary& info = document.GetInfo()->GetObject()->GetDictionary();
-    const std::pair<const char*, const QString*> entries[]{{"Title", &annotation.title},
-            {"Author", &annotation.author}, {"Subject", &annotation.subject},
-            {"Producer", &annotation.producer}};
+    const std::pair<const char*, const QString*> entries[] {{"Title", &annotation.title},
+            {"Author", &annotation.author}, {"Subject", &annotation.subject}, {"Producer", &annotation.producer}};
     for (const auto& [key, value] : entries) {
         if (value->isEmpty())
             info.RemoveKey(key);

@@ -74,8 +74,7 @@ bool isTurned(const QByteArray& bytes)
 bool isPlain(const QString& text)
 {
     return std::all_of(text.begin(), text.end(), [](QChar c) {
-        return (c >= QLatin1Char(' ') && c <= QLatin1Char('~')) || c == QLatin1Char('\n')
-                || c == QLatin1Char('\t');
+        return (c >= QLatin1Char(' ') && c <= QLatin1Char('~')) || c == QLatin1Char('\n') || c == QLatin1Char('\t');
     });
 }
 
@@ -237,8 +236,7 @@ QDateTime dateTime(const QString& text)
     if (match.capturedLength(8) == 0)
         return QDateTime(date, time, Qt::LocalTime);
     const int offset = (number(9, 0) * 60 + number(10, 0)) * 60;
-    return QDateTime(
-            date, time, Qt::OffsetFromUTC, match.capturedRef(8) == QLatin1String("-") ? -offset : offset);
+    return QDateTime(date, time, Qt::OffsetFromUTC, match.capturedRef(8) == QLatin1String("-") ? -offset : offset);
 }
 
 std::unique_ptr<PoDoFo::PdfMemDocument> load(const QByteArray& contents, QString* error)
@@ -285,8 +283,7 @@ bool isWholePdf(QIODevice& device, QString* error)
     if (position < 0)
         return fail(error, QT_TRANSLATE_NOOP("PdfDocument", "The PDF file has no end"));
     if (position == 0 || !device.seek(position) || !isTableStart(device.read(32)))
-        return fail(
-                error, QT_TRANSLATE_NOOP("PdfDocument", "The PDF file has lost the table of its objects"));
+        return fail(error, QT_TRANSLATE_NOOP("PdfDocument", "The PDF file has lost the table of its objects"));
     return true;
 }
 

@@ -20,7 +20,7 @@ QString errorText(int code);
 QString currentErrorText();
 
 /// Does `work`; returns false and sets `error` when it threw.
-template <typename Work> bool guarded(QString* error, const Work& work)
+template<typename Work> bool guarded(QString* error, const Work& work)
 {
     try {
         work();

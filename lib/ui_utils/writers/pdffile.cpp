@@ -44,7 +44,7 @@ bool statusOf(const QString& path, struct stat* status)
 /// may do something.
 QString refusalOf(const QString& path)
 {
-    struct stat status {};
+    struct stat status = {};
     if (path.contains(QChar(QChar::Null)))
         return text(QT_TRANSLATE_NOOP("PDFFile", "The path holds a NUL character"));
     if (!statusOf(path, &status))
@@ -80,8 +80,8 @@ std::unique_ptr<PoDoFo::PdfMemDocument> loadUntrusted(const QString& path, QStri
 
 bool isSameFile(const QString& path, const QString& other)
 {
-    struct stat one {};
-    struct stat two {};
+    struct stat one = {};
+    struct stat two = {};
     if (statusOf(path, &one) && statusOf(other, &two))
         return one.st_dev == two.st_dev && one.st_ino == two.st_ino;
     return QDir::cleanPath(path) == QDir::cleanPath(other);
@@ -100,8 +100,7 @@ QString temporaryNameFor(const QString& path)
 bool isUsableKey(const QString& key)
 {
     const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
-    return !key.isEmpty() && key.toUtf8().size() <= longestKey
-            && std::none_of(key.begin(), key.end(), isControl);
+    return !key.isEmpty() && key.toUtf8().size() <= longestKey && std::none_of(key.begin(), key.end(), isControl);
 }
 
 } // namespace

@@ -68,8 +68,8 @@ QString ownFile()
 QString installedHelper()
 {
     const QFileInfo own(ownFile());
-    for (const QLatin1String place : {QLatin1String(UIUTILS_PDF_PROBE_FROM_LIBRARY),
-                 QLatin1String("../libexec/uiutils/uiutils-pdf-probe")}) {
+    for (const QLatin1String place :
+            {QLatin1String(UIUTILS_PDF_PROBE_FROM_LIBRARY), QLatin1String("../libexec/uiutils/uiutils-pdf-probe")}) {
         const QFileInfo helper(own.path() + QLatin1Char('/') + place);
         if (own.isAbsolute() && helper.isFile() && helper.isExecutable())
             return helper.canonicalFilePath();
@@ -165,8 +165,7 @@ private:
         QByteArray name = program;
         char* const arguments[] = {name.data(), nullptr};
         char* const environment[] = {libraries.data(), nullptr};
-        const int failure
-                = ::posix_spawn(&m_pid, program.constData(), &actions, &attributes, arguments, environment);
+        const int failure = ::posix_spawn(&m_pid, program.constData(), &actions, &attributes, arguments, environment);
         ::posix_spawnattr_destroy(&attributes);
         ::posix_spawn_file_actions_destroy(&actions);
         m_running = failure == 0;
@@ -182,8 +181,7 @@ private:
 bool passesUnseen(const QString& helper)
 {
     static const bool told = [&helper] {
-        qWarning(
-                "PDF files are loaded without being tried out first: the helper program uiutils-pdf-probe %s",
+        qWarning("PDF files are loaded without being tried out first: the helper program uiutils-pdf-probe %s",
                 helper.isEmpty() ? "is not where it was installed" : "cannot be started");
         return true;
     }();
@@ -212,24 +210,21 @@ bool PdfProbe::passes(const QByteArray& contents, QString* error) const
 {
     Descriptor file;
     if (contents.isEmpty() || !fill(file, contents)) {
-        *error = contents.isEmpty()
-                ? text(QT_TRANSLATE_NOOP("PdfProbe", "The file is empty"))
-                : text(QT_TRANSLATE_NOOP("PdfProbe", "There is no memory to try the file out"));
+        *error = contents.isEmpty() ? text(QT_TRANSLATE_NOOP("PdfProbe", "The file is empty"))
+                                    : text(QT_TRANSLATE_NOOP("PdfProbe", "There is no memory to try the file out"));
         return false;
     }
     Helper helper(m_helper, file.value());
     if (!helper.isStarted())
         return passesUnseen(m_helper);
-    const int patience = m_patience > 0
-            ? m_patience
-            : 2000 * int(pdfprobe::processorSeconds(std::uint64_t(contents.size())));
+    const int patience
+            = m_patience > 0 ? m_patience : 2000 * int(pdfprobe::processorSeconds(std::uint64_t(contents.size())));
     const QByteArray answer = helper.answer(QDeadlineTimer(patience));
     if (answer.isEmpty() && !helper.isRunning())
         return passesUnseen(m_helper);
     if (answer.size() < 2) {
-        *error = helper.isRunning()
-                ? text(QT_TRANSLATE_NOOP("PdfProbe", "Reading the file takes too long"))
-                : text(QT_TRANSLATE_NOOP("PdfProbe", "The file cannot be read without harm"));
+        *error = helper.isRunning() ? text(QT_TRANSLATE_NOOP("PdfProbe", "Reading the file takes too long"))
+                                    : text(QT_TRANSLATE_NOOP("PdfProbe", "The file cannot be read without harm"));
         return false;
     }
     const auto result = static_cast<unsigned char>(answer.at(1));

@@ -15,7 +15,8 @@ namespace {
 const QLatin1String xEnd("_x:doubleARRAY:");
 const QLatin1String yEnd("_y:doubleARRAY:");
 
-/// A label or unit, as much of it as any plot has room for: a service may hold megabytes, and every character is measured.
+/// A label or unit, as much of it as any plot has room for: a service may hold megabytes, and every character is
+/// measured.
 QString shownText(const QString& text)
 {
     constexpr int longest = 200;
@@ -25,7 +26,7 @@ QString shownText(const QString& text)
 AxisScale::Kind scaleKind(const KIVClientItem& item)
 {
     return item.getAttribute(QStringLiteral("scale")).toString() == QLatin1String("log") ? AxisScale::Logarithmic
-                                                                                        : AxisScale::Linear;
+                                                                                         : AxisScale::Linear;
 }
 
 void addLimit(PlotData& data, const KIVClientItem& item, const QString& attribute, PlotLimit::Kind kind)
@@ -75,7 +76,8 @@ public:
     void moveTo(QVector<QPointF>& stretch)
     {
         Entry entries[] = {m_first, m_lowest, m_highest, m_last};
-        std::sort(std::begin(entries), std::end(entries), [](const Entry& a, const Entry& b) { return a.order < b.order; });
+        std::sort(std::begin(entries), std::end(entries),
+                [](const Entry& a, const Entry& b) { return a.order < b.order; });
         int previous = -1;
         for (const Entry& entry : entries) {
             if (m_count > 0 && entry.order != previous)

@@ -69,8 +69,8 @@ struct PlotData
 PlotData readPlotData(const QString& service);
 
 /// Thins a curve out to what `columns` pixel columns can show. Of neighbouring points that fall into one column only
-/// the first, the lowest, the highest and the last stay, so that no spike is lost; a point that cannot be drawn parts the
-/// curve. Returns the connected stretches, in positions 0 to 1 along both axes.
+/// the first, the lowest, the highest and the last stay, so that no spike is lost; a point that cannot be drawn parts
+/// the curve. Returns the connected stretches, in positions 0 to 1 along both axes.
 QVector<QVector<QPointF>> visibleStretches(
         const PlotData& data, const PlotCurve& curve, const AxisScale& xScale, const AxisScale& yScale, int columns);
 

@@ -28,7 +28,8 @@ void PlotImage::setCurveBackground(const QString& color)
 
 void PlotImage::setSize(int width, int height)
 {
-    m_size = QSize(width < 1 ? 600 : qBound(50, width, maximumSide), height < 1 ? 400 : qBound(50, height, maximumSide));
+    m_size = QSize(
+            width < 1 ? 600 : qBound(50, width, maximumSide), height < 1 ? 400 : qBound(50, height, maximumSide));
 }
 
 bool PlotImage::write(const QString& path)

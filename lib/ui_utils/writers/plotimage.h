@@ -12,8 +12,8 @@ class QImage;
 /// Draws the result arrays of a service, x against y, into a PNG image.
 ///
 /// A curve is a pair of array items whose ids end in "_x:doubleARRAY:" and "_y:doubleARRAY:" and agree before that. The
-/// y item's label and unit name the curve, the first x item's the x axis; the attribute "scale" set to "log" on an item of
-/// the first pair makes its axis logarithmic; the attributes "lowerLimit" and "upperLimit" of a y item are marked.
+/// y item's label and unit name the curve, the first x item's the x axis; the attribute "scale" set to "log" on an item
+/// of the first pair makes its axis logarithmic; the attributes "lowerLimit" and "upperLimit" of a y item are marked.
 ///
 /// Whatever the arrays hold, write() makes an image. A point that is not finite, or not positive along a logarithmic
 /// axis, parts its curve. However many points there are, none that sticks out is lost. It needs a QGuiApplication.

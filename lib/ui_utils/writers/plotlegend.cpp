@@ -21,8 +21,7 @@ double textStart(const LegendEntry& entry)
 
 } // namespace
 
-PlotLegend::PlotLegend(
-        const QVector<LegendEntry>& entries, const QFontMetricsF& metrics, double unit, double width)
+PlotLegend::PlotLegend(const QVector<LegendEntry>& entries, const QFontMetricsF& metrics, double unit, double width)
     : m_unit(unit)
     , m_width(width)
 {
@@ -74,8 +73,8 @@ void PlotLegend::draw(QPainter& painter, const QPointF& topLeft, const QColor& i
         const double room = std::min(place.width, m_width - place.left) - indent;
         const QRectF box(start.x() + indent, start.y() - line / 2, room, line);
         painter.setPen(ink);
-        painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter,
-                metrics.elidedText(place.entry.text, Qt::ElideRight, room));
+        painter.drawText(
+                box, Qt::AlignLeft | Qt::AlignVCenter, metrics.elidedText(place.entry.text, Qt::ElideRight, room));
     }
 }
 

@@ -201,7 +201,8 @@ void PlotPainter::drawCurve(int index)
     QVector<QPointF> dots;
     for (QVector<QPointF>& stretch : stretches) {
         for (QPointF& point : stretch)
-            point = QPointF(m_frame.left() + point.x() * m_frame.width(), m_frame.bottom() - point.y() * m_frame.height());
+            point = QPointF(
+                    m_frame.left() + point.x() * m_frame.width(), m_frame.bottom() - point.y() * m_frame.height());
         // A point without neighbours is no line.
         if (showsPoints || stretch.size() == 1)
             dots += stretch;

@@ -9,8 +9,8 @@
 class UIUTILS_EXPORT ReportImage : public ReportItem
 {
 public:
-    /// `encoded` is a file's contents in a format that the toolkit reads. `pixelsOfAPoint` tells how fine it is printed. What
-    /// is no image, or one of more than 50 million pixels, takes no room.
+    /// `encoded` is a file's contents in a format that the toolkit reads. `pixelsOfAPoint` tells how fine it is
+    /// printed. What is no image, or one of more than 50 million pixels, takes no room.
     explicit ReportImage(const QByteArray& encoded, qreal pixelsOfAPoint = 1);
     ~ReportImage() override;
 

@@ -51,7 +51,8 @@ bool ReportPDF::Job::tellProgress(int page, int pageCount)
 uiutils::PageSettings ReportPDF::Job::settings() const
 {
     const ReportPDF& owner = *m_owner;
-    return {{uiutils::decodedImage(uiutils::readIcon(owner.m_logo)), owner.m_documentTitle, owner.m_title, owner.m_fields},
+    return {{uiutils::decodedImage(uiutils::readIcon(owner.m_logo)), owner.m_documentTitle, owner.m_title,
+                    owner.m_fields},
             {owner.m_documentTitle, owner.m_title, owner.m_unitId, owner.m_timestamp},
             owner.m_orientation == Landscape ? QPageLayout::Landscape : QPageLayout::Portrait};
 }
@@ -77,7 +78,8 @@ QByteArray ReportPDF::Job::run(QString* error)
     return finish(printed.path(), printer.outline(), error);
 }
 
-/// A printer device tells nothing of what could not be written: only a file that can be read again to its end was printed.
+/// A printer device tells nothing of what could not be written: only a file that can be read again to its end was
+/// printed.
 QByteArray ReportPDF::Job::finish(
         const QString& printed, const QVector<uiutils::pdf::OutlineEntry>& outline, QString* error) const
 {

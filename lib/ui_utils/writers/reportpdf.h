@@ -51,14 +51,14 @@ public:
     void setTimestamp(const QString& text) { m_timestamp = text; }
     void setFields(const QVector<Field>& fields) { m_fields = fields; }
 
-    /// Prints into memory and returns the whole file. Nothing when it was cancelled, and then `error` is empty, or when a
-    /// step failed, which `error` names. It does not return to the event loop. While it runs, no other of the program
+    /// Prints into memory and returns the whole file. Nothing when it was cancelled, and then `error` is empty, or when
+    /// a step failed, which `error` names. It does not return to the event loop. While it runs, no other of the program
     /// prints: items have one layout at a time.
     QByteArray toPdf(QString* error = nullptr);
 
-    /// Prints to `path`, an instrument path in a folder that exists; the file takes its place when it is whole and on the
-    /// disk. Returns false, with `path` untouched and nothing left beside it, when toPdf() returns nothing and when it cannot be
-    /// written.
+    /// Prints to `path`, an instrument path in a folder that exists; the file takes its place when it is whole and on
+    /// the disk. Returns false, with `path` untouched and nothing left beside it, when toPdf() returns nothing and when
+    /// it cannot be written.
     bool print(const QString& path, QString* error = nullptr);
 
     /// Whether any of the program is printing, and calls what is connected to progressChanged().

@@ -13,8 +13,8 @@ class TableLayout;
 }
 
 /// A table of a printed report. Its columns are as wide as their contents ask for; what does not fit is wrapped, and a
-/// table with too many columns goes on below itself with the rest of them. A page that a table is carried over to repeats
-/// its title and column labels. Rows are not torn unless a page is too low for one, with the headings above it.
+/// table with too many columns goes on below itself with the rest of them. A page that a table is carried over to
+/// repeats its title and column labels. Rows are not torn unless a page is too low for one, with the headings above it.
 class UIUTILS_EXPORT ReportTable final : public ReportItem
 {
 public:

@@ -54,8 +54,7 @@ TableLayout::TableLayout(const ReportTable& table, const PageStyle& style, const
     , m_labels(table.columnLabels())
     , m_rowsOfABand(qMax(1, table.rowCount()))
 {
-    m_bands = columnBands(
-            demands(), page.width(), style.points(leastColumnWidth), table.hasLabelColumn() ? 1 : 0);
+    m_bands = columnBands(demands(), page.width(), style.points(leastColumnWidth), table.hasLabelColumn() ? 1 : 0);
     if (!table.title().isEmpty()) {
         m_title = makeTitle(shortTitle(table.title()));
         m_continuedTitle = makeTitle(QCoreApplication::translate("ReportPDF", "%1 - Continued").arg(m_title.text));
@@ -197,8 +196,7 @@ qreal TableLayout::spaceAbove() const
     return m_style.points(8);
 }
 
-ReportItem::Portion TableLayout::split(
-        const ReportItem::Position& begin, qreal room, bool isWholePage) const
+ReportItem::Portion TableLayout::split(const ReportItem::Position& begin, qreal room, bool isWholePage) const
 {
     const qreal head = headHeight(begin);
     const int bandEnd = (bandOf(begin) + 1) * m_rowsOfABand;
@@ -268,8 +266,7 @@ void TableLayout::drawTitle(PageCanvas& canvas, const Title& title, const QRectF
     if (title.lines == 0)
         return;
     canvas.fill(place, m_style.accent);
-    canvas.drawText(m_style.tableTitle, title.text,
-            place.topLeft() + QPointF(m_style.cellPadding, m_style.rowPadding),
+    canvas.drawText(m_style.tableTitle, title.text, place.topLeft() + QPointF(m_style.cellPadding, m_style.rowPadding),
             place.width() - 2 * m_style.cellPadding, readingSideOf(m_table.title()), m_style.onAccent, 0, title.lines);
 }
 
@@ -289,8 +286,7 @@ void TableLayout::drawLabels(PageCanvas& canvas, int band, const QRectF& place) 
 }
 
 /// Under every other row, drawn at once: a colour for each row would cost the file more than the row's text.
-void TableLayout::drawStripes(
-        PageCanvas& canvas, const ReportItem::Portion& portion, const QPointF& topLeft) const
+void TableLayout::drawStripes(PageCanvas& canvas, const ReportItem::Portion& portion, const QPointF& topLeft) const
 {
     QVector<QRectF> stripes;
     qreal top = topLeft.y();

@@ -53,8 +53,8 @@ private:
     void drawLabels(PageCanvas& canvas, int band, const QRectF& place) const;
     void drawStripes(PageCanvas& canvas, const ReportItem::Portion& portion, const QPointF& topLeft) const;
     void drawRow(PageCanvas& canvas, int band, int row, int beginLine, int endLine, const QPointF& topLeft) const;
-    void drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, const QPointF& topLeft, qreal width,
-            int beginLine, int endLine) const;
+    void drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, const QPointF& topLeft, qreal width, int beginLine,
+            int endLine) const;
     /// Calls visit(int row, int beginLine, int endLine, qreal height) for what a portion holds of each row.
     template<typename Visitor> void forEachRow(const ReportItem::Portion& portion, Visitor visit) const;
 

@@ -378,8 +378,7 @@ void TemplateToHtmlWriter::plotToHtml(const QString& service)
         PlotImage plot;
         plot.setService(service);
         plot.setCurveBackground(attribute(QStringLiteral("plot_curve_bg")).toString());
-        plot.setSize(
-                attribute(QStringLiteral("plot_width")).toInt(), attribute(QStringLiteral("plot_height")).toInt());
+        plot.setSize(attribute(QStringLiteral("plot_width")).toInt(), attribute(QStringLiteral("plot_height")).toInt());
         plot.setPixelScale(m_plotPixels);
         plot.write(uiutils::paths::plotImage(m_plots.size()));
         known = m_plots.insert(service, plot.getData());

@@ -44,7 +44,8 @@ void TemplateToPdfWriter::setUpPages()
         return own.isEmpty() ? fallback : own;
     };
     m_pages.setItems(*m_items);
-    m_pages.setOrientation(text("orientation") == QLatin1String("portrait") ? ReportPDF::Portrait : ReportPDF::Landscape);
+    m_pages.setOrientation(
+            text("orientation") == QLatin1String("portrait") ? ReportPDF::Portrait : ReportPDF::Landscape);
     m_pages.setTitle(m_html.title());
     m_pages.setAuthor(textOr("author", uiutils::instrument::technicianName()));
     m_pages.setSubject(textOr("subject", m_subject));

@@ -14,7 +14,8 @@ class ReportTemplate;
 class UIUTILS_EXPORT TemplateToPdfWriter
 {
 public:
-    /// Keeps the document as it is now. The items of the pass are kept in `items` until the next one, which deletes them.
+    /// Keeps the document as it is now. The items of the pass are kept in `items` until the next one, which deletes
+    /// them.
     explicit TemplateToPdfWriter(
             const ReportTemplate& document, QList<ReportItem*>* items = &uiutils::sharedReportItems());
     ~TemplateToPdfWriter();

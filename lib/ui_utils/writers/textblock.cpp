@@ -21,11 +21,10 @@ void TextBlock::setRuleBelow(qreal thickness, qreal distance)
     m_ruleDistance = distance;
 }
 
-ReportItem::Portion TextBlock::split(
-        const ReportItem::Position& begin, qreal room, bool isWholePage) const
+ReportItem::Portion TextBlock::split(const ReportItem::Position& begin, qreal room, bool isWholePage) const
 {
-    ReportItem::Portion portion = takeLines(
-            m_lines.lineCount(), m_font.lineHeight(), begin.row, room - ruleHeight(), isWholePage);
+    ReportItem::Portion portion
+            = takeLines(m_lines.lineCount(), m_font.lineHeight(), begin.row, room - ruleHeight(), isWholePage);
     if (portion.end == end())
         portion.height += ruleHeight();
     return portion;
@@ -35,8 +34,8 @@ void TextBlock::draw(PageCanvas& canvas, const ReportItem::Portion& portion, con
 {
     m_lines.draw(canvas, topLeft, m_width, m_alignment, m_color, portion.begin.row, portion.end.row);
     if (m_ruleThickness > 0 && portion.end == end())
-        canvas.fill(QRectF(topLeft.x(), topLeft.y() + portion.height - m_ruleThickness, m_width, m_ruleThickness),
-                m_color);
+        canvas.fill(
+                QRectF(topLeft.x(), topLeft.y() + portion.height - m_ruleThickness, m_width, m_ruleThickness), m_color);
 }
 
 } // namespace uiutils

@@ -283,9 +283,9 @@ private:
             known = m_plots.insert(service, plotTable(readPlotData(service)));
         if (known->hasRows())
             known->write(m_lines, m_width);
-        m_lines.putText(known->hasRows()
-                        ? word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "The curves are drawn in the HTML and PDF reports."))
-                        : word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "There are no curves.")),
+        m_lines.putText(known->hasRows() ? word(QT_TRANSLATE_NOOP(
+                                "TemplateToHtmlWriter", "The curves are drawn in the HTML and PDF reports."))
+                                         : word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "There are no curves.")),
                 m_width, tableIndentation, tableIndentation);
     }
 

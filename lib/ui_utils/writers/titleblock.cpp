@@ -65,8 +65,9 @@ void TitleBlock::measureFields(const PageStyle& style, qreal pageWidth)
             field.label = WrappedText::elided(style.bold, field.label, m_labelWidth, maximumFieldLines);
             const qreal room = m_textWidth - (style.hasStatusIcon(field.status) ? style.body.lineHeight() + gap : 0);
             field.text = WrappedText::elided(style.body, field.text, room, maximumFieldLines);
-            lines = qMax(lines, qMax(WrappedText(style.bold, field.label, m_labelWidth).lineCount(),
-                                        WrappedText(style.body, field.text, room).lineCount()));
+            lines = qMax(lines,
+                    qMax(WrappedText(style.bold, field.label, m_labelWidth).lineCount(),
+                            WrappedText(style.body, field.text, room).lineCount()));
             const qreal left = (i - first) * (columnWidth + gap);
             m_places.append({{left, top}, {left + m_labelWidth, top}, lines});
         }

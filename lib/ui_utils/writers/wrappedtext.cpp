@@ -147,8 +147,8 @@ void WrappedText::addShaped(const PageFont& font, int begin, int length, qreal w
     for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
         line.setLineWidth(width);
         line.setPosition({0, 0});
-        m_lines.push_back({begin + line.textStart(), line.textLength(), line.naturalTextWidth(),
-                int(m_layouts.size()), line.lineNumber()});
+        m_lines.push_back({begin + line.textStart(), line.textLength(), line.naturalTextWidth(), int(m_layouts.size()),
+                line.lineNumber()});
     }
     layout->endLayout();
     m_layouts.push_back(std::move(layout));

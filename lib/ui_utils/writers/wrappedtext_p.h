@@ -30,8 +30,8 @@ public:
     qreal width() const;
 
     /// Draws the lines from `begin` on, `end` not included, into a box of `boxWidth` at `topLeft`.
-    void draw(PageCanvas& canvas, const QPointF& topLeft, qreal boxWidth, Qt::Alignment alignment,
-            const QColor& color, int begin, int end) const;
+    void draw(PageCanvas& canvas, const QPointF& topLeft, qreal boxWidth, Qt::Alignment alignment, const QColor& color,
+            int begin, int end) const;
 
     /// The width that the text takes in one line for each of its own.
     static qreal naturalWidth(const PageFont& font, const QString& text);

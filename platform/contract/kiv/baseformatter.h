@@ -8,8 +8,8 @@
 
 /// Turns a value into the text that a user reads, in the user's locale.
 ///
-/// A formatter holds one value and its own settings. **Ownership**: each caller of getFormatter() gets a formatter of its
-/// own and owns it. **Errors**: a value that is no number gives the value's own text. No call blocks.
+/// A formatter holds one value and its own settings. **Ownership**: each caller of getFormatter() gets a formatter of
+/// its own and owns it. **Errors**: a value that is no number gives the value's own text. No call blocks.
 class KIV_EXPORT BaseFormatter : public QObject
 {
     Q_OBJECT

@@ -19,7 +19,7 @@ namespace {
 std::optional<struct statvfs> fileSystemAt(const QString& directory)
 {
     QString place = QFileInfo(directory).absoluteFilePath();
-    struct statvfs system {};
+    struct statvfs system = {};
     while (::statvfs(QFile::encodeName(place).constData(), &system) != 0) {
         const int slash = place.lastIndexOf(QLatin1Char('/'));
         if (slash < 0 || place == QLatin1String("/"))

@@ -6,8 +6,8 @@
 
 /// How full the unit's file systems are, and which drives are there.
 ///
-/// Folders are paths on disk; one that does not exist stands for the nearest one above it that does. **Thread**: that of
-/// the screens. No call blocks longer than the file system takes to answer.
+/// Folders are paths on disk; one that does not exist stands for the nearest one above it that does. **Thread**: that
+/// of the screens. No call blocks longer than the file system takes to answer.
 class KIV_EXPORT FileSystemUsage
 {
 public:

@@ -45,8 +45,8 @@ QVariant KivAggregate::toVariant() const
 
 int KivAggregate::indexOf(const QByteArray& name) const
 {
-    const auto found = std::find_if(m_members.cbegin(), m_members.cend(),
-            [&](const auto& member) { return member.first == name; });
+    const auto found = std::find_if(
+            m_members.cbegin(), m_members.cend(), [&](const auto& member) { return member.first == name; });
     return found == m_members.cend() ? -1 : int(found - m_members.cbegin());
 }
 

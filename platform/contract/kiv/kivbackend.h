@@ -35,7 +35,7 @@ public:
     /// See getFormatter(). A back end without formatters need not have it.
     virtual BaseFormatter* createFormatter(const QString& name) const;
 
-    /// Whether a drive is mounted at `path`, an absolute path without a slash behind; see FileSystemUsage::isMounted(). A back
-    /// end that leaves the answer to the system's table of mounts returns nothing, and need not have it.
+    /// Whether a drive is mounted at `path`, an absolute path without a slash behind; see FileSystemUsage::isMounted().
+    /// A back end that leaves the answer to the system's table of mounts returns nothing, and need not have it.
     virtual std::optional<bool> isMounted(const QString& path) const;
 };

@@ -11,12 +11,13 @@ class KIVClientItem;
 /// A client's connection to one service.
 ///
 /// It is a plain QObject on every back end, whatever carries the calls. **Ownership**: a client belongs to the back
-/// end, or to the parent that was asked for, and goes at the latest with the back end. It outlives its service: while the
-/// service is gone it answers like that of an empty service, and it is good again once the service has come back.
+/// end, or to the parent that was asked for, and goes at the latest with the back end. It outlives its service: while
+/// the service is gone it answers like that of an empty service, and it is good again once the service has come back.
 ///
-/// **Blocking**: setItem(), sendAction() and invokeAction() wait for the service's answer, at most as long as they say, and
-/// do not spin an event loop meanwhile. An answer that comes later is discarded; what the service then does is reported by
-/// its items as ever. Nothing else blocks. What a call changes may be reported before it returns, or any time after.
+/// **Blocking**: setItem(), sendAction() and invokeAction() wait for the service's answer, at most as long as they say,
+/// and do not spin an event loop meanwhile. An answer that comes later is discarded; what the service then does is
+/// reported by its items as ever. Nothing else blocks. What a call changes may be reported before it returns, or any
+/// time after.
 class KIV_EXPORT KIVClientInterface : public QObject
 {
     Q_OBJECT
@@ -58,8 +59,8 @@ public:
     virtual bool setItem(const QString& id, const QVariant& value) = 0;
 
     /// Asks the service to carry out an action with an argument and waits for its answer for at most `timeoutMs`
-    /// milliseconds. Returns whether it did; `reply`, which may be null, then holds its answer in words. If not, `reply` is
-    /// left as it is and getLastError() says why, also that the service did not answer in time.
+    /// milliseconds. Returns whether it did; `reply`, which may be null, then holds its answer in words. If not,
+    /// `reply` is left as it is and getLastError() says why, also that the service did not answer in time.
     virtual bool sendAction(const QString& id, const QString& argument, QString* reply, int timeoutMs) = 0;
 
     /// Asks the service to carry out an action without an argument. Waits for at most callTimeout.

@@ -12,9 +12,9 @@
 /// settable, ":result:" read-only, ":action:" invocable. A last word "stringARRAY" or "doubleARRAY" marks an array. The
 /// id of a service's manifest, through which a batch of settings is applied, ends in ":manifest:".
 ///
-/// **Values** are a QString, bool, int, uint or double; a "stringARRAY" item holds a QStringList, a "doubleARRAY" item a
-/// QVariantList of doubles, an aggregate a QVariantMap, a list aggregate a QVariantList of those. An item without a value
-/// holds an invalid variant. A client sets values through KIVClientInterface::setItem().
+/// **Values** are a QString, bool, int, uint or double; a "stringARRAY" item holds a QStringList, a "doubleARRAY" item
+/// a QVariantList of doubles, an aggregate a QVariantMap, a list aggregate a QVariantList of those. An item without a
+/// value holds an invalid variant. A client sets values through KIVClientInterface::setItem().
 ///
 /// **Kinds**: an enumeration is a KIVEnumClientItem, an array a KIVVecClientItem, a record a KivAggregateClientItem, a
 /// table a KivListAggregateClientItem; qobject_cast tells them apart.
@@ -22,8 +22,8 @@
 /// **Signals** come on the thread of the item, after the accessors give the new answer, once per change, and not when
 /// what is reported equals what was. A slot may do anything but delete the item.
 ///
-/// **Ownership**: items belong to the back end. They live as long as their service is reachable and publishes them; keep
-/// one over a return to the event loop only in a QPointer. One that comes back under its id is a new object, see
+/// **Ownership**: items belong to the back end. They live as long as their service is reachable and publishes them;
+/// keep one over a return to the event loop only in a QPointer. One that comes back under its id is a new object, see
 /// KIVClientInterface::itemsChanged().
 ///
 /// **Blocking**: no accessor blocks; a back end that talks to another process answers from what it last heard.
@@ -33,8 +33,7 @@ class KIV_EXPORT KIVClientItem : public QObject
 
 public:
     /// What getType() answers; a kind that is not listed is a single value like any other.
-    enum TypeCode : unsigned
-    {
+    enum TypeCode : unsigned {
         TypeNone = 0,
         TypeString = 0x1,
         TypeBool = 0x2,
@@ -51,8 +50,7 @@ public:
     };
 
     /// What getQualityCode() answers: how the service judges the value.
-    enum Quality
-    {
+    enum Quality {
         QualityNone = 0,
         QualityPassing = 16,
         QualityWarning = 32,
@@ -66,7 +64,8 @@ public:
     virtual unsigned getType() const = 0;
 
     /// The type's name: "std::string", "bool", "int", "uint", "double", "std::vector<string>", "std::vector<double>",
-    /// "action", "aggregate" or "listAggregate"; empty for an item without a type. An enumeration has the type of its value.
+    /// "action", "aggregate" or "listAggregate"; empty for an item without a type. An enumeration has the type of its
+    /// value.
     virtual QString getTypeName() const = 0;
 
     /// The full id, for example ":config:basemgr:system:saveLocation:". Never empty, never changes.
@@ -100,8 +99,8 @@ public:
     /// Whether the item has a meaning in the service's present state. Only for items without an expression.
     virtual bool isApplicable() const = 0;
 
-    /// When the item has a meaning, as an expression over other items such as "cfg.mode == 2" or "module.res.state != 0";
-    /// empty when isApplicable() decides.
+    /// When the item has a meaning, as an expression over other items such as "cfg.mode == 2" or "module.res.state !=
+    /// 0"; empty when isApplicable() decides.
     virtual QString getApplicableExpr() const = 0;
 
     /// A further attribute by its name; invalid when the item has none of that name. These are known to the screens:

@@ -3,8 +3,8 @@
 #include <kiv/kiv_export.h>
 #include <kiv/kivclientitem.h>
 
-/// The choices of an enumeration, in the order in which they are offered. They belong to their item and may change while
-/// it lives. Positions outside 0 to count() - 1 give the neutral answer (-1, an empty text, false).
+/// The choices of an enumeration, in the order in which they are offered. They belong to their item and may change
+/// while it lives. Positions outside 0 to count() - 1 give the neutral answer (-1, an empty text, false).
 class KIV_EXPORT KIVEnumChoicesClientItem : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,8 @@ public:
     /// The position of the choice with that value, or -1.
     virtual int indexOf(int value) const;
     bool contains(int value) const { return indexOf(value) >= 0; }
-    /// The label of the choice with that value; empty without one. Values below zero are passed as their two's complement.
+    /// The label of the choice with that value; empty without one. Values below zero are passed as their two's
+    /// complement.
     QString labelForValue(unsigned value) const { return labelAt(indexOf(int(value))); }
 
 Q_SIGNALS:

@@ -27,8 +27,7 @@ class KIV_EXPORT KIVNotification : public QObject
     Q_PROPERTY(QDateTime time READ time NOTIFY changed)
 
 public:
-    enum Kind
-    {
+    enum Kind {
         /// For information. A dialog of it has one answer, which nobody is told.
         Notice,
         /// Something went wrong. A dialog of it has one answer, which nobody is told.

@@ -118,5 +118,5 @@ void KIVNotificationModelManager::answer(void (KIVNotificationModelManager::*ans
     disconnect(notification, &QObject::destroyed, this, &KIVNotificationModelManager::forget);
     takeDialog(0);
     if (notification && notification->kind() == KIVNotification::Request)
-        Q_EMIT (this->*answered)(notification);
+        Q_EMIT(this->*answered)(notification);
 }

@@ -34,8 +34,7 @@ class KIV_EXPORT KIVNotificationModelManager : public QAbstractListModel
     Q_PROPERTY(int waitingDialogs READ waitingDialogs NOTIFY waitingDialogsChanged)
 
 public:
-    enum Role
-    {
+    enum Role {
         KindRole = Qt::UserRole,
         LongLabelRole,
         MsgRole,

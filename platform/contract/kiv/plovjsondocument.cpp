@@ -46,8 +46,8 @@ bool PlovJsonDocument::readFile(const QString& path)
     QJsonParseError parseError {};
     const QJsonDocument document = QJsonDocument::fromJson(text, &parseError);
     if (parseError.error != QJsonParseError::NoError)
-        return fail(QStringLiteral("%1:%2: %3")
-                            .arg(path, textPosition(text, parseError.offset), parseError.errorString()));
+        return fail(
+                QStringLiteral("%1:%2: %3").arg(path, textPosition(text, parseError.offset), parseError.errorString()));
     if (!document.isObject())
         return fail(tr("%1:1:1: the root of the document is not an object").arg(path));
 

@@ -18,7 +18,7 @@ QString tr(const char* text)
     return QCoreApplication::translate("SchemaValidator", text);
 }
 
-template <typename T, void (*Free)(T*)> struct Freed
+template<typename T, void (*Free)(T*)> struct Freed
 {
     void operator()(T* object) const { Free(object); }
 };

@@ -136,8 +136,9 @@ Outcome saveConfiguration(ServiceData& service, const QString& argument)
     const int comma = argument.lastIndexOf(QLatin1Char(','));
     const QString name = argument.left(comma).trimmed();
     if (comma < 0 || name.isEmpty())
-        return {false, tr("The configuration of %1 was not saved: it needs a name, as in \"My settings,1\".")
-                               .arg(service.name)};
+        return {false,
+                tr("The configuration of %1 was not saved: it needs a name, as in \"My settings,1\".")
+                        .arg(service.name)};
     if (!service.keeper)
         return {false, tr("The configuration \"%1\" was not saved: there is no folder to keep it in.").arg(name)};
     QString error;

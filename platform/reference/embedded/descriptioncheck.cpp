@@ -134,8 +134,7 @@ QString serviceProblem(const ServiceDescription& service)
     QHash<QString, const ItemDescription*> items;
     for (int i = 0; i < service.items.size(); ++i) {
         const ItemDescription& item = service.items.at(i);
-        const QString problem
-                = items.contains(item.id) ? tr("the id %1 stands twice").arg(item.id) : itemProblem(item);
+        const QString problem = items.contains(item.id) ? tr("the id %1 stands twice").arg(item.id) : itemProblem(item);
         if (!problem.isEmpty())
             return atItem(i, problem);
         items.insert(item.id, &item);
@@ -192,7 +191,8 @@ Limits convertLimits(unsigned type, const QVariant& minimum, const QVariant& max
         const QVariant& limit = isMinimum ? minimum : maximum;
         const Conversion conversion = limit.isValid() ? convertToType(limitType, {}, limit) : Conversion();
         if (!conversion.problem.isEmpty() || std::isnan(conversion.value.toDouble()))
-            return {{}, {}, (isMinimum ? QLatin1String("/minimum: ") : QLatin1String("/maximum: "))
+            return {{}, {},
+                    (isMinimum ? QLatin1String("/minimum: ") : QLatin1String("/maximum: "))
                             + (conversion.problem.isEmpty() ? tr("not a number") : conversion.problem)};
         (isMinimum ? limits.minimum : limits.maximum) = conversion.value;
     }

@@ -1,7 +1,7 @@
 #include "embeddedbackend.h"
 
-#include "embeddedclient_p.h"
 #include "descriptioncheck_p.h"
+#include "embeddedclient_p.h"
 #include "formatters/formatters_p.h"
 #include "servicedata_p.h"
 #include "servicefile_p.h"
@@ -55,8 +55,9 @@ QStringList EmbeddedBackend::loadFolders(const QStringList& folders)
     for (const QString& folder : folders) {
         const QDir dir(folder);
         if (!dir.exists() || !dir.isReadable()) {
-            problems += QCoreApplication::translate("EmbeddedBackend", "%1: no folder of service files, or not readable")
-                                .arg(folder);
+            problems
+                    += QCoreApplication::translate("EmbeddedBackend", "%1: no folder of service files, or not readable")
+                               .arg(folder);
             continue;
         }
         const QStringList files = dir.entryList({QStringLiteral("*.service.json")}, QDir::Files, QDir::Name);
@@ -108,9 +109,8 @@ EmbeddedService* EmbeddedBackend::publish(
 {
     ServicePlace* place = d->registry.makePlace(description.service);
     if (place->service()) {
-        const QString owner = place->file().isEmpty()
-                ? QCoreApplication::translate("EmbeddedBackend", "the program")
-                : place->file();
+        const QString owner = place->file().isEmpty() ? QCoreApplication::translate("EmbeddedBackend", "the program")
+                                                      : place->file();
         const QString reason
                 = QCoreApplication::translate("EmbeddedBackend", "/service: \"%1\" is published already by %2")
                           .arg(description.service, owner);

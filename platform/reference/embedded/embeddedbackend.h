@@ -29,9 +29,9 @@ public:
     ~EmbeddedBackend() override;
 
     /// Keeps the settings that clients change in this folder, made when it is needed, one "SERVICE.state.json" for each
-    /// service, and gives them to services that are published from now on; an empty path keeps nothing. A file is written
-    /// when the event loop is reached, and before its service goes. One that cannot be written is reported through
-    /// KIVClientInterface::SigError() of the service's clients and tried again after the next change.
+    /// service, and gives them to services that are published from now on; an empty path keeps nothing. A file is
+    /// written when the event loop is reached, and before its service goes. One that cannot be written is reported
+    /// through KIVClientInterface::SigError() of the service's clients and tried again after the next change.
     void setStateFolder(const QString& path);
 
     /// Publishes the service of every "*.service.json" file of the folders, in the order of the folders and, within

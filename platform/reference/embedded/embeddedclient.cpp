@@ -70,8 +70,8 @@ bool EmbeddedClient::sendAction(const QString& id, const QString& argument, QStr
 {
     const QPointer<EmbeddedClient> self(this);
     const int delay = service() ? actionDelay(ServiceData::of(*service()), id) : 0;
-    const Outcome outcome = call(
-            delay, timeoutMs, [id, argument](ServiceData& service) { return carryOut(service, id, argument); });
+    const Outcome outcome
+            = call(delay, timeoutMs, [id, argument](ServiceData& service) { return carryOut(service, id, argument); });
     if (outcome.isDone && reply)
         *reply = outcome.text;
     return remember(self, outcome);
@@ -89,15 +89,16 @@ Outcome EmbeddedClient::call(int delayMs, int timeoutMs, const Request& request)
         return {false, tr("The service %1 cannot be reached. Try again when it runs.").arg(m_serviceName)};
     const qint64 delay = qint64(ServiceData::of(*called).delayMs) + delayMs;
     const qint64 timeout = std::max(timeoutMs, 0);
-    // The contract forbids an event loop here: the caller's page stands still, as it does on an instrument. Sleeping for no
-    // time at all would still cost a turn of the scheduler.
+    // The contract forbids an event loop here: the caller's page stands still, as it does on an instrument. Sleeping
+    // for no time at all would still cost a turn of the scheduler.
     if (delay > 0)
         QThread::msleep(static_cast<unsigned long>(std::min(delay, timeout)));
     if (delay <= timeout)
         return request(ServiceData::of(*called));
     carryOutLater(called, delay - timeout, request);
-    return {false, tr("The service %1 did not answer within %2 ms. It may still do what was asked for.")
-                           .arg(m_serviceName, QString::number(timeout))};
+    return {false,
+            tr("The service %1 did not answer within %2 ms. It may still do what was asked for.")
+                    .arg(m_serviceName, QString::number(timeout))};
 }
 
 /// A slot that heard of what was done may have deleted the client.

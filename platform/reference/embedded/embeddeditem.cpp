@@ -9,8 +9,7 @@ namespace kiv::embedded {
 namespace {
 
 /// One kind of item that answers from the state. Without signals of its own, so that one template serves all kinds.
-template<class Kind>
-class StatefulItem : public Kind
+template<class Kind> class StatefulItem : public Kind
 {
 public:
     StatefulItem(std::shared_ptr<ItemState> state, QObject* parent)

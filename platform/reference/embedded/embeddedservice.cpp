@@ -25,7 +25,7 @@ bool change(const ItemStore::StatePtr& state, Value ItemDescription::*field, con
         return true;
     state->description.*field = value;
     if (state->item)
-        Q_EMIT (state->item->*changed)();
+        Q_EMIT(state->item->*changed)();
     return true;
 }
 

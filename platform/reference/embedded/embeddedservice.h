@@ -38,9 +38,9 @@ public:
     /// The item as clients have it, or null, also while the service cannot be reached. Owned by the service.
     KIVClientItem* item(const QString& id) const;
 
-    /// Reports a value of an item of any category but an action, converted to the item's type; an invalid value for none.
-    /// Limits bind clients only. Returns false also when the value does not convert. Emits KIVClientItem::valueChanged(),
-    /// and unitsChanged() when a formatter shows the new value in another unit.
+    /// Reports a value of an item of any category but an action, converted to the item's type; an invalid value for
+    /// none. Limits bind clients only. Returns false also when the value does not convert. Emits
+    /// KIVClientItem::valueChanged(), and unitsChanged() when a formatter shows the new value in another unit.
     bool setValue(const QString& id, const QVariant& value);
 
     /// Sets an attribute of an item. Emits KIVClientItem::unitsChanged() when it brings a formatter with another unit;
@@ -62,12 +62,13 @@ public:
     /// Emits KIVClientItem::isApplicableChanged(). Returns false also for an item whose expression decides.
     bool setApplicable(const QString& id, bool isApplicable);
 
-    /// Replaces the choices of an enumeration; its value stays. Returns false also when the item is none, and when values or
-    /// names are not unique or do not fit the type. Emits KIVEnumChoicesClientItem::valueChanged().
+    /// Replaces the choices of an enumeration; its value stays. Returns false also when the item is none, and when
+    /// values or names are not unique or do not fit the type. Emits KIVEnumChoicesClientItem::valueChanged().
     bool setChoices(const QString& id, const QVector<ChoiceDescription>& choices);
 
-    /// Sets the limits of what clients set, invalid for none; the value stays, nobody is told. Returns false also when the
-    /// item's type has no limits, they are not of its type (whole numbers for lengths) or the minimum is above the maximum.
+    /// Sets the limits of what clients set, invalid for none; the value stays, nobody is told. Returns false also when
+    /// the item's type has no limits, they are not of its type (whole numbers for lengths) or the minimum is above the
+    /// maximum.
     bool setRange(const QString& id, const QVariant& minimum, const QVariant& maximum);
 
     /// Refuses every write of a client to this setting with `text`; an empty text takes writes again.
@@ -83,22 +84,22 @@ public:
     /// Lets every client emit KIVClientInterface::SigError().
     void reportError(const QString& text);
 
-    /// Mounts a drive at `path`, an instrument's mount point such as "/mnt/usb/", or takes it away. Returns false when the
-    /// path does not begin with a slash. Nobody is told. A drive is there for as long as one service has it mounted, also
-    /// while that one cannot be reached, and goes with it.
+    /// Mounts a drive at `path`, an instrument's mount point such as "/mnt/usb/", or takes it away. Returns false when
+    /// the path does not begin with a slash. Nobody is told. A drive is there for as long as one service has it
+    /// mounted, also while that one cannot be reached, and goes with it.
     bool setMounted(const QString& path, bool isMounted);
     bool isMounted(const QString& path) const;
 
-    /// Publishes a further item behind the others and takes back the value that was kept for it. Returns false, with the
-    /// reason in `problem`, when the description is not sound or the id is taken. Clients emit itemsChanged().
+    /// Publishes a further item behind the others and takes back the value that was kept for it. Returns false, with
+    /// the reason in `problem`, when the description is not sound or the id is taken. Clients emit itemsChanged().
     bool addItem(const ItemDescription& description, QString* problem = nullptr);
 
     /// Clients emit itemsChanged(), when the item is gone. A value that was kept for it stays in the state file.
     bool removeItem(const QString& id);
 
-    /// Whether clients reach the service. False destroys the items that clients have, true makes new ones that know what
-    /// was reported meanwhile; clients emit itemsChanged() once when it differs from before. A request that is still to be
-    /// carried out late is dropped if its time comes while the service cannot be reached.
+    /// Whether clients reach the service. False destroys the items that clients have, true makes new ones that know
+    /// what was reported meanwhile; clients emit itemsChanged() once when it differs from before. A request that is
+    /// still to be carried out late is dropped if its time comes while the service cannot be reached.
     void setReachable(bool isReachable);
     bool isReachable() const;
 

@@ -57,9 +57,9 @@ QString ItemState::valueText(bool showUnits) const
     const QString choice = choiceText();
     if (choice.isEmpty() && formatter())
         return formattedText(showUnits);
-    const QString text
-            = choice.isEmpty() ? shownText(description.value, description.members, precision()) : choice;
-    return showUnits && !text.isEmpty() && !description.unit.isEmpty() ? text + QLatin1Char(' ') + description.unit : text;
+    const QString text = choice.isEmpty() ? shownText(description.value, description.members, precision()) : choice;
+    return showUnits && !text.isEmpty() && !description.unit.isEmpty() ? text + QLatin1Char(' ') + description.unit
+                                                                       : text;
 }
 
 QString ItemState::unitText() const
@@ -123,9 +123,11 @@ BaseFormatter* ItemState::formatter() const
 
 QString ItemState::choiceText() const
 {
-    const auto choice = std::find_if(description.choices.cbegin(), description.choices.cend(),
-            [this](const ChoiceDescription& c) { return isSame(QVariant(c.value), description.value)
-                    || isSame(QVariant(uint(c.value)), description.value); });
+    const auto choice = std::find_if(
+            description.choices.cbegin(), description.choices.cend(), [this](const ChoiceDescription& c) {
+                return isSame(QVariant(c.value), description.value)
+                        || isSame(QVariant(uint(c.value)), description.value);
+            });
     if (choice == description.choices.cend())
         return QString();
     return choice->label.isEmpty() ? choice->name : choice->label;

@@ -57,7 +57,8 @@ struct ItemDescription
     QVariantMap attributes;
     /// Decimals of a shown double; -1: as many as the value needs.
     int precision = -1;
-    /// Limits of what clients set: of a number, or of the length of a text; invalid for none. Of an array, each element's.
+    /// Limits of what clients set: of a number, or of the length of a text; invalid for none. Of an array, each
+    /// element's.
     QVariant minimum;
     QVariant maximum;
     /// An int or uint with choices is an enumeration, with `isEnumeration` also before it has any.

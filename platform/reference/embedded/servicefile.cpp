@@ -110,8 +110,8 @@ bool isOfKind(const QString& type, const QJsonValue& value)
     return value.isDouble();
 }
 
-/// The schema sees no further than a record's braces: what its members are stands elsewhere in the item. Converting alone
-/// would let a text pass for a number.
+/// The schema sees no further than a record's braces: what its members are stands elsewhere in the item. Converting
+/// alone would let a text pass for a number.
 QString recordProblem(const QString& place, const QVector<MemberDescription>& members, const QJsonObject& record)
 {
     for (const MemberDescription& member : members) {
@@ -129,8 +129,7 @@ QString recordsProblem(const ItemDescription& item, const QJsonValue& value)
         return recordProblem(QStringLiteral("/value"), item.members, value.toObject());
     const QJsonArray rows = item.members.isEmpty() ? QJsonArray() : value.toArray();
     for (int i = 0; i < rows.size(); ++i) {
-        const QString problem
-                = recordProblem(QStringLiteral("/value/%1").arg(i), item.members, rows.at(i).toObject());
+        const QString problem = recordProblem(QStringLiteral("/value/%1").arg(i), item.members, rows.at(i).toObject());
         if (!problem.isEmpty())
             return problem;
     }

@@ -48,8 +48,7 @@ Conversion toDouble(const QVariant& value)
     return isRead ? Conversion {number, {}} : Conversion {{}, tr("not a number")};
 }
 
-template<class Integer>
-Conversion toInteger(const QVariant& value)
+template<class Integer> Conversion toInteger(const QVariant& value)
 {
     const Conversion conversion = toDouble(value);
     if (!conversion.problem.isEmpty())

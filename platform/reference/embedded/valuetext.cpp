@@ -47,10 +47,10 @@ QString limitsText(const QVariant& minimum, const QVariant& maximum)
     return tr("%1 to %2").arg(shownText(minimum, {}, -1), shownText(maximum, {}, -1));
 }
 
-template<class Integer>
-QString integerLimits(const ItemDescription& item)
+template<class Integer> QString integerLimits(const ItemDescription& item)
 {
-    const auto orOf = [](const QVariant& limit, Integer otherwise) { return limit.isValid() ? limit : QVariant(otherwise); };
+    const auto orOf
+            = [](const QVariant& limit, Integer otherwise) { return limit.isValid() ? limit : QVariant(otherwise); };
     return limitsText(orOf(item.minimum, std::numeric_limits<Integer>::min()),
             orOf(item.maximum, std::numeric_limits<Integer>::max()));
 }

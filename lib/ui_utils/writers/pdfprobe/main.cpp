@@ -116,7 +116,7 @@ unsigned char resultFor(const char* contents, std::uint64_t bytes)
 
 int main()
 {
-    struct stat file {};
+    struct stat file = {};
     if (::fstat(STDIN_FILENO, &file) != 0 || file.st_size <= 0)
         return 1;
     const auto bytes = std::uint64_t(file.st_size);
