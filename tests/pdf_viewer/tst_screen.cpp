@@ -267,6 +267,13 @@ private Q_SLOTS:
         QTRY_VERIFY(isSharp(999));
         QCOMPARE(colorAt(999, 0.5, 0.95), QColor(Qt::black));
         QVERIFY2(pictures().size() <= 5, qPrintable(QString::number(pictures().size())));
+        // Nor are there more of them in a window that has no room for one.
+        m_window->setMinimumSize({1, 1});
+        for (const QSize& size : {QSize(20, 300), QSize(300, 62), QSize(1, 1)}) {
+            m_window->resize(size);
+            QTRY_COMPARE(m_pages->width(), qreal(size.width()));
+            QVERIFY2(zoom() > 0 && pictures().size() < 100, qPrintable(QString::number(pictures().size())));
+        }
     }
 
     /// Sideways pages, and one that would be larger than any memory.

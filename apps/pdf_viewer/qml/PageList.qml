@@ -85,8 +85,10 @@ ListView {
         if (size.width <= 0 || width <= 0)
             return 1
         const natural = dotsPerInch / 72
-        const across = (width - 2 * Theme.margin) / (size.width * natural)
-        return wanted === PageList.FitPage ? Math.min(across, (height - Theme.gap) / (size.height * natural)) : across
+        // A window may have no room at all for a page; pages of less than nothing would all be in sight.
+        const across = Math.max(1, width - 2 * Theme.margin) / (size.width * natural)
+        const down = Math.max(1, height - Theme.gap) / (size.height * natural)
+        return wanted === PageList.FitPage ? Math.min(across, down) : across
     }
 
     // Between two pages is the upper one.
