@@ -51,6 +51,7 @@ private Q_SLOTS:
                 "question",
                 [=](Report& r) {
                     QVERIFY(r.writeXmlReport(r.getSaveFilePath("a", ".xml")));
+                    r.addReportToNoSyncList("/cust/public/reports/a.xml");
                     dialog(r);
                 },
                 {"a.xml"});
@@ -72,6 +73,10 @@ private Q_SLOTS:
         QStringList found = names("/cust/public/reports");
         std::sort(found.begin(), found.end(), std::greater<>());
         QTEST(found, "files");
+        // What is written without the controller stays from the cloud without it.
+        const QByteArray list = contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"));
+        for (const QString& file : qAsConst(found))
+            QVERIFY2(file == "f" || list.contains("/" + file.toUtf8() + "\n"), qPrintable(file));
     }
     void generatorsMayDeleteTheController()
     {

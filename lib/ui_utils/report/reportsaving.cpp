@@ -4,6 +4,7 @@
 
 #include "core/itemids.h"
 #include "core/paths.h"
+#include "report/nosynclist_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
 #include "report/reportnaming_p.h"
@@ -45,6 +46,7 @@ private:
     bool writeFormats();
     bool writeFormat(const uiutils::ReportFormat& format);
     void recordSync();
+    void recordSync(const QString& path);
     bool mayCopy();
     bool copyToUsb();
     bool copyToUsb(const uiutils::ReportFormat& format);
@@ -202,8 +204,7 @@ bool Report::Save::write()
 bool Report::Save::writeAndRecord()
 {
     const bool isComplete = writeFormats();
-    if (m_report)
-        recordSync();
+    recordSync();
     return m_report && isComplete;
 }
 
@@ -232,24 +233,45 @@ bool Report::Save::writeFormats()
 bool Report::Save::writeFormat(const uiutils::ReportFormat& format)
 {
     const QString path = m_report->getSaveFilePath(m_name, format.suffix);
-    if (!m_report || !(m_report->*format.writer)(path, m_overwrite) || !m_report)
+    if (!m_report)
         return false;
-    m_written += m_report->m_isCompressionEnabled ? path + GZIP_EXTENSION : path;
-    m_report->writeMetadata(m_written.constLast(), QLatin1String(format.label));
+    bool isCompressed = m_report->m_isCompressionEnabled;
+    if (!(m_report->*format.writer)(path, m_overwrite))
+        return false;
+    // The writer may have changed it, and may have been the controller's end.
+    if (m_report)
+        isCompressed = m_report->m_isCompressionEnabled;
+    m_written += isCompressed ? path + GZIP_EXTENSION : path;
+    if (m_report)
+        m_report->writeMetadata(m_written.constLast(), QLatin1String(format.label));
     return true;
 }
 
+/// The reports outlive a controller that went while they were written, and so does what the user has chosen.
 void Report::Save::recordSync()
 {
-    (m_isSynced ? m_report->m_syncedReports : m_report->m_unsyncedReports) += m_written;
-    // A report that could not be compressed lies there as well.
-    const QStringList paths = m_isSynced ? m_written : m_written + m_report->m_state->strays;
-    for (const QString& path : paths) {
-        if (m_report && m_isSynced)
-            m_report->removeReportFromNoSyncList(path);
-        else if (m_report)
-            m_report->addReportToNoSyncList(path);
+    QStringList paths = m_written;
+    if (m_report) {
+        (m_isSynced ? m_report->m_syncedReports : m_report->m_unsyncedReports) += m_written;
+        // A report that could not be compressed lies there as well.
+        if (!m_isSynced)
+            paths += m_report->m_state->strays;
     }
+    for (const QString& path : qAsConst(paths))
+        recordSync(path);
+}
+
+void Report::Save::recordSync(const QString& path)
+{
+    if (m_report && m_isSynced)
+        return m_report->removeReportFromNoSyncList(path);
+    if (m_report)
+        return m_report->addReportToNoSyncList(path);
+    QString error;
+    const bool isRecorded
+            = m_isSynced ? uiutils::removeFromNoSyncList(path, &error) : uiutils::addToNoSyncList(path, &error);
+    if (!isRecorded)
+        qWarning("%s", qUtf8Printable(error));
 }
 
 /// A stick that was not there when the save began, or another one than then, may hold reports that nobody has asked
