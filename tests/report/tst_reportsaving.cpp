@@ -392,6 +392,19 @@ private Q_SLOTS:
         QCOMPARE(saved, QVector<bool>{true});
         QCOMPARE(contentsOf(onDisk("/mnt/usb/" + name)), QByteArray("%PDF-"));
     }
+    void theLocationIsThatOfTheNextSave()
+    {
+        QVERIFY(basemgr()->setValue(locationItem, 1));
+        Controller report;
+        report.setUp("a", 3);
+        QStringList shown;
+        connect(&report, &Report::saveLocationChanged, &report, [&] { shown << report.getSaveLocation(); });
+        report.whileMaking = [&] { basemgr()->setValue(usbItem, true); };
+        QVERIFY(report.save());
+        QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
+        QTRY_VERIFY(!shown.isEmpty());
+        QCOMPARE(shown.constLast(), QString("USB:/"));
+    }
     void nothingIsPutWhereAStickWas()
     {
         QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));

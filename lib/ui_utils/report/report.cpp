@@ -291,9 +291,10 @@ void Report::setCanWriteToFile(bool allowed)
         Q_EMIT canWriteToFileChanged();
 }
 
+/// Of the next save: one that runs goes on to where it began, but nobody hears of it when it is over.
 QString Report::getSaveLocation()
 {
-    return m_state->shown(m_state->destinations().folder(getReportFilePath()));
+    return m_state->shown(uiutils::ReportDestinations::current().folder(getReportFilePath()));
 }
 
 QVariantList Report::getReportFiles()
