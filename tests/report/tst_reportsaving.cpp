@@ -350,6 +350,19 @@ private Q_SLOTS:
         manager()->accept();
         QCOMPARE(saved, QVector<bool>({false, true}));
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("new"));
+        // A question of a writer alone is not about what a save writes.
+        QVERIFY(!report.writeTxtReport("/cust/public/reports/a.txt"));
+        report.text = "newer";
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>({false, true, false}));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("new"));
+        // Once that writer has its answer, who overwrites without a question does.
+        report.disconnect(&report);
+        QVERIFY(!report.writeTxtReport("/cust/public/reports/a.txt"));
+        manager()->accept();
+        QVERIFY(report.writeTxtReport("/cust/public/reports/a.txt", true));
+        QVERIFY(report.save(true));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("newer"));
     }
     void sticksThatComeLateAreAskedAbout_data()
     {

@@ -54,9 +54,8 @@ public:
 
     /// Where the save that runs goes, whatever is plugged or pulled meanwhile.
     std::optional<ReportDestinations> fixedDestinations;
-    /// What the user is being asked about, and what was answered with yes. None when a writer asks that was called
-    /// alone.
-    std::optional<Agreement> asked;
+    /// What the user was asked about last, and what was answered with yes and not taken up yet.
+    Agreement asked;
     std::optional<Agreement> agreed;
     /// What the save that runs has looked at before it wrote anything.
     QStringList checkedPaths;
@@ -64,6 +63,13 @@ public:
     QStringList strays;
 
     ReportDestinations destinations() const { return fixedDestinations.value_or(ReportDestinations::current()); }
+
+    /// An answer counts once, also when a writer alone has asked: it is not for a save that comes much later.
+    void takeUpAgreement(const QString& path)
+    {
+        if (agreed && agreed->paths.contains(path))
+            agreed.reset();
+    }
 
     /// From here to endSave(), one error is told however many files it hits.
     void beginSave()

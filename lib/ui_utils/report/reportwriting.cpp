@@ -87,6 +87,7 @@ bool Report::writeContents(const QString& path, const QByteArray& contents)
     // The user has let go of a report of the name before it came to this.
     if (m_isCompressionEnabled)
         QFile::remove(onDisk(path));
+    m_state->takeUpAgreement(path);
     if (path.endsWith(PDF_EXTENSION))
         m_lastPdf = file.path;
     // Slots and hooks may delete the controller. The file is there all the same.
@@ -133,9 +134,7 @@ void Report::ask(const QString& taken, const QStringList& paths)
     connect(manager, &KIVNotificationModelManager::notificationRejected, this, &Report::overwriteRejected,
             Qt::UniqueConnection);
     const QPointer<Report> self(this);
-    m_state->asked.reset();
-    if (m_state->fixedDestinations)
-        m_state->asked = uiutils::Agreement {*m_state->fixedDestinations, m_state->checkedPaths + paths};
+    m_state->asked = {m_state->destinations(), m_state->checkedPaths + paths};
     m_state->gate.ask(taken);
     if (self)
         overwriteAsked(taken);
