@@ -364,6 +364,23 @@ private Q_SLOTS:
         QVERIFY(report.save(true));
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("newer"));
     }
+    void anAgreementHoldsForItsFolderAlone()
+    {
+        QVERIFY(writeFile(onDisk("/cust/public/reports/f/a.xml"), "old"));
+        QVERIFY(writeFile(onDisk("/cust/public/reports/g/a.txt"), "precious"));
+        Controller report;
+        report.setUp("a", 5);
+        report.setFolder("f");
+        QVERIFY(!report.save());
+        QVector<bool> saved;
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        connect(&report, &Report::lastSavedXMLChanged, &report, [&] { report.setFolder("g"); });
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>{false});
+        QVERIFY(contentsOf(onDisk("/cust/public/reports/f/a.xml")).startsWith("<?xml"));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/g/a.txt")), QByteArray("precious"));
+        QVERIFY(manager()->currentDialog() && manager()->currentDialog()->msg().contains("g/a.txt"));
+    }
     void sticksThatComeLateAreAskedAbout_data()
     {
         QTest::addColumn<int>("location");

@@ -236,7 +236,9 @@ bool Report::Save::writeFormat(const uiutils::ReportFormat& format)
     if (!m_report)
         return false;
     bool isCompressed = m_report->m_isCompressionEnabled;
-    if (!(m_report->*format.writer)(path, m_overwrite))
+    // Hooks and slots may have changed the folder, and nobody has looked what lies in the new one.
+    const bool overwrite = m_overwrite && m_report->m_state->checkedPaths.contains(path);
+    if (!(m_report->*format.writer)(path, overwrite))
         return false;
     // The writer may have changed it, and may have been the controller's end.
     if (m_report)
