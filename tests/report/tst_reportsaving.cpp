@@ -640,8 +640,10 @@ private Q_SLOTS:
         report.setCompressionEnabled(true);
         const auto restore = qScopeGuard([path = qgetenv("PATH")] { qputenv("PATH", path); });
         qputenv("PATH", "/nowhere");
+        QSignalSpy files(&report, &Report::reportFilesChanged);
         QVERIFY(!report.save());
         QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
+        QCOMPARE(files.count(), 1);
         QVERIFY(contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"))
                         .contains("/cust/public/reports/a.txt\n"));
     }

@@ -78,10 +78,15 @@ bool Report::writeTextReport(const QString& path, const QString& text, const QSt
 bool Report::writeContents(const QString& path, const QByteArray& contents)
 {
     const uiutils::WrittenFile file = uiutils::writeReportFile(path, contents, m_isCompressionEnabled);
+    // Slots and hooks may delete the controller. The file is there all the same.
+    const QPointer<Report> self(this);
     if (!file.ok) {
-        if (!file.path.isEmpty())
+        const bool isStray = !file.path.isEmpty();
+        if (isStray)
             m_state->strays += file.path;
         m_state->tellWriteError(path, file.error);
+        if (self && isStray)
+            Q_EMIT reportFilesChanged();
         return false;
     }
     // The user has let go of a report of the name before it came to this.
@@ -90,8 +95,6 @@ bool Report::writeContents(const QString& path, const QByteArray& contents)
     m_state->takeUpAgreement(path);
     if (path.endsWith(PDF_EXTENSION))
         m_lastPdf = file.path;
-    // Slots and hooks may delete the controller. The file is there all the same.
-    const QPointer<Report> self(this);
     const bool notifiesTray = m_notifiesTray;
     if (path.endsWith(XML_EXTENSION) && changes(m_lastSavedXml, file.path))
         Q_EMIT lastSavedXMLChanged();
