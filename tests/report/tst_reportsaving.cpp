@@ -609,7 +609,9 @@ private Q_SLOTS:
         report.proposed.clear();
         report.setBaseDirectory(QString());
         QVERIFY(report.save());
-        QCOMPARE(names("/cust/public/reports"), QStringList("empty.txt"));
+        report.proposed = "1/10 GE";
+        QVERIFY(report.save());
+        QCOMPARE(names("/cust/public/reports"), QStringList({"1_10 GE.txt", "empty.txt"}));
     }
 
     void compressingReplacesThePlainReport()

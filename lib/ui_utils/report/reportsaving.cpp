@@ -343,7 +343,8 @@ QString Report::chosenName()
 {
     const KivData* item = getSetting(uiutils::nameSetting);
     QString name = item ? item->getValue().toString() : QString();
+    // The label may be such as "1/10 GE", and that is nothing that users could mend.
     if (item && name.isEmpty())
-        name = proposedFileName();
+        name = uiutils::safeFileName(proposedFileName());
     return name.isEmpty() ? QStringLiteral("empty") : name;
 }
