@@ -15,6 +15,7 @@ private Q_SLOTS:
         QTest::newRow("json") << 4 << QStringList("a.json");
         QTest::newRow("all that are offered") << 5 << QStringList({"a.pdf", "a.xml"});
         QTest::newRow("none") << 6 << QStringList();
+        QTest::newRow("all, and none is offered") << 5 << QStringList();
     }
     void saves()
     {
@@ -23,13 +24,14 @@ private Q_SLOTS:
         Controller report;
         report.setFolder("f");
         report.setUp("a", format);
-        for (int other : {2, 3, 4})
-            report.setFormatApplicable(other, format != 5);
+        for (int other = 0; other < 5; ++other)
+            report.setFormatApplicable(other, format != 5 || (other < 2 && !files.isEmpty()));
         QSignalSpy generated(&report, &Report::reportGenerated);
         QCOMPARE(report.save(), !files.isEmpty());
         QCOMPARE(names("/cust/public/reports/f"), files);
         QCOMPARE(generated.count(), files.isEmpty() ? 0 : 1);
-        QCOMPARE(manager()->count(), files.size());
+        QCOMPARE(manager()->count(), qMax(1, files.size()));
+        QCOMPARE(manager()->currentDialog() != nullptr, files.isEmpty());
         if (!files.isEmpty())
             QCOMPARE(generated.at(0).at(0).toString(), format == 5 ? "a" : "/cust/public/reports/f/" + files.at(0));
         if (format == 3)

@@ -110,12 +110,16 @@ void Report::Save::occupy(bool isOccupied)
         m_report->m_isSaving = isOccupied;
 }
 
-/// A name that is none of a file is refused before a folder is made for it.
+/// A name that is none of a file, and no format at all, are refused before a folder is made.
 bool Report::Save::takeName()
 {
     m_name = m_report->chosenName();
     m_isAll = m_report->isAll();
     m_formats = uiutils::formatsToWrite(m_report->getFormat(), m_report->m_settings.value(uiutils::formatSetting));
+    if (m_formats.isEmpty()) {
+        m_report->m_state->tell(tr("Write Error"), tr("No format is chosen to save the report in."));
+        return false;
+    }
     const auto refused
             = std::find_if_not(m_formats.cbegin(), m_formats.cend(), [&](const uiutils::ReportFormat* format) {
                   return uiutils::isFileName(m_name, format->suffix, m_report->isCompressionEnabled());
@@ -214,7 +218,7 @@ bool Report::Save::writeFormats()
     // It may have been cancelled meanwhile.
     if (!m_report || !m_report->tellProgress(false))
         return false;
-    bool isComplete = !m_formats.isEmpty();
+    bool isComplete = true;
     for (const uiutils::ReportFormat* format : qAsConst(m_formats)) {
         const bool isWritten = writeFormat(*format);
         isComplete = isComplete && isWritten;
