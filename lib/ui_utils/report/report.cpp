@@ -180,8 +180,8 @@ void Report::loadSettings()
 
 void Report::saveSettings()
 {
-    uiutils::saveReportSettings(uiutils::reportSettingsPath(getFolder()), m_settings,
-            m_state->initialSettings.value_or(QVariantMap()));
+    uiutils::saveReportSettings(
+            uiutils::reportSettingsPath(getFolder()), m_settings, m_state->initialSettings.value_or(QVariantMap()));
 }
 
 QVariantMap Report::getSettings() const
