@@ -15,6 +15,8 @@
 #include <QVector3D>
 #include <QVector4D>
 
+#include <utility>
+
 using uiutils::isWithin;
 
 namespace {
@@ -107,7 +109,7 @@ void UiData::setValue(QVariant value)
 
 void UiData::setValue(QVector<QVariant> elements)
 {
-    m_elements = elements;
+    m_elements = std::move(elements);
     joinElements();
     const QPointer<UiData> self(this);
     Q_EMIT valueChanged();
