@@ -1,6 +1,5 @@
 #include "demooptions.h"
 
-#include "common/answers.h"
 #include "common/locations.h"
 #include "loopbackmeasurement.h"
 
@@ -17,8 +16,10 @@ QString tr(const char* text)
     return QCoreApplication::translate("DemoOptions", text);
 }
 
-constexpr auto answered = apps::answered<DemoOptions>;
-constexpr auto misused = apps::misused<DemoOptions>;
+DemoOptions misused(const QString& message)
+{
+    return apps::ended<DemoOptions>(apps::misused(message));
+}
 
 } // namespace
 
@@ -32,9 +33,6 @@ DemoOptions readOptions(const QStringList& arguments)
                "application of the instrument does.\n"
                "With a display a window opens. Without one, or with --tour, the program runs by itself.\n\n"
                "Exit status: 0 done, 1 failed, 2 wrong command line."));
-    // The parser's own help option would bring options of Qt along.
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
-    const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption root(QStringLiteral("root"),
             tr("Keep everything that is written below <folder> (default: %1).").arg(ownRoot), tr("folder"), ownRoot);
     const QCommandLineOption services(QStringLiteral("services"),
@@ -48,16 +46,11 @@ DemoOptions readOptions(const QStringList& arguments)
             tr("number"));
     const QCommandLineOption tour(
             QStringLiteral("tour"), tr("Measure, save a report, take a picture of each page and quit."));
-    parser.addOptions({help, root, services, samples, tour});
+    parser.addOptions({root, services, samples, tour});
 
-    if (!parser.parse(arguments))
-        return misused(parser.errorText());
-    if (parser.isSet(help))
-        return answered(parser.helpText());
-    if (parser.isSet(version)) {
-        return answered(QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion()
-                + QLatin1Char('\n'));
-    }
+    const apps::CommandLine line = apps::parse(parser, arguments);
+    if (line.outcome != apps::CommandLine::Run)
+        return apps::ended<DemoOptions>(line);
     if (!parser.positionalArguments().isEmpty())
         return misused(tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst()));
     if (parser.value(root).isEmpty())

@@ -1,23 +1,15 @@
 #pragma once
 
+#include "common/commandline.h"
+
 #include <QString>
 #include <QStringList>
 
 namespace uiutils::demo {
 
 /// What the command line and the environment ask of the demo.
-struct DemoOptions
+struct DemoOptions : apps::CommandLine
 {
-    enum Outcome {
-        Run,
-        /// `message` is for standard output, and the program is done.
-        Answered,
-        /// `message` says what is wrong with the command line.
-        Misused,
-    };
-
-    Outcome outcome = Run;
-    QString message;
     /// Absolute folder below which the instrument's paths lie.
     QString root;
     QStringList serviceFolders;

@@ -92,8 +92,7 @@ int runDemo(const DemoOptions& options)
     QQuickWindow* const window = openWindow(engine, &measurement);
     if (!window)
         return complain(QCoreApplication::translate("main",
-                "The main page could not be loaded, for the reason given above. Check that the QML modules "
-                "QtQuick, "
+                "The main page could not be loaded, for the reason given above. Check that the QML modules QtQuick, "
                 "QtQuick.Controls, QtQuick.Layouts and QtQuick.Window are installed."));
 
     auto* const report = window->property("report").value<LoopbackReport*>();
@@ -107,26 +106,15 @@ int runDemo(const DemoOptions& options)
     return exitCode;
 }
 
-/// The options are read before the display is opened, so that --help works without one.
-DemoOptions readOptionsOf(int argc, char** argv)
-{
-    const QCoreApplication application(argc, argv);
-    return readOptions(QCoreApplication::arguments());
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
     QCoreApplication::setApplicationName(QStringLiteral("uiutils-demo"));
     QCoreApplication::setApplicationVersion(QStringLiteral(UIUTILS_DEMO_VERSION));
-    const DemoOptions options = readOptionsOf(argc, argv);
-    if (options.outcome == DemoOptions::Misused)
-        return complain(options.message, exitMisused);
-    if (options.outcome == DemoOptions::Answered) {
-        std::fputs(qUtf8Printable(options.message), stdout);
-        return exitDone;
-    }
+    const DemoOptions options = readEarly(argc, argv, readOptions);
+    if (const auto exitCode = exitCodeOf(options))
+        return *exitCode;
 
     // What the library notes for its developers is no business of a user, who may ask for it by QT_LOGGING_RULES.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));

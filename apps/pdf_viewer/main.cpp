@@ -11,15 +11,12 @@
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 
-#include <cstdio>
 #include <cstdlib>
 #include <vector>
 
 using namespace uiutils;
 using apps::complain;
-using apps::exitDone;
 using apps::exitFailed;
-using apps::exitMisused;
 using viewer::Options;
 using viewer::ViewerDocument;
 
@@ -49,13 +46,6 @@ private:
     std::vector<char*> m_pointers;
     int m_count = 0;
 };
-
-/// The options are read before the display is opened, so that --help works without one.
-Options readOptionsOf(int argc, char** argv)
-{
-    const QCoreApplication application(argc, argv);
-    return viewer::readOptions(QCoreApplication::arguments());
-}
 
 bool hasWindowSystem()
 {
@@ -110,13 +100,9 @@ int main(int argc, char** argv)
 {
     QCoreApplication::setApplicationName(QStringLiteral("pdf_viewer"));
     QCoreApplication::setApplicationVersion(QStringLiteral(UIUTILS_VIEWER_VERSION));
-    const Options options = readOptionsOf(argc, argv);
-    if (options.outcome == Options::Misused)
-        return complain(options.message, exitMisused);
-    if (options.outcome == Options::Answered) {
-        std::fputs(qUtf8Printable(options.message), stdout);
-        return exitDone;
-    }
+    const Options options = apps::readEarly(argc, argv, viewer::readOptions);
+    if (const auto exitCode = apps::exitCodeOf(options))
+        return *exitCode;
 
     viewer::limitProcess();
     const bool isPlatformGiven = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");

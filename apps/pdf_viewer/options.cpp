@@ -1,7 +1,5 @@
 #include "options.h"
 
-#include "common/answers.h"
-
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -17,8 +15,10 @@ QString tr(const char* text)
     return QCoreApplication::translate("Options", text);
 }
 
-constexpr auto answered = apps::answered<Options>;
-constexpr auto misused = apps::misused<Options>;
+Options misused(const QString& message)
+{
+    return apps::ended<Options>(apps::misused(message));
+}
 
 /// One line, whatever a report is called.
 QString titleOf(const QString& asked, const QString& file)
@@ -39,9 +39,6 @@ Options readOptions(const QStringList& arguments)
             tr("Shows a PDF file, also one that is compressed (.pdf.gz), on a touch screen or in a window.\n\n"
                "Exit status: 0 done, 1 the file could not be shown, 2 wrong command line."));
     parser.addPositionalArgument(QStringLiteral("file"), tr("The PDF file to show."), QStringLiteral("file.pdf"));
-    // The parser's own help option would bring options of Qt along.
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
-    const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption density(QStringLiteral("dpy"),
             tr("The screen has <number> dots per inch, 1 to %1 (default: %2). At 100 % a page has its natural size there.")
                     .arg(mostDotsPerInch)
@@ -56,16 +53,11 @@ Options readOptions(const QStringList& arguments)
             tr("Use the input plug-in <name:device>; may be given more than once. Without effect where a window system brings "
                "the input, and where there is no such device."),
             tr("name:device"));
-    parser.addOptions({help, density, wholeScreen, title, plugin});
+    parser.addOptions({density, wholeScreen, title, plugin});
 
-    if (!parser.parse(arguments))
-        return misused(parser.errorText());
-    if (parser.isSet(help))
-        return answered(parser.helpText());
-    if (parser.isSet(version)) {
-        return answered(QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion()
-                + QLatin1Char('\n'));
-    }
+    const apps::CommandLine line = apps::parse(parser, arguments);
+    if (line.outcome != apps::CommandLine::Run)
+        return apps::ended<Options>(line);
     const QStringList files = parser.positionalArguments();
     if (files.size() != 1 || files.constFirst().isEmpty())
         return misused(tr("Name one PDF file to show."));

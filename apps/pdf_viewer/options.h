@@ -1,23 +1,15 @@
 #pragma once
 
+#include "common/commandline.h"
+
 #include <QString>
 #include <QStringList>
 
 namespace uiutils::viewer {
 
 /// What the command line asks for.
-struct Options
+struct Options : apps::CommandLine
 {
-    enum Outcome {
-        Show,
-        /// `message` is for standard output, and the program is done.
-        Answered,
-        /// `message` says what is wrong with the command line.
-        Misused,
-    };
-
-    Outcome outcome = Show;
-    QString message;
     /// The PDF file, on disk, as it was named.
     QString file;
     /// What the window is called: never empty.

@@ -18,7 +18,6 @@ using namespace uiutils;
 using apps::complain;
 using apps::exitDone;
 using apps::exitFailed;
-using apps::exitMisused;
 using qmltool::Options;
 using qmltool::PageWindow;
 
@@ -54,26 +53,15 @@ int show(apps::Instrument& instrument, const Options& options)
     return QCoreApplication::exec();
 }
 
-/// The options are read before the display is opened, so that --help works without one.
-Options readOptionsOf(int argc, char** argv)
-{
-    const QCoreApplication application(argc, argv);
-    return qmltool::readOptions(QCoreApplication::arguments());
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
     QCoreApplication::setApplicationName(QStringLiteral("uiutils-qml"));
     QCoreApplication::setApplicationVersion(QStringLiteral(UIUTILS_QML_VERSION));
-    const Options options = readOptionsOf(argc, argv);
-    if (options.outcome == Options::Misused)
-        return complain(options.message, exitMisused);
-    if (options.outcome == Options::Answered) {
-        std::fputs(qUtf8Printable(options.message), stdout);
-        return exitDone;
-    }
+    const Options options = apps::readEarly(argc, argv, qmltool::readOptions);
+    if (const auto exitCode = apps::exitCodeOf(options))
+        return *exitCode;
 
     // What the library notes for its developers is no business of a user, who may ask for it by QT_LOGGING_RULES.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\nqml.debug=true"));
@@ -84,5 +72,5 @@ int main(int argc, char** argv)
     if (!apps::loadServices(backend, options.serviceFolders, options.root))
         return exitFailed;
     apps::Instrument instrument(backend);
-    return options.outcome == Options::List ? list(instrument) : show(instrument, options);
+    return options.page.isEmpty() ? list(instrument) : show(instrument, options);
 }

@@ -1,6 +1,5 @@
 #include "options.h"
 
-#include "common/answers.h"
 #include "common/locations.h"
 
 #include <QCommandLineParser>
@@ -16,8 +15,10 @@ QString tr(const char* text)
     return QCoreApplication::translate("Options", text);
 }
 
-constexpr auto answered = apps::answered<Options>;
-constexpr auto misused = apps::misused<Options>;
+Options misused(const QString& message)
+{
+    return apps::ended<Options>(apps::misused(message));
+}
 
 } // namespace
 
@@ -32,9 +33,6 @@ Options readOptions(const QStringList& arguments)
                "services.basemgr.\n\n"
                "Exit status: 0 done, 1 failed, 2 wrong command line."));
     parser.addPositionalArgument(QStringLiteral("page"), tr("The QML file to show."), QStringLiteral("page.qml"));
-    // The parser's own help option would bring options of Qt along.
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
-    const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption services({QStringLiteral("s"), QStringLiteral("services")},
             tr("Publish the services described in <folder>; may be given more than once (default: %1).")
                     .arg(ownServices.join(QLatin1Char(':'))),
@@ -48,26 +46,20 @@ Options readOptions(const QStringList& arguments)
             QStringLiteral("grab"), tr("Write a picture of the page to <file> (PNG) and quit."), tr("file"));
     const QCommandLineOption list(QStringLiteral("list"),
             tr("List the items, one on a line: name in QML, type and value, parted by tabs. Needs no page."));
-    parser.addOptions({help, services, imports, root, picture, list});
+    parser.addOptions({services, imports, root, picture, list});
 
-    if (!parser.parse(arguments))
-        return misused(parser.errorText());
-    if (parser.isSet(help))
-        return answered(parser.helpText());
-    if (parser.isSet(version)) {
-        return answered(QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion()
-                + QLatin1Char('\n'));
-    }
+    const apps::CommandLine line = apps::parse(parser, arguments);
+    if (line.outcome != apps::CommandLine::Run)
+        return apps::ended<Options>(line);
     for (const QCommandLineOption& option : {services, imports, root, picture}) {
         if (parser.values(option).contains(QString()))
             return misused(tr("--%1 needs a name.").arg(option.names().constLast()));
     }
     const QStringList pages = parser.positionalArguments();
-    if (parser.isSet(list) != pages.isEmpty() || pages.size() > 1)
+    if (parser.isSet(list) != pages.isEmpty() || pages.size() > 1 || pages.contains(QString()))
         return misused(parser.isSet(list) ? tr("--list takes no page.") : tr("Name one page to show."));
 
     Options options;
-    options.outcome = parser.isSet(list) ? Options::List : Options::Show;
     options.page = pages.value(0);
     options.serviceFolders = parser.isSet(services) ? parser.values(services) : ownServices;
     options.importFolders = parser.values(imports);

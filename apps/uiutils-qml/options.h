@@ -1,24 +1,16 @@
 #pragma once
 
+#include "common/commandline.h"
+
 #include <QString>
 #include <QStringList>
 
 namespace uiutils::qmltool {
 
 /// What the command line asks for.
-struct Options
+struct Options : apps::CommandLine
 {
-    enum Outcome {
-        Show,
-        List,
-        /// `message` is for standard output, and the program is done.
-        Answered,
-        /// `message` says what is wrong with the command line.
-        Misused,
-    };
-
-    Outcome outcome = Show;
-    QString message;
+    /// The page to show; empty when the items are to be listed.
     QString page;
     QStringList serviceFolders;
     QStringList importFolders;

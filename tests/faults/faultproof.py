@@ -53,6 +53,9 @@ ERRORS = {
     "asks": ["EIO"],
 }
 
+# Disks that can die, and their folders in the root.
+DISKS = {"root": "", "stick": "mnt/usb"}
+
 # Failures that are let pass: kind of the fault, pattern of the failure, reason. They are counted and shown.
 KNOWN = []
 
@@ -71,7 +74,8 @@ def family(call):
 
 @dataclass(frozen=True)
 class Fault:
-    """One way of failing at one call. `actor` is who makes the call: "deed" or "gzip"."""
+    """One way of failing at one call. `actor` is who makes the call: "deed" or "gzip"; of a "disk" that is full or read-only from
+    the start, and of the "death" of one at a change of that number, `call` is its place."""
 
     scenario: str
     actor: str
@@ -90,7 +94,7 @@ class Fault:
     @property
     def is_preloaded(self):
         """Whether it is made in the process: strace leaves out the call that it answers, and a descriptor stays open."""
-        return self.kind in ("short", "full") or self.call == "close" and self.kind != "kill"
+        return self.kind in ("short", "full", "dead") or self.call == "close" and self.kind != "kill"
 
     @property
     def is_needed(self):
@@ -98,6 +102,8 @@ class Fault:
         if self.actor == "disk":
             return self.call != "tmp" and (self.kind in ("64k", "read-only")
                                            or self.kind == "1100k" and self.scenario.startswith("large"))
+        if self.actor == "death":
+            return self.call == "stick" and self.scenario == "both-text-over"
         if self.kind == "kill":
             return self.call in tracelog.RENAMES | tracelog.REMOVALS | tracelog.SYNCS
         return self.kind == "ENOSPC" and self.call in tracelog.WRITES
@@ -208,7 +214,8 @@ class Run:
         actor = fault.actor if fault else actor
         trace = None
         if fault and fault.is_preloaded:
-            program = "savescenario" if actor == "deed" else "gzip"
+            program = "gzip" if actor == "gzip" else "savescenario"
+            environment["UIUTILS_DEAD_FOLDER"] = os.path.join(self.root, DISKS.get(fault.call, "")).rstrip("/")
             mode = getattr(errno, fault.kind, fault.kind)
             order["preloaded"] = f"{program}:{fault.number}:{mode}:{self.preload_log}"
         elif actor == "deed":
@@ -306,7 +313,22 @@ def faults_of(prepared, with_reading):
                 yield Fault(name, actor, call.name, call.of_files, "full")
 
 
+def changes_of(prepared, disk):
+    """The calls at any of which the disk may die."""
+    folder = os.path.join("/", DISKS[disk])
+    return [call for call in prepared.calls["deed"]
+            if call.changes and call.name in tracelog.DEADLY and call.shown.startswith(folder.rstrip("/") + "/")]
+
+
+def deaths_of(prepared):
+    for disk in ["root"] + (["stick"] if prepared.scenario.order.get("location") else []):
+        for number in range(1, len(changes_of(prepared, disk)) + 1):
+            yield Fault(prepared.scenario.name, "death", disk, number, "dead")
+
+
 def call_of(prepared, fault):
+    if fault.actor == "death":
+        return changes_of(prepared, fault.call)[fault.number - 1]
     for call in prepared.calls[fault.actor]:
         if call.name == fault.call and fault.number == (call.of_files if fault.is_preloaded else call.number):
             return call
@@ -315,7 +337,7 @@ def call_of(prepared, fault):
 
 def expected_place(prepared, fault):
     call = call_of(prepared, fault)
-    return call.shown if call else None
+    return call and (call.shown.split(" -> ")[0] if fault.actor == "death" else call.shown)
 
 
 def hit_place(run, fault):
@@ -366,10 +388,26 @@ def judge(run, prepared, answer, fault):
     if is_traced:
         problems += tracelog.order_faults(
             run.calls(), run.root, claimed(prepared.scenario, expectation, claim))
+    if fault and fault.actor == "death":
+        problems += death_faults(prepared, fault, claimed(prepared.scenario, expectation, claim))
     call = call_of(prepared, fault) if fault else None
-    if not call or not (call.name in tracelog.TIDYING or call.opens_folder):
+    # Of a dead disk nothing can be removed either.
+    if not call or not (fault.actor == "death" or call.name in tracelog.TIDYING or call.opens_folder):
         problems += [f"{path} is left over" for path in verdict.leftovers(actual)]
         problems += [f"{path} is left in TMPDIR" for path in run.temporaries()]
+    return problems
+
+
+def death_faults(prepared, fault, is_claimed):
+    """What was told to be safe when its disk had died before the name was."""
+    changes, problems = changes_of(prepared, fault.call), []
+    for path in filter(is_claimed, prepared.expectation.targets):
+        named = [number for number, call in enumerate(changes, 1)
+                 if call.name in tracelog.RENAMES and call.shown.endswith(f" -> /{path}")]
+        safe = [number for number, call in enumerate(changes, 1)
+                if named and number > named[-1] and call.name in tracelog.SYNCS and call.shown == "/" + os.path.dirname(path)]
+        if safe and fault.number <= safe[0]:
+            problems.append(f"{path} was told to be saved, and its disk had died before")
     return problems
 
 
@@ -488,7 +526,8 @@ class Report:
     def add(self, fault, problems):
         known = [problem for problem in problems if reason_for(fault, problem)]
         problems = [problem for problem in problems if problem not in known]
-        column = {"kill": "kills", "none": "none"}.get(fault.kind, "disks" if fault.actor == "disk" else "errors")
+        column = {"kill": "kills", "dead": "deaths", "none": "none"}.get(
+            fault.kind, "disks" if fault.actor == "disk" else "errors")
         with self.lock:
             if column != "none":
                 self.counts[fault.scenario][column] += 1
@@ -500,7 +539,7 @@ class Report:
                 self.failures.append((fault, problems))
 
     def print_table(self, prepared):
-        columns = ["calls", "kills", "errors", "disks", "known", "failures"]
+        columns = ["calls", "kills", "errors", "deaths", "disks", "known", "failures"]
         for item in prepared:
             self.counts[item.scenario.name]["calls"] = sum(
                 call.changes for calls in item.calls.values() for call in calls)
@@ -624,7 +663,7 @@ def work(bench, options, selected):
         if options.repeat:
             faults = [fault for fault in [parsed(options.repeat)] if fault.kind != "none"]
         else:
-            everything = [fault for item in prepared for fault in faults_of(item, True)]
+            everything = [fault for item in prepared for fault in (*faults_of(item, True), *deaths_of(item))]
             if can_mount:
                 everything += [fault for item in prepared for fault in disk_runs(item)]
             faults = chosen(everything, options.long)

@@ -2,14 +2,17 @@
 //
 // UIUTILS_FAULT is "PROGRAM:NUMBER:MODE:LOG", where NUMBER counts calls on files that are written since the variable was set, from 1. In the mode
 // "short" that write() takes half of what it is given; in the mode "full" so, too, and every later one fails, as when a disk fills
-// up; a number of an error as the mode has that close() report it after it has closed, as the system does. The file LOG
-// then names what it was done to.
+// up; a number of an error as the mode has that close() report it after it has closed, as the system does. In the mode "dead"
+// NUMBER counts calls that change what lies below UIUTILS_DEAD_FOLDER; that one and every later one there, of whatever
+// process, is an EIO, as when a drive is pulled or breaks. The file LOG then names what it was done to.
 
 #include <atomic>
 #include <cerrno>
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -25,14 +28,24 @@ struct Order
     char log[256] {};
 };
 
-/// False without an order for this program.
-bool readOrder(Order* order)
+/// False without an order.
+bool readAnyOrder(Order* order)
 {
     const char* text = std::getenv("UIUTILS_FAULT");
     return text
             && std::sscanf(text, "%63[^:]:%d:%15[^:]:%255[^\n]", order->program, &order->number, order->mode, order->log)
-            == 4
-            && std::strcmp(order->program, program_invocation_short_name) == 0;
+            == 4;
+}
+
+bool isMeantHere(const Order& order)
+{
+    return std::strcmp(order.program, program_invocation_short_name) == 0;
+}
+
+/// False without an order for this program.
+bool readOrder(Order* order)
+{
+    return readAnyOrder(order) && isMeantHere(*order);
 }
 
 /// A file with a name: others are memory. Files that are read are closed by the loader as well, which calls nothing of this.
@@ -48,17 +61,28 @@ ssize_t writeTo(int fd, const void* data, size_t size)
     return ::syscall(SYS_write, fd, data, size);
 }
 
-/// What lets the script see that the fault was where it was meant to be.
-void note(const Order& order, int fd)
+/// Empty for what has none.
+void readPath(int fd, char (&path)[512])
 {
     char link[32];
-    char path[256];
     std::snprintf(link, sizeof link, "/proc/self/fd/%d", fd);
-    const ssize_t length = ::readlink(link, path, sizeof path);
-    const int log = ::open(order.log, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
-    if (length > 0)
-        writeTo(log, path, size_t(length));
+    const ssize_t length = ::readlink(link, path, sizeof path - 1);
+    path[length > 0 ? length : 0] = '\0';
+}
+
+/// What lets the script see that the fault was where it was meant to be.
+void note(const Order& order, const char* path)
+{
+    const int log = int(::syscall(SYS_openat, AT_FDCWD, order.log, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+    writeTo(log, path, std::strlen(path));
     ::syscall(SYS_close, log);
+}
+
+void noteFile(const Order& order, int fd)
+{
+    char path[512];
+    readPath(fd, path);
+    note(order, path);
 }
 
 std::atomic<int> writes {0};
@@ -69,10 +93,118 @@ bool isOfWrites(const Order& order)
     return std::strcmp(order.mode, "short") == 0 || std::strcmp(order.mode, "full") == 0;
 }
 
+bool isBelow(const char* path, const char* folder)
+{
+    const size_t length = folder ? std::strlen(folder) : 0;
+    return length > 0 && std::strncmp(path, folder, length) == 0 && path[length] == '/';
+}
+
+std::atomic<int> changes {0};
+
+/// Whether what is asked for at the path must fail, because its disk is dead, or dies of it.
+bool isDead(const char* path, bool isChange = true)
+{
+    Order order;
+    if (!readAnyOrder(&order) || std::strcmp(order.mode, "dead") != 0
+            || !isBelow(path, std::getenv("UIUTILS_DEAD_FOLDER")))
+        return false;
+    // Seen by all processes.
+    if (::access(order.log, F_OK) == 0)
+        return true;
+    if (!isChange || !isMeantHere(order) || ++changes < order.number)
+        return false;
+    note(order, path);
+    return true;
+}
+
+bool isDead(int fd)
+{
+    char path[512];
+    readPath(fd, path);
+    return isDead(path);
+}
+
+/// What stands in for a function of the system calls that, unless its disk is dead.
+template<typename Function, typename... Arguments>
+int unlessDead(bool isDead, const char* name, Arguments... arguments)
+{
+    if (!isDead)
+        return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name))(arguments...);
+    errno = EIO;
+    return -1;
+}
+
+bool isChange(int flags)
+{
+    return (flags & O_ACCMODE) != O_RDONLY || (flags & (O_CREAT | O_TRUNC)) != 0;
+}
+
 } // namespace
 
-extern "C" __attribute__((visibility("default"))) ssize_t write(int fd, const void* data, size_t size)
+#define UIUTILS_INTERPOSE extern "C" __attribute__((visibility("default")))
+#define UIUTILS_UNLESS(condition, name, ...) unlessDead<decltype(&::name)>(condition, #name, __VA_ARGS__)
+
+// The mode is the argument behind the flags, if there is one; without it the system does not look at it.
+#define UIUTILS_OPEN(name)                                                                                                       \
+    UIUTILS_INTERPOSE int name(const char* path, int flags, ...)                                                                 \
+    {                                                                                                                            \
+        va_list rest;                                                                                                            \
+        va_start(rest, flags);                                                                                                   \
+        const mode_t mode = va_arg(rest, mode_t);                                                                                \
+        va_end(rest);                                                                                                            \
+        return UIUTILS_UNLESS(isDead(path, isChange(flags)), name, path, flags, mode);                                           \
+    }
+#define UIUTILS_OPENAT(name)                                                                                                     \
+    UIUTILS_INTERPOSE int name(int folder, const char* path, int flags, ...)                                                     \
+    {                                                                                                                            \
+        va_list rest;                                                                                                            \
+        va_start(rest, flags);                                                                                                   \
+        const mode_t mode = va_arg(rest, mode_t);                                                                                \
+        va_end(rest);                                                                                                            \
+        return UIUTILS_UNLESS(isDead(path, isChange(flags)), name, folder, path, flags, mode);                                   \
+    }
+
+UIUTILS_OPEN(open)
+UIUTILS_OPEN(open64)
+UIUTILS_OPENAT(openat)
+UIUTILS_OPENAT(openat64)
+
+UIUTILS_INTERPOSE int mkdir(const char* path, mode_t mode) noexcept
 {
+    return UIUTILS_UNLESS(isDead(path), mkdir, path, mode);
+}
+
+UIUTILS_INTERPOSE int rename(const char* from, const char* to) noexcept
+{
+    return UIUTILS_UNLESS(isDead(from), rename, from, to);
+}
+
+UIUTILS_INTERPOSE int unlink(const char* path) noexcept
+{
+    return UIUTILS_UNLESS(isDead(path), unlink, path);
+}
+
+UIUTILS_INTERPOSE int rmdir(const char* path) noexcept
+{
+    return UIUTILS_UNLESS(isDead(path), rmdir, path);
+}
+
+UIUTILS_INTERPOSE int fsync(int fd)
+{
+    return UIUTILS_UNLESS(isDead(fd), fsync, fd);
+}
+
+UIUTILS_INTERPOSE int fchmod(int fd, mode_t mode) noexcept
+{
+    return UIUTILS_UNLESS(isDead(fd), fchmod, fd, mode);
+}
+
+UIUTILS_INTERPOSE ssize_t write(int fd, const void* data, size_t size)
+{
+    if (isWrittenFile(fd) && isDead(fd)) {
+        errno = EIO;
+        return -1;
+    }
     Order order;
     if (!readOrder(&order) || !isOfWrites(order) || !isWrittenFile(fd))
         return writeTo(fd, data, size);
@@ -83,16 +215,16 @@ extern "C" __attribute__((visibility("default"))) ssize_t write(int fd, const vo
     }
     if (number != order.number)
         return writeTo(fd, data, size);
-    note(order, fd);
+    noteFile(order, fd);
     return writeTo(fd, data, (size + 1) / 2);
 }
 
-extern "C" __attribute__((visibility("default"))) int close(int fd)
+UIUTILS_INTERPOSE int close(int fd)
 {
     Order order;
-    const bool isMeant = readOrder(&order) && !isOfWrites(order) && isWrittenFile(fd) && ++closings == order.number;
+    const bool isMeant = readOrder(&order) && std::atoi(order.mode) > 0 && isWrittenFile(fd) && ++closings == order.number;
     if (isMeant)
-        note(order, fd);
+        noteFile(order, fd);
     const int result = int(::syscall(SYS_close, fd));
     if (!isMeant || result != 0)
         return result;

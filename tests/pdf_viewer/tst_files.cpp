@@ -135,7 +135,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("outcome");
         QTest::addColumn<QString>("told");
         const auto shown = [](const char* what, const QStringList& arguments, const char* told) {
-            QTest::newRow(what) << arguments << int(Options::Show) << QString(told);
+            QTest::newRow(what) << arguments << int(Options::Run) << QString(told);
         };
         const auto misused = [](const char* what, const QStringList& arguments, const char* told) {
             QTest::newRow(what) << arguments << int(Options::Misused) << QString(told);
@@ -162,7 +162,7 @@ private Q_SLOTS:
         QFETCH(const QString, told);
         const Options options = readOptions(QStringList("pdf_viewer") + arguments);
         QTEST(int(options.outcome), "outcome");
-        if (options.outcome != Options::Show) {
+        if (options.outcome != Options::Run) {
             QVERIFY2(options.message.contains(told), qPrintable(options.message));
             return;
         }

@@ -203,6 +203,24 @@ private Q_SLOTS:
         QCOMPARE(third.getFormat(), 0);
     }
 
+    /// A page that saves as soon as it is there has not seen them yet.
+    void storedSettingsOutliveAnEarlySave()
+    {
+        const QString path = onDisk("/cust/private/lastconfigs/reportSettings/.json");
+        QVERIFY(writeFile(path, json("{'reportName': 'mine', 'reportFormat': 1, 'reportSync_SS': true}")));
+        Controller early;
+        early.getSetting("reportName")->setValue("autosave");
+        early.saveSettings();
+        QCOMPARE(QJsonDocument::fromJson(contentsOf(path)).object(),
+                QJsonObject({{"reportName", "autosave"}, {"reportFormat", 1}, {"reportSync_SS", true}}));
+        early.loadSettings();
+        early.getSetting("reportSync_SS")->setValue(false);
+        early.getSetting("reportFormat")->setValue(0);
+        early.saveSettings();
+        QCOMPARE(QJsonDocument::fromJson(contentsOf(path)).object(),
+                QJsonObject({{"reportName", "autosave"}, {"reportFormat", 0}, {"reportSync_SS", false}}));
+    }
+
     void brokenSettings_data()
     {
         QTest::addColumn<QByteArray>("contents");

@@ -146,6 +146,8 @@ void Report::addSetting(UiData* item)
     item->setParent(this);
     UiData* former = m_settings.value(item->getName());
     m_settings.insert(item->getName(), item);
+    if (m_state->initialSettings)
+        m_state->initialSettings->insert(item->getName(), item->getValue());
     if (former && former != item)
         former->deleteLater();
     Q_EMIT settingsChanged();
@@ -172,12 +174,14 @@ void Report::slotCreateSettings()
 
 void Report::loadSettings()
 {
+    m_state->initialSettings.reset();
     uiutils::loadReportSettings(uiutils::reportSettingsPath(getFolder()), m_settings);
 }
 
 void Report::saveSettings()
 {
-    uiutils::saveReportSettings(uiutils::reportSettingsPath(getFolder()), m_settings);
+    uiutils::saveReportSettings(
+            uiutils::reportSettingsPath(getFolder()), m_settings, m_state->initialSettings.value_or(QVariantMap()));
 }
 
 QVariantMap Report::getSettings() const

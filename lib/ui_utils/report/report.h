@@ -282,8 +282,10 @@ protected:
     void addSetting(UiData* item);
     /// Says which formats the user can choose; at first PDF and XML.
     void setFormatApplicable(int format, bool applicable);
-    /// The settings as a file of the folder, at the latest state.
+    /// Has the settings take the values that are stored for the folder, where they are allowed.
     void loadSettings();
+    /// Stores the settings for the folder. Until they have been loaded, those that still have the value they came with
+    /// leave what is stored as it is.
     void saveSettings();
     /// The pages as the library prints them; empty when that fails.
     QByteArray generateDefaultPDFReport();

@@ -46,6 +46,13 @@ bool holds(const QString& place, const QByteArray& text)
     return info.isFile() && info.size() == text.size() && file.open(QIODevice::ReadOnly) && file.readAll() == text;
 }
 
+QJsonObject storedValues(const QString& place)
+{
+    QFile file(place);
+    const bool isReadable = QFileInfo(place).isFile() && file.open(QIODevice::ReadOnly);
+    return isReadable ? QJsonDocument::fromJson(file.read(largestReportSettings)).object() : QJsonObject();
+}
+
 bool isChoice(const UiData& item, const QVariant& value)
 {
     const UiDataEnums* choices = item.getUiEnumList();
@@ -119,12 +126,17 @@ void loadReportSettings(const QString& path, const ReportSettings& items)
     }
 }
 
-void saveReportSettings(const QString& path, const ReportSettings& items)
+void saveReportSettings(const QString& path, const ReportSettings& items, const QVariantMap& initial)
 {
-    QVariantMap values;
-    for (auto it = items.cbegin(); it != items.cend(); ++it)
-        values.insert(it.key(), (*it)->getValue());
     const QString place = onDisk(path);
+    const QJsonObject stored = initial.isEmpty() ? QJsonObject() : storedValues(place);
+    QVariantMap values;
+    for (auto it = items.cbegin(); it != items.cend(); ++it) {
+        const QVariant value = (*it)->getValue();
+        const QJsonValue former = stored.value(it.key());
+        const bool isUntouched = initial.contains(it.key()) && initial.value(it.key()) == value;
+        values.insert(it.key(), isUntouched && isAllowed(**it, former) ? former.toVariant() : value);
+    }
     const QByteArray text = QJsonDocument(QJsonObject::fromVariantMap(values)).toJson();
     // Most saves change nothing, and the disk takes longer to keep a file than to read it.
     if (holds(place, text))

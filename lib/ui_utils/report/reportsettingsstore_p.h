@@ -2,6 +2,7 @@
 
 #include <QMap>
 #include <QString>
+#include <QVariant>
 
 class UiData;
 
@@ -21,7 +22,8 @@ QString reportSettingsPath(const QString& folder);
 void loadReportSettings(const QString& path, const ReportSettings& items);
 
 /// Writes the values durably, with the folder if there is none. When that fails, what was stored stays; a line in the
-/// log says so.
-void saveReportSettings(const QString& path, const ReportSettings& items);
+/// log says so. `initial` has the values that items came with, while the stored ones have not been loaded: those of
+/// items that still have theirs stay stored.
+void saveReportSettings(const QString& path, const ReportSettings& items, const QVariantMap& initial = {});
 
 } // namespace uiutils

@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 #include <QtDebug>
 
 #include <memory>
@@ -51,6 +52,9 @@ public:
     OverwriteGate gate;
     SaveProgress progress;
     ReportMetadata metadata;
+
+    /// What the settings came with; none when the stored ones have been loaded.
+    std::optional<QVariantMap> initialSettings {QVariantMap()};
 
     /// Where the save that runs goes, whatever is plugged or pulled meanwhile.
     std::optional<ReportDestinations> fixedDestinations;

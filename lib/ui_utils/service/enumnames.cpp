@@ -6,6 +6,12 @@
 
 namespace uiutils {
 
+KIVEnumChoicesClientItem* choicesOf(KIVClientItem* item)
+{
+    const auto* enumeration = qobject_cast<KIVEnumClientItem*>(item);
+    return enumeration ? enumeration->getChoices() : nullptr;
+}
+
 EnumNames* EnumNames::create(const KIVEnumChoicesClientItem& choices, QObject* parent)
 {
     QVector<QByteArray> names;

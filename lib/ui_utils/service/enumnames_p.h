@@ -2,9 +2,13 @@
 
 #include "core/dynamicobject_p.h"
 
+class KIVClientItem;
 class KIVEnumChoicesClientItem;
 
 namespace uiutils {
+
+/// The choices of an enumeration; null for other items and for none.
+KIVEnumChoicesClientItem* choicesOf(KIVClientItem* item);
 
 /// The values of choices as properties that bear the choices' names.
 class EnumNames final : public DynamicObject

@@ -1,0 +1,55 @@
+#include "common/commandline.h"
+
+#include "common/complaint.h"
+
+#include <QCommandLineParser>
+
+#include <cstdio>
+
+namespace uiutils::apps {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Options", text);
+}
+
+QString versionText()
+{
+    return QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion());
+}
+
+} // namespace
+
+CommandLine parse(QCommandLineParser& parser, const QStringList& arguments)
+{
+    // The parser's own help option would bring options of Qt along.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
+    parser.addOption(help);
+    const QCommandLineOption version = parser.addVersionOption();
+    if (!parser.parse(arguments))
+        return misused(parser.errorText());
+    if (parser.isSet(help))
+        return {CommandLine::Answered, parser.helpText()};
+    if (parser.isSet(version))
+        return {CommandLine::Answered, versionText()};
+    return {};
+}
+
+CommandLine misused(const QString& message)
+{
+    return {CommandLine::Misused, message + QLatin1Char('\n') + tr("Try --help for the options.")};
+}
+
+std::optional<int> exitCodeOf(const CommandLine& line)
+{
+    if (line.outcome == CommandLine::Misused)
+        return complain(line.message, exitMisused);
+    if (line.outcome == CommandLine::Run)
+        return std::nullopt;
+    std::fputs(qUtf8Printable(line.message), stdout);
+    return exitDone;
+}
+
+} // namespace uiutils::apps

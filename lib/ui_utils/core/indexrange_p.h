@@ -1,0 +1,11 @@
+#pragma once
+
+namespace uiutils {
+
+/// Whether `index` is that of one of `count` elements: pages ask for any.
+constexpr bool isWithin(int index, int count)
+{
+    return index >= 0 && index < count;
+}
+
+} // namespace uiutils
