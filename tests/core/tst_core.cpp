@@ -106,6 +106,12 @@ private Q_SLOTS:
         QCOMPARE(contentsOf(path), QByteArray());
         QVERIFY2(writeFileDurably(path, QByteArray("short"), &error), qPrintable(error));
         QCOMPARE(contentsOf(path), QByteArray("short"));
+        QVERIFY(writeNewFileDurably(path, "new", &error) == NewFile::Taken);
+        QCOMPARE(contentsOf(path), QByteArray("short"));
+        QVERIFY(QFile::remove(path) && QFile::link("nowhere", path));
+        QVERIFY(writeNewFileDurably(path, "new", &error) == NewFile::Taken && QFile::remove(path));
+        QVERIFY2(writeNewFileDurably(path, "new", &error) == NewFile::Written, qPrintable(error));
+        QVERIFY(writeNewFileDurably(dir.filePath("none/report.html"), "new", &error) == NewFile::Failed);
         QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("report.html")});
     }
 

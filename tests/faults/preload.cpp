@@ -179,6 +179,11 @@ UIUTILS_INTERPOSE int rename(const char* from, const char* to) noexcept
     return UIUTILS_UNLESS(isDead(from), rename, from, to);
 }
 
+UIUTILS_INTERPOSE int renameat2(int folder, const char* from, int newFolder, const char* to, unsigned flags) noexcept
+{
+    return UIUTILS_UNLESS(isDead(from), renameat2, folder, from, newFolder, to, flags);
+}
+
 UIUTILS_INTERPOSE int unlink(const char* path) noexcept
 {
     return UIUTILS_UNLESS(isDead(path), unlink, path);

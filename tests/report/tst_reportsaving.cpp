@@ -108,6 +108,27 @@ private Q_SLOTS:
         report.setCompressionEnabled(false);
         QVERIFY(report.save());
     }
+    void reportsOfOtherProcessesThatComeMeanwhileAreAskedAbout()
+    {
+        // Another saves the same while gzip works.
+        const QString reports = onDisk("/cust/public/reports/");
+        const QString gzip = onDisk("/bin/gzip");
+        const auto restore = qScopeGuard([path = qgetenv("PATH")] { qputenv("PATH", path); });
+        qputenv("PATH", QFile::encodeName(onDisk("/bin")) + ':' + qgetenv("PATH"));
+        for (const char* name : {"a.txt.gz", "a.txt"}) {
+            QVERIFY(writeFile(gzip, "#!/bin/sh\nPATH=${PATH#*:}\nprintf theirs > " + QFile::encodeName(reports + name)
+                                    + "\nexec gzip \"$@\"\n"));
+            QVERIFY(QFile::setPermissions(gzip, QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner));
+            Controller report;
+            report.setUp("a", 3);
+            report.setCompressionEnabled(true);
+            report.save();
+            QCOMPARE(contentsOf(reports + name), QByteArray("theirs"));
+            QCOMPARE(manager()->currentDialog() != nullptr, name == QByteArray("a.txt.gz"));
+            QVERIFY(!manager()->currentDialog() || manager()->currentDialog()->msg().contains("overwrite"));
+            QVERIFY(QDir(reports).removeRecursively());
+        }
+    }
     void answersReachTheAskerAlone()
     {
         Controller other;

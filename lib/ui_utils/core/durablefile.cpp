@@ -57,45 +57,56 @@ QString failure(const char* text, const QString& path, const QString& reason)
     return QCoreApplication::translate("DurableFile", text).arg(path, reason);
 }
 
-} // namespace
-
-bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error, const QString& temporary)
+NewFile write(
+        const QString& path, const QByteArray& contents, const QString& temporary, bool mayReplace, QString& message)
 {
-    QString ignored;
-    QString& message = error ? *error : ignored;
-
     // The system would take what stands before it for the whole path.
     if (path.contains(QChar(QChar::Null))) {
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"),
                 QString(path).replace(QChar(QChar::Null), QChar(QChar::ReplacementCharacter)),
                 QCoreApplication::translate("DurableFile", "The path holds a NUL character"));
-        return false;
+        return NewFile::Failed;
     }
     removeStaleTemporaries(QFileInfo(path).path());
     TemporarySibling file(path, temporary);
     if (!file.isOpen()) {
         message = failure(
                 QT_TRANSLATE_NOOP("DurableFile", "Cannot create a file in the folder of %1: %2"), path, systemError());
-        return false;
+        return NewFile::Failed;
     }
     if (!file.write(contents) || !file.sync()) {
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"), path, systemError());
-        return false;
+        return NewFile::Failed;
     }
     // Open, and so locked, until it has its name: whoever cleans the folder would take it for left behind.
-    if (!file.renameTo(path)) {
+    if (!file.renameTo(path, mayReplace)) {
+        const bool isTaken = !mayReplace && errno == EEXIST;
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot replace %1: %2"), path, systemError());
-        return false;
+        return isTaken ? NewFile::Taken : NewFile::Failed;
     }
     if (!file.close()) {
         message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"), path, systemError());
-        return false;
+        return NewFile::Failed;
     }
     if (syncNameOf(path))
-        return true;
+        return NewFile::Written;
     message = failure(
             QT_TRANSLATE_NOOP("DurableFile", "Cannot make sure that %1 outlives a power cut: %2"), path, systemError());
-    return false;
+    return NewFile::Failed;
+}
+
+} // namespace
+
+bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error, const QString& temporary)
+{
+    QString ignored;
+    return write(path, contents, temporary, true, error ? *error : ignored) == NewFile::Written;
+}
+
+NewFile writeNewFileDurably(const QString& path, const QByteArray& contents, QString* error)
+{
+    QString ignored;
+    return write(path, contents, QString(), false, error ? *error : ignored);
 }
 
 bool makeFolderDurably(const QString& path)

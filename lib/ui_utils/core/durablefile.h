@@ -21,6 +21,12 @@ namespace uiutils {
 [[nodiscard]] bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error = nullptr,
         const QString& temporary = QString());
 
+/// What became of a new file: `Taken` when another lies there, which then stays.
+enum class NewFile { Written, Taken, Failed };
+
+/// The same for a file that is not to take another's place, also not that of one that came while it was written.
+[[nodiscard]] NewFile writeNewFileDurably(const QString& path, const QByteArray& contents, QString* error = nullptr);
+
 /// Makes the folder, and those above it that are missing, so that a power cut does not take it away together with what
 /// is written in it. False when there is none then: one that cannot be synced is removed again, so that no file in it
 /// is told to be safe.

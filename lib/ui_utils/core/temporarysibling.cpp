@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -97,9 +98,17 @@ bool TemporarySibling::close()
     return ::close(fd) == 0 || errno == EINTR;
 }
 
-bool TemporarySibling::renameTo(const QString& target)
+bool TemporarySibling::renameTo(const QString& target, bool mayReplace)
 {
-    m_renamed = ::rename(QFile::encodeName(m_path).constData(), QFile::encodeName(target).constData()) == 0;
+    const QByteArray from = QFile::encodeName(m_path);
+    const QByteArray to = QFile::encodeName(target);
+    bool isReplacing = mayReplace;
+    if (!mayReplace) {
+        m_renamed = ::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0;
+        isReplacing = !m_renamed && (errno == EINVAL || errno == ENOSYS);
+    }
+    if (isReplacing)
+        m_renamed = ::rename(from.constData(), to.constData()) == 0;
     return m_renamed;
 }
 

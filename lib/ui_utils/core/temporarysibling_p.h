@@ -22,7 +22,9 @@ public:
     bool write(const QByteArray& contents);
     bool sync();
     bool close();
-    bool renameTo(const QString& target);
+    /// What lies at the target goes, or, unless `mayReplace`, stays and is the error EEXIST, also when it came a moment
+    /// ago. File systems that cannot make sure of that replace it.
+    bool renameTo(const QString& target, bool mayReplace = true);
 
 private:
     void createUnderNewName(const QString& folder);

@@ -79,24 +79,27 @@ QString driveIsGone(const QString& path)
 
 /// A stick that is pulled leaves its folder behind, in which the unit would keep what was to go along: before the write
 /// it must be there, and afterwards it must be there still.
-bool writeToDrive(const QString& path, const QByteArray& contents, QString* error)
+NewFile writeToDrive(const QString& path, const QByteArray& contents, bool mayReplace, QString* error)
 {
-    if (!isDriveThere(path)) {
+    NewFile file = NewFile::Failed;
+    if (isDriveThere(path) && mayReplace)
+        file = writeFileDurably(onDisk(path), contents, error) ? NewFile::Written : NewFile::Failed;
+    else if (isDriveThere(path))
+        file = writeNewFileDurably(onDisk(path), contents, error);
+    else
         *error = driveIsGone(path);
-        return false;
-    }
-    if (!writeFileDurably(onDisk(path), contents, error))
-        return false;
-    if (isDriveThere(path))
-        return true;
+    if (file != NewFile::Written || isDriveThere(path))
+        return file;
     *error = driveIsGone(path);
-    return false;
+    return NewFile::Failed;
 }
 
-WrittenFile writeAsItIs(const QString& path, const QByteArray& contents)
+WrittenFile writeAsItIs(const QString& path, const QByteArray& contents, bool mayReplace)
 {
     WrittenFile file;
-    file.ok = writeToDrive(path, contents, &file.error);
+    const NewFile result = writeToDrive(path, contents, mayReplace, &file.error);
+    file.ok = result == NewFile::Written;
+    file.isTaken = result == NewFile::Taken;
     if (file.ok)
         file.path = path;
     return file;
@@ -104,28 +107,28 @@ WrittenFile writeAsItIs(const QString& path, const QByteArray& contents)
 
 } // namespace
 
-WrittenFile writeReportFile(const QString& path, const QByteArray& contents, bool compressed)
+WrittenFile writeReportFile(const QString& path, const QByteArray& contents, bool compressed, bool mayReplace)
 {
     // What no path may hold is refused there, in words that can be shown.
     if (!compressed || path.contains(QChar(QChar::Null)) || !isDriveThere(path))
-        return writeAsItIs(path, contents);
+        return writeAsItIs(path, contents, mayReplace);
     QString error;
     const QByteArray bytes = compressedForm(path, contents, &error);
     if (!bytes.isEmpty())
-        return writeAsItIs(path + gzipSuffix, bytes);
-    WrittenFile file = writeAsItIs(path, contents);
+        return writeAsItIs(path + gzipSuffix, bytes, mayReplace);
+    WrittenFile file = writeAsItIs(path, contents, mayReplace);
     file.ok = false;
     file.error = error;
     return file;
 }
 
-bool copyReportFile(const QString& source, const QString& target, QString* error)
+bool copyReportFile(const QString& source, const QString& target, bool mayReplace, QString* error)
 {
     QFile file(onDisk(source));
     const QByteArray contents = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     // Of a file that memory cannot hold, nothing is read, and that is no error of the file's.
     if (file.error() == QFileDevice::NoError && contents.size() == file.size())
-        return writeToDrive(target, contents, error);
+        return writeToDrive(target, contents, mayReplace, error) == NewFile::Written;
     *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot read %1: %2"), source, file.errorString());
     return false;
 }

@@ -13,6 +13,7 @@
 
 #include <kiv/filesystemusage.h>
 
+#include <QDir>
 #include <QPointer>
 #include <QProcess>
 
@@ -22,15 +23,17 @@ using uiutils::onDisk;
 
 void Report::saveToUsb(const QString& name, const QString& suffix)
 {
-    copyToUsb(name, suffix);
+    copyToUsb(name, suffix, true);
 }
 
-bool Report::copyToUsb(const QString& name, const QString& suffix)
+bool Report::copyToUsb(const QString& name, const QString& suffix, bool overwrite)
 {
     const QString saved = getSaveFilePath(name, suffix) + (m_isCompressionEnabled ? GZIP_EXTENSION : QString());
     const QString copy = uiutils::usbPath(saved);
+    // What is saved to the stick is its own copy.
+    const bool mayReplace = overwrite || QDir::cleanPath(saved) == copy;
     QString error;
-    if (uiutils::copyReportFile(saved, copy, &error))
+    if (uiutils::copyReportFile(saved, copy, mayReplace, &error))
         return true;
     m_state->tellWriteError(copy, error);
     return false;

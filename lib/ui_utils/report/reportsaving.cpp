@@ -311,10 +311,10 @@ bool Report::Save::copyToUsb()
 
 bool Report::Save::copyToUsb(const uiutils::ReportFormat& format)
 {
-    if (!m_report->copyToUsb(m_name, format.suffix))
+    if (!m_report->copyToUsb(m_name, format.suffix, m_overwrite))
         return false;
     // The user has let go of a report of the name before it came to this, whatever its form.
-    if (m_report && m_report->m_isCompressionEnabled)
+    if (m_report && m_overwrite && m_report->m_isCompressionEnabled)
         QFile::remove(onDisk(uiutils::usbPath(m_report->getSaveFilePath(m_name, format.suffix))));
     return true;
 }

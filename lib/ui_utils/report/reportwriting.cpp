@@ -64,7 +64,7 @@ bool Report::writePDFReport(const QString& path, bool overwrite)
         m_state->progress.end();
     // A report of the name may have come while the pages were made, with a stick.
     if (!pages.isEmpty())
-        return mayWrite({path}, overwrite) && writeContents(path, pages);
+        return mayWrite({path}, overwrite) && writeContents(path, pages, overwrite);
     if (!m_state->progress.isCancelled())
         m_state->tellWriteError(path, QStringLiteral("there are no pages"));
     return false;
@@ -72,12 +72,15 @@ bool Report::writePDFReport(const QString& path, bool overwrite)
 
 bool Report::writeTextReport(const QString& path, const QString& text, const QString&, bool overwrite)
 {
-    return mayWrite({path}, overwrite) && writeContents(path, text.toUtf8());
+    return mayWrite({path}, overwrite) && writeContents(path, text.toUtf8(), overwrite);
 }
 
-bool Report::writeContents(const QString& path, const QByteArray& contents)
+bool Report::writeContents(const QString& path, const QByteArray& contents, bool overwrite)
 {
-    const uiutils::WrittenFile file = uiutils::writeReportFile(path, contents, m_isCompressionEnabled);
+    const uiutils::WrittenFile file = uiutils::writeReportFile(path, contents, m_isCompressionEnabled, overwrite);
+    // Another process may have saved a report of the name meanwhile.
+    if (file.isTaken && !mayWrite({path}, overwrite))
+        return false;
     // Slots and hooks may delete the controller. The file is there all the same.
     const QPointer<Report> self(this);
     if (!file.ok) {
@@ -90,7 +93,7 @@ bool Report::writeContents(const QString& path, const QByteArray& contents)
         return false;
     }
     // The user has let go of a report of the name before it came to this.
-    if (m_isCompressionEnabled)
+    if (m_isCompressionEnabled && overwrite)
         QFile::remove(onDisk(path));
     m_state->takeUpAgreement(path);
     if (path.endsWith(PDF_EXTENSION))
