@@ -404,6 +404,20 @@ private Q_SLOTS:
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/g/a.txt")), QByteArray("precious"));
         QVERIFY(manager()->currentDialog() && manager()->currentDialog()->msg().contains("g/a.txt"));
     }
+    void whatIsCopiedIsWhatWasSaved()
+    {
+        QVERIFY(writeFile(onDisk("/cust/public/reports/g/a.txt"), "another"));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        QVERIFY(basemgr()->setValue(locationItem, 2));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        Controller report;
+        report.setUp("a", 3);
+        report.text = "new";
+        connect(&report, &Report::progressChanged, &report, [&] { report.setFolder("g"); });
+        QVERIFY(report.save());
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/a.txt")), QByteArray("new"));
+    }
     void sticksThatComeLateAreAskedAbout_data()
     {
         QTest::addColumn<int>("location");

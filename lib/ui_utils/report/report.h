@@ -352,7 +352,7 @@ private:
     QStringList targets(const QString& name, const QStringList& suffixes);
     bool writeGenerated(const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite);
     bool writeContents(const QString& path, const QByteArray& contents, bool overwrite);
-    bool copyToUsb(const QString& name, const QString& suffix, bool overwrite);
+    bool copyToUsb(const QString& saved, bool overwrite);
     void tellSyncError(const QString& consequence, const QString& reason);
     /// How much of the format that is being written is done. False when it is to be given up.
     bool goesOn(double share);

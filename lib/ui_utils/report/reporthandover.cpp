@@ -23,12 +23,11 @@ using uiutils::onDisk;
 
 void Report::saveToUsb(const QString& name, const QString& suffix)
 {
-    copyToUsb(name, suffix, true);
+    copyToUsb(getSaveFilePath(name, suffix) + (m_isCompressionEnabled ? GZIP_EXTENSION : QString()), true);
 }
 
-bool Report::copyToUsb(const QString& name, const QString& suffix, bool overwrite)
+bool Report::copyToUsb(const QString& saved, bool overwrite)
 {
-    const QString saved = getSaveFilePath(name, suffix) + (m_isCompressionEnabled ? GZIP_EXTENSION : QString());
     const QString copy = uiutils::usbPath(saved);
     // What is saved to the stick is its own copy.
     const bool mayReplace = overwrite || QDir::cleanPath(saved) == copy;

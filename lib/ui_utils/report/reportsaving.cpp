@@ -49,7 +49,6 @@ private:
     void recordSync(const QString& path);
     bool mayCopy();
     bool copyToUsb();
-    bool copyToUsb(const uiutils::ReportFormat& format);
     bool announce();
     bool fail();
 
@@ -62,6 +61,8 @@ private:
     QString m_name;
     uiutils::ReportFormats m_formats;
     QStringList m_agreedPaths;
+    /// The reports that are saved, and the files that they are in: those of compressed ones have ".gz" behind.
+    QStringList m_saved;
     QStringList m_written;
 };
 
@@ -247,6 +248,7 @@ bool Report::Save::writeFormat(const uiutils::ReportFormat& format)
     // The writer may have changed it, and may have been the controller's end.
     if (m_report)
         isCompressed = m_report->m_isCompressionEnabled;
+    m_saved += path;
     m_written += isCompressed ? path + GZIP_EXTENSION : path;
     if (m_report)
         m_report->writeMetadata(m_written.constLast(), QLatin1String(format.label));
@@ -287,8 +289,7 @@ bool Report::Save::mayCopy()
     const QStringList& checked = m_report->m_state->checkedPaths;
     bool overwrite = m_overwrite;
     QStringList copies;
-    for (const uiutils::ReportFormat* format : qAsConst(m_formats)) {
-        const QString saved = m_report->getSaveFilePath(m_name, format->suffix);
+    for (const QString& saved : qAsConst(m_saved)) {
         if (QDir::cleanPath(saved) == uiutils::usbPath(saved))
             continue;
         copies += uiutils::usbPath(saved);
@@ -304,19 +305,14 @@ bool Report::Save::copyToUsb()
     bool isComplete = mayCopy();
     if (!isComplete)
         return false;
-    for (const uiutils::ReportFormat* format : qAsConst(m_formats))
-        isComplete = m_report && copyToUsb(*format) && isComplete;
+    for (int i = 0; i < m_written.size(); ++i) {
+        const bool isCopied = m_report && m_report->copyToUsb(m_written.at(i), m_overwrite);
+        isComplete = isComplete && isCopied;
+        // The user has let go of a report of the name before it came to this, whatever its form.
+        if (isCopied && m_overwrite && m_written.at(i) != m_saved.at(i))
+            QFile::remove(onDisk(uiutils::usbPath(m_saved.at(i))));
+    }
     return isComplete;
-}
-
-bool Report::Save::copyToUsb(const uiutils::ReportFormat& format)
-{
-    if (!m_report->copyToUsb(m_name, format.suffix, m_overwrite))
-        return false;
-    // The user has let go of a report of the name before it came to this, whatever its form.
-    if (m_report && m_overwrite && m_report->m_isCompressionEnabled)
-        QFile::remove(onDisk(uiutils::usbPath(m_report->getSaveFilePath(m_name, format.suffix))));
-    return true;
 }
 
 bool Report::Save::announce()
