@@ -4,6 +4,7 @@
 #include "document/reportmetadata.h"
 #include "report/drivefile_p.h"
 #include "report/reportdestinations_p.h"
+#include "report/reportlisting_p.h"
 
 #include <kiv/kivnotification.h>
 
@@ -82,6 +83,12 @@ bool SavedReportActions::hasViewer() const
     return QFileInfo(onDisk(paths::pdfViewer)).isExecutable();
 }
 
+QVariantList SavedReportActions::reportsOnUsb() const
+{
+    // Without a drive the folder is the unit's.
+    return isDriveThere(paths::usb) ? reportFiles(paths::usb) : QVariantList();
+}
+
 void SavedReportActions::remove(const QString& path)
 {
     m_removal.sendNotificationDeleteRequest(onOneLine(path), {{fileNameKey, path}});
@@ -89,7 +96,8 @@ void SavedReportActions::remove(const QString& path)
 
 void SavedReportActions::removeNow(const QString& path)
 {
-    const bool isGone = QFile::remove(onDisk(path)) || !isThere(path);
+    // What went with its drive is not deleted.
+    const bool isGone = isDriveThere(path) && (QFile::remove(onDisk(path)) || !isThere(path));
     if (isGone)
         forget(path);
     else
