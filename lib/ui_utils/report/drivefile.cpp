@@ -1,0 +1,49 @@
+#include "report/drivefile_p.h"
+
+#include "core/durablefile.h"
+#include "core/paths.h"
+#include "report/reportdestinations_p.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+namespace uiutils {
+
+namespace {
+
+QString driveIsGone(const QString& path)
+{
+    return QCoreApplication::translate("Report", "Cannot write %1: %2")
+            .arg(path, QCoreApplication::translate("Report", "the USB drive is not there"));
+}
+
+} // namespace
+
+std::optional<QByteArray> readWholeFile(const QString& path, QString* error)
+{
+    QFile file(onDisk(path));
+    const QByteArray contents = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    // Of a file that memory cannot hold, nothing is read, and that is no error of the file's.
+    if (file.error() == QFileDevice::NoError && contents.size() == file.size())
+        return contents;
+    *error = QCoreApplication::translate("Report", "Cannot read %1: %2").arg(path, file.errorString());
+    return std::nullopt;
+}
+
+/// A stick that is pulled leaves its folder behind, in which the unit would keep what was to go along: before the write
+/// it must be there, and afterwards it must be there still.
+bool writeToDrive(const QString& path, const QByteArray& contents, QString* error)
+{
+    if (!isDriveThere(path)) {
+        *error = driveIsGone(path);
+        return false;
+    }
+    if (!writeFileDurably(onDisk(path), contents, error))
+        return false;
+    if (isDriveThere(path))
+        return true;
+    *error = driveIsGone(path);
+    return false;
+}
+
+} // namespace uiutils
