@@ -154,6 +154,7 @@ void LoopbackReport::reportWritten(const QString& path)
 {
     m_savedFiles += onDisk(path);
     m_savedFiles.removeDuplicates();
+    Q_EMIT fileWritten(path);
 }
 
 QString LoopbackReport::generateTxtReport()

@@ -58,6 +58,8 @@ Q_SIGNALS:
     void measurementChanged();
     /// A save needs the content: whoever hears this builds it before returning.
     void contentWanted();
+    /// A save has written the file at the instrument path; comes before reportFilesChanged().
+    void fileWritten(const QString& path);
 
 protected:
     void settingsLoaded() override;

@@ -1,14 +1,17 @@
 #include "savedreportactions.h"
 
-#include "core/durablefile.h"
 #include "core/paths.h"
 #include "document/reportmetadata.h"
+#include "report/drivefile_p.h"
+#include "report/reportdestinations_p.h"
+#include "report/reportlisting_p.h"
 
-#include <kiv/filesystemusage.h>
 #include <kiv/kivnotification.h>
 
 #include <QFile>
 #include <QFileInfo>
+
+#include <optional>
 
 namespace uiutils::demo {
 
@@ -24,11 +27,6 @@ QString folderOf(const QString& path)
 QString nameOf(const QString& path)
 {
     return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
-
-QString usbPathOf(const QString& path)
-{
-    return paths::usb + nameOf(path);
 }
 
 /// Also a link that leads nowhere.
@@ -85,6 +83,12 @@ bool SavedReportActions::hasViewer() const
     return QFileInfo(onDisk(paths::pdfViewer)).isExecutable();
 }
 
+QVariantList SavedReportActions::reportsOnUsb() const
+{
+    // Without a drive the folder is the unit's.
+    return isDriveThere(paths::usb) ? reportFiles(paths::usb) : QVariantList();
+}
+
 void SavedReportActions::remove(const QString& path)
 {
     m_removal.sendNotificationDeleteRequest(onOneLine(path), {{fileNameKey, path}});
@@ -92,7 +96,8 @@ void SavedReportActions::remove(const QString& path)
 
 void SavedReportActions::removeNow(const QString& path)
 {
-    const bool isGone = QFile::remove(onDisk(path)) || !isThere(path);
+    // What went with its drive is not deleted.
+    const bool isGone = isDriveThere(path) && (QFile::remove(onDisk(path)) || !isThere(path));
     if (isGone)
         forget(path);
     else
@@ -114,9 +119,9 @@ void SavedReportActions::forget(const QString& path)
 
 void SavedReportActions::copyToUsb(const QString& path)
 {
-    const QString target = usbPathOf(path);
+    const QString target = usbPath(path);
     // Without a drive the folder is the unit's.
-    if (FileSystemUsage::isMounted(paths::usb) && isThere(target))
+    if (isDriveThere(target) && isThere(target))
         m_copying.sendNotificationOverwriteRequest(target, {{fileNameKey, path}});
     else
         copyNow(path);
@@ -124,23 +129,17 @@ void SavedReportActions::copyToUsb(const QString& path)
 
 void SavedReportActions::copyNow(const QString& path)
 {
-    const QString target = usbPathOf(path);
-    if (!FileSystemUsage::isMounted(paths::usb)) {
-        m_copying.sendNotificationWriteError(target);
-        return;
-    }
-    QFile file(onDisk(path));
-    const QByteArray contents = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    // Of more than an array holds Qt reads nothing, and calls that no error.
-    if (file.error() != QFileDevice::NoError || contents.size() != file.size()) {
+    const QString target = usbPath(path);
+    QString error;
+    const std::optional<QByteArray> contents = readWholeFile(path, &error);
+    if (!contents) {
         m_copying.sendNotificationReadError(path);
         return;
     }
-    if (!m_copying.checkDriveSpaceForFile(contents.size(), target))
+    // Without a drive the room would be the unit's.
+    if (isDriveThere(target) && !m_copying.checkDriveSpaceForFile(contents->size(), target))
         return;
-    QString error;
-    // A drive that is pulled leaves its folder behind, and the copy in the unit.
-    if (writeFileDurably(onDisk(target), contents, &error) && FileSystemUsage::isMounted(paths::usb)) {
+    if (writeToDrive(target, *contents, &error)) {
         tellCopied(m_copying.getSanitizedPathName(target));
         return;
     }

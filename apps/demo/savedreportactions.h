@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QVariantList>
 
 namespace uiutils::demo {
 
@@ -26,6 +27,9 @@ public:
 
     /// Whether there is what the controller's showPDF() starts, which says nothing when there is not.
     Q_INVOKABLE bool hasViewer() const;
+    /// The reports on the USB drive, but not those of its folders, in the order and form of `reportFiles`; none without
+    /// a drive. As there, a file is a report when its name ends like one.
+    Q_INVOKABLE QVariantList reportsOnUsb() const;
     /// Asks whether the report may be deleted. A yes takes along its metadata record and what keeps it from the cloud.
     Q_INVOKABLE void remove(const QString& path);
     /// Copies the report to the USB drive; asks before it takes the place of a file there. The tray tells when the copy

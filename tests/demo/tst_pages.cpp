@@ -7,6 +7,7 @@
 #include "measurementsettings.h"
 #include "qmlwarnings.h"
 #include "service/kivdata.h"
+#include "usbstick.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
@@ -86,6 +87,7 @@ private Q_SLOTS:
 
     void cleanup()
     {
+        QVERIFY(stick()->pull());
         endProgram();
         KIVNotificationModelManager::instance()->clear();
         QCOMPARE(m_warnings.take(), QStringList());
@@ -378,21 +380,35 @@ private Q_SLOTS:
     }
 
     /// The keys of the list, and where they leave the user.
+    void savedReportsByKeys_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("unit") << "/cust/public/reports/loopback/";
+        QTest::newRow("USB drive") << "/mnt/usb/";
+    }
+
     void savedReportsByKeys()
     {
+        QFETCH(const QString, folder);
         removeReports();
+        QFile::remove(m_root.filePath("base/bin/pdf_viewer"));
         m_window->setProperty("page", 2);
-        put("/cust/public/reports/loopback/a.pdf", "a report");
+        if (folder == "/mnt/usb/") {
+            QVERIFY(stick()->plug());
+            waitForFrame();
+            click(named("usbButton"));
+        }
+        put(folder + "a.pdf", "a report");
         m_report->tellFilesChanged();
         QVERIFY(button("Delete")->isVisible() && !button("Open")->isVisible());
         for (const char* name : {"b.txt", "c.txt"})
-            put(QString("/cust/public/reports/loopback/") + name, "a report");
+            put(folder + name, "a report");
         // Notes what it is started with.
         put("/base/bin/pdf_viewer", "#!/bin/sh\necho \"$@\" > shown.part && mv shown.part shown\n");
         QVERIFY(QFile(m_root.filePath("base/bin/pdf_viewer")).setPermissions(QFile::ReadOwner | QFile::ExeOwner));
         QVERIFY(QDir(m_root.path()).mkpath("base/qml/pdf_viewer"));
         m_report->tellFilesChanged();
-        const QQuickItem* const list = firstItem([](const QQuickItem* item) { return item->objectName() == "reportList"; });
+        const QQuickItem* const list = named("reportList");
         QCOMPARE(list->property("count").toInt(), 3);
         for (int i = 0; i < 20 && !list->hasActiveFocus(); ++i)
             QTest::keyClick(m_window, Qt::Key_Tab);
@@ -404,7 +420,8 @@ private Q_SLOTS:
         }
         QTest::keyClick(m_window, Qt::Key_Return);
         QTRY_VERIFY(QFile::exists(m_root.filePath("base/qml/pdf_viewer/shown")));
-        QVERIFY(contents("/base/qml/pdf_viewer/shown").contains(m_root.filePath("cust/public/reports/loopback/a.pdf").toUtf8()));
+        QVERIFY(contents("/base/qml/pdf_viewer/shown").contains(m_root.path().toUtf8() + folder.toUtf8() + "a.pdf"));
+        QVERIFY(QFile::remove(m_root.filePath("base/qml/pdf_viewer/shown")));
 
         for (int i = 0; i < 3; ++i)
             QTest::keyClick(m_window, Qt::Key_Up);
@@ -486,7 +503,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("state");
         QTest::addColumn<QSize>("size");
-        for (const char* state : {"idle", "failed", "finished", "marginal"}) {
+        for (const char* state : {"idle", "failed", "finished", "marginal", "with a USB drive"}) {
             QTest::addRow("%s, instrument", state) << state << QSize(1024, 600);
             QTest::addRow("%s, smallest", state) << state << QSize(880, 540);
         }
@@ -506,6 +523,8 @@ private Q_SLOTS:
                 quantity->setLimit(quantity->median());
             QVERIFY(QMetaObject::invokeMethod(m_window, "saveReport"));
         }
+        if (state == "with a USB drive")
+            saveOnBoth();
         for (int page = 0; page < 4; ++page) {
             m_window->setProperty("page", page);
             waitForFrame();
@@ -661,6 +680,14 @@ private:
         QTRY_COMPARE_WITH_TIMEOUT(m_measurement->state(), LoopbackMeasurement::Finished, longWait);
     }
 
+    /// With the unit's list there are the most buttons.
+    void saveOnBoth()
+    {
+        QVERIFY(stick()->plug());
+        service(saveLocation)->setValue(saveLocation, 2);
+        QVERIFY(QMetaObject::invokeMethod(m_window, "saveReport"));
+    }
+
     void failToMeasure()
     {
         QTcpServer silent;
@@ -708,6 +735,18 @@ private:
         if (found == items.end())
             qFatal("The page lacks the item that the test looks for.");
         return *found;
+    }
+
+    QQuickItem* named(const QString& name) const
+    {
+        return firstItem([&](const QQuickItem* item) { return item->objectName() == name; });
+    }
+
+    UsbStick* stick() const
+    {
+        return firstItem([](const QQuickItem* item) {
+            return item->property("report").isValid() && item->property("stick").isValid();
+        })->property("stick").value<UsbStick*>();
     }
 
     QQuickItem* button(const QString& words) const

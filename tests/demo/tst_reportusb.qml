@@ -58,9 +58,6 @@ Item {
             pressStick()
             compare(page.report.saveLocation, "USB:/")
             save("a")
-            // Those in the unit.
-            compare(findChild(page, "reportList").count, 0)
-            compare(text("reportPlace"), "Internal:/reports/loopback/")
             compare(driver.filesIn("mnt/usb"), ["a.txt", "a.txt.metadata"])
 
             pressStick()
@@ -74,6 +71,49 @@ Item {
             close()
             open()
             compare(text("stickButton"), "Pull out")
+        }
+
+        // Whose reports are listed: those of the place saved to last, or chosen since.
+        function test_list() {
+            const lists = (place, count, canChoose) => {
+                compare(text("reportPlace"), place === "USB" ? "USB:/" : "Internal:/reports/loopback/")
+                compare(entry("reportList").count, count)
+                compare([entry("unitButton").visible, entry("usbButton").visible], [canChoose, canChoose])
+                compare([entry("unitButton").checked, entry("usbButton").checked], [place !== "USB", place === "USB"])
+                compare(entry("copyButton").visible, count > 0 && place !== "USB")
+                compare(entry("deleteButton").visible, count > 0)
+            }
+            driver.put("old.txt", "a report")
+            page.report.reportFilesChanged()
+            lists("unit", 1, false)
+            pressStick()
+            lists("unit", 1, true)
+            choose("USB", "locationEntry")
+            save("a")
+            lists("USB", 1, true)
+            tap(entry("unitButton"))
+            lists("unit", 1, true)
+            entry("usbButton").forceActiveFocus()
+            keyClick(Qt.Key_Return)
+            lists("USB", 1, true)
+            pressStick()
+            lists("unit", 1, false)
+            pressStick()
+            lists("unit", 1, true)
+
+            // Not on the drive alone, so that the unit's list has it.
+            tap(entry("usbButton"))
+            choose("Internal and USB", "locationEntry")
+            save("b")
+            lists("unit", 2, true)
+            tap(entry("usbButton"))
+            lists("USB", 2, true)
+            compare(page.report.reportFiles.map(file => file.name).sort(), ["b", "old"])
+
+            tap(entry("deleteButton"))
+            tap(part("acceptButton"))
+            lists("USB", 1, true)
+            compare(driver.files(), ["b.txt", "old.txt"])
         }
 
         // Nothing may end up in the unit's own folder under the mount.

@@ -130,6 +130,37 @@ private Q_SLOTS:
         expectError(isDeleted ? "" : "Write Error");
     }
 
+    void onTheUsbDrive()
+    {
+        const QStringList others {".c.pdf", "b.json.gz", "notes.doc"};
+        for (const QString& name : others + QStringList {"a.pdf", "a.pdf.metadata", "folder.pdf/d.pdf"})
+            put("/mnt/usb/" + name, "a file");
+        m_report->addReportToNoSyncList("/mnt/usb/a.pdf");
+        const auto listed = [this] {
+            QStringList paths;
+            for (const QVariant& file : m_actions->reportsOnUsb())
+                paths += file.toMap().value("path").toString();
+            paths.sort();
+            return paths;
+        };
+        QCOMPARE(listed(), QStringList({"/mnt/usb/a.pdf", "/mnt/usb/b.json.gz"}));
+
+        // What is pulled meanwhile is neither deleted nor forgotten.
+        m_actions->remove("/mnt/usb/a.pdf");
+        baseManager()->setMounted("/mnt/usb/", false);
+        QCOMPARE(listed(), QStringList());
+        notifications()->accept();
+        expectError("Write Error");
+        QVERIFY(contents(unsynced).contains("/mnt/usb/a.pdf\n"));
+        baseManager()->setMounted("/mnt/usb/", true);
+
+        m_actions->remove("/mnt/usb/a.pdf");
+        QVERIFY(question().contains("USB:/a.pdf"));
+        notifications()->accept();
+        QCOMPARE(filesIn("/mnt/usb/"), others);
+        QVERIFY(!contents(unsynced).contains("a.pdf"));
+    }
+
     void copying_data()
     {
         QTest::addColumn<Deed>("before");

@@ -239,6 +239,7 @@ FocusScope {
                 SavedReports {
                     anchors { fill: parent; margins: Theme.margin }
                     report: page.report
+                    stick: page.stick
                 }
             }
             Card {

@@ -4,11 +4,15 @@ import QtQuick.Layouts 1.15
 import UiUtils 1.0
 import UiUtils.Demo 1.0
 
-// The reports in a report controller's folder, newest first, and what can be done with the current one.
+// The reports in a report controller's folder or on the USB drive, newest first, and what can be done with the current one.
 ColumnLayout {
     id: saved
 
     property LoopbackReport report
+    property UsbStick stick
+    // Whose list it is: the drive's as long as it is in, or the unit's.
+    property bool showsStick: false
+    readonly property bool canChoose: stick !== null && stick.attached
     readonly property alias list: list
     property var files: []
     // Where they lie, which need not be where the next one is saved.
@@ -24,8 +28,8 @@ ColumnLayout {
         const newest = files.length > 0 ? files[0] : null
         const row = list.currentIndex
         hasViewer = actions.hasViewer()
-        files = report.reportFiles
-        place = words.getSanitizedPathName(report.getReportFilePath())
+        files = showsStick ? actions.reportsOnUsb() : report.reportFiles
+        place = words.getSanitizedPathName(showsStick ? stick.mountPoint : report.getReportFilePath())
         const isNews = files.length > 0 && (newest === null || files[0].time > newest.time)
         list.currentIndex = isNews ? 0 : Math.min(row, files.length - 1)
         list.positionViewAtIndex(list.currentIndex, ListView.Contain)
@@ -59,21 +63,33 @@ ColumnLayout {
     }
 
     Component.onCompleted: refresh()
+    onCanChooseChanged: showsStick = showsStick && canChoose
+    onShowsStickChanged: {
+        files = []
+        refresh()
+    }
     Connections {
         target: saved.report
         function onReportFilesChanged() { saved.refresh() }
+        // Whoever saves sees what they have saved.
+        function onFileWritten(path) { saved.showsStick = saved.canChoose && path.startsWith(saved.stick.mountPoint) }
     }
 
-    RowLayout {
+    GridLayout {
         Layout.fillWidth: true
-        spacing: Theme.gap
+        // Without a choice the heading has room beside the buttons.
+        columns: saved.canChoose ? 1 : 2
+        columnSpacing: Theme.gap
+        rowSpacing: 4
 
-        ColumnLayout {
+        GridLayout {
             Layout.fillWidth: true
-            spacing: 0
+            columns: saved.canChoose ? 2 : 1
+            columnSpacing: Theme.gap
+            rowSpacing: 0
 
             Text {
-                Layout.fillWidth: true
+                Layout.fillWidth: !saved.canChoose
                 text: list.count > 0 ? qsTr("Saved reports (%1)").arg(list.count) : qsTr("Saved reports")
                 color: Theme.text
                 font { pixelSize: Theme.headingText; bold: true }
@@ -90,30 +106,66 @@ ColumnLayout {
                 textFormat: Text.PlainText
                 color: Theme.mutedText
                 font.pixelSize: Theme.smallText
+                horizontalAlignment: saved.canChoose ? Text.AlignRight : Text.AlignLeft
                 elide: Text.ElideMiddle
             }
         }
-        ActionButton {
-            objectName: "openButton"
-            visible: saved.canOpen
-            filled: false
-            text: qsTr("Open")
-            onClicked: saved.open()
-        }
-        ActionButton {
-            objectName: "copyButton"
-            visible: saved.current !== null
-            filled: false
-            text: qsTr("To USB")
-            Accessible.name: qsTr("Copy to the USB drive")
-            onClicked: actions.copyToUsb(saved.current.path)
-        }
-        ActionButton {
-            objectName: "deleteButton"
-            visible: saved.current !== null
-            filled: false
-            text: qsTr("Delete")
-            onClicked: saved.remove()
+        RowLayout {
+            spacing: Theme.gap
+
+            Rectangle {
+                implicitWidth: places.implicitWidth
+                implicitHeight: places.implicitHeight
+                visible: saved.canChoose
+                radius: Theme.radius
+                color: Theme.background
+                border { width: 1; color: Theme.border }
+
+                Row {
+                    id: places
+
+                    SegmentButton {
+                        objectName: "unitButton"
+                        text: qsTr("Unit")
+                        checked: !saved.showsStick
+                        Accessible.name: qsTr("Reports on the unit")
+                        onClicked: saved.showsStick = false
+                    }
+                    SegmentButton {
+                        objectName: "usbButton"
+                        text: qsTr("USB")
+                        checked: saved.showsStick
+                        Accessible.name: qsTr("Reports on the USB drive")
+                        onClicked: saved.showsStick = true
+                    }
+                }
+            }
+            Item {
+                Layout.fillWidth: true
+                visible: saved.canChoose
+            }
+            ActionButton {
+                objectName: "openButton"
+                visible: saved.canOpen
+                filled: false
+                text: qsTr("Open")
+                onClicked: saved.open()
+            }
+            ActionButton {
+                objectName: "copyButton"
+                visible: saved.current !== null && !saved.showsStick
+                filled: false
+                text: qsTr("To USB")
+                Accessible.name: qsTr("Copy to the USB drive")
+                onClicked: actions.copyToUsb(saved.current.path)
+            }
+            ActionButton {
+                objectName: "deleteButton"
+                visible: saved.current !== null
+                filled: false
+                text: qsTr("Delete")
+                onClicked: saved.remove()
+            }
         }
     }
     ListView {
@@ -210,7 +262,8 @@ ColumnLayout {
         EmptyNote {
             anchors { fill: parent; margins: Theme.margin }
             visible: list.count === 0
-            text: qsTr("Nothing is saved yet.")
+            text: saved.showsStick ? qsTr("There are no reports on the USB drive.")
+                : saved.canChoose ? qsTr("There are no reports on the unit.") : qsTr("Nothing is saved yet.")
         }
     }
 }

@@ -1,9 +1,9 @@
 #include "report/reportfilewriter_p.h"
 
-#include "core/durablefile.h"
 #include "core/paths.h"
 #include "core/temporaries_p.h"
 #include "core/temporaryfolder_p.h"
+#include "report/drivefile_p.h"
 #include "report/gzip_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
@@ -19,9 +19,9 @@ namespace uiutils {
 
 namespace {
 
-QString failure(const char* text, const QString& path, const QString& reason)
+QString cannotCompress(const QString& path, const QString& reason)
 {
-    return QCoreApplication::translate("Report", text).arg(path, reason);
+    return QCoreApplication::translate("Report", "Cannot compress %1: %2").arg(path, reason);
 }
 
 /// Whether these are gzip's bytes for so many: its mark in front, the number at the end. A disk that ran full may have
@@ -50,13 +50,13 @@ QByteArray compressedForm(const QString& path, const QByteArray& contents, QStri
     removeStaleTemporaries(target.path());
     const TemporaryFolder folder(target.path());
     if (folder.path().isEmpty()) {
-        *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot compress %1: %2"), path, qt_error_string(errno));
+        *error = cannotCompress(path, qt_error_string(errno));
         return QByteArray();
     }
     const QString place = folder.filePath(target.fileName());
     QString reason;
     if (!writePlainly(place, contents, &reason)) {
-        *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot compress %1: %2"), path, reason);
+        *error = cannotCompress(path, reason);
         return QByteArray();
     }
     QByteArray bytes;
@@ -66,38 +66,21 @@ QByteArray compressedForm(const QString& path, const QByteArray& contents, QStri
     }
     if (isWholeGzip(bytes, contents.size()))
         return bytes;
-    *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot compress %1: %2"), path,
-            QCoreApplication::translate("Report", "gzip is missing or has failed"));
+    *error = cannotCompress(path, QCoreApplication::translate("Report", "gzip is missing or has failed"));
     return QByteArray();
 }
 
-QString driveIsGone(const QString& path)
+NewFile write(const QString& path, const QByteArray& contents, bool mayReplace, QString* error)
 {
-    return failure(QT_TRANSLATE_NOOP("Report", "Cannot write %1: %2"), path,
-            QCoreApplication::translate("Report", "the USB drive is not there"));
-}
-
-/// A stick that is pulled leaves its folder behind, in which the unit would keep what was to go along: before the write
-/// it must be there, and afterwards it must be there still.
-NewFile writeToDrive(const QString& path, const QByteArray& contents, bool mayReplace, QString* error)
-{
-    NewFile file = NewFile::Failed;
-    if (isDriveThere(path) && mayReplace)
-        file = writeFileDurably(onDisk(path), contents, error) ? NewFile::Written : NewFile::Failed;
-    else if (isDriveThere(path))
-        file = writeNewFileDurably(onDisk(path), contents, error);
-    else
-        *error = driveIsGone(path);
-    if (file != NewFile::Written || isDriveThere(path))
-        return file;
-    *error = driveIsGone(path);
-    return NewFile::Failed;
+    if (!mayReplace)
+        return writeNewToDrive(path, contents, error);
+    return writeToDrive(path, contents, error) ? NewFile::Written : NewFile::Failed;
 }
 
 WrittenFile writeAsItIs(const QString& path, const QByteArray& contents, bool mayReplace)
 {
     WrittenFile file;
-    const NewFile result = writeToDrive(path, contents, mayReplace, &file.error);
+    const NewFile result = write(path, contents, mayReplace, &file.error);
     file.ok = result == NewFile::Written;
     file.isTaken = result == NewFile::Taken;
     if (file.ok)
@@ -124,13 +107,8 @@ WrittenFile writeReportFile(const QString& path, const QByteArray& contents, boo
 
 bool copyReportFile(const QString& source, const QString& target, bool mayReplace, QString* error)
 {
-    QFile file(onDisk(source));
-    const QByteArray contents = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    // Of a file that memory cannot hold, nothing is read, and that is no error of the file's.
-    if (file.error() == QFileDevice::NoError && contents.size() == file.size())
-        return writeToDrive(target, contents, mayReplace, error) == NewFile::Written;
-    *error = failure(QT_TRANSLATE_NOOP("Report", "Cannot read %1: %2"), source, file.errorString());
-    return false;
+    const std::optional<QByteArray> contents = readWholeFile(source, error);
+    return contents && write(target, *contents, mayReplace, error) == NewFile::Written;
 }
 
 } // namespace uiutils
