@@ -1,10 +1,10 @@
 #include "savedreportactions.h"
 
 #include "core/paths.h"
-#include "document/reportmetadata.h"
 #include "report/drivefile_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportlisting_p.h"
+#include "report/reportrecord_p.h"
 
 #include <kiv/kivnotification.h>
 
@@ -19,16 +19,6 @@ namespace {
 
 const QString fileNameKey = QStringLiteral("Filename");
 
-QString folderOf(const QString& path)
-{
-    return path.left(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
-
-QString nameOf(const QString& path)
-{
-    return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
-}
-
 /// Also a link that leads nowhere.
 bool isThere(const QString& path)
 {
@@ -40,14 +30,6 @@ bool isThere(const QString& path)
 QString onOneLine(QString path)
 {
     return path.replace(QLatin1Char('\n'), QLatin1Char(' '));
-}
-
-QString recordOf(const QString& path)
-{
-    ReportMetadata record;
-    record.updateMetadataPathBase(folderOf(path));
-    record.setMetadataName(nameOf(path));
-    return record.metadataFilePath();
 }
 
 void tellCopied(const QString& shownPath)
@@ -108,9 +90,7 @@ void SavedReportActions::removeNow(const QString& path)
 
 void SavedReportActions::forget(const QString& path)
 {
-    const QString record = onDisk(recordOf(path));
-    if (QFileInfo::exists(record) && !QFile::remove(record))
-        qWarning("The record %s cannot be deleted.", qUtf8Printable(record));
+    removeReportRecord(path);
     // The list takes no path with a line feed.
     if (!m_report || path.contains(QLatin1Char('\n')))
         return;

@@ -132,7 +132,7 @@ private Q_SLOTS:
 
     void onTheUsbDrive()
     {
-        const QStringList others {".c.pdf", "b.json.gz", "notes.doc"};
+        const QStringList others {"._c.pdf", "b.json.gz", "notes.doc"};
         for (const QString& name : others + QStringList {"a.pdf", "a.pdf.metadata", "folder.pdf/d.pdf"})
             put("/mnt/usb/" + name, "a file");
         m_report->addReportToNoSyncList("/mnt/usb/a.pdf");

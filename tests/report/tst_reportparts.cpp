@@ -338,7 +338,9 @@ private Q_SLOTS:
         add("a.b.txt", 2, 1);
         add("a.txt", 2, 1);
         add("a.pdf.gz", 2, 1);
-        for (const char* other : {".hidden.pdf", ".uiutils-1.tmp", ".pdf", "a.gz", "a.sor", "pdf", "a.pdf.gz.tmp"})
+        // Users may call a report that, and would miss it.
+        add(".hidden.pdf", 0, 1);
+        for (const char* other : {"._b.json", ".uiutils-1.tmp", ".pdf", ".pdf.gz", "a.gz", "a.sor", "pdf", "a.pdf.gz.tmp"})
             add(other, 4, 1);
         QVERIFY(QDir().mkpath("folder.pdf") && QFile::link("nowhere", "dangling.pdf"));
         QVERIFY(QFile::link("folder.pdf", "linkedfolder.pdf") && QFile::link("old.pdf", "linked.pdf"));
@@ -361,7 +363,8 @@ private Q_SLOTS:
                                     "a.b /cust/public/reports/a.b.txt TEXT 1 2 false",
                                     "b /cust/public/reports/b.json JSON 0 2 false",
                                     "linked /cust/public/reports/linked.pdf PDF 10 1 false",
-                                    "old /cust/public/reports/old.pdf PDF 10 1 false"}));
+                                    "old /cust/public/reports/old.pdf PDF 10 1 false",
+                                    ".hidden /cust/public/reports/.hidden.pdf PDF 1 0 false"}));
         }
         for (const QString& none : {QString(), QString("/cust/none"), QString("/cust/public/reports/a.txt")})
             QVERIFY(uiutils::reportFiles(none).isEmpty());

@@ -126,6 +126,7 @@ private Q_SLOTS:
             QCOMPARE(contentsOf(reports + name), QByteArray("theirs"));
             QCOMPARE(manager()->currentDialog() != nullptr, name == QByteArray("a.txt.gz"));
             QVERIFY(!manager()->currentDialog() || manager()->currentDialog()->msg().contains("overwrite"));
+            QVERIFY(!report.calls.contains("failed"));
             QVERIFY(QDir(reports).removeRecursively());
         }
     }
@@ -661,6 +662,7 @@ private Q_SLOTS:
         QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
         QVERIFY(report.save(true));
         QCOMPARE(names("/cust/public/reports"), QStringList("a.txt.gz"));
+        QCOMPARE(names("/cust/private/reports/metadata"), QStringList("a.txt.gz.metadata"));
     }
 
     void reportsStayFromTheCloudThoughOthersFail()

@@ -36,7 +36,7 @@ bool readName(const QString& fileName, SavedReport* report)
     const auto format = std::find_if(formats.cbegin(), formats.cend(), [&](const ReportFormat& candidate) {
         return !candidate.suffix.isEmpty() && plain.endsWith(candidate.suffix);
     });
-    if (format == formats.cend())
+    if (format == formats.cend() || end == format->suffix.size())
         return false;
     report->fileName = fileName;
     report->name = fileName.left(end - format->suffix.size());
@@ -47,11 +47,12 @@ bool readName(const QString& fileName, SavedReport* report)
 QVector<SavedReport> reportsIn(const QString& place)
 {
     QVector<SavedReport> reports;
-    const QFileInfoList files = QDir(place).entryInfoList(QDir::Files, QDir::Unsorted);
+    const QFileInfoList files = QDir(place).entryInfoList(QDir::Files | QDir::Hidden, QDir::Unsorted);
     reports.reserve(files.size());
     for (const QFileInfo& file : files) {
         SavedReport report;
-        if (!readName(file.fileName(), &report))
+        // Some desks put a companion of such a name beside each file of a stick.
+        if (file.fileName().startsWith(QLatin1String("._")) || !readName(file.fileName(), &report))
             continue;
         report.size = file.size();
         report.time = file.lastModified();

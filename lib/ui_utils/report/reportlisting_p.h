@@ -17,8 +17,8 @@ namespace uiutils {
 /// | `time` | when it was written last, a QDateTime in local time |
 /// | `compressed` | whether it is a gzip file |
 ///
-/// A report is a file, or a link to one, whose name is not hidden and ends in a format's suffix, with ".gz" behind it
-/// or not. Empty for a folder that cannot be read.
+/// A report is a file, or a link to one, whose name ends in a format's suffix, with ".gz" behind it or not, and does
+/// not begin with "._". Empty for a folder that cannot be read.
 QVariantList reportFiles(const QString& folder);
 
 } // namespace uiutils

@@ -1,8 +1,12 @@
 #include "report/reportrecord_p.h"
 
 #include "core/itemids.h"
+#include "core/paths.h"
 #include "document/reportmetadata.h"
 #include "report/reportdestinations_p.h"
+
+#include <QFile>
+#include <QFileInfo>
 
 namespace uiutils {
 
@@ -17,17 +21,31 @@ QString timeStamp(const QDateTime& time)
     return stamp;
 }
 
+void locate(ReportMetadata* record, const QString& path)
+{
+    const int nameStart = path.lastIndexOf(QLatin1Char('/')) + 1;
+    record->updateMetadataPathBase(path.left(nameStart));
+    record->setMetadataName(path.mid(nameStart));
+}
+
 } // namespace
 
 void describeReport(ReportMetadata* record, const QString& path, const QString& format, const QDateTime& time)
 {
-    const int nameStart = path.lastIndexOf(QLatin1Char('/')) + 1;
     record->clear();
     record->setType(QStringLiteral("result"));
     record->setFormat(format);
     record->setTimeStamp(timeStamp(time));
-    record->updateMetadataPathBase(path.left(nameStart));
-    record->setMetadataName(path.mid(nameStart));
+    locate(record, path);
+}
+
+void removeReportRecord(const QString& path)
+{
+    ReportMetadata record;
+    locate(&record, path);
+    const QString place = onDisk(record.metadataFilePath());
+    if (QFileInfo::exists(place) && !QFile::remove(place))
+        qWarning("The record %s cannot be deleted.", qUtf8Printable(place));
 }
 
 void addJobTest(ReportMetadata* record, const QString& testType, const QString& testLabel)

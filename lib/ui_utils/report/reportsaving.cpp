@@ -327,7 +327,8 @@ bool Report::Save::announce()
 
 bool Report::Save::fail()
 {
-    if (m_report)
+    // A save that asks has not failed yet.
+    if (m_report && !m_report->m_state->gate.isAsking())
         m_report->saveFailed(m_name);
     return false;
 }

@@ -9,15 +9,12 @@
 #include <kiv/kivnotification.h>
 
 #include <QLatin1String>
-#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
-#include <QtDebug>
 
 #include <memory>
 #include <optional>
-#include <utility>
 
 /// What the parts of the report controller share.
 namespace uiutils {
@@ -69,69 +66,21 @@ public:
     ReportDestinations destinations() const { return fixedDestinations.value_or(ReportDestinations::current()); }
 
     /// An answer counts once, also when a writer alone has asked: it is not for a save that comes much later.
-    void takeUpAgreement(const QString& path)
-    {
-        if (agreed && agreed->paths.contains(path))
-            agreed.reset();
-    }
+    void takeUpAgreement(const QString& path);
 
     /// From here to endSave(), one error is told however many files it hits.
-    void beginSave()
-    {
-        endSave();
-        m_isFirstError = true;
-        m_isSyncErrorTold = false;
-    }
-    void endSave()
-    {
-        m_isFirstError.reset();
-        fixedDestinations.reset();
-        checkedPaths.clear();
-        strays.clear();
-    }
+    void beginSave();
+    void endSave();
 
     /// The report at `path` could not be written: the user is told where, the log why.
-    void tellWriteError(const QString& path, const QString& reason)
-    {
-        qDebug("The report %s was not written: %s", qUtf8Printable(path), qUtf8Printable(reason));
-        const bool isToldAlready = m_isFirstError && !*m_isFirstError;
-        if (m_isFirstError)
-            m_isFirstError = false;
-        if (!isToldAlready)
-            m_errors->sendNotificationWriteError(path);
-    }
-
-    void tell(const QString& title, const QString& text)
-    {
-        auto refusal = std::make_unique<KIVNotification>();
-        refusal->setLongLabel(title);
-        refusal->setMsg(text);
-        refusal->setError();
-        // Those who hear that the former dialog has gone may delete whoever tells.
-        const QPointer<KIVNotification> told(refusal.get());
-        std::exchange(m_refusal, std::move(refusal)).reset();
-        if (told)
-            told->notifyDialog();
-        // The page may go now that the report is saved, and the dialog with it.
-        if (told)
-            told->notifyTray();
-    }
-
+    void tellWriteError(const QString& path, const QString& reason);
+    /// Something went wrong, in a dialog and in the tray.
+    void tell(const QString& title, const QString& text);
     /// The same, once for each save.
-    void tellSyncError(const QString& title, const QString& text)
-    {
-        const bool isSave = m_isFirstError.has_value();
-        if (!isSave || !std::exchange(m_isSyncErrorTold, true))
-            tell(title, text);
-    }
+    void tellSyncError(const QString& title, const QString& text);
 
     /// What the user is told and asked ends here, while those who hear of it find everything whole.
-    void closeDialogs()
-    {
-        gate.withdraw();
-        m_refusal.reset();
-        m_errors = std::make_unique<FileUtils>();
-    }
+    void closeDialogs();
 
     QString shown(const QString& path) { return m_errors->getSanitizedPathName(path); }
 

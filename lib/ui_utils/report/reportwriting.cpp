@@ -7,6 +7,7 @@
 #include "report/reportdestinations_p.h"
 #include "report/reportfilewriter_p.h"
 #include "report/reportformats_p.h"
+#include "report/reportrecord_p.h"
 #include "report/reportstate_p.h"
 #include "report/savednotice_p.h"
 
@@ -93,8 +94,8 @@ bool Report::writeContents(const QString& path, const QByteArray& contents, bool
         return false;
     }
     // The user has let go of a report of the name before it came to this.
-    if (m_isCompressionEnabled && overwrite)
-        QFile::remove(onDisk(path));
+    if (m_isCompressionEnabled && overwrite && (QFile::remove(onDisk(path)) || !QFile::exists(onDisk(path))))
+        uiutils::removeReportRecord(path);
     m_state->takeUpAgreement(path);
     if (path.endsWith(PDF_EXTENSION))
         m_lastPdf = file.path;
