@@ -46,6 +46,8 @@ public:
         buildReport(document(), savedRows, 0);
     }
 
+    using Report::loadSettings;
+
     void choose(int format) { getSetting(QStringLiteral("reportFormat"))->setValue(format); }
     QString generateTxtReport() override { return uiutils::reportText(document()); }
     QString generateJsonReport() override { return uiutils::reportJson(document()); }
@@ -101,6 +103,8 @@ QVector<Result> savingCases(int runs)
                 giveUp("the report cannot be saved");
         };
         save();
+        // No event loop brings them, and a save until then would ask the disk what not to touch.
+        report.loadSettings();
         const QString recordName = QStringLiteral("report.%1.metadata").arg(QLatin1String(suffixes[first]));
         const QByteArray record
                 = bytesOf(uiutils::onDisk(QStringLiteral("/cust/private/reports/metadata/bench/") + recordName));
