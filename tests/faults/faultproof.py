@@ -306,7 +306,9 @@ def faults_of(prepared, with_reading):
             name = prepared.scenario.name
             if call.changes:
                 yield Fault(name, actor, call.name, call.number, "kill")
-            for error in ERRORS[family(call)] if call.name != "close" or call.changes else ():
+            errors = ERRORS[family(call)] if call.name != "close" or call.changes else []
+            # What a file system says that cannot rename without replacing.
+            for error in errors + (["EINVAL"] if call.name == "renameat2" else []):
                 yield Fault(name, actor, call.name, call.of_files if call.name == "close" else call.number, error)
             if call.name == "write":
                 yield Fault(name, actor, call.name, call.of_files, "short")
