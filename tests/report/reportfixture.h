@@ -31,7 +31,6 @@
 using Setter = std::function<void(Report&)>;
 Q_DECLARE_METATYPE(Setter)
 
-
 inline const QString activeItem(":result:basemgr:jobmanager:isJobActive:");
 inline const QString locationItem(":config:basemgr:system:saveLocation:");
 inline const QString usbItem(":result:basemgr:system:usbAttached:");

@@ -1,0 +1,284 @@
+#include "reportfixture.h"
+
+/// What a save makes of the drives: full ones, and sticks that come and go.
+class ReportDrivesTest : public ReportFixture
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fullDrivesAreToldBeforehand()
+    {
+        const QByteArray stick = QFile::encodeName(onDisk("/mnt/usb"));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        if (::mount("none", stick.constData(), "tmpfs", 0, "size=256k") != 0)
+            QSKIP("Only those who may mount a drive can fill one.");
+        const auto unmount = qScopeGuard([&] { ::umount2(stick.constData(), MNT_DETACH); });
+        QVERIFY(writeFile(onDisk("/mnt/usb/half"), QByteArray(128 * 1024, 'x')));
+        QVERIFY(basemgr()->setMounted("/mnt/usb/", true));
+        Controller report;
+        report.setUp("a", 3);
+        const double used = report.percentageFileSystemUsed("/mnt/usb/not/there");
+        QVERIFY2(used > 49 && used < 55, qPrintable(QString::number(used)));
+        for (int location : {1, 2}) {
+            QVERIFY(basemgr()->setValue(locationItem, location));
+            QVERIFY(basemgr()->setValue(usbItem, true));
+            QVERIFY(!report.save());
+            QVERIFY(!report.save());
+            QCOMPARE(manager()->currentDialog()->longLabel(), QString("Not Enough Space"));
+            QCOMPARE(manager()->waitingDialogs(), 0);
+            QCOMPARE(report.calls.constLast(), QString("failed"));
+            QVERIFY(!QFile::exists(onDisk("/cust/public/reports/a.txt")) && names("/mnt/usb").size() == 1);
+            // Without a stick nothing goes there.
+            QVERIFY(basemgr()->setValue(usbItem, false));
+            QVERIFY(report.save());
+            QVERIFY(QFile::remove(onDisk("/cust/public/reports/a.txt")));
+        }
+    }
+
+    void sticks_data()
+    {
+        QTest::addColumn<int>("location");
+        QTest::addColumn<bool>("isAnnounced");
+        QTest::addColumn<bool>("isMounted");
+        QTest::addColumn<bool>("isSaved");
+        QTest::addColumn<QStringList>("internal");
+        QTest::addColumn<QStringList>("stick");
+        const QStringList files{"a.txt.gz", "a.xml.gz"};
+        QStringList recorded = files;
+        for (const QString& file : files)
+            recorded << file + ".metadata";
+        recorded.sort();
+        const QStringList none;
+        QTest::newRow("internal") << 0 << true << true << true << files << none;
+        QTest::newRow("stick") << 1 << true << true << true << none << recorded;
+        QTest::newRow("no stick") << 1 << false << false << true << files << none;
+        QTest::newRow("not told yet") << 1 << false << true << true << files << none;
+        QTest::newRow("vanished") << 1 << true << false << false << none << none;
+        QTest::newRow("both") << 2 << true << true << true << files << files;
+        QTest::newRow("both, no stick") << 2 << false << false << true << files << none;
+        QTest::newRow("both, vanished") << 2 << true << false << false << files << none;
+    }
+    void sticks()
+    {
+        QFETCH(int, location);
+        QFETCH(bool, isAnnounced);
+        QFETCH(bool, isMounted);
+        QFETCH(bool, isSaved);
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        QVERIFY(basemgr()->setValue(locationItem, location));
+        QVERIFY(basemgr()->setValue(usbItem, isAnnounced));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", isMounted));
+        Controller report;
+        report.setUp("a", 5);
+        for (int format : {0, 2, 4})
+            report.setFormatApplicable(format, false);
+        report.setCompressionEnabled(true);
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        QCOMPARE(report.save(), isSaved);
+        QCOMPARE(generated.count(), isSaved ? 1 : 0);
+        QTEST(names("/cust/public/reports"), "internal");
+        QTEST(names("/mnt/usb"), "stick");
+        QCOMPARE(manager()->currentDialog() == nullptr, isSaved);
+        // Two files that cannot be written are one mishap.
+        QCOMPARE(manager()->waitingDialogs(), 0);
+        int errors = 0;
+        for (int i = 0; i < manager()->count(); ++i)
+            errors += manager()->data(manager()->index(i), KIVNotificationModelManager::LongLabelRole) == "Write Error";
+        QCOMPARE(errors, isSaved ? 0 : 1);
+        // What lies on the stick is asked about as well.
+        QVERIFY(!report.save() || !isSaved);
+        if (location == 2 && isSaved && !names("/mnt/usb").isEmpty()) {
+            // A twin of another form goes with what may be overwritten.
+            QVERIFY(writeFile(onDisk("/mnt/usb/a.txt"), "plain"));
+            QVERIFY(report.save(true));
+            QTEST(names("/mnt/usb"), "stick");
+            manager()->reject();
+            QVERIFY(QDir(onDisk("/cust/public/reports")).removeRecursively());
+            QVERIFY(!report.save());
+            QVERIFY(manager()->currentDialog()->msg().contains("USB:/a.xml"));
+        }
+    }
+    void anAgreementHoldsForItsPlaceAlone()
+    {
+        QVERIFY(writeFile(onDisk("/mnt/usb/a.txt"), "old"));
+        QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt"), "precious"));
+        QVERIFY(basemgr()->setValue(locationItem, 1));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        Controller report;
+        report.setUp("a", 3);
+        QVERIFY(!report.save());
+        QVector<bool> saved;
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        QVERIFY(basemgr()->setValue(usbItem, false));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", false));
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>{false});
+        QVERIFY(manager()->currentDialog());
+        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Write Error"));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.txt")), QByteArray("precious"));
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/a.txt")), QByteArray("old"));
+        // Another save is another question.
+        QVERIFY(!report.save());
+        QVERIFY(manager()->currentDialog());
+    }
+
+    void anAgreementHoldsForItsNameAlone()
+    {
+        Controller report;
+        for (const char* name : {"a", "b"}) {
+            report.setUp(name, 3);
+            report.text = name;
+            QVERIFY(report.save());
+        }
+        report.setUp("a", 3);
+        QVERIFY(!report.save());
+        report.getSetting("reportName")->setValue("b");
+        QVector<bool> saved;
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        report.text = "new";
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>{false});
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("b"));
+        QVERIFY(manager()->currentDialog() && manager()->currentDialog()->msg().contains("b.txt"));
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>({false, true}));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("new"));
+        // A question of a writer alone is not about what a save writes.
+        QVERIFY(!report.writeTxtReport("/cust/public/reports/a.txt"));
+        report.text = "newer";
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>({false, true, false}));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("new"));
+        // Once that writer has its answer, who overwrites without a question does.
+        report.disconnect(&report);
+        QVERIFY(!report.writeTxtReport("/cust/public/reports/a.txt"));
+        manager()->accept();
+        QVERIFY(report.writeTxtReport("/cust/public/reports/a.txt", true));
+        QVERIFY(report.save(true));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("newer"));
+    }
+    void anAgreementHoldsForItsFolderAlone()
+    {
+        QVERIFY(writeFile(onDisk("/cust/public/reports/f/a.xml"), "old"));
+        QVERIFY(writeFile(onDisk("/cust/public/reports/g/a.txt"), "precious"));
+        Controller report;
+        report.setUp("a", 5);
+        report.setFolder("f");
+        QVERIFY(!report.save());
+        QVector<bool> saved;
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        connect(&report, &Report::lastSavedXMLChanged, &report, [&] { report.setFolder("g"); });
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>{false});
+        QVERIFY(contentsOf(onDisk("/cust/public/reports/f/a.xml")).startsWith("<?xml"));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/g/a.txt")), QByteArray("precious"));
+        QVERIFY(manager()->currentDialog() && manager()->currentDialog()->msg().contains("g/a.txt"));
+    }
+    void whatIsCopiedIsWhatWasSaved()
+    {
+        QVERIFY(writeFile(onDisk("/cust/public/reports/g/a.txt"), "another"));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        QVERIFY(basemgr()->setValue(locationItem, 2));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        Controller report;
+        report.setUp("a", 3);
+        report.text = "new";
+        connect(&report, &Report::progressChanged, &report, [&] { report.setFolder("g"); });
+        QVERIFY(report.save());
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/a.txt")), QByteArray("new"));
+    }
+    void sticksThatComeLateAreAskedAbout_data()
+    {
+        QTest::addColumn<int>("location");
+        QTest::addColumn<int>("format");
+        for (const int location : {1, 2}) {
+            for (const int format : {0, 3})
+                QTest::addRow("%d, format %d", location, format) << location << format;
+        }
+    }
+    void sticksThatComeLateAreAskedAbout()
+    {
+        QFETCH(int, location);
+        QFETCH(int, format);
+        const QString name = format == 0 ? "a.pdf" : "a.txt";
+        QVERIFY(writeFile(onDisk("/mnt/port/" + name), "precious"));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        QVERIFY(basemgr()->setValue(locationItem, location));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        Controller report;
+        report.setUp("a", format);
+        report.text = "%PDF-";
+        report.whileMaking = [&] {
+            QDir().rename(onDisk("/mnt/usb"), onDisk("/mnt/point"));
+            QDir().rename(onDisk("/mnt/port"), onDisk("/mnt/usb"));
+            basemgr()->setMounted("/mnt/usb", true);
+        };
+        QSignalSpy generated(&report, &Report::reportGenerated);
+        QVERIFY(!report.save());
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/" + name)), QByteArray("precious"));
+        QVERIFY(manager()->currentDialog());
+        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Report Exists"));
+        QCOMPARE(manager()->currentDialog()->msg(), "Do you want to overwrite report USB:/" + name + "?");
+        QCOMPARE(manager()->waitingDialogs(), 0);
+        QCOMPARE(generated.count(), 0);
+        report.whileMaking = nullptr;
+        QVector<bool> saved;
+        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        manager()->accept();
+        QCOMPARE(saved, QVector<bool>{true});
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/" + name)), QByteArray("%PDF-"));
+    }
+    void theLocationIsThatOfTheNextSave()
+    {
+        QVERIFY(basemgr()->setValue(locationItem, 1));
+        Controller report;
+        report.setUp("a", 3);
+        QStringList shown;
+        connect(&report, &Report::saveLocationChanged, &report, [&] { shown << report.getSaveLocation(); });
+        report.whileMaking = [&] { basemgr()->setValue(usbItem, true); };
+        QVERIFY(report.save());
+        QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
+        QTRY_VERIFY(!shown.isEmpty());
+        QCOMPARE(shown.constLast(), QString("USB:/"));
+    }
+    void nothingIsPutWhereAStickWas()
+    {
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        QVERIFY(basemgr()->setValue(locationItem, 1));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        Controller report;
+        report.setUp("a", 3);
+        connect(&report, &Report::reportFilesChanged, &report, [&] { basemgr()->setMounted("/mnt/usb", false); });
+        QVERIFY(report.save());
+        QCOMPARE(names("/mnt/usb"), QStringList("a.txt"));
+    }
+    void foldersOnSticksAreMade()
+    {
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        Controller report;
+        report.setUp("a", 3);
+        report.setBaseDirectory("/mnt/usb/sites");
+        report.setFolder("f");
+        QVERIFY(report.save());
+        QVERIFY(names("/mnt/usb/sites/f").contains("a.txt"));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", false));
+        report.setFolder("g");
+        QVERIFY(!report.save());
+        QCOMPARE(names("/mnt/usb/sites"), QStringList("f"));
+        // A report that is saved to the stick is its own copy.
+        report.setFolder("");
+        report.setBaseDirectory("/mnt/usb");
+        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        QVERIFY(basemgr()->setValue(usbItem, true));
+        QVERIFY(basemgr()->setValue(locationItem, 2));
+        QVERIFY(report.save());
+    }
+};
+
+QTEST_MAIN(ReportDrivesTest)
+
+#include "tst_reportdrives.moc"
