@@ -119,7 +119,7 @@ void SavedReportActions::copyNow(const QString& path)
     // Without a drive the room would be the unit's.
     if (isDriveThere(target) && !m_copying.checkDriveSpaceForFile(contents->size(), target))
         return;
-    if (writeToDrive(target, *contents, &error)) {
+    if (writeToDrive(target, *contents, true, &error) == NewFile::Written) {
         tellCopied(m_copying.getSanitizedPathName(target));
         return;
     }

@@ -21,7 +21,7 @@ namespace uiutils {
 [[nodiscard]] bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error = nullptr,
         const QString& temporary = QString());
 
-/// What became of a new file: `Taken` when another lies there, which then stays.
+/// What became of a file that was to be written: `Taken` when another lies there, which then stays.
 enum class NewFile { Written, Taken, Failed };
 
 /// The same for a file that is not to take another's place, also not that of one that came while it was written.

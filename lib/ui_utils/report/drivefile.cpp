@@ -17,18 +17,6 @@ QString driveIsGone(const QString& path)
             .arg(path, QCoreApplication::translate("Report", "the USB drive is not there"));
 }
 
-/// A stick that is pulled leaves its folder behind, in which the unit would keep what was to go along: before the write
-/// it must be there, and afterwards it must be there still.
-template<typename Write> NewFile whileDriveIsThere(const QString& path, QString* error, Write write)
-{
-    const bool wasThere = isDriveThere(path);
-    const NewFile file = wasThere ? write() : NewFile::Failed;
-    if (wasThere && (file != NewFile::Written || isDriveThere(path)))
-        return file;
-    *error = driveIsGone(path);
-    return NewFile::Failed;
-}
-
 } // namespace
 
 std::optional<QByteArray> readWholeFile(const QString& path, QString* error)
@@ -42,16 +30,20 @@ std::optional<QByteArray> readWholeFile(const QString& path, QString* error)
     return std::nullopt;
 }
 
-bool writeToDrive(const QString& path, const QByteArray& contents, QString* error)
+/// A stick that is pulled leaves its folder behind, in which the unit would keep what was to go along: before the write
+/// it must be there, and afterwards it must be there still.
+NewFile writeToDrive(const QString& path, const QByteArray& contents, bool mayReplace, QString* error)
 {
-    return whileDriveIsThere(path, error, [&] {
-        return writeFileDurably(onDisk(path), contents, error) ? NewFile::Written : NewFile::Failed;
-    }) == NewFile::Written;
-}
-
-NewFile writeNewToDrive(const QString& path, const QByteArray& contents, QString* error)
-{
-    return whileDriveIsThere(path, error, [&] { return writeNewFileDurably(onDisk(path), contents, error); });
+    const bool wasThere = isDriveThere(path);
+    NewFile file = NewFile::Failed;
+    if (wasThere && mayReplace)
+        file = writeFileDurably(onDisk(path), contents, error) ? NewFile::Written : NewFile::Failed;
+    else if (wasThere)
+        file = writeNewFileDurably(onDisk(path), contents, error);
+    if (wasThere && (file != NewFile::Written || isDriveThere(path)))
+        return file;
+    *error = driveIsGone(path);
+    return NewFile::Failed;
 }
 
 } // namespace uiutils

@@ -13,10 +13,9 @@ namespace uiutils {
 /// What the file holds. Nothing, with the reason in `error`, when not all of it can be read or memory cannot hold it.
 std::optional<QByteArray> readWholeFile(const QString& path, QString* error);
 
-/// Writes the file as writeFileDurably() does. False, with the reason in `error`, also when its drive is not there, or
-/// no more: nothing is written then into the folder that a stick leaves behind, or nobody is told that it was.
-bool writeToDrive(const QString& path, const QByteArray& contents, QString* error);
-/// The same as writeNewFileDurably() does: a file that lies there stays.
-NewFile writeNewToDrive(const QString& path, const QByteArray& contents, QString* error);
+/// Writes the file as writeFileDurably() does or, unless `mayReplace`, as writeNewFileDurably(). `Failed`, with the
+/// reason in `error`, also when its drive is not there, or no more: nothing is written then into the folder that a
+/// stick leaves behind, or nobody is told that it was.
+NewFile writeToDrive(const QString& path, const QByteArray& contents, bool mayReplace, QString* error);
 
 } // namespace uiutils

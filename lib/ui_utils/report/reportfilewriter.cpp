@@ -70,17 +70,10 @@ QByteArray compressedForm(const QString& path, const QByteArray& contents, QStri
     return QByteArray();
 }
 
-NewFile write(const QString& path, const QByteArray& contents, bool mayReplace, QString* error)
-{
-    if (!mayReplace)
-        return writeNewToDrive(path, contents, error);
-    return writeToDrive(path, contents, error) ? NewFile::Written : NewFile::Failed;
-}
-
 WrittenFile writeAsItIs(const QString& path, const QByteArray& contents, bool mayReplace)
 {
     WrittenFile file;
-    const NewFile result = write(path, contents, mayReplace, &file.error);
+    const NewFile result = writeToDrive(path, contents, mayReplace, &file.error);
     file.ok = result == NewFile::Written;
     file.isTaken = result == NewFile::Taken;
     if (file.ok)
@@ -108,7 +101,7 @@ WrittenFile writeReportFile(const QString& path, const QByteArray& contents, boo
 bool copyReportFile(const QString& source, const QString& target, bool mayReplace, QString* error)
 {
     const std::optional<QByteArray> contents = readWholeFile(source, error);
-    return contents && write(target, *contents, mayReplace, error) == NewFile::Written;
+    return contents && writeToDrive(target, *contents, mayReplace, error) == NewFile::Written;
 }
 
 } // namespace uiutils
