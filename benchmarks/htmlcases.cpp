@@ -1,7 +1,7 @@
 #include "memory.h"
 #include "writercase.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "document/reporttemplate.h"
 #include "writers/templatetohtmlwriter.h"
 

@@ -1,6 +1,6 @@
 #include "case.h"
 
-#include "core/durablefile.h"
+#include "base/durablefile.h"
 #include "writers/pdfannotation_p.h"
 #include "writers/pdfdocument_p.h"
 #include "writers/pdffile.h"

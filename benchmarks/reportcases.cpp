@@ -1,7 +1,7 @@
 #include "writercase.h"
 
-#include "core/durablefile.h"
-#include "core/paths.h"
+#include "base/durablefile.h"
+#include "base/paths.h"
 #include "document/reporttemplate.h"
 #include "report/nsreport.h"
 #include "report/report.h"

@@ -3,7 +3,7 @@
 #include "memory.h"
 #include "tokens.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "document/reporttemplate.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "common/startup.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 
 #include <embedded/embeddedbackend.h>
 

@@ -1,7 +1,7 @@
 #include "instrumentroot.h"
 
-#include "core/durablefile.h"
-#include "core/paths.h"
+#include "base/durablefile.h"
+#include "base/paths.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "loopbackreport.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "limit.h"
 #include "report/nsreport.h"
 #include "writers/templatetohtmlwriter.h"

@@ -1,6 +1,6 @@
 #include "savedreportactions.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "report/drivefile_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportlisting_p.h"

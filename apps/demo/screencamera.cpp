@@ -1,7 +1,7 @@
 #include "screencamera.h"
 
-#include "core/durablefile.h"
-#include "core/paths.h"
+#include "base/durablefile.h"
+#include "base/paths.h"
 #include "files/screenshot.h"
 
 #include <kiv/kivnotification.h>

@@ -1,6 +1,6 @@
 #include "tour.h"
 
-#include "core/durablefile.h"
+#include "base/durablefile.h"
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"

@@ -1,7 +1,7 @@
 #include "usbstick.h"
 
 #include "core/itemids.h"
-#include "core/paths.h"
+#include "base/paths.h"
 #include "instrumentroot.h"
 
 #include <embedded/embeddedbackend.h>

@@ -1,7 +1,7 @@
 #include "conversion.h"
 
 #include "console.h"
-#include "core/durablefile.h"
+#include "base/durablefile.h"
 #include "document/reporttemplate.h"
 #include "exitstatus.h"
 #include "jsonschema_p.h"

@@ -1,6 +1,6 @@
 #include "console.h"
 #include "conversion.h"
-#include "core/paths.h"
+#include "base/paths.h"
 #include "exitstatus.h"
 #include "options.h"
 #include "plan.h"

@@ -1,6 +1,6 @@
 #include "workspace.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "pagewindow.h"
 
-#include "core/durablefile.h"
+#include "base/durablefile.h"
 
 #include <QBuffer>
 #include <QCoreApplication>

@@ -1,11 +1,11 @@
 #include "filesizelimit.h"
 
-#include "core/durablefile.h"
-#include "core/paths.h"
-#include "core/temporaries_p.h"
-#include "core/temporaryfolder_p.h"
-#include "core/temporarysibling_p.h"
-#include "core/xmltext_p.h"
+#include "base/durablefile.h"
+#include "base/paths.h"
+#include "base/temporaries_p.h"
+#include "base/temporaryfolder_p.h"
+#include "base/temporarysibling_p.h"
+#include "base/xmltext_p.h"
 
 #include <QDir>
 #include <QFile>

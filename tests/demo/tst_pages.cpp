@@ -1,6 +1,6 @@
 #include "common/instrument.h"
-#include "core/durablefile.h"
-#include "core/paths.h"
+#include "base/durablefile.h"
+#include "base/paths.h"
 #include "demotypes.h"
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"

@@ -1,5 +1,5 @@
-#include "core/durablefile.h"
-#include "core/paths.h"
+#include "base/durablefile.h"
+#include "base/paths.h"
 #include "filesizelimit.h"
 #include "loopbackreport.h"
 #include "savedreportactions.h"

@@ -1,5 +1,5 @@
-#include "core/durablefile.h"
-#include "core/paths.h"
+#include "base/durablefile.h"
+#include "base/paths.h"
 #include "usbstick.h"
 
 #include <embedded/embeddedbackend.h>

@@ -2,7 +2,7 @@
 # Holds the includes of the library against its rooms: an include never runs back up.
 #
 #   module -> report -> writers, templ2xmlwriter, files, local -> service, document -> platform/contract
-#   everything may use core; core uses Qt only; the library never uses platform/reference
+#   everything may use core and base, which use Qt only; the library never uses platform/reference
 set -euo pipefail
 cd "$1"
 
@@ -26,8 +26,8 @@ complain() {
 }
 
 check_room() {
-    local room=$1 allowed=" $* core " line file target
-    [ "$room" = core ] && allowed=" core "
+    local room=$1 allowed=" $* core base " line file target
+    [ "$room" = core ] && allowed=" core base "
     [ -d "lib/ui_utils/$room" ] || return 0
     while IFS= read -r line; do
         file=${line%%:*}
@@ -43,6 +43,10 @@ done <<<"$rooms"
 while IFS= read -r folder; do
     grep -qE "^$(basename "$folder")( |\$)" <<<"$rooms" || complain "$folder: a room that the rule does not know"
 done < <(find lib/ui_utils -mindepth 1 -maxdepth 1 -type d)
+
+while IFS= read -r line; do
+    complain "${line%%:*}: base must not include what stands above it"
+done < <(grep -rHE '#include ([<"](kiv|embedded)/|"[a-z0-9_]+/)' base | grep -vE '"base/' || true)
 
 while IFS= read -r line; do
     complain "${line%%:*}: the contract must not include what stands above it"

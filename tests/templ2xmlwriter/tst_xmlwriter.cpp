@@ -1,6 +1,6 @@
 #include "golden.h"
 
-#include "core/xmlname_p.h"
+#include "base/xmlname_p.h"
 #include "document/reporttemplate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 

@@ -1,6 +1,6 @@
 #include "golden.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "document/reporttemplate.h"
 #include "writers/htmlstreamwriter.h"
 #include "writers/reporttable.h"

@@ -1,6 +1,6 @@
 #include "filesizelimit.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "document/reporttemplate.h"
 #include "writers/reportheader.h"
 #include "writers/reportimage.h"

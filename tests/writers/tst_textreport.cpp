@@ -1,6 +1,6 @@
 #include "golden.h"
 
-#include "core/plaintext_p.h"
+#include "base/plaintext_p.h"
 #include "document/reporttemplate.h"
 #include "writers/textreport.h"
 

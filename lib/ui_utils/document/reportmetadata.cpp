@@ -1,7 +1,7 @@
 #include "document/reportmetadata.h"
 
-#include "core/durablefile.h"
-#include "core/paths.h"
+#include "base/durablefile.h"
+#include "base/paths.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "files/drivespace_p.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 
 #include <QDir>
 #include <QFile>

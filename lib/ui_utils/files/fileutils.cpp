@@ -1,6 +1,6 @@
 #include "files/fileutils.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "files/drivespace_p.h"
 
 #include <kiv/kivnotificationmodelmanager.h>

@@ -1,6 +1,6 @@
 #include "files/screenshot.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "service/instrumentinfo_p.h"
 
 namespace paths = uiutils::paths;

@@ -1,7 +1,7 @@
 #include "report/drivefile_p.h"
 
-#include "core/durablefile.h"
-#include "core/paths.h"
+#include "base/durablefile.h"
+#include "base/paths.h"
 #include "report/reportdestinations_p.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/durablefile.h"
+#include "base/durablefile.h"
 
 #include <QByteArray>
 #include <QString>

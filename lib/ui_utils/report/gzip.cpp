@@ -1,6 +1,6 @@
 #include "report/gzip_p.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 
 #include <QFile>
 #include <QtDebug>

@@ -1,9 +1,9 @@
 #include "report/nosynclist_p.h"
 
-#include "core/durablefile.h"
-#include "core/folderlock_p.h"
+#include "base/durablefile.h"
+#include "base/folderlock_p.h"
 #include "core/itemids.h"
-#include "core/paths.h"
+#include "base/paths.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>

@@ -1,6 +1,6 @@
 #include "report/overwritegate_p.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "report/reportformats_p.h"
 
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #include "report/report.h"
 
-#include "core/durablefile.h"
+#include "base/durablefile.h"
 #include "core/itemids.h"
-#include "core/paths.h"
+#include "base/paths.h"
 #include "report/jobreport_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"

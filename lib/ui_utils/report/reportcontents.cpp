@@ -2,7 +2,7 @@
 
 #include "report/report.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "report/reportstate_p.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 #include "writers/templatetohtmlwriter.h"

@@ -1,8 +1,8 @@
 #include "report/reportfilewriter_p.h"
 
-#include "core/paths.h"
-#include "core/temporaries_p.h"
-#include "core/temporaryfolder_p.h"
+#include "base/paths.h"
+#include "base/temporaries_p.h"
+#include "base/temporaryfolder_p.h"
 #include "report/drivefile_p.h"
 #include "report/gzip_p.h"
 #include "report/reportdestinations_p.h"

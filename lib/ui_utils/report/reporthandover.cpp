@@ -2,7 +2,7 @@
 
 #include "report/report.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "report/jobreport_p.h"
 #include "report/nosynclist_p.h"
 #include "report/reportdestinations_p.h"

@@ -1,7 +1,7 @@
 #include "report/reportrecord_p.h"
 
 #include "core/itemids.h"
-#include "core/paths.h"
+#include "base/paths.h"
 #include "document/reportmetadata.h"
 #include "report/reportdestinations_p.h"
 

@@ -3,7 +3,7 @@
 #include "report/report.h"
 
 #include "core/itemids.h"
-#include "core/paths.h"
+#include "base/paths.h"
 #include "report/nosynclist_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"

@@ -1,7 +1,7 @@
 #include "report/reportsettingsstore_p.h"
 
-#include "core/durablefile.h"
-#include "core/paths.h"
+#include "base/durablefile.h"
+#include "base/paths.h"
 #include "local/uidata.h"
 #include "report/reportnaming_p.h"
 

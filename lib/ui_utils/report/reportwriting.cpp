@@ -2,7 +2,7 @@
 
 #include "report/report.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "report/gzip_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportfilewriter_p.h"

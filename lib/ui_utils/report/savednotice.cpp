@@ -1,6 +1,6 @@
 #include "report/savednotice_p.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
 

@@ -1,8 +1,8 @@
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 
-#include "core/directmarkup_p.h"
-#include "core/xmlname_p.h"
-#include "core/xmltext_p.h"
+#include "base/directmarkup_p.h"
+#include "base/xmlname_p.h"
+#include "base/xmltext_p.h"
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
 #include "service/instrumentinfo_p.h"

@@ -1,8 +1,8 @@
 #include "writers/htmlstreamwriter.h"
 
-#include "core/directmarkup_p.h"
-#include "core/paths.h"
-#include "core/xmltext_p.h"
+#include "base/directmarkup_p.h"
+#include "base/paths.h"
+#include "base/xmltext_p.h"
 #include "writers/reportheader.h"
 #include "writers/reportimage.h"
 #include "writers/reporttable.h"

@@ -1,7 +1,7 @@
 #include "writers/pdffile.h"
 
-#include "core/durablefile.h"
-#include "core/paths.h"
+#include "base/durablefile.h"
+#include "base/paths.h"
 #include "writers/pdfdocument_p.h"
 #include "writers/pdfprobe_p.h"
 

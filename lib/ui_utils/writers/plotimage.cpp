@@ -1,7 +1,7 @@
 #include "writers/plotimage.h"
 
-#include "core/durablefile.h"
-#include "core/paths.h"
+#include "base/durablefile.h"
+#include "base/paths.h"
 #include "writers/plotpainter_p.h"
 
 #include <QBuffer>

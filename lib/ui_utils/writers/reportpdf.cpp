@@ -1,8 +1,8 @@
 #include "writers/reportpdf.h"
 
-#include "core/durablefile.h"
-#include "core/memoryfile_p.h"
-#include "core/paths.h"
+#include "base/durablefile.h"
+#include "base/memoryfile_p.h"
+#include "base/paths.h"
 #include "writers/pageimage_p.h"
 #include "writers/pageprinter_p.h"
 #include "writers/statusicons_p.h"

@@ -1,6 +1,6 @@
 #include "writers/statusicons_p.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "writers/htmlstreamwriter.h"
 
 #include <QFile>

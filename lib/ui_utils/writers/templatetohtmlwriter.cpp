@@ -1,6 +1,6 @@
 #include "writers/templatetohtmlwriter.h"
 
-#include "core/paths.h"
+#include "base/paths.h"
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
 #include "writers/htmlstreamwriter.h"

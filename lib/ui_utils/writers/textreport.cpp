@@ -1,6 +1,6 @@
 #include "writers/textreport.h"
 
-#include "core/plaintext_p.h"
+#include "base/plaintext_p.h"
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
 #include "service/instrumentinfo_p.h"

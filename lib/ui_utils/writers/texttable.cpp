@@ -1,7 +1,7 @@
 #include "writers/texttable_p.h"
 
-#include "core/directmarkup_p.h"
-#include "core/plaintext_p.h"
+#include "base/directmarkup_p.h"
+#include "base/plaintext_p.h"
 #include "writers/htmlstreamwriter.h"
 #include "writers/reportcontent_p.h"
 

@@ -1,6 +1,6 @@
 #include "writers/wrappedtext_p.h"
 
-#include "core/xmltext_p.h"
+#include "base/xmltext_p.h"
 #include "writers/pagecanvas_p.h"
 #include "writers/pagefont_p.h"
 

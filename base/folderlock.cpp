@@ -1,4 +1,4 @@
-#include "core/folderlock_p.h"
+#include "base/folderlock_p.h"
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "core/memoryfile_p.h"
+#include "base/memoryfile_p.h"
 
 #include <sys/mman.h>
 #include <unistd.h>

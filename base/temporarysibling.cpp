@@ -1,6 +1,6 @@
-#include "core/temporarysibling_p.h"
+#include "base/temporarysibling_p.h"
 
-#include "core/temporaries_p.h"
+#include "base/temporaries_p.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "core/temporaries_p.h"
+#include "base/temporaries_p.h"
 
 #include <QByteArray>
 #include <QDir>

@@ -1,7 +1,7 @@
-#include "core/durablefile.h"
+#include "base/durablefile.h"
 
-#include "core/temporaries_p.h"
-#include "core/temporarysibling_p.h"
+#include "base/temporaries_p.h"
+#include "base/temporarysibling_p.h"
 
 #include <QCoreApplication>
 #include <QDir>

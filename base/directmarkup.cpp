@@ -1,6 +1,6 @@
-#include "core/directmarkup_p.h"
+#include "base/directmarkup_p.h"
 
-#include "core/xmltext_p.h"
+#include "base/xmltext_p.h"
 
 #include <algorithm>
 

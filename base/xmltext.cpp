@@ -1,4 +1,4 @@
-#include "core/xmltext_p.h"
+#include "base/xmltext_p.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "core/xmlname_p.h"
+#include "base/xmlname_p.h"
 
-#include "core/xmltext_p.h"
+#include "base/xmltext_p.h"
 
 #include <algorithm>
 

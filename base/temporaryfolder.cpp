@@ -1,6 +1,6 @@
-#include "core/temporaryfolder_p.h"
+#include "base/temporaryfolder_p.h"
 
-#include "core/temporaries_p.h"
+#include "base/temporaries_p.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
-#include "core/plaintext_p.h"
+#include "base/plaintext_p.h"
 
-#include "core/xmltext_p.h"
+#include "base/xmltext_p.h"
 
 #include <algorithm>
 #include <iterator>
