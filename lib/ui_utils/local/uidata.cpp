@@ -372,11 +372,11 @@ int UiData::getEnumCount() const
     return getType() == TYPE_BOOL ? 2 : m_enumValues.size();
 }
 
-QString UiData::enumLabel(int const& index)
+QString UiData::enumLabel(int const& enumVal)
 {
     if (getType() == TYPE_BOOL)
-        return index == 0 ? tr("False") : index == 1 ? tr("True") : QString();
-    return m_enumLabels.value(index);
+        return enumVal == 0 ? tr("False") : enumVal == 1 ? tr("True") : QString();
+    return m_enumLabels.value(enumVal);
 }
 
 QString UiData::enumLabelForValue(int const& enumVal)
@@ -385,11 +385,11 @@ QString UiData::enumLabelForValue(int const& enumVal)
     return position < 0 ? QString() : enumLabel(position);
 }
 
-int UiData::enumValue(int const& index)
+int UiData::enumValue(int const& enumVal)
 {
     if (getType() == TYPE_BOOL)
-        return isWithin(index, 2) ? index : -1;
-    return m_enumValues.value(index, -1);
+        return isWithin(enumVal, 2) ? enumVal : -1;
+    return m_enumValues.value(enumVal, -1);
 }
 
 int UiData::enumIndex(int const& enumVal)

@@ -161,9 +161,10 @@ public:
     Q_INVOKABLE void removeAt(int at);
     Q_INVOKABLE QVariant getArrayValue(int index) const override;
     Q_INVOKABLE void setAt(int ind, QVariant const& val) override;
-    Q_INVOKABLE QString enumLabel(int const& index) override;
+    /// `enumVal` is the choice's position for enumLabel() and enumValue(), and its value for the others.
+    Q_INVOKABLE QString enumLabel(int const& enumVal) override;
     Q_INVOKABLE QString enumLabelForValue(int const& enumVal) override;
-    Q_INVOKABLE int enumValue(int const& index) override;
+    Q_INVOKABLE int enumValue(int const& enumVal) override;
     Q_INVOKABLE int enumIndex(int const& enumVal) override;
     Q_INVOKABLE bool applicableAt(int const& i) override;
     /// A local item has nothing pending.

@@ -315,14 +315,15 @@ Q_SIGNALS:
     void jobSchemaChanged();
     void settingsChanged();
     void screenshotListChanged();
-    void savingChanged();
-    void progressChanged();
-    void interactiveChanged();
 
     /// The user lets the pending report be overwritten.
     void reportOverwriteAccepted();
     /// A save has succeeded: `filename` is the file's path, or for all formats the name that the files have in common.
     void reportGenerated(const QString& filename);
+
+    void savingChanged();
+    void progressChanged();
+    void interactiveChanged();
 
 public Q_SLOTS:
     /// A service item that is watched has changed; for the sender's signal.
