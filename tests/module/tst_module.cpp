@@ -22,8 +22,7 @@ class ModuleTest : public QObject
     static QString componentText(const QString& name)
     {
         QFile file(UIUTILS_QML_DIR "/UiUtils/plugins.qmltypes");
-        if (!file.open(QIODevice::ReadOnly))
-            return QString();
+        file.open(QIODevice::ReadOnly);
         const QRegularExpression component("\n    Component \\{\n        name: \"" + name + "\"\n.*?\n    \\}",
                 QRegularExpression::DotMatchesEverythingOption);
         return component.match(QString::fromUtf8(file.readAll())).captured();
@@ -80,13 +79,8 @@ private Q_SLOTS:
         QQmlEngine engine;
         const auto object = made(engine, R"(ReportTemplate {
                 Component.onCompleted: {
-                    beginReport("page")
-                    setKey("flag", true)
-                    addAttribute("unit", 3.5)
-                    beginTable("t", "Table")
-                    addRow("a", "First", 1, { "unit": "dB", "status": 16 })
-                    endTable()
-                    endReport()
+                    beginReport("page"); setKey("flag", true); addAttribute("unit", 3.5); beginTable("t", "Table")
+                    addRow("a", "First", 1, { "unit": "dB", "status": 16 }); endTable(); endReport()
                 }
             })");
         const QJsonObject root = qobject_cast<ReportTemplate*>(object.get())->object();
@@ -109,10 +103,8 @@ private Q_SLOTS:
                     sendNotificationDeleteRequest("/mnt/usb/a", { step: 2, note: "x" })
                     answers.push(Notifications.currentDialog.longLabel)
                     Notifications.accept()
-                    sendNotificationDeleteRequest("/mnt/usb/b", {})
-                    Notifications.reject()
-                    sendNotificationOverwriteRequest("", { step: "3", Filename: "own" })
-                    Notifications.accept()
+                    sendNotificationDeleteRequest("/mnt/usb/b", {}); Notifications.reject()
+                    sendNotificationOverwriteRequest("", { step: "3", Filename: "own" }); Notifications.accept()
                 }
             })");
         QVERIFY(object->property("roomForFile").toBool());
