@@ -283,7 +283,9 @@ private Q_SLOTS:
         }
         QCOMPARE(expected.takeFirst().section(',', 0, 0),
                 QString("class %1 : %2").arg(name, face.type->superClass()->className()));
-        QCOMPARE(metaLines(*face.type, fresh.get()) + virtualLines(face) + face.constants, expected);
+        const QStringList actual = metaLines(*face.type, fresh.get()) + virtualLines(face) + face.constants;
+        for (int i = 0; i < qMax(actual.size(), expected.size()); ++i)
+            QCOMPARE(actual.value(i), expected.value(i));
     }
 
     /// Applications that derive from the wrapper of an item get these answers until they override them.
