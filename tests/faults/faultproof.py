@@ -522,6 +522,8 @@ class Disk:
         if self.size == "read-only":
             call_tool("mount", "-o", "remount,bind,rw", self.folder)
         else:
+            # A process that another thread just starts may hold it open, and keep the room that removing should give back.
+            os.truncate(self.ballast, 0)
             os.remove(self.ballast)
 
     def unmount(self):

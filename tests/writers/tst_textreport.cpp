@@ -206,7 +206,7 @@ private Q_SLOTS:
                 {"\u05e9\u05b8\u0627\u064e", 2}, {"\u0e01\u0e35\u0e48", 1}, {"\u0915\u094d\u0937\u093f", 3},
                 {"\u1112\u1161\u11ab\u115f", 4}, {"\uac00\ud55c\ud7a3\ua960\ua97c", 10}, {"あカ、\u3000\u303e\u303f", 11},
                 {"Ａ！\uff60\uffe6", 8}, {"\uff61ｶﾟ\uffe8", 4}, {"京\u9fa5\uf900\ufe30", 8}, {"\u2e80\ua48c\ua4d0", 5},
-                {"\U00020000\U0002fa1d\U0001b000", 6}, {"😀💾🚀🧿🀄", 10}, {"⌚⚡✅⭐\u2329", 10}, {"☀✈✓⌜⚠", 5},
+                {"\U00020000\U0002fa1d\U0001b000", 6}, {"😀💾🚀🧿🀄", 10}, {"⌚⚡✅⭐\u2329", 10}, {"☀✈✓⌜⚠\u26a2", 6},
                 {"\U0001f3d4\U0001f5a5\U0001f54f", 3}, {"\U0001d400\U00010400", 2}};
         for (const auto& [text, columns] : texts)
             QVERIFY2(displayWidth(text) == columns, qPrintable(text + ": " + QString::number(displayWidth(text))));
