@@ -151,13 +151,14 @@ install_packages() {
 }
 
 require_packages() {
-    local release missing
+    local release names missing
     release=$(release_name)
-    mapfile -t missing < <(missing_packages "$@")
-    if ((${#missing[@]} == 0)); then
+    names=$(missing_packages "$@")
+    if [[ -z $names ]]; then
         [[ $release == 'debian 12' ]] || say "warning: made for Debian 12, this is $release; going on"
         return 0
     fi
+    mapfile -t missing <<<"$names"
     command -v apt-get >/dev/null ||
         fail "there is no apt-get here ($release) to install the missing packages: ${missing[*]}"
     [[ $release == 'debian 12' ]] ||

@@ -9,11 +9,13 @@ compared with what was told, and one more save has to mend it and to leave nothi
 
 import argparse
 import concurrent.futures
+import contextlib
 import errno
 import itertools
 import json
 import os
 import re
+import select
 import shutil
 import signal
 import subprocess
@@ -37,8 +39,14 @@ TRACED = "trace=" + ",".join("?" + name for name in tracelog.CHANGING + tracelog
     + ",sched_get_priority_max,sched_get_priority_min"
 QUIET = ["-qq", "-y", "-s", "8", "-e", "signal=none", "-e", TRACED]
 PATIENCE_S = 90
-OPTIONAL_IN_SHORT = 900
-SHORT_S = 75
+OPTIONAL_IN_SHORT = 150
+SHORT_S = 45
+# How long a busy mount point is waited for, how often a run is made again whose bench failed, and how many runs may go without.
+BUSY_S = 10
+ATTEMPTS = 3
+ENOUGH_BENCH_ERRORS = 5
+# In a small memory the runs themselves would fill the disk.
+ROOM_BYTES = 256 << 20
 
 ERRORS = {
     "opens": ["ENOSPC", "EIO", "EROFS", "EACCES", "EINTR"],
@@ -58,6 +66,38 @@ DISKS = {"root": "", "stick": "mnt/usb"}
 
 # Failures that are let pass: kind of the fault, pattern of the failure, reason. They are counted and shown.
 KNOWN = []
+
+
+# What the machine says to this script when it is short of something, or in use.
+SHORTAGES = {errno.EAGAIN, errno.ENOMEM, errno.EMFILE, errno.ENFILE, errno.ENOSPC, errno.EDQUOT, errno.EBUSY}
+
+
+class BenchError(Exception):
+    """What a run needs could not be set up: that says nothing of the library."""
+
+
+class ServerEnded(BenchError):
+    """savescenario has ended."""
+
+
+def bench_error(error):
+    """What went wrong with the bench, in words; None for what may be the library's doing."""
+    is_bench = isinstance(error, (BenchError, subprocess.SubprocessError)) \
+        or isinstance(error, OSError) and error.errno in SHORTAGES
+    return (str(error) or repr(error)) if is_bench else None
+
+
+def call_tool(*command):
+    """Runs a command of the system. A mount point is busy as long as a process that another thread starts holds its files."""
+    deadline, pause = time.monotonic() + BUSY_S, 0.01
+    while True:
+        tool = subprocess.run(command, capture_output=True, text=True, check=False, env={**os.environ, "LC_ALL": "C"})
+        if tool.returncode == 0:
+            return
+        if "busy" not in tool.stderr or time.monotonic() > deadline:
+            raise BenchError(f"{' '.join(command)}: {tool.stderr.strip()}")
+        time.sleep(pause)
+        pause = min(2 * pause, 0.5)
 
 
 def family(call):
@@ -123,27 +163,38 @@ class Server:
 
     def perform(self, order, trace):
         """The answer to an order; `trace` is what strace is given besides, or None."""
-        self.process.stdin.write(json.dumps({**order, "traced": trace is not None}).encode() + b"\n")
-        self.process.stdin.flush()
+        # One that has ended says so to who reads from it.
+        with contextlib.suppress(BrokenPipeError):
+            self.process.stdin.write(json.dumps({**order, "traced": trace is not None}).encode() + b"\n")
+            self.process.stdin.flush()
         pid = self._line()["process"]
         tracer = None
         if trace is not None:
             # pylint: disable=consider-using-with
             tracer = subprocess.Popen(["strace", *QUIET, *HANDSHAKE, *trace, "-p", str(pid)], stdin=subprocess.DEVNULL,
-                                      stderr=subprocess.DEVNULL)
+                                      stderr=subprocess.PIPE, text=True)
+            self._await_tracer(tracer, pid)
         answer = self._line()
         if tracer:
-            tracer.wait(PATIENCE_S)
+            tracer.communicate(timeout=PATIENCE_S)
         return answer
+
+    def _await_tracer(self, tracer, pid):
+        """Until there is an answer. Without its tracer a deed does not begin."""
+        while not select.select([self.process.stdout], [], [], 0.5)[0]:
+            if tracer.poll():
+                os.kill(pid, signal.SIGKILL)
+                raise BenchError("strace: " + tracer.communicate()[1].strip())
 
     def _line(self):
         line = self.process.stdout.readline()
         if not line:
-            raise RuntimeError("savescenario has ended")
+            raise ServerEnded(f"savescenario has ended with status {self.process.wait(PATIENCE_S)}")
         return json.loads(line)
 
     def close(self):
-        self.process.stdin.close()
+        with contextlib.suppress(BrokenPipeError):
+            self.process.stdin.close()
         self.process.wait(PATIENCE_S)
 
 
@@ -174,6 +225,15 @@ class Bench:
             with self.lock:
                 self.servers.append(self.local.server)
         return self.local.server
+
+    def drop_server(self):
+        """The next run of this thread gets a new one: this one may still have an answer to give."""
+        server = self.local.__dict__.pop("server", None)
+        if server:
+            server.process.kill()
+            server.process.wait(PATIENCE_S)
+            with self.lock:
+                self.servers.remove(server)
 
     def close(self):
         for server in self.servers:
@@ -447,11 +507,11 @@ class Disk:
 
     def mount(self):
         os.makedirs(self.folder, exist_ok=True)
-        self._call("mount", "-t", "tmpfs", "-o", "size=16m,mode=0755", "faultproof", self.folder)
+        call_tool("mount", "-t", "tmpfs", "-o", "size=16m,mode=0755", "faultproof", self.folder)
 
     def fill(self):
         if self.size == "read-only":
-            return self._call("mount", "-o", "remount,bind,ro", self.folder)
+            return call_tool("mount", "-o", "remount,bind,ro", self.folder)
         system = os.statvfs(self.folder)
         room = int(self.size.rstrip("km")) * {"k": 1024, "m": 1024 * 1024}.get(self.size[-1], 1)
         with open(self.ballast, "wb") as file:
@@ -460,24 +520,26 @@ class Disk:
 
     def empty(self):
         if self.size == "read-only":
-            self._call("mount", "-o", "remount,bind,rw", self.folder)
+            call_tool("mount", "-o", "remount,bind,rw", self.folder)
         else:
+            # A process that another thread just starts may hold it open, and keep the room that removing should give back.
+            os.truncate(self.ballast, 0)
             os.remove(self.ballast)
 
     def unmount(self):
-        self._call("umount", "-l", self.folder)
-
-    @staticmethod
-    def _call(*command):
-        subprocess.run(command, check=True)
+        call_tool("umount", "-l", self.folder)
 
 
-def may_mount(folder):
+def why_no_mounts(folder):
+    """None where file systems may be mounted."""
     place = os.path.join(folder, "mount")
     os.mkdir(place)
-    if subprocess.run(["mount", "-t", "tmpfs", "none", place], capture_output=True, check=False).returncode != 0:
-        return False
-    return subprocess.run(["umount", place], capture_output=True, check=False).returncode == 0
+    try:
+        call_tool("mount", "-t", "tmpfs", "none", place)
+        call_tool("umount", place)
+    except (BenchError, OSError) as error:
+        return str(error)
+    return None
 
 
 def disk_runs(prepared):
@@ -488,20 +550,19 @@ def disk_runs(prepared):
 
 
 def try_disk(bench, prepared, fault):
-    disks = []
+    with contextlib.ExitStack() as stack:
+        disks = []
 
-    def place(run):
-        disks.append(Disk(run, fault.call, fault.kind))
-        disks[0].mount()
+        def place(run):
+            disks.append(Disk(run, fault.call, fault.kind))
+            disks[0].mount()
+            stack.callback(disks[0].unmount)
 
-    run = Run(bench, prepared.expectation.before, place)
-    try:
+        run = Run(bench, prepared.expectation.before, place)
         disks[0].fill()
         answer = run.save(deed_of(prepared.scenario), "new")
         disks[0].empty()
         problems = judge(run, prepared, answer, None) + mend(run, prepared)
-    finally:
-        disks[0].unmount()
     run.end()
     return problems
 
@@ -523,7 +584,12 @@ class Report:
     def __init__(self):
         self.lock = threading.Lock()
         self.counts = defaultdict(Counter)
-        self.failures, self.known = [], []
+        self.failures, self.known, self.not_made = [], [], []
+
+    def add_not_made(self, fault, problem):
+        """A run that the bench did not allow, which is neither a success nor a failure."""
+        with self.lock:
+            self.not_made.append((fault, [problem]))
 
     def add(self, fault, problems):
         known = [problem for problem in problems if reason_for(fault, problem)]
@@ -551,6 +617,8 @@ class Report:
             print(f"{name:<18}" + "".join(f"{counts[column]:>10}" for column in columns))
 
     def print_failures(self, command, limit):
+        for text, faults in _by_kind(self.not_made):
+            print(f"\nNOT MADE, {len(faults)} runs: {text}\n  repeat one: {command} --repeat '{faults[0]}'")
         for text, faults in _by_kind(self.known):
             print(f"\nknown, in {len(faults)} runs: {text}\n  {reason_for(faults[0], text)}")
         kinds = _by_kind(self.failures)
@@ -576,7 +644,9 @@ def reason_for(fault, problem):
 
 def kind_of(problem):
     """The same for all files of a kind."""
-    return problem if "Traceback" in problem else re.sub(r"Fibre 12[.a-z]*", "REPORT", tracelog.neutral(problem))
+    if "Traceback" in problem:
+        return problem
+    return re.sub(r"Fibre 12[.a-z]*", "REPORT", re.sub(r"/run-\d+", "/run-*", tracelog.neutral(problem)))
 
 
 def find_programs(folder):
@@ -596,21 +666,20 @@ def why_not_here():
     for tool in ("strace", "qpdf", "gzip"):
         if not shutil.which(tool):
             return f"there is no {tool}"
-    for arguments in (["-f", "true"],):
-        if subprocess.run(["strace", "-o", "/dev/null", *arguments], capture_output=True, check=False).returncode != 0:
-            return "processes may not be traced here"
+    if not os.path.isdir("/proc/self/fd"):
+        return "there is no /proc, which tells what a descriptor is open for"
+    if subprocess.run(["strace", "-o", "/dev/null", "-f", "true"], capture_output=True, check=False).returncode != 0:
+        return "processes may not be traced here"
     return None
 
 
-def may_attach(bench):
-    try:
-        run = Run(bench, {})
-        run.save({"kind": "settings"}, "new", actor="deed")
-        return bool(run.calls())
-    except RuntimeError:
-        return False
-    finally:
-        run.end()
+def make_first_run(bench):
+    """Raises a BenchError where processes may not be traced."""
+    run = Run(bench, {})
+    run.save({"kind": "settings"}, "new", actor="deed")
+    if not run.calls():
+        raise BenchError("strace sees no calls")
+    run.end()
 
 
 def arguments():
@@ -627,12 +696,29 @@ def arguments():
     return parser.parse_args()
 
 
+def is_roomy(folder):
+    if not os.access(folder, os.W_OK):
+        return False
+    system = os.statvfs(folder)
+    return system.f_bavail * system.f_frsize >= ROOM_BYTES
+
+
+def is_running(pid):
+    try:
+        os.kill(pid, 0)
+    except ProcessLookupError:
+        return False
+    except PermissionError:
+        pass
+    return True
+
+
 def working_folder(options):
     """In memory where there is some: the faults are made, and need no disk. What killed runs have left there goes."""
-    parent = options.work or ("/dev/shm" if os.access("/dev/shm", os.W_OK) else tempfile.gettempdir())
+    parent = options.work or ("/dev/shm" if is_roomy("/dev/shm") else tempfile.gettempdir())
     for name in os.listdir(parent):
         match = re.fullmatch(r"faultproof-(\d+)-\w+", name)
-        if match and not os.path.exists("/proc/" + match.group(1)):
+        if match and not is_running(int(match.group(1))):
             shutil.rmtree(os.path.join(parent, name), ignore_errors=True)
     return tempfile.mkdtemp(prefix=f"faultproof-{os.getpid()}-", dir=parent)
 
@@ -652,50 +738,83 @@ def print_list(prepared):
                 print(f"  {mark} {actor}.{call.name}.{call.number}  {call.shown}  = {call.result}")
 
 
+def insistently(bench, attempt, *arguments):
+    """What `attempt` returns, which is made again when the bench fails. Raises a BenchError in the end."""
+    for left in reversed(range(ATTEMPTS)):
+        try:
+            return attempt(bench, *arguments)
+        except Exception as error:
+            problem = bench_error(error)
+            if problem is None:
+                raise
+            bench.drop_server()
+            if not left:
+                raise BenchError(problem) from error
+    return None
+
+
+def make_runs(bench, pool, faults, by_name, is_short):
+    """The report of all runs, and how many of them time has left out."""
+    deadline, report = time.monotonic() + SHORT_S, Report()
+
+    def make(fault):
+        is_late = is_short and time.monotonic() > deadline and not fault.is_needed
+        if bench.is_ending or is_late or len(report.not_made) >= ENOUGH_BENCH_ERRORS:
+            return False
+        try:
+            report.add(fault, insistently(bench, try_disk if fault.actor == "disk" else try_fault, by_name[fault.scenario], fault))
+        except BenchError as error:
+            report.add_not_made(fault, str(error))
+        except Exception:  # a run that breaks the proof is a failure of that run
+            report.add(fault, [traceback.format_exc()])
+        return True
+
+    try:
+        made = sum(pool.map(make, faults))
+    except KeyboardInterrupt:
+        bench.is_ending = True
+        raise
+    return report, len(faults) - made
+
+
+def conclude(report, missing):
+    """The exit status. What was not tried out is skipped in words, and never passed."""
+    if report.failures:
+        return 1
+    if report.not_made:
+        missing = missing + [f"{len(report.not_made)} runs that could not be made"]
+    if missing:
+        print("skipped in part, the rest found no failure: " + "; ".join(missing))
+    return SKIPPED if missing else 0
+
+
 def work(bench, options, selected):
-    deadline = time.monotonic() + SHORT_S
-    report = Report()
     with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
-        prepared = list(pool.map(lambda scenario: prepare(bench, scenario), selected))
+        prepared = list(pool.map(lambda scenario: insistently(bench, prepare, scenario), selected))
         if options.list:
             print_list(prepared)
             return 0
-        by_name = {item.scenario.name: item for item in prepared}
-        can_mount = may_mount(bench.folder)
+        missing = []
         if options.repeat:
             faults = [fault for fault in [parsed(options.repeat)] if fault.kind != "none"]
         else:
             everything = [fault for item in prepared for fault in (*faults_of(item, True), *deaths_of(item))]
-            if can_mount:
+            reason = why_no_mounts(bench.folder)
+            if reason:
+                missing.append(f"full and read-only disks, because nothing can be mounted here ({reason})")
+            else:
                 everything += [fault for item in prepared for fault in disk_runs(item)]
             faults = chosen(everything, options.long)
-
-        def run_one(fault):
-            is_late = time.monotonic() > deadline and not options.long and not options.repeat
-            if bench.is_ending or is_late and not fault.is_needed:
-                return False
-            attempt = try_disk if fault.actor == "disk" else try_fault
-            try:
-                report.add(fault, attempt(bench, by_name[fault.scenario], fault))
-            except Exception:  # a run that breaks the proof is a failure of that run
-                report.add(fault, [traceback.format_exc()])
-            return True
-
-        try:
-            done = sum(pool.map(run_one, faults))
-        except KeyboardInterrupt:
-            bench.is_ending = True
-            raise
+        by_name = {item.scenario.name: item for item in prepared}
+        report, left_out = make_runs(bench, pool, faults, by_name, not options.long and not options.repeat)
     for item in prepared:
         if item.problems:
             report.add(Fault(item.scenario.name, "deed", "none", 0, "none"), item.problems)
     report.print_table(prepared)
-    if not can_mount:
-        print("skipped: full and read-only disks, because nothing can be mounted here")
-    if done < len(faults):
-        print(f"{len(faults) - done} of the runs of the short form were left out: the machine is slow")
+    if left_out:
+        print(f"{left_out} of {len(faults)} runs were left out: no time was left for them, or the bench kept failing")
     report.print_failures(f"{sys.argv[0]} --programs {options.programs}", 40)
-    return 1 if report.failures else 0
+    return conclude(report, missing)
 
 
 def enter_own_mounts():
@@ -721,14 +840,20 @@ def main():
         sys.exit(f"there is no scenario {wanted}")
     folder = working_folder(options)
     bench = Bench(find_programs(options.programs), folder, options.keep)
-    started = time.monotonic()
+    started, is_running_well = time.monotonic(), False
     # The folder goes then, too.
     signal.signal(signal.SIGTERM, lambda *_: os.kill(os.getpid(), signal.SIGINT))
     try:
-        if not may_attach(bench):
-            print("skipped: processes may not be traced here")
-            return SKIPPED
+        make_first_run(bench)
+        is_running_well = True
         return work(bench, options, selected)
+    except BenchError as error:
+        # One that does not even begin may have been ended by the library.
+        if isinstance(error, ServerEnded) and not is_running_well:
+            print(f"FAILED before anything was saved: {error}")
+            return 1
+        print(f"skipped: {error}")
+        return SKIPPED
     except KeyboardInterrupt:
         print("stopped")
         return 1

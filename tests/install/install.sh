@@ -50,9 +50,9 @@ for file in qmldir plugins.qmltypes; do
 done
 # Every file that the entries' qmldir names is there.
 controls="$(dirname "$plugin")/Controls"
-while read -r file; do
+sed -n 's/.* \([A-Za-z]*\.qml\)$/\1/p' "$controls/qmldir" | while read -r file; do
     test -s "$controls/$file"
-done < <(sed -n 's/.* \([A-Za-z]*\.qml\)$/\1/p' "$controls/qmldir")
+done
 test -s "$controls/ItemEntry.qml"
 if LD_LIBRARY_PATH='' ldd "$plugin" | grep 'libuiutils\|libkiv' | grep -v " => $plain/"; then
     echo "the QML module does not find its library" >&2

@@ -4,7 +4,7 @@ set -euo pipefail
 qmllint=$1
 cd "$2"
 
-mapfile -d '' -t files < <(find apps lib qml tests docs -name '*.qml' -print0)
-((${#files[@]} > 0))
+mapfile -t files <<<"$(find apps lib qml tests docs -name '*.qml')"
+test -e "${files[0]}"
 "$qmllint" "${files[@]}"
 echo "${#files[@]} QML files"

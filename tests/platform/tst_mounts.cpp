@@ -57,6 +57,11 @@ private Q_SLOTS:
 
     void theSystemAnswersForBackEndsThatDoNot()
     {
+        QFile mounts("/proc/self/mountinfo");
+        if (!mounts.open(QIODevice::ReadOnly))
+            QSKIP("This machine does not tell what is mounted.");
+        // That of a chroot may have no line of its own.
+        const bool isRootListed = kiv::listsMount(mounts.readAll(), "/");
         QTemporaryDir dir;
         const QString link = dir.filePath("link");
         QVERIFY(QFile::link("/proc", link));
@@ -66,7 +71,7 @@ private Q_SLOTS:
             QVERIFY(FileSystemUsage::isMounted("/proc"));
             QVERIFY(FileSystemUsage::isMounted("/proc/"));
             QVERIFY(FileSystemUsage::isMounted(link));
-            QVERIFY(FileSystemUsage::isMounted("/"));
+            QCOMPARE(FileSystemUsage::isMounted("/"), isRootListed);
             QVERIFY(!FileSystemUsage::isMounted(dir.path()));
             QVERIFY(!FileSystemUsage::isMounted(dir.filePath("missing")));
             QVERIFY(!FileSystemUsage::isMounted("proc"));

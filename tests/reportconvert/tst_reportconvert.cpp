@@ -408,7 +408,7 @@ private Q_SLOTS:
                 {"run a.json -o - >/dev/full", "No space left"},
                 {"run --help >/dev/full", "No space left"},
                 {"run a.json -o - >&-", "Bad file descriptor"},
-                {"exec 3> >(exit); wait $!; run a.json -o - >&3", "its reader has closed it"},
+                {"exec 3<>pipe 4>pipe 3>&-; run a.json -o - >&4", "its reader has closed it"},
                 {"run - <&-", "<standard input>: cannot be read"},
                 {"run none.json -o new/", "none.json: cannot be opened"},
                 {"TMPDIR=/nowhere run a.json", "TMPDIR"},
@@ -424,6 +424,8 @@ private Q_SLOTS:
     {
         QFETCH(const QString, line);
         QFETCH(const QString, words);
+        if (line.endsWith(">/dev/full") && !QFile::exists("/dev/full"))
+            QSKIP("This machine has no device that is always full.");
         write(path("a.json"), smallDocument);
         write(path("file"), "kept");
         write(path("big.html"), "kept");
@@ -478,10 +480,12 @@ private Q_SLOTS:
         QCOMPARE(runLine(line).errors, QString());
 
         const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
-        QVERIFY(::grantpt(terminal) == 0 && ::unlockpt(terminal) == 0);
-        const QByteArray name = ::ptsname(terminal);
+        const bool isUsable = ::grantpt(terminal) == 0 && ::unlockpt(terminal) == 0;
+        const QByteArray name = isUsable ? ::ptsname(terminal) : "";
         // What was written is lost when nobody holds the other end.
         const int otherEnd = ::open(name.constData(), O_RDWR | O_NOCTTY);
+        if (otherEnd < 0)
+            QSKIP("This machine has no terminal to give.");
         QCOMPARE(runLine(line + " 2>" + name).exitCode, 0);
         // The terminal hands on what was written in its own time, and in pieces.
         const QByteArray cleared = "\r\033[K";
@@ -511,6 +515,8 @@ private Q_SLOTS:
     void completion()
     {
         QCOMPARE(complaintOf("bash", {"-n", completionScript()}), QString());
+        if (!QFile::exists("/dev/fd"))
+            QSKIP("Without /dev/fd, bash completes nothing.");
         QSet<QString> options;
         static const QRegularExpression option("^ .*(--[a-z-]+)", QRegularExpression::MultilineOption);
         const QString help = QString::fromUtf8(run({"--help"}).output);

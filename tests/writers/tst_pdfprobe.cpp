@@ -304,7 +304,7 @@ private Q_SLOTS:
     void theHelperSeesTheFileAndNoSecrets()
     {
         qputenv("UIUTILS_SECRET", "x");
-        const QByteArray text = "(cat /dev/stdin; env) >" + path("seen").toUtf8() + "\nprintf 'S\\000'";
+        const QByteArray text = "(cat /proc/self/fd/0; env) >" + path("seen").toUtf8() + "\nprintf 'S\\000'";
         QString error;
         QVERIFY(PdfProbe(script("spy", text), 10000).passes("bytes", &error));
         qunsetenv("UIUTILS_SECRET");
