@@ -498,6 +498,19 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(m_root.filePath("cust/public/reports")));
     }
 
+    /// What controls draw by themselves is no markup either.
+    void textsArePlain()
+    {
+        measure();
+        for (int page = 0; page <= 4; ++page) {
+            m_window->setProperty("page", page);
+            waitForFrame();
+            for (const QQuickItem* text : itemsBelow(m_window->contentItem()))
+                QVERIFY2(!text->inherits("QQuickText") || textOf(text).isEmpty() || text->property("textFormat").toInt() == Qt::PlainText,
+                        qPrintable(textOf(text)));
+        }
+    }
+
     /// No text is cut off, runs out of the window or over its neighbours' card, in any state of a page.
     void textsFit_data()
     {

@@ -462,6 +462,8 @@ Item {
             compare(entry.value, 8)
             entry.value = 2
             compare(fieldOf(entry).text, "2")
+            // However long the unit is, the value has room.
+            verify(fieldOf(make(aloneComponent, { unit: "m".repeat(100) })).width > 150)
         }
 
         function test_textWithoutAnItem() {
