@@ -55,9 +55,11 @@ class ModuleTest : public QObject
 private Q_SLOTS:
     void initTestCase() { uiutils::registerTypes(); }
 
-    /// What tools know of the module, against what the classes have.
+    /// What tools know of the module, against what the classes have. A cross build does not describe it.
     void descriptionForTools_data()
     {
+        if (!UIUTILS_HAS_QMLTYPES)
+            QSKIP("The module was built for another machine.");
         QTest::addColumn<const QMetaObject*>("type");
         for (const QMetaObject* type : {&Manifest::staticMetaObject, &KivData::staticMetaObject,
                      &KivAggregateData::staticMetaObject, &KivListAggregateData::staticMetaObject,
@@ -74,6 +76,7 @@ private Q_SLOTS:
     void descriptionForTools()
     {
         QFETCH(const QMetaObject*, type);
+        QVERIFY(componentText("QQmlPropertyMap").contains("UiUtils/QMLAggregate 1.0"));
         const QString text = componentText(type->className());
         const bool isManager = type == &KIVNotificationModelManager::staticMetaObject;
         const QString exported = isManager ? "Notifications" : type->className();
@@ -93,11 +96,6 @@ private Q_SLOTS:
         }
         for (int i = type->enumeratorOffset(); i < type->enumeratorCount(); ++i)
             QVERIFY2(mentions(text, "Enum", type->enumerator(i).name()), type->enumerator(i).name());
-    }
-
-    void recordsHaveATypeOfTheirOwn()
-    {
-        QVERIFY(componentText("QQmlPropertyMap").contains("UiUtils/QMLAggregate 1.0"));
     }
 
     void aPageBuildsAReport()
