@@ -347,18 +347,6 @@ private Q_SLOTS:
         QTRY_VERIFY(field->mapToScene(QPointF()).y() < start.y() - 100);
     }
 
-    void settingsSurviveARestart()
-    {
-        m_window->setProperty("page", 3);
-        type(lastName, "Berg");
-        type(roundTripLimit, "0.25");
-        press("Apply");
-        endProgram();
-        startProgram();
-        QCOMPARE(textOf(fieldOf(lastName)), QString("Berg"));
-        QCOMPARE(m_measurement->roundTrip()->limit(), 0.25);
-    }
-
     /// The page does without services that a user's own folder lacks.
     void noServicesNoSettings()
     {
