@@ -109,6 +109,7 @@ Rectangle {
 
                         Text {
                             text: modelData.title
+                            textFormat: Text.PlainText
                             color: ControlsStyle.text
                             font { pixelSize: ControlsStyle.headingText; bold: true }
                         }

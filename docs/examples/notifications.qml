@@ -15,9 +15,18 @@ Rectangle {
     color: ControlsStyle.background
 
     component Choice: Button {
+        id: choice
         width: parent.width
         height: ControlsStyle.touch
         font.pixelSize: ControlsStyle.bodyText
+        contentItem: Text {
+            text: choice.text
+            textFormat: Text.PlainText
+            font: choice.font
+            color: ControlsStyle.text
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+        }
     }
 
     // What went wrong is told beside a question that is open.
@@ -42,6 +51,7 @@ Rectangle {
         Choice { text: "A file of 10 petabytes"; onClicked: messages.checkDriveSpaceForFile(1e16, "/") }
         Text {
             id: answer
+            textFormat: Text.PlainText
             width: parent.width
             wrapMode: Text.Wrap
             color: ControlsStyle.text

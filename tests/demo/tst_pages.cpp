@@ -347,18 +347,6 @@ private Q_SLOTS:
         QTRY_VERIFY(field->mapToScene(QPointF()).y() < start.y() - 100);
     }
 
-    void settingsSurviveARestart()
-    {
-        m_window->setProperty("page", 3);
-        type(lastName, "Berg");
-        type(roundTripLimit, "0.25");
-        press("Apply");
-        endProgram();
-        startProgram();
-        QCOMPARE(textOf(fieldOf(lastName)), QString("Berg"));
-        QCOMPARE(m_measurement->roundTrip()->limit(), 0.25);
-    }
-
     /// The page does without services that a user's own folder lacks.
     void noServicesNoSettings()
     {
@@ -496,6 +484,19 @@ private Q_SLOTS:
         QVERIFY(m_window->isVisible());
         KIVNotificationModelManager::instance()->reject();
         QVERIFY(QFile::remove(m_root.filePath("cust/public/reports")));
+    }
+
+    /// What controls draw by themselves is no markup either.
+    void textsArePlain()
+    {
+        measure();
+        for (int page = 0; page <= 4; ++page) {
+            m_window->setProperty("page", page);
+            waitForFrame();
+            for (const QQuickItem* text : itemsBelow(m_window->contentItem()))
+                QVERIFY2(!text->inherits("QQuickText") || textOf(text).isEmpty() || text->property("textFormat").toInt() == Qt::PlainText,
+                        qPrintable(textOf(text)));
+        }
     }
 
     /// No text is cut off, runs out of the window or over its neighbours' card, in any state of a page.

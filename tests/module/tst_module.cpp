@@ -47,9 +47,11 @@ class ModuleTest : public QObject
 private Q_SLOTS:
     void initTestCase() { uiutils::registerTypes(); }
 
-    /// What tools know of the module, against what is written down of the classes.
+    /// What tools know of the module, against what is written down of the classes. A cross build does not describe it.
     void descriptionForTools()
     {
+        if (!UIUTILS_HAS_QMLTYPES)
+            QSKIP("The module was built for another machine.");
         QDirIterator files(UIUTILS_TEST_DATA_DIR "/contract", {"*.txt"});
         QVERIFY(files.hasNext());
         while (files.hasNext()) {

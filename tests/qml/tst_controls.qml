@@ -462,6 +462,8 @@ Item {
             compare(entry.value, 8)
             entry.value = 2
             compare(fieldOf(entry).text, "2")
+            // However long the unit is, the value has room.
+            verify(fieldOf(make(aloneComponent, { unit: "m".repeat(100) })).width > 150)
         }
 
         function test_textWithoutAnItem() {
@@ -480,6 +482,9 @@ Item {
             const item = createTemporaryObject(localComponent, root, { type: "std::string", value: "open sesame", inputType: KivData.INPUT_PASSWORD })
             const entry = make(entryComponent, { item: item })
             const field = fieldOf(entry)
+            // An on-screen keyboard neither shows nor learns it.
+            const secret = Qt.ImhHiddenText | Qt.ImhSensitiveData | Qt.ImhNoPredictiveText
+            compare(field.inputMethodHints & secret, secret)
             compare(field.displayText.includes("sesame"), false)
             mouseClick(findChild(entry, "revealButton"))
             compare(field.displayText, "open sesame")

@@ -101,26 +101,6 @@ Item {
             compare(driver.value(":config:field:setup:level_1:"), 7)
             compare(driver.value(":config:field:setup:on:"), true)
             compare(changes.count, 1)
-
-            services.field.startChanges()
-            field_cfg_name.value = "Never"
-            field_cfg_level_1.value = 1
-            services.field.revertChanges()
-            compare(field_cfg_name.value, "Five")
-            compare(field_cfg_level_1.value, 7)
-            compare(driver.value(":config:field:setup:level_1:"), 7)
-        }
-
-        function test_aBatchIsTakenWholeOrNotAtAll() {
-            services.field.startChanges()
-            field_cfg_name.value = "Six"
-            field_cfg_level_1.value = 99
-            services.field.applyChanges()
-            compare(driver.value(":config:field:setup:name:"), "Fiber 7")
-            verify(field_cfg_level_1.error.indexOf("99") >= 0, field_cfg_level_1.error)
-            field_cfg_level_1.value = 9
-            services.field.startChanges()
-            services.field.revertChanges()
         }
 
         function test_showsWhyAWriteWasRefused() {
@@ -154,17 +134,6 @@ Item {
             field_cfg_hosts.arraySelection = 0
             compare(field_act_start.invokeWithStringArg("now"), "Started now.")
             compare(field_res_loss.value, 4.5)
-        }
-
-        function test_liveAgainAfterTheServiceReturns() {
-            driver.setReachable(false)
-            verify(!field_res_loss.isReady)
-            compare(page.lossText.text, "3.22 dB")
-            driver.report(":result:field:loss:", 8)
-            driver.setReachable(true)
-            compare(page.lossText.text, "8.00 dB")
-            driver.report(":result:field:loss:", 9)
-            compare(page.lossText.text, "9.00 dB")
         }
 
         function test_oddValuesFromQml_data() {

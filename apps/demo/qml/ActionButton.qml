@@ -24,6 +24,7 @@ Button {
 
     contentItem: Text {
         text: control.text
+        textFormat: Text.PlainText
         font: control.font
         color: !control.filled ? (control.enabled ? Theme.primary : Theme.disabled) : Theme.primaryText
         horizontalAlignment: Text.AlignHCenter

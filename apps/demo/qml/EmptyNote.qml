@@ -3,6 +3,7 @@ import UiUtils.Demo 1.0
 
 // Stands where things will be, and says how they come there.
 Text {
+    textFormat: Text.PlainText
     color: Theme.mutedText
     font.pixelSize: Theme.bodyText
     wrapMode: Text.WordWrap

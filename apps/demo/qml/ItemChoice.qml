@@ -35,6 +35,7 @@ ItemRow {
         contentItem: Text {
             leftPadding: Theme.gap
             text: box.displayText
+            textFormat: Text.PlainText
             font: box.font
             color: box.enabled ? Theme.text : Theme.disabled
             verticalAlignment: Text.AlignVCenter
@@ -43,6 +44,7 @@ ItemRow {
         indicator: Text {
             anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
             text: "\u25be"
+            textFormat: Text.PlainText
             color: Theme.mutedText
             font.pixelSize: Theme.headingText
         }
@@ -62,6 +64,7 @@ ItemRow {
 
             contentItem: Text {
                 text: parent.text
+                textFormat: Text.PlainText
                 font { pixelSize: Theme.bodyText; bold: index === box.currentIndex }
                 color: parent.enabled ? Theme.text : Theme.disabled
                 verticalAlignment: Text.AlignVCenter

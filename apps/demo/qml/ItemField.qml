@@ -75,8 +75,6 @@ ItemRow {
         selectByMouse: false
         validator: row.item ? row.item.validator : null
         inputMethodHints: row.inputHints()
-        placeholderText: row.unset ? qsTr("not set") : ""
-        placeholderTextColor: Theme.disabled
         color: enabled ? Theme.text : Theme.disabled
         font.pixelSize: Theme.bodyText
         Accessible.name: row.item ? row.item.label : ""
@@ -90,6 +88,16 @@ ItemRow {
             border { width: row.changed ? 2 : 1; color: row.frameColor }
 
             FocusFrame { visible: field.activeFocus }
+        }
+
+        // The field's own placeholder would read markup.
+        Text {
+            anchors { left: parent.left; leftMargin: field.leftPadding; verticalCenter: parent.verticalCenter }
+            visible: row.unset !== "" && field.length === 0 && field.preeditText === ""
+            text: qsTr("not set")
+            textFormat: Text.PlainText
+            color: Theme.disabled
+            font: field.font
         }
     }
 }

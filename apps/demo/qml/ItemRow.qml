@@ -51,6 +51,7 @@ ColumnLayout {
 
         Text {
             text: row.item ? row.item.label : ""
+            textFormat: Text.PlainText
             color: Theme.mutedText
             font.pixelSize: Theme.smallText
         }
@@ -58,6 +59,7 @@ ColumnLayout {
         Text {
             Layout.fillWidth: true
             text: row.changed ? qsTr("not applied") : ""
+            textFormat: Text.PlainText
             color: Theme.text
             font.pixelSize: Theme.smallText
         }
@@ -71,7 +73,11 @@ ColumnLayout {
             id: unitText
             z: 1
             anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
+            // The value counts for more.
+            width: Math.min(implicitWidth, parent.width / 3)
             text: row.item ? row.item.unitString : ""
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
             color: Theme.mutedText
             font.pixelSize: Theme.bodyText
         }
@@ -82,6 +88,7 @@ ColumnLayout {
         readonly property string range: row.item ? row.item.rangeDescription.trim() : ""
         // Of a range without limits nothing but its dash is left.
         text: refusal || (/\w/.test(range) ? range : "")
+        textFormat: Text.PlainText
         visible: text
         color: refusal || !row.acceptable ? Theme.fail : Theme.mutedText
         font.pixelSize: Theme.smallText

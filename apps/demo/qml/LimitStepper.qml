@@ -20,6 +20,7 @@ RowLayout {
     Text {
         Layout.fillWidth: true
         text: qsTr("Limit: %1").arg(stepper.quantity.limitText)
+        textFormat: Text.PlainText
         color: Theme.text
         font.pixelSize: Theme.bodyText
         wrapMode: Text.WordWrap

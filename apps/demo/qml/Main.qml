@@ -73,6 +73,7 @@ ApplicationWindow {
             Text {
                 Layout.fillWidth: true
                 text: window.title
+                textFormat: Text.PlainText
                 color: Theme.text
                 font.pixelSize: Theme.headingText
                 horizontalAlignment: Text.AlignHCenter

@@ -52,6 +52,7 @@ FocusScope {
                               ? qsTr("%1 \u2013 server at %2").arg(page.measurement.stateText)
                                                               .arg(page.measurement.serverAddress)
                               : page.measurement.stateText
+                        textFormat: Text.PlainText
                         color: Theme.text
                         font.pixelSize: Theme.bodyText
                         elide: Text.ElideRight
@@ -76,6 +77,7 @@ FocusScope {
                         Layout.fillWidth: true
                         visible: page.isFailed
                         text: page.measurement.errorText
+                        textFormat: Text.PlainText
                         color: Theme.fail
                         font.pixelSize: Theme.smallText
                         wrapMode: Text.WordWrap

@@ -15,6 +15,7 @@ TabButton {
     contentItem: Text {
         id: label
         text: control.text
+        textFormat: Text.PlainText
         font: control.font
         color: control.checked ? Theme.primary : Theme.mutedText
         horizontalAlignment: Text.AlignHCenter

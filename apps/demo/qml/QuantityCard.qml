@@ -24,6 +24,7 @@ Card {
             Text {
                 Layout.fillWidth: true
                 text: card.quantity.title
+                textFormat: Text.PlainText
                 color: Theme.text
                 font { pixelSize: Theme.headingText; bold: true }
             }
@@ -38,6 +39,7 @@ Card {
 
             Text {
                 text: card.shown(card.quantity.median)
+                textFormat: Text.PlainText
                 color: Theme.primary
                 font { pixelSize: Theme.figureText; bold: true }
             }
@@ -46,6 +48,7 @@ Card {
                 Layout.bottomMargin: 8
                 Layout.fillWidth: true
                 text: qsTr("%1 (median)").arg(card.quantity.unit)
+                textFormat: Text.PlainText
                 color: Theme.mutedText
                 font.pixelSize: Theme.bodyText
             }

@@ -72,6 +72,7 @@ FocusScope {
 
                     Text {
                         text: qsTr("Save a report")
+                        textFormat: Text.PlainText
                         color: Theme.text
                         font { pixelSize: Theme.headingText; bold: true }
                         Accessible.role: Accessible.Heading
@@ -91,6 +92,7 @@ FocusScope {
 
                         Layout.fillWidth: true
                         text: (isOfStick ? qsTr("USB %1 % full") : qsTr("Unit %1 % full")).arg(Math.round(percentage))
+                        textFormat: Text.PlainText
                         color: Theme.mutedText
                         font.pixelSize: Theme.smallText
                         horizontalAlignment: Text.AlignRight
@@ -172,6 +174,7 @@ FocusScope {
                                     : page.missesStick ? qsTr("The USB drive was removed. Saving on it fails until it is back.")
                                     : page.wantsUsb ? qsTr("Without a USB drive reports are saved on the unit.")
                                     : qsTr("No USB drive is plugged in.")
+                                textFormat: Text.PlainText
                                 color: page.wantsUsb && !stick.attached ? ControlsStyle.news : Theme.mutedText
                                 font.pixelSize: Theme.smallText
                                 wrapMode: Text.Wrap
@@ -209,6 +212,7 @@ FocusScope {
                     Layout.fillWidth: true
                     visible: text
                     text: page.hasResults ? "" : report.cannotGenerateReportMessage()
+                    textFormat: Text.PlainText
                     color: Theme.mutedText
                     font.pixelSize: Theme.smallText
                     wrapMode: Text.Wrap

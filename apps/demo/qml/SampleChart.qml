@@ -27,6 +27,7 @@ Item {
             width: parent.width - 6
             horizontalAlignment: Text.AlignRight
             text: chart.quantity.count > 0 ? chart.quantity.numberText(chart.scaleEnd) : ""
+            textFormat: Text.PlainText
             color: Theme.mutedText
             font.pixelSize: Theme.smallText
         }
@@ -34,6 +35,7 @@ Item {
     Text {
         anchors { right: plot.left; rightMargin: 6; bottom: plot.bottom }
         text: "0"
+        textFormat: Text.PlainText
         color: Theme.mutedText
         font.pixelSize: Theme.smallText
     }

@@ -25,6 +25,7 @@ Card {
             Text {
                 Layout.fillWidth: true
                 text: qsTr("%1 in %2").arg(table.quantity.title).arg(table.quantity.unit)
+                textFormat: Text.PlainText
                 color: Theme.text
                 font { pixelSize: Theme.headingText; bold: true }
             }
@@ -88,6 +89,7 @@ Card {
                     Text {
                         Layout.preferredWidth: 110
                         text: qsTr("Sample %1").arg(model.number)
+                        textFormat: Text.PlainText
                         color: Theme.mutedText
                         font.pixelSize: Theme.bodyText
                     }
@@ -95,6 +97,7 @@ Card {
                         Layout.fillWidth: true
                         horizontalAlignment: Text.AlignRight
                         text: model.text
+                        textFormat: Text.PlainText
                         color: Theme.text
                         font.pixelSize: Theme.bodyText
                     }

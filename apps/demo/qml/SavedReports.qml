@@ -91,6 +91,7 @@ ColumnLayout {
             Text {
                 Layout.fillWidth: !saved.canChoose
                 text: list.count > 0 ? qsTr("Saved reports (%1)").arg(list.count) : qsTr("Saved reports")
+                textFormat: Text.PlainText
                 color: Theme.text
                 font { pixelSize: Theme.headingText; bold: true }
                 // Beside the buttons, in the smallest window.
@@ -224,6 +225,7 @@ ColumnLayout {
                 Text {
                     Layout.preferredWidth: 48
                     text: modelData.format
+                    textFormat: Text.PlainText
                     color: Theme.primary
                     font { pixelSize: Theme.smallText; bold: true }
                 }
@@ -245,6 +247,7 @@ ColumnLayout {
                         id: details
                         text: saved.sizeText(modelData.size) + ", "
                               + modelData.time.toLocaleString(Qt.locale(), Locale.ShortFormat)
+                        textFormat: Text.PlainText
                         color: Theme.mutedText
                         font.pixelSize: Theme.smallText - 1
                     }
@@ -252,6 +255,7 @@ ColumnLayout {
                 Text {
                     visible: modelData.compressed
                     text: "gz"
+                    textFormat: Text.PlainText
                     Accessible.name: qsTr("compressed")
                     color: Theme.mutedText
                     font.pixelSize: Theme.smallText

@@ -17,6 +17,7 @@ RadioButton {
 
     contentItem: Text {
         text: control.text
+        textFormat: Text.PlainText
         font: control.font
         color: control.checked ? Theme.primary : Theme.mutedText
         horizontalAlignment: Text.AlignHCenter

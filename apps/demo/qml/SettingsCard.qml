@@ -40,6 +40,7 @@ Card {
 
         Text {
             text: card.title
+            textFormat: Text.PlainText
             color: Theme.text
             font { pixelSize: Theme.headingText; bold: true }
         }
@@ -49,6 +50,7 @@ Card {
         anchors { left: parent.left; right: parent.right; top: column.bottom; margins: Theme.margin }
         height: text ? implicitHeight : 0
         text: card.note
+        textFormat: Text.PlainText
         color: Theme.mutedText
         font.pixelSize: Theme.smallText
         wrapMode: Text.Wrap

@@ -106,6 +106,7 @@ FocusScope {
                         return page.changed === 1 ? qsTr("1 change is not applied yet.")
                                                   : qsTr("%1 changes are not applied yet.").arg(page.changed)
                     }
+                    textFormat: Text.PlainText
                     color: page.refusal || !page.acceptable ? Theme.fail
                                                             : page.changed > 0 ? Theme.text : Theme.mutedText
                     font.pixelSize: page.refusal ? Theme.smallText : Theme.bodyText

@@ -22,6 +22,7 @@ Row {
     Text {
         anchors.verticalCenter: parent.verticalCenter
         text: badge.word
+        textFormat: Text.PlainText
         color: Theme.text
         font.pixelSize: badge.pixelSize
     }

@@ -8,11 +8,13 @@ Column {
 
     Text {
         id: nameText
+        textFormat: Text.PlainText
         color: Theme.mutedText
         font.pixelSize: Theme.smallText
     }
     Text {
         id: valueText
+        textFormat: Text.PlainText
         color: Theme.text
         font.pixelSize: Theme.bodyText
     }

@@ -20,6 +20,7 @@ AbstractButton {
     contentItem: Text {
         id: caption
         text: control.text
+        textFormat: Text.PlainText
         color: !control.enabled ? Theme.disabled : control.checked ? Theme.card : Theme.primary
         font { pixelSize: control.isSign ? Theme.signText : Theme.smallText; bold: true }
         horizontalAlignment: Text.AlignHCenter

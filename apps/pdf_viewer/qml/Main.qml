@@ -39,6 +39,7 @@ ApplicationWindow {
             id: repairedText
             anchors { fill: parent; leftMargin: Theme.margin; rightMargin: Theme.margin }
             text: qsTr("The file is damaged. What could be read of it is shown; something may be missing.")
+            textFormat: Text.PlainText
             color: Theme.text
             font.pixelSize: Theme.bodyText
             wrapMode: Text.Wrap
@@ -66,6 +67,7 @@ ApplicationWindow {
         anchors.centerIn: parent
         visible: window.document.state === ViewerDocument.Loading
         text: qsTr("Opening the file …")
+        textFormat: Text.PlainText
         color: Theme.mutedText
         font.pixelSize: Theme.headingText
         Accessible.role: Accessible.StaticText

@@ -24,6 +24,7 @@ Rectangle {
         Text {
             width: parent.width
             text: note.document.problem
+            textFormat: Text.PlainText
             color: Theme.fail
             font { pixelSize: Theme.headingText; bold: true }
             wrapMode: Text.Wrap
@@ -41,6 +42,7 @@ Rectangle {
         Text {
             width: parent.width
             text: note.document.advice
+            textFormat: Text.PlainText
             color: Theme.text
             font.pixelSize: Theme.bodyText
             wrapMode: Text.Wrap

@@ -29,6 +29,7 @@ Rectangle {
                 return qsTr("Page %1 cannot be drawn. The file may be damaged.").arg(sheet.page + 1)
             return sheet.status === PageItem.Drawing ? qsTr("Page %1").arg(sheet.page + 1) : ""
         }
+        textFormat: Text.PlainText
         color: sheet.status === PageItem.Failed ? Theme.fail : Theme.mutedText
         font.pixelSize: Theme.bodyText
         wrapMode: Text.Wrap

@@ -45,6 +45,7 @@ Rectangle {
                 // As wide as the last page needs it.
                 Layout.preferredWidth: widest.advanceWidth + 2
                 text: qsTr("Page %1 of %2").arg(bar.pages.page + 1).arg(bar.pages.count)
+                textFormat: Text.PlainText
                 color: Theme.text
                 font.pixelSize: Theme.bodyText
                 horizontalAlignment: Text.AlignHCenter
@@ -78,6 +79,7 @@ Rectangle {
                 objectName: "zoomText"
                 Layout.preferredWidth: 58
                 text: qsTr("%1 %").arg(Math.round(bar.pages.zoom * 100))
+                textFormat: Text.PlainText
                 color: Theme.text
                 font.pixelSize: Theme.bodyText
                 horizontalAlignment: Text.AlignHCenter

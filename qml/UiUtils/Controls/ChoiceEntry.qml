@@ -85,6 +85,7 @@ Entry {
             x: box.width - width - ControlsStyle.margin
             y: (box.height - height) / 2
             text: "\u25be"
+            textFormat: Text.PlainText
             font.pixelSize: ControlsStyle.headingText
             color: box.enabled ? ControlsStyle.primary : ControlsStyle.border
         }

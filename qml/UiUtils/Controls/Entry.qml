@@ -121,12 +121,14 @@ FocusScope {
             Text {
                 Layout.fillWidth: true
                 text: entry.mandatory && !entry.readOnly ? "*" : ""
+                textFormat: Text.PlainText
                 color: ControlsStyle.invalid
                 font { pixelSize: ControlsStyle.smallText; bold: true }
             }
             Text {
                 id: qualityWord
                 text: ControlsStyle.qualityWord(face.quality)
+                textFormat: Text.PlainText
                 color: ControlsStyle.qualityColor(face.quality)
                 font { pixelSize: ControlsStyle.smallText; bold: true }
             }

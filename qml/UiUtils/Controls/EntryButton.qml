@@ -24,6 +24,7 @@ Button {
 
     contentItem: Text {
         text: control.text
+        textFormat: Text.PlainText
         font: control.font
         opacity: control.enabled ? 1 : 0.4
         color: control.filled ? ControlsStyle.primaryText : ControlsStyle.primary

@@ -175,11 +175,9 @@ Entry {
                 rightPadding: 4
                 selectByMouse: true
                 color: enabled ? ControlsStyle.text : ControlsStyle.mutedText
-                placeholderTextColor: ControlsStyle.border
                 selectionColor: ControlsStyle.primary
                 selectedTextColor: ControlsStyle.primaryText
                 font.pixelSize: ControlsStyle.bodyText
-                placeholderText: entry.placeholderText
                 echoMode: entry.echoMode
                 inputMethodHints: entry.inputMethodHints
                 background: null
@@ -199,12 +197,26 @@ Entry {
                     enabled: entry.hasPad && ControlsStyle.padOnTap
                     onTapped: entry.openPad()
                 }
+                // The field's own placeholder would read markup.
+                Text {
+                    anchors { fill: parent; leftMargin: field.leftPadding; rightMargin: field.rightPadding }
+                    visible: field.length === 0 && field.preeditText === ""
+                    text: entry.placeholderText
+                    textFormat: Text.PlainText
+                    color: ControlsStyle.border
+                    font: field.font
+                    verticalAlignment: Text.AlignVCenter
+                    elide: Text.ElideRight
+                }
             }
             Text {
                 Layout.rightMargin: 10
+                // The value counts for more.
+                Layout.maximumWidth: parent.width / 3
                 visible: text !== ""
                 text: entry.unit
                 textFormat: Text.PlainText
+                elide: Text.ElideRight
                 color: ControlsStyle.mutedText
                 font.pixelSize: ControlsStyle.bodyText
             }

@@ -138,6 +138,7 @@ Entry {
                 Text {
                     Layout.preferredWidth: 26
                     text: index + 1
+                    textFormat: Text.PlainText
                     horizontalAlignment: Text.AlignRight
                     color: ControlsStyle.mutedText
                     font.pixelSize: ControlsStyle.smallText

@@ -125,6 +125,7 @@ ModalDialog {
                             objectName: "waitingText"
                             anchors { left: parent.left; right: buttons.left; rightMargin: ControlsStyle.gap; verticalCenter: parent.verticalCenter }
                             text: Notifications.waitingDialogs > 0 ? qsTr("%1 more").arg(Notifications.waitingDialogs) : ""
+                            textFormat: Text.PlainText
                             elide: Text.ElideRight
                             color: ControlsStyle.mutedText
                             font.pixelSize: ControlsStyle.smallText

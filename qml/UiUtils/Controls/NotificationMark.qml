@@ -21,6 +21,7 @@ Rectangle {
     Text {
         anchors.centerIn: parent
         text: mark.kind === KIVNotification.Error ? "!" : mark.kind === KIVNotification.Request ? "?" : "i"
+        textFormat: Text.PlainText
         color: ControlsStyle.primaryText
         font { pixelSize: ControlsStyle.headingText; bold: true }
         Accessible.ignored: true

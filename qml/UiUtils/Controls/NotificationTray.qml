@@ -30,6 +30,7 @@ FocusScope {
             Text {
                 Layout.fillWidth: true
                 text: tray.count > 0 ? qsTr("Notifications (%1)").arg(tray.count) : qsTr("Notifications")
+                textFormat: Text.PlainText
                 elide: Text.ElideRight
                 color: ControlsStyle.text
                 font { pixelSize: ControlsStyle.headingText; bold: true }
@@ -113,6 +114,7 @@ FocusScope {
                             id: time
                             anchors { right: parent.right; baseline: title.baseline }
                             text: model.time.toLocaleString(Qt.locale(), Locale.ShortFormat)
+                            textFormat: Text.PlainText
                             color: ControlsStyle.mutedText
                             font.pixelSize: ControlsStyle.smallText
                         }
@@ -146,6 +148,7 @@ FocusScope {
                 anchors { fill: parent; margins: ControlsStyle.margin }
                 visible: tray.count === 0
                 text: qsTr("No notifications")
+                textFormat: Text.PlainText
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
                 color: ControlsStyle.mutedText

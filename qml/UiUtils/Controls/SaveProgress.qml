@@ -71,6 +71,7 @@ ModalDialog {
                 objectName: "progressTitle"
                 width: parent.width
                 text: dialog.isCancelled ? qsTr("Cancelling the save") : qsTr("Saving the report")
+                textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 color: ControlsStyle.text
                 font { pixelSize: ControlsStyle.headingText; bold: true }
@@ -121,6 +122,7 @@ ModalDialog {
                     anchors.right: parent.right
                     width: 56
                     text: qsTr("%1 %").arg(Math.floor(100 * dialog.progress))
+                    textFormat: Text.PlainText
                     horizontalAlignment: Text.AlignRight
                     color: ControlsStyle.text
                     font.pixelSize: ControlsStyle.bodyText

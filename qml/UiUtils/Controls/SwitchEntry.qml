@@ -39,6 +39,7 @@ Entry {
         contentItem: Text {
             leftPadding: control.indicator.width + control.spacing + 4
             text: control.text
+            textFormat: Text.PlainText
             font: control.font
             color: control.enabled ? ControlsStyle.text : ControlsStyle.mutedText
             verticalAlignment: Text.AlignVCenter
