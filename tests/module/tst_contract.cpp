@@ -4,7 +4,6 @@
 #include "files/screenshot.h"
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
-#include "module/uiutilsmodule.h"
 #include "report/nsreport.h"
 #include "report/report.h"
 #include "service/forgivingvalidator.h"
@@ -260,8 +259,6 @@ class ContractTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { uiutils::registerTypes(); }
-
     void classes_data()
     {
         QTest::addColumn<int>("index");
@@ -303,10 +300,8 @@ private Q_SLOTS:
 
     void whatHasNoTable()
     {
-        // A meta-object of its own would hide the keys of a record from pages. Both are handed over by fixed names of types.
+        // A meta-object of its own would hide the keys of a record from pages.
         QCOMPARE(&QMLAggregate::staticMetaObject, &QQmlPropertyMap::staticMetaObject);
-        QVERIFY(QMetaType::type("QQmlPropertyMap*") != QMetaType::UnknownType);
-        QVERIFY(QMetaType::type("QMLListAggregate *") != QMetaType::UnknownType);
         // A virtual destructor has two places, for objects on the heap and for all others.
         QCOMPARE(placeOf(&Next<TemplateToXmlWriter>::next), std::ptrdiff_t(2));
         QCOMPARE(placeOf(&Next<HtmlStreamWriter>::next), std::ptrdiff_t(2));
