@@ -79,9 +79,15 @@ Listing listingOf(int folder)
     return {listing, &::closedir};
 }
 
-bool isMember(const char* name)
+/// The next name but "." and ".."; null at the end and, with the reason in errno, where the folder cannot be read.
+const char* nextMember(DIR* listing)
 {
-    return std::strcmp(name, ".") != 0 && std::strcmp(name, "..") != 0;
+    const dirent* entry = nullptr;
+    do {
+        errno = 0;
+        entry = ::readdir(listing);
+    } while (entry && (std::strcmp(entry->d_name, ".") == 0 || std::strcmp(entry->d_name, "..") == 0));
+    return entry ? entry->d_name : nullptr;
 }
 
 bool removeMember(int folder, const char* name, dev_t device, int depth);
@@ -90,13 +96,15 @@ bool removeMember(int folder, const char* name, dev_t device, int depth);
 bool removeMembers(int folder, dev_t device, int depth)
 {
     const Listing listing = listingOf(folder);
-    bool isEmpty = listing != nullptr;
-    while (const dirent* entry = listing ? ::readdir(listing.get()) : nullptr) {
-        const bool stays = !isMember(entry->d_name) || (depth == 0 && std::strcmp(entry->d_name, folderMark) == 0);
-        if (!stays && !removeMember(folder, entry->d_name, device, depth))
+    if (!listing)
+        return false;
+    bool isEmpty = true;
+    while (const char* name = nextMember(listing.get())) {
+        const bool isMark = depth == 0 && std::strcmp(name, folderMark) == 0;
+        if (!isMark && !removeMember(folder, name, device, depth))
             isEmpty = false;
     }
-    return isEmpty;
+    return isEmpty && errno == 0;
 }
 
 bool removeMember(int folder, const char* name, dev_t device, int depth)
@@ -122,10 +130,7 @@ bool isTemporaryFolder(int folder)
     if (::fstatat(folder, folderMark, &mark, AT_SYMLINK_NOFOLLOW) == 0)
         return S_ISREG(mark.st_mode) && isOwn(mark);
     const Listing listing = listingOf(folder);
-    const dirent* entry = listing ? ::readdir(listing.get()) : nullptr;
-    while (entry && !isMember(entry->d_name))
-        entry = ::readdir(listing.get());
-    return listing && !entry;
+    return listing && !nextMember(listing.get()) && errno == 0;
 }
 
 /// The lock is kept until it is gone, so that no maker takes it for its own meanwhile.
@@ -171,8 +176,10 @@ void removeTemporaryFolder(int parent, const char* name, int folder)
     if (::fstat(folder, &opened) != 0 || !removeMembers(folder, opened.st_dev, 0))
         return;
     ::unlinkat(folder, folderMark, 0);
-    if (isStillNamed(parent, name, opened))
-        ::unlinkat(parent, name, AT_REMOVEDIR);
+    if (isStillNamed(parent, name, opened) && ::unlinkat(parent, name, AT_REMOVEDIR) == 0)
+        return;
+    // Something is in it still, or has come.
+    markTemporaryFolder(folder);
 }
 
 bool removeUnlessHeld(const QString& path)

@@ -31,6 +31,9 @@ Workspace::Workspace()
 
 bool Workspace::prepare(QString* error)
 {
+    *error = rootProblem();
+    if (!error->isEmpty())
+        return false;
     if (!m_folder.isValid()) {
         *error = tr("No temporary folder can be made in %1: %2. Name another place with TMPDIR.")
                          .arg(place(), m_folder.errorString());
