@@ -1,7 +1,10 @@
 #include "base/paths.h"
 
+#include <QCoreApplication>
 #include <QDir>
-#include <QtGlobal>
+#include <QFile>
+#include <QTextCodec>
+#include <QtDebug>
 
 namespace uiutils {
 
@@ -18,7 +21,37 @@ bool belongsToInstrument(const QString& path)
             || liesBelow(path, QLatin1String("/base")) || path.startsWith(paths::plotImageStem);
 }
 
+bool isInEncodingOfFiles(const QByteArray& name)
+{
+    return QFile::encodeName(QFile::decodeName(name)) == name;
+}
+
+/// The value of UIUTILS_ROOT, or, for one that would become another folder's name on the way, a name that is too long
+/// for every file system: whatever is asked for below it is an error, and nothing is ever made there.
+QString root()
+{
+    const QByteArray name = qgetenv("UIUTILS_ROOT");
+    if (isInEncodingOfFiles(name))
+        return QFile::decodeName(name);
+    static const bool isTold = [] {
+        qWarning("%s", qUtf8Printable(rootProblem()));
+        return true;
+    }();
+    Q_UNUSED(isTold)
+    return QStringLiteral("/UIUTILS_ROOT cannot be used ").leftJustified(300, QLatin1Char('.'));
+}
+
 } // namespace
+
+QString rootProblem()
+{
+    if (isInEncodingOfFiles(qgetenv("UIUTILS_ROOT")))
+        return QString();
+    return QCoreApplication::translate("Paths",
+            "UIUTILS_ROOT names a folder that is not written in the encoding of file names (%1). Nothing of the "
+            "instrument is read or written. Name another folder.")
+            .arg(QString::fromLatin1(QTextCodec::codecForLocale()->name()));
+}
 
 QString paths::plotImage(int number)
 {
@@ -27,9 +60,9 @@ QString paths::plotImage(int number)
 
 QString onDisk(const QString& path)
 {
-    const QString root = qEnvironmentVariable("UIUTILS_ROOT");
+    const QString folder = root();
     // A relative path is the machine's own, and cleaning one may leave ".." in it.
-    if (root.isEmpty() || !path.startsWith(QLatin1Char('/')))
+    if (folder.isEmpty() || !path.startsWith(QLatin1Char('/')))
         return path;
     QString clean = QDir::cleanPath(path);
     // There is nothing above the top, and Qt leaves that to the system.
@@ -40,7 +73,7 @@ QString onDisk(const QString& path)
     // What is written behind a folder's name stays behind it.
     if (path.endsWith(QLatin1Char('/')))
         clean += QLatin1Char('/');
-    return root + clean;
+    return folder + clean;
 }
 
 } // namespace uiutils

@@ -1,7 +1,6 @@
 #include "base/temporaries_p.h"
 
 #include <QByteArray>
-#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 
@@ -19,6 +18,10 @@ namespace uiutils {
 namespace {
 
 const QLatin1String stem(".uiutils-");
+/// Lies in each temporary folder, so that a folder of somebody's reports is not taken for one, whatever its name.
+constexpr char folderMark[] = ".uiutils-temporary";
+/// Deeper than any program nests what it keeps meanwhile: each level takes a descriptor and some stack.
+constexpr int deepestFolder = 32;
 
 enum class Kind { File, Folder, Foreign };
 
@@ -41,29 +44,116 @@ bool tryLock(int fd)
     return result == 0;
 }
 
-/// The lock is kept until it is gone, so that no maker takes it for its own meanwhile.
-void removeIfStale(const QString& folder, int folderFd, const char* name, Kind kind)
+bool isOwn(const struct stat& entry)
 {
-    const int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | (kind == Kind::Folder ? O_DIRECTORY : 0);
-    const int fd = ::openat(folderFd, name, flags);
+    return entry.st_uid == ::geteuid();
+}
+
+/// Everything is named by the descriptor of the folder that holds it: a path could lead elsewhere by the time it is used.
+int openMember(int folder, const char* name, int flags)
+{
+    int fd = -1;
+    do {
+        fd = ::openat(folder, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | flags);
+    } while (fd < 0 && errno == EINTR);
+    return fd;
+}
+
+/// Whether the name still stands for what was opened.
+bool isStillNamed(int folder, const char* name, const struct stat& opened)
+{
+    struct stat entry = {};
+    return ::fstatat(folder, name, &entry, AT_SYMLINK_NOFOLLOW) == 0 && entry.st_dev == opened.st_dev
+            && entry.st_ino == opened.st_ino;
+}
+
+using Listing = std::unique_ptr<DIR, int (*)(DIR*)>;
+
+/// What the folder holds; null when it cannot be read. Leaves the descriptor to its owner.
+Listing listingOf(int folder)
+{
+    const int fd = openMember(folder, ".", O_DIRECTORY);
+    DIR* const listing = fd < 0 ? nullptr : ::fdopendir(fd);
+    if (!listing && fd >= 0)
+        ::close(fd);
+    return {listing, &::closedir};
+}
+
+/// The next name but "." and ".."; null at the end and, with the reason in errno, where the folder cannot be read.
+const char* nextMember(DIR* listing)
+{
+    const dirent* entry = nullptr;
+    do {
+        errno = 0;
+        entry = ::readdir(listing);
+    } while (entry && (std::strcmp(entry->d_name, ".") == 0 || std::strcmp(entry->d_name, "..") == 0));
+    return entry ? entry->d_name : nullptr;
+}
+
+bool removeMember(int folder, const char* name, dev_t device, int depth);
+
+/// False when something stays. The mark of the uppermost does in any case: it is known by it until it goes itself.
+bool removeMembers(int folder, dev_t device, int depth)
+{
+    const Listing listing = listingOf(folder);
+    if (!listing)
+        return false;
+    bool isEmpty = true;
+    while (const char* name = nextMember(listing.get())) {
+        const bool isMark = depth == 0 && std::strcmp(name, folderMark) == 0;
+        if (!isMark && !removeMember(folder, name, device, depth))
+            isEmpty = false;
+    }
+    return isEmpty && errno == 0;
+}
+
+bool removeMember(int folder, const char* name, dev_t device, int depth)
+{
+    struct stat entry = {};
+    if (::fstatat(folder, name, &entry, AT_SYMLINK_NOFOLLOW) != 0 || !isOwn(entry) || entry.st_dev != device)
+        return false;
+    if (!S_ISDIR(entry.st_mode))
+        return ::unlinkat(folder, name, 0) == 0;
+    const int fd = depth < deepestFolder ? openMember(folder, name, O_DIRECTORY) : -1;
+    struct stat opened = {};
+    const bool isEmpty = fd >= 0 && ::fstat(fd, &opened) == 0 && isOwn(opened) && opened.st_dev == device
+            && removeMembers(fd, device, depth + 1);
+    if (fd >= 0)
+        ::close(fd);
+    return isEmpty && ::unlinkat(folder, name, AT_REMOVEDIR) == 0;
+}
+
+/// Whether it has the mark, or nothing at all: then it was left before it got its mark, or after that had gone.
+bool isTemporaryFolder(int folder)
+{
+    struct stat mark = {};
+    if (::fstatat(folder, folderMark, &mark, AT_SYMLINK_NOFOLLOW) == 0)
+        return S_ISREG(mark.st_mode) && isOwn(mark);
+    const Listing listing = listingOf(folder);
+    return listing && !nextMember(listing.get()) && errno == 0;
+}
+
+/// The lock is kept until it is gone, so that no maker takes it for its own meanwhile.
+void removeIfStale(int parent, const char* name, Kind kind)
+{
+    const int fd = openMember(parent, name, kind == Kind::Folder ? O_DIRECTORY : 0);
     if (fd < 0)
         return;
-    struct stat entry = {};
-    if (tryLock(fd) && ::fstat(fd, &entry) == 0) {
-        if (kind == Kind::Folder)
-            QDir(folder + QLatin1Char('/') + QFile::decodeName(name)).removeRecursively();
-        else if (S_ISREG(entry.st_mode))
-            ::unlinkat(folderFd, name, 0);
-    }
+    struct stat opened = {};
+    const bool isStale = tryLock(fd) && ::fstat(fd, &opened) == 0 && isOwn(opened);
+    if (isStale && kind == Kind::Folder && isTemporaryFolder(fd))
+        removeTemporaryFolder(parent, name, fd);
+    else if (isStale && S_ISREG(opened.st_mode) && isStillNamed(parent, name, opened))
+        ::unlinkat(parent, name, 0);
     ::close(fd);
 }
 
 } // namespace
 
-QString newTemporaryPath(const QString& folder, QLatin1String end)
+QString newTemporaryName(QLatin1String end)
 {
     // Names of 255 bytes are legal: this one must not grow out of the target's own.
-    return folder + QLatin1Char('/') + stem + QString::number(QRandomGenerator::global()->generate(), 36) + end;
+    return stem + QString::number(QRandomGenerator::global()->generate(), 36) + end;
 }
 
 bool lockTemporary(int fd)
@@ -72,6 +162,24 @@ bool lockTemporary(int fd)
         return errno != EWOULDBLOCK;
     struct stat entry = {};
     return ::fstat(fd, &entry) != 0 || entry.st_nlink > 0;
+}
+
+bool markTemporaryFolder(int folder)
+{
+    const int fd = ::openat(folder, folderMark, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
+    return fd >= 0 && ::close(fd) == 0;
+}
+
+void removeTemporaryFolder(int parent, const char* name, int folder)
+{
+    struct stat opened = {};
+    if (::fstat(folder, &opened) != 0 || !removeMembers(folder, opened.st_dev, 0))
+        return;
+    ::unlinkat(folder, folderMark, 0);
+    if (isStillNamed(parent, name, opened) && ::unlinkat(parent, name, AT_REMOVEDIR) == 0)
+        return;
+    // Something is in it still, or has come.
+    markTemporaryFolder(folder);
 }
 
 bool removeUnlessHeld(const QString& path)
@@ -88,13 +196,13 @@ bool removeUnlessHeld(const QString& path)
 
 void removeStaleTemporaries(const QString& folder)
 {
-    const std::unique_ptr<DIR, int (*)(DIR*)> listing(::opendir(QFile::encodeName(folder).constData()), &::closedir);
+    const Listing listing(::opendir(QFile::encodeName(folder).constData()), &::closedir);
     if (!listing)
         return;
     while (const dirent* entry = ::readdir(listing.get())) {
         const Kind kind = kindOf(entry->d_name);
         if (kind != Kind::Foreign)
-            removeIfStale(folder, ::dirfd(listing.get()), entry->d_name, kind);
+            removeIfStale(::dirfd(listing.get()), entry->d_name, kind);
     }
 }
 

@@ -2,7 +2,6 @@
 
 #include "base/temporaries_p.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <cerrno>
@@ -12,38 +11,64 @@
 
 namespace uiutils {
 
-TemporaryFolder::TemporaryFolder(const QString& parent)
+namespace {
+
+int openFolder(int parent, const QByteArray& path, int flags)
 {
+    int fd = -1;
     do {
-        m_path = newTemporaryPath(parent, temporaryFolderEnd);
-    } while (!make(QFile::encodeName(m_path)) && (errno == EEXIST || errno == EINTR));
-    if (m_fd < 0)
-        m_path.clear();
+        fd = ::openat(parent, path.constData(), O_DIRECTORY | O_CLOEXEC | flags);
+    } while (fd < 0 && errno == EINTR);
+    return fd;
+}
+
+void closeAndForget(int* fd)
+{
+    const int reason = errno;
+    if (*fd >= 0)
+        ::close(*fd);
+    *fd = -1;
+    errno = reason;
+}
+
+} // namespace
+
+TemporaryFolder::TemporaryFolder(const QString& parent)
+    // Also one that may be written into and not listed.
+    : m_parent(openFolder(AT_FDCWD, QFile::encodeName(parent), O_PATH))
+{
+    if (m_parent < 0)
+        return;
+    do {
+        m_name = newTemporaryName(temporaryFolderEnd).toLatin1();
+    } while (!make() && (errno == EEXIST || errno == EINTR));
+    if (m_fd >= 0)
+        m_path = parent + QLatin1Char('/') + QString::fromLatin1(m_name);
 }
 
 /// False with EEXIST when it has been taken for left behind before its lock was, and has gone.
-bool TemporaryFolder::make(const QByteArray& place)
+bool TemporaryFolder::make()
 {
-    if (::mkdir(place.constData(), 0700) != 0)
+    if (::mkdirat(m_parent, m_name.constData(), 0700) != 0)
         return false;
-    m_fd = ::open(place.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (m_fd >= 0 && lockTemporary(m_fd))
+    m_fd = openFolder(m_parent, m_name, O_RDONLY | O_NOFOLLOW);
+    const bool isLost = m_fd >= 0 ? !lockTemporary(m_fd) : errno == ENOENT;
+    if (m_fd >= 0 && !isLost && markTemporaryFolder(m_fd))
         return true;
-    const int reason = m_fd >= 0 || errno == ENOENT ? EEXIST : errno;
-    if (m_fd >= 0)
-        ::close(m_fd);
-    m_fd = -1;
-    ::rmdir(place.constData());
+    // Whoever took it for left behind may be about to remove it: then no mark can be made in it any more.
+    const int reason = isLost || errno == ENOENT ? EEXIST : errno;
+    closeAndForget(&m_fd);
+    ::unlinkat(m_parent, m_name.constData(), AT_REMOVEDIR);
     errno = reason;
     return false;
 }
 
 TemporaryFolder::~TemporaryFolder()
 {
-    if (!m_path.isEmpty())
-        QDir(m_path).removeRecursively();
     if (m_fd >= 0)
-        ::close(m_fd);
+        removeTemporaryFolder(m_parent, m_name.constData(), m_fd);
+    closeAndForget(&m_fd);
+    closeAndForget(&m_parent);
 }
 
 } // namespace uiutils

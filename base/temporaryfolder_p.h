@@ -20,9 +20,11 @@ public:
     QString filePath(const QString& name) const { return m_path + QLatin1Char('/') + name; }
 
 private:
-    bool make(const QByteArray& place);
+    bool make();
 
+    QByteArray m_name;
     QString m_path;
+    int m_parent = -1;
     int m_fd = -1;
 };
 

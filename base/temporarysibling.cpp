@@ -30,7 +30,7 @@ TemporarySibling::TemporarySibling(const QString& target, const QString& name)
 void TemporarySibling::createUnderNewName(const QString& folder)
 {
     do {
-        m_path = newTemporaryPath(folder, temporaryFileEnd);
+        m_path = folder + QLatin1Char('/') + newTemporaryName(temporaryFileEnd);
         open();
     } while (m_fd < 0 && (errno == EEXIST || errno == EINTR));
 }

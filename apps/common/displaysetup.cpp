@@ -1,5 +1,9 @@
 #include "common/displaysetup.h"
 
+#include "base/temporaries_p.h"
+
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 
 namespace uiutils::apps {
@@ -39,9 +43,11 @@ void DisplaySetup::ensureRuntimeFolder()
 {
     if (isSet("XDG_RUNTIME_DIR"))
         return;
-    m_runtimeFolder = std::make_unique<QTemporaryDir>();
-    if (m_runtimeFolder->isValid())
-        qputenv("XDG_RUNTIME_DIR", m_runtimeFolder->path().toLocal8Bit());
+    // One that was killed could not take its folder along.
+    removeStaleTemporaries(QDir::tempPath());
+    m_runtimeFolder = std::make_unique<TemporaryFolder>(QDir::tempPath());
+    if (!m_runtimeFolder->path().isEmpty())
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtimeFolder->path()));
 }
 
 } // namespace uiutils::apps

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QTemporaryDir>
+#include "base/temporaryfolder_p.h"
 
 #include <memory>
 
@@ -20,7 +20,7 @@ public:
 private:
     void ensureRuntimeFolder();
 
-    std::unique_ptr<QTemporaryDir> m_runtimeFolder;
+    std::unique_ptr<TemporaryFolder> m_runtimeFolder;
 };
 
 } // namespace uiutils::apps

@@ -5,8 +5,21 @@
 #include <embedded/embeddedbackend.h>
 
 #include <QCoreApplication>
+#include <QFile>
 
 namespace uiutils::apps {
+
+bool useRoot(const QString& root)
+{
+    const QByteArray name = QFile::encodeName(root);
+    if (!root.contains(QChar(QChar::ReplacementCharacter)) && QFile::decodeName(name) == root)
+        return qputenv("UIUTILS_ROOT", name);
+    complain(QCoreApplication::translate("main",
+            "The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. "
+            "Name another folder.")
+                     .arg(root));
+    return false;
+}
 
 bool loadServices(kiv::embedded::EmbeddedBackend& backend, const QStringList& folders, const QString& root)
 {

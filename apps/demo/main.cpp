@@ -63,7 +63,8 @@ int runTour(Tour& tour)
 
 int runDemo(const DemoOptions& options)
 {
-    qputenv("UIUTILS_ROOT", options.root.toLocal8Bit());
+    if (!useRoot(options.root))
+        return exitFailed;
     kiv::embedded::EmbeddedBackend backend;
     if (!uiutils::apps::loadServices(backend, options.serviceFolders, options.root))
         return exitFailed;

@@ -49,7 +49,7 @@ QString helpText()
 Convert report documents of the instrument (JSON) to HTML, PDF, XML, JSON or
 plain text.
 
-A DOCUMENT is a file of up to 256 MiB, or "-" for standard input. Each is
+A DOCUMENT is a file of up to 16 MiB, or "-" for standard input. Each is
 converted by itself: one that fails is named and does not stop the others. A
 file is replaced only by a whole new one, and a document never by its own
 output.

@@ -1,10 +1,13 @@
 #include "workspace.h"
 
 #include "base/paths.h"
+#include "base/temporaries_p.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+
+#include <cerrno>
 
 namespace uiutils::convert {
 
@@ -24,16 +27,16 @@ QString place()
 
 } // namespace
 
-Workspace::Workspace()
-    : m_folder(place() + QStringLiteral("/reportconvert-XXXXXX"))
-{
-}
-
 bool Workspace::prepare(QString* error)
 {
-    if (!m_folder.isValid()) {
+    *error = rootProblem();
+    if (!error->isEmpty())
+        return false;
+    removeStaleTemporaries(place());
+    m_folder = std::make_unique<TemporaryFolder>(place());
+    if (path().isEmpty()) {
         *error = tr("No temporary folder can be made in %1: %2. Name another place with TMPDIR.")
-                         .arg(place(), m_folder.errorString());
+                         .arg(place(), qt_error_string(errno));
         return false;
     }
     // Without one the toolkit would make a folder in /tmp that stays.

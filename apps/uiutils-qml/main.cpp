@@ -65,7 +65,8 @@ int main(int argc, char** argv)
 
     // What the library notes for its developers is no business of a user, who may ask for it by QT_LOGGING_RULES.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\nqml.debug=true"));
-    qputenv("UIUTILS_ROOT", options.root.toLocal8Bit());
+    if (!apps::useRoot(options.root))
+        return exitFailed;
     const apps::DisplaySetup display;
     const QGuiApplication application(argc, argv);
     kiv::embedded::EmbeddedBackend backend;

@@ -14,13 +14,28 @@
 #include <QtTest>
 
 #include <atomic>
+#include <dlfcn.h>
+#include <functional>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
 using namespace uiutils;
 
 namespace {
+
+/// What somebody else does at the worst moment: once, when something was locked or looked at.
+std::function<void()> onceLocked;
+std::function<void()> onceSeen;
+bool isSomebodyElse = false;
+
+void happens(std::function<void()>& deed)
+{
+    if (deed)
+        std::exchange(deed, nullptr)();
+}
 
 QByteArray contentsOf(const QString& path)
 {
@@ -33,7 +48,39 @@ QStringList namesIn(const QString& folder)
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot | QDir::System, QDir::Name);
 }
 
+/// As a killed process leaves it: with a file in a folder within.
+QString leftFolder(const QString& parent)
+{
+    if (const pid_t child = ::fork()) {
+        ::waitpid(child, nullptr, 0);
+        return parent + '/' + QDir(parent).entryList({".uiutils-*.dir"}, QDir::Dirs | QDir::Hidden).value(0, "none");
+    }
+    const TemporaryFolder folder(parent);
+    QDir().mkpath(folder.filePath("below"));
+    QFile(folder.filePath("below/file")).open(QIODevice::WriteOnly);
+    ::_exit(0);
+}
+
 } // namespace
+
+// These stand in for the system's own.
+extern "C" int flock(int fd, int operation) noexcept
+{
+    const int result = reinterpret_cast<decltype(&flock)>(::dlsym(RTLD_NEXT, "flock"))(fd, operation);
+    happens(onceLocked);
+    return result;
+}
+extern "C" int fstatat(int folder, const char* name, struct stat* entry, int flags) noexcept
+{
+    const int result = reinterpret_cast<decltype(&fstatat)>(::dlsym(RTLD_NEXT, "fstatat"))(folder, name, entry, flags);
+    if (qstrcmp(name, "below") == 0)
+        happens(onceSeen);
+    return result;
+}
+extern "C" uid_t geteuid() noexcept
+{
+    return reinterpret_cast<decltype(&geteuid)>(::dlsym(RTLD_NEXT, "geteuid"))() + (isSomebodyElse ? 1 : 0);
+}
 
 class CoreTest : public QObject
 {
@@ -43,57 +90,50 @@ private Q_SLOTS:
     void pathsOnDisk_data()
     {
         QTest::addColumn<QString>("path");
-        QTest::addColumn<bool>("moved");
-        QTest::newRow("report") << "/cust/public/reports/a.html" << true;
-        QTest::newRow("folder itself") << "/cust" << true;
-        QTest::newRow("stick") << "/mnt/usb/a.html" << true;
-        QTest::newRow("stick itself") << "/mnt/usb" << true;
-        QTest::newRow("base") << "/base/bin/viewer" << true;
-        QTest::newRow("plot") << "/tmp/rep_plot_3.png" << true;
-        QTest::newRow("same beginning") << "/customer/a" << false;
-        QTest::newRow("other mount") << "/mnt/usb2/a" << false;
-        QTest::newRow("other temporary file") << "/tmp/a.png" << false;
-        QTest::newRow("relative") << "cust/a" << false;
-        QTest::newRow("relative upwards") << "../cust/a" << false;
-        QTest::newRow("out of the root") << "/cust/../.." << false;
-        QTest::newRow("out of the instrument's folders") << "/cust/../etc/passwd" << false;
-        QTest::newRow("out of the plots") << "/tmp/rep_plot_/../../etc/passwd" << false;
-        QTest::newRow("empty") << "" << false;
+        QTest::addColumn<QString>("moved");
+        for (const char* path : {"/cust/public/reports/a.html", "/cust", "/mnt/usb/a.html", "/mnt/usb", "/base/bin/viewer",
+                     "/tmp/rep_plot_3.png", "/cust/public/reports/"})
+            QTest::newRow(path) << path << QString("/root of mine%1").arg(path);
+        for (const char* path : {"/customer/a", "/mnt/usb2/a", "/tmp/a.png", "cust/a", "../cust/a", "/cust/../..",
+                     "/cust/../etc/passwd", "/tmp/rep_plot_/../../etc/passwd", ""})
+            QTest::newRow(path) << path << path;
+        QTest::newRow("doubled slash") << "//cust//a" << "/root of mine/cust/a";
+        QTest::newRow("up and down") << "/cust/../mnt/./usb/a" << "/root of mine/mnt/usb/a";
+        QTest::newRow("from elsewhere") << "/etc/../base/a" << "/root of mine/base/a";
+        QTest::newRow("above the top") << "/../../cust/a" << "/root of mine/cust/a";
+        QTest::newRow("above the top from inside") << "/cust/../../../cust/a" << "/root of mine/cust/a";
+        QTest::newRow("inside") << "/cust/a/../../cust/b/.." << "/root of mine/cust";
     }
     void pathsOnDisk()
     {
         QFETCH(QString, path);
-        QFETCH(bool, moved);
+        QFETCH(QString, moved);
         const QByteArray before = qgetenv("UIUTILS_ROOT");
         qputenv("UIUTILS_ROOT", "/root of mine");
-        QCOMPARE(onDisk(path), moved ? QLatin1String("/root of mine") + path : path);
+        QCOMPARE(onDisk(path), moved);
         qputenv("UIUTILS_ROOT", "");
         QCOMPARE(onDisk(path), path);
         qputenv("UIUTILS_ROOT", before);
     }
 
-    void pathsAreCleanedBeforeTheyMove_data()
+    /// Neither the instrument's own folders are touched then, nor those of a name that only looks alike.
+    void aRootThatIsNoText()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("moved");
-        QTest::newRow("doubled slash") << "//cust//a" << "/root/cust/a";
-        QTest::newRow("folder") << "/cust/public/reports/" << "/root/cust/public/reports/";
-        QTest::newRow("up and down") << "/cust/../mnt/./usb/a" << "/root/mnt/usb/a";
-        QTest::newRow("from elsewhere") << "/etc/../base/a" << "/root/base/a";
-        QTest::newRow("above the top") << "/../../cust/a" << "/root/cust/a";
-        QTest::newRow("above the top from inside") << "/cust/../../../cust/a" << "/root/cust/a";
-        QTest::newRow("inside") << "/cust/a/../../cust/b/.." << "/root/cust";
-    }
-    void pathsAreCleanedBeforeTheyMove()
-    {
-        QFETCH(QString, path);
-        QFETCH(QString, moved);
+        const QTemporaryDir dir;
         const QByteArray before = qgetenv("UIUTILS_ROOT");
-        qputenv("UIUTILS_ROOT", "/root");
-        QCOMPARE(onDisk(path), moved);
-        qputenv("UIUTILS_ROOT", "");
-        QCOMPARE(onDisk(path), path);
-        qputenv("UIUTILS_ROOT", before);
+        const auto restore = qScopeGuard([before] { qputenv("UIUTILS_ROOT", before); });
+        qputenv("UIUTILS_ROOT", QFile::encodeName(dir.path()) + "/\xff\xc3\xbc");
+        QVERIFY2(rootProblem().contains("UTF-8"), qPrintable(rootProblem()));
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(rootProblem()));
+        for (const char* folder : {"/cust/public/reports", "/mnt/usb", "/base"}) {
+            QString error;
+            const QString path = onDisk(folder);
+            QVERIFY(!makeFolderDurably(path) && !QDir().mkpath(path) && !writeFileDurably(path, "x", &error));
+            QVERIFY2(error.contains("UIUTILS_ROOT cannot be used"), qPrintable(error));
+        }
+        QVERIFY(namesIn(dir.path()).isEmpty() && onDisk("/etc/hosts") == "/etc/hosts");
+        qputenv("UIUTILS_ROOT", "/tmp/\xc3\xbc");
+        QCOMPARE(rootProblem(), QString());
     }
 
     void durableWriteReplacesWhole()
@@ -127,18 +167,58 @@ private Q_SLOTS:
         make(".uiutils-left.tmp");
         make(".uiutils-other");
         make("report.tmp");
-        QVERIFY(QDir(dir.path()).mkpath(".uiutils-left.dir/below"));
+        QVERIFY(leftFolder(dir.path()).endsWith(".dir"));
+        // Reports may lie in a folder that is called the same.
+        QVERIFY(QDir(dir.path()).mkpath(".uiutils-reports.dir") && !make(".uiutils-reports.dir/a.pdf").isEmpty());
         QVERIFY(QFile::link(dir.filePath("report.tmp"), dir.filePath(".uiutils-link.tmp")));
         const TemporarySibling living(dir.filePath("report.html"));
         const TemporaryFolder folder(dir.path());
         QVERIFY(living.isOpen() && QFileInfo(folder.path()).isDir());
         QVERIFY(writeFileDurably(dir.filePath("report.html"), "x"));
-        QStringList expected {".uiutils-link.tmp", ".uiutils-other", QFileInfo(living.path()).fileName(),
+        QVERIFY(QFile::exists(dir.filePath(".uiutils-reports.dir/a.pdf")));
+        QStringList expected {".uiutils-link.tmp", ".uiutils-other", ".uiutils-reports.dir", QFileInfo(living.path()).fileName(),
                 QFileInfo(folder.path()).fileName(), "report.html", "report.tmp"};
         expected.sort();
         QStringList found = namesIn(dir.path());
         found.sort();
         QCOMPARE(found, expected);
+    }
+
+    /// Whoever may write beside it must not have us remove what only we may.
+    void cleaningRemovesNothingElsewhere_data()
+    {
+        QTest::addColumn<QString>("swapped");
+        QTest::addColumn<bool>("isStrangers");
+        QTest::newRow("links within") << QString() << false;
+        QTest::newRow("swapped for a link") << "." << false;
+        QTest::newRow("a folder within, swapped for a link") << "below" << false;
+        QTest::newRow("somebody else's") << QString() << true;
+    }
+    void cleaningRemovesNothingElsewhere()
+    {
+        QFETCH(QString, swapped);
+        QFETCH(bool, isStrangers);
+        QTemporaryDir dir;
+        const QString victim = dir.filePath("victim");
+        QVERIFY(QDir().mkpath(victim) && writeFileDurably(victim + "/kept", "x"));
+        const QString left = leftFolder(dir.path());
+        QVERIFY(QFile::link(victim, left + "/link") && QFile::link(victim, left + "/below/link"));
+        const QString place = QDir::cleanPath(left + '/' + swapped);
+        (swapped == "." ? onceLocked : onceSeen) = [&] {
+            if (!swapped.isEmpty() && QDir().rename(place, dir.filePath("aside")))
+                QFile::link(victim, place);
+        };
+        isSomebodyElse = isStrangers;
+        removeStaleTemporaries(dir.path());
+        isSomebodyElse = false;
+        QCOMPARE(namesIn(victim), QStringList {"kept"});
+        QCOMPARE(onceLocked || onceSeen, isStrangers);
+        onceSeen = nullptr;
+        QCOMPARE(QFileInfo(left).isDir(), isStrangers || !swapped.isEmpty());
+        QCOMPARE(QFile::exists(left + "/below/file"), isStrangers);
+        removeStaleTemporaries(dir.path());
+        QCOMPARE(QFileInfo(left).isSymLink(), swapped == ".");
+        QCOMPARE(QFileInfo(left).isDir(), swapped == ".");
     }
 
     void cleaningLeavesLivingWritersAlone()

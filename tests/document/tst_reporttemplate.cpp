@@ -346,8 +346,13 @@ private Q_SLOTS:
         QVERIFY(large.open(QIODevice::WriteOnly));
         QVERIFY(large.resize(PlovJsonDocument::maximumFileSize + 1));
         report.readFile(large.fileName());
-        QVERIFY(report.hasError());
-        QVERIFY2(report.errorString().contains("256"), qPrintable(report.errorString()));
+        QVERIFY2(report.errorString().contains("16 MiB"), qPrintable(report.errorString()));
+
+        const QByteArray lists = QByteArray("[],").repeated(PlovJsonDocument::maximumContainers - 3);
+        report.readFile(writeFile(dir, "{\"a\":[" + lists + "[]]}"));
+        QCOMPARE(report.errorString(), QString());
+        report.readFile(writeFile(dir, "{\"a\":[" + lists + "[],[]]}"));
+        QVERIFY2(report.errorString().contains("750000 objects"), qPrintable(report.errorString()));
     }
 
     /// What the JSON parser takes at the most is held, written and read again.

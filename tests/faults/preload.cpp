@@ -124,6 +124,18 @@ bool isDead(int fd)
     return isDead(path);
 }
 
+/// The same for a name in an open folder.
+bool isDead(int folder, const char* name, bool isChange = true)
+{
+    char path[512] {};
+    if (folder == AT_FDCWD || *name == '/')
+        return isDead(name, isChange);
+    readPath(folder, path);
+    const size_t length = std::strlen(path);
+    std::snprintf(path + length, sizeof path - length, "/%s", name);
+    return isDead(path, isChange);
+}
+
 /// What stands in for a function of the system calls that, unless its disk is dead.
 template<typename Function, typename... Arguments>
 int unlessDead(bool isDead, const char* name, Arguments... arguments)
@@ -161,7 +173,7 @@ bool isChange(int flags)
         va_start(rest, flags);                                                                                                   \
         const mode_t mode = va_arg(rest, mode_t);                                                                                \
         va_end(rest);                                                                                                            \
-        return UIUTILS_UNLESS(isDead(path, isChange(flags)), name, folder, path, flags, mode);                                   \
+        return UIUTILS_UNLESS(isDead(folder, path, isChange(flags)), name, folder, path, flags, mode);                                   \
     }
 
 UIUTILS_OPEN(open)
@@ -172,6 +184,11 @@ UIUTILS_OPENAT(openat64)
 UIUTILS_INTERPOSE int mkdir(const char* path, mode_t mode) noexcept
 {
     return UIUTILS_UNLESS(isDead(path), mkdir, path, mode);
+}
+
+UIUTILS_INTERPOSE int mkdirat(int folder, const char* path, mode_t mode) noexcept
+{
+    return UIUTILS_UNLESS(isDead(folder, path), mkdirat, folder, path, mode);
 }
 
 UIUTILS_INTERPOSE int rename(const char* from, const char* to) noexcept
@@ -187,6 +204,11 @@ UIUTILS_INTERPOSE int renameat2(int folder, const char* from, int newFolder, con
 UIUTILS_INTERPOSE int unlink(const char* path) noexcept
 {
     return UIUTILS_UNLESS(isDead(path), unlink, path);
+}
+
+UIUTILS_INTERPOSE int unlinkat(int folder, const char* path, int flags) noexcept
+{
+    return UIUTILS_UNLESS(isDead(folder, path), unlinkat, folder, path, flags);
 }
 
 UIUTILS_INTERPOSE int rmdir(const char* path) noexcept

@@ -15,7 +15,7 @@ RENAMES = {"rename", "renameat", "renameat2"}
 REMOVALS = {"unlink", "unlinkat", "rmdir"}
 MAKERS = {"mkdir", "mkdirat"}
 # What a disk can die of: closing and locking need none.
-DEADLY = {"open", "openat", "write", "fsync", "mkdir", "rename", "renameat2", "unlink", "rmdir", "fchmod"}
+DEADLY = {"open", "openat", "write", "fsync", "mkdir", "mkdirat", "rename", "renameat2", "unlink", "unlinkat", "rmdir", "fchmod"}
 # A folder that cannot be listed cannot be emptied, and what lies there cannot be removed.
 TIDYING = REMOVALS | {"getdents64", "newfstatat", "statx", "stat", "lstat"}
 

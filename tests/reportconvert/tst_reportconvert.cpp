@@ -473,6 +473,19 @@ private Q_SLOTS:
                 trap.isEmpty() ? QStringList() : QStringList({"c.html", "report.html"}));
     }
 
+    /// The next run takes away what one left that could not do so itself.
+    void killed()
+    {
+        write(path("c.json"), smallDocument);
+        QProcess process;
+        prepare(process);
+        process.start(program, {"-f", "html", "-"});
+        QTRY_VERIFY(!snapshot(m_scratch->path()).isEmpty());
+        process.kill();
+        QVERIFY(process.waitForFinished() && !snapshot(m_scratch->path()).isEmpty());
+        QCOMPARE(run({"-f", "html", "c.json"}).exitCode, 0);
+    }
+
     void progressOnATerminalOnly()
     {
         write(path("a.json"), smallDocument);

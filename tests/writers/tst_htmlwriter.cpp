@@ -315,6 +315,23 @@ private Q_SLOTS:
     }
 
     /// Plots are numbered through the page, whatever their tables' keys, and tables of one service share a picture.
+    /// A table may claim many more columns than it fills, and have keys that are no rows.
+    void roomIsMadeForWhatIsThere()
+    {
+        ReportTemplate report;
+        report.beginReport("r");
+        report.beginTable("t", "T");
+        report.setKey("num_columns", 1000);
+        for (int i = 0; i < 2000; ++i)
+            report.addRow("t", "R", i, {});
+        for (int i = 0; i < 40'000; ++i)
+            report.setKey(QString::number(i), "x");
+        report.endTable();
+        report.endReport();
+        const QString html = pageOf(report);
+        QVERIFY2(html.capacity() < 3 * html.size(), qPrintable(QString::number(html.capacity())));
+    }
+
     void plotsOfAPage()
     {
         ReportTemplate report;

@@ -455,19 +455,51 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(name));
     }
 
-    /// With a password that is not asked for, too: what PoDoFo reads of such a file is not what stands there.
-    void encryptedFilesAreRefused()
+    /// Those that open without a password are read. They are not written: PoDoFo would add to their other texts.
+    void encryptedFiles_data()
     {
-        samples::print(path("plain.pdf"), 1);
-        for (const QString& password : {QString(), QString("user")}) {
-            samples::outputOf("qpdf",
-                    {"--encrypt", password, "owner", "256", "--", path("plain.pdf"), path("locked.pdf")});
-            QVERIFY(readFile(path("locked.pdf")).contains("/Encrypt"));
-            PDFFile file;
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<QStringList>("options");
+        QTest::newRow("40 bits") << "" << QStringList{"40", "--"};
+        QTest::newRow("128 bits") << "" << QStringList{"128", "--use-aes=n", "--"};
+        QTest::newRow("128 bits, blocks") << "" << QStringList{"128", "--use-aes=y", "--"};
+        QTest::newRow("256 bits") << "" << QStringList{"256", "--"};
+        QTest::newRow("256 bits, older") << "" << QStringList{"256", "--force-R5", "--"};
+        QTest::newRow("256 bits, packed") << "" << QStringList{"256", "--", "--object-streams=generate"};
+        QTest::newRow("with a password") << "user" << QStringList{"256", "--"};
+    }
+    void encryptedFiles()
+    {
+        QFETCH(QString, password);
+        QFETCH(QStringList, options);
+        // One text that fills blocks, one of two bytes a letter, one that stands elsewhere.
+        samples::Sketch sketch;
+        sketch.addPage().add("<</Title(Sixteen letters.)/Author<FEFF03BB>/Subject 5 0 R/Producer(P)>>");
+        sketch.add("(Referred)");
+        writeFile(path("open.pdf"), sketch.finished("/Info 4 0 R"));
+        const QString locked = path("locked.pdf");
+        samples::outputOf("qpdf", QStringList{"--allow-weak-crypto", "--encrypt", password, "owner"} + options
+                        + QStringList{path("open.pdf"), locked});
+        const QByteArray before = readFile(locked);
+        QVERIFY(before.contains("/Encrypt") && !before.contains("letters"));
+        PDFFile file;
+        if (!password.isEmpty())
             expectMessage(loadFailure);
-            file.setFilename(path("locked.pdf"));
-            QCOMPARE(file.getTitle(), QString());
+        file.setFilename(locked);
+        const QStringList texts{file.getTitle(), file.getAuthor(), file.getSubject(), file.getProducer()};
+        if (!password.isEmpty()) {
+            QCOMPARE(texts.join(QString()), QString());
+            return;
         }
+        QCOMPARE(texts, (QStringList{"Sixteen letters.", QString::fromUtf8("λ"), "Referred", "P"}));
+        file.setTitle("New");
+        QCOMPARE(file.getTitle(), QString("New"));
+        for (const QString& target : {QString(), path("copy.pdf")}) {
+            expectMessage("^Unable to write file: The file is encrypted");
+            file.write(target);
+        }
+        QCOMPARE(readFile(locked), before);
+        QVERIFY(!QFile::exists(path("copy.pdf")));
     }
 };
 

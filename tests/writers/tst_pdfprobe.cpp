@@ -9,7 +9,10 @@
 
 #include <cerrno>
 #include <csignal>
+#include <dlfcn.h>
 #include <random>
+#include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 
 using samples::Sketch;
@@ -63,7 +66,18 @@ void blockAll()
     ::sigprocmask(SIG_SETMASK, &all, nullptr);
 }
 
+bool noProcess = false;
+
 } // namespace
+
+/// Stands in for the system's own.
+extern "C" int posix_spawn(pid_t* pid, const char* path, const posix_spawn_file_actions_t* actions,
+        const posix_spawnattr_t* attributes, char* const arguments[], char* const environment[])
+{
+    return noProcess ? EAGAIN
+                     : reinterpret_cast<decltype(&posix_spawn)>(::dlsym(RTLD_NEXT, "posix_spawn"))(
+                             pid, path, actions, attributes, arguments, environment);
+}
 
 Q_DECLARE_METATYPE(SetUp)
 
@@ -282,6 +296,8 @@ private Q_SLOTS:
                 << QByteArray("printf S") << "The file cannot be read without harm";
         QTest::newRow("hangs") << QByteArray("printf S; exec sleep 1000")
                                << "Reading the file takes too long";
+        QTest::newRow("hangs when it has loaded") << QByteArray("printf 'S\\376'; exec sleep 1000")
+                                                 << "Reading the file takes too long";
         QTest::newRow("hangs at once") << QByteArray("exec sleep 1000") << "Reading the file takes too long";
         QTest::newRow("finds a fault") << QByteArray("printf 'S\\012'") << "Error 10";
     }
@@ -313,16 +329,44 @@ private Q_SLOTS:
         QVERIFY(!seen.contains("SECRET"));
     }
 
-    void withoutAHelperFilesPass()
+    void whereNoHelperWasInstalledFilesPass()
     {
         QTest::ignoreMessage(
                 QtWarningMsg, QRegularExpression("^PDF files are loaded without being tried out first"));
-        for (const QString& helper :
-                {QString(), path("absent"), m_folder.path(), script("broken", "exit 127")}) {
-            QString error;
-            QVERIFY(PdfProbe(helper, 1000).passes("%PDF-", &error));
-            QCOMPARE(error, QString());
+        QString error;
+        QVERIFY(PdfProbe(QString(), 1000).passes("%PDF-", &error));
+        QCOMPARE(error, QString());
+        for (const QString& helper : {path("absent"), m_folder.path(), script("broken", "exit 127")}) {
+            QVERIFY(!PdfProbe(helper, 1000).passes("%PDF-", &error));
+            QVERIFY2(error.startsWith("The file cannot be tried out first: "), qPrintable(error));
         }
+    }
+
+    /// Whoever can use up descriptors and processes must not get a file past the helper by that.
+    void withoutDescriptorsOrProcessesNoFilePasses()
+    {
+        rlimit before {};
+        QVERIFY(::getrlimit(RLIMIT_NOFILE, &before) == 0);
+        const int firstFree = ::dup(0);
+        ::close(firstFree);
+        const QByteArray good = samples::described("/Title(A)");
+        QString error;
+        const auto passesWith = [&](int free) {
+            const rlimit few {rlim_t(firstFree + free), before.rlim_max};
+            ::setrlimit(RLIMIT_NOFILE, &few);
+            const bool passes = PdfProbe(10'000).passes(good, &error);
+            ::setrlimit(RLIMIT_NOFILE, &before);
+            return passes;
+        };
+        int refused = 0;
+        for (; refused < 100 && !passesWith(refused); ++refused)
+            QVERIFY(!error.isEmpty());
+        QVERIFY2(refused >= 3 && refused < 100, qPrintable(QString::number(refused)));
+        noProcess = true;
+        const bool passes = PdfProbe(10'000).passes(good, &error);
+        noProcess = false;
+        QVERIFY(!passes);
+        QVERIFY2(error.contains(qt_error_string(EAGAIN)), qPrintable(error));
     }
 
     void whateverTheHostDoesWithChildren_data()

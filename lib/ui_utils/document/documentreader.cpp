@@ -82,6 +82,23 @@ QStringList TableReader::columnLabels() const
     return labels.toList();
 }
 
+TableReader::Extent TableReader::extent() const
+{
+    const auto isObject = [](const QJsonValue& value) { return value.isObject(); };
+    Extent extent;
+    for (auto it = m_node.begin(); it != m_node.end(); ++it) {
+        const QJsonValue value = it.value();
+        if (!value.isObject())
+            continue;
+        ++extent.rows;
+        const QJsonObject row = m_columnCount > 1 ? value.toObject() : QJsonObject();
+        extent.cells += m_columnCount > 1
+                ? std::min<qint64>(m_columnCount, std::count_if(row.begin(), row.end(), isObject))
+                : m_columnCount;
+    }
+    return extent;
+}
+
 const QString& TableReader::cellKey(int column)
 {
     // Shared for good: tables that claim a thousand columns and fill two are many times cheaper so.

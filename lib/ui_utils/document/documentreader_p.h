@@ -39,8 +39,6 @@ public:
     }
 
     QString text(QLatin1String key) const { return textOf(m_node.value(key)); }
-    /// How many keys the node has: at least as many as it has children.
-    int keyCount() const { return m_node.size(); }
     bool has(QLatin1String key) const { return m_node.contains(key); }
     QString tag() const { return text(keys::tag); }
     QString title() const { return text(keys::title); }
@@ -130,6 +128,15 @@ public:
 
     /// The key of the cell in that column.
     static const QString& cellKey(int column);
+
+    struct Extent
+    {
+        int rows = 0;
+        qint64 cells = 0;
+    };
+    /// How much there is to write, told quickly: no row and no cell that there is not, however many columns the table
+    /// claims and keys it has, but for objects under other keys.
+    Extent extent() const;
 
     /// Calls visit(QString key, QJsonObject row) for each row.
     template<typename Visitor> void forEachRow(Visitor visit) const { forEachChild(keys::rowFamily, visit); }

@@ -151,7 +151,7 @@ void TemplateToXmlWriter::rowsToXml(const TableReader& table, int level)
 {
     // As much as rows of one short cell take; what is not written to costs no memory.
     constexpr int charactersOfARow = 180;
-    uiutils::makeRoom(m_output, qint64(table.keyCount()) * charactersOfARow);
+    uiutils::makeRoom(m_output, qint64(table.extent().rows) * charactersOfARow);
     m_xml.setAutoFormatting(false);
     table.forEachRow([this, level](const QString&, const QJsonObject& row) { rowToXml(row, level); });
     m_xml.setAutoFormatting(true);

@@ -254,14 +254,14 @@ void HtmlStreamWriter::startTableRow()
     writeStartElement(words().tr);
 }
 
-void HtmlStreamWriter::expectRows(int rows)
+void HtmlStreamWriter::expectRows(int rows, qint64 cells)
 {
     // As much as rows of short texts take; what is not written to costs no memory.
     constexpr int charactersOfARow = 70;
     constexpr int charactersOfACell = 90;
     if (!m_keepsText)
         return;
-    uiutils::makeRoom(m_output, qint64(rows) * (charactersOfARow + m_columnCount * charactersOfACell));
+    uiutils::makeRoom(m_output, qint64(rows) * charactersOfARow + cells * charactersOfACell);
 }
 
 void HtmlStreamWriter::startRow()

@@ -47,8 +47,9 @@ public:
     /// Opens a table and its first row. `tableAttributes` may set "cellpadding" (5), "rules" (rows) and "frame" (box).
     void startTable(const QString& title, const QStringList& columnLabels, bool hasLabelColumn, int nestingLevel,
             const QVariantMap& tableAttributes = QVariantMap());
-    /// Says how many rows the open table is about to get, so that what is written need not be moved time and again.
-    void expectRows(int rows);
+    /// Says how many rows and cells the open table is about to get, so that what is written need not be moved time and
+    /// again.
+    void expectRows(int rows, qint64 cells);
     /// Opens a row unless one is open. A row that gets no cell leaves no trace.
     void startRow();
     /// Writes a row's label as its next cell.

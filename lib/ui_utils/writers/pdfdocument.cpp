@@ -1,5 +1,6 @@
 #include "writers/pdfdocument_p.h"
 
+#include "writers/pdfciphers_p.h"
 #include "writers/pdfprobeprotocol_p.h"
 
 #include <QBuffer>
@@ -10,8 +11,11 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <cstring>
 #include <ostream>
 #include <streambuf>
+#include <utility>
+#include <vector>
 
 namespace uiutils::pdf {
 
@@ -125,6 +129,42 @@ void forgetInvention(PoDoFo::PdfMemDocument& document)
     const QString producer = textOf(info->GetIndirectKey("Producer"));
     if (info->GetDictionary().GetKeys().size() == 2 && producer.startsWith(QLatin1String("PoDoFo")))
         info->GetDictionary().Clear();
+}
+
+/// Behind a text that was encrypted by blocks of 16 bytes, as many bytes of that value as fill the last one.
+int paddingOf(const QByteArray& bytes)
+{
+    const int padding = bytes.isEmpty() ? 0 : uchar(bytes.back());
+    const bool isPadded = padding >= 1 && padding <= 16 && bytes.endsWith(QByteArray(padding, char(padding)));
+    return isPadded ? padding : 0;
+}
+
+PoDoFo::PdfString withoutPadding(const PoDoFo::PdfString& string)
+{
+    QByteArray bytes(string.GetString(), int(string.GetLength()));
+    bytes.chop(paddingOf(bytes));
+    if (!string.IsUnicode())
+        return PoDoFo::PdfString(bytes.constData(), PoDoFo::pdf_long(bytes.size()));
+    QVarLengthArray<PoDoFo::pdf_utf16be, 256> units(bytes.size() / 2);
+    std::memcpy(units.data(), bytes.constData(), size_t(units.size()) * 2);
+    return PoDoFo::PdfString(units.constData(), PoDoFo::pdf_long(units.size()));
+}
+
+/// PoDoFo leaves it in the texts of files of 256 bits, and only there does a text end so. Those in objects that lie packed
+/// in a stream have none, and those objects no parser.
+void removePadding(PoDoFo::PdfMemDocument& document)
+{
+    PoDoFo::PdfObject* info = document.GetInfo()->GetObject();
+    std::vector<std::pair<PoDoFo::PdfName, PoDoFo::PdfString>> texts;
+    for (const auto& entry : info->GetDictionary().GetKeys()) {
+        const bool isElsewhere = entry.second->IsReference();
+        const PoDoFo::PdfObject* value = isElsewhere ? info->GetIndirectKey(entry.first) : entry.second;
+        const bool isText = value && (value->IsString() || value->IsHexString());
+        if (isText && dynamic_cast<const PoDoFo::PdfParserObject*>(isElsewhere ? value : info))
+            texts.emplace_back(entry.first, withoutPadding(value->GetString()));
+    }
+    for (const auto& [key, text] : texts)
+        info->GetDictionary().AddKey(key, text);
 }
 
 QByteArray tailOf(QIODevice& device)
@@ -243,6 +283,8 @@ std::unique_ptr<PoDoFo::PdfMemDocument> load(const QByteArray& contents, QString
 {
     prepare();
     std::unique_ptr<PoDoFo::PdfMemDocument> document;
+    if (contents.contains("/Encrypt"))
+        allowOldCiphers();
     const bool loaded = guarded(error, [&] {
         document = std::make_unique<PoDoFo::PdfMemDocument>();
         document->LoadFromBuffer(contents.constData(), contents.size());
@@ -250,17 +292,19 @@ std::unique_ptr<PoDoFo::PdfMemDocument> load(const QByteArray& contents, QString
     });
     if (!loaded)
         return nullptr;
-    // PoDoFo leaves the padding in encrypted texts and would write it back with them.
-    if (document->GetEncrypted()) {
-        fail(error, QT_TRANSLATE_NOOP("PdfDocument", "The file is encrypted"));
+    if (document->GetEncrypted() && !guarded(error, [&] { removePadding(*document); }))
         return nullptr;
-    }
     return document;
 }
 
 QByteArray save(PoDoFo::PdfMemDocument& document, QString* error)
 {
     QByteArray contents;
+    // The padding that PoDoFo leaves in its texts would be written with them.
+    if (document.GetEncrypted()) {
+        fail(error, QT_TRANSLATE_NOOP("PdfDocument", "The file is encrypted, and cannot be written so that it stays whole"));
+        return contents;
+    }
     const bool written = guarded(error, [&] {
         ArrayBuffer buffer(contents);
         std::ostream stream(&buffer);

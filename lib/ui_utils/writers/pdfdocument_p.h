@@ -43,10 +43,10 @@ PoDoFo::PdfString stringOf(const QString& text);
 QDateTime dateTime(const QString& text);
 
 /// The document that a file with these contents holds; null and `error` set when PoDoFo cannot read it or it
-/// is encrypted. It needs neither the file nor the bytes any more. Contents from outside have passed a
+/// asks for a password. It needs neither the file nor the bytes any more. Contents from outside have passed a
 /// PdfProbe before.
 std::unique_ptr<PoDoFo::PdfMemDocument> load(const QByteArray& contents, QString* error);
-/// The document as a file; empty and `error` set when it cannot be written, or not whole.
+/// The document as a file; empty and `error` set when it cannot be written, or not whole, as no encrypted one can.
 QByteArray save(PoDoFo::PdfMemDocument& document, QString* error);
 
 /// Whether a random-access device that is open for reading holds a PDF file to its end: the header, the end

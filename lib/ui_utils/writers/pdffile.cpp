@@ -6,6 +6,7 @@
 #include "writers/pdfprobe_p.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDebug>
 #include <QDir>
 #include <QFile>
@@ -56,24 +57,33 @@ QString refusalOf(const QString& path)
     return QString();
 }
 
-/// All that the file holds; nothing and `error` set when it cannot or must not be read.
-QByteArray read(const QString& path, QString* error)
+/// All that the file holds; nothing and `error` set when it cannot or must not be read, or not in the time.
+QByteArray read(const QString& path, const QDeadlineTimer& deadline, QString* error)
 {
+    constexpr int portion = 1024 * 1024;
     *error = refusalOf(path);
-    if (!error->isEmpty())
-        return QByteArray();
     QFile file(path);
-    if (file.open(QIODevice::ReadOnly))
-        return file.read(largestFile);
-    *error = file.errorString();
-    return QByteArray();
+    QByteArray contents;
+    if (!error->isEmpty())
+        return contents;
+    file.open(QIODevice::ReadOnly);
+    while (file.error() == QFileDevice::NoError && !file.atEnd() && contents.size() < largestFile
+            && !deadline.hasExpired())
+        contents += file.read(portion);
+    if (file.error() != QFileDevice::NoError)
+        *error = file.errorString();
+    else if (deadline.hasExpired())
+        *error = text(QT_TRANSLATE_NOOP("PDFFile", "Reading the file takes too long"));
+    return contents;
 }
 
 std::unique_ptr<PoDoFo::PdfMemDocument> loadUntrusted(const QString& path, QString* error)
 {
-    const QByteArray contents = read(path, error);
+    // Reading gets a third of it, so that what is read can be tried out and loaded.
+    const QDeadlineTimer deadline(uiutils::PdfProbe::patience);
+    const QByteArray contents = read(path, QDeadlineTimer(uiutils::PdfProbe::patience / 3), error);
     // The bytes that were tried out are the bytes that are loaded, whatever becomes of the file.
-    if (!error->isEmpty() || !uiutils::PdfProbe().passes(contents, error))
+    if (!error->isEmpty() || !uiutils::PdfProbe(int(deadline.remainingTime())).passes(contents, error))
         return nullptr;
     return pdf::load(contents, error);
 }

@@ -17,8 +17,9 @@ class PdfString;
 /// alone.
 ///
 /// Paths are the instrument's. What fails is said in the log. Files come from memory sticks, so each is tried
-/// out in a process of its own before it is loaded; what is no regular file, has more than 64 MiB, or is
-/// encrypted is not.
+/// out in a process of its own before it is loaded; what is no regular file, has more than 64 MiB, asks for a
+/// password, or takes too long for setFilename() to return within a second, is not. An encrypted file that opens
+/// without a password is read, and not written.
 class UIUTILS_EXPORT PDFFile : public QObject
 {
     Q_OBJECT

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 
@@ -98,8 +99,10 @@ public:
     Helper(const QString& program, int file)
     {
         int ends[2] = {-1, -1};
-        if (program.isEmpty() || ::pipe2(ends, O_CLOEXEC) != 0)
+        if (::pipe2(ends, O_CLOEXEC) != 0) {
+            m_error = errno;
             return;
+        }
         m_answer.reset(ends[0]);
         const Descriptor writing(ends[1]);
         m_started = spawn(QFile::encodeName(program), file, writing.value());
@@ -117,32 +120,47 @@ public:
 
     bool isStarted() const { return m_started; }
 
-    /// Up to two bytes: what it says before it ends or the time is up.
-    QByteArray answer(const QDeadlineTimer& deadline)
+    /// Why it was not started, as errno has it.
+    int error() const { return m_error; }
+
+    /// The result; -1 when it ended without one, or the time is up: it may take `patience` milliseconds in all, and has
+    /// to leave as many of them as it took to load the file, for that is to be loaded once more.
+    int result(int patience)
     {
-        QByteArray said;
-        while (said.size() < 2) {
-            pollfd ready {m_answer.value(), POLLIN, 0};
-            const int n = ::poll(&ready, 1, int(deadline.remainingTime()));
-            if (n < 0 && errno == EINTR)
-                continue;
-            if (n <= 0)
-                return said;
-            char byte = 0;
-            const ssize_t got = ::read(m_answer.value(), &byte, 1);
-            if (got < 0 && errno == EINTR)
-                continue;
-            if (got <= 0)
-                break;
-            said += byte;
+        QElapsedTimer clock;
+        clock.start();
+        int deadline = patience / 2;
+        int said = nextByte(QDeadlineTimer(deadline));
+        while (said == pdfprobe::started || said == pdfprobe::loaded) {
+            m_began = true;
+            if (said == pdfprobe::loaded)
+                deadline = patience - int(clock.elapsed());
+            said = nextByte(QDeadlineTimer(qMax<qint64>(0, deadline - clock.elapsed())));
         }
-        m_running = false;
         return said;
     }
 
+    bool hasBegun() const { return m_began; }
     bool isRunning() const { return m_running; }
 
 private:
+    int nextByte(const QDeadlineTimer& deadline)
+    {
+        unsigned char byte = 0;
+        ssize_t got = -1;
+        while (got < 0) {
+            pollfd ready {m_answer.value(), POLLIN, 0};
+            const int n = ::poll(&ready, 1, int(deadline.remainingTime()));
+            if (n == 0 || (n < 0 && errno != EINTR))
+                return -1;
+            got = n < 0 ? -1 : ::read(m_answer.value(), &byte, 1);
+            if (got < 0 && errno != EINTR)
+                return -1;
+        }
+        m_running = got > 0;
+        return got > 0 ? byte : -1;
+    }
+
     bool spawn(const QByteArray& program, int file, int answer)
     {
         posix_spawn_file_actions_t actions;
@@ -168,6 +186,7 @@ private:
         const int failure = ::posix_spawn(&m_pid, program.constData(), &actions, &attributes, arguments, environment);
         ::posix_spawnattr_destroy(&attributes);
         ::posix_spawn_file_actions_destroy(&actions);
+        m_error = failure;
         m_running = failure == 0;
         return failure == 0;
     }
@@ -175,14 +194,16 @@ private:
     Descriptor m_answer;
     pid_t m_pid = -1;
     bool m_started = false;
+    bool m_began = false;
     bool m_running = false;
+    int m_error = 0;
 };
 
-bool passesUnseen(const QString& helper)
+bool passesUnseen()
 {
-    static const bool told = [&helper] {
-        qWarning("PDF files are loaded without being tried out first: the helper program uiutils-pdf-probe %s",
-                helper.isEmpty() ? "is not where it was installed" : "cannot be started");
+    static const bool told = [] {
+        qWarning("PDF files are loaded without being tried out first: the helper program uiutils-pdf-probe is not "
+                 "installed");
         return true;
     }();
     return told;
@@ -193,10 +214,15 @@ QString text(const char* words)
     return QCoreApplication::translate("PdfProbe", words);
 }
 
+QString cannotTry(const QString& reason)
+{
+    return text(QT_TRANSLATE_NOOP("PdfProbe", "The file cannot be tried out first: %1")).arg(reason);
+}
+
 } // namespace
 
-PdfProbe::PdfProbe()
-    : m_helper(installedHelper())
+PdfProbe::PdfProbe(int patience)
+    : PdfProbe(installedHelper(), patience)
 {
 }
 
@@ -208,29 +234,31 @@ PdfProbe::PdfProbe(const QString& helper, int patience)
 
 bool PdfProbe::passes(const QByteArray& contents, QString* error) const
 {
+    if (m_helper.isEmpty() && !contents.isEmpty())
+        return passesUnseen();
+    *error = problemOf(contents);
+    return error->isEmpty();
+}
+
+/// No answer is no good answer: what it was that hindered one may have been brought about.
+QString PdfProbe::problemOf(const QByteArray& contents) const
+{
+    if (contents.isEmpty())
+        return text(QT_TRANSLATE_NOOP("PdfProbe", "The file is empty"));
     Descriptor file;
-    if (contents.isEmpty() || !fill(file, contents)) {
-        *error = contents.isEmpty() ? text(QT_TRANSLATE_NOOP("PdfProbe", "The file is empty"))
-                                    : text(QT_TRANSLATE_NOOP("PdfProbe", "There is no memory to try the file out"));
-        return false;
-    }
+    if (!fill(file, contents))
+        return cannotTry(qt_error_string(errno));
     Helper helper(m_helper, file.value());
     if (!helper.isStarted())
-        return passesUnseen(m_helper);
-    const int patience
-            = m_patience > 0 ? m_patience : 2000 * int(pdfprobe::processorSeconds(std::uint64_t(contents.size())));
-    const QByteArray answer = helper.answer(QDeadlineTimer(patience));
-    if (answer.isEmpty() && !helper.isRunning())
-        return passesUnseen(m_helper);
-    if (answer.size() < 2) {
-        *error = helper.isRunning() ? text(QT_TRANSLATE_NOOP("PdfProbe", "Reading the file takes too long"))
-                                    : text(QT_TRANSLATE_NOOP("PdfProbe", "The file cannot be read without harm"));
-        return false;
-    }
-    const auto result = static_cast<unsigned char>(answer.at(1));
-    if (result != pdfprobe::harmless)
-        *error = pdf::errorText(result);
-    return result == pdfprobe::harmless;
+        return cannotTry(qt_error_string(helper.error()));
+    const int result = helper.result(m_patience);
+    if (result >= 0)
+        return result == pdfprobe::harmless ? QString() : pdf::errorText(result);
+    if (helper.isRunning())
+        return text(QT_TRANSLATE_NOOP("PdfProbe", "Reading the file takes too long"));
+    return helper.hasBegun()
+            ? text(QT_TRANSLATE_NOOP("PdfProbe", "The file cannot be read without harm"))
+            : cannotTry(m_helper + text(QT_TRANSLATE_NOOP("PdfProbe", " gives no answer")));
 }
 
 } // namespace uiutils

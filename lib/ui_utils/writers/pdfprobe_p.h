@@ -13,18 +13,24 @@ namespace uiutils {
 class PdfProbe
 {
 public:
-    /// The helper that was installed or built with this library, and all the time that it may take.
-    PdfProbe();
-    /// Another helper, by its path on disk, and the milliseconds after which it is ended.
+    /// The milliseconds that trying a file out and loading it afterwards may take together.
+    static constexpr int patience = 900;
+
+    /// The helper that was installed or built with this library.
+    explicit PdfProbe(int patience = PdfProbe::patience);
+    /// Another helper, by its path on disk.
     PdfProbe(const QString& helper, int patience);
 
-    /// Whether a file of these contents can be loaded and written. When it cannot, `error` says why. Without
-    /// a helper that can be started, every file passes, and the log says once that it does.
+    /// Whether a file of these contents can be loaded and written, and loaded within the patience that is left then.
+    /// When it cannot, or the helper gives no answer, `error` says why. Where no helper was installed, every file
+    /// passes, and the log says once that it does.
     bool passes(const QByteArray& contents, QString* error) const;
 
 private:
+    QString problemOf(const QByteArray& contents) const;
+
     QString m_helper;
-    int m_patience = 0;
+    int m_patience;
 };
 
 } // namespace uiutils

@@ -339,7 +339,8 @@ void TemplateToHtmlWriter::tableToHtml(const TableReader& table)
 
     const bool hasLabels = table.usesRowLabels();
     m_html->startTable(table.title(), table.columnLabels(), hasLabels, m_depth, attributes);
-    m_html->expectRows(table.keyCount());
+    const TableReader::Extent extent = table.extent();
+    m_html->expectRows(extent.rows, extent.cells);
     table.forEachRow([&](const QString& key, const QJsonObject& row) {
         if (key.startsWith(keys::rowFamily))
             rowToHtml(table, hasLabels, row);

@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
 QString tr(const char* text)
@@ -19,6 +21,12 @@ QString textPosition(const QByteArray& text, int offset)
     const int line = before.count('\n') + 1;
     const int column = QString::fromUtf8(before.mid(lineStart)).size() + 1;
     return QStringLiteral("%1:%2").arg(line).arg(column);
+}
+
+/// At least as many as there are: a text may hold brackets too.
+int containersIn(const QByteArray& text)
+{
+    return int(std::count_if(text.begin(), text.end(), [](char c) { return c == '{' || c == '['; }));
 }
 
 } // namespace
@@ -42,6 +50,10 @@ bool PlovJsonDocument::readFile(const QString& path)
     const QByteArray text = file.read(qMin(file.size() + 1, maximumFileSize));
     if (file.error() != QFileDevice::NoError)
         return fail(tr("%1: cannot be read: %2").arg(path, file.errorString()));
+
+    if (containersIn(text) > maximumContainers)
+        return fail(tr("%1: holds more than the %2 objects and lists that a document may have")
+                            .arg(path, QString::number(maximumContainers)));
 
     QJsonParseError parseError {};
     const QJsonDocument document = QJsonDocument::fromJson(text, &parseError);

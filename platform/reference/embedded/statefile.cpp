@@ -1,5 +1,7 @@
 #include "statefile_p.h"
 
+#include "base/durablefile.h"
+
 #include <kiv/plovjsondocument.h>
 
 #include <QCoreApplication>
@@ -9,12 +11,8 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSaveFile>
 
-#include <cerrno>
 #include <cmath>
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace kiv::embedded {
 
@@ -39,25 +37,6 @@ QByteArray beginning(const QByteArray& utf8, int bytes)
     while (bytes > 0 && (static_cast<unsigned char>(utf8.at(bytes)) & 0xc0) == 0x80)
         --bytes;
     return utf8.left(bytes);
-}
-
-bool sync(int fd)
-{
-    int result = 0;
-    do {
-        result = ::fsync(fd);
-    } while (result != 0 && errno == EINTR);
-    return result == 0;
-}
-
-/// Makes the rename survive a power cut. The file is whole under its name either way.
-void syncFolder(const QString& folder)
-{
-    const int fd = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0)
-        return;
-    sync(fd);
-    ::close(fd);
 }
 
 QString freeDamagedName(const QString& path)
@@ -163,21 +142,13 @@ bool writeStateFile(const QString& path, const QString& service, const QJsonObje
         *error = tr("The settings of %1 could not be kept in %2: %3.").arg(service, path, reason);
         return false;
     };
-    const QString folder = QFileInfo(path).path();
-    if (!QDir().mkpath(folder))
+    if (!uiutils::makeFolderDurably(QFileInfo(path).path()))
         return failed(tr("the folder cannot be made"));
     const QByteArray text
             = QJsonDocument(QJsonObject {{QStringLiteral("service"), service}, {QStringLiteral("values"), values}})
                       .toJson();
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush())
-        return failed(file.errorString());
-    if (!sync(file.handle()))
-        return failed(qt_error_string(errno));
-    if (!file.commit())
-        return failed(file.errorString());
-    syncFolder(folder);
-    return true;
+    QString reason;
+    return uiutils::writeFileDurably(path, text, &reason) || failed(reason);
 }
 
 } // namespace kiv::embedded
