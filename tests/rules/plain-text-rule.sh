@@ -5,8 +5,8 @@
 set -euo pipefail
 cd "$1"
 
-mapfile -d '' -t files < <(find apps qml docs -name '*.qml' -print0)
-((${#files[@]} > 0))
+mapfile -t files <<<"$(find apps qml docs -name '*.qml')"
+test -e "${files[0]}"
 awk '
 function complain(what) {
     printf "%s:%d: %s\n", FILENAME, line[depth], what
