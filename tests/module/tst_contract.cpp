@@ -153,7 +153,8 @@ Face face(const QVector<Operation>& operations = {}, const QStringList& constant
     if constexpr (std::is_void_v<Base>)
         return {&Class::staticMetaObject, make<Class>, operations, constants, 0, 0};
     else
-        return {&Class::staticMetaObject, make<Class>, operations, constants, placeOf(&Next<Base>::next), placeOf(&Next<Class>::next)};
+        return {&Class::staticMetaObject, make<Class>, operations, constants, placeOf(&Next<Base>::next),
+                placeOf(&Next<Class>::next)};
 }
 
 const QVector<Face>& faces()

@@ -63,7 +63,7 @@ private Q_SLOTS:
             const QString lines = table.readAll();
             const bool isMade = !text.contains("isCreatable: false") && !text.contains("isSingleton: true");
             QVERIFY2(lines.contains(", made by pages\n") == isMade, qPrintable(name));
-            QRegularExpressionMatchIterator members = QRegularExpression("^(?:enum|(?:method|property|signal|slot) \\S+) (\\w+)(\\(\\))?",
+            auto members = QRegularExpression("^(?:enum|(?:method|property|signal|slot) \\S+) (\\w+)(\\(\\))?",
                     QRegularExpression::MultilineOption).globalMatch(lines);
             while (members.hasNext()) {
                 const QStringList found = members.next().capturedTexts();
