@@ -517,8 +517,14 @@ private Q_SLOTS:
         m_window->resize(size);
         if (state == "failed")
             failToMeasure();
-        else if (state != "idle")
+        else if (state != "idle") {
             measure();
+            // As wide as they come, whatever this machine measures under its load of the moment.
+            for (const double factor : {1.0, 1.5}) {
+                m_measurement->roundTrip()->append(6789 * factor);
+                m_measurement->throughput()->append((state == "marginal" ? 65432 : 123456) * factor);
+            }
+        }
         if (state == "marginal") {
             for (SampleModel* quantity : {m_measurement->roundTrip(), m_measurement->throughput()})
                 quantity->setLimit(quantity->median());
@@ -560,7 +566,7 @@ private:
         m_report = m_window->property("report").value<LoopbackReport*>();
         QVERIFY(m_report);
         m_window->requestActivate();
-        QVERIFY(QTest::qWaitForWindowActive(m_window));
+        QVERIFY(QTest::qWaitForWindowActive(m_window, longWait));
     }
 
     void endProgram()
@@ -704,7 +710,7 @@ private:
     {
         QSignalSpy drawn(m_window, &QQuickWindow::frameSwapped);
         m_window->update();
-        QVERIFY(drawn.wait());
+        QVERIFY(drawn.wait(longWait));
     }
 
     void checkFits(const QQuickItem* text)

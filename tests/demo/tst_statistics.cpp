@@ -50,12 +50,10 @@ private Q_SLOTS:
         const auto row = [](const char* name, Limit::Kind kind, double value, Status status) {
             QTest::newRow(name) << int(kind) << value << int(status);
         };
-        row("well below a ceiling", Limit::AtMost, 1, StatusPass);
         row("a fifth below a ceiling", Limit::AtMost, 80, StatusPass);
         row("just below a ceiling", Limit::AtMost, 80.1, StatusMarginal);
         row("on a ceiling", Limit::AtMost, 100, StatusMarginal);
         row("above a ceiling", Limit::AtMost, 100.1, StatusFail);
-        row("well above a floor", Limit::AtLeast, 1000, StatusPass);
         row("a fifth above a floor", Limit::AtLeast, 120, StatusPass);
         row("just above a floor", Limit::AtLeast, 119.9, StatusMarginal);
         row("on a floor", Limit::AtLeast, 100, StatusMarginal);

@@ -21,9 +21,11 @@ Item {
     Column {
         id: axis
         anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
-        width: 56
+        // The end of the scale is what was measured: 100,000 Mbit/s and more are no wonder on a loopback.
+        width: Math.max(56, endText.implicitWidth + 6)
 
         Text {
+            id: endText
             width: parent.width - 6
             horizontalAlignment: Text.AlignRight
             text: chart.quantity.count > 0 ? chart.quantity.numberText(chart.scaleEnd) : ""
