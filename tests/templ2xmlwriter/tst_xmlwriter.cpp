@@ -271,14 +271,22 @@ private Q_SLOTS:
         QVERIFY(!xml.contains("No tag here"));
     }
 
-    void withoutGenerateTheRootStaysOpen()
+    /// Who chooses the parts gets what the whole pass writes, once.
+    void withoutGenerateTheCallerWritesTheParts()
     {
         ReportTemplate report;
         readDocument(report, "twelve-rows");
-        const QString xml = TemplateToXmlWriter(report, false, false, false).getXml();
-        QVERIFY(xml.contains("<rows"));
-        QVERIFY(!xml.contains("section"));
-        QVERIFY(!xml.contains("loss"));
+        TemplateToXmlWriter writer(report, false, true, false);
+        QCOMPARE(writer.getXml(), QString("<?xml version=\"1.0\"?>\n<rows"));
+        QJsonObject root = report.object();
+        writer.tablesToXml(root);
+        writer.sectionsToXml(root);
+        writer.writeVersions();
+        writer.insertCustomFields();
+        QCOMPARE(writer.getXml() + "\n</rows>\n", TemplateToXmlWriter(report, false, true, true).getXml());
+        writer.writeTechInfo();
+        writer.writeCustomerInfo();
+        QCOMPARE(writer.getXml().count("<TechnicianInformation>") + writer.getXml().count("<CustomerInformation>"), 4);
     }
 
     void withoutAPlatform()
@@ -329,6 +337,7 @@ private Q_SLOTS:
     {
         ReportTemplate report;
         report.beginReport("r");
+        report.addAttribute("a", "the root has none");
         report.beginSection("s", "");
         report.addAttribute("a b", "1");
         report.addAttribute("a:b", "2");
@@ -336,7 +345,8 @@ private Q_SLOTS:
         report.endSection();
         report.endReport();
         const QString xml = TemplateToXmlWriter(report, true, false, true).getXml();
-        QVERIFY2(xml.contains("<s _=\"3\" a_b=\"1\"/>"), qPrintable(xml));
+        QVERIFY2(xml.contains("\n    <s _=\"3\" a_b=\"1\"/>\n"), qPrintable(xml));
+        QVERIFY(xml.startsWith("<?xml version=\"1.0\"?>\n<r>\n\n    <TechnicianInformation>\n        <"));
     }
 
     /// Whatever a document holds, two readers that know nothing of the writer accept the text.

@@ -296,7 +296,7 @@ void TemplateToHtmlWriter::writeHardwareTable()
 void TemplateToHtmlWriter::sectionsToHtml(const QJsonObject& node)
 {
     ++m_depth;
-    NodeReader(node).forEachSection([this](const QJsonObject& section) { sectionToHtml(section); });
+    NodeReader(node).forEachSection(NodeReader::ByKey, [this](const QJsonObject& section) { sectionToHtml(section); });
     --m_depth;
 }
 
@@ -323,7 +323,7 @@ void TemplateToHtmlWriter::writeConfigurationValues(const NodeReader& section)
 
 void TemplateToHtmlWriter::tablesToHtml(const QJsonObject& node)
 {
-    NodeReader(node).forEachTable([this](const QString&, const QJsonObject& object) {
+    NodeReader(node).forEachTable(NodeReader::ByKey, [this](const QString&, const QJsonObject& object) {
         const TableReader table(object);
         if (table.isPlot())
             plotToHtml(table.text(keys::service));
@@ -340,7 +340,7 @@ void TemplateToHtmlWriter::tableToHtml(const TableReader& table)
     const bool hasLabels = table.usesRowLabels();
     m_html->startTable(table.title(), table.columnLabels(), hasLabels, m_depth, attributes);
     m_html->expectRows(table.keyCount());
-    table.forEachRow([&](const QString& key, const QJsonObject& row) {
+    table.forEachRow(NodeReader::ByKey, [&](const QString& key, const QJsonObject& row) {
         if (key.startsWith(keys::rowFamily))
             rowToHtml(table, hasLabels, row);
     });
