@@ -20,7 +20,7 @@ bool belongsToInstrument(const QString& path)
 
 } // namespace
 
-QString paths::plotImage(int number)
+QString paths::plotImage(quint64 number)
 {
     return plotImageStem + QString::number(number) + QLatin1String(".png");
 }
