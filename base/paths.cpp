@@ -53,7 +53,7 @@ QString rootProblem()
             .arg(QString::fromLatin1(QTextCodec::codecForLocale()->name()));
 }
 
-QString paths::plotImage(int number)
+QString paths::plotImage(quint64 number)
 {
     return plotImageStem + QString::number(number) + QLatin1String(".png");
 }

@@ -34,7 +34,7 @@ inline const QLatin1String serviceSettings("/cust/private/lastconfigs/services/"
 inline const QLatin1String plotImageStem("/tmp/rep_plot_");
 
 /// The temporary image of the plot with that number.
-QString plotImage(int number);
+QString plotImage(quint64 number);
 
 } // namespace uiutils::paths
 

@@ -52,9 +52,9 @@ int leavesOf(const QJsonObject& node)
 {
     using namespace uiutils;
     int size = 0;
-    NodeReader(node).forEachTable([&](const QString&, const QJsonObject& object) {
+    NodeReader(node).forEachTable(NodeReader::ByNumber, [&](const QString&, const QJsonObject& object) {
         const TableReader table(object);
-        table.forEachRow([&](const QString&, const QJsonObject& row) {
+        table.forEachRow(NodeReader::ByNumber, [&](const QString&, const QJsonObject& row) {
             size += textOf(row.value(keys::label)).size();
             table.forEachCellOf(row, [&](int, const QJsonObject& cell) {
                 size += textOf(cell.value(keys::label)).size() + textOf(cell.value(keys::statusAttribute)).size()
@@ -62,7 +62,7 @@ int leavesOf(const QJsonObject& node)
             });
         });
     });
-    NodeReader(node).forEachSection([&](const QJsonObject& section) { size += leavesOf(section); });
+    NodeReader(node).forEachSection(NodeReader::ByNumber, [&](const QJsonObject& section) { size += leavesOf(section); });
     return size;
 }
 

@@ -19,19 +19,21 @@ class DocumentReaderTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void childrenComeInStringOrder()
+    void childrenComeInOrder()
     {
         const QJsonObject node = json(R"({
             "table_2": {"tag": "2"}, "table_10": {"tag": "10"}, "table_1": {"tag": "1"}, "my_table_": {"tag": "my"},
             "table_3": "no object", "attr_table_": "neither", "section_1": {"tag": "s1"}, "section_0": {"tag": "s0"}
         })");
         QStringList seen;
-        NodeReader(node).forEachTable([&](const QString& key, const QJsonObject& table) {
-            seen += key + "=" + NodeReader(table).tag();
-        });
+        const auto see = [&](const QString& key, const QJsonObject& table) { seen += key + "=" + NodeReader(table).tag(); };
+        NodeReader(node).forEachTable(NodeReader::ByKey, see);
         QCOMPARE(seen, (QStringList {"my_table_=my", "table_1=1", "table_10=10", "table_2=2"}));
         seen.clear();
-        NodeReader(node).forEachSection([&](const QJsonObject& section) { seen += NodeReader(section).tag(); });
+        NodeReader(node).forEachTable(NodeReader::ByNumber, see);
+        QCOMPARE(seen, (QStringList {"table_1=1", "table_2=2", "table_10=10", "my_table_=my"}));
+        seen.clear();
+        NodeReader(node).forEachSection(NodeReader::ByKey, [&](const QJsonObject& s) { seen += NodeReader(s).tag(); });
         QCOMPARE(seen, (QStringList {"s0", "s1"}));
     }
 
@@ -51,9 +53,9 @@ private Q_SLOTS:
         QFETCH(QString, family);
         const TableReader node(QJsonObject {{key, QJsonObject()}});
         QStringList seen;
-        node.forEachSection([&](const QJsonObject&) { seen += "section"; });
-        node.forEachTable([&](const QString&, const QJsonObject&) { seen += "table"; });
-        node.forEachRow([&](const QString&, const QJsonObject&) { seen += "row"; });
+        node.forEachSection(NodeReader::ByKey, [&](const QJsonObject&) { seen += "section"; });
+        node.forEachTable(NodeReader::ByKey, [&](const QString&, const QJsonObject&) { seen += "table"; });
+        node.forEachRow(NodeReader::ByKey, [&](const QString&, const QJsonObject&) { seen += "row"; });
         QCOMPARE(seen.join(' '), family);
     }
 

@@ -554,16 +554,6 @@ private Q_SLOTS:
         QCOMPARE(complete("reportconvert -o a.").value(0), QString("a.txt"));
     }
 
-    void manual()
-    {
-        const QString page = UIUTILS_CONVERT_MANUAL;
-        if (page.isEmpty())
-            QSKIP("help2man is not installed");
-        const QByteArray text = contentsOf(page);
-        for (const char* part : {".SH SYNOPSIS", ".SH OPTIONS", "\\-\\-services", ".SH EXAMPLES", "128+N"})
-            QVERIFY2(text.contains(part), part);
-    }
-
 private:
     QString path(const QString& name) const { return m_folder->filePath(name); }
     static QString completionScript()

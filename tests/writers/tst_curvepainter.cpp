@@ -1,4 +1,3 @@
-#include "writers/curveink_p.h"
 #include "writers/curvepainter_p.h"
 #include "writers/plotlegend_p.h"
 
@@ -81,33 +80,6 @@ class CurvePainterTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void inkKeepsWhatIsApart()
-    {
-        CurveInk ink(QSize(200, 150));
-        // From right to left and upwards, across the border of the words that hold a column.
-        ink.mark({150.5, 20.5}, {50.5, 120.5});
-        ink.mark({100.5, 140.5}, {100.5, 130.2});
-        QCOMPARE(ink.lines(0).size(), 102);
-        for (const QLineF& line : ink.lines(0)) {
-            if (line.y1() > 129)
-                QCOMPARE(line, QLineF(100.5, 130.25, 100.5, 140.75));
-            else
-                QVERIFY2(qAbs(line.center().y() + line.x1() - 171) <= 1, qPrintable(QString::number(line.x1())));
-        }
-        // Between row 71 and row 130 there is room for 58.
-        QCOMPARE(ink.lines(57).size(), 102);
-        QCOMPARE(ink.lines(60).size(), 101);
-        QVERIFY(CurveInk(QSize(5, 5)).lines(0).isEmpty());
-    }
-
-    void inkOutsideCountsForTheEdge()
-    {
-        CurveInk ink(QSize(10, 64));
-        ink.mark({-1e9, -1e9}, {-1, 1e9});
-        ink.mark({1e9, 1e300}, {20, 70});
-        QCOMPARE(ink.lines(0), (QVector<QLineF> {{0.5, 0.25, 0.5, 63.75}, {9.5, 63.25, 9.5, 63.75}}));
-    }
-
     /// However many lines there are, the picture is the one that drawing each by itself would give.
     void lines_data()
     {

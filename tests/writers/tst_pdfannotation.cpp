@@ -27,13 +27,11 @@ public:
         if (!m_document)
             qFatal("%s", qPrintable(error));
         const PdfObject* outline = m_document->GetCatalog()->GetIndirectKey("Outlines");
-        m_total = outline ? outline->GetDictionary().GetKeyAsLong("Count") : 0;
         if (outline)
             walk(*outline, 0);
     }
 
     QStringList lines() const { return m_lines; }
-    int total() const { return int(m_total); }
     /// Links that do not lead back to where they came from, and wrong numbers of children.
     int faults() const { return m_faults; }
 
@@ -70,7 +68,6 @@ private:
 
     std::unique_ptr<PoDoFo::PdfMemDocument> m_document;
     QStringList m_lines;
-    PoDoFo::pdf_int64 m_total = 0;
     int m_faults = 0;
 };
 
@@ -111,10 +108,6 @@ private Q_SLOTS:
         QTest::newRow("off the pages")
                 << QVector<OutlineEntry>{{"a", 0, -1, -5}, {"b", 0, 7, 1e9}, {"c", 0, 0, std::nan("")}}
                 << QStringList{"a @1 XYZ 100", "b @2 XYZ 20", "c @1 XYZ 100"};
-        QTest::newRow("levels") << QVector<OutlineEntry>{{"a", 0, 0, 0}, {"b", 1, 0, 0}, {"c", 2, 0, 0},
-                {"d", 1, 0, 0}, {"e", 0, 0, 0}}
-                                << QStringList{"a @1 XYZ 100", "  b @1 XYZ 100", "    c @1 XYZ 100",
-                                           "  d @1 XYZ 100", "e @1 XYZ 100"};
         QTest::newRow("jumps") << QVector<OutlineEntry>{{"a", 3, 0, 0}, {"b", 5, 0, 0}, {"c", 5, 0, 0},
                 {"d", -2, 0, 0}}
                                << QStringList{"a @1 XYZ 100", "  b @1 XYZ 100", "    c @1 XYZ 100",
@@ -138,40 +131,6 @@ private Q_SLOTS:
         QCOMPARE(outline.faults(), 0);
         samples::writeFile(path("outlined.pdf"), contents);
         QCOMPARE(samples::faultsOf(path("outlined.pdf")), QString());
-    }
-
-    void printedPages()
-    {
-        samples::print(path("printed.pdf"), 3);
-        Annotation annotation{QString::fromUtf8("Größe λ"), QString(), "Fiber", "Norda",
-                {{"First", 0, 0, 0}, {"Third", 0, 2, 100}}};
-        QString error;
-        samples::writeFile(path("done.pdf"), annotated(path("printed.pdf"), annotation, &error));
-        QCOMPARE(error, QString());
-        QCOMPARE(samples::faultsOf(path("done.pdf")), QString());
-        const QString info = samples::outputOf("pdfinfo", {"-enc", "UTF-8", path("done.pdf")});
-        for (const QString& line : {QString::fromUtf8("Title: +Größe λ"), QString("Subject: +Fiber"),
-                     QString("Producer: +Norda"), QString("Pages: +3")})
-            QVERIFY2(info.contains(QRegularExpression("(?m)^" + line + "$")), qPrintable(info));
-        QVERIFY(!info.contains("Author"));
-        QVERIFY(samples::outputOf("pdftotext", {path("done.pdf"), "-"}).contains("Page 2, line 39"));
-        const QByteArray contents = samples::readFile(path("done.pdf"));
-        QCOMPARE(OutlineText(contents).lines().size(), 2);
-        // Doing it again replaces the outline.
-        annotation.outline = {{"Only", 0, 1, 0}};
-        QCOMPARE(OutlineText(annotated(path("done.pdf"), annotation, &error)).lines().size(), 1);
-    }
-
-    void manyEntriesNestRight()
-    {
-        Annotation annotation;
-        for (int i = 0; i < 10'000; ++i)
-            annotation.outline += OutlineEntry{QString::number(i), i % 10 == 0 ? 0 : 1, 0, 0};
-        QString error;
-        const OutlineText outline(annotated(twoPages(), annotation, &error));
-        QCOMPARE(outline.lines().size(), 10'000);
-        QCOMPARE(outline.total(), 1'000);
-        QCOMPARE(outline.faults(), 0);
     }
 
     void tornFilesAreNotWhole_data()

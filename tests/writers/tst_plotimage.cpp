@@ -105,19 +105,6 @@ private Q_SLOTS:
         QVERIFY2(isNear(drawn, extent), qPrintable(difference));
     }
 
-    void aPlantedLinkIsNotFollowed()
-    {
-        QFile victim(m_root.filePath("victim"));
-        QVERIFY(victim.open(QIODevice::WriteOnly) && victim.write("untouched") > 0);
-        victim.close();
-        QVERIFY(QFile::link(victim.fileName(), m_root.filePath("tmp/rep_plot_7.png")));
-        PlotImage plot;
-        QVERIFY(plot.write("/tmp/rep_plot_7.png"));
-        QVERIFY(victim.open(QIODevice::ReadOnly));
-        QCOMPARE(victim.readAll(), QByteArray("untouched"));
-        QVERIFY(!QFileInfo(m_root.filePath("tmp/rep_plot_7.png")).isSymLink());
-    }
-
     /// Curves of one service share the picture; what the service says about scale and limits moves the curve.
     void severalCurvesScalesAndLimits()
     {

@@ -71,11 +71,8 @@ private Q_SLOTS:
         QTest::newRow("within the data") << V {3, 97} << linear << data << 6 << QStringList {"20", "40", "60", "80"};
         QTest::newRow("both signs") << V {-19.9, 5.2} << linear << ticks << 7
                                     << QStringList {"-20", "-15", "-10", "-5", "0", "5", "10"};
-        QTest::newRow("fractions") << V {0.12, 0.17} << linear << ticks << 6
-                                   << QStringList {"0.12", "0.13", "0.14", "0.15", "0.16", "0.17"};
         QTest::newRow("thousands") << V {21141, 43281} << linear << ticks << 4
                                    << QStringList {"20,000", "30,000", "40,000", "50,000"};
-        QTest::newRow("large") << V {0, 4e9} << linear << ticks << 3 << QStringList {"0", "2e+09", "4e+09"};
         QTest::newRow("small") << V {0, 4e-8} << linear << ticks << 3 << QStringList {"0", "2e-08", "4e-08"};
         QTest::newRow("no data") << V {} << linear << ticks << 3 << QStringList {"0.0", "0.5", "1.0"};
         QTest::newRow("nothing finite") << V {qQNaN(), qInf(), -qInf()} << linear << ticks << 3
@@ -87,11 +84,7 @@ private Q_SLOTS:
         QTest::newRow("plain up to a million") << V {0.001, 1e6} << log << ticks << 10
                                                << QStringList {"0.001", "0.01", "0.1", "1", "10", "100", "1,000",
                                                           "10,000", "100,000", "1,000,000"};
-        QTest::newRow("none plain beyond") << V {1e5, 1e7} << log << ticks << 6
-                                           << QStringList {"1e+05", "1e+06", "1e+07"};
         QTest::newRow("too many round ones") << V {1.5, 14} << log << ticks << 4 << QStringList {"1", "10", "100"};
-        QTest::newRow("decades within the data") << V {0.002, 35} << log << data << 6
-                                                 << QStringList {"0.01", "0.1", "1", "10"};
         QTest::newRow("round ones within the data") << V {0.9, 22} << log << data << 6
                                                     << QStringList {"1", "2", "5", "10", "20"};
         QTest::newRow("between two round ones") << V {2.1, 4.9} << log << data << 6
@@ -196,12 +189,6 @@ private Q_SLOTS:
         QVERIFY(stretchesOf(oneCurve({}), 100).isEmpty());
     }
 
-    void backAndForthKeepsItsOrder()
-    {
-        const auto stretches = stretchesOf(oneCurve({{0, 0}, {10, 1}, {0, 2}, {10, 3}}), 10);
-        QCOMPARE(stretches.first().size(), 4);
-        QCOMPARE(stretches.first().at(2).x(), 0.0);
-    }
 };
 
 QTEST_GUILESS_MAIN(PlotScaleTest)

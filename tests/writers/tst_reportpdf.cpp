@@ -1,7 +1,7 @@
 #include "filesizelimit.h"
 
-#include "base/paths.h"
 #include "document/reporttemplate.h"
+#include "report/report.h"
 #include "writers/reportheader.h"
 #include "writers/reportimage.h"
 #include "writers/reportpdf.h"
@@ -22,6 +22,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QXmlStreamReader>
 
 #include <memory>
 
@@ -46,6 +47,93 @@ QStringList pagesOf(const QString& path)
     QStringList pages = output("pdftotext", {"-raw", path, "-"}).split('\f');
     pages.removeLast();
     return pages;
+}
+
+/// A page of a file as one sees it: words and pixels by place, in points.
+struct Sheet
+{
+    QSizeF size;
+    QVector<QPair<QString, QRectF>> words;
+    QImage picture;
+
+    QRectF at(const QString& word) const
+    {
+        const auto is = [&](const QPair<QString, QRectF>& entry) { return entry.first == word; };
+        const auto found = std::find_if(words.cbegin(), words.cend(), is);
+        return found == words.cend() ? QRectF() : found->second;
+    }
+    bool has(const QString& word) const { return !at(word).isNull(); }
+    /// Where pixels of about that colour are, not further than `within`.
+    QRectF colored(QColor color, const QRectF& within) const
+    {
+        QRect found;
+        const qreal scale = picture.width() / size.width();
+        const QRect part = QRectF(within.topLeft() * scale, within.size() * scale).toRect() & picture.rect();
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            for (int x = part.left(); x <= part.right(); ++x) {
+                const QColor c = picture.pixelColor(x, y);
+                if (qAbs(c.red() - color.red()) + qAbs(c.green() - color.green()) + qAbs(c.blue() - color.blue()) < 90)
+                    found |= QRect(x, y, 1, 1);
+            }
+        }
+        return {QPointF(found.topLeft()) / scale, QSizeF(found.size()) / scale};
+    }
+};
+
+QVector<Sheet> sheetsOf(const QString& path)
+{
+    QVector<Sheet> sheets;
+    QXmlStreamReader xml(output("pdftotext", {"-bbox", path, "-"}));
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const QXmlStreamAttributes attributes = xml.attributes();
+        const auto point = [&](const char* x, const char* y) {
+            return QPointF(attributes.value(QLatin1String(x)).toDouble(), attributes.value(QLatin1String(y)).toDouble());
+        };
+        if (xml.name() == "page")
+            sheets += Sheet {{point("width", "height").x(), point("width", "height").y()}, {}, {}};
+        else if (xml.name() == "word")
+            sheets.last().words += {xml.readElementText(), {point("xMin", "yMin"), point("xMax", "yMax")}};
+    }
+    return sheets;
+}
+
+/// The same with what the pages look like.
+QVector<Sheet> picturesOf(const QString& path)
+{
+    const QTemporaryDir folder;
+    QVector<Sheet> sheets = sheetsOf(path);
+    output("pdftoppm", {"-r", "144", "-png", path, folder.filePath("p")});
+    const QStringList names = QDir(folder.path()).entryList({"*.png"}, QDir::Files, QDir::Name);
+    for (int page = 0; page < qMin(names.size(), sheets.size()); ++page)
+        sheets[page].picture.load(folder.filePath(names.at(page)));
+    return sheets;
+}
+
+/// A word that leaves the page's margins, or that another is printed over; empty without one.
+QString misplacedIn(const QVector<Sheet>& sheets)
+{
+    for (const Sheet& sheet : sheets) {
+        const QRectF inner = QRectF(QPointF(), sheet.size).adjusted(41, 27, -41, -27);
+        for (int i = 0; i < sheet.words.size(); ++i) {
+            // Boxes of neighbouring lines may touch.
+            const QRectF box = sheet.words.at(i).second;
+            const QRectF core = box.adjusted(0.5, box.height() / 4, -0.5, -box.height() / 4);
+            if (!inner.contains(box.center()) || box.left() < inner.left() || box.right() > inner.right())
+                return sheet.words.at(i).first + " is off the page";
+            for (int j = 0; j < i; ++j) {
+                if (core.intersects(sheet.words.at(j).second))
+                    return sheet.words.at(i).first + " lies over " + sheet.words.at(j).first;
+            }
+        }
+    }
+    return {};
+}
+
+bool isSame(qreal a, qreal b)
+{
+    return qAbs(a - b) < 0.3;
 }
 
 /// "0 First", "1 Statuses": level and title, with the page that each leads to.
@@ -74,6 +162,9 @@ QString infoOf(const QString& path, const QString& key)
     return line.match(output("pdfinfo", {path})).captured(1);
 }
 
+const char* const statuses[] = {"pass", "marginal", "fail"};
+const QColor statusColors[] = {QColor(0, 200, 0), QColor(255, 160, 0), QColor(220, 0, 60)};
+
 void addRow(ReportTable& table, const QStringList& cells, int status = 0)
 {
     for (const QString& cell : cells)
@@ -88,7 +179,7 @@ class ReportPdfTest : public QObject
     Q_OBJECT
 
 private:
-    /// Prints items and deletes them. The file has passed qpdf's check.
+    /// Prints items and deletes them. The file has passed qpdf's check, and all words are where they can be read.
     QString printed(const QList<ReportItem*>& items, const std::function<void(ReportPDF&)>& setUp = [](ReportPDF&) {})
     {
         ReportPDF pdf;
@@ -97,11 +188,48 @@ private:
         QString error;
         const bool isPrinted = pdf.print(m_path, &error);
         qDeleteAll(items);
-        if (!isPrinted || output("qpdf", {"--check", m_path}).isEmpty()) {
+        if (isPrinted && output("qpdf", {"--check", m_path}).isEmpty())
+            error = "qpdf";
+        if (isPrinted && error.isEmpty())
+            error = misplacedIn(sheetsOf(m_path));
+        if (!error.isEmpty())
             qWarning("not printed well: %s", qPrintable(error));
-            return {};
-        }
-        return m_path;
+        return error.isEmpty() ? m_path : QString();
+    }
+
+    void drawIcon(const QString& name, QSize size, QColor color) const
+    {
+        QImage image(size, QImage::Format_ARGB32);
+        image.fill(color);
+        // With a mask.
+        image.setPixelColor(0, 0, Qt::transparent);
+        QVERIFY(image.save(m_root.filePath("base/qml/common/images/" + name + ".png")));
+    }
+
+    void read(ReportTemplate& document, const QJsonObject& json) const
+    {
+        QFile file(m_root.filePath("document.json"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(json).toJson()) > 0 && file.flush());
+        document.readFile(file.fileName());
+        QVERIFY2(!document.hasError(), qPrintable(document.errorString()));
+    }
+
+    /// Prints a document.
+    void print(const QJsonObject& json, const QVariantMap& attributes = {}) const
+    {
+        ReportTemplate document;
+        read(document, json);
+        QList<ReportItem*> items;
+        TemplateToPdfWriter writer(document, &items);
+        writer.setAttribute("showSoftwareRevs", false);
+        writer.setAttribute("showHardwareRevs", false);
+        for (auto it = attributes.cbegin(); it != attributes.cend(); ++it)
+            writer.setAttribute(it.key(), it.value());
+        QString error;
+        const bool isPrinted = writer.write(m_path, &error);
+        qDeleteAll(items);
+        QVERIFY2(isPrinted, qPrintable(error));
+        QCOMPARE(misplacedIn(sheetsOf(m_path)), QString());
     }
 
     QByteArray contents() const
@@ -125,9 +253,9 @@ private Q_SLOTS:
         qputenv("UIUTILS_ROOT", QFile::encodeName(m_root.path()));
         QVERIFY(QDir(m_root.path()).mkpath("base/qml/common/images") && QDir(m_root.path()).mkpath("out")
                 && QDir(m_root.path()).mkpath("tmp"));
-        for (const char* name : {"pass_icon.png", "fail_icon.png", "marginal_icon.png", "Norda_Color-medium.png"})
-            QVERIFY(QFile::copy(UIUTILS_SOURCE_DIR "/assets/" + QString(name),
-                    m_root.filePath("base/qml/common/images/" + QString(name))));
+        drawIcon("Norda_Color-medium", {200, 100}, Qt::magenta);
+        for (int status = 0; status < 3; ++status)
+            drawIcon(QString(statuses[status]) + "_icon", {20, 20}, statusColors[status]);
         m_path = m_root.filePath("out/report.pdf");
     }
 
@@ -177,32 +305,260 @@ private Q_SLOTS:
         QCOMPARE(part, QString("0 First @1, 1 Configuration Values @1, 1 Statuses @1, 1 Second @1, 2 Third @1"));
     }
 
-    void everyCellIsThereInOrder()
+    void pagesOfATable_data()
     {
-        auto* table = new ReportTable("Levels", {"Point", "Level", "Remark"}, true);
-        QString expected;
-        for (int i = 0; i < 600; ++i) {
-            const QStringList cells {QString("Row%1").arg(i), QString("P%1").arg(i), QString("%1dBm").arg(i * 0.5),
-                    i % 7 ? QString("r%1").arg(i) : QString("a remark of many words %1 ").arg(i).repeated(8).trimmed()};
-            table->appendCell({cells.at(0), 0, 2, ReportTable::CellKind::RowLabel});
-            for (int c = 1; c < cells.size(); ++c)
-                table->appendCell({cells.at(c), i % 3 ? 0 : 16});
+        QTest::addColumn<QString>("orientation");
+        QTest::addColumn<QSizeF>("paper");
+        QTest::newRow("upright") << "portrait" << QSizeF(612, 792);
+        QTest::newRow("wide") << "landscape" << QSizeF(792, 612);
+    }
+    /// Every cell is there, in order, in its column and row, as it is aligned, with the icon of its status.
+    void pagesOfATable()
+    {
+        QFETCH(QString, orientation);
+        QFETCH(QSizeF, paper);
+        const int rows = 150;
+        QJsonObject table {{"title", "Levels"}, {"use_row_labels", true}, {"num_columns", 4}, {"col_label_0", "Left"},
+                {"col_label_1", "Right"}, {"col_label_2", "Middle"}, {"col_label_3", "Remark"}};
+        const auto remark = [](int i) {
+            QStringList words;
+            for (int word = 0; word < (i % 7 ? 1 : 60); ++word)
+                words += QString("w%1.%2").arg(i).arg(word);
+            return words;
+        };
+        for (int i = 0; i < rows; ++i)
+            table[QString("row_%1").arg(1000 + i)] = QJsonObject {{"label", QString("Row%1").arg(i)},
+                    {"cell_0", QJsonObject {{"label", QString("P%1 dBm%1").arg(i)}, {"attr_align", "1"}}},
+                    {"cell_1", QJsonObject {{"label", QString("N%1").arg(i * i)}, {"attr_align", "2"}}},
+                    {"cell_2", QJsonObject {{"label", QString("S%1").arg(i)}, {"attr_status", QString::number(16 << i % 3)}}},
+                    {"cell_3", QJsonObject {{"label", remark(i).join(' ')}, {"attr_align", "1"}}}};
+        print({{"node_type", "report"}, {"tag", "t"}, {"table_0", table}}, {{"orientation", orientation}});
+
+        const QVector<Sheet> sheets = picturesOf(m_path);
+        QVERIFY(sheets.size() > 4);
+        const Sheet first = sheets.first();
+        int row = 0;
+        for (int page = 0; page < sheets.size(); ++page) {
+            const Sheet& sheet = sheets.at(page);
+            QCOMPARE(sheet.size, paper);
+            QVERIFY(sheet.has("Levels"));
+            QCOMPARE(sheet.has("Continued"), page > 0);
+            for (const char* label : {"Left", "Right", "Middle", "Remark"})
+                QVERIFY2(isSame(sheet.at(label).left(), first.at(label).left()), label);
+            QVERIFY(sheet.at("Levels").bottom() < sheet.at("Left").center().y());
+            qreal bottom = sheet.at("Left").bottom() - 1;
+            for (; sheet.has(QString("Row%1").arg(row)); ++row) {
+                const QByteArray name = QByteArray::number(row);
+                const QRectF label = sheet.at("Row" + name);
+                const QRectF left = sheet.at("P" + name);
+                const QRectF right = sheet.at("N" + QString::number(row * row));
+                const QRectF middle = sheet.at("S" + name);
+                const qreal line = label.center().y();
+                for (const QRectF& box : {left, sheet.at("dBm" + name), right, middle, sheet.at("w" + name + ".0")})
+                    QVERIFY2(isSame(box.center().y(), line), name);
+                QVERIFY2(label.top() >= bottom, name);
+                QVERIFY2(isSame(label.right(), first.at("Row0").right()), name);
+                QVERIFY2(isSame(left.left(), first.at("Left").left()), name);
+                QVERIFY2(isSame(right.right(), first.at("Right").right()), name);
+                QVERIFY2(label.right() < left.left() && right.right() < middle.left(), name);
+
+                const QRectF beside(QPointF(right.right(), line - 4), QPointF(middle.left(), line + 4));
+                for (int status = 0; status < 3; ++status) {
+                    const QRectF icon = sheet.colored(statusColors[status], beside);
+                    QCOMPARE(!icon.isEmpty(), status == row % 3);
+                    QVERIFY2(icon.isEmpty() || qAbs(icon.left() + middle.right() - 2 * first.at("Middle").center().x()) < 3, name);
+                }
+                for (const QString& word : remark(row)) {
+                    const QRectF box = sheet.at(word);
+                    QVERIFY2(box.left() >= first.at("Remark").left() - 0.3 && box.center().y() >= line - 0.3, qPrintable(word));
+                    bottom = qMax(bottom, box.bottom() - 1);
+                }
+            }
+            QVERIFY(sheet.at("Page").top() >= bottom);
+        }
+        QCOMPARE(row, rows);
+    }
+
+    /// No heading without what it announces, no line of a paragraph alone, no beginning of a table of less than three
+    /// rows, no low table in two parts, and no page half empty for that.
+    void breaksBetweenPages()
+    {
+        const auto linesOf = [](int i, int entry) { return 2 + (i + entry) % 6; };
+        const auto rowsOf = [](int i) { return 1 + i * 7 % 23; };
+        const auto words = [](const QString& stem, int count) {
+            QStringList words;
+            for (int n = 0; n < count; ++n)
+                words += QString("%1.%2").arg(stem).arg(n);
+            return words;
+        };
+        QJsonObject report {{"node_type", "report"}, {"tag", "t"}};
+        const int sections = 90;
+        for (int i = 0; i < sections; ++i) {
+            QJsonObject section {{"title", QString("Head%1").arg(i)}};
+            for (int entry = 0; i % 2 && entry < 4; ++entry)
+                section[QString("log_%1").arg(entry)] = words(QString("L%1.%2").arg(i).arg(entry), linesOf(i, entry)).join('\n');
+            QJsonObject table {{"num_columns", 1}, {"title", QString("Title%1").arg(i)}};
+            for (const QString& word : words(QString("R%1").arg(i), rowsOf(i)))
+                table[QString("row_%1").arg(1000 + table.size())] = QJsonObject {{"cell_0", QJsonObject {{"label", word}}}};
+            if (i % 2 == 0)
+                section["table_0"] = table;
+            report[QString("section_%1").arg(1000 + i)] = section;
+        }
+        print(report);
+
+        const QVector<Sheet> sheets = sheetsOf(m_path);
+        QHash<QString, int> pageOf;
+        for (int page = 0; page < sheets.size(); ++page) {
+            qreal lowest = 0;
+            for (const auto& word : sheets.at(page).words) {
+                pageOf.insert(word.first, page);
+                if (word.second.bottom() < sheets.at(page).at("Page").top())
+                    lowest = qMax(lowest, word.second.bottom());
+            }
+            QVERIFY2(page + 1 == sheets.size() || lowest > 792 * 0.65, qPrintable(QString::number(page)));
+        }
+        // How many of the words are on each page that has some of them.
+        const auto parts = [&](const QStringList& words) {
+            QMap<int, int> parts;
+            for (const QString& word : words)
+                ++parts[pageOf.value(word, -1)];
+            return parts.values();
+        };
+        int partedParagraphs = 0;
+        int partedTables = 0;
+        for (int i = 0; i < sections; ++i) {
+            const QByteArray name = QByteArray::number(i);
+            QCOMPARE(pageOf.value("Head" + name, -1), pageOf.value(i % 2 ? "L" + name + ".0.0" : "R" + name + ".0", -2));
+            for (int entry = 0; i % 2 && entry < 4; ++entry) {
+                const QList<int> lines = parts(words(QString("L%1.%2").arg(i).arg(entry), linesOf(i, entry)));
+                QVERIFY2(!lines.contains(1), name);
+                partedParagraphs += lines.size() > 1;
+            }
+            const QList<int> rows = i % 2 ? QList<int> {rowsOf(i)} : parts(words("R" + name, rowsOf(i)));
+            QVERIFY2(rows.first() >= qMin(3, rowsOf(i)) && (rowsOf(i) > 8 || rows.size() == 1), name);
+            partedTables += rows.size() > 1;
+        }
+        // Where pages end differs with the fonts, but not that much.
+        QVERIFY(partedParagraphs > 3 && partedTables > 2);
+    }
+
+    /// Columns that find no room go on below, beside the row labels again; an empty one takes no room.
+    void wideTables()
+    {
+        auto* table = new ReportTable("Wide", QString(",b,c,d,e,f,g,h,i,j,k,l,m,n").split(','), true);
+        for (int row = 0; row < 2; ++row) {
+            table->appendCell({QString("Row%1").arg(row), 0, 2, ReportTable::CellKind::RowLabel});
+            for (int column = 0; column < 14; ++column)
+                table->appendCell({column == 0 ? QString() : QString("c%1.%2mmmmmm").arg(row).arg(column)});
             table->endRow();
-            expected += cells.join(QString());
         }
-        const QStringList pages = pagesOf(printed({new ReportHeader(1, "Section"), table}));
-        QVERIFY(pages.size() > 10);
-        QString all;
-        for (int page = 0; page < pages.size(); ++page) {
-            QStringList lines = pages.at(page).split('\n', Qt::SkipEmptyParts);
-            const int title = lines.indexOf(page ? "Levels - Continued" : "Levels");
-            QVERIFY2(title >= 0, qPrintable(pages.at(page)));
-            QCOMPARE(lines.at(title + 1), QString("Point Level Remark"));
-            lines.removeLast();
-            all += lines.mid(title + 2).join(QString());
+        const QVector<Sheet> sheets = sheetsOf(printed({table}));
+        QCOMPARE(sheets.size(), 1);
+        QMap<int, QStringList> lines;
+        for (const auto& word : sheets.first().words) {
+            if (word.first.contains(QRegularExpression("^(Row\\d|c\\d\\.)")))
+                lines[qRound(word.second.center().y())] += word.first.section('m', 0, 0);
         }
-        all.remove(' ');
-        QCOMPARE(all, expected.remove(' '));
+        QStringList seen[2];
+        int bands = 0;
+        for (const QStringList& line : qAsConst(lines)) {
+            QCOMPARE(line.first(), QString("Row%1").arg(bands % 2));
+            seen[bands++ % 2] += line.mid(1);
+        }
+        QVERIFY(bands >= 4);
+        for (int row = 0; row < 2; ++row) {
+            QCOMPARE(seen[row].size(), 13);
+            for (int column = 1; column < 14; ++column)
+                QCOMPARE(seen[row].at(column - 1), QString("c%1.%2").arg(row).arg(column));
+        }
+    }
+
+    /// Logo, status and a plot with its limits, where they belong and in their proportions.
+    void picturesOfAPage()
+    {
+        print({{"node_type", "report"}, {"tag", "t"}, {"title", "T"},
+                      {"section_0", QJsonObject {{"title", "Curves"}, {"table_0", QJsonObject {{"label", "plot"}, {"service", "plots"}}}}}},
+                {{"marginal", true}});
+        const QVector<Sheet> sheets = picturesOf(m_path);
+        QCOMPARE(sheets.size(), 1);
+        const Sheet& sheet = sheets.first();
+        const QRectF paper(QPointF(), sheet.size);
+        const QRectF logo = sheet.colored(Qt::magenta, paper);
+        QVERIFY(isSame(logo.left(), 42) && logo.top() > 27 && logo.bottom() < sheet.at("Overall").top());
+        QVERIFY(qAbs(logo.width() - 2 * logo.height()) < 2 && logo.right() < sheet.at("Solvant").left());
+
+        const QRectF status = sheet.at("Marginal");
+        const QRectF beside(QPointF(sheet.at("Status").right(), status.top()), status.bottomLeft());
+        QVERIFY(!sheet.colored(statusColors[1], beside).isEmpty());
+        QVERIFY(sheet.colored(statusColors[2], beside).isEmpty());
+
+        // Beside the legend, below the heading's rule: the curve's colour, and the limits' high above it and below it.
+        const QRectF plot(QPointF(430, sheet.at("Curves").bottom() + 20), QPointF(550, 700));
+        const QRectF curve = sheet.colored(QColor(0x00689b), plot);
+        const QRectF limits = sheet.colored(QColor(0xc62828), plot);
+        QVERIFY(curve.height() > 10 && curve.right() < 42 + 450);
+        QVERIFY(limits.width() > 40 && limits.right() < 42 + 450);
+        QVERIFY(limits.top() < curve.top() - 100 && limits.bottom() > curve.bottom() + 10);
+        QVERIFY(sheet.colored(QColor(0xc62828), limits.adjusted(0, 20, 0, -20)).isEmpty());
+    }
+
+    /// However many cells show it.
+    void aMissingIconIsToldOnce()
+    {
+        const QString icon = m_root.filePath("base/qml/common/images/marginal_icon.png");
+        QVERIFY(QFile::remove(icon));
+        static QStringList told;
+        told.clear();
+        const auto before = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+            if (type == QtWarningMsg)
+                told += text;
+        });
+        auto* table = new ReportTable("T", {"A", "B"}, false);
+        for (int i = 0; i < 100; ++i)
+            addRow(*table, {QString("cell%1").arg(i), "x"}, 32);
+        const QString path = printed({table}, [](ReportPDF& pdf) { pdf.setFields({{"Status", "Marginal", 32}}); });
+        qInstallMessageHandler(before);
+        drawIcon("marginal_icon", {20, 20}, statusColors[1]);
+        QCOMPARE(told.size(), 1);
+        QVERIFY2(told.first().contains(icon), qPrintable(told.first()));
+        QVERIFY(pagesOf(path).join(' ').contains("cell99"));
+    }
+
+    /// All formats twice, then pages: each table is there once, and what an application appended stays its own.
+    void savesShareTheirItems()
+    {
+        struct Controller : Report
+        {
+            using Report::setFormatApplicable;
+            using Report::setHtmlWriterAttributes;
+        } report;
+        ReportTemplate document;
+        read(document, {{"node_type", "report"}, {"tag", "t"}, {"orientation", "landscape"},
+                               {"table_0", QJsonObject {{"num_columns", 1}, {"title", "Levels"}}}});
+        QVERIFY(QDir(m_root.path()).mkpath("cust") && QFile::copy(m_root.filePath("document.json"), m_root.filePath("cust/t.json")));
+        report.setTemplatePath("/cust/t.json");
+        for (int format = 0; format < 5; ++format)
+            report.setFormatApplicable(format, true);
+        report.getSetting("reportName")->setValue("a");
+        ReportText own("Appended");
+        Report::m_reportItems += &own;
+        for (const int format : {5, 5, 0}) {
+            report.getSetting("reportFormat")->setValue(format);
+            QVERIFY(report.save(true));
+            QCOMPARE(Report::m_reportItems.first(), &own);
+            // The HTML page comes behind the PDF.
+            QCOMPARE(Report::m_reportItems.size() > 1, format == 5);
+            const QString path = m_root.filePath("cust/public/reports/t/a.pdf");
+            const QString text = pagesOf(path).join(' ');
+            QCOMPARE(text.count("Levels"), 1);
+            QCOMPARE(text.count("Software Revisions"), 1);
+            QCOMPARE(text.count("Appended"), 1);
+            QCOMPARE(infoOf(path, "Page size"), QString("792 x 612 pts (letter)"));
+        }
+        Report::m_reportItems.clear();
+        TemplateToHtmlWriter writer(document, nullptr);
+        report.setHtmlWriterAttributes(writer);
+        QCOMPARE(writer.attribute("orientation").toString(), QString("landscape"));
     }
 
     void headingsStayWithTallRows()
@@ -253,13 +609,9 @@ private Q_SLOTS:
         QCOMPARE(found, 3);
     }
 
-    void landscapeAndBlankSettings()
+    void blankSettings()
     {
-        const QString path = printed({}, [](ReportPDF& pdf) {
-            pdf.setOrientation(ReportPDF::Landscape);
-            pdf.setLogo("/base/none.png");
-        });
-        QCOMPARE(infoOf(path, "Page size"), QString("792 x 612 pts (letter)"));
+        const QString path = printed({}, [](ReportPDF& pdf) { pdf.setLogo("/base/none.png"); });
         QCOMPARE(infoOf(path, "Pages"), QString("1"));
         QCOMPARE(infoOf(path, "Title"), QString("Solvant Report"));
         QVERIFY(!pagesOf(path).first().contains("Unit ID"));
@@ -268,84 +620,54 @@ private Q_SLOTS:
 
     void oddItems_data()
     {
-        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QStringList>("labels");
+        QTest::addColumn<QVector<QStringList>>("rows");
+        QTest::addColumn<QByteArray>("image");
         QTest::addColumn<int>("pages");
-        QTest::newRow("a title of 10,000 characters") << 0 << 3;
-        QTest::newRow("hundreds of columns") << 1 << 2;
-        QTest::newRow("a row taller than pages") << 2 << 4;
-        QTest::newRow("empty tables") << 3 << 1;
-        QTest::newRow("an image larger than a page") << 4 << 2;
-        QTest::newRow("what is no image") << 5 << 1;
-        QTest::newRow("control characters") << 6 << 1;
-        QTest::newRow("a heading of pages") << 7 << 4;
-        QTest::newRow("an image too large to decode") << 8 << 1;
+        QTest::addColumn<QStringList>("words");
+        using Rows = QVector<QStringList>;
+        const QStringList one {"A"};
+        const auto words = [](int count) {
+            QStringList words;
+            for (int i = 0; i < count; ++i)
+                words += QString("w%1").arg(i);
+            return words;
+        };
+        QByteArray large;
+        QBuffer buffer(&large);
+        QImage(5000, 9000, QImage::Format_RGB32).save(&buffer, "PNG");
+        // The head of 9,000 by 9,000 pixels.
+        const QByteArray tooLarge
+                = QByteArray::fromHex("424d00000000000000003600000028000000282300002823000001002000") + QByteArray(24, '\0');
+        QTest::newRow("a title of pages") << QString("word ").repeated(2000) << one << Rows(100, {"cell"}) << QByteArray()
+                                          << 7 << QStringList {"- Continued", "\u2026 Solvant Report"};
+        QTest::newRow("hundreds of columns") << "T" << words(300) << Rows {words(300)} << QByteArray() << 2 << words(300);
+        QTest::newRow("a row taller than pages") << "T" << one << Rows {{words(3000).join(' ')}} << QByteArray() << 4 << words(3000);
+        QTest::newRow("rows of nothing") << "T" << QString(999, ',').split(',') << Rows {{""}} << QByteArray() << 1 << QStringList();
+        QTest::newRow("an image larger than a page") << "T" << one << Rows() << large << 2 << QStringList();
+        QTest::newRow("what is no image") << "T" << one << Rows() << QByteArray("none") << 1 << QStringList();
+        QTest::newRow("an image too large to decode") << "T" << one << Rows() << tooLarge << 1 << QStringList();
+        QTest::newRow("control characters") << "T" << one << Rows {{QString("a\x01") + QChar(0xd800) + "\tb\r\nc" + QChar(0) + "\x7f"}}
+                                            << QByteArray() << 1 << QStringList();
     }
-
+    /// As a table's title, a heading and the report's own.
     void oddItems()
     {
-        QFETCH(int, kind);
+        QFETCH(QString, title);
+        QFETCH(QStringList, labels);
+        QFETCH(QVector<QStringList>, rows);
+        QFETCH(QByteArray, image);
         QFETCH(int, pages);
-        QList<ReportItem*> items;
-        QString title = "T";
-        QStringList words;
-        auto* table = new ReportTable(kind == 0 ? QString("word ").repeated(2000) : QString("Table"),
-                kind == 1 ? QVector<QString>(300, QString("Label")).toList() : QStringList {"A"}, false);
-        items += table;
-        switch (kind) {
-        case 0:
-            title = QString("l").repeated(10000);
-            for (int i = 0; i < 100; ++i)
-                addRow(*table, {"cell"});
-            words = QStringList {"- Continued", "l\u2026 Solvant Report"};
-            break;
-        case 1:
-            for (int i = 0; i < 300; ++i)
-                words += QString("c%1").arg(i);
-            addRow(*table, words);
-            break;
-        case 2:
-            for (int i = 0; i < 3000; ++i)
-                words += QString("w%1").arg(i);
-            addRow(*table, {words.join(' ')});
-            break;
-        case 3:
-            items += new ReportTable("", {}, true);
-            items += new ReportTable("Rows of nothing", QVector<QString>(1000, QString()).toList(), true);
-            addRow(*static_cast<ReportTable*>(items.last()), {""});
-            break;
-        case 4: {
-            QImage image(5000, 9000, QImage::Format_RGB32);
-            image.fill(Qt::yellow);
-            QByteArray png;
-            QBuffer buffer(&png);
-            image.save(&buffer, "PNG");
-            items += new ReportImage(png);
-            break;
-        }
-        case 5:
-            items += new ReportImage("no image");
-            break;
-        case 6:
-            addRow(*table, {QString("a\x01") + QChar(0xd800) + "\tb\r\nc" + QChar(0) + "\x7f"});
-            break;
-        case 7:
-            items += new ReportHeader(1, QString("heading ").repeated(1500));
-            break;
-        case 8: {
-            // The head of 9,000 by 9,000 pixels.
-            const QByteArray bitmap
-                    = QByteArray::fromHex("424d00000000000000003600000028000000282300002823000001002000")
-                    + QByteArray(24, '\0');
-            auto* image = new ReportImage(bitmap);
-            items += image;
-            QVERIFY(image->end() == ReportItem::Position());
-            break;
-        }
-        }
-        const QString path = printed(items, [&](ReportPDF& pdf) { pdf.setTitle(title); });
+        QFETCH(QStringList, words);
+        auto* table = new ReportTable(title, labels, false);
+        for (const QStringList& row : rows)
+            addRow(*table, row);
+        const QString path = printed({new ReportTable("", {}, true), new ReportHeader(1, title), table, new ReportImage(image)},
+                [&](ReportPDF& pdf) { pdf.setTitle(title); });
         QVERIFY(!path.isEmpty());
-        QVERIFY2(infoOf(path, "Pages").toInt() >= pages && infoOf(path, "Pages").toInt() < pages + 3,
-                qPrintable(infoOf(path, "Pages")));
+        const int count = infoOf(path, "Pages").toInt();
+        QVERIFY2(count >= pages && count < pages + 3, qPrintable(QString::number(count)));
         const QString text = pagesOf(path).join(' ').simplified();
         for (const QString& word : qAsConst(words))
             QVERIFY2(text.contains(word), qPrintable(word));
@@ -393,6 +715,15 @@ private Q_SLOTS:
             QCOMPARE(error, QString());
             QCOMPARE(contents(), QByteArray("old"));
         }
+        // It may go meanwhile.
+        auto* other = new ReportPDF;
+        other->setItems(items);
+        connect(other, &ReportPDF::progressChanged, this, [&](int page, int) {
+            if (page == 1)
+                delete other;
+        });
+        QVERIFY(!other->print(m_path));
+        QCOMPARE(contents(), QByteArray("old"));
         cancelAt = -1;
         QVERIFY(pdf.print(m_path));
         qDeleteAll(items);
@@ -426,18 +757,6 @@ private Q_SLOTS:
         qDeleteAll(items);
     }
 
-    void rendererMayGoMeanwhile()
-    {
-        writeOld();
-        auto* pdf = new ReportPDF;
-        connect(pdf, &ReportPDF::progressChanged, this, [&](int page, int) {
-            if (page == 1)
-                delete pdf;
-        });
-        QVERIFY(!pdf->print(m_path));
-        QCOMPARE(contents(), QByteArray("old"));
-    }
-
     void fullDiskIsAnError()
     {
         QList<ReportItem*> items {new ReportTable("T", {"A", "B"}, false)};
@@ -463,19 +782,6 @@ private Q_SLOTS:
             QCOMPARE(QDir(m_root.filePath("out")).entryList(QDir::Files | QDir::Hidden).size(), 1);
         }
         qDeleteAll(items);
-    }
-
-    void targetsThatCannotBe()
-    {
-        ReportPDF pdf;
-        QVERIFY(QDir(m_root.path()).mkpath("out/folder.pdf"));
-        for (const QString& path : {m_root.filePath("none/report.pdf"), m_root.filePath("out/folder.pdf"), QString(),
-                     m_root.filePath("out/a") + QChar(0) + ".pdf", m_root.filePath("out/new") + QChar(0) + "/a.pdf"}) {
-            QString error;
-            QVERIFY(!pdf.print(path, &error));
-            QVERIFY(!error.isEmpty());
-        }
-        QVERIFY(QDir(m_root.filePath("out")).rmdir("folder.pdf"));
     }
 
 private:

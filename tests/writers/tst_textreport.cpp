@@ -156,6 +156,8 @@ private Q_SLOTS:
         add("wrapped", {"First", "Second"}, {{"a b", "one two three four five six"}, {"c", "x"}}, 24,
                 "  First  Second\n  -----  ---------------\n  a b    one two three\n         four five six\n  c      "
                 "x\n");
+        add("blanks and breaks where lines end", {"A"}, {{"123456789012345678    "}, {"  abc     defghijklmnopqrs"}, {"a\n\nb"}}, 20,
+                "  A\n  ------------------\n  123456789012345678\n  abc\n  defghijklmnopqrs\n  a\n\n  b\n");
         add("a long word is cut", {"A"}, {{"abcdefghijklmnopqrstuvwxyz"}}, 20,
                 "  A\n  ------------------\n  abcdefghijklmnopqr\n  stuvwxyz\n");
         add("wide letters are cut between them", {"A"}, {{"東京東京東京東京東京\u0301"}}, 20,
@@ -171,31 +173,6 @@ private Q_SLOTS:
         QFETCH(QVector<QStringList>, rows);
         QFETCH(int, width);
         QTEST(textOf(tableOf(labels, rows), width), "text");
-    }
-
-    void lines_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("width");
-        QTest::addColumn<QStringList>("lines");
-        QTest::newRow("fits") << "ab cd" << 5 << QStringList {"ab cd"};
-        QTest::newRow("at the last blank") << "ab cd ef" << 6 << QStringList {"ab cd", "ef"};
-        QTest::newRow("several blanks") << "ab     cd" << 4 << QStringList {"ab", "cd"};
-        QTest::newRow("blanks beyond the width") << "abcd    " << 4 << QStringList {"abcd"};
-        QTest::newRow("indentation stays") << "  ab cd" << 4 << QStringList {"  ab", "cd"};
-        QTest::newRow("empty lines stay") << "a\n\nb" << 9 << QStringList {"a", "", "b"};
-        QTest::newRow("break at the width") << "abcd\nef" << 4 << QStringList {"abcd", "ef"};
-        QTest::newRow("marks stay with their letter") << "abc\u0301d" << 3 << QStringList {"abc\u0301", "d"};
-        QTest::newRow("a letter too wide") << "東a" << 1 << QStringList {"東", "a"};
-    }
-    void lines()
-    {
-        QFETCH(QString, text);
-        QFETCH(int, width);
-        QStringList lines;
-        for (QStringView rest = text; !rest.isEmpty();)
-            lines += takeLine(rest, width).toString();
-        QTEST(lines, "lines");
     }
 
     /// Columns as terminals show them. Letters that editions of Unicode disagree about are not among these.
@@ -261,14 +238,9 @@ private Q_SLOTS:
     {
         ReportTemplate report;
         QCOMPARE(reportJson(report), QString("{\n}\n"));
-        report.beginReport("r");
-        report.setKey("title", QString("Größe ") + QChar(0xd800));
+        report.beginReport(QString("Größe ") + QChar(0xd800));
         report.endReport();
-        const QByteArray json = reportJson(report).toUtf8();
-        QJsonParseError error {};
-        QCOMPARE(QJsonDocument::fromJson(json, &error).object().value("tag").toString(), QString("r"));
-        QCOMPARE(error.errorString(), QString("no error occurred"));
-        QVERIFY(json.endsWith("}\n"));
+        QCOMPARE(QJsonDocument::fromJson(reportJson(report).toUtf8()).object().size(), 2);
     }
 };
 

@@ -57,6 +57,13 @@ bool NodeReader::belongsTo(const QString& key, QLatin1String family)
     });
 }
 
+std::optional<quint64> NodeReader::numberIn(const QString& key, QLatin1String family)
+{
+    bool isNumber = false;
+    const quint64 number = key.midRef(key.indexOf(family) + family.size()).toULongLong(&isNumber);
+    return isNumber ? std::optional<quint64>(number) : std::nullopt;
+}
+
 TableReader::TableReader(const QJsonObject& table)
     : NodeReader(table)
 {

@@ -9,6 +9,8 @@
 #include <QVector>
 
 #include <algorithm>
+#include <limits>
+#include <optional>
 #include <utility>
 
 namespace uiutils {
@@ -21,12 +23,19 @@ QString shownTextOf(const QJsonValue& value);
 
 /// Reads a report or section node: the one place that knows in which order a document is walked.
 ///
-/// Children come in the ascending string order of their keys ("row_1", "row_10", "row_2"). A key belongs to a family
-/// when it contains the family's word and holds an object; one that contains the words of several belongs to the family
-/// whose word comes first, so that no child is written twice.
+/// A key belongs to a family when it contains the family's word and holds an object; one that contains the words of
+/// several belongs to the family whose word comes first, so that no child is written twice.
 class NodeReader
 {
 public:
+    /// In which order children are walked.
+    enum Order {
+        /// By increasing number; those without one follow in the order of their keys.
+        ByNumber,
+        /// In the ascending string order of their keys: "row_1", "row_10", "row_2".
+        ByKey
+    };
+
     struct LogEntry
     {
         QString key;
@@ -62,27 +71,43 @@ public:
     QVector<LogEntry> logEntries() const;
 
     /// Calls visit(QJsonObject section) for each section.
-    template<typename Visitor> void forEachSection(Visitor visit) const
+    template<typename Visitor> void forEachSection(Order order, Visitor visit) const
     {
-        forEachChild(keys::sectionFamily, [&](const QString&, const QJsonObject& child) { visit(child); });
+        forEachChild(keys::sectionFamily, order, [&](const QString&, QJsonObject child) { visit(std::move(child)); });
     }
 
     /// Calls visit(QString key, QJsonObject table) for each table.
-    template<typename Visitor> void forEachTable(Visitor visit) const { forEachChild(keys::tableFamily, visit); }
+    template<typename Visitor> void forEachTable(Order order, Visitor visit) const
+    {
+        forEachChild(keys::tableFamily, order, visit);
+    }
+
+    /// The number of the table that has this key; none when it has none.
+    static std::optional<quint64> tableNumber(const QString& key) { return numberIn(key, keys::tableFamily); }
 
 protected:
     static bool belongsTo(const QString& key, QLatin1String family);
+    static std::optional<quint64> numberIn(const QString& key, QLatin1String family);
 
-    template<typename Visitor> void forEachChild(QLatin1String family, Visitor visit) const
+    template<typename Visitor> void forEachChild(QLatin1String family, Order order, Visitor visit) const
     {
+        QVector<std::pair<quint64, QJsonObject::const_iterator>> numbered;
         for (auto it = m_node.begin(); it != m_node.end(); ++it) {
             const QJsonValue value = it.value();
             if (!value.isObject())
                 continue;
             const QString key = it.key();
-            if (belongsTo(key, family))
+            if (!belongsTo(key, family))
+                continue;
+            if (order == ByKey)
                 visit(key, value.toObject());
+            else
+                numbered.append({numberIn(key, family).value_or(std::numeric_limits<quint64>::max()), it});
         }
+        std::stable_sort(
+                numbered.begin(), numbered.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+        for (const auto& child : qAsConst(numbered))
+            visit(child.second.key(), child.second.value().toObject());
     }
 
     QJsonObject m_node;
@@ -139,7 +164,10 @@ public:
     Extent extent() const;
 
     /// Calls visit(QString key, QJsonObject row) for each row.
-    template<typename Visitor> void forEachRow(Visitor visit) const { forEachChild(keys::rowFamily, visit); }
+    template<typename Visitor> void forEachRow(Order order, Visitor visit) const
+    {
+        forEachChild(keys::rowFamily, order, visit);
+    }
 
     /// Calls visit(int column, QJsonObject cell) for each cell that a row has in a column of the table, in the order of
     /// the columns. It costs what the row holds: a table may claim many more columns than it fills.

@@ -98,7 +98,8 @@ public:
     static const QString JSON_EXTENSION;
     static const QString SOR_EXTENSION;
     static const QString GZIP_EXTENSION;
-    /// The items that the HTML pass collects and the page renderer prints.
+    /// The items that the HTML pass collects and the page renderer prints. Each pass first deletes those of the last
+    /// one. What an application appends is printed too, stays and remains its own.
     static QList<ReportItem*>& m_reportItems;
 
     /// Makes the settings. They take the values of the settings file 100 ms later, when the page has set its folder.

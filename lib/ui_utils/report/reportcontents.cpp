@@ -11,8 +11,6 @@
 #include <QPointer>
 #include <QScopeGuard>
 
-#include <utility>
-
 template<typename Writer> void Report::handOnSwitches(Writer& writer) const
 {
     writer.setAttribute(QStringLiteral("includeJobInfo"), m_includeJobInfo);
@@ -53,7 +51,7 @@ QString Report::generateJobManagerReport()
 
 QString Report::generateHtmlReport()
 {
-    TemplateToHtmlWriter writer(m_document, nullptr);
+    TemplateToHtmlWriter writer(m_document, &m_reportItems);
     setHtmlWriterAttributes(writer);
     return writer.getHtml();
 }
@@ -73,7 +71,7 @@ QByteArray Report::generateDefaultPDFReport()
     // A report of many rows is large: its items go as soon as they are printed, unless others print them, too.
     const auto dropItems = qScopeGuard([isNested = ReportPDF::isPrinting()] {
         if (!isNested)
-            qDeleteAll(std::exchange(m_reportItems, {}));
+            uiutils::deleteItemsOfPasses(m_reportItems);
     });
     TemplateToPdfWriter writer(m_document, &m_reportItems);
     handOnSwitches(writer);

@@ -8,6 +8,7 @@
 #include "service/instrumentinfo_p.h"
 
 #include <QDebug>
+#include <QScopedValueRollback>
 #include <QSet>
 
 namespace instrument = uiutils::instrument;
@@ -63,8 +64,7 @@ TemplateToXmlWriter::TemplateToXmlWriter(
     if (!generate)
         return;
 
-    writeAttributes(m_document);
-    tablesToXml(m_document, 1);
+    tablesToXml(m_document);
     sectionsToXml(m_document);
     if (!m_jobManagerMode)
         writeVersions();
@@ -75,15 +75,13 @@ TemplateToXmlWriter::~TemplateToXmlWriter() = default;
 
 QString TemplateToXmlWriter::getXml()
 {
-    if (!m_hasCustomFields)
-        insertCustomFields();
-    m_hasCustomFields = true;
+    insertCustomFields();
     return m_output;
 }
 
-void TemplateToXmlWriter::sectionsToXml(const QJsonObject& node)
+void TemplateToXmlWriter::sectionsToXml(QJsonObject& node)
 {
-    NodeReader(node).forEachSection([this](const QJsonObject& section) {
+    NodeReader(node).forEachSection(NodeReader::ByKey, [this](QJsonObject section) {
         if (NodeReader(section).tag().isEmpty())
             qWarning().noquote() << "Section missing tag:" << NodeReader(section).title();
         else
@@ -93,7 +91,7 @@ void TemplateToXmlWriter::sectionsToXml(const QJsonObject& node)
     });
 }
 
-void TemplateToXmlWriter::sectionToXml(const QJsonObject& object)
+void TemplateToXmlWriter::sectionToXml(QJsonObject& object)
 {
     const NodeReader section(object);
     const QString title = section.title();
@@ -103,7 +101,9 @@ void TemplateToXmlWriter::sectionToXml(const QJsonObject& object)
     writeAttributes(object);
     logEntriesToXml(section);
     configurationToXml(section);
-    tablesToXml(object, 2);
+    ++m_level;
+    tablesToXml(object);
+    --m_level;
     m_xml.writeEndElement();
 }
 
@@ -136,29 +136,30 @@ void TemplateToXmlWriter::configurationToXml(const NodeReader& section)
     m_xml.writeEndElement();
 }
 
-void TemplateToXmlWriter::tablesToXml(const QJsonObject& node, int level)
+void TemplateToXmlWriter::tablesToXml(QJsonObject& node)
 {
-    NodeReader(node).forEachTable([this, level](const QString&, const QJsonObject& object) {
+    NodeReader(node).forEachTable(NodeReader::ByKey, [this](const QString&, const QJsonObject& object) {
         const TableReader table(object);
         startElement(table.tag(), keys::table);
         writeAttributes(object);
-        rowsToXml(table, level + 1);
+        rowsToXml(table);
         m_xml.writeEndElement();
     });
 }
 
-void TemplateToXmlWriter::rowsToXml(const TableReader& table, int level)
+void TemplateToXmlWriter::rowsToXml(const TableReader& table)
 {
     // As much as rows of one short cell take; what is not written to costs no memory.
     constexpr int charactersOfARow = 180;
     uiutils::makeRoom(m_output, qint64(table.extent().rows) * charactersOfARow);
     m_xml.setAutoFormatting(false);
-    table.forEachRow([this, level](const QString&, const QJsonObject& row) { rowToXml(row, level); });
+    table.forEachRow(NodeReader::ByKey, [this](const QString&, const QJsonObject& row) { rowToXml(row); });
     m_xml.setAutoFormatting(true);
 }
 
-void TemplateToXmlWriter::rowToXml(const QJsonObject& row, int level)
+void TemplateToXmlWriter::rowToXml(const QJsonObject& row)
 {
+    const int level = m_level + 1;
     static const QString element = QStringLiteral("row");
     static const QString labelAttribute = keys::label;
     beginLine(m_xml, m_output, level);
@@ -183,7 +184,7 @@ void TemplateToXmlWriter::cellToXml(const QJsonObject& cell)
     m_xml.writeEndElement();
 }
 
-void TemplateToXmlWriter::writeTechInfo(QXmlStreamWriter& xml) const
+void TemplateToXmlWriter::writeTechInfo()
 {
     const QStringList names = instrument::technicianFieldNames();
     qDebug() << "techInfoList size" << names.size();
@@ -192,12 +193,12 @@ void TemplateToXmlWriter::writeTechInfo(QXmlStreamWriter& xml) const
         return;
     }
     logFields("techInfoList", names);
-    xml.writeStartElement(QStringLiteral("TechnicianInformation"));
-    writeFields(xml, instrument::userFields(names));
-    xml.writeEndElement();
+    m_blocks->writeStartElement(QStringLiteral("TechnicianInformation"));
+    writeFields(*m_blocks, instrument::userFields(names));
+    m_blocks->writeEndElement();
 }
 
-void TemplateToXmlWriter::writeCustomerInfo(QXmlStreamWriter& xml) const
+void TemplateToXmlWriter::writeCustomerInfo()
 {
     qDebug() << "writeCustomerInfo" << m_includeCustomerInfo;
     if (!m_includeCustomerInfo)
@@ -209,34 +210,45 @@ void TemplateToXmlWriter::writeCustomerInfo(QXmlStreamWriter& xml) const
         return;
     }
     logFields("customerInfoList", names);
-    xml.writeStartElement(QStringLiteral("CustomerInformation"));
-    writeFields(xml, instrument::userFields(names));
-    xml.writeEndElement();
+    m_blocks->writeStartElement(QStringLiteral("CustomerInformation"));
+    writeFields(*m_blocks, instrument::userFields(names));
+    m_blocks->writeEndElement();
 }
 
-void TemplateToXmlWriter::insertCustomFields()
+/// Both blocks, or nothing. They are written inside an element of their own, so that they come indented by one level,
+/// and then taken out of it. Its line stays as an empty one.
+QString TemplateToXmlWriter::customFields()
 {
-    // Written inside an element of their own, so that they come indented by one level, and then taken out of it.
     QString blocks;
     QXmlStreamWriter xml(&blocks);
+    const QScopedValueRollback<QXmlStreamWriter*> redirected(m_blocks, &xml);
     xml.setAutoFormatting(true);
     xml.writeStartElement(removedElement);
     if (!m_jobManagerMode)
-        writeCustomerInfo(xml);
-    writeTechInfo(xml);
+        writeCustomerInfo();
+    writeTechInfo();
     xml.writeEndElement();
 
     const QString start = QLatin1Char('<') + removedElement + QLatin1String(">\n");
     const int begin = blocks.indexOf(start);
     if (begin < 0)
-        return;
-    blocks.remove(0, begin + start.size());
+        return QString();
+    blocks.remove(begin, start.size());
     blocks.truncate(blocks.lastIndexOf(QLatin1String("</") + removedElement));
+    return blocks;
+}
 
+void TemplateToXmlWriter::insertCustomFields()
+{
     const int declarationEnd = m_output.indexOf(QLatin1Char('>'));
     const int rootEnd = m_output.indexOf(QLatin1Char('>'), declarationEnd + 1);
-    if (rootEnd < 0)
+    if (m_hasCustomFields || rootEnd < 0)
         return;
+    m_hasCustomFields = true;
+    const QString blocks = customFields();
+    if (blocks.isEmpty())
+        return;
+
     if (m_output.at(rootEnd - 1) == QLatin1Char('/')) {
         const QString endTag
                 = QLatin1String("</") + elementName(NodeReader(m_document).tag(), keys::report) + QLatin1Char('>');

@@ -32,26 +32,36 @@ public:
     /// same text.
     QString getXml();
 
+    // The parts of the text, for those who made the writer without `generate` and choose what it writes.
+
+    /// Write the sections below a node with what they hold, and the tables directly in it.
+    void sectionsToXml(QJsonObject& node);
+    void tablesToXml(QJsonObject& node);
+    /// Write the blocks, if there is something for them.
+    void writeTechInfo();
+    void writeCustomerInfo();
+    void writeVersions();
+    /// Puts the technician and customer blocks behind the root's start tag, once.
+    void insertCustomFields();
+
 private:
-    void sectionsToXml(const QJsonObject& node);
-    void sectionToXml(const QJsonObject& section);
+    void sectionToXml(QJsonObject& section);
     void logEntriesToXml(const uiutils::NodeReader& section);
     void configurationToXml(const uiutils::NodeReader& section);
-    void tablesToXml(const QJsonObject& node, int level);
-    void rowsToXml(const uiutils::TableReader& table, int level);
-    void rowToXml(const QJsonObject& row, int level);
+    void rowsToXml(const uiutils::TableReader& table);
+    void rowToXml(const QJsonObject& row);
     void cellToXml(const QJsonObject& cell);
-
-    void writeTechInfo(QXmlStreamWriter& xml) const;
-    void writeCustomerInfo(QXmlStreamWriter& xml) const;
-    void insertCustomFields();
-    void writeVersions();
+    QString customFields();
 
     void startElement(const QString& tag, const QString& fallback);
     void writeAttributes(const QJsonObject& node);
 
     QString m_output;
     QXmlStreamWriter m_xml;
+    // What the blocks are written to.
+    QXmlStreamWriter* m_blocks = &m_xml;
+    // Open elements where tables are written.
+    int m_level = 1;
     QJsonObject m_document;
     bool m_jobManagerMode;
     bool m_includeCustomerInfo;

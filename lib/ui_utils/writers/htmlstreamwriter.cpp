@@ -78,6 +78,11 @@ int clampedProduct(int a, int b)
 
 } // namespace
 
+HtmlStreamWriter::HtmlStreamWriter(int indentStep)
+    : HtmlStreamWriter(indentStep, &uiutils::sharedReportItems())
+{
+}
+
 HtmlStreamWriter::HtmlStreamWriter(int indentStep, QList<ReportItem*>* items)
     : QXmlStreamWriter(&m_output)
     , m_indentStep(indentStep)
@@ -142,6 +147,7 @@ void HtmlStreamWriter::dropText()
 
 void HtmlStreamWriter::append(ReportItem* item)
 {
+    item->setOfPass();
     if (m_items)
         m_items->append(item);
     else
@@ -347,6 +353,9 @@ void HtmlStreamWriter::endTable()
     if (!m_tableHasRows)
         writeCharacters(QString());
     writeEndElement();
+    // Only now: a pass that begins meanwhile must not delete what cells are still appended to.
+    if (m_currentTable)
+        m_currentTable->setOfPass();
     m_currentTable = nullptr;
 }
 

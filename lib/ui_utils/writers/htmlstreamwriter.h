@@ -24,8 +24,11 @@ public:
     enum Alignment { AlignCenter = 0, AlignLeft = 1, AlignRight = 2 };
     enum Status { StatusNone = 0, StatusPass = 16, StatusMarginal = 32, StatusFail = 64 };
 
-    /// Starts the page. `indentStep` is the left margin of a table per nesting level, in pixels. A ReportTable for
-    /// each table is appended to `items`, whose owner deletes it; null collects nothing.
+    /// Starts the page. `indentStep` is the left margin of a table per nesting level, in pixels. A report item for each
+    /// table, heading, paragraph and image is appended to uiutils::sharedReportItems().
+    explicit HtmlStreamWriter(int indentStep);
+    /// The same with a list of its own; null collects nothing. The items belong to the list's owner, and are marked as
+    /// those of a pass: a table when it is closed.
     HtmlStreamWriter(int indentStep, QList<ReportItem*>* items);
     virtual ~HtmlStreamWriter();
     Q_DISABLE_COPY_MOVE(HtmlStreamWriter)

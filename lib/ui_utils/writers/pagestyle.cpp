@@ -1,5 +1,6 @@
 #include "writers/pagestyle_p.h"
 
+#include "base/paths.h"
 #include "writers/pageimage_p.h"
 #include "writers/statusicons_p.h"
 
@@ -43,8 +44,12 @@ const QImage& PageStyle::statusIcon(int status) const
     if (path.isEmpty())
         return none;
     auto it = m_icons.constFind(status);
-    if (it == m_icons.constEnd())
+    if (it == m_icons.constEnd()) {
         it = m_icons.insert(status, decodedImage(readIcon(path)));
+        if (it->isNull())
+            qWarning("The status icon %s is missing or is no image of at most 1 MiB: the report is printed without it.",
+                    qUtf8Printable(onDisk(path)));
+    }
     return *it;
 }
 

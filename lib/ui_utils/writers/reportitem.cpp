@@ -1,5 +1,7 @@
 #include "writers/reportitem.h"
 
+#include <algorithm>
+
 ReportItem::ReportItem() = default;
 
 ReportItem::~ReportItem() = default;
@@ -10,8 +12,17 @@ namespace uiutils {
 
 QList<ReportItem*>& sharedReportItems()
 {
-    static QList<ReportItem*> items;
+    // Never destroyed: the items of the last pass are in it when the program ends.
+    static auto& items = *new QList<ReportItem*>;
     return items;
+}
+
+void deleteItemsOfPasses(QList<ReportItem*>& items)
+{
+    const auto others = std::stable_partition(
+            items.begin(), items.end(), [](const ReportItem* item) { return !item->isOfPass(); });
+    qDeleteAll(others, items.end());
+    items.erase(others, items.end());
 }
 
 } // namespace uiutils

@@ -68,12 +68,23 @@ public:
     virtual QString outlineTitle() const { return {}; }
     /// 1 to 3 for a heading, which those of a higher level and other items belong to; 0 for other items.
     virtual int headingLevel() const { return 0; }
+
+    /// Whether a pass has made the item, so that the next pass deletes it. False at first.
+    bool isOfPass() const { return m_isOfPass; }
+    void setOfPass() { m_isOfPass = true; }
+
+private:
+    bool m_isOfPass = false;
 };
 
 namespace uiutils {
 
-/// The list that the passes of a save share: what the HTML pass appends, the page renderer draws. It owns nothing by
-/// itself; who starts a pass deletes the items of the last one.
+/// The list that the passes of a save share: what the HTML pass appends, the page renderer draws. Each pass first
+/// deletes the items of earlier ones. What an application appends stays there and stays its own: it is printed in front
+/// of what the next pass appends, and goes only when the application takes it off the list and deletes it.
 UIUTILS_EXPORT QList<ReportItem*>& sharedReportItems();
+
+/// Deletes the items that passes have made and takes them off the list; others stay.
+UIUTILS_EXPORT void deleteItemsOfPasses(QList<ReportItem*>& items);
 
 } // namespace uiutils

@@ -1,5 +1,6 @@
 #include "writers/templatetohtmlwriter.h"
 
+#include "base/durablefile.h"
 #include "base/paths.h"
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
@@ -56,6 +57,7 @@ struct TemplateToHtmlWriter::OverallStatus
 
 TemplateToHtmlWriter::TemplateToHtmlWriter(const ReportTemplate& document, QList<ReportItem*>* items)
     : m_document(document.object())
+    , m_items(items)
 {
     const int indentStep = uiutils::textOf(m_document.value(keys::indentPixels)).toInt();
     m_html = std::make_unique<HtmlStreamWriter>(indentStep, items);
@@ -90,6 +92,9 @@ void TemplateToHtmlWriter::collectItems()
 void TemplateToHtmlWriter::writePage()
 {
     m_isWritten = true;
+    // What is being printed keeps its items.
+    if (m_items && !ReportPDF::isPrinting())
+        uiutils::deleteItemsOfPasses(*m_items);
     const QList<Style*> rules = styles();
     m_html->writeHead(title(), rules);
     qDeleteAll(rules);
@@ -293,14 +298,14 @@ void TemplateToHtmlWriter::writeHardwareTable()
     m_html->endTable();
 }
 
-void TemplateToHtmlWriter::sectionsToHtml(const QJsonObject& node)
+void TemplateToHtmlWriter::sectionsToHtml(QJsonObject& node)
 {
     ++m_depth;
-    NodeReader(node).forEachSection([this](const QJsonObject& section) { sectionToHtml(section); });
+    NodeReader(node).forEachSection(NodeReader::ByKey, [this](QJsonObject section) { sectionToHtml(section); });
     --m_depth;
 }
 
-void TemplateToHtmlWriter::sectionToHtml(const QJsonObject& object)
+void TemplateToHtmlWriter::sectionToHtml(QJsonObject& object)
 {
     const NodeReader section(object);
     if (!section.isEnabled())
@@ -321,12 +326,12 @@ void TemplateToHtmlWriter::writeConfigurationValues(const NodeReader& section)
     writeInformation(*m_html, uiutils::configurationTable(section, NodeReader(m_document)), m_depth);
 }
 
-void TemplateToHtmlWriter::tablesToHtml(const QJsonObject& node)
+void TemplateToHtmlWriter::tablesToHtml(QJsonObject& node)
 {
-    NodeReader(node).forEachTable([this](const QString&, const QJsonObject& object) {
+    NodeReader(node).forEachTable(NodeReader::ByKey, [this](const QString& key, const QJsonObject& object) {
         const TableReader table(object);
         if (table.isPlot())
-            plotToHtml(table.text(keys::service));
+            plotToHtml(table.text(keys::service), NodeReader::tableNumber(key).value_or(0));
         else
             tableToHtml(table);
     });
@@ -341,7 +346,7 @@ void TemplateToHtmlWriter::tableToHtml(const TableReader& table)
     m_html->startTable(table.title(), table.columnLabels(), hasLabels, m_depth, attributes);
     const TableReader::Extent extent = table.extent();
     m_html->expectRows(extent.rows, extent.cells);
-    table.forEachRow([&](const QString& key, const QJsonObject& row) {
+    table.forEachRow(NodeReader::ByKey, [&](const QString& key, const QJsonObject& row) {
         if (key.startsWith(keys::rowFamily))
             rowToHtml(table, hasLabels, row);
     });
@@ -372,16 +377,20 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
     m_html->endRow();
 }
 
-void TemplateToHtmlWriter::plotToHtml(const QString& service)
+/// The file is there for others to look at; tables of one number in several sections write it one after the other.
+void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumber)
 {
+    const QString path = uiutils::paths::plotImage(tableNumber);
     auto known = m_plots.constFind(service);
-    if (known == m_plots.constEnd()) {
+    if (known != m_plots.constEnd()) {
+        (void)uiutils::writeFileDurably(uiutils::onDisk(path), *known);
+    } else {
         PlotImage plot;
         plot.setService(service);
         plot.setCurveBackground(attribute(QStringLiteral("plot_curve_bg")).toString());
         plot.setSize(attribute(QStringLiteral("plot_width")).toInt(), attribute(QStringLiteral("plot_height")).toInt());
         plot.setPixelScale(m_plotPixels);
-        plot.write(uiutils::paths::plotImage(m_plots.size()));
+        plot.write(path);
         known = m_plots.insert(service, plot.getData());
     }
     m_html->writeImageParagraph(*known, m_plotPixels);

@@ -23,12 +23,13 @@ class TableReader;
 /// Turns a report document into one stand-alone HTML page, and in the same pass collects its tables as report items
 /// for the page renderer.
 ///
-/// The writer never fails: what is missing reads as empty. Set the attributes first, then call getHtml().
+/// The writer never fails: what is missing reads as empty. Set the attributes first, then call getHtml(). The parts of
+/// the pass are public for those who write pages of their own.
 class UIUTILS_EXPORT TemplateToHtmlWriter
 {
 public:
-    /// Keeps the document as it is now. The tables are appended to `items`, whose owner deletes them; null collects
-    /// none.
+    /// Keeps the document as it is now. The pass appends its items to `items`, after it has deleted those that an
+    /// earlier pass has left there, unless they are being printed; null collects none.
     explicit TemplateToHtmlWriter(
             const ReportTemplate& document, QList<ReportItem*>* items = &uiutils::sharedReportItems());
     virtual ~TemplateToHtmlWriter();
@@ -56,6 +57,10 @@ public:
     /// The page. The first call writes it; later calls return the same text.
     QString getHtml();
 
+    /// Write the sections below a node with what they hold, and the tables directly in it.
+    void sectionsToHtml(QJsonObject& node);
+    void tablesToHtml(QJsonObject& node);
+
 private:
     struct OverallStatus;
 
@@ -73,16 +78,15 @@ private:
     void writeSoftwareTable();
     void writeHardwareTable();
 
-    void sectionsToHtml(const QJsonObject& node);
-    void sectionToHtml(const QJsonObject& section);
-    void tablesToHtml(const QJsonObject& node);
+    void sectionToHtml(QJsonObject& section);
     void tableToHtml(const uiutils::TableReader& table);
     void rowToHtml(const uiutils::TableReader& table, bool hasLabel, const QJsonObject& row);
-    void plotToHtml(const QString& service);
+    void plotToHtml(const QString& service, quint64 tableNumber);
     void writeConfigurationValues(const uiutils::NodeReader& section);
 
     QJsonObject m_document;
     QVariantMap m_bodyAttributes;
+    QList<ReportItem*>* m_items;
     std::unique_ptr<HtmlStreamWriter> m_html;
     // A picture of each service: the page holds them anyway, and drawing one takes longer than the rest of the page.
     QHash<QString, QByteArray> m_plots;

@@ -30,8 +30,6 @@ void TemplateToPdfWriter::layOut()
     // The items of the last pass may be the ones that are being printed.
     if (ReportPDF::isPrinting())
         return;
-    qDeleteAll(*m_items);
-    m_items->clear();
     m_html.collectItems();
     setUpPages();
 }

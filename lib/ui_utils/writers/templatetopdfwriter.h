@@ -14,8 +14,8 @@ class ReportTemplate;
 class UIUTILS_EXPORT TemplateToPdfWriter
 {
 public:
-    /// Keeps the document as it is now. The items of the pass are kept in `items` until the next one, which deletes
-    /// them.
+    /// Keeps the document as it is now. The pass appends its items to `items`, where they stay until the next one
+    /// deletes them; others in the list are printed too and stay their owner's.
     explicit TemplateToPdfWriter(
             const ReportTemplate& document, QList<ReportItem*>* items = &uiutils::sharedReportItems());
     ~TemplateToPdfWriter();

@@ -213,7 +213,8 @@ private:
     void writeSections(const QJsonObject& node)
     {
         ++m_depth;
-        NodeReader(node).forEachSection([this](const QJsonObject& section) { writeSection(section); });
+        NodeReader(node).forEachSection(
+                NodeReader::ByNumber, [this](const QJsonObject& section) { writeSection(section); });
         --m_depth;
     }
 
@@ -247,7 +248,7 @@ private:
 
     void writeTables(const QJsonObject& node)
     {
-        NodeReader(node).forEachTable([this](const QString&, const QJsonObject& object) {
+        NodeReader(node).forEachTable(NodeReader::ByNumber, [this](const QString&, const QJsonObject& object) {
             const TableReader table(object);
             if (table.isPlot())
                 writePlot(table);
@@ -260,7 +261,7 @@ private:
     {
         const bool hasLabels = reader.usesRowLabels();
         TextTable table(reader.title(), reader.columnLabels());
-        reader.forEachRow([&](const QString& key, const QJsonObject& row) {
+        reader.forEachRow(NodeReader::ByNumber, [&](const QString& key, const QJsonObject& row) {
             if (!key.startsWith(keys::rowFamily))
                 return;
             table.startRow(hasLabels ? shownTextOf(row.value(keys::label)) : QString());
