@@ -49,8 +49,8 @@ namespace uiutils {
 /// Call it only where the disk is touched or a process is started: everything that is shown, stored or signalled
 /// keeps the instrument's form.
 ///
-/// While the variable's value is not text in the encoding of file names (see rootProblem()), those paths are put below a
-/// name that no file system takes: whatever is asked for there fails. The log says why, once.
+/// While the variable's value is not text in the encoding of file names (see rootProblem()), those paths are put below
+/// a name that no file system takes: whatever is asked for there fails. The log says why, once.
 QString onDisk(const QString& path);
 
 /// Why the folder that UIUTILS_ROOT names cannot be used, and what to do: its name is not written in the encoding of

@@ -49,7 +49,8 @@ bool isOwn(const struct stat& entry)
     return entry.st_uid == ::geteuid();
 }
 
-/// Everything is named by the descriptor of the folder that holds it: a path could lead elsewhere by the time it is used.
+/// Everything is named by the descriptor of the folder that holds it: a path could lead elsewhere by the time it is
+/// used.
 int openMember(int folder, const char* name, int flags)
 {
     int fd = -1;

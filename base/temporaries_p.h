@@ -4,11 +4,11 @@
 #include <QString>
 
 /// Files and folders that stand beside a target while it is being made. Their makers hold a lock on them, which goes
-/// with the process however that ends: what has none was left behind. A folder also has a mark in it, a file that nobody
-/// else makes: reports may lie in a folder that is called the same, and stay.
+/// with the process however that ends: what has none was left behind. A folder also has a mark in it, a file that
+/// nobody else makes: reports may lie in a folder that is called the same, and stay.
 ///
-/// What is removed is named by the descriptor of the folder that holds it. Links are never followed, and what belongs to
-/// another user, or lies on another device, stays.
+/// What is removed is named by the descriptor of the folder that holds it. Links are never followed, and what belongs
+/// to another user, or lies on another device, stays.
 namespace uiutils {
 
 /// A name that nobody else has in its folder, with this behind it.

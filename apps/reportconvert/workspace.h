@@ -8,9 +8,9 @@
 
 namespace uiutils::convert {
 
-/// A folder of this run's own, removed with the object; what killed runs have left goes first. Unless UIUTILS_ROOT says otherwise, it is the
-/// instrument's root too: the writers find their icons and leave their plots there, and nothing else of the
-/// disk is touched.
+/// A folder of this run's own, removed with the object; what killed runs have left goes first. Unless UIUTILS_ROOT says
+/// otherwise, it is the instrument's root too: the writers find their icons and leave their plots there, and nothing
+/// else of the disk is touched.
 class Workspace
 {
 public:

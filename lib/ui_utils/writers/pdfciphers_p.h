@@ -7,8 +7,8 @@
 
 namespace uiutils::pdf {
 
-/// Lets PoDoFo use RC4, by which the passwords of most encrypted files are checked, where it has to be asked for. Nothing
-/// else that the process does with OpenSSL changes.
+/// Lets PoDoFo use RC4, by which the passwords of most encrypted files are checked, where it has to be asked for.
+/// Nothing else that the process does with OpenSSL changes.
 inline void allowOldCiphers()
 {
 #if OPENSSL_VERSION_MAJOR >= 3

@@ -150,8 +150,8 @@ PoDoFo::PdfString withoutPadding(const PoDoFo::PdfString& string)
     return PoDoFo::PdfString(units.constData(), PoDoFo::pdf_long(units.size()));
 }
 
-/// PoDoFo leaves it in the texts of files of 256 bits, and only there does a text end so. Those in objects that lie packed
-/// in a stream have none, and those objects no parser.
+/// PoDoFo leaves it in the texts of files of 256 bits, and only there does a text end so. Those in objects that lie
+/// packed in a stream have none, and those objects no parser.
 void removePadding(PoDoFo::PdfMemDocument& document)
 {
     PoDoFo::PdfObject* info = document.GetInfo()->GetObject();
@@ -302,7 +302,9 @@ QByteArray save(PoDoFo::PdfMemDocument& document, QString* error)
     QByteArray contents;
     // The padding that PoDoFo leaves in its texts would be written with them.
     if (document.GetEncrypted()) {
-        fail(error, QT_TRANSLATE_NOOP("PdfDocument", "The file is encrypted, and cannot be written so that it stays whole"));
+        fail(error,
+                QT_TRANSLATE_NOOP(
+                        "PdfDocument", "The file is encrypted, and cannot be written so that it stays whole"));
         return contents;
     }
     const bool written = guarded(error, [&] {

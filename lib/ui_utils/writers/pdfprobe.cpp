@@ -256,9 +256,8 @@ QString PdfProbe::problemOf(const QByteArray& contents) const
         return result == pdfprobe::harmless ? QString() : pdf::errorText(result);
     if (helper.isRunning())
         return text(QT_TRANSLATE_NOOP("PdfProbe", "Reading the file takes too long"));
-    return helper.hasBegun()
-            ? text(QT_TRANSLATE_NOOP("PdfProbe", "The file cannot be read without harm"))
-            : cannotTry(m_helper + text(QT_TRANSLATE_NOOP("PdfProbe", " gives no answer")));
+    return helper.hasBegun() ? text(QT_TRANSLATE_NOOP("PdfProbe", "The file cannot be read without harm"))
+                             : cannotTry(m_helper + text(QT_TRANSLATE_NOOP("PdfProbe", " gives no answer")));
 }
 
 } // namespace uiutils

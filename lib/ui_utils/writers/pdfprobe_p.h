@@ -13,8 +13,9 @@ namespace uiutils {
 class PdfProbe
 {
 public:
-    /// The milliseconds that trying a file out and loading it afterwards may take together.
-    static constexpr int patience = 900;
+    /// The milliseconds that trying a file out and loading it afterwards may take together: a second, less what a busy
+    /// machine adds.
+    static constexpr int patience = 750;
 
     /// The helper that was installed or built with this library.
     explicit PdfProbe(int patience = PdfProbe::patience);

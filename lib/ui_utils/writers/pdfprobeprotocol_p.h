@@ -4,9 +4,9 @@
 
 /// What the library and its helper program agree on; the helper knows no Qt.
 ///
-/// The helper finds the file's bytes at descriptor 0 and answers at descriptor 1 with a byte when it has begun, one when
-/// the file is loaded, and one with its result, which may come before. A helper that gives no result did not survive
-/// the file.
+/// The helper finds the file's bytes at descriptor 0 and answers at descriptor 1 with a byte when it has begun, one
+/// when the file is loaded, and one with its result, which may come before. A helper that gives no result did not
+/// survive the file.
 namespace uiutils::pdfprobe {
 
 constexpr unsigned char started = 'S';

@@ -106,8 +106,7 @@ unsigned char resultFor(const char* contents, std::uint64_t bytes)
         return probe::harmless;
     } catch (const PoDoFo::PdfError& error) {
         const int code = error.GetError();
-        return code > probe::harmless && code < probe::loaded ? static_cast<unsigned char>(code)
-                                                                  : probe::otherError;
+        return code > probe::harmless && code < probe::loaded ? static_cast<unsigned char>(code) : probe::otherError;
     } catch (const std::bad_alloc&) {
         return PoDoFo::ePdfError_OutOfMemory;
     } catch (...) {
