@@ -375,12 +375,6 @@ private Q_SLOTS:
     {
         EmbeddedBackend backend;
         ServiceDescription description;
-        QString problem;
-        description.service = "relative";
-        description.mounted = QStringList {"mnt/usb"};
-        QVERIFY(!backend.publish(description, &problem));
-        QVERIFY2(problem.startsWith("/mounted/0: "), qPrintable(problem));
-
         description.mounted = QStringList {"/mnt/usb/"};
         for (const char* name : {"one", "other"}) {
             description.service = name;
