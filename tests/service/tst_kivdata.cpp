@@ -133,6 +133,12 @@ private Q_SLOTS:
         QCOMPARE(speed->getError(), QString("still too fast"));
         speed->revert();
         QCOMPARE(speed->getValue(), QVariant(10));
+        // A report that comes with the refusal has ended the change.
+        speed->setValue(60);
+        m_client->onSet = [this](const QVariant&) { m_speed->state->value = 15, Q_EMIT m_speed->valueChanged(); };
+        speed->apply();
+        speed->revert();
+        QCOMPARE(speed->getValue(), QVariant(15));
     }
 
     void onlySettingsAreWritten()
