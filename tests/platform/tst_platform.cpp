@@ -63,8 +63,7 @@ private Q_SLOTS:
     void clientsByName()
     {
         KIVClientInterface* base = KIVClientInterface::getBaseMgrClient();
-        QVERIFY(base);
-        QVERIFY(base->isValid());
+        QVERIFY(base && base->isValid());
         QCOMPARE(base->getServiceName(), QString("basemgr"));
         QCOMPARE(KIVClientInterface::getBaseMgrClient(), base);
 
@@ -92,11 +91,9 @@ private Q_SLOTS:
         QSignalSpy lists(own, &KIVClientInterface::itemsChanged);
         m_setup.reset();
         QCOMPARE(lists.size(), 1);
-        QVERIFY(!item);
-        QVERIFY(!own->isValid());
+        QVERIFY(!item && !own->isValid());
         QVERIFY(!own->getItem(":config:kinds:test:speed:"));
-        QVERIFY(own->getItemIds().isEmpty());
-        QVERIFY(!KIVBackend::current());
+        QVERIFY(own->getItemIds().isEmpty() && !KIVBackend::current());
         QVERIFY(!KIVClientInterface::getBaseMgrClient());
         QVERIFY(!KIVClientInterface::getSessionBusClient("kinds"));
     }

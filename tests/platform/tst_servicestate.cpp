@@ -375,6 +375,10 @@ private Q_SLOTS:
     {
         EmbeddedBackend backend;
         ServiceDescription description;
+        QString problem;
+        description.service = "relative";
+        description.mounted = QStringList {"mnt/usb"};
+        QVERIFY2(!backend.publish(description, &problem) && problem.startsWith("/mounted/0: "), qPrintable(problem));
         description.mounted = QStringList {"/mnt/usb/"};
         for (const char* name : {"one", "other"}) {
             description.service = name;
