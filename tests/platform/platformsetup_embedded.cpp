@@ -57,10 +57,7 @@ public:
 
     bool setReachable(const QString& service, bool isReachable) override
     {
-        EmbeddedService* published = of(service);
-        if (published)
-            published->setReachable(isReachable);
-        return published;
+        return of(service) && (of(service)->setReachable(isReachable), true);
     }
 
     bool setMounted(const QString& service, const QString& path, bool isMounted) override
@@ -70,19 +67,10 @@ public:
 
     bool reportError(const QString& service, const QString& text) override
     {
-        EmbeddedService* published = of(service);
-        if (published)
-            published->reportError(text);
-        return published;
+        return of(service) && (of(service)->reportError(text), true);
     }
 
-    bool setDelay(const QString& service, int ms) override
-    {
-        EmbeddedService* published = of(service);
-        if (published)
-            published->setDelay(ms);
-        return published;
-    }
+    bool setDelay(const QString& service, int ms) override { return of(service) && (of(service)->setDelay(ms), true); }
 
     kiv::embedded::EmbeddedBackend backend;
 

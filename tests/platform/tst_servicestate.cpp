@@ -380,9 +380,7 @@ private Q_SLOTS:
         QString problem;
         description.service = "relative";
         description.mounted = QStringList {"mnt/usb"};
-        QVERIFY(!backend.publish(description, &problem));
-        QVERIFY2(problem.startsWith("/mounted/0: "), qPrintable(problem));
-
+        QVERIFY2(!backend.publish(description, &problem) && problem.startsWith("/mounted/0: "), qPrintable(problem));
         description.mounted = QStringList {"/mnt/usb/"};
         for (const char* name : {"one", "other"}) {
             description.service = name;

@@ -365,6 +365,12 @@ Item {
             compare(driver.value(":config:entry:name:"), "Fiber 7")
             keyClick(Qt.Key_Return)
             compare(driver.value(":config:entry:name:"), "Halfway")
+            // The name is looked up again when the service is back.
+            const named = createTemporaryQmlObject("import UiUtils.Controls 1.0; TextEntry { item: entry_cfg_name }", root)
+            type(named, "Typed")
+            driver.setReachable(false, "entry")
+            driver.setReachable(true, "entry")
+            compare(fieldOf(named).text, "Typed")
         }
 
         function test_leavingByForceCommitsNothing() {

@@ -138,6 +138,8 @@ public:
     {
         if (reply)
             *reply = "done " + argument;
+        if (onSend)
+            onSend();
         return record({"send", id, argument, timeout, reply != nullptr});
     }
     bool invokeAction(const QString& id) override { return record({"invoke", id, QVariant(), 0, false}); }
@@ -167,6 +169,7 @@ public:
     QVector<Call> calls;
     /// What the service does before it answers.
     std::function<void(const QVariant&)> onSet;
+    std::function<void()> onSend;
     /// Refuses every call with this text while it is not empty.
     QString refusal;
     QMap<QString, KIVClientItem*> items;

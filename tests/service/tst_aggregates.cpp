@@ -219,13 +219,32 @@ private Q_SLOTS:
         QVERIFY(!record);
     }
 
+    void aHandlerThatWritesItsRecord()
+    {
+        auto* record = static_cast<KivAggregateData*>(Manifest::getKivData(limitsId));
+        int runs = 0;
+        connect(record, &KivData::valueChanged, this, [&] { record->updateAggregateProperty("low", qMin(++runs + 1, 3)); });
+        Q_EMIT m_limits->valueChanged();
+        QCOMPARE(m_client->calls.last().argument.toMap().value("low"), QVariant(3.0));
+        QCOMPARE(m_client->calls.size(), 2);
+    }
+
+    void slotsMayDeleteTheWrapper_data()
+    {
+        QTest::addColumn<bool>("isMap");
+        QTest::newRow("record") << false;
+        QTest::newRow("map") << true;
+    }
     void slotsMayDeleteTheWrapper()
     {
-        connect(map(), &QQmlPropertyMap::valueChanged, this, [this] { m_manifest.reset(); });
+        QFETCH(bool, isMap);
         QQmlEngine engine;
         Manifest::setQmlContext(engine.rootContext());
         const QPointer<KivData> record = Manifest::getKivData(limitsId);
-        connect(record, &KivData::valueChanged, this, [this] { m_manifest.reset(); });
+        if (isMap)
+            connect(map(), &QQmlPropertyMap::valueChanged, this, [this] { m_manifest.reset(); });
+        else
+            connect(record, &KivData::valueChanged, this, [this] { m_manifest.reset(); });
         QQmlExpression(engine.rootContext(), nullptr, "t_cfg_limits.value.low = 7").evaluate();
         QVERIFY(!record);
     }

@@ -6,7 +6,10 @@
 #include <kiv/baseformatter.h>
 
 #include <QDoubleValidator>
+#include <QFile>
 #include <QIntValidator>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QLocale>
 #include <QtTest>
 
@@ -45,37 +48,21 @@ private Q_SLOTS:
         QTest::addColumn<QString>("type");
         QTest::addColumn<bool>("formatted");
         QTest::addColumn<QString>("text");
-        const QVariant none;
-        const QString text = "std::string";
-        QTest::newRow("IP") << 1u << none << none << text << false << "Please enter IP address";
-        QTest::newRow("IPv4") << 2u << none << none << text << false << "0.0.0.0 - 255.255.255.255";
-        QTest::newRow("IPv6") << 3u << none << none << text << false << "Please enter IPv6 address";
-        QTest::newRow("MAC") << 4u << none << none << text << false << "00:00:00:00:00:00 - FF:FF:FF:FF:FF:FF";
-        QTest::newRow("URL") << 15u << none << none << text << false << "Please enter URL";
-        QTest::newRow("DNS") << 20u << none << none << text << false << "Please enter DNS name";
-        QTest::newRow("password, at most") << 17u << QVariant(0) << QVariant(16) << text << false << "16 max chars";
-        QTest::newRow("password, exactly") << 17u << QVariant(8) << QVariant(8) << text << false << "8 chars";
-        QTest::newRow("password, between") << 17u << QVariant(8) << QVariant(16) << text << false << "8 - 16 chars";
-        QTest::newRow("nothing at all wins over equal") << 8u << QVariant("0") << QVariant("0") << text << false << "0 max chars";
-        QTest::newRow("zero in another spelling") << 8u << QVariant("00") << QVariant(16) << text << false << "00 - 16 chars";
-        QTest::newRow("digits") << 18u << QVariant(2) << QVariant(4) << text << false << "2 - 4 digits";
-        QTest::newRow("phone, at most") << 19u << QVariant(0) << QVariant(15) << text << false << "15 max digits";
-        QTest::newRow("phone, exactly") << 19u << QVariant(9) << QVariant(9) << text << false << "9 digits";
         for (unsigned type : {8u, 9u, 10u, 11u, 12u, 17u, 18u, 19u}) {
-            QTest::addRow("type %u without a minimum", type) << type << none << QVariant(5) << text << true << "";
-            QTest::addRow("type %u without a maximum", type) << type << QVariant(5) << none << text << false << "";
+            QTest::addRow("type %u without a minimum", type) << type << QVariant() << QVariant(5) << "int" << true << "";
+            QTest::addRow("type %u without a maximum", type) << type << QVariant(5) << QVariant() << "int" << false << "";
         }
-        QTest::newRow("int") << 9u << QVariant(-5) << QVariant(5) << "int" << false << "-5 - 5 ";
-        QTest::newRow("int with units") << 10u << QVariant(0) << QVariant(5) << "int" << true << "0 - 5 dB";
-        QTest::newRow("one int") << 9u << QVariant(5) << QVariant(5) << "int" << true << "5 only";
-        QTest::newRow("real") << 11u << QVariant(0.5) << QVariant(1000) << "double" << false << "0.50 - 1000.00 ";
-        QTest::newRow("real, formatted") << 12u << QVariant(0.5) << QVariant(100) << "double" << true << "[0.5] - [100]";
-        QTest::newRow("real, no number") << 11u << QVariant("low") << QVariant(1) << "double" << false << "low - 1.00 ";
-        QTest::newRow("text in general") << 0u << QVariant(8) << QVariant(32) << text << false << "8 - 32 chars";
-        QTest::newRow("text without limits") << 14u << none << none << text << false << " -  chars";
-        QTest::newRow("text with units") << 16u << QVariant(1) << QVariant(2) << text << true << "1 - 2 dB";
-        QTest::newRow("number in general") << 13u << QVariant(0) << QVariant(100) << "double" << true << "0 - 100 dB";
-        QTest::newRow("unknown type") << 77u << QVariant("%2") << QVariant("%3") << "int" << true << "%2 - %3 dB";
+        QFile table(UIUTILS_TEST_DATA_DIR "/inputs/rangetexts.txt");
+        QVERIFY(table.open(QIODevice::ReadOnly));
+        table.readLine();
+        while (!table.atEnd()) {
+            const QStringList row = QString::fromUtf8(table.readLine()).split(" | ");
+            const auto limit = [&](int column) {
+                return QJsonDocument::fromJson("[" + row.value(column).toUtf8() + "]").array().at(0).toVariant();
+            };
+            QTest::newRow(qPrintable(row.at(0))) << row.value(2).toUInt() << limit(3) << limit(4) << row.value(5)
+                                                 << row.value(6).startsWith("with units") << row.value(1);
+        }
     }
     void rangeTexts()
     {
@@ -145,6 +132,9 @@ private Q_SLOTS:
         QTest::newRow("beyond repair") << "[unclosed" << "anything\nat all" << "";
         QTest::newRow("reversed lengths") << ".{8,2}" << "abc" << "";
         QTest::newRow("lengths beyond the engine") << ".{0,100000}" << "abc" << "";
+        QTest::newRow("a comment to the end") << "(?x)[a-z]+ # a word" << "123" << "";
+        QTest::newRow("only at the very beginning") << "(*UTF)[a-z]+" << "123" << "";
+        QTest::newRow("extended") << "(?x) [a-z] +" << "abc" << "123";
         QTest::newRow("negative lengths") << ".{-5,10}" << "abc" << "";
         QTest::newRow("letters of any script") << R"(\w+)" << QString::fromUtf8("žлό") << "a b";
     }

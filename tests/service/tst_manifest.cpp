@@ -57,14 +57,48 @@ private Q_SLOTS:
 
     void ofTwoManifestsTheLaterCounts()
     {
-        m_client->add(":config:rec:shared:", 1);
-        const auto first = std::make_unique<Manifest>(m_client.get(), "first", "rec");
-        KivData* firstWrapper = Manifest::getKivData(":config:rec:shared:");
-        auto second = std::make_unique<Manifest>(m_client.get(), "second", "rec");
-        QVERIFY(Manifest::getKivData(":config:rec:shared:") != firstWrapper);
+        const QString id = ":config:rec:shared:";
+        m_client->add(id, 1);
+        QQmlEngine engine;
+        auto first = std::make_unique<Manifest>(m_client.get(), "t", "rec");
+        KivData* firstWrapper = Manifest::getKivData(id);
+        auto second = std::make_unique<Manifest>(m_client.get(), "t", "rec");
+        auto third = std::make_unique<Manifest>(m_client.get(), "t", "rec");
+        Manifest::setQmlContext(engine.rootContext());
+        QQmlExpression live(engine.rootContext(), nullptr, "t_cfg_shared");
+        live.setNotifyOnValueChanged(true);
+        const KivData* latest = Manifest::getKivData(id);
+        QVERIFY(latest && latest != firstWrapper && latest->parent() == third.get());
+        QCOMPARE(live.evaluate().value<KivData*>(), latest);
+        // The one before takes the entry over, and the names with it.
         second.reset();
-        QVERIFY(!Manifest::getKivData(":config:rec:shared:"));
-        QCOMPARE(Manifest::getKivIds("shared", ""), QStringList {":config:rec:shared:"});
+        QCOMPARE(Manifest::getKivData(id), latest);
+        const QSignalSpy changes(&live, &QQmlExpression::valueChanged);
+        third.reset();
+        QCOMPARE(Manifest::getKivData(id), firstWrapper);
+        QCOMPARE(changes.size(), 1);
+        QCOMPARE(live.evaluate().value<KivData*>(), firstWrapper);
+        first.reset();
+        QVERIFY(!Manifest::getKivData(id));
+        QCOMPARE(Manifest::getKivIds("shared", ""), QStringList {id});
+    }
+
+    /// Labels, limits and choices never change while an item is there, and so are read once.
+    void namesAreLookedUpAgainWhenTheServiceIsBack()
+    {
+        m_client->add(":config:rec:list:doubleARRAY:");
+        const Manifest manifest(m_client.get(), "t", "rec");
+        m_client->remove(":config:rec:list:doubleARRAY:");
+        QQmlEngine engine;
+        Manifest::setQmlContext(engine.rootContext());
+        QQmlExpression live(engine.rootContext(), nullptr, "t_cfg_list.label");
+        live.setNotifyOnValueChanged(true);
+        QCOMPARE(live.evaluate(), QVariant(""));
+        const QSignalSpy changes(&live, &QQmlExpression::valueChanged);
+        m_client->add(":config:rec:list:doubleARRAY:")->state->attributes = {{"label", "List"}};
+        Q_EMIT m_client->itemsChanged();
+        QCOMPARE(changes.size(), 1);
+        QCOMPARE(live.evaluate(), QVariant("List"));
     }
 
     void aBatchOfChanges()
@@ -125,7 +159,8 @@ private Q_SLOTS:
         m_client->add(":config:rec:b:", 0);
         RecordedClient otherClient;
         otherClient.add(":config:rec:elsewhere:", 0);
-        Manifest manifest(m_client.get(), "", "rec");
+        auto owner = std::make_unique<Manifest>(m_client.get(), "", "rec");
+        Manifest& manifest = *owner;
         Manifest other(&otherClient, "", "rec");
         QSignalSpy errors(Manifest::getKivData(":config:rec:a:"), &KivData::errorChanged);
         QSignalSpy others(Manifest::getKivData(":config:rec:b:"), &KivData::errorChanged);
@@ -137,7 +172,10 @@ private Q_SLOTS:
         elsewhere->setValue(2);
         Manifest::getKivData(":config:rec:a:")->setValue(1);
         m_client->refusal = "a is out of range";
+        bool isChanging = true;
+        m_client->onSend = [&] { isChanging = manifest.isChanging(); };
         manifest.applyChanges();
+        QVERIFY(!isChanging);
         QCOMPARE(errors.size(), 1);
         QCOMPARE(errors.first(), (QVariantList {"a", "a is out of range"}));
         QCOMPARE(errorsElsewhere.size(), 1);
@@ -146,6 +184,13 @@ private Q_SLOTS:
         m_client->refusal.clear();
         manifest.applyChanges();
         QCOMPARE(sentChanges(*m_client).value("a").toInt(), 1);
+
+        // The service may have the page end the manifest before it refuses.
+        elsewhere->setValue(3);
+        m_client->refusal = "too late";
+        m_client->onSend = [&] { owner.reset(); };
+        manifest.applyChanges();
+        QCOMPARE(elsewhere->getError(), QString("too late"));
     }
 
     void whatWasTakenIsNotPending()
@@ -166,7 +211,7 @@ private Q_SLOTS:
         QCOMPARE(m_client->calls.size(), calls);
     }
 
-    void withoutAClientChangesStayPending()
+    void aChangeWaitsForItsService()
     {
         m_client->add(":config:rec:a:", 1);
         Manifest manifest(m_client.get(), "", "rec");
@@ -174,16 +219,6 @@ private Q_SLOTS:
         manifest.startChanges();
         Manifest::getKivData(":config:rec:a:")->setValue(9);
         without.applyChanges();
-        manifest.applyChanges();
-        QCOMPARE(sentChanges(*m_client).value("a").toInt(), 9);
-    }
-
-    void aChangeWaitsForItsService()
-    {
-        m_client->add(":config:rec:a:", 1);
-        Manifest manifest(m_client.get(), "", "rec");
-        manifest.startChanges();
-        Manifest::getKivData(":config:rec:a:")->setValue(9);
         m_client->remove(":config:rec:a:");
         manifest.applyChanges();
         QCOMPARE(sentChanges(*m_client).size(), 0);
@@ -218,6 +253,12 @@ private Q_SLOTS:
         other->startChanges();
         KivData* a = Manifest::getKivData(":config:rec:a:");
         KivData* b = Manifest::getKivData(":config:rec:b:");
+        a->setValue(10);
+        b->setValue(20);
+        manifest.revertChanges();
+        QCOMPARE(a->getValue(), QVariant(1));
+        QCOMPARE(b->getValue(), QVariant(2));
+        manifest.startChanges();
         a->setValue(10);
         b->setValue(20);
         // Whoever hears of the first item's return may take the second one away.

@@ -17,15 +17,17 @@ namespace uiutils {
 class DynamicObject::Layout final : public QAbstractDynamicMetaObject
 {
 public:
-    Layout(const char* className, const QVector<QByteArray>& names, int type)
-        : m_names(names)
+    Layout(const char* className, const QVector<QByteArray>& names, int type, Changes changes)
+        : m_strings(names)
+        , m_count(qMin(names.size(), maximumProperties))
+        , m_hasNotifier(changes == Changes::Told)
     {
-        m_names.resize(qMin(names.size(), maximumProperties));
-        m_names.append(className);
+        m_strings.resize(m_count);
+        m_strings += {QByteArray(className), QByteArray("namesChanged"), QByteArray("")};
         fillStrings();
         fillNumbers(type);
         d.superdata = &QObject::staticMetaObject;
-        d.stringdata = m_strings.get();
+        d.stringdata = m_stringData.get();
         d.data = m_numbers.data();
         d.static_metacall = nullptr;
         d.relatedMetaObjects = nullptr;
@@ -33,17 +35,19 @@ public:
     }
     virtual ~Layout() = default;
 
-    int count() const { return m_names.size() - 1; }
+    int count() const { return m_count; }
+    int methodCount() const { return m_hasNotifier ? 1 : 0; }
+    QByteArray nameOf(int index) const { return m_strings.at(index); }
 
 private:
     void fillStrings()
     {
-        m_strings = std::make_unique<QByteArrayData[]>(size_t(m_names.size()));
-        for (int i = 0; i < m_names.size(); ++i) {
-            QByteArrayData& string = m_strings[size_t(i)];
+        m_stringData = std::make_unique<QByteArrayData[]>(size_t(m_strings.size()));
+        for (int i = 0; i < m_strings.size(); ++i) {
+            QByteArrayData& string = m_stringData[size_t(i)];
             string.ref.atomic.storeRelaxed(-1); // never freed by who reads it
-            string.size = m_names.at(i).size();
-            string.offset = m_names.at(i).constData() - reinterpret_cast<const char*>(&string);
+            string.size = m_strings.at(i).size();
+            string.offset = m_strings.at(i).constData() - reinterpret_cast<const char*>(&string);
         }
     }
 
@@ -54,25 +58,47 @@ private:
         header.revision = QMetaObjectPrivate::OutputRevision;
         header.className = count();
         header.propertyCount = count();
-        header.propertyData = headerSize;
+        header.methodCount = methodCount();
+        header.signalCount = methodCount();
+        header.methodData = headerSize;
+        header.propertyData = headerSize + methodCount() * methodSize;
         header.flags = DynamicMetaObject;
-        m_numbers.reserve(headerSize + size_t(count()) * 3 + 1);
+        m_numbers.reserve(size_t(header.propertyData) + size_t(count()) * 4 + 1);
         m_numbers.resize(headerSize);
         std::memcpy(m_numbers.data(), &header, sizeof header);
+        if (m_hasNotifier)
+            addNotifier();
+        const uint changes = m_hasNotifier ? Notify : Constant;
         for (int i = 0; i < count(); ++i)
-            m_numbers.insert(m_numbers.end(), {uint(i), uint(type), uint(Readable | Constant | Scriptable)});
+            m_numbers.insert(m_numbers.end(), {uint(i), uint(type), uint(Readable | Scriptable) | changes});
+        if (m_hasNotifier)
+            m_numbers.insert(m_numbers.end(), size_t(count()), 0); // the number of each one's notifier
         m_numbers.push_back(0);
     }
 
-    /// The properties' names and behind them that of the class.
-    QVector<QByteArray> m_names;
-    std::unique_ptr<QByteArrayData[]> m_strings;
+    /// Its name, the number and place of its parameters, its tag, its flags; and what it returns.
+    void addNotifier()
+    {
+        const uint name = uint(count()) + 1;
+        const uint parameters = uint(m_numbers.size()) + methodSize - 1;
+        m_numbers.insert(m_numbers.end(),
+                {name, 0, parameters, name + 1, uint(AccessPublic | MethodSignal), uint(QMetaType::Void)});
+    }
+
+    static constexpr int methodSize = 6;
+
+    /// The properties' names and behind them those of the class and of the notifier, and an empty tag.
+    QVector<QByteArray> m_strings;
+    int m_count;
+    bool m_hasNotifier;
+    std::unique_ptr<QByteArrayData[]> m_stringData;
     std::vector<uint> m_numbers;
 };
 
-DynamicObject::DynamicObject(const char* className, const QVector<QByteArray>& names, int type, QObject* parent)
+DynamicObject::DynamicObject(
+        const char* className, const QVector<QByteArray>& names, int type, Changes changes, QObject* parent)
     : QObject(parent)
-    , m_layout(std::make_unique<Layout>(className, names, type))
+    , m_layout(std::make_unique<Layout>(className, names, type, changes))
 {
     // QML keeps what it learns of a meta-object under its address, for ever. What is learnt of this one must go with
     // it, because another one may lie at its address later.
@@ -81,6 +107,16 @@ DynamicObject::DynamicObject(const char* className, const QVector<QByteArray>& n
 }
 
 DynamicObject::~DynamicObject() = default;
+
+void DynamicObject::tellOfChanges()
+{
+    QMetaObject::activate(this, m_layout.get(), 0, nullptr);
+}
+
+QByteArray DynamicObject::nameOf(int index) const
+{
+    return m_layout->nameOf(index);
+}
 
 const QMetaObject* DynamicObject::metaObject() const
 {
@@ -101,6 +137,12 @@ int DynamicObject::qt_metacall(QMetaObject::Call call, int id, void** arguments)
         return id;
     const int count = m_layout->count();
     switch (call) {
+    case QMetaObject::InvokeMetaMethod:
+        if (id < m_layout->methodCount())
+            tellOfChanges();
+        return id - m_layout->methodCount();
+    case QMetaObject::RegisterMethodArgumentMetaType:
+        return id - m_layout->methodCount();
     case QMetaObject::ReadProperty:
         if (id < count)
             readProperty(id, arguments[0]);

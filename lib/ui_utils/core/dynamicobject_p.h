@@ -8,7 +8,7 @@
 
 namespace uiutils {
 
-/// An object whose read-only, constant properties are known only at run time. All are made in one go: QQmlPropertyMap
+/// An object whose read-only properties are known only at run time. All are made in one go: QQmlPropertyMap
 /// takes time that grows with the square of its keys.
 class DynamicObject : public QObject
 {
@@ -23,8 +23,19 @@ public:
     int qt_metacall(QMetaObject::Call call, int id, void** arguments) override;
 
 protected:
+    /// Whether the properties are constant or may change, all at once.
+    enum class Changes {
+        None,
+        Told,
+    };
+
     /// All properties have the registered type of that id. The names have to differ.
-    DynamicObject(const char* className, const QVector<QByteArray>& names, int type, QObject* parent);
+    DynamicObject(const char* className, const QVector<QByteArray>& names, int type, Changes changes, QObject* parent);
+
+    /// Emits the notifier of the properties.
+    void tellOfChanges();
+
+    QByteArray nameOf(int index) const;
 
     /// Writes the property's value to `result`, which points to one of the properties' type.
     virtual void readProperty(int index, void* result) const = 0;

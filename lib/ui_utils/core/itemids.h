@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLatin1String>
+#include <QString>
 
 /// Ids of the service items that the library itself reads.
 namespace uiutils::itemids {
@@ -66,5 +67,17 @@ inline const QLatin1String saveConfig(":saveconfig:");
 inline const QLatin1String configuration(":config:");
 inline const QLatin1String result(":result:");
 inline const QLatin1String action(":action:");
+
+/// What ends the ids of arrays, behind the item's own name.
+inline const QLatin1String stringArray("stringARRAY:");
+inline const QLatin1String doubleArray("doubleARRAY:");
+
+/// The item's own name in its id.
+inline QString nameOf(QString id)
+{
+    if (id.endsWith(stringArray) || id.endsWith(doubleArray))
+        id.chop(stringArray.size());
+    return id.section(QLatin1Char(':'), -1, -1, QString::SectionSkipEmpty);
+}
 
 } // namespace uiutils::itemids

@@ -26,15 +26,16 @@ bool isSameValue(const QVariant& a, const QVariant& b)
     return a == b && a.isNull() == b.isNull();
 }
 
-QVariant fittedValue(const QVariant& value, int type)
+QVariant readValue(const QVariant& value, int type)
 {
-    QVariant fitted = value;
-    if (value.userType() == type || type == QMetaType::UnknownType || !value.isValid() || !fitted.convert(type))
+    QVariant read = value;
+    if (value.userType() != QMetaType::QString || type == QMetaType::UnknownType || !read.convert(type))
         return value;
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
-    const bool isKept = isNumber ? fitted.toDouble() == number : fitted.toString() == value.toString();
-    return isKept ? fitted : value;
+    const bool isKept
+            = isNumber ? std::isfinite(number) && read.toDouble() == number : read.toString() == value.toString();
+    return isKept ? read : value;
 }
 
 } // namespace uiutils

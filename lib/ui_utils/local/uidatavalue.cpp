@@ -90,31 +90,33 @@ void UiData::setValue(QVariant value)
 {
     value = asWritten(uiutils::plainValue(value));
     if (!isVector()) {
+        if (!mayWrite(!uiutils::isSameValue(value, getValue())))
+            return;
         holdValue(value);
-        Q_EMIT valueChanged();
+        announce({&UiData::valueChanged});
         return;
     }
-    holdValue(vectorText(value).left(longestVectorText));
+    const QString text = vectorText(value).left(longestVectorText);
     // An empty text is one empty element, an empty list none.
-    if (value.type() != QVariant::String && value.toList().isEmpty() && getValue().toString().isEmpty()
-            && value.isValid())
+    const bool isNone
+            = text.isEmpty() && value.isValid() && value.type() != QVariant::String && value.toList().isEmpty();
+    if (!mayWrite(text != getValue() || isNone != m_elements.isEmpty()))
+        return;
+    holdValue(text);
+    if (isNone)
         m_elements.clear();
     else
         updateVectorValue();
-    const QPointer<UiData> self(this);
-    Q_EMIT valueCountChanged();
-    if (self)
-        Q_EMIT valueChanged();
+    announce({&UiData::valueCountChanged, &UiData::valueChanged});
 }
 
 void UiData::setValue(QVector<QVariant> elements)
 {
+    if (!mayWrite(elements != m_elements))
+        return;
     m_elements = std::move(elements);
     joinElements();
-    const QPointer<UiData> self(this);
-    Q_EMIT valueChanged();
-    if (self)
-        Q_EMIT valueCountChanged();
+    announce({&UiData::valueChanged, &UiData::valueCountChanged});
 }
 
 QVariant UiData::element(const QVariant& value) const
@@ -188,41 +190,31 @@ void UiData::setAt(int ind, QVariant const& val)
 {
     if (!isWithin(ind, m_elements.size()))
         return;
-    m_elements[ind] = element(val);
+    const QVariant written = element(val);
+    if (!mayWrite(!uiutils::isSameValue(written, m_elements.at(ind))))
+        return;
+    m_elements[ind] = written;
     joinElements();
-    const QPointer<UiData> self(this);
-    Q_EMIT valueChanged();
-    if (self)
-        Q_EMIT arraySelectionChanged();
+    announce({&UiData::valueChanged, &UiData::arraySelectionChanged});
 }
 
 void UiData::insertAt(int ind, const QVariant& val)
 {
-    if (!isVector() || !isWithin(ind, m_elements.size() + 1))
+    if (!isVector() || !isWithin(ind, m_elements.size() + 1) || !mayWrite(true))
         return;
     m_elements.insert(ind, element(val));
     joinElements();
-    const QPointer<UiData> self(this);
-    Q_EMIT valueChanged();
-    if (self)
-        Q_EMIT valueCountChanged();
-    if (self)
-        Q_EMIT arraySelectionChanged();
+    announce({&UiData::valueChanged, &UiData::valueCountChanged, &UiData::arraySelectionChanged});
 }
 
 void UiData::removeAt(int at)
 {
-    if (!isWithin(at, m_elements.size()))
+    if (!isWithin(at, m_elements.size()) || !mayWrite(true))
         return;
     m_elements.removeAt(at);
     m_arraySelection = qMax(0, qMin(m_arraySelection, m_elements.size() - 1));
     joinElements();
-    const QPointer<UiData> self(this);
-    Q_EMIT valueChanged();
-    if (self)
-        Q_EMIT arraySelectionChanged();
-    if (self)
-        Q_EMIT valueCountChanged();
+    announce({&UiData::valueChanged, &UiData::arraySelectionChanged, &UiData::valueCountChanged});
 }
 
 int UiData::getArraySelection() const

@@ -19,28 +19,81 @@ struct Token
     QString text;
 };
 
+/// As QML reads names; what it takes for one depends on the Unicode of Qt, which that of regular expressions is ahead
+/// of.
+bool beginsName(uint character)
+{
+    switch (QChar::category(character)) {
+    case QChar::Letter_Uppercase:
+    case QChar::Letter_Lowercase:
+    case QChar::Letter_Titlecase:
+    case QChar::Letter_Modifier:
+    case QChar::Letter_Other:
+    case QChar::Number_Letter:
+        return true;
+    default:
+        return character == '_' || character == '$';
+    }
+}
+
+bool continuesName(uint character)
+{
+    switch (QChar::category(character)) {
+    case QChar::Mark_NonSpacing:
+    case QChar::Mark_SpacingCombining:
+    case QChar::Number_DecimalDigit:
+    case QChar::Punctuation_Connector:
+        return true;
+    default:
+        return beginsName(character);
+    }
+}
+
+/// Where the name that begins at a position ends; the position itself when none does.
+int nameEnd(const QString& text, int at)
+{
+    int end = at;
+    while (end < text.size()) {
+        const bool isPair = end + 1 < text.size() && text.at(end).isHighSurrogate();
+        const uint character = isPair ? QChar::surrogateToUcs4(text.at(end), text.at(end + 1)) : text.at(end).unicode();
+        if (!(end == at ? beginsName(character) : continuesName(character)))
+            break;
+        end += isPair ? 2 : 1;
+    }
+    return end;
+}
+
+std::optional<Token> tokenAt(const QString& text, int at)
+{
+    static const QRegularExpression others(QStringLiteral(
+            R"(((?:0[xX][0-9A-Fa-f]+|(?:(?:0|[1-9]\d*)(?:\.\d*)?|\.\d+)(?:[eE][+-]?\d+)?)(?![\w$.]))"
+            R"(|"(?:[^"\\\p{Cc}\x{2028}\x{2029}]|\\[\\'"nt])*"|'(?:[^'\\\p{Cc}\x{2028}\x{2029}]|\\[\\'"nt])*'))"
+            R"(|(===|!==|==|!=|<=|>=|&&|\|\||<<|>>>|>>|\+(?!\+)|-(?!-)|[*/%<>!~&|^?:.,()\[\]]))"));
+    const int end = nameEnd(text, at);
+    if (end > at)
+        return Token {Token::Name, text.mid(at, end - at)};
+    const QRegularExpressionMatch match
+            = others.match(text, at, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption);
+    if (!match.hasMatch())
+        return std::nullopt;
+    return Token {match.capturedLength(1) > 0 ? Token::Literal : Token::Operator, match.captured()};
+}
+
 std::optional<QVector<Token>> tokens(const QString& expression, QString* problem)
 {
-    static const QRegularExpression token(QStringLiteral(
-            R"(\s*(?:([A-Za-z_$][\w$]*))"
-            R"(|((?:0[xX][0-9A-Fa-f]+|(?:(?:0|[1-9]\d*)(?:\.\d*)?|\.\d+)(?:[eE][+-]?\d+)?)(?![\w$.]))"
-            R"(|"(?:[^"\\\p{Cc}\x{2028}\x{2029}]|\\[\\'"nt])*"|'(?:[^'\\\p{Cc}\x{2028}\x{2029}]|\\[\\'"nt])*'))"
-            R"(|(===|!==|==|!=|<=|>=|&&|\|\||<<|>>>|>>|\+(?!\+)|-(?!-)|[*/%<>!~&|^?:.,()\[\]])))"));
-
     QVector<Token> list;
-    const QString text = expression.trimmed();
-    for (int at = 0; at < text.size();) {
-        const QRegularExpressionMatch match
-                = token.match(text, at, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption);
-        if (!match.hasMatch()) {
-            *problem = QStringLiteral("\"%1\" is not allowed here").arg(text.mid(at).trimmed().left(20));
+    for (int at = 0; at < expression.size();) {
+        if (expression.at(at).isSpace()) {
+            ++at;
+            continue;
+        }
+        const std::optional<Token> token = tokenAt(expression, at);
+        if (!token) {
+            *problem = QStringLiteral("\"%1\" is not allowed here").arg(expression.mid(at).trimmed().left(20));
             return std::nullopt;
         }
-        const Token::Kind kind = match.capturedLength(1) > 0 ? Token::Name
-                : match.capturedLength(2) > 0                ? Token::Literal
-                                                             : Token::Operator;
-        list.append({kind, match.captured(int(kind) + 1)});
-        at = match.capturedEnd();
+        list.append(*token);
+        at += token->text.size();
     }
     return list;
 }
@@ -147,8 +200,7 @@ private:
     /// `count` tokens that name the item, its own name the last.
     void takeItem(const QString& tag, const QString& kind, int count)
     {
-        static const QRegularExpression identifier(QStringLiteral("^[A-Za-z_$][\\w$]*$"));
-        if (!identifier.match(tag).hasMatch())
+        if (tag.isEmpty() || nameEnd(tag, 0) != tag.size())
             return refuse(tag);
         m_result += tag + QLatin1Char('_') + kind + QLatin1Char('_') + nameAt(m_at + count - 1);
         m_at += count;

@@ -29,7 +29,7 @@ EnumNames* EnumNames::create(const KIVEnumChoicesClientItem& choices, QObject* p
 }
 
 EnumNames::EnumNames(const QVector<QByteArray>& names, const QVector<int>& values, QObject* parent)
-    : DynamicObject("EnumNames", names, QMetaType::Int, parent)
+    : DynamicObject("EnumNames", names, QMetaType::Int, Changes::None, parent)
     , m_values(values)
 {
 }

@@ -31,11 +31,19 @@ double realLimit(const QVariant& limit)
     return std::isnan(number) ? 0 : number;
 }
 
-bool isUsable(const QRegularExpression& expression)
+/// Why nothing could ever be entered; empty for an expression that can be used.
+QString problemOf(const QRegularExpression& expression)
 {
-    // A length below zero reads as plain text, which nobody could ever enter.
+    // A length below zero reads as plain text.
     static const QRegularExpression negativeLength(QStringLiteral("^\\.\\{(-\\d+,-?\\d+|\\d+,-\\d+)\\}$"));
-    return expression.isValid() && !negativeLength.match(expression.pattern()).hasMatch();
+    if (!expression.isValid())
+        return expression.errorString();
+    if (negativeLength.match(expression.pattern()).hasMatch())
+        return QStringLiteral("a length below zero");
+    // A validator anchors it.
+    const QRegularExpression anchored(
+            QRegularExpression::anchoredPattern(expression.pattern()), expression.patternOptions());
+    return anchored.isValid() ? QString() : QStringLiteral("nothing may stand around it");
 }
 
 void warnOnce(const QString& pattern, const QString& reason)
@@ -81,12 +89,13 @@ QString withEscapedHyphens(const QString& pattern)
 QRegularExpression inputExpression(const QString& pattern)
 {
     const QRegularExpression expression(pattern, QRegularExpression::UseUnicodePropertiesOption);
-    if (isUsable(expression))
+    const QString problem = problemOf(expression);
+    if (problem.isEmpty())
         return expression;
     const QRegularExpression repaired(withEscapedHyphens(pattern), QRegularExpression::UseUnicodePropertiesOption);
-    if (isUsable(repaired))
+    if (problemOf(repaired).isEmpty())
         return repaired;
-    warnOnce(pattern, expression.isValid() ? QStringLiteral("a length below zero") : expression.errorString());
+    warnOnce(pattern, problem);
     return QRegularExpression(QStringLiteral(".*"), QRegularExpression::DotMatchesEverythingOption);
 }
 
@@ -95,8 +104,8 @@ bool applyRule(const InputRule& rule, QValidator* validator)
     auto* text = qobject_cast<ForgivingValidator*>(validator);
     auto* real = qobject_cast<QDoubleValidator*>(validator);
     auto* whole = qobject_cast<QIntValidator*>(validator);
-    const bool isText = rule.type == QLatin1String("std::string");
-    const bool isReal = rule.type == QLatin1String("double");
+    const bool isText = rule.type == textType;
+    const bool isReal = rule.type == realType;
     if (isText && text) {
         text->setRegularExpression(inputExpression(rule.regex));
     } else if (isReal && real) {
@@ -111,12 +120,19 @@ bool applyRule(const InputRule& rule, QValidator* validator)
     return true;
 }
 
+InputRule openRule(QLatin1String type)
+{
+    constexpr double open = std::numeric_limits<double>::infinity();
+    constexpr unsigned mostDecimals = 1000;
+    return {type, QStringLiteral(".*"), -open, open, mostDecimals};
+}
+
 QValidator* createValidator(const InputRule& rule, QObject* parent)
 {
     QValidator* validator = nullptr;
-    if (rule.type == QLatin1String("std::string"))
+    if (rule.type == textType)
         validator = new ForgivingValidator(parent);
-    else if (rule.type == QLatin1String("double"))
+    else if (rule.type == realType)
         validator = new QDoubleValidator(parent);
     else
         validator = new QIntValidator(parent);

@@ -22,7 +22,14 @@ struct InputRule
     unsigned precision = 0;
 };
 
-/// A validator of an item's entry: a ForgivingValidator for "std::string", a QDoubleValidator for "double", else a
+/// The types that have validators of their own.
+constexpr QLatin1String textType("std::string");
+constexpr QLatin1String realType("double");
+
+/// A rule that takes every value of the type.
+InputRule openRule(QLatin1String type);
+
+/// A validator of an item's entry: a ForgivingValidator for textType, a QDoubleValidator for realType, else a
 /// QIntValidator. The parent owns it.
 QValidator* createValidator(const InputRule& rule, QObject* parent);
 
@@ -31,7 +38,8 @@ QValidator* createValidator(const InputRule& rule, QObject* parent);
 bool applyRule(const InputRule& rule, QValidator* validator);
 
 /// The expression for `pattern`. One that PCRE2 refuses for a hyphen behind a class escape ("[\d-.]") is read as its
-/// author meant it; one that cannot be repaired accepts everything and is logged once.
+/// author meant it. One that cannot be repaired, or is good only as long as nothing stands around it ("(*UTF)a", "(?x)a
+/// # b"), accepts everything and is logged once.
 QRegularExpression inputExpression(const QString& pattern);
 
 /// `pattern` with the hyphens escaped that stand behind a class escape inside brackets.

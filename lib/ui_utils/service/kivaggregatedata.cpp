@@ -62,20 +62,20 @@ void KivAggregateData::updateAggregateProperty(QString const& key, QVariant valu
     const QPointer<KivAggregateData> self(this);
     if (source && getClient() && !isReadOnly()) {
         KivAggregate aggregate = source->getAggregate();
-        if (aggregate.setPropertyFromVariant(key.toUtf8(), uiutils::plainValue(value)))
-            writeValue(aggregate.toVariant());
-        else
+        if (!aggregate.setPropertyFromVariant(key.toUtf8(), uiutils::plainValue(value)))
             refuse(tr("%1 has no member %2.").arg(getLabel().isEmpty() ? getName() : getLabel(), key));
+        else if (!writeValue(aggregate.toVariant()))
+            return;
     }
     if (self)
-        Q_EMIT valueChanged();
+        announce({&KivData::valueChanged});
 }
 
 void KivAggregateData::slotValueChanged()
 {
     settleReport();
-    const QPointer<KivAggregateData> self(this);
-    updateQmlMapFromItem();
-    if (self)
-        Q_EMIT valueChanged();
+    if (const KivAggregateClientItem* source = aggregateItem())
+        holdReport(source->getAggregate().toVariant());
+    // Bindings hear of each member while the map is filled and may answer there already.
+    announce({static_cast<void (KivData::*)()>(&KivAggregateData::updateQmlMapFromItem), &KivData::valueChanged});
 }

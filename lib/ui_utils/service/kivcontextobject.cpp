@@ -1,10 +1,22 @@
 #include "service/kivcontextobject_p.h"
 
 #include "service/kivdata.h"
+#include "service/manifest.h"
 
 #include <QDebug>
 
 #include <algorithm>
+
+namespace {
+
+/// All that live.
+QVector<KIVContextObject*>& contextObjects()
+{
+    static auto& objects = *new QVector<KIVContextObject*>;
+    return objects;
+}
+
+} // namespace
 
 KIVContextObject::KIVContextObject(const QMap<QString, KivData*>& items, QObject* parent)
     : KIVContextObject(namesOf(items), parent)
@@ -12,33 +24,48 @@ KIVContextObject::KIVContextObject(const QMap<QString, KivData*>& items, QObject
 }
 
 KIVContextObject::KIVContextObject(const Names& names, QObject* parent)
-    : DynamicObject("KIVContextObject", names.names, qRegisterMetaType<KivData*>(), parent)
-    , m_wrappers(names.wrappers)
+    : DynamicObject("KIVContextObject", names.names, qRegisterMetaType<KivData*>(), Changes::Told, parent)
+    , m_items(names.items)
 {
+    contextObjects().append(this);
 }
 
-KIVContextObject::~KIVContextObject() = default;
+KIVContextObject::~KIVContextObject()
+{
+    contextObjects().removeOne(this);
+}
+
+void KIVContextObject::evaluateNames()
+{
+    QVector<QPointer<KIVContextObject>> objects;
+    for (KIVContextObject* object : qAsConst(contextObjects()))
+        objects.append(object);
+    for (const QPointer<KIVContextObject>& object : qAsConst(objects)) {
+        if (object)
+            object->tellOfChanges();
+    }
+}
 
 KIVContextObject::Names KIVContextObject::namesOf(const QMap<QString, KivData*>& items)
 {
-    QVector<QPair<QByteArray, KivData*>> named;
+    QVector<QPair<QByteArray, Item>> named;
     named.reserve(items.size());
-    for (KivData* wrapper : items) {
-        QByteArray name = wrapper ? wrapper->getQmlTag().toUtf8() : QByteArray();
+    for (auto it = items.cbegin(); it != items.cend(); ++it) {
+        QByteArray name = *it ? (*it)->contextName().toUtf8() : QByteArray();
         if (!name.isEmpty())
-            named.append({std::move(name), wrapper});
+            named.append({std::move(name), {it.key(), *it}});
     }
     // Stable, so that of equal names the last one stays the last.
     std::stable_sort(named.begin(), named.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
 
     Names names;
     names.names.reserve(named.size());
-    names.wrappers.reserve(named.size());
+    names.items.reserve(named.size());
     for (auto it = named.begin(); it != named.end(); ++it) {
         if (it + 1 != named.end() && (it + 1)->first == it->first)
             continue;
         names.names.append(std::move(it->first));
-        names.wrappers.append(it->second);
+        names.items.append(it->second);
     }
     static bool isReported = false;
     if (names.names.size() > maximumProperties && !isReported) {
@@ -51,5 +78,12 @@ KIVContextObject::Names KIVContextObject::namesOf(const QMap<QString, KivData*>&
 
 void KIVContextObject::readProperty(int index, void* result) const
 {
-    *static_cast<KivData**>(result) = m_wrappers.at(index);
+    const Item& item = m_items.at(index);
+    KivData* wrapper = item.wrapper;
+    if (!wrapper) {
+        wrapper = Manifest::getKivData(item.id);
+        if (wrapper && wrapper->contextName().toUtf8() != nameOf(index))
+            wrapper = nullptr;
+    }
+    *static_cast<KivData**>(result) = wrapper;
 }

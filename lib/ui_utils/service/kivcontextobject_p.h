@@ -16,20 +16,29 @@ class KivData;
 class KIVContextObject final : public uiutils::DynamicObject
 {
 public:
-    /// One property per name of a wrapper, see KivData::getQmlTag(); of wrappers with one name the last in the order of
-    /// ids counts. A wrapper that goes later reads as null.
+    /// One property per name of a wrapper, see KivData::getQmlTag(), whether its service is there or away; of wrappers
+    /// with one name the last in the order of ids counts. A wrapper that goes later reads as null, or as the one that
+    /// has its id and name then.
     KIVContextObject(const QMap<QString, KivData*>& items, QObject* parent);
     ~KIVContextObject() override;
 
+    /// Has whatever uses a name, of any such object, look it up again.
+    static void evaluateNames();
+
 private:
+    struct Item
+    {
+        QString id;
+        QPointer<KivData> wrapper;
+    };
     struct Names
     {
         QVector<QByteArray> names;
-        QVector<QPointer<KivData>> wrappers;
+        QVector<Item> items;
     };
     static Names namesOf(const QMap<QString, KivData*>& items);
     KIVContextObject(const Names& names, QObject* parent);
     void readProperty(int index, void* result) const override;
 
-    QVector<QPointer<KivData>> m_wrappers;
+    QVector<Item> m_items;
 };

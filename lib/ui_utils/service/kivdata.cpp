@@ -1,5 +1,8 @@
 #include "service/kivdata.h"
 
+#include "core/itemids.h"
+#include "core/plainvalue_p.h"
+#include "service/announcement_p.h"
 #include "service/applicability_p.h"
 #include "service/enumnames_p.h"
 #include "service/inputrange_p.h"
@@ -36,7 +39,7 @@ KivData::KivData(KIVClientItem* item, Manifest* manifest)
 KivData::~KivData()
 {
     if (m_announcing)
-        *m_announcing = false;
+        m_announcing->abandon();
     Manifest::forget(m_id, this);
 }
 
@@ -46,6 +49,9 @@ void KivData::connectItem()
 {
     m_isBound = true;
     m_isVector = qobject_cast<KIVVecClientItem*>(m_item);
+    const QString type = m_item->getTypeName();
+    m_isText = type == uiutils::textType;
+    m_isReal = type == uiutils::realType;
     connect(m_item, &KIVClientItem::valueChanged, this, &KivData::slotValueChanged);
     connect(m_item, &KIVClientItem::unitsChanged, this, &KivData::slotUnitsChanged);
     connect(m_item, &KIVClientItem::isReadyChanged, this, &KivData::slotIsReadyChanged);
@@ -72,7 +78,8 @@ void KivData::bindItem(KIVClientItem* item)
     announceItem();
 }
 
-/// Everything may be different with another item. A pending change stays: the user has not taken it back.
+/// Everything may be different with another item. A pending change stays, since the user has not taken it back, unless
+/// the service comes with another value, which is a report.
 void KivData::announceItem()
 {
     const QPointer<KivData> self(this);
@@ -91,9 +98,12 @@ void KivData::announceItem()
     if (!stillHere())
         return;
     const bool isTable = qobject_cast<KivListAggregateClientItem*>(m_item);
-    if (m_item && !isPending())
+    const QVariant value = m_item ? m_item->getValue() : QVariant();
+    const bool isAnother = value.isValid() && !uiutils::isSameValue(value, m_reported);
+    const bool isReport = m_item && (!isPending() || isAnother);
+    if (isReport)
         slotValueChanged();
-    if (stillHere() && (!m_item || isPending() || isTable))
+    if (stillHere() && (!isReport || isTable))
         Q_EMIT valueChanged();
 }
 
@@ -112,14 +122,20 @@ KIVClientInterface* KivData::getClient() const
 
 QString KivData::getQmlTag() const
 {
+    return m_item ? contextName() : QString();
+}
+
+QString KivData::contextName() const
+{
     const Manifest* owner = manifest();
-    if (!m_item || !owner)
+    if (m_id.isEmpty() || !owner)
         return QString();
     const QLatin1String kind = m_id.startsWith(QLatin1String(":act")) ? QLatin1String("act")
             : m_id.startsWith(QLatin1String(":res"))                  ? QLatin1String("res")
             : m_id.startsWith(QLatin1String(":con"))                  ? QLatin1String("cfg")
                                                                       : QLatin1String();
-    return owner->getQmlTag() % QLatin1Char('_') % kind % QLatin1Char('_') % getName();
+    const QString name = m_item ? m_item->getName() : uiutils::itemids::nameOf(m_id);
+    return owner->getQmlTag() % QLatin1Char('_') % kind % QLatin1Char('_') % name;
 }
 
 QString KivData::getId() const
@@ -188,14 +204,22 @@ QString KivData::getRangeDescription() const
 /// Made when it is first asked for: most items are never edited.
 QValidator* KivData::getValidator() const
 {
-    return m_validator || m_item ? currentValidator() : nullptr;
+    return m_validator || !m_id.isEmpty() ? currentValidator() : nullptr;
 }
 
 QValidator* KivData::currentValidator() const
 {
     if (!m_validator)
-        m_validator = uiutils::createValidator(inputRule(), const_cast<KivData*>(this));
+        m_validator = uiutils::createValidator(currentRule(), const_cast<KivData*>(this));
     return m_validator;
+}
+
+/// While the service is away an entry is held to what kind of value it is: the limits come with the service.
+uiutils::InputRule KivData::currentRule() const
+{
+    if (m_item || m_id.isEmpty())
+        return inputRule();
+    return uiutils::openRule(m_isText ? uiutils::textType : m_isReal ? uiutils::realType : QLatin1String());
 }
 
 uiutils::InputRule KivData::inputRule() const
@@ -228,7 +252,7 @@ BaseFormatter* KivData::getBaseFormatter() const
 /// There from the start, because the item that names it may vanish.
 void KivData::createFormatter()
 {
-    if (getType() == QLatin1String("std::string"))
+    if (getType() == uiutils::textType)
         return;
     const QString name = getAttr(QStringLiteral("formatter")).toString();
     if (name.isEmpty() || !getAttr(QStringLiteral("enum")).toString().isEmpty())
@@ -355,8 +379,7 @@ void KivData::slotValueChanged()
     settleReport();
     if (!m_item)
         return;
-    ++m_reports;
-    holdValue(m_item->getValue());
+    holdReport(m_item->getValue());
     announceValue();
 }
 

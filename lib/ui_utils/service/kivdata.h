@@ -12,12 +12,16 @@
 #include <QValidator>
 #include <QVariant>
 
+#include <initializer_list>
+
+class KIVContextObject;
 class Manifest;
 class QQmlExpression;
 
 namespace uiutils {
+class Announcement;
 struct InputRule;
-}
+} // namespace uiutils
 
 /// One service item as QML sees it.
 ///
@@ -32,7 +36,8 @@ struct InputRule;
 /// has the neutral answer elsewhere: no units, quality 0, no choices. When an item of the same id comes back it is
 /// followed again, and every notifier fires once.
 ///
-/// Slots may delete the wrapper.
+/// Slots may delete the wrapper. A slot of valueChanged() may write the value again; a write of what is held already
+/// ends the matter, and what has not settled after 100 rounds is left as it is, with a warning.
 class UIUTILS_EXPORT KivData : public QObject
 {
     Q_OBJECT
@@ -226,6 +231,13 @@ protected:
     Manifest* manifest() const;
     /// Keeps a value and hands it to the formatter; tells nobody.
     void holdValue(QVariant value);
+    /// The same for one that the service reports.
+    void holdReport(const QVariant& value);
+    /// Tells of a written value, signal by signal. While that is going on already, as soon as it is over.
+    void announce(std::initializer_list<void (KivData::*)()> steps);
+    /// Whether a write is to be carried out. While the value is being told, one that changes nothing ends the matter,
+    /// and none is after too many rounds.
+    bool mayWrite(bool isChange);
     /// Takes a formatter of that name unless there is one already.
     void adoptFormatter(const QString& name);
     /// The validator for what the accessors say, made by the first call.
@@ -238,11 +250,15 @@ protected:
     void settleReport();
     /// Publishes why a write was not even tried through `error` and errorChanged().
     void refuse(const QString& error);
-    /// Writes an array, record or single value by the rules of setValue() without looking at choices.
-    void writeValue(QVariant value);
+    /// Writes an array, record or single value by the rules of setValue() without looking at choices. False when there
+    /// was nothing to do, see mayWrite().
+    bool writeValue(QVariant value);
 
 private:
+    friend class KIVContextObject;
     friend class Manifest;
+    /// getQmlTag(), also while the item is away.
+    QString contextName() const;
     /// Follows another item, or none; called when the service's items have come or gone.
     void bindItem(KIVClientItem* item);
     void connectItem();
@@ -252,14 +268,17 @@ private:
     bool isPending() const { return m_changed && !m_sent; }
     /// Forgets a change; returns whether it was pending.
     bool endChange();
+    void announceCount();
     /// Emits what tells of a change of the selected element, for those that asked for it.
     void announceSelection();
     void announceValue();
+    bool isStopped();
+    QVariant reportedValue() const;
     void compileApplicability(const QString& expression);
     bool evaluateApplicability();
     void reportExpressionError(const QString& problem) const;
-    QVariantList elements() const;
     uiutils::InputRule inputRule() const;
+    uiutils::InputRule currentRule() const;
     QString arraySelectionKey() const;
     void followUserData() const;
 
@@ -267,13 +286,17 @@ private:
     BaseFormatter* m_formatter = nullptr;
     mutable QValidator* m_validator = nullptr;
     QVariant m_previous;
+    /// What the service had said when the pending change was written.
+    QVariant m_reported;
     bool m_changed = false;
     /// The change went out with a batch that the service took.
     bool m_sent = false;
     /// Follows an item, or did when the service was last heard of.
     bool m_isBound = false;
-    /// Whether the item is an array, or was when it was last there.
+    /// Whether the item is an array, a text or a real number, or was when it was last there.
     bool m_isVector = false;
+    bool m_isText = false;
+    bool m_isReal = false;
     bool m_isExpressionRefused = false;
     mutable bool m_followsUserData = false;
     QPointer<KIVClientItem> m_item;
@@ -283,8 +306,10 @@ private:
     mutable QObject* m_enums = nullptr;
     /// Counts the service's reports, so that a write knows whether it was answered meanwhile.
     unsigned m_reports = 0;
-    /// Set while the value is announced: a slot that writes what is held already ends the matter.
-    bool* m_announcing = nullptr;
+    /// Set while the value is told.
+    uiutils::Announcement* m_announcing = nullptr;
+    /// The chain of announcements in which the value did not settle.
+    unsigned m_stoppedIn = 0;
     QString m_selectionText;
     int m_selection = -1;
 };

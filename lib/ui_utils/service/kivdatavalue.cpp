@@ -5,11 +5,14 @@
 #include "core/indexrange_p.h"
 #include "core/plainvalue_p.h"
 #include "core/userdata.h"
+#include "service/announcement_p.h"
 #include "service/enumnames_p.h"
 #include "service/manifest.h"
 #include "service/valuetext_p.h"
 
 #include <kiv/kivenumclientitem.h>
+
+#include <QtDebug>
 
 #include <utility>
 
@@ -51,39 +54,48 @@ void KivData::setValue(QVariant value)
         return;
     value = uiutils::plainValue(value);
     const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
-    const bool isWhole = uiutils::fittedValue(value, QMetaType::Int).userType() == QMetaType::Int
-            || uiutils::fittedValue(value, QMetaType::UInt).userType() == QMetaType::UInt;
-    if (choices && !(isWhole && choices->contains(value.toInt()))) {
+    if (choices && !choices->contains(value.toInt())) {
         refuse(QStringLiteral("Invalid enum value %1").arg(value.toInt()));
         return;
     }
     writeValue(value);
 }
 
-void KivData::writeValue(QVariant value)
+bool KivData::writeValue(QVariant value)
 {
-    // Of the type that the service reports, so that a page finds a number where it wrote the text of one.
-    value = uiutils::fittedValue(value, m_value.userType());
-    if (m_announcing && uiutils::isSameValue(value, m_value))
-        return;
+    // A page finds a number where it wrote the text of one.
+    const QVariant reported = reportedValue();
+    value = uiutils::readValue(value, reported.userType());
+    if (!mayWrite(!uiutils::isSameValue(value, m_value)))
+        return false;
     const Manifest* owner = manifest();
     if (owner && owner->isChanging()) {
+        m_reported = reported;
         m_changed = true;
         m_sent = false;
         m_previous = m_value;
         setValueInternal(value);
-        return;
+        return true;
     }
     const QPointer<KivData> self(this);
     KIVClientInterface* client = getClient();
     const unsigned reports = m_reports;
     const bool isTaken = client && client->setItem(getId(), value);
     if (!self)
-        return;
+        return true;
     if (!isTaken)
         checkAppError();
     else if (m_reports == reports)
         setValueInternal(value);
+    return true;
+}
+
+/// What the service said last, which a pending change hides.
+QVariant KivData::reportedValue() const
+{
+    if (m_item)
+        return m_item->getValue();
+    return isPending() ? m_reported : m_value;
 }
 
 void KivData::holdValue(QVariant value)
@@ -99,26 +111,66 @@ void KivData::setValueInternal(QVariant& value)
     announceValue();
 }
 
+void KivData::holdReport(const QVariant& value)
+{
+    ++m_reports;
+    holdValue(value);
+}
+
 void KivData::announceValue()
 {
-    // A slot may delete the wrapper, whose end then clears this; values come often, and a QPointer costs more.
-    bool isAlive = true;
-    bool* const outer = m_announcing;
-    m_announcing = &isAlive;
+    announce({&KivData::announceCount, &KivData::announceSelection, &KivData::valueChanged});
+}
+
+void KivData::announce(std::initializer_list<void (KivData::*)()> steps)
+{
+    if (m_announcing) {
+        if (!isStopped())
+            m_announcing->add(steps);
+        return;
+    }
+    uiutils::Announcement announcement(steps);
+    m_announcing = &announcement;
+    while (announcement.beginRound()) {
+        for (const uiutils::Announcement::Step step : announcement.steps()) {
+            (this->*step)();
+            // A slot may delete the wrapper.
+            if (announcement.isAbandoned())
+                return;
+        }
+    }
+    m_announcing = nullptr;
+}
+
+bool KivData::mayWrite(bool isChange)
+{
+    return !m_announcing || (isChange && !isStopped());
+}
+
+/// Whether the handlers have had their rounds. Of handlers that set each other going, each is stopped, and named, once.
+bool KivData::isStopped()
+{
+    if (m_stoppedIn == uiutils::Announcement::chain())
+        return true;
+    if (!m_announcing->isLastRound())
+        return false;
+    m_stoppedIn = uiutils::Announcement::chain();
+    qWarning("The value of %s does not settle: a handler of its change writes another one each time. It was stopped "
+             "after %d rounds; let the handler write a value that stays.",
+            qUtf8Printable(getId()), uiutils::Announcement::mostRounds);
+    return true;
+}
+
+void KivData::announceCount()
+{
     if (m_isVector)
         Q_EMIT valueCountChanged();
-    if (isAlive && m_followsUserData)
-        announceSelection();
-    if (isAlive)
-        Q_EMIT valueChanged();
-    if (isAlive)
-        m_announcing = outer;
-    else if (outer)
-        *outer = false;
 }
 
 void KivData::announceSelection()
 {
+    if (!m_followsUserData)
+        return;
     const int selection = getArraySelection();
     const QString text = getArraySelectionString();
     if (selection == m_selection && text == m_selectionText)
@@ -142,14 +194,14 @@ void KivData::apply()
         return;
     const QPointer<KivData> self(this);
     QVariant value = m_value;
-    KIVClientInterface* client = getClient();
+    const QPointer<KIVClientInterface> client = getClient();
     const unsigned reports = m_reports;
     const bool isRefused = client && !client->setItem(getId(), value);
-    const QString error = isRefused ? client->getLastError() : QString();
+    const QString error = isRefused && client ? client->getLastError() : QString();
     if (!self)
         return;
     // What was refused stays pending, so that it can be mended or taken back.
-    m_changed = isRefused;
+    m_changed = isRefused && m_reports == reports;
     if (m_reports == reports)
         setValueInternal(value);
     if (self && isRefused)
@@ -196,14 +248,12 @@ QString KivData::invokeWithStringArg(QString const& arg)
 
 // --- Elements of an array ------------------------------------------------------------------------
 
-QVariantList KivData::elements() const
-{
-    return m_isVector ? m_value.toList() : QVariantList();
-}
-
+/// Without making a list of variants of a list of texts, for each element.
 QVariant KivData::variantAt(int ind) const
 {
-    return elements().value(ind);
+    if (!isWithin(ind, getValueCount()))
+        return QVariant();
+    return m_value.type() == QVariant::StringList ? QVariant(m_value.toStringList().at(ind)) : m_value.toList().at(ind);
 }
 
 QVariant KivData::at(int ind) const
@@ -218,9 +268,9 @@ QVariant KivData::getArrayValue(int index) const
 
 void KivData::setAt(int ind, QVariant const& val)
 {
-    QVariantList list = elements();
-    if (!isWithin(ind, list.size()))
+    if (!isWithin(ind, getValueCount()))
         return;
+    QVariantList list = m_value.toList();
     list[ind] = uiutils::plainValue(val);
     QVariant value = list;
     if (m_value.type() == QVariant::StringList)
@@ -230,7 +280,9 @@ void KivData::setAt(int ind, QVariant const& val)
 
 int KivData::getValueCount() const
 {
-    return elements().size();
+    if (!m_isVector)
+        return 0;
+    return m_value.type() == QVariant::StringList ? m_value.toStringList().size() : m_value.toList().size();
 }
 
 QString KivData::arraySelectionKey() const

@@ -9,10 +9,10 @@
 #include <kiv/kivaggregateclientitem.h>
 
 #include <QDebug>
+#include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QQmlContext>
-#include <QVector>
 
 namespace itemids = uiutils::itemids;
 
@@ -20,6 +20,9 @@ QMap<QString, KivData*>& Manifest::m_items = *new QMap<QString, KivData*>;
 QPointer<QQmlContext> Manifest::s_pContext;
 
 namespace {
+
+/// Wrappers whose entry later ones have taken, by their id, the earliest first. Never destroyed, as the registry.
+QHash<QString, QVector<KivData*>>& displaced = *new QHash<QString, QVector<KivData*>>;
 
 /// The name under which the service expects a setting in a batch: the index of an indexed one ("level_3") stands behind
 /// a colon. Names of up to three characters stay as they are.
@@ -52,7 +55,26 @@ Manifest::Manifest(KIVClientInterface* client, QString const& qmlTag, QString co
     }
 }
 
-Manifest::~Manifest() = default;
+Manifest::~Manifest()
+{
+    if (displaced.isEmpty())
+        return;
+    // Pages go on with the wrappers that have their entries back when these have gone.
+    const QVector<QPointer<KivData>> own = wrappers();
+    for (const QPointer<KivData>& wrapper : own)
+        delete wrapper;
+    KIVContextObject::evaluateNames();
+}
+
+QVector<QPointer<KivData>> Manifest::wrappers() const
+{
+    QVector<QPointer<KivData>> list;
+    for (QObject* child : children()) {
+        if (auto* wrapper = qobject_cast<KivData*>(child))
+            list.append(wrapper);
+    }
+    return list;
+}
 
 void Manifest::registerItem(const QString& id)
 {
@@ -70,19 +92,19 @@ void Manifest::registerItem(const QString& id)
         wrapper = new KivListAggregateData(list, this);
     else
         wrapper = new KivData(item, this);
-    m_items.insert(id, wrapper);
+    KivData*& entry = m_items[id];
+    if (entry)
+        displaced[id].append(entry);
+    entry = wrapper;
 }
 
 /// Follows the service through vanishing and coming back.
 void Manifest::bindItems()
 {
-    QVector<QPointer<KivData>> wrappers;
-    for (QObject* child : children()) {
-        if (auto* wrapper = qobject_cast<KivData*>(child))
-            wrappers.append(wrapper);
-    }
+    const QVector<QPointer<KivData>> own = wrappers();
     const QPointer<Manifest> self(this);
-    for (const QPointer<KivData>& wrapper : qAsConst(wrappers)) {
+    bool hasReturned = false;
+    for (const QPointer<KivData>& wrapper : own) {
         if (!self || !m_client)
             return;
         if (!wrapper)
@@ -91,16 +113,32 @@ void Manifest::bindItems()
         if (wrapper->m_item)
             continue;
         KIVClientItem* item = m_client->getItem(wrapper->m_id);
+        hasReturned = hasReturned || item;
         if (item || wrapper->m_isBound)
             wrapper->bindItem(item);
     }
+    // What never changes while an item is there is read once, perhaps before it was there.
+    if (hasReturned)
+        KIVContextObject::evaluateNames();
 }
 
 void Manifest::forget(const QString& id, const KivData* wrapper)
 {
     const auto entry = m_items.find(id);
-    if (entry != m_items.end() && *entry == wrapper)
-        *entry = nullptr;
+    if (entry == m_items.end())
+        return;
+    const auto earlier = displaced.find(id);
+    if (earlier == displaced.end()) {
+        if (*entry == wrapper)
+            *entry = nullptr;
+        return;
+    }
+    if (*entry == wrapper)
+        *entry = earlier->takeLast();
+    else
+        earlier->removeOne(const_cast<KivData*>(wrapper));
+    if (earlier->isEmpty())
+        displaced.erase(earlier);
 }
 
 void Manifest::startChanges()
@@ -128,12 +166,13 @@ void Manifest::applyChanges()
         (*it)->m_sent = true;
     }
 
-    // The service takes the text for bytes.
+    // The service takes the text for bytes. What it reports on the way may end the manifest.
     const QByteArray json = QJsonDocument(QJsonObject::fromVariantMap(changes)).toJson();
+    const QPointer<KIVClientInterface> client = m_client;
     if (send(actionId(itemids::applyConfig), QString::fromLatin1(json.constData())))
         return;
     // This service answered for the settings of the others too.
-    const QString error = m_client ? m_client->getLastError() : QString();
+    const QString error = client ? client->getLastError() : QString();
     for (const QPointer<KivData>& wrapper : qAsConst(senders)) {
         if (wrapper)
             wrapper->m_sent = false;

@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 class KivData;
 class QQmlContext;
@@ -21,7 +22,8 @@ class QQmlContext;
 /// revertChanges() drops them.
 ///
 /// **Ownership**: the wrappers are children of their manifest. The client is not owned and may be null or go away; then
-/// nothing is sent. The registry holds plain pointers; the entry of a wrapper that is gone is null.
+/// nothing is sent. The registry holds plain pointers. Of several wrappers of one id the latest has the entry; when it
+/// goes, the one before it has it again, and when the last one is gone, the entry is null.
 ///
 /// Everything runs on the thread of the QML engine.
 class UIUTILS_EXPORT Manifest : public QObject
@@ -61,7 +63,7 @@ public:
     KivData* getItem(QString const& id) const { return getKivData(id); }
 
     /// Makes the items that are registered now known by name to everything below `context`. Call it anew after further
-    /// items have been registered.
+    /// items have been registered. When a service comes back, the names of its items are evaluated anew.
     static void setQmlContext(QQmlContext* context);
     /// The context last given to setQmlContext(); null when it is gone.
     static QQmlContext* qmlContext();
@@ -71,6 +73,7 @@ private:
     /// Takes a wrapper that is about to go out of the registry.
     static void forget(const QString& id, const KivData* wrapper);
 
+    QVector<QPointer<KivData>> wrappers() const;
     void registerItem(const QString& id);
     void bindItems();
     QString actionId(QLatin1String action) const;

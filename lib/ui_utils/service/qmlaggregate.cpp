@@ -11,7 +11,7 @@ QMLAggregate::~QMLAggregate() = default;
 
 void QMLAggregate::release()
 {
-    if (m_writes > 0)
+    if (m_isWritten)
         deleteLater();
     else
         delete this;
@@ -19,10 +19,8 @@ void QMLAggregate::release()
 
 QVariant QMLAggregate::updateValue(QString const& key, QVariant const& input)
 {
-    // The map itself is needed until its base has ended the write.
-    ++m_writes;
+    m_isWritten = true;
     if (m_owner)
         m_owner->updateAggregateProperty(key, input);
-    --m_writes;
     return value(key);
 }

@@ -18,7 +18,8 @@ public:
     explicit QMLAggregate(KivAggregateData& owner);
     ~QMLAggregate() override;
 
-    /// Ends the map; while QML is writing one of its keys, as soon as that is over.
+    /// Ends the map; one that QML has ever written when the event loop runs, because a write tells of itself after
+    /// updateValue(), and nobody says when that is over.
     void release();
 
 protected:
@@ -26,5 +27,5 @@ protected:
 
 private:
     QPointer<KivAggregateData> m_owner;
-    int m_writes = 0;
+    bool m_isWritten = false;
 };

@@ -137,14 +137,14 @@ Entry {
         else
             hasNews = true
     }
-    onItemChanged: {
-        // What stands on the pad was meant for the other one.
-        if (padLoader.item)
-            padLoader.item.close()
-        settle()
-    }
     Connections {
         target: face
+        function onReplaced() {
+            // What stands on the pad was meant for the other one.
+            if (padLoader.item)
+                padLoader.item.close()
+            entry.settle()
+        }
         // A hidden field would go on taking keys.
         function onIsApplicableChanged() { field.focus = face.isApplicable }
     }

@@ -117,11 +117,19 @@ QtObject {
     // The item that the description is of.
     property var described: null
 
+    // A name that is looked up again, since its service is back, gives the same item: that is no other one.
+    property var known: null
+    signal replaced()
+
     onItemChanged: {
+        if (item && item === known)
+            return
+        known = item
         refusal = ""
         described = null
         describe()
         ++reports
+        replaced()
     }
 
     property Connections watcher: Connections {

@@ -65,10 +65,11 @@ Entry {
     function follow() {
         const source = face.item
         const count = source ? source.valueCount : 0
-        while (rows.count < count)
-            rows.append({ unused: 0 })
-        while (rows.count > count)
-            rows.remove(rows.count - 1)
+        // All at once, because the view hears of each change of the model.
+        if (rows.count < count)
+            rows.append(new Array(count - rows.count).fill({ unused: 0 }))
+        else if (rows.count > count)
+            rows.remove(count, rows.count - count)
     }
 
     function focusRow(index) {

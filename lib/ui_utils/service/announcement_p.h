@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QVarLengthArray>
+
+#include <initializer_list>
+
+class KivData;
+
+namespace uiutils {
+
+/// The telling of a changed value, on the stack of who tells it.
+///
+/// A listener that writes the value once more does not tell of that from within, which would pile up on the stack: its
+/// change is told in a further round, after this one.
+class Announcement
+{
+public:
+    /// Emits one signal, or none when there is nothing to say.
+    using Step = void (KivData::*)();
+
+    /// Far more than handlers need that settle.
+    static constexpr int mostRounds = 100;
+
+    explicit Announcement(std::initializer_list<Step> steps);
+    ~Announcement();
+    Announcement(const Announcement&) = delete;
+    Announcement& operator=(const Announcement&) = delete;
+
+    /// Adds what a further round tells; what it tells already is told once.
+    void add(std::initializer_list<Step> steps);
+    /// Goes on to the next round; false when there is nothing left to tell.
+    bool beginRound();
+    const QVarLengthArray<Step, 4>& steps() const { return m_steps; }
+    bool isLastRound() const { return m_rounds >= mostRounds; }
+
+    /// The item that is told of is gone.
+    void abandon() { m_isAbandoned = true; }
+    bool isAbandoned() const { return m_isAbandoned; }
+
+    /// Numbers the announcements that lie on the stack together, from 1.
+    static unsigned chain();
+
+private:
+    QVarLengthArray<Step, 4> m_steps;
+    QVarLengthArray<Step, 4> m_next;
+    int m_rounds = 0;
+    bool m_isAbandoned = false;
+};
+
+} // namespace uiutils
