@@ -1,5 +1,6 @@
 #include "document/reporttemplate.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -294,6 +295,16 @@ private Q_SLOTS:
         QCOMPARE(read.object(), built.object());
         QCOMPARE(read.getTag(), QString("otdr"));
         QCOMPARE(read.getPath(), dir.filePath("document.json"));
+
+        // Paths are the instrument's.
+        const QByteArray before = qgetenv("UIUTILS_ROOT");
+        qputenv("UIUTILS_ROOT", QFile::encodeName(dir.path()));
+        QVERIFY(QDir(dir.path()).mkdir("cust") && QFile::rename(dir.filePath("document.json"), dir.filePath("cust/a.json")));
+        ReportTemplate mapped;
+        mapped.readFile("/cust/a.json");
+        qputenv("UIUTILS_ROOT", before);
+        QCOMPARE(mapped.object(), built.object());
+        QCOMPARE(mapped.getPath(), QString("/cust/a.json"));
     }
 
     void damagedFiles_data()
