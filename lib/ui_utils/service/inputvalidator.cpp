@@ -1,6 +1,7 @@
 #include "service/inputvalidator_p.h"
 
 #include "service/forgivingvalidator.h"
+#include "service/wordmarks_p.h"
 
 #include <QDoubleValidator>
 #include <QIntValidator>
@@ -78,15 +79,16 @@ QString withEscapedHyphens(const QString& pattern)
     return repaired;
 }
 
-QRegularExpression inputExpression(const QString& pattern)
+QRegularExpression inputExpression(const QString& published)
 {
+    const QString pattern = withWordMarks(published);
     const QRegularExpression expression(pattern, QRegularExpression::UseUnicodePropertiesOption);
     if (isUsable(expression))
         return expression;
     const QRegularExpression repaired(withEscapedHyphens(pattern), QRegularExpression::UseUnicodePropertiesOption);
     if (isUsable(repaired))
         return repaired;
-    warnOnce(pattern, expression.isValid() ? QStringLiteral("a length below zero") : expression.errorString());
+    warnOnce(published, expression.isValid() ? QStringLiteral("a length below zero") : expression.errorString());
     return QRegularExpression(QStringLiteral(".*"), QRegularExpression::DotMatchesEverythingOption);
 }
 

@@ -31,7 +31,8 @@ QValidator* createValidator(const InputRule& rule, QObject* parent);
 bool applyRule(const InputRule& rule, QValidator* validator);
 
 /// The expression for `pattern`. One that PCRE2 refuses for a hyphen behind a class escape ("[\d-.]") is read as its
-/// author meant it; one that cannot be repaired accepts everything and is logged once.
+/// author meant it; "\w" takes the marks of letters too; one that cannot be repaired accepts everything and is logged
+/// once.
 QRegularExpression inputExpression(const QString& pattern);
 
 /// `pattern` with the hyphens escaped that stand behind a class escape inside brackets.
