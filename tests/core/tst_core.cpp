@@ -43,39 +43,23 @@ private Q_SLOTS:
     void pathsOnDisk_data()
     {
         QTest::addColumn<QString>("path");
-        QTest::addColumn<bool>("moved");
-        QTest::newRow("report") << "/cust/public/reports/a.html" << true;
-        QTest::newRow("folder itself") << "/cust" << true;
-        QTest::newRow("stick") << "/mnt/usb/a.html" << true;
-        QTest::newRow("stick itself") << "/mnt/usb" << true;
-        QTest::newRow("base") << "/base/bin/viewer" << true;
-        QTest::newRow("plot") << "/tmp/rep_plot_3.png" << true;
-        QTest::newRow("same beginning") << "/customer/a" << false;
-        QTest::newRow("other mount") << "/mnt/usb2/a" << false;
-        QTest::newRow("other temporary file") << "/tmp/a.png" << false;
-        QTest::newRow("relative") << "cust/a" << false;
-        QTest::newRow("relative upwards") << "../cust/a" << false;
-        QTest::newRow("out of the root") << "/cust/../.." << false;
-        QTest::newRow("out of the instrument's folders") << "/cust/../etc/passwd" << false;
-        QTest::newRow("out of the plots") << "/tmp/rep_plot_/../../etc/passwd" << false;
-        QTest::newRow("empty") << "" << false;
-    }
-    void pathsOnDisk()
-    {
-        QFETCH(QString, path);
-        QFETCH(bool, moved);
-        const QByteArray before = qgetenv("UIUTILS_ROOT");
-        qputenv("UIUTILS_ROOT", "/root of mine");
-        QCOMPARE(onDisk(path), moved ? QLatin1String("/root of mine") + path : path);
-        qputenv("UIUTILS_ROOT", "");
-        QCOMPARE(onDisk(path), path);
-        qputenv("UIUTILS_ROOT", before);
-    }
-
-    void pathsAreCleanedBeforeTheyMove_data()
-    {
-        QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("moved");
+        QTest::newRow("report") << "/cust/public/reports/a.html" << "/root/cust/public/reports/a.html";
+        QTest::newRow("folder itself") << "/cust" << "/root/cust";
+        QTest::newRow("stick") << "/mnt/usb/a.html" << "/root/mnt/usb/a.html";
+        QTest::newRow("stick itself") << "/mnt/usb" << "/root/mnt/usb";
+        QTest::newRow("base") << "/base/bin/viewer" << "/root/base/bin/viewer";
+        QTest::newRow("plot") << "/tmp/rep_plot_3.png" << "/root/tmp/rep_plot_3.png";
+        QTest::newRow("same beginning") << "/customer/a" << "/customer/a";
+        QTest::newRow("other mount") << "/mnt/usb2/a" << "/mnt/usb2/a";
+        QTest::newRow("other temporary file") << "/tmp/a.png" << "/tmp/a.png";
+        QTest::newRow("relative") << "cust/a" << "cust/a";
+        QTest::newRow("relative upwards") << "../cust/a" << "../cust/a";
+        QTest::newRow("out of the root") << "/cust/../.." << "/cust/../..";
+        QTest::newRow("out of the instrument's folders") << "/cust/../etc/passwd" << "/cust/../etc/passwd";
+        QTest::newRow("out of the plots") << "/tmp/rep_plot_/../../etc/passwd" << "/tmp/rep_plot_/../../etc/passwd";
+        QTest::newRow("empty") << "" << "";
+        // Cleaned before they move.
         QTest::newRow("doubled slash") << "//cust//a" << "/root/cust/a";
         QTest::newRow("folder") << "/cust/public/reports/" << "/root/cust/public/reports/";
         QTest::newRow("up and down") << "/cust/../mnt/./usb/a" << "/root/mnt/usb/a";
@@ -84,7 +68,7 @@ private Q_SLOTS:
         QTest::newRow("above the top from inside") << "/cust/../../../cust/a" << "/root/cust/a";
         QTest::newRow("inside") << "/cust/a/../../cust/b/.." << "/root/cust";
     }
-    void pathsAreCleanedBeforeTheyMove()
+    void pathsOnDisk()
     {
         QFETCH(QString, path);
         QFETCH(QString, moved);

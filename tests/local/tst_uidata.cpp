@@ -11,6 +11,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <functional>
 #include <memory>
 
 namespace {
@@ -401,20 +402,13 @@ private Q_SLOTS:
             const QPointer<UiData> item = new UiData;
             connect(item, signal, this, SLOT(deleteSender()));
             item->setAttributes({{"formatter", "dB"}});
-            if (item)
-                item->setMinRange(1);
-            if (item)
-                item->setReady(false);
-            if (item)
-                item->setType(UiData::TYPE_VEC_INT);
-            if (item)
-                item->setValue(QVariant("1,2"));
-            if (item)
-                item->removeAt(0);
-            if (item)
-                item->setRegex("x");
-            if (item)
-                item->slotEnumUpdate();
+            const std::function<void()> steps[] {[=] { item->setMinRange(1); }, [=] { item->setReady(false); },
+                    [=] { item->setType(UiData::TYPE_VEC_INT); }, [=] { item->setValue(QVariant("1,2")); },
+                    [=] { item->removeAt(0); }, [=] { item->setRegex("x"); }, [=] { item->slotEnumUpdate(); }};
+            for (const auto& step : steps) {
+                if (item)
+                    step();
+            }
             QVERIFY2(!item, signal);
         }
     }

@@ -227,18 +227,6 @@ private Q_SLOTS:
         }
     }
 
-    void tenChoicesOneAnnouncement()
-    {
-        QQmlEngine engine;
-        QByteArray choices;
-        for (int i = 0; i < 10; ++i)
-            choices += "UiEnumType { name: 'n" + QByteArray::number(i) + "'; value: " + QByteArray::number(i) + " }\n";
-        auto root = page(engine, "QtObject { id: top; property int count: 0; property UiDataEnums list: UiDataEnums {"
-                                 " onItemsChanged: top.count++\n" + choices + "} }");
-        QVERIFY(root);
-        QCOMPARE(root->property("count"), QVariant(1));
-    }
-
     void withoutAnEngine()
     {
         UiData item;
