@@ -116,7 +116,7 @@ bool Conversion::read(const Job& job, ReportTemplate& report)
 {
     if (job.document == standardStream)
         return readStandardInput(job, report);
-    report.readFile(job.document);
+    report.readDiskFile(job.document);
     return !report.hasError() || fail(report.errorString());
 }
 
@@ -132,7 +132,7 @@ bool Conversion::readStandardInput(const Job& job, ReportTemplate& report)
         return error.isEmpty() ? !isStopped() : failNamed(error);
     if (!copy.flush())
         return failNamed(tr("cannot be kept meanwhile: %1").arg(copy.errorString()));
-    report.readFile(copy.fileName());
+    report.readDiskFile(copy.fileName());
     return !report.hasError() || fail(report.errorString().replace(copy.fileName(), job.name()));
 }
 

@@ -119,14 +119,6 @@ private Q_SLOTS:
             QCOMPARE(table.columnLabels(), (QStringList {"", "B", ""}));
     }
 
-    void rowLabels()
-    {
-        QVERIFY(!TableReader(json("{}")).usesRowLabels());
-        QVERIFY(TableReader(json(R"({"use_row_labels": true})")).usesRowLabels());
-        QVERIFY(TableReader(json(R"({"use_row_labels": "true"})")).usesRowLabels());
-        QVERIFY(!TableReader(json(R"({"use_row_labels": false})")).usesRowLabels());
-        QVERIFY(!TableReader(json(R"({"use_row_labels": "0"})")).usesRowLabels());
-    }
 };
 
 QTEST_GUILESS_MAIN(DocumentReaderTest)

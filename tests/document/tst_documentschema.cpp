@@ -48,21 +48,7 @@ private Q_SLOTS:
         }
         report.endReport();
         QCOMPARE(schemaViolation(m_schema, report.object()), QString());
-    }
-
-    void goldenDocumentsConform_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const char* name : {"twelve-rows", "eleven-tables"})
-            QTest::newRow(name) << name;
-    }
-    void goldenDocumentsConform()
-    {
-        QFETCH(QString, name);
-        ReportTemplate report;
-        report.readFile(UIUTILS_TEST_DATA_DIR "/documents/" + name + ".json");
-        QVERIFY(!report.hasError());
-        QCOMPARE(schemaViolation(m_schema, report.object()), QString());
+        QVERIFY(schemaViolation(m_schema, {{"tag", "x"}, {"node_type", "table"}}).startsWith("/node_type: "));
     }
 
     void otherRowsDoNot_data()
@@ -78,6 +64,9 @@ private Q_SLOTS:
                 << QByteArray(R"({"label": "", "cell_0": {"label": "", "attr_unit": 1}})") << "/cell_0/attr_unit: ";
         QTest::newRow("title beside an attribute of one's own")
                 << QByteArray(R"({"label": "", "cell_0": {"label": "", "attr_unit": "", "title": 1}})") << "/cell_0/title: ";
+        QTest::newRow("no label") << QByteArray("{}") << ": ";
+        QTest::newRow("unknown status")
+                << QByteArray(R"({"label": "", "cell_0": {"label": "", "attr_status": "17"}})") << "/cell_0/attr_status: ";
         QTest::newRow("fine") << QByteArray(R"({"label": "", "cell_x": 1, "note": 2, "cell_0": {"label": "", "x": 3}})") << "";
     }
     void otherRowsDoNot()
@@ -92,32 +81,6 @@ private Q_SLOTS:
                 qPrintable(violation));
     }
 
-    void otherDocumentsDoNot_data()
-    {
-        QTest::addColumn<QByteArray>("document");
-        QTest::addColumn<QString>("place");
-        QTest::newRow("no node type") << QByteArray(R"({"tag": "x"})") << "/: ";
-        QTest::newRow("another root") << QByteArray(R"({"tag": "x", "node_type": "table"})") << "/node_type: ";
-        QTest::newRow("number as attribute")
-                << QByteArray(R"({"tag": "x", "node_type": "report", "attr_a": 1})") << "/attr_a: ";
-        QTest::newRow("row without a label")
-                << QByteArray(R"({"tag": "x", "node_type": "report", "section_0": {"node_type": "section", "tag": "",
-                       "title": "", "table_0": {"node_type": "table", "tag": "", "title": "", "use_row_labels": true,
-                       "num_columns": 1, "row_1": {}}}})")
-                << "/section_0/table_0/row_1: ";
-        QTest::newRow("unknown status")
-                << QByteArray(R"({"tag": "x", "node_type": "report", "table_0": {"node_type": "table", "tag": "",
-                       "title": "", "use_row_labels": true, "num_columns": 1,
-                       "row_1": {"label": "", "cell_0": {"label": "", "attr_status": "17"}}}})")
-                << "/table_0/row_1/cell_0/attr_status: ";
-    }
-    void otherDocumentsDoNot()
-    {
-        QFETCH(QByteArray, document);
-        QFETCH(QString, place);
-        const QString violation = schemaViolation(m_schema, QJsonDocument::fromJson(document).object());
-        QVERIFY2(violation.startsWith(place), qPrintable(violation));
-    }
 };
 
 QTEST_GUILESS_MAIN(DocumentSchemaTest)

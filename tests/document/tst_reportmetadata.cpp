@@ -37,7 +37,7 @@ ReportMetadata recordOf(const QString& name)
     record.setType("result");
     record.setFormat("PDF");
     record.setTimeStamp("2026-11-21T09:05:07+01:00");
-    record.setInfo(QString("wo"), QString("WO-1"));
+    record.setInfo("wo", "WO-1");
     return record;
 }
 
@@ -78,9 +78,9 @@ private Q_SLOTS:
         QTest::newRow("autosave of the public") << "/cust/public/reports/autosave/" << "/cust/public/reports/metadata/";
         QTest::newRow("another autosave") << "/cust/public/reports/otdr/autosave/"
                                           << "/cust/private/reports/metadata/otdr/autosave/";
-        QTest::newRow("without a slash behind") << "/cust/public/reports" << "/cust/private/reports/metadata";
-        QTest::newRow("autosave without one") << "/cust/private/reports/autosave" << "/cust/private/reports/metadata";
-        QTest::newRow("same beginning") << "/cust/public/reports2/" << "/cust/public/reports2/";
+        QTest::newRow("below, without a slash behind") << "/cust/public/reports/otdr" << "/cust/private/reports/metadata/otdr";
+        QTest::newRow("without a slash behind") << "/cust/public/reports" << "/cust/public/reports";
+        QTest::newRow("autosave without one") << "/cust/private/reports/autosave" << "/cust/private/reports/autosave";
         QTest::newRow("stick") << "/mnt/usb/" << "/mnt/usb/";
         QTest::newRow("empty") << "" << "";
     }
@@ -93,28 +93,20 @@ private Q_SLOTS:
         QCOMPARE(record.originBase(), reportFolder);
     }
 
-    void originPaths_data()
-    {
-        QTest::addColumn<QString>("base");
-        QTest::addColumn<QString>("path");
-        QTest::newRow("closed") << "/cust/public/reports/" << "/cust/public/reports/a.pdf";
-        QTest::newRow("open") << "/cust/public/reports" << "/cust/public/reports/a.pdf";
-        QTest::newRow("closed twice") << "/mnt/usb//" << "/mnt/usb/a.pdf";
-        QTest::newRow("top") << "/" << "/a.pdf";
-        QTest::newRow("none") << "" << "a.pdf";
-    }
     void originPaths()
     {
-        QFETCH(QString, base);
-        QFETCH(QString, path);
         ReportMetadata record;
-        record.setOriginBase(base);
         record.setMetadataName("a.pdf");
         record.updateMetadataPathCable();
-        const QString line = "originFilePath " + path + ", metadataPath /cust/private/cable/metadata";
-        QTest::ignoreMessage(QtDebugMsg, qPrintable(line));
-        record.updateOriginFilePath();
-        QCOMPARE(record.originFilePath(), path);
+        const QMap<QString, QString> paths {{"/mnt/usb/", "/mnt/usb/a.pdf"}, {"/mnt/usb", "/mnt/usb/a.pdf"},
+                {"/mnt/usb//", "/mnt/usb/a.pdf"}, {"/", "/a.pdf"}, {"", "a.pdf"}};
+        for (auto it = paths.cbegin(); it != paths.cend(); ++it) {
+            record.setOriginBase(it.key());
+            const QString line = "originFilePath " + *it + ", metadataPath /cust/private/cable/metadata";
+            QTest::ignoreMessage(QtDebugMsg, qPrintable(line));
+            record.updateOriginFilePath();
+            QCOMPARE(record.originFilePath(), *it);
+        }
     }
 
     void writtenAndRead()
@@ -146,6 +138,10 @@ private Q_SLOTS:
         QCOMPARE(other.getInfo(odd), odd);
         QCOMPARE(other.getInfo("stale"), QString());
 
+        QVERIFY(writeFile(path, R"({"type": 5, "format": 1.5, "info": {"wo": 88213}})"));
+        QVERIFY(other.loadFromDisk());
+        QCOMPARE(valuesOf(other), (QStringList {"5", "1.5", "", "", "88213"}));
+
         record.clear();
         QCOMPARE(valuesOf(record), (QStringList {"", "", "", "", ""}));
         QCOMPARE(record.metadataName() + record.metadataPath() + record.originBase(), QString());
@@ -160,16 +156,12 @@ private Q_SLOTS:
         QTest::newRow("unknown key") << QByteArray(R"({"later": [1], "info": {}})") << true;
         QTest::newRow("as large as may be") << QByteArray(most).replace(0, 2, "{}") << true;
         QTest::newRow("too large") << QByteArray("{}" + most) << false;
-        QTest::newRow("empty") << QByteArray() << false;
         QTest::newRow("cut off") << QByteArray(R"({"type": "x", "info": {"wo": )") << false;
         QTest::newRow("more behind") << QByteArray("{} {}") << false;
         QTest::newRow("no object") << QByteArray(R"(["type"])") << false;
-        QTest::newRow("no UTF-8") << QByteArray("{\"type\": \"\xff\"}") << false;
-        QTest::newRow("number for a text") << QByteArray(R"({"format": "x", "type": 5})") << false;
+        QTest::newRow("list for a text") << QByteArray(R"({"format": "x", "type": []})") << false;
         QTest::newRow("list for pairs") << QByteArray(R"({"type": "x", "info": ["wo"]})") << false;
-        QTest::newRow("number in a pair") << QByteArray(R"({"type": "x", "info": {"wo": 5}})") << false;
         QTest::newRow("object in a pair") << QByteArray(R"({"type": "x", "info": {"wo": {"wo": "x"}}})") << false;
-        QTest::newRow("deeply nested") << QByteArray("{\"info\": " + QByteArray(100'000, '[')) << false;
     }
     void recordsOfOthers()
     {
@@ -213,9 +205,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("pairs");
         QTest::newRow("full disk") << "a.pdf" << records << 64 << 0;
         QTest::newRow("larger than can be read") << "a.pdf" << records << 100'000'000 << 100'000;
-        QTest::newRow("a file for a folder") << "b.pdf" << QString(records) + "a.pdf.metadata" << 100'000 << 0;
         QTest::newRow("out of the folder") << "../../a.pdf" << records << 100'000 << 0;
-        QTest::newRow("longer than names are") << QString(250, 'x') << records << 100'000 << 0;
         QTest::newRow("no folder") << "a.pdf" << "" << 100'000 << 0;
     }
     void failedWrites()

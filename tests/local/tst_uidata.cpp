@@ -2,13 +2,16 @@
 
 #include <embedded/embeddedbackend.h>
 
+#include <QColor>
 #include <QDoubleValidator>
 #include <QIntValidator>
 #include <QLocale>
 #include <QMetaMethod>
+#include <QPointF>
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <functional>
 #include <memory>
 
 namespace {
@@ -125,7 +128,8 @@ private Q_SLOTS:
         QCOMPARE(item.getId(), QString(":ui_only:first:"));
         item.setAttributes({{"name", "reportName"}});
         QCOMPARE(item.getId(), QString(":ui_only:reportName:"));
-        QCOMPARE(item.getName(), QString("reportName"));
+        // What is not among the new ones has gone.
+        QVERIFY(item.getRegisterId().isEmpty() && !item.getAttr("mandatory").isValid());
         item.setPassing();
         QCOMPARE(item.getQualityCode(), 16);
         item.setFailing();
@@ -202,6 +206,11 @@ private Q_SLOTS:
         QTest::newRow("whole") << UiData::TYPE_INT64 << QVariant(-9007199254740993LL) << "-9007199254740993";
         QTest::newRow("nothing") << UiData::TYPE_INT << QVariant() << "";
         QTest::newRow("vector") << UiData::TYPE_VEC_INT << QVariant("1,,3") << "1,,3";
+        QTest::newRow("time") << UiData::TYPE_STRING << QVariant(QTime(10, 20, 0, 5)) << "10:20:00.005";
+        const QDateTime moment(QDate(2020, 2, 29), QTime(1, 2, 3, 4), Qt::UTC);
+        QTest::newRow("date and time") << UiData::TYPE_STRING << QVariant(moment) << "2020-02-29T01:02:03.004Z";
+        QTest::newRow("point") << UiData::TYPE_INT << QVariant(QPointF(1, 2.5)) << "1,2.5";
+        QTest::newRow("colour") << "" << QVariant(QColor(255, 0, 0, 128)) << "#80ff0000";
     }
     void texts()
     {
@@ -213,6 +222,9 @@ private Q_SLOTS:
         item.setEnums({10, 20}, {"Ten", "Twenty"});
         item.setValue(value);
         QCOMPARE(item.getValueString(), text);
+        // Stored as it was given.
+        QCOMPARE(item.getValue(), value);
+        QCOMPARE(item.getValue().userType(), value.userType());
     }
 
     void aFormatterStays()
@@ -236,6 +248,7 @@ private Q_SLOTS:
         QTest::addColumn<QVariant>("value");
         QTest::addColumn<QVariantList>("elements");
         QTest::newRow("int") << UiData::TYPE_VEC_INT << QVariant("1,,x,3") << QVariantList {1, 0, 0, 3};
+        QTest::newRow("beyond 32 bits") << UiData::TYPE_VEC_INT << QVariant("3000000000,2147483647") << QVariantList {0, 2147483647};
         QTest::newRow("real") << UiData::TYPE_VEC_DOUBLE << QVariant("1.5,,-2e3") << QVariantList {1.5, 0.0, -2000.0};
         QTest::newRow("text") << UiData::TYPE_VEC_STRING << QVariant("a,,b") << QVariantList {"a", "", "b"};
         QTest::newRow("empty") << UiData::TYPE_VEC_INT << QVariant("") << QVariantList {0};
@@ -265,6 +278,8 @@ private Q_SLOTS:
         UiData item;
         item.setType(UiData::TYPE_VEC_INT);
         item.setValue(QVariant("1,2,3"));
+        item.setAt(1, 3e9);
+        QCOMPARE(item.variantAt(1), QVariant(0));
         SignalLog log(&item);
         item.setAt(1, "20");
         QCOMPARE(log.take(), words("valueChanged arraySelectionChanged"));
@@ -277,10 +292,13 @@ private Q_SLOTS:
         QCOMPARE(log.take(), words("valueChanged arraySelectionChanged valueCountChanged"));
         QCOMPARE(item.getValue(), QVariant("20,3,4"));
         QCOMPARE(item.getArraySelection(), 2);
+        // A selection may come before its elements.
+        item.setArraySelection(7);
+        QCOMPARE(item.getArraySelection(), 7);
+        QCOMPARE(log.take(), words("arraySelectionChanged"));
         for (int outside : {-1, 3, 1000}) {
             item.setAt(outside, 1);
             item.removeAt(outside);
-            item.setArraySelection(outside);
             item.insertAt(outside + (outside > 0), 1);
             QVERIFY(!item.variantAt(outside).isValid());
         }
@@ -342,8 +360,10 @@ private Q_SLOTS:
         QVERIFY(log.take().isEmpty());
         list.reset();
         QVERIFY(!item.applicableAt(0));
+        QCOMPARE(item.getEnumMap()->value("one"), QVariant(1));
         item.slotEnumUpdate();
         QCOMPARE(item.getEnumCount(), 0);
+        QVERIFY(!item.getEnumMap()->value("one").isValid());
     }
 
     void listsOfChoices()
@@ -382,20 +402,13 @@ private Q_SLOTS:
             const QPointer<UiData> item = new UiData;
             connect(item, signal, this, SLOT(deleteSender()));
             item->setAttributes({{"formatter", "dB"}});
-            if (item)
-                item->setMinRange(1);
-            if (item)
-                item->setReady(false);
-            if (item)
-                item->setType(UiData::TYPE_VEC_INT);
-            if (item)
-                item->setValue(QVariant("1,2"));
-            if (item)
-                item->removeAt(0);
-            if (item)
-                item->setRegex("x");
-            if (item)
-                item->slotEnumUpdate();
+            const std::function<void()> steps[] {[=] { item->setMinRange(1); }, [=] { item->setReady(false); },
+                    [=] { item->setType(UiData::TYPE_VEC_INT); }, [=] { item->setValue(QVariant("1,2")); },
+                    [=] { item->removeAt(0); }, [=] { item->setRegex("x"); }, [=] { item->slotEnumUpdate(); }};
+            for (const auto& step : steps) {
+                if (item)
+                    step();
+            }
             QVERIFY2(!item, signal);
         }
     }

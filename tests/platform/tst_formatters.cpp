@@ -80,6 +80,7 @@ private Q_SLOTS:
         const std::unique_ptr<BaseFormatter> first(getFormatter("dB"));
         const std::unique_ptr<BaseFormatter> second(getFormatter("dB"));
         QVERIFY(first != second);
+        QTest::ignoreMessage(QtWarningMsg, "There is no formatter \"unknown\": values are shown without one.");
         QVERIFY(!getFormatter("unknown"));
         QVERIFY(!getFormatter(""));
         QVERIFY(!getFormatter("dBm:V"));

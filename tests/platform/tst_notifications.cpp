@@ -1,6 +1,7 @@
 #include <kiv/kivnotificationmodelmanager.h>
 
 #include <QAbstractItemModelTester>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -109,6 +110,21 @@ private Q_SLOTS:
         QCOMPARE(manager()->count(), maximum);
         QCOMPARE(trayTitles().constFirst(), QString::number(maximum + 1));
         QCOMPARE(trayTitles().constLast(), QString("2"));
+    }
+
+    /// A view follows currentDialog.
+    void aQuestionThatNobodyShowsIsLogged()
+    {
+        static QStringList said;
+        const auto before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) { said += text; });
+        const auto restore = qScopeGuard([=] { qInstallMessageHandler(before); });
+        request("Seen?")->notifyDialog();
+        KIVNotification().notifyDialog();
+        QCOMPARE(said.size(), 1);
+        QVERIFY2(said[0].contains("\"Seen?\" is shown nowhere"), qPrintable(said[0]));
+        const QSignalSpy view(manager(), &KIVNotificationModelManager::currentDialogChanged);
+        request("Seen.")->notifyDialog();
+        QCOMPARE(said.size(), 1);
     }
 
     void dialogsOneAtATime()

@@ -88,6 +88,7 @@ Item {
                 ofNumber("std::string", "", undefined, "must be filled in", { mandatory: true }),
                 ofNumber("std::string", "abc", undefined, "4 - 6 chars", { inputType: KivData.INPUT_PASSWORD, minRange: 4, maxRange: 6 }),
                 ofNumber("std::string", "a b", undefined, "not in the form", { inputType: KivData.INPUT_ALPHANUMERIC, regex: "[a-z]+", minRange: 1, maxRange: 9 }),
+                ofNumber("std::string", "abc", undefined, "may have 2 characters, it has 3", { regex: "^[\\w\\]-]{1,2}$" }),
                 ofNumber("int", "12", undefined, "0 - 9", { inputType: KivData.INPUT_DIGITS, maxRange: 9 }),
                 ofNumber("int", "007", 7, "", { inputType: KivData.INPUT_DIGITS }),
                 ofNumber("std::string", "A1", "A1", "", { regex: "[A-Z][0-9]" }),

@@ -137,6 +137,8 @@ private Q_SLOTS:
                                   << "a.pdf/";
         QTest::newRow("other case") << "a.PDF" << true << "a.PDF.pdf"
                                     << "a.PDF/";
+        QTest::newRow("marks") << QString::fromUtf8("ไทยี่ नमस्ते e\u0301") << true << QString::fromUtf8("ไทยี่ नमस्ते é.pdf")
+                               << QString::fromUtf8("ไทยี่ नमस्ते é/");
         QTest::newRow("letters") << QString::fromUtf8("Größe 1") << true << QString::fromUtf8("Größe 1.pdf")
                                  << QString::fromUtf8("Größe 1/");
     }

@@ -207,19 +207,21 @@ private Q_SLOTS:
     void namesOfNoFileAreRefused_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("isSaved");
-        QTest::newRow("up") << ".." << false;
-        QTest::newRow("out") << "../../x" << false;
-        QTest::newRow("below") << "a/b" << false;
-        QTest::newRow("NUL") << QString("a") + QChar(QChar::Null) + "b" << false;
-        QTest::newRow("256 bytes") << QString(249, 'x') << false;
-        QTest::newRow("255 bytes") << QString(248, 'x') << true;
-        QTest::newRow("255 bytes with its own suffix") << QString(244, 'x') + ".txt" << true;
+        QTest::addColumn<QString>("problem");
+        QTest::newRow("up") << ".." << "\"..\" is no name of a file.";
+        QTest::newRow("out") << "../../x" << "The name may not have \"/\" in it.";
+        QTest::newRow("NUL") << QString("a") + QChar(QChar::Null) + "b" << "The name may not have a NUL character in it.";
+        QTest::newRow("256 bytes") << QString(249, 'x') << "The name may have 248 characters, it has 249.";
+        QTest::newRow("256 bytes in Thai") << QString(86, QChar(0xe01)) << "The name may have 82 characters, it has 86.";
+        QTest::newRow("255 bytes") << QString(248, 'x') << "";
+        QTest::newRow("255 bytes with its own suffix") << QString(244, 'x') + ".txt" << "";
+        QTest::newRow("255 bytes when composed") << QString("e") + QChar(0x301) + QString(246, 'x') << "";
     }
     void namesOfNoFileAreRefused()
     {
         QFETCH(QString, name);
-        QFETCH(bool, isSaved);
+        QFETCH(QString, problem);
+        const bool isSaved = problem.isEmpty();
         Controller report;
         report.setFolder("f");
         report.setUp("a", 3);
@@ -233,7 +235,7 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(onDisk("/cust/public/reports/f")), isSaved);
         QCOMPARE(manager()->currentDialog() != nullptr, !isSaved);
         if (!isSaved)
-            QCOMPARE(manager()->currentDialog()->longLabel(), QString("Write Error"));
+            QCOMPARE(manager()->currentDialog()->msg(), problem);
     }
 
     void recordsTellOfReports()

@@ -95,7 +95,8 @@ private Q_SLOTS:
 
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
+        // Paths are those of the desk, also where an instrument has its plots.
+        m_folder = std::make_unique<QTemporaryDir>("/tmp/rep_plot_XXXXXX");
         m_scratch = std::make_unique<QTemporaryDir>();
         QVERIFY(m_folder->isValid() && m_scratch->isValid());
         m_environment = QProcessEnvironment::systemEnvironment();

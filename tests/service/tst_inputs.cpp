@@ -137,6 +137,9 @@ private Q_SLOTS:
         QTest::newRow("extended") << "(?x) [a-z] +" << "abc" << "123";
         QTest::newRow("negative lengths") << ".{-5,10}" << "abc" << "";
         QTest::newRow("letters of any script") << R"(\w+)" << QString::fromUtf8("žлό") << "a b";
+        const QString marked = QString::fromUtf8("नमस्ते") + "e" + QChar(0x301);
+        QTest::newRow("marks of letters") << R"(\w+\[[^]:[:alpha:]][\w-.]+\W)" << marked + "[1" + marked + "-." << marked;
+        QTest::newRow("quoted") << R"(\Q\w\E)" << R"(\w)" << "w";
     }
     void expressions()
     {

@@ -36,18 +36,12 @@ QString pathIn(QString folder, QString name)
     return folder + slash + name;
 }
 
-/// The folder of the records of the reports in a folder, which may be written with a slash behind it or without.
-QString recordFolderOf(const QString& reportFolder)
+/// The folder of the records of the reports in a folder.
+QString recordFolderOf(QString folder)
 {
-    const bool isClosed = reportFolder.endsWith(slash);
-    QString folder = isClosed ? reportFolder : reportFolder + slash;
     if (folder.contains(QLatin1String("/reports/autosave/")))
-        folder.replace(QLatin1String("/autosave/"), QLatin1String("/metadata/"));
-    else
-        folder.replace(QLatin1String("/public/reports/"), QLatin1String("/private/reports/metadata/"));
-    if (!isClosed)
-        folder.chop(1);
-    return folder;
+        return folder.replace(QLatin1String("/autosave/"), QLatin1String("/metadata/"));
+    return folder.replace(QLatin1String("/public/reports/"), QLatin1String("/private/reports/metadata/"));
 }
 
 /// The bytes of a regular file: a pipe or a device could keep the reader waiting for ever. None, when it cannot be
@@ -63,12 +57,18 @@ std::optional<QByteArray> recordBytes(const QString& path)
     return text;
 }
 
-/// Whether what lies under the keys is texts, as far as there is anything.
-bool holdsTexts(const QJsonObject& object, const QStringList& keys)
+/// The text of a leaf.
+QString textOf(const QJsonValue& value)
+{
+    return value.toVariant().toString();
+}
+
+/// Whether what lies under the keys is leaves, as far as there is anything: others write numbers.
+bool holdsLeaves(const QJsonObject& object, const QStringList& keys)
 {
     for (const QString& key : keys) {
         const QJsonValue value = object.value(key);
-        if (!value.isString() && !value.isUndefined())
+        if (value.isObject() || value.isArray())
             return false;
     }
     return true;
@@ -77,8 +77,8 @@ bool holdsTexts(const QJsonObject& object, const QStringList& keys)
 bool hasShapeOfRecord(const QJsonObject& object)
 {
     const QJsonValue info = object.value(infoKey);
-    return holdsTexts(object, {typeKey, formatKey, timeStampKey, originFilePathKey})
-            && (info.isUndefined() || (info.isObject() && holdsTexts(info.toObject(), info.toObject().keys())));
+    return holdsLeaves(object, {typeKey, formatKey, timeStampKey, originFilePathKey})
+            && (info.isUndefined() || (info.isObject() && holdsLeaves(info.toObject(), info.toObject().keys())));
 }
 
 } // namespace
@@ -217,13 +217,13 @@ bool ReportMetadata::takeJson(const QByteArray& text)
     const QJsonObject record = document.object();
     if (!document.isObject() || !hasShapeOfRecord(record))
         return false;
-    m_type = record.value(typeKey).toString();
-    m_format = record.value(formatKey).toString();
-    m_timeStamp = record.value(timeStampKey).toString();
-    m_originFilePath = record.value(originFilePathKey).toString();
+    m_type = textOf(record.value(typeKey));
+    m_format = textOf(record.value(formatKey));
+    m_timeStamp = textOf(record.value(timeStampKey));
+    m_originFilePath = textOf(record.value(originFilePathKey));
     m_info.clear();
     const QJsonObject info = record.value(infoKey).toObject();
     for (auto it = info.begin(); it != info.end(); ++it)
-        m_info.insert(it.key(), it.value().toString());
+        m_info.insert(it.key(), textOf(it.value()));
     return true;
 }

@@ -42,15 +42,17 @@ public:
     void setTimeStamp(const QString& timeStamp);
     QString timeStamp() const { return m_timeStamp; }
 
-    /// Sets one pair, in place of an earlier one of that key. Standard strings are UTF-8.
+    /// Sets one pair, in place of an earlier one of that key. Standard strings and literals are UTF-8.
     void setInfo(const QString& key, const QString& value);
     void setInfo(const std::string& key, const std::string& value);
+    void setInfo(const char* key, const char* value) { setInfo(QString::fromUtf8(key), QString::fromUtf8(value)); }
     /// The value of a pair; empty without one.
     QString getInfo(const QString& key) const { return m_info.value(key); }
 
     /// Sets the folder of the described file, and that of the record beside it: "/cust/public/reports/otdr/" has its
     /// records in "/cust/private/reports/metadata/otdr/", and ".../reports/autosave/" in ".../reports/metadata/".
-    /// Records for any other folder lie in that folder.
+    /// Records for any other folder lie in that folder. The text decides: "/cust/public/reports" without its last slash
+    /// is any other folder.
     void updateMetadataPathBase(const QString& reportDir);
     /// Sets the folder of the record to the one for cable tests.
     void updateMetadataPathCable();
@@ -69,8 +71,8 @@ public:
     bool saveMetadataToFile();
 
     /// Takes type, format, pairs, time and path of the described file from the record's file; what is missing there is
-    /// empty. Returns false, and changes nothing, when there is no such file, when it is too large, and when it is not
-    /// JSON of that shape.
+    /// empty, and numbers are their texts. Returns false, and changes nothing, when there is no such file, when it is
+    /// too large, and when it is not JSON of that shape.
     bool loadFromDisk();
 
     /// Empties everything.

@@ -1,5 +1,6 @@
 #include "document/reporttemplate.h"
 
+#include "base/paths.h"
 #include "document/opennode_p.h"
 #include "document/reportkeys_p.h"
 
@@ -43,6 +44,12 @@ ReportTemplate::ReportTemplate(QObject* parent)
 ReportTemplate::~ReportTemplate() = default;
 
 void ReportTemplate::readFile(const QString& file)
+{
+    readDiskFile(uiutils::onDisk(file));
+    m_path = file;
+}
+
+void ReportTemplate::readDiskFile(const QString& file)
 {
     m_path = file;
     m_document.readFile(file);

@@ -34,8 +34,11 @@ public:
     ~ReportTemplate() override;
 
     /// Replaces the document by that of a JSON file and takes the tag and the path from it. When the file cannot be
-    /// read, the document and the tag are empty and hasError() is true. Nodes begun and not ended stay open.
+    /// read, the document and the tag are empty and hasError() is true. Nodes begun and not ended stay open. An
+    /// instrument path ("/cust/...").
     Q_INVOKABLE void readFile(const QString& file);
+    /// The same for a path of the disk, which is taken as it is.
+    void readDiskFile(const QString& file);
     /// Replaces the document, the tag, the path and what readFile() said by those of `other`. Nodes begun and not ended
     /// stay open.
     void adopt(const ReportTemplate& other);

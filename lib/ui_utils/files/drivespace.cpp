@@ -2,12 +2,11 @@
 
 #include "base/paths.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QVector>
+#include <QSet>
 
-#include <algorithm>
 #include <limits>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
@@ -44,30 +43,33 @@ QString nearestExisting(const QString& path)
     return QString();
 }
 
-/// Walks a tree of folders. A link may lead back to a folder that the walk is in, which would never end.
+/// Walks a tree of folders. Links may lead to one folder on many ways, and back to one that the walk is in: each is
+/// visited once. What lies on other drives is not the tree's.
 class TreeWalk
 {
 public:
-    explicit TreeWalk(qint64 blockSize)
+    TreeWalk(qint64 blockSize, int mostEntries)
         : m_blockSize(blockSize)
+        , m_entriesLeft(mostEntries)
     {
     }
 
     qint64 blocksOf(const QString& source, const QString& destination)
     {
-        struct stat folder = {};
         const QString place = onDisk(source);
-        if (::stat(QFile::encodeName(place).constData(), &folder) != 0 || isOnTheWay(folder))
+        if (!isNew(place))
             return 0;
-        m_way.append(folder);
         qint64 blocks = 0;
-        const QDir::Filters filters = QDir::Dirs | QDir::Files | QDir::Drives | QDir::NoDotAndDotDot;
-        const QFileInfoList entries = QDir(place).entryInfoList(filters, QDir::Unsorted);
-        for (const QFileInfo& entry : entries)
-            blocks = sumOf(blocks, blocksOf(entry, source, destination));
-        m_way.removeLast();
+        QDirIterator entries(place, QDir::Dirs | QDir::Files | QDir::Drives | QDir::NoDotAndDotDot);
+        while (m_entriesLeft >= 0 && entries.hasNext()) {
+            entries.next();
+            --m_entriesLeft;
+            blocks = sumOf(blocks, blocksOf(entries.fileInfo(), source, destination));
+        }
         return blocks;
     }
+
+    bool isComplete() const { return m_entriesLeft >= 0; }
 
 private:
     qint64 blocksOf(const QFileInfo& entry, const QString& source, const QString& destination)
@@ -78,15 +80,23 @@ private:
         return blocksFor(entry.size(), m_blockSize) - blocksOfFile(target, m_blockSize);
     }
 
-    bool isOnTheWay(const struct stat& folder) const
+    bool isNew(const QString& place)
     {
-        return std::any_of(m_way.cbegin(), m_way.cend(), [&](const struct stat& passed) {
-            return passed.st_ino == folder.st_ino && passed.st_dev == folder.st_dev;
-        });
+        struct stat folder = {};
+        if (::stat(QFile::encodeName(place).constData(), &folder) != 0)
+            return false;
+        if (m_visited.isEmpty())
+            m_device = folder.st_dev;
+        const int before = m_visited.size();
+        if (folder.st_dev == m_device)
+            m_visited.insert(folder.st_ino);
+        return m_visited.size() > before;
     }
 
     qint64 m_blockSize;
-    QVector<struct stat> m_way;
+    int m_entriesLeft;
+    dev_t m_device = 0;
+    QSet<ino_t> m_visited;
 };
 
 } // namespace
@@ -113,9 +123,11 @@ qint64 blocksOfFile(const QString& path, qint64 blockSize)
     return blocksFor(QFileInfo(onDisk(path)).size(), blockSize);
 }
 
-qint64 blocksOfTree(const QString& source, const QString& destination, qint64 blockSize)
+std::optional<qint64> blocksOfTree(const QString& source, const QString& destination, qint64 blockSize, int mostEntries)
 {
-    return TreeWalk(blockSize).blocksOf(source, destination);
+    TreeWalk walk(blockSize, mostEntries);
+    const qint64 blocks = walk.blocksOf(source, destination);
+    return walk.isComplete() ? std::optional<qint64>(blocks) : std::nullopt;
 }
 
 qint64 bytesIn(qint64 blocks, qint64 blockSize)

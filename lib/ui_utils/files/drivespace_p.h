@@ -26,8 +26,12 @@ qint64 blocksFor(qint64 bytes, qint64 blockSize);
 /// Blocks of the file at the instrument path, 0 when there is none.
 qint64 blocksOfFile(const QString& path, qint64 blockSize);
 
-/// See FileUtils::getDirSize(). `source` has to exist.
-qint64 blocksOfTree(const QString& source, const QString& destination, qint64 blockSize);
+/// The files and folders that a tree may have: more would keep the screens waiting.
+constexpr int mostTreeEntries = 1'000'000;
+
+/// See FileUtils::getDirSize(). `source` has to exist. Nothing when there are more than `mostEntries` below it.
+std::optional<qint64> blocksOfTree(
+        const QString& source, const QString& destination, qint64 blockSize, int mostEntries = mostTreeEntries);
 
 /// Bytes in so many blocks.
 qint64 bytesIn(qint64 blocks, qint64 blockSize);

@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <limits>
+
 using uiutils::onDisk;
 
 namespace {
@@ -37,6 +39,12 @@ QMap<QString, QString> joined(QMap<QString, QString> first, const QMap<QString, 
     for (auto it = others.cbegin(); it != others.cend(); ++it)
         first.insert(it.key(), it.value());
     return first;
+}
+
+void warnOfEntries(const char* operation, const QString& path)
+{
+    qCritical("FileUtils::%s - source path %s has more than %d files and folders", operation, qUtf8Printable(path),
+            uiutils::mostTreeEntries);
 }
 
 } // namespace
@@ -103,7 +111,12 @@ bool FileUtils::checkDriveSpaceForDir(QString src_path, QString dest_path)
         return false;
     }
     const auto space = uiutils::driveSpaceAt(dest_path);
-    return space && hasRoom(dest_path, *space, getDirSize(src_path, dest_path, space->blockSize));
+    if (!space)
+        return false;
+    const auto blocks = uiutils::blocksOfTree(src_path, dest_path, space->blockSize);
+    if (!blocks)
+        warnOfEntries("checkDriveSpaceForDir", src_path);
+    return blocks && hasRoom(dest_path, *space, *blocks);
 }
 
 void FileUtils::sendNotificationDriveFull(QString real_path)
@@ -173,7 +186,12 @@ qint64 FileUtils::getDirSize(QString src_path, QString dest_path, qint64 fs_bloc
         qCritical("FileUtils::getDirSize - source path %s does not exist", qUtf8Printable(src_path));
         return 0;
     }
-    return fs_block_size < 1 ? 0 : uiutils::blocksOfTree(src_path, dest_path, fs_block_size);
+    if (fs_block_size < 1)
+        return 0;
+    const auto blocks = uiutils::blocksOfTree(src_path, dest_path, fs_block_size);
+    if (!blocks)
+        warnOfEntries("getDirSize", src_path);
+    return blocks.value_or(std::numeric_limits<qint64>::max());
 }
 
 KIVNotification* FileUtils::freshNotification(const QString& title, const QString& text)

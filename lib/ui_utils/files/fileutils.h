@@ -44,8 +44,8 @@ public:
     Q_INVOKABLE bool checkDriveSpaceForFile(qint64 src_file_size, QString dest_path);
     /// The same for the size of the file `src_file`, 0 bytes when there is none.
     Q_INVOKABLE bool checkDriveSpaceForFile(QString src_file, QString dest_path);
-    /// The same for everything below the folder `src_path`, copied into the folder `dest_path`. False with a line in
-    /// the log when `src_path` does not exist.
+    /// The same for everything that getDirSize() counts below the folder `src_path`, copied into the folder
+    /// `dest_path`. False with a line in the log when `src_path` does not exist or cannot be counted.
     Q_INVOKABLE bool checkDriveSpaceForDir(QString src_path, QString dest_path);
 
     /// Errors, in the tray and in a dialog.
@@ -70,8 +70,9 @@ public:
             QString real_file_path, QString icon_file, QMap<QString, QString> optional_args);
 
     /// How many blocks of `fs_block_size` bytes the files below `src_path` need beyond those that files of their names
-    /// below `dest_path` give back. Links to folders are followed, but not back to a folder that leads there. 0 with a
-    /// line in the log when `src_path` does not exist; 0 for a block size below 1.
+    /// below `dest_path` give back. Links to folders are followed on the drive of `src_path`, and each folder counts
+    /// once however many lead there. 0 with a line in the log when `src_path` does not exist; 0 for a block size
+    /// below 1; the largest number with a line in the log when there are more than 1,000,000 files and folders.
     Q_INVOKABLE qint64 getDirSize(QString src_path, QString dest_path, qint64 fs_block_size);
 
 Q_SIGNALS:

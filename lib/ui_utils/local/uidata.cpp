@@ -61,7 +61,9 @@ UiData::UiData(QObject* parent)
 
 UiData::~UiData()
 {
-    UiDataContainer::shared()->removeItem(this);
+    UiDataContainer::shared();
+    while (!m_containers.isEmpty())
+        m_containers.constLast()->removeItem(this);
     // The context holds a plain pointer.
     const QString id = getRegisterId();
     if (m_rootContext && m_rootContext->isValid() && !id.isEmpty()
@@ -75,6 +77,7 @@ void UiData::setAttributes(const QMap<QString, QVariant>& attributes)
 {
     if (attributes != m_attributes)
         m_attributes = attributes;
+    tellContainers();
     const QPointer<UiData> self(this);
     slotValidatorUpdate();
     if (self)
@@ -100,6 +103,8 @@ QString UiData::getType() const
 void UiData::setType(const QString& type)
 {
     m_attributes.insert(keys::type, type);
+    if (m_isBeingDeclared)
+        holdValue(declared(getValue()));
     // QML sets properties in the order in which they are written, the type perhaps behind the expression.
     updateValidator();
     Q_EMIT typeChanged();
@@ -245,6 +250,7 @@ void UiData::setMandatory(bool mandatory)
 {
     const bool isChange = mandatory != isMandatory();
     m_attributes.insert(keys::mandatory, mandatory);
+    tellContainers();
     if (isChange)
         Q_EMIT mandatoryChanged();
 }
@@ -258,8 +264,19 @@ void UiData::setValueOk(bool valueOk)
 {
     const bool isChange = valueOk != isValueOk();
     m_attributes.insert(keys::valueOk, valueOk);
+    tellContainers();
     if (isChange)
         Q_EMIT valueOkChanged();
+}
+
+void UiData::tellContainers()
+{
+    const bool isHindrance = isMandatory() && !isValueOk();
+    if (isHindrance == m_isHindrance)
+        return;
+    m_isHindrance = isHindrance;
+    for (UiDataContainer* container : qAsConst(m_containers))
+        container->countHindrance(isHindrance ? 1 : -1);
 }
 
 int UiData::getQualityCode() const
@@ -427,10 +444,14 @@ QObject* UiData::getObjectParent() const
     return m_declarer ? m_declarer.data() : parent();
 }
 
-void UiData::classBegin() { }
+void UiData::classBegin()
+{
+    m_isBeingDeclared = true;
+}
 
 void UiData::componentComplete()
 {
+    m_isBeingDeclared = false;
     QQmlEngine* engine = qmlEngine(this);
     if (!engine) {
         qWarning("registerId is used for context property name in a engine");

@@ -11,6 +11,10 @@
 #include <QStringList>
 #include <QVector>
 
+#include <optional>
+
+class UiDataContainer;
+
 /// A data item that no service publishes: a form's field, with the face of a service item.
 ///
 /// Everything but the value is kept as an attribute by name; the properties are views of those. Items that QML declares
@@ -111,15 +115,19 @@ public:
 
     // --- The value ---
 
-    /// Takes any value, read-only or not: the code that owns a form sets its fields. The text of a vector is cut at 1
-    /// MiB.
+    /// Takes any value as it is, read-only or not: the code that owns a form sets its fields. Of a vector the elements
+    /// are taken from the text of the value, which is cut at 1 MiB; those that are no number, or none of 32 bits in a
+    /// vector of whole numbers, are 0.
     void setValue(QVariant value) override;
     /// Sets the elements of a vector.
     void setValue(QVector<QVariant> elements);
+    QVariant getValue() const override;
     QString getValueString(bool showUnits = true) const override;
     int getValueCount() const override;
     QVariant at(int ind) const override;
+    /// What was set last; before that 0, or -1 without elements.
     int getArraySelection() const override;
+    /// Takes any index, also before the elements are there.
     void setArraySelection(int index) override;
     QString getArraySelectionString() const override;
 
@@ -190,22 +198,35 @@ Q_SIGNALS:
     void validatorChanged();
 
 private:
+    friend class UiDataContainer;
+
     bool isVector() const;
+    QVariant declared(const QVariant& value) const;
     QVariant element(const QVariant& value) const;
     void updateVectorValue();
     void joinElements();
+    void holdText(const QString& text);
     void setQuality(int code);
+    void tellContainers();
     void registerInEngine(QQmlContext* rootContext);
 
     QMap<QString, QVariant> m_attributes;
     QVector<QVariant> m_elements;
-    int m_arraySelection = 0;
+    /// The elements have changed since their text was made, which waits until somebody asks for it.
+    bool m_isTextStale = false;
+    /// As it was set last.
+    std::optional<int> m_arraySelection;
+    /// QML is setting what its file says.
+    bool m_isBeingDeclared = false;
     QPointer<UiDataEnums> m_enumList;
     QQmlPropertyMap* m_enumMap;
     QStringList m_enumLabels;
     QList<int> m_enumValues;
     QPointer<QObject> m_declarer;
     QPointer<QQmlContext> m_rootContext;
+    /// Those that the item stands in, and whether it keeps them from being ready.
+    QVector<UiDataContainer*> m_containers;
+    bool m_isHindrance = false;
 };
 
 /// A text.

@@ -4,8 +4,6 @@
 
 #include <QPointer>
 
-#include <algorithm>
-
 UiDataContainer* UiDataContainer::s_dcInstance = nullptr;
 
 UiDataContainer::UiDataContainer(QObject* parent)
@@ -16,6 +14,9 @@ UiDataContainer::UiDataContainer(QObject* parent)
 UiDataContainer::~UiDataContainer()
 {
     // The children go after this and would look for their entries.
+    const QList<UiData*> items = m_items.values();
+    for (UiData* item : items)
+        item->m_containers.removeAll(this);
     m_items.clear();
     if (s_dcInstance == this)
         s_dcInstance = nullptr;
@@ -34,32 +35,51 @@ void UiDataContainer::addItem(UiData* item)
         return;
     item->setParent(this);
     const QString id = item->getId();
-    m_items.insert(id, item);
+    enter(id, item);
+    // Whoever hears of the stored value may end the item or the container.
     const QPointer<UiData> guard(item);
+    const QPointer<UiDataContainer> self(this);
     const auto stored = m_persistentConfig.constFind(id);
     if (item->isPersistent() && stored != m_persistentConfig.cend() && item->getValue() != *stored)
         item->setValue(QVariant(*stored));
-    if (!guard)
+    if (!self || !guard)
         return;
     connect(item, &KivData::valueChanged, this, &UiDataContainer::slotValueUpdated, Qt::UniqueConnection);
-    connect(item, &QObject::destroyed, this, &UiDataContainer::forget, Qt::UniqueConnection);
     slotValueUpdated();
 }
 
-void UiDataContainer::removeItem(UiData* item)
+void UiDataContainer::enter(const QString& id, UiData* item)
 {
-    forget(item);
+    UiData* former = m_items.value(id);
+    if (former == item)
+        return;
+    m_items.insert(id, item);
+    m_ids.insert(item, id);
+    item->tellContainers();
+    if (!item->m_containers.contains(this)) {
+        item->m_containers.append(this);
+        countHindrance(item->m_isHindrance ? 1 : 0);
+    }
+    if (former && m_ids.remove(former, id) > 0 && !m_ids.contains(former))
+        leave(former);
+}
+
+void UiDataContainer::leave(UiData* item)
+{
+    if (item->m_containers.removeAll(this) > 0)
+        countHindrance(item->m_isHindrance ? -1 : 0);
 }
 
 /// By its address, because an item's id may have changed since it came in, and another one may have taken its place.
-void UiDataContainer::forget(const QObject* item)
+void UiDataContainer::removeItem(UiData* item)
 {
-    for (auto it = m_items.begin(); it != m_items.end();) {
-        if (static_cast<const QObject*>(*it) == item)
-            it = m_items.erase(it);
-        else
-            ++it;
-    }
+    const QStringList ids = m_ids.values(item);
+    if (ids.isEmpty())
+        return;
+    for (const QString& id : ids)
+        m_items.remove(id);
+    m_ids.remove(item);
+    leave(item);
 }
 
 void UiDataContainer::setPersistentConfigMap(QMap<QString, QVariant> values)
@@ -69,8 +89,7 @@ void UiDataContainer::setPersistentConfigMap(QMap<QString, QVariant> values)
 
 void UiDataContainer::slotValueUpdated()
 {
-    const bool areOk = std::none_of(m_items.cbegin(), m_items.cend(),
-            [](const UiData* item) { return item->isMandatory() && !item->isValueOk(); });
+    const bool areOk = m_hindrances == 0;
     const QPointer<UiDataContainer> self(this);
     if (areOk != m_allItemsOk) {
         m_allItemsOk = areOk;

@@ -3,6 +3,7 @@
 #include "core/uiutils_export.h"
 
 #include <QMap>
+#include <QMultiHash>
 #include <QObject>
 #include <QString>
 #include <QVariant>
@@ -49,9 +50,17 @@ public Q_SLOTS:
     void slotValueUpdated();
 
 private:
-    void forget(const QObject* item);
+    friend class UiData;
+    void enter(const QString& id, UiData* item);
+    void leave(UiData* item);
+    void countHindrance(int change) { m_hindrances += change; }
 
     QMap<QString, UiData*> m_items;
+    /// The ids under which an item stands.
+    QMultiHash<UiData*, QString> m_ids;
+    /// Mandatory items with a value that is not acceptable. Items count themselves, so that no change of a value takes
+    /// a walk over all of them.
+    int m_hindrances = 0;
     bool m_allItemsOk = false;
     QMap<QString, QVariant> m_persistentConfig;
 };

@@ -15,6 +15,7 @@
 #include <QVector3D>
 #include <QVector4D>
 
+#include <limits>
 #include <utility>
 
 using uiutils::isWithin;
@@ -31,9 +32,22 @@ QString joined(const QVector<double>& numbers, int digits = 15)
     return texts.join(QLatin1Char(','));
 }
 
-/// A literal such as "1,2" or "10:20" in a QML file arrives as a point or a time where any value is taken. A form wants
-/// what was written.
-QVariant asWritten(const QVariant& value)
+bool hasMilliseconds(const QTime& time)
+{
+    return time.msec() != 0;
+}
+
+QString timeText(const QTime& time)
+{
+    const QString seconds = hasMilliseconds(time) ? QStringLiteral(":ss.zzz")
+            : time.second() != 0                  ? QStringLiteral(":ss")
+                                                  : QString();
+    return time.toString(QLatin1String("HH:mm") + seconds);
+}
+
+/// The literal that stands for the value in a QML file, where that is a text: "1,2" for a point, "10:20" for a time.
+/// Other values as they are.
+QVariant asLiteral(const QVariant& value)
 {
     switch (value.userType()) {
     case QMetaType::QPointF: {
@@ -57,25 +71,41 @@ QVariant asWritten(const QVariant& value)
         return joined({vector.x(), vector.y(), vector.z(), vector.w()}, 6);
     }
     case QMetaType::QTime:
-        return value.toTime().toString(
-                value.toTime().second() == 0 ? QStringLiteral("HH:mm") : QStringLiteral("HH:mm:ss"));
+        return timeText(value.toTime());
     case QMetaType::QDateTime:
-        return value.toDateTime().toString(Qt::ISODate);
+        return value.toDateTime().toString(hasMilliseconds(value.toTime()) ? Qt::ISODateWithMs : Qt::ISODate);
     case QMetaType::QDate:
         return value.toDate().toString(Qt::ISODate);
-    case QMetaType::QColor:
-        return value.value<QColor>().name();
+    case QMetaType::QColor: {
+        const QColor color = value.value<QColor>();
+        return color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
+    }
     default:
         return value;
     }
+}
+
+QString textOf(const QVariant& value)
+{
+    return asLiteral(value).toString();
 }
 
 /// The comma-joined text that stands for a vector, whatever QML gave.
 QString vectorText(const QVariant& value)
 {
     if (value.type() != QVariant::List && value.type() != QVariant::StringList)
-        return value.toString();
+        return textOf(value);
     return value.toStringList().join(QLatin1Char(','));
+}
+
+/// A whole number of 32 bits; 0 for whatever is none.
+int wholeNumber(const QVariant& value)
+{
+    if (value.type() == QVariant::String)
+        return value.toString().toInt();
+    const double number = value.toDouble();
+    const bool fits = number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max();
+    return fits ? qRound(number) : 0;
 }
 
 } // namespace
@@ -86,12 +116,20 @@ bool UiData::isVector() const
     return type == TYPE_VEC_INT || type == TYPE_VEC_DOUBLE || type == TYPE_VEC_STRING;
 }
 
+/// QML makes a point of the literal "1,2" and a time of "10:20" where any value is taken. A text is what was written.
+QVariant UiData::declared(const QVariant& value) const
+{
+    return m_isBeingDeclared && (getType() == TYPE_STRING || isVector()) ? asLiteral(value) : value;
+}
+
 void UiData::setValue(QVariant value)
 {
-    value = asWritten(uiutils::plainValue(value));
+    value = uiutils::plainValue(value);
     if (!isVector()) {
+        value = declared(value);
         if (!mayWrite(!uiutils::isSameValue(value, getValue())))
             return;
+        m_isTextStale = false;
         holdValue(value);
         announce({&UiData::valueChanged});
         return;
@@ -102,7 +140,7 @@ void UiData::setValue(QVariant value)
             = text.isEmpty() && value.isValid() && value.type() != QVariant::String && value.toList().isEmpty();
     if (!mayWrite(text != getValue() || isNone != m_elements.isEmpty()))
         return;
-    holdValue(text);
+    holdText(text);
     if (isNone)
         m_elements.clear();
     else
@@ -115,7 +153,7 @@ void UiData::setValue(QVector<QVariant> elements)
     if (!mayWrite(elements != m_elements))
         return;
     m_elements = std::move(elements);
-    joinElements();
+    m_isTextStale = true;
     announce({&UiData::valueChanged, &UiData::valueCountChanged});
 }
 
@@ -126,7 +164,7 @@ QVariant UiData::element(const QVariant& value) const
     if (type == TYPE_VEC_DOUBLE)
         return plain.toDouble();
     if (type == TYPE_VEC_INT)
-        return plain.toInt();
+        return wholeNumber(plain);
     return plain.toString();
 }
 
@@ -143,13 +181,26 @@ void UiData::updateVectorValue()
     }
 }
 
+QVariant UiData::getValue() const
+{
+    if (m_isTextStale)
+        const_cast<UiData*>(this)->joinElements();
+    return KivData::getValue();
+}
+
 void UiData::joinElements()
 {
     QStringList texts;
     texts.reserve(m_elements.size());
     for (const QVariant& part : qAsConst(m_elements))
         texts.append(part.toString());
-    holdValue(texts.join(QLatin1Char(',')));
+    holdText(texts.join(QLatin1Char(',')));
+}
+
+void UiData::holdText(const QString& text)
+{
+    m_isTextStale = false;
+    holdValue(text);
 }
 
 QString UiData::getValueString(bool showUnits) const
@@ -163,7 +214,7 @@ QString UiData::getValueString(bool showUnits) const
         const int position = m_enumValues.indexOf(getValue().toInt());
         return getValue().isValid() ? m_enumLabels.value(position) : QString();
     }
-    return type == TYPE_DOUBLE ? uiutils::plainText(getValue().toDouble(), getPrecision()) : getValue().toString();
+    return type == TYPE_DOUBLE ? uiutils::plainText(getValue().toDouble(), getPrecision()) : textOf(getValue());
 }
 
 int UiData::getValueCount() const
@@ -194,7 +245,7 @@ void UiData::setAt(int ind, QVariant const& val)
     if (!mayWrite(!uiutils::isSameValue(written, m_elements.at(ind))))
         return;
     m_elements[ind] = written;
-    joinElements();
+    m_isTextStale = true;
     announce({&UiData::valueChanged, &UiData::arraySelectionChanged});
 }
 
@@ -203,7 +254,7 @@ void UiData::insertAt(int ind, const QVariant& val)
     if (!isVector() || !isWithin(ind, m_elements.size() + 1) || !mayWrite(true))
         return;
     m_elements.insert(ind, element(val));
-    joinElements();
+    m_isTextStale = true;
     announce({&UiData::valueChanged, &UiData::valueCountChanged, &UiData::arraySelectionChanged});
 }
 
@@ -212,20 +263,20 @@ void UiData::removeAt(int at)
     if (!isWithin(at, m_elements.size()) || !mayWrite(true))
         return;
     m_elements.removeAt(at);
-    m_arraySelection = qMax(0, qMin(m_arraySelection, m_elements.size() - 1));
-    joinElements();
+    // What was selected at the end moves with the end.
+    if (m_arraySelection == m_elements.size() && !m_elements.isEmpty())
+        --*m_arraySelection;
+    m_isTextStale = true;
     announce({&UiData::valueChanged, &UiData::arraySelectionChanged, &UiData::valueCountChanged});
 }
 
 int UiData::getArraySelection() const
 {
-    return isWithin(m_arraySelection, m_elements.size()) ? m_arraySelection : -1;
+    return m_arraySelection.value_or(m_elements.isEmpty() ? -1 : 0);
 }
 
 void UiData::setArraySelection(int index)
 {
-    if (!isWithin(index, m_elements.size()))
-        return;
     m_arraySelection = index;
     Q_EMIT arraySelectionChanged();
 }

@@ -222,7 +222,7 @@ void Report::setTemplatePath(const QString& path)
 bool Report::readTemplate(const QString& path)
 {
     ReportTemplate trial;
-    trial.readFile(onDisk(path));
+    trial.readFile(path);
     if (trial.hasError())
         return false;
     m_document.adopt(trial);

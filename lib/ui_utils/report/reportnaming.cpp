@@ -2,12 +2,19 @@
 
 #include "report/reportformats_p.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QStringList>
+#include <QVector>
 
 namespace uiutils {
 
 namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("Report", text);
+}
 
 QString withSlash(const QString& folder)
 {
@@ -36,7 +43,8 @@ QString safeFileName(const QString& name)
     const QChar neutral = QLatin1Char('_');
     if (name == QLatin1String(".") || name == QLatin1String(".."))
         return QString(neutral);
-    QString safe = name;
+    // One spelling of letters with marks, or one name would be two files.
+    QString safe = name.normalized(QString::NormalizationForm_C);
     for (QChar& character : safe) {
         if (character == QLatin1Char('/') || character.category() == QChar::Other_Control)
             character = neutral;
@@ -44,16 +52,28 @@ QString safeFileName(const QString& name)
     return safe;
 }
 
-bool isFileName(const QString& name, const QString& suffix, bool compressed)
+QString nameProblem(const QString& name, const QString& suffix, bool compressed)
 {
-    if (name == QLatin1String(".") || name == QLatin1String("..") || name.contains(QLatin1Char('/'))
-            || name.contains(QChar(QChar::Null)))
-        return false;
+    if (name == QLatin1String(".") || name == QLatin1String(".."))
+        return translated(QT_TRANSLATE_NOOP("Report", "\"%1\" is no name of a file.")).arg(name);
+    if (name.contains(QLatin1Char('/')))
+        return translated(QT_TRANSLATE_NOOP("Report", "The name may not have \"/\" in it."));
+    if (name.contains(QChar(QChar::Null)))
+        return translated(QT_TRANSLATE_NOOP("Report", "The name may not have a NUL character in it."));
     constexpr int mostBytes = 255;
-    QString fileName = withSuffix(safeFileName(name), suffix);
-    if (compressed)
-        fileName += gzipSuffix;
-    return QFile::encodeName(fileName).size() <= mostBytes;
+    const auto fits = [&](const QString& part) {
+        const QString plain = withSuffix(safeFileName(part), suffix);
+        return QFile::encodeName(compressed ? plain + gzipSuffix : plain).size() <= mostBytes;
+    };
+    if (fits(name))
+        return QString();
+    const QVector<uint> characters = name.toUcs4();
+    int most = characters.size();
+    while (most > 0 && !fits(QString::fromUcs4(characters.constData(), most)))
+        --most;
+    return translated(QT_TRANSLATE_NOOP("Report", "The name may have %1 characters, it has %2."))
+            .arg(most)
+            .arg(characters.size());
 }
 
 QString safeFolder(const QString& folder)
@@ -84,11 +104,16 @@ QString reportPath(const QString& directory, const QString& name, const QString&
 QString reportNamed(const QString& name, const QVariantList& reports)
 {
     const QString wanted = safeFileName(name);
+    const auto isWanted = [&](const QString& found) {
+        const QString composed = found.normalized(QString::NormalizationForm_C);
+        return composed == wanted || composed == wanted + gzipSuffix;
+    };
     for (const QVariant& entry : reports) {
         const QVariantMap report = entry.toMap();
         const QString path = report.value(QStringLiteral("path")).toString();
         const QString file = path.section(QLatin1Char('/'), -1);
-        if (report.value(QStringLiteral("name")).toString() == wanted || file == wanted || file == wanted + gzipSuffix)
+        if (report.value(QStringLiteral("name")).toString().normalized(QString::NormalizationForm_C) == wanted
+                || isWanted(file))
             return path;
     }
     return QString();

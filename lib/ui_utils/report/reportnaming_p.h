@@ -11,12 +11,13 @@ namespace uiutils {
 /// The test's short label without what no file name should hold, and the time: "Fiber_Test_030325140509".
 QString proposedReportName(const QString& shortLabel, const QDateTime& time);
 
-/// `name` as one part of a path: "/", NUL and control characters become "_", and so do "." and "..".
+/// `name` as one part of a path: "/", NUL and control characters become "_", and so do "." and "..". Letters and their
+/// marks are composed where they can be.
 QString safeFileName(const QString& name);
 
-/// Whether a report of that name can lie in a folder with the suffix and, `compressed`, ".gz" behind it: it leads
-/// nowhere else and has no more than 255 bytes.
-bool isFileName(const QString& name, const QString& suffix, bool compressed);
+/// Why no report of that name can lie in a folder with the suffix and, `compressed`, ".gz" behind it, in words for the
+/// user: it leads elsewhere or has more than 255 bytes. Empty when one can.
+QString nameProblem(const QString& name, const QString& suffix, bool compressed);
 
 /// `folder` as parts of a path below another: its parts are as safeFileName() makes them, and empty ones go. Has no "/"
 /// at its ends.

@@ -118,16 +118,19 @@ bool Report::Save::takeName()
     m_isAll = m_report->isAll();
     m_formats = uiutils::formatsToWrite(m_report->getFormat(), m_report->m_settings.value(uiutils::formatSetting));
     if (m_formats.isEmpty()) {
-        m_report->m_state->tell(tr("Write Error"), tr("No format is chosen to save the report in."));
+        const KivData* item = m_report->getSetting(uiutils::formatSetting);
+        const QString given = item ? item->getValue().toString() : QString();
+        const bool isUnknown = !given.isEmpty() && !uiutils::reportFormat(m_report->getFormat());
+        m_report->m_state->tell(tr("Write Error"),
+                isUnknown ? tr("There is no format \"%1\" to save the report in.").arg(given)
+                          : tr("No format is chosen to save the report in."));
         return false;
     }
-    const auto refused
-            = std::find_if_not(m_formats.cbegin(), m_formats.cend(), [&](const uiutils::ReportFormat* format) {
-                  return uiutils::isFileName(m_name, format->suffix, m_report->isCompressionEnabled());
-              });
-    if (refused != m_formats.cend()) {
-        const QString path = m_report->getReportFilePath() + m_name + (*refused)->suffix;
-        m_report->m_state->tellWriteError(path, QStringLiteral("it is no name of a file, or too long"));
+    for (const uiutils::ReportFormat* format : qAsConst(m_formats)) {
+        const QString problem = uiutils::nameProblem(m_name, format->suffix, m_report->isCompressionEnabled());
+        if (problem.isEmpty())
+            continue;
+        m_report->m_state->tell(tr("Write Error"), problem);
         return false;
     }
     m_report->saveStarted(m_name);
@@ -347,5 +350,5 @@ QString Report::chosenName()
     // The label may be such as "1/10 GE", and that is nothing that users could mend.
     if (item && name.isEmpty())
         name = uiutils::safeFileName(proposedFileName());
-    return name.isEmpty() ? QStringLiteral("empty") : name;
+    return name.isEmpty() ? QStringLiteral("empty") : name.normalized(QString::NormalizationForm_C);
 }

@@ -1,6 +1,7 @@
 #include "service/inputvalidator_p.h"
 
 #include "service/forgivingvalidator.h"
+#include "service/wordmarks_p.h"
 
 #include <QDoubleValidator>
 #include <QIntValidator>
@@ -86,8 +87,9 @@ QString withEscapedHyphens(const QString& pattern)
     return repaired;
 }
 
-QRegularExpression inputExpression(const QString& pattern)
+QRegularExpression inputExpression(const QString& published)
 {
+    const QString pattern = withWordMarks(published);
     const QRegularExpression expression(pattern, QRegularExpression::UseUnicodePropertiesOption);
     const QString problem = problemOf(expression);
     if (problem.isEmpty())
@@ -95,7 +97,7 @@ QRegularExpression inputExpression(const QString& pattern)
     const QRegularExpression repaired(withEscapedHyphens(pattern), QRegularExpression::UseUnicodePropertiesOption);
     if (problemOf(repaired).isEmpty())
         return repaired;
-    warnOnce(pattern, problem);
+    warnOnce(published, problem);
     return QRegularExpression(QStringLiteral(".*"), QRegularExpression::DotMatchesEverythingOption);
 }
 

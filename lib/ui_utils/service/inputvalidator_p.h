@@ -38,8 +38,8 @@ QValidator* createValidator(const InputRule& rule, QObject* parent);
 bool applyRule(const InputRule& rule, QValidator* validator);
 
 /// The expression for `pattern`. One that PCRE2 refuses for a hyphen behind a class escape ("[\d-.]") is read as its
-/// author meant it. One that cannot be repaired, or is good only as long as nothing stands around it ("(*UTF)a", "(?x)a
-/// # b"), accepts everything and is logged once.
+/// author meant it; "\w" takes the marks of letters too. One that cannot be repaired, or is good only as long as nothing
+/// stands around it ("(*UTF)a", "(?x)a # b"), accepts everything and is logged once.
 QRegularExpression inputExpression(const QString& pattern);
 
 /// `pattern` with the hyphens escaped that stand behind a class escape inside brackets.

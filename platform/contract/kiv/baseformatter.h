@@ -42,5 +42,6 @@ private:
     bool m_showUnits = true;
 };
 
-/// A new formatter of that name, owned by the caller; null for an unknown name or without a back end.
+/// A new formatter of that name, owned by the caller; null without a back end, and for an unknown name, of which the
+/// log tells once.
 KIV_EXPORT BaseFormatter* getFormatter(const QString& name);

@@ -1,6 +1,8 @@
 #include <kiv/kivnotificationmodelmanager.h>
 
+#include <QMetaMethod>
 #include <QPointer>
+#include <QtDebug>
 
 #include <algorithm>
 
@@ -84,12 +86,22 @@ void KIVNotificationModelManager::addDialog(KIVNotification* notification)
 {
     if (m_dialogs.contains(notification))
         return;
+    warnOfNoView(*notification);
     connect(notification, &QObject::destroyed, this, &KIVNotificationModelManager::forget);
     m_dialogs.append(notification);
     if (m_dialogs.size() == 1)
         Q_EMIT currentDialogChanged();
     else
         Q_EMIT waitingDialogsChanged();
+}
+
+/// Whoever asks would wait for ever, and the user could not know why nothing happens.
+void KIVNotificationModelManager::warnOfNoView(const KIVNotification& notification) const
+{
+    static const QMetaMethod changed = QMetaMethod::fromSignal(&KIVNotificationModelManager::currentDialogChanged);
+    if (notification.kind() == KIVNotification::Request && !isSignalConnected(changed))
+        qWarning("The question \"%s\" is shown nowhere: put a NotificationDialog on a page of the window.",
+                qUtf8Printable(notification.longLabel()));
 }
 
 void KIVNotificationModelManager::takeDialog(int position)

@@ -14,7 +14,8 @@
 ///
 /// **Dialogs** open in the order in which KIVNotification::notifyDialog() was called; the others wait. They are no
 /// copies: a notification that is destroyed leaves the queue, whether its dialog is open or waits, and the next one
-/// opens. Nothing is ever dropped from the queue.
+/// opens. Nothing is ever dropped from the queue. A view makes itself known by following `currentDialog`, a binding or
+/// a connection: a request that comes when nobody does waits all the same, and the log says that it is shown nowhere.
 ///
 /// **Answers**: the view calls accept() or reject() for the open dialog. The notification has left the queue and
 /// currentDialogChanged() has been emitted when notificationAccepted() or notificationRejected() is, exactly once, and
@@ -90,6 +91,7 @@ private:
     void addToTray(const KIVNotification& notification);
     void dropRows(int first, int last);
     void addDialog(KIVNotification* notification);
+    void warnOfNoView(const KIVNotification& notification) const;
     void takeDialog(int position);
     void forget(QObject* notification);
     void answer(void (KIVNotificationModelManager::*answered)(KIVNotification*));

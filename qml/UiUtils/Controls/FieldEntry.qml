@@ -56,7 +56,9 @@ Entry {
     function checkLength(text) {
         if (text.length < Number(minimum || 0) || text.length > (maximum === undefined ? Infinity : Number(maximum)))
             return lengthText
-        return face.matches(text) ? "" : qsTr("This is not in the form that is needed")
+        if (face.matches(text))
+            return ""
+        return Formats.lengthProblem(face.item ? face.item.regex : "", text) || qsTr("This is not in the form that is needed")
     }
 
     // --- Commit and restore ---

@@ -66,6 +66,13 @@ function fileNameProblem(text) {
     return utf8Length(text) > 255 ? qsTr("This file name is too long") : ""
 }
 
+// What is wrong with the length of a text, where the expression is nothing but a length of one kind of characters.
+function lengthProblem(expression, text) {
+    const limits = /^\^?\[(?:\\.|[^\]\\])*\]\{\d+,(\d+)\}\$?$/.exec(expression)
+    const length = Array.from(text).length
+    return limits !== null && length > Number(limits[1]) ? qsTr("This may have %1 characters, it has %2").arg(limits[1]).arg(length) : ""
+}
+
 function phoneProblem(text) {
     return /^\+?[0-9 ()\/*#-]*$/.test(text) && /[0-9*#]/.test(text)
             ? "" : qsTr("Digits, + at the beginning, blanks and ( ) / - * #")
