@@ -392,53 +392,47 @@ private Q_SLOTS:
         QCOMPARE(uiutils::jobSummary(), QString());
     }
 
-    void attachesReports_data()
-    {
-        QTest::addColumn<bool>("isJobActive");
-        QTest::addColumn<QString>("schema");
-        QTest::addColumn<QString>("xml");
-        QTest::addColumn<QString>("reason");
-        const QString fits = QString::fromUtf8("<report>Größe</report>");
-        QTest::newRow("no schema") << true << "" << "<anything/>" << "";
-        QTest::newRow("fits") << true << "job.xsd" << fits << "";
-        QTest::newRow("does not fit") << true << "job.xsd" << "<other/>"
-                                      << "The report is not what jobs accept: line 1: .*other.*";
-        QTest::newRow("no XML") << true << "job.xsd" << "" << "The report is not what jobs accept: .+";
-        QTest::newRow("missing schema") << true << "none.xsd" << fits
-                                        << "The schema /cust/private/none\\.xsd cannot be used: .+";
-        QTest::newRow("refused") << true << "" << "refuse" << "The job has not taken the report: Job %1 is closed";
-        QTest::newRow("no job") << false << "none.xsd" << fits << "There is no active job";
-    }
     void attachesReports()
     {
-        QFETCH(bool, isJobActive);
-        QFETCH(QString, schema);
-        QFETCH(QString, xml);
-        QFETCH(QString, reason);
-        QVERIFY(QDir().mkpath(onDisk("/cust/private")));
-        QVERIFY(writeFile(onDisk("/cust/private/job.xsd"),
+        const QString fits = QString::fromUtf8("<report>Größe</report>");
+        struct Row
+        {
+            bool isJobActive;
+            QString schema;
+            QString xml;
+            QString reason;
+        };
+        const QVector<Row> rows{{true, "", "<anything/>", ""}, {true, "/cust/job.xsd", fits, ""},
+                {true, "/cust/job.xsd", "<other/>", "The report is not what jobs accept: line 1: .*other.*"},
+                {true, "/cust/job.xsd", "", "The report is not what jobs accept: .+"},
+                {true, "/cust/none.xsd", fits, "The schema /cust/none\\.xsd cannot be used: .+"},
+                {true, "", "refuse", "The job has not taken the report: Job %1 is closed"},
+                {false, "/cust/none.xsd", fits, "There is no active job"}};
+        QVERIFY(writeFile(onDisk("/cust/job.xsd"),
                 "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'><xs:element name='report' type='xs:string'/>"
                 "</xs:schema>"));
+        QVERIFY(!uiutils::attachToJob("<report/>", QString(), nullptr));
         kiv::embedded::EmbeddedBackend backend;
         QVERIFY(backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));
+        // As the service file says.
+        QVERIFY(uiutils::attachToJob("<report/>", QString(), nullptr));
         kiv::embedded::EmbeddedService* service = backend.service("basemgr");
-        service->setValue(":result:basemgr:jobmanager:isJobActive:", isJobActive);
         QStringList taken;
         QVERIFY(service->setActionHandler(":action:basemgr:jobmanager:attachReport:",
                 [&](const QString& argument, QString* error) {
-                    if (argument == "refuse")
-                        *error = "Job %1 is closed";
-                    else
-                        taken += argument;
-                    return argument != "refuse";
+                    *error = "Job %1 is closed";
+                    return argument != "refuse" && (taken += argument, true);
                 }));
-        QString found("stale");
-        const QString schemaPath = schema.isEmpty() ? QString() : "/cust/private/" + schema;
-        QCOMPARE(uiutils::attachToJob(xml.toUtf8(), schemaPath, &found), reason.isEmpty());
-        QVERIFY2(QRegularExpression("\\A(?s:" + reason + ")\\z").match(found).hasMatch(), qPrintable(found));
-        QCOMPARE(taken, reason.isEmpty() ? QStringList(xml) : QStringList());
-        QCOMPARE(uiutils::attachToJob(xml.toUtf8(), schemaPath, nullptr), reason.isEmpty());
+        for (const Row& row : rows) {
+            service->setValue(":result:basemgr:jobmanager:isJobActive:", row.isJobActive);
+            QString found("stale");
+            taken.clear();
+            QCOMPARE(uiutils::attachToJob(row.xml.toUtf8(), row.schema, &found), row.reason.isEmpty());
+            QVERIFY2(QRegularExpression("\\A(?s:" + row.reason + ")\\z").match(found).hasMatch(), qPrintable(found));
+            QCOMPARE(taken, row.reason.isEmpty() ? QStringList(row.xml) : QStringList());
+        }
     }
+
     void savedMessages()
     {
         const std::pair<const char*, const char*> rows[]{
