@@ -48,6 +48,8 @@ LoopbackReport::LoopbackReport(QObject* parent)
                  NSReport::REPORT_FORMAT_ALL})
         setFormatApplicable(format, true);
     addSettings();
+    // The page has a SaveProgress.
+    setInteractive(true);
     setIncludeJobInfo(true);
     setIncludeCustomerInfo(true);
     setWriterAttribute(QStringLiteral("includeTechnicianInfoTop"), true);
@@ -62,15 +64,16 @@ void LoopbackReport::addSettings()
     attributes.insert(QStringLiteral("minRange"), 0);
     attributes.insert(QStringLiteral("maxRange"), longestTitle);
     title->setAttributes(attributes);
+    title->setValue(tr("TCP loopback test"));
     addSetting(title);
     auto* compression = new BoolUiData;
     compression->setAttributes(describe(compressionSetting, UiData::TYPE_BOOL, tr("Compressed")));
+    compression->setValue(false);
     addSetting(compression);
 
     connect(title, &KivData::valueChanged, this, &LoopbackReport::takeSettings);
     connect(compression, &KivData::valueChanged, this, &LoopbackReport::takeSettings);
-    title->setValue(tr("TCP loopback test"));
-    compression->setValue(false);
+    takeSettings();
 }
 
 void LoopbackReport::takeSettings()

@@ -65,6 +65,11 @@ bool SavedReportActions::hasViewer() const
     return QFileInfo(onDisk(paths::pdfViewer)).isExecutable();
 }
 
+QVariantList SavedReportActions::reportsInUnit()
+{
+    return m_report ? m_unit.files(m_report->getReportFilePath()) : QVariantList();
+}
+
 QVariantList SavedReportActions::reportsOnUsb() const
 {
     // Without a drive the folder is the unit's.

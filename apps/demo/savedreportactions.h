@@ -2,6 +2,7 @@
 
 #include "files/fileutils.h"
 #include "loopbackreport.h"
+#include "report/reportlisting_p.h"
 
 #include <QObject>
 #include <QPointer>
@@ -27,6 +28,8 @@ public:
 
     /// Whether there is what the controller's showPDF() starts, which says nothing when there is not.
     Q_INVOKABLE bool hasViewer() const;
+    /// The reports in the unit's folder, wherever the next one is saved, in the order and form of `reportFiles`.
+    Q_INVOKABLE QVariantList reportsInUnit();
     /// The reports on the USB drive, but not those of its folders, in the order and form of `reportFiles`; none without
     /// a drive. As there, a file is a report when its name ends like one.
     Q_INVOKABLE QVariantList reportsOnUsb() const;
@@ -45,6 +48,7 @@ private:
     void copyNow(const QString& path);
 
     QPointer<LoopbackReport> m_report;
+    ReportListing m_unit;
     /// Each has a question of its own.
     FileUtils m_removal;
     FileUtils m_copying;

@@ -1,6 +1,7 @@
 #include "common/instrument.h"
 #include "document/reporttemplate.h"
 #include "qmlwarnings.h"
+#include "report/report.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
@@ -16,6 +17,15 @@
 #include <QtQuickTest>
 
 #include <memory>
+
+/// A controller whose page lives on while it saves.
+class InteractiveReport : public Report
+{
+    Q_OBJECT
+
+public:
+    InteractiveReport() { setInteractive(true); }
+};
 
 /// The service's side, for the pages under test.
 class Driver : public QObject
@@ -100,6 +110,7 @@ public Q_SLOTS:
     {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
         m_driver.reset();
+        qmlRegisterType<InteractiveReport>("UiUtils.Test", 1, 0, "InteractiveReport");
         m_instrument = std::make_unique<uiutils::apps::Instrument>(m_backend);
     }
     void qmlEngineAvailable(QQmlEngine* engine)

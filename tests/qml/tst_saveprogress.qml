@@ -2,6 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
+import UiUtils.Test 1.0
 
 // A page while its report is saved.
 Item {
@@ -28,9 +29,8 @@ Item {
 
             anchors.fill: parent
 
-            Report {
+            InteractiveReport {
                 id: report
-                interactive: true
                 onProgressChanged: view.progress.push(progress)
             }
             Button {

@@ -98,6 +98,11 @@ public:
         getSetting("reportName")->setValue(name);
         getSetting("reportFormat")->setValue(format);
     }
+    /// Saves again when the user lets it overwrite.
+    void saveOnYes()
+    {
+        connect(this, &Report::reportOverwriteAccepted, this, [this] { answers << save(true); });
+    }
     using Report::addSetting;
     using Report::loadSettings;
     using Report::saveSettings;
@@ -108,6 +113,7 @@ public:
     QString proposed = "proposed";
     QByteArray pages = "%PDF-";
     QStringList calls;
+    QVector<bool> answers;
     std::function<void()> whileMaking;
     bool keepsName = true;
 
@@ -132,7 +138,8 @@ class Emissions : public QObject
     Q_OBJECT
 
 public:
-    explicit Emissions(const Report& report)
+    explicit Emissions(const Report& report, QStringList* log = nullptr)
+        : m_log(log ? log : &names)
     {
         const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("note()"));
         for (int i = Report::staticMetaObject.methodOffset(); i < Report::staticMetaObject.methodCount(); ++i) {
@@ -144,8 +151,11 @@ public:
 
     QStringList names;
 
+private:
+    QStringList* m_log;
+
 private Q_SLOTS:
-    void note() { names << sender()->metaObject()->method(senderSignalIndex()).name(); }
+    void note() { *m_log << sender()->metaObject()->method(senderSignalIndex()).name(); }
 };
 
 /// An instrument of its own, with a base manager, for each test.
@@ -163,6 +173,13 @@ protected:
         return QDir(onDisk(folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     }
     kiv::embedded::EmbeddedService* basemgr() const { return m_backend->service("basemgr"); }
+    /// Where reports go, and whether a stick is told of and is there.
+    void plug(int location, bool isAnnounced = true, bool isMounted = true)
+    {
+        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
+        QVERIFY(basemgr()->setValue(locationItem, location) && basemgr()->setValue(usbItem, isAnnounced));
+        QVERIFY(basemgr()->setMounted("/mnt/usb", isMounted));
+    }
     void writeTemplate(const QString& name, const QByteArray& fields)
     {
         QVERIFY(writeFile(onDisk("/cust/" + name), json("{'node_type': 'report', 'tag': 'otdr'" + fields + "}")));

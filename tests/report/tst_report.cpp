@@ -5,40 +5,36 @@ class ReportTest : public ReportFixture
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void settersTellOfChangesAlone_data()
+    QString settingsFile(const QString& folder) const
     {
-        QTest::addColumn<Setter>("set");
-        QTest::addColumn<QStringList>("emissions");
-        const auto add = [](const char* name, const Setter& set, const QStringList& emissions) {
-            QTest::newRow(name) << set << emissions;
-        };
-        const QStringList folder{"folderChanged", "reportFilesChanged", "saveLocationChanged"};
-        add(
-                "tag", [](Report& r) { r.setTag("x"); }, QStringList("tagChanged") + folder);
-        add(
-                "folder", [](Report& r) { r.setFolder("x"); }, folder);
-        add("title", [](Report& r) { r.setTitle("x"); }, {"titleChanged"});
-        add("subject", [](Report& r) { r.setSubject("x"); }, {"subjectChanged"});
-        add("orientation", [](Report& r) { r.setOrientation("landscape"); }, {"orientationChanged"});
-        add("file", [](Report& r) { r.setCanWriteToFile(true); }, {"canWriteToFileChanged"});
-        add("job", [](Report& r) { r.setCanWriteToJobManager(true); }, {"canWriteToJobManagerChanged"});
-        add("job info", [](Report& r) { r.setIncludeJobInfo(true); }, {"includeJobInfoChanged"});
-        add("hardware", [](Report& r) { r.setShowHardwareRevs(false); }, {"showHardwareRevsChanged"});
-        add("software", [](Report& r) { r.setShowSoftwareRevs(false); }, {"showSoftwareRevsChanged"});
-        add("schema", [](Report& r) { r.setJobSchema("x"); }, {"jobSchemaChanged"});
-        add("screenshots", [](Report& r) { r.setScreenshotList({"x"}); }, {"screenshotListChanged"});
-        add("customer", [](Report& r) { r.setIncludeCustomerInfo(true); }, {});
-        add("tray", [](Report& r) { r.setNotifiesTray(false); }, {});
+        return onDisk("/cust/private/lastconfigs/reportSettings/" + folder + ".json");
     }
+
+private Q_SLOTS:
     void settersTellOfChangesAlone()
     {
-        QFETCH(Setter, set);
+        const QVector<std::tuple<const char*, QVariant, QString>> rows{
+                {"tag", "x", "tagChanged folderChanged reportFilesChanged saveLocationChanged"},
+                {"folder", "y", "folderChanged reportFilesChanged saveLocationChanged"},
+                {"baseDirectory", "/x/", "reportFilesChanged saveLocationChanged"},
+                {"title", "x", "titleChanged"}, {"subject", "x", "subjectChanged"},
+                {"orientation", "landscape", "orientationChanged"}, {"canWriteToFile", true, "canWriteToFileChanged"},
+                {"canWriteToJobManager", true, "canWriteToJobManagerChanged"},
+                {"includeJobInfo", true, "includeJobInfoChanged"},
+                {"showHardwareRevs", false, "showHardwareRevsChanged"},
+                {"showSoftwareRevs", false, "showSoftwareRevsChanged"}, {"jobSchema", "x", "jobSchemaChanged"},
+                {"screenshotList", QStringList("x"), "screenshotListChanged"}, {"includeCustomerInfo", true, ""},
+                {"notifiesTray", false, ""}};
         Report report;
         Emissions emissions(report);
-        set(report);
-        set(report);
-        QTEST(emissions.names, "emissions");
+        for (const auto& [name, value, expected] : rows) {
+            QVERIFY(report.property(name) != value);
+            emissions.names.clear();
+            for (int i = 0; i < 2; ++i)
+                QVERIFY(report.setProperty(name, value));
+            QCOMPARE(report.property(name), value);
+            QCOMPARE(emissions.names.join(' '), expected);
+        }
     }
 
     void templateStandsBehindTheProperties()
@@ -53,7 +49,12 @@ private Q_SLOTS:
         report.setTemplatePath("/cust/a.json");
         QCOMPARE(emissions.names,
                 QStringList({"templatePathChanged", "tagChanged", "orientationChanged", "titleChanged", "subjectChanged",
-                        "reportFilesChanged", "canWriteToJobManagerChanged", "canWriteToFileChanged"}));
+                        "reportFilesChanged", "canWriteToJobManagerChanged", "canWriteToFileChanged",
+                        "folderChanged", "saveLocationChanged"}));
+        // Where the folder stays as it was, nobody need hear of it.
+        emissions.names.clear();
+        report.setTemplatePath("/cust/a.json");
+        QCOMPARE(emissions.names.constLast(), QString("canWriteToFileChanged"));
         QCOMPARE(report.getTitle() + report.getSubject() + report.getOrientation(), QString("TemplateSlandscape"));
         QCOMPARE(report.getTag() + "," + report.getFolder(), QString("otdr,otdr"));
         QVERIFY(report.getCanWriteToFile());
@@ -84,7 +85,8 @@ private Q_SLOTS:
         emissions.names.clear();
         QVERIFY(basemgr()->setValue(usbItem, true));
         QVERIFY(basemgr()->setValue(locationItem, 1));
-        QTRY_COMPARE(emissions.names, QStringList({"saveLocationChanged", "saveLocationChanged"}));
+        QTRY_COMPARE(emissions.names, QStringList({"reportFilesChanged", "saveLocationChanged", "reportFilesChanged",
+                                              "saveLocationChanged"}));
         QCOMPARE(report.getSaveLocation(), QString("USB:/"));
         QCOMPARE(report.getSaveFilePath("a", ".pdf"), QString("/mnt/usb/a.pdf"));
         QVERIFY(basemgr()->setValue(usbItem, false));
@@ -109,49 +111,33 @@ private Q_SLOTS:
         QCOMPARE(report.getCdmTestType() + report.getCdmTestLabel(), QString("OTDRNone"));
     }
 
-    void names_data()
+    /// What the user cannot enter, programs may still set.
+    void namesLeadNowhereElse()
     {
-        QTest::addColumn<QString>("given");
-        QTest::addColumn<bool>("isAccepted");
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("folder");
-        QTest::newRow("one") << "a" << true << "a.pdf"
-                             << "a/";
-        QTest::newRow("50") << QString(50, 'a') << true << QString(50, 'a') + ".pdf" << QString(50, 'a') + "/";
-        QTest::newRow("51") << QString(51, 'a') << false << QString(51, 'a') + ".pdf" << QString(51, 'a') + "/";
-        QTest::newRow("dots") << ".." << true << "_.pdf"
-                              << "_/";
-        QTest::newRow("more dots") << "..." << true << "....pdf"
-                                   << ".../";
-        QTest::newRow("climbing") << "../x" << false << ".._x.pdf"
-                                  << "_/x/";
-        QTest::newRow("climbing inside") << "x/../../y" << false << "x_.._.._y.pdf"
-                                         << "x/_/_/y/";
-        QTest::newRow("from the root") << "/etc" << false << "_etc.pdf"
-                                       << "etc/";
-        QTest::newRow("line feed") << "a\nb" << true << "a_b.pdf"
-                                   << "a_b/";
-        QTest::newRow("control") << QString::fromLatin1("a\0\x1b\x7f", 4) << false << "a___.pdf"
-                                 << "a___/";
-        QTest::newRow("suffixed") << "a.pdf" << true << "a.pdf"
-                                  << "a.pdf/";
-        QTest::newRow("other case") << "a.PDF" << true << "a.PDF.pdf"
-                                    << "a.PDF/";
-        QTest::newRow("marks") << QString::fromUtf8("ไทยี่ नमस्ते e\u0301") << true << QString::fromUtf8("ไทยี่ नमस्ते é.pdf")
-                               << QString::fromUtf8("ไทยี่ नमस्ते é/");
-        QTest::newRow("letters") << QString::fromUtf8("Größe 1") << true << QString::fromUtf8("Größe 1.pdf")
-                                 << QString::fromUtf8("Größe 1/");
-    }
-    void names()
-    {
-        QFETCH(QString, given);
+        struct Row
+        {
+            QString given;
+            bool isAccepted;
+            QString file;
+            QString folder;
+        };
+        const QString longest(50, 'a');
+        const QVector<Row> rows{{longest, true, longest + ".pdf", longest + "/"},
+                {longest + "a", false, longest + "a.pdf", longest + "a/"}, {"..", true, "_.pdf", "_/"},
+                {"...", true, "....pdf", ".../"}, {"../x", false, ".._x.pdf", "_/x/"},
+                {"x/../../y", false, "x_.._.._y.pdf", "x/_/_/y/"}, {"/etc", false, "_etc.pdf", "etc/"},
+                {QString::fromLatin1("a\0\x1b\x7f", 4), false, "a___.pdf", "a___/"}, {"a.pdf", true, "a.pdf", "a.pdf/"},
+                {"a.PDF", true, "a.PDF.pdf", "a.PDF/"}, {"Größe ไทยี่", true, "Größe ไทยี่.pdf", "Größe ไทยี่/"},
+                {"नमस्ते e\u0301", true, "नमस्ते é.pdf", "नमस्ते é/"}};
         Report report;
-        QString entered = given;
-        int position = 0;
         const QValidator* validator = qobject_cast<UiData*>(report.getSetting("reportName"))->getValidator();
-        QTEST(validator->validate(entered, position) == QValidator::Acceptable, "isAccepted");
-        QTEST(uiutils::reportPath("", given, ".pdf").mid(1), "file");
-        QTEST(uiutils::reportFolder("/b", "", given).mid(3), "folder");
+        for (const Row& row : rows) {
+            QString entered = row.given;
+            int position = 0;
+            QCOMPARE(validator->validate(entered, position) == QValidator::Acceptable, row.isAccepted);
+            QCOMPARE(uiutils::reportPath("", row.given, ".pdf").mid(1), row.file);
+            QCOMPARE(uiutils::reportFolder("/b", "", row.given).mid(3), row.folder);
+        }
     }
 
     void proposedNamesAndFolders()
@@ -165,133 +151,164 @@ private Q_SLOTS:
         QCOMPARE(uiutils::reportSettingsPath("otdr"), QString("/cust/private/lastconfigs/reportSettings/otdr.json"));
     }
 
-    void formatsAndSuffixes()
+    /// What a derived controller has as long as it overrides nothing.
+    void defaults()
     {
-        Controller report;
-        QStringList suffixes;
-        for (int format = -1; format <= 6; ++format) {
-            report.getSetting("reportFormat")->setValue(format);
-            suffixes << report.getSuffixForReport();
-            const QVector<bool> answers{
-                    report.isPDF(), report.isXml(), report.isHtml(), report.isText(), report.isJson(), report.isAll()};
-            QCOMPARE(answers.indexOf(true), format > 5 ? -1 : format);
-            QCOMPARE(answers.count(true), format < 0 || format > 5 ? 0 : 1);
-        }
-        QCOMPARE(suffixes, QStringList({"", ".pdf", ".xml", ".html", ".txt", ".json", "", ""}));
+        Controller other;
+        Report report;
+        QSignalSpy changes(&report, &Report::settingsChanged);
+        report.startPossibleSave();
+        report.setCustomDefaultReportName("x");
+        QCOMPARE(changes.count(), 0);
+        QCOMPARE(report.getSetting("reportName")->getValue(), QVariant(""));
+        QVERIFY(report.getConstSetting("reportName") == report.getSetting("reportName") && !report.getSetting("x"));
+        QCOMPARE(report.cannotGenerateReportMessage() + report.generateTxtReport() + report.generateJsonReport(), QString());
+        QVERIFY(!report.hasCustomPDF());
+        QCOMPARE(report.getReportFilePath(), QString("/cust/public/reports/"));
+        QCOMPARE(report.getCdmTestType() + report.getCdmTestLabel(), QString());
+        // Nobody else's choice counts.
+        other.setUp("x", 5);
+        QCOMPARE(other.getSuffixForReport(), QString());
+        QCOMPARE(report.getSuffixForReport(), QString(".pdf"));
         report.getSetting("reportFormat")->setValue(QVariant());
         QCOMPARE(report.getFormat(), -1);
+        QVERIFY(!report.isPDF() && !report.isAll());
     }
 
-    void settingsSurvive()
+    void thePlatformForgetsTheProposedName()
     {
-        Controller first;
-        first.setFolder("otdr/a");
-        first.setUp("mine", 2);
-        first.getSetting("reportSync_SS")->setValue(true);
-        first.saveSettings();
-        const QString path = onDisk("/cust/private/lastconfigs/reportSettings/otdr/a.json");
-        QCOMPARE(QJsonDocument::fromJson(contentsOf(path)).object(),
-                QJsonObject({{"reportName", "mine"}, {"reportFormat", 2}, {"reportSync_SS", true}}));
-        Controller second;
-        second.setFolder("otdr/a");
-        second.setFormatApplicable(2, true);
-        QTRY_COMPARE(second.getSetting("reportName")->getValue(), QVariant("mine"));
-        QCOMPARE(second.getFormat(), 2);
-        QCOMPARE(second.getSetting("reportSync_SS")->getValue(), QVariant(true));
-        // What is not offered is not taken either.
-        Controller third;
-        third.setFolder("otdr/a");
-        third.loadSettings();
-        QCOMPARE(third.getFormat(), 0);
+        const QString id(":result:basemgr:system:reportCustomDefaultName:");
+        QVERIFY(basemgr()->setValue(id, "of the test before"));
+        const Report report;
+        QCOMPARE(basemgr()->item(id)->getValue(), QVariant(""));
+        // That is all that clients may do to it.
+        KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
+        QVERIFY(!client->setItem(id, "theirs") && client->getLastError().contains("it can only be emptied"));
+        QVERIFY(!client->setItem(usbItem, ""));
     }
 
-    /// A page that saves as soon as it is there has not seen them yet.
-    void storedSettingsOutliveAnEarlySave()
+    void settingsBelongToTheirFolder()
     {
-        const QString path = onDisk("/cust/private/lastconfigs/reportSettings/.json");
-        QVERIFY(writeFile(path, json("{'reportName': 'mine', 'reportFormat': 1, 'reportSync_SS': true}")));
+        const auto stored = [this](const QString& folder) {
+            return QJsonDocument::fromJson(contentsOf(settingsFile(folder))).object();
+        };
+        QVERIFY(writeFile(settingsFile(""), json("{'reportName': 'none', 'reportFormat': 1}")));
+        QVERIFY(writeFile(settingsFile("a/b"), json("{'reportName': 'of a', 'reportFormat': 1, 'reportSync_SS': true}")));
+        QVERIFY(writeFile(settingsFile("c"), json("{'reportName': 'of c', 'reportFormat': 0}")));
+        Controller report;
+        const auto values = [&report] {
+            return report.getSetting("reportName")->getValue().toString() + " " + QString::number(report.getFormat())
+                    + (report.getSetting("reportSync_SS")->getValue().toBool() ? " synced" : "");
+        };
+        // Those of the first folder come when the page has set it.
+        report.setFolder("a/b");
+        QCOMPARE(values(), QString(" 0"));
+        QTRY_COMPARE(values(), QString("of a 1 synced"));
+        // What a folder has not stored is as it was at first; what the user has chosen stays chosen.
+        QStringList heard;
+        connect(&report, &Report::folderChanged, &report, [&] { heard << values(); });
+        report.setFolder("c");
+        report.getSetting("reportSync_SS")->setValue(true);
+        report.setFolder("d");
+        report.getSetting("reportName")->setValue("mine");
+        report.setFolder("");
+        report.setTag("a/b");
+        writeTemplate("c.json", "");
+        report.setTag("");
+        report.setTemplatePath("/cust/c.json");
+        QCOMPARE(heard, QStringList({"of c 0", " 0 synced", "mine 1 synced", "mine 1 synced", "mine 1 synced", "mine 0 synced"}));
+        report.setFolder("c");
+        report.saveSettings();
+        QCOMPARE(stored("c"), QJsonObject({{"reportName", "mine"}, {"reportFormat", 0}, {"reportSync_SS", true}}));
+        QCOMPARE(stored("a/b")["reportName"].toString(), QString("of a"));
+        QVERIFY(!QFile::exists(settingsFile("d")));
+    }
+    /// A page that saves as soon as it is there has not seen them yet; nor has one whose document brings another tag.
+    void whatWasNotLoadedIsNotReplaced()
+    {
+        const QByteArray before = json("{'reportName': 'theirs', 'reportFormat': 1, 'reportSync_SS': true}");
+        const QJsonObject after{{"reportName", "mine"}, {"reportFormat", 1}, {"reportSync_SS", true}};
+        const auto stored = [this](const QString& folder) {
+            return QJsonDocument::fromJson(contentsOf(settingsFile(folder))).object();
+        };
+        QVERIFY(writeFile(settingsFile(""), before) && writeFile(settingsFile("otdr"), before));
         Controller early;
-        early.getSetting("reportName")->setValue("autosave");
+        early.getSetting("reportName")->setValue("mine");
         early.saveSettings();
-        QCOMPARE(QJsonDocument::fromJson(contentsOf(path)).object(),
-                QJsonObject({{"reportName", "autosave"}, {"reportFormat", 1}, {"reportSync_SS", true}}));
+        QCOMPARE(stored(""), after);
+        early.loadSettings();
+        writeTemplate("a.json", "");
+        early.document().readFile(onDisk("/cust/a.json"));
+        early.saveSettings();
+        QCOMPARE(stored("otdr"), after);
         early.loadSettings();
         early.getSetting("reportSync_SS")->setValue(false);
         early.getSetting("reportFormat")->setValue(0);
         early.saveSettings();
-        QCOMPARE(QJsonDocument::fromJson(contentsOf(path)).object(),
-                QJsonObject({{"reportName", "autosave"}, {"reportFormat", 0}, {"reportSync_SS", false}}));
+        QCOMPARE(stored("otdr"), QJsonObject({{"reportName", "mine"}, {"reportFormat", 0}, {"reportSync_SS", false}}));
+    }
+    void whoHearsOfAValueMayChangeTheFolder()
+    {
+        QVERIFY(writeFile(settingsFile("a"), json("{'reportFormat': 1, 'reportName': 'of a', 'reportSync_SS': true}")));
+        QVERIFY(writeFile(settingsFile("b"), json("{'reportName': 'of b'}")));
+        Controller report;
+        report.loadSettings();
+        connect(report.getSetting("reportFormat"), &KivData::valueChanged, &report, [&] { report.setFolder("b"); });
+        report.setFolder("a");
+        QCOMPARE(report.getSetting("reportName")->getValue(), QVariant("of b"));
+        QCOMPARE(report.getSetting("reportSync_SS")->getValue().toBool(), false);
     }
 
-    void brokenSettings_data()
+    void storedSettings_data()
     {
         QTest::addColumn<QByteArray>("contents");
         QTest::addColumn<QString>("log");
-        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("values");
         const QString parse = "ERROR: Could not parse Json text:\n%1";
-        QTest::newRow("empty") << QByteArray("") << parse.arg("illegal value") << "";
-        QTest::newRow("torn") << json("{'reportName': 'a") << parse.arg("unterminated string") << "";
-        QTest::newRow("list") << QByteArray("[1]") << parse.arg("the file holds no object") << "";
-        QTest::newRow("huge") << QByteArray(uiutils::largestReportSettings + 1, ' ') << parse.arg("the file is too large")
-                              << "";
-        QTest::newRow("wrong shapes") << json("{'reportName': {}, 'reportFormat': '1', 'reportSync_SS': 7}") << ""
-                                      << "";
-        QTest::newRow("forbidden values") << json("{'reportName': '../x', 'reportFormat': 99}") << ""
-                                          << "";
-        QTest::newRow("halves and strangers") << json("{'reportFormat': 1.5, 'x': 1, 'reportName': 'ok'}") << ""
-                                              << "ok";
+        const QString none = " 0 7";
+        QTest::newRow("empty") << QByteArray("") << parse.arg("illegal value") << none;
+        QTest::newRow("torn") << json("{'reportName': 'a") << parse.arg("unterminated string") << none;
+        QTest::newRow("list") << QByteArray("[1]") << parse.arg("the file holds no object") << none;
+        QTest::newRow("huge") << QByteArray(uiutils::largestReportSettings + 1, ' ') << parse.arg("the file is too large") << none;
+        QTest::newRow("wrong shapes") << json("{'reportName': {}, 'reportFormat': '1', 'reportSync_SS': 7, 'own': 'many'}") << "" << none;
+        QTest::newRow("forbidden") << json("{'reportName': '../x', 'reportFormat': 99, 'own': 11}") << "" << none;
+        QTest::newRow("not offered") << json("{'reportFormat': 2, 'own': null}") << "" << none;
+        QTest::newRow("halves and strangers") << json("{'reportFormat': 1.5, 'x': 1, 'reportName': 'ok'}") << "" << "ok 0 7";
+        QTest::newRow("good") << json("{'reportFormat': 1, 'own': 9}") << "" << " 1 9";
     }
-    void brokenSettings()
+    void storedSettings()
     {
         QFETCH(QByteArray, contents);
         QFETCH(QString, log);
-        Controller report;
-        QVERIFY(writeFile(onDisk("/cust/private/lastconfigs/reportSettings/.json"), contents));
-        if (!log.isEmpty())
-            QTest::ignoreMessage(QtWarningMsg, qPrintable(log));
-        report.loadSettings();
-        QTEST(report.getSetting("reportName")->getValue().toString(), "name");
-        QCOMPARE(report.getFormat(), 0);
-        QCOMPARE(report.getSetting("reportSync_SS")->getValue().toBool(), false);
-    }
-    void ownSettings_data()
-    {
-        QTest::addColumn<QByteArray>("contents");
-        QTest::addColumn<QVariant>("value");
-        QTest::newRow("stored") << json("{'own': 9}") << QVariant(9);
-        QTest::newRow("not stored") << QByteArray("{}") << QVariant(7);
-        QTest::newRow("null") << json("{'own': null}") << QVariant(7);
-        QTest::newRow("object") << json("{'own': {'a': 1}}") << QVariant(7);
-        QTest::newRow("text") << json("{'own': 'many'}") << QVariant(7);
-        QTest::newRow("out of range") << json("{'own': 11}") << QVariant(7);
-    }
-    void ownSettings()
-    {
-        QFETCH(QByteArray, contents);
         Controller report;
         auto* own = new UiData;
         own->setAttributes({{"name", "own"}, {"type", UiData::TYPE_INT}, {"minRange", 0}, {"maxRange", 10}});
         own->setValue(7);
         report.addSetting(own);
-        QVERIFY(writeFile(onDisk("/cust/private/lastconfigs/reportSettings/.json"), contents));
+        QVERIFY(writeFile(settingsFile(""), contents));
+        if (!log.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(log));
         report.loadSettings();
-        QTEST(own->getValue(), "value");
+        QTEST(QString("%1 %2 %3").arg(report.getSetting("reportName")->getValue().toString()).arg(report.getFormat())
+                        .arg(own->getValue().toString()), "values");
+        QCOMPARE(report.getSetting("reportSync_SS")->getValue().toBool(), false);
     }
     void unreachableSettings()
     {
         Controller report;
-        const QString path = "/cust/private/lastconfigs/reportSettings/.json";
-        QTest::ignoreMessage(QtWarningMsg, qPrintable("Could not open " + path + " for reading"));
-        report.loadSettings();
-        QVERIFY(QDir().mkpath(onDisk(path)));
-        QTest::ignoreMessage(QtWarningMsg, qPrintable("Could not open " + path + " for reading"));
-        report.loadSettings();
-        QTest::ignoreMessage(QtWarningMsg, qPrintable("Could not open " + path + " for writing"));
+        const QString place = settingsFile("");
+        const QString log = "Could not open /cust/private/lastconfigs/reportSettings/.json for ";
+        // Missing, a folder, and a pipe that nobody writes into.
+        const QVector<std::function<bool()>> obstacles{[] { return true; }, [&] { return QDir().mkpath(place); },
+                [&] { return QDir().rmdir(place) && ::mkfifo(place.toLocal8Bit().constData(), 0600) == 0; }};
+        for (const auto& obstruct : obstacles) {
+            QVERIFY(obstruct());
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(log + "reading"));
+            report.loadSettings();
+        }
+        QVERIFY(QFile::remove(place) && QDir().mkpath(place));
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(log + "writing"));
         report.saveSettings();
-        // Nobody writes into this pipe.
-        QVERIFY(QDir().rmdir(onDisk(path)) && ::mkfifo(onDisk(path).toLocal8Bit().constData(), 0600) == 0);
-        QTest::ignoreMessage(QtWarningMsg, qPrintable("Could not open " + path + " for reading"));
-        report.loadSettings();
     }
 };
 

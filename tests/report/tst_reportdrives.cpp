@@ -14,22 +14,19 @@ private Q_SLOTS:
             QSKIP("Only those who may mount a drive can fill one.");
         const auto unmount = qScopeGuard([&] { ::umount2(stick.constData(), MNT_DETACH); });
         QVERIFY(writeFile(onDisk("/mnt/usb/half"), QByteArray(128 * 1024, 'x')));
-        QVERIFY(basemgr()->setMounted("/mnt/usb/", true));
         Controller report;
         report.setUp("a", 3);
         const double used = report.percentageFileSystemUsed("/mnt/usb/not/there");
         QVERIFY2(used > 49 && used < 55, qPrintable(QString::number(used)));
         for (int location : {1, 2}) {
-            QVERIFY(basemgr()->setValue(locationItem, location));
-            QVERIFY(basemgr()->setValue(usbItem, true));
-            QVERIFY(!report.save());
-            QVERIFY(!report.save());
+            plug(location);
+            QVERIFY(!report.save() && !report.save());
             QCOMPARE(manager()->currentDialog()->longLabel(), QString("Not Enough Space"));
             QCOMPARE(manager()->waitingDialogs(), 0);
             QCOMPARE(report.calls.constLast(), QString("failed"));
             QVERIFY(!QFile::exists(onDisk("/cust/public/reports/a.txt")) && names("/mnt/usb").size() == 1);
             // Without a stick nothing goes there.
-            QVERIFY(basemgr()->setValue(usbItem, false));
+            plug(location, false);
             QVERIFY(report.save());
             QVERIFY(QFile::remove(onDisk("/cust/public/reports/a.txt")));
         }
@@ -40,23 +37,23 @@ private Q_SLOTS:
         QTest::addColumn<int>("location");
         QTest::addColumn<bool>("isAnnounced");
         QTest::addColumn<bool>("isMounted");
-        QTest::addColumn<bool>("isSaved");
         QTest::addColumn<QStringList>("internal");
         QTest::addColumn<QStringList>("stick");
+        QTest::addColumn<bool>("isSaved");
         const QStringList files{"a.txt.gz", "a.xml.gz"};
         QStringList recorded = files;
         for (const QString& file : files)
             recorded << file + ".metadata";
         recorded.sort();
         const QStringList none;
-        QTest::newRow("internal") << 0 << true << true << true << files << none;
-        QTest::newRow("stick") << 1 << true << true << true << none << recorded;
-        QTest::newRow("no stick") << 1 << false << false << true << files << none;
-        QTest::newRow("not told yet") << 1 << false << true << true << files << none;
-        QTest::newRow("vanished") << 1 << true << false << false << none << none;
-        QTest::newRow("both") << 2 << true << true << true << files << files;
-        QTest::newRow("both, no stick") << 2 << false << false << true << files << none;
-        QTest::newRow("both, vanished") << 2 << true << false << false << files << none;
+        QTest::newRow("internal") << 0 << true << true << files << none << true;
+        QTest::newRow("stick") << 1 << true << true << none << recorded << true;
+        QTest::newRow("no stick") << 1 << false << false << files << none << true;
+        QTest::newRow("not told yet") << 1 << false << true << files << none << true;
+        QTest::newRow("vanished") << 1 << true << false << none << none << false;
+        QTest::newRow("both") << 2 << true << true << files << files << true;
+        QTest::newRow("both, no stick") << 2 << false << false << files << none << true;
+        QTest::newRow("both, vanished") << 2 << true << false << files << none << false;
     }
     void sticks()
     {
@@ -64,10 +61,7 @@ private Q_SLOTS:
         QFETCH(bool, isAnnounced);
         QFETCH(bool, isMounted);
         QFETCH(bool, isSaved);
-        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
-        QVERIFY(basemgr()->setValue(locationItem, location));
-        QVERIFY(basemgr()->setValue(usbItem, isAnnounced));
-        QVERIFY(basemgr()->setMounted("/mnt/usb", isMounted));
+        plug(location, isAnnounced, isMounted);
         Controller report;
         report.setUp("a", 5);
         for (int format : {0, 2, 4})
@@ -102,18 +96,14 @@ private Q_SLOTS:
     {
         QVERIFY(writeFile(onDisk("/mnt/usb/a.txt"), "old"));
         QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt"), "precious"));
-        QVERIFY(basemgr()->setValue(locationItem, 1));
-        QVERIFY(basemgr()->setValue(usbItem, true));
-        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        plug(1);
         Controller report;
         report.setUp("a", 3);
         QVERIFY(!report.save());
-        QVector<bool> saved;
-        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
-        QVERIFY(basemgr()->setValue(usbItem, false));
-        QVERIFY(basemgr()->setMounted("/mnt/usb", false));
+        report.saveOnYes();
+        plug(1, false, false);
         manager()->accept();
-        QCOMPARE(saved, QVector<bool>{false});
+        QCOMPARE(report.answers, QVector<bool>{false});
         QVERIFY(manager()->currentDialog());
         QCOMPARE(manager()->currentDialog()->longLabel(), QString("Write Error"));
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.txt")), QByteArray("precious"));
@@ -134,21 +124,20 @@ private Q_SLOTS:
         report.setUp("a", 3);
         QVERIFY(!report.save());
         report.getSetting("reportName")->setValue("b");
-        QVector<bool> saved;
-        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        report.saveOnYes();
         report.text = "new";
         manager()->accept();
-        QCOMPARE(saved, QVector<bool>{false});
+        QCOMPARE(report.answers, QVector<bool>{false});
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("b"));
         QVERIFY(manager()->currentDialog() && manager()->currentDialog()->msg().contains("b.txt"));
         manager()->accept();
-        QCOMPARE(saved, QVector<bool>({false, true}));
+        QCOMPARE(report.answers, QVector<bool>({false, true}));
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("new"));
         // A question of a writer alone is not about what a save writes.
         QVERIFY(!report.writeTxtReport("/cust/public/reports/a.txt"));
         report.text = "newer";
         manager()->accept();
-        QCOMPARE(saved, QVector<bool>({false, true, false}));
+        QCOMPARE(report.answers, QVector<bool>({false, true, false}));
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("new"));
         // Once that writer has its answer, who overwrites without a question does.
         report.disconnect(&report);
@@ -166,11 +155,10 @@ private Q_SLOTS:
         report.setUp("a", 5);
         report.setFolder("f");
         QVERIFY(!report.save());
-        QVector<bool> saved;
-        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        report.saveOnYes();
         connect(&report, &Report::lastSavedXMLChanged, &report, [&] { report.setFolder("g"); });
         manager()->accept();
-        QCOMPARE(saved, QVector<bool>{false});
+        QCOMPARE(report.answers, QVector<bool>{false});
         QVERIFY(contentsOf(onDisk("/cust/public/reports/f/a.xml")).startsWith("<?xml"));
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/g/a.txt")), QByteArray("precious"));
         QVERIFY(manager()->currentDialog() && manager()->currentDialog()->msg().contains("g/a.txt"));
@@ -178,10 +166,7 @@ private Q_SLOTS:
     void whatIsCopiedIsWhatWasSaved()
     {
         QVERIFY(writeFile(onDisk("/cust/public/reports/g/a.txt"), "another"));
-        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
-        QVERIFY(basemgr()->setValue(locationItem, 2));
-        QVERIFY(basemgr()->setValue(usbItem, true));
-        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        plug(2);
         Controller report;
         report.setUp("a", 3);
         report.text = "new";
@@ -192,23 +177,19 @@ private Q_SLOTS:
     void sticksThatComeLateAreAskedAbout_data()
     {
         QTest::addColumn<int>("location");
-        QTest::addColumn<int>("format");
-        for (const int location : {1, 2}) {
-            for (const int format : {0, 3})
-                QTest::addRow("%d, format %d", location, format) << location << format;
-        }
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"a.pdf", "a.txt"})
+            QTest::newRow(name) << 1 << name;
+        QTest::newRow("copy") << 2 << "a.txt";
     }
     void sticksThatComeLateAreAskedAbout()
     {
         QFETCH(int, location);
-        QFETCH(int, format);
-        const QString name = format == 0 ? "a.pdf" : "a.txt";
+        QFETCH(QString, name);
         QVERIFY(writeFile(onDisk("/mnt/port/" + name), "precious"));
-        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
-        QVERIFY(basemgr()->setValue(locationItem, location));
-        QVERIFY(basemgr()->setValue(usbItem, true));
+        plug(location, true, false);
         Controller report;
-        report.setUp("a", format);
+        report.setUp("a", name == "a.pdf" ? 0 : 3);
         report.text = "%PDF-";
         report.whileMaking = [&] {
             QDir().rename(onDisk("/mnt/usb"), onDisk("/mnt/point"));
@@ -219,15 +200,13 @@ private Q_SLOTS:
         QVERIFY(!report.save());
         QCOMPARE(contentsOf(onDisk("/mnt/usb/" + name)), QByteArray("precious"));
         QVERIFY(manager()->currentDialog());
-        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Report Exists"));
         QCOMPARE(manager()->currentDialog()->msg(), "Do you want to overwrite report USB:/" + name + "?");
         QCOMPARE(manager()->waitingDialogs(), 0);
         QCOMPARE(generated.count(), 0);
         report.whileMaking = nullptr;
-        QVector<bool> saved;
-        connect(&report, &Report::reportOverwriteAccepted, &report, [&] { saved << report.save(true); });
+        report.saveOnYes();
         manager()->accept();
-        QCOMPARE(saved, QVector<bool>{true});
+        QCOMPARE(report.answers, QVector<bool>{true});
         QCOMPARE(contentsOf(onDisk("/mnt/usb/" + name)), QByteArray("%PDF-"));
     }
     void theLocationIsThatOfTheNextSave()
@@ -245,10 +224,7 @@ private Q_SLOTS:
     }
     void nothingIsPutWhereAStickWas()
     {
-        QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
-        QVERIFY(basemgr()->setValue(locationItem, 1));
-        QVERIFY(basemgr()->setValue(usbItem, true));
-        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
+        plug(1);
         Controller report;
         report.setUp("a", 3);
         connect(&report, &Report::reportFilesChanged, &report, [&] { basemgr()->setMounted("/mnt/usb", false); });
@@ -272,9 +248,7 @@ private Q_SLOTS:
         // A report that is saved to the stick is its own copy.
         report.setFolder("");
         report.setBaseDirectory("/mnt/usb");
-        QVERIFY(basemgr()->setMounted("/mnt/usb", true));
-        QVERIFY(basemgr()->setValue(usbItem, true));
-        QVERIFY(basemgr()->setValue(locationItem, 2));
+        plug(2);
         QVERIFY(report.save());
     }
 };

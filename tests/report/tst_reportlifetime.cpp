@@ -5,60 +5,103 @@ class ReportLifetimeTest : public ReportFixture
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void slotsMayDeleteTheController_data()
+    using Deed = std::function<void(Controller*)>;
+
+    QByteArray noSyncList() const
     {
-        QTest::addColumn<Setter>("prepare");
+        return contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"));
+    }
+
+private Q_SLOTS:
+    void theControllerMayGo_data()
+    {
+        QTest::addColumn<Setter>("deed");
         QTest::addColumn<QStringList>("files");
-        const auto onSignal = [](void (Report::*signal)()) {
-            return [signal](Report& r) { connect(&r, signal, &r, [&r] { delete &r; }); };
+        const auto add = [](const char* name, const Deed& deed, const QStringList& files = {}) {
+            QTest::newRow(name) << Setter([deed](Report& r) { deed(static_cast<Controller*>(&r)); }) << files;
         };
-        const auto onNotification = [](void (KIVNotificationModelManager::*signal)()) {
-            return [signal](Report& r) {
+        const auto goOn = [](void (Report::*signal)()) {
+            return [signal](Controller* r) { connect(r, signal, r, [r] { delete r; }); };
+        };
+        const auto goOnNotification = [](void (KIVNotificationModelManager::*signal)()) {
+            return [signal](Controller* r) {
                 // The dialog goes with the controller, which the manager tells, too.
-                connect(manager(), signal, &r, [&r, isFirst = true]() mutable {
+                connect(manager(), signal, r, [r, isFirst = true]() mutable {
                     if (std::exchange(isFirst, false))
-                        delete &r;
+                        delete r;
                 });
             };
         };
-        const auto add = [](const char* name, const Setter& prepare, const QStringList& files) {
-            QTest::newRow(name) << prepare << files;
-        };
-        const auto dialog = onNotification(&KIVNotificationModelManager::currentDialogChanged);
-        const auto tray = onNotification(&KIVNotificationModelManager::countChanged);
-        const auto blocked = [](Report& r) {
-            QVERIFY(writeFile(QFile::decodeName(qgetenv("UIUTILS_ROOT")) + "/cust/public/reports/f", ""));
-            r.setFolder("f");
-        };
-        add("job info", onSignal(&Report::includeJobInfoChanged), {});
-        add("last XML", onSignal(&Report::lastSavedXMLChanged), {"a.xml"});
-        add("files", onSignal(&Report::reportFilesChanged), {"a.xml"});
-        add("location", onSignal(&Report::saveLocationChanged), {"a.xml"});
-        add("tray", tray, {"a.xml"});
-        add(
-                "generated", [](Report& r) { connect(&r, &Report::reportGenerated, &r, [&r] { delete &r; }); },
-                {"a.xml", "a.html"});
-        const auto failing = [=](const Setter& watch) {
-            return [=](Report& r) {
-                blocked(r);
-                watch(r);
+        const auto within = [](const Deed& prepare, const Deed& act) {
+            return [=](Controller* r) {
+                prepare(r);
+                act(r);
             };
         };
-        add("error in the tray", failing(tray), {"f"});
-        add("error in a dialog", failing(dialog), {"f"});
-        add(
-                "question",
-                [=](Report& r) {
-                    QVERIFY(r.writeXmlReport(r.getSaveFilePath("a", ".xml")));
-                    r.addReportToNoSyncList("/cust/public/reports/a.xml");
-                    dialog(r);
-                },
-                {"a.xml"});
+        const auto goOnDialog = goOnNotification(&KIVNotificationModelManager::currentDialogChanged);
+        const auto goOnTray = goOnNotification(&KIVNotificationModelManager::countChanged);
+        const Deed save = [](Controller* r) { r->save(); };
+        const Deed fail = [=](Controller* r) {
+            QVERIFY(writeFile(onDisk("/cust/public/reports/f"), ""));
+            r->setFolder("f");
+            r->save();
+        };
+        const auto make = [=](int format) {
+            return [=](Controller* r) {
+                r->setUp("a", format);
+                r->whileMaking = [r] { delete r; };
+                r->save();
+            };
+        };
+        add("job info", within(goOn(&Report::includeJobInfoChanged), save));
+        add("last XML", within(goOn(&Report::lastSavedXMLChanged), save), {"a.xml"});
+        add("files", within(goOn(&Report::reportFilesChanged), save), {"a.xml"});
+        add("location", within(goOn(&Report::saveLocationChanged), save), {"a.xml"});
+        add("tray", within(goOnTray, save), {"a.xml"});
+        const Deed watch = [](Controller* r) { connect(r, &Report::reportGenerated, r, [r] { delete r; }); };
+        add("generated", within(watch, save), {"a.xml", "a.html"});
+        add("error in the tray", [=](Controller* r) { goOnTray(r), fail(r); }, {"f"});
+        add("error in a dialog", [=](Controller* r) { goOnDialog(r), fail(r); }, {"f"});
+        add("question", [=](Controller* r) {
+            QVERIFY(r->writeXmlReport(r->getSaveFilePath("a", ".xml"), false));
+            r->addReportToNoSyncList("/cust/public/reports/a.xml");
+            goOnDialog(r);
+            r->save();
+        }, {"a.xml"});
+        add("pages are made", make(0));
+        add("text is made", make(3));
+        const Deed refuse = [](Controller* r) { r->writeToJobManager(); };
+        add("refusal", [=](Controller* r) {
+            QVERIFY(basemgr()->setValue(activeItem, false));
+            // The dialog of the first makes room for the second.
+            within(refuse, within(goOnDialog, refuse))(r);
+        });
+        for (const auto signal : {&Report::reportFilesChanged, &Report::folderChanged}) {
+            add("template", within(goOn(signal), [this](Controller* r) {
+                writeTemplate("a.json", "");
+                r->setTemplatePath("/cust/a.json");
+            }));
+            add("tag", within(goOn(signal), [](Controller* r) { r->setTag("x"); }));
+        }
+        add("tag itself", within(goOn(&Report::tagChanged), [](Controller* r) { r->setTag("x"); }));
+        add("base", within(goOn(&Report::reportFilesChanged), [](Controller* r) { r->setBaseDirectory("/x/"); }));
+        add("service", within(goOn(&Report::canWriteToJobManagerChanged), [this](Controller* r) {
+            const QPointer<Controller> report(r);
+            QVERIFY(basemgr()->setValue(activeItem, false));
+            QTRY_VERIFY(!report);
+        }));
+        const Deed load = [this](Controller* r) {
+            QVERIFY(writeFile(onDisk("/cust/private/lastconfigs/reportSettings/x.json"), json("{'includeJobInfo': false, 'reportFormat': 1}")));
+            r->loadSettings();
+            r->getSetting("reportFormat")->setValue(0);
+            connect(r->getSetting("reportFormat"), &KivData::valueChanged, r, [r] { delete r; });
+            r->setFolder("x");
+        };
+        add("stored values", load);
     }
-    void slotsMayDeleteTheController()
+    void theControllerMayGo()
     {
-        QFETCH(Setter, prepare);
+        QFETCH(Setter, deed);
         const QPointer<Controller> report(new Controller);
         report->setUp("a", 5);
         for (int format : {0, 3, 4})
@@ -67,67 +110,14 @@ private Q_SLOTS:
         jobInfo->setAttributes({{"name", "includeJobInfo"}, {"type", "bool"}});
         jobInfo->setValue(true);
         report->addSetting(jobInfo);
-        prepare(*report);
-        report->save();
+        deed(*report);
         QVERIFY(!report);
         QStringList found = names("/cust/public/reports");
         std::sort(found.begin(), found.end(), std::greater<>());
         QTEST(found, "files");
         // What is written without the controller stays from the cloud without it.
-        const QByteArray list = contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"));
         for (const QString& file : qAsConst(found))
-            QVERIFY2(file == "f" || list.contains("/" + file.toUtf8() + "\n"), qPrintable(file));
-    }
-    void generatorsMayDeleteTheController()
-    {
-        for (const int format : {0, 3}) {
-            const QPointer<Controller> report(new Controller);
-            report->setUp("a", format);
-            report->whileMaking = [&report] { delete report; };
-            QVERIFY(!report->save());
-            QVERIFY(!report);
-        }
-    }
-    void refusalsMayDeleteTheController()
-    {
-        const QPointer<Report> report(new Report);
-        QVERIFY(basemgr()->setValue(activeItem, false));
-        QVERIFY(!report->writeToJobManager());
-        // The dialog of the first makes room for the second.
-        connect(manager(), &KIVNotificationModelManager::currentDialogChanged, report, [&report, isFirst = true]() mutable {
-            if (std::exchange(isFirst, false))
-                delete report;
-        });
-        QVERIFY(!report->writeToJobManager());
-        QVERIFY(!report);
-        QVERIFY(!manager()->currentDialog());
-    }
-    void notifiersMayDeleteTheController()
-    {
-        writeTemplate("a.json", "");
-        const QVector<Setter> changes{[](Report& r) { r.setTemplatePath("/cust/a.json"); },
-                [](Report& r) { r.setFolder("x"); }, [](Report& r) { r.setTag("x"); },
-                [](Report& r) { r.setBaseDirectory("/x/"); }};
-        for (const Setter& change : changes) {
-            const QPointer<Report> report(new Report);
-            for (const auto signal : {&Report::reportFilesChanged, &Report::tagChanged})
-                connect(report, signal, report, [&report] { delete report; });
-            change(*report);
-            QVERIFY(!report);
-        }
-        const QPointer<Report> report(new Report);
-        connect(report, &Report::canWriteToJobManagerChanged, report, [&report] { delete report; });
-        QVERIFY(basemgr()->setValue(activeItem, false));
-        QTRY_VERIFY(!report);
-    }
-    void storedValuesMayDeleteTheController()
-    {
-        QVERIFY(writeFile(onDisk("/cust/private/lastconfigs/reportSettings/.json"),
-                json("{'reportFormat': 1, 'reportName': 'a', 'reportSync_SS': true}")));
-        const QPointer<Report> report(new Report);
-        connect(report->getSetting("reportFormat"), &KivData::valueChanged, report, [&report] { delete report; });
-        report->slotCreateSettings();
-        QVERIFY(!report);
+            QVERIFY2(file == "f" || noSyncList().contains("/" + file.toUtf8() + "\n"), qPrintable(file));
     }
     void answersMayDeleteTheirAsker()
     {
@@ -148,23 +138,9 @@ private Q_SLOTS:
         QCOMPARE(accepted.count(), 1);
     }
 
-    void dyingControllersSaveNothing()
+    void dyingControllersAnswerAndSaveNothing()
     {
-        QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt"), "kept"));
-        auto report = std::make_unique<Controller>();
-        report->setUp("a", 3);
-        QVERIFY(!report->save());
-        QVector<bool> saved;
-        Report* dying = report.get();
-        connect(manager(), &KIVNotificationModelManager::currentDialogChanged, dying,
-                [&saved, dying] { saved << dying->save(true); });
-        report.reset();
-        QCOMPARE(saved, QVector<bool>{false});
-        QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.txt")), QByteArray("kept"));
-    }
-    void dyingControllersAnswer()
-    {
-        QVERIFY(writeFile(onDisk("/cust/public/reports/f"), ""));
+        QVERIFY(writeFile(onDisk("/cust/public/reports/f/a.txt"), "kept"));
         auto report = std::make_unique<Controller>();
         report->setUp("a", 3);
         report->setFolder("f");
@@ -174,11 +150,13 @@ private Q_SLOTS:
         QCOMPARE(manager()->waitingDialogs(), 1);
         QStringList seen;
         Report* dying = report.get();
-        connect(manager(), &KIVNotificationModelManager::currentDialogChanged, dying,
-                [&seen, dying] { seen << dying->getSaveLocation() << dying->getTitle() << QString::number(dying->getProgress()); });
+        connect(manager(), &KIVNotificationModelManager::currentDialogChanged, dying, [&seen, dying] {
+            seen << dying->getSaveLocation() << QString::number(dying->getProgress()) << (dying->save(true) ? "saved" : "refused");
+        });
         report.reset();
         QVERIFY(!manager()->currentDialog());
-        QVERIFY(seen.contains("Internal:/reports/f/"));
+        QVERIFY(seen.contains("Internal:/reports/f/") && seen.contains("refused") && !seen.contains("saved"));
+        QCOMPARE(contentsOf(onDisk("/cust/public/reports/f/a.txt")), QByteArray("kept"));
     }
 
     void savesDoNotNest()

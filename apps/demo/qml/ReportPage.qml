@@ -31,7 +31,6 @@ FocusScope {
         id: report
         measurement: page.measurement
         tag: "loopback"
-        interactive: true
         onContentWanted: builder.build()
         onReportOverwriteAccepted: save(true)
     }

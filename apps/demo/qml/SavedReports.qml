@@ -28,7 +28,7 @@ ColumnLayout {
         const newest = files.length > 0 ? files[0] : null
         const row = list.currentIndex
         hasViewer = actions.hasViewer()
-        files = showsStick ? actions.reportsOnUsb() : report.reportFiles
+        files = showsStick ? actions.reportsOnUsb() : actions.reportsInUnit()
         place = words.getSanitizedPathName(showsStick ? stick.mountPoint : report.getReportFilePath())
         const isNews = files.length > 0 && (newest === null || files[0].time > newest.time)
         list.currentIndex = isNews ? 0 : Math.min(row, files.length - 1)

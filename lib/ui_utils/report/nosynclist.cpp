@@ -2,8 +2,9 @@
 
 #include "base/durablefile.h"
 #include "base/folderlock_p.h"
-#include "core/itemids.h"
 #include "base/paths.h"
+#include "core/itemids.h"
+#include "report/reportformats_p.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
@@ -19,14 +20,15 @@
 #include <fcntl.h>
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace uiutils {
 
 namespace {
 
 const char lineFeed = '\n';
-/// Milliseconds for others to finish, who hold the list for as long as the disk takes to write it.
-constexpr int lockPatience = 10'000;
+/// Milliseconds for others to finish, who hold the list for as long as the disk takes to write it. The screens wait.
+constexpr int lockPatience = 500;
 /// How often the base manager is told anew because somebody has changed the list meanwhile.
 constexpr int mostTellings = 10;
 
@@ -62,9 +64,11 @@ std::optional<Lines> read(QString* error)
         return errno == ENOENT ? std::optional<Lines>(Lines()) : unreadable(qt_error_string(errno), error);
     QFile file;
     file.open(fd, QIODevice::ReadOnly, QFile::AutoCloseHandle);
-    const QByteArray text = file.readAll();
+    const QByteArray text = file.read(largestNoSyncList + 1);
     if (file.error() != QFileDevice::NoError)
         return unreadable(file.errorString(), error);
+    if (text.size() > largestNoSyncList)
+        return unreadable(translated(QT_TRANSLATE_NOOP("Report", "it has more than 1 MiB")), error);
     Lines lines = text.split(lineFeed);
     lines.removeAll(QByteArray());
     return lines;
@@ -75,6 +79,12 @@ bool write(const Lines& lines, QString* error)
     QByteArray text = lines.join(lineFeed);
     if (!text.isEmpty())
         text += lineFeed;
+    if (text.size() > largestNoSyncList) {
+        *error = translated(QT_TRANSLATE_NOOP("Report", "Cannot write %1: %2"))
+                         .arg(paths::noSyncList,
+                                 translated(QT_TRANSLATE_NOOP("Report", "it would have more than 1 MiB")));
+        return false;
+    }
     return writeFileDurably(onDisk(paths::noSyncList), text, error);
 }
 
@@ -159,50 +169,79 @@ bool isNeeded(const QString& record, const QString& report, const Lines& lines)
     return QFile::exists(onDisk(record)) || std::any_of(lines.cbegin(), lines.cend(), hasRecord);
 }
 
-/// It would be two paths for whoever reads the list.
-bool isOneLine(const QString& path, QString* error)
+/// The file of the same report that is compressed, or the other way round.
+QString otherFormOf(const QString& path)
 {
-    if (!path.contains(QLatin1Char(lineFeed)))
+    return path.endsWith(gzipSuffix) ? path.chopped(gzipSuffix.size()) : path + gzipSuffix;
+}
+
+/// A JSON report that is there and not listed was saved to be synced, whatever is saved beside it.
+bool isSyncedReport(const QString& record, const Lines& lines)
+{
+    return QFile::exists(onDisk(record)) && !lines.contains(record.toUtf8());
+}
+
+Lines withReports(Lines lines, const QStringList& reports)
+{
+    for (const QString& report : reports)
+        lines += report.toUtf8();
+    for (const QString& report : reports) {
+        if (!isSyncedReport(recordOf(report), lines))
+            lines += recordOf(report).toUtf8();
+    }
+    return withoutDuplicates(lines);
+}
+
+Lines withoutReport(Lines lines, const QString& report)
+{
+    lines.removeAll(report.toUtf8());
+    if (!isNeeded(recordOf(report), report, lines))
+        lines.removeAll(recordOf(report).toUtf8());
+    return lines;
+}
+
+Lines withoutReports(Lines lines, const QStringList& reports)
+{
+    for (const QString& report : reports) {
+        lines = withoutReport(std::move(lines), report);
+        const QString other = otherFormOf(report);
+        if (lines.contains(other.toUtf8()) && !QFile::exists(onDisk(other)))
+            lines = withoutReport(std::move(lines), other);
+    }
+    return lines;
+}
+
+/// A line feed would make two paths of one for whoever reads the list.
+bool areLines(const QStringList& paths, QString* error)
+{
+    const auto torn = std::find_if(
+            paths.cbegin(), paths.cend(), [](const QString& path) { return path.contains(QLatin1Char(lineFeed)); });
+    if (torn == paths.cend())
         return true;
     *error = translated(QT_TRANSLATE_NOOP("Report", "%1 holds a line feed"))
-                     .arg(QString(path).replace(QLatin1Char(lineFeed), QChar(QChar::ReplacementCharacter)));
+                     .arg(QString(*torn).replace(QLatin1Char(lineFeed), QChar(QChar::ReplacementCharacter)));
     return false;
 }
 
 } // namespace
 
-bool addToNoSyncList(const QString& path, QString* error)
+bool addToNoSyncList(const QStringList& paths, QString* error)
 {
-    return isOneLine(path, error)
-            && edit(
-                    [&](const Lines& lines) {
-                        return withoutDuplicates(lines + Lines {path.toUtf8(), recordOf(path).toUtf8()});
-                    },
-                    error);
+    return areLines(paths, error) && edit([&](const Lines& lines) { return withReports(lines, paths); }, error);
 }
 
-bool removeFromNoSyncList(const QString& path, QString* error)
+bool removeFromNoSyncList(const QStringList& paths, QString* error)
 {
-    const QString record = recordOf(path);
-    const auto without = [&](Lines lines) {
-        lines.removeAll(path.toUtf8());
-        if (!isNeeded(record, path, lines))
-            lines.removeAll(record.toUtf8());
-        return lines;
-    };
-    return isOneLine(path, error) && edit(without, error);
+    return areLines(paths, error) && edit([&](const Lines& lines) { return withoutReports(lines, paths); }, error);
 }
 
 bool replaceNoSyncList(const QStringList& paths, QString* error)
 {
     Lines lines;
-    for (const QString& path : paths) {
-        if (!isOneLine(path, error))
-            return false;
-        if (!path.isEmpty())
-            lines.append(path.toUtf8());
-    }
-    return edit([&](const Lines&) { return withoutDuplicates(lines); }, error);
+    for (const QString& path : paths)
+        lines += path.toUtf8();
+    lines.removeAll(QByteArray());
+    return areLines(paths, error) && edit([&](const Lines&) { return withoutDuplicates(lines); }, error);
 }
 
 } // namespace uiutils

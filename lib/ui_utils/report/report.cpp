@@ -1,8 +1,8 @@
 #include "report/report.h"
 
 #include "base/durablefile.h"
-#include "core/itemids.h"
 #include "base/paths.h"
+#include "core/itemids.h"
 #include "report/jobreport_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
@@ -79,7 +79,8 @@ void Report::watchServices()
     watchItems();
     connect(client, &KIVClientInterface::itemsChanged, this, [this] {
         watchItems();
-        emitEach({&Report::canWriteToJobManagerChanged, &Report::jobSummaryChanged, &Report::saveLocationChanged});
+        if (emitEach({&Report::canWriteToJobManagerChanged, &Report::jobSummaryChanged}))
+            tellLocation();
     });
 }
 
@@ -93,7 +94,7 @@ void Report::watchItems()
     }
     for (const QLatin1String& id : {uiutils::itemids::saveLocation, uiutils::itemids::usbAttached}) {
         if (const KIVClientItem* item = uiutils::baseManagerItem(id))
-            connect(item, &KIVClientItem::valueChanged, this, &Report::saveLocationChanged, Qt::UniqueConnection);
+            connect(item, &KIVClientItem::valueChanged, this, &Report::tellLocation, Qt::UniqueConnection);
     }
 }
 
@@ -146,8 +147,7 @@ void Report::addSetting(UiData* item)
     item->setParent(this);
     UiData* former = m_settings.value(item->getName());
     m_settings.insert(item->getName(), item);
-    if (m_state->initialSettings)
-        m_state->initialSettings->insert(item->getName(), item->getValue());
+    m_state->settingOrigins->insert(item->getName(), {item->getValue(), QVariant(), QString()});
     if (former && former != item)
         former->deleteLater();
     Q_EMIT settingsChanged();
@@ -174,14 +174,22 @@ void Report::slotCreateSettings()
 
 void Report::loadSettings()
 {
-    m_state->initialSettings.reset();
-    uiutils::loadReportSettings(uiutils::reportSettingsPath(getFolder()), m_settings);
+    const QString path = uiutils::reportSettingsPath(getFolder());
+    m_state->settingsPath = path;
+    uiutils::loadReportSettings(path, m_settings, m_state->settingOrigins);
+}
+
+/// The first are loaded when the page has had its time to set the folder.
+void Report::loadSettingsOfNewFolder()
+{
+    const QString& loaded = m_state->settingsPath;
+    if (!loaded.isNull() && loaded != uiutils::reportSettingsPath(getFolder()))
+        slotCreateSettings();
 }
 
 void Report::saveSettings()
 {
-    uiutils::saveReportSettings(
-            uiutils::reportSettingsPath(getFolder()), m_settings, m_state->initialSettings.value_or(QVariantMap()));
+    uiutils::saveReportSettings(uiutils::reportSettingsPath(getFolder()), m_settings, *m_state->settingOrigins);
 }
 
 QVariantMap Report::getSettings() const
@@ -211,11 +219,23 @@ QString Report::getTemplatePath() const
 
 void Report::setTemplatePath(const QString& path)
 {
+    const QString folder = getFolder();
+    const QString location = getSaveLocation();
     if (!readTemplate(path))
         return;
-    emitEach({&Report::templatePathChanged, &Report::tagChanged, &Report::orientationChanged, &Report::titleChanged,
-            &Report::subjectChanged, &Report::reportFilesChanged, &Report::canWriteToJobManagerChanged,
-            &Report::canWriteToFileChanged});
+    const bool isOtherFolder = folder != getFolder();
+    const bool isOtherLocation = location != getSaveLocation();
+    const QPointer<Report> self(this);
+    loadSettingsOfNewFolder();
+    if (!self
+            || !emitEach({&Report::templatePathChanged, &Report::tagChanged, &Report::orientationChanged,
+                    &Report::titleChanged, &Report::subjectChanged, &Report::reportFilesChanged,
+                    &Report::canWriteToJobManagerChanged, &Report::canWriteToFileChanged}))
+        return;
+    if (isOtherFolder && !emitEach({&Report::folderChanged}))
+        return;
+    if (isOtherLocation)
+        Q_EMIT saveLocationChanged();
 }
 
 /// A file that cannot be read would empty the document, so another one reads it. Reading it twice might find two files.
@@ -239,7 +259,7 @@ void Report::setBaseDirectory(const QString& directory)
 {
     // With a slash behind it, no folder would be the top of the file system.
     if (changes(m_baseDirectory, directory.isEmpty() ? QString(uiutils::paths::reports) : directory))
-        emitEach({&Report::reportFilesChanged, &Report::saveLocationChanged});
+        tellLocation();
 }
 
 QString Report::getTag() const
@@ -252,7 +272,10 @@ void Report::setTag(const QString& tag)
     const QString folder = getFolder();
     if (!changes(m_tag, tag))
         return;
-    if (emitEach({&Report::tagChanged}) && getFolder() != folder)
+    const bool isOtherFolder = getFolder() != folder;
+    const QPointer<Report> self(this);
+    loadSettingsOfNewFolder();
+    if (self && emitEach({&Report::tagChanged}) && isOtherFolder)
         tellFolder();
 }
 
@@ -263,13 +286,24 @@ QString Report::getFolder() const
 
 void Report::setFolder(const QString& folder)
 {
-    if (changes(m_folder, folder))
+    const QPointer<Report> self(this);
+    if (!changes(m_folder, folder))
+        return;
+    loadSettingsOfNewFolder();
+    if (self)
         tellFolder();
 }
 
 void Report::tellFolder()
 {
-    emitEach({&Report::folderChanged, &Report::reportFilesChanged, &Report::saveLocationChanged});
+    if (emitEach({&Report::folderChanged}))
+        tellLocation();
+}
+
+/// Reports are listed where the next one goes.
+void Report::tellLocation()
+{
+    emitEach({&Report::reportFilesChanged, &Report::saveLocationChanged});
 }
 
 bool Report::getCanWriteToJobManager() const
@@ -303,7 +337,7 @@ QString Report::getSaveLocation()
 
 QVariantList Report::getReportFiles()
 {
-    return uiutils::reportFiles(getReportFilePath());
+    return m_state->listing.files(uiutils::ReportDestinations::current().folder(getReportFilePath()));
 }
 
 QString Report::getOrientation() const

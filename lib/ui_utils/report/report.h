@@ -53,8 +53,8 @@ class UIUTILS_EXPORT Report : public QObject
     Q_PROPERTY(bool canWriteToFile READ getCanWriteToFile WRITE setCanWriteToFile NOTIFY canWriteToFileChanged)
     /// The folder into which the next save goes, as users read it.
     Q_PROPERTY(QString saveLocation READ getSaveLocation NOTIFY saveLocationChanged)
-    /// The saved reports of the folder, newest first: maps of `name`, `path`, `format`, `size` in bytes, `time` and
-    /// `compressed`. Reads the folder each time.
+    /// The saved reports where the next save goes, a folder of the unit or the stick, newest first: maps of `name`,
+    /// `path`, `format`, `size` in bytes, `time` and `compressed`. Read again when the folder has changed.
     Q_PROPERTY(QVariantList reportFiles READ getReportFiles NOTIFY reportFilesChanged)
     /// The XML report that this object saved last; empty before.
     Q_PROPERTY(QString lastSavedXML READ getLastSavedXML NOTIFY lastSavedXMLChanged)
@@ -85,10 +85,6 @@ class UIUTILS_EXPORT Report : public QObject
     /// shares.
     Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
     Q_PROPERTY(double progress READ getProgress NOTIFY progressChanged)
-    /// Whether the page lives on while a report is saved: save() then handles events between pages and formats, so that
-    /// the page can show the progress and call cancel(). It has to keep users from everything else for as long as
-    /// `saving` is true, as SaveProgress of UiUtils.Controls does, and must not go itself. False at first.
-    Q_PROPERTY(bool interactive READ isInteractive WRITE setInteractive NOTIFY interactiveChanged)
 
 public:
     static const QString PDF_EXTENSION;
@@ -147,8 +143,13 @@ public:
     void setScreenshotList(const QStringList& screenshots);
     bool isSaving() const;
     double getProgress() const;
+
+    /// Whether the page lives on while a report is saved: save() then handles events between pages and formats, so that
+    /// the page can show the progress and call cancel(). It has to keep users from everything else for as long as
+    /// `saving` is true, as SaveProgress of UiUtils.Controls does, and must not go itself. False at first. For derived
+    /// controllers, whose pages are made for it.
     bool isInteractive() const { return m_isInteractive; }
-    void setInteractive(bool interactive);
+    void setInteractive(bool interactive) { m_isInteractive = interactive; }
 
     QString getTestTime() const { return m_testTime; }
     QString getTestDuration() const { return m_testDuration; }
@@ -228,7 +229,8 @@ public:
     /// Opens a PDF report in the instrument's viewer, the one saved or shown last for an empty path; nothing happens
     /// for other files.
     Q_INVOKABLE void showPDF(const QString& path);
-    /// The file of a saved report, given its name with or without suffix, the newest of several; empty without one.
+    /// The file of one of `reportFiles`, given its name with or without suffix, the newest of several; empty without
+    /// one.
     Q_INVOKABLE QString getOpenReportPath(const QString& nm);
     /// The unit's own folder of these reports; ends in "/".
     Q_INVOKABLE virtual QString getReportFilePath();
@@ -288,6 +290,10 @@ protected:
     /// Stores the settings for the folder. Until they have been loaded, those that still have the value they came with
     /// leave what is stored as it is.
     void saveSettings();
+    /// The files that this object has saved, as the user wanted them synced or not: each path once, where it was saved
+    /// last.
+    QStringList syncedReports() const { return m_syncedReports; }
+    QStringList unsyncedReports() const { return m_unsyncedReports; }
     /// The pages as the library prints them; empty when that fails.
     QByteArray generateDefaultPDFReport();
     /// Sets a switch of the HTML writer and of the pages for all saves to come; it wins over those of this object.
@@ -319,12 +325,12 @@ Q_SIGNALS:
 
     /// The user lets the pending report be overwritten.
     void reportOverwriteAccepted();
-    /// A save has succeeded: `filename` is the file's path, or for all formats the name that the files have in common.
+    /// A save has succeeded; comes once for each: `filename` is the file's name without its folder, with its suffix and
+    /// ".gz" if it has one, or for all formats the name that the files have in common.
     void reportGenerated(const QString& filename);
 
     void savingChanged();
     void progressChanged();
-    void interactiveChanged();
 
 public Q_SLOTS:
     /// A service item that is watched has changed; for the sender's signal.
@@ -341,7 +347,9 @@ private:
     void watchServices();
     void watchItems();
     void createSettings();
+    void loadSettingsOfNewFolder();
     void tellFolder();
+    void tellLocation();
     bool readTemplate(const QString& path);
     QString ownOrTemplate(const QString& own, const char* key) const;
     template<typename Writer> void handOnSwitches(Writer& writer) const;
@@ -355,6 +363,8 @@ private:
     bool writeGenerated(const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite);
     bool writeContents(const QString& path, const QByteArray& contents, bool overwrite);
     bool copyToUsb(const QString& saved, bool overwrite);
+    void recordSync(const QStringList& paths, bool isSynced);
+    void noteSaved(const QStringList& files, bool isSynced);
     void tellSyncError(const QString& consequence, const QString& reason);
     /// How much of the format that is being written is done. False when it is to be given up.
     bool goesOn(double share);

@@ -47,18 +47,40 @@ double Report::percentageFileSystemUsed(const QString& path)
 
 void Report::addReportToNoSyncList(const QString& filePath)
 {
-    QString error;
-    if (!uiutils::addToNoSyncList(filePath, &error))
-        tellSyncError(
-                tr("The cloud may take %1, although it is not to be synced.").arg(m_state->shown(filePath)), error);
+    recordSync({filePath}, false);
 }
 
 void Report::removeReportFromNoSyncList(const QString& filePath)
 {
+    recordSync({filePath}, true);
+}
+
+void Report::recordSync(const QStringList& paths, bool isSynced)
+{
+    const QPointer<Report> self(this);
     QString error;
-    if (!uiutils::removeFromNoSyncList(filePath, &error))
-        tellSyncError(
-                tr("%1 is still on the list of reports that are not synced.").arg(m_state->shown(filePath)), error);
+    const bool isRecorded
+            = isSynced ? uiutils::removeFromNoSyncList(paths, &error) : uiutils::addToNoSyncList(paths, &error);
+    if (isRecorded || !self)
+        return;
+    QStringList shown;
+    for (const QString& path : paths)
+        shown += m_state->shown(path);
+    const QString consequence = isSynced ? tr("%1 is still on the list of reports that are not synced.")
+                                         : tr("The cloud may take %1, although it is not to be synced.");
+    tellSyncError(consequence.arg(shown.join(QLatin1String(", "))), error);
+}
+
+/// Each path is in one of the lists, once.
+void Report::noteSaved(const QStringList& files, bool isSynced)
+{
+    QStringList& list = isSynced ? m_syncedReports : m_unsyncedReports;
+    QStringList& other = isSynced ? m_unsyncedReports : m_syncedReports;
+    for (const QString& file : files) {
+        other.removeAll(file);
+        list.removeAll(file);
+        list += file;
+    }
 }
 
 void Report::writeNoSyncListToFile(const QStringList& noSync_fileList)
@@ -106,7 +128,8 @@ bool Report::ensureValidJobData()
 
 void Report::updateJobTestMetadata()
 {
-    uiutils::addJobTest(&m_state->metadata, getCdmTestType(), getCdmTestLabel());
+    const QString type = getCdmTestType();
+    uiutils::addJobTest(&m_state->metadata, type, getCdmTestLabel());
 }
 
 // --- The job ---

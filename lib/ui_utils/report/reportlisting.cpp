@@ -1,15 +1,18 @@
 #include "report/reportlisting_p.h"
 
 #include "base/paths.h"
+#include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
 
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QVariantMap>
 #include <QVector>
 
 #include <algorithm>
+#include <sys/stat.h>
 
 namespace uiutils {
 
@@ -89,6 +92,43 @@ QVariantList reportFiles(const QString& folder)
                 {QStringLiteral("compressed"), report.isCompressed}};
     }
     return list;
+}
+
+QVariantList ReportListing::files(const QString& folder)
+{
+    // Files and folders take their times from this clock, so what changes from here on has this one or a later one.
+    timespec now = {};
+    ::clock_gettime(CLOCK_REALTIME_COARSE, &now);
+    const std::optional<FolderState> state = isOnUsb(folder) ? std::nullopt : stateOf(folder);
+    if (state && m_state && *m_state == *state && m_folder == folder)
+        return m_files;
+    m_files = isDriveThere(folder) ? reportFiles(folder) : QVariantList();
+    m_folder = folder;
+    m_state = state && isSettled(*state, now) ? state : std::nullopt;
+    return m_files;
+}
+
+bool ReportListing::FolderState::operator==(const FolderState& other) const
+{
+    return device == other.device && inode == other.inode && seconds == other.seconds
+            && nanoseconds == other.nanoseconds;
+}
+
+std::optional<ReportListing::FolderState> ReportListing::stateOf(const QString& folder)
+{
+    struct stat info = {};
+    if (folder.contains(QChar(QChar::Null)) || ::stat(QFile::encodeName(onDisk(folder)).constData(), &info) != 0)
+        return std::nullopt;
+    return FolderState {info.st_dev, info.st_ino, info.st_mtim.tv_sec, info.st_mtim.tv_nsec};
+}
+
+/// Whether a change from `now` on gives the folder another time.
+bool ReportListing::isSettled(const FolderState& state, const timespec& now)
+{
+    constexpr qint64 coarsestTick = 2;
+    if (state.nanoseconds == 0)
+        return qAbs(now.tv_sec - state.seconds) > coarsestTick;
+    return now.tv_sec != state.seconds || now.tv_nsec != state.nanoseconds;
 }
 
 } // namespace uiutils

@@ -2,8 +2,8 @@
 
 #include "report/report.h"
 
-#include "core/itemids.h"
 #include "base/paths.h"
+#include "core/itemids.h"
 #include "report/nosynclist_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
@@ -46,7 +46,6 @@ private:
     bool writeFormats();
     bool writeFormat(const uiutils::ReportFormat& format);
     void recordSync();
-    void recordSync(const QString& path);
     bool mayCopy();
     bool copyToUsb();
     bool announce();
@@ -261,26 +260,19 @@ bool Report::Save::writeFormat(const uiutils::ReportFormat& format)
 /// The reports outlive a controller that went while they were written, and so does what the user has chosen.
 void Report::Save::recordSync()
 {
-    QStringList paths = m_written;
     if (m_report) {
-        (m_isSynced ? m_report->m_syncedReports : m_report->m_unsyncedReports) += m_written;
+        m_report->noteSaved(m_written, m_isSynced);
         // A report that could not be compressed lies there as well.
-        if (!m_isSynced)
-            paths += m_report->m_state->strays;
+        const QStringList paths = m_isSynced ? m_written : m_written + m_report->m_state->strays;
+        if (!paths.isEmpty())
+            m_report->recordSync(paths, m_isSynced);
+        return;
     }
-    for (const QString& path : qAsConst(paths))
-        recordSync(path);
-}
-
-void Report::Save::recordSync(const QString& path)
-{
-    if (m_report && m_isSynced)
-        return m_report->removeReportFromNoSyncList(path);
-    if (m_report)
-        return m_report->addReportToNoSyncList(path);
+    if (m_written.isEmpty())
+        return;
     QString error;
-    const bool isRecorded
-            = m_isSynced ? uiutils::removeFromNoSyncList(path, &error) : uiutils::addToNoSyncList(path, &error);
+    const bool isRecorded = m_isSynced ? uiutils::removeFromNoSyncList(m_written, &error)
+                                       : uiutils::addToNoSyncList(m_written, &error);
     if (!isRecorded)
         qWarning("%s", qUtf8Printable(error));
 }
@@ -320,9 +312,10 @@ bool Report::Save::copyToUsb()
 
 bool Report::Save::announce()
 {
+    const QString path = m_written.constFirst();
     // Files of all formats have the name in common.
-    const QString saved = m_isAll ? m_name : m_written.constFirst();
-    m_report->saveSucceeded(m_written.constFirst());
+    const QString saved = m_isAll ? uiutils::safeFileName(m_name) : path.section(QLatin1Char('/'), -1);
+    m_report->saveSucceeded(path);
     if (m_report)
         Q_EMIT m_report->reportGenerated(saved);
     return true;

@@ -11,6 +11,7 @@
 #include <QJsonObject>
 #include <QPointer>
 
+#include <algorithm>
 #include <optional>
 
 namespace uiutils {
@@ -94,6 +95,35 @@ bool isAllowed(const UiData& item, const QJsonValue& value)
     return value.isDouble() ? isInRange(item, value.toDouble()) : value.isString() && isAccepted(item, text);
 }
 
+bool isUntouched(const UiData& item, const SettingOrigin& origin)
+{
+    const QVariant value = item.getValue();
+    return value == origin.initial || (origin.loaded.isValid() && value == origin.loaded);
+}
+
+/// What the file holds; nothing, with a line in the log, when it cannot be read or understood.
+QJsonObject readSettings(const QString& path)
+{
+    const std::optional<QByteArray> contents = contentsOf(path);
+    if (!contents)
+        return QJsonObject();
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(*contents, &error);
+    if (error.error != QJsonParseError::NoError)
+        logUnreadable(error.errorString());
+    else if (!document.isObject())
+        logUnreadable(QStringLiteral("the file holds no object"));
+    return document.object();
+}
+
+/// What an untouched item is to have with this file; what it has when the file says nothing new.
+QVariant valueToTake(const UiData& item, const SettingOrigin& origin, const QJsonValue& stored, const QString& path)
+{
+    if (isAllowed(item, stored))
+        return item.getType() == UiData::TYPE_ENUM ? QVariant(stored.toInt()) : stored.toVariant();
+    return origin.path == path ? item.getValue() : origin.initial;
+}
+
 } // namespace
 
 QString reportSettingsPath(const QString& folder)
@@ -101,41 +131,48 @@ QString reportSettingsPath(const QString& folder)
     return paths::reportSettings + safeFolder(folder) + QLatin1String(".json");
 }
 
-void loadReportSettings(const QString& path, const ReportSettings& items)
+void loadReportSettings(
+        const QString& path, const ReportSettings& items, const std::shared_ptr<SettingOrigins>& origins)
 {
-    const std::optional<QByteArray> contents = contentsOf(path);
-    if (!contents)
-        return;
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(*contents, &error);
-    if (error.error != QJsonParseError::NoError)
-        return logUnreadable(error.errorString());
-    if (!document.isObject())
-        return logUnreadable(QStringLiteral("the file holds no object"));
-    const QJsonObject values = document.object();
-    // Whoever hears of a value may add or delete settings.
+    const QJsonObject values = readSettings(path);
+    // Whoever hears of a value may add or delete settings, and the controller with them.
     QMap<QString, QPointer<UiData>> takers;
     for (auto it = items.cbegin(); it != items.cend(); ++it)
         takers.insert(it.key(), *it);
+    const std::shared_ptr<SettingOrigins> kept = origins;
     for (auto it = takers.cbegin(); it != takers.cend(); ++it) {
-        const QJsonValue value = values.value(it.key());
-        if (!*it || !isAllowed(**it, value))
+        if (!*it)
             continue;
-        const bool isEnum = (*it)->getType() == UiData::TYPE_ENUM;
-        (*it)->setValue(isEnum ? QVariant(value.toInt()) : value.toVariant());
+        SettingOrigin& origin = (*kept)[it.key()];
+        const bool takes = isUntouched(**it, origin);
+        const QVariant value = takes ? valueToTake(**it, origin, values.value(it.key()), path) : QVariant();
+        origin.path = path;
+        if (!takes)
+            continue;
+        origin.loaded = value;
+        if ((*it)->getValue() != value)
+            (*it)->setValue(value);
+        // They may have had those of another folder loaded.
+        const auto now = kept->find(it.key());
+        if (now == kept->end() || now->path != path)
+            return;
+        if (*it)
+            now->loaded = (*it)->getValue();
     }
 }
 
-void saveReportSettings(const QString& path, const ReportSettings& items, const QVariantMap& initial)
+void saveReportSettings(const QString& path, const ReportSettings& items, const SettingOrigins& origins)
 {
     const QString place = onDisk(path);
-    const QJsonObject stored = initial.isEmpty() ? QJsonObject() : storedValues(place);
+    const bool isLoaded = std::all_of(
+            items.keyBegin(), items.keyEnd(), [&](const QString& name) { return origins.value(name).path == path; });
+    const QJsonObject stored = isLoaded ? QJsonObject() : storedValues(place);
     QVariantMap values;
     for (auto it = items.cbegin(); it != items.cend(); ++it) {
-        const QVariant value = (*it)->getValue();
+        const SettingOrigin origin = origins.value(it.key());
         const QJsonValue former = stored.value(it.key());
-        const bool isUntouched = initial.contains(it.key()) && initial.value(it.key()) == value;
-        values.insert(it.key(), isUntouched && isAllowed(**it, former) ? former.toVariant() : value);
+        const bool staysStored = origin.path != path && isUntouched(**it, origin) && isAllowed(**it, former);
+        values.insert(it.key(), staysStored ? former.toVariant() : (*it)->getValue());
     }
     const QByteArray text = QJsonDocument(QJsonObject::fromVariantMap(values)).toJson();
     // Most saves change nothing, and the disk takes longer to keep a file than to read it.

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <memory>
+
 class UiData;
 
 /// The settings that users make for reports, as one JSON object in a file for each folder of reports.
@@ -17,13 +19,26 @@ constexpr qint64 largestReportSettings = 1024 * 1024;
 /// The instrument path of the file for a folder of reports.
 QString reportSettingsPath(const QString& folder);
 
-/// Has each item take its stored value, where that is one that the item allows. A file that cannot be read or
-/// understood leaves all as they are; a line in the log says so.
-void loadReportSettings(const QString& path, const ReportSettings& items);
+/// What is known of an item's value: the one that it came with, the one that it was given last by loading, and the file
+/// of that. An item that has neither of the two was set by somebody.
+struct SettingOrigin
+{
+    QVariant initial;
+    QVariant loaded;
+    QString path;
+};
+
+/// By the name of the item.
+using SettingOrigins = QMap<QString, SettingOrigin>;
+
+/// Has each item that nobody has set take its stored value, where that is one that the item allows; one that came from
+/// another file and is not in this one gets the value back that it came with. A file that cannot be read or understood
+/// holds nothing; a line in the log says so.
+void loadReportSettings(
+        const QString& path, const ReportSettings& items, const std::shared_ptr<SettingOrigins>& origins);
 
 /// Writes the values durably, with the folder if there is none. When that fails, what was stored stays; a line in the
-/// log says so. `initial` has the values that items came with, while the stored ones have not been loaded: those of
-/// items that still have theirs stay stored.
-void saveReportSettings(const QString& path, const ReportSettings& items, const QVariantMap& initial = {});
+/// log says so. What is stored for an item that nobody has set, and that was not loaded from this file, stays as well.
+void saveReportSettings(const QString& path, const ReportSettings& items, const SettingOrigins& origins);
 
 } // namespace uiutils

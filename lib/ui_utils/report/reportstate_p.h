@@ -4,6 +4,8 @@
 #include "files/fileutils.h"
 #include "report/overwritegate_p.h"
 #include "report/reportdestinations_p.h"
+#include "report/reportlisting_p.h"
+#include "report/reportsettingsstore_p.h"
 #include "report/saveprogress_p.h"
 
 #include <kiv/kivnotification.h>
@@ -49,9 +51,12 @@ public:
     OverwriteGate gate;
     SaveProgress progress;
     ReportMetadata metadata;
+    ReportListing listing;
 
-    /// What the settings came with; none when the stored ones have been loaded.
-    std::optional<QVariantMap> initialSettings {QVariantMap()};
+    /// Where the values of the settings come from. Shared with the loading that runs, which may outlive this.
+    std::shared_ptr<SettingOrigins> settingOrigins = std::make_shared<SettingOrigins>();
+    /// The settings file that was loaded last; null before.
+    QString settingsPath;
 
     /// Where the save that runs goes, whatever is plugged or pulled meanwhile.
     std::optional<ReportDestinations> fixedDestinations;

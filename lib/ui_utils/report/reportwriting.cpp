@@ -205,12 +205,6 @@ void Report::cancel()
     m_state->progress.cancel();
 }
 
-void Report::setInteractive(bool interactive)
-{
-    if (changes(m_isInteractive, interactive))
-        Q_EMIT interactiveChanged();
-}
-
 bool Report::goesOn(double share)
 {
     return tellProgress(m_state->progress.advance(share));

@@ -83,6 +83,12 @@ QString actionProblem(const ItemDescription& item, unsigned type)
     return item.does && item.does->delayMs < 0 ? tr("a delay below zero") : QString();
 }
 
+QString clearableProblem(const ItemDescription& item, unsigned type)
+{
+    const bool isTextResult = type == KIVClientItem::TypeString && item.id.startsWith(QLatin1String(":result:"));
+    return item.isClearable && !isTextResult ? tr("only a text that is a result can be clearable") : QString();
+}
+
 QString rangeProblem(const ItemDescription& item, unsigned type)
 {
     return convertLimits(type, item.minimum, item.maximum).problem;
@@ -151,7 +157,7 @@ QString itemProblem(const ItemDescription& item)
 {
     const unsigned type = typeCode(item.type);
     for (const auto check : {idProblem, membersProblem, valueProblem, rangeProblem, enumerationProblem, actionProblem,
-                 precisionProblem}) {
+                 clearableProblem, precisionProblem}) {
         const QString problem = check(item, type);
         if (!problem.isEmpty())
             return problem;

@@ -57,6 +57,17 @@ bool isManifestAction(const ServiceData& service, const QString& id, QLatin1Stri
     return bool(service.items.find(QLatin1String(":result:") + name + QLatin1String(":manifest:")));
 }
 
+/// Why clients may not set the item to the value, whatever it is that the item holds; empty when they may.
+QString noSettingProblem(const ItemState& state, const QVariant& value)
+{
+    if (state.isSetting())
+        return QString();
+    if (!state.description.isClearable)
+        return tr("%1 cannot be set: it is no setting.").arg(state.title());
+    const bool isEmpty = value.userType() == QMetaType::QString && value.toString().isEmpty();
+    return isEmpty ? QString() : tr("%1 cannot be set: it can only be emptied.").arg(state.title());
+}
+
 ItemStore::StatePtr listedAction(const ServiceData& service, const QString& id)
 {
     const ItemStore::StatePtr state = service.items.find(id);
@@ -70,10 +81,10 @@ Outcome setSetting(ServiceData& service, const QString& id, const QVariant& valu
     const ItemStore::StatePtr state = service.items.find(id);
     if (!state)
         return {false, tr("The service %1 has no item %2.").arg(service.name, id)};
-    if (!state->isSetting())
-        return {false, tr("%1 cannot be set: it is no setting.").arg(state->title())};
     PendingWrites writes;
-    const QString problem = writes.addWrite(service, state, value);
+    QString problem = noSettingProblem(*state, value);
+    if (problem.isEmpty())
+        problem = writes.addWrite(service, state, value);
     if (!problem.isEmpty())
         return {false, problem};
     writes.apply();

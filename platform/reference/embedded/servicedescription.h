@@ -73,6 +73,8 @@ struct ItemDescription
     QString applicableExpr;
     /// Not empty: every write of a client is refused with this text.
     QString refusal;
+    /// Of a text that is a result: clients may empty it.
+    bool isClearable = false;
     /// Of an action; without it the action needs a handler.
     std::optional<ActionDescription> does;
 };

@@ -97,6 +97,7 @@ ItemDescription itemDescription(const QJsonObject& object)
     item.isApplicable = object.value(QLatin1String("applicable")).toBool(true);
     item.applicableExpr = textOf(object, "applicable");
     item.refusal = textOf(object, "refuse");
+    item.isClearable = object.value(QLatin1String("clearable")).toBool();
     item.does = actionOf(object.value(QLatin1String("does")));
     return item;
 }

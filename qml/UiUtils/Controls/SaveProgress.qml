@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import UiUtils.Controls 1.0
 
-// How far a report is whose controller is `interactive` while it saves. From the first moment on users reach nothing below,
+// How far a report is whose controller handles events while it saves (Report::setInteractive()). From the first moment on users reach nothing below,
 // for the page must not change under a save; a window needs one of these for each such controller.
 ModalDialog {
     id: dialog
@@ -12,7 +12,7 @@ ModalDialog {
     // Milliseconds after which a save is long enough to be shown: a flash would help nobody.
     property int delay: 200
 
-    readonly property bool isSaving: report ? report.interactive && report.saving : false
+    readonly property bool isSaving: report ? report.saving : false
     readonly property real progress: isSaving ? report.progress : 0
     property bool isCancelled: false
 
