@@ -26,7 +26,7 @@ build_packages=(
 # What the tests start beside the programs of the tree: a display, a bus, and readers that
 # know nothing of this library and so can judge the files it writes; help2man makes the
 # manual pages that are tested with the tools.
-test_packages=(dbus xvfb xauth poppler-utils qpdf libxml2-utils tidy strace help2man python3)
+test_packages=(dbus xvfb xauth poppler-utils qpdf libxml2-utils tidy strace help2man python3 tzdata)
 
 # Standard output stays free for the program and for the test results.
 say() {
