@@ -180,7 +180,7 @@ private Q_SLOTS:
         report.Report::getSetting("reportSync_SS")->setValue(true);
         report.setNotifiesTray(false);
         report.setCompressionEnabled(true);
-        QVERIFY(report.save(true));
+        QVERIFY(report.save(true) && report.save(true));
         QCOMPARE(report.getOpenReportPath("a.xml"), QString("/mnt/usb/a.xml.gz"));
         QCOMPARE(report.getReportFiles().size(), 5);
         QCOMPARE(report.getLastSavedXML(), QString("/mnt/usb/a.xml.gz"));
@@ -644,6 +644,9 @@ private Q_SLOTS:
             manager()->accept();
             QCOMPARE(contentsOf(listFile()), foreign);
         }
+        report.removeReportFromNoSyncList("/x");
+        QCOMPARE(contentsOf(listFile()), full + '\n');
+        manager()->accept();
         QVERIFY(writeFile(listFile(), small));
         report.addReportToNoSyncList("/cust/a\n/cust/b");
         QCOMPARE(manager()->currentDialog()->longLabel(), QString("Sync"));
