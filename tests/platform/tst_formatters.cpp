@@ -1,9 +1,10 @@
+#include "columns.h"
+
 #include <embedded/embeddedbackend.h>
 #include <kiv/baseformatter.h>
 
 #include <QLocale>
 #include <QtMath>
-#include <QtTest>
 
 #include <memory>
 
@@ -18,11 +19,7 @@ private:
 private Q_SLOTS:
     void texts_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<int>("precision");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("unit");
+        addColumns<QString, QVariant, int, QString, QString>({"name", "value", "precision", "text", "unit"});
         const QString micro(QChar(0xb5));
         QTest::newRow("decimal") << "decimal" << QVariant(12345.678) << -1 << "12,345.678" << "";
         QTest::newRow("decimal, rounded") << "decimal:V" << QVariant(0.005) << 1 << "0.0 V" << "V";
@@ -69,8 +66,6 @@ private Q_SLOTS:
     void usersLocale()
     {
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-        const std::unique_ptr<BaseFormatter> formatter(getFormatter("dB"));
-        QCOMPARE(formatter->format(-1234.5), QString("-1.234,50 dB"));
         const std::unique_ptr<BaseFormatter> duration(getFormatter("duration"));
         QCOMPARE(duration->format(1.5), QString("0:00:01,500"));
     }
