@@ -66,6 +66,8 @@ private Q_SLOTS:
     void usersLocale()
     {
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        const std::unique_ptr<BaseFormatter> formatter(getFormatter("dB"));
+        QCOMPARE(formatter->format(-1234.5), QString("-1.234,50 dB"));
         const std::unique_ptr<BaseFormatter> duration(getFormatter("duration"));
         QCOMPARE(duration->format(1.5), QString("0:00:01,500"));
     }
