@@ -172,41 +172,6 @@ Item {
             compare(Notifications.count, 0)
         }
 
-        // Full before the report is whole.
-        function test_stickThatFillsUp() {
-            measure()
-            plug()
-            choose("line 7", "HTML", 1)
-            save()
-            const before = driver.textOf("mnt/usb/line 7.html")
-            save()
-            compare(dialogTitle(), "Report Exists")
-            driver.limitFiles(4096)
-            answer(true)
-            driver.limitFiles(-1)
-            compare(dialogTitle(), "Write Error")
-            answer(true)
-            compare(driver.textOf("mnt/usb/line 7.html"), before)
-            compare(driver.filesIn("mnt/usb"), ["line 7.html", "line 7.html.metadata"])
-            compare(driver.files(), [])
-        }
-
-        function test_stickPulledWhileAsked() {
-            measure()
-            plug()
-            choose("line 7", "TEXT", 1)
-            save()
-            save()
-            compare(dialogTitle(), "Report Exists")
-            verify(stick().pull())
-            answer(true)
-            compare(dialogTitle(), "Write Error")
-            answer(true)
-            // Neither in the unit nor in the folder that the stick leaves behind.
-            compare([driver.files(), driver.filesIn("mnt/usb")], [[], []])
-            compare(Notifications.count, 2)
-        }
-
         function test_cancelledSave() {
             driver.setManySamples()
             measure()

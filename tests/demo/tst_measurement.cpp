@@ -1,3 +1,5 @@
+#include "columns.h"
+
 #include "loopbackmeasurement.h"
 #include "loopbackprotocol.h"
 #include "measurementsettings.h"
@@ -11,7 +13,6 @@
 #include <QSignalSpy>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QtTest>
 
 #include <climits>
 #include <functional>
@@ -127,9 +128,7 @@ private Q_SLOTS:
 
     void runAsAsked_data()
     {
-        QTest::addColumn<int>("roundTrips");
-        QTest::addColumn<int>("throughputs");
-        QTest::addColumn<int>("messageBytes");
+        addColumns<int, int, int>({"roundTrips", "throughputs", "messageBytes"});
         QTest::newRow("smallest message") << samples << samples + 3 << LoopbackMeasurement::smallestMessage;
         QTest::newRow("largest message") << samples + 3 << samples << LoopbackMeasurement::largestMessage;
     }
@@ -153,10 +152,7 @@ private Q_SLOTS:
     void followsTheService_data()
     {
         using Settings = MeasurementSettings;
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("counts");
-        QTest::addColumn<double>("expected");
+        addColumns<QString, double, int, double>({"id", "value", "counts", "expected"});
         const QString roundTrips = ":config:loopback:test:rttSamples:";
         const QString throughputs = ":config:loopback:test:throughputSamples:";
         const QString bytes = ":config:loopback:test:messageSize:";
@@ -199,8 +195,7 @@ private Q_SLOTS:
     /// The service and the measurement end with the same limit, whichever of them it was changed at.
     void oneLimit_data()
     {
-        QTest::addColumn<QString>("refusal");
-        QTest::addColumn<double>("expected");
+        addColumns<QString, double>({"refusal", "expected"});
         QTest::newRow("taken") << "" << 5.0;
         QTest::newRow("refused") << "The limits are the customer's." << 1.0;
     }
@@ -285,8 +280,7 @@ private Q_SLOTS:
 
     void badServerFailsInWords_data()
     {
-        QTest::addColumn<Serve>("serve");
-        QTest::addColumn<QString>("what");
+        addColumns<Serve, QString>({"serve", "what"});
         QTest::newRow("never answers") << Serve([](QTcpSocket*) {}) << "was silent for 0.2 s";
         QTest::newRow("falls silent") << answeringAfter(0, 4)
                                       << "was silent for 0.2 s while measuring round-trip time, "

@@ -1,5 +1,7 @@
+#include "columns.h"
+#include "files.h"
+
 #include "common/instrument.h"
-#include "base/durablefile.h"
 #include "base/paths.h"
 #include "demotypes.h"
 #include "loopbackmeasurement.h"
@@ -22,7 +24,6 @@
 #include <QSignalSpy>
 #include <QTcpServer>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <algorithm>
 #include <functional>
@@ -31,7 +32,6 @@
 using namespace uiutils::demo;
 
 namespace {
-
 constexpr int longWait = 60000;
 
 const char* const lastName = ":config:basemgr:system:userInfo_lastName:";
@@ -182,10 +182,7 @@ private Q_SLOTS:
 
     void entries_data()
     {
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QVariant>("taken");
+        addColumns<QString, QString, QString, QVariant>({"id", "locale", "typed", "taken"});
         const QString limit = roundTripLimit;
         QTest::newRow("point") << limit << "en_US" << "0.25" << QVariant(0.25);
         QTest::newRow("comma") << limit << "de_DE" << "0,25" << QVariant(0.25);
@@ -231,8 +228,7 @@ private Q_SLOTS:
 
     void refusedSettingsAreToldInWords_data()
     {
-        QTest::addColumn<QString>("words");
-        QTest::addColumn<int>("times");
+        addColumns<QString, int>({"words", "times"});
         // In the bar, and at each setting that the words may concern.
         QTest::newRow("named") << "Last Name cannot be changed in the field." << 2;
         QTest::newRow("not named") << "The roster is closed." << 3;
@@ -355,7 +351,6 @@ private Q_SLOTS:
         startProgram();
         m_serviceFolders = QStringList(shippedServices);
         m_window->setProperty("page", 3);
-        QVERIFY(shownTexts().size() > 0);
         QVERIFY(showsText("There are no settings, because the services basemgr and loopback are not published."));
     }
 
@@ -407,9 +402,10 @@ private Q_SLOTS:
             QTest::keyClick(m_window, Qt::Key_Down);
         }
         QTest::keyClick(m_window, Qt::Key_Return);
-        QTRY_VERIFY(QFile::exists(m_root.filePath("base/qml/pdf_viewer/shown")));
-        QVERIFY(contents("/base/qml/pdf_viewer/shown").contains(m_root.path().toUtf8() + folder.toUtf8() + "a.pdf"));
-        QVERIFY(QFile::remove(m_root.filePath("base/qml/pdf_viewer/shown")));
+        const QString shown = m_root.filePath("base/qml/pdf_viewer/shown");
+        QTRY_VERIFY(QFile::exists(shown));
+        QVERIFY(contentsOf(shown).contains((m_root.path() + folder + "a.pdf").toUtf8()));
+        QVERIFY(QFile::remove(shown));
 
         for (int i = 0; i < 3; ++i)
             QTest::keyClick(m_window, Qt::Key_Up);
@@ -502,8 +498,7 @@ private Q_SLOTS:
     /// No text is cut off, runs out of the window or over its neighbours' card, in any state of a page.
     void textsFit_data()
     {
-        QTest::addColumn<QString>("state");
-        QTest::addColumn<QSize>("size");
+        addColumns<QString, QSize>({"state", "size"});
         for (const char* state : {"idle", "failed", "finished", "marginal", "with a USB drive"}) {
             QTest::addRow("%s, instrument", state) << state << QSize(1024, 600);
             QTest::addRow("%s, smallest", state) << state << QSize(880, 540);
@@ -579,20 +574,11 @@ private:
     }
 
     /// Files of the instrument.
-    void put(const QString& path, const QByteArray& contents)
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(m_root.path() + path).path()));
-        QVERIFY(uiutils::writeFileDurably(m_root.path() + path, contents));
-    }
+    void put(const QString& path, const QByteArray& contents) { writeFile(m_root.path() + path, contents); }
     void removeReports()
     {
         QVERIFY(QDir(m_root.filePath("cust/public/reports")).removeRecursively());
         m_report->tellFilesChanged();
-    }
-    QByteArray contents(const QString& path) const
-    {
-        QFile file(m_root.path() + path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
     kiv::embedded::EmbeddedService* service(const QString& id) const

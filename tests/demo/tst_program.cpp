@@ -1,16 +1,14 @@
-#include <QDir>
+#include "columns.h"
+#include "files.h"
+
 #include <QDirIterator>
-#include <QFile>
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QtTest>
 
 namespace {
-
 struct Outcome
 {
     int exitCode = -1;
@@ -36,12 +34,6 @@ Outcome runDemo(const QStringList& arguments, const QMap<QString, QString>& vari
         return {-1, process.readAllStandardOutput(), process.readAllStandardError()};
     }
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
-QByteArray contentsOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QStringList filesBelow(const QString& folder)
@@ -139,10 +131,7 @@ private Q_SLOTS:
         const QString icon = root + "/base/qml/common/images/pass_icon.png";
         const QByteArray drawn = contentsOf(icon);
         QVERIFY(!QImage::fromData(drawn).isNull());
-        QFile damaged(icon);
-        QVERIFY(damaged.open(QIODevice::WriteOnly));
-        damaged.write("damaged");
-        damaged.close();
+        writeFile(icon, "damaged");
         const QString viewer = root + "/base/bin/pdf_viewer";
         QFile::remove(viewer);
         QVERIFY(QDir().mkpath(root + "/base/bin") && QFile::link("/nowhere/pdf_viewer", viewer));
@@ -157,8 +146,7 @@ private Q_SLOTS:
 
     void failures_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("sentence");
+        addColumns<QStringList, QString>({"arguments", "sentence"});
         QTest::newRow("root is a file") << QStringList{"--tour", "--root", "%1/file"} << "%1/file is a file";
         QTest::newRow("root below a file")
                 << QStringList{"--tour", "--root", "%1/file/root"} << "%1/file is a file";
@@ -176,12 +164,8 @@ private Q_SLOTS:
         QFETCH(QStringList, arguments);
         QFETCH(QString, sentence);
         QDir folder(m_folder->path());
-        QVERIFY(folder.mkpath("broken") && folder.mkpath("blocked"));
-        for (const char* name : {"file", "blocked/base", "broken/bad.service.json"}) {
-            QFile file(folder.filePath(name));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write("{ no service");
-        }
+        for (const char* name : {"file", "blocked/base", "broken/bad.service.json"})
+            writeFile(folder.filePath(name), "{ no service");
         const QStringList before = filesBelow(folder.path());
 
         const Outcome outcome = runDemo(arguments.replaceInStrings("%1", folder.path()));
@@ -196,16 +180,11 @@ private Q_SLOTS:
     void settingsSurviveARestart()
     {
         const QString kept = m_folder->filePath("cust/private/lastconfigs/services/");
-        QVERIFY(QDir().mkpath(kept));
-        QFile basemgr(kept + "basemgr.state.json");
-        QVERIFY(basemgr.open(QIODevice::WriteOnly));
-        basemgr.write(R"({ "service": "basemgr", "values": { ":config:basemgr:system:userInfo_firstName:": "Signe",
+        const QString basemgr = writeFile(kept + "basemgr.state.json",
+                R"({ "service": "basemgr", "values": { ":config:basemgr:system:userInfo_firstName:": "Signe",
                 ":config:basemgr:system:userInfo_lastName:": "Dahl" } })");
-        basemgr.close();
-        QFile loopback(kept + "loopback.state.json");
-        QVERIFY(loopback.open(QIODevice::WriteOnly));
-        loopback.write(R"({ "service": "loopback", "values": { ":config:loopback:test:rttSamples:": 22 } })");
-        loopback.close();
+        writeFile(kept + "loopback.state.json",
+                R"({ "service": "loopback", "values": { ":config:loopback:test:rttSamples:": 22 } })");
 
         for (int run = 0; run < 2; ++run) {
             const Outcome outcome = runDemo({"--tour", "--root", m_folder->path()});
@@ -217,7 +196,7 @@ private Q_SLOTS:
             QVERIFY2(words.contains("at most 2.00 ms"), qPrintable(words));
             QVERIFY2(words.contains("Sample 22") && words.contains("Sample 40"), qPrintable(words));
         }
-        const QJsonObject values = QJsonDocument::fromJson(contentsOf(basemgr.fileName())).object()["values"].toObject();
+        const QJsonObject values = QJsonDocument::fromJson(contentsOf(basemgr)).object()["values"].toObject();
         QCOMPARE(values[":config:basemgr:system:userInfo_lastName:"].toString(), QString("Dahl"));
         const QByteArray report = contentsOf(m_folder->filePath("cust/private/lastconfigs/reportSettings/loopback.json"));
         QCOMPARE(QJsonDocument::fromJson(report).object()["reportFormat"].toInt(-1), 0);
@@ -227,22 +206,20 @@ private Q_SLOTS:
     /// there stays.
     void pictureThatCannotBeWritten()
     {
-        QVERIFY(QDir(m_folder->path()).mkpath("pictures/6-report.png") && QDir(m_folder->path()).mkpath("base/bin"));
-        QFile viewer(m_folder->filePath("base/bin/pdf_viewer"));
-        QVERIFY(viewer.open(QIODevice::WriteOnly) && viewer.write("own") == 3 && viewer.flush());
+        QVERIFY(QDir(m_folder->path()).mkpath("pictures/6-report.png"));
+        const QString viewer = writeFile(m_folder->filePath("base/bin/pdf_viewer"), "own");
         const Outcome outcome = runDemo({"--tour", "--root", m_folder->path()});
         QCOMPARE(outcome.exitCode, 1);
         QVERIFY2(outcome.errors.contains("6-report.png"), qPrintable(outcome.errors));
         QCOMPARE(filesBelow(m_folder->filePath("pictures")).size(), 5);
         QVERIFY(outcome.output.contains("5-settings.png"));
         QVERIFY(!outcome.output.contains("6-report.png"));
-        QCOMPARE(contentsOf(viewer.fileName()), QByteArray("own"));
+        QCOMPARE(contentsOf(viewer), QByteArray("own"));
     }
 
     void commandLine_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("exitCode");
+        addColumns<QStringList, int>({"arguments", "exitCode"});
         QTest::newRow("help") << QStringList{"--help"} << 0;
         QTest::newRow("version") << QStringList{"--version"} << 0;
         QTest::newRow("unknown option") << QStringList{"--rot", "x"} << 2;
@@ -302,10 +279,7 @@ private:
     void checkPages(const QString& file)
     {
         QVERIFY(file.endsWith(".pdf"));
-        QProcess reader;
-        reader.start("pdftotext", {file, "-"});
-        QVERIFY(reader.waitForFinished() && reader.exitCode() == 0);
-        const QString words = QString::fromUtf8(reader.readAllStandardOutput()).simplified();
+        const QString words = outputOf("pdftotext", {file, "-"}).simplified();
         for (const char* text : {"Solvant Report", "Overall Status", "Job ID", "Unit ID: ", "Page 1 of "})
             QVERIFY2(words.contains(text), text);
     }

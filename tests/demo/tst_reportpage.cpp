@@ -5,14 +5,13 @@
 #include "demotypes.h"
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
+#include "files.h"
 #include "qmlwarnings.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 #include <kiv/kivclientitem.h>
 
-#include <QDir>
-#include <QFile>
 #include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -79,28 +78,15 @@ public:
     /// The text of a file below the root; of one that is no text, its beginning.
     Q_INVOKABLE QString textOf(const QString& path) const
     {
-        QFile file(m_root->filePath(path));
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+        return QString::fromUtf8(contentsOf(m_root->filePath(path)));
     }
     /// The files in a folder below the root.
-    Q_INVOKABLE QStringList filesIn(const QString& folder) const
-    {
-        return QDir(m_root->filePath(folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
+    Q_INVOKABLE QStringList filesIn(const QString& folder) const { return namesIn(m_root->filePath(folder)); }
 
     /// What lies in the report folder, hidden files too.
-    Q_INVOKABLE QStringList files() const { return QDir(folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
-    Q_INVOKABLE QString contents(const QString& name) const
-    {
-        QFile file(folder() + name);
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-    }
-    Q_INVOKABLE void put(const QString& name, const QString& text) const
-    {
-        if (!writeFileDurably(folder() + name, text.toUtf8()))
-            qFatal("%s cannot be written", qPrintable(name));
-    }
-    Q_INVOKABLE void putFolder(const QString& name) const { QDir(folder()).mkdir(name); }
+    Q_INVOKABLE QStringList files() const { return namesIn(folder()); }
+    Q_INVOKABLE QString contents(const QString& name) const { return QString::fromUtf8(contentsOf(folder() + name)); }
+    Q_INVOKABLE void put(const QString& name, const QString& text) const { writeFile(folder() + name, text.toUtf8()); }
 
     /// From now on no file can grow beyond so many bytes; a negative number takes that back.
     Q_INVOKABLE void limitFiles(int bytes) const

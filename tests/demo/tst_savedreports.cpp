@@ -1,4 +1,6 @@
-#include "base/durablefile.h"
+#include "columns.h"
+#include "files.h"
+
 #include "base/paths.h"
 #include "filesizelimit.h"
 #include "loopbackreport.h"
@@ -9,11 +11,8 @@
 #include <embedded/embeddedservice.h>
 #include <kiv/kivnotificationmodelmanager.h>
 
-#include <QDir>
-#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <functional>
 #include <memory>
@@ -22,7 +21,6 @@ using namespace uiutils;
 using namespace uiutils::demo;
 
 namespace {
-
 const QString folder = QStringLiteral("/cust/public/reports/loopback/");
 const QString records = QStringLiteral("/cust/private/reports/metadata/loopback/");
 const QString unsynced = QStringLiteral("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt");
@@ -101,8 +99,7 @@ private Q_SLOTS:
 
     void deletingWhatIsNoMoreAsItWas_data()
     {
-        QTest::addColumn<Deed>("meanwhile");
-        QTest::addColumn<bool>("isDeleted");
+        addColumns<Deed, bool>({"meanwhile", "isDeleted"});
         QTest::newRow("gone") << Deed([](SavedReportsTest&) { QFile::remove(onDisk(folder + "a.pdf")); }) << true;
         QTest::newRow("a link") << Deed([](SavedReportsTest& test) {
             test.put("/cust/public/kept", "kept");
@@ -157,16 +154,13 @@ private Q_SLOTS:
         m_actions->remove("/mnt/usb/a.pdf");
         QVERIFY(question().contains("USB:/a.pdf"));
         notifications()->accept();
-        QCOMPARE(filesIn("/mnt/usb/"), others);
+        QCOMPARE(filesIn("/mnt/usb/"), QStringList({"._c.pdf", "b.json.gz", "folder.pdf", "notes.doc"}));
         QVERIFY(!contents(unsynced).contains("a.pdf"));
     }
 
     void copying_data()
     {
-        QTest::addColumn<Deed>("before");
-        QTest::addColumn<Deed>("meanwhile");
-        QTest::addColumn<QByteArray>("copy");
-        QTest::addColumn<QString>("error");
+        addColumns<Deed, Deed, QByteArray, QString>({"before", "meanwhile", "copy", "error"});
         const Deed nothing = [](SavedReportsTest&) {};
         const Deed taken = [](SavedReportsTest& test) { test.put("/mnt/usb/a.pdf", "old"); };
         const Deed pull = [](SavedReportsTest& test) { test.baseManager()->setMounted("/mnt/usb/", false); };
@@ -241,20 +235,9 @@ private:
     kiv::embedded::EmbeddedService* baseManager() const { return m_services->service("basemgr"); }
 
     /// Files of the instrument.
-    static QStringList filesIn(const QString& path)
-    {
-        return QDir(onDisk(path)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
-    static QByteArray contents(const QString& path)
-    {
-        QFile file(onDisk(path));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    void put(const QString& path, const QByteArray& text)
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(onDisk(path)).path()));
-        QVERIFY(writeFileDurably(onDisk(path), text));
-    }
+    static QStringList filesIn(const QString& path) { return namesIn(onDisk(path)); }
+    static QByteArray contents(const QString& path) { return contentsOf(onDisk(path)); }
+    void put(const QString& path, const QByteArray& text) { writeFile(onDisk(path), text); }
     /// With its record, and not to be synced.
     void putReport(const QString& name, const QByteArray& text = "report")
     {

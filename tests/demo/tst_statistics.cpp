@@ -1,9 +1,10 @@
+#include "columns.h"
+
 #include "limit.h"
 #include "samplemodel.h"
 #include "statistics.h"
 
 #include <QSignalSpy>
-#include <QtTest>
 
 #include <cmath>
 
@@ -16,11 +17,8 @@ class StatisticsTest : public QObject
 private Q_SLOTS:
     void statistics_data()
     {
-        QTest::addColumn<QVector<double>>("samples");
-        QTest::addColumn<double>("minimum");
-        QTest::addColumn<double>("median");
-        QTest::addColumn<double>("maximum");
-        QTest::addColumn<double>("jitter");
+        addColumns<QVector<double>, double, double, double, double>(
+                {"samples", "minimum", "median", "maximum", "jitter"});
         QTest::newRow("none") << QVector<double>{} << 0.0 << 0.0 << 0.0 << 0.0;
         QTest::newRow("one") << QVector<double>{7} << 7.0 << 7.0 << 7.0 << 0.0;
         QTest::newRow("odd, unsorted") << QVector<double>{9, 1, 5} << 1.0 << 5.0 << 9.0 << 6.0;
@@ -44,9 +42,7 @@ private Q_SLOTS:
 
     void judge_data()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("status");
+        addColumns<int, double, int>({"kind", "value", "status"});
         const auto row = [](const char* name, Limit::Kind kind, double value, Status status) {
             QTest::newRow(name) << int(kind) << value << int(status);
         };
@@ -71,9 +67,7 @@ private Q_SLOTS:
     /// Three digits count, none is invented beyond what the clock tells, and zero is no trap.
     void texts_data()
     {
-        QTest::addColumn<int>("mostDecimals");
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QString>("text");
+        addColumns<int, double, QString>({"mostDecimals", "value", "text"});
         QTest::newRow("zero") << 4 << 0.0 << "0.000 u";
         QTest::newRow("tiny") << 4 << 0.00042 << "0.0004 u";
         QTest::newRow("below a tenth") << 4 << 0.02194 << "0.0219 u";

@@ -1,4 +1,6 @@
-#include "base/durablefile.h"
+#include "columns.h"
+#include "files.h"
+
 #include "base/paths.h"
 #include "usbstick.h"
 
@@ -8,11 +10,8 @@
 #include <kiv/kivclientitem.h>
 #include <kiv/kivnotificationmodelmanager.h>
 
-#include <QDir>
-#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <memory>
 
@@ -20,7 +19,6 @@ using namespace uiutils;
 using uiutils::demo::UsbStick;
 
 namespace {
-
 const QString attachedId = QStringLiteral(":result:basemgr:system:usbAttached:");
 
 } // namespace
@@ -88,9 +86,7 @@ private Q_SLOTS:
 
     void startUp_data()
     {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<QString>("service");
-        QTest::addColumn<bool>("isIn");
+        addColumns<QStringList, QString, bool>({"files", "service", "isIn"});
         const QStringList in {"mnt/usb/a.txt"};
         const QStringList out {"stick/a.txt"};
         const QStringList strayed {"stick/a.txt", "mnt/usb/stray.txt"};
@@ -193,16 +189,8 @@ private:
     /// Paths of the instrument, and of the root folder.
     QString place(const QString& path) const { return m_root->path() + path; }
     bool exists(const QString& path) const { return QFile::exists(place(path)); }
-    QByteArray contents(const QString& path) const
-    {
-        QFile file(place(path));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    void put(const QString& path, const QByteArray& text) const
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(place(path)).path()));
-        QVERIFY(writeFileDurably(place(path), text));
-    }
+    QByteArray contents(const QString& path) const { return contentsOf(place(path)); }
+    void put(const QString& path, const QByteArray& text) const { writeFile(place(path), text); }
 
     std::unique_ptr<QTemporaryDir> m_root;
     std::unique_ptr<kiv::embedded::EmbeddedBackend> m_services;

@@ -1,3 +1,5 @@
+#include "columns.h"
+
 #include "documentbytes.h"
 #include "inputplugins.h"
 #include "options.h"
@@ -5,7 +7,6 @@
 #include "viewersamples.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <sys/stat.h>
 
@@ -25,40 +26,33 @@ private Q_SLOTS:
     void initTestCase()
     {
         const QByteArray pdf = samples::barred(3);
-        const QByteArray zeros(1024 * 1024, '\0');
-        QVERIFY(samples::write(path("good.pdf"), pdf));
-        QVERIFY(samples::write(path("noise.pdf"), QByteArray(200, '-') + pdf));
-        QVERIFY(samples::write(path("text.pdf"), "no report"));
-        QVERIFY(samples::write(path("empty.pdf"), ""));
-        QVERIFY(samples::write(path("torn.pdf"), pdf.left(pdf.size() - 300)));
-        QVERIFY(samples::write(path("bent.pdf"), QByteArray(pdf).replace("startxref\n", "startxref\n9")));
-        QVERIFY(samples::write(path("stump.pdf"), pdf.left(40)));
-        QVERIFY(samples::write(path("nopages.pdf"), "%PDF-1.4\n1 0 obj\n<</Type/Catalog/Pages 2 0 R>>\nendobj\n2 0 obj\n"
+        writeFile(path("good.pdf"), pdf);
+        writeFile(path("noise.pdf"), QByteArray(200, '-') + pdf);
+        writeFile(path("text.pdf"), "no report");
+        writeFile(path("empty.pdf"), "");
+        writeFile(path("torn.pdf"), pdf.left(pdf.size() - 300));
+        writeFile(path("bent.pdf"), QByteArray(pdf).replace("startxref\n", "startxref\n9"));
+        writeFile(path("stump.pdf"), pdf.left(40));
+        writeFile(path("nopages.pdf"), "%PDF-1.4\n1 0 obj\n<</Type/Catalog/Pages 2 0 R>>\nendobj\n2 0 obj\n"
                 "<</Type/Pages/Kids[]/Count 0>>\nendobj\nxref\n0 3\n0000000000 65535 f \n0000000009 00000 n \n"
-                "0000000054 00000 n \ntrailer<</Size 3/Root 1 0 R>>\nstartxref\n100\n%%EOF\n"));
-        QVERIFY(samples::write(path("bomb"), "%PDF-1.4\n"));
-        for (int mebibyte = 0; mebibyte <= 64; ++mebibyte) {
-            QFile bomb(path("bomb"));
-            QVERIFY(bomb.open(QIODevice::Append) && bomb.write(zeros) == zeros.size());
-        }
+                "0000000054 00000 n \ntrailer<</Size 3/Root 1 0 R>>\nstartxref\n100\n%%EOF\n");
+        QVERIFY(QFile::resize(writeFile(path("bomb"), "%PDF-1.4\n"), 65 * 1024 * 1024));
         for (const char* name : {"good.pdf", "bomb"})
-            QVERIFY(samples::run("gzip", {"-k", path(name)}));
-        QFile zipped(path("good.pdf.gz"));
-        QVERIFY(zipped.open(QIODevice::ReadOnly));
-        const QByteArray gzip = zipped.readAll();
-        QVERIFY(samples::write(path("torn.pdf.gz"), gzip.left(gzip.size() / 2)));
-        QVERIFY(samples::write(path("padded.pdf.gz"), gzip + QByteArray(100, '\0')));
-        QVERIFY(samples::write(path("misnamed.pdf"), gzip));
-        QVERIFY(samples::run("qpdf", {"--encrypt", "secret", "owner", "256", "--", path("good.pdf"), path("locked.pdf")}));
-        QVERIFY(samples::run("qpdf", {"--encrypt", "", "owner", "256", "--", path("good.pdf"), path("readable.pdf")}));
+            QCOMPARE(outputOf("gzip", {"-k", path(name)}), QString());
+        const QByteArray gzip = contentsOf(path("good.pdf.gz"));
+        writeFile(path("torn.pdf.gz"), gzip.left(gzip.size() / 2));
+        writeFile(path("padded.pdf.gz"), gzip + QByteArray(100, '\0'));
+        writeFile(path("misnamed.pdf"), gzip);
+        const auto encrypt = [this](const QString& password, const QString& name) {
+            return outputOf("qpdf", {"--encrypt", password, "owner", "256", "--", path("good.pdf"), path(name)});
+        };
+        QCOMPARE(encrypt("secret", "locked.pdf") + encrypt("", "readable.pdf"), QString());
         QCOMPARE(::mkfifo(qPrintable(path("pipe.pdf")), 0600), 0);
     }
 
     void loading_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("problem");
-        QTest::addColumn<bool>("repaired");
+        addColumns<QString, int, bool>({"name", "problem", "repaired"});
         const auto row = [](const char* what, const char* name, Problem problem, bool repaired = false) {
             QTest::newRow(what) << QString(name) << int(problem) << repaired;
         };
@@ -115,8 +109,7 @@ private Q_SLOTS:
 
     void renderedSizes_data()
     {
-        QTest::addColumn<QSize>("asked");
-        QTest::addColumn<QSize>("given");
+        addColumns<QSize, QSize>({"asked", "given"});
         QTest::newRow("as asked") << QSize(996, 1289) << QSize(996, 1289);
         QTest::newRow("too many pixels") << QSize(4000, 4000) << QSize(2549, 2549);
         QTest::newRow("too long") << QSize(10, 40960) << QSize(1, 4096);
@@ -131,9 +124,7 @@ private Q_SLOTS:
 
     void commandLines_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("outcome");
-        QTest::addColumn<QString>("told");
+        addColumns<QStringList, int, QString>({"arguments", "outcome", "told"});
         const auto shown = [](const char* what, const QStringList& arguments, const char* told) {
             QTest::newRow(what) << arguments << int(Options::Run) << QString(told);
         };
@@ -172,9 +163,7 @@ private Q_SLOTS:
 
     void plugins_data()
     {
-        QTest::addColumn<QByteArray>("platforms");
-        QTest::addColumn<QString>("plugin");
-        QTest::addColumn<bool>("usable");
+        addColumns<QByteArray, QString, bool>({"platforms", "plugin", "usable"});
         QTest::newRow("device there") << QByteArray("linuxfb") << "EvdevTouch:/dev/null:rotate=90" << true;
         QTest::newRow("device not there") << QByteArray("linuxfb") << "EvdevTouch:/dev/input/event-none" << false;
         QTest::newRow("finds its own") << QByteArray("eglfs") << "EvdevTouch" << true;

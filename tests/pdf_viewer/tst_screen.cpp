@@ -1,3 +1,5 @@
+#include "columns.h"
+
 #include "pageitem.h"
 #include "viewerdocument.h"
 #include "viewersamples.h"
@@ -10,7 +12,6 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTouchDevice>
-#include <QtTest>
 
 #include <memory>
 
@@ -24,11 +25,9 @@ class ScreenTest : public QObject
 private:
     void show(const QByteArray& contents)
     {
-        const QString file = m_folder.filePath("a.pdf");
-        if (!contents.isEmpty())
-            QVERIFY(samples::write(file, contents));
         m_document = std::make_unique<ViewerDocument>();
-        m_document->open(contents.isEmpty() ? m_folder.filePath("none.pdf") : file);
+        const QString file = m_folder.filePath(contents.isEmpty() ? "none.pdf" : "a.pdf");
+        m_document->open(contents.isEmpty() ? file : writeFile(file, contents));
         m_engine = std::make_unique<QQmlApplicationEngine>();
         connect(m_engine.get(), &QQmlEngine::warnings, this, [this](const QList<QQmlError>& warnings) {
             for (const QQmlError& warning : warnings)
@@ -190,8 +189,7 @@ private Q_SLOTS:
     /// Two fingers part: what is between them grows and stays there.
     void pinch_data()
     {
-        QTest::addColumn<QPoint>("direction");
-        QTest::addColumn<int>("early");
+        addColumns<QPoint, int>({"direction", "early"});
         QTest::newRow("across") << QPoint(1, 0) << 0;
         QTest::newRow("down, as pages flick") << QPoint(0, 1) << 0;
         QTest::newRow("askew") << QPoint(1, 1) << 0;

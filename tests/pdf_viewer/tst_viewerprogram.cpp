@@ -1,7 +1,7 @@
+#include "columns.h"
 #include "viewersamples.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <csignal>
 
@@ -34,9 +34,7 @@ private Q_SLOTS:
 
     void endings_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QString>("words");
+        addColumns<QStringList, int, QString>({"arguments", "exitCode", "words"});
         QTest::newRow("help") << QStringList {"--help"} << 0 << "--dpy";
         QTest::newRow("wrong command line") << QStringList {"--dpy", "0", "a.pdf"} << 2 << "--dpy needs a number";
         QTest::newRow("nobody could see it") << QStringList {"a.pdf"} << 1 << "There is no display to show a.pdf on.";
@@ -55,8 +53,7 @@ private Q_SLOTS:
     /// A plug-in for a device that is not there is ignored without a word.
     void staysUntilItIsClosed()
     {
-        const QString file = m_folder.filePath("a.pdf");
-        QVERIFY(samples::write(file, samples::barred(1)));
+        const QString file = writeFile(m_folder.filePath("a.pdf"), samples::barred(1));
         start({"-plugin", "EvdevTouch:/dev/input/event-none", "--dpy", "85", "-s", file, "-t", "View Report"}, "offscreen");
         QVERIFY(!m_viewer.waitForFinished(2000));
         m_viewer.terminate();

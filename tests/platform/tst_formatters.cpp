@@ -1,9 +1,10 @@
+#include "columns.h"
+
 #include <embedded/embeddedbackend.h>
 #include <kiv/baseformatter.h>
 
 #include <QLocale>
 #include <QtMath>
-#include <QtTest>
 
 #include <memory>
 
@@ -18,11 +19,7 @@ private:
 private Q_SLOTS:
     void texts_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<int>("precision");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("unit");
+        addColumns<QString, QVariant, int, QString, QString>({"name", "value", "precision", "text", "unit"});
         const QString micro(QChar(0xb5));
         QTest::newRow("decimal") << "decimal" << QVariant(12345.678) << -1 << "12,345.678" << "";
         QTest::newRow("decimal, rounded") << "decimal:V" << QVariant(0.005) << 1 << "0.0 V" << "V";

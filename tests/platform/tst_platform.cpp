@@ -1,3 +1,4 @@
+#include "columns.h"
 #include "platformsetup.h"
 
 #include <kiv/filesystemusage.h>
@@ -17,7 +18,6 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QtTest>
 
 namespace {
 
@@ -119,11 +119,7 @@ private Q_SLOTS:
 
     void items_data()
     {
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("textWithoutUnit");
+        addColumns<QString, QString, QVariant, QString, QString>({"id", "name", "value", "text", "textWithoutUnit"});
         QTest::newRow("string") << ":config:kinds:test:name:" << "name" << QVariant("Fiber 7") << "Fiber 7" << "Fiber 7";
         QTest::newRow("bool") << ":config:kinds:test:on:" << "on" << QVariant(true) << "true" << "true";
         QTest::newRow("int") << ":config:kinds:test:level:" << "level" << QVariant(-3) << "-3" << "-3";
@@ -187,11 +183,7 @@ private Q_SLOTS:
 
     void kinds_data()
     {
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<unsigned>("type");
-        QTest::addColumn<QString>("typeName");
-        QTest::addColumn<QByteArray>("kind");
-        QTest::addColumn<QString>("text");
+        addColumns<QString, unsigned, QString, QByteArray, QString>({"id", "type", "typeName", "kind", "text"});
         using Item = KIVClientItem;
         const auto row = [](const char* id, unsigned type, const char* typeName, const char* kind, const char* text) {
             QTest::newRow(id) << QString(id) << type << QString(typeName) << QByteArray(kind) << QString(text);
@@ -304,10 +296,7 @@ private Q_SLOTS:
 
     void answersThatChange_data()
     {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QVariant>("before");
-        QTest::addColumn<QVariant>("after");
-        QTest::addColumn<QByteArray>("changed");
+        addColumns<int, QVariant, QVariant, QByteArray>({"answer", "before", "after", "changed"});
         using Answer = PlatformSetup::Answer;
         const auto row = [](const char* name, Answer answer, const QVariant& before, const QVariant& after) {
             QTest::newRow(name) << int(answer) << before << after << QByteArray(name);
@@ -356,10 +345,7 @@ private Q_SLOTS:
 
     void writes_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QVariant>("given");
-        QTest::addColumn<QVariant>("taken");
-        QTest::addColumn<QStringList>("words");
+        addColumns<QString, QVariant, QVariant, QStringList>({"name", "given", "taken", "words"});
         const auto take = [](const char* row, const char* name, const QVariant& given, const QVariant& taken) {
             QTest::newRow(row) << QString(name) << given << taken << QStringList();
         };
@@ -495,9 +481,7 @@ private Q_SLOTS:
 
     void batches_data()
     {
-        QTest::addColumn<QString>("argument");
-        QTest::addColumn<QVariantMap>("set");
-        QTest::addColumn<QStringList>("words");
+        addColumns<QString, QVariantMap, QStringList>({"argument", "set", "words"});
         const QString speedId = ":config:kinds:test:speed:";
         QTest::newRow("own") << json({{"level_3", 4}, {"mode", -2}}) << QVariantMap {{levelId, 4}, {modeId, -2}}
                              << QStringList();
@@ -612,8 +596,7 @@ private Q_SLOTS:
     /// A page that goes on a change takes with it what the change came from.
     void aSlotMayEndWhatItHearsOf_data()
     {
-        QTest::addColumn<QString>("signal");
-        QTest::addColumn<QString>("end");
+        addColumns<QString, QString>({"signal", "end"});
         for (const char* signal : {"value", "batch", "action", "ready", "unit", "choices", "items", "error"}) {
             for (const char* end : {"vanish", "remove", "backend"})
                 QTest::newRow(qPrintable(QString(signal) + " " + end)) << QString(signal) << QString(end);

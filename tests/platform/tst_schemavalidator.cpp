@@ -1,17 +1,16 @@
+#include "columns.h"
+#include "files.h"
+
 #include <kiv/schemavalidator.h>
 
-#include <QDir>
-#include <QFile>
 #include <QTcpServer>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <atomic>
 #include <thread>
 #include <unistd.h>
 
 namespace {
-
 const QByteArray head("<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>");
 const QByteArray linkElement("<xs:element name='link'><xs:complexType><xs:sequence>"
                              "<xs:element name='loss' type='xs:decimal' maxOccurs='unbounded'/>"
@@ -28,19 +27,12 @@ private:
     QTemporaryDir m_folder;
 
     QString path(const QString& name) const { return m_folder.filePath(name); }
-    QString write(const QString& name, const QByteArray& contents) const
-    {
-        QFile file(path(name));
-        const bool isWritten = QDir().mkpath(QFileInfo(file).path()) && file.open(QIODevice::WriteOnly)
-                && file.write(contents) == contents.size();
-        return isWritten ? file.fileName() : QString();
-    }
+    QString write(const QString& name, const QByteArray& contents) const { return writeFile(path(name), contents); }
 
 private Q_SLOTS:
     void texts_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QStringList>("errors");
+        addColumns<QByteArray, QStringList>({"text", "errors"});
         const auto add = [](const char* name, const QByteArray& text, const QStringList& errors) {
             QTest::newRow(name) << text << errors;
         };
@@ -89,8 +81,7 @@ private Q_SLOTS:
 
     void schemas_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("error");
+        addColumns<QByteArray, QString>({"text", "error"});
         const auto including = [](const QByteArray& file) {
             return head + "<xs:include schemaLocation='" + file + "'/></xs:schema>";
         };

@@ -1,23 +1,14 @@
+#include "columns.h"
+#include "files.h"
+
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
 
-#include <QFile>
 #include <QTemporaryDir>
-#include <QtTest>
 
 using kiv::embedded::EmbeddedBackend;
-
-namespace {
-
-bool writeFile(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
-}
-
-} // namespace
 
 class ServiceFilesTest : public QObject
 {
@@ -27,8 +18,7 @@ private Q_SLOTS:
     /// The files that ship, and the ones that the tests use, are the schema's first readers.
     void shippedFilesLoad_data()
     {
-        QTest::addColumn<QString>("folder");
-        QTest::addColumn<QStringList>("services");
+        addColumns<QString, QStringList>({"folder", "services"});
         QTest::newRow("shipped") << UIUTILS_SOURCE_DIR "/platform/reference/services"
                                  << QStringList {"basemgr", "loopback", "loopback_rtt", "loopback_throughput",
                                         "optical", "orb.base.workflow_manager_app"};
@@ -69,8 +59,7 @@ private Q_SLOTS:
 
     void refusedFiles_data()
     {
-        QTest::addColumn<QByteArray>("contents");
-        QTest::addColumn<QString>("place");
+        addColumns<QByteArray, QString>({"contents", "place"});
         QTest::newRow("syntax") << QByteArray("{\n  \"service\": \"s\",\n  \"items\": [,]\n}") << ":3:14: ";
         QTest::newRow("huge id") << "{\"service\": \"s\", \"items\": [{\"id\": \":config:" + QByteArray(200'000, 'a')
                         + ":\", \"type\": \"bool\"}]}" << ": /items/0/id: ";
@@ -89,9 +78,8 @@ private Q_SLOTS:
         QFETCH(QByteArray, contents);
         QFETCH(QString, place);
         QTemporaryDir dir;
-        const QString path = dir.filePath("bad.service.json");
-        QVERIFY(writeFile(path, contents));
-        QVERIFY(writeFile(dir.filePath("good.service.json"), "{\"service\": \"good\", \"items\": []}"));
+        const QString path = writeFile(dir.filePath("bad.service.json"), contents);
+        writeFile(dir.filePath("good.service.json"), "{\"service\": \"good\", \"items\": []}");
 
         EmbeddedBackend backend;
         const QStringList problems = backend.loadFolders({dir.path()});
@@ -104,9 +92,9 @@ private Q_SLOTS:
     void folders()
     {
         QTemporaryDir dir;
-        QVERIFY(writeFile(dir.filePath("a.service.json"), "{\"service\": \"same\", \"items\": []}"));
-        QVERIFY(writeFile(dir.filePath("b.service.json"), "{\"service\": \"same\", \"items\": []}"));
-        QVERIFY(writeFile(dir.filePath("other.json"), "not looked at"));
+        for (const char* name : {"a.service.json", "b.service.json"})
+            writeFile(dir.filePath(name), "{\"service\": \"same\", \"items\": []}");
+        writeFile(dir.filePath("other.json"), "not looked at");
         EmbeddedBackend backend;
         const QStringList problems = backend.loadFolders({dir.filePath("missing"), dir.path()});
         QCOMPARE(problems.size(), 2);

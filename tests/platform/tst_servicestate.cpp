@@ -1,14 +1,15 @@
+#include "columns.h"
+#include "files.h"
+
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 #include <kiv/filesystemusage.h>
 #include <kiv/kivclientinterface.h>
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <limits>
 
@@ -18,7 +19,6 @@ using kiv::embedded::ItemDescription;
 using kiv::embedded::ServiceDescription;
 
 namespace {
-
 const QString stationFile = QStringLiteral(UIUTILS_TEST_DATA_DIR "/services/station.service.json");
 const QString prefix = QStringLiteral(":config:station:setup:");
 const QString levelId = prefix + "level_3:";
@@ -51,14 +51,7 @@ private:
 
 QJsonObject readJson(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
-}
-
-bool write(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
+    return QJsonDocument::fromJson(contentsOf(path)).object();
 }
 
 ItemDescription item(const QString& id, const QString& type, const QVariant& value)
@@ -81,7 +74,6 @@ private:
 
     QString folder() const { return m_dir->filePath("made/when/needed"); }
     QString stateFile() const { return folder() + "/station.state.json"; }
-    bool writeState(const QByteArray& contents) const { return QDir().mkpath(folder()) && write(stateFile(), contents); }
 
 private Q_SLOTS:
     void init()
@@ -92,8 +84,7 @@ private Q_SLOTS:
 
     void valuesSurvive_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QVariant>("value");
+        addColumns<QString, QVariant>({"name", "value"});
         QTest::newRow("smallest step") << "power" << QVariant(std::nextafter(1.0, 2.0));
         QTest::newRow("third") << "power" << QVariant(1.0 / 3.0);
         QTest::newRow("denormal") << "power" << QVariant(std::numeric_limits<double>::denorm_min());
@@ -158,10 +149,10 @@ private Q_SLOTS:
             QVERIFY(run.client()->setItem(levelId, i));
         QVERIFY(!QFile::exists(stateFile()));
         // As a killed write leaves it.
-        QVERIFY(QDir().mkpath(folder()) && write(folder() + "/.uiutils-left.tmp", "half"));
+        writeFile(folder() + "/.uiutils-left.tmp", "half");
         QTRY_VERIFY(QFile::exists(stateFile()));
         QCOMPARE(readJson(stateFile()).value("values").toObject(), (QJsonObject {{levelId, 9}}));
-        QCOMPARE(QDir(folder()).entryList(QDir::Files | QDir::Hidden), QStringList {"station.state.json"});
+        QCOMPARE(namesIn(folder()), QStringList {"station.state.json"});
 
         // A withdrawal does not wait for the event loop, and the client finds the next service.
         KIVClientInterface* client = run.client();
@@ -182,7 +173,7 @@ private Q_SLOTS:
     {
         const QJsonObject old {{levelId, 99}, {prefix + "power:", "high"}, {prefix + "mode:", 7}, {prefix + "gone:", 1},
                 {":result:station:loss:", 1}, {prefix + "title:", "Kept"}};
-        QVERIFY(writeState(QJsonDocument(QJsonObject {{"values", old}}).toJson()));
+        writeFile(stateFile(), QJsonDocument(QJsonObject {{"values", old}}).toJson());
         {
             const Run run(folder());
             QVERIFY(run.isUp());
@@ -232,15 +223,14 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, contents);
         for (const char* name : {"/station.state.json.damaged", "/station.state.json.damaged-2"}) {
-            QVERIFY(writeState(contents));
+            writeFile(stateFile(), contents);
             const Run run(folder());
             QVERIFY(run.isUp());
             QCOMPARE(run.problems.size(), 1);
             QVERIFY2(run.problems.first().startsWith(stateFile()) && run.problems.first().contains(name),
                     qPrintable(run.problems.first()));
-            QFile damaged(folder() + name);
-            QVERIFY(damaged.open(QIODevice::ReadOnly));
-            QCOMPARE(damaged.readAll(), contents);
+            QVERIFY(QFile::exists(folder() + name));
+            QCOMPARE(contentsOf(folder() + name), contents);
             QVERIFY(!QFile::exists(stateFile()));
             QVERIFY(run.client()->setItem(levelId, 1));
             QTRY_VERIFY(QFile::exists(stateFile()));
@@ -250,7 +240,7 @@ private Q_SLOTS:
     void aFolderThatCannotBeWritten()
     {
         // A file in the place of the folder stops root too.
-        QVERIFY(write(m_dir->filePath("made"), "in the way"));
+        writeFile(m_dir->filePath("made"), "in the way");
         const Run run(folder());
         QVERIFY(run.isUp());
         QSignalSpy errors(run.client(), &KIVClientInterface::SigError);
@@ -266,7 +256,8 @@ private Q_SLOTS:
         QCOMPARE(errors.size(), 1);
 
         // Without a next change the last moment to try again is the end of the service.
-        QVERIFY(QDir(m_dir->filePath("made")).removeRecursively() && write(m_dir->filePath("made"), "in the way"));
+        QVERIFY(QDir(m_dir->filePath("made")).removeRecursively());
+        writeFile(m_dir->filePath("made"), "in the way");
         QVERIFY(run.client()->setItem(levelId, 2));
         QTRY_COMPARE(errors.size(), 2);
         QVERIFY(QFile::remove(m_dir->filePath("made")));
@@ -276,8 +267,7 @@ private Q_SLOTS:
 
     void configurations_data()
     {
-        QTest::addColumn<QString>("argument");
-        QTest::addColumn<QString>("file");
+        addColumns<QString, QString>({"argument", "file"});
         QTest::newRow("plain") << "My settings,1" << "My settings.json";
         QTest::newRow("comma in the name") << "One, two,1" << "One, two.json";
         QTest::newRow("path") << "../../etc,1" << "%2e.%2f..%2fetc.json";

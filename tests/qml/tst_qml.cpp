@@ -1,13 +1,12 @@
 #include "common/instrument.h"
 #include "document/reporttemplate.h"
+#include "files.h"
 #include "qmlwarnings.h"
 #include "report/report.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 
-#include <QDir>
-#include <QFile>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLocale>
@@ -71,15 +70,9 @@ public:
             document.addRow("sample", "Sample", i, {});
         document.endTable();
         document.endReport();
-        QFile file(m_root->filePath("document.json"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(document.toJson().toUtf8()) < rows)
-            qFatal("%s", qPrintable(file.errorString()));
-        return file.fileName();
+        return writeFile(m_root->filePath("document.json"), document.toJson().toUtf8());
     }
-    Q_INVOKABLE QStringList savedReports() const
-    {
-        return QDir(m_root->filePath("cust/public/reports/long")).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
+    Q_INVOKABLE QStringList savedReports() const { return namesIn(m_root->filePath("cust/public/reports/long")); }
 
     /// What comes of a key that has been pressed long ago.
     Q_INVOKABLE void holdKey(int key)

@@ -1,18 +1,17 @@
+#include "columns.h"
+#include "files.h"
+
 #include "document/reporttemplate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 #include "writers/textreport.h"
 
 #include <embedded/embeddedbackend.h>
 
-#include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QImage>
 #include <QLoggingCategory>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <algorithm>
 #include <csignal>
@@ -24,7 +23,6 @@
 #include <unistd.h>
 
 namespace {
-
 const QString program = UIUTILS_CONVERT_PROGRAM;
 const QString testData = UIUTILS_TEST_DATA_DIR;
 const QByteArray smallDocument(R"({"node_type": "report", "tag": "small", "title": "Small"})");
@@ -48,18 +46,6 @@ void finish(QProcess& process, Outcome* outcome)
     outcome->errors = QString::fromUtf8(process.readAllStandardError());
 }
 
-QByteArray contentsOf(const QString& path)
-{
-    QFile file(path);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size(), qPrintable(path));
-}
-
 /// Names and contents of everything below the folder.
 QMap<QString, QByteArray> snapshot(const QString& folder)
 {
@@ -76,12 +62,9 @@ QMap<QString, QByteArray> snapshot(const QString& folder)
 /// What a reader that knows nothing of this library has against the file; empty for nothing.
 QString complaintOf(const QString& reader, const QStringList& arguments)
 {
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(reader, arguments);
-    if (!process.waitForFinished(60000))
-        return reader + " does not run";
-    return process.exitCode() == 0 ? QString() : QString::fromUtf8(process.readAll()).left(2000);
+    const QString said = outputOf(reader, arguments);
+    // That is tidy's, with warnings that it was told to keep to itself.
+    return said.startsWith("status") && said != "status 1\n" ? said.left(2000) : QString();
 }
 
 } // namespace
@@ -123,7 +106,7 @@ private Q_SLOTS:
         const Outcome outcome = run({"--format", "all", "--services", testData + "/services", "--output",
                 path("new/folder/"), document});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
-        QCOMPARE(QDir(path("new/folder")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+        QCOMPARE(namesIn(path("new/folder")),
                 QStringList({name + ".html", name + ".json", name + ".pdf", name + ".txt", name + ".xml"}));
 
         kiv::embedded::EmbeddedBackend backend;
@@ -148,7 +131,7 @@ private Q_SLOTS:
     /// Icons, logo, plot and the services' tables are inside, and no other file is needed.
     void pageStandsAlone()
     {
-        write(path("plot.json"), R"({"node_type": "report", "tag": "t", "section_0": {"node_type": "section",
+        writeFile(path("plot.json"), R"({"node_type": "report", "tag": "t", "section_0": {"node_type": "section",
             "tag": "s", "title": "S", "table_0": {"node_type": "table", "tag": "p", "title": "", "label": "plot",
             "service": "plots", "use_row_labels": true, "num_columns": 0},
             "table_1": {"node_type": "table", "tag": "p", "title": "", "use_row_labels": true, "num_columns": 1,
@@ -174,7 +157,7 @@ private Q_SLOTS:
 
     void pageOptions()
     {
-        write(path("small.json"), smallDocument);
+        writeFile(path("small.json"), smallDocument);
         const auto page = [&](const QStringList& options) {
             return QString::fromUtf8(
                     run(QStringList{"-f", "html", "-o", "-", path("small.json")} + options).output);
@@ -194,7 +177,7 @@ private Q_SLOTS:
 
     void paperOptions()
     {
-        write(path("small.json"), smallDocument);
+        writeFile(path("small.json"), smallDocument);
         QImage logo(640, 320, QImage::Format_RGB32);
         logo.fill(Qt::red);
         QVERIFY(logo.save(path("red.png")));
@@ -214,7 +197,7 @@ private Q_SLOTS:
         QVERIFY(described({"-s", testData + "/services"}).contains("Unit ID: WB1"));
         QVERIFY(!described({"--no-logo"}).contains(" image "));
 
-        write(path("wide.json"), QByteArray(smallDocument).replace("{", "{\"orientation\": \"landscape\","));
+        writeFile(path("wide.json"), QByteArray(smallDocument).replace("{", "{\"orientation\": \"landscape\","));
         QCOMPARE(run({"-f", "pdf", "-o", "-", "wide.json"}).output.left(5), QByteArray("%PDF-"));
         QCOMPARE(run({"-f", "pdf", "wide.json"}).exitCode, 0);
         QVERIFY(run("pdfinfo", {"wide.pdf"}).contains("792 x 612"));
@@ -228,8 +211,8 @@ private Q_SLOTS:
             rows += QByteArray(",'row_%1':{'label':'l','cell_0':{'label':'v'}}").replace("%1", QByteArray::number(i));
         const QByteArray head = "{'node_type':'report','tag':'t','table_0':{'node_type':'table','tag':'t','title':'T',"
                                 "'use_row_labels':true,'num_columns':1";
-        write(path("long.json"), QByteArray(head + rows + "}}").replace('\'', '"'));
-        write(path("long.pdf"), "old");
+        writeFile(path("long.json"), QByteArray(head + rows + "}}").replace('\'', '"'));
+        writeFile(path("long.pdf"), "old");
         QProcess process;
         prepare(process);
         process.start(program, {"-f", "pdf", "long.json"});
@@ -237,7 +220,7 @@ private Q_SLOTS:
         // The pages grow in memory, in a file that only the process's own folder names.
         const auto isPrinting = [&] {
             const QString folder = QString("/proc/%1/fd/").arg(process.processId());
-            const QStringList names = QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+            const QStringList names = namesIn(folder);
             return std::any_of(names.cbegin(), names.cend(), [&](const QString& name) {
                 char target[64] {};
                 struct stat file = {};
@@ -253,7 +236,7 @@ private Q_SLOTS:
         QCOMPARE(outcome.exitCode, 128 + SIGINT);
         QVERIFY2(outcome.errors.contains("0 of 1 files were written"), qPrintable(outcome.errors));
         QCOMPARE(contentsOf(path("long.pdf")), QByteArray("old"));
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList({"long.json", "long.pdf"}));
+        QCOMPARE(namesIn(m_folder->path()), QStringList({"long.json", "long.pdf"}));
     }
 
     /// Neither the locale nor a display that does not answer matters, nor a name that looks like an option.
@@ -262,8 +245,8 @@ private Q_SLOTS:
         m_environment.insert("LC_ALL", "C");
         m_environment.insert("QT_QPA_PLATFORM", "xcb");
         m_environment.insert("DISPLAY", "127.0.0.1:9999");
-        write(path("-platform"), smallDocument);
-        write(path("Größe 1.json"), smallDocument);
+        writeFile(path("-platform"), smallDocument);
+        writeFile(path("Größe 1.json"), smallDocument);
         const Outcome outcome = run({"--format=html", "--title=Größe", "--", "-platform", "Größe 1.json"});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
         QVERIFY(contentsOf(path("Größe 1.html")).contains("<title>Größe</title>"));
@@ -272,7 +255,7 @@ private Q_SLOTS:
 
     void standardStreams()
     {
-        write(path("small.json"), smallDocument);
+        writeFile(path("small.json"), smallDocument);
         QCOMPARE(run({"-o", path("a.XML"), path("small.json")}).exitCode, 0);
         const Outcome piped = run({"--format", "xml", "--output", "-", "-"}, smallDocument);
         QCOMPARE(piped.exitCode, 0);
@@ -286,23 +269,20 @@ private Q_SLOTS:
 
     void brokenDocumentAmongOthers()
     {
-        write(path("a.json"), smallDocument);
-        write(path("broken.json"), "{\n  \"tag\": nonsense }");
-        write(path("c.json"), smallDocument);
+        writeFile(path("a.json"), smallDocument);
+        writeFile(path("broken.json"), "{\n  \"tag\": nonsense }");
+        writeFile(path("c.json"), smallDocument);
         const Outcome outcome
                 = run({"-f", "html", "-f", "json", "-o", "out/", "a.json", "broken.json", "c.json"});
         QCOMPARE(outcome.exitCode, 1);
         QVERIFY2(outcome.errors.startsWith("reportconvert: broken.json:2:"), qPrintable(outcome.errors));
         QCOMPARE(outcome.errors.count('\n'), 1);
-        QCOMPARE(QDir(path("out")).entryList(QDir::Files | QDir::Hidden),
-                QStringList({"a.html", "a.json", "c.html", "c.json"}));
+        QCOMPARE(namesIn(path("out")), QStringList({"a.html", "a.json", "c.html", "c.json"}));
     }
 
     void documentFaults_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("place");
-        QTest::addColumn<int>("exitCode");
+        addColumns<QString, QString, int>({"text", "place", "exitCode"});
         QTest::newRow("syntax") << "{\"a\": 1,}"
                                 << ":1:(9|10): " << 1;
         QTest::newRow("empty") << ""
@@ -323,7 +303,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, text);
         QFETCH(const QString, place);
-        write(path("odd.json"), text.toUtf8());
+        writeFile(path("odd.json"), text.toUtf8());
         for (const QString& name : {QString("odd.json"), QString("<standard input>")}) {
             const QStringList arguments{"-f", "json", "-o", "out/", name.startsWith('<') ? "-" : name};
             const Outcome outcome = run(arguments, text.toUtf8());
@@ -339,8 +319,7 @@ private Q_SLOTS:
 
     void refusedCalls_data()
     {
-        QTest::addColumn<QString>("arguments");
-        QTest::addColumn<QString>("words");
+        addColumns<QString, QString>({"arguments", "words"});
         const char* const rows[][2] = {
                 {"-f html", "No document"},
                 {"-f html ''", "is empty"},
@@ -379,9 +358,9 @@ private Q_SLOTS:
         QFETCH(const QString, words);
         QVERIFY(QDir(m_folder->path()).mkdir("sub") && QFile::link(m_folder->path(), path("link")));
         for (const char* name : {"a.json", "sub/a.json", "sub/b.json"})
-            write(path(name), smallDocument);
+            writeFile(path(name), smallDocument);
         // The head of 9,000 by 9,000 pixels.
-        write(path("huge.bmp"), QByteArray::fromHex("424d00000000000000003600000028000000282300002823000001002000")
+        writeFile(path("huge.bmp"), QByteArray::fromHex("424d00000000000000003600000028000000282300002823000001002000")
                         + QByteArray(24, '\0'));
         const auto before = snapshot(m_folder->path());
 
@@ -395,8 +374,7 @@ private Q_SLOTS:
 
     void failures_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("words");
+        addColumns<QString, QString>({"line", "words"});
         const char* const rows[][2] = {
                 {"run a.json -o none/a.html", "The folder none does not exist"},
                 {"run a.json -o file/a.html", "file is no folder"},
@@ -427,9 +405,9 @@ private Q_SLOTS:
         QFETCH(const QString, words);
         if (line.endsWith(">/dev/full") && !QFile::exists("/dev/full"))
             QSKIP("This machine has no device that is always full.");
-        write(path("a.json"), smallDocument);
-        write(path("file"), "kept");
-        write(path("big.html"), "kept");
+        writeFile(path("a.json"), smallDocument);
+        writeFile(path("file"), "kept");
+        writeFile(path("big.html"), "kept");
         QVERIFY(QDir(m_folder->path()).mkpath("full/a.html"));
         QCOMPARE(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
         const auto before = snapshot(m_folder->path());
@@ -441,9 +419,7 @@ private Q_SLOTS:
 
     void signalBetweenDocuments_data()
     {
-        QTest::addColumn<int>("signal");
-        QTest::addColumn<QString>("trap");
-        QTest::addColumn<int>("exitCode");
+        addColumns<int, QString, int>({"signal", "trap", "exitCode"});
         QTest::newRow("terminated") << SIGTERM << "" << 128 + SIGTERM;
         QTest::newRow("terminal gone") << SIGHUP << "" << 128 + SIGHUP;
         QTest::newRow("ignored by the caller") << SIGHUP << "trap '' HUP;" << 1;
@@ -453,8 +429,8 @@ private Q_SLOTS:
     {
         QFETCH(const int, signal);
         QFETCH(const QString, trap);
-        write(path("broken.json"), "{");
-        write(path("c.json"), smallDocument);
+        writeFile(path("broken.json"), "{");
+        writeFile(path("c.json"), smallDocument);
         QProcess process;
         prepare(process);
         process.start("bash",
@@ -477,7 +453,7 @@ private Q_SLOTS:
     /// The next run takes away what one left that could not do so itself.
     void killed()
     {
-        write(path("c.json"), smallDocument);
+        writeFile(path("c.json"), smallDocument);
         QProcess process;
         prepare(process);
         process.start(program, {"-f", "html", "-"});
@@ -489,7 +465,7 @@ private Q_SLOTS:
 
     void progressOnATerminalOnly()
     {
-        write(path("a.json"), smallDocument);
+        writeFile(path("a.json"), smallDocument);
         const QString line = "exec \"$0\" -f all -o out/ a.json";
         QCOMPARE(runLine(line).errors, QString());
 
@@ -549,7 +525,7 @@ private Q_SLOTS:
 
         QVERIFY(QDir(m_folder->path()).mkdir("a folder"));
         for (const char* name : {"a 1.json", "a.txt", "b.json"})
-            write(path(name), {});
+            writeFile(path(name), {});
         QCOMPARE(complete("reportconvert a"), QStringList({"a folder", "a 1.json"}));
         QCOMPARE(complete("reportconvert --services a"), QStringList("a folder"));
         QCOMPARE(complete("reportconvert -o a.").value(0), QString("a.txt"));

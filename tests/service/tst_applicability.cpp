@@ -1,3 +1,4 @@
+#include "columns.h"
 #include "recordedservice.h"
 
 #include "service/applicability_p.h"
@@ -8,7 +9,6 @@
 #include <QQmlEngine>
 #include <QSignalSpy>
 #include <QTemporaryFile>
-#include <QtTest>
 
 #include <cstdio>
 #include <memory>
@@ -79,8 +79,7 @@ private Q_SLOTS:
 
     void translations_data()
     {
-        QTest::addColumn<QString>("expression");
-        QTest::addColumn<QString>("translated");
+        addColumns<QString, QString>({"expression", "translated"});
         QTest::newRow("own item") << "cfg.mode == 2" << "t_cfg_mode.value == 2";
         QTest::newRow("of a module") << "module.res.state!=0" << "module_res_state.value != 0";
         QTest::newRow("property") << "cfg.mode.isReady" << "t_cfg_mode.isReady";
@@ -106,34 +105,29 @@ private Q_SLOTS:
         QCOMPARE(result->simplified().remove(' '), translated.simplified().remove(' '));
     }
 
-    void refusals_data()
-    {
-        QTest::addColumn<QString>("expression");
-        for (const char* expression : {"cfg.mode = 2", "cfg.mode += 2", "cfg.mode++", "--cfg.mode", "cfg.mode.value = 3",
-                     "function(){return true}()", "(() => true)()", "Qt.quit()", "applicable", "value == 2",
-                     "cfg.mode.setValue(3)", "cfg.mode.invoke()", "cfg.mode.apply()", "cfg.mode.destroy()",
-                     "cfg.mode.value.constructor('x')", "cfg.mode.enumLabel", "cfg.mode.client", "cfg.mode.validator.bottom",
-                     "cfg.mode.parent", "(cfg.mode)(1)", "'a'.repeat(9)", "/x/.test('x')", "`x`", "cfg.mode; cfg.mode",
-                     "{}", "[1]", "cfg.mode['setValue'](3)", "cfg.mode.value['constructor']", "new Date()", "delete cfg.mode",
-                     "typeof cfg.mode", "eval('1')", "this", "cfg.", "cfg.mode.", "a.cfg.mode.value.x()", "1x", "\\u0061",
-                     "cfg.mode == 'open", "cfg.mode == == 1", "", "(cfg.mode", "cfg.mode)", "cfg.mode ? 1",
-                     "1 : 2", "(cfg.mode ? 1) : 2", "cfg.mode, 1", "cfg.mode 1", "cfg.list.at()", "!", "cfg.b.applicable", "0777", "'\\u'", "cfg.a == 'a\nb'", "cfg.m\u00b2", "cfg.\u0663", "cfg.\u0870", "cfg.a == \u0663", "cfg.a == '\u2028'"})
-            QTest::addRow("<%s>", expression) << QString(expression);
-        QTest::newRow("endless") << QString(100000, '(');
-        QTest::newRow("too many names") << QString("cfg.a+").repeated(70) + "1";
-    }
     void refusals()
     {
-        QFETCH(QString, expression);
-        QString problem;
-        QVERIFY(!uiutils::translatedApplicability(expression, "t", &problem));
-        QVERIFY(!problem.isEmpty());
+        const QStringList refused {QString(100000, '('), QString("cfg.a+").repeated(70) + "1", "cfg.mode = 2",
+                "cfg.mode += 2", "cfg.mode++", "--cfg.mode", "cfg.mode.value = 3", "function(){return true}()",
+                "(() => true)()", "Qt.quit()", "applicable", "value == 2", "cfg.mode.setValue(3)", "cfg.mode.invoke()",
+                "cfg.mode.apply()", "cfg.mode.destroy()", "cfg.mode.value.constructor('x')", "cfg.mode.enumLabel",
+                "cfg.mode.client", "cfg.mode.validator.bottom", "cfg.mode.parent", "(cfg.mode)(1)", "'a'.repeat(9)",
+                "/x/.test('x')", "`x`", "cfg.mode; cfg.mode", "{}", "[1]", "cfg.mode['setValue'](3)",
+                "cfg.mode.value['constructor']", "new Date()", "delete cfg.mode", "typeof cfg.mode", "eval('1')",
+                "this", "cfg.", "cfg.mode.", "a.cfg.mode.value.x()", "1x", "\\u0061", "cfg.mode == 'open",
+                "cfg.mode == == 1", "", "(cfg.mode", "cfg.mode)", "cfg.mode ? 1", "1 : 2", "(cfg.mode ? 1) : 2",
+                "cfg.mode, 1", "cfg.mode 1", "cfg.list.at()", "!", "cfg.b.applicable", "0777", "'\\u'",
+                "cfg.a == 'a\nb'", "cfg.m\u00b2", "cfg.\u0663", "cfg.\u0870", "cfg.a == \u0663", "cfg.a == '\u2028'"};
+        for (const QString& expression : refused) {
+            QString problem;
+            QVERIFY2(!uiutils::translatedApplicability(expression, "t", &problem), qPrintable(expression.left(99)));
+            QVERIFY2(!problem.isEmpty(), qPrintable(expression.left(99)));
+        }
     }
 
     void answers_data()
     {
-        QTest::addColumn<QString>("expression");
-        QTest::addColumn<bool>("answer");
+        addColumns<QString, bool>({"expression", "answer"});
         QTest::newRow("true") << "true" << true;
         QTest::newRow("value") << "cfg.mode == 2" << true;
         QTest::newRow("other value") << "cfg.mode == 3" << false;
@@ -175,8 +169,7 @@ private Q_SLOTS:
 
     void faultyExpressionsAreNotApplicable_data()
     {
-        QTest::addColumn<QString>("expression");
-        QTest::addColumn<QString>("line");
+        addColumns<QString, QString>({"expression", "line"});
         QTest::newRow("refused") << "Qt.quit()" << "Applicable expression error: asking \"Qt\" is not allowed here\n";
         QTest::newRow("unknown item") << "cfg.nothing == 1" << "ReferenceError: tag_cfg_nothing is not defined\n";
     }

@@ -1,3 +1,5 @@
+#include "columns.h"
+
 #include "service/forgivingvalidator.h"
 #include "service/inputrange_p.h"
 #include "service/inputvalidator_p.h"
@@ -11,7 +13,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLocale>
-#include <QtTest>
 
 using uiutils::InputRange;
 using uiutils::InputRule;
@@ -42,12 +43,8 @@ private Q_SLOTS:
 
     void rangeTexts_data()
     {
-        QTest::addColumn<unsigned>("inputType");
-        QTest::addColumn<QVariant>("minimum");
-        QTest::addColumn<QVariant>("maximum");
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<bool>("formatted");
-        QTest::addColumn<QString>("text");
+        addColumns<unsigned, QVariant, QVariant, QString, bool, QString>(
+                {"inputType", "minimum", "maximum", "type", "formatted", "text"});
         for (unsigned type : {8u, 9u, 10u, 11u, 12u, 17u, 18u, 19u}) {
             QTest::addRow("type %u without a minimum", type) << type << QVariant() << QVariant(5) << "int" << true << "";
             QTest::addRow("type %u without a maximum", type) << type << QVariant(5) << QVariant() << "int" << false << "";
@@ -101,8 +98,7 @@ private Q_SLOTS:
 
     void escapedHyphens_data()
     {
-        QTest::addColumn<QString>("pattern");
-        QTest::addColumn<QString>("repaired");
+        addColumns<QString, QString>({"pattern", "repaired"});
         QTest::newRow("digits") << R"([\d-.])" << R"([\d\-.])";
         QTest::newRow("several") << R"(^[\w-.]+@[\w-_.]+$)" << R"(^[\w\-.]+@[\w\-_.]+$)";
         QTest::newRow("at the end stays") << R"([\d-])" << R"([\d-])";
@@ -124,9 +120,7 @@ private Q_SLOTS:
 
     void expressions_data()
     {
-        QTest::addColumn<QString>("pattern");
-        QTest::addColumn<QString>("accepted");
-        QTest::addColumn<QString>("refused");
+        addColumns<QString, QString, QString>({"pattern", "accepted", "refused"});
         QTest::newRow("plain") << "[a-z]{2}" << "ab" << "abc";
         QTest::newRow("repaired") << R"([\d-.]+)" << "1-2.3" << "a";
         QTest::newRow("beyond repair") << "[unclosed" << "anything\nat all" << "";
@@ -184,11 +178,7 @@ private Q_SLOTS:
 
     void numbers_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QVariant>("minimum");
-        QTest::addColumn<QVariant>("maximum");
-        QTest::addColumn<double>("bottom");
-        QTest::addColumn<double>("top");
+        addColumns<QString, QVariant, QVariant, double, double>({"type", "minimum", "maximum", "bottom", "top"});
         QTest::newRow("int") << "int" << QVariant(-3) << QVariant("7") << -3.0 << 7.0;
         QTest::newRow("no range") << "int" << QVariant() << QVariant("many") << 0.0 << 0.0;
         QTest::newRow("beyond int") << "uint" << QVariant(0) << QVariant(4294967295.0) << 0.0 << 2147483647.0;

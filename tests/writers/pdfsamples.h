@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QByteArray>
-#include <QFile>
+#include "files.h"
+
 #include <QPainter>
 #include <QPdfWriter>
-#include <QProcess>
-#include <QString>
 
 /// Makers of small PDF files for tests.
 namespace samples {
@@ -87,19 +85,6 @@ inline QByteArray described(const QByteArray& info)
     return sketch.finished("/Info 4 0 R");
 }
 
-inline void writeFile(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
-        qFatal("cannot write %s", qPrintable(path));
-}
-
-inline QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 inline void print(const QString& path, int pages)
 {
     QPdfWriter writer(path);
@@ -111,18 +96,6 @@ inline void print(const QString& path, int pages)
         for (int line = 0; line < 40; ++line)
             painter.drawText(200, 200 + 250 * line, QString("Page %1, line %2: 0.25 dB").arg(page).arg(line));
     }
-}
-
-/// What a program says, both channels; starts with "status N" when it did not end well.
-inline QString outputOf(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(program, arguments);
-    if (!process.waitForFinished(60000))
-        return QString("status: %1").arg(process.errorString());
-    const QString output = QString::fromUtf8(process.readAll());
-    return process.exitCode() == 0 ? output : QString("status %1\n%2").arg(process.exitCode()).arg(output);
 }
 
 /// Empty when qpdf finds nothing to complain about.

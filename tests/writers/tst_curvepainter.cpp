@@ -1,10 +1,11 @@
+#include "columns.h"
+
 #include "writers/curvepainter_p.h"
 #include "writers/plotlegend_p.h"
 
 #include <QImage>
 #include <QRandomGenerator>
 #include <QtMath>
-#include <QtTest>
 
 using namespace uiutils;
 
@@ -83,8 +84,7 @@ private Q_SLOTS:
     /// However many lines there are, the picture is the one that drawing each by itself would give.
     void lines_data()
     {
-        QTest::addColumn<QVector<QVector<QPointF>>>("stretches");
-        QTest::addColumn<QPen>("pen");
+        addColumns<QVector<QVector<QPointF>>, QPen>({"stretches", "pen"});
         const QPen solid(Qt::black, 2, Qt::SolidLine, Qt::RoundCap);
         const QPen wide(Qt::black, 6, Qt::SolidLine, Qt::RoundCap);
         const QPen dashes(Qt::black, 6, Qt::DashLine, Qt::RoundCap);

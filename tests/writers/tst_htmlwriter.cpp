@@ -1,3 +1,5 @@
+#include "columns.h"
+#include "files.h"
 #include "golden.h"
 
 #include "base/paths.h"
@@ -8,7 +10,6 @@
 
 #include <embedded/embeddedbackend.h>
 
-#include <QProcess>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -17,13 +18,6 @@
 #include <memory>
 
 namespace {
-
-bool writeFile(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
-}
-
 void readDocument(ReportTemplate& report, const QString& name)
 {
     report.readFile(UIUTILS_TEST_DATA_DIR "/documents/" + name + ".json");
@@ -33,15 +27,8 @@ void readDocument(ReportTemplate& report, const QString& name)
 /// tidy's complaint about a page that it does not accept; empty for an accepted one.
 QString tidyErrors(const QString& html)
 {
-    QProcess tidy;
-    tidy.start("tidy", {"-q", "-e", "-utf8"});
-    if (!tidy.waitForStarted())
-        return "tidy cannot be started";
-    tidy.write(html.toUtf8());
-    tidy.closeWriteChannel();
-    if (!tidy.waitForFinished(60'000))
-        return "tidy does not end";
-    return tidy.exitCode() < 2 ? QString() : QString::fromUtf8(tidy.readAllStandardError()).left(2000);
+    const QString said = outputOf("tidy", {"-q", "-e", "-utf8"}, html.toUtf8());
+    return said.startsWith("status") && !said.startsWith("status 1\n") ? said.left(2000) : QString();
 }
 
 /// The names of all elements and the text of the page, read as the XML that it is too.
@@ -103,17 +90,18 @@ private:
     QTemporaryDir m_root;
     std::unique_ptr<kiv::embedded::EmbeddedBackend> m_backend;
 
-    QString iconFile(const char* name) const { return m_root.filePath(QString("base/qml/common/images/") + name); }
+    QString iconFile(const QString& status) const
+    {
+        return m_root.filePath("base/qml/common/images/" + status + "_icon.png");
+    }
 
 private Q_SLOTS:
     void init()
     {
         qputenv("UIUTILS_ROOT", m_root.path().toLocal8Bit());
-        QVERIFY(QDir(m_root.path()).mkpath("base/qml/common/images"));
         QVERIFY(QDir(m_root.path()).mkpath("tmp"));
-        QVERIFY(writeFile(iconFile("pass_icon.png"), "pass"));
-        QVERIFY(writeFile(iconFile("marginal_icon.png"), "marginal"));
-        QVERIFY(writeFile(iconFile("fail_icon.png"), "fail"));
+        for (const char* status : {"pass", "marginal", "fail"})
+            writeFile(iconFile(status), status);
         m_backend = std::make_unique<kiv::embedded::EmbeddedBackend>();
         QCOMPARE(m_backend->loadFolders({UIUTILS_TEST_DATA_DIR "/services"}), QStringList());
     }
@@ -126,9 +114,7 @@ private Q_SLOTS:
 
     void goldens_data()
     {
-        QTest::addColumn<QString>("document");
-        QTest::addColumn<QString>("golden");
-        QTest::addColumn<QVariantMap>("attributes");
+        addColumns<QString, QString, QVariantMap>({"document", "golden", "attributes"});
         const QVariantMap noSystem {{"showSoftwareRevs", false}, {"showHardwareRevs", false}};
         QTest::newRow("twelve rows") << "twelve-rows" << "twelve-rows" << noSystem;
         QTest::newRow("eleven tables") << "eleven-tables" << "eleven-tables" << noSystem;
@@ -162,9 +148,7 @@ private Q_SLOTS:
 
     void status_data()
     {
-        QTest::addColumn<QVariantMap>("flags");
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<QString>("icon");
+        addColumns<QVariantMap, QString, QString>({"flags", "word", "icon"});
         QTest::newRow("none") << QVariantMap() << "unknown" << "";
         QTest::newRow("false") << QVariantMap {{"pass", false}} << "unknown" << "";
         QTest::newRow("pass first") << QVariantMap {{"fail", true}, {"pass", true}} << "pass" << "pass";
@@ -346,11 +330,8 @@ private Q_SLOTS:
         QCOMPARE(pictures.size(), 4);
         QVERIFY(pictures.at(0) != pictures.at(1));
         QCOMPARE(pictures.mid(2), QStringList({pictures.at(0), pictures.at(0)}));
-        for (const QString& name : names) {
-            QFile file(folder.filePath(name));
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            QCOMPARE(QString(file.readAll().toBase64()), pictures.at(0));
-        }
+        for (const QString& name : names)
+            QCOMPARE(QString(contentsOf(folder.filePath(name)).toBase64()), pictures.at(0));
     }
 
     void iconsAreReadOnce()
@@ -360,7 +341,7 @@ private Q_SLOTS:
         html.startTable("T", {"A"}, false, 0);
         html.writeCell("1", HtmlStreamWriter::StatusFail);
         html.endRow();
-        QVERIFY(QFile::remove(iconFile("fail_icon.png")));
+        QVERIFY(QFile::remove(iconFile("fail")));
         html.startRow();
         html.writeCell("2", HtmlStreamWriter::StatusFail);
         html.endTable();
@@ -369,14 +350,12 @@ private Q_SLOTS:
 
     void unreadableIconsGiveAnEmptyImage()
     {
-        QVERIFY(QFile::remove(iconFile("fail_icon.png")));
-        QVERIFY(QDir().mkdir(iconFile("fail_icon.png")));
-        QFile large(iconFile("pass_icon.png"));
-        QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(2'000'000));
-        large.close();
+        QVERIFY(QFile::remove(iconFile("fail")));
+        QVERIFY(QDir().mkdir(iconFile("fail")));
+        QVERIFY(QFile::resize(iconFile("pass"), 2'000'000));
         for (const char* flag : {"pass", "fail"})
             QVERIFY(pageOf(ReportTemplate(), {{flag, true}}).contains("\"data:image/png;base64,\""));
-        QVERIFY(QDir().rmdir(iconFile("fail_icon.png")));
+        QVERIFY(QDir().rmdir(iconFile("fail")));
     }
 
     void withoutAPlatform()

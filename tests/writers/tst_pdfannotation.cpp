@@ -1,3 +1,4 @@
+#include "columns.h"
 #include "pdfsamples.h"
 
 #include "writers/pdfannotation_p.h"
@@ -5,7 +6,6 @@
 
 #include <QBuffer>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <cmath>
 
@@ -93,15 +93,14 @@ class PdfAnnotationTest : public QObject
         sketch.add("<</Type/Page/Parent 2 0 R>>");
         sketch.add("<</Type/Pages/Parent 2 0 R/Kids[5 0 R]/Count 1>>");
         sketch.add("<</Type/Page/Parent 4 0 R/MediaBox[10 20 200 320]>>");
-        samples::writeFile(path("two.pdf"), sketch.finished());
+        writeFile(path("two.pdf"), sketch.finished());
         return path("two.pdf");
     }
 
 private Q_SLOTS:
     void outlines_data()
     {
-        QTest::addColumn<QVector<OutlineEntry>>("entries");
-        QTest::addColumn<QStringList>("lines");
+        addColumns<QVector<OutlineEntry>, QStringList>({"entries", "lines"});
         QTest::newRow("none") << QVector<OutlineEntry>{} << QStringList{};
         QTest::newRow("places") << QVector<OutlineEntry>{{"a", 0, 0, 0}, {"b", 0, 0, 30}, {"c", 0, 1, 30}}
                                 << QStringList{"a @1 XYZ 100", "b @1 XYZ 70", "c @2 XYZ 290"};
@@ -129,20 +128,19 @@ private Q_SLOTS:
         const OutlineText outline(contents);
         QTEST(outline.lines(), "lines");
         QCOMPARE(outline.faults(), 0);
-        samples::writeFile(path("outlined.pdf"), contents);
+        writeFile(path("outlined.pdf"), contents);
         QCOMPARE(samples::faultsOf(path("outlined.pdf")), QString());
     }
 
     void tornFilesAreNotWhole_data()
     {
-        QTest::addColumn<QByteArray>("contents");
-        QTest::addColumn<bool>("whole");
+        addColumns<QByteArray, bool>({"contents", "whole"});
         samples::print(path("whole.pdf"), 2);
-        const QByteArray whole = samples::readFile(path("whole.pdf"));
+        const QByteArray whole = contentsOf(path("whole.pdf"));
         const int table = whole.lastIndexOf("startxref");
-        samples::outputOf("qpdf", {"--object-streams=generate", path("whole.pdf"), path("streams.pdf")});
+        outputOf("qpdf", {"--object-streams=generate", path("whole.pdf"), path("streams.pdf")});
         QTest::newRow("printed") << whole << true;
-        QTest::newRow("with a stream for a table") << samples::readFile(path("streams.pdf")) << true;
+        QTest::newRow("with a stream for a table") << contentsOf(path("streams.pdf")) << true;
         QTest::newRow("blank lines behind") << whole + "\r\n\n" << true;
         QTest::newRow("empty") << QByteArray() << false;
         QTest::newRow("header only") << QByteArray("%PDF-1.4\n") << false;
@@ -168,7 +166,7 @@ private Q_SLOTS:
         QString error;
         QCOMPARE(isWholePdf(device, &error), whole);
         QCOMPARE(error.isEmpty(), whole);
-        samples::writeFile(path("torn.pdf"), contents);
+        writeFile(path("torn.pdf"), contents);
         error.clear();
         QCOMPARE(annotated(path("torn.pdf"), Annotation(), &error).isEmpty(), !whole);
         QCOMPARE(error.isEmpty(), whole);

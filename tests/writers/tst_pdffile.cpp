@@ -1,3 +1,4 @@
+#include "columns.h"
 #include "filesizelimit.h"
 
 #include "pdfsamples.h"
@@ -5,20 +6,15 @@
 #include "writers/pdfdocument_p.h"
 #include "writers/pdffile.h"
 
-#include <QDir>
 #include <QLocale>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <sys/stat.h>
 
 using samples::described;
-using samples::readFile;
-using samples::writeFile;
 
 namespace {
-
 const char loadFailure[] = "^Unable to write PDF report: .";
 const char writeFailure[] = "^Unable to write file: .";
 
@@ -36,22 +32,12 @@ class PdfFileTest : public QObject
     QTemporaryDir m_folder;
 
     QString path(const QString& name) const { return m_folder.filePath(name); }
-    QStringList files(const QString& folder) const
-    {
-        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
-
-    QString made(const QString& name, const QByteArray& contents) const
-    {
-        writeFile(path(name), contents);
-        return path(name);
-    }
+    QString made(const QString& name, const QByteArray& contents) const { return writeFile(path(name), contents); }
 
 private Q_SLOTS:
     void readsTextsInEveryEncoding_data()
     {
-        QTest::addColumn<QByteArray>("string");
-        QTest::addColumn<QString>("text");
+        addColumns<QByteArray, QString>({"string", "text"});
         QTest::newRow("plain") << QByteArray("(Fiber \\(7\\) \\\\ end)") << "Fiber (7) \\ end";
         QTest::newRow("hex") << QByteArray("<46 69 62 65 72>") << "Fiber";
         QTest::newRow("UTF-16") << QByteArray("<FEFF 03BB 0020 D83D DE00>") << QString::fromUtf8("λ 😀");
@@ -126,7 +112,7 @@ private Q_SLOTS:
         file.setSubject("S");
         file.setProducer("P");
         file.write(QString());
-        const QString output = samples::outputOf("pdfinfo", {"-enc", "UTF-8", name});
+        const QString output = outputOf("pdfinfo", {"-enc", "UTF-8", name});
         const QMap<QString, QString> expected{{"Title", QString::fromUtf8("Größe λ 😀")}, {"Author", "A (b)"},
                 {"Subject", "S"}, {"Producer", "P"}, {"Creator", "Kept"}, {"Pages", "1"}};
         for (auto it = expected.begin(); it != expected.end(); ++it)
@@ -137,8 +123,7 @@ private Q_SLOTS:
 
     void dates_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QDateTime>("utc");
+        addColumns<QString, QDateTime>({"text", "utc"});
         const auto at = [](int y, int mo, int d, int h, int mi, int s) {
             return QDateTime({y, mo, d}, {h, mi, s}, Qt::UTC);
         };
@@ -246,8 +231,7 @@ private Q_SLOTS:
 
     void writesOverItsOwnFile_data()
     {
-        QTest::addColumn<QString>("folder");
-        QTest::addColumn<QString>("name");
+        addColumns<QString, QString>({"folder", "name"});
         QTest::newRow("usual") << "own"
                                << "a.pdf";
         QTest::newRow("twice") << "own.pdf"
@@ -267,9 +251,7 @@ private Q_SLOTS:
         QFETCH(QString, folder);
         QFETCH(QString, name);
         const QString inside = path("over/" + folder);
-        QVERIFY(QDir().mkpath(inside));
-        const QString whole = inside + '/' + name;
-        writeFile(whole, described("/Title(Old)"));
+        const QString whole = writeFile(inside + '/' + name, described("/Title(Old)"));
         QFile::setPermissions(whole, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
         const auto permissions = QFile::permissions(whole);
         PDFFile file;
@@ -282,7 +264,7 @@ private Q_SLOTS:
             again.setFilename(whole);
             QCOMPARE(again.getTitle(), title);
         }
-        QCOMPARE(files(inside), QStringList{name});
+        QCOMPARE(namesIn(inside), QStringList{name});
         QCOMPARE(QFile::permissions(whole), permissions);
         QVERIFY(QDir(path("over")).removeRecursively());
     }
@@ -302,16 +284,16 @@ private Q_SLOTS:
                 {QString(), path("temporary/./a.pdf"), path("temporary/link/../a.pdf")}) {
             expectMessage(writeFailure);
             file.write(target);
-            QCOMPARE(readFile(path("temporary/a.pdf")), old);
+            QCOMPARE(contentsOf(path("temporary/a.pdf")), old);
         }
         file.write(path("temporary/b.pdf"));
-        QVERIFY(!readFile(path("temporary/b.pdf")).isEmpty());
+        QVERIFY(!contentsOf(path("temporary/b.pdf")).isEmpty());
         QVERIFY(QDir().rmdir(path("temporary/a_tmp.pdf")));
         // One that a power cut left behind is no obstacle, and does not stay.
         writeFile(path("temporary/a_tmp.pdf"), "torn");
         file.write(QString());
-        QVERIFY(readFile(path("temporary/a.pdf")) != old);
-        QCOMPARE(files(path("temporary")), (QStringList{"a.pdf", "b.pdf", "link"}));
+        QVERIFY(contentsOf(path("temporary/a.pdf")) != old);
+        QCOMPARE(namesIn(path("temporary")), (QStringList{"a.pdf", "b.pdf", "link"}));
     }
 
     void aWrittenFileDoesNotDependOnTheOldOne()
@@ -330,7 +312,7 @@ private Q_SLOTS:
         file.write(QString());
         for (const QString& written : {path("kept.pdf"), name}) {
             QCOMPARE(samples::faultsOf(written), QString());
-            QVERIFY(samples::outputOf("pdftotext", {written, "-"}).contains("Page 2, line 39"));
+            QVERIFY(outputOf("pdftotext", {written, "-"}).contains("Page 2, line 39"));
         }
     }
 
@@ -338,7 +320,7 @@ private Q_SLOTS:
     {
         QVERIFY(QDir().mkpath(path("full")));
         samples::print(path("full/a.pdf"), 2);
-        const QByteArray before = readFile(path("full/a.pdf"));
+        const QByteArray before = contentsOf(path("full/a.pdf"));
         PDFFile file;
         file.setFilename(path("full/a.pdf"));
         file.setTitle("New");
@@ -349,8 +331,8 @@ private Q_SLOTS:
             expectMessage(writeFailure);
             file.write(path("full/b.pdf"));
         }
-        QCOMPARE(readFile(path("full/a.pdf")), before);
-        QCOMPARE(files(path("full")), QStringList{"a.pdf"});
+        QCOMPARE(contentsOf(path("full/a.pdf")), before);
+        QCOMPARE(namesIn(path("full")), QStringList{"a.pdf"});
         // It is as usable as before.
         file.write(QString());
         file.setFilename(path("full/a.pdf"));
@@ -421,7 +403,7 @@ private Q_SLOTS:
         QFETCH(QStringList, options);
         samples::print(path("plain.pdf"), 3);
         const QString name = path("kind.pdf");
-        const QString made = samples::outputOf("qpdf", options + QStringList{path("plain.pdf"), name});
+        const QString made = outputOf("qpdf", options + QStringList{path("plain.pdf"), name});
         QVERIFY2(QFile::exists(name), qPrintable(made));
         PDFFile file;
         file.setFilename(name);
@@ -433,7 +415,7 @@ private Q_SLOTS:
             PDFFile again;
             again.setFilename(name);
             QCOMPARE(again.getTitle(), title);
-            QVERIFY(samples::outputOf("pdftotext", {name, "-"}).contains("Page 2, line 39"));
+            QVERIFY(outputOf("pdftotext", {name, "-"}).contains("Page 2, line 39"));
         }
         QVERIFY(QFile::remove(name));
     }
@@ -441,8 +423,7 @@ private Q_SLOTS:
     /// Those that open without a password are read. They are not written: PoDoFo would add to their other texts.
     void encryptedFiles_data()
     {
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<QStringList>("options");
+        addColumns<QString, QStringList>({"password", "options"});
         QTest::newRow("40 bits") << "" << QStringList{"40", "--"};
         QTest::newRow("128 bits") << "" << QStringList{"128", "--use-aes=n", "--"};
         QTest::newRow("128 bits, blocks") << "" << QStringList{"128", "--use-aes=y", "--"};
@@ -461,9 +442,9 @@ private Q_SLOTS:
         sketch.add("(Referred)");
         writeFile(path("open.pdf"), sketch.finished("/Info 4 0 R"));
         const QString locked = path("locked.pdf");
-        samples::outputOf("qpdf", QStringList{"--allow-weak-crypto", "--encrypt", password, "owner"} + options
+        outputOf("qpdf", QStringList{"--allow-weak-crypto", "--encrypt", password, "owner"} + options
                         + QStringList{path("open.pdf"), locked});
-        const QByteArray before = readFile(locked);
+        const QByteArray before = contentsOf(locked);
         QVERIFY(before.contains("/Encrypt") && !before.contains("letters"));
         PDFFile file;
         if (!password.isEmpty())
@@ -481,7 +462,7 @@ private Q_SLOTS:
             expectMessage("^Unable to write file: The file is encrypted");
             file.write(target);
         }
-        QCOMPARE(readFile(locked), before);
+        QCOMPARE(contentsOf(locked), before);
         QVERIFY(!QFile::exists(path("copy.pdf")));
     }
 };

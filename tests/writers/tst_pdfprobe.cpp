@@ -1,3 +1,4 @@
+#include "columns.h"
 #include "pdfsamples.h"
 
 #include "writers/pdffile.h"
@@ -5,7 +6,6 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <cerrno>
 #include <csignal>
@@ -92,7 +92,7 @@ class PdfProbeTest : public QObject
 
     QString script(const QString& name, const QByteArray& text) const
     {
-        samples::writeFile(path(name), "#!/bin/sh\n" + text + '\n');
+        writeFile(path(name), "#!/bin/sh\n" + text + '\n');
         QFile::setPermissions(path(name), QFile::ReadOwner | QFile::ExeOwner);
         return path(name);
     }
@@ -229,7 +229,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, contents);
         const QString name = path("hostile.pdf");
-        samples::writeFile(name, contents);
+        writeFile(name, contents);
         const bool loaded = use(name);
         QString error;
         const bool passes = PdfProbe().passes(contents, &error);
@@ -242,12 +242,12 @@ private Q_SLOTS:
     void damagedFiles()
     {
         samples::print(path("printed.pdf"), 2);
-        samples::outputOf("qpdf", {"--object-streams=generate", path("printed.pdf"), path("packed.pdf")});
-        samples::outputOf(
+        outputOf("qpdf", {"--object-streams=generate", path("printed.pdf"), path("packed.pdf")});
+        outputOf(
                 "qpdf", {"--encrypt", "", "owner", "256", "--", path("printed.pdf"), path("locked.pdf")});
         const QVector<QByteArray> bases{samples::described("/Title(A)/Author<FEFF0041>"),
-                samples::readFile(path("packed.pdf")), samples::readFile(path("printed.pdf")),
-                samples::readFile(path("locked.pdf"))};
+                contentsOf(path("packed.pdf")), contentsOf(path("printed.pdf")),
+                contentsOf(path("locked.pdf"))};
         std::mt19937 random(20260314);
         const auto below = [&random](int limit) { return int(random() % unsigned(qMax(1, limit))); };
         int loaded = 0;
@@ -279,7 +279,7 @@ private Q_SLOTS:
                     break;
                 }
             }
-            samples::writeFile(path("damaged.pdf"), contents);
+            writeFile(path("damaged.pdf"), contents);
             loaded += use(path("damaged.pdf"));
         }
         // Both happen, or the damage was not of the right kind.
@@ -288,8 +288,7 @@ private Q_SLOTS:
 
     void helpersThatFail_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("error");
+        addColumns<QByteArray, QString>({"text", "error"});
         QTest::newRow("dies") << QByteArray("printf S; kill -SEGV $$")
                               << "The file cannot be read without harm";
         QTest::newRow("says nothing more")
@@ -324,7 +323,7 @@ private Q_SLOTS:
         QString error;
         QVERIFY(PdfProbe(script("spy", text), 10000).passes("bytes", &error));
         qunsetenv("UIUTILS_SECRET");
-        const QByteArray seen = samples::readFile(path("seen"));
+        const QByteArray seen = contentsOf(path("seen"));
         QVERIFY(seen.startsWith("bytesLD_LIBRARY_PATH="));
         QVERIFY(!seen.contains("SECRET"));
     }

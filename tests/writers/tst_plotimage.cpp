@@ -1,18 +1,17 @@
+#include "columns.h"
+#include "files.h"
+
 #include "writers/plotdata_p.h"
 #include "writers/plotimage.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 
-#include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QtMath>
-#include <QtTest>
 
 namespace {
-
 const QString xId = QStringLiteral(":result:kinds:trace_x:doubleARRAY:");
 const QString yId = QStringLiteral(":result:kinds:trace_y:doubleARRAY:");
 
@@ -58,10 +57,7 @@ private Q_SLOTS:
 
     void arrays_data()
     {
-        QTest::addColumn<QVariantList>("xs");
-        QTest::addColumn<QVariantList>("ys");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<QRect>("extent");
+        addColumns<QVariantList, QVariantList, QSize, QRect>({"xs", "ys", "size", "extent"});
         QVariantList ramp;
         QVariantList squares;
         for (int i = 0; i < 50; ++i) {
@@ -95,9 +91,7 @@ private Q_SLOTS:
         plot.setService("kinds");
         plot.setSize(size.width(), size.height());
         QVERIFY(plot.write("/tmp/rep_plot_4.png"));
-        QFile file(m_root.filePath("tmp/rep_plot_4.png"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), plot.getData());
+        QCOMPARE(contentsOf(m_root.filePath("tmp/rep_plot_4.png")), plot.getData());
         const QImage image = QImage::fromData(plot.getData(), "PNG");
         QCOMPARE(image.size(), size);
         const QRect drawn = curveExtent(image);
@@ -130,11 +124,9 @@ private Q_SLOTS:
             {"id": ":result:huge:a_x:doubleARRAY:", "type": "doubleARRAY", "label": "HUGE", "unit": "HUGE", "value": [1]},
             {"id": ":result:huge:a_y:doubleARRAY:", "type": "doubleARRAY", "label": "HUGE", "unit": "HUGE", "value": [1],
              "attributes": {"upperLimit": 2}}]})";
-        QFile file(m_root.filePath("huge.service.json"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(service.replace("HUGE", QByteArray(100'000, 'w'))) > 0);
-        file.close();
+        service.replace("HUGE", QByteArray(100'000, 'w'));
         kiv::embedded::EmbeddedBackend backend;
-        QVERIFY(backend.loadFile(file.fileName()));
+        QVERIFY(backend.loadFile(writeFile(m_root.filePath("huge.service.json"), service)));
 
         const uiutils::PlotData data = uiutils::readPlotData("huge");
         QCOMPARE(data.curves.size(), 1);
@@ -146,8 +138,7 @@ private Q_SLOTS:
 
     void sizes_data()
     {
-        QTest::addColumn<QSize>("asked");
-        QTest::addColumn<QSize>("drawn");
+        addColumns<QSize, QSize>({"asked", "drawn"});
         QTest::newRow("unset") << QSize(0, 0) << QSize(600, 400);
         QTest::newRow("large") << QSize(2'000'000'000, 1200) << QSize(4000, 1200);
         QTest::newRow("tiny") << QSize(1, -5) << QSize(50, 400);

@@ -1,8 +1,9 @@
+#include "columns.h"
+
 #include "writers/axisscale_p.h"
 #include "writers/plotdata_p.h"
 
 #include <QtMath>
-#include <QtTest>
 
 #include <cmath>
 #include <limits>
@@ -57,11 +58,7 @@ class PlotScaleTest : public QObject
 private Q_SLOTS:
     void ticks_data()
     {
-        QTest::addColumn<QVector<double>>("data");
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<int>("ends");
-        QTest::addColumn<int>("maximum");
-        QTest::addColumn<QStringList>("expected");
+        addColumns<QVector<double>, int, int, int, QStringList>({"data", "kind", "ends", "maximum", "expected"});
         using V = QVector<double>;
         const int linear = AxisScale::Linear;
         const int log = AxisScale::Logarithmic;

@@ -1,3 +1,5 @@
+#include "columns.h"
+#include "files.h"
 #include "filesizelimit.h"
 
 #include "document/reporttemplate.h"
@@ -12,39 +14,21 @@
 #include <embedded/embeddedbackend.h>
 
 #include <QBuffer>
-#include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QXmlStreamReader>
 
 #include <memory>
 
 namespace {
-
-/// What a program that knows nothing of this library prints about a file; null when it fails.
-QString output(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    const bool isDone = process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit;
-    if (!isDone || process.exitCode() != 0) {
-        qWarning("%s: %s", qPrintable(program), process.readAllStandardError().constData());
-        return {};
-    }
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
-
 /// The text in the order in which it was drawn, page by page.
 QStringList pagesOf(const QString& path)
 {
-    QStringList pages = output("pdftotext", {"-raw", path, "-"}).split('\f');
+    QStringList pages = outputOf("pdftotext", {"-raw", path, "-"}).split('\f');
     pages.removeLast();
     return pages;
 }
@@ -83,7 +67,7 @@ struct Sheet
 QVector<Sheet> sheetsOf(const QString& path)
 {
     QVector<Sheet> sheets;
-    QXmlStreamReader xml(output("pdftotext", {"-bbox", path, "-"}));
+    QXmlStreamReader xml(outputOf("pdftotext", {"-bbox", path, "-"}));
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
@@ -104,7 +88,7 @@ QVector<Sheet> picturesOf(const QString& path)
 {
     const QTemporaryDir folder;
     QVector<Sheet> sheets = sheetsOf(path);
-    output("pdftoppm", {"-r", "144", "-png", path, folder.filePath("p")});
+    outputOf("pdftoppm", {"-r", "144", "-png", path, folder.filePath("p")});
     const QStringList names = QDir(folder.path()).entryList({"*.png"}, QDir::Files, QDir::Name);
     for (int page = 0; page < qMin(names.size(), sheets.size()); ++page)
         sheets[page].picture.load(folder.filePath(names.at(page)));
@@ -140,7 +124,7 @@ bool isSame(qreal a, qreal b)
 QStringList outlineOf(const QString& path)
 {
     const QJsonObject json
-            = QJsonDocument::fromJson(output("qpdf", {"--json", "--json-key=outlines", path}).toUtf8()).object();
+            = QJsonDocument::fromJson(outputOf("qpdf", {"--json", "--json-key=outlines", path}).toUtf8()).object();
     QStringList lines;
     const std::function<void(const QJsonArray&, int)> visit = [&](const QJsonArray& entries, int level) {
         for (const QJsonValue& value : entries) {
@@ -159,7 +143,7 @@ QStringList outlineOf(const QString& path)
 QString infoOf(const QString& path, const QString& key)
 {
     const QRegularExpression line("^" + key + ":\\s+(.*)$", QRegularExpression::MultilineOption);
-    return line.match(output("pdfinfo", {path})).captured(1);
+    return line.match(outputOf("pdfinfo", {path})).captured(1);
 }
 
 const char* const statuses[] = {"pass", "marginal", "fail"};
@@ -188,7 +172,7 @@ private:
         QString error;
         const bool isPrinted = pdf.print(m_path, &error);
         qDeleteAll(items);
-        if (isPrinted && output("qpdf", {"--check", m_path}).isEmpty())
+        if (isPrinted && outputOf("qpdf", {"--check", m_path}).startsWith("status"))
             error = "qpdf";
         if (isPrinted && error.isEmpty())
             error = misplacedIn(sheetsOf(m_path));
@@ -208,9 +192,7 @@ private:
 
     void read(ReportTemplate& document, const QJsonObject& json) const
     {
-        QFile file(m_root.filePath("document.json"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(json).toJson()) > 0 && file.flush());
-        document.readFile(file.fileName());
+        document.readFile(writeFile(m_root.filePath("document.json"), QJsonDocument(json).toJson()));
         QVERIFY2(!document.hasError(), qPrintable(document.errorString()));
     }
 
@@ -232,19 +214,6 @@ private:
         QCOMPARE(misplacedIn(sheetsOf(m_path)), QString());
     }
 
-    QByteArray contents() const
-    {
-        QFile file(m_path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    void writeOld() const
-    {
-        QFile file(m_path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("old");
-    }
-
 private Q_SLOTS:
     void initTestCase()
     {
@@ -262,8 +231,7 @@ private Q_SLOTS:
     void cleanup()
     {
         // Whatever happened, nothing is left beside the file.
-        QCOMPARE(QDir(m_root.filePath("out")).entryList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot).size(),
-                QFile::exists(m_path) ? 1 : 0);
+        QCOMPARE(namesIn(m_root.filePath("out")).size(), QFile::exists(m_path) ? 1 : 0);
         QFile::remove(m_path);
     }
 
@@ -283,7 +251,7 @@ private Q_SLOTS:
         QVERIFY2(writer.write(m_path, &error), qPrintable(error));
         qDeleteAll(items);
 
-        QVERIFY(!output("qpdf", {"--check", m_path}).isEmpty());
+        QVERIFY(!outputOf("qpdf", {"--check", m_path}).startsWith("status"));
         const QStringList pages = pagesOf(m_path);
         QCOMPARE(infoOf(m_path, "Pages").toInt(), pages.size());
         QCOMPARE(infoOf(m_path, "Page size"), QString("612 x 792 pts (letter)"));
@@ -307,8 +275,7 @@ private Q_SLOTS:
 
     void pagesOfATable_data()
     {
-        QTest::addColumn<QString>("orientation");
-        QTest::addColumn<QSizeF>("paper");
+        addColumns<QString, QSizeF>({"orientation", "paper"});
         QTest::newRow("upright") << "portrait" << QSizeF(612, 792);
         QTest::newRow("wide") << "landscape" << QSizeF(792, 612);
     }
@@ -603,7 +570,7 @@ private Q_SLOTS:
             return plain;
         };
         int found = 0;
-        const QStringList lines = output("pdftotext", {path, "-"}).split('\n');
+        const QStringList lines = outputOf("pdftotext", {path, "-"}).split('\n');
         for (const QString& line : lines)
             found += letters(line) == letters(text);
         QCOMPARE(found, 3);
@@ -620,12 +587,8 @@ private Q_SLOTS:
 
     void oddItems_data()
     {
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QStringList>("labels");
-        QTest::addColumn<QVector<QStringList>>("rows");
-        QTest::addColumn<QByteArray>("image");
-        QTest::addColumn<int>("pages");
-        QTest::addColumn<QStringList>("words");
+        addColumns<QString, QStringList, QVector<QStringList>, QByteArray, int, QStringList>(
+                {"title", "labels", "rows", "image", "pages", "words"});
         using Rows = QVector<QStringList>;
         const QStringList one {"A"};
         const auto words = [](int count) {
@@ -680,7 +643,7 @@ private Q_SLOTS:
             addRow(*table, {"x"}, i % 2 ? 64 : 16);
         QVERIFY(!printed({table}, [](ReportPDF& pdf) { pdf.setLogo({}); }).isEmpty());
         // Two icons, each with its mask. Behind the annotation, streams and dictionaries stay readable.
-        QCOMPARE(contents().count("/Subtype/Image") + contents().count("/Subtype /Image"), 4);
+        QCOMPARE(contentsOf(m_path).count("/Subtype/Image") + contentsOf(m_path).count("/Subtype /Image"), 4);
     }
 
     void progressAndCancel()
@@ -708,12 +671,12 @@ private Q_SLOTS:
             QCOMPARE(told.count({page, pages}), 1);
 
         for (const int at : {0, 1, pages}) {
-            writeOld();
+            writeFile(m_path, "old");
             cancelAt = at;
             QString error = "unset";
             QVERIFY(!pdf.print(m_path, &error));
             QCOMPARE(error, QString());
-            QCOMPARE(contents(), QByteArray("old"));
+            QCOMPARE(contentsOf(m_path), QByteArray("old"));
         }
         // It may go meanwhile.
         auto* other = new ReportPDF;
@@ -723,7 +686,7 @@ private Q_SLOTS:
                 delete other;
         });
         QVERIFY(!other->print(m_path));
-        QCOMPARE(contents(), QByteArray("old"));
+        QCOMPARE(contentsOf(m_path), QByteArray("old"));
         cancelAt = -1;
         QVERIFY(pdf.print(m_path));
         qDeleteAll(items);
@@ -765,11 +728,11 @@ private Q_SLOTS:
         ReportPDF pdf;
         pdf.setItems(items);
         QVERIFY(pdf.print(m_path));
-        const qint64 size = contents().size();
+        const qint64 size = contentsOf(m_path).size();
         QVERIFY(QFile::remove(m_path));
 
         for (const qint64 room : {qint64(0), qint64(1), qint64(4096), size / 2, size - 3000, size - 1}) {
-            writeOld();
+            writeFile(m_path, "old");
             QString error;
             bool isPrinted = true;
             {
@@ -778,8 +741,8 @@ private Q_SLOTS:
             }
             QVERIFY2(!isPrinted, qPrintable(QString::number(room)));
             QVERIFY2(error.contains(m_path), qPrintable(error));
-            QCOMPARE(contents(), QByteArray("old"));
-            QCOMPARE(QDir(m_root.filePath("out")).entryList(QDir::Files | QDir::Hidden).size(), 1);
+            QCOMPARE(contentsOf(m_path), QByteArray("old"));
+            QCOMPARE(namesIn(m_root.filePath("out")).size(), 1);
         }
         qDeleteAll(items);
     }

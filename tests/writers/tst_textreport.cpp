@@ -1,3 +1,5 @@
+#include "columns.h"
+#include "files.h"
 #include "golden.h"
 
 #include "base/plaintext_p.h"
@@ -20,7 +22,6 @@ using namespace uiutils;
 Q_DECLARE_METATYPE(uiutils::TextLayout)
 
 namespace {
-
 void readDocument(ReportTemplate& report, const QString& path)
 {
     report.readFile(path);
@@ -40,12 +41,9 @@ private:
     static QString textOf(const QJsonObject& document, int width = 80)
     {
         const QTemporaryDir folder;
-        const QString path = folder.filePath("document.json");
-        const QByteArray json = QJsonDocument(document).toJson();
-        QFile file(path);
         ReportTemplate report;
-        if (file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.flush())
-            readDocument(report, path);
+        const QByteArray json = QJsonDocument(document).toJson(QJsonDocument::Compact);
+        readDocument(report, writeFile(folder.filePath("document.json"), json));
         TextLayout layout;
         layout.width = width;
         layout.showSoftwareRevs = layout.showHardwareRevs = false;
@@ -84,9 +82,7 @@ private Q_SLOTS:
 
     void goldens_data()
     {
-        QTest::addColumn<QString>("document");
-        QTest::addColumn<QString>("golden");
-        QTest::addColumn<TextLayout>("layout");
+        addColumns<QString, QString, TextLayout>({"document", "golden", "layout"});
         TextLayout noSystem;
         noSystem.showSoftwareRevs = noSystem.showHardwareRevs = false;
         TextLayout all;
@@ -127,10 +123,7 @@ private Q_SLOTS:
     void tables_data()
     {
         using Rows = QVector<QStringList>;
-        QTest::addColumn<QStringList>("labels");
-        QTest::addColumn<Rows>("rows");
-        QTest::addColumn<int>("width");
-        QTest::addColumn<QString>("text");
+        addColumns<QStringList, Rows, int, QString>({"labels", "rows", "width", "text"});
         const auto add = [](const char* name, const QStringList& labels, const Rows& rows, int width,
                                  const QString& text) { QTest::newRow(name) << labels << rows << width << text; };
         add("numbers stand to the right", {"A", "B", "C"}, {{"1.5", "1.5", "4.2.0"}, {"-12", "x", "1"}}, 80,
@@ -192,9 +185,7 @@ private Q_SLOTS:
     void hostile_data()
     {
         using Rows = QVector<QStringList>;
-        QTest::addColumn<QStringList>("labels");
-        QTest::addColumn<Rows>("rows");
-        QTest::addColumn<int>("mostCharacters");
+        addColumns<QStringList, Rows, int>({"labels", "rows", "mostCharacters"});
         const QStringList thousand = QString("x").repeated(1000).split(QString(), Qt::SkipEmptyParts);
         const auto megabyteOf = [](const QString& part) { return part.repeated(1'000'000 / part.size()); };
         const QStringList noLabels = QString(999, ',').split(',');

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+/// The bytes of a file; none of what is no file or cannot be read.
+inline QByteArray contentsOf(const QString& path)
+{
+    QFile file(path);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Makes a file and the folders above it, and returns its path. Ends the program when it cannot.
+inline QString writeFile(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()
+            || !file.flush())
+        qFatal("%s cannot be written", qPrintable(path));
+    return path;
+}
+
+/// What lies in a folder, hidden entries too.
+inline QStringList namesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+/// What a program says, on both channels; starts with "status" unless it ended well.
+inline QString outputOf(const QString& program, const QStringList& arguments, const QByteArray& input = {})
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(program, arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(60000))
+        return QString("status: %1").arg(process.errorString());
+    const QString output = QString::fromUtf8(process.readAll());
+    return process.exitCode() == 0 ? output : QString("status %1\n%2").arg(process.exitCode()).arg(output);
+}
