@@ -8,7 +8,6 @@
 #include "base/temporarysibling_p.h"
 #include "base/xmltext_p.h"
 
-
 #include <atomic>
 #include <dlfcn.h>
 #include <functional>
@@ -74,9 +73,9 @@ class CoreTest : public QObject
 private Q_SLOTS:
     void pathsOnDisk()
     {
-        const std::pair<const char*, const char*> rows[] {{"//cust//a", "/cust/a"}, {"/cust/../mnt/./usb/a", "/mnt/usb/a"},
-                {"/etc/../base/a", "/base/a"}, {"/../../cust/a", "/cust/a"}, {"/cust/../../../cust/a", "/cust/a"},
-                {"/cust/a/../../cust/b/..", "/cust"}};
+        const std::pair<const char*, const char*> rows[] {{"//cust//a", "/cust/a"},
+                {"/cust/../mnt/./usb/a", "/mnt/usb/a"}, {"/etc/../base/a", "/base/a"}, {"/../../cust/a", "/cust/a"},
+                {"/cust/../../../cust/a", "/cust/a"}, {"/cust/a/../../cust/b/..", "/cust"}};
         const auto restore = qScopeGuard([before = qgetenv("UIUTILS_ROOT")] { qputenv("UIUTILS_ROOT", before); });
         qputenv("UIUTILS_ROOT", "/root of mine");
         for (const char* path : {"/cust/public/reports/a.html", "/cust", "/mnt/usb/a.html", "/mnt/usb", "/base/bin/viewer",
@@ -303,7 +302,8 @@ private Q_SLOTS:
                 {QString(QLatin1String("a\0b\x01\x1f\x7f", 6)) + QChar(0x85) + "c", "abc"}, {"x" + pair, "x" + pair},
                 {high + QString("x"), replaced + "x"}, {QString("x") + high, "x" + replaced},
                 {QString(QChar(0xde00)) + high, replaced + replaced}, {high + pair, replaced + pair},
-                {QString(QChar(0xfffe)) + QChar(0xffff) + QChar(0xfffd), replaced.repeated(3)}, {QChar(0xe000), QChar(0xe000)}};
+                {QString(QChar(0xfffe)) + QChar(0xffff) + QChar(0xfffd), replaced.repeated(3)},
+                {QChar(0xe000), QChar(0xe000)}};
         for (const auto& [text, clean] : rows)
             QCOMPARE(uiutils::markupText(text), clean);
     }

@@ -39,7 +39,8 @@ private Q_SLOTS:
     void aKeyOfTwoFamiliesBelongsToTheFirst()
     {
         for (const auto& [key, family] : {std::pair("row_table_0", "row"), std::pair("table_row_section_0", "table"),
-                     std::pair("section_table_", "section"), std::pair("my_table_section_1", "table"), std::pair("tables_rows", "")}) {
+                     std::pair("section_table_", "section"), std::pair("my_table_section_1", "table"),
+                     std::pair("tables_rows", "")}) {
             const TableReader node(QJsonObject {{key, QJsonObject()}});
             QStringList seen;
             node.forEachSection(NodeReader::ByKey, [&](const QJsonObject&) { seen += "section"; });
@@ -66,7 +67,8 @@ private Q_SLOTS:
 
     void enabled()
     {
-        for (const char* node : {"{}", R"({"enabled": true})", R"({"enabled": ""})", R"({"enabled": "no"})", R"({"enabled": null})"})
+        for (const char* node : {"{}", R"({"enabled": true})", R"({"enabled": ""})", R"({"enabled": "no"})",
+                     R"({"enabled": null})"})
             QVERIFY2(NodeReader(json(node)).isEnabled(), node);
         for (const char* node : {R"({"enabled": false})", R"({"enabled": "false"})", R"({"enabled": "0"})"})
             QVERIFY2(!NodeReader(json(node)).isEnabled(), node);
@@ -79,8 +81,8 @@ private Q_SLOTS:
         const std::pair<const char*, int> rows[] {{"3", 3}, {"\"3\"", 3}, {"0", 0}, {"-4", 0}, {"2147483648", most},
                 {"1e300", most}, {"\"many\"", 0}, {"{}", 0}};
         for (const auto& [count, columns] : rows) {
-            const TableReader table(json(R"({"a": "A", "col_label_1": "B", "col_label_02": "no number", "col_label_-1": "",
-                    "col_label_1000": "too far", "num_columns": )" + QByteArray(count) + "}"));
+            const TableReader table(json(R"({"a": "A", "col_label_1": "B", "col_label_02": "no number",
+                    "col_label_-1": "", "col_label_1000": "too far", "num_columns": )" + QByteArray(count) + "}"));
             QCOMPARE(table.columnCount(), columns);
             QCOMPARE(table.columnLabels().size(), columns);
             if (columns == 3)

@@ -58,7 +58,8 @@ private Q_SLOTS:
                 // One's own attribute is checked, and hides no other key.
                 {R"({"label": "", "cell_0": {"label": "", "attr_unit": 1}})", "/cell_0/attr_unit: "},
                 {R"({"label": "", "cell_0": {"label": "", "attr_unit": "", "title": 1}})", "/cell_0/title: "},
-                {"{}", ": "}, {R"({"label": "", "cell_0": {"label": "", "attr_status": "17"}})", "/cell_0/attr_status: "},
+                {"{}", ": "},
+                {R"({"label": "", "cell_0": {"label": "", "attr_status": "17"}})", "/cell_0/attr_status: "},
                 {R"({"label": "", "cell_x": 1, "note": 2, "cell_0": {"label": "", "x": 3}})", ""}};
         for (const auto& [row, place] : rows) {
             const QJsonObject table {{"node_type", "table"}, {"tag", ""}, {"title", ""}, {"use_row_labels", true},

@@ -3,7 +3,6 @@
 
 #include "document/reportmetadata.h"
 
-
 #include <sys/stat.h>
 
 namespace {
@@ -50,13 +49,15 @@ private Q_SLOTS:
     {
         const QString metadata("/cust/private/reports/metadata");
         const std::pair<const char*, QString> rows[] {{"/cust/public/reports/", metadata + "/"},
-                {"/cust/public/reports/otdr/a/", metadata + "/otdr/a/"}, {"/cust/public/reports/otdr", metadata + "/otdr"},
+                {"/cust/public/reports/otdr/a/", metadata + "/otdr/a/"},
+                {"/cust/public/reports/otdr", metadata + "/otdr"},
                 {"/cust/private/reports/autosave/otdr/", metadata + "/otdr/"},
                 {"/cust/public/reports/autosave/", "/cust/public/reports/metadata/"},
                 {"/cust/public/reports/otdr/autosave/", metadata + "/otdr/autosave/"},
                 // Without a slash behind they are no such folders.
                 {"/cust/public/reports", "/cust/public/reports"},
-                {"/cust/private/reports/autosave", "/cust/private/reports/autosave"}, {"/mnt/usb/", "/mnt/usb/"}, {"", ""}};
+                {"/cust/private/reports/autosave", "/cust/private/reports/autosave"}, {"/mnt/usb/", "/mnt/usb/"},
+                {"", ""}};
         for (const auto& [reportFolder, folder] : rows) {
             ReportMetadata record;
             record.updateMetadataPathBase(reportFolder);
@@ -123,8 +124,9 @@ private Q_SLOTS:
     {
         const QByteArray most(int(ReportMetadata::maximumFileSize), ' ');
         const std::pair<QByteArray, bool> rows[] {{"{}", true}, {R"({"later": [1], "info": {}})", true},
-                {QByteArray(most).replace(0, 2, "{}"), true}, {"{}" + most, false}, {R"({"type": "x", "info": {"wo": )", false},
-                {"{} {}", false}, {R"(["type"])", false}, {R"({"format": "x", "type": []})", false},
+                {QByteArray(most).replace(0, 2, "{}"), true}, {"{}" + most, false}, {"{} {}", false},
+                {R"({"type": "x", "info": {"wo": )", false},
+                {R"(["type"])", false}, {R"({"format": "x", "type": []})", false},
                 {R"({"type": "x", "info": ["wo"]})", false}, {R"({"type": "x", "info": {"wo": {"wo": "x"}}})", false}};
         for (const auto& [text, isTaken] : rows) {
             ReportMetadata record = recordOf("a.pdf");
@@ -173,8 +175,9 @@ private Q_SLOTS:
             record.setFormat("HTML");
             for (int i = 0; i < pairs; ++i)
                 record.setInfo(QString::number(i), QString("value"));
-            QTest::ignoreMessage(QtWarningMsg, qPrintable("bool ReportMetadata::saveMetadataToFile() could not open file "
-                                                          + record.metadataFilePath()));
+            const QString line
+                    = "bool ReportMetadata::saveMetadataToFile() could not open file " + record.metadataFilePath();
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(line));
             QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^(The record has|Cannot (write|create|replace)) "));
             bool isSaved = true;
             {

@@ -192,8 +192,8 @@ private Q_SLOTS:
     void damagedFiles()
     {
         const std::pair<QByteArray, const char*> rows[] {{"", "1:1"}, {"{\"tag\": \"otdr\",\n  \"title\": \"Fi", "2:"},
-                {"[1, 2]", "1:1"}, {"{\n\"tag\": \"\xff\xfe\"}", "2:"}, {"{}\n\n x", "3:"}, {QByteArray(100'000, '['), "1:"},
-                {QByteArray("{\"tag\": \"a\0b\"", 12), "1:"}};
+                {"[1, 2]", "1:1"}, {"{\n\"tag\": \"\xff\xfe\"}", "2:"}, {"{}\n\n x", "3:"},
+                {QByteArray(100'000, '['), "1:"}, {QByteArray("{\"tag\": \"a\0b\"", 12), "1:"}};
         for (const auto& [contents, place] : rows) {
             QTemporaryDir dir;
             ReportTemplate report;

@@ -80,7 +80,8 @@ private Q_SLOTS:
         // One mark and one folder alone are replaced, in front only, and their case counts.
         const std::pair<const char*, const char*> rows[] {{"/cust/public/reports/a.pdf", "Internal:/reports/a.pdf"},
                 {"/mnt/usb/a", "USB:/a"}, {"copy:/cust/public/a", "Internal:/a"}, {"cut:/mnt/usb/a", "USB:/a"},
-                {"copy:cut:/mnt/usb/a", "cut:/mnt/usb/a"}, {"/cust/public/mnt/usb/cust/public", "Internal:/mnt/usb/cust/public"},
+                {"copy:cut:/mnt/usb/a", "cut:/mnt/usb/a"},
+                {"/cust/public/mnt/usb/cust/public", "Internal:/mnt/usb/cust/public"},
                 {"Copy:/CUST/public", "Copy:/CUST/public"}, {"/tmp/copy:/mnt/usb", "/tmp/copy:/mnt/usb"}, {"", ""}};
         for (const auto& [path, shown] : rows)
             QCOMPARE(FileUtils().getSanitizedPathName(path), QString(shown));
@@ -142,12 +143,12 @@ private Q_SLOTS:
         const auto restore = qScopeGuard([before = QLocale()] { QLocale::setDefault(before); });
         QLocale::setDefault(QLocale(QLocale::German));
         // The last in single precision.
-        const std::pair<qint64, const char*> rows[] {{100, "0.00 K"}, {999, "0.00 K"}, {1000, "1.00 K"}, {1'000'000, "1.00 M"},
-                {999'999'999, "1000.00 M"}, {1'000'000'000, "1.00 G"}, {999'995'000, "999.99 M"}};
+        const std::pair<qint64, QString> rows[] {{100, "0.00 K"}, {999, "0.00 K"}, {1000, "1.00 K"},
+                {1'000'000, "1.00 M"}, {999'999'999, "1000.00 M"}, {1'000'000'000, "1.00 G"}, {999'995'000, "999.99 M"}};
         for (const auto& [bytes, text] : rows) {
             FileUtils files;
             files.sendNotificationNotEnoughSpace("/mnt/usb", bytes);
-            QCOMPARE(manager()->currentDialog()->msg(), QString("Not enough disk space for USB: - would need %1").arg(text));
+            QCOMPARE(manager()->currentDialog()->msg(), "Not enough disk space for USB: - would need " + text);
         }
     }
 

@@ -76,9 +76,10 @@ private Q_SLOTS:
                 {"minRange", 5, "minRangeChanged rangeDescriptionChanged", "minRangeChanged rangeDescriptionChanged"},
                 {"maxRange", 5, "maxRangeChanged rangeDescriptionChanged", "maxRangeChanged rangeDescriptionChanged"},
                 {"regex", "a*", "validatorChanged regexChanged", "validatorChanged regexChanged"},
-                {"inputType", 9u, "inputTypeChanged", "inputTypeChanged"}, {"precision", 3u, "precisionChanged", "precisionChanged"},
-                {"value", 1, "valueChanged", "valueChanged"}, {"persistent", true, "", ""},
-                {"mandatory", true, "mandatoryChanged", ""}, {"valueOk", false, "valueOkChanged", ""}, {"registerId", "id", "", ""}};
+                {"inputType", 9u, "inputTypeChanged", "inputTypeChanged"}, {"value", 1, "valueChanged", "valueChanged"},
+                {"precision", 3u, "precisionChanged", "precisionChanged"}, {"persistent", true, "", ""},
+                {"mandatory", true, "mandatoryChanged", ""}, {"valueOk", false, "valueOkChanged", ""},
+                {"registerId", "id", "", ""}};
         for (const auto& [property, value, first, again] : rows) {
             if (qstrcmp(property, "registerId") == 0)
                 QTest::ignoreMessage(QtWarningMsg, "registerId already exsist!");
@@ -176,10 +177,11 @@ private Q_SLOTS:
     {
         const QDateTime moment(QDate(2020, 2, 29), QTime(1, 2, 3, 4), Qt::UTC);
         const std::tuple<QString, QVariant, const char*> rows[] {{UiData::TYPE_STRING, "abc", "abc"},
-                {UiData::TYPE_BOOL, true, "True"}, {UiData::TYPE_BOOL, QVariant(), "False"}, {UiData::TYPE_BOOL, 2, "True"},
-                {UiData::TYPE_ENUM, 20, "Twenty"}, {UiData::TYPE_ENUM, 21, ""}, {UiData::TYPE_DOUBLE, 1, "1.00"},
-                {UiData::TYPE_INT64, -9007199254740993LL, "-9007199254740993"}, {UiData::TYPE_INT, QVariant(), ""},
-                {UiData::TYPE_VEC_INT, "1,,3", "1,,3"}, {UiData::TYPE_STRING, QTime(10, 20, 0, 5), "10:20:00.005"},
+                {UiData::TYPE_BOOL, true, "True"}, {UiData::TYPE_BOOL, QVariant(), "False"},
+                {UiData::TYPE_BOOL, 2, "True"}, {UiData::TYPE_ENUM, 20, "Twenty"}, {UiData::TYPE_ENUM, 21, ""},
+                {UiData::TYPE_DOUBLE, 1, "1.00"}, {UiData::TYPE_INT64, -9007199254740993LL, "-9007199254740993"},
+                {UiData::TYPE_INT, QVariant(), ""}, {UiData::TYPE_VEC_INT, "1,,3", "1,,3"},
+                {UiData::TYPE_STRING, QTime(10, 20, 0, 5), "10:20:00.005"},
                 {UiData::TYPE_STRING, moment, "2020-02-29T01:02:03.004Z"}, {UiData::TYPE_INT, QPointF(1, 2.5), "1,2.5"},
                 {"", QColor(255, 0, 0, 128), "#80ff0000"}};
         for (const auto& [type, value, text] : rows) {
@@ -214,8 +216,9 @@ private Q_SLOTS:
         // Not beyond 32 bits; what stands behind a NUL counts.
         const std::tuple<QString, QVariant, QVariantList> rows[] {{UiData::TYPE_VEC_INT, "1,,x,3", {1, 0, 0, 3}},
                 {UiData::TYPE_VEC_INT, "3000000000,2147483647", {0, 2147483647}},
-                {UiData::TYPE_VEC_DOUBLE, "1.5,,-2e3", {1.5, 0.0, -2000.0}}, {UiData::TYPE_VEC_STRING, "a,,b", {"a", "", "b"}},
-                {UiData::TYPE_VEC_INT, "", {0}}, {UiData::TYPE_VEC_STRING, QString("a,") + QChar(0) + ",b", {"a", "b"}},
+                {UiData::TYPE_VEC_DOUBLE, "1.5,,-2e3", {1.5, 0.0, -2000.0}}, {UiData::TYPE_VEC_INT, "", {0}},
+                {UiData::TYPE_VEC_STRING, "a,,b", {"a", "", "b"}},
+                {UiData::TYPE_VEC_STRING, QString("a,") + QChar(0) + ",b", {"a", "b"}},
                 {UiData::TYPE_VEC_INT, QVariantList(), {}}, {UiData::TYPE_VEC_INT, QVariantList {4, 5}, {4, 5}}};
         for (const auto& [type, value, elements] : rows) {
             UiData item;
