@@ -175,23 +175,35 @@ private Q_SLOTS:
     {
         FileUtils files;
         QSignalSpy accepted(&files, &FileUtils::accepted);
+        QSignalSpy rejected(&files, &FileUtils::rejected);
         KIVNotification other;
-        files.onNotificationAccepted(&other);
-        files.onNotificationAccepted(nullptr);
+        const auto answer = [&](const QVector<KIVNotification*>& notifications) {
+            for (KIVNotification* notification : notifications) {
+                files.onNotificationAccepted(notification);
+                files.onNotificationRejected(notification);
+            }
+        };
+        answer({&other, nullptr});
         files.sendNotificationOverwriteRequest("/mnt/usb/a", {});
         KIVNotification* own = manager()->currentDialog();
-        files.onNotificationAccepted(&other);
-        files.onNotificationAccepted(nullptr);
-        QCOMPARE(accepted.size(), 0);
+        answer({&other, nullptr});
+        QCOMPARE(accepted.size() + rejected.size(), 0);
 
         other.setValue("uid", own->value("uid"));
-        files.onNotificationAccepted(&other);
-        QCOMPARE(accepted.size(), 1);
+        answer({&other});
+        QCOMPARE(accepted.size() * rejected.size(), 1);
         for (KIVNotification* notification : {&other, own})
             notification->setValue("uid", QVariant());
-        files.onNotificationAccepted(&other);
-        files.onNotificationAccepted(own);
-        QCOMPARE(accepted.size(), 1);
+        answer({&other, own});
+        QCOMPARE(accepted.size() * rejected.size(), 1);
+        // The second is asked when the first has answered.
+        FileUtils second;
+        QSignalSpy declined(&second, &FileUtils::rejected);
+        second.sendNotificationOverwriteRequest("/mnt/usb/b", {});
+        manager()->accept();
+        manager()->reject();
+        QCOMPARE(declined.size(), 1);
+        QCOMPARE(accepted.size() * rejected.size(), 1);
     }
 
     void theLastQuestionCounts()
