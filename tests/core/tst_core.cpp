@@ -1,4 +1,5 @@
 #include "filesizelimit.h"
+#include "testfiles.h"
 
 #include "base/durablefile.h"
 #include "base/paths.h"
@@ -6,12 +7,6 @@
 #include "base/temporaryfolder_p.h"
 #include "base/temporarysibling_p.h"
 #include "base/xmltext_p.h"
-
-#include <QDir>
-#include <QFile>
-#include <QScopeGuard>
-#include <QTemporaryDir>
-#include <QtTest>
 
 #include <atomic>
 #include <dlfcn.h>
@@ -35,17 +30,6 @@ void happens(std::function<void()>& deed)
 {
     if (deed)
         std::exchange(deed, nullptr)();
-}
-
-QByteArray contentsOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
-
-QStringList namesIn(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot | QDir::System, QDir::Name);
 }
 
 /// As a killed process leaves it: with a file in a folder within.
@@ -87,33 +71,24 @@ class CoreTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void pathsOnDisk_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("moved");
-        for (const char* path : {"/cust/public/reports/a.html", "/cust", "/mnt/usb/a.html", "/mnt/usb", "/base/bin/viewer",
-                     "/tmp/rep_plot_3.png", "/cust/public/reports/"})
-            QTest::newRow(path) << path << QString("/root of mine%1").arg(path);
-        for (const char* path : {"/customer/a", "/mnt/usb2/a", "/tmp/a.png", "cust/a", "../cust/a", "/cust/../..",
-                     "/cust/../etc/passwd", "/tmp/rep_plot_/../../etc/passwd", ""})
-            QTest::newRow(path) << path << path;
-        QTest::newRow("doubled slash") << "//cust//a" << "/root of mine/cust/a";
-        QTest::newRow("up and down") << "/cust/../mnt/./usb/a" << "/root of mine/mnt/usb/a";
-        QTest::newRow("from elsewhere") << "/etc/../base/a" << "/root of mine/base/a";
-        QTest::newRow("above the top") << "/../../cust/a" << "/root of mine/cust/a";
-        QTest::newRow("above the top from inside") << "/cust/../../../cust/a" << "/root of mine/cust/a";
-        QTest::newRow("inside") << "/cust/a/../../cust/b/.." << "/root of mine/cust";
-    }
     void pathsOnDisk()
     {
-        QFETCH(QString, path);
-        QFETCH(QString, moved);
-        const QByteArray before = qgetenv("UIUTILS_ROOT");
+        const std::pair<const char*, const char*> rows[] {{"//cust//a", "/cust/a"},
+                {"/cust/../mnt/./usb/a", "/mnt/usb/a"}, {"/etc/../base/a", "/base/a"}, {"/../../cust/a", "/cust/a"},
+                {"/cust/../../../cust/a", "/cust/a"}, {"/cust/a/../../cust/b/..", "/cust"}};
+        const auto restore = qScopeGuard([before = qgetenv("UIUTILS_ROOT")] { qputenv("UIUTILS_ROOT", before); });
         qputenv("UIUTILS_ROOT", "/root of mine");
-        QCOMPARE(onDisk(path), moved);
+        for (const char* path : {"/cust/public/reports/a.html", "/cust", "/mnt/usb/a.html", "/mnt/usb", "/base/bin/viewer",
+                     "/tmp/rep_plot_3.png", "/cust/public/reports/"})
+            QCOMPARE(onDisk(path), QString("/root of mine") + path);
+        for (const auto& [path, place] : rows)
+            QCOMPARE(onDisk(path), QString("/root of mine") + place);
+        for (const char* path : {"/customer/a", "/mnt/usb2/a", "/tmp/a.png", "cust/a", "../cust/a", "/cust/../..",
+                     "/cust/../etc/passwd", "/tmp/rep_plot_/../../etc/passwd", ""})
+            QCOMPARE(onDisk(path), QString(path));
         qputenv("UIUTILS_ROOT", "");
-        QCOMPARE(onDisk(path), path);
-        qputenv("UIUTILS_ROOT", before);
+        for (const char* path : {"//cust//a", "/cust/../mnt/./usb/a", "/mnt/usb", "/etc/../base/a"})
+            QCOMPARE(onDisk(path), QString(path));
     }
 
     /// Neither the instrument's own folders are touched then, nor those of a name that only looks alike.
@@ -153,6 +128,8 @@ private Q_SLOTS:
         QVERIFY2(writeNewFileDurably(path, "new", &error) == NewFile::Written, qPrintable(error));
         QVERIFY(writeNewFileDurably(dir.filePath("none/report.html"), "new", &error) == NewFile::Failed);
         QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("report.html")});
+        const QString longest = dir.filePath(QString(255, 'n'));
+        QVERIFY(writeFileDurably(longest, "x") && contentsOf(longest) == "x");
     }
 
     /// What belongs to somebody who lives stays, and so does what is no file of ours.
@@ -255,56 +232,30 @@ private Q_SLOTS:
         QVERIFY(writeFileDurably(path, "other", nullptr, temporary));
         QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("report.pdf")});
     }
-    void durableWriteTakesTheLongestName()
-    {
-        QTemporaryDir dir;
-        const QString path = dir.filePath(QString(255, QLatin1Char('n')));
-        QVERIFY(writeFileDurably(path, QByteArray("x")));
-        QCOMPARE(contentsOf(path), QByteArray("x"));
-    }
-
-    void durableWriteDoesNotFollowAPlantedLink()
-    {
-        QTemporaryDir dir;
-        const QString victim = dir.filePath(QStringLiteral("victim"));
-        const QString link = dir.filePath(QStringLiteral("rep_plot_0.png"));
-        QVERIFY(writeFileDurably(victim, QByteArray("untouched")));
-        QVERIFY(QFile::link(victim, link));
-        QVERIFY(writeFileDurably(link, QByteArray("new")));
-        QCOMPARE(contentsOf(victim), QByteArray("untouched"));
-        QCOMPARE(contentsOf(link), QByteArray("new"));
-        QVERIFY(!QFileInfo(link).isSymLink());
-    }
-
-    void durableWriteKeepsPermissions_data()
-    {
-        QTest::addColumn<int>("mode");
-        QTest::newRow("private") << 0600;
-        QTest::newRow("wider than the umask leaves") << 0666;
-        QTest::newRow("for reading only") << 0444;
-    }
     void durableWriteKeepsPermissions()
     {
-        QFETCH(int, mode);
         QTemporaryDir dir;
-        const QString path = dir.filePath(QStringLiteral("report.html"));
+        const QString path = dir.filePath("report.html");
         const auto modeOf = [](const QString& file) {
             struct stat info = {};
             return ::lstat(QFile::encodeName(file).constData(), &info) == 0 ? int(info.st_mode & 07777) : -1;
         };
-        const mode_t umaskBefore = ::umask(027);
-        const auto restoreUmask = qScopeGuard([umaskBefore] { ::umask(umaskBefore); });
-
-        QVERIFY(writeFileDurably(path, QByteArray("new")));
+        const auto restoreUmask = qScopeGuard([before = ::umask(027)] { ::umask(before); });
+        QVERIFY(writeFileDurably(path, "new"));
         QCOMPARE(modeOf(path), 0640);
-        QCOMPARE(::chmod(QFile::encodeName(path).constData(), mode_t(mode)), 0);
-        QVERIFY(writeFileDurably(path, QByteArray("replaced")));
-        QCOMPARE(modeOf(path), mode);
-
-        const QString link = dir.filePath(QStringLiteral("link"));
+        // Private, wider than the umask leaves, and for reading only.
+        for (const int mode : {0600, 0666, 0444}) {
+            QCOMPARE(::chmod(QFile::encodeName(path).constData(), mode_t(mode)), 0);
+            QVERIFY(writeFileDurably(path, "replaced"));
+            QCOMPARE(modeOf(path), mode);
+        }
+        // A planted link is replaced, not followed.
+        const QString link = dir.filePath("link");
         QVERIFY(QFile::link(path, link));
-        QVERIFY(writeFileDurably(link, QByteArray("in place of the link")));
+        QVERIFY(writeFileDurably(link, "in place of the link"));
         QCOMPARE(modeOf(link), 0640);
+        QVERIFY(!QFileInfo(link).isSymLink());
+        QCOMPARE(contentsOf(path) + ' ' + contentsOf(link), QByteArray("replaced in place of the link"));
     }
 
     /// Larger than any buffer.
@@ -341,33 +292,20 @@ private Q_SLOTS:
         QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("folder")});
     }
 
-    void markupText_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("clean");
-        const QChar high(0xd83d);
-        const QChar low(0xde00);
-        const QString pair = QString(high) + low;
-        const QString replaced(QChar(QChar::ReplacementCharacter));
-        QTest::newRow("plain") << QStringLiteral("a\tb\nc\rd <&>\"'") << QStringLiteral("a\tb\nc\rd <&>\"'");
-        QTest::newRow("scripts") << QStringLiteral("Ελλάδα 中文 العربية") << QStringLiteral("Ελλάδα 中文 العربية");
-        QTest::newRow("controls") << QString(QLatin1String("a\0b\x01\x1f\x7f", 6)) + QChar(0x85) + QLatin1Char('c')
-                                  << QStringLiteral("abc");
-        QTest::newRow("pair") << QString(QLatin1Char('x') + pair) << QString(QLatin1Char('x') + pair);
-        QTest::newRow("high alone") << QString(QString(high) + QLatin1Char('x')) << QString(replaced + QLatin1Char('x'));
-        QTest::newRow("high at the end") << QString(QLatin1Char('x') + QString(high))
-                                         << QString(QLatin1Char('x') + replaced);
-        QTest::newRow("low before high") << QString(QString(low) + high) << QString(replaced + replaced);
-        QTest::newRow("high before a pair") << QString(QString(high) + pair) << QString(replaced + pair);
-        QTest::newRow("non-characters") << QString(QString(QChar(0xfffe)) + QChar(0xffff) + QChar(0xfffd))
-                                        << QString(replaced + replaced + replaced);
-        QTest::newRow("private use") << QString(QChar(0xe000)) << QString(QChar(0xe000));
-    }
     void markupText()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, clean);
-        QCOMPARE(uiutils::markupText(text), clean);
+        const QChar high(0xd83d);
+        const QString pair = QString(high) + QChar(0xde00);
+        const QString replaced(QChar(QChar::ReplacementCharacter));
+        const std::pair<QString, QString> rows[] {{"a\tb\nc\rd <&>\"'", "a\tb\nc\rd <&>\"'"},
+                {"Ελλάδα 中文 العربية", "Ελλάδα 中文 العربية"},
+                {QString(QLatin1String("a\0b\x01\x1f\x7f", 6)) + QChar(0x85) + "c", "abc"}, {"x" + pair, "x" + pair},
+                {high + QString("x"), replaced + "x"}, {QString("x") + high, "x" + replaced},
+                {QString(QChar(0xde00)) + high, replaced + replaced}, {high + pair, replaced + pair},
+                {QString(QChar(0xfffe)) + QChar(0xffff) + QChar(0xfffd), replaced.repeated(3)},
+                {QChar(0xe000), QChar(0xe000)}};
+        for (const auto& [text, clean] : rows)
+            QCOMPARE(uiutils::markupText(text), clean);
     }
 };
 

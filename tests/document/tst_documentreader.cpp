@@ -1,6 +1,5 @@
 #include "document/documentreader_p.h"
 
-#include <QJsonDocument>
 #include <QtTest>
 
 using namespace uiutils;
@@ -37,26 +36,18 @@ private Q_SLOTS:
         QCOMPARE(seen, (QStringList {"s0", "s1"}));
     }
 
-    void aKeyOfTwoFamiliesBelongsToTheFirst_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("family");
-        QTest::newRow("row") << "row_table_0" << "row";
-        QTest::newRow("table") << "table_row_section_0" << "table";
-        QTest::newRow("section") << "section_table_" << "section";
-        QTest::newRow("inside") << "my_table_section_1" << "table";
-        QTest::newRow("of none") << "tables_rows" << "";
-    }
     void aKeyOfTwoFamiliesBelongsToTheFirst()
     {
-        QFETCH(QString, key);
-        QFETCH(QString, family);
-        const TableReader node(QJsonObject {{key, QJsonObject()}});
-        QStringList seen;
-        node.forEachSection(NodeReader::ByKey, [&](const QJsonObject&) { seen += "section"; });
-        node.forEachTable(NodeReader::ByKey, [&](const QString&, const QJsonObject&) { seen += "table"; });
-        node.forEachRow(NodeReader::ByKey, [&](const QString&, const QJsonObject&) { seen += "row"; });
-        QCOMPARE(seen.join(' '), family);
+        for (const auto& [key, family] : {std::pair("row_table_0", "row"), std::pair("table_row_section_0", "table"),
+                     std::pair("section_table_", "section"), std::pair("my_table_section_1", "table"),
+                     std::pair("tables_rows", "")}) {
+            const TableReader node(QJsonObject {{key, QJsonObject()}});
+            QStringList seen;
+            node.forEachSection(NodeReader::ByKey, [&](const QJsonObject&) { seen += "section"; });
+            node.forEachTable(NodeReader::ByKey, [&](const QString&, const QJsonObject&) { seen += "table"; });
+            node.forEachRow(NodeReader::ByKey, [&](const QString&, const QJsonObject&) { seen += "row"; });
+            QCOMPARE(seen.join(' '), QString(family));
+        }
     }
 
     void attributesAndLogEntries()
@@ -74,51 +65,30 @@ private Q_SLOTS:
         QCOMPARE(entries, (QStringList {"log_0=first", "log_1=second", "log_2="}));
     }
 
-    void enabled_data()
-    {
-        QTest::addColumn<QByteArray>("node");
-        QTest::addColumn<bool>("enabled");
-        QTest::newRow("absent") << QByteArray("{}") << true;
-        QTest::newRow("true") << QByteArray(R"({"enabled": true})") << true;
-        QTest::newRow("false") << QByteArray(R"({"enabled": false})") << false;
-        QTest::newRow("text false") << QByteArray(R"({"enabled": "false"})") << false;
-        QTest::newRow("text 0") << QByteArray(R"({"enabled": "0"})") << false;
-        QTest::newRow("empty text") << QByteArray(R"({"enabled": ""})") << true;
-        QTest::newRow("other text") << QByteArray(R"({"enabled": "no"})") << true;
-        QTest::newRow("null") << QByteArray(R"({"enabled": null})") << true;
-    }
     void enabled()
     {
-        QFETCH(QByteArray, node);
-        QFETCH(bool, enabled);
-        QCOMPARE(NodeReader(json(node)).isEnabled(), enabled);
+        for (const char* node : {"{}", R"({"enabled": true})", R"({"enabled": ""})", R"({"enabled": "no"})",
+                     R"({"enabled": null})"})
+            QVERIFY2(NodeReader(json(node)).isEnabled(), node);
+        for (const char* node : {R"({"enabled": false})", R"({"enabled": "false"})", R"({"enabled": "0"})"})
+            QVERIFY2(!NodeReader(json(node)).isEnabled(), node);
     }
 
-    void columnCount_data()
-    {
-        QTest::addColumn<QByteArray>("count");
-        QTest::addColumn<int>("columns");
-        QTest::newRow("number") << QByteArray("3") << 3;
-        QTest::newRow("text as the builder sets it") << QByteArray("\"3\"") << 3;
-        QTest::newRow("zero") << QByteArray("0") << 0;
-        QTest::newRow("negative") << QByteArray("-4") << 0;
-        QTest::newRow("2^31") << QByteArray("2147483648") << TableReader::maximumColumns;
-        QTest::newRow("1e300") << QByteArray("1e300") << TableReader::maximumColumns;
-        QTest::newRow("word") << QByteArray("\"many\"") << 0;
-        QTest::newRow("object") << QByteArray("{}") << 0;
-    }
     void columnCount()
     {
-        QFETCH(QByteArray, count);
-        QFETCH(int, columns);
-        const TableReader table(json("{\"a\": \"A\", \"col_label_1\": \"B\", \"col_label_02\": \"no number\", \"col_label_-1\": \"\","
-                                     "\"col_label_1000\": \"too far\", \"num_columns\": " + count + "}"));
-        QCOMPARE(table.columnCount(), columns);
-        QCOMPARE(table.columnLabels().size(), columns);
-        if (columns == 3)
-            QCOMPARE(table.columnLabels(), (QStringList {"", "B", ""}));
+        const int most = TableReader::maximumColumns;
+        // A text is how the builder sets it.
+        const std::pair<const char*, int> rows[] {{"3", 3}, {"\"3\"", 3}, {"0", 0}, {"-4", 0}, {"2147483648", most},
+                {"1e300", most}, {"\"many\"", 0}, {"{}", 0}};
+        for (const auto& [count, columns] : rows) {
+            const TableReader table(json(R"({"a": "A", "col_label_1": "B", "col_label_02": "no number",
+                    "col_label_-1": "", "col_label_1000": "too far", "num_columns": )" + QByteArray(count) + "}"));
+            QCOMPARE(table.columnCount(), columns);
+            QCOMPARE(table.columnLabels().size(), columns);
+            if (columns == 3)
+                QCOMPARE(table.columnLabels(), (QStringList {"", "B", ""}));
+        }
     }
-
 };
 
 QTEST_GUILESS_MAIN(DocumentReaderTest)

@@ -1,30 +1,11 @@
 #include "filesizelimit.h"
+#include "testfiles.h"
 
 #include "document/reportmetadata.h"
-
-#include <QDir>
-#include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QTemporaryDir>
-#include <QtTest>
 
 #include <sys/stat.h>
 
 namespace {
-
-QByteArray contentsOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
-
-bool writeFile(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly)
-            && file.write(contents) == contents.size();
-}
 
 const char* const reports = "/cust/public/reports/otdr/";
 const char* const records = "/cust/private/reports/metadata/otdr/";
@@ -55,10 +36,6 @@ class ReportMetadataTest : public QObject
     QTemporaryDir m_root;
 
     QString onDisk(const QString& path) const { return m_root.path() + path; }
-    QStringList recordsOnDisk() const
-    {
-        return QDir(onDisk(records)).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    }
 
 private Q_SLOTS:
     void init()
@@ -68,29 +45,25 @@ private Q_SLOTS:
         QDir(onDisk("/cust")).removeRecursively();
     }
 
-    void folders_data()
-    {
-        QTest::addColumn<QString>("reportFolder");
-        QTest::addColumn<QString>("folder");
-        QTest::newRow("reports") << "/cust/public/reports/" << "/cust/private/reports/metadata/";
-        QTest::newRow("below") << "/cust/public/reports/otdr/a/" << "/cust/private/reports/metadata/otdr/a/";
-        QTest::newRow("autosave") << "/cust/private/reports/autosave/otdr/" << "/cust/private/reports/metadata/otdr/";
-        QTest::newRow("autosave of the public") << "/cust/public/reports/autosave/" << "/cust/public/reports/metadata/";
-        QTest::newRow("another autosave") << "/cust/public/reports/otdr/autosave/"
-                                          << "/cust/private/reports/metadata/otdr/autosave/";
-        QTest::newRow("below, without a slash behind") << "/cust/public/reports/otdr" << "/cust/private/reports/metadata/otdr";
-        QTest::newRow("without a slash behind") << "/cust/public/reports" << "/cust/public/reports";
-        QTest::newRow("autosave without one") << "/cust/private/reports/autosave" << "/cust/private/reports/autosave";
-        QTest::newRow("stick") << "/mnt/usb/" << "/mnt/usb/";
-        QTest::newRow("empty") << "" << "";
-    }
     void folders()
     {
-        QFETCH(QString, reportFolder);
-        ReportMetadata record;
-        record.updateMetadataPathBase(reportFolder);
-        QTEST(record.metadataPath(), "folder");
-        QCOMPARE(record.originBase(), reportFolder);
+        const QString metadata("/cust/private/reports/metadata");
+        const std::pair<const char*, QString> rows[] {{"/cust/public/reports/", metadata + "/"},
+                {"/cust/public/reports/otdr/a/", metadata + "/otdr/a/"},
+                {"/cust/public/reports/otdr", metadata + "/otdr"},
+                {"/cust/private/reports/autosave/otdr/", metadata + "/otdr/"},
+                {"/cust/public/reports/autosave/", "/cust/public/reports/metadata/"},
+                {"/cust/public/reports/otdr/autosave/", metadata + "/otdr/autosave/"},
+                // Without a slash behind they are no such folders.
+                {"/cust/public/reports", "/cust/public/reports"},
+                {"/cust/private/reports/autosave", "/cust/private/reports/autosave"}, {"/mnt/usb/", "/mnt/usb/"},
+                {"", ""}};
+        for (const auto& [reportFolder, folder] : rows) {
+            ReportMetadata record;
+            record.updateMetadataPathBase(reportFolder);
+            QCOMPARE(record.metadataPath(), folder);
+            QCOMPARE(record.originBase(), QString(reportFolder));
+        }
     }
 
     void originPaths()
@@ -147,35 +120,25 @@ private Q_SLOTS:
         QCOMPARE(record.metadataName() + record.metadataPath() + record.originBase(), QString());
     }
 
-    void recordsOfOthers_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<bool>("taken");
-        const QByteArray most(int(ReportMetadata::maximumFileSize), ' ');
-        QTest::newRow("empty object") << QByteArray("{}") << true;
-        QTest::newRow("unknown key") << QByteArray(R"({"later": [1], "info": {}})") << true;
-        QTest::newRow("as large as may be") << QByteArray(most).replace(0, 2, "{}") << true;
-        QTest::newRow("too large") << QByteArray("{}" + most) << false;
-        QTest::newRow("cut off") << QByteArray(R"({"type": "x", "info": {"wo": )") << false;
-        QTest::newRow("more behind") << QByteArray("{} {}") << false;
-        QTest::newRow("no object") << QByteArray(R"(["type"])") << false;
-        QTest::newRow("list for a text") << QByteArray(R"({"format": "x", "type": []})") << false;
-        QTest::newRow("list for pairs") << QByteArray(R"({"type": "x", "info": ["wo"]})") << false;
-        QTest::newRow("object in a pair") << QByteArray(R"({"type": "x", "info": {"wo": {"wo": "x"}}})") << false;
-    }
     void recordsOfOthers()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(bool, taken);
-        ReportMetadata record = recordOf("a.pdf");
-        record.updateOriginFilePath();
-        const QStringList before = valuesOf(record);
-        QVERIFY(writeFile(onDisk(record.metadataFilePath()), text));
-        if (!taken)
-            QTest::ignoreMessage(QtWarningMsg, "bool ReportMetadata::loadFromDisk() Error while parsing JSON from "
-                                               "/cust/private/reports/metadata/otdr/a.pdf.metadata");
-        QCOMPARE(record.loadFromDisk(), taken);
-        QCOMPARE(valuesOf(record), taken ? QStringList({"", "", "", "", ""}) : before);
+        const QByteArray most(int(ReportMetadata::maximumFileSize), ' ');
+        const std::pair<QByteArray, bool> rows[] {{"{}", true}, {R"({"later": [1], "info": {}})", true},
+                {QByteArray(most).replace(0, 2, "{}"), true}, {"{}" + most, false}, {"{} {}", false},
+                {R"({"type": "x", "info": {"wo": )", false},
+                {R"(["type"])", false}, {R"({"format": "x", "type": []})", false},
+                {R"({"type": "x", "info": ["wo"]})", false}, {R"({"type": "x", "info": {"wo": {"wo": "x"}}})", false}};
+        for (const auto& [text, isTaken] : rows) {
+            ReportMetadata record = recordOf("a.pdf");
+            record.updateOriginFilePath();
+            const QStringList before = valuesOf(record);
+            QVERIFY(writeFile(onDisk(record.metadataFilePath()), text));
+            if (!isTaken)
+                QTest::ignoreMessage(QtWarningMsg, "bool ReportMetadata::loadFromDisk() Error while parsing JSON from "
+                                                   "/cust/private/reports/metadata/otdr/a.pdf.metadata");
+            QVERIFY2(record.loadFromDisk() == isTaken, text.left(80));
+            QCOMPARE(valuesOf(record), isTaken ? QStringList({"", "", "", "", ""}) : before);
+        }
     }
 
     /// A pipe that nobody writes to would hold the reader for ever.
@@ -197,47 +160,36 @@ private Q_SLOTS:
         QVERIFY(isRefused());
     }
 
-    void failedWrites_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("folder");
-        QTest::addColumn<int>("room");
-        QTest::addColumn<int>("pairs");
-        QTest::newRow("full disk") << "a.pdf" << records << 64 << 0;
-        QTest::newRow("larger than can be read") << "a.pdf" << records << 100'000'000 << 100'000;
-        QTest::newRow("out of the folder") << "../../a.pdf" << records << 100'000 << 0;
-        QTest::newRow("no folder") << "a.pdf" << "" << 100'000 << 0;
-    }
     void failedWrites()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, folder);
-        QFETCH(int, room);
-        QFETCH(int, pairs);
-        QVERIFY(recordOf("a.pdf").saveMetadataToFile());
-        const QByteArray before = contentsOf(onDisk(records) + "a.pdf.metadata");
-        const QStringList all = QDir(m_root.path()).entryList() + QDir::current().entryList();
-
-        ReportMetadata record = recordOf(name);
-        record.setMetadataPath(folder);
-        record.setFormat("HTML");
-        for (int i = 0; i < pairs; ++i)
-            record.setInfo(QString::number(i), QString("value"));
-        const QString line
-                = "bool ReportMetadata::saveMetadataToFile() could not open file " + record.metadataFilePath();
-        QTest::ignoreMessage(QtWarningMsg, qPrintable(line));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^(The record has|Cannot (write|create|replace)) "));
-        bool isSaved = true;
-        {
-            const FileSizeLimit disk {rlim_t(room)};
-            isSaved = record.saveMetadataToFile();
+        const QString path = onDisk(records) + "a.pdf.metadata";
+        // A full disk, more than can be read, out of the folder, and no folder.
+        for (const auto& [name, folder, room, pairs] : {std::tuple("a.pdf", records, 64, 0),
+                     std::tuple("a.pdf", records, 100'000'000, 100'000), std::tuple("../../a.pdf", records, 100'000, 0),
+                     std::tuple("a.pdf", "", 100'000, 0)}) {
+            QVERIFY(recordOf("a.pdf").saveMetadataToFile());
+            const QByteArray before = contentsOf(path);
+            const QStringList all = QDir(m_root.path()).entryList() + QDir::current().entryList();
+            ReportMetadata record = recordOf(name);
+            record.setMetadataPath(folder);
+            record.setFormat("HTML");
+            for (int i = 0; i < pairs; ++i)
+                record.setInfo(QString::number(i), QString("value"));
+            const QString line
+                    = "bool ReportMetadata::saveMetadataToFile() could not open file " + record.metadataFilePath();
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(line));
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^(The record has|Cannot (write|create|replace)) "));
+            bool isSaved = true;
+            {
+                const FileSizeLimit disk {rlim_t(room)};
+                isSaved = record.saveMetadataToFile();
+            }
+            QVERIFY(!isSaved);
+            QCOMPARE(record.format(), QString("HTML"));
+            QCOMPARE(namesIn(onDisk(records)), QStringList {"a.pdf.metadata"});
+            QCOMPARE(contentsOf(path), before);
+            QCOMPARE(QDir(m_root.path()).entryList() + QDir::current().entryList(), all);
         }
-        QVERIFY(!isSaved);
-        QCOMPARE(record.format(), QString("HTML"));
-        QCOMPARE(recordsOnDisk(), QStringList {"a.pdf.metadata"});
-        QCOMPARE(contentsOf(onDisk(records) + "a.pdf.metadata"), before);
-        QCOMPARE(QDir(m_root.path()).entryList() + QDir::current().entryList(), all);
-
         // What hindered has gone.
         QVERIFY(recordOf("a.pdf").saveMetadataToFile());
     }

@@ -3,11 +3,6 @@
 
 #include <kiv/kivnotificationmodelmanager.h>
 
-#include <QDir>
-#include <QFile>
-#include <QScopeGuard>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
@@ -18,8 +13,6 @@ using Arguments = QMap<QString, QString>;
 using Operation = std::function<void(FileUtils&)>;
 
 Q_DECLARE_METATYPE(KIVNotification*)
-Q_DECLARE_METATYPE(Operation)
-Q_DECLARE_METATYPE(KIVNotification::Kind)
 
 namespace {
 
@@ -82,113 +75,81 @@ private Q_SLOTS:
         QVERIFY(!manager()->currentDialog());
     }
 
-    void displayPaths_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("shown");
-        QTest::newRow("internal") << "/cust/public/reports/a.pdf" << "Internal:/reports/a.pdf";
-        QTest::newRow("stick") << "/mnt/usb/a" << "USB:/a";
-        QTest::newRow("copied") << "copy:/cust/public/a" << "Internal:/a";
-        QTest::newRow("cut") << "cut:/mnt/usb/a" << "USB:/a";
-        QTest::newRow("one mark alone") << "copy:cut:/mnt/usb/a" << "cut:/mnt/usb/a";
-        QTest::newRow("one folder alone") << "/cust/public/mnt/usb/cust/public" << "Internal:/mnt/usb/cust/public";
-        QTest::newRow("case counts") << "Copy:/CUST/public" << "Copy:/CUST/public";
-        QTest::newRow("only in front") << "/tmp/copy:/mnt/usb" << "/tmp/copy:/mnt/usb";
-        QTest::newRow("empty") << "" << "";
-    }
     void displayPaths()
     {
-        QFETCH(QString, path);
-        QTEST(FileUtils().getSanitizedPathName(path), "shown");
+        // One mark and one folder alone are replaced, in front only, and their case counts.
+        const std::pair<const char*, const char*> rows[] {{"/cust/public/reports/a.pdf", "Internal:/reports/a.pdf"},
+                {"/mnt/usb/a", "USB:/a"}, {"copy:/cust/public/a", "Internal:/a"}, {"cut:/mnt/usb/a", "USB:/a"},
+                {"copy:cut:/mnt/usb/a", "cut:/mnt/usb/a"},
+                {"/cust/public/mnt/usb/cust/public", "Internal:/mnt/usb/cust/public"},
+                {"Copy:/CUST/public", "Copy:/CUST/public"}, {"/tmp/copy:/mnt/usb", "/tmp/copy:/mnt/usb"}, {"", ""}};
+        for (const auto& [path, shown] : rows)
+            QCOMPARE(FileUtils().getSanitizedPathName(path), QString(shown));
     }
 
-    void notifications_data()
-    {
-        QTest::addColumn<Operation>("operation");
-        QTest::addColumn<KIVNotification::Kind>("kind");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("trayEntries");
-        const auto add = [](const char* name, const Operation& operation, KIVNotification::Kind kind,
-                                 const QString& title, const QString& text, int trayEntries) {
-            QTest::newRow(name) << operation << kind << title << text << trayEntries;
-        };
-        const auto error = KIVNotification::Error;
-        const auto request = KIVNotification::Request;
-
-        add("full", [](auto& f) { f.sendNotificationDriveFull("/mnt/usb"); }, error, "I/O Error", "Drive USB: is full", 1);
-        add("reading", [](auto& f) { f.sendNotificationReadError("/cust/public/%1.txt"); }, error, "Read Error",
-                "There was an error reading Internal:/%1.txt", 1);
-        add("writing", [](auto& f) { f.sendNotificationWriteError("cut:/mnt/usb/a"); }, error, "Write Error",
-                "There was an error writing to USB:/a", 1);
-        add("space", [](auto& f) { f.sendNotificationNotEnoughSpace("/mnt/usb/%2", 1'500'000'000); }, error,
-                "Not Enough Space", "Not enough disk space for USB:/%2 - would need 1.50 G", 0);
-
-        add("overwrite file", [](auto& f) { f.sendNotificationOverwriteRequest("/cust/public/%2", {}); }, request,
-                "File Exists", "Do you want to overwrite File Internal:/%2?", 0);
-        add("overwrite folder", [](auto& f) { f.sendNotificationOverwriteRequest("/cust/public/folder", {}); }, request,
-                "File Exists", "Do you want to overwrite Directory Internal:/folder?", 0);
-        add("overwrite all", [](auto& f) { f.sendNotificationOverwriteRequest("", {}); }, request, "File Exists",
-                "Do you want to overwrite all files/directories?", 0);
-        add("overwrite report",
-                [](auto& f) { f.sendNotificationOverwriteReportRequest("/cust/public/reports/a.pdf", {}); }, request,
-                "Report Exists", "Do you want to overwrite report Internal:/reports/a.pdf?", 0);
-        add("overwrite compressed report",
-                [](auto& f) { f.sendNotificationOverwriteReportRequest("/cust/public/a.pdf.gz", {}); }, request,
-                "Report Exists", "Do you want to overwrite report Internal:/a.pdf?", 0);
-        add("overwrite other compressed report",
-                [](auto& f) { f.sendNotificationOverwriteReportRequest("/cust/public/a.html.gz", {}); }, request,
-                "Report Exists", "Do you want to overwrite report Internal:/a.html.gz?", 0);
-        add("overwrite screenshot",
-                [](auto& f) { f.sendNotificationOverwriteScreenshotRequest("/cust/public/s.png", "i.png", {}); }, request,
-                "File Exists", "Do you want to overwrite screenshot Internal:/s.png?", 0);
-        add("delete file", [](auto& f) { f.sendNotificationDeleteRequest("/mnt/usb/%1", {}); }, request, "Delete File",
-                "Do you want to delete the File USB:/%1?", 0);
-        add("delete folder", [](auto& f) { f.sendNotificationDeleteRequest("cut:/cust/public/folder", {}); }, request,
-                "Delete Directory", "Do you want to delete the Directory Internal:/folder?", 0);
-        add("delete several", [](auto& f) { f.sendNotificationDeleteRequest("/mnt/usb/a\n/mnt/usb/b", {}); }, request,
-                "Delete Files", "Do you want to delete these 2 files?", 0);
-    }
     void notifications()
     {
-        QFETCH(Operation, operation);
-        FileUtils files;
-        operation(files);
-        const KIVNotification* dialog = manager()->currentDialog();
-        QVERIFY(dialog);
-        QTEST(dialog->kind(), "kind");
-        QTEST(dialog->longLabel(), "title");
-        QTEST(dialog->msg(), "text");
-        QTEST(manager()->count(), "trayEntries");
-        if (manager()->count() == 1) {
-            const QModelIndex entry = manager()->index(0);
-            QTEST(entry.data(KIVNotificationModelManager::LongLabelRole).toString(), "title");
-            QTEST(entry.data(KIVNotificationModelManager::MsgRole).toString(), "text");
+        const auto error = KIVNotification::Error;
+        const auto request = KIVNotification::Request;
+        const std::tuple<Operation, KIVNotification::Kind, QString, QString, int> rows[] {
+                {[](FileUtils& f) { f.sendNotificationDriveFull("/mnt/usb"); },
+                        error, "I/O Error", "Drive USB: is full", 1},
+                {[](FileUtils& f) { f.sendNotificationReadError("/cust/public/%1.txt"); },
+                        error, "Read Error", "There was an error reading Internal:/%1.txt", 1},
+                {[](FileUtils& f) { f.sendNotificationWriteError("cut:/mnt/usb/a"); },
+                        error, "Write Error", "There was an error writing to USB:/a", 1},
+                {[](FileUtils& f) { f.sendNotificationNotEnoughSpace("/mnt/usb/%2", 1'500'000'000); },
+                        error, "Not Enough Space", "Not enough disk space for USB:/%2 - would need 1.50 G", 0},
+                {[](FileUtils& f) { f.sendNotificationOverwriteRequest("/cust/public/%2", {}); },
+                        request, "File Exists", "Do you want to overwrite File Internal:/%2?", 0},
+                {[](FileUtils& f) { f.sendNotificationOverwriteRequest("/cust/public/folder", {}); },
+                        request, "File Exists", "Do you want to overwrite Directory Internal:/folder?", 0},
+                {[](FileUtils& f) { f.sendNotificationOverwriteRequest("", {}); },
+                        request, "File Exists", "Do you want to overwrite all files/directories?", 0},
+                {[](FileUtils& f) { f.sendNotificationOverwriteReportRequest("/cust/public/reports/a.pdf", {}); },
+                        request, "Report Exists", "Do you want to overwrite report Internal:/reports/a.pdf?", 0},
+                {[](FileUtils& f) { f.sendNotificationOverwriteReportRequest("/cust/public/a.pdf.gz", {}); },
+                        request, "Report Exists", "Do you want to overwrite report Internal:/a.pdf?", 0},
+                {[](FileUtils& f) { f.sendNotificationOverwriteReportRequest("/cust/public/a.html.gz", {}); },
+                        request, "Report Exists", "Do you want to overwrite report Internal:/a.html.gz?", 0},
+                {[](FileUtils& f) { f.sendNotificationOverwriteScreenshotRequest("/cust/public/s.png", "i.png", {}); },
+                        request, "File Exists", "Do you want to overwrite screenshot Internal:/s.png?", 0},
+                {[](FileUtils& f) { f.sendNotificationDeleteRequest("/mnt/usb/%1", {}); },
+                        request, "Delete File", "Do you want to delete the File USB:/%1?", 0},
+                {[](FileUtils& f) { f.sendNotificationDeleteRequest("cut:/cust/public/folder", {}); },
+                        request, "Delete Directory", "Do you want to delete the Directory Internal:/folder?", 0},
+                {[](FileUtils& f) { f.sendNotificationDeleteRequest("/mnt/usb/a\n/mnt/usb/b", {}); },
+                        request, "Delete Files", "Do you want to delete these 2 files?", 0}};
+        for (const auto& [operation, kind, title, text, trayEntries] : rows) {
+            FileUtils files;
+            operation(files);
+            const KIVNotification* dialog = manager()->currentDialog();
+            QVERIFY2(dialog, qPrintable(text));
+            QCOMPARE(dialog->msg(), text);
+            QCOMPARE(dialog->kind(), kind);
+            QCOMPARE(dialog->longLabel(), title);
+            QCOMPARE(manager()->count(), trayEntries);
+            if (trayEntries == 1) {
+                const QModelIndex entry = manager()->index(0);
+                QCOMPARE(entry.data(KIVNotificationModelManager::LongLabelRole).toString(), title);
+                QCOMPARE(entry.data(KIVNotificationModelManager::MsgRole).toString(), text);
+            }
+            manager()->clear();
         }
     }
 
-    void amounts_data()
-    {
-        QTest::addColumn<qint64>("bytes");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("100 bytes") << qint64(100) << "0.00 K";
-        QTest::newRow("less than a thousand") << qint64(999) << "0.00 K";
-        QTest::newRow("a thousand") << qint64(1000) << "1.00 K";
-        QTest::newRow("a million") << qint64(1'000'000) << "1.00 M";
-        QTest::newRow("rounded up") << qint64(999'999'999) << "1000.00 M";
-        QTest::newRow("thousand million") << qint64(1'000'000'000) << "1.00 G";
-        QTest::newRow("single precision") << qint64(999'995'000) << "999.99 M";
-    }
     void amounts()
     {
-        QFETCH(qint64, bytes);
-        QFETCH(QString, text);
-        const QLocale before;
-        const auto restore = qScopeGuard([before] { QLocale::setDefault(before); });
+        const auto restore = qScopeGuard([before = QLocale()] { QLocale::setDefault(before); });
         QLocale::setDefault(QLocale(QLocale::German));
-        FileUtils files;
-        files.sendNotificationNotEnoughSpace("/mnt/usb", bytes);
-        QCOMPARE(manager()->currentDialog()->msg(), "Not enough disk space for USB: - would need " + text);
+        // The last in single precision.
+        const std::pair<qint64, QString> rows[] {{100, "0.00 K"}, {999, "0.00 K"}, {1000, "1.00 K"},
+                {1'000'000, "1.00 M"}, {999'999'999, "1000.00 M"}, {1'000'000'000, "1.00 G"}, {999'995'000, "999.99 M"}};
+        for (const auto& [bytes, text] : rows) {
+            FileUtils files;
+            files.sendNotificationNotEnoughSpace("/mnt/usb", bytes);
+            QCOMPARE(manager()->currentDialog()->msg(), "Not enough disk space for USB: - would need " + text);
+        }
     }
 
     void values()
@@ -210,48 +171,39 @@ private Q_SLOTS:
         QCOMPARE(kept("Filename") + kept("IconFile"), QString("mine/base/i.png"));
     }
 
-    void answersReachOnlyWhoAsked()
-    {
-        FileUtils first;
-        FileUtils second;
-        FileUtils idle;
-        QSignalSpy firstAccepted(&first, &FileUtils::accepted);
-        QSignalSpy secondRejected(&second, &FileUtils::rejected);
-        QSignalSpy others(&idle, &FileUtils::accepted);
-        QSignalSpy wrong(&second, &FileUtils::accepted);
-        first.sendNotificationOverwriteRequest("/mnt/usb/a", {{"key", "of first"}});
-        second.sendNotificationOverwriteRequest("/mnt/usb/b", {});
-        manager()->accept();
-        QCOMPARE(firstAccepted.size(), 1);
-        QCOMPARE(firstAccepted.at(0).at(0).value<KIVNotification*>()->value("key").toString(), QString("of first"));
-        QCOMPARE(secondRejected.size(), 0);
-        manager()->reject();
-        QCOMPARE(secondRejected.size(), 1);
-        QCOMPARE(firstAccepted.size(), 1);
-        QCOMPARE(others.size() + wrong.size(), 0);
-    }
-
     void answersThatAreNotTheirs()
     {
         FileUtils files;
         QSignalSpy accepted(&files, &FileUtils::accepted);
+        QSignalSpy rejected(&files, &FileUtils::rejected);
         KIVNotification other;
-        files.onNotificationAccepted(&other);
-        files.onNotificationAccepted(nullptr);
+        const auto answer = [&](const QVector<KIVNotification*>& notifications) {
+            for (KIVNotification* notification : notifications) {
+                files.onNotificationAccepted(notification);
+                files.onNotificationRejected(notification);
+            }
+        };
+        answer({&other, nullptr});
         files.sendNotificationOverwriteRequest("/mnt/usb/a", {});
         KIVNotification* own = manager()->currentDialog();
-        files.onNotificationAccepted(&other);
-        files.onNotificationAccepted(nullptr);
-        QCOMPARE(accepted.size(), 0);
+        answer({&other, nullptr});
+        QCOMPARE(accepted.size() + rejected.size(), 0);
 
         other.setValue("uid", own->value("uid"));
-        files.onNotificationAccepted(&other);
-        QCOMPARE(accepted.size(), 1);
+        answer({&other});
+        QCOMPARE(accepted.size() * rejected.size(), 1);
         for (KIVNotification* notification : {&other, own})
             notification->setValue("uid", QVariant());
-        files.onNotificationAccepted(&other);
-        files.onNotificationAccepted(own);
-        QCOMPARE(accepted.size(), 1);
+        answer({&other, own});
+        QCOMPARE(accepted.size() * rejected.size(), 1);
+        // The second is asked when the first has answered.
+        FileUtils second;
+        QSignalSpy declined(&second, &FileUtils::rejected);
+        second.sendNotificationOverwriteRequest("/mnt/usb/b", {});
+        manager()->accept();
+        manager()->reject();
+        QCOMPARE(declined.size(), 1);
+        QCOMPARE(accepted.size() * rejected.size(), 1);
     }
 
     void theLastQuestionCounts()

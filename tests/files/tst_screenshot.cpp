@@ -3,11 +3,6 @@
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 
-#include <QDir>
-#include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {

@@ -5,10 +5,6 @@
 #include <QColor>
 #include <QDoubleValidator>
 #include <QIntValidator>
-#include <QLocale>
-#include <QMetaMethod>
-#include <QPointF>
-#include <QSignalSpy>
 #include <QtTest>
 
 #include <functional>
@@ -69,46 +65,32 @@ class UiDataTest : public QObject
 private Q_SLOTS:
     void init() { QLocale::setDefault(QLocale::c()); }
 
-    void everyWriteIsTold_data()
-    {
-        QTest::addColumn<QString>("property");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QStringList>("first");
-        QTest::addColumn<QStringList>("again");
-        const auto row = [](const char* property, const QVariant& value, const char* first, const char* again) {
-            QTest::newRow(property) << QString(property) << value << words(first) << words(again);
-        };
-        row("label", "Name", "labelChanged", "labelChanged");
-        row("type", "double", "typeChanged", "typeChanged");
-        row("readOnly", true, "readOnlyChanged", "readOnlyChanged");
-        row("isReady", true, "isReadyChanged KivData::isReadyChanged", "isReadyChanged KivData::isReadyChanged");
-        row("applicable", false, "applicableChanged KivData::applicableChanged", "applicableChanged KivData::applicableChanged");
-        row("minRange", 5, "minRangeChanged rangeDescriptionChanged", "minRangeChanged rangeDescriptionChanged");
-        row("maxRange", 5, "maxRangeChanged rangeDescriptionChanged", "maxRangeChanged rangeDescriptionChanged");
-        row("regex", "a*", "validatorChanged regexChanged", "validatorChanged regexChanged");
-        row("inputType", 9u, "inputTypeChanged", "inputTypeChanged");
-        row("precision", 3u, "precisionChanged", "precisionChanged");
-        row("value", 1, "valueChanged", "valueChanged");
-        row("persistent", true, "", "");
-        row("mandatory", true, "mandatoryChanged", "");
-        row("valueOk", false, "valueOkChanged", "");
-        row("registerId", "id", "", "");
-    }
     void everyWriteIsTold()
     {
-        QFETCH(QString, property);
-        QFETCH(QVariant, value);
-        QFETCH(QStringList, first);
-        QFETCH(QStringList, again);
-        if (property == "registerId")
-            QTest::ignoreMessage(QtWarningMsg, "registerId already exsist!");
-        UiData item;
-        SignalLog log(&item);
-        QVERIFY(item.setProperty(property.toLatin1(), value));
-        QCOMPARE(log.take(), first);
-        QCOMPARE(item.property(property.toLatin1()), value);
-        item.setProperty(property.toLatin1(), value);
-        QCOMPARE(log.take(), again);
+        const std::tuple<const char*, QVariant, const char*, const char*> rows[] {
+                {"label", "Name", "labelChanged", "labelChanged"}, {"type", "double", "typeChanged", "typeChanged"},
+                {"readOnly", true, "readOnlyChanged", "readOnlyChanged"},
+                {"isReady", true, "isReadyChanged KivData::isReadyChanged", "isReadyChanged KivData::isReadyChanged"},
+                {"applicable", false, "applicableChanged KivData::applicableChanged",
+                        "applicableChanged KivData::applicableChanged"},
+                {"minRange", 5, "minRangeChanged rangeDescriptionChanged", "minRangeChanged rangeDescriptionChanged"},
+                {"maxRange", 5, "maxRangeChanged rangeDescriptionChanged", "maxRangeChanged rangeDescriptionChanged"},
+                {"regex", "a*", "validatorChanged regexChanged", "validatorChanged regexChanged"},
+                {"inputType", 9u, "inputTypeChanged", "inputTypeChanged"}, {"value", 1, "valueChanged", "valueChanged"},
+                {"precision", 3u, "precisionChanged", "precisionChanged"}, {"persistent", true, "", ""},
+                {"mandatory", true, "mandatoryChanged", ""}, {"valueOk", false, "valueOkChanged", ""},
+                {"registerId", "id", "", ""}};
+        for (const auto& [property, value, first, again] : rows) {
+            if (qstrcmp(property, "registerId") == 0)
+                QTest::ignoreMessage(QtWarningMsg, "registerId already exsist!");
+            UiData item;
+            SignalLog log(&item);
+            QVERIFY2(item.setProperty(property, value), property);
+            QCOMPARE(log.take(), words(first));
+            QCOMPARE(item.property(property), value);
+            item.setProperty(property, value);
+            QCOMPARE(log.take(), words(again));
+        }
     }
 
     void defaults()
@@ -191,40 +173,27 @@ private Q_SLOTS:
         QCOMPARE(item.property("rangeDescription"), QVariant("0.0.0.0 - 255.255.255.255"));
     }
 
-    void texts_data()
-    {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("text") << UiData::TYPE_STRING << QVariant("abc") << "abc";
-        QTest::newRow("true") << UiData::TYPE_BOOL << QVariant(true) << "True";
-        QTest::newRow("false") << UiData::TYPE_BOOL << QVariant() << "False";
-        QTest::newRow("any number is true") << UiData::TYPE_BOOL << QVariant(2) << "True";
-        QTest::newRow("choice") << UiData::TYPE_ENUM << QVariant(20) << "Twenty";
-        QTest::newRow("no choice") << UiData::TYPE_ENUM << QVariant(21) << "";
-        QTest::newRow("real") << UiData::TYPE_DOUBLE << QVariant(1) << "1.00";
-        QTest::newRow("whole") << UiData::TYPE_INT64 << QVariant(-9007199254740993LL) << "-9007199254740993";
-        QTest::newRow("nothing") << UiData::TYPE_INT << QVariant() << "";
-        QTest::newRow("vector") << UiData::TYPE_VEC_INT << QVariant("1,,3") << "1,,3";
-        QTest::newRow("time") << UiData::TYPE_STRING << QVariant(QTime(10, 20, 0, 5)) << "10:20:00.005";
-        const QDateTime moment(QDate(2020, 2, 29), QTime(1, 2, 3, 4), Qt::UTC);
-        QTest::newRow("date and time") << UiData::TYPE_STRING << QVariant(moment) << "2020-02-29T01:02:03.004Z";
-        QTest::newRow("point") << UiData::TYPE_INT << QVariant(QPointF(1, 2.5)) << "1,2.5";
-        QTest::newRow("colour") << "" << QVariant(QColor(255, 0, 0, 128)) << "#80ff0000";
-    }
     void texts()
     {
-        QFETCH(QString, type);
-        QFETCH(QVariant, value);
-        QFETCH(QString, text);
-        UiData item;
-        item.setAttributes({{"type", type}, {"precision", 2}});
-        item.setEnums({10, 20}, {"Ten", "Twenty"});
-        item.setValue(value);
-        QCOMPARE(item.getValueString(), text);
-        // Stored as it was given.
-        QCOMPARE(item.getValue(), value);
-        QCOMPARE(item.getValue().userType(), value.userType());
+        const QDateTime moment(QDate(2020, 2, 29), QTime(1, 2, 3, 4), Qt::UTC);
+        const std::tuple<QString, QVariant, const char*> rows[] {{UiData::TYPE_STRING, "abc", "abc"},
+                {UiData::TYPE_BOOL, true, "True"}, {UiData::TYPE_BOOL, QVariant(), "False"},
+                {UiData::TYPE_BOOL, 2, "True"}, {UiData::TYPE_ENUM, 20, "Twenty"}, {UiData::TYPE_ENUM, 21, ""},
+                {UiData::TYPE_DOUBLE, 1, "1.00"}, {UiData::TYPE_INT64, -9007199254740993LL, "-9007199254740993"},
+                {UiData::TYPE_INT, QVariant(), ""}, {UiData::TYPE_VEC_INT, "1,,3", "1,,3"},
+                {UiData::TYPE_STRING, QTime(10, 20, 0, 5), "10:20:00.005"},
+                {UiData::TYPE_STRING, moment, "2020-02-29T01:02:03.004Z"}, {UiData::TYPE_INT, QPointF(1, 2.5), "1,2.5"},
+                {"", QColor(255, 0, 0, 128), "#80ff0000"}};
+        for (const auto& [type, value, text] : rows) {
+            UiData item;
+            item.setAttributes({{"type", type}, {"precision", 2}});
+            item.setEnums({10, 20}, {"Ten", "Twenty"});
+            item.setValue(value);
+            QCOMPARE(item.getValueString(), QString(text));
+            // Stored as it was given.
+            QCOMPARE(item.getValue(), value);
+            QCOMPARE(item.getValue().userType(), value.userType());
+        }
     }
 
     void aFormatterStays()
@@ -242,34 +211,26 @@ private Q_SLOTS:
         QCOMPARE(item.getValueString(), QString("1.50 dB"));
     }
 
-    void vectors_data()
-    {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QVariantList>("elements");
-        QTest::newRow("int") << UiData::TYPE_VEC_INT << QVariant("1,,x,3") << QVariantList {1, 0, 0, 3};
-        QTest::newRow("beyond 32 bits") << UiData::TYPE_VEC_INT << QVariant("3000000000,2147483647") << QVariantList {0, 2147483647};
-        QTest::newRow("real") << UiData::TYPE_VEC_DOUBLE << QVariant("1.5,,-2e3") << QVariantList {1.5, 0.0, -2000.0};
-        QTest::newRow("text") << UiData::TYPE_VEC_STRING << QVariant("a,,b") << QVariantList {"a", "", "b"};
-        QTest::newRow("empty") << UiData::TYPE_VEC_INT << QVariant("") << QVariantList {0};
-        QTest::newRow("NUL") << UiData::TYPE_VEC_STRING << QVariant(QString("a,") + QChar(0) + ",b") << QVariantList {"a", "b"};
-        QTest::newRow("no elements") << UiData::TYPE_VEC_INT << QVariant(QVariantList()) << QVariantList();
-        QTest::newRow("list") << UiData::TYPE_VEC_INT << QVariant(QVariantList {4, 5}) << QVariantList {4, 5};
-    }
     void vectors()
     {
-        QFETCH(QString, type);
-        QFETCH(QVariant, value);
-        QFETCH(QVariantList, elements);
-        UiData item;
-        item.setType(type);
-        SignalLog log(&item);
-        item.setValue(value);
-        QCOMPARE(log.take(), words("valueCountChanged valueChanged"));
-        QCOMPARE(item.getValueCount(), elements.size());
-        for (int i = 0; i < elements.size(); ++i) {
-            QCOMPARE(item.variantAt(i), elements.at(i));
-            QCOMPARE(item.variantAt(i).type(), elements.at(i).type());
+        // Not beyond 32 bits; what stands behind a NUL counts.
+        const std::tuple<QString, QVariant, QVariantList> rows[] {{UiData::TYPE_VEC_INT, "1,,x,3", {1, 0, 0, 3}},
+                {UiData::TYPE_VEC_INT, "3000000000,2147483647", {0, 2147483647}},
+                {UiData::TYPE_VEC_DOUBLE, "1.5,,-2e3", {1.5, 0.0, -2000.0}}, {UiData::TYPE_VEC_INT, "", {0}},
+                {UiData::TYPE_VEC_STRING, "a,,b", {"a", "", "b"}},
+                {UiData::TYPE_VEC_STRING, QString("a,") + QChar(0) + ",b", {"a", "b"}},
+                {UiData::TYPE_VEC_INT, QVariantList(), {}}, {UiData::TYPE_VEC_INT, QVariantList {4, 5}, {4, 5}}};
+        for (const auto& [type, value, elements] : rows) {
+            UiData item;
+            item.setType(type);
+            SignalLog log(&item);
+            item.setValue(value);
+            QCOMPARE(log.take(), words("valueCountChanged valueChanged"));
+            QCOMPARE(item.getValueCount(), elements.size());
+            for (int i = 0; i < elements.size(); ++i) {
+                QCOMPARE(item.variantAt(i), elements.at(i));
+                QCOMPARE(item.variantAt(i).type(), elements.at(i).type());
+            }
         }
     }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "filesizelimit.h"
+#include "testfiles.h"
 
-#include "module/uiutilsmodule.h"
 #include "report/report.h"
 #include "report/reportnaming_p.h"
 #include "report/reportsettingsstore_p.h"
@@ -11,25 +11,10 @@
 #include <embedded/embeddedservice.h>
 #include <kiv/kivnotificationmodelmanager.h>
 
-#include <QDir>
-#include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QMetaMethod>
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <QScopeGuard>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QtTest>
-
 #include <functional>
 #include <memory>
 #include <sys/mount.h>
 #include <sys/stat.h>
-
-using Setter = std::function<void(Report&)>;
-Q_DECLARE_METATYPE(Setter)
 
 inline const QString activeItem(":result:basemgr:jobmanager:isJobActive:");
 inline const QString locationItem(":config:basemgr:system:saveLocation:");
@@ -40,17 +25,14 @@ inline KIVNotificationModelManager* manager()
     return KIVNotificationModelManager::instance();
 }
 
-inline bool writeFile(const QString& path, const QByteArray& contents)
+/// What the dialog that shows is about, and what it says.
+inline QString dialogTitle()
 {
-    QFile file(path);
-    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly)
-            && file.write(contents) == contents.size();
+    return manager()->currentDialog() ? manager()->currentDialog()->longLabel() : QString();
 }
-
-inline QByteArray contentsOf(const QString& path)
+inline QString dialogText()
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
+    return manager()->currentDialog() ? manager()->currentDialog()->msg() : QString();
 }
 
 /// JSON text with ' for ".
@@ -63,14 +45,12 @@ inline QByteArray json(QByteArray text)
 class Controller : public Report
 {
 public:
-    QString generateTxtReport() override
+    explicit Controller(const QString& name = QString(), int format = 0)
     {
-        // It may be gone afterwards.
-        const QString result = text;
-        if (const auto making = whileMaking)
-            making();
-        return result;
+        if (!name.isNull())
+            setUp(name, format);
     }
+    QString generateTxtReport() override { return made(text); }
     QString generateJsonReport() override { return json; }
     bool writeXmlReport(const QString& path, bool overwrite) override
     {
@@ -82,13 +62,7 @@ public:
         calls << "writeText" + suffix;
         return Report::writeTextReport(path, contents, suffix, overwrite);
     }
-    QByteArray generatePDFReport() override
-    {
-        const QByteArray result = pages;
-        if (const auto making = whileMaking)
-            making();
-        return result;
-    }
+    QByteArray generatePDFReport() override { return made(pages); }
     QString proposedFileName() override { return proposed; }
 
     void setUp(const QString& name, int format)
@@ -130,6 +104,16 @@ protected:
     void saveSucceeded(const QString&) override { calls << "succeeded"; }
     void saveFailed(const QString&) override { calls << "failed"; }
     void overwriteDeclined(const QString&) override { calls << "declined"; }
+
+private:
+    /// The controller may be gone afterwards.
+    template<typename Contents>
+    Contents made(Contents contents)
+    {
+        if (const auto making = whileMaking)
+            making();
+        return contents;
+    }
 };
 
 /// Counts all notifiers of a controller, in the order of their emission.
@@ -168,10 +152,8 @@ protected:
     std::unique_ptr<kiv::embedded::EmbeddedBackend> m_backend;
 
     QString onDisk(const QString& path) const { return m_root->path() + path; }
-    QStringList names(const QString& folder) const
-    {
-        return QDir(onDisk(folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
+    QStringList names(const QString& folder) const { return namesIn(onDisk(folder)); }
+    QString listFile() const { return onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"); }
     kiv::embedded::EmbeddedService* basemgr() const { return m_backend->service("basemgr"); }
     /// Where reports go, and whether a stick is told of and is there.
     void plug(int location, bool isAnnounced = true, bool isMounted = true)

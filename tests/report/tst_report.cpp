@@ -9,6 +9,10 @@ class ReportTest : public ReportFixture
     {
         return onDisk("/cust/private/lastconfigs/reportSettings/" + folder + ".json");
     }
+    QJsonObject stored(const QString& folder) const
+    {
+        return QJsonDocument::fromJson(contentsOf(settingsFile(folder))).object();
+    }
 
 private Q_SLOTS:
     void settersTellOfChangesAlone()
@@ -101,28 +105,11 @@ private Q_SLOTS:
         QTRY_COMPARE(emissions.names, QStringList({"canWriteToJobManagerChanged", "jobSummaryChanged"}));
     }
 
-    void testTypeAndLabel()
-    {
-        Report report;
-        report.setCdmTestTypeAndLabel();
-        QCOMPARE(report.getCdmTestType() + report.getCdmTestLabel(), QString("noneNone"));
-        QVERIFY(basemgr()->setValue(":config:basemgr:system:report_cdm_testType:", "OTDR"));
-        report.setCdmTestTypeAndLabel();
-        QCOMPARE(report.getCdmTestType() + report.getCdmTestLabel(), QString("OTDRNone"));
-    }
-
     /// What the user cannot enter, programs may still set.
     void namesLeadNowhereElse()
     {
-        struct Row
-        {
-            QString given;
-            bool isAccepted;
-            QString file;
-            QString folder;
-        };
         const QString longest(50, 'a');
-        const QVector<Row> rows{{longest, true, longest + ".pdf", longest + "/"},
+        const std::tuple<QString, bool, QString, QString> rows[]{{longest, true, longest + ".pdf", longest + "/"},
                 {longest + "a", false, longest + "a.pdf", longest + "a/"}, {"..", true, "_.pdf", "_/"},
                 {"...", true, "....pdf", ".../"}, {"../x", false, ".._x.pdf", "_/x/"},
                 {"x/../../y", false, "x_.._.._y.pdf", "x/_/_/y/"}, {"/etc", false, "_etc.pdf", "etc/"},
@@ -131,12 +118,12 @@ private Q_SLOTS:
                 {"नमस्ते e\u0301", true, "नमस्ते é.pdf", "नमस्ते é/"}};
         Report report;
         const QValidator* validator = qobject_cast<UiData*>(report.getSetting("reportName"))->getValidator();
-        for (const Row& row : rows) {
-            QString entered = row.given;
+        for (const auto& [given, isAccepted, file, folder] : rows) {
+            QString entered = given;
             int position = 0;
-            QCOMPARE(validator->validate(entered, position) == QValidator::Acceptable, row.isAccepted);
-            QCOMPARE(uiutils::reportPath("", row.given, ".pdf").mid(1), row.file);
-            QCOMPARE(uiutils::reportFolder("/b", "", row.given).mid(3), row.folder);
+            QCOMPARE(validator->validate(entered, position) == QValidator::Acceptable, isAccepted);
+            QCOMPARE(uiutils::reportPath("", given, ".pdf").mid(1), file);
+            QCOMPARE(uiutils::reportFolder("/b", "", given).mid(3), folder);
         }
     }
 
@@ -154,7 +141,7 @@ private Q_SLOTS:
     /// What a derived controller has as long as it overrides nothing.
     void defaults()
     {
-        Controller other;
+        Controller other("x", 5);
         Report report;
         QSignalSpy changes(&report, &Report::settingsChanged);
         report.startPossibleSave();
@@ -166,8 +153,9 @@ private Q_SLOTS:
         QVERIFY(!report.hasCustomPDF());
         QCOMPARE(report.getReportFilePath(), QString("/cust/public/reports/"));
         QCOMPARE(report.getCdmTestType() + report.getCdmTestLabel(), QString());
+        report.setCdmTestTypeAndLabel();
+        QCOMPARE(report.getCdmTestType() + report.getCdmTestLabel(), QString("noneNone"));
         // Nobody else's choice counts.
-        other.setUp("x", 5);
         QCOMPARE(other.getSuffixForReport(), QString());
         QCOMPARE(report.getSuffixForReport(), QString(".pdf"));
         report.getSetting("reportFormat")->setValue(QVariant());
@@ -189,9 +177,6 @@ private Q_SLOTS:
 
     void settingsBelongToTheirFolder()
     {
-        const auto stored = [this](const QString& folder) {
-            return QJsonDocument::fromJson(contentsOf(settingsFile(folder))).object();
-        };
         QVERIFY(writeFile(settingsFile(""), json("{'reportName': 'none', 'reportFormat': 1}")));
         QVERIFY(writeFile(settingsFile("a/b"), json("{'reportName': 'of a', 'reportFormat': 1, 'reportSync_SS': true}")));
         QVERIFY(writeFile(settingsFile("c"), json("{'reportName': 'of c', 'reportFormat': 0}")));
@@ -228,9 +213,6 @@ private Q_SLOTS:
     {
         const QByteArray before = json("{'reportName': 'theirs', 'reportFormat': 1, 'reportSync_SS': true}");
         const QJsonObject after{{"reportName", "mine"}, {"reportFormat", 1}, {"reportSync_SS", true}};
-        const auto stored = [this](const QString& folder) {
-            return QJsonDocument::fromJson(contentsOf(settingsFile(folder))).object();
-        };
         QVERIFY(writeFile(settingsFile(""), before) && writeFile(settingsFile("otdr"), before));
         Controller early;
         early.getSetting("reportName")->setValue("mine");
@@ -259,39 +241,33 @@ private Q_SLOTS:
         QCOMPARE(report.getSetting("reportSync_SS")->getValue().toBool(), false);
     }
 
-    void storedSettings_data()
-    {
-        QTest::addColumn<QByteArray>("contents");
-        QTest::addColumn<QString>("log");
-        QTest::addColumn<QString>("values");
-        const QString parse = "ERROR: Could not parse Json text:\n%1";
-        const QString none = " 0 7";
-        QTest::newRow("empty") << QByteArray("") << parse.arg("illegal value") << none;
-        QTest::newRow("torn") << json("{'reportName': 'a") << parse.arg("unterminated string") << none;
-        QTest::newRow("list") << QByteArray("[1]") << parse.arg("the file holds no object") << none;
-        QTest::newRow("huge") << QByteArray(uiutils::largestReportSettings + 1, ' ') << parse.arg("the file is too large") << none;
-        QTest::newRow("wrong shapes") << json("{'reportName': {}, 'reportFormat': '1', 'reportSync_SS': 7, 'own': 'many'}") << "" << none;
-        QTest::newRow("forbidden") << json("{'reportName': '../x', 'reportFormat': 99, 'own': 11}") << "" << none;
-        QTest::newRow("not offered") << json("{'reportFormat': 2, 'own': null}") << "" << none;
-        QTest::newRow("halves and strangers") << json("{'reportFormat': 1.5, 'x': 1, 'reportName': 'ok'}") << "" << "ok 0 7";
-        QTest::newRow("good") << json("{'reportFormat': 1, 'own': 9}") << "" << " 1 9";
-    }
     void storedSettings()
     {
-        QFETCH(QByteArray, contents);
-        QFETCH(QString, log);
-        Controller report;
-        auto* own = new UiData;
-        own->setAttributes({{"name", "own"}, {"type", UiData::TYPE_INT}, {"minRange", 0}, {"maxRange", 10}});
-        own->setValue(7);
-        report.addSetting(own);
-        QVERIFY(writeFile(settingsFile(""), contents));
-        if (!log.isEmpty())
-            QTest::ignoreMessage(QtWarningMsg, qPrintable(log));
-        report.loadSettings();
-        QTEST(QString("%1 %2 %3").arg(report.getSetting("reportName")->getValue().toString()).arg(report.getFormat())
-                        .arg(own->getValue().toString()), "values");
-        QCOMPARE(report.getSetting("reportSync_SS")->getValue().toBool(), false);
+        const QString none = " 0 7";
+        const QString parse = "ERROR: Could not parse Json text:\n";
+        const std::tuple<QByteArray, const char*, QString> rows[]{{"", "illegal value", none},
+                {json("{'reportName': 'a"), "unterminated string", none}, {"[1]", "the file holds no object", none},
+                {QByteArray(uiutils::largestReportSettings + 1, ' '), "the file is too large", none},
+                {json("{'reportName': {}, 'reportFormat': '1', 'reportSync_SS': 7, 'own': 'many'}"), nullptr, none},
+                {json("{'reportName': '../x', 'reportFormat': 99, 'own': 11}"), nullptr, none},
+                {json("{'reportFormat': 2, 'own': null}"), nullptr, none},
+                {json("{'reportFormat': 1.5, 'x': 1, 'reportName': 'ok'}"), nullptr, "ok 0 7"},
+                {json("{'reportFormat': 1, 'own': 9}"), nullptr, " 1 9"}};
+        for (const auto& [contents, problem, values] : rows) {
+            Controller report;
+            auto* own = new UiData;
+            own->setAttributes({{"name", "own"}, {"type", UiData::TYPE_INT}, {"minRange", 0}, {"maxRange", 10}});
+            own->setValue(7);
+            report.addSetting(own);
+            QVERIFY(writeFile(settingsFile(""), contents));
+            if (problem)
+                QTest::ignoreMessage(QtWarningMsg, qPrintable(parse + problem));
+            report.loadSettings();
+            const QString found = QString("%1 %2 %3").arg(report.getSetting("reportName")->getValue().toString())
+                                          .arg(report.getFormat()).arg(own->getValue().toString());
+            QVERIFY2(found == values, contents.left(80) + " gives " + found.toUtf8());
+            QCOMPARE(report.getSetting("reportSync_SS")->getValue().toBool(), false);
+        }
     }
     void unreachableSettings()
     {

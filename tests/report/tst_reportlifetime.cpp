@@ -1,24 +1,20 @@
 #include "reportfixture.h"
 
+using Deed = std::function<void(Controller*)>;
+Q_DECLARE_METATYPE(Deed)
+
 /// Controllers that go, and saves that begin, at the moments when that hurts.
 class ReportLifetimeTest : public ReportFixture
 {
     Q_OBJECT
 
-    using Deed = std::function<void(Controller*)>;
-
-    QByteArray noSyncList() const
-    {
-        return contentsOf(onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"));
-    }
-
 private Q_SLOTS:
     void theControllerMayGo_data()
     {
-        QTest::addColumn<Setter>("deed");
+        QTest::addColumn<Deed>("deed");
         QTest::addColumn<QStringList>("files");
         const auto add = [](const char* name, const Deed& deed, const QStringList& files = {}) {
-            QTest::newRow(name) << Setter([deed](Report& r) { deed(static_cast<Controller*>(&r)); }) << files;
+            QTest::newRow(name) << deed << files;
         };
         const auto goOn = [](void (Report::*signal)()) {
             return [signal](Controller* r) { connect(r, signal, r, [r] { delete r; }); };
@@ -101,33 +97,29 @@ private Q_SLOTS:
     }
     void theControllerMayGo()
     {
-        QFETCH(Setter, deed);
-        const QPointer<Controller> report(new Controller);
-        report->setUp("a", 5);
+        QFETCH(Deed, deed);
+        const QPointer<Controller> report(new Controller("a", 5));
         for (int format : {0, 3, 4})
             report->setFormatApplicable(format, false);
         auto* jobInfo = new BoolUiData;
         jobInfo->setAttributes({{"name", "includeJobInfo"}, {"type", "bool"}});
         jobInfo->setValue(true);
         report->addSetting(jobInfo);
-        deed(*report);
+        deed(report);
         QVERIFY(!report);
         QStringList found = names("/cust/public/reports");
         std::sort(found.begin(), found.end(), std::greater<>());
         QTEST(found, "files");
         // What is written without the controller stays from the cloud without it.
         for (const QString& file : qAsConst(found))
-            QVERIFY2(file == "f" || noSyncList().contains("/" + file.toUtf8() + "\n"), qPrintable(file));
+            QVERIFY2(file == "f" || contentsOf(listFile()).contains("/" + file.toUtf8() + "\n"), qPrintable(file));
     }
     void answersMayDeleteTheirAsker()
     {
-        const QPointer<Controller> first(new Controller);
-        Controller second;
+        const QPointer<Controller> first(new Controller("a", 3));
+        Controller second("a", 3);
         QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt"), ""));
-        for (Controller* report : {first.data(), &second}) {
-            report->setUp("a", 3);
-            QVERIFY(!report->save());
-        }
+        QVERIFY(!first->save() && !second.save());
         QSignalSpy accepted(&second, &Report::reportOverwriteAccepted);
         connect(first, &Report::reportOverwriteAccepted, first, [&first] { delete first; });
         // The second hears this answer when the first has gone.
@@ -141,8 +133,7 @@ private Q_SLOTS:
     void dyingControllersAnswerAndSaveNothing()
     {
         QVERIFY(writeFile(onDisk("/cust/public/reports/f/a.txt"), "kept"));
-        auto report = std::make_unique<Controller>();
-        report->setUp("a", 3);
+        auto report = std::make_unique<Controller>("a", 3);
         report->setFolder("f");
         QVERIFY(!report->save());
         QVERIFY(basemgr()->setValue(activeItem, false));
@@ -161,8 +152,7 @@ private Q_SLOTS:
 
     void savesDoNotNest()
     {
-        Controller report;
-        report.setUp("a", 3);
+        Controller report("a", 3);
         QVector<bool> nested;
         connect(&report, &Report::reportFilesChanged, &report, [&] { nested << report.save(true); });
         QVERIFY(report.save());

@@ -1,4 +1,5 @@
 #include "filesizelimit.h"
+#include "testfiles.h"
 
 #include "report/gzip_p.h"
 #include "report/jobreport_p.h"
@@ -10,12 +11,6 @@
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 #include <kiv/kivnotificationmodelmanager.h>
-
-#include <QDir>
-#include <QFile>
-#include <QRandomGenerator>
-#include <QTemporaryDir>
-#include <QtTest>
 
 #include <algorithm>
 #include <csignal>
@@ -29,18 +24,6 @@
 namespace {
 
 constexpr int large = 100'000;
-
-bool writeFile(const QString& path, const QByteArray& contents)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
-}
-
-QByteArray contentsOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
 
 QByteArray noise(int size)
 {
@@ -91,11 +74,7 @@ class ReportPartsTest : public QObject
     std::unique_ptr<QTemporaryDir> m_root;
 
     QString onDisk(const QString& path) const { return m_root->path() + path; }
-    QStringList names() const
-    {
-        return QDir(onDisk("/cust/public/reports"))
-                .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot | QDir::System, QDir::Name);
-    }
+    QStringList names() const { return namesIn(onDisk("/cust/public/reports")); }
     QByteArray unpacked(const QString& path) const
     {
         QProcess gzip;
@@ -108,9 +87,7 @@ private Q_SLOTS:
     {
         m_root = std::make_unique<QTemporaryDir>();
         qputenv("UIUTILS_ROOT", QFile::encodeName(m_root->path()));
-        QVERIFY(QDir().mkpath(onDisk("/cust/public/reports/otdr")));
-        QVERIFY(QDir().rmdir(onDisk("/cust/public/reports/otdr")));
-        QVERIFY(QDir::setCurrent(onDisk("/cust/public/reports")));
+        QVERIFY(QDir().mkpath(onDisk("/cust/public/reports")) && QDir::setCurrent(onDisk("/cust/public/reports")));
     }
     void cleanup() { QDir::setCurrent("/"); }
 
@@ -192,34 +169,29 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringList("a.txt.gz"));
     }
 
-    void writesReports_data()
-    {
-        QTest::addColumn<QByteArray>("contents");
-        QTest::newRow("Größe $(1).txt") << QByteArray("Loss 0.25 dB\n").repeated(1000);
-        QTest::newRow("-f.txt") << QByteArray();
-        QTest::newRow(QByteArray(248, 'x') + ".txt") << noise(large);
-    }
     void writesReports()
     {
-        QFETCH(QByteArray, contents);
-        const QString name = QString::fromUtf8(QTest::currentDataTag());
-        const QString path = "/cust/public/reports/" + name;
-        QVERIFY(uiutils::writeReportFile(path, "another form", false).ok);
-        QVERIFY(writeFile("elsewhere", "kept") && QFile::link("elsewhere", name + ".gz"));
+        const std::pair<QString, QByteArray> rows[]{{"Größe $(1).txt", QByteArray("Loss 0.25 dB\n").repeated(1000)},
+                {"-f.txt", ""}, {QString(248, 'x') + ".txt", noise(large)}};
+        for (const auto& [name, contents] : rows) {
+            const QString path = "/cust/public/reports/" + name;
+            QVERIFY(uiutils::writeReportFile(path, "another form", false).ok);
+            QVERIFY(writeFile("elsewhere", "kept") && QFile::link("elsewhere", name + ".gz"));
 
-        const uiutils::WrittenFile packed = uiutils::writeReportFile(path, contents, true);
-        QVERIFY2(packed.ok, qPrintable(packed.error));
-        QCOMPARE(packed.path, path + ".gz");
-        QVERIFY(!QFileInfo(name + ".gz").isSymLink());
-        QCOMPARE(unpacked(path + ".gz"), contents);
-        // Unpackers give the file the name that gzip has noted behind its ten bytes of head.
-        QCOMPARE(QFile::decodeName(contentsOf(name + ".gz").mid(10).constData()), name);
-        QCOMPARE(contentsOf(name) + contentsOf("elsewhere"), QByteArray("another formkept"));
+            const uiutils::WrittenFile packed = uiutils::writeReportFile(path, contents, true);
+            QVERIFY2(packed.ok, qPrintable(packed.error));
+            QCOMPARE(packed.path, path + ".gz");
+            QVERIFY(!QFileInfo(name + ".gz").isSymLink());
+            QCOMPARE(unpacked(path + ".gz"), contents);
+            // Unpackers give the file the name that gzip has noted behind its ten bytes of head.
+            QCOMPARE(QFile::decodeName(contentsOf(name + ".gz").mid(10).constData()), name);
+            QCOMPARE(contentsOf(name) + contentsOf("elsewhere"), QByteArray("another formkept"));
 
-        const uiutils::WrittenFile plain = uiutils::writeReportFile(path, contents, false);
-        QVERIFY(plain.ok && plain.path == path && plain.error.isEmpty());
-        QCOMPARE(contentsOf(name), contents);
-        QCOMPARE(names().size(), 3);
+            const uiutils::WrittenFile plain = uiutils::writeReportFile(path, contents, false);
+            QVERIFY(plain.ok && plain.path == path && plain.error.isEmpty());
+            QCOMPARE(contentsOf(name), contents);
+            QVERIFY(names().size() == 3 && QFile::remove(name) && QFile::remove(name + ".gz"));
+        }
     }
 
     void aReportThatCannotBePackedIsNotLost()
@@ -395,14 +367,8 @@ private Q_SLOTS:
     void attachesReports()
     {
         const QString fits = QString::fromUtf8("<report>Größe</report>");
-        struct Row
-        {
-            bool isJobActive;
-            QString schema;
-            QString xml;
-            QString reason;
-        };
-        const QVector<Row> rows{{true, "", "<anything/>", ""}, {true, "/cust/job.xsd", fits, ""},
+        const std::tuple<bool, QString, QString, QString> rows[]{{true, "", "<anything/>", ""},
+                {true, "/cust/job.xsd", fits, ""},
                 {true, "/cust/job.xsd", "<other/>", "The report is not what jobs accept: line 1: .*other.*"},
                 {true, "/cust/job.xsd", "", "The report is not what jobs accept: .+"},
                 {true, "/cust/none.xsd", fits, "The schema /cust/none\\.xsd cannot be used: .+"},
@@ -423,13 +389,13 @@ private Q_SLOTS:
                     *error = "Job %1 is closed";
                     return argument != "refuse" && (taken += argument, true);
                 }));
-        for (const Row& row : rows) {
-            service->setValue(":result:basemgr:jobmanager:isJobActive:", row.isJobActive);
+        for (const auto& [isJobActive, schema, xml, reason] : rows) {
+            service->setValue(":result:basemgr:jobmanager:isJobActive:", isJobActive);
             QString found("stale");
             taken.clear();
-            QCOMPARE(uiutils::attachToJob(row.xml.toUtf8(), row.schema, &found), row.reason.isEmpty());
-            QVERIFY2(QRegularExpression("\\A(?s:" + row.reason + ")\\z").match(found).hasMatch(), qPrintable(found));
-            QCOMPARE(taken, row.reason.isEmpty() ? QStringList(row.xml) : QStringList());
+            QCOMPARE(uiutils::attachToJob(xml.toUtf8(), schema, &found), reason.isEmpty());
+            QVERIFY2(QRegularExpression("\\A(?s:" + reason + ")\\z").match(found).hasMatch(), qPrintable(found));
+            QCOMPARE(taken, reason.isEmpty() ? QStringList(xml) : QStringList());
         }
     }
 

@@ -129,7 +129,6 @@ class ReportSavingTest : public ReportFixture
 {
     Q_OBJECT
 
-    QString listFile() const { return onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"); }
     QStringList noSyncItem() const
     {
         return basemgr()->item(":config:basemgr:system:ss_nosync:stringARRAY:")->getValue().toStringList();
@@ -190,51 +189,41 @@ private Q_SLOTS:
         QVERIFY(report.getReportFiles().isEmpty());
     }
 
-    void saves_data()
-    {
-        QTest::addColumn<int>("format");
-        QTest::addColumn<QStringList>("files");
-        QTest::newRow("pdf") << 0 << QStringList("a.pdf");
-        QTest::newRow("text") << 3 << QStringList("a.txt");
-        QTest::newRow("json") << 4 << QStringList("a.json");
-        QTest::newRow("compressed") << 3 << QStringList("a.txt.gz");
-        QTest::newRow("all that are offered") << 5 << QStringList({"a.pdf", "a.xml"});
-        QTest::newRow("none") << 6 << QStringList();
-        QTest::newRow("all, and none is offered") << 5 << QStringList();
-    }
     void saves()
     {
-        QFETCH(int, format);
-        QFETCH(QStringList, files);
-        Controller report;
-        report.setFolder("f");
-        report.setUp("a", format);
-        for (int other = 0; other < 5; ++other)
-            report.setFormatApplicable(other, format != 5 || (other < 2 && !files.isEmpty()));
-        report.setCompressionEnabled(files == QStringList("a.txt.gz"));
-        QSignalSpy generated(&report, &Report::reportGenerated);
-        QCOMPARE(report.save(), !files.isEmpty());
-        QCOMPARE(names("/cust/public/reports/f"), files);
-        QCOMPARE(generated.count(), files.isEmpty() ? 0 : 1);
-        QCOMPARE(manager()->count(), qMax(1, files.size()));
-        QCOMPARE(manager()->currentDialog() != nullptr, files.isEmpty());
-        if (!files.isEmpty())
-            QCOMPARE(generated.at(0).at(0).toString(), format == 5 ? "a" : files.at(0));
-        // An empty file is what a controller without a text writes.
-        QVERIFY(files != QStringList("a.txt") || contentsOf(onDisk("/cust/public/reports/f/a.txt")).isEmpty());
+        // A format, and what is written where all are offered; of all, none or the first two are.
+        const std::pair<int, QStringList> rows[]{{0, {"a.pdf"}}, {3, {"a.txt"}}, {4, {"a.json"}}, {3, {"a.txt.gz"}},
+                {5, {"a.pdf", "a.xml"}}, {6, {}}, {5, {}}};
+        for (const auto& [format, files] : rows) {
+            manager()->clear();
+            QDir(onDisk("/cust/public/reports")).removeRecursively();
+            Controller report("a", format);
+            report.setFolder("f");
+            for (int other = 0; other < 5; ++other)
+                report.setFormatApplicable(other, format != 5 || (other < 2 && !files.isEmpty()));
+            report.setCompressionEnabled(files == QStringList("a.txt.gz"));
+            QSignalSpy generated(&report, &Report::reportGenerated);
+            QCOMPARE(report.save(), !files.isEmpty());
+            QCOMPARE(names("/cust/public/reports/f"), files);
+            QCOMPARE(generated.count(), files.isEmpty() ? 0 : 1);
+            QCOMPARE(manager()->count(), qMax(1, files.size()));
+            QCOMPARE(manager()->currentDialog() != nullptr, files.isEmpty());
+            QVERIFY(files.isEmpty() || generated.at(0).at(0).toString() == (format == 5 ? "a" : files.at(0)));
+            // An empty file is what a controller without a text writes.
+            QVERIFY(files != QStringList("a.txt") || contentsOf(onDisk("/cust/public/reports/f/a.txt")).isEmpty());
+        }
     }
 
     void overwritingIsAskedFor()
     {
-        Controller report;
-        report.setUp("a", 3);
+        Controller report("a", 3);
         report.text = QString::fromUtf8("größer");
         QVERIFY(report.save());
         report.text = "new";
         QVERIFY(!report.save() && !report.save());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCOMPARE(manager()->waitingDialogs(), 0);
-        QCOMPARE(manager()->currentDialog()->msg(), QString("Do you want to overwrite report Internal:/reports/a.txt?"));
+        QCOMPARE(dialogText(), QString("Do you want to overwrite report Internal:/reports/a.txt?"));
         report.saveOnYes();
         manager()->reject();
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.txt")), QByteArray("größer"));
@@ -254,8 +243,7 @@ private Q_SLOTS:
         // Mine compressed, theirs compressed: the name is the same one then.
         for (const auto& [mine, theirs] : {std::pair(false, false), std::pair(true, true), std::pair(true, false)}) {
             const QString name = theirs ? "a.txt.gz" : "a.txt";
-            Controller report;
-            report.setUp("a", 3);
+            Controller report("a", 3);
             report.setCompressionEnabled(mine);
             report.saveSettings();
             int status = -1;
@@ -266,8 +254,7 @@ private Q_SLOTS:
             QCOMPARE(status, 0);
             const QByteArray left = contentsOf(onDisk("/cust/public/reports/" + name));
             QVERIFY(theirs ? left.size() > 20 : left == "theirs");
-            QCOMPARE(manager()->currentDialog() != nullptr, mine == theirs);
-            QVERIFY(!manager()->currentDialog() || manager()->currentDialog()->longLabel() == "Report Exists");
+            QCOMPARE(dialogTitle(), QString(mine == theirs ? "Report Exists" : ""));
             QVERIFY(!report.calls.contains("failed"));
             QVERIFY(QDir(onDisk("/cust/public/reports")).removeRecursively());
         }
@@ -283,23 +270,19 @@ private Q_SLOTS:
         // Nothing is free there.
         report.setBaseDirectory("/proc/");
         QVERIFY(!report.save());
-        QVERIFY(manager()->currentDialog());
-        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Not Enough Space"));
+        QCOMPARE(dialogTitle(), QString("Not Enough Space"));
         QCOMPARE(manager()->waitingDialogs(), 0);
         QCOMPARE(report.calls.constLast(), QString("failed"));
     }
 
     void answersReachTheAskerAlone()
     {
-        Controller first;
-        Controller second;
+        Controller first("b", 3);
+        Controller second("b", 3);
         QVERIFY(writeFile(onDisk("/cust/public/reports/b.txt"), ""));
         for (Controller* report : {&first, &second}) {
-            report->setUp("b", 3);
             QVERIFY(!report->save());
-            Controller gone;
-            gone.setUp("b", 3);
-            QVERIFY(!gone.save());
+            QVERIFY(!Controller("b", 3).save());
         }
         QTRY_COMPARE(manager()->waitingDialogs(), 1);
         first.saveOnYes();
@@ -314,20 +297,16 @@ private Q_SLOTS:
 
     void failuresAreTold_data()
     {
-        QTest::addColumn<QString>("obstacle");
         QTest::addColumn<int>("filesLeft");
-        QTest::newRow("folder") << "folder" << 1;
-        QTest::newRow("file in the way") << "file" << 0;
-        QTest::newRow("full") << "full" << 1;
-        QTest::newRow("no pages") << "pages" << 0;
-        QTest::newRow("read-only") << "read-only" << 0;
+        for (const auto& [obstacle, filesLeft] : {std::pair("folder", 1), std::pair("file in the way", 0),
+                     std::pair("full", 1), std::pair("no pages", 0), std::pair("read-only", 0)})
+            QTest::newRow(obstacle) << filesLeft;
     }
     void failuresAreTold()
     {
-        QFETCH(QString, obstacle);
-        Controller report;
+        const QByteArray obstacle = QTest::currentDataTag();
+        Controller report("a", obstacle == "no pages" ? 0 : 3);
         report.setFolder("f");
-        report.setUp("a", obstacle == "pages" ? 0 : 3);
         report.text = QString(10'000, 'x');
         report.pages.clear();
         const QString folder = onDisk("/cust/public/reports/f");
@@ -336,7 +315,7 @@ private Q_SLOTS:
         std::unique_ptr<FileSizeLimit> limit;
         if (obstacle == "folder")
             QVERIFY(QDir().mkpath(folder + "/a.txt"));
-        else if (obstacle == "file")
+        else if (obstacle == "file in the way")
             QVERIFY(writeFile(folder, ""));
         else if (obstacle == "full")
             QVERIFY(writeFile(folder + "/a.txt", "former") && (limit = std::make_unique<FileSizeLimit>(4096)));
@@ -346,8 +325,7 @@ private Q_SLOTS:
         QVERIFY(!report.save(true));
         QCOMPARE(files.count(), 0);
         QCOMPARE(report.calls.constLast(), QString("failed"));
-        QVERIFY(manager()->currentDialog());
-        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Write Error"));
+        QCOMPARE(dialogTitle(), QString("Write Error"));
         QVERIFY(!report.calls.contains("written"));
         QVERIFY(obstacle != "full" || contentsOf(folder + "/a.txt") == "former");
         QTEST(names("/cust/public/reports/f").size(), "filesLeft");
@@ -363,16 +341,14 @@ private Q_SLOTS:
                 {QString(244, 'x') + ".txt", ""}, {QString("e") + QChar(0x301) + QString(246, 'x'), ""}};
         for (const auto& [name, problem] : rows) {
             const bool isSaved = problem.isEmpty();
-            Controller report;
+            Controller report(name, 3);
             report.setFolder("f");
-            report.setUp(name, 3);
             report.setCompressionEnabled(true);
             QCOMPARE(report.save(), isSaved);
             // Before a folder is made.
             QCOMPARE(QFile::exists(onDisk("/cust/public/reports/f")), isSaved);
             QVERIFY(QDir(onDisk("/cust/public/reports/f")).removeRecursively());
-            QCOMPARE(manager()->currentDialog() != nullptr, !isSaved);
-            QVERIFY(isSaved || manager()->currentDialog()->msg() == problem);
+            QCOMPARE(dialogText(), problem);
         }
     }
 
@@ -381,9 +357,8 @@ private Q_SLOTS:
         const OtherZone zone("Australia/Adelaide");
         QVERIFY(m_backend->loadFile(UIUTILS_SERVICES_DIR "/workflow_manager_app.service.json"));
         QVERIFY(basemgr()->setValue(":config:basemgr:system:report_cdm_testType:", "otdr"));
-        Controller report;
+        Controller report("a", 5);
         report.setFolder("f");
-        report.setUp("a", 5);
         report.setCdmTestTypeAndLabel();
         const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
         QVERIFY(report.save());
@@ -430,16 +405,14 @@ private Q_SLOTS:
     void aRecordThatCannotBeWrittenHindersNothing()
     {
         QVERIFY(writeFile(onDisk("/cust/private/reports"), "no folder"));
-        Controller report;
-        report.setUp("a", 3);
+        Controller report("a", 3);
         QVERIFY(report.save());
         QVERIFY(!manager()->currentDialog());
     }
 
     void savesCanBeCancelled()
     {
-        Controller report;
-        report.setUp("a", 5);
+        Controller report("a", 5);
         QVector<double> progress;
         connect(&report, &Report::progressChanged, &report, [&] {
             progress << report.getProgress();
@@ -474,8 +447,7 @@ private Q_SLOTS:
     }
     void aSaveTellsTheNameThatItBeganWith()
     {
-        Controller report;
-        report.setUp("a", 5);
+        Controller report("a", 5);
         QSignalSpy generated(&report, &Report::reportGenerated);
         connect(&report, &Report::savingChanged, &report, [&] { report.getSetting("reportFormat")->setValue(0); });
         QVERIFY(report.save());
@@ -517,8 +489,7 @@ private Q_SLOTS:
 
     void aNewSaveTakesTheQuestionBack()
     {
-        Controller report;
-        report.setUp("a", 3);
+        Controller report("a", 3);
         QVERIFY(report.save());
         QVERIFY(!report.save());
         QSignalSpy accepted(&report, &Report::reportOverwriteAccepted);
@@ -532,8 +503,7 @@ private Q_SLOTS:
 
     void emptyNamesAndFoldersHaveDefaults()
     {
-        Controller report;
-        report.setUp("", 3);
+        Controller report("", 3);
         report.proposed.clear();
         report.setBaseDirectory(QString());
         QVERIFY(report.save());
@@ -544,8 +514,7 @@ private Q_SLOTS:
 
     void compressingReplacesThePlainReport()
     {
-        Controller report;
-        report.setUp("a", 3);
+        Controller report("a", 3);
         QVERIFY(report.save());
         report.setCompressionEnabled(true);
         QVERIFY(!report.save());
@@ -561,8 +530,7 @@ private Q_SLOTS:
 
     void reportsStayFromTheCloudThoughOthersFail()
     {
-        Controller report;
-        report.setUp("a", 5);
+        Controller report("a", 5);
         QVERIFY(QDir().mkpath(onDisk("/cust/public/reports/a.xml/x")));
         QVERIFY(!report.save(true));
         const QByteArray list = contentsOf(listFile());
@@ -570,8 +538,7 @@ private Q_SLOTS:
     }
     void reportsThatCannotBeCompressedStayFromTheCloud()
     {
-        Controller report;
-        report.setUp("a", 3);
+        Controller report("a", 3);
         report.setCompressionEnabled(true);
         const auto restore = qScopeGuard([path = qgetenv("PATH")] { qputenv("PATH", path); });
         qputenv("PATH", "/nowhere");
@@ -579,8 +546,7 @@ private Q_SLOTS:
         QVERIFY(!report.save());
         QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
         QCOMPARE(files.count(), 1);
-        QVERIFY(contentsOf(listFile())
-                        .contains("/cust/public/reports/a.txt\n"));
+        QVERIFY(contentsOf(listFile()).contains("/cust/public/reports/a.txt\n"));
     }
     /// What follows is saved: "+" not to be synced, "-" to be synced. "!" takes the file away.
     void theNoSyncListHasWhatIsNotSynced()
@@ -615,18 +581,16 @@ private Q_SLOTS:
     }
     void aListThatCannotBeReadIsNotReplaced()
     {
-        Controller report;
-        report.setUp("a", 3);
+        Controller report("a", 3);
         QVERIFY(QDir().mkpath(listFile() + "/x"));
         // The report is safe; that it may be synced the user has to know.
         QVERIFY(report.save());
-        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Sync"));
+        QCOMPARE(dialogTitle(), QString("Sync"));
         manager()->accept();
         // A page that goes when its reports are saved takes the dialog along; two reports are one mishap.
         manager()->clear();
         {
-            Controller leaving;
-            leaving.setUp("b", 5);
+            Controller leaving("b", 5);
             leaving.setNotifiesTray(false);
             QVERIFY(leaving.save());
         }
@@ -640,7 +604,7 @@ private Q_SLOTS:
         for (const QByteArray& foreign : {full, full + '\n'}) {
             QVERIFY(writeFile(listFile(), foreign));
             report.addReportToNoSyncList("/cust/" + QString(100, 'y'));
-            QVERIFY(manager()->currentDialog() && manager()->currentDialog()->msg().contains("more than 1 MiB"));
+            QVERIFY(dialogText().contains("more than 1 MiB"));
             manager()->accept();
             QCOMPARE(contentsOf(listFile()), foreign);
         }
@@ -649,21 +613,20 @@ private Q_SLOTS:
         manager()->accept();
         QVERIFY(writeFile(listFile(), small));
         report.addReportToNoSyncList("/cust/a\n/cust/b");
-        QCOMPARE(manager()->currentDialog()->longLabel(), QString("Sync"));
+        QCOMPARE(dialogTitle(), QString("Sync"));
         QCOMPARE(contentsOf(listFile()), small);
         report.addReportToNoSyncList("/y");
         QCOMPARE(contentsOf(listFile()), QByteArray("/cust/public/caf\xe9\n/x\n/y\n/y.json\n"));
     }
     void aHeldListDelaysASaveOnce()
     {
-        Controller report;
-        report.setUp("a", 5);
+        Controller report("a", 5);
         attempts = 0;
         QVERIFY(report.save());
         // Every half of a millisecond, for half a second.
         QVERIFY2(*attempts > 1 && *attempts <= 1001, qPrintable(QString::number(*attempts)));
         attempts.reset();
-        QVERIFY(manager()->currentDialog() && manager()->currentDialog()->msg().contains("a.pdf, Internal:/reports/a.xml"));
+        QVERIFY(dialogText().contains("a.pdf, Internal:/reports/a.xml"));
         QCOMPARE(manager()->waitingDialogs(), 0);
         QVERIFY(!QFile::exists(listFile()));
     }
@@ -673,8 +636,7 @@ private Q_SLOTS:
         QVERIFY(basemgr()->setActionHandler(":action:basemgr:system:report_update_name_configs:",
                 [](const QString&, QString*) { return events << "kept", true; }));
         events.clear();
-        Controller report;
-        report.setUp("a", 3);
+        Controller report("a", 3);
         report.keepsName = false;
         QVERIFY(report.save());
         QCOMPARE(events, QStringList());
@@ -687,7 +649,7 @@ private Q_SLOTS:
         QVERIFY(!manager()->currentDialog());
         QVERIFY(basemgr()->setValue(activeItem, false));
         QVERIFY(!report.writeToJobManager());
-        QCOMPARE(manager()->currentDialog()->msg(), QString("There is no active job"));
+        QCOMPARE(dialogText(), QString("There is no active job"));
     }
 
     void viewerIsStarted()
@@ -754,8 +716,7 @@ private Q_SLOTS:
 /// Saves as another process does, without a service.
 int saveTheirs(bool compressed)
 {
-    Controller report;
-    report.setUp("a", 3);
+    Controller report("a", 3);
     report.text = "theirs";
     report.setCompressionEnabled(compressed);
     return report.save() ? 0 : 1;
