@@ -32,6 +32,7 @@
 using namespace uiutils::demo;
 
 namespace {
+
 constexpr int longWait = 60000;
 
 const char* const lastName = ":config:basemgr:system:userInfo_lastName:";

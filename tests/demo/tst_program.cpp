@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 namespace {
+
 struct Outcome
 {
     int exitCode = -1;

@@ -21,6 +21,7 @@ using namespace uiutils;
 using namespace uiutils::demo;
 
 namespace {
+
 const QString folder = QStringLiteral("/cust/public/reports/loopback/");
 const QString records = QStringLiteral("/cust/private/reports/metadata/loopback/");
 const QString unsynced = QStringLiteral("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt");

@@ -19,6 +19,7 @@ using namespace uiutils;
 using uiutils::demo::UsbStick;
 
 namespace {
+
 const QString attachedId = QStringLiteral(":result:basemgr:system:usbAttached:");
 
 } // namespace

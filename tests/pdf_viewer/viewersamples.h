@@ -8,6 +8,7 @@
 
 /// Makers of small PDF files for the viewer's tests.
 namespace samples {
+
 /// A file of letter pages. Page n has a black bar across it, from n tenths of its height to the next tenth.
 inline QByteArray barred(int pages)
 {

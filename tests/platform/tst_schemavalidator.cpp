@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 namespace {
+
 const QByteArray head("<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>");
 const QByteArray linkElement("<xs:element name='link'><xs:complexType><xs:sequence>"
                              "<xs:element name='loss' type='xs:decimal' maxOccurs='unbounded'/>"

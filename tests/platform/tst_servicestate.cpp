@@ -19,6 +19,7 @@ using kiv::embedded::ItemDescription;
 using kiv::embedded::ServiceDescription;
 
 namespace {
+
 const QString stationFile = QStringLiteral(UIUTILS_TEST_DATA_DIR "/services/station.service.json");
 const QString prefix = QStringLiteral(":config:station:setup:");
 const QString levelId = prefix + "level_3:";

@@ -23,6 +23,7 @@
 #include <unistd.h>
 
 namespace {
+
 const QString program = UIUTILS_CONVERT_PROGRAM;
 const QString testData = UIUTILS_TEST_DATA_DIR;
 const QByteArray smallDocument(R"({"node_type": "report", "tag": "small", "title": "Small"})");

@@ -18,6 +18,7 @@
 #include <memory>
 
 namespace {
+
 void readDocument(ReportTemplate& report, const QString& name)
 {
     report.readFile(UIUTILS_TEST_DATA_DIR "/documents/" + name + ".json");

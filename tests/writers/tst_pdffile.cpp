@@ -15,6 +15,7 @@
 using samples::described;
 
 namespace {
+
 const char loadFailure[] = "^Unable to write PDF report: .";
 const char writeFailure[] = "^Unable to write file: .";
 

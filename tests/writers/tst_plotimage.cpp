@@ -12,6 +12,7 @@
 #include <QtMath>
 
 namespace {
+
 const QString xId = QStringLiteral(":result:kinds:trace_x:doubleARRAY:");
 const QString yId = QStringLiteral(":result:kinds:trace_y:doubleARRAY:");
 

@@ -25,6 +25,7 @@
 #include <memory>
 
 namespace {
+
 /// The text in the order in which it was drawn, page by page.
 QStringList pagesOf(const QString& path)
 {

@@ -22,6 +22,7 @@ using namespace uiutils;
 Q_DECLARE_METATYPE(uiutils::TextLayout)
 
 namespace {
+
 void readDocument(ReportTemplate& report, const QString& path)
 {
     report.readFile(path);
