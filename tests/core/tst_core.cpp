@@ -1,5 +1,7 @@
 #include "filesizelimit.h"
-#include "testfiles.h"
+#include "files.h"
+
+#include <QtTest>
 
 #include "base/durablefile.h"
 #include "base/paths.h"

@@ -1,5 +1,7 @@
 #include "filesizelimit.h"
-#include "testfiles.h"
+#include "files.h"
+
+#include <QtTest>
 
 #include "document/reportmetadata.h"
 
@@ -111,7 +113,7 @@ private Q_SLOTS:
         QCOMPARE(other.getInfo(odd), odd);
         QCOMPARE(other.getInfo("stale"), QString());
 
-        QVERIFY(writeFile(path, R"({"type": 5, "format": 1.5, "info": {"wo": 88213}})"));
+        writeFile(path, R"({"type": 5, "format": 1.5, "info": {"wo": 88213}})");
         QVERIFY(other.loadFromDisk());
         QCOMPARE(valuesOf(other), (QStringList {"5", "1.5", "", "", "88213"}));
 
@@ -132,7 +134,7 @@ private Q_SLOTS:
             ReportMetadata record = recordOf("a.pdf");
             record.updateOriginFilePath();
             const QStringList before = valuesOf(record);
-            QVERIFY(writeFile(onDisk(record.metadataFilePath()), text));
+            writeFile(onDisk(record.metadataFilePath()), text);
             if (!isTaken)
                 QTest::ignoreMessage(QtWarningMsg, "bool ReportMetadata::loadFromDisk() Error while parsing JSON from "
                                                    "/cust/private/reports/metadata/otdr/a.pdf.metadata");

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "filesizelimit.h"
-#include "testfiles.h"
+#include "files.h"
+
+#include <QtTest>
 
 #include "report/report.h"
 #include "report/reportnaming_p.h"
@@ -164,7 +166,7 @@ protected:
     }
     void writeTemplate(const QString& name, const QByteArray& fields)
     {
-        QVERIFY(writeFile(onDisk("/cust/" + name), json("{'node_type': 'report', 'tag': 'otdr'" + fields + "}")));
+        writeFile(onDisk("/cust/" + name), json("{'node_type': 'report', 'tag': 'otdr'" + fields + "}"));
     }
 
 private Q_SLOTS:

@@ -1,4 +1,6 @@
-#include "testfiles.h"
+#include "files.h"
+
+#include <QtTest>
 
 #include "report/nosynclist_p.h"
 

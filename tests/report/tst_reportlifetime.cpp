@@ -38,7 +38,7 @@ private Q_SLOTS:
         const auto goOnTray = goOnNotification(&KIVNotificationModelManager::countChanged);
         const Deed save = [](Controller* r) { r->save(); };
         const Deed fail = [=](Controller* r) {
-            QVERIFY(writeFile(onDisk("/cust/public/reports/f"), ""));
+            writeFile(onDisk("/cust/public/reports/f"), "");
             r->setFolder("f");
             r->save();
         };
@@ -87,7 +87,7 @@ private Q_SLOTS:
             QTRY_VERIFY(!report);
         }));
         const Deed load = [this](Controller* r) {
-            QVERIFY(writeFile(onDisk("/cust/private/lastconfigs/reportSettings/x.json"), json("{'includeJobInfo': false, 'reportFormat': 1}")));
+            writeFile(onDisk("/cust/private/lastconfigs/reportSettings/x.json"), json("{'includeJobInfo': false, 'reportFormat': 1}"));
             r->loadSettings();
             r->getSetting("reportFormat")->setValue(0);
             connect(r->getSetting("reportFormat"), &KivData::valueChanged, r, [r] { delete r; });
@@ -118,7 +118,7 @@ private Q_SLOTS:
     {
         const QPointer<Controller> first(new Controller("a", 3));
         Controller second("a", 3);
-        QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt"), ""));
+        writeFile(onDisk("/cust/public/reports/a.txt"), "");
         QVERIFY(!first->save() && !second.save());
         QSignalSpy accepted(&second, &Report::reportOverwriteAccepted);
         connect(first, &Report::reportOverwriteAccepted, first, [&first] { delete first; });
@@ -132,7 +132,7 @@ private Q_SLOTS:
 
     void dyingControllersAnswerAndSaveNothing()
     {
-        QVERIFY(writeFile(onDisk("/cust/public/reports/f/a.txt"), "kept"));
+        writeFile(onDisk("/cust/public/reports/f/a.txt"), "kept");
         auto report = std::make_unique<Controller>("a", 3);
         report->setFolder("f");
         QVERIFY(!report->save());

@@ -1,5 +1,7 @@
 #include "filesizelimit.h"
-#include "testfiles.h"
+#include "files.h"
+
+#include <QtTest>
 
 #include "report/gzip_p.h"
 #include "report/jobreport_p.h"
@@ -122,7 +124,7 @@ private Q_SLOTS:
                      "Größe 光纤.txt", "!!*?~&|<>.txt"}) {
             const QString name = QString::fromUtf8(text);
             for (const QString& path : {"/cust/public/reports/" + name, name}) {
-                QVERIFY(writeFile(name, "contents"));
+                writeFile(name, "contents");
                 QVERIFY(uiutils::compressFile(path));
                 QCOMPARE(names(), QStringList(name + ".gz"));
                 QVERIFY(uiutils::uncompressFile(path + ".gz"));
@@ -146,7 +148,7 @@ private Q_SLOTS:
         const std::pair<QString, const char*> rows[]{{report, ""}, {report, "exit 2"}, {report, "kill -9 $$"},
                 {report + QChar(QChar::Null) + "b", "exit 0"}};
         for (const auto& [path, gzip] : rows) {
-            QVERIFY(writeFile("a.txt", "contents"));
+            writeFile("a.txt", "contents");
             const OtherGzip other(gzip);
             QTest::ignoreMessage(QtDebugMsg, qPrintable("Couldn't compress " + path));
             QVERIFY(!uiutils::compressFile(path));
@@ -158,7 +160,7 @@ private Q_SLOTS:
 
     void aHostMayIgnoreItsChildren()
     {
-        QVERIFY(writeFile("a.txt", "contents"));
+        writeFile("a.txt", "contents");
         const auto before = ::signal(SIGCHLD, SIG_IGN);
         const bool isPacked = uiutils::compressFile("/cust/public/reports/a.txt");
         QTest::ignoreMessage(QtDebugMsg, "Couldn't compress /cust/public/reports/missing");
@@ -176,7 +178,8 @@ private Q_SLOTS:
         for (const auto& [name, contents] : rows) {
             const QString path = "/cust/public/reports/" + name;
             QVERIFY(uiutils::writeReportFile(path, "another form", false).ok);
-            QVERIFY(writeFile("elsewhere", "kept") && QFile::link("elsewhere", name + ".gz"));
+            writeFile("elsewhere", "kept");
+            QVERIFY(QFile::link("elsewhere", name + ".gz"));
 
             const uiutils::WrittenFile packed = uiutils::writeReportFile(path, contents, true);
             QVERIFY2(packed.ok, qPrintable(packed.error));
@@ -253,7 +256,7 @@ private Q_SLOTS:
     {
         const QDateTime noon(QDate(2025, 7, 1), QTime(12, 0));
         const auto add = [&](const QString& name, int minutes, int size) {
-            QVERIFY(writeFile(name, QByteArray(size, 'x')));
+            writeFile(name, QByteArray(size, 'x'));
             QFile file(name);
             QVERIFY(file.open(QIODevice::Append));
             QVERIFY(file.setFileTime(noon.addSecs(60 * minutes), QFileDevice::FileModificationTime));
@@ -316,7 +319,7 @@ private Q_SLOTS:
             const timespec times[]{time, time};
             return ::utimensat(AT_FDCWD, QFile::encodeName(onDisk(folder)).constData(), times, 0) == 0;
         };
-        QVERIFY(writeFile("a.pdf", "1"));
+        writeFile("a.pdf", "1");
         for (const auto& [changed, read, isSure] : {std::tuple(timespec{1000, 7}, timespec{1000, 8}, true),
                      std::tuple(timespec{1001, 7}, timespec{1001, 7}, false), std::tuple(timespec{1002, 0}, timespec{1003, 9}, false),
                      std::tuple(timespec{1003, 0}, timespec{1006, 9}, true), std::tuple(timespec{1007, 8}, timespec{1004, 9}, true)}) {
@@ -329,7 +332,7 @@ private Q_SLOTS:
             QCOMPARE(sizes("/cust/public/"), QString());
             QVERIFY(sizes(folder) != before);
         }
-        QVERIFY(writeFile("b.pdf", "12"));
+        writeFile("b.pdf", "12");
         QCOMPARE(sizes(folder).split(' ').size(), 2);
         QVERIFY(QFile::remove("b.pdf"));
         QCOMPARE(sizes(folder), QString("6"));
@@ -374,9 +377,9 @@ private Q_SLOTS:
                 {true, "/cust/none.xsd", fits, "The schema /cust/none\\.xsd cannot be used: .+"},
                 {true, "", "refuse", "The job has not taken the report: Job %1 is closed"},
                 {false, "/cust/none.xsd", fits, "There is no active job"}};
-        QVERIFY(writeFile(onDisk("/cust/job.xsd"),
+        writeFile(onDisk("/cust/job.xsd"),
                 "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'><xs:element name='report' type='xs:string'/>"
-                "</xs:schema>"));
+                "</xs:schema>");
         QVERIFY(!uiutils::attachToJob("<report/>", QString(), nullptr));
         kiv::embedded::EmbeddedBackend backend;
         QVERIFY(backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));

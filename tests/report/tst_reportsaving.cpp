@@ -137,7 +137,7 @@ class ReportSavingTest : public ReportFixture
 private Q_SLOTS:
     void aWholeSave()
     {
-        QVERIFY(writeFile(onDisk("/mnt/usb/a.xml"), "old"));
+        writeFile(onDisk("/mnt/usb/a.xml"), "old");
         plug(2);
         QVERIFY(basemgr()->setActionHandler(":action:basemgr:system:report_update_name_configs:",
                 [](const QString&, QString*) { return events += "action report_update_name_configs", true; }));
@@ -266,7 +266,7 @@ private Q_SLOTS:
             QString getSaveFilePath(const QString&, const QString&) override { return "/cust/public/reports/a.txt"; }
         } report;
         report.setUp("a", 3);
-        QVERIFY(writeFile(onDisk("/cust/public/reports/a.txt"), "old"));
+        writeFile(onDisk("/cust/public/reports/a.txt"), "old");
         // Nothing is free there.
         report.setBaseDirectory("/proc/");
         QVERIFY(!report.save());
@@ -279,7 +279,7 @@ private Q_SLOTS:
     {
         Controller first("b", 3);
         Controller second("b", 3);
-        QVERIFY(writeFile(onDisk("/cust/public/reports/b.txt"), ""));
+        writeFile(onDisk("/cust/public/reports/b.txt"), "");
         for (Controller* report : {&first, &second}) {
             QVERIFY(!report->save());
             QVERIFY(!Controller("b", 3).save());
@@ -316,10 +316,11 @@ private Q_SLOTS:
         if (obstacle == "folder")
             QVERIFY(QDir().mkpath(folder + "/a.txt"));
         else if (obstacle == "file in the way")
-            QVERIFY(writeFile(folder, ""));
-        else if (obstacle == "full")
-            QVERIFY(writeFile(folder + "/a.txt", "former") && (limit = std::make_unique<FileSizeLimit>(4096)));
-        else if (obstacle == "read-only" && (!QDir().mkpath(folder)
+            writeFile(folder, "");
+        else if (obstacle == "full") {
+            writeFile(folder + "/a.txt", "former");
+            limit = std::make_unique<FileSizeLimit>(4096);
+        } else if (obstacle == "read-only" && (!QDir().mkpath(folder)
                     || ::mount("none", QFile::encodeName(folder).constData(), "tmpfs", MS_RDONLY, "size=2m") != 0))
             QSKIP("Only those who may mount a drive can have one that is read-only.");
         QVERIFY(!report.save(true));
@@ -404,7 +405,7 @@ private Q_SLOTS:
     }
     void aRecordThatCannotBeWrittenHindersNothing()
     {
-        QVERIFY(writeFile(onDisk("/cust/private/reports"), "no folder"));
+        writeFile(onDisk("/cust/private/reports"), "no folder");
         Controller report("a", 3);
         QVERIFY(report.save());
         QVERIFY(!manager()->currentDialog());
@@ -563,7 +564,7 @@ private Q_SLOTS:
             QDir(onDisk("/cust/n")).removeRecursively();
             for (const QString& step : QString(steps).split(' ')) {
                 const QString path = "/cust/n/" + step.mid(1);
-                QVERIFY(step[0] == '!' ? QFile::remove(onDisk(path)) : writeFile(onDisk(path), ""));
+                QVERIFY(step[0] == '!' ? QFile::remove(onDisk(path)) : !writeFile(onDisk(path), "").isEmpty());
                 if (step[0] == '+')
                     report.addReportToNoSyncList(path);
                 if (step[0] == '-')
@@ -575,7 +576,7 @@ private Q_SLOTS:
         report.writeNoSyncListToFile({"/1", "/2", "/1"});
         QCOMPARE(contentsOf(listFile()), QByteArray("/1\n/2\n"));
         // The base manager hears of a list that others have made.
-        QVERIFY(writeFile(listFile(), "/1\n/2\n/3.pdf\n/3.json\n"));
+        writeFile(listFile(), "/1\n/2\n/3.pdf\n/3.json\n");
         report.addReportToNoSyncList("/3.pdf");
         QCOMPARE(noSyncItem().size(), 4);
     }
@@ -602,7 +603,7 @@ private Q_SLOTS:
         const QByteArray small = full;
         full.append(QByteArray(1024 * 1024 - full.size() - 1, 'x') + '\n');
         for (const QByteArray& foreign : {full, full + '\n'}) {
-            QVERIFY(writeFile(listFile(), foreign));
+            writeFile(listFile(), foreign);
             report.addReportToNoSyncList("/cust/" + QString(100, 'y'));
             QVERIFY(dialogText().contains("more than 1 MiB"));
             manager()->accept();
@@ -611,7 +612,7 @@ private Q_SLOTS:
         report.removeReportFromNoSyncList("/x");
         QCOMPARE(contentsOf(listFile()), full + '\n');
         manager()->accept();
-        QVERIFY(writeFile(listFile(), small));
+        writeFile(listFile(), small);
         report.addReportToNoSyncList("/cust/a\n/cust/b");
         QCOMPARE(dialogTitle(), QString("Sync"));
         QCOMPARE(contentsOf(listFile()), small);
@@ -655,8 +656,8 @@ private Q_SLOTS:
     void viewerIsStarted()
     {
         const QString viewer = onDisk("/base/bin/pdf_viewer");
-        QVERIFY(writeFile(
-                viewer, "#!/bin/sh\nprintf '%s\\n' \"$PWD\" \"$@\" > arguments.part\nmv arguments.part arguments\n"));
+        writeFile(
+                viewer, "#!/bin/sh\nprintf '%s\\n' \"$PWD\" \"$@\" > arguments.part\nmv arguments.part arguments\n");
         QVERIFY(QFile::setPermissions(viewer, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         QVERIFY(QDir().mkpath(onDisk("/base/qml/pdf_viewer")));
         Report report;
