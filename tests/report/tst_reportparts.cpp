@@ -227,6 +227,8 @@ private Q_SLOTS:
                 file = uiutils::writeReportFile(path, contents, compressed);
             }
             QVERIFY(!file.ok && !file.error.isEmpty());
+            // What does not even fit unpacked is not handed to gzip.
+            QCOMPARE(file.error.contains("gzip"), left == contents);
             QVERIFY(contentsOf("a.txt") == left);
             QCOMPARE(file.path, left == contents ? path : QString());
             QCOMPARE(unpacked(path + ".gz"), QByteArray("old"));
