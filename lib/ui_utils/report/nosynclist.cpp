@@ -232,12 +232,14 @@ bool areLines(const QStringList& paths, QString* error)
 
 bool addToNoSyncList(const QStringList& paths, QString* error)
 {
-    return areLines(paths, error) && edit([&](const Lines& lines) { return withReports(lines, paths); }, Former::Needed, error);
+    return areLines(paths, error)
+            && edit([&](const Lines& lines) { return withReports(lines, paths); }, Former::Needed, error);
 }
 
 bool removeFromNoSyncList(const QStringList& paths, QString* error)
 {
-    return areLines(paths, error) && edit([&](const Lines& lines) { return withoutReports(lines, paths); }, Former::Needed, error);
+    return areLines(paths, error)
+            && edit([&](const Lines& lines) { return withoutReports(lines, paths); }, Former::Needed, error);
 }
 
 bool replaceNoSyncList(const QStringList& paths, QString* error)
@@ -246,7 +248,8 @@ bool replaceNoSyncList(const QStringList& paths, QString* error)
     for (const QString& path : paths)
         lines += path.toUtf8();
     lines.removeAll(QByteArray());
-    return areLines(paths, error) && edit([&](const Lines&) { return withoutDuplicates(lines); }, Former::Dispensable, error);
+    return areLines(paths, error)
+            && edit([&](const Lines&) { return withoutDuplicates(lines); }, Former::Dispensable, error);
 }
 
 } // namespace uiutils
