@@ -216,6 +216,7 @@ private Q_SLOTS:
         writeFile(settingsFile(""), before);
         writeFile(settingsFile("otdr"), before);
         Controller early;
+        QCoreApplication::sendPostedEvents(&early);
         early.getSetting("reportName")->setValue("mine");
         early.saveSettings();
         QCOMPARE(stored(""), after);
@@ -229,6 +230,68 @@ private Q_SLOTS:
         early.getSetting("reportFormat")->setValue(0);
         early.saveSettings();
         QCOMPARE(stored("otdr"), QJsonObject({{"reportName", "mine"}, {"reportFormat", 0}, {"reportSync_SS", false}}));
+    }
+    void whatAConstructorSetsIsTheDefault()
+    {
+        struct Derived : Controller
+        {
+            UiData* own = new StringUiData;
+            QStringList log;
+            Derived()
+            {
+                own->setAttributes({{"name", "own"}, {"type", UiData::TYPE_STRING}});
+                addSetting(own);
+                own->setValue("default");
+            }
+            void settingsLoaded() override { log << own->getValue().toString(); }
+        };
+        for (const QString& chosen : QStringList({"stored", "mine"})) {
+            writeFile(settingsFile(""), json("{'own': 'stored'}"));
+            Derived report;
+            if (chosen == "mine") {
+                QCoreApplication::sendPostedEvents(&report);
+                report.own->setValue(chosen);
+            }
+            report.loadSettings();
+            QCOMPARE(report.own->getValue(), QVariant(chosen));
+            // Another folder's come first, then the notifiers, then the hook.
+            const Emissions emissions(report, &report.log);
+            const QString taken = chosen == "mine" ? chosen : "default";
+            report.setTag("t");
+            report.setFolder("f");
+            QCOMPARE(report.log, QStringList({"tagChanged", "folderChanged", "reportFilesChanged", "saveLocationChanged", taken,
+                                         "folderChanged", "reportFilesChanged", "saveLocationChanged", taken}));
+            report.setFolder("");
+            report.setTag("");
+            writeTemplate("a.json", "");
+            report.setTemplatePath("/cust/a.json");
+            QCOMPARE(report.log.mid(report.log.size() - 2), QStringList({"saveLocationChanged", taken}));
+        }
+    }
+    void whatCannotBeReadIsKept()
+    {
+        const QString place = settingsFile("x");
+        const QString log = "Could not open /cust/private/lastconfigs/reportSettings/x.json for ";
+        const QByteArray theirs = json("{'reportName': 'theirs', 'reportFormat': 1, 'reportSync_SS': true}");
+        writeFile(settingsFile(""), json("{'reportName': 'of none', 'reportFormat': 1}")) && QDir().mkpath(place);
+        Controller report;
+        report.loadSettings();
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(log + "reading"));
+        report.setFolder("x");
+        QCOMPARE(report.getSetting("reportName")->getValue().toString() + report.getSuffixForReport(), QString("of none.xml"));
+        QVERIFY(QDir().rmdir(place) && writeFile(place, json("{'reportName': 'ours'}")));
+        report.loadSettings();
+        // What was loaded once need not be what is there now.
+        QVERIFY(QFile::remove(place) && QDir().mkpath(place));
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(log + "reading"));
+        report.loadSettings();
+        QVERIFY(QDir().rmdir(place) && writeFile(place, theirs + QByteArray(uiutils::largestReportSettings, ' ')));
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(log + "writing"));
+        report.saveSettings();
+        QVERIFY(contentsOf(place).startsWith(theirs) && writeFile(place, theirs));
+        report.getSetting("reportName")->setValue("mine");
+        report.saveSettings();
+        QCOMPARE(stored("x"), QJsonObject({{"reportName", "mine"}, {"reportFormat", 1}, {"reportSync_SS", true}}));
     }
     void whoHearsOfAValueMayChangeTheFolder()
     {

@@ -89,7 +89,6 @@ private Q_SLOTS:
         const Deed load = [this](Controller* r) {
             writeFile(onDisk("/cust/private/lastconfigs/reportSettings/x.json"), json("{'includeJobInfo': false, 'reportFormat': 1}"));
             r->loadSettings();
-            r->getSetting("reportFormat")->setValue(0);
             connect(r->getSetting("reportFormat"), &KivData::valueChanged, r, [r] { delete r; });
             r->setFolder("x");
         };

@@ -338,7 +338,8 @@ private Q_SLOTS:
                 {"../../x", "The name may not have \"/\" in it."},
                 {QString("a") + QChar(QChar::Null) + "b", "The name may not have a NUL character in it."},
                 {QString(249, 'x'), "The name may have 248 characters, it has 249."},
-                {QString(86, QChar(0xe01)), "The name may have 82 characters, it has 86."}, {QString(248, 'x'), ""},
+                {QString(86, QChar(0xe01)), "The name may have 82 characters, it has 86."},
+                {QString(16'000, 'x'), "The name may have 248 characters, it has 16000."}, {QString(248, 'x'), ""},
                 {QString(244, 'x') + ".txt", ""}, {QString("e") + QChar(0x301) + QString(246, 'x'), ""}};
         for (const auto& [name, problem] : rows) {
             const bool isSaved = problem.isEmpty();
@@ -612,6 +613,11 @@ private Q_SLOTS:
         report.removeReportFromNoSyncList("/x");
         QCOMPARE(contentsOf(listFile()), full + '\n');
         manager()->accept();
+        // What takes its place needs nothing of it, and is the way out.
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Cannot read .*nosync.*: it has more than 1 MiB; it is replaced$"));
+        report.writeNoSyncListToFile({"/z"});
+        QCOMPARE(contentsOf(listFile()), QByteArray("/z\n"));
+        QVERIFY(!manager()->currentDialog());
         writeFile(listFile(), small);
         report.addReportToNoSyncList("/cust/a\n/cust/b");
         QCOMPARE(dialogTitle(), QString("Sync"));

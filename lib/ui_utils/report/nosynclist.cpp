@@ -133,7 +133,10 @@ void tellBaseManager()
     }
 }
 
-bool edit(const Change& change, QString* error)
+/// Whether a change builds on what stands in the list.
+enum class Former { Needed, Dispensable };
+
+bool edit(const Change& change, Former need, QString* error)
 {
     const QString folder = QFileInfo(onDisk(paths::noSyncList)).path();
     makeFolderDurably(folder);
@@ -144,12 +147,14 @@ bool edit(const Change& change, QString* error)
             return false;
         }
         const std::optional<Lines> former = read(error);
-        if (!former)
+        if (!former && need == Former::Needed)
             return false;
-        const Lines now = change(*former);
-        if (now == *former && isTold(now))
+        if (!former)
+            qWarning("%s; it is replaced", qUtf8Printable(*error));
+        const Lines now = change(former.value_or(Lines()));
+        if (now == former && isTold(now))
             return true;
-        if (now != *former && !write(now, error))
+        if (now != former && !write(now, error))
             return false;
     }
     tellBaseManager();
@@ -227,12 +232,14 @@ bool areLines(const QStringList& paths, QString* error)
 
 bool addToNoSyncList(const QStringList& paths, QString* error)
 {
-    return areLines(paths, error) && edit([&](const Lines& lines) { return withReports(lines, paths); }, error);
+    return areLines(paths, error)
+            && edit([&](const Lines& lines) { return withReports(lines, paths); }, Former::Needed, error);
 }
 
 bool removeFromNoSyncList(const QStringList& paths, QString* error)
 {
-    return areLines(paths, error) && edit([&](const Lines& lines) { return withoutReports(lines, paths); }, error);
+    return areLines(paths, error)
+            && edit([&](const Lines& lines) { return withoutReports(lines, paths); }, Former::Needed, error);
 }
 
 bool replaceNoSyncList(const QStringList& paths, QString* error)
@@ -241,7 +248,8 @@ bool replaceNoSyncList(const QStringList& paths, QString* error)
     for (const QString& path : paths)
         lines += path.toUtf8();
     lines.removeAll(QByteArray());
-    return areLines(paths, error) && edit([&](const Lines&) { return withoutDuplicates(lines); }, error);
+    return areLines(paths, error)
+            && edit([&](const Lines&) { return withoutDuplicates(lines); }, Former::Dispensable, error);
 }
 
 } // namespace uiutils

@@ -19,7 +19,7 @@ bool addToNoSyncList(const QStringList& paths, QString* error);
 /// In one edit. The record's path stays as long as it stands for another report, too: one of JSON, or of a further
 /// format. A report that was compressed, or is not any more, takes the path of its former file along.
 bool removeFromNoSyncList(const QStringList& paths, QString* error);
-/// In place of all that stood there; each path once.
+/// In place of all that stood there, also where that cannot be used, with a line in the log; each path once.
 bool replaceNoSyncList(const QStringList& paths, QString* error);
 
 } // namespace uiutils

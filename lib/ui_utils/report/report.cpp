@@ -147,7 +147,11 @@ void Report::addSetting(UiData* item)
     item->setParent(this);
     UiData* former = m_settings.value(item->getName());
     m_settings.insert(item->getName(), item);
-    m_state->settingOrigins->insert(item->getName(), {item->getValue(), QVariant(), QString()});
+    m_state->settingOrigins->insert(item->getName(), {item->getValue(), QVariant(), QString(), true});
+    // A derived controller may give its item the value that it starts with afterwards.
+    QMetaObject::invokeMethod(
+            this, [this] { uiutils::settleReportSettings(m_settings, *m_state->settingOrigins); },
+            Qt::QueuedConnection);
     if (former && former != item)
         former->deleteLater();
     Q_EMIT settingsChanged();
@@ -180,11 +184,13 @@ void Report::loadSettings()
 }
 
 /// The first are loaded when the page has had its time to set the folder.
-void Report::loadSettingsOfNewFolder()
+bool Report::loadSettingsOfNewFolder()
 {
     const QString& loaded = m_state->settingsPath;
-    if (!loaded.isNull() && loaded != uiutils::reportSettingsPath(getFolder()))
-        slotCreateSettings();
+    if (loaded.isNull() || loaded == uiutils::reportSettingsPath(getFolder()))
+        return false;
+    loadSettings();
+    return true;
 }
 
 void Report::saveSettings()
@@ -226,7 +232,7 @@ void Report::setTemplatePath(const QString& path)
     const bool isOtherFolder = folder != getFolder();
     const bool isOtherLocation = location != getSaveLocation();
     const QPointer<Report> self(this);
-    loadSettingsOfNewFolder();
+    const bool areLoaded = loadSettingsOfNewFolder();
     if (!self
             || !emitEach({&Report::templatePathChanged, &Report::tagChanged, &Report::orientationChanged,
                     &Report::titleChanged, &Report::subjectChanged, &Report::reportFilesChanged,
@@ -234,8 +240,10 @@ void Report::setTemplatePath(const QString& path)
         return;
     if (isOtherFolder && !emitEach({&Report::folderChanged}))
         return;
-    if (isOtherLocation)
-        Q_EMIT saveLocationChanged();
+    if (isOtherLocation && !emitEach({&Report::saveLocationChanged}))
+        return;
+    if (areLoaded)
+        settingsLoaded();
 }
 
 /// A file that cannot be read would empty the document, so another one reads it. Reading it twice might find two files.
@@ -274,9 +282,11 @@ void Report::setTag(const QString& tag)
         return;
     const bool isOtherFolder = getFolder() != folder;
     const QPointer<Report> self(this);
-    loadSettingsOfNewFolder();
-    if (self && emitEach({&Report::tagChanged}) && isOtherFolder)
-        tellFolder();
+    const bool areLoaded = loadSettingsOfNewFolder();
+    if (!self || !emitEach({&Report::tagChanged}) || (isOtherFolder && !tellFolder()))
+        return;
+    if (areLoaded)
+        settingsLoaded();
 }
 
 QString Report::getFolder() const
@@ -289,21 +299,20 @@ void Report::setFolder(const QString& folder)
     const QPointer<Report> self(this);
     if (!changes(m_folder, folder))
         return;
-    loadSettingsOfNewFolder();
-    if (self)
-        tellFolder();
+    const bool areLoaded = loadSettingsOfNewFolder();
+    if (self && tellFolder() && areLoaded)
+        settingsLoaded();
 }
 
-void Report::tellFolder()
+bool Report::tellFolder()
 {
-    if (emitEach({&Report::folderChanged}))
-        tellLocation();
+    return emitEach({&Report::folderChanged}) && tellLocation();
 }
 
 /// Reports are listed where the next one goes.
-void Report::tellLocation()
+bool Report::tellLocation()
 {
-    emitEach({&Report::reportFilesChanged, &Report::saveLocationChanged});
+    return emitEach({&Report::reportFilesChanged, &Report::saveLocationChanged});
 }
 
 bool Report::getCanWriteToJobManager() const

@@ -250,7 +250,8 @@ public:
 
 protected:
     // Hooks: the defaults do nothing.
-    /// The settings have taken their stored values.
+    /// The settings have taken the values that are stored for the folder: 100 ms after construction, and whenever
+    /// another folder has brought its own, then behind the notifiers of the setter.
     virtual void settingsLoaded();
     /// A save begins; the settings are stored, nothing is written.
     virtual void saveStarted(const QString& name);
@@ -281,7 +282,9 @@ protected:
     /// Adds "wo" and "workflowId" of the work order that is active in this session to metadata().
     void addWorkOrderMetaDataInfo();
 
-    /// Adds an item with name, type and label among its attributes to the settings, which own it from then on.
+    /// Adds an item with name, type and label among its attributes to the settings, which own it from then on. The
+    /// value that it holds when control is back in the event loop, or at the first load before, is the one that it
+    /// starts with; any other was set by somebody.
     void addSetting(UiData* item);
     /// Says which formats the user can choose; at first PDF and XML.
     void setFormatApplicable(int format, bool applicable);
@@ -347,9 +350,9 @@ private:
     void watchServices();
     void watchItems();
     void createSettings();
-    void loadSettingsOfNewFolder();
-    void tellFolder();
-    void tellLocation();
+    bool loadSettingsOfNewFolder();
+    bool tellFolder();
+    bool tellLocation();
     bool readTemplate(const QString& path);
     QString ownOrTemplate(const QString& own, const char* key) const;
     template<typename Writer> void handOnSwitches(Writer& writer) const;

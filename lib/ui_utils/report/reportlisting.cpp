@@ -73,6 +73,17 @@ bool comesBefore(const SavedReport& a, const SavedReport& b)
     return a.name != b.name ? a.name < b.name : a.fileName < b.fileName;
 }
 
+/// Whether none of the reports may be being written just now: growing changes their times, but not the folder's.
+bool areSettled(const QVariantList& reports, const timespec& now)
+{
+    constexpr qint64 longestPause = 2000;
+    const qint64 time = now.tv_sec * qint64(1000) + now.tv_nsec / 1'000'000;
+    return std::none_of(reports.cbegin(), reports.cend(), [&](const QVariant& report) {
+        const QDateTime changed = report.toMap().value(QStringLiteral("time")).toDateTime();
+        return qAbs(time - changed.toMSecsSinceEpoch()) <= longestPause;
+    });
+}
+
 } // namespace
 
 QVariantList reportFiles(const QString& folder)
@@ -104,7 +115,7 @@ QVariantList ReportListing::files(const QString& folder)
         return m_files;
     m_files = isDriveThere(folder) ? reportFiles(folder) : QVariantList();
     m_folder = folder;
-    m_state = state && isSettled(*state, now) ? state : std::nullopt;
+    m_state = state && isSettled(*state, now) && areSettled(m_files, now) ? state : std::nullopt;
     return m_files;
 }
 

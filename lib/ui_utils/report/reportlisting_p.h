@@ -25,8 +25,9 @@ namespace uiutils {
 QVariantList reportFiles(const QString& folder);
 
 /// The same of one folder at a time, which is read again only when something came into it, went or was renamed since:
-/// its time of change tells. Reports are saved by renaming; one that another program writes in place shows its former
-/// size and time until then.
+/// its time of change tells. Reports are saved by renaming. One that another program writes in place does not change
+/// that time, so a list is only kept when none of its reports changed in the 2 s before it was read; a report that
+/// grows again after a longer pause shows its former size and time until something else changes the folder.
 ///
 /// A folder that changed in the tick of the system's clock in which it was read is read once more, since it may have
 /// changed again without another time; where times have no fractions of a second, for two seconds. One on a stick is

@@ -68,7 +68,8 @@ QString nameProblem(const QString& name, const QString& suffix, bool compressed)
     if (fits(name))
         return QString();
     const QVector<uint> characters = name.toUcs4();
-    int most = characters.size();
+    // Composing makes two bytes of three characters at the most, so that none beyond these could fit.
+    int most = qMin(characters.size(), 2 * mostBytes);
     while (most > 0 && !fits(QString::fromUcs4(characters.constData(), most)))
         --most;
     return translated(QT_TRANSLATE_NOOP("Report", "The name may have %1 characters, it has %2."))

@@ -12,7 +12,10 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
 #include <optional>
+#include <sys/stat.h>
 
 namespace uiutils {
 
@@ -25,19 +28,39 @@ void logUnreadable(const QString& reason)
     qWarning("ERROR: Could not parse Json text:\n%s", qUtf8Printable(reason));
 }
 
-std::optional<QByteArray> contentsOf(const QString& path)
+void logUnwritable(const QString& path)
 {
-    QFile file(onDisk(path));
-    // A folder can be opened, too, but holds nothing, and a pipe would be waited for.
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
-        qWarning("Could not open %s for reading", qUtf8Printable(path));
-        return std::nullopt;
-    }
-    const QByteArray contents = file.read(largestReportSettings + 1);
-    if (contents.size() <= largestReportSettings)
-        return contents;
-    logUnreadable(QStringLiteral("the file is too large"));
-    return std::nullopt;
+    qWarning("Could not open %s for writing", qUtf8Printable(path));
+}
+
+/// What a settings file holds. One that is not there holds nothing.
+struct StoredText
+{
+    enum State { Read, Absent, Unreadable, TooLarge };
+    State state = Unreadable;
+    QByteArray text;
+
+    /// Whether there may be settings in it that are not known here.
+    bool isUnknown() const { return state == Unreadable || state == TooLarge; }
+};
+
+StoredText storedText(const QString& path)
+{
+    // A pipe would be waited for.
+    const int fd = ::open(QFile::encodeName(onDisk(path)).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
+        return {errno == ENOENT ? StoredText::Absent : StoredText::Unreadable, QByteArray()};
+    QFile file;
+    file.open(fd, QIODevice::ReadOnly, QFile::AutoCloseHandle);
+    struct stat info = {};
+    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode))
+        return {};
+    const QByteArray text = file.read(largestReportSettings + 1);
+    if (file.error() != QFileDevice::NoError)
+        return {};
+    if (text.size() > largestReportSettings)
+        return {StoredText::TooLarge, QByteArray()};
+    return {StoredText::Read, text};
 }
 
 bool holds(const QString& place, const QByteArray& text)
@@ -45,13 +68,6 @@ bool holds(const QString& place, const QByteArray& text)
     const QFileInfo info(place);
     QFile file(place);
     return info.isFile() && info.size() == text.size() && file.open(QIODevice::ReadOnly) && file.readAll() == text;
-}
-
-QJsonObject storedValues(const QString& place)
-{
-    QFile file(place);
-    const bool isReadable = QFileInfo(place).isFile() && file.open(QIODevice::ReadOnly);
-    return isReadable ? QJsonDocument::fromJson(file.read(largestReportSettings)).object() : QJsonObject();
 }
 
 bool isChoice(const UiData& item, const QVariant& value)
@@ -101,14 +117,21 @@ bool isUntouched(const UiData& item, const SettingOrigin& origin)
     return value == origin.initial || (origin.loaded.isValid() && value == origin.loaded);
 }
 
-/// What the file holds; nothing, with a line in the log, when it cannot be read or understood.
-QJsonObject readSettings(const QString& path)
+/// Nothing without a file or with one that cannot be understood, and none at all when it cannot be read: a line in the
+/// log says so.
+std::optional<QJsonObject> readSettings(const QString& path)
 {
-    const std::optional<QByteArray> contents = contentsOf(path);
-    if (!contents)
+    const StoredText stored = storedText(path);
+    if (stored.state == StoredText::TooLarge)
+        logUnreadable(QStringLiteral("the file is too large"));
+    else if (stored.state != StoredText::Read)
+        qWarning("Could not open %s for reading", qUtf8Printable(path));
+    if (stored.isUnknown())
+        return std::nullopt;
+    if (stored.state == StoredText::Absent)
         return QJsonObject();
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(*contents, &error);
+    const QJsonDocument document = QJsonDocument::fromJson(stored.text, &error);
     if (error.error != QJsonParseError::NoError)
         logUnreadable(error.errorString());
     else if (!document.isObject())
@@ -131,10 +154,26 @@ QString reportSettingsPath(const QString& folder)
     return paths::reportSettings + safeFolder(folder) + QLatin1String(".json");
 }
 
+void settleReportSettings(const ReportSettings& items, SettingOrigins& origins)
+{
+    for (auto it = items.cbegin(); it != items.cend(); ++it) {
+        SettingOrigin& origin = origins[it.key()];
+        if (origin.isNew)
+            origin.initial = (*it)->getValue();
+        origin.isNew = false;
+    }
+}
+
 void loadReportSettings(
         const QString& path, const ReportSettings& items, const std::shared_ptr<SettingOrigins>& origins)
 {
-    const QJsonObject values = readSettings(path);
+    settleReportSettings(items, *origins);
+    const std::optional<QJsonObject> values = readSettings(path);
+    if (!values) {
+        for (SettingOrigin& origin : *origins)
+            origin.path.clear();
+        return;
+    }
     // Whoever hears of a value may add or delete settings, and the controller with them.
     QMap<QString, QPointer<UiData>> takers;
     for (auto it = items.cbegin(); it != items.cend(); ++it)
@@ -145,7 +184,7 @@ void loadReportSettings(
             continue;
         SettingOrigin& origin = (*kept)[it.key()];
         const bool takes = isUntouched(**it, origin);
-        const QVariant value = takes ? valueToTake(**it, origin, values.value(it.key()), path) : QVariant();
+        const QVariant value = takes ? valueToTake(**it, origin, values->value(it.key()), path) : QVariant();
         origin.path = path;
         if (!takes)
             continue;
@@ -166,13 +205,18 @@ void saveReportSettings(const QString& path, const ReportSettings& items, const 
     const QString place = onDisk(path);
     const bool isLoaded = std::all_of(
             items.keyBegin(), items.keyEnd(), [&](const QString& name) { return origins.value(name).path == path; });
-    const QJsonObject stored = isLoaded ? QJsonObject() : storedValues(place);
+    const StoredText former = isLoaded ? StoredText() : storedText(path);
+    if (!isLoaded && former.isUnknown()) {
+        logUnwritable(path);
+        return;
+    }
+    const QJsonObject stored = QJsonDocument::fromJson(former.text).object();
     QVariantMap values;
     for (auto it = items.cbegin(); it != items.cend(); ++it) {
         const SettingOrigin origin = origins.value(it.key());
-        const QJsonValue former = stored.value(it.key());
-        const bool staysStored = origin.path != path && isUntouched(**it, origin) && isAllowed(**it, former);
-        values.insert(it.key(), staysStored ? former.toVariant() : (*it)->getValue());
+        const QJsonValue own = stored.value(it.key());
+        const bool staysStored = origin.path != path && isUntouched(**it, origin) && isAllowed(**it, own);
+        values.insert(it.key(), staysStored ? own.toVariant() : (*it)->getValue());
     }
     const QByteArray text = QJsonDocument(QJsonObject::fromVariantMap(values)).toJson();
     // Most saves change nothing, and the disk takes longer to keep a file than to read it.
@@ -180,7 +224,7 @@ void saveReportSettings(const QString& path, const ReportSettings& items, const 
         return;
     makeFolderDurably(QFileInfo(place).path());
     if (!writeFileDurably(place, text))
-        qWarning("Could not open %s for writing", qUtf8Printable(path));
+        logUnwritable(path);
 }
 
 } // namespace uiutils

@@ -26,19 +26,26 @@ struct SettingOrigin
     QVariant initial;
     QVariant loaded;
     QString path;
+    /// Whether whoever has added the item may still be giving it the value that it starts with.
+    bool isNew = false;
 };
 
 /// By the name of the item.
 using SettingOrigins = QMap<QString, SettingOrigin>;
 
+/// What new items hold now is what they came with.
+void settleReportSettings(const ReportSettings& items, SettingOrigins& origins);
+
 /// Has each item that nobody has set take its stored value, where that is one that the item allows; one that came from
-/// another file and is not in this one gets the value back that it came with. A file that cannot be read or understood
-/// holds nothing; a line in the log says so.
+/// another file and is not in this one gets the value back that it came with. A file that is not there or cannot be
+/// understood holds nothing. With one that cannot be read, or is too large, all items stay as they are and count as not
+/// loaded. A line in the log tells of each. New items are settled first.
 void loadReportSettings(
         const QString& path, const ReportSettings& items, const std::shared_ptr<SettingOrigins>& origins);
 
 /// Writes the values durably, with the folder if there is none. When that fails, what was stored stays; a line in the
-/// log says so. What is stored for an item that nobody has set, and that was not loaded from this file, stays as well.
+/// log says so. What is stored for an item that nobody has set, and that was not loaded from this file, stays as well;
+/// when it cannot be read then, writing counts as failed.
 void saveReportSettings(const QString& path, const ReportSettings& items, const SettingOrigins& origins);
 
 } // namespace uiutils
