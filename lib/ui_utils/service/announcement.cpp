@@ -8,13 +8,16 @@ namespace {
 
 int s_running = 0;
 unsigned s_chain = 0;
+int s_returns = 0;
 
 } // namespace
 
 Announcement::Announcement(std::initializer_list<Step> steps)
 {
-    if (s_running++ == 0)
+    if (s_running++ == 0) {
         ++s_chain;
+        s_returns = 0;
+    }
     add(steps);
 }
 
@@ -41,7 +44,17 @@ bool Announcement::beginRound()
 
 unsigned Announcement::chain()
 {
-    return s_chain;
+    return s_running > 0 ? s_chain : 0;
+}
+
+void Announcement::countReturn()
+{
+    ++s_returns;
+}
+
+bool Announcement::isExhausted()
+{
+    return s_running > 0 && s_returns >= mostReturns;
 }
 
 } // namespace uiutils

@@ -12,6 +12,9 @@ namespace uiutils {
 ///
 /// A listener that writes the value once more does not tell of that from within, which would pile up on the stack: its
 /// change is told in a further round, after this one.
+///
+/// Announcements that lie on the stack together are a chain. Items whose listeners set each other going come back to
+/// those that are being told over ever more ways, so that is counted over the whole chain as well.
 class Announcement
 {
 public:
@@ -20,6 +23,7 @@ public:
 
     /// Far more than handlers need that settle.
     static constexpr int mostRounds = 100;
+    static constexpr int mostReturns = 10000;
 
     explicit Announcement(std::initializer_list<Step> steps);
     ~Announcement();
@@ -37,8 +41,12 @@ public:
     void abandon() { m_isAbandoned = true; }
     bool isAbandoned() const { return m_isAbandoned; }
 
-    /// Numbers the announcements that lie on the stack together, from 1.
+    /// The number of the running chain, from 1; 0 when none runs.
     static unsigned chain();
+    /// Counts a write to an item that the running chain has been to.
+    static void countReturn();
+    /// Whether the running chain came back so often that it will not settle.
+    static bool isExhausted();
 
 private:
     QVarLengthArray<Step, 4> m_steps;
