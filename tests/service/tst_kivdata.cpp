@@ -259,6 +259,30 @@ private Q_SLOTS:
         qInstallMessageHandler(before);
     }
 
+    /// As one that opens a dialog, which hears what comes meanwhile and may end the item.
+    void aHandlerThatRunsAnEventLoop()
+    {
+        KivData* speed = wrapper(speedId);
+        QVector<int> heard;
+        const auto runLoop = [](const std::function<void()>& meanwhile) {
+            QEventLoop dialog;
+            QTimer::singleShot(0, &dialog, [&] { meanwhile(), dialog.quit(); });
+            dialog.exec();
+        };
+        connect(speed, &KivData::valueChanged, this, [&] {
+            heard.append(speed->getValue().toInt());
+            if (heard.last() == 1) {
+                runLoop([&] { speed->setValue(2), m_speed->state->value = 3, Q_EMIT m_speed->valueChanged(), speed->setValue(4); });
+                speed->setValue(5), heard.append(0);
+            } else if (heard.last() == 8)
+                runLoop([&] { speed->setValue(9); });
+            else if (heard.last() == 9)
+                m_manifest.reset();
+        });
+        speed->setValue(1), speed->setValue(8);
+        QCOMPARE(heard, (QVector<int> {1, 2, 3, 4, 0, 5, 8, 9}));
+    }
+
     void choices()
     {
         KivData* mode = wrapper(modeId);

@@ -272,6 +272,7 @@ private:
     /// Emits what tells of a change of the selected element, for those that asked for it.
     void announceSelection();
     void announceValue();
+    bool isBeingTold() const;
     bool isKnownToChain() const;
     void enterChain();
     bool isStopped();
@@ -310,7 +311,7 @@ private:
     mutable QObject* m_enums = nullptr;
     /// Counts the service's reports, so that a write knows whether it was answered meanwhile.
     unsigned m_reports = 0;
-    /// Set while the value is told.
+    /// Set while the value is told; the innermost one.
     uiutils::Announcement* m_announcing = nullptr;
     /// The chain of announcements that told of the value last.
     unsigned m_toldIn = 0;

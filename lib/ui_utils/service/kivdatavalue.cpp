@@ -126,12 +126,14 @@ void KivData::announce(std::initializer_list<void (KivData::*)()> steps)
 {
     if (isStopped())
         return;
-    if (m_announcing) {
+    if (isBeingTold()) {
         uiutils::Announcement::countReturn();
         m_announcing->add(steps);
         return;
     }
-    uiutils::Announcement announcement(steps);
+    uiutils::Announcement announcement(steps, m_announcing);
+    const unsigned outerChain = m_toldIn;
+    const bool wasStopped = m_isStopped;
     m_announcing = &announcement;
     enterChain();
     while (announcement.beginRound()) {
@@ -142,7 +144,17 @@ void KivData::announce(std::initializer_list<void (KivData::*)()> steps)
                 return;
         }
     }
-    m_announcing = nullptr;
+    m_announcing = announcement.outer();
+    if (!m_announcing)
+        return;
+    m_toldIn = outerChain;
+    m_isStopped = wasStopped;
+}
+
+/// Not for the event loop of a handler: what is told out there goes on when that ends.
+bool KivData::isBeingTold() const
+{
+    return m_announcing && m_announcing->isCurrent();
 }
 
 bool KivData::mayWrite(bool isChange)
@@ -176,7 +188,7 @@ bool KivData::isStopped()
         uiutils::Announcement::countReturn();
         return true;
     }
-    const bool hasHadRounds = m_announcing && m_announcing->isLastRound();
+    const bool hasHadRounds = isBeingTold() && m_announcing->isLastRound();
     if (!hasHadRounds && !uiutils::Announcement::isExhausted())
         return false;
     enterChain();
