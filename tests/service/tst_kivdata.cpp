@@ -13,9 +13,11 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <array>
 #include <limits>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -239,7 +241,46 @@ private Q_SLOTS:
         local.insertAt(0, 4);
         QCOMPARE(local.getValueCount(), 102);
         QCOMPARE(unsettled, 4);
+        // Of many, no walk over every way through them: each sets the next ones, to its own value or to ever higher ones.
+        for (const auto& [count, successors, more, most] : {std::array {7, 6, 1, 1300}, {60, 2, 1, 12000}, {30, 29, 0, 30}}) {
+            std::vector<UiData> items(count);
+            int runs = 0;
+            unsettled = 0;
+            for (int i = 0; i < count; ++i)
+                connect(&items[i], &KivData::valueChanged, this, [&, i, count = count, successors = successors, more = more] {
+                    ++runs;
+                    for (int next = i + 1; next <= i + successors; ++next)
+                        items[next % count].setValue(items[i].getValue().toInt() + more);
+                });
+            items[0].setValue(1);
+            QVERIFY2(runs <= most, qPrintable(QString::number(runs)));
+            QVERIFY(more ? unsettled > 0 && unsettled <= count : unsettled == 0 && items.back().getValue() == 1);
+        }
         qInstallMessageHandler(before);
+    }
+
+    /// As one that opens a dialog, which hears what comes meanwhile and may end the item.
+    void aHandlerThatRunsAnEventLoop()
+    {
+        KivData* speed = wrapper(speedId);
+        QVector<int> heard;
+        const auto runLoop = [](const std::function<void()>& meanwhile) {
+            QEventLoop dialog;
+            QTimer::singleShot(0, &dialog, [&] { meanwhile(), dialog.quit(); });
+            dialog.exec();
+        };
+        connect(speed, &KivData::valueChanged, this, [&] {
+            heard.append(speed->getValue().toInt());
+            if (heard.last() == 1) {
+                runLoop([&] { speed->setValue(2), m_speed->state->value = 3, Q_EMIT m_speed->valueChanged(), speed->setValue(4); });
+                speed->setValue(5), heard.append(0);
+            } else if (heard.last() == 8)
+                runLoop([&] { speed->setValue(9); });
+            else if (heard.last() == 9)
+                m_manifest.reset();
+        });
+        speed->setValue(1), speed->setValue(8);
+        QCOMPARE(heard, (QVector<int> {1, 2, 3, 4, 0, 5, 8, 9}));
     }
 
     void choices()

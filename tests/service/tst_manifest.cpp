@@ -12,6 +12,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <array>
 #include <memory>
 
 /// The registry of the process, the transaction, and the names that QML knows.
@@ -240,6 +241,26 @@ private Q_SLOTS:
         QCOMPARE(sentChanges(*m_client).value("level").toInt(), 20);
         manifest.applyChanges();
         QCOMPARE(sentChanges(*m_client).value("level").toInt(), 10);
+    }
+
+    /// A page of the first may hold its wrapper still.
+    void ofTwoManifestsBothHavePendingChanges()
+    {
+        m_client->add(":config:rec:a:", 1);
+        // Written to the first and to the second, sent, and held by the first then; 0 is nothing.
+        for (const auto& [one, two, sent, held] : {std::array {5, 0, 5, 5}, {5, 6, 6, 1}, {5, 0, 0, 1}, {5, 6, 0, 1}}) {
+            Manifest first(m_client.get(), "", "rec");
+            Manifest second(m_client.get(), "", "rec");
+            first.startChanges(), second.startChanges();
+            first.findChild<KivData*>()->setValue(one);
+            if (two != 0)
+                Manifest::getKivData(":config:rec:a:")->setValue(two);
+            sent != 0 ? first.applyChanges() : first.revertChanges();
+            QCOMPARE(m_client->calls.isEmpty() ? 0 : sentChanges(*m_client).value("a").toInt(), sent);
+            QCOMPARE(first.findChild<KivData*>()->getValue(), QVariant(held));
+            second.applyChanges();
+            QVERIFY(sentChanges(*m_client).isEmpty());
+        }
     }
 
     void revertingWalksEveryItemOfTheProcess()

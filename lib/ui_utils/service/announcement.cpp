@@ -1,26 +1,44 @@
 #include "service/announcement_p.h"
 
+#include <QThread>
+
 #include <algorithm>
 
 namespace uiutils {
 
 namespace {
 
-int s_running = 0;
-unsigned s_chain = 0;
+Announcement* s_top = nullptr;
+unsigned s_chains = 0;
 
 } // namespace
 
-Announcement::Announcement(std::initializer_list<Step> steps)
+Announcement::Announcement(std::initializer_list<Step> steps, Announcement* outer)
+    : m_outer(outer)
+    , m_below(s_top)
+    , m_first(s_top && s_top->isCurrent() ? s_top->m_first : this)
+    , m_loopLevel(QThread::currentThread()->loopLevel())
 {
-    if (s_running++ == 0)
-        ++s_chain;
+    if (m_first == this)
+        m_chain = ++s_chains;
+    s_top = this;
     add(steps);
 }
 
 Announcement::~Announcement()
 {
-    --s_running;
+    s_top = m_below;
+}
+
+bool Announcement::isCurrent() const
+{
+    return m_loopLevel == QThread::currentThread()->loopLevel();
+}
+
+void Announcement::abandon()
+{
+    for (Announcement* announcement = this; announcement; announcement = announcement->m_outer)
+        announcement->m_isAbandoned = true;
 }
 
 void Announcement::add(std::initializer_list<Step> steps)
@@ -41,7 +59,17 @@ bool Announcement::beginRound()
 
 unsigned Announcement::chain()
 {
-    return s_chain;
+    return s_top && s_top->isCurrent() ? s_top->m_first->m_chain : 0;
+}
+
+void Announcement::countReturn()
+{
+    ++s_top->m_first->m_returns;
+}
+
+bool Announcement::isExhausted()
+{
+    return chain() != 0 && s_top->m_first->m_returns >= mostReturns;
 }
 
 } // namespace uiutils

@@ -235,8 +235,8 @@ protected:
     void holdReport(const QVariant& value);
     /// Tells of a written value, signal by signal. While that is going on already, as soon as it is over.
     void announce(std::initializer_list<void (KivData::*)()> steps);
-    /// Whether a write is to be carried out. While the value is being told, one that changes nothing ends the matter,
-    /// and none is after too many rounds.
+    /// Whether a write is to be carried out. By a handler, one that changes nothing of what was told already ends the
+    /// matter, and none is after too many rounds.
     bool mayWrite(bool isChange);
     /// Takes a formatter of that name unless there is one already.
     void adoptFormatter(const QString& name);
@@ -272,6 +272,9 @@ private:
     /// Emits what tells of a change of the selected element, for those that asked for it.
     void announceSelection();
     void announceValue();
+    bool isBeingTold() const;
+    bool isKnownToChain() const;
+    void enterChain();
     bool isStopped();
     QVariant reportedValue() const;
     void compileApplicability(const QString& expression);
@@ -298,6 +301,8 @@ private:
     bool m_isText = false;
     bool m_isReal = false;
     bool m_isExpressionRefused = false;
+    /// The value did not settle in the chain that told of it last.
+    bool m_isStopped = false;
     mutable bool m_followsUserData = false;
     QPointer<KIVClientItem> m_item;
     QString m_error;
@@ -306,10 +311,10 @@ private:
     mutable QObject* m_enums = nullptr;
     /// Counts the service's reports, so that a write knows whether it was answered meanwhile.
     unsigned m_reports = 0;
-    /// Set while the value is told.
+    /// Set while the value is told; the innermost one.
     uiutils::Announcement* m_announcing = nullptr;
-    /// The chain of announcements in which the value did not settle.
-    unsigned m_stoppedIn = 0;
+    /// The chain of announcements that told of the value last.
+    unsigned m_toldIn = 0;
     QString m_selectionText;
     int m_selection = -1;
 };

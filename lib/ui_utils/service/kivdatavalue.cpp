@@ -124,13 +124,18 @@ void KivData::announceValue()
 
 void KivData::announce(std::initializer_list<void (KivData::*)()> steps)
 {
-    if (m_announcing) {
-        if (!isStopped())
-            m_announcing->add(steps);
+    if (isStopped())
+        return;
+    if (isBeingTold()) {
+        uiutils::Announcement::countReturn();
+        m_announcing->add(steps);
         return;
     }
-    uiutils::Announcement announcement(steps);
+    uiutils::Announcement announcement(steps, m_announcing);
+    const unsigned outerChain = m_toldIn;
+    const bool wasStopped = m_isStopped;
     m_announcing = &announcement;
+    enterChain();
     while (announcement.beginRound()) {
         for (const uiutils::Announcement::Step step : announcement.steps()) {
             (this->*step)();
@@ -139,25 +144,60 @@ void KivData::announce(std::initializer_list<void (KivData::*)()> steps)
                 return;
         }
     }
-    m_announcing = nullptr;
+    m_announcing = announcement.outer();
+    if (!m_announcing)
+        return;
+    m_toldIn = outerChain;
+    m_isStopped = wasStopped;
+}
+
+/// Not for the event loop of a handler: what is told out there goes on when that ends.
+bool KivData::isBeingTold() const
+{
+    return m_announcing && m_announcing->isCurrent();
 }
 
 bool KivData::mayWrite(bool isChange)
 {
-    return !m_announcing || (isChange && !isStopped());
+    // Items that mirror each other would else be told over every way from one to the other.
+    if (isChange || !isKnownToChain())
+        return !isStopped();
+    uiutils::Announcement::countReturn();
+    return false;
+}
+
+/// Whether the item was told, or stopped, since the first of the announcements on the stack.
+bool KivData::isKnownToChain() const
+{
+    const unsigned chain = uiutils::Announcement::chain();
+    return chain != 0 && m_toldIn == chain;
+}
+
+void KivData::enterChain()
+{
+    if (isKnownToChain())
+        return;
+    m_toldIn = uiutils::Announcement::chain();
+    m_isStopped = false;
 }
 
 /// Whether the handlers have had their rounds. Of handlers that set each other going, each is stopped, and named, once.
 bool KivData::isStopped()
 {
-    if (m_stoppedIn == uiutils::Announcement::chain())
+    if (isKnownToChain() && m_isStopped) {
+        uiutils::Announcement::countReturn();
         return true;
-    if (!m_announcing->isLastRound())
+    }
+    const bool hasHadRounds = isBeingTold() && m_announcing->isLastRound();
+    if (!hasHadRounds && !uiutils::Announcement::isExhausted())
         return false;
-    m_stoppedIn = uiutils::Announcement::chain();
-    qWarning("The value of %s does not settle: a handler of its change writes another one each time. It was stopped "
-             "after %d rounds; let the handler write a value that stays.",
-            qUtf8Printable(getId()), uiutils::Announcement::mostRounds);
+    enterChain();
+    m_isStopped = true;
+    qWarning("The value of %s does not settle: a handler of its change, or of another item's, writes another one each "
+             "time. It was stopped after %d %s; let the handler write a value that stays.",
+            qUtf8Printable(getId()),
+            hasHadRounds ? uiutils::Announcement::mostRounds : uiutils::Announcement::mostReturns,
+            hasHadRounds ? "rounds" : "writes of items that handlers had come from");
     return true;
 }
 

@@ -14,6 +14,9 @@
 #include <QJsonObject>
 #include <QQmlContext>
 
+#include <algorithm>
+#include <iterator>
+
 namespace itemids = uiutils::itemids;
 
 QMap<QString, KivData*>& Manifest::m_items = *new QMap<QString, KivData*>;
@@ -23,6 +26,15 @@ namespace {
 
 /// Wrappers whose entry later ones have taken, by their id, the earliest first. Never destroyed, as the registry.
 QHash<QString, QVector<KivData*>>& displaced = *new QHash<QString, QVector<KivData*>>;
+
+/// The wrappers of an id, the registered one first and then the displaced ones, the latest first.
+QVector<QPointer<KivData>> wrappersOf(const QString& id, KivData* registered)
+{
+    QVector<QPointer<KivData>> list {registered};
+    const QVector<KivData*> earlier = displaced.value(id);
+    std::copy(earlier.crbegin(), earlier.crend(), std::back_inserter(list));
+    return list;
+}
 
 /// The name under which the service expects a setting in a batch: the index of an indexed one ("level_3") stands behind
 /// a colon. Names of up to three characters stay as they are.
@@ -155,22 +167,34 @@ void Manifest::applyChanges()
     QMap<QString, QPointer<KivData>> senders;
     const QStringList ids = m_items.keys();
     for (const QString& id : ids) {
-        KivData* wrapper = m_items.value(id);
+        const QVector<QPointer<KivData>> wrappers = wrappersOf(id, m_items.value(id));
         // A setting whose service is away has no name to go by; its change waits.
-        if (wrapper && wrapper->isPending() && wrapper->m_item)
-            senders.insert(batchName(wrapper->getName()), wrapper);
+        const auto sender = std::find_if(wrappers.cbegin(), wrappers.cend(),
+                [](const KivData* wrapper) { return wrapper && wrapper->isPending() && wrapper->m_item; });
+        if (sender != wrappers.cend())
+            senders.insert(batchName((*sender)->getName()), *sender);
     }
     QVariantMap changes;
+    QVector<QPointer<KivData>> outdone;
     for (auto it = senders.cbegin(); it != senders.cend(); ++it) {
         changes.insert(it.key(), (*it)->m_value);
         (*it)->m_sent = true;
+        // Another wrapper's change of the same item would travel later, over this one.
+        const QVector<QPointer<KivData>> wrappers = wrappersOf((*it)->m_id, m_items.value((*it)->m_id));
+        std::copy_if(wrappers.cbegin(), wrappers.cend(), std::back_inserter(outdone),
+                [](const KivData* wrapper) { return wrapper && wrapper->isPending(); });
     }
 
     // The service takes the text for bytes. What it reports on the way may end the manifest.
     const QByteArray json = QJsonDocument(QJsonObject::fromVariantMap(changes)).toJson();
     const QPointer<KIVClientInterface> client = m_client;
-    if (send(actionId(itemids::applyConfig), QString::fromLatin1(json.constData())))
+    if (send(actionId(itemids::applyConfig), QString::fromLatin1(json.constData()))) {
+        for (const QPointer<KivData>& wrapper : qAsConst(outdone)) {
+            if (wrapper)
+                wrapper->revert();
+        }
         return;
+    }
     // This service answered for the settings of the others too.
     const QString error = client ? client->getLastError() : QString();
     for (const QPointer<KivData>& wrapper : qAsConst(senders)) {
@@ -188,8 +212,11 @@ void Manifest::revertChanges()
     m_changing = false;
     const QStringList ids = m_items.keys();
     for (const QString& id : ids) {
-        if (KivData* wrapper = m_items.value(id))
-            wrapper->revert();
+        const QVector<QPointer<KivData>> wrappers = wrappersOf(id, m_items.value(id));
+        for (const QPointer<KivData>& wrapper : wrappers) {
+            if (wrapper)
+                wrapper->revert();
+        }
     }
 }
 

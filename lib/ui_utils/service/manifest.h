@@ -49,9 +49,10 @@ public:
     Q_INVOKABLE void startChanges();
     /// Ends the transaction and sends all pending changes of the process to the service as one action. What was sent is
     /// not sent again unless it is changed again. When the service refuses, every wrapper concerned emits
-    /// KivData::errorChanged(), and its change stays pending.
+    /// KivData::errorChanged(), and its change stays pending. Of several wrappers of one id the latest whose change is
+    /// pending speaks for it, and the others' changes are dropped when the service has taken the batch.
     Q_INVOKABLE void applyChanges();
-    /// Ends the transaction and drops all pending changes of the process.
+    /// Ends the transaction and drops all pending changes of the process, also of wrappers whose entry later ones have.
     Q_INVOKABLE void revertChanges();
     /// Asks the service to keep its configuration under a name that users know it by.
     Q_INVOKABLE void saveConfig(QString const& friendlyName, bool hasHomeScreenIcon);
