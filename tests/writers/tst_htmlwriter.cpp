@@ -277,8 +277,10 @@ private Q_SLOTS:
         QCOMPARE(titlesAfter(&own), QStringList("Ours") + expected);
         qDeleteAll(own);
 
-        // A page that an application is in the middle of writes on.
+        // A page that an application is in the middle of writes on; one that it gave up goes.
+        HtmlStreamWriter(0).startTable("Given up", {"A"}, false, 0);
         HtmlStreamWriter open(0);
+        open.startTable("Never closed", {"A"}, false, 0);
         open.startTable("Open", {"A"}, false, 0);
         QCOMPARE(titlesAfter(&uiutils::sharedReportItems()), QStringList("Open") + expected);
         open.writeCell("cell");
