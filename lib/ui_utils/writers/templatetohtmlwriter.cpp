@@ -13,6 +13,7 @@
 
 #include <QCoreApplication>
 #include <QDate>
+#include <QFile>
 
 namespace instrument = uiutils::instrument;
 namespace keys = uiutils::keys;
@@ -28,6 +29,8 @@ QString tr(const char* text)
 
 /// Enough for a plot's letters to be as sharp as the page's.
 constexpr int plotPixelsOnPaper = 2;
+/// The plots of tables with a larger number leave no file.
+constexpr quint64 mostPlotFiles = 100;
 
 /// A two-column table of labels and values; none without rows.
 void writeInformation(HtmlStreamWriter& html, const uiutils::InformationTable& table, int nestingLevel)
@@ -377,13 +380,16 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
     m_html->endRow();
 }
 
-/// The file is there for others to look at; tables of one number in several sections write it one after the other.
+/// The file is there for others to look at; tables of one number in several sections write it one after the other. A
+/// document with thousands of plots does not fill the memory that temporary files lie in.
 void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumber)
 {
     const QString path = uiutils::paths::plotImage(tableNumber);
     auto known = m_plots.constFind(service);
+    const bool isLeft = tableNumber < mostPlotFiles;
     if (known != m_plots.constEnd()) {
-        (void)uiutils::writeFileDurably(uiutils::onDisk(path), *known);
+        if (isLeft)
+            uiutils::writeFileForNow(uiutils::onDisk(path), *known);
     } else {
         PlotImage plot;
         plot.setService(service);
@@ -391,6 +397,8 @@ void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumbe
         plot.setSize(attribute(QStringLiteral("plot_width")).toInt(), attribute(QStringLiteral("plot_height")).toInt());
         plot.setPixelScale(m_plotPixels);
         plot.write(path);
+        if (!isLeft)
+            QFile::remove(uiutils::onDisk(path));
         known = m_plots.insert(service, plot.getData());
     }
     m_html->writeImageParagraph(*known, m_plotPixels);
