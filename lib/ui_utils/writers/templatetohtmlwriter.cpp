@@ -5,6 +5,7 @@
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
 #include "writers/htmlstreamwriter.h"
+#include "writers/plotdata_p.h"
 #include "writers/plotimage.h"
 #include "writers/reportcontent_p.h"
 #include "writers/style.h"
@@ -385,7 +386,10 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
 void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumber)
 {
     const QString path = uiutils::paths::plotImage(tableNumber);
-    auto known = m_plots.constFind(service);
+    // All that have no curves look alike, and a document may name thousands that are not there.
+    const bool isKnown = m_plots.contains(service);
+    const QString key = isKnown || !uiutils::readPlotData(service).curves.isEmpty() ? service : QString();
+    auto known = m_plots.constFind(key);
     const bool isLeft = tableNumber < mostPlotFiles;
     if (known != m_plots.constEnd()) {
         if (isLeft)
@@ -399,7 +403,7 @@ void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumbe
         plot.write(path);
         if (!isLeft)
             QFile::remove(uiutils::onDisk(path));
-        known = m_plots.insert(service, plot.getData());
+        known = m_plots.insert(key, plot.getData());
     }
     m_html->writeImageParagraph(*known, m_plotPixels);
 }
