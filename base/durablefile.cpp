@@ -109,6 +109,12 @@ NewFile writeNewFileDurably(const QString& path, const QByteArray& contents, QSt
     return write(path, contents, QString(), false, error ? *error : ignored);
 }
 
+bool writeFileForNow(const QString& path, const QByteArray& contents)
+{
+    TemporarySibling file(path);
+    return file.isOpen() && file.write(contents) && file.renameTo(path) && file.close();
+}
+
 bool makeFolderDurably(const QString& path)
 {
     const QString folder = QDir::cleanPath(path);

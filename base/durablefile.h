@@ -27,6 +27,10 @@ enum class NewFile { Written, Taken, Failed };
 /// The same for a file that is not to take another's place, also not that of one that came while it was written.
 [[nodiscard]] NewFile writeNewFileDurably(const QString& path, const QByteArray& contents, QString* error = nullptr);
 
+/// Writes a file that need not outlive a power cut, and so takes no time for the disk: whole or not at all for whoever
+/// reads it, and a link at `path` is replaced. What killed processes left in the folder stays for others to clean.
+bool writeFileForNow(const QString& path, const QByteArray& contents);
+
 /// Makes the folder, and those above it that are missing, so that a power cut does not take it away together with what
 /// is written in it. False when there is none then: one that cannot be synced is removed again, so that no file in it
 /// is told to be safe.

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QFileInfo>
 #include <QRandomGenerator>
 
 #include <cerrno>
@@ -149,6 +150,25 @@ void removeIfStale(int parent, const char* name, Kind kind)
     ::close(fd);
 }
 
+/// False, with the reason in errno, when somebody holds it, and when that cannot be found out. A link has no maker that
+/// holds it, and goes itself.
+bool removeMemberUnlessHeld(int folder, const char* name)
+{
+    struct stat entry = {};
+    const int fd = openMember(folder, name, 0);
+    if (fd < 0) {
+        const bool isOwnLink = errno == ELOOP && ::fstatat(folder, name, &entry, AT_SYMLINK_NOFOLLOW) == 0
+                && S_ISLNK(entry.st_mode) && isOwn(entry);
+        return isOwnLink ? ::unlinkat(folder, name, 0) == 0 : errno == ENOENT;
+    }
+    const bool isHeld = !tryLock(fd) && errno == EWOULDBLOCK;
+    if (!isHeld && ::fstat(fd, &entry) == 0 && isOwn(entry) && isStillNamed(folder, name, entry))
+        ::unlinkat(folder, name, 0);
+    ::close(fd);
+    errno = EBUSY;
+    return !isHeld;
+}
+
 } // namespace
 
 QString newTemporaryName(QLatin1String end)
@@ -185,14 +205,16 @@ void removeTemporaryFolder(int parent, const char* name, int folder)
 
 bool removeUnlessHeld(const QString& path)
 {
-    const QByteArray place = QFile::encodeName(path);
-    const int fd = ::open(place.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    const bool isHeld = fd >= 0 && !tryLock(fd) && errno == EWOULDBLOCK;
-    if (!isHeld)
-        ::unlink(place.constData());
-    if (fd >= 0)
-        ::close(fd);
-    return !isHeld;
+    const QFileInfo file(path);
+    const QByteArray name = QFile::encodeName(file.fileName());
+    // The folder may be one to write into and not to list.
+    const int folder = ::open(QFile::encodeName(file.path()).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    const bool isFree = folder >= 0 ? removeMemberUnlessHeld(folder, name.constData()) : errno == ENOENT;
+    const int reason = errno;
+    if (folder >= 0)
+        ::close(folder);
+    errno = reason;
+    return isFree;
 }
 
 void removeStaleTemporaries(const QString& folder)

@@ -26,7 +26,8 @@ bool markTemporaryFolder(int folder);
 /// Removes the folder `name` of `parent`, which `folder` is, with everything in it. What cannot be removed stays.
 void removeTemporaryFolder(int parent, const char* name, int folder);
 
-/// Removes the file at `path`, unless its maker lives and holds its lock: false then. What cannot be removed stays.
+/// Removes the file at `path`, unless its maker lives and holds its lock. False then, and when that cannot be found
+/// out, with the reason in errno. What cannot be removed stays.
 bool removeUnlessHeld(const QString& path);
 
 /// Removes what a killed process or a power cut has left in `folder`. What cannot be removed stays.

@@ -41,10 +41,8 @@ void TemporarySibling::createUnder(const QString& name)
 {
     m_path = name;
     do {
-        if (!removeUnlessHeld(m_path)) {
-            errno = EBUSY;
+        if (!removeUnlessHeld(m_path))
             return;
-        }
         open();
     } while (m_fd < 0 && errno == EINTR);
 }

@@ -228,9 +228,22 @@ private Q_SLOTS:
             TemporarySibling first(path, temporary);
             QVERIFY(first.write("half"));
             QVERIFY(!writeFileDurably(path, "other", nullptr, temporary));
+            {
+                // The folder can still be opened, the file cannot: who cannot ask for the lock leaves it alone.
+                const int next = ::dup(0);
+                ::close(next);
+                struct rlimit before = {};
+                ::getrlimit(RLIMIT_NOFILE, &before);
+                const struct rlimit limit = {rlim_t(next) + 1, before.rlim_max};
+                ::setrlimit(RLIMIT_NOFILE, &limit);
+                const auto restore = qScopeGuard([&] { ::setrlimit(RLIMIT_NOFILE, &before); });
+                QVERIFY(!removeUnlessHeld(temporary) && errno == EMFILE);
+            }
             QVERIFY(first.write(" and whole") && first.sync() && first.renameTo(path));
         }
         QCOMPARE(contentsOf(path), QByteArray("half and whole"));
+        // A link that lies there goes, and not what it leads to.
+        QVERIFY(QFile::link(path, temporary));
         QVERIFY(writeFileDurably(path, "other", nullptr, temporary));
         QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("report.pdf")});
     }

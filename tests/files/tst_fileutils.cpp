@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <limits>
+#include <sys/resource.h>
 #include <sys/statvfs.h>
 
 using Arguments = QMap<QString, QString>;
@@ -290,8 +291,29 @@ private Q_SLOTS:
         }
         FileUtils files;
         QCOMPARE(files.getDirSize(source, "/mnt/usb/new", block), qint64(1));
-        QCOMPARE(uiutils::blocksOfTree(source, "/mnt/usb/new", block, 95), std::optional<qint64>(1));
-        QVERIFY(!uiutils::blocksOfTree(source, "/mnt/usb/new", block, 20));
+        QString problem;
+        QCOMPARE(uiutils::blocksOfTree(source, "/mnt/usb/new", block, &problem, 95), std::optional<qint64>(1));
+        QVERIFY(!uiutils::blocksOfTree(source, "/mnt/usb/new", block, &problem, 94));
+        QCOMPARE(problem, QString("has more than 94 files and folders"));
+    }
+
+    /// What lies below more folders than may be open counts; where no more can be opened, nothing is let pass.
+    void deepTrees()
+    {
+        QVERIFY(writeFile(onDisk("/cust/public/deep/" + QString("a/").repeated(300) + "file"), 100 * block));
+        struct rlimit before = {};
+        QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
+        const auto restore = qScopeGuard([&] { ::setrlimit(RLIMIT_NOFILE, &before); });
+        const auto limitTo = [&](rlim_t files) {
+            const struct rlimit limit = {files, before.rlim_max};
+            ::setrlimit(RLIMIT_NOFILE, &limit);
+        };
+        limitTo(100);
+        FileUtils files;
+        QCOMPARE(files.getDirSize("/cust/public/deep", "/mnt/usb/new", block), qint64(100));
+        limitTo(0);
+        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("cannot be counted at .*/cust/public/deep: Too many"));
+        QVERIFY(!files.checkDriveSpaceForDir("/cust/public/deep", "/mnt/usb/new"));
     }
 
     /// On a drive with 8 blocks for everybody and 8 more for the system.

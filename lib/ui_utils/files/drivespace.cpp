@@ -2,14 +2,19 @@
 
 #include "base/paths.h"
 
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
+#include <QVector>
 
+#include <cerrno>
+#include <cstring>
+#include <dirent.h>
 #include <limits>
+#include <memory>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
+#include <utility>
 
 namespace uiutils {
 
@@ -43,60 +48,127 @@ QString nearestExisting(const QString& path)
     return QString();
 }
 
+using Listing = std::unique_ptr<DIR, int (*)(DIR*)>;
+
 /// Walks a tree of folders. Links may lead to one folder on many ways, and back to one that the walk is in: each is
-/// visited once. What lies on other drives is not the tree's.
+/// visited once. What lies on other drives is not the tree's. One folder is open at a time, however deep they lie.
 class TreeWalk
 {
 public:
     TreeWalk(qint64 blockSize, int mostEntries)
         : m_blockSize(blockSize)
-        , m_entriesLeft(mostEntries)
+        , m_mostEntries(mostEntries)
     {
     }
 
     qint64 blocksOf(const QString& source, const QString& destination)
     {
-        const QString place = onDisk(source);
-        if (!isNew(place))
-            return 0;
-        qint64 blocks = 0;
-        QDirIterator entries(place, QDir::Dirs | QDir::Files | QDir::Drives | QDir::NoDotAndDotDot);
-        while (m_entriesLeft >= 0 && entries.hasNext()) {
-            entries.next();
-            --m_entriesLeft;
-            blocks = sumOf(blocks, blocksOf(entries.fileInfo(), source, destination));
+        enter({QFile::encodeName(onDisk(source)), destination, {}});
+        while (m_problem.isEmpty() && !m_open.isEmpty()) {
+            Folder& folder = m_open.last();
+            if (folder.subfolders.isEmpty()) {
+                m_open.removeLast();
+                continue;
+            }
+            const QByteArray name = folder.subfolders.takeLast();
+            enter({folder.place + '/' + name, below(folder.destination, name), {}});
         }
-        return blocks;
+        return m_blocks;
     }
 
-    bool isComplete() const { return m_entriesLeft >= 0; }
+    /// Why the tree could not be counted; empty when it could.
+    QString problem() const { return m_problem; }
 
 private:
-    qint64 blocksOf(const QFileInfo& entry, const QString& source, const QString& destination)
+    struct Folder
     {
-        const QString target = QStringLiteral("%1/%2").arg(destination, entry.fileName());
-        if (entry.isDir())
-            return blocksOf(QStringLiteral("%1/%2").arg(source, entry.fileName()), target);
-        return blocksFor(entry.size(), m_blockSize) - blocksOfFile(target, m_blockSize);
+        QByteArray place;
+        QString destination;
+        /// The names of those that are still to be visited.
+        QVector<QByteArray> subfolders;
+    };
+
+    static QString below(const QString& folder, const QByteArray& name)
+    {
+        return QStringLiteral("%1/%2").arg(folder, QFile::decodeName(name));
     }
 
-    bool isNew(const QString& place)
+    /// Counts the files of the folder and notes its subfolders.
+    void enter(Folder folder)
+    {
+        if (!isNew(folder.place))
+            return;
+        const Listing listing(::opendir(folder.place.constData()), &::closedir);
+        if (!listing) {
+            fail(folder.place);
+            return;
+        }
+        while (m_problem.isEmpty()) {
+            errno = 0;
+            const dirent* entry = ::readdir(listing.get());
+            if (!entry && errno != 0)
+                fail(folder.place);
+            if (!entry)
+                break;
+            count(::dirfd(listing.get()), *entry, folder);
+        }
+        m_open.append(std::move(folder));
+    }
+
+    void count(int listing, const dirent& entry, Folder& folder)
+    {
+        if (std::strcmp(entry.d_name, ".") == 0 || std::strcmp(entry.d_name, "..") == 0)
+            return;
+        if (++m_entries > m_mostEntries) {
+            m_problem = QStringLiteral("has more than %1 files and folders").arg(m_mostEntries);
+            return;
+        }
+        // Hidden ones are not copied.
+        if (entry.d_name[0] == '.')
+            return;
+        struct stat found = {};
+        if (::fstatat(listing, entry.d_name, &found, 0) != 0) {
+            // A link may lead nowhere.
+            if (errno != ENOENT && entry.d_type != DT_LNK)
+                fail(folder.place + '/' + entry.d_name);
+        } else if (S_ISDIR(found.st_mode)) {
+            folder.subfolders.append(entry.d_name);
+        } else if (S_ISREG(found.st_mode)) {
+            const qint64 freed = blocksOfFile(below(folder.destination, entry.d_name), m_blockSize);
+            m_blocks = sumOf(m_blocks, blocksFor(found.st_size, m_blockSize) - freed);
+        }
+    }
+
+    bool isNew(const QByteArray& place)
     {
         struct stat folder = {};
-        if (::stat(QFile::encodeName(place).constData(), &folder) != 0)
+        if (::stat(place.constData(), &folder) != 0) {
+            if (errno != ENOENT)
+                fail(place);
             return false;
+        }
         if (m_visited.isEmpty())
             m_device = folder.st_dev;
         const int before = m_visited.size();
-        if (folder.st_dev == m_device)
+        if (S_ISDIR(folder.st_mode) && folder.st_dev == m_device)
             m_visited.insert(folder.st_ino);
         return m_visited.size() > before;
     }
 
+    void fail(const QByteArray& place)
+    {
+        m_problem = QStringLiteral("cannot be counted at %1: %2").arg(QFile::decodeName(place), qt_error_string(errno));
+    }
+
     qint64 m_blockSize;
-    int m_entriesLeft;
+    int m_mostEntries;
+    int m_entries = 0;
+    qint64 m_blocks = 0;
+    QString m_problem;
     dev_t m_device = 0;
     QSet<ino_t> m_visited;
+    /// From the uppermost down to the one that the walk is in.
+    QVector<Folder> m_open;
 };
 
 } // namespace
@@ -123,11 +195,13 @@ qint64 blocksOfFile(const QString& path, qint64 blockSize)
     return blocksFor(QFileInfo(onDisk(path)).size(), blockSize);
 }
 
-std::optional<qint64> blocksOfTree(const QString& source, const QString& destination, qint64 blockSize, int mostEntries)
+std::optional<qint64> blocksOfTree(
+        const QString& source, const QString& destination, qint64 blockSize, QString* problem, int mostEntries)
 {
     TreeWalk walk(blockSize, mostEntries);
     const qint64 blocks = walk.blocksOf(source, destination);
-    return walk.isComplete() ? std::optional<qint64>(blocks) : std::nullopt;
+    *problem = walk.problem();
+    return problem->isEmpty() ? std::optional<qint64>(blocks) : std::nullopt;
 }
 
 qint64 bytesIn(qint64 blocks, qint64 blockSize)

@@ -27,11 +27,12 @@ qint64 blocksFor(qint64 bytes, qint64 blockSize);
 qint64 blocksOfFile(const QString& path, qint64 blockSize);
 
 /// The files and folders that a tree may have: more would keep the screens waiting.
-constexpr int mostTreeEntries = 1'000'000;
+constexpr int mostTreeEntries = 100'000;
 
-/// See FileUtils::getDirSize(). `source` has to exist. Nothing when there are more than `mostEntries` below it.
-std::optional<qint64> blocksOfTree(
-        const QString& source, const QString& destination, qint64 blockSize, int mostEntries = mostTreeEntries);
+/// See FileUtils::getDirSize(). `source` has to exist. Nothing, and what is wrong with the tree in `problem`, when a
+/// folder cannot be read and when there are more than `mostEntries` below it.
+std::optional<qint64> blocksOfTree(const QString& source, const QString& destination, qint64 blockSize,
+        QString* problem, int mostEntries = mostTreeEntries);
 
 /// Bytes in so many blocks.
 qint64 bytesIn(qint64 blocks, qint64 blockSize);

@@ -41,10 +41,14 @@ QMap<QString, QString> joined(QMap<QString, QString> first, const QMap<QString, 
     return first;
 }
 
-void warnOfEntries(const char* operation, const QString& path)
+std::optional<qint64> countedBlocks(
+        const char* operation, const QString& source, const QString& destination, qint64 size)
 {
-    qCritical("FileUtils::%s - source path %s has more than %d files and folders", operation, qUtf8Printable(path),
-            uiutils::mostTreeEntries);
+    QString problem;
+    const auto blocks = uiutils::blocksOfTree(source, destination, size, &problem);
+    if (!blocks)
+        qCritical("FileUtils::%s - source path %s %s", operation, qUtf8Printable(source), qUtf8Printable(problem));
+    return blocks;
 }
 
 } // namespace
@@ -113,9 +117,7 @@ bool FileUtils::checkDriveSpaceForDir(QString src_path, QString dest_path)
     const auto space = uiutils::driveSpaceAt(dest_path);
     if (!space)
         return false;
-    const auto blocks = uiutils::blocksOfTree(src_path, dest_path, space->blockSize);
-    if (!blocks)
-        warnOfEntries("checkDriveSpaceForDir", src_path);
+    const auto blocks = countedBlocks("checkDriveSpaceForDir", src_path, dest_path, space->blockSize);
     return blocks && hasRoom(dest_path, *space, *blocks);
 }
 
@@ -188,9 +190,7 @@ qint64 FileUtils::getDirSize(QString src_path, QString dest_path, qint64 fs_bloc
     }
     if (fs_block_size < 1)
         return 0;
-    const auto blocks = uiutils::blocksOfTree(src_path, dest_path, fs_block_size);
-    if (!blocks)
-        warnOfEntries("getDirSize", src_path);
+    const auto blocks = countedBlocks("getDirSize", src_path, dest_path, fs_block_size);
     return blocks.value_or(std::numeric_limits<qint64>::max());
 }
 

@@ -72,7 +72,8 @@ public:
     /// How many blocks of `fs_block_size` bytes the files below `src_path` need beyond those that files of their names
     /// below `dest_path` give back. Links to folders are followed on the drive of `src_path`, and each folder counts
     /// once however many lead there. 0 with a line in the log when `src_path` does not exist; 0 for a block size
-    /// below 1; the largest number with a line in the log when there are more than 1,000,000 files and folders.
+    /// below 1; the largest number with a line in the log, which names the folder, when one cannot be read, and when
+    /// there are more than 100,000 files and folders.
     Q_INVOKABLE qint64 getDirSize(QString src_path, QString dest_path, qint64 fs_block_size);
 
 Q_SIGNALS:

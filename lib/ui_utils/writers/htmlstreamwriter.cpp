@@ -96,7 +96,10 @@ HtmlStreamWriter::HtmlStreamWriter(int indentStep, QList<ReportItem*>* items)
     writeStartElement(QStringLiteral("html"));
 }
 
-HtmlStreamWriter::~HtmlStreamWriter() = default;
+HtmlStreamWriter::~HtmlStreamWriter()
+{
+    abandonTable();
+}
 
 void HtmlStreamWriter::fillDefaults()
 {
@@ -154,6 +157,15 @@ void HtmlStreamWriter::append(ReportItem* item)
         delete item;
 }
 
+/// No cell comes any more: the next pass deletes it as it does a closed one. In a list of one's own it may be gone,
+/// with its owner's other items.
+void HtmlStreamWriter::abandonTable()
+{
+    if (m_currentTable && m_items == &uiutils::sharedReportItems() && m_items->lastIndexOf(m_currentTable) >= 0)
+        m_currentTable->setOfPass();
+    m_currentTable = nullptr;
+}
+
 void HtmlStreamWriter::writeHead(const QString& title, const QList<Style*>& styles)
 {
     writeStartElement(QStringLiteral("head"));
@@ -187,7 +199,7 @@ void HtmlStreamWriter::startBody(const QVariantMap& attributes)
 void HtmlStreamWriter::startTable(const QString& title, const QStringList& columnLabels, bool hasLabelColumn,
         int nestingLevel, const QVariantMap& tableAttributes)
 {
-    m_currentTable = nullptr;
+    abandonTable();
     if (m_items) {
         m_currentTable = new ReportTable(title, columnLabels, hasLabelColumn);
         m_items->append(m_currentTable);

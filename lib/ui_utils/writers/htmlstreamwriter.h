@@ -28,7 +28,7 @@ public:
     /// table, heading, paragraph and image is appended to uiutils::sharedReportItems().
     explicit HtmlStreamWriter(int indentStep);
     /// The same with a list of its own; null collects nothing. The items belong to the list's owner, and are marked as
-    /// those of a pass: a table when it is closed.
+    /// those of a pass: a table when it is closed, in the shared list also when another is opened or the writer goes.
     HtmlStreamWriter(int indentStep, QList<ReportItem*>* items);
     virtual ~HtmlStreamWriter();
     Q_DISABLE_COPY_MOVE(HtmlStreamWriter)
@@ -81,6 +81,7 @@ private:
     void writeEmptyHeader(int columns);
     void writeStatusIcon(int status);
     void append(ReportItem* item);
+    void abandonTable();
     void dropText();
     const QString& iconSource(const QString& path);
 

@@ -132,9 +132,13 @@ void forgetInvention(PoDoFo::PdfMemDocument& document)
 }
 
 /// Behind a text that was encrypted by blocks of 16 bytes, as many bytes of that value as fill the last one.
-int paddingOf(const QByteArray& bytes)
+int paddingOf(const QByteArray& bytes, bool isUnicode)
 {
-    const int padding = bytes.isEmpty() ? 0 : uchar(bytes.back());
+    // The mark in front of Unicode was encrypted with it, and is no longer there.
+    const int encrypted = bytes.size() + (isUnicode ? 2 : 0);
+    if (bytes.isEmpty() || encrypted % 16 != 0)
+        return 0;
+    const int padding = uchar(bytes.back());
     const bool isPadded = padding >= 1 && padding <= 16 && bytes.endsWith(QByteArray(padding, char(padding)));
     return isPadded ? padding : 0;
 }
@@ -142,7 +146,7 @@ int paddingOf(const QByteArray& bytes)
 PoDoFo::PdfString withoutPadding(const PoDoFo::PdfString& string)
 {
     QByteArray bytes(string.GetString(), int(string.GetLength()));
-    bytes.chop(paddingOf(bytes));
+    bytes.chop(paddingOf(bytes, string.IsUnicode()));
     if (!string.IsUnicode())
         return PoDoFo::PdfString(bytes.constData(), PoDoFo::pdf_long(bytes.size()));
     QVarLengthArray<PoDoFo::pdf_utf16be, 256> units(bytes.size() / 2);
@@ -150,8 +154,15 @@ PoDoFo::PdfString withoutPadding(const PoDoFo::PdfString& string)
     return PoDoFo::PdfString(units.constData(), PoDoFo::pdf_long(units.size()));
 }
 
-/// PoDoFo leaves it in the texts of files of 256 bits, and only there does a text end so. Those in objects that lie
-/// packed in a stream have none, and those objects no parser.
+/// PoDoFo leaves it in the texts of files of 256 bits alone: with fewer, a text that ends so is meant so.
+bool leavesPadding(const PoDoFo::PdfEncrypt& encryption)
+{
+    const int algorithm = encryption.GetEncryptAlgorithm();
+    return algorithm == PoDoFo::PdfEncrypt::ePdfEncryptAlgorithm_AESV3
+            || algorithm == PoDoFo::PdfEncrypt::ePdfEncryptAlgorithm_AESV3R6;
+}
+
+/// Texts in objects that lie packed in a stream have none, and those objects no parser.
 void removePadding(PoDoFo::PdfMemDocument& document)
 {
     PoDoFo::PdfObject* info = document.GetInfo()->GetObject();
@@ -292,7 +303,8 @@ std::unique_ptr<PoDoFo::PdfMemDocument> load(const QByteArray& contents, QString
     });
     if (!loaded)
         return nullptr;
-    if (document->GetEncrypted() && !guarded(error, [&] { removePadding(*document); }))
+    const PoDoFo::PdfEncrypt* encryption = document->GetEncrypt();
+    if (encryption && leavesPadding(*encryption) && !guarded(error, [&] { removePadding(*document); }))
         return nullptr;
     return document;
 }

@@ -38,7 +38,9 @@ bool PlotImage::write(const QString& path)
     QBuffer buffer(&m_data);
     buffer.open(QIODevice::WriteOnly);
     draw().save(&buffer, "PNG");
-    return uiutils::writeFileDurably(uiutils::onDisk(path), m_data);
+    const QString place = uiutils::onDisk(path);
+    return path.startsWith(uiutils::paths::plotImageStem) ? uiutils::writeFileForNow(place, m_data)
+                                                          : uiutils::writeFileDurably(place, m_data);
 }
 
 QImage PlotImage::draw() const

@@ -31,8 +31,9 @@ public:
     /// How many pixels the picture has for each of its size, along both sides: 1 by default, more for paper.
     void setPixelScale(int scale) { m_pixelScale = qBound(1, scale, 4); }
 
-    /// Draws the plot and writes it to `path`, an instrument path. Returns false when the file could not be written;
-    /// getData() holds the image all the same.
+    /// Draws the plot and writes it to `path`, an instrument path. A temporary image, "/tmp/rep_plot_...", need not
+    /// outlive a power cut and does not wait for the disk. Returns false when the file could not be written; getData()
+    /// holds the image all the same.
     bool write(const QString& path);
 
     /// The PNG of the last write().

@@ -5,6 +5,7 @@
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
 #include "writers/htmlstreamwriter.h"
+#include "writers/plotdata_p.h"
 #include "writers/plotimage.h"
 #include "writers/reportcontent_p.h"
 #include "writers/style.h"
@@ -13,6 +14,7 @@
 
 #include <QCoreApplication>
 #include <QDate>
+#include <QFile>
 
 namespace instrument = uiutils::instrument;
 namespace keys = uiutils::keys;
@@ -28,6 +30,8 @@ QString tr(const char* text)
 
 /// Enough for a plot's letters to be as sharp as the page's.
 constexpr int plotPixelsOnPaper = 2;
+/// The plots of tables with a larger number leave no file.
+constexpr quint64 mostPlotFiles = 100;
 
 /// A two-column table of labels and values; none without rows.
 void writeInformation(HtmlStreamWriter& html, const uiutils::InformationTable& table, int nestingLevel)
@@ -377,13 +381,19 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
     m_html->endRow();
 }
 
-/// The file is there for others to look at; tables of one number in several sections write it one after the other.
+/// The file is there for others to look at; tables of one number in several sections write it one after the other. A
+/// document with thousands of plots does not fill the memory that temporary files lie in.
 void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumber)
 {
     const QString path = uiutils::paths::plotImage(tableNumber);
-    auto known = m_plots.constFind(service);
+    // All that have no curves look alike, and a document may name thousands that are not there.
+    const bool isKnown = m_plots.contains(service);
+    const QString key = isKnown || !uiutils::readPlotData(service).curves.isEmpty() ? service : QString();
+    auto known = m_plots.constFind(key);
+    const bool isLeft = tableNumber < mostPlotFiles;
     if (known != m_plots.constEnd()) {
-        (void)uiutils::writeFileDurably(uiutils::onDisk(path), *known);
+        if (isLeft)
+            uiutils::writeFileForNow(uiutils::onDisk(path), *known);
     } else {
         PlotImage plot;
         plot.setService(service);
@@ -391,7 +401,9 @@ void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumbe
         plot.setSize(attribute(QStringLiteral("plot_width")).toInt(), attribute(QStringLiteral("plot_height")).toInt());
         plot.setPixelScale(m_plotPixels);
         plot.write(path);
-        known = m_plots.insert(service, plot.getData());
+        if (!isLeft)
+            QFile::remove(uiutils::onDisk(path));
+        known = m_plots.insert(key, plot.getData());
     }
     m_html->writeImageParagraph(*known, m_plotPixels);
 }
