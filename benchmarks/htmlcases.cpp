@@ -3,7 +3,7 @@
 
 #include "base/paths.h"
 #include "document/reporttemplate.h"
-#include "writers/templatetohtmlwriter.h"
+#include "writers/html/templatetohtmlwriter.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -2,11 +2,11 @@
 #include "writercase.h"
 
 #include "document/reporttemplate.h"
-#include "writers/pageprinter_p.h"
-#include "writers/pdfannotation_p.h"
-#include "writers/reporttable.h"
-#include "writers/templatetohtmlwriter.h"
-#include "writers/templatetopdfwriter.h"
+#include "writers/html/templatetohtmlwriter.h"
+#include "writers/html/templatetopdfwriter.h"
+#include "writers/pages/pageprinter_p.h"
+#include "writers/pages/reporttable.h"
+#include "writers/pdffile/pdfannotation_p.h"
 
 #include <QFile>
 #include <QPainter>

@@ -1,9 +1,9 @@
 #include "case.h"
 
 #include "base/durablefile.h"
-#include "writers/pdfannotation_p.h"
-#include "writers/pdfdocument_p.h"
-#include "writers/pdffile.h"
+#include "writers/pdffile/pdfannotation_p.h"
+#include "writers/pdffile/pdfdocument_p.h"
+#include "writers/pdffile/pdffile.h"
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -1,8 +1,8 @@
 #include "case.h"
 
-#include "writers/plotdata_p.h"
-#include "writers/plotimage.h"
-#include "writers/plotpainter_p.h"
+#include "writers/plots/plotdata_p.h"
+#include "writers/plots/plotimage.h"
+#include "writers/plots/plotpainter_p.h"
 
 #include <QImage>
 #include <QPainter>

@@ -6,7 +6,7 @@
 #include "report/nsreport.h"
 #include "report/report.h"
 #include "report/reportlisting_p.h"
-#include "writers/textreport.h"
+#include "writers/text/textreport.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
 

@@ -3,7 +3,7 @@
 
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
-#include "writers/textreport.h"
+#include "writers/text/textreport.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -62,7 +62,8 @@ int leavesOf(const QJsonObject& node)
             });
         });
     });
-    NodeReader(node).forEachSection(NodeReader::ByNumber, [&](const QJsonObject& section) { size += leavesOf(section); });
+    NodeReader(node).forEachSection(
+            NodeReader::ByNumber, [&](const QJsonObject& section) { size += leavesOf(section); });
     return size;
 }
 

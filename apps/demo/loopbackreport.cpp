@@ -3,8 +3,8 @@
 #include "base/paths.h"
 #include "limit.h"
 #include "report/nsreport.h"
-#include "writers/templatetohtmlwriter.h"
-#include "writers/textreport.h"
+#include "writers/html/templatetohtmlwriter.h"
+#include "writers/text/textreport.h"
 
 #include <QFile>
 

@@ -2,9 +2,9 @@
 
 #include "document/reporttemplate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
-#include "writers/templatetohtmlwriter.h"
-#include "writers/templatetopdfwriter.h"
-#include "writers/textreport.h"
+#include "writers/html/templatetohtmlwriter.h"
+#include "writers/html/templatetopdfwriter.h"
+#include "writers/text/textreport.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -7,7 +7,7 @@
 #include "module/uiutilsmodule.h"
 #include "report/nsreport.h"
 #include "report/report.h"
-#include "writers/textreport.h"
+#include "writers/text/textreport.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>

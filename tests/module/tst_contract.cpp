@@ -14,8 +14,8 @@
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
-#include "writers/htmlstreamwriter.h"
-#include "writers/pdffile.h"
+#include "writers/html/htmlstreamwriter.h"
+#include "writers/pdffile/pdffile.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
 

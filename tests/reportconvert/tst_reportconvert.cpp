@@ -3,7 +3,7 @@
 
 #include "document/reporttemplate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
-#include "writers/textreport.h"
+#include "writers/text/textreport.h"
 
 #include <embedded/embeddedbackend.h>
 

@@ -1,7 +1,7 @@
 #include "columns.h"
 
-#include "writers/curvepainter_p.h"
-#include "writers/plotlegend_p.h"
+#include "writers/plots/curvepainter_p.h"
+#include "writers/plots/plotlegend_p.h"
 
 #include <QImage>
 #include <QRandomGenerator>

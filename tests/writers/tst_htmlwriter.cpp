@@ -4,9 +4,9 @@
 
 #include "base/paths.h"
 #include "document/reporttemplate.h"
-#include "writers/htmlstreamwriter.h"
-#include "writers/reporttable.h"
-#include "writers/templatetohtmlwriter.h"
+#include "writers/html/htmlstreamwriter.h"
+#include "writers/pages/reporttable.h"
+#include "writers/html/templatetohtmlwriter.h"
 
 #include <embedded/embeddedbackend.h>
 

@@ -1,8 +1,8 @@
 #include "columns.h"
 #include "pdfsamples.h"
 
-#include "writers/pdfannotation_p.h"
-#include "writers/pdfdocument_p.h"
+#include "writers/pdffile/pdfannotation_p.h"
+#include "writers/pdffile/pdfdocument_p.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>

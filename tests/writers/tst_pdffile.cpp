@@ -3,8 +3,8 @@
 
 #include "pdfsamples.h"
 
-#include "writers/pdfdocument_p.h"
-#include "writers/pdffile.h"
+#include "writers/pdffile/pdfdocument_p.h"
+#include "writers/pdffile/pdffile.h"
 
 #include <QLocale>
 #include <QSignalSpy>

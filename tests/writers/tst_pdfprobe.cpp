@@ -1,8 +1,8 @@
 #include "columns.h"
 #include "pdfsamples.h"
 
-#include "writers/pdffile.h"
-#include "writers/pdfprobe_p.h"
+#include "writers/pdffile/pdffile.h"
+#include "writers/pdffile/pdfprobe_p.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,8 +1,8 @@
 #include "columns.h"
 #include "files.h"
 
-#include "writers/plotdata_p.h"
-#include "writers/plotimage.h"
+#include "writers/plots/plotdata_p.h"
+#include "writers/plots/plotimage.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>

@@ -1,7 +1,7 @@
 #include "columns.h"
 
-#include "writers/axisscale_p.h"
-#include "writers/plotdata_p.h"
+#include "writers/plots/axisscale_p.h"
+#include "writers/plots/plotdata_p.h"
 
 #include <QtMath>
 

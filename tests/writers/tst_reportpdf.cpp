@@ -4,12 +4,12 @@
 
 #include "document/reporttemplate.h"
 #include "report/report.h"
-#include "writers/reportheader.h"
-#include "writers/reportimage.h"
-#include "writers/reportpdf.h"
-#include "writers/reporttable.h"
-#include "writers/reporttext.h"
-#include "writers/templatetopdfwriter.h"
+#include "writers/pages/reportheader.h"
+#include "writers/pages/reportimage.h"
+#include "writers/pages/reportpdf.h"
+#include "writers/pages/reporttable.h"
+#include "writers/pages/reporttext.h"
+#include "writers/html/templatetopdfwriter.h"
 
 #include <embedded/embeddedbackend.h>
 

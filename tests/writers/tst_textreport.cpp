@@ -4,7 +4,7 @@
 
 #include "base/plaintext_p.h"
 #include "document/reporttemplate.h"
-#include "writers/textreport.h"
+#include "writers/text/textreport.h"
 
 #include <embedded/embeddedbackend.h>
 

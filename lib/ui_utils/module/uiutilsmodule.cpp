@@ -14,7 +14,7 @@
 #include "service/manifest.h"
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
-#include "writers/pdffile.h"
+#include "writers/pdffile/pdffile.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
 

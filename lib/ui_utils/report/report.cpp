@@ -10,7 +10,7 @@
 #include "report/reportnaming_p.h"
 #include "report/reportsettingsstore_p.h"
 #include "report/reportstate_p.h"
-#include "writers/reportitem.h"
+#include "writers/pages/reportitem.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>

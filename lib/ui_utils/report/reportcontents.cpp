@@ -5,8 +5,8 @@
 #include "base/paths.h"
 #include "report/reportstate_p.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
-#include "writers/templatetohtmlwriter.h"
-#include "writers/templatetopdfwriter.h"
+#include "writers/html/templatetohtmlwriter.h"
+#include "writers/html/templatetopdfwriter.h"
 
 #include <QPointer>
 #include <QScopeGuard>

@@ -1,0 +1,424 @@
+#include "writers/html/htmlstreamwriter.h"
+
+#include "base/directmarkup_p.h"
+#include "base/paths.h"
+#include "base/xmltext_p.h"
+#include "writers/html/style.h"
+#include "writers/pages/reportheader.h"
+#include "writers/pages/reportimage.h"
+#include "writers/pages/reporttable.h"
+#include "writers/pages/reporttext.h"
+#include "writers/pages/statusicons_p.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <limits>
+
+using uiutils::beginLine;
+using uiutils::markupText;
+
+namespace {
+
+/// On screens that browsers take for granted.
+constexpr qreal pixelsOfAPoint = 96.0 / 72.0;
+
+// Shared for good: a cell is written in well under a microsecond, and every literal's copy would show.
+struct Words
+{
+    const QString align = QStringLiteral("align");
+    const QString b = QStringLiteral("b");
+    const QString center = QStringLiteral("center");
+    const QString colspan = QStringLiteral("colspan");
+    const QString height = QStringLiteral("height");
+    const QString iconSize = QStringLiteral("20");
+    const QString img = QStringLiteral("img");
+    const QString left = QStringLiteral("left");
+    const QString right = QStringLiteral("right");
+    const QString src = QStringLiteral("src");
+    const QString td = QStringLiteral("td");
+    const QString th = QStringLiteral("th");
+    const QString tr = QStringLiteral("tr");
+    const QString width = QStringLiteral("width");
+};
+
+// Indentation levels of a table that stands in the body.
+constexpr int rowLevel = 3;
+constexpr int cellLevel = 4;
+constexpr int contentLevel = 5;
+
+const Words& words()
+{
+    static const Words words;
+    return words;
+}
+
+const QString& alignmentName(int align)
+{
+    switch (align) {
+    case HtmlStreamWriter::AlignLeft:
+        return words().left;
+    case HtmlStreamWriter::AlignRight:
+        return words().right;
+    default:
+        return words().center;
+    }
+}
+
+QString pngSource(const QByteArray& png)
+{
+    return QLatin1String("data:image/png;base64,") + QString::fromLatin1(png.toBase64());
+}
+
+int clampedProduct(int a, int b)
+{
+    const qint64 product = qint64(a) * b;
+    return int(qBound(qint64(std::numeric_limits<int>::min()), product, qint64(std::numeric_limits<int>::max())));
+}
+
+} // namespace
+
+HtmlStreamWriter::HtmlStreamWriter(int indentStep)
+    : HtmlStreamWriter(indentStep, &uiutils::sharedReportItems())
+{
+}
+
+HtmlStreamWriter::HtmlStreamWriter(int indentStep, QList<ReportItem*>* items)
+    : QXmlStreamWriter(&m_output)
+    , m_indentStep(indentStep)
+    , m_items(items)
+{
+    fillDefaults();
+    setAutoFormatting(true);
+    writeStartDocument();
+    writeDTD(QStringLiteral("<!DOCTYPE html PUBLIC \"-//W3C//DTD Html 4.01 Transitional//EN\" "
+                            "\"http://www.w3.org/TR/html4/loose.dtd\">"));
+    writeStartElement(QStringLiteral("html"));
+}
+
+HtmlStreamWriter::~HtmlStreamWriter()
+{
+    abandonTable();
+}
+
+void HtmlStreamWriter::fillDefaults()
+{
+    const QString blue = QStringLiteral("rgb(0, 104, 155)");
+    const QString white = QStringLiteral("white");
+    const QString sansSerif = QStringLiteral("sans-serif");
+    m_attributes = {
+            {QStringLiteral("isForPDF"), false},
+            {QStringLiteral("h1_bg"), blue},
+            {QStringLiteral("h2_bg"), blue},
+            {QStringLiteral("h3_bg"), blue},
+            {QStringLiteral("bg"), white},
+            {QStringLiteral("h1_fg"), white},
+            {QStringLiteral("h2_fg"), white},
+            {QStringLiteral("h3_fg"), white},
+            {QStringLiteral("table_bg"), QStringLiteral("rgb(150, 150, 150)")},
+            {QStringLiteral("table_header_bg"), blue},
+            {QStringLiteral("table_header_fg"), white},
+            {QStringLiteral("table_cell_bg"), QStringLiteral("rgb(240, 250, 255)")},
+            {QStringLiteral("body_font_family"), sansSerif},
+            {QStringLiteral("table_font_family"), sansSerif},
+            {QStringLiteral("table_header_font_family"), sansSerif},
+            {QStringLiteral("table_cell_font_family"), sansSerif},
+            {QStringLiteral("indent_pix"), QStringLiteral("10")},
+            {QStringLiteral("logo"), QString(uiutils::paths::logo)},
+            {QStringLiteral("orientation"), QStringLiteral("portrait")},
+            {QStringLiteral("showSoftwareRevs"), true},
+            {QStringLiteral("showHardwareRevs"), true},
+            {QStringLiteral("includeCustomerInfoTop"), false},
+            {QStringLiteral("includeTechnicianInfoTop"), false},
+            {QStringLiteral("includeCustomerInfoEnd"), false},
+            {QStringLiteral("includeTechnicianInfoEnd"), false},
+    };
+}
+
+void HtmlStreamWriter::discardText()
+{
+    m_keepsText = false;
+    m_output.clear();
+}
+
+/// The room stays for the next piece.
+void HtmlStreamWriter::dropText()
+{
+    if (!m_keepsText)
+        m_output.resize(0);
+}
+
+void HtmlStreamWriter::append(ReportItem* item)
+{
+    item->setOfPass();
+    if (m_items)
+        m_items->append(item);
+    else
+        delete item;
+}
+
+/// No cell comes any more: the next pass deletes it as it does a closed one. In a list of one's own it may be gone,
+/// with its owner's other items.
+void HtmlStreamWriter::abandonTable()
+{
+    if (m_currentTable && m_items == &uiutils::sharedReportItems() && m_items->lastIndexOf(m_currentTable) >= 0)
+        m_currentTable->setOfPass();
+    m_currentTable = nullptr;
+}
+
+void HtmlStreamWriter::writeHead(const QString& title, const QList<Style*>& styles)
+{
+    writeStartElement(QStringLiteral("head"));
+    if (!title.isEmpty())
+        writeTextElement(QStringLiteral("title"), markupText(title));
+    if (!styles.isEmpty()) {
+        QString sheet(QLatin1Char('\n'));
+        for (const Style* style : styles)
+            sheet += QStringLiteral("    %1 {%2}\n").arg(style->selector(), style->toCss());
+        writeStartElement(QStringLiteral("style"));
+        writeAttribute(QStringLiteral("type"), QStringLiteral("text/css"));
+        writeCharacters(markupText(sheet));
+        writeEndElement();
+    }
+    writeEmptyElement(QStringLiteral("meta"));
+    writeAttribute(QStringLiteral("http-equiv"), QStringLiteral("Content-Type"));
+    writeAttribute(QStringLiteral("content"), QStringLiteral("text/html;charset=UTF-8"));
+    writeEndElement();
+}
+
+void HtmlStreamWriter::startBody(const QVariantMap& attributes)
+{
+    static const QRegularExpression attributeName(QStringLiteral("\\A[A-Za-z][A-Za-z0-9-]*\\z"));
+    writeStartElement(QStringLiteral("body"));
+    for (auto it = attributes.cbegin(); it != attributes.cend(); ++it) {
+        if (attributeName.match(it.key()).hasMatch())
+            writeAttribute(it.key(), markupText(it.value().toString()));
+    }
+}
+
+void HtmlStreamWriter::startTable(const QString& title, const QStringList& columnLabels, bool hasLabelColumn,
+        int nestingLevel, const QVariantMap& tableAttributes)
+{
+    abandonTable();
+    if (m_items) {
+        m_currentTable = new ReportTable(title, columnLabels, hasLabelColumn);
+        m_items->append(m_currentTable);
+    }
+    m_hasLabelColumn = hasLabelColumn;
+    m_columnCount = columnLabels.size() + (hasLabelColumn ? 1 : 0);
+
+    Style margin;
+    margin.setMarginLeft(clampedProduct(m_indentStep, nestingLevel));
+    const auto setting = [&](const char* name, const QVariant& fallback) {
+        return tableAttributes.value(QLatin1String(name), fallback);
+    };
+    writeStartElement(QStringLiteral("table"));
+    writeAttribute(QStringLiteral("style"), margin.toCss());
+    writeAttribute(QStringLiteral("cellpadding"), QString::number(setting("cellpadding", 5).toInt()));
+    writeAttribute(QStringLiteral("rules"), markupText(setting("rules", QStringLiteral("rows")).toString()));
+    writeAttribute(QStringLiteral("frame"), markupText(setting("frame", QStringLiteral("box")).toString()));
+    m_tableHasRows = false;
+    if (!title.isEmpty()) {
+        startTableRow();
+        writeStartElement(words().th);
+        writeAttribute(words().colspan, QString::number(qMax(1, m_columnCount)));
+        writeTextElement(QStringLiteral("i"), markupText(title));
+        writeEndElement();
+        writeEndElement();
+    }
+    writeHeaderRow(columnLabels, hasLabelColumn);
+    m_rowOpen = false;
+    startRow();
+}
+
+void HtmlStreamWriter::writeHeaderRow(const QStringList& columnLabels, bool hasLabelColumn)
+{
+    const bool hasText = std::any_of(
+            columnLabels.cbegin(), columnLabels.cend(), [](const QString& label) { return !label.isEmpty(); });
+    if (!hasText)
+        return;
+    startTableRow();
+    if (hasLabelColumn)
+        writeTextElement(words().th, QString());
+    int empty = 0;
+    for (const QString& label : columnLabels) {
+        if (label.isEmpty()) {
+            ++empty;
+            continue;
+        }
+        writeEmptyHeader(empty);
+        empty = 0;
+        writeTextElement(words().th, markupText(label));
+    }
+    writeEmptyHeader(empty);
+    writeEndElement();
+}
+
+/// One cell for a run of columns without labels: a thousand of them cost a document 30 bytes.
+void HtmlStreamWriter::writeEmptyHeader(int columns)
+{
+    if (columns < 1)
+        return;
+    writeStartElement(words().th);
+    if (columns > 1)
+        writeAttribute(words().colspan, QString::number(columns));
+    writeCharacters(QString());
+    writeEndElement();
+}
+
+void HtmlStreamWriter::startTableRow()
+{
+    m_tableHasRows = true;
+    writeStartElement(words().tr);
+}
+
+void HtmlStreamWriter::expectRows(int rows, qint64 cells)
+{
+    // As much as rows of short texts take; what is not written to costs no memory.
+    constexpr int charactersOfARow = 70;
+    constexpr int charactersOfACell = 90;
+    if (!m_keepsText)
+        return;
+    uiutils::makeRoom(m_output, qint64(rows) * charactersOfARow + cells * charactersOfACell);
+}
+
+void HtmlStreamWriter::startRow()
+{
+    if (m_rowOpen)
+        return;
+    m_rowOpen = true;
+    m_currentColumn = 0;
+}
+
+bool HtmlStreamWriter::beginCell(int columns)
+{
+    if (!m_rowOpen || m_currentColumn >= m_columnCount)
+        return false;
+    if (m_currentColumn == 0) {
+        startTableRow();
+        setAutoFormatting(false);
+    }
+    m_currentColumn += columns;
+    beginLine(*this, m_output, cellLevel);
+    writeStartElement(words().td);
+    return true;
+}
+
+void HtmlStreamWriter::writeHeaderCell(const QString& text, int align)
+{
+    if (!beginCell(1))
+        return;
+    uiutils::writeAttribute(*this, m_output, words().align, alignmentName(align));
+    beginLine(*this, m_output, contentLevel);
+    writeStartElement(words().b);
+    uiutils::writeText(*this, m_output, text);
+    writeEndElement();
+    beginLine(*this, m_output, cellLevel);
+    writeEndElement();
+    if (m_currentTable)
+        m_currentTable->appendCell({text, StatusNone, qint8(align), ReportTable::CellKind::RowLabel, 1});
+}
+
+void HtmlStreamWriter::writeCell(const QString& text, int status, int align)
+{
+    if (!beginCell(1))
+        return;
+    uiutils::writeAttribute(*this, m_output, words().align, alignmentName(align));
+    writeStatusIcon(status);
+    uiutils::writeText(*this, m_output, text);
+    writeEndElement();
+    if (m_currentTable)
+        m_currentTable->appendCell({text, status, qint8(align), ReportTable::CellKind::Value, 1});
+}
+
+void HtmlStreamWriter::writeEmptyCells(int columns)
+{
+    const int span = qMin(columns, m_columnCount - m_currentColumn);
+    if (span <= 0 || !beginCell(span))
+        return;
+    if (span > 1)
+        writeAttribute(words().colspan, QString::number(span));
+    writeCharacters(QString());
+    writeEndElement();
+    if (m_currentTable)
+        m_currentTable->appendCell({QString(), StatusNone, AlignCenter, ReportTable::CellKind::Value, quint16(span)});
+}
+
+void HtmlStreamWriter::endRow()
+{
+    if (m_rowOpen && m_currentColumn > 0) {
+        beginLine(*this, m_output, rowLevel);
+        writeEndElement();
+        setAutoFormatting(true);
+    }
+    if (m_currentTable)
+        m_currentTable->endRow();
+    m_rowOpen = false;
+    m_currentColumn = 0;
+    dropText();
+}
+
+void HtmlStreamWriter::endTable()
+{
+    endRow();
+    // "<table/>" would be read as a table that never ends.
+    if (!m_tableHasRows)
+        writeCharacters(QString());
+    writeEndElement();
+    // Only now: a pass that begins meanwhile must not delete what cells are still appended to.
+    if (m_currentTable)
+        m_currentTable->setOfPass();
+    m_currentTable = nullptr;
+}
+
+void HtmlStreamWriter::writeParagraph(const QString& text)
+{
+    writeTextElement(QStringLiteral("p"), markupText(text));
+    append(new ReportText(text));
+    dropText();
+}
+
+void HtmlStreamWriter::writeHeading(int level, const QString& text)
+{
+    writeTextElement(QStringLiteral("h%1").arg(qBound(1, level, 3)), markupText(text));
+    append(new ReportHeader(level, text));
+    dropText();
+}
+
+void HtmlStreamWriter::writeImage(const QString& source)
+{
+    writeEmptyElement(words().img);
+    writeAttribute(words().src, markupText(source));
+}
+
+void HtmlStreamWriter::writeImageParagraph(const QByteArray& png, int pixels)
+{
+    append(new ReportImage(png, pixels * pixelsOfAPoint));
+    if (!m_keepsText)
+        return;
+    writeStartElement(QStringLiteral("p"));
+    writeImage(pngSource(png));
+    writeEndElement();
+}
+
+void HtmlStreamWriter::writeStatusIcon(int status)
+{
+    const QLatin1String path = uiutils::statusIconPath(status);
+    if (path.isEmpty())
+        return;
+    beginLine(*this, m_output, contentLevel);
+    writeEmptyElement(words().img);
+    uiutils::writeAttribute(*this, m_output, words().src, iconSource(path));
+    uiutils::writeAttribute(*this, m_output, words().width, words().iconSize);
+    uiutils::writeAttribute(*this, m_output, words().height, words().iconSize);
+}
+
+const QString& HtmlStreamWriter::iconSource(const QString& path)
+{
+    auto it = m_iconSources.find(path);
+    if (it == m_iconSources.end()) {
+        const QByteArray& bytes = *m_iconCache.insert(path, uiutils::readIcon(path));
+        it = m_iconSources.insert(path, pngSource(bytes));
+    }
+    return *it;
+}

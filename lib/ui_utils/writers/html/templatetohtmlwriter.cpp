@@ -1,0 +1,409 @@
+#include "writers/html/templatetohtmlwriter.h"
+
+#include "base/durablefile.h"
+#include "base/paths.h"
+#include "document/documentreader_p.h"
+#include "document/reporttemplate.h"
+#include "writers/html/htmlstreamwriter.h"
+#include "writers/html/style.h"
+#include "writers/plots/plotdata_p.h"
+#include "writers/plots/plotimage.h"
+#include "writers/text/reportcontent_p.h"
+
+#include <kiv/system.h>
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QFile>
+
+namespace instrument = uiutils::instrument;
+namespace keys = uiutils::keys;
+using uiutils::NodeReader;
+using uiutils::TableReader;
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("TemplateToHtmlWriter", text);
+}
+
+/// Enough for a plot's letters to be as sharp as the page's.
+constexpr int plotPixelsOnPaper = 2;
+/// The plots of tables with a larger number leave no file.
+constexpr quint64 mostPlotFiles = 100;
+
+/// A two-column table of labels and values; none without rows.
+void writeInformation(HtmlStreamWriter& html, const uiutils::InformationTable& table, int nestingLevel)
+{
+    if (table.rows.isEmpty())
+        return;
+    html.startTable(table.title, {table.valueLabel}, true, nestingLevel);
+    for (const instrument::LabelledText& row : table.rows) {
+        html.startRow();
+        html.writeHeaderCell(row.label, HtmlStreamWriter::AlignRight);
+        html.writeCell(row.text);
+        html.endRow();
+    }
+    html.endTable();
+}
+
+} // namespace
+
+struct TemplateToHtmlWriter::OverallStatus
+{
+    const char* flag;
+    uiutils::ReportStatus status;
+    /// How the status reads in the page's comment.
+    QLatin1String word;
+    int icon;
+};
+
+TemplateToHtmlWriter::TemplateToHtmlWriter(const ReportTemplate& document, QList<ReportItem*>* items)
+    : m_document(document.object())
+    , m_items(items)
+{
+    const int indentStep = uiutils::textOf(m_document.value(keys::indentPixels)).toInt();
+    m_html = std::make_unique<HtmlStreamWriter>(indentStep, items);
+}
+
+TemplateToHtmlWriter::~TemplateToHtmlWriter() = default;
+
+void TemplateToHtmlWriter::setAttribute(const QString& name, const QVariant& value)
+{
+    m_html->setAttribute(name, value);
+}
+
+QVariant TemplateToHtmlWriter::attribute(const QString& name) const
+{
+    return m_html->attribute(name);
+}
+
+QString TemplateToHtmlWriter::getHtml()
+{
+    if (!m_isWritten)
+        writePage();
+    return m_html->output();
+}
+
+void TemplateToHtmlWriter::collectItems()
+{
+    m_html->discardText();
+    m_plotPixels = plotPixelsOnPaper;
+    writePage();
+}
+
+void TemplateToHtmlWriter::writePage()
+{
+    m_isWritten = true;
+    // What is being printed keeps its items.
+    if (m_items && !ReportPDF::isPrinting())
+        uiutils::deleteItemsOfPasses(*m_items);
+    const QList<Style*> rules = styles();
+    m_html->writeHead(title(), rules);
+    qDeleteAll(rules);
+
+    writeBodyStart();
+    tablesToHtml(m_document);
+    sectionsToHtml(m_document);
+    writeSystemInformation();
+    if (isSet("includeCustomerInfoEnd"))
+        writeCustomerTable();
+    if (isSet("includeTechnicianInfoEnd"))
+        writeTechnicianTable();
+    m_html->writeEndElement();
+    m_html->writeEndDocument();
+    m_plots.clear();
+}
+
+QString TemplateToHtmlWriter::title() const
+{
+    const QString name = keys::title;
+    return m_html->hasAttribute(name) ? attribute(name).toString() : NodeReader(m_document).title();
+}
+
+QString TemplateToHtmlWriter::timestamp()
+{
+    return uiutils::dateText(QDate::currentDate()) + QLatin1Char(' ') + System::getInstance().getCurrentTime();
+}
+
+QVector<ReportPDF::Field> TemplateToHtmlWriter::titleFields() const
+{
+    QVector<ReportPDF::Field> fields {{tr("Timestamp"), timestamp()}};
+    const OverallStatus status = overallStatus();
+    const QString statusText = uiutils::overallText(status.status);
+    if (!statusText.isEmpty())
+        fields.append({tr("Overall Status"), statusText, status.icon});
+    if (isSet("includeJobInfo")) {
+        const instrument::LabelledTexts job = uiutils::jobTable().rows;
+        for (const instrument::LabelledText& field : job)
+            fields.append({field.label, field.text});
+    }
+    return fields;
+}
+
+bool TemplateToHtmlWriter::isSet(const char* name) const
+{
+    return attribute(QLatin1String(name)).toBool();
+}
+
+QList<Style*> TemplateToHtmlWriter::styles() const
+{
+    QList<Style*> rules;
+    const auto add = [&](const QString& selector) {
+        rules += new Style(selector);
+        return rules.constLast();
+    };
+    const auto text = [&](const QString& name) { return attribute(name).toString(); };
+
+    for (int level = 1; level <= 3; ++level) {
+        Style* heading = add(QStringLiteral("h%1").arg(level));
+        heading->setProperty(QStringLiteral("background-color"), text(QStringLiteral("h%1_bg").arg(level)));
+        heading->setProperty(QStringLiteral("color"), text(QStringLiteral("h%1_fg").arg(level)));
+        heading->setMarginTop(12);
+        heading->setMarginBottom(5);
+    }
+
+    Style* paragraph = add(QStringLiteral("p"));
+    paragraph->setProperty(QStringLiteral("font-size"), QStringLiteral("medium"));
+    paragraph->setMarginTop(5);
+    paragraph->setMarginBottom(5);
+
+    Style* body = add(QStringLiteral("body"));
+    body->setFontFamily(text(QStringLiteral("body_font_family")));
+    body->setProperty(QStringLiteral("margin-right"), QStringLiteral("%1%").arg(2));
+    body->setProperty(QStringLiteral("margin-left"), QStringLiteral("%1%").arg(2));
+
+    Style* table = add(QStringLiteral("table"));
+    table->setFontFamily(text(QStringLiteral("table_font_family")));
+    table->setProperty(QStringLiteral("font-size"), QStringLiteral("medium"));
+    table->setProperty(QStringLiteral("margin"), QStringLiteral("10px"));
+    table->setBackground(text(QStringLiteral("table_bg")));
+    table->setProperty(QStringLiteral("border-width"), QStringLiteral("1px"));
+
+    Style* headerCell = add(QStringLiteral("th"));
+    headerCell->setFontFamily(text(QStringLiteral("table_header_font_family")));
+    headerCell->setBackground(text(QStringLiteral("table_header_bg")));
+    headerCell->setProperty(QStringLiteral("color"), text(QStringLiteral("table_header_fg")));
+    headerCell->setPadding(2, 8);
+
+    Style* cell = add(QStringLiteral("td"));
+    cell->setFontFamily(text(QStringLiteral("table_cell_font_family")));
+    cell->setBackground(text(QStringLiteral("table_cell_bg")));
+    cell->setPadding(3, 8);
+    return rules;
+}
+
+void TemplateToHtmlWriter::writeBodyStart()
+{
+    m_html->startBody(m_bodyAttributes);
+    // The page renderer draws a title block of its own.
+    const bool isForPage = isSet("isForPDF");
+    if (!isForPage) {
+        const QString logo = attribute(QStringLiteral("logo")).toString();
+        if (!logo.isEmpty())
+            m_html->writeImage(logo);
+        writeTestInformation();
+        if (isSet("includeJobInfo"))
+            writeJobTable();
+    }
+    if (isSet("includeCustomerInfoTop"))
+        writeCustomerTable();
+    if (isSet("includeTechnicianInfoTop"))
+        writeTechnicianTable();
+}
+
+TemplateToHtmlWriter::OverallStatus TemplateToHtmlWriter::overallStatus() const
+{
+    using uiutils::ReportStatus;
+    static const OverallStatus statuses[] = {
+            {"pass", ReportStatus::Pass, QLatin1String("pass"), HtmlStreamWriter::StatusPass},
+            {"marginal", ReportStatus::Marginal, QLatin1String("marginal"), HtmlStreamWriter::StatusMarginal},
+            {"fail", ReportStatus::Fail, QLatin1String("fail"), HtmlStreamWriter::StatusFail},
+            {"notCompleted", ReportStatus::NotCompleted, QLatin1String("not completed"), HtmlStreamWriter::StatusNone},
+    };
+    for (const OverallStatus& status : statuses) {
+        if (isSet(status.flag))
+            return status;
+    }
+    return {nullptr, ReportStatus::Unknown, QLatin1String("unknown"), HtmlStreamWriter::StatusNone};
+}
+
+void TemplateToHtmlWriter::writeTestInformation()
+{
+    const auto writeRow = [this](const QString& label, const QString& text, int status) {
+        m_html->startRow();
+        m_html->writeHeaderCell(label, HtmlStreamWriter::AlignRight);
+        m_html->writeCell(text, status);
+        m_html->endRow();
+    };
+    const OverallStatus status = overallStatus();
+
+    m_html->startTable(tr("Test Information"), {tr("Value")}, true, -1);
+    writeRow(tr("Title"), title(), HtmlStreamWriter::StatusNone);
+    writeRow(tr("Timestamp"), timestamp(), HtmlStreamWriter::StatusNone);
+    const QString statusText = uiutils::overallText(status.status);
+    if (!statusText.isEmpty())
+        writeRow(tr("Overall Status"), statusText, status.icon);
+    m_html->writeComment(QStringLiteral("report_status=%1").arg(status.word));
+    m_html->endTable();
+}
+
+void TemplateToHtmlWriter::writeJobTable()
+{
+    writeInformation(*m_html, uiutils::jobTable(), 0);
+}
+
+void TemplateToHtmlWriter::writeCustomerTable()
+{
+    writeInformation(*m_html, uiutils::customerTable(), 0);
+}
+
+void TemplateToHtmlWriter::writeTechnicianTable()
+{
+    writeInformation(*m_html, uiutils::technicianTable(), 0);
+}
+
+void TemplateToHtmlWriter::writeSystemInformation()
+{
+    const bool showsSoftware = isSet("showSoftwareRevs");
+    const bool showsHardware = isSet("showHardwareRevs");
+    if (!showsSoftware && !showsHardware)
+        return;
+    // On paper a heading with nothing under it looks like something that was lost.
+    const bool hasTables = (showsSoftware && !uiutils::softwareTable().rows.isEmpty())
+            || (showsHardware && !instrument::hardwareAssemblies().isEmpty());
+    if (isSet("isForPDF") && !hasTables)
+        return;
+    m_html->writeHeading(1, tr("Solvant System Information"));
+    if (showsSoftware)
+        writeSoftwareTable();
+    if (showsHardware)
+        writeHardwareTable();
+}
+
+void TemplateToHtmlWriter::writeSoftwareTable()
+{
+    writeInformation(*m_html, uiutils::softwareTable(), 0);
+}
+
+void TemplateToHtmlWriter::writeHardwareTable()
+{
+    const QVector<QStringList> assemblies = instrument::hardwareAssemblies();
+    if (assemblies.isEmpty())
+        return;
+    m_html->startTable(tr("Hardware"), {tr("Assembly"), tr("ID")}, false, 0);
+    for (const QStringList& parts : assemblies) {
+        m_html->startRow();
+        for (const QString& part : parts)
+            m_html->writeCell(part);
+        m_html->endRow();
+    }
+    m_html->endTable();
+}
+
+void TemplateToHtmlWriter::sectionsToHtml(QJsonObject& node)
+{
+    ++m_depth;
+    NodeReader(node).forEachSection(NodeReader::ByKey, [this](QJsonObject section) { sectionToHtml(section); });
+    --m_depth;
+}
+
+void TemplateToHtmlWriter::sectionToHtml(QJsonObject& object)
+{
+    const NodeReader section(object);
+    if (!section.isEnabled())
+        return;
+    const QString title = section.title();
+    if (!title.isEmpty())
+        m_html->writeHeading(m_depth, title);
+    const QVector<NodeReader::LogEntry> logEntries = section.logEntries();
+    for (const NodeReader::LogEntry& entry : logEntries)
+        m_html->writeParagraph(entry.text);
+    writeConfigurationValues(section);
+    tablesToHtml(object);
+    sectionsToHtml(object);
+}
+
+void TemplateToHtmlWriter::writeConfigurationValues(const NodeReader& section)
+{
+    writeInformation(*m_html, uiutils::configurationTable(section, NodeReader(m_document)), m_depth);
+}
+
+void TemplateToHtmlWriter::tablesToHtml(QJsonObject& node)
+{
+    NodeReader(node).forEachTable(NodeReader::ByKey, [this](const QString& key, const QJsonObject& object) {
+        const TableReader table(object);
+        if (table.isPlot())
+            plotToHtml(table.text(keys::service), NodeReader::tableNumber(key).value_or(0));
+        else
+            tableToHtml(table);
+    });
+}
+
+void TemplateToHtmlWriter::tableToHtml(const TableReader& table)
+{
+    QVariantMap attributes;
+    table.forEachAttribute([&](const QString& name, const QString& value) { attributes.insert(name, value); });
+
+    const bool hasLabels = table.usesRowLabels();
+    m_html->startTable(table.title(), table.columnLabels(), hasLabels, m_depth, attributes);
+    const TableReader::Extent extent = table.extent();
+    m_html->expectRows(extent.rows, extent.cells);
+    table.forEachRow(NodeReader::ByKey, [&](const QString& key, const QJsonObject& row) {
+        if (key.startsWith(keys::rowFamily))
+            rowToHtml(table, hasLabels, row);
+    });
+    m_html->endTable();
+}
+
+void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, const QJsonObject& row)
+{
+    m_html->startRow();
+    if (hasLabel)
+        m_html->writeHeaderCell(uiutils::shownTextOf(row.value(keys::label)), HtmlStreamWriter::AlignRight);
+
+    int missing = 0;
+    for (int column = 0; column < table.columnCount(); ++column) {
+        const QJsonValue value = row.value(table.cellKey(column));
+        if (!value.isObject()) {
+            ++missing;
+            continue;
+        }
+        m_html->writeEmptyCells(missing);
+        missing = 0;
+        const QJsonObject cell = value.toObject();
+        m_html->writeCell(uiutils::shownTextOf(cell.value(keys::label)),
+                uiutils::textOf(cell.value(keys::statusAttribute)).toInt(),
+                uiutils::textOf(cell.value(keys::alignAttribute)).toInt());
+    }
+    m_html->writeEmptyCells(missing);
+    m_html->endRow();
+}
+
+/// The file is there for others to look at; tables of one number in several sections write it one after the other. A
+/// document with thousands of plots does not fill the memory that temporary files lie in.
+void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumber)
+{
+    const QString path = uiutils::paths::plotImage(tableNumber);
+    // All that have no curves look alike, and a document may name thousands that are not there.
+    const bool isKnown = m_plots.contains(service);
+    const QString key = isKnown || !uiutils::readPlotData(service).curves.isEmpty() ? service : QString();
+    auto known = m_plots.constFind(key);
+    const bool isLeft = tableNumber < mostPlotFiles;
+    if (known != m_plots.constEnd()) {
+        if (isLeft)
+            uiutils::writeFileForNow(uiutils::onDisk(path), *known);
+    } else {
+        PlotImage plot;
+        plot.setService(service);
+        plot.setCurveBackground(attribute(QStringLiteral("plot_curve_bg")).toString());
+        plot.setSize(attribute(QStringLiteral("plot_width")).toInt(), attribute(QStringLiteral("plot_height")).toInt());
+        plot.setPixelScale(m_plotPixels);
+        plot.write(path);
+        if (!isLeft)
+            QFile::remove(uiutils::onDisk(path));
+        known = m_plots.insert(key, plot.getData());
+    }
+    m_html->writeImageParagraph(*known, m_plotPixels);
+}

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+#include "writers/pages/reportpdf.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QJsonObject>
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+
+class HtmlStreamWriter;
+class ReportTemplate;
+class Style;
+
+namespace uiutils {
+class NodeReader;
+class TableReader;
+} // namespace uiutils
+
+/// Turns a report document into one stand-alone HTML page, and in the same pass collects its tables as report items
+/// for the page renderer.
+///
+/// The writer never fails: what is missing reads as empty. Set the attributes first, then call getHtml(). The parts of
+/// the pass are public for those who write pages of their own.
+class UIUTILS_EXPORT TemplateToHtmlWriter
+{
+public:
+    /// Keeps the document as it is now. The pass appends its items to `items`, after it has deleted those that an
+    /// earlier pass has left there, unless they are being printed; null collects none.
+    explicit TemplateToHtmlWriter(
+            const ReportTemplate& document, QList<ReportItem*>* items = &uiutils::sharedReportItems());
+    virtual ~TemplateToHtmlWriter();
+    Q_DISABLE_COPY_MOVE(TemplateToHtmlWriter)
+
+    /// Sets a switch of style or content, in place of the writer's default; docs/html-report.md lists them.
+    void setAttribute(const QString& name, const QVariant& value);
+    /// A switch's value; invalid when it is neither set nor has a default.
+    QVariant attribute(const QString& name) const;
+
+    /// Attributes of the page's body element.
+    void setBodyAttributes(const QVariantMap& attributes) { m_bodyAttributes = attributes; }
+
+    /// The report's title: the attribute "title", or the document's own where that is not set.
+    QString title() const;
+    /// Date and time of now as the page shows them.
+    static QString timestamp();
+    /// What a title block says of the test: its time, its overall status if one is set, and the job if the page
+    /// includes it.
+    QVector<ReportPDF::Field> titleFields() const;
+
+    /// Makes the pass for its report items alone; nothing is kept of the page, which getHtml() then has no text of.
+    void collectItems();
+
+    /// The page. The first call writes it; later calls return the same text.
+    QString getHtml();
+
+    /// Write the sections below a node with what they hold, and the tables directly in it.
+    void sectionsToHtml(QJsonObject& node);
+    void tablesToHtml(QJsonObject& node);
+
+private:
+    struct OverallStatus;
+
+    QList<Style*> styles() const;
+    bool isSet(const char* name) const;
+    OverallStatus overallStatus() const;
+
+    void writePage();
+    void writeBodyStart();
+    void writeTestInformation();
+    void writeJobTable();
+    void writeCustomerTable();
+    void writeTechnicianTable();
+    void writeSystemInformation();
+    void writeSoftwareTable();
+    void writeHardwareTable();
+
+    void sectionToHtml(QJsonObject& section);
+    void tableToHtml(const uiutils::TableReader& table);
+    void rowToHtml(const uiutils::TableReader& table, bool hasLabel, const QJsonObject& row);
+    void plotToHtml(const QString& service, quint64 tableNumber);
+    void writeConfigurationValues(const uiutils::NodeReader& section);
+
+    QJsonObject m_document;
+    QVariantMap m_bodyAttributes;
+    QList<ReportItem*>* m_items;
+    std::unique_ptr<HtmlStreamWriter> m_html;
+    // A picture of each service: the page holds them anyway, and drawing one takes longer than the rest of the page.
+    QHash<QString, QByteArray> m_plots;
+    // Of a page's pixel: paper is finer than a screen.
+    int m_plotPixels = 1;
+    int m_depth = 0;
+    bool m_isWritten = false;
+};

@@ -1,0 +1,55 @@
+#include "writers/html/templatetopdfwriter.h"
+
+#include "document/reporttemplate.h"
+#include "service/instrumentinfo_p.h"
+
+TemplateToPdfWriter::TemplateToPdfWriter(const ReportTemplate& document, QList<ReportItem*>* items)
+    : m_html(document, items)
+    , m_items(items)
+    , m_subject(document.getAttr(QStringLiteral("subject")).toString())
+{
+    setAttribute(QStringLiteral("isForPDF"), true);
+}
+
+TemplateToPdfWriter::~TemplateToPdfWriter() = default;
+
+QByteArray TemplateToPdfWriter::toPdf(QString* error)
+{
+    layOut();
+    return m_pages.toPdf(error);
+}
+
+bool TemplateToPdfWriter::write(const QString& path, QString* error)
+{
+    layOut();
+    return m_pages.print(path, error);
+}
+
+void TemplateToPdfWriter::layOut()
+{
+    // The items of the last pass may be the ones that are being printed.
+    if (ReportPDF::isPrinting())
+        return;
+    m_html.collectItems();
+    setUpPages();
+}
+
+void TemplateToPdfWriter::setUpPages()
+{
+    const auto text = [this](const char* name) { return m_html.attribute(QLatin1String(name)).toString(); };
+    const auto textOr = [&](const char* name, const QString& fallback) {
+        const QString own = text(name);
+        return own.isEmpty() ? fallback : own;
+    };
+    m_pages.setItems(*m_items);
+    m_pages.setOrientation(
+            text("orientation") == QLatin1String("portrait") ? ReportPDF::Portrait : ReportPDF::Landscape);
+    m_pages.setTitle(m_html.title());
+    m_pages.setAuthor(textOr("author", uiutils::instrument::technicianName()));
+    m_pages.setSubject(textOr("subject", m_subject));
+    m_pages.setProducer(textOr("producer", QStringLiteral("uiutils")));
+    m_pages.setLogo(text("logo"));
+    m_pages.setUnitId(textOr("unitId", uiutils::instrument::unitId()));
+    m_pages.setTimestamp(m_html.timestamp());
+    m_pages.setFields(m_html.titleFields());
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+#include "writers/html/templatetohtmlwriter.h"
+#include "writers/pages/reportitem.h"
+#include "writers/pages/reportpdf.h"
+
+#include <QString>
+#include <QVariant>
+
+class ReportTemplate;
+
+/// Turns a report document into a PDF file: has the HTML writer's pass collect the items, and ReportPDF print them.
+class UIUTILS_EXPORT TemplateToPdfWriter
+{
+public:
+    /// Keeps the document as it is now. The pass appends its items to `items`, where they stay until the next one
+    /// deletes them; others in the list are printed too and stay their owner's.
+    explicit TemplateToPdfWriter(
+            const ReportTemplate& document, QList<ReportItem*>* items = &uiutils::sharedReportItems());
+    ~TemplateToPdfWriter();
+    Q_DISABLE_COPY_MOVE(TemplateToPdfWriter)
+
+    /// Sets a switch of content: those of the HTML writer; "logo", an instrument path; "orientation", "portrait" or
+    /// anything else for landscape; "unitId", in place of the unit's own; "author", in place of the
+    /// technician's name; "subject", in place of the document's; "producer".
+    void setAttribute(const QString& name, const QVariant& value) { m_html.setAttribute(name, value); }
+
+    /// Tells how far toPdf() and write() are, and cancels them.
+    ReportPDF& pages() { return m_pages; }
+
+    /// The file's bytes; see ReportPDF::toPdf() for when there are none.
+    QByteArray toPdf(QString* error = nullptr);
+    /// Prints the file; see ReportPDF::print() for what it returns.
+    bool write(const QString& path, QString* error = nullptr);
+
+private:
+    void layOut();
+    void setUpPages();
+
+    TemplateToHtmlWriter m_html;
+    QList<ReportItem*>* m_items;
+    QString m_subject;
+    ReportPDF m_pages;
+};

@@ -1,0 +1,95 @@
+#include "writers/pages/pageprinter_p.h"
+
+#include "writers/pages/pagecanvas_p.h"
+
+#include <QPainter>
+
+namespace uiutils {
+
+PagePrinter::PagePrinter(const PageSettings& settings, const QList<ReportItem*>& items, const Progress& progress)
+    : m_frameTexts(settings.frame)
+    , m_progress(progress)
+    , m_printer(QPrinter::ScreenResolution)
+    , m_titleBlock(settings.titleBlock)
+    , m_items(items)
+{
+    m_items.prepend(&m_titleBlock);
+    m_printer.setOutputFormat(QPrinter::PdfFormat);
+    m_printer.setPageSize(QPageSize(QPageSize::Letter));
+    m_printer.setPageOrientation(settings.orientation);
+    m_printer.setFullPage(true);
+    m_printer.setCreator(QStringLiteral("uiutils"));
+    m_printer.setDocName(m_frameTexts.title.isEmpty() ? m_frameTexts.documentTitle : m_frameTexts.title);
+}
+
+PagePrinter::~PagePrinter()
+{
+    for (ReportItem* item : qAsConst(m_items))
+        item->release();
+}
+
+PagePrinter::Outcome PagePrinter::print(const QString& path)
+{
+    m_printer.setOutputFileName(path);
+    m_style.emplace(&m_printer);
+    m_frame.emplace(*m_style, m_printer.paperRect(QPrinter::DevicePixel).size(), m_frameTexts);
+    return layOut() ? printPages() : Stopped;
+}
+
+bool PagePrinter::layOut()
+{
+    const QSizeF body = m_frame->body().size();
+    for (ReportItem* item : qAsConst(m_items)) {
+        item->measure(*m_style, body);
+        if (!m_progress(0, 0))
+            return false;
+    }
+    m_placed = flowOntoPages(m_items, body.height(), &m_pageCount);
+    return m_progress(0, m_pageCount);
+}
+
+PagePrinter::Outcome PagePrinter::printPages()
+{
+    QPainter painter;
+    if (!painter.begin(&m_printer))
+        return Failed;
+    PageCanvas canvas(painter, *m_style);
+    for (int page = 0; page < m_pageCount; ++page) {
+        if (page > 0 && !m_printer.newPage())
+            return Failed;
+        drawPage(canvas, page);
+        if (!m_progress(page + 1, m_pageCount))
+            return Stopped;
+    }
+    return painter.end() ? Printed : Failed;
+}
+
+void PagePrinter::drawPage(PageCanvas& canvas, int page)
+{
+    const QPointF origin = m_frame->body().topLeft();
+    m_frame->drawHeader(canvas, page + 1);
+    for (; m_nextPortion < m_placed.size() && m_placed.at(m_nextPortion).page == page; ++m_nextPortion) {
+        const PlacedPortion& placed = m_placed.at(m_nextPortion);
+        m_items.at(placed.item)->draw(canvas, placed.portion, origin + QPointF(0, placed.top));
+        if (placed.portion.begin == ReportItem::Position())
+            addToOutline(placed);
+    }
+    m_frame->drawFooter(canvas, page + 1, m_pageCount);
+    canvas.flush();
+}
+
+/// A heading stands in the one of a higher level, and a table in the last heading.
+void PagePrinter::addToOutline(const PlacedPortion& placed)
+{
+    const ReportItem& item = *m_items.at(placed.item);
+    const int heading = item.headingLevel();
+    if (heading > 0)
+        m_headingLevel = heading;
+    const QString title = item.outlineTitle();
+    if (title.isEmpty())
+        return;
+    const int level = heading > 0 ? heading - 1 : m_headingLevel;
+    m_outline.append({title, level, placed.page, (m_frame->body().top() + placed.top) / m_style->points(1)});
+}
+
+} // namespace uiutils

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "writers/pages/pageflow_p.h"
+#include "writers/pages/pageframe_p.h"
+#include "writers/pages/pagestyle_p.h"
+#include "writers/pages/titleblock_p.h"
+#include "writers/pdffile/pdfannotation_p.h"
+
+#include <QPrinter>
+
+#include <functional>
+#include <optional>
+
+namespace uiutils {
+
+/// What all pages of a file have in common.
+struct PageSettings
+{
+    TitleBlock::Contents titleBlock;
+    PageFrame::Texts frame;
+    QPageLayout::Orientation orientation = QPageLayout::Portrait;
+};
+
+/// Prints items onto the pages of one PDF file, as the printer device writes it: whether the file is whole is for
+/// others to check.
+class PagePrinter
+{
+public:
+    /// Told how many of the pages are printed; false stops the printer.
+    using Progress = std::function<bool(int page, int pageCount)>;
+
+    /// The items stay the caller's and must outlive the printer.
+    PagePrinter(const PageSettings& settings, const QList<ReportItem*>& items, const Progress& progress);
+    ~PagePrinter();
+    Q_DISABLE_COPY_MOVE(PagePrinter)
+
+    enum Outcome { Printed, Stopped, Failed };
+
+    /// Prints to `path` on disk. `Failed` means that the device could not write.
+    Outcome print(const QString& path);
+
+    /// The headings and tables that were printed.
+    const QVector<pdf::OutlineEntry>& outline() const { return m_outline; }
+
+private:
+    bool layOut();
+    Outcome printPages();
+    void drawPage(PageCanvas& canvas, int page);
+    void addToOutline(const PlacedPortion& placed);
+
+    PageFrame::Texts m_frameTexts;
+    Progress m_progress;
+    QPrinter m_printer;
+    TitleBlock m_titleBlock;
+    QList<ReportItem*> m_items;
+    std::optional<PageStyle> m_style;
+    std::optional<PageFrame> m_frame;
+    QVector<PlacedPortion> m_placed;
+    int m_nextPortion = 0;
+    int m_pageCount = 0;
+    int m_headingLevel = 0;
+    QVector<pdf::OutlineEntry> m_outline;
+};
+
+} // namespace uiutils

@@ -1,0 +1,56 @@
+#include "writers/pages/pagestyle_p.h"
+
+#include "base/paths.h"
+#include "writers/pages/pageimage_p.h"
+#include "writers/pages/statusicons_p.h"
+
+#include <QPaintDevice>
+
+namespace uiutils {
+
+namespace {
+
+constexpr qreal pointsOfAnInch = 72;
+
+PageFont pageFont(qreal size, bool isBold, QPaintDevice* device)
+{
+    QFont font(QStringLiteral("sans-serif"));
+    font.setStyleHint(QFont::SansSerif);
+    font.setPointSizeF(size);
+    font.setBold(isBold);
+    return {font, device};
+}
+
+} // namespace
+
+PageStyle::PageStyle(QPaintDevice* device)
+    : m_unitsOfAPoint(device->logicalDpiY() / pointsOfAnInch)
+    , body(pageFont(9, false, device))
+    , bold(pageFont(9, true, device))
+    , small(pageFont(8, false, device))
+    , headings {pageFont(14, true, device), pageFont(12, true, device), pageFont(10.5, true, device)}
+    , tableTitle(pageFont(9.5, true, device))
+    , documentTitle(pageFont(18, true, device))
+    , cellPadding(points(4))
+    , rowPadding(points(2))
+    , hairline(points(0.5))
+{
+}
+
+const QImage& PageStyle::statusIcon(int status) const
+{
+    static const QImage none;
+    const QLatin1String path = statusIconPath(status);
+    if (path.isEmpty())
+        return none;
+    auto it = m_icons.constFind(status);
+    if (it == m_icons.constEnd()) {
+        it = m_icons.insert(status, decodedImage(readIcon(path)));
+        if (it->isNull())
+            qWarning("The status icon %s is missing or is no image of at most 1 MiB: the report is printed without it.",
+                    qUtf8Printable(onDisk(path)));
+    }
+    return *it;
+}
+
+} // namespace uiutils

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "writers/pages/reporttext.h"
+
+/// The heading of a section. It stands on the page of what follows it.
+class UIUTILS_EXPORT ReportHeader final : public ReportText
+{
+public:
+    /// Levels below 1 and above 3 are taken as 1 and 3.
+    ReportHeader(int level, const QString& text);
+    ~ReportHeader() override;
+
+    void measure(const uiutils::PageStyle& style, const QSizeF& page) override;
+    bool keepsWithNext() const override { return true; }
+    QString outlineTitle() const override { return text(); }
+    int headingLevel() const override { return m_level; }
+
+private:
+    int m_level;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "writers/pages/reportitem.h"
+
+#include <QByteArray>
+
+/// An image of a printed report: a plot. It is shown in its own size unless a page, with the heading
+/// above it, is too small for it.
+class UIUTILS_EXPORT ReportImage : public ReportItem
+{
+public:
+    /// `encoded` is a file's contents in a format that the toolkit reads. `pixelsOfAPoint` tells how fine it is
+    /// printed. What is no image, or one of more than 50 million pixels, takes no room.
+    explicit ReportImage(const QByteArray& encoded, qreal pixelsOfAPoint = 1);
+    ~ReportImage() override;
+
+    QByteArray encoded() const { return m_encoded; }
+
+    void measure(const uiutils::PageStyle& style, const QSizeF& page) override;
+    Position end() const override;
+    Portion split(const Position& begin, qreal room, bool isWholePage) const override;
+    void draw(uiutils::PageCanvas& canvas, const Portion& portion, const QPointF& topLeft) const override;
+    qreal spaceAbove() const override { return m_spaceAbove; }
+
+private:
+    QByteArray m_encoded;
+    /// In points.
+    QSizeF m_naturalSize;
+    QSizeF m_size;
+    qreal m_spaceAbove = 0;
+};

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+#include "writers/pages/reportitem.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+#include <QVector>
+
+/// Prints report items as a PDF file: Letter pages with a title block on the first, a header line on the others and a
+/// footer on all of them, an outline of headings and tables, and title, author, subject and producer.
+///
+/// Set what the pages are to show, then call toPdf() or print(). They need a QGuiApplication.
+class UIUTILS_EXPORT ReportPDF : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Orientation { Portrait, Landscape };
+
+    /// A line of the title block.
+    struct Field
+    {
+        QString label;
+        QString text;
+        /// 16 pass, 32 marginal, 64 fail, anything else no icon.
+        int status = 0;
+    };
+
+    explicit ReportPDF(QObject* parent = nullptr);
+    ~ReportPDF() override;
+
+    /// What the pages show, in that order. The items stay the caller's and must not go while print() runs.
+    void setItems(const QList<ReportItem*>& items) { m_items = items; }
+
+    void setOrientation(Orientation orientation) { m_orientation = orientation; }
+    /// What kind of document this is, beside the logo and in the header; "Solvant Report" by default.
+    void setDocumentTitle(const QString& title) { m_documentTitle = title; }
+    /// The report's own title, in the title block, the header and the file's information; where it is empty, the file
+    /// is titled as the document.
+    void setTitle(const QString& title) { m_title = title; }
+    void setAuthor(const QString& author) { m_author = author; }
+    void setSubject(const QString& subject) { m_subject = subject; }
+    void setProducer(const QString& producer) { m_producer = producer; }
+    /// An instrument path; empty for none. The default is the instrument's logo.
+    void setLogo(const QString& path) { m_logo = path; }
+    /// Stands in the footer; empty leaves it out.
+    void setUnitId(const QString& id) { m_unitId = id; }
+    /// Stands in the middle of the footer.
+    void setTimestamp(const QString& text) { m_timestamp = text; }
+    void setFields(const QVector<Field>& fields) { m_fields = fields; }
+
+    /// Prints into memory and returns the whole file. Nothing when it was cancelled, and then `error` is empty, or when
+    /// a step failed, which `error` names. It does not return to the event loop. While it runs, no other of the program
+    /// prints: items have one layout at a time.
+    QByteArray toPdf(QString* error = nullptr);
+
+    /// Prints to `path`, an instrument path in a folder that exists; the file takes its place when it is whole and on
+    /// the disk. Returns false, with `path` untouched and nothing left beside it, when toPdf() returns nothing and when
+    /// it cannot be written.
+    bool print(const QString& path, QString* error = nullptr);
+
+    /// Whether any of the program is printing, and calls what is connected to progressChanged().
+    static bool isPrinting();
+
+public Q_SLOTS:
+    /// Ends what is being printed, before its next page. To be called by what is connected to progressChanged().
+    void cancel();
+
+Q_SIGNALS:
+    /// So many of the pages are printed. While the items are measured, the count is 0, which means not known yet.
+    void progressChanged(int page, int pageCount);
+
+private:
+    class Job;
+
+    QList<ReportItem*> m_items;
+    Orientation m_orientation = Portrait;
+    QString m_documentTitle;
+    QString m_title;
+    QString m_author;
+    QString m_subject;
+    QString m_producer;
+    QString m_logo;
+    QString m_unitId;
+    QString m_timestamp;
+    QVector<Field> m_fields;
+    bool m_isCancelled = false;
+};

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "writers/pages/reportitem.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <memory>
+
+namespace uiutils {
+class TableLayout;
+}
+
+/// A table of a printed report. Its columns are as wide as their contents ask for; what does not fit is wrapped, and a
+/// table with too many columns goes on below itself with the rest of them. A page that a table is carried over to
+/// repeats its title and column labels. Rows are not torn unless a page is too low for one, with the headings above it.
+class UIUTILS_EXPORT ReportTable final : public ReportItem
+{
+public:
+    /// A label in front of a row is a cell that is set off from the values.
+    enum class CellKind : quint8 { Value, RowLabel };
+
+    struct Cell
+    {
+        QString text;
+        /// 16 pass, 32 marginal, 64 fail, anything else no icon.
+        int status = 0;
+        /// 1 left, 2 right, anything else center.
+        qint8 alignment = 0;
+        CellKind kind = CellKind::Value;
+        /// How many columns the cell covers.
+        quint16 columnSpan = 1;
+    };
+
+    ReportTable(const QString& title, const QStringList& columnLabels, bool hasLabelColumn);
+    ~ReportTable() override;
+
+    QString title() const { return m_title; }
+    /// One text for each value column, empty where the column has no label.
+    QStringList columnLabels() const;
+    bool hasLabelColumn() const { return m_hasLabelColumn; }
+    /// Columns of a row, the label column included.
+    int columnCount() const { return m_valueColumns + (m_hasLabelColumn ? 1 : 0); }
+
+    /// Appends a cell to the last row, which opens with its first cell.
+    void appendCell(const Cell& cell);
+    /// Closes the last row; a row without cells is none.
+    void endRow();
+
+    int rowCount() const;
+    /// The cells of a row; fewer than columnCount() when the row was closed early.
+    QVector<Cell> row(int index) const;
+    /// The cell that begins in that column of a row, or null.
+    const Cell* cellAt(int row, int column) const;
+
+    void measure(const uiutils::PageStyle& style, const QSizeF& page) override;
+    void release() override;
+    Position end() const override;
+    Portion split(const Position& begin, qreal room, bool isWholePage) const override;
+    void draw(uiutils::PageCanvas& canvas, const Portion& portion, const QPointF& topLeft) const override;
+    qreal spaceAbove() const override;
+    QString outlineTitle() const override { return m_title; }
+
+private:
+    struct Label
+    {
+        int column;
+        QString text;
+    };
+
+    bool hasOpenRow() const { return m_cells.size() > (m_rowEnds.isEmpty() ? 0 : m_rowEnds.constLast()); }
+    int rowBegin(int index) const { return index == 0 ? 0 : m_rowEnds.at(index - 1); }
+    int rowEnd(int index) const { return index < m_rowEnds.size() ? m_rowEnds.at(index) : m_cells.size(); }
+
+    QString m_title;
+    int m_valueColumns;
+    // Those that have a text: a table may claim many more columns than it fills.
+    QVector<Label> m_labels;
+    bool m_hasLabelColumn;
+    bool m_hasSpans = false;
+    // One flat list: a vector for each row would cost more than the cells.
+    QVector<Cell> m_cells;
+    QVector<int> m_rowEnds;
+    std::unique_ptr<uiutils::TableLayout> m_layout;
+};
+
+Q_DECLARE_TYPEINFO(ReportTable::Cell, Q_MOVABLE_TYPE);

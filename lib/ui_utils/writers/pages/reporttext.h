@@ -1,0 +1,34 @@
+#pragma once
+
+#include "writers/pages/reportitem.h"
+
+#include <memory>
+
+namespace uiutils {
+class TextBlock;
+}
+
+/// A paragraph of a printed report. It may be parted between lines, but leaves no single line alone on a page.
+class UIUTILS_EXPORT ReportText : public ReportItem
+{
+public:
+    explicit ReportText(const QString& text);
+    ~ReportText() override;
+
+    QString text() const { return m_text; }
+
+    void measure(const uiutils::PageStyle& style, const QSizeF& page) override;
+    void release() override;
+    Position end() const override;
+    Portion split(const Position& begin, qreal room, bool isWholePage) const override;
+    void draw(uiutils::PageCanvas& canvas, const Portion& portion, const QPointF& topLeft) const override;
+    qreal spaceAbove() const override;
+
+protected:
+    /// The text as measure() has laid it out.
+    void setBlock(std::unique_ptr<uiutils::TextBlock> block);
+
+private:
+    QString m_text;
+    std::unique_ptr<uiutils::TextBlock> m_block;
+};

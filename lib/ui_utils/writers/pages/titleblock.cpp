@@ -1,0 +1,127 @@
+#include "writers/pages/titleblock_p.h"
+
+#include "writers/pages/pagecanvas_p.h"
+#include "writers/pages/pagestyle_p.h"
+#include "writers/pages/wrappedtext_p.h"
+
+namespace uiutils {
+
+namespace {
+
+/// In units of the device, which the logo is made for.
+constexpr qreal logoHeight = 32;
+constexpr int columns = 2;
+constexpr int maximumTitleLines = 5;
+constexpr int maximumFieldLines = 8;
+
+} // namespace
+
+TitleBlock::TitleBlock(const Contents& contents)
+    : m_contents(contents)
+{
+}
+
+TitleBlock::~TitleBlock() = default;
+
+qreal TitleBlock::logoWidth() const
+{
+    const QSize size = m_contents.logo.size();
+    return size.isEmpty() ? 0 : qMin(logoHeight * size.width() / size.height(), m_width / 2);
+}
+
+void TitleBlock::measure(const PageStyle& style, const QSizeF& page)
+{
+    const qreal gap = style.points(6);
+    m_width = page.width();
+    const qreal besideLogo = m_width - logoWidth() - (logoWidth() > 0 ? 2 * gap : 0);
+    m_shownDocumentTitle = WrappedText::elided(style.documentTitle, m_contents.documentTitle, besideLogo, 1);
+    m_headHeight = qMax(logoHeight, style.documentTitle.lineHeight()) + gap;
+
+    m_titleTop = m_headHeight + style.points(1.5) + gap;
+    m_shownTitle = WrappedText::elided(style.headings[0], m_contents.title, m_width, maximumTitleLines);
+    m_titleLines = m_shownTitle.isEmpty() ? 0 : WrappedText(style.headings[0], m_shownTitle, m_width).lineCount();
+    m_height = m_titleTop + m_titleLines * style.headings[0].lineHeight();
+    measureFields(style, page.width());
+    m_height += style.points(4);
+}
+
+void TitleBlock::measureFields(const PageStyle& style, qreal pageWidth)
+{
+    const qreal gap = style.points(8);
+    const qreal columnWidth = (pageWidth - gap * (columns - 1)) / columns;
+    m_labelWidth = 0;
+    for (ReportPDF::Field& field : m_contents.fields)
+        m_labelWidth = qMax(m_labelWidth, WrappedText::naturalWidth(style.bold, field.label));
+    m_labelWidth = qMin(m_labelWidth + gap, columnWidth / 2);
+    m_textWidth = columnWidth - m_labelWidth;
+
+    m_places.clear();
+    qreal top = m_height + (m_contents.fields.isEmpty() ? 0 : style.points(4));
+    for (int first = 0; first < m_contents.fields.size(); first += columns) {
+        int lines = 1;
+        const int end = qMin(first + columns, m_contents.fields.size());
+        for (int i = first; i < end; ++i) {
+            ReportPDF::Field& field = m_contents.fields[i];
+            field.label = WrappedText::elided(style.bold, field.label, m_labelWidth, maximumFieldLines);
+            const qreal room = m_textWidth - (style.hasStatusIcon(field.status) ? style.body.lineHeight() + gap : 0);
+            field.text = WrappedText::elided(style.body, field.text, room, maximumFieldLines);
+            lines = qMax(lines,
+                    qMax(WrappedText(style.bold, field.label, m_labelWidth).lineCount(),
+                            WrappedText(style.body, field.text, room).lineCount()));
+            const qreal left = (i - first) * (columnWidth + gap);
+            m_places.append({{left, top}, {left + m_labelWidth, top}, lines});
+        }
+        top += lines * style.body.lineHeight() + style.points(2);
+    }
+    m_height = top;
+}
+
+ReportItem::Portion TitleBlock::split(const Position& begin, qreal room, bool isWholePage) const
+{
+    const bool fits = m_height <= room || isWholePage;
+    return fits ? Portion {begin, end(), m_height} : Portion {begin, begin, 0};
+}
+
+void TitleBlock::draw(PageCanvas& canvas, const Portion&, const QPointF& topLeft) const
+{
+    const PageStyle& style = canvas.style();
+    drawHead(canvas, topLeft);
+    canvas.drawText(style.headings[0], m_shownTitle, topLeft + QPointF(0, m_titleTop), m_width,
+            m_shownTitle.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft, style.ink, 0, m_titleLines);
+    for (int i = 0; i < m_places.size(); ++i)
+        drawField(canvas, i, topLeft);
+    canvas.flush();
+}
+
+void TitleBlock::drawHead(PageCanvas& canvas, const QPointF& topLeft) const
+{
+    const PageStyle& style = canvas.style();
+    if (logoWidth() > 0) {
+        const QSizeF size = QSizeF(m_contents.logo.size()).scaled(logoWidth(), logoHeight, Qt::KeepAspectRatio);
+        canvas.drawImage(m_contents.logo, QRectF(topLeft, size));
+    }
+    const qreal textTop = m_headHeight - style.points(6) - style.documentTitle.lineHeight();
+    canvas.drawText(style.documentTitle, m_shownDocumentTitle, topLeft + QPointF(0, textTop), m_width, Qt::AlignRight,
+            style.accent, 0, 1);
+    canvas.fill(QRectF(topLeft.x(), topLeft.y() + m_headHeight, m_width, style.points(1.5)), style.accent);
+}
+
+void TitleBlock::drawField(PageCanvas& canvas, int index, const QPointF& topLeft) const
+{
+    const PageStyle& style = canvas.style();
+    const ReportPDF::Field& field = m_contents.fields.at(index);
+    const FieldPlace& place = m_places.at(index);
+    canvas.drawText(style.bold, field.label, topLeft + place.label, m_labelWidth, Qt::AlignLeft, style.mutedInk, 0,
+            maximumFieldLines);
+    QPointF at = topLeft + place.text;
+    qreal room = m_textWidth;
+    if (style.hasStatusIcon(field.status)) {
+        const qreal side = style.body.lineHeight();
+        canvas.drawImage(style.statusIcon(field.status), QRectF(at, QSizeF(side, side)));
+        at.rx() += side + style.points(4);
+        room -= side + style.points(8);
+    }
+    canvas.drawText(style.body, field.text, at, room, Qt::AlignLeft, style.ink, 0, maximumFieldLines);
+}
+
+} // namespace uiutils

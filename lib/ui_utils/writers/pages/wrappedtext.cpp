@@ -1,0 +1,224 @@
+#include "writers/pages/wrappedtext_p.h"
+
+#include "base/xmltext_p.h"
+#include "writers/pages/pagecanvas_p.h"
+#include "writers/pages/pagefont_p.h"
+
+#include <algorithm>
+
+namespace uiutils {
+
+namespace {
+
+/// QTextLayout takes some fifty bytes for each character that it lays out at once.
+constexpr int maximumStretch = 8192;
+
+bool isLineEnd(QChar c)
+{
+    return c == QLatin1Char('\n') || c == QLatin1Char('\r') || c == QChar(QChar::LineSeparator)
+            || c == QChar(QChar::ParagraphSeparator);
+}
+
+QString pageText(const QString& text)
+{
+    QString clean = markupText(text);
+    clean.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    clean.replace(QLatin1Char('\t'), QLatin1Char(' '));
+    return clean;
+}
+
+/// Calls visit(begin, length) for what lies between line ends.
+template<typename Visitor> void forEachParagraph(const QString& text, Visitor visit)
+{
+    int begin = 0;
+    for (int end = 0; end <= text.size(); ++end) {
+        if (end < text.size() && !isLineEnd(text.at(end)))
+            continue;
+        visit(begin, end - begin);
+        begin = end + 1;
+    }
+}
+
+/// Where the stretch that begins at `begin` ends: at a blank, if there is one; never between the halves of a character.
+int endOfStretch(const QString& text, int begin, int end)
+{
+    if (end - begin <= maximumStretch)
+        return end;
+    const int limit = begin + maximumStretch;
+    const int blank = int(QStringView(text).mid(begin, maximumStretch).lastIndexOf(QLatin1Char(' ')));
+    if (blank > 0)
+        return begin + blank + 1;
+    return text.at(limit).isLowSurrogate() ? limit - 1 : limit;
+}
+
+QString withEllipsis(QString text)
+{
+    if (!text.isEmpty() && text.at(text.size() - 1).isHighSurrogate())
+        text.chop(1);
+    return text.trimmed() + QChar(0x2026);
+}
+
+bool isBreak(QChar c)
+{
+    return c == QLatin1Char(' ');
+}
+
+/// Of a plain text.
+qreal widestWord(const PageFont& font, QStringView text)
+{
+    qreal widest = 0;
+    qreal width = 0;
+    for (const QChar c : text) {
+        width = isBreak(c) ? 0 : width + font.glyph(c).advance;
+        widest = qMax(widest, width);
+    }
+    return widest;
+}
+
+} // namespace
+
+WrappedText::WrappedText(const PageFont& font, const QString& text, qreal width)
+    : m_font(font)
+    , m_text(pageText(text))
+{
+    forEachParagraph(m_text, [&](int begin, int length) { addParagraph(font, begin, length, width); });
+}
+
+WrappedText::~WrappedText() = default;
+
+void WrappedText::addParagraph(const PageFont& font, int begin, int length, qreal width)
+{
+    const qreal plainWidth = font.plainWidth(QStringView(m_text).mid(begin, length));
+    if (plainWidth < 0) {
+        const int end = begin + length;
+        for (int at = begin; at < end;) {
+            const int stretchEnd = endOfStretch(m_text, at, end);
+            addShaped(font, at, stretchEnd - at, width);
+            at = stretchEnd;
+        }
+    } else if (plainWidth <= width) {
+        m_lines.push_back({begin, length, plainWidth, -1, 0});
+    } else {
+        addPlain(font, begin, length, width);
+    }
+}
+
+/// Fills line after line with as many words as fit.
+void WrappedText::addPlain(const PageFont& font, int begin, int length, qreal width)
+{
+    const int end = begin + length;
+    int lineBegin = begin;
+    while (lineBegin < end) {
+        qreal used = 0;
+        qreal usedUpToBreak = 0;
+        int breakAt = -1;
+        int at = lineBegin;
+        for (; at < end; ++at) {
+            const QChar c = m_text.at(at);
+            const qreal advance = font.glyph(c).advance;
+            if (isBreak(c)) {
+                breakAt = at;
+                usedUpToBreak = used;
+            } else if (used + advance > width && at > lineBegin) {
+                break;
+            }
+            used += advance;
+        }
+        if (at < end && breakAt > lineBegin) {
+            m_lines.push_back({lineBegin, breakAt - lineBegin, usedUpToBreak, -1, 0});
+            lineBegin = breakAt + 1;
+        } else {
+            m_lines.push_back({lineBegin, at - lineBegin, qMin(used, width), -1, 0});
+            lineBegin = at;
+        }
+        while (lineBegin < end && isBreak(m_text.at(lineBegin)))
+            ++lineBegin;
+    }
+}
+
+void WrappedText::addShaped(const PageFont& font, int begin, int length, qreal width)
+{
+    auto layout = std::make_unique<QTextLayout>(m_text.mid(begin, length), font.font());
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setTextDirection(Qt::LayoutDirectionAuto);
+    layout->setTextOption(option);
+    layout->beginLayout();
+    for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0, 0});
+        m_lines.push_back({begin + line.textStart(), line.textLength(), line.naturalTextWidth(), int(m_layouts.size()),
+                line.lineNumber()});
+    }
+    layout->endLayout();
+    m_layouts.push_back(std::move(layout));
+}
+
+qreal WrappedText::width() const
+{
+    qreal width = 0;
+    for (const Line& line : m_lines)
+        width = qMax(width, line.width);
+    return width;
+}
+
+void WrappedText::draw(PageCanvas& canvas, const QPointF& topLeft, qreal boxWidth, Qt::Alignment alignment,
+        const QColor& color, int begin, int end) const
+{
+    qreal baseLine = topLeft.y() + m_font.ascent();
+    for (int i = begin; i < qMin(end, lineCount()); ++i, baseLine += m_font.lineHeight()) {
+        const Line& line = m_lines[size_t(i)];
+        const qreal spare = boxWidth - line.width;
+        qreal x = topLeft.x();
+        if (alignment & Qt::AlignHCenter)
+            x += spare / 2;
+        else if (alignment & Qt::AlignRight)
+            x += spare;
+        if (line.layout < 0) {
+            canvas.drawPlain(m_font, QStringView(m_text).mid(line.begin, line.length), {x, baseLine}, color);
+        } else {
+            const QTextLine shaped = m_layouts[size_t(line.layout)]->lineAt(line.layoutLine);
+            canvas.drawShaped(shaped, {x - shaped.naturalTextRect().x(), baseLine}, color);
+        }
+    }
+}
+
+qreal WrappedText::naturalWidth(const PageFont& font, const QString& text)
+{
+    const qreal width = font.plainWidth(text);
+    return width < 0 ? WrappedText(font, text, anyWidth).width() : width;
+}
+
+qreal WrappedText::minimalWidth(const PageFont& font, const QString& text)
+{
+    if (font.plainWidth(text) >= 0)
+        return widestWord(font, text);
+    const WrappedText whole(font, text, anyWidth);
+    qreal widest = 0;
+    for (const Line& line : whole.m_lines) {
+        if (line.layout < 0)
+            widest = qMax(widest, widestWord(font, QStringView(whole.m_text).mid(line.begin, line.length)));
+    }
+    for (const auto& layout : whole.m_layouts)
+        widest = qMax(widest, layout->minimumWidth());
+    return widest;
+}
+
+QString WrappedText::elided(const PageFont& font, const QString& text, qreal width, int maximumLines)
+{
+    const WrappedText whole(font, text, width);
+    if (whole.lineCount() <= maximumLines)
+        return text;
+    const Line& last = whole.m_lines[size_t(maximumLines - 1)];
+    QString shortened = whole.m_text.left(last.begin + last.length);
+    QString shown = withEllipsis(shortened);
+    // Doubled each time, for a character may be a mark without a width of its own, and so may a thousand of them.
+    const auto overflows = [&] { return WrappedText(font, shown, width).lineCount() > maximumLines; };
+    for (int spare = 1; !shortened.isEmpty() && overflows(); spare *= 2) {
+        shortened.chop(spare);
+        shown = withEllipsis(shortened);
+    }
+    return shown;
+}
+
+} // namespace uiutils

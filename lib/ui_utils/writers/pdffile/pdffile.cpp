@@ -1,0 +1,241 @@
+#include "writers/pdffile/pdffile.h"
+
+#include "base/durablefile.h"
+#include "base/paths.h"
+#include "writers/pdffile/pdfdocument_p.h"
+#include "writers/pdffile/pdfprobe_p.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+
+#include <algorithm>
+#include <cerrno>
+#include <sys/stat.h>
+
+namespace pdf = uiutils::pdf;
+
+namespace {
+
+constexpr qint64 largestFile = qint64(64) * 1024 * 1024;
+/// What a name in a PDF file may have, and what a file name may have.
+constexpr int longestKey = 127;
+constexpr int longestFileName = 255;
+
+void report(QLatin1String failure, const QString& reason)
+{
+    qDebug().noquote() << failure + reason;
+}
+
+QString text(const char* words)
+{
+    return QCoreApplication::translate("PDFFile", words);
+}
+
+bool statusOf(const QString& path, struct stat* status)
+{
+    return !path.contains(QChar(QChar::Null)) && ::stat(QFile::encodeName(path).constData(), status) == 0;
+}
+
+/// Why the file is not to be read; asked before it is opened, for opening a pipe waits and opening a device
+/// may do something.
+QString refusalOf(const QString& path)
+{
+    struct stat status = {};
+    if (path.contains(QChar(QChar::Null)))
+        return text(QT_TRANSLATE_NOOP("PDFFile", "The path holds a NUL character"));
+    if (!statusOf(path, &status))
+        return qt_error_string(errno);
+    if (!S_ISREG(status.st_mode))
+        return text(QT_TRANSLATE_NOOP("PDFFile", "It is not a regular file"));
+    if (status.st_size > largestFile)
+        return text(QT_TRANSLATE_NOOP("PDFFile", "It has more than 64 MiB"));
+    return QString();
+}
+
+/// All that the file holds; nothing and `error` set when it cannot or must not be read, or not in the time.
+QByteArray read(const QString& path, const QDeadlineTimer& deadline, QString* error)
+{
+    constexpr int portion = 1024 * 1024;
+    *error = refusalOf(path);
+    QFile file(path);
+    QByteArray contents;
+    if (!error->isEmpty())
+        return contents;
+    file.open(QIODevice::ReadOnly);
+    while (file.error() == QFileDevice::NoError && !file.atEnd() && contents.size() < largestFile
+            && !deadline.hasExpired())
+        contents += file.read(portion);
+    if (file.error() != QFileDevice::NoError)
+        *error = file.errorString();
+    else if (deadline.hasExpired())
+        *error = text(QT_TRANSLATE_NOOP("PDFFile", "Reading the file takes too long"));
+    return contents;
+}
+
+std::unique_ptr<PoDoFo::PdfMemDocument> loadUntrusted(const QString& path, QString* error)
+{
+    // Reading gets a third of it, so that what is read can be tried out and loaded.
+    const QDeadlineTimer deadline(uiutils::PdfProbe::patience);
+    const QByteArray contents = read(path, QDeadlineTimer(uiutils::PdfProbe::patience / 3), error);
+    // The bytes that were tried out are the bytes that are loaded, whatever becomes of the file.
+    if (!error->isEmpty() || !uiutils::PdfProbe(int(deadline.remainingTime())).passes(contents, error))
+        return nullptr;
+    return pdf::load(contents, error);
+}
+
+bool isSameFile(const QString& path, const QString& other)
+{
+    struct stat one = {};
+    struct stat two = {};
+    if (statusOf(path, &one) && statusOf(other, &two))
+        return one.st_dev == two.st_dev && one.st_ino == two.st_ino;
+    return QDir::cleanPath(path) == QDir::cleanPath(other);
+}
+
+QString temporaryNameFor(const QString& path)
+{
+    QString name = path;
+    if (name.endsWith(QLatin1String(".pdf")))
+        name.chop(4);
+    name += QLatin1String("_tmp.pdf");
+    const bool fits = QFile::encodeName(QFileInfo(name).fileName()).size() <= longestFileName;
+    return fits ? name : QString();
+}
+
+bool isUsableKey(const QString& key)
+{
+    const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
+    return !key.isEmpty() && key.toUtf8().size() <= longestKey && std::none_of(key.begin(), key.end(), isControl);
+}
+
+} // namespace
+
+PDFFile::PDFFile(QObject* parent)
+    : QObject(parent)
+{
+}
+
+PDFFile::~PDFFile() = default;
+
+void PDFFile::setFilename(const QString& path)
+{
+    QString error;
+    m_document.reset();
+    m_document = loadUntrusted(uiutils::onDisk(path), &error);
+    if (!m_document)
+        report(QLatin1String("Unable to write PDF report: "), error);
+    m_filename = path;
+    Q_EMIT filenameChanged();
+}
+
+QString PDFFile::getTitle() const
+{
+    return getMetaData(QStringLiteral("Title"));
+}
+
+QString PDFFile::getAuthor() const
+{
+    return getMetaData(QStringLiteral("Author"));
+}
+
+QString PDFFile::getSubject() const
+{
+    return getMetaData(QStringLiteral("Subject"));
+}
+
+QString PDFFile::getProducer() const
+{
+    return getMetaData(QStringLiteral("Producer"));
+}
+
+QString PDFFile::getCreationDate() const
+{
+    const QDateTime created = pdf::dateTime(getMetaData(QStringLiteral("CreationDate")));
+    return created.isValid() ? QLocale().toString(created.toLocalTime(), QLocale::LongFormat) : QString();
+}
+
+void PDFFile::setTitle(const QString& title)
+{
+    if (change(&PoDoFo::PdfInfo::SetTitle, title, QLatin1String("Unable to set title: ")))
+        Q_EMIT titleChanged();
+}
+
+void PDFFile::setAuthor(const QString& author)
+{
+    if (change(&PoDoFo::PdfInfo::SetAuthor, author, QLatin1String("Unable to set author: ")))
+        Q_EMIT authorChanged();
+}
+
+void PDFFile::setSubject(const QString& subject)
+{
+    if (change(&PoDoFo::PdfInfo::SetSubject, subject, QLatin1String("Unable to set subject: ")))
+        Q_EMIT subjectChanged();
+}
+
+void PDFFile::setProducer(const QString& producer)
+{
+    if (change(&PoDoFo::PdfInfo::SetProducer, producer, QLatin1String("Unable to set producer: ")))
+        Q_EMIT producerChanged();
+}
+
+bool PDFFile::change(InfoSetter setter, const QString& value, QLatin1String failure)
+{
+    if (!m_document)
+        return false;
+    QString error;
+    if (pdf::guarded(&error, [&] { (m_document->GetInfo()->*setter)(pdf::stringOf(value)); }))
+        return true;
+    report(failure, error);
+    return false;
+}
+
+QString PDFFile::getMetaData(const QString& key) const
+{
+    QString value;
+    QString error;
+    if (m_document) {
+        pdf::guarded(&error, [&] {
+            const PoDoFo::PdfName name(key.toStdString());
+            value = pdf::textOf(m_document->GetInfo()->GetObject()->GetIndirectKey(name));
+        });
+    }
+    return value;
+}
+
+void PDFFile::setMetaData(const QString& key, const QString& value)
+{
+    if (!m_document || !isUsableKey(key))
+        return;
+    QString error;
+    const bool set = pdf::guarded(&error, [&] {
+        const PoDoFo::PdfName name(key.toStdString());
+        m_document->GetInfo()->GetObject()->GetDictionary().AddKey(name, pdf::stringOf(value));
+    });
+    if (!set)
+        report(QLatin1String("Unable to set metadata: "), error);
+}
+
+void PDFFile::write(const QString& filename)
+{
+    if (!m_document)
+        return;
+    QString error;
+    if (!writeTo(filename.isEmpty() ? m_filename : filename, &error))
+        report(QLatin1String("Unable to write file: "), error);
+}
+
+bool PDFFile::writeTo(const QString& path, QString* error)
+{
+    // Made in memory: PoDoFo does not notice when a disk is full.
+    const QByteArray contents = pdf::save(*m_document, error);
+    if (contents.isEmpty())
+        return false;
+    const QString target = uiutils::onDisk(path);
+    const bool own = isSameFile(target, uiutils::onDisk(m_filename));
+    return uiutils::writeFileDurably(target, contents, error, own ? temporaryNameFor(target) : QString());
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "service/instrumentinfo_p.h"
+#include "writers/text/textreport.h"
+
+#include <QDate>
+#include <QString>
+
+namespace uiutils {
+
+class NodeReader;
+
+/// What every layout of a report for people shows beside the document, in the same words.
+
+/// Labels and values under a title; no rows where there is nothing to tell.
+struct InformationTable
+{
+    QString title;
+    /// What stands above the values.
+    QString valueLabel;
+    instrument::LabelledTexts rows;
+};
+
+InformationTable jobTable();
+/// Fields that nobody filled in are empty.
+InformationTable customerTable();
+InformationTable technicianTable();
+InformationTable softwareTable();
+/// The settings of the module that the section names, read from its own service or the report's.
+InformationTable configurationTable(const NodeReader& section, const NodeReader& report);
+
+/// How the whole test came out; empty when that is not known.
+QString overallText(ReportStatus status);
+
+/// "Pass", "Marginal" or "Fail" for 16, 32 and 64; else empty.
+QString statusText(int status);
+
+/// "Sat Nov 21 2026".
+QString dateText(const QDate& date);
+
+/// A word or sentence of the reports in the user's language.
+QString word(const char* text);
+
+} // namespace uiutils

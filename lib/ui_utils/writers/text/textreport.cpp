@@ -1,0 +1,314 @@
+#include "writers/text/textreport.h"
+
+#include "base/plaintext_p.h"
+#include "document/documentreader_p.h"
+#include "document/reporttemplate.h"
+#include "service/instrumentinfo_p.h"
+#include "writers/plots/plotdata_p.h"
+#include "writers/text/reportcontent_p.h"
+#include "writers/text/texttable_p.h"
+
+#include <QHash>
+#include <QJsonDocument>
+#include <QLocale>
+
+namespace uiutils {
+
+namespace {
+
+constexpr int narrowest = 20;
+constexpr int widest = 1000;
+
+/// What the document says about a cell's place; a text that names none leaves it open.
+TextTable::Alignment alignmentOf(const QJsonObject& cell)
+{
+    const auto it = cell.constFind(keys::alignAttribute);
+    if (it == cell.constEnd())
+        return TextTable::Automatic;
+    const QString text = textOf(*it);
+    if (text == QLatin1String("0"))
+        return TextTable::Center;
+    if (text == QLatin1String("1"))
+        return TextTable::Left;
+    return text == QLatin1String("2") ? TextTable::Right : TextTable::Automatic;
+}
+
+QString numberText(double value)
+{
+    constexpr int digits = 7;
+    return QLocale().toString(value, 'g', digits);
+}
+
+QString withUnit(const QString& label, const QString& unit)
+{
+    return unit.isEmpty() ? label : QStringLiteral("%1 (%2)").arg(label, unit);
+}
+
+/// What a picture shows at first sight: which curves there are, and from where to where they go.
+TextTable plotTable(const PlotData& data)
+{
+    // More make no picture either.
+    constexpr int mostCurves = 100;
+    enum Columns { Points, Abscissa, Minimum, Maximum };
+    TextTable table({},
+            {word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Points")), withUnit(data.xLabel, data.xUnit),
+                    word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Minimum")),
+                    word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Maximum"))});
+    for (int i = 0; i < qMin(data.curves.size(), mostCurves); ++i) {
+        const PlotCurve& curve = data.curves.at(i);
+        const PlotExtent extent = data.extentOf(curve);
+        table.startRow(withUnit(curve.label, curve.unit));
+        table.addCell(Points, QLocale().toString(curve.size()), 0, TextTable::Right);
+        if (extent.x.isEmpty())
+            continue;
+        const QString range = word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "%1 to %2"));
+        table.addCell(Abscissa, range.arg(numberText(extent.x.low), numberText(extent.x.high)), 0, TextTable::Right);
+        table.addCell(Minimum, numberText(extent.y.low), 0, TextTable::Right);
+        table.addCell(Maximum, numberText(extent.y.high), 0, TextTable::Right);
+    }
+    if (data.curves.size() > mostCurves)
+        table.startRow(word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "%1 more"))
+                               .arg(QLocale().toString(data.curves.size() - mostCurves)));
+    for (const PlotLimit& limit : data.limits) {
+        const bool isLower = limit.kind == PlotLimit::Lower;
+        const QString name = isLower ? word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Lower limit"))
+                                     : word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Upper limit"));
+        table.startRow(withUnit(name, limit.unit));
+        table.addCell(isLower ? Minimum : Maximum, numberText(limit.value), 0, TextTable::Right);
+    }
+    return table;
+}
+
+/// Writes one report.
+class TextReport
+{
+public:
+    TextReport(const QJsonObject& document, const TextLayout& layout)
+        : m_document(document)
+        , m_layout(layout)
+        , m_width(qBound(narrowest, layout.width, widest))
+    {
+    }
+
+    QString text()
+    {
+        writeTitle();
+        writePeople(m_layout.includeJobInfo, m_layout.includeCustomerInfoTop, m_layout.includeTechnicianInfoTop);
+        writeTables(m_document);
+        writeSections(m_document);
+        writeSystem();
+        writePeople(false, m_layout.includeCustomerInfoEnd, m_layout.includeTechnicianInfoEnd);
+        return m_lines.text();
+    }
+
+private:
+    void startBlock()
+    {
+        if (!m_lines.isEmpty())
+            m_lines.endLine();
+    }
+
+    void writeBlock(const TextTable& table)
+    {
+        if (table.isEmpty())
+            return;
+        startBlock();
+        table.write(m_lines, m_width);
+    }
+
+    void writeTitle()
+    {
+        const QString own = m_layout.title.isNull() ? NodeReader(m_document).title() : m_layout.title;
+        const QString plain = plainText(own).trimmed();
+        const QString title = plain.isEmpty() ? word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Report")) : plain;
+        const QLatin1Char letter('=');
+        m_lines.putRule(0, TextLines().putText(title, m_width), letter);
+        m_lines.endLine();
+        writeUnderlined(title, letter);
+
+        TextTable table({}, {QString()});
+        const auto addRow = [&](const QString& label, const QString& text) {
+            table.startRow(label);
+            table.addCell(0, text, 0, TextTable::Left);
+        };
+        const QDateTime& time = m_layout.timestamp;
+        if (time.isValid())
+            addRow(word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Timestamp")),
+                    dateText(time.date()) + QLatin1Char(' ') + time.toString(QStringLiteral("hh:mm:ss")));
+        if (m_layout.status != ReportStatus::Unknown)
+            addRow(word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Overall Status")), overallText(m_layout.status));
+        if (!table.hasRows())
+            return;
+        writeBlock(table);
+    }
+
+    void writeUnderlined(const QString& text, QLatin1Char letter)
+    {
+        const int length = m_lines.putText(text, m_width);
+        m_lines.putRule(0, length, letter);
+        m_lines.endLine();
+    }
+
+    void writeHeading(int level, const QString& title)
+    {
+        const QString plain = plainText(title).trimmed();
+        if (plain.isEmpty())
+            return;
+        startBlock();
+        if (level == 1)
+            m_lines.endLine();
+        const char letters[] = "=-~";
+        writeUnderlined(plain, QLatin1Char(letters[qMin(level, 3) - 1]));
+    }
+
+    void writePeople(bool job, bool customer, bool technician)
+    {
+        if (job)
+            writeInformation(jobTable());
+        if (customer)
+            writeInformation(customerTable());
+        if (technician)
+            writeInformation(technicianTable());
+    }
+
+    void writeInformation(const InformationTable& information)
+    {
+        if (information.rows.isEmpty())
+            return;
+        TextTable table(information.title, {QString()});
+        for (const instrument::LabelledText& row : information.rows) {
+            table.startRow(row.label);
+            table.addCell(0, row.text, 0, TextTable::Left);
+        }
+        writeBlock(table);
+    }
+
+    void writeSystem()
+    {
+        const InformationTable software = m_layout.showSoftwareRevs ? softwareTable() : InformationTable();
+        const QVector<QStringList> assemblies
+                = m_layout.showHardwareRevs ? instrument::hardwareAssemblies() : QVector<QStringList>();
+        if (software.rows.isEmpty() && assemblies.isEmpty())
+            return;
+        writeHeading(1, word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Solvant System Information")));
+        writeInformation(software);
+        writeHardware(assemblies);
+    }
+
+    void writeHardware(const QVector<QStringList>& assemblies)
+    {
+        if (assemblies.isEmpty())
+            return;
+        const QStringList labels {word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Assembly")),
+                word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "ID"))};
+        TextTable table(word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Hardware")), labels);
+        for (const QStringList& parts : assemblies) {
+            table.startRow({});
+            for (int i = 0; i < qMin(parts.size(), labels.size()); ++i)
+                table.addCell(i, parts.at(i), 0, TextTable::Left);
+        }
+        writeBlock(table);
+    }
+
+    void writeSections(const QJsonObject& node)
+    {
+        ++m_depth;
+        NodeReader(node).forEachSection(
+                NodeReader::ByNumber, [this](const QJsonObject& section) { writeSection(section); });
+        --m_depth;
+    }
+
+    void writeSection(const QJsonObject& object)
+    {
+        const NodeReader section(object);
+        if (!section.isEnabled())
+            return;
+        writeHeading(m_depth, section.title());
+        writeLog(section);
+        writeInformation(configurationTable(section, NodeReader(m_document)));
+        writeTables(object);
+        writeSections(object);
+    }
+
+    void writeLog(const NodeReader& section)
+    {
+        constexpr int hanging = 2;
+        bool isFirst = true;
+        const QVector<NodeReader::LogEntry> entries = section.logEntries();
+        for (const NodeReader::LogEntry& entry : entries) {
+            const QString text = plainText(entry.text);
+            if (text.trimmed().isEmpty())
+                continue;
+            if (isFirst)
+                startBlock();
+            isFirst = false;
+            m_lines.putText(text, m_width, 0, hanging);
+        }
+    }
+
+    void writeTables(const QJsonObject& node)
+    {
+        NodeReader(node).forEachTable(NodeReader::ByNumber, [this](const QString&, const QJsonObject& object) {
+            const TableReader table(object);
+            if (table.isPlot())
+                writePlot(table);
+            else
+                writeTable(table);
+        });
+    }
+
+    void writeTable(const TableReader& reader)
+    {
+        const bool hasLabels = reader.usesRowLabels();
+        TextTable table(reader.title(), reader.columnLabels());
+        reader.forEachRow(NodeReader::ByNumber, [&](const QString& key, const QJsonObject& row) {
+            if (!key.startsWith(keys::rowFamily))
+                return;
+            table.startRow(hasLabels ? shownTextOf(row.value(keys::label)) : QString());
+            reader.forEachCellOf(row, [&](int column, const QJsonObject& cell) {
+                table.addCell(column, shownTextOf(cell.value(keys::label)),
+                        textOf(cell.value(keys::statusAttribute)).toInt(), alignmentOf(cell));
+            });
+        });
+        writeBlock(table);
+    }
+
+    void writePlot(const TableReader& reader)
+    {
+        startBlock();
+        const QString own = plainText(reader.title()).trimmed();
+        m_lines.putText(own.isEmpty() ? word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Plot")) : own, m_width);
+        const QString service = reader.text(keys::service);
+        auto known = m_plots.constFind(service);
+        if (known == m_plots.constEnd())
+            known = m_plots.insert(service, plotTable(readPlotData(service)));
+        if (known->hasRows())
+            known->write(m_lines, m_width);
+        m_lines.putText(known->hasRows() ? word(QT_TRANSLATE_NOOP(
+                                "TemplateToHtmlWriter", "The curves are drawn in the HTML and PDF reports."))
+                                         : word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "There are no curves.")),
+                m_width, tableIndentation, tableIndentation);
+    }
+
+    QJsonObject m_document;
+    const TextLayout& m_layout;
+    int m_width;
+    int m_depth = 0;
+    TextLines m_lines;
+    // A service may hold a million points, and many tables may show it.
+    QHash<QString, TextTable> m_plots;
+};
+
+} // namespace
+
+QString reportText(const ReportTemplate& document, const TextLayout& layout)
+{
+    return TextReport(document.object(), layout).text();
+}
+
+QString reportJson(const ReportTemplate& document)
+{
+    return QString::fromUtf8(QJsonDocument(document.object()).toJson());
+}
+
+} // namespace uiutils

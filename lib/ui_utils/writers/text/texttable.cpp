@@ -1,0 +1,406 @@
+#include "writers/text/texttable_p.h"
+
+#include "base/directmarkup_p.h"
+#include "base/plaintext_p.h"
+#include "writers/html/htmlstreamwriter.h"
+#include "writers/text/reportcontent_p.h"
+
+#include <QVarLengthArray>
+
+#include <algorithm>
+
+namespace uiutils {
+
+namespace {
+
+/// Blanks between columns, and between a value and its status.
+constexpr int gap = 2;
+/// A column that would get narrower than this is no longer read with ease.
+constexpr int narrowestColumn = 8;
+constexpr int rowLabelColumn = 0;
+
+bool isDigit(QChar c)
+{
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+}
+
+/// Takes digits with separators among them off the front; a second point makes it no number but a version or an
+/// address.
+bool takeDigits(QStringView& text)
+{
+    int points = 0;
+    int end = 0;
+    while (end < text.size()) {
+        const QChar c = text.at(end);
+        const bool isPoint = c == QLatin1Char('.');
+        const bool isSeparator = isPoint || c == QLatin1Char(',');
+        const bool isInside = end > 0 && end + 1 < text.size() && isDigit(text.at(end + 1));
+        if (!isDigit(c) && !(isSeparator && isInside))
+            break;
+        points += isPoint ? 1 : 0;
+        ++end;
+    }
+    text = text.mid(end);
+    return end > 0 && points < 2;
+}
+
+void takeSign(QStringView& text)
+{
+    constexpr ushort minus = 0x2212;
+    if (!text.isEmpty()
+            && (text.front() == QLatin1Char('-') || text.front() == QLatin1Char('+')
+                    || text.front().unicode() == minus))
+        text = text.mid(1);
+}
+
+/// Whether the text is a number, with a unit or without: "-3", "1,234.5 Mbit/s", "1e-9".
+bool isNumber(QStringView text)
+{
+    constexpr int longest = 40;
+    if (text.size() > longest)
+        return false;
+    takeSign(text);
+    if (!takeDigits(text))
+        return false;
+    QStringView exponent = text.mid(1);
+    if (!text.isEmpty() && text.front().toLower() == QLatin1Char('e')) {
+        takeSign(exponent);
+        if (takeDigits(exponent))
+            text = exponent;
+    }
+    if (!text.isEmpty() && text.front() == QLatin1Char(' '))
+        text = text.mid(1);
+    return std::none_of(text.begin(), text.end(),
+            [](QChar c) { return isDigit(c) || c.isSpace() || c == QLatin1Char(':') || c == QLatin1Char('-'); });
+}
+
+int longestLine(QStringView text)
+{
+    int width = 0;
+    while (!text.isEmpty()) {
+        const auto end = text.indexOf(QLatin1Char('\n'));
+        width = qMax(width, displayWidth(end < 0 ? text : text.left(end)));
+        text = end < 0 ? QStringView() : text.mid(end + 1);
+    }
+    return width;
+}
+
+/// What of a cell is still to be written.
+struct Piece
+{
+    QStringView rest;
+    /// Of the whole; below zero when it is not known or there are several lines.
+    int restWidth;
+    int begin;
+    int width;
+    TextTable::Alignment alignment;
+    const QString* status;
+    int statusBegin;
+};
+using Pieces = QVarLengthArray<Piece, 16>;
+
+int offset(TextTable::Alignment alignment, int space)
+{
+    switch (alignment) {
+    case TextTable::Right:
+        return space;
+    case TextTable::Center:
+        return space / 2;
+    default:
+        return 0;
+    }
+}
+
+void putLine(TextLines& lines, Piece& piece)
+{
+    QStringView line = piece.rest;
+    int width = piece.restWidth;
+    if (width < 0 || width > piece.width) {
+        line = takeLine(piece.rest, piece.width);
+        width = displayWidth(line);
+        piece.restWidth = -1;
+    } else {
+        piece.rest = QStringView();
+    }
+    lines.put(piece.begin + offset(piece.alignment, qMax(0, piece.width - width)), line, width);
+}
+
+void putPieces(TextLines& lines, Pieces& pieces)
+{
+    for (bool isLeft = true; isLeft;) {
+        isLeft = false;
+        for (Piece& piece : pieces) {
+            if (!piece.rest.isEmpty())
+                putLine(lines, piece);
+            if (piece.status)
+                lines.put(piece.statusBegin, *piece.status, displayWidth(*piece.status));
+            piece.status = nullptr;
+            isLeft |= !piece.rest.isEmpty();
+        }
+        lines.endLine();
+    }
+}
+
+} // namespace
+
+void TextLines::put(int column, QStringView piece, int width)
+{
+    if (piece.isEmpty())
+        return;
+    const int blanks = qMax(0, column - m_column);
+    const int end = m_text.size();
+    m_text.resize(end + blanks + int(piece.size()));
+    QChar* const place = m_text.data() + end;
+    std::fill_n(place, blanks, QLatin1Char(' '));
+    std::copy(piece.begin(), piece.end(), place + blanks);
+    m_column += blanks + width;
+}
+
+void TextLines::endLine()
+{
+    m_text += QLatin1Char('\n');
+    m_column = 0;
+}
+
+void TextLines::putRule(int column, int length, QLatin1Char letter)
+{
+    put(column, QString(length, letter), length);
+}
+
+int TextLines::putText(QStringView text, int width, int begin, int hanging)
+{
+    int longest = 0;
+    do {
+        const QStringView line = takeLine(text, qMax(1, width - begin));
+        const int columns = displayWidth(line);
+        put(begin, line, columns);
+        endLine();
+        longest = qMax(longest, columns);
+        begin = hanging;
+    } while (!text.isEmpty());
+    return longest;
+}
+
+void TextLines::expect(qint64 characters)
+{
+    makeRoom(m_text, characters);
+}
+
+TextTable::Alignment TextTable::Column::alignment(Alignment wanted) const
+{
+    if (wanted != Automatic)
+        return wanted;
+    return isNumeric ? Right : Left;
+}
+
+TextTable::Alignment TextTable::Column::headerAlignment() const
+{
+    int asked = alignments & ~(1 << Automatic);
+    if (alignments & (1 << Automatic))
+        asked |= 1 << alignment(Automatic);
+    for (const Alignment all : {Right, Center}) {
+        if (asked == 1 << all)
+            return all;
+    }
+    return Left;
+}
+
+int TextTable::Column::statusPart() const
+{
+    if (statusWidth == 0)
+        return 0;
+    return width > 0 ? gap + statusWidth : statusWidth;
+}
+
+TextTable::TextTable(const QString& title, const QStringList& columnLabels)
+    : m_title(plainText(title).trimmed())
+    , m_columns(columnLabels.size() + 1)
+    , m_statusWords {statusText(HtmlStreamWriter::StatusPass), statusText(HtmlStreamWriter::StatusMarginal),
+              statusText(HtmlStreamWriter::StatusFail)}
+{
+    for (int i = 0; i < columnLabels.size(); ++i) {
+        Column& column = m_columns[i + 1];
+        column.label = plainText(columnLabels.at(i)).trimmed();
+        column.labelWidth = longestLine(column.label);
+        m_hasHeader |= !column.label.isEmpty();
+    }
+}
+
+const QString* TextTable::statusWord(int status) const
+{
+    switch (status) {
+    case HtmlStreamWriter::StatusPass:
+        return &m_statusWords[0];
+    case HtmlStreamWriter::StatusMarginal:
+        return &m_statusWords[1];
+    case HtmlStreamWriter::StatusFail:
+        return &m_statusWords[2];
+    default:
+        return nullptr;
+    }
+}
+
+void TextTable::startRow(const QString& label)
+{
+    m_rowIsOpen = false;
+    append(rowLabelColumn, label, 0, Left);
+}
+
+void TextTable::addCell(int column, const QString& text, int status, Alignment alignment)
+{
+    append(column + 1, text, status, alignment);
+}
+
+void TextTable::append(int index, const QString& text, int status, Alignment alignment)
+{
+    const QString* const word = statusWord(status);
+    const bool isSimple = isSimpleText(text);
+    const QString plain = isSimple ? text : plainText(text);
+    const QStringView shown = QStringView(plain).trimmed();
+    if (shown.isEmpty() && !word)
+        return;
+
+    Column& column = m_columns[index];
+    const bool isLine = isSimple || !shown.contains(QLatin1Char('\n'));
+    const int width = isSimple ? int(shown.size()) : longestLine(shown);
+    column.width = qMax(column.width, width);
+    column.alignments |= shown.isEmpty() ? 0 : 1 << alignment;
+    if (alignment == Automatic && column.isNumeric && !shown.isEmpty())
+        column.isNumeric = isLine && isNumber(shown);
+    if (word)
+        column.statusWidth = qMax(column.statusWidth, displayWidth(*word));
+
+    m_cells.append({m_text.size(), int(shown.size()), isLine ? width : -1, qint16(index), qint8(word ? status : 0),
+            alignment});
+    m_text.append(shown.data(), int(shown.size()));
+    if (m_rowIsOpen)
+        m_rowEnds.last() = m_cells.size();
+    else
+        m_rowEnds.append(m_cells.size());
+    m_rowIsOpen = true;
+}
+
+bool TextTable::isEmpty() const
+{
+    return m_title.isEmpty()
+            && std::none_of(m_columns.cbegin(), m_columns.cend(), [](const Column& column) { return column.isUsed(); });
+}
+
+void TextTable::write(TextLines& lines, int width) const
+{
+    if (!m_title.isEmpty())
+        lines.putText(m_title, width);
+    const QVector<Place> columns = places(width);
+    if (!columns.isEmpty() && m_hasHeader)
+        writeHeader(lines, columns);
+
+    const int lineLength = columns.isEmpty() ? width : columns.constLast().end;
+    lines.expect(qMin(qint64(m_rowEnds.size()) * (lineLength + 1), qint64(m_text.size()) * 2 + 1000));
+    int begin = 0;
+    for (const int end : m_rowEnds) {
+        if (!columns.isEmpty()) {
+            writeRow(lines, columns, begin, end);
+        } else {
+            if (begin > 0)
+                lines.endLine();
+            writeStacked(lines, width, begin, end);
+        }
+        begin = end;
+    }
+}
+
+/// The width that no column may exceed, so that all together fit into what is available for them.
+int TextTable::fitted(int available) const
+{
+    QVector<int> widths;
+    for (const Column& column : m_columns) {
+        if (column.isUsed())
+            widths += column.fullWidth();
+    }
+    std::sort(widths.begin(), widths.end());
+    for (int i = 0; i < widths.size(); ++i) {
+        const int share = available / (widths.size() - i);
+        if (widths.at(i) > share)
+            return share;
+        available -= widths.at(i);
+    }
+    return widths.isEmpty() ? 0 : widths.constLast();
+}
+
+/// Where the columns are written; nothing when they do not fit beside each other.
+QVector<TextTable::Place> TextTable::places(int width) const
+{
+    int available = width - tableIndentation + gap;
+    bool isFull = true;
+    for (const Column& column : m_columns) {
+        if (column.isUsed())
+            available -= gap + column.statusPart();
+    }
+    const int widest = fitted(available);
+    QVector<Place> places(m_columns.size());
+    int begin = tableIndentation;
+    for (int i = 0; i < m_columns.size(); ++i) {
+        const Column& column = m_columns.at(i);
+        Place& place = places[i];
+        place.begin = begin;
+        place.width = qMin(column.fullWidth(), widest);
+        isFull &= place.width == column.fullWidth();
+        place.end = begin + place.width + column.statusPart();
+        place.statusBegin = place.end - column.statusWidth;
+        if (column.isUsed())
+            begin = place.end + gap;
+    }
+    return isFull || widest >= narrowestColumn ? places : QVector<Place>();
+}
+
+void TextTable::writeHeader(TextLines& lines, const QVector<Place>& places) const
+{
+    Pieces labels;
+    for (int i = 0; i < places.size(); ++i) {
+        const Column& column = m_columns.at(i);
+        const Place& place = places.at(i);
+        // A label that is longer than the cells may stand above their statuses too.
+        const bool isWide = column.labelWidth > place.width;
+        if (column.labelWidth > 0)
+            labels.append({column.label, -1, place.begin, isWide ? place.end - place.begin : place.width,
+                    isWide ? Left : column.headerAlignment(), nullptr, 0});
+    }
+    putPieces(lines, labels);
+    for (const Place& place : places)
+        lines.putRule(place.begin, place.end - place.begin, QLatin1Char('-'));
+    lines.endLine();
+}
+
+void TextTable::writeRow(TextLines& lines, const QVector<Place>& places, int begin, int end) const
+{
+    Pieces pieces;
+    for (int i = begin; i < end; ++i) {
+        const Cell& cell = m_cells.at(i);
+        const Place& place = places.at(cell.column);
+        pieces.append({textOf(cell), cell.width, place.begin, place.width,
+                m_columns.at(cell.column).alignment(cell.alignment), statusWord(cell.status), place.statusBegin});
+    }
+    putPieces(lines, pieces);
+}
+
+/// The row's label, and below it a line for each cell.
+void TextTable::writeStacked(TextLines& lines, int width, int begin, int end) const
+{
+    int margin = tableIndentation;
+    for (int i = begin; i < end; ++i) {
+        const Cell& cell = m_cells.at(i);
+        if (cell.column == rowLabelColumn) {
+            lines.putText(textOf(cell), width, tableIndentation, tableIndentation);
+            margin = 2 * tableIndentation;
+            continue;
+        }
+        QString text = m_columns.at(cell.column).label;
+        text += text.isEmpty() ? QString() : QStringLiteral(": ");
+        text.append(textOf(cell).data(), cell.size);
+        if (const QString* const word = statusWord(cell.status))
+            text += (cell.size > 0 ? QString(gap, QLatin1Char(' ')) : QString()) + *word;
+        lines.putText(text, width, margin, margin + tableIndentation);
+    }
+}
+
+} // namespace uiutils
