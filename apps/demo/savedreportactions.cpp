@@ -1,10 +1,10 @@
 #include "savedreportactions.h"
 
 #include "base/paths.h"
-#include "report/drivefile_p.h"
+#include "report/saving/drivefile_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportlisting_p.h"
-#include "report/reportrecord_p.h"
+#include "report/saving/reportrecord_p.h"
 
 #include <kiv/kivnotification.h>
 

@@ -2,7 +2,7 @@
 
 #include <QtTest>
 
-#include "report/nosynclist_p.h"
+#include "report/saving/nosynclist_p.h"
 
 #include <algorithm>
 #include <cstdio>

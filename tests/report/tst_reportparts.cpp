@@ -3,12 +3,12 @@
 
 #include <QtTest>
 
-#include "report/gzip_p.h"
+#include "report/saving/gzip_p.h"
 #include "report/jobreport_p.h"
 #include "report/nsreport.h"
-#include "report/reportfilewriter_p.h"
+#include "report/saving/reportfilewriter_p.h"
 #include "report/reportlisting_p.h"
-#include "report/savednotice_p.h"
+#include "report/saving/savednotice_p.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>

@@ -1,7 +1,7 @@
 #include "reportfixture.h"
 
 #include "document/reportmetadata.h"
-#include "report/reportrecord_p.h"
+#include "report/saving/reportrecord_p.h"
 
 #include <ctime>
 #include <sys/syscall.h>

@@ -1,7 +1,7 @@
 #include "report/jobreport_p.h"
 
-#include "core/itemids.h"
 #include "base/paths.h"
+#include "core/itemids.h"
 #include "report/reportdestinations_p.h"
 
 #include <kiv/kivclientinterface.h>

@@ -5,26 +5,23 @@
 #include "local/uidata.h"
 
 #include <QList>
-#include <QMap>
 #include <QObject>
-#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <QVariantMap>
 
-#include <initializer_list>
 #include <memory>
-#include <optional>
 
-class KIVClientInterface;
 class KIVNotification;
 class ReportItem;
 class ReportMetadata;
 class TemplateToHtmlWriter;
 
 namespace uiutils {
-class ReportState;
-}
+class ReportHooks;
+class ReportPrivate;
+} // namespace uiutils
 
 /// Makes reports of what a page has measured: holds the document and the user's settings, decides name, format and
 /// folder, asks before it overwrites, writes, and tells the user.
@@ -104,7 +101,7 @@ public:
 
     QString getTemplatePath() const;
     void setTemplatePath(const QString& path);
-    QString getBaseDirectory() const { return m_baseDirectory; }
+    QString getBaseDirectory() const;
     void setBaseDirectory(const QString& directory);
     QString getTag() const;
     void setTag(const QString& tag);
@@ -116,30 +113,30 @@ public:
     void setCanWriteToFile(bool allowed);
     QString getSaveLocation();
     QVariantList getReportFiles();
-    QString getLastSavedXML() const { return m_lastSavedXml; }
+    QString getLastSavedXML() const;
     QString getOrientation() const;
     void setOrientation(const QString& orientation);
     QString getTitle() const;
     void setTitle(const QString& title);
     QString getSubject() const;
     void setSubject(const QString& subject);
-    bool getIncludeJobInfo() const { return m_includeJobInfo; }
+    bool getIncludeJobInfo() const;
     void setIncludeJobInfo(bool include);
-    bool getIncludeCustomerInfo() const { return m_includeCustomerInfo; }
-    void setIncludeCustomerInfo(bool include) { m_includeCustomerInfo = include; }
-    bool getShowHardwareRevs() const { return m_showHardwareRevs; }
+    bool getIncludeCustomerInfo() const;
+    void setIncludeCustomerInfo(bool include);
+    bool getShowHardwareRevs() const;
     void setShowHardwareRevs(bool show);
-    bool getShowSoftwareRevs() const { return m_showSoftwareRevs; }
+    bool getShowSoftwareRevs() const;
     void setShowSoftwareRevs(bool show);
     QString getJobSummary() const;
-    QString getJobSchema() const { return m_jobSchema; }
+    QString getJobSchema() const;
     void setJobSchema(const QString& schema);
     QVariantMap getSettings() const;
-    QVariantMap getJobSettings() const { return {}; }
-    bool hasJobSettings() const { return false; }
-    bool getNotifiesTray() const { return m_notifiesTray; }
-    void setNotifiesTray(bool notifies) { m_notifiesTray = notifies; }
-    QStringList getScreenshotList() const { return m_screenshots; }
+    QVariantMap getJobSettings() const;
+    bool hasJobSettings() const;
+    bool getNotifiesTray() const;
+    void setNotifiesTray(bool notifies);
+    QStringList getScreenshotList() const;
     void setScreenshotList(const QStringList& screenshots);
     bool isSaving() const;
     double getProgress() const;
@@ -148,15 +145,15 @@ public:
     /// the page can show the progress and call cancel(). It has to keep users from everything else for as long as
     /// `saving` is true, as SaveProgress of UiUtils.Controls does, and must not go itself. False at first. For derived
     /// controllers, whose pages are made for it.
-    bool isInteractive() const { return m_isInteractive; }
-    void setInteractive(bool interactive) { m_isInteractive = interactive; }
+    bool isInteractive() const;
+    void setInteractive(bool interactive);
 
-    QString getTestTime() const { return m_testTime; }
-    QString getTestDuration() const { return m_testDuration; }
+    QString getTestTime() const;
+    QString getTestDuration() const;
 
     /// Whether reports are saved as gzip files, with ".gz" behind their suffix; false at first.
-    bool isCompressionEnabled() const { return m_isCompressionEnabled; }
-    void setCompressionEnabled(bool enabled) { m_isCompressionEnabled = enabled; }
+    bool isCompressionEnabled() const;
+    void setCompressionEnabled(bool enabled);
 
     /// Replaces the file by its compressed form with ".gz" behind its name, or back. False with a line in the log when
     /// gzip fails.
@@ -172,8 +169,8 @@ public:
     QString getSuffixForReport() const;
 
     /// What derived controllers build the content in.
-    ReportTemplate& document() { return m_document; }
-    const ReportTemplate& document() const { return m_document; }
+    ReportTemplate& document();
+    const ReportTemplate& document() const;
 
     // --- The order of these is part of the binary interface. ---
 
@@ -185,8 +182,8 @@ public:
     /// still open is taken back. False without more from a slot of what a save of the same controller emits before
     /// reportGenerated().
     Q_INVOKABLE virtual bool save(bool overwrite = false);
-    Q_INVOKABLE void setTestTime(const QString& testTime) { m_testTime = testTime; }
-    Q_INVOKABLE void setTestDuration(const QString& testDuration) { m_testDuration = testDuration; }
+    Q_INVOKABLE void setTestTime(const QString& testTime);
+    Q_INVOKABLE void setTestDuration(const QString& testDuration);
     Q_INVOKABLE bool isPDF() const;
     Q_INVOKABLE bool isXml() const;
     Q_INVOKABLE bool isHtml() const;
@@ -295,12 +292,12 @@ protected:
     void saveSettings();
     /// The files that this object has saved, as the user wanted them synced or not: each path once, where it was saved
     /// last.
-    QStringList syncedReports() const { return m_syncedReports; }
-    QStringList unsyncedReports() const { return m_unsyncedReports; }
+    QStringList syncedReports() const;
+    QStringList unsyncedReports() const;
     /// The pages as the library prints them; empty when that fails.
     QByteArray generateDefaultPDFReport();
     /// Sets a switch of the HTML writer and of the pages for all saves to come; it wins over those of this object.
-    void setWriterAttribute(const QString& name, const QVariant& value) { m_writerAttributes.insert(name, value); }
+    void setWriterAttribute(const QString& name, const QVariant& value);
     /// Hands the switches of this object on to a writer, and those of setWriterAttribute().
     void setHtmlWriterAttributes(TemplateToHtmlWriter& writer) const;
     /// True when the report may be written; otherwise the user is being asked.
@@ -345,64 +342,8 @@ public Q_SLOTS:
     void overwriteRejected(KIVNotification* notification);
 
 private:
-    class Save;
+    friend class uiutils::ReportHooks;
+    friend class uiutils::ReportPrivate;
 
-    void watchServices();
-    void watchItems();
-    void createSettings();
-    bool loadSettingsOfNewFolder();
-    bool tellFolder();
-    bool tellLocation();
-    bool readTemplate(const QString& path);
-    QString ownOrTemplate(const QString& own, const char* key) const;
-    template<typename Writer> void handOnSwitches(Writer& writer) const;
-
-    /// Emits notifiers without arguments in their order. False when a slot has deleted the controller.
-    bool emitEach(std::initializer_list<void (Report::*)()> notifiers);
-    QString chosenName();
-    bool mayWrite(const QStringList& paths, bool overwrite);
-    void ask(const QString& taken, const QStringList& paths);
-    QStringList targets(const QString& name, const QStringList& suffixes);
-    bool writeGenerated(const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite);
-    bool writeContents(const QString& path, const QByteArray& contents, bool overwrite);
-    bool copyToUsb(const QString& saved, bool overwrite);
-    void recordSync(const QStringList& paths, bool isSynced);
-    void noteSaved(const QStringList& files, bool isSynced);
-    void tellSyncError(const QString& consequence, const QString& reason);
-    /// How much of the format that is being written is done. False when it is to be given up.
-    bool goesOn(double share);
-    bool tellProgress(bool hasChanged);
-
-    ReportTemplate m_document;
-    QMap<QString, UiData*> m_settings;
-    std::unique_ptr<uiutils::ReportState> m_state;
-    QPointer<KIVClientInterface> m_workflowClient;
-    QString m_templatePath;
-    QString m_baseDirectory;
-    QString m_tag;
-    QString m_folder;
-    QString m_title;
-    QString m_subject;
-    QString m_orientation;
-    std::optional<bool> m_canWriteToJobManager;
-    std::optional<bool> m_canWriteToFile;
-    bool m_includeJobInfo = false;
-    bool m_includeCustomerInfo = false;
-    bool m_showHardwareRevs = true;
-    bool m_showSoftwareRevs = true;
-    bool m_isCompressionEnabled = false;
-    bool m_notifiesTray = true;
-    bool m_isSaving = false;
-    bool m_isInteractive = false;
-    QString m_testTime;
-    QString m_testDuration;
-    QString m_cdmTestType;
-    QString m_cdmTestLabel;
-    QString m_jobSchema;
-    QString m_lastSavedXml;
-    QString m_lastPdf;
-    QStringList m_screenshots;
-    QVariantMap m_writerAttributes;
-    QStringList m_syncedReports;
-    QStringList m_unsyncedReports;
+    const std::unique_ptr<uiutils::ReportPrivate> d;
 };

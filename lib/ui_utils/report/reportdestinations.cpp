@@ -1,7 +1,7 @@
 #include "report/reportdestinations_p.h"
 
-#include "core/itemids.h"
 #include "base/paths.h"
+#include "core/itemids.h"
 
 #include <kiv/filesystemusage.h>
 #include <kiv/kivclientinterface.h>

@@ -1,28 +1,40 @@
 #include "report/reportformats_p.h"
 
 #include "local/uidata.h"
-#include "report/report.h"
 
 #include <QCoreApplication>
 
 namespace uiutils {
 
+namespace {
+
+/// In the order of their values.
+ReportFormats applicableFormats(const UiData& item)
+{
+    const UiDataEnums* choices = item.getUiEnumList();
+    const QList<UiEnumType*> choiceList = choices ? choices->getEnumList() : QList<UiEnumType*>();
+    ReportFormats formats;
+    for (const ReportFormat& candidate : allReportFormats()) {
+        for (const UiEnumType* choice : choiceList) {
+            if (!candidate.suffix.isEmpty() && choice->getValue() == candidate.value && choice->isApplicable())
+                formats.append(&candidate);
+        }
+    }
+    return formats;
+}
+
+} // namespace
+
 const QList<ReportFormat>& allReportFormats()
 {
     using namespace NSReport;
     static const QList<ReportFormat> formats {
-            {REPORT_FORMAT_PDF, QT_TRANSLATE_NOOP("Report", "PDF"), "REPORT_FORMAT_PDF", pdfSuffix,
-                    &Report::writePDFReport, true},
-            {REPORT_FORMAT_XML, QT_TRANSLATE_NOOP("Report", "XML"), "REPORT_FORMAT_XML", xmlSuffix,
-                    &Report::writeXmlReport, true},
-            {REPORT_FORMAT_HTML, QT_TRANSLATE_NOOP("Report", "HTML"), "REPORT_FORMAT_HTML", htmlSuffix,
-                    &Report::writeHtmlReport, false},
-            {REPORT_FORMAT_TEXT, QT_TRANSLATE_NOOP("Report", "TEXT"), "REPORT_FORMAT_TEXT", textSuffix,
-                    &Report::writeTxtReport, false},
-            {REPORT_FORMAT_JSON, QT_TRANSLATE_NOOP("Report", "JSON"), "REPORT_FORMAT_JSON", jsonSuffix,
-                    &Report::writeJsonReport, false},
-            {REPORT_FORMAT_ALL, QT_TRANSLATE_NOOP("Report", "ALL"), "REPORT_FORMAT_ALL", QLatin1String(), nullptr,
-                    false},
+            {REPORT_FORMAT_PDF, QT_TRANSLATE_NOOP("Report", "PDF"), "REPORT_FORMAT_PDF", pdfSuffix, true},
+            {REPORT_FORMAT_XML, QT_TRANSLATE_NOOP("Report", "XML"), "REPORT_FORMAT_XML", xmlSuffix, true},
+            {REPORT_FORMAT_HTML, QT_TRANSLATE_NOOP("Report", "HTML"), "REPORT_FORMAT_HTML", htmlSuffix, false},
+            {REPORT_FORMAT_TEXT, QT_TRANSLATE_NOOP("Report", "TEXT"), "REPORT_FORMAT_TEXT", textSuffix, false},
+            {REPORT_FORMAT_JSON, QT_TRANSLATE_NOOP("Report", "JSON"), "REPORT_FORMAT_JSON", jsonSuffix, false},
+            {REPORT_FORMAT_ALL, QT_TRANSLATE_NOOP("Report", "ALL"), "REPORT_FORMAT_ALL", QLatin1String(), false},
     };
     return formats;
 }
@@ -36,22 +48,27 @@ const ReportFormat* reportFormat(int value)
     return nullptr;
 }
 
-ReportFormats formatsToWrite(int format, const UiData* item)
+int formatNumber(const UiData* item)
 {
-    if (const ReportFormat* chosen = reportFormat(format); chosen && chosen->writer)
-        return {chosen};
-    ReportFormats formats;
-    const UiDataEnums* choices = item ? item->getUiEnumList() : nullptr;
-    if (format != NSReport::REPORT_FORMAT_ALL || !choices)
-        return formats;
-    const QList<UiEnumType*> choiceList = choices->getEnumList();
-    for (const ReportFormat& candidate : allReportFormats()) {
-        for (const UiEnumType* choice : choiceList) {
-            if (candidate.writer && choice->getValue() == candidate.value && choice->isApplicable())
-                formats.append(&candidate);
-        }
-    }
-    return formats;
+    bool isNumber = false;
+    const int number = item ? item->getValue().toInt(&isNumber) : -1;
+    return isNumber ? number : -1;
+}
+
+FormatChoice formatChoice(const UiData* item)
+{
+    FormatChoice choice;
+    if (!item)
+        return choice;
+    choice.given = item->getValue().toString();
+    const ReportFormat* format = reportFormat(formatNumber(item));
+    choice.isFormat = format;
+    choice.isAll = format && format->value == NSReport::REPORT_FORMAT_ALL;
+    if (choice.isAll)
+        choice.formats = applicableFormats(*item);
+    else if (format)
+        choice.formats = {format};
+    return choice;
 }
 
 void addFormatChoices(UiData& item)

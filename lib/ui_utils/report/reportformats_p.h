@@ -6,7 +6,6 @@
 #include <QList>
 #include <QString>
 
-class Report;
 class UiData;
 
 /// The formats of a report: one table that every question about them is answered from.
@@ -25,9 +24,8 @@ struct ReportFormat
     /// In English.
     const char* label;
     const char* name;
-    /// Empty for ALL, and so is the writer.
+    /// Empty for ALL, which no file is in.
     QLatin1String suffix;
-    bool (Report::*writer)(const QString& path, bool overwrite);
     /// Whether every controller offers it.
     bool isAlwaysOffered;
 };
@@ -40,9 +38,23 @@ const ReportFormat* reportFormat(int value);
 
 using ReportFormats = QList<const ReportFormat*>;
 
-/// What is written for the value `format`: itself, or for ALL those that `item` says are applicable; none for any other
-/// value.
-ReportFormats formatsToWrite(int format, const UiData* item);
+/// What the setting of the format says.
+struct FormatChoice
+{
+    /// As a text.
+    QString given;
+    /// Whether that is a format, ALL included.
+    bool isFormat = false;
+    bool isAll = false;
+    /// What is written: the format itself, or for ALL those that the setting says are applicable; none for anything
+    /// else.
+    ReportFormats formats;
+};
+
+/// The value as a number; -1 without an item and for what is none.
+int formatNumber(const UiData* item);
+
+FormatChoice formatChoice(const UiData* item);
 
 /// Fills an item with the choices.
 void addFormatChoices(UiData& item);

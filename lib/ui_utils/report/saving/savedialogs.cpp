@@ -1,7 +1,6 @@
-#include "report/reportstate_p.h"
+#include "report/saving/savedialogs_p.h"
 
-#include <kiv/kivnotification.h>
-
+#include <QCoreApplication>
 #include <QPointer>
 #include <QtDebug>
 
@@ -9,22 +8,18 @@
 
 namespace uiutils {
 
-void ReportState::beginSave()
+void SaveDialogs::beginSave()
 {
-    endSave();
     m_isFirstError = true;
     m_isSyncErrorTold = false;
 }
 
-void ReportState::endSave()
+void SaveDialogs::endSave()
 {
     m_isFirstError.reset();
-    fixedDestinations.reset();
-    checkedPaths.clear();
-    strays.clear();
 }
 
-void ReportState::tellWriteError(const QString& path, const QString& reason)
+void SaveDialogs::tellWriteError(const QString& path, const QString& reason)
 {
     qDebug("The report %s was not written: %s", qUtf8Printable(path), qUtf8Printable(reason));
     const bool isToldAlready = m_isFirstError && !*m_isFirstError;
@@ -34,7 +29,7 @@ void ReportState::tellWriteError(const QString& path, const QString& reason)
         m_errors->sendNotificationWriteError(path);
 }
 
-void ReportState::tell(const QString& title, const QString& text)
+void SaveDialogs::tell(const QString& title, const QString& text)
 {
     auto refusal = std::make_unique<KIVNotification>();
     refusal->setLongLabel(title);
@@ -50,24 +45,18 @@ void ReportState::tell(const QString& title, const QString& text)
         told->notifyTray();
 }
 
-void ReportState::tellSyncError(const QString& title, const QString& text)
+void SaveDialogs::tellSyncError(const QString& consequence, const QString& reason)
 {
+    qWarning("%s", qUtf8Printable(reason));
     const bool isSave = m_isFirstError.has_value();
     if (!isSave || !std::exchange(m_isSyncErrorTold, true))
-        tell(title, text);
+        tell(QCoreApplication::translate("Report", "Sync"), consequence + QLatin1Char(' ') + reason);
 }
 
-void ReportState::closeDialogs()
+void SaveDialogs::close()
 {
-    gate.withdraw();
     m_refusal.reset();
     m_errors = std::make_unique<FileUtils>();
-}
-
-void ReportState::takeUpAgreement(const QString& path)
-{
-    if (agreed && agreed->paths.contains(path))
-        agreed.reset();
 }
 
 } // namespace uiutils

@@ -1,4 +1,4 @@
-#include "report/saveprogress_p.h"
+#include "report/saving/saveprogress_p.h"
 
 namespace uiutils {
 

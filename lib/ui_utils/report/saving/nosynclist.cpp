@@ -1,4 +1,4 @@
-#include "report/nosynclist_p.h"
+#include "report/saving/nosynclist_p.h"
 
 #include "base/durablefile.h"
 #include "base/folderlock_p.h"

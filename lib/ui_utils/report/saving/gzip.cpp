@@ -1,4 +1,4 @@
-#include "report/gzip_p.h"
+#include "report/saving/gzip_p.h"
 
 #include "base/paths.h"
 

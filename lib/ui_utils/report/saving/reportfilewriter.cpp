@@ -1,12 +1,12 @@
-#include "report/reportfilewriter_p.h"
+#include "report/saving/reportfilewriter_p.h"
 
 #include "base/paths.h"
 #include "base/temporaries_p.h"
 #include "base/temporaryfolder_p.h"
-#include "report/drivefile_p.h"
-#include "report/gzip_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
+#include "report/saving/drivefile_p.h"
+#include "report/saving/gzip_p.h"
 
 #include <QCoreApplication>
 #include <QFile>

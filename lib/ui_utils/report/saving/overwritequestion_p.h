@@ -3,25 +3,19 @@
 #include "files/fileutils.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <memory>
 
 namespace uiutils {
 
-/// Lets a report be written, or has the user asked whether it may take another's place.
-///
-/// There is at most one question: asking again takes the one before back, and an answer counts once.
-class OverwriteGate
+/// The question whether a report may take another's place. There is at most one: asking again takes the one before
+/// back, and an answer counts once.
+class OverwriteQuestion
 {
 public:
-    OverwriteGate() = default;
-    ~OverwriteGate() = default;
-    Q_DISABLE_COPY_MOVE(OverwriteGate)
-
-    /// The first of the instrument paths at which something lies; with `compressed` behind it ".gz" counts, too. Empty
-    /// when all are free.
-    static QString firstTaken(const QStringList& paths, bool compressed);
+    OverwriteQuestion() = default;
+    ~OverwriteQuestion() = default;
+    Q_DISABLE_COPY_MOVE(OverwriteQuestion)
 
     /// Asks for the report at `path`, which is pending until the answer.
     void ask(const QString& path);

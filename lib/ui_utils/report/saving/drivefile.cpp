@@ -1,4 +1,4 @@
-#include "report/drivefile_p.h"
+#include "report/saving/drivefile_p.h"
 
 #include "base/durablefile.h"
 #include "base/paths.h"

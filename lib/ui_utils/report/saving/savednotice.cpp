@@ -1,4 +1,4 @@
-#include "report/savednotice_p.h"
+#include "report/saving/savednotice_p.h"
 
 #include "base/paths.h"
 #include "report/reportdestinations_p.h"

@@ -1,7 +1,7 @@
-#include "report/reportrecord_p.h"
+#include "report/saving/reportrecord_p.h"
 
-#include "core/itemids.h"
 #include "base/paths.h"
+#include "core/itemids.h"
 #include "document/reportmetadata.h"
 #include "report/reportdestinations_p.h"
 

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "document/reportmetadata.h"
+#include "document/reporttemplate.h"
+#include "report/report.h"
+#include "report/reportlisting_p.h"
+#include "report/reportsettingsstore_p.h"
+#include "report/saving/saving_p.h"
+
+#include <QLatin1String>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include <initializer_list>
+#include <memory>
+#include <optional>
+
+class KIVClientInterface;
+
+namespace uiutils {
+
+/// Names of the settings that the controller itself reads.
+inline const QLatin1String nameSetting("reportName");
+inline const QLatin1String formatSetting("reportFormat");
+inline const QLatin1String syncSetting("reportSync_SS");
+inline const QLatin1String jobInfoSetting("includeJobInfo");
+
+/// Takes the value; false when it was held already.
+template<typename Value> bool changes(Value& held, const Value& value)
+{
+    if (held == value)
+        return false;
+    held = value;
+    return true;
+}
+
+/// What a report controller holds.
+class ReportPrivate
+{
+public:
+    explicit ReportPrivate(Report* report);
+
+    ReportTemplate document;
+    ReportMetadata metadata;
+    ReportSettings settings;
+    /// Where the values of the settings come from. Shared with the loading that runs, which may outlive this.
+    std::shared_ptr<SettingOrigins> settingOrigins = std::make_shared<SettingOrigins>();
+    /// The settings file that was loaded last; null before.
+    QString settingsPath;
+    ReportListing listing;
+    std::shared_ptr<Saving> saving;
+    QPointer<KIVClientInterface> workflowClient;
+
+    QString templatePath;
+    QString baseDirectory;
+    QString tag;
+    QString folder;
+    QString title;
+    QString subject;
+    QString orientation;
+    std::optional<bool> canWriteToJobManager;
+    std::optional<bool> canWriteToFile;
+    bool includeJobInfo = false;
+    bool includeCustomerInfo = false;
+    bool showHardwareRevs = true;
+    bool showSoftwareRevs = true;
+    bool isCompressionEnabled = false;
+    bool notifiesTray = true;
+    bool isInteractive = false;
+    QString testTime;
+    QString testDuration;
+    QString cdmTestType;
+    QString cdmTestLabel;
+    QString jobSchema;
+    QString lastSavedXml;
+    QString lastPdf;
+    QStringList screenshots;
+    QVariantMap writerAttributes;
+    QStringList syncedReports;
+    QStringList unsyncedReports;
+
+    // --- Telling. Each is false when a slot has deleted the controller. ---
+    bool tellFolder();
+    /// Reports are listed where the next one goes.
+    bool tellLocation();
+    bool emitEach(std::initializer_list<void (Report::*)()> notifiers);
+
+    // --- Services and settings ---
+    void watchServices();
+    void watchItems();
+    void createSettings();
+    /// The first are loaded when the page has had its time to set the folder.
+    bool loadSettingsOfNewFolder();
+
+    // --- The document ---
+    bool readTemplate(const QString& path);
+    QString ownOrTemplate(const QString& own, const char* key) const;
+    /// Hands the switches on to a writer of HTML or of pages.
+    template<typename Writer> void handOnSwitches(Writer& writer) const;
+
+    // --- Saving ---
+    QString chosenName();
+    bool writeGenerated(const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite);
+    /// Each path is in one of the lists of saved files, once.
+    void noteSaved(const QStringList& files, bool isSynced);
+
+private:
+    Report* const q;
+};
+
+} // namespace uiutils

@@ -1,0 +1,166 @@
+#include "report/report_p.h"
+
+#include "base/paths.h"
+#include "core/itemids.h"
+#include "report/jobreport_p.h"
+#include "report/reporthooks_p.h"
+#include "report/reportnaming_p.h"
+
+#include <kiv/kivclientinterface.h>
+#include <kiv/kivclientitem.h>
+
+namespace uiutils {
+
+namespace {
+
+QMap<QString, QVariant> attributesOf(const QString& name, const QString& type, const QString& label)
+{
+    return {{QStringLiteral("name"), name}, {QStringLiteral("type"), type}, {QStringLiteral("label"), label}};
+}
+
+} // namespace
+
+ReportPrivate::ReportPrivate(Report* report)
+    : saving(std::make_shared<Saving>(std::make_unique<ReportHooks>(report)))
+    , baseDirectory(paths::reports)
+    , q(report)
+{
+}
+
+// --- Telling ---
+
+bool ReportPrivate::tellFolder()
+{
+    return emitEach({&Report::folderChanged}) && tellLocation();
+}
+
+bool ReportPrivate::tellLocation()
+{
+    return emitEach({&Report::reportFilesChanged, &Report::saveLocationChanged});
+}
+
+bool ReportPrivate::emitEach(std::initializer_list<void (Report::*)()> notifiers)
+{
+    const QPointer<Report> self(q);
+    for (const auto notifier : notifiers) {
+        Q_EMIT(q->*notifier)();
+        if (!self)
+            return false;
+    }
+    return true;
+}
+
+// --- Services and settings ---
+
+void ReportPrivate::watchServices()
+{
+    KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
+    if (!client)
+        return;
+    watchItems();
+    QObject::connect(client, &KIVClientInterface::itemsChanged, q, [this] {
+        watchItems();
+        if (emitEach({&Report::canWriteToJobManagerChanged, &Report::jobSummaryChanged}))
+            tellLocation();
+    });
+}
+
+void ReportPrivate::watchItems()
+{
+    const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
+    const QStringList jobItems = client ? client->getItemIds(itemids::jobManager) : QStringList();
+    for (const QString& id : jobItems) {
+        if (const KIVClientItem* item = baseManagerItem(id))
+            QObject::connect(item, &KIVClientItem::valueChanged, q, &Report::slotValueChanged, Qt::UniqueConnection);
+    }
+    for (const QLatin1String& id : {itemids::saveLocation, itemids::usbAttached}) {
+        const KIVClientItem* item = baseManagerItem(id);
+        if (!item)
+            continue;
+        QObject::connect(item, &KIVClientItem::valueChanged, q, &Report::reportFilesChanged, Qt::UniqueConnection);
+        QObject::connect(item, &KIVClientItem::valueChanged, q, &Report::saveLocationChanged, Qt::UniqueConnection);
+    }
+}
+
+void ReportPrivate::createSettings()
+{
+    auto* name = new StringUiData(q);
+    QMap<QString, QVariant> attributes = attributesOf(nameSetting, UiData::TYPE_STRING, Report::tr("Name"));
+    attributes.insert(QStringLiteral("regex"), QStringLiteral("^[(?!._)\\w\\d-.\\s]{1,50}$"));
+    name->setAttributes(attributes);
+    name->setValue(QString());
+    q->addSetting(name);
+
+    auto* format = new EnumUiData(q);
+    format->setAttributes(attributesOf(formatSetting, UiData::TYPE_ENUM, Report::tr("Format")));
+    addFormatChoices(*format);
+    format->setValue(QVariant(int(NSReport::REPORT_FORMAT_PDF)));
+    q->addSetting(format);
+
+    auto* sync = new BoolUiData(q);
+    sync->setAttributes(attributesOf(syncSetting, UiData::TYPE_BOOL, Report::tr("Sync with Meridex")));
+    q->addSetting(sync);
+}
+
+bool ReportPrivate::loadSettingsOfNewFolder()
+{
+    if (settingsPath.isNull() || settingsPath == reportSettingsPath(q->getFolder()))
+        return false;
+    q->loadSettings();
+    return true;
+}
+
+// --- The document ---
+
+/// A file that cannot be read would empty the document, so another one reads it. Reading it twice might find two files.
+bool ReportPrivate::readTemplate(const QString& path)
+{
+    ReportTemplate trial;
+    trial.readFile(path);
+    if (trial.hasError())
+        return false;
+    document.adopt(trial);
+    templatePath = path;
+    return true;
+}
+
+QString ReportPrivate::ownOrTemplate(const QString& own, const char* key) const
+{
+    return own.isEmpty() ? document.getAttr(QLatin1String(key)).toString() : own;
+}
+
+// --- Saving ---
+
+QString ReportPrivate::chosenName()
+{
+    const KivData* item = q->getSetting(nameSetting);
+    QString name = item ? item->getValue().toString() : QString();
+    // The label may be such as "1/10 GE", and that is nothing that users could mend.
+    if (item && name.isEmpty())
+        name = safeFileName(q->proposedFileName());
+    return name.isEmpty() ? QStringLiteral("empty") : name.normalized(QString::NormalizationForm_C);
+}
+
+/// A long text takes time to make, in which the controller may go.
+bool ReportPrivate::writeGenerated(
+        const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite)
+{
+    const QPointer<Report> self(q);
+    QString text = (q->*generate)();
+    if (text.isNull() && suffix == jsonSuffix)
+        text = QStringLiteral("{ }");
+    return self && q->writeTextReport(path, text, suffix, overwrite);
+}
+
+void ReportPrivate::noteSaved(const QStringList& files, bool isSynced)
+{
+    QStringList& list = isSynced ? syncedReports : unsyncedReports;
+    QStringList& other = isSynced ? unsyncedReports : syncedReports;
+    for (const QString& file : files) {
+        other.removeAll(file);
+        list.removeAll(file);
+        list += file;
+    }
+}
+
+} // namespace uiutils

@@ -1,0 +1,60 @@
+#include "report/saving/saveplan_p.h"
+
+#include "report/reportnaming_p.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace uiutils {
+
+namespace {
+
+QString noFormat(const FormatChoice& choice)
+{
+    if (choice.given.isEmpty() || choice.isFormat)
+        return QCoreApplication::translate("Report", "No format is chosen to save the report in.");
+    return QCoreApplication::translate("Report", "There is no format \"%1\" to save the report in.").arg(choice.given);
+}
+
+} // namespace
+
+QStringList SavePlan::paths(bool isStickThere) const
+{
+    QStringList paths;
+    for (const PlannedFile& file : files) {
+        paths += file.path;
+        if (isStickThere && !file.copy.isEmpty())
+            paths += file.copy;
+    }
+    return paths;
+}
+
+PlannedFile plannedFile(const QString& path, const ReportFormat* format, bool copiesToUsb)
+{
+    const QString copy = usbPath(path);
+    const bool isCopied = copiesToUsb && QDir::cleanPath(path) != copy;
+    return {format, path, isCopied ? copy : QString()};
+}
+
+QVector<PlannedFile> plannedFiles(
+        const QString& name, const ReportFormats& formats, bool copiesToUsb, const PathOf& pathOf)
+{
+    QVector<PlannedFile> files;
+    for (const ReportFormat* format : formats)
+        files += plannedFile(pathOf(name, format->suffix), format, copiesToUsb);
+    return files;
+}
+
+QString planProblem(const QString& name, const FormatChoice& choice, bool compressed)
+{
+    if (choice.formats.isEmpty())
+        return noFormat(choice);
+    for (const ReportFormat* format : choice.formats) {
+        const QString problem = nameProblem(name, format->suffix, compressed);
+        if (!problem.isEmpty())
+            return problem;
+    }
+    return QString();
+}
+
+} // namespace uiutils
