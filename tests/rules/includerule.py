@@ -87,8 +87,7 @@ lib/ui_utils/writers/pages/statusicons.cpp -> lib/ui_utils/writers/html/htmlstre
 lib/ui_utils/writers/text/reportcontent.cpp -> lib/ui_utils/writers/html/htmlstreamwriter.h
 lib/ui_utils/writers/text/texttable.cpp -> lib/ui_utils/writers/html/htmlstreamwriter.h
 
-# The contract's items have one source, and the embedded service knows who handles its requests.
-platform/contract/kiv/kivclientitem.cpp -> platform/contract/kiv/kivaggregateclientitem.h
+# The embedded service knows who handles its requests.
 platform/reference/embedded/configurations.cpp -> platform/reference/embedded/serviceregistry_p.h
 platform/reference/embedded/embeddedservice.cpp -> platform/reference/embedded/requests_p.h
 """
