@@ -86,10 +86,6 @@ lib/ui_utils/service/instrumentinfo.cpp -> lib/ui_utils/document/reportmetadata.
 lib/ui_utils/writers/pages/statusicons.cpp -> lib/ui_utils/writers/html/htmlstreamwriter.h
 lib/ui_utils/writers/text/reportcontent.cpp -> lib/ui_utils/writers/html/htmlstreamwriter.h
 lib/ui_utils/writers/text/texttable.cpp -> lib/ui_utils/writers/html/htmlstreamwriter.h
-
-# The embedded service knows who handles its requests.
-platform/reference/embedded/configurations.cpp -> platform/reference/embedded/serviceregistry_p.h
-platform/reference/embedded/embeddedservice.cpp -> platform/reference/embedded/requests_p.h
 """
 
 Room = collections.namedtuple("Room", "name allowed")
