@@ -37,7 +37,7 @@ plugin      qml/UiUtils                     LIBRARY base contract
 common      apps/common                     LIBRARY base contract embedded
 viewer      apps/pdf_viewer                 base common
 demo        apps/demo                       LIBRARY base contract embedded common
-convert     apps/reportconvert              LIBRARY base contract embedded
+convert     apps/reportconvert              LIBRARY base contract embedded common
 qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded common
 benchmarks  benchmarks                      LIBRARY base contract embedded
 """

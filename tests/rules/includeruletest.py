@@ -55,7 +55,7 @@ plugin      formatters embedded common demo tests
 common      formatters viewer demo convert qmlviewer tests
 viewer      contract formatters embedded core service document files pages pdffile report module plugin demo convert tests
 demo        formatters viewer convert qmlviewer benchmarks tests
-convert     formatters common viewer demo qmlviewer tests
+convert     formatters viewer demo qmlviewer tests
 qmlviewer   formatters viewer demo convert tests
 benchmarks  formatters common viewer demo tests
 """

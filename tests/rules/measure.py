@@ -16,7 +16,7 @@ import includerule  # noqa: E402
 
 LITERAL = re.compile(r'"(?:\\.|[^"\\\n])*"|(?<![0-9A-Fa-f])\'(?:\\.|[^\'\\\n])*\'')
 # What stands before a brace that opens no function.
-NO_FUNCTION = re.compile(r"(?:^|[^\w])(?:namespace|class|struct|union|enum|extern)\b[^()]*$|=\s*$|^\s*$")
+NO_FUNCTION = re.compile(r"(?:^|[^\w])(?:namespace|class|struct|union|enum|extern)\b[^()]*$|[=,]\s*$|^\s*$")
 INITIALIZER = re.compile(r"[)\s]:[^:].*[\w>]\s*$", re.DOTALL)
 
 
@@ -86,7 +86,7 @@ def main():
           f"{len(rule.faults())} against the rule")
     print(f"circles of units: {len(circles)} with {in_circles} units ({100 * in_circles / len(units):.0f} %), exceptions counted")
     for circle in sorted(circles, key=len, reverse=True):
-        print(f"  {len(circles) and len(circle)}: {os.path.dirname(circle[0])}: {', '.join(map(os.path.basename, circle))}")
+        print(f"  {len(circle)}: {os.path.dirname(circle[0])}: {', '.join(map(os.path.basename, circle))}")
 
 
 if __name__ == "__main__":
