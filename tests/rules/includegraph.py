@@ -26,13 +26,13 @@ Fault = collections.namedtuple("Fault", "source line text")
 
 
 def read_tree(root):
-    """The texts of all sources and of what says which headers are installed, by path."""
+    """The texts of all sources and pages and of what says which headers are installed, by path."""
     texts = {}
     for folder, folders, names in os.walk(root):
         here = os.path.relpath(folder, root)
         folders[:] = sorted(name for name in folders if not name.startswith(".") and (here, name) != (".", "build"))
         for name in names:
-            if name.endswith(SOURCES) or name == "CMakeLists.txt":
+            if name.endswith(SOURCES + (".qml",)) or name == "CMakeLists.txt":
                 with open(os.path.join(folder, name), encoding="utf-8") as file:
                     texts[os.path.normpath(os.path.join(here, name))] = file.read()
     return texts
@@ -55,6 +55,13 @@ def includes_of(text):
         line = code.count("\n", 0, match.start()) + 1
         found.append(Include(line, quoted or angled or other.strip(), bool(angled)))
     return found
+
+
+def our_imports(text):
+    """The lines and names of the modules of ours that a page imports."""
+    code = without_comments(text)
+    return [(code.count("\n", 0, match.start()) + 1, match.group(1))
+            for match in re.finditer(r"^[ \t]*import[ \t]+(UiUtils\b[\w.]*)", code, re.MULTILINE)]
 
 
 def stem_of(path):

@@ -43,6 +43,9 @@ benchmarks  benchmarks                      LIBRARY base contract embedded
 """
 GROUPS = {"WRITERS": "plots pdffile pages text html xml",
           "LIBRARY": "core service instrument document local files plots pdffile pages text html xml report saving module"}
+# The modules of ours that pages may import.
+PAGES = {"apps/common/qml": [], "apps/pdf_viewer/qml": ["UiUtils.Viewer"], "qml/UiUtils/Controls": ["UiUtils", "UiUtils.Controls"],
+         "apps/demo/qml": ["UiUtils", "UiUtils.Controls", "UiUtils.Demo"]}
 # Tests look into everything, and nothing looks into them.
 TESTS = "tests/"
 # The folders of libraries. A header there ends in _p.h unless it is installed.
@@ -110,14 +113,15 @@ class Rule:
 
     def __init__(self, texts, exceptions=None):
         self.graph = includegraph.Graph(texts)
+        self.pages = {path: text for path, text in texts.items() if path.endswith(".qml")}
         self.rooms = parse_rooms(ROOMS)
         self.units = self.graph.units()
         self.exceptions = parse_exceptions(EXCEPTIONS) if exceptions is None else exceptions
         self.arrows = [arrow for arrow in self.graph.arrows if (arrow.source, arrow.target) not in self.exceptions]
 
     def faults(self):
-        return sorted(self.graph.faults + self.strangers() + self.misnamed() + self.judged() + self.header_circles()
-                      + self.unit_circles(self.arrows) + self.idle_exceptions())
+        return sorted(self.graph.faults + self.strangers() + self.misnamed() + self.judged() + self.imports()
+                      + self.header_circles() + self.unit_circles(self.arrows) + self.idle_exceptions())
 
     # --- Rooms ---
 
@@ -200,6 +204,11 @@ class Rule:
             elif path not in self.graph.installed and not path.endswith("_p.h"):
                 faults.append(Fault(path, 1, "is not installed, so its name has to end in _p.h"))
         return faults
+
+    def imports(self):
+        return [Fault(path, line, f"pages of {os.path.dirname(path)} must not import {module}")
+                for path, text in self.pages.items() for line, module in includegraph.our_imports(text)
+                if module not in PAGES.get(os.path.dirname(path), [module])]
 
     # --- Circles ---
 
