@@ -1,7 +1,6 @@
 #include "configurations_p.h"
 
 #include "pendingwrites_p.h"
-#include "serviceregistry_p.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -30,8 +29,7 @@ public:
     explicit SettingFinder(ServiceData& first)
         : m_order {&first}
     {
-        const QVector<EmbeddedService*> others
-                = first.registry ? first.registry->services() : QVector<EmbeddedService*>();
+        const QVector<EmbeddedService*> others = first.published ? first.published() : QVector<EmbeddedService*>();
         for (const EmbeddedService* other : others) {
             ServiceData& data = ServiceData::of(*other);
             if (&data != &first && data.items.isOpen())

@@ -119,7 +119,7 @@ EmbeddedService* EmbeddedBackend::publish(
     }
     EmbeddedService* service = ServiceData::create(description, place);
     ServiceData& data = ServiceData::of(*service);
-    data.registry = &d->registry;
+    data.published = [registry = &d->registry] { return registry->services(); };
     if (!d->stateFolder.isEmpty()) {
         data.keeper = std::make_unique<StateKeeper>(d->stateFolder, description.service, data.items);
         QObject::connect(data.keeper.get(), &StateKeeper::failed, service, &EmbeddedService::reportError);

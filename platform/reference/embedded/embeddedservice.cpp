@@ -1,8 +1,9 @@
 #include "embeddedservice.h"
 
+#include "actions_p.h"
 #include "descriptioncheck_p.h"
 #include "embeddeditem_p.h"
-#include "requests_p.h"
+#include "servicedata_p.h"
 #include "valueconversion_p.h"
 
 #include <QDir>
@@ -176,7 +177,7 @@ void EmbeddedService::setDelay(int ms)
 
 bool EmbeddedService::setActionHandler(const QString& id, const ActionHandler& handler)
 {
-    if (!hasAction(*d, id))
+    if (!hasAction(d->items, id))
         return false;
     if (handler)
         d->handlers.insert(id, handler);

@@ -1,5 +1,6 @@
 #include "requests_p.h"
 
+#include "actions_p.h"
 #include "configurations_p.h"
 #include "pendingwrites_p.h"
 
@@ -46,17 +47,6 @@ Outcome callHandler(const EmbeddedService::ActionHandler& handler, const QString
     return {isDone, isDone || !text.isEmpty() ? text : tr("The action failed.")};
 }
 
-/// Whether the id is the manifest's with its two words replaced, for a manifest that the service has.
-bool isManifestAction(const ServiceData& service, const QString& id, QLatin1String action)
-{
-    const QLatin1String category(":action:");
-    const QString ending = QLatin1Char(':') + action + QLatin1Char(':');
-    if (!id.startsWith(category) || !id.endsWith(ending) || id.size() <= category.size() + ending.size())
-        return false;
-    const QString name = id.mid(category.size(), id.size() - category.size() - ending.size());
-    return bool(service.items.find(QLatin1String(":result:") + name + QLatin1String(":manifest:")));
-}
-
 /// Why clients may not set the item to the value, whatever it is that the item holds; empty when they may.
 QString noSettingProblem(const ItemState& state, const QVariant& value)
 {
@@ -66,12 +56,6 @@ QString noSettingProblem(const ItemState& state, const QVariant& value)
         return tr("%1 cannot be set: it is no setting.").arg(state.title());
     const bool isEmpty = value.userType() == QMetaType::QString && value.toString().isEmpty();
     return isEmpty ? QString() : tr("%1 cannot be set: it can only be emptied.").arg(state.title());
-}
-
-ItemStore::StatePtr listedAction(const ServiceData& service, const QString& id)
-{
-    const ItemStore::StatePtr state = service.items.find(id);
-    return state && state->type == KIVClientItem::TypeAction ? state : nullptr;
 }
 
 } // namespace
@@ -97,12 +81,12 @@ Outcome carryOut(ServiceData& service, const QString& id, const QString& argumen
     const EmbeddedService::ActionHandler handler = service.handlers.value(id);
     if (handler)
         return callHandler(handler, argument);
-    const ItemStore::StatePtr state = listedAction(service, id);
+    const ItemStore::StatePtr state = listedAction(service.items, id);
     if (state && state->description.does)
         return followDescription(service, *state->description.does, argument);
-    if (isManifestAction(service, id, QLatin1String("applyconfig")))
+    if (isManifestAction(service.items, id, applyConfigAction))
         return applyConfiguration(service, argument);
-    if (isManifestAction(service, id, QLatin1String("saveconfig")))
+    if (isManifestAction(service.items, id, saveConfigAction))
         return saveConfiguration(service, argument);
     if (state)
         return {false, tr("%1: the service %2 has nothing that carries it out.").arg(state->title(), service.name)};
@@ -111,14 +95,8 @@ Outcome carryOut(ServiceData& service, const QString& id, const QString& argumen
 
 int actionDelay(const ServiceData& service, const QString& id)
 {
-    const ItemStore::StatePtr state = listedAction(service, id);
+    const ItemStore::StatePtr state = listedAction(service.items, id);
     return state && state->description.does ? state->description.does->delayMs : 0;
-}
-
-bool hasAction(const ServiceData& service, const QString& id)
-{
-    return listedAction(service, id) || isManifestAction(service, id, QLatin1String("applyconfig"))
-            || isManifestAction(service, id, QLatin1String("saveconfig"));
 }
 
 } // namespace kiv::embedded

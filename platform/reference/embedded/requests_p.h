@@ -22,7 +22,4 @@ Outcome carryOut(ServiceData& service, const QString& id, const QString& argumen
 /// Milliseconds that an action takes beside the service's own delay.
 int actionDelay(const ServiceData& service, const QString& id);
 
-/// Whether the service has an action of that id, listed or through its manifest.
-bool hasAction(const ServiceData& service, const QString& id);
-
 } // namespace kiv::embedded

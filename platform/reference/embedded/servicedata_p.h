@@ -8,8 +8,6 @@
 
 namespace kiv::embedded {
 
-class ServiceRegistry;
-
 /// What the parts of the back end know of a service in common. It goes with the service.
 struct ServiceData
 {
@@ -21,8 +19,8 @@ struct ServiceData
     QSet<QString> mounted;
     /// Null when nothing is kept.
     std::unique_ptr<StateKeeper> keeper;
-    /// The services that are published beside this one.
-    const ServiceRegistry* registry = nullptr;
+    /// Lists the services that are published beside this one, and this one. Set when it is published.
+    std::function<QVector<EmbeddedService*>()> published;
 
     static ServiceData& of(const EmbeddedService& service) { return *service.d; }
     static EmbeddedService* create(const ServiceDescription& description, QObject* parent)

@@ -1,0 +1,8 @@
+#include <kiv/kivvecclientitem.h>
+
+KIVVecClientItem::KIVVecClientItem(QObject* parent)
+    : KIVClientItem(parent)
+{
+}
+
+KIVVecClientItem::~KIVVecClientItem() = default;

@@ -1,0 +1,263 @@
+#!/usr/bin/env python3
+"""Holds the includes of the tree against its rooms. Usage: includerule.py TREE"""
+
+import collections
+import os
+import sys
+
+sys.dont_write_bytecode = True
+import includegraph  # noqa: E402
+from includegraph import HEADERS, Fault  # noqa: E402
+
+# Every room, the lower ones first: what it is called here, its folder, what it may include beside itself. What a header brings
+# along counts too.
+ROOMS = """
+base        base                            -
+contract    platform/contract/kiv           -
+formatters  platform/reference/formatters   contract
+embedded    platform/reference/embedded     base contract formatters
+
+core        lib/ui_utils/core               base
+service     lib/ui_utils/service            base contract core
+instrument  lib/ui_utils/instrument         base contract core service
+document    lib/ui_utils/document           base contract core
+local       lib/ui_utils/local              base contract core service
+files       lib/ui_utils/files              base contract core service instrument document
+plots       lib/ui_utils/writers/plots      base contract core
+pdffile     lib/ui_utils/writers/pdffile    base core
+pages       lib/ui_utils/writers/pages      base core pdffile
+text        lib/ui_utils/writers/text       base contract core service instrument document plots
+html        lib/ui_utils/writers/html       base contract core service instrument document plots pdffile pages text
+xml         lib/ui_utils/templ2xmlwriter    base contract core service instrument document
+report      lib/ui_utils/report             base contract core service instrument document local files WRITERS saving
+saving      lib/ui_utils/report/saving      base contract core service instrument document local files WRITERS report
+module      lib/ui_utils/module             base contract LIBRARY
+
+plugin      qml/UiUtils                     LIBRARY base contract
+common      apps/common                     LIBRARY base contract embedded
+viewer      apps/pdf_viewer                 base common
+demo        apps/demo                       LIBRARY base contract embedded common
+convert     apps/reportconvert              LIBRARY base contract embedded common
+qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded common
+benchmarks  benchmarks                      LIBRARY base contract embedded
+"""
+GROUPS = {"WRITERS": "plots pdffile pages text html xml",
+          "LIBRARY": "core service instrument document local files plots pdffile pages text html xml report saving module"}
+# The modules of ours that pages may import.
+PAGES = {"apps/common/qml": [], "apps/pdf_viewer/qml": ["UiUtils.Viewer"], "qml/UiUtils/Controls": ["UiUtils", "UiUtils.Controls"],
+         "apps/demo/qml": ["UiUtils", "UiUtils.Controls", "UiUtils.Demo"]}
+# Tests look into everything, and nothing looks into them.
+TESTS = "tests/"
+# The folders of libraries. A header there ends in _p.h unless it is installed.
+LIBRARIES = ("base/", "lib/", "platform/")
+# Programs of the tree that are no guests of the library: who else uses a header that is not installed is an exception below.
+# What lies in base is for programs too, but not for the demo, which shows what can be made of an installed library.
+INSIDERS = {"benchmarks"}
+GUESTS_OF_BASE = {"demo"}
+LARGEST_CIRCLE = 3
+# Headers that are not installed although their names say so.
+MISNAMED = {"base/durablefile.h", "base/paths.h", "lib/ui_utils/core/itemids.h"}
+
+# Arrows that stand against the rule for now, with the reason why. The list may only shrink.
+EXCEPTIONS = """
+# The demo and the tools build inside of the tree.
+apps/demo/instrumentroot.cpp -> base/durablefile.h
+apps/demo/instrumentroot.cpp -> base/paths.h
+apps/demo/loopbackreport.cpp -> base/paths.h
+apps/demo/savedreportactions.cpp -> base/paths.h
+apps/demo/savedreportactions.cpp -> lib/ui_utils/report/drivefile_p.h
+apps/demo/savedreportactions.cpp -> lib/ui_utils/report/reportdestinations_p.h
+apps/demo/savedreportactions.cpp -> lib/ui_utils/report/reportlisting_p.h
+apps/demo/savedreportactions.cpp -> lib/ui_utils/report/reportrecord_p.h
+apps/demo/savedreportactions.h -> lib/ui_utils/report/reportlisting_p.h
+apps/demo/screencamera.cpp -> base/durablefile.h
+apps/demo/screencamera.cpp -> base/paths.h
+apps/demo/tour.cpp -> base/durablefile.h
+apps/demo/usbstick.cpp -> base/paths.h
+apps/demo/usbstick.cpp -> lib/ui_utils/core/itemids.h
+apps/reportconvert/conversion.cpp -> platform/reference/embedded/jsonschema_p.h
+
+# A wrapper asks the manifest that its constructor takes, and the manifest makes wrappers of every kind.
+lib/ui_utils/service/kivdata.cpp -> lib/ui_utils/service/manifest.h
+lib/ui_utils/service/kivdatavalue.cpp -> lib/ui_utils/service/manifest.h
+
+# The table of formats holds functions of the controller.
+lib/ui_utils/report/reportformats.cpp -> lib/ui_utils/report/report.h
+
+# What the unit says and what a status is called have no room of their own yet.
+lib/ui_utils/service/instrumentinfo.cpp -> lib/ui_utils/document/reportmetadata.h
+lib/ui_utils/writers/pages/statusicons.cpp -> lib/ui_utils/writers/html/htmlstreamwriter.h
+lib/ui_utils/writers/text/reportcontent.cpp -> lib/ui_utils/writers/html/htmlstreamwriter.h
+lib/ui_utils/writers/text/texttable.cpp -> lib/ui_utils/writers/html/htmlstreamwriter.h
+"""
+
+Room = collections.namedtuple("Room", "name allowed")
+
+
+def parse_rooms(table):
+    rooms = {}
+    for line in filter(str.strip, table.splitlines()):
+        name, folder, *allowed = line.split()
+        rooms[folder] = Room(name, {name}.union(*(GROUPS.get(word, word).split() for word in allowed)))
+    return rooms
+
+
+def parse_exceptions(table):
+    """A line "source -> target" each; lines that begin with # say why."""
+    lines = [line.strip() for line in table.splitlines()]
+    return [tuple(line.split(" -> ")) for line in lines if line and not line.startswith("#")]
+
+
+class Rule:
+    """What stands against the rule in the texts of a tree, see includegraph.read_tree()."""
+
+    def __init__(self, texts, exceptions=None):
+        self.graph = includegraph.Graph(texts)
+        self.pages = {path: text for path, text in texts.items() if path.endswith(".qml")}
+        self.rooms = parse_rooms(ROOMS)
+        self.units = self.graph.units()
+        self.exceptions = parse_exceptions(EXCEPTIONS) if exceptions is None else exceptions
+        self.arrows = [arrow for arrow in self.graph.arrows if (arrow.source, arrow.target) not in self.exceptions]
+
+    def faults(self):
+        return sorted(self.graph.faults + self.strangers() + self.misnamed() + self.judged() + self.imports()
+                      + self.header_circles() + self.unit_circles(self.arrows) + self.idle_exceptions())
+
+    # --- Rooms ---
+
+    def room(self, path):
+        """The room's name; the folder where there is none."""
+        if path.startswith(TESTS):
+            return "tests"
+        folder = os.path.dirname(path)
+        return self.rooms[folder].name if folder in self.rooms else folder
+
+    def may(self, source, target):
+        if source.startswith(TESTS):
+            return True
+        room = self.rooms.get(os.path.dirname(source))
+        # Who has no room is told once, and not for each include.
+        return not room or self.room(target) in room.allowed
+
+    def strangers(self):
+        return [Fault(path, 1, f"{os.path.dirname(path) or 'the root'} is a room that the rule does not know")
+                for path in self.graph.texts if not path.startswith(TESTS) and os.path.dirname(path) not in self.rooms]
+
+    # --- Arrows ---
+
+    def judged(self):
+        reached = self.reached_files()
+        faults = []
+        for arrow in self.arrows:
+            text = self.fault_of(arrow) or self.fault_behind(arrow, reached)
+            if text:
+                faults.append(Fault(arrow.source, arrow.line, text))
+        return faults
+
+    def fault_of(self, arrow):
+        if not self.may(arrow.source, arrow.target):
+            return f"{self.room(arrow.source)} must not include {self.room(arrow.target)} ({arrow.target})"
+        if arrow.target in self.graph.installed or not arrow.target.startswith(LIBRARIES):
+            return None
+        if arrow.source in self.graph.installed:
+            return f"a header that is installed must not include {arrow.target}, which is not"
+        is_base = arrow.target.startswith("base/") and self.room(arrow.source) not in GUESTS_OF_BASE
+        if arrow.source.startswith(LIBRARIES + (TESTS,)) or self.room(arrow.source) in INSIDERS or is_base:
+            return None
+        return f"{self.room(arrow.source)} must not include {arrow.target}, which is not installed"
+
+    def reached_files(self):
+        """What every file brings along, with the file that includes it. What is forbidden is told where it stands."""
+        onward = collections.defaultdict(list)
+        for arrow in self.arrows:
+            if self.may(arrow.source, arrow.target):
+                onward[arrow.source].append(arrow.target)
+        reached = {}
+        for begin in self.graph.texts:
+            before, waiting = {begin: None}, collections.deque([begin])
+            while waiting:
+                path = waiting.popleft()
+                for target in onward[path]:
+                    if target not in before:
+                        before[target] = path
+                        waiting.append(target)
+            reached[begin] = before
+        return reached
+
+    def fault_behind(self, arrow, reached):
+        before = reached[arrow.target]
+        path = next((path for path in before if not self.may(arrow.source, path)), None)
+        if not path:
+            return None
+        way = [path]
+        while before[way[-1]]:
+            way.append(before[way[-1]])
+        return f"{self.room(arrow.source)} must not reach {self.room(path)}: {' -> '.join(reversed(way))}"
+
+    def misnamed(self):
+        faults = []
+        for path in self.graph.texts:
+            if not path.startswith(LIBRARIES) or not path.endswith(HEADERS) or path in MISNAMED:
+                continue
+            if path in self.graph.installed and path.endswith("_p.h"):
+                faults.append(Fault(path, 1, "is installed although its name ends in _p.h"))
+            elif path not in self.graph.installed and not path.endswith("_p.h"):
+                faults.append(Fault(path, 1, "is not installed, so its name has to end in _p.h"))
+        return faults
+
+    def imports(self):
+        return [Fault(path, line, f"pages of {os.path.dirname(path)} must not import {module}")
+                for path, text in self.pages.items() for line, module in includegraph.our_imports(text)
+                if module not in PAGES.get(os.path.dirname(path), [module])]
+
+    # --- Circles ---
+
+    def header_circles(self):
+        arrows = [arrow for arrow in self.arrows if arrow.source.endswith(HEADERS)]
+        return [self.told(circle, arrows, str, "headers include each other")
+                for circle in includegraph.circles_of((arrow.source, arrow.target) for arrow in arrows)]
+
+    def unit_circles(self, arrows):
+        between = [arrow for arrow in arrows if self.units[arrow.source] != self.units[arrow.target]]
+        faults = []
+        for circle in includegraph.circles_of((self.units[arrow.source], self.units[arrow.target]) for arrow in between):
+            if len({self.room(unit) for unit in circle}) > 1:
+                faults.append(self.told(circle, between, self.units.get, "units of several rooms include each other"))
+            elif len(circle) > LARGEST_CIRCLE:
+                faults.append(self.told(circle, between, self.units.get, f"{len(circle)} units include each other, {LARGEST_CIRCLE} may"))
+        return faults
+
+    @staticmethod
+    def told(circle, arrows, node, text):
+        """At the first include of the circle; all of them behind the text."""
+        inside = [arrow for arrow in arrows if node(arrow.source) in circle and node(arrow.target) in circle]
+        return Fault(inside[0].source, inside[0].line,
+                     text + "".join(f"\n    {arrow.source}:{arrow.line}: {arrow.target}" for arrow in inside))
+
+    # --- Exceptions ---
+
+    def idle_exceptions(self):
+        return [Fault(source, 1, f"the exception for {target} is not needed any more: take it off the list")
+                for source, target in self.exceptions if not self.is_needed(source, target)]
+
+    def is_needed(self, source, target):
+        arrow = next((arrow for arrow in self.graph.arrows if (arrow.source, arrow.target) == (source, target)), None)
+        if not arrow:
+            return False
+        return bool(self.fault_of(arrow)) or len(self.unit_circles(self.arrows + [arrow])) > len(self.unit_circles(self.arrows))
+
+
+def main():
+    rule = Rule(includegraph.read_tree(sys.argv[1]))
+    faults = rule.faults()
+    for fault in faults:
+        print(f"{fault.source}:{fault.line}: {fault.text}")
+    if faults:
+        return 1
+    print(f"The include rule holds: {len(rule.rooms)} rooms, {len(rule.graph.texts)} files, {len(rule.graph.arrows)} includes, "
+          f"{len(rule.exceptions)} exceptions.")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
