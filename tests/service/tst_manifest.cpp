@@ -282,8 +282,11 @@ private Q_SLOTS:
         manifest.startChanges();
         a->setValue(10);
         b->setValue(20);
-        // Whoever hears of the first item's return may take the second one away.
-        connect(a, &KivData::valueChanged, this, [&] { other.reset(); });
+        // Whoever hears of the first item's return may write it for good, and take the second one away.
+        connect(a, &KivData::valueChanged, this, [&] {
+            QVERIFY(!manifest.isChanging());
+            other.reset();
+        });
         manifest.revertChanges();
         QCOMPARE(a->getValue(), QVariant(1));
         QVERIFY(!Manifest::getKivData(":config:rec:b:"));
