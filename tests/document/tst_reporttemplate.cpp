@@ -1,5 +1,7 @@
 #include "document/reporttemplate.h"
 
+#include <kiv/plovjsondocument.h>
+
 #include <QtTest>
 
 namespace {

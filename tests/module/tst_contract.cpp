@@ -133,7 +133,7 @@ struct Face
     /// Makes an object; null for a class whose objects are made for something.
     QObject* (*make)();
     QVector<Operation> operations;
-    QStringList constants;
+    QStringList constants, size;
     /// The first place in the virtual table that is the class's own, and the one behind the last.
     std::ptrdiff_t first, end;
 };
@@ -151,9 +151,10 @@ template<typename Class, typename Base = void>
 Face face(const QVector<Operation>& operations = {}, const QStringList& constants = {})
 {
     if constexpr (std::is_void_v<Base>)
-        return {&Class::staticMetaObject, make<Class>, operations, constants, 0, 0};
+        return {&Class::staticMetaObject, make<Class>, operations, constants, {}, 0, 0};
     else
-        return {&Class::staticMetaObject, make<Class>, operations, constants, placeOf(&Next<Base>::next),
+        return {&Class::staticMetaObject, make<Class>, operations, constants,
+                {QString("size %1 pointers").arg(double(sizeof(Class)) / sizeof(void*))}, placeOf(&Next<Base>::next),
                 placeOf(&Next<Class>::next)};
 }
 
@@ -281,7 +282,7 @@ private Q_SLOTS:
         }
         QCOMPARE(expected.takeFirst().section(',', 0, 0),
                 QString("class %1 : %2").arg(name, face.type->superClass()->className()));
-        const QStringList actual = metaLines(*face.type, fresh.get()) + virtualLines(face) + face.constants;
+        const QStringList actual = face.size + metaLines(*face.type, fresh.get()) + virtualLines(face) + face.constants;
         for (int i = 0; i < qMax(actual.size(), expected.size()); ++i)
             QCOMPARE(actual.value(i), expected.value(i));
     }

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
 
 #include <optional>
 
@@ -83,39 +84,99 @@ bool hasShapeOfRecord(const QJsonObject& object)
 
 } // namespace
 
+class uiutils::ReportMetadataPrivate : public QSharedData
+{
+public:
+    bool hasPlace() const;
+    QString filePath() const;
+    bool write(QString* reason) const;
+    QByteArray toJson() const;
+    bool takeJson(const QByteArray& text);
+
+    QString name;
+    QString folder;
+    QString originBase;
+    QString type;
+    QString format;
+    QMap<QString, QString> pairs;
+    QString timeStamp;
+    QString originFilePath;
+};
+
+using uiutils::ReportMetadataPrivate;
+
+ReportMetadata::ReportMetadata()
+    : d(new ReportMetadataPrivate)
+{
+}
+
+ReportMetadata::ReportMetadata(const ReportMetadata& other) = default;
+ReportMetadata& ReportMetadata::operator=(const ReportMetadata& other) = default;
+ReportMetadata::~ReportMetadata() = default;
+
 void ReportMetadata::setMetadataName(const QString& name)
 {
-    m_metadataName = name;
+    d->name = name;
+}
+
+QString ReportMetadata::metadataName() const
+{
+    return d->name;
 }
 
 void ReportMetadata::setMetadataPath(const QString& folder)
 {
-    m_metadataPath = folder;
+    d->folder = folder;
+}
+
+QString ReportMetadata::metadataPath() const
+{
+    return d->folder;
 }
 
 void ReportMetadata::setOriginBase(const QString& folder)
 {
-    m_originBase = folder;
+    d->originBase = folder;
+}
+
+QString ReportMetadata::originBase() const
+{
+    return d->originBase;
 }
 
 void ReportMetadata::setType(const QString& type)
 {
-    m_type = type;
+    d->type = type;
+}
+
+QString ReportMetadata::type() const
+{
+    return d->type;
 }
 
 void ReportMetadata::setFormat(const QString& format)
 {
-    m_format = format;
+    d->format = format;
+}
+
+QString ReportMetadata::format() const
+{
+    return d->format;
 }
 
 void ReportMetadata::setTimeStamp(const QString& timeStamp)
 {
-    m_timeStamp = timeStamp;
+    d->timeStamp = timeStamp;
+}
+
+QString ReportMetadata::timeStamp() const
+{
+    return d->timeStamp;
 }
 
 void ReportMetadata::setInfo(const QString& key, const QString& value)
 {
-    m_info.insert(key, value);
+    d->pairs.insert(key, value);
 }
 
 void ReportMetadata::setInfo(const std::string& key, const std::string& value)
@@ -123,33 +184,43 @@ void ReportMetadata::setInfo(const std::string& key, const std::string& value)
     setInfo(QString::fromStdString(key), QString::fromStdString(value));
 }
 
+QString ReportMetadata::getInfo(const QString& key) const
+{
+    return d->pairs.value(key);
+}
+
 void ReportMetadata::updateMetadataPathBase(const QString& reportDir)
 {
-    m_originBase = reportDir;
-    m_metadataPath = recordFolderOf(reportDir);
+    d->originBase = reportDir;
+    d->folder = recordFolderOf(reportDir);
 }
 
 void ReportMetadata::updateMetadataPathCable()
 {
-    m_metadataPath = paths::cableMetadata;
+    d->folder = paths::cableMetadata;
+}
+
+QString ReportMetadata::originFilePath() const
+{
+    return d->originFilePath;
 }
 
 void ReportMetadata::updateOriginFilePath()
 {
-    m_originFilePath = pathIn(m_originBase, m_metadataName);
-    qDebug("originFilePath %s, metadataPath %s", qUtf8Printable(m_originFilePath), qUtf8Printable(m_metadataPath));
+    d->originFilePath = pathIn(d->originBase, d->name);
+    qDebug("originFilePath %s, metadataPath %s", qUtf8Printable(d->originFilePath), qUtf8Printable(d->folder));
 }
 
 QString ReportMetadata::metadataFilePath() const
 {
-    return pathIn(m_metadataPath, m_metadataName + QLatin1String(".metadata"));
+    return d->filePath();
 }
 
 bool ReportMetadata::saveMetadataToFile()
 {
     updateOriginFilePath();
     QString reason;
-    if (write(&reason))
+    if (d->write(&reason))
         return true;
     qWarning("%s could not open file %s", Q_FUNC_INFO, qUtf8Printable(metadataFilePath()));
     qWarning("%s", qUtf8Printable(reason));
@@ -159,12 +230,12 @@ bool ReportMetadata::saveMetadataToFile()
 bool ReportMetadata::loadFromDisk()
 {
     const QString path = metadataFilePath();
-    const std::optional<QByteArray> text = hasPlace() ? recordBytes(onDisk(path)) : std::nullopt;
+    const std::optional<QByteArray> text = d->hasPlace() ? recordBytes(onDisk(path)) : std::nullopt;
     if (!text) {
         qWarning("%s Could not open %s", Q_FUNC_INFO, qUtf8Printable(path));
         return false;
     }
-    if (!takeJson(*text)) {
+    if (!d->takeJson(*text)) {
         qWarning("%s Error while parsing JSON from %s", Q_FUNC_INFO, qUtf8Printable(path));
         return false;
     }
@@ -177,53 +248,58 @@ void ReportMetadata::clear()
 }
 
 /// Whether the record lies in a folder, and in no other one.
-bool ReportMetadata::hasPlace() const
+bool ReportMetadataPrivate::hasPlace() const
 {
-    return !m_metadataPath.isEmpty() && !m_metadataName.contains(slash);
+    return !folder.isEmpty() && !name.contains(slash);
 }
 
-bool ReportMetadata::write(QString* reason) const
+QString ReportMetadataPrivate::filePath() const
+{
+    return pathIn(folder, name + QLatin1String(".metadata"));
+}
+
+bool ReportMetadataPrivate::write(QString* reason) const
 {
     if (!hasPlace()) {
         *reason = QStringLiteral("The record has no folder, or a name that is none of a file.");
         return false;
     }
     const QByteArray text = toJson();
-    if (text.size() > maximumFileSize) {
-        *reason = QStringLiteral("The record has more than %1 bytes.").arg(maximumFileSize);
+    if (text.size() > ReportMetadata::maximumFileSize) {
+        *reason = QStringLiteral("The record has more than %1 bytes.").arg(ReportMetadata::maximumFileSize);
         return false;
     }
     // Writing the file finds out whether the folder is there.
-    uiutils::makeFolderDurably(onDisk(m_metadataPath));
-    return uiutils::writeFileDurably(onDisk(metadataFilePath()), text, reason);
+    uiutils::makeFolderDurably(onDisk(folder));
+    return uiutils::writeFileDurably(onDisk(filePath()), text, reason);
 }
 
-QByteArray ReportMetadata::toJson() const
+QByteArray ReportMetadataPrivate::toJson() const
 {
     QJsonObject info;
-    for (auto it = m_info.cbegin(); it != m_info.cend(); ++it)
+    for (auto it = pairs.cbegin(); it != pairs.cend(); ++it)
         info.insert(it.key(), it.value());
-    const QJsonObject record {{typeKey, m_type}, {formatKey, m_format}, {infoKey, info}, {timeStampKey, m_timeStamp},
-            {originFilePathKey, m_originFilePath}};
+    const QJsonObject record {{typeKey, type}, {formatKey, format}, {infoKey, info}, {timeStampKey, timeStamp},
+            {originFilePathKey, originFilePath}};
     return QJsonDocument(record).toJson();
 }
 
 /// All of it or nothing.
-bool ReportMetadata::takeJson(const QByteArray& text)
+bool ReportMetadataPrivate::takeJson(const QByteArray& text)
 {
-    if (text.size() > maximumFileSize)
+    if (text.size() > ReportMetadata::maximumFileSize)
         return false;
     const QJsonDocument document = QJsonDocument::fromJson(text);
     const QJsonObject record = document.object();
     if (!document.isObject() || !hasShapeOfRecord(record))
         return false;
-    m_type = textOf(record.value(typeKey));
-    m_format = textOf(record.value(formatKey));
-    m_timeStamp = textOf(record.value(timeStampKey));
-    m_originFilePath = textOf(record.value(originFilePathKey));
-    m_info.clear();
+    type = textOf(record.value(typeKey));
+    format = textOf(record.value(formatKey));
+    timeStamp = textOf(record.value(timeStampKey));
+    originFilePath = textOf(record.value(originFilePathKey));
+    pairs.clear();
     const QJsonObject info = record.value(infoKey).toObject();
     for (auto it = info.begin(); it != info.end(); ++it)
-        m_info.insert(it.key(), textOf(it.value()));
+        pairs.insert(it.key(), textOf(it.value()));
     return true;
 }

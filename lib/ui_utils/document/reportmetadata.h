@@ -2,10 +2,14 @@
 
 #include "core/uiutils_export.h"
 
-#include <QMap>
+#include <QSharedDataPointer>
 #include <QString>
 
 #include <string>
+
+namespace uiutils {
+class ReportMetadataPrivate;
+}
 
 /// The record that lies apart from a saved file and tells later readers what the file is: its type and format, free
 /// pairs of texts, when it was made and where it lies.
@@ -15,39 +19,44 @@
 class UIUTILS_EXPORT ReportMetadata
 {
 public:
+    ReportMetadata();
+    ReportMetadata(const ReportMetadata& other);
+    ReportMetadata& operator=(const ReportMetadata& other);
+    ~ReportMetadata();
+
     /// Records over this many bytes are neither written nor read (1 MiB).
     static constexpr qint64 maximumFileSize = qint64(1024) * 1024;
 
     /// The name of the record: that of the file that it describes, with its suffix and without folders.
     void setMetadataName(const QString& name);
-    QString metadataName() const { return m_metadataName; }
+    QString metadataName() const;
 
     /// The folder of the record. updateMetadataPathBase() and updateMetadataPathCable() set it as well.
     void setMetadataPath(const QString& folder);
-    QString metadataPath() const { return m_metadataPath; }
+    QString metadataPath() const;
 
     /// The folder of the file that the record describes.
     void setOriginBase(const QString& folder);
-    QString originBase() const { return m_originBase; }
+    QString originBase() const;
 
     /// What kind of record this is, "result" for one.
     void setType(const QString& type);
-    QString type() const { return m_type; }
+    QString type() const;
 
     /// The format of the file that the record describes.
     void setFormat(const QString& format);
-    QString format() const { return m_format; }
+    QString format() const;
 
     /// When the file was made, ISO 8601 with its offset from UTC.
     void setTimeStamp(const QString& timeStamp);
-    QString timeStamp() const { return m_timeStamp; }
+    QString timeStamp() const;
 
     /// Sets one pair, in place of an earlier one of that key. Standard strings and literals are UTF-8.
     void setInfo(const QString& key, const QString& value);
     void setInfo(const std::string& key, const std::string& value);
     void setInfo(const char* key, const char* value) { setInfo(QString::fromUtf8(key), QString::fromUtf8(value)); }
     /// The value of a pair; empty without one.
-    QString getInfo(const QString& key) const { return m_info.value(key); }
+    QString getInfo(const QString& key) const;
 
     /// Sets the folder of the described file, and that of the record beside it: "/cust/public/reports/otdr/" has its
     /// records in "/cust/private/reports/metadata/otdr/", and ".../reports/autosave/" in ".../reports/metadata/".
@@ -58,7 +67,7 @@ public:
     void updateMetadataPathCable();
 
     /// Where the described file lies; known after updateOriginFilePath(), saving and loading.
-    QString originFilePath() const { return m_originFilePath; }
+    QString originFilePath() const;
     /// Makes it of its folder and the record's name.
     void updateOriginFilePath();
 
@@ -79,17 +88,5 @@ public:
     void clear();
 
 private:
-    bool hasPlace() const;
-    bool write(QString* reason) const;
-    QByteArray toJson() const;
-    bool takeJson(const QByteArray& text);
-
-    QString m_metadataName;
-    QString m_metadataPath;
-    QString m_originBase;
-    QString m_type;
-    QString m_format;
-    QMap<QString, QString> m_info;
-    QString m_timeStamp;
-    QString m_originFilePath;
+    QSharedDataPointer<uiutils::ReportMetadataPrivate> d;
 };

@@ -4,6 +4,10 @@
 #include "document/opennode_p.h"
 #include "document/reportkeys_p.h"
 
+#include <kiv/plovjsondocument.h>
+
+#include <vector>
+
 using uiutils::OpenNode;
 namespace keys = uiutils::keys;
 
@@ -36,52 +40,91 @@ QString attributeKey(const QString& name)
 
 } // namespace
 
+/// The finished document, and the nodes begun and not yet ended; the last one is the current one.
+class uiutils::ReportTemplatePrivate
+{
+public:
+    OpenNode* current();
+    void closeInto(QLatin1String nodeType, int family);
+    QJsonObject takeCurrent();
+    void warnOfDepth();
+
+    PlovJsonDocument document;
+    std::vector<OpenNode> openNodes;
+    QString tag;
+    QString path;
+    bool saidTooDeep = false;
+};
+
+using uiutils::ReportTemplatePrivate;
+
 ReportTemplate::ReportTemplate(QObject* parent)
     : QObject(parent)
+    , d(std::make_unique<ReportTemplatePrivate>())
 {
 }
 
 ReportTemplate::~ReportTemplate() = default;
 
+QJsonObject ReportTemplate::object() const
+{
+    return d->document.object();
+}
+
+QString ReportTemplate::getTag() const
+{
+    return d->tag;
+}
+
+QString ReportTemplate::getPath() const
+{
+    return d->path;
+}
+
+QString ReportTemplate::errorString() const
+{
+    return d->document.errorString();
+}
+
 void ReportTemplate::readFile(const QString& file)
 {
     readDiskFile(uiutils::onDisk(file));
-    m_path = file;
+    d->path = file;
 }
 
 void ReportTemplate::readDiskFile(const QString& file)
 {
-    m_path = file;
-    m_document.readFile(file);
-    m_tag = m_document.object().value(keys::tag).toString();
+    d->path = file;
+    d->document.readFile(file);
+    d->tag = d->document.object().value(keys::tag).toString();
 }
 
 void ReportTemplate::adopt(const ReportTemplate& other)
 {
-    m_document = other.m_document;
-    m_tag = other.m_tag;
-    m_path = other.m_path;
+    d->document = other.d->document;
+    d->tag = other.d->tag;
+    d->path = other.d->path;
 }
 
 bool ReportTemplate::hasError() const
 {
-    return m_document.hasError();
+    return d->document.hasError();
 }
 
 QString ReportTemplate::toJson() const
 {
-    return QString::fromUtf8(m_document.toJson().constData());
+    return QString::fromUtf8(d->document.toJson().constData());
 }
 
 void ReportTemplate::beginReport(const QString& tag)
 {
-    m_openNodes.emplace_back(QJsonObject {{keys::nodeType, keys::report}, {keys::tag, tag}});
-    m_saidTooDeep = false;
+    d->openNodes.emplace_back(QJsonObject {{keys::nodeType, keys::report}, {keys::tag, tag}});
+    d->saidTooDeep = false;
 }
 
 void ReportTemplate::setKey(const QString& key, const QVariant& val)
 {
-    if (OpenNode* node = current())
+    if (OpenNode* node = d->current())
         node->set(key, val.toString());
 }
 
@@ -92,20 +135,20 @@ void ReportTemplate::addAttribute(const QString& key, const QVariant& val)
 
 void ReportTemplate::beginSection(const QString& tag, const QString& title)
 {
-    if (current())
-        m_openNodes.emplace_back(sectionNode(tag, title), current()->level() + 1);
+    if (d->current())
+        d->openNodes.emplace_back(sectionNode(tag, title), d->current()->level() + 1);
 }
 
 void ReportTemplate::beginTable(const QString& tag, const QString& title)
 {
-    if (current())
-        m_openNodes.emplace_back(tableNode(tag, title), current()->level() + 1);
+    if (d->current())
+        d->openNodes.emplace_back(tableNode(tag, title), d->current()->level() + 1);
 }
 
 void ReportTemplate::addRow(
         const QString& tag, const QString& rowLabel, const QVariant& val, const QMap<QString, QVariant>& attrs)
 {
-    OpenNode* node = current();
+    OpenNode* node = d->current();
     if (!node || node->nodeType() != keys::table)
         return;
 
@@ -120,36 +163,36 @@ void ReportTemplate::addRow(
 
 void ReportTemplate::endTable()
 {
-    closeInto(keys::table, OpenNode::Table);
+    d->closeInto(keys::table, OpenNode::Table);
 }
 
 void ReportTemplate::endSection()
 {
-    closeInto(keys::section, OpenNode::Section);
+    d->closeInto(keys::section, OpenNode::Section);
 }
 
 void ReportTemplate::endReport()
 {
-    if (current())
-        m_document.setObject(takeCurrent());
+    if (d->current())
+        d->document.setObject(d->takeCurrent());
 }
 
 QVariant ReportTemplate::getAttr(const QString& name) const
 {
-    const QJsonObject root = m_document.object();
+    const QJsonObject root = d->document.object();
     const auto it = root.constFind(name);
     return it == root.constEnd() ? QVariant() : it.value().toVariant();
 }
 
-OpenNode* ReportTemplate::current()
+OpenNode* ReportTemplatePrivate::current()
 {
-    return m_openNodes.empty() ? nullptr : &m_openNodes.back();
+    return openNodes.empty() ? nullptr : &openNodes.back();
 }
 
-void ReportTemplate::closeInto(QLatin1String nodeType, int family)
+void ReportTemplatePrivate::closeInto(QLatin1String nodeType, int family)
 {
     // The only open node has no parent to go to, and closing it would lose what it holds.
-    if (m_openNodes.size() < 2 || current()->nodeType() != nodeType)
+    if (openNodes.size() < 2 || current()->nodeType() != nodeType)
         return;
     const int level = current()->level();
     const int height = current()->height();
@@ -165,16 +208,16 @@ void ReportTemplate::closeInto(QLatin1String nodeType, int family)
     current()->append(OpenNode::Family(family), closed, height);
 }
 
-void ReportTemplate::warnOfDepth()
+void ReportTemplatePrivate::warnOfDepth()
 {
-    if (!m_saidTooDeep)
+    if (!saidTooDeep)
         qWarning("ReportTemplate: what is nested more than %d sections deep is left out", deepestSection);
-    m_saidTooDeep = true;
+    saidTooDeep = true;
 }
 
-QJsonObject ReportTemplate::takeCurrent()
+QJsonObject ReportTemplatePrivate::takeCurrent()
 {
-    QJsonObject node = m_openNodes.back().take();
-    m_openNodes.pop_back();
+    QJsonObject node = openNodes.back().take();
+    openNodes.pop_back();
     return node;
 }

@@ -2,18 +2,16 @@
 
 #include "core/uiutils_export.h"
 
-#include <kiv/plovjsondocument.h>
-
 #include <QJsonObject>
 #include <QMap>
 #include <QObject>
 #include <QString>
 #include <QVariant>
 
-#include <vector>
+#include <memory>
 
 namespace uiutils {
-class OpenNode;
+class ReportTemplatePrivate;
 }
 
 /// The report document, built by a fixed sequence of calls or read from a file; one JSON object that every report
@@ -70,25 +68,16 @@ public:
     Q_INVOKABLE void endReport();
 
     /// The document's root.
-    QJsonObject object() const { return m_document.object(); }
+    QJsonObject object() const;
     /// The tag of the last file read; empty when none was.
-    QString getTag() const { return m_tag; }
+    QString getTag() const;
     /// The file that was last given to readFile().
-    QString getPath() const { return m_path; }
+    QString getPath() const;
     /// The root's value under the full key `name`; invalid when absent.
     QVariant getAttr(const QString& name) const;
     /// What went wrong in the last readFile(), with file, line and column; empty when nothing did.
-    QString errorString() const { return m_document.errorString(); }
+    QString errorString() const;
 
 private:
-    uiutils::OpenNode* current();
-    void closeInto(QLatin1String nodeType, int family);
-    QJsonObject takeCurrent();
-    void warnOfDepth();
-
-    PlovJsonDocument m_document;
-    std::vector<uiutils::OpenNode> m_openNodes;
-    QString m_tag;
-    QString m_path;
-    bool m_saidTooDeep = false;
+    const std::unique_ptr<uiutils::ReportTemplatePrivate> d;
 };

@@ -7,10 +7,34 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 
 #include <limits>
 
 using uiutils::onDisk;
+
+/// What one object tells and asks, and the notification that is pending.
+class uiutils::FileUtilsPrivate
+{
+public:
+    explicit FileUtilsPrivate(FileUtils* owner)
+        : q(owner)
+    {
+    }
+
+    KIVNotification* freshNotification(const QString& title, const QString& text);
+    void sendError(const QString& title, const QString& text);
+    void sendRequest(const QString& title, const QString& text, const QMap<QString, QString>& values);
+    bool isPending(const KIVNotification* notification) const;
+    bool hasRoom(const QString& path, const DriveSpace& space, qint64 blocks);
+
+    QPointer<KIVNotification> pending;
+
+private:
+    FileUtils* q;
+};
+
+using uiutils::FileUtilsPrivate;
 
 namespace {
 
@@ -55,6 +79,7 @@ std::optional<qint64> countedBlocks(
 
 FileUtils::FileUtils(QObject* parent)
     : QObject(parent)
+    , d(std::make_unique<FileUtilsPrivate>(this))
 {
     KIVNotificationModelManager* manager = KIVNotificationModelManager::instance();
     connect(manager, &KIVNotificationModelManager::notificationAccepted, this, &FileUtils::onNotificationAccepted);
@@ -64,21 +89,22 @@ FileUtils::FileUtils(QObject* parent)
 /// Its dialog closes at once. One that is no longer open may be being answered, and others still have to hear of it.
 FileUtils::~FileUtils()
 {
-    if (!m_notification || m_notification == KIVNotificationModelManager::instance()->currentDialog())
+    KIVNotification* pending = d->pending;
+    if (!pending || pending == KIVNotificationModelManager::instance()->currentDialog())
         return;
-    m_notification->setParent(nullptr);
-    m_notification->deleteLater();
+    pending->setParent(nullptr);
+    pending->deleteLater();
 }
 
 void FileUtils::onNotificationAccepted(KIVNotification* notification)
 {
-    if (isPending(notification))
+    if (d->isPending(notification))
         Q_EMIT accepted(notification);
 }
 
 void FileUtils::onNotificationRejected(KIVNotification* notification)
 {
-    if (isPending(notification))
+    if (d->isPending(notification))
         Q_EMIT rejected(notification);
 }
 
@@ -100,7 +126,7 @@ bool FileUtils::checkDriveSpaceForFile(qint64 src_file_size, QString dest_path)
     if (!space)
         return false;
     const qint64 freed = uiutils::blocksOfFile(dest_path, space->blockSize);
-    return hasRoom(dest_path, *space, uiutils::blocksFor(src_file_size, space->blockSize) - freed);
+    return d->hasRoom(dest_path, *space, uiutils::blocksFor(src_file_size, space->blockSize) - freed);
 }
 
 bool FileUtils::checkDriveSpaceForFile(QString src_file, QString dest_path)
@@ -118,28 +144,28 @@ bool FileUtils::checkDriveSpaceForDir(QString src_path, QString dest_path)
     if (!space)
         return false;
     const auto blocks = countedBlocks("checkDriveSpaceForDir", src_path, dest_path, space->blockSize);
-    return blocks && hasRoom(dest_path, *space, *blocks);
+    return blocks && d->hasRoom(dest_path, *space, *blocks);
 }
 
 void FileUtils::sendNotificationDriveFull(QString real_path)
 {
-    sendError(tr("I/O Error"), tr("Drive %1 is full").arg(getSanitizedPathName(real_path)));
+    d->sendError(tr("I/O Error"), tr("Drive %1 is full").arg(getSanitizedPathName(real_path)));
 }
 
 void FileUtils::sendNotificationReadError(QString real_path)
 {
-    sendError(tr("Read Error"), tr("There was an error reading %1").arg(getSanitizedPathName(real_path)));
+    d->sendError(tr("Read Error"), tr("There was an error reading %1").arg(getSanitizedPathName(real_path)));
 }
 
 void FileUtils::sendNotificationWriteError(QString real_path)
 {
-    sendError(tr("Write Error"), tr("There was an error writing to %1").arg(getSanitizedPathName(real_path)));
+    d->sendError(tr("Write Error"), tr("There was an error writing to %1").arg(getSanitizedPathName(real_path)));
 }
 
 void FileUtils::sendNotificationNotEnoughSpace(QString real_path, qint64 needed)
 {
     const QString text = tr("Not enough disk space for %1 - would need %2");
-    KIVNotification* notification = freshNotification(
+    KIVNotification* notification = d->freshNotification(
             tr("Not Enough Space"), text.arg(getSanitizedPathName(real_path), uiutils::sizeText(needed)));
     notification->setError();
     notification->notifyDialog();
@@ -151,7 +177,7 @@ void FileUtils::sendNotificationOverwriteRequest(QString real_file_path_to, QMap
     const QString text = real_file_path_to.isEmpty()
             ? tr("Do you want to overwrite all files/directories?")
             : tr("Do you want to overwrite %1 %2?").arg(kindOf(real_file_path_to), name);
-    sendRequest(tr("File Exists"), text, optional_args);
+    d->sendRequest(tr("File Exists"), text, optional_args);
 }
 
 void FileUtils::sendNotificationDeleteRequest(QString real_file_path, QMap<QString, QString> optional_args)
@@ -161,7 +187,7 @@ void FileUtils::sendNotificationDeleteRequest(QString real_file_path, QMap<QStri
     const QString text = count > 1
             ? tr("Do you want to delete these %1 files?").arg(count)
             : tr("Do you want to delete the %1 %2?").arg(kind, getSanitizedPathName(real_file_path));
-    sendRequest(tr("Delete %1").arg(kind), text, joined({{fileNameKey, real_file_path}}, optional_args));
+    d->sendRequest(tr("Delete %1").arg(kind), text, joined({{fileNameKey, real_file_path}}, optional_args));
 }
 
 void FileUtils::sendNotificationOverwriteReportRequest(QString real_file_path, QMap<QString, QString> optional_args)
@@ -170,7 +196,7 @@ void FileUtils::sendNotificationOverwriteReportRequest(QString real_file_path, Q
     QString name = getSanitizedPathName(real_file_path);
     if (name.endsWith(QLatin1String(".pdf.gz")))
         name.chop(compression.size());
-    sendRequest(tr("Report Exists"), tr("Do you want to overwrite report %1?").arg(name),
+    d->sendRequest(tr("Report Exists"), tr("Do you want to overwrite report %1?").arg(name),
             joined({{fileNameKey, real_file_path}}, optional_args));
 }
 
@@ -178,7 +204,7 @@ void FileUtils::sendNotificationOverwriteScreenshotRequest(
         QString real_file_path, QString icon_file, QMap<QString, QString> optional_args)
 {
     const QString name = getSanitizedPathName(real_file_path);
-    sendRequest(tr("File Exists"), tr("Do you want to overwrite screenshot %1?").arg(name),
+    d->sendRequest(tr("File Exists"), tr("Do you want to overwrite screenshot %1?").arg(name),
             joined({{fileNameKey, real_file_path}, {iconFileKey, icon_file}}, optional_args));
 }
 
@@ -194,29 +220,29 @@ qint64 FileUtils::getDirSize(QString src_path, QString dest_path, qint64 fs_bloc
     return blocks.value_or(std::numeric_limits<qint64>::max());
 }
 
-KIVNotification* FileUtils::freshNotification(const QString& title, const QString& text)
+KIVNotification* FileUtilsPrivate::freshNotification(const QString& title, const QString& text)
 {
     // Whoever is hearing its answer may be the one who raises the next.
-    if (m_notification)
-        m_notification->deleteLater();
-    m_notification = new KIVNotification(this);
-    m_notification->setLongLabel(title);
-    m_notification->setMsg(text);
-    return m_notification;
+    if (pending)
+        pending->deleteLater();
+    pending = new KIVNotification(q);
+    pending->setLongLabel(title);
+    pending->setMsg(text);
+    return pending;
 }
 
-void FileUtils::sendError(const QString& title, const QString& text)
+void FileUtilsPrivate::sendError(const QString& title, const QString& text)
 {
     KIVNotification* notification = freshNotification(title, text);
     notification->setError();
     // Whoever watches the tray may end the object that tells.
-    const QPointer<FileUtils> self(this);
+    const QPointer<FileUtils> self(q);
     notification->notifyTray();
     if (self)
         notification->notifyDialog();
 }
 
-void FileUtils::sendRequest(const QString& title, const QString& text, const QMap<QString, QString>& values)
+void FileUtilsPrivate::sendRequest(const QString& title, const QString& text, const QMap<QString, QString>& values)
 {
     KIVNotification* notification = freshNotification(title, text);
     notification->setRequest();
@@ -225,18 +251,18 @@ void FileUtils::sendRequest(const QString& title, const QString& text, const QMa
     notification->notifyDialog();
 }
 
-bool FileUtils::isPending(const KIVNotification* notification) const
+bool FileUtilsPrivate::isPending(const KIVNotification* notification) const
 {
-    if (!m_notification || !notification)
+    if (!pending || !notification)
         return false;
-    const QVariant uid = m_notification->value(uidKey);
+    const QVariant uid = pending->value(uidKey);
     return uid.isValid() && uid == notification->value(uidKey);
 }
 
-bool FileUtils::hasRoom(const QString& path, const uiutils::DriveSpace& space, qint64 blocks)
+bool FileUtilsPrivate::hasRoom(const QString& path, const DriveSpace& space, qint64 blocks)
 {
     if (blocks <= space.available)
         return true;
-    sendNotificationNotEnoughSpace(path, uiutils::bytesIn(blocks - space.available, space.blockSize));
+    q->sendNotificationNotEnoughSpace(path, bytesIn(blocks - space.available, space.blockSize));
     return false;
 }

@@ -6,11 +6,12 @@
 
 #include <QMap>
 #include <QObject>
-#include <QPointer>
 #include <QString>
 
+#include <memory>
+
 namespace uiutils {
-struct DriveSpace;
+class FileUtilsPrivate;
 }
 
 /// File work as the user meets it: whether there is room for what is to be written, what went wrong, and what may be
@@ -82,11 +83,5 @@ Q_SIGNALS:
     void rejected(KIVNotification* notification);
 
 private:
-    KIVNotification* freshNotification(const QString& title, const QString& text);
-    void sendError(const QString& title, const QString& text);
-    void sendRequest(const QString& title, const QString& text, const QMap<QString, QString>& values);
-    bool isPending(const KIVNotification* notification) const;
-    bool hasRoom(const QString& path, const uiutils::DriveSpace& space, qint64 blocks);
-
-    QPointer<KIVNotification> m_notification;
+    const std::unique_ptr<uiutils::FileUtilsPrivate> d;
 };

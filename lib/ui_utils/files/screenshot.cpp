@@ -5,27 +5,48 @@
 
 namespace paths = uiutils::paths;
 
-Screenshot::Screenshot() = default;
+class uiutils::ScreenshotPrivate
+{
+public:
+    QString baseName;
+    ReportMetadata metadata;
+};
+
+Screenshot::Screenshot()
+    : d(std::make_unique<uiutils::ScreenshotPrivate>())
+{
+}
+
 Screenshot::~Screenshot() = default;
 
 void Screenshot::setBaseName(const QString& baseName)
 {
-    m_baseName = baseName;
+    d->baseName = baseName;
+}
+
+QString Screenshot::baseName() const
+{
+    return d->baseName;
+}
+
+const ReportMetadata& Screenshot::metadata() const
+{
+    return d->metadata;
 }
 
 void Screenshot::updateMetadataInformation()
 {
-    m_metadata.clear();
-    m_metadata.setFormat(QStringLiteral("image/png"));
-    m_metadata.setType(QStringLiteral("TESTDATA.screenshot"));
-    m_metadata.setMetadataPath(paths::screenshotMetadata);
-    m_metadata.setOriginBase(paths::screenshots);
-    uiutils::instrument::addWorkOrder(&m_metadata);
+    d->metadata.clear();
+    d->metadata.setFormat(QStringLiteral("image/png"));
+    d->metadata.setType(QStringLiteral("TESTDATA.screenshot"));
+    d->metadata.setMetadataPath(paths::screenshotMetadata);
+    d->metadata.setOriginBase(paths::screenshots);
+    uiutils::instrument::addWorkOrder(&d->metadata);
 }
 
 bool Screenshot::saveMetadata()
 {
     updateMetadataInformation();
-    m_metadata.setMetadataName(m_baseName + QLatin1String(".png"));
-    return m_metadata.saveMetadataToFile();
+    d->metadata.setMetadataName(d->baseName + QLatin1String(".png"));
+    return d->metadata.saveMetadataToFile();
 }

@@ -6,6 +6,12 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
+namespace uiutils {
+class ScreenshotPrivate;
+}
+
 /// The metadata record of a screenshot, by which the instrument's file and cloud tools know what it was taken for.
 ///
 /// Pictures are PNG files in "/cust/public/screenshots/", their records lie in "/cust/private/screenshots/metadata/".
@@ -20,10 +26,10 @@ public:
 
     /// The picture's file name without ".png" and without folders.
     void setBaseName(const QString& baseName);
-    QString baseName() const { return m_baseName; }
+    QString baseName() const;
 
     /// The record as last made.
-    const ReportMetadata& metadata() const { return m_metadata; }
+    const ReportMetadata& metadata() const;
 
     /// Makes the record anew: a screenshot, with the pairs "wo" and "workflowId" of the work order that is active now
     /// in the application's session, as the workflow manager says. Without one, or without a workflow manager, it has
@@ -35,6 +41,5 @@ public:
     bool saveMetadata();
 
 private:
-    QString m_baseName;
-    ReportMetadata m_metadata;
+    const std::unique_ptr<uiutils::ScreenshotPrivate> d;
 };

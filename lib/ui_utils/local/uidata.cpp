@@ -1,13 +1,15 @@
-#include "local/uidata.h"
+#include "local/uidata_p.h"
 
 #include "core/indexrange_p.h"
 #include "core/plainvalue_p.h"
-#include "local/uidatacontainer.h"
+#include "local/uidatacontainer_p.h"
 
 #include <QDebug>
 #include <QQmlEngine>
 
 using uiutils::isWithin;
+using uiutils::UiDataContainerPrivate;
+using uiutils::UiDataPrivate;
 
 const QString UiData::TYPE_STRING = QStringLiteral("std::string");
 const QString UiData::TYPE_VEC_STRING = QStringLiteral("std::vector<string>");
@@ -46,13 +48,14 @@ const QString formatter = QStringLiteral("formatter");
 } // namespace
 
 UiData::UiData(QObject* parent)
-    : KivData(parent)
-    , m_enumList(new UiDataEnums(this))
-    , m_enumMap(new QQmlPropertyMap(this))
+    : KivData(std::make_unique<UiDataPrivate>(), parent)
+    , d(static_cast<UiDataPrivate*>(uiutils::KivDataPrivate::of(this)))
 {
-    QQmlEngine::setObjectOwnership(m_enumMap, QQmlEngine::CppOwnership);
-    QQmlEngine::setObjectOwnership(m_enumList, QQmlEngine::CppOwnership);
-    connect(m_enumList, &UiDataEnums::itemsChanged, this, &UiData::slotEnumUpdate);
+    d->enumList = new UiDataEnums(this);
+    d->enumMap = new QQmlPropertyMap(this);
+    QQmlEngine::setObjectOwnership(d->enumMap, QQmlEngine::CppOwnership);
+    QQmlEngine::setObjectOwnership(d->enumList, QQmlEngine::CppOwnership);
+    connect(d->enumList, &UiDataEnums::itemsChanged, this, &UiData::slotEnumUpdate);
     // A range is set in two steps; the validator waits until both are done.
     connect(this, &UiData::minRangeChanged, this, &UiData::slotValidatorUpdate, Qt::QueuedConnection);
     connect(this, &UiData::maxRangeChanged, this, &UiData::slotValidatorUpdate, Qt::QueuedConnection);
@@ -62,26 +65,31 @@ UiData::UiData(QObject* parent)
 UiData::~UiData()
 {
     UiDataContainer::shared();
-    while (!m_containers.isEmpty())
-        m_containers.constLast()->removeItem(this);
+    while (!d->containers.isEmpty())
+        d->containers.constLast()->removeItem(this);
     // The context holds a plain pointer.
     const QString id = getRegisterId();
-    if (m_rootContext && m_rootContext->isValid() && !id.isEmpty()
-            && m_rootContext->contextProperty(id).value<QObject*>() == this)
-        m_rootContext->setContextProperty(id, nullptr);
+    if (d->rootContext && d->rootContext->isValid() && !id.isEmpty()
+            && d->rootContext->contextProperty(id).value<QObject*>() == this)
+        d->rootContext->setContextProperty(id, nullptr);
 }
 
 // --- Attributes ----------------------------------------------------------------------------------
 
 void UiData::setAttributes(const QMap<QString, QVariant>& attributes)
 {
-    if (attributes != m_attributes)
-        m_attributes = attributes;
-    tellContainers();
+    if (attributes != d->attributes)
+        d->attributes = attributes;
+    d->tellContainers();
     const QPointer<UiData> self(this);
     slotValidatorUpdate();
     if (self)
         adoptFormatter(getAttr(keys::formatter).toString());
+}
+
+QVariant UiData::getAttr(QString const& key) const
+{
+    return d->attributes.value(key);
 }
 
 QString UiData::getId() const
@@ -102,9 +110,9 @@ QString UiData::getType() const
 
 void UiData::setType(const QString& type)
 {
-    m_attributes.insert(keys::type, type);
-    if (m_isBeingDeclared)
-        holdValue(declared(getValue()));
+    d->attributes.insert(keys::type, type);
+    if (d->isBeingDeclared)
+        holdValue(d->declared(getValue()));
     // QML sets properties in the order in which they are written, the type perhaps behind the expression.
     updateValidator();
     Q_EMIT typeChanged();
@@ -117,7 +125,7 @@ QString UiData::getLabel() const
 
 void UiData::setLabel(const QString& label)
 {
-    m_attributes.insert(keys::label, label);
+    d->attributes.insert(keys::label, label);
     Q_EMIT labelChanged();
 }
 
@@ -128,7 +136,7 @@ QString UiData::getRegex() const
 
 void UiData::setRegex(const QString& regex)
 {
-    m_attributes.insert(keys::regex, regex);
+    d->attributes.insert(keys::regex, regex);
     Q_EMIT regexChanged();
 }
 
@@ -139,7 +147,7 @@ QVariant UiData::getMinRange() const
 
 void UiData::setMinRange(const QVariant& minimum)
 {
-    m_attributes.insert(keys::minRange, uiutils::plainValue(minimum));
+    d->attributes.insert(keys::minRange, uiutils::plainValue(minimum));
     const QPointer<UiData> self(this);
     Q_EMIT minRangeChanged();
     if (self)
@@ -153,7 +161,7 @@ QVariant UiData::getMaxRange() const
 
 void UiData::setMaxRange(const QVariant& maximum)
 {
-    m_attributes.insert(keys::maxRange, uiutils::plainValue(maximum));
+    d->attributes.insert(keys::maxRange, uiutils::plainValue(maximum));
     const QPointer<UiData> self(this);
     Q_EMIT maxRangeChanged();
     if (self)
@@ -162,14 +170,14 @@ void UiData::setMaxRange(const QVariant& maximum)
 
 void UiData::setPrecision(unsigned precision)
 {
-    m_attributes.insert(keys::precision, precision);
+    d->attributes.insert(keys::precision, precision);
     updateValidator();
     Q_EMIT precisionChanged();
 }
 
 void UiData::setInputType(unsigned inputType)
 {
-    m_attributes.insert(keys::inputType, inputType);
+    d->attributes.insert(keys::inputType, inputType);
     Q_EMIT inputTypeChanged();
 }
 
@@ -180,11 +188,11 @@ QString UiData::getRegisterId() const
 
 void UiData::setRegisterId(const QString& id)
 {
-    if (m_attributes.contains(keys::registerId)) {
+    if (d->attributes.contains(keys::registerId)) {
         qWarning("registerId already exsist!");
         return;
     }
-    m_attributes.insert(keys::registerId, id);
+    d->attributes.insert(keys::registerId, id);
 }
 
 bool UiData::isReadOnly() const
@@ -194,18 +202,18 @@ bool UiData::isReadOnly() const
 
 void UiData::setReadOnly(bool readOnly)
 {
-    m_attributes.insert(keys::readOnly, readOnly);
+    d->attributes.insert(keys::readOnly, readOnly);
     Q_EMIT readOnlyChanged();
 }
 
 bool UiData::isReady() const
 {
-    return m_attributes.value(keys::ready, true).toBool();
+    return d->attributes.value(keys::ready, true).toBool();
 }
 
 void UiData::setReady(bool ready)
 {
-    m_attributes.insert(keys::ready, ready);
+    d->attributes.insert(keys::ready, ready);
     const QPointer<UiData> self(this);
     Q_EMIT isReadyChanged();
     if (self)
@@ -214,12 +222,12 @@ void UiData::setReady(bool ready)
 
 bool UiData::isApplicable()
 {
-    return m_attributes.value(keys::applicable, true).toBool();
+    return d->attributes.value(keys::applicable, true).toBool();
 }
 
 void UiData::setApplicable(bool applicable)
 {
-    m_attributes.insert(keys::applicable, applicable);
+    d->attributes.insert(keys::applicable, applicable);
     slotApplicChanged();
 }
 
@@ -238,7 +246,7 @@ bool UiData::isPersistent() const
 
 void UiData::setPersistent(bool persistent)
 {
-    m_attributes.insert(keys::persistent, persistent);
+    d->attributes.insert(keys::persistent, persistent);
 }
 
 bool UiData::isMandatory() const
@@ -249,34 +257,34 @@ bool UiData::isMandatory() const
 void UiData::setMandatory(bool mandatory)
 {
     const bool isChange = mandatory != isMandatory();
-    m_attributes.insert(keys::mandatory, mandatory);
-    tellContainers();
+    d->attributes.insert(keys::mandatory, mandatory);
+    d->tellContainers();
     if (isChange)
         Q_EMIT mandatoryChanged();
 }
 
 bool UiData::isValueOk() const
 {
-    return m_attributes.value(keys::valueOk, true).toBool();
+    return d->attributes.value(keys::valueOk, true).toBool();
 }
 
 void UiData::setValueOk(bool valueOk)
 {
     const bool isChange = valueOk != isValueOk();
-    m_attributes.insert(keys::valueOk, valueOk);
-    tellContainers();
+    d->attributes.insert(keys::valueOk, valueOk);
+    d->tellContainers();
     if (isChange)
         Q_EMIT valueOkChanged();
 }
 
-void UiData::tellContainers()
+void UiDataPrivate::tellContainers()
 {
-    const bool isHindrance = isMandatory() && !isValueOk();
-    if (isHindrance == m_isHindrance)
+    const bool hinders = owner()->isMandatory() && !owner()->isValueOk();
+    if (hinders == isHindrance)
         return;
-    m_isHindrance = isHindrance;
-    for (UiDataContainer* container : qAsConst(m_containers))
-        container->countHindrance(isHindrance ? 1 : -1);
+    isHindrance = hinders;
+    for (UiDataContainer* container : qAsConst(containers))
+        UiDataContainerPrivate::of(container)->hindrances += hinders ? 1 : -1;
 }
 
 int UiData::getQualityCode() const
@@ -284,30 +292,30 @@ int UiData::getQualityCode() const
     return getAttr(keys::qualityCode).toInt();
 }
 
-void UiData::setQuality(int code)
+void UiDataPrivate::setQuality(int code)
 {
-    m_attributes.insert(keys::qualityCode, code);
-    Q_EMIT qualityCodeChanged();
+    attributes.insert(keys::qualityCode, code);
+    Q_EMIT q->qualityCodeChanged();
 }
 
 void UiData::setQualityNone()
 {
-    setQuality(KIVClientItem::QualityNone);
+    d->setQuality(KIVClientItem::QualityNone);
 }
 
 void UiData::setPassing()
 {
-    setQuality(KIVClientItem::QualityPassing);
+    d->setQuality(KIVClientItem::QualityPassing);
 }
 
 void UiData::setWarning()
 {
-    setQuality(KIVClientItem::QualityWarning);
+    d->setQuality(KIVClientItem::QualityWarning);
 }
 
 void UiData::setFailing()
 {
-    setQuality(KIVClientItem::QualityFailing);
+    d->setQuality(KIVClientItem::QualityFailing);
 }
 
 QVariant UiData::getProperty(QString const& prop) const
@@ -328,13 +336,33 @@ void UiData::slotValidatorUpdate()
 
 // --- Choices -------------------------------------------------------------------------------------
 
+UiDataEnums* UiData::getUiEnumList() const
+{
+    return d->enumList;
+}
+
+QObject* UiData::getEnums() const
+{
+    return d->enumMap;
+}
+
+QQmlPropertyMap* UiData::getEnumMap() const
+{
+    return d->enumMap;
+}
+
+QStringList UiData::getEnumLabels() const
+{
+    return d->enumLabels;
+}
+
 void UiData::setUiEnumList(UiDataEnums* list)
 {
-    if (list == m_enumList)
+    if (list == d->enumList)
         return;
-    if (m_enumList)
-        disconnect(m_enumList, &UiDataEnums::itemsChanged, this, &UiData::slotEnumUpdate);
-    m_enumList = list;
+    if (d->enumList)
+        disconnect(d->enumList, &UiDataEnums::itemsChanged, this, &UiData::slotEnumUpdate);
+    d->enumList = list;
     const QPointer<UiData> self(this);
     if (list)
         connect(list, &UiDataEnums::itemsChanged, this, &UiData::slotEnumUpdate);
@@ -344,17 +372,17 @@ void UiData::setUiEnumList(UiDataEnums* list)
             Q_EMIT typeChanged();
     }
     // One that is still being filled tells when it is done.
-    if (self && (!m_enumList || m_enumList->isComplete()))
+    if (self && (!d->enumList || d->enumList->isComplete()))
         slotEnumUpdate();
 }
 
 void UiData::setEnums(const QList<int>& values, const QStringList& labels, const QStringList& names)
 {
-    if (!m_enumList)
+    if (!d->enumList)
         return;
     for (int i = 0; i < values.size(); ++i)
-        m_enumList->append(new UiEnumType(m_enumList, labels.value(i), names.value(i), values.at(i), true));
-    m_enumList->componentComplete();
+        d->enumList->append(new UiEnumType(d->enumList, labels.value(i), names.value(i), values.at(i), true));
+    d->enumList->componentComplete();
 }
 
 void UiData::setEnums(const QList<int>& values, const QStringList& labels)
@@ -364,17 +392,17 @@ void UiData::setEnums(const QList<int>& values, const QStringList& labels)
 
 void UiData::slotEnumUpdate()
 {
-    const QStringList known = m_enumMap->keys();
+    const QStringList known = d->enumMap->keys();
     for (const QString& key : known)
-        m_enumMap->clear(key);
-    m_enumLabels.clear();
-    m_enumValues.clear();
-    const QList<UiEnumType*> choices = m_enumList ? m_enumList->getEnumList() : QList<UiEnumType*>();
+        d->enumMap->clear(key);
+    d->enumLabels.clear();
+    d->enumValues.clear();
+    const QList<UiEnumType*> choices = d->enumList ? d->enumList->getEnumList() : QList<UiEnumType*>();
     for (const UiEnumType* choice : choices) {
         if (!choice->getName().isEmpty())
-            m_enumMap->insert(choice->getName(), choice->getValue());
-        m_enumLabels.append(choice->getLabel());
-        m_enumValues.append(choice->getValue());
+            d->enumMap->insert(choice->getName(), choice->getValue());
+        d->enumLabels.append(choice->getLabel());
+        d->enumValues.append(choice->getValue());
     }
     const QPointer<UiData> self(this);
     Q_EMIT valueChanged();
@@ -386,14 +414,14 @@ void UiData::slotEnumUpdate()
 
 int UiData::getEnumCount() const
 {
-    return getType() == TYPE_BOOL ? 2 : m_enumValues.size();
+    return getType() == TYPE_BOOL ? 2 : d->enumValues.size();
 }
 
 QString UiData::enumLabel(int const& enumVal)
 {
     if (getType() == TYPE_BOOL)
         return enumVal == 0 ? tr("False") : enumVal == 1 ? tr("True") : QString();
-    return m_enumLabels.value(enumVal);
+    return d->enumLabels.value(enumVal);
 }
 
 QString UiData::enumLabelForValue(int const& enumVal)
@@ -406,21 +434,21 @@ int UiData::enumValue(int const& enumVal)
 {
     if (getType() == TYPE_BOOL)
         return isWithin(enumVal, 2) ? enumVal : -1;
-    return m_enumValues.value(enumVal, -1);
+    return d->enumValues.value(enumVal, -1);
 }
 
 int UiData::enumIndex(int const& enumVal)
 {
     if (getType() == TYPE_BOOL)
         return isWithin(enumVal, 2) ? enumVal : -1;
-    return m_enumValues.indexOf(enumVal);
+    return d->enumValues.indexOf(enumVal);
 }
 
 bool UiData::applicableAt(int const& i)
 {
     if (getType() == TYPE_BOOL)
         return isWithin(i, 2);
-    const UiEnumType* choice = m_enumList ? m_enumList->at(i) : nullptr;
+    const UiEnumType* choice = d->enumList ? d->enumList->at(i) : nullptr;
     return choice && choice->isApplicable();
 }
 
@@ -441,42 +469,42 @@ void UiData::revert() { }
 
 QObject* UiData::getObjectParent() const
 {
-    return m_declarer ? m_declarer.data() : parent();
+    return d->declarer ? d->declarer.data() : parent();
 }
 
 void UiData::classBegin()
 {
-    m_isBeingDeclared = true;
+    d->isBeingDeclared = true;
 }
 
 void UiData::componentComplete()
 {
-    m_isBeingDeclared = false;
+    d->isBeingDeclared = false;
     QQmlEngine* engine = qmlEngine(this);
     if (!engine) {
         qWarning("registerId is used for context property name in a engine");
         return;
     }
     // The container becomes the parent, but the item is no older than the page.
-    m_declarer = parent();
-    if (m_declarer)
-        connect(m_declarer, &QObject::destroyed, this, [this] { delete this; });
+    d->declarer = parent();
+    if (d->declarer)
+        connect(d->declarer, &QObject::destroyed, this, [this] { delete this; });
     const QPointer<UiData> self(this);
     UiDataContainer::shared()->addItem(this);
     if (self)
-        registerInEngine(engine->rootContext());
-    if (!self || !isVector() || !m_elements.isEmpty() || getValue().toString().isEmpty())
+        d->registerInEngine(engine->rootContext());
+    if (!self || !d->isVectorType() || !d->elements.isEmpty() || getValue().toString().isEmpty())
         return;
-    updateVectorValue();
+    d->updateVectorValue();
     Q_EMIT valueCountChanged();
 }
 
-void UiData::registerInEngine(QQmlContext* rootContext)
+void UiDataPrivate::registerInEngine(QQmlContext* context)
 {
-    m_rootContext = rootContext;
-    const QString id = getRegisterId();
-    if (!id.isEmpty())
-        rootContext->setContextProperty(id, this);
+    rootContext = context;
+    const QString name = owner()->getRegisterId();
+    if (!name.isEmpty())
+        context->setContextProperty(name, q);
 }
 
 StringUiData::StringUiData(QObject* parent)

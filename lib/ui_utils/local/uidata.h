@@ -5,15 +5,14 @@
 #include "service/kivdata.h"
 
 #include <QMap>
-#include <QQmlContext>
 #include <QQmlParserStatus>
 #include <QQmlPropertyMap>
 #include <QStringList>
 #include <QVector>
 
-#include <optional>
-
-class UiDataContainer;
+namespace uiutils {
+class UiDataPrivate;
+}
 
 /// A data item that no service publishes: a form's field, with the face of a service item.
 ///
@@ -79,7 +78,7 @@ public:
 
     /// Replaces all attributes. The first "formatter" among them stays the item's for good.
     void setAttributes(const QMap<QString, QVariant>& attributes);
-    QVariant getAttr(QString const& key) const override { return m_attributes.value(key); }
+    QVariant getAttr(QString const& key) const override;
 
     /// ":ui_only:NAME:" with the item's name, or with its register id when it has none.
     QString getId() const override;
@@ -133,14 +132,14 @@ public:
 
     // --- The choices ---
 
-    UiDataEnums* getUiEnumList() const { return m_enumList; }
+    UiDataEnums* getUiEnumList() const;
     void setUiEnumList(UiDataEnums* list);
     /// Adds choices, the three lists position by position; what a list lacks is empty.
     void setEnums(const QList<int>& values, const QStringList& labels, const QStringList& names);
     void setEnums(const QList<int>& values, const QStringList& labels);
-    QObject* getEnums() const override { return m_enumMap; }
-    QQmlPropertyMap* getEnumMap() const { return m_enumMap; }
-    QStringList getEnumLabels() const { return m_enumLabels; }
+    QObject* getEnums() const override;
+    QQmlPropertyMap* getEnumMap() const;
+    QStringList getEnumLabels() const;
     int getEnumCount() const override;
 
     void classBegin() override;
@@ -198,35 +197,8 @@ Q_SIGNALS:
     void validatorChanged();
 
 private:
-    friend class UiDataContainer;
-
-    bool isVector() const;
-    QVariant declared(const QVariant& value) const;
-    QVariant element(const QVariant& value) const;
-    void updateVectorValue();
-    void joinElements();
-    void holdText(const QString& text);
-    void setQuality(int code);
-    void tellContainers();
-    void registerInEngine(QQmlContext* rootContext);
-
-    QMap<QString, QVariant> m_attributes;
-    QVector<QVariant> m_elements;
-    /// The elements have changed since their text was made, which waits until somebody asks for it.
-    bool m_isTextStale = false;
-    /// As it was set last.
-    std::optional<int> m_arraySelection;
-    /// QML is setting what its file says.
-    bool m_isBeingDeclared = false;
-    QPointer<UiDataEnums> m_enumList;
-    QQmlPropertyMap* m_enumMap;
-    QStringList m_enumLabels;
-    QList<int> m_enumValues;
-    QPointer<QObject> m_declarer;
-    QPointer<QQmlContext> m_rootContext;
-    /// Those that the item stands in, and whether it keeps them from being ready.
-    QVector<UiDataContainer*> m_containers;
-    bool m_isHindrance = false;
+    friend class uiutils::UiDataPrivate;
+    uiutils::UiDataPrivate* const d;
 };
 
 /// A text.

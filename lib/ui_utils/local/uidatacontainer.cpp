@@ -1,25 +1,39 @@
-#include "local/uidatacontainer.h"
+#include "local/uidatacontainer_p.h"
 
-#include "local/uidata.h"
+#include "local/uidata_p.h"
 
 #include <QPointer>
+
+using uiutils::UiDataContainerPrivate;
+using uiutils::UiDataPrivate;
 
 UiDataContainer* UiDataContainer::s_dcInstance = nullptr;
 
 UiDataContainer::UiDataContainer(QObject* parent)
     : QObject(parent)
+    , d(std::make_unique<UiDataContainerPrivate>(this))
 {
 }
 
 UiDataContainer::~UiDataContainer()
 {
     // The children go after this and would look for their entries.
-    const QList<UiData*> items = m_items.values();
+    const QList<UiData*> items = d->items.values();
     for (UiData* item : items)
-        item->m_containers.removeAll(this);
-    m_items.clear();
+        UiDataPrivate::of(item)->containers.removeAll(this);
+    d->items.clear();
     if (s_dcInstance == this)
         s_dcInstance = nullptr;
+}
+
+bool UiDataContainer::getAllItemsOk() const
+{
+    return d->areItemsOk;
+}
+
+QMap<QString, UiData*> UiDataContainer::getItems() const
+{
+    return d->items;
 }
 
 UiDataContainer* UiDataContainer::shared()
@@ -35,12 +49,12 @@ void UiDataContainer::addItem(UiData* item)
         return;
     item->setParent(this);
     const QString id = item->getId();
-    enter(id, item);
+    d->enter(id, item);
     // Whoever hears of the stored value may end the item or the container.
     const QPointer<UiData> guard(item);
     const QPointer<UiDataContainer> self(this);
-    const auto stored = m_persistentConfig.constFind(id);
-    if (item->isPersistent() && stored != m_persistentConfig.cend() && item->getValue() != *stored)
+    const auto stored = d->persistentConfig.constFind(id);
+    if (item->isPersistent() && stored != d->persistentConfig.cend() && item->getValue() != *stored)
         item->setValue(QVariant(*stored));
     if (!self || !guard)
         return;
@@ -48,51 +62,53 @@ void UiDataContainer::addItem(UiData* item)
     slotValueUpdated();
 }
 
-void UiDataContainer::enter(const QString& id, UiData* item)
+void UiDataContainerPrivate::enter(const QString& id, UiData* item)
 {
-    UiData* former = m_items.value(id);
+    UiData* former = items.value(id);
     if (former == item)
         return;
-    m_items.insert(id, item);
-    m_ids.insert(item, id);
-    item->tellContainers();
-    if (!item->m_containers.contains(this)) {
-        item->m_containers.append(this);
-        countHindrance(item->m_isHindrance ? 1 : 0);
+    items.insert(id, item);
+    ids.insert(item, id);
+    UiDataPrivate* parts = UiDataPrivate::of(item);
+    parts->tellContainers();
+    if (!parts->containers.contains(q)) {
+        parts->containers.append(q);
+        hindrances += parts->isHindrance ? 1 : 0;
     }
-    if (former && m_ids.remove(former, id) > 0 && !m_ids.contains(former))
+    if (former && ids.remove(former, id) > 0 && !ids.contains(former))
         leave(former);
 }
 
-void UiDataContainer::leave(UiData* item)
+void UiDataContainerPrivate::leave(UiData* item)
 {
-    if (item->m_containers.removeAll(this) > 0)
-        countHindrance(item->m_isHindrance ? -1 : 0);
+    UiDataPrivate* parts = UiDataPrivate::of(item);
+    if (parts->containers.removeAll(q) > 0)
+        hindrances -= parts->isHindrance ? 1 : 0;
 }
 
 /// By its address, because an item's id may have changed since it came in, and another one may have taken its place.
 void UiDataContainer::removeItem(UiData* item)
 {
-    const QStringList ids = m_ids.values(item);
+    const QStringList ids = d->ids.values(item);
     if (ids.isEmpty())
         return;
     for (const QString& id : ids)
-        m_items.remove(id);
-    m_ids.remove(item);
-    leave(item);
+        d->items.remove(id);
+    d->ids.remove(item);
+    d->leave(item);
 }
 
 void UiDataContainer::setPersistentConfigMap(QMap<QString, QVariant> values)
 {
-    m_persistentConfig = values;
+    d->persistentConfig = values;
 }
 
 void UiDataContainer::slotValueUpdated()
 {
-    const bool areOk = m_hindrances == 0;
+    const bool areOk = d->hindrances == 0;
     const QPointer<UiDataContainer> self(this);
-    if (areOk != m_allItemsOk) {
-        m_allItemsOk = areOk;
+    if (areOk != d->areItemsOk) {
+        d->areItemsOk = areOk;
         Q_EMIT allItemsOkChanged();
     }
     if (self)

@@ -3,12 +3,17 @@
 #include "core/uiutils_export.h"
 
 #include <QMap>
-#include <QMultiHash>
 #include <QObject>
 #include <QString>
 #include <QVariant>
 
+#include <memory>
+
 class UiData;
+
+namespace uiutils {
+class UiDataContainerPrivate;
+}
 
 /// Local data items that belong together: one answer whether all of them may be used, one signal when any of them
 /// changes, and the place where persistent items find their stored values.
@@ -26,7 +31,7 @@ public:
     /// The container of all items that QML declares, made by the first call; it lives as long as the process.
     static UiDataContainer* shared();
 
-    bool getAllItemsOk() const { return m_allItemsOk; }
+    bool getAllItemsOk() const;
 
     /// Takes an item in, as the child of the container, in place of any other with its id. A persistent item takes the
     /// stored value of its id. Emits valueChanged() once.
@@ -34,7 +39,7 @@ public:
     /// Takes an item out; it stays a child of the container. Nothing happens, and nobody is told, when it is not in.
     void removeItem(UiData* item);
     /// The items by their ids.
-    QMap<QString, UiData*> getItems() const { return m_items; }
+    QMap<QString, UiData*> getItems() const;
 
     /// Replaces the stored values, by item id; items that are in already keep theirs.
     void setPersistentConfigMap(QMap<QString, QVariant> values);
@@ -50,17 +55,6 @@ public Q_SLOTS:
     void slotValueUpdated();
 
 private:
-    friend class UiData;
-    void enter(const QString& id, UiData* item);
-    void leave(UiData* item);
-    void countHindrance(int change) { m_hindrances += change; }
-
-    QMap<QString, UiData*> m_items;
-    /// The ids under which an item stands.
-    QMultiHash<UiData*, QString> m_ids;
-    /// Mandatory items with a value that is not acceptable. Items count themselves, so that no change of a value takes
-    /// a walk over all of them.
-    int m_hindrances = 0;
-    bool m_allItemsOk = false;
-    QMap<QString, QVariant> m_persistentConfig;
+    friend class uiutils::UiDataContainerPrivate;
+    const std::unique_ptr<uiutils::UiDataContainerPrivate> d;
 };

@@ -2,6 +2,13 @@
 
 #include <algorithm>
 
+class uiutils::UiDataEnumsPrivate
+{
+public:
+    QList<UiEnumType*> choices;
+    bool isComplete = false;
+};
+
 namespace {
 
 UiDataEnums* ownerOf(QQmlListProperty<QObject>* property)
@@ -31,36 +38,47 @@ QObject* choiceAt(QQmlListProperty<QObject>* property, int index)
 
 UiDataEnums::UiDataEnums(QObject* parent)
     : QObject(parent)
+    , d(std::make_unique<uiutils::UiDataEnumsPrivate>())
 {
 }
 
 UiDataEnums::~UiDataEnums() = default;
 
+QList<UiEnumType*> UiDataEnums::getEnumList() const
+{
+    return d->choices;
+}
+
+bool UiDataEnums::isComplete() const
+{
+    return d->isComplete;
+}
+
 UiEnumType* UiDataEnums::at(int i) const
 {
-    return m_choices.value(i);
+    return d->choices.value(i);
 }
 
 void UiDataEnums::append(UiEnumType* a)
 {
     if (!a)
         return;
-    m_choices.append(a);
+    d->choices.append(a);
     connect(a, &UiEnumType::applicableChanged, this, &UiDataEnums::itemsChanged, Qt::UniqueConnection);
     connect(a, &QObject::destroyed, this, &UiDataEnums::forget, Qt::UniqueConnection);
-    if (m_complete)
+    if (d->isComplete)
         Q_EMIT itemsChanged();
 }
 
 void UiDataEnums::forget(QObject* choice)
 {
     // Only its address is left of it.
-    const auto end = std::remove_if(m_choices.begin(), m_choices.end(),
+    const auto end = std::remove_if(d->choices.begin(), d->choices.end(),
             [choice](const UiEnumType* kept) { return static_cast<const QObject*>(kept) == choice; });
-    if (end == m_choices.end())
+    if (end == d->choices.end())
         return;
-    m_choices.erase(end, m_choices.end());
-    if (m_complete)
+    d->choices.erase(end, d->choices.end());
+    if (d->isComplete)
         Q_EMIT itemsChanged();
 }
 
@@ -68,7 +86,7 @@ QQmlListProperty<QObject> UiDataEnums::getItems()
 {
     const auto clear = [](QQmlListProperty<QObject>* property) {
         if (UiDataEnums* owner = ownerOf(property))
-            owner->m_choices.clear();
+            owner->d->choices.clear();
     };
     return QQmlListProperty<QObject>(this, nullptr, appendChoice, countChoices, choiceAt, clear);
 }
@@ -77,6 +95,6 @@ void UiDataEnums::classBegin() { }
 
 void UiDataEnums::componentComplete()
 {
-    m_complete = true;
+    d->isComplete = true;
     Q_EMIT itemsChanged();
 }

@@ -8,6 +8,12 @@
 #include <QQmlListProperty>
 #include <QQmlParserStatus>
 
+#include <memory>
+
+namespace uiutils {
+class UiDataEnumsPrivate;
+}
+
 /// The choices of a local data item, in their order.
 ///
 /// The list owns no choice; one that is destroyed leaves it. Choices come in silently until componentComplete(), which
@@ -30,8 +36,8 @@ public:
     /// Adds a choice at the end; null is ignored.
     Q_INVOKABLE void append(UiEnumType* a);
 
-    QList<UiEnumType*> getEnumList() const { return m_choices; }
-    bool isComplete() const { return m_complete; }
+    QList<UiEnumType*> getEnumList() const;
+    bool isComplete() const;
     QQmlListProperty<QObject> getItems();
 
     void classBegin() override;
@@ -44,6 +50,5 @@ Q_SIGNALS:
 private:
     void forget(QObject* choice);
 
-    QList<UiEnumType*> m_choices;
-    bool m_complete = false;
+    const std::unique_ptr<uiutils::UiDataEnumsPrivate> d;
 };

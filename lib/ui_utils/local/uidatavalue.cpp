@@ -1,6 +1,6 @@
 // The part of UiData that takes, holds and shows values and their elements.
 
-#include "local/uidata.h"
+#include "local/uidata_p.h"
 
 #include "core/indexrange_p.h"
 #include "core/plainvalue_p.h"
@@ -19,6 +19,7 @@
 #include <utility>
 
 using uiutils::isWithin;
+using uiutils::UiDataPrivate;
 
 namespace {
 
@@ -110,26 +111,26 @@ int wholeNumber(const QVariant& value)
 
 } // namespace
 
-bool UiData::isVector() const
+bool UiDataPrivate::isVectorType() const
 {
-    const QString type = getType();
-    return type == TYPE_VEC_INT || type == TYPE_VEC_DOUBLE || type == TYPE_VEC_STRING;
+    const QString type = q->getType();
+    return type == UiData::TYPE_VEC_INT || type == UiData::TYPE_VEC_DOUBLE || type == UiData::TYPE_VEC_STRING;
 }
 
 /// QML makes a point of the literal "1,2" and a time of "10:20" where any value is taken. A text is what was written.
-QVariant UiData::declared(const QVariant& value) const
+QVariant UiDataPrivate::declared(const QVariant& given) const
 {
-    return m_isBeingDeclared && (getType() == TYPE_STRING || isVector()) ? asLiteral(value) : value;
+    return isBeingDeclared && (q->getType() == UiData::TYPE_STRING || isVectorType()) ? asLiteral(given) : given;
 }
 
 void UiData::setValue(QVariant value)
 {
     value = uiutils::plainValue(value);
-    if (!isVector()) {
-        value = declared(value);
+    if (!d->isVectorType()) {
+        value = d->declared(value);
         if (!mayWrite(!uiutils::isSameValue(value, getValue())))
             return;
-        m_isTextStale = false;
+        d->isTextStale = false;
         holdValue(value);
         announce({&UiData::valueChanged});
         return;
@@ -138,69 +139,69 @@ void UiData::setValue(QVariant value)
     // An empty text is one empty element, an empty list none.
     const bool isNone
             = text.isEmpty() && value.isValid() && value.type() != QVariant::String && value.toList().isEmpty();
-    if (!mayWrite(text != getValue() || isNone != m_elements.isEmpty()))
+    if (!mayWrite(text != getValue() || isNone != d->elements.isEmpty()))
         return;
-    holdText(text);
+    d->holdText(text);
     if (isNone)
-        m_elements.clear();
+        d->elements.clear();
     else
-        updateVectorValue();
+        d->updateVectorValue();
     announce({&UiData::valueCountChanged, &UiData::valueChanged});
 }
 
 void UiData::setValue(QVector<QVariant> elements)
 {
-    if (!mayWrite(elements != m_elements))
+    if (!mayWrite(elements != d->elements))
         return;
-    m_elements = std::move(elements);
-    m_isTextStale = true;
+    d->elements = std::move(elements);
+    d->isTextStale = true;
     announce({&UiData::valueChanged, &UiData::valueCountChanged});
 }
 
-QVariant UiData::element(const QVariant& value) const
+QVariant UiDataPrivate::element(const QVariant& given) const
 {
-    const QString type = getType();
-    const QVariant plain = uiutils::plainValue(value);
-    if (type == TYPE_VEC_DOUBLE)
+    const QString type = q->getType();
+    const QVariant plain = uiutils::plainValue(given);
+    if (type == UiData::TYPE_VEC_DOUBLE)
         return plain.toDouble();
-    if (type == TYPE_VEC_INT)
+    if (type == UiData::TYPE_VEC_INT)
         return wholeNumber(plain);
     return plain.toString();
 }
 
-void UiData::updateVectorValue()
+void UiDataPrivate::updateVectorValue()
 {
     const QString nothing(QChar(0));
-    const bool isText = getType() == TYPE_VEC_STRING;
-    const QStringList parts = getValue().toString().split(QLatin1Char(','));
-    m_elements.clear();
-    m_elements.reserve(parts.size());
+    const bool takesTexts = q->getType() == UiData::TYPE_VEC_STRING;
+    const QStringList parts = q->getValue().toString().split(QLatin1Char(','));
+    elements.clear();
+    elements.reserve(parts.size());
     for (const QString& part : parts) {
-        if (!isText || part != nothing)
-            m_elements.append(element(part));
+        if (!takesTexts || part != nothing)
+            elements.append(element(part));
     }
 }
 
 QVariant UiData::getValue() const
 {
-    if (m_isTextStale)
-        const_cast<UiData*>(this)->joinElements();
+    if (d->isTextStale)
+        d->joinElements();
     return KivData::getValue();
 }
 
-void UiData::joinElements()
+void UiDataPrivate::joinElements()
 {
     QStringList texts;
-    texts.reserve(m_elements.size());
-    for (const QVariant& part : qAsConst(m_elements))
+    texts.reserve(elements.size());
+    for (const QVariant& part : qAsConst(elements))
         texts.append(part.toString());
     holdText(texts.join(QLatin1Char(',')));
 }
 
-void UiData::holdText(const QString& text)
+void UiDataPrivate::holdText(const QString& text)
 {
-    m_isTextStale = false;
-    holdValue(text);
+    isTextStale = false;
+    owner()->holdValue(text);
 }
 
 QString UiData::getValueString(bool showUnits) const
@@ -211,20 +212,20 @@ QString UiData::getValueString(bool showUnits) const
     if (type == TYPE_BOOL)
         return getValue().toInt() != 0 ? tr("True") : tr("False");
     if (type == TYPE_ENUM) {
-        const int position = m_enumValues.indexOf(getValue().toInt());
-        return getValue().isValid() ? m_enumLabels.value(position) : QString();
+        const int position = d->enumValues.indexOf(getValue().toInt());
+        return getValue().isValid() ? d->enumLabels.value(position) : QString();
     }
     return type == TYPE_DOUBLE ? uiutils::plainText(getValue().toDouble(), getPrecision()) : textOf(getValue());
 }
 
 int UiData::getValueCount() const
 {
-    return m_elements.size();
+    return d->elements.size();
 }
 
 QVariant UiData::variantAt(int ind) const
 {
-    return m_elements.value(ind);
+    return d->elements.value(ind);
 }
 
 QVariant UiData::at(int ind) const
@@ -239,45 +240,45 @@ QVariant UiData::getArrayValue(int index) const
 
 void UiData::setAt(int ind, QVariant const& val)
 {
-    if (!isWithin(ind, m_elements.size()))
+    if (!isWithin(ind, d->elements.size()))
         return;
-    const QVariant written = element(val);
-    if (!mayWrite(!uiutils::isSameValue(written, m_elements.at(ind))))
+    const QVariant written = d->element(val);
+    if (!mayWrite(!uiutils::isSameValue(written, d->elements.at(ind))))
         return;
-    m_elements[ind] = written;
-    m_isTextStale = true;
+    d->elements[ind] = written;
+    d->isTextStale = true;
     announce({&UiData::valueChanged, &UiData::arraySelectionChanged});
 }
 
 void UiData::insertAt(int ind, const QVariant& val)
 {
-    if (!isVector() || !isWithin(ind, m_elements.size() + 1) || !mayWrite(true))
+    if (!d->isVectorType() || !isWithin(ind, d->elements.size() + 1) || !mayWrite(true))
         return;
-    m_elements.insert(ind, element(val));
-    m_isTextStale = true;
+    d->elements.insert(ind, d->element(val));
+    d->isTextStale = true;
     announce({&UiData::valueChanged, &UiData::valueCountChanged, &UiData::arraySelectionChanged});
 }
 
 void UiData::removeAt(int at)
 {
-    if (!isWithin(at, m_elements.size()) || !mayWrite(true))
+    if (!isWithin(at, d->elements.size()) || !mayWrite(true))
         return;
-    m_elements.removeAt(at);
+    d->elements.removeAt(at);
     // What was selected at the end moves with the end.
-    if (m_arraySelection == m_elements.size() && !m_elements.isEmpty())
-        --*m_arraySelection;
-    m_isTextStale = true;
+    if (d->arraySelection == d->elements.size() && !d->elements.isEmpty())
+        --*d->arraySelection;
+    d->isTextStale = true;
     announce({&UiData::valueChanged, &UiData::arraySelectionChanged, &UiData::valueCountChanged});
 }
 
 int UiData::getArraySelection() const
 {
-    return m_arraySelection.value_or(m_elements.isEmpty() ? -1 : 0);
+    return d->arraySelection.value_or(d->elements.isEmpty() ? -1 : 0);
 }
 
 void UiData::setArraySelection(int index)
 {
-    m_arraySelection = index;
+    d->arraySelection = index;
     Q_EMIT arraySelectionChanged();
 }
 

@@ -1,37 +1,68 @@
 #include "local/uienumtype.h"
 
+class uiutils::UiEnumTypePrivate
+{
+public:
+    QString label;
+    QString name;
+    int value = 0;
+    bool isApplicable = true;
+};
+
 UiEnumType::UiEnumType(QObject* parent)
-    : QObject(parent)
+    : UiEnumType(parent, QString(), QString(), 0, true)
 {
 }
 
 UiEnumType::UiEnumType(QObject* parent, const QString& label, const QString& name, int value, bool applicable)
     : QObject(parent)
-    , m_label(label)
-    , m_name(name)
-    , m_value(value)
-    , m_applicable(applicable)
+    , d(new uiutils::UiEnumTypePrivate {label, name, value, applicable})
 {
 }
 
 UiEnumType::~UiEnumType() = default;
 
+QString UiEnumType::getLabel() const
+{
+    return d->label;
+}
+
 void UiEnumType::setLabel(const QString& label)
 {
-    m_label = label;
+    d->label = label;
     Q_EMIT labelChanged();
+}
+
+QString UiEnumType::getName() const
+{
+    return d->name;
+}
+
+void UiEnumType::setName(const QString& name)
+{
+    d->name = name;
+}
+
+int UiEnumType::getValue() const
+{
+    return d->value;
 }
 
 void UiEnumType::setValue(int value)
 {
-    m_value = value;
+    d->value = value;
     Q_EMIT valueChanged();
+}
+
+bool UiEnumType::isApplicable() const
+{
+    return d->isApplicable;
 }
 
 void UiEnumType::setApplicable(bool applicable)
 {
-    if (applicable == m_applicable)
+    if (applicable == d->isApplicable)
         return;
-    m_applicable = applicable;
+    d->isApplicable = applicable;
     Q_EMIT applicableChanged();
 }

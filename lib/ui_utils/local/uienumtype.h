@@ -5,6 +5,12 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
+namespace uiutils {
+class UiEnumTypePrivate;
+}
+
 /// One choice of a local data item.
 class UIUTILS_EXPORT UiEnumType : public QObject
 {
@@ -24,13 +30,13 @@ public:
     UiEnumType(QObject* parent, const QString& label, const QString& name, int value, bool applicable);
     ~UiEnumType() override;
 
-    QString getLabel() const { return m_label; }
+    QString getLabel() const;
     void setLabel(const QString& label);
-    QString getName() const { return m_name; }
-    void setName(const QString& name) { m_name = name; }
-    int getValue() const { return m_value; }
+    QString getName() const;
+    void setName(const QString& name);
+    int getValue() const;
     void setValue(int value);
-    bool isApplicable() const { return m_applicable; }
+    bool isApplicable() const;
     void setApplicable(bool applicable);
 
 Q_SIGNALS:
@@ -40,8 +46,5 @@ Q_SIGNALS:
     void valueChanged();
 
 private:
-    QString m_label;
-    QString m_name;
-    int m_value = 0;
-    bool m_applicable = true;
+    const std::unique_ptr<uiutils::UiEnumTypePrivate> d;
 };

@@ -1,6 +1,7 @@
 #include "service/kivaggregatedata.h"
 
 #include "core/plainvalue_p.h"
+#include "service/kivdata_p.h"
 #include "service/qmlaggregate.h"
 
 #include <kiv/kivaggregateclientitem.h>
@@ -8,18 +9,30 @@
 #include <QQmlEngine>
 #include <QQmlPropertyMap>
 
-KivAggregateData::KivAggregateData(KivAggregateClientItem* item, Manifest* manifest)
-    : KivData(item, manifest)
-    , m_map(new QMLAggregate(*this))
+class uiutils::KivAggregateDataPrivate : public KivDataPrivate
 {
-    QQmlEngine::setObjectOwnership(m_map, QQmlEngine::CppOwnership);
+public:
+    QPointer<QMLAggregate> map;
+    /// Counts the fillings of the map.
+    unsigned fills = 0;
+};
+
+using uiutils::KivAggregateDataPrivate;
+using uiutils::KivDataPrivate;
+
+KivAggregateData::KivAggregateData(KivAggregateClientItem* item, Manifest* manifest)
+    : KivData(std::make_unique<KivAggregateDataPrivate>(), item, manifest)
+    , d(static_cast<KivAggregateDataPrivate*>(KivDataPrivate::of(this)))
+{
+    d->map = new QMLAggregate(*this);
+    QQmlEngine::setObjectOwnership(d->map, QQmlEngine::CppOwnership);
     updateQmlMapFromItem();
 }
 
 KivAggregateData::~KivAggregateData()
 {
-    if (m_map)
-        m_map->release();
+    if (d->map)
+        d->map->release();
 }
 
 KivAggregateClientItem* KivAggregateData::aggregateItem() const
@@ -29,7 +42,7 @@ KivAggregateClientItem* KivAggregateData::aggregateItem() const
 
 QVariant KivAggregateData::getValue() const
 {
-    return QVariant::fromValue<QQmlPropertyMap*>(m_map);
+    return QVariant::fromValue<QQmlPropertyMap*>(d->map);
 }
 
 void KivAggregateData::updateQmlMapFromItem()
@@ -39,19 +52,19 @@ void KivAggregateData::updateQmlMapFromItem()
         return;
     const KivAggregate aggregate = source->getAggregate();
     const QPointer<KivAggregateData> self(this);
-    const QPointer<QMLAggregate> map = m_map;
-    const unsigned fill = ++m_fills;
+    const QPointer<QMLAggregate> map = d->map;
+    const unsigned fill = ++d->fills;
     const QList<QByteArray> names = aggregate.getPropertyNames();
     for (const QByteArray& name : names) {
         // A slot on a key may delete the wrapper, and the map with it, or let the service report anew.
-        if (!self || fill != m_fills)
+        if (!self || fill != d->fills)
             return;
         const QString key = QString::fromUtf8(name);
         const QVariant value = aggregate.getPropertyVariant(name);
         // The map takes numbers that hardly differ for the same.
         if (map->value(key) == value && !uiutils::isSameValue(map->value(key), value))
             map->insert(key, QVariant());
-        if (self && fill == m_fills)
+        if (self && fill == d->fills)
             map->insert(key, value);
     }
 }

@@ -3,7 +3,10 @@
 #include "service/kivdata.h"
 
 class KivAggregateClientItem;
-class QMLAggregate;
+
+namespace uiutils {
+class KivAggregateDataPrivate;
+}
 
 /// A record of a service as QML sees it: `value` is a QMLAggregate with a key for each member.
 class UIUTILS_EXPORT KivAggregateData : public KivData
@@ -27,7 +30,5 @@ private:
     void slotValueChanged() override;
     KivAggregateClientItem* aggregateItem() const;
 
-    QPointer<QMLAggregate> m_map;
-    /// Counts the fillings of the map.
-    unsigned m_fills = 0;
+    uiutils::KivAggregateDataPrivate* const d;
 };

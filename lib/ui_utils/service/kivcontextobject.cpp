@@ -1,11 +1,13 @@
 #include "service/kivcontextobject_p.h"
 
-#include "service/kivdata.h"
+#include "service/kivdata_p.h"
 #include "service/manifest.h"
 
 #include <QDebug>
 
 #include <algorithm>
+
+using uiutils::KivDataPrivate;
 
 namespace {
 
@@ -51,7 +53,7 @@ KIVContextObject::Names KIVContextObject::namesOf(const QMap<QString, KivData*>&
     QVector<QPair<QByteArray, Item>> named;
     named.reserve(items.size());
     for (auto it = items.cbegin(); it != items.cend(); ++it) {
-        QByteArray name = *it ? (*it)->contextName().toUtf8() : QByteArray();
+        QByteArray name = *it ? KivDataPrivate::of(*it)->contextName().toUtf8() : QByteArray();
         if (!name.isEmpty())
             named.append({std::move(name), {it.key(), *it}});
     }
@@ -82,7 +84,7 @@ void KIVContextObject::readProperty(int index, void* result) const
     KivData* wrapper = item.wrapper;
     if (!wrapper) {
         wrapper = Manifest::getKivData(item.id);
-        if (wrapper && wrapper->contextName().toUtf8() != nameOf(index))
+        if (wrapper && KivDataPrivate::of(wrapper)->contextName().toUtf8() != nameOf(index))
             wrapper = nullptr;
     }
     *static_cast<KivData**>(result) = wrapper;

@@ -1,4 +1,4 @@
-#include "service/kivdata.h"
+#include "service/kivdata_p.h"
 
 #include "core/itemids.h"
 #include "core/plainvalue_p.h"
@@ -7,7 +7,7 @@
 #include "service/enumnames_p.h"
 #include "service/inputrange_p.h"
 #include "service/inputvalidator_p.h"
-#include "service/manifest.h"
+#include "service/manifest_p.h"
 
 #include <kiv/kivaggregateclientitem.h>
 #include <kiv/kivenumclientitem.h>
@@ -18,61 +18,79 @@
 #include <QStringBuilder>
 
 #include <cstdio>
+#include <utility>
+
+using uiutils::KivDataPrivate;
+
+KivDataPrivate::KivDataPrivate() = default;
+KivDataPrivate::~KivDataPrivate() = default;
 
 KivData::KivData(QObject* parent)
-    : QObject(parent)
+    : KivData(std::make_unique<KivDataPrivate>(), parent)
 {
 }
 
 KivData::KivData(KIVClientItem* item, Manifest* manifest)
-    : QObject(manifest)
-    , m_item(item)
+    : KivData(std::make_unique<KivDataPrivate>(), item, manifest)
 {
+}
+
+KivData::KivData(std::unique_ptr<KivDataPrivate> parts, QObject* parent)
+    : QObject(parent)
+    , d(std::move(parts))
+{
+    d->q = this;
+}
+
+KivData::KivData(std::unique_ptr<KivDataPrivate> parts, KIVClientItem* item, Manifest* manifest)
+    : KivData(std::move(parts), static_cast<QObject*>(manifest))
+{
+    d->item = item;
     if (!item)
         return;
-    m_id = item->getId();
-    m_value = item->getValue();
-    createFormatter();
-    connectItem();
+    d->id = item->getId();
+    d->value = item->getValue();
+    d->createFormatter();
+    d->connectItem();
 }
 
 KivData::~KivData()
 {
-    if (m_announcing)
-        m_announcing->abandon();
-    Manifest::forget(m_id, this);
+    if (d->announcing)
+        d->announcing->abandon();
+    uiutils::ManifestPrivate::forget(d->id, this);
 }
 
 // --- The item ------------------------------------------------------------------------------------
 
-void KivData::connectItem()
+void KivDataPrivate::connectItem()
 {
-    m_isBound = true;
-    m_isVector = qobject_cast<KIVVecClientItem*>(m_item);
-    const QString type = m_item->getTypeName();
-    m_isText = type == uiutils::textType;
-    m_isReal = type == uiutils::realType;
-    connect(m_item, &KIVClientItem::valueChanged, this, &KivData::slotValueChanged);
-    connect(m_item, &KIVClientItem::unitsChanged, this, &KivData::slotUnitsChanged);
-    connect(m_item, &KIVClientItem::isReadyChanged, this, &KivData::slotIsReadyChanged);
-    connect(m_item, &KIVClientItem::qualityChanged, this, &KivData::slotQualityChanged);
-    connect(m_item, &KIVClientItem::isApplicableChanged, this, &KivData::slotApplicChanged);
-    if (const KIVEnumChoicesClientItem* choices = uiutils::choicesOf(m_item))
-        connect(choices, &KIVEnumChoicesClientItem::valueChanged, this, &KivData::slotChoicesChanged);
+    isBound = true;
+    isVector = qobject_cast<KIVVecClientItem*>(item);
+    const QString type = item->getTypeName();
+    isText = type == uiutils::textType;
+    isReal = type == uiutils::realType;
+    QObject::connect(item, &KIVClientItem::valueChanged, q, &KivData::slotValueChanged);
+    QObject::connect(item, &KIVClientItem::unitsChanged, q, &KivData::slotUnitsChanged);
+    QObject::connect(item, &KIVClientItem::isReadyChanged, q, &KivData::slotIsReadyChanged);
+    QObject::connect(item, &KIVClientItem::qualityChanged, q, &KivData::slotQualityChanged);
+    QObject::connect(item, &KIVClientItem::isApplicableChanged, q, &KivData::slotApplicChanged);
+    if (const KIVEnumChoicesClientItem* choices = uiutils::choicesOf(item))
+        QObject::connect(choices, &KIVEnumChoicesClientItem::valueChanged, q, &KivData::slotChoicesChanged);
 }
 
-void KivData::bindItem(KIVClientItem* item)
+void KivDataPrivate::bindItem(KIVClientItem* other)
 {
-    if (m_item)
-        m_item->disconnect(this);
-    m_item = item;
-    m_isBound = false;
-    delete m_expression;
-    m_expression = nullptr;
-    m_isExpressionRefused = false;
+    if (item)
+        item->disconnect(q);
+    item = other;
+    isBound = false;
+    delete expression;
+    expression = nullptr;
+    isExpressionRefused = false;
     if (item) {
         createFormatter();
-        updateValidator();
+        q->updateValidator();
         connectItem();
     }
     announceItem();
@@ -80,31 +98,36 @@ void KivData::bindItem(KIVClientItem* item)
 
 /// Everything may be different with another item. A pending change stays, since the user has not taken it back, unless
 /// the service comes with another value, which is a report.
-void KivData::announceItem()
+void KivDataPrivate::announceItem()
 {
-    const QPointer<KivData> self(this);
+    const QPointer<KivData> self(q);
     const auto stillHere = [&] { return !self.isNull(); };
-    slotUnitsChanged();
+    q->slotUnitsChanged();
     if (stillHere())
-        slotQualityChanged();
+        q->slotQualityChanged();
     if (stillHere())
-        slotChoicesChanged();
+        q->slotChoicesChanged();
     if (stillHere())
-        slotApplicChanged();
+        q->slotApplicChanged();
     if (stillHere())
-        Q_EMIT isReadyChanged();
+        Q_EMIT q->isReadyChanged();
     if (stillHere())
-        Q_EMIT precisionChanged();
+        Q_EMIT q->precisionChanged();
     if (!stillHere())
         return;
-    const bool isTable = qobject_cast<KivListAggregateClientItem*>(m_item);
-    const QVariant value = m_item ? m_item->getValue() : QVariant();
-    const bool isAnother = value.isValid() && !uiutils::isSameValue(value, m_reported);
-    const bool isReport = m_item && (!isPending() || isAnother);
+    const bool isTable = qobject_cast<KivListAggregateClientItem*>(item);
+    const QVariant told = item ? item->getValue() : QVariant();
+    const bool isAnother = told.isValid() && !uiutils::isSameValue(told, reported);
+    const bool isReport = item && (!isPending() || isAnother);
     if (isReport)
-        slotValueChanged();
+        q->slotValueChanged();
     if (stillHere() && (!isReport || isTable))
-        Q_EMIT valueChanged();
+        Q_EMIT q->valueChanged();
+}
+
+KIVClientItem* KivData::item() const
+{
+    return d->item;
 }
 
 Manifest* KivData::manifest() const
@@ -122,35 +145,35 @@ KIVClientInterface* KivData::getClient() const
 
 QString KivData::getQmlTag() const
 {
-    return m_item ? contextName() : QString();
+    return d->item ? d->contextName() : QString();
 }
 
-QString KivData::contextName() const
+QString KivDataPrivate::contextName() const
 {
-    const Manifest* owner = manifest();
-    if (m_id.isEmpty() || !owner)
+    const Manifest* owner = q->manifest();
+    if (id.isEmpty() || !owner)
         return QString();
-    const QLatin1String kind = m_id.startsWith(QLatin1String(":act")) ? QLatin1String("act")
-            : m_id.startsWith(QLatin1String(":res"))                  ? QLatin1String("res")
-            : m_id.startsWith(QLatin1String(":con"))                  ? QLatin1String("cfg")
-                                                                      : QLatin1String();
-    const QString name = m_item ? m_item->getName() : uiutils::itemids::nameOf(m_id);
+    const QLatin1String kind = id.startsWith(QLatin1String(":act")) ? QLatin1String("act")
+            : id.startsWith(QLatin1String(":res"))                  ? QLatin1String("res")
+            : id.startsWith(QLatin1String(":con"))                  ? QLatin1String("cfg")
+                                                                    : QLatin1String();
+    const QString name = item ? item->getName() : uiutils::itemids::nameOf(id);
     return owner->getQmlTag() % QLatin1Char('_') % kind % QLatin1Char('_') % name;
 }
 
 QString KivData::getId() const
 {
-    return m_id;
+    return d->id;
 }
 
 QString KivData::getName() const
 {
-    return m_item ? m_item->getName() : QString();
+    return d->item ? d->item->getName() : QString();
 }
 
 QString KivData::getType() const
 {
-    return m_item ? m_item->getTypeName() : QString();
+    return d->item ? d->item->getTypeName() : QString();
 }
 
 unsigned KivData::getInputType() const
@@ -170,7 +193,7 @@ void KivData::setPrecision(unsigned)
 
 QString KivData::getLabel() const
 {
-    return m_item ? m_item->getLabel() : QString();
+    return d->item ? d->item->getLabel() : QString();
 }
 
 QString KivData::getRegex() const
@@ -181,12 +204,12 @@ QString KivData::getRegex() const
 
 QVariant KivData::getMinRange() const
 {
-    return m_item ? m_item->getMinRange() : QVariant();
+    return d->item ? d->item->getMinRange() : QVariant();
 }
 
 QVariant KivData::getMaxRange() const
 {
-    return m_item ? m_item->getMaxRange() : QVariant();
+    return d->item ? d->item->getMaxRange() : QVariant();
 }
 
 QString KivData::getRangeDescription() const
@@ -204,78 +227,78 @@ QString KivData::getRangeDescription() const
 /// Made when it is first asked for: most items are never edited.
 QValidator* KivData::getValidator() const
 {
-    return m_validator || !m_id.isEmpty() ? currentValidator() : nullptr;
+    return d->validator || !d->id.isEmpty() ? currentValidator() : nullptr;
 }
 
 QValidator* KivData::currentValidator() const
 {
-    if (!m_validator)
-        m_validator = uiutils::createValidator(currentRule(), const_cast<KivData*>(this));
-    return m_validator;
+    if (!d->validator)
+        d->validator = uiutils::createValidator(d->currentRule(), const_cast<KivData*>(this));
+    return d->validator;
 }
 
 /// While the service is away an entry is held to what kind of value it is: the limits come with the service.
-uiutils::InputRule KivData::currentRule() const
+uiutils::InputRule KivDataPrivate::currentRule() const
 {
-    if (m_item || m_id.isEmpty())
+    if (item || id.isEmpty())
         return inputRule();
-    return uiutils::openRule(m_isText ? uiutils::textType : m_isReal ? uiutils::realType : QLatin1String());
+    return uiutils::openRule(isText ? uiutils::textType : isReal ? uiutils::realType : QLatin1String());
 }
 
-uiutils::InputRule KivData::inputRule() const
+uiutils::InputRule KivDataPrivate::inputRule() const
 {
-    return {getType(), getRegex(), getMinRange(), getMaxRange(), getPrecision()};
+    return {q->getType(), q->getRegex(), q->getMinRange(), q->getMaxRange(), q->getPrecision()};
 }
 
 /// Entry fields hold the validator as long as the wrapper lives, so it takes the new rule over. One of another kind
 /// stays beside its successor.
 void KivData::updateValidator()
 {
-    if (m_validator && !uiutils::applyRule(inputRule(), m_validator))
-        m_validator = nullptr;
+    if (d->validator && !uiutils::applyRule(d->inputRule(), d->validator))
+        d->validator = nullptr;
 }
 
 void KivData::renewValidator()
 {
     // An entry field takes leave of the old one only when it hears of the new one.
-    if (m_validator)
-        m_validator->deleteLater();
-    m_validator = nullptr;
+    if (d->validator)
+        d->validator->deleteLater();
+    d->validator = nullptr;
     currentValidator();
 }
 
 BaseFormatter* KivData::getBaseFormatter() const
 {
-    return m_formatter;
+    return d->formatter;
 }
 
 /// There from the start, because the item that names it may vanish.
-void KivData::createFormatter()
+void KivDataPrivate::createFormatter()
 {
-    if (getType() == uiutils::textType)
+    if (q->getType() == uiutils::textType)
         return;
-    const QString name = getAttr(QStringLiteral("formatter")).toString();
-    if (name.isEmpty() || !getAttr(QStringLiteral("enum")).toString().isEmpty())
+    const QString name = q->getAttr(QStringLiteral("formatter")).toString();
+    if (name.isEmpty() || !q->getAttr(QStringLiteral("enum")).toString().isEmpty())
         return;
     // QML may still hold the one of another name, which stays as long as the wrapper.
-    if (m_formatter && m_formatter->objectName() != name)
-        m_formatter = nullptr;
-    adoptFormatter(name);
-    const QVariant precision = getAttr(QStringLiteral("precision"));
-    if (m_formatter && !precision.isNull())
-        m_formatter->setPrecision(precision.toInt());
+    if (formatter && formatter->objectName() != name)
+        formatter = nullptr;
+    q->adoptFormatter(name);
+    const QVariant precision = q->getAttr(QStringLiteral("precision"));
+    if (formatter && !precision.isNull())
+        formatter->setPrecision(precision.toInt());
 }
 
 void KivData::adoptFormatter(const QString& name)
 {
-    if (m_formatter || name.isEmpty())
+    if (d->formatter || name.isEmpty())
         return;
-    m_formatter = getFormatter(name);
-    if (!m_formatter)
+    d->formatter = getFormatter(name);
+    if (!d->formatter)
         return;
-    m_formatter->setParent(this);
-    m_formatter->setObjectName(name);
-    m_formatter->setValue(m_value);
+    d->formatter->setParent(this);
+    d->formatter->setObjectName(name);
+    d->formatter->setValue(d->value);
 }
 
 QVariant KivData::getProperty(QString const& prop) const
@@ -285,7 +308,7 @@ QVariant KivData::getProperty(QString const& prop) const
 
 QVariant KivData::getAttr(QString const& key) const
 {
-    return m_item ? m_item->getAttribute(key) : QVariant();
+    return d->item ? d->item->getAttribute(key) : QVariant();
 }
 
 bool KivData::isReadOnly() const
@@ -295,73 +318,72 @@ bool KivData::isReadOnly() const
 
 bool KivData::isReady() const
 {
-    return m_item && m_item->isReady();
+    return d->item && d->item->isReady();
 }
 
 int KivData::getQualityCode() const
 {
-    return m_item ? m_item->getQualityCode() : 0;
+    return d->item ? d->item->getQualityCode() : 0;
 }
 
 QString KivData::getError() const
 {
-    return m_error;
+    return d->error;
 }
 
 // --- Applicability -------------------------------------------------------------------------------
 
 bool KivData::isApplicable()
 {
-    if (!m_item)
+    if (!d->item)
         return true;
-    const QString expression = m_item->getApplicableExpr();
+    const QString expression = d->item->getApplicableExpr();
     if (expression.isEmpty())
-        return m_item->isApplicable();
-    compileApplicability(expression);
+        return d->item->isApplicable();
+    d->compileApplicability(expression);
     if (getId().startsWith(QLatin1String(":action:")))
         return true;
-    if (m_isExpressionRefused)
+    if (d->isExpressionRefused)
         return false;
-    return !m_expression || evaluateApplicability();
+    return !d->expression || d->evaluateApplicability();
 }
 
-void KivData::compileApplicability(const QString& expression)
+void KivDataPrivate::compileApplicability(const QString& text)
 {
-    if (m_expression && !m_expression->context()) {
-        delete m_expression;
-        m_expression = nullptr;
+    if (expression && !expression->context()) {
+        delete expression;
+        expression = nullptr;
     }
-    const Manifest* owner = manifest();
+    const Manifest* owner = q->manifest();
     QQmlContext* context = Manifest::qmlContext();
-    if (m_expression || m_isExpressionRefused || expression == QLatin1String("true") || !owner || !context)
+    if (expression || isExpressionRefused || text == QLatin1String("true") || !owner || !context)
         return;
 
     QString problem;
-    const std::optional<QString> translated
-            = uiutils::translatedApplicability(expression, owner->getQmlTag(), &problem);
+    const std::optional<QString> translated = uiutils::translatedApplicability(text, owner->getQmlTag(), &problem);
     if (!translated) {
-        m_isExpressionRefused = true;
+        isExpressionRefused = true;
         reportExpressionError(problem);
         return;
     }
-    m_expression = new QQmlExpression(context, this, *translated, this);
-    connect(m_expression, &QQmlExpression::valueChanged, this, &KivData::slotApplicChanged);
-    m_expression->setNotifyOnValueChanged(true);
+    expression = new QQmlExpression(context, q, *translated, q);
+    QObject::connect(expression, &QQmlExpression::valueChanged, q, &KivData::slotApplicChanged);
+    expression->setNotifyOnValueChanged(true);
 }
 
-bool KivData::evaluateApplicability()
+bool KivDataPrivate::evaluateApplicability()
 {
-    const bool result = m_expression->evaluate().toBool();
-    if (!m_expression->hasError())
+    const bool result = expression->evaluate().toBool();
+    if (!expression->hasError())
         return result;
-    reportExpressionError(m_expression->error().toString());
-    m_expression->clearError();
+    reportExpressionError(expression->error().toString());
+    expression->clearError();
     return false;
 }
 
-void KivData::reportExpressionError(const QString& problem) const
+void KivDataPrivate::reportExpressionError(const QString& problem) const
 {
-    std::printf("Applicable expression error: %s %s\n", qPrintable(getName()), qPrintable(problem));
+    std::printf("Applicable expression error: %s %s\n", qPrintable(q->getName()), qPrintable(problem));
     std::fflush(stdout);
 }
 
@@ -369,18 +391,18 @@ void KivData::reportExpressionError(const QString& problem) const
 
 void KivData::settleReport()
 {
-    const bool isPendingOrSent = m_changed || m_sent;
-    if (isPendingOrSent && m_id.startsWith(QLatin1String(":config")))
-        endChange();
+    const bool isPendingOrSent = d->isChanged || d->isSent;
+    if (isPendingOrSent && d->id.startsWith(QLatin1String(":config")))
+        d->endChange();
 }
 
 void KivData::slotValueChanged()
 {
     settleReport();
-    if (!m_item)
+    if (!d->item)
         return;
-    holdReport(m_item->getValue());
-    announceValue();
+    holdReport(d->item->getValue());
+    d->announceValue();
 }
 
 void KivData::slotUnitsChanged()
@@ -390,9 +412,9 @@ void KivData::slotUnitsChanged()
 
 void KivData::slotChoicesChanged()
 {
-    if (m_enums)
-        m_enums->deleteLater();
-    m_enums = nullptr;
+    if (d->enums)
+        d->enums->deleteLater();
+    d->enums = nullptr;
     Q_EMIT enumCountChanged();
 }
 

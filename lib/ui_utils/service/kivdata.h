@@ -7,21 +7,18 @@
 #include <kiv/kivclientitem.h>
 
 #include <QObject>
-#include <QPointer>
 #include <QString>
 #include <QValidator>
 #include <QVariant>
 
 #include <initializer_list>
+#include <memory>
 
-class KIVContextObject;
 class Manifest;
-class QQmlExpression;
 
 namespace uiutils {
-class Announcement;
-struct InputRule;
-} // namespace uiutils
+class KivDataPrivate;
+}
 
 /// One service item as QML sees it.
 ///
@@ -227,7 +224,11 @@ Q_SIGNALS:
     void precisionChanged();
 
 protected:
-    KIVClientItem* item() const { return m_item; }
+    /// For derived classes of the library, whose private parts derive from those of the wrapper.
+    KivData(std::unique_ptr<uiutils::KivDataPrivate> parts, QObject* parent);
+    KivData(std::unique_ptr<uiutils::KivDataPrivate> parts, KIVClientItem* item, Manifest* manifest);
+
+    KIVClientItem* item() const;
     Manifest* manifest() const;
     /// Keeps a value and hands it to the formatter; tells nobody.
     void holdValue(QVariant value);
@@ -255,66 +256,10 @@ protected:
     bool writeValue(QVariant value);
 
 private:
-    friend class KIVContextObject;
-    friend class Manifest;
-    /// getQmlTag(), also while the item is away.
-    QString contextName() const;
-    /// Follows another item, or none; called when the service's items have come or gone.
-    void bindItem(KIVClientItem* item);
-    void connectItem();
-    void createFormatter();
-    void announceItem();
-    /// Whether a change waits to be sent.
-    bool isPending() const { return m_changed && !m_sent; }
-    /// Forgets a change; returns whether it was pending.
-    bool endChange();
+    friend class uiutils::KivDataPrivate;
     void announceCount();
     /// Emits what tells of a change of the selected element, for those that asked for it.
     void announceSelection();
-    void announceValue();
-    bool isBeingTold() const;
-    bool isKnownToChain() const;
-    void enterChain();
-    bool isStopped();
-    QVariant reportedValue() const;
-    void compileApplicability(const QString& expression);
-    bool evaluateApplicability();
-    void reportExpressionError(const QString& problem) const;
-    uiutils::InputRule inputRule() const;
-    uiutils::InputRule currentRule() const;
-    QString arraySelectionKey() const;
-    void followUserData() const;
 
-    QVariant m_value;
-    BaseFormatter* m_formatter = nullptr;
-    mutable QValidator* m_validator = nullptr;
-    QVariant m_previous;
-    /// What the service had said when the pending change was written.
-    QVariant m_reported;
-    bool m_changed = false;
-    /// The change went out with a batch that the service took.
-    bool m_sent = false;
-    /// Follows an item, or did when the service was last heard of.
-    bool m_isBound = false;
-    /// Whether the item is an array, a text or a real number, or was when it was last there.
-    bool m_isVector = false;
-    bool m_isText = false;
-    bool m_isReal = false;
-    bool m_isExpressionRefused = false;
-    /// The value did not settle in the chain that told of it last.
-    bool m_isStopped = false;
-    mutable bool m_followsUserData = false;
-    QPointer<KIVClientItem> m_item;
-    QString m_error;
-    QQmlExpression* m_expression = nullptr;
-    QString m_id;
-    mutable QObject* m_enums = nullptr;
-    /// Counts the service's reports, so that a write knows whether it was answered meanwhile.
-    unsigned m_reports = 0;
-    /// Set while the value is told; the innermost one.
-    uiutils::Announcement* m_announcing = nullptr;
-    /// The chain of announcements that told of the value last.
-    unsigned m_toldIn = 0;
-    QString m_selectionText;
-    int m_selection = -1;
+    const std::unique_ptr<uiutils::KivDataPrivate> d;
 };

@@ -1,6 +1,6 @@
 // The part of KivData that holds and writes values, their elements and the choices among them.
 
-#include "service/kivdata.h"
+#include "service/kivdata_p.h"
 
 #include "core/indexrange_p.h"
 #include "core/plainvalue_p.h"
@@ -18,21 +18,22 @@
 
 using uiutils::choicesOf;
 using uiutils::isWithin;
+using uiutils::KivDataPrivate;
 
 // --- The value -----------------------------------------------------------------------------------
 
 QVariant KivData::getValue() const
 {
-    return m_value;
+    return d->value;
 }
 
 QString KivData::getValueString(bool showUnits) const
 {
-    if (m_item)
-        return m_item->getValueString(showUnits);
+    if (d->item)
+        return d->item->getValueString(showUnits);
     BaseFormatter* formatter = getBaseFormatter();
-    return formatter ? uiutils::formattedText(*formatter, m_value, showUnits)
-                     : uiutils::plainText(m_value, getPrecision());
+    return formatter ? uiutils::formattedText(*formatter, d->value, showUnits)
+                     : uiutils::plainText(d->value, getPrecision());
 }
 
 QString KivData::getValueStringNoUnits() const
@@ -42,8 +43,8 @@ QString KivData::getValueStringNoUnits() const
 
 QString KivData::getUnitString() const
 {
-    if (m_item)
-        return m_item->getUnitString();
+    if (d->item)
+        return d->item->getUnitString();
     const BaseFormatter* formatter = getBaseFormatter();
     return formatter ? formatter->getUnitString() : QString();
 }
@@ -53,7 +54,7 @@ void KivData::setValue(QVariant value)
     if (!getClient() || isReadOnly())
         return;
     value = uiutils::plainValue(value);
-    const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
+    const KIVEnumChoicesClientItem* choices = choicesOf(d->item);
     if (choices && !choices->contains(value.toInt())) {
         refuse(QStringLiteral("Invalid enum value %1").arg(value.toInt()));
         return;
@@ -64,78 +65,78 @@ void KivData::setValue(QVariant value)
 bool KivData::writeValue(QVariant value)
 {
     // A page finds a number where it wrote the text of one.
-    const QVariant reported = reportedValue();
+    const QVariant reported = d->reportedValue();
     value = uiutils::readValue(value, reported.userType());
-    if (!mayWrite(!uiutils::isSameValue(value, m_value)))
+    if (!mayWrite(!uiutils::isSameValue(value, d->value)))
         return false;
     const Manifest* owner = manifest();
     if (owner && owner->isChanging()) {
-        m_reported = reported;
-        m_changed = true;
-        m_sent = false;
-        m_previous = m_value;
+        d->reported = reported;
+        d->isChanged = true;
+        d->isSent = false;
+        d->previous = d->value;
         setValueInternal(value);
         return true;
     }
     const QPointer<KivData> self(this);
     KIVClientInterface* client = getClient();
-    const unsigned reports = m_reports;
+    const unsigned reports = d->reports;
     const bool isTaken = client && client->setItem(getId(), value);
     if (!self)
         return true;
     if (!isTaken)
         checkAppError();
-    else if (m_reports == reports)
+    else if (d->reports == reports)
         setValueInternal(value);
     return true;
 }
 
 /// What the service said last, which a pending change hides.
-QVariant KivData::reportedValue() const
+QVariant KivDataPrivate::reportedValue() const
 {
-    if (m_item)
-        return m_item->getValue();
-    return isPending() ? m_reported : m_value;
+    if (item)
+        return item->getValue();
+    return isPending() ? reported : value;
 }
 
 void KivData::holdValue(QVariant value)
 {
-    m_value = std::move(value);
-    if (m_formatter)
-        m_formatter->setValue(m_value);
+    d->value = std::move(value);
+    if (d->formatter)
+        d->formatter->setValue(d->value);
 }
 
 void KivData::setValueInternal(QVariant& value)
 {
     holdValue(value);
-    announceValue();
+    d->announceValue();
 }
 
 void KivData::holdReport(const QVariant& value)
 {
-    ++m_reports;
+    ++d->reports;
     holdValue(value);
 }
 
-void KivData::announceValue()
+void KivDataPrivate::announceValue()
 {
-    announce({&KivData::announceCount, &KivData::announceSelection, &KivData::valueChanged});
+    q->announce({&KivData::announceCount, &KivData::announceSelection, &KivData::valueChanged});
 }
 
 void KivData::announce(std::initializer_list<void (KivData::*)()> steps)
 {
-    if (isStopped())
+    if (d->isStopped())
         return;
-    if (isBeingTold()) {
+    if (d->isBeingTold()) {
         uiutils::Announcement::countReturn();
-        m_announcing->add(steps);
+        d->announcing->add(steps);
         return;
     }
-    uiutils::Announcement announcement(steps, m_announcing);
-    const unsigned outerChain = m_toldIn;
-    const bool wasStopped = m_isStopped;
-    m_announcing = &announcement;
-    enterChain();
+    uiutils::Announcement announcement(steps, d->announcing);
+    const unsigned outerChain = d->toldIn;
+    const bool wasStopped = d->stopped;
+    d->announcing = &announcement;
+    d->enterChain();
     while (announcement.beginRound()) {
         for (const uiutils::Announcement::Step step : announcement.steps()) {
             (this->*step)();
@@ -144,58 +145,58 @@ void KivData::announce(std::initializer_list<void (KivData::*)()> steps)
                 return;
         }
     }
-    m_announcing = announcement.outer();
-    if (!m_announcing)
+    d->announcing = announcement.outer();
+    if (!d->announcing)
         return;
-    m_toldIn = outerChain;
-    m_isStopped = wasStopped;
+    d->toldIn = outerChain;
+    d->stopped = wasStopped;
 }
 
 /// Not for the event loop of a handler: what is told out there goes on when that ends.
-bool KivData::isBeingTold() const
+bool KivDataPrivate::isBeingTold() const
 {
-    return m_announcing && m_announcing->isCurrent();
+    return announcing && announcing->isCurrent();
 }
 
 bool KivData::mayWrite(bool isChange)
 {
     // Items that mirror each other would else be told over every way from one to the other.
-    if (isChange || !isKnownToChain())
-        return !isStopped();
+    if (isChange || !d->isKnownToChain())
+        return !d->isStopped();
     uiutils::Announcement::countReturn();
     return false;
 }
 
 /// Whether the item was told, or stopped, since the first of the announcements on the stack.
-bool KivData::isKnownToChain() const
+bool KivDataPrivate::isKnownToChain() const
 {
     const unsigned chain = uiutils::Announcement::chain();
-    return chain != 0 && m_toldIn == chain;
+    return chain != 0 && toldIn == chain;
 }
 
-void KivData::enterChain()
+void KivDataPrivate::enterChain()
 {
     if (isKnownToChain())
         return;
-    m_toldIn = uiutils::Announcement::chain();
-    m_isStopped = false;
+    toldIn = uiutils::Announcement::chain();
+    stopped = false;
 }
 
 /// Whether the handlers have had their rounds. Of handlers that set each other going, each is stopped, and named, once.
-bool KivData::isStopped()
+bool KivDataPrivate::isStopped()
 {
-    if (isKnownToChain() && m_isStopped) {
+    if (isKnownToChain() && stopped) {
         uiutils::Announcement::countReturn();
         return true;
     }
-    const bool hasHadRounds = isBeingTold() && m_announcing->isLastRound();
+    const bool hasHadRounds = isBeingTold() && announcing->isLastRound();
     if (!hasHadRounds && !uiutils::Announcement::isExhausted())
         return false;
     enterChain();
-    m_isStopped = true;
+    stopped = true;
     qWarning("The value of %s does not settle: a handler of its change, or of another item's, writes another one each "
              "time. It was stopped after %d %s; let the handler write a value that stays.",
-            qUtf8Printable(getId()),
+            qUtf8Printable(q->getId()),
             hasHadRounds ? uiutils::Announcement::mostRounds : uiutils::Announcement::mostReturns,
             hasHadRounds ? "rounds" : "writes of items that handlers had come from");
     return true;
@@ -203,46 +204,46 @@ bool KivData::isStopped()
 
 void KivData::announceCount()
 {
-    if (m_isVector)
+    if (d->isVector)
         Q_EMIT valueCountChanged();
 }
 
 void KivData::announceSelection()
 {
-    if (!m_followsUserData)
+    if (!d->followsUserData)
         return;
     const int selection = getArraySelection();
     const QString text = getArraySelectionString();
-    if (selection == m_selection && text == m_selectionText)
+    if (selection == d->selection && text == d->selectionText)
         return;
-    m_selection = selection;
-    m_selectionText = text;
+    d->selection = selection;
+    d->selectionText = text;
     Q_EMIT arraySelectionChanged();
 }
 
-bool KivData::endChange()
+bool KivDataPrivate::endChange()
 {
     const bool wasPending = isPending();
-    m_changed = false;
-    m_sent = false;
+    isChanged = false;
+    isSent = false;
     return wasPending;
 }
 
 void KivData::apply()
 {
-    if (!endChange())
+    if (!d->endChange())
         return;
     const QPointer<KivData> self(this);
-    QVariant value = m_value;
+    QVariant value = d->value;
     const QPointer<KIVClientInterface> client = getClient();
-    const unsigned reports = m_reports;
+    const unsigned reports = d->reports;
     const bool isRefused = client && !client->setItem(getId(), value);
     const QString error = isRefused && client ? client->getLastError() : QString();
     if (!self)
         return;
     // What was refused stays pending, so that it can be mended or taken back.
-    m_changed = isRefused && m_reports == reports;
-    if (m_reports == reports)
+    d->isChanged = isRefused && d->reports == reports;
+    if (d->reports == reports)
         setValueInternal(value);
     if (self && isRefused)
         refuse(error);
@@ -250,9 +251,9 @@ void KivData::apply()
 
 void KivData::revert()
 {
-    if (!endChange())
+    if (!d->endChange())
         return;
-    QVariant previous = m_previous;
+    QVariant previous = d->previous;
     setValueInternal(previous);
 }
 
@@ -264,8 +265,13 @@ void KivData::checkAppError()
 
 void KivData::refuse(const QString& error)
 {
-    m_error = error;
-    Q_EMIT errorChanged(getName(), error);
+    d->refuse(error);
+}
+
+void KivDataPrivate::refuse(const QString& reason)
+{
+    error = reason;
+    Q_EMIT q->errorChanged(q->getName(), reason);
 }
 
 void KivData::invoke()
@@ -293,7 +299,8 @@ QVariant KivData::variantAt(int ind) const
 {
     if (!isWithin(ind, getValueCount()))
         return QVariant();
-    return m_value.type() == QVariant::StringList ? QVariant(m_value.toStringList().at(ind)) : m_value.toList().at(ind);
+    return d->value.type() == QVariant::StringList ? QVariant(d->value.toStringList().at(ind))
+                                                   : d->value.toList().at(ind);
 }
 
 QVariant KivData::at(int ind) const
@@ -310,46 +317,45 @@ void KivData::setAt(int ind, QVariant const& val)
 {
     if (!isWithin(ind, getValueCount()))
         return;
-    QVariantList list = m_value.toList();
+    QVariantList list = d->value.toList();
     list[ind] = uiutils::plainValue(val);
     QVariant value = list;
-    if (m_value.type() == QVariant::StringList)
+    if (d->value.type() == QVariant::StringList)
         value.convert(QVariant::StringList);
     setValue(value);
 }
 
 int KivData::getValueCount() const
 {
-    if (!m_isVector)
+    if (!d->isVector)
         return 0;
-    return m_value.type() == QVariant::StringList ? m_value.toStringList().size() : m_value.toList().size();
+    return d->value.type() == QVariant::StringList ? d->value.toStringList().size() : d->value.toList().size();
 }
 
-QString KivData::arraySelectionKey() const
+QString KivDataPrivate::arraySelectionKey() const
 {
-    return getId() + QLatin1String(":array_selection:");
+    return q->getId() + QLatin1String(":array_selection:");
 }
 
 /// Selections are shared by all wrappers of an id; only those that somebody asked for theirs listen.
-void KivData::followUserData() const
+void KivDataPrivate::followUserData()
 {
-    if (m_followsUserData)
+    if (followsUserData)
         return;
-    m_followsUserData = true;
-    auto* self = const_cast<KivData*>(this);
-    connect(UserData::getInstance(), &UserData::signalDataChanged, self, [self](const QString& key) {
-        if (key == self->arraySelectionKey())
-            self->announceSelection();
+    followsUserData = true;
+    QObject::connect(UserData::getInstance(), &UserData::signalDataChanged, q, [this](const QString& key) {
+        if (key == arraySelectionKey())
+            q->announceSelection();
     });
-    self->m_selection = getArraySelection();
-    self->m_selectionText = getArraySelectionString();
+    selection = q->getArraySelection();
+    selectionText = q->getArraySelectionString();
 }
 
 int KivData::getArraySelection() const
 {
-    followUserData();
+    d->followUserData();
     const int count = getValueCount();
-    const QVariant kept = UserData::getInstance()->getData(arraySelectionKey());
+    const QVariant kept = UserData::getInstance()->getData(d->arraySelectionKey());
     if (kept.isValid() && isWithin(kept.toInt(), count))
         return kept.toInt();
     return count > 0 ? 0 : -1;
@@ -358,7 +364,7 @@ int KivData::getArraySelection() const
 void KivData::setArraySelection(int index)
 {
     if (isWithin(index, getValueCount()) && index != getArraySelection())
-        UserData::getInstance()->setData(arraySelectionKey(), index);
+        UserData::getInstance()->setData(d->arraySelectionKey(), index);
 }
 
 QString KivData::getArraySelectionString() const
@@ -370,41 +376,41 @@ QString KivData::getArraySelectionString() const
 
 QObject* KivData::getEnums() const
 {
-    const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
-    if (!m_enums && choices)
-        m_enums = uiutils::EnumNames::create(*choices, const_cast<KivData*>(this));
-    return m_enums;
+    const KIVEnumChoicesClientItem* choices = choicesOf(d->item);
+    if (!d->enums && choices)
+        d->enums = uiutils::EnumNames::create(*choices, const_cast<KivData*>(this));
+    return d->enums;
 }
 
 int KivData::getEnumCount() const
 {
-    const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
+    const KIVEnumChoicesClientItem* choices = choicesOf(d->item);
     return choices ? choices->count() : 0;
 }
 
 QString KivData::enumLabel(int const& index)
 {
-    return isWithin(index, getEnumCount()) ? choicesOf(m_item)->labelAt(index) : QString();
+    return isWithin(index, getEnumCount()) ? choicesOf(d->item)->labelAt(index) : QString();
 }
 
 QString KivData::enumLabelForValue(int const& index)
 {
-    const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
+    const KIVEnumChoicesClientItem* choices = choicesOf(d->item);
     return choices && choices->contains(index) ? choices->labelForValue(unsigned(index)) : QString();
 }
 
 int KivData::enumValue(int const& index)
 {
-    return isWithin(index, getEnumCount()) ? choicesOf(m_item)->valueAt(index) : -1;
+    return isWithin(index, getEnumCount()) ? choicesOf(d->item)->valueAt(index) : -1;
 }
 
 int KivData::enumIndex(int const& value)
 {
-    const KIVEnumChoicesClientItem* choices = choicesOf(m_item);
+    const KIVEnumChoicesClientItem* choices = choicesOf(d->item);
     return choices ? choices->indexOf(value) : -1;
 }
 
 bool KivData::applicableAt(int const& index)
 {
-    return isWithin(index, getEnumCount()) && choicesOf(m_item)->isApplicableAt(index);
+    return isWithin(index, getEnumCount()) && choicesOf(d->item)->isApplicableAt(index);
 }

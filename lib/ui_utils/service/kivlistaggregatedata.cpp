@@ -1,25 +1,38 @@
 #include "service/kivlistaggregatedata.h"
 
+#include "service/kivdata_p.h"
 #include "service/qmllistaggregate.h"
 
 #include <kiv/kivaggregateclientitem.h>
 
-KivListAggregateData::KivListAggregateData(KivListAggregateClientItem* item, Manifest* manifest)
-    : KivData(item, manifest)
-    , m_list(item ? item->getListAggregate() : KivListAggregate())
-    , m_model(new QMLListAggregate(m_list, this))
+class uiutils::KivListAggregateDataPrivate : public KivDataPrivate
 {
+public:
+    KivListAggregate list;
+    QMLListAggregate* model = nullptr;
+};
+
+using uiutils::KivDataPrivate;
+using uiutils::KivListAggregateDataPrivate;
+
+KivListAggregateData::KivListAggregateData(KivListAggregateClientItem* item, Manifest* manifest)
+    : KivData(std::make_unique<KivListAggregateDataPrivate>(), item, manifest)
+    , d(static_cast<KivListAggregateDataPrivate*>(KivDataPrivate::of(this)))
+{
+    if (item)
+        d->list = item->getListAggregate();
+    d->model = new QMLListAggregate(d->list, this);
 }
 
 KivListAggregateData::~KivListAggregateData()
 {
     // The model reads the table, which goes before QObject deletes the children.
-    delete m_model;
+    delete d->model;
 }
 
 QVariant KivListAggregateData::getValue() const
 {
-    return QVariant::fromValue(m_model);
+    return QVariant::fromValue(d->model);
 }
 
 void KivListAggregateData::slotValueChanged()
@@ -27,8 +40,8 @@ void KivListAggregateData::slotValueChanged()
     settleReport();
     if (!item())
         return;
-    m_model->reset([this] {
+    d->model->reset([this] {
         if (const auto* source = qobject_cast<KivListAggregateClientItem*>(item()))
-            m_list = source->getListAggregate();
+            d->list = source->getListAggregate();
     });
 }

@@ -2,10 +2,11 @@
 
 #include "service/kivdata.h"
 
-#include <kiv/kivaggregate.h>
-
 class KivListAggregateClientItem;
-class QMLListAggregate;
+
+namespace uiutils {
+class KivListAggregateDataPrivate;
+}
 
 /// A table of a service as QML sees it: `value` is a QMLListAggregate, a list model with a role for each member. A new
 /// table from the service resets the model; `value` is the same model, and valueChanged() is not emitted.
@@ -23,6 +24,5 @@ public:
 private:
     void slotValueChanged() override;
 
-    KivListAggregate m_list;
-    QMLListAggregate* m_model;
+    uiutils::KivListAggregateDataPrivate* const d;
 };

@@ -2,11 +2,14 @@
 
 #include "core/uiutils_export.h"
 
-#include <kiv/kivclientinterface.h>
-
 #include <QObject>
-#include <QPointer>
 #include <QString>
+
+#include <memory>
+
+namespace uiutils {
+class KIVSignalPrivate;
+}
 
 /// Relays to QML the errors that a service reports of its own accord.
 class UIUTILS_EXPORT KIVSignal : public QObject
@@ -20,7 +23,7 @@ public:
     explicit KIVSignal(QObject* parent = nullptr);
     ~KIVSignal() override;
 
-    QString getService() const { return m_service; }
+    QString getService() const;
     void setService(const QString& service);
 
 Q_SIGNALS:
@@ -32,6 +35,5 @@ public Q_SLOTS:
     void slotError(QString error);
 
 private:
-    QString m_service;
-    QPointer<KIVClientInterface> m_client;
+    const std::unique_ptr<uiutils::KIVSignalPrivate> d;
 };

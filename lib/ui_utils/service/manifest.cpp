@@ -1,9 +1,9 @@
-#include "service/manifest.h"
+#include "service/manifest_p.h"
 
 #include "core/itemids.h"
 #include "service/kivaggregatedata.h"
 #include "service/kivcontextobject_p.h"
-#include "service/kivdata.h"
+#include "service/kivdata_p.h"
 #include "service/kivlistaggregatedata.h"
 
 #include <kiv/kivaggregateclientitem.h>
@@ -18,6 +18,8 @@
 #include <iterator>
 
 namespace itemids = uiutils::itemids;
+using uiutils::KivDataPrivate;
+using uiutils::ManifestPrivate;
 
 QMap<QString, KivData*>& Manifest::m_items = *new QMap<QString, KivData*>;
 QPointer<QQmlContext> Manifest::s_pContext;
@@ -36,6 +38,17 @@ QVector<QPointer<KivData>> wrappersOf(const QString& id, KivData* registered)
     return list;
 }
 
+bool isPending(const KivData* wrapper)
+{
+    return wrapper && KivDataPrivate::of(wrapper)->isPending();
+}
+
+/// A setting whose service is away has no name to go by; its change waits.
+bool canTravel(const KivData* wrapper)
+{
+    return isPending(wrapper) && KivDataPrivate::of(wrapper)->item;
+}
+
 /// The name under which the service expects a setting in a batch: the index of an indexed one ("level_3") stands behind
 /// a colon. Names of up to three characters stay as they are.
 QString batchName(QString name)
@@ -50,20 +63,21 @@ QString batchName(QString name)
 
 Manifest::Manifest(KIVClientInterface* client, QString const& qmlTag, QString const& name, QObject* parent)
     : QObject(parent)
-    , m_client(client)
-    , m_name(name)
-    , m_qmlTag(qmlTag)
+    , d(std::make_unique<ManifestPrivate>(this))
 {
+    d->client = client;
+    d->name = name;
+    d->qmlTag = qmlTag;
     if (!client)
         return;
-    connect(client, &KIVClientInterface::itemsChanged, this, &Manifest::bindItems);
+    connect(client, &KIVClientInterface::itemsChanged, this, [this] { d->bindItems(); });
     QStringList ids;
     client->getItemList(name, &ids);
     for (const QString& id : qAsConst(ids)) {
         if (id.endsWith(itemids::manifest))
-            m_manifestId = id;
+            d->manifestId = id;
         else
-            registerItem(id);
+            d->registerItem(id);
     }
 }
 
@@ -72,25 +86,45 @@ Manifest::~Manifest()
     if (displaced.isEmpty())
         return;
     // Pages go on with the wrappers that have their entries back when these have gone.
-    const QVector<QPointer<KivData>> own = wrappers();
+    const QVector<QPointer<KivData>> own = d->wrappers();
     for (const QPointer<KivData>& wrapper : own)
         delete wrapper;
     KIVContextObject::evaluateNames();
 }
 
-QVector<QPointer<KivData>> Manifest::wrappers() const
+QString Manifest::getQmlTag() const
+{
+    return d->qmlTag.isEmpty() ? d->name : d->qmlTag;
+}
+
+QString Manifest::getServiceName() const
+{
+    return d->name;
+}
+
+KIVClientInterface* Manifest::client() const
+{
+    return d->client;
+}
+
+bool Manifest::isChanging() const
+{
+    return d->isChanging;
+}
+
+QVector<QPointer<KivData>> ManifestPrivate::wrappers() const
 {
     QVector<QPointer<KivData>> list;
-    for (QObject* child : children()) {
+    for (QObject* child : q->children()) {
         if (auto* wrapper = qobject_cast<KivData*>(child))
             list.append(wrapper);
     }
     return list;
 }
 
-void Manifest::registerItem(const QString& id)
+void ManifestPrivate::registerItem(const QString& id)
 {
-    KIVClientItem* item = m_client->getItem(id);
+    KIVClientItem* item = client->getItem(id);
     if (!item)
         return;
     KivData* wrapper = nullptr;
@@ -99,45 +133,46 @@ void Manifest::registerItem(const QString& id)
     auto* list = item->getType() == KIVClientItem::TypeListAggregate ? qobject_cast<KivListAggregateClientItem*>(item)
                                                                      : nullptr;
     if (aggregate)
-        wrapper = new KivAggregateData(aggregate, this);
+        wrapper = new KivAggregateData(aggregate, q);
     else if (list)
-        wrapper = new KivListAggregateData(list, this);
+        wrapper = new KivListAggregateData(list, q);
     else
-        wrapper = new KivData(item, this);
-    KivData*& entry = m_items[id];
+        wrapper = new KivData(item, q);
+    KivData*& entry = Manifest::m_items[id];
     if (entry)
         displaced[id].append(entry);
     entry = wrapper;
 }
 
 /// Follows the service through vanishing and coming back.
-void Manifest::bindItems()
+void ManifestPrivate::bindItems()
 {
     const QVector<QPointer<KivData>> own = wrappers();
-    const QPointer<Manifest> self(this);
+    const QPointer<Manifest> self(q);
     bool hasReturned = false;
     for (const QPointer<KivData>& wrapper : own) {
-        if (!self || !m_client)
+        if (!self || !client)
             return;
         if (!wrapper)
             continue;
+        KivDataPrivate* parts = KivDataPrivate::of(wrapper);
         // One that has its item keeps it: items that are gone have been destroyed.
-        if (wrapper->m_item)
+        if (parts->item)
             continue;
-        KIVClientItem* item = m_client->getItem(wrapper->m_id);
+        KIVClientItem* item = client->getItem(parts->id);
         hasReturned = hasReturned || item;
-        if (item || wrapper->m_isBound)
-            wrapper->bindItem(item);
+        if (item || parts->isBound)
+            parts->bindItem(item);
     }
     // What never changes while an item is there is read once, perhaps before it was there.
     if (hasReturned)
         KIVContextObject::evaluateNames();
 }
 
-void Manifest::forget(const QString& id, const KivData* wrapper)
+void ManifestPrivate::forget(const QString& id, const KivData* wrapper)
 {
-    const auto entry = m_items.find(id);
-    if (entry == m_items.end())
+    const auto entry = Manifest::m_items.find(id);
+    if (entry == Manifest::m_items.end())
         return;
     const auto earlier = displaced.find(id);
     if (earlier == displaced.end()) {
@@ -155,40 +190,38 @@ void Manifest::forget(const QString& id, const KivData* wrapper)
 
 void Manifest::startChanges()
 {
-    m_changing = true;
+    d->isChanging = true;
 }
 
 void Manifest::applyChanges()
 {
-    m_changing = false;
-    if (!m_client)
+    d->isChanging = false;
+    if (!d->client)
         return;
     // By name: of settings with one name in a batch, the last one travels and the others stay pending.
     QMap<QString, QPointer<KivData>> senders;
     const QStringList ids = m_items.keys();
     for (const QString& id : ids) {
         const QVector<QPointer<KivData>> wrappers = wrappersOf(id, m_items.value(id));
-        // A setting whose service is away has no name to go by; its change waits.
-        const auto sender = std::find_if(wrappers.cbegin(), wrappers.cend(),
-                [](const KivData* wrapper) { return wrapper && wrapper->isPending() && wrapper->m_item; });
+        const auto sender = std::find_if(wrappers.cbegin(), wrappers.cend(), canTravel);
         if (sender != wrappers.cend())
             senders.insert(batchName((*sender)->getName()), *sender);
     }
     QVariantMap changes;
     QVector<QPointer<KivData>> outdone;
     for (auto it = senders.cbegin(); it != senders.cend(); ++it) {
-        changes.insert(it.key(), (*it)->m_value);
-        (*it)->m_sent = true;
+        KivDataPrivate* parts = KivDataPrivate::of(*it);
+        changes.insert(it.key(), parts->value);
+        parts->isSent = true;
         // Another wrapper's change of the same item would travel later, over this one.
-        const QVector<QPointer<KivData>> wrappers = wrappersOf((*it)->m_id, m_items.value((*it)->m_id));
-        std::copy_if(wrappers.cbegin(), wrappers.cend(), std::back_inserter(outdone),
-                [](const KivData* wrapper) { return wrapper && wrapper->isPending(); });
+        const QVector<QPointer<KivData>> wrappers = wrappersOf(parts->id, m_items.value(parts->id));
+        std::copy_if(wrappers.cbegin(), wrappers.cend(), std::back_inserter(outdone), isPending);
     }
 
     // The service takes the text for bytes. What it reports on the way may end the manifest.
     const QByteArray json = QJsonDocument(QJsonObject::fromVariantMap(changes)).toJson();
-    const QPointer<KIVClientInterface> client = m_client;
-    if (send(actionId(itemids::applyConfig), QString::fromLatin1(json.constData()))) {
+    const QPointer<KIVClientInterface> client = d->client;
+    if (d->send(d->actionId(itemids::applyConfig), QString::fromLatin1(json.constData()))) {
         for (const QPointer<KivData>& wrapper : qAsConst(outdone)) {
             if (wrapper)
                 wrapper->revert();
@@ -199,17 +232,17 @@ void Manifest::applyChanges()
     const QString error = client ? client->getLastError() : QString();
     for (const QPointer<KivData>& wrapper : qAsConst(senders)) {
         if (wrapper)
-            wrapper->m_sent = false;
+            KivDataPrivate::of(wrapper)->isSent = false;
     }
     for (const QPointer<KivData>& wrapper : qAsConst(senders)) {
         if (wrapper)
-            wrapper->refuse(error);
+            KivDataPrivate::of(wrapper)->refuse(error);
     }
 }
 
 void Manifest::revertChanges()
 {
-    m_changing = false;
+    d->isChanging = false;
     const QStringList ids = m_items.keys();
     for (const QString& id : ids) {
         const QVector<QPointer<KivData>> wrappers = wrappersOf(id, m_items.value(id));
@@ -222,19 +255,20 @@ void Manifest::revertChanges()
 
 void Manifest::saveConfig(QString const& friendlyName, bool hasHomeScreenIcon)
 {
-    if (m_client)
-        send(actionId(itemids::saveConfig), friendlyName + QLatin1Char(',') + QString::number(int(hasHomeScreenIcon)));
+    if (d->client)
+        d->send(d->actionId(itemids::saveConfig),
+                friendlyName + QLatin1Char(',') + QString::number(int(hasHomeScreenIcon)));
 }
 
-QString Manifest::actionId(QLatin1String action) const
+QString ManifestPrivate::actionId(QLatin1String action) const
 {
-    QString id = m_manifestId;
+    QString id = manifestId;
     return id.replace(itemids::result, itemids::action).replace(itemids::manifest, action);
 }
 
-bool Manifest::send(const QString& actionId, const QString& argument)
+bool ManifestPrivate::send(const QString& actionId, const QString& argument)
 {
-    return m_client->sendAction(actionId, argument, nullptr, KIVClientInterface::callTimeout);
+    return client->sendAction(actionId, argument, nullptr, KIVClientInterface::callTimeout);
 }
 
 QStringList Manifest::getKivIds(QString const& contains, QString const& filter)

@@ -9,10 +9,15 @@
 #include <QPointer>
 #include <QString>
 #include <QStringList>
-#include <QVector>
+
+#include <memory>
 
 class KivData;
 class QQmlContext;
+
+namespace uiutils {
+class ManifestPrivate;
+}
 
 /// The registry of one service's items for QML, and the transaction that changes several of them at once.
 ///
@@ -38,12 +43,12 @@ public:
     Manifest(KIVClientInterface* client, QString const& qmlTag, QString const& name, QObject* parent = nullptr);
     ~Manifest() override;
 
-    QString getQmlTag() const { return m_qmlTag.isEmpty() ? m_name : m_qmlTag; }
-    QString getServiceName() const { return m_name; }
-    KIVClientInterface* client() const { return m_client; }
+    QString getQmlTag() const;
+    QString getServiceName() const;
+    KIVClientInterface* client() const;
 
     /// Whether a transaction runs.
-    bool isChanging() const { return m_changing; }
+    bool isChanging() const;
 
     /// Begins a transaction; nothing happens when one runs.
     Q_INVOKABLE void startChanges();
@@ -70,23 +75,10 @@ public:
     static QQmlContext* qmlContext();
 
 private:
-    friend class KivData;
-    /// Takes a wrapper that is about to go out of the registry.
-    static void forget(const QString& id, const KivData* wrapper);
-
-    QVector<QPointer<KivData>> wrappers() const;
-    void registerItem(const QString& id);
-    void bindItems();
-    QString actionId(QLatin1String action) const;
-    bool send(const QString& actionId, const QString& argument);
-
+    friend class uiutils::ManifestPrivate;
     /// Never destroyed, because wrappers may outlive every other static object.
     static QMap<QString, KivData*>& m_items;
     static QPointer<QQmlContext> s_pContext;
 
-    QPointer<KIVClientInterface> m_client;
-    QString m_name;
-    QString m_manifestId;
-    bool m_changing = false;
-    QString m_qmlTag;
+    const std::unique_ptr<uiutils::ManifestPrivate> d;
 };

@@ -2,16 +2,26 @@
 
 #include "service/kivaggregatedata.h"
 
-QMLAggregate::QMLAggregate(KivAggregateData& owner)
-    : m_owner(&owner)
+#include <QPointer>
+
+class uiutils::QMLAggregatePrivate
 {
+public:
+    QPointer<KivAggregateData> owner;
+    bool isWritten = false;
+};
+
+QMLAggregate::QMLAggregate(KivAggregateData& owner)
+    : d(std::make_unique<uiutils::QMLAggregatePrivate>())
+{
+    d->owner = &owner;
 }
 
 QMLAggregate::~QMLAggregate() = default;
 
 void QMLAggregate::release()
 {
-    if (m_isWritten)
+    if (d->isWritten)
         deleteLater();
     else
         delete this;
@@ -19,8 +29,8 @@ void QMLAggregate::release()
 
 QVariant QMLAggregate::updateValue(QString const& key, QVariant const& input)
 {
-    m_isWritten = true;
-    if (m_owner)
-        m_owner->updateAggregateProperty(key, input);
+    d->isWritten = true;
+    if (d->owner)
+        d->owner->updateAggregateProperty(key, input);
     return value(key);
 }

@@ -2,10 +2,15 @@
 
 #include "core/uiutils_export.h"
 
-#include <QPointer>
 #include <QQmlPropertyMap>
 
+#include <memory>
+
 class KivAggregateData;
+
+namespace uiutils {
+class QMLAggregatePrivate;
+}
 
 /// The members of a record as keys of a map. What QML writes goes to the service; the key changes when the service
 /// reports the new record, because the service has the last word.
@@ -26,6 +31,5 @@ protected:
     QVariant updateValue(QString const& key, QVariant const& input) override;
 
 private:
-    QPointer<KivAggregateData> m_owner;
-    bool m_isWritten = false;
+    const std::unique_ptr<uiutils::QMLAggregatePrivate> d;
 };

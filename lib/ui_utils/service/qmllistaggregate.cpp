@@ -2,35 +2,54 @@
 
 #include <QPointer>
 
-QMLListAggregate::QMLListAggregate(const KivListAggregate& list, QObject* parent)
-    : QAbstractListModel(parent)
-    , m_list(list)
+class uiutils::QMLListAggregatePrivate
 {
-    readRoles();
+public:
+    explicit QMLListAggregatePrivate(const KivListAggregate& table)
+        : list(table)
+    {
+        readRoles();
+    }
+
+    void readRoles();
+
+    const KivListAggregate& list;
+    QHash<int, QByteArray> roles;
+};
+
+void uiutils::QMLListAggregatePrivate::readRoles()
+{
+    roles.clear();
+    int role = Qt::UserRole;
+    const QList<QByteArray> names = list.getPropertyNames();
+    for (const QByteArray& name : names)
+        roles.insert(++role, name);
 }
 
-void QMLListAggregate::readRoles()
+QMLListAggregate::QMLListAggregate(const KivListAggregate& list, QObject* parent)
+    : QAbstractListModel(parent)
+    , d(std::make_unique<uiutils::QMLListAggregatePrivate>(list))
 {
-    m_roles.clear();
-    int role = Qt::UserRole;
-    const QList<QByteArray> names = m_list.getPropertyNames();
-    for (const QByteArray& name : names)
-        m_roles.insert(++role, name);
 }
 
 QMLListAggregate::~QMLListAggregate() = default;
 
 int QMLListAggregate::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_list.getSize();
+    return parent.isValid() ? 0 : d->list.getSize();
+}
+
+QHash<int, QByteArray> QMLListAggregate::roleNames() const
+{
+    return d->roles;
 }
 
 QVariant QMLListAggregate::data(const QModelIndex& index, int role) const
 {
-    const auto name = m_roles.constFind(role);
-    if (name == m_roles.cend() || index.row() >= m_list.getSize())
+    const auto name = d->roles.constFind(role);
+    if (name == d->roles.cend() || index.row() >= d->list.getSize())
         return QVariant();
-    return m_list.getPropertyVariant(*name, index.row());
+    return d->list.getPropertyVariant(*name, index.row());
 }
 
 void QMLListAggregate::reset(const std::function<void()>& change)
@@ -40,6 +59,6 @@ void QMLListAggregate::reset(const std::function<void()>& change)
     if (!self)
         return;
     change();
-    readRoles();
+    d->readRoles();
     endResetModel();
 }

@@ -8,6 +8,11 @@
 #include <QHash>
 
 #include <functional>
+#include <memory>
+
+namespace uiutils {
+class QMLListAggregatePrivate;
+}
 
 /// The rows of a table as a list model, with one role for each member, named as the member.
 class UIUTILS_EXPORT QMLListAggregate : public QAbstractListModel
@@ -22,14 +27,11 @@ public:
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     /// Numbered from Qt::UserRole + 1 in the order of the members.
-    QHash<int, QByteArray> roleNames() const override { return m_roles; }
+    QHash<int, QByteArray> roleNames() const override;
 
     /// Runs `change`, which replaces the list, as a reset of the model.
     void reset(const std::function<void()>& change);
 
 private:
-    void readRoles();
-
-    const KivListAggregate& m_list;
-    QHash<int, QByteArray> m_roles;
+    const std::unique_ptr<uiutils::QMLListAggregatePrivate> d;
 };

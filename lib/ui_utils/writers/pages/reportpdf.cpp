@@ -19,6 +19,24 @@ bool isAnyPrinting = false;
 
 } // namespace
 
+/// What the pages are to show.
+class uiutils::ReportPDFPrivate
+{
+public:
+    QList<ReportItem*> items;
+    ReportPDF::Orientation orientation = ReportPDF::Portrait;
+    QString documentTitle = ReportPDF::tr("Solvant Report");
+    QString title;
+    QString author;
+    QString subject;
+    QString producer;
+    QString logo = paths::logo;
+    QString unitId;
+    QString timestamp;
+    QVector<ReportPDF::Field> fields;
+    bool isCancelled = false;
+};
+
 /// One run of the printer. A slot that hears of the progress may delete the renderer, which then counts as cancelled.
 class ReportPDF::Job
 {
@@ -43,18 +61,17 @@ ReportPDF::Job::Job(ReportPDF& owner)
 
 bool ReportPDF::Job::tellProgress(int page, int pageCount)
 {
-    if (m_owner && !m_owner->m_isCancelled)
+    if (m_owner && !m_owner->d->isCancelled)
         Q_EMIT m_owner->progressChanged(page, pageCount);
-    return m_owner && !m_owner->m_isCancelled;
+    return m_owner && !m_owner->d->isCancelled;
 }
 
 uiutils::PageSettings ReportPDF::Job::settings() const
 {
-    const ReportPDF& owner = *m_owner;
-    return {{uiutils::decodedImage(uiutils::readIcon(owner.m_logo)), owner.m_documentTitle, owner.m_title,
-                    owner.m_fields},
-            {owner.m_documentTitle, owner.m_title, owner.m_unitId, owner.m_timestamp},
-            owner.m_orientation == Landscape ? QPageLayout::Landscape : QPageLayout::Portrait};
+    const uiutils::ReportPDFPrivate& owner = *m_owner->d;
+    return {{uiutils::decodedImage(uiutils::readIcon(owner.logo)), owner.documentTitle, owner.title, owner.fields},
+            {owner.documentTitle, owner.title, owner.unitId, owner.timestamp},
+            owner.orientation == ReportPDF::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait};
 }
 
 QByteArray ReportPDF::Job::run(QString* error)
@@ -65,7 +82,7 @@ QByteArray ReportPDF::Job::run(QString* error)
         return QByteArray();
     }
     uiutils::PagePrinter printer(
-            settings(), m_owner->m_items, [this](int page, int count) { return tellProgress(page, count); });
+            settings(), m_owner->d->items, [this](int page, int count) { return tellProgress(page, count); });
     switch (printer.print(printed.path())) {
     case uiutils::PagePrinter::Stopped:
         return QByteArray();
@@ -83,21 +100,75 @@ QByteArray ReportPDF::Job::run(QString* error)
 QByteArray ReportPDF::Job::finish(
         const QString& printed, const QVector<uiutils::pdf::OutlineEntry>& outline, QString* error) const
 {
-    const ReportPDF& owner = *m_owner;
+    const uiutils::ReportPDFPrivate& owner = *m_owner->d;
     return uiutils::pdf::annotated(printed,
-            {owner.m_title.isEmpty() ? owner.m_documentTitle : owner.m_title, owner.m_author, owner.m_subject,
-                    owner.m_producer, outline},
+            {owner.title.isEmpty() ? owner.documentTitle : owner.title, owner.author, owner.subject, owner.producer,
+                    outline},
             error);
 }
 
 ReportPDF::ReportPDF(QObject* parent)
     : QObject(parent)
-    , m_documentTitle(tr("Solvant Report"))
-    , m_logo(uiutils::paths::logo)
+    , d(std::make_unique<uiutils::ReportPDFPrivate>())
 {
 }
 
 ReportPDF::~ReportPDF() = default;
+
+void ReportPDF::setItems(const QList<ReportItem*>& items)
+{
+    d->items = items;
+}
+
+void ReportPDF::setOrientation(Orientation orientation)
+{
+    d->orientation = orientation;
+}
+
+void ReportPDF::setDocumentTitle(const QString& title)
+{
+    d->documentTitle = title;
+}
+
+void ReportPDF::setTitle(const QString& title)
+{
+    d->title = title;
+}
+
+void ReportPDF::setAuthor(const QString& author)
+{
+    d->author = author;
+}
+
+void ReportPDF::setSubject(const QString& subject)
+{
+    d->subject = subject;
+}
+
+void ReportPDF::setProducer(const QString& producer)
+{
+    d->producer = producer;
+}
+
+void ReportPDF::setLogo(const QString& path)
+{
+    d->logo = path;
+}
+
+void ReportPDF::setUnitId(const QString& id)
+{
+    d->unitId = id;
+}
+
+void ReportPDF::setTimestamp(const QString& text)
+{
+    d->timestamp = text;
+}
+
+void ReportPDF::setFields(const QVector<Field>& fields)
+{
+    d->fields = fields;
+}
 
 bool ReportPDF::isPrinting()
 {
@@ -131,11 +202,11 @@ QByteArray ReportPDF::toPdf(QString* error)
         return QByteArray();
     }
     const QScopedValueRollback<bool> printing(isAnyPrinting, true);
-    m_isCancelled = false;
+    d->isCancelled = false;
     return Job(*this).run(&message);
 }
 
 void ReportPDF::cancel()
 {
-    m_isCancelled = true;
+    d->isCancelled = true;
 }

@@ -8,6 +8,12 @@
 #include <QString>
 #include <QVector>
 
+#include <memory>
+
+namespace uiutils {
+class ReportPDFPrivate;
+}
+
 /// Prints report items as a PDF file: Letter pages with a title block on the first, a header line on the others and a
 /// footer on all of them, an outline of headings and tables, and title, author, subject and producer.
 ///
@@ -32,24 +38,24 @@ public:
     ~ReportPDF() override;
 
     /// What the pages show, in that order. The items stay the caller's and must not go while print() runs.
-    void setItems(const QList<ReportItem*>& items) { m_items = items; }
+    void setItems(const QList<ReportItem*>& items);
 
-    void setOrientation(Orientation orientation) { m_orientation = orientation; }
+    void setOrientation(Orientation orientation);
     /// What kind of document this is, beside the logo and in the header; "Solvant Report" by default.
-    void setDocumentTitle(const QString& title) { m_documentTitle = title; }
+    void setDocumentTitle(const QString& title);
     /// The report's own title, in the title block, the header and the file's information; where it is empty, the file
     /// is titled as the document.
-    void setTitle(const QString& title) { m_title = title; }
-    void setAuthor(const QString& author) { m_author = author; }
-    void setSubject(const QString& subject) { m_subject = subject; }
-    void setProducer(const QString& producer) { m_producer = producer; }
+    void setTitle(const QString& title);
+    void setAuthor(const QString& author);
+    void setSubject(const QString& subject);
+    void setProducer(const QString& producer);
     /// An instrument path; empty for none. The default is the instrument's logo.
-    void setLogo(const QString& path) { m_logo = path; }
+    void setLogo(const QString& path);
     /// Stands in the footer; empty leaves it out.
-    void setUnitId(const QString& id) { m_unitId = id; }
+    void setUnitId(const QString& id);
     /// Stands in the middle of the footer.
-    void setTimestamp(const QString& text) { m_timestamp = text; }
-    void setFields(const QVector<Field>& fields) { m_fields = fields; }
+    void setTimestamp(const QString& text);
+    void setFields(const QVector<Field>& fields);
 
     /// Prints into memory and returns the whole file. Nothing when it was cancelled, and then `error` is empty, or when
     /// a step failed, which `error` names. It does not return to the event loop. While it runs, no other of the program
@@ -75,16 +81,5 @@ Q_SIGNALS:
 private:
     class Job;
 
-    QList<ReportItem*> m_items;
-    Orientation m_orientation = Portrait;
-    QString m_documentTitle;
-    QString m_title;
-    QString m_author;
-    QString m_subject;
-    QString m_producer;
-    QString m_logo;
-    QString m_unitId;
-    QString m_timestamp;
-    QVector<Field> m_fields;
-    bool m_isCancelled = false;
+    const std::unique_ptr<uiutils::ReportPDFPrivate> d;
 };

@@ -115,21 +115,41 @@ bool isUsableKey(const QString& key)
 
 } // namespace
 
+/// The file and the document that was loaded from it, null while there is none.
+class uiutils::PDFFilePrivate
+{
+public:
+    using InfoSetter = void (PoDoFo::PdfInfo::*)(const PoDoFo::PdfString&);
+    bool change(InfoSetter setter, const QString& value, QLatin1String failure);
+    bool writeTo(const QString& path, QString* error);
+
+    QString filename;
+    std::unique_ptr<PoDoFo::PdfMemDocument> document;
+};
+
+using uiutils::PDFFilePrivate;
+
 PDFFile::PDFFile(QObject* parent)
     : QObject(parent)
+    , d(std::make_unique<PDFFilePrivate>())
 {
 }
 
 PDFFile::~PDFFile() = default;
 
+QString PDFFile::getFilename() const
+{
+    return d->filename;
+}
+
 void PDFFile::setFilename(const QString& path)
 {
     QString error;
-    m_document.reset();
-    m_document = loadUntrusted(uiutils::onDisk(path), &error);
-    if (!m_document)
+    d->document.reset();
+    d->document = loadUntrusted(uiutils::onDisk(path), &error);
+    if (!d->document)
         report(QLatin1String("Unable to write PDF report: "), error);
-    m_filename = path;
+    d->filename = path;
     Q_EMIT filenameChanged();
 }
 
@@ -161,34 +181,34 @@ QString PDFFile::getCreationDate() const
 
 void PDFFile::setTitle(const QString& title)
 {
-    if (change(&PoDoFo::PdfInfo::SetTitle, title, QLatin1String("Unable to set title: ")))
+    if (d->change(&PoDoFo::PdfInfo::SetTitle, title, QLatin1String("Unable to set title: ")))
         Q_EMIT titleChanged();
 }
 
 void PDFFile::setAuthor(const QString& author)
 {
-    if (change(&PoDoFo::PdfInfo::SetAuthor, author, QLatin1String("Unable to set author: ")))
+    if (d->change(&PoDoFo::PdfInfo::SetAuthor, author, QLatin1String("Unable to set author: ")))
         Q_EMIT authorChanged();
 }
 
 void PDFFile::setSubject(const QString& subject)
 {
-    if (change(&PoDoFo::PdfInfo::SetSubject, subject, QLatin1String("Unable to set subject: ")))
+    if (d->change(&PoDoFo::PdfInfo::SetSubject, subject, QLatin1String("Unable to set subject: ")))
         Q_EMIT subjectChanged();
 }
 
 void PDFFile::setProducer(const QString& producer)
 {
-    if (change(&PoDoFo::PdfInfo::SetProducer, producer, QLatin1String("Unable to set producer: ")))
+    if (d->change(&PoDoFo::PdfInfo::SetProducer, producer, QLatin1String("Unable to set producer: ")))
         Q_EMIT producerChanged();
 }
 
-bool PDFFile::change(InfoSetter setter, const QString& value, QLatin1String failure)
+bool PDFFilePrivate::change(InfoSetter setter, const QString& value, QLatin1String failure)
 {
-    if (!m_document)
+    if (!document)
         return false;
     QString error;
-    if (pdf::guarded(&error, [&] { (m_document->GetInfo()->*setter)(pdf::stringOf(value)); }))
+    if (pdf::guarded(&error, [&] { (document->GetInfo()->*setter)(pdf::stringOf(value)); }))
         return true;
     report(failure, error);
     return false;
@@ -198,10 +218,10 @@ QString PDFFile::getMetaData(const QString& key) const
 {
     QString value;
     QString error;
-    if (m_document) {
+    if (d->document) {
         pdf::guarded(&error, [&] {
             const PoDoFo::PdfName name(key.toStdString());
-            value = pdf::textOf(m_document->GetInfo()->GetObject()->GetIndirectKey(name));
+            value = pdf::textOf(d->document->GetInfo()->GetObject()->GetIndirectKey(name));
         });
     }
     return value;
@@ -209,12 +229,12 @@ QString PDFFile::getMetaData(const QString& key) const
 
 void PDFFile::setMetaData(const QString& key, const QString& value)
 {
-    if (!m_document || !isUsableKey(key))
+    if (!d->document || !isUsableKey(key))
         return;
     QString error;
     const bool set = pdf::guarded(&error, [&] {
         const PoDoFo::PdfName name(key.toStdString());
-        m_document->GetInfo()->GetObject()->GetDictionary().AddKey(name, pdf::stringOf(value));
+        d->document->GetInfo()->GetObject()->GetDictionary().AddKey(name, pdf::stringOf(value));
     });
     if (!set)
         report(QLatin1String("Unable to set metadata: "), error);
@@ -222,20 +242,20 @@ void PDFFile::setMetaData(const QString& key, const QString& value)
 
 void PDFFile::write(const QString& filename)
 {
-    if (!m_document)
+    if (!d->document)
         return;
     QString error;
-    if (!writeTo(filename.isEmpty() ? m_filename : filename, &error))
+    if (!d->writeTo(filename.isEmpty() ? d->filename : filename, &error))
         report(QLatin1String("Unable to write file: "), error);
 }
 
-bool PDFFile::writeTo(const QString& path, QString* error)
+bool PDFFilePrivate::writeTo(const QString& path, QString* error)
 {
     // Made in memory: PoDoFo does not notice when a disk is full.
-    const QByteArray contents = pdf::save(*m_document, error);
+    const QByteArray contents = pdf::save(*document, error);
     if (contents.isEmpty())
         return false;
     const QString target = uiutils::onDisk(path);
-    const bool own = isSameFile(target, uiutils::onDisk(m_filename));
+    const bool own = isSameFile(target, uiutils::onDisk(filename));
     return uiutils::writeFileDurably(target, contents, error, own ? temporaryNameFor(target) : QString());
 }

@@ -7,11 +7,9 @@
 
 #include <memory>
 
-namespace PoDoFo {
-class PdfInfo;
-class PdfMemDocument;
-class PdfString;
-} // namespace PoDoFo
+namespace uiutils {
+class PDFFilePrivate;
+}
 
 /// The document information of a PDF file: reads it, changes it and writes the file back. Pages are left
 /// alone.
@@ -34,7 +32,7 @@ public:
     explicit PDFFile(QObject* parent = nullptr);
     ~PDFFile() override;
 
-    QString getFilename() const { return m_filename; }
+    QString getFilename() const;
     /// Loads the file anew, also when the path is the one it had. When the file cannot be loaded, no document
     /// is held. Emits filenameChanged() in any case, and nothing else: what the properties say has changed
     /// with the file.
@@ -76,10 +74,5 @@ Q_SIGNALS:
     void producerChanged();
 
 private:
-    using InfoSetter = void (PoDoFo::PdfInfo::*)(const PoDoFo::PdfString&);
-    bool change(InfoSetter setter, const QString& value, QLatin1String failure);
-    bool writeTo(const QString& path, QString* error);
-
-    QString m_filename;
-    std::unique_ptr<PoDoFo::PdfMemDocument> m_document;
+    const std::unique_ptr<uiutils::PDFFilePrivate> d;
 };

@@ -14,43 +14,73 @@ constexpr int maximumSide = 4000;
 
 } // namespace
 
+class uiutils::PlotImagePrivate
+{
+public:
+    QImage draw() const;
+
+    QString service;
+    QColor background = Qt::white;
+    QSize size;
+    int pixelScale = 1;
+    QByteArray data;
+};
+
 PlotImage::PlotImage()
+    : d(std::make_unique<uiutils::PlotImagePrivate>())
 {
     setSize(0, 0);
 }
 
+PlotImage::~PlotImage() = default;
+
+void PlotImage::setService(const QString& service)
+{
+    d->service = service;
+}
+
 void PlotImage::setCurveBackground(const QString& color)
 {
-    m_background = QColor(color);
-    if (!m_background.isValid())
-        m_background = Qt::white;
+    d->background = QColor(color);
+    if (!d->background.isValid())
+        d->background = Qt::white;
 }
 
 void PlotImage::setSize(int width, int height)
 {
-    m_size = QSize(
+    d->size = QSize(
             width < 1 ? 600 : qBound(50, width, maximumSide), height < 1 ? 400 : qBound(50, height, maximumSide));
+}
+
+void PlotImage::setPixelScale(int scale)
+{
+    d->pixelScale = qBound(1, scale, 4);
+}
+
+QByteArray PlotImage::getData() const
+{
+    return d->data;
 }
 
 bool PlotImage::write(const QString& path)
 {
-    m_data.clear();
-    QBuffer buffer(&m_data);
+    d->data.clear();
+    QBuffer buffer(&d->data);
     buffer.open(QIODevice::WriteOnly);
-    draw().save(&buffer, "PNG");
+    d->draw().save(&buffer, "PNG");
     const QString place = uiutils::onDisk(path);
-    return path.startsWith(uiutils::paths::plotImageStem) ? uiutils::writeFileForNow(place, m_data)
-                                                          : uiutils::writeFileDurably(place, m_data);
+    return path.startsWith(uiutils::paths::plotImageStem) ? uiutils::writeFileForNow(place, d->data)
+                                                          : uiutils::writeFileDurably(place, d->data);
 }
 
-QImage PlotImage::draw() const
+QImage uiutils::PlotImagePrivate::draw() const
 {
     // Never finer than the largest picture.
-    const QSize size = (m_size * m_pixelScale).boundedTo(QSize(maximumSide, maximumSide));
-    QImage image(size, QImage::Format_RGB32);
+    const QSize pixels = (size * pixelScale).boundedTo(QSize(maximumSide, maximumSide));
+    QImage image(pixels, QImage::Format_RGB32);
     image.fill(Qt::white);
-    const uiutils::PlotData data = uiutils::readPlotData(m_service);
+    const uiutils::PlotData plot = uiutils::readPlotData(service);
     QPainter painter(&image);
-    uiutils::PlotPainter(painter, data, size, m_background).draw();
+    uiutils::PlotPainter(painter, plot, pixels, background).draw();
     return image;
 }

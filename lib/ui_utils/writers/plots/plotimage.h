@@ -3,11 +3,13 @@
 #include "core/uiutils_export.h"
 
 #include <QByteArray>
-#include <QColor>
-#include <QSize>
 #include <QString>
 
-class QImage;
+#include <memory>
+
+namespace uiutils {
+class PlotImagePrivate;
+}
 
 /// Draws the result arrays of a service, x against y, into a PNG image.
 ///
@@ -21,15 +23,17 @@ class UIUTILS_EXPORT PlotImage
 {
 public:
     PlotImage();
+    ~PlotImage();
+    Q_DISABLE_COPY_MOVE(PlotImage)
 
-    void setService(const QString& service) { m_service = service; }
+    void setService(const QString& service);
     /// The colour behind the curve, as CSS names it or "#rrggbb"; an empty or unknown one means white.
     void setCurveBackground(const QString& color);
     /// In pixels; a width or height below 1 means the default of 600 x 400, others are kept within 50 to 4,000.
     void setSize(int width, int height);
 
     /// How many pixels the picture has for each of its size, along both sides: 1 by default, more for paper.
-    void setPixelScale(int scale) { m_pixelScale = qBound(1, scale, 4); }
+    void setPixelScale(int scale);
 
     /// Draws the plot and writes it to `path`, an instrument path. A temporary image, "/tmp/rep_plot_...", need not
     /// outlive a power cut and does not wait for the disk. Returns false when the file could not be written; getData()
@@ -37,14 +41,8 @@ public:
     bool write(const QString& path);
 
     /// The PNG of the last write().
-    QByteArray getData() const { return m_data; }
+    QByteArray getData() const;
 
 private:
-    QImage draw() const;
-
-    QString m_service;
-    QColor m_background = Qt::white;
-    QSize m_size;
-    int m_pixelScale = 1;
-    QByteArray m_data;
+    const std::unique_ptr<uiutils::PlotImagePrivate> d;
 };
