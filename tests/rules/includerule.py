@@ -65,10 +65,10 @@ apps/demo/instrumentroot.cpp -> base/durablefile.h
 apps/demo/instrumentroot.cpp -> base/paths.h
 apps/demo/loopbackreport.cpp -> base/paths.h
 apps/demo/savedreportactions.cpp -> base/paths.h
-apps/demo/savedreportactions.cpp -> lib/ui_utils/report/drivefile_p.h
+apps/demo/savedreportactions.cpp -> lib/ui_utils/report/saving/drivefile_p.h
 apps/demo/savedreportactions.cpp -> lib/ui_utils/report/reportdestinations_p.h
 apps/demo/savedreportactions.cpp -> lib/ui_utils/report/reportlisting_p.h
-apps/demo/savedreportactions.cpp -> lib/ui_utils/report/reportrecord_p.h
+apps/demo/savedreportactions.cpp -> lib/ui_utils/report/saving/reportrecord_p.h
 apps/demo/savedreportactions.h -> lib/ui_utils/report/reportlisting_p.h
 apps/demo/screencamera.cpp -> base/durablefile.h
 apps/demo/screencamera.cpp -> base/paths.h
@@ -80,9 +80,6 @@ apps/reportconvert/conversion.cpp -> platform/reference/embedded/jsonschema_p.h
 # A wrapper asks the manifest that its constructor takes, and the manifest makes wrappers of every kind.
 lib/ui_utils/service/kivdata.cpp -> lib/ui_utils/service/manifest.h
 lib/ui_utils/service/kivdatavalue.cpp -> lib/ui_utils/service/manifest.h
-
-# The table of formats holds functions of the controller.
-lib/ui_utils/report/reportformats.cpp -> lib/ui_utils/report/report.h
 
 # What the unit says and what a status is called have no room of their own yet.
 lib/ui_utils/service/instrumentinfo.cpp -> lib/ui_utils/document/reportmetadata.h
