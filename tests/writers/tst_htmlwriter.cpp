@@ -357,7 +357,7 @@ private Q_SLOTS:
                 "h1", "h2", "h3", "h4", "p"};
         const QSet<QString> allowedAttributes {"type", "http-equiv", "content", "src", "style", "cellpadding", "rules", "frame",
                 "colspan", "align"};
-        for (quint32 seed = 0; seed < 500; ++seed) {
+        for (quint32 seed = 0; seed < 200; ++seed) {
             ReportTemplate report;
             RandomDocument(seed).readInto(report);
             const QString html = pageOf(report);
