@@ -2,10 +2,29 @@
 
 #include <QtTest>
 
-/// The columns of a test's table: their types, and the names by which QFETCH finds them.
+#include <tuple>
+#include <utility>
+
+/// What the columns of a test's table go by: their places.
+constexpr const char* columnNames[] {"0", "1", "2", "3", "4", "5"};
+
+/// Declares the columns of a test's table.
 template<typename... Types>
-void addColumns(const char* const (&names)[sizeof...(Types)])
+void addColumns()
 {
-    const char* const* name = names;
+    const char* const* name = columnNames;
     (QTest::addColumn<Types>(*name++), ...);
+}
+
+template<typename... Types, std::size_t... Places>
+std::tuple<Types...> valuesAt(std::index_sequence<Places...>)
+{
+    return {*static_cast<const Types*>(QTest::qData(columnNames[Places], qMetaTypeId<Types>()))...};
+}
+
+/// The values of the row that the test runs for, in the order of the columns.
+template<typename... Types>
+std::tuple<Types...> currentRow()
+{
+    return valuesAt<Types...>(std::index_sequence_for<Types...>());
 }

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QVector>
 
 /// The bytes of a file; none of what is no file or cannot be read.
 inline QByteArray contentsOf(const QString& path)
@@ -39,4 +40,34 @@ inline QString outputOf(const QString& program, const QStringList& arguments, co
         return QString("status: %1").arg(process.errorString());
     const QString output = QString::fromUtf8(process.readAll());
     return process.exitCode() == 0 ? output : QString("status %1\n%2").arg(process.exitCode()).arg(output);
+}
+
+/// The rows of a table below tests/data, of cells parted by " | "; a line that begins with "#" is for the reader.
+inline QVector<QStringList> tableIn(const QString& name)
+{
+    QVector<QStringList> rows;
+    const QStringList lines = QString::fromUtf8(contentsOf(UIUTILS_TEST_DATA_DIR + name)).split('\n', Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        if (!line.startsWith('#'))
+            rows += line.split(" | ");
+    }
+    return rows;
+}
+
+/// How a program has ended, and what it said.
+struct Outcome
+{
+    /// -1 of one that crashed or hung.
+    int exitCode = -1;
+    QByteArray output;
+    QString errors;
+};
+
+/// Waits for the end of a program that runs, and makes one.
+inline Outcome ended(QProcess& process)
+{
+    const bool isDone = process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit;
+    process.kill();
+    process.waitForFinished();
+    return {isDone ? process.exitCode() : -1, process.readAllStandardOutput(), QString::fromUtf8(process.readAllStandardError())};
 }

@@ -1,14 +1,12 @@
+#include "columns.h"
 #include "filesizelimit.h"
 #include "files.h"
-
-#include <QtTest>
 
 #include "base/durablefile.h"
 #include "base/paths.h"
 #include "base/temporaries_p.h"
 #include "base/temporaryfolder_p.h"
 #include "base/temporarysibling_p.h"
-#include "base/xmltext_p.h"
 
 #include <atomic>
 #include <dlfcn.h>
@@ -166,8 +164,7 @@ private Q_SLOTS:
     /// Whoever may write beside it must not have us remove what only we may.
     void cleaningRemovesNothingElsewhere_data()
     {
-        QTest::addColumn<QString>("swapped");
-        QTest::addColumn<bool>("isStrangers");
+        addColumns<QString, bool>();
         QTest::newRow("links within") << QString() << false;
         QTest::newRow("swapped for a link") << "." << false;
         QTest::newRow("a folder within, swapped for a link") << "below" << false;
@@ -175,15 +172,14 @@ private Q_SLOTS:
     }
     void cleaningRemovesNothingElsewhere()
     {
-        QFETCH(QString, swapped);
-        QFETCH(bool, isStrangers);
+        const auto [swapped, isStrangers] = currentRow<QString, bool>();
         QTemporaryDir dir;
         const QString victim = dir.filePath("victim");
         QVERIFY(QDir().mkpath(victim) && writeFileDurably(victim + "/kept", "x"));
         const QString left = leftFolder(dir.path());
         QVERIFY(QFile::link(victim, left + "/link") && QFile::link(victim, left + "/below/link"));
         const QString place = QDir::cleanPath(left + '/' + swapped);
-        (swapped == "." ? onceLocked : onceSeen) = [&] {
+        (swapped == "." ? onceLocked : onceSeen) = [&, swapped = swapped] {
             if (!swapped.isEmpty() && QDir().rename(place, dir.filePath("aside")))
                 QFile::link(victim, place);
         };
@@ -288,39 +284,14 @@ private Q_SLOTS:
         QVERIFY2(error.contains(path), qPrintable(error));
         QCOMPARE(contentsOf(path), QByteArray("the old report"));
         QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("report.html")});
-    }
 
-    void targetsThatCannotBeWritten()
-    {
-        QTemporaryDir dir;
-        QString error;
-        const QString inNoFolder = dir.filePath(QStringLiteral("missing/report.html"));
-        QVERIFY(!writeFileDurably(inNoFolder, QByteArray("x"), &error));
-        QVERIFY2(error.contains(inNoFolder), qPrintable(error));
-
-        const QString folder = dir.filePath(QStringLiteral("folder"));
-        QVERIFY(QDir().mkdir(folder));
-        QVERIFY(!writeFileDurably(folder, QByteArray("x"), &error));
-        QVERIFY2(error.contains(folder), qPrintable(error));
-        QVERIFY(!writeFileDurably(dir.filePath(QStringLiteral("cut")) + QChar(0) + QLatin1String("off"), "x", &error));
-        QVERIFY2(error.contains(QLatin1String("NUL")), qPrintable(error));
-        QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("folder")});
-    }
-
-    void markupText()
-    {
-        const QChar high(0xd83d);
-        const QString pair = QString(high) + QChar(0xde00);
-        const QString replaced(QChar(QChar::ReplacementCharacter));
-        const std::pair<QString, QString> rows[] {{"a\tb\nc\rd <&>\"'", "a\tb\nc\rd <&>\"'"},
-                {"Ελλάδα 中文 العربية", "Ελλάδα 中文 العربية"},
-                {QString(QLatin1String("a\0b\x01\x1f\x7f", 6)) + QChar(0x85) + "c", "abc"}, {"x" + pair, "x" + pair},
-                {high + QString("x"), replaced + "x"}, {QString("x") + high, "x" + replaced},
-                {QString(QChar(0xde00)) + high, replaced + replaced}, {high + pair, replaced + pair},
-                {QString(QChar(0xfffe)) + QChar(0xffff) + QChar(0xfffd), replaced.repeated(3)},
-                {QChar(0xe000), QChar(0xe000)}};
-        for (const auto& [text, clean] : rows)
-            QCOMPARE(uiutils::markupText(text), clean);
+        const QString folder = dir.filePath("folder");
+        QVERIFY(QDir().mkdir(folder) && QFile::remove(path));
+        for (const QString& target : {dir.filePath("missing/report.html"), folder, dir.filePath("cut") + QChar(0) + "off"}) {
+            QVERIFY(!writeFileDurably(target, "x", &error));
+            QVERIFY2(error.contains(target.contains(QChar(0)) ? "NUL" : target), qPrintable(error));
+        }
+        QCOMPARE(namesIn(dir.path()), QStringList {"folder"});
     }
 };
 

@@ -21,28 +21,19 @@ TestCase {
 
     function init() {
         driver.reset()
-        open()
-    }
-
-    function cleanup() {
-        driver.limitFiles(-1)
-        close()
-        tryCompare(Notifications, "currentDialog", null)
-        Notifications.clear()
-        compare(driver.takeWarnings(), [])
-    }
-
-    function open() {
         window = createTemporaryObject(windowComponent, parent)
         verify(window)
         waitForRendering(page)
         // What was stored comes in a little later, and the name of the run on top of it.
         tryVerify(() => field("nameEntry").text.startsWith("loopback_"))
     }
-    // As at the end of the program.
-    function close() {
+
+    function cleanup() {
         window.destroy()
         tryVerify(() => !window)
+        tryCompare(Notifications, "currentDialog", null)
+        Notifications.clear()
+        compare(driver.takeWarnings(), [])
     }
 
     function entry(name) {
@@ -87,10 +78,6 @@ TestCase {
     function part(name) {
         tryVerify(() => dialog.opened)
         return findChild(dialog.contentItem, name)
-    }
-
-    function rows() {
-        return page.report.reportFiles.map(file => file.name + " " + file.format + (file.compressed ? " gz" : ""))
     }
 
     function trayTitles() {

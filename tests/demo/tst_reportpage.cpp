@@ -12,17 +12,11 @@
 #include <embedded/embeddedservice.h>
 #include <kiv/kivclientitem.h>
 
-#include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
-#include <QTemporaryDir>
 #include <QtQuickTest>
 
-#include <csignal>
 #include <memory>
-#include <sys/mount.h>
-#include <sys/resource.h>
-#include <utility>
 
 using namespace uiutils;
 using namespace uiutils::demo;
@@ -39,8 +33,6 @@ public:
     {
         m_measurement.setPause(0);
         m_measurement.setSamples(LoopbackMeasurement::fewestSamples);
-        ::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_freeDisk);
     }
 
     LoopbackMeasurement* measurement() { return &m_measurement; }
@@ -58,28 +50,7 @@ public:
         m_baseManager->setValue(itemids::saveLocation, 0);
     }
     Q_INVOKABLE QVariant saveLocation() const { return m_baseManager->item(itemids::saveLocation)->getValue(); }
-    Q_INVOKABLE void setSaveLocation(int location) const { m_baseManager->setValue(itemids::saveLocation, location); }
-    Q_INVOKABLE void setFewSamples() { m_measurement.setSamples(LoopbackMeasurement::fewestSamples); }
-    /// So many that a save of them takes its time.
-    Q_INVOKABLE void setManySamples() { m_measurement.setSamples(1500); }
 
-    /// Puts a file system with less room than a save asks for into the place of the stick's. False when this user may not.
-    Q_INVOKABLE bool fillStick()
-    {
-        m_isStickFull = ::mount("none", stickFolder().constData(), "tmpfs", 0, "size=256k") == 0;
-        return m_isStickFull;
-    }
-    Q_INVOKABLE void emptyStick()
-    {
-        if (std::exchange(m_isStickFull, false))
-            ::umount2(stickFolder().constData(), MNT_DETACH);
-    }
-
-    /// The text of a file below the root; of one that is no text, its beginning.
-    Q_INVOKABLE QString textOf(const QString& path) const
-    {
-        return QString::fromUtf8(contentsOf(m_root->filePath(path)));
-    }
     /// The files in a folder below the root.
     Q_INVOKABLE QStringList filesIn(const QString& folder) const { return namesIn(m_root->filePath(folder)); }
 
@@ -88,26 +59,16 @@ public:
     Q_INVOKABLE QString contents(const QString& name) const { return QString::fromUtf8(contentsOf(folder() + name)); }
     Q_INVOKABLE void put(const QString& name, const QString& text) const { writeFile(folder() + name, text.toUtf8()); }
 
-    /// From now on no file can grow beyond so many bytes; a negative number takes that back.
-    Q_INVOKABLE void limitFiles(int bytes) const
-    {
-        const rlimit limit {bytes < 0 ? m_freeDisk.rlim_cur : rlim_t(bytes), m_freeDisk.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-
     /// What the engine has complained about since the last call.
     Q_INVOKABLE QStringList takeWarnings() { return m_warnings.take(); }
     void watch(QQmlEngine* engine) { m_warnings.watch(engine); }
 
 private:
-    QByteArray stickFolder() const { return QFile::encodeName(m_root->filePath("mnt/usb")); }
     static QString folder() { return onDisk(paths::reports) + "loopback/"; }
 
     kiv::embedded::EmbeddedService* const m_baseManager;
     std::unique_ptr<QTemporaryDir> m_root;
     LoopbackMeasurement m_measurement;
-    rlimit m_freeDisk {};
-    bool m_isStickFull = false;
     QmlWarnings m_warnings;
 };
 

@@ -32,8 +32,11 @@ Item {
             press()
         }
 
+        // A drive that was yanked: nothing may end up in the unit's own folder under the mount.
         function test_saveLocation_data() {
-            return [{ tag: "internal", label: "Internal", isIn: true, location: 0, inUnit: ["a.txt"], onStick: [] },
+            return [{ tag: "USB, yanked", label: "USB", isIn: true, isYanked: true, location: 1, inUnit: [], onStick: [] },
+                    { tag: "both, yanked", label: "Internal and USB", isIn: true, isYanked: true, location: 2, inUnit: ["a.txt"], onStick: [] },
+                    { tag: "internal", label: "Internal", isIn: true, location: 0, inUnit: ["a.txt"], onStick: [] },
                     { tag: "USB", label: "USB", isIn: true, location: 1, inUnit: [], onStick: ["a.txt", "a.txt.metadata"] },
                     { tag: "both", label: "Internal and USB", isIn: true, location: 2, inUnit: ["a.txt"], onStick: ["a.txt"] },
                     { tag: "USB, without a stick", label: "USB", isIn: false, location: 1, inUnit: ["a.txt"], onStick: [] },
@@ -44,11 +47,16 @@ Item {
                 pressStick()
             choose(data.label, "locationEntry")
             compare(driver.saveLocation(), data.location)
-            compare(text("stickState"), data.isIn ? "A USB drive is plugged in."
-                                                  : "Without a USB drive reports are saved on the unit.")
+            if (data.isYanked)
+                page.stick.yank()
+            compare(text("stickButton"), data.isIn && !data.isYanked ? "Pull out" : "Plug in")
+            compare(text("stickState"), data.isYanked ? "The USB drive was removed. Saving on it fails until it is back."
+                                                      : data.isIn ? "A USB drive is plugged in."
+                                                                  : "Without a USB drive reports are saved on the unit.")
             compare(page.report.saveLocation, data.inUnit.length === 0 ? "USB:/" : "Internal:/reports/loopback/")
-            verify(text("usage").startsWith(data.inUnit.length === 0 ? "USB " : "Unit "))
+            verify(text("usage").startsWith(data.inUnit.length === 0 && !data.isYanked ? "USB " : "Unit "))
             save("a")
+            compare(trayTitles().includes("Write Error"), data.isYanked === true)
             compare(driver.files(), data.inUnit)
             compare(driver.filesIn("mnt/usb"), data.onStick)
         }
@@ -95,30 +103,6 @@ Item {
             tap(part("acceptButton"))
             lists("USB", 1, true)
             compare(driver.files(), ["b.txt", "old.txt"])
-        }
-
-        // Nothing may end up in the unit's own folder under the mount.
-        function test_yanked_data() {
-            return [{ tag: "USB", label: "USB", inUnit: [], onStick: ["a.txt", "a.txt.metadata"] },
-                    { tag: "both", label: "Internal and USB", inUnit: ["a.txt"], onStick: ["a.txt"] }]
-        }
-        function test_yanked(data) {
-            choose(data.label, "locationEntry")
-            pressStick()
-            page.stick.yank()
-            compare(text("stickButton"), "Plug in")
-            compare(text("stickState"), "The USB drive was removed. Saving on it fails until it is back.")
-            save("a")
-            compare(part("dialogTitle").text, "Write Error")
-            compare(driver.files(), data.inUnit)
-            compare(driver.filesIn("mnt/usb"), [])
-            tap(part("acceptButton"))
-
-            pressStick()
-            press()
-            if (data.inUnit.length > 0)
-                tap(part("acceptButton"))
-            compare(driver.filesIn("mnt/usb"), data.onStick)
         }
 
         // Changes that the settings page holds back are none yet, and hold nothing back here.

@@ -4,8 +4,6 @@
 #include "samplemodel.h"
 #include "statistics.h"
 
-#include <QSignalSpy>
-
 #include <cmath>
 
 using namespace uiutils::demo;
@@ -17,8 +15,7 @@ class StatisticsTest : public QObject
 private Q_SLOTS:
     void statistics_data()
     {
-        addColumns<QVector<double>, double, double, double, double>(
-                {"samples", "minimum", "median", "maximum", "jitter"});
+        addColumns<QVector<double>, double, double, double, double>();
         QTest::newRow("none") << QVector<double>{} << 0.0 << 0.0 << 0.0 << 0.0;
         QTest::newRow("one") << QVector<double>{7} << 7.0 << 7.0 << 7.0 << 0.0;
         QTest::newRow("odd, unsorted") << QVector<double>{9, 1, 5} << 1.0 << 5.0 << 9.0 << 6.0;
@@ -31,59 +28,34 @@ private Q_SLOTS:
 
     void statistics()
     {
-        QFETCH(const QVector<double>, samples);
+        const auto [samples, minimum, median, maximum, jitter]
+                = currentRow<QVector<double>, double, double, double, double>();
         const Statistics result = statisticsOf(samples);
         QCOMPARE(result.count, samples.size());
-        QTEST(result.minimum, "minimum");
-        QTEST(result.median, "median");
-        QTEST(result.maximum, "maximum");
-        QTEST(result.jitter, "jitter");
-    }
-
-    void judge_data()
-    {
-        addColumns<int, double, int>({"kind", "value", "status"});
-        const auto row = [](const char* name, Limit::Kind kind, double value, Status status) {
-            QTest::newRow(name) << int(kind) << value << int(status);
-        };
-        row("a fifth below a ceiling", Limit::AtMost, 80, StatusPass);
-        row("just below a ceiling", Limit::AtMost, 80.1, StatusMarginal);
-        row("on a ceiling", Limit::AtMost, 100, StatusMarginal);
-        row("above a ceiling", Limit::AtMost, 100.1, StatusFail);
-        row("a fifth above a floor", Limit::AtLeast, 120, StatusPass);
-        row("just above a floor", Limit::AtLeast, 119.9, StatusMarginal);
-        row("on a floor", Limit::AtLeast, 100, StatusMarginal);
-        row("below a floor", Limit::AtLeast, 99.9, StatusFail);
+        QCOMPARE(result.minimum, minimum);
+        QCOMPARE(result.median, median);
+        QCOMPARE(result.maximum, maximum);
+        QCOMPARE(result.jitter, jitter);
     }
 
     void judge()
     {
-        QFETCH(const int, kind);
-        QFETCH(const double, value);
-        const Limit limit{Limit::Kind(kind), 100};
-        QTEST(int(limit.judge(value)), "status");
+        // A fifth below the ceiling, just below, on and above it; the same for a floor.
+        const std::tuple<Limit::Kind, double, Status> rows[] {{Limit::AtMost, 80, StatusPass}, {Limit::AtMost, 80.1, StatusMarginal},
+                {Limit::AtMost, 100, StatusMarginal}, {Limit::AtMost, 100.1, StatusFail}, {Limit::AtLeast, 120, StatusPass},
+                {Limit::AtLeast, 119.9, StatusMarginal}, {Limit::AtLeast, 100, StatusMarginal}, {Limit::AtLeast, 99.9, StatusFail}};
+        for (const auto& [kind, value, status] : rows)
+            QVERIFY2(Limit({kind, 100}).judge(value) == status, qPrintable(QString::number(value)));
     }
 
     /// Three digits count, none is invented beyond what the clock tells, and zero is no trap.
-    void texts_data()
-    {
-        addColumns<int, double, QString>({"mostDecimals", "value", "text"});
-        QTest::newRow("zero") << 4 << 0.0 << "0.000 u";
-        QTest::newRow("tiny") << 4 << 0.00042 << "0.0004 u";
-        QTest::newRow("below a tenth") << 4 << 0.02194 << "0.0219 u";
-        QTest::newRow("below one") << 4 << 0.1234 << "0.123 u";
-        QTest::newRow("one") << 4 << 1.0 << "1.00 u";
-        QTest::newRow("hundreds") << 4 << 123.4 << "123 u";
-        QTest::newRow("no decimals") << 0 << 12345.6 << "12346 u";
-    }
-
     void texts()
     {
-        QFETCH(const int, mostDecimals);
-        QFETCH(const double, value);
         QLocale::setDefault(QLocale::c());
-        const SampleModel model("Quantity", "u", mostDecimals, {Limit::AtMost, 1}, nullptr);
-        QTEST(model.text(value), "text");
+        const std::tuple<int, double, const char*> rows[] {{4, 0.0, "0.000 u"}, {4, 0.00042, "0.0004 u"}, {4, 0.02194, "0.0219 u"},
+                {4, 0.1234, "0.123 u"}, {4, 1.0, "1.00 u"}, {4, 123.4, "123 u"}, {0, 12345.6, "12346 u"}};
+        for (const auto& [mostDecimals, value, text] : rows)
+            QCOMPARE(SampleModel("Quantity", "u", mostDecimals, {Limit::AtMost, 1}, nullptr).text(value), QString(text));
     }
 
     /// A new limit judges what is there already, and a limit that makes no sense changes nothing.

@@ -10,9 +10,6 @@
 #include <kiv/kivclientitem.h>
 #include <kiv/kivnotificationmodelmanager.h>
 
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
 #include <memory>
 
 using namespace uiutils;
@@ -87,7 +84,7 @@ private Q_SLOTS:
 
     void startUp_data()
     {
-        addColumns<QStringList, QString, bool>({"files", "service", "isIn"});
+        addColumns<QStringList, QString, bool>();
         const QStringList in {"mnt/usb/a.txt"};
         const QStringList out {"stick/a.txt"};
         const QStringList strayed {"stick/a.txt", "mnt/usb/stray.txt"};
@@ -102,9 +99,7 @@ private Q_SLOTS:
     }
     void startUp()
     {
-        QFETCH(QStringList, files);
-        QFETCH(QString, service);
-        QFETCH(bool, isIn);
+        const auto [files, service, isIn] = currentRow<QStringList, QString, bool>();
         for (const QString& file : files)
             put('/' + file, "x");
         if (service == "attached")

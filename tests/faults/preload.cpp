@@ -156,6 +156,12 @@ bool isChange(int flags)
 #define UIUTILS_INTERPOSE extern "C" __attribute__((visibility("default")))
 #define UIUTILS_UNLESS(condition, name, ...) unlessDead<decltype(&::name)>(condition, #name, __VA_ARGS__)
 
+#define UIUTILS_CALL(name, parameters, condition, ...)                                                                            \
+    UIUTILS_INTERPOSE int name parameters                                                                                         \
+    {                                                                                                                             \
+        return UIUTILS_UNLESS(condition, name, __VA_ARGS__);                                                                      \
+    }
+
 // The mode is the argument behind the flags, if there is one; without it the system does not look at it.
 #define UIUTILS_OPEN(name)                                                                                                       \
     UIUTILS_INTERPOSE int name(const char* path, int flags, ...)                                                                 \
@@ -181,50 +187,16 @@ UIUTILS_OPEN(open64)
 UIUTILS_OPENAT(openat)
 UIUTILS_OPENAT(openat64)
 
-UIUTILS_INTERPOSE int mkdir(const char* path, mode_t mode) noexcept
-{
-    return UIUTILS_UNLESS(isDead(path), mkdir, path, mode);
-}
-
-UIUTILS_INTERPOSE int mkdirat(int folder, const char* path, mode_t mode) noexcept
-{
-    return UIUTILS_UNLESS(isDead(folder, path), mkdirat, folder, path, mode);
-}
-
-UIUTILS_INTERPOSE int rename(const char* from, const char* to) noexcept
-{
-    return UIUTILS_UNLESS(isDead(from), rename, from, to);
-}
-
-UIUTILS_INTERPOSE int renameat2(int folder, const char* from, int newFolder, const char* to, unsigned flags) noexcept
-{
-    return UIUTILS_UNLESS(isDead(from), renameat2, folder, from, newFolder, to, flags);
-}
-
-UIUTILS_INTERPOSE int unlink(const char* path) noexcept
-{
-    return UIUTILS_UNLESS(isDead(path), unlink, path);
-}
-
-UIUTILS_INTERPOSE int unlinkat(int folder, const char* path, int flags) noexcept
-{
-    return UIUTILS_UNLESS(isDead(folder, path), unlinkat, folder, path, flags);
-}
-
-UIUTILS_INTERPOSE int rmdir(const char* path) noexcept
-{
-    return UIUTILS_UNLESS(isDead(path), rmdir, path);
-}
-
-UIUTILS_INTERPOSE int fsync(int fd)
-{
-    return UIUTILS_UNLESS(isDead(fd), fsync, fd);
-}
-
-UIUTILS_INTERPOSE int fchmod(int fd, mode_t mode) noexcept
-{
-    return UIUTILS_UNLESS(isDead(fd), fchmod, fd, mode);
-}
+UIUTILS_CALL(mkdir, (const char* path, mode_t mode) noexcept, isDead(path), path, mode)
+UIUTILS_CALL(mkdirat, (int folder, const char* path, mode_t mode) noexcept, isDead(folder, path), folder, path, mode)
+UIUTILS_CALL(rename, (const char* from, const char* to) noexcept, isDead(from), from, to)
+UIUTILS_CALL(renameat2, (int folder, const char* from, int newFolder, const char* to, unsigned flags) noexcept, isDead(from),
+        folder, from, newFolder, to, flags)
+UIUTILS_CALL(unlink, (const char* path) noexcept, isDead(path), path)
+UIUTILS_CALL(unlinkat, (int folder, const char* path, int flags) noexcept, isDead(folder, path), folder, path, flags)
+UIUTILS_CALL(rmdir, (const char* path) noexcept, isDead(path), path)
+UIUTILS_CALL(fsync, (int fd), isDead(fd), fd)
+UIUTILS_CALL(fchmod, (int fd, mode_t mode) noexcept, isDead(fd), fd, mode)
 
 UIUTILS_INTERPOSE ssize_t write(int fd, const void* data, size_t size)
 {

@@ -1,3 +1,5 @@
+#include "files.h"
+
 #include "files/drivespace_p.h"
 #include "files/fileutils.h"
 
@@ -22,12 +24,6 @@ constexpr qint64 block = 4096;
 KIVNotificationModelManager* manager()
 {
     return KIVNotificationModelManager::instance();
-}
-
-bool writeFile(const QString& path, qint64 size)
-{
-    QFile file(path);
-    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) && file.resize(size);
 }
 
 struct Drive
@@ -255,17 +251,17 @@ private Q_SLOTS:
     void treeSizes()
     {
         const QString source = "/cust/public/tree";
-        QVERIFY(writeFile(onDisk(source + "/empty"), 0));
-        QVERIFY(writeFile(onDisk(source + "/one"), 1));
-        QVERIFY(writeFile(onDisk(source + "/exact"), block));
-        QVERIFY(writeFile(onDisk(source + "/a/b/c %1"), block + 1));
+        writeFile(onDisk(source + "/empty"), QByteArray(0, 'x'));
+        writeFile(onDisk(source + "/one"), QByteArray(1, 'x'));
+        writeFile(onDisk(source + "/exact"), QByteArray(block, 'x'));
+        writeFile(onDisk(source + "/a/b/c %1"), QByteArray(block + 1, 'x'));
         FileUtils files;
         QCOMPARE(files.getDirSize(source, "/mnt/usb/new", block), qint64(4));
         QCOMPARE(files.getDirSize(source, "/mnt/usb/new", 1), 2 * block + 2);
         QCOMPARE(files.getDirSize(source, "/mnt/usb/new", 0), qint64(0));
 
-        QVERIFY(writeFile(onDisk("/mnt/usb/old/a/b/c %1"), 5 * block));
-        QVERIFY(writeFile(onDisk("/mnt/usb/old/elsewhere"), 5 * block));
+        writeFile(onDisk("/mnt/usb/old/a/b/c %1"), QByteArray(5 * block, 'x'));
+        writeFile(onDisk("/mnt/usb/old/elsewhere"), QByteArray(5 * block, 'x'));
         QCOMPARE(files.getDirSize(source, "/mnt/usb/old", block), qint64(4 - 5));
 
         QTest::ignoreMessage(QtCriticalMsg, "FileUtils::getDirSize - source path /cust/public/no%s does not exist");
@@ -278,7 +274,7 @@ private Q_SLOTS:
     void linksBetweenFolders()
     {
         const QString source = "/cust/public/links";
-        QVERIFY(writeFile(onDisk(source + "/0/file"), 1));
+        writeFile(onDisk(source + "/0/file"), QByteArray(1, 'x'));
         QVERIFY(QFile::link(onDisk(source), onDisk(source + "/0/up")));
         QVERIFY(QFile::link("nowhere", onDisk(source + "/0/dangling")));
         QVERIFY(QFile::link("/sys/kernel", onDisk(source + "/0/elsewhere")));
@@ -300,7 +296,7 @@ private Q_SLOTS:
     /// What lies below more folders than may be open counts; where no more can be opened, nothing is let pass.
     void deepTrees()
     {
-        QVERIFY(writeFile(onDisk("/cust/public/deep/" + QString("a/").repeated(300) + "file"), 100 * block));
+        writeFile(onDisk("/cust/public/deep/" + QString("a/").repeated(300) + "file"), QByteArray(100 * block, 'x'));
         struct rlimit before = {};
         QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
         const auto restore = qScopeGuard([&] { ::setrlimit(RLIMIT_NOFILE, &before); });
@@ -340,13 +336,13 @@ private Q_SLOTS:
         QVERIFY(manager()->currentDialog()->msg().startsWith("Not enough disk space for USB:/a - would need 92"));
         manager()->accept();
 
-        QVERIFY(writeFile(onDisk("/cust/public/big/a"), 10 * block));
+        writeFile(onDisk("/cust/public/big/a"), QByteArray(10 * block, 'x'));
         QVERIFY(!files.checkDriveSpaceForFile(QString("/cust/public/big/a"), target));
         QVERIFY(missing(QString::fromUtf8("USB:/stück/new/not/there/a"), "8.19 K"));
         QVERIFY(!files.checkDriveSpaceForDir("/cust/public/big", stick));
         QVERIFY(missing(QString::fromUtf8("USB:/stück"), "8.19 K"));
         // What is overwritten gives its blocks back.
-        QVERIFY(writeFile(onDisk(stick + "/a"), 2 * block));
+        writeFile(onDisk(stick + "/a"), QByteArray(2 * block, 'x'));
         QVERIFY(files.checkDriveSpaceForFile(10 * block, stick + "/a"));
         QVERIFY(files.checkDriveSpaceForDir("/cust/public/big", stick));
 

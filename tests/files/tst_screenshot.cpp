@@ -1,9 +1,10 @@
+#include "columns.h"
+#include "files.h"
+
 #include "files/screenshot.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
-
-#include <QtTest>
 
 namespace {
 
@@ -61,10 +62,7 @@ private Q_SLOTS:
 
     void workOrders_data()
     {
-        QTest::addColumn<QByteArray>("ours");
-        QTest::addColumn<QString>("theirs");
-        QTest::addColumn<QString>("order");
-        QTest::addColumn<QJsonObject>("info");
+        addColumns<QByteArray, QString, QString, QJsonObject>();
         const QString order = QString::fromUtf8("Auftrag µ 7");
         const QJsonObject pairs {{"wo", order}, {"workflowId", "wf-7"}};
         QTest::newRow("same session") << QByteArray("a") << "a" << order << pairs;
@@ -76,9 +74,7 @@ private Q_SLOTS:
     }
     void workOrders()
     {
-        QFETCH(QByteArray, ours);
-        QFETCH(QString, theirs);
-        QFETCH(QString, order);
+        const auto [ours, theirs, order, info] = currentRow<QByteArray, QString, QString, QJsonObject>();
         // What an earlier save knew has to go, and what comes later has to be seen.
         Screenshot screenshot;
         screenshot.setBaseName("a");
@@ -88,7 +84,7 @@ private Q_SLOTS:
         QVERIFY(m_backend.service(serviceName)->setValue(session, theirs));
         QVERIFY(m_backend.service(serviceName)->setValue(config + "activeWorkOrderId:", order));
         QVERIFY(screenshot.saveMetadata());
-        QTEST(recordOf("a").value("info").toObject(), "info");
+        QCOMPARE(recordOf("a").value("info").toObject(), info);
     }
 
     void serviceComesAndGoes()

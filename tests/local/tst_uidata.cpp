@@ -1,3 +1,5 @@
+#include "signallog.h"
+
 #include "local/uidata.h"
 
 #include <embedded/embeddedbackend.h>
@@ -11,45 +13,6 @@
 #include <memory>
 
 namespace {
-
-/// Names of an object's signals in the order in which they come; those of a base that the class declares anew are marked.
-class SignalLog : public QObject
-{
-public:
-    explicit SignalLog(QObject* object)
-        : m_object(object)
-    {
-        const QMetaObject* type = object->metaObject();
-        for (int i = QObject::staticMetaObject.methodCount(); i < type->methodCount(); ++i) {
-            if (type->method(i).methodType() == QMetaMethod::Signal)
-                QMetaObject::connect(object, i, this, QObject::staticMetaObject.methodCount() + i);
-        }
-    }
-
-    int qt_metacall(QMetaObject::Call call, int id, void** arguments) override
-    {
-        id = QObject::qt_metacall(call, id, arguments);
-        if (id < 0 || call != QMetaObject::InvokeMetaMethod)
-            return id;
-        const QMetaObject* type = m_object->metaObject();
-        const QString name = type->method(id).name();
-        const bool isHidden = type->indexOfSignal(type->method(id).methodSignature()) != id;
-        names.append(isHidden ? "KivData::" + name : name);
-        return -1;
-    }
-
-    QStringList take()
-    {
-        QStringList taken;
-        taken.swap(names);
-        return taken;
-    }
-
-    QStringList names;
-
-private:
-    QObject* m_object;
-};
 
 QStringList words(const char* text)
 {
@@ -162,15 +125,6 @@ private Q_SLOTS:
         QCOMPARE(changes.size(), 5);
         const auto* none = qobject_cast<QIntValidator*>(item.getValidator());
         QVERIFY(none && none->bottom() == 0 && none->top() == 0);
-    }
-
-    void rangeTexts()
-    {
-        UiData item;
-        item.setAttributes({{"type", UiData::TYPE_STRING}, {"minRange", 8}, {"maxRange", 16}, {"inputType", KivData::INPUT_PASSWORD}});
-        QCOMPARE(item.getRangeDescription(), QString("8 - 16 chars"));
-        item.setInputType(KivData::INPUT_IPV4);
-        QCOMPARE(item.property("rangeDescription"), QVariant("0.0.0.0 - 255.255.255.255"));
     }
 
     void texts()

@@ -19,11 +19,7 @@
 
 #include <kiv/kivnotificationmodelmanager.h>
 
-#include <QDir>
-#include <QFile>
-#include <QMetaMethod>
 #include <QQmlPropertyMap>
-#include <QRegularExpression>
 #include <QtTest>
 
 #include <cxxabi.h>

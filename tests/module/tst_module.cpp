@@ -1,14 +1,9 @@
-#include "document/reporttemplate.h"
 #include "module/uiutilsmodule.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
 
-#include <QDirIterator>
-#include <QFile>
-#include <QJsonObject>
 #include <QQmlComponent>
 #include <QQmlEngine>
-#include <QRegularExpression>
 #include <QtTest>
 
 #include <memory>
@@ -74,21 +69,6 @@ private Q_SLOTS:
             }
         }
         QVERIFY(componentText("QQmlPropertyMap").contains("UiUtils/QMLAggregate 1.0"));
-    }
-
-    void aPageBuildsAReport()
-    {
-        QQmlEngine engine;
-        const auto object = made(engine, R"(ReportTemplate {
-                Component.onCompleted: {
-                    beginReport("page"); setKey("flag", true); addAttribute("unit", 3.5); beginTable("t", "Table")
-                    addRow("a", "First", 1, { "unit": "dB", "status": 16 }); endTable(); endReport()
-                }
-            })");
-        const QJsonObject root = qobject_cast<ReportTemplate*>(object.get())->object();
-        QCOMPARE(root.value("flag").toString() + root.value("attr_unit").toString(), QString("true3.5"));
-        QCOMPARE(root.value("table_0").toObject().value("row_1").toObject().value("cell_0").toObject(),
-                QJsonObject({{"attr_status", "16"}, {"attr_unit", "dB"}, {"label", "1"}, {"tag", "a"}, {"title", "First"}}));
     }
 
     /// What QML can hand over in place of a map of texts, and which of two overloads it means.

@@ -6,8 +6,6 @@
 #include "pdfpages.h"
 #include "viewersamples.h"
 
-#include <QTemporaryDir>
-
 #include <sys/stat.h>
 
 using namespace uiutils::viewer;
@@ -52,7 +50,7 @@ private Q_SLOTS:
 
     void loading_data()
     {
-        addColumns<QString, int, bool>({"name", "problem", "repaired"});
+        addColumns<QString, int, bool>();
         const auto row = [](const char* what, const char* name, Problem problem, bool repaired = false) {
             QTest::newRow(what) << QString(name) << int(problem) << repaired;
         };
@@ -78,12 +76,11 @@ private Q_SLOTS:
     }
     void loading()
     {
-        QFETCH(const QString, name);
-        QFETCH(const bool, repaired);
+        const auto [name, expected, repaired] = currentRow<QString, int, bool>();
         Problem problem = Problem::None;
         const QByteArray bytes = readDocument(path(name), &problem);
         const auto pages = problem == Problem::None ? PdfPages::open(bytes, &problem) : nullptr;
-        QTEST(int(problem), "problem");
+        QCOMPARE(int(problem), expected);
         QCOMPARE(pages != nullptr, problem == Problem::None);
         QCOMPARE(descriptionOf(problem).isEmpty(), problem == Problem::None);
         QCOMPARE(adviceOn(problem).isEmpty(), problem == Problem::None);
@@ -107,24 +104,18 @@ private Q_SLOTS:
         QVERIFY(pages->render(7, QSize(306, 396), isWanted).isNull());
     }
 
-    void renderedSizes_data()
-    {
-        addColumns<QSize, QSize>({"asked", "given"});
-        QTest::newRow("as asked") << QSize(996, 1289) << QSize(996, 1289);
-        QTest::newRow("too many pixels") << QSize(4000, 4000) << QSize(2549, 2549);
-        QTest::newRow("too long") << QSize(10, 40960) << QSize(1, 4096);
-        QTest::newRow("largest numbers") << QSize(INT_MAX, INT_MAX) << QSize(2549, 2549);
-        QTest::newRow("nothing") << QSize(0, 10) << QSize();
-    }
     void renderedSizes()
     {
-        QFETCH(const QSize, asked);
-        QTEST(PdfPages::renderedSize(asked), "given");
+        // As asked, too many pixels, too long, the largest numbers, nothing.
+        const std::pair<QSize, QSize> rows[] {{{996, 1289}, {996, 1289}}, {{4000, 4000}, {2549, 2549}}, {{10, 40960}, {1, 4096}},
+                {{INT_MAX, INT_MAX}, {2549, 2549}}, {{0, 10}, {}}};
+        for (const auto& [asked, given] : rows)
+            QCOMPARE(PdfPages::renderedSize(asked), given);
     }
 
     void commandLines_data()
     {
-        addColumns<QStringList, int, QString>({"arguments", "outcome", "told"});
+        addColumns<QStringList, int, QString>();
         const auto shown = [](const char* what, const QStringList& arguments, const char* told) {
             QTest::newRow(what) << arguments << int(Options::Run) << QString(told);
         };
@@ -149,10 +140,9 @@ private Q_SLOTS:
     }
     void commandLines()
     {
-        QFETCH(const QStringList, arguments);
-        QFETCH(const QString, told);
+        const auto [arguments, outcome, told] = currentRow<QStringList, int, QString>();
         const Options options = readOptions(QStringList("pdf_viewer") + arguments);
-        QTEST(int(options.outcome), "outcome");
+        QCOMPARE(int(options.outcome), outcome);
         if (options.outcome != Options::Run) {
             QVERIFY2(options.message.contains(told), qPrintable(options.message));
             return;
@@ -161,19 +151,14 @@ private Q_SLOTS:
                          options.isWholeScreen ? "whole" : "", options.plugins.join(',')}).join('|'), told);
     }
 
-    void plugins_data()
-    {
-        addColumns<QByteArray, QString, bool>({"platforms", "plugin", "usable"});
-        QTest::newRow("device there") << QByteArray("linuxfb") << "EvdevTouch:/dev/null:rotate=90" << true;
-        QTest::newRow("device not there") << QByteArray("linuxfb") << "EvdevTouch:/dev/input/event-none" << false;
-        QTest::newRow("finds its own") << QByteArray("eglfs") << "EvdevTouch" << true;
-        QTest::newRow("window system") << QByteArray("xcb;offscreen") << "EvdevTouch:/dev/null" << false;
-    }
     void plugins()
     {
-        QFETCH(const QByteArray, platforms);
-        QFETCH(const QString, plugin);
-        QTEST(usablePlugins({plugin}, platforms) == QStringList(plugin), "usable");
+        // A device that is there, one that is not, one that finds its own, and a window system, which brings touches itself.
+        const std::tuple<const char*, const char*, bool> rows[] {{"linuxfb", "EvdevTouch:/dev/null:rotate=90", true},
+                {"linuxfb", "EvdevTouch:/dev/input/event-none", false}, {"eglfs", "EvdevTouch", true},
+                {"xcb;offscreen", "EvdevTouch:/dev/null", false}};
+        for (const auto& [platforms, plugin, isUsable] : rows)
+            QVERIFY2((usablePlugins({plugin}, platforms) == QStringList(plugin)) == isUsable, plugin);
     }
 };
 

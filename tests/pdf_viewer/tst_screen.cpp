@@ -9,8 +9,6 @@
 #include <QQuickItem>
 #include <QQuickItemGrabResult>
 #include <QQuickWindow>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTouchDevice>
 
 #include <memory>
@@ -189,7 +187,7 @@ private Q_SLOTS:
     /// Two fingers part: what is between them grows and stays there.
     void pinch_data()
     {
-        addColumns<QPoint, int>({"direction", "early"});
+        addColumns<QPoint, int>();
         QTest::newRow("across") << QPoint(1, 0) << 0;
         QTest::newRow("down, as pages flick") << QPoint(0, 1) << 0;
         QTest::newRow("askew") << QPoint(1, 1) << 0;
@@ -197,12 +195,11 @@ private Q_SLOTS:
     }
     void pinch()
     {
-        QFETCH(const QPoint, direction);
-        QFETCH(const int, early);
+        const auto [direction, early] = currentRow<QPoint, int>();
         show(samples::barred(3));
         QTRY_VERIFY(isSharp(0));
         const QPoint middle(512, 320);
-        const auto at = [&middle, &direction](int distance) { return middle + direction * distance; };
+        const auto at = [&middle, direction = direction](int distance) { return middle + direction * distance; };
         QTest::touchEvent(m_window, m_screen).press(0, at(-60 + 10 * early), m_window);
         for (int step = early - 1; step >= 0; --step) {
             QTest::touchEvent(m_window, m_screen).move(0, at(-60 + 10 * step), m_window);
@@ -243,17 +240,6 @@ private Q_SLOTS:
         turn(-120, Qt::NoModifier);
         QTRY_VERIFY(m_pages->property("contentY").toReal() > 20);
         QCOMPARE(zoom(), before);
-    }
-
-    void flick()
-    {
-        show(samples::barred(3));
-        QTRY_VERIFY(isSharp(0));
-        QTest::touchEvent(m_window, m_screen).press(0, QPoint(500, 500), m_window);
-        for (int y = 480; y >= 100; y -= 20)
-            QTest::touchEvent(m_window, m_screen).move(0, QPoint(500, y), m_window);
-        QTest::touchEvent(m_window, m_screen).release(0, QPoint(500, 100), m_window);
-        QTRY_VERIFY(m_pages->property("contentY").toReal() > 200);
     }
 
     void aThousandPages()

@@ -1,8 +1,6 @@
 #include "columns.h"
 #include "viewersamples.h"
 
-#include <QTemporaryDir>
-
 #include <csignal>
 
 /// The program as it is started.
@@ -34,18 +32,17 @@ private Q_SLOTS:
 
     void endings_data()
     {
-        addColumns<QStringList, int, QString>({"arguments", "exitCode", "words"});
+        addColumns<QStringList, int, QString>();
         QTest::newRow("help") << QStringList {"--help"} << 0 << "--dpy";
         QTest::newRow("wrong command line") << QStringList {"--dpy", "0", "a.pdf"} << 2 << "--dpy needs a number";
         QTest::newRow("nobody could see it") << QStringList {"a.pdf"} << 1 << "There is no display to show a.pdf on.";
     }
     void endings()
     {
-        QFETCH(const QStringList, arguments);
-        QFETCH(const QString, words);
+        const auto [arguments, exitCode, words] = currentRow<QStringList, int, QString>();
         start(arguments, {});
         QVERIFY(m_viewer.waitForFinished());
-        QTEST(m_viewer.exitCode(), "exitCode");
+        QCOMPARE(m_viewer.exitCode(), exitCode);
         const QString told = m_viewer.exitCode() == 0 ? m_viewer.readAllStandardOutput() : m_viewer.readAllStandardError();
         QVERIFY2(told.contains(words), qPrintable(told));
     }

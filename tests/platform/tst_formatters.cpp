@@ -3,9 +3,6 @@
 #include <embedded/embeddedbackend.h>
 #include <kiv/baseformatter.h>
 
-#include <QLocale>
-#include <QtMath>
-
 #include <memory>
 
 /// Formatters as the platform hands them out.
@@ -19,7 +16,7 @@ private:
 private Q_SLOTS:
     void texts_data()
     {
-        addColumns<QString, QVariant, int, QString, QString>({"name", "value", "precision", "text", "unit"});
+        addColumns<QString, QVariant, int, QString, QString>();
         const QString micro(QChar(0xb5));
         QTest::newRow("decimal") << "decimal" << QVariant(12345.678) << -1 << "12,345.678" << "";
         QTest::newRow("decimal, rounded") << "decimal:V" << QVariant(0.005) << 1 << "0.0 V" << "V";
@@ -47,11 +44,7 @@ private Q_SLOTS:
     }
     void texts()
     {
-        QFETCH(QString, name);
-        QFETCH(QVariant, value);
-        QFETCH(int, precision);
-        QFETCH(QString, text);
-        QFETCH(QString, unit);
+        const auto [name, value, precision, text, unit] = currentRow<QString, QVariant, int, QString, QString>();
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
         const std::unique_ptr<BaseFormatter> formatter(getFormatter(name));
         QVERIFY(formatter);

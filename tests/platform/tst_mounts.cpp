@@ -2,8 +2,6 @@
 #include <kiv/kivbackend.h>
 #include <kiv/mounttable_p.h>
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {

@@ -1,8 +1,5 @@
 #include <kiv/kivnotificationmodelmanager.h>
 
-#include <QAbstractItemModelTester>
-#include <QScopeGuard>
-#include <QSignalSpy>
 #include <QtTest>
 
 #include <memory>

@@ -11,13 +11,8 @@
 #include <kiv/kivvecclientitem.h>
 #include <kiv/system.h>
 
-#include <QElapsedTimer>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QLocale>
-#include <QPointer>
-#include <QRegularExpression>
-#include <QSignalSpy>
+#include <functional>
+#include <map>
 
 namespace {
 
@@ -117,47 +112,27 @@ private Q_SLOTS:
         QVERIFY(ids.isEmpty());
     }
 
-    void items_data()
+    void values()
     {
-        addColumns<QString, QString, QVariant, QString, QString>({"id", "name", "value", "text", "textWithoutUnit"});
-        QTest::newRow("string") << ":config:kinds:test:name:" << "name" << QVariant("Fiber 7") << "Fiber 7" << "Fiber 7";
-        QTest::newRow("bool") << ":config:kinds:test:on:" << "on" << QVariant(true) << "true" << "true";
-        QTest::newRow("int") << ":config:kinds:test:level:" << "level" << QVariant(-3) << "-3" << "-3";
-        QTest::newRow("double") << ":config:kinds:test:speed:" << "speed" << QVariant(1234.5) << "1,234.50 Mbit/s"
-                                << "1,234.50";
-        QTest::newRow("texts") << ":config:kinds:test:hosts:stringARRAY:" << "hosts" << QVariant(QStringList {"a", "", "c"})
-                               << "a, , c" << "a, , c";
-        QTest::newRow("numbers") << ":result:kinds:trace_y:doubleARRAY:" << "trace_y"
-                                 << QVariant(QVariantList {0.5, -1.0}) << "0.5, -1 dB" << "0.5, -1";
-        QTest::newRow("without a value") << ":result:kinds:pending:" << "pending" << QVariant() << "" << "";
-    }
-    void items()
-    {
-        QFETCH(QString, id);
-        QFETCH(QString, name);
-        QFETCH(QVariant, value);
-        QFETCH(QString, text);
-        QFETCH(QString, textWithoutUnit);
+        using Row = std::tuple<const char*, const char*, QVariant, const char*, const char*>;
+        const KIVClientInterface* kinds = KIVClientInterface::getSessionBusClient("kinds");
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-        const KIVClientItem* item = KIVClientInterface::getSessionBusClient("kinds")->getItem(id);
-        QVERIFY(item);
-        QCOMPARE(item->getId(), id);
-        QCOMPARE(item->getName(), name);
-        QCOMPARE(item->getValue(), value);
-        QCOMPARE(item->getValue().type(), value.type());
-        QCOMPARE(item->getValueString(), text);
-        QCOMPARE(item->getValueString(false), textWithoutUnit);
-    }
-
-    void shownNumbersFollowTheLocale()
-    {
+        for (const auto& [id, name, value, text, textWithoutUnit] :
+                {Row(":config:kinds:test:name:", "name", "Fiber 7", "Fiber 7", "Fiber 7"),
+                     Row(":config:kinds:test:on:", "on", true, "true", "true"), Row(":config:kinds:test:level:", "level", -3, "-3", "-3"),
+                     Row(":config:kinds:test:speed:", "speed", 1234.5, "1,234.50 Mbit/s", "1,234.50"),
+                     Row(":config:kinds:test:hosts:stringARRAY:", "hosts", QStringList {"a", "", "c"}, "a, , c", "a, , c"),
+                     Row(":result:kinds:trace_y:doubleARRAY:", "trace_y", QVariantList {0.5, -1.0}, "0.5, -1 dB", "0.5, -1"),
+                     Row(":result:kinds:pending:", "pending", QVariant(), "", "")}) {
+            const KIVClientItem* item = kinds->getItem(id);
+            QVERIFY2(item && item->getId() == id && item->getName() == name, id);
+            QCOMPARE(item->getValue(), value);
+            QCOMPARE(item->getValue().type(), value.type());
+            QCOMPARE(item->getValueString(), QString(text));
+            QCOMPARE(item->getValueString(false), QString(textWithoutUnit));
+        }
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-        const KIVClientItem* item
-                = KIVClientInterface::getSessionBusClient("kinds")->getItem(":config:kinds:test:speed:");
-        QCOMPARE(item->getValueString(), QString("1.234,50 Mbit/s"));
-        QCOMPARE(item->getUnitString(), QString("Mbit/s"));
-        QCOMPARE(item->getLabel(), QString("Speed"));
-        QCOMPARE(item->getAttribute("scale"), QVariant("log"));
+        QCOMPARE(kinds->getItem(":config:kinds:test:speed:")->getValueString(), QString("1.234,50 Mbit/s"));
     }
 
     void aChangeIsReportedOnce()
@@ -183,7 +158,7 @@ private Q_SLOTS:
 
     void kinds_data()
     {
-        addColumns<QString, unsigned, QString, QByteArray, QString>({"id", "type", "typeName", "kind", "text"});
+        addColumns<QString, unsigned, QString, QByteArray, QString>();
         using Item = KIVClientItem;
         const auto row = [](const char* id, unsigned type, const char* typeName, const char* kind, const char* text) {
             QTest::newRow(id) << QString(id) << type << QString(typeName) << QByteArray(kind) << QString(text);
@@ -206,11 +181,7 @@ private Q_SLOTS:
     }
     void kinds()
     {
-        QFETCH(QString, id);
-        QFETCH(unsigned, type);
-        QFETCH(QString, typeName);
-        QFETCH(QByteArray, kind);
-        QFETCH(QString, text);
+        const auto [id, type, typeName, kind, text] = currentRow<QString, unsigned, QString, QByteArray, QString>();
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
         const KIVClientItem* item = station()->getItem(id);
         QVERIFY(item);
@@ -231,6 +202,7 @@ private Q_SLOTS:
         QCOMPARE(level->getAttribute("minRange"), QVariant(-10));
         QCOMPARE(level->getAttribute("maxRange"), QVariant(10));
         QCOMPARE(level->getAttribute("label"), QVariant("Level"));
+        QCOMPARE(level->getLabel(), QString("Level"));
         QVERIFY(!level->getAttribute("precision").isValid());
         QVERIFY(level->isReady() && level->isApplicable() && level->getApplicableExpr().isEmpty());
 
@@ -296,7 +268,7 @@ private Q_SLOTS:
 
     void answersThatChange_data()
     {
-        addColumns<int, QVariant, QVariant, QByteArray>({"answer", "before", "after", "changed"});
+        addColumns<int, QVariant, QVariant, QByteArray>();
         using Answer = PlatformSetup::Answer;
         const auto row = [](const char* name, Answer answer, const QVariant& before, const QVariant& after) {
             QTest::newRow(name) << int(answer) << before << after << QByteArray(name);
@@ -308,16 +280,13 @@ private Q_SLOTS:
     }
     void answersThatChange()
     {
-        QFETCH(int, answer);
-        QFETCH(QVariant, before);
-        QFETCH(QVariant, after);
-        QFETCH(QByteArray, changed);
+        const auto [answer, before, after, changed] = currentRow<int, QVariant, QVariant, QByteArray>();
         const KIVClientItem* item = station()->getItem(levelId);
         std::vector<std::unique_ptr<QSignalSpy>> spies;
         for (const char* signal : {SIGNAL(valueChanged()), SIGNAL(unitsChanged()), SIGNAL(isReadyChanged()),
                      SIGNAL(qualityChanged()), SIGNAL(isApplicableChanged())})
             spies.push_back(std::make_unique<QSignalSpy>(item, signal));
-        const auto drive = [&](const QVariant& value) {
+        const auto drive = [&, answer = answer](const QVariant& value) {
             return m_setup->change("station", levelId, PlatformSetup::Answer(answer), value);
         };
         QVERIFY(drive(before));
@@ -345,7 +314,7 @@ private Q_SLOTS:
 
     void writes_data()
     {
-        addColumns<QString, QVariant, QVariant, QStringList>({"name", "given", "taken", "words"});
+        addColumns<QString, QVariant, QVariant, QStringList>();
         const auto take = [](const char* row, const char* name, const QVariant& given, const QVariant& taken) {
             QTest::newRow(row) << QString(name) << given << taken << QStringList();
         };
@@ -400,10 +369,7 @@ private Q_SLOTS:
     }
     void writes()
     {
-        QFETCH(QString, name);
-        QFETCH(QVariant, given);
-        QFETCH(QVariant, taken);
-        QFETCH(QStringList, words);
+        const auto [name, given, taken, words] = currentRow<QString, QVariant, QVariant, QStringList>();
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
         const QString id = ":config:station:setup:" + name + ":";
         const KIVClientItem* item = station()->getItem(id);
@@ -481,7 +447,7 @@ private Q_SLOTS:
 
     void batches_data()
     {
-        addColumns<QString, QVariantMap, QStringList>({"argument", "set", "words"});
+        addColumns<QString, QVariantMap, QStringList>();
         const QString speedId = ":config:kinds:test:speed:";
         QTest::newRow("own") << json({{"level_3", 4}, {"mode", -2}}) << QVariantMap {{levelId, 4}, {modeId, -2}}
                              << QStringList();
@@ -503,9 +469,7 @@ private Q_SLOTS:
     }
     void batches()
     {
-        QFETCH(QString, argument);
-        QFETCH(QVariantMap, set);
-        QFETCH(QStringList, words);
+        const auto [argument, set, words] = currentRow<QString, QVariantMap, QStringList>();
         const QStringList clients {"station", "kinds", "basemgr"};
         const auto valueOf = [&](const QString& id) {
             for (const QString& name : clients) {
@@ -596,7 +560,7 @@ private Q_SLOTS:
     /// A page that goes on a change takes with it what the change came from.
     void aSlotMayEndWhatItHearsOf_data()
     {
-        addColumns<QString, QString>({"signal", "end"});
+        addColumns<QString, QString>();
         for (const char* signal : {"value", "batch", "action", "ready", "unit", "choices", "items", "error"}) {
             for (const char* end : {"vanish", "remove", "backend"})
                 QTest::newRow(qPrintable(QString(signal) + " " + end)) << QString(signal) << QString(end);
@@ -604,11 +568,10 @@ private Q_SLOTS:
     }
     void aSlotMayEndWhatItHearsOf()
     {
-        QFETCH(QString, signal);
-        QFETCH(QString, end);
+        const auto [signal, end] = currentRow<QString, QString>();
         QObject page;
         int calls = 0;
-        const auto finish = [&] {
+        const auto finish = [&, signal = signal, end = end] {
             if (++calls > 1)
                 return;
             if (end == "vanish")
@@ -628,22 +591,16 @@ private Q_SLOTS:
         connect(client, &KIVClientInterface::SigError, &page, finish);
         if (signal == "items")
             connect(client, &KIVClientInterface::itemsChanged, &page, finish);
-        if (signal == "value")
-            QVERIFY(client->setItem(levelId, 1));
-        else if (signal == "batch")
-            QVERIFY(client->sendAction(applyId, json({{"level_3", 1}, {"mode", -2}, {"on", false}}), nullptr, 1000));
-        else if (signal == "action")
-            QVERIFY(client->invokeAction(":action:station:level:"));
-        else if (signal == "ready")
-            m_setup->change("station", levelId, PlatformSetup::Answer::Ready, false);
-        else if (signal == "unit")
-            m_setup->change("station", levelId, PlatformSetup::Answer::Unit, "V");
-        else if (signal == "choices")
-            m_setup->setChoices("station", modeId, {{1, "One"}});
-        else if (signal == "items")
-            m_setup->addItem("station", ":result:station:extra:", "int", 1);
-        else
-            m_setup->reportError("station", "The fan stands still.");
+        using Answer = PlatformSetup::Answer;
+        const std::map<QString, std::function<void()>> causes {{"value", [&] { client->setItem(levelId, 1); }},
+                {"batch", [&] { client->sendAction(applyId, json({{"level_3", 1}, {"mode", -2}, {"on", false}}), nullptr, 1000); }},
+                {"action", [&] { client->invokeAction(":action:station:level:"); }},
+                {"ready", [&] { m_setup->change("station", levelId, Answer::Ready, false); }},
+                {"unit", [&] { m_setup->change("station", levelId, Answer::Unit, "V"); }},
+                {"choices", [&] { m_setup->setChoices("station", modeId, {{1, "One"}}); }},
+                {"items", [&] { m_setup->addItem("station", ":result:station:extra:", "int", 1); }},
+                {"error", [&] { m_setup->reportError("station", "The fan stands still."); }}};
+        causes.at(signal)();
         QTRY_VERIFY(calls > 0);
         QCOMPARE(bool(m_setup), end != "backend");
     }

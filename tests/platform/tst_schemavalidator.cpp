@@ -4,7 +4,6 @@
 #include <kiv/schemavalidator.h>
 
 #include <QTcpServer>
-#include <QTemporaryDir>
 
 #include <atomic>
 #include <thread>
@@ -33,7 +32,7 @@ private:
 private Q_SLOTS:
     void texts_data()
     {
-        addColumns<QByteArray, QStringList>({"text", "errors"});
+        addColumns<QByteArray, QStringList>();
         const auto add = [](const char* name, const QByteArray& text, const QStringList& errors) {
             QTest::newRow(name) << text << errors;
         };
@@ -63,8 +62,7 @@ private Q_SLOTS:
     }
     void texts()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(QStringList, errors);
+        auto [text, errors] = currentRow<QByteArray, QStringList>();
         const QString ring = write("ring.xsd", head + "<xs:element name='ring'/></xs:schema>");
         text.replace("ring.xsd", QFile::encodeName(ring));
         SchemaValidator validator;
@@ -82,7 +80,7 @@ private Q_SLOTS:
 
     void schemas_data()
     {
-        addColumns<QByteArray, QString>({"text", "error"});
+        addColumns<QByteArray, QString>();
         const auto including = [](const QByteArray& file) {
             return head + "<xs:include schemaLocation='" + file + "'/></xs:schema>";
         };
@@ -105,8 +103,7 @@ private Q_SLOTS:
     /// In a folder whose name is no URL as it is.
     void schemas()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(QString, error);
+        auto [text, error] = currentRow<QByteArray, QString>();
         QTcpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));
         text.replace("%1", QByteArray::number(server.serverPort()));

@@ -6,8 +6,6 @@
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
 
-#include <QTemporaryDir>
-
 using kiv::embedded::EmbeddedBackend;
 
 class ServiceFilesTest : public QObject
@@ -18,7 +16,7 @@ private Q_SLOTS:
     /// The files that ship, and the ones that the tests use, are the schema's first readers.
     void shippedFilesLoad_data()
     {
-        addColumns<QString, QStringList>({"folder", "services"});
+        addColumns<QString, QStringList>();
         QTest::newRow("shipped") << UIUTILS_SOURCE_DIR "/platform/reference/services"
                                  << QStringList {"basemgr", "loopback", "loopback_rtt", "loopback_throughput",
                                         "optical", "orb.base.workflow_manager_app"};
@@ -28,8 +26,7 @@ private Q_SLOTS:
     }
     void shippedFilesLoad()
     {
-        QFETCH(QString, folder);
-        QFETCH(QStringList, services);
+        const auto [folder, services] = currentRow<QString, QStringList>();
         EmbeddedBackend backend;
         const QStringList problems = backend.loadFolders({folder});
         QVERIFY2(problems.isEmpty(), qPrintable(problems.join("\n")));
@@ -59,24 +56,17 @@ private Q_SLOTS:
 
     void refusedFiles_data()
     {
-        addColumns<QByteArray, QString>({"contents", "place"});
+        addColumns<QByteArray, QString>();
         QTest::newRow("syntax") << QByteArray("{\n  \"service\": \"s\",\n  \"items\": [,]\n}") << ":3:14: ";
         QTest::newRow("huge id") << "{\"service\": \"s\", \"items\": [{\"id\": \":config:" + QByteArray(200'000, 'a')
                         + ":\", \"type\": \"bool\"}]}" << ": /items/0/id: ";
         QTest::newRow("deep") << QByteArray(3000, '[') << ":1:";
-        QFile table(UIUTILS_TEST_DATA_DIR "/refused/services.txt");
-        QVERIFY(table.open(QIODevice::ReadOnly));
-        table.readLine();
-        while (!table.atEnd()) {
-            const QStringList columns = QString::fromUtf8(table.readLine()).chopped(1).split(" | ");
-            QCOMPARE(columns.size(), 3);
-            QTest::newRow(qPrintable(columns.at(0))) << columns.at(2).toUtf8() << columns.at(1);
-        }
+        for (const QStringList& row : tableIn("/refused/services.txt"))
+            QTest::newRow(qPrintable(row.at(0))) << row.at(2).toUtf8() << row.at(1);
     }
     void refusedFiles()
     {
-        QFETCH(QByteArray, contents);
-        QFETCH(QString, place);
+        const auto [contents, place] = currentRow<QByteArray, QString>();
         QTemporaryDir dir;
         const QString path = writeFile(dir.filePath("bad.service.json"), contents);
         writeFile(dir.filePath("good.service.json"), "{\"service\": \"good\", \"items\": []}");

@@ -6,11 +6,6 @@
 #include <kiv/filesystemusage.h>
 #include <kiv/kivclientinterface.h>
 
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
 #include <limits>
 
 using kiv::embedded::EmbeddedBackend;
@@ -85,7 +80,7 @@ private Q_SLOTS:
 
     void valuesSurvive_data()
     {
-        addColumns<QString, QVariant>({"name", "value"});
+        addColumns<QString, QVariant>();
         QTest::newRow("smallest step") << "power" << QVariant(std::nextafter(1.0, 2.0));
         QTest::newRow("third") << "power" << QVariant(1.0 / 3.0);
         QTest::newRow("denormal") << "power" << QVariant(std::numeric_limits<double>::denorm_min());
@@ -102,8 +97,7 @@ private Q_SLOTS:
     }
     void valuesSurvive()
     {
-        QFETCH(QString, name);
-        QFETCH(QVariant, value);
+        const auto [name, value] = currentRow<QString, QVariant>();
         const QString id = prefix + name + ":";
         {
             const Run run(folder());
@@ -268,7 +262,7 @@ private Q_SLOTS:
 
     void configurations_data()
     {
-        addColumns<QString, QString>({"argument", "file"});
+        addColumns<QString, QString>();
         QTest::newRow("plain") << "My settings,1" << "My settings.json";
         QTest::newRow("comma in the name") << "One, two,1" << "One, two.json";
         QTest::newRow("path") << "../../etc,1" << "%2e.%2f..%2fetc.json";
@@ -280,8 +274,7 @@ private Q_SLOTS:
     }
     void configurations()
     {
-        QFETCH(QString, argument);
-        QFETCH(QString, file);
+        const auto [argument, file] = currentRow<QString, QString>();
         const Run run(folder());
         QString reply;
         const QString id = ":action:station:saveconfig:";

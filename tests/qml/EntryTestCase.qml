@@ -1,8 +1,13 @@
 import QtQuick 2.15
 import QtTest 1.15
+import UiUtils 1.0
+import UiUtils.Controls 1.0
 
 // Hands and eyes of the tests of entries.
 TestCase {
+    readonly property Component entryComponent: Component { ItemEntry {} }
+    readonly property Component itemComponent: Component { UiData {} }
+
     when: windowShown
 
     function init() {

@@ -11,14 +11,6 @@ Item {
     height: 600
 
     Component {
-        id: entryComponent
-        ItemEntry {}
-    }
-    Component {
-        id: localComponent
-        UiData {}
-    }
-    Component {
         id: pairComponent
         Column {
             property alias first: first
@@ -100,15 +92,6 @@ Item {
             compare(fieldOf(pair.first).text, "x")
             verify(pair.first.entry.isInvalid)
             compare(pair.first.entry.note, "2 - 16 chars")
-        }
-
-        function test_escapeRestores() {
-            const entry = make(entryComponent, { item: entry_cfg_level })
-            type(entry, "77")
-            keyClick(Qt.Key_Escape)
-            compare(fieldOf(entry).text, "20.5")
-            keyClick(Qt.Key_Return)
-            compare(driver.value(":config:entry:level:"), 20.5)
         }
 
         // A form in a popup closes with Escape when there is nothing to take back.
@@ -333,7 +316,7 @@ Item {
         }
 
         function test_localList() {
-            const item = createTemporaryObject(localComponent, root, { type: "std::vector<double>", maxRange: 10 })
+            const item = createTemporaryObject(itemComponent, root, { type: "std::vector<double>", maxRange: 10 })
             item.value = [1.5, 2]
             const entry = make(entryComponent, { item: item })
             const rows = findChild(entry, "rows")
@@ -393,7 +376,7 @@ Item {
             driver.report(":config:entry:mode:", 2)
             compare(fieldOf(far).text, "70")
 
-            const item = createTemporaryObject(localComponent, root, { type: "std::string", value: "before" })
+            const item = createTemporaryObject(itemComponent, root, { type: "std::string", value: "before" })
             const local = make(entryComponent, { item: item })
             type(local, "after")
             item.isReady = false
@@ -424,7 +407,7 @@ Item {
                 entry.item = item
             compare(fieldOf(entry).text, "20.5")
 
-            const item = localComponent.createObject(root, { type: "std::string", value: "brief" })
+            const item = itemComponent.createObject(root, { type: "std::string", value: "brief" })
             entry.item = item
             const alone = make(textComponent, { item: item })
             type(alone, "longer")
@@ -437,7 +420,7 @@ Item {
         }
 
         function test_formIsComplete() {
-            const site = createTemporaryObject(localComponent, root, { type: "std::string", value: "", mandatory: true })
+            const site = createTemporaryObject(itemComponent, root, { type: "std::string", value: "", mandatory: true })
             const entry = make(entryComponent, { item: site })
             verify(!site.valueOk)
             verify(!UiDataContainer.allItemsOk)
@@ -449,10 +432,10 @@ Item {
             compare(site.value, "North")
             verify(UiDataContainer.allItemsOk)
             // The next field may be worse.
-            const street = createTemporaryObject(localComponent, root, { type: "std::string", value: "", mandatory: true })
+            const street = createTemporaryObject(itemComponent, root, { type: "std::string", value: "", mandatory: true })
             entry.item = street
             tryCompare(street, "valueOk", false)
-            const town = createTemporaryObject(localComponent, root, { type: "std::string", value: "", mandatory: true })
+            const town = createTemporaryObject(itemComponent, root, { type: "std::string", value: "", mandatory: true })
             entry.item = town
             tryCompare(town, "valueOk", false)
             verify(site.valueOk)
@@ -485,7 +468,7 @@ Item {
         }
 
         function test_password() {
-            const item = createTemporaryObject(localComponent, root, { type: "std::string", value: "open sesame", inputType: KivData.INPUT_PASSWORD })
+            const item = createTemporaryObject(itemComponent, root, { type: "std::string", value: "open sesame", inputType: KivData.INPUT_PASSWORD })
             const entry = make(entryComponent, { item: item })
             const field = fieldOf(entry)
             // An on-screen keyboard neither shows nor learns it.

@@ -10,10 +10,6 @@ Item {
     height: 500
 
     Component {
-        id: entryComponent
-        ItemEntry {}
-    }
-    Component {
         id: textComponent
         UiData { type: "std::string"; value: "ok"; maxRange: 5 }
     }

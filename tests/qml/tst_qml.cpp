@@ -9,10 +9,8 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QQmlContext>
 #include <QQmlEngine>
-#include <QTemporaryDir>
 #include <QtQuickTest>
 
 #include <memory>
@@ -55,6 +53,12 @@ public:
         m_backend->service(name)->setReachable(isReachable);
     }
     Q_INVOKABLE void reportError(const QString& text) { m_backend->service("field")->reportError(text); }
+
+    /// What entries take and refuse, a row a line.
+    Q_INVOKABLE QStringList inputFormats() const
+    {
+        return QString::fromUtf8(contentsOf(UIUTILS_TEST_DATA_DIR "/inputs/formats.txt")).split('\n').filter(QRegularExpression("^\\["));
+    }
 
     Q_INVOKABLE void setLocale(const QString& name) { QLocale::setDefault(QLocale(name)); }
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "columns.h"
 #include "filesizelimit.h"
 #include "files.h"
-
-#include <QtTest>
+#include "signallog.h"
 
 #include "report/report.h"
 #include "report/reportnaming_p.h"
@@ -116,32 +116,6 @@ private:
             making();
         return contents;
     }
-};
-
-/// Counts all notifiers of a controller, in the order of their emission.
-class Emissions : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Emissions(const Report& report, QStringList* log = nullptr)
-        : m_log(log ? log : &names)
-    {
-        const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("note()"));
-        for (int i = Report::staticMetaObject.methodOffset(); i < Report::staticMetaObject.methodCount(); ++i) {
-            const QMetaMethod method = Report::staticMetaObject.method(i);
-            if (method.methodType() == QMetaMethod::Signal)
-                QObject::connect(&report, method, this, slot);
-        }
-    }
-
-    QStringList names;
-
-private:
-    QStringList* m_log;
-
-private Q_SLOTS:
-    void note() { *m_log << sender()->metaObject()->method(senderSignalIndex()).name(); }
 };
 
 /// An instrument of its own, with a base manager, for each test.

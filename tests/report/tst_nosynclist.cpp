@@ -50,18 +50,10 @@ int runEditor(int process)
 /// Whole lines, and none of them twice.
 bool isWhole(const QByteArray& text)
 {
-    if (!text.isEmpty() && !text.endsWith('\n'))
-        return false;
     const QByteArrayList lines = text.split('\n');
-    QSet<QByteArray> known;
-    for (int i = 0; i + 1 < lines.size(); ++i) {
-        const QByteArray& line = lines.at(i);
-        if (!line.startsWith("/cust/public/reports/otdr/process ") || !(line.endsWith(".pdf") || line.endsWith(".json"))
-                || known.contains(line))
-            return false;
-        known.insert(line);
-    }
-    return true;
+    static const QRegularExpression line("^(/cust/public/reports/otdr/process .*\\.(pdf|json))?$");
+    return lines.last().isEmpty() && QSet<QByteArray>(lines.cbegin(), lines.cend()).size() == lines.size()
+            && std::all_of(lines.cbegin(), lines.cend(), [](const QByteArray& text) { return line.match(text).hasMatch(); });
 }
 
 } // namespace
@@ -84,12 +76,9 @@ private Q_SLOTS:
             editors.back()->setProcessChannelMode(QProcess::ForwardedErrorChannel);
             editors.back()->start(QCoreApplication::applicationFilePath(), {"--edit", QString::number(i)});
         }
-        const auto isAnyRunning = [&] {
-            return std::any_of(editors.cbegin(), editors.cend(),
-                    [](const auto& editor) { return editor->state() != QProcess::NotRunning; });
-        };
+        const auto isRunning = [](const auto& editor) { return editor->state() != QProcess::NotRunning; };
         int looks = 0;
-        while (isAnyRunning()) {
+        while (std::any_of(editors.cbegin(), editors.cend(), isRunning)) {
             QVERIFY(!QFile::exists(root.path() + listPath) || isWhole(contentsOf(root.path() + listPath)));
             ++looks;
             QTest::qWait(1);

@@ -33,12 +33,7 @@ private Q_SLOTS:
 
     void sticks_data()
     {
-        QTest::addColumn<int>("location");
-        QTest::addColumn<bool>("isAnnounced");
-        QTest::addColumn<bool>("isMounted");
-        QTest::addColumn<QStringList>("internal");
-        QTest::addColumn<QStringList>("stick");
-        QTest::addColumn<bool>("isSaved");
+        addColumns<int, bool, bool, QStringList, QStringList, bool>();
         const QStringList files{"a.txt.gz", "a.xml.gz"};
         const QStringList recorded{"a.txt.gz", "a.txt.gz.metadata", "a.xml.gz", "a.xml.gz.metadata"};
         const QStringList none;
@@ -53,10 +48,8 @@ private Q_SLOTS:
     }
     void sticks()
     {
-        QFETCH(int, location);
-        QFETCH(bool, isAnnounced);
-        QFETCH(bool, isMounted);
-        QFETCH(bool, isSaved);
+        const auto [location, isAnnounced, isMounted, internal, stick, isSaved]
+                = currentRow<int, bool, bool, QStringList, QStringList, bool>();
         plug(location, isAnnounced, isMounted);
         Controller report("a", 5);
         for (int format : {0, 2, 4})
@@ -65,8 +58,8 @@ private Q_SLOTS:
         QSignalSpy generated(&report, &Report::reportGenerated);
         QCOMPARE(report.save(), isSaved);
         QCOMPARE(generated.count(), isSaved ? 1 : 0);
-        QTEST(names("/cust/public/reports"), "internal");
-        QTEST(names("/mnt/usb"), "stick");
+        QCOMPARE(names("/cust/public/reports"), internal);
+        QCOMPARE(names("/mnt/usb"), stick);
         QCOMPARE(manager()->currentDialog() == nullptr, isSaved);
         // Two files that cannot be written are one mishap.
         QCOMPARE(manager()->waitingDialogs(), 0);
@@ -80,7 +73,7 @@ private Q_SLOTS:
             // A twin of another form goes with what may be overwritten.
             writeFile(onDisk("/mnt/usb/a.txt"), "plain");
             QVERIFY(report.save(true));
-            QTEST(names("/mnt/usb"), "stick");
+            QCOMPARE(names("/mnt/usb"), stick);
             manager()->reject();
             QVERIFY(QDir(onDisk("/cust/public/reports")).removeRecursively());
             QVERIFY(!report.save());
@@ -167,16 +160,14 @@ private Q_SLOTS:
     }
     void sticksThatComeLateAreAskedAbout_data()
     {
-        QTest::addColumn<int>("location");
-        QTest::addColumn<QString>("name");
+        addColumns<int, QString>();
         for (const char* name : {"a.pdf", "a.txt"})
             QTest::newRow(name) << 1 << name;
         QTest::newRow("copy") << 2 << "a.txt";
     }
     void sticksThatComeLateAreAskedAbout()
     {
-        QFETCH(int, location);
-        QFETCH(QString, name);
+        const auto [location, name] = currentRow<int, QString>();
         writeFile(onDisk("/mnt/port/" + name), "precious");
         plug(location, true, false);
         Controller report("a", name == "a.pdf" ? 0 : 3);

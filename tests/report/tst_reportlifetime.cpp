@@ -11,8 +11,7 @@ class ReportLifetimeTest : public ReportFixture
 private Q_SLOTS:
     void theControllerMayGo_data()
     {
-        QTest::addColumn<Deed>("deed");
-        QTest::addColumn<QStringList>("files");
+        addColumns<Deed, QStringList>();
         const auto add = [](const char* name, const Deed& deed, const QStringList& files = {}) {
             QTest::newRow(name) << deed << files;
         };
@@ -96,7 +95,7 @@ private Q_SLOTS:
     }
     void theControllerMayGo()
     {
-        QFETCH(Deed, deed);
+        const auto [deed, files] = currentRow<Deed, QStringList>();
         const QPointer<Controller> report(new Controller("a", 5));
         for (int format : {0, 3, 4})
             report->setFormatApplicable(format, false);
@@ -108,7 +107,7 @@ private Q_SLOTS:
         QVERIFY(!report);
         QStringList found = names("/cust/public/reports");
         std::sort(found.begin(), found.end(), std::greater<>());
-        QTEST(found, "files");
+        QCOMPARE(found, files);
         // What is written without the controller stays from the cloud without it.
         for (const QString& file : qAsConst(found))
             QVERIFY2(file == "f" || contentsOf(listFile()).contains("/" + file.toUtf8() + "\n"), qPrintable(file));

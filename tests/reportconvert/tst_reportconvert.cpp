@@ -7,11 +7,7 @@
 
 #include <embedded/embeddedbackend.h>
 
-#include <QDirIterator>
 #include <QImage>
-#include <QLoggingCategory>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <csignal>
@@ -26,26 +22,8 @@ namespace {
 
 const QString program = UIUTILS_CONVERT_PROGRAM;
 const QString testData = UIUTILS_TEST_DATA_DIR;
+const QString completionScript = UIUTILS_SOURCE_DIR "/apps/reportconvert/reportconvert.bash-completion";
 const QByteArray smallDocument(R"({"node_type": "report", "tag": "small", "title": "Small"})");
-
-struct Outcome
-{
-    int exitCode = -1;
-    QByteArray output;
-    QString errors;
-};
-
-void finish(QProcess& process, Outcome* outcome)
-{
-    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit) {
-        process.kill();
-        process.waitForFinished();
-    } else {
-        outcome->exitCode = process.exitCode();
-    }
-    outcome->output = process.readAllStandardOutput();
-    outcome->errors = QString::fromUtf8(process.readAllStandardError());
-}
 
 /// Names and contents of everything below the folder.
 QMap<QString, QByteArray> snapshot(const QString& folder)
@@ -104,8 +82,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, name);
         const QString document = testData + "/documents/" + name + ".json";
-        const Outcome outcome = run({"--format", "all", "--services", testData + "/services", "--output",
-                path("new/folder/"), document});
+        const Outcome outcome = run({"--format", "all", "--services", testData + "/services", "--output", path("new/folder/"), document});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
         QCOMPARE(namesIn(path("new/folder")),
                 QStringList({name + ".html", name + ".json", name + ".pdf", name + ".txt", name + ".xml"}));
@@ -138,8 +115,7 @@ private Q_SLOTS:
             "table_1": {"node_type": "table", "tag": "p", "title": "", "use_row_labels": true, "num_columns": 1,
             "row_1": {"label": "Good", "cell_0": {"label": "1", "attr_status": "16"}}}}})");
         const QString services = testData + "/none:" + testData + "/services";
-        const Outcome outcome
-                = run({"-f", "html", "-s", services, "-o", path("page.html"), path("plot.json")});
+        const Outcome outcome = run({"-f", "html", "-s", services, "-o", path("page.html"), path("plot.json")});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
         QVERIFY2(outcome.errors.contains(testData + "/none"), qPrintable(outcome.errors));
 
@@ -160,8 +136,7 @@ private Q_SLOTS:
     {
         writeFile(path("small.json"), smallDocument);
         const auto page = [&](const QStringList& options) {
-            return QString::fromUtf8(
-                    run(QStringList{"-f", "html", "-o", "-", path("small.json")} + options).output);
+            return QString::fromUtf8(run(QStringList{"-f", "html", "-o", "-", path("small.json")} + options).output);
         };
         QVERIFY(page({}).contains("<title>Small</title>"));
         QVERIFY(page({}).contains("<img src=\"data:"));
@@ -232,8 +207,7 @@ private Q_SLOTS:
         };
         QTRY_VERIFY_WITH_TIMEOUT(isPrinting(), 60000);
         QCOMPARE(::kill(pid_t(process.processId()), SIGINT), 0);
-        Outcome outcome;
-        finish(process, &outcome);
+        const Outcome outcome = ended(process);
         QCOMPARE(outcome.exitCode, 128 + SIGINT);
         QVERIFY2(outcome.errors.contains("0 of 1 files were written"), qPrintable(outcome.errors));
         QCOMPARE(contentsOf(path("long.pdf")), QByteArray("old"));
@@ -273,8 +247,7 @@ private Q_SLOTS:
         writeFile(path("a.json"), smallDocument);
         writeFile(path("broken.json"), "{\n  \"tag\": nonsense }");
         writeFile(path("c.json"), smallDocument);
-        const Outcome outcome
-                = run({"-f", "html", "-f", "json", "-o", "out/", "a.json", "broken.json", "c.json"});
+        const Outcome outcome = run({"-f", "html", "-f", "json", "-o", "out/", "a.json", "broken.json", "c.json"});
         QCOMPARE(outcome.exitCode, 1);
         QVERIFY2(outcome.errors.startsWith("reportconvert: broken.json:2:"), qPrintable(outcome.errors));
         QCOMPARE(outcome.errors.count('\n'), 1);
@@ -283,15 +256,11 @@ private Q_SLOTS:
 
     void documentFaults_data()
     {
-        addColumns<QString, QString, int>({"text", "place", "exitCode"});
-        QTest::newRow("syntax") << "{\"a\": 1,}"
-                                << ":1:(9|10): " << 1;
-        QTest::newRow("empty") << ""
-                               << ":1:1: " << 1;
-        QTest::newRow("array") << "[]"
-                               << ":1:1: " << 1;
-        QTest::newRow("root") << "{}"
-                              << ": warning: .*: /: " << 0;
+        addColumns<QString, QString, int>();
+        QTest::newRow("syntax") << QString("{\"a\": 1,}") << ":1:(9|10): " << 1;
+        QTest::newRow("empty") << QString("") << ":1:1: " << 1;
+        QTest::newRow("array") << QString("[]") << ":1:1: " << 1;
+        QTest::newRow("root") << QString("{}") << ": warning: .*: /: " << 0;
         QTest::newRow("section") << R"({"node_type": "report", "tag": "", "section_0": {"node_type": 1}})"
                                  << ": warning: .*: /section_0" << 0;
         // moc does not read on after a backslash in a raw string.
@@ -302,13 +271,12 @@ private Q_SLOTS:
     /// The same from a file and from standard input, but for the name.
     void documentFaults()
     {
-        QFETCH(const QString, text);
-        QFETCH(const QString, place);
+        const auto [text, place, exitCode] = currentRow<QString, QString, int>();
         writeFile(path("odd.json"), text.toUtf8());
         for (const QString& name : {QString("odd.json"), QString("<standard input>")}) {
             const QStringList arguments{"-f", "json", "-o", "out/", name.startsWith('<') ? "-" : name};
             const Outcome outcome = run(arguments, text.toUtf8());
-            QTEST(outcome.exitCode, "exitCode");
+            QCOMPARE(outcome.exitCode, exitCode);
             const QRegularExpression message("^reportconvert: " + name + ".*" + place + ".*\n$");
             QVERIFY2(message.match(outcome.errors).hasMatch(), qPrintable(outcome.errors));
             QCOMPARE(QDir(path("out")).exists(), outcome.exitCode == 0);
@@ -320,43 +288,14 @@ private Q_SLOTS:
 
     void refusedCalls_data()
     {
-        addColumns<QString, QString>({"arguments", "words"});
-        const char* const rows[][2] = {
-                {"-f html", "No document"},
-                {"-f html ''", "is empty"},
-                {"a.json", "--format"},
-                {"a.json -o a.doc", "--format"},
-                {"a.json -o -", "--format"},
-                {"a.json -f doc", "html, pdf, xml, json, text"},
-                {"a.json --frmat html", "frmat"},
-                {"a.json -f html -o ''", "--output"},
-                {"a.json -f html -s :", "--services"},
-                {"a.json -f xml --title T", "--title"},
-                {"a.json -f text --no-logo", "--no-logo"},
-                {"a.json -f html --unit-id 1", "--unit-id"},
-                {"a.json -f pdf --orientation diagonal", "diagonal"},
-                {"a.json -f pdf --logo ''", "--logo"},
-                {"a.json -f pdf --logo x --no-logo", "together"},
-                {"a.json -f pdf --logo a.json", "a.json is no picture"},
-                {"a.json -f pdf --logo huge.bmp", "50 million pixels"},
-                {"a.json sub/b.json -f xml -o -", "one document"},
-                {"a.json -f all -o -", "one document"},
-                {"a.json sub/b.json -f xml -o new", "\"/\""},
-                {"a.json sub/a.json -f html -o out/", "sub/a.json"},
-                {"a.json link/a.json -f html", "link/a.json"},
-                {"a.json -f all", "overwrite the document a.json"},
-                {"link/a.json -f json", "overwrite"},
-                {"a.json sub/b.json -f json -o sub", "sub/b.json"},
-                {"- -o a.json <a.json", "<standard input>"},
-        };
-        for (const auto& row : rows)
-            QTest::newRow(row[0]) << row[0] << row[1];
+        addColumns<QString, QString>();
+        for (const QStringList& row : tableIn("/refused/commandlines.txt"))
+            QTest::newRow(qPrintable(row.at(0))) << row.at(0) << row.at(1);
     }
     /// Each ends with exit status 2 and one line that names the trouble, and leaves the disk as it was.
     void refusedCalls()
     {
-        QFETCH(const QString, arguments);
-        QFETCH(const QString, words);
+        const auto [arguments, words] = currentRow<QString, QString>();
         QVERIFY(QDir(m_folder->path()).mkdir("sub") && QFile::link(m_folder->path(), path("link")));
         for (const char* name : {"a.json", "sub/a.json", "sub/b.json"})
             writeFile(path(name), smallDocument);
@@ -375,35 +314,15 @@ private Q_SLOTS:
 
     void failures_data()
     {
-        addColumns<QString, QString>({"line", "words"});
-        const char* const rows[][2] = {
-                {"run a.json -o none/a.html", "The folder none does not exist"},
-                {"run a.json -o file/a.html", "file is no folder"},
-                {"run a.json -o file/", "file is no folder"},
-                {"run a.json -o full", "full/a.html is no regular file"},
-                {"run a.json -o pipe", "pipe is no regular file"},
-                {"run a.json -o /proc/self/fd/1", "/proc/self/fd/1 is no regular file"},
-                // The first 4 KiB are written, so that this one fails in the middle of the file.
-                {"ulimit -f 4; UIUTILS_ROOT=. run a.json -o big.html", "Cannot write big.html"},
-                {"run a.json -o - >/dev/full", "No space left"},
-                {"run --help >/dev/full", "No space left"},
-                {"run a.json -o - >&-", "Bad file descriptor"},
-                {"exec 3<>pipe 4>pipe 3>&-; run a.json -o - >&4", "its reader has closed it"},
-                {"run - <&-", "<standard input>: cannot be read"},
-                {"run none.json -o new/", "none.json: cannot be opened"},
-                {"TMPDIR=/nowhere run a.json", "TMPDIR"},
-                {"run a.json -s none", "No service could be loaded from none"},
-                {"run a.json --strict -s none", "none"},
-        };
-        for (const auto& row : rows)
-            QTest::newRow(row[0]) << row[0] << row[1];
+        addColumns<QString, QString>();
+        for (const QStringList& row : tableIn("/refused/runs.txt"))
+            QTest::newRow(qPrintable(row.at(0))) << row.at(0) << row.at(1);
     }
     /// Each ends with exit status 1 and a sentence that says what is in the way, and leaves the disk as it
     /// was.
     void failures()
     {
-        QFETCH(const QString, line);
-        QFETCH(const QString, words);
+        const auto [line, words] = currentRow<QString, QString>();
         if (line.endsWith(">/dev/full") && !QFile::exists("/dev/full"))
             QSKIP("This machine has no device that is always full.");
         writeFile(path("a.json"), smallDocument);
@@ -420,7 +339,7 @@ private Q_SLOTS:
 
     void signalBetweenDocuments_data()
     {
-        addColumns<int, QString, int>({"signal", "trap", "exitCode"});
+        addColumns<int, QString, int>();
         QTest::newRow("terminated") << SIGTERM << "" << 128 + SIGTERM;
         QTest::newRow("terminal gone") << SIGHUP << "" << 128 + SIGHUP;
         QTest::newRow("ignored by the caller") << SIGHUP << "trap '' HUP;" << 1;
@@ -428,14 +347,12 @@ private Q_SLOTS:
     /// The message about the first document tells that the program is running; then it waits for the second.
     void signalBetweenDocuments()
     {
-        QFETCH(const int, signal);
-        QFETCH(const QString, trap);
+        const auto [signal, trap, exitCode] = currentRow<int, QString, int>();
         writeFile(path("broken.json"), "{");
         writeFile(path("c.json"), smallDocument);
         QProcess process;
         prepare(process);
-        process.start("bash",
-                {"-c", trap + "exec \"$0\" \"$@\"", program, "-f", "html", "broken.json", "-", "c.json"});
+        process.start("bash", {"-c", trap + "exec \"$0\" \"$@\"", program, "-f", "html", "broken.json", "-", "c.json"});
         process.setReadChannel(QProcess::StandardError);
         QVERIFY(process.waitForReadyRead());
         QCOMPARE(::kill(pid_t(process.processId()), signal), 0);
@@ -443,9 +360,8 @@ private Q_SLOTS:
             process.write(smallDocument);
             process.closeWriteChannel();
         }
-        Outcome outcome;
-        finish(process, &outcome);
-        QTEST(outcome.exitCode, "exitCode");
+        const Outcome outcome = ended(process);
+        QCOMPARE(outcome.exitCode, exitCode);
         QCOMPARE(outcome.errors.contains("0 of 3 files were written"), trap.isEmpty());
         QCOMPARE(QDir(m_folder->path()).entryList({"*.html", ".*"}, QDir::Files | QDir::Hidden),
                 trap.isEmpty() ? QStringList() : QStringList({"c.html", "report.html"}));
@@ -505,7 +421,7 @@ private Q_SLOTS:
     /// What is completed is what the program knows.
     void completion()
     {
-        QCOMPARE(complaintOf("bash", {"-n", completionScript()}), QString());
+        QCOMPARE(complaintOf("bash", {"-n", completionScript}), QString());
         if (!QFile::exists("/dev/fd"))
             QSKIP("Without /dev/fd, bash completes nothing.");
         QSet<QString> options;
@@ -518,9 +434,8 @@ private Q_SLOTS:
         QCOMPARE(QSet<QString>(offered.begin(), offered.end()), options);
 
         const QStringList formats = complete("reportconvert --format ");
-        QVERIFY(run({"-f", "?", "a.json"})
-                        .errors.contains(
-                                formats.mid(0, formats.size() - 1).join(", ") + " and " + formats.last()));
+        const QString named = formats.mid(0, formats.size() - 1).join(", ") + " and " + formats.last();
+        QVERIFY(run({"-f", "?", "a.json"}).errors.contains(named));
         QCOMPARE(complete("reportconvert -f x"), QStringList("xml"));
         QCOMPARE(complete("reportconvert --format = h"), QStringList("html"));
 
@@ -534,10 +449,6 @@ private Q_SLOTS:
 
 private:
     QString path(const QString& name) const { return m_folder->filePath(name); }
-    static QString completionScript()
-    {
-        return UIUTILS_SOURCE_DIR "/apps/reportconvert/reportconvert.bash-completion";
-    }
 
     void prepare(QProcess& process) const
     {
@@ -553,9 +464,7 @@ private:
         if (!input.isEmpty())
             process.write(input);
         process.closeWriteChannel();
-        Outcome outcome;
-        finish(process, &outcome);
-        return outcome;
+        return ended(process);
     }
 
     /// Runs a line of the shell, in which "$0" is the program.
@@ -587,7 +496,7 @@ private:
                 QStringList{"-c",
                         "source \"$0\"; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); _reportconvert;"
                         "printf '%s\\n' \"${COMPREPLY[@]}\"",
-                        completionScript()}
+                        completionScript}
                         + words);
         return QString::fromUtf8(outcome.output).split('\n', Qt::SkipEmptyParts);
     }

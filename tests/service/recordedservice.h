@@ -1,6 +1,7 @@
 #pragma once
 
 #include <kiv/kivaggregateclientitem.h>
+#include <kiv/kivbackend.h>
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivenumclientitem.h>
 #include <kiv/kivvecclientitem.h>
@@ -183,4 +184,15 @@ private:
     }
 
     std::vector<std::unique_ptr<RecordedState>> states;
+};
+
+/// A platform of that one service.
+class RecordedBackend : public KIVBackend
+{
+public:
+    RecordedBackend() { setCurrent(this); }
+    KIVClientInterface* baseManagerClient() override { return nullptr; }
+    KIVClientInterface* serviceClient(const QString& service, QObject*) override { return service == "rec" ? client : nullptr; }
+
+    KIVClientInterface* client = nullptr;
 };

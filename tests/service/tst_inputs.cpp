@@ -1,4 +1,5 @@
 #include "columns.h"
+#include "files.h"
 
 #include "service/forgivingvalidator.h"
 #include "service/inputrange_p.h"
@@ -8,11 +9,7 @@
 #include <kiv/baseformatter.h>
 
 #include <QDoubleValidator>
-#include <QFile>
 #include <QIntValidator>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QLocale>
 
 using uiutils::InputRange;
 using uiutils::InputRule;
@@ -43,17 +40,12 @@ private Q_SLOTS:
 
     void rangeTexts_data()
     {
-        addColumns<unsigned, QVariant, QVariant, QString, bool, QString>(
-                {"inputType", "minimum", "maximum", "type", "formatted", "text"});
+        addColumns<unsigned, QVariant, QVariant, QString, bool, QString>();
         for (unsigned type : {8u, 9u, 10u, 11u, 12u, 17u, 18u, 19u}) {
             QTest::addRow("type %u without a minimum", type) << type << QVariant() << QVariant(5) << "int" << true << "";
             QTest::addRow("type %u without a maximum", type) << type << QVariant(5) << QVariant() << "int" << false << "";
         }
-        QFile table(UIUTILS_TEST_DATA_DIR "/inputs/rangetexts.txt");
-        QVERIFY(table.open(QIODevice::ReadOnly));
-        table.readLine();
-        while (!table.atEnd()) {
-            const QStringList row = QString::fromUtf8(table.readLine()).split(" | ");
+        for (const QStringList& row : tableIn("/inputs/rangetexts.txt")) {
             const auto limit = [&](int column) {
                 return QJsonDocument::fromJson("[" + row.value(column).toUtf8() + "]").array().at(0).toVariant();
             };
@@ -63,12 +55,8 @@ private Q_SLOTS:
     }
     void rangeTexts()
     {
-        QFETCH(unsigned, inputType);
-        QFETCH(QVariant, minimum);
-        QFETCH(QVariant, maximum);
-        QFETCH(QString, type);
-        QFETCH(bool, formatted);
-        QFETCH(QString, text);
+        const auto [inputType, minimum, maximum, type, formatted, text]
+                = currentRow<unsigned, QVariant, QVariant, QString, bool, QString>();
         const Tagger formatter;
         InputRange range;
         range.minimum = minimum;
@@ -80,47 +68,34 @@ private Q_SLOTS:
         QCOMPARE(uiutils::rangeDescription(range), text);
     }
 
-    void realNumbersReadAsUsersTypeThem()
+    void numbersAsTexts()
     {
+        QCOMPARE(uiutils::lengthExpression(8, 32), QString(".{8,32}"));
+        QCOMPARE(uiutils::lengthExpression("8", 32.0), QString(".{8,32}"));
+        QCOMPARE(uiutils::lengthExpression(QVariant(), 32), QString(".*"));
+        QCOMPARE(uiutils::lengthExpression(8, "many"), QString(".*"));
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
         QCOMPARE(uiutils::fixedPointText(12345.678, 2), QString("12345,68"));
         QLocale::setDefault(QLocale::c());
         QVERIFY(uiutils::fixedPointText(0.1, 2'000'000'000).size() < 400);
     }
 
-    void lengthExpressions()
-    {
-        QCOMPARE(uiutils::lengthExpression(8, 32), QString(".{8,32}"));
-        QCOMPARE(uiutils::lengthExpression("8", 32.0), QString(".{8,32}"));
-        QCOMPARE(uiutils::lengthExpression(QVariant(), 32), QString(".*"));
-        QCOMPARE(uiutils::lengthExpression(8, "many"), QString(".*"));
-    }
-
-    void escapedHyphens_data()
-    {
-        addColumns<QString, QString>({"pattern", "repaired"});
-        QTest::newRow("digits") << R"([\d-.])" << R"([\d\-.])";
-        QTest::newRow("several") << R"(^[\w-.]+@[\w-_.]+$)" << R"(^[\w\-.]+@[\w\-_.]+$)";
-        QTest::newRow("at the end stays") << R"([\d-])" << R"([\d-])";
-        QTest::newRow("a range stays") << R"([a-z\d-x])" << R"([a-z\d\-x])";
-        QTest::newRow("outside brackets stays") << R"(\d-.)" << R"(\d-.)";
-        QTest::newRow("a doubled backslash is no class") << R"([\\d-f])" << R"([\\d-f])";
-        QTest::newRow("closing bracket first") << R"([]\d-x])" << R"([]\d\-x])";
-        QTest::newRow("negated") << R"([^\s-x])" << R"([^\s\-x])";
-        QTest::newRow("named class before") << R"([[:alpha:]\d-.])" << R"([[:alpha:]\d\-.])";
-        QTest::newRow("escaped bracket") << R"(\[\d-.)" << R"(\[\d-.)";
-        QTest::newRow("property") << R"([\p{L}-.])" << R"([\p{L}\-.])";
-    }
+    /// Only where a class escape stands before it, and no end of the brackets behind.
     void escapedHyphens()
     {
-        QFETCH(QString, pattern);
-        QFETCH(QString, repaired);
-        QCOMPARE(uiutils::withEscapedHyphens(pattern), repaired);
+        const std::pair<const char*, const char*> rows[] {{R"([\d-.])", R"([\d\-.])"},
+                {R"(^[\w-.]+@[\w-_.]+$)", R"(^[\w\-.]+@[\w\-_.]+$)"}, {R"([\d-])", R"([\d-])"},
+                {R"([a-z\d-x])", R"([a-z\d\-x])"}, {R"(\d-.)", R"(\d-.)"}, {R"([\\d-f])", R"([\\d-f])"},
+                {R"([]\d-x])", R"([]\d\-x])"}, {R"([^\s-x])", R"([^\s\-x])"},
+                {R"([[:alpha:]\d-.])", R"([[:alpha:]\d\-.])"}, {R"(\[\d-.)", R"(\[\d-.)"},
+                {R"([\p{L}-.])", R"([\p{L}\-.])"}};
+        for (const auto& [pattern, repaired] : rows)
+            QCOMPARE(uiutils::withEscapedHyphens(pattern), QString(repaired));
     }
 
     void expressions_data()
     {
-        addColumns<QString, QString, QString>({"pattern", "accepted", "refused"});
+        addColumns<QString, QString, QString>();
         QTest::newRow("plain") << "[a-z]{2}" << "ab" << "abc";
         QTest::newRow("repaired") << R"([\d-.]+)" << "1-2.3" << "a";
         QTest::newRow("beyond repair") << "[unclosed" << "anything\nat all" << "";
@@ -137,9 +112,7 @@ private Q_SLOTS:
     }
     void expressions()
     {
-        QFETCH(QString, pattern);
-        QFETCH(QString, accepted);
-        QFETCH(QString, refused);
+        const auto [pattern, accepted, refused] = currentRow<QString, QString, QString>();
         InputRule rule;
         rule.type = "std::string";
         rule.regex = pattern;
@@ -178,7 +151,7 @@ private Q_SLOTS:
 
     void numbers_data()
     {
-        addColumns<QString, QVariant, QVariant, double, double>({"type", "minimum", "maximum", "bottom", "top"});
+        addColumns<QString, QVariant, QVariant, double, double>();
         QTest::newRow("int") << "int" << QVariant(-3) << QVariant("7") << -3.0 << 7.0;
         QTest::newRow("no range") << "int" << QVariant() << QVariant("many") << 0.0 << 0.0;
         QTest::newRow("beyond int") << "uint" << QVariant(0) << QVariant(4294967295.0) << 0.0 << 2147483647.0;
@@ -189,11 +162,7 @@ private Q_SLOTS:
     }
     void numbers()
     {
-        QFETCH(QString, type);
-        QFETCH(QVariant, minimum);
-        QFETCH(QVariant, maximum);
-        QFETCH(double, bottom);
-        QFETCH(double, top);
+        const auto [type, minimum, maximum, bottom, top] = currentRow<QString, QVariant, QVariant, double, double>();
         InputRule rule;
         rule.type = type;
         rule.minimum = minimum;

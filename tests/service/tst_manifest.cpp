@@ -3,13 +3,9 @@
 #include "service/kivdata.h"
 #include "service/manifest.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQmlExpression>
-#include <QRegularExpression>
-#include <QSignalSpy>
 #include <QtTest>
 
 #include <array>

@@ -1,17 +1,11 @@
+#include "columns.h"
 #include "golden.h"
+#include "randomdocument.h"
 
-#include "base/xmlname_p.h"
-#include "document/reporttemplate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
-
-#include <QJsonDocument>
-#include <QProcess>
-#include <QRandomGenerator>
-#include <QTemporaryDir>
-#include <QXmlStreamReader>
 
 #include <memory>
 
@@ -27,100 +21,6 @@ QString readerError(const QString& xml)
             return "removeSection";
     }
     return reader.hasError() ? reader.errorString() + " at line " + QString::number(reader.lineNumber()) : QString();
-}
-
-void readDocument(ReportTemplate& report, const QString& name)
-{
-    report.readFile(UIUTILS_TEST_DATA_DIR "/documents/" + name + ".json");
-    QVERIFY2(!report.hasError(), qPrintable(report.errorString()));
-}
-
-/// A document of random shape: nested sections, tables, rows, cells, missing keys, texts of all planes.
-class RandomDocument
-{
-public:
-    explicit RandomDocument(quint32 seed)
-        : m_random(seed)
-    {
-    }
-
-    QJsonObject node(int depth)
-    {
-        QJsonObject object;
-        maybeSet(object, "tag");
-        maybeSet(object, "title");
-        maybeSet(object, "config_module");
-        for (int i = m_random.bounded(4); i > 0; --i)
-            object.insert("attr_" + text(), text());
-        for (int i = m_random.bounded(3); i > 0; --i)
-            object.insert("log_" + text(), text());
-        for (int i = m_random.bounded(3); i > 0; --i)
-            object.insert(QString("table_%1").arg(i), table());
-        for (int i = depth > 0 ? m_random.bounded(4) : 0; i > 0; --i)
-            object.insert("section_" + text(), node(depth - 1));
-        return object;
-    }
-
-private:
-    QJsonValue table()
-    {
-        if (m_random.bounded(8) == 0)
-            return text();
-        QJsonObject object {{"use_row_labels", true}, {"num_columns", 2}};
-        maybeSet(object, "tag");
-        for (int i = m_random.bounded(4); i > 0; --i) {
-            QJsonObject row;
-            maybeSet(row, "label");
-            for (int cell = m_random.bounded(3); cell > 0; --cell) {
-                QJsonObject content;
-                maybeSet(content, "tag");
-                maybeSet(content, "label");
-                content.insert("attr_" + text(), text());
-                content.insert("attr_" + text(), text());
-                row.insert(QString("cell_%1").arg(cell), content);
-            }
-            object.insert(QString("row_%1").arg(i), row);
-        }
-        return object;
-    }
-
-    void maybeSet(QJsonObject& object, const char* key)
-    {
-        if (m_random.bounded(5) != 0)
-            object.insert(QLatin1String(key), text());
-    }
-
-    QString text()
-    {
-        static const QStringList nasty {"-->", "--", "-", "]]>", "<removeSection>\n", "</removeSection>", "xml:lang",
-                "xmlns", "EMPTY", " ", "&amp;", "a:b", "1st", "\"'", ">"};
-        QString text;
-        for (int parts = m_random.bounded(4); parts > 0; --parts) {
-            const uint kind = m_random.bounded(4U);
-            if (kind == 0) {
-                text += nasty.at(m_random.bounded(nasty.size()));
-                continue;
-            }
-            const uint c = kind == 1 ? m_random.bounded(0x110000U) : m_random.bounded(kind == 2 ? 0x100U : 0x80U);
-            if (c < 0x10000)
-                text += QChar(ushort(c));
-            else
-                text += QString(QChar(QChar::highSurrogate(c))) + QChar(QChar::lowSurrogate(c));
-        }
-        return text;
-    }
-
-    QRandomGenerator m_random;
-};
-
-QString writeXml(const QJsonObject& document, const QTemporaryDir& dir, bool jobManagerMode)
-{
-    QFile file(dir.filePath("document.json"));
-    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(document).toJson()) < 0 || !file.flush())
-        return QString();
-    ReportTemplate report;
-    report.readFile(file.fileName());
-    return TemplateToXmlWriter(report, jobManagerMode, true, true).getXml();
 }
 
 } // namespace
@@ -148,23 +48,22 @@ private Q_SLOTS:
 
     void goldens_data()
     {
-        QTest::addColumn<QString>("document");
-        QTest::addColumn<QString>("golden");
-        QTest::addColumn<bool>("jobManagerMode");
+        addColumns<QString, QString, bool>();
         QTest::newRow("twelve rows") << "twelve-rows" << "twelve-rows" << true;
         QTest::newRow("eleven tables") << "eleven-tables" << "eleven-tables" << true;
         QTest::newRow("everything") << "everything" << "everything" << false;
         QTest::newRow("hostile") << "hostile" << "hostile" << false;
+        QTest::newRow("odd keys") << "odd-keys" << "odd-keys" << true;
         QTest::newRow("empty") << "empty" << "empty" << false;
         QTest::newRow("empty for the job manager") << "empty" << "empty-job" << true;
     }
     void goldens()
     {
-        QFETCH(QString, document);
-        QFETCH(QString, golden);
-        QFETCH(bool, jobManagerMode);
+        const auto [document, golden, jobManagerMode] = currentRow<QString, QString, bool>();
         ReportTemplate report;
         readDocument(report, document);
+        if (document == "odd-keys")
+            QTest::ignoreMessage(QtWarningMsg, "Section missing tag: No tag here");
         TemplateToXmlWriter writer(report, jobManagerMode, true, true);
         const QString xml = writer.getXml();
         QCOMPARE(writer.getXml(), xml);
@@ -176,11 +75,7 @@ private Q_SLOTS:
 
     void blocks_data()
     {
-        QTest::addColumn<bool>("jobManagerMode");
-        QTest::addColumn<bool>("includeCustomer");
-        QTest::addColumn<QStringList>("technician");
-        QTest::addColumn<QStringList>("customer");
-        QTest::addColumn<QStringList>("blocks");
+        addColumns<bool, bool, QStringList, QStringList, QStringList>();
         const QStringList tech {"userInfo_name"};
         const QStringList cust {"customerInfo_name"};
         QTest::newRow("both") << false << true << tech << cust
@@ -194,11 +89,8 @@ private Q_SLOTS:
     }
     void blocks()
     {
-        QFETCH(bool, jobManagerMode);
-        QFETCH(bool, includeCustomer);
-        QFETCH(QStringList, technician);
-        QFETCH(QStringList, customer);
-        QFETCH(QStringList, blocks);
+        const auto [jobManagerMode, includeCustomer, technician, customer, blocks]
+                = currentRow<bool, bool, QStringList, QStringList, QStringList>();
         setList("tech", technician);
         setList("customer", customer);
         for (const char* name : {"empty", "twelve-rows"}) {
@@ -240,24 +132,6 @@ private Q_SLOTS:
         TemplateToXmlWriter(ReportTemplate(), false, false, true).getXml();
     }
 
-    void aSectionWithoutATagIsSkippedAndItsSectionsAreNot()
-    {
-        ReportTemplate report;
-        report.beginReport("root");
-        report.beginSection("", "No tag here");
-        report.beginTable("lost", "Lost");
-        report.endTable();
-        report.beginSection("inner", "Inner");
-        report.endSection();
-        report.endSection();
-        report.endReport();
-        QTest::ignoreMessage(QtWarningMsg, "Section missing tag: No tag here");
-        const QString xml = TemplateToXmlWriter(report, true, false, true).getXml();
-        QVERIFY(xml.contains("\n    <!--Inner-->\n    <inner/>"));
-        QVERIFY(!xml.contains("lost"));
-        QVERIFY(!xml.contains("No tag here"));
-    }
-
     /// Who chooses the parts gets what the whole pass writes, once.
     void withoutGenerateTheCallerWritesTheParts()
     {
@@ -288,32 +162,6 @@ private Q_SLOTS:
         QVERIFY(xml.contains("<hardwareInfo/>"));
     }
 
-    void names()
-    {
-        const QString names[][2] = {{"loss_1.a-b", "loss_1.a-b"}, {"loss at 5 km", "loss_at_5_km"}, {"1st", "_1st"},
-                {"-x", "_-x"}, {"<a href=\"x\">", "_a_href__x__"}, {"ns:tag", "ns_tag"}, {"XmLns", "_XmLns"},
-                {"Länge_中", "Länge_中"}, {"·x×", "_x_"}, {"😀", "__"}, {QString(QChar(0xd800)) + "x", "_x"},
-                {"a\x01" "b", "a_b"}, {"", ""}};
-        for (const auto& name : names)
-            QCOMPARE(uiutils::xmlName(name[0]), name[1]);
-    }
-
-    void attributesThatMeet()
-    {
-        ReportTemplate report;
-        report.beginReport("r");
-        report.addAttribute("a", "the root has none");
-        report.beginSection("s", "");
-        report.addAttribute("a b", "1");
-        report.addAttribute("a:b", "2");
-        report.addAttribute("", "3");
-        report.endSection();
-        report.endReport();
-        const QString xml = TemplateToXmlWriter(report, true, false, true).getXml();
-        QVERIFY2(xml.contains("\n    <s _=\"3\" a_b=\"1\"/>\n"), qPrintable(xml));
-        QVERIFY(xml.startsWith("<?xml version=\"1.0\"?>\n<r>\n\n    <TechnicianInformation>\n        <"));
-    }
-
     /// Whatever a document holds, two readers that know nothing of the writer accept the text.
     void randomDocumentsAreWellFormed()
     {
@@ -322,22 +170,18 @@ private Q_SLOTS:
         QStringList files;
         QStringList faults;
         for (quint32 seed = 0; seed < 3000; ++seed) {
-            const QString xml = writeXml(RandomDocument(seed).node(3), dir, seed % 2 == 0);
+            ReportTemplate report;
+            RandomDocument(seed).readInto(report);
+            const QString xml = TemplateToXmlWriter(report, seed % 2 == 0, true, true).getXml();
             const QString error = readerError(xml);
             if (!error.isEmpty())
                 faults += QString("seed %1: %2").arg(seed).arg(error);
-            QFile file(dir.filePath(QString("%1.xml").arg(seed)));
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(xml.toUtf8()) > 0);
-            files += file.fileName();
+            files += writeFile(dir.filePath(QString("%1.xml").arg(seed)), xml.toUtf8());
         }
         qInstallMessageHandler(quiet);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n').left(2000)));
 
-        QProcess lint;
-        lint.setProcessChannelMode(QProcess::MergedChannels);
-        lint.start("xmllint", QStringList {"--noout"} + files);
-        QVERIFY(lint.waitForFinished(120'000));
-        QVERIFY2(lint.exitCode() == 0, lint.readAll().left(2000).constData());
+        QCOMPARE(outputOf("xmllint", QStringList {"--noout"} + files).left(2000), QString());
     }
 };
 

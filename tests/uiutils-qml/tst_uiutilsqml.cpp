@@ -1,9 +1,7 @@
-#include <QDir>
-#include <QFile>
+#include "columns.h"
+#include "files.h"
+
 #include <QImage>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QtTest>
 
 /// The program as its users start it.
 class UiUtilsQmlTest : public QObject
@@ -11,35 +9,17 @@ class UiUtilsQmlTest : public QObject
     Q_OBJECT
 
 private:
-    struct Outcome
-    {
-        int exitCode = -1;
-        QString output;
-        QString errors;
-    };
-
     Outcome run(QStringList arguments) const
     {
         QProcess process;
         arguments += {"--root", m_folder.filePath("root")};
         process.start(UIUTILS_QML_PROGRAM, arguments);
-        Outcome outcome;
-        if (process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit)
-            outcome.exitCode = process.exitCode();
-        else
-            process.kill();
-        process.waitForFinished();
-        outcome.output = QString::fromUtf8(process.readAllStandardOutput());
-        outcome.errors = QString::fromUtf8(process.readAllStandardError());
-        return outcome;
+        return ended(process);
     }
 
     QString page(const QByteArray& body) const
     {
-        const QString path = m_folder.filePath("page.qml");
-        QFile file(path);
-        const QByteArray text = "import QtQuick 2.15\nimport UiUtils 1.0\n" + body;
-        return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() ? path : QString();
+        return writeFile(m_folder.filePath("page.qml"), "import QtQuick 2.15\nimport UiUtils 1.0\n" + body);
     }
 
     QTemporaryDir m_folder;
@@ -48,9 +28,7 @@ private:
 private Q_SLOTS:
     void commandLines_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QString>("words");
+        addColumns<QStringList, int, QString>();
         QTest::newRow("help") << QStringList {"--help"} << 0 << "--services";
         QTest::newRow("nothing") << QStringList {} << 2 << "Name one page";
         QTest::newRow("two pages") << QStringList {"a.qml", "b.qml"} << 2 << "Name one page";
@@ -62,19 +40,17 @@ private Q_SLOTS:
     }
     void commandLines()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(int, exitCode);
-        QFETCH(QString, words);
+        const auto [arguments, exitCode, words] = currentRow<QStringList, int, QString>();
         const Outcome outcome = run(arguments);
         QCOMPARE(outcome.exitCode, exitCode);
-        QVERIFY2((exitCode == 0 ? outcome.output : outcome.errors).contains(words), qPrintable(outcome.errors));
+        QVERIFY2((outcome.output + outcome.errors).contains(words), qPrintable(outcome.errors));
     }
 
     void listsTheItems()
     {
         const Outcome outcome = run({"--list", "--services", m_services});
         QCOMPARE(outcome.exitCode, 0);
-        const QStringList lines = outcome.output.split('\n');
+        const QStringList lines = QString(outcome.output).split('\n');
         QVERIFY2(lines.contains("field_cfg_name\tstd::string\tFiber 7"), qPrintable(outcome.output));
         QVERIFY(lines.contains("field_cfg_mode\tint\tAutomatic"));
     }

@@ -4,8 +4,6 @@
 #include "writers/plots/plotlegend_p.h"
 
 #include <QImage>
-#include <QRandomGenerator>
-#include <QtMath>
 
 using namespace uiutils;
 
@@ -84,7 +82,7 @@ private Q_SLOTS:
     /// However many lines there are, the picture is the one that drawing each by itself would give.
     void lines_data()
     {
-        addColumns<QVector<QVector<QPointF>>, QPen>({"stretches", "pen"});
+        addColumns<QVector<Stretch>, QPen>();
         const QPen solid(Qt::black, 2, Qt::SolidLine, Qt::RoundCap);
         const QPen wide(Qt::black, 6, Qt::SolidLine, Qt::RoundCap);
         const QPen dashes(Qt::black, 6, Qt::DashLine, Qt::RoundCap);
@@ -96,10 +94,10 @@ private Q_SLOTS:
     }
     void lines()
     {
-        QFETCH(QVector<QVector<QPointF>>, stretches);
-        QFETCH(QPen, pen);
-        const QImage ours = picture([&](QPainter& painter) { CurvePainter(painter, frame, pen).drawLines(stretches); });
-        const QImage plain = picture([&](QPainter& painter) {
+        const auto [stretches, pen] = currentRow<QVector<Stretch>, QPen>();
+        const QImage ours = picture(
+                [&, stretches = stretches, pen = pen](QPainter& painter) { CurvePainter(painter, frame, pen).drawLines(stretches); });
+        const QImage plain = picture([&, stretches = stretches, pen = pen](QPainter& painter) {
             painter.setPen(pen);
             for (const Stretch& stretch : stretches) {
                 if (pen.style() != Qt::SolidLine)
@@ -113,23 +111,18 @@ private Q_SLOTS:
         QCOMPARE(strayInk(plain, ours), QPoint());
     }
 
-    void dots_data()
-    {
-        QTest::addColumn<QVector<QPointF>>("points");
-        QTest::newRow("few") << knot(50, 1);
-        QTest::newRow("many") << knot(30'000, 1);
-    }
     void dots()
     {
-        QFETCH(QVector<QPointF>, points);
         const QPen pen(Qt::black, 2);
-        const QImage ours = picture([&](QPainter& painter) { CurvePainter(painter, frame, pen).drawDots(points); });
-        const QImage plain = picture([&](QPainter& painter) {
-            painter.setPen(QPen(Qt::black, 5.6, Qt::SolidLine, Qt::RoundCap));
-            painter.drawPoints(points.constData(), points.size());
-        });
-        QCOMPARE(strayInk(ours, plain), QPoint());
-        QCOMPARE(strayInk(plain, ours), QPoint());
+        for (const Stretch& points : {knot(50, 1), knot(30'000, 1)}) {
+            const QImage ours = picture([&](QPainter& painter) { CurvePainter(painter, frame, pen).drawDots(points); });
+            const QImage plain = picture([&](QPainter& painter) {
+                painter.setPen(QPen(Qt::black, 5.6, Qt::SolidLine, Qt::RoundCap));
+                painter.drawPoints(points.constData(), points.size());
+            });
+            QCOMPARE(strayInk(ours, plain), QPoint());
+            QCOMPARE(strayInk(plain, ours), QPoint());
+        }
     }
 
     void legendSaysHowManyAreLeftOut()

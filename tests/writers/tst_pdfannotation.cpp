@@ -4,9 +4,6 @@
 #include "writers/pdffile/pdfannotation_p.h"
 #include "writers/pdffile/pdfdocument_p.h"
 
-#include <QBuffer>
-#include <QTemporaryDir>
-
 #include <cmath>
 
 using namespace uiutils::pdf;
@@ -100,7 +97,7 @@ class PdfAnnotationTest : public QObject
 private Q_SLOTS:
     void outlines_data()
     {
-        addColumns<QVector<OutlineEntry>, QStringList>({"entries", "lines"});
+        addColumns<QVector<OutlineEntry>, QStringList>();
         QTest::newRow("none") << QVector<OutlineEntry>{} << QStringList{};
         QTest::newRow("places") << QVector<OutlineEntry>{{"a", 0, 0, 0}, {"b", 0, 0, 30}, {"c", 0, 1, 30}}
                                 << QStringList{"a @1 XYZ 100", "b @1 XYZ 70", "c @2 XYZ 290"};
@@ -119,14 +116,14 @@ private Q_SLOTS:
     }
     void outlines()
     {
-        QFETCH(QVector<OutlineEntry>, entries);
+        const auto [entries, lines] = currentRow<QVector<OutlineEntry>, QStringList>();
         Annotation annotation;
         annotation.outline = entries;
         QString error;
         const QByteArray contents = annotated(twoPages(), annotation, &error);
         QVERIFY2(!contents.isEmpty(), qPrintable(error));
         const OutlineText outline(contents);
-        QTEST(outline.lines(), "lines");
+        QCOMPARE(outline.lines(), lines);
         QCOMPARE(outline.faults(), 0);
         writeFile(path("outlined.pdf"), contents);
         QCOMPARE(samples::faultsOf(path("outlined.pdf")), QString());
@@ -134,7 +131,7 @@ private Q_SLOTS:
 
     void tornFilesAreNotWhole_data()
     {
-        addColumns<QByteArray, bool>({"contents", "whole"});
+        addColumns<QByteArray, bool>();
         samples::print(path("whole.pdf"), 2);
         const QByteArray whole = contentsOf(path("whole.pdf"));
         const int table = whole.lastIndexOf("startxref");
@@ -159,8 +156,7 @@ private Q_SLOTS:
     }
     void tornFilesAreNotWhole()
     {
-        QFETCH(QByteArray, contents);
-        QFETCH(bool, whole);
+        auto [contents, whole] = currentRow<QByteArray, bool>();
         QBuffer device(&contents);
         QVERIFY(device.open(QIODevice::ReadOnly));
         QString error;

@@ -1,14 +1,10 @@
 #include "columns.h"
 #include "filesizelimit.h"
-
 #include "pdfsamples.h"
+#include "signallog.h"
 
 #include "writers/pdffile/pdfdocument_p.h"
 #include "writers/pdffile/pdffile.h"
-
-#include <QLocale>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 
@@ -38,18 +34,16 @@ class PdfFileTest : public QObject
 private Q_SLOTS:
     void readsTextsInEveryEncoding_data()
     {
-        addColumns<QByteArray, QString>({"string", "text"});
+        addColumns<QByteArray, QString>();
         QTest::newRow("plain") << QByteArray("(Fiber \\(7\\) \\\\ end)") << "Fiber (7) \\ end";
         QTest::newRow("hex") << QByteArray("<46 69 62 65 72>") << "Fiber";
         QTest::newRow("UTF-16") << QByteArray("<FEFF 03BB 0020 D83D DE00>") << QString::fromUtf8("λ 😀");
         QTest::newRow("UTF-16, odd") << QByteArray("<FEFF 0041 00>") << "A";
         QTest::newRow("UTF-16, the other order") << QByteArray("<FFFE 4100 BB03>") << QString::fromUtf8("Aλ");
-        QTest::newRow("UTF-16, the other order, not in hex")
-                << QByteArray("(\\377\\376A\\000\\273\\003)") << QString::fromUtf8("Aλ");
+        QTest::newRow("UTF-16, the other order, not in hex") << QByteArray("(\\377\\376A\\000\\273\\003)") << QString::fromUtf8("Aλ");
         QTest::newRow("UTF-8") << QByteArray("<EFBBBF CEBB>") << QString::fromUtf8("λ");
         QTest::newRow("accents") << QByteArray("<18 19 1a 1b 1c 1d 1e 1f>") << QString::fromUtf8("˘ˇˆ˙˝˛˚˜");
-        QTest::newRow("marks") << QByteArray("<80 84 85 8c 8d 92 93 9b 9e a0>")
-                               << QString::fromUtf8("•—–„“™ﬁłž€");
+        QTest::newRow("marks") << QByteArray("<80 84 85 8c 8d 92 93 9b 9e a0>") << QString::fromUtf8("•—–„“™ﬁłž€");
         QTest::newRow("Latin-1") << QByteArray("<a1 b5 c4 ff>") << QString::fromUtf8("¡µÄÿ");
         QTest::newRow("nothing") << QByteArray("()") << "";
         QTest::newRow("only a mark") << QByteArray("<FEFF>") << "";
@@ -61,14 +55,14 @@ private Q_SLOTS:
     }
     void readsTextsInEveryEncoding()
     {
-        QFETCH(QByteArray, string);
+        const auto [string, text] = currentRow<QByteArray, QString>();
         samples::Sketch sketch;
         sketch.addPage().add("<</Title " + string + "/Other " + string + ">>");
         sketch.add("(Referred)");
         PDFFile file;
         file.setFilename(made("strings.pdf", sketch.finished("/Info 4 0 R")));
-        QTEST(file.getTitle(), "text");
-        QTEST(file.getMetaData("Other"), "text");
+        QCOMPARE(file.getTitle(), text);
+        QCOMPARE(file.getMetaData("Other"), text);
         QCOMPARE(file.getAuthor(), QString());
     }
 
@@ -113,21 +107,15 @@ private Q_SLOTS:
         file.setSubject("S");
         file.setProducer("P");
         file.write(QString());
-        const QString output = outputOf("pdfinfo", {"-enc", "UTF-8", name});
-        const QMap<QString, QString> expected{{"Title", QString::fromUtf8("Größe λ 😀")}, {"Author", "A (b)"},
-                {"Subject", "S"}, {"Producer", "P"}, {"Creator", "Kept"}, {"Pages", "1"}};
-        for (auto it = expected.begin(); it != expected.end(); ++it)
-            QVERIFY2(output.contains(QRegularExpression(
-                             "(?m)^" + it.key() + ":\\s+" + QRegularExpression::escape(it.value()) + "$")),
-                    qPrintable(output));
+        const QString output = outputOf("pdfinfo", {"-enc", "UTF-8", name}).simplified();
+        for (const char* line : {"Title: Größe λ 😀 ", "Author: A (b) ", "Subject: S ", "Producer: P ", "Creator: Kept ", "Pages: 1 "})
+            QVERIFY2(output.contains(line), qPrintable(output));
     }
 
     void dates_data()
     {
-        addColumns<QString, QDateTime>({"text", "utc"});
-        const auto at = [](int y, int mo, int d, int h, int mi, int s) {
-            return QDateTime({y, mo, d}, {h, mi, s}, Qt::UTC);
-        };
+        addColumns<QString, QDateTime>();
+        const auto at = [](int y, int mo, int d, int h, int mi, int s) { return QDateTime({y, mo, d}, {h, mi, s}, Qt::UTC); };
         // Local time is five hours behind.
         QTest::newRow("year") << "D:2026" << at(2026, 1, 1, 5, 0, 0);
         QTest::newRow("month") << "D:202603" << at(2026, 3, 1, 5, 0, 0);
@@ -151,16 +139,14 @@ private Q_SLOTS:
     }
     void dates()
     {
-        QFETCH(QString, text);
-        QFETCH(QDateTime, utc);
+        const auto [text, utc] = currentRow<QString, QDateTime>();
         qputenv("TZ", "XYZ5");
         tzset();
         const QDateTime date = uiutils::pdf::dateTime(text).toUTC();
         PDFFile file;
         file.setFilename(made("dates.pdf", described("/CreationDate(" + text.toLatin1() + ")")));
         const QString shown = file.getCreationDate();
-        const QString expected
-                = utc.isValid() ? QLocale().toString(utc.toLocalTime(), QLocale::LongFormat) : QString();
+        const QString expected = utc.isValid() ? QLocale().toString(utc.toLocalTime(), QLocale::LongFormat) : QString();
         qputenv("TZ", "UTC");
         tzset();
         QCOMPARE(date.isValid(), utc.isValid());
@@ -187,71 +173,44 @@ private Q_SLOTS:
     {
         const QString name = made("signals.pdf", described("/Title(Old)"));
         PDFFile file;
-        QSignalSpy loaded(&file, &PDFFile::filenameChanged);
-        QSignalSpy title(&file, &PDFFile::titleChanged);
-        QSignalSpy author(&file, &PDFFile::authorChanged);
-        QSignalSpy subject(&file, &PDFFile::subjectChanged);
-        QSignalSpy producer(&file, &PDFFile::producerChanged);
-        const auto counts = [&] {
-            return QVector<int>{
-                    loaded.count(), title.count(), author.count(), subject.count(), producer.count()};
-        };
+        SignalLog log(&file);
         file.setTitle("lost");
         file.setMetaData("Title", "lost");
         file.write(path("lost.pdf"));
-        QCOMPARE(counts(), (QVector<int>{0, 0, 0, 0, 0}));
+        QCOMPARE(log.take(), QStringList());
         QVERIFY(!QFile::exists(path("lost.pdf")));
 
         file.setFilename(name);
         file.setFilename(name);
-        QCOMPARE(counts(), (QVector<int>{2, 0, 0, 0, 0}));
-        QCOMPARE(file.getTitle(), QString("Old"));
+        QCOMPARE(log.take(), (QStringList{"filenameChanged", "filenameChanged"}));
         file.setTitle("New");
         file.setTitle("New");
         file.setAuthor("A");
         file.setSubject("S");
         file.setProducer("P");
-        QCOMPARE(counts(), (QVector<int>{2, 2, 1, 1, 1}));
-
+        QCOMPARE(log.take(), (QStringList{"titleChanged", "titleChanged", "authorChanged", "subjectChanged", "producerChanged"}));
+        // A reload forgets changes, and a file that is not there everything.
+        file.setFilename(name);
+        QCOMPARE(file.getTitle(), QString("Old"));
         expectMessage(loadFailure);
         file.setFilename(path("absent.pdf"));
         QCOMPARE(file.getFilename(), path("absent.pdf"));
         QCOMPARE(file.getTitle(), QString());
         file.setTitle("lost");
-        QCOMPARE(counts(), (QVector<int>{3, 2, 1, 1, 1}));
-    }
-
-    void aReloadForgetsChanges()
-    {
-        PDFFile file;
-        file.setFilename(made("reload.pdf", described("/Title(Old)")));
-        file.setTitle("New");
-        file.setFilename(path("reload.pdf"));
-        QCOMPARE(file.getTitle(), QString("Old"));
+        QCOMPARE(log.take(), (QStringList{"filenameChanged", "filenameChanged"}));
     }
 
     void writesOverItsOwnFile_data()
     {
-        addColumns<QString, QString>({"folder", "name"});
-        QTest::newRow("usual") << "own"
-                               << "a.pdf";
-        QTest::newRow("twice") << "own.pdf"
-                               << "b.pdf.pdf";
-        QTest::newRow("not at the end") << "own.pdf"
-                                        << "c.pdf.bak";
-        QTest::newRow("without") << "own.pdf"
-                                 << "d";
-        QTest::newRow("capitals") << "own"
-                                  << "E.PDF";
-        QTest::newRow("nothing else") << "own"
-                                      << ".pdf";
-        QTest::newRow("longest name") << "own" << QString(251, 'f') + ".pdf";
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"a.pdf", "b.pdf.pdf", "c.pdf.bak", "d", "E.PDF", ".pdf"})
+            QTest::newRow(name) << QString(name);
+        QTest::newRow("longest name") << QString(251, 'f') + ".pdf";
     }
     void writesOverItsOwnFile()
     {
-        QFETCH(QString, folder);
         QFETCH(QString, name);
-        const QString inside = path("over/" + folder);
+        const QString inside = path("over/own.pdf");
         const QString whole = writeFile(inside + '/' + name, described("/Title(Old)"));
         QFile::setPermissions(whole, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
         const auto permissions = QFile::permissions(whole);
@@ -281,8 +240,7 @@ private Q_SLOTS:
         PDFFile file;
         file.setFilename(path("temporary/a.pdf"));
         file.setTitle("New");
-        for (const QString& target :
-                {QString(), path("temporary/./a.pdf"), path("temporary/link/../a.pdf")}) {
+        for (const QString& target : {QString(), path("temporary/./a.pdf"), path("temporary/link/../a.pdf")}) {
             expectMessage(writeFailure);
             file.write(target);
             QCOMPARE(contentsOf(path("temporary/a.pdf")), old);
@@ -349,8 +307,7 @@ private Q_SLOTS:
         writeFile(path("odd/text.pdf"), "Not a PDF file, but a text of some length that says so.");
         QFile large(path("odd/large.pdf"));
         QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(64 * 1024 * 1024 + 1));
-        for (const char* name :
-                {"folder.pdf", "pipe.pdf", "empty.pdf", "text.pdf", "large.pdf", "absent.pdf"})
+        for (const char* name : {"folder.pdf", "pipe.pdf", "empty.pdf", "text.pdf", "large.pdf", "absent.pdf"})
             QTest::newRow(name) << path(QString("odd/") + name);
         QTest::newRow("device") << "/dev/zero";
         QTest::newRow("NUL") << path("bare.pdf") + QChar(QChar::Null) + "x";
@@ -374,13 +331,11 @@ private Q_SLOTS:
         PDFFile file;
         file.setFilename(name);
         const QString fits(127, 'k');
-        for (const QString& key :
-                {QString(), QString("a") + QChar(QChar::Null) + "b", QString("line\nbreak"), fits + "k"}) {
+        for (const QString& key : {QString(), QString("a") + QChar(QChar::Null) + "b", QString("line\nbreak"), fits + "k"}) {
             file.setMetaData(key, "value");
             QCOMPARE(file.getMetaData(key), QString());
         }
-        const QStringList keys{
-                fits, "Trapped", "with blank", "a/b(c)<d>[e]{f}%g#h", QString::fromUtf8("λ 😀"), "Number"};
+        const QStringList keys{fits, "Trapped", "with blank", "a/b(c)<d>[e]{f}%g#h", QString::fromUtf8("λ 😀"), "Number"};
         for (const QString& key : keys)
             file.setMetaData(key, "value of " + key);
         file.write(QString());
@@ -424,7 +379,7 @@ private Q_SLOTS:
     /// Those that open without a password are read. They are not written: PoDoFo would add to their other texts.
     void encryptedFiles_data()
     {
-        addColumns<QString, QStringList>({"password", "options"});
+        addColumns<QString, QStringList>();
         QTest::newRow("40 bits") << "" << QStringList{"40", "--"};
         QTest::newRow("128 bits") << "" << QStringList{"128", "--use-aes=n", "--"};
         QTest::newRow("128 bits, blocks") << "" << QStringList{"128", "--use-aes=y", "--"};
@@ -435,8 +390,7 @@ private Q_SLOTS:
     }
     void encryptedFiles()
     {
-        QFETCH(QString, password);
-        QFETCH(QStringList, options);
+        const auto [password, options] = currentRow<QString, QStringList>();
         // One text that fills blocks, one of two bytes a letter that does and ends as if padded, one that stands elsewhere.
         samples::Sketch sketch;
         sketch.addPage().add("<</Title(Sixteen letters.)/Author<FEFF03BB006200630064006500660101>/Subject 5 0 R/Producer(P)>>");

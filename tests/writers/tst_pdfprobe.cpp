@@ -4,9 +4,6 @@
 #include "writers/pdffile/pdffile.h"
 #include "writers/pdffile/pdfprobe_p.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-
 #include <cerrno>
 #include <csignal>
 #include <dlfcn.h>
@@ -19,11 +16,6 @@ using samples::Sketch;
 using uiutils::PdfProbe;
 
 namespace {
-
-QByteArray repeated(const QByteArray& text, int times)
-{
-    return text.repeated(times);
-}
 
 /// Behind Qt's four bytes of length, what the filter FlateDecode reads.
 QByteArray deflated(const QByteArray& data)
@@ -126,19 +118,19 @@ private Q_SLOTS:
         };
         for (const int depth : {300, 100'000}) {
             const QByteArray name = QByteArray::number(depth);
-            QTest::newRow("dictionaries within each other, " + name) << object(repeated("<</A", depth));
+            QTest::newRow("dictionaries within each other, " + name) << object(QByteArray("<</A").repeated(depth));
             QTest::newRow("dictionaries, closed, " + name)
-                    << object(repeated("<</A", depth) + "1" + repeated(">>", depth));
+                    << object(QByteArray("<</A").repeated(depth) + "1" + QByteArray(">>").repeated(depth));
             QTest::newRow("arrays within each other, " + name)
-                    << object("<</Title" + repeated("[", depth) + repeated("]", depth) + ">>");
-            QTest::newRow("arrays in the trailer, " + name) << page().finished("/X" + repeated("[", depth));
+                    << object("<</Title" + QByteArray("[").repeated(depth) + QByteArray("]").repeated(depth) + ">>");
+            QTest::newRow("arrays in the trailer, " + name) << page().finished("/X" + QByteArray("[").repeated(depth));
         }
         QTest::newRow("dictionaries and nothing else")
-                << "%PDF-1.4\n1 0 obj" + repeated("<<", 330) + "\nstartxref\n9\n%%EOF";
-        const QByteArray filters = "/Filter[" + repeated("/FlateDecode ", 200'000) + "]";
+                << "%PDF-1.4\n1 0 obj" + QByteArray("<<").repeated(330) + "\nstartxref\n9\n%%EOF";
+        const QByteArray filters = "/Filter[" + QByteArray("/FlateDecode ").repeated(200'000) + "]";
         QTest::newRow("filters of a table") << withTableStream("/Size 4/W[1 2 1]" + filters, deflated("x"));
         QTest::newRow("filters of text") << withTableStream(
-                "/Size 4/W[1 2 1]/Filter[" + repeated("/ASCIIHexDecode ", 50'000) + "]", "00>");
+                "/Size 4/W[1 2 1]/Filter[" + QByteArray("/ASCIIHexDecode ").repeated(50'000) + "]", "00>");
 
         const QByteArray bomb = deflated(deflated(QByteArray(96 << 20, '\0')));
         QTest::newRow("bomb for a table") << withTableStream(
@@ -151,30 +143,20 @@ private Q_SLOTS:
             sketch.addStream("/Type/XRef/Size 6/W[1 2 1]/Root 1 0 R/Info 5 0 R", rows);
             QTest::newRow("bomb for objects") << sketch.finishedAt(table);
         }
-        for (const QByteArray& widths : {QByteArray("[1 2]"), QByteArray("[-1 2 1]"),
-                     QByteArray("[1 99999999 1]"), QByteArray("[0 0 0]"),
-                     QByteArray("[9223372036854775807 2 1]"), QByteArray("[8 8 8]"), QByteArray("(a)")})
+        for (const QByteArray widths : {"[1 2]", "[-1 2 1]", "[1 99999999 1]", "[0 0 0]", "[9223372036854775807 2 1]", "[8 8 8]", "(a)"})
             QTest::newRow("widths " + widths) << withTableStream("/Size 4/W" + widths, page().binaryTable());
-        for (const QByteArray& index : {QByteArray("[0 2147483647]"), QByteArray("[-5 4]"), QByteArray("[1]"),
-                     QByteArray("[/a/b]"), QByteArray("[9223372036854775807 4]")})
-            QTest::newRow("index " + index)
-                    << withTableStream("/Size 4/W[1 2 1]/Index" + index, page().binaryTable());
+        for (const QByteArray index : {"[0 2147483647]", "[-5 4]", "[1]", "[/a/b]", "[9223372036854775807 4]"})
+            QTest::newRow("index " + index) << withTableStream("/Size 4/W[1 2 1]/Index" + index, page().binaryTable());
 
         const QByteArray id = "/ID[<00><00>]";
         int number = 0;
-        for (const QByteArray& keys : {QByteArray(""), QByteArray("/Filter/Standard"),
-                     QByteArray("/Filter/Standard/V 1/R 2/O()/U()/P 0"),
-                     QByteArray("/Filter/Standard/V 5/R 6/O(a)/U(b)/OE(c)/UE(d)/Perms(e)/P -4"),
-                     QByteArray("/Filter/Standard/V 5/R 5/O(a)/U(b)/P -4"),
-                     QByteArray("/Filter/Standard/V 2/R 3/Length -8/O(a)/U(b)/P -4"),
-                     QByteArray("/Filter/Standard/V 2/R 3/Length 99999999/O(a)/U(b)/P -4"),
-                     QByteArray("/Filter/Standard/V 4/R 4/Length 128/O(a)/U(b)/P "
-                                "-4/CF<</StdCF<</CFM/AESV2/Length 9999>>>>/StmF/StdCF"),
-                     QByteArray("/Filter/Standard/V 2/R 3/Length 128/O 5/U[1]/P(x)"),
-                     QByteArray("/Filter 3/V/a/R(b)")}) {
+        for (const QByteArray keys : {"", "/Filter/Standard", "/Filter/Standard/V 1/R 2/O()/U()/P 0",
+                     "/Filter/Standard/V 5/R 6/O(a)/U(b)/OE(c)/UE(d)/Perms(e)/P -4", "/Filter/Standard/V 5/R 5/O(a)/U(b)/P -4",
+                     "/Filter/Standard/V 2/R 3/Length -8/O(a)/U(b)/P -4", "/Filter/Standard/V 2/R 3/Length 99999999/O(a)/U(b)/P -4",
+                     "/Filter/Standard/V 4/R 4/Length 128/O(a)/U(b)/P -4/CF<</StdCF<</CFM/AESV2/Length 9999>>>>/StmF/StdCF",
+                     "/Filter/Standard/V 2/R 3/Length 128/O 5/U[1]/P(x)", "/Filter 3/V/a/R(b)"}) {
             QTest::addRow("encryption %d", number) << page().finished("/Encrypt<<" + keys + ">>" + id);
-            QTest::addRow("encryption without an id %d", number++)
-                    << page().finished("/Encrypt<<" + keys + ">>");
+            QTest::addRow("encryption without an id %d", number++) << page().finished("/Encrypt<<" + keys + ">>");
         }
         QTest::newRow("encryption that is a page") << page().finished("/Encrypt 3 0 R" + id);
         QTest::newRow("encryption that is not there") << page().finished("/Encrypt 99 0 R" + id);
@@ -189,41 +171,35 @@ private Q_SLOTS:
             sketch.add("<</Type/Catalog/Pages 1 0 R/Kids[1 0 R]/Count 1>>");
             return sketch.finished("/Info 1 0 R");
         }();
-        QTest::newRow("a length that is the stream's own")
-                << object("<</Length 4 0 R>>stream\nabc\nendstream");
+        QTest::newRow("a length that is the stream's own") << object("<</Length 4 0 R>>stream\nabc\nendstream");
         QTest::newRow("lengths of each other") << [] {
             Sketch sketch = page();
             sketch.add("<</Length 5 0 R>>stream\nabc\nendstream");
             sketch.add("<</Length 4 0 R>>stream\nabc\nendstream");
             return sketch.finished();
         }();
-        for (const QByteArray& length : {QByteArray("-1"), QByteArray("9223372036854775807"),
-                     QByteArray("2147483648"), QByteArray("1e9"), QByteArray("(a)")})
+        for (const QByteArray length : {"-1", "9223372036854775807", "2147483648", "1e9", "(a)"})
             QTest::newRow("length " + length) << object("<</Length " + length + ">>stream\nabc\nendstream");
-        for (const QByteArray& key : {QByteArray("Prev"), QByteArray("XRefStm")}) {
+        for (const QByteArray key : {"Prev", "XRefStm"}) {
             const int table = page().size();
             QTest::newRow(key + ", itself") << page().finished("/" + key + " " + QByteArray::number(table));
-            for (const QByteArray& offset :
-                    {QByteArray("-1"), QByteArray("0"), QByteArray("9"), QByteArray("9223372036854775807")})
+            for (const QByteArray offset : {"-1", "0", "9", "9223372036854775807"})
                 QTest::newRow(key + " " + offset) << page().finished("/" + key + " " + offset);
         }
-        for (const QByteArray& size :
-                {QByteArray("9223372036854775807"), QByteArray("-1"), QByteArray("8388607"), QByteArray("0")})
+        for (const QByteArray size : {"9223372036854775807", "-1", "8388607", "0"})
             QTest::newRow("size " + size)
                     << page().finishedWith(page().table() + "trailer\n<</Root 1 0 R/Size " + size + ">>\n");
-        for (const QByteArray& section : {QByteArray("0 99999999"), QByteArray("4294967295 2"),
-                     QByteArray("-1 4"), QByteArray("0 -4")})
+        for (const QByteArray section : {"0 99999999", "4294967295 2", "-1 4", "0 -4"})
             QTest::newRow("section " + section) << page().finishedWith(
                     "xref\n" + section + page().table().mid(8) + "trailer\n<</Root 1 0 R/Size 4>>\n");
-        QTest::newRow("offset of the table, negative")
-                << page().finished().replace("startxref\n", "startxref\n-");
+        QTest::newRow("offset of the table, negative") << page().finished().replace("startxref\n", "startxref\n-");
         QTest::newRow("information that is itself") << object("4 0 R");
         QTest::newRow("information that is a number") << object("5");
         QTest::newRow("information that is the pages") << page().finished("/Info 2 0 R");
         QTest::newRow("root that is not there") << Sketch().finished();
-        QTest::newRow("a text without an end") << object("<</Title(" + repeated("(", 1'000'000));
-        QTest::newRow("a name without an end") << object("<</" + repeated("a", 1'000'000));
-        QTest::newRow("a long comment") << object("%" + repeated("a", 1'000'000));
+        QTest::newRow("a text without an end") << object("<</Title(" + QByteArray("(").repeated(1'000'000));
+        QTest::newRow("a name without an end") << object("<</" + QByteArray("a").repeated(1'000'000));
+        QTest::newRow("a long comment") << object("%" + QByteArray("a").repeated(1'000'000));
     }
     void hostileFiles()
     {
@@ -243,11 +219,9 @@ private Q_SLOTS:
     {
         samples::print(path("printed.pdf"), 2);
         outputOf("qpdf", {"--object-streams=generate", path("printed.pdf"), path("packed.pdf")});
-        outputOf(
-                "qpdf", {"--encrypt", "", "owner", "256", "--", path("printed.pdf"), path("locked.pdf")});
-        const QVector<QByteArray> bases{samples::described("/Title(A)/Author<FEFF0041>"),
-                contentsOf(path("packed.pdf")), contentsOf(path("printed.pdf")),
-                contentsOf(path("locked.pdf"))};
+        outputOf("qpdf", {"--encrypt", "", "owner", "256", "--", path("printed.pdf"), path("locked.pdf")});
+        const QVector<QByteArray> bases{samples::described("/Title(A)/Author<FEFF0041>"), contentsOf(path("packed.pdf")),
+                contentsOf(path("printed.pdf")), contentsOf(path("locked.pdf"))};
         std::mt19937 random(20260314);
         const auto below = [&random](int limit) { return int(random() % unsigned(qMax(1, limit))); };
         int loaded = 0;
@@ -257,27 +231,14 @@ private Q_SLOTS:
             for (int change = below(4); change >= 0; --change) {
                 const int at = below(contents.size());
                 const int size = 1 + below(40);
-                switch (below(6)) {
-                case 0:
-                    contents[at] = char(below(256));
-                    break;
-                case 1:
-                    contents[at] = "0123456789<>[]()/ \n"[below(19)];
-                    break;
-                case 2:
-                    contents.remove(at, size);
-                    break;
-                case 3:
-                    contents.insert(at, contents.mid(below(contents.size()), size));
-                    break;
-                case 4:
-                    contents.replace(at, size, contents.mid(below(contents.size()), size));
-                    break;
-                default:
-                    if (below(8) == 0)
-                        contents.truncate(qMax(1, at));
-                    break;
-                }
+                const QByteArray other = contents.mid(below(contents.size()), size);
+                const int kind = below(6);
+                if (kind < 2)
+                    contents[at] = kind ? "0123456789<>[]()/ \n"[below(19)] : char(below(256));
+                else if (kind < 5)
+                    contents.replace(at, kind == 3 ? 0 : size, kind == 2 ? QByteArray() : other);
+                else if (below(8) == 0)
+                    contents.truncate(qMax(1, at));
             }
             writeFile(path("damaged.pdf"), contents);
             loaded += use(path("damaged.pdf"));
@@ -288,22 +249,19 @@ private Q_SLOTS:
 
     void helpersThatFail_data()
     {
-        addColumns<QByteArray, QString>({"text", "error"});
-        QTest::newRow("dies") << QByteArray("printf S; kill -SEGV $$")
-                              << "The file cannot be read without harm";
-        QTest::newRow("says nothing more")
-                << QByteArray("printf S") << "The file cannot be read without harm";
-        QTest::newRow("hangs") << QByteArray("printf S; exec sleep 1000")
-                               << "Reading the file takes too long";
-        QTest::newRow("hangs when it has loaded") << QByteArray("printf 'S\\376'; exec sleep 1000")
-                                                 << "Reading the file takes too long";
-        QTest::newRow("hangs at once") << QByteArray("exec sleep 1000") << "Reading the file takes too long";
+        addColumns<QByteArray, QString>();
+        const QString harm = "The file cannot be read without harm";
+        const QString hangs = "Reading the file takes too long";
+        QTest::newRow("dies") << QByteArray("printf S; kill -SEGV $$") << harm;
+        QTest::newRow("says nothing more") << QByteArray("printf S") << harm;
+        QTest::newRow("hangs") << QByteArray("printf S; exec sleep 1000") << hangs;
+        QTest::newRow("hangs when it has loaded") << QByteArray("printf 'S\\376'; exec sleep 1000") << hangs;
+        QTest::newRow("hangs at once") << QByteArray("exec sleep 1000") << hangs;
         QTest::newRow("finds a fault") << QByteArray("printf 'S\\012'") << "Error 10";
     }
     void helpersThatFail()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(QString, error);
+        const auto [text, error] = currentRow<QByteArray, QString>();
         const PdfProbe probe(script("helper", text), 300);
         QString actual;
         QVERIFY(!probe.passes("%PDF-", &actual));
@@ -330,8 +288,7 @@ private Q_SLOTS:
 
     void whereNoHelperWasInstalledFilesPass()
     {
-        QTest::ignoreMessage(
-                QtWarningMsg, QRegularExpression("^PDF files are loaded without being tried out first"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^PDF files are loaded without being tried out first"));
         QString error;
         QVERIFY(PdfProbe(QString(), 1000).passes("%PDF-", &error));
         QCOMPARE(error, QString());
@@ -384,8 +341,7 @@ private Q_SLOTS:
         QString error;
         const bool good = PdfProbe().passes(samples::described("/Title(A)"), &error);
         const bool bad = PdfProbe().passes(samples::described("/Title(A)").left(200), &error);
-        const bool hanging
-                = PdfProbe(script("hanging", "printf S; exec sleep 1000"), 300).passes("x", &error);
+        const bool hanging = PdfProbe(script("hanging", "printf S; exec sleep 1000"), 300).passes("x", &error);
         ::signal(SIGCHLD, SIG_DFL);
         ::sigprocmask(SIG_SETMASK, &mask, nullptr);
         QVERIFY(good);

@@ -8,8 +8,6 @@
 #include <embedded/embeddedservice.h>
 
 #include <QImage>
-#include <QTemporaryDir>
-#include <QtMath>
 
 namespace {
 
@@ -34,10 +32,8 @@ QRect curveExtent(const QImage& image)
 bool isNear(const QRect& a, const QRect& b)
 {
     const auto near = [](int x, int y) { return qAbs(x - y) <= 12; };
-    return a.isNull() == b.isNull()
-            && (a.isNull()
-                    || (near(a.left(), b.left()) && near(a.top(), b.top()) && near(a.right(), b.right())
-                            && near(a.bottom(), b.bottom())));
+    return a.isNull() == b.isNull() && near(a.left(), b.left()) && near(a.top(), b.top()) && near(a.right(), b.right())
+            && near(a.bottom(), b.bottom());
 }
 
 } // namespace
@@ -58,7 +54,7 @@ private Q_SLOTS:
 
     void arrays_data()
     {
-        addColumns<QVariantList, QVariantList, QSize, QRect>({"xs", "ys", "size", "extent"});
+        addColumns<QVariantList, QVariantList, QSize, QRect>();
         QVariantList ramp;
         QVariantList squares;
         for (int i = 0; i < 50; ++i) {
@@ -79,10 +75,7 @@ private Q_SLOTS:
     }
     void arrays()
     {
-        QFETCH(QVariantList, xs);
-        QFETCH(QVariantList, ys);
-        QFETCH(QSize, size);
-        QFETCH(QRect, extent);
+        const auto [xs, ys, size, extent] = currentRow<QVariantList, QVariantList, QSize, QRect>();
         kiv::embedded::EmbeddedBackend backend;
         QVERIFY(backend.loadFile(UIUTILS_TEST_DATA_DIR "/services/kinds.service.json"));
         QVERIFY(backend.service("kinds")->setValue(xId, xs));
@@ -98,24 +91,6 @@ private Q_SLOTS:
         const QRect drawn = curveExtent(image);
         const QString difference = QString("%1,%2 %3x%4").arg(drawn.x()).arg(drawn.y()).arg(drawn.width()).arg(drawn.height());
         QVERIFY2(isNear(drawn, extent), qPrintable(difference));
-    }
-
-    /// Curves of one service share the picture; what the service says about scale and limits moves the curve.
-    void severalCurvesScalesAndLimits()
-    {
-        kiv::embedded::EmbeddedBackend backend;
-        QVERIFY(backend.loadFile(UIUTILS_TEST_DATA_DIR "/services/plots.service.json"));
-        const auto extentOf = [](const char* service) {
-            PlotImage plot;
-            plot.setService(service);
-            plot.setSize(600, 400);
-            [&] { QVERIFY(plot.write("/tmp/rep_plot_0.png")); }();
-            // Below the legend, which shows the curve's colour too.
-            return curveExtent(QImage::fromData(plot.getData(), "PNG").copy(0, 100, 600, 300));
-        };
-        // Decades on a logarithmic axis are evenly apart; the limit far above pushes the curve down.
-        const QRect curve = extentOf("plots");
-        QVERIFY2(curve.height() > 60 && curve.height() < 140, qPrintable(QString::number(curve.height())));
     }
 
     /// Nothing longer than any plot has room for reaches the painter.
@@ -137,22 +112,17 @@ private Q_SLOTS:
             QCOMPARE(text, QString(199, 'w') + QChar(0x2026));
     }
 
-    void sizes_data()
-    {
-        addColumns<QSize, QSize>({"asked", "drawn"});
-        QTest::newRow("unset") << QSize(0, 0) << QSize(600, 400);
-        QTest::newRow("large") << QSize(2'000'000'000, 1200) << QSize(4000, 1200);
-        QTest::newRow("tiny") << QSize(1, -5) << QSize(50, 400);
-    }
     void sizes()
     {
-        QFETCH(QSize, asked);
-        QFETCH(QSize, drawn);
-        PlotImage plot;
-        plot.setSize(asked.width(), asked.height());
-        plot.setCurveBackground("no colour");
-        QVERIFY(plot.write("/tmp/rep_plot_0.png"));
-        QCOMPARE(QImage::fromData(plot.getData()).size(), drawn);
+        for (const auto& [asked, drawn] :
+                {std::pair(QSize(0, 0), QSize(600, 400)), std::pair(QSize(2'000'000'000, 1200), QSize(4000, 1200)),
+                     std::pair(QSize(1, -5), QSize(50, 400))}) {
+            PlotImage plot;
+            plot.setSize(asked.width(), asked.height());
+            plot.setCurveBackground("no colour");
+            QVERIFY(plot.write("/tmp/rep_plot_0.png"));
+            QCOMPARE(QImage::fromData(plot.getData()).size(), drawn);
+        }
     }
 
     void theImageOutlivesAFailedWrite()

@@ -3,8 +3,6 @@
 #include "writers/plots/axisscale_p.h"
 #include "writers/plots/plotdata_p.h"
 
-#include <QtMath>
-
 #include <cmath>
 #include <limits>
 
@@ -58,7 +56,7 @@ class PlotScaleTest : public QObject
 private Q_SLOTS:
     void ticks_data()
     {
-        addColumns<QVector<double>, int, int, int, QStringList>({"data", "kind", "ends", "maximum", "expected"});
+        addColumns<QVector<double>, int, int, int, QStringList>();
         using V = QVector<double>;
         const int linear = AxisScale::Linear;
         const int log = AxisScale::Logarithmic;
@@ -91,11 +89,7 @@ private Q_SLOTS:
     }
     void ticks()
     {
-        QFETCH(QVector<double>, data);
-        QFETCH(int, kind);
-        QFETCH(int, ends);
-        QFETCH(int, maximum);
-        QFETCH(QStringList, expected);
+        const auto [data, kind, ends, maximum, expected] = currentRow<QVector<double>, int, int, int, QStringList>();
         const AxisScale scale(interval(data), AxisScale::Kind(kind), AxisScale::Ends(ends), maximum);
         QCOMPARE(labels(scale), expected);
     }

@@ -13,14 +13,7 @@
 
 #include <embedded/embeddedbackend.h>
 
-#include <QBuffer>
 #include <QImage>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QXmlStreamReader>
 
 #include <memory>
 
@@ -276,15 +269,14 @@ private Q_SLOTS:
 
     void pagesOfATable_data()
     {
-        addColumns<QString, QSizeF>({"orientation", "paper"});
+        addColumns<QString, QSizeF>();
         QTest::newRow("upright") << "portrait" << QSizeF(612, 792);
         QTest::newRow("wide") << "landscape" << QSizeF(792, 612);
     }
     /// Every cell is there, in order, in its column and row, as it is aligned, with the icon of its status.
     void pagesOfATable()
     {
-        QFETCH(QString, orientation);
-        QFETCH(QSizeF, paper);
+        const auto [orientation, paper] = currentRow<QString, QSizeF>();
         const int rows = 150;
         QJsonObject table {{"title", "Levels"}, {"use_row_labels", true}, {"num_columns", 4}, {"col_label_0", "Left"},
                 {"col_label_1", "Right"}, {"col_label_2", "Middle"}, {"col_label_3", "Remark"}};
@@ -588,8 +580,7 @@ private Q_SLOTS:
 
     void oddItems_data()
     {
-        addColumns<QString, QStringList, QVector<QStringList>, QByteArray, int, QStringList>(
-                {"title", "labels", "rows", "image", "pages", "words"});
+        addColumns<QString, QStringList, QVector<QStringList>, QByteArray, int, QStringList>();
         using Rows = QVector<QStringList>;
         const QStringList one {"A"};
         const auto words = [](int count) {
@@ -618,17 +609,13 @@ private Q_SLOTS:
     /// As a table's title, a heading and the report's own.
     void oddItems()
     {
-        QFETCH(QString, title);
-        QFETCH(QStringList, labels);
-        QFETCH(QVector<QStringList>, rows);
-        QFETCH(QByteArray, image);
-        QFETCH(int, pages);
-        QFETCH(QStringList, words);
+        const auto [title, labels, rows, image, pages, words]
+                = currentRow<QString, QStringList, QVector<QStringList>, QByteArray, int, QStringList>();
         auto* table = new ReportTable(title, labels, false);
         for (const QStringList& row : rows)
             addRow(*table, row);
         const QString path = printed({new ReportTable("", {}, true), new ReportHeader(1, title), table, new ReportImage(image)},
-                [&](ReportPDF& pdf) { pdf.setTitle(title); });
+                [title = title](ReportPDF& pdf) { pdf.setTitle(title); });
         QVERIFY(!path.isEmpty());
         const int count = infoOf(path, "Pages").toInt();
         QVERIFY2(count >= pages && count < pages + 3, qPrintable(QString::number(count)));
