@@ -3,6 +3,7 @@
 
 #include <QtTest>
 
+#include "instrument/job_p.h"
 #include "report/gzip_p.h"
 #include "report/jobreport_p.h"
 #include "report/nsreport.h"
@@ -364,19 +365,19 @@ private Q_SLOTS:
 
     void tellsOfTheJob()
     {
-        QCOMPARE(uiutils::jobSummary(), QString());
+        QCOMPARE(uiutils::instrument::jobSummary(), QString());
         kiv::embedded::EmbeddedBackend backend;
         QVERIFY(!uiutils::isJobActive());
         QVERIFY(backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));
         kiv::embedded::EmbeddedService* service = backend.service("basemgr");
         QVERIFY(uiutils::isJobActive());
-        QCOMPARE(uiutils::jobSummary(), QString("ID: WO-88213, Tech: Ines Halvorsen, BAN: 700 118 245"));
+        QCOMPARE(uiutils::instrument::jobSummary(), QString("ID: WO-88213, Tech: Ines Halvorsen, BAN: 700 118 245"));
         service->setValue(":result:basemgr:jobmanager:jobTechnician:", " ");
         service->setValue(":result:basemgr:jobmanager:jobBAN:", "7\n%1");
-        QCOMPARE(uiutils::jobSummary(), QString("ID: WO-88213, BAN: 7 %1"));
+        QCOMPARE(uiutils::instrument::jobSummary(), QString("ID: WO-88213, BAN: 7 %1"));
         service->setValue(":result:basemgr:jobmanager:isJobActive:", false);
         QVERIFY(!uiutils::isJobActive());
-        QCOMPARE(uiutils::jobSummary(), QString());
+        QCOMPARE(uiutils::instrument::jobSummary(), QString());
     }
 
     void attachesReports()

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Holds the includes of the library against its rooms: an include never runs back up.
 #
-#   module -> report -> writers, templ2xmlwriter, files, local -> service, document -> platform/contract
+#   module -> report -> writers, templ2xmlwriter, files, local -> service, instrument, document -> platform/contract
 #   everything may use core and base, which use Qt only; the library never uses platform/reference
 set -euo pipefail
 # The last part of a pipe counts faults here, not in a shell of its own.
@@ -12,13 +12,14 @@ cd "$1"
 rooms='
 core
 document kiv
-service document kiv
-local service document kiv
-files service document kiv
-writers service document kiv
-templ2xmlwriter service document kiv
-report writers templ2xmlwriter files local service document kiv
-module report writers templ2xmlwriter files local service document kiv
+service instrument document kiv
+instrument kiv
+local service kiv
+files instrument document kiv
+writers instrument document kiv
+templ2xmlwriter instrument document kiv
+report writers templ2xmlwriter files local instrument service document kiv
+module report writers templ2xmlwriter files local instrument service document kiv
 '
 
 faults=0

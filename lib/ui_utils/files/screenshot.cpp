@@ -1,7 +1,7 @@
 #include "files/screenshot.h"
 
 #include "base/paths.h"
-#include "service/instrumentinfo_p.h"
+#include "instrument/job_p.h"
 
 namespace paths = uiutils::paths;
 
@@ -20,7 +20,9 @@ void Screenshot::updateMetadataInformation()
     m_metadata.setType(QStringLiteral("TESTDATA.screenshot"));
     m_metadata.setMetadataPath(paths::screenshotMetadata);
     m_metadata.setOriginBase(paths::screenshots);
-    uiutils::instrument::addWorkOrder(&m_metadata);
+    const QMap<QString, QString> order = uiutils::instrument::workOrder();
+    for (auto it = order.cbegin(); it != order.cend(); ++it)
+        m_metadata.setInfo(it.key(), it.value());
 }
 
 bool Screenshot::saveMetadata()

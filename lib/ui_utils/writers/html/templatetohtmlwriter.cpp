@@ -4,6 +4,7 @@
 #include "base/paths.h"
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
+#include "instrument/unit_p.h"
 #include "writers/html/htmlstreamwriter.h"
 #include "writers/html/style.h"
 #include "writers/plots/plotdata_p.h"

@@ -1,6 +1,9 @@
 #include "writers/text/reportcontent_p.h"
 
 #include "document/documentreader_p.h"
+#include "instrument/job_p.h"
+#include "instrument/people_p.h"
+#include "instrument/unit_p.h"
 #include "writers/html/htmlstreamwriter.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "service/instrumentinfo_p.h"
+#include "instrument/labelledtext_p.h"
 #include "writers/text/textreport.h"
 
 #include <QDate>

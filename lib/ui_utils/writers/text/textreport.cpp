@@ -3,7 +3,7 @@
 #include "base/plaintext_p.h"
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
-#include "service/instrumentinfo_p.h"
+#include "instrument/unit_p.h"
 #include "writers/plots/plotdata_p.h"
 #include "writers/text/reportcontent_p.h"
 #include "writers/text/texttable_p.h"
