@@ -7,8 +7,10 @@
 #include <QSignalSpy>
 
 #include <cmath>
+#include <tuple>
 
 using namespace uiutils::demo;
+using uiutils::Status;
 
 class StatisticsTest : public QObject
 {
@@ -40,28 +42,19 @@ private Q_SLOTS:
         QTEST(result.jitter, "jitter");
     }
 
-    void judge_data()
-    {
-        addColumns<int, double, int>({"kind", "value", "status"});
-        const auto row = [](const char* name, Limit::Kind kind, double value, Status status) {
-            QTest::newRow(name) << int(kind) << value << int(status);
-        };
-        row("a fifth below a ceiling", Limit::AtMost, 80, StatusPass);
-        row("just below a ceiling", Limit::AtMost, 80.1, StatusMarginal);
-        row("on a ceiling", Limit::AtMost, 100, StatusMarginal);
-        row("above a ceiling", Limit::AtMost, 100.1, StatusFail);
-        row("a fifth above a floor", Limit::AtLeast, 120, StatusPass);
-        row("just above a floor", Limit::AtLeast, 119.9, StatusMarginal);
-        row("on a floor", Limit::AtLeast, 100, StatusMarginal);
-        row("below a floor", Limit::AtLeast, 99.9, StatusFail);
-    }
-
     void judge()
     {
-        QFETCH(const int, kind);
-        QFETCH(const double, value);
-        const Limit limit{Limit::Kind(kind), 100};
-        QTEST(int(limit.judge(value)), "status");
+        const std::tuple<const char*, Limit::Kind, double, Status::Code> rows[]{
+                {"a fifth below a ceiling", Limit::AtMost, 80, Status::Pass},
+                {"just below a ceiling", Limit::AtMost, 80.1, Status::Marginal},
+                {"on a ceiling", Limit::AtMost, 100, Status::Marginal},
+                {"above a ceiling", Limit::AtMost, 100.1, Status::Fail},
+                {"a fifth above a floor", Limit::AtLeast, 120, Status::Pass},
+                {"just above a floor", Limit::AtLeast, 119.9, Status::Marginal},
+                {"on a floor", Limit::AtLeast, 100, Status::Marginal},
+                {"below a floor", Limit::AtLeast, 99.9, Status::Fail}};
+        for (const auto& [what, kind, value, status] : rows)
+            QVERIFY2(Limit({kind, 100}).judge(value) == status, what);
     }
 
     /// Three digits count, none is invented beyond what the clock tells, and zero is no trap.
@@ -90,19 +83,19 @@ private Q_SLOTS:
     void changedLimitJudgesAnew()
     {
         SampleModel model("Time", "ms", 3, {Limit::AtMost, 1}, nullptr);
-        QCOMPARE(model.status(), int(StatusNone));
+        QCOMPARE(model.status(), int(Status::None));
         model.append(0.5);
         model.append(0.25);
-        QCOMPARE(model.status(), int(StatusPass));
+        QCOMPARE(model.status(), int(Status::Pass));
 
         const QSignalSpy rejudged(&model, &SampleModel::dataChanged);
         const QSignalSpy statusChanged(&model, &SampleModel::statusChanged);
         model.setLimit(0.3);
         QCOMPARE(rejudged.count(), 1);
         QCOMPARE(statusChanged.count(), 1);
-        QCOMPARE(model.data(model.index(0), SampleModel::StatusRole).toInt(), int(StatusFail));
-        QCOMPARE(model.data(model.index(1), SampleModel::StatusRole).toInt(), int(StatusMarginal));
-        QCOMPARE(model.status(), int(StatusFail));
+        QCOMPARE(model.data(model.index(0), SampleModel::StatusRole).toInt(), int(Status::Fail));
+        QCOMPARE(model.data(model.index(1), SampleModel::StatusRole).toInt(), int(Status::Marginal));
+        QCOMPARE(model.status(), int(Status::Fail));
 
         model.setLimit(std::nan(""));
         model.setLimit(-1);
@@ -112,7 +105,7 @@ private Q_SLOTS:
         model.clear();
         QCOMPARE(model.count(), 0);
         QCOMPARE(model.maximum(), 0.0);
-        QCOMPARE(model.status(), int(StatusNone));
+        QCOMPARE(model.status(), int(Status::None));
     }
 };
 

@@ -47,7 +47,7 @@ Column {
     Text {
         id: lossText
         text: field_res_loss.valueString
-        color: field_res_loss.qualityCode === 16 ? "green" : "gray"
+        color: field_res_loss.qualityCode === Status.Pass ? "green" : "gray"
         enabled: field_res_loss.isReady
     }
     Repeater {

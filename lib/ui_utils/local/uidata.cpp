@@ -2,6 +2,7 @@
 
 #include "core/indexrange_p.h"
 #include "core/plainvalue_p.h"
+#include "core/status.h"
 #include "local/uidatacontainer.h"
 
 #include <QDebug>
@@ -292,22 +293,22 @@ void UiData::setQuality(int code)
 
 void UiData::setQualityNone()
 {
-    setQuality(KIVClientItem::QualityNone);
+    setQuality(uiutils::Status::None);
 }
 
 void UiData::setPassing()
 {
-    setQuality(KIVClientItem::QualityPassing);
+    setQuality(uiutils::Status::Pass);
 }
 
 void UiData::setWarning()
 {
-    setQuality(KIVClientItem::QualityWarning);
+    setQuality(uiutils::Status::Marginal);
 }
 
 void UiData::setFailing()
 {
-    setQuality(KIVClientItem::QualityFailing);
+    setQuality(uiutils::Status::Fail);
 }
 
 QVariant UiData::getProperty(QString const& prop) const
