@@ -1,5 +1,6 @@
 #include "service/manifest.h"
 
+#include "base/batchname_p.h"
 #include "core/itemids.h"
 #include "service/kivaggregatedata.h"
 #include "service/kivcontextobject_p.h"
@@ -34,16 +35,6 @@ QVector<QPointer<KivData>> wrappersOf(const QString& id, KivData* registered)
     const QVector<KivData*> earlier = displaced.value(id);
     std::copy(earlier.crbegin(), earlier.crend(), std::back_inserter(list));
     return list;
-}
-
-/// The name under which the service expects a setting in a batch: the index of an indexed one ("level_3") stands behind
-/// a colon. Names of up to three characters stay as they are.
-QString batchName(QString name)
-{
-    const int last = name.size() - 1;
-    if (last > 2 && name.at(last).isDigit() && name.at(last - 1) == QLatin1Char('_'))
-        name[last - 1] = QLatin1Char(':');
-    return name;
 }
 
 } // namespace
@@ -172,7 +163,7 @@ void Manifest::applyChanges()
         const auto sender = std::find_if(wrappers.cbegin(), wrappers.cend(),
                 [](const KivData* wrapper) { return wrapper && wrapper->isPending() && wrapper->m_item; });
         if (sender != wrappers.cend())
-            senders.insert(batchName((*sender)->getName()), *sender);
+            senders.insert(uiutils::toBatchName((*sender)->getName()), *sender);
     }
     QVariantMap changes;
     QVector<QPointer<KivData>> outdone;
