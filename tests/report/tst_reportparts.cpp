@@ -24,6 +24,8 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+namespace instrument = uiutils::instrument;
+
 namespace {
 
 constexpr int large = 100'000;
@@ -365,19 +367,19 @@ private Q_SLOTS:
 
     void tellsOfTheJob()
     {
-        QCOMPARE(uiutils::instrument::jobSummary(), QString());
+        QCOMPARE(instrument::jobSummary(), QString());
         kiv::embedded::EmbeddedBackend backend;
-        QVERIFY(!uiutils::isJobActive());
+        QVERIFY(!instrument::isJobActive());
         QVERIFY(backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));
         kiv::embedded::EmbeddedService* service = backend.service("basemgr");
-        QVERIFY(uiutils::isJobActive());
-        QCOMPARE(uiutils::instrument::jobSummary(), QString("ID: WO-88213, Tech: Ines Halvorsen, BAN: 700 118 245"));
+        QVERIFY(instrument::isJobActive());
+        QCOMPARE(instrument::jobSummary(), QString("ID: WO-88213, Tech: Ines Halvorsen, BAN: 700 118 245"));
         service->setValue(":result:basemgr:jobmanager:jobTechnician:", " ");
         service->setValue(":result:basemgr:jobmanager:jobBAN:", "7\n%1");
-        QCOMPARE(uiutils::instrument::jobSummary(), QString("ID: WO-88213, BAN: 7 %1"));
+        QCOMPARE(instrument::jobSummary(), QString("ID: WO-88213, BAN: 7 %1"));
         service->setValue(":result:basemgr:jobmanager:isJobActive:", false);
-        QVERIFY(!uiutils::isJobActive());
-        QCOMPARE(uiutils::instrument::jobSummary(), QString());
+        QVERIFY(!instrument::isJobActive());
+        QCOMPARE(instrument::jobSummary(), QString());
     }
 
     void attachesReports()

@@ -12,7 +12,7 @@ cd "$1"
 rooms='
 core
 document kiv
-service instrument document kiv
+service kiv
 instrument kiv
 local service kiv
 files instrument document kiv

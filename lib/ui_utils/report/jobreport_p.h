@@ -1,15 +1,9 @@
 #pragma once
 
-#include "instrument/job_p.h"
-
 #include <QByteArray>
 #include <QString>
 
 namespace uiutils {
-
-using instrument::hasJobId;
-using instrument::isJobActive;
-using instrument::jobSummary;
 
 /// Hands an XML report in UTF-8 to the active job. It is checked first against the schema at the instrument path
 /// `schemaPath`, where that is not empty. Waits for the base manager for at most KIVClientInterface::callTimeout.

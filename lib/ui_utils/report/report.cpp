@@ -3,7 +3,9 @@
 #include "base/durablefile.h"
 #include "base/paths.h"
 #include "core/itemids.h"
-#include "report/jobreport_p.h"
+#include "instrument/basemanager_p.h"
+#include "instrument/drives_p.h"
+#include "instrument/job_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
 #include "report/reportlisting_p.h"
@@ -89,11 +91,11 @@ void Report::watchItems()
     const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
     const QStringList jobItems = client ? client->getItemIds(uiutils::itemids::jobManager) : QStringList();
     for (const QString& id : jobItems) {
-        if (const KIVClientItem* item = uiutils::baseManagerItem(id))
+        if (const KIVClientItem* item = uiutils::instrument::baseManagerItem(id))
             connect(item, &KIVClientItem::valueChanged, this, &Report::slotValueChanged, Qt::UniqueConnection);
     }
     for (const QLatin1String& id : {uiutils::itemids::saveLocation, uiutils::itemids::usbAttached}) {
-        if (const KIVClientItem* item = uiutils::baseManagerItem(id))
+        if (const KIVClientItem* item = uiutils::instrument::baseManagerItem(id))
             connect(item, &KIVClientItem::valueChanged, this, &Report::tellLocation, Qt::UniqueConnection);
     }
 }
@@ -318,7 +320,7 @@ bool Report::tellLocation()
 bool Report::getCanWriteToJobManager() const
 {
     const bool templateAllows = m_document.getAttr(QStringLiteral("canWriteToJobManager")).toBool();
-    return m_canWriteToJobManager.value_or(templateAllows) && uiutils::isJobActive();
+    return m_canWriteToJobManager.value_or(templateAllows) && uiutils::instrument::isJobActive();
 }
 
 void Report::setCanWriteToJobManager(bool allowed)
@@ -403,7 +405,7 @@ void Report::setShowSoftwareRevs(bool show)
 
 QString Report::getJobSummary() const
 {
-    return uiutils::jobSummary();
+    return uiutils::instrument::jobSummary();
 }
 
 void Report::setJobSchema(const QString& schema)
@@ -486,7 +488,7 @@ QString Report::getSaveFilePath(const QString& name, const QString& suffix)
 {
     const QString folder = m_state->destinations().folder(getReportFilePath());
     // Where a stick was, it would be the unit's.
-    if (uiutils::isDriveThere(folder))
+    if (uiutils::instrument::isDriveThere(folder))
         uiutils::makeFolderDurably(onDisk(folder));
     return uiutils::reportPath(folder, name, suffix);
 }
@@ -508,8 +510,8 @@ QString Report::getCdmTestLabel()
 
 void Report::setCdmTestTypeAndLabel()
 {
-    const QString type = uiutils::baseManagerValue(uiutils::itemids::cdmTestType).toString();
-    const QString label = uiutils::baseManagerValue(uiutils::itemids::cdmTestLabel).toString();
+    const QString type = uiutils::instrument::baseManagerText(uiutils::itemids::cdmTestType);
+    const QString label = uiutils::instrument::baseManagerText(uiutils::itemids::cdmTestLabel);
     m_cdmTestType = type.isEmpty() ? QStringLiteral("none") : type;
     m_cdmTestLabel = label.isEmpty() ? QStringLiteral("None") : label;
 }

@@ -1,19 +1,10 @@
 #pragma once
 
-#include "instrument/basemanager_p.h"
-#include "instrument/drives_p.h"
-
 #include <QString>
 #include <QStringList>
 
 /// Where reports go, as the base manager's settings and the drives say.
 namespace uiutils {
-
-using instrument::baseManagerItem;
-using instrument::baseManagerValue;
-using instrument::isDriveThere;
-using instrument::isOnUsb;
-using instrument::usbPath;
 
 /// What the setting says. Numbers are the service's.
 enum SaveLocation { SaveInternally = 0, SaveOnUsb = 1, SaveOnBoth = 2 };

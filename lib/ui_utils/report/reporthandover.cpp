@@ -3,13 +3,13 @@
 #include "report/report.h"
 
 #include "base/paths.h"
+#include "instrument/drives_p.h"
+#include "instrument/job_p.h"
 #include "report/jobreport_p.h"
 #include "report/nosynclist_p.h"
-#include "report/reportdestinations_p.h"
 #include "report/reportfilewriter_p.h"
 #include "report/reportrecord_p.h"
 #include "report/reportstate_p.h"
-#include "service/instrumentinfo_p.h"
 
 #include <kiv/filesystemusage.h>
 
@@ -28,7 +28,7 @@ void Report::saveToUsb(const QString& name, const QString& suffix)
 
 bool Report::copyToUsb(const QString& saved, bool overwrite)
 {
-    const QString copy = uiutils::usbPath(saved);
+    const QString copy = uiutils::instrument::usbPath(saved);
     // What is saved to the stick is its own copy.
     const bool mayReplace = overwrite || QDir::cleanPath(saved) == copy;
     QString error;
@@ -102,10 +102,10 @@ void Report::writeMetadata(const QString& path, const QString& format)
 {
     uiutils::describeReport(&m_state->metadata, path, format, QDateTime::currentDateTime());
     addWorkOrderMetaDataInfo();
-    if (uiutils::isJobActive() && ensureValidJobData())
+    if (uiutils::instrument::isJobActive() && ensureValidJobData())
         updateJobTestMetadata();
     // Where a stick was, it would be the unit's.
-    if (uiutils::isDriveThere(path))
+    if (uiutils::instrument::isDriveThere(path))
         m_state->metadata.saveMetadataToFile();
     else
         qWarning("The record of %s was not written, because the drive is not there", qUtf8Printable(path));
@@ -118,12 +118,14 @@ ReportMetadata& Report::metadata()
 
 void Report::addWorkOrderMetaDataInfo()
 {
-    uiutils::instrument::addWorkOrder(&m_state->metadata);
+    const QMap<QString, QString> order = uiutils::instrument::workOrder();
+    for (auto it = order.cbegin(); it != order.cend(); ++it)
+        m_state->metadata.setInfo(it.key(), it.value());
 }
 
 bool Report::ensureValidJobData()
 {
-    return uiutils::hasJobId();
+    return uiutils::instrument::hasJobId();
 }
 
 void Report::updateJobTestMetadata()
@@ -139,7 +141,7 @@ bool Report::writeToJobManager()
     QString reason;
     const QPointer<Report> self(this);
     bool isAttached = false;
-    if (uiutils::isJobActive() && !ensureValidJobData())
+    if (uiutils::instrument::isJobActive() && !ensureValidJobData())
         reason = tr("The data of the job is not complete: it has no ID");
     else
         isAttached = uiutils::attachToJob(generateJobManagerReport().toUtf8(), m_jobSchema, &reason);

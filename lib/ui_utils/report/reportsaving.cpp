@@ -4,6 +4,7 @@
 
 #include "base/paths.h"
 #include "core/itemids.h"
+#include "instrument/drives_p.h"
 #include "report/nosynclist_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
@@ -285,12 +286,12 @@ bool Report::Save::mayCopy()
     bool overwrite = m_overwrite;
     QStringList copies;
     for (const QString& saved : qAsConst(m_saved)) {
-        if (QDir::cleanPath(saved) == uiutils::usbPath(saved))
+        if (QDir::cleanPath(saved) == uiutils::instrument::usbPath(saved))
             continue;
-        copies += uiutils::usbPath(saved);
+        copies += uiutils::instrument::usbPath(saved);
         overwrite = overwrite && checked.contains(copies.constLast());
     }
-    return !uiutils::isDriveThere(uiutils::paths::usb) || m_report->mayWrite(copies, overwrite);
+    return !uiutils::instrument::isDriveThere(uiutils::paths::usb) || m_report->mayWrite(copies, overwrite);
 }
 
 bool Report::Save::copyToUsb()
@@ -305,7 +306,7 @@ bool Report::Save::copyToUsb()
         isComplete = isComplete && isCopied;
         // The user has let go of a report of the name before it came to this, whatever its form.
         if (isCopied && m_overwrite && m_written.at(i) != m_saved.at(i))
-            QFile::remove(onDisk(uiutils::usbPath(m_saved.at(i))));
+            QFile::remove(onDisk(uiutils::instrument::usbPath(m_saved.at(i))));
     }
     return isComplete;
 }

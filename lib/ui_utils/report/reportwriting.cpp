@@ -3,8 +3,8 @@
 #include "report/report.h"
 
 #include "base/paths.h"
+#include "instrument/drives_p.h"
 #include "report/gzip_p.h"
-#include "report/reportdestinations_p.h"
 #include "report/reportfilewriter_p.h"
 #include "report/reportformats_p.h"
 #include "report/reportrecord_p.h"
@@ -178,12 +178,12 @@ bool Report::checkForOverwrite(const QString& name, const QString& suffix, bool 
 /// Where files of the name go, and on a stick that is there the copies of them.
 QStringList Report::targets(const QString& name, const QStringList& suffixes)
 {
-    const bool hasCopies = m_state->destinations().copiesToUsb() && uiutils::isDriveThere(uiutils::paths::usb);
+    const bool hasCopies = m_state->destinations().copiesToUsb() && uiutils::instrument::isDriveThere(uiutils::paths::usb);
     QStringList paths;
     for (const QString& suffix : suffixes) {
         paths += getSaveFilePath(name, suffix);
         if (hasCopies)
-            paths += uiutils::usbPath(paths.constLast());
+            paths += uiutils::instrument::usbPath(paths.constLast());
     }
     return paths;
 }
