@@ -58,25 +58,13 @@ private Q_SLOTS:
     }
 
     /// Three digits count, none is invented beyond what the clock tells, and zero is no trap.
-    void texts_data()
-    {
-        addColumns<int, double, QString>({"mostDecimals", "value", "text"});
-        QTest::newRow("zero") << 4 << 0.0 << "0.000 u";
-        QTest::newRow("tiny") << 4 << 0.00042 << "0.0004 u";
-        QTest::newRow("below a tenth") << 4 << 0.02194 << "0.0219 u";
-        QTest::newRow("below one") << 4 << 0.1234 << "0.123 u";
-        QTest::newRow("one") << 4 << 1.0 << "1.00 u";
-        QTest::newRow("hundreds") << 4 << 123.4 << "123 u";
-        QTest::newRow("no decimals") << 0 << 12345.6 << "12346 u";
-    }
-
     void texts()
     {
-        QFETCH(const int, mostDecimals);
-        QFETCH(const double, value);
+        const std::tuple<int, double, QString> rows[]{{4, 0, "0.000 u"}, {4, 0.00042, "0.0004 u"}, {4, 0.02194, "0.0219 u"},
+                {4, 0.1234, "0.123 u"}, {4, 1, "1.00 u"}, {4, 123.4, "123 u"}, {0, 12345.6, "12346 u"}};
         QLocale::setDefault(QLocale::c());
-        const SampleModel model("Quantity", "u", mostDecimals, {Limit::AtMost, 1}, nullptr);
-        QTEST(model.text(value), "text");
+        for (const auto& [mostDecimals, value, text] : rows)
+            QCOMPARE(SampleModel("Quantity", "u", mostDecimals, {Limit::AtMost, 1}, nullptr).text(value), text);
     }
 
     /// A new limit judges what is there already, and a limit that makes no sense changes nothing.

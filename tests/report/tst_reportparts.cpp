@@ -4,6 +4,8 @@
 #include <QtTest>
 
 #include "instrument/job_p.h"
+#include "instrument/people_p.h"
+#include "instrument/unit_p.h"
 #include "report/gzip_p.h"
 #include "report/jobreport_p.h"
 #include "report/nsreport.h"
@@ -380,6 +382,17 @@ private Q_SLOTS:
         service->setValue(":result:basemgr:jobmanager:isJobActive:", false);
         QVERIFY(!instrument::isJobActive());
         QCOMPARE(instrument::jobSummary(), QString());
+    }
+
+    void tellsWhoAndWhat()
+    {
+        kiv::embedded::EmbeddedBackend backend;
+        QCOMPARE(instrument::technicianName() + instrument::unitId(), QString());
+        QVERIFY(backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));
+        QCOMPARE(instrument::technicianName() + ", " + instrument::unitId(), QString("Ines Halvorsen, WB20417733"));
+        const QStringList fields {"userInfo_lastName"};
+        backend.service("basemgr")->setValue(":config:basemgr:system:techFieldsIncludedInReport:stringARRAY:", fields);
+        QCOMPARE(instrument::technicianName(), QString("Halvorsen"));
     }
 
     void attachesReports()
