@@ -178,7 +178,8 @@ bool Report::checkForOverwrite(const QString& name, const QString& suffix, bool 
 /// Where files of the name go, and on a stick that is there the copies of them.
 QStringList Report::targets(const QString& name, const QStringList& suffixes)
 {
-    const bool hasCopies = m_state->destinations().copiesToUsb() && uiutils::instrument::isDriveThere(uiutils::paths::usb);
+    const bool hasCopies
+            = m_state->destinations().copiesToUsb() && uiutils::instrument::isDriveThere(uiutils::paths::usb);
     QStringList paths;
     for (const QString& suffix : suffixes) {
         paths += getSaveFilePath(name, suffix);
