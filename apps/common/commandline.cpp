@@ -22,7 +22,7 @@ QString versionText()
 
 } // namespace
 
-CommandLine parse(QCommandLineParser& parser, const QStringList& arguments)
+CommandLine parse(QCommandLineParser& parser, const QStringList& arguments, const Answers& answers)
 {
     // The parser's own help option would bring options of Qt along.
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
@@ -31,15 +31,15 @@ CommandLine parse(QCommandLineParser& parser, const QStringList& arguments)
     if (!parser.parse(arguments))
         return misused(parser.errorText());
     if (parser.isSet(help))
-        return {CommandLine::Answered, parser.helpText()};
+        return {CommandLine::Answered, answers.help.isNull() ? parser.helpText() : answers.help};
     if (parser.isSet(version))
-        return {CommandLine::Answered, versionText()};
+        return {CommandLine::Answered, answers.version.isNull() ? versionText() : answers.version};
     return {};
 }
 
 CommandLine misused(const QString& message)
 {
-    return {CommandLine::Misused, message + QLatin1Char('\n') + tr("Try --help for the options.")};
+    return {CommandLine::Misused, message + QLatin1Char(' ') + tr("Try --help for the options.")};
 }
 
 std::optional<int> exitCodeOf(const CommandLine& line)

@@ -25,8 +25,15 @@ struct CommandLine
     QString message;
 };
 
+/// What a program says of itself. Where a text is null, the parser's own help, and the name and version of the program.
+struct Answers
+{
+    QString help;
+    QString version;
+};
+
 /// Reads the arguments, the program's own name first, with the options that the parser has, --help and --version.
-CommandLine parse(QCommandLineParser& parser, const QStringList& arguments);
+CommandLine parse(QCommandLineParser& parser, const QStringList& arguments, const Answers& answers = {});
 
 /// A line that cannot be understood, for the reason in `message`.
 CommandLine misused(const QString& message);

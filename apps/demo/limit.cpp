@@ -2,14 +2,14 @@
 
 namespace uiutils::demo {
 
-Status Limit::judge(double value) const
+Status::Code Limit::judge(double value) const
 {
     const bool isKept = kind == AtMost ? value <= bound : value >= bound;
     if (!isKept)
-        return StatusFail;
+        return Status::Fail;
     const bool isKeptWell
             = kind == AtMost ? value <= bound * (1 - marginalShare) : value >= bound * (1 + marginalShare);
-    return isKeptWell ? StatusPass : StatusMarginal;
+    return isKeptWell ? Status::Pass : Status::Marginal;
 }
 
 } // namespace uiutils::demo

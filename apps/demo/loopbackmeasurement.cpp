@@ -89,7 +89,7 @@ QString LoopbackMeasurement::rangeText()
 
 int LoopbackMeasurement::status() const
 {
-    return m_state == Finished ? qMax(m_roundTrip.status(), m_throughput.status()) : StatusNone;
+    return m_state == Finished ? qMax(m_roundTrip.status(), m_throughput.status()) : Status::None;
 }
 
 void LoopbackMeasurement::setRoundTripSamples(int samples)

@@ -39,7 +39,7 @@ class LoopbackMeasurement : public QObject
     Q_PROPERTY(QString rangeText READ rangeText CONSTANT)
     Q_PROPERTY(uiutils::demo::SampleModel* roundTrip READ roundTrip CONSTANT)
     Q_PROPERTY(uiutils::demo::SampleModel* throughput READ throughput CONSTANT)
-    /// Worse of the two quantities' statuses; StatusNone until a run has finished.
+    /// Worse of the two quantities' statuses; Status::None until a run has finished.
     Q_PROPERTY(int status READ status NOTIFY statusChanged)
 
 public:

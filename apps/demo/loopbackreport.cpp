@@ -22,8 +22,8 @@ const struct
 {
     QLatin1String name;
     int status;
-} statusFlags[] = {{QLatin1String("pass"), StatusPass}, {QLatin1String("marginal"), StatusMarginal},
-        {QLatin1String("fail"), StatusFail}};
+} statusFlags[] = {{QLatin1String("pass"), Status::Pass}, {QLatin1String("marginal"), Status::Marginal},
+        {QLatin1String("fail"), Status::Fail}};
 
 /// The logo within the page itself; empty when there is none.
 QString logoUri()

@@ -80,11 +80,11 @@ QString SampleModel::text(double value) const
 QString SampleModel::statusText(int status)
 {
     switch (status) {
-    case StatusPass:
+    case Status::Pass:
         return tr("Pass");
-    case StatusMarginal:
+    case Status::Marginal:
         return tr("Marginal");
-    case StatusFail:
+    case Status::Fail:
         return tr("Fail");
     default:
         return {};

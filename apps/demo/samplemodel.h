@@ -13,7 +13,7 @@ namespace uiutils::demo {
 /// stands to the quantity's limit.
 ///
 /// A row's roles are "number" (from 1), "value", "text" (number and unit in the user's locale), "status" (a
-/// Status) and "statusText".
+/// code of Status) and "statusText".
 class SampleModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ class SampleModel : public QAbstractListModel
     Q_PROPERTY(double median READ median NOTIFY samplesChanged)
     Q_PROPERTY(double maximum READ maximum NOTIFY samplesChanged)
     Q_PROPERTY(double jitter READ jitter NOTIFY samplesChanged)
-    /// Status of the median; StatusNone without samples.
+    /// Status of the median; Status::None without samples.
     Q_PROPERTY(int status READ status NOTIFY statusChanged)
     Q_PROPERTY(double limit READ limit WRITE setLimit NOTIFY limitChanged)
     /// The limit in words: "at most 1.00 ms".
@@ -47,7 +47,7 @@ public:
     double median() const { return m_statistics.median; }
     double maximum() const { return m_statistics.maximum; }
     double jitter() const { return m_statistics.jitter; }
-    int status() const { return m_samples.isEmpty() ? StatusNone : m_limit.judge(median()); }
+    int status() const { return m_samples.isEmpty() ? Status::None : m_limit.judge(median()); }
     double limit() const { return m_limit.bound; }
     QString limitText() const;
 

@@ -1,8 +1,8 @@
 #include "savedreportactions.h"
 
 #include "base/paths.h"
+#include "instrument/drives_p.h"
 #include "report/saving/drivefile_p.h"
-#include "report/reportdestinations_p.h"
 #include "report/reportlisting_p.h"
 #include "report/saving/reportrecord_p.h"
 
@@ -73,7 +73,7 @@ QVariantList SavedReportActions::reportsInUnit()
 QVariantList SavedReportActions::reportsOnUsb() const
 {
     // Without a drive the folder is the unit's.
-    return isDriveThere(paths::usb) ? reportFiles(paths::usb) : QVariantList();
+    return instrument::isDriveThere(paths::usb) ? reportFiles(paths::usb) : QVariantList();
 }
 
 void SavedReportActions::remove(const QString& path)
@@ -84,7 +84,7 @@ void SavedReportActions::remove(const QString& path)
 void SavedReportActions::removeNow(const QString& path)
 {
     // What went with its drive is not deleted.
-    const bool isGone = isDriveThere(path) && (QFile::remove(onDisk(path)) || !isThere(path));
+    const bool isGone = instrument::isDriveThere(path) && (QFile::remove(onDisk(path)) || !isThere(path));
     if (isGone)
         forget(path);
     else
@@ -104,9 +104,9 @@ void SavedReportActions::forget(const QString& path)
 
 void SavedReportActions::copyToUsb(const QString& path)
 {
-    const QString target = usbPath(path);
+    const QString target = instrument::usbPath(path);
     // Without a drive the folder is the unit's.
-    if (isDriveThere(target) && isThere(target))
+    if (instrument::isDriveThere(target) && isThere(target))
         m_copying.sendNotificationOverwriteRequest(target, {{fileNameKey, path}});
     else
         copyNow(path);
@@ -114,7 +114,7 @@ void SavedReportActions::copyToUsb(const QString& path)
 
 void SavedReportActions::copyNow(const QString& path)
 {
-    const QString target = usbPath(path);
+    const QString target = instrument::usbPath(path);
     QString error;
     const std::optional<QByteArray> contents = readWholeFile(path, &error);
     if (!contents) {
@@ -122,7 +122,7 @@ void SavedReportActions::copyNow(const QString& path)
         return;
     }
     // Without a drive the room would be the unit's.
-    if (isDriveThere(target) && !m_copying.checkDriveSpaceForFile(contents->size(), target))
+    if (instrument::isDriveThere(target) && !m_copying.checkDriveSpaceForFile(contents->size(), target))
         return;
     if (writeToDrive(target, *contents, true, &error) == NewFile::Written) {
         tellCopied(m_copying.getSanitizedPathName(target));

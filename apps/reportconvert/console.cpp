@@ -1,5 +1,7 @@
 #include "console.h"
 
+#include "common/complaint.h"
+
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
@@ -54,7 +56,7 @@ void sayQtMessage(QtMsgType type, const QMessageLogContext&, const QString& text
 void say(const QString& message)
 {
     clearProgress();
-    print(QStringLiteral("reportconvert: %1\n").arg(printable(message)));
+    apps::complain(printable(message));
 }
 
 void showProgress(const QString& text)

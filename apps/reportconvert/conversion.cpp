@@ -1,9 +1,9 @@
 #include "conversion.h"
 
-#include "console.h"
 #include "base/durablefile.h"
+#include "common/complaint.h"
+#include "console.h"
 #include "document/reporttemplate.h"
-#include "exitstatus.h"
 #include "jsonschema_p.h"
 #include "signals.h"
 #include "streams.h"
@@ -20,6 +20,9 @@
 namespace uiutils::convert {
 
 namespace {
+
+/// With the number of the signal that cut the program short added, as shells have it.
+constexpr int exitSignalled = 128;
 
 QString tr(const char* text)
 {
@@ -75,12 +78,12 @@ int Conversion::run()
     setWarningSubject({});
     clearProgress();
     if (m_signal == 0)
-        return m_hasFailed ? ExitFailed : ExitDone;
+        return m_hasFailed ? apps::exitFailed : apps::exitDone;
     say(tr("Stopped by SIG%1: %2 of %3 files were written.")
                     .arg(QLatin1String(::sigabbrev_np(m_signal)))
                     .arg(m_written)
                     .arg(m_plan.targetCount()));
-    return ExitSignalled + m_signal;
+    return exitSignalled + m_signal;
 }
 
 void Conversion::convertDocument(const Job& job)

@@ -1,7 +1,7 @@
+#include "base/paths.h"
+#include "common/complaint.h"
 #include "console.h"
 #include "conversion.h"
-#include "base/paths.h"
-#include "exitstatus.h"
 #include "options.h"
 #include "plan.h"
 #include "signals.h"
@@ -14,19 +14,22 @@
 #include <QGuiApplication>
 
 using namespace uiutils::convert;
+using uiutils::apps::exitDone;
+using uiutils::apps::exitFailed;
+using uiutils::apps::exitMisused;
 
 namespace {
 
-int complain(const QString& message, ExitStatus status)
+int complain(const QString& message, int exitCode)
 {
     say(message);
-    return status;
+    return exitCode;
 }
 
 int answer(const QString& message)
 {
     QString error;
-    return writeStandardOutput(message.toUtf8(), &error) ? ExitDone : complain(error, ExitFailed);
+    return writeStandardOutput(message.toUtf8(), &error) ? exitDone : complain(error, exitFailed);
 }
 
 /// False when what is missing makes the call fail.
@@ -59,18 +62,12 @@ int convert(const Options& options, const Plan& plan, const QString& scratchFold
 {
     kiv::embedded::EmbeddedBackend backend;
     if (!loadServices(backend, options))
-        return ExitFailed;
+        return exitFailed;
     warnOfMissingIcons(plan);
     const QString problem = options.page.logoFile.isEmpty() ? QString() : logoProblem(options.page.logoFile);
     if (!problem.isEmpty())
-        return complain(problem, ExitMisused);
+        return complain(problem, exitMisused);
     return Conversion(plan, options, scratchFolder).run();
-}
-
-Options readOptionsOf(int argc, char** argv)
-{
-    const QCoreApplication application(argc, argv);
-    return readOptions(QCoreApplication::arguments());
 }
 
 /// Plots need fonts and nothing else of a display: one that is there but does not answer must not matter.
@@ -90,19 +87,19 @@ int main(int argc, char** argv)
     holdSignals();
     installWarningHandler();
 
-    const Options options = readOptionsOf(argc, argv);
+    const Options options = uiutils::apps::readEarly(argc, argv, readOptions);
     if (options.outcome == Options::Misused)
-        return complain(options.message, ExitMisused);
+        return complain(options.message, exitMisused);
     if (options.outcome == Options::Answered)
         return answer(options.message);
     const Plan plan = makePlan(options);
     if (!plan.error.isEmpty())
-        return complain(plan.error, ExitMisused);
+        return complain(plan.error, exitMisused);
 
     Workspace workspace;
     QString error;
     if (!workspace.prepare(&error))
-        return complain(error, ExitFailed);
+        return complain(error, exitFailed);
     forgetDisplay();
     // A document's name after "--" could look like one of the toolkit's own options.
     int nameOnly = 1;

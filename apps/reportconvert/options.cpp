@@ -14,20 +14,9 @@ QString tr(const char* text)
     return QCoreApplication::translate("Options", text);
 }
 
-Options answered(const QString& message)
-{
-    Options options;
-    options.outcome = Options::Answered;
-    options.message = message;
-    return options;
-}
-
 Options misused(const QString& message)
 {
-    Options options;
-    options.outcome = Options::Misused;
-    options.message = message + QLatin1Char(' ') + tr("Try --help for the options.");
-    return options;
+    return apps::ended<Options>(apps::misused(message));
 }
 
 /// The rows of the format table as the help shows them.
@@ -138,8 +127,6 @@ Options readOptions(const QStringList& arguments)
     const auto named = [](const char* shortName, const char* longName, const char* value = nullptr) {
         return QCommandLineOption({QLatin1String(shortName), QLatin1String(longName)}, {}, QLatin1String(value));
     };
-    const QCommandLineOption help = named("h", "help");
-    const QCommandLineOption version = named("v", "version");
     const QCommandLineOption format = named("f", "format", "FORMAT");
     const QCommandLineOption output = named("o", "output", "OUTPUT");
     const QCommandLineOption services = named("s", "services", "FOLDER");
@@ -149,14 +136,12 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption orientation(QStringLiteral("orientation"), {}, QStringLiteral("WAY"));
     const QCommandLineOption unitId(QStringLiteral("unit-id"), {}, QStringLiteral("TEXT"));
     const QCommandLineOption strict(QStringLiteral("strict"));
-    parser.addOptions({help, version, format, output, services, title, logo, noLogo, orientation, unitId, strict});
+    parser.addOptions({format, output, services, title, logo, noLogo, orientation, unitId, strict});
 
-    if (!parser.parse(arguments))
-        return misused(parser.errorText());
-    if (parser.isSet(help))
-        return answered(helpText());
-    if (parser.isSet(version))
-        return answered(QStringLiteral("reportconvert (uiutils) %1\n").arg(QCoreApplication::applicationVersion()));
+    const QString version = QStringLiteral("reportconvert (uiutils) %1\n").arg(QCoreApplication::applicationVersion());
+    const apps::CommandLine line = apps::parse(parser, arguments, {helpText(), version});
+    if (line.outcome != apps::CommandLine::Run)
+        return apps::ended<Options>(line);
 
     Options options;
     options.documents = parser.positionalArguments();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/commandline.h"
 #include "formats.h"
 
 #include <QString>
@@ -12,18 +13,8 @@ namespace uiutils::convert {
 inline const QLatin1String standardStream("-");
 
 /// What the command line asks for.
-struct Options
+struct Options : apps::CommandLine
 {
-    enum Outcome {
-        Run,
-        /// `message` is for standard output, and the program is done.
-        Answered,
-        /// `message` says what is wrong with the command line.
-        Misused,
-    };
-
-    Outcome outcome = Run;
-    QString message;
     QStringList documents;
     /// None twice; empty when the suffix of `output` has to tell.
     QVector<const Format*> formats;

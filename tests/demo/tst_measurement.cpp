@@ -17,6 +17,7 @@
 #include <memory>
 
 using namespace uiutils::demo;
+using uiutils::Status;
 
 /// What a far end does with a connection.
 using Serve = std::function<void(QTcpSocket*)>;
@@ -130,7 +131,7 @@ private Q_SLOTS:
         QVERIFY(m_measurement->roundTrip()->minimum() > 0);
         QVERIFY(m_measurement->throughput()->minimum() > 0);
         QCOMPARE(m_measurement->progress(), 1.0);
-        QVERIFY(m_measurement->status() != StatusNone);
+        QVERIFY(m_measurement->status() != Status::None);
         QVERIFY(m_measurement->serverAddress().startsWith("127.0.0.1:"));
         QVERIFY(QDateTime::fromString(m_measurement->startTime(), Qt::ISODate).isValid());
         QCOMPARE(m_failed->count(), 0);
@@ -242,7 +243,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(m_cancelled->count(), 1, longWait);
         QCOMPARE(m_measurement->state(), LoopbackMeasurement::Cancelled);
         QCOMPARE(m_taken->count(), after);
-        QCOMPARE(m_measurement->status(), int(StatusNone));
+        QCOMPARE(m_measurement->status(), int(Status::None));
         disconnect(connection);
 
         // Samples of the first run that were still on their way must not be counted in the second.

@@ -5,8 +5,10 @@
 #include "statistics.h"
 
 #include <cmath>
+#include <tuple>
 
 using namespace uiutils::demo;
+using uiutils::Status;
 
 class StatisticsTest : public QObject
 {
@@ -41,9 +43,9 @@ private Q_SLOTS:
     void judge()
     {
         // A fifth below the ceiling, just below, on and above it; the same for a floor.
-        const std::tuple<Limit::Kind, double, Status> rows[] {{Limit::AtMost, 80, StatusPass}, {Limit::AtMost, 80.1, StatusMarginal},
-                {Limit::AtMost, 100, StatusMarginal}, {Limit::AtMost, 100.1, StatusFail}, {Limit::AtLeast, 120, StatusPass},
-                {Limit::AtLeast, 119.9, StatusMarginal}, {Limit::AtLeast, 100, StatusMarginal}, {Limit::AtLeast, 99.9, StatusFail}};
+        const std::tuple<Limit::Kind, double, Status::Code> rows[] {{Limit::AtMost, 80, Status::Pass}, {Limit::AtMost, 80.1, Status::Marginal},
+                {Limit::AtMost, 100, Status::Marginal}, {Limit::AtMost, 100.1, Status::Fail}, {Limit::AtLeast, 120, Status::Pass},
+                {Limit::AtLeast, 119.9, Status::Marginal}, {Limit::AtLeast, 100, Status::Marginal}, {Limit::AtLeast, 99.9, Status::Fail}};
         for (const auto& [kind, value, status] : rows)
             QVERIFY2(Limit({kind, 100}).judge(value) == status, qPrintable(QString::number(value)));
     }
@@ -62,19 +64,19 @@ private Q_SLOTS:
     void changedLimitJudgesAnew()
     {
         SampleModel model("Time", "ms", 3, {Limit::AtMost, 1}, nullptr);
-        QCOMPARE(model.status(), int(StatusNone));
+        QCOMPARE(model.status(), int(Status::None));
         model.append(0.5);
         model.append(0.25);
-        QCOMPARE(model.status(), int(StatusPass));
+        QCOMPARE(model.status(), int(Status::Pass));
 
         const QSignalSpy rejudged(&model, &SampleModel::dataChanged);
         const QSignalSpy statusChanged(&model, &SampleModel::statusChanged);
         model.setLimit(0.3);
         QCOMPARE(rejudged.count(), 1);
         QCOMPARE(statusChanged.count(), 1);
-        QCOMPARE(model.data(model.index(0), SampleModel::StatusRole).toInt(), int(StatusFail));
-        QCOMPARE(model.data(model.index(1), SampleModel::StatusRole).toInt(), int(StatusMarginal));
-        QCOMPARE(model.status(), int(StatusFail));
+        QCOMPARE(model.data(model.index(0), SampleModel::StatusRole).toInt(), int(Status::Fail));
+        QCOMPARE(model.data(model.index(1), SampleModel::StatusRole).toInt(), int(Status::Marginal));
+        QCOMPARE(model.status(), int(Status::Fail));
 
         model.setLimit(std::nan(""));
         model.setLimit(-1);
@@ -84,7 +86,7 @@ private Q_SLOTS:
         model.clear();
         QCOMPARE(model.count(), 0);
         QCOMPARE(model.maximum(), 0.0);
-        QCOMPARE(model.status(), int(StatusNone));
+        QCOMPARE(model.status(), int(Status::None));
     }
 };
 

@@ -1,3 +1,4 @@
+#include "core/status.h"
 #include "core/userdata.h"
 #include "document/reporttemplate.h"
 #include "files/fileutils.h"
@@ -162,7 +163,7 @@ const QVector<Face>& faces()
             face<UiDataContainer, QObject>(), face<ReportTemplate, QObject>(), face<PDFFile, QObject>(),
             face<FileUtils, QObject>(), face<Screenshot, QObject>(), face<KivAggregateData, KivData>(),
             face<KivListAggregateData, KivData>(), face<QMLListAggregate, QAbstractListModel>(), face<StringUiData, UiData>(),
-            face<BoolUiData, UiData>(), face<EnumUiData, UiData>(), face<UserData>(), face<KIVClientInterface>(),
+            face<BoolUiData, UiData>(), face<EnumUiData, UiData>(), face<UserData>(), face<uiutils::Status>(), face<uiutils::Alignment>(), face<KIVClientInterface>(),
             face<BaseFormatter>(), face<KIVNotification>(), face<KIVNotificationModelManager>(),
             face<Validator, QRegularExpressionValidator>({operation("validate", validate)}),
             face<UiDataEnums, QObject>(declaredOperations<UiDataEnums>()), face<KivData, QObject>(kivDataOperations()),
@@ -268,7 +269,8 @@ private Q_SLOTS:
     {
         QFETCH(int, index);
         const Face& face = faces().at(index);
-        const char* name = face.type->className();
+        const QString name = QString(face.type->className()).section("::", -1);
+        const QMetaObject* const base = face.type->superClass();
         const std::unique_ptr<QObject> fresh(face.make());
         QStringList expected = table(name);
         QVERIFY(!expected.isEmpty());
@@ -277,7 +279,7 @@ private Q_SLOTS:
                 QVERIFY2(operation.declaredBy == name && operation.place < face.first, qPrintable(operation.name));
         }
         QCOMPARE(expected.takeFirst().section(',', 0, 0),
-                QString("class %1 : %2").arg(name, face.type->superClass()->className()));
+                QString("class %1 : %2").arg(name, base ? base->className() : "nothing"));
         const QStringList actual = face.size + metaLines(*face.type, fresh.get()) + virtualLines(face) + face.constants;
         for (int i = 0; i < qMax(actual.size(), expected.size()); ++i)
             QCOMPARE(actual.value(i), expected.value(i));

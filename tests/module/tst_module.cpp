@@ -18,7 +18,7 @@ class ModuleTest : public QObject
     {
         QFile file(UIUTILS_QML_DIR "/UiUtils/plugins.qmltypes");
         file.open(QIODevice::ReadOnly);
-        const QRegularExpression component("\n    Component \\{\n        name: \"" + name + "\"\n.*?\n    \\}",
+        const QRegularExpression component("\n    Component \\{\n        name: \"(?:uiutils::)?" + name + "\"\n.*?\n    \\}",
                 QRegularExpression::DotMatchesEverythingOption);
         return component.match(QString::fromUtf8(file.readAll())).captured();
     }
@@ -69,6 +69,21 @@ private Q_SLOTS:
             }
         }
         QVERIFY(componentText("QQmlPropertyMap").contains("UiUtils/QMLAggregate 1.0"));
+    }
+
+    void aPageBuildsAReport()
+    {
+        QQmlEngine engine;
+        const auto object = made(engine, R"(ReportTemplate {
+                Component.onCompleted: {
+                    beginReport("page"); setKey("flag", true); addAttribute("unit", 3.5); beginTable("t", "Table")
+                    addRow("a", "First", 1, { "unit": "dB", "align": Alignment.Right, "status": Status.Pass }); endTable(); endReport()
+                }
+            })");
+        const QJsonObject root = qobject_cast<ReportTemplate*>(object.get())->object();
+        QCOMPARE(root.value("flag").toString() + root.value("attr_unit").toString(), QString("true3.5"));
+        QCOMPARE(root.value("table_0").toObject().value("row_1").toObject().value("cell_0").toObject(),
+                QJsonObject({{"attr_align", "2"}, {"attr_status", "16"}, {"attr_unit", "dB"}, {"label", "1"}, {"tag", "a"}, {"title", "First"}}));
     }
 
     /// What QML can hand over in place of a map of texts, and which of two overloads it means.

@@ -76,6 +76,10 @@ Item {
             compare(entry.entry.plainText, row.text)
         }
 
+        function test_qualitiesInWords() {
+            compare([0, 16, 32, 64, 48].map(code => ControlsStyle.qualityWord(code)), ["", "Pass", "Warning", "Fail", ""])
+        }
+
         function test_commits_data() {
             return [{ tag: "Enter", leave: () => keyClick(Qt.Key_Return) }, { tag: "Tab", leave: () => keyClick(Qt.Key_Tab) },
                     { tag: "click elsewhere", leave: pair => mouseClick(fieldOf(pair.second)) }]

@@ -3,6 +3,9 @@
 
 #include <QtTest>
 
+#include "instrument/job_p.h"
+#include "instrument/people_p.h"
+#include "instrument/unit_p.h"
 #include "report/saving/gzip_p.h"
 #include "report/jobreport_p.h"
 #include "report/nsreport.h"
@@ -22,6 +25,8 @@
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
+
+namespace instrument = uiutils::instrument;
 
 namespace {
 
@@ -364,19 +369,30 @@ private Q_SLOTS:
 
     void tellsOfTheJob()
     {
-        QCOMPARE(uiutils::jobSummary(), QString());
+        QCOMPARE(instrument::jobSummary(), QString());
         kiv::embedded::EmbeddedBackend backend;
-        QVERIFY(!uiutils::isJobActive());
+        QVERIFY(!instrument::isJobActive());
         QVERIFY(backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));
         kiv::embedded::EmbeddedService* service = backend.service("basemgr");
-        QVERIFY(uiutils::isJobActive());
-        QCOMPARE(uiutils::jobSummary(), QString("ID: WO-88213, Tech: Ines Halvorsen, BAN: 700 118 245"));
+        QVERIFY(instrument::isJobActive());
+        QCOMPARE(instrument::jobSummary(), QString("ID: WO-88213, Tech: Ines Halvorsen, BAN: 700 118 245"));
         service->setValue(":result:basemgr:jobmanager:jobTechnician:", " ");
         service->setValue(":result:basemgr:jobmanager:jobBAN:", "7\n%1");
-        QCOMPARE(uiutils::jobSummary(), QString("ID: WO-88213, BAN: 7 %1"));
+        QCOMPARE(instrument::jobSummary(), QString("ID: WO-88213, BAN: 7 %1"));
         service->setValue(":result:basemgr:jobmanager:isJobActive:", false);
-        QVERIFY(!uiutils::isJobActive());
-        QCOMPARE(uiutils::jobSummary(), QString());
+        QVERIFY(!instrument::isJobActive());
+        QCOMPARE(instrument::jobSummary(), QString());
+    }
+
+    void tellsWhoAndWhat()
+    {
+        kiv::embedded::EmbeddedBackend backend;
+        QCOMPARE(instrument::technicianName() + instrument::unitId(), QString());
+        QVERIFY(backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));
+        QCOMPARE(instrument::technicianName() + ", " + instrument::unitId(), QString("Ines Halvorsen, WB20417733"));
+        const QStringList fields {"userInfo_lastName"};
+        backend.service("basemgr")->setValue(":config:basemgr:system:techFieldsIncludedInReport:stringARRAY:", fields);
+        QCOMPARE(instrument::technicianName(), QString("Halvorsen"));
     }
 
     void attachesReports()

@@ -66,7 +66,7 @@ apps/demo/instrumentroot.cpp -> base/paths.h
 apps/demo/loopbackreport.cpp -> base/paths.h
 apps/demo/savedreportactions.cpp -> base/paths.h
 apps/demo/savedreportactions.cpp -> lib/ui_utils/report/saving/drivefile_p.h
-apps/demo/savedreportactions.cpp -> lib/ui_utils/report/reportdestinations_p.h
+apps/demo/savedreportactions.cpp -> lib/ui_utils/instrument/drives_p.h
 apps/demo/savedreportactions.cpp -> lib/ui_utils/report/reportlisting_p.h
 apps/demo/savedreportactions.cpp -> lib/ui_utils/report/saving/reportrecord_p.h
 apps/demo/savedreportactions.h -> lib/ui_utils/report/reportlisting_p.h
@@ -78,14 +78,8 @@ apps/demo/usbstick.cpp -> lib/ui_utils/core/itemids.h
 apps/reportconvert/conversion.cpp -> platform/reference/embedded/jsonschema_p.h
 
 # A wrapper asks the manifest that its constructor takes, and the manifest makes wrappers of every kind.
-lib/ui_utils/service/kivdata.cpp -> lib/ui_utils/service/manifest.h
+lib/ui_utils/service/kivdata.cpp -> lib/ui_utils/service/manifest_p.h
 lib/ui_utils/service/kivdatavalue.cpp -> lib/ui_utils/service/manifest.h
-
-# What the unit says and what a status is called have no room of their own yet.
-lib/ui_utils/service/instrumentinfo.cpp -> lib/ui_utils/document/reportmetadata.h
-lib/ui_utils/writers/pages/statusicons.cpp -> lib/ui_utils/writers/html/htmlstreamwriter.h
-lib/ui_utils/writers/text/reportcontent.cpp -> lib/ui_utils/writers/html/htmlstreamwriter.h
-lib/ui_utils/writers/text/texttable.cpp -> lib/ui_utils/writers/html/htmlstreamwriter.h
 """
 
 Room = collections.namedtuple("Room", "name allowed")

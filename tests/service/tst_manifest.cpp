@@ -100,7 +100,7 @@ private Q_SLOTS:
 
     void aBatchOfChanges()
     {
-        for (const char* name : {"plain", "mode_2", "mode_12", "a_1", "ab_1", "x3", "untouched"})
+        for (const char* name : {"plain", "mode_2", "mode_12", "a_1", "ab_1", "ab_x", "x3", "untouched"})
             m_client->add(QString(":config:rec:test:%1:").arg(name), 0);
         m_client->add(QString::fromUtf8(":config:rec:test:n_\u0663:"), 0);
         m_client->list.append(":result:rec:test:manifest:");
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QVERIFY(!call.wantsReply);
         QVERIFY(call.argument.toString().startsWith("{\n    \""));
         QCOMPARE(sentChanges(*m_client).keys(),
-                (QStringList {"a_1", "ab:1", "mode:2", "mode_12", QString::fromUtf8("n_\u0663"), "plain", "x3"}));
+                (QStringList {"a_1", "ab:1", "ab_x", "mode:2", "mode_12", QString::fromUtf8("n_\u0663"), "plain", "x3"}));
         QCOMPARE(sentChanges(*m_client).value("plain").toString(), beyondAscii);
     }
 

@@ -185,8 +185,8 @@ private Q_SLOTS:
             html.startBody({});
             html.writeCell("before any table");
             html.startTable("T", {"A", "B"}, true, 0);
-            html.writeHeaderCell("label", HtmlStreamWriter::AlignRight);
-            html.writeCell("a", HtmlStreamWriter::StatusFail, HtmlStreamWriter::AlignLeft);
+            html.writeHeaderCell("label", uiutils::Alignment::Right);
+            html.writeCell("a", uiutils::Status::Fail, uiutils::Alignment::Left);
             html.writeCell("b");
             html.writeCell("surplus");
             html.endRow();
@@ -316,11 +316,11 @@ private Q_SLOTS:
         HtmlStreamWriter html(0, nullptr);
         html.startBody({});
         html.startTable("T", {"A"}, false, 0);
-        html.writeCell("1", HtmlStreamWriter::StatusFail);
+        html.writeCell("1", uiutils::Status::Fail);
         html.endRow();
         QVERIFY(QFile::remove(iconFile("fail")));
         html.startRow();
-        html.writeCell("2", HtmlStreamWriter::StatusFail);
+        html.writeCell("2", uiutils::Status::Fail);
         html.endTable();
         QCOMPARE(html.output().count("base64," + QByteArray("fail").toBase64() + "\""), 2);
     }

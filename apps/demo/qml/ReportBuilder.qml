@@ -10,8 +10,6 @@ QtObject {
     property ReportTemplate report
     property string title
 
-    readonly property int alignRight: 2
-
     function build() {
         report.beginReport("loopback_report")
         report.setKey("title", title)
@@ -47,7 +45,7 @@ QtObject {
         addValueRow(tag + "_minimum", qsTr("%1, minimum").arg(quantity.title), quantity, quantity.minimum)
         addValueRow(tag + "_maximum", qsTr("%1, maximum").arg(quantity.title), quantity, quantity.maximum)
         report.addRow(tag + "_jitter", qsTr("%1, jitter").arg(quantity.title), quantity.text(quantity.jitter),
-                      { align: alignRight, unit: quantity.unit })
+                      { align: Alignment.Right, unit: quantity.unit })
         addPlainRow(tag + "_limit", qsTr("%1, limit").arg(quantity.title), quantity.limitText)
     }
 
@@ -72,12 +70,12 @@ QtObject {
     }
 
     function addPlainRow(tag, label, text) {
-        report.addRow(tag, label, text, { align: alignRight })
+        report.addRow(tag, label, text, { align: Alignment.Right })
     }
 
     function addValueRow(tag, label, quantity, value) {
         report.addRow(tag, label, quantity.text(value),
-                      { status: quantity.statusOf(value), align: alignRight, unit: quantity.unit })
+                      { status: quantity.statusOf(value), align: Alignment.Right, unit: quantity.unit })
     }
 
     // Pages show rows in the order of the texts of their keys, which puts row_10 before row_2. A row's number counts

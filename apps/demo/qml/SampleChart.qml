@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import UiUtils 1.0
 import UiUtils.Demo 1.0
 
 // The samples as bars from left to right, in a room for all that are to come, with a line at the median.
@@ -60,7 +61,7 @@ Item {
 
                 // Tells a failed sample from a marginal one without its colour.
                 Rectangle {
-                    visible: model.status === 64
+                    visible: model.status === Status.Fail
                     width: parent.width
                     height: Math.min(5, parent.height)
                     color: Theme.text

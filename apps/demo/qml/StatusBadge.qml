@@ -1,15 +1,16 @@
 import QtQuick 2.15
+import UiUtils 1.0
 import UiUtils.Demo 1.0
 
 // Icon and word of a status; nothing for no status.
 Row {
     id: badge
 
-    property int status: 0
+    property int status: Status.None
     property string word
     property int pixelSize: Theme.bodyText
 
-    visible: status !== 0
+    visible: status !== Status.None
     spacing: 6
 
     Image {

@@ -1,5 +1,6 @@
 pragma Singleton
 import QtQuick 2.15
+import UiUtils 1.0
 
 CommonTheme {
     readonly property color selected: "#d3e5ef"
@@ -11,13 +12,13 @@ CommonTheme {
 
     // What has no status, or passes, needs no alarm.
     function statusColor(status) {
-        if (status === 64)
+        if (status === Status.Fail)
             return fail
-        return status === 32 ? marginal : primary
+        return status === Status.Marginal ? marginal : primary
     }
 
     function statusIcon(status) {
-        const names = { 16: "pass", 32: "marginal", 64: "fail" }
+        const names = { [Status.Pass]: "pass", [Status.Marginal]: "marginal", [Status.Fail]: "fail" }
         return names[status] ? "qrc:/uiutils/images/" + names[status] + "_icon.png" : ""
     }
 }

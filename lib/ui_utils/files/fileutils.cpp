@@ -2,6 +2,7 @@
 
 #include "base/paths.h"
 #include "files/drivespace_p.h"
+#include "instrument/drives_p.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
 
@@ -42,19 +43,10 @@ const QLatin1String uidKey("uid");
 const QLatin1String fileNameKey("Filename");
 const QLatin1String iconFileKey("IconFile");
 
-/// The path without the mark of a clipboard in front.
-QString withoutMark(const QString& path)
-{
-    for (const QLatin1String mark : {QLatin1String("copy:"), QLatin1String("cut:")}) {
-        if (path.startsWith(mark))
-            return path.mid(mark.size());
-    }
-    return path;
-}
-
 QString kindOf(const QString& path)
 {
-    return QFileInfo(onDisk(withoutMark(path))).isDir() ? FileUtils::tr("Directory") : FileUtils::tr("File");
+    return QFileInfo(onDisk(uiutils::instrument::withoutClipboardMark(path))).isDir() ? FileUtils::tr("Directory")
+                                                                                      : FileUtils::tr("File");
 }
 
 /// `first`, with those of `others` that it has not, and in place of those that it has.
@@ -110,14 +102,7 @@ void FileUtils::onNotificationRejected(KIVNotification* notification)
 
 QString FileUtils::getSanitizedPathName(QString path)
 {
-    const QLatin1String internal("/cust/public");
-    const QLatin1String stick("/mnt/usb");
-    path = withoutMark(path);
-    if (path.startsWith(internal))
-        return path.replace(0, internal.size(), tr("Internal:"));
-    if (path.startsWith(stick))
-        return path.replace(0, stick.size(), tr("USB:"));
-    return path;
+    return uiutils::instrument::shownPath(path);
 }
 
 bool FileUtils::checkDriveSpaceForFile(qint64 src_file_size, QString dest_path)

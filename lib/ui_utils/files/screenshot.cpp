@@ -1,7 +1,7 @@
 #include "files/screenshot.h"
 
 #include "base/paths.h"
-#include "service/instrumentinfo_p.h"
+#include "instrument/job_p.h"
 
 namespace paths = uiutils::paths;
 
@@ -41,7 +41,9 @@ void Screenshot::updateMetadataInformation()
     d->metadata.setType(QStringLiteral("TESTDATA.screenshot"));
     d->metadata.setMetadataPath(paths::screenshotMetadata);
     d->metadata.setOriginBase(paths::screenshots);
-    uiutils::instrument::addWorkOrder(&d->metadata);
+    const QMap<QString, QString> order = uiutils::instrument::workOrder();
+    for (auto it = order.cbegin(); it != order.cend(); ++it)
+        d->metadata.setInfo(it.key(), it.value());
 }
 
 bool Screenshot::saveMetadata()

@@ -2,6 +2,7 @@
 
 #include "core/indexrange_p.h"
 #include "core/plainvalue_p.h"
+#include "core/status.h"
 #include "local/uidatacontainer_p.h"
 
 #include <QDebug>
@@ -300,22 +301,22 @@ void UiDataPrivate::setQuality(int code)
 
 void UiData::setQualityNone()
 {
-    d->setQuality(KIVClientItem::QualityNone);
+    d->setQuality(uiutils::Status::None);
 }
 
 void UiData::setPassing()
 {
-    d->setQuality(KIVClientItem::QualityPassing);
+    d->setQuality(uiutils::Status::Pass);
 }
 
 void UiData::setWarning()
 {
-    d->setQuality(KIVClientItem::QualityWarning);
+    d->setQuality(uiutils::Status::Marginal);
 }
 
 void UiData::setFailing()
 {
-    d->setQuality(KIVClientItem::QualityFailing);
+    d->setQuality(uiutils::Status::Fail);
 }
 
 QVariant UiData::getProperty(QString const& prop) const

@@ -155,7 +155,7 @@ public Q_SLOTS:
 
 public:
     Q_INVOKABLE QObject* getObjectParent() const;
-    /// Sets the quality code to 0, 16, 32 or 64.
+    /// Sets the quality code to one of uiutils::Status.
     Q_INVOKABLE void setQualityNone();
     Q_INVOKABLE void setPassing();
     Q_INVOKABLE void setWarning();

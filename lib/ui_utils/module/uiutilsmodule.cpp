@@ -1,5 +1,6 @@
 #include "module/uiutilsmodule.h"
 
+#include "core/status.h"
 #include "core/userdata.h"
 #include "document/reporttemplate.h"
 #include "files/fileutils.h"
@@ -58,6 +59,12 @@ void registerServiceTypes(const char* uri)
     qmlRegisterAnonymousType<QValidator>(uri, 1);
 }
 
+template<typename Names> void registerCodes(const char* uri, const char* name)
+{
+    qmlRegisterUncreatableMetaObject(Names::staticMetaObject, uri, 1, 0, name,
+            QStringLiteral("%1 has names for codes.").arg(QLatin1String(name)));
+}
+
 QObject* sharedContainer(QQmlEngine*, QJSEngine*)
 {
     QQmlEngine::setObjectOwnership(UiDataContainer::shared(), QQmlEngine::CppOwnership);
@@ -112,6 +119,8 @@ void registerFileTypes(const char* uri)
 
 void registerTypes(const char* uri)
 {
+    registerCodes<Status>(uri, "Status");
+    registerCodes<Alignment>(uri, "Alignment");
     qmlRegisterType<ReportTemplate>(uri, 1, 0, "ReportTemplate");
     qmlRegisterType<PDFFile>(uri, 1, 0, "PDFFile");
     registerServiceTypes(uri);

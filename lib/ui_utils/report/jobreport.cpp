@@ -2,14 +2,12 @@
 
 #include "base/paths.h"
 #include "core/itemids.h"
-#include "report/reportdestinations_p.h"
+#include "instrument/job_p.h"
 
 #include <kiv/kivclientinterface.h>
-#include <kiv/kivclientitem.h>
 #include <kiv/schemavalidator.h>
 
 #include <QCoreApplication>
-#include <QStringList>
 
 namespace uiutils {
 
@@ -40,7 +38,7 @@ QString schemaProblem(const QByteArray& xml, const QString& schemaPath)
 QString refusal(const QByteArray& xml)
 {
     KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
-    if (!client || !isJobActive())
+    if (!client || !instrument::isJobActive())
         return translated(QT_TRANSLATE_NOOP("Report", "There is no active job"));
     if (client->sendAction(itemids::attachReport, QString::fromUtf8(xml), nullptr, KIVClientInterface::callTimeout))
         return QString();
@@ -49,42 +47,11 @@ QString refusal(const QByteArray& xml)
 
 } // namespace
 
-bool isJobActive()
-{
-    return baseManagerValue(itemids::jobActive).toBool();
-}
-
-bool hasJobId()
-{
-    return !baseManagerValue(itemids::jobId).toString().trimmed().isEmpty();
-}
-
-QString jobSummary()
-{
-    static const struct
-    {
-        QLatin1String id;
-        const char* prefix;
-    } rows[] = {
-            {itemids::jobId, QT_TRANSLATE_NOOP("Report", "ID: ")},
-            {itemids::jobTechnician, QT_TRANSLATE_NOOP("Report", "Tech: ")},
-            {itemids::jobBan, QT_TRANSLATE_NOOP("Report", "BAN: ")},
-    };
-    QStringList parts;
-    for (const auto& row : rows) {
-        const KIVClientItem* item = isJobActive() ? baseManagerItem(row.id) : nullptr;
-        const QString text = item ? item->getValueString().simplified() : QString();
-        if (!text.isEmpty())
-            parts += translated(row.prefix) + text;
-    }
-    return parts.join(QLatin1String(", "));
-}
-
 bool attachToJob(const QByteArray& xml, const QString& schemaPath, QString* reason)
 {
     QString problem;
     // Without a job nobody need hear what is wrong with the report.
-    if (isJobActive())
+    if (instrument::isJobActive())
         problem = schemaProblem(xml, schemaPath);
     if (problem.isEmpty())
         problem = refusal(xml);

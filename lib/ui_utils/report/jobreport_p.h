@@ -3,15 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-/// The job that the base manager says the user is on.
 namespace uiutils {
-
-bool isJobActive();
-/// Whether the job has an ID, without which nobody knows which one it is.
-bool hasJobId();
-
-/// The active job on one line, "ID: WO-1, Tech: Ana, BAN: 7", without what is not known. Empty without an active job.
-QString jobSummary();
 
 /// Hands an XML report in UTF-8 to the active job. It is checked first against the schema at the instrument path
 /// `schemaPath`, where that is not empty. Waits for the base manager for at most KIVClientInterface::callTimeout.

@@ -3,7 +3,8 @@
 #include "base/durablefile.h"
 #include "base/paths.h"
 #include "core/itemids.h"
-#include "report/jobreport_p.h"
+#include "instrument/drives_p.h"
+#include "instrument/job_p.h"
 #include "report/report_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
@@ -146,7 +147,7 @@ void Report::setFolder(const QString& folder)
 bool Report::getCanWriteToJobManager() const
 {
     const bool templateAllows = d->document.getAttr(QStringLiteral("canWriteToJobManager")).toBool();
-    return d->canWriteToJobManager.value_or(templateAllows) && uiutils::isJobActive();
+    return d->canWriteToJobManager.value_or(templateAllows) && uiutils::instrument::isJobActive();
 }
 
 void Report::setCanWriteToJobManager(bool allowed)
@@ -169,7 +170,7 @@ void Report::setCanWriteToFile(bool allowed)
 /// Of the next save: one that runs goes on to where it began, but nobody hears of it when it is over.
 QString Report::getSaveLocation()
 {
-    return d->saving->dialogs.shown(uiutils::ReportDestinations::current().folder(getReportFilePath()));
+    return uiutils::instrument::shownPath(uiutils::ReportDestinations::current().folder(getReportFilePath()));
 }
 
 QVariantList Report::getReportFiles()
@@ -261,7 +262,7 @@ void Report::setShowSoftwareRevs(bool show)
 
 QString Report::getJobSummary() const
 {
-    return uiutils::jobSummary();
+    return uiutils::instrument::jobSummary();
 }
 
 QString Report::getJobSchema() const

@@ -1,6 +1,8 @@
 // The part of Report that acts: makes contents, writes, saves and hands on.
 
 #include "base/paths.h"
+#include "instrument/drives_p.h"
+#include "instrument/job_p.h"
 #include "report/jobreport_p.h"
 #include "report/report.h"
 #include "report/report_p.h"
@@ -8,7 +10,6 @@
 #include "report/saving/nosynclist_p.h"
 #include "report/saving/reportrecord_p.h"
 #include "report/saving/saveplan_p.h"
-#include "service/instrumentinfo_p.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 #include "writers/html/templatetohtmlwriter.h"
 #include "writers/html/templatetopdfwriter.h"
@@ -214,7 +215,7 @@ bool Report::checkForOverwrite(const QString& name, const QString& suffix, bool 
     } else {
         plan.files += uiutils::plannedFile(getSaveFilePath(name, suffix), nullptr, isCopied);
     }
-    return saving->mayWrite(plan.paths(uiutils::isDriveThere(uiutils::paths::usb)), overwrite);
+    return saving->mayWrite(plan.paths(uiutils::instrument::isDriveThere(uiutils::paths::usb)), overwrite);
 }
 
 void Report::overwriteAccepted(KIVNotification* notification)
@@ -304,10 +305,10 @@ void Report::writeMetadata(const QString& path, const QString& format)
 {
     uiutils::describeReport(&d->metadata, path, format, QDateTime::currentDateTime());
     addWorkOrderMetaDataInfo();
-    if (uiutils::isJobActive() && ensureValidJobData())
+    if (uiutils::instrument::isJobActive() && ensureValidJobData())
         updateJobTestMetadata();
     // Where a stick was, it would be the unit's.
-    if (uiutils::isDriveThere(path))
+    if (uiutils::instrument::isDriveThere(path))
         d->metadata.saveMetadataToFile();
     else
         qWarning("The record of %s was not written, because the drive is not there", qUtf8Printable(path));
@@ -320,12 +321,14 @@ ReportMetadata& Report::metadata()
 
 void Report::addWorkOrderMetaDataInfo()
 {
-    uiutils::instrument::addWorkOrder(&d->metadata);
+    const QMap<QString, QString> order = uiutils::instrument::workOrder();
+    for (auto it = order.cbegin(); it != order.cend(); ++it)
+        d->metadata.setInfo(it.key(), it.value());
 }
 
 bool Report::ensureValidJobData()
 {
-    return uiutils::hasJobId();
+    return uiutils::instrument::hasJobId();
 }
 
 void Report::updateJobTestMetadata()
@@ -342,7 +345,7 @@ bool Report::writeToJobManager()
     const auto saving = d->saving;
     const QPointer<Report> self(this);
     bool isAttached = false;
-    if (uiutils::isJobActive() && !ensureValidJobData())
+    if (uiutils::instrument::isJobActive() && !ensureValidJobData())
         reason = tr("The data of the job is not complete: it has no ID");
     else
         isAttached = uiutils::attachToJob(generateJobManagerReport().toUtf8(), d->jobSchema, &reason);

@@ -4,8 +4,9 @@
 #include "base/paths.h"
 #include "core/itemids.h"
 #include "report/report.h"
+#include "instrument/basemanager_p.h"
+#include "instrument/drives_p.h"
 #include "report/report_p.h"
-#include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
 #include "report/reportlisting_p.h"
 #include "report/reportnaming_p.h"
@@ -167,7 +168,7 @@ QString Report::getSaveFilePath(const QString& name, const QString& suffix)
 {
     const QString folder = d->saving->destinations().folder(getReportFilePath());
     // Where a stick was, it would be the unit's.
-    if (uiutils::isDriveThere(folder))
+    if (uiutils::instrument::isDriveThere(folder))
         uiutils::makeFolderDurably(onDisk(folder));
     return uiutils::reportPath(folder, name, suffix);
 }
@@ -209,8 +210,8 @@ QString Report::getCdmTestLabel()
 
 void Report::setCdmTestTypeAndLabel()
 {
-    const QString type = uiutils::baseManagerValue(uiutils::itemids::cdmTestType).toString();
-    const QString label = uiutils::baseManagerValue(uiutils::itemids::cdmTestLabel).toString();
+    const QString type = uiutils::instrument::baseManagerText(uiutils::itemids::cdmTestType);
+    const QString label = uiutils::instrument::baseManagerText(uiutils::itemids::cdmTestLabel);
     d->cdmTestType = type.isEmpty() ? QStringLiteral("none") : type;
     d->cdmTestLabel = label.isEmpty() ? QStringLiteral("None") : label;
 }

@@ -2,17 +2,9 @@
 
 #include <QString>
 #include <QStringList>
-#include <QVariant>
-
-class KIVClientItem;
 
 /// Where reports go, as the base manager's settings and the drives say.
 namespace uiutils {
-
-/// The item of the base manager, or null; belongs to the back end.
-KIVClientItem* baseManagerItem(const QString& id);
-/// The item's value; invalid without it.
-QVariant baseManagerValue(const QString& id);
 
 /// What the setting says. Numbers are the service's.
 enum SaveLocation { SaveInternally = 0, SaveOnUsb = 1, SaveOnBoth = 2 };
@@ -32,18 +24,9 @@ struct ReportDestinations
     bool copiesToUsb() const { return location == SaveOnBoth && isUsbAnnounced; }
 
     int location = SaveInternally;
-    /// Whether the service item says that a stick is attached. Whether it is there, the mounts say: isDriveThere().
+    /// Whether the service item says that a stick is attached. Whether it is there, the mounts say:
+    /// instrument::isDriveThere().
     bool isUsbAnnounced = false;
 };
-
-/// Whether the path lies on a stick.
-bool isOnUsb(const QString& path);
-
-/// Where the copy of a saved report lies on the stick.
-QString usbPath(const QString& path);
-
-/// Whether the drive of an instrument path is there to be written to, now. Without a stick the folder of its mount
-/// point is the unit's, and nobody would find there what was to go with the stick.
-bool isDriveThere(const QString& path);
 
 } // namespace uiutils

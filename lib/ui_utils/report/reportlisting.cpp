@@ -1,7 +1,7 @@
 #include "report/reportlisting_p.h"
 
 #include "base/paths.h"
-#include "report/reportdestinations_p.h"
+#include "instrument/drives_p.h"
 #include "report/reportformats_p.h"
 
 #include <QDateTime>
@@ -110,10 +110,10 @@ QVariantList ReportListing::files(const QString& folder)
     // Files and folders take their times from this clock, so what changes from here on has this one or a later one.
     timespec now = {};
     ::clock_gettime(CLOCK_REALTIME_COARSE, &now);
-    const std::optional<FolderState> state = isOnUsb(folder) ? std::nullopt : stateOf(folder);
+    const std::optional<FolderState> state = instrument::isOnUsb(folder) ? std::nullopt : stateOf(folder);
     if (state && m_state && *m_state == *state && m_folder == folder)
         return m_files;
-    m_files = isDriveThere(folder) ? reportFiles(folder) : QVariantList();
+    m_files = instrument::isDriveThere(folder) ? reportFiles(folder) : QVariantList();
     m_folder = folder;
     m_state = state && isSettled(*state, now) && areSettled(m_files, now) ? state : std::nullopt;
     return m_files;

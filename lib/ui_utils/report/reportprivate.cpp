@@ -2,7 +2,7 @@
 
 #include "base/paths.h"
 #include "core/itemids.h"
-#include "report/jobreport_p.h"
+#include "instrument/basemanager_p.h"
 #include "report/reporthooks_p.h"
 #include "report/reportnaming_p.h"
 
@@ -70,11 +70,11 @@ void ReportPrivate::watchItems()
     const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
     const QStringList jobItems = client ? client->getItemIds(itemids::jobManager) : QStringList();
     for (const QString& id : jobItems) {
-        if (const KIVClientItem* item = baseManagerItem(id))
+        if (const KIVClientItem* item = instrument::baseManagerItem(id))
             QObject::connect(item, &KIVClientItem::valueChanged, q, &Report::slotValueChanged, Qt::UniqueConnection);
     }
     for (const QLatin1String& id : {itemids::saveLocation, itemids::usbAttached}) {
-        const KIVClientItem* item = baseManagerItem(id);
+        const KIVClientItem* item = instrument::baseManagerItem(id);
         if (!item)
             continue;
         QObject::connect(item, &KIVClientItem::valueChanged, q, &Report::reportFilesChanged, Qt::UniqueConnection);

@@ -2,6 +2,7 @@
 
 #include "core/itemids.h"
 #include "core/plainvalue_p.h"
+#include "core/status.h"
 #include "service/announcement_p.h"
 #include "service/applicability_p.h"
 #include "service/enumnames_p.h"
@@ -320,6 +321,12 @@ bool KivData::isReady() const
 {
     return d->item && d->item->isReady();
 }
+
+// Platforms are replaced as a whole, and pages and reports read their codes by our names.
+static_assert(int(KIVClientItem::QualityNone) == uiutils::Status::None
+        && int(KIVClientItem::QualityPassing) == uiutils::Status::Pass
+        && int(KIVClientItem::QualityWarning) == uiutils::Status::Marginal
+        && int(KIVClientItem::QualityFailing) == uiutils::Status::Fail);
 
 int KivData::getQualityCode() const
 {

@@ -61,7 +61,7 @@ class UIUTILS_EXPORT KivData : public QObject
     Q_PROPERTY(QVariant value READ getValue WRITE setValue NOTIFY valueChanged)
     /// Whether the service can give or take the value now.
     Q_PROPERTY(bool isReady READ isReady NOTIFY isReadyChanged)
-    /// 0 none, 16 passing, 32 warning, 64 failing.
+    /// A code of uiutils::Status.
     Q_PROPERTY(int qualityCode READ getQualityCode NOTIFY qualityCodeChanged)
     /// Why the last write was refused, in words for the user; empty before the first.
     Q_PROPERTY(QString error READ getError NOTIFY errorChanged)

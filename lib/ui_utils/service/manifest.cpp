@@ -1,5 +1,6 @@
 #include "service/manifest_p.h"
 
+#include "base/batchname_p.h"
 #include "core/itemids.h"
 #include "service/kivaggregatedata.h"
 #include "service/kivcontextobject_p.h"
@@ -47,16 +48,6 @@ bool isPending(const KivData* wrapper)
 bool canTravel(const KivData* wrapper)
 {
     return isPending(wrapper) && KivDataPrivate::of(wrapper)->item;
-}
-
-/// The name under which the service expects a setting in a batch: the index of an indexed one ("level_3") stands behind
-/// a colon. Names of up to three characters stay as they are.
-QString batchName(QString name)
-{
-    const int last = name.size() - 1;
-    if (last > 2 && name.at(last).isDigit() && name.at(last - 1) == QLatin1Char('_'))
-        name[last - 1] = QLatin1Char(':');
-    return name;
 }
 
 } // namespace
@@ -205,7 +196,7 @@ void Manifest::applyChanges()
         const QVector<QPointer<KivData>> wrappers = wrappersOf(id, m_items.value(id));
         const auto sender = std::find_if(wrappers.cbegin(), wrappers.cend(), canTravel);
         if (sender != wrappers.cend())
-            senders.insert(batchName((*sender)->getName()), *sender);
+            senders.insert(uiutils::toBatchName((*sender)->getName()), *sender);
     }
     QVariantMap changes;
     QVector<QPointer<KivData>> outdone;

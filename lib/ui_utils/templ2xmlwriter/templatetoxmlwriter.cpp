@@ -5,7 +5,8 @@
 #include "base/xmltext_p.h"
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
-#include "service/instrumentinfo_p.h"
+#include "instrument/people_p.h"
+#include "instrument/unit_p.h"
 
 #include <QDebug>
 #include <QScopedValueRollback>

@@ -2,6 +2,8 @@
 
 #include "pendingwrites_p.h"
 
+#include "base/batchname_p.h"
+
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -39,7 +41,7 @@ public:
 
     Setting find(const QString& name)
     {
-        const QString spelt = withUnderscore(name);
+        const QString spelt = uiutils::fromBatchName(name);
         for (int i = 0; i < m_order.size(); ++i) {
             const ItemStore::StatePtr exact = index(i).value(name);
             const ItemStore::StatePtr state = exact ? exact : index(i).value(spelt);
@@ -51,15 +53,6 @@ public:
 
 private:
     using Index = QHash<QString, ItemStore::StatePtr>;
-
-    /// "level:3" stands for level_3: the underscore before one last digit travels as a colon.
-    static QString withUnderscore(QString name)
-    {
-        const int colon = name.size() - 2;
-        if (colon >= 0 && name.at(colon) == QLatin1Char(':') && name.at(colon + 1).isDigit())
-            name[colon] = QLatin1Char('_');
-        return name;
-    }
 
     const Index& index(int service)
     {

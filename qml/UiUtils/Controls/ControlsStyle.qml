@@ -1,5 +1,6 @@
 pragma Singleton
 import QtQuick 2.15
+import UiUtils 1.0
 
 // Colours and sizes of all entries. Lengths are pixels of the instrument's 1024 x 600 screen. An application with a look of
 // its own writes them before its first page.
@@ -38,12 +39,12 @@ QtObject {
     property bool padOnTap: true
 
     function qualityColor(quality) {
-        const colors = { 16: pass, 32: warning, 64: fail }
+        const colors = { [Status.Pass]: pass, [Status.Marginal]: warning, [Status.Fail]: fail }
         return colors[quality] || "transparent"
     }
 
     function qualityWord(quality) {
-        const words = { 16: qsTr("Pass"), 32: qsTr("Warning"), 64: qsTr("Fail") }
+        const words = { [Status.Pass]: qsTr("Pass"), [Status.Marginal]: qsTr("Warning"), [Status.Fail]: qsTr("Fail") }
         return words[quality] || ""
     }
 }

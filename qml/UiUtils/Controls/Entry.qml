@@ -107,7 +107,7 @@ FocusScope {
 
         RowLayout {
             width: parent.width
-            visible: !entry.compact && (entry.label !== "" || face.quality !== 0)
+            visible: !entry.compact && (entry.label !== "" || face.quality !== Status.None)
             spacing: 4
 
             Text {
@@ -152,8 +152,8 @@ FocusScope {
             verticalAlignment: Text.AlignVCenter
             wrapMode: Text.Wrap
             color: !entry.isReady ? ControlsStyle.mutedText
-                 : face.quality !== 0 ? ControlsStyle.qualityColor(face.quality) : ControlsStyle.text
-            font { pixelSize: ControlsStyle.headingText; bold: face.quality !== 0 }
+                 : face.quality !== Status.None ? ControlsStyle.qualityColor(face.quality) : ControlsStyle.text
+            font { pixelSize: ControlsStyle.headingText; bold: face.quality !== Status.None }
             Accessible.role: Accessible.StaticText
             Accessible.name: entry.label + " " + text
         }

@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import UiUtils 1.0
 import UiUtils.Controls 1.0
 
 // The box around an editor: who has the focus, what is wrong, and how the service judges the value.
@@ -20,7 +21,7 @@ Rectangle {
         anchors { left: parent.left; top: parent.top; bottom: parent.bottom; margins: 6 }
         width: 4
         radius: 2
-        visible: frame.quality !== 0
+        visible: frame.quality !== Status.None
         color: ControlsStyle.qualityColor(frame.quality)
     }
 }

@@ -2,7 +2,7 @@
 
 #include "base/durablefile.h"
 #include "base/paths.h"
-#include "report/reportdestinations_p.h"
+#include "instrument/drives_p.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -34,13 +34,13 @@ std::optional<QByteArray> readWholeFile(const QString& path, QString* error)
 /// it must be there, and afterwards it must be there still.
 NewFile writeToDrive(const QString& path, const QByteArray& contents, bool mayReplace, QString* error)
 {
-    const bool wasThere = isDriveThere(path);
+    const bool wasThere = instrument::isDriveThere(path);
     NewFile file = NewFile::Failed;
     if (wasThere && mayReplace)
         file = writeFileDurably(onDisk(path), contents, error) ? NewFile::Written : NewFile::Failed;
     else if (wasThere)
         file = writeNewFileDurably(onDisk(path), contents, error);
-    if (wasThere && (file != NewFile::Written || isDriveThere(path)))
+    if (wasThere && (file != NewFile::Written || instrument::isDriveThere(path)))
         return file;
     *error = driveIsGone(path);
     return NewFile::Failed;

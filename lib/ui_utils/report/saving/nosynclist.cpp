@@ -4,6 +4,7 @@
 #include "base/folderlock_p.h"
 #include "base/paths.h"
 #include "core/itemids.h"
+#include "instrument/basemanager_p.h"
 #include "report/reportformats_p.h"
 
 #include <kiv/kivclientinterface.h>
@@ -112,8 +113,7 @@ Lines withoutDuplicates(const Lines& lines)
 /// Whoever has made the list what it is may have been killed before the base manager heard of it.
 bool isTold(const Lines& lines)
 {
-    const KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
-    const KIVClientItem* item = client ? client->getItem(itemids::noSyncList) : nullptr;
+    const KIVClientItem* item = instrument::baseManagerItem(itemids::noSyncList);
     return !item || item->getValue().toStringList() == textsOf(lines);
 }
 

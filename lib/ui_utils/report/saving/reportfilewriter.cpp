@@ -3,7 +3,7 @@
 #include "base/paths.h"
 #include "base/temporaries_p.h"
 #include "base/temporaryfolder_p.h"
-#include "report/reportdestinations_p.h"
+#include "instrument/drives_p.h"
 #include "report/reportformats_p.h"
 #include "report/saving/drivefile_p.h"
 #include "report/saving/gzip_p.h"
@@ -86,7 +86,7 @@ WrittenFile writeAsItIs(const QString& path, const QByteArray& contents, bool ma
 WrittenFile writeReportFile(const QString& path, const QByteArray& contents, bool compressed, bool mayReplace)
 {
     // What no path may hold is refused there, in words that can be shown.
-    if (!compressed || path.contains(QChar(QChar::Null)) || !isDriveThere(path))
+    if (!compressed || path.contains(QChar(QChar::Null)) || !instrument::isDriveThere(path))
         return writeAsItIs(path, contents, mayReplace);
     QString error;
     const QByteArray bytes = compressedForm(path, contents, &error);

@@ -3,7 +3,7 @@
 #include "base/paths.h"
 #include "core/itemids.h"
 #include "document/reportmetadata.h"
-#include "report/reportdestinations_p.h"
+#include "instrument/basemanager_p.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -54,7 +54,7 @@ void addJobTest(ReportMetadata* record, const QString& testType, const QString& 
     {
         QLatin1String key;
         QString value;
-    } pairs[] = {{QLatin1String("jobId"), baseManagerValue(itemids::jobId).toString()},
+    } pairs[] = {{QLatin1String("jobId"), instrument::baseManagerText(itemids::jobId)},
             {QLatin1String("testType"), testType}, {QLatin1String("testLabel"), testLabel}};
     for (const auto& pair : pairs) {
         if (!pair.value.isEmpty())

@@ -30,9 +30,6 @@ public:
     /// All of it closes, while those who hear of that find everything whole.
     void close();
 
-    /// The path as users read it.
-    QString shown(const QString& path) { return m_errors->getSanitizedPathName(path); }
-
 private:
     std::unique_ptr<FileUtils> m_errors = std::make_unique<FileUtils>();
     std::unique_ptr<KIVNotification> m_refusal;

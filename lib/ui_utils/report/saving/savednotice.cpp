@@ -1,7 +1,6 @@
 #include "report/saving/savednotice_p.h"
 
-#include "base/paths.h"
-#include "report/reportdestinations_p.h"
+#include "instrument/drives_p.h"
 #include "report/reportformats_p.h"
 
 #include <kiv/kivnotification.h>
@@ -25,25 +24,13 @@ QString reportNameOf(const QString& path)
     return QFileInfo(plain).completeBaseName();
 }
 
-QString shownFolderOf(const QString& path)
-{
-    if (isOnUsb(path))
-        return QStringLiteral("USB");
-    QString folder = path.left(path.lastIndexOf(QLatin1Char('/')) + 1);
-    if (folder.startsWith(paths::publicFolder))
-        folder.remove(0, paths::publicFolder.size());
-    if (folder.endsWith(QLatin1Char('/')))
-        folder.chop(1);
-    return folder;
-}
-
 } // namespace
 
 QString savedMessage(const QString& path)
 {
     const QString clean = QDir::cleanPath(path);
     return translated(QT_TRANSLATE_NOOP("Report", "Report %1 saved\nFolder: %2"))
-            .arg(reportNameOf(clean), shownFolderOf(clean));
+            .arg(reportNameOf(clean), instrument::shownFolderOf(clean));
 }
 
 void postSavedNotice(const QString& path)

@@ -1,5 +1,6 @@
 #include "report/saving/saveplan_p.h"
 
+#include "instrument/drives_p.h"
 #include "report/reportnaming_p.h"
 
 #include <QCoreApplication>
@@ -31,7 +32,7 @@ QStringList SavePlan::paths(bool isStickThere) const
 
 PlannedFile plannedFile(const QString& path, const ReportFormat* format, bool copiesToUsb)
 {
-    const QString copy = usbPath(path);
+    const QString copy = instrument::usbPath(path);
     const bool isCopied = copiesToUsb && QDir::cleanPath(path) != copy;
     return {format, path, isCopied ? copy : QString()};
 }

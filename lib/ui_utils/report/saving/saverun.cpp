@@ -2,6 +2,7 @@
 
 #include "base/paths.h"
 #include "core/itemids.h"
+#include "instrument/drives_p.h"
 #include "report/reportnaming_p.h"
 
 #include <kiv/filesystemusage.h>
@@ -108,7 +109,7 @@ bool SaveRun::mayWrite()
 {
     const auto pathOf = [this](const QString& name, const QString& suffix) { return hooks().pathOf(name, suffix); };
     m_plan.files = plannedFiles(m_plan.name, m_choice.formats, m_saving->destinations().copiesToUsb(), pathOf);
-    const QStringList paths = m_plan.paths(isDriveThere(paths::usb));
+    const QStringList paths = m_plan.paths(instrument::isDriveThere(paths::usb));
     m_saving->consent.lookAt(paths);
     // The name, the format or the stick may be another than when the user said yes.
     return hooks().isAlive() && m_saving->mayWrite(m_saving->consent.unasked(paths), false);
@@ -188,7 +189,7 @@ bool SaveRun::mayCopy()
         if (!file.copy.isEmpty())
             copies += file.copy;
     }
-    return !isDriveThere(paths::usb) || m_saving->mayWrite(m_saving->consent.unasked(copies), false);
+    return !instrument::isDriveThere(paths::usb) || m_saving->mayWrite(m_saving->consent.unasked(copies), false);
 }
 
 bool SaveRun::copyToUsb()

@@ -1,6 +1,7 @@
 #include "report/saving/saving_p.h"
 
 #include "base/paths.h"
+#include "instrument/drives_p.h"
 #include "report/saving/nosynclist_p.h"
 #include "report/saving/reportfilewriter_p.h"
 #include "report/saving/reportrecord_p.h"
@@ -80,7 +81,7 @@ bool Saving::write(const QString& path, const QByteArray& contents, bool overwri
 
 bool Saving::copyToUsb(const QString& saved, bool overwrite)
 {
-    const QString copy = usbPath(saved);
+    const QString copy = instrument::usbPath(saved);
     // What is saved to the stick is its own copy.
     const bool mayReplace = overwrite || QDir::cleanPath(saved) == copy;
     QString error;
@@ -102,7 +103,7 @@ void Saving::recordSync(const QStringList& files, bool isSynced)
     }
     QStringList shown;
     for (const QString& file : files)
-        shown += dialogs.shown(file);
+        shown += instrument::shownPath(file);
     const QString consequence = isSynced
             ? QCoreApplication::translate("Report", "%1 is still on the list of reports that are not synced.")
             : QCoreApplication::translate("Report", "The cloud may take %1, although it is not to be synced.");

@@ -15,8 +15,10 @@
 #include <algorithm>
 #include <limits>
 
+using uiutils::Alignment;
 using uiutils::beginLine;
 using uiutils::markupText;
+using uiutils::Status;
 
 namespace {
 
@@ -56,9 +58,9 @@ const Words& words()
 const QString& alignmentName(int align)
 {
     switch (align) {
-    case HtmlStreamWriter::AlignLeft:
+    case Alignment::Left:
         return words().left;
-    case HtmlStreamWriter::AlignRight:
+    case Alignment::Right:
         return words().right;
     default:
         return words().center;
@@ -316,7 +318,7 @@ void HtmlStreamWriter::writeHeaderCell(const QString& text, int align)
     beginLine(*this, m_output, cellLevel);
     writeEndElement();
     if (m_currentTable)
-        m_currentTable->appendCell({text, StatusNone, qint8(align), ReportTable::CellKind::RowLabel, 1});
+        m_currentTable->appendCell({text, Status::None, qint8(align), ReportTable::CellKind::RowLabel, 1});
 }
 
 void HtmlStreamWriter::writeCell(const QString& text, int status, int align)
@@ -341,7 +343,8 @@ void HtmlStreamWriter::writeEmptyCells(int columns)
     writeCharacters(QString());
     writeEndElement();
     if (m_currentTable)
-        m_currentTable->appendCell({QString(), StatusNone, AlignCenter, ReportTable::CellKind::Value, quint16(span)});
+        m_currentTable->appendCell(
+                {QString(), Status::None, Alignment::Center, ReportTable::CellKind::Value, quint16(span)});
 }
 
 void HtmlStreamWriter::endRow()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/status.h"
 #include "core/uiutils_export.h"
 
 #include <QByteArray>
@@ -21,9 +22,6 @@ class Style;
 class UIUTILS_EXPORT HtmlStreamWriter : public QXmlStreamWriter
 {
 public:
-    enum Alignment { AlignCenter = 0, AlignLeft = 1, AlignRight = 2 };
-    enum Status { StatusNone = 0, StatusPass = 16, StatusMarginal = 32, StatusFail = 64 };
-
     /// Starts the page. `indentStep` is the left margin of a table per nesting level, in pixels. A report item for each
     /// table, heading, paragraph and image is appended to uiutils::sharedReportItems().
     explicit HtmlStreamWriter(int indentStep);
@@ -55,10 +53,10 @@ public:
     void expectRows(int rows, qint64 cells);
     /// Opens a row unless one is open. A row that gets no cell leaves no trace.
     void startRow();
-    /// Writes a row's label as its next cell.
+    /// Writes a row's label as its next cell. `status` and `align` are codes of uiutils::Status and uiutils::Alignment.
     void writeHeaderCell(const QString& text, int align);
     /// Writes the next cell with its status icon; does nothing while no row is open and when the row is full.
-    void writeCell(const QString& text, int status = StatusNone, int align = AlignCenter);
+    void writeCell(const QString& text, int status = uiutils::Status::None, int align = uiutils::Alignment::Center);
     /// Writes one empty cell over the next `columns` columns, or over as many as the row still has.
     void writeEmptyCells(int columns);
     /// Closes the open row.

@@ -4,8 +4,10 @@
 #include "base/paths.h"
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
+#include "instrument/unit_p.h"
 #include "writers/html/htmlstreamwriter.h"
 #include "writers/html/style.h"
+#include "writers/pages/reportpdf.h"
 #include "writers/plots/plotdata_p.h"
 #include "writers/plots/plotimage.h"
 #include "writers/text/reportcontent_p.h"
@@ -18,7 +20,9 @@
 
 namespace instrument = uiutils::instrument;
 namespace keys = uiutils::keys;
+using uiutils::Alignment;
 using uiutils::NodeReader;
+using uiutils::Status;
 using uiutils::TableReader;
 
 namespace {
@@ -41,7 +45,7 @@ void writeInformation(HtmlStreamWriter& html, const uiutils::InformationTable& t
     html.startTable(table.title, {table.valueLabel}, true, nestingLevel);
     for (const instrument::LabelledText& row : table.rows) {
         html.startRow();
-        html.writeHeaderCell(row.label, HtmlStreamWriter::AlignRight);
+        html.writeHeaderCell(row.label, Alignment::Right);
         html.writeCell(row.text);
         html.endRow();
     }
@@ -127,9 +131,9 @@ QString TemplateToHtmlWriter::timestamp()
     return uiutils::dateText(QDate::currentDate()) + QLatin1Char(' ') + System::getInstance().getCurrentTime();
 }
 
-QVector<ReportPDF::Field> TemplateToHtmlWriter::titleFields() const
+QVector<ReportField> TemplateToHtmlWriter::titleFields() const
 {
-    QVector<ReportPDF::Field> fields {{tr("Timestamp"), timestamp()}};
+    QVector<ReportField> fields {{tr("Timestamp"), timestamp()}};
     const OverallStatus status = overallStatus();
     const QString statusText = uiutils::overallText(status.status);
     if (!statusText.isEmpty())
@@ -217,31 +221,31 @@ TemplateToHtmlWriter::OverallStatus TemplateToHtmlWriter::overallStatus() const
 {
     using uiutils::ReportStatus;
     static const OverallStatus statuses[] = {
-            {"pass", ReportStatus::Pass, QLatin1String("pass"), HtmlStreamWriter::StatusPass},
-            {"marginal", ReportStatus::Marginal, QLatin1String("marginal"), HtmlStreamWriter::StatusMarginal},
-            {"fail", ReportStatus::Fail, QLatin1String("fail"), HtmlStreamWriter::StatusFail},
-            {"notCompleted", ReportStatus::NotCompleted, QLatin1String("not completed"), HtmlStreamWriter::StatusNone},
+            {"pass", ReportStatus::Pass, QLatin1String("pass"), Status::Pass},
+            {"marginal", ReportStatus::Marginal, QLatin1String("marginal"), Status::Marginal},
+            {"fail", ReportStatus::Fail, QLatin1String("fail"), Status::Fail},
+            {"notCompleted", ReportStatus::NotCompleted, QLatin1String("not completed"), Status::None},
     };
     for (const OverallStatus& status : statuses) {
         if (isSet(status.flag))
             return status;
     }
-    return {nullptr, ReportStatus::Unknown, QLatin1String("unknown"), HtmlStreamWriter::StatusNone};
+    return {nullptr, ReportStatus::Unknown, QLatin1String("unknown"), Status::None};
 }
 
 void TemplateToHtmlWriter::writeTestInformation()
 {
     const auto writeRow = [this](const QString& label, const QString& text, int status) {
         m_html->startRow();
-        m_html->writeHeaderCell(label, HtmlStreamWriter::AlignRight);
+        m_html->writeHeaderCell(label, Alignment::Right);
         m_html->writeCell(text, status);
         m_html->endRow();
     };
     const OverallStatus status = overallStatus();
 
     m_html->startTable(tr("Test Information"), {tr("Value")}, true, -1);
-    writeRow(tr("Title"), title(), HtmlStreamWriter::StatusNone);
-    writeRow(tr("Timestamp"), timestamp(), HtmlStreamWriter::StatusNone);
+    writeRow(tr("Title"), title(), Status::None);
+    writeRow(tr("Timestamp"), timestamp(), Status::None);
     const QString statusText = uiutils::overallText(status.status);
     if (!statusText.isEmpty())
         writeRow(tr("Overall Status"), statusText, status.icon);
@@ -361,7 +365,7 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
 {
     m_html->startRow();
     if (hasLabel)
-        m_html->writeHeaderCell(uiutils::shownTextOf(row.value(keys::label)), HtmlStreamWriter::AlignRight);
+        m_html->writeHeaderCell(uiutils::shownTextOf(row.value(keys::label)), Alignment::Right);
 
     int missing = 0;
     for (int column = 0; column < table.columnCount(); ++column) {

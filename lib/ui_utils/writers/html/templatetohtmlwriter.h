@@ -1,13 +1,16 @@
 #pragma once
 
 #include "core/uiutils_export.h"
-#include "writers/pages/reportpdf.h"
+#include "writers/pages/reportfield.h"
+#include "writers/pages/reportitem.h"
 
 #include <QByteArray>
 #include <QHash>
 #include <QJsonObject>
+#include <QList>
 #include <QString>
 #include <QVariant>
+#include <QVector>
 
 #include <memory>
 
@@ -49,7 +52,7 @@ public:
     static QString timestamp();
     /// What a title block says of the test: its time, its overall status if one is set, and the job if the page
     /// includes it.
-    QVector<ReportPDF::Field> titleFields() const;
+    QVector<ReportField> titleFields() const;
 
     /// Makes the pass for its report items alone; nothing is kept of the page, which getHtml() then has no text of.
     void collectItems();

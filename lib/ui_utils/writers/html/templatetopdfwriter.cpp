@@ -1,7 +1,8 @@
 #include "writers/html/templatetopdfwriter.h"
 
 #include "document/reporttemplate.h"
-#include "service/instrumentinfo_p.h"
+#include "instrument/people_p.h"
+#include "instrument/unit_p.h"
 
 TemplateToPdfWriter::TemplateToPdfWriter(const ReportTemplate& document, QList<ReportItem*>* items)
     : m_html(document, items)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/uiutils_export.h"
+#include "writers/pages/reportfield.h"
 #include "writers/pages/reportitem.h"
 
 #include <QByteArray>
@@ -25,14 +26,7 @@ class UIUTILS_EXPORT ReportPDF : public QObject
 public:
     enum Orientation { Portrait, Landscape };
 
-    /// A line of the title block.
-    struct Field
-    {
-        QString label;
-        QString text;
-        /// 16 pass, 32 marginal, 64 fail, anything else no icon.
-        int status = 0;
-    };
+    using Field = ReportField;
 
     explicit ReportPDF(QObject* parent = nullptr);
     ~ReportPDF() override;

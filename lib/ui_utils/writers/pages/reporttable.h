@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/status.h"
 #include "writers/pages/reportitem.h"
 
 #include <QString>
@@ -24,10 +25,10 @@ public:
     struct Cell
     {
         QString text;
-        /// 16 pass, 32 marginal, 64 fail, anything else no icon.
-        int status = 0;
-        /// 1 left, 2 right, anything else center.
-        qint8 alignment = 0;
+        /// A code of uiutils::Status; anything else has no icon.
+        int status = uiutils::Status::None;
+        /// A code of uiutils::Alignment; anything else stands in the center.
+        qint8 alignment = uiutils::Alignment::Center;
         CellKind kind = CellKind::Value;
         /// How many columns the cell covers.
         quint16 columnSpan = 1;

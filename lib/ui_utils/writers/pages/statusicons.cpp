@@ -1,7 +1,7 @@
 #include "writers/pages/statusicons_p.h"
 
 #include "base/paths.h"
-#include "writers/html/htmlstreamwriter.h"
+#include "core/status.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -17,11 +17,11 @@ constexpr qint64 maximumIconSize = qint64(1024) * 1024;
 QLatin1String statusIconPath(int status)
 {
     switch (status) {
-    case HtmlStreamWriter::StatusPass:
+    case Status::Pass:
         return paths::passIcon;
-    case HtmlStreamWriter::StatusMarginal:
+    case Status::Marginal:
         return paths::marginalIcon;
-    case HtmlStreamWriter::StatusFail:
+    case Status::Fail:
         return paths::failIcon;
     default:
         return QLatin1String();

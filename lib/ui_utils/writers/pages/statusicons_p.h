@@ -6,7 +6,7 @@
 
 namespace uiutils {
 
-/// The instrument path of the icon that shows a cell's status (16 pass, 32 marginal, 64 fail); empty for any other.
+/// The instrument path of the icon that shows a code of Status; empty for None and any other number.
 QLatin1String statusIconPath(int status);
 
 /// The bytes of an icon or logo at an instrument path; none when it cannot be read, is no regular file or is larger

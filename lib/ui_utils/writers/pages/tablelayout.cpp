@@ -36,7 +36,14 @@ bool isParagraph(const PageFont& font, const QString& text, qreal width)
 
 Qt::Alignment alignmentFor(int code)
 {
-    return code == 1 ? Qt::AlignLeft : code == 2 ? Qt::AlignRight : Qt::AlignHCenter;
+    switch (code) {
+    case Alignment::Left:
+        return Qt::AlignLeft;
+    case Alignment::Right:
+        return Qt::AlignRight;
+    default:
+        return Qt::AlignHCenter;
+    }
 }
 
 Qt::Alignment readingSideOf(const QString& text)
@@ -89,7 +96,7 @@ QString TableLayout::labelOf(int column) const
 Qt::Alignment TableLayout::alignmentOf(int column) const
 {
     const ReportTable::Cell* const cell = m_table.rowCount() > 0 ? m_table.cellAt(0, column) : nullptr;
-    return alignmentFor(cell ? cell->alignment : 0);
+    return alignmentFor(cell ? cell->alignment : qint8(Alignment::Center));
 }
 
 QVector<ColumnDemand> TableLayout::demands() const

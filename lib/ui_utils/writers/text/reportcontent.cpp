@@ -1,7 +1,10 @@
 #include "writers/text/reportcontent_p.h"
 
+#include "core/status.h"
 #include "document/documentreader_p.h"
-#include "writers/html/htmlstreamwriter.h"
+#include "instrument/job_p.h"
+#include "instrument/people_p.h"
+#include "instrument/unit_p.h"
 
 #include <QCoreApplication>
 
@@ -64,11 +67,11 @@ QString overallText(ReportStatus status)
 {
     switch (status) {
     case ReportStatus::Pass:
-        return statusText(HtmlStreamWriter::StatusPass);
+        return statusText(Status::Pass);
     case ReportStatus::Marginal:
-        return statusText(HtmlStreamWriter::StatusMarginal);
+        return statusText(Status::Marginal);
     case ReportStatus::Fail:
-        return statusText(HtmlStreamWriter::StatusFail);
+        return statusText(Status::Fail);
     case ReportStatus::NotCompleted:
         return word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Not Completed"));
     default:
@@ -79,11 +82,11 @@ QString overallText(ReportStatus status)
 QString statusText(int status)
 {
     switch (status) {
-    case HtmlStreamWriter::StatusPass:
+    case Status::Pass:
         return word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Pass"));
-    case HtmlStreamWriter::StatusMarginal:
+    case Status::Marginal:
         return word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Marginal"));
-    case HtmlStreamWriter::StatusFail:
+    case Status::Fail:
         return word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Fail"));
     default:
         return {};

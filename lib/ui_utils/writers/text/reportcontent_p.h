@@ -1,6 +1,6 @@
 #pragma once
 
-#include "service/instrumentinfo_p.h"
+#include "instrument/labelledtext_p.h"
 #include "writers/text/textreport.h"
 
 #include <QDate>
@@ -32,7 +32,7 @@ InformationTable configurationTable(const NodeReader& section, const NodeReader&
 /// How the whole test came out; empty when that is not known.
 QString overallText(ReportStatus status);
 
-/// "Pass", "Marginal" or "Fail" for 16, 32 and 64; else empty.
+/// "Pass", "Marginal" or "Fail" for a code of Status; else empty.
 QString statusText(int status);
 
 /// "Sat Nov 21 2026".

@@ -3,7 +3,7 @@
 #include "base/plaintext_p.h"
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
-#include "service/instrumentinfo_p.h"
+#include "instrument/unit_p.h"
 #include "writers/plots/plotdata_p.h"
 #include "writers/text/reportcontent_p.h"
 #include "writers/text/texttable_p.h"
@@ -20,17 +20,11 @@ constexpr int narrowest = 20;
 constexpr int widest = 1000;
 
 /// What the document says about a cell's place; a text that names none leaves it open.
-TextTable::Alignment alignmentOf(const QJsonObject& cell)
+Alignment::Code alignmentOf(const QJsonObject& cell)
 {
-    const auto it = cell.constFind(keys::alignAttribute);
-    if (it == cell.constEnd())
-        return TextTable::Automatic;
-    const QString text = textOf(*it);
-    if (text == QLatin1String("0"))
-        return TextTable::Center;
-    if (text == QLatin1String("1"))
-        return TextTable::Left;
-    return text == QLatin1String("2") ? TextTable::Right : TextTable::Automatic;
+    const QString text = textOf(cell.value(keys::alignAttribute));
+    const int code = text.size() == 1 ? text.at(0).unicode() - '0' : -1;
+    return code >= Alignment::Center && code <= Alignment::Right ? Alignment::Code(code) : TextTable::automatic;
 }
 
 QString numberText(double value)
@@ -58,13 +52,14 @@ TextTable plotTable(const PlotData& data)
         const PlotCurve& curve = data.curves.at(i);
         const PlotExtent extent = data.extentOf(curve);
         table.startRow(withUnit(curve.label, curve.unit));
-        table.addCell(Points, QLocale().toString(curve.size()), 0, TextTable::Right);
+        table.addCell(Points, QLocale().toString(curve.size()), Status::None, Alignment::Right);
         if (extent.x.isEmpty())
             continue;
         const QString range = word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "%1 to %2"));
-        table.addCell(Abscissa, range.arg(numberText(extent.x.low), numberText(extent.x.high)), 0, TextTable::Right);
-        table.addCell(Minimum, numberText(extent.y.low), 0, TextTable::Right);
-        table.addCell(Maximum, numberText(extent.y.high), 0, TextTable::Right);
+        table.addCell(Abscissa, range.arg(numberText(extent.x.low), numberText(extent.x.high)), Status::None,
+                Alignment::Right);
+        table.addCell(Minimum, numberText(extent.y.low), Status::None, Alignment::Right);
+        table.addCell(Maximum, numberText(extent.y.high), Status::None, Alignment::Right);
     }
     if (data.curves.size() > mostCurves)
         table.startRow(word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "%1 more"))
@@ -74,7 +69,7 @@ TextTable plotTable(const PlotData& data)
         const QString name = isLower ? word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Lower limit"))
                                      : word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Upper limit"));
         table.startRow(withUnit(name, limit.unit));
-        table.addCell(isLower ? Minimum : Maximum, numberText(limit.value), 0, TextTable::Right);
+        table.addCell(isLower ? Minimum : Maximum, numberText(limit.value), Status::None, Alignment::Right);
     }
     return table;
 }
@@ -129,7 +124,7 @@ private:
         TextTable table({}, {QString()});
         const auto addRow = [&](const QString& label, const QString& text) {
             table.startRow(label);
-            table.addCell(0, text, 0, TextTable::Left);
+            table.addCell(0, text, Status::None, Alignment::Left);
         };
         const QDateTime& time = m_layout.timestamp;
         if (time.isValid())
@@ -178,7 +173,7 @@ private:
         TextTable table(information.title, {QString()});
         for (const instrument::LabelledText& row : information.rows) {
             table.startRow(row.label);
-            table.addCell(0, row.text, 0, TextTable::Left);
+            table.addCell(0, row.text, Status::None, Alignment::Left);
         }
         writeBlock(table);
     }
@@ -205,7 +200,7 @@ private:
         for (const QStringList& parts : assemblies) {
             table.startRow({});
             for (int i = 0; i < qMin(parts.size(), labels.size()); ++i)
-                table.addCell(i, parts.at(i), 0, TextTable::Left);
+                table.addCell(i, parts.at(i), Status::None, Alignment::Left);
         }
         writeBlock(table);
     }

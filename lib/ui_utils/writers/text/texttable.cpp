@@ -2,7 +2,6 @@
 
 #include "base/directmarkup_p.h"
 #include "base/plaintext_p.h"
-#include "writers/html/htmlstreamwriter.h"
 #include "writers/text/reportcontent_p.h"
 
 #include <QVarLengthArray>
@@ -93,18 +92,18 @@ struct Piece
     int restWidth;
     int begin;
     int width;
-    TextTable::Alignment alignment;
+    Alignment::Code alignment;
     const QString* status;
     int statusBegin;
 };
 using Pieces = QVarLengthArray<Piece, 16>;
 
-int offset(TextTable::Alignment alignment, int space)
+int offset(Alignment::Code alignment, int space)
 {
     switch (alignment) {
-    case TextTable::Right:
+    case Alignment::Right:
         return space;
-    case TextTable::Center:
+    case Alignment::Center:
         return space / 2;
     default:
         return 0;
@@ -186,23 +185,23 @@ void TextLines::expect(qint64 characters)
     makeRoom(m_text, characters);
 }
 
-TextTable::Alignment TextTable::Column::alignment(Alignment wanted) const
+Alignment::Code TextTable::Column::alignment(Alignment::Code wanted) const
 {
-    if (wanted != Automatic)
+    if (wanted != automatic)
         return wanted;
-    return isNumeric ? Right : Left;
+    return isNumeric ? Alignment::Right : Alignment::Left;
 }
 
-TextTable::Alignment TextTable::Column::headerAlignment() const
+Alignment::Code TextTable::Column::headerAlignment() const
 {
-    int asked = alignments & ~(1 << Automatic);
-    if (alignments & (1 << Automatic))
-        asked |= 1 << alignment(Automatic);
-    for (const Alignment all : {Right, Center}) {
+    int asked = alignments & ~(1 << automatic);
+    if (alignments & (1 << automatic))
+        asked |= 1 << alignment(automatic);
+    for (const Alignment::Code all : {Alignment::Right, Alignment::Center}) {
         if (asked == 1 << all)
             return all;
     }
-    return Left;
+    return Alignment::Left;
 }
 
 int TextTable::Column::statusPart() const
@@ -215,8 +214,7 @@ int TextTable::Column::statusPart() const
 TextTable::TextTable(const QString& title, const QStringList& columnLabels)
     : m_title(plainText(title).trimmed())
     , m_columns(columnLabels.size() + 1)
-    , m_statusWords {statusText(HtmlStreamWriter::StatusPass), statusText(HtmlStreamWriter::StatusMarginal),
-              statusText(HtmlStreamWriter::StatusFail)}
+    , m_statusWords {statusText(Status::Pass), statusText(Status::Marginal), statusText(Status::Fail)}
 {
     for (int i = 0; i < columnLabels.size(); ++i) {
         Column& column = m_columns[i + 1];
@@ -229,11 +227,11 @@ TextTable::TextTable(const QString& title, const QStringList& columnLabels)
 const QString* TextTable::statusWord(int status) const
 {
     switch (status) {
-    case HtmlStreamWriter::StatusPass:
+    case Status::Pass:
         return &m_statusWords[0];
-    case HtmlStreamWriter::StatusMarginal:
+    case Status::Marginal:
         return &m_statusWords[1];
-    case HtmlStreamWriter::StatusFail:
+    case Status::Fail:
         return &m_statusWords[2];
     default:
         return nullptr;
@@ -243,15 +241,15 @@ const QString* TextTable::statusWord(int status) const
 void TextTable::startRow(const QString& label)
 {
     m_rowIsOpen = false;
-    append(rowLabelColumn, label, 0, Left);
+    append(rowLabelColumn, label, 0, Alignment::Left);
 }
 
-void TextTable::addCell(int column, const QString& text, int status, Alignment alignment)
+void TextTable::addCell(int column, const QString& text, int status, Alignment::Code alignment)
 {
     append(column + 1, text, status, alignment);
 }
 
-void TextTable::append(int index, const QString& text, int status, Alignment alignment)
+void TextTable::append(int index, const QString& text, int status, Alignment::Code alignment)
 {
     const QString* const word = statusWord(status);
     const bool isSimple = isSimpleText(text);
@@ -265,7 +263,7 @@ void TextTable::append(int index, const QString& text, int status, Alignment ali
     const int width = isSimple ? int(shown.size()) : longestLine(shown);
     column.width = qMax(column.width, width);
     column.alignments |= shown.isEmpty() ? 0 : 1 << alignment;
-    if (alignment == Automatic && column.isNumeric && !shown.isEmpty())
+    if (alignment == automatic && column.isNumeric && !shown.isEmpty())
         column.isNumeric = isLine && isNumber(shown);
     if (word)
         column.statusWidth = qMax(column.statusWidth, displayWidth(*word));
@@ -363,7 +361,7 @@ void TextTable::writeHeader(TextLines& lines, const QVector<Place>& places) cons
         const bool isWide = column.labelWidth > place.width;
         if (column.labelWidth > 0)
             labels.append({column.label, -1, place.begin, isWide ? place.end - place.begin : place.width,
-                    isWide ? Left : column.headerAlignment(), nullptr, 0});
+                    isWide ? Alignment::Left : column.headerAlignment(), nullptr, 0});
     }
     putPieces(lines, labels);
     for (const Place& place : places)

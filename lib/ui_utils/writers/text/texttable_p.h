@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/status.h"
+
 #include <QString>
 #include <QStringList>
 #include <QStringView>
@@ -38,22 +40,17 @@ private:
 class TextTable
 {
 public:
-    enum Alignment : qint8 {
-        /// To the right in a column that holds nothing but numbers, else to the left.
-        Automatic,
-        Left,
-        Right,
-        Center,
-    };
+    /// To the right in a column that holds nothing but numbers, else to the left.
+    static constexpr auto automatic = Alignment::Code(Alignment::Right + 1);
 
     /// One label for each value column, empty where it has none. `title` may be empty.
     TextTable(const QString& title, const QStringList& columnLabels);
 
     /// Begins a row; one in which nothing is put is none.
     void startRow(const QString& label);
-    /// Puts a cell into a column, in the order of the columns. `status` as in the document; anything but 16, 32 and 64
-    /// is none.
-    void addCell(int column, const QString& text, int status = 0, Alignment alignment = Automatic);
+    /// Puts a cell into a column, in the order of the columns. `status` is a code of Status;
+    /// anything else is none.
+    void addCell(int column, const QString& text, int status = Status::None, Alignment::Code alignment = automatic);
 
     bool hasRows() const { return !m_rowEnds.isEmpty(); }
     /// Whether it writes nothing at all.
@@ -73,8 +70,8 @@ private:
         /// Whether all cells that leave their alignment open are numbers.
         bool isNumeric = true;
 
-        Alignment alignment(Alignment wanted) const;
-        Alignment headerAlignment() const;
+        Alignment::Code alignment(Alignment::Code wanted) const;
+        Alignment::Code headerAlignment() const;
         bool isUsed() const { return labelWidth > 0 || width > 0 || statusWidth > 0; }
         /// What the statuses take, with the gap in front of them.
         int statusPart() const;
@@ -89,7 +86,7 @@ private:
         int width;
         qint16 column;
         qint8 status;
-        Alignment alignment;
+        Alignment::Code alignment;
     };
     /// Where a column is written: its cells, and behind them their statuses.
     struct Place
@@ -100,7 +97,7 @@ private:
         int end = 0;
     };
 
-    void append(int column, const QString& text, int status, Alignment alignment);
+    void append(int column, const QString& text, int status, Alignment::Code alignment);
     /// "Pass" and so on; null for what is no status.
     const QString* statusWord(int status) const;
     QStringView textOf(const Cell& cell) const { return QStringView(m_text).mid(cell.begin, cell.size); }

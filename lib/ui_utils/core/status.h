@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/uiutils_export.h"
+
+#include <QObject>
+
+namespace uiutils {
+
+/// How a value was judged. The codes are those of items' quality codes, of the cells of report documents and of what
+/// the writers are given; a number that is none of them means no status. In QML: Status.Pass.
+struct UIUTILS_EXPORT Status
+{
+    Q_GADGET
+
+public:
+    enum Code : qint8 { None = 0, Pass = 16, Marginal = 32, Fail = 64 };
+    Q_ENUM(Code)
+
+    Status() = delete;
+};
+
+/// Where the text of a cell stands. A number that is none of these codes means the center. In QML: Alignment.Right.
+struct UIUTILS_EXPORT Alignment
+{
+    Q_GADGET
+
+public:
+    enum Code : qint8 { Center = 0, Left = 1, Right = 2 };
+    Q_ENUM(Code)
+
+    Alignment() = delete;
+};
+
+} // namespace uiutils

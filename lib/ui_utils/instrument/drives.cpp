@@ -1,0 +1,61 @@
+#include "instrument/drives_p.h"
+
+#include "base/paths.h"
+
+#include <kiv/filesystemusage.h>
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace uiutils::instrument {
+
+bool isOnUsb(const QString& path)
+{
+    return QDir::cleanPath(path).startsWith(paths::usb) || path == paths::usb;
+}
+
+QString usbPath(const QString& path)
+{
+    return paths::usb + path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+}
+
+bool isDriveThere(const QString& path)
+{
+    return !isOnUsb(path) || FileSystemUsage::isMounted(paths::usb);
+}
+
+QString withoutClipboardMark(const QString& path)
+{
+    for (const QLatin1String mark : {QLatin1String("copy:"), QLatin1String("cut:")}) {
+        if (path.startsWith(mark))
+            return path.mid(mark.size());
+    }
+    return path;
+}
+
+QString shownPath(const QString& path)
+{
+    // Without the slash at the end: the folders themselves are shown, too.
+    const QLatin1String internal("/cust/public");
+    const QLatin1String stick("/mnt/usb");
+    const QString plain = withoutClipboardMark(path);
+    if (plain.startsWith(internal))
+        return QCoreApplication::translate("FileUtils", "Internal:") + plain.mid(internal.size());
+    if (plain.startsWith(stick))
+        return QCoreApplication::translate("FileUtils", "USB:") + plain.mid(stick.size());
+    return plain;
+}
+
+QString shownFolderOf(const QString& path)
+{
+    if (isOnUsb(path))
+        return QStringLiteral("USB");
+    QString folder = path.left(path.lastIndexOf(QLatin1Char('/')) + 1);
+    if (folder.startsWith(paths::publicFolder))
+        folder.remove(0, paths::publicFolder.size());
+    if (folder.endsWith(QLatin1Char('/')))
+        folder.chop(1);
+    return folder;
+}
+
+} // namespace uiutils::instrument

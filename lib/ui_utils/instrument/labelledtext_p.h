@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+namespace uiutils::instrument {
+
+/// A line of what the instrument says.
+struct LabelledText
+{
+    QString label;
+    QString text;
+};
+using LabelledTexts = QVector<LabelledText>;
+
+/// An item without a label goes by its name.
+inline QString shownLabel(const QString& label, const QString& name)
+{
+    return label.isEmpty() ? name : label;
+}
+
+} // namespace uiutils::instrument
