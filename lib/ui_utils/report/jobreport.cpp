@@ -1,24 +1,19 @@
 #include "report/jobreport_p.h"
 
-#include "core/itemids.h"
 #include "base/paths.h"
+#include "core/itemids.h"
 #include "report/reportdestinations_p.h"
+#include "report/reporttexts_p.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
 #include <kiv/schemavalidator.h>
 
-#include <QCoreApplication>
 #include <QStringList>
 
 namespace uiutils {
 
 namespace {
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("Report", text);
-}
 
 /// Why the schema does not allow the report; empty when it does.
 QString schemaProblem(const QByteArray& xml, const QString& schemaPath)
@@ -27,13 +22,12 @@ QString schemaProblem(const QByteArray& xml, const QString& schemaPath)
         return QString();
     SchemaValidator validator;
     if (!validator.setSchemaFile(onDisk(schemaPath))) {
-        return translated(QT_TRANSLATE_NOOP("Report", "The schema %1 cannot be used: %2"))
+        return ReportTexts::tr("The schema %1 cannot be used: %2")
                 .arg(schemaPath, validator.errors().join(QLatin1Char('\n')));
     }
     if (validator.validate(xml))
         return QString();
-    return translated(QT_TRANSLATE_NOOP("Report", "The report is not what jobs accept: %1"))
-            .arg(validator.errors().join(QLatin1Char('\n')));
+    return ReportTexts::tr("The report is not what jobs accept: %1").arg(validator.errors().join(QLatin1Char('\n')));
 }
 
 /// Why the base manager does not take the report; empty when it has.
@@ -41,10 +35,10 @@ QString refusal(const QByteArray& xml)
 {
     KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
     if (!client || !isJobActive())
-        return translated(QT_TRANSLATE_NOOP("Report", "There is no active job"));
+        return ReportTexts::tr("There is no active job");
     if (client->sendAction(itemids::attachReport, QString::fromUtf8(xml), nullptr, KIVClientInterface::callTimeout))
         return QString();
-    return translated(QT_TRANSLATE_NOOP("Report", "The job has not taken the report: %1")).arg(client->getLastError());
+    return ReportTexts::tr("The job has not taken the report: %1").arg(client->getLastError());
 }
 
 } // namespace
@@ -75,7 +69,7 @@ QString jobSummary()
         const KIVClientItem* item = isJobActive() ? baseManagerItem(row.id) : nullptr;
         const QString text = item ? item->getValueString().simplified() : QString();
         if (!text.isEmpty())
-            parts += translated(row.prefix) + text;
+            parts += ReportTexts::tr(row.prefix) + text;
     }
     return parts.join(QLatin1String(", "));
 }

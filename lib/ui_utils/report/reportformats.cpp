@@ -2,8 +2,7 @@
 
 #include "local/uidata.h"
 #include "report/report.h"
-
-#include <QCoreApplication>
+#include "report/reporttexts_p.h"
 
 namespace uiutils {
 
@@ -61,7 +60,7 @@ void addFormatChoices(UiData& item)
     QStringList names;
     for (const ReportFormat& format : allReportFormats()) {
         values.append(format.value);
-        labels.append(QCoreApplication::translate("Report", format.label));
+        labels.append(ReportTexts::tr(format.label));
         names.append(QLatin1String(format.name));
     }
     item.setUiEnumList(new UiDataEnums(&item));
