@@ -1,6 +1,7 @@
 #include "console.h"
 
-#include <QCoreApplication>
+#include "texts.h"
+
 #include <QLoggingCategory>
 
 #include <cstdio>
@@ -44,8 +45,7 @@ int terminalWidth()
 
 void sayQtMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
-    const QString message
-            = type == QtWarningMsg ? QCoreApplication::translate("Console", "warning: %1").arg(text) : text;
+    const QString message = type == QtWarningMsg ? Texts::tr("warning: %1").arg(text) : text;
     say(warningSubject().isEmpty() ? message : warningSubject() + QStringLiteral(": ") + message);
 }
 
