@@ -98,47 +98,50 @@ def declared_contexts(sources):
     return contexts
 
 
-def judge_sources(tree):
+Call = collections.namedtuple('Call', 'place folder name owner context words')
+
+
+def calls_in(tree):
+    """Every place that asks for a text or notes one for a table. What is not written out has no context."""
     files = [file for room in ROOMS for file in sorted((tree / room).rglob('*')) if file.suffix in ('.cpp', '.h', '.qml', '.js')]
     sources = {file: without_comments(file.read_text(encoding='utf-8')) for file in files}
-    contexts = declared_contexts(sources)
-    noted, asked = collections.defaultdict(list), collections.defaultdict(list)
+    declared = declared_contexts(sources)
     for file, text in sources.items():
         for call in CALL.finditer(text):
+            name, owner = call.group('name', 'owner')
             place = f'{file.relative_to(tree)}:{text.count(chr(10), 0, call.start()) + 1}'
             given = arguments(text, call.end())
-            name = call.group('name')
-            owner = call.group('owner')
-            is_named = 'translate' in name.lower()
-            if is_named:
-                context = given[0].strip('"')
+            if 'translate' in name.lower():
+                context = given.pop(0).strip('"') if LITERALS.fullmatch(given[0]) else None
             else:
-                context = next((contexts[key] for key in ((file, owner), (file.parent, owner), owner) if key in contexts), None)
-            words = given[1 if is_named else 0] if len(given) > is_named else ''
-            if name == 'QT_TRANSLATE_NOOP':
-                noted[file.parent].append((place, context))
-            elif is_named and not LITERALS.fullmatch(given[0]):
-                yield f'{place}: the context is not written out'
-            elif owner and not context:
-                yield f'{place}: {owner} is no class with texts of its own'
-            elif context and MEMBER.fullmatch(words):
-                asked[file.parent].append((place, context))
-            elif not LITERALS.fullmatch(words):
-                yield f'{place}: the text is not written out; one of a table is a member of its row'
+                context = next((declared[key] for key in ((file, owner), (file.parent, owner), owner) if key in declared), None)
+            yield Call(place, file.parent, name, owner, context, given[0])
+
+
+def judge_sources(tree):
+    noted, asked = collections.defaultdict(list), collections.defaultdict(list)
+    for call in calls_in(tree):
+        if call.owner and not call.context:
+            yield f'{call.place}: {call.owner} is no class with texts of its own'
+        elif 'translate' in call.name.lower() and not call.context:
+            yield f'{call.place}: the context is not written out'
+        elif call.name == 'QT_TRANSLATE_NOOP':
+            noted[call.folder].append(call)
+        elif call.context and MEMBER.fullmatch(call.words):
+            asked[call.folder].append(call)
+        elif not LITERALS.fullmatch(call.words):
+            yield f'{call.place}: the text is not written out; one of a table is a member of its row'
     yield from judge_tables(noted, asked)
 
 
 def judge_tables(noted, asked):
     """Texts of tables stand in the folder in which they are asked for, under the same context."""
-    for folder in sorted(noted.keys() | asked.keys()):
-        known = {context for _, context in asked[folder]}
-        for place, context in noted[folder]:
-            if context not in known:
-                yield f'{place}: nothing in this folder asks for texts of a table under the context {context}'
-        known = {context for _, context in noted[folder]}
-        for place, context in asked[folder]:
-            if context not in known:
-                yield f'{place}: no table in this folder notes texts under the context {context}'
+    for calls, others, words in ((noted, asked, 'nothing in this folder asks for texts of a table'),
+                                 (asked, noted, 'no table in this folder notes texts')):
+        for folder in sorted(calls):
+            known = {call.context for call in others[folder]}
+            yield from (f'{call.place}: {words} under the context {call.context}'
+                        for call in calls[folder] if call.context not in known)
 
 
 def judge_tree(lupdate, tree):
