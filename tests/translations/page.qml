@@ -2,26 +2,18 @@ import QtQuick 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// Does what has to be told to users: saves a report, asks before it replaces it, refuses names and values.
+// Does what has to be told to users: refuses values and a name, saves a report, asks before it replaces it.
 Item {
-    id: page
-
-    width: 800
-    height: 600
-
-    function tell(what, words) { console.log(what + ": " + words) }
-
     function set(item, value) {
         item.value = value
-        tell("refused", item.error)
-        tell("range", item.rangeDescription)
+        console.log(item.error, item.rangeDescription)
     }
 
     function save(name) {
         report.settings.reportName.value = name
-        tell("saved", report.save())
-        const dialog = Notifications.currentDialog
-        tell("dialog", dialog ? dialog.longLabel + " " + dialog.msg : "")
+        report.save()
+        if (Notifications.currentDialog)
+            console.log(Notifications.currentDialog.msg)
         Notifications.reject()
     }
 
@@ -34,7 +26,6 @@ Item {
     Component.onCompleted: {
         set(station_cfg_level_3, 11)
         set(station_cfg_title, "x")
-        set(station_cfg_locked, 2)
         save("a/b")
         save("marked")
         save("marked")

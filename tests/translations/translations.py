@@ -18,7 +18,7 @@ import xml.etree.ElementTree
 
 TREE = pathlib.Path(__file__).resolve().parents[2]
 ROOMS = ('base', 'platform', 'lib', 'apps', 'qml')
-# Contexts from which show() brings nothing to be said. One that is gone comes off the list.
+# Contexts of which show() makes no text appear. One that is gone comes off the list.
 UNSEEN = {
     'FileSystemUsage', 'KivAggregateData', 'PDFFile', 'Paths', 'SchemaValidator', 'ServiceState',
     *(f'uiutils::demo::{name}' for name in ('LoopbackProbe', 'SavedReportActions', 'Tour', 'UsbStick')),
@@ -122,7 +122,7 @@ def judge_sources(tree):
     noted, asked = collections.defaultdict(list), collections.defaultdict(list)
     for call in calls_in(tree):
         if call.owner and not call.context:
-            yield f'{call.place}: {call.owner} is no class with texts of its own'
+            yield f'{call.place}: {call.owner} is not a class with texts of its own'
         elif 'translate' in call.name.lower() and not call.context:
             yield f'{call.place}: the context is not written out'
         elif call.name == 'QT_TRANSLATE_NOOP':
@@ -251,7 +251,7 @@ WRONG = [
     ('a free tr() without a context', 'lib/a.cpp', 'QString a() { return tr("Text"); }\n', 'cannot be called without context'),
     ('a tr() under the name of a namespace', 'lib/a.cpp', 'namespace a {\nQString a() { return tr("Text"); }\n}\n', 'lacks Q_OBJECT'),
     ('a struct of texts by another name', 'lib/a.cpp', TEXTS + 'using Words = Texts;\nQString a() { return Words::tr("Text"); }',
-     'a.cpp:6: Words is no class with texts'),
+     'a.cpp:6: Words is not a class with texts'),
     ('a context that is worked out', 'lib/a.cpp', 'QString a() { return QCoreApplication::translate(name, "Text"); }\n',
      'a.cpp:1: the context is not written out'),
     ('a context of the toolkit', 'lib/a.cpp', 'QString a() { return QCoreApplication::translate("QFile", "Text"); }\n', 'context QFile'),
@@ -275,7 +275,7 @@ def judge_plants(lupdate):
             place.write_text(source)
             return judge_tree(lupdate, pathlib.Path(folder))
 
-    yield from (f'complained of without a reason: {complaint}' for complaint in judged('lib/a.cpp', SOUND))
+    yield from (f'not wrong, and complained of: {complaint}' for complaint in judged('lib/a.cpp', SOUND))
     for name, file, source, words in WRONG:
         found = judged(file, source)
         if not any(words in complaint for complaint in found):
