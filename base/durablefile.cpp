@@ -52,46 +52,54 @@ bool syncNameOf(const QString& member)
     return result == 0 || reason == EINVAL || reason == EOPNOTSUPP;
 }
 
-QString failure(const char* text, const QString& path, const QString& reason)
+struct Texts
 {
-    return QCoreApplication::translate("DurableFile", text).arg(path, reason);
+    Q_DECLARE_TR_FUNCTIONS(DurableFile)
+};
+
+/// The system would take what stands before a NUL character for the whole path.
+bool hasNul(const QString& path, QString& message)
+{
+    if (!path.contains(QChar(QChar::Null)))
+        return false;
+    const QString shown = QString(path).replace(QChar(QChar::Null), QChar(QChar::ReplacementCharacter));
+    message = Texts::tr("Cannot write %1: %2").arg(shown, Texts::tr("The path holds a NUL character"));
+    return true;
 }
 
 NewFile write(
         const QString& path, const QByteArray& contents, const QString& temporary, bool mayReplace, QString& message)
 {
-    // The system would take what stands before it for the whole path.
-    if (path.contains(QChar(QChar::Null))) {
-        message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"),
-                QString(path).replace(QChar(QChar::Null), QChar(QChar::ReplacementCharacter)),
-                QCoreApplication::translate("DurableFile", "The path holds a NUL character"));
+    if (hasNul(path, message))
         return NewFile::Failed;
-    }
     removeStaleTemporaries(QFileInfo(path).path());
     TemporarySibling file(path, temporary);
     if (!file.isOpen()) {
-        message = failure(
-                QT_TRANSLATE_NOOP("DurableFile", "Cannot create a file in the folder of %1: %2"), path, systemError());
+        const QString reason = systemError();
+        message = Texts::tr("Cannot create a file in the folder of %1: %2").arg(path, reason);
         return NewFile::Failed;
     }
     if (!file.write(contents) || !file.sync()) {
-        message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"), path, systemError());
+        const QString reason = systemError();
+        message = Texts::tr("Cannot write %1: %2").arg(path, reason);
         return NewFile::Failed;
     }
     // Open, and so locked, until it has its name: whoever cleans the folder would take it for left behind.
     if (!file.renameTo(path, mayReplace)) {
         const bool isTaken = !mayReplace && errno == EEXIST;
-        message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot replace %1: %2"), path, systemError());
+        const QString reason = systemError();
+        message = Texts::tr("Cannot replace %1: %2").arg(path, reason);
         return isTaken ? NewFile::Taken : NewFile::Failed;
     }
     if (!file.close()) {
-        message = failure(QT_TRANSLATE_NOOP("DurableFile", "Cannot write %1: %2"), path, systemError());
+        const QString reason = systemError();
+        message = Texts::tr("Cannot write %1: %2").arg(path, reason);
         return NewFile::Failed;
     }
     if (syncNameOf(path))
         return NewFile::Written;
-    message = failure(
-            QT_TRANSLATE_NOOP("DurableFile", "Cannot make sure that %1 outlives a power cut: %2"), path, systemError());
+    const QString reason = systemError();
+    message = Texts::tr("Cannot make sure that %1 outlives a power cut: %2").arg(path, reason);
     return NewFile::Failed;
 }
 

@@ -15,7 +15,6 @@ build_packages=(
     g++ cmake ninja-build pkg-config
     qtbase5-dev qtbase5-private-dev
     qtdeclarative5-dev qtdeclarative5-private-dev qtdeclarative5-dev-tools
-    qttools5-dev qttools5-dev-tools
     libvalijson-dev libpodofo-dev libssl-dev libxml2-dev libpoppler-qt5-dev zlib1g-dev
     qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2
     qml-module-qtquick-layouts qml-module-qttest qml-module-qtqml-models2
@@ -25,8 +24,11 @@ build_packages=(
 
 # What the tests start beside the programs of the tree: a display, a bus, and readers that
 # know nothing of this library and so can judge the files it writes; help2man makes the
-# manual pages that are tested with the tools.
-test_packages=(dbus xvfb xauth poppler-utils qpdf libxml2-utils tidy strace help2man python3 tzdata)
+# manual pages that are tested with the tools, and lupdate collects the texts for translators.
+test_packages=(
+    dbus xvfb xauth poppler-utils qpdf libxml2-utils tidy strace help2man python3 tzdata
+    qttools5-dev qttools5-dev-tools
+)
 
 # Standard output stays free for the program and for the test results.
 say() {

@@ -10,11 +10,6 @@ namespace uiutils::apps {
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Options", text);
-}
-
 QString versionText()
 {
     return QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion());
@@ -25,7 +20,8 @@ QString versionText()
 CommandLine parse(QCommandLineParser& parser, const QStringList& arguments, const Answers& answers)
 {
     // The parser's own help option would bring options of Qt along.
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help."));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+            QCoreApplication::translate("CommandLine", "Show this help."));
     parser.addOption(help);
     const QCommandLineOption version = parser.addVersionOption();
     if (!parser.parse(arguments))
@@ -39,7 +35,8 @@ CommandLine parse(QCommandLineParser& parser, const QStringList& arguments, cons
 
 CommandLine misused(const QString& message)
 {
-    return {CommandLine::Misused, message + QLatin1Char(' ') + tr("Try --help for the options.")};
+    return {CommandLine::Misused,
+            message + QLatin1Char(' ') + QCoreApplication::translate("CommandLine", "Try --help for the options.")};
 }
 
 std::optional<int> exitCodeOf(const CommandLine& line)

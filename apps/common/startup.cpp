@@ -14,7 +14,7 @@ bool useRoot(const QString& root)
     const QByteArray name = QFile::encodeName(root);
     if (!root.contains(QChar(QChar::ReplacementCharacter)) && QFile::decodeName(name) == root)
         return qputenv("UIUTILS_ROOT", name);
-    complain(QCoreApplication::translate("main",
+    complain(QCoreApplication::translate("CommandLine",
             "The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. "
             "Name another folder.")
                      .arg(root));
@@ -30,7 +30,7 @@ bool loadServices(kiv::embedded::EmbeddedBackend& backend, const QStringList& fo
     if (!backend.serviceNames().isEmpty())
         return true;
     complain(QCoreApplication::translate(
-            "main", "No service could be loaded from %1. Name a folder with service files with --services.")
+            "CommandLine", "No service could be loaded from %1. Name a folder with service files with --services.")
                      .arg(folders.join(QStringLiteral(", "))));
     return false;
 }

@@ -2,19 +2,14 @@
 
 #include "common/locations.h"
 #include "loopbackmeasurement.h"
+#include "texts.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QDir>
 
 namespace uiutils::demo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("DemoOptions", text);
-}
 
 DemoOptions misused(const QString& message)
 {
@@ -29,34 +24,35 @@ DemoOptions readOptions(const QStringList& arguments)
     const QStringList ownServices = apps::defaultServiceFolders();
     QCommandLineParser parser;
     parser.setApplicationDescription(
-            tr("Measures TCP over this machine's loopback interface and saves a report of it, the way a test "
-               "application of the instrument does.\n"
-               "With a display a window opens. Without one, or with --tour, the program runs by itself.\n\n"
-               "Exit status: 0 done, 1 failed, 2 wrong command line."));
+            Texts::tr("Measures TCP over this machine's loopback interface and saves a report of it, the way a test "
+                      "application of the instrument does.\n"
+                      "With a display a window opens. Without one, or with --tour, the program runs by itself.\n\n"
+                      "Exit status: 0 done, 1 failed, 2 wrong command line."));
     const QCommandLineOption root(QStringLiteral("root"),
-            tr("Keep everything that is written below <folder> (default: %1).").arg(ownRoot), tr("folder"), ownRoot);
+            Texts::tr("Keep everything that is written below <folder> (default: %1).").arg(ownRoot),
+            Texts::tr("folder"), ownRoot);
     const QCommandLineOption services(QStringLiteral("services"),
-            tr("Publish the services described in <folder>; may be given more than once (default: %1).")
+            Texts::tr("Publish the services described in <folder>; may be given more than once (default: %1).")
                     .arg(ownServices.join(QLatin1Char(':'))),
-            tr("folder"));
+            Texts::tr("folder"));
     const QCommandLineOption samples(QStringLiteral("samples"),
-            tr("Take <number> samples of each quantity, %1 to %2 (default: as the settings say).")
+            Texts::tr("Take <number> samples of each quantity, %1 to %2 (default: as the settings say).")
                     .arg(LoopbackMeasurement::fewestSamples)
                     .arg(LoopbackMeasurement::mostSamples),
-            tr("number"));
+            Texts::tr("number"));
     const QCommandLineOption tour(
-            QStringLiteral("tour"), tr("Measure, save a report, take a picture of each page and quit."));
+            QStringLiteral("tour"), Texts::tr("Measure, save a report, take a picture of each page and quit."));
     parser.addOptions({root, services, samples, tour});
 
     const apps::CommandLine line = apps::parse(parser, arguments);
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<DemoOptions>(line);
     if (!parser.positionalArguments().isEmpty())
-        return misused(tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst()));
+        return misused(Texts::tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst()));
     if (parser.value(root).isEmpty())
-        return misused(tr("--root needs the name of a folder."));
+        return misused(Texts::tr("--root needs the name of a folder."));
     if (parser.values(services).contains(QString()))
-        return misused(tr("--services needs the name of a folder."));
+        return misused(Texts::tr("--services needs the name of a folder."));
 
     DemoOptions options;
     if (parser.isSet(samples))
@@ -64,7 +60,7 @@ DemoOptions readOptions(const QStringList& arguments)
     if (parser.isSet(samples)
             && (options.samples < LoopbackMeasurement::fewestSamples
                     || options.samples > LoopbackMeasurement::mostSamples)) {
-        return misused(tr("--samples needs a number from %1 to %2.")
+        return misused(Texts::tr("--samples needs a number from %1 to %2.")
                                .arg(LoopbackMeasurement::fewestSamples)
                                .arg(LoopbackMeasurement::mostSamples));
     }

@@ -2,8 +2,8 @@
 
 #include "base/durablefile.h"
 #include "base/paths.h"
+#include "texts.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -11,11 +11,6 @@
 namespace uiutils::demo {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("InstrumentRoot", text);
-}
 
 QByteArray contentsOf(const QString& path)
 {
@@ -32,7 +27,7 @@ bool installImage(const QString& name, const QString& folder, QString* error)
 
 QString whatToDo()
 {
-    return QLatin1Char(' ') + tr("Check that you may write there, or name another folder with --root.");
+    return QLatin1Char(' ') + Texts::tr("Check that you may write there, or name another folder with --root.");
 }
 
 /// A link of an earlier run may lead to a build that is gone.
@@ -50,7 +45,7 @@ bool linkViewer(const QString& root, const QString& viewer, QString* error)
     QFile::remove(place);
     if (QFile::link(viewer, place))
         return true;
-    *error = tr("The link %1 to the viewer of PDF files cannot be made.").arg(place) + whatToDo();
+    *error = Texts::tr("The link %1 to the viewer of PDF files cannot be made.").arg(place) + whatToDo();
     return false;
 }
 
@@ -63,14 +58,15 @@ bool makeFolder(const QString& folder, QString* error)
     while (!nearest.exists() && nearest.path() != nearest.filePath())
         nearest.setFile(nearest.path());
     if (!nearest.isDir()) {
-        *error = tr("The folder %1 cannot be made, because %2 is a file. Name another folder with --root.")
+        *error = Texts::tr("The folder %1 cannot be made, because %2 is a file. Name another folder with --root.")
                          .arg(folder, nearest.filePath());
         return false;
     }
     if (QDir().mkpath(folder))
         return true;
-    *error = tr("The folder %1 cannot be made in %2. Check that you may write there, or name another folder with "
-                "--root.")
+    *error = Texts::tr(
+            "The folder %1 cannot be made in %2. Check that you may write there, or name another folder with "
+            "--root.")
                      .arg(folder, nearest.filePath());
     return false;
 }

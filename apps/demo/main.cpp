@@ -10,6 +10,7 @@
 #include "measurementsettings.h"
 #include "resultpublisher.h"
 #include "screencamera.h"
+#include "texts.h"
 #include "tour.h"
 
 #include <embedded/embeddedbackend.h>
@@ -71,7 +72,7 @@ int runDemo(const DemoOptions& options)
     QString error;
     if (!prepareInstrumentRoot(options.root, pdfViewerProgram(), &error))
         return complain(error);
-    say(QCoreApplication::translate("main", "Everything is written below %1").arg(options.root));
+    say(Texts::tr("Everything is written below %1").arg(options.root));
 
     registerDemoTypes();
     // The pages draw their own controls on top of this style; another one would show through.
@@ -92,7 +93,7 @@ int runDemo(const DemoOptions& options)
     instrument.showTo(&engine);
     QQuickWindow* const window = openWindow(engine, &measurement);
     if (!window)
-        return complain(QCoreApplication::translate("main",
+        return complain(Texts::tr(
                 "The main page could not be loaded, for the reason given above. Check that the QML modules QtQuick, "
                 "QtQuick.Controls, QtQuick.Layouts and QtQuick.Window are installed."));
 
@@ -101,9 +102,9 @@ int runDemo(const DemoOptions& options)
     auto* const camera = window->property("camera").value<ScreenCamera*>();
     Tour tour(window, &measurement, report, camera, options.root + QStringLiteral("/pictures/"));
     const int exitCode = options.isTour || isOffScreen ? runTour(tour) : QCoreApplication::exec();
-    list(QCoreApplication::translate("main", "Reports:"), report->savedFiles());
-    list(QCoreApplication::translate("main", "Screenshots:"), camera->pictures());
-    list(QCoreApplication::translate("main", "Pictures:"), tour.pictures());
+    list(Texts::tr("Reports:"), report->savedFiles());
+    list(Texts::tr("Screenshots:"), camera->pictures());
+    list(Texts::tr("Pictures:"), tour.pictures());
     return exitCode;
 }
 

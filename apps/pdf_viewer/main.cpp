@@ -1,6 +1,7 @@
 #include "inputplugins.h"
 #include "options.h"
 #include "processlimits.h"
+#include "texts.h"
 #include "viewerdocument.h"
 #include "viewertypes.h"
 
@@ -81,7 +82,7 @@ int show(const Options& options)
         if (openWindow(engine, &document, options))
             exitCode = QCoreApplication::exec();
         else
-            complain(QCoreApplication::translate("main",
+            complain(viewer::Texts::tr(
                     "The screen could not be loaded, for the reason given above. Check that the QML modules QtQuick, "
                     "QtQuick.Controls, QtQuick.Layouts and QtQuick.Window are installed."));
     }
@@ -111,7 +112,7 @@ int main(int argc, char** argv)
     const QGuiApplication application(arguments.count(), arguments.values());
     // A window that nobody can see would never be closed.
     if (!isPlatformGiven && apps::DisplaySetup::isOffScreen()) {
-        return complain(QCoreApplication::translate("main",
+        return complain(viewer::Texts::tr(
                 "There is no display to show %1 on. Set DISPLAY or WAYLAND_DISPLAY, or QT_QPA_PLATFORM to what draws on this "
                 "screen, such as eglfs or linuxfb.")
                                 .arg(options.file));

@@ -1,7 +1,8 @@
 #include "options.h"
 
+#include "texts.h"
+
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace uiutils::viewer {
@@ -9,11 +10,6 @@ namespace uiutils::viewer {
 namespace {
 
 constexpr int mostDotsPerInch = 600;
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Options", text);
-}
 
 Options misused(const QString& message)
 {
@@ -36,23 +32,27 @@ Options readOptions(const QStringList& arguments)
     // Words behind one hyphen, as Qt has them for its plug-ins.
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(
-            tr("Shows a PDF file, also one that is compressed (.pdf.gz), on a touch screen or in a window.\n\n"
-               "Exit status: 0 done, 1 the file could not be shown, 2 wrong command line."));
-    parser.addPositionalArgument(QStringLiteral("file"), tr("The PDF file to show."), QStringLiteral("file.pdf"));
+            Texts::tr("Shows a PDF file, also one that is compressed (.pdf.gz), on a touch screen or in a window.\n\n"
+                      "Exit status: 0 done, 1 the file could not be shown, 2 wrong command line."));
+    parser.addPositionalArgument(
+            QStringLiteral("file"), Texts::tr("The PDF file to show."), QStringLiteral("file.pdf"));
     const QCommandLineOption density(QStringLiteral("dpy"),
-            tr("The screen has <number> dots per inch, 1 to %1 (default: %2). At 100 % a page has its natural size there.")
+            Texts::tr(
+                    "The screen has <number> dots per inch, 1 to %1 (default: %2). At 100 % a page has its natural size there.")
                     .arg(mostDotsPerInch)
                     .arg(standard.dotsPerInch),
-            tr("number"));
+            Texts::tr("number"));
     const QCommandLineOption wholeScreen(QStringLiteral("s"),
-            tr("Take the whole screen, without a frame. Where a window system shares the screen out, the window is one among "
-               "others all the same."));
+            Texts::tr(
+                    "Take the whole screen, without a frame. Where a window system shares the screen out, the window is one among "
+                    "others all the same."));
     const QCommandLineOption title(
-            QStringLiteral("t"), tr("Call the window <title> (default: the file's name)."), tr("title"));
+            QStringLiteral("t"), Texts::tr("Call the window <title> (default: the file's name)."), Texts::tr("title"));
     const QCommandLineOption plugin(QStringLiteral("plugin"),
-            tr("Use the input plug-in <name:device>; may be given more than once. Without effect where a window system brings "
-               "the input, and where there is no such device."),
-            tr("name:device"));
+            Texts::tr(
+                    "Use the input plug-in <name:device>; may be given more than once. Without effect where a window system brings "
+                    "the input, and where there is no such device."),
+            Texts::tr("name:device"));
     parser.addOptions({density, wholeScreen, title, plugin});
 
     const apps::CommandLine line = apps::parse(parser, arguments);
@@ -60,13 +60,13 @@ Options readOptions(const QStringList& arguments)
         return apps::ended<Options>(line);
     const QStringList files = parser.positionalArguments();
     if (files.size() != 1 || files.constFirst().isEmpty())
-        return misused(tr("Name one PDF file to show."));
+        return misused(Texts::tr("Name one PDF file to show."));
 
     Options options;
     if (parser.isSet(density))
         options.dotsPerInch = parser.value(density).toInt();
     if (options.dotsPerInch < 1 || options.dotsPerInch > mostDotsPerInch)
-        return misused(tr("--dpy needs a number from 1 to %1.").arg(mostDotsPerInch));
+        return misused(Texts::tr("--dpy needs a number from 1 to %1.").arg(mostDotsPerInch));
     options.file = files.constFirst();
     options.title = titleOf(parser.value(title), options.file);
     options.isWholeScreen = parser.isSet(wholeScreen);

@@ -1,8 +1,8 @@
 #include "console.h"
 
 #include "common/complaint.h"
+#include "texts.h"
 
-#include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <cstdio>
@@ -46,8 +46,7 @@ int terminalWidth()
 
 void sayQtMessage(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
-    const QString message
-            = type == QtWarningMsg ? QCoreApplication::translate("Console", "warning: %1").arg(text) : text;
+    const QString message = type == QtWarningMsg ? Texts::tr("warning: %1").arg(text) : text;
     say(warningSubject().isEmpty() ? message : warningSubject() + QStringLiteral(": ") + message);
 }
 

@@ -7,8 +7,8 @@
 #include "jsonschema_p.h"
 #include "signals.h"
 #include "streams.h"
+#include "texts.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -23,11 +23,6 @@ namespace {
 
 /// With the number of the signal that cut the program short added, as shells have it.
 constexpr int exitSignalled = 128;
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Conversion", text);
-}
 
 const QJsonObject& documentSchema()
 {
@@ -52,10 +47,11 @@ QString advice(const QString& path)
 {
     const QFileInfo folder(QFileInfo(path).path());
     if (!folder.exists())
-        return tr("The folder %1 does not exist: make it, or name another with --output.").arg(folder.filePath());
+        return Texts::tr("The folder %1 does not exist: make it, or name another with --output.")
+                .arg(folder.filePath());
     if (!folder.isDir())
-        return tr("%1 is no folder: name another with --output.").arg(folder.filePath());
-    return tr("Check the free space there and that you may write there, or name another folder with --output.");
+        return Texts::tr("%1 is no folder: name another with --output.").arg(folder.filePath());
+    return Texts::tr("Check the free space there and that you may write there, or name another folder with --output.");
 }
 
 } // namespace
@@ -79,7 +75,7 @@ int Conversion::run()
     clearProgress();
     if (m_signal == 0)
         return m_hasFailed ? apps::exitFailed : apps::exitDone;
-    say(tr("Stopped by SIG%1: %2 of %3 files were written.")
+    say(Texts::tr("Stopped by SIG%1: %2 of %3 files were written.")
                     .arg(QLatin1String(::sigabbrev_np(m_signal)))
                     .arg(m_written)
                     .arg(m_plan.targetCount()));
@@ -104,7 +100,7 @@ void Conversion::writeTarget(const Target& target, const ReportTemplate& report)
 {
     const auto goesOn = [&](int page, int pageCount) {
         if (pageCount > 0)
-            showProgress(tr("%1: page %2 of %3").arg(target.name()).arg(page).arg(pageCount));
+            showProgress(Texts::tr("%1: page %2 of %3").arg(target.name()).arg(page).arg(pageCount));
         return !isStopped();
     };
     Generation generation {m_options.page, m_scratchFolder, goesOn, {}};
@@ -129,12 +125,12 @@ bool Conversion::readStandardInput(const Job& job, ReportTemplate& report)
     // By way of a file, so that the one reader of documents with its limits reads this one too.
     QTemporaryFile copy(m_scratchFolder + QStringLiteral("/input"));
     if (!copy.open())
-        return failNamed(tr("cannot be kept meanwhile: %1").arg(copy.errorString()));
+        return failNamed(Texts::tr("cannot be kept meanwhile: %1").arg(copy.errorString()));
     QString error;
     if (!copyStandardInput(copy, &error))
         return error.isEmpty() ? !isStopped() : failNamed(error);
     if (!copy.flush())
-        return failNamed(tr("cannot be kept meanwhile: %1").arg(copy.errorString()));
+        return failNamed(Texts::tr("cannot be kept meanwhile: %1").arg(copy.errorString()));
     report.readDiskFile(copy.fileName());
     return !report.hasError() || fail(report.errorString().replace(copy.fileName(), job.name()));
 }
@@ -146,7 +142,7 @@ bool Conversion::hasAcceptableLayout(const Job& job, const ReportTemplate& repor
         return true;
     if (m_options.isStrict)
         return fail(job.name() + QStringLiteral(": ") + violation);
-    say(tr("%1: warning: not the layout of a report document: %2").arg(job.name(), violation));
+    say(Texts::tr("%1: warning: not the layout of a report document: %2").arg(job.name(), violation));
     return true;
 }
 
@@ -166,8 +162,8 @@ void Conversion::write(const Target& target, const QByteArray& bytes)
 bool Conversion::writeFile(const QString& path, const QByteArray& bytes, QString* error) const
 {
     if (isNoFile(path)) {
-        *error = tr("%1 is no regular file, and is not replaced. Name another with --output, or \"-\" for "
-                    "standard output.")
+        *error = Texts::tr("%1 is no regular file, and is not replaced. Name another with --output, or \"-\" for "
+                           "standard output.")
                          .arg(path);
         return false;
     }
@@ -185,7 +181,7 @@ void Conversion::announce(const QString& name)
 {
     const int count = m_plan.targetCount();
     if (count > 1)
-        showProgress(tr("%1 of %2 files written, %3").arg(m_written).arg(count).arg(name));
+        showProgress(Texts::tr("%1 of %2 files written, %3").arg(m_written).arg(count).arg(name));
 }
 
 bool Conversion::fail(const QString& message)

@@ -2,6 +2,7 @@
 
 #include "document/reporttemplate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
+#include "texts.h"
 #include "writers/html/templatetohtmlwriter.h"
 #include "writers/html/templatetopdfwriter.h"
 #include "writers/text/textreport.h"
@@ -115,15 +116,17 @@ QByteArray textOf(const ReportTemplate& report, Generation& generation)
 
 const Format formatTable[] = {
         {QLatin1String("html"), QLatin1String("html"),
-                QT_TRANSLATE_NOOP("Formats", "one page that needs no other file"), true, true, false, htmlOf},
+                QT_TRANSLATE_NOOP("ReportConvert", "one page that needs no other file"), true, true, false, htmlOf},
         {QLatin1String("pdf"), QLatin1String("pdf"),
-                QT_TRANSLATE_NOOP("Formats", "Letter pages to print or to hand on"), true, true, true, pdfOf},
+                QT_TRANSLATE_NOOP("ReportConvert", "Letter pages to print or to hand on"), true, true, true, pdfOf},
         {QLatin1String("xml"), QLatin1String("xml"),
-                QT_TRANSLATE_NOOP("Formats", "for machines, elements named by the tags"), false, false, false, xmlOf},
+                QT_TRANSLATE_NOOP("ReportConvert", "for machines, elements named by the tags"), false, false, false,
+                xmlOf},
         {QLatin1String("json"), QLatin1String("json"),
-                QT_TRANSLATE_NOOP("Formats", "the document itself, sorted and indented"), false, false, false, jsonOf},
+                QT_TRANSLATE_NOOP("ReportConvert", "the document itself, sorted and indented"), false, false, false,
+                jsonOf},
         {QLatin1String("text"), QLatin1String("txt"),
-                QT_TRANSLATE_NOOP("Formats", "80 columns, for a mail or a printer"), true, false, false, textOf},
+                QT_TRANSLATE_NOOP("ReportConvert", "80 columns, for a mail or a printer"), true, false, false, textOf},
 };
 
 template<typename Predicate> const Format* findFormat(Predicate isWanted)
@@ -136,17 +139,16 @@ template<typename Predicate> const Format* findFormat(Predicate isWanted)
 
 QString logoProblem(const QString& path)
 {
-    const auto tr = [](const char* text) { return QCoreApplication::translate("Formats", text); };
     const QFileInfo file(path);
     if (!file.isFile() || !file.isReadable())
-        return tr("The logo %1 cannot be read. Name a picture file with --logo.").arg(path);
+        return Texts::tr("The logo %1 cannot be read. Name a picture file with --logo.").arg(path);
     if (file.size() > maximumLogoSize)
-        return tr("The logo %1 is larger than 1 MiB. Make it smaller.").arg(path);
+        return Texts::tr("The logo %1 is larger than 1 MiB. Make it smaller.").arg(path);
     const QSize size = QImageReader(path).size();
     if (qint64(size.width()) * size.height() > maximumLogoPixels)
-        return tr("The logo %1 has more than 50 million pixels. Make it smaller.").arg(path);
+        return Texts::tr("The logo %1 has more than 50 million pixels. Make it smaller.").arg(path);
     if (!QImageReader(path).canRead())
-        return tr("The logo %1 is no picture in a known format. Name a PNG or JPEG file with --logo.").arg(path);
+        return Texts::tr("The logo %1 is no picture in a known format. Name a PNG or JPEG file with --logo.").arg(path);
     return {};
 }
 

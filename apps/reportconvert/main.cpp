@@ -6,6 +6,7 @@
 #include "plan.h"
 #include "signals.h"
 #include "streams.h"
+#include "texts.h"
 #include "workspace.h"
 
 #include <embedded/embeddedbackend.h>
@@ -42,8 +43,7 @@ bool loadServices(kiv::embedded::EmbeddedBackend& backend, const Options& option
         return false;
     if (options.serviceFolders.isEmpty() || !backend.serviceNames().isEmpty())
         return true;
-    say(QCoreApplication::translate(
-            "main", "No service could be loaded from %1. Name a folder with service files with --services.")
+    say(Texts::tr("No service could be loaded from %1. Name a folder with service files with --services.")
                     .arg(options.serviceFolders.join(QStringLiteral(", "))));
     return false;
 }
@@ -53,8 +53,7 @@ void warnOfMissingIcons(const Plan& plan)
 {
     if (!plan.writes(&Format::isPage) || QFile::exists(uiutils::onDisk(uiutils::paths::passIcon)))
         return;
-    say(QCoreApplication::translate(
-            "main", "warning: pages will show no status icons, because UIUTILS_ROOT names %1, where there are none.")
+    say(Texts::tr("warning: pages will show no status icons, because UIUTILS_ROOT names %1, where there are none.")
                     .arg(qEnvironmentVariable("UIUTILS_ROOT")));
 }
 

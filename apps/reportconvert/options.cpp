@@ -1,5 +1,7 @@
 #include "options.h"
 
+#include "texts.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
@@ -8,11 +10,6 @@ namespace uiutils::convert {
 namespace {
 
 const QLatin1String everyFormat("all");
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Options", text);
-}
 
 Options misused(const QString& message)
 {
@@ -26,7 +23,7 @@ QString formatHelp()
     for (const Format* format : allFormats()) {
         text += QStringLiteral("                           %1  %2\n")
                         .arg(format->name, -5)
-                        .arg(QCoreApplication::translate("Formats", format->description));
+                        .arg(Texts::tr(format->description));
     }
     return text;
 }
@@ -34,7 +31,7 @@ QString formatHelp()
 /// In the shape that help2man reads: the parser's own text has no sections for exit status and examples.
 QString helpText()
 {
-    return tr(R"(Usage: reportconvert [OPTION]... DOCUMENT...
+    return Texts::tr(R"(Usage: reportconvert [OPTION]... DOCUMENT...
 Convert report documents of the instrument (JSON) to HTML, PDF, XML, JSON or
 plain text.
 
@@ -146,31 +143,31 @@ Options readOptions(const QStringList& arguments)
     Options options;
     options.documents = parser.positionalArguments();
     if (options.documents.isEmpty())
-        return misused(tr("No document is given; \"-\" reads one from standard input."));
+        return misused(Texts::tr("No document is given; \"-\" reads one from standard input."));
     if (options.documents.contains(QString()))
-        return misused(tr("The name of a document is empty."));
+        return misused(Texts::tr("The name of a document is empty."));
     const QStringList formats = parser.values(format);
     for (const QString& name : formats) {
         if (!addFormats(name, &options.formats))
-            return misused(tr("There is no format \"%1\", only %2 and all.").arg(name, formatNames()));
+            return misused(Texts::tr("There is no format \"%1\", only %2 and all.").arg(name, formatNames()));
     }
     options.output = parser.isSet(output) ? parser.value(output) : QStringLiteral(".");
     if (options.output.isEmpty())
-        return misused(tr("--output needs the name of a folder or file, or \"-\"."));
+        return misused(Texts::tr("--output needs the name of a folder or file, or \"-\"."));
     options.serviceFolders = splitFolders(parser.values(services));
     if (parser.isSet(services) && options.serviceFolders.isEmpty())
-        return misused(tr("--services needs the name of a folder."));
+        return misused(Texts::tr("--services needs the name of a folder."));
     if (parser.isSet(title))
         options.page.title = parser.value(title);
     options.page.hasLogo = !parser.isSet(noLogo);
     if (parser.isSet(logo) && parser.isSet(noLogo))
-        return misused(tr("--logo and --no-logo cannot be used together."));
+        return misused(Texts::tr("--logo and --no-logo cannot be used together."));
     if (parser.isSet(logo) && parser.value(logo).isEmpty())
-        return misused(tr("--logo needs the name of a picture file."));
+        return misused(Texts::tr("--logo needs the name of a picture file."));
     options.page.logoFile = parser.value(logo);
     if (parser.isSet(orientation) && !isOrientation(parser.value(orientation)))
-        return misused(
-                tr("There is no orientation \"%1\", only portrait and landscape.").arg(parser.value(orientation)));
+        return misused(Texts::tr("There is no orientation \"%1\", only portrait and landscape.")
+                               .arg(parser.value(orientation)));
     options.page.orientation = parser.value(orientation);
     options.page.unitId = parser.value(unitId);
     options.isStrict = parser.isSet(strict);

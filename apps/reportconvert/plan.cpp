@@ -1,6 +1,7 @@
 #include "plan.h"
 
-#include <QCoreApplication>
+#include "texts.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -15,11 +16,6 @@
 namespace uiutils::convert {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Plan", text);
-}
 
 bool isStandardStream(const QString& name)
 {
@@ -62,8 +58,8 @@ QString clashOf(const QVector<Job>& jobs)
     for (const Job& job : jobs) {
         for (const Target& target : job.targets) {
             if (documentOf.contains(target.path)) {
-                return tr("%1 and %2 would both be written to %3. Convert them in two calls, into different "
-                          "folders.")
+                return Texts::tr("%1 and %2 would both be written to %3. Convert them in two calls, into different "
+                                 "folders.")
                         .arg(documentOf.value(target.path), job.name(), target.path);
             }
             documentOf.insert(target.path, job.name());
@@ -83,7 +79,7 @@ QString overwrittenDocument(const QVector<Job>& jobs)
         for (const Target& target : job.targets) {
             const std::optional<Identity> identity = identityOf(target.path);
             if (identity && documents.contains(*identity)) {
-                return tr("%1 would overwrite the document %2. Name another folder or file with --output.")
+                return Texts::tr("%1 would overwrite the document %2. Name another folder or file with --output.")
                         .arg(target.path, documents.value(*identity));
             }
         }
@@ -120,9 +116,9 @@ Plan intoOne(const Options& options)
     const bool toStandardOutput = isStandardStream(options.output);
     if (options.documents.size() > 1 || options.formats.size() > 1) {
         return refused(toStandardOutput
-                        ? tr("Standard output takes one document in one format. Name a folder with --output.")
-                        : tr("%1 is no folder, and a file takes one document in one format. For a folder "
-                             "that is to be made, end its name in \"/\".")
+                        ? Texts::tr("Standard output takes one document in one format. Name a folder with --output.")
+                        : Texts::tr("%1 is no folder, and a file takes one document in one format. For a folder "
+                                    "that is to be made, end its name in \"/\".")
                                   .arg(options.output));
     }
     Plan plan;
@@ -135,11 +131,11 @@ Plan intoOne(const Options& options)
 QString idleOption(const PageSettings& page, const Plan& plan)
 {
     if (!page.title.isNull() && !plan.writes(&Format::hasTitle))
-        return tr("--title changes HTML pages, PDF files and plain texts only, and none is asked for.");
+        return Texts::tr("--title changes HTML pages, PDF files and plain texts only, and none is asked for.");
     if ((!page.hasLogo || !page.logoFile.isEmpty()) && !plan.writes(&Format::isPage))
-        return tr("--logo and --no-logo change HTML pages and PDF files only, and none is asked for.");
+        return Texts::tr("--logo and --no-logo change HTML pages and PDF files only, and none is asked for.");
     if ((!page.orientation.isEmpty() || !page.unitId.isEmpty()) && !plan.writes(&Format::isPaper))
-        return tr("--orientation and --unit-id change PDF files only, and none is asked for.");
+        return Texts::tr("--orientation and --unit-id change PDF files only, and none is asked for.");
     return {};
 }
 
@@ -174,7 +170,7 @@ Plan makePlan(const Options& given)
         const Format* const format
                 = writesFolder ? nullptr : formatBySuffix(QFileInfo(options.output).suffix().toLower());
         if (!format)
-            return refused(tr("Name a format with --format: %1 or all.").arg(formatNames()));
+            return refused(Texts::tr("Name a format with --format: %1 or all.").arg(formatNames()));
         options.formats += format;
     }
     Plan plan = writesFolder ? intoFolder(options) : intoOne(options);

@@ -1,10 +1,9 @@
 #include "streams.h"
 
 #include "signals.h"
+#include "texts.h"
 
 #include <kiv/plovjsondocument.h>
-
-#include <QCoreApplication>
 
 #include <array>
 #include <cerrno>
@@ -17,11 +16,6 @@ namespace uiutils::convert {
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Streams", text);
-}
-
 bool fail(const QString& reason, QString* error)
 {
     *error = reason;
@@ -32,8 +26,8 @@ bool fail(const QString& reason, QString* error)
 QString outputError()
 {
     if (errno == EPIPE)
-        return tr("Cannot write to standard output: its reader has closed it.");
-    return tr("Cannot write to standard output: %1. Name a file with --output.").arg(qt_error_string(errno));
+        return Texts::tr("Cannot write to standard output: its reader has closed it.");
+    return Texts::tr("Cannot write to standard output: %1. Name a file with --output.").arg(qt_error_string(errno));
 }
 
 bool isPassing(int error)
@@ -61,17 +55,17 @@ bool copyStandardInput(QIODevice& target, QString* error)
         if (count < 0 && isPassing(errno))
             continue;
         if (count < 0)
-            return fail(tr("cannot be read: %1").arg(qt_error_string(errno)), error);
+            return fail(Texts::tr("cannot be read: %1").arg(qt_error_string(errno)), error);
         if (count == 0)
             return true;
         total += count;
         if (total > PlovJsonDocument::maximumFileSize) {
-            return fail(tr("larger than the %1 MiB that a document may have")
+            return fail(Texts::tr("larger than the %1 MiB that a document may have")
                                 .arg(PlovJsonDocument::maximumFileSize / 1024 / 1024),
                     error);
         }
         if (target.write(buffer.data(), count) != count)
-            return fail(tr("cannot be kept meanwhile: %1").arg(target.errorString()), error);
+            return fail(Texts::tr("cannot be kept meanwhile: %1").arg(target.errorString()), error);
     }
     return false;
 }

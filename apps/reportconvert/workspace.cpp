@@ -2,8 +2,8 @@
 
 #include "base/paths.h"
 #include "base/temporaries_p.h"
+#include "texts.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -12,11 +12,6 @@
 namespace uiutils::convert {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Workspace", text);
-}
 
 /// Not QDir::tempPath(), which is "/" when TMPDIR names a folder that does not exist.
 QString place()
@@ -35,7 +30,7 @@ bool Workspace::prepare(QString* error)
     removeStaleTemporaries(place());
     m_folder = std::make_unique<TemporaryFolder>(place());
     if (path().isEmpty()) {
-        *error = tr("No temporary folder can be made in %1: %2. Name another place with TMPDIR.")
+        *error = Texts::tr("No temporary folder can be made in %1: %2. Name another place with TMPDIR.")
                          .arg(place(), qt_error_string(errno));
         return false;
     }
@@ -44,8 +39,8 @@ bool Workspace::prepare(QString* error)
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(path()));
     if (!qEnvironmentVariableIsEmpty("UIUTILS_ROOT") || makeRoot())
         return true;
-    *error = tr("The temporary folder %1 cannot be filled. Check the free space there, or name another "
-                "place with TMPDIR.")
+    *error = Texts::tr("The temporary folder %1 cannot be filled. Check the free space there, or name another "
+                       "place with TMPDIR.")
                      .arg(path());
     return false;
 }

@@ -1,19 +1,14 @@
 #include "options.h"
 
 #include "common/locations.h"
+#include "texts.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QDir>
 
 namespace uiutils::qmltool {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Options", text);
-}
 
 Options misused(const QString& message)
 {
@@ -28,24 +23,26 @@ Options readOptions(const QStringList& arguments)
     const QStringList ownServices = apps::defaultServiceFolders();
     QCommandLineParser parser;
     parser.setApplicationDescription(
-            tr("Shows a QML page with every item of the described services under its name, such as "
-               "basemgr_cfg_saveLocation, and the services themselves as members of \"services\", such as "
-               "services.basemgr.\n\n"
-               "Exit status: 0 done, 1 failed, 2 wrong command line."));
-    parser.addPositionalArgument(QStringLiteral("page"), tr("The QML file to show."), QStringLiteral("page.qml"));
+            Texts::tr("Shows a QML page with every item of the described services under its name, such as "
+                      "basemgr_cfg_saveLocation, and the services themselves as members of \"services\", such as "
+                      "services.basemgr.\n\n"
+                      "Exit status: 0 done, 1 failed, 2 wrong command line."));
+    parser.addPositionalArgument(
+            QStringLiteral("page"), Texts::tr("The QML file to show."), QStringLiteral("page.qml"));
     const QCommandLineOption services({QStringLiteral("s"), QStringLiteral("services")},
-            tr("Publish the services described in <folder>; may be given more than once (default: %1).")
+            Texts::tr("Publish the services described in <folder>; may be given more than once (default: %1).")
                     .arg(ownServices.join(QLatin1Char(':'))),
-            tr("folder"));
+            Texts::tr("folder"));
     const QCommandLineOption imports({QStringLiteral("I"), QStringLiteral("import")},
-            tr("Look for further QML modules in <folder>; may be given more than once."), tr("folder"));
+            Texts::tr("Look for further QML modules in <folder>; may be given more than once."), Texts::tr("folder"));
     const QCommandLineOption root(QStringLiteral("root"),
-            tr("Keep everything that is written, also changed settings, below <folder> (default: %1).").arg(ownRoot),
-            tr("folder"), ownRoot);
-    const QCommandLineOption picture(
-            QStringLiteral("grab"), tr("Write a picture of the page to <file> (PNG) and quit."), tr("file"));
+            Texts::tr("Keep everything that is written, also changed settings, below <folder> (default: %1).")
+                    .arg(ownRoot),
+            Texts::tr("folder"), ownRoot);
+    const QCommandLineOption picture(QStringLiteral("grab"),
+            Texts::tr("Write a picture of the page to <file> (PNG) and quit."), Texts::tr("file"));
     const QCommandLineOption list(QStringLiteral("list"),
-            tr("List the items, one on a line: name in QML, type and value, parted by tabs. Needs no page."));
+            Texts::tr("List the items, one on a line: name in QML, type and value, parted by tabs. Needs no page."));
     parser.addOptions({services, imports, root, picture, list});
 
     const apps::CommandLine line = apps::parse(parser, arguments);
@@ -53,11 +50,11 @@ Options readOptions(const QStringList& arguments)
         return apps::ended<Options>(line);
     for (const QCommandLineOption& option : {services, imports, root, picture}) {
         if (parser.values(option).contains(QString()))
-            return misused(tr("--%1 needs a name.").arg(option.names().constLast()));
+            return misused(Texts::tr("--%1 needs a name.").arg(option.names().constLast()));
     }
     const QStringList pages = parser.positionalArguments();
     if (parser.isSet(list) != pages.isEmpty() || pages.size() > 1 || pages.contains(QString()))
-        return misused(parser.isSet(list) ? tr("--list takes no page.") : tr("Name one page to show."));
+        return misused(parser.isSet(list) ? Texts::tr("--list takes no page.") : Texts::tr("Name one page to show."));
 
     Options options;
     options.page = pages.value(0);

@@ -1,9 +1,9 @@
 #include "pagewindow.h"
 
 #include "base/durablefile.h"
+#include "texts.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QImage>
 #include <QQmlEngine>
@@ -16,11 +16,6 @@
 namespace uiutils::qmltool {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("PageWindow", text);
-}
 
 QString plainTextOf(const QQmlComponent& component)
 {
@@ -38,7 +33,7 @@ QString writePicture(const QImage& image, const QString& file)
     buffer.open(QIODevice::WriteOnly);
     QString error;
     if (!image.save(&buffer, "PNG"))
-        return tr("The page gave no picture for %1.").arg(file);
+        return Texts::tr("The page gave no picture for %1.").arg(file);
     return writeFileDurably(file, bytes, &error) ? QString() : error;
 }
 
@@ -46,7 +41,7 @@ void grab(QQuickWindow* window, const QString& file, const std::function<void(co
 {
     const QSharedPointer<QQuickItemGrabResult> result = window->contentItem()->grabToImage();
     if (!result)
-        return done(tr("The page gave no picture for %1.").arg(file));
+        return done(Texts::tr("The page gave no picture for %1.").arg(file));
     // Queued, because the result, which this holds, must outlive its own signal.
     QObject::connect(
             result.data(), &QQuickItemGrabResult::ready, window,
@@ -59,7 +54,7 @@ PageWindow::PageWindow(QQmlEngine* engine, const QString& file)
     : m_component(engine)
 {
     if (!QFileInfo(file).isFile()) {
-        m_error = tr("There is no page %1.").arg(file);
+        m_error = Texts::tr("There is no page %1.").arg(file);
         return;
     }
     m_component.loadUrl(QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()), QQmlComponent::PreferSynchronous);
@@ -81,7 +76,7 @@ void PageWindow::show(QQmlEngine* engine)
     }
     auto* item = qobject_cast<QQuickItem*>(m_root.get());
     if (!item) {
-        m_error = tr("The page is neither an item nor a window.");
+        m_error = Texts::tr("The page is neither an item nor a window.");
         return;
     }
     auto view = std::make_unique<QQuickView>(engine, nullptr);
@@ -109,7 +104,8 @@ void takePicture(QQuickWindow* window, const QString& file, const std::function<
     // In which a window that is drawn at all has been drawn.
     constexpr int patienceMs = 20000;
     QTimer::singleShot(patienceMs, window, [file, done] {
-        done(tr("The page was not drawn in time for %1. Keep its window in sight, or unset DISPLAY and WAYLAND_DISPLAY.")
+        done(Texts::tr(
+                "The page was not drawn in time for %1. Keep its window in sight, or unset DISPLAY and WAYLAND_DISPLAY.")
                         .arg(file));
     });
 }

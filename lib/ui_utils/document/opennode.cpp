@@ -36,7 +36,7 @@ struct DecimalText
         : padded(n)
         , number(n)
     {
-        while (padded != 0 && padded < 1'000'000'000)
+        while (padded != 0 && padded < 1000 * 1000 * 1000)
             padded *= 10;
     }
     bool operator<(const DecimalText& other) const

@@ -27,7 +27,7 @@ qint64 blocksFor(qint64 bytes, qint64 blockSize);
 qint64 blocksOfFile(const QString& path, qint64 blockSize);
 
 /// The files and folders that a tree may have: more would keep the screens waiting.
-constexpr int mostTreeEntries = 100'000;
+constexpr int mostTreeEntries = 100 * 1000;
 
 /// See FileUtils::getDirSize(). `source` has to exist. Nothing, and what is wrong with the tree in `problem`, when a
 /// folder cannot be read and when there are more than `mostEntries` below it.

@@ -3,20 +3,15 @@
 #include "base/paths.h"
 #include "core/itemids.h"
 #include "instrument/job_p.h"
+#include "report/reporttexts_p.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/schemavalidator.h>
 
-#include <QCoreApplication>
 
 namespace uiutils {
 
 namespace {
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("Report", text);
-}
 
 /// Why the schema does not allow the report; empty when it does.
 QString schemaProblem(const QByteArray& xml, const QString& schemaPath)
@@ -25,13 +20,12 @@ QString schemaProblem(const QByteArray& xml, const QString& schemaPath)
         return QString();
     SchemaValidator validator;
     if (!validator.setSchemaFile(onDisk(schemaPath))) {
-        return translated(QT_TRANSLATE_NOOP("Report", "The schema %1 cannot be used: %2"))
+        return ReportTexts::tr("The schema %1 cannot be used: %2")
                 .arg(schemaPath, validator.errors().join(QLatin1Char('\n')));
     }
     if (validator.validate(xml))
         return QString();
-    return translated(QT_TRANSLATE_NOOP("Report", "The report is not what jobs accept: %1"))
-            .arg(validator.errors().join(QLatin1Char('\n')));
+    return ReportTexts::tr("The report is not what jobs accept: %1").arg(validator.errors().join(QLatin1Char('\n')));
 }
 
 /// Why the base manager does not take the report; empty when it has.
@@ -39,10 +33,10 @@ QString refusal(const QByteArray& xml)
 {
     KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
     if (!client || !instrument::isJobActive())
-        return translated(QT_TRANSLATE_NOOP("Report", "There is no active job"));
+        return ReportTexts::tr("There is no active job");
     if (client->sendAction(itemids::attachReport, QString::fromUtf8(xml), nullptr, KIVClientInterface::callTimeout))
         return QString();
-    return translated(QT_TRANSLATE_NOOP("Report", "The job has not taken the report: %1")).arg(client->getLastError());
+    return ReportTexts::tr("The job has not taken the report: %1").arg(client->getLastError());
 }
 
 } // namespace

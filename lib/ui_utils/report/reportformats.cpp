@@ -1,8 +1,7 @@
 #include "report/reportformats_p.h"
 
 #include "local/uidata.h"
-
-#include <QCoreApplication>
+#include "report/reporttexts_p.h"
 
 namespace uiutils {
 
@@ -78,7 +77,7 @@ void addFormatChoices(UiData& item)
     QStringList names;
     for (const ReportFormat& format : allReportFormats()) {
         values.append(format.value);
-        labels.append(QCoreApplication::translate("Report", format.label));
+        labels.append(ReportTexts::tr(format.label));
         names.append(QLatin1String(format.name));
     }
     item.setUiEnumList(new UiDataEnums(&item));

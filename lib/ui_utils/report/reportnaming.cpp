@@ -1,8 +1,8 @@
 #include "report/reportnaming_p.h"
 
 #include "report/reportformats_p.h"
+#include "report/reporttexts_p.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QStringList>
 #include <QVector>
@@ -10,11 +10,6 @@
 namespace uiutils {
 
 namespace {
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("Report", text);
-}
 
 QString withSlash(const QString& folder)
 {
@@ -55,11 +50,11 @@ QString safeFileName(const QString& name)
 QString nameProblem(const QString& name, const QString& suffix, bool compressed)
 {
     if (name == QLatin1String(".") || name == QLatin1String(".."))
-        return translated(QT_TRANSLATE_NOOP("Report", "\"%1\" is no name of a file.")).arg(name);
+        return ReportTexts::tr("\"%1\" is no name of a file.").arg(name);
     if (name.contains(QLatin1Char('/')))
-        return translated(QT_TRANSLATE_NOOP("Report", "The name may not have \"/\" in it."));
+        return ReportTexts::tr("The name may not have \"/\" in it.");
     if (name.contains(QChar(QChar::Null)))
-        return translated(QT_TRANSLATE_NOOP("Report", "The name may not have a NUL character in it."));
+        return ReportTexts::tr("The name may not have a NUL character in it.");
     constexpr int mostBytes = 255;
     const auto fits = [&](const QString& part) {
         const QString plain = withSuffix(safeFileName(part), suffix);
@@ -72,9 +67,7 @@ QString nameProblem(const QString& name, const QString& suffix, bool compressed)
     int most = qMin(characters.size(), 2 * mostBytes);
     while (most > 0 && !fits(QString::fromUcs4(characters.constData(), most)))
         --most;
-    return translated(QT_TRANSLATE_NOOP("Report", "The name may have %1 characters, it has %2."))
-            .arg(most)
-            .arg(characters.size());
+    return ReportTexts::tr("The name may have %1 characters, it has %2.").arg(most).arg(characters.size());
 }
 
 QString safeFolder(const QString& folder)

@@ -15,10 +15,10 @@ constexpr unsigned inputDnsName = 20;
 /// No double has more digits to show; a service could ask for milliards.
 constexpr unsigned maximumDecimals = 340;
 
-QString tr(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("KivData", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(KivData)
+};
 
 /// The words of one kind of length.
 struct LengthTexts
@@ -57,10 +57,10 @@ public:
         if (isOpen())
             return QString();
         if (m_minimum == QLatin1String("0"))
-            return tr(texts.atMost).arg(m_maximum);
+            return Texts::tr(texts.atMost).arg(m_maximum);
         if (m_minimum == m_maximum)
-            return tr(texts.exactly).arg(m_minimum);
-        return tr(texts.between).arg(m_minimum, m_maximum);
+            return Texts::tr(texts.exactly).arg(m_minimum);
+        return Texts::tr(texts.between).arg(m_minimum, m_maximum);
     }
 
     QString integer() const
@@ -68,7 +68,7 @@ public:
         if (isOpen())
             return QString();
         if (m_minimum == m_maximum)
-            return tr(QT_TRANSLATE_NOOP("KivData", "%1 only")).arg(m_minimum);
+            return Texts::tr("%1 only").arg(m_minimum);
         return withUnits(m_minimum, m_maximum);
     }
 
@@ -85,7 +85,7 @@ public:
     QString general() const
     {
         if (m_units.isEmpty() && m_range.type == QLatin1String("std::string"))
-            return tr(charTexts.between).arg(m_minimum, m_maximum);
+            return Texts::tr(charTexts.between).arg(m_minimum, m_maximum);
         return withUnits(m_minimum, m_maximum);
     }
 
@@ -116,11 +116,11 @@ QString rangeDescription(const InputRange& range)
 {
     switch (range.inputType) {
     case KivData::INPUT_IP:
-        return tr(QT_TRANSLATE_NOOP("KivData", "Please enter IP address"));
+        return Texts::tr("Please enter IP address");
     case KivData::INPUT_IPV4:
         return QStringLiteral("0.0.0.0 - 255.255.255.255");
     case KivData::INPUT_IPV6:
-        return tr(QT_TRANSLATE_NOOP("KivData", "Please enter IPv6 address"));
+        return Texts::tr("Please enter IPv6 address");
     case KivData::INPUT_MAC:
         return QStringLiteral("00:00:00:00:00:00 - FF:FF:FF:FF:FF:FF");
     case KivData::INPUT_ALPHANUMERIC:
@@ -133,12 +133,12 @@ QString rangeDescription(const InputRange& range)
     case KivData::INPUT_POSITIVE_FLOAT:
         return Describer(range).real();
     case KivData::INPUT_URL:
-        return tr(QT_TRANSLATE_NOOP("KivData", "Please enter URL"));
+        return Texts::tr("Please enter URL");
     case KivData::INPUT_DIGITS:
     case KivData::INPUT_PHONE_NUMBER:
         return Describer(range).length(digitTexts);
     case inputDnsName:
-        return tr(QT_TRANSLATE_NOOP("KivData", "Please enter DNS name"));
+        return Texts::tr("Please enter DNS name");
     default:
         return Describer(range).general();
     }

@@ -8,10 +8,10 @@
 
 namespace {
 
-QString tr(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("PlovJsonDocument", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PlovJsonDocument)
+};
 
 /// "line:column" of a byte offset, both counted from 1, columns in characters.
 QString textPosition(const QByteArray& text, int offset)
@@ -38,21 +38,21 @@ bool PlovJsonDocument::readFile(const QString& path)
 
     // A pipe or a device could keep the reader waiting for ever.
     if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-        return fail(tr("%1: not a regular file").arg(path));
+        return fail(Texts::tr("%1: not a regular file").arg(path));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return fail(tr("%1: cannot be opened: %2").arg(path, file.errorString()));
+        return fail(Texts::tr("%1: cannot be opened: %2").arg(path, file.errorString()));
     if (file.size() > maximumFileSize)
-        return fail(tr("%1: larger than the %2 MiB that a document may have")
+        return fail(Texts::tr("%1: larger than the %2 MiB that a document may have")
                             .arg(path, QString::number(maximumFileSize / 1024 / 1024)));
 
     // A byte more than the size shows a file that grew; asking for the most would allocate the most.
     const QByteArray text = file.read(qMin(file.size() + 1, maximumFileSize));
     if (file.error() != QFileDevice::NoError)
-        return fail(tr("%1: cannot be read: %2").arg(path, file.errorString()));
+        return fail(Texts::tr("%1: cannot be read: %2").arg(path, file.errorString()));
 
     if (containersIn(text) > maximumContainers)
-        return fail(tr("%1: holds more than the %2 objects and lists that a document may have")
+        return fail(Texts::tr("%1: holds more than the %2 objects and lists that a document may have")
                             .arg(path, QString::number(maximumContainers)));
 
     QJsonParseError parseError {};
@@ -61,7 +61,7 @@ bool PlovJsonDocument::readFile(const QString& path)
         return fail(
                 QStringLiteral("%1:%2: %3").arg(path, textPosition(text, parseError.offset), parseError.errorString()));
     if (!document.isObject())
-        return fail(tr("%1:1:1: the root of the document is not an object").arg(path));
+        return fail(Texts::tr("%1:1:1: the root of the document is not an object").arg(path));
 
     m_document = document;
     return true;

@@ -14,7 +14,7 @@ public:
     static constexpr qint64 maximumFileSize = qint64(16) * 1024 * 1024;
     /// Files with more objects and lists than that are refused before they are parsed: an empty list is two bytes in a
     /// file and a hundred in memory. Within both limits a process that reads a file grows by 320 MB at the most.
-    static constexpr int maximumContainers = 750'000;
+    static constexpr int maximumContainers = 750 * 1000;
 
     /// Replaces the content by the file's. Returns true on success. On failure the document is empty, hasError() is
     /// true and errorString() says which file, where in it (line and column, counted from 1, in characters) and why.

@@ -13,10 +13,10 @@
 
 namespace {
 
-QString tr(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("SchemaValidator", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SchemaValidator)
+};
 
 template<typename T, void (*Free)(T*)> struct Freed
 {
@@ -45,7 +45,7 @@ public:
         if (++m_count > most)
             return;
         const QString shown = text.size() > longest ? text.left(longest) + QChar(0x2026) : text;
-        m_texts += line > 0 ? tr("line %1: %2").arg(QString::number(line), shown) : shown;
+        m_texts += line > 0 ? Texts::tr("line %1: %2").arg(QString::number(line), shown) : shown;
     }
 
     bool isEmpty() const { return m_count == 0; }
@@ -53,7 +53,7 @@ public:
     QStringList texts() const
     {
         const int left = m_count - m_texts.size();
-        return left > 0 ? m_texts + QStringList(tr("and %1 more").arg(left)) : m_texts;
+        return left > 0 ? m_texts + QStringList(Texts::tr("and %1 more").arg(left)) : m_texts;
     }
 
 private:
@@ -114,7 +114,7 @@ public:
         const QString canonical = QFileInfo(path).canonicalFilePath();
         if (canonical.startsWith(m_folder) && QFileInfo(canonical).isFile())
             return QFile::encodeName(canonical);
-        m_complaints.add(0, tr("%1 is not a file in the folder of the schema").arg(path));
+        m_complaints.add(0, Texts::tr("%1 is not a file in the folder of the schema").arg(path));
         return {};
     }
 
@@ -156,7 +156,7 @@ void refuseDeclaration(void* context, const xmlChar*, const xmlChar*, const xmlC
 {
     auto* const parser = static_cast<xmlParserCtxtPtr>(context);
     static_cast<Complaints*>(parser->_private)
-            ->add(parser->input ? parser->input->line : 0, tr("document type declarations are not accepted"));
+            ->add(parser->input ? parser->input->line : 0, Texts::tr("document type declarations are not accepted"));
     xmlStopParser(parser);
 }
 
@@ -193,7 +193,7 @@ bool SchemaValidator::setSchemaFile(const QString& path)
     const QFileInfo file(path);
     QFile readable(path);
     if (!file.isFile() || !readable.open(QIODevice::ReadOnly)) {
-        d->complaints.add(0, tr("%1 cannot be read").arg(path));
+        d->complaints.add(0, Texts::tr("%1 cannot be read").arg(path));
         return false;
     }
     const QString canonical = file.canonicalFilePath();
@@ -207,7 +207,7 @@ bool SchemaValidator::setSchemaFile(const QString& path)
     if (!d->complaints.isEmpty())
         d->schema.reset();
     else if (!d->schema)
-        d->complaints.add(0, tr("%1 is no XML schema").arg(path));
+        d->complaints.add(0, Texts::tr("%1 is no XML schema").arg(path));
     return d->schema != nullptr;
 }
 
@@ -215,7 +215,7 @@ bool SchemaValidator::validate(const QByteArray& xml)
 {
     d->complaints.clear();
     if (!d->schema) {
-        d->complaints.add(0, tr("there is no schema to check against"));
+        d->complaints.add(0, Texts::tr("there is no schema to check against"));
         return false;
     }
     const Session session(d->complaints, {});
@@ -228,7 +228,7 @@ bool SchemaValidator::validate(const QByteArray& xml)
         result = xmlSchemaValidateDoc(check.get(), document.get());
     }
     if (result != 0 && d->complaints.isEmpty())
-        d->complaints.add(0, tr("the text cannot be read as XML"));
+        d->complaints.add(0, Texts::tr("the text cannot be read as XML"));
     return result == 0 && d->complaints.isEmpty();
 }
 

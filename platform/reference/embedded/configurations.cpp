@@ -1,10 +1,10 @@
 #include "configurations_p.h"
 
 #include "pendingwrites_p.h"
+#include "texts_p.h"
 
 #include "base/batchname_p.h"
 
-#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
@@ -12,11 +12,6 @@
 namespace kiv::embedded {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("EmbeddedService", text);
-}
 
 /// Finds settings by the last word of their ids. A service is indexed once, when the first name gets as far as it.
 class SettingFinder
@@ -78,7 +73,7 @@ private:
 
 Outcome refused(const QStringList& problems)
 {
-    return {false, tr("Nothing was set. %1").arg(problems.join(QLatin1Char(' ')))};
+    return {false, RequestTexts::tr("Nothing was set. %1").arg(problems.join(QLatin1Char(' ')))};
 }
 
 } // namespace
@@ -93,8 +88,8 @@ Outcome applyConfiguration(ServiceData& service, const QString& argument)
         document = QJsonDocument::fromJson(argument.toUtf8(), &error);
     if (!document.isObject()) {
         const bool isJson = error.error == QJsonParseError::NoError;
-        const QString reason = isJson ? tr("not an object") : error.errorString();
-        return refused({tr("The settings for the service %1 are not a JSON object of values by name: %2.")
+        const QString reason = isJson ? RequestTexts::tr("not an object") : error.errorString();
+        return refused({RequestTexts::tr("The settings for the service %1 are not a JSON object of values by name: %2.")
                                 .arg(service.name, reason)});
     }
     const QJsonObject values = document.object();
@@ -106,9 +101,9 @@ Outcome applyConfiguration(ServiceData& service, const QString& argument)
         const SettingFinder::Setting setting = finder.find(it.key());
         QString problem;
         if (!setting.state)
-            problem = tr("There is no setting \"%1\".").arg(it.key());
+            problem = RequestTexts::tr("There is no setting \"%1\".").arg(it.key());
         else if (named.contains(setting.state.get()))
-            problem = tr("%1 is named twice.").arg(setting.state->title());
+            problem = RequestTexts::tr("%1 is named twice.").arg(setting.state->title());
         else
             problem = writes.addWrite(*setting.service, setting.state, it.value().toVariant());
         named += setting.state.get();
@@ -117,7 +112,7 @@ Outcome applyConfiguration(ServiceData& service, const QString& argument)
     }
     if (!problems.isEmpty())
         return refused(problems);
-    const Outcome outcome {true, tr("Settings applied: %1.").arg(values.size())};
+    const Outcome outcome {true, RequestTexts::tr("Settings applied: %1.").arg(values.size())};
     writes.apply();
     return outcome;
 }
@@ -128,14 +123,16 @@ Outcome saveConfiguration(ServiceData& service, const QString& argument)
     const QString name = argument.left(comma).trimmed();
     if (comma < 0 || name.isEmpty())
         return {false,
-                tr("The configuration of %1 was not saved: it needs a name, as in \"My settings,1\".")
+                RequestTexts::tr("The configuration of %1 was not saved: it needs a name, as in \"My settings,1\".")
                         .arg(service.name)};
     if (!service.keeper)
-        return {false, tr("The configuration \"%1\" was not saved: there is no folder to keep it in.").arg(name)};
+        return {false,
+                RequestTexts::tr("The configuration \"%1\" was not saved: there is no folder to keep it in.")
+                        .arg(name)};
     QString error;
     if (!service.keeper->saveConfiguration(name, &error))
         return {false, error};
-    return {true, tr("The configuration was saved as \"%1\".").arg(name)};
+    return {true, RequestTexts::tr("The configuration was saved as \"%1\".").arg(name)};
 }
 
 } // namespace kiv::embedded

@@ -1,9 +1,9 @@
 #include "descriptioncheck_p.h"
 
 #include "itemtypes_p.h"
+#include "texts_p.h"
 #include "valueconversion_p.h"
 
-#include <QCoreApplication>
 #include <QHash>
 #include <QSet>
 
@@ -16,11 +16,6 @@ namespace {
 constexpr int maximumNameLength = 255;
 constexpr int maximumPrecision = 15;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("ServiceFile", text);
-}
-
 QString idProblem(const ItemDescription& item, unsigned type)
 {
     const QString& id = item.id;
@@ -28,17 +23,18 @@ QString idProblem(const ItemDescription& item, unsigned type)
     const bool hasCategory
             = isAction || id.startsWith(QLatin1String(":config:")) || id.startsWith(QLatin1String(":result:"));
     if (!hasCategory || !id.endsWith(QLatin1Char(':')) || id.size() > maximumNameLength)
-        return tr("the id %1 has no category, no colon at its end or more than %2 characters")
+        return ServiceFileTexts::tr("the id %1 has no category, no colon at its end or more than %2 characters")
                 .arg(id.left(maximumNameLength), QString::number(maximumNameLength));
     if (type == KIVClientItem::TypeNone)
-        return tr("the type %1 of %2 is unknown").arg(item.type, id);
+        return ServiceFileTexts::tr("the type %1 of %2 is unknown").arg(item.type, id);
     for (const QString& array : {QStringLiteral("stringARRAY"), QStringLiteral("doubleARRAY")}) {
         const bool isMarked = id.endsWith(QLatin1Char(':') + array + QLatin1Char(':'));
         if (isMarked != (item.type == array))
-            return tr("the type %1 and the id %2 disagree on whether it is an array").arg(item.type, id);
+            return ServiceFileTexts::tr("the type %1 and the id %2 disagree on whether it is an array")
+                    .arg(item.type, id);
     }
     if (isAction != (type == KIVClientItem::TypeAction))
-        return tr("the type %1 and the id %2 disagree on whether it is an action").arg(item.type, id);
+        return ServiceFileTexts::tr("the type %1 and the id %2 disagree on whether it is an action").arg(item.type, id);
     return QString();
 }
 
@@ -46,15 +42,16 @@ QString membersProblem(const ItemDescription& item, unsigned type)
 {
     const bool needsMembers = type == KIVClientItem::TypeAggregate || type == KIVClientItem::TypeListAggregate;
     if (needsMembers == item.members.isEmpty())
-        return needsMembers ? tr("a record or table without members") : tr("the type %1 has no members").arg(item.type);
+        return needsMembers ? ServiceFileTexts::tr("a record or table without members")
+                            : ServiceFileTexts::tr("the type %1 has no members").arg(item.type);
     QSet<QString> names;
     for (int i = 0; i < item.members.size(); ++i) {
         const MemberDescription& member = item.members.at(i);
         const QString place = QStringLiteral("/members/%1: ").arg(i);
         if (member.name.isEmpty() || names.contains(member.name))
-            return place + tr("the name \"%1\" is empty or stands twice").arg(member.name);
+            return place + ServiceFileTexts::tr("the name \"%1\" is empty or stands twice").arg(member.name);
         if (!isSimpleType(typeCode(member.type)))
-            return place + tr("the type %1 is none that a member can have").arg(member.type);
+            return place + ServiceFileTexts::tr("the type %1 is none that a member can have").arg(member.type);
         names += member.name;
     }
     return QString();
@@ -72,21 +69,22 @@ QString enumerationProblem(const ItemDescription& item, unsigned type)
 {
     const bool isEnumeration = item.isEnumeration || !item.choices.isEmpty();
     if (isEnumeration && type != KIVClientItem::TypeInt && type != KIVClientItem::TypeUInt)
-        return tr("the type %1 has no choices").arg(item.type);
+        return ServiceFileTexts::tr("the type %1 has no choices").arg(item.type);
     return choicesProblem(type, item.choices);
 }
 
 QString actionProblem(const ItemDescription& item, unsigned type)
 {
     if (item.does && type != KIVClientItem::TypeAction)
-        return tr("the type %1 does nothing").arg(item.type);
-    return item.does && item.does->delayMs < 0 ? tr("a delay below zero") : QString();
+        return ServiceFileTexts::tr("the type %1 does nothing").arg(item.type);
+    return item.does && item.does->delayMs < 0 ? ServiceFileTexts::tr("a delay below zero") : QString();
 }
 
 QString clearableProblem(const ItemDescription& item, unsigned type)
 {
     const bool isTextResult = type == KIVClientItem::TypeString && item.id.startsWith(QLatin1String(":result:"));
-    return item.isClearable && !isTextResult ? tr("only a text that is a result can be clearable") : QString();
+    return item.isClearable && !isTextResult ? ServiceFileTexts::tr("only a text that is a result can be clearable")
+                                             : QString();
 }
 
 QString rangeProblem(const ItemDescription& item, unsigned type)
@@ -97,7 +95,7 @@ QString rangeProblem(const ItemDescription& item, unsigned type)
 QString precisionProblem(const ItemDescription& item, unsigned)
 {
     const bool isSound = item.precision >= -1 && item.precision <= maximumPrecision;
-    return isSound ? QString() : tr("a precision outside 0 to %1").arg(maximumPrecision);
+    return isSound ? QString() : ServiceFileTexts::tr("a precision outside 0 to %1").arg(maximumPrecision);
 }
 
 /// What an action sets must be there; a text with a place for the argument is only known when it is carried out.
@@ -106,12 +104,12 @@ QString setProblem(const ItemDescription& action, const QHash<QString, const Ite
     for (auto it = action.does->set.cbegin(); it != action.does->set.cend(); ++it) {
         const ItemDescription* item = items.value(it.key());
         if (!item)
-            return tr("/does/set: there is no item %1").arg(it.key());
+            return ServiceFileTexts::tr("/does/set: there is no item %1").arg(it.key());
         const bool waitsForArgument
                 = it->userType() == QMetaType::QString && it->toString().contains(QLatin1String("%1"));
         const QString problem = convertToType(typeCode(item->type), item->members, *it).problem;
         if (!waitsForArgument && !problem.isEmpty())
-            return tr("/does/set: the value of %1: %2").arg(it.key(), problem);
+            return ServiceFileTexts::tr("/does/set: the value of %1: %2").arg(it.key(), problem);
     }
     return QString();
 }
@@ -120,7 +118,7 @@ QString mountedProblem(const QStringList& paths)
 {
     for (int i = 0; i < paths.size(); ++i) {
         if (!paths.at(i).startsWith(QLatin1Char('/')))
-            return QStringLiteral("/mounted/%1: ").arg(i) + tr("a mount point begins with a slash");
+            return QStringLiteral("/mounted/%1: ").arg(i) + ServiceFileTexts::tr("a mount point begins with a slash");
     }
     return QString();
 }
@@ -136,11 +134,12 @@ QString atItem(int index, const QString& problem)
 QString serviceProblem(const ServiceDescription& service)
 {
     if (service.service.isEmpty() || service.service.size() > maximumNameLength)
-        return tr("/service: a name has 1 to %1 characters").arg(maximumNameLength);
+        return ServiceFileTexts::tr("/service: a name has 1 to %1 characters").arg(maximumNameLength);
     QHash<QString, const ItemDescription*> items;
     for (int i = 0; i < service.items.size(); ++i) {
         const ItemDescription& item = service.items.at(i);
-        const QString problem = items.contains(item.id) ? tr("the id %1 stands twice").arg(item.id) : itemProblem(item);
+        const QString problem = items.contains(item.id) ? ServiceFileTexts::tr("the id %1 stands twice").arg(item.id)
+                                                        : itemProblem(item);
         if (!problem.isEmpty())
             return atItem(i, problem);
         items.insert(item.id, &item);
@@ -173,9 +172,9 @@ QString choicesProblem(unsigned type, const QVector<ChoiceDescription>& choices)
         const ChoiceDescription& choice = choices.at(i);
         const QString place = QStringLiteral("/choices/%1: ").arg(i);
         if (values.contains(choice.value) || (type == KIVClientItem::TypeUInt && choice.value < 0))
-            return place + tr("the value %1 stands twice or is below zero").arg(choice.value);
+            return place + ServiceFileTexts::tr("the value %1 stands twice or is below zero").arg(choice.value);
         if (choice.name.isEmpty() || names.contains(choice.name))
-            return place + tr("the name \"%1\" is empty or stands twice").arg(choice.name);
+            return place + ServiceFileTexts::tr("the name \"%1\" is empty or stands twice").arg(choice.name);
         values += choice.value;
         names += choice.name;
     }
@@ -189,7 +188,7 @@ Limits convertLimits(unsigned type, const QVariant& minimum, const QVariant& max
     const unsigned element = elementType(type);
     if (element != KIVClientItem::TypeString && element != KIVClientItem::TypeInt && element != KIVClientItem::TypeUInt
             && element != KIVClientItem::TypeDouble)
-        return {{}, {}, tr("a value of this type has no limits")};
+        return {{}, {}, ServiceFileTexts::tr("a value of this type has no limits")};
     // Lengths are whole numbers.
     const unsigned limitType = element == KIVClientItem::TypeString ? unsigned(KIVClientItem::TypeInt) : element;
     Limits limits;
@@ -199,11 +198,12 @@ Limits convertLimits(unsigned type, const QVariant& minimum, const QVariant& max
         if (!conversion.problem.isEmpty() || std::isnan(conversion.value.toDouble()))
             return {{}, {},
                     (isMinimum ? QLatin1String("/minimum: ") : QLatin1String("/maximum: "))
-                            + (conversion.problem.isEmpty() ? tr("not a number") : conversion.problem)};
+                            + (conversion.problem.isEmpty() ? ServiceFileTexts::tr("not a number")
+                                                            : conversion.problem)};
         (isMinimum ? limits.minimum : limits.maximum) = conversion.value;
     }
     if (limits.minimum.isValid() && limits.maximum.isValid() && limits.minimum.toDouble() > limits.maximum.toDouble())
-        limits.problem = tr("the minimum is above the maximum");
+        limits.problem = ServiceFileTexts::tr("the minimum is above the maximum");
     return limits;
 }
 

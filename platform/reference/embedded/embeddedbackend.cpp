@@ -6,8 +6,8 @@
 #include "servicedata_p.h"
 #include "servicefile_p.h"
 #include "serviceregistry_p.h"
+#include "texts_p.h"
 
-#include <QCoreApplication>
 #include <QDir>
 
 #include <algorithm>
@@ -55,9 +55,7 @@ QStringList EmbeddedBackend::loadFolders(const QStringList& folders)
     for (const QString& folder : folders) {
         const QDir dir(folder);
         if (!dir.exists() || !dir.isReadable()) {
-            problems
-                    += QCoreApplication::translate("EmbeddedBackend", "%1: no folder of service files, or not readable")
-                               .arg(folder);
+            problems += ServiceFileTexts::tr("%1: no folder of service files, or not readable").arg(folder);
             continue;
         }
         const QStringList files = dir.entryList({QStringLiteral("*.service.json")}, QDir::Files, QDir::Name);
@@ -109,11 +107,9 @@ EmbeddedService* EmbeddedBackend::publish(
 {
     ServicePlace* place = d->registry.makePlace(description.service);
     if (place->service()) {
-        const QString owner = place->file().isEmpty() ? QCoreApplication::translate("EmbeddedBackend", "the program")
-                                                      : place->file();
+        const QString owner = place->file().isEmpty() ? ServiceFileTexts::tr("the program") : place->file();
         const QString reason
-                = QCoreApplication::translate("EmbeddedBackend", "/service: \"%1\" is published already by %2")
-                          .arg(description.service, owner);
+                = ServiceFileTexts::tr("/service: \"%1\" is published already by %2").arg(description.service, owner);
         *problems += file.isEmpty() ? reason : file + QLatin1String(": ") + reason;
         return nullptr;
     }

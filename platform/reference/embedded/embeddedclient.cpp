@@ -1,6 +1,7 @@
 #include "embeddedclient_p.h"
 
 #include "serviceregistry_p.h"
+#include "texts_p.h"
 
 #include <QThread>
 #include <QTimer>
@@ -86,7 +87,8 @@ Outcome EmbeddedClient::call(int delayMs, int timeoutMs, const Request& request)
 {
     EmbeddedService* called = service();
     if (!called)
-        return {false, tr("The service %1 cannot be reached. Try again when it runs.").arg(m_serviceName)};
+        return {false,
+                RequestTexts::tr("The service %1 cannot be reached. Try again when it runs.").arg(m_serviceName)};
     const qint64 delay = qint64(ServiceData::of(*called).delayMs) + delayMs;
     const qint64 timeout = std::max(timeoutMs, 0);
     // The contract forbids an event loop here: the caller's page stands still, as it does on an instrument. Sleeping
@@ -97,7 +99,7 @@ Outcome EmbeddedClient::call(int delayMs, int timeoutMs, const Request& request)
         return request(ServiceData::of(*called));
     carryOutLater(called, delay - timeout, request);
     return {false,
-            tr("The service %1 did not answer within %2 ms. It may still do what was asked for.")
+            RequestTexts::tr("The service %1 did not answer within %2 ms. It may still do what was asked for.")
                     .arg(m_serviceName, QString::number(timeout))};
 }
 

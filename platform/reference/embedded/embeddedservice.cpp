@@ -4,6 +4,7 @@
 #include "descriptioncheck_p.h"
 #include "embeddeditem_p.h"
 #include "servicedata_p.h"
+#include "texts_p.h"
 #include "valueconversion_p.h"
 
 #include <QDir>
@@ -210,7 +211,7 @@ bool EmbeddedService::isMounted(const QString& path) const
 bool EmbeddedService::addItem(const ItemDescription& description, QString* problem)
 {
     const QString reason = d->items.find(description.id)
-            ? tr("the service %1 has an item %2 already").arg(d->name, description.id)
+            ? ServiceFileTexts::tr("the service %1 has an item %2 already").arg(d->name, description.id)
             : itemProblem(description);
     if (problem)
         *problem = reason;

@@ -1,9 +1,8 @@
 #include "pendingwrites_p.h"
 
+#include "texts_p.h"
 #include "valuelimits_p.h"
 #include "valuetext_p.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -11,14 +10,9 @@ namespace kiv::embedded {
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("PendingWrites", text);
-}
-
 QString refusal(const ItemState& state, const QVariant& value, const QString& problem)
 {
-    return tr("%1 cannot be set to %2: %3. Allowed: %4.")
+    return RequestTexts::tr("%1 cannot be set to %2: %3. Allowed: %4.")
             .arg(state.title(), quotedText(value), problem, allowedText(state.description, state.type));
 }
 
@@ -37,12 +31,12 @@ QString PendingWrites::addWrite(ServiceData& service, const ItemStore::StatePtr&
     if (!item.refusal.isEmpty())
         return item.refusal;
     if (!item.isReady)
-        return tr("%1 cannot be set now: it is not ready. Try again later.").arg(state->title());
+        return RequestTexts::tr("%1 cannot be set now: it is not ready. Try again later.").arg(state->title());
     const Conversion conversion = convertForItem(item, state->type, value);
     if (!conversion.problem.isEmpty())
         return refusal(*state, value, conversion.problem);
     if (!isAvailable(item, conversion.value))
-        return refusal(*state, value, tr("not available now"));
+        return refusal(*state, value, RequestTexts::tr("not available now"));
     m_writes.append({&service, state, conversion.value});
     return QString();
 }

@@ -3,17 +3,11 @@
 #include "actions_p.h"
 #include "configurations_p.h"
 #include "pendingwrites_p.h"
-
-#include <QCoreApplication>
+#include "texts_p.h"
 
 namespace kiv::embedded {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("EmbeddedService", text);
-}
 
 /// Not QString::arg(), which would take a "%2" in a text for its own.
 QString withArgument(QString text, const QString& argument)
@@ -30,8 +24,9 @@ Outcome followDescription(ServiceData& service, const ActionDescription& does, c
         const ItemStore::StatePtr state = service.items.find(it.key());
         const QVariant value
                 = it->userType() == QMetaType::QString ? QVariant(withArgument(it->toString(), argument)) : *it;
-        const QString problem = state ? writes.addReport(service, state, value)
-                                      : tr("The service %1 has no item %2 any more.").arg(service.name, it.key());
+        const QString problem = state
+                ? writes.addReport(service, state, value)
+                : RequestTexts::tr("The service %1 has no item %2 any more.").arg(service.name, it.key());
         if (!problem.isEmpty())
             return {false, problem};
     }
@@ -44,7 +39,7 @@ Outcome callHandler(const EmbeddedService::ActionHandler& handler, const QString
 {
     QString text;
     const bool isDone = handler(argument, &text);
-    return {isDone, isDone || !text.isEmpty() ? text : tr("The action failed.")};
+    return {isDone, isDone || !text.isEmpty() ? text : RequestTexts::tr("The action failed.")};
 }
 
 /// Why clients may not set the item to the value, whatever it is that the item holds; empty when they may.
@@ -53,9 +48,9 @@ QString noSettingProblem(const ItemState& state, const QVariant& value)
     if (state.isSetting())
         return QString();
     if (!state.description.isClearable)
-        return tr("%1 cannot be set: it is no setting.").arg(state.title());
+        return RequestTexts::tr("%1 cannot be set: it is no setting.").arg(state.title());
     const bool isEmpty = value.userType() == QMetaType::QString && value.toString().isEmpty();
-    return isEmpty ? QString() : tr("%1 cannot be set: it can only be emptied.").arg(state.title());
+    return isEmpty ? QString() : RequestTexts::tr("%1 cannot be set: it can only be emptied.").arg(state.title());
 }
 
 } // namespace
@@ -64,7 +59,7 @@ Outcome setSetting(ServiceData& service, const QString& id, const QVariant& valu
 {
     const ItemStore::StatePtr state = service.items.find(id);
     if (!state)
-        return {false, tr("The service %1 has no item %2.").arg(service.name, id)};
+        return {false, RequestTexts::tr("The service %1 has no item %2.").arg(service.name, id)};
     PendingWrites writes;
     QString problem = noSettingProblem(*state, value);
     if (problem.isEmpty())
@@ -89,8 +84,10 @@ Outcome carryOut(ServiceData& service, const QString& id, const QString& argumen
     if (isManifestAction(service.items, id, saveConfigAction))
         return saveConfiguration(service, argument);
     if (state)
-        return {false, tr("%1: the service %2 has nothing that carries it out.").arg(state->title(), service.name)};
-    return {false, tr("The service %1 has no action %2.").arg(service.name, id)};
+        return {false,
+                RequestTexts::tr("%1: the service %2 has nothing that carries it out.")
+                        .arg(state->title(), service.name)};
+    return {false, RequestTexts::tr("The service %1 has no action %2.").arg(service.name, id)};
 }
 
 int actionDelay(const ServiceData& service, const QString& id)

@@ -2,10 +2,10 @@
 
 #include "descriptioncheck_p.h"
 #include "jsonschema_p.h"
+#include "texts_p.h"
 
 #include <kiv/plovjsondocument.h>
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -28,11 +28,6 @@ const QJsonObject& serviceFileSchema()
         return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
     }();
     return schema;
-}
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("ServiceFile", text);
 }
 
 QString textOf(const QJsonObject& object, const char* key)
@@ -119,7 +114,7 @@ QString recordProblem(const QString& place, const QVector<MemberDescription>& me
         const QJsonValue value = record.value(member.name);
         if (!value.isUndefined() && !isOfKind(member.type, value))
             return place + QLatin1Char('/') + member.name + QLatin1String(": ")
-                    + tr("not of the type %1").arg(member.type);
+                    + ServiceFileTexts::tr("not of the type %1").arg(member.type);
     }
     return QString();
 }

@@ -1,10 +1,10 @@
 #include "statefile_p.h"
 
 #include "base/durablefile.h"
+#include "texts_p.h"
 
 #include <kiv/plovjsondocument.h>
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -19,11 +19,6 @@ namespace kiv::embedded {
 namespace {
 
 constexpr int maximumNameBytes = 200;
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("StateFile", text);
-}
 
 bool mustBeEncoded(char byte, bool isFirst)
 {
@@ -53,10 +48,11 @@ bool moveAway(const QString& path, QString* problem)
     const QString name = freeDamagedName(path);
     if (!QFile::rename(path, name)) {
         *problem += QLatin1Char(' ')
-                + tr("It could not be moved out of the way, so changed settings are lost at the end.");
+                + StateTexts::tr("It could not be moved out of the way, so changed settings are lost at the end.");
         return false;
     }
-    *problem += QLatin1Char(' ') + tr("It is now %1, and the settings are those of the service file.").arg(name);
+    *problem += QLatin1Char(' ')
+            + StateTexts::tr("It is now %1, and the settings are those of the service file.").arg(name);
     return true;
 }
 
@@ -129,7 +125,7 @@ bool readStateFile(const QString& path, QJsonObject* values, QString* problem)
     }
     const QJsonValue read = document.object().value(QLatin1String("values"));
     if (!read.isObject()) {
-        *problem = tr("%1: /values: there are no values by item id.").arg(path);
+        *problem = StateTexts::tr("%1: /values: there are no values by item id.").arg(path);
         return moveAway(path, problem);
     }
     *values = read.toObject();
@@ -139,11 +135,11 @@ bool readStateFile(const QString& path, QJsonObject* values, QString* problem)
 bool writeStateFile(const QString& path, const QString& service, const QJsonObject& values, QString* error)
 {
     const auto failed = [&](const QString& reason) {
-        *error = tr("The settings of %1 could not be kept in %2: %3.").arg(service, path, reason);
+        *error = StateTexts::tr("The settings of %1 could not be kept in %2: %3.").arg(service, path, reason);
         return false;
     };
     if (!uiutils::makeFolderDurably(QFileInfo(path).path()))
-        return failed(tr("the folder cannot be made"));
+        return failed(StateTexts::tr("the folder cannot be made"));
     const QByteArray text
             = QJsonDocument(QJsonObject {{QStringLiteral("service"), service}, {QStringLiteral("values"), values}})
                       .toJson();

@@ -1,6 +1,7 @@
 #include "statekeeper_p.h"
 
 #include "statefile_p.h"
+#include "texts_p.h"
 #include "valuelimits_p.h"
 #include "valuetext_p.h"
 
@@ -26,11 +27,12 @@ QStringList StateKeeper::takeBack()
     QStringList problems = problem.isEmpty() ? QStringList() : QStringList(problem);
     for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
         const ItemStore::StatePtr state = m_items.find(it.key());
-        problem = state ? fitted(*state, it.value()) : tr("the service %1 has no such setting").arg(m_service);
+        problem = state ? fitted(*state, it.value())
+                        : StateTexts::tr("the service %1 has no such setting").arg(m_service);
         if (problem.isEmpty())
             continue;
         m_leftOver.insert(it.key(), it.value());
-        problems += tr("%1: %2: %3. The value stays in the file.").arg(path, it.key(), problem);
+        problems += StateTexts::tr("%1: %2: %3. The value stays in the file.").arg(path, it.key(), problem);
     }
     return problems;
 }
@@ -83,10 +85,10 @@ bool StateKeeper::saveConfiguration(const QString& name, QString* error) const
 QString StateKeeper::fitted(ItemState& state, const QJsonValue& value)
 {
     if (!state.isSetting())
-        return tr("this is no setting");
+        return StateTexts::tr("this is no setting");
     const Conversion conversion = convertForItem(state.description, state.type, value.toVariant());
     if (!conversion.problem.isEmpty())
-        return tr("%1 is %2, allowed: %3")
+        return StateTexts::tr("%1 is %2, allowed: %3")
                 .arg(quotedText(value.toVariant()), conversion.problem, allowedText(state.description, state.type));
     state.description.value = conversion.value;
     state.isKept = true;

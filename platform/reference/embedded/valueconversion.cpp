@@ -1,8 +1,7 @@
 #include "valueconversion_p.h"
 
 #include "itemtypes_p.h"
-
-#include <QCoreApplication>
+#include "texts_p.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,11 +10,6 @@
 namespace kiv::embedded {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("ValueConversion", text);
-}
 
 bool isText(const QVariant& value)
 {
@@ -45,7 +39,7 @@ Conversion toDouble(const QVariant& value)
 {
     bool isRead = isNumber(value);
     const double number = isText(value) ? value.toString().toDouble(&isRead) : value.toDouble();
-    return isRead ? Conversion {number, {}} : Conversion {{}, tr("not a number")};
+    return isRead ? Conversion {number, {}} : Conversion {{}, ValueTexts::tr("not a number")};
 }
 
 template<class Integer> Conversion toInteger(const QVariant& value)
@@ -55,11 +49,11 @@ template<class Integer> Conversion toInteger(const QVariant& value)
         return conversion;
     const double number = conversion.value.toDouble();
     if (!std::isfinite(number))
-        return {{}, tr("not a finite number")};
+        return {{}, ValueTexts::tr("not a finite number")};
     if (number != std::floor(number))
-        return {{}, tr("not a whole number")};
+        return {{}, ValueTexts::tr("not a whole number")};
     if (number < double(std::numeric_limits<Integer>::min()) || number > double(std::numeric_limits<Integer>::max()))
-        return {{}, tr("out of range")};
+        return {{}, ValueTexts::tr("out of range")};
     return {QVariant::fromValue(Integer(number)), {}};
 }
 
@@ -72,13 +66,13 @@ Conversion toBool(const QVariant& value)
         return {true, {}};
     if (text == QLatin1String("false") || text == QLatin1String("0"))
         return {false, {}};
-    return {{}, tr("neither true nor false")};
+    return {{}, ValueTexts::tr("neither true nor false")};
 }
 
 Conversion toText(const QVariant& value)
 {
     if (!isText(value) && !isNumber(value) && value.userType() != QMetaType::Bool)
-        return {{}, tr("not a text")};
+        return {{}, ValueTexts::tr("not a text")};
     return {value.toString(), {}};
 }
 
@@ -96,7 +90,7 @@ Conversion toSimple(unsigned type, const QVariant& value)
     case KIVClientItem::TypeDouble:
         return toDouble(value);
     default:
-        return {{}, tr("not a value that an item of this type can have")};
+        return {{}, ValueTexts::tr("not a value that an item of this type can have")};
     }
 }
 
@@ -116,7 +110,7 @@ Conversion toArray(unsigned type, const QVariant& value)
     if (type == KIVClientItem::TypeStringArray && value.userType() == QMetaType::QStringList)
         return {value, {}};
     if (!isList(value))
-        return {{}, tr("not a list")};
+        return {{}, ValueTexts::tr("not a list")};
     QVariantList list = value.toList();
     if (type == KIVClientItem::TypeDoubleArray && holdsOnly(list, QMetaType::Double))
         return {list, {}};
@@ -134,28 +128,28 @@ Conversion toArray(unsigned type, const QVariant& value)
 Conversion toRecord(const QVector<MemberDescription>& members, const QVariant& value)
 {
     if (isText(value) || !value.canConvert(QMetaType::QVariantMap))
-        return {{}, tr("not a record")};
+        return {{}, ValueTexts::tr("not a record")};
     QVariantMap rest = value.toMap();
     QVariantMap record;
     for (const MemberDescription& member : members) {
         const auto given = rest.constFind(member.name);
         if (given == rest.cend())
-            return {{}, tr("the member \"%1\" is missing").arg(member.name)};
+            return {{}, ValueTexts::tr("the member \"%1\" is missing").arg(member.name)};
         const Conversion converted = toSimple(typeCode(member.type), *given);
         if (!converted.problem.isEmpty())
-            return {{}, tr("member \"%1\": %2").arg(member.name, converted.problem)};
+            return {{}, ValueTexts::tr("member \"%1\": %2").arg(member.name, converted.problem)};
         record.insert(member.name, converted.value);
         rest.remove(member.name);
     }
     if (!rest.isEmpty())
-        return {{}, tr("there is no member \"%1\"").arg(rest.firstKey())};
+        return {{}, ValueTexts::tr("there is no member \"%1\"").arg(rest.firstKey())};
     return {record, {}};
 }
 
 Conversion toTable(const QVector<MemberDescription>& members, const QVariant& value)
 {
     if (!isList(value))
-        return {{}, tr("not a list of records")};
+        return {{}, ValueTexts::tr("not a list of records")};
     QVariantList rows = value.toList();
     for (int i = 0; i < rows.size(); ++i) {
         const Conversion row = toRecord(members, rows.at(i));
@@ -170,7 +164,7 @@ Conversion toTable(const QVector<MemberDescription>& members, const QVariant& va
 
 QString atElement(int index, const QString& problem)
 {
-    return tr("element %1: %2").arg(QString::number(index + 1), problem);
+    return ValueTexts::tr("element %1: %2").arg(QString::number(index + 1), problem);
 }
 
 bool isSame(const QVariant& a, const QVariant& b)

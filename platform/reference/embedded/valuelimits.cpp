@@ -1,8 +1,8 @@
 #include "valuelimits_p.h"
 
 #include "itemtypes_p.h"
+#include "texts_p.h"
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -11,11 +11,6 @@
 namespace kiv::embedded {
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("ValueConversion", text);
-}
 
 bool isBelow(double number, const QVariant& minimum)
 {
@@ -30,21 +25,21 @@ bool isAbove(double number, const QVariant& maximum)
 QString numberProblem(const ItemDescription& item, double number)
 {
     if (!std::isfinite(number))
-        return tr("not a finite number");
-    return isBelow(number, item.minimum) || isAbove(number, item.maximum) ? tr("out of range") : QString();
+        return ValueTexts::tr("not a finite number");
+    return isBelow(number, item.minimum) || isAbove(number, item.maximum) ? ValueTexts::tr("out of range") : QString();
 }
 
 QString textProblem(const ItemDescription& item, const QString& text)
 {
     if (isBelow(text.size(), item.minimum))
-        return tr("too short");
+        return ValueTexts::tr("too short");
     if (isAbove(text.size(), item.maximum))
-        return tr("too long");
+        return ValueTexts::tr("too long");
     const QString pattern = item.attributes.value(QStringLiteral("regex")).toString();
     if (pattern.isEmpty())
         return QString();
     const QRegularExpression form(QRegularExpression::anchoredPattern(pattern));
-    return form.isValid() && !form.match(text).hasMatch() ? tr("not of the expected form") : QString();
+    return form.isValid() && !form.match(text).hasMatch() ? ValueTexts::tr("not of the expected form") : QString();
 }
 
 QString choiceProblem(const ItemDescription& item, const QVariant& value)
@@ -53,7 +48,7 @@ QString choiceProblem(const ItemDescription& item, const QVariant& value)
         return QString();
     const bool isChoice = std::any_of(item.choices.cbegin(), item.choices.cend(),
             [&](const ChoiceDescription& choice) { return double(choice.value) == value.toDouble(); });
-    return isChoice ? QString() : tr("not one of the choices");
+    return isChoice ? QString() : ValueTexts::tr("not one of the choices");
 }
 
 QString simpleProblem(const ItemDescription& item, unsigned type, const QVariant& value)
@@ -71,7 +66,7 @@ QString recordProblem(const QVariantMap& record)
 {
     for (auto it = record.cbegin(); it != record.cend(); ++it) {
         if (it->userType() == QMetaType::Double && !std::isfinite(it->toDouble()))
-            return tr("member \"%1\": %2").arg(it.key(), tr("not a finite number"));
+            return ValueTexts::tr("member \"%1\": %2").arg(it.key(), ValueTexts::tr("not a finite number"));
     }
     return QString();
 }

@@ -1,8 +1,8 @@
 #include "valuetext_p.h"
 
 #include "itemtypes_p.h"
+#include "texts_p.h"
 
-#include <QCoreApplication>
 #include <QLocale>
 
 #include <limits>
@@ -13,11 +13,6 @@ namespace {
 
 constexpr int quotedLength = 40;
 constexpr int listedChoices = 12;
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("ValueText", text);
-}
 
 QString recordText(const QVariantMap& record, const QVector<MemberDescription>& members, int precision)
 {
@@ -41,10 +36,10 @@ QString limitsText(const QVariant& minimum, const QVariant& maximum)
     if (!minimum.isValid() && !maximum.isValid())
         return QString();
     if (!maximum.isValid())
-        return tr("%1 or more").arg(shownText(minimum, {}, -1));
+        return ValueTexts::tr("%1 or more").arg(shownText(minimum, {}, -1));
     if (!minimum.isValid())
-        return tr("%1 or less").arg(shownText(maximum, {}, -1));
-    return tr("%1 to %2").arg(shownText(minimum, {}, -1), shownText(maximum, {}, -1));
+        return ValueTexts::tr("%1 or less").arg(shownText(maximum, {}, -1));
+    return ValueTexts::tr("%1 to %2").arg(shownText(minimum, {}, -1), shownText(maximum, {}, -1));
 }
 
 template<class Integer> QString integerLimits(const ItemDescription& item)
@@ -70,13 +65,13 @@ QString choicesText(const ItemDescription& item)
 QString charactersText(const ItemDescription& item)
 {
     const QString limits = limitsText(item.minimum, item.maximum);
-    return limits.isEmpty() ? tr("a text") : tr("%1 characters").arg(limits);
+    return limits.isEmpty() ? ValueTexts::tr("a text") : ValueTexts::tr("%1 characters").arg(limits);
 }
 
 QString doubleText(const ItemDescription& item)
 {
     const QString limits = limitsText(item.minimum, item.maximum);
-    return limits.isEmpty() ? tr("any number") : limits;
+    return limits.isEmpty() ? ValueTexts::tr("any number") : limits;
 }
 
 QString membersText(const ItemDescription& item)
@@ -84,7 +79,7 @@ QString membersText(const ItemDescription& item)
     QStringList names;
     for (const MemberDescription& member : item.members)
         names += member.name;
-    return tr("the members %1").arg(names.join(QLatin1String(", ")));
+    return ValueTexts::tr("the members %1").arg(names.join(QLatin1String(", ")));
 }
 
 QString withUnit(const QString& text, const ItemDescription& item)
@@ -118,12 +113,12 @@ QString shownText(const QVariant& value, const QVector<MemberDescription>& membe
 QString quotedText(const QVariant& value)
 {
     if (!value.isValid() || value.userType() == QMetaType::Nullptr)
-        return tr("nothing");
+        return ValueTexts::tr("nothing");
     QString text = value.toString();
     if (text.isEmpty() && value.canConvert(QMetaType::QVariantList))
-        return tr("a list");
+        return ValueTexts::tr("a list");
     if (text.isEmpty() && value.canConvert(QMetaType::QVariantMap))
-        return tr("a record");
+        return ValueTexts::tr("a record");
     if (text.size() > quotedLength)
         text = text.left(quotedLength) + QChar(0x2026);
     return value.userType() == QMetaType::QString ? QLatin1Char('"') + text + QLatin1Char('"') : text;
@@ -137,7 +132,7 @@ QString allowedText(const ItemDescription& item, unsigned type)
     case KIVClientItem::TypeString:
         return charactersText(item);
     case KIVClientItem::TypeBool:
-        return tr("true or false");
+        return ValueTexts::tr("true or false");
     case KIVClientItem::TypeInt:
         return withUnit(integerLimits<int>(item), item);
     case KIVClientItem::TypeUInt:

@@ -3,8 +3,8 @@
 #include "base/durablefile.h"
 #include "base/paths.h"
 #include "instrument/drives_p.h"
+#include "report/reporttexts_p.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
 namespace uiutils {
@@ -13,8 +13,7 @@ namespace {
 
 QString driveIsGone(const QString& path)
 {
-    return QCoreApplication::translate("Report", "Cannot write %1: %2")
-            .arg(path, QCoreApplication::translate("Report", "the USB drive is not there"));
+    return ReportTexts::tr("Cannot write %1: %2").arg(path, ReportTexts::tr("the USB drive is not there"));
 }
 
 } // namespace
@@ -26,7 +25,7 @@ std::optional<QByteArray> readWholeFile(const QString& path, QString* error)
     // Of a file that memory cannot hold, nothing is read, and that is no error of the file's.
     if (file.error() == QFileDevice::NoError && contents.size() == file.size())
         return contents;
-    *error = QCoreApplication::translate("Report", "Cannot read %1: %2").arg(path, file.errorString());
+    *error = ReportTexts::tr("Cannot read %1: %2").arg(path, file.errorString());
     return std::nullopt;
 }
 

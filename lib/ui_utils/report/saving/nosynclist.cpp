@@ -6,12 +6,12 @@
 #include "core/itemids.h"
 #include "instrument/basemanager_p.h"
 #include "report/reportformats_p.h"
+#include "report/reporttexts_p.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
 
 #include <QByteArrayList>
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
@@ -37,11 +37,6 @@ constexpr int mostTellings = 10;
 using Lines = QByteArrayList;
 using Change = std::function<Lines(Lines)>;
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("Report", text);
-}
-
 QString recordOf(const QString& path)
 {
     const int dot = path.lastIndexOf(QLatin1Char('.'));
@@ -51,7 +46,7 @@ QString recordOf(const QString& path)
 
 std::nullopt_t unreadable(const QString& reason, QString* error)
 {
-    *error = translated(QT_TRANSLATE_NOOP("Report", "Cannot read %1: %2")).arg(paths::noSyncList, reason);
+    *error = ReportTexts::tr("Cannot read %1: %2").arg(paths::noSyncList, reason);
     return std::nullopt;
 }
 
@@ -69,7 +64,7 @@ std::optional<Lines> read(QString* error)
     if (file.error() != QFileDevice::NoError)
         return unreadable(file.errorString(), error);
     if (text.size() > largestNoSyncList)
-        return unreadable(translated(QT_TRANSLATE_NOOP("Report", "it has more than 1 MiB")), error);
+        return unreadable(ReportTexts::tr("it has more than 1 MiB"), error);
     Lines lines = text.split(lineFeed);
     lines.removeAll(QByteArray());
     return lines;
@@ -81,9 +76,8 @@ bool write(const Lines& lines, QString* error)
     if (!text.isEmpty())
         text += lineFeed;
     if (text.size() > largestNoSyncList) {
-        *error = translated(QT_TRANSLATE_NOOP("Report", "Cannot write %1: %2"))
-                         .arg(paths::noSyncList,
-                                 translated(QT_TRANSLATE_NOOP("Report", "it would have more than 1 MiB")));
+        *error = ReportTexts::tr("Cannot write %1: %2")
+                         .arg(paths::noSyncList, ReportTexts::tr("it would have more than 1 MiB"));
         return false;
     }
     return writeFileDurably(onDisk(paths::noSyncList), text, error);
@@ -143,7 +137,7 @@ bool edit(const Change& change, Former need, QString* error)
     {
         const FolderLock lock(folder, lockPatience);
         if (!lock.isLocked()) {
-            *error = translated(QT_TRANSLATE_NOOP("Report", "Cannot lock %1: %2")).arg(paths::noSyncList, lock.error());
+            *error = ReportTexts::tr("Cannot lock %1: %2").arg(paths::noSyncList, lock.error());
             return false;
         }
         const std::optional<Lines> former = read(error);
@@ -223,7 +217,7 @@ bool areLines(const QStringList& paths, QString* error)
             paths.cbegin(), paths.cend(), [](const QString& path) { return path.contains(QLatin1Char(lineFeed)); });
     if (torn == paths.cend())
         return true;
-    *error = translated(QT_TRANSLATE_NOOP("Report", "%1 holds a line feed"))
+    *error = ReportTexts::tr("%1 holds a line feed")
                      .arg(QString(*torn).replace(QLatin1Char(lineFeed), QChar(QChar::ReplacementCharacter)));
     return false;
 }

@@ -5,10 +5,10 @@
 #include "base/temporaryfolder_p.h"
 #include "instrument/drives_p.h"
 #include "report/reportformats_p.h"
+#include "report/reporttexts_p.h"
 #include "report/saving/drivefile_p.h"
 #include "report/saving/gzip_p.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
@@ -21,7 +21,7 @@ namespace {
 
 QString cannotCompress(const QString& path, const QString& reason)
 {
-    return QCoreApplication::translate("Report", "Cannot compress %1: %2").arg(path, reason);
+    return ReportTexts::tr("Cannot compress %1: %2").arg(path, reason);
 }
 
 /// Whether these are gzip's bytes for so many: its mark in front, the number at the end. A disk that ran full may have
@@ -66,7 +66,7 @@ QByteArray compressedForm(const QString& path, const QByteArray& contents, QStri
     }
     if (isWholeGzip(bytes, contents.size()))
         return bytes;
-    *error = cannotCompress(path, QCoreApplication::translate("Report", "gzip is missing or has failed"));
+    *error = cannotCompress(path, ReportTexts::tr("gzip is missing or has failed"));
     return QByteArray();
 }
 

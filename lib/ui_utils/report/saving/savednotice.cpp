@@ -2,21 +2,16 @@
 
 #include "instrument/drives_p.h"
 #include "report/reportformats_p.h"
+#include "report/reporttexts_p.h"
 
 #include <kiv/kivnotification.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
 namespace uiutils {
 
 namespace {
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("Report", text);
-}
 
 QString reportNameOf(const QString& path)
 {
@@ -29,15 +24,14 @@ QString reportNameOf(const QString& path)
 QString savedMessage(const QString& path)
 {
     const QString clean = QDir::cleanPath(path);
-    return translated(QT_TRANSLATE_NOOP("Report", "Report %1 saved\nFolder: %2"))
-            .arg(reportNameOf(clean), instrument::shownFolderOf(clean));
+    return ReportTexts::tr("Report %1 saved\nFolder: %2").arg(reportNameOf(clean), instrument::shownFolderOf(clean));
 }
 
 void postSavedNotice(const QString& path)
 {
     // The tray keeps copies.
     KIVNotification notification;
-    notification.setLongLabel(translated(QT_TRANSLATE_NOOP("Report", "Report Saved")));
+    notification.setLongLabel(ReportTexts::tr("Report Saved"));
     notification.setMsg(savedMessage(path));
     notification.notifyTray();
 }

@@ -14,7 +14,6 @@
 
 #include <kiv/system.h>
 
-#include <QCoreApplication>
 #include <QDate>
 #include <QFile>
 
@@ -22,15 +21,11 @@ namespace instrument = uiutils::instrument;
 namespace keys = uiutils::keys;
 using uiutils::Alignment;
 using uiutils::NodeReader;
+using uiutils::ReportWords;
 using uiutils::Status;
 using uiutils::TableReader;
 
 namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("TemplateToHtmlWriter", text);
-}
 
 /// Enough for a plot's letters to be as sharp as the page's.
 constexpr int plotPixelsOnPaper = 2;
@@ -133,11 +128,11 @@ QString TemplateToHtmlWriter::timestamp()
 
 QVector<ReportField> TemplateToHtmlWriter::titleFields() const
 {
-    QVector<ReportField> fields {{tr("Timestamp"), timestamp()}};
+    QVector<ReportField> fields {{ReportWords::tr("Timestamp"), timestamp()}};
     const OverallStatus status = overallStatus();
     const QString statusText = uiutils::overallText(status.status);
     if (!statusText.isEmpty())
-        fields.append({tr("Overall Status"), statusText, status.icon});
+        fields.append({ReportWords::tr("Overall Status"), statusText, status.icon});
     if (isSet("includeJobInfo")) {
         const instrument::LabelledTexts job = uiutils::jobTable().rows;
         for (const instrument::LabelledText& field : job)
@@ -243,12 +238,12 @@ void TemplateToHtmlWriter::writeTestInformation()
     };
     const OverallStatus status = overallStatus();
 
-    m_html->startTable(tr("Test Information"), {tr("Value")}, true, -1);
-    writeRow(tr("Title"), title(), Status::None);
-    writeRow(tr("Timestamp"), timestamp(), Status::None);
+    m_html->startTable(ReportWords::tr("Test Information"), {ReportWords::tr("Value")}, true, -1);
+    writeRow(ReportWords::tr("Title"), title(), Status::None);
+    writeRow(ReportWords::tr("Timestamp"), timestamp(), Status::None);
     const QString statusText = uiutils::overallText(status.status);
     if (!statusText.isEmpty())
-        writeRow(tr("Overall Status"), statusText, status.icon);
+        writeRow(ReportWords::tr("Overall Status"), statusText, status.icon);
     m_html->writeComment(QStringLiteral("report_status=%1").arg(status.word));
     m_html->endTable();
 }
@@ -279,7 +274,7 @@ void TemplateToHtmlWriter::writeSystemInformation()
             || (showsHardware && !instrument::hardwareAssemblies().isEmpty());
     if (isSet("isForPDF") && !hasTables)
         return;
-    m_html->writeHeading(1, tr("Solvant System Information"));
+    m_html->writeHeading(1, ReportWords::tr("Solvant System Information"));
     if (showsSoftware)
         writeSoftwareTable();
     if (showsHardware)
@@ -296,7 +291,7 @@ void TemplateToHtmlWriter::writeHardwareTable()
     const QVector<QStringList> assemblies = instrument::hardwareAssemblies();
     if (assemblies.isEmpty())
         return;
-    m_html->startTable(tr("Hardware"), {tr("Assembly"), tr("ID")}, false, 0);
+    m_html->startTable(ReportWords::tr("Hardware"), {ReportWords::tr("Assembly"), ReportWords::tr("ID")}, false, 0);
     for (const QStringList& parts : assemblies) {
         m_html->startRow();
         for (const QString& part : parts)

@@ -15,11 +15,6 @@ constexpr qreal margin = 42;
 constexpr qreal edge = 28;
 constexpr qreal ruleDistance = 3;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("ReportPDF", text);
-}
-
 } // namespace
 
 PageFrame::PageFrame(const PageStyle& style, const QSizeF& paper, const Texts& texts)
@@ -48,7 +43,8 @@ void PageFrame::shortenTexts()
     const qreal documentWidth = shorten(m_texts.documentTitle, m_width / 2);
     shorten(m_texts.title, m_width - documentWidth - gap);
     const qreal middleWidth = shorten(m_texts.timestamp, m_width / 2);
-    m_unit = m_texts.unitId.isEmpty() ? QString() : tr("Unit ID: %1").arg(m_texts.unitId);
+    m_unit = m_texts.unitId.isEmpty() ? QString()
+                                      : QCoreApplication::translate("ReportPDF", "Unit ID: %1").arg(m_texts.unitId);
     shorten(m_unit, (m_width - middleWidth) / 2 - gap);
 }
 
@@ -65,7 +61,8 @@ void PageFrame::drawHeader(PageCanvas& canvas, int page) const
 void PageFrame::drawFooter(PageCanvas& canvas, int page, int pageCount) const
 {
     canvas.fill(QRectF(m_left, m_footerTop - m_style.points(ruleDistance), m_width, m_style.hairline), m_style.rule);
-    drawLine(canvas, m_footerTop, m_unit, m_texts.timestamp, tr("Page %1 of %2").arg(page).arg(pageCount));
+    drawLine(canvas, m_footerTop, m_unit, m_texts.timestamp,
+            QCoreApplication::translate("ReportPDF", "Page %1 of %2").arg(page).arg(pageCount));
 }
 
 void PageFrame::drawLine(

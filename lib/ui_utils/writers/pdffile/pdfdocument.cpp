@@ -4,7 +4,6 @@
 #include "writers/pdffile/pdfprobeprotocol_p.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
 #include <QVarLengthArray>
@@ -21,14 +20,9 @@ namespace uiutils::pdf {
 
 namespace {
 
-QString text(const char* words)
+bool fail(QString* error, const QString& reason)
 {
-    return QCoreApplication::translate("PdfDocument", words);
-}
-
-bool fail(QString* error, const char* words)
-{
-    *error = text(words);
+    *error = reason;
     return false;
 }
 
@@ -214,7 +208,7 @@ QString errorText(int code)
         return QString::fromUtf8(message);
     if (const char* name = PoDoFo::PdfError::ErrorName(known))
         return QString::fromUtf8(name);
-    return text(QT_TRANSLATE_NOOP("PdfDocument", "Unknown error"));
+    return PdfFileTexts::tr("Unknown error");
 }
 
 QString currentErrorText()
@@ -226,7 +220,7 @@ QString currentErrorText()
     } catch (const std::exception& error) {
         return QString::fromUtf8(error.what());
     } catch (...) {
-        return text(QT_TRANSLATE_NOOP("PdfDocument", "Unknown error"));
+        return PdfFileTexts::tr("Unknown error");
     }
 }
 
@@ -314,9 +308,7 @@ QByteArray save(PoDoFo::PdfMemDocument& document, QString* error)
     QByteArray contents;
     // The padding that PoDoFo leaves in its texts would be written with them.
     if (document.GetEncrypted()) {
-        fail(error,
-                QT_TRANSLATE_NOOP(
-                        "PdfDocument", "The file is encrypted, and cannot be written so that it stays whole"));
+        fail(error, PdfFileTexts::tr("The file is encrypted, and cannot be written so that it stays whole"));
         return contents;
     }
     const bool written = guarded(error, [&] {
@@ -336,12 +328,12 @@ bool isWholePdf(QIODevice& device, QString* error)
 {
     device.seek(0);
     if (!device.read(5).startsWith("%PDF-"))
-        return fail(error, QT_TRANSLATE_NOOP("PdfDocument", "The file does not begin as a PDF file"));
+        return fail(error, PdfFileTexts::tr("The file does not begin as a PDF file"));
     const qint64 position = tablePosition(tailOf(device));
     if (position < 0)
-        return fail(error, QT_TRANSLATE_NOOP("PdfDocument", "The PDF file has no end"));
+        return fail(error, PdfFileTexts::tr("The PDF file has no end"));
     if (position == 0 || !device.seek(position) || !isTableStart(device.read(32)))
-        return fail(error, QT_TRANSLATE_NOOP("PdfDocument", "The PDF file has lost the table of its objects"));
+        return fail(error, PdfFileTexts::tr("The PDF file has lost the table of its objects"));
     return true;
 }
 

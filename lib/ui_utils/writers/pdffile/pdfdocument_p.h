@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QString>
 
@@ -13,6 +14,12 @@ class QIODevice;
 /// What the library does with PDF files. PoDoFo reports what goes wrong by throwing; no exception leaves
 /// these functions.
 namespace uiutils::pdf {
+
+/// The texts of this room, under one context for translators.
+struct PdfFileTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(PDFFile)
+};
 
 /// PoDoFo's words for an error code; never empty.
 QString errorText(int code);

@@ -5,7 +5,6 @@
 #include "writers/pdffile/pdfdocument_p.h"
 #include "writers/pdffile/pdfprobe_p.h"
 
-#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDebug>
 #include <QDir>
@@ -31,11 +30,6 @@ void report(QLatin1String failure, const QString& reason)
     qDebug().noquote() << failure + reason;
 }
 
-QString text(const char* words)
-{
-    return QCoreApplication::translate("PDFFile", words);
-}
-
 bool statusOf(const QString& path, struct stat* status)
 {
     return !path.contains(QChar(QChar::Null)) && ::stat(QFile::encodeName(path).constData(), status) == 0;
@@ -47,13 +41,13 @@ QString refusalOf(const QString& path)
 {
     struct stat status = {};
     if (path.contains(QChar(QChar::Null)))
-        return text(QT_TRANSLATE_NOOP("PDFFile", "The path holds a NUL character"));
+        return pdf::PdfFileTexts::tr("The path holds a NUL character");
     if (!statusOf(path, &status))
         return qt_error_string(errno);
     if (!S_ISREG(status.st_mode))
-        return text(QT_TRANSLATE_NOOP("PDFFile", "It is not a regular file"));
+        return pdf::PdfFileTexts::tr("It is not a regular file");
     if (status.st_size > largestFile)
-        return text(QT_TRANSLATE_NOOP("PDFFile", "It has more than 64 MiB"));
+        return pdf::PdfFileTexts::tr("It has more than 64 MiB");
     return QString();
 }
 
@@ -73,7 +67,7 @@ QByteArray read(const QString& path, const QDeadlineTimer& deadline, QString* er
     if (file.error() != QFileDevice::NoError)
         *error = file.errorString();
     else if (deadline.hasExpired())
-        *error = text(QT_TRANSLATE_NOOP("PDFFile", "Reading the file takes too long"));
+        *error = pdf::PdfFileTexts::tr("Reading the file takes too long");
     return contents;
 }
 

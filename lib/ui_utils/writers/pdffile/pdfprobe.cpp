@@ -3,7 +3,6 @@
 #include "writers/pdffile/pdfdocument_p.h"
 #include "writers/pdffile/pdfprobeprotocol_p.h"
 
-#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QFile>
@@ -209,14 +208,9 @@ bool passesUnseen()
     return told;
 }
 
-QString text(const char* words)
-{
-    return QCoreApplication::translate("PdfProbe", words);
-}
-
 QString cannotTry(const QString& reason)
 {
-    return text(QT_TRANSLATE_NOOP("PdfProbe", "The file cannot be tried out first: %1")).arg(reason);
+    return pdf::PdfFileTexts::tr("The file cannot be tried out first: %1").arg(reason);
 }
 
 } // namespace
@@ -244,7 +238,7 @@ bool PdfProbe::passes(const QByteArray& contents, QString* error) const
 QString PdfProbe::problemOf(const QByteArray& contents) const
 {
     if (contents.isEmpty())
-        return text(QT_TRANSLATE_NOOP("PdfProbe", "The file is empty"));
+        return pdf::PdfFileTexts::tr("The file is empty");
     Descriptor file;
     if (!fill(file, contents))
         return cannotTry(qt_error_string(errno));
@@ -255,9 +249,9 @@ QString PdfProbe::problemOf(const QByteArray& contents) const
     if (result >= 0)
         return result == pdfprobe::harmless ? QString() : pdf::errorText(result);
     if (helper.isRunning())
-        return text(QT_TRANSLATE_NOOP("PdfProbe", "Reading the file takes too long"));
-    return helper.hasBegun() ? text(QT_TRANSLATE_NOOP("PdfProbe", "The file cannot be read without harm"))
-                             : cannotTry(m_helper + text(QT_TRANSLATE_NOOP("PdfProbe", " gives no answer")));
+        return pdf::PdfFileTexts::tr("Reading the file takes too long");
+    return helper.hasBegun() ? pdf::PdfFileTexts::tr("The file cannot be read without harm")
+                             : cannotTry(pdf::PdfFileTexts::tr("%1 gives no answer").arg(m_helper));
 }
 
 } // namespace uiutils

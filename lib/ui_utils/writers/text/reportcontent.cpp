@@ -26,34 +26,29 @@ instrument::LabelledTexts withoutDefaults(instrument::LabelledTexts fields)
 
 InformationTable jobTable()
 {
-    return {word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Job Manager Information")),
-            word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Value")), instrument::jobFields()};
+    return {ReportWords::tr("Job Manager Information"), ReportWords::tr("Value"), instrument::jobFields()};
 }
 
 InformationTable customerTable()
 {
-    return {word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Customer Information")),
-            word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Value")),
+    return {ReportWords::tr("Customer Information"), ReportWords::tr("Value"),
             withoutDefaults(instrument::userFields(instrument::customerFieldNames()))};
 }
 
 InformationTable technicianTable()
 {
-    return {word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Technician Information")),
-            word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Value")),
+    return {ReportWords::tr("Technician Information"), ReportWords::tr("Value"),
             withoutDefaults(instrument::userFields(instrument::technicianFieldNames()))};
 }
 
 InformationTable softwareTable()
 {
-    return {word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Software Revisions")),
-            word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Version")), instrument::softwareRevisions()};
+    return {ReportWords::tr("Software Revisions"), ReportWords::tr("Version"), instrument::softwareRevisions()};
 }
 
 InformationTable configurationTable(const NodeReader& section, const NodeReader& report)
 {
-    InformationTable table {word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Configuration Values")),
-            word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Value")), {}};
+    InformationTable table {ReportWords::tr("Configuration Values"), ReportWords::tr("Value"), {}};
     const QString module = section.text(keys::configModule);
     if (module.isEmpty())
         return table;
@@ -73,7 +68,7 @@ QString overallText(ReportStatus status)
     case ReportStatus::Fail:
         return statusText(Status::Fail);
     case ReportStatus::NotCompleted:
-        return word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Not Completed"));
+        return ReportWords::tr("Not Completed");
     default:
         return {};
     }
@@ -83,11 +78,11 @@ QString statusText(int status)
 {
     switch (status) {
     case Status::Pass:
-        return word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Pass"));
+        return ReportWords::tr("Pass");
     case Status::Marginal:
-        return word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Marginal"));
+        return ReportWords::tr("Marginal");
     case Status::Fail:
-        return word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Fail"));
+        return ReportWords::tr("Fail");
     default:
         return {};
     }
@@ -96,11 +91,6 @@ QString statusText(int status)
 QString dateText(const QDate& date)
 {
     return date.toString(Qt::TextDate);
-}
-
-QString word(const char* text)
-{
-    return QCoreApplication::translate("TemplateToHtmlWriter", text);
 }
 
 } // namespace uiutils

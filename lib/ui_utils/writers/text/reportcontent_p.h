@@ -3,6 +3,7 @@
 #include "instrument/labelledtext_p.h"
 #include "writers/text/textreport.h"
 
+#include <QCoreApplication>
 #include <QDate>
 #include <QString>
 
@@ -38,7 +39,10 @@ QString statusText(int status);
 /// "Sat Nov 21 2026".
 QString dateText(const QDate& date);
 
-/// A word or sentence of the reports in the user's language.
-QString word(const char* text);
+/// The words of reports for people, under one context for translators.
+struct ReportWords
+{
+    Q_DECLARE_TR_FUNCTIONS(TemplateToHtmlWriter)
+};
 
 } // namespace uiutils

@@ -45,9 +45,8 @@ TextTable plotTable(const PlotData& data)
     constexpr int mostCurves = 100;
     enum Columns { Points, Abscissa, Minimum, Maximum };
     TextTable table({},
-            {word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Points")), withUnit(data.xLabel, data.xUnit),
-                    word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Minimum")),
-                    word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Maximum"))});
+            {ReportWords::tr("Points"), withUnit(data.xLabel, data.xUnit), ReportWords::tr("Minimum"),
+                    ReportWords::tr("Maximum")});
     for (int i = 0; i < qMin(data.curves.size(), mostCurves); ++i) {
         const PlotCurve& curve = data.curves.at(i);
         const PlotExtent extent = data.extentOf(curve);
@@ -55,19 +54,16 @@ TextTable plotTable(const PlotData& data)
         table.addCell(Points, QLocale().toString(curve.size()), Status::None, Alignment::Right);
         if (extent.x.isEmpty())
             continue;
-        const QString range = word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "%1 to %2"));
-        table.addCell(Abscissa, range.arg(numberText(extent.x.low), numberText(extent.x.high)), Status::None,
-                Alignment::Right);
+        const QString range = ReportWords::tr("%1 to %2");
+        table.addCell(Abscissa, range.arg(numberText(extent.x.low), numberText(extent.x.high)), Status::None, Alignment::Right);
         table.addCell(Minimum, numberText(extent.y.low), Status::None, Alignment::Right);
         table.addCell(Maximum, numberText(extent.y.high), Status::None, Alignment::Right);
     }
     if (data.curves.size() > mostCurves)
-        table.startRow(word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "%1 more"))
-                               .arg(QLocale().toString(data.curves.size() - mostCurves)));
+        table.startRow(ReportWords::tr("%1 more").arg(QLocale().toString(data.curves.size() - mostCurves)));
     for (const PlotLimit& limit : data.limits) {
         const bool isLower = limit.kind == PlotLimit::Lower;
-        const QString name = isLower ? word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Lower limit"))
-                                     : word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Upper limit"));
+        const QString name = isLower ? ReportWords::tr("Lower limit") : ReportWords::tr("Upper limit");
         table.startRow(withUnit(name, limit.unit));
         table.addCell(isLower ? Minimum : Maximum, numberText(limit.value), Status::None, Alignment::Right);
     }
@@ -115,7 +111,7 @@ private:
     {
         const QString own = m_layout.title.isNull() ? NodeReader(m_document).title() : m_layout.title;
         const QString plain = plainText(own).trimmed();
-        const QString title = plain.isEmpty() ? word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Report")) : plain;
+        const QString title = plain.isEmpty() ? ReportWords::tr("Report") : plain;
         const QLatin1Char letter('=');
         m_lines.putRule(0, TextLines().putText(title, m_width), letter);
         m_lines.endLine();
@@ -128,10 +124,10 @@ private:
         };
         const QDateTime& time = m_layout.timestamp;
         if (time.isValid())
-            addRow(word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Timestamp")),
+            addRow(ReportWords::tr("Timestamp"),
                     dateText(time.date()) + QLatin1Char(' ') + time.toString(QStringLiteral("hh:mm:ss")));
         if (m_layout.status != ReportStatus::Unknown)
-            addRow(word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Overall Status")), overallText(m_layout.status));
+            addRow(ReportWords::tr("Overall Status"), overallText(m_layout.status));
         if (!table.hasRows())
             return;
         writeBlock(table);
@@ -185,7 +181,7 @@ private:
                 = m_layout.showHardwareRevs ? instrument::hardwareAssemblies() : QVector<QStringList>();
         if (software.rows.isEmpty() && assemblies.isEmpty())
             return;
-        writeHeading(1, word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Solvant System Information")));
+        writeHeading(1, ReportWords::tr("Solvant System Information"));
         writeInformation(software);
         writeHardware(assemblies);
     }
@@ -194,9 +190,8 @@ private:
     {
         if (assemblies.isEmpty())
             return;
-        const QStringList labels {word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Assembly")),
-                word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "ID"))};
-        TextTable table(word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Hardware")), labels);
+        const QStringList labels {ReportWords::tr("Assembly"), ReportWords::tr("ID")};
+        TextTable table(ReportWords::tr("Hardware"), labels);
         for (const QStringList& parts : assemblies) {
             table.startRow({});
             for (int i = 0; i < qMin(parts.size(), labels.size()); ++i)
@@ -272,16 +267,15 @@ private:
     {
         startBlock();
         const QString own = plainText(reader.title()).trimmed();
-        m_lines.putText(own.isEmpty() ? word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "Plot")) : own, m_width);
+        m_lines.putText(own.isEmpty() ? ReportWords::tr("Plot") : own, m_width);
         const QString service = reader.text(keys::service);
         auto known = m_plots.constFind(service);
         if (known == m_plots.constEnd())
             known = m_plots.insert(service, plotTable(readPlotData(service)));
         if (known->hasRows())
             known->write(m_lines, m_width);
-        m_lines.putText(known->hasRows() ? word(QT_TRANSLATE_NOOP(
-                                "TemplateToHtmlWriter", "The curves are drawn in the HTML and PDF reports."))
-                                         : word(QT_TRANSLATE_NOOP("TemplateToHtmlWriter", "There are no curves.")),
+        m_lines.putText(known->hasRows() ? ReportWords::tr("The curves are drawn in the HTML and PDF reports.")
+                                         : ReportWords::tr("There are no curves."),
                 m_width, tableIndentation, tableIndentation);
     }
 

@@ -1,0 +1,34 @@
+import QtQuick 2.15
+import UiUtils 1.0
+import UiUtils.Controls 1.0
+
+// Does what has to be told to users: refuses values and a name, saves a report, asks before it replaces it.
+Item {
+    function set(item, value) {
+        item.value = value
+        console.log(item.error, item.rangeDescription)
+    }
+
+    function save(name) {
+        report.settings.reportName.value = name
+        report.save()
+        if (Notifications.currentDialog)
+            console.log(Notifications.currentDialog.msg)
+        Notifications.reject()
+    }
+
+    Report {
+        id: report
+        templatePath: "/document.json"
+    }
+    NotificationDialog {}
+    NotificationTray { anchors.fill: parent }
+    Component.onCompleted: {
+        set(station_cfg_level_3, 11)
+        set(station_cfg_title, "x")
+        save("a/b")
+        save("marked")
+        save("marked")
+        Qt.exit(0)
+    }
+}
