@@ -1,4 +1,4 @@
-#include "base/durablefile.h"
+#include "base/durablefile_p.h"
 
 #include "base/temporaries_p.h"
 #include "base/temporarysibling_p.h"

@@ -1,4 +1,4 @@
-#include "base/paths.h"
+#include "base/paths_p.h"
 
 #include <QCoreApplication>
 #include <QDir>

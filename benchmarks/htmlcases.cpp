@@ -1,7 +1,7 @@
 #include "memory.h"
 #include "writercase.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "document/reporttemplate.h"
 #include "writers/html/templatetohtmlwriter.h"
 

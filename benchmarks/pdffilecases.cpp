@@ -1,6 +1,6 @@
 #include "case.h"
 
-#include "base/durablefile.h"
+#include "base/durablefile_p.h"
 #include "writers/pdffile/pdfannotation_p.h"
 #include "writers/pdffile/pdfdocument_p.h"
 #include "writers/pdffile/pdffile.h"

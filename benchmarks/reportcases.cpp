@@ -1,7 +1,7 @@
 #include "writercase.h"
 
-#include "base/durablefile.h"
-#include "base/paths.h"
+#include "base/durablefile_p.h"
+#include "base/paths_p.h"
 #include "document/reporttemplate.h"
 #include "report/nsreport.h"
 #include "report/report.h"

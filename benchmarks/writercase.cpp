@@ -3,7 +3,7 @@
 #include "memory.h"
 #include "tokens.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "document/reporttemplate.h"
 
 #include <QDir>

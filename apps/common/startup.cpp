@@ -1,6 +1,6 @@
 #include "common/startup.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 
 #include <embedded/embeddedbackend.h>
 

@@ -1,7 +1,7 @@
 #include "instrumentroot.h"
 
-#include "base/durablefile.h"
-#include "base/paths.h"
+#include "base/durablefile_p.h"
+#include "base/paths_p.h"
 #include "texts.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "loopbackreport.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "limit.h"
 #include "report/nsreport.h"
 #include "writers/html/templatetohtmlwriter.h"

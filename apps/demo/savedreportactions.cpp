@@ -1,9 +1,9 @@
 #include "savedreportactions.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "instrument/drives_p.h"
-#include "report/saving/drivefile_p.h"
 #include "report/reportlisting_p.h"
+#include "report/saving/drivefile_p.h"
 #include "report/saving/reportrecord_p.h"
 
 #include <kiv/kivnotification.h>

@@ -1,6 +1,6 @@
 #include "tour.h"
 
-#include "base/durablefile.h"
+#include "base/durablefile_p.h"
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"

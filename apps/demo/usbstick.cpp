@@ -1,7 +1,7 @@
 #include "usbstick.h"
 
-#include "core/itemids.h"
-#include "base/paths.h"
+#include "base/paths_p.h"
+#include "core/itemids_p.h"
 #include "instrumentroot.h"
 
 #include <embedded/embeddedbackend.h>

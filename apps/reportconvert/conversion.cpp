@@ -1,6 +1,6 @@
 #include "conversion.h"
 
-#include "base/durablefile.h"
+#include "base/durablefile_p.h"
 #include "common/complaint.h"
 #include "console.h"
 #include "document/reporttemplate.h"

@@ -1,4 +1,4 @@
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "common/complaint.h"
 #include "console.h"
 #include "conversion.h"

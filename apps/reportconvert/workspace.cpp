@@ -1,6 +1,6 @@
 #include "workspace.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "base/temporaries_p.h"
 #include "texts.h"
 

@@ -1,6 +1,6 @@
 #include "pagewindow.h"
 
-#include "base/durablefile.h"
+#include "base/durablefile_p.h"
 #include "texts.h"
 
 #include <QBuffer>

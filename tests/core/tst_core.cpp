@@ -2,8 +2,8 @@
 #include "filesizelimit.h"
 #include "files.h"
 
-#include "base/durablefile.h"
-#include "base/paths.h"
+#include "base/durablefile_p.h"
+#include "base/paths_p.h"
 #include "base/temporaries_p.h"
 #include "base/temporaryfolder_p.h"
 #include "base/temporarysibling_p.h"

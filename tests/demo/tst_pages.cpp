@@ -2,7 +2,7 @@
 #include "files.h"
 
 #include "common/instrument.h"
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "demotypes.h"
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"

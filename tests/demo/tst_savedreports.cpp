@@ -1,7 +1,7 @@
 #include "columns.h"
 #include "files.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "loopbackreport.h"
 #include "savedreportactions.h"
 #include "screencamera.h"

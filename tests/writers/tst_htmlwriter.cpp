@@ -2,7 +2,7 @@
 #include "golden.h"
 #include "randomdocument.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "writers/html/htmlstreamwriter.h"
 #include "writers/pages/reporttable.h"
 #include "writers/html/templatetohtmlwriter.h"

@@ -1,7 +1,7 @@
 #include "document/reportmetadata.h"
 
-#include "base/durablefile.h"
-#include "base/paths.h"
+#include "base/durablefile_p.h"
+#include "base/paths_p.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "document/reporttemplate.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "document/opennode_p.h"
 #include "document/reportkeys_p.h"
 

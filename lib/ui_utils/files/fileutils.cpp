@@ -1,6 +1,6 @@
 #include "files/fileutils.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "files/drivespace_p.h"
 #include "instrument/drives_p.h"
 

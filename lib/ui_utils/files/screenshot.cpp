@@ -1,6 +1,6 @@
 #include "files/screenshot.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "instrument/job_p.h"
 
 namespace paths = uiutils::paths;

@@ -1,6 +1,6 @@
 #include "instrument/drives_p.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 
 #include <kiv/filesystemusage.h>
 

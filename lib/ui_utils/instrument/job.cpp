@@ -1,6 +1,6 @@
 #include "instrument/job_p.h"
 
-#include "core/itemids.h"
+#include "core/itemids_p.h"
 #include "instrument/basemanager_p.h"
 
 #include <kiv/kivclientinterface.h>

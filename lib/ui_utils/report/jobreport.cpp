@@ -1,13 +1,12 @@
 #include "report/jobreport_p.h"
 
-#include "base/paths.h"
-#include "core/itemids.h"
+#include "base/paths_p.h"
+#include "core/itemids_p.h"
 #include "instrument/job_p.h"
 #include "report/reporttexts_p.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/schemavalidator.h>
-
 
 namespace uiutils {
 

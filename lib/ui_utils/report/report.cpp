@@ -1,8 +1,8 @@
 #include "report/report.h"
 
-#include "base/durablefile.h"
-#include "base/paths.h"
-#include "core/itemids.h"
+#include "base/durablefile_p.h"
+#include "base/paths_p.h"
+#include "core/itemids_p.h"
 #include "instrument/drives_p.h"
 #include "instrument/job_p.h"
 #include "report/report_p.h"

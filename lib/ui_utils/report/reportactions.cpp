@@ -1,6 +1,6 @@
 // The part of Report that acts: makes contents, writes, saves and hands on.
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "instrument/drives_p.h"
 #include "instrument/job_p.h"
 #include "report/jobreport_p.h"

@@ -1,11 +1,11 @@
 // The part of Report that knows what the user chooses: settings, formats, names.
 
-#include "base/durablefile.h"
-#include "base/paths.h"
-#include "core/itemids.h"
-#include "report/report.h"
+#include "base/durablefile_p.h"
+#include "base/paths_p.h"
+#include "core/itemids_p.h"
 #include "instrument/basemanager_p.h"
 #include "instrument/drives_p.h"
+#include "report/report.h"
 #include "report/report_p.h"
 #include "report/reportformats_p.h"
 #include "report/reportlisting_p.h"

@@ -1,6 +1,6 @@
 #include "report/reportlisting_p.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "instrument/drives_p.h"
 #include "report/reportformats_p.h"
 

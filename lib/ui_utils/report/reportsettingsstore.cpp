@@ -1,7 +1,7 @@
 #include "report/reportsettingsstore_p.h"
 
-#include "base/durablefile.h"
-#include "base/paths.h"
+#include "base/durablefile_p.h"
+#include "base/paths_p.h"
 #include "local/uidata.h"
 #include "report/reportnaming_p.h"
 

@@ -1,6 +1,6 @@
 #include "service/kivdata_p.h"
 
-#include "core/itemids.h"
+#include "core/itemids_p.h"
 #include "core/plainvalue_p.h"
 #include "core/status.h"
 #include "service/announcement_p.h"

@@ -1,7 +1,7 @@
 #include "service/manifest_p.h"
 
 #include "base/batchname_p.h"
-#include "core/itemids.h"
+#include "core/itemids_p.h"
 #include "service/kivaggregatedata.h"
 #include "service/kivcontextobject_p.h"
 #include "service/kivdata_p.h"

@@ -1,6 +1,6 @@
 #include "statefile_p.h"
 
-#include "base/durablefile.h"
+#include "base/durablefile_p.h"
 #include "texts_p.h"
 
 #include <kiv/plovjsondocument.h>

@@ -1,6 +1,6 @@
 #include "report/saving/consent_p.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "report/reportformats_p.h"
 
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #include "report/saving/drivefile_p.h"
 
-#include "base/durablefile.h"
-#include "base/paths.h"
+#include "base/durablefile_p.h"
+#include "base/paths_p.h"
 #include "instrument/drives_p.h"
 #include "report/reporttexts_p.h"
 

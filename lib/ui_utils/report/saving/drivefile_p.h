@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/durablefile.h"
+#include "base/durablefile_p.h"
 
 #include <QByteArray>
 #include <QString>

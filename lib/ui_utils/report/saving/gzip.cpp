@@ -1,6 +1,6 @@
 #include "report/saving/gzip_p.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 
 #include <QFile>
 #include <QtDebug>

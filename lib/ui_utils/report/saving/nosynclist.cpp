@@ -1,9 +1,9 @@
 #include "report/saving/nosynclist_p.h"
 
-#include "base/durablefile.h"
+#include "base/durablefile_p.h"
 #include "base/folderlock_p.h"
-#include "base/paths.h"
-#include "core/itemids.h"
+#include "base/paths_p.h"
+#include "core/itemids_p.h"
 #include "instrument/basemanager_p.h"
 #include "report/reportformats_p.h"
 #include "report/reporttexts_p.h"

@@ -1,6 +1,6 @@
 #include "report/saving/reportfilewriter_p.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "base/temporaries_p.h"
 #include "base/temporaryfolder_p.h"
 #include "instrument/drives_p.h"

@@ -1,7 +1,7 @@
 #include "report/saving/reportrecord_p.h"
 
-#include "base/paths.h"
-#include "core/itemids.h"
+#include "base/paths_p.h"
+#include "core/itemids_p.h"
 #include "document/reportmetadata.h"
 #include "instrument/basemanager_p.h"
 

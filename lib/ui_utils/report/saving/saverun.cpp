@@ -1,7 +1,7 @@
 #include "report/saving/saverun_p.h"
 
-#include "base/paths.h"
-#include "core/itemids.h"
+#include "base/paths_p.h"
+#include "core/itemids_p.h"
 #include "instrument/drives_p.h"
 #include "report/reportnaming_p.h"
 

@@ -1,6 +1,6 @@
 #include "report/saving/saving_p.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "instrument/drives_p.h"
 #include "report/saving/nosynclist_p.h"
 #include "report/saving/reportfilewriter_p.h"

@@ -1,7 +1,7 @@
 #include "writers/html/htmlstreamwriter.h"
 
 #include "base/directmarkup_p.h"
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "base/xmltext_p.h"
 #include "writers/html/style.h"
 #include "writers/pages/reportheader.h"

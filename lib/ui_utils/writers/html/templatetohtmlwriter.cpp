@@ -1,7 +1,7 @@
 #include "writers/html/templatetohtmlwriter.h"
 
-#include "base/durablefile.h"
-#include "base/paths.h"
+#include "base/durablefile_p.h"
+#include "base/paths_p.h"
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
 #include "instrument/unit_p.h"

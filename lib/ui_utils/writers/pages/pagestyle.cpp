@@ -1,6 +1,6 @@
 #include "writers/pages/pagestyle_p.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "writers/pages/pageimage_p.h"
 #include "writers/pages/statusicons_p.h"
 

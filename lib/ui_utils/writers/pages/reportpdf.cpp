@@ -1,8 +1,8 @@
 #include "writers/pages/reportpdf.h"
 
-#include "base/durablefile.h"
+#include "base/durablefile_p.h"
 #include "base/memoryfile_p.h"
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "writers/pages/pageimage_p.h"
 #include "writers/pages/pageprinter_p.h"
 #include "writers/pages/statusicons_p.h"

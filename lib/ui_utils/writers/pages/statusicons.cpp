@@ -1,6 +1,6 @@
 #include "writers/pages/statusicons_p.h"
 
-#include "base/paths.h"
+#include "base/paths_p.h"
 #include "core/status.h"
 
 #include <QFile>

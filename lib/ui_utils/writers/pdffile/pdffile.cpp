@@ -1,7 +1,7 @@
 #include "writers/pdffile/pdffile.h"
 
-#include "base/durablefile.h"
-#include "base/paths.h"
+#include "base/durablefile_p.h"
+#include "base/paths_p.h"
 #include "writers/pdffile/pdfdocument_p.h"
 #include "writers/pdffile/pdfprobe_p.h"
 

@@ -1,6 +1,6 @@
 #include "writers/plots/plotdata_p.h"
 
-#include "core/itemids.h"
+#include "core/itemids_p.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>

@@ -1,7 +1,7 @@
 #include "writers/plots/plotimage.h"
 
-#include "base/durablefile.h"
-#include "base/paths.h"
+#include "base/durablefile_p.h"
+#include "base/paths_p.h"
 #include "writers/plots/plotpainter_p.h"
 
 #include <QBuffer>
