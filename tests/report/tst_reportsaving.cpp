@@ -70,7 +70,11 @@ public:
         events << "getSaveFilePath " + suffix;
         return Report::getSaveFilePath(name, suffix);
     }
-    void saveStarted(const QString& name) override { events << "saveStarted " + name; }
+    void saveStarted(const QString& name) override
+    {
+        const QByteArray stored = contentsOf(qEnvironmentVariable("UIUTILS_ROOT") + uiutils::reportSettingsPath(getFolder()));
+        events << (stored.contains(name.toUtf8()) ? "saveStarted " : "saveStarted without settings ") + name;
+    }
     void reportWritten(const QString& path) override { events << "reportWritten " + path; }
     void overwriteAsked(const QString& path) override { events << "overwriteAsked " + path; }
     void overwriteDeclined(const QString& path) override { events << "overwriteDeclined " + path; }
@@ -257,6 +261,18 @@ private Q_SLOTS:
             QVERIFY(!report.calls.contains("failed"));
             QVERIFY(QDir(onDisk("/cust/public/reports")).removeRecursively());
         }
+        // One that comes to the stick while the copy is written stays there.
+        plug(2);
+        Controller report("a", 3);
+        const std::function<void()> whileCopying = [&] {
+            if (QDir(onDisk("/mnt/usb")).isEmpty(QDir::Files | QDir::Hidden))
+                whileSyncing = whileCopying;
+            else
+                writeFile(onDisk("/mnt/usb/a.txt"), "theirs");
+        };
+        whileSyncing = whileCopying;
+        QVERIFY(!report.save() && !whileSyncing);
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/a.txt")), QByteArray("theirs"));
     }
     void roomIsLookedForBeforeTheQuestion()
     {

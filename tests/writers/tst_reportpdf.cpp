@@ -289,7 +289,7 @@ private Q_SLOTS:
         for (int i = 0; i < rows; ++i)
             table[QString("row_%1").arg(1000 + i)] = QJsonObject {{"label", QString("Row%1").arg(i)},
                     {"cell_0", QJsonObject {{"label", QString("P%1 dBm%1").arg(i)}, {"attr_align", "1"}}},
-                    {"cell_1", QJsonObject {{"label", QString("N%1").arg(i * i)}, {"attr_align", "2"}}},
+                    {"cell_1", QJsonObject {{"label", QString("N%1").arg(i * i)}, {"attr_align", "2"}, {"attr_status", i % 5 ? "0" : "16"}}},
                     {"cell_2", QJsonObject {{"label", QString("S%1").arg(i)}, {"attr_status", QString::number(16 << i % 3)}}},
                     {"cell_3", QJsonObject {{"label", remark(i).join(' ')}, {"attr_align", "1"}}}};
         print({{"node_type", "report"}, {"tag", "t"}, {"table_0", table}}, {{"orientation", orientation}});
