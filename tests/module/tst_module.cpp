@@ -1,7 +1,9 @@
+#include "document/reporttemplate.h"
 #include "module/uiutilsmodule.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
 
+#include <QJsonObject>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QtTest>
