@@ -42,7 +42,7 @@ inline QString outputOf(const QString& program, const QStringList& arguments, co
     return process.exitCode() == 0 ? output : QString("status %1\n%2").arg(process.exitCode()).arg(output);
 }
 
-/// The rows of a table below tests/data, of cells parted by " | "; a line that begins with "#" is for the reader.
+/// The rows of a table below tests/data, of cells separated by " | "; a line that begins with "#" is for the reader.
 inline QVector<QStringList> tableIn(const QString& name)
 {
     QVector<QStringList> rows;

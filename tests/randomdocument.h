@@ -17,7 +17,7 @@ public:
 
     void readInto(ReportTemplate& report)
     {
-        const QTemporaryDir folder;
+        static const QTemporaryDir folder;
         report.readFile(writeFile(folder.filePath("document.json"), QJsonDocument(node(3)).toJson()));
     }
 
