@@ -128,6 +128,8 @@ private Q_SLOTS:
         // Once that writer has its answer, who overwrites without a question does.
         report.disconnect(&report);
         QVERIFY(!report.writeTxtReport("/cust/public/reports/a.txt"));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(dialogText().contains("a.txt"));
         manager()->accept();
         QVERIFY(report.writeTxtReport("/cust/public/reports/a.txt", true));
         QVERIFY(report.save(true));
