@@ -1,6 +1,5 @@
 #include "report/report.h"
 
-#include "base/durablefile_p.h"
 #include "base/paths_p.h"
 #include "core/itemids_p.h"
 #include "instrument/drives_p.h"
@@ -8,23 +7,18 @@
 #include "report/report_p.h"
 #include "report/reportdestinations_p.h"
 #include "report/reportformats_p.h"
-#include "report/reportlisting_p.h"
-#include "report/reportnaming_p.h"
-#include "report/reportsettingsstore_p.h"
 #include "writers/pages/reportitem.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
 
-#include <QCoreApplication>
-#include <QFile>
 #include <QTimer>
 
 using uiutils::changes;
-using uiutils::onDisk;
 
 namespace {
 
+/// Milliseconds that the page has to set its folder.
 constexpr int settingsDelay = 100;
 
 } // namespace

@@ -8,7 +8,6 @@
 #include "report/report.h"
 #include "report/report_p.h"
 #include "report/reportformats_p.h"
-#include "report/reportlisting_p.h"
 #include "report/reportnaming_p.h"
 #include "report/reportsettingsstore_p.h"
 

@@ -1,6 +1,7 @@
 #include "report/saving/savedialogs_p.h"
 
-#include <QCoreApplication>
+#include "report/reporttexts_p.h"
+
 #include <QPointer>
 #include <QtDebug>
 
@@ -50,7 +51,7 @@ void SaveDialogs::tellSyncError(const QString& consequence, const QString& reaso
     qWarning("%s", qUtf8Printable(reason));
     const bool isSave = m_isFirstError.has_value();
     if (!isSave || !std::exchange(m_isSyncErrorTold, true))
-        tell(QCoreApplication::translate("Report", "Sync"), consequence + QLatin1Char(' ') + reason);
+        tell(ReportTexts::tr("Sync"), consequence + QLatin1Char(' ') + reason);
 }
 
 void SaveDialogs::close()

@@ -2,8 +2,8 @@
 
 #include "instrument/drives_p.h"
 #include "report/reportnaming_p.h"
+#include "report/reporttexts_p.h"
 
-#include <QCoreApplication>
 #include <QDir>
 
 namespace uiutils {
@@ -13,8 +13,8 @@ namespace {
 QString noFormat(const FormatChoice& choice)
 {
     if (choice.given.isEmpty() || choice.isFormat)
-        return QCoreApplication::translate("Report", "No format is chosen to save the report in.");
-    return QCoreApplication::translate("Report", "There is no format \"%1\" to save the report in.").arg(choice.given);
+        return ReportTexts::tr("No format is chosen to save the report in.");
+    return ReportTexts::tr("There is no format \"%1\" to save the report in.").arg(choice.given);
 }
 
 } // namespace

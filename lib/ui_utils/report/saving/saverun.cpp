@@ -4,11 +4,11 @@
 #include "core/itemids_p.h"
 #include "instrument/drives_p.h"
 #include "report/reportnaming_p.h"
+#include "report/reporttexts_p.h"
 
 #include <kiv/filesystemusage.h>
 #include <kiv/kivclientinterface.h>
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <algorithm>
@@ -76,7 +76,7 @@ bool SaveRun::takeName()
     if (!hooks().isAlive())
         return false;
     if (!problem.isEmpty()) {
-        m_saving->dialogs.tell(QCoreApplication::translate("Report", "Write Error"), problem);
+        m_saving->dialogs.tell(ReportTexts::tr("Write Error"), problem);
         return false;
     }
     hooks().started(m_plan.name);
@@ -100,7 +100,7 @@ void SaveRun::takeDestinations()
 bool SaveRun::hasRoom()
 {
     const QStringList folders = m_saving->destinations().foldersToCheck(hooks().baseFolder());
-    const QString message = QCoreApplication::translate("Report", "There is not enough space to save the report.");
+    const QString message = ReportTexts::tr("There is not enough space to save the report.");
     return std::all_of(folders.cbegin(), folders.cend(),
             [&](const QString& folder) { return FileSystemUsage::checkAndNotifyBeforeSave(onDisk(folder), message); });
 }

@@ -2,6 +2,7 @@
 
 #include "base/paths_p.h"
 #include "instrument/drives_p.h"
+#include "report/reporttexts_p.h"
 #include "report/saving/nosynclist_p.h"
 #include "report/saving/reportfilewriter_p.h"
 #include "report/saving/reportrecord_p.h"
@@ -104,9 +105,8 @@ void Saving::recordSync(const QStringList& files, bool isSynced)
     QStringList shown;
     for (const QString& file : files)
         shown += instrument::shownPath(file);
-    const QString consequence = isSynced
-            ? QCoreApplication::translate("Report", "%1 is still on the list of reports that are not synced.")
-            : QCoreApplication::translate("Report", "The cloud may take %1, although it is not to be synced.");
+    const QString consequence = isSynced ? ReportTexts::tr("%1 is still on the list of reports that are not synced.")
+                                         : ReportTexts::tr("The cloud may take %1, although it is not to be synced.");
     dialogs.tellSyncError(consequence.arg(shown.join(QLatin1String(", "))), error);
 }
 
