@@ -65,7 +65,9 @@ private Q_SLOTS:
         KIVClientInterface* shared = KIVClientInterface::getSessionBusClient("kinds");
         QVERIFY(shared);
         QCOMPARE(KIVClientInterface::getSessionBusClient("kinds"), shared);
-        QVERIFY(!KIVClientInterface::getSessionBusClient("unknown"));
+        // Where a service may still come, there is a client to wait for it.
+        const KIVClientInterface* unknown = KIVClientInterface::getSessionBusClient("unknown");
+        QVERIFY(!unknown || !unknown->isValid());
         QVERIFY(!KIVClientInterface::getSessionBusClient(""));
 
         // One of one's own dies with its parent.
@@ -399,7 +401,7 @@ private Q_SLOTS:
         QVERIFY(m_setup->change("station", levelId, PlatformSetup::Answer::Refusal, "Not while it measures."));
         QVERIFY(!station()->setItem(levelId, 2));
         QCOMPARE(station()->getLastError(), QString("Not while it measures."));
-        QCOMPARE(station()->getItem(levelId)->getValue(), QVariant(1));
+        QTRY_COMPARE(station()->getItem(levelId)->getValue(), QVariant(1));
     }
 
     void actions()

@@ -3,24 +3,7 @@
 #include "serviceregistry_p.h"
 #include "texts_p.h"
 
-#include <QThread>
-#include <QTimer>
-
-#include <algorithm>
-
 namespace kiv::embedded {
-
-namespace {
-
-void carryOutLater(EmbeddedService* service, qint64 delayMs, const std::function<Outcome(ServiceData&)>& request)
-{
-    QTimer::singleShot(std::chrono::milliseconds(delayMs), service, [service, request] {
-        if (service->isReachable())
-            request(ServiceData::of(*service));
-    });
-}
-
-} // namespace
 
 EmbeddedClient::EmbeddedClient(ServicePlace* place, QObject* parent)
     : KIVClientInterface(parent)
@@ -89,18 +72,7 @@ Outcome EmbeddedClient::call(int delayMs, int timeoutMs, const Request& request)
     if (!called)
         return {false,
                 RequestTexts::tr("The service %1 cannot be reached. Try again when it runs.").arg(m_serviceName)};
-    const qint64 delay = qint64(ServiceData::of(*called).delayMs) + delayMs;
-    const qint64 timeout = std::max(timeoutMs, 0);
-    // The contract forbids an event loop here: the caller's page stands still, as it does on an instrument. Sleeping
-    // for no time at all would still cost a turn of the scheduler.
-    if (delay > 0)
-        QThread::msleep(static_cast<unsigned long>(std::min(delay, timeout)));
-    if (delay <= timeout)
-        return request(ServiceData::of(*called));
-    carryOutLater(called, delay - timeout, request);
-    return {false,
-            RequestTexts::tr("The service %1 did not answer within %2 ms. It may still do what was asked for.")
-                    .arg(m_serviceName, QString::number(timeout))};
+    return callInProcess(called, delayMs, timeoutMs, request);
 }
 
 /// A slot that heard of what was done may have deleted the client.

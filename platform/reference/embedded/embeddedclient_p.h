@@ -6,8 +6,6 @@
 
 #include <QPointer>
 
-#include <functional>
-
 namespace kiv::embedded {
 
 class ServicePlace;
@@ -31,8 +29,6 @@ public:
     QString getLastError() const override { return m_lastError; }
 
 private:
-    using Request = std::function<Outcome(ServiceData&)>;
-
     /// The service, if it can be reached.
     EmbeddedService* service() const;
     Outcome call(int delayMs, int timeoutMs, const Request& request) const;

@@ -18,14 +18,15 @@ namespace {
 
 /// Changes a field and emits `changed` if that makes a difference.
 template<class Value>
-bool change(const ItemStore::StatePtr& state, Value ItemDescription::*field, const Value& value,
+bool change(const ItemStore::StatePtr& state, ItemField field, Value ItemDescription::*member, const Value& value,
         void (KIVClientItem::*changed)())
 {
     if (!state)
         return false;
-    if (state->description.*field == value)
+    if (state->description.*member == value)
         return true;
-    state->description.*field = value;
+    state->description.*member = value;
+    state->note(field);
     if (state->item)
         Q_EMIT(state->item->*changed)();
     return true;
@@ -91,6 +92,7 @@ bool EmbeddedService::setAttribute(const QString& id, const QString& name, const
         return false;
     const QString oldUnit = state->unitText();
     state->setAttribute(name, value);
+    state->note(ItemField::Attributes);
     tell(state, {false, state->unitText() != oldUnit});
     return true;
 }
@@ -100,7 +102,10 @@ bool EmbeddedService::setLabel(const QString& id, const QString& label)
     const ItemStore::StatePtr state = d->items.find(id);
     if (!state)
         return false;
-    state->description.label = label;
+    if (state->description.label != label) {
+        state->description.label = label;
+        state->note(ItemField::Label);
+    }
     return true;
 }
 
@@ -110,19 +115,24 @@ bool EmbeddedService::setUnit(const QString& id, const QString& unit)
     if (!state)
         return false;
     const QString oldUnit = state->unitText();
-    state->description.unit = unit;
+    if (state->description.unit != unit) {
+        state->description.unit = unit;
+        state->note(ItemField::Unit);
+    }
     tell(state, {false, state->unitText() != oldUnit});
     return true;
 }
 
 bool EmbeddedService::setReady(const QString& id, bool isReady)
 {
-    return change(d->items.find(id), &ItemDescription::isReady, isReady, &KIVClientItem::isReadyChanged);
+    return change(d->items.find(id), ItemField::Ready, &ItemDescription::isReady, isReady,
+            &KIVClientItem::isReadyChanged);
 }
 
 bool EmbeddedService::setQuality(const QString& id, KIVClientItem::Quality quality)
 {
-    return change(d->items.find(id), &ItemDescription::quality, quality, &KIVClientItem::qualityChanged);
+    return change(d->items.find(id), ItemField::Quality, &ItemDescription::quality, quality,
+            &KIVClientItem::qualityChanged);
 }
 
 bool EmbeddedService::setApplicable(const QString& id, bool isApplicable)
@@ -130,7 +140,8 @@ bool EmbeddedService::setApplicable(const QString& id, bool isApplicable)
     const ItemStore::StatePtr state = d->items.find(id);
     if (!state || !state->description.applicableExpr.isEmpty())
         return false;
-    return change(state, &ItemDescription::isApplicable, isApplicable, &KIVClientItem::isApplicableChanged);
+    return change(state, ItemField::Applicable, &ItemDescription::isApplicable, isApplicable,
+            &KIVClientItem::isApplicableChanged);
 }
 
 bool EmbeddedService::setChoices(const QString& id, const QVector<ChoiceDescription>& choices)
@@ -144,6 +155,7 @@ bool EmbeddedService::setChoices(const QString& id, const QVector<ChoiceDescript
     // An enumeration stays one when its last choice goes.
     state->description.isEnumeration = true;
     old = choices;
+    state->note(ItemField::Choices);
     if (state->item)
         tellChoices(state->item);
     return true;
@@ -159,6 +171,8 @@ bool EmbeddedService::setRange(const QString& id, const QVariant& minimum, const
         return false;
     state->description.minimum = limits.minimum;
     state->description.maximum = limits.maximum;
+    state->note(ItemField::Minimum);
+    state->note(ItemField::Maximum);
     return true;
 }
 
@@ -200,6 +214,8 @@ bool EmbeddedService::setMounted(const QString& path, bool isMounted)
         d->mounted.insert(QDir::cleanPath(path));
     else
         d->mounted.remove(QDir::cleanPath(path));
+    if (d->mountsChanged)
+        d->mountsChanged();
     return true;
 }
 

@@ -92,7 +92,14 @@ QVariant ItemState::attribute(const QString& name) const
 
 void ItemState::setAttribute(const QString& name, const QVariant& value)
 {
-    description.attributes.insert(name, value);
+    QVariantMap attributes = description.attributes;
+    attributes.insert(name, value);
+    setAttributes(attributes);
+}
+
+void ItemState::setAttributes(const QVariantMap& attributes)
+{
+    description.attributes = attributes;
     m_formatter.reset();
     m_hasLookedForFormatter = false;
 }
@@ -105,6 +112,7 @@ ItemState::Changes ItemState::takeValue(const QVariant& value)
     const bool unitMayChange = description.unit.isEmpty() && formatter();
     const QString oldUnit = unitMayChange ? unitText() : QString();
     description.value = value;
+    note(ItemField::Value);
     return {true, unitMayChange && unitText() != oldUnit};
 }
 

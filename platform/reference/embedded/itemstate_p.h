@@ -8,6 +8,34 @@
 
 namespace kiv::embedded {
 
+class ItemState;
+
+/// What a service says of an item and may change while the item lives. The numbers travel between processes.
+enum class ItemField : quint8 {
+    Value = 1,
+    Label = 2,
+    Unit = 3,
+    Ready = 4,
+    Quality = 5,
+    Applicable = 6,
+    Minimum = 7,
+    Maximum = 8,
+    Choices = 9,
+    Attributes = 10,
+};
+
+/// Carries the items of a service further than its own process.
+class ItemWatcher
+{
+public:
+    ItemWatcher() = default;
+    virtual ~ItemWatcher() = default;
+    Q_DISABLE_COPY_MOVE(ItemWatcher)
+
+    /// A field has changed, and nobody knows yet. Only notes it.
+    virtual void fieldChanged(ItemState* state, ItemField field) = 0;
+};
+
 /// What a service knows of one of its items. It is there also while the service cannot be reached and no client has the
 /// item's object; whoever reports a change holds it, since a slot may end the service.
 class ItemState
@@ -32,6 +60,10 @@ public:
     quint64 position = 0;
     /// Whether the value goes into the service's state file.
     bool isKept = false;
+    /// The number that other processes know the item by; the watcher gives it.
+    quint32 number = 0;
+    /// Null when nobody watches.
+    ItemWatcher* watcher = nullptr;
 
     bool isSetting() const { return description.id.startsWith(QLatin1String(":config:")); }
     bool isEnumeration() const { return description.isEnumeration || !description.choices.isEmpty(); }
@@ -45,9 +77,17 @@ public:
     QString unitText() const;
     QVariant attribute(const QString& name) const;
     void setAttribute(const QString& name, const QVariant& value);
+    void setAttributes(const QVariantMap& attributes);
 
-    /// Takes a value of the item's type, or an invalid one for none, and tells nobody.
+    /// Takes a value of the item's type, or an invalid one for none, and tells the watcher alone.
     Changes takeValue(const QVariant& value);
+
+    /// Tells the watcher.
+    void note(ItemField field)
+    {
+        if (watcher)
+            watcher->fieldChanged(this, field);
+    }
 
 private:
     BaseFormatter* formatter() const;

@@ -29,9 +29,17 @@ QVector<ItemStore::StatePtr> ItemStore::inOrder() const
     return states;
 }
 
+void ItemStore::setWatcher(ItemWatcher* watcher)
+{
+    m_watcher = watcher;
+    for (const StatePtr& state : qAsConst(m_states))
+        state->watcher = watcher;
+}
+
 void ItemStore::add(const StatePtr& state)
 {
     state->position = ++m_lastPosition;
+    state->watcher = m_watcher;
     m_states.insert(state->description.id, state);
     m_sorted.insert(state->description.id, state.get());
 }
@@ -42,6 +50,7 @@ void ItemStore::remove(const QString& id)
     m_sorted.remove(id);
     if (!state)
         return;
+    state->watcher = nullptr;
     KIVClientItem* item = state->item;
     state->item = nullptr;
     delete item;
@@ -68,6 +77,13 @@ void ItemStore::close()
         return;
     for (const StatePtr& state : qAsConst(m_states))
         state->item = nullptr;
+}
+
+void ItemStore::clear()
+{
+    close();
+    m_sorted.clear();
+    m_states.clear();
 }
 
 } // namespace kiv::embedded

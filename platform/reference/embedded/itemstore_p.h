@@ -23,6 +23,11 @@ public:
     QStringList sortedIds(const QString& prefix) const;
     QVector<StatePtr> inOrder() const;
 
+    int size() const { return m_states.size(); }
+
+    /// Lets somebody watch the items, also those to come; null for nobody.
+    void setWatcher(ItemWatcher* watcher);
+
     /// Adds an item behind the others; its id must be a new one.
     void add(const StatePtr& state);
     void remove(const QString& id);
@@ -34,11 +39,14 @@ public:
     void open();
     /// Destroys the objects; the states stay. Whoever hears of an end finds none of the objects any more.
     void close();
+    /// Closes, and forgets the states.
+    void clear();
 
 private:
     QHash<QString, StatePtr> m_states;
     QMap<QString, ItemState*> m_sorted;
     quint64 m_lastPosition = 0;
+    ItemWatcher* m_watcher = nullptr;
     /// The objects' parent: it deletes many of them in one go.
     std::unique_ptr<QObject> m_objects;
 };

@@ -5,6 +5,11 @@
 #include "pendingwrites_p.h"
 #include "texts_p.h"
 
+#include <QThread>
+#include <QTimer>
+
+#include <algorithm>
+
 namespace kiv::embedded {
 
 namespace {
@@ -53,6 +58,14 @@ QString noSettingProblem(const ItemState& state, const QVariant& value)
     return isEmpty ? QString() : RequestTexts::tr("%1 cannot be set: it can only be emptied.").arg(state.title());
 }
 
+void carryOutLater(EmbeddedService* service, qint64 delayMs, const Request& request)
+{
+    QTimer::singleShot(std::chrono::milliseconds(delayMs), service, [service, request] {
+        if (service->isReachable())
+            request(ServiceData::of(*service));
+    });
+}
+
 } // namespace
 
 Outcome setSetting(ServiceData& service, const QString& id, const QVariant& value)
@@ -94,6 +107,22 @@ int actionDelay(const ServiceData& service, const QString& id)
 {
     const ItemStore::StatePtr state = listedAction(service.items, id);
     return state && state->description.does ? state->description.does->delayMs : 0;
+}
+
+Outcome callInProcess(EmbeddedService* service, int delayMs, int timeoutMs, const Request& request)
+{
+    const qint64 delay = qint64(ServiceData::of(*service).delayMs) + delayMs;
+    const qint64 timeout = std::max(timeoutMs, 0);
+    // The contract forbids an event loop here: the caller's page stands still, as it does on an instrument. Sleeping
+    // for no time at all would still cost a turn of the scheduler.
+    if (delay > 0)
+        QThread::msleep(static_cast<unsigned long>(std::min(delay, timeout)));
+    if (delay <= timeout)
+        return request(ServiceData::of(*service));
+    carryOutLater(service, delay - timeout, request);
+    return {false,
+            RequestTexts::tr("The service %1 did not answer within %2 ms. It may still do what was asked for.")
+                    .arg(service->name(), QString::number(timeout))};
 }
 
 } // namespace kiv::embedded

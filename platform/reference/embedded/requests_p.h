@@ -2,6 +2,11 @@
 
 #include "servicedata_p.h"
 
+#include <embedded/embedded_export.h>
+
+// What carries a client's request to a service in this process. Exported for the back ends that carry requests from other
+// processes; not installed.
+
 namespace kiv::embedded {
 
 /// What came of a client's request: whether it was done, and the reply or the error in words.
@@ -14,12 +19,19 @@ struct Outcome
 // The service may be gone when one of these returns: somebody heard of what it did.
 
 /// Takes a value for a setting.
-Outcome setSetting(ServiceData& service, const QString& id, const QVariant& value);
+KIVEMBEDDED_EXPORT Outcome setSetting(ServiceData& service, const QString& id, const QVariant& value);
 
 /// Carries out an action.
-Outcome carryOut(ServiceData& service, const QString& id, const QString& argument);
+KIVEMBEDDED_EXPORT Outcome carryOut(ServiceData& service, const QString& id, const QString& argument);
 
 /// Milliseconds that an action takes beside the service's own delay.
-int actionDelay(const ServiceData& service, const QString& id);
+KIVEMBEDDED_EXPORT int actionDelay(const ServiceData& service, const QString& id);
+
+using Request = std::function<Outcome(ServiceData&)>;
+
+/// Carries out a request of a client in this thread, which stands still for as long as the service takes, but at most for
+/// `timeoutMs`; then the request is carried out later and counts as not answered. `delayMs` is what the request takes
+/// beside the service's own delay.
+KIVEMBEDDED_EXPORT Outcome callInProcess(EmbeddedService* service, int delayMs, int timeoutMs, const Request& request);
 
 } // namespace kiv::embedded

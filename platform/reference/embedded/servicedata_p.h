@@ -17,6 +17,8 @@ struct ServiceData
     QHash<QString, EmbeddedService::ActionHandler> handlers;
     /// Clean paths without a slash behind.
     QSet<QString> mounted;
+    /// Called when a drive was mounted or taken away; may be empty.
+    std::function<void()> mountsChanged;
     /// Null when nothing is kept.
     std::unique_ptr<StateKeeper> keeper;
     /// Lists the services that are published beside this one, and this one. Set when it is published.

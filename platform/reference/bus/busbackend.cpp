@@ -1,0 +1,335 @@
+#include "busbackend.h"
+
+#include "busclient_p.h"
+#include "bustexts_p.h"
+#include "protocol_p.h"
+#include "reconnecting_p.h"
+#include "remoteservice_p.h"
+
+#include "formatters/formatters_p.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QMap>
+#include <QSet>
+
+#include <algorithm>
+
+namespace kiv::bus {
+
+namespace {
+
+constexpr QLatin1String baseManagerName("basemgr");
+constexpr int patienceMs = 25'000;
+
+} // namespace
+
+struct BusBackend::Private
+{
+    explicit Private(BusBackend* backend)
+        : q(backend)
+    {
+    }
+
+    Connection* connection() { return bus.connection(); }
+    Message daemonCall(const char* member);
+    void askDaemon(const Message& call, const Connection::Answer& answer);
+    void onReady();
+    void onLost();
+    void onNames(const Message& reply);
+    void onSignal(const Message& signal);
+    void onOwner(const QByteArray& busName, const QByteArray& owner);
+    void askForOwner(RemoteService* service);
+    void checkOwner(RemoteService* service);
+    void onUser(RemoteService* service, const QByteArray& owner, const Message& reply);
+    void noteAlive(const QByteArray& owner);
+    RemoteService* makeService(const QString& name);
+    void onSettled(RemoteService* service);
+    bool isSettled() const;
+
+    BusBackend* const q;
+    ReconnectingBus bus;
+    QMap<QString, RemoteService*> services;
+    /// By the unique name of their owner.
+    QMultiHash<QByteArray, RemoteService*> byOwner;
+    QSet<QString> seen;
+    bool areNamesKnown = false;
+    std::optional<quint32> ownUser;
+    QString problem;
+};
+
+Message BusBackend::Private::daemonCall(const char* member)
+{
+    return connection()->newCall(daemonName, daemonPath, daemonName, member);
+}
+
+void BusBackend::Private::askDaemon(const Message& call, const Connection::Answer& answer)
+{
+    connection()->call(call, patienceMs, q, answer);
+}
+
+// --- Names and their owners ----------------------------------------------------------------------
+
+void BusBackend::Private::onReady()
+{
+    problem.clear();
+    QByteArray prefix(namePrefix.data(), namePrefix.size() - 1);
+    connection()->match("type='signal',sender='org.freedesktop.DBus',member='NameOwnerChanged',arg0namespace='" + prefix
+            + '\'');
+    const Message user = daemonCall("GetConnectionUnixUser");
+    Writer(user).text(QString::fromLatin1(connection()->uniqueName()));
+    askDaemon(user, [this](const Message& reply) { ownUser = Reader(reply).uint32(); });
+    for (RemoteService* service : qAsConst(services))
+        askForOwner(service);
+    askDaemon(daemonCall("ListNames"), [this](const Message& reply) { onNames(reply); });
+}
+
+void BusBackend::Private::onLost()
+{
+    areNamesKnown = false;
+    byOwner.clear();
+    const QPointer<BusBackend> self(q);
+    const QList<RemoteService*> all = services.values();
+    for (RemoteService* service : all) {
+        service->setOwner(QByteArray());
+        if (!self)
+            return;
+    }
+}
+
+void BusBackend::Private::onNames(const Message& reply)
+{
+    Reader reader(reply);
+    if (!reply.isError() && reader.enter('a', "s")) {
+        while (!reader.atEnd()) {
+            const QString name = serviceOfBusName(reader.text().toUtf8());
+            if (!name.isEmpty() && !services.contains(name))
+                makeService(name);
+        }
+    }
+    areNamesKnown = true;
+}
+
+void BusBackend::Private::onSignal(const Message& signal)
+{
+    const QByteArray sender = signal.sender();
+    if (sender != daemonName) {
+        const QPointer<BusBackend> self(q);
+        const QList<RemoteService*> owned = byOwner.values(sender);
+        for (RemoteService* service : owned) {
+            service->noteAlive();
+            service->hear(signal);
+            if (!self)
+                return;
+        }
+        return;
+    }
+    if (!signal.isSignal(daemonName, "NameOwnerChanged"))
+        return;
+    Reader reader(signal);
+    const QByteArray name = reader.text().toUtf8();
+    reader.text();
+    onOwner(name, reader.text().toUtf8());
+}
+
+void BusBackend::Private::onOwner(const QByteArray& busName, const QByteArray& owner)
+{
+    const QString name = serviceOfBusName(busName);
+    if (name.isEmpty() || (owner.isEmpty() && !services.contains(name)))
+        return;
+    RemoteService* service = services.value(name);
+    if (!service) {
+        // Asks for the owner by itself.
+        makeService(name);
+        return;
+    }
+    if (service->owner() == owner) {
+        service->setOwner(owner);
+        return;
+    }
+    byOwner.remove(service->owner(), service);
+    if (!owner.isEmpty())
+        byOwner.insert(owner, service);
+    const QPointer<RemoteService> alive(service);
+    service->setOwner(owner);
+    if (alive && service->owner() == owner && !owner.isEmpty())
+        checkOwner(service);
+}
+
+void BusBackend::Private::askForOwner(RemoteService* service)
+{
+    const Message call = daemonCall("GetNameOwner");
+    Writer(call).text(QString::fromLatin1(service->busName()));
+    askDaemon(call, [this, service](const Message& reply) {
+        onOwner(service->busName(), reply.isError() ? QByteArray() : Reader(reply).text().toUtf8());
+    });
+}
+
+/// Another user's process is not believed. On the system bus the policy says who may own the names.
+void BusBackend::Private::checkOwner(RemoteService* service)
+{
+    if (bus.bus() == Bus::System) {
+        service->load();
+        return;
+    }
+    const QByteArray owner = service->owner();
+    const Message call = daemonCall("GetConnectionUnixUser");
+    Writer(call).text(QString::fromLatin1(owner));
+    askDaemon(call, [this, service, owner](const Message& reply) { onUser(service, owner, reply); });
+}
+
+void BusBackend::Private::onUser(RemoteService* service, const QByteArray& owner, const Message& reply)
+{
+    if (service->owner() != owner)
+        return;
+    if (!reply.isError() && ownUser && Reader(reply).uint32() == *ownUser)
+        service->load();
+    else
+        service->giveUp(BusTexts::tr("The service %1 is run by another user and is not used.").arg(service->name()));
+}
+
+void BusBackend::Private::noteAlive(const QByteArray& owner)
+{
+    const QList<RemoteService*> owned = byOwner.values(owner);
+    for (RemoteService* service : owned)
+        service->noteAlive();
+}
+
+// --- Services ------------------------------------------------------------------------------------
+
+RemoteService* BusBackend::Private::makeService(const QString& name)
+{
+    auto* service = new RemoteService(name, connection(), q);
+    services.insert(name, service);
+    connect(service, &RemoteService::settled, q, [this, service] { onSettled(service); });
+    if (connection()->isReady())
+        askForOwner(service);
+    return service;
+}
+
+void BusBackend::Private::onSettled(RemoteService* service)
+{
+    if (!service->isReachable() || seen.contains(service->name()))
+        return;
+    seen += service->name();
+    Q_EMIT q->serviceAppeared(service->name());
+}
+
+bool BusBackend::Private::isSettled() const
+{
+    return areNamesKnown && std::all_of(services.cbegin(), services.cend(), [](const RemoteService* service) {
+        return service->isSettled();
+    });
+}
+
+BusBackend::BusBackend()
+    : d(std::make_unique<Private>(this))
+{
+    connect(&d->bus, &ReconnectingBus::ready, this, [this] { d->onReady(); });
+    connect(&d->bus, &ReconnectingBus::lost, this, [this] { d->onLost(); });
+    connect(&d->bus, &ReconnectingBus::failed, this, [this](const QString& reason) {
+        d->problem = reason;
+        Q_EMIT connectionFailed(reason);
+    });
+    connect(d->connection(), &Connection::signalReceived, this, [this](const Message& signal) { d->onSignal(signal); });
+    connect(d->connection(), &Connection::lateReplyReceived, this,
+            [this](const QByteArray& sender) { d->noteAlive(sender); });
+    setCurrent(this);
+    d->bus.start();
+}
+
+BusBackend::~BusBackend()
+{
+    // Nobody who hears of an item's end may find a service that is on its way out.
+    if (current() == this)
+        setCurrent(nullptr);
+    d->bus.disconnect(this);
+    d->connection()->disconnect(this);
+    const QList<RemoteService*> all = d->services.values();
+    for (RemoteService* service : all) {
+        service->disconnect(this);
+        service->setOwner(QByteArray());
+    }
+    qDeleteAll(all);
+}
+
+bool BusBackend::waitForServices(int timeoutMs)
+{
+    QEventLoop loop;
+    QTimer timeout;
+    timeout.setSingleShot(true);
+    connect(&timeout, &QTimer::timeout, &loop, &QEventLoop::quit);
+    // What has to be waited for ends in a message; a look after each turn is enough.
+    QTimer turns;
+    connect(&turns, &QTimer::timeout, &loop, [&] {
+        if (d->isSettled())
+            loop.quit();
+    });
+    timeout.start(timeoutMs);
+    turns.start(0);
+    if (!d->isSettled())
+        loop.exec();
+    return d->isSettled();
+}
+
+void BusBackend::startServices()
+{
+    d->askDaemon(d->daemonCall("ListActivatableNames"), [this](const Message& reply) {
+        Reader reader(reply);
+        if (reply.isError() || !reader.enter('a', "s"))
+            return;
+        while (!reader.atEnd()) {
+            const QString name = reader.text();
+            const QString service = serviceOfBusName(name.toUtf8());
+            const RemoteService* known = d->services.value(service);
+            if (service.isEmpty() || (known && !known->owner().isEmpty()))
+                continue;
+            const Message call = d->daemonCall("StartServiceByName");
+            Writer writer(call);
+            writer.text(name);
+            writer.uint32(0);
+            d->askDaemon(call, [](const Message&) {});
+        }
+    });
+}
+
+QStringList BusBackend::serviceNames() const
+{
+    QStringList names(d->seen.cbegin(), d->seen.cend());
+    names.sort();
+    return names;
+}
+
+QString BusBackend::problem() const
+{
+    return d->problem;
+}
+
+KIVClientInterface* BusBackend::baseManagerClient()
+{
+    return serviceClient(baseManagerName, nullptr);
+}
+
+KIVClientInterface* BusBackend::serviceClient(const QString& name, QObject* parent)
+{
+    if (busName(name).isEmpty())
+        return nullptr;
+    RemoteService* service = d->services.value(name);
+    if (!service)
+        service = d->makeService(name);
+    return parent ? new BusClient(service, parent) : service->sharedClient();
+}
+
+BaseFormatter* BusBackend::createFormatter(const QString& name) const
+{
+    return formatters::create(name);
+}
+
+std::optional<bool> BusBackend::isMounted(const QString& path) const
+{
+    const QString clean = QDir::cleanPath(path);
+    return std::any_of(d->services.cbegin(), d->services.cend(),
+            [&clean](const RemoteService* service) { return service->isMounted(clean); });
+}
+
+} // namespace kiv::bus

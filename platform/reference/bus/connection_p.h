@@ -1,0 +1,214 @@
+#pragma once
+
+#include <QByteArray>
+#include <QElapsedTimer>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+
+struct sd_bus;
+struct sd_bus_message;
+struct sd_bus_slot;
+class QSocketNotifier;
+
+namespace kiv::bus {
+
+/// A message, shared by its copies. Texts that are no UTF-8 never arrive.
+class Message
+{
+public:
+    Message() = default;
+    /// Takes over a reference.
+    explicit Message(sd_bus_message* message)
+        : m_message(message)
+    {
+    }
+    ~Message();
+    Message(const Message& other);
+    Message(Message&& other) noexcept { std::swap(m_message, other.m_message); }
+    Message& operator=(Message other) noexcept
+    {
+        std::swap(m_message, other.m_message);
+        return *this;
+    }
+
+    explicit operator bool() const { return m_message; }
+    sd_bus_message* raw() const { return m_message; }
+
+    bool isCall() const;
+    bool isSignal(const char* interface, const char* member) const;
+    /// The reply to a call that failed, also when it timed out.
+    bool isError() const;
+    QString errorName() const;
+    QString errorText() const;
+    QByteArray sender() const;
+    QByteArray path() const;
+    QByteArray interface() const;
+    QByteArray member() const;
+    QByteArray signature() const;
+
+private:
+    sd_bus_message* m_message = nullptr;
+};
+
+/// Appends values to a message that has not been sent. What cannot be appended makes the message unfit, see isGood().
+class Writer
+{
+public:
+    explicit Writer(const Message& message)
+        : m_message(message)
+    {
+    }
+
+    void byte(quint8 value);
+    void boolean(bool value);
+    void int32(qint32 value);
+    void uint32(quint32 value);
+    void uint64(quint64 value);
+    void real(double value);
+    void text(const QString& value);
+    /// All of an array of numbers at once.
+    void reals(const QVector<double>& values);
+    /// 'a' array, 'r' struct, 'v' variant or 'e' dictionary entry, with the signature of what is in it.
+    void open(char kind, const char* contents);
+    void close();
+    bool isGood() const { return m_status >= 0; }
+
+private:
+    void note(int status) { m_status = m_status < 0 ? m_status : status; }
+
+    const Message m_message;
+    int m_status = 0;
+};
+
+/// Reads values of a message in their order. What is not there reads as a neutral value and makes isGood() false.
+class Reader
+{
+public:
+    explicit Reader(const Message& message)
+        : m_message(message)
+    {
+    }
+
+    quint8 byte();
+    bool boolean();
+    qint32 int32();
+    quint32 uint32();
+    quint64 uint64();
+    double real();
+    QString text();
+    QVector<double> reals();
+    /// Enters a container as Writer::open() names them; false when the next value is no such one. At the end of an array
+    /// of containers false, and the reader stays good.
+    bool enter(char kind, const char* contents);
+    void leave();
+    bool atEnd();
+    /// The signature of what the variant that comes next holds; empty when none comes next.
+    QByteArray variantContents();
+    void skip(const char* signature);
+    bool isGood() const { return m_status >= 0; }
+
+private:
+    template<class Value> Value basic(char type);
+    void note(int status) { m_status = m_status < 0 ? m_status : status; }
+
+    const Message m_message;
+    int m_status = 0;
+};
+
+/// Which bus: that of the session or that of the system.
+enum class Bus {
+    Session,
+    System
+};
+
+/// A connection to a bus, on the event loop of the thread that makes it. Only this class knows the library that carries
+/// it.
+///
+/// Nothing but callBlocking() waits: connecting, sending and receiving go on while the event loop runs. What arrives is
+/// handed on outside of the carrying library, in the order of arrival, so that who hears of it may do anything: run an
+/// event loop, make a blocking call, delete this object.
+class Connection : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Hears the answer; isError() tells failures and time-outs from replies.
+    using Answer = std::function<void(const Message& reply)>;
+
+    explicit Connection(QObject* parent = nullptr);
+    ~Connection() override;
+
+    /// Begins to connect. Returns false, with the reason, when there is no such bus.
+    bool open(Bus bus, QString* problem);
+    void close();
+
+    /// Whether messages can be sent: connected, and known to the bus.
+    bool isReady() const { return m_isReady; }
+    /// Empty until it is ready.
+    QByteArray uniqueName() const { return m_uniqueName; }
+
+    Message newCall(const QByteArray& destination, const QByteArray& path, const char* interface, const char* member) const;
+    Message newSignal(const QByteArray& destination, const QByteArray& path, const char* interface, const char* member) const;
+    /// Empty when the caller wants no reply.
+    static Message newReply(const Message& call);
+    static void expectNoReply(const Message& call);
+
+    /// Sends without waiting; false when it could not be queued.
+    bool send(const Message& message);
+    /// Sends and lets `answer` hear of the reply, at the latest after `timeoutMs`. Nobody hears after `context` is gone.
+    void call(const Message& message, int timeoutMs, QObject* context, const Answer& answer);
+    /// Sends and waits for the reply for at most `timeoutMs` milliseconds. What else arrives meanwhile is handed on later.
+    Message callBlocking(const Message& message, int timeoutMs);
+    /// Answers a call with an error.
+    void refuse(const Message& call, const char* name, const QString& text);
+
+    /// Asks the bus for the signals that match `rule`.
+    void match(const QByteArray& rule);
+
+    /// Whether the message is the carrying library's own error for a reply that did not come in time.
+    static bool isTimeout(const Message& reply);
+
+Q_SIGNALS:
+    void ready();
+    /// The connection ended; close() has been called.
+    void lost();
+    void signalReceived(const kiv::bus::Message& signal);
+    /// Somebody calls one of our objects. Each call has to be answered.
+    void callReceived(const kiv::bus::Message& call);
+    /// An answer that nobody waits for any more.
+    void lateReplyReceived(const QByteArray& sender);
+
+private:
+    struct Pending;
+    struct Callbacks;
+    struct Arrival
+    {
+        Message message;
+        std::shared_ptr<Pending> pending;
+    };
+
+    void pump();
+    void pumpSoon();
+    void handOn();
+    void deliver(const Arrival& arrival);
+    bool checkReady();
+    void watch();
+
+    sd_bus* m_bus = nullptr;
+    sd_bus_slot* m_filter = nullptr;
+    bool m_isReady = false;
+    bool m_isPumpQueued = false;
+    QByteArray m_uniqueName;
+    std::deque<Arrival> m_arrived;
+    std::unique_ptr<QSocketNotifier> m_readable;
+    std::unique_ptr<QSocketNotifier> m_writable;
+    QTimer m_timer;
+};
+
+} // namespace kiv::bus

@@ -1,0 +1,441 @@
+#include "remoteservice_p.h"
+
+#include "busclient_p.h"
+#include "bustexts_p.h"
+#include "itemchanges_p.h"
+#include "localservices_p.h"
+#include "protocol_p.h"
+#include "valuecodec_p.h"
+
+#include "embedded/descriptioncheck_p.h"
+
+#include <QDir>
+#include <QPointer>
+
+#include <algorithm>
+
+namespace kiv::bus {
+
+namespace {
+
+using embedded::EmbeddedService;
+using embedded::ItemDescription;
+using embedded::ItemField;
+using embedded::ItemState;
+using embedded::Outcome;
+using embedded::ServiceData;
+
+/// Patience with what nobody waits for.
+constexpr int patienceMs = 25'000;
+/// More than any service has; one that sends more is ill.
+constexpr int mostItems = 200'000;
+
+QSet<QString> cleanPaths(const QVariant& paths)
+{
+    QSet<QString> clean;
+    for (const QString& path : paths.toStringList())
+        clean += QDir::cleanPath(path);
+    return clean;
+}
+
+} // namespace
+
+RemoteService::RemoteService(const QString& name, Connection* connection, QObject* parent)
+    : QObject(parent)
+    , m_name(name)
+    , m_busName(bus::busName(name))
+    , m_path(bus::objectPath(name))
+    , m_connection(connection)
+    , m_sharedClient(new BusClient(this, this))
+{
+}
+
+RemoteService::~RemoteService() = default;
+
+void RemoteService::setOwner(const QByteArray& owner)
+{
+    m_isOwnerKnown = true;
+    if (owner == m_owner)
+        return;
+    m_owner = owner;
+    ++m_session;
+    m_isLoading = !owner.isEmpty();
+    m_isReading = false;
+    m_isStalled = false;
+    m_refusal.clear();
+    m_mounts.clear();
+    m_numbered.clear();
+    m_snapshot = Snapshot();
+    // Whoever hears of the end may end this as well.
+    const QPointer<RemoteService> self(this);
+    if (isReachable()) {
+        m_items.clear();
+        if (self)
+            Q_EMIT itemsChanged();
+    }
+    if (self && owner.isEmpty())
+        Q_EMIT settled();
+}
+
+void RemoteService::giveUp(const QString& reason)
+{
+    qWarning("%s", qUtf8Printable(reason));
+    m_refusal = reason;
+    m_isLoading = false;
+    Q_EMIT settled();
+}
+
+// --- Reading -------------------------------------------------------------------------------------
+
+Message RemoteService::newCall(const char* interface, const char* member) const
+{
+    return m_connection->newCall(m_owner, m_path, interface, member);
+}
+
+void RemoteService::ask(const Message& call, void (RemoteService::*answer)(const Message&))
+{
+    m_connection->call(call, patienceMs, this, [this, answer, session = m_session](const Message& reply) {
+        if (session == m_session)
+            (this->*answer)(reply);
+    });
+}
+
+void RemoteService::load()
+{
+    const Message properties = newCall(propertiesInterface, "GetAll");
+    Writer(properties).text(QString::fromLatin1(serviceInterface));
+    ask(properties, &RemoteService::onProperties);
+    ask(newCall(serviceInterface, "Subscribe"), &RemoteService::onSubscribed);
+    m_serial = 0;
+    m_unacknowledged = 0;
+    m_unacknowledgedBytes = 0;
+    readSnapshot();
+}
+
+void RemoteService::onProperties(const Message& reply)
+{
+    Reader reader(reply);
+    QVariantMap properties;
+    if (!reply.isError() && reader.enter('a', "{sv}")) {
+        while (!reader.atEnd() && reader.enter('e', "sv")) {
+            const QString name = reader.text();
+            properties.insert(name, readValue(reader));
+            reader.leave();
+        }
+    }
+    const QString theirs = properties.value(QStringLiteral("Version")).toString();
+    if (theirs.section(QLatin1Char('.'), 0, 0) == QString::number(majorVersion)) {
+        m_mounts = cleanPaths(properties.value(QStringLiteral("Mounts")));
+        return;
+    }
+    ++m_session;
+    giveUp(theirs.isEmpty()
+                    ? BusTexts::tr("The service %1 does not say which version of the interface it has: %2")
+                              .arg(m_name, reply.errorText())
+                    : BusTexts::tr("The service %1 has version %2 of the interface, and this program knows version %3. "
+                                   "Use programs of one release.")
+                              .arg(m_name, theirs, version));
+}
+
+void RemoteService::onSubscribed(const Message& reply)
+{
+    if (reply.isError())
+        giveUp(BusTexts::tr("The service %1 takes no more clients: %2").arg(m_name, reply.errorText()));
+}
+
+void RemoteService::readSnapshot()
+{
+    m_snapshot = Snapshot();
+    m_isReading = true;
+    askForPage(0);
+}
+
+void RemoteService::askForPage(quint32 from)
+{
+    const Message call = newCall(serviceInterface, "GetItems");
+    Writer writer(call);
+    writer.text(QString());
+    writer.uint32(from);
+    writer.uint32(0);
+    ask(call, &RemoteService::onPage);
+}
+
+void RemoteService::onPage(const Message& reply)
+{
+    if (!m_isReading)
+        return;
+    if (reply.isError()) {
+        m_isReading = false;
+        giveUp(BusTexts::tr("The items of the service %1 cannot be read: %2").arg(m_name, reply.errorText()));
+        return;
+    }
+    Reader reader(reply);
+    const quint64 generation = reader.uint64();
+    reader.uint64();
+    if (!m_snapshot.items.isEmpty() && generation != m_snapshot.generation) {
+        readSnapshot();
+        return;
+    }
+    m_snapshot.generation = generation;
+    if (!readPage(reader)) {
+        m_isReading = false;
+        giveUp(BusTexts::tr("The items of the service %1 cannot be read: they are not what the interface says.")
+                        .arg(m_name));
+        return;
+    }
+    const quint32 next = reader.uint32();
+    if (next > 0 && reader.isGood())
+        askForPage(next);
+    else
+        adopt();
+}
+
+bool RemoteService::readPage(Reader& reader)
+{
+    if (!reader.enter('a', "(usa{sv})"))
+        return false;
+    while (!reader.atEnd() && reader.enter('r', "usa{sv}")) {
+        const quint32 number = reader.uint32();
+        ItemDescription item;
+        item.id = reader.text();
+        readDescription(reader, &item);
+        reader.leave();
+        // Items come in the order of their numbers, which begin at 1.
+        if (number != quint32(m_snapshot.items.size()) + 1 || number > mostItems)
+            return false;
+        m_snapshot.items.append(item);
+    }
+    reader.leave();
+    return reader.isGood();
+}
+
+/// Takes the items that were read for those of the service.
+void RemoteService::adopt()
+{
+    const Snapshot snapshot = std::exchange(m_snapshot, Snapshot());
+    const QPointer<RemoteService> self(this);
+    const int session = m_session;
+    m_isReading = false;
+    m_isLoading = false;
+    m_generation = snapshot.generation;
+    const int before = m_items.size();
+    const bool isNew = !isReachable();
+    // Whoever hears of an item's end may end anything.
+    if (!removeOthers(snapshot.items))
+        return;
+    const bool isListChanged = isNew || m_items.size() != before || m_items.size() != snapshot.items.size();
+    const QVector<ItemChange> changes = takeItems(snapshot.items);
+    m_items.open();
+    bus::take(changes);
+    if (self && session == m_session && isListChanged)
+        Q_EMIT itemsChanged();
+    if (self && session == m_session)
+        Q_EMIT settled();
+}
+
+/// Removes the items that are not among these, or are others now. Returns false when nothing may be touched any more.
+bool RemoteService::removeOthers(const QVector<ItemDescription>& items)
+{
+    QHash<QString, const ItemDescription*> byId;
+    for (const ItemDescription& item : items)
+        byId.insert(item.id, &item);
+    const QPointer<RemoteService> self(this);
+    const int session = m_session;
+    m_numbered.clear();
+    for (const StatePtr& state : m_items.inOrder()) {
+        const ItemDescription* now = byId.value(state->description.id);
+        if (now && isSameItem(state->description, *now))
+            continue;
+        m_items.remove(state->description.id);
+        if (!self || session != m_session)
+            return false;
+    }
+    return true;
+}
+
+/// Adds the items that are new and returns what became of the others.
+QVector<ItemChange> RemoteService::takeItems(const QVector<ItemDescription>& items)
+{
+    QVector<ItemChange> changes;
+    m_numbered.reserve(items.size() + 1);
+    m_numbered = {nullptr};
+    for (const ItemDescription& item : items) {
+        StatePtr state = m_items.find(item.id);
+        if (state) {
+            const QVector<FieldChange> fields = differences(state->description, item);
+            for (const FieldChange& field : fields)
+                changes += ItemChange {state, field};
+        } else {
+            state = std::make_shared<ItemState>(item);
+            m_items.add(state);
+        }
+        state->position = quint64(m_numbered.size());
+        m_numbered += state;
+    }
+    return changes;
+}
+
+// --- Hearing -------------------------------------------------------------------------------------
+
+void RemoteService::hear(const Message& signal)
+{
+    if (signal.path() != m_path || !m_refusal.isEmpty())
+        return;
+    if (signal.isSignal(serviceInterface, "ItemsChanged") && signal.signature() == "tta(uyv)") {
+        hearChanges(signal);
+    } else if (signal.isSignal(serviceInterface, "SigError") && signal.signature() == "s") {
+        ++m_serial;
+        const QString text = Reader(signal).text();
+        countMessage(sizeOf(text));
+        Q_EMIT errorReported(text);
+    }
+}
+
+void RemoteService::hearChanges(const Message& signal)
+{
+    Reader reader(signal);
+    const quint64 generation = reader.uint64();
+    const quint64 serial = reader.uint64();
+    const bool isInOrder = serial == ++m_serial;
+    m_serial = serial;
+    const quint64 expected = m_isReading ? m_snapshot.generation : m_generation;
+    const bool isFirstPageMissing = m_isReading && m_snapshot.items.isEmpty();
+    if (!isInOrder || (generation != expected && !isFirstPageMissing)) {
+        countMessage(0);
+        readSnapshot();
+        return;
+    }
+    int bytes = 0;
+    QVector<ItemChange> changes;
+    if (reader.enter('a', "(uyv)")) {
+        while (!reader.atEnd() && reader.enter('r', "uyv")) {
+            bytes += readChange(reader, &changes);
+            reader.leave();
+        }
+    }
+    countMessage(bytes);
+    bus::take(changes);
+}
+
+/// Puts a change where it belongs and returns about how many bytes it took.
+int RemoteService::readChange(Reader& reader, QVector<ItemChange>* changes)
+{
+    const quint32 number = reader.uint32();
+    const quint8 code = reader.byte();
+    FieldChange change;
+    change.field = ItemField(code & ~withoutValue);
+    if (reader.variantContents() == "a(issb)") {
+        reader.enter('v', "a(issb)");
+        change.choices = readChoices(reader);
+        reader.leave();
+    } else {
+        change.value = readValue(reader);
+    }
+    const int bytes = 16 + sizeOf(change.value) + 64 * change.choices.size();
+    if (code & withoutValue)
+        change.value = QVariant();
+    if (number == 0) {
+        if (code == fieldMounts)
+            m_mounts = cleanPaths(change.value);
+    } else if (m_isReading) {
+        // What is still to be read will be newer than this.
+        if (number <= quint32(m_snapshot.items.size()))
+            bus::apply(change, &m_snapshot.items[int(number) - 1]);
+    } else if (number < quint32(m_numbered.size())) {
+        changes->append({m_numbered.at(int(number)), change});
+    }
+    return bytes;
+}
+
+void RemoteService::countMessage(int bytes)
+{
+    ++m_unacknowledged;
+    m_unacknowledgedBytes += bytes;
+    if (m_unacknowledged < acknowledgedMessages && m_unacknowledgedBytes < acknowledgedBytes)
+        return;
+    m_unacknowledged = 0;
+    m_unacknowledgedBytes = 0;
+    const Message call = newCall(serviceInterface, "Acknowledge");
+    Writer(call).uint64(m_serial);
+    Connection::expectNoReply(call);
+    m_connection->send(call);
+}
+
+// --- Calling -------------------------------------------------------------------------------------
+
+Outcome RemoteService::setItem(const QString& id, const QVariant& value, int timeoutMs)
+{
+    if (embedded::EmbeddedService* own = localService(m_owner, m_path)) {
+        return callInProcess(own, 0, timeoutMs,
+                [id, value](ServiceData& service) { return setSetting(service, id, value); });
+    }
+    if (!canTravel(value))
+        return {false, BusTexts::tr("%1 cannot be set: the value is too large, or a text of it holds a NUL.").arg(id)};
+    const Message message = newCall(serviceInterface, "SetItem");
+    Writer writer(message);
+    writer.text(id);
+    if (value.isValid())
+        writeValue(writer, value);
+    else
+        writeNoValue(writer);
+    return writer.isGood() ? call(message, timeoutMs) : gone();
+}
+
+Outcome RemoteService::sendAction(const QString& id, const QString& argument, int timeoutMs)
+{
+    if (embedded::EmbeddedService* own = localService(m_owner, m_path)) {
+        return callInProcess(own, actionDelay(ServiceData::of(*own), id), timeoutMs,
+                [id, argument](ServiceData& service) { return carryOut(service, id, argument); });
+    }
+    if (!canTravel(argument))
+        return {false, BusTexts::tr("%1 was not sent: its argument is too large, or holds a NUL.").arg(id)};
+    const Message message = newCall(serviceInterface, "SendAction");
+    Writer writer(message);
+    writer.text(id);
+    writer.text(argument);
+    return writer.isGood() ? call(message, timeoutMs) : gone();
+}
+
+Outcome RemoteService::call(const Message& message, int timeoutMs)
+{
+    if (!isReachable())
+        return gone();
+    if (m_isStalled)
+        return {false,
+                BusTexts::tr("The service %1 has not answered an earlier request yet. Try again when it does.")
+                        .arg(m_name)};
+    const Message reply = m_connection->callBlocking(message, timeoutMs);
+    if (!reply.isError())
+        return {true, reply.signature() == "s" ? Reader(reply).text() : QString()};
+    if (!Connection::isTimeout(reply))
+        return {false, reply.errorText()};
+    onTimeout();
+    return {false,
+            BusTexts::tr("The service %1 did not answer within %2 ms. It may still do what was asked for.")
+                    .arg(m_name, QString::number(std::max(timeoutMs, 0)))};
+}
+
+Outcome RemoteService::gone() const
+{
+    return {false,
+            m_refusal.isEmpty() ? BusTexts::tr("The service %1 cannot be reached. Try again when it runs.").arg(m_name)
+                                : m_refusal};
+}
+
+/// Until the service shows that it is awake nobody waits for it again.
+void RemoteService::onTimeout()
+{
+    m_isStalled = true;
+    // Whatever it answers is an answer.
+    m_connection->call(newCall("org.freedesktop.DBus.Peer", "Ping"), patienceMs, this,
+            [this, session = m_session](const Message& reply) {
+                if (session != m_session)
+                    return;
+                if (m_isStalled && Connection::isTimeout(reply))
+                    onTimeout();
+                else
+                    m_isStalled = false;
+            });
+}
+
+} // namespace kiv::bus

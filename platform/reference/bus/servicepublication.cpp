@@ -1,0 +1,544 @@
+#include "servicepublication_p.h"
+
+#include "bustexts_p.h"
+#include "protocol_p.h"
+#include "valuecodec_p.h"
+
+#include "embedded/servicedata_p.h"
+
+#include <QFile>
+#include <QRandomGenerator>
+
+#include <algorithm>
+
+namespace kiv::bus {
+
+namespace {
+
+using embedded::EmbeddedService;
+using embedded::ItemField;
+using embedded::ItemState;
+using embedded::Outcome;
+using embedded::ServiceData;
+
+/// Calls that wait for a slow service, of all clients.
+constexpr int mostRequests = 1024;
+constexpr int mostSubscribers = 256;
+/// Errors that a client which does not listen is told later.
+constexpr int mostErrors = 32;
+
+constexpr ItemField allFields[] = {ItemField::Value, ItemField::Label, ItemField::Unit, ItemField::Ready,
+        ItemField::Quality, ItemField::Applicable, ItemField::Minimum, ItemField::Maximum, ItemField::Choices,
+        ItemField::Attributes};
+
+constexpr Subscriber::Fields bit(ItemField field)
+{
+    return Subscriber::Fields(1) << unsigned(field);
+}
+
+/// What a service says of a field, as a value; choices have a form of their own.
+QVariant fieldValue(const ItemState& state, ItemField field)
+{
+    switch (field) {
+    case ItemField::Value:
+        return state.description.value;
+    case ItemField::Label:
+        return state.description.label;
+    case ItemField::Unit:
+        return state.description.unit;
+    case ItemField::Ready:
+        return state.description.isReady;
+    case ItemField::Quality:
+        return int(state.description.quality);
+    case ItemField::Applicable:
+        return state.description.isApplicable;
+    case ItemField::Minimum:
+        return state.description.minimum;
+    case ItemField::Maximum:
+        return state.description.maximum;
+    case ItemField::Attributes:
+        return state.description.attributes;
+    case ItemField::Choices:
+        break;
+    }
+    return QVariant();
+}
+
+int descriptionSize(const embedded::ItemDescription& item)
+{
+    int size = 300 + 3 * (item.id.size() + item.label.size() + item.unit.size() + item.applicableExpr.size());
+    size += sizeOf(item.value) + sizeOf(item.attributes);
+    for (const embedded::ChoiceDescription& choice : item.choices)
+        size += 24 + 3 * (choice.name.size() + choice.label.size());
+    for (const embedded::MemberDescription& member : item.members)
+        size += 24 + 3 * member.name.size();
+    return size;
+}
+
+QString withoutNul(QString text)
+{
+    return text.remove(QChar(0));
+}
+
+/// A description that fits into a message, whatever a program has put into it.
+embedded::ItemDescription travelling(embedded::ItemDescription item)
+{
+    item.label = withoutNul(item.label);
+    item.unit = withoutNul(item.unit);
+    item.applicableExpr = withoutNul(item.applicableExpr);
+    for (embedded::ChoiceDescription& choice : item.choices) {
+        choice.name = withoutNul(choice.name);
+        choice.label = withoutNul(choice.label);
+    }
+    if (!canTravel(item.value))
+        item.value = QVariant();
+    if (!canTravel(item.attributes))
+        item.attributes.clear();
+    return item;
+}
+
+QStringList propertyNames()
+{
+    return {QStringLiteral("Version"), QStringLiteral("Name"), QStringLiteral("Mounts")};
+}
+
+/// Leaves what concerns the service itself.
+void forgetItems(QMap<quint32, Subscriber::Fields>* changes)
+{
+    const Subscriber::Fields own = changes->value(0);
+    changes->clear();
+    if (own != 0)
+        changes->insert(0, own);
+}
+
+QStringList mountsOf(const EmbeddedService& service)
+{
+    const QSet<QString>& mounted = ServiceData::of(service).mounted;
+    QStringList paths(mounted.cbegin(), mounted.cend());
+    paths.sort();
+    return paths;
+}
+
+} // namespace
+
+ServicePublication::ServicePublication(EmbeddedService* service, Connection* connection, QObject* parent)
+    : QObject(parent)
+    , key(service)
+    , m_service(service)
+    , m_connection(connection)
+    , m_busName(bus::busName(service->name()))
+    , m_objectPath(bus::objectPath(service->name()))
+    , m_wasReachable(service->isReachable())
+{
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &ServicePublication::sendChanges);
+    connect(service, &EmbeddedService::itemsChanged, this, &ServicePublication::onItemsChanged);
+    connect(service, &EmbeddedService::errorReported, this, &ServicePublication::onError);
+    ServiceData& data = ServiceData::of(*service);
+    data.items.setWatcher(this);
+    data.mountsChanged = [this] {
+        m_changes[0] |= Subscriber::Fields(1) << fieldMounts;
+        changeSoon();
+    };
+    numberItems();
+}
+
+ServicePublication::~ServicePublication()
+{
+    if (!m_service)
+        return;
+    ServiceData& data = ServiceData::of(*m_service);
+    data.items.setWatcher(nullptr);
+    data.mountsChanged = nullptr;
+}
+
+void ServicePublication::forgetAll()
+{
+    isOwner = false;
+    m_subscribers.clear();
+}
+
+// --- What changes --------------------------------------------------------------------------------
+
+void ServicePublication::numberItems()
+{
+    m_generation = QRandomGenerator::system()->generate64();
+    m_items = ServiceData::of(*m_service).items.inOrder();
+    m_items.prepend(nullptr);
+    for (int number = 1; number < m_items.size(); ++number)
+        m_items.at(number)->number = quint32(number);
+    forgetItems(&m_changes);
+}
+
+void ServicePublication::fieldChanged(ItemState* state, ItemField field)
+{
+    // One that came while the service cannot be reached gets its number when that returns.
+    if (state->number == 0)
+        return;
+    m_changes[state->number] |= bit(field);
+    changeSoon();
+}
+
+void ServicePublication::onItemsChanged()
+{
+    const bool isReachable = m_service->isReachable();
+    if (isReachable != m_wasReachable) {
+        m_wasReachable = isReachable;
+        // Those who subscribed lose the owner of the name, and begin anew when there is one again.
+        m_subscribers.clear();
+        Q_EMIT reachableChanged();
+    }
+    numberItems();
+    for (auto& [client, subscriber] : m_subscribers) {
+        forgetItems(&subscriber.changes);
+        subscriber.isOutdated = true;
+    }
+    changeSoon();
+}
+
+void ServicePublication::onError(const QString& text)
+{
+    for (auto& [client, subscriber] : m_subscribers) {
+        if (subscriber.errors.size() < mostErrors)
+            subscriber.errors += withoutNul(text.left(10'000));
+    }
+    changeSoon();
+}
+
+/// One message tells of all that changes within a turn of the event loop.
+void ServicePublication::changeSoon()
+{
+    if (!m_timer.isActive())
+        m_timer.start(0);
+}
+
+void ServicePublication::sendChanges()
+{
+    const QMap<quint32, Subscriber::Fields> changes = std::exchange(m_changes, {});
+    for (auto& [client, subscriber] : m_subscribers) {
+        if (subscriber.changes.isEmpty())
+            subscriber.changes = changes;
+        else
+            for (auto it = changes.cbegin(); it != changes.cend(); ++it)
+                subscriber.changes[it.key()] |= *it;
+        serve(client);
+    }
+}
+
+/// Sends a client what it has to hear, as far as it may be sent more.
+void ServicePublication::serve(const QByteArray& client)
+{
+    Subscriber& subscriber = m_subscribers.at(client);
+    while (subscriber.mayBeSent() && (subscriber.isOutdated || !subscriber.changes.isEmpty())) {
+        if (!sendMessage(client, subscriber))
+            return;
+    }
+    sendErrors(client, subscriber);
+}
+
+bool ServicePublication::sendMessage(const QByteArray& client, Subscriber& subscriber)
+{
+    const Message message = m_connection->newSignal(client, m_objectPath, serviceInterface, "ItemsChanged");
+    if (!message)
+        return false;
+    Writer writer(message);
+    writer.uint64(m_generation);
+    writer.uint64(subscriber.lastSerial() + 1);
+    writer.open('a', "(uyv)");
+    int size = 64;
+    while (size < largestPage && !subscriber.changes.isEmpty()) {
+        const auto change = subscriber.changes.begin();
+        for (const ItemField field : allFields) {
+            if (*change & bit(field))
+                size += appendChange(writer, change.key(), field);
+        }
+        subscriber.changes.erase(change);
+    }
+    writer.close();
+    subscriber.isOutdated = false;
+    subscriber.countMessage(size);
+    return writer.isGood() && m_connection->send(message);
+}
+
+/// Returns about how many bytes it took.
+int ServicePublication::appendChange(Writer& writer, quint32 number, ItemField field)
+{
+    QVariant value;
+    const QVector<embedded::ChoiceDescription>* choices = nullptr;
+    embedded::ItemDescription copy;
+    if (number == 0) {
+        value = mountsOf(*m_service);
+    } else if (field == ItemField::Choices) {
+        copy.choices = m_items.at(int(number))->description.choices;
+        copy = travelling(copy);
+        choices = &copy.choices;
+    } else {
+        value = fieldValue(*m_items.at(int(number)), field);
+    }
+    const bool hasValue = choices || (value.isValid() && canTravel(value));
+    writer.open('r', "uyv");
+    writer.uint32(number);
+    writer.byte(quint8(field) + (hasValue ? 0 : withoutValue));
+    if (choices) {
+        writer.open('v', "a(issb)");
+        writeChoices(writer, *choices);
+        writer.close();
+    } else if (hasValue) {
+        writeValue(writer, value);
+    } else {
+        writeNoValue(writer);
+    }
+    writer.close();
+    return 16 + (choices ? descriptionSize(copy) : sizeOf(value));
+}
+
+void ServicePublication::sendErrors(const QByteArray& client, Subscriber& subscriber)
+{
+    while (subscriber.mayBeSent() && !subscriber.errors.isEmpty()) {
+        const Message message = m_connection->newSignal(client, m_objectPath, serviceInterface, "SigError");
+        if (!message)
+            return;
+        const QString text = subscriber.errors.takeFirst();
+        subscriber.countMessage(64 + 3 * text.size());
+        Writer(message).text(text);
+        m_connection->send(message);
+    }
+}
+
+// --- What is asked -------------------------------------------------------------------------------
+
+void ServicePublication::handle(const Message& call)
+{
+    struct Known
+    {
+        const char* interface;
+        const char* member;
+        const char* signature;
+        Method method;
+    };
+    static constexpr Known methods[] = {
+            {serviceInterface, "GetItems", "suu", &ServicePublication::getItems},
+            {serviceInterface, "Subscribe", "", &ServicePublication::subscribe},
+            {serviceInterface, "Unsubscribe", "", &ServicePublication::unsubscribe},
+            {serviceInterface, "Acknowledge", "t", &ServicePublication::acknowledge},
+            {serviceInterface, "SetItem", "sv", &ServicePublication::setItem},
+            {serviceInterface, "SendAction", "ss", &ServicePublication::sendAction},
+            {propertiesInterface, "Get", "ss", &ServicePublication::getProperty},
+            {propertiesInterface, "GetAll", "s", &ServicePublication::getProperties},
+            {propertiesInterface, "Set", "ssv", &ServicePublication::setProperty},
+            {introspectableInterface, "Introspect", "", &ServicePublication::introspect},
+    };
+    const QByteArray interface = call.interface();
+    const QByteArray member = call.member();
+    const auto known = std::find_if(std::begin(methods), std::end(methods), [&](const Known& method) {
+        return member == method.member && (interface.isEmpty() || interface == method.interface);
+    });
+    if (known == std::end(methods)) {
+        m_connection->refuse(call, errorUnknownMethod,
+                BusTexts::tr("There is no method %1.%2.")
+                        .arg(QString::fromUtf8(interface), QString::fromUtf8(member)));
+        return;
+    }
+    if (call.signature() != known->signature) {
+        m_connection->refuse(call, errorInvalidArguments,
+                BusTexts::tr("%1 takes arguments of the signature \"%2\", not \"%3\".")
+                        .arg(QString::fromLatin1(known->member), QString::fromLatin1(known->signature),
+                                QString::fromLatin1(call.signature())));
+        return;
+    }
+    (this->*known->method)(call);
+}
+
+void ServicePublication::getItems(const Message& call)
+{
+    Reader arguments(call);
+    const QString prefix = arguments.text();
+    const quint32 from = arguments.uint32();
+    const quint32 wanted = arguments.uint32();
+    const Message reply = Connection::newReply(call);
+    Writer writer(reply);
+    const auto subscriber = m_subscribers.find(call.sender());
+    writer.uint64(m_generation);
+    writer.uint64(subscriber == m_subscribers.end() ? 0 : subscriber->second.lastSerial());
+    writer.open('a', "(usa{sv})");
+    quint32 position = std::min(from, quint32(m_items.size()) - 1);
+    quint32 count = 0;
+    int size = 128;
+    for (; position + 1 < quint32(m_items.size()) && (wanted == 0 || count < wanted); ++position) {
+        const embedded::ItemDescription& item = m_items.at(int(position) + 1)->description;
+        if (!item.id.startsWith(prefix))
+            continue;
+        const embedded::ItemDescription fitting = travelling(item);
+        size += descriptionSize(fitting);
+        if (count > 0 && size > largestPage)
+            break;
+        writer.open('r', "usa{sv}");
+        writer.uint32(position + 1);
+        writer.text(item.id);
+        writeDescription(writer, fitting);
+        writer.close();
+        ++count;
+    }
+    writer.close();
+    const bool isEnd = position + 1 >= quint32(m_items.size());
+    writer.uint32(isEnd ? 0 : position);
+    if (!writer.isGood() || !m_connection->send(reply))
+        m_connection->refuse(call, errorLimits, BusTexts::tr("The items of the service are too large for a message."));
+}
+
+void ServicePublication::subscribe(const Message& call)
+{
+    const QByteArray client = call.sender();
+    if (m_subscribers.size() >= mostSubscribers && m_subscribers.count(client) == 0) {
+        m_connection->refuse(call, errorLimits, BusTexts::tr("The service has as many clients as it can serve."));
+        return;
+    }
+    // What changed before is in the answers to GetItems, which come later than this one.
+    m_subscribers[client] = Subscriber();
+    const Message reply = Connection::newReply(call);
+    Writer(reply).uint64(m_generation);
+    m_connection->send(reply);
+}
+
+void ServicePublication::unsubscribe(const Message& call)
+{
+    m_subscribers.erase(call.sender());
+    m_connection->send(Connection::newReply(call));
+}
+
+void ServicePublication::acknowledge(const Message& call)
+{
+    const quint64 serial = Reader(call).uint64();
+    const auto subscriber = m_subscribers.find(call.sender());
+    if (subscriber != m_subscribers.end() && subscriber->second.acknowledge(serial))
+        serve(call.sender());
+    m_connection->send(Connection::newReply(call));
+}
+
+void ServicePublication::setItem(const Message& call)
+{
+    Reader arguments(call);
+    const QString id = arguments.text();
+    const QVariant value = readValue(arguments);
+    if (!arguments.isGood()) {
+        m_connection->refuse(call, errorInvalidArguments, BusTexts::tr("The value cannot be read."));
+        return;
+    }
+    carryOutLater(call, 0, false, [id, value](ServiceData& service) { return setSetting(service, id, value); });
+}
+
+void ServicePublication::sendAction(const Message& call)
+{
+    Reader arguments(call);
+    const QString id = arguments.text();
+    const QString argument = arguments.text();
+    carryOutLater(call, actionDelay(ServiceData::of(*m_service), id), true,
+            [id, argument](ServiceData& service) { return carryOut(service, id, argument); });
+}
+
+/// Carries out a request when the service's own time for it is over, and answers.
+void ServicePublication::carryOutLater(const Message& call, int delayMs, bool hasReplyText, const Request& request)
+{
+    if (m_requests >= mostRequests) {
+        m_connection->refuse(call, errorLimits, BusTexts::tr("The service has too much to do. Try again later."));
+        return;
+    }
+    // Who hears of what is done may end the service, its publication and the connection.
+    const QPointer<ServicePublication> self(this);
+    const QPointer<Connection> connection = m_connection;
+    const auto answer = [self, connection, call, hasReplyText, request] {
+        if (!self || !self->m_service)
+            return;
+        if (!self->m_service->isReachable()) {
+            connection->refuse(call, errorRejected,
+                    BusTexts::tr("The service %1 was withdrawn before it could answer.").arg(self->m_service->name()));
+            return;
+        }
+        const Outcome outcome = request(ServiceData::of(*self->m_service));
+        if (!connection)
+            return;
+        if (!outcome.isDone) {
+            connection->refuse(call, errorRejected, withoutNul(outcome.text));
+            return;
+        }
+        const Message reply = Connection::newReply(call);
+        if (hasReplyText)
+            Writer(reply).text(withoutNul(outcome.text));
+        connection->send(reply);
+    };
+    const qint64 delay = qint64(ServiceData::of(*m_service).delayMs) + delayMs;
+    if (delay == 0) {
+        answer();
+        return;
+    }
+    ++m_requests;
+    QTimer::singleShot(std::chrono::milliseconds(delay), this, [this, answer] {
+        --m_requests;
+        answer();
+    });
+}
+
+// --- Properties and description ------------------------------------------------------------------
+
+void ServicePublication::writeProperty(Writer& writer, const QString& name) const
+{
+    writer.open('v', name == QLatin1String("Mounts") ? "as" : "s");
+    if (name == QLatin1String("Mounts")) {
+        writer.open('a', "s");
+        for (const QString& path : mountsOf(*m_service))
+            writer.text(withoutNul(path));
+        writer.close();
+    } else {
+        writer.text(name == QLatin1String("Version") ? QString(version) : withoutNul(m_service->name()));
+    }
+    writer.close();
+}
+
+void ServicePublication::getProperty(const Message& call)
+{
+    Reader arguments(call);
+    arguments.text();
+    const QString name = arguments.text();
+    if (!propertyNames().contains(name)) {
+        m_connection->refuse(call, errorUnknownProperty, BusTexts::tr("There is no property %1.").arg(name));
+        return;
+    }
+    const Message reply = Connection::newReply(call);
+    Writer writer(reply);
+    writeProperty(writer, name);
+    m_connection->send(reply);
+}
+
+void ServicePublication::getProperties(const Message& call)
+{
+    const QString interface = Reader(call).text();
+    const Message reply = Connection::newReply(call);
+    Writer writer(reply);
+    writer.open('a', "{sv}");
+    if (interface.isEmpty() || interface == QLatin1String(serviceInterface)) {
+        for (const QString& name : propertyNames()) {
+            writer.open('e', "sv");
+            writer.text(name);
+            writeProperty(writer, name);
+            writer.close();
+        }
+    }
+    writer.close();
+    m_connection->send(reply);
+}
+
+void ServicePublication::setProperty(const Message& call)
+{
+    m_connection->refuse(call, errorReadOnly, BusTexts::tr("The properties of a service are read-only."));
+}
+
+void ServicePublication::introspect(const Message& call)
+{
+    QFile file(QStringLiteral(":/kiv/bus/org.uiutils.kiv.Service.xml"));
+    file.open(QIODevice::ReadOnly);
+    const Message reply = Connection::newReply(call);
+    Writer(reply).text(QString::fromUtf8(file.readAll()));
+    m_connection->send(reply);
+}
+
+} // namespace kiv::bus

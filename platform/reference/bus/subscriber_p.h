@@ -1,0 +1,45 @@
+#pragma once
+
+#include "protocol_p.h"
+
+#include <QByteArray>
+#include <QMap>
+#include <QStringList>
+
+#include <deque>
+
+namespace kiv::bus {
+
+/// What one client was sent and has not acknowledged, and what it still has to hear. Plain bookkeeping.
+class Subscriber
+{
+public:
+    /// The fields of an item that it has to hear of, a bit for each code.
+    using Fields = quint32;
+
+    quint64 lastSerial() const { return m_serial; }
+    bool mayBeSent() const { return m_owed.size() < mostOwedMessages && m_owedBytes < mostOwedBytes; }
+    /// Counts a message of that size and returns its serial.
+    quint64 countMessage(int bytes);
+    /// Takes back the messages up to that serial. Returns whether it has caught up with enough of them to be sent more.
+    bool acknowledge(quint64 serial);
+
+    /// Items by their numbers, in that order; number 0 is the service itself.
+    QMap<quint32, Fields> changes;
+    /// The items are others than before: it has to look anew.
+    bool isOutdated = false;
+    QStringList errors;
+
+private:
+    struct Owed
+    {
+        quint64 serial;
+        int bytes;
+    };
+    quint64 m_serial = 0;
+    std::deque<Owed> m_owed;
+    int m_owedBytes = 0;
+    bool m_isBehind = false;
+};
+
+} // namespace kiv::bus

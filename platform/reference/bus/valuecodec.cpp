@@ -1,0 +1,482 @@
+#include "valuecodec_p.h"
+
+#include "protocol_p.h"
+
+#include <algorithm>
+
+namespace kiv::bus {
+
+namespace {
+
+using embedded::ChoiceDescription;
+using embedded::ItemDescription;
+using embedded::MemberDescription;
+
+constexpr int deepest = 16;
+
+bool holdsOnly(const QVariantList& list, int type)
+{
+    return std::all_of(list.cbegin(), list.cend(), [type](const QVariant& v) { return v.userType() == type; });
+}
+
+void writeMap(Writer& writer, const QVariantMap& map)
+{
+    writer.open('a', "{sv}");
+    for (auto it = map.cbegin(); it != map.cend(); ++it) {
+        writer.open('e', "sv");
+        writer.text(it.key());
+        writeValue(writer, *it);
+        writer.close();
+    }
+    writer.close();
+}
+
+void writeNumbers(Writer& writer, const QVariantList& list)
+{
+    QVector<double> numbers;
+    numbers.reserve(list.size());
+    for (const QVariant& number : list)
+        numbers.append(number.toDouble());
+    writer.open('v', "ad");
+    writer.reals(numbers);
+    writer.close();
+}
+
+void writeTexts(Writer& writer, const QStringList& texts)
+{
+    writer.open('v', "as");
+    writer.open('a', "s");
+    for (const QString& text : texts)
+        writer.text(text);
+    writer.close();
+    writer.close();
+}
+
+void writeList(Writer& writer, const QVariantList& list)
+{
+    if (!list.isEmpty() && holdsOnly(list, QMetaType::Double)) {
+        writeNumbers(writer, list);
+        return;
+    }
+    const bool isTable = !list.isEmpty() && holdsOnly(list, QMetaType::QVariantMap);
+    writer.open('v', isTable ? "aa{sv}" : "av");
+    writer.open('a', isTable ? "a{sv}" : "v");
+    for (const QVariant& element : list) {
+        if (isTable)
+            writeMap(writer, element.toMap());
+        else
+            writeValue(writer, element);
+    }
+    writer.close();
+    writer.close();
+}
+
+QVariant readValue(Reader& reader, int depth);
+
+QVariantMap readMap(Reader& reader, int depth)
+{
+    QVariantMap map;
+    if (!reader.enter('a', "{sv}"))
+        return map;
+    while (!reader.atEnd() && reader.enter('e', "sv")) {
+        const QString name = reader.text();
+        map.insert(name, readValue(reader, depth + 1));
+        reader.leave();
+    }
+    reader.leave();
+    return map;
+}
+
+QStringList readTexts(Reader& reader)
+{
+    QStringList texts;
+    if (!reader.enter('a', "s"))
+        return texts;
+    while (!reader.atEnd())
+        texts += reader.text();
+    reader.leave();
+    return texts;
+}
+
+QVariantList readNumbers(Reader& reader)
+{
+    const QVector<double> numbers = reader.reals();
+    QVariantList list;
+    list.reserve(numbers.size());
+    for (const double number : numbers)
+        list.append(number);
+    return list;
+}
+
+QVariantList readList(Reader& reader, const char* contents, int depth)
+{
+    QVariantList list;
+    if (!reader.enter('a', contents))
+        return list;
+    while (!reader.atEnd())
+        list.append(contents[0] == 'v' ? readValue(reader, depth + 1) : QVariant(readMap(reader, depth + 1)));
+    reader.leave();
+    return list;
+}
+
+QVariant readContents(Reader& reader, const QByteArray& contents, int depth)
+{
+    if (contents == "i")
+        return reader.int32();
+    if (contents == "u")
+        return reader.uint32();
+    if (contents == "d")
+        return reader.real();
+    if (contents == "b")
+        return reader.boolean();
+    if (contents == "s")
+        return reader.text();
+    if (contents == "ad")
+        return readNumbers(reader);
+    if (contents == "as")
+        return readTexts(reader);
+    if (contents == "a{sv}")
+        return readMap(reader, depth);
+    if (contents == "aa{sv}")
+        return readList(reader, "a{sv}", depth);
+    if (contents == "av")
+        return readList(reader, "v", depth);
+    reader.skip(contents.constData());
+    return QVariant();
+}
+
+QVariant readValue(Reader& reader, int depth)
+{
+    const QByteArray contents = reader.variantContents();
+    if (contents.isEmpty() || depth > deepest || !reader.enter('v', contents.constData())) {
+        reader.skip("v");
+        return QVariant();
+    }
+    const QVariant value = readContents(reader, contents, depth);
+    reader.leave();
+    return value;
+}
+
+// --- Descriptions --------------------------------------------------------------------------------
+
+/// One entry of the map of an item.
+class Entry
+{
+public:
+    Entry(Writer& writer, const char* name, const char* contents)
+        : m_writer(writer)
+    {
+        m_writer.open('e', "sv");
+        m_writer.text(QString::fromLatin1(name));
+        m_writer.open('v', contents);
+    }
+    ~Entry()
+    {
+        m_writer.close();
+        m_writer.close();
+    }
+    Q_DISABLE_COPY_MOVE(Entry)
+
+private:
+    Writer& m_writer;
+};
+
+void writeText(Writer& writer, const char* name, const QString& text)
+{
+    if (text.isEmpty())
+        return;
+    const Entry entry(writer, name, "s");
+    writer.text(text);
+}
+
+void writeFlag(Writer& writer, const char* name, bool flag)
+{
+    const Entry entry(writer, name, "b");
+    writer.boolean(flag);
+}
+
+void writeNumber(Writer& writer, const char* name, int number)
+{
+    const Entry entry(writer, name, "i");
+    writer.int32(number);
+}
+
+void writeVariant(Writer& writer, const char* name, const QVariant& value)
+{
+    if (!value.isValid())
+        return;
+    writer.open('e', "sv");
+    writer.text(QString::fromLatin1(name));
+    writeValue(writer, value);
+    writer.close();
+}
+
+void writeMembers(Writer& writer, const QVector<MemberDescription>& members)
+{
+    const Entry entry(writer, "members", "a(ss)");
+    writer.open('a', "(ss)");
+    for (const MemberDescription& member : members) {
+        writer.open('r', "ss");
+        writer.text(member.name);
+        writer.text(member.type);
+        writer.close();
+    }
+    writer.close();
+}
+
+QVector<MemberDescription> readMembers(Reader& reader)
+{
+    QVector<MemberDescription> members;
+    if (!reader.enter('a', "(ss)"))
+        return members;
+    while (!reader.atEnd() && reader.enter('r', "ss")) {
+        const QString name = reader.text();
+        members.append({name, reader.text()});
+        reader.leave();
+    }
+    reader.leave();
+    return members;
+}
+
+/// Enters the variant that comes next when it holds `contents`, and passes over it otherwise.
+bool enterVariant(Reader& reader, const char* contents)
+{
+    if (reader.variantContents() == contents)
+        return reader.enter('v', contents);
+    reader.skip("v");
+    return false;
+}
+
+void readEntry(Reader& reader, const QString& name, ItemDescription* item)
+{
+    if (name == QLatin1String("choices") || name == QLatin1String("members")) {
+        const bool areChoices = name == QLatin1String("choices");
+        if (!enterVariant(reader, areChoices ? "a(issb)" : "a(ss)"))
+            return;
+        if (areChoices)
+            item->choices = readChoices(reader);
+        else
+            item->members = readMembers(reader);
+        reader.leave();
+        return;
+    }
+    const QVariant value = readValue(reader, 0);
+    if (name == QLatin1String("type"))
+        item->type = value.toString();
+    else if (name == QLatin1String("value"))
+        item->value = value;
+    else if (name == QLatin1String("label"))
+        item->label = value.toString();
+    else if (name == QLatin1String("unit"))
+        item->unit = value.toString();
+    else if (name == QLatin1String("precision"))
+        item->precision = value.toInt();
+    else if (name == QLatin1String("minimum"))
+        item->minimum = value;
+    else if (name == QLatin1String("maximum"))
+        item->maximum = value;
+    else if (name == QLatin1String("quality"))
+        item->quality = KIVClientItem::Quality(value.toInt());
+    else if (name == QLatin1String("ready"))
+        item->isReady = value.toBool();
+    else if (name == QLatin1String("applicable"))
+        item->isApplicable = value.toBool();
+    else if (name == QLatin1String("applicableExpression"))
+        item->applicableExpr = value.toString();
+    else if (name == QLatin1String("enumeration"))
+        item->isEnumeration = value.toBool();
+    else if (name == QLatin1String("attributes"))
+        item->attributes = value.toMap();
+}
+
+} // namespace
+
+void writeValue(Writer& writer, const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::Int:
+        writer.open('v', "i");
+        writer.int32(value.toInt());
+        break;
+    case QMetaType::UInt:
+        writer.open('v', "u");
+        writer.uint32(value.toUInt());
+        break;
+    case QMetaType::Bool:
+        writer.open('v', "b");
+        writer.boolean(value.toBool());
+        break;
+    case QMetaType::Double:
+    case QMetaType::Float:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        writer.open('v', "d");
+        writer.real(value.toDouble());
+        break;
+    case QMetaType::QStringList:
+        writeTexts(writer, value.toStringList());
+        return;
+    case QMetaType::QVariantList:
+        writeList(writer, value.toList());
+        return;
+    case QMetaType::QVariantMap:
+        writer.open('v', "a{sv}");
+        writeMap(writer, value.toMap());
+        break;
+    default:
+        writer.open('v', "s");
+        writer.text(value.toString());
+        break;
+    }
+    writer.close();
+}
+
+void writeNoValue(Writer& writer)
+{
+    writer.open('v', "y");
+    writer.byte(0);
+    writer.close();
+}
+
+QVariant readValue(Reader& reader)
+{
+    return readValue(reader, 0);
+}
+
+int sizeOf(const QVariant& value)
+{
+    // A variant's signature and padding, or the head of a container.
+    constexpr int head = 16;
+    qint64 size = head;
+    switch (value.userType()) {
+    case QMetaType::QString:
+        size += qint64(value.toString().size()) * 3;
+        break;
+    case QMetaType::QStringList:
+        for (const QString& text : value.toStringList())
+            size += 8 + qint64(text.size()) * 3;
+        break;
+    case QMetaType::QVariantList: {
+        const QVariantList list = value.toList();
+        if (holdsOnly(list, QMetaType::Double))
+            size += qint64(list.size()) * 8;
+        else
+            for (const QVariant& element : list)
+                size += sizeOf(element);
+        break;
+    }
+    case QMetaType::QVariantMap: {
+        const QVariantMap map = value.toMap();
+        for (auto it = map.cbegin(); it != map.cend(); ++it)
+            size += head + qint64(it.key().size()) * 3 + sizeOf(*it);
+        break;
+    }
+    default:
+        break;
+    }
+    return int(std::min<qint64>(size, 2'000'000'000));
+}
+
+bool holdsNul(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::QString:
+        return value.toString().contains(QChar(0));
+    case QMetaType::QStringList: {
+        const QStringList texts = value.toStringList();
+        return std::any_of(texts.cbegin(), texts.cend(), [](const QString& text) { return text.contains(QChar(0)); });
+    }
+    case QMetaType::QVariantList: {
+        const QVariantList list = value.toList();
+        return std::any_of(list.cbegin(), list.cend(), holdsNul);
+    }
+    case QMetaType::QVariantMap: {
+        const QVariantMap map = value.toMap();
+        return std::any_of(map.cbegin(), map.cend(), holdsNul) || map.keys().join(QString()).contains(QChar(0));
+    }
+    default:
+        return false;
+    }
+}
+
+bool canTravel(const QVariant& value)
+{
+    return sizeOf(value) < largestMessage - 4096 && !holdsNul(value);
+}
+
+void writeChoices(Writer& writer, const QVector<ChoiceDescription>& choices)
+{
+    writer.open('a', "(issb)");
+    for (const ChoiceDescription& choice : choices) {
+        writer.open('r', "issb");
+        writer.int32(choice.value);
+        writer.text(choice.name);
+        writer.text(choice.label);
+        writer.boolean(choice.isApplicable);
+        writer.close();
+    }
+    writer.close();
+}
+
+QVector<ChoiceDescription> readChoices(Reader& reader)
+{
+    QVector<ChoiceDescription> choices;
+    if (!reader.enter('a', "(issb)"))
+        return choices;
+    while (!reader.atEnd() && reader.enter('r', "issb")) {
+        ChoiceDescription choice;
+        choice.value = reader.int32();
+        choice.name = reader.text();
+        choice.label = reader.text();
+        choice.isApplicable = reader.boolean();
+        choices.append(choice);
+        reader.leave();
+    }
+    reader.leave();
+    return choices;
+}
+
+void writeDescription(Writer& writer, const ItemDescription& item)
+{
+    writer.open('a', "{sv}");
+    writeText(writer, "type", item.type);
+    writeVariant(writer, "value", item.value);
+    writeText(writer, "label", item.label);
+    writeText(writer, "unit", item.unit);
+    if (item.precision >= 0)
+        writeNumber(writer, "precision", item.precision);
+    writeVariant(writer, "minimum", item.minimum);
+    writeVariant(writer, "maximum", item.maximum);
+    if (item.quality != KIVClientItem::QualityNone)
+        writeNumber(writer, "quality", item.quality);
+    if (!item.isReady)
+        writeFlag(writer, "ready", false);
+    if (!item.isApplicable)
+        writeFlag(writer, "applicable", false);
+    writeText(writer, "applicableExpression", item.applicableExpr);
+    if (item.isEnumeration || !item.choices.isEmpty())
+        writeFlag(writer, "enumeration", true);
+    if (!item.choices.isEmpty()) {
+        const Entry entry(writer, "choices", "a(issb)");
+        writeChoices(writer, item.choices);
+    }
+    if (!item.members.isEmpty())
+        writeMembers(writer, item.members);
+    if (!item.attributes.isEmpty())
+        writeVariant(writer, "attributes", item.attributes);
+    writer.close();
+}
+
+void readDescription(Reader& reader, ItemDescription* item)
+{
+    if (!reader.enter('a', "{sv}"))
+        return;
+    while (!reader.atEnd() && reader.enter('e', "sv")) {
+        const QString name = reader.text();
+        readEntry(reader, name, item);
+        reader.leave();
+    }
+    reader.leave();
+}
+
+} // namespace kiv::bus

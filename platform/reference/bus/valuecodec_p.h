@@ -1,0 +1,35 @@
+#pragma once
+
+#include "connection_p.h"
+
+#include <embedded/servicedescription.h>
+
+#include <QVariant>
+
+namespace kiv::bus {
+
+/// Appends a value as a variant. Whole numbers travel as i or u, arrays as as or ad, records as a{sv}, tables as aa{sv},
+/// lists of several kinds as av. A value that is none of these travels as its text.
+void writeValue(Writer& writer, const QVariant& value);
+
+/// Appends the variant that stands for no value: a byte.
+void writeNoValue(Writer& writer);
+
+/// Reads the variant that comes next; invalid, and not good, when it is of another kind.
+QVariant readValue(Reader& reader);
+
+/// About how many bytes a value takes in a message.
+int sizeOf(const QVariant& value);
+
+/// Whether a value can travel: no text of it holds a NUL, and it is not too large.
+bool canTravel(const QVariant& value);
+
+void writeChoices(Writer& writer, const QVector<embedded::ChoiceDescription>& choices);
+QVector<embedded::ChoiceDescription> readChoices(Reader& reader);
+
+/// A description in the map of GetItems: type, value and whatever differs from the usual.
+void writeDescription(Writer& writer, const embedded::ItemDescription& item);
+/// Reads such a map; fields that are not known are passed over.
+void readDescription(Reader& reader, embedded::ItemDescription* item);
+
+} // namespace kiv::bus
