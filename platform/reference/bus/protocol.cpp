@@ -1,5 +1,7 @@
 #include "protocol_p.h"
 
+#include "busnames.h"
+
 namespace kiv::bus {
 
 namespace {
@@ -32,6 +34,11 @@ QByteArray busName(const QString& service)
 {
     const QByteArray name = QByteArray(namePrefix.data(), namePrefix.size()) + encoded(service);
     return service.isEmpty() || name.size() > longestName ? QByteArray() : name;
+}
+
+QString serviceBusName(const QString& service)
+{
+    return QString::fromLatin1(busName(service));
 }
 
 QByteArray objectPath(const QString& service)
