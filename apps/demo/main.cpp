@@ -13,7 +13,6 @@
 #include "texts.h"
 #include "tour.h"
 
-#include <embedded/embeddedbackend.h>
 #include <kiv/kivclientinterface.h>
 
 #include <QGuiApplication>
@@ -66,8 +65,8 @@ int runDemo(const DemoOptions& options)
 {
     if (!useRoot(options.root))
         return exitFailed;
-    kiv::embedded::EmbeddedBackend backend;
-    if (!uiutils::apps::loadServices(backend, options.serviceFolders, options.root))
+    const auto instrument = Instrument::start({options.serviceFolders, options.root, resultServices()});
+    if (!instrument)
         return exitFailed;
     QString error;
     if (!prepareInstrumentRoot(options.root, pdfViewerProgram(), &error))
@@ -87,10 +86,9 @@ int runDemo(const DemoOptions& options)
             options.samples > 0 ? MeasurementSettings::KeepSampleCounts : MeasurementSettings::FollowSampleCounts);
     if (options.samples > 0)
         measurement.setSamples(options.samples);
-    publishResults(&measurement, &backend);
-    uiutils::apps::Instrument instrument(backend);
+    publishResults(&measurement, [&instrument](const QString& name) { return instrument->ownService(name); });
     QQmlApplicationEngine engine;
-    instrument.showTo(&engine);
+    instrument->showTo(&engine);
     QQuickWindow* const window = openWindow(engine, &measurement);
     if (!window)
         return complain(Texts::tr(

@@ -2,12 +2,14 @@
 
 #include "loopbackmeasurement.h"
 
-#include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 
 namespace uiutils::demo {
 
 namespace {
+
+const QString roundTripService = QStringLiteral("loopback_rtt");
+const QString throughputService = QStringLiteral("loopback_throughput");
 
 void publish(const SampleModel& samples, kiv::embedded::EmbeddedService* service, const QString& limitAttribute)
 {
@@ -28,17 +30,21 @@ void publish(const SampleModel& samples, kiv::embedded::EmbeddedService* service
 
 } // namespace
 
-void publishResults(LoopbackMeasurement* measurement, const kiv::embedded::EmbeddedBackend* backend)
+void publishResults(LoopbackMeasurement* measurement,
+        const std::function<kiv::embedded::EmbeddedService*(const QString&)>& service)
 {
-    const auto publishAll = [measurement, backend] {
-        publish(*measurement->roundTrip(), backend->service(QStringLiteral("loopback_rtt")),
-                QStringLiteral("upperLimit"));
-        publish(*measurement->throughput(), backend->service(QStringLiteral("loopback_throughput")),
-                QStringLiteral("lowerLimit"));
+    const auto publishAll = [measurement, service] {
+        publish(*measurement->roundTrip(), service(roundTripService), QStringLiteral("upperLimit"));
+        publish(*measurement->throughput(), service(throughputService), QStringLiteral("lowerLimit"));
     };
     QObject::connect(measurement, &LoopbackMeasurement::finished, measurement, publishAll);
     QObject::connect(measurement->roundTrip(), &SampleModel::limitChanged, measurement, publishAll);
     QObject::connect(measurement->throughput(), &SampleModel::limitChanged, measurement, publishAll);
+}
+
+QStringList resultServices()
+{
+    return {roundTripService, throughputService};
 }
 
 } // namespace uiutils::demo

@@ -1,7 +1,12 @@
 #pragma once
 
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
 namespace kiv::embedded {
-class EmbeddedBackend;
+class EmbeddedService;
 }
 
 namespace uiutils::demo {
@@ -10,7 +15,11 @@ class LoopbackMeasurement;
 
 /// Lets the services "loopback_rtt" and "loopback_throughput" publish the samples of each run that finishes, with the
 /// limits of that moment, so that reports can plot them. A service that is not published is passed over. Ends with
-/// the measurement; the back end has to outlive it.
-void publishResults(LoopbackMeasurement* measurement, const kiv::embedded::EmbeddedBackend* backend);
+/// the measurement. `service` gives the own side of a service by its name, or null.
+void publishResults(LoopbackMeasurement* measurement,
+        const std::function<kiv::embedded::EmbeddedService*(const QString&)>& service);
+
+/// The names of both.
+QStringList resultServices();
 
 } // namespace uiutils::demo

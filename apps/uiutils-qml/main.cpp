@@ -5,8 +5,6 @@
 #include "common/instrument.h"
 #include "common/startup.h"
 
-#include <embedded/embeddedbackend.h>
-
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QQmlEngine>
@@ -69,9 +67,8 @@ int main(int argc, char** argv)
         return exitFailed;
     const apps::DisplaySetup display;
     const QGuiApplication application(argc, argv);
-    kiv::embedded::EmbeddedBackend backend;
-    if (!apps::loadServices(backend, options.serviceFolders, options.root))
+    const auto instrument = apps::Instrument::start({options.serviceFolders, options.root, {}});
+    if (!instrument)
         return exitFailed;
-    apps::Instrument instrument(backend);
-    return options.page.isEmpty() ? list(instrument) : show(instrument, options);
+    return options.page.isEmpty() ? list(*instrument) : show(*instrument, options);
 }
