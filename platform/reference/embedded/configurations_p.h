@@ -4,7 +4,7 @@
 
 namespace kiv::embedded {
 
-/// Sets a batch of settings, a JSON object of values by item name: all of them, or none. The names are looked up among
+/// Sets a batch of settings, a JSON object of values by item name or id: all of them, or none. They are looked up among
 /// the settings of the service and then of the others, in the order of their names.
 Outcome applyConfiguration(ServiceData& service, const QString& argument);
 
