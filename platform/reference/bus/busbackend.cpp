@@ -8,6 +8,7 @@
 
 #include "formatters/formatters_p.h"
 
+#include <QAbstractEventDispatcher>
 #include <QDir>
 #include <QEventLoop>
 #include <QMap>
@@ -74,8 +75,8 @@ void BusBackend::Private::onReady()
 {
     problem.clear();
     QByteArray prefix(namePrefix.data(), namePrefix.size() - 1);
-    connection()->match("type='signal',sender='org.freedesktop.DBus',member='NameOwnerChanged',arg0namespace='" + prefix
-            + '\'');
+    connection()->match(
+            "type='signal',sender='org.freedesktop.DBus',member='NameOwnerChanged',arg0namespace='" + prefix + '\'');
     const Message user = daemonCall("GetConnectionUnixUser");
     Writer(user).text(QString::fromLatin1(connection()->uniqueName()));
     askDaemon(user, [this](const Message& reply) { ownUser = Reader(reply).uint32(); });
@@ -253,21 +254,20 @@ BusBackend::~BusBackend()
     qDeleteAll(all);
 }
 
-bool BusBackend::waitForServices(int timeoutMs)
+bool BusBackend::waitForServices(int timeoutMs, const std::function<bool()>& isEnough)
 {
+    const auto isOver = [&] { return d->isSettled() || (isEnough && isEnough()); };
     QEventLoop loop;
     QTimer timeout;
     timeout.setSingleShot(true);
     connect(&timeout, &QTimer::timeout, &loop, &QEventLoop::quit);
-    // What has to be waited for ends in a message; a look after each turn is enough.
-    QTimer turns;
-    connect(&turns, &QTimer::timeout, &loop, [&] {
-        if (d->isSettled())
+    // What has to be waited for comes in messages: a look after all that have come is enough.
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &loop, [&] {
+        if (isOver())
             loop.quit();
     });
     timeout.start(timeoutMs);
-    turns.start(0);
-    if (!d->isSettled())
+    if (!isOver())
         loop.exec();
     return d->isSettled();
 }
