@@ -1,5 +1,6 @@
 #include "base/paths_p.h"
 #include "common/complaint.h"
+#include "common/standardstreams.h"
 #include "console.h"
 #include "conversion.h"
 #include "options.h"
@@ -82,7 +83,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication::setApplicationName(QStringLiteral("reportconvert"));
     QCoreApplication::setApplicationVersion(QStringLiteral(UIUTILS_CONVERT_VERSION));
-    holdStandardStreams();
+    uiutils::apps::holdStandardStreams();
     holdSignals();
     installWarningHandler();
 

@@ -6,10 +6,6 @@
 
 namespace uiutils::convert {
 
-/// Takes the places of standard streams that the caller closed, so that no file of ours is opened there and
-/// mistaken for one. Using them still fails.
-void holdStandardStreams();
-
 /// Copies standard input, up to the size that a document may have. Returns false, with the reason in `error`,
 /// when that fails, and with an empty one when a signal came first.
 bool copyStandardInput(QIODevice& target, QString* error);
