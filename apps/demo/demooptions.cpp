@@ -42,7 +42,10 @@ DemoOptions readOptions(const QStringList& arguments)
             Texts::tr("number"));
     const QCommandLineOption tour(
             QStringLiteral("tour"), Texts::tr("Measure, save a report, take a picture of each page and quit."));
-    parser.addOptions({root, services, samples, tour});
+    const QCommandLineOption follow(QStringLiteral("follow"),
+            Texts::tr("Wait until another application changes the user's name, the services end and return; take a "
+                      "picture of each and quit. Needs KIV_PLATFORM=bus."));
+    parser.addOptions({root, services, samples, tour, follow});
 
     const apps::CommandLine line = apps::parse(parser, arguments);
     if (line.outcome != apps::CommandLine::Run)
@@ -67,6 +70,7 @@ DemoOptions readOptions(const QStringList& arguments)
     options.root = QDir::cleanPath(QDir().absoluteFilePath(parser.value(root)));
     options.serviceFolders = parser.isSet(services) ? parser.values(services) : ownServices;
     options.isTour = parser.isSet(tour);
+    options.isFollower = parser.isSet(follow);
     return options;
 }
 

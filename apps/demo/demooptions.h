@@ -16,6 +16,8 @@ struct DemoOptions : apps::CommandLine
     /// Samples of each quantity; 0 for as many as the settings say.
     int samples = 0;
     bool isTour = false;
+    /// Watch what other processes do.
+    bool isFollower = false;
 };
 
 /// Reads the arguments, the program's own name first. Needs a QCoreApplication and no display.
