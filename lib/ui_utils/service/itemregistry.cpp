@@ -37,10 +37,15 @@ KivData* find(const QString& id)
 
 void enter(const QString& id, KivData* wrapper)
 {
-    KivData*& entry = entries()[id];
-    if (entry)
-        displacedById()[id].append(entry);
-    entry = wrapper;
+    QMap<QString, KivData*>& all = entries();
+    const auto place = all.lowerBound(id);
+    if (place == all.end() || id < place.key()) {
+        all.insert(place, id, wrapper);
+        return;
+    }
+    if (*place)
+        displacedById()[id].append(*place);
+    *place = wrapper;
 }
 
 void forget(const QString& id, const KivData* wrapper)

@@ -137,7 +137,7 @@ Manifest* KivData::manifest() const
 KIVClientInterface* KivData::getClient() const
 {
     const uiutils::ManifestState* owner = uiutils::manifestState(parent());
-    return owner ? owner->client : nullptr;
+    return owner ? owner->client.data() : nullptr;
 }
 
 // --- What the item is ----------------------------------------------------------------------------
