@@ -74,10 +74,6 @@ apps/demo/tour.cpp -> base/durablefile_p.h
 apps/demo/usbstick.cpp -> base/paths_p.h
 apps/demo/usbstick.cpp -> lib/ui_utils/core/itemids_p.h
 apps/reportconvert/conversion.cpp -> platform/reference/embedded/jsonschema_p.h
-
-# A wrapper asks the manifest that its constructor takes, and the manifest makes wrappers of every kind.
-lib/ui_utils/service/kivdata.cpp -> lib/ui_utils/service/manifest_p.h
-lib/ui_utils/service/kivdatavalue.cpp -> lib/ui_utils/service/manifest.h
 """
 
 Room = collections.namedtuple("Room", "name allowed")
