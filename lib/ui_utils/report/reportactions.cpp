@@ -1,4 +1,4 @@
-// The part of Report that acts: makes contents, writes, saves and hands on.
+// The part of Report that acts: makes contents, writes, saves, attaches and shows.
 
 #include "base/paths_p.h"
 #include "instrument/drives_p.h"
@@ -91,7 +91,8 @@ QByteArray Report::generatePDFReport()
 
 QByteArray Report::generateDefaultPDFReport()
 {
-    // A report of many rows is large: its items go as soon as they are printed, unless others print them, too.
+    // A report of many rows is large: its items are deleted as soon as they are printed, unless another print uses them
+    // too.
     const auto dropItems = qScopeGuard([isNested = ReportPDF::isPrinting()] {
         if (!isNested)
             uiutils::deleteItemsOfPasses(m_reportItems);
@@ -103,7 +104,7 @@ QByteArray Report::generateDefaultPDFReport()
     const bool isAlone = !saving->progress.isRunning();
     if (isAlone)
         saving->progress.begin(1);
-    // The controller may be gone when the next page asks.
+    // The controller may have been deleted when the next page asks.
     ReportPDF& pages = writer.pages();
     connect(&pages, &ReportPDF::progressChanged, &pages, [saving, &pages](int page, int pageCount) {
         if (!saving->goesOn(pageCount > 0 ? double(page) / pageCount : 0))
@@ -159,7 +160,7 @@ bool Report::writePDFReport(const QString& path, bool overwrite)
         saving->progress.end();
     if (!self)
         return false;
-    // A report of the name may have come while the pages were made, with a stick.
+    // A report of the name may have appeared while the pages were made, for example on a USB drive.
     if (!pages.isEmpty())
         return saving->mayWrite({path}, overwrite) && saving->write(path, pages, overwrite);
     if (!saving->progress.isCancelled())
@@ -255,7 +256,7 @@ void Report::setInteractive(bool interactive)
     d->isInteractive = interactive;
 }
 
-// --- The stick, the cloud ---
+// --- The USB drive, the cloud ---
 
 void Report::saveToUsb(const QString& name, const QString& suffix)
 {
@@ -307,7 +308,7 @@ void Report::writeMetadata(const QString& path, const QString& format)
     addWorkOrderMetaDataInfo();
     if (uiutils::instrument::isJobActive() && ensureValidJobData())
         updateJobTestMetadata();
-    // Where a stick was, it would be the unit's.
+    // In the folder that remains of a removed USB drive, the record would be on the unit.
     if (uiutils::instrument::isDriveThere(path))
         d->metadata.saveMetadataToFile();
     else

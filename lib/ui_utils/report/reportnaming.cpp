@@ -38,7 +38,7 @@ QString safeFileName(const QString& name)
     const QChar neutral = QLatin1Char('_');
     if (name == QLatin1String(".") || name == QLatin1String(".."))
         return QString(neutral);
-    // One spelling of letters with marks, or one name would be two files.
+    // Letters with marks get one spelling. Otherwise one name could be two files.
     QString safe = name.normalized(QString::NormalizationForm_C);
     for (QChar& character : safe) {
         if (character == QLatin1Char('/') || character.category() == QChar::Other_Control)
@@ -50,11 +50,11 @@ QString safeFileName(const QString& name)
 QString nameProblem(const QString& name, const QString& suffix, bool compressed)
 {
     if (name == QLatin1String(".") || name == QLatin1String(".."))
-        return ReportTexts::tr("\"%1\" is no name of a file.").arg(name);
+        return ReportTexts::tr("\"%1\" is not a file name.").arg(name);
     if (name.contains(QLatin1Char('/')))
-        return ReportTexts::tr("The name may not have \"/\" in it.");
+        return ReportTexts::tr("The name must not contain \"/\".");
     if (name.contains(QChar(QChar::Null)))
-        return ReportTexts::tr("The name may not have a NUL character in it.");
+        return ReportTexts::tr("The name must not contain a NUL character.");
     constexpr int mostBytes = 255;
     const auto fits = [&](const QString& part) {
         const QString plain = withSuffix(safeFileName(part), suffix);
@@ -63,11 +63,11 @@ QString nameProblem(const QString& name, const QString& suffix, bool compressed)
     if (fits(name))
         return QString();
     const QVector<uint> characters = name.toUcs4();
-    // Composing makes two bytes of three characters at the most, so that none beyond these could fit.
+    // Composing makes at least two bytes of three characters, so no name with more characters can fit.
     int most = qMin(characters.size(), 2 * mostBytes);
     while (most > 0 && !fits(QString::fromUcs4(characters.constData(), most)))
         --most;
-    return ReportTexts::tr("The name may have %1 characters, it has %2.").arg(most).arg(characters.size());
+    return ReportTexts::tr("The name has %1 characters; the maximum is %2.").arg(characters.size()).arg(most);
 }
 
 QString safeFolder(const QString& folder)

@@ -19,12 +19,12 @@ QString noFormat(const FormatChoice& choice)
 
 } // namespace
 
-QStringList SavePlan::paths(bool isStickThere) const
+QStringList SavePlan::paths(bool isUsbThere) const
 {
     QStringList paths;
     for (const PlannedFile& file : files) {
         paths += file.path;
-        if (isStickThere && !file.copy.isEmpty())
+        if (isUsbThere && !file.copy.isEmpty())
             paths += file.copy;
     }
     return paths;

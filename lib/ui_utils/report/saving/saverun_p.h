@@ -44,7 +44,7 @@ private:
     bool m_overwrite;
     FormatChoice m_choice;
     SavePlan m_plan;
-    /// The planned files that are written, and where they lie.
+    /// The planned files that have been written, and their paths on the disk.
     QVector<PlannedFile> m_saved;
     QStringList m_written;
 };

@@ -68,7 +68,7 @@ bool Saving::write(const QString& path, const QByteArray& contents, bool overwri
             hooks->filesChanged();
         return false;
     }
-    // The user has let go of a report of the name before it came to this.
+    // The user has released the uncompressed report of the name.
     if (isCompressed && overwrite && (QFile::remove(onDisk(path)) || !QFile::exists(onDisk(path))))
         removeReportRecord(path);
     consent.takeUp(path);
@@ -83,7 +83,7 @@ bool Saving::write(const QString& path, const QByteArray& contents, bool overwri
 bool Saving::copyToUsb(const QString& saved, bool overwrite)
 {
     const QString copy = instrument::usbPath(saved);
-    // What is saved to the stick is its own copy.
+    // A report that is saved on the USB drive is its own copy.
     const bool mayReplace = overwrite || QDir::cleanPath(saved) == copy;
     QString error;
     if (copyReportFile(saved, copy, mayReplace, &error))
