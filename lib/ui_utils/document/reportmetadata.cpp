@@ -2,6 +2,7 @@
 
 #include "base/durablefile_p.h"
 #include "base/paths_p.h"
+#include "document/documentreader_p.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -12,6 +13,7 @@
 #include <optional>
 
 using uiutils::onDisk;
+using uiutils::textOf;
 namespace paths = uiutils::paths;
 
 namespace {
@@ -56,12 +58,6 @@ std::optional<QByteArray> recordBytes(const QString& path)
     if (file.error() != QFileDevice::NoError)
         return std::nullopt;
     return text;
-}
-
-/// The text of a leaf.
-QString textOf(const QJsonValue& value)
-{
-    return value.toVariant().toString();
 }
 
 /// Whether the values of the keys that exist are leaves: other programs write numbers.

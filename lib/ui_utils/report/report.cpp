@@ -39,7 +39,7 @@ Report::Report(QObject* parent)
     d->watchServices();
     d->createSettings();
     QTimer::singleShot(settingsDelay, this, &Report::slotCreateSettings);
-    for (const uiutils::ReportFormat& format : uiutils::allReportFormats())
+    for (const uiutils::FormatInfo& format : uiutils::allReportFormats())
         setFormatApplicable(format.value, format.isAlwaysOffered);
     if (KIVClientInterface* client = KIVClientInterface::getBaseMgrClient())
         client->setItem(uiutils::itemids::customDefaultName, QString());

@@ -101,9 +101,6 @@ QByteArray Report::generateDefaultPDFReport()
     d->handOnSwitches(writer);
     writer.setAttribute(QStringLiteral("subject"), getSubject());
     const auto saving = d->saving;
-    const bool isAlone = !saving->progress.isRunning();
-    if (isAlone)
-        saving->progress.begin(1);
     // The controller may have been deleted when the next page asks.
     ReportPDF& pages = writer.pages();
     connect(&pages, &ReportPDF::progressChanged, &pages, [saving, &pages](int page, int pageCount) {
@@ -111,9 +108,7 @@ QByteArray Report::generateDefaultPDFReport()
             pages.cancel();
     });
     QString error;
-    QByteArray file = writer.toPdf(&error);
-    if (isAlone)
-        saving->progress.end();
+    QByteArray file = saving->withProgress([&] { return writer.toPdf(&error); });
     if (!error.isEmpty())
         qDebug("The pages of the report could not be made: %s", qUtf8Printable(error));
     return file;
@@ -152,12 +147,7 @@ bool Report::writePDFReport(const QString& path, bool overwrite)
     if (!saving->mayWrite({path}, overwrite))
         return false;
     const QPointer<Report> self(this);
-    const bool isAlone = !saving->progress.isRunning();
-    if (isAlone)
-        saving->progress.begin(1);
-    const QByteArray pages = generatePDFReport();
-    if (isAlone)
-        saving->progress.end();
+    const QByteArray pages = saving->withProgress([this] { return generatePDFReport(); });
     if (!self)
         return false;
     // A report of the name may have appeared while the pages were made, for example on a USB drive.
@@ -273,13 +263,13 @@ double Report::percentageFileSystemUsed(const QString& path)
 void Report::addReportToNoSyncList(const QString& filePath)
 {
     const auto saving = d->saving;
-    saving->recordSync({filePath}, false);
+    saving->updateSyncList({filePath}, false);
 }
 
 void Report::removeReportFromNoSyncList(const QString& filePath)
 {
     const auto saving = d->saving;
-    saving->recordSync({filePath}, true);
+    saving->updateSyncList({filePath}, true);
 }
 
 void Report::writeNoSyncListToFile(const QStringList& noSync_fileList)

@@ -112,7 +112,7 @@ int Report::getFormat() const
 
 QString Report::getSuffixForReport() const
 {
-    const uiutils::ReportFormat* format = uiutils::reportFormat(getFormat());
+    const uiutils::FormatInfo* format = uiutils::formatInfo(getFormat());
     return format ? QString(format->suffix) : QString();
 }
 

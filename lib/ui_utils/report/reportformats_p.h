@@ -18,7 +18,7 @@ inline const QLatin1String textSuffix(".txt");
 inline const QLatin1String jsonSuffix(".json");
 inline const QLatin1String gzipSuffix(".gz");
 
-struct ReportFormat
+struct FormatInfo
 {
     NSReport::ReportFormat value;
     /// In English.
@@ -31,12 +31,12 @@ struct ReportFormat
 };
 
 /// In the order of their values, in which ALL writes them.
-const QList<ReportFormat>& allReportFormats();
+const QList<FormatInfo>& allReportFormats();
 
 /// Null if the value is not a format.
-const ReportFormat* reportFormat(int value);
+const FormatInfo* formatInfo(int value);
 
-using ReportFormats = QList<const ReportFormat*>;
+using FormatInfos = QList<const FormatInfo*>;
 
 /// What the setting of the format says.
 struct FormatChoice
@@ -47,7 +47,7 @@ struct FormatChoice
     bool isFormat = false;
     bool isAll = false;
     /// What is written: the format itself; for ALL, those that the setting says are applicable; none for anything else.
-    ReportFormats formats;
+    FormatInfos formats;
 };
 
 /// The value as a number; -1 without an item, and if the value is not a number.

@@ -35,8 +35,8 @@ bool readName(const QString& fileName, SavedReport* report)
     report->isCompressed = fileName.endsWith(gzipSuffix);
     const int end = fileName.size() - (report->isCompressed ? gzipSuffix.size() : 0);
     const QStringRef plain = fileName.leftRef(end);
-    const QList<ReportFormat>& formats = allReportFormats();
-    const auto format = std::find_if(formats.cbegin(), formats.cend(), [&](const ReportFormat& candidate) {
+    const QList<FormatInfo>& formats = allReportFormats();
+    const auto format = std::find_if(formats.cbegin(), formats.cend(), [&](const FormatInfo& candidate) {
         return !candidate.suffix.isEmpty() && plain.endsWith(candidate.suffix);
     });
     if (format == formats.cend() || end == format->suffix.size())

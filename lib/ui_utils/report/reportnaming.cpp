@@ -33,7 +33,7 @@ QString proposedReportName(const QString& shortLabel, const QDateTime& time)
     return name + time.toString(QStringLiteral("_ddMMyyhhmmss"));
 }
 
-QString safeFileName(const QString& name)
+QString safePathPart(const QString& name)
 {
     const QChar neutral = QLatin1Char('_');
     if (name == QLatin1String(".") || name == QLatin1String(".."))
@@ -57,7 +57,7 @@ QString nameProblem(const QString& name, const QString& suffix, bool compressed)
         return ReportTexts::tr("The name must not contain a NUL character.");
     constexpr int mostBytes = 255;
     const auto fits = [&](const QString& part) {
-        const QString plain = withSuffix(safeFileName(part), suffix);
+        const QString plain = withSuffix(safePathPart(part), suffix);
         return QFile::encodeName(compressed ? plain + gzipSuffix : plain).size() <= mostBytes;
     };
     if (fits(name))
@@ -74,7 +74,7 @@ QString safeFolder(const QString& folder)
 {
     QStringList parts = folder.split(QLatin1Char('/'), Qt::SkipEmptyParts);
     for (QString& part : parts)
-        part = safeFileName(part);
+        part = safePathPart(part);
     return parts.join(QLatin1Char('/'));
 }
 
@@ -92,12 +92,12 @@ QString reportFolder(const QString& base, const QString& provider, const QString
 
 QString reportPath(const QString& directory, const QString& name, const QString& suffix)
 {
-    return withSlash(directory) + withSuffix(safeFileName(name), suffix);
+    return withSlash(directory) + withSuffix(safePathPart(name), suffix);
 }
 
 QString reportNamed(const QString& name, const QVariantList& reports)
 {
-    const QString wanted = safeFileName(name);
+    const QString wanted = safePathPart(name);
     const auto isWanted = [&](const QString& found) {
         const QString composed = found.normalized(QString::NormalizationForm_C);
         return composed == wanted || composed == wanted + gzipSuffix;

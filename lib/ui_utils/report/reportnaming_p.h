@@ -13,13 +13,13 @@ QString proposedReportName(const QString& shortLabel, const QDateTime& time);
 
 /// `name` as one part of a path: "/", NUL and control characters become "_", and so do "." and "..". Letters and their
 /// marks are composed where they can be.
-QString safeFileName(const QString& name);
+QString safePathPart(const QString& name);
 
 /// Why a report cannot have that name, with the suffix and, if `compressed`, ".gz" appended, for the user: it leads to
 /// another folder, or has more than 255 bytes. Empty if it can.
 QString nameProblem(const QString& name, const QString& suffix, bool compressed);
 
-/// `folder` as a path below another folder: its parts are as safeFileName() makes them, and empty ones are left out.
+/// `folder` as a path below another folder: its parts are as safePathPart() makes them, and empty ones are left out.
 /// Has no "/" at its ends.
 QString safeFolder(const QString& folder);
 

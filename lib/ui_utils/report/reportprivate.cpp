@@ -138,7 +138,7 @@ QString ReportPrivate::chosenName()
     QString name = item ? item->getValue().toString() : QString();
     // The label may be one like "1/10 GE", which users cannot change.
     if (item && name.isEmpty())
-        name = safeFileName(q->proposedFileName());
+        name = safePathPart(q->proposedFileName());
     return name.isEmpty() ? QStringLiteral("empty") : name.normalized(QString::NormalizationForm_C);
 }
 

@@ -14,7 +14,7 @@ namespace uiutils {
 /// A report that a save writes.
 struct PlannedFile
 {
-    const ReportFormat* format;
+    const FormatInfo* format;
     /// As the writer is given it: with the format's suffix, without ".gz".
     QString path;
     /// The path of its copy on the USB drive; empty if there is none.
@@ -37,11 +37,11 @@ struct SavePlan
 using PathOf = std::function<QString(const QString& name, const QString& suffix)>;
 
 /// A report at `path`. One that is saved on the USB drive is not copied there.
-PlannedFile plannedFile(const QString& path, const ReportFormat* format, bool copiesToUsb);
+PlannedFile plannedFile(const QString& path, const FormatInfo* format, bool copiesToUsb);
 
 /// The files of a report of that name in these formats.
 QVector<PlannedFile> plannedFiles(
-        const QString& name, const ReportFormats& formats, bool copiesToUsb, const PathOf& pathOf);
+        const QString& name, const FormatInfos& formats, bool copiesToUsb, const PathOf& pathOf);
 
 /// Why nothing can be saved under the name in the chosen formats, for the user; empty if it can.
 QString planProblem(const QString& name, const FormatChoice& choice, bool compressed);

@@ -127,7 +127,7 @@ bool SaveRun::write()
         hooks().progressChanged();
     bool isComplete = writeFiles();
     // What a user does not want synced is not synced, even if another format could not be written.
-    recordSync();
+    updateSyncList();
     isComplete = isComplete && copyToUsb();
     progress.end();
     hooks().savingChanged();
@@ -169,13 +169,13 @@ bool SaveRun::writeFile(const PlannedFile& file)
 }
 
 /// If the controller was deleted meanwhile, its reports remain, and so does what the user has chosen for them.
-void SaveRun::recordSync()
+void SaveRun::updateSyncList()
 {
     hooks().filesSaved(m_written, m_plan.isSynced);
     // A report that could not be compressed was saved, too.
     const QStringList files = m_plan.isSynced ? m_written : m_written + m_saving->strays;
     if (!files.isEmpty())
-        m_saving->recordSync(files, m_plan.isSynced);
+        m_saving->updateSyncList(files, m_plan.isSynced);
 }
 
 // --- The copies ---
@@ -225,7 +225,7 @@ bool SaveRun::announce()
 {
     const QString path = m_written.constFirst();
     // The files of all formats share the name.
-    hooks().succeeded(path, m_plan.isAll ? safeFileName(m_plan.name) : path.section(QLatin1Char('/'), -1));
+    hooks().succeeded(path, m_plan.isAll ? safePathPart(m_plan.name) : path.section(QLatin1Char('/'), -1));
     return true;
 }
 

@@ -31,7 +31,7 @@ private:
     bool write();
     bool writeFiles();
     bool writeFile(const PlannedFile& file);
-    void recordSync();
+    void updateSyncList();
     bool mayCopy();
     bool copyToUsb();
     bool copyToUsb(const PlannedFile& file, const QString& written);

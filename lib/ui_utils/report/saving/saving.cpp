@@ -92,11 +92,11 @@ bool Saving::copyToUsb(const QString& saved, bool overwrite)
     return false;
 }
 
-void Saving::recordSync(const QStringList& files, bool isSynced)
+void Saving::updateSyncList(const QStringList& files, bool isSynced)
 {
     QString error;
-    const bool isRecorded = isSynced ? removeFromNoSyncList(files, &error) : addToNoSyncList(files, &error);
-    if (isRecorded)
+    const bool isUpdated = isSynced ? removeFromNoSyncList(files, &error) : addToNoSyncList(files, &error);
+    if (isUpdated)
         return;
     if (!hooks->isAlive()) {
         qWarning("%s", qUtf8Printable(error));
@@ -119,6 +119,17 @@ bool Saving::tellProgress(bool hasChanged)
     if (hooks->isInteractive() && isBusy && progress.isPageDue())
         QCoreApplication::processEvents();
     return hooks->isAlive() && !progress.isCancelled();
+}
+
+QByteArray Saving::withProgress(const std::function<QByteArray()>& make)
+{
+    const bool isAlone = !progress.isRunning();
+    if (isAlone)
+        progress.begin(1);
+    const QByteArray contents = make();
+    if (isAlone)
+        progress.end();
+    return contents;
 }
 
 // --- Its life ---

@@ -12,6 +12,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -51,12 +52,15 @@ public:
     /// Copies a saved report to the USB drive. False if that fails; the user is notified.
     bool copyToUsb(const QString& saved, bool overwrite);
     /// Removes the files from the list of reports that are not synced, or adds them.
-    void recordSync(const QStringList& files, bool isSynced);
+    void updateSyncList(const QStringList& files, bool isSynced);
 
     /// `share` of the present format is written. False if writing is to stop.
     bool goesOn(double share) { return tellProgress(progress.advance(share)); }
     /// False if the save was cancelled, or the controller deleted.
     bool tellProgress(bool hasChanged);
+
+    /// Calls `make`, which makes the contents of a file; outside a save it has a progress of its own.
+    QByteArray withProgress(const std::function<QByteArray()>& make);
 
     void accept(const KIVNotification* notification);
     void reject(const KIVNotification* notification);
