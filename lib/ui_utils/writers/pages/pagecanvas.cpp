@@ -113,8 +113,8 @@ void PageCanvas::drawImage(const QImage& image, const QRectF& place)
 
 void PageCanvas::drawImage(const QByteArray& encoded, const QRectF& place)
 {
-    auto it = m_images.constFind(encoded);
-    if (it == m_images.constEnd()) {
+    auto it = m_images.find(encoded);
+    if (it == m_images.end()) {
         if (m_images.size() >= maximumImages)
             m_images.clear();
         it = m_images.insert(encoded, decodedImage(encoded));
