@@ -23,8 +23,8 @@ struct InputRule
 };
 
 /// The types that have validators of their own.
-constexpr QLatin1String textType("std::string");
-constexpr QLatin1String realType("double");
+inline const QLatin1String textType("std::string");
+inline const QLatin1String realType("double");
 
 /// A rule that accepts every value of the type.
 InputRule openRule(QLatin1String type);
