@@ -50,6 +50,8 @@ public:
     void abandon();
     bool isAbandoned() const { return m_isAbandoned; }
 
+    /// The number of the chain that this is part of.
+    unsigned ownChain() const { return m_first->m_chain; }
     /// The number of the running chain, from 1; 0 when none runs.
     static unsigned chain();
     /// Counts a write to an item that the running chain has announced.
@@ -63,8 +65,8 @@ private:
     Announcement* m_outer;
     /// The announcement below on the stack, of any item, and the one that began the chain.
     Announcement* m_below;
-    Announcement* m_first;
     int m_loopLevel;
+    Announcement* m_first;
     unsigned m_chain = 0;
     int m_returns = 0;
     int m_rounds = 0;

@@ -38,7 +38,7 @@ public:
     void announceValue();
     bool isAnnouncing() const;
     bool isKnownToChain() const;
-    void enterChain();
+    void enterChain(unsigned chain);
     bool isStopped();
     QVariant reportedValue() const;
     void reject(const QString& reason);

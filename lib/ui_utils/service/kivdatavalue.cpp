@@ -133,7 +133,7 @@ void KivData::announce(std::initializer_list<void (KivData::*)()> steps)
     const unsigned outerChain = d->announcedIn;
     const bool wasStopped = d->stopped;
     d->announcing = &announcement;
-    d->enterChain();
+    d->enterChain(announcement.ownChain());
     while (announcement.beginRound()) {
         for (const uiutils::Announcement::Step step : announcement.steps()) {
             (this->*step)();
@@ -171,11 +171,11 @@ bool KivDataPrivate::isKnownToChain() const
     return chain != 0 && announcedIn == chain;
 }
 
-void KivDataPrivate::enterChain()
+void KivDataPrivate::enterChain(unsigned chain)
 {
-    if (isKnownToChain())
+    if (chain != 0 && announcedIn == chain)
         return;
-    announcedIn = uiutils::Announcement::chain();
+    announcedIn = chain;
     stopped = false;
 }
 
@@ -190,7 +190,7 @@ bool KivDataPrivate::isStopped()
     const bool hasHadRounds = isAnnouncing() && announcing->isLastRound();
     if (!hasHadRounds && !uiutils::Announcement::isExhausted())
         return false;
-    enterChain();
+    enterChain(uiutils::Announcement::chain());
     stopped = true;
     qWarning("The value of %s does not settle: a handler of its change, or of another item's, writes another one each "
              "time. It was stopped after %d %s; let the handler write a value that stays.",
