@@ -90,7 +90,8 @@ public:
     QByteArray pages = "%PDF-";
     QStringList calls;
     QVector<bool> answers;
-    std::function<void()> whileMaking;
+    /// Called while contents are made, and when a save has succeeded.
+    std::function<void()> meanwhile;
     bool keepsName = true;
 
 protected:
@@ -103,7 +104,7 @@ protected:
         calls << "metadata " + format;
         Report::writeMetadata(path, format);
     }
-    void saveSucceeded(const QString&) override { calls << "succeeded"; }
+    void saveSucceeded(const QString&) override { made(calls << "succeeded"); }
     void saveFailed(const QString&) override { calls << "failed"; }
     void overwriteDeclined(const QString&) override { calls << "declined"; }
 
@@ -112,8 +113,8 @@ private:
     template<typename Contents>
     Contents made(Contents contents)
     {
-        if (const auto making = whileMaking)
-            making();
+        if (const auto act = meanwhile)
+            act();
         return contents;
     }
 };

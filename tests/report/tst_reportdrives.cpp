@@ -174,7 +174,7 @@ private Q_SLOTS:
         plug(location, true, false);
         Controller report("a", name == "a.pdf" ? 0 : 3);
         report.text = "%PDF-";
-        report.whileMaking = [&] {
+        report.meanwhile = [&] {
             QDir().rename(onDisk("/mnt/usb"), onDisk("/mnt/point"));
             QDir().rename(onDisk("/mnt/port"), onDisk("/mnt/usb"));
             basemgr()->setMounted("/mnt/usb", true);
@@ -185,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(dialogText(), "Do you want to overwrite report USB:/" + name + "?");
         QCOMPARE(manager()->waitingDialogs(), 0);
         QCOMPARE(generated.count(), 0);
-        report.whileMaking = nullptr;
+        report.meanwhile = nullptr;
         report.saveOnYes();
         manager()->accept();
         QCOMPARE(report.answers, QVector<bool>{true});
@@ -197,7 +197,7 @@ private Q_SLOTS:
         Controller report("a", 3);
         QStringList shown;
         connect(&report, &Report::saveLocationChanged, &report, [&] { shown << report.getSaveLocation(); });
-        report.whileMaking = [&] { basemgr()->setValue(usbItem, true); };
+        report.meanwhile = [&] { basemgr()->setValue(usbItem, true); };
         QVERIFY(report.save());
         QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
         QTRY_VERIFY(!shown.isEmpty());

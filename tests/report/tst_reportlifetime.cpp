@@ -41,10 +41,10 @@ private Q_SLOTS:
             r->setFolder("f");
             r->save();
         };
-        const auto make = [=](int format) {
+        const auto goMeanwhile = [=](int format) {
             return [=](Controller* r) {
-                r->setUp("a", format);
-                r->whileMaking = [r] { delete r; };
+                r->getSetting("reportFormat")->setValue(format);
+                r->meanwhile = [r] { delete r; };
                 r->save();
             };
         };
@@ -63,8 +63,9 @@ private Q_SLOTS:
             goOnDialog(r);
             r->save();
         }, {"a.xml"});
-        add("pages are made", make(0));
-        add("text is made", make(3));
+        add("pages are made", goMeanwhile(0));
+        add("text is made", goMeanwhile(3));
+        add("succeeded", goMeanwhile(1), {"a.xml"});
         const Deed refuse = [](Controller* r) { r->writeToJobManager(); };
         add("refusal", [=](Controller* r) {
             QVERIFY(basemgr()->setValue(activeItem, false));

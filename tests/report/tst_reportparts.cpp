@@ -400,10 +400,10 @@ private Q_SLOTS:
         const QString fits = QString::fromUtf8("<report>Größe</report>");
         const std::tuple<bool, QString, QString, QString> rows[]{{true, "", "<anything/>", ""},
                 {true, "/cust/job.xsd", fits, ""},
-                {true, "/cust/job.xsd", "<other/>", "The report is not what jobs accept: line 1: .*other.*"},
-                {true, "/cust/job.xsd", "", "The report is not what jobs accept: .+"},
+                {true, "/cust/job.xsd", "<other/>", "The report does not match the job schema: line 1: .*other.*"},
+                {true, "/cust/job.xsd", "", "The report does not match the job schema: .+"},
                 {true, "/cust/none.xsd", fits, "The schema /cust/none\\.xsd cannot be used: .+"},
-                {true, "", "refuse", "The job has not taken the report: Job %1 is closed"},
+                {true, "", "refuse", "The job has rejected the report: Job %1 is closed"},
                 {false, "/cust/none.xsd", fits, "There is no active job"}};
         writeFile(onDisk("/cust/job.xsd"),
                 "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'><xs:element name='report' type='xs:string'/>"

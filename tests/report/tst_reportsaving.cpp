@@ -333,12 +333,12 @@ private Q_SLOTS:
 
     void namesOfNoFileAreRefused()
     {
-        const QVector<std::pair<QString, QString>> rows{{"..", "\"..\" is no name of a file."},
-                {"../../x", "The name may not have \"/\" in it."},
-                {QString("a") + QChar(QChar::Null) + "b", "The name may not have a NUL character in it."},
-                {QString(249, 'x'), "The name may have 248 characters, it has 249."},
-                {QString(86, QChar(0xe01)), "The name may have 82 characters, it has 86."},
-                {QString(16'000, 'x'), "The name may have 248 characters, it has 16000."}, {QString(248, 'x'), ""},
+        const QVector<std::pair<QString, QString>> rows{{"..", "\"..\" is not a file name."},
+                {"../../x", "The name must not contain \"/\"."},
+                {QString("a") + QChar(QChar::Null) + "b", "The name must not contain a NUL character."},
+                {QString(249, 'x'), "The name has 249 characters; the maximum is 248."},
+                {QString(86, QChar(0xe01)), "The name has 86 characters; the maximum is 82."},
+                {QString(16'000, 'x'), "The name has 16000 characters; the maximum is 248."}, {QString(248, 'x'), ""},
                 {QString(244, 'x') + ".txt", ""}, {QString("e") + QChar(0x301) + QString(246, 'x'), ""}};
         for (const auto& [name, problem] : rows) {
             const bool isSaved = problem.isEmpty();

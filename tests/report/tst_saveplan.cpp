@@ -13,11 +13,11 @@ class SavePlanTest : public QObject
 {
     Q_OBJECT
 
-    static uiutils::ReportFormats formats(const QVector<int>& values)
+    static uiutils::FormatInfos formats(const QVector<int>& values)
     {
-        uiutils::ReportFormats list;
+        uiutils::FormatInfos list;
         for (int value : values)
-            list += uiutils::reportFormat(value);
+            list += uiutils::formatInfo(value);
         return list;
     }
 

@@ -19,18 +19,18 @@ embedded    platform/reference/embedded     base contract formatters
 
 core        lib/ui_utils/core               base
 service     lib/ui_utils/service            base contract core
-instrument  lib/ui_utils/instrument         base contract core service
+instrument  lib/ui_utils/instrument         base contract core
 document    lib/ui_utils/document           base contract core
 local       lib/ui_utils/local              base contract core service
-files       lib/ui_utils/files              base contract core service instrument document
+files       lib/ui_utils/files              base contract core instrument document
 plots       lib/ui_utils/writers/plots      base contract core
 pdffile     lib/ui_utils/writers/pdffile    base core
 pages       lib/ui_utils/writers/pages      base core pdffile
-text        lib/ui_utils/writers/text       base contract core service instrument document plots
-html        lib/ui_utils/writers/html       base contract core service instrument document plots pdffile pages text
-xml         lib/ui_utils/templ2xmlwriter    base contract core service instrument document
+text        lib/ui_utils/writers/text       base contract core instrument document plots
+html        lib/ui_utils/writers/html       base contract core instrument document plots pages text
+xml         lib/ui_utils/templ2xmlwriter    base contract core instrument document
 report      lib/ui_utils/report             base contract core service instrument document local files WRITERS saving
-saving      lib/ui_utils/report/saving      base contract core service instrument document local files WRITERS report
+saving      lib/ui_utils/report/saving      base contract core instrument document files report
 module      lib/ui_utils/module             base contract LIBRARY
 
 plugin      qml/UiUtils                     LIBRARY base contract
@@ -74,10 +74,6 @@ apps/demo/tour.cpp -> base/durablefile_p.h
 apps/demo/usbstick.cpp -> base/paths_p.h
 apps/demo/usbstick.cpp -> lib/ui_utils/core/itemids_p.h
 apps/reportconvert/conversion.cpp -> platform/reference/embedded/jsonschema_p.h
-
-# A wrapper asks the manifest that its constructor takes, and the manifest makes wrappers of every kind.
-lib/ui_utils/service/kivdata.cpp -> lib/ui_utils/service/manifest_p.h
-lib/ui_utils/service/kivdatavalue.cpp -> lib/ui_utils/service/manifest.h
 """
 
 Room = collections.namedtuple("Room", "name allowed")

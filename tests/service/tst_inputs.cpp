@@ -5,6 +5,7 @@
 #include "service/inputrange_p.h"
 #include "service/inputvalidator_p.h"
 #include "service/kivdata.h"
+#include "service/valuetext_p.h"
 
 #include <kiv/baseformatter.h>
 

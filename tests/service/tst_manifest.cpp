@@ -387,7 +387,7 @@ private Q_SLOTS:
         Manifest manifest(m_client.get(), "t", "rec");
         QQmlEngine engine;
         QQmlContext context(engine.rootContext());
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("those after t_res_n32766 are left out"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Those after t_res_n32766 are left out"));
         Manifest::setQmlContext(&context);
         QCOMPARE(evaluated(&context, "t_res_n32766.value"), QVariant(32766));
         QCOMPARE(evaluated(&context, "typeof t_res_n32767"), QVariant("undefined"));

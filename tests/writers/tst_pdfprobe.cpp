@@ -250,7 +250,7 @@ private Q_SLOTS:
     void helpersThatFail_data()
     {
         addColumns<QByteArray, QString>();
-        const QString harm = "The file cannot be read without harm";
+        const QString harm = "The file is not safe to read";
         const QString hangs = "Reading the file takes too long";
         QTest::newRow("dies") << QByteArray("printf S; kill -SEGV $$") << harm;
         QTest::newRow("says nothing more") << QByteArray("printf S") << harm;
@@ -288,13 +288,13 @@ private Q_SLOTS:
 
     void whereNoHelperWasInstalledFilesPass()
     {
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^PDF files are loaded without being tried out first"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^PDF files are loaded without being tried first"));
         QString error;
         QVERIFY(PdfProbe(QString(), 1000).passes("%PDF-", &error));
         QCOMPARE(error, QString());
         for (const QString& helper : {path("absent"), m_folder.path(), script("broken", "exit 127")}) {
             QVERIFY(!PdfProbe(helper, 1000).passes("%PDF-", &error));
-            QVERIFY2(error.startsWith("The file cannot be tried out first: "), qPrintable(error));
+            QVERIFY2(error.startsWith("The file cannot be tried first: "), qPrintable(error));
         }
     }
 

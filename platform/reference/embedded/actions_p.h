@@ -5,8 +5,8 @@
 namespace kiv::embedded {
 
 // The actions that every service with a manifest has, listed or not: the manifest's id with its two words replaced.
-constexpr QLatin1String applyConfigAction("applyconfig");
-constexpr QLatin1String saveConfigAction("saveconfig");
+inline const QLatin1String applyConfigAction("applyconfig");
+inline const QLatin1String saveConfigAction("saveconfig");
 
 /// The action of that id; null when no item of the service is one.
 ItemStore::StatePtr listedAction(const ItemStore& items, const QString& id);

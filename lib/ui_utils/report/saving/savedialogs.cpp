@@ -36,12 +36,12 @@ void SaveDialogs::tell(const QString& title, const QString& text)
     refusal->setLongLabel(title);
     refusal->setMsg(text);
     refusal->setError();
-    // Those who hear that the former dialog has gone may delete whoever tells.
+    // A slot that is notified that the former dialog has closed may delete this object.
     const QPointer<KIVNotification> told(refusal.get());
     std::exchange(m_refusal, std::move(refusal)).reset();
     if (told)
         told->notifyDialog();
-    // The page may go now that the report is saved, and the dialog with it.
+    // By now a slot may have deleted the page, and the dialog with it.
     if (told)
         told->notifyTray();
 }

@@ -68,7 +68,7 @@ bool Saving::write(const QString& path, const QByteArray& contents, bool overwri
             hooks->filesChanged();
         return false;
     }
-    // The user has let go of a report of the name before it came to this.
+    // The user has released the uncompressed report of the name.
     if (isCompressed && overwrite && (QFile::remove(onDisk(path)) || !QFile::exists(onDisk(path))))
         removeReportRecord(path);
     consent.takeUp(path);
@@ -83,7 +83,7 @@ bool Saving::write(const QString& path, const QByteArray& contents, bool overwri
 bool Saving::copyToUsb(const QString& saved, bool overwrite)
 {
     const QString copy = instrument::usbPath(saved);
-    // What is saved to the stick is its own copy.
+    // A report that is saved on the USB drive is its own copy.
     const bool mayReplace = overwrite || QDir::cleanPath(saved) == copy;
     QString error;
     if (copyReportFile(saved, copy, mayReplace, &error))
@@ -92,11 +92,11 @@ bool Saving::copyToUsb(const QString& saved, bool overwrite)
     return false;
 }
 
-void Saving::recordSync(const QStringList& files, bool isSynced)
+void Saving::updateSyncList(const QStringList& files, bool isSynced)
 {
     QString error;
-    const bool isRecorded = isSynced ? removeFromNoSyncList(files, &error) : addToNoSyncList(files, &error);
-    if (isRecorded)
+    const bool isUpdated = isSynced ? removeFromNoSyncList(files, &error) : addToNoSyncList(files, &error);
+    if (isUpdated)
         return;
     if (!hooks->isAlive()) {
         qWarning("%s", qUtf8Printable(error));
@@ -119,6 +119,17 @@ bool Saving::tellProgress(bool hasChanged)
     if (hooks->isInteractive() && isBusy && progress.isPageDue())
         QCoreApplication::processEvents();
     return hooks->isAlive() && !progress.isCancelled();
+}
+
+QByteArray Saving::withProgress(const std::function<QByteArray()>& make)
+{
+    const bool isAlone = !progress.isRunning();
+    if (isAlone)
+        progress.begin(1);
+    const QByteArray contents = make();
+    if (isAlone)
+        progress.end();
+    return contents;
 }
 
 // --- Its life ---

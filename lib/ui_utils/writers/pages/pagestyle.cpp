@@ -47,7 +47,8 @@ const QImage& PageStyle::statusIcon(int status) const
     if (it == m_icons.constEnd()) {
         it = m_icons.insert(status, decodedImage(readIcon(path)));
         if (it->isNull())
-            qWarning("The status icon %s is missing or is no image of at most 1 MiB: the report is printed without it.",
+            qWarning(
+                    "The status icon %s is missing or is not an image of at most 1 MiB: the report is printed without it.",
                     qUtf8Printable(onDisk(path)));
     }
     return *it;
