@@ -120,7 +120,7 @@ public:
 
     ~RecordedClient() override { qDeleteAll(items); }
 
-    bool isValid() const override { return true; }
+    bool isValid() const override { return valid; }
     QString getServiceName() const override { return "rec"; }
     QStringList getItemIds(const QString&) const override { return items.keys(); }
     bool getItemList(const QString&, QStringList* ids) const override
@@ -145,6 +145,8 @@ public:
     }
     bool invokeAction(const QString& id) override { return record({"invoke", id, QVariant(), 0, false}); }
     QString getLastError() const override { return refusal; }
+
+    bool valid = true;
 
     /// A further item of the kind `Item`.
     template<typename Item = RecordedItem<KIVClientItem>>

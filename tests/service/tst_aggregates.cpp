@@ -247,7 +247,16 @@ private Q_SLOTS:
         relay.setService("unknown");
         Q_EMIT m_client->SigError("again");
         QCOMPARE(errors.size(), 1);
+        // One that can be reached only later is heard from then, once.
+        m_client->valid = false;
         relay.setService("rec");
+        Q_EMIT m_client->SigError("too early");
+        m_client->valid = true;
+        Q_EMIT m_client->itemsChanged();
+        Q_EMIT m_client->itemsChanged();
+        Q_EMIT m_client->SigError("in time");
+        QCOMPARE(errors.size(), 2);
+        QCOMPARE(errors.last().first(), QVariant("in time"));
         m_manifest.reset();
         m_client.reset();
         relay.setService("unknown");

@@ -98,6 +98,31 @@ private Q_SLOTS:
         QCOMPARE(live.evaluate(), QVariant("List"));
     }
 
+    /// A service in another process may start after the page, and publish more later.
+    void itemsThatComeLater()
+    {
+        QQmlEngine engine;
+        const Manifest manifest(m_client.get(), "t", "rec");
+        Manifest::setQmlContext(engine.rootContext());
+        QQmlExpression text(engine.rootContext(), nullptr, "t_cfg_a ? t_cfg_a.value : 'none'");
+        QCOMPARE(evaluated(engine.rootContext(), "typeof t_cfg_a"), QVariant("undefined"));
+
+        m_client->add(":config:rec:a:", 1);
+        m_client->list += ":result:rec:manifest:";
+        Q_EMIT m_client->itemsChanged();
+        KivData* first = Manifest::getKivData(":config:rec:a:");
+        QVERIFY(first);
+        QCOMPARE(text.evaluate(), QVariant(1));
+        m_client->add(":config:rec:b:", 2);
+        Q_EMIT m_client->itemsChanged();
+        Q_EMIT m_client->itemsChanged();
+        QCOMPARE(evaluated(engine.rootContext(), "t_cfg_a.value + t_cfg_b.value"), QVariant(3));
+        QCOMPARE(Manifest::getKivData(":config:rec:a:"), first);
+        QCOMPARE(manifest.findChildren<KivData*>().size(), 2);
+        const_cast<Manifest&>(manifest).applyChanges();
+        QCOMPARE(m_client->calls.last().id, QString(":action:rec:applyconfig:"));
+    }
+
     void aBatchOfChanges()
     {
         for (const char* name : {"plain", "mode_2", "mode_12", "a_1", "ab_1", "ab_x", "x3", "untouched"})

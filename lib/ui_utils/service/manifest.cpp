@@ -15,6 +15,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QQmlContext>
+#include <QSet>
 
 #include <algorithm>
 #include <iterator>
@@ -35,13 +36,16 @@ public:
     static const ManifestState* of(const Manifest* manifest) { return manifest->d.get(); }
 
     QVector<QPointer<KivData>> wrappers() const;
-    void registerItem(const QString& id);
+    bool registerItems();
+    bool registerItem(const QString& id);
     void bindItems();
     QString actionId(QLatin1String action) const;
     bool send(const QString& actionId, const QString& argument);
 
     QString name;
     QString manifestId;
+    /// The items that have been given wrappers.
+    QSet<QString> known;
 
 private:
     Manifest* q;
@@ -102,14 +106,7 @@ Manifest::Manifest(KIVClientInterface* client, QString const& qmlTag, QString co
     if (!client)
         return;
     connect(client, &KIVClientInterface::itemsChanged, this, [this] { d->bindItems(); });
-    QStringList ids;
-    client->getItemList(name, &ids);
-    for (const QString& id : qAsConst(ids)) {
-        if (id.endsWith(itemids::manifest))
-            d->manifestId = id;
-        else
-            d->registerItem(id);
-    }
+    d->registerItems();
 }
 
 Manifest::~Manifest()
@@ -153,11 +150,28 @@ QVector<QPointer<KivData>> ManifestPrivate::wrappers() const
     return list;
 }
 
-void ManifestPrivate::registerItem(const QString& id)
+/// Makes wrappers of the items that are not known yet. Returns whether there were any.
+bool ManifestPrivate::registerItems()
+{
+    QStringList ids;
+    client->getItemList(name, &ids);
+    // A list may name an item twice; the later wrapper counts.
+    const QSet<QString> before = known;
+    bool areNew = false;
+    for (const QString& id : qAsConst(ids)) {
+        if (id.endsWith(itemids::manifest))
+            manifestId = id;
+        else if (!before.contains(id))
+            areNew = registerItem(id) || areNew;
+    }
+    return areNew;
+}
+
+bool ManifestPrivate::registerItem(const QString& id)
 {
     KIVClientItem* item = client->getItem(id);
     if (!item)
-        return;
+        return false;
     KivData* wrapper = nullptr;
     auto* aggregate
             = item->getType() == KIVClientItem::TypeAggregate ? qobject_cast<KivAggregateClientItem*>(item) : nullptr;
@@ -170,9 +184,11 @@ void ManifestPrivate::registerItem(const QString& id)
     else
         wrapper = new KivData(item, q);
     itemregistry::enter(id, wrapper);
+    known.insert(id);
+    return true;
 }
 
-/// Follows the service when it vanishes and returns.
+/// Follows the service when it comes, vanishes and returns, and when it publishes further items.
 void ManifestPrivate::bindItems()
 {
     const QVector<QPointer<KivData>> own = wrappers();
@@ -192,6 +208,11 @@ void ManifestPrivate::bindItems()
         if (item || parts->isBound)
             parts->bindItem(item);
     }
+    if (!self || !client)
+        return;
+    // Pages that are there already learn names from a new context object.
+    if (registerItems() && Manifest::qmlContext())
+        Manifest::setQmlContext(Manifest::qmlContext());
     // What never changes while an item is available is read once, perhaps before it was available.
     if (hasReturned)
         KIVContextObject::evaluateNames();
