@@ -15,8 +15,8 @@ namespace uiutils::apps {
 
 namespace {
 
-/// What begins the names of a service's items: the last part of a name such as "com.example.test", which QML cannot
-/// spell.
+/// The beginning of the names of a service's items: the last part of a name such as "com.example.test", because QML
+/// names contain no points.
 QString tagOf(const QString& service)
 {
     return service.section(QLatin1Char('.'), -1);

@@ -19,21 +19,21 @@ namespace uiutils::apps {
 class Instrument
 {
 public:
-    /// Makes a manifest for each service that `backend` publishes. The back end has to stay.
+    /// Creates a manifest for each service that `backend` publishes. The back end must outlive this object.
     explicit Instrument(const kiv::embedded::EmbeddedBackend& backend);
     ~Instrument();
     Q_DISABLE_COPY_MOVE(Instrument)
 
-    /// Makes them known to all pages of the engine, which must not have loaded one yet and has to go before this
-    /// object.
+    /// Makes them known to all pages of the engine. The engine must not have loaded a page yet and must be destroyed
+    /// before this object.
     void showTo(QQmlEngine* engine);
 
-    /// One line for each item: its name in QML, type and value, parted by tabs.
+    /// One line for each item: its name in QML, type and value, separated by tabs.
     QStringList listing() const;
 
 private:
     QVector<Manifest*> m_manifests;
-    /// Pages may read the services and not replace them.
+    /// Pages can read the services, not replace them.
     class Services final : public QQmlPropertyMap
     {
         QVariant updateValue(const QString& key, const QVariant&) override { return value(key); }

@@ -8,9 +8,9 @@ namespace uiutils::demo {
 
 class LoopbackMeasurement;
 
-/// Lets the services "loopback_rtt" and "loopback_throughput" publish the samples of each run that finishes, with the
-/// limits of that moment, so that reports can plot them. A service that is not published is passed over. Ends with
-/// the measurement; the back end has to outlive it.
+/// Publishes the samples of each finished run through the services "loopback_rtt" and "loopback_throughput", with the
+/// limits of that moment, so that reports can plot them. A service that is not published is left out. Deleted with the
+/// measurement; the back end must outlive it.
 void publishResults(LoopbackMeasurement* measurement, const kiv::embedded::EmbeddedBackend* backend);
 
 } // namespace uiutils::demo

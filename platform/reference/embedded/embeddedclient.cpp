@@ -91,19 +91,19 @@ Outcome EmbeddedClient::call(int delayMs, int timeoutMs, const Request& request)
                 RequestTexts::tr("The service %1 cannot be reached. Try again when it runs.").arg(m_serviceName)};
     const qint64 delay = qint64(ServiceData::of(*called).delayMs) + delayMs;
     const qint64 timeout = std::max(timeoutMs, 0);
-    // The contract forbids an event loop here: the caller's page stands still, as it does on an instrument. Sleeping
-    // for no time at all would still cost a turn of the scheduler.
+    // The contract forbids an event loop here: the caller's page stands still, as it does on an instrument. Even a
+    // sleep of zero would cost a turn of the scheduler.
     if (delay > 0)
         QThread::msleep(static_cast<unsigned long>(std::min(delay, timeout)));
     if (delay <= timeout)
         return request(ServiceData::of(*called));
     carryOutLater(called, delay - timeout, request);
     return {false,
-            RequestTexts::tr("The service %1 did not answer within %2 ms. It may still do what was asked for.")
+            RequestTexts::tr("The service %1 did not answer within %2 ms. It may still carry out the request.")
                     .arg(m_serviceName, QString::number(timeout))};
 }
 
-/// A slot that heard of what was done may have deleted the client.
+/// A slot that heard of the change may have deleted the client.
 bool EmbeddedClient::remember(const QPointer<EmbeddedClient>& client, const Outcome& outcome)
 {
     if (client)

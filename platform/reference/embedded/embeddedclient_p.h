@@ -12,7 +12,7 @@ namespace kiv::embedded {
 
 class ServicePlace;
 
-/// A client's view of whatever service is published at a place; answers like an empty service while there is none.
+/// A client's view of the service that is published at a place, if any; without one it answers like an empty service.
 class EmbeddedClient final : public KIVClientInterface
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ public:
 private:
     using Request = std::function<Outcome(ServiceData&)>;
 
-    /// The service, if it can be reached.
+    /// The service; null while it cannot be reached.
     EmbeddedService* service() const;
     Outcome call(int delayMs, int timeoutMs, const Request& request) const;
     static bool remember(const QPointer<EmbeddedClient>& client, const Outcome& outcome);

@@ -16,7 +16,7 @@ namespace kiv::embedded {
 
 namespace {
 
-/// Changes a field and emits `changed` if that makes a difference.
+/// Sets a field, and emits `changed` if the value differs.
 template<class Value>
 bool change(const ItemStore::StatePtr& state, Value ItemDescription::*field, const Value& value,
         void (KIVClientItem::*changed)())
@@ -80,7 +80,7 @@ bool EmbeddedService::setValue(const QString& id, const QVariant& value)
     const ItemState::Changes changes = state->takeValue(conversion.value);
     if (changes.value && state->isKept)
         d->scheduleSave();
-    tell(state, changes);
+    emitChanges(state, changes);
     return true;
 }
 
@@ -91,7 +91,7 @@ bool EmbeddedService::setAttribute(const QString& id, const QString& name, const
         return false;
     const QString oldUnit = state->unitText();
     state->setAttribute(name, value);
-    tell(state, {false, state->unitText() != oldUnit});
+    emitChanges(state, {false, state->unitText() != oldUnit});
     return true;
 }
 
@@ -111,7 +111,7 @@ bool EmbeddedService::setUnit(const QString& id, const QString& unit)
         return false;
     const QString oldUnit = state->unitText();
     state->description.unit = unit;
-    tell(state, {false, state->unitText() != oldUnit});
+    emitChanges(state, {false, state->unitText() != oldUnit});
     return true;
 }
 
@@ -141,7 +141,7 @@ bool EmbeddedService::setChoices(const QString& id, const QVector<ChoiceDescript
     QVector<ChoiceDescription>& old = state->description.choices;
     if (std::equal(old.cbegin(), old.cend(), choices.cbegin(), choices.cend(), isSameChoice))
         return true;
-    // An enumeration stays one when its last choice goes.
+    // An enumeration stays one when its last choice is removed.
     state->description.isEnumeration = true;
     old = choices;
     if (state->item)
