@@ -87,7 +87,7 @@ int runDemo(const DemoOptions& options)
     say(Texts::tr("Everything is written below %1").arg(options.root));
 
     registerDemoTypes();
-    // The pages draw their own controls on top of this style; another one would show through.
+    // The pages draw their own controls over this style; another style would show through.
     qputenv("QT_QUICK_CONTROLS_STYLE", "Default");
     const bool isOffScreen = DisplaySetup::isOffScreen();
     if (isOffScreen)
@@ -135,7 +135,7 @@ int main(int argc, char** argv)
     if (const auto exitCode = exitCodeOf(options))
         return *exitCode;
 
-    // What the library notes for its developers is no business of a user, who may ask for it by QT_LOGGING_RULES.
+    // The library's notes for developers do not concern users, who may enable them by QT_LOGGING_RULES.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     const DisplaySetup display;
     const QGuiApplication application(argc, argv);

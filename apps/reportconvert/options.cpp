@@ -16,7 +16,7 @@ Options misused(const QString& message)
     return apps::ended<Options>(apps::misused(message));
 }
 
-/// The rows of the format table as the help shows them.
+/// The rows of the format table for the help.
 QString formatHelp()
 {
     QString text;
@@ -28,7 +28,7 @@ QString formatHelp()
     return text;
 }
 
-/// In the shape that help2man reads: the parser's own text has no sections for exit status and examples.
+/// In the form that help2man reads: the parser's own text has no sections for exit status and examples.
 QString helpText()
 {
     return Texts::tr(R"(Usage: reportconvert [OPTION]... DOCUMENT...
@@ -36,19 +36,19 @@ Convert report documents of the instrument (JSON) to HTML, PDF, XML, JSON or
 plain text.
 
 A DOCUMENT is a file of up to 16 MiB, or "-" for standard input. Each is
-converted by itself: one that fails is named and does not stop the others. A
-file is replaced only by a whole new one, and a document never by its own
-output.
+converted separately: one that fails is named and does not stop the others.
+Existing files are replaced only by complete ones, and a document never by its
+own output.
 
 Options:
   -f, --format=FORMAT    write FORMAT; may be given more than once, and may be
-                         left out when the suffix of OUTPUT tells it:
+                         left out when OUTPUT has the suffix of one:
 %1                           all    every format
-  -o, --output=OUTPUT    where to write: a folder (made when OUTPUT ends in "/";
-                         default: the current one), which gets a file with the
-                         document's name and the format's suffix, "report" for
-                         standard input; or, for one document and one format,
-                         a file, or "-" for standard output
+  -o, --output=OUTPUT    where to write: a folder (created when OUTPUT ends in
+                         "/"; default: the current one), which gets a file with
+                         the document's name and the format's suffix, "report"
+                         for standard input; or, for one document and one
+                         format, a file, or "-" for standard output
   -s, --services=FOLDER  fill the tables about unit, user and job, and the
                          plots, from the service files in FOLDER; may be given
                          more than once or with colons; without it those tables
@@ -73,12 +73,12 @@ Exit status:
   1      one or more could not be read or written; the messages say which
   2      the command line is wrong, or would have one file written twice or a
          document overwritten; nothing was written
-  128+N  stopped by signal N; files that were written are whole
+  128+N  stopped by signal N; files that were written are complete
 
 Environment:
   UIUTILS_ROOT  folder of status icons (base/qml/common/images) and temporary
                 plot images (tmp) in place of the program's own temporary one
-  TMPDIR        where that temporary folder is made
+  TMPDIR        where that temporary folder is created
 
 Examples:
   reportconvert --format html report.json
@@ -93,7 +93,7 @@ Examples:
             .arg(formatHelp());
 }
 
-/// Appends the formats that `name` stands for; false when there is none.
+/// Appends the formats that `name` stands for; false if there is none.
 bool addFormats(const QString& name, QVector<const Format*>* formats)
 {
     if (name == everyFormat) {

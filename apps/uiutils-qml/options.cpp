@@ -42,7 +42,8 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption picture(QStringLiteral("grab"),
             Texts::tr("Write a picture of the page to <file> (PNG) and quit."), Texts::tr("file"));
     const QCommandLineOption list(QStringLiteral("list"),
-            Texts::tr("List the items, one on a line: name in QML, type and value, parted by tabs. Needs no page."));
+            Texts::tr("List the items, one on each line: name in QML, type and value, separated by tabs. Needs no "
+                      "page."));
     parser.addOptions({services, imports, root, picture, list});
 
     const apps::CommandLine line = apps::parse(parser, arguments);

@@ -27,7 +27,7 @@ inline KIVNotificationModelManager* manager()
     return KIVNotificationModelManager::instance();
 }
 
-/// What the dialog that shows is about, and what it says.
+/// Title and text of the open dialog.
 inline QString dialogTitle()
 {
     return manager()->currentDialog() ? manager()->currentDialog()->longLabel() : QString();
@@ -37,13 +37,13 @@ inline QString dialogText()
     return manager()->currentDialog() ? manager()->currentDialog()->msg() : QString();
 }
 
-/// JSON text with ' for ".
+/// JSON text with ' in place of ".
 inline QByteArray json(QByteArray text)
 {
     return text.replace('\'', '"');
 }
 
-/// A derived controller that notes when it is called.
+/// A derived controller that logs its calls.
 class Controller : public Report
 {
 public:
@@ -74,7 +74,7 @@ public:
         getSetting("reportName")->setValue(name);
         getSetting("reportFormat")->setValue(format);
     }
-    /// Saves again when the user lets it overwrite.
+    /// Saves again when the user agrees to the replacement.
     void saveOnYes()
     {
         connect(this, &Report::reportOverwriteAccepted, this, [this] { answers << save(true); });
@@ -109,7 +109,7 @@ protected:
     void overwriteDeclined(const QString&) override { calls << "declined"; }
 
 private:
-    /// The controller may be gone afterwards.
+    /// The controller may have been deleted afterwards.
     template<typename Contents>
     Contents made(Contents contents)
     {
@@ -119,7 +119,7 @@ private:
     }
 };
 
-/// An instrument of its own, with a base manager, for each test.
+/// A new instrument with a base manager for each test.
 class ReportFixture : public QObject
 {
     Q_OBJECT
@@ -132,7 +132,7 @@ protected:
     QStringList names(const QString& folder) const { return namesIn(onDisk(folder)); }
     QString listFile() const { return onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"); }
     kiv::embedded::EmbeddedService* basemgr() const { return m_backend->service("basemgr"); }
-    /// Where reports go, and whether a stick is told of and is there.
+    /// Where reports are saved, and whether a USB drive is reported and exists.
     void plug(int location, bool isAnnounced = true, bool isMounted = true)
     {
         QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));

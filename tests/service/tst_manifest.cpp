@@ -11,7 +11,7 @@
 #include <array>
 #include <memory>
 
-/// The registry of the process, the transaction, and the names that QML knows.
+/// The registry of the process, the transaction, and the names in QML.
 class ManifestTest : public QObject
 {
     Q_OBJECT
@@ -67,7 +67,7 @@ private Q_SLOTS:
         const KivData* latest = Manifest::getKivData(id);
         QVERIFY(latest && latest != firstWrapper && latest->parent() == third.get());
         QCOMPARE(live.evaluate().value<KivData*>(), latest);
-        // The one before takes the entry over, and the names with it.
+        // The previous wrapper takes over the entry, and the names with it.
         second.reset();
         QCOMPARE(Manifest::getKivData(id), latest);
         const QSignalSpy changes(&live, &QQmlExpression::valueChanged);
@@ -80,7 +80,7 @@ private Q_SLOTS:
         QCOMPARE(Manifest::getKivIds("shared", ""), QStringList {id});
     }
 
-    /// Labels, limits and choices never change while an item is there, and so are read once.
+    /// Labels, limits and choices never change while an item exists, and are therefore read once.
     void namesAreLookedUpAgainWhenTheServiceIsBack()
     {
         m_client->add(":config:rec:list:doubleARRAY:");
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(sentChanges(*m_client).size(), 2);
     }
 
-    void aRefusedBatchStaysPending()
+    void aRejectedBatchStaysPending()
     {
         m_client->add(":config:rec:a:", 0);
         m_client->add(":config:rec:b:", 0);
@@ -186,7 +186,7 @@ private Q_SLOTS:
         Manifest other(&otherClient, "", "rec");
         QSignalSpy errors(Manifest::getKivData(":config:rec:a:"), &KivData::errorChanged);
         QSignalSpy others(Manifest::getKivData(":config:rec:b:"), &KivData::errorChanged);
-        // Another service's setting travels along, and what refused it is not that service.
+        // Another service's setting is sent along, and the rejection does not come from that service.
         KivData* elsewhere = Manifest::getKivData(":config:rec:elsewhere:");
         const QSignalSpy errorsElsewhere(elsewhere, &KivData::errorChanged);
         manifest.startChanges();
@@ -207,7 +207,7 @@ private Q_SLOTS:
         manifest.applyChanges();
         QCOMPARE(sentChanges(*m_client).value("a").toInt(), 1);
 
-        // The service may have the page end the manifest before it refuses.
+        // The service may make the page delete the manifest before it rejects.
         elsewhere->setValue(3);
         m_client->refusal = "too late";
         m_client->onSend = [&] { owner.reset(); };
@@ -220,7 +220,7 @@ private Q_SLOTS:
         m_client->add(":config:rec:a:", 5);
         Manifest manifest(m_client.get(), "", "rec");
         KivData* a = Manifest::getKivData(":config:rec:a:");
-        // The service has nothing to report of a value that it had already.
+        // The service has nothing to report about a value that it already had.
         manifest.startChanges();
         a->setValue(6);
         a->setValue(5);
@@ -264,11 +264,11 @@ private Q_SLOTS:
         QCOMPARE(sentChanges(*m_client).value("level").toInt(), 10);
     }
 
-    /// A page of the first may hold its wrapper still.
+    /// A page of the first may still hold its wrapper.
     void ofTwoManifestsBothHavePendingChanges()
     {
         m_client->add(":config:rec:a:", 1);
-        // Written to the first and to the second, sent, and held by the first then; 0 is nothing.
+        // Written to the first and to the second, sent, and then held by the first; 0 is nothing.
         for (const auto& [one, two, sent, held] : {std::array {5, 0, 5, 5}, {5, 6, 6, 1}, {5, 0, 0, 1}, {5, 6, 0, 1}}) {
             Manifest first(m_client.get(), "", "rec");
             Manifest second(m_client.get(), "", "rec");
@@ -303,7 +303,7 @@ private Q_SLOTS:
         manifest.startChanges();
         a->setValue(10);
         b->setValue(20);
-        // Whoever hears of the first item's return may write it for good, and take the second one away.
+        // A slot that hears of the first item's return may write it permanently, and remove the second one.
         connect(a, &KivData::valueChanged, this, [&] {
             QVERIFY(!manifest.isChanging());
             other.reset();
@@ -372,7 +372,7 @@ private Q_SLOTS:
         Manifest::setQmlContext(context);
         manifest.reset();
         QVERIFY(evaluated(context, "t_cfg_a === null").toBool());
-        // A new context object leaves out what is gone.
+        // A new context object leaves out removed items.
         Manifest::setQmlContext(context);
         QCOMPARE(evaluated(context, "typeof t_cfg_a"), QVariant("undefined"));
         engine.reset();
@@ -381,7 +381,8 @@ private Q_SLOTS:
         QVERIFY(Manifest::getKivData(":config:rec:a:")->isApplicable());
     }
 
-    /// Contexts and choices come and go at the same addresses; what QML learnt of one must not be taken for the next.
+    /// Contexts and choices are created again at the same addresses; what QML learnt of one must not be used for the
+    /// next.
     void namesThatComeAndGo()
     {
         QQmlEngine engine;

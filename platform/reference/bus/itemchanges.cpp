@@ -119,7 +119,7 @@ Told take(const ItemChange& change)
 /// Anything may be gone after each signal but what the state holds.
 void tell(const Told& told)
 {
-    embedded::tell(told.state, {told.value, told.unit});
+    embedded::emitChanges(told.state, {told.value, told.unit});
     const auto emitIf = [&](bool isTold, void (KIVClientItem::*signal)()) {
         if (isTold && told.state->item)
             Q_EMIT(told.state->item->*signal)();

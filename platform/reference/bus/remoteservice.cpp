@@ -423,7 +423,7 @@ Outcome RemoteService::call(const Message& message, int timeoutMs)
         return {false, reply.errorText()};
     onTimeout();
     return {false,
-            BusTexts::tr("The service %1 did not answer within %2 ms. It may still do what was asked for.")
+            BusTexts::tr("The service %1 did not answer within %2 ms. It may still carry out the request.")
                     .arg(m_name, QString::number(std::max(timeoutMs, 0)))};
 }
 
