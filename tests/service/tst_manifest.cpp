@@ -61,6 +61,8 @@ private Q_SLOTS:
         KivData* firstWrapper = Manifest::getKivData(id);
         auto second = std::make_unique<Manifest>(m_client.get(), "t", "rec");
         auto third = std::make_unique<Manifest>(m_client.get(), "t", "rec");
+        // A fourth one that is deleted at once: of the three before it, the latest has the entry again.
+        delete new Manifest(m_client.get(), "t", "rec");
         Manifest::setQmlContext(engine.rootContext());
         QQmlExpression live(engine.rootContext(), nullptr, "t_cfg_shared");
         live.setNotifyOnValueChanged(true);

@@ -38,7 +38,7 @@ QString shownPath(const QString& path)
     // Without a slash at the end, because the folders themselves are shown too.
     const QLatin1String internal("/cust/public");
     const QLatin1String usb("/mnt/usb");
-    const QString plain = withoutClipboardMark(path);
+    QString plain = withoutClipboardMark(path);
     if (plain.startsWith(internal))
         return QCoreApplication::translate("FileUtils", "Internal:") + plain.mid(internal.size());
     if (plain.startsWith(usb))

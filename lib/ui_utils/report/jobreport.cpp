@@ -29,7 +29,7 @@ QString schemaProblem(const QByteArray& xml, const QString& schemaPath)
 }
 
 /// Attaches the report. Why the base manager has rejected it; empty if it has not.
-QString refusal(const QByteArray& xml)
+QString rejection(const QByteArray& xml)
 {
     KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
     if (!client || !instrument::isJobActive())
@@ -48,7 +48,7 @@ bool attachToJob(const QByteArray& xml, const QString& schemaPath, QString* reas
     if (instrument::isJobActive())
         problem = schemaProblem(xml, schemaPath);
     if (problem.isEmpty())
-        problem = refusal(xml);
+        problem = rejection(xml);
     if (reason)
         *reason = problem;
     return problem.isEmpty();

@@ -154,7 +154,7 @@ bool Report::writePDFReport(const QString& path, bool overwrite)
     if (!pages.isEmpty())
         return saving->mayWrite({path}, overwrite) && saving->write(path, pages, overwrite);
     if (!saving->progress.isCancelled())
-        saving->dialogs.tellWriteError(path, QStringLiteral("there are no pages"));
+        saving->dialogs.notifyWriteError(path, QStringLiteral("there are no pages"));
     return false;
 }
 
@@ -277,7 +277,7 @@ void Report::writeNoSyncListToFile(const QStringList& noSync_fileList)
     const auto saving = d->saving;
     QString error;
     if (!uiutils::replaceNoSyncList(noSync_fileList, &error))
-        saving->dialogs.tellSyncError(tr("The list of reports that are not synced was not changed."), error);
+        saving->dialogs.notifySyncError(tr("The list of reports that are not synced was not changed."), error);
 }
 
 QStringList Report::syncedReports() const
@@ -341,7 +341,7 @@ bool Report::writeToJobManager()
     else
         isAttached = uiutils::attachToJob(generateJobManagerReport().toUtf8(), d->jobSchema, &reason);
     if (self && !isAttached)
-        saving->dialogs.tell(tr("Job Manager"), reason);
+        saving->dialogs.notify(tr("Job Manager"), reason);
     return isAttached;
 }
 

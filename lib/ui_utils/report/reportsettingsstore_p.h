@@ -14,7 +14,7 @@ namespace uiutils {
 using ReportSettings = QMap<QString, UiData*>;
 
 /// In bytes. A larger file was not written here.
-constexpr qint64 largestReportSettings = 1024 * 1024;
+constexpr qint64 largestReportSettings = qint64(1024) * 1024;
 
 /// The instrument path of the file for a folder of reports.
 QString reportSettingsPath(const QString& folder);

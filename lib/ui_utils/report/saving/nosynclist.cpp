@@ -31,7 +31,7 @@ const char lineFeed = '\n';
 /// Milliseconds to wait for others, who hold the list for as long as the disk takes to write it. The screens wait, too.
 constexpr int lockPatience = 500;
 /// How often the base manager is notified again because somebody has changed the list meanwhile.
-constexpr int mostTellings = 10;
+constexpr int maximumNotices = 10;
 
 /// The paths as they are on the disk: some would not survive being turned into text and back.
 using Lines = QByteArrayList;
@@ -105,7 +105,7 @@ Lines withoutDuplicates(const Lines& lines)
 }
 
 /// The process that wrote the list may have been killed before it notified the base manager.
-bool isTold(const Lines& lines)
+bool isKnown(const Lines& lines)
 {
     const KIVClientItem* item = instrument::baseManagerItem(itemids::noSyncList);
     return !item || item->getValue().toStringList() == textsOf(lines);
@@ -113,12 +113,12 @@ bool isTold(const Lines& lines)
 
 /// Called after the lock is released, because those who are notified may change the list themselves. Whatever the order
 /// of the processes, the last one to notify sends what the list contains.
-void tellBaseManager()
+void notifyBaseManager()
 {
     KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
     QString error;
     std::optional<Lines> lines = client ? read(&error) : std::nullopt;
-    for (int i = 0; lines && i < mostTellings; ++i) {
+    for (int i = 0; lines && i < maximumNotices; ++i) {
         client->setItem(itemids::noSyncList, textsOf(*lines));
         std::optional<Lines> now = read(&error);
         if (now == lines)
@@ -146,12 +146,12 @@ bool edit(const Change& change, Former need, QString* error)
         if (!former)
             qWarning("%s; it is replaced", qUtf8Printable(*error));
         const Lines now = change(former.value_or(Lines()));
-        if (now == former && isTold(now))
+        if (now == former && isKnown(now))
             return true;
         if (now != former && !write(now, error))
             return false;
     }
-    tellBaseManager();
+    notifyBaseManager();
     return true;
 }
 

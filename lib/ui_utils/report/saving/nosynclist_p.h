@@ -13,7 +13,7 @@
 namespace uiutils {
 
 /// In bytes; no function here makes the list larger.
-constexpr qint64 largestNoSyncList = 1024 * 1024;
+constexpr qint64 largestNoSyncList = qint64(1024) * 1024;
 
 /// In one edit. Leaves out the path of a record if it is also that of an existing JSON report that is synced.
 bool addToNoSyncList(const QStringList& paths, QString* error);

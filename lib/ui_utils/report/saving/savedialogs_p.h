@@ -21,21 +21,21 @@ public:
     void endSave();
 
     /// The report at `path` could not be written: the user reads where, the log has the reason.
-    void tellWriteError(const QString& path, const QString& reason);
+    void notifyWriteError(const QString& path, const QString& reason);
     /// Notifies the user of an error, in a dialog and in the tray.
-    void tell(const QString& title, const QString& text);
+    void notify(const QString& title, const QString& text);
     /// Notifies the user that the list of reports that are not synced could not be changed: what follows from that, and
     /// why. The log has the reason in any case.
-    void tellSyncError(const QString& consequence, const QString& reason);
+    void notifySyncError(const QString& consequence, const QString& reason);
 
     /// Closes all dialogs while everything is still valid for those who are notified of that.
     void close();
 
 private:
     std::unique_ptr<FileUtils> m_errors = std::make_unique<FileUtils>();
-    std::unique_ptr<KIVNotification> m_refusal;
+    std::unique_ptr<KIVNotification> m_error;
     std::optional<bool> m_isFirstError;
-    bool m_isSyncErrorTold = false;
+    bool m_isSyncErrorShown = false;
 };
 
 } // namespace uiutils

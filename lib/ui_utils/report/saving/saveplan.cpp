@@ -51,7 +51,7 @@ QString planProblem(const QString& name, const FormatChoice& choice, bool compre
     if (choice.formats.isEmpty())
         return noFormat(choice);
     for (const FormatInfo* format : choice.formats) {
-        const QString problem = nameProblem(name, format->suffix, compressed);
+        QString problem = nameProblem(name, format->suffix, compressed);
         if (!problem.isEmpty())
             return problem;
     }

@@ -76,7 +76,7 @@ bool SaveRun::takeName()
     if (!hooks().isAlive())
         return false;
     if (!problem.isEmpty()) {
-        m_saving->dialogs.tell(ReportTexts::tr("Write Error"), problem);
+        m_saving->dialogs.notify(ReportTexts::tr("Write Error"), problem);
         return false;
     }
     hooks().started(m_plan.name);

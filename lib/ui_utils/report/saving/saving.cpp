@@ -63,7 +63,7 @@ bool Saving::write(const QString& path, const QByteArray& contents, bool overwri
         const bool isStray = !file.path.isEmpty();
         if (isStray)
             strays += file.path;
-        dialogs.tellWriteError(path, file.error);
+        dialogs.notifyWriteError(path, file.error);
         if (isStray)
             hooks->filesChanged();
         return false;
@@ -88,7 +88,7 @@ bool Saving::copyToUsb(const QString& saved, bool overwrite)
     QString error;
     if (copyReportFile(saved, copy, mayReplace, &error))
         return true;
-    dialogs.tellWriteError(copy, error);
+    dialogs.notifyWriteError(copy, error);
     return false;
 }
 
@@ -107,7 +107,7 @@ void Saving::updateSyncList(const QStringList& files, bool isSynced)
         shown += instrument::shownPath(file);
     const QString consequence = isSynced ? ReportTexts::tr("%1 is still on the list of reports that are not synced.")
                                          : ReportTexts::tr("The cloud may take %1, although it is not to be synced.");
-    dialogs.tellSyncError(consequence.arg(shown.join(QLatin1String(", "))), error);
+    dialogs.notifySyncError(consequence.arg(shown.join(QLatin1String(", "))), error);
 }
 
 // --- Progress ---
@@ -126,7 +126,7 @@ QByteArray Saving::withProgress(const std::function<QByteArray()>& make)
     const bool isAlone = !progress.isRunning();
     if (isAlone)
         progress.begin(1);
-    const QByteArray contents = make();
+    QByteArray contents = make();
     if (isAlone)
         progress.end();
     return contents;

@@ -43,8 +43,8 @@ const QImage& PageStyle::statusIcon(int status) const
     const QLatin1String path = statusIconPath(status);
     if (path.isEmpty())
         return none;
-    auto it = m_icons.constFind(status);
-    if (it == m_icons.constEnd()) {
+    auto it = m_icons.find(status);
+    if (it == m_icons.end()) {
         it = m_icons.insert(status, decodedImage(readIcon(path)));
         if (it->isNull())
             qWarning(

@@ -37,7 +37,7 @@ bool statusOf(const QString& path, struct stat* status)
 
 /// Why the file is not to be read. Checked before it is opened, because opening a pipe waits, and opening a device may
 /// have effects.
-QString refusalOf(const QString& path)
+QString rejectionOf(const QString& path)
 {
     struct stat status = {};
     if (path.contains(QChar(QChar::Null)))
@@ -55,7 +55,7 @@ QString refusalOf(const QString& path)
 QByteArray read(const QString& path, const QDeadlineTimer& deadline, QString* error)
 {
     constexpr int portion = 1024 * 1024;
-    *error = refusalOf(path);
+    *error = rejectionOf(path);
     QFile file(path);
     QByteArray contents;
     if (!error->isEmpty())
