@@ -16,6 +16,14 @@ DemoOptions misused(const QString& message)
     return apps::ended<DemoOptions>(apps::misused(message));
 }
 
+QString description()
+{
+    return Texts::tr("Measures TCP over this machine's loopback interface and saves a report of it, the way a test "
+                     "application of the instrument does.\n"
+                     "With a display a window opens. Without one, or with --tour, the program runs by itself.\n\n"
+                     "Exit status: 0 done, 1 failed, 2 wrong command line.");
+}
+
 } // namespace
 
 DemoOptions readOptions(const QStringList& arguments)
@@ -23,11 +31,7 @@ DemoOptions readOptions(const QStringList& arguments)
     const QString ownRoot = apps::defaultRoot(QStringLiteral("uiutils-demo"));
     const QStringList ownServices = apps::defaultServiceFolders();
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-            Texts::tr("Measures TCP over this machine's loopback interface and saves a report of it, the way a test "
-                      "application of the instrument does.\n"
-                      "With a display a window opens. Without one, or with --tour, the program runs by itself.\n\n"
-                      "Exit status: 0 done, 1 failed, 2 wrong command line."));
+    parser.setApplicationDescription(description());
     const QCommandLineOption root(QStringLiteral("root"),
             Texts::tr("Keep everything that is written below <folder> (default: %1).").arg(ownRoot),
             Texts::tr("folder"), ownRoot);

@@ -23,6 +23,12 @@ QString titleOf(const QString& asked, const QString& file)
     return title.isEmpty() ? QFileInfo(file).fileName() : title;
 }
 
+QString description()
+{
+    return Texts::tr("Shows a PDF file, also one that is compressed (.pdf.gz), on a touch screen or in a window.\n\n"
+                     "Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.");
+}
+
 } // namespace
 
 Options readOptions(const QStringList& arguments)
@@ -31,9 +37,7 @@ Options readOptions(const QStringList& arguments)
     QCommandLineParser parser;
     // Words after one hyphen, as Qt has them for its plug-ins.
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.setApplicationDescription(
-            Texts::tr("Shows a PDF file, also one that is compressed (.pdf.gz), on a touch screen or in a window.\n\n"
-                      "Exit status: 0 done, 1 the file could not be shown, 2 wrong command line."));
+    parser.setApplicationDescription(description());
     parser.addPositionalArgument(
             QStringLiteral("file"), Texts::tr("The PDF file to show."), QStringLiteral("file.pdf"));
     const QCommandLineOption density(QStringLiteral("dpy"),

@@ -116,61 +116,96 @@ QStringList splitFolders(const QStringList& values)
     return values.join(QLatin1Char(':')).split(QLatin1Char(':'), Qt::SkipEmptyParts);
 }
 
+QCommandLineOption named(const char* shortName, const char* longName, const char* value)
+{
+    return QCommandLineOption({QLatin1String(shortName), QLatin1String(longName)}, {}, QLatin1String(value));
+}
+
+/// The options that the parser knows; helpText() describes them.
+struct KnownOptions
+{
+    const QCommandLineOption format = named("f", "format", "FORMAT");
+    const QCommandLineOption output = named("o", "output", "OUTPUT");
+    const QCommandLineOption services = named("s", "services", "FOLDER");
+    const QCommandLineOption title {QStringLiteral("title"), {}, QStringLiteral("TEXT")};
+    const QCommandLineOption logo {QStringLiteral("logo"), {}, QStringLiteral("FILE")};
+    const QCommandLineOption noLogo {QStringLiteral("no-logo")};
+    const QCommandLineOption orientation {QStringLiteral("orientation"), {}, QStringLiteral("WAY")};
+    const QCommandLineOption unitId {QStringLiteral("unit-id"), {}, QStringLiteral("TEXT")};
+    const QCommandLineOption strict {QStringLiteral("strict")};
+};
+
+// Each reads a part of the options. It returns what is wrong with the command line, or an empty text.
+
+QString readDocuments(const QCommandLineParser& parser, const KnownOptions&, Options* options)
+{
+    options->documents = parser.positionalArguments();
+    if (options->documents.isEmpty())
+        return Texts::tr("No document is given; \"-\" reads one from standard input.");
+    if (options->documents.contains(QString()))
+        return Texts::tr("The name of a document is empty.");
+    return QString();
+}
+
+QString readFormats(const QCommandLineParser& parser, const KnownOptions& known, Options* options)
+{
+    const QStringList formats = parser.values(known.format);
+    for (const QString& name : formats) {
+        if (!addFormats(name, &options->formats))
+            return Texts::tr("There is no format \"%1\", only %2 and all.").arg(name, formatNames());
+    }
+    return QString();
+}
+
+QString readPlaces(const QCommandLineParser& parser, const KnownOptions& known, Options* options)
+{
+    options->output = parser.isSet(known.output) ? parser.value(known.output) : QStringLiteral(".");
+    if (options->output.isEmpty())
+        return Texts::tr("--output needs the name of a folder or file, or \"-\".");
+    options->serviceFolders = splitFolders(parser.values(known.services));
+    if (parser.isSet(known.services) && options->serviceFolders.isEmpty())
+        return Texts::tr("--services needs the name of a folder.");
+    return QString();
+}
+
+QString readPage(const QCommandLineParser& parser, const KnownOptions& known, Options* options)
+{
+    if (parser.isSet(known.logo) && parser.isSet(known.noLogo))
+        return Texts::tr("--logo and --no-logo cannot be used together.");
+    if (parser.isSet(known.logo) && parser.value(known.logo).isEmpty())
+        return Texts::tr("--logo needs the name of a picture file.");
+    if (parser.isSet(known.orientation) && !isOrientation(parser.value(known.orientation)))
+        return Texts::tr("There is no orientation \"%1\", only portrait and landscape.")
+                .arg(parser.value(known.orientation));
+    if (parser.isSet(known.title))
+        options->page.title = parser.value(known.title);
+    options->page.hasLogo = !parser.isSet(known.noLogo);
+    options->page.logoFile = parser.value(known.logo);
+    options->page.orientation = parser.value(known.orientation);
+    options->page.unitId = parser.value(known.unitId);
+    return QString();
+}
+
 } // namespace
 
 Options readOptions(const QStringList& arguments)
 {
+    const KnownOptions known;
     QCommandLineParser parser;
-    const auto named = [](const char* shortName, const char* longName, const char* value = nullptr) {
-        return QCommandLineOption({QLatin1String(shortName), QLatin1String(longName)}, {}, QLatin1String(value));
-    };
-    const QCommandLineOption format = named("f", "format", "FORMAT");
-    const QCommandLineOption output = named("o", "output", "OUTPUT");
-    const QCommandLineOption services = named("s", "services", "FOLDER");
-    const QCommandLineOption title(QStringLiteral("title"), {}, QStringLiteral("TEXT"));
-    const QCommandLineOption logo(QStringLiteral("logo"), {}, QStringLiteral("FILE"));
-    const QCommandLineOption noLogo(QStringLiteral("no-logo"));
-    const QCommandLineOption orientation(QStringLiteral("orientation"), {}, QStringLiteral("WAY"));
-    const QCommandLineOption unitId(QStringLiteral("unit-id"), {}, QStringLiteral("TEXT"));
-    const QCommandLineOption strict(QStringLiteral("strict"));
-    parser.addOptions({format, output, services, title, logo, noLogo, orientation, unitId, strict});
-
+    parser.addOptions({known.format, known.output, known.services, known.title, known.logo, known.noLogo,
+            known.orientation, known.unitId, known.strict});
     const QString version = QStringLiteral("reportconvert (uiutils) %1\n").arg(QCoreApplication::applicationVersion());
     const apps::CommandLine line = apps::parse(parser, arguments, {helpText(), version});
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);
 
     Options options;
-    options.documents = parser.positionalArguments();
-    if (options.documents.isEmpty())
-        return misused(Texts::tr("No document is given; \"-\" reads one from standard input."));
-    if (options.documents.contains(QString()))
-        return misused(Texts::tr("The name of a document is empty."));
-    const QStringList formats = parser.values(format);
-    for (const QString& name : formats) {
-        if (!addFormats(name, &options.formats))
-            return misused(Texts::tr("There is no format \"%1\", only %2 and all.").arg(name, formatNames()));
+    for (const auto read : {readDocuments, readFormats, readPlaces, readPage}) {
+        const QString problem = read(parser, known, &options);
+        if (!problem.isEmpty())
+            return misused(problem);
     }
-    options.output = parser.isSet(output) ? parser.value(output) : QStringLiteral(".");
-    if (options.output.isEmpty())
-        return misused(Texts::tr("--output needs the name of a folder or file, or \"-\"."));
-    options.serviceFolders = splitFolders(parser.values(services));
-    if (parser.isSet(services) && options.serviceFolders.isEmpty())
-        return misused(Texts::tr("--services needs the name of a folder."));
-    if (parser.isSet(title))
-        options.page.title = parser.value(title);
-    options.page.hasLogo = !parser.isSet(noLogo);
-    if (parser.isSet(logo) && parser.isSet(noLogo))
-        return misused(Texts::tr("--logo and --no-logo cannot be used together."));
-    if (parser.isSet(logo) && parser.value(logo).isEmpty())
-        return misused(Texts::tr("--logo needs the name of a picture file."));
-    options.page.logoFile = parser.value(logo);
-    if (parser.isSet(orientation) && !isOrientation(parser.value(orientation)))
-        return misused(Texts::tr("There is no orientation \"%1\", only portrait and landscape.")
-                               .arg(parser.value(orientation)));
-    options.page.orientation = parser.value(orientation);
-    options.page.unitId = parser.value(unitId);
-    options.isStrict = parser.isSet(strict);
+    options.isStrict = parser.isSet(known.strict);
     return options;
 }
 

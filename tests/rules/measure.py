@@ -15,6 +15,7 @@ import includegraph  # noqa: E402
 import includerule  # noqa: E402
 
 LITERAL = re.compile(r'"(?:\\.|[^"\\\n])*"|(?<![0-9A-Fa-f])\'(?:\\.|[^\'\\\n])*\'')
+RAW_LITERAL = re.compile(r'R"(\w*)\(.*?\)\1"', re.DOTALL)
 # What precedes a brace that does not open a function.
 NO_FUNCTION = re.compile(r"(?:^|[^\w])(?:namespace|class|struct|union|enum|extern)\b[^()]*$|[=,]\s*$|^\s*$")
 INITIALIZER = re.compile(r"[)\s]:[^:].*[\w>]\s*$", re.DOTALL)
@@ -22,7 +23,7 @@ INITIALIZER = re.compile(r"[)\s]:[^:].*[\w>]\s*$", re.DOTALL)
 
 def plain(text):
     """The code without comments and texts, so that every brace counts."""
-    code = LITERAL.sub('""', includegraph.without_comments(text))
+    code = LITERAL.sub('""', RAW_LITERAL.sub('""', includegraph.without_comments(text)))
     return re.sub(r"^[ \t]*#(?:.*\\\n)*.*$", "", code, flags=re.MULTILINE)
 
 
