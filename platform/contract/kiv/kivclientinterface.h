@@ -13,6 +13,7 @@ class KIVClientItem;
 /// It is a plain QObject on every back end, whatever transports the calls. **Ownership**: a client belongs to the back
 /// end, or to the parent that was given, and is deleted with the back end at the latest. It outlives its service: while
 /// the service is away it answers like a client of an empty service, and it is valid again when the service returns.
+/// A back end that finds its services in other processes also gives clients of services that have not started yet.
 ///
 /// **Blocking**: setItem(), sendAction() and invokeAction() wait for the service's answer, at most for the stated time,
 /// and run no event loop meanwhile. A later answer is discarded; what the service then does is reported by its items as
@@ -29,12 +30,13 @@ public:
     ~KIVClientInterface() override;
 
     /// The client of the base manager, the service that knows the unit, its user and its job. Null when no back end is
-    /// registered or the base manager is not published. Every call returns the same object.
+    /// registered, or when the back end knows that there is no base manager. Every call returns the same object.
     static KIVClientInterface* getBaseMgrClient();
 
-    /// A client of the service that is published under that name. Null without a back end or such a service. With a
-    /// parent the caller gets a client of its own, which is deleted with the parent; without one it gets the shared
-    /// client.
+    /// A client of the service of that name. Null without a back end, for a name that no service can have, and when the
+    /// back end knows that there is no such service. Where the service may still come, the client waits for it: it is
+    /// not valid until then. With a parent the caller gets a client of its own, which is deleted with the parent;
+    /// without one it gets the shared client.
     static KIVClientInterface* getSessionBusClient(const QString& service, QObject* parent = nullptr);
 
     /// Whether the service can be reached now.
@@ -59,7 +61,8 @@ public:
 
     /// Requests an action with an argument, and waits at most `timeoutMs` milliseconds for the answer. Returns whether
     /// the service carried it out; `reply`, which may be null, then holds the answer in words. If not, `reply` is
-    /// unchanged and getLastError() says why, a timeout included.
+    /// unchanged and getLastError() says why, a timeout included. After a timeout a back end may reject further calls at
+    /// once until the service shows that it is awake.
     virtual bool sendAction(const QString& id, const QString& argument, QString* reply, int timeoutMs) = 0;
 
     /// Requests an action without an argument. Waits for at most callTimeout.
