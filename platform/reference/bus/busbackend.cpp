@@ -74,8 +74,8 @@ void BusBackend::Private::onReady()
 {
     problem.clear();
     QByteArray prefix(namePrefix.data(), namePrefix.size() - 1);
-    connection()->match("type='signal',sender='org.freedesktop.DBus',member='NameOwnerChanged',arg0namespace='" + prefix
-            + '\'');
+    connection()->match(
+            "type='signal',sender='org.freedesktop.DBus',member='NameOwnerChanged',arg0namespace='" + prefix + '\'');
     const Message user = daemonCall("GetConnectionUnixUser");
     Writer(user).text(QString::fromLatin1(connection()->uniqueName()));
     askDaemon(user, [this](const Message& reply) { ownUser = Reader(reply).uint32(); });

@@ -24,8 +24,8 @@ public:
     BusBackend();
     ~BusBackend() override;
 
-    /// Runs an event loop until the services on the bus are known and read, for at most `timeoutMs` milliseconds. Returns
-    /// whether they are; if not, problem() says why.
+    /// Runs an event loop until the services on the bus are known and read, for at most `timeoutMs` milliseconds.
+    /// Returns whether they are; if not, problem() says why.
     bool waitForServices(int timeoutMs);
 
     /// Asks the bus to start the services that it can start and that are not running. Nothing waits for them.

@@ -453,8 +453,8 @@ void Connection::match(const QByteArray& rule)
     if (!m_bus)
         return;
     // The filter hears everything; only the bus has to know.
-    const Message message = newCall(
-            "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "AddMatch");
+    const Message message
+            = newCall("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "AddMatch");
     Writer(message).text(QString::fromLatin1(rule));
     send(message);
 }

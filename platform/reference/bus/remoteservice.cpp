@@ -378,8 +378,8 @@ void RemoteService::countMessage(int bytes)
 Outcome RemoteService::setItem(const QString& id, const QVariant& value, int timeoutMs)
 {
     if (embedded::EmbeddedService* own = localService(m_owner, m_path)) {
-        return callInProcess(own, 0, timeoutMs,
-                [id, value](ServiceData& service) { return setSetting(service, id, value); });
+        return callInProcess(
+                own, 0, timeoutMs, [id, value](ServiceData& service) { return setSetting(service, id, value); });
     }
     if (!canTravel(value))
         return {false, BusTexts::tr("%1 cannot be set: the value is too large, or a text of it holds a NUL.").arg(id)};
