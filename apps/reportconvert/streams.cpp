@@ -55,7 +55,7 @@ bool copyStandardInput(QIODevice& target, QString* error)
                     error);
         }
         if (target.write(buffer.data(), count) != count)
-            return fail(Texts::tr("cannot be kept meanwhile: %1").arg(target.errorString()), error);
+            return fail(Texts::tr("cannot be written to a temporary file: %1").arg(target.errorString()), error);
     }
     return false;
 }
@@ -66,8 +66,7 @@ bool writeStandardOutput(const QByteArray& bytes, QString* error)
     while (done < bytes.size()) {
         if (!waitFor(STDOUT_FILENO, POLLOUT))
             return false;
-        // A pipe that is ready takes this much at once, so that no write blocks where a signal could not end
-        // it.
+        // A ready pipe takes at least this much at once, so that no write blocks where a signal could not end it.
         const ssize_t count
                 = ::write(STDOUT_FILENO, bytes.constData() + done, size_t(qMin<qint64>(PIPE_BUF, bytes.size() - done)));
         if (count < 0 && isPassing(errno))
@@ -76,7 +75,7 @@ bool writeStandardOutput(const QByteArray& bytes, QString* error)
             return fail(outputError(), error);
         done += count;
     }
-    // Some file systems tell only now that there was no room.
+    // Some file systems report only now that there was no space.
     return ::close(STDOUT_FILENO) == 0 || fail(outputError(), error);
 }
 

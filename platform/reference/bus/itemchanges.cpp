@@ -46,9 +46,8 @@ bool areSame(const QVector<embedded::MemberDescription>& a, const QVector<embedd
 
 Told takeValue(const ItemStore::StatePtr& state, const QVariant& value)
 {
-    const embedded::Conversion conversion = value.isValid()
-            ? convertToType(state->type, state->description.members, value)
-            : embedded::Conversion();
+    const embedded::Conversion conversion
+            = value.isValid() ? convertToType(state->type, state->description.members, value) : embedded::Conversion();
     if (!conversion.problem.isEmpty()) {
         qWarning("The service sent a value for %s that is %s; the item keeps the one it had.",
                 qUtf8Printable(state->description.id), qUtf8Printable(conversion.problem));
@@ -119,7 +118,7 @@ Told take(const ItemChange& change)
 /// Anything may be gone after each signal but what the state holds.
 void tell(const Told& told)
 {
-    embedded::tell(told.state, {told.value, told.unit});
+    embedded::emitChanges(told.state, {told.value, told.unit});
     const auto emitIf = [&](bool isTold, void (KIVClientItem::*signal)()) {
         if (isTold && told.state->item)
             Q_EMIT(told.state->item->*signal)();
@@ -138,6 +137,18 @@ FieldChange valueChange(ItemField field, const QVariant& value)
 
 } // namespace
 
+KIVClientItem::Quality qualityOf(const QVariant& value)
+{
+    switch (value.toInt()) {
+    case KIVClientItem::QualityPassing:
+    case KIVClientItem::QualityWarning:
+    case KIVClientItem::QualityFailing:
+        return KIVClientItem::Quality(value.toInt());
+    default:
+        return KIVClientItem::QualityNone;
+    }
+}
+
 void apply(const FieldChange& change, ItemDescription* item)
 {
     switch (change.field) {
@@ -154,7 +165,7 @@ void apply(const FieldChange& change, ItemDescription* item)
         item->isReady = change.value.toBool();
         break;
     case ItemField::Quality:
-        item->quality = KIVClientItem::Quality(change.value.toInt());
+        item->quality = qualityOf(change.value);
         break;
     case ItemField::Applicable:
         item->isApplicable = change.value.toBool();

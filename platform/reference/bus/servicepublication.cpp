@@ -335,8 +335,7 @@ void ServicePublication::handle(const Message& call)
     });
     if (known == std::end(methods)) {
         m_connection->refuse(call, errorUnknownMethod,
-                BusTexts::tr("There is no method %1.%2.")
-                        .arg(QString::fromUtf8(interface), QString::fromUtf8(member)));
+                BusTexts::tr("There is no method %1.%2.").arg(QString::fromUtf8(interface), QString::fromUtf8(member)));
         return;
     }
     if (call.signature() != known->signature) {

@@ -8,8 +8,8 @@
 
 namespace kiv::bus {
 
-/// Appends a value as a variant. Whole numbers travel as i or u, arrays as as or ad, records as a{sv}, tables as aa{sv},
-/// lists of several kinds as av. A value that is none of these travels as its text.
+/// Appends a value as a variant. Whole numbers travel as i or u, arrays as as or ad, records as a{sv}, tables as
+/// aa{sv}, lists of several kinds as av. A value that is none of these travels as its text.
 void writeValue(Writer& writer, const QVariant& value);
 
 /// Appends the variant that stands for no value: a byte.
