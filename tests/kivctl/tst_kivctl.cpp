@@ -252,6 +252,29 @@ private Q_SLOTS:
         QCOMPARE(outcome.errors, QString());
     }
 
+    void oneServiceStandsStill()
+    {
+        writeFile(m_folder.filePath("aside/a.service.json"), R"({"service": "aside", "items": [{"id": ":result:aside:a:", "type": "int"}]})");
+        QProcess aside;
+        QProcess watching;
+        watching.start(program, {"watch", ":result:aside:"});
+        aside.start(UIUTILS_KIVD_PROGRAM, {"-s", m_folder.filePath("aside"), "--root", m_folder.filePath("aside")});
+        QCOMPARE(nextLine(watching), QByteArray(":result:aside:a:\t\t\t\n"));
+        signalTo(aside, SIGSTOP);
+        // Who needs another one does not wait for it.
+        const int found = run({"-t", "600000", "get", count}).exitCode;
+        const Outcome listed = run({"-t", "2000", "services"});
+        signalTo(aside, SIGCONT);
+        aside.terminate();
+        QCOMPARE(ended(aside).exitCode, 0);
+        QCOMPARE(nextLine(watching), QByteArray(":result:aside:a:\t\t\tgone\n"));
+        watching.terminate();
+        QCOMPARE(ended(watching).exitCode, 0);
+        QCOMPARE(found, 0);
+        QCOMPARE(listed.exitCode, 4);
+        QVERIFY2(listed.output.contains("station\t23") && !listed.output.contains("aside"), listed.output);
+    }
+
     void servicesAway()
     {
         signalTo(m_kivd, SIGSTOP);

@@ -195,7 +195,7 @@ def show(recording):
     odd = recording.run('reportconvert', '--strict', '--format', 'xml', '--services', recording.folder, document, code=1)
     nowhere = recording.run('uiutils-qml', TREE / 'docs/examples/gallery.qml', *services, '--root', root, '--grab', '/nowhere/a.png',
                             code=1)
-    for program in ('uiutils-qml', 'reportconvert', 'pdf_viewer', 'uiutils-demo'):
+    for program in ('uiutils-qml', 'reportconvert', 'pdf_viewer', 'uiutils-demo', 'kivd', 'kivctl'):
         recording.run(program, '--help')
         recording.run(program, '--nonsense', code=2)
     for example in ('gallery', 'notifications'):
