@@ -134,7 +134,7 @@ private Q_SLOTS:
         QTest::newRow("range") << QStringList {"set", level, "-11"} << 1 << "" << "-10 to 10 dB";
         QTest::newRow("no number") << QStringList {"set", count, "x"} << 1 << "" << "not a number";
         QTest::newRow("no JSON") << QStringList {"set", setup + "points:doubleARRAY:", "1, 2"} << 1 << "" << "takes JSON";
-        QTest::newRow("no setting") << QStringList {"set", state, "x"} << 1 << "" << "it is no setting";
+        QTest::newRow("no setting") << QStringList {"set", state, "x"} << 1 << "" << "State cannot be set";
         QTest::newRow("answer") << QStringList {"action", ":action:station:start:", "\u00c4\tb"} << 0 << "Started \u00c4\\tb (%2).\n" << "";
         QTest::newRow("failure") << QStringList {"action", ":action:station:fail:"} << 1 << "" << "No fiber is connected.";
         QTest::newRow("unlisted") << QStringList {"action", ":action:station:saveconfig:", "Mine,1"} << 0
@@ -308,7 +308,7 @@ private Q_SLOTS:
         writeFile(m_folder.filePath("file"), "");
         const Outcome outcome = own({"set", count, "51"}, "file/root");
         QCOMPARE(outcome.exitCode, 1);
-        QVERIFY2(outcome.errors.contains("could not be kept"), qPrintable(outcome.errors));
+        QVERIFY2(outcome.errors.contains("station.state.json"), qPrintable(outcome.errors));
         QCOMPARE(own({"watch"}).exitCode, 2);
         qputenv("KIV_PLATFORM", "embedded");
         const int exitCode = run({"watch"}).exitCode;
