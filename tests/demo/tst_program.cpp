@@ -129,6 +129,8 @@ private Q_SLOTS:
         if (QStandardPaths::findExecutable("dbus-run-session").isEmpty())
             QSKIP("there is no dbus-run-session");
         const QString folder = m_folder->path();
+        writeFile(folder + "/services/cust/private/lastconfigs/services/basemgr.state.json",
+                R"({ "service": "basemgr", "values": { ":config:basemgr:system:userInfo_lastName:": "Dahl" } })");
         const Outcome outcome = run("dbus-run-session",
                 {"--", UIUTILS_SOURCE_DIR "/tools/demo-bus", QFileInfo(UIUTILS_DEMO_PROGRAM).path(), "--tour"},
                 {{"UIUTILS_ROOT", folder}, {"XDG_RUNTIME_DIR", folder}});
@@ -136,7 +138,7 @@ private Q_SLOTS:
         const QString said = QString::fromUtf8(outcome.output);
         const QRegularExpression story("second application: Another application has changed it to \"Solheim\"[.]\n"
                                        ".*is killed.*"
-                                       "second application: The services have ended; it stays \"Halvorsen\"[.]\n"
+                                       "second application: The services have ended; it stays \"Dahl\"[.]\n"
                                        ".*is started again.*"
                                        "second application: The services have returned, and nothing is lost[.]\n",
                 QRegularExpression::DotMatchesEverythingOption);
