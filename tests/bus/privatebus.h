@@ -1,6 +1,6 @@
 #pragma once
 
-#include "connection_p.h"
+#include "bus/connection_p.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>

@@ -1,5 +1,5 @@
 #include "privatebus.h"
-#include "protocol_p.h"
+#include "bus/protocol_p.h"
 
 #include <bus/busbackend.h>
 #include <kiv/kivclientinterface.h>

@@ -1,6 +1,6 @@
 #include "files.h"
 #include "privatebus.h"
-#include "protocol_p.h"
+#include "bus/protocol_p.h"
 
 #include <bus/busnames.h>
 #include <bus/buspublisher.h>

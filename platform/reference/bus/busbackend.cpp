@@ -21,7 +21,7 @@ namespace kiv::bus {
 namespace {
 
 constexpr QLatin1String baseManagerName("basemgr");
-constexpr int patienceMs = 25'000;
+constexpr int patienceMs = 25 * 1000;
 
 } // namespace
 

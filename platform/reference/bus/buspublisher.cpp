@@ -13,7 +13,7 @@ namespace kiv::bus {
 
 namespace {
 
-constexpr int daemonTimeoutMs = 25'000;
+constexpr int daemonTimeoutMs = 25 * 1000;
 
 // Answers of RequestName.
 constexpr quint32 primaryOwner = 1;

@@ -28,9 +28,9 @@ using embedded::ServiceData;
 using embedded::ServiceFileTexts;
 
 /// Patience with what nobody waits for.
-constexpr int patienceMs = 25'000;
+constexpr int patienceMs = 25 * 1000;
 /// More than any service has; one that sends more is ill.
-constexpr int mostItems = 200'000;
+constexpr int mostItems = 200 * 1000;
 
 QSet<QString> cleanPaths(const QVariant& paths)
 {

@@ -206,7 +206,7 @@ void ServicePublication::onError(const QString& text)
 {
     for (auto& [client, subscriber] : m_subscribers) {
         if (subscriber.errors.size() < mostErrors)
-            subscriber.errors += withoutNul(text.left(10'000));
+            subscriber.errors += withoutNul(text.left(10 * 1000));
     }
     changeSoon();
 }

@@ -17,7 +17,7 @@ constexpr int deepest = 16;
 /// Beside a value there may be a page of others.
 constexpr int largestValue = largestMessage - largestPage - 4096;
 /// Where the sizes end that are counted.
-constexpr int largestSize = 1'000'000'000;
+constexpr int largestSize = 1000 * 1000 * 1000;
 
 bool holdsOnly(const QVariantList& list, int type)
 {
