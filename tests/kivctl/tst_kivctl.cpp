@@ -320,7 +320,8 @@ private Q_SLOTS:
     {
         addColumns<QString, QString>();
         QTest::newRow("commands") << "l" << "list load";
-        QTest::newRow("settings only") << "set :config:station:setup:co" << "count:";
+        QTest::newRow("after the last colon") << "set :config:station:setup:co" << "count:";
+        QTest::newRow("settings only") << "set :r" << "";
         QTest::newRow("no further than they go") << "set :config:station:setup:count: 1" << "";
         QTest::newRow("every item") << "-t 100 get :result:station:state: :result:station:g" << "gain:";
         QTest::newRow("actions") << "action :action:station:s" << "start: slow:";
