@@ -1,5 +1,5 @@
-// The other processes of the bus tests. "buspeer client SERVICE" reads and writes as it is told, "buspeer service NAME COUNT"
-// publishes whole numbers and changes them. Both take commands, a line each, and answer each with a line.
+// The other processes of the bus tests. "buspeer client SERVICE" reads and writes as it is told, "buspeer service NAME
+// COUNT" publishes whole numbers and changes them. Both take commands, a line each, and answer each with a line.
 
 #include <bus/busbackend.h>
 #include <bus/buspublisher.h>
@@ -138,5 +138,6 @@ int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    return arguments.value(1) == "client" ? beClient(arguments.value(2)) : beService(arguments.value(2), arguments.value(3).toInt());
+    return arguments.value(1) == "client" ? beClient(arguments.value(2))
+                                          : beService(arguments.value(2), arguments.value(3).toInt());
 }

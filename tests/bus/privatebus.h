@@ -96,7 +96,8 @@ public:
     Child daemon;
 };
 
-/// Somebody on the bus who knows nothing of services. Waits by running the event loop, so that the service may live here.
+/// Somebody on the bus who knows nothing of services. Waits by running the event loop, so that the service may live
+/// here.
 class Stranger : public QObject
 {
 public:

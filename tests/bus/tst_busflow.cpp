@@ -43,8 +43,8 @@ private Q_SLOTS:
         }
     }
 
-    /// One client is stopped. Neither the service nor the bus keeps for it what it does not read, and nobody else misses a
-    /// change.
+    /// One client is stopped. Neither the service nor the bus keeps for it what it does not read, and nobody else
+    /// misses a change.
     void stoppedClient()
     {
         const int seconds = qMax(4, qEnvironmentVariableIntValue("UIUTILS_SECONDS"));
@@ -56,8 +56,8 @@ private Q_SLOTS:
         letRun(seconds);
         const int serviceGrowth = m_service.resident() - service;
         const int daemonGrowth = m_bus.daemon.resident() - daemon;
-        qInfo("In %d s the service grew by %d KiB to %d, the bus by %d to %d.", seconds, serviceGrowth, m_service.resident(),
-                daemonGrowth, m_bus.daemon.resident());
+        qInfo("In %d s the service grew by %d KiB to %d, the bus by %d to %d.", seconds, serviceGrowth,
+                m_service.resident(), daemonGrowth, m_bus.daemon.resident());
         QVERIFY(serviceGrowth <= most && daemonGrowth <= most);
         const QByteArray sum = m_service.ask("stop");
         QVERIFY(sum.toLongLong() > 0);

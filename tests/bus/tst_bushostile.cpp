@@ -31,7 +31,8 @@ public:
     }
 
     /// Tells the subscriber of changes; `append` writes into an array of (uyv).
-    void tell(quint64 serial, const std::function<void(sd_bus_message*)>& append, const char* signature = "a(uyv)") const
+    void tell(
+            quint64 serial, const std::function<void(sd_bus_message*)>& append, const char* signature = "a(uyv)") const
     {
         const Message signal = connection.newSignal(client, path, serviceInterface, "ItemsChanged");
         sd_bus_message_append(signal.raw(), "tt", generation, serial);
@@ -80,7 +81,8 @@ private:
             ++readings;
             getItems(call);
         } else if (call.member() == "GetAll") {
-            sd_bus_message_append(reply.raw(), "a{sv}", version.isEmpty() ? 1 : 2, "Later", "(ib)", 1, 1, "Version", "s", version.data());
+            sd_bus_message_append(reply.raw(), "a{sv}", version.isEmpty() ? 1 : 2, "Later", "(ib)", 1, 1, "Version",
+                    "s", version.data());
             connection.send(reply);
         } else if (call.member() == "Subscribe") {
             sd_bus_message_append(reply.raw(), "t", generation);
@@ -154,23 +156,26 @@ private Q_SLOTS:
     void garbageItems()
     {
         m_fake->items = [](sd_bus_message* m, quint32) {
-            sd_bus_message_append(m, "(usa{sv})", 1, ":result:fake:one:", 4, "type", "s", "int", "value", "i", 1, "later", "(ii)",
-                    1, 2, "quality", "i", 1000);
+            sd_bus_message_append(m, "(usa{sv})", 1, ":result:fake:one:", 4, "type", "s", "int", "value", "i", 1,
+                    "later", "(ii)", 1, 2, "quality", "i", 1000);
             sd_bus_message_append(m, "(usa{sv})", 2, "nonsense", 1, "type", "s", "int");
             sd_bus_message_append(m, "(usa{sv})", 3, ":result:fake:type:", 1, "type", "s", "quaternion");
             sd_bus_message_append(m, "(usa{sv})", 4, ":result:fake:untyped:", 0);
             sd_bus_message_append(m, "(usa{sv})", 5, ":result:fake:one:", 2, "type", "s", "bool", "value", "b", 1);
-            sd_bus_message_append(m, "(usa{sv})", 6, ":result:fake:long:", 2, "type", "s", "double", "precision", "i", 2000000000);
+            sd_bus_message_append(
+                    m, "(usa{sv})", 6, ":result:fake:long:", 2, "type", "s", "double", "precision", "i", 2000000000);
             sd_bus_message_append(m, "(usa{sv})", 7, ":result:fake:wrong:", 2, "type", "s", "int", "value", "s", "abc");
-            sd_bus_message_append(m, "(usa{sv})", 8, ":result:fake:limits:", 3, "type", "s", "int", "minimum", "i", 5, "maximum",
-                    "i", 1);
+            sd_bus_message_append(m, "(usa{sv})", 8, ":result:fake:limits:", 3, "type", "s", "int", "minimum", "i", 5,
+                    "maximum", "i", 1);
             sd_bus_message_append(m, "(usa{sv})", 9, ":result:fake:record:", 1, "type", "s", "aggregate");
-            sd_bus_message_append(m, "(usa{sv})", 10, ":result:fake:choices:", 2, "type", "s", "int", "choices", "a(issb)", 2, 1, "a",
-                    "", 1, 1, "b", "", 1);
-            sd_bus_message_append(m, "(usa{sv})", 11, ":result:fake:two:", 3, "type", "s", "int", "value", "i", 2, "label", "i", 3);
+            sd_bus_message_append(m, "(usa{sv})", 10, ":result:fake:choices:", 2, "type", "s", "int", "choices",
+                    "a(issb)", 2, 1, "a", "", 1, 1, "b", "", 1);
+            sd_bus_message_append(
+                    m, "(usa{sv})", 11, ":result:fake:two:", 3, "type", "s", "int", "value", "i", 2, "label", "i", 3);
         };
         for (const char* id : {"nonsense", "type", "untyped", "long", "wrong", "limits", "record", "choices", "one"})
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QString("The item .*%1:? of the service fake is left out: .+").arg(id)));
+            QTest::ignoreMessage(QtWarningMsg,
+                    QRegularExpression(QString("The item .*%1:? of the service fake is left out: .+").arg(id)));
         connectClient();
         QCOMPARE(m_client->getItemIds(), (QStringList {":result:fake:one:", ":result:fake:two:"}));
         QCOMPARE(two(), QVariant(2));
@@ -243,7 +248,8 @@ private Q_SLOTS:
         const auto items = [this](int value) {
             m_fake->items = [value](sd_bus_message* m, quint32) {
                 sd_bus_message_append(m, "(usa{sv})", 1, ":result:fake:one:", 2, "type", "s", "int", "value", "i", 1);
-                sd_bus_message_append(m, "(usa{sv})", 2, ":result:fake:two:", 2, "type", "s", "int", "value", "i", value);
+                sd_bus_message_append(
+                        m, "(usa{sv})", 2, ":result:fake:two:", 2, "type", "s", "int", "value", "i", value);
             };
         };
         const auto nothing = [](sd_bus_message*) {};
@@ -270,8 +276,8 @@ private Q_SLOTS:
     {
         // One item a page.
         m_fake->items = [this](sd_bus_message* m, quint32 from) {
-            sd_bus_message_append(m, "(usa{sv})", from + 1, from == 0 ? ":result:fake:one:" : ":result:fake:two:", 2, "type", "s",
-                    "int", "value", "i", int(m_fake->generation));
+            sd_bus_message_append(m, "(usa{sv})", from + 1, from == 0 ? ":result:fake:one:" : ":result:fake:two:", 2,
+                    "type", "s", "int", "value", "i", int(m_fake->generation));
         };
         QVector<Message> calls;
         m_fake->getItems = [&](const Message& call) { calls += call; };
@@ -331,7 +337,8 @@ private Q_SLOTS:
             QVERIFY(!m_client->isValid());
             m_backend.reset();
         }
-        m_fake->getItems = [this](const Message& call) { m_fake->connection.refuse(call, "org.example.Error", "Not today"); };
+        m_fake->getItems
+                = [this](const Message& call) { m_fake->connection.refuse(call, "org.example.Error", "Not today"); };
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be read: Not today"));
         connectClient();
         QVERIFY(!m_client->setItem(":result:fake:one:", 1));
@@ -342,7 +349,8 @@ private Q_SLOTS:
     void readingAnewFails()
     {
         connectClient();
-        m_fake->getItems = [this](const Message& call) { m_fake->connection.refuse(call, "org.example.Error", "Not today"); };
+        m_fake->getItems
+                = [this](const Message& call) { m_fake->connection.refuse(call, "org.example.Error", "Not today"); };
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be read: Not today"));
         m_fake->tell(5, [](sd_bus_message*) {});
         QTRY_VERIFY_WITH_TIMEOUT(!m_client->isValid(), patience);

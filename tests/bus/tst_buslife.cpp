@@ -45,7 +45,9 @@ private:
         const QString text = QString(R"({ "service": "life", "items": [
             { "id": "%1", "type": "int", "value": %3 }, { "id": "%2", "type": "std::string", "value": "as ever" },
             { "id": ":action:life:first:", "type": "action", "does": { "reply": "first" } },
-            { "id": ":action:life:second:", "type": "action", "does": { "reply": "second" } } ] })").arg(levelId, steadyId).arg(level);
+            { "id": ":action:life:second:", "type": "action", "does": { "reply": "second" } } ] })")
+                                     .arg(levelId, steadyId)
+                                     .arg(level);
         writeFile(m_root->filePath(folder + "/life.service.json"), text.toUtf8());
     }
     bool isThere() const
@@ -162,11 +164,13 @@ private Q_SLOTS:
         QString reply = "untouched";
         QVERIFY(!m_client->sendAction(":action:life:first:", QString(), &reply, 200));
         const qint64 waited = timer.restart();
-        QVERIFY2(m_client->getLastError().contains("did not answer within 200 ms"), qPrintable(m_client->getLastError()));
+        QVERIFY2(m_client->getLastError().contains("did not answer within 200 ms"),
+                qPrintable(m_client->getLastError()));
         qInfo("A call of 200 ms came back after %lld ms.", waited);
         QVERIFY(waited >= 200 && waited < 200 * 20);
         QVERIFY(!m_client->setItem(levelId, 9));
-        QVERIFY2(m_client->getLastError().contains("has not answered an earlier request"), qPrintable(m_client->getLastError()));
+        QVERIFY2(m_client->getLastError().contains("has not answered an earlier request"),
+                qPrintable(m_client->getLastError()));
         QVERIFY(timer.elapsed() < 200 * 20);
         // What was said last is still there to read.
         QCOMPARE(level(), QVariant(5));
@@ -235,7 +239,9 @@ private Q_SLOTS:
     {
         const QString marker = m_root->filePath("started");
         writeFile(m_bus->folder.filePath("services/org.uiutils.kiv.sleeper.service"),
-                QString("[D-BUS Service]\nName=org.uiutils.kiv.sleeper\nExec=/usr/bin/touch %1\n").arg(marker).toUtf8());
+                QString("[D-BUS Service]\nName=org.uiutils.kiv.sleeper\nExec=/usr/bin/touch %1\n")
+                        .arg(marker)
+                        .toUtf8());
         m_backend.reset();
         m_kivd->end();
         m_bus->kill();
