@@ -307,13 +307,6 @@ int startManager(int argc, char** argv)
 
 // --- The processes that save ---
 
-/// A controller reads its settings some time after its construction.
-void waitForSettings(PageReport& report)
-{
-    while (!report.hasLoaded)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-}
-
 void setUpProcess(const QJsonObject& order)
 {
     const QJsonObject environment = order.value("environment").toObject();
@@ -330,24 +323,22 @@ struct Manager
     int elsewhere = -1;
 };
 
-/// Connections to a bus do not survive a fork. A controller watches the services that are there when it is made.
-PageReport& reportOverBus()
+/// Connections to a bus do not survive a fork.
+void connectToBus()
 {
     auto* backend = new kiv::bus::BusBackend;
     if (!backend->waitForServices(patienceSeconds * 1000 / 2))
         qFatal("no services: %s", qUtf8Printable(backend->problem()));
-    auto* report = new PageReport;
-    waitForSettings(*report);
-    return *report;
 }
 
-[[noreturn]] void runChild(const Manager& manager, PageReport& prepared, const QJsonObject& order, int answer)
+[[noreturn]] void runChild(const Manager& manager, PageReport& report, const QJsonObject& order, int answer)
 {
     ::alarm(patienceSeconds);
     ::prctl(PR_SET_PTRACER, PR_SET_PTRACER_ANY);
-    PageReport& report = manager.here ? prepared : reportOverBus();
     if (manager.here)
         setUp(manager.here, order);
+    else
+        connectToBus();
     setUpProcess(order);
     report.getReady(order);
     QCoreApplication::processEvents();
@@ -401,14 +392,16 @@ void serve(const Manager& manager, PageReport& report, const QJsonObject& order)
             {"claim", claim}});
 }
 
-/// Loads fonts and everything else that is loaded once.
+/// Loads fonts and everything else that is loaded once. A controller reads its settings some time after its
+/// construction.
 void warmUp(PageReport& report)
 {
     report.getReady({});
     if (report.generatePDFReport().isEmpty())
         qFatal("no pages");
     report.hasLoaded = false;
-    waitForSettings(report);
+    while (!report.hasLoaded)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 } // namespace
