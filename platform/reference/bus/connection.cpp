@@ -459,6 +459,11 @@ void Connection::match(const QByteArray& rule)
     send(message);
 }
 
+bool Connection::isLoss(const Message& reply)
+{
+    return reply.errorName() == QLatin1String(SD_BUS_ERROR_NO_REPLY) && reply.sender() == "org.freedesktop.DBus";
+}
+
 bool Connection::isTimeout(const Message& reply)
 {
     const QString name = reply.errorName();

@@ -444,6 +444,8 @@ Outcome RemoteService::call(const Message& message, int timeoutMs)
     const Message reply = m_connection->callBlocking(message, timeoutMs);
     if (!reply.isError())
         return {true, reply.signature() == "s" ? Reader(reply).text() : QString()};
+    if (Connection::isLoss(reply))
+        return {false, BusTexts::tr("The service %1 ended before it answered. Try again when it runs.").arg(m_name)};
     if (!Connection::isTimeout(reply))
         return {false, reply.errorText()};
     onTimeout();
