@@ -53,12 +53,18 @@ void Follower::onReady()
         m_last = m_setting->getValue();
         show(QStringLiteral("b-ended"), tr("The services have ended; it stays \"%1\".").arg(m_last.toString()));
     } else if (m_stage == WaitsForReturn && isReady) {
-        if (m_setting->getValue() == m_last)
-            show(QStringLiteral("c-returned"), tr("The services have returned, and nothing is lost."));
-        else
-            Q_EMIT failed(tr("The services have returned with \"%1\" instead of \"%2\".")
-                                  .arg(m_setting->getValueString(), m_last.toString()));
+        // The setting is ready before it has its value.
+        QMetaObject::invokeMethod(this, &Follower::onReturn, Qt::QueuedConnection);
     }
+}
+
+void Follower::onReturn()
+{
+    if (m_setting->getValue() == m_last)
+        show(QStringLiteral("c-returned"), tr("The services have returned, and nothing is lost."));
+    else
+        Q_EMIT failed(tr("The services have returned with \"%1\" instead of \"%2\".")
+                              .arg(m_setting->getValueString(), m_last.toString()));
 }
 
 void Follower::show(const QString& picture, const QString& text)

@@ -36,6 +36,7 @@ private:
 
     void onValue();
     void onReady();
+    void onReturn();
     void show(const QString& picture, const QString& text);
     void keepPicture(const QString& path);
 
