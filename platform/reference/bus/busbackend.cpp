@@ -46,6 +46,7 @@ struct BusBackend::Private
     RemoteService* makeService(const QString& name);
     void onSettled(RemoteService* service);
     bool isSettled() const;
+    void endWaits();
 
     BusBackend* const q;
     ReconnectingBus bus;
@@ -56,6 +57,8 @@ struct BusBackend::Private
     bool areNamesKnown = false;
     std::optional<quint32> ownUser;
     QString problem;
+    /// Of those who wait until the services are settled.
+    QVector<QEventLoop*> waits;
 };
 
 Message BusBackend::Private::daemonCall(const char* member)
@@ -108,6 +111,7 @@ void BusBackend::Private::onNames(const Message& reply)
         }
     }
     areNamesKnown = true;
+    endWaits();
 }
 
 void BusBackend::Private::onSignal(const Message& signal)
@@ -209,6 +213,7 @@ RemoteService* BusBackend::Private::makeService(const QString& name)
 
 void BusBackend::Private::onSettled(RemoteService* service)
 {
+    endWaits();
     if (!service->isReachable() || seen.contains(service->name()))
         return;
     seen += service->name();
@@ -220,6 +225,14 @@ bool BusBackend::Private::isSettled() const
     return areNamesKnown && std::all_of(services.cbegin(), services.cend(), [](const RemoteService* service) {
         return service->isSettled();
     });
+}
+
+void BusBackend::Private::endWaits()
+{
+    for (QEventLoop* wait : qAsConst(waits)) {
+        if (isSettled())
+            wait->quit();
+    }
 }
 
 BusBackend::BusBackend()
@@ -255,20 +268,13 @@ BusBackend::~BusBackend()
 
 bool BusBackend::waitForServices(int timeoutMs)
 {
+    if (d->isSettled())
+        return true;
     QEventLoop loop;
-    QTimer timeout;
-    timeout.setSingleShot(true);
-    connect(&timeout, &QTimer::timeout, &loop, &QEventLoop::quit);
-    // What has to be waited for ends in a message; a look after each turn is enough.
-    QTimer turns;
-    connect(&turns, &QTimer::timeout, &loop, [&] {
-        if (d->isSettled())
-            loop.quit();
-    });
-    timeout.start(timeoutMs);
-    turns.start(0);
-    if (!d->isSettled())
-        loop.exec();
+    QTimer::singleShot(timeoutMs, &loop, &QEventLoop::quit);
+    d->waits += &loop;
+    loop.exec();
+    d->waits.removeOne(&loop);
     return d->isSettled();
 }
 

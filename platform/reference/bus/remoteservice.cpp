@@ -54,9 +54,12 @@ RemoteService::~RemoteService() = default;
 
 void RemoteService::setOwner(const QByteArray& owner)
 {
-    m_isOwnerKnown = true;
-    if (owner == m_owner)
+    const bool isNews = !std::exchange(m_isOwnerKnown, true);
+    if (owner == m_owner) {
+        if (isNews)
+            Q_EMIT settled();
         return;
+    }
     m_owner = owner;
     ++m_session;
     m_isLoading = !owner.isEmpty();

@@ -52,7 +52,7 @@ public:
 Q_SIGNALS:
     void itemsChanged();
     void errorReported(const QString& text);
-    /// It has become reachable, or was given up, or is gone.
+    /// It has become reachable, or was given up, or is known not to be there.
     void settled();
 
 private:
