@@ -1,5 +1,5 @@
 #!/bin/sh
-# Draws the PNG pictures again from the SVG drawings beside them.
+# Renders the PNG pictures from the SVG drawings beside them.
 # The PNGs are kept in the tree, so that a build needs no SVG renderer.
 set -eu
 cd "$(dirname "$0")"

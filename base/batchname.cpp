@@ -9,7 +9,7 @@ namespace {
 const QLatin1Char inName('_');
 const QLatin1Char inBatch(':');
 
-/// One digit counts as an index.
+/// A single digit counts as an index.
 QString withSeparator(QString name, QLatin1Char from, QLatin1Char to, int minimumSize)
 {
     const int separator = name.size() - 2;

@@ -2,14 +2,13 @@
 
 #include <QString>
 
-/// Names of settings that travel in a batch, where the index of an indexed one stands behind a colon: "level_3" travels
-/// as "level:3".
+/// Names of settings in a batch, where the index of an indexed name follows a colon: "level_3" is sent as "level:3".
 namespace uiutils {
 
-/// Names of up to three characters stay as they are.
+/// Names of up to three characters are unchanged.
 QString toBatchName(QString name);
 
-/// The name that may have travelled as `batchName`.
+/// The name that may have been sent as `batchName`.
 QString fromBatchName(QString batchName);
 
 } // namespace uiutils

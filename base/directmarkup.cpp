@@ -8,11 +8,11 @@ namespace uiutils {
 
 namespace {
 
-/// Longer tables than this are made room for as they come.
+/// Space for longer tables is reserved as they grow.
 constexpr qint64 mostRoom = qint64(256) * 1024 * 1024;
 
-/// Whether the text stands in markup as it is, without a character that has to be escaped or left out.
-bool isPlain(const QString& text)
+/// Whether the text may stand in markup unchanged: no character has to be escaped or left out.
+bool isDirect(const QString& text)
 {
     return std::all_of(text.cbegin(), text.cend(), [](QChar character) {
         const ushort c = character.unicode();
@@ -25,14 +25,14 @@ bool isPlain(const QString& text)
 void beginLine(QXmlStreamWriter& writer, QString& output, int level)
 {
     static const QString deepest = QLatin1Char('\n') + QString(8 * 4, QLatin1Char(' '));
-    // Ends the tag that is open.
+    // Closes the open tag.
     writer.writeCharacters(QString());
     output.append(deepest.constData(), 1 + 4 * qBound(0, level, 8));
 }
 
 void writeAttribute(QXmlStreamWriter& writer, QString& output, const QString& name, const QString& value)
 {
-    if (!isPlain(value)) {
+    if (!isDirect(value)) {
         writer.writeAttribute(name, markupText(value));
         return;
     }
@@ -45,11 +45,11 @@ void writeAttribute(QXmlStreamWriter& writer, QString& output, const QString& na
 
 void writeText(QXmlStreamWriter& writer, QString& output, const QString& text)
 {
-    if (!isPlain(text)) {
+    if (!isDirect(text)) {
         writer.writeCharacters(markupText(text));
         return;
     }
-    // Ends the tag that is open.
+    // Closes the open tag.
     writer.writeCharacters(QString());
     output += text;
 }

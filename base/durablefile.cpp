@@ -31,12 +31,12 @@ int openToRead(const QString& path, int flags)
     return fd;
 }
 
-/// Makes the name of `member`, which was given to it in its folder just now, survive a power cut. File systems that
-/// cannot sync keep it by other means, or not at all.
+/// Makes the name of `member`, which has just been created or renamed in its folder, survive a power cut. File systems
+/// that cannot sync keep it in other ways, or not at all.
 bool syncNameOf(const QString& member)
 {
     int fd = openToRead(QFileInfo(member).path() + QLatin1Char('/'), O_DIRECTORY);
-    // A folder may be one to write into and not to list: then everything on its file system is synced.
+    // A folder may allow writing and not listing: then its complete file system is synced.
     const bool isClosed = fd < 0 && errno == EACCES;
     if (isClosed)
         fd = openToRead(member, 0);
@@ -57,7 +57,7 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(DurableFile)
 };
 
-/// The system would take what stands before a NUL character for the whole path.
+/// The system would take the part before a NUL character for the complete path.
 bool hasNul(const QString& path, QString& message)
 {
     if (!path.contains(QChar(QChar::Null)))
@@ -84,7 +84,7 @@ NewFile write(
         message = Texts::tr("Cannot write %1: %2").arg(path, reason);
         return NewFile::Failed;
     }
-    // Open, and so locked, until it has its name: whoever cleans the folder would take it for left behind.
+    // Open, and therefore locked, until it has its name: otherwise a cleaning process would take it for stale.
     if (!file.renameTo(path, mayReplace)) {
         const bool isTaken = !mayReplace && errno == EEXIST;
         const QString reason = systemError();
@@ -99,7 +99,7 @@ NewFile write(
     if (syncNameOf(path))
         return NewFile::Written;
     const QString reason = systemError();
-    message = Texts::tr("Cannot make sure that %1 outlives a power cut: %2").arg(path, reason);
+    message = Texts::tr("Cannot make sure that %1 survives a power cut: %2").arg(path, reason);
     return NewFile::Failed;
 }
 

@@ -32,7 +32,7 @@ FolderLock::~FolderLock()
         ::close(m_fd);
 }
 
-/// Asks again and again, because a lock that is waited for in the system cannot be given up in time.
+/// Polls, because a lock that the system waits for cannot be given up in time.
 bool FolderLock::wait(int patience) const
 {
     QElapsedTimer waited;

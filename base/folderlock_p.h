@@ -5,12 +5,12 @@
 
 namespace uiutils {
 
-/// Keeps other processes, and other locks of this one, out of a folder's files for as long as it lives. Whoever looks
-/// at the files without a lock is not kept out. Nothing is left behind, however the process ends.
+/// Keeps other processes, and other locks of this one, away from the files of a folder as long as it lives. Code that
+/// takes no lock is not kept away. The lock ends with the process, and leaves no file.
 class FolderLock
 {
 public:
-    /// Waits so many milliseconds for others to give it back.
+    /// Waits at most so many milliseconds for the present owner.
     FolderLock(const QString& folder, int patience);
     ~FolderLock();
     Q_DISABLE_COPY_MOVE(FolderLock)

@@ -5,8 +5,8 @@
 
 namespace uiutils {
 
-/// A file in memory, for those who can only write to a file that has a name. No disk can be too full for it, and
-/// nothing of it is left when the process ends.
+/// A file in memory, for code that can only write to a file with a name. It needs no space on a disk, and nothing of it
+/// remains when the process ends.
 class MemoryFile
 {
 public:
@@ -14,7 +14,7 @@ public:
     ~MemoryFile();
     Q_DISABLE_COPY_MOVE(MemoryFile)
 
-    /// A name under which this process may open it; empty, with the reason in errno, when there is none.
+    /// A name under which this process can open it; empty, with the reason in errno, on failure.
     QString path() const;
 
 private:

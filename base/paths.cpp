@@ -26,18 +26,18 @@ bool isInEncodingOfFiles(const QByteArray& name)
     return QFile::encodeName(QFile::decodeName(name)) == name;
 }
 
-/// The value of UIUTILS_ROOT, or, for one that would become another folder's name on the way, a name that is too long
-/// for every file system: whatever is asked for below it is an error, and nothing is ever made there.
+/// The value of UIUTILS_ROOT. If the encoding would change it to the name of another folder: a name that is too long
+/// for every file system, so that every access below it fails and nothing is ever created there.
 QString root()
 {
     const QByteArray name = qgetenv("UIUTILS_ROOT");
     if (isInEncodingOfFiles(name))
         return QFile::decodeName(name);
-    static const bool isTold = [] {
+    static const bool isLogged = [] {
         qWarning("%s", qUtf8Printable(rootProblem()));
         return true;
     }();
-    Q_UNUSED(isTold)
+    Q_UNUSED(isLogged)
     return QStringLiteral("/UIUTILS_ROOT cannot be used ").leftJustified(300, QLatin1Char('.'));
 }
 
@@ -48,8 +48,8 @@ QString rootProblem()
     if (isInEncodingOfFiles(qgetenv("UIUTILS_ROOT")))
         return QString();
     return QCoreApplication::translate("Paths",
-            "UIUTILS_ROOT names a folder that is not written in the encoding of file names (%1). Nothing of the "
-            "instrument is read or written. Name another folder.")
+            "UIUTILS_ROOT names a folder that is not written in the encoding of file names (%1). None of the "
+            "instrument's files are read or written. Name another folder.")
             .arg(QString::fromLatin1(QTextCodec::codecForLocale()->name()));
 }
 
@@ -61,16 +61,16 @@ QString paths::plotImage(quint64 number)
 QString onDisk(const QString& path)
 {
     const QString folder = root();
-    // A relative path is the machine's own, and cleaning one may leave ".." in it.
+    // A relative path refers to the machine's own files, and cleaning one may leave ".." in it.
     if (folder.isEmpty() || !path.startsWith(QLatin1Char('/')))
         return path;
     QString clean = QDir::cleanPath(path);
-    // There is nothing above the top, and Qt leaves that to the system.
+    // The root has no parent, and Qt leaves that to the system.
     while (clean.startsWith(QLatin1String("/../")))
         clean.remove(0, 3);
     if (!belongsToInstrument(clean))
         return path;
-    // What is written behind a folder's name stays behind it.
+    // A slash at the end of the path is kept.
     if (path.endsWith(QLatin1Char('/')))
         clean += QLatin1Char('/');
     return folder + clean;

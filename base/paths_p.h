@@ -2,19 +2,19 @@
 
 #include <QString>
 
-/// Where the instrument keeps things, and where they lie on this machine's disk.
+/// Where the instrument keeps its files, and where these are on this machine's disk.
 namespace uiutils::paths {
 
-/// What users see as the unit's own storage, and as a memory stick.
+/// What users see as the unit's own storage, and as a USB drive.
 inline const QLatin1String publicFolder("/cust/public/");
 inline const QLatin1String usb("/mnt/usb/");
 /// Folder of the saved reports.
 inline const QLatin1String reports("/cust/public/reports/");
-/// Folder of the settings that users make for reports.
+/// Folder of the users' report settings.
 inline const QLatin1String reportSettings("/cust/private/lastconfigs/reportSettings/");
-/// The reports that the cloud leaves alone, one path a line.
+/// The reports that are not sent to the cloud, one path in each line.
 inline const QLatin1String noSyncList("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt");
-/// The instrument's viewer of PDF files, and the folder that it runs in.
+/// The instrument's viewer of PDF files, and its working folder.
 inline const QLatin1String pdfViewer("/base/bin/pdf_viewer");
 inline const QLatin1String pdfViewerFolder("/base/qml/pdf_viewer");
 /// Folder of the metadata records of cable tests.
@@ -30,7 +30,7 @@ inline const QLatin1String failIcon("/base/qml/common/images/fail_icon.png");
 inline const QLatin1String logo("/base/qml/common/images/Norda_Color-medium.png");
 /// Folder in which the services keep the settings that users change.
 inline const QLatin1String serviceSettings("/cust/private/lastconfigs/services/");
-/// Start of the name of a temporary plot image; number and ".png" follow.
+/// Beginning of the name of a temporary plot image; number and ".png" follow.
 inline const QLatin1String plotImageStem("/tmp/rep_plot_");
 
 /// The temporary image of the plot with that number.
@@ -40,21 +40,20 @@ QString plotImage(quint64 number);
 
 namespace uiutils {
 
-/// The place on disk of an instrument path. Paths below /cust, /mnt/usb and /base and temporary plot images are
-/// put below the folder that the environment variable UIUTILS_ROOT names; every other path, and every path while
-/// the variable is empty or unset, comes back unchanged. What a path means counts, not how it is spelt: "//cust" and
-/// "/tmp/../cust" are "/cust", and none is put anywhere but below the folder, which "/cust/../.." would leave. Links
-/// are not looked into.
+/// The path on disk of an instrument path. Paths below /cust, /mnt/usb and /base and temporary plot images are mapped
+/// below the folder in the environment variable UIUTILS_ROOT; every other path, and every path while the variable is
+/// empty or unset, is returned unchanged. The meaning of a path counts, not its spelling: "//cust" and "/tmp/../cust"
+/// are "/cust", and no path, such as "/cust/../..", leads out of the folder. Links are not resolved.
 ///
-/// Call it only where the disk is touched or a process is started: everything that is shown, stored or signalled
-/// keeps the instrument's form.
+/// Call it only where the disk is accessed or a process is started: everything that is shown, stored or signalled keeps
+/// the instrument's form.
 ///
-/// While the variable's value is not text in the encoding of file names (see rootProblem()), those paths are put below
-/// a name that no file system takes: whatever is asked for there fails. The log says why, once.
+/// While the variable's value is not text in the encoding of file names (see rootProblem()), these paths are mapped
+/// below a name that no file system accepts: every access fails. The log has one line with the reason.
 QString onDisk(const QString& path);
 
-/// Why the folder that UIUTILS_ROOT names cannot be used, and what to do: its name is not written in the encoding of
-/// file names, mostly UTF-8, so that it would become another one's. Empty when it can, or none is named.
+/// Why the folder in UIUTILS_ROOT cannot be used, and what to do: its name is not written in the encoding of file
+/// names, mostly UTF-8, so that it would become the name of another folder. Empty when it can be used or is not set.
 QString rootProblem();
 
 } // namespace uiutils

@@ -15,7 +15,7 @@ struct Range
     uint last;
 };
 
-/// The letters that take two columns, as terminals show them; what is not assigned yet counts with its neighbours.
+/// Letters that take two columns in terminals; unassigned characters count like their neighbours.
 constexpr Range wideRanges[] = {
         {0x1100, 0x115f},
         {0x231a, 0x231b},
@@ -98,13 +98,13 @@ constexpr Range wideRanges[] = {
         {0x20000, 0x3fffd},
 };
 
-// Below these, all letters are one column wide; the soft hyphen shows as a hyphen.
+// Below these, all letters take one column; the soft hyphen is shown as a hyphen.
 constexpr uint firstMark = 0x300;
 constexpr uint firstWide = 0x1100;
 
 bool isMark(uint c)
 {
-    // Vowels and final consonants of Hangul join the letter before them.
+    // Vowels and final consonants of Hangul combine with the letter before them.
     if ((c >= 0x1160 && c <= 0x11ff) || (c >= 0xd7b0 && c <= 0xd7ff))
         return true;
     const QChar::Category category = QChar::category(c);
@@ -124,7 +124,7 @@ int columnsOf(uint c)
     return range != std::end(wideRanges) && range->first <= c ? 2 : 1;
 }
 
-/// The letter at `index`, which moves behind it.
+/// The letter at `index`; moves the index past it.
 uint takeLetter(QStringView text, int& index)
 {
     const QChar first = text.at(index++);
@@ -138,7 +138,7 @@ bool turnsDirection(ushort c)
     return (c >= 0x202a && c <= 0x202e) || (c >= 0x2066 && c <= 0x2069);
 }
 
-/// Whether the character is in plainText() as it is, whatever stands beside it.
+/// Whether plainText() keeps the character unchanged, whatever its neighbours are.
 bool isPlain(QChar character)
 {
     const ushort c = character.unicode();
@@ -200,10 +200,10 @@ QStringView takeLine(QStringView& text, int width)
         text = text.mid(next);
         return line;
     };
-    // Where the last blanks behind a word begin, and where they end.
+    // Where the last run of blanks after a word begins and ends.
     int wordEnd = -1;
     int nextWord = 0;
-    bool isBehindWord = false;
+    bool isAfterWord = false;
     int columns = 0;
     for (int i = 0; i < text.size();) {
         const int place = i;
@@ -212,13 +212,13 @@ QStringView takeLine(QStringView& text, int width)
             return taken(place, i);
         columns += columnsOf(c);
         if (c == ' ') {
-            if (isBehindWord)
+            if (isAfterWord)
                 wordEnd = place;
             if (wordEnd >= 0)
                 nextWord = i;
-            isBehindWord = false;
+            isAfterWord = false;
         } else if (columns <= width || place == 0) {
-            isBehindWord = true;
+            isAfterWord = true;
         } else if (wordEnd >= 0) {
             return taken(wordEnd, nextWord);
         } else {

@@ -3,22 +3,23 @@
 #include <QString>
 #include <QStringView>
 
-/// Text as a terminal or a printer with letters of one width shows it.
+/// Text as a terminal or a printer with fixed-width letters shows it.
 namespace uiutils {
 
-/// `text` without what would break the lines of a plain text: markupText(), all kinds of line ends as "\n", a tab as a
-/// blank, and no controls that turn the direction of what follows them, other cells included. A clean text comes back
-/// as the same shared string.
+/// `text` without anything that would break the lines of a plain text: markupText(), all kinds of line ends as "\n",
+/// tabs as blanks, and no controls that change the direction of the text after them, in other cells too. A clean text
+/// is returned as the same shared string.
 QString plainText(const QString& text);
 
-/// Whether every character of `text` is one column wide and none is a control, which most texts can be told by quickly.
+/// Whether every character of `text` takes one column and none is a control: a quick check that most texts pass.
 bool isSimpleText(const QString& text);
 
-/// How many columns a line takes: two for a wide letter, none for a mark upon the letter before it.
+/// The number of columns of a line: a wide letter takes two, a mark on the letter before it none.
 int displayWidth(QStringView line);
 
-/// Takes the next line of at most `width` columns off the front of `text`, a plainText(): up to a line end, else the
-/// last blank that fits, else in the middle of a word. At least one letter goes, however narrow the line.
+/// Removes the next line of at most `width` columns from the front of `text`, a plainText(), and returns it. The line
+/// ends at a line end, else at the last blank that fits, else in the middle of a word. It has at least one letter,
+/// however small `width` is.
 QStringView takeLine(QStringView& text, int width);
 
 } // namespace uiutils

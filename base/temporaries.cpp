@@ -19,9 +19,9 @@ namespace uiutils {
 namespace {
 
 const QLatin1String stem(".uiutils-");
-/// Lies in each temporary folder, so that a folder of somebody's reports is not taken for one, whatever its name.
+/// A file in each temporary folder, so that a folder of reports is never taken for one because of its name.
 constexpr char folderMark[] = ".uiutils-temporary";
-/// Deeper than any program nests what it keeps meanwhile: each level takes a descriptor and some stack.
+/// Deeper than any program nests temporary files: each level takes a descriptor and some stack.
 constexpr int deepestFolder = 32;
 
 enum class Kind { File, Folder, Foreign };
@@ -50,7 +50,7 @@ bool isOwn(const struct stat& entry)
     return entry.st_uid == ::geteuid();
 }
 
-/// Everything is named by the descriptor of the folder that holds it: a path could lead elsewhere by the time it is
+/// Every access goes through the descriptor of the containing folder: a path could lead elsewhere by the time it is
 /// used.
 int openMember(int folder, const char* name, int flags)
 {
@@ -61,7 +61,7 @@ int openMember(int folder, const char* name, int flags)
     return fd;
 }
 
-/// Whether the name still stands for what was opened.
+/// Whether the name still refers to the opened file.
 bool isStillNamed(int folder, const char* name, const struct stat& opened)
 {
     struct stat entry = {};
@@ -71,7 +71,7 @@ bool isStillNamed(int folder, const char* name, const struct stat& opened)
 
 using Listing = std::unique_ptr<DIR, int (*)(DIR*)>;
 
-/// What the folder holds; null when it cannot be read. Leaves the descriptor to its owner.
+/// Opens the folder for listing; null when it cannot be read. The caller keeps the descriptor.
 Listing listingOf(int folder)
 {
     const int fd = openMember(folder, ".", O_DIRECTORY);
@@ -81,7 +81,7 @@ Listing listingOf(int folder)
     return {listing, &::closedir};
 }
 
-/// The next name but "." and ".."; null at the end and, with the reason in errno, where the folder cannot be read.
+/// The next name except "." and ".."; null at the end and, with the reason in errno, if the folder cannot be read.
 const char* nextMember(DIR* listing)
 {
     const dirent* entry = nullptr;
@@ -94,7 +94,8 @@ const char* nextMember(DIR* listing)
 
 bool removeMember(int folder, const char* name, dev_t device, int depth);
 
-/// False when something stays. The mark of the uppermost does in any case: it is known by it until it goes itself.
+/// False when something remains. The mark of the top folder always does: it identifies the folder until the folder
+/// itself is removed.
 bool removeMembers(int folder, dev_t device, int depth)
 {
     const Listing listing = listingOf(folder);
@@ -125,7 +126,7 @@ bool removeMember(int folder, const char* name, dev_t device, int depth)
     return isEmpty && ::unlinkat(folder, name, AT_REMOVEDIR) == 0;
 }
 
-/// Whether it has the mark, or nothing at all: then it was left before it got its mark, or after that had gone.
+/// Whether it has the mark, or is empty: then its maker ended before it set the mark, or after it removed the mark.
 bool isTemporaryFolder(int folder)
 {
     struct stat mark = {};
@@ -135,7 +136,7 @@ bool isTemporaryFolder(int folder)
     return listing && !nextMember(listing.get()) && errno == 0;
 }
 
-/// The lock is kept until it is gone, so that no maker takes it for its own meanwhile.
+/// The lock is held until the folder is removed, so that no maker uses it meanwhile.
 void removeIfStale(int parent, const char* name, Kind kind)
 {
     const int fd = openMember(parent, name, kind == Kind::Folder ? O_DIRECTORY : 0);
@@ -150,8 +151,8 @@ void removeIfStale(int parent, const char* name, Kind kind)
     ::close(fd);
 }
 
-/// False, with the reason in errno, when somebody holds it, and when that cannot be found out. A link has no maker that
-/// holds it, and goes itself.
+/// False, with the reason in errno, when another process holds the lock, and when that cannot be found out. A link has
+/// no maker that could hold one, and is removed itself.
 bool removeMemberUnlessHeld(int folder, const char* name)
 {
     struct stat entry = {};
@@ -173,7 +174,7 @@ bool removeMemberUnlessHeld(int folder, const char* name)
 
 QString newTemporaryName(QLatin1String end)
 {
-    // Names of 255 bytes are legal: this one must not grow out of the target's own.
+    // Names of 255 bytes are legal: this one must not grow with the name of the target.
     return stem + QString::number(QRandomGenerator::global()->generate(), 36) + end;
 }
 
@@ -199,7 +200,7 @@ void removeTemporaryFolder(int parent, const char* name, int folder)
     ::unlinkat(folder, folderMark, 0);
     if (isStillNamed(parent, name, opened) && ::unlinkat(parent, name, AT_REMOVEDIR) == 0)
         return;
-    // Something is in it still, or has come.
+    // Something remains in it, or was added.
     markTemporaryFolder(folder);
 }
 
@@ -207,7 +208,7 @@ bool removeUnlessHeld(const QString& path)
 {
     const QFileInfo file(path);
     const QByteArray name = QFile::encodeName(file.fileName());
-    // The folder may be one to write into and not to list.
+    // A folder may allow writing and not listing.
     const int folder = ::open(QFile::encodeName(file.path()).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
     const bool isFree = folder >= 0 ? removeMemberUnlessHeld(folder, name.constData()) : errno == ENOENT;
     const int reason = errno;

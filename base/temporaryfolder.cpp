@@ -34,7 +34,7 @@ void closeAndForget(int* fd)
 } // namespace
 
 TemporaryFolder::TemporaryFolder(const QString& parent)
-    // Also one that may be written into and not listed.
+    // Opens folders that allow writing and not listing, too.
     : m_parent(openFolder(AT_FDCWD, QFile::encodeName(parent), O_PATH))
 {
     if (m_parent < 0)
@@ -46,7 +46,7 @@ TemporaryFolder::TemporaryFolder(const QString& parent)
         m_path = parent + QLatin1Char('/') + QString::fromLatin1(m_name);
 }
 
-/// False with EEXIST when it has been taken for left behind before its lock was, and has gone.
+/// False with EEXIST when another process has taken it for stale before it was locked, and removed it.
 bool TemporaryFolder::make()
 {
     if (::mkdirat(m_parent, m_name.constData(), 0700) != 0)
@@ -55,7 +55,7 @@ bool TemporaryFolder::make()
     const bool isLost = m_fd >= 0 ? !lockTemporary(m_fd) : errno == ENOENT;
     if (m_fd >= 0 && !isLost && markTemporaryFolder(m_fd))
         return true;
-    // Whoever took it for left behind may be about to remove it: then no mark can be made in it any more.
+    // A process that took it for stale may be about to remove it: then the mark cannot be created in it.
     const int reason = isLost || errno == ENOENT ? EEXIST : errno;
     closeAndForget(&m_fd);
     ::unlinkat(m_parent, m_name.constData(), AT_REMOVEDIR);

@@ -6,12 +6,12 @@
 
 namespace uiutils {
 
-/// A folder of its own beside what is being made in it. Goes with everything in it; what a killed process leaves,
-/// removeStaleTemporaries() takes away.
+/// A folder of its own beside the target that is being written. Removed with everything in it; after a kill
+/// removeStaleTemporaries() removes what remains.
 class TemporaryFolder
 {
 public:
-    /// Makes it in `parent`, which has to exist. When that fails, path() is empty and errno says why.
+    /// Creates it in `parent`, which must exist. On failure path() is empty and errno gives the reason.
     explicit TemporaryFolder(const QString& parent);
     ~TemporaryFolder();
     Q_DISABLE_COPY_MOVE(TemporaryFolder)

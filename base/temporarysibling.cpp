@@ -15,7 +15,7 @@ namespace uiutils {
 
 TemporarySibling::TemporarySibling(const QString& target, const QString& name)
 {
-    // The system would take what stands before it for the whole path.
+    // The system would take the part before it for the complete path.
     if (target.contains(QChar(QChar::Null)))
         errno = EINVAL;
     else if (name.isEmpty())
@@ -35,8 +35,8 @@ void TemporarySibling::createUnderNewName(const QString& folder)
     } while (m_fd < 0 && (errno == EEXIST || errno == EINTR));
 }
 
-/// What lies there was left by a power cut, or is being written: two writers of one name would take each other's half
-/// file for their own. A folder stays, and is an error.
+/// Removes an existing file of that name, which a power cut left. A file that is being written is an error: two writers
+/// of one name would take each other's half file for their own. So is a folder, which stays.
 void TemporarySibling::createUnder(const QString& name)
 {
     m_path = name;
@@ -92,7 +92,7 @@ bool TemporarySibling::close()
 {
     const int fd = m_fd;
     m_fd = -1;
-    // After EINTR the descriptor is gone on Linux, and what was synced is safe.
+    // After EINTR the descriptor is closed on Linux, and synced data are safe.
     return ::close(fd) == 0 || errno == EINTR;
 }
 
@@ -110,8 +110,8 @@ bool TemporarySibling::renameTo(const QString& target, bool mayReplace)
     return m_renamed;
 }
 
-/// While the file is still empty, so that what only some may read is never open to others. Not an error when it fails:
-/// the file systems of memory sticks know no modes.
+/// Called while the file is still empty, so that private data are never readable to others. Failure is not an error:
+/// the file systems of USB drives have no modes.
 void TemporarySibling::takeModeOf(const QString& target)
 {
     struct stat old = {};

@@ -5,13 +5,13 @@
 
 namespace uiutils {
 
-/// A file that did not exist before, in the folder of a target, removed again unless it was renamed to it. What cannot
-/// be done leaves the reason in errno.
+/// A new file in the folder of a target, removed again unless it is renamed to the target. A failure leaves the reason
+/// in errno.
 class TemporarySibling
 {
 public:
-    /// `target` is a path on disk. An empty `name` makes up one that nobody has; what lies under another goes,
-    /// unless its writer lives.
+    /// `target` is a path on disk. With an empty `name` a unique one is chosen. Otherwise an existing file of that
+    /// name is removed, unless its writer lives.
     explicit TemporarySibling(const QString& target, const QString& name = QString());
     ~TemporarySibling();
     Q_DISABLE_COPY_MOVE(TemporarySibling)
@@ -22,8 +22,8 @@ public:
     bool write(const QByteArray& contents);
     bool sync();
     bool close();
-    /// What lies at the target goes, or, unless `mayReplace`, stays and is the error EEXIST, also when it came a moment
-    /// ago. File systems that cannot make sure of that replace it.
+    /// An existing target is replaced. Unless `mayReplace`, it stays and the error is EEXIST, even when it appeared a
+    /// moment ago. File systems that cannot guarantee that replace it.
     bool renameTo(const QString& target, bool mayReplace = true);
 
 private:

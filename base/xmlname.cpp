@@ -14,8 +14,8 @@ struct Range
     ushort last;
 };
 
-/// Letters that every edition of XML 1.0 takes into a name: Latin, Greek, Cyrillic, Hebrew, Arabic, Devanagari, Thai,
-/// kana, Han and Hangul. Later editions take more, but readers of the earlier ones are still about.
+/// Letters that every edition of XML 1.0 accepts in a name: Latin, Greek, Cyrillic, Hebrew, Arabic, Devanagari, Thai,
+/// kana, Han and Hangul. Later editions accept more, but readers of the earlier ones are still in use.
 constexpr Range letters[] = {{0xc0, 0xd6}, {0xd8, 0xf6}, {0xf8, 0x131}, {0x134, 0x13e}, {0x141, 0x148}, {0x14a, 0x17e},
         {0x386, 0x386}, {0x388, 0x38a}, {0x38c, 0x38c}, {0x38e, 0x3a1}, {0x3a3, 0x3ce}, {0x401, 0x40c}, {0x40e, 0x44f},
         {0x451, 0x45c}, {0x45e, 0x481}, {0x490, 0x4c4}, {0x5d0, 0x5ea}, {0x621, 0x63a}, {0x641, 0x64a}, {0x905, 0x939},

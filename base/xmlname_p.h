@@ -5,12 +5,12 @@
 namespace uiutils {
 
 /// `name` as an XML element or attribute name: letters, digits, "_", "-" and "." stay, every other character becomes
-/// "_", and a name that begins with a digit, "-", "." or the reserved "xml" gets a "_" in front. A colon becomes "_"
-/// too, so that no name has a namespace prefix. A name that is one comes back as
-/// the same shared string, an empty one empty.
+/// "_", and "_" is put before a name that begins with a digit, "-", "." or the reserved "xml". A colon becomes "_" too,
+/// so that no name has a namespace prefix. A valid name is returned as the same shared string, an empty one stays
+/// empty.
 QString xmlName(const QString& name);
 
-/// `text` as an XML comment may hold it: hyphens in a row are parted by blanks, and so is one at the end from the end.
+/// `text` as the contents of an XML comment: blanks separate consecutive hyphens, and a final hyphen from the end.
 QString xmlComment(const QString& text);
 
 } // namespace uiutils

@@ -11,7 +11,7 @@ bool isControl(ushort c)
     return (c < 0x20 && c != '\t' && c != '\n' && c != '\r') || (c >= 0x7f && c < 0xa0);
 }
 
-/// Whether `c` needs a second look; true for every surrogate, paired or not.
+/// Whether `c` needs a closer look; true for every surrogate, paired or not.
 bool isSuspicious(QChar character)
 {
     const ushort c = character.unicode();

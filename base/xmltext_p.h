@@ -4,9 +4,9 @@
 
 namespace uiutils {
 
-/// `text` as a text or attribute value of XML or HTML may hold it: control characters but for tab and line ends go,
-/// a surrogate without its partner and the non-characters U+FFFE and U+FFFF become U+FFFD. A clean text comes back
-/// as the same shared string. Escaping is left to the stream writer.
+/// `text` as a text or attribute value of XML or HTML: control characters except tab and line ends are left out,
+/// unpaired surrogates and the non-characters U+FFFE and U+FFFF become U+FFFD. A clean text is returned as the same
+/// shared string. Escaping is left to the stream writer.
 QString markupText(const QString& text);
 
 } // namespace uiutils

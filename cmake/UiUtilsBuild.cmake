@@ -28,7 +28,7 @@ add_compile_definitions(
 # uiutils_install_headers(<folder below include> <header>...)
 #
 # Headers lie in rooms in the tree and flat once installed, so an include of a sibling room
-# ("document/reporttemplate.h") has to become a plain one ("reporttemplate.h") on the way.
+# ("document/reporttemplate.h") is changed to a plain one ("reporttemplate.h") during installation.
 function(uiutils_install_headers folder)
     set(flat "${CMAKE_CURRENT_BINARY_DIR}/headers")
     foreach(header IN LISTS ARGN)
@@ -42,9 +42,9 @@ function(uiutils_install_headers folder)
     endforeach()
 endfunction()
 
-# uiutils_install_manual(<program> <what it does, in a few words>)
+# uiutils_install_manual(<program> <short description>)
 #
-# The manual page is the program's own help; without help2man there is none.
+# The manual page is the program's own help; without help2man there is no page.
 find_program(UIUTILS_HELP2MAN help2man)
 function(uiutils_install_manual program summary)
     if(NOT UIUTILS_HELP2MAN OR CMAKE_CROSSCOMPILING)
@@ -54,7 +54,7 @@ function(uiutils_install_manual program summary)
     add_custom_command(OUTPUT "${page}"
         COMMAND "${CMAKE_COMMAND}" -E env LC_ALL=C.UTF-8
             "${UIUTILS_HELP2MAN}" --no-info --section=1 "--name=${summary}" "--output=${page}" "./$<TARGET_FILE_NAME:${program}>"
-        # help2man hands the program to a shell as it is, so its path may hold no blank.
+        # help2man passes the program to a shell unquoted, so its path must not contain a blank.
         WORKING_DIRECTORY "$<TARGET_FILE_DIR:${program}>"
         DEPENDS ${program}
         VERBATIM)

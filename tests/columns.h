@@ -5,7 +5,7 @@
 #include <tuple>
 #include <utility>
 
-/// What the columns of a test's table go by: their places.
+/// The keys of a test table's columns: their positions.
 constexpr const char* columnNames[] {"0", "1", "2", "3", "4", "5"};
 
 /// Declares the columns of a test's table.
@@ -22,7 +22,7 @@ std::tuple<Types...> valuesAt(std::index_sequence<Places...>)
     return {*static_cast<const Types*>(QTest::qData(columnNames[Places], qMetaTypeId<Types>()))...};
 }
 
-/// The values of the row that the test runs for, in the order of the columns.
+/// The values of the row under test, in the order of the columns.
 template<typename... Types>
 std::tuple<Types...> currentRow()
 {

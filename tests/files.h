@@ -5,14 +5,14 @@
 #include <QProcess>
 #include <QVector>
 
-/// The bytes of a file; none of what is no file or cannot be read.
+/// The bytes of a file; empty when it is not a file or cannot be read.
 inline QByteArray contentsOf(const QString& path)
 {
     QFile file(path);
     return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Makes a file and the folders above it, and returns its path. Ends the program when it cannot.
+/// Writes a file, creates its folders, and returns its path. Ends the program on failure.
 inline QString writeFile(const QString& path, const QByteArray& contents)
 {
     QFile file(path);
@@ -22,13 +22,13 @@ inline QString writeFile(const QString& path, const QByteArray& contents)
     return path;
 }
 
-/// What lies in a folder, hidden entries too.
+/// The entries of a folder, hidden ones included.
 inline QStringList namesIn(const QString& folder)
 {
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 
-/// What a program says, on both channels; starts with "status" unless it ended well.
+/// The output of a program on both channels; starts with "status" if it failed.
 inline QString outputOf(const QString& program, const QStringList& arguments, const QByteArray& input = {})
 {
     QProcess process;
@@ -42,7 +42,7 @@ inline QString outputOf(const QString& program, const QStringList& arguments, co
     return process.exitCode() == 0 ? output : QString("status %1\n%2").arg(process.exitCode()).arg(output);
 }
 
-/// The rows of a table below tests/data, of cells separated by " | "; a line that begins with "#" is for the reader.
+/// The rows of a table below tests/data, with cells separated by " | "; a line that begins with "#" is a comment.
 inline QVector<QStringList> tableIn(const QString& name)
 {
     QVector<QStringList> rows;
@@ -54,16 +54,16 @@ inline QVector<QStringList> tableIn(const QString& name)
     return rows;
 }
 
-/// How a program has ended, and what it said.
+/// How a program ended, and its output.
 struct Outcome
 {
-    /// -1 of one that crashed or hung.
+    /// -1 after a crash or a hang.
     int exitCode = -1;
     QByteArray output;
     QString errors;
 };
 
-/// Waits for the end of a program that runs, and makes one.
+/// Waits for the end of a running program, and starts one.
 inline Outcome ended(QProcess& process)
 {
     const bool isDone = process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit;

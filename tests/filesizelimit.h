@@ -5,8 +5,8 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// Lets no file of this process and its children grow past `bytes` while it lives: every write beyond fails like on a full
-/// disk, also for root.
+/// While it lives, no file of this process and its children can grow past `bytes`: every write beyond fails like on a
+/// full disk, even for root.
 class FileSizeLimit
 {
 public:

@@ -6,8 +6,8 @@
 
 #include <QtTest>
 
-/// Compares `actual` with the golden file and says where they part. Under UIUTILS_UPDATE_GOLDEN=1 it writes the file
-/// instead: look at the difference before committing it.
+/// Compares `actual` with the golden file and shows the first difference. Under UIUTILS_UPDATE_GOLDEN=1 it writes the
+/// file instead: look at the difference before you commit it.
 inline QString goldenDifference(const QString& path, const QByteArray& actual)
 {
     if (qEnvironmentVariableIntValue("UIUTILS_UPDATE_GOLDEN") == 1) {
@@ -25,7 +25,7 @@ inline QString goldenDifference(const QString& path, const QByteArray& actual)
             .arg(path, QString::number(line + 1), expected.value(line), lines.value(line));
 }
 
-/// One of the documents that every writer has golden files of.
+/// One of the documents for which every writer has golden files.
 inline void readDocument(ReportTemplate& report, const QString& name)
 {
     report.readFile(UIUTILS_TEST_DATA_DIR "/documents/" + name + ".json");

@@ -4,7 +4,7 @@
 #include <QQmlError>
 #include <QStringList>
 
-/// What engines complain about. It has to stay as long as they do, or longer.
+/// Collects the warnings of engines. It must live at least as long as they do.
 class QmlWarnings : public QObject
 {
 public:
@@ -16,7 +16,7 @@ public:
         });
     }
 
-    /// The complaints since the last call.
+    /// The warnings since the last call.
     QStringList take()
     {
         QStringList taken;

@@ -6,7 +6,7 @@
 
 #include <QtTest>
 
-/// A document of random shape: nested sections, tables, rows, cells, missing keys, texts of all planes.
+/// A document of random shape: nested sections, tables, rows, cells, missing keys, texts from all planes of Unicode.
 class RandomDocument
 {
 public:

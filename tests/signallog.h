@@ -5,12 +5,12 @@
 
 #include <utility>
 
-/// Names of an object's signals in the order in which they come, with the texts that they bring; those of a base that the class
-/// declares anew are marked.
+/// Names of an object's signals in the order of emission, with their texts; signals of a base that the class declares
+/// again are marked.
 class SignalLog : public QObject
 {
 public:
-    /// The lines go to `log`, if there is one.
+    /// The lines are added to `log`, if there is one.
     explicit SignalLog(const QObject* object, QStringList* log = nullptr)
         : m_type(object->metaObject())
         , m_log(log ? log : &names)

@@ -28,7 +28,7 @@ build_packages=(
 # manual pages that are tested with the tools, and lupdate collects the texts for translators.
 test_packages=(
     dbus xvfb xauth poppler-utils qpdf libxml2-utils tidy strace help2man python3 tzdata
-    qttools5-dev qttools5-dev-tools
+    qttools5-dev qttools5-dev-tools python3-dbus python3-gi
 )
 
 # Standard output stays free for the program and for the test results.

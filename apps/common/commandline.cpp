@@ -19,7 +19,7 @@ QString versionText()
 
 CommandLine parse(QCommandLineParser& parser, const QStringList& arguments, const Answers& answers)
 {
-    // The parser's own help option would bring options of Qt along.
+    // The parser's own help option would add options of Qt.
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
             QCoreApplication::translate("CommandLine", "Show this help."));
     parser.addOption(help);

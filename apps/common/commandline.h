@@ -10,12 +10,12 @@ class QCommandLineParser;
 
 namespace uiutils::apps {
 
-/// What a program makes of its command line; a program's own options derive from it.
+/// The result of reading a command line; each program derives its own options from it.
 struct CommandLine
 {
     enum Outcome {
         Run,
-        /// `message` is for standard output, and the program is done.
+        /// `message` is for standard output, and the program ends.
         Answered,
         /// `message` says what is wrong with the command line.
         Misused,
@@ -25,20 +25,21 @@ struct CommandLine
     QString message;
 };
 
-/// What a program says of itself. Where a text is null, the parser's own help, and the name and version of the program.
+/// How a program describes itself. Null texts stand for the parser's own help, and for the name and version of the
+/// program.
 struct Answers
 {
     QString help;
     QString version;
 };
 
-/// Reads the arguments, the program's own name first, with the options that the parser has, --help and --version.
+/// Reads the arguments, the program's own name first, with the parser's options, --help and --version.
 CommandLine parse(QCommandLineParser& parser, const QStringList& arguments, const Answers& answers = {});
 
-/// A line that cannot be understood, for the reason in `message`.
+/// The result for a command line with the error `message`.
 CommandLine misused(const QString& message);
 
-/// The same for a program that does not run, as its own options.
+/// The same as options of the program.
 template<typename Options> Options ended(const CommandLine& line)
 {
     Options options;
@@ -46,14 +47,14 @@ template<typename Options> Options ended(const CommandLine& line)
     return options;
 }
 
-/// What `read` makes of the arguments before a display is opened, so that --help works without one.
+/// Calls `read` with the arguments before a display is opened, so that --help works without one.
 template<typename Read> auto readEarly(int argc, char** argv, Read read)
 {
     const QCoreApplication application(argc, argv);
     return read(QCoreApplication::arguments());
 }
 
-/// Says what there is to say of a line that the program does not run with. Returns its exit code then.
+/// Prints the message if the program is not to run, and returns its exit code then.
 std::optional<int> exitCodeOf(const CommandLine& line);
 
 } // namespace uiutils::apps

@@ -8,7 +8,7 @@ constexpr int exitDone = 0;
 constexpr int exitFailed = 1;
 constexpr int exitMisused = 2;
 
-/// Says on standard error, behind the program's name, what went wrong. Returns the exit code.
+/// Prints the error on standard error, after the program's name. Returns the exit code.
 int complain(const QString& text, int exitCode = exitFailed);
 
 } // namespace uiutils::apps

@@ -22,7 +22,7 @@ DisplaySetup::DisplaySetup()
     ensureRuntimeFolder();
     if (isSet("QT_QPA_PLATFORM"))
         return;
-    // Later ones stand in when the display does not answer or its plug-in is missing.
+    // The later ones are used when the display does not answer or its plug-in is missing.
     QByteArray platforms("offscreen");
     if (isSet("DISPLAY"))
         platforms.prepend("xcb;");
@@ -43,7 +43,7 @@ void DisplaySetup::ensureRuntimeFolder()
 {
     if (isSet("XDG_RUNTIME_DIR"))
         return;
-    // One that was killed could not take its folder along.
+    // A process that was killed could not remove its folder.
     removeStaleTemporaries(QDir::tempPath());
     m_runtimeFolder = std::make_unique<TemporaryFolder>(QDir::tempPath());
     if (!m_runtimeFolder->path().isEmpty())

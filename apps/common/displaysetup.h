@@ -6,15 +6,15 @@
 
 namespace uiutils::apps {
 
-/// Chooses where the program draws, before the application object is made: on the display that the
-/// environment names, or off screen when there is none. Keep it until the application object is gone.
+/// Chooses where the program draws, before the application object is created: on the display that the environment
+/// names, or off screen if there is none. Keep it until the application object is destroyed.
 class DisplaySetup
 {
 public:
     DisplaySetup();
 
-    /// Whether nobody can see and use the window. Ask once the application object exists: a display that is
-    /// named need not answer.
+    /// Whether nobody can see and use the window. Call it when the application object exists: a display that is named
+    /// may not answer.
     static bool isOffScreen();
 
 private:

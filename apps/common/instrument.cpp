@@ -28,8 +28,8 @@ namespace {
 /// How long a start waits for services in other processes; those that are slower are added when they come.
 constexpr int startTimeoutMs = 3000;
 
-/// What begins the names of a service's items: the last part of a name such as "com.example.test", which QML cannot
-/// spell.
+/// The beginning of the names of a service's items: the last part of a name such as "com.example.test", because QML
+/// names contain no points.
 QString tagOf(const QString& service)
 {
     return service.section(QLatin1Char('.'), -1);

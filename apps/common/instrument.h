@@ -42,12 +42,12 @@ public:
     /// Brings the services up. Returns null, having complained, when there are none, or KIV_PLATFORM is unknown.
     static std::unique_ptr<Instrument> start(const InstrumentSetup& setup);
 
-    /// Over the services that `backend` publishes; it has to stay.
+    /// Over the services that `backend` publishes. The back end must outlive this object.
     explicit Instrument(const kiv::embedded::EmbeddedBackend& backend);
     ~Instrument() override;
 
-    /// Makes them known to all pages of the engine, which must not have loaded one yet and has to go before this
-    /// object.
+    /// Makes them known to all pages of the engine. The engine must not have loaded a page yet and must be destroyed
+    /// before this object.
     void showTo(QQmlEngine* engine);
 
     /// The own side of a service that this process publishes, or null.
@@ -69,7 +69,7 @@ private:
     std::unique_ptr<Platform> m_platform;
     QVector<Manifest*> m_manifests;
     QQmlEngine* m_engine = nullptr;
-    /// Pages may read the services and not replace them.
+    /// Pages can read the services, not replace them.
     class Services final : public QQmlPropertyMap
     {
         QVariant updateValue(const QString& key, const QVariant&) override { return value(key); }

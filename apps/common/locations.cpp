@@ -10,7 +10,7 @@ namespace uiutils::apps {
 
 namespace {
 
-/// The folder beside the installed program, or that of the tree for a program that was only built.
+/// The folder beside the installed program, or the one in the tree for a program that was not installed.
 QString besideProgramOrOfTree(const QString& fromProgram, const QString& ofTree)
 {
     const QString installed = QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1Char('/') + fromProgram);

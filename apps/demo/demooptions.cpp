@@ -16,6 +16,14 @@ DemoOptions misused(const QString& message)
     return apps::ended<DemoOptions>(apps::misused(message));
 }
 
+QString description()
+{
+    return Texts::tr("Measures TCP over this machine's loopback interface and saves a report of it, the way a test "
+                     "application of the instrument does.\n"
+                     "With a display a window opens. Without one, or with --tour, the program runs by itself.\n\n"
+                     "Exit status: 0 done, 1 failed, 2 wrong command line.");
+}
+
 } // namespace
 
 DemoOptions readOptions(const QStringList& arguments)
@@ -23,11 +31,7 @@ DemoOptions readOptions(const QStringList& arguments)
     const QString ownRoot = apps::defaultRoot(QStringLiteral("uiutils-demo"));
     const QStringList ownServices = apps::defaultServiceFolders();
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-            Texts::tr("Measures TCP over this machine's loopback interface and saves a report of it, the way a test "
-                      "application of the instrument does.\n"
-                      "With a display a window opens. Without one, or with --tour, the program runs by itself.\n\n"
-                      "Exit status: 0 done, 1 failed, 2 wrong command line."));
+    parser.setApplicationDescription(description());
     const QCommandLineOption root(QStringLiteral("root"),
             Texts::tr("Keep everything that is written below <folder> (default: %1).").arg(ownRoot),
             Texts::tr("folder"), ownRoot);
@@ -42,7 +46,10 @@ DemoOptions readOptions(const QStringList& arguments)
             Texts::tr("number"));
     const QCommandLineOption tour(
             QStringLiteral("tour"), Texts::tr("Measure, save a report, take a picture of each page and quit."));
-    parser.addOptions({root, services, samples, tour});
+    const QCommandLineOption follow(QStringLiteral("follow"),
+            Texts::tr("Wait until another application changes the user's name, the services end and return; take a "
+                      "picture of each and quit. Needs KIV_PLATFORM=bus."));
+    parser.addOptions({root, services, samples, tour, follow});
 
     const apps::CommandLine line = apps::parse(parser, arguments);
     if (line.outcome != apps::CommandLine::Run)
@@ -67,6 +74,7 @@ DemoOptions readOptions(const QStringList& arguments)
     options.root = QDir::cleanPath(QDir().absoluteFilePath(parser.value(root)));
     options.serviceFolders = parser.isSet(services) ? parser.values(services) : ownServices;
     options.isTour = parser.isSet(tour);
+    options.isFollower = parser.isSet(follow);
     return options;
 }
 

@@ -7,15 +7,17 @@
 
 namespace uiutils::demo {
 
-/// What the command line and the environment ask of the demo.
+/// The demo's options, from the command line and the environment.
 struct DemoOptions : apps::CommandLine
 {
     /// Absolute folder below which the instrument's paths lie.
     QString root;
     QStringList serviceFolders;
-    /// Samples of each quantity; 0 for as many as the settings say.
+    /// Samples of each quantity; 0 for the number in the settings.
     int samples = 0;
     bool isTour = false;
+    /// Watch what other processes do.
+    bool isFollower = false;
 };
 
 /// Reads the arguments, the program's own name first. Needs a QCoreApplication and no display.

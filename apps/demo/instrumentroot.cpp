@@ -30,12 +30,12 @@ QString whatToDo()
     return QLatin1Char(' ') + Texts::tr("Check that you may write there, or name another folder with --root.");
 }
 
-/// A link of an earlier run may lead to a build that is gone.
+/// A link of an earlier run may lead to a build that has been deleted.
 bool linkViewer(const QString& root, const QString& viewer, QString* error)
 {
     if (viewer.isEmpty())
         return true;
-    // The viewer is started in a folder that has to be there.
+    // The viewer is started in a folder that must exist.
     const QFileInfo there(root + paths::pdfViewer);
     if (!makeFolder(there.path(), error) || !makeFolder(root + paths::pdfViewerFolder, error))
         return false;
@@ -45,7 +45,7 @@ bool linkViewer(const QString& root, const QString& viewer, QString* error)
     QFile::remove(place);
     if (QFile::link(viewer, place))
         return true;
-    *error = Texts::tr("The link %1 to the viewer of PDF files cannot be made.").arg(place) + whatToDo();
+    *error = Texts::tr("The link %1 to the viewer of PDF files cannot be created.").arg(place) + whatToDo();
     return false;
 }
 
@@ -53,19 +53,19 @@ bool linkViewer(const QString& root, const QString& viewer, QString* error)
 
 bool makeFolder(const QString& folder, QString* error)
 {
-    // The nearest thing on the way that exists decides what there is to say.
+    // The error depends on the nearest existing part of the path.
     QFileInfo nearest(folder);
     while (!nearest.exists() && nearest.path() != nearest.filePath())
         nearest.setFile(nearest.path());
     if (!nearest.isDir()) {
-        *error = Texts::tr("The folder %1 cannot be made, because %2 is a file. Name another folder with --root.")
+        *error = Texts::tr("The folder %1 cannot be created, because %2 is a file. Name another folder with --root.")
                          .arg(folder, nearest.filePath());
         return false;
     }
     if (QDir().mkpath(folder))
         return true;
     *error = Texts::tr(
-            "The folder %1 cannot be made in %2. Check that you may write there, or name another folder with "
+            "The folder %1 cannot be created in %2. Check that you may write there, or name another folder with "
             "--root.")
                      .arg(folder, nearest.filePath());
     return false;
@@ -74,7 +74,7 @@ bool makeFolder(const QString& folder, QString* error)
 bool prepareInstrumentRoot(const QString& root, const QString& viewer, QString* error)
 {
     const QString images = root + paths::images;
-    // Reports leave their plots in the instrument's /tmp.
+    // Reports write their plots to the instrument's /tmp.
     if (!makeFolder(images, error) || !makeFolder(root + QStringLiteral("/tmp"), error))
         return false;
     const QStringList names = QDir(QStringLiteral(":/uiutils/images")).entryList();

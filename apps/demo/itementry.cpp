@@ -31,7 +31,7 @@ void ItemEntry::enter(const QVariant& value)
         return;
     m_isEntering = true;
     setRefusal({});
-    // An item takes back its last write only; so that this is always the service's value, each write is the first.
+    // An item reverts only its last write; each write must be the first, so that it reverts to the service's value.
     m_item->revert();
     if (value != m_served) {
         Q_EMIT edited();

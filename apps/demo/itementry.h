@@ -8,20 +8,19 @@
 
 namespace uiutils::demo {
 
-/// What a row of a page enters for a setting while a transaction holds it back.
+/// What the user enters for a setting in a row of a page while a transaction holds it back.
 ///
-/// The item itself shows the held value only; an entry also knows the service's, and so whether there is anything to
-/// apply. Entering the service's value again takes the change back.
+/// The item itself shows only the held value; an entry also knows the service's, and so whether there is anything to
+/// apply. Entering the service's value again withdraws the change.
 class ItemEntry : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(KivData* item READ item WRITE setItem NOTIFY itemChanged)
-    /// The value that the service holds; the last one while the service is away.
+    /// The service's value; the last one while the service is away.
     Q_PROPERTY(QVariant served READ served NOTIFY servedChanged)
     /// Whether the item's value waits to be applied.
     Q_PROPERTY(bool pending READ isPending NOTIFY pendingChanged)
-    /// Why the service did not take the entry, in its words; empty once something else is entered or the entry is
-    /// settled.
+    /// Why the service rejected the entry, in its words; empty when something else is entered or the entry is settled.
     Q_PROPERTY(QString refusal READ refusal NOTIFY refusalChanged)
 
 public:
@@ -34,7 +33,7 @@ public:
 
     void setItem(KivData* item);
 
-    /// Gives the item a value.
+    /// Sets the item's value.
     Q_INVOKABLE void enter(const QVariant& value);
 
 Q_SIGNALS:
@@ -42,11 +41,11 @@ Q_SIGNALS:
     void servedChanged();
     void pendingChanged();
     void refusalChanged();
-    /// The item is about to be given a value: the moment to begin a transaction.
+    /// The item is about to be set: the moment to begin a transaction.
     void edited();
-    /// The service did not take the entry, for the reason in `words`; at every try.
+    /// The service rejected the entry, for the reason in `words`; emitted for every attempt.
     void refused(const QString& words);
-    /// The item's value was changed by somebody else than this entry.
+    /// The item's value was changed by something other than this entry.
     void reported();
 
 private:

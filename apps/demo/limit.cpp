@@ -4,12 +4,11 @@ namespace uiutils::demo {
 
 Status::Code Limit::judge(double value) const
 {
-    const bool isKept = kind == AtMost ? value <= bound : value >= bound;
-    if (!isKept)
+    const bool isMet = kind == AtMost ? value <= bound : value >= bound;
+    if (!isMet)
         return Status::Fail;
-    const bool isKeptWell
-            = kind == AtMost ? value <= bound * (1 - marginalShare) : value >= bound * (1 + marginalShare);
-    return isKeptWell ? Status::Pass : Status::Marginal;
+    const bool isMetWell = kind == AtMost ? value <= bound * (1 - marginalShare) : value >= bound * (1 + marginalShare);
+    return isMetWell ? Status::Pass : Status::Marginal;
 }
 
 } // namespace uiutils::demo

@@ -4,10 +4,10 @@
 
 namespace uiutils::demo {
 
-/// Share of the limit by which a value has to keep it to pass; a value closer to the limit is marginal.
+/// The margin, as a share of the limit, with which a value must meet the limit to pass; with less it is marginal.
 constexpr double marginalShare = 0.2;
 
-/// A bound that a measured value has to keep.
+/// A limit for a measured value.
 struct Limit
 {
     enum Kind { AtMost, AtLeast };
@@ -16,7 +16,7 @@ struct Limit
     /// In the unit of the values; 0 or more.
     double bound = 0;
 
-    /// Fail when the value misses the bound, Marginal when it keeps it by less than the marginal share.
+    /// Fail when the value does not meet the limit, Marginal when it meets it with less than the marginal share.
     Status::Code judge(double value) const;
 };
 

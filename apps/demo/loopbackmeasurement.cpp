@@ -73,8 +73,9 @@ QString LoopbackMeasurement::method() const
               "arrived. Throughput: %6 samples, each the time for sending %3 MiB until the server had acknowledged the "
               "last byte; 1 Mbit/s is 1,000,000 bits a second. Between samples there is a pause of %4 ms, and one "
               "exchange of each kind before the first sample is not counted. Jitter is the mean difference between "
-              "neighbouring samples. A value passes when it keeps its limit by %5 % or more, is marginal when it keeps "
-              "it by less, and fails when it misses it; the overall status is that of the worse median.")
+              "neighbouring samples. A value passes when it meets its limit with a margin of at least %5 %, is "
+              "marginal when it meets it with less, and fails when it does not meet it; the overall status is that of "
+              "the worse median.")
             .arg(text(m_runSettings.roundTripSamples), text(m_runSettings.messageBytes),
                     text(m_runSettings.transferMebibytes), text(m_runSettings.pauseMilliseconds),
                     text(qRound(marginalShare * 100)), text(m_runSettings.throughputSamples));
@@ -82,8 +83,8 @@ QString LoopbackMeasurement::method() const
 
 QString LoopbackMeasurement::rangeText()
 {
-    return tr(
-            "A run takes %1 to %2 samples of each and messages of %3 B or more; what lies beyond is brought into range.")
+    return tr("A run takes %1 to %2 samples of each and messages of %3 B or more; other values are changed to the "
+              "nearest permitted one.")
             .arg(QString::number(fewestSamples), QString::number(mostSamples), QString::number(smallestMessage));
 }
 
@@ -119,7 +120,7 @@ void LoopbackMeasurement::setCount(int* count, int samples)
 
 void LoopbackMeasurement::setMessageBytes(int bytes)
 {
-    // The number that tells a message from the one before has to fit behind the header.
+    // The number that distinguishes messages must fit after the header.
     static_assert(smallestMessage >= protocol::headerSize + 3 && largestMessage <= int(protocol::largestEcho));
     m_settings.messageBytes = qBound(smallestMessage, bytes, largestMessage);
 }
@@ -190,7 +191,7 @@ void LoopbackMeasurement::take(SampleModel* quantity, double value)
     quantity->append(value);
     Q_EMIT progressChanged();
     Q_EMIT sampleTaken(quantity, value);
-    // Whoever heard of the sample may have cancelled the run.
+    // A slot that heard of the sample may have cancelled the run.
     if (isRunning() && m_roundTrip.count() == m_runSettings.roundTripSamples)
         setState(MeasuringThroughput);
 }

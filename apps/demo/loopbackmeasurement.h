@@ -12,9 +12,9 @@ namespace uiutils::demo {
 /// Measures round-trip time and throughput of TCP over this machine's loopback interface, with a server and a
 /// client of its own.
 ///
-/// Client and server share a thread apart from the display, so that drawing delays no sample; everything here
-/// is called, and every signal comes, on the thread of this object. start() may be called again after any
-/// end. The object may be destroyed at any time and waits only for the exchange step under way.
+/// Client and server share a thread of their own, so that drawing delays no sample; all functions here are called, and
+/// all signals emitted, on the thread of this object. start() may be called again after any end. The object may be
+/// destroyed at any time and waits only for the current step of the exchange.
 class LoopbackMeasurement : public QObject
 {
     Q_OBJECT
@@ -24,18 +24,18 @@ class LoopbackMeasurement : public QObject
     Q_PROPERTY(QString stateText READ stateText NOTIFY stateChanged)
     /// What ended the run early and what to do; empty unless the state is Failed.
     Q_PROPERTY(QString errorText READ errorText NOTIFY stateChanged)
-    /// Share of the samples of this run that were taken, 0 to 1.
+    /// The share of this run's samples that has been taken, 0 to 1.
     Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
     /// "address:port" of the server of the last run; empty before the first.
     Q_PROPERTY(QString serverAddress READ serverAddress NOTIFY serverAddressChanged)
     /// When the last run began, ISO 8601 with the offset from UTC; empty before the first.
     Q_PROPERTY(QString startTime READ startTime NOTIFY stateChanged)
-    /// How the samples of the last run were taken, in sentences for a reader of the report.
+    /// How the samples of the last run were taken, in sentences for the report.
     Q_PROPERTY(QString method READ method NOTIFY stateChanged)
-    /// Samples of a quantity in the next run, fewestSamples to mostSamples; other values are brought into range.
+    /// Samples of a quantity in the next run, fewestSamples to mostSamples; other values are clamped.
     Q_PROPERTY(int roundTripSamples READ roundTripSamples WRITE setRoundTripSamples NOTIFY samplesChanged)
     Q_PROPERTY(int throughputSamples READ throughputSamples WRITE setThroughputSamples NOTIFY samplesChanged)
-    /// What a run can be asked for, in a sentence.
+    /// The permitted settings of a run, in a sentence.
     Q_PROPERTY(QString rangeText READ rangeText CONSTANT)
     Q_PROPERTY(uiutils::demo::SampleModel* roundTrip READ roundTrip CONSTANT)
     Q_PROPERTY(uiutils::demo::SampleModel* throughput READ throughput CONSTANT)
@@ -50,7 +50,7 @@ public:
     static constexpr int mostSamples = 200;
     static constexpr int smallestMessage = 20;
     static constexpr int largestMessage = 65536;
-    /// Limits at the start: what any machine that is fit for this instrument's screens keeps with ease.
+    /// Initial limits, which any machine that can show this instrument's screens meets with ease.
     static constexpr double maximumRoundTripMilliseconds = 1;
     static constexpr double minimumThroughputMegabits = 1000;
 
@@ -77,20 +77,19 @@ public:
     void setThroughputSamples(int samples);
     /// The same count for both.
     void setSamples(int samples);
-    /// Bytes of the message whose way there and back is timed, smallestMessage to largestMessage; other values are
-    /// brought into range; for the next run.
+    /// Bytes of the message whose round trip is timed, smallestMessage to largestMessage; other values are clamped; for
+    /// the next run.
     void setMessageBytes(int bytes);
-    /// Silence of the connection, above zero, after which a run fails; for the next run.
+    /// Maximum silence of the connection, above zero, before a run fails; for the next run.
     void setPatience(int milliseconds) { m_settings.patienceMilliseconds = milliseconds; }
     /// Pause between two samples, 0 or more; for the next run.
     void setPause(int milliseconds) { m_settings.pauseMilliseconds = milliseconds; }
-    /// Port on the loopback address of a server to use in place of an own one, 0 for an own one; for the next
-    /// run.
+    /// Port of a server on the loopback address, 0 for a server of this object's own; for the next run.
     void setServerPort(quint16 port) { m_settings.port = port; }
 
-    /// Drops the samples of the run before and starts one; does nothing while one is running.
+    /// Discards the samples of the previous run and starts a new one; does nothing during a run.
     Q_INVOKABLE void start();
-    /// Ends the run at once and keeps the samples taken; does nothing when none is running.
+    /// Ends the run at once and keeps the samples taken; does nothing without a run.
     Q_INVOKABLE void cancel();
 
 Q_SIGNALS:
@@ -114,14 +113,14 @@ private:
     void setCount(int* count, int samples);
 
     LoopbackSettings m_settings;
-    /// As m_settings was when the last run began.
+    /// m_settings at the start of the last run.
     LoopbackSettings m_runSettings;
     SampleModel m_roundTrip;
     SampleModel m_throughput;
     QThread m_thread;
-    /// Lives in m_thread; null while no run is under way.
+    /// Lives in m_thread; null between runs.
     LoopbackProbe* m_probe = nullptr;
-    /// Number of the run: what an ended run still has on its way is told by it and dropped.
+    /// Number of the run: signals of an ended run that are still queued are recognized by it and discarded.
     int m_run = 0;
     State m_state = Idle;
     QString m_errorText;

@@ -11,11 +11,11 @@ namespace uiutils::demo {
 namespace {
 
 constexpr qint64 mebibyte = 1 << 20;
-/// Bytes given to the socket at once, and how many of them may wait in it.
+/// Bytes passed to the socket at once, and the maximum that may be queued in it.
 constexpr int slice = 256 * 1024;
 constexpr qint64 mostWaiting = 512 * 1024LL;
 
-/// What transfers are made of; made once, so that no sample pays for it.
+/// The payload of transfers; created once, so that no sample pays for it.
 const QByteArray& filler()
 {
     static const QByteArray bytes(slice, 'u');
@@ -50,7 +50,7 @@ LoopbackProbe::LoopbackProbe(const LoopbackSettings& settings)
 
 LoopbackProbe::~LoopbackProbe()
 {
-    // The socket tells of its own end, and nobody is left to hear it.
+    // The socket reports its own end, and nobody is there to receive that.
     m_socket.disconnect(this);
 }
 
@@ -95,7 +95,7 @@ void LoopbackProbe::beginExchange()
 void LoopbackProbe::sendMessage()
 {
     const int payload = m_settings.messageBytes - protocol::headerSize;
-    // Each message differs from the one before, so that a late echo cannot pass for the next.
+    // Each message differs from the previous one, so that a late echo cannot be taken for the next.
     m_expectedReply = protocol::encode({protocol::Echo, quint64(payload)})
             + QByteArray::number(m_taken).rightJustified(payload, '.', true);
     m_clock.start();
@@ -131,7 +131,7 @@ void LoopbackProbe::readReply()
         return;
     const qint64 nanoseconds = m_clock.nsecsElapsed();
     if (m_expectedReply.isEmpty() || m_socket.readAll() != m_expectedReply) {
-        fail(tr("The server at %1 gave an answer that does not belong to the question while %2. Another "
+        fail(tr("The server at %1 sent an answer that does not match the request while %2. Another "
                 "program may be listening there; start again.")
                         .arg(m_address, activity()));
         return;
@@ -143,7 +143,7 @@ void LoopbackProbe::readReply()
 
 void LoopbackProbe::completeExchange(qint64 nanoseconds)
 {
-    // No clock is that fine on a network, but a division by zero would be no measurement.
+    // No network exchange takes zero time, but a division by zero would not be a measurement.
     nanoseconds = qMax<qint64>(nanoseconds, 1);
     if (m_taken >= 0 && m_phase == Phase::RoundTrip)
         Q_EMIT roundTripTaken(double(nanoseconds) / 1e6);

@@ -13,25 +13,25 @@ namespace uiutils::demo {
 
 class LoopbackServer;
 
-/// How one run is to be measured.
+/// How one run is measured.
 struct LoopbackSettings
 {
     int roundTripSamples = 20;
     int throughputSamples = 20;
-    /// Bytes of the message whose way there and back is timed; room for the protocol's header at least.
+    /// Bytes of the message whose round trip is timed; at least the size of the protocol's header.
     int messageBytes = 64;
     /// Mebibytes (MiB) sent for one throughput sample.
     int transferMebibytes = 8;
     /// Pause between two samples in milliseconds, so that they are spread over time.
     int pauseMilliseconds = 40;
-    /// Silence of the connection, in milliseconds, after which the run fails.
+    /// Maximum silence of the connection before the run fails, in milliseconds.
     int patienceMilliseconds = 5000;
     /// Port of a server on the loopback address; 0 starts one for the run.
     quint16 port = 0;
 };
 
-/// One run: connects, takes the samples of the round-trip time and then those of the throughput, all on the
-/// event loop of the thread that it lives in. Delete it to break the run off.
+/// One run: connects, then takes the samples of the round-trip time and those of the throughput, all on the event loop
+/// of its thread. Delete it to cancel the run.
 ///
 /// One exchange of each kind before the first sample is not counted: it pays for the start of the connection
 /// and for cold caches.
@@ -52,7 +52,7 @@ Q_SIGNALS:
     void roundTripTaken(double milliseconds);
     /// In Mbit/s, a million bits a second.
     void throughputTaken(double megabitsPerSecond);
-    /// All samples were taken. Either this or failed() ends the run.
+    /// All samples were taken. A run ends with either this or failed().
     void finished();
     /// The run ended early; the text says what happened and what to do.
     void failed(const QString& text);
@@ -83,7 +83,7 @@ private:
     QElapsedTimer m_clock;
     QString m_address;
     Phase m_phase = Phase::Connecting;
-    /// Samples taken in this phase; -1 while the exchange that is not counted is under way.
+    /// Samples taken in this phase; -1 during the exchange that is not counted.
     int m_taken = -1;
     QByteArray m_expectedReply;
     qint64 m_unsent = 0;

@@ -3,20 +3,19 @@
 #include <QByteArray>
 #include <QtEndian>
 
-/// What the loopback client and server say to each other: requests of a header and a payload, one after
-/// another.
+/// What the loopback client and server exchange: requests of a header and a payload, one after another.
 namespace uiutils::demo::protocol {
 
 enum Kind : quint32 {
-    /// The whole request, header and payload, comes back as it is.
+    /// The complete request, header and payload, is returned unchanged.
     Echo = 1,
-    /// The payload is dropped; once its last byte has arrived the header comes back.
+    /// The payload is discarded; when its last byte has arrived, the header is returned.
     Sink = 2,
 };
 
 constexpr quint32 magic = 0x55694c42;
 constexpr int headerSize = 16;
-/// Echoes are held in memory, so a larger one is refused.
+/// Echoes are held in memory, so a larger one is rejected.
 constexpr quint64 largestEcho = 1 << 20;
 
 struct Header
@@ -35,7 +34,7 @@ inline QByteArray encode(const Header& header)
     return bytes;
 }
 
-/// False when the bytes are no header that the server can serve.
+/// False when the bytes are not a header that the server can serve.
 inline bool decode(const QByteArray& bytes, Header* header)
 {
     if (bytes.size() != headerSize || qFromBigEndian<quint32>(bytes.constData()) != magic)

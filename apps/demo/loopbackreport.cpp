@@ -17,7 +17,7 @@ namespace {
 
 constexpr int longestTitle = 80;
 
-/// The switches of the writers that show a status on the report.
+/// Settings of the writers that show a status on the report.
 const struct
 {
     QLatin1String name;
@@ -25,7 +25,7 @@ const struct
 } statusFlags[] = {{QLatin1String("pass"), Status::Pass}, {QLatin1String("marginal"), Status::Marginal},
         {QLatin1String("fail"), Status::Fail}};
 
-/// The logo within the page itself; empty when there is none.
+/// The logo as part of the page; empty without a logo.
 QString logoUri()
 {
     QFile file(onDisk(paths::logo));
@@ -99,7 +99,7 @@ bool LoopbackReport::hasResults() const
     return m_measurement && m_measurement->state() == LoopbackMeasurement::Finished;
 }
 
-/// A name that was stored belongs to a run before.
+/// A stored name belongs to an earlier run.
 void LoopbackReport::settingsLoaded()
 {
     proposeName();
@@ -121,7 +121,7 @@ QString LoopbackReport::proposedFileName()
 
 QString LoopbackReport::cannotGenerateReportMessage()
 {
-    return hasResults() ? QString() : tr("First finish a measurement on the page Measure.");
+    return hasResults() ? QString() : tr("Finish a measurement on the Measure page first.");
 }
 
 bool LoopbackReport::save(bool overwrite)
@@ -132,7 +132,7 @@ bool LoopbackReport::save(bool overwrite)
     return isSaved;
 }
 
-/// The last one of a save in all formats.
+/// The last file of a save in all formats.
 bool LoopbackReport::writeJsonReport(const QString& path, bool overwrite)
 {
     setNotifiesTray(true);
@@ -148,7 +148,7 @@ void LoopbackReport::keepFirstSettings()
 void LoopbackReport::prepareDocument()
 {
     Q_EMIT contentWanted();
-    // Of the last save, the others.
+    // The other files of the last save.
     for (const auto& flag : statusFlags)
         setWriterAttribute(flag.name, hasResults() && m_measurement->status() == flag.status);
 }

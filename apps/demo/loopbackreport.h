@@ -10,15 +10,15 @@ namespace uiutils::demo {
 
 /// Saves the report of a loopback measurement, in any format.
 ///
-/// Beside the settings of every report there are "reportTitle", the title on the report, and "reportCompression",
+/// It adds two settings to those of every report: "reportTitle", the title on the report, and "reportCompression",
 /// whether the files are compressed.
 class LoopbackReport : public Report
 {
     Q_OBJECT
-    /// What is reported on; stays the caller's. The end of a run gives the report a new name.
+    /// The subject of the report; the caller keeps ownership. Each run gives the report a new name when it ends.
     Q_PROPERTY(uiutils::demo::LoopbackMeasurement* measurement READ measurement WRITE setMeasurement NOTIFY
                     measurementChanged)
-    /// The document that the next save writes.
+    /// The document for the next save.
     Q_PROPERTY(ReportTemplate* content READ content CONSTANT)
 
 public:
@@ -32,33 +32,33 @@ public:
 
     ReportTemplate* content() { return &document(); }
 
-    /// Where the files of all saves lie on this machine's disk, in the order of saving, each once.
+    /// The paths of the saved files on this machine's disk, in the order of saving, each once.
     QStringList savedFiles() const { return m_savedFiles; }
 
-    /// Saves the report. Of the files of one save, the user is told once.
+    /// Saves the report. The user is notified once for all files of a save.
     bool save(bool overwrite = false) override;
-    /// "loopback_20260131-142500": a name of its own for each run; "loopback" before the first.
+    /// "loopback_20260131-142500": a separate name for each run; "loopback" before the first.
     QString proposedFileName() override;
     QString cannotGenerateReportMessage() override;
     QString generateTxtReport() override;
     QString generateJsonReport() override;
     bool writeJsonReport(const QString& path, bool overwrite = false) override;
-    /// A page that needs no other file.
+    /// An HTML page that needs no other file.
     QString generateHtmlReport() override;
 
-    /// For whoever has changed the saved files.
+    /// Call it after changing the saved files.
     void tellFilesChanged() { Q_EMIT reportFilesChanged(); }
 
-    /// Puts the settings on the disk as they are now.
+    /// Writes the present settings to the disk.
     void keepSettings() { saveSettings(); }
-    /// The same where there are none yet, so that from then on it is worth a warning when they cannot be read.
+    /// Does that only if there are none yet, so that the user is warned later when they cannot be read.
     void keepFirstSettings();
 
 Q_SIGNALS:
     void measurementChanged();
-    /// A save needs the content: whoever hears this builds it before returning.
+    /// A save needs the content: the receiver builds it before returning.
     void contentWanted();
-    /// A save has written the file at the instrument path; comes before reportFilesChanged().
+    /// A save has written the file at the instrument path; emitted before reportFilesChanged().
     void fileWritten(const QString& path);
 
 protected:

@@ -9,7 +9,7 @@ namespace uiutils::demo {
 
 namespace {
 
-/// Serves one client; lives and dies with its socket.
+/// Serves one client; deleted with its socket.
 class Connection : public QObject
 {
 public:
@@ -47,7 +47,7 @@ private:
         return true;
     }
 
-    /// True once the request has been answered.
+    /// True when the request has been answered.
     bool echo()
     {
         if (m_socket->bytesAvailable() < m_missing)

@@ -4,11 +4,10 @@
 
 namespace uiutils::demo {
 
-/// The far end of the measurement: echoes messages and swallows transfers on a free port of the loopback
-/// address.
+/// The server of the measurement: echoes messages and discards transfers on a free port of the loopback address.
 ///
-/// Everything runs on the event loop of the thread that the server lives in. A connection that sends anything
-/// else than requests is dropped.
+/// Everything runs on the event loop of the server's thread. A connection that sends anything except requests is
+/// closed.
 class LoopbackServer : public QTcpServer
 {
     Q_OBJECT
@@ -16,7 +15,7 @@ class LoopbackServer : public QTcpServer
 public:
     explicit LoopbackServer(QObject* parent = nullptr);
 
-    /// Listens on a free port; false, with the reason in errorString(), when there is none.
+    /// Listens on a free port; false, with the reason in errorString(), on failure.
     bool listenOnLoopback();
 
 private:

@@ -4,6 +4,7 @@
 #include "common/startup.h"
 #include "demooptions.h"
 #include "demotypes.h"
+#include "follower.h"
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
@@ -61,6 +62,18 @@ int runTour(Tour& tour)
     return QCoreApplication::exec();
 }
 
+int runFollower(Follower& follower)
+{
+    QObject::connect(&follower, &Follower::noticed, qApp, [](const QString& text) { say(text); });
+    QObject::connect(
+            &follower, &Follower::finished, qApp, [] { QCoreApplication::exit(exitDone); }, Qt::QueuedConnection);
+    QObject::connect(
+            &follower, &Follower::failed, qApp, [](const QString& text) { QCoreApplication::exit(complain(text)); },
+            Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&follower, &Follower::start, Qt::QueuedConnection);
+    return QCoreApplication::exec();
+}
+
 int runDemo(const DemoOptions& options)
 {
     if (!useRoot(options.root))
@@ -74,7 +87,7 @@ int runDemo(const DemoOptions& options)
     say(Texts::tr("Everything is written below %1").arg(options.root));
 
     registerDemoTypes();
-    // The pages draw their own controls on top of this style; another one would show through.
+    // The pages draw their own controls over this style; another style would show through.
     qputenv("QT_QUICK_CONTROLS_STYLE", "Default");
     const bool isOffScreen = DisplaySetup::isOffScreen();
     if (isOffScreen)
@@ -95,6 +108,12 @@ int runDemo(const DemoOptions& options)
                 "The main page could not be loaded, for the reason given above. Check that the QML modules QtQuick, "
                 "QtQuick.Controls, QtQuick.Layouts and QtQuick.Window are installed."));
 
+    if (options.isFollower) {
+        Follower follower(window, options.root + QStringLiteral("/pictures/"));
+        const int exitCode = runFollower(follower);
+        list(Texts::tr("Pictures:"), follower.pictures());
+        return exitCode;
+    }
     auto* const report = window->property("report").value<LoopbackReport*>();
     report->keepFirstSettings();
     auto* const camera = window->property("camera").value<ScreenCamera*>();
@@ -116,7 +135,7 @@ int main(int argc, char** argv)
     if (const auto exitCode = exitCodeOf(options))
         return *exitCode;
 
-    // What the library notes for its developers is no business of a user, who may ask for it by QT_LOGGING_RULES.
+    // The library's notes for developers do not concern users, who may enable them by QT_LOGGING_RULES.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     const DisplaySetup display;
     const QGuiApplication application(argc, argv);

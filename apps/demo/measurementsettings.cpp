@@ -17,7 +17,7 @@ const QLatin1String messageSizeId(":config:loopback:test:messageSize:");
 const QLatin1String roundTripLimitId(":config:loopback:limits:maximumRtt:");
 const QLatin1String throughputLimitId(":config:loopback:limits:minimumThroughput:");
 
-/// Values are the service's and may be anything; what does not fit is brought into range by who takes it.
+/// A service may give any value; the receiver clamps those out of range.
 int wholeNumber(double value)
 {
     return int(qBound(0.0, value, 1e9));
@@ -35,7 +35,7 @@ MeasurementSettings::MeasurementSettings(
         return;
     connect(client, &KIVClientInterface::itemsChanged, this, &MeasurementSettings::followAll);
     followAll();
-    // Only now, so that what the measurement began with is not set in the service.
+    // Connected only now, so that the measurement's initial values are not written to the service.
     connect(measurement->roundTrip(), &SampleModel::limitChanged, this,
             [this] { write(roundTripLimitId, m_measurement->roundTrip()); });
     connect(measurement->throughput(), &SampleModel::limitChanged, this,
@@ -64,7 +64,7 @@ void MeasurementSettings::follow(const QString& id, const std::function<void(dou
         if (isNumber && std::isfinite(value))
             take(value);
     };
-    // Items that stayed when others came or went are followed already.
+    // Items that stayed while others were added or removed are already connected.
     item->disconnect(this);
     connect(item, &KIVClientItem::valueChanged, this, takeValue);
     takeValue();
@@ -76,7 +76,7 @@ void MeasurementSettings::write(const QString& id, SampleModel* quantity)
     if (!item || item->getValue().toDouble() == quantity->limit() || m_client->setItem(id, quantity->limit()))
         return;
     qWarning("%s", qUtf8Printable(m_client->getLastError()));
-    // Through the event loop: whoever changed the limit still tells of it.
+    // Through the event loop, because the object that changed the limit is still emitting.
     QMetaObject::invokeMethod(this, &MeasurementSettings::followAll, Qt::QueuedConnection);
 }
 

@@ -13,12 +13,12 @@ namespace uiutils::demo {
 class LoopbackMeasurement;
 class SampleModel;
 
-/// Keeps the measurement and the settings of the service "loopback" at one: sample counts, message size and limits come
-/// from the service, at once and whenever it reports others, and a limit that is changed at the measurement is set
-/// there. A limit that the service refuses goes back to what the service holds.
+/// Synchronizes the measurement with the settings of the service "loopback": sample counts, message size and limits are
+/// read from the service, at once and whenever they change, and a limit that changes in the measurement is written to
+/// the service. If the service rejects a limit, the measurement gets the service's value again.
 ///
-/// The measurement has to outlive it. Without a client, or for an item that the service does not have, the measurement
-/// keeps what it has.
+/// The measurement must outlive it. Without a client, or for an item that the service lacks, the measurement keeps its
+/// values.
 class MeasurementSettings : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ class MeasurementSettings : public QObject
 public:
     enum SampleCounts {
         FollowSampleCounts,
-        /// The counts were asked for otherwise and stay as they are.
+        /// The counts were given on the command line and stay as they are.
         KeepSampleCounts,
     };
 

@@ -13,9 +13,9 @@ namespace uiutils::demo {
 
 class LoopbackMeasurement;
 
-/// Lets the services "loopback_rtt" and "loopback_throughput" publish the samples of each run that finishes, with the
-/// limits of that moment, so that reports can plot them. A service that is not published is passed over. Ends with
-/// the measurement. `service` gives the own side of a service by its name, or null.
+/// Publishes the samples of each finished run through the services "loopback_rtt" and "loopback_throughput", with the
+/// limits of that moment, so that reports can plot them. A service that is not published is left out. Deleted with the
+/// measurement. `service` returns the own side of a service by its name, or null.
 void publishResults(LoopbackMeasurement* measurement,
         const std::function<kiv::embedded::EmbeddedService*(const QString&)>& service);
 

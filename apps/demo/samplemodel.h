@@ -9,8 +9,8 @@
 
 namespace uiutils::demo {
 
-/// The samples of one measured quantity in the order in which they were taken, their statistics and how each
-/// stands to the quantity's limit.
+/// The samples of one measured quantity in the order in which they were taken, their statistics and the status of each
+/// against the quantity's limit.
 ///
 /// A row's roles are "number" (from 1), "value", "text" (number and unit in the user's locale), "status" (a
 /// code of Status) and "statusText".
@@ -33,7 +33,7 @@ class SampleModel : public QAbstractListModel
 public:
     enum Role { NumberRole = Qt::UserRole + 1, ValueRole, TextRole, StatusRole, StatusTextRole };
 
-    /// Texts show three digits that count, with no more than `mostDecimals` of them after the point.
+    /// Texts show three significant digits, with at most `mostDecimals` of them after the point.
     SampleModel(const QString& title, const QString& unit, int mostDecimals, const Limit& limit, QObject* parent);
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -51,14 +51,14 @@ public:
     double limit() const { return m_limit.bound; }
     QString limitText() const;
 
-    /// Judges every sample anew. A limit below zero, or none at all (NaN), is ignored.
+    /// Judges every sample again. A negative limit, or NaN, is ignored.
     void setLimit(double limit);
 
-    /// A number of this quantity without its unit, for a big figure.
+    /// A number of this quantity without its unit, for a large figure.
     Q_INVOKABLE QString numberText(double value) const;
     /// A number of this quantity with its unit.
     Q_INVOKABLE QString text(double value) const;
-    /// How a value of this quantity stands to the limit.
+    /// The status of a value against the limit.
     Q_INVOKABLE int statusOf(double value) const { return m_limit.judge(value); }
     /// The sample in that row, from 0; 0 outside the rows.
     Q_INVOKABLE double valueAt(int row) const { return m_samples.value(row); }

@@ -19,14 +19,14 @@ namespace {
 
 const QString fileNameKey = QStringLiteral("Filename");
 
-/// Also a link that leads nowhere.
+/// Also true for a broken link.
 bool isThere(const QString& path)
 {
     const QFileInfo file(onDisk(path));
     return file.exists() || file.isSymLink();
 }
 
-/// A line feed in a file's name parts no two files, as it would in the question.
+/// A line feed in a file's name does not separate two files, as it would in the question.
 QString onOneLine(QString path)
 {
     return path.replace(QLatin1Char('\n'), QLatin1Char(' '));
@@ -72,7 +72,7 @@ QVariantList SavedReportActions::reportsInUnit()
 
 QVariantList SavedReportActions::reportsOnUsb() const
 {
-    // Without a drive the folder is the unit's.
+    // Without a drive the folder would be the unit's.
     return instrument::isDriveThere(paths::usb) ? reportFiles(paths::usb) : QVariantList();
 }
 
@@ -83,7 +83,7 @@ void SavedReportActions::remove(const QString& path)
 
 void SavedReportActions::removeNow(const QString& path)
 {
-    // What went with its drive is not deleted.
+    // Files that left with their drive are not deleted.
     const bool isGone = instrument::isDriveThere(path) && (QFile::remove(onDisk(path)) || !isThere(path));
     if (isGone)
         forget(path);
@@ -96,7 +96,7 @@ void SavedReportActions::removeNow(const QString& path)
 void SavedReportActions::forget(const QString& path)
 {
     removeReportRecord(path);
-    // The list takes no path with a line feed.
+    // The list accepts no path with a line feed.
     if (!m_report || path.contains(QLatin1Char('\n')))
         return;
     m_report->removeReportFromNoSyncList(path);
@@ -105,7 +105,7 @@ void SavedReportActions::forget(const QString& path)
 void SavedReportActions::copyToUsb(const QString& path)
 {
     const QString target = instrument::usbPath(path);
-    // Without a drive the folder is the unit's.
+    // Without a drive the folder would be the unit's.
     if (instrument::isDriveThere(target) && isThere(target))
         m_copying.sendNotificationOverwriteRequest(target, {{fileNameKey, path}});
     else
@@ -121,7 +121,7 @@ void SavedReportActions::copyNow(const QString& path)
         m_copying.sendNotificationReadError(path);
         return;
     }
-    // Without a drive the room would be the unit's.
+    // Without a drive the space would be the unit's.
     if (instrument::isDriveThere(target) && !m_copying.checkDriveSpaceForFile(contents->size(), target))
         return;
     if (writeToDrive(target, *contents, true, &error) == NewFile::Written) {

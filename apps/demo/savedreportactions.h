@@ -10,14 +10,14 @@
 
 namespace uiutils::demo {
 
-/// What users do with a saved report beside opening it. They are asked before anything is lost, and told what went
-/// wrong.
+/// What users can do with a saved report apart from opening it. They are asked before anything is lost, and notified of
+/// errors.
 ///
-/// Paths are the instrument's, as `reportFiles` of the controller has them.
+/// Paths are the instrument's, as in the controller's `reportFiles`.
 class SavedReportActions : public QObject
 {
     Q_OBJECT
-    /// Whose reports they are; stays the caller's. It tells that its files have changed.
+    /// The controller of the reports, which stays the caller's; it announces that its files have changed.
     Q_PROPERTY(uiutils::demo::LoopbackReport* report READ report WRITE setReport NOTIFY reportChanged)
 
 public:
@@ -26,17 +26,18 @@ public:
     LoopbackReport* report() const { return m_report; }
     void setReport(LoopbackReport* report);
 
-    /// Whether there is what the controller's showPDF() starts, which says nothing when there is not.
+    /// Whether the program that the controller's showPDF() starts exists. showPDF() reports nothing when it does not.
     Q_INVOKABLE bool hasViewer() const;
     /// The reports in the unit's folder, wherever the next one is saved, in the order and form of `reportFiles`.
     Q_INVOKABLE QVariantList reportsInUnit();
-    /// The reports on the USB drive, but not those of its folders, in the order and form of `reportFiles`; none without
-    /// a drive. As there, a file is a report when its name ends like one.
+    /// The reports on the USB drive, without those in its subfolders, in the order and form of `reportFiles`; none
+    /// without a drive. As in `reportFiles`, the ending of its name makes a file a report.
     Q_INVOKABLE QVariantList reportsOnUsb() const;
-    /// Asks whether the report may be deleted. A yes takes along its metadata record and what keeps it from the cloud.
+    /// Asks whether the report may be deleted. After a yes its metadata record and its line in the no-sync list are
+    /// removed too.
     Q_INVOKABLE void remove(const QString& path);
-    /// Copies the report to the USB drive; asks before it takes the place of a file there. The tray tells when the copy
-    /// is safe.
+    /// Copies the report to the USB drive; asks before it replaces a file there. The tray notifies the user when the
+    /// copy is safe.
     Q_INVOKABLE void copyToUsb(const QString& path);
 
 Q_SIGNALS:

@@ -15,7 +15,7 @@ namespace uiutils::demo {
 
 namespace {
 
-/// Time in which a window that is drawn at all has drawn a picture, in milliseconds.
+/// Time in which any window that is being drawn gives a picture, in milliseconds.
 constexpr int picturePatience = 10000;
 
 const QString suffix = QStringLiteral(".png");
@@ -67,7 +67,7 @@ void ScreenCamera::shoot(QQuickWindow* window)
     const QString baseName = freeBaseName(QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-hhmmss")));
     m_grab = window->contentItem()->grabToImage();
     if (!m_grab) {
-        fail(pathOf(baseName), tr("The window gives no picture."));
+        fail(pathOf(baseName), tr("No picture of the window could be taken."));
         return;
     }
     // Queued, because the result must outlive its own signal.
@@ -85,21 +85,21 @@ void ScreenCamera::shoot(QQuickWindow* window)
 void ScreenCamera::keep(const QString& baseName)
 {
     m_patience.stop();
-    // It may have lost its patience in the same moment.
+    // The timeout may have come in the same moment.
     if (!m_grab)
         return;
     const QByteArray bytes = pngOf(m_grab->image());
     m_grab.clear();
     const QString path = pathOf(baseName);
     if (bytes.isEmpty()) {
-        fail(path, tr("The window gave an empty picture."));
+        fail(path, tr("The picture of the window is empty."));
         return;
     }
     if (!m_files.checkDriveSpaceForFile(qint64(bytes.size()), path)) {
-        Q_EMIT failed(tr("There is no room for the picture."));
+        Q_EMIT failed(tr("There is not enough space for the picture."));
         return;
     }
-    // Where there is no folder, writing says so.
+    // If there is no folder, the write reports that.
     makeFolderDurably(onDisk(paths::screenshots));
     QString error;
     if (!writeFileDurably(onDisk(path), bytes, &error)) {
@@ -108,7 +108,7 @@ void ScreenCamera::keep(const QString& baseName)
     }
     Screenshot record;
     record.setBaseName(baseName);
-    // The picture is safe without it; the log tells.
+    // The picture is safe without the record; the log has a line.
     record.saveMetadata();
     m_pictures += onDisk(path);
     tellTaken(m_files.getSanitizedPathName(path));

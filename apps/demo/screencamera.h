@@ -15,8 +15,8 @@ namespace uiutils::demo {
 /// The image as PNG; empty when there is no image.
 QByteArray pngOf(const QImage& image);
 
-/// Takes pictures of the screen and keeps them in "/cust/public/screenshots/", each with its metadata record. The tray
-/// tells of each picture; a dialog tells when there is none.
+/// Takes pictures of the screen and stores them in "/cust/public/screenshots/", each with its metadata record. The tray
+/// notifies the user of each picture, a dialog of each failure.
 class ScreenCamera : public QObject
 {
     Q_OBJECT
@@ -24,21 +24,20 @@ class ScreenCamera : public QObject
 public:
     explicit ScreenCamera(QObject* parent = nullptr);
 
-    /// Takes a picture of everything that the window shows, its dialogs too, and returns before it is kept. Nothing
-    /// happens while one is under way.
+    /// Takes a picture of everything in the window, its dialogs included, and returns before it is stored. Does nothing
+    /// while another picture is being taken.
     Q_INVOKABLE void shoot(QQuickWindow* window);
 
-    /// Where the pictures lie on this machine's disk, in their order.
+    /// The paths of the pictures on this machine's disk, in the order of taking.
     QStringList pictures() const { return m_pictures; }
 
-    /// "screenshot_20260131-142500" for a time of that text, with "_2", "_3" behind it when a picture of that name is
-    /// there.
+    /// "screenshot_20260131-142500" for a time with that text, followed by "_2", "_3" if a picture of that name exists.
     static QString freeBaseName(const QString& time);
 
 Q_SIGNALS:
-    /// The picture is kept; an instrument path.
+    /// The picture is stored; an instrument path.
     void taken(const QString& path);
-    /// There is none; the text says why, in words for whoever looks into the matter.
+    /// There is no picture; the text gives the reason, for the log.
     void failed(const QString& reason);
 
 private:
@@ -47,9 +46,9 @@ private:
 
     FileUtils m_files;
     QStringList m_pictures;
-    /// The picture under way; null between pictures.
+    /// The picture being taken; null between pictures.
     QSharedPointer<QQuickItemGrabResult> m_grab;
-    /// Runs while a picture is under way.
+    /// Runs while a picture is being taken.
     QTimer m_patience;
 };
 

@@ -4,19 +4,19 @@
 
 namespace uiutils::demo {
 
-/// What a series of samples comes to, in the unit of the samples. All zero for an empty series.
+/// Statistics of a series of samples, in the unit of the samples. All zero for an empty series.
 struct Statistics
 {
     int count = 0;
     double minimum = 0;
-    /// The middle sample by size, or the mean of the two middle ones.
+    /// The middle sample by size, or the mean of the middle two.
     double median = 0;
     double maximum = 0;
     /// Mean of the absolute differences of neighbouring samples; zero for fewer than two.
     double jitter = 0;
 };
 
-/// The statistics of the samples, which are given in the order in which they were taken.
+/// Computes the statistics of samples in the order in which they were taken.
 Statistics statisticsOf(const QVector<double>& samples);
 
 } // namespace uiutils::demo

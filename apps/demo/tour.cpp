@@ -19,12 +19,12 @@ namespace uiutils::demo {
 
 namespace {
 
-/// Time in which a window that is drawn at all has drawn a picture, in milliseconds.
+/// Time in which any window that is being drawn gives a picture, in milliseconds.
 constexpr int picturePatience = 20000;
 
 const QString formatSetting = QStringLiteral("reportFormat");
 
-/// What the user is told or asked now; empty when nothing is.
+/// The text of the open dialog; empty without one.
 QString openDialogText()
 {
     const KIVNotification* const dialog = KIVNotificationModelManager::instance()->currentDialog();
@@ -72,7 +72,7 @@ void Tour::start()
 
 void Tour::watchSamples()
 {
-    // The measure page in the midst of its work: half of the second quantity is there.
+    // The measure page during its work: half of the second quantity has been taken.
     if (m_measurement->throughput()->count() == m_measurement->throughputSamples() / 2)
         visit({MeasurePage, QStringLiteral("1-measuring")});
 }
@@ -118,7 +118,7 @@ void Tour::takePicture(const QString& name)
     const QString path = m_folder + name + QStringLiteral(".png");
     m_grab = m_window->contentItem()->grabToImage();
     if (!m_grab) {
-        fail(tr("The window gives no picture for %1. Run the demo without a display, with DISPLAY and "
+        fail(tr("No picture of the window could be taken for %1. Run the demo without a display, with DISPLAY and "
                 "WAYLAND_DISPLAY unset.")
                         .arg(path));
         return;
@@ -140,7 +140,7 @@ void Tour::keepPicture(const QString& path)
 
     QString error;
     if (bytes.isEmpty()) {
-        fail(tr("The window gave an empty picture for %1. Run the demo without a display, with DISPLAY and "
+        fail(tr("The picture of the window for %1 is empty. Run the demo without a display, with DISPLAY and "
                 "WAYLAND_DISPLAY unset.")
                         .arg(path));
     } else if (!writeFileDurably(path, bytes, &error)) {
@@ -153,7 +153,7 @@ void Tour::keepPicture(const QString& path)
     }
 }
 
-/// It is kept by the time the tour's own picture of the page is, since windows give pictures in the order asked for.
+/// It is stored before the tour's own picture of the page, because windows give pictures in the order of the requests.
 bool Tour::takeScreenshot()
 {
     m_camera->shoot(m_window);
@@ -181,7 +181,7 @@ bool Tour::saveAgain()
     const KIVNotification* const question = KIVNotificationModelManager::instance()->currentDialog();
     if (!isSaved && question && question->kind() == KIVNotification::Request)
         return true;
-    fail(tr("A report that exists was to be saved again, and nobody was asked."));
+    fail(tr("An existing report was saved again without a question."));
     return false;
 }
 
@@ -232,7 +232,7 @@ bool Tour::enter(const QString& setting, const QString& text)
     if (!QMetaObject::invokeMethod(m_window, "enterSetting", Q_RETURN_ARG(QVariant, before), Q_ARG(QVariant, setting),
                 Q_ARG(QVariant, text)))
         return failAsForeign();
-    // Services of the user's own may lack the setting.
+    // The user's own services may lack the setting.
     if (before.isValid())
         m_before.insert(setting, before.toString());
     return true;
@@ -251,7 +251,7 @@ bool Tour::doOnPage(const char* function)
 
 bool Tour::failAsForeign()
 {
-    fail(tr("The main page lacks what the tour uses; its QML files do not belong to this program. Install it anew."));
+    fail(tr("The main page lacks what the tour uses; its QML files do not belong to this program. Install it again."));
     return false;
 }
 

@@ -17,8 +17,7 @@ class ScreenCamera;
 
 /// Uses the demo the way a user does, by itself: measures, looks at each page, tries out settings, saves the report.
 ///
-/// It owns none of what it is given. Pictures of the pages are written to a folder; a picture is there whole
-/// or not at all.
+/// It owns none of its arguments. Pictures of the pages are written to a folder, completely or not at all.
 class Tour : public QObject
 {
     Q_OBJECT
@@ -28,7 +27,7 @@ public:
     Tour(QQuickWindow* window, LoopbackMeasurement* measurement, LoopbackReport* report, ScreenCamera* camera,
             const QString& pictures);
 
-    /// The pictures written so far.
+    /// The pictures written up to now.
     QStringList pictures() const { return m_pictures; }
 
     void start();
@@ -42,7 +41,7 @@ Q_SIGNALS:
 private:
     enum Page { MeasurePage, ResultsPage, ReportPage, SettingsPage, GalleryPage };
 
-    /// A page to show, the name of its picture, and what is done there before that; false when it failed.
+    /// A page to show, the name of its picture, and what to do before the picture is taken; false on failure.
     struct Stop
     {
         Page page;
@@ -58,18 +57,18 @@ private:
     void keepPicture(const QString& path);
     bool takeScreenshot();
     bool saveReport();
-    /// Saves once more, which the demo asks about first.
+    /// Saves again, which makes the demo ask a question.
     bool saveAgain();
-    /// Answers no, and closes whatever else has come up.
+    /// Answers no, and closes all other dialogs.
     bool leaveQuestion();
     bool changeSettings();
     bool applySettings();
-    /// Gives the settings back what they were before the tour; the tour is the user's guest.
+    /// Restores the settings from before the tour; the tour is the user's guest.
     bool restoreSettings();
     bool enter(const QString& setting, const QString& text);
-    /// Calls a function of the main page that gives what went wrong.
+    /// Calls a function of the main page that returns an error text.
     bool doOnPage(const char* function);
-    /// Presses Save on the report page; false when there is none.
+    /// Presses Save on the report page; false without such a page.
     bool pressSave(bool* isSaved);
     bool failAsForeign();
     void fail(const QString& text);
@@ -81,13 +80,13 @@ private:
     const QString m_folder;
     QStringList m_pictures;
     QQueue<Stop> m_stops;
-    /// What the fields showed before the tour, by the settings' ids.
+    /// The texts of the fields before the tour, by the settings' ids.
     QMap<QString, QString> m_before;
-    /// The format that was chosen before the tour; invalid until it saves.
+    /// The format that was selected before the tour; invalid until the tour saves.
     QVariant m_formatBefore;
-    /// The picture under way; null between pictures.
+    /// The picture being taken; null between pictures.
     QSharedPointer<QQuickItemGrabResult> m_grab;
-    /// Runs while a picture is under way.
+    /// Runs while a picture is being taken.
     QTimer m_patience;
     bool m_isMeasured = false;
     bool m_isOver = false;

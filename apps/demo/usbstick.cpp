@@ -26,13 +26,13 @@ using kiv::embedded::EmbeddedService;
 
 namespace {
 
-/// Where the stick's files lie on disk while it is in.
+/// The folder of the drive's files while it is plugged in.
 QString port()
 {
     return QDir::cleanPath(onDisk(paths::usb));
 }
 
-/// The same while it is out. That it is there says so, over restarts too.
+/// The same while it is unplugged. Its existence says so, across restarts too.
 QString shelf()
 {
     return QDir::cleanPath(port() + QStringLiteral("/../../stick"));
@@ -65,14 +65,14 @@ void setMounted(bool isMounted)
         baseManager()->setMounted(paths::usb, true);
     if (isMounted || !backend())
         return;
-    // Services of the user's own may have mounted it, too.
+    // The user's own services may have mounted it, too.
     const QStringList names = backend()->serviceNames();
     for (const QString& name : names)
         backend()->service(name)->setMounted(paths::usb, false);
 }
 
-/// In one step, so that the files are always whole at one of the two places. An empty folder in the way goes; with
-/// nothing to move an empty folder is made.
+/// Moves in one step, so that the files are always complete at one of the two places. An empty folder in the way is
+/// replaced; with nothing to move an empty folder is created.
 bool moveFolder(const QString& from, const QString& to, QString* error)
 {
     if (!makeFolder(QFileInfo(to).path(), error))
@@ -82,7 +82,7 @@ bool moveFolder(const QString& from, const QString& to, QString* error)
     const int reason = errno;
     if (reason == ENOENT)
         return makeFolder(to, error);
-    *error = UsbStick::tr("The files in %1 cannot be brought to %2: %3.")
+    *error = UsbStick::tr("The files in %1 cannot be moved to %2: %3.")
                      .arg(from, to, QString::fromLocal8Bit(std::strerror(reason)));
     return false;
 }
@@ -110,7 +110,7 @@ void UsbStick::settle()
 
 bool UsbStick::isSupported() const
 {
-    // Without a root folder of its own the demo would move what is really mounted there.
+    // Without a root folder of its own the demo would move a real mount point.
     return attachedItem() && port() != QDir::cleanPath(paths::usb);
 }
 
@@ -155,7 +155,7 @@ bool UsbStick::yank()
     QString error;
     if (!moveFolder(port(), shelf(), &error))
         return fail(error);
-    // What is written there without a look at the mount goes astray, as on an instrument.
+    // What is written there without a check of the mount is lost from view, as on an instrument.
     QDir().mkdir(port());
     setMounted(false);
     Q_EMIT attachedChanged();
@@ -164,13 +164,13 @@ bool UsbStick::yank()
 
 bool UsbStick::fail(const QString& reason)
 {
-    // Of the same object one dialog is enough, however often it is tried.
+    // One dialog for the same object is enough, however often it is tried.
     delete findChild<KIVNotification*>();
-    auto* const told = new KIVNotification(this);
-    told->setLongLabel(tr("USB Drive"));
-    told->setMsg(reason);
-    told->setError();
-    told->notifyDialog();
+    auto* const notification = new KIVNotification(this);
+    notification->setLongLabel(tr("USB Drive"));
+    notification->setMsg(reason);
+    notification->setError();
+    notification->notifyDialog();
     return false;
 }
 

@@ -5,24 +5,23 @@
 
 namespace uiutils::demo {
 
-/// The memory stick of an instrument that stands on a desk: what is plugged and pulled is a folder.
+/// The USB drive of an instrument on a desktop: a folder stands for the drive that is plugged in and out.
 ///
-/// While the stick is in, the folder lies at the instrument's mount point, a drive is mounted there and the base
-/// manager says that one is attached. While it is out, the folder lies where no path of the instrument leads, and what
-/// is left at the mount point is a folder of the unit's own, as on an instrument. The stick's files are moved as a
-/// whole and never touched.
+/// While the drive is plugged in, the folder is at the instrument's mount point, a drive is mounted there and the base
+/// manager reports it. While it is unplugged, the folder is where no path of the instrument leads, and at the mount
+/// point there is a folder of the unit, as on an instrument. The drive's files are moved together and never changed.
 ///
-/// Constructing it makes the three agree: a stick stays in or out over a restart; where there has been none yet, the
-/// services say. What cannot be done is told in a dialog. Works on the embedded back end that is current, and on a root
-/// folder of its own only.
+/// Constructing it makes the three agree: a drive stays plugged in or unplugged across a restart; if there has been
+/// none yet, the services decide. Errors are shown in a dialog. It works on the current embedded back end, and only on
+/// a root folder of the demo's own.
 class UsbStick : public QObject
 {
     Q_OBJECT
-    /// Whether there is a base manager that can know of a stick, and a root folder. Without them there is none to plug.
+    /// Whether there are a base manager that can report a drive and a root folder. Otherwise nothing can be plugged in.
     Q_PROPERTY(bool supported READ isSupported CONSTANT)
-    /// Whether the stick is in, also while the base manager has not noticed.
+    /// Whether the drive is plugged in, even if the base manager has not noticed.
     Q_PROPERTY(bool attached READ isAttached NOTIFY attachedChanged)
-    /// The instrument's path of the stick.
+    /// The instrument's path of the drive.
     Q_PROPERTY(QString mountPoint READ mountPoint CONSTANT)
 
 public:
@@ -32,11 +31,11 @@ public:
     bool isAttached() const;
     QString mountPoint() const;
 
-    /// False when the stick cannot be put in or taken out, for which the user is told the reason. True and nothing more
-    /// when it is in or out already.
+    /// False when the drive cannot be plugged in or unplugged; a dialog gives the reason. True, without an effect, when
+    /// it already is.
     Q_INVOKABLE bool plug();
     Q_INVOKABLE bool pull();
-    /// Takes the stick out, and the base manager has not noticed yet. pull() lets it notice.
+    /// Unplugs the drive before the base manager has noticed. pull() lets it notice.
     Q_INVOKABLE bool yank();
 
 Q_SIGNALS:

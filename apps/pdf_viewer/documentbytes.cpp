@@ -10,7 +10,7 @@ namespace uiutils::viewer {
 
 namespace {
 
-/// Where readers look for the signature of a PDF file: something else may stand before it.
+/// The range in which readers look for the signature of a PDF file: other bytes may precede it.
 constexpr int signatureRange = 1024;
 
 bool isGzip(const QByteArray& bytes)
@@ -18,7 +18,7 @@ bool isGzip(const QByteArray& bytes)
     return bytes.startsWith("\x1f\x8b");
 }
 
-/// A stream of zlib's for one gzip file.
+/// A zlib stream for one gzip file.
 class Inflater
 {
 public:
@@ -36,7 +36,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(Inflater)
 
-    /// Everything, or as much as says that it is too much.
+    /// All the bytes, or enough to show that there are too many.
     QByteArray all(Problem* problem)
     {
         QByteArray plain;
@@ -62,7 +62,7 @@ private:
         return status;
     }
 
-    /// A gzip file may be several, one behind the other; what else follows is padding.
+    /// A gzip file may have several members, one after the other; anything else that follows is padding.
     bool startNextMember()
     {
         const QByteArray rest
@@ -81,7 +81,7 @@ QByteArray readFile(const QString& path, Problem* problem)
         *problem = Problem::Missing;
         return QByteArray();
     }
-    // Opening a pipe would wait for somebody who writes into it.
+    // Opening a pipe would wait for a writer.
     if (!info.isFile()) {
         *problem = Problem::NoFile;
         return QByteArray();

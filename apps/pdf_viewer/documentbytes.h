@@ -7,12 +7,11 @@
 
 namespace uiutils::viewer {
 
-/// What a file may hold at most, on disk and once it is inflated.
+/// Maximum size of a file, on disk and uncompressed.
 constexpr int mostBytes = 64 * 1024 * 1024;
 
-/// The bytes of a PDF file; those of a compressed one (gzip, whatever its name) inflated in memory. Empty with the
-/// reason in `problem` when it has none to show. Whether they are a PDF file beyond their first bytes is for others to
-/// say.
+/// The bytes of a PDF file; those of a compressed one (gzip, whatever its name) are uncompressed in memory. Empty, with
+/// the reason in `problem`, when there is nothing to show. Only the first bytes are checked for a PDF file.
 QByteArray readDocument(const QString& path, Problem* problem);
 
 } // namespace uiutils::viewer

@@ -23,7 +23,7 @@ using viewer::ViewerDocument;
 
 namespace {
 
-/// What Qt gets to read of the command line: titles and file names are none of its options.
+/// The part of the command line that Qt reads: titles and file names are not options of Qt.
 class QtArguments
 {
 public:
@@ -60,7 +60,7 @@ bool openWindow(QQmlApplicationEngine& engine, ViewerDocument* document, const O
             {QStringLiteral("document"), QVariant::fromValue(document)},
             {QStringLiteral("title"), options.title},
             {QStringLiteral("dotsPerInch"), options.dotsPerInch},
-            {QStringLiteral("isWholeScreen"), options.isWholeScreen && !hasWindowSystem()},
+            {QStringLiteral("isFullScreen"), options.isFullScreen && !hasWindowSystem()},
     });
     engine.load(QUrl(QStringLiteral("qrc:/uiutils/viewer/Main.qml")));
     return !engine.rootObjects().isEmpty();
@@ -69,7 +69,7 @@ bool openWindow(QQmlApplicationEngine& engine, ViewerDocument* document, const O
 int show(const Options& options)
 {
     viewer::registerViewerTypes();
-    // The screen draws its own controls on top of this style; another one would show through.
+    // The screen draws its own controls over this style; another style would show through.
     qputenv("QT_QUICK_CONTROLS_STYLE", "Default");
     if (apps::DisplaySetup::isOffScreen())
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
@@ -88,7 +88,7 @@ int show(const Options& options)
     }
     if (document.state() == ViewerDocument::Failed)
         exitCode = exitFailed;
-    // A file that keeps its reader busy must not keep the program.
+    // A file that keeps its reader busy must not keep the program running.
     constexpr int patienceMs = 500;
     if (!document.stop(patienceMs))
         std::_Exit(exitCode);
@@ -113,8 +113,8 @@ int main(int argc, char** argv)
     // A window that nobody can see would never be closed.
     if (!isPlatformGiven && apps::DisplaySetup::isOffScreen()) {
         return complain(viewer::Texts::tr(
-                "There is no display to show %1 on. Set DISPLAY or WAYLAND_DISPLAY, or QT_QPA_PLATFORM to what draws on this "
-                "screen, such as eglfs or linuxfb.")
+                "There is no display to show %1 on. Set DISPLAY or WAYLAND_DISPLAY, or QT_QPA_PLATFORM to what draws "
+                "on this screen, such as eglfs or linuxfb.")
                                 .arg(options.file));
     }
     return show(options);

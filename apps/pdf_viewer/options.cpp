@@ -16,11 +16,17 @@ Options misused(const QString& message)
     return apps::ended<Options>(apps::misused(message));
 }
 
-/// One line, whatever a report is called.
+/// A title is one line, whatever the report is called.
 QString titleOf(const QString& asked, const QString& file)
 {
     const QString title = asked.simplified();
     return title.isEmpty() ? QFileInfo(file).fileName() : title;
+}
+
+QString description()
+{
+    return Texts::tr("Shows a PDF file, also one that is compressed (.pdf.gz), on a touch screen or in a window.\n\n"
+                     "Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.");
 }
 
 } // namespace
@@ -29,31 +35,28 @@ Options readOptions(const QStringList& arguments)
 {
     const Options standard;
     QCommandLineParser parser;
-    // Words behind one hyphen, as Qt has them for its plug-ins.
+    // Words after one hyphen, as Qt has them for its plug-ins.
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.setApplicationDescription(
-            Texts::tr("Shows a PDF file, also one that is compressed (.pdf.gz), on a touch screen or in a window.\n\n"
-                      "Exit status: 0 done, 1 the file could not be shown, 2 wrong command line."));
+    parser.setApplicationDescription(description());
     parser.addPositionalArgument(
             QStringLiteral("file"), Texts::tr("The PDF file to show."), QStringLiteral("file.pdf"));
     const QCommandLineOption density(QStringLiteral("dpy"),
-            Texts::tr(
-                    "The screen has <number> dots per inch, 1 to %1 (default: %2). At 100 % a page has its natural size there.")
+            Texts::tr("The screen has <number> dots per inch, 1 to %1 (default: %2). At 100 % a page has its natural "
+                      "size there.")
                     .arg(mostDotsPerInch)
                     .arg(standard.dotsPerInch),
             Texts::tr("number"));
-    const QCommandLineOption wholeScreen(QStringLiteral("s"),
+    const QCommandLineOption fullScreen(QStringLiteral("s"),
             Texts::tr(
-                    "Take the whole screen, without a frame. Where a window system shares the screen out, the window is one among "
-                    "others all the same."));
+                    "Fill the screen, without a frame. Under a window system that arranges windows itself, the window "
+                    "is one among others."));
     const QCommandLineOption title(
             QStringLiteral("t"), Texts::tr("Call the window <title> (default: the file's name)."), Texts::tr("title"));
     const QCommandLineOption plugin(QStringLiteral("plugin"),
-            Texts::tr(
-                    "Use the input plug-in <name:device>; may be given more than once. Without effect where a window system brings "
-                    "the input, and where there is no such device."),
+            Texts::tr("Use the input plug-in <name:device>; may be given more than once. Has no effect if a window "
+                      "system provides the input or the device does not exist."),
             Texts::tr("name:device"));
-    parser.addOptions({density, wholeScreen, title, plugin});
+    parser.addOptions({density, fullScreen, title, plugin});
 
     const apps::CommandLine line = apps::parse(parser, arguments);
     if (line.outcome != apps::CommandLine::Run)
@@ -69,7 +72,7 @@ Options readOptions(const QStringList& arguments)
         return misused(Texts::tr("--dpy needs a number from 1 to %1.").arg(mostDotsPerInch));
     options.file = files.constFirst();
     options.title = titleOf(parser.value(title), options.file);
-    options.isWholeScreen = parser.isSet(wholeScreen);
+    options.isFullScreen = parser.isSet(fullScreen);
     options.plugins = parser.values(plugin);
     return options;
 }

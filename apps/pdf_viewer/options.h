@@ -7,17 +7,17 @@
 
 namespace uiutils::viewer {
 
-/// What the command line asks for.
+/// The options of the command line.
 struct Options : apps::CommandLine
 {
-    /// The PDF file, on disk, as it was named.
+    /// The path of the PDF file on disk, as given.
     QString file;
-    /// What the window is called: never empty.
+    /// The title of the window: never empty.
     QString title;
     /// Dots per inch of the screen.
     int dotsPerInch = 85;
-    /// The whole screen, where no window system shares it out.
-    bool isWholeScreen = false;
+    /// Full screen, unless a window system arranges windows.
+    bool isFullScreen = false;
     /// Input plug-ins with their settings, as in "EvdevTouch:/dev/input/event1".
     QStringList plugins;
 };

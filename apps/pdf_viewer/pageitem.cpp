@@ -9,9 +9,9 @@ namespace uiutils::viewer {
 
 namespace {
 
-/// How long a size stays before a picture is drawn for it: fingers that pinch pass through many.
+/// How long a size must be stable before its picture is drawn: a pinch passes through many sizes.
 constexpr int restMs = 120;
-/// When a page that has no picture is given up: rendering has limits of its own, which some files get around.
+/// When a page without a picture is given up: rendering has limits of its own, which some files evade.
 constexpr int patienceMs = 30000;
 
 } // namespace

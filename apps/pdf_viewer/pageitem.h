@@ -10,8 +10,8 @@
 
 namespace uiutils::viewer {
 
-/// A page as a picture that fills the item. While the item changes its size, the picture that is there is stretched; a
-/// sharp one replaces it once the size has come to rest.
+/// A page as a picture that fills the item. While the item's size changes, the present picture is stretched; a sharp
+/// one replaces it when the size is stable.
 class PageItem : public QQuickItem
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ class PageItem : public QQuickItem
 
 public:
     enum Status {
-        /// Nothing to see yet.
+        /// Nothing to show yet.
         Drawing,
         /// A picture is shown; a sharper one may be on its way.
         Drawn,
@@ -34,13 +34,13 @@ public:
     ~PageItem() override;
 
     ViewerDocument* document() const { return m_document; }
-    /// Not owned. Pages are drawn once its state is Ready.
+    /// Not owned. Pages are drawn when its state is Ready.
     void setDocument(ViewerDocument* document);
     /// Counted from 0.
     int page() const { return m_page; }
     void setPage(int page);
     Status status() const { return m_status; }
-    /// Size of the picture that is shown, in pixels.
+    /// Size of the present picture in pixels.
     QSize pictureSize() const { return m_picture.size(); }
 
 Q_SIGNALS:

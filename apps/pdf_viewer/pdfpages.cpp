@@ -11,12 +11,12 @@ namespace uiutils::viewer {
 namespace {
 
 constexpr double pointsPerInch = 72;
-/// What a page measures that does not say it, or says nonsense.
+/// The size of a page that states none, or an invalid one.
 constexpr QSizeF letter(612, 792);
-/// The largest that the format provides for.
+/// The maximum in the format.
 constexpr double mostPoints = 14400;
 
-/// 26 MB, and no side that a graphics chip could not take.
+/// 26 MB, and no side is too long for a graphics chip.
 constexpr double mostPixels = 6.5e6;
 constexpr int mostPixelsOfSide = 4096;
 constexpr int patienceMs = 20000;
@@ -33,7 +33,7 @@ QSizeF sizeOf(const Poppler::Document& document, int index)
     return isSensible(size.width()) && isSensible(size.height()) ? size : letter;
 }
 
-/// What a rendering goes by.
+/// Why a rendering may end early.
 struct Progress
 {
     const std::function<bool()>& isUnwanted;
@@ -57,7 +57,7 @@ Problem problemOf(const Poppler::Document* document)
     return document->numPages() > mostPages ? Problem::TooManyPages : Problem::None;
 }
 
-/// What Poppler finds odd about a file, line by line, is no business of anybody who reads it.
+/// Poppler's line-by-line messages about a file do not concern its readers.
 void silencePoppler()
 {
     Poppler::setDebugErrorFunction([](const QString&, const QVariant&) {}, QVariant());
@@ -116,7 +116,7 @@ QImage PdfPages::render(int page, QSize pixels, const std::function<bool()>& isU
     const QImage image = source->renderToImage(size.width() * pointsPerInch / points.width(),
             size.height() * pointsPerInch / points.height(), 0, 0, size.width(), size.height(), Poppler::Page::Rotate0,
             nullptr, nullptr, &isToBeGivenUp, payload);
-    // A picture that was given up is half a page.
+    // A cancelled picture shows half a page.
     return isToBeGivenUp(payload) ? QImage() : image;
 }
 

@@ -12,10 +12,10 @@ namespace uiutils::viewer {
 
 namespace {
 
-/// Fingers that begin closer together would zoom by leaps.
+/// Below this distance the zoom would change in leaps.
 constexpr qreal leastDistance = 20;
 
-/// What one notch of a wheel, which Qt counts as 120, does.
+/// The zoom of one notch of a wheel, which Qt counts as 120.
 constexpr qreal factorOfNotch = 1.25;
 
 bool isTouch(const QEvent* event)
@@ -75,7 +75,7 @@ bool PinchItem::takeTouch(QTouchEvent* event)
     const bool wasPinching = m_isPinching;
     if (!wasPinching && !(fingers.size() == 2 && contains(places.at(0)) && contains(places.at(1))))
         return false;
-    // Until the last finger is up, what is left of a pinch is no flick.
+    // Until the last finger is up, the rest of a pinch must not become a flick.
     m_isPinching = event->type() != QEvent::TouchCancel && !fingers.isEmpty();
     if (!wasPinching)
         cancelForOthers(event);

@@ -9,9 +9,9 @@ class QTouchEvent;
 
 namespace uiutils::viewer {
 
-/// An area in which two fingers pinch, over whatever else takes touches there. It sees touches before all items of its
-/// window do: lists take a finger that moves and do not give it back when a second one comes. A wheel that turns while
-/// Ctrl is held is a pinch too.
+/// An area in which two fingers pinch, above other items that take touches. It sees touches before all items of its
+/// window: lists take a finger that moves and do not release it for a second one. Turning a wheel with Ctrl held is a
+/// pinch too.
 class PinchItem : public QQuickItem
 {
     Q_OBJECT
@@ -22,10 +22,10 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// Two fingers are down; other items hear no more of them.
+    /// Two fingers are down; other items receive no more of their touches.
     void started();
-    /// The fingers have moved: `factor` says how far they are apart, 1 being the distance at the start, and `center` is
-    /// the place between them in this item.
+    /// The fingers have moved: `factor` is their distance divided by the distance at the start, and `center` is the
+    /// point between them in this item.
     void pinched(qreal factor, const QPointF& center);
 
 protected:

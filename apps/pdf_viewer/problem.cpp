@@ -20,18 +20,18 @@ QString descriptionOf(Problem problem)
     case Problem::Unreadable:
         return Texts::tr("The file cannot be read.");
     case Problem::TooLarge:
-        return Texts::tr("The file holds more than %1 MiB, which is more than this unit shows.")
+        return Texts::tr("The file holds more than %1 MiB, which is more than this unit can show.")
                 .arg(mostBytes / (1024 * 1024));
     case Problem::NotPdf:
         return Texts::tr("This is not a PDF file.");
     case Problem::Damaged:
         return Texts::tr("The file is damaged or incomplete.");
     case Problem::Locked:
-        return Texts::tr("The file is encrypted and opens with a password only.");
+        return Texts::tr("The file is encrypted and can only be opened with a password.");
     case Problem::NoPages:
         return Texts::tr("The file has no pages.");
     case Problem::TooManyPages:
-        return Texts::tr("The file has more than %1 pages, which is more than this unit shows.")
+        return Texts::tr("The file has more than %1 pages, which is more than this unit can show.")
                 .arg(QLocale().toString(mostPages));
     }
     return QString();
@@ -44,8 +44,8 @@ QString adviceOn(Problem problem)
         return QString();
     case Problem::Missing:
         return Texts::tr(
-                "It may have been deleted or moved, or be on a USB stick that was removed. Choose another file, or save the "
-                "report again.");
+                "It may have been deleted or moved, or be on a USB drive that was removed. Choose another file, or "
+                "save the report again.");
     case Problem::Unreadable:
         return Texts::tr("Check that the drive is in place and that you may read the file.");
     case Problem::TooLarge:

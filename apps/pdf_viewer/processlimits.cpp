@@ -20,7 +20,7 @@ void limit(int resource, rlim_t most)
 void limitProcess()
 {
     limit(RLIMIT_CORE, 0);
-    // What address sanitizers map beforehand counts as data.
+    // Memory that address sanitizers reserve counts as data.
 #if !defined(__SANITIZE_ADDRESS__)
     constexpr rlim_t mostData = rlim_t(1024) * 1024 * 1024;
     limit(RLIMIT_DATA, mostData);

@@ -2,8 +2,8 @@
 
 namespace uiutils::viewer {
 
-/// Holds this process to memory that the unit can spare, and has it leave no core: a file that makes it swell or go
-/// down does no harm to others.
+/// Limits this process to memory that the unit can spare, and disables core dumps: a file that makes it grow or crash
+/// does no harm to others.
 void limitProcess();
 
 } // namespace uiutils::viewer

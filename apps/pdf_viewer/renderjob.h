@@ -5,7 +5,7 @@
 
 namespace uiutils::viewer {
 
-/// A picture that was asked for. Whoever asked may lose interest at any time, from any thread.
+/// A requested picture. The requester may cancel it at any time, from any thread.
 struct RenderJob
 {
     std::atomic<bool> isUnwanted {false};

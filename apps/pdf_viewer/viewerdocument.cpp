@@ -10,7 +10,7 @@
 
 namespace uiutils::viewer {
 
-/// What reading a file came to.
+/// The result of reading a file.
 struct ViewerDocument::Opened
 {
     Problem problem = Problem::None;
@@ -22,7 +22,7 @@ namespace {
 
 std::unique_ptr<PdfPages> pagesOf(const QString& path, Problem* problem)
 {
-    // Memory that a file asks for and nobody has is thrown at this place.
+    // A file that needs more memory than there is ends here, with an exception.
     try {
         const QByteArray bytes = readDocument(path, problem);
         return *problem == Problem::None ? PdfPages::open(bytes, problem) : nullptr;
@@ -78,7 +78,7 @@ void ViewerDocument::open(const QString& path)
             opened.sizes = (*pages)->sizes();
             opened.isRepaired = (*pages)->isRepaired();
         }
-        // The thread ends before this object does.
+        // The thread ends before this object is deleted.
         QMetaObject::invokeMethod(
                 this, [this, opened] { take(opened); }, Qt::QueuedConnection);
     });

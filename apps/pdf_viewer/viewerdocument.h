@@ -17,8 +17,8 @@ namespace uiutils::viewer {
 
 class PdfPages;
 
-/// The file on the screen. Reading and drawing go on in a thread of its own, so that the screen stays alive; all that
-/// is told is told in the thread of this object.
+/// The file on the screen. Reading and drawing run in a thread of its own, so that the screen keeps responding; all
+/// signals are emitted in the thread of this object.
 class ViewerDocument : public QObject
 {
     Q_OBJECT
@@ -41,18 +41,18 @@ public:
     using Receiver = std::function<void(const QImage&)>;
 
     explicit ViewerDocument(QObject* parent = nullptr);
-    /// Gives up what is being drawn. Where that takes long, stop() comes first.
+    /// Cancels what is being drawn. If that can take long, call stop() first.
     ~ViewerDocument() override;
 
-    /// Starts to read a file. Once for each object.
+    /// Starts to read a file. Call it once for each object.
     void open(const QString& path);
-    /// Ends the thread, or gives up after `patienceMs`: false while a file holds it up, and then this object must not
-    /// be destroyed.
+    /// Ends the thread, or gives up after `patienceMs`: false while a file holds it up, in which case this object must
+    /// not be destroyed.
     bool stop(int patienceMs);
 
     State state() const { return m_state; }
     QString path() const { return m_path; }
-    /// What happened and what to do about it, in sentences, when the state is Failed.
+    /// What happened and what to do about it, in sentences, in the state Failed.
     QString problem() const { return descriptionOf(m_problem); }
     QString advice() const { return adviceOn(m_problem); }
     int pageCount() const { return m_sizes.size(); }
@@ -63,8 +63,8 @@ public:
     /// Size of a page, counted from 0, in points; empty when there is no such page.
     Q_INVOKABLE QSizeF pageSize(int page) const { return m_sizes.value(page); }
 
-    /// Has a page drawn and hands the picture, or a null one, to `receive` if `context` is still there and the job
-    /// still wanted.
+    /// Requests a picture of a page. `receive` gets it, or a null one, if `context` still exists and the job is still
+    /// wanted.
     RenderJobPointer render(int page, QSize pixels, QObject* context, const Receiver& receive);
 
 Q_SIGNALS:
@@ -84,7 +84,7 @@ private:
     QThread m_thread;
     /// Lives in the thread; work is queued on it.
     QObject m_worker;
-    /// Only the thread looks into it.
+    /// Used only in the thread.
     std::shared_ptr<std::unique_ptr<PdfPages>> m_pages;
     RenderJobPointer m_everything = std::make_shared<RenderJob>();
 };

@@ -35,7 +35,7 @@ void print(const QString& text)
     std::fputs(text.toUtf8().constData(), stderr);
 }
 
-/// Characters of a terminal's line, 0 when there is no terminal that can go back on its line.
+/// Characters in a terminal's line; 0 without a terminal that can return to the start of its line.
 int terminalWidth()
 {
     winsize size {};
@@ -64,7 +64,7 @@ void showProgress(const QString& text)
     if (width == 0)
         return;
     clearProgress();
-    // A line that wraps could not be taken back.
+    // A wrapped line could not be removed.
     print(printable(text).left(width - 1));
     isProgressShown = true;
 }
@@ -78,8 +78,7 @@ void clearProgress()
 
 void installWarningHandler()
 {
-    // What the library notes for its developers is no business of a user, who may ask for it by
-    // QT_LOGGING_RULES.
+    // The library's notes for developers do not concern users, who may enable them by QT_LOGGING_RULES.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     qInstallMessageHandler(sayQtMessage);
 }

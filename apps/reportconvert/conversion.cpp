@@ -21,7 +21,7 @@ namespace uiutils::convert {
 
 namespace {
 
-/// With the number of the signal that cut the program short added, as shells have it.
+/// As in shells, the number of the signal that stopped the program is added.
 constexpr int exitSignalled = 128;
 
 const QJsonObject& documentSchema()
@@ -42,15 +42,15 @@ bool isNoFile(const QString& path)
             || folder.startsWith(QLatin1String("/proc/"));
 }
 
-/// What can be done about a file that could not be written.
+/// What to do about a file that could not be written.
 QString advice(const QString& path)
 {
     const QFileInfo folder(QFileInfo(path).path());
     if (!folder.exists())
-        return Texts::tr("The folder %1 does not exist: make it, or name another with --output.")
+        return Texts::tr("The folder %1 does not exist: create it, or name another with --output.")
                 .arg(folder.filePath());
     if (!folder.isDir())
-        return Texts::tr("%1 is no folder: name another with --output.").arg(folder.filePath());
+        return Texts::tr("%1 is not a folder: name another with --output.").arg(folder.filePath());
     return Texts::tr("Check the free space there and that you may write there, or name another folder with --output.");
 }
 
@@ -98,12 +98,12 @@ void Conversion::convertDocument(const Job& job)
 
 void Conversion::writeTarget(const Target& target, const ReportTemplate& report)
 {
-    const auto goesOn = [&](int page, int pageCount) {
+    const auto mayContinue = [&](int page, int pageCount) {
         if (pageCount > 0)
             showProgress(Texts::tr("%1: page %2 of %3").arg(target.name()).arg(page).arg(pageCount));
         return !isStopped();
     };
-    Generation generation {m_options.page, m_scratchFolder, goesOn, {}};
+    Generation generation {m_options.page, m_scratchFolder, mayContinue, {}};
     const QByteArray bytes = target.format->generate(report, generation);
     if (!bytes.isNull())
         write(target, bytes);
@@ -122,15 +122,15 @@ bool Conversion::read(const Job& job, ReportTemplate& report)
 bool Conversion::readStandardInput(const Job& job, ReportTemplate& report)
 {
     const auto failNamed = [&](const QString& reason) { return fail(job.name() + QStringLiteral(": ") + reason); };
-    // By way of a file, so that the one reader of documents with its limits reads this one too.
+    // Through a file, so that the one reader of documents and its limits serve here too.
     QTemporaryFile copy(m_scratchFolder + QStringLiteral("/input"));
     if (!copy.open())
-        return failNamed(Texts::tr("cannot be kept meanwhile: %1").arg(copy.errorString()));
+        return failNamed(Texts::tr("cannot be written to a temporary file: %1").arg(copy.errorString()));
     QString error;
     if (!copyStandardInput(copy, &error))
         return error.isEmpty() ? !isStopped() : failNamed(error);
     if (!copy.flush())
-        return failNamed(Texts::tr("cannot be kept meanwhile: %1").arg(copy.errorString()));
+        return failNamed(Texts::tr("cannot be written to a temporary file: %1").arg(copy.errorString()));
     report.readDiskFile(copy.fileName());
     return !report.hasError() || fail(report.errorString().replace(copy.fileName(), job.name()));
 }
@@ -162,13 +162,12 @@ void Conversion::write(const Target& target, const QByteArray& bytes)
 bool Conversion::writeFile(const QString& path, const QByteArray& bytes, QString* error) const
 {
     if (isNoFile(path)) {
-        *error = Texts::tr("%1 is no regular file, and is not replaced. Name another with --output, or \"-\" for "
+        *error = Texts::tr("%1 is not a regular file and is not replaced. Name another with --output, or \"-\" for "
                            "standard output.")
                          .arg(path);
         return false;
     }
-    // Only now, so that a call which has nothing to write leaves no empty folder; why it fails, the write
-    // tells.
+    // Only now, so that a call without anything to write leaves no empty folder. The write reports why this failed.
     if (!m_plan.newFolder.isEmpty())
         QDir().mkpath(m_plan.newFolder);
     if (writeFileDurably(path, bytes, error))

@@ -8,13 +8,12 @@ class ReportTemplate;
 
 namespace uiutils::convert {
 
-/// Carries out a plan: reads each document once, checks its layout and writes its targets. Every failure is
-/// said when it happens and stops nothing but its own document or file; a signal stops everything between two
-/// files.
+/// Carries out a plan: reads each document once, checks its layout and writes its targets. Every failure is printed
+/// when it happens and ends only its own document or file; a signal stops the run between two files.
 class Conversion
 {
 public:
-    /// `scratchFolder` is where standard input is kept while it is read.
+    /// `scratchFolder` holds standard input while it is read.
     Conversion(const Plan& plan, const Options& options, const QString& scratchFolder);
 
     /// Returns the program's exit status.

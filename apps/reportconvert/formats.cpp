@@ -20,7 +20,7 @@ namespace uiutils::convert {
 
 namespace {
 
-/// What the page writers take.
+/// The settings of the page writers.
 constexpr qint64 maximumLogoSize = qint64(1024) * 1024;
 constexpr qint64 maximumLogoPixels = 50'000'000;
 
@@ -43,12 +43,12 @@ QString logoUri(const PageSettings& page)
     return QStringLiteral("data:%1;base64,%2").arg(type, QString::fromLatin1(bytes.toBase64()));
 }
 
-/// What pages on the screen and on paper have in common.
+/// What pages on the screen and on paper share.
 template<typename Writer> void setAttributes(Writer& writer, const PageSettings& page)
 {
     if (!page.title.isNull())
         writer.setAttribute(QStringLiteral("title"), page.title);
-    // Without services these tables have no rows and leave no trace.
+    // Without services these tables would have no rows.
     writer.setAttribute(QStringLiteral("includeJobInfo"), true);
     writer.setAttribute(QStringLiteral("includeTechnicianInfoTop"), true);
     writer.setAttribute(QStringLiteral("includeCustomerInfoTop"), true);
@@ -62,7 +62,7 @@ QByteArray htmlOf(const ReportTemplate& report, Generation& generation)
     return writer.getHtml().toUtf8();
 }
 
-/// Puts the logo where the writer can read it, whatever the user's path would mean on an instrument.
+/// Copies the logo to where the writer can read it, whatever the user's path would mean on an instrument.
 QString scratchLogo(const Generation& generation)
 {
     const QString path = generation.scratchFolder + QStringLiteral("/logo");
@@ -83,7 +83,7 @@ QByteArray pdfOf(const ReportTemplate& report, Generation& generation)
         writer.setAttribute(QStringLiteral("orientation"), page.orientation.isEmpty() ? own : page.orientation);
     writer.setAttribute(QStringLiteral("unitId"), page.unitId);
     QObject::connect(&writer.pages(), &ReportPDF::progressChanged, &writer.pages(), [&](int done, int count) {
-        if (!generation.goesOn(done, count))
+        if (!generation.mayContinue(done, count))
             writer.pages().cancel();
     });
     const QByteArray pages = writer.toPdf(&generation.error);
@@ -107,7 +107,7 @@ QByteArray textOf(const ReportTemplate& report, Generation& generation)
     TextLayout layout;
     layout.title = generation.page.title;
     layout.timestamp = QDateTime::currentDateTime();
-    // As in the page.
+    // The same as in the page.
     layout.includeJobInfo = true;
     layout.includeTechnicianInfoTop = true;
     layout.includeCustomerInfoTop = true;
@@ -148,7 +148,8 @@ QString logoProblem(const QString& path)
     if (qint64(size.width()) * size.height() > maximumLogoPixels)
         return Texts::tr("The logo %1 has more than 50 million pixels. Make it smaller.").arg(path);
     if (!QImageReader(path).canRead())
-        return Texts::tr("The logo %1 is no picture in a known format. Name a PNG or JPEG file with --logo.").arg(path);
+        return Texts::tr("The logo %1 is not a picture in a known format. Name a PNG or JPEG file with --logo.")
+                .arg(path);
     return {};
 }
 

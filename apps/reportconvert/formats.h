@@ -12,56 +12,56 @@ class ReportTemplate;
 
 namespace uiutils::convert {
 
-/// What the command line says about the looks of what people read.
+/// The options for the appearance of pages and texts.
 struct PageSettings
 {
     /// Null: the document's own title.
     QString title;
     bool hasLogo = true;
-    /// A picture in place of the instrument's logo; empty for none.
+    /// A picture that replaces the instrument's logo; empty for none.
     QString logoFile;
     /// "portrait" or "landscape"; empty: as the document says.
     QString orientation;
-    /// Empty: that of the unit whose services are loaded.
+    /// Empty: the unit whose services are loaded.
     QString unitId;
 };
 
-/// What surrounds the conversion of one document into one format.
+/// The context of the conversion of one document into one format.
 struct Generation
 {
     const PageSettings& page;
-    /// For what is kept only meanwhile.
+    /// For temporary files.
     QString scratchFolder;
-    /// Told of the pages that are done, and of how many there will be; false stops the conversion.
-    std::function<bool(int page, int pageCount)> goesOn;
-    /// Why nothing was made; empty when it was stopped.
+    /// Called with the finished pages and the expected number; false stops the conversion.
+    std::function<bool(int page, int pageCount)> mayContinue;
+    /// Why there is no result; empty when it was stopped.
     QString error;
 };
 
-/// A format that documents are converted to. One more row of the table in formats.cpp makes one more format.
+/// A format that documents can be converted to. A new row of the table in formats.cpp is a new format.
 struct Format
 {
     QLatin1String name;
-    /// Of the file's name, without the dot.
+    /// The suffix of the file's name, without the dot.
     QLatin1String suffix;
     const char* description;
-    /// Whether PageSettings::title makes a difference.
+    /// Whether PageSettings::title has an effect.
     bool hasTitle;
     /// Whether it shows pictures: the logo, status icons.
     bool isPage;
-    /// Whether it is parted into sheets of paper.
+    /// Whether it is divided into sheets of paper.
     bool isPaper;
     /// The contents of the file, text in UTF-8; null when it failed or was stopped.
     QByteArray (*generate)(const ReportTemplate& report, Generation& generation);
 };
 
-/// Why the picture cannot be a logo, or nothing.
+/// Why the picture cannot be a logo; empty if it can.
 QString logoProblem(const QString& file);
 
-/// Every format, in the order in which they are written.
+/// Every format, in the order of writing.
 const QVector<const Format*>& allFormats();
 
-/// The format of that name or suffix, or null.
+/// The format with that name or suffix, or null.
 const Format* formatByName(const QString& name);
 const Format* formatBySuffix(const QString& suffix);
 

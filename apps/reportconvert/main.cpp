@@ -21,7 +21,7 @@ using uiutils::apps::exitMisused;
 
 namespace {
 
-int complain(const QString& message, int exitCode)
+int failed(const QString& message, int exitCode)
 {
     say(message);
     return exitCode;
@@ -30,11 +30,11 @@ int complain(const QString& message, int exitCode)
 int answer(const QString& message)
 {
     QString error;
-    return writeStandardOutput(message.toUtf8(), &error) ? exitDone : complain(error, exitFailed);
+    return writeStandardOutput(message.toUtf8(), &error) ? exitDone : failed(error, exitFailed);
 }
 
-/// False when what is missing makes the call fail.
-bool loadServices(kiv::embedded::EmbeddedBackend& backend, const Options& options)
+/// False when the call must fail because of what is missing.
+bool publishServices(kiv::embedded::EmbeddedBackend& backend, const Options& options)
 {
     const QStringList problems = backend.loadFolders(options.serviceFolders);
     for (const QString& problem : problems)
@@ -48,7 +48,7 @@ bool loadServices(kiv::embedded::EmbeddedBackend& backend, const Options& option
     return false;
 }
 
-/// A root of the caller's own is not filled, and a page without its icons looks whole at first sight.
+/// The caller's own root is not filled, and a page without its icons looks complete at first sight.
 void warnOfMissingIcons(const Plan& plan)
 {
     if (!plan.writes(&Format::isPage) || QFile::exists(uiutils::onDisk(uiutils::paths::passIcon)))
@@ -60,16 +60,16 @@ void warnOfMissingIcons(const Plan& plan)
 int convert(const Options& options, const Plan& plan, const QString& scratchFolder)
 {
     kiv::embedded::EmbeddedBackend backend;
-    if (!loadServices(backend, options))
+    if (!publishServices(backend, options))
         return exitFailed;
     warnOfMissingIcons(plan);
     const QString problem = options.page.logoFile.isEmpty() ? QString() : logoProblem(options.page.logoFile);
     if (!problem.isEmpty())
-        return complain(problem, exitMisused);
+        return failed(problem, exitMisused);
     return Conversion(plan, options, scratchFolder).run();
 }
 
-/// Plots need fonts and nothing else of a display: one that is there but does not answer must not matter.
+/// Plots need only the fonts of a display: one that does not answer must not matter.
 void forgetDisplay()
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -88,19 +88,19 @@ int main(int argc, char** argv)
 
     const Options options = uiutils::apps::readEarly(argc, argv, readOptions);
     if (options.outcome == Options::Misused)
-        return complain(options.message, exitMisused);
+        return failed(options.message, exitMisused);
     if (options.outcome == Options::Answered)
         return answer(options.message);
     const Plan plan = makePlan(options);
     if (!plan.error.isEmpty())
-        return complain(plan.error, exitMisused);
+        return failed(plan.error, exitMisused);
 
     Workspace workspace;
     QString error;
     if (!workspace.prepare(&error))
-        return complain(error, exitFailed);
+        return failed(error, exitFailed);
     forgetDisplay();
-    // A document's name after "--" could look like one of the toolkit's own options.
+    // A document's name after "--" could look like an option of the toolkit.
     int nameOnly = 1;
     const QGuiApplication application(nameOnly, argv);
     return convert(options, plan, workspace.path());

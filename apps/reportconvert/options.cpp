@@ -16,7 +16,7 @@ Options misused(const QString& message)
     return apps::ended<Options>(apps::misused(message));
 }
 
-/// The rows of the format table as the help shows them.
+/// The rows of the format table for the help.
 QString formatHelp()
 {
     QString text;
@@ -28,7 +28,7 @@ QString formatHelp()
     return text;
 }
 
-/// In the shape that help2man reads: the parser's own text has no sections for exit status and examples.
+/// In the form that help2man reads: the parser's own text has no sections for exit status and examples.
 QString helpText()
 {
     return Texts::tr(R"(Usage: reportconvert [OPTION]... DOCUMENT...
@@ -36,19 +36,19 @@ Convert report documents of the instrument (JSON) to HTML, PDF, XML, JSON or
 plain text.
 
 A DOCUMENT is a file of up to 16 MiB, or "-" for standard input. Each is
-converted by itself: one that fails is named and does not stop the others. A
-file is replaced only by a whole new one, and a document never by its own
-output.
+converted separately: one that fails is named and does not stop the others.
+Existing files are replaced only by complete ones, and a document never by its
+own output.
 
 Options:
   -f, --format=FORMAT    write FORMAT; may be given more than once, and may be
-                         left out when the suffix of OUTPUT tells it:
+                         left out when OUTPUT has the suffix of one:
 %1                           all    every format
-  -o, --output=OUTPUT    where to write: a folder (made when OUTPUT ends in "/";
-                         default: the current one), which gets a file with the
-                         document's name and the format's suffix, "report" for
-                         standard input; or, for one document and one format,
-                         a file, or "-" for standard output
+  -o, --output=OUTPUT    where to write: a folder (created when OUTPUT ends in
+                         "/"; default: the current one), which gets a file with
+                         the document's name and the format's suffix, "report"
+                         for standard input; or, for one document and one
+                         format, a file, or "-" for standard output
   -s, --services=FOLDER  fill the tables about unit, user and job, and the
                          plots, from the service files in FOLDER; may be given
                          more than once or with colons; without it those tables
@@ -73,12 +73,12 @@ Exit status:
   1      one or more could not be read or written; the messages say which
   2      the command line is wrong, or would have one file written twice or a
          document overwritten; nothing was written
-  128+N  stopped by signal N; files that were written are whole
+  128+N  stopped by signal N; files that were written are complete
 
 Environment:
   UIUTILS_ROOT  folder of status icons (base/qml/common/images) and temporary
                 plot images (tmp) in place of the program's own temporary one
-  TMPDIR        where that temporary folder is made
+  TMPDIR        where that temporary folder is created
 
 Examples:
   reportconvert --format html report.json
@@ -93,7 +93,7 @@ Examples:
             .arg(formatHelp());
 }
 
-/// Appends the formats that `name` stands for; false when there is none.
+/// Appends the formats that `name` stands for; false if there is none.
 bool addFormats(const QString& name, QVector<const Format*>* formats)
 {
     if (name == everyFormat) {
@@ -116,61 +116,96 @@ QStringList splitFolders(const QStringList& values)
     return values.join(QLatin1Char(':')).split(QLatin1Char(':'), Qt::SkipEmptyParts);
 }
 
+QCommandLineOption named(const char* shortName, const char* longName, const char* value)
+{
+    return QCommandLineOption({QLatin1String(shortName), QLatin1String(longName)}, {}, QLatin1String(value));
+}
+
+/// The options that the parser knows; helpText() describes them.
+struct KnownOptions
+{
+    const QCommandLineOption format = named("f", "format", "FORMAT");
+    const QCommandLineOption output = named("o", "output", "OUTPUT");
+    const QCommandLineOption services = named("s", "services", "FOLDER");
+    const QCommandLineOption title {QStringLiteral("title"), {}, QStringLiteral("TEXT")};
+    const QCommandLineOption logo {QStringLiteral("logo"), {}, QStringLiteral("FILE")};
+    const QCommandLineOption noLogo {QStringLiteral("no-logo")};
+    const QCommandLineOption orientation {QStringLiteral("orientation"), {}, QStringLiteral("WAY")};
+    const QCommandLineOption unitId {QStringLiteral("unit-id"), {}, QStringLiteral("TEXT")};
+    const QCommandLineOption strict {QStringLiteral("strict")};
+};
+
+// Each reads a part of the options. It returns what is wrong with the command line, or an empty text.
+
+QString readDocuments(const QCommandLineParser& parser, const KnownOptions&, Options* options)
+{
+    options->documents = parser.positionalArguments();
+    if (options->documents.isEmpty())
+        return Texts::tr("No document is given; \"-\" reads one from standard input.");
+    if (options->documents.contains(QString()))
+        return Texts::tr("The name of a document is empty.");
+    return QString();
+}
+
+QString readFormats(const QCommandLineParser& parser, const KnownOptions& known, Options* options)
+{
+    const QStringList formats = parser.values(known.format);
+    for (const QString& name : formats) {
+        if (!addFormats(name, &options->formats))
+            return Texts::tr("There is no format \"%1\", only %2 and all.").arg(name, formatNames());
+    }
+    return QString();
+}
+
+QString readPlaces(const QCommandLineParser& parser, const KnownOptions& known, Options* options)
+{
+    options->output = parser.isSet(known.output) ? parser.value(known.output) : QStringLiteral(".");
+    if (options->output.isEmpty())
+        return Texts::tr("--output needs the name of a folder or file, or \"-\".");
+    options->serviceFolders = splitFolders(parser.values(known.services));
+    if (parser.isSet(known.services) && options->serviceFolders.isEmpty())
+        return Texts::tr("--services needs the name of a folder.");
+    return QString();
+}
+
+QString readPage(const QCommandLineParser& parser, const KnownOptions& known, Options* options)
+{
+    if (parser.isSet(known.logo) && parser.isSet(known.noLogo))
+        return Texts::tr("--logo and --no-logo cannot be used together.");
+    if (parser.isSet(known.logo) && parser.value(known.logo).isEmpty())
+        return Texts::tr("--logo needs the name of a picture file.");
+    if (parser.isSet(known.orientation) && !isOrientation(parser.value(known.orientation)))
+        return Texts::tr("There is no orientation \"%1\", only portrait and landscape.")
+                .arg(parser.value(known.orientation));
+    if (parser.isSet(known.title))
+        options->page.title = parser.value(known.title);
+    options->page.hasLogo = !parser.isSet(known.noLogo);
+    options->page.logoFile = parser.value(known.logo);
+    options->page.orientation = parser.value(known.orientation);
+    options->page.unitId = parser.value(known.unitId);
+    return QString();
+}
+
 } // namespace
 
 Options readOptions(const QStringList& arguments)
 {
+    const KnownOptions known;
     QCommandLineParser parser;
-    const auto named = [](const char* shortName, const char* longName, const char* value = nullptr) {
-        return QCommandLineOption({QLatin1String(shortName), QLatin1String(longName)}, {}, QLatin1String(value));
-    };
-    const QCommandLineOption format = named("f", "format", "FORMAT");
-    const QCommandLineOption output = named("o", "output", "OUTPUT");
-    const QCommandLineOption services = named("s", "services", "FOLDER");
-    const QCommandLineOption title(QStringLiteral("title"), {}, QStringLiteral("TEXT"));
-    const QCommandLineOption logo(QStringLiteral("logo"), {}, QStringLiteral("FILE"));
-    const QCommandLineOption noLogo(QStringLiteral("no-logo"));
-    const QCommandLineOption orientation(QStringLiteral("orientation"), {}, QStringLiteral("WAY"));
-    const QCommandLineOption unitId(QStringLiteral("unit-id"), {}, QStringLiteral("TEXT"));
-    const QCommandLineOption strict(QStringLiteral("strict"));
-    parser.addOptions({format, output, services, title, logo, noLogo, orientation, unitId, strict});
-
+    parser.addOptions({known.format, known.output, known.services, known.title, known.logo, known.noLogo,
+            known.orientation, known.unitId, known.strict});
     const QString version = QStringLiteral("reportconvert (uiutils) %1\n").arg(QCoreApplication::applicationVersion());
     const apps::CommandLine line = apps::parse(parser, arguments, {helpText(), version});
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);
 
     Options options;
-    options.documents = parser.positionalArguments();
-    if (options.documents.isEmpty())
-        return misused(Texts::tr("No document is given; \"-\" reads one from standard input."));
-    if (options.documents.contains(QString()))
-        return misused(Texts::tr("The name of a document is empty."));
-    const QStringList formats = parser.values(format);
-    for (const QString& name : formats) {
-        if (!addFormats(name, &options.formats))
-            return misused(Texts::tr("There is no format \"%1\", only %2 and all.").arg(name, formatNames()));
+    for (const auto read : {readDocuments, readFormats, readPlaces, readPage}) {
+        const QString problem = read(parser, known, &options);
+        if (!problem.isEmpty())
+            return misused(problem);
     }
-    options.output = parser.isSet(output) ? parser.value(output) : QStringLiteral(".");
-    if (options.output.isEmpty())
-        return misused(Texts::tr("--output needs the name of a folder or file, or \"-\"."));
-    options.serviceFolders = splitFolders(parser.values(services));
-    if (parser.isSet(services) && options.serviceFolders.isEmpty())
-        return misused(Texts::tr("--services needs the name of a folder."));
-    if (parser.isSet(title))
-        options.page.title = parser.value(title);
-    options.page.hasLogo = !parser.isSet(noLogo);
-    if (parser.isSet(logo) && parser.isSet(noLogo))
-        return misused(Texts::tr("--logo and --no-logo cannot be used together."));
-    if (parser.isSet(logo) && parser.value(logo).isEmpty())
-        return misused(Texts::tr("--logo needs the name of a picture file."));
-    options.page.logoFile = parser.value(logo);
-    if (parser.isSet(orientation) && !isOrientation(parser.value(orientation)))
-        return misused(Texts::tr("There is no orientation \"%1\", only portrait and landscape.")
-                               .arg(parser.value(orientation)));
-    options.page.orientation = parser.value(orientation);
-    options.page.unitId = parser.value(unitId);
-    options.isStrict = parser.isSet(strict);
+    options.isStrict = parser.isSet(known.strict);
     return options;
 }
 

@@ -9,16 +9,16 @@
 
 namespace uiutils::convert {
 
-/// The name that stands for standard input among the documents and for standard output after --output.
+/// The name of standard input among the documents and of standard output after --output.
 inline const QLatin1String standardStream("-");
 
-/// What the command line asks for.
+/// The options of the command line.
 struct Options : apps::CommandLine
 {
     QStringList documents;
-    /// None twice; empty when the suffix of `output` has to tell.
+    /// No format twice; empty when the suffix of `output` decides.
     QVector<const Format*> formats;
-    /// As it was given; "." when it was not.
+    /// As given; "." without the option.
     QString output;
     QStringList serviceFolders;
     PageSettings page;

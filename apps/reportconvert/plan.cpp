@@ -27,7 +27,7 @@ bool isFolder(const QString& output)
     return output.endsWith(QLatin1Char('/')) || QFileInfo(output).isDir();
 }
 
-/// "report" of "/tmp/report.json"; a name without that suffix stays whole.
+/// "report" of "/tmp/report.json"; a name without that suffix is unchanged.
 QString baseName(const QString& document)
 {
     if (isStandardStream(document))
@@ -38,7 +38,7 @@ QString baseName(const QString& document)
     return isLonger && name.endsWith(suffix, Qt::CaseInsensitive) ? name.chopped(suffix.size()) : name;
 }
 
-/// Device and inode, which a file keeps under each of its names.
+/// Device and inode, which all names of a file share.
 using Identity = std::pair<dev_t, ino_t>;
 
 std::optional<Identity> identityOf(const QString& document)
@@ -51,7 +51,7 @@ std::optional<Identity> identityOf(const QString& document)
     return Identity(status.st_dev, status.st_ino);
 }
 
-/// All targets lie in one folder, so that two of them are the same file only when they are spelt alike.
+/// All targets are in one folder, so that two of them are the same file only when their names are equal.
 QString clashOf(const QVector<Job>& jobs)
 {
     QHash<QString, QString> documentOf;
@@ -87,7 +87,7 @@ QString overwrittenDocument(const QVector<Job>& jobs)
     return {};
 }
 
-Plan refused(const QString& error)
+Plan rejected(const QString& error)
 {
     Plan plan;
     plan.error = error;
@@ -110,15 +110,15 @@ Plan intoFolder(const Options& options)
     return plan;
 }
 
-/// The plan for standard output or one file.
+/// The plan for standard output or a single file.
 Plan intoOne(const Options& options)
 {
     const bool toStandardOutput = isStandardStream(options.output);
     if (options.documents.size() > 1 || options.formats.size() > 1) {
-        return refused(toStandardOutput
+        return rejected(toStandardOutput
                         ? Texts::tr("Standard output takes one document in one format. Name a folder with --output.")
-                        : Texts::tr("%1 is no folder, and a file takes one document in one format. For a folder "
-                                    "that is to be made, end its name in \"/\".")
+                        : Texts::tr("%1 is not a folder, and a file takes one document in one format. To create a "
+                                    "folder, end its name with \"/\".")
                                   .arg(options.output));
     }
     Plan plan;
@@ -127,15 +127,15 @@ Plan intoOne(const Options& options)
     return plan;
 }
 
-/// An option that makes no difference to any format that is asked for, in words.
+/// The error for an option that affects none of the requested formats.
 QString idleOption(const PageSettings& page, const Plan& plan)
 {
     if (!page.title.isNull() && !plan.writes(&Format::hasTitle))
-        return Texts::tr("--title changes HTML pages, PDF files and plain texts only, and none is asked for.");
+        return Texts::tr("--title changes HTML pages, PDF files and plain texts only, and none is requested.");
     if ((!page.hasLogo || !page.logoFile.isEmpty()) && !plan.writes(&Format::isPage))
-        return Texts::tr("--logo and --no-logo change HTML pages and PDF files only, and none is asked for.");
+        return Texts::tr("--logo and --no-logo change HTML pages and PDF files only, and none is requested.");
     if ((!page.orientation.isEmpty() || !page.unitId.isEmpty()) && !plan.writes(&Format::isPaper))
-        return Texts::tr("--orientation and --unit-id change PDF files only, and none is asked for.");
+        return Texts::tr("--orientation and --unit-id change PDF files only, and none is requested.");
     return {};
 }
 
@@ -170,7 +170,7 @@ Plan makePlan(const Options& given)
         const Format* const format
                 = writesFolder ? nullptr : formatBySuffix(QFileInfo(options.output).suffix().toLower());
         if (!format)
-            return refused(Texts::tr("Name a format with --format: %1 or all.").arg(formatNames()));
+            return rejected(Texts::tr("Name a format with --format: %1 or all.").arg(formatNames()));
         options.formats += format;
     }
     Plan plan = writesFolder ? intoFolder(options) : intoOne(options);

@@ -7,44 +7,44 @@
 
 namespace uiutils::convert {
 
-/// One thing to write.
+/// One file to write.
 struct Target
 {
     const Format* format;
     /// Empty for standard output.
     QString path;
 
-    /// As messages name it.
+    /// The name in messages.
     QString name() const { return path.isEmpty() ? QStringLiteral("<standard output>") : path; }
 };
 
-/// One document and what becomes of it.
+/// One document and its targets.
 struct Job
 {
     /// A path, or "-" for standard input.
     QString document;
     QVector<Target> targets;
 
-    /// As messages name it.
+    /// The name in messages.
     QString name() const;
 };
 
-/// Everything that a call is going to do, known before anything is read or written.
+/// Everything that a call will do, known before anything is read or written.
 struct Plan
 {
     QVector<Job> jobs;
-    /// A folder to make before the first file is written; empty when there is none.
+    /// A folder to create before the first file is written; empty for none.
     QString newFolder;
-    /// What forbids it all, in words; empty when nothing does.
+    /// Why the call must not run, in words; empty when it may.
     QString error;
 
     int targetCount() const;
-    /// Whether a format is asked for of which that flag is true.
+    /// Whether that flag is true of a requested format.
     bool writes(bool Format::*flag) const;
 };
 
-/// Gives every document and format its target. Refuses two targets of one name, and a target that is one of
-/// the documents. Looks at the disk and changes nothing there.
+/// Gives every document and format its target. Rejects two targets of one name, and a target that is one of the
+/// documents. Reads the disk and changes nothing on it.
 Plan makePlan(const Options& options);
 
 } // namespace uiutils::convert

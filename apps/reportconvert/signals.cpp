@@ -9,12 +9,12 @@ namespace uiutils::convert {
 
 namespace {
 
-// What ends a program from outside.
+// The signals that end a program from outside.
 const int endingSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
 int signalDescriptor = -1;
 
-/// nohup and background jobs ignore some: held back, such a signal would become pending all the same.
+/// nohup and background jobs ignore some: blocking such a signal would still make it pending.
 bool isIgnored(int signal)
 {
     struct sigaction action = {};
@@ -34,8 +34,7 @@ void holdSignals()
             sigaddset(&held, signal);
     }
     ::pthread_sigmask(SIG_BLOCK, &held, nullptr);
-    // Made readable by a signal that waits, and never read: poll() can wait for both without a gap between
-    // them.
+    // Becomes readable when a signal waits, and is never read: poll() can wait for both without a gap between them.
     signalDescriptor = ::signalfd(-1, &held, SFD_CLOEXEC);
 }
 

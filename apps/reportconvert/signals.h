@@ -2,9 +2,9 @@
 
 namespace uiutils::convert {
 
-/// Holds back SIGINT, SIGTERM and SIGHUP, unless the caller had them ignored, so that no file is left
-/// half-written. A reader that goes away and a file that outgrows the caller's limit become errors of the
-/// write. Call it before any thread starts.
+/// Blocks SIGINT, SIGTERM and SIGHUP, unless the caller ignores them, so that no file is half-written. A reader that
+/// closes its end and a file above the caller's size limit become errors of the write. Call it before any thread
+/// starts.
 void holdSignals();
 
 /// The number of a signal that is waiting, or 0.

@@ -39,7 +39,7 @@ bool isPassing(int error)
 
 void holdStandardStreams()
 {
-    // In ascending order, for open() takes the lowest number that is free.
+    // In ascending order, because open() takes the lowest free number.
     for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         if (::fcntl(fd, F_GETFD) < 0)
             ::open("/dev/null", fd == STDIN_FILENO ? O_WRONLY : O_RDONLY);
@@ -65,7 +65,7 @@ bool copyStandardInput(QIODevice& target, QString* error)
                     error);
         }
         if (target.write(buffer.data(), count) != count)
-            return fail(Texts::tr("cannot be kept meanwhile: %1").arg(target.errorString()), error);
+            return fail(Texts::tr("cannot be written to a temporary file: %1").arg(target.errorString()), error);
     }
     return false;
 }
@@ -76,8 +76,7 @@ bool writeStandardOutput(const QByteArray& bytes, QString* error)
     while (done < bytes.size()) {
         if (!waitFor(STDOUT_FILENO, POLLOUT))
             return false;
-        // A pipe that is ready takes this much at once, so that no write blocks where a signal could not end
-        // it.
+        // A ready pipe takes at least this much at once, so that no write blocks where a signal could not end it.
         const ssize_t count
                 = ::write(STDOUT_FILENO, bytes.constData() + done, size_t(qMin<qint64>(PIPE_BUF, bytes.size() - done)));
         if (count < 0 && isPassing(errno))
@@ -86,7 +85,7 @@ bool writeStandardOutput(const QByteArray& bytes, QString* error)
             return fail(outputError(), error);
         done += count;
     }
-    // Some file systems tell only now that there was no room.
+    // Some file systems report only now that there was no space.
     return ::close(STDOUT_FILENO) == 0 || fail(outputError(), error);
 }
 

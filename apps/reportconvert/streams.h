@@ -6,15 +6,15 @@
 
 namespace uiutils::convert {
 
-/// Takes the places of standard streams that the caller closed, so that no file of ours is opened there and
-/// mistaken for one. Using them still fails.
+/// Occupies the standard streams that the caller closed, so that no file of ours is opened in their place and taken for
+/// one. Using them still fails.
 void holdStandardStreams();
 
-/// Copies standard input, up to the size that a document may have. Returns false, with the reason in `error`,
-/// when that fails, and with an empty one when a signal came first.
+/// Copies standard input, up to the maximum size of a document. Returns false on failure, with the reason in `error`,
+/// which is empty after a signal.
 bool copyStandardInput(QIODevice& target, QString* error);
 
-/// Writes to standard output; fails as copyStandardInput() does.
+/// Writes to standard output; failures as for copyStandardInput().
 bool writeStandardOutput(const QByteArray& bytes, QString* error);
 
 } // namespace uiutils::convert

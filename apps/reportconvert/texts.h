@@ -4,7 +4,7 @@
 
 namespace uiutils::convert {
 
-/// What the program says, under one context for translators.
+/// The program's texts, under one context for translators.
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(ReportConvert)

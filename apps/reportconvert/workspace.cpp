@@ -30,11 +30,11 @@ bool Workspace::prepare(QString* error)
     removeStaleTemporaries(place());
     m_folder = std::make_unique<TemporaryFolder>(place());
     if (path().isEmpty()) {
-        *error = Texts::tr("No temporary folder can be made in %1: %2. Name another place with TMPDIR.")
+        *error = Texts::tr("No temporary folder can be created in %1: %2. Name another place with TMPDIR.")
                          .arg(place(), qt_error_string(errno));
         return false;
     }
-    // Without one the toolkit would make a folder in /tmp that stays.
+    // Otherwise the toolkit would create a folder in /tmp that stays.
     if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(path()));
     if (!qEnvironmentVariableIsEmpty("UIUTILS_ROOT") || makeRoot())

@@ -8,17 +8,17 @@
 
 namespace uiutils::convert {
 
-/// A folder of this run's own, removed with the object; what killed runs have left goes first. Unless UIUTILS_ROOT says
-/// otherwise, it is the instrument's root too: the writers find their icons and leave their plots there, and nothing
-/// else of the disk is touched.
+/// A folder of this run's own, removed with the object; those of killed runs are removed first. Unless UIUTILS_ROOT
+/// says otherwise, it is the instrument's root too: the writers find their icons and write their plots there, and use
+/// nothing else of the disk.
 class Workspace
 {
 public:
-    /// Makes and fills the folder and tells the toolkit and the library about it. Returns false, with the reason and
-    /// what to do in `error`, when that fails.
+    /// Creates and fills the folder and passes it to the toolkit and the library. Returns false, with the reason and
+    /// what to do in `error`, on failure.
     bool prepare(QString* error);
 
-    /// For what is kept only meanwhile.
+    /// For temporary files.
     QString path() const { return m_folder->path(); }
 
 private:

@@ -61,7 +61,7 @@ int main(int argc, char** argv)
     if (const auto exitCode = apps::exitCodeOf(options))
         return *exitCode;
 
-    // What the library notes for its developers is no business of a user, who may ask for it by QT_LOGGING_RULES.
+    // The library's notes for developers do not concern users, who may enable them by QT_LOGGING_RULES.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\nqml.debug=true"));
     if (!apps::useRoot(options.root))
         return exitFailed;

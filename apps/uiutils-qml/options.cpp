@@ -15,6 +15,14 @@ Options misused(const QString& message)
     return apps::ended<Options>(apps::misused(message));
 }
 
+QString description()
+{
+    return Texts::tr("Shows a QML page with every item of the described services under its name, such as "
+                     "basemgr_cfg_saveLocation, and the services themselves as members of \"services\", such as "
+                     "services.basemgr.\n\n"
+                     "Exit status: 0 done, 1 failed, 2 wrong command line.");
+}
+
 } // namespace
 
 Options readOptions(const QStringList& arguments)
@@ -22,11 +30,7 @@ Options readOptions(const QStringList& arguments)
     const QString ownRoot = apps::defaultRoot(QStringLiteral("uiutils-qml"));
     const QStringList ownServices = apps::defaultServiceFolders();
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-            Texts::tr("Shows a QML page with every item of the described services under its name, such as "
-                      "basemgr_cfg_saveLocation, and the services themselves as members of \"services\", such as "
-                      "services.basemgr.\n\n"
-                      "Exit status: 0 done, 1 failed, 2 wrong command line."));
+    parser.setApplicationDescription(description());
     parser.addPositionalArgument(
             QStringLiteral("page"), Texts::tr("The QML file to show."), QStringLiteral("page.qml"));
     const QCommandLineOption services({QStringLiteral("s"), QStringLiteral("services")},
@@ -42,7 +46,8 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption picture(QStringLiteral("grab"),
             Texts::tr("Write a picture of the page to <file> (PNG) and quit."), Texts::tr("file"));
     const QCommandLineOption list(QStringLiteral("list"),
-            Texts::tr("List the items, one on a line: name in QML, type and value, parted by tabs. Needs no page."));
+            Texts::tr("List the items, one on each line: name in QML, type and value, separated by tabs. Needs no "
+                      "page."));
     parser.addOptions({services, imports, root, picture, list});
 
     const apps::CommandLine line = apps::parse(parser, arguments);

@@ -7,10 +7,10 @@
 
 namespace uiutils::qmltool {
 
-/// What the command line asks for.
+/// The options of the command line.
 struct Options : apps::CommandLine
 {
-    /// The page to show; empty when the items are to be listed.
+    /// The page to show; empty for a list of the items.
     QString page;
     QStringList serviceFolders;
     QStringList importFolders;

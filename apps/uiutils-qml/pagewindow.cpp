@@ -33,7 +33,7 @@ QString writePicture(const QImage& image, const QString& file)
     buffer.open(QIODevice::WriteOnly);
     QString error;
     if (!image.save(&buffer, "PNG"))
-        return Texts::tr("The page gave no picture for %1.").arg(file);
+        return Texts::tr("No picture of the page could be taken for %1.").arg(file);
     return writeFileDurably(file, bytes, &error) ? QString() : error;
 }
 
@@ -41,7 +41,7 @@ void grab(QQuickWindow* window, const QString& file, const std::function<void(co
 {
     const QSharedPointer<QQuickItemGrabResult> result = window->contentItem()->grabToImage();
     if (!result)
-        return done(Texts::tr("The page gave no picture for %1.").arg(file));
+        return done(Texts::tr("No picture of the page could be taken for %1.").arg(file));
     // Queued, because the result, which this holds, must outlive its own signal.
     QObject::connect(
             result.data(), &QQuickItemGrabResult::ready, window,
@@ -83,7 +83,7 @@ void PageWindow::show(QQmlEngine* engine)
     view->setResizeMode(QQuickView::SizeRootObjectToView);
     if (item->width() <= 0 || item->height() <= 0)
         item->setSize({1024, 600});
-    // The view takes the page over.
+    // The view takes ownership of the page.
     view->setContent(m_component.url(), &m_component, m_root.release());
     m_window = view.get();
     m_ownWindow = std::move(view);
@@ -92,7 +92,7 @@ void PageWindow::show(QQmlEngine* engine)
 
 void takePicture(QQuickWindow* window, const QString& file, const std::function<void(const QString&)>& done)
 {
-    // Before the first frame the window has no size.
+    // The window has no size before the first frame.
     auto first = std::make_shared<QMetaObject::Connection>();
     *first = QObject::connect(
             window, &QQuickWindow::frameSwapped, window,
@@ -101,11 +101,11 @@ void takePicture(QQuickWindow* window, const QString& file, const std::function<
                 grab(window, file, done);
             },
             Qt::QueuedConnection);
-    // In which a window that is drawn at all has been drawn.
+    // Time in which any window that is being drawn has been drawn.
     constexpr int patienceMs = 20000;
     QTimer::singleShot(patienceMs, window, [file, done] {
-        done(Texts::tr(
-                "The page was not drawn in time for %1. Keep its window in sight, or unset DISPLAY and WAYLAND_DISPLAY.")
+        done(Texts::tr("The page was not drawn in time for %1. Keep its window in sight, or unset DISPLAY and "
+                       "WAYLAND_DISPLAY.")
                         .arg(file));
     });
 }

@@ -12,7 +12,7 @@ class QQuickWindow;
 
 namespace uiutils::qmltool {
 
-/// A QML page on the screen: in the window that it is, or in one made for it.
+/// A QML page on the screen: in its own window, if it is one, or in a new one.
 class PageWindow
 {
 public:
@@ -29,13 +29,13 @@ private:
 
     QQmlComponent m_component;
     std::unique_ptr<QObject> m_root;
-    /// Only for a page that is no window itself.
+    /// Only for a page that is not a window itself.
     std::unique_ptr<QQuickWindow> m_ownWindow;
     QQuickWindow* m_window = nullptr;
     QString m_error;
 };
 
-/// Takes a picture of the window once it is drawn, writes it as PNG and calls `done` with what went wrong, or an empty
+/// Takes a picture of the window when it has been drawn, writes it as PNG and calls `done` with the error, or an empty
 /// text.
 void takePicture(QQuickWindow* window, const QString& file, const std::function<void(const QString&)>& done);
 

@@ -4,7 +4,7 @@
 
 namespace uiutils::qmltool {
 
-/// What the program says outside of its pages, under one context for translators.
+/// The program's texts outside its pages, under one context for translators.
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(UiUtilsQml)

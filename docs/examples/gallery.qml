@@ -10,12 +10,12 @@ import UiUtils.Controls 1.0
 Rectangle {
     id: gallery
 
-    // What a local item of the right column is: a text unless it says otherwise.
+    // A local item of the right column: a text unless it says otherwise.
     component Field: UiData {
         type: "std::string"
     }
 
-    // Keys walk out of sight otherwise.
+    // Otherwise the keyboard focus could leave the view.
     function showFocus() {
         const item = Window.activeFocusItem
         let within = item

@@ -3,7 +3,7 @@ import QtQuick.Controls 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// What users are told and asked about files:
+// Notifications and questions about files:
 //     uiutils-qml docs/examples/notifications.qml
 Rectangle {
     id: page
@@ -29,7 +29,7 @@ Rectangle {
         }
     }
 
-    // What went wrong is told beside a question that is open.
+    // An error is shown beside an open question.
     FileUtils {
         id: messages
     }

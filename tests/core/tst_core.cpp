@@ -21,7 +21,7 @@ using namespace uiutils;
 
 namespace {
 
-/// What somebody else does at the worst moment: once, when something was locked or looked at.
+/// Something that another process does at the worst moment: once, when a file is locked or examined.
 std::function<void()> onceLocked;
 std::function<void()> onceSeen;
 bool isSomebodyElse = false;
@@ -32,7 +32,7 @@ void happens(std::function<void()>& deed)
         std::exchange(deed, nullptr)();
 }
 
-/// As a killed process leaves it: with a file in a folder within.
+/// What a killed process leaves: a folder with a file in a subfolder.
 QString leftFolder(const QString& parent)
 {
     if (const pid_t child = ::fork()) {
@@ -47,7 +47,7 @@ QString leftFolder(const QString& parent)
 
 } // namespace
 
-// These stand in for the system's own.
+// These replace the system's functions.
 extern "C" int flock(int fd, int operation) noexcept
 {
     const int result = reinterpret_cast<decltype(&flock)>(::dlsym(RTLD_NEXT, "flock"))(fd, operation);
@@ -91,8 +91,8 @@ private Q_SLOTS:
             QCOMPARE(onDisk(path), QString(path));
     }
 
-    /// Neither the instrument's own folders are touched then, nor those of a name that only looks alike.
-    void aRootThatIsNoText()
+    /// Neither the instrument's own folders are used, nor folders whose names only look alike.
+    void aRootThatIsNotText()
     {
         const QTemporaryDir dir;
         const QByteArray before = qgetenv("UIUTILS_ROOT");
@@ -111,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(rootProblem(), QString());
     }
 
-    void durableWriteReplacesWhole()
+    void durableWriteReplacesCompletely()
     {
         QTemporaryDir dir;
         const QString path = dir.filePath(QStringLiteral("report.html"));
@@ -132,8 +132,8 @@ private Q_SLOTS:
         QVERIFY(writeFileDurably(longest, "x") && contentsOf(longest) == "x");
     }
 
-    /// What belongs to somebody who lives stays, and so does what is no file of ours.
-    void whatKilledProcessesLeftGoes()
+    /// Files of a living process stay, and so do files that are not ours.
+    void whatKilledProcessesLeftIsRemoved()
     {
         QTemporaryDir dir;
         const auto make = [&](const char* name) {
@@ -145,7 +145,7 @@ private Q_SLOTS:
         make(".uiutils-other");
         make("report.tmp");
         QVERIFY(leftFolder(dir.path()).endsWith(".dir"));
-        // Reports may lie in a folder that is called the same.
+        // Reports may be in a folder with the same name.
         QVERIFY(QDir(dir.path()).mkpath(".uiutils-reports.dir") && !make(".uiutils-reports.dir/a.pdf").isEmpty());
         QVERIFY(QFile::link(dir.filePath("report.tmp"), dir.filePath(".uiutils-link.tmp")));
         const TemporarySibling living(dir.filePath("report.html"));
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QCOMPARE(found, expected);
     }
 
-    /// Whoever may write beside it must not have us remove what only we may.
+    /// A user who may write beside the target must not make us remove what only we may remove.
     void cleaningRemovesNothingElsewhere_data()
     {
         addColumns<QString, bool>();
@@ -225,7 +225,7 @@ private Q_SLOTS:
             QVERIFY(first.write("half"));
             QVERIFY(!writeFileDurably(path, "other", nullptr, temporary));
             {
-                // The folder can still be opened, the file cannot: who cannot ask for the lock leaves it alone.
+                // The folder can still be opened, the file cannot: without a look at the lock the file stays.
                 const int next = ::dup(0);
                 ::close(next);
                 struct rlimit before = {};
@@ -238,7 +238,7 @@ private Q_SLOTS:
             QVERIFY(first.write(" and whole") && first.sync() && first.renameTo(path));
         }
         QCOMPARE(contentsOf(path), QByteArray("half and whole"));
-        // A link that lies there goes, and not what it leads to.
+        // A link at that path is removed, not its target.
         QVERIFY(QFile::link(path, temporary));
         QVERIFY(writeFileDurably(path, "other", nullptr, temporary));
         QCOMPARE(namesIn(dir.path()), QStringList {QStringLiteral("report.pdf")});
@@ -254,7 +254,7 @@ private Q_SLOTS:
         const auto restoreUmask = qScopeGuard([before = ::umask(027)] { ::umask(before); });
         QVERIFY(writeFileDurably(path, "new"));
         QCOMPARE(modeOf(path), 0640);
-        // Private, wider than the umask leaves, and for reading only.
+        // Private, wider than the umask allows, and read-only.
         for (const int mode : {0600, 0666, 0444}) {
             QCOMPARE(::chmod(QFile::encodeName(path).constData(), mode_t(mode)), 0);
             QVERIFY(writeFileDurably(path, "replaced"));

@@ -5,7 +5,7 @@ import UiUtils.Controls 1.0
 import UiUtils.Demo 1.0
 import "qrc:/uiutils/demo"
 
-// The report page under a user's hands, on an instrument of its own for each test.
+// The report page as users operate it, with a new instrument for each test.
 TestCase {
     when: windowShown
 
@@ -24,7 +24,7 @@ TestCase {
         window = createTemporaryObject(windowComponent, parent)
         verify(window)
         waitForRendering(page)
-        // What was stored comes in a little later, and the name of the run on top of it.
+        // The stored settings arrive a little later, followed by the name of the run.
         tryVerify(() => field("nameEntry").text.startsWith("loopback_"))
     }
 
@@ -54,7 +54,7 @@ TestCase {
         compare(field(name).text, text)
     }
 
-    // Going down through the choices.
+    // Steps down through the choices.
     function choose(label, name) {
         const box = findChild(entry(name || "formatEntry"), "box")
         box.forceActiveFocus()

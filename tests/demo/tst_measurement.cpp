@@ -19,7 +19,7 @@
 using namespace uiutils::demo;
 using uiutils::Status;
 
-/// What a far end does with a connection.
+/// What a server does with a connection.
 using Serve = std::function<void(QTcpSocket*)>;
 Q_DECLARE_METATYPE(Serve)
 
@@ -30,7 +30,7 @@ constexpr int longWait = 60000;
 const char* const serviceFile = UIUTILS_SOURCE_DIR "/platform/reference/services/loopback.service.json";
 const char* const roundTripLimit = ":config:loopback:limits:maximumRtt:";
 
-/// A far end that does what a test wants done with each connection.
+/// A server that does with each connection what the test says.
 class TestServer : public QTcpServer
 {
 public:
@@ -42,8 +42,8 @@ public:
     }
 };
 
-/// Answers as the protocol wants, each request `delay` milliseconds after its last byte, and no more than
-/// `most`.
+/// Answers according to the protocol, each request `delay` milliseconds after its last byte, and at most `most`
+/// requests.
 Serve answeringAfter(int delay, int most = INT_MAX)
 {
     return [delay, most](QTcpSocket* socket) {
@@ -95,14 +95,14 @@ private Q_SLOTS:
         m_taken = std::make_unique<QSignalSpy>(m_measurement.get(), &LoopbackMeasurement::sampleTaken);
     }
 
-    void wholeRun_data()
+    void completeRun_data()
     {
         addColumns<int, int, int>();
         QTest::newRow("smallest message") << samples << samples + 3 << LoopbackMeasurement::smallestMessage;
         QTest::newRow("largest message") << samples + 3 << samples << LoopbackMeasurement::largestMessage;
     }
 
-    void wholeRun()
+    void completeRun()
     {
         const auto [roundTrips, throughputs, messageBytes] = currentRow<int, int, int>();
         m_measurement->setRoundTripSamples(roundTrips);
@@ -116,7 +116,7 @@ private Q_SLOTS:
         connect(m_measurement.get(), &LoopbackMeasurement::stateChanged, this,
                 [&] { states += m_measurement->state(); });
         m_measurement->start();
-        // A second start has nothing to say while the first runs.
+        // A second start has no effect while the first runs.
         m_measurement->start();
         QVERIFY(m_finished->wait(longWait));
 
@@ -157,7 +157,7 @@ private Q_SLOTS:
                 << QString(":config:loopback:limits:minimumThroughput:") << 5.0 << int(Settings::FollowSampleCounts) << 5.0;
     }
 
-    /// Taken at the start, and from a service that came back.
+    /// Read at the start, and from a service that returned.
     void followsTheService()
     {
         const auto [id, value, counts, expected] = currentRow<QString, double, int, double>();
@@ -169,7 +169,7 @@ private Q_SLOTS:
                 MeasurementSettings::SampleCounts(counts));
         QCOMPARE(taken(id), expected);
 
-        // Back as its file says, and changed once more.
+        // Back with the values of its file, and changed once more.
         services.withdraw("loopback");
         QVERIFY(services.loadFile(serviceFile));
         services.service("loopback")->setValue(id, before);
@@ -178,7 +178,7 @@ private Q_SLOTS:
         QCOMPARE(taken(id), expected);
     }
 
-    /// The service and the measurement end with the same limit, whichever of them it was changed at.
+    /// The service and the measurement end with the same limit, whichever of them changed it.
     void oneLimit()
     {
         kiv::embedded::EmbeddedBackend services;
@@ -195,8 +195,8 @@ private Q_SLOTS:
         }
     }
 
-    /// A far end of known slowness bounds every sample from below, the clock on the wall bounds their sum
-    /// from above: a slip in a unit or in what is timed breaks one of the two.
+    /// A server of known slowness bounds every sample from below, the wall clock bounds their sum from above: an error
+    /// in a unit or in the timing breaks one of the two.
     void samplesAgreeWithTheClock()
     {
         constexpr int delay = 4;
@@ -213,7 +213,7 @@ private Q_SLOTS:
         for (int i = 0; i < samples; ++i) {
             const double roundTrip = m_measurement->roundTrip()->valueAt(i);
             const double transfer = transferMegabits / m_measurement->throughput()->valueAt(i) * 1000;
-            // Timers are allowed to be early by less than a millisecond.
+            // Timers may be early by less than a millisecond.
             QVERIFY2(roundTrip > delay - 1, qPrintable(QString::number(roundTrip)));
             QVERIFY2(transfer > delay - 1, qPrintable(QString::number(transfer)));
             sum += roundTrip + transfer;
@@ -246,7 +246,7 @@ private Q_SLOTS:
         QCOMPARE(m_measurement->status(), int(Status::None));
         disconnect(connection);
 
-        // Samples of the first run that were still on their way must not be counted in the second.
+        // Queued samples of the first run must not be counted in the second.
         m_measurement->start();
         QVERIFY(m_finished->wait(longWait));
         QCOMPARE(m_taken->count(), after + 2 * samples);
@@ -264,7 +264,7 @@ private Q_SLOTS:
         QTest::newRow("closes") << Serve([](QTcpSocket* socket) { socket->close(); }) << "broke while";
         QTest::newRow("is not there") << Serve() << "while connecting";
         QTest::newRow("babbles") << Serve([](QTcpSocket* socket) { socket->write(QByteArray(64, 'x')); })
-                                 << "does not belong to the question";
+                                 << "does not match the request";
     }
 
     void badServerFailsInWords()
@@ -287,7 +287,7 @@ private Q_SLOTS:
         QVERIFY(m_taken->count() < samples);
         QCOMPARE(m_finished->count(), 0);
 
-        // The next run, with a server of its own, knows nothing of it.
+        // The next run, with a server of its own, is not affected.
         m_measurement->setServerPort(0);
         m_measurement->setPatience(longWait);
         m_measurement->start();
@@ -302,13 +302,13 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(m_measurement->throughput()->count() > 2, longWait);
         m_measurement.reset();
 
-        // Nor does it matter that the run has hardly begun.
+        // It may have hardly begun.
         LoopbackMeasurement shortLived;
         shortLived.start();
     }
 
 private:
-    /// What the measurement holds for that setting.
+    /// The measurement's value of that setting.
     double taken(const QString& id)
     {
         if (id.contains(":limits:"))

@@ -51,7 +51,7 @@ QString textOf(const QQuickItem* item)
     return item->property("text").toString();
 }
 
-/// Whether the item lies in something that scrolls, where being cut off at an edge is no fault.
+/// Whether the item is in something that scrolls, where being cut off at an edge is not an error.
 bool isScrolled(const QQuickItem* item)
 {
     for (; item; item = item->parentItem()) {
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(m_warnings.take(), QStringList());
     }
 
-    /// Measure, cancel, measure, look, save: all with keys. Without a measurement there is nothing to save.
+    /// Measure, cancel, measure, look, save: all with keys. Without a measurement nothing can be saved.
     void keyboardReachesEverything()
     {
         QVERIFY(!button("Save")->isEnabled());
@@ -110,11 +110,11 @@ private Q_SLOTS:
         QCOMPARE(m_report->savedFiles().size(), 1);
         QVERIFY(QFile::exists(m_report->savedFiles().constFirst()));
 
-        // Asked before the file is overwritten, and back on the page with the answer.
+        // A question before the file is overwritten; the answer leads back to the page.
         QTest::keyClick(m_window, Qt::Key_Space);
         const KIVNotificationModelManager* const notifications = KIVNotificationModelManager::instance();
         QVERIFY(notifications->currentDialog());
-        // Keys that come at once may have been meant for the page.
+        // Keys that arrive at once may have been meant for the page.
         QTRY_VERIFY((QTest::keyClick(m_window, Qt::Key_Escape), !notifications->currentDialog()));
         QTRY_VERIFY(button("Save")->hasActiveFocus());
     }
@@ -130,7 +130,7 @@ private Q_SLOTS:
         QCOMPARE(served(roundTripLimit), QVariant(roundTrip->limit()));
     }
 
-    /// What is typed is held back over a change of the page, and reaches both services at once.
+    /// Typed text is held back across a change of the page, and reaches both services at once.
     void settingsAreAppliedTogether()
     {
         QTest::keyClick(m_window, Qt::Key_4, Qt::ControlModifier);
@@ -153,7 +153,7 @@ private Q_SLOTS:
         QVERIFY(!button("Apply")->isEnabled() && !button("Revert")->isEnabled());
     }
 
-    /// Also of a field that was changed twice, of one that cannot be applied, and of one that went back by itself.
+    /// Also after a field was changed twice, cannot be applied, or went back by itself.
     void revertRestoresWhatTheServicesHold()
     {
         m_window->setProperty("page", 3);
@@ -197,7 +197,7 @@ private Q_SLOTS:
         QTest::newRow("no name") << QString(lastName) << "en_US" << "" << QVariant("default");
     }
 
-    /// An entry that cannot be taken stands in the way of all, until it is corrected.
+    /// An entry that is not acceptable blocks all others, until it is corrected.
     void entries()
     {
         const auto [id, locale, typed, taken] = currentRow<QString, QString, QString, QVariant>();
@@ -222,22 +222,22 @@ private Q_SLOTS:
         QCOMPARE(served(":config:basemgr:system:userInfo_techID:"), QVariant("T-1"));
     }
 
-    void refusedSettingsAreToldInWords_data()
+    void rejectedSettingsAreExplained_data()
     {
         addColumns<QString, int>();
-        // In the bar, and at each setting that the words may concern.
+        // In the bar, and at each setting that the reason may concern.
         QTest::newRow("named") << "Last Name cannot be changed in the field." << 2;
         QTest::newRow("not named") << "The roster is closed." << 3;
     }
 
-    void refusedSettingsAreToldInWords()
+    void rejectedSettingsAreExplained()
     {
         const auto [words, times] = currentRow<QString, int>();
         service(lastName)->setRefusal(lastName, words);
         m_window->setProperty("page", 3);
         type(lastName, "Berg");
         type(roundTripLimit, "2");
-        // At every try.
+        // At every attempt.
         for (int i = 0; i < 2; ++i) {
             press("Apply");
             QCOMPARE(shownTimes("Nothing was set. " + words), times);
@@ -254,7 +254,7 @@ private Q_SLOTS:
         QCOMPARE(shownTimes("Nothing was set. " + words), 0);
     }
 
-    /// The service has the last word on a setting; what it says of others leaves the entry alone.
+    /// The service decides about a setting; what it reports of other settings leaves the entry alone.
     void settingsFollowTheService()
     {
         m_window->setProperty("page", 3);
@@ -275,14 +275,14 @@ private Q_SLOTS:
         QCOMPARE(textOf(fieldOf(lastName)), QString("Dahl"));
         QVERIFY(!isChanged(lastName));
 
-        // What does not apply is hidden and hinders nothing.
+        // What is not applicable is hidden and blocks nothing.
         service(roundTripSamples)->setApplicable(roundTripSamples, false);
         QVERIFY(!fieldOf(roundTripSamples)->isVisible());
         type(lastName, "Berg");
         QVERIFY(button("Apply")->isEnabled());
     }
 
-    /// The keyboard goes through all settings, and each comes into sight.
+    /// The keyboard reaches all settings, and each is scrolled into view.
     void keyboardReachesEverySetting()
     {
         m_window->setProperty("page", 3);
@@ -313,7 +313,7 @@ private Q_SLOTS:
             });
         };
         QVERIFY(choice("USB")->height() >= 44);
-        // What is not there now cannot be taken.
+        // A choice that is not applicable now cannot be selected.
         click(choice("USB"));
         QVERIFY(!isChanged(saveLocation));
         click(choice("Internal and USB"));
@@ -322,7 +322,7 @@ private Q_SLOTS:
         QCOMPARE(served(saveLocation), QVariant(2));
     }
 
-    /// The page does without services that a user's own folder lacks.
+    /// The page works without services that the user's own folder lacks.
     void noServicesNoSettings()
     {
         endProgram();
@@ -333,7 +333,7 @@ private Q_SLOTS:
         QCOMPARE(shownTimes("There are no settings, because the services basemgr and loopback are not published."), 1);
     }
 
-    /// The keys of the list, and where they leave the user.
+    /// The keys of the list, and the position after each.
     void savedReportsByKeys()
     {
         const QString folder = "/cust/public/reports/loopback/";
@@ -344,7 +344,7 @@ private Q_SLOTS:
         QVERIFY(button("Delete")->isVisible() && !button("Open")->isVisible());
         for (const char* name : {"b.txt", "c.txt"})
             put(folder + name, "a report");
-        // Tells that it was started.
+        // Prints that it was started.
         put("/base/bin/pdf_viewer", "#!/bin/sh\ntouch shown\n");
         QVERIFY(QFile(m_root.filePath("base/bin/pdf_viewer")).setPermissions(QFile::ReadOwner | QFile::ExeOwner));
         QVERIFY(QDir(m_root.path()).mkpath("base/qml/pdf_viewer"));
@@ -354,7 +354,7 @@ private Q_SLOTS:
         for (int i = 0; i < 20 && !list->hasActiveFocus(); ++i)
             QTest::keyClick(m_window, Qt::Key_Tab);
 
-        // Times of files may be the same; the one that can be opened is somewhere.
+        // Files may have the same time; the one that can be opened is somewhere in the list.
         while (!button("Open")->isVisible() && list->property("currentIndex").toInt() < 2) {
             QTest::keyClick(m_window, Qt::Key_Return);
             QTest::keyClick(m_window, Qt::Key_Down);
@@ -375,7 +375,7 @@ private Q_SLOTS:
         QTRY_VERIFY(list->hasActiveFocus());
     }
 
-    /// With its dialogs, under a name of its own, and told once.
+    /// With its dialogs, under a name of its own, and with one notification.
     void screenshots()
     {
         KIVNotificationModelManager* const notifications = KIVNotificationModelManager::instance();
@@ -403,7 +403,7 @@ private Q_SLOTS:
         QTRY_VERIFY((QTest::keyClick(m_window, Qt::Key_Escape), !notifications->currentDialog()));
     }
 
-    /// The report comes first, and then what went wrong with it.
+    /// The report comes first, then the error.
     void windowClosesOnceSaved()
     {
         QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -424,8 +424,8 @@ private Q_SLOTS:
         }
     }
 
-    /// No text is cut off, runs out of the window or over its neighbours' card, in any state of a page. What controls draw by
-    /// themselves is no markup either.
+    /// No text is cut off, outside the window or over a neighbouring card, in any state of a page. Controls show no
+    /// markup either.
     void textsFit_data()
     {
         addColumns<QString, QSize>();
@@ -443,7 +443,7 @@ private Q_SLOTS:
             failToMeasure();
         else if (state != "idle") {
             measure();
-            // As wide as they come, whatever this machine measures under its load of the moment.
+            // The widest texts, whatever this machine measures under its present load.
             for (const double factor : {1.0, 1.5}) {
                 m_measurement->roundTrip()->append(6789 * factor);
                 m_measurement->throughput()->append((state == "marginal" ? 65432 : 123456) * factor);
@@ -516,7 +516,7 @@ private:
         return m_services->service(id.section(':', 2, 2));
     }
 
-    /// The value that the service holds.
+    /// The service's value.
     QVariant served(const QString& id) const { return service(id)->item(id)->getValue(); }
 
     /// The row of a setting on the settings page.
@@ -528,7 +528,7 @@ private:
         });
     }
 
-    /// The control in it.
+    /// The control in that row.
     QQuickItem* fieldOf(const QString& id) const
     {
         const QList<QQuickItem*> items = itemsBelow(rowOf(id));
@@ -540,7 +540,7 @@ private:
 
     bool isChanged(const QString& id) const { return rowOf(id)->property("changed").toBool(); }
 
-    /// Whether what may be entered stands there as a warning.
+    /// Whether the permitted values are shown as a warning.
     bool hasFailColor(const QString& id) const
     {
         const QList<QQuickItem*> items = itemsBelow(rowOf(id));
@@ -550,7 +550,7 @@ private:
         });
     }
 
-    /// Whether the settings page is scrolled so that the whole item can be seen.
+    /// Whether the settings page is scrolled so that the complete item is visible.
     bool isInSight(const QQuickItem* item) const
     {
         const auto* view = firstItem([](const QQuickItem* candidate) {
@@ -596,7 +596,7 @@ private:
         QTRY_COMPARE_WITH_TIMEOUT(m_measurement->state(), LoopbackMeasurement::Finished, longWait);
     }
 
-    /// With the unit's list there are the most buttons.
+    /// The unit's list has the most buttons.
     void saveOnBoth()
     {
         QVERIFY(stick()->plug());
@@ -614,7 +614,7 @@ private:
         QTRY_COMPARE_WITH_TIMEOUT(m_measurement->state(), LoopbackMeasurement::Failed, longWait);
     }
 
-    /// Layouts are settled once the page has been drawn.
+    /// Layouts are settled when the page has been drawn.
     void waitForFrame()
     {
         QSignalSpy drawn(m_window, &QQuickWindow::frameSwapped);
@@ -667,7 +667,7 @@ private:
         });
     }
 
-    /// The texts that a user sees now.
+    /// The visible texts.
     QList<QQuickItem*> shownTexts() const
     {
         QList<QQuickItem*> items = itemsBelow(m_window->contentItem());

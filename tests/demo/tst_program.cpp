@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Runs the demo where there is no display, but for what `variables` say.
+/// Runs the demo without a display, unless `variables` name one.
 Outcome runDemo(const QStringList& arguments, const QMap<QString, QString>& variables = {})
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -29,7 +29,7 @@ QStringList filesBelow(const QString& folder)
     return files;
 }
 
-/// What a reader of the page sees, words apart by single blanks.
+/// The text of the page, with single blanks between words.
 QString wordsOf(const QByteArray& html)
 {
     return QString::fromUtf8(html).remove(QRegularExpression("<[^>]*>")).simplified();
@@ -64,7 +64,7 @@ private Q_SLOTS:
 
     void tour()
     {
-        // Numbers of three digits have to stand in their order, too.
+        // Numbers of three digits must be in order, too.
         const int samples = 100;
         const QString root = m_folder->filePath("a new/root");
         const Outcome outcome = runDemo({"--tour", "--root", root, "--samples", QString::number(samples)});
@@ -85,7 +85,7 @@ private Q_SLOTS:
             checkPicture(picture);
     }
 
-    /// Without a display, or with one that does not answer, nobody has to ask for the tour.
+    /// Without a display, or with one that does not answer, the tour starts without being requested.
     void runsByItself()
     {
         for (const char* display : {"", "127.0.0.1:9999"}) {
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QTest::newRow("broken service") << QStringList{"--tour", "--root", "%1/root", "--services", "%1/broken"} << "bad.service.json";
     }
 
-    /// Each ends with exit status 1 and a sentence, and leaves the disk as it was.
+    /// Each ends with exit status 1 and a sentence, and leaves the disk unchanged.
     void failures()
     {
         auto [arguments, sentence] = currentRow<QStringList, QString>();
@@ -144,7 +144,7 @@ private Q_SLOTS:
         QVERIFY(!folder.exists("root"));
     }
 
-    /// Settings of an earlier run are used, and what the tour itself tries out stands in its report only.
+    /// Settings of an earlier run are used; the tour's own settings appear only in its report.
     void settingsSurviveARestart()
     {
         const QString kept = m_folder->filePath("cust/private/lastconfigs/services/");
@@ -170,8 +170,8 @@ private Q_SLOTS:
         QCOMPARE(QJsonDocument::fromJson(report).object()["reportFormat"].toInt(-1), 0);
     }
 
-    /// A folder stands where the last picture should go: what was finished before is kept and named. A viewer that somebody put
-    /// there stays.
+    /// A folder is in the place of the last picture: everything that was finished before stays, and is named. A viewer
+    /// that a user put there stays.
     void pictureThatCannotBeWritten()
     {
         QVERIFY(QDir(m_folder->path()).mkpath("pictures/6-report.png"));
@@ -204,7 +204,7 @@ private Q_SLOTS:
         const auto [arguments, exitCode] = currentRow<QStringList, int>();
         const Outcome outcome = runDemo(arguments);
         QCOMPARE(outcome.exitCode, exitCode);
-        // An answer goes to standard output, a complaint to standard error.
+        // An answer is written to standard output, an error to standard error.
         QCOMPARE(outcome.output.isEmpty(), outcome.exitCode != 0);
         QCOMPARE(outcome.errors.isEmpty(), outcome.exitCode == 0);
     }
@@ -221,7 +221,7 @@ private:
         QCOMPARE(throughputs.size(), samples);
         QCOMPARE(section["attr_samples"].toString(), QString::number(samples));
 
-        // All samples stand on the page in the order in which they were taken.
+        // All samples are on the page in the order in which they were taken.
         const QByteArray html = contentsOf(page);
         const QString words = wordsOf(html);
         QVERIFY2(words.contains(roundTrips.join(' ')), qPrintable(words));
@@ -252,7 +252,7 @@ private:
             QVERIFY2(words.contains(text), text);
     }
 
-    /// A page has far more than one colour; a window that drew nothing has not.
+    /// A page has far more than one colour; a window that drew nothing does not.
     void checkPicture(const QString& path)
     {
         const QImage image(path);

@@ -21,7 +21,7 @@
 using namespace uiutils;
 using namespace uiutils::demo;
 
-/// The instrument's side, for the page under test.
+/// The instrument behind the page under test.
 class Driver : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ public:
 
     LoopbackMeasurement* measurement() { return &m_measurement; }
 
-    /// An instrument without reports, settings and stick.
+    /// An instrument without reports, settings and USB drive.
     Q_INVOKABLE void reset()
     {
         m_root = std::make_unique<QTemporaryDir>();
@@ -54,12 +54,12 @@ public:
     /// The files in a folder below the root.
     Q_INVOKABLE QStringList filesIn(const QString& folder) const { return namesIn(m_root->filePath(folder)); }
 
-    /// What lies in the report folder, hidden files too.
+    /// The contents of the report folder, hidden files included.
     Q_INVOKABLE QStringList files() const { return namesIn(folder()); }
     Q_INVOKABLE QString contents(const QString& name) const { return QString::fromUtf8(contentsOf(folder() + name)); }
     Q_INVOKABLE void put(const QString& name, const QString& text) const { writeFile(folder() + name, text.toUtf8()); }
 
-    /// What the engine has complained about since the last call.
+    /// The engine's warnings since the last call.
     Q_INVOKABLE QStringList takeWarnings() { return m_warnings.take(); }
     void watch(QQmlEngine* engine) { m_warnings.watch(engine); }
 

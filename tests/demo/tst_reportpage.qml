@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import UiUtils 1.0
 
-// The report page under a user's hands.
+// The report page as users operate it.
 Item {
     width: 1024
     height: 484
@@ -26,7 +26,7 @@ Item {
             verify(driver.contents(driver.files()[0]).startsWith(data.start))
             compare(page.report.reportFiles.length, data.suffixes.length)
             compare(findChild(page, "reportList").count, data.suffixes.length)
-            // Of the files of one save the user is told once.
+            // One notification for all files of a save.
             compare(trayTitles(), ["Report Saved"])
         }
 
@@ -51,7 +51,7 @@ Item {
             compare(trayTitles(), data.isReplaced ? ["Report Saved"] : [])
             tryCompare(dialog, "visible", false)
 
-            // The next save asks anew, whatever was answered.
+            // The next save asks again, whatever the answer was.
             press()
             compare(part("dialogTitle").text, "Report Exists")
         }

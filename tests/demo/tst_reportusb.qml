@@ -1,6 +1,6 @@
 import QtQuick 2.15
 
-// Where reports are saved, with a memory stick and without.
+// Where reports are saved, with a USB drive and without.
 Item {
     id: root
 
@@ -20,7 +20,7 @@ Item {
             waitForRendering(page)
         }
 
-        // As a finger does it once the button is in sight.
+        // As a finger does it when the button is visible.
         function pressStick() {
             entry("stickButton").forceActiveFocus()
             tap(entry("stickButton"))
@@ -32,7 +32,7 @@ Item {
             press()
         }
 
-        // A drive that was yanked: nothing may end up in the unit's own folder under the mount.
+        // A drive that was yanked: nothing may be written to the unit's own folder under the mount.
         function test_saveLocation_data() {
             return [{ tag: "USB, yanked", label: "USB", isIn: true, isYanked: true, location: 1, inUnit: [], onStick: [] },
                     { tag: "both, yanked", label: "Internal and USB", isIn: true, isYanked: true, location: 2, inUnit: ["a.txt"], onStick: [] },
@@ -49,7 +49,7 @@ Item {
             compare(driver.saveLocation(), data.location)
             if (data.isYanked)
                 page.stick.yank()
-            compare(text("stickButton"), data.isIn && !data.isYanked ? "Pull out" : "Plug in")
+            compare(text("stickButton"), data.isIn && !data.isYanked ? "Unplug" : "Plug in")
             compare(text("stickState"), data.isYanked ? "The USB drive was removed. Saving on it fails until it is back."
                                                       : data.isIn ? "A USB drive is plugged in."
                                                                   : "Without a USB drive reports are saved on the unit.")
@@ -61,7 +61,7 @@ Item {
             compare(driver.filesIn("mnt/usb"), data.onStick)
         }
 
-        // Whose reports are listed: those of the place saved to last, or chosen since.
+        // Which reports are listed: those of the last save's place, or of the one selected since.
         function test_list() {
             const lists = (place, count, canChoose) => {
                 compare(text("reportPlace"), place === "USB" ? "USB:/" : "Internal:/reports/loopback/")
@@ -90,7 +90,7 @@ Item {
             pressStick()
             lists("unit", 1, true)
 
-            // Not on the drive alone, so that the unit's list has it.
+            // Not only on the drive, so that it is in the unit's list.
             tap(entry("usbButton"))
             choose("Internal and USB", "locationEntry")
             save("b")
@@ -105,7 +105,7 @@ Item {
             compare(driver.files(), ["b.txt", "old.txt"])
         }
 
-        // Changes that the settings page holds back are none yet, and hold nothing back here.
+        // Changes that the settings page holds back do not count yet, and hold nothing back here.
         function test_locationIsTakenAtOnce() {
             services.basemgr.startChanges()
             basemgr_cfg_saveLocation.value = 1
@@ -157,7 +157,7 @@ Item {
             resize(data.size)
             choose("Internal and USB", "locationEntry")
             waitForRendering(page)
-            // Whoever comes to the page sees what the next save does, and on the instrument all of it.
+            // The page shows what the next save does, and on the instrument all of it is visible.
             const last = entry(data.tag === "instrument" ? "syncEntry" : "stickButton")
             const end = entry("saveButton").mapToItem(page, 0, 0).y
             verify(last.mapToItem(page, 0, last.height).y <= end)

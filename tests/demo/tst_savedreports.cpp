@@ -25,7 +25,7 @@ const QString unsynced = QStringLiteral("/cust/private/lastconfigs/base/basemgr/
 } // namespace
 
 class SavedReportsTest;
-/// What happens besides, on the instrument and to it.
+/// Events on the instrument during the actions.
 using Deed = std::function<void(SavedReportsTest&)>;
 Q_DECLARE_METATYPE(Deed)
 
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QCOMPARE(filesIn(folder).size(), 3);
         QCOMPARE(changed.size(), 0);
 
-        // What the JSON report is kept from the cloud by is left to it.
+        // Its line in the no-sync list stays with the JSON report.
         m_actions->remove(folder + "<b>a.pdf");
         notifications()->accept();
         QCOMPARE(filesIn(folder), QStringList({"<b>a.json", "b.pdf"}));
@@ -94,7 +94,7 @@ private Q_SLOTS:
         expectError(QString());
     }
 
-    void deletingWhatIsNoMoreAsItWas_data()
+    void deletingWhatHasChanged_data()
     {
         addColumns<Deed, bool>();
         QTest::newRow("gone") << Deed([](SavedReportsTest&) { QFile::remove(onDisk(folder + "a.pdf")); }) << true;
@@ -108,7 +108,7 @@ private Q_SLOTS:
             QDir().mkpath(onDisk(folder + "a.pdf/full"));
         }) << false;
     }
-    void deletingWhatIsNoMoreAsItWas()
+    void deletingWhatHasChanged()
     {
         const auto [meanwhile, isDeleted] = currentRow<Deed, bool>();
         putReport("a.pdf");
@@ -138,7 +138,7 @@ private Q_SLOTS:
         };
         QCOMPARE(listed(), QStringList({"/mnt/usb/a.pdf", "/mnt/usb/b.json.gz"}));
 
-        // What is pulled meanwhile is neither deleted nor forgotten.
+        // What is unplugged meanwhile is neither deleted nor forgotten.
         m_actions->remove("/mnt/usb/a.pdf");
         baseManager()->setMounted("/mnt/usb/", false);
         QCOMPARE(listed(), QStringList());
@@ -203,7 +203,7 @@ private:
         const KIVNotification* const dialog = notifications()->currentDialog();
         return dialog && dialog->kind() == KIVNotification::Request ? dialog->msg() : QString();
     }
-    /// The one dialog, which is closed; none for an empty title.
+    /// The one dialog, which is closed; an empty title stands for none.
     static void expectError(const QString& title)
     {
         const KIVNotification* const dialog = notifications()->currentDialog();
@@ -217,7 +217,7 @@ private:
     static QStringList filesIn(const QString& path) { return namesIn(onDisk(path)); }
     static QByteArray contents(const QString& path) { return contentsOf(onDisk(path)); }
     void put(const QString& path, const QByteArray& text) { writeFile(onDisk(path), text); }
-    /// With its record, and not to be synced.
+    /// With its metadata record, and in the no-sync list.
     void putReport(const QString& name, const QByteArray& text = "report")
     {
         put(folder + name, text);

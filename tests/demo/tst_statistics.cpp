@@ -42,7 +42,7 @@ private Q_SLOTS:
 
     void judge()
     {
-        // A fifth below the ceiling, just below, on and above it; the same for a floor.
+        // A fifth below the maximum, just below, on and above it; the same for a minimum.
         const std::tuple<Limit::Kind, double, Status::Code> rows[] {{Limit::AtMost, 80, Status::Pass}, {Limit::AtMost, 80.1, Status::Marginal},
                 {Limit::AtMost, 100, Status::Marginal}, {Limit::AtMost, 100.1, Status::Fail}, {Limit::AtLeast, 120, Status::Pass},
                 {Limit::AtLeast, 119.9, Status::Marginal}, {Limit::AtLeast, 100, Status::Marginal}, {Limit::AtLeast, 99.9, Status::Fail}};
@@ -50,7 +50,7 @@ private Q_SLOTS:
             QVERIFY2(Limit({kind, 100}).judge(value) == status, qPrintable(QString::number(value)));
     }
 
-    /// Three digits count, none is invented beyond what the clock tells, and zero is no trap.
+    /// Three significant digits, none finer than the clock, and zero works too.
     void texts()
     {
         QLocale::setDefault(QLocale::c());
@@ -60,7 +60,7 @@ private Q_SLOTS:
             QCOMPARE(SampleModel("Quantity", "u", mostDecimals, {Limit::AtMost, 1}, nullptr).text(value), QString(text));
     }
 
-    /// A new limit judges what is there already, and a limit that makes no sense changes nothing.
+    /// A new limit judges the present samples again, and a limit that makes no sense changes nothing.
     void changedLimitJudgesAnew()
     {
         SampleModel model("Time", "ms", 3, {Limit::AtMost, 1}, nullptr);

@@ -119,7 +119,8 @@ private Q_SLOTS:
         QVERIFY(UsbStick().plug() != files.contains("mnt/usb/stray.txt"));
     }
 
-    /// Something was written to the mount point while the stick was out; neither that nor the stick's own files may go.
+    /// Something was written to the mount point while the drive was unplugged; neither that nor the drive's own files
+    /// may be lost.
     void strayFilesStayWhereTheyAre()
     {
         UsbStick stick;
@@ -156,7 +157,7 @@ private Q_SLOTS:
         checkAgreement(stick, true);
     }
 
-    /// What is really mounted on this machine is none of the demo's business.
+    /// The demo must not touch what is really mounted on this machine.
     void onlyWithARootAndABaseManager()
     {
         qunsetenv("UIUTILS_ROOT");

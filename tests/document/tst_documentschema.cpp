@@ -5,7 +5,7 @@
 
 using kiv::embedded::schemaViolation;
 
-/// The published schema and the builder speak of the same document.
+/// The published schema and the builder agree about the document.
 class DocumentSchemaTest : public QObject
 {
     Q_OBJECT
@@ -55,7 +55,7 @@ private Q_SLOTS:
                 {R"({"label": "", "cell_0": {"label": ""}, "cell_1": {}})", "/cell_1: "},
                 {R"({"label": "", "cell_0": {}, "cell_1": {"label": ""}})", "/cell_0: "},
                 {R"({"label": "", "cell_01": 1})", "/cell_01: "},
-                // One's own attribute is checked, and hides no other key.
+                // An attribute of the element itself is checked, and hides no other key.
                 {R"({"label": "", "cell_0": {"label": "", "attr_unit": 1}})", "/cell_0/attr_unit: "},
                 {R"({"label": "", "cell_0": {"label": "", "attr_unit": "", "title": 1}})", "/cell_0/title: "},
                 {"{}", ": "},

@@ -56,7 +56,7 @@ private Q_SLOTS:
                 {"/cust/private/reports/autosave/otdr/", metadata + "/otdr/"},
                 {"/cust/public/reports/autosave/", "/cust/public/reports/metadata/"},
                 {"/cust/public/reports/otdr/autosave/", metadata + "/otdr/autosave/"},
-                // Without a slash behind they are no such folders.
+                // Without a final slash they are no such folders.
                 {"/cust/public/reports", "/cust/public/reports"},
                 {"/cust/private/reports/autosave", "/cust/private/reports/autosave"}, {"/mnt/usb/", "/mnt/usb/"},
                 {"", ""}};
@@ -143,7 +143,7 @@ private Q_SLOTS:
         }
     }
 
-    /// A pipe that nobody writes to would hold the reader for ever.
+    /// A pipe without a writer would block the reader forever.
     void nothingToRead()
     {
         ReportMetadata record = recordOf("a.pdf");
@@ -192,7 +192,7 @@ private Q_SLOTS:
             QCOMPARE(contentsOf(path), before);
             QCOMPARE(QDir(m_root.path()).entryList() + QDir::current().entryList(), all);
         }
-        // What hindered has gone.
+        // The obstacle has been removed.
         QVERIFY(recordOf("a.pdf").saveMetadataToFile());
     }
 };

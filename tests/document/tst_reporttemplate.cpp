@@ -7,8 +7,8 @@
 
 namespace {
 
-/// The document's rules in their plainest form, every count taken by walking the keys: what ReportTemplate has to
-/// agree with, however it keeps its counts.
+/// The document's rules in their plainest form, every count taken by walking the keys: ReportTemplate must agree with
+/// them, however it keeps its counts.
 class PlainBuilder
 {
 public:
@@ -114,7 +114,7 @@ private Q_SLOTS:
         QCOMPARE(report.getTag(), QString());
     }
 
-    /// Any sequence of calls, sensible or not, gives what the plain rules give.
+    /// Any sequence of calls, sensible or not, gives the result of the plain rules.
     void agreesWithThePlainRules()
     {
         const QStringList keys {"title", "row_1", "row_2", "row_5", "row_10", "row_02", "row_x", "use_row_labels",
@@ -229,7 +229,7 @@ private Q_SLOTS:
         QVERIFY2(report.errorString().contains("750000 objects"), qPrintable(report.errorString()));
     }
 
-    /// Sections beyond the deepest are left out with what they hold, and their ends close nothing else.
+    /// Sections beyond the maximum depth are left out with their contents, and their ends close nothing else.
     void tooDeepSections()
     {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("1000 sections"));
@@ -267,7 +267,7 @@ private Q_SLOTS:
         QCOMPARE(read.object(), report.object());
     }
 
-    /// Neither reports that nobody ended nor reports that were made sections change how deep one may go.
+    /// Neither reports that were not ended nor reports that became sections change the maximum depth.
     void depthOfReportsWithinReports()
     {
         ReportTemplate report;

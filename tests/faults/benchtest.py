@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""An error of the bench is no failure of the library, and no success either: mistakes here would hide one or make one up."""
+"""An error of the bench is neither a failure of the library nor a success: mistakes here would hide one or invent one."""
 
 import concurrent.futures
 import contextlib
@@ -19,7 +19,7 @@ FAULT = faultproof.Fault("text-over", "deed", "rename", 1, "kill")
 
 
 class Tools(unittest.TestCase):
-    """A mount of our own, which says something so often before it succeeds."""
+    """A replacement of mount, which fails with a message so often before it succeeds."""
 
     def calls_of_mount(self, words, times):
         with tempfile.TemporaryDirectory() as folder:
@@ -44,10 +44,10 @@ class Tools(unittest.TestCase):
 
 
 class Runs(unittest.TestCase):
-    """Runs whose outcomes are made up."""
+    """Runs with invented outcomes."""
 
     def status_of(self, outcomes, missing=()):
-        """The exit status, how many runs counted and what was made of the servers; an outcome is raised, or holds problems."""
+        """The exit status, the number of runs that counted and the servers; an outcome is an exception, or a list of problems."""
         outcomes, dropped = iter(outcomes), []
         bench = types.SimpleNamespace(is_ending=False, drop_server=lambda: dropped.append(1))
 

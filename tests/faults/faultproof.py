@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Proves what is promised of saving: whatever happens to power, disk or stick, the user has the old file or the new one,
-whole, and is never told "saved" when it is not.
+"""Proves the promise of saving: whatever happens to power, disk or USB drive, the user has the complete old file or the
+complete new one, and is never notified "saved" when it is not.
 
 Each scenario is saved once under strace, which lists every call to the file system. Then it is saved again for every
 call and every fault: killed before the call, or with that call failing. Each time everything that lies on the disk is
-compared with what was told, and one more save has to mend it and to leave nothing over.
+compared with what was reported, and one more save must repair it and leave nothing behind.
 """
 
 import argparse
@@ -41,11 +41,11 @@ QUIET = ["-qq", "-y", "-s", "8", "-e", "signal=none", "-e", TRACED]
 PATIENCE_S = 90
 OPTIONAL_IN_SHORT = 150
 SHORT_S = 45
-# How long a busy mount point is waited for, how often a run is made again whose bench failed, and how many runs may go without.
+# How long to wait for a busy mount point, how often to repeat a run whose bench failed, and how many runs may be left out.
 BUSY_S = 10
 ATTEMPTS = 3
 ENOUGH_BENCH_ERRORS = 5
-# In a small memory the runs themselves would fill the disk.
+# With less memory the runs themselves would fill the disk.
 ROOM_BYTES = 256 << 20
 
 ERRORS = {
@@ -64,16 +64,16 @@ ERRORS = {
 # Disks that can die, and their folders in the root.
 DISKS = {"root": "", "stick": "mnt/usb"}
 
-# Failures that are let pass: kind of the fault, pattern of the failure, reason. They are counted and shown.
+# Accepted failures: kind of the fault, pattern of the failure, reason. They are counted and shown.
 KNOWN = []
 
 
-# What the machine says to this script when it is short of something, or in use.
+# The errors of a machine that is short of something, or busy.
 SHORTAGES = {errno.EAGAIN, errno.ENOMEM, errno.EMFILE, errno.ENFILE, errno.ENOSPC, errno.EDQUOT, errno.EBUSY}
 
 
 class BenchError(Exception):
-    """What a run needs could not be set up: that says nothing of the library."""
+    """A run could not be set up: that says nothing about the library."""
 
 
 class ServerEnded(BenchError):
@@ -81,7 +81,7 @@ class ServerEnded(BenchError):
 
 
 def bench_error(error):
-    """What went wrong with the bench, in words; None for what may be the library's doing."""
+    """What went wrong with the bench, in words; None if the library may have caused it."""
     is_bench = isinstance(error, (BenchError, subprocess.SubprocessError)) \
         or isinstance(error, OSError) and error.errno in SHORTAGES
     return (str(error) or repr(error)) if is_bench else None
@@ -114,8 +114,8 @@ def family(call):
 
 @dataclass(frozen=True)
 class Fault:
-    """One way of failing at one call. `actor` is who makes the call: "deed" or "gzip"; of a "disk" that is full or read-only from
-    the start, and of the "death" of one at a change of that number, `call` is its place."""
+    """One way of failing at one call. `actor` makes the call: "deed" or "gzip". For a "disk" that is full or read-only from the
+    start, and for the "death" of one at the change of that number, `call` is its place."""
 
     scenario: str
     actor: str
@@ -133,12 +133,12 @@ class Fault:
 
     @property
     def is_preloaded(self):
-        """Whether it is made in the process: strace leaves out the call that it answers, and a descriptor stays open."""
+        """Whether the process itself makes it: strace skips the call that it answers, and a descriptor would stay open."""
         return self.kind in ("short", "full", "dead") or self.call == "close" and self.kind != "kill"
 
     @property
     def is_needed(self):
-        """Whether the short form has it always."""
+        """Whether the short form always includes it."""
         if self.actor == "disk":
             return self.call != "tmp" and (self.kind in ("64k", "read-only")
                                            or self.kind == "1100k" and self.scenario.startswith("large"))
@@ -162,8 +162,8 @@ class Server:
                                         stderr=subprocess.DEVNULL, env=environment)
 
     def perform(self, order, trace):
-        """The answer to an order; `trace` is what strace is given besides, or None."""
-        # One that has ended says so to who reads from it.
+        """The answer to an order; `trace` has further arguments for strace, or is None."""
+        # If it has ended, the reader below notices.
         with contextlib.suppress(BrokenPipeError):
             self.process.stdin.write(json.dumps({**order, "traced": trace is not None}).encode() + b"\n")
             self.process.stdin.flush()
@@ -180,7 +180,7 @@ class Server:
         return answer
 
     def _await_tracer(self, tracer, pid):
-        """Until there is an answer. Without its tracer a deed does not begin."""
+        """Waits for the answer. A deed does not begin without its tracer."""
         while not select.select([self.process.stdout], [], [], 0.5)[0]:
             if tracer.poll():
                 os.kill(pid, signal.SIGKILL)
@@ -199,7 +199,7 @@ class Server:
 
 
 class Bench:
-    """Where runs are made: a folder, and a server for each thread."""
+    """The place of the runs: a folder, and a server for each thread."""
 
     def __init__(self, programs, folder, keep):
         self.programs, self.folder, self.keep = programs, folder, keep
@@ -227,7 +227,7 @@ class Bench:
         return self.local.server
 
     def drop_server(self):
-        """The next run of this thread gets a new one: this one may still have an answer to give."""
+        """The next run of this thread gets a new server: the present one may still send an answer."""
         server = self.local.__dict__.pop("server", None)
         if server:
             server.process.kill()
@@ -241,7 +241,7 @@ class Bench:
 
 
 class Run:
-    """A root of its own and what is done in it."""
+    """A root folder of its own, and the deeds in it."""
 
     def __init__(self, bench, before, place=None):
         self.bench = bench
@@ -267,7 +267,7 @@ class Run:
         return [(self.root, ""), (self.temporary, "tmp:")]
 
     def save(self, order, variant, fault=None, actor=None):
-        """Does the deed under the fault, or under a trace of `actor`, or just so."""
+        """Does the deed under the fault, under a trace of `actor`, or without either."""
         environment = {"UIUTILS_ROOT": self.root, "TMPDIR": self.temporary, "PATH": os.environ["PATH"],
                        "UIUTILS_FAULT": ""}
         order = {**order, "variant": variant, "environment": environment}
@@ -367,7 +367,7 @@ def faults_of(prepared, with_reading):
             if call.changes:
                 yield Fault(name, actor, call.name, call.number, "kill")
             errors = ERRORS[family(call)] if call.name != "close" or call.changes else []
-            # What a file system says that cannot rename without replacing.
+            # The error of a file system that cannot rename without replacing.
             for error in errors + (["EINVAL"] if call.name == "renameat2" else []):
                 yield Fault(name, actor, call.name, call.of_files if call.name == "close" else call.number, error)
             if call.name == "write":
@@ -403,7 +403,7 @@ def expected_place(prepared, fault):
 
 
 def hit_place(run, fault):
-    """Where the fault struck; None when it did not."""
+    """The call that the fault hit; None if it hit none."""
     if fault.is_preloaded:
         try:
             with open(run.preload_log, encoding="utf-8") as log:
@@ -453,7 +453,7 @@ def judge(run, prepared, answer, fault):
     if fault and fault.actor == "death":
         problems += death_faults(prepared, fault, claimed(prepared.scenario, expectation, claim))
     call = call_of(prepared, fault) if fault else None
-    # Of a dead disk nothing can be removed either.
+    # Nothing can be removed from a dead disk either.
     if not call or not (fault.actor == "death" or call.name in tracelog.TIDYING or call.opens_folder):
         problems += [f"{path} is left over" for path in verdict.leftovers(actual)]
         problems += [f"{path} is left in TMPDIR" for path in run.temporaries()]
@@ -461,7 +461,7 @@ def judge(run, prepared, answer, fault):
 
 
 def death_faults(prepared, fault, is_claimed):
-    """What was told to be safe when its disk had died before the name was."""
+    """Files that were reported as safe although their disk had died before the name was synced."""
     changes, problems = changes_of(prepared, fault.call), []
     for path in filter(is_claimed, prepared.expectation.targets):
         named = [number for number, call in enumerate(changes, 1)
@@ -474,7 +474,7 @@ def death_faults(prepared, fault, is_claimed):
 
 
 def claimed(scenario, expectation, claim):
-    """Of a path, whether the user, or whoever called, was told that the file is saved."""
+    """Returns, for a path, whether the user or the caller was notified that the file is saved."""
     if scenario.order["kind"] == "report":
         told = {path.lstrip("/") for path in claim.get("written", [])}
         told.update(expectation.reports if claim.get("saved") else [])
@@ -483,7 +483,7 @@ def claimed(scenario, expectation, claim):
 
 
 def mend(run, prepared):
-    """One more save, without a fault, in what was left."""
+    """One more save, without a fault, in the folder as the fault left it."""
     answer = run.save(overwriting(prepared.scenario.order), "new")
     actual = run.state()
     problems = clean_faults(prepared.scenario, prepared.expectation, actual, answer)
@@ -493,10 +493,10 @@ def mend(run, prepared):
     return ["after one more save: " + problem for problem in problems]
 
 
-# --- Disks of a size ---
+# --- Disks of limited size ---
 
 class Disk:
-    """A file system of its own at one of the places, with so much room left, or read-only."""
+    """A file system of its own at one of the places, with so much space left, or read-only."""
 
     SIZES = ["0", "4k", "16k", "64k", "1028k", "1040k", "1060k", "1100k", "1200k", "2m"]
 
@@ -522,7 +522,7 @@ class Disk:
         if self.size == "read-only":
             call_tool("mount", "-o", "remount,bind,rw", self.folder)
         else:
-            # A process that another thread just starts may hold it open, and keep the room that removing should give back.
+            # A process that another thread is starting may hold it open, and keep the space that the removal should free.
             os.truncate(self.ballast, 0)
             os.remove(self.ballast)
 
@@ -531,7 +531,7 @@ class Disk:
 
 
 def why_no_mounts(folder):
-    """None where file systems may be mounted."""
+    """The reason why file systems cannot be mounted here, or None."""
     place = os.path.join(folder, "mount")
     os.mkdir(place)
     try:
@@ -570,7 +570,7 @@ def try_disk(bench, prepared, fault):
 # --- All of it ---
 
 def chosen(faults, is_long):
-    """The short form has what is needed first, then a spread that is the same each time."""
+    """The short form has the needed faults first, then a sample that is the same each time."""
     if is_long:
         return faults
     needed = [fault for fault in faults if fault.is_needed]
@@ -579,7 +579,7 @@ def chosen(faults, is_long):
 
 
 class Report:
-    """What came of all runs."""
+    """The outcomes of all runs."""
 
     def __init__(self):
         self.lock = threading.Lock()
@@ -587,7 +587,7 @@ class Report:
         self.failures, self.known, self.not_made = [], [], []
 
     def add_not_made(self, fault, problem):
-        """A run that the bench did not allow, which is neither a success nor a failure."""
+        """A run that the bench prevented, which is neither a success nor a failure."""
         with self.lock:
             self.not_made.append((fault, [problem]))
 
@@ -638,7 +638,7 @@ def _by_kind(failures):
 
 
 def reason_for(fault, problem):
-    """Why a failure is known and let pass; None when it is not."""
+    """Why a failure is accepted; None if it is not."""
     return next((reason for kind, pattern, reason in KNOWN if kind == fault.kind and re.search(pattern, problem)), None)
 
 
@@ -662,7 +662,7 @@ def find_programs(folder):
 
 
 def why_not_here():
-    """What this proof needs and this machine does not have; None when all is there."""
+    """What this proof needs and this machine lacks; None if nothing is missing."""
     for tool in ("strace", "qpdf", "gzip"):
         if not shutil.which(tool):
             return f"there is no {tool}"
@@ -714,7 +714,7 @@ def is_running(pid):
 
 
 def working_folder(options):
-    """In memory where there is some: the faults are made, and need no disk. What killed runs have left there goes."""
+    """In memory, if there is enough: the faults are injected, and need no disk. What killed runs left there is removed."""
     parent = options.work or ("/dev/shm" if is_roomy("/dev/shm") else tempfile.gettempdir())
     for name in os.listdir(parent):
         match = re.fullmatch(r"faultproof-(\d+)-\w+", name)
@@ -739,7 +739,7 @@ def print_list(prepared):
 
 
 def insistently(bench, attempt, *arguments):
-    """What `attempt` returns, which is made again when the bench fails. Raises a BenchError in the end."""
+    """Returns what `attempt` returns, and repeats it when the bench fails. Raises a BenchError in the end."""
     for left in reversed(range(ATTEMPTS)):
         try:
             return attempt(bench, *arguments)
@@ -754,7 +754,7 @@ def insistently(bench, attempt, *arguments):
 
 
 def make_runs(bench, pool, faults, by_name, is_short):
-    """The report of all runs, and how many of them time has left out."""
+    """The report of all runs, and how many of them were left out for lack of time."""
     deadline, report = time.monotonic() + SHORT_S, Report()
 
     def make(fault):
@@ -778,7 +778,7 @@ def make_runs(bench, pool, faults, by_name, is_short):
 
 
 def conclude(report, missing):
-    """The exit status. What was not tried out is skipped in words, and never passed."""
+    """The exit status. What was not tried is reported as skipped, and never as passed."""
     if report.failures:
         return 1
     if report.not_made:
@@ -818,7 +818,7 @@ def work(bench, options, selected):
 
 
 def enter_own_mounts():
-    """Goes on with mounts that nobody else sees and that go with this process, where that is allowed."""
+    """Continues with private mounts, which end with this process, if that is allowed."""
     if os.environ.get("FAULTPROOF_MOUNTS"):
         return
     os.environ["FAULTPROOF_MOUNTS"] = "own"
@@ -841,14 +841,14 @@ def main():
     folder = working_folder(options)
     bench = Bench(find_programs(options.programs), folder, options.keep)
     started, is_running_well = time.monotonic(), False
-    # The folder goes then, too.
+    # The folder is removed then, too.
     signal.signal(signal.SIGTERM, lambda *_: os.kill(os.getpid(), signal.SIGINT))
     try:
         make_first_run(bench)
         is_running_well = True
         return work(bench, options, selected)
     except BenchError as error:
-        # One that does not even begin may have been ended by the library.
+        # The library may have ended a server that does not even begin.
         if isinstance(error, ServerEnded) and not is_running_well:
             print(f"FAILED before anything was saved: {error}")
             return 1

@@ -1,10 +1,11 @@
-// Preloaded: what no tracer can do to one call of a process.
+// Preloaded: faults that a tracer cannot inject into a single call of a process.
 //
-// UIUTILS_FAULT is "PROGRAM:NUMBER:MODE:LOG", where NUMBER counts calls on files that are written since the variable was set, from 1. In the mode
-// "short" that write() takes half of what it is given; in the mode "full" so, too, and every later one fails, as when a disk fills
-// up; a number of an error as the mode has that close() report it after it has closed, as the system does. In the mode "dead"
-// NUMBER counts calls that change what lies below UIUTILS_DEAD_FOLDER; that one and every later one there, of whatever
-// process, is an EIO, as when a drive is pulled or breaks. The file LOG then names what it was done to.
+// UIUTILS_FAULT is "PROGRAM:NUMBER:MODE:LOG". NUMBER counts, from 1, the calls on written files since the variable was
+// set. In the mode "short" that write() takes half of its data. In the mode "full" it does too, and every later one
+// fails, as when a disk fills up. With the number of an error as the mode, close() reports that error after it has
+// closed, as the system does. In the mode "dead" NUMBER counts calls that change something below UIUTILS_DEAD_FOLDER;
+// that one and every later one there, in any process, fails with EIO, as when a drive is unplugged or breaks. The file
+// LOG then names the file that was hit.
 
 #include <atomic>
 #include <cerrno>
@@ -48,7 +49,7 @@ bool readOrder(Order* order)
     return readAnyOrder(order) && isMeantHere(*order);
 }
 
-/// A file with a name: others are memory. Files that are read are closed by the loader as well, which calls nothing of this.
+/// A file with a name: others are in memory. The loader too closes files that are read, without calling this.
 bool isWrittenFile(int fd)
 {
     struct stat status = {};
@@ -61,7 +62,7 @@ ssize_t writeTo(int fd, const void* data, size_t size)
     return ::syscall(SYS_write, fd, data, size);
 }
 
-/// Empty for what has none.
+/// Empty for a descriptor without a file.
 void readPath(int fd, char (&path)[512])
 {
     char link[32];
@@ -70,7 +71,7 @@ void readPath(int fd, char (&path)[512])
     path[length > 0 ? length : 0] = '\0';
 }
 
-/// What lets the script see that the fault was where it was meant to be.
+/// Shows the script that the fault was injected in the right place.
 void note(const Order& order, const char* path)
 {
     const int log = int(::syscall(SYS_openat, AT_FDCWD, order.log, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
@@ -101,7 +102,7 @@ bool isBelow(const char* path, const char* folder)
 
 std::atomic<int> changes {0};
 
-/// Whether what is asked for at the path must fail, because its disk is dead, or dies of it.
+/// Whether the access to the path must fail, because its disk is dead, or dies at this call.
 bool isDead(const char* path, bool isChange = true)
 {
     Order order;
@@ -136,7 +137,7 @@ bool isDead(int folder, const char* name, bool isChange = true)
     return isDead(path, isChange);
 }
 
-/// What stands in for a function of the system calls that, unless its disk is dead.
+/// A function that replaces one of the system calls that one, unless its disk is dead.
 template<typename Function, typename... Arguments>
 int unlessDead(bool isDead, const char* name, Arguments... arguments)
 {
@@ -162,7 +163,7 @@ bool isChange(int flags)
         return UIUTILS_UNLESS(condition, name, __VA_ARGS__);                                                                      \
     }
 
-// The mode is the argument behind the flags, if there is one; without it the system does not look at it.
+// The mode is the argument after the flags, if there is one; without it the system ignores it.
 #define UIUTILS_OPEN(name)                                                                                                       \
     UIUTILS_INTERPOSE int name(const char* path, int flags, ...)                                                                 \
     {                                                                                                                            \

@@ -1,7 +1,7 @@
-// Saves as a page does, so often and in such places as faultproof.py orders.
+// Saves as a page does, as often and in such places as faultproof.py orders.
 //
-// Each line on standard input is one order, a JSON object; a line for each comes back on standard output. The deed is done
-// in a child of this process: it begins with everything ready (fonts, services, document), and may be killed.
+// Each line on standard input is an order, a JSON object; each is answered by a line on standard output. An order is
+// carried out in a child process, which starts with everything ready (fonts, services, document) and may be killed.
 
 #include "document/reportmetadata.h"
 #include "module/uiutilsmodule.h"
@@ -32,15 +32,15 @@
 
 namespace {
 
-/// A deed that takes longer than this hangs.
+/// An order that takes longer than this hangs.
 constexpr unsigned patienceSeconds = 60;
-/// What the tracer answers to a question that the system has no answer to.
+/// The tracer's answer to a call that the system does not have.
 constexpr long tracerIsHere = 7;
 constexpr int noSuchPolicy = 99;
 
 QStringList logLines;
 
-/// In memory: lines on standard error would be writes of the deed.
+/// In memory: lines on standard error would be writes of the order.
 void keepLine(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
     if (type != QtDebugMsg && type != QtInfoMsg)
@@ -62,7 +62,7 @@ public:
         setFolder("otdr");
     }
 
-    /// Everything that a user has done before the report is saved.
+    /// Everything that a user does before the report is saved.
     void getReady(const QJsonObject& order)
     {
         m_variant = order.value("variant").toString();
@@ -106,7 +106,7 @@ private:
         page.endReport();
     }
 
-    /// Makes the report as large as an order wants it, in lines that differ.
+    /// Makes the report as large as an order says, in different lines.
     QString filler() const
     {
         QString text;
@@ -136,7 +136,7 @@ QJsonObject texts(int kind, const QString& title, const QString& text)
     return {{"kind", kind}, {"title", title}, {"text", text}};
 }
 
-/// What stands in the tray and in dialogs; the dialogs are answered.
+/// The contents of the tray and of dialogs; the dialogs are answered.
 QJsonObject told()
 {
     auto* manager = KIVNotificationModelManager::instance();
@@ -174,7 +174,7 @@ QJsonValue listToldToBaseManager()
     return QJsonArray::fromStringList(item->getValue().toStringList());
 }
 
-/// The deed; what the library claims of it.
+/// The order itself; returns what the library reports of it.
 QJsonObject perform(PageReport& report, const QJsonObject& order)
 {
     const QString kind = order.value("kind").toString();
@@ -193,7 +193,7 @@ QJsonObject perform(PageReport& report, const QJsonObject& order)
         report.addReportToNoSyncList("/cust/public/reports/otdr/" + order.value("variant").toString() + ".pdf");
     else
         claim.insert("saved", report.save(order.value("overwrite").toBool()));
-    // What is let go by deleteLater() takes its dialog along, and services answer later.
+    // Objects released by deleteLater() take their dialogs with them, and services answer later.
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     tellTracerOfEnd();
@@ -214,7 +214,7 @@ void setUp(const kiv::embedded::EmbeddedBackend& backend, const QJsonObject& ord
     basemgr->setValue(":config:basemgr:system:saveLocation:", order.value("location").toInt());
     basemgr->setValue(":result:basemgr:system:usbAttached:", order.value("stick").toBool());
     basemgr->setMounted("/mnt/usb/", order.value("stick").toBool());
-    // Children of one process would all make up the same names.
+    // Children of one process would all choose the same names.
     QRandomGenerator::global()->discard(static_cast<unsigned long long>(::getpid()) % 100000);
 }
 
@@ -226,7 +226,7 @@ void setUp(const kiv::embedded::EmbeddedBackend& backend, const QJsonObject& ord
     report.getReady(order);
     QCoreApplication::processEvents();
     logLines.clear();
-    // A tracer that came earlier would count calls that are none of the deed's.
+    // A tracer that attached earlier would count calls that are not part of the order.
     ::send(answer, "", 1, 0);
     const QByteArray claim = QJsonDocument(perform(report, order)).toJson(QJsonDocument::Compact);
     // Not write(), which may be made to fail.
@@ -278,7 +278,8 @@ void serve(const kiv::embedded::EmbeddedBackend& backend, PageReport& report, co
             {"claim", QJsonDocument::fromJson(claim).object()}});
 }
 
-/// Fonts and whatever else is loaded once. A controller takes its settings a while after it was made.
+/// Loads fonts and everything else that is loaded once. A controller reads its settings some time after its
+/// construction.
 void warmUp(PageReport& report)
 {
     report.getReady({});

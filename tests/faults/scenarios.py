@@ -1,4 +1,4 @@
-"""What is saved, and what lies there before."""
+"""What is saved, and what exists before."""
 
 from dataclasses import dataclass, field
 
@@ -9,13 +9,13 @@ INTERNAL = "cust/public/reports/otdr/Fibre 12"
 STICK = "mnt/usb/Fibre 12"
 LIST = "cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"
 
-# Files that nobody is to touch, in a folder of other reports and in that of these.
+# Files that must not be touched, in a folder of other reports and in that of these.
 BYSTANDERS = {"cust/public/reports/ethernet/Link 3.xml": b"<link/>\n",
               "cust/private/lastconfigs/reportSettings/ethernet.json": b"{}\n"}
 NEIGHBOURS = {"cust/public/reports/otdr/Fibre 11.pdf": b"%PDF-1.4 of another fibre\n%%EOF\n",
               "cust/public/reports/otdr/Fibre 11.txt.gz": b"not ours to judge\n",
               "mnt/usb/Fibre 11.xml": b"<fibre/>\n"}
-# What the user keeps from the cloud already.
+# Reports that are in the no-sync list already.
 KEPT = {LIST: b"/cust/public/reports/otdr/Fibre 11.pdf\n/cust/public/reports/otdr/Fibre 11.json\n"}
 
 
@@ -23,14 +23,14 @@ KEPT = {LIST: b"/cust/public/reports/otdr/Fibre 11.pdf\n/cust/public/reports/otd
 class Scenario:
     name: str
     order: dict
-    # The order that makes what lies there before; none for a first save.
+    # The order that creates what exists before; None for a first save.
     prior: dict = None
-    # Reports that are there after a clean save, without the folder of the instrument; None for what is no report.
+    # Reports that exist after a clean save, without the folder of the instrument; None for other files.
     reports: list = None
     files: dict = field(default_factory=dict)
 
 
-# More than what has to be free for a save to begin: it is in the middle of its writes that such a report fills a disk.
+# More than the free space that a save requires to begin: such a report fills a disk in the middle of its writes.
 LARGE = 1_200_000
 
 
@@ -66,12 +66,12 @@ def all_scenarios():
     scenarios += _pair("large-gz", *_report("text", compressed=True, filler=LARGE))[1:]
     scenarios += _pair("large-both", *_report("text", location=2, filler=LARGE))
 
-    # A report that was kept from the cloud is no longer.
+    # A report is removed from the no-sync list.
     order, reports = _report("text")
     kept = {**order, "sync": False}
     everything = {**BYSTANDERS, **NEIGHBOURS, **KEPT}
     scenarios.append(Scenario("synced-again", order, kept, reports, everything))
-    # Compression is switched on: the plain form of the report goes.
+    # Compression is switched on: the plain form of the report is removed.
     order, reports = _report("text", compressed=True)
     scenarios.append(Scenario("text-gz-plain", order, {**order, "compressed": False}, reports, everything))
 

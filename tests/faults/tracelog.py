@@ -4,7 +4,7 @@ import os
 import re
 from dataclasses import dataclass, field
 
-# Calls that change files, or may: which ones do is seen in what they are called with.
+# Calls that change files, or may: their arguments decide.
 CHANGING = """open openat creat write pwrite64 writev pwritev pwritev2 fsync fdatasync syncfs sync_file_range rename renameat
  renameat2 unlink unlinkat mkdir mkdirat rmdir link linkat symlink symlinkat chmod fchmod fchmodat chown fchown fchownat
  ftruncate truncate fallocate utimensat close flock sendfile copy_file_range""".split()
@@ -14,9 +14,9 @@ SYNCS = {"fsync", "fdatasync"}
 RENAMES = {"rename", "renameat", "renameat2"}
 REMOVALS = {"unlink", "unlinkat", "rmdir"}
 MAKERS = {"mkdir", "mkdirat"}
-# What a disk can die of: closing and locking need none.
+# The calls at which a disk can die: closing and locking need no disk.
 DEADLY = {"open", "openat", "write", "fsync", "mkdir", "mkdirat", "rename", "renameat2", "unlink", "unlinkat", "rmdir", "fchmod"}
-# A folder that cannot be listed cannot be emptied, and what lies there cannot be removed.
+# A folder that cannot be listed cannot be emptied, and its files cannot be removed.
 TIDYING = REMOVALS | {"getdents64", "newfstatat", "statx", "stat", "lstat"}
 
 LINE = re.compile(r"^(?:\d+ +)?(\w+)\((.*)\)\s+= (.*)$")
@@ -85,8 +85,8 @@ def read_log(path, places):
         is_ours = any(place.startswith(folder) for folder, _ in places)
         is_open = name in ("open", "openat", "creat")
         is_opened_to_write = is_open and (name == "creat" or bool(WRITING_FLAG.search(arguments)))
-        # By its number, for a file that gets its name is closed under another one than it was opened. Files in memory have
-        # their place among the process's own.
+        # By its number, because a renamed file is closed under another name than it was opened. Files in memory have paths
+        # among the process's own.
         descriptor = re.match(r"\d+", result if is_open else arguments)
         if is_open and descriptor:
             is_kept = is_opened_to_write and not place.startswith("/proc/")
@@ -108,7 +108,7 @@ def read_log(path, places):
 
 
 def shown(place, places):
-    """Names that are made up are the same in every run."""
+    """The place for readers, with generated names that are the same in every run."""
     for folder, label in places:
         if place.startswith(folder):
             place = label + place[len(folder):]
@@ -117,7 +117,7 @@ def shown(place, places):
 
 
 def neutral(text):
-    """Without what is made up in names."""
+    """The text without the generated parts of names."""
     return re.sub(r"/savescenario-\w+", "/savescenario-*", re.sub(r"\.uiutils-\w+(\.\w+)?", ".uiutils-*", text))
 
 
@@ -125,7 +125,7 @@ def order_faults(calls, root, is_claimed):
     """What a power cut could make of the order in which files were written, synced and renamed.
 
     What was not synced successfully counts as lost: the contents of a file, and the names in a folder. `is_claimed` says
-    of a path whether it was told that the file is there for good.
+    of a path whether the file was reported as permanent.
     """
     problems, unsynced, names = [], set(), {}
     for call in calls:
@@ -150,7 +150,7 @@ def order_faults(calls, root, is_claimed):
                 problems.append(f"{call.shown}: the contents were not synced before")
             names.setdefault(os.path.dirname(call.target), {})[call.target] = call.shown
         elif call.place in names.get(os.path.dirname(call.place), {}) and call.name in REMOVALS:
-            # A folder that was just made is given up.
+            # A folder that was just created is abandoned.
             del names[os.path.dirname(call.place)][call.place]
         elif call.name in REMOVALS and not is_temporary and names.get(os.path.dirname(call.place)):
             problems.append(f"{call.shown} is removed before the folder of what takes its place is synced")

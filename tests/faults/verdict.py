@@ -1,4 +1,4 @@
-"""Whether what lies in a root is what the user was told."""
+"""Compares the files in a root folder with what was reported to the user."""
 
 import functools
 import hashlib
@@ -14,7 +14,7 @@ import tracelog
 DATES = [rb"[A-Z][a-z]{2} [A-Z][a-z]{2} +\d{1,2} \d{4} \d\d:\d\d:\d\d", rb"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d[-+:.\dZ]*"]
 DATE = re.compile(b"|".join(DATES))
 SAVED, LIST_FAILED = "Report Saved", "Sync"
-# The kind of a dialog that tells of an error.
+# The kind of a dialog with an error.
 ERROR = 1
 
 
@@ -37,7 +37,7 @@ def leftovers(state):
 
 
 def unpacked(contents):
-    """Of a gzip file that is whole; none otherwise."""
+    """The contents of a complete gzip file; None otherwise."""
     unpacker = zlib.decompressobj(wbits=31)
     try:
         plain = unpacker.decompress(contents) + unpacker.flush()
@@ -56,7 +56,7 @@ def _passes_reader(digest, contents):
 
 
 def is_new(path, contents, reference):
-    """Whether these are the contents of a clean save, but for the time of day."""
+    """Whether these are the contents of a clean save, except for the time of day."""
     if contents == reference:
         return True
     if path.endswith(".gz"):
@@ -69,7 +69,7 @@ def is_new(path, contents, reference):
 
 
 class Expectation:
-    """What a scenario has before and after."""
+    """The files of a scenario before and after."""
 
     def __init__(self, before, after):
         self.before, self.after = before, after
@@ -86,7 +86,7 @@ class Expectation:
             return "new" if new is None else "is lost"
         if new is not None and is_new(path, contents, new):
             return "new"
-        # A report that could not be compressed lies there as it is.
+        # A report that could not be compressed is saved uncompressed.
         packed = self.after.get(path + ".gz")
         if packed is not None and is_new(path, contents, unpacked(packed)):
             return "new"
@@ -102,7 +102,7 @@ def file_faults(expectation, actual):
 
 
 def claim_faults(kind, expectation, actual, claim):
-    """Where what was told is not what lies there."""
+    """Where the report to the user differs from the files."""
     states = expectation.states(actual)
     problems = []
 
@@ -129,7 +129,7 @@ def _save_faults(expectation, states, claim):
     problems = []
     tray, dialogs = claim["told"]["tray"], claim["told"]["dialogs"]
     notices = [entry for entry in tray if entry["title"] == SAVED]
-    # What the cloud may take has a dialog of its own: the user has wished otherwise, and may see to it.
+    # The no-sync list has a dialog of its own: the user wanted it to be different, and can act on that.
     of_list = [entry for entry in dialogs if entry["title"] == LIST_FAILED]
     of_save = [entry for entry in dialogs if entry["title"] != LIST_FAILED]
     missing = [path for path in expectation.reports if states[path] != "new"]
@@ -151,7 +151,7 @@ def _save_faults(expectation, states, claim):
 
 
 def _silent_faults(expectation, states, claim, of_list):
-    """What goes along with a report may fail, but not without a word."""
+    """The files that accompany a report may fail, but not silently."""
     silent = [path for path in expectation.targets if path not in expectation.reports and states[path] != "new"]
     if scenarios.LIST in silent and not of_list:
         return ["the list does not say what the user wished, and the user was not told"]

@@ -36,7 +36,7 @@ Drive drive;
 
 } // namespace
 
-/// In place of the system's, for everybody in this process.
+/// Replaces the system's function in this process.
 extern "C" int statvfs(const char* path, struct statvfs* answer) noexcept
 {
     drive.asked = path;
@@ -55,7 +55,7 @@ class FileUtilsTest : public QObject
 
     QTemporaryDir m_root;
 
-    /// The place of an instrument path on the disk of the test.
+    /// The path on the test's disk of an instrument path.
     QString onDisk(const QString& path) const { return m_root.path() + path; }
 
 private Q_SLOTS:
@@ -74,7 +74,7 @@ private Q_SLOTS:
 
     void displayPaths()
     {
-        // One mark and one folder alone are replaced, in front only, and their case counts.
+        // Only one mark and one folder are replaced, only at the beginning, and with the right case.
         const std::pair<const char*, const char*> rows[] {{"/cust/public/reports/a.pdf", "Internal:/reports/a.pdf"},
                 {"/mnt/usb/a", "USB:/a"}, {"copy:/cust/public/a", "Internal:/a"}, {"cut:/mnt/usb/a", "USB:/a"},
                 {"copy:cut:/mnt/usb/a", "cut:/mnt/usb/a"},
@@ -193,7 +193,7 @@ private Q_SLOTS:
             notification->setValue("uid", QVariant());
         answer({&other, own});
         QCOMPARE(accepted.size() * rejected.size(), 1);
-        // The second is asked when the first has answered.
+        // The second is asked when the first has been answered.
         FileUtils second;
         QSignalSpy declined(&second, &FileUtils::rejected);
         second.sendNotificationOverwriteRequest("/mnt/usb/b", {});
@@ -210,7 +210,7 @@ private Q_SLOTS:
         files.sendNotificationOverwriteRequest("/mnt/usb/a", {});
         const QPointer<KIVNotification> first = manager()->currentDialog();
         files.sendNotificationOverwriteRequest("/mnt/usb/b", {});
-        // Answered in the same moment.
+        // Answered at the same moment.
         manager()->accept();
         QCOMPARE(accepted.size(), 0);
         QTRY_VERIFY(!first);
@@ -278,7 +278,7 @@ private Q_SLOTS:
         QVERIFY(QFile::link(onDisk(source), onDisk(source + "/0/up")));
         QVERIFY(QFile::link("nowhere", onDisk(source + "/0/dangling")));
         QVERIFY(QFile::link("/sys/kernel", onDisk(source + "/0/elsewhere")));
-        // A walk that takes each way would have two to the thirtieth.
+        // Walking every path would take two to the thirtieth steps.
         for (int level = 1; level <= 30; ++level) {
             const QString folder = QString("%1/%2").arg(onDisk(source)).arg(level);
             QVERIFY(QDir().mkdir(folder));
@@ -293,7 +293,7 @@ private Q_SLOTS:
         QCOMPARE(problem, QString("has more than 94 files and folders"));
     }
 
-    /// What lies below more folders than may be open counts; where no more can be opened, nothing is let pass.
+    /// Files below more folders than may be open count; when no more can be opened, the check fails.
     void deepTrees()
     {
         writeFile(onDisk("/cust/public/deep/" + QString("a/").repeated(300) + "file"), QByteArray(100 * block, 'x'));
@@ -326,7 +326,7 @@ private Q_SLOTS:
         };
         FileUtils files;
         QVERIFY(files.checkDriveSpaceForFile(8 * block, target));
-        // The nearest folder that exists tells.
+        // The nearest existing folder decides.
         QCOMPARE(drive.asked, QFile::encodeName(onDisk(stick)));
         QVERIFY(!manager()->currentDialog());
         QVERIFY(!files.checkDriveSpaceForFile(8 * block + 1, target));
@@ -341,12 +341,12 @@ private Q_SLOTS:
         QVERIFY(missing(QString::fromUtf8("USB:/stück/new/not/there/a"), "8.19 K"));
         QVERIFY(!files.checkDriveSpaceForDir("/cust/public/big", stick));
         QVERIFY(missing(QString::fromUtf8("USB:/stück"), "8.19 K"));
-        // What is overwritten gives its blocks back.
+        // An overwritten file frees its blocks.
         writeFile(onDisk(stick + "/a"), QByteArray(2 * block, 'x'));
         QVERIFY(files.checkDriveSpaceForFile(10 * block, stick + "/a"));
         QVERIFY(files.checkDriveSpaceForDir("/cust/public/big", stick));
 
-        // Where nothing of the path exists, or the system does not say, nobody is told anything.
+        // If nothing of the path exists, or the system gives no answer, there is no notification.
         QVERIFY(!files.checkDriveSpaceForFile(qint64(0), "/no such folder of a test/a"));
         QVERIFY(!files.checkDriveSpaceForFile(qint64(0), ""));
         drive.isSilent = true;

@@ -75,7 +75,7 @@ private Q_SLOTS:
     void workOrders()
     {
         const auto [ours, theirs, order, info] = currentRow<QByteArray, QString, QString, QJsonObject>();
-        // What an earlier save knew has to go, and what comes later has to be seen.
+        // The values of an earlier save must be discarded, and new ones read.
         Screenshot screenshot;
         screenshot.setBaseName("a");
         QVERIFY(screenshot.saveMetadata());
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QCOMPARE(recordOf("a").value("info").toObject(), info);
     }
 
-    void serviceComesAndGoes()
+    void serviceReturns()
     {
         Screenshot screenshot;
         QVERIFY(m_backend.withdraw(serviceName));

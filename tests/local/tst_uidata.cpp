@@ -28,7 +28,7 @@ class UiDataTest : public QObject
 private Q_SLOTS:
     void init() { QLocale::setDefault(QLocale::c()); }
 
-    void everyWriteIsTold()
+    void everyWriteIsReported()
     {
         const std::tuple<const char*, QVariant, const char*, const char*> rows[] {
                 {"label", "Name", "labelChanged", "labelChanged"}, {"type", "double", "typeChanged", "typeChanged"},
@@ -62,7 +62,7 @@ private Q_SLOTS:
         SignalLog log(&item);
         QVERIFY(item.isReady() && item.isApplicable() && item.isValueOk());
         QVERIFY(!item.isReadOnly() && !item.isMandatory() && !item.isPersistent());
-        // Writing the default first changes nothing that counts.
+        // Writing the default first changes nothing visible.
         item.setMandatory(false);
         item.setValueOk(true);
         QVERIFY(log.take().isEmpty());
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(item.getId(), QString(":ui_only:first:"));
         item.setAttributes({{"name", "reportName"}});
         QCOMPARE(item.getId(), QString(":ui_only:reportName:"));
-        // What is not among the new ones has gone.
+        // Those that are not among the new ones have been removed.
         QVERIFY(item.getRegisterId().isEmpty() && !item.getAttr("mandatory").isValid());
         item.setPassing();
         QCOMPARE(item.getQualityCode(), 16);
@@ -110,7 +110,7 @@ private Q_SLOTS:
         item.setRegex(QString());
         QCOMPARE(item.getValidator()->validate(text, position), QValidator::Acceptable);
 
-        // In whatever order a page says what an item is.
+        // The attributes of an item may be written in any order.
         UiData ordered;
         ordered.setType(UiData::TYPE_DOUBLE);
         QVERIFY(ordered.getValidator());
@@ -167,7 +167,7 @@ private Q_SLOTS:
 
     void vectors()
     {
-        // Not beyond 32 bits; what stands behind a NUL counts.
+        // At most 32 bits; text after a NUL counts.
         const std::tuple<QString, QVariant, QVariantList> rows[] {{UiData::TYPE_VEC_INT, "1,,x,3", {1, 0, 0, 3}},
                 {UiData::TYPE_VEC_INT, "3000000000,2147483647", {0, 2147483647}},
                 {UiData::TYPE_VEC_DOUBLE, "1.5,,-2e3", {1.5, 0.0, -2000.0}}, {UiData::TYPE_VEC_INT, "", {0}},
@@ -207,7 +207,7 @@ private Q_SLOTS:
         QCOMPARE(log.take(), words("valueChanged arraySelectionChanged valueCountChanged"));
         QCOMPARE(item.getValue(), QVariant("20,3,4"));
         QCOMPARE(item.getArraySelection(), 2);
-        // A selection may come before its elements.
+        // A selection may be set before its elements.
         item.setArraySelection(7);
         QCOMPARE(item.getArraySelection(), 7);
         QCOMPARE(log.take(), words("arraySelectionChanged"));

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Counts how often the container or anybody else looks at its attributes.
+/// Counts how often the container or any other code reads its attributes.
 class CountingItem : public UiData
 {
 public:
@@ -29,7 +29,7 @@ int CountingItem::looks = 0;
 
 } // namespace
 
-/// Items together: those that C++ adds, and those that pages declare, which meet in the shared container.
+/// Items together: those that C++ adds, and those that pages declare, all in the shared container.
 class UiDataContainerTest : public QObject
 {
     Q_OBJECT
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QCOMPARE(kept->getValue(), QVariant("stored"));
     }
 
-    /// Whoever hears of a stored value may end the item, or the container with it.
+    /// A slot that receives a stored value may delete the item, or the container with it.
     void aStoredValueMayEndItsItem()
     {
         auto* container = new UiDataContainer;
@@ -115,7 +115,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Neither entering nor changing an item looks at the others.
+    /// Neither adding nor changing an item reads the others.
     void manyItems()
     {
         constexpr int count = 300;
@@ -146,7 +146,7 @@ private Q_SLOTS:
         QVERIFY(container.getAllItemsOk());
     }
 
-    void entriesAreTakenOutByTheirOwnItemOnly()
+    void entriesAreRemovedByTheirOwnItemOnly()
     {
         UiDataContainer container;
         auto first = named("same");
@@ -160,7 +160,7 @@ private Q_SLOTS:
         container.removeItem(nullptr);
         container.addItem(nullptr);
         QVERIFY(container.getItems().isEmpty());
-        // An item that goes by another name now leaves nothing behind.
+        // An item that has got another name leaves nothing behind under the old one.
         container.addItem(first.get());
         first->setAttributes({{"name", "renamed"}});
         first.reset();
@@ -200,13 +200,13 @@ private Q_SLOTS:
         engine.collectGarbage();
         QVERIFY(UiDataContainer::shared()->getItems().contains(":ui_only:formMode:"));
 
-        // The items go with the page, although the container is their parent.
+        // The items are deleted with the page, although the container is their parent.
         root.reset();
         QVERIFY(UiDataContainer::shared()->getItems().isEmpty());
         QVERIFY(QQmlExpression(engine.rootContext(), nullptr, "formUser === null").evaluate().toBool());
     }
 
-    /// QML reads a text that looks like a point or a time as one when it stands as a literal.
+    /// QML reads a text that looks like a point or a time as one when it is a literal.
     void literalTexts()
     {
         QQmlEngine engine;

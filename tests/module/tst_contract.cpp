@@ -30,7 +30,7 @@
 #include <type_traits>
 #include <typeinfo>
 
-/// Opens what a class keeps from everybody but those that derive from it.
+/// Makes the protected members of a class accessible.
 struct KivDataProbe : KivData
 {
     void slotValueChanged() override { }
@@ -46,13 +46,13 @@ struct ReportProbe : Report
     using Report::settingsLoaded, Report::updateJobTestMetadata, Report::writeMetadata;
 };
 
-/// Its operation stands in the first place behind those of the base.
+/// Its operation has the first place after those of the base.
 template<typename Base> struct Next : Base
 {
     virtual void next() { }
 };
 
-/// The place in the virtual table that a pointer to a virtual operation holds; -1 where the operation is not virtual.
+/// The place in the virtual table that a pointer to a virtual operation holds; -1 if the operation is not virtual.
 template<typename Member> std::ptrdiff_t placeOf(Member member)
 {
     std::ptrdiff_t words[2];
@@ -60,7 +60,7 @@ template<typename Member> std::ptrdiff_t placeOf(Member member)
     std::memcpy(words, &member, sizeof words);
     const auto size = std::ptrdiff_t(sizeof(void*));
 #ifdef Q_PROCESSOR_ARM
-    // Code addresses may be odd there, so that the mark stands in the second word.
+    // Code addresses may be odd there, so that the mark is in the second word.
     return words[1] & 1 ? words[0] / size : -1;
 #else
     return words[0] & 1 ? (words[0] - 1) / size : -1;
@@ -84,7 +84,7 @@ template<typename Member> Operation operation(const char* name, Member member)
 }
 #define O(name) operation(#name, &Item::name)
 
-/// What an item can be asked for and told from outside, in no particular order.
+/// The public operations of an item, in no particular order.
 template<typename Item> QVector<Operation> itemOperations()
 {
     return {O(apply), O(applicableAt), O(at), O(enumIndex), O(enumLabel), O(enumLabelForValue), O(enumValue), O(getArraySelection),
@@ -123,15 +123,15 @@ QVector<Operation> reportOperations()
 
 #define TEXT(Class, name) QString("constant " #name " %1").arg(Class::name)
 
-/// A class as it is.
+/// The actual class.
 struct Face
 {
     const QMetaObject* type;
-    /// Makes an object; null for a class whose objects are made for something.
+    /// Creates an object; null for a class that is not created without arguments.
     QObject* (*make)();
     QVector<Operation> operations;
     QStringList constants, size;
-    /// The first place in the virtual table that is the class's own, and the one behind the last.
+    /// The first place in the virtual table that is the class's own, and the one after the last.
     std::ptrdiff_t first, end;
 };
 
@@ -143,7 +143,7 @@ template<typename Class> QObject* make()
         return nullptr;
 }
 
-/// Without a base, what the virtual table holds is left open: nobody can derive from the class, or the platform decides.
+/// Without a base the virtual table is not compared: nobody can derive from the class, or the platform decides.
 template<typename Class, typename Base = void>
 Face face(const QVector<Operation>& operations = {}, const QStringList& constants = {})
 {
@@ -196,7 +196,7 @@ QString propertyLine(const QMetaProperty& property, const QObject* fresh)
             + (fresh ? " = " + textOf(property.read(fresh)) : QString());
 }
 
-/// Parameters behind the first `needed` have a default.
+/// Parameters after the first `needed` have a default.
 QString methodLine(const QMetaMethod& method, int needed)
 {
     static const QStringList accesses {"private ", "protected ", ""}, kinds {"method", "signal", "slot"};
@@ -222,7 +222,7 @@ QStringList metaLines(const QMetaObject& type, const QObject* fresh)
     }
     for (int i = type.propertyOffset(); i < type.propertyCount(); ++i)
         lines += propertyLine(type.property(i), fresh);
-    // A default shows as further methods behind the whole one, each with a parameter less.
+    // A default appears as further methods after the complete one, each with one parameter less.
     for (int i = type.methodOffset(), last = 0; i < type.methodCount(); i = last) {
         for (last = i + 1; last < type.methodCount() && type.method(last).attributes() & QMetaMethod::Cloned;)
             ++last;
@@ -231,7 +231,7 @@ QStringList metaLines(const QMetaObject& type, const QObject* fresh)
     return lines;
 }
 
-/// Members below the class's own first place are those of its bases.
+/// Members before the class's own first place belong to its bases.
 QStringList virtualLines(const Face& face)
 {
     QMap<std::ptrdiff_t, QString> places;
@@ -244,7 +244,7 @@ QStringList virtualLines(const Face& face)
     return places.values();
 }
 
-/// The lines of the file of a class but those that are for the reader.
+/// The lines of the file of a class, without the comments.
 QStringList table(const QString& name)
 {
     QFile file(UIUTILS_TEST_DATA_DIR "/contract/" + name + ".txt");
@@ -252,7 +252,8 @@ QStringList table(const QString& name)
     return QString::fromUtf8(file.readAll()).split('\n').filter(QRegularExpression("^[^#]"));
 }
 
-/// The published classes against what is written down of them, as who was built against an earlier library meets them.
+/// The published classes compared with their written descriptions: what a program that was built against an earlier
+/// library relies on.
 class ContractTest : public QObject
 {
     Q_OBJECT
@@ -300,7 +301,7 @@ private Q_SLOTS:
 
     void whatHasNoTable()
     {
-        // A meta-object of its own would hide the keys of a record from pages.
+        // A meta-object of its own would hide the keys of an aggregate from pages.
         QCOMPARE(&QMLAggregate::staticMetaObject, &QQmlPropertyMap::staticMetaObject);
         // A virtual destructor has two places, for objects on the heap and for all others.
         QCOMPARE(placeOf(&Next<TemplateToXmlWriter>::next), std::ptrdiff_t(2));

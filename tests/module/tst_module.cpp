@@ -10,7 +10,7 @@
 
 #include <memory>
 
-/// The types as a page reaches them: through an import and through the shared library.
+/// The types as a page uses them: through an import and through the shared library.
 class ModuleTest : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ class ModuleTest : public QObject
         return text.contains(QRegularExpression("\\n        \\w+ \\{\\s+name: \"" + member + '"'));
     }
 
-    /// What a page with the module's import makes of `text`.
+    /// Evaluates `text` on a page with the module's import.
     static std::unique_ptr<QObject> made(QQmlEngine& engine, const QByteArray& text)
     {
         QQmlComponent component(&engine);
@@ -44,7 +44,8 @@ class ModuleTest : public QObject
 private Q_SLOTS:
     void initTestCase() { uiutils::registerTypes(); }
 
-    /// What tools know of the module, against what is written down of the classes. A cross build does not describe it.
+    /// The module's description for tools, compared with the written description of the classes. A cross build has
+    /// none.
     void descriptionForTools()
     {
         if (!UIUTILS_HAS_QMLTYPES)
@@ -65,7 +66,7 @@ private Q_SLOTS:
             while (members.hasNext()) {
                 const QStringList found = members.next().capturedTexts();
                 const QString member = found.at(1);
-                // A property's own notifier goes without saying when it has no parameters.
+                // A property's own notifier is implied when it has no parameters.
                 const bool isNotifier = found.size() > 2 && member.endsWith("Changed") && mentions(text, member.chopped(7));
                 QVERIFY2(mentions(text, member) || isNotifier, qPrintable(name + " " + member));
             }
@@ -88,7 +89,7 @@ private Q_SLOTS:
                 QJsonObject({{"attr_align", "2"}, {"attr_status", "16"}, {"attr_unit", "dB"}, {"label", "1"}, {"tag", "a"}, {"title", "First"}}));
     }
 
-    /// What QML can hand over in place of a map of texts, and which of two overloads it means.
+    /// What QML can pass in place of a map of texts, and which of two overloads that selects.
     void aPageAsksForFiles()
     {
         QQmlEngine engine;

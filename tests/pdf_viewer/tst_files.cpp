@@ -10,7 +10,7 @@
 
 using namespace uiutils::viewer;
 
-/// What the viewer makes of command lines and of files.
+/// How the viewer reads command lines and files.
 class FilesTest : public QObject
 {
     Q_OBJECT
@@ -106,7 +106,7 @@ private Q_SLOTS:
 
     void renderedSizes()
     {
-        // As asked, too many pixels, too long, the largest numbers, nothing.
+        // The requested size, too many pixels, too long, the largest numbers, nothing.
         const std::pair<QSize, QSize> rows[] {{{996, 1289}, {996, 1289}}, {{4000, 4000}, {2549, 2549}}, {{10, 40960}, {1, 4096}},
                 {{INT_MAX, INT_MAX}, {2549, 2549}}, {{0, 10}, {}}};
         for (const auto& [asked, given] : rows)
@@ -148,12 +148,13 @@ private Q_SLOTS:
             return;
         }
         QCOMPARE(QStringList({options.file, options.title, QString::number(options.dotsPerInch),
-                         options.isWholeScreen ? "whole" : "", options.plugins.join(',')}).join('|'), told);
+                         options.isFullScreen ? "whole" : "", options.plugins.join(',')}).join('|'), told);
     }
 
     void plugins()
     {
-        // A device that is there, one that is not, one that finds its own, and a window system, which brings touches itself.
+        // An existing device, a missing one, one that finds its own, and a window system, which provides touches
+        // itself.
         const std::tuple<const char*, const char*, bool> rows[] {{"linuxfb", "EvdevTouch:/dev/null:rotate=90", true},
                 {"linuxfb", "EvdevTouch:/dev/input/event-none", false}, {"eglfs", "EvdevTouch", true},
                 {"xcb;offscreen", "EvdevTouch:/dev/null", false}};

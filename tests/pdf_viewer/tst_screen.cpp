@@ -15,7 +15,7 @@
 
 using namespace uiutils::viewer;
 
-/// The screen with real files, used as its users do, and looked at.
+/// The screen with real files, operated as users do, and compared with what it shows.
 class ScreenTest : public QObject
 {
     Q_OBJECT
@@ -63,14 +63,14 @@ private:
         return nullptr;
     }
 
-    /// A page that is there and drawn as sharp as it is large.
+    /// A page that exists and is drawn at full sharpness.
     bool isSharp(int page) const
     {
         const PageItem* const item = picture(page);
         return item && item->status() == PageItem::Drawn && item->pictureSize() == item->size().toSize();
     }
 
-    /// What the window shows at a place of a page, each from 0 to 1; no color where the page is out of sight.
+    /// The window's colour at a point of a page, each coordinate from 0 to 1; invalid if the page is out of view.
     QColor colorAt(int page, qreal across, qreal down) const
     {
         const PageItem* const item = picture(page);
@@ -147,7 +147,7 @@ private Q_SLOTS:
     {
         show(samples::barred(2));
         QTRY_VERIFY(isSharp(0));
-        // The width of the view less its margins.
+        // The width of the view without its margins.
         QCOMPARE(picture(0)->width() + 2, 996.0);
         click("fitPageButton");
         QTRY_VERIFY(isSharp(0));
@@ -184,7 +184,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_window->isVisible());
     }
 
-    /// Two fingers part: what is between them grows and stays there.
+    /// Two fingers move apart: what is between them grows and stays in place.
     void pinch_data()
     {
         addColumns<QPoint, int>();
@@ -220,7 +220,7 @@ private Q_SLOTS:
         QTRY_VERIFY(isSharp(0));
     }
 
-    /// With Ctrl it zooms, by itself it scrolls.
+    /// With Ctrl it zooms, without it scrolls.
     void wheel()
     {
         show(samples::barred(3));
@@ -251,7 +251,7 @@ private Q_SLOTS:
         QTRY_VERIFY(isSharp(999));
         QCOMPARE(colorAt(999, 0.5, 0.95), QColor(Qt::black));
         QVERIFY2(pictures().size() <= 5, qPrintable(QString::number(pictures().size())));
-        // Nor are there more of them in a window that has no room for one.
+        // A window without space for a page has no more of them.
         m_window->setMinimumSize({1, 1});
         for (const QSize& size : {QSize(20, 300), QSize(300, 62), QSize(1, 1)}) {
             m_window->resize(size);
@@ -260,7 +260,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Sideways pages, and one that would be larger than any memory.
+    /// Sideways pages, and one that would need more memory than any machine has.
     void pagesOfManySizes()
     {
         show("%PDF-1.4\n1 0 obj\n<</Type/Catalog/Pages 2 0 R>>\nendobj\n2 0 obj\n<</Type/Pages/Kids[3 0 R 4 0 R 5 0 R]/Count 3>>\n"
@@ -281,7 +281,7 @@ private Q_SLOTS:
         QTRY_VERIFY(picture(1) && picture(1)->pictureSize() == QSize(2549, 2549));
     }
 
-    void aFileThatIsNotThere()
+    void aMissingFile()
     {
         show({});
         QVERIFY(m_window->findChild<QQuickItem*>("problem")->isVisible());

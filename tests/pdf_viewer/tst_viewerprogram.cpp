@@ -47,7 +47,7 @@ private Q_SLOTS:
         QVERIFY2(told.contains(words), qPrintable(told));
     }
 
-    /// A plug-in for a device that is not there is ignored without a word.
+    /// A plug-in for a missing device is ignored silently.
     void staysUntilItIsClosed()
     {
         const QString file = writeFile(m_folder.filePath("a.pdf"), samples::barred(1));

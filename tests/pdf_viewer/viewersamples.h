@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 
-/// Makers of small PDF files for the viewer's tests.
+/// Builders of small PDF files for the viewer's tests.
 namespace samples {
 
 /// A file of letter pages. Page n has a black bar across it, from n tenths of its height to the next tenth.

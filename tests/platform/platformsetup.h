@@ -6,12 +6,12 @@
 
 #include <memory>
 
-/// Brings up a back end for the platform suite, which runs unchanged over every one, and drives its services from their
+/// Creates a back end for the platform suite, which runs unchanged over every one, and drives its services from their
 /// own side. A back end's own source file defines create(). Each call returns whether the service could do it.
 class PlatformSetup
 {
 public:
-    /// What a service says of an item beside its value.
+    /// Attributes that a service reports for an item besides its value.
     enum class Answer
     {
         Ready,
@@ -26,11 +26,11 @@ public:
         QString name;
     };
 
-    /// The back end with the services of the given files; null when it cannot come up.
+    /// The back end with the services of the given files; null on failure.
     static std::unique_ptr<PlatformSetup> create(const QStringList& serviceFiles);
     virtual ~PlatformSetup() = default;
 
-    /// The service reports a value of its own accord.
+    /// The service reports a value that no client requested.
     virtual bool report(const QString& service, const QString& id, const QVariant& value) = 0;
     virtual bool change(const QString& service, const QString& id, Answer answer, const QVariant& value) = 0;
     virtual bool setChoices(const QString& service, const QString& id, const QVector<Choice>& choices) = 0;

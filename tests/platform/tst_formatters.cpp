@@ -5,7 +5,7 @@
 
 #include <memory>
 
-/// Formatters as the platform hands them out.
+/// Formatters as the platform returns them.
 class FormattersTest : public QObject
 {
     Q_OBJECT

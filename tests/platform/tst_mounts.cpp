@@ -35,7 +35,7 @@ private Q_SLOTS:
         // The second is escaped in the table, the third mounted on demand, the last bound.
         for (const char* path : {"/mnt/usb", "/mnt/my stick\\x", "/mnt/woken", "/mnt/bound"})
             QVERIFY2(kiv::listsMount(table, path), path);
-        // As it is escaped, above and below a mount, not yet mounted on demand, the root of the bound one, a device.
+        // The escaped form, above and below a mount, not yet mounted on demand, the root of the bound one, a device.
         for (const char* path : {"/mnt/my\\040stick\\134x", "/mnt", "/mnt/usb/reports", "", "/mnt/waiting",
                      "/mnt/other", "/mnt/device"})
             QVERIFY2(!kiv::listsMount(table, path), path);

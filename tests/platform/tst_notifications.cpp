@@ -162,7 +162,7 @@ private Q_SLOTS:
         QCOMPARE(rejected.size(), 2);
     }
 
-    void closingAMessageIsNoAnswer()
+    void closingAMessageIsNotAnAnswer()
     {
         QSignalSpy accepted(manager(), &KIVNotificationModelManager::notificationAccepted);
         QSignalSpy rejected(manager(), &KIVNotificationModelManager::notificationRejected);
@@ -213,7 +213,7 @@ private Q_SLOTS:
         QCOMPARE(accepted.size(), 0);
     }
 
-    /// The answer to a question is where the next one is asked.
+    /// The next question may be asked while the previous one is answered.
     void anAnswerMayRaiseTheNextDialog()
     {
         const auto question = request("question");

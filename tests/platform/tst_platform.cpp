@@ -70,7 +70,7 @@ private Q_SLOTS:
         QVERIFY(!unknown || !unknown->isValid());
         QVERIFY(!KIVClientInterface::getSessionBusClient(""));
 
-        // One of one's own dies with its parent.
+        // A client with a parent is deleted with the parent.
         auto parent = std::make_unique<QObject>();
         QPointer<KIVClientInterface> own = KIVClientInterface::getSessionBusClient("kinds", parent.get());
         QVERIFY(own && own != shared);
@@ -152,7 +152,7 @@ private Q_SLOTS:
         QTRY_COMPARE(item->getValue(), QVariant(100.0));
         QCOMPARE(changes.size(), 2);
         QVERIFY(!m_setup->report("kinds", ":config:kinds:unknown:", 1));
-        // A large counter's steps are changes too.
+        // The steps of a large counter are changes too.
         QVERIFY(m_setup->report("kinds", item->getId(), 2e13));
         QVERIFY(m_setup->report("kinds", item->getId(), 2e13 + 1));
         QTRY_COMPARE(changes.size(), 4);
@@ -177,7 +177,7 @@ private Q_SLOTS:
         row(":result:station:events:", Item::TypeListAggregate, "listAggregate", "KivListAggregateClientItem",
                 "1.5, Splice; 20, End");
         row(":action:station:start:", Item::TypeAction, "action", "KIVClientItem", "");
-        // A formatter brings its own unit, but the item's comes first.
+        // A formatter has a unit, but the item's own comes first.
         row(":result:station:loss:", Item::TypeDouble, "double", "KIVClientItem", "3.22 dB");
         row(":result:station:gain:", Item::TypeDouble, "double", "KIVClientItem", "1,500.0 dBm");
     }
@@ -219,15 +219,15 @@ private Q_SLOTS:
         QCOMPARE(stationItem(":result:station:loss:")->getUnitString(), QString("dB"));
     }
 
-    void recordsAndTables()
+    void aggregatesAndTables()
     {
         const auto* limits = qobject_cast<KivAggregateClientItem*>(stationItem(":config:station:setup:limits:"));
-        KivAggregate record = limits->getAggregate();
-        QCOMPARE(record.getPropertyNames(), (QList<QByteArray> {"upper", "lower"}));
-        QCOMPARE(record.getPropertyVariant("lower"), QVariant(-1));
-        QCOMPARE(record.toVariant(), limits->getValue());
-        QVERIFY(record.setPropertyFromVariant("upper", 9.5));
-        QVERIFY(station()->setItem(limits->getId(), record.toVariant()));
+        KivAggregate aggregate = limits->getAggregate();
+        QCOMPARE(aggregate.getPropertyNames(), (QList<QByteArray> {"upper", "lower"}));
+        QCOMPARE(aggregate.getPropertyVariant("lower"), QVariant(-1));
+        QCOMPARE(aggregate.toVariant(), limits->getValue());
+        QVERIFY(aggregate.setPropertyFromVariant("upper", 9.5));
+        QVERIFY(station()->setItem(limits->getId(), aggregate.toVariant()));
         QTRY_COMPARE(limits->getAggregate().getPropertyVariant("upper"), QVariant(9.5));
 
         const auto* events = qobject_cast<KivListAggregateClientItem*>(stationItem(":result:station:events:"));
@@ -332,7 +332,7 @@ private Q_SLOTS:
         take("choice", "mode", -2.0, -2);
         take("texts", "hosts:stringARRAY", QVariantList {"x", 5}, QStringList {"x", "5"});
         take("numbers", "points:doubleARRAY", QVariantList {"1.5", 2}, QVariantList {1.5, 2.0});
-        take("record", "limits", QVariantMap {{"lower", 3.0}, {"upper", "1"}}, QVariantMap {{"lower", 3}, {"upper", 1.0}});
+        take("aggregate", "limits", QVariantMap {{"lower", 3.0}, {"upper", "1"}}, QVariantMap {{"lower", 3}, {"upper", 1.0}});
         take("at the limit of the length", "title", "Abcdefgh", "Abcdefgh");
         take("broken pattern", "note", "any", "any");
 
@@ -365,7 +365,7 @@ private Q_SLOTS:
         refuse("missing member", "limits", QVariantMap {{"lower", 1}}, {"Limits", "\"upper\""});
         refuse("further member", "limits", QVariantMap {{"lower", 1}, {"upper", 1}, {"x", 1}}, {"Limits", "\"x\""});
         refuse("member of another type", "limits", QVariantMap {{"lower", 1.5}, {"upper", 1}}, {"Limits", "\"lower\"", "whole"});
-        refuse("number for a record", "limits", 1, {"Limits", "not a record"});
+        refuse("number for an aggregate", "limits", 1, {"Limits", "not an aggregate"});
         refuse("refused", "locked", 2, {"The laser is on."});
         refuse("not ready", "warming", 2, {"Warm-up", "not ready"});
     }
@@ -559,8 +559,8 @@ private Q_SLOTS:
         QCOMPARE(other.size(), 0);
     }
 
-    /// A page that goes on a change takes with it what the change came from.
-    void aSlotMayEndWhatItHearsOf_data()
+    /// A page that is deleted by a change takes the source of the change with it.
+    void aSlotMayDeleteTheSender_data()
     {
         addColumns<QString, QString>();
         for (const char* signal : {"value", "batch", "action", "ready", "unit", "choices", "items", "error"}) {
@@ -568,7 +568,7 @@ private Q_SLOTS:
                 QTest::newRow(qPrintable(QString(signal) + " " + end)) << QString(signal) << QString(end);
         }
     }
-    void aSlotMayEndWhatItHearsOf()
+    void aSlotMayDeleteTheSender()
     {
         const auto [signal, end] = currentRow<QString, QString>();
         QObject page;

@@ -100,7 +100,7 @@ private Q_SLOTS:
                 << QByteArray("<!DOCTYPE s [<!ENTITY e SYSTEM '../outside.xsd'>]>") + head + "&e;</xs:schema>"
                 << "not a file in the folder";
     }
-    /// In a folder whose name is no URL as it is.
+    /// In a folder whose name is not a URL without escapes.
     void schemas()
     {
         auto [text, error] = currentRow<QByteArray, QString>();
@@ -138,7 +138,7 @@ private Q_SLOTS:
         QVERIFY(validator.errors().constFirst().size() < 600);
     }
 
-    /// What one thread finds stays in it.
+    /// The errors of one thread stay in that thread.
     void threads()
     {
         const QString file = write("link.xsd", schema);
@@ -158,7 +158,7 @@ private Q_SLOTS:
         QCOMPARE(wrong.load(), 0);
     }
 
-    /// Standard error stays free.
+    /// Nothing is printed to standard error.
     void silence()
     {
         QFile file(path("output"));

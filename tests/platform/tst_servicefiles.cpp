@@ -13,7 +13,7 @@ class ServiceFilesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// The files that ship, and the ones that the tests use, are the schema's first readers.
+    /// The installed files and those of the tests conform to the schema.
     void shippedFilesLoad_data()
     {
         addColumns<QString, QStringList>();
@@ -35,7 +35,7 @@ private Q_SLOTS:
             QVERIFY(!backend.service(service)->itemIds().isEmpty());
     }
 
-    /// A value that a screen could not give back would be a fault of the file.
+    /// A screen must be able to write back every value, or the file is wrong.
     void shippedSettingsTakeTheirOwnValues()
     {
         EmbeddedBackend backend;
@@ -50,21 +50,21 @@ private Q_SLOTS:
                     refusals += client->getLastError();
             }
         }
-        QCOMPARE(refusals, QStringList {"The calibration is set in the factory only."});
+        QCOMPARE(refusals, QStringList {"The calibration can only be set at the factory."});
         QVERIFY(settings > 20);
     }
 
-    void refusedFiles_data()
+    void rejectedFiles_data()
     {
         addColumns<QByteArray, QString>();
         QTest::newRow("syntax") << QByteArray("{\n  \"service\": \"s\",\n  \"items\": [,]\n}") << ":3:14: ";
         QTest::newRow("huge id") << "{\"service\": \"s\", \"items\": [{\"id\": \":config:" + QByteArray(200'000, 'a')
                         + ":\", \"type\": \"bool\"}]}" << ": /items/0/id: ";
         QTest::newRow("deep") << QByteArray(3000, '[') << ":1:";
-        for (const QStringList& row : tableIn("/refused/services.txt"))
+        for (const QStringList& row : tableIn("/rejected/services.txt"))
             QTest::newRow(qPrintable(row.at(0))) << row.at(2).toUtf8() << row.at(1);
     }
-    void refusedFiles()
+    void rejectedFiles()
     {
         const auto [contents, place] = currentRow<QByteArray, QString>();
         QTemporaryDir dir;

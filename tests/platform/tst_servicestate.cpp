@@ -114,7 +114,7 @@ private Q_SLOTS:
             QVERIFY(run.value(id).toDouble() == value.toDouble());
     }
 
-    void onlyWhatClientsSetIsKept()
+    void onlyValuesFromClientsAreStored()
     {
         {
             const Run run(folder());
@@ -123,7 +123,7 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
             QVERIFY(!QFile::exists(stateFile()));
             QVERIFY(run.client()->setItem(levelId, 1));
-            // From now on the service's own changes of this setting count too, and so do those of an action.
+            // From now on the service's own changes of this setting are stored too, and so are those of an action.
             QVERIFY(run.service()->setValue(levelId, 2));
             QVERIFY(run.client()->invokeAction(":action:station:start:"));
         }
@@ -143,7 +143,7 @@ private Q_SLOTS:
         for (int i = 0; i < 10; ++i)
             QVERIFY(run.client()->setItem(levelId, i));
         QVERIFY(!QFile::exists(stateFile()));
-        // As a killed write leaves it.
+        // What a killed write leaves.
         writeFile(folder() + "/.uiutils-left.tmp", "half");
         QTRY_VERIFY(QFile::exists(stateFile()));
         QCOMPARE(readJson(stateFile()).value("values").toObject(), (QJsonObject {{levelId, 9}}));
@@ -183,7 +183,7 @@ private Q_SLOTS:
         expected.insert(levelId, 1);
         QCOMPARE(readJson(stateFile()).value("values").toObject(), expected);
 
-        // An item that comes later finds its value, and one that goes leaves it.
+        // An item that is added later gets its value, and one that is removed leaves it in the file.
         Run run(folder());
         QVERIFY(run.service()->addItem(item(prefix + "gone:", "int", 0)));
         QCOMPARE(run.value(prefix + "gone:"), QVariant(1));
@@ -194,7 +194,7 @@ private Q_SLOTS:
         QCOMPARE(readJson(stateFile()).value("values").toObject(), expected);
     }
 
-    void numbersThatAreNoneAreNotKept()
+    void nanAndInfinityAreNotStored()
     {
         {
             const Run run(folder());
@@ -250,7 +250,7 @@ private Q_SLOTS:
         QCOMPARE(readJson(stateFile()).value("values").toObject(), (QJsonObject {{levelId, 1}, {prefix + "on:", false}}));
         QCOMPARE(errors.size(), 1);
 
-        // Without a next change the last moment to try again is the end of the service.
+        // Without a next change the end of the service is the last moment to try again.
         QVERIFY(QDir(m_dir->filePath("made")).removeRecursively());
         writeFile(m_dir->filePath("made"), "in the way");
         QVERIFY(run.client()->setItem(levelId, 2));
@@ -377,7 +377,7 @@ private Q_SLOTS:
         QVERIFY(FileSystemUsage::isMounted("/mnt/usb/"));
         QVERIFY(backend.withdraw("other"));
         QVERIFY(!FileSystemUsage::isMounted("/mnt/usb/"));
-        // The system's own table is not asked by this back end.
+        // This back end does not read the system's own table.
         QVERIFY(!FileSystemUsage::isMounted("/proc"));
     }
 };

@@ -3,7 +3,7 @@ import QtTest 1.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// Hands and eyes of the tests of entries.
+// Input and observation for the tests of entries.
 TestCase {
     readonly property Component entryComponent: Component { ItemEntry {} }
     readonly property Component itemComponent: Component { UiData {} }
@@ -30,7 +30,7 @@ TestCase {
         return findChild(entry, "field")
     }
 
-    // Types as on a keyboard, in place of what is there.
+    // Types as on a keyboard, replacing the present text.
     function type(entry, text) {
         const field = fieldOf(entry)
         field.forceActiveFocus()

@@ -3,7 +3,7 @@ import QtQuick.Controls 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// How entries behave under a user's hands while their service goes its own ways.
+// How entries behave for a user while their service changes by itself.
 Item {
     id: root
 
@@ -98,7 +98,7 @@ Item {
             compare(pair.first.entry.note, "2 - 16 chars")
         }
 
-        // A form in a popup closes with Escape when there is nothing to take back.
+        // A form in a popup closes with Escape when there is nothing to revert.
         function test_escapeIsLeftToThePageWithoutAnEdit() {
             const escapes = createTemporaryQmlObject("import QtQuick 2.15; Item { property int count; Keys.onEscapePressed: ++count }", root)
             const entry = entryComponent.createObject(escapes, { width: 400, item: entry_cfg_level })
@@ -201,7 +201,7 @@ Item {
             box.forceActiveFocus()
             keyClick(Qt.Key_Up)
             compare(driver.value(":config:entry:mode:"), 1)
-            // Set by others and not offered, but it is what is set.
+            // Set by others and not offered, but still the present value.
             driver.report(":config:entry:mode:", 5)
             compare(box.displayText, "Remote")
             compare(box.count, 2)
@@ -225,7 +225,7 @@ Item {
             keyClick(Qt.Key_Down)
             compare(item.value, 2)
             compare(box.displayText, "Two")
-            // The place among more choices is the same.
+            // The position among more choices is the same.
             item.uiEnumList.at(2).applicable = true
             compare(box.currentIndex, 1)
 
@@ -352,7 +352,7 @@ Item {
             compare(driver.value(":config:entry:name:"), "Fiber 7")
             keyClick(Qt.Key_Return)
             compare(driver.value(":config:entry:name:"), "Halfway")
-            // The name is looked up again when the service is back.
+            // The name is looked up again when the service returns.
             const named = createTemporaryQmlObject("import UiUtils.Controls 1.0; TextEntry { item: entry_cfg_name }", root)
             type(named, "Typed")
             driver.setReachable(false, "entry")
@@ -455,7 +455,7 @@ Item {
             compare(entry.value, 8)
             entry.value = 2
             compare(fieldOf(entry).text, "2")
-            // However long the unit is, the value has room.
+            // However long the unit is, there is space for the value.
             verify(fieldOf(make(aloneComponent, { unit: "m".repeat(100) })).width > 150)
         }
 

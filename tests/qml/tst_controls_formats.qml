@@ -2,7 +2,7 @@ import QtQuick 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// What each kind of entry takes, what it hands on, and what it says about the rest.
+// What each kind of entry accepts, what it writes, and what it says about the rest.
 Item {
     id: root
 
@@ -47,7 +47,7 @@ Item {
             }
         }
 
-        // Where decimals have a comma, a point is no decimal point, and the item gets plain numbers all the same.
+        // With a decimal comma a point is not a decimal separator, and the item still gets plain numbers.
         function test_commaCountry() {
             driver.setLocale("de_DE")
             const item = createTemporaryObject(itemComponent, root, { type: "double", value: 1234.5, minRange: 0.5, maxRange: 5000.5 })
@@ -58,7 +58,7 @@ Item {
             compare(item.value, 2.75)
             enter(entry, "1.5")
             compare(item.value, 2.75)
-            compare(entry.entry.note, "Decimals stand behind \",\"")
+            compare(entry.entry.note, "Use \",\" as the decimal separator")
             keyClick(Qt.Key_Escape)
             compare(fieldOf(entry).text, "2,75")
             mouseClick(findChild(entry, "padButton"))

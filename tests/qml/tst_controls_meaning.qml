@@ -2,7 +2,7 @@ import QtQuick 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// Entries whose items lose their meaning, are replaced, or stand in the way of a form.
+// Entries whose items lose their meaning, are replaced, or block a form.
 Item {
     id: root
 
@@ -89,7 +89,7 @@ Item {
             compare(UiDataContainer.allItemsOk, true)
             needed.applicable = true
             compare(UiDataContainer.allItemsOk, false)
-            // The text goes with the entry; the item's own value is good.
+            // The text is removed with the entry; the item's own value is acceptable.
             entry.destroy()
             tryCompare(UiDataContainer, "allItemsOk", true)
         }

@@ -3,7 +3,7 @@ import QtQuick.Controls 2.15
 import QtTest 1.15
 import UiUtils 1.0
 
-// A page as its writer would make it: items by name, nothing else known of the services.
+// A page as its author would write it: items by name, nothing else known of the services.
 Item {
     id: root
 

@@ -3,7 +3,7 @@ import QtQuick.Controls 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// The tray and the dialog under a user's hands.
+// The tray and the dialog as users operate them.
 Item {
     id: root
 
@@ -131,7 +131,7 @@ Item {
             tryCompare(dialog, "visible", false)
         }
 
-        // The finger was on the way to another question.
+        // The finger was on its way to another question.
         function test_aPressEndsWithItsDialog() {
             const others = createTemporaryObject(filesComponent, root)
             const dialog = makeDialog()
@@ -234,7 +234,7 @@ Item {
             keyClick(Qt.Key_Delete)
             tryCompare(list, "currentIndex", 1)
             tryVerify(() => row(tray, 1).Accessible.description.endsWith("USB:/1"))
-            // News leave the user on the same entry.
+            // New entries leave the user on the same entry.
             files.sendNotificationReadError("/mnt/usb/new")
             keyClick(Qt.Key_Delete)
             tryVerify(() => row(tray, 2).Accessible.description.endsWith("USB:/0"))

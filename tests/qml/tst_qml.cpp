@@ -15,7 +15,7 @@
 
 #include <memory>
 
-/// A controller whose page lives on while it saves.
+/// A controller whose page stays alive while it saves.
 class InteractiveReport : public Report
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ public:
     {
     }
 
-    /// The services as their files say.
+    /// The services as their files describe them.
     Q_INVOKABLE void reset()
     {
         for (const char* name : {"field", "entry"}) {
@@ -54,7 +54,7 @@ public:
     }
     Q_INVOKABLE void reportError(const QString& text) { m_backend->service("field")->reportError(text); }
 
-    /// What entries take and refuse, a row a line.
+    /// What entries accept and reject, one row in each line.
     Q_INVOKABLE QStringList inputFormats() const
     {
         return QString::fromUtf8(contentsOf(UIUTILS_TEST_DATA_DIR "/inputs/formats.txt")).split('\n').filter(QRegularExpression("^\\["));
@@ -78,14 +78,14 @@ public:
     }
     Q_INVOKABLE QStringList savedReports() const { return namesIn(m_root->filePath("cust/public/reports/long")); }
 
-    /// What comes of a key that has been pressed long ago.
+    /// The effect of a key that was pressed long ago.
     Q_INVOKABLE void holdKey(int key)
     {
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
         QCoreApplication::sendEvent(QGuiApplication::focusWindow(), &event);
     }
 
-    /// What the engine has complained about since the last call.
+    /// The engine's warnings since the last call.
     Q_INVOKABLE QStringList takeWarnings() { return m_warnings.take(); }
     void watch(QQmlEngine* engine) { m_warnings.watch(engine); }
 
@@ -116,7 +116,7 @@ public Q_SLOTS:
         engine->rootContext()->setContextProperty("driver", &m_driver);
         m_instrument->showTo(engine);
     }
-    /// Test cases take the warnings of their own tests; what is left came between them.
+    /// Test cases take the warnings of their own tests; the others came between them.
     void cleanupTestCase()
     {
         const QStringList left = m_driver.takeWarnings();

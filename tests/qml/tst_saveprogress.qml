@@ -24,7 +24,7 @@ Item {
             property var answers: []
             property int taps: 0
             property int shortcuts: 0
-            // Done now and again, within a save as well.
+            // Done repeatedly, also during a save.
             property var deed: () => {}
 
             anchors.fill: parent
@@ -81,21 +81,21 @@ Item {
             return findChild(page.dialog.contentItem, name)
         }
 
-        // Another finger's: that which pressed Save may not be done yet.
+        // Another finger's: the one that pressed Save may not be released yet.
         function tapMeanwhile(item) {
             const touch = touchEvent(item)
             touch.press(1, item).commit()
             touch.release(1, item).commit()
         }
 
-        // Saves and does the deed again and again until the save is over.
+        // Saves and repeats the action until the save is over.
         function save(rows, deed, start) {
             page.report.templatePath = driver.makeDocument(rows)
             let isBusy = false
             page.deed = () => {
                 if (!page.report.saving || isBusy)
                     return
-                // Hands handle events in their turn.
+                // Input handles events itself.
                 isBusy = true
                 deed()
                 isBusy = false
@@ -112,7 +112,7 @@ Item {
             let seen = []
             save(40000, () => {
                 ++looks
-                // Also before there is anything to see.
+                // Even before there is anything to see.
                 tapMeanwhile(page.below)
                 keyClick(Qt.Key_1, Qt.ControlModifier)
                 compare(page.report.save(), false)
@@ -138,12 +138,12 @@ Item {
         }
         function test_cancel(data) {
             save(40000, () => {
-                // As one who looks where to press.
+                // As a user who looks where to press.
                 if (page.dialog.isInSight && page.report.progress > 0.3)
                     data.act()
             }, data.start)
             compare(page.answers, [false])
-            // What was given up is never said to be done.
+            // A cancelled save is never reported as done.
             const last = page.progress[page.progress.length - 1]
             verify(last > 0.3 && last < 1, last)
             compare(driver.savedReports(), [])
@@ -159,7 +159,7 @@ Item {
             compare(page.dialog.isCancelled, false)
         }
 
-        // Nobody sees what cannot be meant, and what is over at once is not shown.
+        // An invisible button cannot be meant, and a short save is not shown.
         function test_outOfSight() {
             page.dialog.delay = 3600000
             let wasOpen = false

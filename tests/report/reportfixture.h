@@ -27,7 +27,7 @@ inline KIVNotificationModelManager* manager()
     return KIVNotificationModelManager::instance();
 }
 
-/// What the dialog that shows is about, and what it says.
+/// Title and text of the open dialog.
 inline QString dialogTitle()
 {
     return manager()->currentDialog() ? manager()->currentDialog()->longLabel() : QString();
@@ -37,13 +37,13 @@ inline QString dialogText()
     return manager()->currentDialog() ? manager()->currentDialog()->msg() : QString();
 }
 
-/// JSON text with ' for ".
+/// JSON text with ' in place of ".
 inline QByteArray json(QByteArray text)
 {
     return text.replace('\'', '"');
 }
 
-/// A derived controller that notes when it is called.
+/// A derived controller that logs its calls.
 class Controller : public Report
 {
 public:
@@ -74,7 +74,7 @@ public:
         getSetting("reportName")->setValue(name);
         getSetting("reportFormat")->setValue(format);
     }
-    /// Saves again when the user lets it overwrite.
+    /// Saves again when the user agrees to the replacement.
     void saveOnYes()
     {
         connect(this, &Report::reportOverwriteAccepted, this, [this] { answers << save(true); });
@@ -90,7 +90,8 @@ public:
     QByteArray pages = "%PDF-";
     QStringList calls;
     QVector<bool> answers;
-    std::function<void()> whileMaking;
+    /// Called while contents are made, and when a save has succeeded.
+    std::function<void()> meanwhile;
     bool keepsName = true;
 
 protected:
@@ -103,22 +104,22 @@ protected:
         calls << "metadata " + format;
         Report::writeMetadata(path, format);
     }
-    void saveSucceeded(const QString&) override { calls << "succeeded"; }
+    void saveSucceeded(const QString&) override { made(calls << "succeeded"); }
     void saveFailed(const QString&) override { calls << "failed"; }
     void overwriteDeclined(const QString&) override { calls << "declined"; }
 
 private:
-    /// The controller may be gone afterwards.
+    /// The controller may have been deleted afterwards.
     template<typename Contents>
     Contents made(Contents contents)
     {
-        if (const auto making = whileMaking)
-            making();
+        if (const auto act = meanwhile)
+            act();
         return contents;
     }
 };
 
-/// An instrument of its own, with a base manager, for each test.
+/// A new instrument with a base manager for each test.
 class ReportFixture : public QObject
 {
     Q_OBJECT
@@ -131,7 +132,7 @@ protected:
     QStringList names(const QString& folder) const { return namesIn(onDisk(folder)); }
     QString listFile() const { return onDisk("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"); }
     kiv::embedded::EmbeddedService* basemgr() const { return m_backend->service("basemgr"); }
-    /// Where reports go, and whether a stick is told of and is there.
+    /// Where reports are saved, and whether a USB drive is reported and exists.
     void plug(int location, bool isAnnounced = true, bool isMounted = true)
     {
         QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int processes = 4;
 constexpr int edits = 1000;
-/// Each report is a line, and so is its record.
+/// Each report has a line, and so has its metadata record.
 constexpr int linesPerReport = 2;
 constexpr int keptReports = edits / 5;
 
@@ -24,7 +24,7 @@ QString reportOf(int process, int number)
     return QString("/cust/public/reports/otdr/process %1 report %2.pdf").arg(process).arg(number);
 }
 
-/// One process's edits: of five, three add a report and two take one away again.
+/// The edits of one process: of five, three add a report and two remove one.
 int runEditor(int process)
 {
     QString error;
@@ -37,7 +37,7 @@ int runEditor(int process)
         if (isDone) {
             ++(isAdding ? added : removed);
         } else if (error.contains("lock")) {
-            // A machine that is busy with other things may keep the others from finishing in time.
+            // A busy machine may keep the others from finishing in time.
             --i;
         } else {
             std::fprintf(stderr, "edit %d of process %d: %s\n", i, process, qPrintable(error));
@@ -47,7 +47,7 @@ int runEditor(int process)
     return 0;
 }
 
-/// Whole lines, and none of them twice.
+/// Complete lines, and none of them twice.
 bool isWhole(const QByteArray& text)
 {
     const QByteArrayList lines = text.split('\n');
@@ -65,7 +65,7 @@ class NoSyncListTest : public QObject
 private Q_SLOTS:
     void severalProcessesLoseNothing()
     {
-        // A memory file system, because a disk that syncs every edit says no more.
+        // A memory file system: a disk that syncs every edit would show nothing more.
         const bool hasMemory = QFileInfo("/dev/shm").isWritable();
         const QTemporaryDir root(hasMemory ? "/dev/shm/uiutils-test-XXXXXX" : QDir::tempPath() + "/uiutils-test-XXXXXX");
         QVERIFY(root.isValid());

@@ -1,6 +1,6 @@
 #include "reportfixture.h"
 
-/// What a controller knows: properties, names, formats, settings.
+/// The data of a controller: properties, names, formats, settings.
 class ReportTest : public ReportFixture
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class ReportTest : public ReportFixture
     }
 
 private Q_SLOTS:
-    void settersTellOfChangesAlone()
+    void settersEmitChangesOnly()
     {
         const QVector<std::tuple<const char*, QVariant, QString>> rows{
                 {"tag", "x", "tagChanged folderChanged reportFilesChanged saveLocationChanged"},
@@ -41,7 +41,7 @@ private Q_SLOTS:
         }
     }
 
-    void templateStandsBehindTheProperties()
+    void templateIsBelowTheProperties()
     {
         Report report;
         QCOMPARE(report.getOrientation(), QString("portrait"));
@@ -55,7 +55,7 @@ private Q_SLOTS:
                 QStringList({"templatePathChanged", "tagChanged", "orientationChanged", "titleChanged", "subjectChanged",
                         "reportFilesChanged", "canWriteToJobManagerChanged", "canWriteToFileChanged",
                         "folderChanged", "saveLocationChanged"}));
-        // Where the folder stays as it was, nobody need hear of it.
+        // If the folder is unchanged, nothing is emitted.
         emissions.names.clear();
         report.setTemplatePath("/cust/a.json");
         QCOMPARE(emissions.names.constLast(), QString("canWriteToFileChanged"));
@@ -66,7 +66,7 @@ private Q_SLOTS:
         report.setCanWriteToFile(false);
         QVERIFY(!report.getCanWriteToFile());
 
-        // One that cannot be read changes nothing.
+        // A list that cannot be read changes nothing.
         emissions.names.clear();
         writeFile(onDisk("/cust/torn.json"), json("{'tag': 'x'"));
         report.setTemplatePath("/cust/torn.json");
@@ -96,7 +96,7 @@ private Q_SLOTS:
         QVERIFY(basemgr()->setValue(usbItem, false));
         QCOMPARE(report.getSaveLocation(), QString("Internal:/reports/"));
 
-        // A service that comes back has items of its own.
+        // A service that returns has new items.
         basemgr()->setReachable(false);
         basemgr()->setReachable(true);
         QCoreApplication::processEvents();
@@ -105,7 +105,7 @@ private Q_SLOTS:
         QTRY_COMPARE(emissions.names, QStringList({"canWriteToJobManagerChanged", "jobSummaryChanged"}));
     }
 
-    /// What the user cannot enter, programs may still set.
+    /// Programs may set what the user cannot enter.
     void namesLeadNowhereElse()
     {
         const QString longest(50, 'a');
@@ -138,7 +138,7 @@ private Q_SLOTS:
         QCOMPARE(uiutils::reportSettingsPath("otdr"), QString("/cust/private/lastconfigs/reportSettings/otdr.json"));
     }
 
-    /// What a derived controller has as long as it overrides nothing.
+    /// A derived controller that overrides nothing.
     void defaults()
     {
         Controller other("x", 5);
@@ -155,7 +155,7 @@ private Q_SLOTS:
         QCOMPARE(report.getCdmTestType() + report.getCdmTestLabel(), QString());
         report.setCdmTestTypeAndLabel();
         QCOMPARE(report.getCdmTestType() + report.getCdmTestLabel(), QString("noneNone"));
-        // Nobody else's choice counts.
+        // The choice of another controller does not count.
         QCOMPARE(other.getSuffixForReport(), QString());
         QCOMPARE(report.getSuffixForReport(), QString(".pdf"));
         report.getSetting("reportFormat")->setValue(QVariant());
@@ -169,7 +169,7 @@ private Q_SLOTS:
         QVERIFY(basemgr()->setValue(id, "of the test before"));
         const Report report;
         QCOMPARE(basemgr()->item(id)->getValue(), QVariant(""));
-        // That is all that clients may do to it.
+        // Clients can do nothing else to it.
         KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
         QVERIFY(!client->setItem(id, "theirs") && client->getLastError().contains("it can only be emptied"));
         QVERIFY(!client->setItem(usbItem, ""));
@@ -185,11 +185,11 @@ private Q_SLOTS:
             return report.getSetting("reportName")->getValue().toString() + " " + QString::number(report.getFormat())
                     + (report.getSetting("reportSync_SS")->getValue().toBool() ? " synced" : "");
         };
-        // Those of the first folder come when the page has set it.
+        // The settings of the first folder are read when the page has set it.
         report.setFolder("a/b");
         QCOMPARE(values(), QString(" 0"));
         QTRY_COMPARE(values(), QString("of a 1 synced"));
-        // What a folder has not stored is as it was at first; what the user has chosen stays chosen.
+        // A setting that a folder has not stored gets its initial value; the user's choices stay.
         QStringList heard;
         connect(&report, &Report::folderChanged, &report, [&] { heard << values(); });
         report.setFolder("c");
@@ -208,7 +208,7 @@ private Q_SLOTS:
         QCOMPARE(stored("a/b")["reportName"].toString(), QString("of a"));
         QVERIFY(!QFile::exists(settingsFile("d")));
     }
-    /// A page that saves as soon as it is there has not seen them yet; nor has one whose document brings another tag.
+    /// A page that saves during its creation has not read them yet; nor has one whose document has another tag.
     void whatWasNotLoadedIsNotReplaced()
     {
         const QByteArray before = json("{'reportName': 'theirs', 'reportFormat': 1, 'reportSync_SS': true}");
@@ -254,7 +254,7 @@ private Q_SLOTS:
             }
             report.loadSettings();
             QCOMPARE(report.own->getValue(), QVariant(chosen));
-            // Another folder's come first, then the notifiers, then the hook.
+            // First the settings of another folder, then the notifiers, then the hook.
             const SignalLog emissions(&report, &report.log);
             const QString taken = chosen == "mine" ? chosen : "default";
             report.setTag("t");
@@ -268,7 +268,7 @@ private Q_SLOTS:
             QCOMPARE(report.log.mid(report.log.size() - 2), QStringList({"saveLocationChanged", taken}));
         }
     }
-    void whatCannotBeReadIsKept()
+    void unreadableFilesStay()
     {
         const QString place = settingsFile("x");
         const QString log = "Could not open /cust/private/lastconfigs/reportSettings/x.json for ";
@@ -280,14 +280,14 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, qPrintable(log + "reading"));
         report.setFolder("x");
         QCOMPARE(report.getSetting("reportName")->getValue().toString() + report.getSuffixForReport(), QString("of none.xml"));
-        // Nor a pipe that nobody writes into.
+        // Nor a pipe without a writer.
         QVERIFY(QDir().rmdir(place) && ::mkfifo(place.toLocal8Bit().constData(), 0600) == 0);
         QTest::ignoreMessage(QtWarningMsg, qPrintable(log + "reading"));
         report.loadSettings();
         QVERIFY(QFile::remove(place));
         writeFile(place, json("{'reportName': 'ours'}"));
         report.loadSettings();
-        // What was loaded once need not be what is there now.
+        // Settings that were read once may differ from the present ones.
         QVERIFY(QFile::remove(place) && QDir().mkpath(place));
         QTest::ignoreMessage(QtWarningMsg, qPrintable(log + "reading"));
         report.loadSettings();

@@ -1,12 +1,12 @@
 #include "reportfixture.h"
 
-/// What a save makes of the drives: full ones, and sticks that come and go.
+/// Saving on drives: full ones, and USB drives that are plugged in and out.
 class ReportDrivesTest : public ReportFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void fullDrivesAreToldBeforehand()
+    void fullDrivesAreReportedBeforehand()
     {
         const QByteArray stick = QFile::encodeName(onDisk("/mnt/usb"));
         QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
@@ -24,7 +24,7 @@ private Q_SLOTS:
             QCOMPARE(manager()->waitingDialogs(), 0);
             QCOMPARE(report.calls.constLast(), QString("failed"));
             QVERIFY(!QFile::exists(onDisk("/cust/public/reports/a.txt")) && names("/mnt/usb").size() == 1);
-            // Without a stick nothing goes there.
+            // Without a USB drive nothing is written there.
             plug(location, false);
             QVERIFY(report.save());
             QVERIFY(QFile::remove(onDisk("/cust/public/reports/a.txt")));
@@ -61,16 +61,16 @@ private Q_SLOTS:
         QCOMPARE(names("/cust/public/reports"), internal);
         QCOMPARE(names("/mnt/usb"), stick);
         QCOMPARE(manager()->currentDialog() == nullptr, isSaved);
-        // Two files that cannot be written are one mishap.
+        // Two files that cannot be written are one failure.
         QCOMPARE(manager()->waitingDialogs(), 0);
         int errors = 0;
         for (int i = 0; i < manager()->count(); ++i)
             errors += manager()->data(manager()->index(i), KIVNotificationModelManager::LongLabelRole) == "Write Error";
         QCOMPARE(errors, isSaved ? 0 : 1);
-        // What lies on the stick is asked about as well.
+        // Files on the USB drive are part of the question.
         QVERIFY(!report.save() || !isSaved);
         if (location == 2 && isSaved && !names("/mnt/usb").isEmpty()) {
-            // A twin of another form goes with what may be overwritten.
+            // A twin in another form is removed together with the file that may be overwritten.
             writeFile(onDisk("/mnt/usb/a.txt"), "plain");
             QVERIFY(report.save(true));
             QCOMPARE(names("/mnt/usb"), stick);
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QCOMPARE(dialogTitle(), QString("Write Error"));
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.txt")), QByteArray("precious"));
         QCOMPARE(contentsOf(onDisk("/mnt/usb/a.txt")), QByteArray("old"));
-        // Another save is another question.
+        // Another save asks another question.
         QVERIFY(!report.save());
         QVERIFY(manager()->currentDialog());
     }
@@ -119,13 +119,13 @@ private Q_SLOTS:
         manager()->accept();
         QCOMPARE(report.answers, QVector<bool>({false, true}));
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("new"));
-        // A question of a writer alone is not about what a save writes.
+        // The question of a writer that is called directly does not cover the files of a save.
         QVERIFY(!report.writeTxtReport("/cust/public/reports/a.txt"));
         report.text = "newer";
         manager()->accept();
         QCOMPARE(report.answers, QVector<bool>({false, true, false}));
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("new"));
-        // Once that writer has its answer, who overwrites without a question does.
+        // When that writer has its answer, a save that overwrites without a question does so again.
         report.disconnect(&report);
         QVERIFY(!report.writeTxtReport("/cust/public/reports/a.txt"));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -135,7 +135,7 @@ private Q_SLOTS:
         QVERIFY(report.save(true));
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/b.txt")), QByteArray("newer"));
     }
-    void aSaveGoesOnWhereItBegan()
+    void aSaveContinuesWhereItBegan()
     {
         writeFile(onDisk("/cust/public/reports/f/a.xml"), "old");
         writeFile(onDisk("/cust/public/reports/g/a.txt"), "precious");
@@ -160,21 +160,21 @@ private Q_SLOTS:
         QVERIFY(report.save());
         QCOMPARE(contentsOf(onDisk("/mnt/usb/a.txt")), QByteArray("new"));
     }
-    void sticksThatComeLateAreAskedAbout_data()
+    void lateDrivesAreAskedAbout_data()
     {
         addColumns<int, QString>();
         for (const char* name : {"a.pdf", "a.txt"})
             QTest::newRow(name) << 1 << name;
         QTest::newRow("copy") << 2 << "a.txt";
     }
-    void sticksThatComeLateAreAskedAbout()
+    void lateDrivesAreAskedAbout()
     {
         const auto [location, name] = currentRow<int, QString>();
         writeFile(onDisk("/mnt/port/" + name), "precious");
         plug(location, true, false);
         Controller report("a", name == "a.pdf" ? 0 : 3);
         report.text = "%PDF-";
-        report.whileMaking = [&] {
+        report.meanwhile = [&] {
             QDir().rename(onDisk("/mnt/usb"), onDisk("/mnt/point"));
             QDir().rename(onDisk("/mnt/port"), onDisk("/mnt/usb"));
             basemgr()->setMounted("/mnt/usb", true);
@@ -185,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(dialogText(), "Do you want to overwrite report USB:/" + name + "?");
         QCOMPARE(manager()->waitingDialogs(), 0);
         QCOMPARE(generated.count(), 0);
-        report.whileMaking = nullptr;
+        report.meanwhile = nullptr;
         report.saveOnYes();
         manager()->accept();
         QCOMPARE(report.answers, QVector<bool>{true});
@@ -197,13 +197,13 @@ private Q_SLOTS:
         Controller report("a", 3);
         QStringList shown;
         connect(&report, &Report::saveLocationChanged, &report, [&] { shown << report.getSaveLocation(); });
-        report.whileMaking = [&] { basemgr()->setValue(usbItem, true); };
+        report.meanwhile = [&] { basemgr()->setValue(usbItem, true); };
         QVERIFY(report.save());
         QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
         QTRY_VERIFY(!shown.isEmpty());
         QCOMPARE(shown.constLast(), QString("USB:/"));
     }
-    void nothingIsPutWhereAStickWas()
+    void nothingIsWrittenWhereADriveWas()
     {
         plug(1);
         Controller report("a", 3);
@@ -211,7 +211,7 @@ private Q_SLOTS:
         QVERIFY(report.save());
         QCOMPARE(names("/mnt/usb"), QStringList("a.txt"));
     }
-    void foldersOnSticksAreMade()
+    void foldersOnDrivesAreCreated()
     {
         QVERIFY(basemgr()->setMounted("/mnt/usb", true));
         QVERIFY(QDir().mkpath(onDisk("/mnt/usb")));
@@ -224,7 +224,7 @@ private Q_SLOTS:
         report.setFolder("g");
         QVERIFY(!report.save());
         QCOMPARE(names("/mnt/usb/sites"), QStringList("f"));
-        // A report that is saved to the stick is its own copy.
+        // A report that is saved to the USB drive is its own copy.
         report.setFolder("");
         report.setBaseDirectory("/mnt/usb");
         plug(2);

@@ -3,7 +3,7 @@
 using Deed = std::function<void(Controller*)>;
 Q_DECLARE_METATYPE(Deed)
 
-/// Controllers that go, and saves that begin, at the moments when that hurts.
+/// Controllers that are deleted, and saves that begin, at the worst moments.
 class ReportLifetimeTest : public ReportFixture
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ private Q_SLOTS:
         };
         const auto goOnNotification = [](void (KIVNotificationModelManager::*signal)()) {
             return [signal](Controller* r) {
-                // The dialog goes with the controller, which the manager tells, too.
+                // The dialog is removed with the controller, which is reported to the manager too.
                 connect(manager(), signal, r, [r, isFirst = true]() mutable {
                     if (std::exchange(isFirst, false))
                         delete r;
@@ -41,10 +41,10 @@ private Q_SLOTS:
             r->setFolder("f");
             r->save();
         };
-        const auto make = [=](int format) {
+        const auto goMeanwhile = [=](int format) {
             return [=](Controller* r) {
-                r->setUp("a", format);
-                r->whileMaking = [r] { delete r; };
+                r->getSetting("reportFormat")->setValue(format);
+                r->meanwhile = [r] { delete r; };
                 r->save();
             };
         };
@@ -63,12 +63,13 @@ private Q_SLOTS:
             goOnDialog(r);
             r->save();
         }, {"a.xml"});
-        add("pages are made", make(0));
-        add("text is made", make(3));
+        add("pages are made", goMeanwhile(0));
+        add("text is made", goMeanwhile(3));
+        add("succeeded", goMeanwhile(1), {"a.xml"});
         const Deed refuse = [](Controller* r) { r->writeToJobManager(); };
         add("refusal", [=](Controller* r) {
             QVERIFY(basemgr()->setValue(activeItem, false));
-            // The dialog of the first makes room for the second.
+            // The dialog of the first makes way for the second.
             within(refuse, within(goOnDialog, refuse))(r);
         });
         for (const auto signal : {&Report::reportFilesChanged, &Report::folderChanged}) {
@@ -108,7 +109,7 @@ private Q_SLOTS:
         QStringList found = names("/cust/public/reports");
         std::sort(found.begin(), found.end(), std::greater<>());
         QCOMPARE(found, files);
-        // What is written without the controller stays from the cloud without it.
+        // Files that are written after the controller was deleted are in the no-sync list too.
         for (const QString& file : qAsConst(found))
             QVERIFY2(file == "f" || contentsOf(listFile()).contains("/" + file.toUtf8() + "\n"), qPrintable(file));
     }
@@ -120,7 +121,7 @@ private Q_SLOTS:
         QVERIFY(!first->save() && !second.save());
         QSignalSpy accepted(&second, &Report::reportOverwriteAccepted);
         connect(first, &Report::reportOverwriteAccepted, first, [&first] { delete first; });
-        // The second hears this answer when the first has gone.
+        // The second receives this answer when the first has been deleted.
         manager()->accept();
         QVERIFY(!first);
         QCOMPARE(accepted.count(), 0);
@@ -156,7 +157,7 @@ private Q_SLOTS:
         QVERIFY(report.save());
         QCOMPARE(nested, QVector<bool>{false});
         report.disconnect(&report);
-        // Whoever answers at once is heard, and one save may follow another.
+        // An answer that comes at once is received, and one save may follow another.
         connect(&report, &Report::reportOverwriteAccepted, &report, [&] { nested << report.save(true); });
         const auto watch = connect(manager(), &KIVNotificationModelManager::currentDialogChanged, &report, [] {
             if (manager()->currentDialog())

@@ -40,7 +40,7 @@ QByteArray noise(int size)
     return bytes;
 }
 
-/// Gives the process a folder with this shell script as gzip and nothing else to look programs up in, or an empty one.
+/// Gives the process a folder with this shell script as gzip and no other program, or an empty one.
 class OtherGzip
 {
 public:
@@ -60,12 +60,12 @@ private:
     QByteArray m_before = qgetenv("PATH");
 };
 
-/// What the clock that files take their times from says.
+/// The clock from which files take their times.
 std::optional<timespec> clockTime;
 
 } // namespace
 
-/// In place of the C library's.
+/// Replaces the C library's function.
 extern "C" int clock_gettime(clockid_t clock, timespec* time) noexcept
 {
     if (clock != CLOCK_REALTIME_COARSE || !clockTime)
@@ -122,7 +122,7 @@ private Q_SLOTS:
         }
     }
 
-    void packsNamesThatAreNoOrdinaryOnes()
+    void packsUnusualNames()
     {
         for (const char* text : {"two words.txt", "a\"; touch hacked; \".txt", "$(touch hacked).txt", "`touch hacked`.txt",
                      "${HOME}.txt", "at the end\\", "a'b.txt", "-d.txt", "--help", "line\nfeed.txt", "; touch hacked",
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(contentsOf("arguments"), QFile::encodeName("-f|" + onDisk("/cust/public/reports/a b.txt|")));
     }
 
-    void saysWhatCannotBePacked()
+    void reportsWhatCannotBePacked()
     {
         const QString report("/cust/public/reports/a.txt");
         const std::pair<QString, const char*> rows[]{{report, ""}, {report, "exit 2"}, {report, "kill -9 $$"},
@@ -191,7 +191,7 @@ private Q_SLOTS:
             QCOMPARE(packed.path, path + ".gz");
             QVERIFY(!QFileInfo(name + ".gz").isSymLink());
             QCOMPARE(unpacked(path + ".gz"), contents);
-            // Unpackers give the file the name that gzip has noted behind its ten bytes of head.
+            // Unpackers use the name that gzip has stored after its ten bytes of header.
             QCOMPARE(QFile::decodeName(contentsOf(name + ".gz").mid(10).constData()), name);
             QCOMPARE(contentsOf(name) + contentsOf("elsewhere"), QByteArray("another formkept"));
 
@@ -224,7 +224,7 @@ private Q_SLOTS:
     {
         const QString path("/cust/public/reports/a.txt");
         const QByteArray contents = noise(large);
-        // Plain, to be packed, and with no room for the packed one: what cannot be made smaller gets larger.
+        // Plain, to be packed, and without space for the packed one: what cannot be compressed grows.
         for (const auto& [compressed, room, left] : {std::tuple(false, large / 2, QByteArray("old")),
                      std::tuple(true, large / 2, QByteArray("old")), std::tuple(true, large, contents)}) {
             QVERIFY(uiutils::writeReportFile(path, "old", false).ok);
@@ -235,7 +235,7 @@ private Q_SLOTS:
                 file = uiutils::writeReportFile(path, contents, compressed);
             }
             QVERIFY(!file.ok && !file.error.isEmpty());
-            // What does not even fit unpacked is not handed to gzip.
+            // A file that does not fit even unpacked is not passed to gzip.
             QCOMPARE(file.error.contains("gzip"), left == contents);
             QVERIFY(contentsOf("a.txt") == left);
             QCOMPARE(file.path, left == contents ? path : QString());
@@ -275,7 +275,7 @@ private Q_SLOTS:
         add("a.b.txt", 2, 1);
         add("a.txt", 2, 1);
         add("a.pdf.gz", 2, 1);
-        // Users may call a report that, and would miss it.
+        // Users may give a report that name, and would miss it.
         add(".hidden.pdf", 0, 1);
         for (const char* other : {"._b.json", ".uiutils-1.tmp", ".pdf", ".pdf.gz", "a.gz", "a.sor", "pdf", "a.pdf.gz.tmp"})
             add(other, 4, 1);
@@ -307,7 +307,7 @@ private Q_SLOTS:
             QVERIFY(uiutils::reportFiles(none).isEmpty());
     }
 
-    /// The folder's time of change tells; a file that grows in its place does not change it.
+    /// The folder's modification time decides; a file that grows in place does not change it.
     void aFolderIsReadAgainWhenItHasChanged()
     {
         const QString folder("/cust/public/reports/");
@@ -335,11 +335,11 @@ private Q_SLOTS:
             const QString before = sizes(folder);
             QVERIFY(grow("a.pdf"));
             QCOMPARE(sizes(folder) == before, isSure);
-            // Another folder is another matter.
+            // Another folder is independent.
             QCOMPARE(sizes("/cust/public/"), QString());
             QVERIFY(sizes(folder) != before);
         }
-        // A report that may be growing just now: 2 s ago, at a time to come, and before that.
+        // A report that may still be growing: 2 s old, in the future, and older.
         for (const auto& [written, isKept] : {std::pair(2000, false), std::pair(2004, false), std::pair(1999, true)}) {
             const timespec times[]{{written, 0}, {written, 0}};
             QVERIFY(setTime({1008, 7}) && ::utimensat(AT_FDCWD, "a.pdf", times, 0) == 0);
@@ -353,7 +353,7 @@ private Q_SLOTS:
         QCOMPARE(sizes(folder).split(' ').size(), 2);
         QVERIFY(QFile::remove("b.pdf"));
         QCOMPARE(sizes(folder), QString("9"));
-        // The top of a stick has no such time.
+        // The root of a USB drive has no such time.
         QVERIFY(QDir().mkpath(onDisk("/mnt")) && QFile::rename(onDisk("/cust/public/reports"), onDisk("/mnt/usb")));
         kiv::embedded::EmbeddedBackend backend;
         KIVBackend::setCurrent(&backend);
@@ -367,7 +367,7 @@ private Q_SLOTS:
         clockTime.reset();
     }
 
-    void tellsOfTheJob()
+    void describesTheJob()
     {
         QCOMPARE(instrument::jobSummary(), QString());
         kiv::embedded::EmbeddedBackend backend;
@@ -384,7 +384,7 @@ private Q_SLOTS:
         QCOMPARE(instrument::jobSummary(), QString());
     }
 
-    void tellsWhoAndWhat()
+    void namesPeopleAndUnit()
     {
         kiv::embedded::EmbeddedBackend backend;
         QCOMPARE(instrument::technicianName() + instrument::unitId(), QString());
@@ -400,10 +400,10 @@ private Q_SLOTS:
         const QString fits = QString::fromUtf8("<report>Größe</report>");
         const std::tuple<bool, QString, QString, QString> rows[]{{true, "", "<anything/>", ""},
                 {true, "/cust/job.xsd", fits, ""},
-                {true, "/cust/job.xsd", "<other/>", "The report is not what jobs accept: line 1: .*other.*"},
-                {true, "/cust/job.xsd", "", "The report is not what jobs accept: .+"},
+                {true, "/cust/job.xsd", "<other/>", "The report does not match the job schema: line 1: .*other.*"},
+                {true, "/cust/job.xsd", "", "The report does not match the job schema: .+"},
                 {true, "/cust/none.xsd", fits, "The schema /cust/none\\.xsd cannot be used: .+"},
-                {true, "", "refuse", "The job has not taken the report: Job %1 is closed"},
+                {true, "", "refuse", "The job has rejected the report: Job %1 is closed"},
                 {false, "/cust/none.xsd", fits, "There is no active job"}};
         writeFile(onDisk("/cust/job.xsd"),
                 "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'><xs:element name='report' type='xs:string'/>"
@@ -411,7 +411,7 @@ private Q_SLOTS:
         QVERIFY(!uiutils::attachToJob("<report/>", QString(), nullptr));
         kiv::embedded::EmbeddedBackend backend;
         QVERIFY(backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json"));
-        // As the service file says.
+        // As in the service file.
         QVERIFY(uiutils::attachToJob("<report/>", QString(), nullptr));
         kiv::embedded::EmbeddedService* service = backend.service("basemgr");
         QStringList taken;

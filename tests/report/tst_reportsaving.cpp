@@ -9,13 +9,13 @@
 
 namespace {
 
-/// Done when the library makes a file's contents safe, which is after it has looked whether the name is free.
+/// Called when the library syncs a file, which is after it has checked whether the name is free.
 std::function<void()> whileSyncing;
 
-/// How often a folder was to be locked since somebody else holds it.
+/// How many attempts to lock a folder failed because another process holds the lock.
 std::optional<int> attempts;
 
-/// What a save comes to: every virtual, signal, action, notice and dialog, in their order.
+/// The course of a save: every virtual, signal, action, notice and dialog, in order.
 QStringList events;
 
 /// A derived controller that overrides everything.
@@ -87,7 +87,7 @@ public:
     }
 };
 
-/// The process in another time zone.
+/// Runs the process in another time zone.
 class OtherZone
 {
 public:
@@ -107,7 +107,7 @@ private:
 
 } // namespace
 
-/// In place of the C library's.
+/// Replaces the C library's function.
 extern "C" int fsync(int fd)
 {
     struct stat file = {};
@@ -116,7 +116,7 @@ extern "C" int fsync(int fd)
     return int(::syscall(SYS_fsync, fd));
 }
 
-/// The same: another process holds what is to be locked for as long as attempts are counted.
+/// The same: another process holds the lock while attempts are counted.
 extern "C" int flock(int fd, int operation) noexcept
 {
     struct stat file = {};
@@ -128,7 +128,7 @@ extern "C" int flock(int fd, int operation) noexcept
     return -1;
 }
 
-/// What a controller does: saving, asking, telling, handing on.
+/// The operations of a controller: saving, asking, notifying, passing on.
 class ReportSavingTest : public ReportFixture
 {
     Q_OBJECT
@@ -139,7 +139,7 @@ class ReportSavingTest : public ReportFixture
     }
 
 private Q_SLOTS:
-    void aWholeSave()
+    void aCompleteSave()
     {
         writeFile(onDisk("/mnt/usb/a.xml"), "old");
         plug(2);
@@ -162,7 +162,7 @@ private Q_SLOTS:
         connect(&report, &Report::reportOverwriteAccepted, [&] { report.save(true); });
         report.save(false);
         manager()->accept();
-        // Kept by hand: a step a line, in the order that pages and derived controllers rely on.
+        // Kept by hand: one step in each line, in the order that pages and derived controllers rely on.
         const QStringList wanted = QString::fromUtf8(contentsOf(UIUTILS_TEST_DATA_DIR "/report/whole-save.txt"))
                                            .trimmed().split(QRegularExpression(", |\n"));
         for (int i = 0; i < qMin(events.size(), wanted.size()); ++i)
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(report.getOpenReportPath("a.txt"), QString("/cust/public/reports/a.txt"));
         QCOMPARE(report.getOpenReportPath("../reports/a"), QString());
         QCOMPARE(report.unsyncedReports().size(), 5);
-        // The next is of one format, and a stick that is told to be in is where reports are looked for, too.
+        // The next save has one format, and a USB drive that is reported is searched for reports, too.
         QVERIFY(basemgr()->setValue(locationItem, 1));
         report.disconnect();
         report.Report::getSetting("reportFormat")->setValue(1);
@@ -194,7 +194,7 @@ private Q_SLOTS:
 
     void saves()
     {
-        // A format, and what is written where all are offered; of all, none or the first two are.
+        // A format, and what is written where all formats are offered; of all, none or the first two are.
         const std::pair<int, QStringList> rows[]{{0, {"a.pdf"}}, {3, {"a.txt"}}, {4, {"a.json"}}, {3, {"a.txt.gz"}},
                 {5, {"a.pdf", "a.xml"}}, {6, {}}, {5, {}}};
         for (const auto& [format, files] : rows) {
@@ -212,7 +212,7 @@ private Q_SLOTS:
             QCOMPARE(manager()->count(), qMax(1, files.size()));
             QCOMPARE(manager()->currentDialog() != nullptr, files.isEmpty());
             QVERIFY(files.isEmpty() || generated.at(0).at(0).toString() == (format == 5 ? "a" : files.at(0)));
-            // An empty file is what a controller without a text writes.
+            // A controller without a text writes an empty file.
             QVERIFY(files != QStringList("a.txt") || contentsOf(onDisk("/cust/public/reports/f/a.txt")).isEmpty());
         }
     }
@@ -243,7 +243,7 @@ private Q_SLOTS:
     }
     void twoProcessesSaveOneName()
     {
-        // Mine compressed, theirs compressed: the name is the same one then.
+        // Mine compressed, theirs compressed: then both have the same name.
         for (const auto& [mine, theirs] : {std::pair(false, false), std::pair(true, true), std::pair(true, false)}) {
             const QString name = theirs ? "a.txt.gz" : "a.txt";
             Controller report("a", 3);
@@ -261,7 +261,7 @@ private Q_SLOTS:
             QVERIFY(!report.calls.contains("failed"));
             QVERIFY(QDir(onDisk("/cust/public/reports")).removeRecursively());
         }
-        // One that comes to the stick while the copy is written stays there.
+        // A file that appears on the USB drive while the copy is written stays.
         plug(2);
         Controller report("a", 3);
         const std::function<void()> whileCopying = [&] {
@@ -310,7 +310,7 @@ private Q_SLOTS:
         QCOMPARE(first.calls.count("declined"), 0);
     }
 
-    void failuresAreTold()
+    void failuresAreReported()
     {
         for (const auto& [obstacle, filesLeft] : {std::pair("folder", 1), std::pair("file in the way", 0), std::pair("no pages", 0)}) {
             Controller report("a", obstacle == QByteArray("no pages") ? 0 : 3);
@@ -331,14 +331,14 @@ private Q_SLOTS:
         }
     }
 
-    void namesOfNoFileAreRefused()
+    void namesOfNoFileAreRejected()
     {
-        const QVector<std::pair<QString, QString>> rows{{"..", "\"..\" is no name of a file."},
-                {"../../x", "The name may not have \"/\" in it."},
-                {QString("a") + QChar(QChar::Null) + "b", "The name may not have a NUL character in it."},
-                {QString(249, 'x'), "The name may have 248 characters, it has 249."},
-                {QString(86, QChar(0xe01)), "The name may have 82 characters, it has 86."},
-                {QString(16'000, 'x'), "The name may have 248 characters, it has 16000."}, {QString(248, 'x'), ""},
+        const QVector<std::pair<QString, QString>> rows{{"..", "\"..\" is not a file name."},
+                {"../../x", "The name must not contain \"/\"."},
+                {QString("a") + QChar(QChar::Null) + "b", "The name must not contain a NUL character."},
+                {QString(249, 'x'), "The name has 249 characters; the maximum is 248."},
+                {QString(86, QChar(0xe01)), "The name has 86 characters; the maximum is 82."},
+                {QString(16'000, 'x'), "The name has 16000 characters; the maximum is 248."}, {QString(248, 'x'), ""},
                 {QString(244, 'x') + ".txt", ""}, {QString("e") + QChar(0x301) + QString(246, 'x'), ""}};
         for (const auto& [name, problem] : rows) {
             const bool isSaved = problem.isEmpty();
@@ -346,14 +346,14 @@ private Q_SLOTS:
             report.setFolder("f");
             report.setCompressionEnabled(true);
             QCOMPARE(report.save(), isSaved);
-            // Before a folder is made.
+            // Before a folder is created.
             QCOMPARE(QFile::exists(onDisk("/cust/public/reports/f")), isSaved);
             QVERIFY(QDir(onDisk("/cust/public/reports/f")).removeRecursively());
             QCOMPARE(dialogText(), problem);
         }
     }
 
-    void recordsTellOfReports()
+    void recordsDescribeReports()
     {
         const OtherZone zone("Australia/Adelaide");
         QVERIFY(m_backend->loadFile(UIUTILS_SERVICES_DIR "/workflow_manager_app.service.json"));
@@ -377,12 +377,12 @@ private Q_SLOTS:
         QCOMPARE(record["info"].toObject(),
                 QJsonObject({{"wo", "WO-88213"}, {"workflowId", "ethernet-turn-up"}, {"jobId", "WO-88213"},
                         {"testType", "otdr"}, {"testLabel", "None"}}));
-        // A record of yesterday's job would tell of the wrong one.
+        // A metadata record of yesterday's job would describe the wrong one.
         QVERIFY(basemgr()->setValue(activeItem, false));
         QVERIFY(m_backend->withdraw("orb.base.workflow_manager_app"));
         QVERIFY(report.save(true));
         QVERIFY(contentsOf(onDisk(folder + "a.txt.metadata")).contains("\"info\": {\n    }"));
-        // One that cannot be written hinders nothing.
+        // A record that cannot be written blocks nothing.
         QVERIFY(QDir(onDisk("/cust/private/reports")).removeRecursively());
         writeFile(onDisk("/cust/private/reports"), "no folder");
         QVERIFY(report.save(true) && !manager()->currentDialog());
@@ -400,7 +400,7 @@ private Q_SLOTS:
             uiutils::describeReport(&record, "/cust/public/reports/a.pdf", "PDF",
                     QDateTime::fromString(moment, Qt::ISODate).toLocalTime());
             QCOMPARE(record.timeStamp(), QString(stamp));
-            // So have the names that are proposed; a minute may end in between.
+            // So have the proposed names; a minute may end in between.
             const auto minute = [] { return QDateTime::currentDateTime().toString("_ddMMyyhhmm"); };
             const QString before = minute();
             const QString proposed = Report().proposedFileName().chopped(2);
@@ -424,10 +424,10 @@ private Q_SLOTS:
         QVERIFY(!manager()->currentDialog());
         QCOMPARE(generated.count(), 0);
         QVERIFY(!report.isSaving());
-        // What is written is kept from the cloud all the same, and the next save is not cancelled.
+        // What is written is added to the no-sync list all the same, and the next save is not cancelled.
         QVERIFY(contentsOf(listFile()).contains("a.xml"));
         QVERIFY(report.save(true));
-        // Behind the last one there is nothing left to cancel.
+        // After the last file there is nothing to cancel.
         report.disconnect(&report);
         connect(&report, &Report::progressChanged, &report, [&] {
             if (report.getProgress() == 1)
@@ -442,7 +442,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(onDisk("/cust/public/reports/b.txt")));
         QVERIFY(!manager()->currentDialog());
     }
-    void aSaveTellsTheNameThatItBeganWith()
+    void aSaveReportsTheNameThatItBeganWith()
     {
         Controller report("a", 5);
         QSignalSpy generated(&report, &Report::reportGenerated);
@@ -450,7 +450,7 @@ private Q_SLOTS:
         QVERIFY(report.save());
         QCOMPARE(generated, QList<QVariantList>{{QString("a")}});
     }
-    void pagesTellHowFarTheyAre()
+    void pagesReportTheirProgress()
     {
         Report report;
         ReportTemplate* document = &report.document();
@@ -474,7 +474,7 @@ private Q_SLOTS:
         QVERIFY(!report.save(true));
         QVERIFY(!manager()->currentDialog());
         QCOMPARE(contentsOf(onDisk("/cust/public/reports/a.pdf")), before);
-        // While the page lives on, it may take the controller along.
+        // While the page stays alive, it may delete the controller.
         report.disconnect();
         const QPointer<Report> dying(new Report);
         dying->document().adopt(*document);
@@ -492,7 +492,7 @@ private Q_SLOTS:
         QSignalSpy accepted(&report, &Report::reportOverwriteAccepted);
         report.getSetting("reportName")->setValue("b");
         QVERIFY(report.save());
-        // An answer now would have "b" overwritten, which nobody has asked about.
+        // An answer now would overwrite "b", about which nobody was asked.
         QVERIFY(!manager()->currentDialog());
         manager()->accept();
         QCOMPARE(accepted.count(), 0);
@@ -517,7 +517,7 @@ private Q_SLOTS:
         QVERIFY(!report.save());
         QCOMPARE(names("/cust/public/reports"), QStringList("a.txt"));
         QVERIFY(report.save(true));
-        // The compressed one counts as long as reports are compressed.
+        // The compressed one counts while reports are compressed.
         QVERIFY(!report.save());
         QCOMPARE(names("/cust/public/reports"), QStringList("a.txt.gz"));
         QCOMPARE(names("/cust/private/reports/metadata"), QStringList("a.txt.gz.metadata"));
@@ -543,7 +543,7 @@ private Q_SLOTS:
         QCOMPARE(files.count(), 1);
         QVERIFY(contentsOf(listFile()).contains("/cust/public/reports/b.txt\n"));
     }
-    /// What follows is saved: "+" not to be synced, "-" to be synced. "!" takes the file away.
+    /// The steps: "+" saves without sync, "-" with sync. "!" removes the file.
     void theNoSyncListHasWhatIsNotSynced()
     {
         const std::pair<const char*, const char*> rows[]{{"+a.pdf", "a.pdf a.json"}, {"+a.pdf -a.pdf", ""},
@@ -569,7 +569,7 @@ private Q_SLOTS:
         }
         report.writeNoSyncListToFile({"/1", "/2", "/1"});
         QCOMPARE(contentsOf(listFile()), QByteArray("/1\n/2\n"));
-        // The base manager hears of a list that others have made.
+        // The base manager is notified of a list that others have made.
         writeFile(listFile(), "/1\n/2\n/3.pdf\n/3.json\n");
         report.addReportToNoSyncList("/3.pdf");
         QCOMPARE(noSyncItem().size(), 4);
@@ -578,11 +578,11 @@ private Q_SLOTS:
     {
         Controller report("a", 3);
         QVERIFY(QDir().mkpath(listFile() + "/x"));
-        // The report is safe; that it may be synced the user has to know.
+        // The report is safe; the user must know that it may be synced.
         QVERIFY(report.save());
         QCOMPARE(dialogTitle(), QString("Sync"));
         manager()->accept();
-        // A page that goes when its reports are saved takes the dialog along; two reports are one mishap.
+        // A page that is deleted when its reports are saved takes the dialog with it; two reports are one failure.
         manager()->clear();
         {
             Controller leaving("b", 5);
@@ -592,7 +592,7 @@ private Q_SLOTS:
         QVERIFY(!manager()->currentDialog());
         QCOMPARE(manager()->count(), 1);
         QVERIFY(QDir(listFile()).removeRecursively());
-        // One that has 1 MiB is full, a larger one is none that was written here.
+        // A list of 1 MiB is full; a larger one was not written here.
         QByteArray full("/cust/public/caf\xe9\n\n/x\n/x\n");
         const QByteArray small = full;
         full.append(QByteArray(1024 * 1024 - full.size() - 1, 'x') + '\n');
@@ -606,7 +606,7 @@ private Q_SLOTS:
         report.removeReportFromNoSyncList("/x");
         QCOMPARE(contentsOf(listFile()), full + '\n');
         manager()->accept();
-        // What takes its place needs nothing of it, and is the way out.
+        // A save that replaces it needs none of it, and solves the problem.
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Cannot read .*nosync.*: it has more than 1 MiB; it is replaced$"));
         report.writeNoSyncListToFile({"/z"});
         QCOMPARE(contentsOf(listFile()), QByteArray("/z\n"));
@@ -623,7 +623,7 @@ private Q_SLOTS:
         Controller report("a", 5);
         attempts = 0;
         QVERIFY(report.save());
-        // Every half of a millisecond, for half a second.
+        // Every half millisecond, for half a second.
         QVERIFY2(*attempts > 1 && *attempts <= 1001, qPrintable(QString::number(*attempts)));
         attempts.reset();
         QVERIFY(dialogText().contains("a.pdf, Internal:/reports/a.xml"));
@@ -681,7 +681,7 @@ private Q_SLOTS:
                 QVERIFY2(report.generateHtmlReport().contains(text) == isOn, name);
             }
         }
-        // The XML report has the customer, and the job's has neither that nor the revisions.
+        // The XML report has the customer; the job's report has neither that nor the revisions.
         for (const bool isOn : {true, false}) {
             report.setIncludeCustomerInfo(isOn);
             QCOMPARE(report.generateXmlReport().contains("<CustomerInformation>"), isOn);

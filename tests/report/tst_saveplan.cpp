@@ -8,16 +8,16 @@
 using uiutils::Consent;
 using uiutils::ReportDestinations;
 
-/// What a save works out before it writes: as values, without a controller.
+/// What a save determines before it writes: as values, without a controller.
 class SavePlanTest : public QObject
 {
     Q_OBJECT
 
-    static uiutils::ReportFormats formats(const QVector<int>& values)
+    static uiutils::FormatInfos formats(const QVector<int>& values)
     {
-        uiutils::ReportFormats list;
+        uiutils::FormatInfos list;
         for (int value : values)
-            list += uiutils::reportFormat(value);
+            list += uiutils::formatInfo(value);
         return list;
     }
 
@@ -30,7 +30,7 @@ private Q_SLOTS:
         };
         uiutils::SavePlan plan;
         plan.files = uiutils::plannedFiles("a", formats({0, 3}), true, inFolder("/cust/public/reports/f/"));
-        // The folder is asked for once a file, whoever wants to know where that goes.
+        // The folder is requested once for each file, however often its path is needed.
         QCOMPARE(plan.paths(false), QStringList({"/cust/public/reports/f/a.pdf", "/cust/public/reports/f/a.txt"}));
         QCOMPARE(plan.paths(true).join(' '),
                 QString("/cust/public/reports/f/a.pdf /mnt/usb/a.pdf /cust/public/reports/f/a.txt /mnt/usb/a.txt"));
@@ -67,12 +67,12 @@ private Q_SLOTS:
             consent.lookAt(paths);
             return consent.unasked(paths);
         };
-        // Nobody has let go of anything; who overwrites lets go of what the save has looked at.
+        // Nobody has agreed to anything; a caller who overwrites agrees to what the save has looked at.
         QCOMPARE(saves(false, {"a", "b"}), QStringList({"a", "b"}));
         QVERIFY(saves(true, {"a", "b"}).isEmpty() && consent.allows("a") && !consent.allows("c") && !consent.destinations());
         consent.end();
         QVERIFY(!consent.allows("a"));
-        // A yes is for the files of the question and what was looked at with them, where they lay, and for one save.
+        // A yes covers the files of the question and those looked at with them, at their paths, and one save.
         saves(false, {"a", "b"});
         consent.ask(there, {"late"});
         consent.end();
@@ -81,12 +81,12 @@ private Q_SLOTS:
         QCOMPARE(saves(true, {"a", "b", "late", "other"}), QStringList("other"));
         QCOMPARE(consent.destinations()->location, int(uiutils::SaveOnUsb));
         QVERIFY(saves(true, {"other"}).isEmpty() && !consent.destinations());
-        // A save that does not overwrite has not come because of the yes, and takes it away.
+        // A save that does not overwrite was not started by the yes, and cancels it.
         consent.ask(there, {"a"});
         consent.agree();
         QCOMPARE(saves(false, {"a"}), QStringList("a"));
         QVERIFY(saves(true, {"a"}).isEmpty() && !consent.destinations());
-        // Nor does one that comes after a writer alone has used it.
+        // Nor was one that comes after a writer that was called directly has used it.
         consent.ask(there, {"a"});
         consent.agree();
         consent.takeUp("b");

@@ -38,11 +38,11 @@ QMap<QString, QByteArray> snapshot(const QString& folder)
     return files;
 }
 
-/// What a reader that knows nothing of this library has against the file; empty for nothing.
+/// The errors that an independent reader finds in the file; empty for none.
 QString complaintOf(const QString& reader, const QStringList& arguments)
 {
     const QString said = outputOf(reader, arguments);
-    // That is tidy's, with warnings that it was told to keep to itself.
+    // Status 1 is tidy's, with warnings that are suppressed.
     return said.startsWith("status") && said != "status 1\n" ? said.left(2000) : QString();
 }
 
@@ -57,7 +57,7 @@ private Q_SLOTS:
 
     void init()
     {
-        // Paths are those of the desk, also where an instrument has its plots.
+        // Paths are those of the desktop, even where an instrument has its plots.
         m_folder = std::make_unique<QTemporaryDir>("/tmp/rep_plot_XXXXXX");
         m_scratch = std::make_unique<QTemporaryDir>();
         QVERIFY(m_folder->isValid() && m_scratch->isValid());
@@ -179,7 +179,7 @@ private Q_SLOTS:
         QVERIFY(run("pdfinfo", {"wide.pdf"}).contains("792 x 612"));
     }
 
-    /// The old file stays, and nothing lies beside it.
+    /// The old file stays, and nothing is left beside it.
     void interruptedPages()
     {
         QByteArray rows;
@@ -214,7 +214,7 @@ private Q_SLOTS:
         QCOMPARE(namesIn(m_folder->path()), QStringList({"long.json", "long.pdf"}));
     }
 
-    /// Neither the locale nor a display that does not answer matters, nor a name that looks like an option.
+    /// No effect of the locale, of a display that does not answer, or of a name that looks like an option.
     void hostileEnvironment()
     {
         m_environment.insert("LC_ALL", "C");
@@ -263,12 +263,12 @@ private Q_SLOTS:
         QTest::newRow("root") << QString("{}") << ": warning: .*: /: " << 0;
         QTest::newRow("section") << R"({"node_type": "report", "tag": "", "section_0": {"node_type": 1}})"
                                  << ": warning: .*: /section_0" << 0;
-        // moc does not read on after a backslash in a raw string.
+        // moc does not continue after a backslash in a raw string.
         QTest::newRow("terminal's controls")
                 << "{\"node_type\": \"report\", \"tag\": \"\", \"attr_\\u001b[2J\\n\": 1}"
                 << ": /attr_\uFFFD\\[2J\uFFFD: " << 0;
     }
-    /// The same from a file and from standard input, but for the name.
+    /// The same from a file and from standard input, except for the name.
     void documentFaults()
     {
         const auto [text, place, exitCode] = currentRow<QString, QString, int>();
@@ -286,20 +286,20 @@ private Q_SLOTS:
         }
     }
 
-    void refusedCalls_data()
+    void rejectedCalls_data()
     {
         addColumns<QString, QString>();
-        for (const QStringList& row : tableIn("/refused/commandlines.txt"))
+        for (const QStringList& row : tableIn("/rejected/commandlines.txt"))
             QTest::newRow(qPrintable(row.at(0))) << row.at(0) << row.at(1);
     }
-    /// Each ends with exit status 2 and one line that names the trouble, and leaves the disk as it was.
-    void refusedCalls()
+    /// Each ends with exit status 2 and one line with the error, and leaves the disk unchanged.
+    void rejectedCalls()
     {
         const auto [arguments, words] = currentRow<QString, QString>();
         QVERIFY(QDir(m_folder->path()).mkdir("sub") && QFile::link(m_folder->path(), path("link")));
         for (const char* name : {"a.json", "sub/a.json", "sub/b.json"})
             writeFile(path(name), smallDocument);
-        // The head of 9,000 by 9,000 pixels.
+        // The header of 9,000 by 9,000 pixels.
         writeFile(path("huge.bmp"), QByteArray::fromHex("424d00000000000000003600000028000000282300002823000001002000")
                         + QByteArray(24, '\0'));
         const auto before = snapshot(m_folder->path());
@@ -315,11 +315,10 @@ private Q_SLOTS:
     void failures_data()
     {
         addColumns<QString, QString>();
-        for (const QStringList& row : tableIn("/refused/runs.txt"))
+        for (const QStringList& row : tableIn("/rejected/runs.txt"))
             QTest::newRow(qPrintable(row.at(0))) << row.at(0) << row.at(1);
     }
-    /// Each ends with exit status 1 and a sentence that says what is in the way, and leaves the disk as it
-    /// was.
+    /// Each ends with exit status 1 and a sentence with the error, and leaves the disk unchanged.
     void failures()
     {
         const auto [line, words] = currentRow<QString, QString>();
@@ -344,7 +343,7 @@ private Q_SLOTS:
         QTest::newRow("terminal gone") << SIGHUP << "" << 128 + SIGHUP;
         QTest::newRow("ignored by the caller") << SIGHUP << "trap '' HUP;" << 1;
     }
-    /// The message about the first document tells that the program is running; then it waits for the second.
+    /// The message about the first document shows that the program is running; then it waits for the second.
     void signalBetweenDocuments()
     {
         const auto [signal, trap, exitCode] = currentRow<int, QString, int>();
@@ -367,7 +366,7 @@ private Q_SLOTS:
                 trap.isEmpty() ? QStringList() : QStringList({"c.html", "report.html"}));
     }
 
-    /// The next run takes away what one left that could not do so itself.
+    /// The next run removes what a killed one left.
     void killed()
     {
         writeFile(path("c.json"), smallDocument);
@@ -389,12 +388,12 @@ private Q_SLOTS:
         const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
         const bool isUsable = ::grantpt(terminal) == 0 && ::unlockpt(terminal) == 0;
         const QByteArray name = isUsable ? ::ptsname(terminal) : "";
-        // What was written is lost when nobody holds the other end.
+        // Written data is lost when nobody holds the other end.
         const int otherEnd = ::open(name.constData(), O_RDWR | O_NOCTTY);
         if (otherEnd < 0)
             QSKIP("This machine has no terminal to give.");
         QCOMPARE(runLine(line + " 2>" + name).exitCode, 0);
-        // The terminal hands on what was written in its own time, and in pieces.
+        // The terminal passes the data on in its own time, and in pieces.
         const QByteArray cleared = "\r\033[K";
         // Five files and the document, two steps of one page, and the end.
         const int clearedTimes = 8;
@@ -418,7 +417,7 @@ private Q_SLOTS:
             QVERIFY2(line.size() <= 80, line);
     }
 
-    /// What is completed is what the program knows.
+    /// The completion offers what the program knows.
     void completion()
     {
         QCOMPARE(complaintOf("bash", {"-n", completionScript}), QString());
@@ -474,7 +473,7 @@ private:
         return run(process, "bash", {"-c", line, program});
     }
 
-    /// What another program prints.
+    /// The output of another program.
     QString run(const char* other, const QStringList& arguments)
     {
         QProcess process;
@@ -487,7 +486,7 @@ private:
         return run(process, program, arguments, input);
     }
 
-    /// What the completion offers for the last word of a line, words apart by single blanks.
+    /// The completions of the last word of a line, separated by single blanks.
     QStringList complete(const QString& line)
     {
         QProcess process;

@@ -1,4 +1,4 @@
-"""Who includes whom: every include of the tree, resolved to a file as a compiler would, and what can be read from that."""
+"""The include graph: every include of the tree, resolved to a file as a compiler does it, with its units and circles."""
 
 import collections
 import functools
@@ -8,11 +8,11 @@ import re
 SOURCES = (".h", ".hh", ".hpp", ".inc", ".ipp", ".c", ".cc", ".cpp", ".cxx")
 HEADERS = SOURCES[:5]
 
-# Where the targets of the tree look for headers, whichever target it is: what one of them cannot reach by its name is still
-# an arrow when it is written down.
+# The include folders of all targets of the tree together: an include that a target cannot resolve is still an arrow when it
+# is written.
 INCLUDE_ROOTS = ("", "lib/ui_utils", "platform/contract", "platform/reference", "platform/reference/embedded", "apps",
                  "apps/demo", "apps/pdf_viewer", "tests")
-# The first words of headers that bear our names in angle brackets.
+# The first words of our headers in angle brackets.
 OUR_FOLDERS = {"base", "common", "embedded", "formatters", "kiv", "uiutils"}
 
 TOKEN = re.compile(r'//(?:[^\\\n]|\\.)*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])*\'', re.DOTALL)
@@ -26,7 +26,7 @@ Fault = collections.namedtuple("Fault", "source line text")
 
 
 def read_tree(root):
-    """The texts of all sources and pages and of what says which headers are installed, by path."""
+    """The texts, by path, of all sources and pages, and of the files that list installed headers."""
     texts = {}
     for folder, folders, names in os.walk(root):
         here = os.path.relpath(folder, root)
@@ -39,7 +39,7 @@ def read_tree(root):
 
 
 def without_comments(text):
-    """The same lines without what the compiler does not read."""
+    """The same lines without the parts that the compiler does not read."""
     def kept(match):
         token = match.group()
         return token if token[0] in "\"'" else "\n" * token.count("\n") or " "
@@ -58,20 +58,20 @@ def includes_of(text):
 
 
 def our_imports(text):
-    """The lines and names of the modules of ours that a page imports."""
+    """The lines and names of our modules that a page imports."""
     code = without_comments(text)
     return [(code.count("\n", 0, match.start()) + 1, match.group(1))
             for match in re.finditer(r"^[ \t]*import[ \t]+(UiUtils\b[\w.]*)", code, re.MULTILINE)]
 
 
 def stem_of(path):
-    """Of x.h, x.cpp and x_p.h the same."""
+    """The same for x.h, x.cpp and x_p.h."""
     stem = os.path.splitext(path)[0]
     return stem[:-2] if stem.endswith("_p") else stem
 
 
 class Graph:
-    """The arrows of a tree. `texts` is what read_tree() returns, or that with something else written over it."""
+    """The arrows of a tree. `texts` is the result of read_tree(), which a test may have changed."""
 
     def __init__(self, texts):
         self.texts = {path: text for path, text in texts.items() if path.endswith(SOURCES)}
@@ -110,8 +110,8 @@ class Graph:
         return not include.name.endswith(".moc")
 
     def units(self):
-        """The unit of every file. A header and its source are one; so is a source without a header that goes on with a class:
-        it includes the class's header first and begins with its name."""
+        """The unit of every file. A header and its source are one unit. A source without a header that continues a class
+        belongs to it: it includes the class's header first, and its name begins with the class's."""
         units = {path: stem_of(path) for path in self.texts}
         of_headers = {units[path] for path in self.texts if path.endswith(HEADERS)}
         first = {}
@@ -125,7 +125,7 @@ class Graph:
 
 
 def installed_headers(texts):
-    """As the rooms' CMakeLists.txt have it: what is listed behind PUBLIC in a room, or as a library's headers."""
+    """As in the rooms' CMakeLists.txt: the headers after PUBLIC in a room, or those of a library."""
     headers = set()
     for path, text in texts.items():
         if os.path.basename(path) != "CMakeLists.txt":
@@ -137,7 +137,7 @@ def installed_headers(texts):
 
 
 def circles_of(pairs):
-    """The sets of nodes that lead to each other, or of one that leads to itself, in the order of their names."""
+    """The sets of nodes that reach each other, or of one that reaches itself, in the order of their names."""
     onward = collections.defaultdict(set)
     for begin, end in pairs:
         onward[begin].add(end)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Holds the includes of the tree against its rooms. Usage: includerule.py TREE"""
+"""Checks the includes of the tree against its rooms. Usage: includerule.py TREE"""
 
 import collections
 import os
@@ -9,8 +9,8 @@ sys.dont_write_bytecode = True
 import includegraph  # noqa: E402
 from includegraph import HEADERS, Fault  # noqa: E402
 
-# Every room, the lower ones first: what it is called here, its folder, what it may include beside itself. What a header brings
-# along counts too.
+# Every room, the lower ones first: its name here, its folder, what it may include besides itself. What an included header
+# includes counts too.
 ROOMS = """
 base        base                            -
 contract    platform/contract/kiv           -
@@ -19,18 +19,18 @@ embedded    platform/reference/embedded     base contract formatters
 
 core        lib/ui_utils/core               base
 service     lib/ui_utils/service            base contract core
-instrument  lib/ui_utils/instrument         base contract core service
+instrument  lib/ui_utils/instrument         base contract core
 document    lib/ui_utils/document           base contract core
 local       lib/ui_utils/local              base contract core service
-files       lib/ui_utils/files              base contract core service instrument document
+files       lib/ui_utils/files              base contract core instrument document
 plots       lib/ui_utils/writers/plots      base contract core
 pdffile     lib/ui_utils/writers/pdffile    base core
 pages       lib/ui_utils/writers/pages      base core pdffile
-text        lib/ui_utils/writers/text       base contract core service instrument document plots
-html        lib/ui_utils/writers/html       base contract core service instrument document plots pdffile pages text
-xml         lib/ui_utils/templ2xmlwriter    base contract core service instrument document
+text        lib/ui_utils/writers/text       base contract core instrument document plots
+html        lib/ui_utils/writers/html       base contract core instrument document plots pages text
+xml         lib/ui_utils/templ2xmlwriter    base contract core instrument document
 report      lib/ui_utils/report             base contract core service instrument document local files WRITERS saving
-saving      lib/ui_utils/report/saving      base contract core service instrument document local files WRITERS report
+saving      lib/ui_utils/report/saving      base contract core instrument document files report
 module      lib/ui_utils/module             base contract LIBRARY
 
 plugin      qml/UiUtils                     LIBRARY base contract
@@ -43,22 +43,22 @@ benchmarks  benchmarks                      LIBRARY base contract embedded
 """
 GROUPS = {"WRITERS": "plots pdffile pages text html xml",
           "LIBRARY": "core service instrument document local files plots pdffile pages text html xml report saving module"}
-# The modules of ours that pages may import.
+# Our modules that pages may import.
 PAGES = {"apps/common/qml": [], "apps/pdf_viewer/qml": ["UiUtils.Viewer"], "qml/UiUtils/Controls": ["UiUtils", "UiUtils.Controls"],
          "apps/demo/qml": ["UiUtils", "UiUtils.Controls", "UiUtils.Demo"]}
-# Tests look into everything, and nothing looks into them.
+# Tests may include everything, and nothing may include them.
 TESTS = "tests/"
 # The folders of libraries. A header there ends in _p.h unless it is installed.
 LIBRARIES = ("base/", "lib/", "platform/")
-# Programs of the tree that are no guests of the library: who else uses a header that is not installed is an exception below.
-# What lies in base is for programs too, but not for the demo, which shows what can be made of an installed library.
+# Programs of the tree that may use headers that are not installed; every other use is an exception below.
+# Programs may use base too, but not the demo, which shows what can be built on an installed library.
 INSIDERS = {"benchmarks"}
 GUESTS_OF_BASE = {"demo"}
 LARGEST_CIRCLE = 3
 
-# Arrows that stand against the rule for now, with the reason why. The list may only shrink.
+# Arrows that break the rule at present, with the reason. The list may only shrink.
 EXCEPTIONS = """
-# The demo and the tools build inside of the tree.
+# The demo and the tools are built inside the tree.
 apps/demo/instrumentroot.cpp -> base/durablefile_p.h
 apps/demo/instrumentroot.cpp -> base/paths_p.h
 apps/demo/loopbackreport.cpp -> base/paths_p.h
@@ -74,10 +74,6 @@ apps/demo/tour.cpp -> base/durablefile_p.h
 apps/demo/usbstick.cpp -> base/paths_p.h
 apps/demo/usbstick.cpp -> lib/ui_utils/core/itemids_p.h
 apps/reportconvert/conversion.cpp -> platform/reference/embedded/jsonschema_p.h
-
-# A wrapper asks the manifest that its constructor takes, and the manifest makes wrappers of every kind.
-lib/ui_utils/service/kivdata.cpp -> lib/ui_utils/service/manifest_p.h
-lib/ui_utils/service/kivdatavalue.cpp -> lib/ui_utils/service/manifest.h
 """
 
 Room = collections.namedtuple("Room", "name allowed")
@@ -92,13 +88,13 @@ def parse_rooms(table):
 
 
 def parse_exceptions(table):
-    """A line "source -> target" each; lines that begin with # say why."""
+    """One line "source -> target" for each; lines that begin with # give the reason."""
     lines = [line.strip() for line in table.splitlines()]
     return [tuple(line.split(" -> ")) for line in lines if line and not line.startswith("#")]
 
 
 class Rule:
-    """What stands against the rule in the texts of a tree, see includegraph.read_tree()."""
+    """The violations in the texts of a tree, see includegraph.read_tree()."""
 
     def __init__(self, texts, exceptions=None):
         self.graph = includegraph.Graph(texts)
@@ -115,7 +111,7 @@ class Rule:
     # --- Rooms ---
 
     def room(self, path):
-        """The room's name; the folder where there is none."""
+        """The room's name; the folder of a file without a room."""
         if path.startswith(TESTS):
             return "tests"
         folder = os.path.dirname(path)
@@ -125,7 +121,7 @@ class Rule:
         if source.startswith(TESTS):
             return True
         room = self.rooms.get(os.path.dirname(source))
-        # Who has no room is told once, and not for each include.
+        # A file without a room is reported once, and not for each include.
         return not room or self.room(target) in room.allowed
 
     def strangers(self):
@@ -156,7 +152,7 @@ class Rule:
         return f"{self.room(arrow.source)} must not include {arrow.target}, which is not installed"
 
     def reached_files(self):
-        """What every file brings along, with the file that includes it. What is forbidden is told where it stands."""
+        """What every file includes, directly or not, with the including file. A forbidden include is reported at its own place."""
         onward = collections.defaultdict(list)
         for arrow in self.arrows:
             if self.may(arrow.source, arrow.target):
@@ -218,7 +214,7 @@ class Rule:
 
     @staticmethod
     def told(circle, arrows, node, text):
-        """At the first include of the circle; all of them behind the text."""
+        """Reported at the first include of the circle; all of them follow the text."""
         inside = [arrow for arrow in arrows if node(arrow.source) in circle and node(arrow.target) in circle]
         return Fault(inside[0].source, inside[0].line,
                      text + "".join(f"\n    {arrow.source}:{arrow.line}: {arrow.target}" for arrow in inside))

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Plants what the include rule forbids, one thing at a time over the texts of the tree, and looks whether it is told where it
-stands. What is forbidden is written down here by hand, not taken from the rule. Usage: includeruletest.py TREE"""
+"""Plants each violation of the include rule, one at a time, in the texts of the tree, and checks that it is reported at its
+place. The forbidden includes are written down here by hand, not taken from the rule. Usage: includeruletest.py TREE"""
 
 import os
 import sys
@@ -36,7 +36,7 @@ GROUPS = {
     "LIBRARY": "core service instrument document local files WRITERS report saving module",
     "PROGRAMS": "plugin common viewer demo convert qmlviewer benchmarks tests",
 }
-# The rooms, and behind each what it must not know: what stands beside and above it.
+# The rooms, and after each the rooms that it must not include: those beside and above it.
 FORBIDDEN = """
 base        contract REFERENCE LIBRARY PROGRAMS
 contract    base REFERENCE LIBRARY PROGRAMS
@@ -83,7 +83,7 @@ def faults(changes, exceptions=None):
 
 
 def spelt(path):
-    """As an include of the tree would name the file."""
+    """The name of the file in an include of the tree."""
     for root in ("lib/ui_utils/", "platform/contract/", "platform/reference/", "apps/"):
         if path.startswith(root):
             return path[len(root):]
@@ -158,7 +158,7 @@ class Planted(unittest.TestCase):
         self.assert_told(one, 2, "headers include each other", {one: including(one)})
 
     def circle(self, *stems):
-        """Of units: each source includes the next one's header."""
+        """A circle of units: each source includes the next one's header."""
         changes = {}
         for stem, following in zip(stems, stems[1:] + stems[:1]):
             changes[f"{stem}_p.h"] = ""
@@ -195,7 +195,7 @@ class Planted(unittest.TestCase):
             self.assert_told(source, 2, "is no file of the tree", {source: f"\n#include {include}\n"})
 
     def test_spellings(self):
-        """Without the rest of the tree, which has nothing to say to that."""
+        """Without the rest of the tree, which has no effect here."""
         source, target, report = "base/planted.cpp", "lib/ui_utils/core/planted_p.h", "lib/ui_utils/report/report.h"
         cmake = {report: "", "lib/ui_utils/report/CMakeLists.txt": "uiutils_room(PUBLIC report.h PRIVATE report.cpp)"}
         for include in ('#include<core/planted_p.h>', '  #  include"core/planted_p.h"', '#include /* core */ "core/planted_p.h"',
@@ -207,7 +207,7 @@ class Planted(unittest.TestCase):
         for text in ('/*\n#include "core/planted_p.h"\n*/', '// #include "core/planted_p.h"', 'auto text = "#include <core/planted_p.h>";',
                      '#include "planted.moc"', "#include <QString>\n#include <sys/stat.h>\n#include <private/qmetaobject_p.h>"):
             self.assertEqual(includerule.Rule({source: text, target: ""}, []).faults(), [])
-        # A file of the same folder comes before one of another with that name.
+        # A file in the same folder has priority over one with that name in another folder.
         same = {source: '#include "planted_p.h"', "base/planted_p.h": "", "platform/reference/embedded/planted_p.h": ""}
         self.assertEqual(includerule.Rule(same, []).faults(), [])
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Prints the measures of the tree: functions, files, includes, circles. Usage: measure.py TREE
+"""Prints measures of the tree: functions, files, includes, circles. Usage: measure.py TREE
 
-A function's length is its lines of code, without blanks, comments and the lines of its outer braces; one that stands in a line
-has 1. Lambdas count with the function around them. Functions are found by their braces, so what macros hide is not counted.
+A function's length is its lines of code, without blank lines, comments and the lines of its outer braces; a function on one
+line has 1. Lambdas count with the function around them. Functions are found by their braces, so that macros hide some.
 """
 
 import os
@@ -15,14 +15,15 @@ import includegraph  # noqa: E402
 import includerule  # noqa: E402
 
 LITERAL = re.compile(r'"(?:\\.|[^"\\\n])*"|(?<![0-9A-Fa-f])\'(?:\\.|[^\'\\\n])*\'')
-# What stands before a brace that opens no function.
+RAW_LITERAL = re.compile(r'R"(\w*)\(.*?\)\1"', re.DOTALL)
+# What precedes a brace that does not open a function.
 NO_FUNCTION = re.compile(r"(?:^|[^\w])(?:namespace|class|struct|union|enum|extern)\b[^()]*$|[=,]\s*$|^\s*$")
 INITIALIZER = re.compile(r"[)\s]:[^:].*[\w>]\s*$", re.DOTALL)
 
 
 def plain(text):
-    """Code alone, in which a brace is a brace."""
-    code = LITERAL.sub('""', includegraph.without_comments(text))
+    """The code without comments and texts, so that every brace counts."""
+    code = LITERAL.sub('""', RAW_LITERAL.sub('""', includegraph.without_comments(text)))
     return re.sub(r"^[ \t]*#(?:.*\\\n)*.*$", "", code, flags=re.MULTILINE)
 
 
@@ -45,7 +46,7 @@ def functions(text):
             if "(" not in before or NO_FUNCTION.search(before):
                 begin = at + 1
             elif INITIALIZER.search(before) and not re.search(r"\b(const|noexcept|override|final)\s*$", before):
-                # A member's initial value: the body is still to come.
+                # A member's initial value: the body follows.
                 at = end
             else:
                 lines = [line for line in code[at + 1:end].split("\n") if line.strip()]

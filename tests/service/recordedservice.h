@@ -12,7 +12,7 @@
 #include <functional>
 #include <memory>
 
-/// A service of which a test knows every call, and which reports nothing unless the test says so.
+/// A service that records every call for the test, and reports only what the test says.
 struct RecordedState
 {
     QString id;
@@ -120,7 +120,7 @@ public:
 
     ~RecordedClient() override { qDeleteAll(items); }
 
-    bool isValid() const override { return true; }
+    bool isValid() const override { return valid; }
     QString getServiceName() const override { return "rec"; }
     QStringList getItemIds(const QString&) const override { return items.keys(); }
     bool getItemList(const QString&, QStringList* ids) const override
@@ -146,7 +146,9 @@ public:
     bool invokeAction(const QString& id) override { return record({"invoke", id, QVariant(), 0, false}); }
     QString getLastError() const override { return refusal; }
 
-    /// A further item of the kind `Item`.
+    bool valid = true;
+
+    /// Adds an item of the kind `Item`.
     template<typename Item = RecordedItem<KIVClientItem>>
     Item* add(const QString& id, const QVariant& value = QVariant())
     {
@@ -160,7 +162,7 @@ public:
         return item;
     }
 
-    /// Takes an item away as a service does that vanished.
+    /// Removes an item as a service that vanished does.
     void remove(const QString& id)
     {
         delete items.take(id);
@@ -168,10 +170,10 @@ public:
     }
 
     QVector<Call> calls;
-    /// What the service does before it answers.
+    /// Called before the service answers.
     std::function<void(const QVariant&)> onSet;
     std::function<void()> onSend;
-    /// Refuses every call with this text while it is not empty.
+    /// Rejects every call with this text while it is not empty.
     QString refusal;
     QMap<QString, KIVClientItem*> items;
     QStringList list;
@@ -186,7 +188,7 @@ private:
     std::vector<std::unique_ptr<RecordedState>> states;
 };
 
-/// A platform of that one service.
+/// A platform with only that service.
 class RecordedBackend : public KIVBackend
 {
 public:

@@ -67,7 +67,7 @@ private Q_SLOTS:
         m_client.reset();
     }
 
-    void aRecordIsAMap()
+    void anAggregateIsAMap()
     {
         QCOMPARE(map()->value("low"), QVariant(1.0));
         QCOMPARE(map()->value(QString::fromUtf8("größe")), QVariant("big"));
@@ -76,7 +76,7 @@ private Q_SLOTS:
         Q_EMIT m_limits->valueChanged();
         QCOMPARE(map()->value("high"), QVariant(4.0));
         QCOMPARE(changes.size(), 1);
-        // Numbers that hardly differ are two.
+        // Numbers with a tiny difference are different.
         for (const double low : {1690000000000.0, 1690000000001.0}) {
             m_limits->aggregate = limits(low, 2);
             Q_EMIT m_limits->valueChanged();
@@ -88,7 +88,7 @@ private Q_SLOTS:
     {
         QSignalSpy changes(Manifest::getKivData(limitsId), &KivData::valueChanged);
         QQmlExpression write(m_engine.rootContext(), nullptr, "t_cfg_limits.value.low = 7; t_cfg_limits.value.low");
-        // The service has the last word.
+        // The service decides.
         QCOMPARE(write.evaluate(), QVariant(1.0));
         QVERIFY2(!write.hasError(), qPrintable(write.error().toString()));
         QCOMPARE(m_client->calls.size(), 1);
@@ -108,7 +108,7 @@ private Q_SLOTS:
         QCOMPARE(m_client->calls.size(), 2);
     }
 
-    void aPendingRecordStartsFromTheItemsOwn()
+    void aPendingAggregateStartsFromTheItemsOwn()
     {
         auto* record = static_cast<KivAggregateData*>(Manifest::getKivData(limitsId));
         m_manifest->startChanges();
@@ -120,7 +120,7 @@ private Q_SLOTS:
         QVERIFY(m_client->calls.last().argument.toString().contains("\"low\": 1"));
     }
 
-    void aRecordWithoutItsItem()
+    void anAggregateWithoutItsItem()
     {
         auto* record = static_cast<KivAggregateData*>(Manifest::getKivData(limitsId));
         m_client->remove(limitsId);
@@ -167,7 +167,7 @@ private Q_SLOTS:
         QCOMPARE(changes.size(), 2);
     }
 
-    /// Whoever hears of one member may let the service report a whole new record or table.
+    /// A slot that receives one member may make the service report a complete new aggregate or table.
     void reportsWithinReports()
     {
         QQmlExpression watch(m_engine.rootContext(), nullptr, "t_cfg_limits.value.low");
@@ -212,7 +212,7 @@ private Q_SLOTS:
         QVERIFY(!m_manifest);
     }
 
-    void aHandlerThatWritesItsRecord()
+    void aHandlerThatWritesItsAggregate()
     {
         auto* record = static_cast<KivAggregateData*>(Manifest::getKivData(limitsId));
         int runs = 0;
@@ -247,7 +247,16 @@ private Q_SLOTS:
         relay.setService("unknown");
         Q_EMIT m_client->SigError("again");
         QCOMPARE(errors.size(), 1);
+        // One that can be reached only later is heard from then, once.
+        m_client->valid = false;
         relay.setService("rec");
+        Q_EMIT m_client->SigError("too early");
+        m_client->valid = true;
+        Q_EMIT m_client->itemsChanged();
+        Q_EMIT m_client->itemsChanged();
+        Q_EMIT m_client->SigError("in time");
+        QCOMPARE(errors.size(), 2);
+        QCOMPARE(errors.last().first(), QVariant("in time"));
         m_manifest.reset();
         m_client.reset();
         relay.setService("unknown");

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// What is printed to standard output from its making to text().
+/// Collects standard output from its construction to text().
 class CapturedOutput
 {
 public:
@@ -97,7 +97,7 @@ private Q_SLOTS:
         }
     }
 
-    void refusals()
+    void rejections()
     {
         const QStringList refused {QString(100000, '('), QString("cfg.a+").repeated(70) + "1", "cfg.mode = 2",
                 "cfg.mode += 2", "cfg.mode++", "--cfg.mode", "cfg.mode.value = 3", "function(){return true}()",
@@ -182,7 +182,7 @@ private Q_SLOTS:
     {
         KivData* asking = itemWith("cfg.mode == 2");
         QVERIFY(asking->isApplicable());
-        // A change elsewhere is heard.
+        // A change of another item has an effect.
         QSignalSpy changes(asking, &KivData::applicableChanged);
         for (const int mode : {3, 2}) {
             m_mode->state->value = mode;

@@ -5,6 +5,7 @@
 #include "service/inputrange_p.h"
 #include "service/inputvalidator_p.h"
 #include "service/kivdata.h"
+#include "service/valuetext_p.h"
 
 #include <kiv/baseformatter.h>
 
@@ -80,7 +81,7 @@ private Q_SLOTS:
         QVERIFY(uiutils::fixedPointText(0.1, 2'000'000'000).size() < 400);
     }
 
-    /// Only where a class escape stands before it, and no end of the brackets behind.
+    /// Only if a class escape precedes it, and no closing bracket follows.
     void escapedHyphens()
     {
         const std::pair<const char*, const char*> rows[] {{R"([\d-.])", R"([\d\-.])"},
@@ -142,7 +143,7 @@ private Q_SLOTS:
         QCOMPARE(validator.validate("12", 2), ForgivingValidator::Acceptable);
         QCOMPARE(validator.validate("x", 1), ForgivingValidator::Invalid);
         QCOMPARE(ForgivingValidator(QRegularExpression(".*")).validate("", 0), ForgivingValidator::Acceptable);
-        // QML reaches the invokable, and a derived class can change it.
+        // QML calls the invokable, and a derived class can change it.
         ForgivingValidator::ValidatorState state = ForgivingValidator::Invalid;
         QVERIFY(QMetaObject::invokeMethod(&validator, "validate", Q_RETURN_ARG(ForgivingValidator::ValidatorState, state),
                 Q_ARG(QString, "12"), Q_ARG(int, 2)));

@@ -75,7 +75,7 @@ private Q_SLOTS:
         m_client.reset();
     }
 
-    void aWriteGoesToTheService()
+    void aWriteIsSentToTheService()
     {
         KivData* speed = wrapper(speedId);
         SignalLog log(speed);
@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(log.take(), QStringList {"valueChanged"});
     }
 
-    void aRefusedWriteSaysWhy()
+    void aRejectedWriteSaysWhy()
     {
         KivData* speed = wrapper(speedId);
         SignalLog log(speed);
@@ -97,7 +97,7 @@ private Q_SLOTS:
         QCOMPARE(speed->getValue(), QVariant(10));
         QCOMPARE(log.take(), QStringList {"errorChanged speed too fast"});
         QCOMPARE(speed->getError(), QString("too fast"));
-        // What was refused on its way out of a transaction can be taken back.
+        // A value that was rejected after a transaction can be reverted.
         m_manifest->startChanges();
         speed->setValue(50);
         m_client->refusal = "still too fast";
@@ -105,7 +105,7 @@ private Q_SLOTS:
         QCOMPARE(speed->getError(), QString("still too fast"));
         speed->revert();
         QCOMPARE(speed->getValue(), QVariant(10));
-        // A report that comes with the refusal has ended the change.
+        // A report that comes with the rejection has ended the change.
         speed->setValue(60);
         m_client->onSet = [this](const QVariant&) { m_speed->state->value = 15, Q_EMIT m_speed->valueChanged(); };
         speed->apply();
@@ -134,7 +134,7 @@ private Q_SLOTS:
         QVERIFY(!withoutClient.getValue().isValid());
     }
 
-    /// The service's own report is the last word, and a handler that settles ends.
+    /// The service's own report decides, and a handler that settles ends.
     void writesThatAreAnsweredOrRepeated()
     {
         KivData* speed = wrapper(speedId);
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QCOMPARE(log.take(), QStringList {"valueChanged"});
         m_client->onSet = nullptr;
 
-        // As it is written, but for texts of what the service reports, a number here.
+        // As it is written, except for texts of reported values, here a number.
         const QVariantList written {"42", "12a", 12, 12.0, 1.5, "1.5", "inf", "", "-0"};
         const QVariantList held {42, "12a", 12, 12.0, 1.5, "1.5", "inf", "", 0};
         for (int i = 0; i < written.size(); ++i) {
@@ -158,7 +158,8 @@ private Q_SLOTS:
         }
     }
 
-    /// Of a service or not: what settles is told with the settled value, and what never does is stopped and named once.
+    /// Of a service or not: values that settle are announced when settled, and those that never do are stopped and
+    /// logged once.
     void handlersThatWriteTheirItem()
     {
         UiData local;
@@ -194,7 +195,7 @@ private Q_SLOTS:
             QCOMPARE(item->getValue(), QVariant(99));
             QCOMPARE(runs, 100);
             QCOMPARE(unsettled, 1);
-            // Of two that set each other going, neither has all its rounds in each round of the other.
+            // Of two that change each other, neither has all its rounds in each round of the other.
             ofItem = [&] { add(item, item, 1), add(&mirror, item, 1); };
             ofMirror = [&] { add(&mirror, &mirror, 1), add(item, &mirror, 1); };
             runs = 0;
@@ -211,7 +212,7 @@ private Q_SLOTS:
         local.insertAt(0, 4);
         QCOMPARE(local.getValueCount(), 102);
         QCOMPARE(unsettled, 4);
-        // Of many, no walk over every way through them: each sets the next ones, to its own value or to ever higher ones.
+        // With many, not every path is walked: each sets the next ones, to its own value or to ever higher ones.
         for (const auto& [count, successors, more, most] : {std::array {7, 6, 1, 1300}, {60, 2, 1, 12000}, {30, 29, 0, 30}}) {
             std::vector<UiData> items(count);
             int runs = 0;
@@ -229,7 +230,7 @@ private Q_SLOTS:
         qInstallMessageHandler(before);
     }
 
-    /// As one that opens a dialog, which hears what comes meanwhile and may end the item.
+    /// Like one that opens a dialog, which receives what comes meanwhile and may delete the item.
     void aHandlerThatRunsAnEventLoop()
     {
         KivData* speed = wrapper(speedId);
@@ -326,7 +327,7 @@ private Q_SLOTS:
         speed->setValue(30);
         QVERIFY(m_client->calls.isEmpty());
         QCOMPARE(log.take(), (QStringList {"valueChanged", "valueChanged"}));
-        // Only the last write is taken back.
+        // Only the last write is reverted.
         speed->revert();
         QCOMPARE(speed->getValue(), QVariant(20));
         speed->revert();
@@ -341,7 +342,7 @@ private Q_SLOTS:
         speed->revert();
         QCOMPARE(m_client->calls.size(), 1);
         QCOMPARE(speed->getValue(), QVariant(40));
-        // The service's report ends what is pending.
+        // The service's report ends the pending change.
         m_manifest->startChanges();
         speed->setValue(20);
         m_speed->state->value = 15;
@@ -391,7 +392,7 @@ private Q_SLOTS:
         QCOMPARE(wrapper(speedId)->getArraySelection(), -1);
     }
 
-    void theSelectionIsKeptUnderTheId()
+    void theSelectionIsStoredUnderTheId()
     {
         KivData* hosts = wrapper(hostsId);
         QSignalSpy relay(UserData::getInstance(), &UserData::signalDataChanged);
@@ -414,7 +415,7 @@ private Q_SLOTS:
         sameItem->setArraySelection(0);
         QCOMPARE(log.take(), QStringList {"arraySelectionChanged"});
 
-        // What is selected may change with the array.
+        // The selection may change with the array.
         hosts->setArraySelection(1);
         log.take();
         auto* item = static_cast<RecordedItem<KIVVecClientItem>*>(m_client->getItem(hostsId));
@@ -492,7 +493,8 @@ private Q_SLOTS:
         QCOMPARE(speed->getValue(), QVariant(78));
     }
 
-    /// Entry fields hold the validator, so it is the same one, even if it is asked for while the service is away.
+    /// Entry fields hold the validator, so it must stay the same one, even if it is requested while the service is
+    /// away.
     void otherLimitsAfterTheReturn()
     {
         for (const bool isAway : {false, true}) {
@@ -527,7 +529,7 @@ private Q_SLOTS:
         m_client->add(speedId, 10);
         Q_EMIT m_client->itemsChanged();
         QCOMPARE(speed->getValue(), QVariant(42));
-        // Another value is a report, the last word.
+        // Another value is a report, which decides.
         m_client->remove(speedId);
         m_client->add(speedId, 11);
         Q_EMIT m_client->itemsChanged();

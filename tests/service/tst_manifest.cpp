@@ -11,7 +11,7 @@
 #include <array>
 #include <memory>
 
-/// The registry of the process, the transaction, and the names that QML knows.
+/// The registry of the process, the transaction, and the names in QML.
 class ManifestTest : public QObject
 {
     Q_OBJECT
@@ -61,13 +61,15 @@ private Q_SLOTS:
         KivData* firstWrapper = Manifest::getKivData(id);
         auto second = std::make_unique<Manifest>(m_client.get(), "t", "rec");
         auto third = std::make_unique<Manifest>(m_client.get(), "t", "rec");
+        // A fourth one that is deleted at once: of the three before it, the latest has the entry again.
+        delete new Manifest(m_client.get(), "t", "rec");
         Manifest::setQmlContext(engine.rootContext());
         QQmlExpression live(engine.rootContext(), nullptr, "t_cfg_shared");
         live.setNotifyOnValueChanged(true);
         const KivData* latest = Manifest::getKivData(id);
         QVERIFY(latest && latest != firstWrapper && latest->parent() == third.get());
         QCOMPARE(live.evaluate().value<KivData*>(), latest);
-        // The one before takes the entry over, and the names with it.
+        // The previous wrapper takes over the entry, and the names with it.
         second.reset();
         QCOMPARE(Manifest::getKivData(id), latest);
         const QSignalSpy changes(&live, &QQmlExpression::valueChanged);
@@ -80,7 +82,7 @@ private Q_SLOTS:
         QCOMPARE(Manifest::getKivIds("shared", ""), QStringList {id});
     }
 
-    /// Labels, limits and choices never change while an item is there, and so are read once.
+    /// Labels, limits and choices never change while an item exists, and are therefore read once.
     void namesAreLookedUpAgainWhenTheServiceIsBack()
     {
         m_client->add(":config:rec:list:doubleARRAY:");
@@ -96,6 +98,31 @@ private Q_SLOTS:
         Q_EMIT m_client->itemsChanged();
         QCOMPARE(changes.size(), 1);
         QCOMPARE(live.evaluate(), QVariant("List"));
+    }
+
+    /// A service in another process may start after the page, and publish more later.
+    void itemsThatComeLater()
+    {
+        QQmlEngine engine;
+        const Manifest manifest(m_client.get(), "t", "rec");
+        Manifest::setQmlContext(engine.rootContext());
+        QQmlExpression text(engine.rootContext(), nullptr, "t_cfg_a ? t_cfg_a.value : 'none'");
+        QCOMPARE(evaluated(engine.rootContext(), "typeof t_cfg_a"), QVariant("undefined"));
+
+        m_client->add(":config:rec:a:", 1);
+        m_client->list += ":result:rec:manifest:";
+        Q_EMIT m_client->itemsChanged();
+        KivData* first = Manifest::getKivData(":config:rec:a:");
+        QVERIFY(first);
+        QCOMPARE(text.evaluate(), QVariant(1));
+        m_client->add(":config:rec:b:", 2);
+        Q_EMIT m_client->itemsChanged();
+        Q_EMIT m_client->itemsChanged();
+        QCOMPARE(evaluated(engine.rootContext(), "t_cfg_a.value + t_cfg_b.value"), QVariant(3));
+        QCOMPARE(Manifest::getKivData(":config:rec:a:"), first);
+        QCOMPARE(manifest.findChildren<KivData*>().size(), 2);
+        const_cast<Manifest&>(manifest).applyChanges();
+        QCOMPARE(m_client->calls.last().id, QString(":action:rec:applyconfig:"));
     }
 
     void aBatchOfChanges()
@@ -150,7 +177,7 @@ private Q_SLOTS:
         QCOMPARE(sentChanges(*m_client).size(), 2);
     }
 
-    void aRefusedBatchStaysPending()
+    void aRejectedBatchStaysPending()
     {
         m_client->add(":config:rec:a:", 0);
         m_client->add(":config:rec:b:", 0);
@@ -161,7 +188,7 @@ private Q_SLOTS:
         Manifest other(&otherClient, "", "rec");
         QSignalSpy errors(Manifest::getKivData(":config:rec:a:"), &KivData::errorChanged);
         QSignalSpy others(Manifest::getKivData(":config:rec:b:"), &KivData::errorChanged);
-        // Another service's setting travels along, and what refused it is not that service.
+        // Another service's setting is sent along, and the rejection does not come from that service.
         KivData* elsewhere = Manifest::getKivData(":config:rec:elsewhere:");
         const QSignalSpy errorsElsewhere(elsewhere, &KivData::errorChanged);
         manifest.startChanges();
@@ -182,7 +209,7 @@ private Q_SLOTS:
         manifest.applyChanges();
         QCOMPARE(sentChanges(*m_client).value("a").toInt(), 1);
 
-        // The service may have the page end the manifest before it refuses.
+        // The service may make the page delete the manifest before it rejects.
         elsewhere->setValue(3);
         m_client->refusal = "too late";
         m_client->onSend = [&] { owner.reset(); };
@@ -195,7 +222,7 @@ private Q_SLOTS:
         m_client->add(":config:rec:a:", 5);
         Manifest manifest(m_client.get(), "", "rec");
         KivData* a = Manifest::getKivData(":config:rec:a:");
-        // The service has nothing to report of a value that it had already.
+        // The service has nothing to report about a value that it already had.
         manifest.startChanges();
         a->setValue(6);
         a->setValue(5);
@@ -239,11 +266,11 @@ private Q_SLOTS:
         QCOMPARE(sentChanges(*m_client).value("level").toInt(), 10);
     }
 
-    /// A page of the first may hold its wrapper still.
+    /// A page of the first may still hold its wrapper.
     void ofTwoManifestsBothHavePendingChanges()
     {
         m_client->add(":config:rec:a:", 1);
-        // Written to the first and to the second, sent, and held by the first then; 0 is nothing.
+        // Written to the first and to the second, sent, and then held by the first; 0 is nothing.
         for (const auto& [one, two, sent, held] : {std::array {5, 0, 5, 5}, {5, 6, 6, 1}, {5, 0, 0, 1}, {5, 6, 0, 1}}) {
             Manifest first(m_client.get(), "", "rec");
             Manifest second(m_client.get(), "", "rec");
@@ -278,7 +305,7 @@ private Q_SLOTS:
         manifest.startChanges();
         a->setValue(10);
         b->setValue(20);
-        // Whoever hears of the first item's return may write it for good, and take the second one away.
+        // A slot that hears of the first item's return may write it permanently, and remove the second one.
         connect(a, &KivData::valueChanged, this, [&] {
             QVERIFY(!manifest.isChanging());
             other.reset();
@@ -347,7 +374,7 @@ private Q_SLOTS:
         Manifest::setQmlContext(context);
         manifest.reset();
         QVERIFY(evaluated(context, "t_cfg_a === null").toBool());
-        // A new context object leaves out what is gone.
+        // A new context object leaves out removed items.
         Manifest::setQmlContext(context);
         QCOMPARE(evaluated(context, "typeof t_cfg_a"), QVariant("undefined"));
         engine.reset();
@@ -356,7 +383,8 @@ private Q_SLOTS:
         QVERIFY(Manifest::getKivData(":config:rec:a:")->isApplicable());
     }
 
-    /// Contexts and choices come and go at the same addresses; what QML learnt of one must not be taken for the next.
+    /// Contexts and choices are created again at the same addresses; what QML learnt of one must not be used for the
+    /// next.
     void namesThatComeAndGo()
     {
         QQmlEngine engine;
@@ -387,7 +415,7 @@ private Q_SLOTS:
         Manifest manifest(m_client.get(), "t", "rec");
         QQmlEngine engine;
         QQmlContext context(engine.rootContext());
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("those after t_res_n32766 are left out"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Those after t_res_n32766 are left out"));
         Manifest::setQmlContext(&context);
         QCOMPARE(evaluated(&context, "t_res_n32766.value"), QVariant(32766));
         QCOMPARE(evaluated(&context, "typeof t_res_n32767"), QVariant("undefined"));

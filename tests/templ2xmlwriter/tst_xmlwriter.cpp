@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Why a reader refuses the text, or finds the element in it that only serves as a wrapper; empty when neither.
+/// Why a reader rejects the text, or finds the element in it that only serves as a wrapper; empty when neither.
 QString readerError(const QString& xml)
 {
     QXmlStreamReader reader(xml);
@@ -132,7 +132,7 @@ private Q_SLOTS:
         TemplateToXmlWriter(ReportTemplate(), false, false, true).getXml();
     }
 
-    /// Who chooses the parts gets what the whole pass writes, once.
+    /// A caller who chooses the parts gets what the complete pass writes, once.
     void withoutGenerateTheCallerWritesTheParts()
     {
         ReportTemplate report;
@@ -162,7 +162,7 @@ private Q_SLOTS:
         QVERIFY(xml.contains("<hardwareInfo/>"));
     }
 
-    /// Whatever a document holds, two readers that know nothing of the writer accept the text.
+    /// Whatever a document contains, two readers that are independent of the writer accept the text.
     void randomDocumentsAreWellFormed()
     {
         QTemporaryDir dir;

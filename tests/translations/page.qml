@@ -2,7 +2,7 @@ import QtQuick 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// Does what has to be told to users: refuses values and a name, saves a report, asks before it replaces it.
+// Causes notifications: rejected values and a rejected name, a saved report, a question before it is replaced.
 Item {
     function set(item, value) {
         item.value = value

@@ -1,5 +1,5 @@
-// Loaded into a program before everything else. Notes each text that the program asks for, and answers as if all of ours were
-// translated: with the text in quotation marks.
+// Loaded into a program before everything else. Notes each text that the program requests, and answers as if all of
+// ours were translated: with the text in quotation marks.
 
 #include <QCoreApplication>
 #include <QTranslator>
@@ -16,7 +16,7 @@ public:
 
     QString translate(const char* context, const char* text, const char*, int) const override
     {
-        // One write for each: threads ask too, and a program may end at any moment.
+        // One write for each text: threads request texts too, and a program may end at any moment.
         const QByteArray record = QByteArray(context) + '\x1f' + text + '\x1e';
         const bool isNoted = ::write(m_log, record.constData(), size_t(record.size())) == record.size();
         const bool isOfQt = context[0] == 'Q' && context[1] >= 'A' && context[1] <= 'Z';

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Holds that every text of the tree can be translated: that the extraction tool finds it under the context it is asked for.
+"""Checks that every text of the tree can be translated: the extraction tool finds it under the context of the request.
 
 translations.py extracted --lupdate TOOL           what the tool finds, and what the sources may look like
 translations.py planted --lupdate TOOL             that the above finds what is wrong
 translations.py used --lupdate TOOL --build BUILD --recorder LIBRARY
-                                                   what programs ask for when they run, and what they show of it
+                                                   what programs request at run time, and what they show of it
 """
 import argparse
 import collections
@@ -18,12 +18,12 @@ import xml.etree.ElementTree
 
 TREE = pathlib.Path(__file__).resolve().parents[2]
 ROOMS = ('base', 'platform', 'lib', 'apps', 'qml')
-# Contexts of which show() makes no text appear. One that is gone comes off the list.
+# Contexts of which show() makes no text appear. A context that no longer exists is removed from the list.
 UNSEEN = {
     'FileSystemUsage', 'KivAggregateData', 'PDFFile', 'Paths', 'SchemaValidator', 'ServiceState',
     *(f'uiutils::demo::{name}' for name in ('LoopbackProbe', 'SavedReportActions', 'Tour', 'UsbStick')),
 }
-# Texts that are the beginning of a line by agreement. All others are whole: what is put together cannot be reordered.
+# Texts that are, by agreement, the beginning of a line. All others are complete: translators cannot reorder parts.
 BEGINNINGS = {'ID: ', 'Tech: ', 'BAN: '}
 CONTEXTS_OF_QT = re.compile(r'Q[A-Z]')
 
@@ -31,7 +31,7 @@ CONTEXTS_OF_QT = re.compile(r'Q[A-Z]')
 # --- What the tool finds -----------------------------------------------------------------------------------------
 
 def extract(lupdate, tree):
-    """The set of (context, text), and what the tool complains of."""
+    """The set of (context, text), and the tool's warnings."""
     with tempfile.TemporaryDirectory() as folder:
         ts = pathlib.Path(folder, 'all.ts')
         rooms = [room for room in ROOMS if (tree / room).is_dir()]
@@ -73,7 +73,7 @@ def without_comments(text):
 
 
 def arguments(text, begin):
-    """Those of the call whose parenthesis opens before `begin`."""
+    """The arguments of the call whose parenthesis opens before `begin`."""
     found, start, depth = [], begin, 0
     for token in TOKEN.finditer(text, begin):
         sign = token.group('sign')
@@ -102,7 +102,7 @@ Call = collections.namedtuple('Call', 'place folder name owner context words')
 
 
 def calls_in(tree):
-    """Every place that asks for a text or notes one for a table. What is not written out has no context."""
+    """Every place that requests a text or marks one for a table. A context that is not written out is missing."""
     files = [file for room in ROOMS for file in sorted((tree / room).rglob('*')) if file.suffix in ('.cpp', '.h', '.qml', '.js')]
     sources = {file: without_comments(file.read_text(encoding='utf-8')) for file in files}
     declared = declared_contexts(sources)
@@ -135,7 +135,7 @@ def judge_sources(tree):
 
 
 def judge_tables(noted, asked):
-    """Texts of tables stand in the folder in which they are asked for, under the same context."""
+    """Texts of tables are in the folder in which they are requested, under the same context."""
     for calls, others, words in ((noted, asked, 'nothing in this folder asks for texts of a table'),
                                  (asked, noted, 'no table in this folder notes texts')):
         for folder in sorted(calls):
@@ -149,10 +149,10 @@ def judge_tree(lupdate, tree):
     return complaints + list(judge_texts(extracted)) + list(judge_sources(tree))
 
 
-# --- What programs ask for ---------------------------------------------------------------------------------------
+# --- What programs request ---------------------------------------------------------------------------------------
 
 class Recording:
-    """Programs that run with every text of ours in marks, and what they asked for."""
+    """Programs that run with every text of ours in quotation marks, and what they requested."""
 
     def __init__(self, build, recorder, folder):
         self.build, self.folder = build, folder
@@ -177,7 +177,7 @@ def text_of(pdf):
 
 
 def show(recording):
-    """Has programs say things. Returns what has to be seen translated, and where it is to be seen."""
+    """Makes programs show texts. Returns what must be translated, and where it is shown."""
     data = TREE / 'tests' / 'data'
     services = ['--services', data / 'services']
     document = data / 'documents' / 'everything.json'
@@ -209,10 +209,10 @@ def show(recording):
         ('an HTML page', html, '«Test Information»'),
         ('a plain text', text, '«Pass»'),
         ('a question', words, '«Do you want to overwrite report «Internal:»/reports/marked.pdf?»'),
-        ('the refusal of a value', words, '«Level cannot be set to 11: «out of range». Allowed: «-10 to 10» dB.»'),
+        ('the rejection of a value', words, '«Level cannot be set to 11: «out of range». Allowed: «-10 to 10» dB.»'),
         ('the range of a value', words, '«2 - 8 chars»'),
-        ('the refusal of a service', odd, '/items/1: «the id :config:odd:twice: stands twice»'),
-        ('the refusal of a file', nowhere, '«Cannot create a file in the folder of /nowhere/a.png: '),
+        ('the rejection of a service', odd, '/items/1: «the id :config:odd:twice: appears twice»'),
+        ('the rejection of a file', nowhere, '«Cannot create a file in the folder of /nowhere/a.png: '),
     ]
 
 
@@ -220,7 +220,7 @@ def judge_recording(asked, extracted):
     for context, text in sorted(asked - extracted):
         if not CONTEXTS_OF_QT.match(context):
             yield f'context {context}: "{text}" is asked for, and lupdate does not find it there'
-    # A page's context is the name of its file, whoever asks.
+    # A page's context is the name of its file, whatever requests the text.
     pages = {file.stem for room in ROOMS for file in (TREE / room).rglob('*') if file.suffix in ('.qml', '.js')}
     known = {context for context, _ in asked} | UNSEEN | pages
     for context in sorted({context for context, _ in extracted} - known):

@@ -3,7 +3,7 @@
 
 #include <QImage>
 
-/// The program as its users start it.
+/// The program as users start it.
 class UiUtilsQmlTest : public QObject
 {
     Q_OBJECT

@@ -5,14 +5,14 @@
 #include <QPainter>
 #include <QPdfWriter>
 
-/// Makers of small PDF files for tests.
+/// Builders of small PDF files for tests.
 namespace samples {
 
-/// A file put together object by object, as right or as wrong as a test wants it.
+/// A file built object by object, as valid or invalid as a test needs it.
 class Sketch
 {
 public:
-    /// PoDoFo finds no table that is a stream in a file of less than 512 bytes.
+    /// PoDoFo does not find a cross-reference stream in a file of less than 512 bytes.
     Sketch()
         : m_bytes("%PDF-1.5\n%" + QByteArray(512, '-') + '\n')
     {
@@ -42,7 +42,7 @@ public:
     int size() const { return m_bytes.size(); }
     int count() const { return m_offsets.size(); }
 
-    /// The table as a stream holds it that gives 1, 2 and 1 bytes to a row.
+    /// The table in the form of a stream with 1, 2 and 1 bytes in each row.
     QByteArray binaryTable() const
     {
         QByteArray rows("\0\0\0\xff", 4);
@@ -66,7 +66,7 @@ public:
     {
         return m_bytes + tableAndTrailer + "startxref\n" + QByteArray::number(m_bytes.size()) + "\n%%EOF\n";
     }
-    /// Ended by what its last object, a stream that begins at `table`, says.
+    /// Ended with the entries of its last object, a stream that begins at `table`.
     QByteArray finishedAt(int table) const
     {
         return m_bytes + "startxref\n" + QByteArray::number(table) + "\n%%EOF\n";
@@ -98,7 +98,7 @@ inline void print(const QString& path, int pages)
     }
 }
 
-/// Empty when qpdf finds nothing to complain about.
+/// Empty when qpdf finds no error.
 inline QString faultsOf(const QString& path)
 {
     const QString output = outputOf("qpdf", {"--check", path});

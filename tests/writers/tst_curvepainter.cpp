@@ -29,7 +29,7 @@ template<typename Draw> QImage picture(Draw draw)
     return image;
 }
 
-/// A closed curve with holes between its lines, run through `turns` times.
+/// A closed curve with holes between its lines, drawn `turns` times.
 Stretch knot(int points, int turns)
 {
     Stretch stretch;
@@ -49,7 +49,7 @@ Stretch scattered(int points)
     return stretch;
 }
 
-/// The first pixel that is bare in one picture while the other has ink there and all around it; null when none is.
+/// The first pixel that is blank in one picture while the other has ink there and all around it; null if there is none.
 QPoint strayInk(const QImage& inked, const QImage& bare)
 {
     for (int y = 1; y + 1 < bare.height(); ++y) {
@@ -79,7 +79,7 @@ class CurvePainterTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /// However many lines there are, the picture is the one that drawing each by itself would give.
+    /// However many lines there are, the picture equals that of drawing each line separately.
     void lines_data()
     {
         addColumns<QVector<Stretch>, QPen>();

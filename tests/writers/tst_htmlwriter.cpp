@@ -15,14 +15,14 @@ namespace {
 
 int syncs = 0;
 
-/// tidy's complaint about a page that it does not accept; empty for an accepted one.
+/// tidy's error for a page that it rejects; empty for an accepted one.
 QString tidyErrors(const QString& html)
 {
     const QString said = outputOf("tidy", {"-q", "-e", "-utf8"}, html.toUtf8());
     return said.startsWith("status") && !said.startsWith("status 1\n") ? said.left(2000) : QString();
 }
 
-/// The names of all elements and the text of the page, read as the XML that it is too.
+/// The names of all elements and the text of the page, read as XML.
 struct ParsedPage
 {
     explicit ParsedPage(const QString& html)
@@ -47,7 +47,7 @@ struct ParsedPage
     QString error;
 };
 
-/// Today's date and time in the page are the only part that differs from run to run.
+/// Today's date and time are the only part of the page that differs from run to run.
 QString withoutTimestamp(QString html)
 {
     static const QRegularExpression timestamp(
@@ -73,7 +73,7 @@ QStringList texts(const QVector<ReportTable::Cell>& cells)
 
 } // namespace
 
-/// In place of the system's, for everybody in this process.
+/// Replaces the system's function in this process.
 extern "C" int fsync(int) noexcept
 {
     ++syncs;
@@ -219,7 +219,7 @@ private Q_SLOTS:
         qDeleteAll(items);
     }
 
-    /// Each pass takes away what an earlier one made, and nothing else.
+    /// Each pass removes what an earlier one created, and nothing else.
     void everyTableBecomesAnItem()
     {
         ReportTemplate report;
@@ -241,7 +241,7 @@ private Q_SLOTS:
         QCOMPARE(titlesAfter(&own), QStringList("Ours") + expected);
         qDeleteAll(own);
 
-        // A page that an application is in the middle of writes on; one that it gave up goes.
+        // A page that an application is writing is continued; one that it gave up is removed.
         HtmlStreamWriter(0).startTable("Given up", {"A"}, false, 0);
         HtmlStreamWriter open(0);
         open.startTable("Never closed", {"A"}, false, 0);
@@ -252,8 +252,8 @@ private Q_SLOTS:
         QCOMPARE(titlesAfter(&uiutils::sharedReportItems()), expected);
     }
 
-    /// A table may claim many more columns than it fills, and have keys that are no rows.
-    void roomIsMadeForWhatIsThere()
+    /// A table may claim many more columns than it fills, and have keys that are not rows.
+    void columnsAreLaidOutForFilledCellsOnly()
     {
         ReportTemplate report;
         report.beginReport("r");
@@ -269,8 +269,8 @@ private Q_SLOTS:
         QVERIFY2(html.capacity() < 3 * html.size(), qPrintable(QString::number(html.capacity())));
     }
 
-    /// A file carries the number of its table, the last of several sections; tables of one service share a picture. The
-    /// files are not synced, lead nowhere, and a hundred at the most are left.
+    /// A file has the number of its table, the last of several sections; tables of one service share a picture. The
+    /// files are not synced, are not links, and at most a hundred stay.
     void plotsOfAPage()
     {
         ReportTemplate report;
@@ -350,7 +350,7 @@ private Q_SLOTS:
         QCOMPARE(tidyErrors(html), QString());
     }
 
-    /// Whatever the texts hold, they stay text: the page gets no element of theirs.
+    /// Whatever the texts contain, they stay text: the page gets no elements from them.
     void textsStayText()
     {
         const QSet<QString> allowed {"html", "head", "title", "style", "meta", "body", "img", "table", "tr", "th", "td", "i", "b",

@@ -12,8 +12,7 @@ namespace {
 
 using PoDoFo::PdfObject;
 
-/// The outline as a reader finds it, following first and next: one line an entry, indented, with page and
-/// height.
+/// The outline as a reader finds it, following first and next: one line for each entry, indented, with page and height.
 class OutlineText
 {
 public:
@@ -29,7 +28,7 @@ public:
     }
 
     QStringList lines() const { return m_lines; }
-    /// Links that do not lead back to where they came from, and wrong numbers of children.
+    /// Links that do not lead back to their origin, and wrong numbers of children.
     int faults() const { return m_faults; }
 
 private:
@@ -80,8 +79,7 @@ class PdfAnnotationTest : public QObject
 
     QString path(const QString& name) const { return m_folder.filePath(name); }
 
-    /// Two pages of 200 x 100 points; the second is higher, hangs in a tree of its own and does not begin at
-    /// zero.
+    /// Two pages of 200 x 100 points; the second is higher, belongs to a tree of its own and does not begin at zero.
     QString twoPages() const
     {
         samples::Sketch sketch;
@@ -129,7 +127,7 @@ private Q_SLOTS:
         QCOMPARE(samples::faultsOf(path("outlined.pdf")), QString());
     }
 
-    void tornFilesAreNotWhole_data()
+    void tornFilesAreIncomplete_data()
     {
         addColumns<QByteArray, bool>();
         samples::print(path("whole.pdf"), 2);
@@ -154,7 +152,7 @@ private Q_SLOTS:
         QTest::newRow("table before the start")
                 << QByteArray("%PDF-1.4\nxref\nstartxref\n-9\n%%EOF\n") << false;
     }
-    void tornFilesAreNotWhole()
+    void tornFilesAreIncomplete()
     {
         auto [contents, whole] = currentRow<QByteArray, bool>();
         QBuffer device(&contents);

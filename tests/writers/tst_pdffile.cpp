@@ -116,7 +116,7 @@ private Q_SLOTS:
     {
         addColumns<QString, QDateTime>();
         const auto at = [](int y, int mo, int d, int h, int mi, int s) { return QDateTime({y, mo, d}, {h, mi, s}, Qt::UTC); };
-        // Local time is five hours behind.
+        // Local time is five hours earlier.
         QTest::newRow("year") << "D:2026" << at(2026, 1, 1, 5, 0, 0);
         QTest::newRow("month") << "D:202603" << at(2026, 3, 1, 5, 0, 0);
         QTest::newRow("day") << "D:20260314" << at(2026, 3, 14, 5, 0, 0);
@@ -189,7 +189,7 @@ private Q_SLOTS:
         file.setSubject("S");
         file.setProducer("P");
         QCOMPARE(log.take(), (QStringList{"titleChanged", "titleChanged", "authorChanged", "subjectChanged", "producerChanged"}));
-        // A reload forgets changes, and a file that is not there everything.
+        // A reload discards changes, and a missing file everything.
         file.setFilename(name);
         QCOMPARE(file.getTitle(), QString("Old"));
         expectMessage(loadFailure);
@@ -229,9 +229,8 @@ private Q_SLOTS:
         QVERIFY(QDir(path("over")).removeRecursively());
     }
 
-    /// A folder has the temporary name: writing over the own file cannot begin, writing elsewhere needs no
-    /// such name.
-    void ownFileGoesThroughItsTemporaryName()
+    /// A folder has the temporary name: overwriting the own file cannot begin, writing elsewhere needs no such name.
+    void ownFileIsWrittenThroughItsTemporaryName()
     {
         QVERIFY(QDir().mkpath(path("temporary/link")));
         const QByteArray old = described("/Title(Old)");
@@ -248,7 +247,7 @@ private Q_SLOTS:
         file.write(path("temporary/b.pdf"));
         QVERIFY(!contentsOf(path("temporary/b.pdf")).isEmpty());
         QVERIFY(QDir().rmdir(path("temporary/a_tmp.pdf")));
-        // One that a power cut left behind is no obstacle, and does not stay.
+        // A file that a power cut left is no obstacle, and does not stay.
         writeFile(path("temporary/a_tmp.pdf"), "torn");
         file.write(QString());
         QVERIFY(contentsOf(path("temporary/a.pdf")) != old);
@@ -263,7 +262,7 @@ private Q_SLOTS:
         file.setFilename(name);
         QCOMPARE(file.getTitle(), QString("Printed"));
         QVERIFY(!file.getCreationDate().isEmpty());
-        // What is there now is not what was loaded, and shorter.
+        // The present file is not the one that was loaded, and shorter.
         writeFile(name, "something else");
         file.setTitle("Kept");
         file.write(path("kept.pdf"));
@@ -298,7 +297,7 @@ private Q_SLOTS:
         QCOMPARE(file.getTitle(), QString("New"));
     }
 
-    void whatIsNoFileIsRefused_data()
+    void whatIsNotAFileIsRejected_data()
     {
         QTest::addColumn<QString>("name");
         QVERIFY(QDir().mkpath(path("odd/folder.pdf")));
@@ -313,7 +312,7 @@ private Q_SLOTS:
         QTest::newRow("NUL") << path("bare.pdf") + QChar(QChar::Null) + "x";
         QTest::newRow("no name") << "";
     }
-    void whatIsNoFileIsRefused()
+    void whatIsNotAFileIsRejected()
     {
         QFETCH(QString, name);
         PDFFile file;
@@ -346,7 +345,7 @@ private Q_SLOTS:
         QCOMPARE(samples::faultsOf(name), QString());
     }
 
-    /// What other programs make of a file is read, changed and written twice.
+    /// Files of other programs are read, changed and written twice.
     void otherKindsOfFiles_data()
     {
         QTest::addColumn<QStringList>("options");
@@ -391,7 +390,8 @@ private Q_SLOTS:
     void encryptedFiles()
     {
         const auto [password, options] = currentRow<QString, QStringList>();
-        // One text that fills blocks, one of two bytes a letter that does and ends as if padded, one that stands elsewhere.
+        // A text that fills blocks, one with two bytes for each letter that does and seems to end in padding, one in
+        // another place.
         samples::Sketch sketch;
         sketch.addPage().add("<</Title(Sixteen letters.)/Author<FEFF03BB006200630064006500660101>/Subject 5 0 R/Producer(P)>>");
         sketch.add("(Referred)");

@@ -17,7 +17,7 @@ using uiutils::PdfProbe;
 
 namespace {
 
-/// Behind Qt's four bytes of length, what the filter FlateDecode reads.
+/// The input of the filter FlateDecode, after Qt's four bytes of length.
 QByteArray deflated(const QByteArray& data)
 {
     return qCompress(data, 9).mid(4);
@@ -62,7 +62,7 @@ bool noProcess = false;
 
 } // namespace
 
-/// Stands in for the system's own.
+/// Replaces the system's function.
 extern "C" int posix_spawn(pid_t* pid, const char* path, const posix_spawn_file_actions_t* actions,
         const posix_spawnattr_t* attributes, char* const arguments[], char* const environment[])
 {
@@ -73,7 +73,7 @@ extern "C" int posix_spawn(pid_t* pid, const char* path, const posix_spawn_file_
 
 Q_DECLARE_METATYPE(SetUp)
 
-/// Files that are made to harm, and the helper that meets them first.
+/// Files that are made to harm, and the helper that reads them first.
 class PdfProbeTest : public QObject
 {
     Q_OBJECT
@@ -89,7 +89,7 @@ class PdfProbeTest : public QObject
         return path(name);
     }
 
-    /// What an application does with a file. Returns whether it was loaded.
+    /// Uses a file as an application does. Returns whether it was loaded.
     bool use(const QString& name)
     {
         PDFFile file;
@@ -105,8 +105,8 @@ class PdfProbeTest : public QObject
 private Q_SLOTS:
     void initTestCase() { QLoggingCategory::setFilterRules("default.debug=false"); }
 
-    /// Files that would bring this process down, or hang it, must not pass; what comes of the others is PoDoFo's
-    /// affair.
+    /// Files that would crash this process, or make it hang, must not pass; what PoDoFo does with the others does not
+    /// matter.
     void hostileFiles_data()
     {
         QTest::addColumn<QByteArray>("contents");
@@ -213,8 +213,8 @@ private Q_SLOTS:
         QCOMPARE(error.isEmpty(), passes);
     }
 
-    /// 1,000 files with some bytes changed, cut out, doubled or cut off, always in the same places; dates and keys
-    /// in them differ from run to run.
+    /// 1,000 files with some bytes changed, cut out, doubled or cut off, always in the same places; dates and keys in
+    /// them differ from run to run.
     void damagedFiles()
     {
         samples::print(path("printed.pdf"), 2);
@@ -250,7 +250,7 @@ private Q_SLOTS:
     void helpersThatFail_data()
     {
         addColumns<QByteArray, QString>();
-        const QString harm = "The file cannot be read without harm";
+        const QString harm = "The file is not safe to read";
         const QString hangs = "Reading the file takes too long";
         QTest::newRow("dies") << QByteArray("printf S; kill -SEGV $$") << harm;
         QTest::newRow("says nothing more") << QByteArray("printf S") << harm;
@@ -288,17 +288,17 @@ private Q_SLOTS:
 
     void whereNoHelperWasInstalledFilesPass()
     {
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^PDF files are loaded without being tried out first"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^PDF files are loaded without being tried first"));
         QString error;
         QVERIFY(PdfProbe(QString(), 1000).passes("%PDF-", &error));
         QCOMPARE(error, QString());
         for (const QString& helper : {path("absent"), m_folder.path(), script("broken", "exit 127")}) {
             QVERIFY(!PdfProbe(helper, 1000).passes("%PDF-", &error));
-            QVERIFY2(error.startsWith("The file cannot be tried out first: "), qPrintable(error));
+            QVERIFY2(error.startsWith("The file cannot be tried first: "), qPrintable(error));
         }
     }
 
-    /// Whoever can use up descriptors and processes must not get a file past the helper by that.
+    /// A process that uses up descriptors and processes must not get a file past the helper.
     void withoutDescriptorsOrProcessesNoFilePasses()
     {
         rlimit before {};

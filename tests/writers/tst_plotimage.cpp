@@ -14,7 +14,7 @@ namespace {
 const QString xId = QStringLiteral(":result:kinds:trace_x:doubleARRAY:");
 const QString yId = QStringLiteral(":result:kinds:trace_y:doubleARRAY:");
 
-/// Where the picture holds the curve's colour, or shades of it.
+/// Where the picture has the curve's colour, or shades of it.
 QRect curveExtent(const QImage& image)
 {
     QRect extent;
@@ -28,7 +28,7 @@ QRect curveExtent(const QImage& image)
     return extent;
 }
 
-/// Fonts differ a little from machine to machine, and with them the place of the axes.
+/// Fonts differ a little from machine to machine, and the position of the axes with them.
 bool isNear(const QRect& a, const QRect& b)
 {
     const auto near = [](int x, int y) { return qAbs(x - y) <= 12; };
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QVERIFY2(isNear(drawn, extent), qPrintable(difference));
     }
 
-    /// Nothing longer than any plot has room for reaches the painter.
+    /// Nothing longer than the maximum in a plot reaches the painter.
     void hugeTexts()
     {
         QByteArray service = R"({"service": "huge", "items": [

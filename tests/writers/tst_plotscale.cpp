@@ -94,7 +94,7 @@ private Q_SLOTS:
         QCOMPARE(labels(scale), expected);
     }
 
-    /// Whatever it is asked to span, an axis is a proper one: ends in order, data within, few ticks, all within.
+    /// Whatever its range, an axis is valid: ends in order, data within, few ticks, all within.
     void everyAxisIsProper()
     {
         const QVector<double> values {-huge, -1e300, -3.7e8, -1, -1e-9, -tiny, 0, tiny, 1e-300, 1e-9, 0.3, 1, 1 + 1e-15, 7,

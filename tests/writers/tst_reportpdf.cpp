@@ -27,7 +27,7 @@ QStringList pagesOf(const QString& path)
     return pages;
 }
 
-/// A page of a file as one sees it: words and pixels by place, in points.
+/// A page of a file as readers see it: words and pixels by position, in points.
 struct Sheet
 {
     QSizeF size;
@@ -41,7 +41,7 @@ struct Sheet
         return found == words.cend() ? QRectF() : found->second;
     }
     bool has(const QString& word) const { return !at(word).isNull(); }
-    /// Where pixels of about that colour are, not further than `within`.
+    /// Where pixels of about that colour are, with at most `within` difference.
     QRectF colored(QColor color, const QRectF& within) const
     {
         QRect found;
@@ -77,7 +77,7 @@ QVector<Sheet> sheetsOf(const QString& path)
     return sheets;
 }
 
-/// The same with what the pages look like.
+/// The same with a picture of each page.
 QVector<Sheet> picturesOf(const QString& path)
 {
     const QTemporaryDir folder;
@@ -89,7 +89,7 @@ QVector<Sheet> picturesOf(const QString& path)
     return sheets;
 }
 
-/// A word that leaves the page's margins, or that another is printed over; empty without one.
+/// A word that leaves the page's margins, or on which another is printed; empty if there is none.
 QString misplacedIn(const QVector<Sheet>& sheets)
 {
     for (const Sheet& sheet : sheets) {
@@ -114,7 +114,7 @@ bool isSame(qreal a, qreal b)
     return qAbs(a - b) < 0.3;
 }
 
-/// "0 First", "1 Statuses": level and title, with the page that each leads to.
+/// "0 First", "1 Statuses": level and title, with the page to which each leads.
 QStringList outlineOf(const QString& path)
 {
     const QJsonObject json
@@ -157,7 +157,7 @@ class ReportPdfTest : public QObject
     Q_OBJECT
 
 private:
-    /// Prints items and deletes them. The file has passed qpdf's check, and all words are where they can be read.
+    /// Prints items and deletes them. The file has passed qpdf's check, and all words are readable.
     QString printed(const QList<ReportItem*>& items, const std::function<void(ReportPDF&)>& setUp = [](ReportPDF&) {})
     {
         ReportPDF pdf;
@@ -273,7 +273,7 @@ private Q_SLOTS:
         QTest::newRow("upright") << "portrait" << QSizeF(612, 792);
         QTest::newRow("wide") << "landscape" << QSizeF(792, 612);
     }
-    /// Every cell is there, in order, in its column and row, as it is aligned, with the icon of its status.
+    /// Every cell is there, in order, in its column and row, with its alignment and the icon of its status.
     void pagesOfATable()
     {
         const auto [orientation, paper] = currentRow<QString, QSizeF>();
@@ -339,8 +339,8 @@ private Q_SLOTS:
         QCOMPARE(row, rows);
     }
 
-    /// No heading without what it announces, no line of a paragraph alone, no beginning of a table of less than three
-    /// rows, no low table in two parts, and no page half empty for that.
+    /// No heading without its contents, no single line of a paragraph, no beginning of a table with less than three
+    /// rows, no low table in two parts, and no half-empty page because of that.
     void breaksBetweenPages()
     {
         const auto linesOf = [](int i, int entry) { return 2 + (i + entry) % 6; };
@@ -398,11 +398,11 @@ private Q_SLOTS:
             QVERIFY2(rows.first() >= qMin(3, rowsOf(i)) && (rowsOf(i) > 8 || rows.size() == 1), name);
             partedTables += rows.size() > 1;
         }
-        // Where pages end differs with the fonts, but not that much.
+        // Page breaks differ with the fonts, but not that much.
         QVERIFY(partedParagraphs > 3 && partedTables > 2);
     }
 
-    /// Columns that find no room go on below, beside the row labels again; an empty one takes no room.
+    /// Columns without space continue below, again beside the row labels; an empty one takes no space.
     void wideTables()
     {
         auto* table = new ReportTable("Wide", QString(",b,c,d,e,f,g,h,i,j,k,l,m,n").split(','), true);
@@ -433,7 +433,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Logo, status and a plot with its limits, where they belong and in their proportions.
+    /// Logo, status and a plot with its limits, in their places and proportions.
     void picturesOfAPage()
     {
         print({{"node_type", "report"}, {"tag", "t"}, {"title", "T"},
@@ -463,7 +463,7 @@ private Q_SLOTS:
     }
 
     /// However many cells show it.
-    void aMissingIconIsToldOnce()
+    void aMissingIconIsLoggedOnce()
     {
         const QString icon = m_root.filePath("base/qml/common/images/marginal_icon.png");
         QVERIFY(QFile::remove(icon));
@@ -506,7 +506,7 @@ private Q_SLOTS:
             report.getSetting("reportFormat")->setValue(format);
             QVERIFY(report.save(true));
             QCOMPARE(Report::m_reportItems.first(), &own);
-            // The HTML page comes behind the PDF.
+            // The HTML page comes after the PDF.
             QCOMPARE(Report::m_reportItems.size() > 1, format == 5);
             const QString path = m_root.filePath("cust/public/reports/t/a.pdf");
             const QString text = pagesOf(path).join(' ');
@@ -531,7 +531,7 @@ private Q_SLOTS:
         QVERIFY(!pages.at(0).contains("Heading"));
         QVERIFY(pages.at(1).contains("Heading") && pages.at(1).contains("row0"));
 
-        // One that has to be torn anyway leaves no page empty.
+        // One that must be split anyway leaves no page empty.
         auto* taller = new ReportTable("", {""}, false);
         addRow(*taller, {QString("first ") + QString("word ").repeated(3000)});
         QVERIFY(pagesOf(printed({new ReportHeader(1, "Heading"), taller})).at(0).contains("first"));
@@ -548,7 +548,7 @@ private Q_SLOTS:
         QTest::newRow("symbols") << QString::fromUtf8("−20 µW ± 5 % ≤ 3 Ω ∞ €");
     }
 
-    /// Selected and copied, the text is the one that was printed, but for the joined forms of letters.
+    /// Selected and copied, the text equals the printed one, except for joined forms of letters.
     void anyScript()
     {
         QFETCH(QString, text);
@@ -592,7 +592,7 @@ private Q_SLOTS:
         QByteArray large;
         QBuffer buffer(&large);
         QImage(5000, 9000, QImage::Format_RGB32).save(&buffer, "PNG");
-        // The head of 9,000 by 9,000 pixels.
+        // The header of 9,000 by 9,000 pixels.
         const QByteArray tooLarge
                 = QByteArray::fromHex("424d00000000000000003600000028000000282300002823000001002000") + QByteArray(24, '\0');
         QTest::newRow("a title of pages") << QString("word ").repeated(2000) << one << Rows(100, {"cell"}) << QByteArray()
@@ -606,7 +606,7 @@ private Q_SLOTS:
         QTest::newRow("control characters") << "T" << one << Rows {{QString("a\x01") + QChar(0xd800) + "\tb\r\nc" + QChar(0) + "\x7f"}}
                                             << QByteArray() << 1 << QStringList();
     }
-    /// As a table's title, a heading and the report's own.
+    /// As the title of a table, as a heading and as the report's own.
     void oddItems()
     {
         const auto [title, labels, rows, image, pages, words]
@@ -630,7 +630,7 @@ private Q_SLOTS:
         for (int i = 0; i < 300; ++i)
             addRow(*table, {"x"}, i % 2 ? 64 : 16);
         QVERIFY(!printed({table}, [](ReportPDF& pdf) { pdf.setLogo({}); }).isEmpty());
-        // Two icons, each with its mask. Behind the annotation, streams and dictionaries stay readable.
+        // Two icons, each with its mask. After the annotation, streams and dictionaries stay readable.
         QCOMPARE(contentsOf(m_path).count("/Subtype/Image") + contentsOf(m_path).count("/Subtype /Image"), 4);
     }
 
@@ -666,7 +666,7 @@ private Q_SLOTS:
             QCOMPARE(error, QString());
             QCOMPARE(contentsOf(m_path), QByteArray("old"));
         }
-        // It may go meanwhile.
+        // It may be deleted meanwhile.
         auto* other = new ReportPDF;
         other->setItems(items);
         connect(other, &ReportPDF::progressChanged, this, [&](int page, int) {
@@ -680,7 +680,7 @@ private Q_SLOTS:
         qDeleteAll(items);
     }
 
-    /// Two that print the same items would take each other's layout away, and a writer deletes those of its last pass.
+    /// Two that print the same items would remove each other's layout, and a writer deletes those of its last pass.
     void onePrintsAtATime()
     {
         ReportTemplate document;
@@ -698,7 +698,7 @@ private Q_SLOTS:
         });
         QVERIFY(writer.write(m_path));
         QVERIFY(refused > 2 * items.size());
-        // The items of the last pass go, and as many come.
+        // The items of the last pass are deleted, and as many are created.
         const int count = items.size();
         QVERIFY(writer.write(m_path));
         QCOMPARE(items.size(), count);

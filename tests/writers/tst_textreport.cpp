@@ -21,7 +21,7 @@ class TextReportTest : public QObject
 private:
     std::unique_ptr<kiv::embedded::EmbeddedBackend> m_backend;
 
-    /// The lines of a report behind its title.
+    /// The lines of a report after its title.
     static QString textOf(const QJsonObject& document)
     {
         const QTemporaryDir folder;
@@ -32,7 +32,7 @@ private:
         return reportText(report, layout).section('\n', 4);
     }
 
-    /// A document of one table; in a cell's text the status stands behind "!".
+    /// A document of one table; in a cell's text the status follows "!".
     static QJsonObject tableOf(const QStringList& labels, const QVector<QStringList>& rows)
     {
         QJsonObject table {{"num_columns", labels.size()}};
@@ -97,7 +97,7 @@ private Q_SLOTS:
         }
     }
 
-    /// Columns as terminals show them. Letters that editions of Unicode disagree about are not among these.
+    /// Columns as terminals show them, without the letters about which editions of Unicode disagree.
     void widthsAreThoseOfTheTerminal()
     {
         const std::pair<QString, int> texts[] = {
@@ -131,7 +131,7 @@ private Q_SLOTS:
                                     << 1'200'000;
         QTest::newRow("many rows") << QStringList {"A", "B"} << Rows(60'000, {"1", "b!16"}) << 1'200'000;
     }
-    /// Time is bounded by the test's own limit: what is not linear would take hours.
+    /// Time is bounded by the test's own limit: an algorithm that is not linear would take hours.
     void hostile()
     {
         const auto [labels, rows, mostCharacters] = currentRow<QStringList, QVector<QStringList>, int>();

@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import UiUtils.Demo 1.0
 
-// A button for a finger: filled for the one thing to do next, outlined for the rest.
+// A button for touch: filled for the main action, outlined for the others.
 Button {
     id: control
 
@@ -13,7 +13,7 @@ Button {
     rightPadding: Theme.margin
     font { pixelSize: Theme.bodyText; bold: true }
     Accessible.name: text
-    // A key that is held down does it once.
+    // A key that is held down triggers once.
     Keys.onReturnPressed: pressBy(event)
     Keys.onEnterPressed: pressBy(event)
 

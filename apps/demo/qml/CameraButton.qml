@@ -12,7 +12,7 @@ Button {
     implicitHeight: Theme.touch
     padding: 0
     Accessible.name: qsTr("Take a screenshot")
-    // A key that is held down does it once.
+    // A key that is held down triggers once.
     Keys.onReturnPressed: pressBy(event)
     Keys.onEnterPressed: pressBy(event)
 

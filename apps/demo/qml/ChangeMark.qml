@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import UiUtils.Demo 1.0
 
-// Stands beside what is entered and not applied yet.
+// Marks an entry that is not applied yet.
 Rectangle {
     implicitWidth: 12
     implicitHeight: 12

@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import UiUtils.Demo 1.0
 
-// Stands where things will be, and says how they come there.
+// Takes the place of missing content, and says how to get it.
 Text {
     textFormat: Text.PlainText
     color: Theme.mutedText

@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import UiUtils.Demo 1.0
 
-// Shows which control the keyboard works on.
+// Shows which control has the keyboard focus.
 Rectangle {
     anchors.fill: parent
     anchors.margins: -3

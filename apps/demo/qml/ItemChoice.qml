@@ -6,7 +6,7 @@ import UiUtils.Demo 1.0
 ItemRow {
     id: row
 
-    // Enters the choice of that label; gives the one before.
+    // Selects the choice with that label; returns the previous label.
     function enter(text) {
         const before = box.displayText
         for (let i = 0; i < item.enumCount; ++i) {
@@ -28,7 +28,7 @@ ItemRow {
         onActivated: {
             if (row.item.applicableAt(index))
                 row.entry.enter(row.item.enumValue(index))
-            // The user's hand has cut the index off from the item.
+            // The user's selection has ended the binding of the index to the item.
             currentIndex = Qt.binding(() => row.item ? row.item.enumIndex(row.item.value) : -1)
         }
 

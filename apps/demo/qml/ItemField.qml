@@ -3,17 +3,17 @@ import QtQuick.Controls 2.15
 import UiUtils 1.0
 import UiUtils.Demo 1.0
 
-// A text or a number of a service, to type in.
+// An entry field for a text or a number of a service.
 ItemRow {
     id: row
 
-    // The value that stands for an empty field.
+    // The value that an empty field stands for.
     property string unset
     readonly property bool isNumber: item !== null && ["int", "uint", "double"].indexOf(item.type) >= 0
-    // The value that the field shows or was given.
+    // The value that the field shows, or that was written to it.
     property var known
 
-    // Numbers without group separators, which would have to be moved while typing.
+    // Numbers have no group separators, which would move during typing.
     function shown(value) {
         if (value === undefined)
             return ""
@@ -51,14 +51,14 @@ ItemRow {
         return isNumber ? Qt.ImhFormattedNumbersOnly : Qt.ImhNoPredictiveText
     }
 
-    // What the service itself holds is no mistake of the user.
+    // A value from the service is not the user's mistake.
     acceptable: !applies || field.acceptableInput || field.text === shown(entry.served)
     onItemChanged: reset()
 
     Connections {
         target: row.entry
 
-        // What is being typed stays as long as the value behind it does.
+        // Typed text stays while the item's value does not change.
         function onReported() {
             if (row.item.value !== row.known)
                 row.reset()
@@ -71,7 +71,7 @@ ItemRow {
         leftPadding: Theme.gap
         rightPadding: row.unitRoom
         activeFocusOnTab: true
-        // A finger that begins on a field scrolls the page.
+        // A swipe that begins on a field scrolls the page.
         selectByMouse: false
         validator: row.item ? row.item.validator : null
         inputMethodHints: row.inputHints()
@@ -90,7 +90,7 @@ ItemRow {
             FocusFrame { visible: field.activeFocus }
         }
 
-        // The field's own placeholder would read markup.
+        // The field's own placeholder would interpret markup.
         Text {
             anchors { left: parent.left; leftMargin: field.leftPadding; verticalCenter: parent.verticalCenter }
             visible: row.unset !== "" && field.length === 0 && field.preeditText === ""

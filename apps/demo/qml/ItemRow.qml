@@ -3,18 +3,18 @@ import QtQuick.Layouts 1.15
 import UiUtils 1.0
 import UiUtils.Demo 1.0
 
-// A setting on a page: its name, the control that derived rows put in with the unit in it, and what may be entered. It hides while
-// the setting has no meaning.
+// A setting on a page: its name, the control of the derived row with the unit in it, and the permitted values. Hidden
+// while the setting has no meaning.
 ColumnLayout {
     id: row
 
     property KivData item: null
     readonly property bool applies: item !== null && item.applicable
-    // Whether the service can take what stands in the control.
+    // Whether the service can accept the value in the control.
     property bool acceptable: true
     readonly property bool changed: applies && (entry.pending || !acceptable)
     readonly property alias entry: entry
-    // Whether a refusal concerns this setting; of settings that are applied together all hear of it.
+    // Whether a rejection concerns this setting; when settings are applied together, all of them receive it.
     property bool blamed: true
     readonly property color frameColor: {
         if (!acceptable || blamed && entry.refusal)
@@ -22,18 +22,18 @@ ColumnLayout {
         return changed ? Theme.focus : Theme.border
     }
     readonly property color fillColor: !enabled ? Theme.background : changed ? Theme.notice : Theme.card
-    // Room that the unit takes at the right end of the control.
+    // Width of the unit at the right end of the control.
     readonly property real unitRoom: unitText.text ? unitText.width + 2 * Theme.margin : Theme.gap
     default property alias control: controlPlace.data
 
     // The item is about to be changed.
     signal edited
-    // The service did not take the change.
+    // The service rejected the change.
     signal refused(string words)
 
-    // Shows the item's value again, whatever stands in the control. Derived rows have more to do.
+    // Shows the item's value again, whatever the control contains. Derived rows add to this.
     function reset() {}
-    // Enters a text as a user does; gives the one before.
+    // Enters a text as a user does; returns the previous one.
     function enter(text) { return "" }
 
     spacing: 4
@@ -73,7 +73,7 @@ ColumnLayout {
             id: unitText
             z: 1
             anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
-            // The value counts for more.
+            // The value has priority.
             width: Math.min(implicitWidth, parent.width / 3)
             text: row.item ? row.item.unitString : ""
             textFormat: Text.PlainText
@@ -86,7 +86,7 @@ ColumnLayout {
         Layout.fillWidth: true
         readonly property string refusal: row.blamed ? row.entry.refusal : ""
         readonly property string range: row.item ? row.item.rangeDescription.trim() : ""
-        // Of a range without limits nothing but its dash is left.
+        // Without limits only the dash of the range would remain.
         text: refusal || (/\w/.test(range) ? range : "")
         textFormat: Text.PlainText
         visible: text

@@ -2,12 +2,12 @@ import QtQuick 2.15
 import QtQuick.Layouts 1.15
 import UiUtils.Demo 1.0
 
-// The limit of a quantity between a button that lowers it and one that raises it.
+// The limit of a quantity, between buttons that lower and raise it.
 RowLayout {
     id: stepper
 
     property SampleModel quantity
-    // One press changes the limit to its neighbour on this ladder.
+    // One press moves the limit to the next step of this ladder.
     property var steps: []
 
     function neighbour(direction) {

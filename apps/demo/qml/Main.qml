@@ -17,13 +17,13 @@ ApplicationWindow {
 
     property bool closesOnceSaved: false
 
-    // Saves the report of the last run, as its page says; false when that asks the user or tells what is wrong.
+    // Saves the report of the last run, as its page does; false when that asks the user a question or reports an error.
     function saveReport() {
         return reportPage.save()
     }
 
-    // What a user does on the settings page: enters a text for the setting of that id, which gives the text that stood
-    // there; applies all entries, which gives the reason when that failed.
+    // What a user does on the settings page: enters a text for the setting with that id, and returns the previous text;
+    // applies all entries, and returns the reason when that failed.
     function enterSetting(id, text) {
         return settingsPage.enter(id, text)
     }
@@ -31,14 +31,14 @@ ApplicationWindow {
         return settingsPage.apply()
     }
 
-    // What has gone wrong meanwhile is read first.
+    // Errors that happened meanwhile are read first.
     function closeOnceSaved() {
         closesOnceSaved = false
         if (Notifications.currentDialog === null)
             window.close()
     }
 
-    // A save would lose its page.
+    // The page of a running save must stay.
     onClosing: {
         close.accepted = !report.saving
         closesOnceSaved = report.saving
@@ -61,7 +61,7 @@ ApplicationWindow {
             spacing: Theme.margin
 
             Image {
-                // As wide as what is on the right, so that the title is in the middle.
+                // As wide as the right side, so that the title is centred.
                 Layout.preferredWidth: 150 + Theme.touch + Theme.margin
                 Layout.preferredHeight: 40
                 horizontalAlignment: Image.AlignLeft
@@ -125,7 +125,7 @@ ApplicationWindow {
         Loader {
             readonly property bool isWanted: navigation.currentIndex === 4
 
-            // Its many entries are made when somebody looks at them, and stay.
+            // Its many entries are created when the page is first shown, and stay.
             active: false
             onIsWantedChanged: active = true
             sourceComponent: services.optical ? galleryPage : noGallery
@@ -138,7 +138,7 @@ ApplicationWindow {
     Connections {
         target: window.report
         function onSavingChanged() {
-            // The save has some way to go yet.
+            // The save is still running.
             if (window.closesOnceSaved && !window.report.saving)
                 Qt.callLater(window.closeOnceSaved)
         }
@@ -166,7 +166,7 @@ ApplicationWindow {
 
     Shortcut {
         id: cameraShortcut
-        // Pictures of dialogs as well.
+        // Pictures include dialogs.
         context: Qt.ApplicationShortcut
         enabled: !window.report.saving
         sequences: ["Print", "Ctrl+P"]
@@ -180,6 +180,6 @@ ApplicationWindow {
     }
     Component {
         id: noGallery
-        EmptyNote { text: qsTr("The service \"optical\", whose items this page shows, is not there.") }
+        EmptyNote { text: qsTr("This page shows the items of the service \"optical\", which is not published.") }
     }
 }

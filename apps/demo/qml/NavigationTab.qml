@@ -5,7 +5,7 @@ import UiUtils.Demo 1.0
 TabButton {
     id: control
 
-    // Something on the page is not done yet.
+    // Something on the page is not finished yet.
     property bool marked: false
 
     implicitHeight: 60

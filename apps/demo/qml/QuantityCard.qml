@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Layouts 1.15
 import UiUtils.Demo 1.0
 
-// One quantity while it is measured: its median as a big figure, its spread, its samples and its limit.
+// One quantity during the measurement: its median as a large figure, its spread, its samples and its limit.
 Card {
     id: card
 

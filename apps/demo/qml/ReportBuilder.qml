@@ -78,9 +78,9 @@ QtObject {
                       { status: quantity.statusOf(value), align: Alignment.Right, unit: quantity.unit })
     }
 
-    // Pages show rows in the order of the texts of their keys, which puts row_10 before row_2. A row's number counts
-    // the keys of its table that hold "row_"; with enough of them ahead, all numbers get the same count of digits.
-    // The table starts with one such key of its own.
+    // Pages show rows in the string order of their keys, which puts row_10 before row_2. A row's number counts the keys
+    // of its table that contain "row_"; with enough of those before the first row, all numbers have the same count of
+    // digits. The table starts with one such key of its own.
     function keepRowsInOrder(rows) {
         let first = 1
         while (String(first).length < String(first + rows - 1).length)

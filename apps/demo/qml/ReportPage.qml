@@ -4,7 +4,7 @@ import UiUtils 1.0
 import UiUtils.Controls 1.0
 import UiUtils.Demo 1.0
 
-// Names, saves and lists the reports of the runs. What goes wrong is told in dialogs.
+// Names, saves and lists the reports of the runs. Errors are shown in dialogs.
 FocusScope {
     id: page
 
@@ -14,15 +14,15 @@ FocusScope {
     readonly property bool hasResults: measurement.state === LoopbackMeasurement.Finished
     readonly property var titleItem: report.getSetting("reportTitle")
     readonly property var nameItem: report.getSetting("reportName")
-    // Services of the user's own may lack it.
+    // The user's own services may lack it.
     readonly property var locationItem: typeof basemgr_cfg_saveLocation === "undefined" ? null : basemgr_cfg_saveLocation
     readonly property bool wantsUsb: locationItem !== null && location.served !== locationItem.enums.Internal
-    // A base manager that has not noticed says that the drive is there still, and a save there fails.
+    // A base manager that has not noticed the removal still reports the drive, and a save there fails.
     readonly property bool missesStick: wantsUsb && !stick.attached && typeof basemgr_res_usbAttached !== "undefined"
                                         && basemgr_res_usbAttached.value === true
     readonly property bool savesOnUsb: wantsUsb && location.served === locationItem.enums.Usb && stick.attached
 
-    // False when nothing was saved: the user is asked or told why, or the page says what is missing.
+    // False when nothing was saved: a question or an error is open, or the page says what is missing.
     function save() {
         return hasResults && titleEntry.commit() && nameEntry.commit() && report.save()
     }
@@ -35,7 +35,7 @@ FocusScope {
         onReportOverwriteAccepted: save(true)
     }
     UsbStick { id: stick }
-    // What the service holds, which is what counts, while another page's transaction holds something else back.
+    // The service's value, which is decisive while the transaction of another page holds a different one.
     ItemEntry {
         id: location
         item: page.locationItem
@@ -59,7 +59,7 @@ FocusScope {
             ColumnLayout {
                 id: form
 
-                // So that all of it is in sight on the instrument.
+                // So that everything fits the instrument's screen.
                 readonly property int closeness: 6
 
                 anchors { fill: parent; leftMargin: Theme.margin; rightMargin: Theme.margin; topMargin: Theme.gap; bottomMargin: Theme.gap }
@@ -108,7 +108,7 @@ FocusScope {
                     id: fields
                     Layout.fillWidth: true
                     Layout.fillHeight: true
-                    // The scroll bar and what frames a control lie in the card's margin.
+                    // The scroll bar and the focus frames lie in the card's margin.
                     Layout.leftMargin: -Theme.gap
                     Layout.rightMargin: -Theme.gap
                     contentHeight: column.height
@@ -132,7 +132,7 @@ FocusScope {
                             objectName: "nameEntry"
                             Layout.fillWidth: true
                             item: page.nameItem
-                            // An empty one stands for this.
+                            // The name that is used when the field is empty.
                             placeholderText: page.hasResults ? report.proposedFileName() : ""
                         }
                         RowLayout {
@@ -154,7 +154,7 @@ FocusScope {
                                 visible: page.locationItem !== null
                                 item: page.locationItem
                                 news: location.pending ? qsTr("Not applied yet: see Settings.") : ""
-                                // At once, also while the settings page holds changes back.
+                                // Written at once, even while the settings page holds changes back.
                                 storeWith: value => face.writeWith(() => {
                                     item.value = value
                                     item.apply()
@@ -185,7 +185,7 @@ FocusScope {
                                 Layout.preferredWidth: 110
                                 Layout.preferredHeight: Theme.touch
                                 filled: false
-                                text: stick.attached ? qsTr("Pull out") : qsTr("Plug in")
+                                text: stick.attached ? qsTr("Unplug") : qsTr("Plug in")
                                 Accessible.description: qsTr("USB drive")
                                 onClicked: stick.attached ? stick.pull() : stick.plug()
                             }
@@ -251,7 +251,7 @@ FocusScope {
                 Layout.preferredHeight: 5
 
                 NotificationTray {
-                    // Its heading has a button's height.
+                    // Its heading is as high as a button.
                     anchors { fill: parent; margins: Theme.margin; topMargin: 2 }
                     activeFocusOnTab: true
                 }

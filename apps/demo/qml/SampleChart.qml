@@ -2,7 +2,7 @@ import QtQuick 2.15
 import UiUtils 1.0
 import UiUtils.Demo 1.0
 
-// The samples as bars from left to right, in a room for all that are to come, with a line at the median.
+// The samples as bars from left to right, with space for all that will follow, and a line at the median.
 Item {
     id: chart
 
@@ -10,7 +10,7 @@ Item {
     property int slots: 20
     readonly property real scaleEnd: roundedUp(quantity.maximum)
 
-    // The next number of a ladder that reads well on an axis.
+    // The next number of a ladder that suits an axis.
     function roundedUp(value) {
         if (value <= 0)
             return 1
@@ -22,7 +22,7 @@ Item {
     Column {
         id: axis
         anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
-        // The end of the scale is what was measured: 100,000 Mbit/s and more are no wonder on a loopback.
+        // The end of the scale is a measured value: 100,000 Mbit/s and more are normal on a loopback.
         width: Math.max(56, endText.implicitWidth + 6)
 
         Text {
@@ -59,7 +59,7 @@ Item {
                 y: plot.height - height
                 color: Theme.statusColor(model.status)
 
-                // Tells a failed sample from a marginal one without its colour.
+                // Distinguishes a failed sample from a marginal one without colour.
                 Rectangle {
                     visible: model.status === Status.Fail
                     width: parent.width

@@ -3,7 +3,7 @@ import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import UiUtils.Demo 1.0
 
-// All samples of a quantity under their summary; scrolls by finger, wheel and arrow keys.
+// All samples of a quantity under their summary; scrolls by touch, wheel and arrow keys.
 Card {
     id: table
 
@@ -75,7 +75,7 @@ Card {
                     return
                 event.accepted = true
             }
-            // Always seen, because an edge may fall between two rows and hide that there are more.
+            // Always visible, because an edge between two rows would hide that there are more.
             ScrollBar.vertical: ScrollBar { policy: list.contentHeight > list.height ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
 
             delegate: Rectangle {
@@ -113,7 +113,7 @@ Card {
             EmptyNote {
                 anchors { fill: parent; margins: Theme.margin }
                 visible: list.count === 0
-                text: qsTr("No samples yet. Start a measurement on the page Measure.")
+                text: qsTr("No samples yet. Start a measurement on the Measure page.")
             }
         }
     }

@@ -4,26 +4,26 @@ import QtQuick.Layouts 1.15
 import UiUtils 1.0
 import UiUtils.Demo 1.0
 
-// The reports in a report controller's folder or on the USB drive, newest first, and what can be done with the current one.
+// The reports in a report controller's folder or on the USB drive, newest first, and the actions for the current one.
 ColumnLayout {
     id: saved
 
     property LoopbackReport report
     property UsbStick stick
-    // Whose list it is: the drive's as long as it is in, or the unit's.
+    // Which list is shown: the drive's while it is plugged in, or the unit's.
     property bool showsStick: false
     readonly property bool canChoose: stick !== null && stick.attached
     readonly property alias list: list
     property var files: []
-    // Where they lie, which need not be where the next one is saved.
+    // The folder of these reports, which may differ from the folder of the next save.
     property string place
-    // Null without one.
+    // Null without a report.
     readonly property var current: files[list.currentIndex] || null
-    // Nothing on the instrument shows the others.
+    // Other formats cannot be viewed on the instrument.
     readonly property bool canOpen: hasViewer && current !== null && current.format === "PDF"
     property bool hasViewer: false
 
-    // News come in at the top. Where nothing has, whoever deletes goes on where they are.
+    // New reports are added at the top. When nothing was added, the position stays after a deletion.
     function refresh() {
         const newest = files.length > 0 ? files[0] : null
         const row = list.currentIndex
@@ -44,7 +44,7 @@ ColumnLayout {
             actions.remove(current.path)
     }
 
-    // "34.5 kB"; decimal, as drives are sold.
+    // "34.5 kB"; decimal, like the sizes of drives.
     function sizeText(bytes) {
         const units = [qsTr("B"), qsTr("kB"), qsTr("MB"), qsTr("GB")]
         let unit = 0
@@ -71,13 +71,13 @@ ColumnLayout {
     Connections {
         target: saved.report
         function onReportFilesChanged() { saved.refresh() }
-        // Whoever saves sees what they have saved.
+        // A new report is shown after a save.
         function onFileWritten(path) { saved.showsStick = saved.canChoose && path.startsWith(saved.stick.mountPoint) }
     }
 
     GridLayout {
         Layout.fillWidth: true
-        // Without a choice the heading has room beside the buttons.
+        // Without a choice of lists there is space for the heading beside the buttons.
         columns: saved.canChoose ? 1 : 2
         columnSpacing: Theme.gap
         rowSpacing: 4
@@ -94,7 +94,7 @@ ColumnLayout {
                 textFormat: Text.PlainText
                 color: Theme.text
                 font { pixelSize: Theme.headingText; bold: true }
-                // Beside the buttons, in the smallest window.
+                // Beside the buttons, even in the smallest window.
                 fontSizeMode: Text.HorizontalFit
                 minimumPixelSize: Theme.smallText
                 Accessible.role: Accessible.Heading
@@ -173,7 +173,7 @@ ColumnLayout {
         id: list
         objectName: "reportList"
 
-        // A key that is held down does it once.
+        // A key that is held down triggers once.
         function pressBy(event, act) {
             if (!event.isAutoRepeat)
                 act()
@@ -190,7 +190,7 @@ ColumnLayout {
         Keys.onReturnPressed: pressBy(event, saved.open)
         Keys.onEnterPressed: pressBy(event, saved.open)
         Keys.onDeletePressed: pressBy(event, saved.remove)
-        // Always seen, because an edge may fall between two rows and hide that there are more.
+        // Always visible, because an edge between two rows would hide that there are more.
         ScrollBar.vertical: ScrollBar {
             id: bar
             policy: size < 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
@@ -235,12 +235,12 @@ ColumnLayout {
 
                     Text {
                         Layout.fillWidth: true
-                        // A name may have line feeds.
+                        // A name may contain line feeds.
                         text: modelData.name.replace(/\s/g, " ")
                         textFormat: Text.PlainText
                         color: Theme.text
                         font.pixelSize: Theme.smallText + 1
-                        // The ends of a name tell it from its neighbours.
+                        // Similar names differ at their ends.
                         elide: Text.ElideMiddle
                     }
                     Text {

@@ -3,11 +3,11 @@ import QtQuick.Controls 2.15
 import QtQuick.Window 2.15
 import UiUtils.Demo 1.0
 
-// Content that scrolls where it does not fit. The control that the keyboard works on comes into sight.
+// Content that scrolls if it does not fit. The control with the keyboard focus is scrolled into view.
 Flickable {
     id: view
 
-    // What is seen above and below a control that comes into sight.
+    // Space above and below a control that is scrolled into view.
     property real room: 2 * Theme.touch
     readonly property Item focused: Window.activeFocusItem
     readonly property bool holding: focused !== null && focused.pressed === true
@@ -20,7 +20,7 @@ Flickable {
         return false
     }
 
-    // What a finger presses stays under the finger until it is released.
+    // What a finger presses stays under it until the release.
     function isTapped(item) {
         return item.focusReason === Qt.MouseFocusReason && typeof item.pressed === "boolean"
     }
@@ -33,7 +33,7 @@ Flickable {
 
     clip: true
     boundsBehavior: Flickable.StopAtBounds
-    // Always seen, because an edge may fall between two controls and hide that there is more.
+    // Always visible, because an edge between two controls would hide that there are more.
     ScrollBar.vertical: ScrollBar { policy: view.contentHeight > view.height ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
     onFocusedChanged: {
         if (isInside(focused) && !isTapped(focused))

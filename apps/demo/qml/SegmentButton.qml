@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import UiUtils.Demo 1.0
 
-// One of the few choices that stand side by side in a frame.
+// One of a few choices side by side in a frame.
 RadioButton {
     id: control
 

@@ -3,7 +3,8 @@ import QtQuick.Layouts 1.15
 import UiUtils 1.0
 import UiUtils.Demo 1.0
 
-// Settings of the unit, its user, the job and the measurement. What is entered is held back until it is applied as a whole.
+// Settings of the unit, its user, the job and the measurement. Entries are held back until all of them are applied
+// together.
 FocusScope {
     id: page
 
@@ -12,7 +13,7 @@ FocusScope {
     readonly property var cards: form.item ? form.item.cards : []
     readonly property int changed: cards.reduce((sum, card) => sum + card.changed, 0)
     readonly property bool acceptable: cards.every(card => card.acceptable)
-    // Why the service did not take what was last applied.
+    // Why the service rejected what was last applied.
     property string refusal
 
     function begin() {
@@ -21,13 +22,13 @@ FocusScope {
         services.loopback.startChanges()
     }
 
-    // Gives the reason when the settings were not taken, and an empty text when they were.
+    // Returns the reason when the settings were rejected, and an empty text when they were accepted.
     function apply() {
         refusal = ""
         if (changed === 0)
             return ""
-        // One action carries the pending changes of every service; the other transaction has nothing left but to end,
-        // unless the changes were refused and would be sent once more.
+        // One action carries the pending changes of every service; the other transaction only has to be ended, unless
+        // the changes were rejected and would be sent again.
         services.basemgr.applyChanges()
         if (!refusal)
             services.loopback.applyChanges()
@@ -36,7 +37,7 @@ FocusScope {
         return refusal
     }
 
-    // The reason stands at the settings that it names, and at all changed ones when it names none.
+    // The reason is shown at the settings that it names, and at all changed ones when it names none.
     function blame() {
         const rows = cards.reduce((all, card) => all.concat(card.rows), []).filter(row => row.changed)
         const named = rows.filter(row => refusal.indexOf(row.item.label) >= 0)
@@ -52,7 +53,8 @@ FocusScope {
         cards.forEach(card => card.reset())
     }
 
-    // Enters a text for the setting of that id as a user does; gives the one before, and nothing without such a setting.
+    // Enters a text for the setting with that id as a user does; returns the previous text, or nothing without such a
+    // setting.
     function enter(id, text) {
         for (const card of cards) {
             for (const row of card.rows) {

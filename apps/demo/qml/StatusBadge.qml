@@ -2,7 +2,7 @@ import QtQuick 2.15
 import UiUtils 1.0
 import UiUtils.Demo 1.0
 
-// Icon and word of a status; nothing for no status.
+// Icon and word of a status; empty without a status.
 Row {
     id: badge
 

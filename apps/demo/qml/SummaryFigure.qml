@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import UiUtils.Demo 1.0
 
-// A small number under its name.
+// A small number with a title.
 Column {
     property alias name: nameText.text
     property alias value: valueText.text

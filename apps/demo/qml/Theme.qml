@@ -10,7 +10,7 @@ CommonTheme {
 
     readonly property int figureText: 46
 
-    // What has no status, or passes, needs no alarm.
+    // No status, or a pass, needs no alarm colour.
     function statusColor(status) {
         if (status === Status.Fail)
             return fail

@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import UiUtils.Viewer 1.0
 
-// A button of the bar: a sign or a word, for a finger. `label` says in words what it does.
+// A button of the bar with a sign or a word, for touch. `label` describes its action in words.
 AbstractButton {
     id: control
 
@@ -32,7 +32,7 @@ AbstractButton {
         color: control.checked ? Theme.primary : control.down ? Theme.background : Theme.card
         border { width: 2; color: control.enabled ? Theme.primary : Theme.border }
 
-        // Shows which control the keyboard works on.
+        // Shows which control has the keyboard focus.
         Rectangle {
             anchors { fill: parent; margins: -3 }
             visible: control.visualFocus

@@ -8,8 +8,8 @@ ApplicationWindow {
 
     required property ViewerDocument document
     required property int dotsPerInch
-    // Without a frame, and nothing beside it.
-    property bool isWholeScreen: false
+    // Without a frame, and over the full screen.
+    property bool isFullScreen: false
 
     readonly property bool isReady: document.state === ViewerDocument.Ready
 
@@ -18,8 +18,8 @@ ApplicationWindow {
     minimumWidth: 720
     minimumHeight: 400
     visible: true
-    visibility: isWholeScreen ? Window.FullScreen : Window.AutomaticVisibility
-    flags: isWholeScreen ? Qt.Window | Qt.FramelessWindowHint : Qt.Window
+    visibility: isFullScreen ? Window.FullScreen : Window.AutomaticVisibility
+    flags: isFullScreen ? Qt.Window | Qt.FramelessWindowHint : Qt.Window
     background: Rectangle { color: Theme.desk }
 
     header: ViewerBar {

@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import UiUtils.Viewer 1.0
 
-// All pages, one below the other. Only those in sight and their neighbours exist.
+// All pages, one below the other. Only the visible ones and their neighbours exist.
 ListView {
     id: list
 
@@ -10,20 +10,20 @@ ListView {
 
     property ViewerDocument document
     property int dotsPerInch: 85
-    // The page that the user is on, counted from 0.
+    // The current page, counted from 0.
     property int page: 0
     // 1 shows pages in their natural size.
     property real zoom: 1
     property int fit: PageList.FitWidth
 
     readonly property real pixelsPerPoint: dotsPerInch / 72 * zoom
-    // Whatever fits is within the bounds.
+    // Everything that fits is within the bounds.
     readonly property real leastZoom: Math.min(0.25, zoomOf(PageList.FitPage))
     readonly property real mostZoom: Math.max(3, zoomOf(PageList.FitWidth))
     readonly property bool canZoomIn: zoom < mostZoom * 0.999
     readonly property bool canZoomOut: zoom > leastZoom * 1.001
 
-    // Whether the place is being changed for the user, who then is where the change leads.
+    // Whether the program is changing the position; the current page is then the destination.
     property bool isPlacing: false
 
     function goTo(wanted) {
@@ -49,7 +49,7 @@ ListView {
     function zoomIn() { zoomAround(zoom * 1.25, width / 2, height / 2) }
     function zoomOut() { zoomAround(zoom / 1.25, width / 2, height / 2) }
 
-    // Zooms so that what is at that place of the view stays there.
+    // Zooms so that the content at that point of the view stays there.
     function zoomAround(wanted, x, y) {
         const index = indexNear(contentY + y)
         const before = itemAtIndex(index)
@@ -69,7 +69,7 @@ ListView {
         isPlacing = false
     }
 
-    // Moves by a part of what is in sight.
+    // Scrolls by a part of the view.
     function scroll(screensAcross, screensDown) {
         cancelFlick()
         contentX = inBounds(contentX + screensAcross * width, 0, contentWidth - width)
@@ -85,13 +85,13 @@ ListView {
         if (size.width <= 0 || width <= 0)
             return 1
         const natural = dotsPerInch / 72
-        // A window may have no room at all for a page; pages of less than nothing would all be in sight.
+        // A window may have no space for a page; pages of negative size would all be visible.
         const across = Math.max(1, width - 2 * Theme.margin) / (size.width * natural)
         const down = Math.max(1, height - Theme.gap) / (size.height * natural)
         return wanted === PageList.FitPage ? Math.min(across, down) : across
     }
 
-    // Between two pages is the upper one.
+    // Between two pages the upper one is current.
     function indexNear(y) {
         const index = indexAt(1, y)
         return index >= 0 ? index : page
@@ -103,7 +103,7 @@ ListView {
     boundsBehavior: Flickable.StopAtBounds
     flickableDirection: Flickable.AutoFlickIfNeeded
     contentWidth: Math.max(width, document.widestPage * pixelsPerPoint + 2 * Theme.margin)
-    // Neighbours are drawn before they come into sight.
+    // Neighbours are drawn before they become visible.
     cacheBuffer: Math.max(0, height)
     highlightMoveDuration: 0
     keyNavigationEnabled: false

@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import UiUtils.Viewer 1.0
 
-// A sheet of paper with a page on it, or with the reason why there is nothing.
+// A sheet of paper with a page on it, or with the reason why it is empty.
 Rectangle {
     id: sheet
 
@@ -22,7 +22,7 @@ Rectangle {
     }
     Text {
         id: note
-        // At the top, which is what is seen of a page that is larger than the screen.
+        // At the top, which is the visible part of a page that is larger than the screen.
         anchors { fill: parent; margins: 2 * Theme.margin }
         text: {
             if (sheet.status === PageItem.Failed)

@@ -2,7 +2,7 @@ import QtQuick 2.15
 import QtQuick.Layouts 1.15
 import UiUtils.Viewer 1.0
 
-// What the file is called, where in it the user is, how large it is shown, and the way out.
+// The file's name, the current page, the zoom, and the button that closes the viewer.
 Rectangle {
     id: bar
 
@@ -42,7 +42,7 @@ Rectangle {
             }
             Text {
                 objectName: "pageText"
-                // As wide as the last page needs it.
+                // As wide as the text of the last page.
                 Layout.preferredWidth: widest.advanceWidth + 2
                 text: qsTr("Page %1 of %2").arg(bar.pages.page + 1).arg(bar.pages.count)
                 textFormat: Text.PlainText
@@ -104,7 +104,7 @@ Rectangle {
             BarButton {
                 objectName: "fitPageButton"
                 text: qsTr("Page")
-                label: qsTr("Fit the whole page")
+                label: qsTr("Fit the page")
                 checked: bar.pages.fit === PageList.FitPage
                 onClicked: bar.pages.fitTo(PageList.FitPage)
             }

@@ -13,7 +13,8 @@ namespace uiutils {
 /// The tables that the meta-object compiler would write for such a class. QMetaObjectBuilder writes them too, but looks
 /// each property's type up by its name, more than once, and so takes several times as long.
 ///
-/// A meta-object that is marked as dynamic has to be one that can be asked for further properties.
+/// Qt takes a meta-object that is marked as dynamic for a QAbstractDynamicMetaObject, which can be asked for further
+/// properties.
 class DynamicObject::Layout final : public QAbstractDynamicMetaObject
 {
 public:
@@ -45,7 +46,7 @@ private:
         m_stringData = std::make_unique<QByteArrayData[]>(size_t(m_strings.size()));
         for (int i = 0; i < m_strings.size(); ++i) {
             QByteArrayData& string = m_stringData[size_t(i)];
-            string.ref.atomic.storeRelaxed(-1); // never freed by who reads it
+            string.ref.atomic.storeRelaxed(-1); // never freed by those who read it
             string.size = m_strings.at(i).size();
             string.offset = m_strings.at(i).constData() - reinterpret_cast<const char*>(&string);
         }
@@ -76,7 +77,7 @@ private:
         m_numbers.push_back(0);
     }
 
-    /// Its name, the number and place of its parameters, its tag, its flags; and what it returns.
+    /// Its name, the number and place of its parameters, its tag and its flags, then its return type.
     void addNotifier()
     {
         const uint name = uint(count()) + 1;
@@ -87,7 +88,7 @@ private:
 
     static constexpr int methodSize = 6;
 
-    /// The properties' names and behind them those of the class and of the notifier, and an empty tag.
+    /// The names of the properties, followed by those of the class and of the notifier, and an empty tag.
     QVector<QByteArray> m_strings;
     int m_count;
     bool m_hasNotifier;
@@ -100,8 +101,8 @@ DynamicObject::DynamicObject(
     : QObject(parent)
     , m_layout(std::make_unique<Layout>(className, names, type, changes))
 {
-    // QML keeps what it learns of a meta-object under its address, for ever. What is learnt of this one must go with
-    // it, because another one may lie at its address later.
+    // QML keeps what it learns about a meta-object under its address, permanently. What it learns about this one must
+    // be removed with it, because another one may have the same address later.
     QQmlData* data = QQmlData::get(this, true);
     data->propertyCache = new QQmlPropertyCache(m_layout.get());
 }

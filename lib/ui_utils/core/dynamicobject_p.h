@@ -8,12 +8,12 @@
 
 namespace uiutils {
 
-/// An object whose read-only properties are known only at run time. All are made in one go: QQmlPropertyMap
-/// takes time that grows with the square of its keys.
+/// An object whose read-only properties are known only at run time. All are made at once: QQmlPropertyMap takes time
+/// that grows with the square of the number of keys.
 class DynamicObject : public QObject
 {
 public:
-    /// More than a meta-object can number; the rest is left out.
+    /// A meta-object cannot number more; the rest is discarded.
     static constexpr int maximumProperties = 32767;
 
     ~DynamicObject() override;
@@ -29,7 +29,7 @@ protected:
         Told,
     };
 
-    /// All properties have the registered type of that id. The names have to differ.
+    /// All properties have the registered type `type`. The names have to differ.
     DynamicObject(const char* className, const QVector<QByteArray>& names, int type, Changes changes, QObject* parent);
 
     /// Emits the notifier of the properties.
@@ -37,7 +37,7 @@ protected:
 
     QByteArray nameOf(int index) const;
 
-    /// Writes the property's value to `result`, which points to one of the properties' type.
+    /// Writes the property's value to `result`, which points to a value of the properties' type.
     virtual void readProperty(int index, void* result) const = 0;
 
 private:

@@ -6,7 +6,7 @@
 /// Ids of the service items that the library itself reads.
 namespace uiutils::itemids {
 
-/// The folder of a system setting; the setting's own name and a colon follow.
+/// The beginning of a system setting's id; the setting's own name and a colon follow.
 inline const QLatin1String systemSetting(":config:basemgr:system:");
 /// Names of the technician and customer fields that a report shows.
 inline const QLatin1String technicianFields(":config:basemgr:system:techFieldsIncludedInReport:stringARRAY:");
@@ -18,7 +18,7 @@ inline const QLatin1String technicianLastName("userInfo_lastName");
 /// Where reports are saved: 0 internal, 1 USB, 2 both.
 inline const QLatin1String saveLocation(":config:basemgr:system:saveLocation:");
 inline const QLatin1String usbAttached(":result:basemgr:system:usbAttached:");
-/// Has the platform keep the report's name as that of the next one.
+/// Has the platform keep the report's name for the next report.
 inline const QLatin1String updateNameConfigs(":action:basemgr:system:report_update_name_configs:");
 /// The name that a test proposes for its reports; empty for none.
 inline const QLatin1String customDefaultName(":result:basemgr:system:reportCustomDefaultName:");
@@ -34,7 +34,7 @@ inline const QLatin1String hardwareNameEnd("_top");
 
 inline const QLatin1String baseUnit(":result:basemgr:eeprom:base_barcode_top:");
 
-/// Everything that the base manager says of the job.
+/// Begins the ids of all items of the job.
 inline const QLatin1String jobManager(":result:basemgr:jobmanager:");
 inline const QLatin1String jobActive(":result:basemgr:jobmanager:isJobActive:");
 inline const QLatin1String jobId(":result:basemgr:jobmanager:jobID:");
@@ -43,14 +43,14 @@ inline const QLatin1String jobTechnician(":result:basemgr:jobmanager:jobTechnici
 /// Attaches the XML report that is its argument to the active job.
 inline const QLatin1String attachReport(":action:basemgr:jobmanager:attachReport:");
 
-/// In the ids of items that say whether a job is active.
+/// Occurs in the ids of items that say whether a job is active.
 inline const QLatin1String jobActiveWord("isJobActive");
-/// Paths of the reports that the cloud leaves alone.
+/// Paths of the reports that the cloud does not sync.
 inline const QLatin1String noSyncList(":config:basemgr:system:ss_nosync:stringARRAY:");
 
 /// The service that leads users through the tests of a job.
 inline const QLatin1String workflowManager("orb.base.workflow_manager_app");
-/// What it says of the work order that is worked on.
+/// Its items of the active work order.
 inline const QLatin1String activeWorkOrder(
         ":config:workflow_manager_app:workflow_manager_reg_module:activeWorkOrderId:");
 inline const QLatin1String activeWorkflow(
@@ -58,9 +58,9 @@ inline const QLatin1String activeWorkflow(
 inline const QLatin1String workflowSession(
         ":result:workflow_manager_app:workflow_manager_reg_module:internalSessionName:");
 
-/// Ends the id of the item that stands for a whole service.
+/// Ends the id of the item that stands for a complete service.
 inline const QLatin1String manifest(":manifest:");
-/// What takes its place in the ids of the actions on a whole service.
+/// What takes its place in the ids of the actions on a complete service.
 inline const QLatin1String applyConfig(":applyconfig:");
 inline const QLatin1String saveConfig(":saveconfig:");
 
@@ -68,7 +68,7 @@ inline const QLatin1String configuration(":config:");
 inline const QLatin1String result(":result:");
 inline const QLatin1String action(":action:");
 
-/// What ends the ids of arrays, behind the item's own name.
+/// Ends the ids of arrays, after the item's own name.
 inline const QLatin1String stringArray("stringARRAY:");
 inline const QLatin1String doubleArray("doubleARRAY:");
 

@@ -6,8 +6,8 @@
 
 namespace uiutils {
 
-/// How a value was judged. The codes are those of items' quality codes, of the cells of report documents and of what
-/// the writers are given; a number that is none of them means no status. In QML: Status.Pass.
+/// How a value was judged. The same codes are used for the quality of items, for the cells of report documents and for
+/// the writers. Any other number means no status. In QML: Status.Pass.
 struct UIUTILS_EXPORT Status
 {
     Q_GADGET
@@ -19,7 +19,7 @@ public:
     Status() = delete;
 };
 
-/// Where the text of a cell stands. A number that is none of these codes means the center. In QML: Alignment.Right.
+/// How the text of a cell is aligned. Any other number means the center. In QML: Alignment.Right.
 struct UIUTILS_EXPORT Alignment
 {
     Q_GADGET

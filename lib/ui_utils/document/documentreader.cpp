@@ -67,7 +67,7 @@ std::optional<quint64> NodeReader::numberIn(const QString& key, QLatin1String fa
 TableReader::TableReader(const QJsonObject& table)
     : NodeReader(table)
 {
-    // Read as a double: the count of a damaged file need not fit an int.
+    // Read as a double, because the count in a damaged file may not fit an int.
     const double count = table.value(keys::numColumns).toVariant().toDouble();
     m_columnCount = int(qBound(0.0, count, double(maximumColumns)));
 }
@@ -108,7 +108,7 @@ TableReader::Extent TableReader::extent() const
 
 const QString& TableReader::cellKey(int column)
 {
-    // Shared for good: tables that claim a thousand columns and fill two are many times cheaper so.
+    // Shared permanently, which makes tables that claim a thousand columns and fill two many times cheaper.
     static const QStringList names = [] {
         QStringList names;
         for (int column = 0; column < maximumColumns; ++column)
@@ -124,7 +124,7 @@ int TableReader::columnOf(const QString& key) const
         return -1;
     bool isNumber = false;
     const int column = key.midRef(keys::cellFamily.size()).toInt(&isNumber);
-    // "cell_07" and "cell_+7" are no cell's keys.
+    // "cell_07" and "cell_+7" are not keys of cells.
     return isNumber && column >= 0 && column < m_columnCount && cellKey(column) == key ? column : -1;
 }
 

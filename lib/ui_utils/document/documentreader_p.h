@@ -18,10 +18,10 @@ namespace uiutils {
 /// The text of a leaf: a string as it is, a number or boolean in its text form, anything else empty.
 QString textOf(const QJsonValue& value);
 
-/// A leaf's text as a reader sees it: "EMPTY" stands for no text.
+/// A leaf's text as a user sees it: "EMPTY" means no text.
 QString shownTextOf(const QJsonValue& value);
 
-/// Reads a report or section node: the one place that knows in which order a document is walked.
+/// Reads a report or section node. Only this class knows in which order a document is walked.
 ///
 /// A key belongs to a family when it contains the family's word and holds an object; one that contains the words of
 /// several belongs to the family whose word comes first, so that no child is written twice.
@@ -30,7 +30,7 @@ class NodeReader
 public:
     /// In which order children are walked.
     enum Order {
-        /// By increasing number; those without one follow in the order of their keys.
+        /// By ascending number, then those without a number in the order of their keys.
         ByNumber,
         /// In the ascending string order of their keys: "row_1", "row_10", "row_2".
         ByKey
@@ -52,10 +52,10 @@ public:
     QString tag() const { return text(keys::tag); }
     QString title() const { return text(keys::title); }
 
-    /// False only when a key "enabled" says so: false, "false", "0" or the number 0.
+    /// False only if the key "enabled" is false, "false", "0" or the number 0.
     bool isEnabled() const;
 
-    /// Calls visit(QString name, QString value) for each "attr_" key, its prefix taken off, in key order.
+    /// Calls visit(QString name, QString value) for each "attr_" key, without that prefix, in key order.
     template<typename Visitor> void forEachAttribute(Visitor visit) const
     {
         for (auto it = m_node.begin(); it != m_node.end(); ++it) {
@@ -82,7 +82,7 @@ public:
         forEachChild(keys::tableFamily, order, visit);
     }
 
-    /// The number of the table that has this key; none when it has none.
+    /// The number of the table that has this key; nothing if the key has none.
     static std::optional<quint64> tableNumber(const QString& key) { return numberIn(key, keys::tableFamily); }
 
 protected:
@@ -128,7 +128,7 @@ template<typename Visitor> void forEachCell(const QJsonObject& row, Visitor visi
         if (value.isObject())
             cells.append({key.midRef(keys::cellFamily.size()).toInt(), value.toObject()});
     }
-    // Up to ten cells, the order of their keys is that of their numbers.
+    // The keys of at most ten cells have the order of their numbers.
     if (cells.size() > 10)
         std::stable_sort(cells.begin(), cells.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     for (const auto& cell : cells)
@@ -139,7 +139,7 @@ template<typename Visitor> void forEachCell(const QJsonObject& row, Visitor visi
 class TableReader : public NodeReader
 {
 public:
-    /// A wider table keeps its first columns only, so that a count from a damaged file costs no memory.
+    /// A wider table keeps only its first columns, so that a wrong count in a damaged file costs no memory.
     static constexpr int maximumColumns = 1000;
 
     explicit TableReader(const QJsonObject& table);
@@ -159,8 +159,8 @@ public:
         int rows = 0;
         qint64 cells = 0;
     };
-    /// How much there is to write, told quickly: no row and no cell that there is not, however many columns the table
-    /// claims and keys it has, but for objects under other keys.
+    /// How much there is to write, found quickly. Objects that are not rows or cells may be counted too, but never
+    /// columns that the table only claims, or keys without an object.
     Extent extent() const;
 
     /// Calls visit(QString key, QJsonObject row) for each row.
@@ -170,7 +170,7 @@ public:
     }
 
     /// Calls visit(int column, QJsonObject cell) for each cell that a row has in a column of the table, in the order of
-    /// the columns. It costs what the row holds: a table may claim many more columns than it fills.
+    /// the columns. The time depends on what the row holds: a table may claim many more columns than it fills.
     template<typename Visitor> void forEachCellOf(const QJsonObject& row, Visitor visit) const
     {
         if (m_columnCount > 2 * row.size())
@@ -196,7 +196,7 @@ private:
         for (const auto& cell : cells)
             visit(cell.first, cell.second);
     }
-    /// The column whose cells have that key; below zero for none of the table's.
+    /// The column whose cells have that key; negative if the table has none.
     int columnOf(const QString& key) const;
 
     int m_columnCount = 0;

@@ -19,7 +19,7 @@ QString childKey(QLatin1String word, int number)
     return word + QString::number(number);
 }
 
-/// The number written in `key` behind the family's word, or -1 when it is no child's key.
+/// The number in `key` after the family's word, or -1 if it is not the key of a child.
 int childNumber(const QString& key, QLatin1String word)
 {
     if (!key.startsWith(word))
@@ -29,7 +29,7 @@ int childNumber(const QString& key, QLatin1String word)
     return isNumber && number >= 0 && childKey(word, number) == key ? number : -1;
 }
 
-/// Orders numbers as their decimal texts are ordered: 1, 10, 100, 11, 2.
+/// Orders numbers as their decimal texts: 1, 10, 100, 11, 2.
 struct DecimalText
 {
     explicit DecimalText(int n)
@@ -81,7 +81,7 @@ void OpenNode::append(Family family, const QJsonValue& child, int height)
     const int number = children.keyCount;
     if (children.hasNumberedKey) {
         const QString key = childKey(familyWord(family), number);
-        // Somebody set a key of that very name: it is replaced, the count stays, and so does the next number.
+        // A key of that name was set: it is replaced. The count stays, and so does the next number.
         if (m_keys.contains(key)) {
             m_keys.insert(key, child);
             return;

@@ -10,32 +10,32 @@ namespace uiutils {
 /// A node of a report document that is being built: the keys set so far and its numbered children.
 ///
 /// A child's number is the count of keys that contain its family's word when it arrives. That count is kept as keys
-/// arrive, and children wait in arrival order until take(), because inserting "row_10" behind "row_9" into a
-/// QJsonObject moves every key that sorts after it.
+/// arrive, and children wait in arrival order until take(), because inserting "row_10" after "row_9" into a QJsonObject
+/// moves every key that sorts after it.
 class OpenNode
 {
 public:
-    /// In the order of their words, which is the order in which children are laid into the node.
+    /// In the order of their words, in which children are inserted into the node.
     enum Family { Row, Section, Table, FamilyCount };
 
-    /// `level` is the number of nodes around it in its report.
+    /// `level` is the number of nodes of its report that enclose it.
     explicit OpenNode(const QJsonObject& keys = QJsonObject(), int level = 0);
 
     int level() const { return m_level; }
-    /// How deep the nodes and rows are nested that it holds; 0 for none.
+    /// How deep its nodes and rows are nested; 0 if it has none.
     int height() const { return m_height; }
 
     /// The value of the key "node_type".
     QString nodeType() const;
 
-    /// Sets a key, in place of what stood under it, a child included.
+    /// Sets a key. Replaces what was stored under it, a child included.
     void set(const QString& key, const QJsonValue& value);
 
-    /// Stores a child, itself `height` nodes deep, under the next number of its family, in place of what stood under
+    /// Stores a child, itself `height` nodes deep, under the next number of its family. Replaces what was stored under
     /// that key.
     void append(Family family, const QJsonValue& child, int height = 0);
 
-    /// The finished node. The open one is empty afterwards.
+    /// The finished node; this one is then empty.
     QJsonObject take();
 
 private:
@@ -50,7 +50,7 @@ private:
         int keyCount = 0;
         /// Whether a key of m_keys is named like a child of the family.
         bool hasNumberedKey = false;
-        /// In ascending order of their numbers, none twice, none of them a key of m_keys.
+        /// In ascending order of their numbers, without duplicates, none of them a key of m_keys.
         QVector<Child> waiting;
     };
 

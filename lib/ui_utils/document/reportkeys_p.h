@@ -31,7 +31,7 @@ inline const QLatin1String cellFamily("cell_");
 inline const QLatin1String attributeFamily("attr_");
 inline const QLatin1String logFamily("log_");
 
-/// A text that stands for an empty one.
+/// The text that means an empty one.
 inline const QLatin1String emptyText("EMPTY");
 /// The label that makes a table a plot.
 inline const QLatin1String plot("plot");

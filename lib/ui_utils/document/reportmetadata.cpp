@@ -2,6 +2,7 @@
 
 #include "base/durablefile_p.h"
 #include "base/paths_p.h"
+#include "document/documentreader_p.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -12,6 +13,7 @@
 #include <optional>
 
 using uiutils::onDisk;
+using uiutils::textOf;
 namespace paths = uiutils::paths;
 
 namespace {
@@ -24,8 +26,8 @@ const QLatin1String originFilePathKey("originFilePath");
 
 const QLatin1Char slash('/');
 
-/// The path of `name` in `folder`, whose last slash counts once or not at all. A name alone stays one: with a slash in
-/// front it would lie at the top of the disk.
+/// The path of `name` in `folder`, with one slash between them. Without a folder the name stays as it is: a slash in
+/// front would make it a path at the top of the file system.
 QString pathIn(QString folder, QString name)
 {
     if (folder.isEmpty())
@@ -37,7 +39,7 @@ QString pathIn(QString folder, QString name)
     return folder + slash + name;
 }
 
-/// The folder of the records of the reports in a folder.
+/// The folder of the records for the reports in `folder`.
 QString recordFolderOf(QString folder)
 {
     if (folder.contains(QLatin1String("/reports/autosave/")))
@@ -45,8 +47,8 @@ QString recordFolderOf(QString folder)
     return folder.replace(QLatin1String("/public/reports/"), QLatin1String("/private/reports/metadata/"));
 }
 
-/// The bytes of a regular file: a pipe or a device could keep the reader waiting for ever. None, when it cannot be
-/// read. One byte over the most that a record may have shows that there are more.
+/// The bytes of a regular file: a pipe or a device could keep the reader waiting forever. Nothing if it cannot be read.
+/// Of a file that is too large, one byte more than the maximum.
 std::optional<QByteArray> recordBytes(const QString& path)
 {
     QFile file(path);
@@ -58,13 +60,7 @@ std::optional<QByteArray> recordBytes(const QString& path)
     return text;
 }
 
-/// The text of a leaf.
-QString textOf(const QJsonValue& value)
-{
-    return value.toVariant().toString();
-}
-
-/// Whether what lies under the keys is leaves, as far as there is anything: others write numbers.
+/// Whether the values of the keys that exist are leaves: other programs write numbers.
 bool holdsLeaves(const QJsonObject& object, const QStringList& keys)
 {
     for (const QString& key : keys) {
@@ -247,7 +243,7 @@ void ReportMetadata::clear()
     *this = ReportMetadata();
 }
 
-/// Whether the record lies in a folder, and in no other one.
+/// Whether the record has a folder, and its name does not lead to another one.
 bool ReportMetadataPrivate::hasPlace() const
 {
     return !folder.isEmpty() && !name.contains(slash);
@@ -261,7 +257,7 @@ QString ReportMetadataPrivate::filePath() const
 bool ReportMetadataPrivate::write(QString* reason) const
 {
     if (!hasPlace()) {
-        *reason = QStringLiteral("The record has no folder, or a name that is none of a file.");
+        *reason = QStringLiteral("The record has no folder, or its name is not a file name.");
         return false;
     }
     const QByteArray text = toJson();
@@ -269,7 +265,7 @@ bool ReportMetadataPrivate::write(QString* reason) const
         *reason = QStringLiteral("The record has more than %1 bytes.").arg(ReportMetadata::maximumFileSize);
         return false;
     }
-    // Writing the file finds out whether the folder is there.
+    // If this fails, writing the file does, too.
     uiutils::makeFolderDurably(onDisk(folder));
     return uiutils::writeFileDurably(onDisk(filePath()), text, reason);
 }
@@ -284,7 +280,7 @@ QByteArray ReportMetadataPrivate::toJson() const
     return QJsonDocument(record).toJson();
 }
 
-/// All of it or nothing.
+/// Takes everything or nothing.
 bool ReportMetadataPrivate::takeJson(const QByteArray& text)
 {
     if (text.size() > ReportMetadata::maximumFileSize)

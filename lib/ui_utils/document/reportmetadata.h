@@ -11,11 +11,11 @@ namespace uiutils {
 class ReportMetadataPrivate;
 }
 
-/// The record that lies apart from a saved file and tells later readers what the file is: its type and format, free
-/// pairs of texts, when it was made and where it lies.
+/// The record of a saved file, which tells other programs what the file is: its type and format, free pairs of texts,
+/// when it was made, and its path.
 ///
-/// The record is a file of its own in a folder of records, named by the file with ".metadata" behind. All paths are the
-/// instrument's. Both file operations tell the log what went wrong.
+/// The record is a file of its own in a folder of records, named after the file with ".metadata" appended. All paths
+/// are the instrument's. If a file operation fails, the log has a line.
 class UIUTILS_EXPORT ReportMetadata
 {
 public:
@@ -24,7 +24,7 @@ public:
     ReportMetadata& operator=(const ReportMetadata& other);
     ~ReportMetadata();
 
-    /// Records over this many bytes are neither written nor read (1 MiB).
+    /// Records of more than this many bytes (1 MiB) are neither written nor read.
     static constexpr qint64 maximumFileSize = qint64(1024) * 1024;
 
     /// The name of the record: that of the file that it describes, with its suffix and without folders.
@@ -39,7 +39,7 @@ public:
     void setOriginBase(const QString& folder);
     QString originBase() const;
 
-    /// What kind of record this is, "result" for one.
+    /// The type of the record, such as "result".
     void setType(const QString& type);
     QString type() const;
 
@@ -51,40 +51,40 @@ public:
     void setTimeStamp(const QString& timeStamp);
     QString timeStamp() const;
 
-    /// Sets one pair, in place of an earlier one of that key. Standard strings and literals are UTF-8.
+    /// Sets one pair; replaces an earlier one of that key. Standard strings and literals are UTF-8.
     void setInfo(const QString& key, const QString& value);
     void setInfo(const std::string& key, const std::string& value);
     void setInfo(const char* key, const char* value) { setInfo(QString::fromUtf8(key), QString::fromUtf8(value)); }
-    /// The value of a pair; empty without one.
+    /// The value of a pair; empty if there is none.
     QString getInfo(const QString& key) const;
 
-    /// Sets the folder of the described file, and that of the record beside it: "/cust/public/reports/otdr/" has its
-    /// records in "/cust/private/reports/metadata/otdr/", and ".../reports/autosave/" in ".../reports/metadata/".
-    /// Records for any other folder lie in that folder. The text decides: "/cust/public/reports" without its last slash
-    /// is any other folder.
+    /// Sets the folder of the described file and, derived from it, that of the record: "/cust/public/reports/otdr/" has
+    /// its records in "/cust/private/reports/metadata/otdr/", and ".../reports/autosave/" in ".../reports/metadata/".
+    /// Records for any other folder are in that folder itself. The texts are compared: "/cust/public/reports" without
+    /// its last slash is another folder.
     void updateMetadataPathBase(const QString& reportDir);
     /// Sets the folder of the record to the one for cable tests.
     void updateMetadataPathCable();
 
-    /// Where the described file lies; known after updateOriginFilePath(), saving and loading.
+    /// The path of the described file; known after updateOriginFilePath(), saving and loading.
     QString originFilePath() const;
-    /// Makes it of its folder and the record's name.
+    /// Makes that path from the folder of the file and the name of the record.
     void updateOriginFilePath();
 
     /// The path of the record.
     QString metadataFilePath() const;
 
-    /// Updates the path of the described file and writes the record, in a folder that is made where it is missing. Its
-    /// file then holds all of it; it holds what it held before when false is returned: when the file cannot be written,
-    /// the record has no folder or is too large, or its name has a "/".
+    /// Updates the path of the described file and writes the record durably; makes the folder if it is missing. Returns
+    /// false, and leaves the file as it was, if the file cannot be written, if the record has no folder or is too
+    /// large, or if its name contains a "/".
     bool saveMetadataToFile();
 
-    /// Takes type, format, pairs, time and path of the described file from the record's file; what is missing there is
-    /// empty, and numbers are their texts. Returns false, and changes nothing, when there is no such file, when it is
-    /// too large, and when it is not JSON of that shape.
+    /// Reads type, format, pairs, time and path of the described file from the record's file. What is missing there
+    /// becomes empty; numbers become texts. Returns false, and changes nothing, if there is no such file, if it is too
+    /// large, or if it is not JSON of that structure.
     bool loadFromDisk();
 
-    /// Empties everything.
+    /// Clears everything.
     void clear();
 
 private:

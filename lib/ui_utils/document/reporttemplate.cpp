@@ -13,7 +13,7 @@ namespace keys = uiutils::keys;
 
 namespace {
 
-// Everything that walks JSON calls itself for each level, Qt's own classes too, and its parser stops at 1,024.
+// All code that walks JSON, Qt's classes included, calls itself for each level; Qt's parser stops at 1,024.
 constexpr int deepestSection = 1000;
 
 bool takesChildren(const OpenNode& node)
@@ -40,7 +40,7 @@ QString attributeKey(const QString& name)
 
 } // namespace
 
-/// The finished document, and the nodes begun and not yet ended; the last one is the current one.
+/// The finished document, and the open nodes, of which the last one is the current one.
 class uiutils::ReportTemplatePrivate
 {
 public:
@@ -191,7 +191,7 @@ OpenNode* ReportTemplatePrivate::current()
 
 void ReportTemplatePrivate::closeInto(QLatin1String nodeType, int family)
 {
-    // The only open node has no parent to go to, and closing it would lose what it holds.
+    // The only open node has no parent; closing it would lose its contents.
     if (openNodes.size() < 2 || current()->nodeType() != nodeType)
         return;
     const int level = current()->level();
@@ -200,7 +200,8 @@ void ReportTemplatePrivate::closeInto(QLatin1String nodeType, int family)
     if (!takesChildren(*current()))
         return;
     const int deepest = deepestSection + (family == OpenNode::Table ? 1 : 0);
-    // The height, with a table's rows in it, counts where a node begun as a report was made a section by its key.
+    // The height, which includes the rows of a table, matters if a node that began as a report became a section by its
+    // key.
     if (level > deepest || height > deepestSection + 1) {
         warnOfDepth();
         return;

@@ -35,7 +35,7 @@ template<typename Unsigned> qint64 clamped(Unsigned number)
     return number > Unsigned(most) ? most : qint64(number);
 }
 
-/// The longest beginning of `path` that exists; empty without one.
+/// The longest beginning of `path` that exists; empty if none does.
 QString nearestExisting(const QString& path)
 {
     QStringList parts = QFileInfo(path).absoluteFilePath().split(QLatin1Char('/'), Qt::SkipEmptyParts);
@@ -50,8 +50,8 @@ QString nearestExisting(const QString& path)
 
 using Listing = std::unique_ptr<DIR, int (*)(DIR*)>;
 
-/// Walks a tree of folders. Links may lead to one folder on many ways, and back to one that the walk is in: each is
-/// visited once. What lies on other drives is not the tree's. One folder is open at a time, however deep they lie.
+/// Walks a tree of folders. Links may lead to one folder in many ways, and back to one that the walk is in: each is
+/// visited once. What is on other drives is left out. One folder is open at a time, however deep they are nested.
 class TreeWalk
 {
 public:
@@ -76,7 +76,7 @@ public:
         return m_blocks;
     }
 
-    /// Why the tree could not be counted; empty when it could.
+    /// Why the tree could not be counted; empty if it could.
     QString problem() const { return m_problem; }
 
 private:
@@ -84,7 +84,7 @@ private:
     {
         QByteArray place;
         QString destination;
-        /// The names of those that are still to be visited.
+        /// The names of the subfolders that are not visited yet.
         QVector<QByteArray> subfolders;
     };
 
@@ -123,7 +123,7 @@ private:
             m_problem = QStringLiteral("has more than %1 files and folders").arg(m_mostEntries);
             return;
         }
-        // Hidden ones are not copied.
+        // Hidden files and folders are not copied.
         if (entry.d_name[0] == '.')
             return;
         struct stat found = {};
@@ -167,7 +167,7 @@ private:
     QString m_problem;
     dev_t m_device = 0;
     QSet<ino_t> m_visited;
-    /// From the uppermost down to the one that the walk is in.
+    /// From the top folder down to the one that the walk is in.
     QVector<Folder> m_open;
 };
 
@@ -191,7 +191,7 @@ qint64 blocksFor(qint64 bytes, qint64 blockSize)
 
 qint64 blocksOfFile(const QString& path, qint64 blockSize)
 {
-    // The size of what does not exist is 0.
+    // The size of a file that does not exist is 0.
     return blocksFor(QFileInfo(onDisk(path)).size(), blockSize);
 }
 

@@ -14,7 +14,7 @@
 
 using uiutils::onDisk;
 
-/// What one object tells and asks, and the notification that is pending.
+/// The notifications of one object, of which one may be pending.
 class uiutils::FileUtilsPrivate
 {
 public:
@@ -49,7 +49,7 @@ QString kindOf(const QString& path)
                                                                                       : FileUtils::tr("File");
 }
 
-/// `first`, with those of `others` that it has not, and in place of those that it has.
+/// `first` with the pairs of `others`, which override those of the same key.
 QMap<QString, QString> joined(QMap<QString, QString> first, const QMap<QString, QString>& others)
 {
     for (auto it = others.cbegin(); it != others.cend(); ++it)
@@ -78,7 +78,8 @@ FileUtils::FileUtils(QObject* parent)
     connect(manager, &KIVNotificationModelManager::notificationRejected, this, &FileUtils::onNotificationRejected);
 }
 
-/// Its dialog closes at once. One that is no longer open may be being answered, and others still have to hear of it.
+/// An open dialog closes at once. One that is no longer open may just be being answered: other objects still have to be
+/// notified.
 FileUtils::~FileUtils()
 {
     KIVNotification* pending = d->pending;
@@ -207,7 +208,7 @@ qint64 FileUtils::getDirSize(QString src_path, QString dest_path, qint64 fs_bloc
 
 KIVNotification* FileUtilsPrivate::freshNotification(const QString& title, const QString& text)
 {
-    // Whoever is hearing its answer may be the one who raises the next.
+    // The slot that is notified of its answer may be what raises the next.
     if (pending)
         pending->deleteLater();
     pending = new KIVNotification(q);
@@ -220,7 +221,7 @@ void FileUtilsPrivate::sendError(const QString& title, const QString& text)
 {
     KIVNotification* notification = freshNotification(title, text);
     notification->setError();
-    // Whoever watches the tray may end the object that tells.
+    // A slot that watches the tray may delete this object.
     const QPointer<FileUtils> self(q);
     notification->notifyTray();
     if (self)

@@ -14,14 +14,14 @@ namespace uiutils {
 class FileUtilsPrivate;
 }
 
-/// File work as the user meets it: whether there is room for what is to be written, what went wrong, and what may be
+/// What users see of work on files: whether there is space for what is to be written, what went wrong, and what may be
 /// overwritten or deleted.
 ///
 /// Paths are the instrument's ("/cust/public/a.html"); texts show them as getSanitizedPathName() makes them.
 ///
-/// At most one notification of an object is pending: raising one takes back the one before it. accepted() and
-/// rejected() report the answer to that one, which carries the optional arguments as values. Nothing here copies, moves
-/// or deletes.
+/// At most one notification of an object is pending: raising one withdraws the one before it. accepted() and rejected()
+/// report the answer to that one, which has the optional arguments as values. Nothing here copies, moves or deletes
+/// files.
 class UIUTILS_EXPORT FileUtils : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
     ~FileUtils() override;
 
 public Q_SLOTS:
-    /// The answers of all dialogs come in here.
+    /// Receive the answers of all dialogs.
     void onNotificationAccepted(KIVNotification* notification);
     void onNotificationRejected(KIVNotification* notification);
 
@@ -40,13 +40,13 @@ public:
     /// for "/mnt/usb".
     Q_INVOKABLE QString getSanitizedPathName(QString path);
 
-    /// Whether `src_file_size` bytes fit at `dest_path`, where a file that exists is overwritten. If not, tells the
-    /// user how much is missing. False without a message when nothing can be found out about the drive.
+    /// Whether `src_file_size` bytes fit at `dest_path`, where a file that exists is overwritten. If not, notifies the
+    /// user how much is missing. False without a message if nothing can be found out about the drive.
     Q_INVOKABLE bool checkDriveSpaceForFile(qint64 src_file_size, QString dest_path);
-    /// The same for the size of the file `src_file`, 0 bytes when there is none.
+    /// The same for the size of the file `src_file`, 0 bytes if there is none.
     Q_INVOKABLE bool checkDriveSpaceForFile(QString src_file, QString dest_path);
     /// The same for everything that getDirSize() counts below the folder `src_path`, copied into the folder
-    /// `dest_path`. False with a line in the log when `src_path` does not exist or cannot be counted.
+    /// `dest_path`. False, with a line in the log, if `src_path` does not exist or cannot be counted.
     Q_INVOKABLE bool checkDriveSpaceForDir(QString src_path, QString dest_path);
 
     /// Errors, in the tray and in a dialog.
@@ -56,13 +56,13 @@ public:
     /// An error in a dialog alone; `needed` in bytes.
     Q_INVOKABLE void sendNotificationNotEnoughSpace(QString real_path, qint64 needed);
 
-    /// Asks whether the file or folder may be overwritten; an empty path stands for all of them. `optional_args` become
+    /// Asks whether the file or folder may be overwritten; an empty path means all of them. `optional_args` become
     /// values of the notification.
     Q_INVOKABLE void sendNotificationOverwriteRequest(QString real_file_path_to, QMap<QString, QString> optional_args);
-    /// Asks whether the file or folder may be deleted, or several, parted by line feeds. The value "Filename" is
+    /// Asks whether the file or folder, or several separated by line feeds, may be deleted. The value "Filename" is
     /// `real_file_path`.
     Q_INVOKABLE void sendNotificationDeleteRequest(QString real_file_path, QMap<QString, QString> optional_args);
-    /// Asks whether the report may be overwritten; a compressed PDF is named without ".gz". The value "Filename" is
+    /// Asks whether the report may be overwritten; a compressed PDF is shown without ".gz". The value "Filename" is
     /// `real_file_path`.
     void sendNotificationOverwriteReportRequest(QString real_file_path, QMap<QString, QString> optional_args);
     /// Asks whether the screenshot may be overwritten. The value "Filename" is `real_file_path`, "IconFile"
@@ -70,11 +70,11 @@ public:
     void sendNotificationOverwriteScreenshotRequest(
             QString real_file_path, QString icon_file, QMap<QString, QString> optional_args);
 
-    /// How many blocks of `fs_block_size` bytes the files below `src_path` need beyond those that files of their names
-    /// below `dest_path` give back. Links to folders are followed on the drive of `src_path`, and each folder counts
-    /// once however many lead there. 0 with a line in the log when `src_path` does not exist; 0 for a block size
-    /// below 1; the largest number with a line in the log, which names the folder, when one cannot be read, and when
-    /// there are more than 100,000 files and folders.
+    /// How many blocks of `fs_block_size` bytes the files below `src_path` need, less those that files of the same
+    /// names below `dest_path` free. Links to folders are followed on the drive of `src_path`; each folder counts once,
+    /// however many links lead there. 0, with a line in the log, if `src_path` does not exist; 0 for a block size below
+    /// 1. The largest number, with a line in the log, if a folder, which the line names, cannot be read, or if there
+    /// are more than 100,000 files and folders.
     Q_INVOKABLE qint64 getDirSize(QString src_path, QString dest_path, qint64 fs_block_size);
 
 Q_SIGNALS:

@@ -12,10 +12,10 @@ namespace uiutils {
 class ScreenshotPrivate;
 }
 
-/// The metadata record of a screenshot, by which the instrument's file and cloud tools know what it was taken for.
+/// The metadata record of a screenshot, which tells the instrument's file and cloud tools what it was taken for.
 ///
-/// Pictures are PNG files in "/cust/public/screenshots/", their records lie in "/cust/private/screenshots/metadata/".
-/// Taking and saving the picture is the application's: save the record once the picture is safe.
+/// Pictures are PNG files in "/cust/public/screenshots/"; their records are in "/cust/private/screenshots/metadata/".
+/// The application takes and saves the picture: save the record after the picture is on the disk.
 class UIUTILS_EXPORT Screenshot : public QObject
 {
     Q_OBJECT
@@ -28,15 +28,14 @@ public:
     void setBaseName(const QString& baseName);
     QString baseName() const;
 
-    /// The record as last made.
+    /// The record as it was last made.
     const ReportMetadata& metadata() const;
 
-    /// Makes the record anew: a screenshot, with the pairs "wo" and "workflowId" of the work order that is active now
-    /// in the application's session, as the workflow manager says. Without one, or without a workflow manager, it has
-    /// neither.
+    /// Makes the record again: a screenshot, with the pairs "wo" and "workflowId" of the work order that is active now
+    /// in the application's session. Without one, or without a workflow manager, it has neither.
     void updateMetadataInformation();
 
-    /// Makes the record anew, names it after the picture and writes it. Returns false when it could not be written; see
+    /// Makes the record again, names it after the picture and writes it. Returns false if it could not be written; see
     /// ReportMetadata::saveMetadataToFile().
     bool saveMetadata();
 

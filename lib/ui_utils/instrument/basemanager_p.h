@@ -6,13 +6,13 @@
 
 class KIVClientItem;
 
-/// What the instrument says of itself, its user and its job, read from the services at the moment of the call. All of
-/// it is empty where the service or the item is missing.
+/// What the instrument reports about itself, its user and its job, read from the services at the moment of the call.
+/// Everything is empty if the service or the item is missing.
 namespace uiutils::instrument {
 
-/// The base manager's item, or null; belongs to the back end.
+/// The base manager's item, which belongs to the back end, or null.
 KIVClientItem* baseManagerItem(const QString& id);
-/// The item's value; invalid without it.
+/// The item's value; invalid if there is no item.
 QVariant baseManagerValue(const QString& id);
 /// The value as a text and as a list of texts.
 QString baseManagerText(const QString& id);

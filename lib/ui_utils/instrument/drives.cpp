@@ -35,14 +35,14 @@ QString withoutClipboardMark(const QString& path)
 
 QString shownPath(const QString& path)
 {
-    // Without the slash at the end: the folders themselves are shown, too.
+    // Without a slash at the end, because the folders themselves are shown too.
     const QLatin1String internal("/cust/public");
-    const QLatin1String stick("/mnt/usb");
-    const QString plain = withoutClipboardMark(path);
+    const QLatin1String usb("/mnt/usb");
+    QString plain = withoutClipboardMark(path);
     if (plain.startsWith(internal))
         return QCoreApplication::translate("FileUtils", "Internal:") + plain.mid(internal.size());
-    if (plain.startsWith(stick))
-        return QCoreApplication::translate("FileUtils", "USB:") + plain.mid(stick.size());
+    if (plain.startsWith(usb))
+        return QCoreApplication::translate("FileUtils", "USB:") + plain.mid(usb.size());
     return plain;
 }
 

@@ -2,28 +2,28 @@
 
 #include <QString>
 
-/// The unit's own storage and the USB stick, and how users read the paths on them. Paths are the instrument's.
+/// The unit's own storage and the USB drive, and how users read the paths on them. Paths are the instrument's.
 namespace uiutils::instrument {
 
-/// Whether the path lies on the stick.
+/// Whether the path is on the USB drive.
 bool isOnUsb(const QString& path);
 
-/// Where the copy of a saved file lies on the stick.
+/// The path of the copy of a saved file on the USB drive.
 QString usbPath(const QString& path);
 
-/// Whether the drive of the path can be written to now. Without a stick, the folder of its mount point is the unit's,
-/// and nobody would find there what was to go with the stick.
+/// Whether the drive of the path is there now. Without a USB drive, the folder of its mount point is on the unit, where
+/// nobody would look for what was to be on the drive.
 bool isDriveThere(const QString& path);
 
-/// The path without the "copy:" or "cut:" that a clipboard puts in front.
+/// The path without the "copy:" or "cut:" that the clipboard puts in front.
 QString withoutClipboardMark(const QString& path);
 
-/// The path as messages show it: without a clipboard's mark, with "Internal:" for "/cust/public" and "USB:" for
+/// The path as messages show it: without the clipboard's mark, with "Internal:" for "/cust/public" and "USB:" for
 /// "/mnt/usb".
 QString shownPath(const QString& path);
 
 /// The folder of the clean path as the notice of a saved report shows it: relative to the unit's public folder, "USB"
-/// anywhere on the stick.
+/// anywhere on the USB drive.
 QString shownFolderOf(const QString& path);
 
 } // namespace uiutils::instrument

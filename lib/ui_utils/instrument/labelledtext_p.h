@@ -5,7 +5,7 @@
 
 namespace uiutils::instrument {
 
-/// A line of what the instrument says.
+/// A line of what the instrument reports.
 struct LabelledText
 {
     QString label;
@@ -13,7 +13,7 @@ struct LabelledText
 };
 using LabelledTexts = QVector<LabelledText>;
 
-/// An item without a label goes by its name.
+/// An item without a label is shown with its name.
 inline QString shownLabel(const QString& label, const QString& name)
 {
     return label.isEmpty() ? name : label;

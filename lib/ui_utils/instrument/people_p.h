@@ -7,16 +7,15 @@
 
 namespace uiutils::instrument {
 
-/// Names of the technician's and the customer's fields that the unit is set to include in reports, in the set order.
+/// Names of the technician's and the customer's fields that reports include, in the order of the unit's settings.
 QStringList technicianFieldNames();
 QStringList customerFieldNames();
 
-/// Those of the named fields that exist, with their values as the service gives them ("default" where nobody entered
-/// anything). A field without a label goes by its item's name.
+/// Those of the named fields that exist, with their values as the service gives them ("default" if nobody entered
+/// anything). A field without a label is shown with its item's name.
 LabelledTexts userFields(const QStringList& names);
 
-/// The technician's first and last name, as far as they are among the fields that reports include; empty where nobody
-/// entered one.
+/// The technician's first and last name, each only if reports include that field and somebody entered it.
 QString technicianName();
 
 } // namespace uiutils::instrument

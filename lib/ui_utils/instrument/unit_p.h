@@ -13,7 +13,7 @@ namespace uiutils::instrument {
 /// The barcode of the base unit.
 QString unitId();
 
-/// Name and version of the installed components, as many as both lists hold.
+/// Name and version of the installed components; ends with the shorter of the two lists.
 LabelledTexts softwareRevisions();
 
 /// One entry for each hardware assembly: the parts of its description, empty ones included.

@@ -14,15 +14,16 @@ namespace uiutils {
 class UiDataPrivate;
 }
 
-/// A data item that no service publishes: a form's field, with the face of a service item.
+/// A data item that no service publishes: a form's field, with the interface of a service item.
 ///
-/// Everything but the value is kept as an attribute by name; the properties are views of those. Items that QML declares
-/// enter the shared UiDataContainer when they are complete, and go with the object that declared them; with a register
-/// id they are known by it everywhere in the engine. C++ code sets items up with setAttributes() and setEnums().
+/// Everything but the value is kept as an attribute by name; the properties show the attributes. Items that QML
+/// declares enter the shared UiDataContainer when they are complete, and are deleted with the object that declared
+/// them. An item with a register id is known by it everywhere in the engine. C++ code sets items up with
+/// setAttributes() and setEnums().
 ///
-/// Setters emit on every write, also of what is there already, but for `mandatory` and `valueOk`, which emit changes of
-/// the effective flag, and `persistent`, which never does. Setting attributes as a whole emits validatorChanged()
-/// alone.
+/// Setters emit on every write, also if nothing changes. The exceptions are `mandatory` and `valueOk`, which emit when
+/// the effective flag changes, and `persistent`, which never does. Setting all attributes at once emits only
+/// validatorChanged().
 class UIUTILS_EXPORT UiData : public KivData, public QQmlParserStatus
 {
     Q_OBJECT
@@ -37,21 +38,21 @@ class UIUTILS_EXPORT UiData : public KivData, public QQmlParserStatus
     Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly NOTIFY readOnlyChanged)
     Q_PROPERTY(bool applicable READ isApplicable WRITE setApplicable NOTIFY applicableChanged)
     Q_PROPERTY(QString rangeDescription READ getRangeDescription NOTIFY rangeDescriptionChanged)
-    /// The limits. The validator follows when the event loop runs, so that both can be set first.
+    /// The limits. The validator is updated when the event loop runs, so that both can be set first.
     Q_PROPERTY(QVariant minRange READ getMinRange WRITE setMinRange NOTIFY minRangeChanged)
     Q_PROPERTY(QVariant maxRange READ getMaxRange WRITE setMaxRange NOTIFY maxRangeChanged)
-    /// One of the TYPE_ texts; any other behaves as a whole number.
+    /// One of the TYPE_ texts; any other behaves as an integer.
     Q_PROPERTY(QString type READ getType WRITE setType NOTIFY typeChanged)
-    /// The name under which all pages of the engine know the item. Written once.
+    /// The name under which all pages of the engine know the item. It can be written once.
     Q_PROPERTY(QString registerId READ getRegisterId WRITE setRegisterId)
     Q_PROPERTY(uint inputType READ getInputType WRITE setInputType NOTIFY inputTypeChanged)
-    /// Whether the item takes the stored value of its id when it enters a container.
+    /// Whether the item adopts the stored value of its id when it enters a container.
     Q_PROPERTY(bool persistent READ isPersistent WRITE setPersistent)
     /// Whether the container waits for this item's value to be acceptable.
     Q_PROPERTY(bool mandatory READ isMandatory WRITE setMandatory NOTIFY mandatoryChanged)
-    /// Whether the value is acceptable, as the page found; true at first.
+    /// Whether the page accepts the value; true at first.
     Q_PROPERTY(bool valueOk READ isValueOk WRITE setValueOk NOTIFY valueOkChanged)
-    /// What a text has to match; empty accepts everything. The validator follows at once.
+    /// What a text has to match; empty accepts everything. The validator is updated at once.
     Q_PROPERTY(QString regex READ getRegex WRITE setRegex NOTIFY regexChanged)
     Q_PROPERTY(QValidator* validator READ getValidator NOTIFY validatorChanged)
     /// The choices' values by their names.
@@ -76,7 +77,7 @@ public:
 
     // --- The item by its attributes ---
 
-    /// Replaces all attributes. The first "formatter" among them stays the item's for good.
+    /// Replaces all attributes. The first "formatter" is permanent.
     void setAttributes(const QMap<QString, QVariant>& attributes);
     QVariant getAttr(QString const& key) const override;
 
@@ -114,9 +115,9 @@ public:
 
     // --- The value ---
 
-    /// Takes any value as it is, read-only or not: the code that owns a form sets its fields. Of a vector the elements
-    /// are taken from the text of the value, which is cut at 1 MiB; those that are no number, or none of 32 bits in a
-    /// vector of whole numbers, are 0.
+    /// Accepts any value as it is, read-only or not: the code that owns a form sets its fields. The elements of a
+    /// vector are read from the text of the value, of which at most 1 MiB is used. An element that is no number, or in
+    /// a vector of integers no integer of 32 bits, is 0.
     void setValue(QVariant value) override;
     /// Sets the elements of a vector.
     void setValue(QVector<QVariant> elements);
@@ -126,7 +127,7 @@ public:
     QVariant at(int ind) const override;
     /// What was set last; before that 0, or -1 without elements.
     int getArraySelection() const override;
-    /// Takes any index, also before the elements are there.
+    /// Accepts any index, also before there are elements.
     void setArraySelection(int index) override;
     QString getArraySelectionString() const override;
 
@@ -134,7 +135,7 @@ public:
 
     UiDataEnums* getUiEnumList() const;
     void setUiEnumList(UiDataEnums* list);
-    /// Adds choices, the three lists position by position; what a list lacks is empty.
+    /// Adds choices from the three lists, position by position; what a list lacks is empty.
     void setEnums(const QList<int>& values, const QStringList& labels, const QStringList& names);
     void setEnums(const QList<int>& values, const QStringList& labels);
     QObject* getEnums() const override;
@@ -163,7 +164,7 @@ public:
     Q_INVOKABLE QVariant getProperty(QString const& prop) const override;
     /// Element `ind` of a vector; undefined outside.
     Q_INVOKABLE QVariant variantAt(int ind) const override;
-    /// Inserts before element `ind`, or behind the last one; nothing happens for any other position.
+    /// Inserts before element `ind`, or after the last one; nothing happens for any other position.
     Q_INVOKABLE void insertAt(int ind, const QVariant& val);
     Q_INVOKABLE void removeAt(int at);
     Q_INVOKABLE QVariant getArrayValue(int index) const override;

@@ -25,16 +25,16 @@ public:
     void joinElements();
     void holdText(const QString& text);
     void setQuality(int code);
-    void tellContainers();
+    void updateContainers();
     void registerInEngine(QQmlContext* context);
 
     QMap<QString, QVariant> attributes;
     QVector<QVariant> elements;
-    /// The elements have changed since their text was made, which waits until somebody asks for it.
+    /// The elements have changed since their text was made; it is made again when it is requested.
     bool isTextStale = false;
     /// As it was set last.
     std::optional<int> arraySelection;
-    /// QML is setting what its file says.
+    /// QML is setting the properties that its file declares.
     bool isBeingDeclared = false;
     QPointer<UiDataEnums> enumList;
     QQmlPropertyMap* enumMap = nullptr;
@@ -42,7 +42,7 @@ public:
     QList<int> enumValues;
     QPointer<QObject> declarer;
     QPointer<QQmlContext> rootContext;
-    /// Those that the item stands in, and whether it keeps them from being ready.
+    /// The containers that hold the item, and whether it keeps them from being ready.
     QVector<UiDataContainer*> containers;
     bool isHindrance = false;
 

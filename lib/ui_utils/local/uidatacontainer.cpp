@@ -17,7 +17,7 @@ UiDataContainer::UiDataContainer(QObject* parent)
 
 UiDataContainer::~UiDataContainer()
 {
-    // The children go after this and would look for their entries.
+    // The children are deleted after this and would look for their entries.
     const QList<UiData*> items = d->items.values();
     for (UiData* item : items)
         UiDataPrivate::of(item)->containers.removeAll(this);
@@ -50,7 +50,7 @@ void UiDataContainer::addItem(UiData* item)
     item->setParent(this);
     const QString id = item->getId();
     d->enter(id, item);
-    // Whoever hears of the stored value may end the item or the container.
+    // A listener to the stored value may delete the item or the container.
     const QPointer<UiData> guard(item);
     const QPointer<UiDataContainer> self(this);
     const auto stored = d->persistentConfig.constFind(id);
@@ -70,7 +70,7 @@ void UiDataContainerPrivate::enter(const QString& id, UiData* item)
     items.insert(id, item);
     ids.insert(item, id);
     UiDataPrivate* parts = UiDataPrivate::of(item);
-    parts->tellContainers();
+    parts->updateContainers();
     if (!parts->containers.contains(q)) {
         parts->containers.append(q);
         hindrances += parts->isHindrance ? 1 : 0;
@@ -86,7 +86,7 @@ void UiDataContainerPrivate::leave(UiData* item)
         hindrances -= parts->isHindrance ? 1 : 0;
 }
 
-/// By its address, because an item's id may have changed since it came in, and another one may have taken its place.
+/// By its address, because an item's id may have changed since it was added, and another item may have its place now.
 void UiDataContainer::removeItem(UiData* item)
 {
     const QStringList ids = d->ids.values(item);

@@ -15,40 +15,40 @@ namespace uiutils {
 class UiDataContainerPrivate;
 }
 
-/// Local data items that belong together: one answer whether all of them may be used, one signal when any of them
+/// Local data items that belong together: one flag for whether all of them may be used, one signal when any of them
 /// changes, and the place where persistent items find their stored values.
 class UIUTILS_EXPORT UiDataContainer : public QObject
 {
     Q_OBJECT
-    /// Whether every mandatory item's value is acceptable. False until the first item comes in. Worked out anew when an
-    /// item comes in and when a value changes, not when an item's `valueOk` or `mandatory` alone does.
+    /// Whether every mandatory item's value is acceptable. False until the first item is added. Updated when an item
+    /// is added and when a value changes, but not when only an item's `valueOk` or `mandatory` changes.
     Q_PROPERTY(bool allItemsOk READ getAllItemsOk NOTIFY allItemsOkChanged)
 
 public:
     explicit UiDataContainer(QObject* parent = nullptr);
     ~UiDataContainer() override;
 
-    /// The container of all items that QML declares, made by the first call; it lives as long as the process.
+    /// The container of all items that QML declares. The first call creates it; it lives as long as the process.
     static UiDataContainer* shared();
 
     bool getAllItemsOk() const;
 
-    /// Takes an item in, as the child of the container, in place of any other with its id. A persistent item takes the
-    /// stored value of its id. Emits valueChanged() once.
+    /// Adds an item as a child of the container, in place of any other with its id. A persistent item adopts the stored
+    /// value of its id. Emits valueChanged() once.
     void addItem(UiData* item);
-    /// Takes an item out; it stays a child of the container. Nothing happens, and nobody is told, when it is not in.
+    /// Removes an item, which stays a child of the container. Emits nothing. Nothing happens if it is not in.
     void removeItem(UiData* item);
     /// The items by their ids.
     QMap<QString, UiData*> getItems() const;
 
-    /// Replaces the stored values, by item id; items that are in already keep theirs.
+    /// Replaces the stored values, by item id. Items that are in the container already keep their values.
     void setPersistentConfigMap(QMap<QString, QVariant> values);
 
     static UiDataContainer* s_dcInstance;
 
 Q_SIGNALS:
     void allItemsOkChanged();
-    /// A value of an item has changed, or an item has come in.
+    /// A value of an item has changed, or an item was added.
     void valueChanged();
 
 public Q_SLOTS:

@@ -6,7 +6,7 @@
 
 namespace uiutils {
 
-/// What a container knows of its items.
+/// What a container knows about its items.
 class UiDataContainerPrivate
 {
 public:
@@ -21,10 +21,10 @@ public:
     void leave(UiData* item);
 
     QMap<QString, UiData*> items;
-    /// The ids under which an item stands.
+    /// The ids under which an item is entered.
     QMultiHash<UiData*, QString> ids;
-    /// Mandatory items with a value that is not acceptable. Items count themselves, so that no change of a value takes
-    /// a walk over all of them.
+    /// Number of mandatory items with a value that is not acceptable. Items count themselves, so that no change of a
+    /// value has to visit all of them.
     int hindrances = 0;
     bool areItemsOk = false;
     QMap<QString, QVariant> persistentConfig;

@@ -72,7 +72,7 @@ void UiDataEnums::append(UiEnumType* a)
 
 void UiDataEnums::forget(QObject* choice)
 {
-    // Only its address is left of it.
+    // Only its address can be used now.
     const auto end = std::remove_if(d->choices.begin(), d->choices.end(),
             [choice](const UiEnumType* kept) { return static_cast<const QObject*>(kept) == choice; });
     if (end == d->choices.end())

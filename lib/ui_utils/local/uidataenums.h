@@ -16,15 +16,15 @@ class UiDataEnumsPrivate;
 
 /// The choices of a local data item, in their order.
 ///
-/// The list owns no choice; one that is destroyed leaves it. Choices come in silently until componentComplete(), which
-/// announces them at once; from then on every further one emits itemsChanged(). A choice whose applicability changes
-/// always does.
+/// The list owns no choice; a destroyed choice is removed from it. Choices are added silently until
+/// componentComplete(), which announces them at once. From then on every further one emits itemsChanged(). A choice
+/// whose applicability changes always does.
 class UIUTILS_EXPORT UiDataEnums : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
     Q_CLASSINFO("DefaultProperty", "items")
-    /// The choices as QML declares them; only UiEnumType objects are taken.
+    /// The choices as QML declares them; only UiEnumType objects are accepted.
     Q_PROPERTY(QQmlListProperty<QObject> items READ getItems NOTIFY itemsChanged)
 
 public:

@@ -46,8 +46,8 @@ QString timeText(const QTime& time)
     return time.toString(QLatin1String("HH:mm") + seconds);
 }
 
-/// The literal that stands for the value in a QML file, where that is a text: "1,2" for a point, "10:20" for a time.
-/// Other values as they are.
+/// The text that stands for the value in a QML file, if there is one: "1,2" for a point, "10:20" for a time. Other
+/// values as they are.
 QVariant asLiteral(const QVariant& value)
 {
     switch (value.userType()) {
@@ -91,7 +91,7 @@ QString textOf(const QVariant& value)
     return asLiteral(value).toString();
 }
 
-/// The comma-joined text that stands for a vector, whatever QML gave.
+/// The text of a vector: its elements, separated by commas, whatever form QML gave it in.
 QString vectorText(const QVariant& value)
 {
     if (value.type() != QVariant::List && value.type() != QVariant::StringList)
@@ -99,7 +99,7 @@ QString vectorText(const QVariant& value)
     return value.toStringList().join(QLatin1Char(','));
 }
 
-/// A whole number of 32 bits; 0 for whatever is none.
+/// An integer of 32 bits; 0 for any other value.
 int wholeNumber(const QVariant& value)
 {
     if (value.type() == QVariant::String)
@@ -117,7 +117,8 @@ bool UiDataPrivate::isVectorType() const
     return type == UiData::TYPE_VEC_INT || type == UiData::TYPE_VEC_DOUBLE || type == UiData::TYPE_VEC_STRING;
 }
 
-/// QML makes a point of the literal "1,2" and a time of "10:20" where any value is taken. A text is what was written.
+/// QML turns the literal "1,2" into a point and "10:20" into a time where any value is accepted. A text is what was
+/// written.
 QVariant UiDataPrivate::declared(const QVariant& given) const
 {
     return isBeingDeclared && (q->getType() == UiData::TYPE_STRING || isVectorType()) ? asLiteral(given) : given;
@@ -215,7 +216,7 @@ QString UiData::getValueString(bool showUnits) const
         const int position = d->enumValues.indexOf(getValue().toInt());
         return getValue().isValid() ? d->enumLabels.value(position) : QString();
     }
-    return type == TYPE_DOUBLE ? uiutils::plainText(getValue().toDouble(), getPrecision()) : textOf(getValue());
+    return type == TYPE_DOUBLE ? uiutils::fixedPointText(getValue().toDouble(), getPrecision()) : textOf(getValue());
 }
 
 int UiData::getValueCount() const
@@ -264,7 +265,7 @@ void UiData::removeAt(int at)
     if (!isWithin(at, d->elements.size()) || !mayWrite(true))
         return;
     d->elements.removeAt(at);
-    // What was selected at the end moves with the end.
+    // If the last element was selected, the new last one is.
     if (d->arraySelection == d->elements.size() && !d->elements.isEmpty())
         --*d->arraySelection;
     d->isTextStale = true;

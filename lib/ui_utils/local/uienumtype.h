@@ -22,7 +22,7 @@ class UIUTILS_EXPORT UiEnumType : public QObject
     Q_PROPERTY(QString name READ getName WRITE setName NOTIFY nameChanged)
     /// The value that the item takes with this choice. Every write emits valueChanged().
     Q_PROPERTY(int value READ getValue WRITE setValue NOTIFY valueChanged)
-    /// Whether the choice may be taken now; true at first. A write emits applicableChanged() when it changes the flag.
+    /// Whether the choice may be selected now; true at first. A write emits applicableChanged() if it changes the flag.
     Q_PROPERTY(bool applicable READ isApplicable WRITE setApplicable NOTIFY applicableChanged)
 
 public:

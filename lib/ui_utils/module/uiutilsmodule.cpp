@@ -97,7 +97,7 @@ QMap<QString, QString> textsOf(const QJSValue& object)
     return texts;
 }
 
-/// QML hands over an object of its own where a map of texts is wanted.
+/// Where a map of texts is expected, QML passes an object of its own.
 void registerTexts()
 {
     qRegisterMetaType<QMap<QString, QString>>("QMap<QString,QString>");
@@ -108,8 +108,8 @@ void registerTexts()
 void registerFileTypes(const char* uri)
 {
     registerTexts();
-    qmlRegisterUncreatableType<KIVNotification>(
-            uri, 1, 0, "KIVNotification", QStringLiteral("A notification is made by whoever tells or asks something."));
+    qmlRegisterUncreatableType<KIVNotification>(uri, 1, 0, "KIVNotification",
+            QStringLiteral("Notifications are made by the objects that notify or ask users."));
     qmlRegisterSingletonType<KIVNotificationModelManager>(uri, 1, 0, "Notifications", notifications);
     qmlRegisterType<FileUtils>(uri, 1, 0, "FileUtils");
     qmlRegisterType<Screenshot>(uri, 1, 0, "Screenshot");

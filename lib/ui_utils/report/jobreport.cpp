@@ -12,7 +12,7 @@ namespace uiutils {
 
 namespace {
 
-/// Why the schema does not allow the report; empty when it does.
+/// Why the schema does not allow the report; empty if it does.
 QString schemaProblem(const QByteArray& xml, const QString& schemaPath)
 {
     if (schemaPath.isEmpty())
@@ -24,18 +24,19 @@ QString schemaProblem(const QByteArray& xml, const QString& schemaPath)
     }
     if (validator.validate(xml))
         return QString();
-    return ReportTexts::tr("The report is not what jobs accept: %1").arg(validator.errors().join(QLatin1Char('\n')));
+    return ReportTexts::tr("The report does not match the job schema: %1")
+            .arg(validator.errors().join(QLatin1Char('\n')));
 }
 
-/// Why the base manager does not take the report; empty when it has.
-QString refusal(const QByteArray& xml)
+/// Attaches the report. Why the base manager has rejected it; empty if it has not.
+QString rejection(const QByteArray& xml)
 {
     KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
     if (!client || !instrument::isJobActive())
         return ReportTexts::tr("There is no active job");
     if (client->sendAction(itemids::attachReport, QString::fromUtf8(xml), nullptr, KIVClientInterface::callTimeout))
         return QString();
-    return ReportTexts::tr("The job has not taken the report: %1").arg(client->getLastError());
+    return ReportTexts::tr("The job has rejected the report: %1").arg(client->getLastError());
 }
 
 } // namespace
@@ -43,11 +44,11 @@ QString refusal(const QByteArray& xml)
 bool attachToJob(const QByteArray& xml, const QString& schemaPath, QString* reason)
 {
     QString problem;
-    // Without a job nobody need hear what is wrong with the report.
+    // Without a job it does not matter what is wrong with the report.
     if (instrument::isJobActive())
         problem = schemaProblem(xml, schemaPath);
     if (problem.isEmpty())
-        problem = refusal(xml);
+        problem = rejection(xml);
     if (reason)
         *reason = problem;
     return problem.isEmpty();

@@ -22,7 +22,7 @@ std::optional<int> offsetSeconds(const QString& zone)
 
 bool NSReport::isGeoLocationValid(double latitude, double longitude)
 {
-    // What is not a number compares with nothing.
+    // Comparisons with NaN are false.
     const bool isOnEarth = std::abs(latitude) <= 90 && std::abs(longitude) <= 180;
     return isOnEarth && (latitude != 0 || longitude != 0);
 }
@@ -34,6 +34,6 @@ QDateTime NSReport::adjustDateTimeToTimeZone(const QDateTime& dateTime, const QS
     if (const auto offset = offsetSeconds(zone))
         return dateTime.toOffsetFromUtc(*offset);
     const QTimeZone timeZone(zone.toUtf8());
-    // An empty id would mean the zone of the machine.
+    // An empty id would mean the system's zone.
     return !zone.isEmpty() && timeZone.isValid() ? dateTime.toTimeZone(timeZone) : dateTime;
 }

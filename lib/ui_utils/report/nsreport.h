@@ -5,10 +5,10 @@
 #include <QDateTime>
 #include <QString>
 
-/// What reports and those who make them have in common.
+/// What reports and their controllers share.
 namespace NSReport {
 
-/// The formats that a report is saved in; ALL stands for every one that is applicable.
+/// The formats that a report can be saved in; ALL means every format that is applicable.
 enum ReportFormat {
     REPORT_FORMAT_PDF = 0,
     REPORT_FORMAT_XML,
@@ -18,12 +18,12 @@ enum ReportFormat {
     REPORT_FORMAT_ALL
 };
 
-/// Whether the two, in degrees, are a place on earth: -90 to 90 and -180 to 180. 0, 0 is none, because a receiver
-/// without a fix says so.
+/// Whether the two, in degrees, are a place on earth: -90 to 90 and -180 to 180. 0, 0 is not valid, because receivers
+/// without a fix report it.
 UIUTILS_EXPORT bool isGeoLocationValid(double latitude, double longitude);
 
 /// The same moment in a time zone: an IANA id ("Europe/Oslo") or an offset of at most 14 hours ("+02:00", "-0330",
-/// "+02"). `dateTime` as it is where it is invalid or the zone is not known.
+/// "+02"). Returns `dateTime` unchanged if it is invalid or the zone is not known.
 UIUTILS_EXPORT QDateTime adjustDateTimeToTimeZone(const QDateTime& dateTime, const QString& zone);
 
 } // namespace NSReport

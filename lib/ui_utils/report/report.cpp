@@ -18,7 +18,7 @@ using uiutils::changes;
 
 namespace {
 
-/// Milliseconds that the page has to set its folder.
+/// Milliseconds in which the page can set its folder.
 constexpr int settingsDelay = 100;
 
 } // namespace
@@ -39,7 +39,7 @@ Report::Report(QObject* parent)
     d->watchServices();
     d->createSettings();
     QTimer::singleShot(settingsDelay, this, &Report::slotCreateSettings);
-    for (const uiutils::ReportFormat& format : uiutils::allReportFormats())
+    for (const uiutils::FormatInfo& format : uiutils::allReportFormats())
         setFormatApplicable(format.value, format.isAlwaysOffered);
     if (KIVClientInterface* client = KIVClientInterface::getBaseMgrClient())
         client->setItem(uiutils::itemids::customDefaultName, QString());
@@ -99,7 +99,7 @@ QString Report::getBaseDirectory() const
 
 void Report::setBaseDirectory(const QString& directory)
 {
-    // With a slash behind it, no folder would be the top of the file system.
+    // With a slash appended, an empty folder would be the top of the file system.
     if (changes(d->baseDirectory, directory.isEmpty() ? QString(uiutils::paths::reports) : directory))
         d->tellLocation();
 }
@@ -161,7 +161,7 @@ void Report::setCanWriteToFile(bool allowed)
         Q_EMIT canWriteToFileChanged();
 }
 
-/// Of the next save: one that runs goes on to where it began, but nobody hears of it when it is over.
+/// That of the next save: a running one writes to where it began, but nobody is notified when it is over.
 QString Report::getSaveLocation()
 {
     return uiutils::instrument::shownPath(uiutils::ReportDestinations::current().folder(getReportFilePath()));

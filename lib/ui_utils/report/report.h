@@ -24,43 +24,44 @@ class ReportPrivate;
 } // namespace uiutils
 
 /// Makes reports of what a page has measured: holds the document and the user's settings, decides name, format and
-/// folder, asks before it overwrites, writes, and tells the user.
+/// folder, asks before it overwrites, writes the files, and notifies the user.
 ///
 /// Applications derive from it: every virtual has a working default, and save() and the writers call back through them.
-/// A derived controller builds the content in document() and, for text and JSON, returns it from its generators, with
-/// uiutils::reportText() and uiutils::reportJson() as a rule.
+/// A derived controller builds the content in document(). For text and JSON its generators return the content, usually
+/// from uiutils::reportText() and uiutils::reportJson().
 ///
 /// Paths are the instrument's ("/cust/public/reports/otdr/a.pdf"). Setters emit their notifier when the value changes.
-/// Everything runs on the thread of the screens and blocks until the file is on the disk.
+/// Everything runs on the GUI thread and blocks until the file is on the disk.
 class UIUTILS_EXPORT Report : public QObject
 {
     Q_OBJECT
-    /// The JSON file of the document. One that cannot be read changes nothing and emits nothing.
+    /// The JSON file of the document. A file that cannot be read changes nothing and emits nothing.
     Q_PROPERTY(QString templatePath READ getTemplatePath WRITE setTemplatePath NOTIFY templatePathChanged)
-    /// The folder below which the reports of the unit lie; ends in "/". Empty stands for the unit's own.
+    /// The folder that contains the reports of the unit; ends in "/". Set it to "" for the unit's default.
     Q_PROPERTY(QString baseDirectory READ getBaseDirectory WRITE setBaseDirectory)
-    /// The kind of test; the template's while none is set.
+    /// The kind of test; the template's until one is set.
     Q_PROPERTY(QString tag READ getTag WRITE setTag NOTIFY tagChanged)
-    /// The folder of these reports, which also names the file of the settings; the tag while none is set.
+    /// The folder of these reports, which also names the file of the settings; the tag until one is set.
     Q_PROPERTY(QString folder READ getFolder WRITE setFolder NOTIFY folderChanged)
     /// Whether the report may be attached to a job now: allowed here or by the template, and a job is active.
     Q_PROPERTY(bool canWriteToJobManager READ getCanWriteToJobManager WRITE setCanWriteToJobManager NOTIFY
                     canWriteToJobManagerChanged)
-    /// Whether the report may be saved as a file; the template's answer while none is set.
+    /// Whether the report may be saved as a file; what the template says until it is set.
     Q_PROPERTY(bool canWriteToFile READ getCanWriteToFile WRITE setCanWriteToFile NOTIFY canWriteToFileChanged)
-    /// The folder into which the next save goes, as users read it.
+    /// The folder into which the next save writes, as users read it.
     Q_PROPERTY(QString saveLocation READ getSaveLocation NOTIFY saveLocationChanged)
-    /// The saved reports where the next save goes, a folder of the unit or the stick, newest first: maps of `name`,
-    /// `path`, `format`, `size` in bytes, `time` and `compressed`. Read again when the folder has changed.
+    /// The saved reports in the folder into which the next save writes, on the unit or on the USB drive, newest first:
+    /// maps of `name`, `path`, `format`, `size` in bytes, `time` and `compressed`. Read again when the folder has
+    /// changed.
     Q_PROPERTY(QVariantList reportFiles READ getReportFiles NOTIFY reportFilesChanged)
     /// The XML report that this object saved last; empty before.
     Q_PROPERTY(QString lastSavedXML READ getLastSavedXML NOTIFY lastSavedXMLChanged)
-    /// "portrait" or "landscape"; the template's while none is set, "portrait" when that says nothing either.
+    /// "portrait" or "landscape"; the template's until one is set, "portrait" if the template has none.
     Q_PROPERTY(QString orientation READ getOrientation WRITE setOrientation NOTIFY orientationChanged)
-    /// The template's while none is set.
+    /// The template's until one is set.
     Q_PROPERTY(QString title READ getTitle WRITE setTitle NOTIFY titleChanged)
     Q_PROPERTY(QString subject READ getSubject WRITE setSubject NOTIFY subjectChanged)
-    /// What the report shows beside the document.
+    /// What the report shows in addition to the document.
     Q_PROPERTY(bool includeJobInfo READ getIncludeJobInfo WRITE setIncludeJobInfo NOTIFY includeJobInfoChanged)
     Q_PROPERTY(bool includeCustomerInfo READ getIncludeCustomerInfo WRITE setIncludeCustomerInfo)
     Q_PROPERTY(bool showHardwareRevs READ getShowHardwareRevs WRITE setShowHardwareRevs NOTIFY showHardwareRevsChanged)
@@ -69,16 +70,17 @@ class UIUTILS_EXPORT Report : public QObject
     Q_PROPERTY(QString jobSummary READ getJobSummary NOTIFY jobSummaryChanged)
     /// The XML schema that reports for jobs are checked against; empty for none.
     Q_PROPERTY(QString jobSchema READ getJobSchema WRITE setJobSchema NOTIFY jobSchemaChanged)
-    /// What the user chooses, by name: "reportName", "reportFormat", "reportSync_SS" and what derived controllers add.
+    /// What the user chooses, by name: "reportName", "reportFormat", "reportSync_SS" and those that derived controllers
+    /// add.
     Q_PROPERTY(QVariantMap settings READ getSettings NOTIFY settingsChanged)
     /// What the user chooses for a job.
     Q_PROPERTY(QVariantMap jobSettings READ getJobSettings)
     Q_PROPERTY(bool hasJobSettings READ hasJobSettings)
-    /// Whether a saved report is told in the tray; true at first.
+    /// Whether the tray notifies the user of a saved report; true by default.
     Q_PROPERTY(bool notifiesTray READ getNotifiesTray WRITE setNotifiesTray)
-    /// Pictures of the screen that belong to the report.
+    /// Screenshots that belong to the report.
     Q_PROPERTY(QStringList screenshotList READ getScreenshotList WRITE setScreenshotList NOTIFY screenshotListChanged)
-    /// Whether a save writes now, and how much of it is written, 0 to 1: a PDF page by page, all formats in equal
+    /// Whether a save is writing now, and how much of it is written, 0 to 1: a PDF page by page, all formats in equal
     /// shares.
     Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
     Q_PROPERTY(double progress READ getProgress NOTIFY progressChanged)
@@ -91,11 +93,11 @@ public:
     static const QString JSON_EXTENSION;
     static const QString SOR_EXTENSION;
     static const QString GZIP_EXTENSION;
-    /// The items that the HTML pass collects and the page renderer prints. Each pass first deletes those of the last
-    /// one. What an application appends is printed too, stays and remains its own.
+    /// The items that the HTML pass collects and the page renderer prints. Each pass first deletes those of the pass
+    /// before. What an application appends is printed too, stays in the list and remains the application's.
     static QList<ReportItem*>& m_reportItems;
 
-    /// Makes the settings. They take the values of the settings file 100 ms later, when the page has set its folder.
+    /// Makes the settings. They take the values of the settings file 100 ms later, after the page has set its folder.
     explicit Report(QObject* parent = nullptr);
     ~Report() override;
 
@@ -141,46 +143,47 @@ public:
     bool isSaving() const;
     double getProgress() const;
 
-    /// Whether the page lives on while a report is saved: save() then handles events between pages and formats, so that
-    /// the page can show the progress and call cancel(). It has to keep users from everything else for as long as
-    /// `saving` is true, as SaveProgress of UiUtils.Controls does, and must not go itself. False at first. For derived
-    /// controllers, whose pages are made for it.
+    /// Whether the page handles events while a report is saved: save() then does so between pages and formats, and the
+    /// page can show the progress and call cancel(). The page has to keep users from everything else for as long as
+    /// `saving` is true, as SaveProgress of UiUtils.Controls does, and must not be deleted. False by default. For
+    /// derived controllers, whose pages are made for it.
     bool isInteractive() const;
     void setInteractive(bool interactive);
 
     QString getTestTime() const;
     QString getTestDuration() const;
 
-    /// Whether reports are saved as gzip files, with ".gz" behind their suffix; false at first.
+    /// Whether reports are saved as gzip files, with ".gz" after their suffix; false by default.
     bool isCompressionEnabled() const;
     void setCompressionEnabled(bool enabled);
 
-    /// Replaces the file by its compressed form with ".gz" behind its name, or back. False with a line in the log when
-    /// gzip fails.
+    /// Replaces the file by its compressed form, which has ".gz" after its name, or the other way round. False, with a
+    /// line in the log, if gzip fails.
     bool compressFile(const QString& path);
     bool uncompressFile(const QString& path);
 
-    /// Copies the saved report to the stick, durably, over one of its name; tells the user when that fails.
+    /// Copies the saved report to the USB drive, durably, and replaces one of its name there. Notifies the user if that
+    /// fails.
     void saveToUsb(const QString& name, const QString& suffix);
 
-    /// An NSReport::ReportFormat; -1 without the item "reportFormat" or its value.
+    /// An NSReport::ReportFormat; -1 if the item "reportFormat" does not exist or has no value.
     int getFormat() const;
-    /// The suffix of the chosen format with its dot; empty for ALL and without a format.
+    /// The suffix of the chosen format, with its dot; empty for ALL and without a format.
     QString getSuffixForReport() const;
 
-    /// What derived controllers build the content in.
+    /// The document that derived controllers build.
     ReportTemplate& document();
     const ReportTemplate& document() const;
 
     // --- The order of these is part of the binary interface. ---
 
-    /// A derived controller gets its data ready here before the page calls save().
+    /// Called by the page before save(): a derived controller prepares its data here.
     Q_INVOKABLE virtual void startPossibleSave();
-    /// Saves the report as the settings say, and emits reportGenerated(). False when nothing or not everything was
-    /// written: the user has been told why, has cancelled it, or is being asked whether to overwrite; after
-    /// reportOverwriteAccepted() the page calls save(true), which goes where the question was about. A question that is
-    /// still open is taken back. False without more from a slot of what a save of the same controller emits before
-    /// reportGenerated().
+    /// Saves the report as the settings say, and emits reportGenerated(). False if nothing or not everything was
+    /// written: the user has been notified of the reason, has cancelled the save, or is asked whether to overwrite.
+    /// After reportOverwriteAccepted() the page calls save(true), which writes where the files of the question lie. A
+    /// question that is still open is withdrawn. In a slot of a signal that a save of the same controller emits before
+    /// reportGenerated(), it returns false and does nothing.
     Q_INVOKABLE virtual bool save(bool overwrite = false);
     Q_INVOKABLE void setTestTime(const QString& testTime);
     Q_INVOKABLE void setTestDuration(const QString& testDuration);
@@ -190,15 +193,15 @@ public:
     Q_INVOKABLE bool isText() const;
     Q_INVOKABLE bool isJson() const;
     Q_INVOKABLE bool isAll() const;
-    /// The settings item of that name, which belongs to the controller; null without one.
+    /// The settings item of that name, which belongs to the controller; null if there is none.
     Q_INVOKABLE virtual KivData* getSetting(const QString& name);
     Q_INVOKABLE virtual KivData* getConstSetting(const QString& name) const;
-    /// The name that is offered to the user: the test's short label and the time.
+    /// The name that is proposed to the user: the test's short label and the time.
     Q_INVOKABLE virtual QString proposedFileName();
     Q_INVOKABLE virtual void setCustomDefaultReportName(const QString& name);
-    /// Why no report can be made now, in words for the user; empty when one can.
+    /// Why no report can be made now, for the user; empty if one can.
     Q_INVOKABLE virtual QString cannotGenerateReportMessage();
-    /// The report's text. Null, the default, stands for none: an empty text file, a JSON file of "{ }".
+    /// The report's text. Null, the default, means none: an empty text file, a JSON file of "{ }".
     Q_INVOKABLE virtual QString generateTxtReport();
     Q_INVOKABLE virtual QString generateJsonReport();
     /// The document in these forms.
@@ -207,71 +210,73 @@ public:
     Q_INVOKABLE virtual QString generateHtmlReport();
     /// Whether generatePDFReport() makes pages of its own.
     Q_INVOKABLE virtual bool hasCustomPDF();
-    /// The bytes of the PDF file; empty when it cannot be made.
+    /// The bytes of the PDF file; empty if it cannot be made.
     Q_INVOKABLE virtual QByteArray generatePDFReport();
-    /// Writers: `path` with the format's suffix on it. False when it was not written; the user is asked or told.
+    /// Writers; `path` includes the format's suffix. False if the file was not written; the user is asked or notified.
     Q_INVOKABLE bool writeTxtReport(const QString& path, bool overwrite = false);
     Q_INVOKABLE virtual bool writeJsonReport(const QString& path, bool overwrite = false);
-    /// The reports that the cloud leaves alone.
+    /// The list of reports that the cloud does not sync.
     Q_INVOKABLE void addReportToNoSyncList(const QString& filePath);
     Q_INVOKABLE void writeNoSyncListToFile(const QStringList& noSync_fileList);
     Q_INVOKABLE void removeReportFromNoSyncList(const QString& filePath);
     Q_INVOKABLE bool writeHtmlReport(const QString& path, bool overwrite = false);
     Q_INVOKABLE virtual bool writeXmlReport(const QString& path, bool overwrite = false);
     Q_INVOKABLE bool writePDFReport(const QString& path, bool overwrite = false);
-    /// Attaches the report to the active job. False when that is not possible; the user has been told why.
+    /// Attaches the report to the active job. False if that is not possible; the user has been notified of the reason.
     Q_INVOKABLE bool writeToJobManager();
     /// How much of the file system at `path` is in use, 0 to 100.
     Q_INVOKABLE double percentageFileSystemUsed(const QString& path = QStringLiteral("/cust/public/reports/"));
-    /// Opens a PDF report in the instrument's viewer, the one saved or shown last for an empty path; nothing happens
-    /// for other files.
+    /// Opens a PDF report in the instrument's viewer; for an empty path, the one saved or shown last. Does nothing for
+    /// other files.
     Q_INVOKABLE void showPDF(const QString& path);
-    /// The file of one of `reportFiles`, given its name with or without suffix, the newest of several; empty without
-    /// one.
+    /// The path of the one of `reportFiles` that has this name, with or without suffix; the newest of several. Empty if
+    /// there is none.
     Q_INVOKABLE QString getOpenReportPath(const QString& nm);
     /// The unit's own folder of these reports; ends in "/".
     Q_INVOKABLE virtual QString getReportFilePath();
     Q_INVOKABLE virtual QString getCdmTestType();
     Q_INVOKABLE virtual QString getCdmTestLabel();
-    /// Takes both from the base manager: "none" and "None" when it says nothing.
+    /// Takes both from the base manager: "none" and "None" if it has none.
     Q_INVOKABLE virtual void setCdmTestTypeAndLabel();
-    /// Ends the save that is running before the next page or format. What is written by then stays; the user, who wants
-    /// it so, is told nothing.
+    /// Ends the running save before the next page or format. What is written by then stays. The user, who wanted it, is
+    /// not notified.
     Q_INVOKABLE void cancel();
 
-    /// Where the report `name` goes now, with `suffix` behind it unless it ends so. Makes the folder.
+    /// The path of a report `name` that is saved now, with `suffix` appended unless it ends so. Makes the folder.
     virtual QString getSaveFilePath(const QString& name, const QString& suffix);
-    /// Writes a text as UTF-8, compressed if enabled, and tells the user. `path` has the suffix on it. A file that
-    /// exists, compressed or not, is not written but asked for, unless `overwrite`.
+    /// Writes a text as UTF-8, compressed if enabled, and notifies the user. `path` includes the suffix. If a file
+    /// exists, compressed or not, nothing is written and the user is asked, unless `overwrite`.
     virtual bool writeTextReport(const QString& path, const QString& text, const QString& suffix, bool overwrite);
 
 protected:
     // Hooks: the defaults do nothing.
-    /// The settings have taken the values that are stored for the folder: 100 ms after construction, and whenever
-    /// another folder has brought its own, then behind the notifiers of the setter.
+    /// The settings have taken the values that are stored for the folder: 100 ms after construction, and whenever a new
+    /// folder has brought its own; then after the notifiers of the setter.
     virtual void settingsLoaded();
-    /// A save begins; the settings are stored, nothing is written.
+    /// A save begins; the settings are stored, no file is written yet.
     virtual void saveStarted(const QString& name);
-    /// The document will be written next: bring it up to date.
+    /// The document is about to be written: bring it up to date.
     virtual void prepareDocument();
     /// A file has been written.
     virtual void reportWritten(const QString& path);
     /// The user is being asked whether `path` may be overwritten, or has said no.
     virtual void overwriteAsked(const QString& path);
     virtual void overwriteDeclined(const QString& path);
-    /// A save ended with everything written, the first file at `path`, or without: `name` as it was to be.
+    /// A save has ended with everything written, the first file at `path`; or it has failed, and `name` is the name
+    /// that the report was to have.
     virtual void saveSucceeded(const QString& path);
     virtual void saveFailed(const QString& name);
 
     /// Called for each report that a save has written, once it is safe: `format` is "PDF", "XML" and so on. The default
-    /// writes its metadata record, which tells of the work order and of the job. A record that cannot be written is
-    /// told to the log alone.
+    /// writes its metadata record, with the work order and the job. If a record cannot be written, only the log has a
+    /// line.
     virtual void writeMetadata(const QString& path, const QString& format);
-    /// Whether what the active job needs is there, its ID; asked before a report is attached to it or tells of it.
+    /// Whether the active job is complete, that is, has an ID; checked before a report is attached to it or its record
+    /// names it.
     virtual bool ensureValidJobData();
-    /// Adds what the job manager and the test say to metadata(): "jobId", "testType", "testLabel".
+    /// Adds the data of the job and of the test to metadata(): "jobId", "testType", "testLabel".
     virtual void updateJobTestMetadata();
-    /// Whether the platform shall keep the report's name as that of the next one; true.
+    /// Whether the platform shall keep the report's name for the next report; true by default.
     virtual bool keepsReportName();
 
     /// The record of the report that was saved last, or is being saved.
@@ -279,28 +284,27 @@ protected:
     /// Adds "wo" and "workflowId" of the work order that is active in this session to metadata().
     void addWorkOrderMetaDataInfo();
 
-    /// Adds an item with name, type and label among its attributes to the settings, which own it from then on. The
-    /// value that it holds when control is back in the event loop, or at the first load before, is the one that it
-    /// starts with; any other was set by somebody.
+    /// Adds an item, which must have a name, a type and a label among its attributes, to the settings, which then own
+    /// it. The value that it holds when control returns to the event loop, or at a load before that, is its initial
+    /// value; any other value counts as set by somebody.
     void addSetting(UiData* item);
-    /// Says which formats the user can choose; at first PDF and XML.
+    /// Sets which formats the user can choose; PDF and XML by default.
     void setFormatApplicable(int format, bool applicable);
-    /// Has the settings take the values that are stored for the folder, where they are allowed.
+    /// Has the settings take the values that are stored for the folder, if these are allowed.
     void loadSettings();
-    /// Stores the settings for the folder. Until they have been loaded, those that still have the value they came with
-    /// leave what is stored as it is.
+    /// Stores the settings for the folder. Until they have been loaded, a setting that still has its initial value
+    /// leaves the stored one unchanged.
     void saveSettings();
-    /// The files that this object has saved, as the user wanted them synced or not: each path once, where it was saved
-    /// last.
+    /// The files that this object has saved, with and without sync: each path once, in the list of its last save.
     QStringList syncedReports() const;
     QStringList unsyncedReports() const;
-    /// The pages as the library prints them; empty when that fails.
+    /// The pages as the library prints them; empty if that fails.
     QByteArray generateDefaultPDFReport();
-    /// Sets a switch of the HTML writer and of the pages for all saves to come; it wins over those of this object.
+    /// Sets a switch of the HTML writer and of the pages for all later saves; it overrides those of this object.
     void setWriterAttribute(const QString& name, const QVariant& value);
-    /// Hands the switches of this object on to a writer, and those of setWriterAttribute().
+    /// Passes the switches of this object, and those of setWriterAttribute(), to a writer.
     void setHtmlWriterAttributes(TemplateToHtmlWriter& writer) const;
-    /// True when the report may be written; otherwise the user is being asked.
+    /// True if the report may be written; otherwise the user is asked.
     bool checkForOverwrite(const QString& name, const QString& suffix, bool overwrite);
 
 Q_SIGNALS:
@@ -323,21 +327,21 @@ Q_SIGNALS:
     void settingsChanged();
     void screenshotListChanged();
 
-    /// The user lets the pending report be overwritten.
+    /// The user has agreed that the pending report is overwritten.
     void reportOverwriteAccepted();
-    /// A save has succeeded; comes once for each: `filename` is the file's name without its folder, with its suffix and
-    /// ".gz" if it has one, or for all formats the name that the files have in common.
+    /// A save has succeeded; emitted once per save. `filename` is the file's name without its folder, with its suffix
+    /// and ".gz" if it has one; for all formats it is the name that the files share.
     void reportGenerated(const QString& filename);
 
     void savingChanged();
     void progressChanged();
 
 public Q_SLOTS:
-    /// A service item that is watched has changed; for the sender's signal.
+    /// A watched service item, the sender, has changed.
     void slotValueChanged();
-    /// Takes the stored values.
+    /// Loads the stored values of the settings.
     void slotCreateSettings();
-    /// The answers of all dialogs come in here; only that to the pending question of this object counts.
+    /// Receives the answers of all dialogs; only the one to the pending question of this object counts.
     void overwriteAccepted(KIVNotification* notification);
     void overwriteRejected(KIVNotification* notification);
 

@@ -27,7 +27,7 @@ inline const QLatin1String formatSetting("reportFormat");
 inline const QLatin1String syncSetting("reportSync_SS");
 inline const QLatin1String jobInfoSetting("includeJobInfo");
 
-/// Takes the value; false when it was held already.
+/// Sets `held` to `value`. False if it had the value already.
 template<typename Value> bool changes(Value& held, const Value& value)
 {
     if (held == value)
@@ -45,7 +45,7 @@ public:
     ReportTemplate document;
     ReportMetadata metadata;
     ReportSettings settings;
-    /// Where the values of the settings come from. Shared with the loading that runs, which may outlive this.
+    /// Where the values of the settings come from. Shared with a running load, which may outlive this object.
     std::shared_ptr<SettingOrigins> settingOrigins = std::make_shared<SettingOrigins>();
     /// The settings file that was loaded last; null before.
     QString settingsPath;
@@ -81,9 +81,9 @@ public:
     QStringList syncedReports;
     QStringList unsyncedReports;
 
-    // --- Telling. Each is false when a slot has deleted the controller. ---
+    // --- Notifying. Each returns false if a slot has deleted the controller. ---
     bool tellFolder();
-    /// Reports are listed where the next one goes.
+    /// The list of reports is that of the folder that the next one is saved into.
     bool tellLocation();
     bool emitEach(std::initializer_list<void (Report::*)()> notifiers);
 
@@ -91,19 +91,19 @@ public:
     void watchServices();
     void watchItems();
     void createSettings();
-    /// The first are loaded when the page has had its time to set the folder.
+    /// Not before the first load, which leaves the page time to set the folder.
     bool loadSettingsOfNewFolder();
 
     // --- The document ---
     bool readTemplate(const QString& path);
     QString ownOrTemplate(const QString& own, const char* key) const;
-    /// Hands the switches on to a writer of HTML or of pages.
+    /// Passes the switches to a writer of HTML or of pages.
     template<typename Writer> void handOnSwitches(Writer& writer) const;
 
     // --- Saving ---
     QString chosenName();
     bool writeGenerated(const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite);
-    /// Each path is in one of the lists of saved files, once.
+    /// Enters the files into one of the lists of saved files: each path is in one of them, once.
     void noteSaved(const QStringList& files, bool isSynced);
 
 private:

@@ -1,4 +1,4 @@
-// The part of Report that acts: makes contents, writes, saves and hands on.
+// The part of Report that acts: makes contents, writes, saves, attaches and shows.
 
 #include "base/paths_p.h"
 #include "instrument/drives_p.h"
@@ -91,7 +91,8 @@ QByteArray Report::generatePDFReport()
 
 QByteArray Report::generateDefaultPDFReport()
 {
-    // A report of many rows is large: its items go as soon as they are printed, unless others print them, too.
+    // A report of many rows is large: its items are deleted as soon as they are printed, unless another print uses them
+    // too.
     const auto dropItems = qScopeGuard([isNested = ReportPDF::isPrinting()] {
         if (!isNested)
             uiutils::deleteItemsOfPasses(m_reportItems);
@@ -100,19 +101,14 @@ QByteArray Report::generateDefaultPDFReport()
     d->handOnSwitches(writer);
     writer.setAttribute(QStringLiteral("subject"), getSubject());
     const auto saving = d->saving;
-    const bool isAlone = !saving->progress.isRunning();
-    if (isAlone)
-        saving->progress.begin(1);
-    // The controller may be gone when the next page asks.
+    // The controller may have been deleted when the next page asks.
     ReportPDF& pages = writer.pages();
     connect(&pages, &ReportPDF::progressChanged, &pages, [saving, &pages](int page, int pageCount) {
         if (!saving->goesOn(pageCount > 0 ? double(page) / pageCount : 0))
             pages.cancel();
     });
     QString error;
-    QByteArray file = writer.toPdf(&error);
-    if (isAlone)
-        saving->progress.end();
+    QByteArray file = saving->withProgress([&] { return writer.toPdf(&error); });
     if (!error.isEmpty())
         qDebug("The pages of the report could not be made: %s", qUtf8Printable(error));
     return file;
@@ -151,19 +147,14 @@ bool Report::writePDFReport(const QString& path, bool overwrite)
     if (!saving->mayWrite({path}, overwrite))
         return false;
     const QPointer<Report> self(this);
-    const bool isAlone = !saving->progress.isRunning();
-    if (isAlone)
-        saving->progress.begin(1);
-    const QByteArray pages = generatePDFReport();
-    if (isAlone)
-        saving->progress.end();
+    const QByteArray pages = saving->withProgress([this] { return generatePDFReport(); });
     if (!self)
         return false;
-    // A report of the name may have come while the pages were made, with a stick.
+    // A report of the name may have appeared while the pages were made, for example on a USB drive.
     if (!pages.isEmpty())
         return saving->mayWrite({path}, overwrite) && saving->write(path, pages, overwrite);
     if (!saving->progress.isCancelled())
-        saving->dialogs.tellWriteError(path, QStringLiteral("there are no pages"));
+        saving->dialogs.notifyWriteError(path, QStringLiteral("there are no pages"));
     return false;
 }
 
@@ -255,7 +246,7 @@ void Report::setInteractive(bool interactive)
     d->isInteractive = interactive;
 }
 
-// --- The stick, the cloud ---
+// --- The USB drive, the cloud ---
 
 void Report::saveToUsb(const QString& name, const QString& suffix)
 {
@@ -272,13 +263,13 @@ double Report::percentageFileSystemUsed(const QString& path)
 void Report::addReportToNoSyncList(const QString& filePath)
 {
     const auto saving = d->saving;
-    saving->recordSync({filePath}, false);
+    saving->updateSyncList({filePath}, false);
 }
 
 void Report::removeReportFromNoSyncList(const QString& filePath)
 {
     const auto saving = d->saving;
-    saving->recordSync({filePath}, true);
+    saving->updateSyncList({filePath}, true);
 }
 
 void Report::writeNoSyncListToFile(const QStringList& noSync_fileList)
@@ -286,7 +277,7 @@ void Report::writeNoSyncListToFile(const QStringList& noSync_fileList)
     const auto saving = d->saving;
     QString error;
     if (!uiutils::replaceNoSyncList(noSync_fileList, &error))
-        saving->dialogs.tellSyncError(tr("The list of reports that are not synced was not changed."), error);
+        saving->dialogs.notifySyncError(tr("The list of reports that are not synced was not changed."), error);
 }
 
 QStringList Report::syncedReports() const
@@ -307,7 +298,7 @@ void Report::writeMetadata(const QString& path, const QString& format)
     addWorkOrderMetaDataInfo();
     if (uiutils::instrument::isJobActive() && ensureValidJobData())
         updateJobTestMetadata();
-    // Where a stick was, it would be the unit's.
+    // In the folder that remains of a removed USB drive, the record would be on the unit.
     if (uiutils::instrument::isDriveThere(path))
         d->metadata.saveMetadataToFile();
     else
@@ -350,7 +341,7 @@ bool Report::writeToJobManager()
     else
         isAttached = uiutils::attachToJob(generateJobManagerReport().toUtf8(), d->jobSchema, &reason);
     if (self && !isAttached)
-        saving->dialogs.tell(tr("Job Manager"), reason);
+        saving->dialogs.notify(tr("Job Manager"), reason);
     return isAttached;
 }
 

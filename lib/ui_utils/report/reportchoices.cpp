@@ -36,7 +36,7 @@ void Report::addSetting(UiData* item)
     UiData* former = d->settings.value(item->getName());
     d->settings.insert(item->getName(), item);
     d->settingOrigins->insert(item->getName(), {item->getValue(), QVariant(), QString(), true});
-    // A derived controller may give its item the value that it starts with afterwards.
+    // A derived controller may give its item the initial value afterwards.
     QMetaObject::invokeMethod(
             this, [this] { uiutils::settleReportSettings(d->settings, *d->settingOrigins); }, Qt::QueuedConnection);
     if (former && former != item)
@@ -112,7 +112,7 @@ int Report::getFormat() const
 
 QString Report::getSuffixForReport() const
 {
-    const uiutils::ReportFormat* format = uiutils::reportFormat(getFormat());
+    const uiutils::FormatInfo* format = uiutils::formatInfo(getFormat());
     return format ? QString(format->suffix) : QString();
 }
 
@@ -166,7 +166,7 @@ QString Report::getReportFilePath()
 QString Report::getSaveFilePath(const QString& name, const QString& suffix)
 {
     const QString folder = d->saving->destinations().folder(getReportFilePath());
-    // Where a stick was, it would be the unit's.
+    // Where a USB drive was removed, the folder would be on the unit.
     if (uiutils::instrument::isDriveThere(folder))
         uiutils::makeFolderDurably(onDisk(folder));
     return uiutils::reportPath(folder, name, suffix);

@@ -8,12 +8,12 @@ namespace uiutils {
 namespace {
 
 /// In the order of their values.
-ReportFormats applicableFormats(const UiData& item)
+FormatInfos applicableFormats(const UiData& item)
 {
     const UiDataEnums* choices = item.getUiEnumList();
     const QList<UiEnumType*> choiceList = choices ? choices->getEnumList() : QList<UiEnumType*>();
-    ReportFormats formats;
-    for (const ReportFormat& candidate : allReportFormats()) {
+    FormatInfos formats;
+    for (const FormatInfo& candidate : allReportFormats()) {
         for (const UiEnumType* choice : choiceList) {
             if (!candidate.suffix.isEmpty() && choice->getValue() == candidate.value && choice->isApplicable())
                 formats.append(&candidate);
@@ -24,10 +24,10 @@ ReportFormats applicableFormats(const UiData& item)
 
 } // namespace
 
-const QList<ReportFormat>& allReportFormats()
+const QList<FormatInfo>& allReportFormats()
 {
     using namespace NSReport;
-    static const QList<ReportFormat> formats {
+    static const QList<FormatInfo> formats {
             {REPORT_FORMAT_PDF, QT_TRANSLATE_NOOP("Report", "PDF"), "REPORT_FORMAT_PDF", pdfSuffix, true},
             {REPORT_FORMAT_XML, QT_TRANSLATE_NOOP("Report", "XML"), "REPORT_FORMAT_XML", xmlSuffix, true},
             {REPORT_FORMAT_HTML, QT_TRANSLATE_NOOP("Report", "HTML"), "REPORT_FORMAT_HTML", htmlSuffix, false},
@@ -38,9 +38,9 @@ const QList<ReportFormat>& allReportFormats()
     return formats;
 }
 
-const ReportFormat* reportFormat(int value)
+const FormatInfo* formatInfo(int value)
 {
-    for (const ReportFormat& format : allReportFormats()) {
+    for (const FormatInfo& format : allReportFormats()) {
         if (format.value == value)
             return &format;
     }
@@ -60,7 +60,7 @@ FormatChoice formatChoice(const UiData* item)
     if (!item)
         return choice;
     choice.given = item->getValue().toString();
-    const ReportFormat* format = reportFormat(formatNumber(item));
+    const FormatInfo* format = formatInfo(formatNumber(item));
     choice.isFormat = format;
     choice.isAll = format && format->value == NSReport::REPORT_FORMAT_ALL;
     if (choice.isAll)
@@ -75,7 +75,7 @@ void addFormatChoices(UiData& item)
     QList<int> values;
     QStringList labels;
     QStringList names;
-    for (const ReportFormat& format : allReportFormats()) {
+    for (const FormatInfo& format : allReportFormats()) {
         values.append(format.value);
         labels.append(ReportTexts::tr(format.label));
         names.append(QLatin1String(format.name));

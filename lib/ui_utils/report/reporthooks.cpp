@@ -146,7 +146,7 @@ void ReportHooks::failed(const QString& name)
         m_report->saveFailed(name);
 }
 
-// --- What pages hear ---
+// --- What pages are notified of ---
 
 void ReportHooks::savingChanged()
 {

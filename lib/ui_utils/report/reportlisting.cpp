@@ -29,14 +29,14 @@ struct SavedReport
     bool isCompressed = false;
 };
 
-/// Takes the file's name apart. False when it is no report's.
+/// Takes the file's name apart. False if it is not that of a report.
 bool readName(const QString& fileName, SavedReport* report)
 {
     report->isCompressed = fileName.endsWith(gzipSuffix);
     const int end = fileName.size() - (report->isCompressed ? gzipSuffix.size() : 0);
     const QStringRef plain = fileName.leftRef(end);
-    const QList<ReportFormat>& formats = allReportFormats();
-    const auto format = std::find_if(formats.cbegin(), formats.cend(), [&](const ReportFormat& candidate) {
+    const QList<FormatInfo>& formats = allReportFormats();
+    const auto format = std::find_if(formats.cbegin(), formats.cend(), [&](const FormatInfo& candidate) {
         return !candidate.suffix.isEmpty() && plain.endsWith(candidate.suffix);
     });
     if (format == formats.cend() || end == format->suffix.size())
@@ -54,7 +54,7 @@ QVector<SavedReport> reportsIn(const QString& place)
     reports.reserve(files.size());
     for (const QFileInfo& file : files) {
         SavedReport report;
-        // Some desks put a companion of such a name beside each file of a stick.
+        // Some desktops put a companion with such a name beside each file of a USB drive.
         if (file.fileName().startsWith(QLatin1String("._")) || !readName(file.fileName(), &report))
             continue;
         report.size = file.size();
@@ -65,7 +65,7 @@ QVector<SavedReport> reportsIn(const QString& place)
     return reports;
 }
 
-/// Reports of one name and time come in the order of their file names, so that no two calls differ.
+/// Reports of one name and time are in the order of their file names, so that all calls give the same list.
 bool comesBefore(const SavedReport& a, const SavedReport& b)
 {
     if (a.order != b.order)
@@ -73,7 +73,7 @@ bool comesBefore(const SavedReport& a, const SavedReport& b)
     return a.name != b.name ? a.name < b.name : a.fileName < b.fileName;
 }
 
-/// Whether none of the reports may be being written just now: growing changes their times, but not the folder's.
+/// Whether certainly no report is being written now: that changes their times, but not the folder's.
 bool areSettled(const QVariantList& reports, const timespec& now)
 {
     constexpr qint64 longestPause = 2000;
@@ -88,7 +88,7 @@ bool areSettled(const QVariantList& reports, const timespec& now)
 
 QVariantList reportFiles(const QString& folder)
 {
-    // A path of nothing would mean the folder that the process runs in.
+    // An empty path would mean the current folder of the process.
     if (folder.isEmpty() || folder.contains(QChar(QChar::Null)))
         return QVariantList();
     QVector<SavedReport> reports = reportsIn(onDisk(folder));
@@ -107,7 +107,7 @@ QVariantList reportFiles(const QString& folder)
 
 QVariantList ReportListing::files(const QString& folder)
 {
-    // Files and folders take their times from this clock, so what changes from here on has this one or a later one.
+    // Files and folders take their times from this clock: what changes from here on has this time or a later one.
     timespec now = {};
     ::clock_gettime(CLOCK_REALTIME_COARSE, &now);
     const std::optional<FolderState> state = instrument::isOnUsb(folder) ? std::nullopt : stateOf(folder);

@@ -8,8 +8,8 @@
 
 namespace uiutils {
 
-/// The reports that lie in the folder, an instrument path, but not those of its sub-folders: newest first, those of
-/// one time by name. One map each:
+/// The reports in the folder, an instrument path, without those of its subfolders: newest first, those of one time by
+/// name. One map each:
 ///
 /// | key | value |
 /// |---|---|
@@ -20,18 +20,19 @@ namespace uiutils {
 /// | `time` | when it was written last, a QDateTime in local time |
 /// | `compressed` | whether it is a gzip file |
 ///
-/// A report is a file, or a link to one, whose name ends in a format's suffix, with ".gz" behind it or not, and does
-/// not begin with "._". Empty for a folder that cannot be read.
+/// A report is a file, or a link to one, whose name ends in a format's suffix, with or without ".gz" after it, and does
+/// not begin with "._". The list is empty if the folder cannot be read.
 QVariantList reportFiles(const QString& folder);
 
-/// The same of one folder at a time, which is read again only when something came into it, went or was renamed since:
-/// its time of change tells. Reports are saved by renaming. One that another program writes in place does not change
-/// that time, so a list is only kept when none of its reports changed in the 2 s before it was read; a report that
-/// grows again after a longer pause shows its former size and time until something else changes the folder.
+/// The same list, kept for one folder at a time. The folder is read again only if its time of change says that
+/// something in it was added, removed or renamed. Reports are saved by renaming. A report that another program writes
+/// in place does not change that time, so a list is kept only if none of its reports changed in the 2 s before it was
+/// read. A report that grows again after a longer pause shows its former size and time until something else changes the
+/// folder.
 ///
-/// A folder that changed in the tick of the system's clock in which it was read is read once more, since it may have
-/// changed again without another time; where times have no fractions of a second, for two seconds. One on a stick is
-/// always read: the top of most has no such time.
+/// A folder that changed in the tick of the system's clock in which it was read is read once more, because it may have
+/// changed again at the same time; where times have no fractions of a second, this applies for two seconds. A folder on
+/// a USB drive is always read, because the top folder of most has no such time.
 class ReportListing
 {
 public:
@@ -51,7 +52,7 @@ private:
     static bool isSettled(const FolderState& state, const timespec& now);
 
     QString m_folder;
-    /// Of the folder when it was read; none when it may have changed since without another time.
+    /// The state of the folder when it was read; none if it may have changed after that at the same time.
     std::optional<FolderState> m_state;
     QVariantList m_files;
 };

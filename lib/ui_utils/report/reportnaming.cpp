@@ -33,12 +33,12 @@ QString proposedReportName(const QString& shortLabel, const QDateTime& time)
     return name + time.toString(QStringLiteral("_ddMMyyhhmmss"));
 }
 
-QString safeFileName(const QString& name)
+QString safePathPart(const QString& name)
 {
     const QChar neutral = QLatin1Char('_');
     if (name == QLatin1String(".") || name == QLatin1String(".."))
         return QString(neutral);
-    // One spelling of letters with marks, or one name would be two files.
+    // Letters with marks get one spelling. Otherwise one name could be two files.
     QString safe = name.normalized(QString::NormalizationForm_C);
     for (QChar& character : safe) {
         if (character == QLatin1Char('/') || character.category() == QChar::Other_Control)
@@ -50,31 +50,31 @@ QString safeFileName(const QString& name)
 QString nameProblem(const QString& name, const QString& suffix, bool compressed)
 {
     if (name == QLatin1String(".") || name == QLatin1String(".."))
-        return ReportTexts::tr("\"%1\" is no name of a file.").arg(name);
+        return ReportTexts::tr("\"%1\" is not a file name.").arg(name);
     if (name.contains(QLatin1Char('/')))
-        return ReportTexts::tr("The name may not have \"/\" in it.");
+        return ReportTexts::tr("The name must not contain \"/\".");
     if (name.contains(QChar(QChar::Null)))
-        return ReportTexts::tr("The name may not have a NUL character in it.");
+        return ReportTexts::tr("The name must not contain a NUL character.");
     constexpr int mostBytes = 255;
     const auto fits = [&](const QString& part) {
-        const QString plain = withSuffix(safeFileName(part), suffix);
+        const QString plain = withSuffix(safePathPart(part), suffix);
         return QFile::encodeName(compressed ? plain + gzipSuffix : plain).size() <= mostBytes;
     };
     if (fits(name))
         return QString();
     const QVector<uint> characters = name.toUcs4();
-    // Composing makes two bytes of three characters at the most, so that none beyond these could fit.
+    // Composing makes at least two bytes of three characters, so no name with more characters can fit.
     int most = qMin(characters.size(), 2 * mostBytes);
     while (most > 0 && !fits(QString::fromUcs4(characters.constData(), most)))
         --most;
-    return ReportTexts::tr("The name may have %1 characters, it has %2.").arg(most).arg(characters.size());
+    return ReportTexts::tr("The name has %1 characters; the maximum is %2.").arg(characters.size()).arg(most);
 }
 
 QString safeFolder(const QString& folder)
 {
     QStringList parts = folder.split(QLatin1Char('/'), Qt::SkipEmptyParts);
     for (QString& part : parts)
-        part = safeFileName(part);
+        part = safePathPart(part);
     return parts.join(QLatin1Char('/'));
 }
 
@@ -92,12 +92,12 @@ QString reportFolder(const QString& base, const QString& provider, const QString
 
 QString reportPath(const QString& directory, const QString& name, const QString& suffix)
 {
-    return withSlash(directory) + withSuffix(safeFileName(name), suffix);
+    return withSlash(directory) + withSuffix(safePathPart(name), suffix);
 }
 
 QString reportNamed(const QString& name, const QVariantList& reports)
 {
-    const QString wanted = safeFileName(name);
+    const QString wanted = safePathPart(name);
     const auto isWanted = [&](const QString& found) {
         const QString composed = found.normalized(QString::NormalizationForm_C);
         return composed == wanted || composed == wanted + gzipSuffix;

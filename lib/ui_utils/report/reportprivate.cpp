@@ -27,7 +27,7 @@ ReportPrivate::ReportPrivate(Report* report)
 {
 }
 
-// --- Telling ---
+// --- Notifying ---
 
 bool ReportPrivate::tellFolder()
 {
@@ -112,7 +112,8 @@ bool ReportPrivate::loadSettingsOfNewFolder()
 
 // --- The document ---
 
-/// A file that cannot be read would empty the document, so another one reads it. Reading it twice might find two files.
+/// A file that cannot be read would empty the document, so another document reads it. Reading it twice could find two
+/// different files.
 bool ReportPrivate::readTemplate(const QString& path)
 {
     ReportTemplate trial;
@@ -135,13 +136,13 @@ QString ReportPrivate::chosenName()
 {
     const KivData* item = q->getSetting(nameSetting);
     QString name = item ? item->getValue().toString() : QString();
-    // The label may be such as "1/10 GE", and that is nothing that users could mend.
+    // The label may be one like "1/10 GE", which users cannot change.
     if (item && name.isEmpty())
-        name = safeFileName(q->proposedFileName());
+        name = safePathPart(q->proposedFileName());
     return name.isEmpty() ? QStringLiteral("empty") : name.normalized(QString::NormalizationForm_C);
 }
 
-/// A long text takes time to make, in which the controller may go.
+/// A generator may delete the controller.
 bool ReportPrivate::writeGenerated(
         const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite)
 {

@@ -33,20 +33,20 @@ void logUnwritable(const QString& path)
     qWarning("Could not open %s for writing", qUtf8Printable(path));
 }
 
-/// What a settings file holds. One that is not there holds nothing.
+/// The contents of a settings file; none if it does not exist.
 struct StoredText
 {
     enum State { Read, Absent, Unreadable, TooLarge };
     State state = Unreadable;
     QByteArray text;
 
-    /// Whether there may be settings in it that are not known here.
+    /// Whether the file may contain settings that could not be read.
     bool isUnknown() const { return state == Unreadable || state == TooLarge; }
 };
 
 StoredText storedText(const QString& path)
 {
-    // A pipe would be waited for.
+    // Opening a pipe would wait for its other end.
     const int fd = ::open(QFile::encodeName(onDisk(path)).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0)
         return {errno == ENOENT ? StoredText::Absent : StoredText::Unreadable, QByteArray()};
@@ -95,8 +95,8 @@ bool isInRange(const UiData& item, double value)
     return (!minimum.isValid() || value >= minimum.toDouble()) && (!maximum.isValid() || value <= maximum.toDouble());
 }
 
-/// Files are edited by hand, come from other versions and lose their end: what a user could not have entered is left
-/// out.
+/// Files are edited by hand, come from other versions and are cut short: a value that a user could not have entered is
+/// discarded.
 bool isAllowed(const UiData& item, const QJsonValue& value)
 {
     const QString type = item.getType();
@@ -107,7 +107,7 @@ bool isAllowed(const UiData& item, const QJsonValue& value)
         return value.isDouble() && isChoice(item, value.toVariant());
     if (type == UiData::TYPE_STRING || type.startsWith(vectorStart))
         return value.isString() && (text.isEmpty() || isAccepted(item, text));
-    // The validator of a number reads it as the user's language has it.
+    // The validator of a number reads it in the user's language.
     return value.isDouble() ? isInRange(item, value.toDouble()) : value.isString() && isAccepted(item, text);
 }
 
@@ -117,8 +117,8 @@ bool isUntouched(const UiData& item, const SettingOrigin& origin)
     return value == origin.initial || (origin.loaded.isValid() && value == origin.loaded);
 }
 
-/// Nothing without a file or with one that cannot be understood, and none at all when it cannot be read: a line in the
-/// log says so.
+/// Empty if the file does not exist or cannot be understood; no object at all if it cannot be read. The log has a line
+/// then.
 std::optional<QJsonObject> readSettings(const QString& path)
 {
     const StoredText stored = storedText(path);
@@ -139,7 +139,7 @@ std::optional<QJsonObject> readSettings(const QString& path)
     return document.object();
 }
 
-/// What an untouched item is to have with this file; what it has when the file says nothing new.
+/// The value that an untouched item takes with this file; its present value if the file has none for it.
 QVariant valueToTake(const UiData& item, const SettingOrigin& origin, const QJsonValue& stored, const QString& path)
 {
     if (isAllowed(item, stored))
@@ -174,7 +174,7 @@ void loadReportSettings(
             origin.path.clear();
         return;
     }
-    // Whoever hears of a value may add or delete settings, and the controller with them.
+    // A slot that is notified of a value may add or delete settings, and the controller with them.
     QMap<QString, QPointer<UiData>> takers;
     for (auto it = items.cbegin(); it != items.cend(); ++it)
         takers.insert(it.key(), *it);
@@ -191,7 +191,7 @@ void loadReportSettings(
         origin.loaded = value;
         if ((*it)->getValue() != value)
             (*it)->setValue(value);
-        // They may have had those of another folder loaded.
+        // A slot may have loaded those of another folder.
         const auto now = kept->find(it.key());
         if (now == kept->end() || now->path != path)
             return;
@@ -219,7 +219,7 @@ void saveReportSettings(const QString& path, const ReportSettings& items, const 
         values.insert(it.key(), staysStored ? own.toVariant() : (*it)->getValue());
     }
     const QByteArray text = QJsonDocument(QJsonObject::fromVariantMap(values)).toJson();
-    // Most saves change nothing, and the disk takes longer to keep a file than to read it.
+    // Most saves change nothing, and reading a file is faster than writing it durably.
     if (holds(place, text))
         return;
     makeFolderDurably(QFileInfo(place).path());

@@ -4,7 +4,7 @@
 
 namespace uiutils {
 
-/// The texts of what Report calls, which stand among its own for translators.
+/// Texts of functions that Report calls, in the same context as those of Report.
 struct ReportTexts
 {
     Q_DECLARE_TR_FUNCTIONS(Report)

@@ -16,8 +16,8 @@ unsigned s_chains = 0;
 Announcement::Announcement(std::initializer_list<Step> steps, Announcement* outer)
     : m_outer(outer)
     , m_below(s_top)
-    , m_first(s_top && s_top->isCurrent() ? s_top->m_first : this)
     , m_loopLevel(QThread::currentThread()->loopLevel())
+    , m_first(s_top && s_top->m_loopLevel == m_loopLevel ? s_top->m_first : this)
 {
     if (m_first == this)
         m_chain = ++s_chains;

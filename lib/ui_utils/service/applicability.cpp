@@ -19,8 +19,8 @@ struct Token
     QString text;
 };
 
-/// As QML reads names; what it takes for one depends on the Unicode of Qt, which that of regular expressions is ahead
-/// of.
+/// As QML reads names. Which characters it accepts depends on the Unicode version of Qt, which is older than that of
+/// regular expressions.
 bool beginsName(uint character)
 {
     switch (QChar::category(character)) {
@@ -117,8 +117,8 @@ bool isLiteralName(const QString& name)
     return names.contains(name);
 }
 
-/// All but the objects and `applicable`: items that asked each other for theirs would ask in circles, or so often that
-/// the screen stands still.
+/// All but the objects and `applicable`: items that read each other's would do so in circles, or so often that the
+/// screen freezes.
 bool isProperty(const QString& name)
 {
     static const QSet<QString> names {QStringLiteral("id"), QStringLiteral("name"), QStringLiteral("type"),
@@ -140,8 +140,8 @@ bool isAccessor(const QString& name)
     return names.contains(name);
 }
 
-/// Walks the tokens once. It lets through what is known to be harmless, and only well-formed expressions, because the
-/// engine does not tell its caller of others.
+/// Walks the tokens once. It accepts only what is known to be harmless, and only well-formed expressions, because the
+/// engine does not report others to its caller.
 class Translator
 {
 public:
@@ -170,7 +170,7 @@ private:
         if (token.kind == Token::Operator)
             translateOperator(token.text);
         else if (!m_wantsOperand)
-            refuse(token.text);
+            reject(token.text);
         else if (token.kind == Token::Name)
             translateName(token.text);
         else
@@ -193,7 +193,7 @@ private:
         } else if (isLiteralName(name)) {
             takeOperand();
         } else {
-            refuse(name);
+            reject(name);
         }
     }
 
@@ -201,14 +201,14 @@ private:
     void takeItem(const QString& tag, const QString& kind, int count)
     {
         if (tag.isEmpty() || nameEnd(tag, 0) != tag.size())
-            return refuse(tag);
+            return reject(tag);
         m_result += tag + QLatin1Char('_') + kind + QLatin1Char('_') + nameAt(m_at + count - 1);
         m_at += count;
         m_wantsOperand = false;
         translateMember();
     }
 
-    /// Behind an item's name: a property, perhaps members of its value, or an accessor; else the value is meant.
+    /// What follows an item's name: a property, perhaps members of its value, or an accessor; else the value is meant.
     void translateMember()
     {
         if (!isOperator(m_at, '.')) {
@@ -224,7 +224,7 @@ private:
             while (isOperator(m_at, '.') && isName(m_at + 1))
                 take(2);
         } else {
-            refuse(member);
+            reject(member);
         }
     }
 
@@ -237,7 +237,7 @@ private:
         else if (text == QLatin1String("["))
             translateIndex();
         else if (text == QLatin1String(".") || text == QLatin1String("]"))
-            refuse(text);
+            reject(text);
         else if (m_wantsOperand)
             translateSign(text);
         else
@@ -247,16 +247,16 @@ private:
     void translateBracket()
     {
         if (!m_wantsOperand)
-            return refuse(QStringLiteral("("));
+            return reject(QStringLiteral("("));
         take();
         open(Group);
     }
 
-    /// An element; a plain number leads nowhere else.
+    /// An element: a plain number can select nothing else.
     void translateIndex()
     {
         if (m_wantsOperand || !isNumber(m_at + 1) || !isOperator(m_at + 2, ']'))
-            return refuse(QStringLiteral("["));
+            return reject(QStringLiteral("["));
         take(3);
     }
 
@@ -265,18 +265,18 @@ private:
         static const QSet<QString> signs {
                 QStringLiteral("!"), QStringLiteral("~"), QStringLiteral("+"), QStringLiteral("-")};
         if (!signs.contains(text))
-            return refuse(text);
+            return reject(text);
         take();
     }
 
     void translateInfix(const QString& text)
     {
         if (text == QLatin1String("!") || text == QLatin1String("~"))
-            return refuse(text);
+            return reject(text);
         if (text == QLatin1String(":"))
             return close(text);
         if (text == QLatin1String(",") && (m_open.isEmpty() || m_open.constLast() != Call))
-            return refuse(text);
+            return reject(text);
         take();
         m_wantsOperand = true;
         if (text == QLatin1String("?"))
@@ -300,7 +300,7 @@ private:
     {
         const bool isCondition = text == QLatin1String(":");
         if (m_wantsOperand || m_open.isEmpty() || (m_open.constLast() == Condition) != isCondition)
-            return refuse(text);
+            return reject(text);
         m_open.removeLast();
         take();
         m_wantsOperand = isCondition;
@@ -330,15 +330,15 @@ private:
     {
         for (int end = m_at + count; m_at < end; ++m_at) {
             const Token& token = m_tokens.at(m_at);
-            // Two signs that stood apart must not grow together.
+            // Two operators that were separate must not become one.
             const bool isSpaced = token.kind == Token::Operator && token.text != QLatin1String(".");
             m_result += isSpaced ? QLatin1Char(' ') + token.text + QLatin1Char(' ') : token.text;
         }
     }
 
-    void refuse(const QString& text) { m_problem = QStringLiteral("\"%1\" is not allowed here").arg(text); }
+    void reject(const QString& text) { m_problem = QStringLiteral("\"%1\" is not allowed here").arg(text); }
 
-    /// Far more than anybody compares; each may be a long text that is copied.
+    /// Far more than anybody compares. Each may be a long text that is copied.
     static constexpr int mostNames = 64;
 
     const QVector<Token>& m_tokens;
@@ -355,7 +355,7 @@ private:
 
 std::optional<QString> translatedApplicability(const QString& expression, const QString& tag, QString* problem)
 {
-    // Far beyond what anybody writes; the parser of the engine goes as deep as the brackets do.
+    // Far longer than anybody writes. The parser of the engine recurses as deep as the brackets are nested.
     constexpr int longest = 2000;
     if (expression.size() > longest) {
         *problem = QStringLiteral("the expression is longer than %1 characters").arg(longest);

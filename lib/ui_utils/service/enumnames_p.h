@@ -14,7 +14,8 @@ KIVEnumChoicesClientItem* choicesOf(KIVClientItem* item);
 class EnumNames final : public DynamicObject
 {
 public:
-    /// An object with the choices as they are now; nameless ones are left out, and of equal names the first counts.
+    /// An object with the choices as they are now. Choices without a name are left out; of equal names the first
+    /// counts.
     static EnumNames* create(const KIVEnumChoicesClientItem& choices, QObject* parent);
 
 private:

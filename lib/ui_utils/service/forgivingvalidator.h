@@ -4,7 +4,7 @@
 
 #include <QRegularExpressionValidator>
 
-/// A validator that never calls an empty entry invalid, so that a user can clear a field and type anew.
+/// A validator that never calls an empty entry invalid, so that a user can clear a field and type again.
 ///
 /// Only the invokable validate() forgives; the validation that Qt's own input fields call is that of
 /// QRegularExpressionValidator.
@@ -26,7 +26,7 @@ public:
 
     using QRegularExpressionValidator::validate;
 
-    /// The state of `input` with the cursor at `pos`: Acceptable when the expression matches the whole of it,
-    /// Intermediate when it is empty or could become a match, else Invalid.
+    /// The state of `input` with the cursor at `pos`: Acceptable if the expression matches all of it, Intermediate if
+    /// it is empty or could become a match, else Invalid.
     Q_INVOKABLE virtual ForgivingValidator::ValidatorState validate(QString input, int pos);
 };

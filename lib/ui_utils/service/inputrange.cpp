@@ -1,6 +1,7 @@
 #include "service/inputrange_p.h"
 
 #include "service/kivdata.h"
+#include "service/valuetext_p.h"
 
 #include <kiv/baseformatter.h>
 
@@ -12,8 +13,6 @@ namespace uiutils {
 namespace {
 
 constexpr unsigned inputDnsName = 20;
-/// No double has more digits to show; a service could ask for milliards.
-constexpr unsigned maximumDecimals = 340;
 
 struct Texts
 {
@@ -33,7 +32,7 @@ const LengthTexts charTexts {QT_TRANSLATE_NOOP("KivData", "%1 max chars"), QT_TR
 const LengthTexts digitTexts {QT_TRANSLATE_NOOP("KivData", "%1 max digits"), QT_TRANSLATE_NOOP("KivData", "%1 digits"),
         QT_TRANSLATE_NOOP("KivData", "%1 - %2 digits")};
 
-/// Never with an exponent, which no user would type.
+/// Never with an exponent: no user would type one.
 QString limitText(const QVariant& limit)
 {
     if (limit.type() == QVariant::Double)
@@ -142,13 +141,6 @@ QString rangeDescription(const InputRange& range)
     default:
         return Describer(range).general();
     }
-}
-
-QString fixedPointText(double number, unsigned precision)
-{
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(number, 'f', int(qMin(precision, maximumDecimals)));
 }
 
 QString lengthExpression(const QVariant& minimum, const QVariant& maximum)

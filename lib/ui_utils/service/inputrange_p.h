@@ -7,7 +7,7 @@ class BaseFormatter;
 
 namespace uiutils {
 
-/// What an item tells of the values that it takes.
+/// What an item says about the values that it accepts.
 struct InputRange
 {
     QVariant minimum;
@@ -22,15 +22,12 @@ struct InputRange
     const BaseFormatter* formatter = nullptr;
 };
 
-/// One line for the user about the values that an entry field takes, for example "0 - 100 dB" or "8 - 32 chars"; empty
-/// when there is nothing to say.
+/// One line for the user about the values that an entry field accepts, for example "0 - 100 dB" or "8 - 32 chars";
+/// empty if there is nothing to say.
 QString rangeDescription(const InputRange& range);
 
-/// A real number as users read it, without group separators, because the text is what they would type.
-QString fixedPointText(double number, unsigned precision);
-
-/// The expression that a text item without one of its own is held to: ".{8,32}" for lengths from 8 to 32, ".*" when the
-/// range is none.
+/// The expression that a text must match if its item has none: ".{8,32}" for lengths from 8 to 32, ".*" without a
+/// range.
 QString lengthExpression(const QVariant& minimum, const QVariant& maximum);
 
 } // namespace uiutils

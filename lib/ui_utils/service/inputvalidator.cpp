@@ -41,7 +41,7 @@ QString problemOf(const QRegularExpression& expression)
         return expression.errorString();
     if (negativeLength.match(expression.pattern()).hasMatch())
         return QStringLiteral("a length below zero");
-    // A validator anchors it.
+    // A validator puts anchors around it.
     const QRegularExpression anchored(
             QRegularExpression::anchoredPattern(expression.pattern()), expression.patternOptions());
     return anchored.isValid() ? QString() : QStringLiteral("nothing may stand around it");
@@ -65,7 +65,7 @@ QString withEscapedHyphens(const QString& pattern)
     // A bracket expression: its first member may be a closing bracket, and named classes have brackets of their own.
     static const QRegularExpression brackets(QStringLiteral(R"(\\.|\[\^?\]?(?:\[:\^?\w+:\]|\\.|[^\]\\])*\])"),
             QRegularExpression::DotMatchesEverythingOption);
-    // Other escapes are passed over whole, so that the second half of a doubled backslash starts none.
+    // Other escapes are skipped completely, so that the second half of a doubled backslash starts none.
     static const QRegularExpression escapes(
             QStringLiteral(R"(\\(?:[dDwWsShHvV]|[pP]\{[^}]*\}|[pP]\w)(-(?=[^\]]))?|\\.)"),
             QRegularExpression::DotMatchesEverythingOption);

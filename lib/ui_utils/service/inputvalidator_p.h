@@ -9,7 +9,7 @@ class QValidator;
 
 namespace uiutils {
 
-/// What an entry is held to.
+/// What an entry must satisfy.
 struct InputRule
 {
     /// The type's name, for example "double".
@@ -23,26 +23,25 @@ struct InputRule
 };
 
 /// The types that have validators of their own.
-constexpr QLatin1String textType("std::string");
-constexpr QLatin1String realType("double");
+inline const QLatin1String textType("std::string");
+inline const QLatin1String realType("double");
 
-/// A rule that takes every value of the type.
+/// A rule that accepts every value of the type.
 InputRule openRule(QLatin1String type);
 
 /// A validator of an item's entry: a ForgivingValidator for textType, a QDoubleValidator for realType, else a
 /// QIntValidator. The parent owns it.
 QValidator* createValidator(const InputRule& rule, QObject* parent);
 
-/// Makes `validator` hold entries to `rule`. Returns false, and changes nothing, when the rule takes one of another
-/// kind.
+/// Makes `validator` apply `rule`. Returns false, and changes nothing, if the rule needs a validator of another kind.
 bool applyRule(const InputRule& rule, QValidator* validator);
 
-/// The expression for `pattern`. One that PCRE2 refuses for a hyphen behind a class escape ("[\d-.]") is read as its
-/// author meant it; "\w" takes the marks of letters too. One that cannot be repaired, or is good only as long as nothing
-/// stands around it ("(*UTF)a", "(?x)a # b"), accepts everything and is logged once.
+/// The expression for `pattern`. If PCRE2 rejects it because of a hyphen after a class escape ("[\d-.]"), it is read as
+/// its author meant it; "\w" matches the marks of letters too. An expression that cannot be repaired, or that is valid
+/// only without text around it ("(*UTF)a", "(?x)a # b"), accepts everything, and the log has a line about it once.
 QRegularExpression inputExpression(const QString& pattern);
 
-/// `pattern` with the hyphens escaped that stand behind a class escape inside brackets.
+/// `pattern` with an escape before each hyphen that follows a class escape inside brackets.
 QString withEscapedHyphens(const QString& pattern);
 
 } // namespace uiutils

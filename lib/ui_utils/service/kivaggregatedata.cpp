@@ -13,7 +13,7 @@ class uiutils::KivAggregateDataPrivate : public KivDataPrivate
 {
 public:
     QPointer<QMLAggregate> map;
-    /// Counts the fillings of the map.
+    /// How often the map has been filled.
     unsigned fills = 0;
 };
 
@@ -56,12 +56,12 @@ void KivAggregateData::updateQmlMapFromItem()
     const unsigned fill = ++d->fills;
     const QList<QByteArray> names = aggregate.getPropertyNames();
     for (const QByteArray& name : names) {
-        // A slot on a key may delete the wrapper, and the map with it, or let the service report anew.
+        // A slot on a key may delete the wrapper, and the map with it, or make the service report again.
         if (!self || fill != d->fills)
             return;
         const QString key = QString::fromUtf8(name);
         const QVariant value = aggregate.getPropertyVariant(name);
-        // The map takes numbers that hardly differ for the same.
+        // The map treats numbers that hardly differ as equal.
         if (map->value(key) == value && !uiutils::isSameValue(map->value(key), value))
             map->insert(key, QVariant());
         if (self && fill == d->fills)
@@ -76,7 +76,7 @@ void KivAggregateData::updateAggregateProperty(QString const& key, QVariant valu
     if (source && getClient() && !isReadOnly()) {
         KivAggregate aggregate = source->getAggregate();
         if (!aggregate.setPropertyFromVariant(key.toUtf8(), uiutils::plainValue(value)))
-            refuse(tr("%1 has no member %2.").arg(getLabel().isEmpty() ? getName() : getLabel(), key));
+            reject(tr("%1 has no member %2.").arg(getLabel().isEmpty() ? getName() : getLabel(), key));
         else if (!writeValue(aggregate.toVariant()))
             return;
     }
@@ -89,6 +89,6 @@ void KivAggregateData::slotValueChanged()
     settleReport();
     if (const KivAggregateClientItem* source = aggregateItem())
         holdReport(source->getAggregate().toVariant());
-    // Bindings hear of each member while the map is filled and may answer there already.
+    // Bindings are notified of each member while the map is filled, and may write at that moment.
     announce({static_cast<void (KivData::*)()>(&KivAggregateData::updateQmlMapFromItem), &KivData::valueChanged});
 }

@@ -8,7 +8,7 @@ namespace uiutils {
 class KivAggregateDataPrivate;
 }
 
-/// A record of a service as QML sees it: `value` is a QMLAggregate with a key for each member.
+/// An aggregate of a service as QML sees it: `value` is a QMLAggregate with a key for each member.
 class UIUTILS_EXPORT KivAggregateData : public KivData
 {
     Q_OBJECT
@@ -22,8 +22,8 @@ public:
 
     /// Sets all keys of the map to what the item holds.
     void updateQmlMapFromItem();
-    /// Sends the item's record with one member changed, or holds it back during a transaction, and emits
-    /// valueChanged(). The map keeps its value until the service reports the new record.
+    /// Sends the item's aggregate with one member changed, or holds it back during a transaction, and emits
+    /// valueChanged(). The map keeps its value until the service reports the new aggregate.
     void updateAggregateProperty(QString const& key, QVariant value);
 
 private:

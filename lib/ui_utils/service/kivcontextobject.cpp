@@ -1,7 +1,7 @@
 #include "service/kivcontextobject_p.h"
 
+#include "service/itemregistry_p.h"
 #include "service/kivdata_p.h"
-#include "service/manifest.h"
 
 #include <QDebug>
 
@@ -11,7 +11,7 @@ using uiutils::KivDataPrivate;
 
 namespace {
 
-/// All that live.
+/// All that exist.
 QVector<KIVContextObject*>& contextObjects()
 {
     static auto& objects = *new QVector<KIVContextObject*>;
@@ -72,7 +72,7 @@ KIVContextObject::Names KIVContextObject::namesOf(const QMap<QString, KivData*>&
     static bool isReported = false;
     if (names.names.size() > maximumProperties && !isReported) {
         isReported = true;
-        qWarning("%d service items have names, but QML can know only %d: those after %s are left out.",
+        qWarning("%d service items have names, but QML can know only %d. Those after %s are left out.",
                 names.names.size(), maximumProperties, names.names.at(maximumProperties - 1).constData());
     }
     return names;
@@ -83,7 +83,7 @@ void KIVContextObject::readProperty(int index, void* result) const
     const Item& item = m_items.at(index);
     KivData* wrapper = item.wrapper;
     if (!wrapper) {
-        wrapper = Manifest::getKivData(item.id);
+        wrapper = uiutils::itemregistry::find(item.id);
         if (wrapper && KivDataPrivate::of(wrapper)->contextName().toUtf8() != nameOf(index))
             wrapper = nullptr;
     }

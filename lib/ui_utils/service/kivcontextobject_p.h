@@ -11,18 +11,18 @@ class KivData;
 
 /// The wrappers of service items as properties that bear their names, for QQmlContext::setContextObject().
 ///
-/// Up to DynamicObject::maximumProperties names have room; the rest, in the order of names, is left out and the log
-/// says so once.
+/// At most DynamicObject::maximumProperties names are included. The rest, in the order of names, is left out, and the
+/// log has a line about it once.
 class KIVContextObject final : public uiutils::DynamicObject
 {
 public:
-    /// One property per name of a wrapper, see KivData::getQmlTag(), whether its service is there or away; of wrappers
-    /// with one name the last in the order of ids counts. A wrapper that goes later reads as null, or as the one that
-    /// has its id and name then.
+    /// One property per name of a wrapper, see KivData::getQmlTag(), whether its service is available or not; of
+    /// wrappers with one name the last in the order of ids counts. A wrapper that is deleted later reads as null, or as
+    /// the wrapper that has its id and name then.
     KIVContextObject(const QMap<QString, KivData*>& items, QObject* parent);
     ~KIVContextObject() override;
 
-    /// Has whatever uses a name, of any such object, look it up again.
+    /// Makes everything that uses a name of any of these objects read it again.
     static void evaluateNames();
 
 private:

@@ -4,21 +4,19 @@
 #include "core/plainvalue_p.h"
 #include "core/status.h"
 #include "service/announcement_p.h"
-#include "service/applicability_p.h"
 #include "service/enumnames_p.h"
 #include "service/inputrange_p.h"
 #include "service/inputvalidator_p.h"
-#include "service/manifest_p.h"
+#include "service/itemregistry_p.h"
+#include "service/manifeststate_p.h"
 
 #include <kiv/kivaggregateclientitem.h>
 #include <kiv/kivenumclientitem.h>
 #include <kiv/kivvecclientitem.h>
 
-#include <QQmlContext>
 #include <QQmlExpression>
 #include <QStringBuilder>
 
-#include <cstdio>
 #include <utility>
 
 using uiutils::KivDataPrivate;
@@ -44,7 +42,7 @@ KivData::KivData(std::unique_ptr<KivDataPrivate> parts, QObject* parent)
 }
 
 KivData::KivData(std::unique_ptr<KivDataPrivate> parts, KIVClientItem* item, Manifest* manifest)
-    : KivData(std::move(parts), static_cast<QObject*>(manifest))
+    : KivData(std::move(parts), uiutils::toObject(manifest))
 {
     d->item = item;
     if (!item)
@@ -59,7 +57,7 @@ KivData::~KivData()
 {
     if (d->announcing)
         d->announcing->abandon();
-    uiutils::ManifestPrivate::forget(d->id, this);
+    uiutils::itemregistry::forget(d->id, this);
 }
 
 // --- The item ------------------------------------------------------------------------------------
@@ -88,7 +86,7 @@ void KivDataPrivate::bindItem(KIVClientItem* other)
     isBound = false;
     delete expression;
     expression = nullptr;
-    isExpressionRefused = false;
+    isExpressionRejected = false;
     if (item) {
         createFormatter();
         q->updateValidator();
@@ -97,8 +95,8 @@ void KivDataPrivate::bindItem(KIVClientItem* other)
     announceItem();
 }
 
-/// Everything may be different with another item. A pending change stays, since the user has not taken it back, unless
-/// the service comes with another value, which is a report.
+/// Everything may be different with another item. A pending change stays, because the user has not undone it, unless
+/// the service returns with another value, which is a report.
 void KivDataPrivate::announceItem()
 {
     const QPointer<KivData> self(q);
@@ -117,8 +115,8 @@ void KivDataPrivate::announceItem()
     if (!stillHere())
         return;
     const bool isTable = qobject_cast<KivListAggregateClientItem*>(item);
-    const QVariant told = item ? item->getValue() : QVariant();
-    const bool isAnother = told.isValid() && !uiutils::isSameValue(told, reported);
+    const QVariant current = item ? item->getValue() : QVariant();
+    const bool isAnother = current.isValid() && !uiutils::isSameValue(current, reported);
     const bool isReport = item && (!isPending() || isAnother);
     if (isReport)
         q->slotValueChanged();
@@ -133,13 +131,13 @@ KIVClientItem* KivData::item() const
 
 Manifest* KivData::manifest() const
 {
-    return qobject_cast<Manifest*>(parent());
+    return uiutils::toManifest(parent());
 }
 
 KIVClientInterface* KivData::getClient() const
 {
-    const Manifest* owner = manifest();
-    return owner ? owner->client() : nullptr;
+    const uiutils::ManifestState* owner = uiutils::manifestState(parent());
+    return owner ? owner->client.data() : nullptr;
 }
 
 // --- What the item is ----------------------------------------------------------------------------
@@ -151,7 +149,7 @@ QString KivData::getQmlTag() const
 
 QString KivDataPrivate::contextName() const
 {
-    const Manifest* owner = q->manifest();
+    const ManifestState* owner = manifestState(q->parent());
     if (id.isEmpty() || !owner)
         return QString();
     const QLatin1String kind = id.startsWith(QLatin1String(":act")) ? QLatin1String("act")
@@ -159,7 +157,7 @@ QString KivDataPrivate::contextName() const
             : id.startsWith(QLatin1String(":con"))                  ? QLatin1String("cfg")
                                                                     : QLatin1String();
     const QString name = item ? item->getName() : uiutils::itemids::nameOf(id);
-    return owner->getQmlTag() % QLatin1Char('_') % kind % QLatin1Char('_') % name;
+    return owner->qmlTag % QLatin1Char('_') % kind % QLatin1Char('_') % name;
 }
 
 QString KivData::getId() const
@@ -189,7 +187,7 @@ unsigned KivData::getPrecision() const
 
 void KivData::setPrecision(unsigned)
 {
-    // The property is written by pages that also serve local items; a service keeps its own.
+    // Pages that also serve local items write the property; a service keeps its own precision.
 }
 
 QString KivData::getLabel() const
@@ -225,7 +223,7 @@ QString KivData::getRangeDescription() const
     return uiutils::rangeDescription(range);
 }
 
-/// Made when it is first asked for: most items are never edited.
+/// Created by the first request: most items are never edited.
 QValidator* KivData::getValidator() const
 {
     return d->validator || !d->id.isEmpty() ? currentValidator() : nullptr;
@@ -238,7 +236,7 @@ QValidator* KivData::currentValidator() const
     return d->validator;
 }
 
-/// While the service is away an entry is held to what kind of value it is: the limits come with the service.
+/// While the service is away an entry only has to be of the right type: the limits come with the service.
 uiutils::InputRule KivDataPrivate::currentRule() const
 {
     if (item || id.isEmpty())
@@ -251,8 +249,8 @@ uiutils::InputRule KivDataPrivate::inputRule() const
     return {q->getType(), q->getRegex(), q->getMinRange(), q->getMaxRange(), q->getPrecision()};
 }
 
-/// Entry fields hold the validator as long as the wrapper lives, so it takes the new rule over. One of another kind
-/// stays beside its successor.
+/// Entry fields use the validator as long as the wrapper exists, so it is given the new rule. If the rule needs another
+/// kind, the old validator remains beside its successor.
 void KivData::updateValidator()
 {
     if (d->validator && !uiutils::applyRule(d->inputRule(), d->validator))
@@ -261,7 +259,7 @@ void KivData::updateValidator()
 
 void KivData::renewValidator()
 {
-    // An entry field takes leave of the old one only when it hears of the new one.
+    // An entry field lets go of the old one only after it has been notified of the new one.
     if (d->validator)
         d->validator->deleteLater();
     d->validator = nullptr;
@@ -273,7 +271,7 @@ BaseFormatter* KivData::getBaseFormatter() const
     return d->formatter;
 }
 
-/// There from the start, because the item that names it may vanish.
+/// Created at the start, because the item that names it may vanish.
 void KivDataPrivate::createFormatter()
 {
     if (q->getType() == uiutils::textType)
@@ -281,7 +279,7 @@ void KivDataPrivate::createFormatter()
     const QString name = q->getAttr(QStringLiteral("formatter")).toString();
     if (name.isEmpty() || !q->getAttr(QStringLiteral("enum")).toString().isEmpty())
         return;
-    // QML may still hold the one of another name, which stays as long as the wrapper.
+    // QML may still use the one of another name, so that one stays as long as the wrapper.
     if (formatter && formatter->objectName() != name)
         formatter = nullptr;
     q->adoptFormatter(name);
@@ -322,7 +320,7 @@ bool KivData::isReady() const
     return d->item && d->item->isReady();
 }
 
-// Platforms are replaced as a whole, and pages and reports read their codes by our names.
+// A platform may be replaced by another one, and pages and reports read its codes by our names.
 static_assert(int(KIVClientItem::QualityNone) == uiutils::Status::None
         && int(KIVClientItem::QualityPassing) == uiutils::Status::Pass
         && int(KIVClientItem::QualityWarning) == uiutils::Status::Marginal
@@ -336,62 +334,6 @@ int KivData::getQualityCode() const
 QString KivData::getError() const
 {
     return d->error;
-}
-
-// --- Applicability -------------------------------------------------------------------------------
-
-bool KivData::isApplicable()
-{
-    if (!d->item)
-        return true;
-    const QString expression = d->item->getApplicableExpr();
-    if (expression.isEmpty())
-        return d->item->isApplicable();
-    d->compileApplicability(expression);
-    if (getId().startsWith(QLatin1String(":action:")))
-        return true;
-    if (d->isExpressionRefused)
-        return false;
-    return !d->expression || d->evaluateApplicability();
-}
-
-void KivDataPrivate::compileApplicability(const QString& text)
-{
-    if (expression && !expression->context()) {
-        delete expression;
-        expression = nullptr;
-    }
-    const Manifest* owner = q->manifest();
-    QQmlContext* context = Manifest::qmlContext();
-    if (expression || isExpressionRefused || text == QLatin1String("true") || !owner || !context)
-        return;
-
-    QString problem;
-    const std::optional<QString> translated = uiutils::translatedApplicability(text, owner->getQmlTag(), &problem);
-    if (!translated) {
-        isExpressionRefused = true;
-        reportExpressionError(problem);
-        return;
-    }
-    expression = new QQmlExpression(context, q, *translated, q);
-    QObject::connect(expression, &QQmlExpression::valueChanged, q, &KivData::slotApplicChanged);
-    expression->setNotifyOnValueChanged(true);
-}
-
-bool KivDataPrivate::evaluateApplicability()
-{
-    const bool result = expression->evaluate().toBool();
-    if (!expression->hasError())
-        return result;
-    reportExpressionError(expression->error().toString());
-    expression->clearError();
-    return false;
-}
-
-void KivDataPrivate::reportExpressionError(const QString& problem) const
-{
-    std::printf("Applicable expression error: %s %s\n", qPrintable(q->getName()), qPrintable(problem));
-    std::fflush(stdout);
 }
 
 // --- Reports of the item -------------------------------------------------------------------------

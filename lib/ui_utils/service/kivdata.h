@@ -30,11 +30,11 @@ class KivDataPrivate;
 /// formatter, `enums`) belongs to the wrapper.
 ///
 /// **Without an item**, because the service vanished or never had one, a wrapper is not ready, keeps its last value and
-/// has the neutral answer elsewhere: no units, quality 0, no choices. When an item of the same id comes back it is
-/// followed again, and every notifier fires once.
+/// returns neutral values elsewhere: no units, quality 0, no choices. When an item of the same id returns, the wrapper
+/// follows it, and every notifier is emitted once.
 ///
-/// Slots may delete the wrapper. A slot of valueChanged() may write the value again; a write of what is held already
-/// ends the matter, and what has not settled after 100 rounds is left as it is, with a warning.
+/// Slots may delete the wrapper. A slot of valueChanged() may write the value again. This ends when a write changes
+/// nothing; a value that has not settled after 100 rounds stays as it is, with a warning.
 class UIUTILS_EXPORT KivData : public QObject
 {
     Q_OBJECT
@@ -54,24 +54,24 @@ class UIUTILS_EXPORT KivData : public QObject
     Q_PROPERTY(QString regex READ getRegex CONSTANT)
     /// False only for settings.
     Q_PROPERTY(bool readOnly READ isReadOnly CONSTANT)
-    /// The values of an enumeration's choices by their names, as in `item.enums.Internal`; null for other items. An
-    /// object of its own after the choices have changed.
+    /// The values of an enumeration's choices by their names, as in `item.enums.Internal`; null for other items. A
+    /// new object after the choices have changed.
     Q_PROPERTY(QObject* enums READ getEnums CONSTANT)
     /// The value; a pending one during a transaction.
     Q_PROPERTY(QVariant value READ getValue WRITE setValue NOTIFY valueChanged)
-    /// Whether the service can give or take the value now.
+    /// Whether the service can provide or accept the value now.
     Q_PROPERTY(bool isReady READ isReady NOTIFY isReadyChanged)
     /// A code of uiutils::Status.
     Q_PROPERTY(int qualityCode READ getQualityCode NOTIFY qualityCodeChanged)
-    /// Why the last write was refused, in words for the user; empty before the first.
+    /// Why the last rejected write was rejected, in words for the user; empty before the first.
     Q_PROPERTY(QString error READ getError NOTIFY errorChanged)
     /// The value as a user reads it, with its unit.
     Q_PROPERTY(QString valueString READ getValueString NOTIFY valueChanged)
     /// The value as a user reads it, without its unit.
     Q_PROPERTY(QString valueStringNoUnits READ getValueStringNoUnits NOTIFY valueChanged)
     Q_PROPERTY(QString unitString READ getUnitString NOTIFY unitsChanged)
-    /// The selected element of an array item, from 0; -1 without elements. Kept under the item's id while the process
-    /// runs.
+    /// The selected element of an array item, from 0; -1 without elements. Kept under the item's id until the process
+    /// ends.
     Q_PROPERTY(int arraySelection READ getArraySelection WRITE setArraySelection NOTIFY arraySelectionChanged)
     /// The selected element as text.
     Q_PROPERTY(QString arraySelectionString READ getArraySelectionString NOTIFY arraySelectionChanged)
@@ -81,10 +81,10 @@ class UIUTILS_EXPORT KivData : public QObject
     Q_PROPERTY(int valueCount READ getValueCount NOTIFY valueCountChanged)
     /// Whether the item has a meaning now; screens hide what has none.
     Q_PROPERTY(bool applicable READ isApplicable NOTIFY applicableChanged)
-    /// The limits of the value, for a text those of its length; undefined where there is none.
+    /// The limits of the value, for a text those of its length; undefined without a limit.
     Q_PROPERTY(QVariant minRange READ getMinRange CONSTANT)
     Q_PROPERTY(QVariant maxRange READ getMaxRange CONSTANT)
-    /// One line about the values that the item takes, for example "0 - 100 dB".
+    /// One line about the values that the item accepts, for example "0 - 100 dB".
     Q_PROPERTY(QString rangeDescription READ getRangeDescription CONSTANT)
     Q_PROPERTY(KIVClientInterface* client READ getClient CONSTANT)
     /// Turns values into texts; null for items without one.
@@ -146,10 +146,10 @@ public:
     virtual QString getUnitString() const;
     virtual QValidator* getValidator() const;
     /// Sends `value` to the service, or holds it back while the manifest is changing. Nothing happens without a client
-    /// and on a read-only item. A value that the service refuses changes nothing; errorChanged() says why.
+    /// and on a read-only item. A value that the service rejects changes nothing; errorChanged() says why.
     virtual void setValue(QVariant value);
     virtual int getArraySelection() const;
-    /// Takes 0 to valueCount - 1 and leaves everything as it is for any other index.
+    /// Accepts 0 to valueCount - 1. Any other index changes nothing.
     virtual void setArraySelection(int index);
     virtual QString getArraySelectionString() const;
     virtual bool isReady() const;
@@ -178,11 +178,12 @@ public:
     Q_INVOKABLE virtual int enumValue(int const& index);
     /// The position of the choice with a value; -1 without one.
     Q_INVOKABLE virtual int enumIndex(int const& value);
-    /// Whether the choice at a position from 0 may be taken now; false outside.
+    /// Whether the choice at a position from 0 may be selected now; false outside.
     Q_INVOKABLE virtual bool applicableAt(int const& index);
-    /// Sends this item's pending value by itself.
+    /// Sends the pending value of this item alone.
     Q_INVOKABLE virtual void apply();
-    /// Drops the pending value. Only the last write is taken back: of two writes the first one's value is held then.
+    /// Discards the pending value. Only the last write is undone: of two writes, the first one's value is held
+    /// afterwards.
     Q_INVOKABLE virtual void revert();
 
 public Q_SLOTS:
@@ -205,13 +206,13 @@ public:
 
     // --- End of the ordered part. ---
 
-    /// Holds `value` and tells everybody: valueCountChanged() for an array, then valueChanged().
+    /// Holds `value` and emits valueCountChanged() for an array, then valueChanged().
     void setValueInternal(QVariant& value);
     /// Publishes the client's last error through `error` and errorChanged().
     void checkAppError();
 
 Q_SIGNALS:
-    /// A write was refused. `id` is the item's short name, `error` in words for the user.
+    /// A write was rejected. `id` is the item's short name; `error` is in words for the user.
     void errorChanged(QString id, QString error);
     void valueChanged();
     void unitsChanged();
@@ -230,35 +231,35 @@ protected:
 
     KIVClientItem* item() const;
     Manifest* manifest() const;
-    /// Keeps a value and hands it to the formatter; tells nobody.
+    /// Keeps a value and passes it to the formatter; emits nothing.
     void holdValue(QVariant value);
-    /// The same for one that the service reports.
+    /// The same for a value that the service reports.
     void holdReport(const QVariant& value);
-    /// Tells of a written value, signal by signal. While that is going on already, as soon as it is over.
+    /// Announces a written value, signal by signal. If an announcement is running already, this happens after it.
     void announce(std::initializer_list<void (KivData::*)()> steps);
-    /// Whether a write is to be carried out. By a handler, one that changes nothing of what was told already ends the
-    /// matter, and none is after too many rounds.
+    /// Whether a write is to be carried out. A handler's write is not if it changes nothing of what was announced, or
+    /// after too many rounds.
     bool mayWrite(bool isChange);
-    /// Takes a formatter of that name unless there is one already.
+    /// Creates the formatter of that name unless there is a formatter already.
     void adoptFormatter(const QString& name);
-    /// The validator for what the accessors say, made by the first call.
+    /// The validator for what the accessors return, created by the first call.
     QValidator* currentValidator() const;
-    /// Lets the validator, when there is one, follow what the accessors say; tells nobody.
+    /// Updates the validator, if there is one, from what the accessors return; emits nothing.
     void updateValidator();
-    /// Makes the validator anew; the old one goes when the event loop runs.
+    /// Replaces the validator; the old one is deleted when the event loop runs.
     void renewValidator();
     /// Ends a pending change when the service itself reports a setting.
     void settleReport();
     /// Publishes why a write was not even tried through `error` and errorChanged().
-    void refuse(const QString& error);
-    /// Writes an array, record or single value by the rules of setValue() without looking at choices. False when there
-    /// was nothing to do, see mayWrite().
+    void reject(const QString& error);
+    /// Writes an array, an aggregate or a single value by the rules of setValue() without looking at choices. False if
+    /// there was nothing to do, see mayWrite().
     bool writeValue(QVariant value);
 
 private:
     friend class uiutils::KivDataPrivate;
     void announceCount();
-    /// Emits what tells of a change of the selected element, for those that asked for it.
+    /// Emits the signal of a changed selection if anybody has requested the selection.
     void announceSelection();
 
     const std::unique_ptr<uiutils::KivDataPrivate> d;

@@ -15,7 +15,7 @@ namespace uiutils {
 
 class Announcement;
 
-/// What a wrapper keeps. Those of derived classes derive from this, so that an item takes one allocation for all.
+/// What a wrapper keeps. The private parts of derived classes derive from this, so that an item takes one allocation.
 class KivDataPrivate
 {
 public:
@@ -26,22 +26,22 @@ public:
 
     /// getQmlTag(), also while the item is away.
     QString contextName() const;
-    /// Follows another item, or none; called when the service's items have come or gone.
+    /// Follows another item, or none. Called after items of the service have appeared or vanished.
     void bindItem(KIVClientItem* other);
     void connectItem();
     void createFormatter();
     void announceItem();
     /// Whether a change waits to be sent.
     bool isPending() const { return isChanged && !isSent; }
-    /// Forgets a change; returns whether it was pending.
+    /// Forgets a change. Returns whether it was pending.
     bool endChange();
     void announceValue();
-    bool isBeingTold() const;
+    bool isAnnouncing() const;
     bool isKnownToChain() const;
-    void enterChain();
+    void enterChain(unsigned chain);
     bool isStopped();
     QVariant reportedValue() const;
-    void refuse(const QString& reason);
+    void reject(const QString& reason);
     void compileApplicability(const QString& text);
     bool evaluateApplicability();
     void reportExpressionError(const QString& problem) const;
@@ -58,16 +58,16 @@ public:
     /// What the service had said when the pending change was written.
     QVariant reported;
     bool isChanged = false;
-    /// The change went out with a batch that the service took.
+    /// The change was sent with a batch that the service accepted.
     bool isSent = false;
-    /// Follows an item, or did when the service was last heard of.
+    /// Follows an item, or did when the service was last available.
     bool isBound = false;
-    /// Whether the item is an array, a text or a real number, or was when it was last there.
+    /// Whether the item is an array, a text or a real number, or was when it was last available.
     bool isVector = false;
     bool isText = false;
     bool isReal = false;
-    bool isExpressionRefused = false;
-    /// The value did not settle in the chain that told of it last.
+    bool isExpressionRejected = false;
+    /// The value did not settle in the chain that announced it last.
     bool stopped = false;
     bool followsUserData = false;
     QPointer<KIVClientItem> item;
@@ -75,12 +75,12 @@ public:
     QQmlExpression* expression = nullptr;
     QString id;
     QObject* enums = nullptr;
-    /// Counts the service's reports, so that a write knows whether it was answered meanwhile.
+    /// Counts the service's reports, so that a write knows whether a report has answered it.
     unsigned reports = 0;
-    /// Set while the value is told; the innermost one.
+    /// Set while the value is being announced; the innermost one.
     Announcement* announcing = nullptr;
-    /// The chain of announcements that told of the value last.
-    unsigned toldIn = 0;
+    /// The chain of announcements that announced the value last.
+    unsigned announcedIn = 0;
     QString selectionText;
     int selection = -1;
 };

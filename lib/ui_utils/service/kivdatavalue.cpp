@@ -1,13 +1,11 @@
-// The part of KivData that holds and writes values, their elements and the choices among them.
+// The part of KivData that holds, writes and announces values.
 
 #include "service/kivdata_p.h"
 
-#include "core/indexrange_p.h"
 #include "core/plainvalue_p.h"
-#include "core/userdata.h"
 #include "service/announcement_p.h"
 #include "service/enumnames_p.h"
-#include "service/manifest.h"
+#include "service/manifeststate_p.h"
 #include "service/valuetext_p.h"
 
 #include <kiv/kivenumclientitem.h>
@@ -17,7 +15,6 @@
 #include <utility>
 
 using uiutils::choicesOf;
-using uiutils::isWithin;
 using uiutils::KivDataPrivate;
 
 // --- The value -----------------------------------------------------------------------------------
@@ -33,7 +30,7 @@ QString KivData::getValueString(bool showUnits) const
         return d->item->getValueString(showUnits);
     BaseFormatter* formatter = getBaseFormatter();
     return formatter ? uiutils::formattedText(*formatter, d->value, showUnits)
-                     : uiutils::plainText(d->value, getPrecision());
+                     : uiutils::unformattedText(d->value, getPrecision());
 }
 
 QString KivData::getValueStringNoUnits() const
@@ -56,7 +53,7 @@ void KivData::setValue(QVariant value)
     value = uiutils::plainValue(value);
     const KIVEnumChoicesClientItem* choices = choicesOf(d->item);
     if (choices && !choices->contains(value.toInt())) {
-        refuse(QStringLiteral("Invalid enum value %1").arg(value.toInt()));
+        reject(QStringLiteral("Invalid enum value %1").arg(value.toInt()));
         return;
     }
     writeValue(value);
@@ -64,13 +61,13 @@ void KivData::setValue(QVariant value)
 
 bool KivData::writeValue(QVariant value)
 {
-    // A page finds a number where it wrote the text of one.
+    // A page that writes a number as text reads a number.
     const QVariant reported = d->reportedValue();
     value = uiutils::readValue(value, reported.userType());
     if (!mayWrite(!uiutils::isSameValue(value, d->value)))
         return false;
-    const Manifest* owner = manifest();
-    if (owner && owner->isChanging()) {
+    const uiutils::ManifestState* owner = uiutils::manifestState(parent());
+    if (owner && owner->isChanging) {
         d->reported = reported;
         d->isChanged = true;
         d->isSent = false;
@@ -91,7 +88,7 @@ bool KivData::writeValue(QVariant value)
     return true;
 }
 
-/// What the service said last, which a pending change hides.
+/// What the service reported last, which a pending change hides.
 QVariant KivDataPrivate::reportedValue() const
 {
     if (item)
@@ -127,16 +124,16 @@ void KivData::announce(std::initializer_list<void (KivData::*)()> steps)
 {
     if (d->isStopped())
         return;
-    if (d->isBeingTold()) {
+    if (d->isAnnouncing()) {
         uiutils::Announcement::countReturn();
         d->announcing->add(steps);
         return;
     }
     uiutils::Announcement announcement(steps, d->announcing);
-    const unsigned outerChain = d->toldIn;
+    const unsigned outerChain = d->announcedIn;
     const bool wasStopped = d->stopped;
     d->announcing = &announcement;
-    d->enterChain();
+    d->enterChain(announcement.ownChain());
     while (announcement.beginRound()) {
         for (const uiutils::Announcement::Step step : announcement.steps()) {
             (this->*step)();
@@ -148,51 +145,52 @@ void KivData::announce(std::initializer_list<void (KivData::*)()> steps)
     d->announcing = announcement.outer();
     if (!d->announcing)
         return;
-    d->toldIn = outerChain;
+    d->announcedIn = outerChain;
     d->stopped = wasStopped;
 }
 
-/// Not for the event loop of a handler: what is told out there goes on when that ends.
-bool KivDataPrivate::isBeingTold() const
+/// Not in the event loop of a handler: the announcement outside continues after that loop.
+bool KivDataPrivate::isAnnouncing() const
 {
     return announcing && announcing->isCurrent();
 }
 
 bool KivData::mayWrite(bool isChange)
 {
-    // Items that mirror each other would else be told over every way from one to the other.
+    // Otherwise items that mirror each other would be announced on every path from one to the other.
     if (isChange || !d->isKnownToChain())
         return !d->isStopped();
     uiutils::Announcement::countReturn();
     return false;
 }
 
-/// Whether the item was told, or stopped, since the first of the announcements on the stack.
+/// Whether the item was announced, or stopped, in the running chain.
 bool KivDataPrivate::isKnownToChain() const
 {
     const unsigned chain = uiutils::Announcement::chain();
-    return chain != 0 && toldIn == chain;
+    return chain != 0 && announcedIn == chain;
 }
 
-void KivDataPrivate::enterChain()
+void KivDataPrivate::enterChain(unsigned chain)
 {
-    if (isKnownToChain())
+    if (chain != 0 && announcedIn == chain)
         return;
-    toldIn = uiutils::Announcement::chain();
+    announcedIn = chain;
     stopped = false;
 }
 
-/// Whether the handlers have had their rounds. Of handlers that set each other going, each is stopped, and named, once.
+/// Whether the handlers have used up their rounds. Of handlers that trigger each other, each is stopped, and logged,
+/// once.
 bool KivDataPrivate::isStopped()
 {
     if (isKnownToChain() && stopped) {
         uiutils::Announcement::countReturn();
         return true;
     }
-    const bool hasHadRounds = isBeingTold() && announcing->isLastRound();
+    const bool hasHadRounds = isAnnouncing() && announcing->isLastRound();
     if (!hasHadRounds && !uiutils::Announcement::isExhausted())
         return false;
-    enterChain();
+    enterChain(uiutils::Announcement::chain());
     stopped = true;
     qWarning("The value of %s does not settle: a handler of its change, or of another item's, writes another one each "
              "time. It was stopped after %d %s; let the handler write a value that stays.",
@@ -237,16 +235,16 @@ void KivData::apply()
     QVariant value = d->value;
     const QPointer<KIVClientInterface> client = getClient();
     const unsigned reports = d->reports;
-    const bool isRefused = client && !client->setItem(getId(), value);
-    const QString error = isRefused && client ? client->getLastError() : QString();
+    const bool isRejected = client && !client->setItem(getId(), value);
+    const QString error = isRejected && client ? client->getLastError() : QString();
     if (!self)
         return;
-    // What was refused stays pending, so that it can be mended or taken back.
-    d->isChanged = isRefused && d->reports == reports;
+    // A rejected change stays pending, so that it can be corrected or undone.
+    d->isChanged = isRejected && d->reports == reports;
     if (d->reports == reports)
         setValueInternal(value);
-    if (self && isRefused)
-        refuse(error);
+    if (self && isRejected)
+        reject(error);
 }
 
 void KivData::revert()
@@ -260,15 +258,15 @@ void KivData::revert()
 void KivData::checkAppError()
 {
     if (const KIVClientInterface* client = getClient())
-        refuse(client->getLastError());
+        reject(client->getLastError());
 }
 
-void KivData::refuse(const QString& error)
+void KivData::reject(const QString& error)
 {
-    d->refuse(error);
+    d->reject(error);
 }
 
-void KivDataPrivate::refuse(const QString& reason)
+void KivDataPrivate::reject(const QString& reason)
 {
     error = reason;
     Q_EMIT q->errorChanged(q->getName(), reason);
@@ -290,127 +288,4 @@ QString KivData::invokeWithStringArg(QString const& arg)
     if (client && !client->sendAction(getId(), arg, &reply, KIVClientInterface::callTimeout) && self)
         checkAppError();
     return reply;
-}
-
-// --- Elements of an array ------------------------------------------------------------------------
-
-/// Without making a list of variants of a list of texts, for each element.
-QVariant KivData::variantAt(int ind) const
-{
-    if (!isWithin(ind, getValueCount()))
-        return QVariant();
-    return d->value.type() == QVariant::StringList ? QVariant(d->value.toStringList().at(ind))
-                                                   : d->value.toList().at(ind);
-}
-
-QVariant KivData::at(int ind) const
-{
-    return variantAt(ind);
-}
-
-QVariant KivData::getArrayValue(int index) const
-{
-    return variantAt(index);
-}
-
-void KivData::setAt(int ind, QVariant const& val)
-{
-    if (!isWithin(ind, getValueCount()))
-        return;
-    QVariantList list = d->value.toList();
-    list[ind] = uiutils::plainValue(val);
-    QVariant value = list;
-    if (d->value.type() == QVariant::StringList)
-        value.convert(QVariant::StringList);
-    setValue(value);
-}
-
-int KivData::getValueCount() const
-{
-    if (!d->isVector)
-        return 0;
-    return d->value.type() == QVariant::StringList ? d->value.toStringList().size() : d->value.toList().size();
-}
-
-QString KivDataPrivate::arraySelectionKey() const
-{
-    return q->getId() + QLatin1String(":array_selection:");
-}
-
-/// Selections are shared by all wrappers of an id; only those that somebody asked for theirs listen.
-void KivDataPrivate::followUserData()
-{
-    if (followsUserData)
-        return;
-    followsUserData = true;
-    QObject::connect(UserData::getInstance(), &UserData::signalDataChanged, q, [this](const QString& key) {
-        if (key == arraySelectionKey())
-            q->announceSelection();
-    });
-    selection = q->getArraySelection();
-    selectionText = q->getArraySelectionString();
-}
-
-int KivData::getArraySelection() const
-{
-    d->followUserData();
-    const int count = getValueCount();
-    const QVariant kept = UserData::getInstance()->getData(d->arraySelectionKey());
-    if (kept.isValid() && isWithin(kept.toInt(), count))
-        return kept.toInt();
-    return count > 0 ? 0 : -1;
-}
-
-void KivData::setArraySelection(int index)
-{
-    if (isWithin(index, getValueCount()) && index != getArraySelection())
-        UserData::getInstance()->setData(d->arraySelectionKey(), index);
-}
-
-QString KivData::getArraySelectionString() const
-{
-    return variantAt(getArraySelection()).toString();
-}
-
-// --- Choices of an enumeration -------------------------------------------------------------------
-
-QObject* KivData::getEnums() const
-{
-    const KIVEnumChoicesClientItem* choices = choicesOf(d->item);
-    if (!d->enums && choices)
-        d->enums = uiutils::EnumNames::create(*choices, const_cast<KivData*>(this));
-    return d->enums;
-}
-
-int KivData::getEnumCount() const
-{
-    const KIVEnumChoicesClientItem* choices = choicesOf(d->item);
-    return choices ? choices->count() : 0;
-}
-
-QString KivData::enumLabel(int const& index)
-{
-    return isWithin(index, getEnumCount()) ? choicesOf(d->item)->labelAt(index) : QString();
-}
-
-QString KivData::enumLabelForValue(int const& index)
-{
-    const KIVEnumChoicesClientItem* choices = choicesOf(d->item);
-    return choices && choices->contains(index) ? choices->labelForValue(unsigned(index)) : QString();
-}
-
-int KivData::enumValue(int const& index)
-{
-    return isWithin(index, getEnumCount()) ? choicesOf(d->item)->valueAt(index) : -1;
-}
-
-int KivData::enumIndex(int const& value)
-{
-    const KIVEnumChoicesClientItem* choices = choicesOf(d->item);
-    return choices ? choices->indexOf(value) : -1;
-}
-
-bool KivData::applicableAt(int const& index)
-{
-    return isWithin(index, getEnumCount()) && choicesOf(d->item)->isApplicableAt(index);
 }

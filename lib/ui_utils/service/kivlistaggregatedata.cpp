@@ -26,7 +26,7 @@ KivListAggregateData::KivListAggregateData(KivListAggregateClientItem* item, Man
 
 KivListAggregateData::~KivListAggregateData()
 {
-    // The model reads the table, which goes before QObject deletes the children.
+    // The model reads the table, which is destroyed before QObject deletes the children.
     delete d->model;
 }
 

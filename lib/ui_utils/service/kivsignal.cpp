@@ -7,9 +7,18 @@
 class uiutils::KIVSignalPrivate
 {
 public:
+    void follow(KIVSignal* listener) const;
+
     QString service;
     QPointer<KIVClientInterface> client;
 };
+
+/// A service that is not reachable yet is heard from when it is.
+void uiutils::KIVSignalPrivate::follow(KIVSignal* listener) const
+{
+    if (client && client->isValid())
+        QObject::connect(client, &KIVClientInterface::SigError, listener, &KIVSignal::slotError, Qt::UniqueConnection);
+}
 
 KIVSignal::KIVSignal(QObject* parent)
     : QObject(parent)
@@ -30,8 +39,9 @@ void KIVSignal::setService(const QString& service)
         disconnect(d->client, nullptr, this, nullptr);
     d->service = service;
     d->client = KIVClientInterface::getSessionBusClient(service, nullptr);
-    if (d->client && d->client->isValid())
-        connect(d->client, &KIVClientInterface::SigError, this, &KIVSignal::slotError);
+    if (d->client)
+        connect(d->client, &KIVClientInterface::itemsChanged, this, [this] { d->follow(this); });
+    d->follow(this);
 }
 
 void KIVSignal::slotError(QString error)

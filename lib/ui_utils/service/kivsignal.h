@@ -15,7 +15,7 @@ class KIVSignalPrivate;
 class UIUTILS_EXPORT KIVSignal : public QObject
 {
     Q_OBJECT
-    /// The name of the service to listen to. Writing connects to it when it can be reached, and leaves the one before;
+    /// The name of the service to listen to. Writing disconnects the one before and connects to this one if available;
     /// serviceChanged() is not emitted.
     Q_PROPERTY(QString service READ getService WRITE setService NOTIFY serviceChanged)
 

@@ -1,40 +1,68 @@
-#include "service/manifest_p.h"
+#include "service/manifest.h"
 
 #include "base/batchname_p.h"
 #include "core/itemids_p.h"
+#include "service/itemregistry_p.h"
 #include "service/kivaggregatedata.h"
 #include "service/kivcontextobject_p.h"
 #include "service/kivdata_p.h"
 #include "service/kivlistaggregatedata.h"
+#include "service/manifeststate_p.h"
 
 #include <kiv/kivaggregateclientitem.h>
 
 #include <QDebug>
-#include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QQmlContext>
+#include <QSet>
 
 #include <algorithm>
 #include <iterator>
 
 namespace itemids = uiutils::itemids;
+namespace itemregistry = uiutils::itemregistry;
 using uiutils::KivDataPrivate;
+
+/// What a manifest keeps of its service and its transaction.
+class uiutils::ManifestPrivate : public ManifestState
+{
+public:
+    explicit ManifestPrivate(Manifest* owner)
+        : q(owner)
+    {
+    }
+
+    static const ManifestState* of(const Manifest* manifest) { return manifest->d.get(); }
+
+    QVector<QPointer<KivData>> wrappers() const;
+    bool registerItems();
+    bool registerItem(const QString& id);
+    void bindItems();
+    QString actionId(QLatin1String action) const;
+    bool send(const QString& actionId, const QString& argument);
+
+    QString name;
+    QString manifestId;
+    /// The items that have been given wrappers.
+    QSet<QString> known;
+
+private:
+    Manifest* q;
+};
+
 using uiutils::ManifestPrivate;
 
-QMap<QString, KivData*>& Manifest::m_items = *new QMap<QString, KivData*>;
-QPointer<QQmlContext> Manifest::s_pContext;
+QMap<QString, KivData*>& Manifest::m_items = itemregistry::entries();
+QPointer<QQmlContext>& Manifest::s_pContext = itemregistry::qmlContext();
 
 namespace {
 
-/// Wrappers whose entry later ones have taken, by their id, the earliest first. Never destroyed, as the registry.
-QHash<QString, QVector<KivData*>>& displaced = *new QHash<QString, QVector<KivData*>>;
-
-/// The wrappers of an id, the registered one first and then the displaced ones, the latest first.
+/// The wrappers of an id: the registered one, then the displaced ones, the latest first.
 QVector<QPointer<KivData>> wrappersOf(const QString& id, KivData* registered)
 {
     QVector<QPointer<KivData>> list {registered};
-    const QVector<KivData*> earlier = displaced.value(id);
+    const QVector<KivData*> earlier = itemregistry::displaced(id);
     std::copy(earlier.crbegin(), earlier.crend(), std::back_inserter(list));
     return list;
 }
@@ -44,7 +72,7 @@ bool isPending(const KivData* wrapper)
     return wrapper && KivDataPrivate::of(wrapper)->isPending();
 }
 
-/// A setting whose service is away has no name to go by; its change waits.
+/// A setting whose service is away has no name to send it under; its change waits.
 bool canTravel(const KivData* wrapper)
 {
     return isPending(wrapper) && KivDataPrivate::of(wrapper)->item;
@@ -52,31 +80,40 @@ bool canTravel(const KivData* wrapper)
 
 } // namespace
 
+const uiutils::ManifestState* uiutils::manifestState(const QObject* parent)
+{
+    const auto* manifest = qobject_cast<const Manifest*>(parent);
+    return manifest ? ManifestPrivate::of(manifest) : nullptr;
+}
+
+Manifest* uiutils::toManifest(QObject* parent)
+{
+    return qobject_cast<Manifest*>(parent);
+}
+
+QObject* uiutils::toObject(Manifest* manifest)
+{
+    return manifest;
+}
+
 Manifest::Manifest(KIVClientInterface* client, QString const& qmlTag, QString const& name, QObject* parent)
     : QObject(parent)
     , d(std::make_unique<ManifestPrivate>(this))
 {
     d->client = client;
     d->name = name;
-    d->qmlTag = qmlTag;
+    d->qmlTag = qmlTag.isEmpty() ? name : qmlTag;
     if (!client)
         return;
     connect(client, &KIVClientInterface::itemsChanged, this, [this] { d->bindItems(); });
-    QStringList ids;
-    client->getItemList(name, &ids);
-    for (const QString& id : qAsConst(ids)) {
-        if (id.endsWith(itemids::manifest))
-            d->manifestId = id;
-        else
-            d->registerItem(id);
-    }
+    d->registerItems();
 }
 
 Manifest::~Manifest()
 {
-    if (displaced.isEmpty())
+    if (!itemregistry::hasDisplaced())
         return;
-    // Pages go on with the wrappers that have their entries back when these have gone.
+    // After these have been deleted, pages continue with the wrappers that have their entries back.
     const QVector<QPointer<KivData>> own = d->wrappers();
     for (const QPointer<KivData>& wrapper : own)
         delete wrapper;
@@ -85,7 +122,7 @@ Manifest::~Manifest()
 
 QString Manifest::getQmlTag() const
 {
-    return d->qmlTag.isEmpty() ? d->name : d->qmlTag;
+    return d->qmlTag;
 }
 
 QString Manifest::getServiceName() const
@@ -113,11 +150,28 @@ QVector<QPointer<KivData>> ManifestPrivate::wrappers() const
     return list;
 }
 
-void ManifestPrivate::registerItem(const QString& id)
+/// Makes wrappers of the items that are not known yet. Returns whether there were any.
+bool ManifestPrivate::registerItems()
+{
+    QStringList ids;
+    client->getItemList(name, &ids);
+    // A list may name an item twice; the later wrapper counts.
+    const QSet<QString> before = known;
+    bool areNew = false;
+    for (const QString& id : qAsConst(ids)) {
+        if (id.endsWith(itemids::manifest))
+            manifestId = id;
+        else if (!before.contains(id))
+            areNew = registerItem(id) || areNew;
+    }
+    return areNew;
+}
+
+bool ManifestPrivate::registerItem(const QString& id)
 {
     KIVClientItem* item = client->getItem(id);
     if (!item)
-        return;
+        return false;
     KivData* wrapper = nullptr;
     auto* aggregate
             = item->getType() == KIVClientItem::TypeAggregate ? qobject_cast<KivAggregateClientItem*>(item) : nullptr;
@@ -129,13 +183,12 @@ void ManifestPrivate::registerItem(const QString& id)
         wrapper = new KivListAggregateData(list, q);
     else
         wrapper = new KivData(item, q);
-    KivData*& entry = Manifest::m_items[id];
-    if (entry)
-        displaced[id].append(entry);
-    entry = wrapper;
+    itemregistry::enter(id, wrapper);
+    known.insert(id);
+    return true;
 }
 
-/// Follows the service through vanishing and coming back.
+/// Follows the service when it comes, vanishes and returns, and when it publishes further items.
 void ManifestPrivate::bindItems()
 {
     const QVector<QPointer<KivData>> own = wrappers();
@@ -147,7 +200,7 @@ void ManifestPrivate::bindItems()
         if (!wrapper)
             continue;
         KivDataPrivate* parts = KivDataPrivate::of(wrapper);
-        // One that has its item keeps it: items that are gone have been destroyed.
+        // A wrapper that has its item keeps it: items that vanished have been destroyed.
         if (parts->item)
             continue;
         KIVClientItem* item = client->getItem(parts->id);
@@ -155,28 +208,14 @@ void ManifestPrivate::bindItems()
         if (item || parts->isBound)
             parts->bindItem(item);
     }
-    // What never changes while an item is there is read once, perhaps before it was there.
+    if (!self || !client)
+        return;
+    // Pages that are there already learn names from a new context object.
+    if (registerItems() && Manifest::qmlContext())
+        Manifest::setQmlContext(Manifest::qmlContext());
+    // What never changes while an item is available is read once, perhaps before it was available.
     if (hasReturned)
         KIVContextObject::evaluateNames();
-}
-
-void ManifestPrivate::forget(const QString& id, const KivData* wrapper)
-{
-    const auto entry = Manifest::m_items.find(id);
-    if (entry == Manifest::m_items.end())
-        return;
-    const auto earlier = displaced.find(id);
-    if (earlier == displaced.end()) {
-        if (*entry == wrapper)
-            *entry = nullptr;
-        return;
-    }
-    if (*entry == wrapper)
-        *entry = earlier->takeLast();
-    else
-        earlier->removeOne(const_cast<KivData*>(wrapper));
-    if (earlier->isEmpty())
-        displaced.erase(earlier);
 }
 
 void Manifest::startChanges()
@@ -189,7 +228,7 @@ void Manifest::applyChanges()
     d->isChanging = false;
     if (!d->client)
         return;
-    // By name: of settings with one name in a batch, the last one travels and the others stay pending.
+    // By name: of settings with one name, the batch has the last one, and the others stay pending.
     QMap<QString, QPointer<KivData>> senders;
     const QStringList ids = m_items.keys();
     for (const QString& id : ids) {
@@ -204,12 +243,12 @@ void Manifest::applyChanges()
         KivDataPrivate* parts = KivDataPrivate::of(*it);
         changes.insert(it.key(), parts->value);
         parts->isSent = true;
-        // Another wrapper's change of the same item would travel later, over this one.
+        // Another wrapper's change of the same item would be sent later and replace this one.
         const QVector<QPointer<KivData>> wrappers = wrappersOf(parts->id, m_items.value(parts->id));
         std::copy_if(wrappers.cbegin(), wrappers.cend(), std::back_inserter(outdone), isPending);
     }
 
-    // The service takes the text for bytes. What it reports on the way may end the manifest.
+    // The service reads the text as bytes. What it reports meanwhile may delete the manifest.
     const QByteArray json = QJsonDocument(QJsonObject::fromVariantMap(changes)).toJson();
     const QPointer<KIVClientInterface> client = d->client;
     if (d->send(d->actionId(itemids::applyConfig), QString::fromLatin1(json.constData()))) {
@@ -219,7 +258,7 @@ void Manifest::applyChanges()
         }
         return;
     }
-    // This service answered for the settings of the others too.
+    // This service has answered for the settings of other services too.
     const QString error = client ? client->getLastError() : QString();
     for (const QPointer<KivData>& wrapper : qAsConst(senders)) {
         if (wrapper)
@@ -227,7 +266,7 @@ void Manifest::applyChanges()
     }
     for (const QPointer<KivData>& wrapper : qAsConst(senders)) {
         if (wrapper)
-            KivDataPrivate::of(wrapper)->refuse(error);
+            KivDataPrivate::of(wrapper)->reject(error);
     }
 }
 
@@ -290,7 +329,7 @@ void Manifest::setQmlContext(QQmlContext* context)
     }
     s_pContext = context;
     auto* names = new KIVContextObject(m_items, nullptr);
-    // Bindings may still hold the one before, so each stays until the context is gone.
+    // Bindings may still use the one before, so each stays until the context is deleted.
     QObject::connect(context, &QObject::destroyed, names, [names] { delete names; });
     context->setContextObject(names);
 }

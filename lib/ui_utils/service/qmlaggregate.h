@@ -12,19 +12,19 @@ namespace uiutils {
 class QMLAggregatePrivate;
 }
 
-/// The members of a record as keys of a map. What QML writes goes to the service; the key changes when the service
-/// reports the new record, because the service has the last word.
+/// The members of an aggregate as keys of a map. What QML writes is sent to the service; the key changes when the
+/// service reports the new aggregate, because the service decides.
 class UIUTILS_EXPORT QMLAggregate : public QQmlPropertyMap
 {
-    // No meta-object of its own: one between the map's and the keys would hide keys from QML.
+    // No meta-object of its own: between the map's and the keys it would hide keys from QML.
 
 public:
     /// `owner` owns the map.
     explicit QMLAggregate(KivAggregateData& owner);
     ~QMLAggregate() override;
 
-    /// Ends the map; one that QML has ever written when the event loop runs, because a write tells of itself after
-    /// updateValue(), and nobody says when that is over.
+    /// Deletes the map. If QML has ever written it, this waits for the event loop, because a write emits its signal
+    /// after updateValue(), and nothing says when that has ended.
     void release();
 
 protected:

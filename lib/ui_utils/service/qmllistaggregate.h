@@ -20,7 +20,7 @@ class UIUTILS_EXPORT QMLListAggregate : public QAbstractListModel
     Q_OBJECT
 
 public:
-    /// `list` stays its owner's, who changes it in reset() only and keeps it longer than the model.
+    /// `list` is not owned. Its owner changes it in reset() only and keeps it longer than the model.
     explicit QMLListAggregate(const KivListAggregate& list, QObject* parent = nullptr);
     ~QMLListAggregate() override;
 

@@ -1,10 +1,17 @@
 #include "service/valuetext_p.h"
 
-#include "service/inputrange_p.h"
-
 #include <kiv/baseformatter.h>
 
+#include <QLocale>
+
 namespace uiutils {
+
+namespace {
+
+/// No double has more digits to show, but a service could request billions.
+constexpr unsigned maximumDecimals = 340;
+
+} // namespace
 
 QString formattedText(BaseFormatter& formatter, const QVariant& value, bool showUnits)
 {
@@ -15,9 +22,16 @@ QString formattedText(BaseFormatter& formatter, const QVariant& value, bool show
     return text;
 }
 
-QString plainText(const QVariant& value, unsigned precision)
+QString unformattedText(const QVariant& value, unsigned precision)
 {
     return value.type() == QVariant::Double ? fixedPointText(value.toDouble(), precision) : value.toString();
+}
+
+QString fixedPointText(double number, unsigned precision)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(number, 'f', int(qMin(precision, maximumDecimals)));
 }
 
 } // namespace uiutils

@@ -7,10 +7,14 @@ class BaseFormatter;
 
 namespace uiutils {
 
-/// The formatter's text of a value, with or without its unit; the formatter's own setting stays as it is.
+/// The formatter's text of a value, with or without its unit. The formatter's own setting stays as it is.
 QString formattedText(BaseFormatter& formatter, const QVariant& value, bool showUnits);
 
-/// A value without a formatter as users read it: a double with `precision` decimals, anything else as its text.
-QString plainText(const QVariant& value, unsigned precision);
+/// A value without a formatter as users read it: a double as fixedPointText(), anything else as its text.
+QString unformattedText(const QVariant& value, unsigned precision);
+
+/// A real number with `precision` decimals as users read it, without group separators, because the text is what they
+/// would type.
+QString fixedPointText(double number, unsigned precision);
 
 } // namespace uiutils

@@ -12,7 +12,7 @@ QString replaced(const QString& escape, bool isInBrackets)
     return escape == QLatin1String("\\W") && !isInBrackets ? QStringLiteral("[^\\w\\p{M}]") : escape;
 }
 
-/// Of the bracket expression that begins at `start`, the members that may be a closing bracket without ending it.
+/// The length of the opening of the bracket expression at `start`, which may contain a closing bracket as a member.
 int lengthOfOpening(const QString& pattern, int start)
 {
     int end = start + 1;

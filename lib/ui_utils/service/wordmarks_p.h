@@ -4,8 +4,8 @@
 
 namespace uiutils {
 
-/// `pattern` with marks beside the letters of every "\w": PCRE2 takes letters and digits alone, and texts in Thai or
-/// Hindi, and decomposed letters anywhere, have marks among them. Unchanged when it quotes by "\Q".
+/// `pattern` with "\w" extended by marks: PCRE2 matches only letters and digits, but texts in Thai or Hindi, and
+/// decomposed letters in any language, contain marks. A pattern that quotes by "\Q" is returned unchanged.
 QString withWordMarks(const QString& pattern);
 
 } // namespace uiutils

@@ -87,7 +87,7 @@ void TemplateToXmlWriter::sectionsToXml(QJsonObject& node)
             qWarning().noquote() << "Section missing tag:" << NodeReader(section).title();
         else
             sectionToXml(section);
-        // Only now: nested sections are siblings of their parent.
+        // Not before, because nested sections are siblings of their parent.
         sectionsToXml(section);
     });
 }
@@ -150,7 +150,7 @@ void TemplateToXmlWriter::tablesToXml(QJsonObject& node)
 
 void TemplateToXmlWriter::rowsToXml(const TableReader& table)
 {
-    // As much as rows of one short cell take; what is not written to costs no memory.
+    // As much as rows of one short cell take; memory that is not written to costs nothing.
     constexpr int charactersOfARow = 180;
     uiutils::makeRoom(m_output, qint64(table.extent().rows) * charactersOfARow);
     m_xml.setAutoFormatting(false);
@@ -216,8 +216,8 @@ void TemplateToXmlWriter::writeCustomerInfo()
     m_blocks->writeEndElement();
 }
 
-/// Both blocks, or nothing. They are written inside an element of their own, so that they come indented by one level,
-/// and then taken out of it. Its line stays as an empty one.
+/// Both blocks, or nothing. They are written inside an element of their own, so that they are indented by one level,
+/// and are then taken out of it. The line of its end tag remains as an empty one.
 QString TemplateToXmlWriter::customFields()
 {
     QString blocks;
@@ -299,7 +299,7 @@ void TemplateToXmlWriter::writeAttributes(const QJsonObject& node)
     if (mapped.isEmpty())
         return;
 
-    // Names differ in the document; only mapped ones can meet another.
+    // Names in the document differ; only a mapped one can equal another.
     QSet<QString> written;
     NodeReader(node).forEachAttribute([&](const QString& name, const QString&) { written += name; });
     for (const auto& attribute : qAsConst(mapped)) {

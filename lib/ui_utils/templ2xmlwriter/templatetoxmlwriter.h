@@ -15,15 +15,15 @@ class NodeReader;
 class TableReader;
 } // namespace uiutils
 
-/// Turns a report document into XML for machines: elements are named by the document's own tags, and the unit's
-/// technician, customer, hardware and software stand in blocks of their own. docs/xml-report.md describes the mapping.
+/// Turns a report document into XML for machines: elements are named after the document's own tags, and the unit's
+/// technician, customer, hardware and software have blocks of their own. docs/xml-report.md describes the mapping.
 ///
-/// Whatever the document holds, the text is well-formed. No step fails: what is missing reads as empty.
+/// The text is well-formed, whatever the document contains. No step fails: what is missing counts as empty.
 class UIUTILS_EXPORT TemplateToXmlWriter
 {
 public:
     /// Writes the document as it is now. `jobManagerMode` leaves out versions and customer; `includeCustomerInfo`
-    /// lets the customer block in; without `generate` the root element stays open and empty.
+    /// includes the customer block; without `generate` the root element stays open and empty.
     TemplateToXmlWriter(const ReportTemplate& document, bool jobManagerMode, bool includeCustomerInfo, bool generate);
     virtual ~TemplateToXmlWriter();
     Q_DISABLE_COPY_MOVE(TemplateToXmlWriter)
@@ -32,16 +32,16 @@ public:
     /// same text.
     QString getXml();
 
-    // The parts of the text, for those who made the writer without `generate` and choose what it writes.
+    // The parts of the text, for callers that made the writer without `generate` and choose what it writes.
 
-    /// Write the sections below a node with what they hold, and the tables directly in it.
+    /// Write the sections below a node with their contents, and the tables directly in it.
     void sectionsToXml(QJsonObject& node);
     void tablesToXml(QJsonObject& node);
-    /// Write the blocks, if there is something for them.
+    /// Write the blocks, if they have any contents.
     void writeTechInfo();
     void writeCustomerInfo();
     void writeVersions();
-    /// Puts the technician and customer blocks behind the root's start tag, once.
+    /// Inserts the technician and customer blocks after the root's start tag, once.
     void insertCustomFields();
 
 private:

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Service files and pages name formatters, and a name that is misspelt shows in no other way than a missing unit.
+/// Service files and pages name formatters. The only other sign of a misspelt name is a missing unit.
 void warnOnce(const QString& name)
 {
     static QSet<QString> known;

@@ -29,16 +29,16 @@ std::optional<struct statvfs> fileSystemAt(const QString& directory)
     return system;
 }
 
-/// One dialog is enough, however often a save is tried; the application's end takes it along.
-void tell(const QString& message)
+/// One dialog is enough, however often a save is tried. It is deleted with the application.
+void notifyUser(const QString& message)
 {
-    static QPointer<KIVNotification> told;
-    delete told;
-    told = new KIVNotification(QCoreApplication::instance());
-    told->setLongLabel(QCoreApplication::translate("FileSystemUsage", "Not Enough Space"));
-    told->setMsg(message);
-    told->setError();
-    told->notifyDialog();
+    static QPointer<KIVNotification> notification;
+    delete notification;
+    notification = new KIVNotification(QCoreApplication::instance());
+    notification->setLongLabel(QCoreApplication::translate("FileSystemUsage", "Not Enough Space"));
+    notification->setMsg(message);
+    notification->setError();
+    notification->notifyDialog();
 }
 
 bool isInSystemTable(const QString& path)
@@ -60,7 +60,7 @@ bool FileSystemUsage::checkAndNotifyBeforeSave(const QString& directory, const Q
     const auto system = fileSystemAt(directory);
     if (!system || double(system->f_bavail) * double(system->f_frsize) >= double(minimumFree))
         return true;
-    tell(message);
+    notifyUser(message);
     return false;
 }
 

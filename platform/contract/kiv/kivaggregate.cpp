@@ -52,7 +52,7 @@ int KivAggregate::indexOf(const QByteArray& name) const
 
 KivListAggregate::KivListAggregate(const QList<QByteArray>& names, const QVector<QVariantList>& rows)
 {
-    // Copies of the first stay where they were; a later one could never be asked for.
+    // Copies of the first stay where they were; a later one could never be read.
     for (const QByteArray& name : names) {
         if (!m_names.contains(name))
             m_names.append(name);

@@ -7,13 +7,13 @@
 #include <QVariant>
 #include <QVector>
 
-/// A record: named members, each with a value, in a fixed order. Names are UTF-8. A plain value: copies are independent
-/// and cheap.
+/// An aggregate: named members, each with a value, in a fixed order. Names are UTF-8. A plain value: copies are
+/// independent and cheap.
 class KIV_EXPORT KivAggregate
 {
 public:
     KivAggregate() = default;
-    /// A name that stands twice counts once, with the first value.
+    /// Of members with the same name only the first counts.
     explicit KivAggregate(const QVector<QPair<QByteArray, QVariant>>& members);
 
     QList<QByteArray> getPropertyNames() const;
@@ -21,11 +21,11 @@ public:
     /// The member's value; invalid without such a member.
     QVariant getPropertyVariant(const QByteArray& name) const;
 
-    /// Sets a member to `value` as it is; the service converts it when it gets the record. Returns false, and changes
-    /// nothing, when there is no such member.
+    /// Sets a member to `value` without conversion; the service converts it when it receives the aggregate. Returns
+    /// false, and changes nothing, when there is no such member.
     bool setPropertyFromVariant(const QByteArray& name, const QVariant& value);
 
-    /// The record as one value, as KIVClientInterface::setItem() takes it: a QVariantMap.
+    /// The aggregate as one value, as KIVClientInterface::setItem() takes it: a QVariantMap.
     QVariant toVariant() const;
 
 private:
@@ -39,16 +39,16 @@ class KIV_EXPORT KivListAggregate
 {
 public:
     KivListAggregate() = default;
-    /// Every row holds one value per name; what a row lacks is invalid, what it has too much is dropped.
+    /// Every row has one value for each name; missing values are invalid, surplus values are discarded.
     KivListAggregate(const QList<QByteArray>& names, const QVector<QVariantList>& rows);
 
-    /// The members' names in their order, also without rows.
+    /// The names of the members in order, also of a table without rows.
     QList<QByteArray> getPropertyNames() const { return m_names; }
 
     /// Number of rows.
     int getSize() const { return m_rows.size(); }
 
-    /// The member of a row counted from 0; invalid outside the table.
+    /// The member of a row (counted from 0); invalid outside the table.
     QVariant getPropertyVariant(const QByteArray& name, int row) const;
 
     /// The table as one value: a QVariantList with a QVariantMap for each row.

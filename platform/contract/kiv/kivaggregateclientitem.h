@@ -4,7 +4,7 @@
 #include <kiv/kivaggregate.h>
 #include <kiv/kivclientitem.h>
 
-/// An item whose value is a record. getType() is KIVClientItem::TypeAggregate.
+/// An item whose value is an aggregate. getType() is KIVClientItem::TypeAggregate.
 class KIV_EXPORT KivAggregateClientItem : public KIVClientItem
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ public:
     explicit KivAggregateClientItem(QObject* parent = nullptr);
     ~KivAggregateClientItem() override;
 
-    /// A copy of the record as it is now. Its member names stay the same while the item lives.
+    /// A copy of the present aggregate. Its member names never change while the item lives.
     virtual KivAggregate getAggregate() const = 0;
 };
 
@@ -26,6 +26,6 @@ public:
     explicit KivListAggregateClientItem(QObject* parent = nullptr);
     ~KivListAggregateClientItem() override;
 
-    /// A copy of the table as it is now. Its member names stay the same while the item lives.
+    /// A copy of the present table. Its member names never change while the item lives.
     virtual KivListAggregate getListAggregate() const = 0;
 };

@@ -16,23 +16,23 @@
 /// a QVariantList of doubles, an aggregate a QVariantMap, a list aggregate a QVariantList of those. An item without a
 /// value holds an invalid variant. A client sets values through KIVClientInterface::setItem().
 ///
-/// **Kinds**: an enumeration is a KIVEnumClientItem, an array a KIVVecClientItem, a record a KivAggregateClientItem, a
-/// table a KivListAggregateClientItem; qobject_cast tells them apart.
+/// **Kinds**: an enumeration is a KIVEnumClientItem, an array a KIVVecClientItem, an aggregate a
+/// KivAggregateClientItem, a table a KivListAggregateClientItem; qobject_cast distinguishes them.
 ///
-/// **Signals** come on the thread of the item, after the accessors give the new answer, once per change, and not when
-/// what is reported equals what was. A slot may do anything but delete the item.
+/// **Signals** are emitted on the item's thread, after the accessors give the new answer, once for each change, and not
+/// when the reported value equals the old one. A slot may do anything except delete the item.
 ///
-/// **Ownership**: items belong to the back end. They live as long as their service is reachable and publishes them;
-/// keep one over a return to the event loop only in a QPointer. One that comes back under its id is a new object, see
-/// KIVClientInterface::itemsChanged().
+/// **Ownership**: items belong to the back end. They live as long as their service is reachable and publishes them.
+/// Across a return to the event loop keep an item only in a QPointer. An item that returns under its id is a new
+/// object, see KIVClientInterface::itemsChanged().
 ///
-/// **Blocking**: no accessor blocks; a back end that talks to another process answers from what it last heard.
+/// **Blocking**: no accessor blocks; a back end that talks to another process answers with what it last received.
 class KIV_EXPORT KIVClientItem : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What getType() answers; a kind that is not listed is a single value like any other.
+    /// The results of getType(); a kind that is not listed is a single value.
     enum TypeCode : unsigned {
         TypeNone = 0,
         TypeString = 0x1,
@@ -49,7 +49,7 @@ public:
         TypeListAggregate = 0x8000000,
     };
 
-    /// What getQualityCode() answers: how the service judges the value.
+    /// The results of getQualityCode(): how the service judges the value.
     enum Quality {
         QualityNone = 0,
         QualityPassing = 16,
@@ -71,26 +71,26 @@ public:
     /// The full id, for example ":config:basemgr:system:saveLocation:". Never empty, never changes.
     virtual QString getId() const = 0;
 
-    /// The last word of the id that is no array mark, for example "saveLocation".
+    /// The last word of the id that is not an array mark, for example "saveLocation".
     virtual QString getName() const;
 
-    /// What the item is called on a screen, in the language of the user; may be empty.
+    /// The item's name on a screen, in the user's language; may be empty.
     virtual QString getLabel() const = 0;
 
     virtual QVariant getValue() const = 0;
 
-    /// The value as a user reads it, in the user's locale; with the unit behind a blank when `showUnits` is true and
-    /// the item has one. Elements of an array are separated by ", "; an enumeration reads as its choice's label.
+    /// The value as a user reads it, in the user's locale; followed by a blank and the unit when `showUnits` is true
+    /// and the item has one. Elements of an array are separated by ", "; an enumeration reads as its choice's label.
     virtual QString getValueString(bool showUnits = true) const = 0;
 
-    /// The unit alone, for example "Mbit/s"; empty without one.
+    /// Only the unit, for example "Mbit/s"; empty without one.
     virtual QString getUnitString() const = 0;
 
-    /// The limits of the value, for a text those of its length; invalid where there is none.
+    /// The limits of the value, or of the length of a text; invalid without a limit.
     virtual QVariant getMinRange() const = 0;
     virtual QVariant getMaxRange() const = 0;
 
-    /// Whether the service can give or take the value now; an item that is not ready keeps its last value.
+    /// Whether the service can report or accept the value now; an item that is not ready keeps its last value.
     virtual bool isReady() const = 0;
 
     /// A Quality.
@@ -103,10 +103,10 @@ public:
     /// 0"; empty when isApplicable() decides.
     virtual QString getApplicableExpr() const = 0;
 
-    /// A further attribute by its name; invalid when the item has none of that name. These are known to the screens:
-    /// "label", "type", "minRange", "maxRange" (as the accessors give them), "precision" (decimals), "inputType" (which
-    /// entry field, a number), "regex" (of an acceptable text), "formatter" (a name for getFormatter()) and "enum" (not
-    /// empty on an enumeration).
+    /// Another attribute by its name; invalid when the item has no such attribute. Screens know these: "label", "type",
+    /// "minRange", "maxRange" (as the accessors give them), "precision" (decimals), "inputType" (which entry field, a
+    /// number), "regex" (of an acceptable text), "formatter" (a name for getFormatter()) and "enum" (not empty on an
+    /// enumeration).
     virtual QVariant getAttribute(const QString& name) const = 0;
 
 Q_SIGNALS:
@@ -114,6 +114,6 @@ Q_SIGNALS:
     void unitsChanged();
     void isReadyChanged();
     void qualityChanged();
-    /// Not emitted for what an expression decides.
+    /// Not emitted when an expression decides.
     void isApplicableChanged();
 };

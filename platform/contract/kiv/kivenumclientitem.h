@@ -19,18 +19,18 @@ public:
     virtual QString nameAt(int position) const = 0;
     /// The text that the user reads.
     virtual QString labelAt(int position) const = 0;
-    /// Whether the choice may be taken now.
+    /// Whether the choice can be selected now.
     virtual bool isApplicableAt(int position) const = 0;
 
     /// The position of the choice with that value, or -1.
     virtual int indexOf(int value) const;
     bool contains(int value) const { return indexOf(value) >= 0; }
-    /// The label of the choice with that value; empty without one. Values below zero are passed as their two's
+    /// The label of the choice with that value; empty without such a choice. Pass a negative value as its two's
     /// complement.
     QString labelForValue(unsigned value) const { return labelAt(indexOf(int(value))); }
 
 Q_SIGNALS:
-    /// The choices, or what one of them says of itself, are others than before.
+    /// The choices, or their names, labels or states, have changed.
     void valueChanged();
 };
 
@@ -43,6 +43,6 @@ public:
     explicit KIVEnumClientItem(QObject* parent = nullptr);
     ~KIVEnumClientItem() override;
 
-    /// The choices, owned by the item; null when the service names none. The same object as long as the item lives.
+    /// The choices, owned by the item; null when the service names none. Always the same object while the item lives.
     virtual KIVEnumChoicesClientItem* getChoices() const = 0;
 };

@@ -25,10 +25,10 @@ public:
     /// An empty snapshot.
     KIVItemSnapshot() = default;
 
-    /// Takes the items whose id begins with `prefix`, in the order of their ids. Empty for a null client.
+    /// Copies the items whose id begins with `prefix`, in the order of their ids. Empty for a null client.
     explicit KIVItemSnapshot(const KIVClientInterface* client, const QString& prefix = QString());
 
-    /// Sorts the items by label, as the user's locale sorts texts; items of one label by id.
+    /// Sorts the items by label, in the order of the user's locale; items with the same label by id.
     void labelSort();
 
     const QVector<Item>& items() const { return m_items; }

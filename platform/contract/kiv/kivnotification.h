@@ -8,31 +8,31 @@
 #include <QVariant>
 #include <QVariantMap>
 
-/// One thing that the user is told or asked: a title, a text, and values for whoever hears the answer.
+/// A notice or a question for the user: a title, a text, and values for the receiver of the answer.
 ///
-/// It is filled first and raised then, in the tray, in a dialog, or in both. KIVNotificationModelManager shows it and
-/// reports the answer to a request.
+/// Fill it first, then raise it in the tray, in a dialog, or in both. KIVNotificationModelManager shows it and reports
+/// the answer to a request.
 ///
-/// **Ownership**: whoever makes a notification owns it, before and after the answer. Deleting it takes it back: its
-/// dialog closes, or never comes up, and nobody hears an answer. What it has put into the tray stays there.
+/// **Ownership**: whoever creates a notification owns it, before and after the answer. Deleting it withdraws it: its
+/// dialog closes, or never opens, and no answer is reported. Its tray entries stay.
 ///
-/// **Thread**: that of the screens. No call blocks, and none fails.
+/// **Thread**: the GUI thread. No call blocks, and none fails.
 class KIV_EXPORT KIVNotification : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(Kind kind READ kind NOTIFY changed)
     Q_PROPERTY(QString longLabel READ longLabel NOTIFY changed)
     Q_PROPERTY(QString msg READ msg NOTIFY changed)
-    /// When it was raised last; invalid before.
+    /// When it was last raised; invalid before that.
     Q_PROPERTY(QDateTime time READ time NOTIFY changed)
 
 public:
     enum Kind {
-        /// For information. A dialog of it has one answer, which nobody is told.
+        /// Information. Its dialog has one answer, which is not reported.
         Notice,
-        /// Something went wrong. A dialog of it has one answer, which nobody is told.
+        /// Something went wrong. Its dialog has one answer, which is not reported.
         Error,
-        /// A question that is accepted or rejected.
+        /// A question, which the user accepts or rejects.
         Request,
     };
     Q_ENUM(Kind)
@@ -49,22 +49,22 @@ public:
     void setLongLabel(const QString& longLabel);
     QString longLabel() const { return m_longLabel; }
 
-    /// What it is about, in the user's language: plain text, in which line feeds count.
+    /// The text, in the user's language: plain text, in which line feeds count.
     void setMsg(const QString& msg);
     QString msg() const { return m_msg; }
 
-    /// Keeps `value` under `key` for whoever hears the answer; the user does not see it.
+    /// Stores `value` under `key` for the receiver of the answer; the user does not see it.
     void setValue(const QString& key, const QVariant& value);
-    /// The value last kept under `key`; invalid without one.
+    /// The value last stored under `key`; invalid without one.
     Q_INVOKABLE QVariant value(const QString& key) const { return m_values.value(key); }
 
     QDateTime time() const { return m_time; }
 
-    /// Puts an entry with the present texts on top of the tray, another one with each call.
+    /// Adds an entry with the present texts at the top of the tray; each call adds another.
     void notifyTray();
 
-    /// Opens a dialog with the texts, or lets it wait until those before it are answered. An open dialog follows when
-    /// the texts change. Nothing happens while the notification is open or waits already.
+    /// Opens a dialog with the texts, or queues it until the earlier ones are answered. An open dialog follows changes
+    /// of the texts. Does nothing while the notification is open or queued.
     void notifyDialog();
 
 Q_SIGNALS:

@@ -55,26 +55,26 @@ void KIVNotificationModelManager::reject()
 void KIVNotificationModelManager::remove(int row)
 {
     if (row >= 0 && row < count())
-        dropRows(row, row);
+        discardRows(row, row);
 }
 
 void KIVNotificationModelManager::clear()
 {
     if (count() > 0)
-        dropRows(0, count() - 1);
+        discardRows(0, count() - 1);
 }
 
 void KIVNotificationModelManager::addToTray(const KIVNotification& notification)
 {
     if (count() == maximumTrayEntries)
-        dropRows(maximumTrayEntries - 1, maximumTrayEntries - 1);
+        discardRows(maximumTrayEntries - 1, maximumTrayEntries - 1);
     beginInsertRows(QModelIndex(), 0, 0);
     m_tray.prepend({notification.kind(), notification.longLabel(), notification.msg(), notification.time()});
     endInsertRows();
     Q_EMIT countChanged();
 }
 
-void KIVNotificationModelManager::dropRows(int first, int last)
+void KIVNotificationModelManager::discardRows(int first, int last)
 {
     beginRemoveRows(QModelIndex(), first, last);
     m_tray.remove(first, last - first + 1);
@@ -95,7 +95,7 @@ void KIVNotificationModelManager::addDialog(KIVNotification* notification)
         Q_EMIT waitingDialogsChanged();
 }
 
-/// Whoever asks would wait for ever, and the user could not know why nothing happens.
+/// The question would wait forever, and the user could not know why nothing happens.
 void KIVNotificationModelManager::warnOfNoView(const KIVNotification& notification) const
 {
     static const QMetaMethod changed = QMetaMethod::fromSignal(&KIVNotificationModelManager::currentDialogChanged);

@@ -6,32 +6,32 @@
 #include <QAbstractListModel>
 #include <QVector>
 
-/// What the user is told and asked now: the tray as a list model, newest entry first, and one dialog at a time.
+/// The user's notifications and questions: the tray as a list model, newest entry first, and one dialog at a time.
 ///
-/// **Tray**: entries are copies of the texts as they were when KIVNotification::notifyTray() was called, and stay until
-/// the user removes them. Beyond `maximumTrayEntries` the oldest go. Roles: `kind` (a KIVNotification::Kind),
+/// **Tray**: entries are copies of the texts at the time of the call to KIVNotification::notifyTray(), and stay until
+/// the user removes them. Beyond `maximumTrayEntries` the oldest are removed. Roles: `kind` (a KIVNotification::Kind),
 /// `longLabel`, `msg` (texts) and `time` (a QDateTime).
 ///
-/// **Dialogs** open in the order in which KIVNotification::notifyDialog() was called; the others wait. They are no
-/// copies: a notification that is destroyed leaves the queue, whether its dialog is open or waits, and the next one
-/// opens. Nothing is ever dropped from the queue. A view makes itself known by following `currentDialog`, a binding or
-/// a connection: a request that comes when nobody does waits all the same, and the log says that it is shown nowhere.
+/// **Dialogs** open in the order of the calls to KIVNotification::notifyDialog(); the others wait. They are not copies:
+/// a notification that is destroyed leaves the queue, whether its dialog is open or waits, and the next one opens.
+/// Nothing else removes one from the queue unanswered. A view makes itself known by following `currentDialog` with a
+/// binding or a connection: without a view a request is queued all the same, and the log has a line that says so.
 ///
-/// **Answers**: the view calls accept() or reject() for the open dialog. The notification has left the queue and
-/// currentDialogChanged() has been emitted when notificationAccepted() or notificationRejected() is, exactly once, and
-/// for requests alone: whoever closes the message of an error has neither accepted nor rejected anything. Everybody
-/// hears all answers and looks for its own by the notification's value "uid". A slot may raise other notifications; the
-/// one that was answered it lets go by deleteLater(), since others may still have to hear of it.
+/// **Answers**: the view calls accept() or reject() for the open dialog. The notification leaves the queue,
+/// currentDialogChanged() is emitted, and then notificationAccepted() or notificationRejected(), exactly once and only
+/// for requests: closing an error message neither accepts nor rejects anything. Every listener receives all answers and
+/// finds its own by the notification's value "uid". A slot may raise other notifications. It deletes the answered one
+/// with deleteLater(), because other slots may still have to receive it.
 ///
-/// **Thread**: that of the screens. No call blocks, and none fails.
+/// **Thread**: the GUI thread. No call blocks, and none fails.
 class KIV_EXPORT KIVNotificationModelManager : public QAbstractListModel
 {
     Q_OBJECT
-    /// Entries in the tray.
+    /// Maximum number of entries in the tray.
     Q_PROPERTY(int count READ count NOTIFY countChanged)
     /// The notification whose dialog is open, or null.
     Q_PROPERTY(KIVNotification* currentDialog READ currentDialog NOTIFY currentDialogChanged)
-    /// How many dialogs wait behind the open one.
+    /// The number of dialogs that wait after the open one.
     Q_PROPERTY(int waitingDialogs READ waitingDialogs NOTIFY waitingDialogsChanged)
 
 public:
@@ -44,8 +44,8 @@ public:
 
     static constexpr int maximumTrayEntries = 100;
 
-    /// The one manager of the process, made by the first call; never null. It belongs to nobody and outlives every
-    /// screen, so that none takes the tray along; `parent` is for platforms whose manager needs an owner.
+    /// The one manager of the process, created by the first call; never null. It has no owner and outlives every
+    /// screen, so that the tray survives them; `parent` is for platforms whose manager needs an owner.
     static KIVNotificationModelManager* instance(QObject* parent = nullptr);
 
     int count() const { return m_tray.size(); }
@@ -56,12 +56,12 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// The user's answer to the open dialog; the one answer of a dialog that is no request is either. Nothing happens
-    /// without an open dialog.
+    /// The user's answer to the open dialog. The only answer of a dialog that is not a request may be given by either.
+    /// Without an open dialog nothing happens.
     Q_INVOKABLE void accept();
     Q_INVOKABLE void reject();
 
-    /// Takes the entry out of the tray that is in row `row`, counted from 0; nothing happens outside the tray.
+    /// Removes the entry in row `row` (counted from 0) from the tray; does nothing outside the tray.
     Q_INVOKABLE void remove(int row);
     /// Empties the tray.
     Q_INVOKABLE void clear();
@@ -89,7 +89,7 @@ private:
     ~KIVNotificationModelManager() override = default;
 
     void addToTray(const KIVNotification& notification);
-    void dropRows(int first, int last);
+    void discardRows(int first, int last);
     void addDialog(KIVNotification* notification);
     void warnOfNoView(const KIVNotification& notification) const;
     void takeDialog(int position);

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Of the fields before the hyphen; those behind it begin with the type.
+// Indexes of fields before the hyphen; the fields after it begin with the type.
 constexpr int mountPointField = 4;
 
 bool isOctal(char digit)
@@ -12,7 +12,7 @@ bool isOctal(char digit)
     return digit >= '0' && digit <= '7';
 }
 
-/// Blanks, line ends and backslashes stand as a backslash and three octal digits.
+/// Blanks, line ends and backslashes are written as a backslash and three octal digits.
 QByteArray unescaped(const QByteArray& field)
 {
     QByteArray text;
@@ -31,7 +31,7 @@ bool isDriveAt(const QByteArray& line, const QByteArray& mountPoint)
     const QList<QByteArray> fields = line.split(' ');
     if (fields.size() <= mountPointField || unescaped(fields.at(mountPointField)) != mountPoint)
         return false;
-    // How many optional fields come before the hyphen differs from line to line.
+    // The number of optional fields before the hyphen varies.
     const int hyphen = fields.indexOf("-", mountPointField + 1);
     return hyphen < 0 || fields.value(hyphen + 1) != "autofs";
 }

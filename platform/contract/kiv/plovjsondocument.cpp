@@ -23,7 +23,7 @@ QString textPosition(const QByteArray& text, int offset)
     return QStringLiteral("%1:%2").arg(line).arg(column);
 }
 
-/// At least as many as there are: a text may hold brackets too.
+/// An upper bound: brackets inside texts are counted too.
 int containersIn(const QByteArray& text)
 {
     return int(std::count_if(text.begin(), text.end(), [](char c) { return c == '{' || c == '['; }));
@@ -36,7 +36,7 @@ bool PlovJsonDocument::readFile(const QString& path)
     m_document = QJsonDocument();
     m_error.clear();
 
-    // A pipe or a device could keep the reader waiting for ever.
+    // A pipe or a device could keep the reader waiting forever.
     if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
         return fail(Texts::tr("%1: not a regular file").arg(path));
     QFile file(path);
@@ -46,7 +46,7 @@ bool PlovJsonDocument::readFile(const QString& path)
         return fail(Texts::tr("%1: larger than the %2 MiB that a document may have")
                             .arg(path, QString::number(maximumFileSize / 1024 / 1024)));
 
-    // A byte more than the size shows a file that grew; asking for the most would allocate the most.
+    // One byte more than the size reveals a file that grew. A buffer of the maximum size would be allocated completely.
     const QByteArray text = file.read(qMin(file.size() + 1, maximumFileSize));
     if (file.error() != QFileDevice::NoError)
         return fail(Texts::tr("%1: cannot be read: %2").arg(path, file.errorString()));

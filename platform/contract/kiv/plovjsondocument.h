@@ -6,24 +6,24 @@
 #include <QJsonObject>
 #include <QString>
 
-/// A JSON document that can be read from a file and remembers what went wrong.
+/// A JSON document that can be read from a file and keeps the error of the last read.
 class KIV_EXPORT PlovJsonDocument
 {
 public:
-    /// Files over this many bytes are refused before they are read (16 MiB).
+    /// Maximum size of a file in bytes (16 MiB). Larger files are rejected before they are read.
     static constexpr qint64 maximumFileSize = qint64(16) * 1024 * 1024;
-    /// Files with more objects and lists than that are refused before they are parsed: an empty list is two bytes in a
-    /// file and a hundred in memory. Within both limits a process that reads a file grows by 320 MB at the most.
+    /// Maximum number of objects and lists. A file with more is rejected before it is parsed: an empty list takes two
+    /// bytes in a file and a hundred in memory. Within both limits reading a file takes at most 320 MB of memory.
     static constexpr int maximumContainers = 750 * 1000;
 
     /// Replaces the content by the file's. Returns true on success. On failure the document is empty, hasError() is
-    /// true and errorString() says which file, where in it (line and column, counted from 1, in characters) and why.
-    /// The root has to be an object.
+    /// true and errorString() gives the file, the place in it (line and column, counted from 1, in characters) and the
+    /// reason. The root must be an object.
     bool readFile(const QString& path);
 
     /// Whether the last readFile() failed; false before the first, and after setObject().
     bool hasError() const { return !m_error.isEmpty(); }
-    /// What went wrong in the last readFile(), in words; empty when nothing did.
+    /// What went wrong in the last readFile(), in words; empty after a success.
     QString errorString() const { return m_error; }
 
     /// The root object; empty when there is none.

@@ -28,7 +28,7 @@ using Schema = std::unique_ptr<xmlSchema, Freed<xmlSchema, xmlSchemaFree>>;
 using SchemaParser = std::unique_ptr<xmlSchemaParserCtxt, Freed<xmlSchemaParserCtxt, xmlSchemaFreeParserCtxt>>;
 using SchemaCheck = std::unique_ptr<xmlSchemaValidCtxt, Freed<xmlSchemaValidCtxt, xmlSchemaFreeValidCtxt>>;
 
-/// What goes wrong, in words.
+/// Collects errors in words.
 class Complaints
 {
 public:
@@ -72,17 +72,18 @@ void collect(void* complaints, Error error)
     if (!error || error->level < XML_ERR_ERROR)
         return;
     QString text = QString::fromUtf8(error->message).simplified();
-    // A fault in a file that the schema names.
+    // An error in a file that the schema names.
     if (error->file && error->domain != XML_FROM_SCHEMASV)
         text = QFileInfo(QUrl::fromPercentEncoding(error->file)).fileName() + QStringLiteral(": ") + text;
     static_cast<Complaints*>(complaints)->add(error->line, text);
 }
 
-/// What this thread does with the XML library while it lives: which files may be loaded, and who hears of faults.
+/// The settings of the XML library for this thread, as long as the object lives: which files may be loaded, and where
+/// errors are reported.
 class Session
 {
 public:
-    /// `folder` ends in "/"; an empty one allows no file at all, and what a text hints at is passed over.
+    /// `folder` ends in "/"; an empty one allows no file at all, and schemas that a text names are ignored.
     Session(Complaints& complaints, const QString& folder)
         : m_complaints(complaints)
         , m_folder(folder)
@@ -99,7 +100,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(Session)
 
-    /// That of this thread, or null.
+    /// The object of this thread, or null.
     static Session* current() { return s_current; }
 
     /// The path of a file that may be loaded, or empty.
@@ -130,7 +131,7 @@ thread_local Session* Session::s_current = nullptr;
 
 xmlExternalEntityLoader otherLoader = nullptr;
 
-/// The one way in which the XML library opens files that a text names.
+/// The only way in which the XML library opens files that a text names.
 xmlParserInputPtr loadEntity(const char* url, const char* id, xmlParserCtxtPtr context)
 {
     const Session* const session = Session::current();
@@ -140,8 +141,8 @@ xmlParserInputPtr loadEntity(const char* url, const char* id, xmlParserCtxtPtr c
     return path.isEmpty() ? nullptr : xmlNewInputFromFile(context, path.constData());
 }
 
-/// Puts our loader in front of the one that the process has, which goes on for everybody else. Once: a loader that is
-/// set later may hand on to ours.
+/// Installs our loader in front of the process's loader, which continues to serve all others. Done once: a loader that
+/// is installed later may call ours.
 void installLoader()
 {
     static std::once_flag flag;
@@ -152,7 +153,7 @@ void installLoader()
     });
 }
 
-void refuseDeclaration(void* context, const xmlChar*, const xmlChar*, const xmlChar*)
+void rejectDeclaration(void* context, const xmlChar*, const xmlChar*, const xmlChar*)
 {
     auto* const parser = static_cast<xmlParserCtxtPtr>(context);
     static_cast<Complaints*>(parser->_private)
@@ -164,7 +165,7 @@ Document parse(const QByteArray& xml, Complaints& complaints)
 {
     const Parser parser(xmlNewParserCtxt());
     parser->_private = &complaints;
-    parser->sax->internalSubset = refuseDeclaration;
+    parser->sax->internalSubset = rejectDeclaration;
     return Document(xmlCtxtReadMemory(
             parser.get(), xml.constData(), xml.size(), nullptr, nullptr, XML_PARSE_NONET | XML_PARSE_BIG_LINES));
 }
@@ -199,7 +200,7 @@ bool SchemaValidator::setSchemaFile(const QString& path)
     const QString canonical = file.canonicalFilePath();
     const QString folder = canonical.left(canonical.lastIndexOf(QLatin1Char('/')) + 1);
     const Session session(d->complaints, folder);
-    // As a URL, which is what names of other files are resolved against.
+    // A URL, because names of other files are resolved against it.
     const QByteArray url = QUrl::toPercentEncoding(canonical, "/");
     const SchemaParser parser(xmlSchemaNewParserCtxt(url.constData()));
     xmlSchemaSetParserStructuredErrors(parser.get(), collect, &d->complaints);
@@ -207,7 +208,7 @@ bool SchemaValidator::setSchemaFile(const QString& path)
     if (!d->complaints.isEmpty())
         d->schema.reset();
     else if (!d->schema)
-        d->complaints.add(0, Texts::tr("%1 is no XML schema").arg(path));
+        d->complaints.add(0, Texts::tr("%1 is not an XML schema").arg(path));
     return d->schema != nullptr;
 }
 

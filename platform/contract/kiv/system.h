@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// The unit's own facts.
+/// Facts about the unit.
 class KIV_EXPORT System
 {
 public:

@@ -184,9 +184,10 @@ void BusBackend::Private::checkOwner(RemoteService* service)
 
 void BusBackend::Private::onUser(RemoteService* service, const QByteArray& owner, const Message& reply)
 {
-    if (service->owner() != owner)
+    // An owner that has gone meanwhile is somebody's no more.
+    if (service->owner() != owner || reply.isError())
         return;
-    if (!reply.isError() && ownUser && Reader(reply).uint32() == *ownUser)
+    if (ownUser && Reader(reply).uint32() == *ownUser)
         service->load();
     else
         service->giveUp(BusTexts::tr("The service %1 is run by another user and is not used.").arg(service->name()));

@@ -321,6 +321,11 @@ bool Connection::open(Bus bus, QString* problem)
     return true;
 }
 
+bool Connection::isReady() const
+{
+    return m_isReady && m_bus && sd_bus_is_ready(m_bus) > 0;
+}
+
 void Connection::close()
 {
     m_timer.stop();
@@ -415,7 +420,7 @@ void Connection::call(const Message& message, int timeoutMs, QObject* context, c
 
 Message Connection::callBlocking(const Message& message, int timeoutMs)
 {
-    if (!m_isReady || !message)
+    if (!isReady() || !message)
         return Message();
     sd_bus_message* reply = nullptr;
     sd_bus_error error = SD_BUS_ERROR_NULL;

@@ -149,7 +149,7 @@ public:
     void close();
 
     /// Whether messages can be sent: connected, and known to the bus.
-    bool isReady() const { return m_isReady; }
+    bool isReady() const;
     /// Empty until it is ready.
     QByteArray uniqueName() const { return m_uniqueName; }
 

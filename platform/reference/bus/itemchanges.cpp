@@ -119,7 +119,7 @@ Told take(const ItemChange& change)
 /// Anything may be gone after each signal but what the state holds.
 void tell(const Told& told)
 {
-    embedded::tell(told.state, {told.value, told.unit});
+    embedded::emitChanges(told.state, {told.value, told.unit});
     const auto emitIf = [&](bool isTold, void (KIVClientItem::*signal)()) {
         if (isTold && told.state->item)
             Q_EMIT(told.state->item->*signal)();
@@ -138,6 +138,18 @@ FieldChange valueChange(ItemField field, const QVariant& value)
 
 } // namespace
 
+KIVClientItem::Quality qualityOf(const QVariant& value)
+{
+    switch (value.toInt()) {
+    case KIVClientItem::QualityPassing:
+    case KIVClientItem::QualityWarning:
+    case KIVClientItem::QualityFailing:
+        return KIVClientItem::Quality(value.toInt());
+    default:
+        return KIVClientItem::QualityNone;
+    }
+}
+
 void apply(const FieldChange& change, ItemDescription* item)
 {
     switch (change.field) {
@@ -154,7 +166,7 @@ void apply(const FieldChange& change, ItemDescription* item)
         item->isReady = change.value.toBool();
         break;
     case ItemField::Quality:
-        item->quality = KIVClientItem::Quality(change.value.toInt());
+        item->quality = qualityOf(change.value);
         break;
     case ItemField::Applicable:
         item->isApplicable = change.value.toBool();

@@ -20,6 +20,9 @@ struct ItemChange
     FieldChange change;
 };
 
+/// A quality as it came; none for a number that is no quality.
+KIVClientItem::Quality qualityOf(const QVariant& value);
+
 /// Puts a field into a description as it came.
 void apply(const FieldChange& change, embedded::ItemDescription* item);
 

@@ -82,6 +82,9 @@ void RemoteService::setOwner(const QByteArray& owner)
 
 void RemoteService::giveUp(const QString& reason)
 {
+    // What it was asked for is not wanted any more.
+    ++m_session;
+    m_isReading = false;
     qWarning("%s", qUtf8Printable(reason));
     m_refusal = reason;
     m_isLoading = false;
@@ -98,8 +101,15 @@ Message RemoteService::newCall(const char* interface, const char* member) const
 void RemoteService::ask(const Message& call, void (RemoteService::*answer)(const Message&))
 {
     m_connection->call(call, patienceMs, this, [this, answer, session = m_session](const Message& reply) {
-        if (session == m_session)
+        if (session != m_session || !m_connection->isReady())
+            return;
+        if (!Connection::isTimeout(reply)) {
             (this->*answer)(reply);
+            return;
+        }
+        // It may be stopped, and wake up later.
+        ++m_session;
+        load();
     });
 }
 
@@ -131,7 +141,6 @@ void RemoteService::onProperties(const Message& reply)
         m_mounts = cleanPaths(properties.value(QStringLiteral("Mounts")));
         return;
     }
-    ++m_session;
     giveUp(theirs.isEmpty()
                     ? BusTexts::tr("The service %1 does not say which version of the interface it has: %2")
                               .arg(m_name, reply.errorText())
@@ -142,6 +151,7 @@ void RemoteService::onProperties(const Message& reply)
 
 void RemoteService::onSubscribed(const Message& reply)
 {
+    m_serial = 0;
     if (reply.isError())
         giveUp(BusTexts::tr("The service %1 takes no more clients: %2").arg(m_name, reply.errorText()));
 }
@@ -168,7 +178,6 @@ void RemoteService::onPage(const Message& reply)
     if (!m_isReading)
         return;
     if (reply.isError()) {
-        m_isReading = false;
         giveUp(BusTexts::tr("The items of the service %1 cannot be read: %2").arg(m_name, reply.errorText()));
         return;
     }
@@ -181,7 +190,6 @@ void RemoteService::onPage(const Message& reply)
     }
     m_snapshot.generation = generation;
     if (!readPage(reader)) {
-        m_isReading = false;
         giveUp(BusTexts::tr("The items of the service %1 cannot be read: they are not what the interface says.")
                         .arg(m_name));
         return;
@@ -268,11 +276,15 @@ QVector<ItemChange> RemoteService::takeItems(const QVector<ItemDescription>& ite
             const QVector<FieldChange> fields = differences(state->description, item);
             for (const FieldChange& field : fields)
                 changes += ItemChange {state, field};
-        } else {
+        } else if (const QString problem = itemProblem(item); problem.isEmpty()) {
             state = std::make_shared<ItemState>(item);
             m_items.add(state);
+        } else {
+            qWarning("The item %s of the service %s is left out: %s", qUtf8Printable(item.id), qUtf8Printable(m_name),
+                    qUtf8Printable(problem));
         }
-        state->position = quint64(m_numbered.size());
+        if (state)
+            state->position = quint64(m_numbered.size());
         m_numbered += state;
     }
     return changes;
@@ -344,7 +356,7 @@ int RemoteService::readChange(Reader& reader, QVector<ItemChange>* changes)
         // What is still to be read will be newer than this.
         if (number <= quint32(m_snapshot.items.size()))
             bus::apply(change, &m_snapshot.items[int(number) - 1]);
-    } else if (number < quint32(m_numbered.size())) {
+    } else if (number < quint32(m_numbered.size()) && m_numbered.at(int(number))) {
         changes->append({m_numbered.at(int(number)), change});
     }
     return bytes;
@@ -414,7 +426,7 @@ Outcome RemoteService::call(const Message& message, int timeoutMs)
         return {false, reply.errorText()};
     onTimeout();
     return {false,
-            BusTexts::tr("The service %1 did not answer within %2 ms. It may still do what was asked for.")
+            BusTexts::tr("The service %1 did not answer within %2 ms. It may still carry out the request.")
                     .arg(m_name, QString::number(std::max(timeoutMs, 0)))};
 }
 

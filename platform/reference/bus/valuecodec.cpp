@@ -1,5 +1,6 @@
 #include "valuecodec_p.h"
 
+#include "itemchanges_p.h"
 #include "protocol_p.h"
 
 #include <algorithm>
@@ -276,7 +277,7 @@ void readEntry(Reader& reader, const QString& name, ItemDescription* item)
     else if (name == QLatin1String("maximum"))
         item->maximum = value;
     else if (name == QLatin1String("quality"))
-        item->quality = KIVClientItem::Quality(value.toInt());
+        item->quality = qualityOf(value);
     else if (name == QLatin1String("ready"))
         item->isReady = value.toBool();
     else if (name == QLatin1String("applicable"))

@@ -13,7 +13,7 @@ namespace kiv::embedded {
 
 namespace {
 
-/// Finds settings by the last word of their ids. A service is indexed once, when the first name gets as far as it.
+/// Finds settings by the last word of their ids. A service is indexed once, when a name is first looked up in it.
 class SettingFinder
 {
 public:
@@ -71,7 +71,7 @@ private:
     QVector<Index> m_indexes;
 };
 
-Outcome refused(const QStringList& problems)
+Outcome rejected(const QStringList& problems)
 {
     return {false, RequestTexts::tr("Nothing was set. %1").arg(problems.join(QLatin1Char(' ')))};
 }
@@ -80,7 +80,7 @@ Outcome refused(const QStringList& problems)
 
 Outcome applyConfiguration(ServiceData& service, const QString& argument)
 {
-    // Screens send the bytes of the JSON's UTF-8 as if each were a character; the text itself is understood too.
+    // Screens send the UTF-8 bytes of the JSON as if each were a character; the text itself is accepted too.
     QJsonParseError error {};
     QJsonDocument document = QJsonDocument::fromJson(argument.toLatin1(), &error);
     const bool isText = argument != QString::fromLatin1(argument.toLatin1());
@@ -89,7 +89,8 @@ Outcome applyConfiguration(ServiceData& service, const QString& argument)
     if (!document.isObject()) {
         const bool isJson = error.error == QJsonParseError::NoError;
         const QString reason = isJson ? RequestTexts::tr("not an object") : error.errorString();
-        return refused({RequestTexts::tr("The settings for the service %1 are not a JSON object of values by name: %2.")
+        return rejected(
+                {RequestTexts::tr("The settings for the service %1 are not a JSON object of values by name: %2.")
                                 .arg(service.name, reason)});
     }
     const QJsonObject values = document.object();
@@ -111,7 +112,7 @@ Outcome applyConfiguration(ServiceData& service, const QString& argument)
             problems += problem;
     }
     if (!problems.isEmpty())
-        return refused(problems);
+        return rejected(problems);
     const Outcome outcome {true, RequestTexts::tr("Settings applied: %1.").arg(values.size())};
     writes.apply();
     return outcome;
@@ -127,7 +128,7 @@ Outcome saveConfiguration(ServiceData& service, const QString& argument)
                         .arg(service.name)};
     if (!service.keeper)
         return {false,
-                RequestTexts::tr("The configuration \"%1\" was not saved: there is no folder to keep it in.")
+                RequestTexts::tr("The configuration \"%1\" was not saved: there is no folder to store it in.")
                         .arg(name)};
     QString error;
     if (!service.keeper->saveConfiguration(name, &error))

@@ -4,12 +4,12 @@
 
 namespace kiv::embedded {
 
-/// Sets a batch of settings, a JSON object of values by item name: all of them, or none. The names are looked up among
-/// the settings of the service and then of the others, in the order of their names.
+/// Sets a batch of settings, a JSON object of values by item name: all of them, or none. The names are looked up in the
+/// settings of the service first, then in those of the others, in the order of the services' names.
 Outcome applyConfiguration(ServiceData& service, const QString& argument);
 
-/// Stores the service's settings under a name of the user's: what stands before the last comma of the argument. The
-/// number behind that comma does not concern where they are stored.
+/// Stores the service's settings under a name that the user chose: the part of the argument before its last comma. The
+/// number after that comma has no effect here.
 Outcome saveConfiguration(ServiceData& service, const QString& argument);
 
 } // namespace kiv::embedded

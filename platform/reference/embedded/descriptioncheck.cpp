@@ -23,7 +23,8 @@ QString idProblem(const ItemDescription& item, unsigned type)
     const bool hasCategory
             = isAction || id.startsWith(QLatin1String(":config:")) || id.startsWith(QLatin1String(":result:"));
     if (!hasCategory || !id.endsWith(QLatin1Char(':')) || id.size() > maximumNameLength)
-        return ServiceFileTexts::tr("the id %1 has no category, no colon at its end or more than %2 characters")
+        return ServiceFileTexts::tr("the id %1 lacks its category or the colon at its end, or has more than %2 "
+                                    "characters")
                 .arg(id.left(maximumNameLength), QString::number(maximumNameLength));
     if (type == KIVClientItem::TypeNone)
         return ServiceFileTexts::tr("the type %1 of %2 is unknown").arg(item.type, id);
@@ -42,16 +43,16 @@ QString membersProblem(const ItemDescription& item, unsigned type)
 {
     const bool needsMembers = type == KIVClientItem::TypeAggregate || type == KIVClientItem::TypeListAggregate;
     if (needsMembers == item.members.isEmpty())
-        return needsMembers ? ServiceFileTexts::tr("a record or table without members")
+        return needsMembers ? ServiceFileTexts::tr("an aggregate or table without members")
                             : ServiceFileTexts::tr("the type %1 has no members").arg(item.type);
     QSet<QString> names;
     for (int i = 0; i < item.members.size(); ++i) {
         const MemberDescription& member = item.members.at(i);
         const QString place = QStringLiteral("/members/%1: ").arg(i);
         if (member.name.isEmpty() || names.contains(member.name))
-            return place + ServiceFileTexts::tr("the name \"%1\" is empty or stands twice").arg(member.name);
+            return place + ServiceFileTexts::tr("the name \"%1\" is empty or appears twice").arg(member.name);
         if (!isSimpleType(typeCode(member.type)))
-            return place + ServiceFileTexts::tr("the type %1 is none that a member can have").arg(member.type);
+            return place + ServiceFileTexts::tr("a member cannot have the type %1").arg(member.type);
         names += member.name;
     }
     return QString();
@@ -76,8 +77,8 @@ QString enumerationProblem(const ItemDescription& item, unsigned type)
 QString actionProblem(const ItemDescription& item, unsigned type)
 {
     if (item.does && type != KIVClientItem::TypeAction)
-        return ServiceFileTexts::tr("the type %1 does nothing").arg(item.type);
-    return item.does && item.does->delayMs < 0 ? ServiceFileTexts::tr("a delay below zero") : QString();
+        return ServiceFileTexts::tr("only an action can have \"does\", not the type %1").arg(item.type);
+    return item.does && item.does->delayMs < 0 ? ServiceFileTexts::tr("a negative delay") : QString();
 }
 
 QString clearableProblem(const ItemDescription& item, unsigned type)
@@ -98,7 +99,8 @@ QString precisionProblem(const ItemDescription& item, unsigned)
     return isSound ? QString() : ServiceFileTexts::tr("a precision outside 0 to %1").arg(maximumPrecision);
 }
 
-/// What an action sets must be there; a text with a place for the argument is only known when it is carried out.
+/// The items that an action sets must exist; a text with a placeholder for the argument is known only when the action
+/// runs.
 QString setProblem(const ItemDescription& action, const QHash<QString, const ItemDescription*>& items)
 {
     for (auto it = action.does->set.cbegin(); it != action.does->set.cend(); ++it) {
@@ -138,7 +140,7 @@ QString serviceProblem(const ServiceDescription& service)
     QHash<QString, const ItemDescription*> items;
     for (int i = 0; i < service.items.size(); ++i) {
         const ItemDescription& item = service.items.at(i);
-        const QString problem = items.contains(item.id) ? ServiceFileTexts::tr("the id %1 stands twice").arg(item.id)
+        const QString problem = items.contains(item.id) ? ServiceFileTexts::tr("the id %1 appears twice").arg(item.id)
                                                         : itemProblem(item);
         if (!problem.isEmpty())
             return atItem(i, problem);
@@ -172,9 +174,9 @@ QString choicesProblem(unsigned type, const QVector<ChoiceDescription>& choices)
         const ChoiceDescription& choice = choices.at(i);
         const QString place = QStringLiteral("/choices/%1: ").arg(i);
         if (values.contains(choice.value) || (type == KIVClientItem::TypeUInt && choice.value < 0))
-            return place + ServiceFileTexts::tr("the value %1 stands twice or is below zero").arg(choice.value);
+            return place + ServiceFileTexts::tr("the value %1 appears twice or is negative").arg(choice.value);
         if (choice.name.isEmpty() || names.contains(choice.name))
-            return place + ServiceFileTexts::tr("the name \"%1\" is empty or stands twice").arg(choice.name);
+            return place + ServiceFileTexts::tr("the name \"%1\" is empty or appears twice").arg(choice.name);
         values += choice.value;
         names += choice.name;
     }

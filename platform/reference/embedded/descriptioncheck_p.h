@@ -4,18 +4,18 @@
 
 namespace kiv::embedded {
 
-// Each gives what is wrong, in words, or an empty text; places are JSON pointers as into a service file.
+// Each returns the error in words, or an empty text; places are JSON pointers as into a service file.
 
-/// A service's description with its items: "PLACE: REASON".
+/// Checks a service's description with its items: "PLACE: REASON".
 QString serviceProblem(const ServiceDescription& service);
 
-/// One item for itself: "REASON", or "PLACE: REASON" for a part of it.
+/// Checks a single item: "REASON", or "PLACE: REASON" for a part of it.
 QString itemProblem(const ItemDescription& item);
 
-/// The choices of an enumeration of this type.
+/// Checks the choices of an enumeration of this type.
 QString choicesProblem(unsigned type, const QVector<ChoiceDescription>& choices);
 
-/// Limits in the type that an item's limits have: its elements' own, for texts the type of a length.
+/// Limits in the type of an item's limits: the type of its elements, for texts that of a length.
 struct Limits
 {
     QVariant minimum;

@@ -30,7 +30,7 @@ EmbeddedBackend::EmbeddedBackend()
 
 EmbeddedBackend::~EmbeddedBackend()
 {
-    // Nobody who hears of an item's end may find a service that is on its way out.
+    // A slot that hears of an item's end must not find a service that is being removed.
     if (current() == this)
         setCurrent(nullptr);
     const QStringList names = d->registry.names();
@@ -55,12 +55,12 @@ QStringList EmbeddedBackend::loadFolders(const QStringList& folders)
     for (const QString& folder : folders) {
         const QDir dir(folder);
         if (!dir.exists() || !dir.isReadable()) {
-            problems += ServiceFileTexts::tr("%1: no folder of service files, or not readable").arg(folder);
+            problems += ServiceFileTexts::tr("%1: not a folder of service files, or not readable").arg(folder);
             continue;
         }
         const QStringList files = dir.entryList({QStringLiteral("*.service.json")}, QDir::Files, QDir::Name);
         for (const QString& file : files) {
-            // A client that waited for the service may end the whole back end when it appears.
+            // A client that waited for the service may delete the back end when it appears.
             if (alive)
                 loadFile(dir.filePath(file), &problems);
         }
@@ -121,7 +121,7 @@ EmbeddedService* EmbeddedBackend::publish(
         QObject::connect(data.keeper.get(), &StateKeeper::failed, service, &EmbeddedService::reportError);
         *problems += data.keeper->takeBack();
     }
-    // Whoever hears of the new items may withdraw them at once.
+    // A slot that hears of the new items may withdraw them at once.
     const QPointer<EmbeddedService> published(service);
     place->publish(service, file);
     return published;

@@ -16,9 +16,9 @@ class EmbeddedService;
 
 /// A back end whose services live in this process, described by service files.
 ///
-/// Constructing it makes it the current back end. Its services, their items and the clients without a parent go
-/// with it; clients with a parent of their own hear KIVClientInterface::itemsChanged() then and are not valid any more.
-/// A client stays good over the withdrawal of its service and finds the next one of that name.
+/// Constructing it makes it the current back end. Its services, their items and the clients without a parent are
+/// deleted with it; clients with a parent of their own then emit KIVClientInterface::itemsChanged() and are no longer
+/// valid. A client survives the withdrawal of its service and finds the next one of that name.
 class KIVEMBEDDED_EXPORT EmbeddedBackend final : public KIVBackend
 {
 public:
@@ -28,45 +28,45 @@ public:
     EmbeddedBackend();
     ~EmbeddedBackend() override;
 
-    /// Keeps the settings that clients change in this folder, made when it is needed, one "SERVICE.state.json" for each
-    /// service, and gives them to services that are published from now on; an empty path keeps nothing. A file is
-    /// written when the event loop is reached, and before its service goes. One that cannot be written is reported
-    /// through KIVClientInterface::SigError() of the service's clients and tried again after the next change.
+    /// Stores the settings that clients change in this folder, which is created when it is needed, one
+    /// "SERVICE.state.json" for each service, and restores them in services that are published from now on. With an
+    /// empty path nothing is stored. A file is written when control returns to the event loop, and before its service
+    /// is removed. A failure is reported through KIVClientInterface::SigError() of the service's clients, and the write
+    /// is tried again after the next change.
     void setStateFolder(const QString& path);
 
     /// Publishes the service of every "*.service.json" file of the folders, in the order of the folders and, within
-    /// one, of the file names. Returns one sentence for each folder or file that could not be used (file, place in
-    /// it and reason), and for each kept value that could not be taken back; what could be used is published all the
-    /// same.
+    /// one, of the file names. Returns one sentence for each folder or file that could not be used (file, place in it
+    /// and reason), and for each stored value that could not be restored; everything else is published all the same.
     QStringList loadFolders(const QStringList& folders);
 
-    /// The folders that the environment variable KIV_SERVICES names, separated by colons.
+    /// The folders in the environment variable KIV_SERVICES, separated by colons.
     static QStringList foldersFromEnvironment();
 
-    /// Publishes the service of one file. Returns false, with the reason in `problem`, when the file cannot be used
-    /// or a service of that name is published already. Problems of the kept state are told there too, a line each, and
-    /// hinder nothing.
+    /// Publishes the service of one file. Returns false, with the reason in `problem`, when the file cannot be used or
+    /// a service of that name is published already. Problems of the stored state are added to `problem`, one in each
+    /// line, and do not make the call fail.
     bool loadFile(const QString& path, QString* problem = nullptr);
 
     /// Publishes a service without a file. Returns null, with place and reason in `problem`, when the description is
-    /// not sound or a service of that name is published already; what `problem` says otherwise is as for loadFile().
-    /// Clients that had an earlier service of that name emit itemsChanged().
+    /// not valid or a service of that name is published already; other problems are as for loadFile(). Clients that had
+    /// an earlier service of that name emit itemsChanged().
     EmbeddedService* publish(const ServiceDescription& description, QString* problem = nullptr);
 
-    /// Ends a service; its settings are written first. Returns false when there is none of that name. Its clients emit
-    /// itemsChanged() once and are not valid until a service of that name is published again.
+    /// Removes a service; its settings are written first. Returns false when there is none of that name. Its clients
+    /// emit itemsChanged() once and are not valid until a service of that name is published again.
     bool withdraw(const QString& name);
 
-    /// The published services' names in ascending order.
+    /// The names of the published services in ascending order.
     QStringList serviceNames() const;
 
-    /// The service's own side of a published service, or null.
+    /// The service's own side of a published service; null when it is not published.
     EmbeddedService* service(const QString& name) const;
 
     KIVClientInterface* baseManagerClient() override;
     KIVClientInterface* serviceClient(const QString& service, QObject* parent) override;
     BaseFormatter* createFormatter(const QString& name) const override;
-    /// Knows of every path: nothing is mounted but what a published service says is.
+    /// Answers for every path: only what a published service reports is mounted.
     std::optional<bool> isMounted(const QString& path) const override;
 
 private:

@@ -75,7 +75,7 @@ Outcome EmbeddedClient::call(int delayMs, int timeoutMs, const Request& request)
     return callInProcess(called, delayMs, timeoutMs, request);
 }
 
-/// A slot that heard of what was done may have deleted the client.
+/// A slot that heard of the change may have deleted the client.
 bool EmbeddedClient::remember(const QPointer<EmbeddedClient>& client, const Outcome& outcome)
 {
     if (client)

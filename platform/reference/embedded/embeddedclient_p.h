@@ -10,7 +10,7 @@ namespace kiv::embedded {
 
 class ServicePlace;
 
-/// A client's view of whatever service is published at a place; answers like an empty service while there is none.
+/// A client's view of the service that is published at a place, if any; without one it answers like an empty service.
 class EmbeddedClient final : public KIVClientInterface
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
     QString getLastError() const override { return m_lastError; }
 
 private:
-    /// The service, if it can be reached.
+    /// The service; null while it cannot be reached.
     EmbeddedService* service() const;
     Outcome call(int delayMs, int timeoutMs, const Request& request) const;
     static bool remember(const QPointer<EmbeddedClient>& client, const Outcome& outcome);

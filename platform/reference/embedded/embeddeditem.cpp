@@ -8,7 +8,7 @@ namespace kiv::embedded {
 
 namespace {
 
-/// One kind of item that answers from the state. Without signals of its own, so that one template serves all kinds.
+/// An item that answers from the state. It has no signals of its own, so that one template serves all kinds.
 template<class Kind> class StatefulItem : public Kind
 {
 public:
@@ -96,10 +96,10 @@ public:
 
     KivAggregate getAggregate() const override
     {
-        const QVariantMap record = description().value.toMap();
+        const QVariantMap aggregate = description().value.toMap();
         QVector<QPair<QByteArray, QVariant>> members;
         for (const MemberDescription& member : description().members)
-            members.append({member.name.toUtf8(), record.value(member.name)});
+            members.append({member.name.toUtf8(), aggregate.value(member.name)});
         return KivAggregate(members);
     }
 };
@@ -121,10 +121,10 @@ private:
     QVector<QVariantList> rows() const
     {
         QVector<QVariantList> rows;
-        const QVariantList records = description().value.toList();
-        rows.reserve(records.size());
-        for (const QVariant& record : records) {
-            const QVariantMap values = record.toMap();
+        const QVariantList tableRows = description().value.toList();
+        rows.reserve(tableRows.size());
+        for (const QVariant& aggregate : tableRows) {
+            const QVariantMap values = aggregate.toMap();
             QVariantList row;
             for (const MemberDescription& member : description().members)
                 row.append(values.value(member.name));

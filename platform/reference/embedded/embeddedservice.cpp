@@ -16,7 +16,7 @@ namespace kiv::embedded {
 
 namespace {
 
-/// Changes a field and emits `changed` if that makes a difference.
+/// Sets a field, and emits `changed` if the value differs.
 template<class Value>
 bool change(const ItemStore::StatePtr& state, ItemField field, Value ItemDescription::*member, const Value& value,
         void (KIVClientItem::*changed)())
@@ -81,7 +81,7 @@ bool EmbeddedService::setValue(const QString& id, const QVariant& value)
     const ItemState::Changes changes = state->takeValue(conversion.value);
     if (changes.value && state->isKept)
         d->scheduleSave();
-    tell(state, changes);
+    emitChanges(state, changes);
     return true;
 }
 
@@ -93,7 +93,7 @@ bool EmbeddedService::setAttribute(const QString& id, const QString& name, const
     const QString oldUnit = state->unitText();
     state->setAttribute(name, value);
     state->note(ItemField::Attributes);
-    tell(state, {false, state->unitText() != oldUnit});
+    emitChanges(state, {false, state->unitText() != oldUnit});
     return true;
 }
 
@@ -119,7 +119,7 @@ bool EmbeddedService::setUnit(const QString& id, const QString& unit)
         state->description.unit = unit;
         state->note(ItemField::Unit);
     }
-    tell(state, {false, state->unitText() != oldUnit});
+    emitChanges(state, {false, state->unitText() != oldUnit});
     return true;
 }
 
@@ -152,7 +152,7 @@ bool EmbeddedService::setChoices(const QString& id, const QVector<ChoiceDescript
     QVector<ChoiceDescription>& old = state->description.choices;
     if (std::equal(old.cbegin(), old.cend(), choices.cbegin(), choices.cend(), isSameChoice))
         return true;
-    // An enumeration stays one when its last choice goes.
+    // An enumeration stays one when its last choice is removed.
     state->description.isEnumeration = true;
     old = choices;
     state->note(ItemField::Choices);

@@ -3,8 +3,8 @@
 #include "descriptioncheck_p.h"
 #include "formatters/formatters_p.h"
 #include "itemtypes_p.h"
+#include "shownvalue_p.h"
 #include "valueconversion_p.h"
-#include "valuetext_p.h"
 
 #include <algorithm>
 
@@ -108,7 +108,7 @@ ItemState::Changes ItemState::takeValue(const QVariant& value)
 {
     if (isSame(value, description.value))
         return {};
-    // A formatter that scales shows another unit for another value.
+    // A formatter that scales may show another unit for another value.
     const bool unitMayChange = description.unit.isEmpty() && formatter();
     const QString oldUnit = unitMayChange ? unitText() : QString();
     description.value = value;
@@ -165,7 +165,7 @@ int ItemState::precision() const
     return isNumber ? qBound(-1, named, 15) : description.precision;
 }
 
-void tell(const std::shared_ptr<ItemState>& state, ItemState::Changes changes)
+void emitChanges(const std::shared_ptr<ItemState>& state, ItemState::Changes changes)
 {
     const std::shared_ptr<ItemState> held = state;
     if (changes.value && held->item)

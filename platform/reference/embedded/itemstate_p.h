@@ -36,29 +36,29 @@ public:
     virtual void fieldChanged(ItemState* state, ItemField field) = 0;
 };
 
-/// What a service knows of one of its items. It is there also while the service cannot be reached and no client has the
-/// item's object; whoever reports a change holds it, since a slot may end the service.
+/// What a service knows of one of its items. It exists even while the service cannot be reached and clients have no
+/// object of the item. Code that reports a change holds a reference, because a slot may remove the service.
 class ItemState
 {
 public:
-    /// What a new value made of the item's answers.
+    /// Which of the item's answers a new value has changed.
     struct Changes
     {
         bool value = false;
         bool unit = false;
     };
 
-    /// The value and the limits must convert to the type.
+    /// The value and the limits must be convertible to the type.
     explicit ItemState(const ItemDescription& description);
     Q_DISABLE_COPY_MOVE(ItemState)
 
     ItemDescription description;
     const unsigned type;
-    /// What clients have of the item; null while the service cannot be reached.
+    /// The clients' object of the item; null while the service cannot be reached.
     KIVClientItem* item = nullptr;
-    /// Counts the items of a service in their order.
+    /// Position of the item in the service's order.
     quint64 position = 0;
-    /// Whether the value goes into the service's state file.
+    /// Whether the value is stored in the service's state file.
     bool isKept = false;
     /// The number that other processes know the item by; the watcher gives it.
     quint32 number = 0;
@@ -67,9 +67,9 @@ public:
 
     bool isSetting() const { return description.id.startsWith(QLatin1String(":config:")); }
     bool isEnumeration() const { return description.isEnumeration || !description.choices.isEmpty(); }
-    /// The last word of the id that is no array mark.
+    /// The last word of the id that is not an array mark.
     QString name() const;
-    /// The label, or else the name.
+    /// The label; if it is empty, the name.
     QString title() const;
 
     QString typeName() const;
@@ -79,7 +79,7 @@ public:
     void setAttribute(const QString& name, const QVariant& value);
     void setAttributes(const QVariantMap& attributes);
 
-    /// Takes a value of the item's type, or an invalid one for none, and tells the watcher alone.
+    /// Sets a value of the item's type, or an invalid one for none. Only the watcher is notified.
     Changes takeValue(const QVariant& value);
 
     /// Tells the watcher.
@@ -99,7 +99,7 @@ private:
     mutable bool m_hasLookedForFormatter = false;
 };
 
-/// Emits what clients shall hear of a change. Nothing of the service may be touched after that.
-void tell(const std::shared_ptr<ItemState>& state, ItemState::Changes changes);
+/// Emits the change to clients. Do not use anything of the service after this.
+void emitChanges(const std::shared_ptr<ItemState>& state, ItemState::Changes changes);
 
 } // namespace kiv::embedded

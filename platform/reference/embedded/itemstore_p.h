@@ -9,7 +9,7 @@
 
 namespace kiv::embedded {
 
-/// The items of one service: found by id, listed by id and in the order of the service.
+/// The items of one service: looked up by id, listed by id and in the service's order.
 class ItemStore
 {
 public:
@@ -28,16 +28,16 @@ public:
     /// Lets somebody watch the items, also those to come; null for nobody.
     void setWatcher(ItemWatcher* watcher);
 
-    /// Adds an item behind the others; its id must be a new one.
+    /// Adds an item after the others; its id must be new.
     void add(const StatePtr& state);
     void remove(const QString& id);
 
-    /// The object that clients have of an item, made when the first asks; null unless the store is open.
+    /// The clients' object of an item, created on the first call; null unless the store is open.
     KIVClientItem* object(const QString& id);
 
     bool isOpen() const { return bool(m_objects); }
     void open();
-    /// Destroys the objects; the states stay. Whoever hears of an end finds none of the objects any more.
+    /// Destroys the objects; the states stay. A slot that hears of a destruction finds none of the objects.
     void close();
     /// Closes, and forgets the states.
     void clear();
@@ -47,7 +47,7 @@ private:
     QMap<QString, ItemState*> m_sorted;
     quint64 m_lastPosition = 0;
     ItemWatcher* m_watcher = nullptr;
-    /// The objects' parent: it deletes many of them in one go.
+    /// The parent of the objects: deleting it deletes many of them in one step.
     std::unique_ptr<QObject> m_objects;
 };
 

@@ -18,7 +18,7 @@ namespace kiv::embedded {
 
 namespace {
 
-/// "/items/2/type" of the validator's "<root>", "[items]", "[2]", "[type]".
+/// "/items/2/type" for the validator's "<root>", "[items]", "[2]", "[type]".
 QString jsonPointer(const std::vector<std::string>& context)
 {
     QString pointer;
@@ -47,7 +47,7 @@ QString schemaViolation(const QJsonObject& schema, const QJsonObject& document)
     if (validator.validate(compiled, target, &results))
         return QString();
 
-    // A wrong value makes every object around it wrong too; the deepest place is the one to mend.
+    // A wrong value makes every object around it wrong too; the deepest place is the one to correct.
     const auto deepest = std::max_element(results.begin(), results.end(),
             [](const auto& a, const auto& b) { return a.context.size() < b.context.size(); });
     if (deepest == results.end())

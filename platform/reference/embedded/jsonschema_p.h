@@ -5,7 +5,7 @@
 
 namespace kiv::embedded {
 
-/// Holds `document` against the JSON Schema. Returns an empty text when it conforms, else the place of the offending
+/// Checks `document` against the JSON Schema. Returns an empty text when it conforms, else the place of the offending
 /// value as a JSON pointer, a colon, a blank and the reason.
 QString schemaViolation(const QJsonObject& schema, const QJsonObject& document);
 

@@ -1,8 +1,8 @@
 #include "pendingwrites_p.h"
 
+#include "shownvalue_p.h"
 #include "texts_p.h"
 #include "valuelimits_p.h"
-#include "valuetext_p.h"
 
 #include <algorithm>
 
@@ -10,7 +10,7 @@ namespace kiv::embedded {
 
 namespace {
 
-QString refusal(const ItemState& state, const QVariant& value, const QString& problem)
+QString rejection(const ItemState& state, const QVariant& value, const QString& problem)
 {
     return RequestTexts::tr("%1 cannot be set to %2: %3. Allowed: %4.")
             .arg(state.title(), quotedText(value), problem, allowedText(state.description, state.type));
@@ -34,9 +34,9 @@ QString PendingWrites::addWrite(ServiceData& service, const ItemStore::StatePtr&
         return RequestTexts::tr("%1 cannot be set now: it is not ready. Try again later.").arg(state->title());
     const Conversion conversion = convertForItem(item, state->type, value);
     if (!conversion.problem.isEmpty())
-        return refusal(*state, value, conversion.problem);
+        return rejection(*state, value, conversion.problem);
     if (!isAvailable(item, conversion.value))
-        return refusal(*state, value, RequestTexts::tr("not available now"));
+        return rejection(*state, value, RequestTexts::tr("not available now"));
     m_writes.append({&service, state, conversion.value});
     return QString();
 }
@@ -45,7 +45,7 @@ QString PendingWrites::addReport(ServiceData& service, const ItemStore::StatePtr
 {
     const Conversion conversion = convertToType(state->type, state->description.members, value);
     if (!conversion.problem.isEmpty())
-        return refusal(*state, value, conversion.problem);
+        return rejection(*state, value, conversion.problem);
     m_writes.append({&service, state, conversion.value});
     return QString();
 }
@@ -62,7 +62,7 @@ void PendingWrites::apply()
         write.service->scheduleSave();
     }
     for (int i = 0; i < writes.size(); ++i)
-        tell(writes.at(i).state, changes.at(i));
+        emitChanges(writes.at(i).state, changes.at(i));
 }
 
 } // namespace kiv::embedded

@@ -4,17 +4,18 @@
 
 namespace kiv::embedded {
 
-/// Values that are all checked before the first is taken, and all taken before anybody hears of the first.
+/// Values that are all checked before the first is set, and all set before the first is reported.
 class PendingWrites
 {
 public:
-    /// Adds what a client sets. Returns why the item refuses it, in words, or an empty text.
+    /// Adds a value from a client. Returns why the item rejects it, in words, or an empty text.
     QString addWrite(ServiceData& service, const ItemStore::StatePtr& state, const QVariant& value);
 
-    /// Adds what a service sets of its own accord at a client's request: limits do not bind it.
+    /// Adds a value that the service itself sets at a client's request: limits do not apply.
     QString addReport(ServiceData& service, const ItemStore::StatePtr& state, const QVariant& value);
 
-    /// Takes the values, keeps those of settings and tells the clients. The services may be gone after that.
+    /// Sets the values, stores those of settings and reports them to clients. The services may have been removed after
+    /// that.
     void apply();
 
 private:

@@ -14,7 +14,7 @@ namespace kiv::embedded {
 
 namespace {
 
-/// Not QString::arg(), which would take a "%2" in a text for its own.
+/// Not QString::arg(), which would replace a "%2" inside a text.
 QString withArgument(QString text, const QString& argument)
 {
     return text.replace(QLatin1String("%1"), argument);
@@ -47,13 +47,13 @@ Outcome callHandler(const EmbeddedService::ActionHandler& handler, const QString
     return {isDone, isDone || !text.isEmpty() ? text : RequestTexts::tr("The action failed.")};
 }
 
-/// Why clients may not set the item to the value, whatever it is that the item holds; empty when they may.
+/// Why clients cannot set the item to the value, whatever its limits; empty when they can.
 QString noSettingProblem(const ItemState& state, const QVariant& value)
 {
     if (state.isSetting())
         return QString();
     if (!state.description.isClearable)
-        return RequestTexts::tr("%1 cannot be set: it is no setting.").arg(state.title());
+        return RequestTexts::tr("%1 cannot be set: it is not a setting.").arg(state.title());
     const bool isEmpty = value.userType() == QMetaType::QString && value.toString().isEmpty();
     return isEmpty ? QString() : RequestTexts::tr("%1 cannot be set: it can only be emptied.").arg(state.title());
 }
@@ -98,7 +98,7 @@ Outcome carryOut(ServiceData& service, const QString& id, const QString& argumen
         return saveConfiguration(service, argument);
     if (state)
         return {false,
-                RequestTexts::tr("%1: the service %2 has nothing that carries it out.")
+                RequestTexts::tr("%1 cannot be carried out: the service %2 has no handler for it.")
                         .arg(state->title(), service.name)};
     return {false, RequestTexts::tr("The service %1 has no action %2.").arg(service.name, id)};
 }
@@ -121,7 +121,7 @@ Outcome callInProcess(EmbeddedService* service, int delayMs, int timeoutMs, cons
         return request(ServiceData::of(*service));
     carryOutLater(service, delay - timeout, request);
     return {false,
-            RequestTexts::tr("The service %1 did not answer within %2 ms. It may still do what was asked for.")
+            RequestTexts::tr("The service %1 did not answer within %2 ms. It may still carry out the request.")
                     .arg(service->name(), QString::number(timeout))};
 }
 

@@ -9,29 +9,29 @@
 
 namespace kiv::embedded {
 
-/// What came of a client's request: whether it was done, and the reply or the error in words.
+/// The result of a client's request: whether it succeeded, and the reply or the error in words.
 struct Outcome
 {
     bool isDone = false;
     QString text;
 };
 
-// The service may be gone when one of these returns: somebody heard of what it did.
+// The service may have been removed when one of these returns, by a slot that heard of the change.
 
-/// Takes a value for a setting.
+/// Sets the value of a setting.
 KIVEMBEDDED_EXPORT Outcome setSetting(ServiceData& service, const QString& id, const QVariant& value);
 
 /// Carries out an action.
 KIVEMBEDDED_EXPORT Outcome carryOut(ServiceData& service, const QString& id, const QString& argument);
 
-/// Milliseconds that an action takes beside the service's own delay.
+/// Milliseconds that an action takes in addition to the service's own delay.
 KIVEMBEDDED_EXPORT int actionDelay(const ServiceData& service, const QString& id);
 
 using Request = std::function<Outcome(ServiceData&)>;
 
 /// Carries out a request of a client in this thread, which stands still for as long as the service takes, but at most for
 /// `timeoutMs`; then the request is carried out later and counts as not answered. `delayMs` is what the request takes
-/// beside the service's own delay.
+/// in addition to the service's own delay.
 KIVEMBEDDED_EXPORT Outcome callInProcess(EmbeddedService* service, int delayMs, int timeoutMs, const Request& request);
 
 } // namespace kiv::embedded

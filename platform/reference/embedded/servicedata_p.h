@@ -8,20 +8,20 @@
 
 namespace kiv::embedded {
 
-/// What the parts of the back end know of a service in common. It goes with the service.
+/// What the parts of the back end share about a service. Deleted with the service.
 struct ServiceData
 {
     QString name;
     int delayMs = 0;
     ItemStore items;
     QHash<QString, EmbeddedService::ActionHandler> handlers;
-    /// Clean paths without a slash behind.
+    /// Clean paths without a final slash.
     QSet<QString> mounted;
-    /// Called when a drive was mounted or taken away; may be empty.
+    /// Called when a drive was mounted or unmounted; may be empty.
     std::function<void()> mountsChanged;
-    /// Null when nothing is kept.
+    /// Null when nothing is stored.
     std::unique_ptr<StateKeeper> keeper;
-    /// Lists the services that are published beside this one, and this one. Set when it is published.
+    /// Lists all published services, this one included. Set when this one is published.
     std::function<QVector<EmbeddedService*>()> published;
 
     static ServiceData& of(const EmbeddedService& service) { return *service.d; }

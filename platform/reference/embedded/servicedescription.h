@@ -17,13 +17,13 @@ struct ChoiceDescription
     int value = 0;
     /// The name in programs, unique among the choices.
     QString name;
-    /// What the user reads; the name when it is empty.
+    /// The text that the user reads; the name when it is empty.
     QString label;
-    /// Whether the choice may be taken now.
+    /// Whether the choice can be selected now.
     bool isApplicable = true;
 };
 
-/// A member of a record, or a column of a table.
+/// A member of an aggregate, or a column of a table.
 struct MemberDescription
 {
     QString name;
@@ -31,7 +31,7 @@ struct MemberDescription
     QString type;
 };
 
-/// What an action does when a client asks for it. In `reply` and in the texts of `set`, "%1" stands for the argument.
+/// What an action does at a client's request. In `reply` and in the texts of `set`, "%1" stands for the argument.
 struct ActionDescription
 {
     /// Values by the id of an item of the same service, of any category.
@@ -39,11 +39,11 @@ struct ActionDescription
     QString reply;
     /// Not empty: the action fails with this text and sets nothing.
     QString fail;
-    /// Milliseconds until the answer, beside the service's own.
+    /// Milliseconds until the answer, in addition to the service's own delay.
     int delayMs = 0;
 };
 
-/// An item as it is when its service is published; docs/service-files.md tells what each field means.
+/// An item as it is when its service is published; docs/service-files.md says what each field means.
 struct ItemDescription
 {
     QString id;
@@ -55,39 +55,39 @@ struct ItemDescription
     /// Converted to the item's type; invalid for an item without a value.
     QVariant value;
     QVariantMap attributes;
-    /// Decimals of a shown double; -1: as many as the value needs.
+    /// Decimals of a double that is shown; -1 for as many as the value needs.
     int precision = -1;
-    /// Limits of what clients set: of a number, or of the length of a text; invalid for none. Of an array, each
-    /// element's.
+    /// Limits of values from clients: of a number, or of the length of a text; invalid for none. For an array, the
+    /// limits of each element.
     QVariant minimum;
     QVariant maximum;
-    /// An int or uint with choices is an enumeration, with `isEnumeration` also before it has any.
+    /// An int or uint with choices is an enumeration; with `isEnumeration` it is one even without choices.
     QVector<ChoiceDescription> choices;
     bool isEnumeration = false;
-    /// Of an aggregate or a list aggregate.
+    /// Members of an aggregate or a list aggregate.
     QVector<MemberDescription> members;
     KIVClientItem::Quality quality = KIVClientItem::QualityNone;
     bool isReady = true;
     bool isApplicable = true;
-    /// Decides instead of `isApplicable` unless it is empty.
+    /// Takes the place of `isApplicable` unless it is empty.
     QString applicableExpr;
-    /// Not empty: every write of a client is refused with this text.
+    /// Not empty: every write of a client is rejected with this text.
     QString refusal;
-    /// Of a text that is a result: clients may empty it.
+    /// For a text that is a result: clients may clear it.
     bool isClearable = false;
-    /// Of an action; without it the action needs a handler.
+    /// What an action does; without it the action needs a handler.
     std::optional<ActionDescription> does;
 };
 
 struct ServiceDescription
 {
-    /// The name that clients ask for; 1 to 255 characters.
+    /// The name under which clients find the service; 1 to 255 characters.
     QString service;
-    /// In the order in which clients see them listed.
+    /// In the order in which clients see them.
     QVector<ItemDescription> items;
     /// Milliseconds until the service answers a call.
     int delayMs = 0;
-    /// The instrument's mount points, as "/mnt/usb/", at which the service has a drive mounted.
+    /// The instrument's mount points, such as "/mnt/usb/", at which the service has a drive mounted.
     QStringList mounted;
 };
 

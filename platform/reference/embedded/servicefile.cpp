@@ -10,7 +10,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-// Resources of a library are only there once somebody asked for them.
+// Resources of a static library must be initialized explicitly.
 static void initSchemas()
 {
     Q_INIT_RESOURCE(schemas);
@@ -106,12 +106,12 @@ bool isOfKind(const QString& type, const QJsonValue& value)
     return value.isDouble();
 }
 
-/// The schema sees no further than a record's braces: what its members are stands elsewhere in the item. Converting
-/// alone would let a text pass for a number.
-QString recordProblem(const QString& place, const QVector<MemberDescription>& members, const QJsonObject& record)
+/// The schema only requires an object for an aggregate, because the members are described elsewhere in the item.
+/// Conversion alone would accept a text as a number.
+QString aggregateProblem(const QString& place, const QVector<MemberDescription>& members, const QJsonObject& aggregate)
 {
     for (const MemberDescription& member : members) {
-        const QJsonValue value = record.value(member.name);
+        const QJsonValue value = aggregate.value(member.name);
         if (!value.isUndefined() && !isOfKind(member.type, value))
             return place + QLatin1Char('/') + member.name + QLatin1String(": ")
                     + ServiceFileTexts::tr("not of the type %1").arg(member.type);
@@ -119,13 +119,14 @@ QString recordProblem(const QString& place, const QVector<MemberDescription>& me
     return QString();
 }
 
-QString recordsProblem(const ItemDescription& item, const QJsonValue& value)
+QString aggregatesProblem(const ItemDescription& item, const QJsonValue& value)
 {
     if (value.isObject())
-        return recordProblem(QStringLiteral("/value"), item.members, value.toObject());
+        return aggregateProblem(QStringLiteral("/value"), item.members, value.toObject());
     const QJsonArray rows = item.members.isEmpty() ? QJsonArray() : value.toArray();
     for (int i = 0; i < rows.size(); ++i) {
-        const QString problem = recordProblem(QStringLiteral("/value/%1").arg(i), item.members, rows.at(i).toObject());
+        const QString problem
+                = aggregateProblem(QStringLiteral("/value/%1").arg(i), item.members, rows.at(i).toObject());
         if (!problem.isEmpty())
             return problem;
     }
@@ -143,7 +144,7 @@ ServiceDescription serviceDescription(const QJsonObject& root, QString* problem)
     for (int i = 0; i < items.size() && problem->isEmpty(); ++i) {
         const QJsonObject object = items.at(i).toObject();
         service.items += itemDescription(object);
-        const QString reason = recordsProblem(service.items.constLast(), object.value(QLatin1String("value")));
+        const QString reason = aggregatesProblem(service.items.constLast(), object.value(QLatin1String("value")));
         if (!reason.isEmpty())
             *problem = QStringLiteral("/items/%1").arg(i) + reason;
     }

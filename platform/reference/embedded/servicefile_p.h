@@ -6,8 +6,7 @@
 
 namespace kiv::embedded {
 
-/// Reads a service file and checks it. Returns nothing, with file, place and reason in `problem`, when it cannot be
-/// used.
+/// Reads and checks a service file. Returns nothing, with file, place and reason in `problem`, when it cannot be used.
 std::optional<ServiceDescription> readServiceFile(const QString& path, QString* problem);
 
 } // namespace kiv::embedded

@@ -23,7 +23,7 @@ void ServicePlace::publish(EmbeddedService* service, const QString& file)
 
 void ServicePlace::withdraw()
 {
-    // A file that cannot be written is reported, and whoever hears that may be quicker.
+    // A failed write is reported, and a slot may remove the service first.
     const QPointer<ServicePlace> self(this);
     if (m_service && ServiceData::of(*m_service).keeper)
         ServiceData::of(*m_service).keeper->flush();

@@ -10,7 +10,7 @@ namespace kiv::embedded {
 class EmbeddedClient;
 class EmbeddedService;
 
-/// Where a service of one name is or was published. It stays when the service goes, so that clients find the next one.
+/// Where a service of one name is or was published. It outlives the service, so that clients find the next one.
 class ServicePlace : public QObject
 {
     Q_OBJECT
@@ -23,9 +23,9 @@ public:
     EmbeddedClient* sharedClient() const { return m_sharedClient; }
     QString file() const { return m_file; }
 
-    /// Takes a service, which belongs to the place from then on, and the file that described it, if one did.
+    /// Takes over a service, and the path of the file that described it, if any.
     void publish(EmbeddedService* service, const QString& file);
-    /// Ends the service. The place may be gone after that.
+    /// Removes the service. The place may have been deleted after that.
     void withdraw();
 
 Q_SIGNALS:
@@ -45,7 +45,7 @@ class ServiceRegistry : public QObject
     Q_OBJECT
 
 public:
-    /// The place of that name; null when nothing was ever published there.
+    /// The place of that name; null when nothing was ever published under it.
     ServicePlace* place(const QString& name) const { return m_places.value(name); }
     ServicePlace* makePlace(const QString& name);
 

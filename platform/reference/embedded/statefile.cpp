@@ -26,7 +26,7 @@ bool mustBeEncoded(char byte, bool isFirst)
     return code < 0x20 || code == 0x7f || byte == '/' || byte == '%' || (isFirst && byte == '.');
 }
 
-/// The longest beginning that does not end inside a character.
+/// The longest prefix that does not end inside a character.
 QByteArray beginning(const QByteArray& utf8, int bytes)
 {
     while (bytes > 0 && (static_cast<unsigned char>(utf8.at(bytes)) & 0xc0) == 0x80)
@@ -48,17 +48,17 @@ bool moveAway(const QString& path, QString* problem)
     const QString name = freeDamagedName(path);
     if (!QFile::rename(path, name)) {
         *problem += QLatin1Char(' ')
-                + StateTexts::tr("It could not be moved out of the way, so changed settings are lost at the end.");
+                + StateTexts::tr("It could not be renamed, so changed settings will be lost when the program ends.");
         return false;
     }
     *problem += QLatin1Char(' ')
-            + StateTexts::tr("It is now %1, and the settings are those of the service file.").arg(name);
+            + StateTexts::tr("It was renamed to %1, and the settings are those of the service file.").arg(name);
     return true;
 }
 
 } // namespace
 
-QString safeFileName(const QString& name)
+QString escapedFileName(const QString& name)
 {
     const QByteArray utf8 = name.toUtf8();
     QByteArray safe;
@@ -77,7 +77,7 @@ QString safeFileName(const QString& name)
 
 QString stateFilePath(const QString& folder, const QString& service)
 {
-    return QDir(folder).filePath(safeFileName(service) + QLatin1String(".state.json"));
+    return QDir(folder).filePath(escapedFileName(service) + QLatin1String(".state.json"));
 }
 
 QJsonValue storableValue(const QVariant& value)
@@ -115,7 +115,7 @@ QJsonValue storableValue(const QVariant& value)
 bool readStateFile(const QString& path, QJsonObject* values, QString* problem)
 {
     *values = QJsonObject();
-    // A link that leads nowhere is in the way too.
+    // A broken link is in the way too.
     if (!QFileInfo::exists(path) && !QFileInfo(path).isSymLink())
         return true;
     PlovJsonDocument document;
@@ -125,7 +125,7 @@ bool readStateFile(const QString& path, QJsonObject* values, QString* problem)
     }
     const QJsonValue read = document.object().value(QLatin1String("values"));
     if (!read.isObject()) {
-        *problem = StateTexts::tr("%1: /values: there are no values by item id.").arg(path);
+        *problem = StateTexts::tr("%1: /values: the object with the values by item id is missing.").arg(path);
         return moveAway(path, problem);
     }
     *values = read.toObject();
@@ -135,11 +135,11 @@ bool readStateFile(const QString& path, QJsonObject* values, QString* problem)
 bool writeStateFile(const QString& path, const QString& service, const QJsonObject& values, QString* error)
 {
     const auto failed = [&](const QString& reason) {
-        *error = StateTexts::tr("The settings of %1 could not be kept in %2: %3.").arg(service, path, reason);
+        *error = StateTexts::tr("The settings of %1 could not be stored in %2: %3.").arg(service, path, reason);
         return false;
     };
     if (!uiutils::makeFolderDurably(QFileInfo(path).path()))
-        return failed(StateTexts::tr("the folder cannot be made"));
+        return failed(StateTexts::tr("the folder cannot be created"));
     const QByteArray text
             = QJsonDocument(QJsonObject {{QStringLiteral("service"), service}, {QStringLiteral("values"), values}})
                       .toJson();

@@ -1,9 +1,9 @@
 #include "statekeeper_p.h"
 
+#include "shownvalue_p.h"
 #include "statefile_p.h"
 #include "texts_p.h"
 #include "valuelimits_p.h"
-#include "valuetext_p.h"
 
 #include <QDir>
 
@@ -77,15 +77,15 @@ bool StateKeeper::saveConfiguration(const QString& name, QString* error) const
         if (state->isSetting() && !value.isUndefined())
             values.insert(state->description.id, value);
     }
-    const QDir folder(QDir(m_folder).filePath(safeFileName(m_service) + QLatin1String(".configurations")));
-    return writeStateFile(folder.filePath(safeFileName(name) + QLatin1String(".json")), m_service, values, error);
+    const QDir folder(QDir(m_folder).filePath(escapedFileName(m_service) + QLatin1String(".configurations")));
+    return writeStateFile(folder.filePath(escapedFileName(name) + QLatin1String(".json")), m_service, values, error);
 }
 
-/// Takes the value unless it does not fit; then says why.
+/// Sets the value if it fits; otherwise returns the reason.
 QString StateKeeper::fitted(ItemState& state, const QJsonValue& value)
 {
     if (!state.isSetting())
-        return StateTexts::tr("this is no setting");
+        return StateTexts::tr("this is not a setting");
     const Conversion conversion = convertForItem(state.description, state.type, value.toVariant());
     if (!conversion.problem.isEmpty())
         return StateTexts::tr("%1 is %2, allowed: %3")

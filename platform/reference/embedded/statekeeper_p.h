@@ -8,31 +8,31 @@
 
 namespace kiv::embedded {
 
-/// Keeps the settings of a service that clients changed in a file, from one run to the next.
+/// Stores the settings of a service that clients changed in a file, from one run to the next.
 class StateKeeper : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Keeps the state of `items`, which must live as long as the keeper, in `folder`.
+    /// Stores the state of `items`, which must outlive the keeper, in `folder`.
     StateKeeper(const QString& folder, const QString& service, ItemStore& items);
 
-    /// Gives the settings the values of the state file. Returns a sentence for each that could not be taken.
+    /// Restores the settings from the state file. Returns a sentence for each value that could not be restored.
     QStringList takeBack();
 
-    /// Gives an item that came later the value that is kept for it, if it fits.
+    /// Restores the stored value of an item that was added later, if it fits.
     void takeBack(ItemState& state);
 
-    /// Keeps the value of an item that goes.
+    /// Stores the value of an item that is removed.
     void letGo(const ItemState& state);
 
-    /// Writes the file when the event loop is reached; many changes make one file.
+    /// Writes the file when control returns to the event loop; many changes are written once.
     void schedule();
 
-    /// Writes it now if there is something to write. What fails is written after the next change.
+    /// Writes the file now if there is something to write. After a failure the next change writes it.
     void flush();
 
-    /// Stores all settings under a name of the user's. Returns whether that worked, else with the reason.
+    /// Stores all settings under a name that the user chose. Returns whether that succeeded, and the reason if not.
     bool saveConfiguration(const QString& name, QString* error) const;
 
 Q_SIGNALS:
@@ -45,11 +45,11 @@ private:
     const QString m_folder;
     const QString m_service;
     ItemStore& m_items;
-    /// What the file holds for items that are not there, or do not take it: it is not ours to drop.
+    /// Values in the file for items that do not exist, or reject them: they are not ours to discard.
     QJsonObject m_leftOver;
     QTimer m_timer;
     bool m_isDirty = false;
-    /// The old file could neither be read nor moved away: it must not be overwritten.
+    /// The old file could be neither read nor renamed: it must not be overwritten.
     bool m_isBlocked = false;
 };
 

@@ -4,27 +4,27 @@
 
 namespace kiv::embedded {
 
-// What the back end says, each kind under the context that translators find it in.
+// Texts of the back end, each kind under the context in which translators find it.
 
-/// What is wrong with service files and descriptions of services.
+/// Errors in service files and descriptions of services.
 struct ServiceFileTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ServiceFile)
 };
 
-/// Why a service does not do what a client asks for.
+/// Why a service rejects a client's request.
 struct RequestTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ServiceRequest)
 };
 
-/// Why a value does not fit, and which ones do.
+/// Why a value does not fit, and which values do.
 struct ValueTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ServiceValue)
 };
 
-/// What becomes of the settings that a service keeps.
+/// Results of storing a service's settings.
 struct StateTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ServiceState)

@@ -99,7 +99,7 @@ bool isList(const QVariant& value)
     return !isText(value) && value.canConvert(QMetaType::QVariantList);
 }
 
-/// Long curves come as what they shall become; they are looked through, not copied.
+/// Long curves arrive in the final type; they are checked, not copied.
 bool holdsOnly(const QVariantList& list, QMetaType::Type type)
 {
     return std::all_of(list.cbegin(), list.cend(), [type](const QVariant& v) { return v.userType() == type; });
@@ -125,12 +125,12 @@ Conversion toArray(unsigned type, const QVariant& value)
     return {type == KIVClientItem::TypeStringArray ? QVariant(texts) : QVariant(list), {}};
 }
 
-Conversion toRecord(const QVector<MemberDescription>& members, const QVariant& value)
+Conversion toAggregate(const QVector<MemberDescription>& members, const QVariant& value)
 {
     if (isText(value) || !value.canConvert(QMetaType::QVariantMap))
-        return {{}, ValueTexts::tr("not a record")};
+        return {{}, ValueTexts::tr("not an aggregate")};
     QVariantMap rest = value.toMap();
-    QVariantMap record;
+    QVariantMap aggregate;
     for (const MemberDescription& member : members) {
         const auto given = rest.constFind(member.name);
         if (given == rest.cend())
@@ -138,21 +138,21 @@ Conversion toRecord(const QVector<MemberDescription>& members, const QVariant& v
         const Conversion converted = toSimple(typeCode(member.type), *given);
         if (!converted.problem.isEmpty())
             return {{}, ValueTexts::tr("member \"%1\": %2").arg(member.name, converted.problem)};
-        record.insert(member.name, converted.value);
+        aggregate.insert(member.name, converted.value);
         rest.remove(member.name);
     }
     if (!rest.isEmpty())
         return {{}, ValueTexts::tr("there is no member \"%1\"").arg(rest.firstKey())};
-    return {record, {}};
+    return {aggregate, {}};
 }
 
 Conversion toTable(const QVector<MemberDescription>& members, const QVariant& value)
 {
     if (!isList(value))
-        return {{}, ValueTexts::tr("not a list of records")};
+        return {{}, ValueTexts::tr("not a list of aggregates")};
     QVariantList rows = value.toList();
     for (int i = 0; i < rows.size(); ++i) {
-        const Conversion row = toRecord(members, rows.at(i));
+        const Conversion row = toAggregate(members, rows.at(i));
         if (!row.problem.isEmpty())
             return {{}, atElement(i, row.problem)};
         rows[i] = row.value;
@@ -181,7 +181,7 @@ bool isSame(const QVariant& a, const QVariant& b)
         const QVariantMap bs = b.toMap();
         return as.keys() == bs.keys() && std::equal(as.cbegin(), as.cend(), bs.cbegin(), bs.cend(), isSame);
     }
-    // QVariant compares doubles with a tolerance, which would swallow the steps of a large counter.
+    // QVariant compares doubles with a tolerance, which would hide the steps of a large counter.
     if (a.userType() == QMetaType::Double)
         return a.toDouble() == b.toDouble() || (std::isnan(a.toDouble()) && std::isnan(b.toDouble()));
     return a == b;
@@ -194,7 +194,7 @@ Conversion convertToType(unsigned type, const QVector<MemberDescription>& member
     case KIVClientItem::TypeDoubleArray:
         return toArray(type, value);
     case KIVClientItem::TypeAggregate:
-        return toRecord(members, value);
+        return toAggregate(members, value);
     case KIVClientItem::TypeListAggregate:
         return toTable(members, value);
     default:

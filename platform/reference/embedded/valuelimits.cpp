@@ -61,26 +61,26 @@ QString simpleProblem(const ItemDescription& item, unsigned type, const QVariant
     return problem.isEmpty() ? choiceProblem(item, value) : problem;
 }
 
-/// Members have no limits, but a number that is none can be neither sent nor kept.
-QString recordProblem(const QVariantMap& record)
+/// Members have no limits, but NaN and infinity can be neither sent nor stored.
+QString finiteProblem(const QVariantMap& aggregate)
 {
-    for (auto it = record.cbegin(); it != record.cend(); ++it) {
+    for (auto it = aggregate.cbegin(); it != aggregate.cend(); ++it) {
         if (it->userType() == QMetaType::Double && !std::isfinite(it->toDouble()))
             return ValueTexts::tr("member \"%1\": %2").arg(it.key(), ValueTexts::tr("not a finite number"));
     }
     return QString();
 }
 
-QString itemProblem(const ItemDescription& item, unsigned type, const QVariant& value)
+QString settableProblem(const ItemDescription& item, unsigned type, const QVariant& value)
 {
     if (type == KIVClientItem::TypeAggregate)
-        return recordProblem(value.toMap());
+        return finiteProblem(value.toMap());
     if (isSimpleType(type))
         return simpleProblem(item, type, value);
     const QVariantList elements = value.toList();
     for (int i = 0; i < elements.size(); ++i) {
         const QString problem = type == KIVClientItem::TypeListAggregate
-                ? recordProblem(elements.at(i).toMap())
+                ? finiteProblem(elements.at(i).toMap())
                 : simpleProblem(item, elementType(type), elements.at(i));
         if (!problem.isEmpty())
             return atElement(i, problem);
@@ -94,7 +94,7 @@ Conversion convertForItem(const ItemDescription& item, unsigned type, const QVar
 {
     Conversion conversion = convertToType(type, item.members, value);
     if (conversion.problem.isEmpty())
-        conversion.problem = itemProblem(item, type, conversion.value);
+        conversion.problem = settableProblem(item, type, conversion.value);
     return conversion;
 }
 

@@ -4,7 +4,7 @@
 
 namespace kiv::embedded {
 
-/// Converts what a client sets and holds it against the item's limits, form and choices.
+/// Converts a value from a client and checks it against the item's limits, form and choices.
 Conversion convertForItem(const ItemDescription& item, unsigned type, const QVariant& value);
 
 } // namespace kiv::embedded

@@ -11,7 +11,7 @@ namespace kiv::formatters {
 
 namespace {
 
-/// Handles what all formatters of numbers share: values that are none, and the unit behind a blank.
+/// Handles what all number formatters share: values that are not numbers, and the unit after a blank.
 class NumberFormatter : public BaseFormatter
 {
 public:
@@ -53,7 +53,7 @@ private:
 class DecimalFormatter final : public NumberFormatter
 {
 public:
-    /// Below zero decimals: as many as the number needs.
+    /// Negative: as many decimals as the number needs.
     DecimalFormatter(const QString& unit, int decimals)
         : NumberFormatter(unit)
         , m_decimals(decimals)
@@ -82,7 +82,7 @@ protected:
     QString numberText(double number) const override { return QLocale().toString(number, 'e', precisionOr(6)); }
 };
 
-/// Scales a number to the prefix under which it reads from 1 to below 1,000.
+/// Scales a number with the prefix that makes it at least 1 and less than 1,000.
 class SiFormatter final : public NumberFormatter
 {
 public:
@@ -110,7 +110,7 @@ private:
     {
         if (number == 0)
             return 0;
-        // A number that rounds up to 1,000 reads as 1 of the next prefix.
+        // A number that rounds up to 1,000 is shown as 1 of the next prefix.
         const double rounding = 0.5 * std::pow(10, -precisionOr(3));
         int power = qBound(smallest, int(std::floor(std::log10(std::abs(number)) / 3)), largest);
         if (power < largest && std::abs(number) / std::pow(1000, power) >= 1000 - rounding)

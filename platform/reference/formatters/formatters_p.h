@@ -17,7 +17,7 @@ namespace kiv::formatters {
 /// | duration (in seconds) | 3:25:45.678 |
 /// | frequency (in Hz), distance (in m), bitrate (in bit/s) | 12.346 kHz, 12.346 km, 12.346 kbit/s |
 ///
-/// "decimal", "scientific" and "si" take a unit behind a colon: "si:V".
+/// "decimal", "scientific" and "si" accept a unit after a colon: "si:V".
 BaseFormatter* create(const QString& name);
 
 } // namespace kiv::formatters

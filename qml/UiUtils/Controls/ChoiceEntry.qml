@@ -3,8 +3,8 @@ import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import UiUtils.Controls 1.0
 
-// One of an enumeration's choices; written at once. Choices that do not apply now are not offered, but one that is set is
-// shown all the same.
+// One of an enumeration's choices; written at once. Choices that are not applicable now are not offered, but a selected
+// one is shown all the same.
 Entry {
     id: entry
 
@@ -13,7 +13,7 @@ Entry {
 
     readonly property int position: choices.findIndex(choice => choice.value === Number(currentValue))
 
-    // The label is the item's business for a value that is not offered.
+    // For a value that is not offered the item gives the label.
     function labelOf(value) {
         if (position >= 0)
             return choices[position].label
@@ -22,7 +22,7 @@ Entry {
         return (face.hasItem ? item.enumLabelForValue(value) : "") || lastLabel || String(value)
     }
 
-    // Survives the service, which takes its labels along.
+    // Remains while the service, which has the labels, is away.
     property string lastLabel
 
     function take(index) {
@@ -52,7 +52,7 @@ Entry {
         Accessible.description: entry.note
         Keys.onReturnPressed: event.accepted = openByKey()
         Keys.onEnterPressed: event.accepted = openByKey()
-        // The box would close again with the key.
+        // The same key would close the box again.
         Keys.onReleased: {
             event.accepted = isOpening && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
             isOpening = false
@@ -60,7 +60,7 @@ Entry {
 
         property bool isOpening: false
 
-        // False when it was open: then the key chooses.
+        // False when it was open: then the key selects.
         function openByKey() {
             isOpening = !popup.visible
             if (isOpening)
@@ -68,7 +68,7 @@ Entry {
             return isOpening
         }
 
-        // A new list forgets the place.
+        // A new list resets the position.
         onModelChanged: currentIndex = Qt.binding(() => entry.position)
         onActivated: entry.take(index)
 

@@ -2,8 +2,8 @@ pragma Singleton
 import QtQuick 2.15
 import UiUtils 1.0
 
-// Colours and sizes of all entries. Lengths are pixels of the instrument's 1024 x 600 screen. An application with a look of
-// its own writes them before its first page.
+// Colours and sizes of all entries. Lengths are pixels of the instrument's 1024 x 600 screen. An application with its
+// own look writes them before its first page.
 QtObject {
     property color background: "#edf2f5"
     property color field: "#ffffff"
@@ -22,7 +22,7 @@ QtObject {
     property color warning: "#a86800"
     property color fail: "#b3261e"
 
-    // The least that a glove hits.
+    // Minimum size of a target for a gloved finger.
     property int touch: 48
     property int padKeyWidth: 84
     property int padKeyHeight: 60
@@ -35,7 +35,7 @@ QtObject {
     property int headingText: 20
     property int padText: 28
 
-    // Whether a tap on a field of digits opens the pad. Off where an on-screen keyboard comes up by itself.
+    // Whether a tap on a field of digits opens the pad. Turn it off if an on-screen keyboard opens by itself.
     property bool padOnTap: true
 
     function qualityColor(quality) {

@@ -3,7 +3,7 @@ import QtQuick.Layouts 1.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// What all entries have in common: label, quality, the editor, and the line that says what is wrong or what is wanted.
+// What all entries have in common: label, quality, the editor, and the line with the error or the permitted values.
 FocusScope {
     id: entry
 
@@ -20,13 +20,13 @@ FocusScope {
     property string rangeText: face.rangeDescription
     // In a row of a list: without label and range.
     property bool compact: false
-    // Stands in for writing to the item; takes the value and returns why it was refused, or an empty text.
+    // Replaces writing to the item; takes the value and returns why it was rejected, or an empty text.
     property var storeWith: null
 
     property bool isReady: face.isReady
     readonly property var currentValue: face.hasItem ? face.value : value
     readonly property alias face: face
-    // What users with a screen reader hear beside the name.
+    // What a screen reader says in addition to the name.
     readonly property alias note: noteText.text
 
     // Set by the editors.
@@ -34,7 +34,7 @@ FocusScope {
     property string complaint: face.refusal
     property bool isInvalid: complaint !== ""
     property string news
-    // Whether what stands in the editor could be committed.
+    // Whether the content of the editor could be committed.
     property bool isAcceptable: true
 
     default property alias content: slot.data
@@ -50,10 +50,10 @@ FocusScope {
         return ""
     }
 
-    // The item that was told that what stands here is not acceptable.
+    // The item to which this entry reported content that is not acceptable.
     property var blockedItem: null
 
-    // A container looks at `valueOk` only when it hears of a value.
+    // A container checks `valueOk` only when a value is reported.
     function tellWhetherOk() {
         if (!face.isLocal || !item)
             return
@@ -63,7 +63,7 @@ FocusScope {
         UiDataContainer.slotValueUpdated()
     }
 
-    // What was typed goes with the entry, so that the item's own value counts again.
+    // The typed text is removed with the entry, so that the item's own value counts again.
     function releaseItem() {
         const left = blockedItem
         blockedItem = null
@@ -79,7 +79,7 @@ FocusScope {
     onItemChanged: {
         if (blockedItem !== item)
             releaseItem()
-        // Once everything here is about the new one.
+        // When everything here describes the new one.
         Qt.callLater(tellWhetherOk)
     }
     Component.onCompleted: tellWhetherOk()
@@ -99,7 +99,7 @@ FocusScope {
         item: entry.item
     }
 
-    // No layout: its height would follow the width of wrapped texts within one change, which goes round in circles.
+    // Not a layout: its height would follow the width of wrapped texts within one change, in an endless circle.
     Column {
         id: column
         width: parent.width
@@ -138,7 +138,7 @@ FocusScope {
             id: slot
             width: parent.width
             visible: !entry.readOnly
-            // What is disabled loses the focus; a hidden editor would go on taking keys.
+            // A disabled item loses the focus; a hidden editor would still receive keys.
             enabled: entry.isReady && !entry.readOnly && face.isApplicable
             spacing: ControlsStyle.gap
         }

@@ -13,7 +13,7 @@ Button {
     padding: 0
     font { pixelSize: ControlsStyle.bodyText; bold: true }
     Accessible.name: text
-    // A key that is held down does it once, and not at all what it was not pressed on.
+    // A key that is held down triggers once, and only the button on which it was pressed.
     Keys.onReturnPressed: pressBy(event)
     Keys.onEnterPressed: pressBy(event)
 

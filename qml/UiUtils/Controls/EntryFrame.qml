@@ -2,7 +2,7 @@ import QtQuick 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// The box around an editor: who has the focus, what is wrong, and how the service judges the value.
+// The box around an editor: it shows focus, errors, and how the service judges the value.
 Rectangle {
     id: frame
 

@@ -4,8 +4,8 @@ import QtQuick.Layouts 1.15
 import UiUtils.Controls 1.0
 import "formats.js" as Formats
 
-// An entry of one line. What the user types is the user's until it is committed or taken back: no report of the service, no
-// refusal and no loss of the service changes it.
+// An entry of one line. Typed text belongs to the user until it is committed or reverted: no report of the service, no
+// rejection and no loss of the service changes it.
 Entry {
     id: entry
 
@@ -16,10 +16,10 @@ Entry {
     property bool hasPad: false
     property string padSeparator
     property bool padHasSign: false
-    // Whether nothing at all may be committed. A form's field may be left empty, a service has its own mind.
+    // Whether an empty text may be committed. A form's field may stay empty; a service decides for itself.
     property bool acceptsEmpty: !mandatory && (!face.hasItem || face.isLocal)
 
-    // The limits of a text in words: the item's own where it has both.
+    // The limits of a text in words: the item's own, if it has both.
     readonly property string lengthText: face.minimum !== undefined && face.maximum !== undefined
                                          ? face.tidyRange : Formats.rangeText(minimum, maximum, String, qsTr("chars"))
     readonly property string text: field.text
@@ -27,17 +27,17 @@ Entry {
     readonly property string problem: problemOf(field.text)
     readonly property string shownText: textOf(currentValue)
     property bool isEdited: false
-    // A commit of this text has failed, so it is time to say so aloud.
+    // A commit of this text has failed, so that the error is shown.
     property bool isTried: false
     property bool hasNews: false
 
-    // --- For each kind of entry to say ---
+    // --- Implemented by each kind of entry ---
 
     // The value as the field shows it.
     function textOf(value) {
         return value === undefined || value === null ? "" : String(value)
     }
-    // The value that a text stands for; asked for acceptable texts only.
+    // The value of a text; called only for acceptable texts.
     function parsed(text) {
         return text
     }
@@ -52,18 +52,18 @@ Entry {
         return text === "" && acceptsEmpty ? "" : check(text)
     }
 
-    // The limits of a text are those of its length; a form's item leaves them to its entry.
+    // The limits of a text limit its length; a form's item leaves them to its entry.
     function checkLength(text) {
         if (text.length < Number(minimum || 0) || text.length > (maximum === undefined ? Infinity : Number(maximum)))
             return lengthText
         if (face.matches(text))
             return ""
-        return Formats.lengthProblem(face.item ? face.item.regex : "", text) || qsTr("This is not in the form that is needed")
+        return Formats.lengthProblem(face.item ? face.item.regex : "", text) || qsTr("This does not have the required form")
     }
 
     // --- Commit and restore ---
 
-    // Writes what was typed; false when it cannot be taken, which leaves it in the field.
+    // Writes the typed text; false when it is rejected, in which case it stays in the field.
     function commit() {
         if (!isEdited)
             return true
@@ -91,7 +91,7 @@ Entry {
         return true
     }
 
-    // Takes back what was typed; false when there was nothing.
+    // Reverts the typed text; false when there was none.
     function restore() {
         const hadSomething = isEdited || face.refusal !== ""
         face.refusal = ""
@@ -130,7 +130,7 @@ Entry {
     isAcceptable: problem === "" || !face.isApplicable
     complaint: face.refusal !== "" ? face.refusal : isEdited ? problem : ""
     isInvalid: face.refusal !== "" || isEdited && isTried && problem !== ""
-    news: hasNews ? qsTr("Changed meanwhile to %1").arg(echoMode === TextInput.Normal ? shownText : qsTr("another one")) : ""
+    news: hasNews ? qsTr("Changed meanwhile to %1").arg(echoMode === TextInput.Normal ? shownText : qsTr("another value")) : ""
     plainText: face.hasItem && echoMode === TextInput.Normal ? face.valueString : "\u2022".repeat(shownText.length)
 
     onShownTextChanged: {
@@ -142,12 +142,12 @@ Entry {
     Connections {
         target: face
         function onReplaced() {
-            // What stands on the pad was meant for the other one.
+            // The content of the pad was meant for the other item.
             if (padLoader.item)
                 padLoader.item.close()
             entry.settle()
         }
-        // A hidden field would go on taking keys.
+        // A hidden field would still receive keys.
         function onIsApplicableChanged() { field.focus = face.isApplicable }
     }
     onVisibleChanged: {
@@ -189,7 +189,7 @@ Entry {
                 onTextEdited: entry.takeTyping()
                 onAccepted: entry.commit()
                 onActiveFocusChanged: {
-                    // A field that loses its meaning was not left by the user.
+                    // The user has not left a field that loses its meaning.
                     if (!activeFocus && entry && face.isApplicable && !(padLoader.item && padLoader.item.visible))
                         entry.commit()
                 }
@@ -199,7 +199,7 @@ Entry {
                     enabled: entry.hasPad && ControlsStyle.padOnTap
                     onTapped: entry.openPad()
                 }
-                // The field's own placeholder would read markup.
+                // The field's own placeholder would interpret markup.
                 Text {
                     anchors { fill: parent; leftMargin: field.leftPadding; rightMargin: field.rightPadding }
                     visible: field.length === 0 && field.preeditText === ""
@@ -213,7 +213,7 @@ Entry {
             }
             Text {
                 Layout.rightMargin: 10
-                // The value counts for more.
+                // The value has priority.
                 Layout.maximumWidth: parent.width / 3
                 visible: text !== ""
                 text: entry.unit

@@ -8,7 +8,7 @@ FieldEntry {
 
     rangeText: "0.0.0.0 - 255.255.255.255"
     placeholderText: "192.0.2.1"
-    // Not digits only: such a keyboard has no points in a comma country.
+    // Not a keyboard for digits only: it has no point where the locale uses a comma.
     inputMethodHints: Qt.ImhPreferNumbers | Qt.ImhNoPredictiveText
     hasPad: true
     padSeparator: "."

@@ -1,13 +1,13 @@
 import QtQuick 2.15
 import UiUtils 1.0
 
-// The entry that suits an item, whatever it is. Hidden while the item has no meaning, and without one.
+// The entry that suits an item of any kind. Hidden while the item has no meaning, and without an item.
 FocusScope {
     id: root
 
     property var item: null
     property string label: face.label
-    // The entry in use, for what it has beyond this.
+    // The entry in use, for its additional properties.
     readonly property alias entry: loader.item
 
     readonly property bool isRecord: face.type === "aggregate" || face.type === "listAggregate"
@@ -61,7 +61,7 @@ FocusScope {
         property: "label"
         value: root.label
     }
-    // A record has an entry for each member, not one.
+    // An aggregate has an entry for each member, not one.
     Binding {
         target: loader.item
         property: "readOnly"

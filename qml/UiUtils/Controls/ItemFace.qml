@@ -1,12 +1,12 @@
 import QtQuick 2.15
 
-// An item as its entry knows it. The item may not be there yet, be replaced, be destroyed, or lose and regain its service
-// under a user's fingers: what an item is (type, limits, choices) is taken over only from one that can tell, so that an
-// entry stays what it was while the service is away.
+// An item as its entry sees it. The item may not exist yet, be replaced, be destroyed, or lose and regain its service
+// during an edit. Its description (type, limits, choices) is taken only from an item that can give it, so that an entry
+// does not change while the service is away.
 QtObject {
     id: face
 
-    // Undefined for an entry that works without an item, null for one whose item is missing.
+    // Undefined for an entry without an item, null for one whose item is missing.
     property var item
 
     readonly property bool hasItem: !!item
@@ -18,7 +18,7 @@ QtObject {
     readonly property bool isApplicable: hasItem ? item.applicable : true
     readonly property int quality: hasItem ? item.qualityCode : 0
 
-    // A local item: it is told whether what stands in its field is acceptable, and may be left empty.
+    // A local item: it is notified whether the content of its field is acceptable, and may stay empty.
     property bool isLocal: false
     property string type
     property int inputType: 0
@@ -31,19 +31,19 @@ QtObject {
     property bool hasFormatter: false
     // Decimals of the value; -1 for as many as it needs.
     property int decimals: -1
-    // What there is to choose from now, as { label, value }; empty for an item without choices.
+    // The choices that are applicable now, as { label, value }; empty for an item without choices.
     property var choices: []
     property bool isChoice: false
 
-    // The item's own words about its range, without the gaps that missing limits and units leave in them.
+    // The item's description of its range, without the gaps that missing limits and units leave in it.
     readonly property string tidyRange: rangeDescription.replace(/\s+/g, " ").trim()
 
-    // Why the last write was refused, in words; empty when it was not.
+    // Why the last write was rejected, in words; empty after a success.
     property string refusal
-    // Counts what the item reported, for those who follow elements.
+    // Counts the item's reports, for entries that follow elements.
     property int reports: 0
 
-    // Writes to the item and returns why it was refused; an empty text when it was not.
+    // Writes to the item and returns why it was rejected; an empty text after a success.
     function write(value) {
         return writeWith(() => { item.value = value })
     }
@@ -55,7 +55,7 @@ QtObject {
         return refusal
     }
 
-    // Whether the item's own expression takes the text. Numbers have none.
+    // Whether the item's own expression accepts the text. Numbers have none.
     function matches(text) {
         const validator = item ? item.validator : null
         return !validator || !validator.validate || validator.validate(text, text.length) === 2
@@ -69,10 +69,10 @@ QtObject {
     }
 
     function describe() {
-        // Bindings may not have followed yet.
+        // Bindings may not have been evaluated yet.
         const source = item || {}
         const local = source.valueOk !== undefined
-        // A service's item without a type is one whose service is away.
+        // A service item without a type is one whose service is away.
         if (!local && !source.type && described === item)
             return
         described = source.type ? item : null
@@ -81,7 +81,7 @@ QtObject {
         label = source.label || ""
         readOnly = source.readOnly || false
         mandatory = source.mandatory || false
-        // A property of any type tells of every write.
+        // A property of any type signals every write.
         if (minimum !== limit(source.minRange))
             minimum = limit(source.minRange)
         if (maximum !== limit(source.maxRange))
@@ -109,15 +109,15 @@ QtObject {
             if (source.applicableAt(i))
                 found.push({ label: source.enumLabel(i), value: source.enumValue(i) })
         }
-        // An equal list would close the one that the user has open.
+        // Assigning an equal list would close the one that the user has open.
         if (JSON.stringify(found) !== JSON.stringify(choices))
             choices = found
     }
 
-    // The item that the description is of.
+    // The item of the present description.
     property var described: null
 
-    // A name that is looked up again, since its service is back, gives the same item: that is no other one.
+    // A name that is looked up again, after its service returned, gives the same item: that is not a replacement.
     property var known: null
     signal replaced()
 
@@ -135,7 +135,7 @@ QtObject {
     property Connections watcher: Connections {
         target: face.item || null
         ignoreUnknownSignals: true
-        function onErrorChanged(id, error) { face.refusal = error || qsTr("The entry was refused.") }
+        function onErrorChanged(id, error) { face.refusal = error || qsTr("The entry was rejected.") }
         function onValueChanged() { ++face.reports }
         function onValueCountChanged() { ++face.reports }
         function onIsReadyChanged() { face.describe() }

@@ -4,7 +4,7 @@ import QtQuick 2.15
 Loader {
     id: elementEntry
 
-    // A ListEntry, which cannot be said: each would need the other to be known first.
+    // A ListEntry; the type cannot be declared, because each of the two would need the other first.
     property var list
     property int row: -1
 

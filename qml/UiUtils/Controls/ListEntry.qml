@@ -4,18 +4,18 @@ import QtQuick.Layouts 1.15
 import UiUtils.Controls 1.0
 import "formats.js" as Formats
 
-// The elements of an array, one under the other, and a line for the next one.
+// The elements of an array, one below the other, and a line for a new one.
 Entry {
     id: entry
 
-    // Rows that are seen at once; more are scrolled.
+    // Number of visible rows; more are scrolled.
     property int visibleRows: 3
     property int decimals: face.decimals
 
     readonly property bool isText: type === "std::vector<string>"
     readonly property int count: rows.count
 
-    // Called with the number of reports, so that a binding asks again after each.
+    // Called with the number of reports, so that a binding is evaluated again after each.
     function element(index, reports) {
         return face.hasItem && index >= 0 ? item.at(index) : undefined
     }
@@ -25,7 +25,7 @@ Entry {
     }
 
     function storeRow(index, newValue) {
-        // A row that is being disabled loses the focus before it hears why.
+        // A row that is being disabled loses the focus before it learns the reason.
         if (!face.item || !face.item.isReady || !face.isApplicable || readOnly)
             return qsTr("Not ready")
         return index < 0 ? append(newValue) : replace(index, newValue)
@@ -55,7 +55,7 @@ Entry {
     }
 
     function remove(index) {
-        // The row goes first, so that those behind it keep what is typed in them.
+        // The row is removed first, so that the rows after it keep their typed text.
         rows.remove(index)
         if (write(list => list.splice(index, 1), () => item.removeAt(index)) !== "")
             rows.insert(index, { unused: 0 })
@@ -65,7 +65,7 @@ Entry {
     function follow() {
         const source = face.item
         const count = source ? source.valueCount : 0
-        // All at once, because the view hears of each change of the model.
+        // All at once, because the view receives each change of the model.
         if (rows.count < count)
             rows.append(new Array(count - rows.count).fill({ unused: 0 }))
         else if (rows.count > count)
@@ -108,13 +108,13 @@ Entry {
         id: view
         objectName: "rows"
         Layout.fillWidth: true
-        // A row that is cut off says that there is more.
+        // A row that is cut off shows that there are more.
         Layout.preferredHeight: entry.isLong ? entry.visibleRows * (ControlsStyle.touch + spacing) + ControlsStyle.touch / 2 : contentHeight
         visible: count > 0
         model: rows
         clip: true
         spacing: 4
-        // Rows keep what is typed in them while they are scrolled out of sight.
+        // Rows keep their typed text while they are scrolled out of view.
         cacheBuffer: 4000
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar { policy: entry.isLong ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }

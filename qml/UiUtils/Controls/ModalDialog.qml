@@ -3,13 +3,13 @@ import QtQuick.Controls 2.15
 import QtQuick.Window 2.15
 import UiUtils.Controls 1.0
 
-// A dialog in the middle of its window, over everything. What had the focus before gets it back.
+// A dialog in the centre of its window, over everything. When it closes, the previous item gets the focus back.
 Popup {
     id: dialog
 
     readonly property Item overlay: Overlay.overlay
 
-    // A dialog that is open and not in sight keeps users from what is below all the same.
+    // An open dialog that is not visible still blocks the items below it.
     property bool isInSight: true
 
     property Item interrupted: null
@@ -18,7 +18,7 @@ Popup {
         return overlay ? overlay.Window.activeFocusItem : null
     }
 
-    // Popups leave that to windows of one kind.
+    // Popups do this only for windows of one kind.
     function giveFocusBack() {
         const owner = focusOwner()
         const isFree = owner === null || owner === overlay.Window.contentItem

@@ -9,8 +9,8 @@ ModalDialog {
 
     readonly property KIVNotification notification: Notifications.currentDialog
 
-    // For so long after it has come up, in milliseconds, a dialog takes no answer: the tap or key may have been meant for what
-    // was there before.
+    // A dialog accepts no answer for this time after it has opened, in milliseconds: the tap or key may have been meant
+    // for what was there before.
     property int graceTime: 300
 
     function answer(isAccepted) {
@@ -29,11 +29,11 @@ ModalDialog {
     Component.onCompleted: notificationChanged()
 
     objectName: "notificationDialog"
-    // A page that is being made has no window yet.
+    // A page that is being created has no window yet.
     visible: notification !== null && overlay !== null
 
     contentItem: Column {
-        // Each has buttons of its own: a press that began on those of the one before ends with them.
+        // Each dialog has buttons of its own: a press that began on those of the previous one ends with them.
         Repeater {
             model: dialog.notification !== null ? [dialog.notification] : []
 
@@ -57,10 +57,11 @@ ModalDialog {
                 }
                 Keys.onUpPressed: scrolled.scroll(-1)
                 Keys.onDownPressed: scrolled.scroll(1)
-                // What is asked overwrites and deletes: a key pressed in passing must not say yes.
+                // Questions are about overwriting and deleting: a stray key must not say yes.
                 Component.onCompleted: (isRequest ? rejectButton : acceptButton).forceActiveFocus()
 
-                // No layout: its height would follow the width of wrapped texts within one change, which goes round in circles.
+                // Not a layout: its height would follow the width of wrapped texts within one change, in an endless
+                // circle.
                 Column {
                     id: column
                     width: parent.width

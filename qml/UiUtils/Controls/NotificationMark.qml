@@ -2,7 +2,7 @@ import QtQuick 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// What kind of notification it is, also for those who cannot tell the colours.
+// The kind of a notification, readable without colour too.
 Rectangle {
     id: mark
 

@@ -4,7 +4,7 @@ import QtQuick.Layouts 1.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// What the user was told, newest first, each with a button that takes it away.
+// The user's notifications, newest first, each with a button that removes it.
 FocusScope {
     id: tray
 
@@ -14,7 +14,7 @@ FocusScope {
     implicitHeight: column.implicitHeight
 
     function dismissCurrent() {
-        // The view follows its model late.
+        // The view follows its model with a delay.
         list.forceLayout()
         Notifications.remove(list.currentIndex)
     }
@@ -63,7 +63,7 @@ FocusScope {
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Notifications")
             Keys.onDeletePressed: tray.dismissCurrent()
-            // News come in at the top, in sight of whoever is there.
+            // New entries are added at the top, where a user at the top sees them.
             onCountChanged: {
                 if (atYBeginning)
                     Qt.callLater(positionViewAtBeginning)
@@ -125,7 +125,7 @@ FocusScope {
                         text: model.msg
                         textFormat: Text.PlainText
                         wrapMode: Text.Wrap
-                        // The rest would push all others out of sight.
+                        // A longer text would push all others out of view.
                         maximumLineCount: 6
                         elide: Text.ElideRight
                         color: ControlsStyle.text

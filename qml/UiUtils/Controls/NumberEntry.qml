@@ -2,11 +2,11 @@ import QtQuick 2.15
 import UiUtils 1.0
 import "formats.js" as Formats
 
-// A number, written as the user's locale writes it and handed on as a plain number.
+// A number, shown in the user's locale and written as a plain number.
 FieldEntry {
     id: entry
 
-    // Decimals that are shown and taken; -1 for any.
+    // Decimals that are shown and accepted; -1 for any.
     property int decimals: face.decimals
     property bool whole: Formats.isWholeType(type) || face.inputType === KivData.INPUT_INT
                          || face.inputType === KivData.INPUT_POSITIVE_INT
@@ -35,16 +35,16 @@ FieldEntry {
         const number = Number(plain)
         if (plain === "") {
             const point = Qt.locale().decimalPoint
-            return point !== "." && text.includes(".") ? qsTr("Decimals stand behind \"%1\"").arg(point) : qsTr("This is no number")
+            return point !== "." && text.includes(".") ? qsTr("Use \"%1\" as the decimal separator").arg(point) : qsTr("This is not a number")
         }
         if (whole && !Number.isInteger(number))
-            return qsTr("A whole number is needed")
+            return qsTr("A whole number is required")
         if (number < least || number > most)
             return outside()
         const fraction = /\.([0-9]*)/.exec(plain)
         const isTooFine = fraction && fraction[1].length > decimals || Number(number.toFixed(Math.max(decimals, 0))) !== number
         if (!whole && decimals >= 0 && isTooFine)
-            return decimals === 0 ? qsTr("A whole number is needed") : qsTr("Decimals: at most %1").arg(decimals)
+            return decimals === 0 ? qsTr("A whole number is required") : qsTr("Decimals: at most %1").arg(decimals)
         return ""
     }
 
@@ -53,7 +53,7 @@ FieldEntry {
                                                                 isFinite(most) ? most : undefined, textOf, unit)
     }
 
-    // The item's own words where they tell the limits as they are.
+    // The item's own words, if they give the limits unchanged.
     rangeText: {
         const isDescribed = face.inputType >= KivData.INPUT_INT && face.inputType <= KivData.INPUT_POSITIVE_FLOAT
                           && (whole || decimals >= 0 || face.hasFormatter) && face.minimum !== undefined && face.maximum !== undefined

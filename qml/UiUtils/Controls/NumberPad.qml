@@ -3,7 +3,7 @@ import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import UiUtils.Controls 1.0
 
-// Keys for fingers in gloves. The pad types into a text of its own; the field gets it with OK.
+// Keys for gloved fingers. The pad types into a text of its own; the field gets it with OK.
 Popup {
     id: pad
 
@@ -18,7 +18,7 @@ Popup {
 
     signal accepted
 
-    // The first key replaces what was there, as on a selection.
+    // The first key replaces the present text, like a selection.
     property bool isFresh: true
     property bool isTried: false
 
@@ -36,7 +36,7 @@ Popup {
         isTried = false
     }
 
-    function rubOut() {
+    function deleteLast() {
         text = isFresh ? "" : text.slice(0, -1)
         isFresh = false
         isTried = false
@@ -53,7 +53,7 @@ Popup {
             accepted()
     }
 
-    // The key in the given direction that can be pressed.
+    // The next enabled key in the given direction.
     function step(columns, rows) {
         const keys = grid.keys
         let at = keys.findIndex(key => key.activeFocus)
@@ -82,7 +82,7 @@ Popup {
         else if (event.text === "-" && hasSign)
             changeSign()
         else if (event.key === Qt.Key_Backspace || event.key === Qt.Key_Delete)
-            rubOut()
+            deleteLast()
         else
             event.accepted = false
     }
@@ -156,7 +156,7 @@ Popup {
             PadKey { id: key7; text: "7"; onClicked: pad.type(types) }
             PadKey { id: key8; text: "8"; onClicked: pad.type(types) }
             PadKey { id: key9; text: "9"; onClicked: pad.type(types) }
-            PadKey { id: backKey; text: "\u2190"; quiet: true; Accessible.name: qsTr("Rub out"); onClicked: pad.rubOut() }
+            PadKey { id: backKey; text: "\u2190"; quiet: true; Accessible.name: qsTr("Delete"); onClicked: pad.deleteLast() }
             PadKey { id: key4; text: "4"; onClicked: pad.type(types) }
             PadKey { id: key5; text: "5"; onClicked: pad.type(types) }
             PadKey { id: key6; text: "6"; onClicked: pad.type(types) }
@@ -166,7 +166,7 @@ Popup {
                 quiet: true
                 onClicked: {
                     pad.isFresh = true
-                    pad.rubOut()
+                    pad.deleteLast()
                 }
             }
             PadKey { id: key1; text: "1"; onClicked: pad.type(types) }

@@ -4,7 +4,7 @@ import UiUtils.Controls 1.0
 EntryButton {
     id: key
 
-    // What the key types; without it the key is a command.
+    // The text of the key; a key without one is a command.
     property string types: text
     property bool quiet: false
 

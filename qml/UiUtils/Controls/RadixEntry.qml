@@ -1,12 +1,12 @@
 import QtQuick 2.15
 import "formats.js" as Formats
 
-// A number in another radix. An item of a number's type gets the number, a text item the digits.
+// A number in another radix. An item of a numeric type gets the number, a text item the digits.
 FieldEntry {
     id: entry
 
     property int radix: 16
-    // What may stand in front, as programmers write it.
+    // The prefix that programmers write.
     property string prefix: "0x"
     property string problemText
 
@@ -40,6 +40,6 @@ FieldEntry {
     }
 
     rangeText: isNumber ? Formats.rangeText(minimum, maximum, textOf, unit) : lengthText
-    // Where the field is plain text for reading, too, the digits are what counts.
+    // When the field shows plain text for reading, the digits still count.
     plainText: shownText
 }

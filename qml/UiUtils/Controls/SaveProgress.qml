@@ -2,8 +2,9 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import UiUtils.Controls 1.0
 
-// How far a report is whose controller handles events while it saves (Report::setInteractive()). From the first moment on users reach nothing below,
-// for the page must not change under a save; a window needs one of these for each such controller.
+// The progress of a save whose controller handles events meanwhile (Report::setInteractive()). From the first moment it
+// blocks everything below, because the page must not change during a save. A window needs one of these for each such
+// controller.
 ModalDialog {
     id: dialog
 
@@ -16,7 +17,7 @@ ModalDialog {
     readonly property real progress: isSaving ? report.progress : 0
     property bool isCancelled: false
 
-    // What is not seen cannot be meant.
+    // An invisible button cannot be meant.
     function cancel() {
         if (!isInSight || isCancelled)
             return
@@ -24,13 +25,14 @@ ModalDialog {
         report.cancel()
     }
 
-    // The name that the controller makes up for an empty one has the time in it, which goes on.
+    // The controller's name in place of an empty one contains the time, which passes during the save.
     function savedName() {
         const item = report.getSetting("reportName")
         return item && item.value ? item.value : report.title
     }
 
-    // The click that started the save is not over, and the button would take the next one for its own, wherever that is.
+    // The click that started the save is not over, and the button would take the next one for its own, wherever that
+    // is.
     function takePointerFromPage() {
         const page = overlay.parent
         page.enabled = false
@@ -82,7 +84,7 @@ ModalDialog {
                 width: parent.width
                 text: dialog.isSaving ? dialog.savedName() : ""
                 textFormat: Text.PlainText
-                // The ends of a name tell it from its neighbours.
+                // Similar names differ at their ends.
                 elide: Text.ElideMiddle
                 color: ControlsStyle.text
                 font.pixelSize: ControlsStyle.bodyText
@@ -145,7 +147,7 @@ ModalDialog {
         running: dialog.visible && !dialog.isInSight
         onTriggered: dialog.isInSight = true
     }
-    // Timers stand still in a save that one of them has started.
+    // Timers do not fire in a save that a timer has started.
     Connections {
         readonly property double start: dialog.isSaving ? Date.now() : 0
 

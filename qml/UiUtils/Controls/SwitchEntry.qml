@@ -12,7 +12,7 @@ Entry {
     function take(isOn) {
         if (isOn !== entry.isOn && store(isOn) === "")
             committed(isOn)
-        // Where the service did not follow, the switch goes back.
+        // If the service did not follow, the switch moves back.
         control.checked = Qt.binding(() => entry.isOn)
     }
 

@@ -1,15 +1,16 @@
 .pragma library
 
-// How addresses, names and numbers are written. Each check returns what is wrong with a text, in words, or an empty text.
+// The notation of addresses, names and numbers. Each check returns what is wrong with a text, in words, or an empty
+// text.
 
 function ipv4Problem(text) {
     const parts = text.split(".")
     if (parts.length !== 4)
-        return qsTr("Four numbers with points between them, such as 192.0.2.1")
+        return qsTr("Four numbers separated by points, such as 192.0.2.1")
     if (!parts.every(part => /^[0-9]{1,3}$/.test(part) && Number(part) <= 255))
         return qsTr("Each part is a number from 0 to 255")
-    // Some programs would take them for octal.
-    return parts.some(part => /^0[0-9]/.test(part)) ? qsTr("No part begins with a 0") : ""
+    // Some programs would read them as octal.
+    return parts.some(part => /^0[0-9]/.test(part)) ? qsTr("No part can begin with 0") : ""
 }
 
 function groupsOf(text) {
@@ -17,11 +18,11 @@ function groupsOf(text) {
 }
 
 function ipv6Problem(text) {
-    const form = qsTr("Up to eight groups with colons between them, such as 2001:db8::1")
+    const form = qsTr("Up to eight groups separated by colons, such as 2001:db8::1")
     let address = text.replace(/%[A-Za-z0-9._-]+$/, "")
     const halves = address.split("::")
     if (halves.length > 2)
-        return qsTr("\"::\" stands only once")
+        return qsTr("\"::\" can appear only once")
     const groups = halves.reduce((all, half) => all.concat(groupsOf(half)), [])
     let count = groups.length
     const last = groups[count - 1] || ""
@@ -48,7 +49,7 @@ function macText(text) {
 
 function urlProblem(text) {
     if (/\s/.test(text))
-        return qsTr("A URL has no blanks")
+        return qsTr("A URL cannot contain blanks")
     return /^[A-Za-z][A-Za-z0-9+.-]*:\/\/([^\/?#@]*@)?(\[[0-9A-Fa-f:.]+\]|[^\/?#@:\[\]]+)(:[0-9]{1,5})?([\/?#].*)?$/.test(text)
             ? "" : qsTr("Scheme and host, such as https://host/path")
 }
@@ -58,19 +59,19 @@ function utf8Length(text) {
 }
 
 function fileNameProblem(text) {
-    // Those of a stick that other computers read as well.
+    // The rules of a USB drive that other computers can read.
     if (/[\/\\:*?"<>|\u0000-\u001f\u007f]/.test(text))
-        return qsTr("A file name has none of / \\ : * ? \" < > |")
+        return qsTr("A file name cannot contain / \\ : * ? \" < > |")
     if (/^\.+$/.test(text) || /^\s|[\s.]$/.test(text))
-        return qsTr("A file name begins with no blank and ends with no blank or point")
+        return qsTr("A file name cannot begin with a blank or end with a blank or point")
     return utf8Length(text) > 255 ? qsTr("This file name is too long") : ""
 }
 
-// What is wrong with the length of a text, where the expression is nothing but a length of one kind of characters.
+// What is wrong with the length of a text, if the expression is only a length of one kind of characters.
 function lengthProblem(expression, text) {
     const limits = /^\^?\[(?:\\.|[^\]\\])*\]\{\d+,(\d+)\}\$?$/.exec(expression)
     const length = Array.from(text).length
-    return limits !== null && length > Number(limits[1]) ? qsTr("This may have %1 characters, it has %2").arg(limits[1]).arg(length) : ""
+    return limits !== null && length > Number(limits[1]) ? qsTr("At most %1 characters; this text has %2").arg(limits[1]).arg(length) : ""
 }
 
 function phoneProblem(text) {
@@ -78,13 +79,13 @@ function phoneProblem(text) {
             ? "" : qsTr("Digits, + at the beginning, blanks and ( ) / - * #")
 }
 
-// `range` with the unit behind it, unless it says it already.
+// `range` followed by the unit, unless it contains the unit already.
 function withUnit(range, unit) {
     return range === "" || unit === "" || range.includes(unit) ? range : range + " " + unit
 }
 
-// A number as a program writes it, from one that a user wrote in the locale; empty when it is none. Group separators are not
-// taken: where they are points, "1.5" would become 15.
+// A number as a program writes it, from one in the user's locale; empty when it is not a number. Group separators are
+// rejected: if they are points, "1.5" would become 15.
 function plainNumber(text, locale) {
     let plain = ""
     for (const character of text.trim()) {
@@ -124,7 +125,7 @@ function isWholeType(type) {
     return ["int", "uint", "qint64", "quint64", "std::vector<int32_t>"].includes(type)
 }
 
-// The numbers that a type can hold, and that can be told apart.
+// The numbers that a type can hold exactly.
 function typeLimits(type) {
     switch (type) {
     case "int":
@@ -143,10 +144,10 @@ function typeLimits(type) {
 
 // The range in words, each limit written by `write`.
 function rangeText(minimum, maximum, write, unit) {
-    const behind = unit === "" ? "" : " " + unit
+    const ending = unit === "" ? "" : " " + unit
     if (minimum !== undefined && maximum !== undefined)
-        return "%1 - %2%3".arg(write(minimum)).arg(write(maximum)).arg(behind)
+        return "%1 - %2%3".arg(write(minimum)).arg(write(maximum)).arg(ending)
     if (minimum !== undefined)
-        return qsTr("At least %1").arg(write(minimum) + behind)
-    return maximum !== undefined ? qsTr("At most %1").arg(write(maximum) + behind) : ""
+        return qsTr("At least %1").arg(write(minimum) + ending)
+    return maximum !== undefined ? qsTr("At most %1").arg(write(maximum) + ending) : ""
 }

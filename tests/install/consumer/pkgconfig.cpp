@@ -10,7 +10,7 @@
 
 int main(int, char** argv)
 {
-    // Anything will do: the log says when a file is not tried out first.
+    // Any value will do: the log says when a file was not tried first.
     PDFFile().setFilename(QString::fromLocal8Bit(argv[0]));
     uiutils::registerTypes();
     const ReportTemplate report;

@@ -13,7 +13,7 @@ namespace uiutils {
 
 namespace {
 
-/// A link that leads nowhere is there, too.
+/// A link that leads nowhere exists too.
 bool isTaken(const QString& path)
 {
     const QFileInfo file(onDisk(path));

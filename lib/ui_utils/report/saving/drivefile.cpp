@@ -22,15 +22,15 @@ std::optional<QByteArray> readWholeFile(const QString& path, QString* error)
 {
     QFile file(onDisk(path));
     const QByteArray contents = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    // Of a file that memory cannot hold, nothing is read, and that is no error of the file's.
+    // A file that does not fit into memory is read as nothing, without an error.
     if (file.error() == QFileDevice::NoError && contents.size() == file.size())
         return contents;
     *error = ReportTexts::tr("Cannot read %1: %2").arg(path, file.errorString());
     return std::nullopt;
 }
 
-/// A stick that is pulled leaves its folder behind, in which the unit would keep what was to go along: before the write
-/// it must be there, and afterwards it must be there still.
+/// A USB drive that is removed leaves its folder, and the file would end up on the unit. The drive must therefore be
+/// there before the write and after it.
 NewFile writeToDrive(const QString& path, const QByteArray& contents, bool mayReplace, QString* error)
 {
     const bool wasThere = instrument::isDriveThere(path);

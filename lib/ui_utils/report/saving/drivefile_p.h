@@ -7,15 +7,16 @@
 
 #include <optional>
 
-/// Whole files of drives that may be pulled at any time. Paths are the instrument's, reasons are in words.
+/// Complete files on drives that may be removed at any time. Paths are the instrument's, reasons are for the user.
 namespace uiutils {
 
-/// What the file holds. Nothing, with the reason in `error`, when not all of it can be read or memory cannot hold it.
+/// The contents of the file. Nothing, with the reason in `error`, if it cannot be read completely or does not fit into
+/// memory.
 std::optional<QByteArray> readWholeFile(const QString& path, QString* error);
 
 /// Writes the file as writeFileDurably() does or, unless `mayReplace`, as writeNewFileDurably(). `Failed`, with the
-/// reason in `error`, also when its drive is not there, or no more: nothing is written then into the folder that a
-/// stick leaves behind, or nobody is told that it was.
+/// reason in `error`, also if its drive is not there, or is removed meanwhile: what was written into the folder that
+/// remains of a USB drive does not count as saved.
 NewFile writeToDrive(const QString& path, const QByteArray& contents, bool mayReplace, QString* error);
 
 } // namespace uiutils

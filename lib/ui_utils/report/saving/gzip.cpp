@@ -12,7 +12,7 @@ namespace uiutils {
 
 namespace {
 
-/// Lets std::system() learn how its child ended. A host that ignores SIGCHLD lets the kernel forget children at once.
+/// Lets std::system() learn how its child ended. If the host ignores SIGCHLD, the kernel forgets children at once.
 class ChildrenReport
 {
 public:
@@ -37,10 +37,10 @@ private:
     bool m_changed = false;
 };
 
-/// The path as one word of the shell's, within double quotes.
+/// The path as one word of the shell, in double quotes.
 QByteArray quoted(const QString& path)
 {
-    // What begins like an option would be one in spite of the quotes.
+    // A path that begins like an option would be one in spite of the quotes.
     QByteArray word("\"");
     if (path.startsWith(QLatin1Char('-')))
         word += "./";
@@ -55,7 +55,7 @@ QByteArray quoted(const QString& path)
 
 bool run(const char* command, const QString& place)
 {
-    // The shell would see the word up to there, without its second quote.
+    // The shell would see the word only up to the NUL, without the closing quote.
     if (place.contains(QChar(QChar::Null)))
         return false;
     const ChildrenReport children;

@@ -28,12 +28,12 @@ namespace uiutils {
 namespace {
 
 const char lineFeed = '\n';
-/// Milliseconds for others to finish, who hold the list for as long as the disk takes to write it. The screens wait.
+/// Milliseconds to wait for others, who hold the list for as long as the disk takes to write it. The screens wait, too.
 constexpr int lockPatience = 500;
-/// How often the base manager is told anew because somebody has changed the list meanwhile.
-constexpr int mostTellings = 10;
+/// How often the base manager is notified again because somebody has changed the list meanwhile.
+constexpr int maximumNotices = 10;
 
-/// The paths as they are on the disk: of some, no text could be made and turned back.
+/// The paths as they are on the disk: some would not survive being turned into text and back.
 using Lines = QByteArrayList;
 using Change = std::function<Lines(Lines)>;
 
@@ -50,11 +50,11 @@ std::nullopt_t unreadable(const QString& reason, QString* error)
     return std::nullopt;
 }
 
-/// A list that nobody has made yet is empty; one that is there and cannot be read is not.
+/// A list that nobody has made yet is empty; one that exists and cannot be read is not.
 std::optional<Lines> read(QString* error)
 {
     const QByteArray place = QFile::encodeName(onDisk(paths::noSyncList));
-    // A pipe would be waited for.
+    // Opening a pipe would wait for its other end.
     const int fd = ::open(place.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0)
         return errno == ENOENT ? std::optional<Lines>(Lines()) : unreadable(qt_error_string(errno), error);
@@ -104,21 +104,21 @@ Lines withoutDuplicates(const Lines& lines)
     return once;
 }
 
-/// Whoever has made the list what it is may have been killed before the base manager heard of it.
-bool isTold(const Lines& lines)
+/// The process that wrote the list may have been killed before it notified the base manager.
+bool isKnown(const Lines& lines)
 {
     const KIVClientItem* item = instrument::baseManagerItem(itemids::noSyncList);
     return !item || item->getValue().toStringList() == textsOf(lines);
 }
 
-/// After the lock is given back, for those who hear of it may change the list in their turn. The last who tells has
-/// told what stands there, whichever order the tellers come in.
-void tellBaseManager()
+/// Called after the lock is released, because those who are notified may change the list themselves. Whatever the order
+/// of the processes, the last one to notify sends what the list contains.
+void notifyBaseManager()
 {
     KIVClientInterface* client = KIVClientInterface::getBaseMgrClient();
     QString error;
     std::optional<Lines> lines = client ? read(&error) : std::nullopt;
-    for (int i = 0; lines && i < mostTellings; ++i) {
+    for (int i = 0; lines && i < maximumNotices; ++i) {
         client->setItem(itemids::noSyncList, textsOf(*lines));
         std::optional<Lines> now = read(&error);
         if (now == lines)
@@ -127,7 +127,7 @@ void tellBaseManager()
     }
 }
 
-/// Whether a change builds on what stands in the list.
+/// Whether a change depends on what the list contains.
 enum class Former { Needed, Dispensable };
 
 bool edit(const Change& change, Former need, QString* error)
@@ -146,17 +146,17 @@ bool edit(const Change& change, Former need, QString* error)
         if (!former)
             qWarning("%s; it is replaced", qUtf8Printable(*error));
         const Lines now = change(former.value_or(Lines()));
-        if (now == former && isTold(now))
+        if (now == former && isKnown(now))
             return true;
         if (now != former && !write(now, error))
             return false;
     }
-    tellBaseManager();
+    notifyBaseManager();
     return true;
 }
 
-/// Whether the record's line stands for more than the report that leaves the list: for a JSON report of that name, or
-/// for reports of other formats that are still listed.
+/// Whether the line of the record is needed by more than the report that is being removed: by a JSON report of that
+/// name, or by reports in other formats that are still listed.
 bool isNeeded(const QString& record, const QString& report, const Lines& lines)
 {
     if (record == report)
@@ -168,13 +168,13 @@ bool isNeeded(const QString& record, const QString& report, const Lines& lines)
     return QFile::exists(onDisk(record)) || std::any_of(lines.cbegin(), lines.cend(), hasRecord);
 }
 
-/// The file of the same report that is compressed, or the other way round.
+/// The compressed file of the same report, or for a compressed one the file without compression.
 QString otherFormOf(const QString& path)
 {
     return path.endsWith(gzipSuffix) ? path.chopped(gzipSuffix.size()) : path + gzipSuffix;
 }
 
-/// A JSON report that is there and not listed was saved to be synced, whatever is saved beside it.
+/// A JSON report that exists and is not listed was saved to be synced, whatever is saved beside it.
 bool isSyncedReport(const QString& record, const Lines& lines)
 {
     return QFile::exists(onDisk(record)) && !lines.contains(record.toUtf8());
@@ -210,14 +210,14 @@ Lines withoutReports(Lines lines, const QStringList& reports)
     return lines;
 }
 
-/// A line feed would make two paths of one for whoever reads the list.
+/// A line feed would split a path in two.
 bool areLines(const QStringList& paths, QString* error)
 {
     const auto torn = std::find_if(
             paths.cbegin(), paths.cend(), [](const QString& path) { return path.contains(QLatin1Char(lineFeed)); });
     if (torn == paths.cend())
         return true;
-    *error = ReportTexts::tr("%1 holds a line feed")
+    *error = ReportTexts::tr("%1 contains a line feed")
                      .arg(QString(*torn).replace(QLatin1Char(lineFeed), QChar(QChar::ReplacementCharacter)));
     return false;
 }

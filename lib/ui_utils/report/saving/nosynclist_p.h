@@ -3,23 +3,24 @@
 #include <QString>
 #include <QStringList>
 
-/// The reports that the cloud leaves alone: instrument paths of the files, each with that of the record kept of it,
-/// which has "json" in place of the last suffix. One path a line; several processes may edit the list.
+/// The reports that the cloud does not sync: instrument paths of the files, each with the path of its record, which has
+/// "json" in place of the last suffix. One path per line; several processes may edit the list.
 ///
-/// Changes are durable, and the base manager hears of them. Each returns false, with the reason in `error`, when the
-/// list has not been changed: it cannot be read, locked or written, or a path holds a line feed. A list that cannot be
-/// read, or has more than largestNoSyncList bytes, is not taken for an empty one. Others are waited for half a second.
+/// Changes are durable, and the base manager is notified of them. Each function returns false, with the reason in
+/// `error`, if the list was not changed: it cannot be read, locked or written, or a path contains a line feed. A list
+/// that cannot be read, or has more than largestNoSyncList bytes, does not count as empty. The maximum wait for other
+/// processes is half a second.
 namespace uiutils {
 
-/// Bytes; nothing makes it larger.
-constexpr qint64 largestNoSyncList = 1024 * 1024;
+/// In bytes; no function here makes the list larger.
+constexpr qint64 largestNoSyncList = qint64(1024) * 1024;
 
-/// In one edit. Where a record's path is that of a JSON report which is there and is synced, it is left out.
+/// In one edit. Leaves out the path of a record if it is also that of an existing JSON report that is synced.
 bool addToNoSyncList(const QStringList& paths, QString* error);
-/// In one edit. The record's path stays as long as it stands for another report, too: one of JSON, or of a further
-/// format. A report that was compressed, or is not any more, takes the path of its former file along.
+/// In one edit. The path of the record stays as long as it also stands for another report: a JSON report, or one in a
+/// further format. If a report was compressed meanwhile, or uncompressed, the path of its former file is removed too.
 bool removeFromNoSyncList(const QStringList& paths, QString* error);
-/// In place of all that stood there, also where that cannot be used, with a line in the log; each path once.
+/// Replaces the complete list, each path once. A list that cannot be used is replaced too, with a line in the log.
 bool replaceNoSyncList(const QStringList& paths, QString* error);
 
 } // namespace uiutils

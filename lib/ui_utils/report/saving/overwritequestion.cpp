@@ -33,7 +33,7 @@ void OverwriteQuestion::withdraw()
         return;
     m_token.clear();
     m_pendingPath.clear();
-    // Those who hear that the dialog has gone may delete whoever asked.
+    // A slot that is notified that the dialog has closed may delete the object that asked.
     const auto former = std::exchange(m_question, std::make_unique<FileUtils>());
 }
 

@@ -8,8 +8,8 @@
 
 namespace uiutils {
 
-/// The question whether a report may take another's place. There is at most one: asking again takes the one before
-/// back, and an answer counts once.
+/// The question whether a report may replace another one. At most one is open: asking again withdraws the one before,
+/// and an answer counts once.
 class OverwriteQuestion
 {
 public:
@@ -17,12 +17,12 @@ public:
     ~OverwriteQuestion() = default;
     Q_DISABLE_COPY_MOVE(OverwriteQuestion)
 
-    /// Asks for the report at `path`, which is pending until the answer.
+    /// Asks about the report at `path`, which is pending until the answer.
     void ask(const QString& path);
-    /// The pending report when the notification is the question about it, which is answered by that; empty otherwise.
+    /// The pending report if the notification is the question about it, which then counts as answered; otherwise empty.
     QString takeAnswered(const KIVNotification* notification);
     bool isAsking() const { return !m_token.isEmpty(); }
-    /// Takes the question back, if one is open: its answer would be taken for one about what is saved now.
+    /// Withdraws the question, if one is open: its answer would be taken for one about what is saved now.
     void withdraw();
 
 private:

@@ -24,8 +24,8 @@ QString cannotCompress(const QString& path, const QString& reason)
     return ReportTexts::tr("Cannot compress %1: %2").arg(path, reason);
 }
 
-/// Whether these are gzip's bytes for so many: its mark in front, the number at the end. A disk that ran full may have
-/// cut them short without gzip's knowing.
+/// Whether the bytes are a complete gzip file of `size` bytes: its mark is in front, the size at the end. A full disk
+/// may have cut the file short without gzip noticing.
 bool isWholeGzip(const QByteArray& bytes, int size)
 {
     constexpr int headAndTail = 18;
@@ -41,12 +41,12 @@ bool writePlainly(const QString& place, const QByteArray& contents, QString* rea
     return isWritten;
 }
 
-/// The gzip form of a report. Empty, with the reason in `error`, when there is none.
+/// The gzip form of a report. Empty, with the reason in `error`, if there is none.
 QByteArray compressedForm(const QString& path, const QByteArray& contents, QString* error)
 {
     const QFileInfo target(onDisk(path));
-    // A folder of its own lets gzip note the report's name in the file, which unpackers show, and takes along on its
-    // end whatever gzip has left. It is beside the report because that drive is the one whose room was looked at.
+    // In a folder of its own gzip can store the report's name in the file, which unpackers show, and whatever gzip
+    // leaves is removed with the folder. It is beside the report, because that is the drive whose space was checked.
     removeStaleTemporaries(target.path());
     const TemporaryFolder folder(target.path());
     if (folder.path().isEmpty()) {
@@ -85,7 +85,7 @@ WrittenFile writeAsItIs(const QString& path, const QByteArray& contents, bool ma
 
 WrittenFile writeReportFile(const QString& path, const QByteArray& contents, bool compressed, bool mayReplace)
 {
-    // What no path may hold is refused there, in words that can be shown.
+    // writeAsItIs() rejects what no path may contain, with a reason that can be shown.
     if (!compressed || path.contains(QChar(QChar::Null)) || !instrument::isDriveThere(path))
         return writeAsItIs(path, contents, mayReplace);
     QString error;

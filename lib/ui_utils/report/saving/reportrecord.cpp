@@ -12,7 +12,7 @@ namespace uiutils {
 
 namespace {
 
-/// "2026-03-05T14:05:09+01:00". Where the offset is none, Qt would write a letter for it.
+/// "2026-03-05T14:05:09+01:00". For an offset of zero Qt would write a letter.
 QString timeStamp(const QDateTime& time)
 {
     QString stamp = time.toOffsetFromUtc(time.offsetFromUtc()).toString(Qt::ISODate);

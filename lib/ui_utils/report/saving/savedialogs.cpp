@@ -12,7 +12,7 @@ namespace uiutils {
 void SaveDialogs::beginSave()
 {
     m_isFirstError = true;
-    m_isSyncErrorTold = false;
+    m_isSyncErrorShown = false;
 }
 
 void SaveDialogs::endSave()
@@ -20,43 +20,43 @@ void SaveDialogs::endSave()
     m_isFirstError.reset();
 }
 
-void SaveDialogs::tellWriteError(const QString& path, const QString& reason)
+void SaveDialogs::notifyWriteError(const QString& path, const QString& reason)
 {
     qDebug("The report %s was not written: %s", qUtf8Printable(path), qUtf8Printable(reason));
-    const bool isToldAlready = m_isFirstError && !*m_isFirstError;
+    const bool isShownAlready = m_isFirstError && !*m_isFirstError;
     if (m_isFirstError)
         m_isFirstError = false;
-    if (!isToldAlready)
+    if (!isShownAlready)
         m_errors->sendNotificationWriteError(path);
 }
 
-void SaveDialogs::tell(const QString& title, const QString& text)
+void SaveDialogs::notify(const QString& title, const QString& text)
 {
-    auto refusal = std::make_unique<KIVNotification>();
-    refusal->setLongLabel(title);
-    refusal->setMsg(text);
-    refusal->setError();
-    // Those who hear that the former dialog has gone may delete whoever tells.
-    const QPointer<KIVNotification> told(refusal.get());
-    std::exchange(m_refusal, std::move(refusal)).reset();
-    if (told)
-        told->notifyDialog();
-    // The page may go now that the report is saved, and the dialog with it.
-    if (told)
-        told->notifyTray();
+    auto error = std::make_unique<KIVNotification>();
+    error->setLongLabel(title);
+    error->setMsg(text);
+    error->setError();
+    // A slot that is notified that the former dialog has closed may delete this object.
+    const QPointer<KIVNotification> alive(error.get());
+    std::exchange(m_error, std::move(error)).reset();
+    if (alive)
+        alive->notifyDialog();
+    // By now a slot may have deleted the page, and the dialog with it.
+    if (alive)
+        alive->notifyTray();
 }
 
-void SaveDialogs::tellSyncError(const QString& consequence, const QString& reason)
+void SaveDialogs::notifySyncError(const QString& consequence, const QString& reason)
 {
     qWarning("%s", qUtf8Printable(reason));
     const bool isSave = m_isFirstError.has_value();
-    if (!isSave || !std::exchange(m_isSyncErrorTold, true))
-        tell(ReportTexts::tr("Sync"), consequence + QLatin1Char(' ') + reason);
+    if (!isSave || !std::exchange(m_isSyncErrorShown, true))
+        notify(ReportTexts::tr("Sync"), consequence + QLatin1Char(' ') + reason);
 }
 
 void SaveDialogs::close()
 {
-    m_refusal.reset();
+    m_error.reset();
     m_errors = std::make_unique<FileUtils>();
 }
 

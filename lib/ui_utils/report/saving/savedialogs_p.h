@@ -11,30 +11,31 @@
 
 namespace uiutils {
 
-/// What the user is told on behalf of one controller. Questions have a sender of their own, because raising an error
-/// would take a pending one back.
+/// Notifies the user of errors on behalf of one controller. Questions have a sender of their own, because raising an
+/// error would withdraw a pending one.
 class SaveDialogs
 {
 public:
-    /// From here to endSave(), one error of each kind is told however many files it hits.
+    /// Between here and endSave(), the user is notified of one error of each kind, however many files have it.
     void beginSave();
     void endSave();
 
-    /// The report at `path` could not be written: the user is told where, the log why.
-    void tellWriteError(const QString& path, const QString& reason);
-    /// Something went wrong, in a dialog and in the tray.
-    void tell(const QString& title, const QString& text);
-    /// What became of the list of reports that are not synced, and why. The log has the reason in any case.
-    void tellSyncError(const QString& consequence, const QString& reason);
+    /// The report at `path` could not be written: the user reads where, the log has the reason.
+    void notifyWriteError(const QString& path, const QString& reason);
+    /// Notifies the user of an error, in a dialog and in the tray.
+    void notify(const QString& title, const QString& text);
+    /// Notifies the user that the list of reports that are not synced could not be changed: what follows from that, and
+    /// why. The log has the reason in any case.
+    void notifySyncError(const QString& consequence, const QString& reason);
 
-    /// All of it closes, while those who hear of that find everything whole.
+    /// Closes all dialogs while everything is still valid for those who are notified of that.
     void close();
 
 private:
     std::unique_ptr<FileUtils> m_errors = std::make_unique<FileUtils>();
-    std::unique_ptr<KIVNotification> m_refusal;
+    std::unique_ptr<KIVNotification> m_error;
     std::optional<bool> m_isFirstError;
-    bool m_isSyncErrorTold = false;
+    bool m_isSyncErrorShown = false;
 };
 
 } // namespace uiutils

@@ -29,7 +29,7 @@ QString savedMessage(const QString& path)
 
 void postSavedNotice(const QString& path)
 {
-    // The tray keeps copies.
+    // The tray copies it.
     KIVNotification notification;
     notification.setLongLabel(ReportTexts::tr("Report Saved"));
     notification.setMsg(savedMessage(path));

@@ -4,11 +4,11 @@
 
 namespace uiutils {
 
-/// What the user is told of a report that was saved at the instrument path: its name without suffixes, and the folder,
-/// below the instrument's public one without that in front, "USB" anywhere on a stick.
+/// The notice that a report was saved at the instrument path: its name without suffixes, and its folder, which is
+/// relative to the unit's public folder, and "USB" anywhere on a USB drive.
 QString savedMessage(const QString& path);
 
-/// Puts it into the tray.
+/// Puts the notice into the tray.
 void postSavedNotice(const QString& path);
 
 } // namespace uiutils

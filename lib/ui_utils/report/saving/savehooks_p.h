@@ -7,10 +7,10 @@
 
 namespace uiutils {
 
-/// What saving asks and tells the controller that it is done for.
+/// The controller as saving sees it: what a save asks it, and what it notifies it of.
 ///
-/// Nearly each call reaches virtuals and slots of others, which may delete the controller. From then on nothing reaches
-/// anybody, and every answer is empty or false: a save need only ask isAlive() where that makes a difference to it.
+/// Nearly every call reaches virtuals and slots of others, which may delete the controller. From then on calls do
+/// nothing, and every answer is empty or false: a save checks isAlive() only where that makes a difference.
 class SaveHooks
 {
 public:
@@ -42,17 +42,17 @@ public:
     virtual void succeeded(const QString& path, const QString& name) = 0;
     virtual void failed(const QString& name) = 0;
 
-    // --- What pages hear ---
+    // --- What pages are notified of ---
     virtual void savingChanged() = 0;
     virtual void progressChanged() = 0;
-    /// The report at `path` lies in the file `saved` now.
+    /// The report at `path` is now in the file `saved`.
     virtual void fileWritten(const QString& path, const QString& saved) = 0;
     virtual void filesChanged() = 0;
     virtual void filesSaved(const QStringList& files, bool isSynced) = 0;
     virtual void overwriteAccepted() = 0;
-    /// Has answers to questions come in, from now on.
+    /// Has answers to questions delivered, from now on.
     virtual void listenForAnswers() = 0;
-    /// Whether the page lives on while a report is saved.
+    /// Whether the page handles events while a report is saved.
     virtual bool isInteractive() const = 0;
 };
 

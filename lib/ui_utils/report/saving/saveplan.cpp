@@ -19,18 +19,18 @@ QString noFormat(const FormatChoice& choice)
 
 } // namespace
 
-QStringList SavePlan::paths(bool isStickThere) const
+QStringList SavePlan::paths(bool isUsbThere) const
 {
     QStringList paths;
     for (const PlannedFile& file : files) {
         paths += file.path;
-        if (isStickThere && !file.copy.isEmpty())
+        if (isUsbThere && !file.copy.isEmpty())
             paths += file.copy;
     }
     return paths;
 }
 
-PlannedFile plannedFile(const QString& path, const ReportFormat* format, bool copiesToUsb)
+PlannedFile plannedFile(const QString& path, const FormatInfo* format, bool copiesToUsb)
 {
     const QString copy = instrument::usbPath(path);
     const bool isCopied = copiesToUsb && QDir::cleanPath(path) != copy;
@@ -38,10 +38,10 @@ PlannedFile plannedFile(const QString& path, const ReportFormat* format, bool co
 }
 
 QVector<PlannedFile> plannedFiles(
-        const QString& name, const ReportFormats& formats, bool copiesToUsb, const PathOf& pathOf)
+        const QString& name, const FormatInfos& formats, bool copiesToUsb, const PathOf& pathOf)
 {
     QVector<PlannedFile> files;
-    for (const ReportFormat* format : formats)
+    for (const FormatInfo* format : formats)
         files += plannedFile(pathOf(name, format->suffix), format, copiesToUsb);
     return files;
 }
@@ -50,8 +50,8 @@ QString planProblem(const QString& name, const FormatChoice& choice, bool compre
 {
     if (choice.formats.isEmpty())
         return noFormat(choice);
-    for (const ReportFormat* format : choice.formats) {
-        const QString problem = nameProblem(name, format->suffix, compressed);
+    for (const FormatInfo* format : choice.formats) {
+        QString problem = nameProblem(name, format->suffix, compressed);
         if (!problem.isEmpty())
             return problem;
     }

@@ -14,15 +14,14 @@ namespace uiutils {
 /// A report that a save writes.
 struct PlannedFile
 {
-    const ReportFormat* format;
-    /// As the writer gets it: with the format's suffix, without ".gz".
+    const FormatInfo* format;
+    /// As the writer is given it: with the format's suffix, without ".gz".
     QString path;
-    /// Where it goes on the stick as well; empty for nowhere.
+    /// The path of its copy on the USB drive; empty if there is none.
     QString copy;
 };
 
-/// What a save writes, and where: worked out once, so that nothing that hooks, slots and sticks do meanwhile takes it
-/// elsewhere.
+/// What a save writes, and where: worked out once, so that no hook, no slot and no USB drive redirects it meanwhile.
 struct SavePlan
 {
     QString name;
@@ -30,21 +29,21 @@ struct SavePlan
     bool isSynced = false;
     QVector<PlannedFile> files;
 
-    /// Everything that may take another's place: each file, and behind it its copy, unless the stick is not there yet.
-    QStringList paths(bool isStickThere) const;
+    /// Every path that is written: each file, followed by its copy if the USB drive is there.
+    QStringList paths(bool isUsbThere) const;
 };
 
-/// Where a report of that name goes, with the suffix.
+/// The path of a report of that name, with the suffix.
 using PathOf = std::function<QString(const QString& name, const QString& suffix)>;
 
-/// One that goes to `path`. What lies on the stick anyway is its own copy.
-PlannedFile plannedFile(const QString& path, const ReportFormat* format, bool copiesToUsb);
+/// A report at `path`. One that is saved on the USB drive is not copied there.
+PlannedFile plannedFile(const QString& path, const FormatInfo* format, bool copiesToUsb);
 
-/// The files that a report of that name has in these formats.
+/// The files of a report of that name in these formats.
 QVector<PlannedFile> plannedFiles(
-        const QString& name, const ReportFormats& formats, bool copiesToUsb, const PathOf& pathOf);
+        const QString& name, const FormatInfos& formats, bool copiesToUsb, const PathOf& pathOf);
 
-/// Why nothing can be saved under the name in the chosen formats, in words for the user; empty when it can.
+/// Why nothing can be saved under the name in the chosen formats, for the user; empty if it can.
 QString planProblem(const QString& name, const FormatChoice& choice, bool compressed);
 
 } // namespace uiutils

@@ -4,7 +4,7 @@ namespace uiutils {
 
 namespace {
 
-/// Bars have fewer steps than this.
+/// Progress bars have fewer steps.
 constexpr double smallestStep = 0.001;
 /// Milliseconds after which a page that does nothing looks frozen.
 constexpr qint64 pagePatience = 50;
@@ -34,7 +34,7 @@ void SaveProgress::end()
     m_sinceLastTurn.invalidate();
 }
 
-/// Never back: a renderer says 0 of its pages as long as it does not know their number.
+/// Never goes back: a renderer reports 0 as long as it does not know how many pages there are.
 bool SaveProgress::take(double value)
 {
     if (value < m_value + smallestStep && (value < 1 || m_value >= 1))

@@ -5,27 +5,27 @@
 
 namespace uiutils {
 
-/// How far a save is that writes one or several formats, each taken for an equal share.
+/// The progress of a save that writes one or several formats, each of them an equal share.
 class SaveProgress
 {
 public:
-    /// From nothing, and not cancelled.
+    /// Starts at 0, not cancelled.
     void begin(int formats);
-    /// The share of the format that is being written, 0 to 1. True when that is worth telling.
+    /// Sets how much of the present format is written, 0 to 1. Returns whether the change is large enough to be shown.
     bool advance(double share);
-    /// The format is done with. True when that is worth telling.
+    /// The present format is done. Returns whether the change is large enough to be shown.
     bool finishFormat();
-    /// How far it came, and whether it was cancelled, is still known.
+    /// value() and isCancelled() keep their last state.
     void end();
 
     bool isRunning() const { return m_sinceLastTurn.isValid(); }
     double value() const { return m_value; }
 
-    /// Without effect when nothing is running.
+    /// Does nothing unless a save is running.
     void cancel() { m_isCancelled = m_isCancelled || isRunning(); }
     bool isCancelled() const { return m_isCancelled; }
 
-    /// Whether the page should get a turn: it has had none for as long as users notice.
+    /// Whether the page should handle events now: it has not for so long that users would notice.
     bool isPageDue();
 
 private:

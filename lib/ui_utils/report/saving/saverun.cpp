@@ -40,7 +40,7 @@ bool SaveRun::run()
     m_saving->beginSave();
     m_saving->isBusy = true;
     const bool isReady = getReady();
-    // The user may answer at once, and have another save begin within this one.
+    // The user may answer at once, and the answer may start another save within this one.
     m_saving->isBusy = false;
     if (!isReady)
         return fail();
@@ -66,7 +66,7 @@ bool SaveRun::getReady()
     return hasRoom() && hooks().isAlive();
 }
 
-/// What cannot be a file's name, and what is no format, are refused before a folder is made.
+/// A name that cannot be a file name, and a format that does not exist, are rejected before a folder is made.
 bool SaveRun::takeName()
 {
     m_plan.name = hooks().chosenName();
@@ -76,7 +76,7 @@ bool SaveRun::takeName()
     if (!hooks().isAlive())
         return false;
     if (!problem.isEmpty()) {
-        m_saving->dialogs.tell(ReportTexts::tr("Write Error"), problem);
+        m_saving->dialogs.notify(ReportTexts::tr("Write Error"), problem);
         return false;
     }
     hooks().started(m_plan.name);
@@ -90,7 +90,7 @@ void SaveRun::keepName()
         client->invokeAction(itemids::updateNameConfigs);
 }
 
-/// What the user has agreed to replace lies where the question found it, and nowhere else.
+/// What the user has agreed to replace is where it was when the user was asked, and nowhere else.
 void SaveRun::takeDestinations()
 {
     m_saving->consent.begin(m_overwrite);
@@ -111,7 +111,7 @@ bool SaveRun::mayWrite()
     m_plan.files = plannedFiles(m_plan.name, m_choice.formats, m_saving->destinations().copiesToUsb(), pathOf);
     const QStringList paths = m_plan.paths(instrument::isDriveThere(paths::usb));
     m_saving->consent.lookAt(paths);
-    // The name, the format or the stick may be another than when the user said yes.
+    // The name, the format or the USB drive may have changed since the user said yes.
     return hooks().isAlive() && m_saving->mayWrite(m_saving->consent.unasked(paths), false);
 }
 
@@ -126,8 +126,8 @@ bool SaveRun::write()
     if (hasOldProgress)
         hooks().progressChanged();
     bool isComplete = writeFiles();
-    // What a user keeps from the cloud stays from it also when another format could not be written.
-    recordSync();
+    // What a user does not want synced is not synced, even if another format could not be written.
+    updateSyncList();
     isComplete = isComplete && copyToUsb();
     progress.end();
     hooks().savingChanged();
@@ -137,18 +137,18 @@ bool SaveRun::write()
 bool SaveRun::writeFiles()
 {
     hooks().prepareDocument();
-    // It may have been cancelled meanwhile.
+    // A hook may have cancelled the save.
     if (!m_saving->tellProgress(false))
         return false;
     bool isComplete = true;
     for (int i = 0; i < m_plan.files.size(); ++i) {
         const bool isWritten = writeFile(m_plan.files.at(i));
         isComplete = isComplete && isWritten;
-        // An answer that comes while this save runs would be refused; and what was given up is not done.
+        // An answer that comes while this save runs would be rejected; and a format that was cancelled is not done.
         if (!isWritten && (m_saving->question.isAsking() || m_saving->progress.isCancelled()))
             return false;
         const bool goesOn = m_saving->tellProgress(m_saving->progress.finishFormat());
-        // Of what is written nothing can be cancelled any more.
+        // After the last file nothing is left to cancel.
         if (!hooks().isAlive() || (!goesOn && i + 1 < m_plan.files.size()))
             return false;
     }
@@ -160,7 +160,7 @@ bool SaveRun::writeFile(const PlannedFile& file)
     const bool isCompressed = hooks().isCompressed();
     if (!hooks().write(file.format->value, file.path, m_saving->consent.allows(file.path)))
         return false;
-    // A derived controller may have written the file by its own means.
+    // A derived controller may have written the file itself.
     const QString plain = isCompressed ? file.path + gzipSuffix : file.path;
     m_saved += file;
     m_written += m_saving->written.value(file.path, plain);
@@ -168,20 +168,20 @@ bool SaveRun::writeFile(const PlannedFile& file)
     return true;
 }
 
-/// The reports outlive a controller that went while they were written, and so does what the user has chosen.
-void SaveRun::recordSync()
+/// If the controller was deleted meanwhile, its reports remain, and so does what the user has chosen for them.
+void SaveRun::updateSyncList()
 {
     hooks().filesSaved(m_written, m_plan.isSynced);
-    // A report that could not be compressed lies there as well.
+    // A report that could not be compressed was saved, too.
     const QStringList files = m_plan.isSynced ? m_written : m_written + m_saving->strays;
     if (!files.isEmpty())
-        m_saving->recordSync(files, m_plan.isSynced);
+        m_saving->updateSyncList(files, m_plan.isSynced);
 }
 
 // --- The copies ---
 
-/// A stick that was not there when the save began, or another one than then, may hold reports that nobody has asked
-/// about.
+/// A USB drive that was not there when the save began, or another one than then, may contain reports that the user was
+/// not asked about.
 bool SaveRun::mayCopy()
 {
     QStringList copies;
@@ -213,7 +213,7 @@ bool SaveRun::copyToUsb(const PlannedFile& file, const QString& written)
     const bool overwrite = m_saving->consent.allows(file.copy);
     if (!m_saving->copyToUsb(written, overwrite))
         return false;
-    // The user has let go of a report of the name before it came to this, whatever its form.
+    // The user has released a report of the name, compressed or not.
     if (overwrite && written != file.path)
         QFile::remove(onDisk(file.copy));
     return true;
@@ -224,14 +224,14 @@ bool SaveRun::copyToUsb(const PlannedFile& file, const QString& written)
 bool SaveRun::announce()
 {
     const QString path = m_written.constFirst();
-    // Files of all formats have the name in common.
-    hooks().succeeded(path, m_plan.isAll ? safeFileName(m_plan.name) : path.section(QLatin1Char('/'), -1));
+    // The files of all formats share the name.
+    hooks().succeeded(path, m_plan.isAll ? safePathPart(m_plan.name) : path.section(QLatin1Char('/'), -1));
     return true;
 }
 
 bool SaveRun::fail()
 {
-    // A save that asks has not failed yet.
+    // A save that is asking has not failed yet.
     if (!m_saving->question.isAsking())
         hooks().failed(m_plan.name);
     return false;

@@ -31,7 +31,7 @@ private:
     bool write();
     bool writeFiles();
     bool writeFile(const PlannedFile& file);
-    void recordSync();
+    void updateSyncList();
     bool mayCopy();
     bool copyToUsb();
     bool copyToUsb(const PlannedFile& file, const QString& written);
@@ -44,7 +44,7 @@ private:
     bool m_overwrite;
     FormatChoice m_choice;
     SavePlan m_plan;
-    /// The planned files that are written, and where they lie.
+    /// The planned files that have been written, and their paths on the disk.
     QVector<PlannedFile> m_saved;
     QStringList m_written;
 };

@@ -63,12 +63,12 @@ bool Saving::write(const QString& path, const QByteArray& contents, bool overwri
         const bool isStray = !file.path.isEmpty();
         if (isStray)
             strays += file.path;
-        dialogs.tellWriteError(path, file.error);
+        dialogs.notifyWriteError(path, file.error);
         if (isStray)
             hooks->filesChanged();
         return false;
     }
-    // The user has let go of a report of the name before it came to this.
+    // The user has released the uncompressed report of the name.
     if (isCompressed && overwrite && (QFile::remove(onDisk(path)) || !QFile::exists(onDisk(path))))
         removeReportRecord(path);
     consent.takeUp(path);
@@ -83,20 +83,20 @@ bool Saving::write(const QString& path, const QByteArray& contents, bool overwri
 bool Saving::copyToUsb(const QString& saved, bool overwrite)
 {
     const QString copy = instrument::usbPath(saved);
-    // What is saved to the stick is its own copy.
+    // A report that is saved on the USB drive is its own copy.
     const bool mayReplace = overwrite || QDir::cleanPath(saved) == copy;
     QString error;
     if (copyReportFile(saved, copy, mayReplace, &error))
         return true;
-    dialogs.tellWriteError(copy, error);
+    dialogs.notifyWriteError(copy, error);
     return false;
 }
 
-void Saving::recordSync(const QStringList& files, bool isSynced)
+void Saving::updateSyncList(const QStringList& files, bool isSynced)
 {
     QString error;
-    const bool isRecorded = isSynced ? removeFromNoSyncList(files, &error) : addToNoSyncList(files, &error);
-    if (isRecorded)
+    const bool isUpdated = isSynced ? removeFromNoSyncList(files, &error) : addToNoSyncList(files, &error);
+    if (isUpdated)
         return;
     if (!hooks->isAlive()) {
         qWarning("%s", qUtf8Printable(error));
@@ -107,7 +107,7 @@ void Saving::recordSync(const QStringList& files, bool isSynced)
         shown += instrument::shownPath(file);
     const QString consequence = isSynced ? ReportTexts::tr("%1 is still on the list of reports that are not synced.")
                                          : ReportTexts::tr("The cloud may take %1, although it is not to be synced.");
-    dialogs.tellSyncError(consequence.arg(shown.join(QLatin1String(", "))), error);
+    dialogs.notifySyncError(consequence.arg(shown.join(QLatin1String(", "))), error);
 }
 
 // --- Progress ---
@@ -119,6 +119,17 @@ bool Saving::tellProgress(bool hasChanged)
     if (hooks->isInteractive() && isBusy && progress.isPageDue())
         QCoreApplication::processEvents();
     return hooks->isAlive() && !progress.isCancelled();
+}
+
+QByteArray Saving::withProgress(const std::function<QByteArray()>& make)
+{
+    const bool isAlone = !progress.isRunning();
+    if (isAlone)
+        progress.begin(1);
+    QByteArray contents = make();
+    if (isAlone)
+        progress.end();
+    return contents;
 }
 
 // --- Its life ---

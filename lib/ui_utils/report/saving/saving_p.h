@@ -12,14 +12,15 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
 namespace uiutils {
 
-/// What one controller keeps for its saves, and how one file of them is written.
+/// What one controller keeps for its saves, and how one file is written.
 ///
-/// Shared with the save that runs, because hooks and slots may delete the controller in the middle of it.
+/// Shared with the running save, because hooks and slots may delete the controller in the middle of it.
 class Saving
 {
 public:
@@ -30,44 +31,47 @@ public:
     OverwriteQuestion question;
     SaveDialogs dialogs;
     SaveProgress progress;
-    /// Whether another save is refused now: a slot that hears of a save's progress would otherwise start one within the
-    /// other, and that one the next.
+    /// Whether another save is rejected now. Otherwise a slot that is notified of a save's progress could start one
+    /// within the other, and that one the next.
     bool isBusy = false;
-    /// Where the save that runs goes, whatever is plugged or pulled meanwhile.
+    /// Where the running save writes, whatever is plugged in or removed meanwhile.
     std::optional<ReportDestinations> fixedDestinations;
-    /// The files that reports were written into, by the paths that their writers were given.
+    /// The files that hold the reports, by the paths that their writers were given.
     QMap<QString, QString> written;
-    /// Files that the save has left, although they are not what was to be written.
+    /// Files that the save has made although they were not wanted: uncompressed reports.
     QStringList strays;
 
     ReportDestinations destinations() const { return fixedDestinations.value_or(ReportDestinations::current()); }
 
-    /// True when nothing lies at the paths, or `overwrite`; otherwise the user is being asked. Whoever answers yes
-    /// agrees to all of them, and to what the save that runs has looked at before.
+    /// True if nothing exists at the paths, or if `overwrite`; otherwise the user is asked. A yes releases all of them,
+    /// and what the running save has checked before.
     bool mayWrite(const QStringList& paths, bool overwrite);
-    /// Writes one file, compressed if enabled, and tells everybody. False when it was not written; the user is asked or
-    /// told.
+    /// Writes one file, compressed if enabled, and notifies pages and the tray. False if it was not written; the user
+    /// is then asked or notified.
     bool write(const QString& path, const QByteArray& contents, bool overwrite);
-    /// Copies a saved report to the stick. False when that fails, of which the user is told.
+    /// Copies a saved report to the USB drive. False if that fails; the user is notified.
     bool copyToUsb(const QString& saved, bool overwrite);
-    /// Takes the files off the list of reports that are not synced, or enters them.
-    void recordSync(const QStringList& files, bool isSynced);
+    /// Removes the files from the list of reports that are not synced, or adds them.
+    void updateSyncList(const QStringList& files, bool isSynced);
 
-    /// How much of the format that is being written is done. False when it is to be given up.
+    /// `share` of the present format is written. False if writing is to stop.
     bool goesOn(double share) { return tellProgress(progress.advance(share)); }
-    /// False when the save is cancelled, and when the controller is gone.
+    /// False if the save was cancelled, or the controller deleted.
     bool tellProgress(bool hasChanged);
+
+    /// Calls `make`, which makes the contents of a file; outside a save it has a progress of its own.
+    QByteArray withProgress(const std::function<QByteArray()>& make);
 
     void accept(const KIVNotification* notification);
     void reject(const KIVNotification* notification);
-    /// A dialog that closes with its asker tells the pages, which may know the controller as long as it is a QObject.
+    /// To be called while the controller is still a complete object: pages are notified of dialogs that close with it.
     void close();
 
     void beginSave();
     void endSave();
 };
 
-/// Saves by the settings; see Report::save().
+/// Saves as the settings say; see Report::save().
 bool save(const std::shared_ptr<Saving>& saving, bool overwrite);
 
 } // namespace uiutils

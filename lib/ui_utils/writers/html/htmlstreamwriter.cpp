@@ -1,8 +1,8 @@
 #include "writers/html/htmlstreamwriter.h"
 
 #include "base/directmarkup_p.h"
-#include "base/paths_p.h"
 #include "base/xmltext_p.h"
+#include "writers/html/pagestyle_p.h"
 #include "writers/html/style.h"
 #include "writers/pages/reportheader.h"
 #include "writers/pages/reportimage.h"
@@ -22,10 +22,10 @@ using uiutils::Status;
 
 namespace {
 
-/// On screens that browsers take for granted.
+/// On the screens that browsers assume.
 constexpr qreal pixelsOfAPoint = 96.0 / 72.0;
 
-// Shared for good: a cell is written in well under a microsecond, and every literal's copy would show.
+// Shared for ever: a cell is written in well under a microsecond, so that copies of literals would be noticeable.
 struct Words
 {
     const QString align = QStringLiteral("align");
@@ -44,7 +44,7 @@ struct Words
     const QString width = QStringLiteral("width");
 };
 
-// Indentation levels of a table that stands in the body.
+// Indentation levels of a table in the body.
 constexpr int rowLevel = 3;
 constexpr int cellLevel = 4;
 constexpr int contentLevel = 5;
@@ -87,10 +87,10 @@ HtmlStreamWriter::HtmlStreamWriter(int indentStep)
 
 HtmlStreamWriter::HtmlStreamWriter(int indentStep, QList<ReportItem*>* items)
     : QXmlStreamWriter(&m_output)
+    , m_attributes(uiutils::defaultPageAttributes())
     , m_indentStep(indentStep)
     , m_items(items)
 {
-    fillDefaults();
     setAutoFormatting(true);
     writeStartDocument();
     writeDTD(QStringLiteral("<!DOCTYPE html PUBLIC \"-//W3C//DTD Html 4.01 Transitional//EN\" "
@@ -103,48 +103,14 @@ HtmlStreamWriter::~HtmlStreamWriter()
     abandonTable();
 }
 
-void HtmlStreamWriter::fillDefaults()
-{
-    const QString blue = QStringLiteral("rgb(0, 104, 155)");
-    const QString white = QStringLiteral("white");
-    const QString sansSerif = QStringLiteral("sans-serif");
-    m_attributes = {
-            {QStringLiteral("isForPDF"), false},
-            {QStringLiteral("h1_bg"), blue},
-            {QStringLiteral("h2_bg"), blue},
-            {QStringLiteral("h3_bg"), blue},
-            {QStringLiteral("bg"), white},
-            {QStringLiteral("h1_fg"), white},
-            {QStringLiteral("h2_fg"), white},
-            {QStringLiteral("h3_fg"), white},
-            {QStringLiteral("table_bg"), QStringLiteral("rgb(150, 150, 150)")},
-            {QStringLiteral("table_header_bg"), blue},
-            {QStringLiteral("table_header_fg"), white},
-            {QStringLiteral("table_cell_bg"), QStringLiteral("rgb(240, 250, 255)")},
-            {QStringLiteral("body_font_family"), sansSerif},
-            {QStringLiteral("table_font_family"), sansSerif},
-            {QStringLiteral("table_header_font_family"), sansSerif},
-            {QStringLiteral("table_cell_font_family"), sansSerif},
-            {QStringLiteral("indent_pix"), QStringLiteral("10")},
-            {QStringLiteral("logo"), QString(uiutils::paths::logo)},
-            {QStringLiteral("orientation"), QStringLiteral("portrait")},
-            {QStringLiteral("showSoftwareRevs"), true},
-            {QStringLiteral("showHardwareRevs"), true},
-            {QStringLiteral("includeCustomerInfoTop"), false},
-            {QStringLiteral("includeTechnicianInfoTop"), false},
-            {QStringLiteral("includeCustomerInfoEnd"), false},
-            {QStringLiteral("includeTechnicianInfoEnd"), false},
-    };
-}
-
 void HtmlStreamWriter::discardText()
 {
     m_keepsText = false;
     m_output.clear();
 }
 
-/// The room stays for the next piece.
-void HtmlStreamWriter::dropText()
+/// The memory stays for the next piece.
+void HtmlStreamWriter::clearText()
 {
     if (!m_keepsText)
         m_output.resize(0);
@@ -159,8 +125,8 @@ void HtmlStreamWriter::append(ReportItem* item)
         delete item;
 }
 
-/// No cell comes any more: the next pass deletes it as it does a closed one. In a list of one's own it may be gone,
-/// with its owner's other items.
+/// No further cell follows: the next pass deletes the table as it does a closed one. In a list of the caller's own it
+/// may have been deleted already, with the caller's other items.
 void HtmlStreamWriter::abandonTable()
 {
     if (m_currentTable && m_items == &uiutils::sharedReportItems() && m_items->lastIndexOf(m_currentTable) >= 0)
@@ -276,7 +242,7 @@ void HtmlStreamWriter::startTableRow()
 
 void HtmlStreamWriter::expectRows(int rows, qint64 cells)
 {
-    // As much as rows of short texts take; what is not written to costs no memory.
+    // As much as rows of short texts take. What is not written to takes no memory.
     constexpr int charactersOfARow = 70;
     constexpr int charactersOfACell = 90;
     if (!m_keepsText)
@@ -358,17 +324,17 @@ void HtmlStreamWriter::endRow()
         m_currentTable->endRow();
     m_rowOpen = false;
     m_currentColumn = 0;
-    dropText();
+    clearText();
 }
 
 void HtmlStreamWriter::endTable()
 {
     endRow();
-    // "<table/>" would be read as a table that never ends.
+    // A browser would read "<table/>" as a table that never ends.
     if (!m_tableHasRows)
         writeCharacters(QString());
     writeEndElement();
-    // Only now: a pass that begins meanwhile must not delete what cells are still appended to.
+    // Only now: a pass that begins earlier must not delete a table that cells are still appended to.
     if (m_currentTable)
         m_currentTable->setOfPass();
     m_currentTable = nullptr;
@@ -378,14 +344,14 @@ void HtmlStreamWriter::writeParagraph(const QString& text)
 {
     writeTextElement(QStringLiteral("p"), markupText(text));
     append(new ReportText(text));
-    dropText();
+    clearText();
 }
 
 void HtmlStreamWriter::writeHeading(int level, const QString& text)
 {
     writeTextElement(QStringLiteral("h%1").arg(qBound(1, level, 3)), markupText(text));
     append(new ReportHeader(level, text));
-    dropText();
+    clearText();
 }
 
 void HtmlStreamWriter::writeImage(const QString& source)

@@ -26,7 +26,8 @@ public:
     /// table, heading, paragraph and image is appended to uiutils::sharedReportItems().
     explicit HtmlStreamWriter(int indentStep);
     /// The same with a list of its own; null collects nothing. The items belong to the list's owner, and are marked as
-    /// those of a pass: a table when it is closed, in the shared list also when another is opened or the writer goes.
+    /// those of a pass: a table when it is closed, in the shared list also when another is opened or the writer is
+    /// destroyed.
     HtmlStreamWriter(int indentStep, QList<ReportItem*>* items);
     virtual ~HtmlStreamWriter();
     Q_DISABLE_COPY_MOVE(HtmlStreamWriter)
@@ -48,14 +49,13 @@ public:
     /// Opens a table and its first row. `tableAttributes` may set "cellpadding" (5), "rules" (rows) and "frame" (box).
     void startTable(const QString& title, const QStringList& columnLabels, bool hasLabelColumn, int nestingLevel,
             const QVariantMap& tableAttributes = QVariantMap());
-    /// Says how many rows and cells the open table is about to get, so that what is written need not be moved time and
-    /// again.
+    /// Says how many rows and cells the open table will get, so that what is written need not be moved repeatedly.
     void expectRows(int rows, qint64 cells);
     /// Opens a row unless one is open. A row that gets no cell leaves no trace.
     void startRow();
     /// Writes a row's label as its next cell. `status` and `align` are codes of uiutils::Status and uiutils::Alignment.
     void writeHeaderCell(const QString& text, int align);
-    /// Writes the next cell with its status icon; does nothing while no row is open and when the row is full.
+    /// Writes the next cell with its status icon. Does nothing if no row is open or the row is full.
     void writeCell(const QString& text, int status = uiutils::Status::None, int align = uiutils::Alignment::Center);
     /// Writes one empty cell over the next `columns` columns, or over as many as the row still has.
     void writeEmptyCells(int columns);
@@ -66,13 +66,12 @@ public:
     void writeParagraph(const QString& text);
     /// Writes a heading; levels below 1 and above 3 are written as 1 and 3.
     void writeHeading(int level, const QString& text);
-    /// Writes an image whose source is a path or an URI.
+    /// Writes an image whose source is a path or a URI.
     void writeImage(const QString& source);
-    /// Writes a paragraph that holds a PNG image, shown with so many of its pixels for one of the page's.
+    /// Writes a paragraph that holds a PNG image, of which `pixels` pixels are shown per pixel of the page.
     void writeImageParagraph(const QByteArray& png, int pixels = 1);
 
 private:
-    void fillDefaults();
     void startTableRow();
     bool beginCell(int columns);
     void writeHeaderRow(const QStringList& columnLabels, bool hasLabelColumn);
@@ -80,7 +79,7 @@ private:
     void writeStatusIcon(int status);
     void append(ReportItem* item);
     void abandonTable();
-    void dropText();
+    void clearText();
     const QString& iconSource(const QString& path);
 
     QString m_output;

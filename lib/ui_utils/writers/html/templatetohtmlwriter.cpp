@@ -6,6 +6,7 @@
 #include "document/reporttemplate.h"
 #include "instrument/unit_p.h"
 #include "writers/html/htmlstreamwriter.h"
+#include "writers/html/pagestyle_p.h"
 #include "writers/html/style.h"
 #include "writers/pages/reportpdf.h"
 #include "writers/plots/plotdata_p.h"
@@ -27,9 +28,9 @@ using uiutils::TableReader;
 
 namespace {
 
-/// Enough for a plot's letters to be as sharp as the page's.
+/// Enough to make a plot's letters as sharp as the page's.
 constexpr int plotPixelsOnPaper = 2;
-/// The plots of tables with a larger number leave no file.
+/// The plot of a table with this number or a larger one leaves no file.
 constexpr quint64 mostPlotFiles = 100;
 
 /// A two-column table of labels and values; none without rows.
@@ -95,10 +96,10 @@ void TemplateToHtmlWriter::collectItems()
 void TemplateToHtmlWriter::writePage()
 {
     m_isWritten = true;
-    // What is being printed keeps its items.
+    // Items that are being printed stay.
     if (m_items && !ReportPDF::isPrinting())
         uiutils::deleteItemsOfPasses(*m_items);
-    const QList<Style*> rules = styles();
+    const QList<Style*> rules = uiutils::pageStyles([this](const QString& name) { return attribute(name).toString(); });
     m_html->writeHead(title(), rules);
     qDeleteAll(rules);
 
@@ -144,53 +145,6 @@ QVector<ReportField> TemplateToHtmlWriter::titleFields() const
 bool TemplateToHtmlWriter::isSet(const char* name) const
 {
     return attribute(QLatin1String(name)).toBool();
-}
-
-QList<Style*> TemplateToHtmlWriter::styles() const
-{
-    QList<Style*> rules;
-    const auto add = [&](const QString& selector) {
-        rules += new Style(selector);
-        return rules.constLast();
-    };
-    const auto text = [&](const QString& name) { return attribute(name).toString(); };
-
-    for (int level = 1; level <= 3; ++level) {
-        Style* heading = add(QStringLiteral("h%1").arg(level));
-        heading->setProperty(QStringLiteral("background-color"), text(QStringLiteral("h%1_bg").arg(level)));
-        heading->setProperty(QStringLiteral("color"), text(QStringLiteral("h%1_fg").arg(level)));
-        heading->setMarginTop(12);
-        heading->setMarginBottom(5);
-    }
-
-    Style* paragraph = add(QStringLiteral("p"));
-    paragraph->setProperty(QStringLiteral("font-size"), QStringLiteral("medium"));
-    paragraph->setMarginTop(5);
-    paragraph->setMarginBottom(5);
-
-    Style* body = add(QStringLiteral("body"));
-    body->setFontFamily(text(QStringLiteral("body_font_family")));
-    body->setProperty(QStringLiteral("margin-right"), QStringLiteral("%1%").arg(2));
-    body->setProperty(QStringLiteral("margin-left"), QStringLiteral("%1%").arg(2));
-
-    Style* table = add(QStringLiteral("table"));
-    table->setFontFamily(text(QStringLiteral("table_font_family")));
-    table->setProperty(QStringLiteral("font-size"), QStringLiteral("medium"));
-    table->setProperty(QStringLiteral("margin"), QStringLiteral("10px"));
-    table->setBackground(text(QStringLiteral("table_bg")));
-    table->setProperty(QStringLiteral("border-width"), QStringLiteral("1px"));
-
-    Style* headerCell = add(QStringLiteral("th"));
-    headerCell->setFontFamily(text(QStringLiteral("table_header_font_family")));
-    headerCell->setBackground(text(QStringLiteral("table_header_bg")));
-    headerCell->setProperty(QStringLiteral("color"), text(QStringLiteral("table_header_fg")));
-    headerCell->setPadding(2, 8);
-
-    Style* cell = add(QStringLiteral("td"));
-    cell->setFontFamily(text(QStringLiteral("table_cell_font_family")));
-    cell->setBackground(text(QStringLiteral("table_cell_bg")));
-    cell->setPadding(3, 8);
-    return rules;
 }
 
 void TemplateToHtmlWriter::writeBodyStart()
@@ -269,7 +223,7 @@ void TemplateToHtmlWriter::writeSystemInformation()
     const bool showsHardware = isSet("showHardwareRevs");
     if (!showsSoftware && !showsHardware)
         return;
-    // On paper a heading with nothing under it looks like something that was lost.
+    // On paper, a heading without content looks as if something were missing.
     const bool hasTables = (showsSoftware && !uiutils::softwareTable().rows.isEmpty())
             || (showsHardware && !instrument::hardwareAssemblies().isEmpty());
     if (isSet("isForPDF") && !hasTables)
@@ -380,12 +334,12 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
     m_html->endRow();
 }
 
-/// The file is there for others to look at; tables of one number in several sections write it one after the other. A
-/// document with thousands of plots does not fill the memory that temporary files lie in.
+/// The file is for other programs to read; tables with the same number in several sections overwrite it. A document
+/// with thousands of plots does not fill the memory that holds temporary files.
 void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumber)
 {
     const QString path = uiutils::paths::plotImage(tableNumber);
-    // All that have no curves look alike, and a document may name thousands that are not there.
+    // All services without curves look alike, and a document may name thousands that do not exist.
     const bool isKnown = m_plots.contains(service);
     const QString key = isKnown || !uiutils::readPlotData(service).curves.isEmpty() ? service : QString();
     auto known = m_plots.constFind(key);

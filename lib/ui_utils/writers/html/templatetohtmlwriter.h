@@ -16,7 +16,6 @@
 
 class HtmlStreamWriter;
 class ReportTemplate;
-class Style;
 
 namespace uiutils {
 class NodeReader;
@@ -31,8 +30,8 @@ class TableReader;
 class UIUTILS_EXPORT TemplateToHtmlWriter
 {
 public:
-    /// Keeps the document as it is now. The pass appends its items to `items`, after it has deleted those that an
-    /// earlier pass has left there, unless they are being printed; null collects none.
+    /// Keeps the document as it is now. The pass appends its items to `items`, after it has deleted those of an
+    /// earlier pass, unless they are being printed; null collects none.
     explicit TemplateToHtmlWriter(
             const ReportTemplate& document, QList<ReportItem*>* items = &uiutils::sharedReportItems());
     virtual ~TemplateToHtmlWriter();
@@ -50,11 +49,11 @@ public:
     QString title() const;
     /// Date and time of now as the page shows them.
     static QString timestamp();
-    /// What a title block says of the test: its time, its overall status if one is set, and the job if the page
+    /// What a title block says about the test: its time, its overall status if one is set, and the job if the page
     /// includes it.
     QVector<ReportField> titleFields() const;
 
-    /// Makes the pass for its report items alone; nothing is kept of the page, which getHtml() then has no text of.
+    /// Makes the pass for its report items only. The text of the page is discarded, so that getHtml() returns none.
     void collectItems();
 
     /// The page. The first call writes it; later calls return the same text.
@@ -67,7 +66,6 @@ public:
 private:
     struct OverallStatus;
 
-    QList<Style*> styles() const;
     bool isSet(const char* name) const;
     OverallStatus overallStatus() const;
 
@@ -91,9 +89,9 @@ private:
     QVariantMap m_bodyAttributes;
     QList<ReportItem*>* m_items;
     std::unique_ptr<HtmlStreamWriter> m_html;
-    // A picture of each service: the page holds them anyway, and drawing one takes longer than the rest of the page.
+    // An image of each service: the page holds them anyway, and drawing one takes longer than the rest of the page.
     QHash<QString, QByteArray> m_plots;
-    // Of a page's pixel: paper is finer than a screen.
+    // Per pixel of the page: paper is finer than a screen.
     int m_plotPixels = 1;
     int m_depth = 0;
     bool m_isWritten = false;

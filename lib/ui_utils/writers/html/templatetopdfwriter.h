@@ -10,12 +10,12 @@
 
 class ReportTemplate;
 
-/// Turns a report document into a PDF file: has the HTML writer's pass collect the items, and ReportPDF print them.
+/// Turns a report document into a PDF file: the HTML writer's pass collects the items, and ReportPDF prints them.
 class UIUTILS_EXPORT TemplateToPdfWriter
 {
 public:
     /// Keeps the document as it is now. The pass appends its items to `items`, where they stay until the next one
-    /// deletes them; others in the list are printed too and stay their owner's.
+    /// deletes them; other items in the list are printed too and are not owned.
     explicit TemplateToPdfWriter(
             const ReportTemplate& document, QList<ReportItem*>* items = &uiutils::sharedReportItems());
     ~TemplateToPdfWriter();
@@ -26,7 +26,7 @@ public:
     /// technician's name; "subject", in place of the document's; "producer".
     void setAttribute(const QString& name, const QVariant& value) { m_html.setAttribute(name, value); }
 
-    /// Tells how far toPdf() and write() are, and cancels them.
+    /// Receives the progress of toPdf() and write(), and can cancel them.
     ReportPDF& pages() { return m_pages; }
 
     /// The file's bytes; see ReportPDF::toPdf() for when there are none.

@@ -10,11 +10,11 @@ namespace uiutils {
 
 namespace {
 
-/// What the columns of row labels get of the width beside a few values if they can, so that tables of labels and values
-/// below each other are parted alike.
+/// The share of the width that row labels get, if possible, beside a few values, so that the columns of successive
+/// tables of labels and values are aligned.
 constexpr qreal labelShare = 0.3;
 constexpr int fewValues = 2;
-/// Halves a width until the rest cannot be seen.
+/// Enough halvings of a width to make the rest invisible.
 constexpr int bisections = 40;
 
 template<typename Measure> qreal sumOf(const ColumnBand& band, Measure measure)
@@ -25,7 +25,7 @@ template<typename Measure> qreal sumOf(const ColumnBand& band, Measure measure)
     return sum;
 }
 
-/// The width that no column exceeds when the wider of `widths` give way until all keep to `total`.
+/// The maximum width of a column with which all of `widths` fit into `total`: the widest ones are reduced first.
 qreal commonLimit(std::vector<qreal> widths, qreal total)
 {
     std::sort(widths.begin(), widths.end());
@@ -39,7 +39,7 @@ qreal commonLimit(std::vector<qreal> widths, qreal total)
     return widths.empty() ? total : widths.back();
 }
 
-/// Gives the columns what they ask for and their share of what is left.
+/// Gives the columns the width that they need, and their share of the remaining space.
 void spread(ColumnBand& band, int labels, qreal total, const std::function<qreal(const ColumnWidth&)>& natural)
 {
     qreal labelSum = 0;
@@ -59,7 +59,7 @@ void spread(ColumnBand& band, int labels, qreal total, const std::function<qreal
     }
 }
 
-/// Fills in the widths of columns that stand side by side.
+/// Sets the widths of columns that are side by side.
 void share(ColumnBand& band, const QVector<ColumnDemand>& demands, qreal total, int labels)
 {
     const auto natural = [&](const ColumnWidth& c) { return demands.at(c.column).natural; };
@@ -69,7 +69,7 @@ void share(ColumnBand& band, const QVector<ColumnDemand>& demands, qreal total, 
     if (naturalSum <= total) {
         spread(band, labels, total, natural);
     } else if (minimalSum <= total) {
-        // One long remark does not make the columns beside it break their short texts.
+        // One long remark does not make the other columns break their short texts.
         const auto limited
                 = [&](const ColumnWidth& c, qreal limit) { return qMax(minimal(c), qMin(natural(c), limit)); };
         qreal low = 0;
@@ -90,7 +90,7 @@ void share(ColumnBand& band, const QVector<ColumnDemand>& demands, qreal total, 
     }
 }
 
-/// Deals the columns out to bands, each as wide as `need` lets it be.
+/// Divides the columns into bands; each column needs the width that `need` gives.
 template<typename Need>
 QVector<ColumnBand> dealt(const QVector<ColumnDemand>& demands, qreal total, int labels, Need need)
 {
@@ -126,7 +126,7 @@ QVector<ColumnBand> dealt(const QVector<ColumnDemand>& demands, qreal total, int
 QVector<ColumnBand> columnBands(const QVector<ColumnDemand>& demands, qreal total, qreal least, int labels)
 {
     const auto scarce = [&](const ColumnDemand& d) { return qMin(qMin(d.minimal, d.natural), least); };
-    // Where there have to be several bands, there is room for every column in one of them.
+    // If there have to be several bands, every column has enough space in one of them.
     const auto ample = [&](const ColumnDemand& d) { return qMin(d.natural, qMax(2 * least, scarce(d))); };
     QVector<ColumnBand> bands = dealt(demands, total, labels, scarce);
     if (bands.size() > 1)

@@ -2,15 +2,15 @@
 
 #include <QVector>
 
-/// How a table's columns share the width of a page: arithmetic, without a painter.
+/// How the columns of a table share the width of a page: arithmetic, without a painter.
 namespace uiutils {
 
-/// What a column asks for, its padding included. One that asks for nothing gets nothing.
+/// The widths that a column needs, including its padding. A column that needs nothing gets nothing.
 struct ColumnDemand
 {
     /// Holds every text in one line.
     qreal natural = 0;
-    /// Holds every word whole.
+    /// Holds every word unbroken.
     qreal minimal = 0;
 
     bool isEmpty() const { return natural <= 0; }
@@ -22,13 +22,13 @@ struct ColumnWidth
     qreal width;
 };
 
-/// Columns that stand side by side.
+/// Columns that are side by side.
 using ColumnBand = QVector<ColumnWidth>;
 
-/// Gives each column its width so that a band is `total` wide: the natural widths and a share of what is left, or what
-/// lies between minimal and natural ones. The first `labels` columns are row labels. Where the words do not fit, the
-/// widest ones are broken, down to `least` for a column. Where that is not enough, the columns are dealt out to several
-/// bands, each beginning with the row labels. No band for columns that all ask for nothing.
+/// Gives each column its width so that a band is `total` wide: the natural width and a share of the remaining space, or
+/// a width between the minimal and the natural one. The first `labels` columns are row labels. If the words do not fit,
+/// the widest are broken, down to a column width of `least`. If that is not enough, the columns are divided into
+/// several bands, each of which begins with the row labels. No band if no column needs any width.
 QVector<ColumnBand> columnBands(const QVector<ColumnDemand>& demands, qreal total, qreal least, int labels);
 
 } // namespace uiutils

@@ -12,7 +12,7 @@ namespace uiutils {
 
 namespace {
 
-/// Of decoded images that are kept in memory.
+/// Decoded images that are kept in memory.
 constexpr int maximumImages = 8;
 
 } // namespace
@@ -21,7 +21,7 @@ PageCanvas::PageCanvas(QPainter& painter, const PageStyle& style)
     : m_painter(painter)
     , m_style(style)
 {
-    // A plot's thin lines and letters do not bear lossy compression.
+    // Lossy compression would damage the thin lines and letters of a plot.
     m_painter.setRenderHint(QPainter::LosslessImageRendering);
     m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
 }
@@ -75,8 +75,7 @@ void PageCanvas::drawText(const PageFont& font, const QString& text, const QPoin
 const WrappedText* PageCanvas::findParted(const PageFont& font, const QString& text, qreal width) const
 {
     for (const Parted& parted : m_parted) {
-        // A text that is shared is the same one; comparing megabytes for each page would be no better than wrapping
-        // them.
+        // Shared data means the same text; comparing megabytes for each page would be no better than wrapping them.
         if (parted.font == &font && qFuzzyCompare(parted.width, width) && parted.text.constData() == text.constData())
             return parted.lines.get();
     }
@@ -114,8 +113,8 @@ void PageCanvas::drawImage(const QImage& image, const QRectF& place)
 
 void PageCanvas::drawImage(const QByteArray& encoded, const QRectF& place)
 {
-    auto it = m_images.constFind(encoded);
-    if (it == m_images.constEnd()) {
+    auto it = m_images.find(encoded);
+    if (it == m_images.end()) {
         if (m_images.size() >= maximumImages)
             m_images.clear();
         it = m_images.insert(encoded, decodedImage(encoded));
@@ -133,7 +132,7 @@ void PageCanvas::flush()
     run.setRawData(m_glyphs.constData(), m_positions.constData(), m_glyphs.size());
     m_painter.setPen(m_color);
     m_painter.drawGlyphRun({}, run);
-    // Keeps the room for the next run.
+    // Keeps the memory for the next run.
     m_glyphs.resize(0);
     m_positions.resize(0);
 }

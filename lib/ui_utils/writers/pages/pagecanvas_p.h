@@ -20,10 +20,10 @@ namespace uiutils {
 class PageFont;
 class PageStyle;
 
-/// What report items draw themselves on: a painter on a page, and the style of the pages.
+/// What report items draw on: a painter on a page, and the style of the pages.
 ///
-/// Plain text is gathered and drawn a run at a time, in the order in which it came: readers that copy text follow the
-/// order of drawing.
+/// Plain text is collected and drawn in runs, in the order of the calls: readers that copy text follow the order of
+/// drawing.
 class PageCanvas
 {
 public:
@@ -35,23 +35,23 @@ public:
 
     void fill(const QRectF& rectangle, const QColor& color) { fill(QVector<QRectF> {rectangle}, color); }
     void fill(const QVector<QRectF>& rectangles, const QColor& color);
-    /// A frame that lies inside of the rectangle.
+    /// A frame inside the rectangle.
     void frame(const QRectF& rectangle, const QColor& color);
 
-    /// Draws `text` into a box as wide as `width`, from its line `begin` to before `end`.
+    /// Draws the lines of `text` from `begin` up to, but not including, `end` into a box of `width`.
     void drawText(const PageFont& font, const QString& text, const QPointF& topLeft, qreal width,
             Qt::Alignment alignment, const QColor& color, int begin, int end);
-    /// Forgets the lines of texts that were drawn in part. To be called behind the last part of them.
+    /// Forgets the lines of texts that were drawn in part. To be called after their last part.
     void forgetParts() { m_parted.clear(); }
     /// Draws one line of a text that can be set glyph by glyph.
     void drawPlain(const PageFont& font, QStringView text, const QPointF& baseLine, const QColor& color);
     void drawShaped(const QTextLine& line, const QPointF& baseLine, const QColor& color);
 
     void drawImage(const QImage& image, const QRectF& place);
-    /// Draws an encoded image. The same bytes are decoded, and stored in the file, once.
+    /// Draws an encoded image. The same bytes are decoded once, and stored in the file once.
     void drawImage(const QByteArray& encoded, const QRectF& place);
 
-    /// Draws the text that was gathered. To be called before the page is left.
+    /// Draws the text that was collected. To be called at the end of each page.
     void flush();
 
 private:
@@ -71,7 +71,7 @@ private:
     QColor m_color;
     QVector<quint32> m_glyphs;
     QVector<QPointF> m_positions;
-    // Cells that go on over a hundred pages are broken into lines once.
+    // A cell that continues over a hundred pages is broken into lines once.
     std::vector<Parted> m_parted;
     QHash<QByteArray, QImage> m_images;
 };

@@ -4,7 +4,7 @@ namespace uiutils {
 
 namespace {
 
-/// What does not fit because of a rounding error does fit.
+/// What exceeds the space by a rounding error still fits.
 constexpr qreal tolerance = 1e-6;
 
 class Flow
@@ -36,8 +36,9 @@ private:
         m_hasHeadingsOnly = true;
     }
 
-    /// Whether an item at `top` finds no more room on any other page: a page that holds nothing but the headings of the
-    /// item is as good as an empty one, where they would be parted from it. Headings of half a page are not kept.
+    /// Whether no other page has more space for an item at `top`. A page that contains only the headings of the item
+    /// counts as an empty one, which would separate them from it. Headings that take half a page are not kept with
+    /// their item.
     bool isWholePage(qreal top, bool hasHeadingsOnly) const
     {
         return top <= 0 || (hasHeadingsOnly && top <= m_pageHeight / 2);
@@ -68,8 +69,8 @@ private:
         }
     }
 
-    /// Whether an item that announces what follows would stand at the foot of this page, and not because no page could
-    /// hold both.
+    /// Whether an item that belongs to the next one would be at the foot of this page, although some page can hold
+    /// both.
     bool isPartedFromNext(int index, qreal top) const
     {
         return m_items.at(index)->keepsWithNext() && !holdsWithNext(index, top, m_hasHeadingsOnly)
@@ -80,7 +81,7 @@ private:
     {
         for (; index < m_items.size(); ++index) {
             const ReportItem& item = *m_items.at(index);
-            // What shows nothing has nothing to split.
+            // An item that shows nothing has nothing to split.
             if (item.end() == ReportItem::Position())
                 continue;
             if (top > 0)
@@ -99,7 +100,7 @@ private:
     qreal m_pageHeight;
     int m_page = 0;
     qreal m_top = 0;
-    /// Whether all that stands on this page announces what comes next.
+    /// Whether this page contains only items that belong to the next one.
     bool m_hasHeadingsOnly = true;
     QVector<PlacedPortion> m_placed;
 };
@@ -121,7 +122,7 @@ ReportItem::Portion takeRows(const QVector<int>& lines, const RowHeights& height
     if (portion.isEmpty() && begin.row < endRow && mayTear) {
         const int fitting = int((room - heights.padding + tolerance) / heights.line);
         const int left = lines.at(begin.row) - begin.line;
-        // A page too low for a single line shows it cut off and goes on.
+        // A page that is too low for a single line shows it cut off.
         const int taken = qBound(1, fitting, left);
         portion.end = taken == left ? ReportItem::Position {begin.row + 1, 0}
                                     : ReportItem::Position {begin.row, begin.line + taken};

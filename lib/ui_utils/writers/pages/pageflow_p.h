@@ -11,22 +11,22 @@ namespace uiutils {
 struct RowHeights
 {
     qreal line = 1;
-    /// Above and below the lines of a row together; a row that is parted has it in each part.
+    /// Above and below the lines of a row together; a row that is split has it in each part.
     qreal padding = 0;
 
     qreal of(int lines) const { return padding + lines * line; }
 };
 
-/// Takes rows from `begin` to before row `endRow` as long as they fit into `room`; `lines` tells the lines of each row.
-/// A row is taken whole or not at all; only one that begins the stack and `mayTear` is taken in part, at least a line
-/// of it.
+/// Takes rows from `begin` up to, but not including, row `endRow` as long as they fit into `room`; `lines` has the
+/// number of lines of each row. A row is taken completely or not at all; only the first one, if `mayTear`, is taken in
+/// part, at least one line of it.
 ReportItem::Portion takeRows(const QVector<int>& lines, const RowHeights& heights, const ReportItem::Position& begin,
         int endRow, qreal room, bool mayTear);
 
-/// The same for lines of running text: neither the first nor the last line stands alone on a page.
+/// The same for lines of running text: neither the first nor the last line is alone on a page.
 ReportItem::Portion takeLines(int lineCount, qreal lineHeight, int begin, qreal room, bool isWholePage);
 
-/// Where a portion of an item lies.
+/// Where a portion of an item is printed.
 struct PlacedPortion
 {
     int page;
@@ -36,7 +36,7 @@ struct PlacedPortion
     ReportItem::Portion portion;
 };
 
-/// Sets measured items one below the other onto pages of that height, in their order. `pageCount` is 1 for no items.
+/// Places measured items one below the other on pages of that height, in their order. `pageCount` is 1 without items.
 QVector<PlacedPortion> flowOntoPages(const QList<ReportItem*>& items, qreal pageHeight, int* pageCount);
 
 } // namespace uiutils

@@ -8,7 +8,7 @@ namespace uiutils {
 
 namespace {
 
-/// A sixteenth of a unit cannot be seen, and the page then repeats few different numbers, which compress well.
+/// A sixteenth of a unit is invisible, and the page then repeats few different numbers, which compress well.
 constexpr qreal advanceSteps = 16;
 
 bool isSetByItself(QChar c)
@@ -52,7 +52,7 @@ bool isSetByItself(QChar c)
 PageFont::PageFont(const QFont& font, QPaintDevice* device)
     : m_font(font, device)
 {
-    // Hinted for a screen, glyphs would stand unevenly on paper.
+    // With hinting for a screen, glyphs would be spaced unevenly on paper.
     m_font.setHintingPreference(QFont::PreferNoHinting);
     m_raw = QRawFont::fromFont(m_font);
     const QFontMetricsF metrics(m_font, device);
@@ -79,7 +79,7 @@ const PageFont::Block& PageFont::loadBlock(uchar row) const
         const QChar character(uchar(cell), row);
         if (!isSetByItself(character))
             continue;
-        // The font's own table has no glyph for some blanks that look the same.
+        // The font's own table lacks glyphs for some spaces that look the same.
         const bool isBlank = character.category() == QChar::Separator_Space && character.unicode() == 0xa0;
         const QVector<quint32> glyphs = m_raw.glyphIndexesForString(isBlank ? QStringLiteral(" ") : QString(character));
         if (glyphs.size() != 1 || glyphs.constFirst() == 0)

@@ -9,14 +9,14 @@
 
 namespace uiutils {
 
-/// A font on a paper device: what its glyphs take up, asked once for each and not for each text.
+/// A font on a paper device. It measures each glyph once, instead of each text.
 ///
-/// Most texts of a report can be set glyph after glyph. Those that cannot (joined and right-to-left scripts, combining
+/// Most texts of a report can be set glyph by glyph. Those that cannot (joined and right-to-left scripts, combining
 /// marks, characters that the font lacks) are for QTextLayout.
 class PageFont
 {
 public:
-    /// One character's glyph. An advance below 0 says that it cannot be set by itself.
+    /// The glyph of one character. A negative advance means that the character cannot be set by itself.
     struct Glyph
     {
         quint32 index = 0;
@@ -27,7 +27,7 @@ public:
 
     const QFont& font() const { return m_font; }
     const QRawFont& raw() const { return m_raw; }
-    /// From the top of a line to its base line, in the device's units as everything here.
+    /// From the top of a line to its base line; like all lengths here in units of the device.
     qreal ascent() const { return m_ascent; }
     /// From line to line.
     qreal lineHeight() const { return m_lineHeight; }
@@ -38,7 +38,7 @@ public:
         return (block ? *block : loadBlock(character.row()))[character.cell()];
     }
 
-    /// The width of a text that can be set glyph by glyph; below 0 for any other.
+    /// The width of a text that can be set glyph by glyph; negative for any other.
     qreal plainWidth(QStringView text) const;
 
 private:

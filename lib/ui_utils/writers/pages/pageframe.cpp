@@ -32,7 +32,7 @@ PageFrame::PageFrame(const PageStyle& style, const QSizeF& paper, const Texts& t
     shortenTexts();
 }
 
-/// Once for all pages: a title may have a megabyte.
+/// Done once for all pages, because a title may have a megabyte.
 void PageFrame::shortenTexts()
 {
     const qreal gap = m_style.points(8);

@@ -8,7 +8,7 @@ namespace uiutils {
 class PageCanvas;
 class PageStyle;
 
-/// What stands around the body of every page: a header line on all but the first, and the footer.
+/// What surrounds the body of every page: a header line on all but the first, and the footer.
 class PageFrame
 {
 public:
@@ -22,10 +22,10 @@ public:
 
     PageFrame(const PageStyle& style, const QSizeF& paper, const Texts& texts);
 
-    /// What the frame leaves for the body.
+    /// The space that the frame leaves for the body.
     QRectF body() const { return m_body; }
 
-    /// `page` counts from 1. To be drawn before and behind the body, which is the order in which readers copy the text.
+    /// `page` counts from 1. To be drawn before and after the body, because readers copy text in the order of drawing.
     void drawHeader(PageCanvas& canvas, int page) const;
     void drawFooter(PageCanvas& canvas, int page, int pageCount) const;
 

@@ -78,7 +78,7 @@ void PagePrinter::drawPage(PageCanvas& canvas, int page)
     canvas.flush();
 }
 
-/// A heading stands in the one of a higher level, and a table in the last heading.
+/// A heading is nested in the one of the higher level before it, and a table in the last heading.
 void PagePrinter::addToOutline(const PlacedPortion& placed)
 {
     const ReportItem& item = *m_items.at(placed.item);

@@ -13,7 +13,7 @@
 
 namespace uiutils {
 
-/// What all pages of a file have in common.
+/// What all pages of a file share.
 struct PageSettings
 {
     TitleBlock::Contents titleBlock;
@@ -21,22 +21,22 @@ struct PageSettings
     QPageLayout::Orientation orientation = QPageLayout::Portrait;
 };
 
-/// Prints items onto the pages of one PDF file, as the printer device writes it: whether the file is whole is for
-/// others to check.
+/// Prints items on the pages of one PDF file, as the printer device writes it. The caller has to check whether the file
+/// is complete.
 class PagePrinter
 {
 public:
-    /// Told how many of the pages are printed; false stops the printer.
+    /// Called with the number of pages that are printed; returns false to stop the printer.
     using Progress = std::function<bool(int page, int pageCount)>;
 
-    /// The items stay the caller's and must outlive the printer.
+    /// The items remain the caller's and must outlive the printer.
     PagePrinter(const PageSettings& settings, const QList<ReportItem*>& items, const Progress& progress);
     ~PagePrinter();
     Q_DISABLE_COPY_MOVE(PagePrinter)
 
     enum Outcome { Printed, Stopped, Failed };
 
-    /// Prints to `path` on disk. `Failed` means that the device could not write.
+    /// Prints to `path` on the disk. `Failed` means that the device could not write.
     Outcome print(const QString& path);
 
     /// The headings and tables that were printed.

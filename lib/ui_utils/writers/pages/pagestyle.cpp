@@ -43,11 +43,12 @@ const QImage& PageStyle::statusIcon(int status) const
     const QLatin1String path = statusIconPath(status);
     if (path.isEmpty())
         return none;
-    auto it = m_icons.constFind(status);
-    if (it == m_icons.constEnd()) {
+    auto it = m_icons.find(status);
+    if (it == m_icons.end()) {
         it = m_icons.insert(status, decodedImage(readIcon(path)));
         if (it->isNull())
-            qWarning("The status icon %s is missing or is no image of at most 1 MiB: the report is printed without it.",
+            qWarning(
+                    "The status icon %s is missing or is not an image of at most 1 MiB: the report is printed without it.",
                     qUtf8Printable(onDisk(path)));
     }
     return *it;

@@ -17,7 +17,7 @@ public:
     /// Device units of a length in points.
     qreal points(qreal length) const { return length * m_unitsOfAPoint; }
 
-    /// The icon of a cell's status, the same image each time so that a file holds it once; null where there is none.
+    /// The icon of a cell's status, always the same image, so that a file contains it once; null if there is none.
     const QImage& statusIcon(int status) const;
     bool hasStatusIcon(int status) const { return !statusIcon(status).isNull(); }
 
@@ -41,9 +41,9 @@ public:
     const QColor stripeFill {240, 247, 252};
     const QColor rule {176, 188, 198};
 
-    /// Left and right of a cell's text.
+    /// On the left and right of a cell's text.
     const qreal cellPadding;
-    /// Above and below it.
+    /// Above and below a cell's text.
     const qreal rowPadding;
     const qreal hairline;
 

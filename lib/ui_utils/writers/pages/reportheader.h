@@ -2,11 +2,11 @@
 
 #include "writers/pages/reporttext.h"
 
-/// The heading of a section. It stands on the page of what follows it.
+/// The heading of a section. It is on the same page as what follows it.
 class UIUTILS_EXPORT ReportHeader final : public ReportText
 {
 public:
-    /// Levels below 1 and above 3 are taken as 1 and 3.
+    /// Levels below 1 and above 3 count as 1 and 3.
     ReportHeader(int level, const QString& text);
     ~ReportHeader() override;
 

@@ -33,6 +33,6 @@ ReportItem::Portion ReportImage::split(const Position& begin, qreal room, bool i
 
 void ReportImage::draw(uiutils::PageCanvas& canvas, const Portion& portion, const QPointF& topLeft) const
 {
-    // Below a heading there is less room than on a whole page.
+    // Below a heading there is less space than on an empty page.
     canvas.drawImage(m_encoded, QRectF(topLeft, m_size.scaled({m_size.width(), portion.height}, Qt::KeepAspectRatio)));
 }

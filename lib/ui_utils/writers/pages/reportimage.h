@@ -4,13 +4,13 @@
 
 #include <QByteArray>
 
-/// An image of a printed report: a plot. It is shown in its own size unless a page, with the heading
-/// above it, is too small for it.
+/// An image of a printed report: a plot. It is shown in its own size unless that does not fit on a page together with
+/// the heading above it.
 class UIUTILS_EXPORT ReportImage : public ReportItem
 {
 public:
-    /// `encoded` is a file's contents in a format that the toolkit reads. `pixelsOfAPoint` tells how fine it is
-    /// printed. What is no image, or one of more than 50 million pixels, takes no room.
+    /// `encoded` are the contents of a file in a format that Qt reads. `pixelsOfAPoint` is the number of its pixels per
+    /// point on paper. Data that is not an image, or one of more than 50 million pixels, takes no space.
     explicit ReportImage(const QByteArray& encoded, qreal pixelsOfAPoint = 1);
     ~ReportImage() override;
 

@@ -12,7 +12,7 @@ namespace uiutils {
 
 QList<ReportItem*>& sharedReportItems()
 {
-    // Never destroyed: the items of the last pass are in it when the program ends.
+    // Never destroyed: when the program ends, it still contains the items of the last pass.
     static auto& items = *new QList<ReportItem*>;
     return items;
 }

@@ -37,13 +37,13 @@ public:
     bool isCancelled = false;
 };
 
-/// One run of the printer. A slot that hears of the progress may delete the renderer, which then counts as cancelled.
+/// One run of the printer. A slot of progressChanged() may delete the renderer; the run then counts as cancelled.
 class ReportPDF::Job
 {
 public:
     explicit Job(ReportPDF& owner);
 
-    /// The whole file; nothing when it was cancelled, or could not be made for the reason in `error`.
+    /// The complete file; nothing if it was cancelled, or could not be made for the reason in `error`.
     QByteArray run(QString* error);
 
 private:
@@ -95,7 +95,7 @@ QByteArray ReportPDF::Job::run(QString* error)
     return finish(printed.path(), printer.outline(), error);
 }
 
-/// A printer device tells nothing of what could not be written: only a file that can be read again to its end was
+/// A printer device does not report what could not be written: only a file that can be read again to its end was
 /// printed.
 QByteArray ReportPDF::Job::finish(
         const QString& printed, const QVector<uiutils::pdf::OutlineEntry>& outline, QString* error) const
@@ -196,7 +196,7 @@ QByteArray ReportPDF::toPdf(QString* error)
         message = tr("another file is being printed");
         return QByteArray();
     }
-    // The toolkit would end the program.
+    // Otherwise Qt would end the program.
     if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
         message = tr("the program has no fonts, because it is not a QGuiApplication");
         return QByteArray();

@@ -13,13 +13,13 @@ namespace uiutils {
 class TableLayout;
 }
 
-/// A table of a printed report. Its columns are as wide as their contents ask for; what does not fit is wrapped, and a
-/// table with too many columns goes on below itself with the rest of them. A page that a table is carried over to
-/// repeats its title and column labels. Rows are not torn unless a page is too low for one, with the headings above it.
+/// A table of a printed report. Its columns are as wide as their contents need. What does not fit is wrapped; if a
+/// table has too many columns, the others follow below it. Each page on which a table continues repeats its title and
+/// column labels. Rows are not split unless a page is too low for one with the headings above it.
 class UIUTILS_EXPORT ReportTable final : public ReportItem
 {
 public:
-    /// A label in front of a row is a cell that is set off from the values.
+    /// A row label is a cell that is distinguished from the values.
     enum class CellKind : quint8 { Value, RowLabel };
 
     struct Cell
@@ -27,7 +27,7 @@ public:
         QString text;
         /// A code of uiutils::Status; anything else has no icon.
         int status = uiutils::Status::None;
-        /// A code of uiutils::Alignment; anything else stands in the center.
+        /// A code of uiutils::Alignment; anything else means the center.
         qint8 alignment = uiutils::Alignment::Center;
         CellKind kind = CellKind::Value;
         /// How many columns the cell covers.
@@ -38,19 +38,19 @@ public:
     ~ReportTable() override;
 
     QString title() const { return m_title; }
-    /// One text for each value column, empty where the column has no label.
+    /// One text for each value column; empty if the column has no label.
     QStringList columnLabels() const;
     bool hasLabelColumn() const { return m_hasLabelColumn; }
     /// Columns of a row, the label column included.
     int columnCount() const { return m_valueColumns + (m_hasLabelColumn ? 1 : 0); }
 
-    /// Appends a cell to the last row, which opens with its first cell.
+    /// Appends a cell to the current row, which begins with its first cell.
     void appendCell(const Cell& cell);
-    /// Closes the last row; a row without cells is none.
+    /// Ends the current row; a row without cells does not count.
     void endRow();
 
     int rowCount() const;
-    /// The cells of a row; fewer than columnCount() when the row was closed early.
+    /// The cells of a row; fewer than columnCount() if the row ended early.
     QVector<Cell> row(int index) const;
     /// The cell that begins in that column of a row, or null.
     const Cell* cellAt(int row, int column) const;
@@ -76,7 +76,7 @@ private:
 
     QString m_title;
     int m_valueColumns;
-    // Those that have a text: a table may claim many more columns than it fills.
+    // Only labels with a text: a table may claim many more columns than it fills.
     QVector<Label> m_labels;
     bool m_hasLabelColumn;
     bool m_hasSpans = false;

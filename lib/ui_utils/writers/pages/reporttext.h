@@ -8,7 +8,7 @@ namespace uiutils {
 class TextBlock;
 }
 
-/// A paragraph of a printed report. It may be parted between lines, but leaves no single line alone on a page.
+/// A paragraph of a printed report. It may be split between lines, but no single line is alone on a page.
 class UIUTILS_EXPORT ReportText : public ReportItem
 {
 public:
@@ -25,7 +25,7 @@ public:
     qreal spaceAbove() const override;
 
 protected:
-    /// The text as measure() has laid it out.
+    /// Sets the text as measure() has laid it out.
     void setBlock(std::unique_ptr<uiutils::TextBlock> block);
 
 private:

@@ -12,17 +12,17 @@ namespace {
 
 constexpr int maximumTitleLines = 3;
 constexpr qreal maximumCenteredLines = 2;
-/// A text of more is not looked through on each page that it goes on over, but taken for a paragraph.
+/// A longer text counts as a paragraph, and is not examined on each page on which it continues.
 constexpr int maximumLabelLength = 400;
-/// Of a table that is carried over, on the page where it begins.
+/// Rows on the first page of a table that continues on the next.
 constexpr int leastRows = 3;
-/// Of a page's height: a table up to it is not parted.
+/// Of a page's height: a table of at most this height is not split.
 constexpr qreal maximumMovedShare = 0.25;
 /// Of a page's height, for labels that are repeated on each page.
 constexpr qreal maximumLabelShare = 0.25;
-/// Below this many points, columns move to another band.
+/// In points: columns that would be narrower move to another band.
 constexpr qreal leastColumnWidth = 48;
-/// A width that was measured holds its text, whatever is lost on the way.
+/// A width that was measured still holds its text after rounding.
 constexpr qreal tolerance = 0.01;
 
 /// Estimated.
@@ -92,7 +92,7 @@ QString TableLayout::labelOf(int column) const
     return m_labels.value(m_table.hasLabelColumn() ? column - 1 : column);
 }
 
-/// A label stands over its column as the first value does.
+/// A label is aligned like the first value of its column.
 Qt::Alignment TableLayout::alignmentOf(int column) const
 {
     const ReportTable::Cell* const cell = m_table.rowCount() > 0 ? m_table.cellAt(0, column) : nullptr;
@@ -215,15 +215,15 @@ ReportItem::Portion TableLayout::split(const ReportItem::Position& begin, qreal 
     return portion;
 }
 
-/// Whether a row that no page holds may as well begin here instead of leaving much of a page empty.
+/// Whether a row that does not fit on any page should begin here, instead of leaving much of this page empty.
 bool TableLayout::isFirstRowTornAnyway(qreal room) const
 {
     return room > m_page.height() * maximumMovedShare
             && m_heights.of(m_lines.constFirst()) > m_page.height() - headHeight({});
 }
 
-/// Whether the beginning of a table is too little to stand at a page's foot: a few low rows of many, or part of a table
-/// that can easily be read in one piece.
+/// Whether the beginning of a table is too little for the foot of a page: a few low rows of many, or part of a table
+/// that is easier to read in one piece.
 bool TableLayout::isBetterMoved(const ReportItem::Portion& portion, int bandEnd) const
 {
     const bool begins = portion.begin.line == 0 && portion.begin.row % m_rowsOfABand == 0;
@@ -292,7 +292,7 @@ void TableLayout::drawLabels(PageCanvas& canvas, int band, const QRectF& place) 
     }
 }
 
-/// Under every other row, drawn at once: a colour for each row would cost the file more than the row's text.
+/// Under every other row, drawn together: a colour for each row would take more space in the file than the row's text.
 void TableLayout::drawStripes(PageCanvas& canvas, const ReportItem::Portion& portion, const QPointF& topLeft) const
 {
     QVector<QRectF> stripes;
@@ -328,14 +328,14 @@ void TableLayout::drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, co
     Qt::Alignment alignment = alignmentFor(cell.alignment);
     const qreal icon = iconSpace(cell);
     if (icon <= 0) {
-        // A paragraph is read from its side, whatever suits figures.
+        // A paragraph is aligned to its side, even if figures are centred.
         if (alignment == Qt::AlignHCenter && isParagraph(font, cell.text, width))
             alignment = readingSideOf(cell.text);
         canvas.drawText(font, cell.text, topLeft, width, alignment, m_style.ink, beginLine, endLine);
         return;
     }
-    // Icon and text stand together where the text alone would. A width of its own might break it otherwise than it was
-    // measured.
+    // Icon and text together are where the text alone would be. With another width than it was measured with, the text
+    // might be broken differently.
     const qreal room = width - icon;
     const bool isLong = cell.text.size() > maximumLabelLength;
     const qreal spare = isLong ? 0 : qMax(0.0, room - WrappedText::naturalWidth(font, cell.text));

@@ -8,9 +8,9 @@ namespace uiutils {
 
 class PageFont;
 
-/// How a table stands on pages: the widths of its columns, the lines of its rows, what is repeated above them.
+/// The layout of a table on pages: the widths of its columns, the lines of its rows, what is repeated above them.
 ///
-/// A table whose columns are dealt out to several bands is a stack of all of its rows for each band.
+/// A table whose columns are divided into several bands is a stack of all its rows for each band.
 class TableLayout
 {
 public:
@@ -55,7 +55,7 @@ private:
     void drawRow(PageCanvas& canvas, int band, int row, int beginLine, int endLine, const QPointF& topLeft) const;
     void drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, const QPointF& topLeft, qreal width, int beginLine,
             int endLine) const;
-    /// Calls visit(int row, int beginLine, int endLine, qreal height) for what a portion holds of each row.
+    /// Calls visit(int row, int beginLine, int endLine, qreal height) for the part of each row that is in a portion.
     template<typename Visitor> void forEachRow(const ReportItem::Portion& portion, Visitor visit) const;
 
     const ReportTable& m_table;
@@ -67,10 +67,10 @@ private:
     int m_rowsOfABand = 1;
     Title m_title;
     Title m_continuedTitle;
-    // Of each band, and the labels of its columns as they are shown: they are repeated on each page.
+    // For each band: the number of lines of its column labels, which are repeated on each page.
     QVector<int> m_labelLines;
     QVector<QStringList> m_shownLabels;
-    // Of each row, one band behind the other.
+    // For each row, one band after the other.
     QVector<int> m_lines;
 };
 

@@ -5,7 +5,7 @@
 
 namespace uiutils {
 
-/// Running text of one font and colour over the width of a page, parted between its lines.
+/// Running text of one font and colour over the width of a page, split between its lines.
 class TextBlock
 {
 public:

@@ -8,7 +8,7 @@ namespace uiutils {
 
 namespace {
 
-/// In units of the device, which the logo is made for.
+/// In units of the device, for which the logo is made.
 constexpr qreal logoHeight = 32;
 constexpr int columns = 2;
 constexpr int maximumTitleLines = 5;

@@ -32,7 +32,7 @@ public:
     qreal spaceAbove() const override { return 0; }
 
 private:
-    /// Where a field stands, from the block's top left.
+    /// Where a field is, from the block's top left corner.
     struct FieldPlace
     {
         QPointF label;

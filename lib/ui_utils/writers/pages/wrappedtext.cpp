@@ -27,7 +27,7 @@ QString pageText(const QString& text)
     return clean;
 }
 
-/// Calls visit(begin, length) for what lies between line ends.
+/// Calls visit(begin, length) for the text between line ends.
 template<typename Visitor> void forEachParagraph(const QString& text, Visitor visit)
 {
     int begin = 0;
@@ -63,7 +63,7 @@ bool isBreak(QChar c)
     return c == QLatin1Char(' ');
 }
 
-/// Of a plain text.
+/// The widest word of a plain text.
 qreal widestWord(const PageFont& font, QStringView text)
 {
     qreal widest = 0;
@@ -212,7 +212,7 @@ QString WrappedText::elided(const PageFont& font, const QString& text, qreal wid
     const Line& last = whole.m_lines[size_t(maximumLines - 1)];
     QString shortened = whole.m_text.left(last.begin + last.length);
     QString shown = withEllipsis(shortened);
-    // Doubled each time, for a character may be a mark without a width of its own, and so may a thousand of them.
+    // Doubled each time, because a character may be a mark without a width of its own, and so may a thousand of them.
     const auto overflows = [&] { return WrappedText(font, shown, width).lineCount() > maximumLines; };
     for (int spare = 1; !shortened.isEmpty() && overflows(); spare *= 2) {
         shortened.chop(spare);

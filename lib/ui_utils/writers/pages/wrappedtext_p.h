@@ -13,12 +13,12 @@ namespace uiutils {
 class PageCanvas;
 class PageFont;
 
-/// A text broken into lines that keep to a width. Words that are wider than that are broken anywhere; line feeds part
-/// lines. Whatever the text holds, control characters do not reach the page.
+/// A text broken into lines of a maximum width. Words that are wider are broken anywhere; line feeds separate lines.
+/// Control characters never reach the page.
 class WrappedText
 {
 public:
-    /// What `width` is for a text that is not to be broken.
+    /// The `width` of a text that is not to be broken.
     static constexpr qreal anyWidth = 1'000'000;
 
     WrappedText(const PageFont& font, const QString& text, qreal width);
@@ -26,18 +26,18 @@ public:
     Q_DISABLE_COPY(WrappedText)
 
     int lineCount() const { return int(m_lines.size()); }
-    /// Of the widest line.
+    /// The width of the widest line.
     qreal width() const;
 
-    /// Draws the lines from `begin` on, `end` not included, into a box of `boxWidth` at `topLeft`.
+    /// Draws the lines from `begin` up to, but not including, `end` into a box of `boxWidth` at `topLeft`.
     void draw(PageCanvas& canvas, const QPointF& topLeft, qreal boxWidth, Qt::Alignment alignment, const QColor& color,
             int begin, int end) const;
 
-    /// The width that the text takes in one line for each of its own.
+    /// The width of the text if none of its lines is broken.
     static qreal naturalWidth(const PageFont& font, const QString& text);
     /// The width below which words have to be broken.
     static qreal minimalWidth(const PageFont& font, const QString& text);
-    /// The text, ended by an ellipsis where it takes more than `maximumLines`.
+    /// The text, shortened with an ellipsis if it takes more than `maximumLines`.
     static QString elided(const PageFont& font, const QString& text, qreal width, int maximumLines);
 
 private:
@@ -46,7 +46,7 @@ private:
         int begin;
         int length;
         qreal width;
-        /// Index of the layout that holds the line, -1 for a plain one, and its line there.
+        /// Index of the layout that holds the line, -1 for a plain one, and the number of the line there.
         int layout;
         int layoutLine;
     };

@@ -26,7 +26,7 @@ struct Page
     double height = 0;
 };
 
-/// All pages in one walk. PoDoFo walks from the root for every page that it is asked for.
+/// All pages, found in one walk. PoDoFo walks from the root for every page that is requested.
 class PageList
 {
 public:
@@ -97,11 +97,11 @@ struct Links
     int children = 0;
 };
 
-/// Who follows and who contains whom. The outline itself stands behind the entries.
+/// Which entry follows and which contains which. The outline itself comes after the entries.
 QVector<Links> linksOf(const QVector<OutlineEntry>& entries)
 {
     QVector<Links> links(entries.size() + 1);
-    // The entries that the next one may lie in, outermost first.
+    // The entries that may contain the next one, outermost first.
     QVector<int> open {entries.size()};
     for (int i = 0; i < entries.size(); ++i) {
         const int depth = qBound(0, entries.at(i).level, open.size() - 1);
@@ -121,8 +121,7 @@ QVector<Links> linksOf(const QVector<OutlineEntry>& entries)
     return links;
 }
 
-/// Writes the outline's objects itself: PoDoFo's own leave out how many entries there are, and readers go by
-/// that.
+/// Writes the outline's objects itself: PoDoFo leaves out the number of entries, which readers rely on.
 class Outline
 {
 public:
@@ -172,7 +171,7 @@ private:
         setReference(object, "Next", links.next);
         setReference(object, "First", links.first);
         setReference(object, "Last", links.last);
-        // The outermost are seen; below zero is how many would be if the entry were opened.
+        // The outermost entries are visible; a negative number says how many would be if the entry were opened.
         const bool outermost = links.parent < 0;
         if (links.children > 0)
             object.GetDictionary().AddKey("Count", PoDoFo::pdf_int64(outermost ? links.children : -links.children));

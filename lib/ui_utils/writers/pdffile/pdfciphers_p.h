@@ -7,8 +7,8 @@
 
 namespace uiutils::pdf {
 
-/// Lets PoDoFo use RC4, by which the passwords of most encrypted files are checked, where it has to be asked for.
-/// Nothing else that the process does with OpenSSL changes.
+/// Lets PoDoFo use RC4, which it needs to check the passwords of most encrypted files, if OpenSSL does not offer it by
+/// default. Does not change anything else that the process does with OpenSSL.
 inline void allowOldCiphers()
 {
 #if OPENSSL_VERSION_MAJOR >= 3

@@ -50,7 +50,7 @@ QString fromPdfDocEncoding(const QByteArray& bytes)
     return result;
 }
 
-/// Half a character at the end is left out.
+/// Discards half a character at the end.
 QString fromUtf16(const QByteArray& bytes, int begin, bool bigEndian)
 {
     QString result((bytes.size() - begin) / 2, Qt::Uninitialized);
@@ -61,14 +61,14 @@ QString fromUtf16(const QByteArray& bytes, int begin, bool bigEndian)
     return result;
 }
 
-/// Of a string with the mark of the other byte order PoDoFo turns the bytes and forgets that they are UTF-16,
-/// unless it is written in hexadecimal. No other text has zeros.
+/// If a string has the mark of the other byte order and is not written in hexadecimal, PoDoFo swaps its bytes and
+/// forgets that they are UTF-16. No other text has zeros.
 bool isTurned(const QByteArray& bytes)
 {
     return bytes.size() % 2 == 0 && bytes.contains('\0');
 }
 
-/// Whether every reader takes the bytes of the text for the text, in PDFDocEncoding as in ASCII.
+/// Whether every reader shows the bytes of the text as the text, because it is the same in PDFDocEncoding and ASCII.
 bool isPlain(const QString& text)
 {
     return std::all_of(text.begin(), text.end(), [](QChar c) {
@@ -112,9 +112,8 @@ void prepare()
     Q_UNUSED(prepared)
 }
 
-/// For a file without document information PoDoFo invents some, dated now and with its own name as the
-/// producer. Nothing tells of that but that no parser made the object; objects that lie packed in a stream
-/// have none either.
+/// For a file without document information PoDoFo invents some, dated now and with its own name as the producer. The
+/// only sign of that is that no parser made the object; objects that are packed in a stream have no parser either.
 void forgetInvention(PoDoFo::PdfMemDocument& document)
 {
     PoDoFo::PdfObject* info = document.GetInfo()->GetObject();
@@ -125,10 +124,11 @@ void forgetInvention(PoDoFo::PdfMemDocument& document)
         info->GetDictionary().Clear();
 }
 
-/// Behind a text that was encrypted by blocks of 16 bytes, as many bytes of that value as fill the last one.
+/// The padding after a text that was encrypted in blocks of 16 bytes: as many bytes of that value as fill the last
+/// block.
 int paddingOf(const QByteArray& bytes, bool isUnicode)
 {
-    // The mark in front of Unicode was encrypted with it, and is no longer there.
+    // The mark in front of Unicode was encrypted too, and is no longer there.
     const int encrypted = bytes.size() + (isUnicode ? 2 : 0);
     if (bytes.isEmpty() || encrypted % 16 != 0)
         return 0;
@@ -148,7 +148,8 @@ PoDoFo::PdfString withoutPadding(const PoDoFo::PdfString& string)
     return PoDoFo::PdfString(units.constData(), PoDoFo::pdf_long(units.size()));
 }
 
-/// PoDoFo leaves it in the texts of files of 256 bits alone: with fewer, a text that ends so is meant so.
+/// PoDoFo leaves the padding only in texts of files that are encrypted with 256 bits: with fewer, a text that ends so
+/// is meant so.
 bool leavesPadding(const PoDoFo::PdfEncrypt& encryption)
 {
     const int algorithm = encryption.GetEncryptAlgorithm();
@@ -156,7 +157,7 @@ bool leavesPadding(const PoDoFo::PdfEncrypt& encryption)
             || algorithm == PoDoFo::PdfEncrypt::ePdfEncryptAlgorithm_AESV3R6;
 }
 
-/// Texts in objects that lie packed in a stream have none, and those objects no parser.
+/// Texts in objects that are packed in a stream have no padding, and these objects have no parser.
 void removePadding(PoDoFo::PdfMemDocument& document)
 {
     PoDoFo::PdfObject* info = document.GetInfo()->GetObject();
@@ -179,13 +180,13 @@ QByteArray tailOf(QIODevice& device)
     return device.read(tail);
 }
 
-/// All of them: QString's own function stops at a zero.
+/// All bytes: QString's own function stops at a zero.
 QString fromLatin1(const QByteArray& bytes)
 {
     return QString::fromLatin1(bytes.constData(), bytes.size());
 }
 
-/// Where the last "startxref" says that the table of objects lies; -1 when there is none.
+/// Where the table of objects is, as the last "startxref" says; -1 if there is none.
 qint64 tablePosition(const QByteArray& tail)
 {
     static const QRegularExpression expression(QStringLiteral("startxref\\s+(\\d{1,18})\\s+%%EOF\\s*\\z"));
@@ -306,15 +307,15 @@ std::unique_ptr<PoDoFo::PdfMemDocument> load(const QByteArray& contents, QString
 QByteArray save(PoDoFo::PdfMemDocument& document, QString* error)
 {
     QByteArray contents;
-    // The padding that PoDoFo leaves in its texts would be written with them.
+    // The padding that PoDoFo leaves in the texts would be written with them.
     if (document.GetEncrypted()) {
-        fail(error, PdfFileTexts::tr("The file is encrypted, and cannot be written so that it stays whole"));
+        fail(error, PdfFileTexts::tr("The file is encrypted, and writing it would damage it"));
         return contents;
     }
     const bool written = guarded(error, [&] {
         ArrayBuffer buffer(contents);
         std::ostream stream(&buffer);
-        // Else the stream keeps to itself that memory ran out.
+        // Otherwise the stream does not report that memory ran out.
         stream.exceptions(std::ios::badbit);
         PoDoFo::PdfOutputDevice device(&stream);
         document.Write(&device);
@@ -328,12 +329,12 @@ bool isWholePdf(QIODevice& device, QString* error)
 {
     device.seek(0);
     if (!device.read(5).startsWith("%PDF-"))
-        return fail(error, PdfFileTexts::tr("The file does not begin as a PDF file"));
+        return fail(error, PdfFileTexts::tr("The file does not begin like a PDF file"));
     const qint64 position = tablePosition(tailOf(device));
     if (position < 0)
         return fail(error, PdfFileTexts::tr("The PDF file has no end"));
     if (position == 0 || !device.seek(position) || !isTableStart(device.read(32)))
-        return fail(error, PdfFileTexts::tr("The PDF file has lost the table of its objects"));
+        return fail(error, PdfFileTexts::tr("The PDF file has no table of its objects"));
     return true;
 }
 

@@ -11,8 +11,7 @@
 
 class QIODevice;
 
-/// What the library does with PDF files. PoDoFo reports what goes wrong by throwing; no exception leaves
-/// these functions.
+/// What the library does with PDF files. PoDoFo reports errors by throwing; no exception leaves these functions.
 namespace uiutils::pdf {
 
 /// The texts of this room, under one context for translators.
@@ -21,12 +20,12 @@ struct PdfFileTexts
     Q_DECLARE_TR_FUNCTIONS(PDFFile)
 };
 
-/// PoDoFo's words for an error code; never empty.
+/// PoDoFo's text for an error code; never empty.
 QString errorText(int code);
-/// Those for the exception that is being handled, whatever it is. Call it in a handler only.
+/// The text for the exception that is being handled, whatever it is. Call it only in a handler.
 QString currentErrorText();
 
-/// Does `work`; returns false and sets `error` when it threw.
+/// Calls `work`; returns false and sets `error` if it throws.
 template<typename Work> bool guarded(QString* error, const Work& work)
 {
     try {
@@ -38,29 +37,29 @@ template<typename Work> bool guarded(QString* error, const Work& work)
     }
 }
 
-/// Text strings of a file, in whichever of the encodings of PDF they are written.
+/// A text string of a file, in any of the encodings of PDF.
 QString textOf(const PoDoFo::PdfString& string);
-/// The same; empty for what is no string or is not there.
+/// The same; empty if the object is null or not a string.
 QString textOf(const PoDoFo::PdfObject* object);
-/// The string that holds all of `text`, with lone surrogates replaced.
+/// A string of all of `text`, with lone surrogates replaced.
 PoDoFo::PdfString stringOf(const QString& text);
 
-/// A PDF date, "D:YYYYMMDDHHmmSS+HH'mm'", of which everything behind the year may be missing. One that names
-/// no zone is in local time. Invalid when the text is not a date.
+/// A PDF date, "D:YYYYMMDDHHmmSS+HH'mm'", of which everything after the year may be missing. A date without a zone is
+/// in local time. Invalid if the text is not a date.
 QDateTime dateTime(const QString& text);
 
-/// The document that a file with these contents holds; null and `error` set when PoDoFo cannot read it or it
-/// asks for a password. It needs neither the file nor the bytes any more. Contents from outside have passed a
-/// PdfProbe before.
+/// The document of a file with these contents; null, with `error` set, if PoDoFo cannot read it or it asks for a
+/// password. The document needs neither the file nor the bytes any more. Contents from outside must have passed a
+/// PdfProbe.
 std::unique_ptr<PoDoFo::PdfMemDocument> load(const QByteArray& contents, QString* error);
-/// The document as a file; empty and `error` set when it cannot be written, or not whole, as no encrypted one can.
+/// The document as a file; empty, with `error` set, if it cannot be written completely, as no encrypted one can.
 QByteArray save(PoDoFo::PdfMemDocument& document, QString* error);
 
-/// Whether a random-access device that is open for reading holds a PDF file to its end: the header, the end
-/// mark and, where the file says it is, the table of its objects. A file that a full disk or a lost stick cut
-/// off does not.
+/// Whether a random-access device that is open for reading holds a complete PDF file: the header, the end mark and,
+/// where the file says it is, the table of its objects. A file that was cut short, by a full disk or because the USB
+/// drive was removed, does not.
 bool isWholePdf(QIODevice& device, QString* error);
-/// The same for the file at `path` on disk.
+/// The same for the file at `path` on the disk.
 bool isWholePdf(const QString& path, QString* error);
 
 } // namespace uiutils::pdf

@@ -21,7 +21,7 @@ namespace pdf = uiutils::pdf;
 namespace {
 
 constexpr qint64 largestFile = qint64(64) * 1024 * 1024;
-/// What a name in a PDF file may have, and what a file name may have.
+/// The maximum of bytes in a name in a PDF file, and in a file name.
 constexpr int longestKey = 127;
 constexpr int longestFileName = 255;
 
@@ -35,13 +35,13 @@ bool statusOf(const QString& path, struct stat* status)
     return !path.contains(QChar(QChar::Null)) && ::stat(QFile::encodeName(path).constData(), status) == 0;
 }
 
-/// Why the file is not to be read; asked before it is opened, for opening a pipe waits and opening a device
-/// may do something.
-QString refusalOf(const QString& path)
+/// Why the file is not to be read. Checked before it is opened, because opening a pipe waits, and opening a device may
+/// have effects.
+QString rejectionOf(const QString& path)
 {
     struct stat status = {};
     if (path.contains(QChar(QChar::Null)))
-        return pdf::PdfFileTexts::tr("The path holds a NUL character");
+        return pdf::PdfFileTexts::tr("The path contains a NUL character");
     if (!statusOf(path, &status))
         return qt_error_string(errno);
     if (!S_ISREG(status.st_mode))
@@ -51,11 +51,11 @@ QString refusalOf(const QString& path)
     return QString();
 }
 
-/// All that the file holds; nothing and `error` set when it cannot or must not be read, or not in the time.
+/// The contents of the file; nothing, with `error` set, if it cannot or must not be read, or not within the time.
 QByteArray read(const QString& path, const QDeadlineTimer& deadline, QString* error)
 {
     constexpr int portion = 1024 * 1024;
-    *error = refusalOf(path);
+    *error = rejectionOf(path);
     QFile file(path);
     QByteArray contents;
     if (!error->isEmpty())
@@ -73,10 +73,10 @@ QByteArray read(const QString& path, const QDeadlineTimer& deadline, QString* er
 
 std::unique_ptr<PoDoFo::PdfMemDocument> loadUntrusted(const QString& path, QString* error)
 {
-    // Reading gets a third of it, so that what is read can be tried out and loaded.
+    // Reading gets a third of the time, so that the file can still be tried and loaded.
     const QDeadlineTimer deadline(uiutils::PdfProbe::patience);
     const QByteArray contents = read(path, QDeadlineTimer(uiutils::PdfProbe::patience / 3), error);
-    // The bytes that were tried out are the bytes that are loaded, whatever becomes of the file.
+    // The bytes that were tried are the bytes that are loaded, whatever happens to the file.
     if (!error->isEmpty() || !uiutils::PdfProbe(int(deadline.remainingTime())).passes(contents, error))
         return nullptr;
     return pdf::load(contents, error);
@@ -109,7 +109,7 @@ bool isUsableKey(const QString& key)
 
 } // namespace
 
-/// The file and the document that was loaded from it, null while there is none.
+/// The file, and the document that was loaded from it; null while there is none.
 class uiutils::PDFFilePrivate
 {
 public:
@@ -245,7 +245,7 @@ void PDFFile::write(const QString& filename)
 
 bool PDFFilePrivate::writeTo(const QString& path, QString* error)
 {
-    // Made in memory: PoDoFo does not notice when a disk is full.
+    // Written in memory first, because PoDoFo does not notice a full disk.
     const QByteArray contents = pdf::save(*document, error);
     if (contents.isEmpty())
         return false;

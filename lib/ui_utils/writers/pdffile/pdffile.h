@@ -11,13 +11,12 @@ namespace uiutils {
 class PDFFilePrivate;
 }
 
-/// The document information of a PDF file: reads it, changes it and writes the file back. Pages are left
-/// alone.
+/// The document information of a PDF file: reads it, changes it and writes the file back. Pages are not changed.
 ///
-/// Paths are the instrument's. What fails is said in the log. Files come from memory sticks, so each is tried
-/// out in a process of its own before it is loaded; what is no regular file, has more than 64 MiB, asks for a
-/// password, or takes too long for setFilename() to return within a second, is not. An encrypted file that opens
-/// without a password is read, and not written.
+/// Paths are the instrument's. If something fails, the log has a line. Files come from USB drives, so each is tried in
+/// a process of its own before it is loaded. A file is rejected if it is not a regular file, has more than 64 MiB, asks
+/// for a password, or takes so long that setFilename() would not return within a second. An encrypted file that opens
+/// without a password is read, but not written.
 class UIUTILS_EXPORT PDFFile : public QObject
 {
     Q_OBJECT
@@ -33,37 +32,35 @@ public:
     ~PDFFile() override;
 
     QString getFilename() const;
-    /// Loads the file anew, also when the path is the one it had. When the file cannot be loaded, no document
-    /// is held. Emits filenameChanged() in any case, and nothing else: what the properties say has changed
-    /// with the file.
+    /// Loads the file, again if the path is the same. If the file cannot be loaded, no document is held. Emits
+    /// filenameChanged() in any case and nothing else, although the other properties change with the file.
     void setFilename(const QString& path);
 
-    /// Empty while no document is held, and where the document has no such entry or one that is not a text.
+    /// Empty while no document is held, and if the document has no such entry or one that is not a text.
     QString getTitle() const;
     QString getAuthor() const;
     QString getSubject() const;
     QString getProducer() const;
-    /// In local time, as the default locale writes a long date; empty when the file has none that can be
-    /// read.
+    /// In local time, in the long format of the default locale; empty if the file has no date that can be read.
     QString getCreationDate() const;
 
-    /// Change the document that is held, not the file. The signal is emitted when there is a document and the
-    /// change was made.
+    /// Change the document that is held, not the file. The signal is emitted if there is a document and the change was
+    /// made.
     void setTitle(const QString& title);
     void setAuthor(const QString& author);
     void setSubject(const QString& subject);
     void setProducer(const QString& producer);
 
-    /// Any entry; empty when there is none, or one that is not a text.
+    /// Any entry; empty if there is none, or one that is not a text.
     QString getMetaData(const QString& key) const;
-    /// Adds or replaces any entry of the document that is held. Keys that a file cannot hold change nothing:
-    /// empty ones, those with control characters, and those of more than 127 bytes.
+    /// Adds or replaces any entry of the document that is held. Keys that a file cannot contain are rejected: empty
+    /// ones, those with control characters, and those of more than 127 bytes.
     Q_INVOKABLE void setMetaData(const QString& key, const QString& value);
 
-    /// Writes the document to `filename`, or to the file that it was loaded from when that is empty; with no
-    /// document does nothing. The file then holds the whole document or, when that failed, what it held
-    /// before. On the way to the file that was loaded, the document has that file's name with "_tmp.pdf" for
-    /// ".pdf", and what is there goes.
+    /// Writes the document to `filename`; if that is empty, to the file that it was loaded from. Does nothing without a
+    /// document. The file then holds the complete document or, if that failed, what it held before. A file that was
+    /// loaded is written through a temporary one, which has "_tmp.pdf" in place of ".pdf" and replaces a file of that
+    /// name.
     Q_INVOKABLE void write(const QString& filename);
 
 Q_SIGNALS:

@@ -63,8 +63,7 @@ QString ownFile()
     return QFileInfo(name.isEmpty() ? QStringLiteral("/proc/self/exe") : name).canonicalFilePath();
 }
 
-/// Found from where the library lies, never from the environment or the current folder: it is started on
-/// trust.
+/// Found from the place of the library, never from the environment or the current folder, because it is trusted.
 QString installedHelper()
 {
     const QFileInfo own(ownFile());
@@ -112,18 +111,18 @@ public:
             return;
         if (m_running)
             ::kill(m_pid, SIGKILL);
-        // A host that has its own ideas of children may have taken this one's end already.
+        // A host that handles the end of children itself may already have waited for this one.
         while (::waitpid(m_pid, nullptr, 0) < 0 && errno == EINTR) { }
     }
     Q_DISABLE_COPY(Helper)
 
     bool isStarted() const { return m_started; }
 
-    /// Why it was not started, as errno has it.
+    /// Why it was not started: a value of errno.
     int error() const { return m_error; }
 
-    /// The result; -1 when it ended without one, or the time is up: it may take `patience` milliseconds in all, and has
-    /// to leave as many of them as it took to load the file, for that is to be loaded once more.
+    /// The result; -1 if it ended without one, or if the time is up: it may take `patience` milliseconds in all, and
+    /// has to leave as many of them as it took to load the file, because the file is then loaded again.
     int result(int patience)
     {
         QElapsedTimer clock;
@@ -169,7 +168,7 @@ private:
         ::posix_spawn_file_actions_adddup2(&actions, file, STDIN_FILENO);
         ::posix_spawn_file_actions_adddup2(&actions, answer, STDOUT_FILENO);
         ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-        // It must be possible to end it, whatever this process ignores or blocks.
+        // The helper must be ended by signals, whatever this process ignores or blocks.
         sigset_t signalSet;
         ::sigemptyset(&signalSet);
         ::posix_spawnattr_setsigmask(&attributes, &signalSet);
@@ -177,7 +176,7 @@ private:
         ::posix_spawnattr_setsigdefault(&attributes, &signalSet);
         ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
 
-        // Where this process found PoDoFo, it is to be found.
+        // The helper finds PoDoFo where this process found it.
         QByteArray libraries = "LD_LIBRARY_PATH=" + qgetenv("LD_LIBRARY_PATH");
         QByteArray name = program;
         char* const arguments[] = {name.data(), nullptr};
@@ -201,7 +200,7 @@ private:
 bool passesUnseen()
 {
     static const bool told = [] {
-        qWarning("PDF files are loaded without being tried out first: the helper program uiutils-pdf-probe is not "
+        qWarning("PDF files are loaded without being tried first: the helper program uiutils-pdf-probe is not "
                  "installed");
         return true;
     }();
@@ -210,7 +209,7 @@ bool passesUnseen()
 
 QString cannotTry(const QString& reason)
 {
-    return pdf::PdfFileTexts::tr("The file cannot be tried out first: %1").arg(reason);
+    return pdf::PdfFileTexts::tr("The file cannot be tried first: %1").arg(reason);
 }
 
 } // namespace
@@ -234,7 +233,7 @@ bool PdfProbe::passes(const QByteArray& contents, QString* error) const
     return error->isEmpty();
 }
 
-/// No answer is no good answer: what it was that hindered one may have been brought about.
+/// No answer means rejection, because somebody may have prevented the answer on purpose.
 QString PdfProbe::problemOf(const QByteArray& contents) const
 {
     if (contents.isEmpty())
@@ -250,7 +249,7 @@ QString PdfProbe::problemOf(const QByteArray& contents) const
         return result == pdfprobe::harmless ? QString() : pdf::errorText(result);
     if (helper.isRunning())
         return pdf::PdfFileTexts::tr("Reading the file takes too long");
-    return helper.hasBegun() ? pdf::PdfFileTexts::tr("The file cannot be read without harm")
+    return helper.hasBegun() ? pdf::PdfFileTexts::tr("The file is not safe to read")
                              : cannotTry(pdf::PdfFileTexts::tr("%1 gives no answer").arg(m_helper));
 }
 

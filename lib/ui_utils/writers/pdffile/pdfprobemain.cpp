@@ -1,5 +1,4 @@
-// Does with a PDF file all that the library would do with it, in a process that may go down. Started by the
-// library only.
+// Does with a PDF file all that the library would do with it, in a process that may crash. Only the library starts it.
 
 #include "writers/pdffile/pdfciphers_p.h"
 #include "writers/pdffile/pdfprobeprotocol_p.h"
@@ -28,12 +27,12 @@ void limit(__rlimit_resource resource, rlim_t value)
     if (::getrlimit(resource, &now) == 0 && now.rlim_max != RLIM_INFINITY && now.rlim_max < value)
         value = now.rlim_max;
     const rlimit wanted {value, value};
-    // A process that cannot be confined must not look into the file.
+    // A process without limits must not read the file.
     if (::setrlimit(resource, &wanted) != 0)
         ::_exit(1);
 }
 
-/// Leaves this process nothing but the two descriptors and a bounded share of the machine.
+/// Leaves this process nothing but the two descriptors and a limited share of the machine.
 void confine(std::uint64_t bytes)
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -85,7 +84,7 @@ void readAndChange(PoDoFo::PdfMemDocument& document)
     info->SetProducer(text);
 }
 
-/// Ends with the document's destruction, which recurses as deep as its loading did.
+/// Includes the destruction of the document, which recurses as deep as loading it.
 void tryOut(const char* contents, std::uint64_t bytes)
 {
     PoDoFo::PdfError::EnableLogging(false);
@@ -125,12 +124,12 @@ int main()
     void* contents = ::mmap(nullptr, bytes, PROT_READ, MAP_PRIVATE, STDIN_FILENO, 0);
     if (contents == MAP_FAILED)
         return 1;
-    // It is a library, which a confined process cannot open.
+    // The ciphers are in a library, which cannot be opened after confine().
     if (::memmem(contents, bytes, "/Encrypt", 8))
         uiutils::pdf::allowOldCiphers();
     confine(bytes);
     say(probe::started);
     say(resultFor(static_cast<const char*>(contents), bytes));
-    // Nothing is left to clean up, and what runs at exit might want to write.
+    // There is nothing to clean up, and handlers that run at exit might write.
     ::_exit(0);
 }

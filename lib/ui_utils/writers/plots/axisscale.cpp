@@ -9,17 +9,17 @@ namespace uiutils {
 
 namespace {
 
-// Short of the ends of a double, so that no difference or product below overflows.
+// Below the limits of a double, so that no difference or product in this file overflows.
 constexpr double largest = 1e300;
 constexpr double smallest = 1e-300;
-// An extent that is smaller against its own values drowns in their rounding.
+// An extent that is smaller, relative to its own values, is lost in their rounding.
 constexpr double finest = 1e-10;
 // The same for the logarithms of its values.
 constexpr double finestRatio = 1 + 1e-6;
 
 constexpr double roundDigits[] = {1, 2, 5};
 
-/// 1, 2 or 5 times a power of ten, the next that is not below `value`.
+/// 1, 2 or 5 times a power of ten: the smallest that is at least `value`.
 double roundUp(double value)
 {
     const double power = std::pow(10, std::floor(std::log10(value)));
@@ -59,7 +59,7 @@ int decadeOf(double value)
     return int(std::floor(std::log10(value) + finest));
 }
 
-/// The decade of the next power of ten that is not below `value`.
+/// The decade of the smallest power of ten that is at least `value`.
 int decadeAbove(double value)
 {
     return -decadeOf(1 / value);
@@ -97,7 +97,7 @@ void Interval::include(double value)
 AxisScale::AxisScale(Interval data, Kind kind, Ends ends, int maximumTicks)
     : m_kind(kind)
 {
-    // An axis across zero that ends at ticks needs three.
+    // An axis that crosses zero and ends at ticks needs three.
     const int ticks = std::max(3, maximumTicks);
     if (kind == Logarithmic)
         scaleLogarithmically(positiveExtent(data), ends, ticks);
@@ -109,7 +109,7 @@ void AxisScale::scaleLinearly(Interval data, Ends ends, int maximumTicks)
 {
     double first = 0;
     double last = 0;
-    // Rounding to ticks may add one at either end, and then the next round step is due.
+    // Rounding to ticks may add one at each end; the next round step is used then.
     for (double wanted = (data.high - data.low) / maximumTicks;; wanted = m_step * 1.5) {
         m_step = roundUp(wanted);
         const double slack = m_step * finest;
@@ -135,7 +135,7 @@ void AxisScale::scaleLogarithmically(Interval data, Ends ends, int maximumTicks)
     m_hasEvenTicks = true;
 }
 
-/// Ticks at 1, 2 and 5 times the powers of ten. Returns false when those are too few or too many.
+/// Ticks at 1, 2 and 5 times the powers of ten. Returns false if these are too few or too many.
 bool AxisScale::addRoundTicks(Interval data, Ends ends, int maximumTicks)
 {
     if (ends == AtTicks)
@@ -149,8 +149,7 @@ bool AxisScale::addRoundTicks(Interval data, Ends ends, int maximumTicks)
     return true;
 }
 
-/// Ticks at powers of ten. Returns false when the data hold less than two of them, which an axis that ends at ticks
-/// always does.
+/// Ticks at powers of ten. Returns false if the axis has fewer than two of them; one that ends at ticks always has two.
 bool AxisScale::addDecades(Interval data, Ends ends, int maximumTicks)
 {
     int first = decadeAbove(data.low);
@@ -193,7 +192,7 @@ double AxisScale::position(double value) const
 QString AxisScale::label(double tick, const QLocale& locale) const
 {
     if (m_kind == Logarithmic && !m_hasEvenTicks) {
-        // One form for the whole axis, so that neighbours can be compared.
+        // One notation for all ticks, so that they can be compared.
         const bool isPlain = m_ticks.constFirst() > 0.99e-4 && m_ticks.constLast() < 1.01e6;
         return isPlain ? locale.toString(tick, 'f', std::max(0, -decadeOf(tick))) : locale.toString(tick, 'e', 0);
     }

@@ -6,43 +6,43 @@
 
 namespace uiutils {
 
-/// The values from `low` to `high`; empty until a value is taken in.
+/// The values from `low` to `high`; empty until a value is included.
 struct Interval
 {
     double low = 1;
     double high = 0;
 
     bool isEmpty() const { return low > high; }
-    /// Widens the interval to hold `value`; one that is not finite is left out.
+    /// Widens the interval to contain `value`; one that is not finite is left out.
     void include(double value);
 };
 
-/// The arithmetic of a plot's axis: which values it spans, where its round ticks lie and how they read.
+/// The arithmetic of a plot's axis: which values it spans, where its round ticks are and how they are labelled.
 ///
-/// Whatever interval it is given (empty, of no extent, at the ends of what a double holds), it spans a proper one.
+/// Whatever interval it is given (empty, of no extent, at the limits of a double), it spans a proper one.
 class AxisScale
 {
 public:
     enum Kind { Linear, Logarithmic };
-    /// Whether the axis ends with the data or at the next tick beyond them.
+    /// Whether the axis ends with the data, or at the next tick beyond the data.
     enum Ends { AtData, AtTicks };
 
-    /// An axis for `data` with at most `maximumTicks` ticks; less than three count as three. A logarithmic axis takes
-    /// positive values only.
+    /// An axis for `data` with at most `maximumTicks` ticks; a maximum below three counts as three. A logarithmic axis
+    /// takes only positive values.
     AxisScale(Interval data, Kind kind, Ends ends, int maximumTicks);
 
     double low() const { return m_low; }
     double high() const { return m_high; }
 
-    /// Where `value` lies between the ends, 0 to 1; NaN for one that a logarithmic axis cannot hold.
+    /// Where `value` is between the ends, 0 to 1; NaN for a value that a logarithmic axis cannot show.
     double position(double value) const;
 
-    /// Round values to label, ascending.
+    /// The round values that get a label, in ascending order.
     const QVector<double>& ticks() const { return m_ticks; }
     /// Further grid lines between the ticks of a logarithmic axis.
     const QVector<double>& minorTicks() const { return m_minorTicks; }
 
-    /// A tick's value as the user of `locale` reads it, with as many decimals as it takes to tell ticks apart.
+    /// A tick's value as users of `locale` read it, with enough decimals to distinguish the ticks.
     QString label(double tick, const QLocale& locale) const;
 
 private:
@@ -55,7 +55,7 @@ private:
     double m_low = 0;
     double m_high = 1;
     double m_step = 1;
-    // A logarithmic axis too short for round values of its own has ticks a step apart.
+    // A logarithmic axis that is too short for its own round values has ticks one step apart.
     bool m_hasEvenTicks = false;
     QVector<double> m_ticks;
     QVector<double> m_minorTicks;

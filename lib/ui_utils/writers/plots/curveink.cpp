@@ -74,7 +74,7 @@ void CurveInk::addLines(QVector<QLineF>& lines, int column, int gap) const
     const double x = column + 0.5;
     int top = -1;
     int bottom = -1;
-    // From edge to edge but for a quarter: a line of no length would not be drawn.
+    // A quarter of a pixel short at each end; a line without length would not be drawn.
     const auto endLine = [&] {
         if (top >= 0)
             lines += QLineF(x, top + 0.25, x, bottom + 0.75);

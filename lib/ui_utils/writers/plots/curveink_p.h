@@ -9,18 +9,18 @@
 
 namespace uiutils {
 
-/// The pixels that lines run through, each counted once however often they are crossed: all that can be seen
-/// of a curve that covers itself.
+/// The pixels that lines cross, each counted once however often it is crossed: all that can be seen of a curve that
+/// covers itself.
 class CurveInk
 {
 public:
     explicit CurveInk(const QSize& size);
 
-    /// Marks the pixels from one point to another; what lies outside the size counts for its nearest pixel.
+    /// Marks the pixels from one point to another. A pixel outside the size counts as the nearest one inside.
     void mark(QPointF from, QPointF to);
 
-    /// Vertical lines along the middles of the pixel columns, one for each run of marked pixels. Runs that
-    /// are `gap` pixels or less apart make one line.
+    /// Vertical lines along the middles of the pixel columns, one for each run of marked pixels. Runs that are at most
+    /// `gap` pixels apart become one line.
     QVector<QLineF> lines(int gap) const;
 
 private:

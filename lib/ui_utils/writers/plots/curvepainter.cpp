@@ -10,7 +10,7 @@ namespace uiutils {
 
 namespace {
 
-// The time to stroke lines in one go grows with the square of their number.
+// The time to stroke lines together grows with the square of their number.
 constexpr int linesOfAPiece = 16;
 
 } // namespace
@@ -76,7 +76,7 @@ void CurvePainter::drawInPieces(const QVector<QPointF>& stretch)
     double length = 0;
     for (int first = 0; first + 1 < stretch.size(); first += linesOfAPiece) {
         const int last = std::min(first + linesOfAPiece, stretch.size() - 1);
-        // A solid pen must not be given one: it would become a dashed one.
+        // A solid pen must not be given a dash offset: it would become a dashed one.
         if (pen.style() != Qt::SolidLine)
             pen.setDashOffset(length / pen.widthF());
         m_painter.setPen(pen);
@@ -90,8 +90,7 @@ void CurvePainter::drawInk(const CurveInk& ink, double width)
 {
     m_painter.setPen(QPen(m_pen.color(), width, Qt::SolidLine, Qt::RoundCap));
     m_painter.translate(m_frame.topLeft());
-    // The caps of two lines that are a pen's width apart meet; lines end a quarter of a pixel early at either
-    // end.
+    // The caps of two lines that are a pen's width apart meet; lines are a quarter of a pixel short at each end.
     m_painter.drawLines(ink.lines(int(width - 0.5)));
     m_painter.translate(-m_frame.topLeft());
 }

@@ -10,15 +10,15 @@ namespace uiutils {
 
 class CurveInk;
 
-/// Draws lines and dots of one curve in time that the picture's pixels bound, however many points there are
-/// and in whatever order they come.
+/// Draws lines and dots of one curve. The time has a maximum that depends on the number of pixels only, not on the
+/// number of points or their order.
 ///
-/// What would paint the frame more than once is gathered pixel by pixel first. Such a curve covers itself, so
-/// that neither its dashes nor its single lines could be told apart.
+/// A curve that would paint the frame more than once is collected pixel by pixel first. Such a curve covers itself, so
+/// that neither its dashes nor its single lines could be distinguished.
 class CurvePainter
 {
 public:
-    /// Everything is in the painter's coordinates and within the frame.
+    /// All points are in the painter's coordinates and within the frame.
     CurvePainter(QPainter& painter, const QRectF& frame, const QPen& pen);
 
     void drawLines(const QVector<QVector<QPointF>>& stretches);

@@ -15,7 +15,7 @@ namespace {
 const QLatin1String xEnd("_x:doubleARRAY:");
 const QLatin1String yEnd("_y:doubleARRAY:");
 
-/// A label or unit, as much of it as any plot has room for: a service may hold megabytes, and every character is
+/// A label or unit, cut to a length that every plot has space for: a service may hold megabytes, and each character is
 /// measured.
 QString shownText(const QString& text)
 {

@@ -10,7 +10,7 @@
 
 namespace uiutils {
 
-/// One curve of a plot, its points as the service holds them: the shorter array decides how many there are.
+/// One curve of a plot, with the points of the service: the shorter array determines how many there are.
 struct PlotCurve
 {
     QString label;
@@ -19,7 +19,7 @@ struct PlotCurve
     QVariantList ys;
 
     int size() const { return qMin(xs.size(), ys.size()); }
-    /// A coordinate that is no number is NaN.
+    /// A coordinate that is not a number is NaN.
     QPointF point(int index) const { return {number(xs.at(index)), number(ys.at(index))}; }
 
 private:
@@ -31,7 +31,7 @@ private:
     }
 };
 
-/// A level that the curves are held against.
+/// A level that the curves are compared with.
 struct PlotLimit
 {
     enum Kind { Lower, Upper };
@@ -40,14 +40,14 @@ struct PlotLimit
     QString unit;
 };
 
-/// The values that the axes of a plot have to hold: those of points that can be drawn, and the limits.
+/// The values that the axes of a plot have to show: those of points that can be drawn, and the limits.
 struct PlotExtent
 {
     Interval x;
     Interval y;
 };
 
-/// What a service says about its plot.
+/// The plot as the service describes it.
 struct PlotData
 {
     QVector<PlotCurve> curves;
@@ -58,19 +58,19 @@ struct PlotData
     AxisScale::Kind yKind = AxisScale::Linear;
 
     PlotExtent extent() const;
-    /// The same of the points of one curve alone.
+    /// The same for the points of one curve only.
     PlotExtent extentOf(const PlotCurve& curve) const;
-    /// Whether a point is finite and lies where the axes can show it.
+    /// Whether a point is finite, and positive along logarithmic axes.
     bool isDrawable(const QPointF& point) const;
 };
 
 /// Reads the curves of a service: pairs of result arrays whose ids end in "_x:doubleARRAY:" and "_y:doubleARRAY:" and
-/// agree before that. Nothing when there is no such service.
+/// agree before that. Empty if there is no such service.
 PlotData readPlotData(const QString& service);
 
-/// Thins a curve out to what `columns` pixel columns can show. Of neighbouring points that fall into one column only
-/// the first, the lowest, the highest and the last stay, so that no spike is lost; a point that cannot be drawn parts
-/// the curve. Returns the connected stretches, in positions 0 to 1 along both axes.
+/// Thins a curve out to what `columns` pixel columns can show. Of neighbouring points in one column only the first, the
+/// lowest, the highest and the last remain, so that no spike is lost; a point that cannot be drawn interrupts the
+/// curve. Returns the connected stretches, in positions 0 to 1 along both axes.
 QVector<QVector<QPointF>> visibleStretches(
         const PlotData& data, const PlotCurve& curve, const AxisScale& xScale, const AxisScale& yScale, int columns);
 

@@ -75,7 +75,7 @@ bool PlotImage::write(const QString& path)
 
 QImage uiutils::PlotImagePrivate::draw() const
 {
-    // Never finer than the largest picture.
+    // Never more pixels than the largest picture.
     const QSize pixels = (size * pixelScale).boundedTo(QSize(maximumSide, maximumSide));
     QImage image(pixels, QImage::Format_RGB32);
     image.fill(Qt::white);

@@ -18,7 +18,7 @@ class PlotImagePrivate;
 /// of the first pair makes its axis logarithmic; the attributes "lowerLimit" and "upperLimit" of a y item are marked.
 ///
 /// Whatever the arrays hold, write() makes an image. A point that is not finite, or not positive along a logarithmic
-/// axis, parts its curve. However many points there are, none that sticks out is lost. It needs a QGuiApplication.
+/// axis, interrupts its curve. No peak is lost, however many points there are. Needs a QGuiApplication.
 class UIUTILS_EXPORT PlotImage
 {
 public:
@@ -27,17 +27,17 @@ public:
     Q_DISABLE_COPY_MOVE(PlotImage)
 
     void setService(const QString& service);
-    /// The colour behind the curve, as CSS names it or "#rrggbb"; an empty or unknown one means white.
+    /// The background colour, a name of CSS or "#rrggbb"; an empty or unknown one means white.
     void setCurveBackground(const QString& color);
-    /// In pixels; a width or height below 1 means the default of 600 x 400, others are kept within 50 to 4,000.
+    /// In pixels; a width or height below 1 means the default of 600 x 400, others are limited to 50 to 4,000.
     void setSize(int width, int height);
 
-    /// How many pixels the picture has for each of its size, along both sides: 1 by default, more for paper.
+    /// How many pixels the picture has for each pixel of its size, along both sides: 1 by default, more for paper.
     void setPixelScale(int scale);
 
-    /// Draws the plot and writes it to `path`, an instrument path. A temporary image, "/tmp/rep_plot_...", need not
-    /// outlive a power cut and does not wait for the disk. Returns false when the file could not be written; getData()
-    /// holds the image all the same.
+    /// Draws the plot and writes it to `path`, an instrument path. A temporary image, "/tmp/rep_plot_...", does not
+    /// have to survive a power cut and is not written durably. Returns false if the file could not be written;
+    /// getData() returns the image all the same.
     bool write(const QString& path);
 
     /// The PNG of the last write().

@@ -9,7 +9,7 @@ namespace uiutils {
 namespace {
 
 constexpr int rowsAtMost = 3;
-// In units: the line that stands for the curve, the gap behind it, the gap to the next entry.
+// In units: the sample of the line, the gap after it, the gap to the next entry.
 constexpr double sampleWidth = 2;
 constexpr double sampleGap = 0.5;
 constexpr double entryGap = 1.5;
@@ -33,7 +33,7 @@ PlotLegend::PlotLegend(const QVector<LegendEntry>& entries, const QFontMetricsF&
     }
 }
 
-/// Returns false when the rows are full.
+/// Returns false if the rows are full.
 bool PlotLegend::place(const LegendEntry& entry, const QFontMetricsF& metrics)
 {
     const double width = metrics.horizontalAdvance(entry.text) + (textStart(entry) + entryGap) * m_unit;
@@ -53,7 +53,7 @@ bool PlotLegend::place(const LegendEntry& entry, const QFontMetricsF& metrics)
     return true;
 }
 
-/// Takes away entries until there is room to say how many are left out.
+/// Removes entries until there is space to say how many are left out.
 void PlotLegend::placeCount(int total, const QFontMetricsF& metrics)
 {
     const QString text = QCoreApplication::translate("PlotImage", "and %1 more");

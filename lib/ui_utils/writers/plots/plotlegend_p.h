@@ -9,15 +9,14 @@
 
 namespace uiutils {
 
-/// What a line of a plot stands for. Without a pen it is text alone.
+/// An entry of the legend: a sample of the line and its text; without a pen, only the text.
 struct LegendEntry
 {
     QString text;
     QPen pen;
 };
 
-/// The legend of a plot: entries beside one another in up to three rows. When there are more, the last one
-/// says how many.
+/// The legend of a plot: entries side by side in at most three rows. If there are more, the last entry says how many.
 class PlotLegend
 {
 public:
@@ -30,7 +29,7 @@ public:
     };
 
     PlotLegend() = default;
-    /// `unit` is the plot's measure of distances, `width` that of a row; both in pixels.
+    /// `unit` is the plot's measure of distances, `width` the width of a row; both in pixels.
     PlotLegend(const QVector<LegendEntry>& entries, const QFontMetricsF& metrics, double unit, double width);
 
     int rowCount() const { return m_places.isEmpty() ? 0 : m_places.constLast().row + 1; }

@@ -12,7 +12,7 @@ namespace uiutils {
 
 namespace {
 
-// Told apart by readers of any colour vision; after the last the dashes change.
+// Distinguishable with any colour vision; after the last colour the dashes change.
 const QRgb curveColors[] = {0x00689b, 0xd55e00, 0x009e73, 0xaa4499, 0x7a5195, 0x444444};
 const QRgb limitColor = 0xc62828;
 const QRgb gridColor = 0xd5dbe0;
@@ -86,7 +86,7 @@ void PlotPainter::layOut()
     const double legendHeight = m_legend.rowCount() * line;
     const double top = line + legendHeight + 0.8 * m_unit;
     const double bottom = 2 * line + 0.9 * m_unit;
-    // Whole pixels, so that a curve is thinned out by the very columns that it is drawn in.
+    // Whole pixels, so that a curve is thinned out in the same columns in which it is drawn.
     m_frame = QRectF(left, top, m_size.width() - left - right, m_size.height() - top - bottom).toRect();
     m_legendPlace = QPointF(m_frame.left(), line + 0.4 * m_unit);
 }
@@ -203,7 +203,7 @@ void PlotPainter::drawCurve(int index)
         for (QPointF& point : stretch)
             point = QPointF(
                     m_frame.left() + point.x() * m_frame.width(), m_frame.bottom() - point.y() * m_frame.height());
-        // A point without neighbours is no line.
+        // A point without neighbours makes no line.
         if (showsPoints || stretch.size() == 1)
             dots += stretch;
     }

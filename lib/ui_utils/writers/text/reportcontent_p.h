@@ -13,7 +13,7 @@ class NodeReader;
 
 /// What every layout of a report for people shows beside the document, in the same words.
 
-/// Labels and values under a title; no rows where there is nothing to tell.
+/// Labels and values under a title; no rows if there is nothing to show.
 struct InformationTable
 {
     QString title;
@@ -30,7 +30,7 @@ InformationTable softwareTable();
 /// The settings of the module that the section names, read from its own service or the report's.
 InformationTable configurationTable(const NodeReader& section, const NodeReader& report);
 
-/// How the whole test came out; empty when that is not known.
+/// The overall result of the test as text; empty if it is not known.
 QString overallText(ReportStatus status);
 
 /// "Pass", "Marginal" or "Fail" for a code of Status; else empty.

@@ -19,7 +19,7 @@ namespace {
 constexpr int narrowest = 20;
 constexpr int widest = 1000;
 
-/// What the document says about a cell's place; a text that names none leaves it open.
+/// The alignment that the document sets for a cell; automatic if it sets none.
 Alignment::Code alignmentOf(const QJsonObject& cell)
 {
     const QString text = textOf(cell.value(keys::alignAttribute));
@@ -38,10 +38,10 @@ QString withUnit(const QString& label, const QString& unit)
     return unit.isEmpty() ? label : QStringLiteral("%1 (%2)").arg(label, unit);
 }
 
-/// What a picture shows at first sight: which curves there are, and from where to where they go.
+/// What a plot shows at first sight: its curves and their extents.
 TextTable plotTable(const PlotData& data)
 {
-    // More make no picture either.
+    // A plot does not show more either.
     constexpr int mostCurves = 100;
     enum Columns { Points, Abscissa, Minimum, Maximum };
     TextTable table({},
@@ -55,7 +55,8 @@ TextTable plotTable(const PlotData& data)
         if (extent.x.isEmpty())
             continue;
         const QString range = ReportWords::tr("%1 to %2");
-        table.addCell(Abscissa, range.arg(numberText(extent.x.low), numberText(extent.x.high)), Status::None, Alignment::Right);
+        table.addCell(Abscissa, range.arg(numberText(extent.x.low), numberText(extent.x.high)), Status::None,
+                Alignment::Right);
         table.addCell(Minimum, numberText(extent.y.low), Status::None, Alignment::Right);
         table.addCell(Maximum, numberText(extent.y.high), Status::None, Alignment::Right);
     }

@@ -9,19 +9,19 @@ class ReportTemplate;
 
 namespace uiutils {
 
-/// How a whole test came out.
+/// The overall result of a test.
 enum class ReportStatus { Unknown, Pass, Marginal, Fail, NotCompleted };
 
 /// What a plain text shows and how wide it is. Switches of content are named as those of TemplateToHtmlWriter.
 struct TextLayout
 {
-    /// In columns of a letter; taken as 20 to 1,000.
+    /// In columns of one letter; limited to 20 to 1,000.
     int width = 80;
     /// Null: the document's own title.
     QString title;
-    /// When the report was made; shown when it is valid.
+    /// When the report was made; shown if it is valid.
     QDateTime timestamp;
-    /// Shown when it is known.
+    /// Shown if it is known.
     ReportStatus status = ReportStatus::Unknown;
 
     bool includeJobInfo = false;
@@ -33,7 +33,7 @@ struct TextLayout
     bool showHardwareRevs = true;
 };
 
-/// The report as a plain text that people read, print with letters of one width or send in a mail: headings, tables in
+/// The report as a plain text that people read, print in a fixed-width font or send by mail: headings, tables in
 /// columns, statuses in words, plots as the extents of their curves. docs/text-report.md describes it.
 ///
 /// Lines end in "\n", the last one too. Nothing fails: what is missing reads as empty.

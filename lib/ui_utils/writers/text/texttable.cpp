@@ -1,6 +1,5 @@
 #include "writers/text/texttable_p.h"
 
-#include "base/directmarkup_p.h"
 #include "base/plaintext_p.h"
 #include "writers/text/reportcontent_p.h"
 
@@ -14,7 +13,7 @@ namespace {
 
 /// Blanks between columns, and between a value and its status.
 constexpr int gap = 2;
-/// A column that would get narrower than this is no longer read with ease.
+/// A column that is narrower than this is hard to read.
 constexpr int narrowestColumn = 8;
 constexpr int rowLabelColumn = 0;
 
@@ -23,7 +22,7 @@ bool isDigit(QChar c)
     return c >= QLatin1Char('0') && c <= QLatin1Char('9');
 }
 
-/// Takes digits with separators among them off the front; a second point makes it no number but a version or an
+/// Takes digits with separators between them off the front. A text with a second point is no number but a version or an
 /// address.
 bool takeDigits(QStringView& text)
 {
@@ -84,11 +83,11 @@ int longestLine(QStringView text)
     return width;
 }
 
-/// What of a cell is still to be written.
+/// The part of a cell that is still to be written.
 struct Piece
 {
     QStringView rest;
-    /// Of the whole; below zero when it is not known or there are several lines.
+    /// Of all of `rest`; below zero if it is not known or there are several lines.
     int restWidth;
     int begin;
     int width;
@@ -141,49 +140,6 @@ void putPieces(TextLines& lines, Pieces& pieces)
 }
 
 } // namespace
-
-void TextLines::put(int column, QStringView piece, int width)
-{
-    if (piece.isEmpty())
-        return;
-    const int blanks = qMax(0, column - m_column);
-    const int end = m_text.size();
-    m_text.resize(end + blanks + int(piece.size()));
-    QChar* const place = m_text.data() + end;
-    std::fill_n(place, blanks, QLatin1Char(' '));
-    std::copy(piece.begin(), piece.end(), place + blanks);
-    m_column += blanks + width;
-}
-
-void TextLines::endLine()
-{
-    m_text += QLatin1Char('\n');
-    m_column = 0;
-}
-
-void TextLines::putRule(int column, int length, QLatin1Char letter)
-{
-    put(column, QString(length, letter), length);
-}
-
-int TextLines::putText(QStringView text, int width, int begin, int hanging)
-{
-    int longest = 0;
-    do {
-        const QStringView line = takeLine(text, qMax(1, width - begin));
-        const int columns = displayWidth(line);
-        put(begin, line, columns);
-        endLine();
-        longest = qMax(longest, columns);
-        begin = hanging;
-    } while (!text.isEmpty());
-    return longest;
-}
-
-void TextLines::expect(qint64 characters)
-{
-    makeRoom(m_text, characters);
-}
 
 Alignment::Code TextTable::Column::alignment(Alignment::Code wanted) const
 {
@@ -307,7 +263,7 @@ void TextTable::write(TextLines& lines, int width) const
     }
 }
 
-/// The width that no column may exceed, so that all together fit into what is available for them.
+/// The maximum width of a column with which all columns fit into the available width.
 int TextTable::fitted(int available) const
 {
     QVector<int> widths;
@@ -325,7 +281,7 @@ int TextTable::fitted(int available) const
     return widths.isEmpty() ? 0 : widths.constLast();
 }
 
-/// Where the columns are written; nothing when they do not fit beside each other.
+/// Where the columns are written; nothing if they do not fit beside each other.
 QVector<TextTable::Place> TextTable::places(int width) const
 {
     int available = width - tableIndentation + gap;
@@ -357,7 +313,7 @@ void TextTable::writeHeader(TextLines& lines, const QVector<Place>& places) cons
     for (int i = 0; i < places.size(); ++i) {
         const Column& column = m_columns.at(i);
         const Place& place = places.at(i);
-        // A label that is longer than the cells may stand above their statuses too.
+        // A label that is longer than the cells may extend above their statuses.
         const bool isWide = column.labelWidth > place.width;
         if (column.labelWidth > 0)
             labels.append({column.label, -1, place.begin, isWide ? place.end - place.begin : place.width,

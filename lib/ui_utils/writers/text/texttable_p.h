@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/status.h"
+#include "writers/text/textlines_p.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,34 +10,11 @@
 
 namespace uiutils {
 
-/// Blanks in front of a table, whose title has none.
+/// Blanks before each line of a table; its title has none.
 constexpr int tableIndentation = 2;
 
-/// A plain text under way, line by line: blanks are written in front of a piece only, so that no line ends in one.
-class TextLines
-{
-public:
-    /// Puts `piece`, which takes `width` columns, at the column or behind what stands there.
-    void put(int column, QStringView piece, int width);
-    void endLine();
-    /// A line of `length` times `letter`, beginning at `column`.
-    void putRule(int column, int length, QLatin1Char letter);
-    /// Writes a whole text from column `begin` to `width`, every line but the first from `hanging`. Returns the width
-    /// of the longest line.
-    int putText(QStringView text, int width, int begin = 0, int hanging = 0);
-
-    bool isEmpty() const { return m_text.isEmpty(); }
-    const QString& text() const { return m_text; }
-    /// Makes room for as many characters more.
-    void expect(qint64 characters);
-
-private:
-    QString m_text;
-    int m_column = 0;
-};
-
-/// A table of a plain text. Cells are taken in first, since the widths of the columns follow from all of them; then it
-/// is written, in columns where they fit into the width, as "label: value" lines where they would get too narrow.
+/// A table of a plain text. All cells are added first, because the widths of the columns depend on them. Then the table
+/// is written: in columns if they fit into the width, as "label: value" lines if they would be too narrow.
 class TextTable
 {
 public:
@@ -46,14 +24,13 @@ public:
     /// One label for each value column, empty where it has none. `title` may be empty.
     TextTable(const QString& title, const QStringList& columnLabels);
 
-    /// Begins a row; one in which nothing is put is none.
+    /// Begins a row. A row without cells is not written.
     void startRow(const QString& label);
-    /// Puts a cell into a column, in the order of the columns. `status` is a code of Status;
-    /// anything else is none.
+    /// Puts a cell into a column, in the order of the columns. `status` is a code of Status; any other number is none.
     void addCell(int column, const QString& text, int status = Status::None, Alignment::Code alignment = automatic);
 
     bool hasRows() const { return !m_rowEnds.isEmpty(); }
-    /// Whether it writes nothing at all.
+    /// Whether nothing would be written.
     bool isEmpty() const;
     void write(TextLines& lines, int width) const;
 
@@ -65,17 +42,17 @@ private:
         /// Of the longest line of any cell.
         int width = 0;
         int statusWidth = 0;
-        /// One bit for each alignment that a cell asks for.
+        /// One bit for each alignment that a cell requests.
         int alignments = 0;
-        /// Whether all cells that leave their alignment open are numbers.
+        /// Whether all cells without an alignment of their own are numbers.
         bool isNumeric = true;
 
         Alignment::Code alignment(Alignment::Code wanted) const;
         Alignment::Code headerAlignment() const;
         bool isUsed() const { return labelWidth > 0 || width > 0 || statusWidth > 0; }
-        /// What the statuses take, with the gap in front of them.
+        /// The width of the statuses, with the gap before them.
         int statusPart() const;
-        /// What the cells take where there is room for all.
+        /// The width of the cells if the table is wide enough for all columns.
         int fullWidth() const { return qMax(width, labelWidth - statusPart()); }
     };
     struct Cell
@@ -88,7 +65,7 @@ private:
         qint8 status;
         Alignment::Code alignment;
     };
-    /// Where a column is written: its cells, and behind them their statuses.
+    /// Where a column is written: its cells, and after them their statuses.
     struct Place
     {
         int begin = 0;
@@ -111,7 +88,7 @@ private:
     /// The first one is that of the rows' labels.
     QVector<Column> m_columns;
     bool m_hasHeader = false;
-    // Asked for once: a translation is looked up for longer than a row is written.
+    // Requested once: looking up a translation takes longer than writing a row.
     QString m_statusWords[3];
     QString m_text;
     QVector<Cell> m_cells;

@@ -4,10 +4,11 @@
 
 namespace kiv::embedded {
 
-/// A value as a user reads it, in the user's locale; `precision` is the decimals of a double, -1 as many as it needs.
+/// A value as a user reads it, in the user's locale; `precision` is the decimals of a double, -1 for as many as it
+/// needs.
 QString shownText(const QVariant& value, const QVector<MemberDescription>& members, int precision);
 
-/// A value as an error quotes it: of any length, so shortened, texts in quotes.
+/// A value as an error quotes it: long values are shortened, texts are in quotes.
 QString quotedText(const QVariant& value);
 
 /// What clients may set, in words: "0 to 100 dB", "1 to 20 characters", "Internal, USB".

@@ -1,4 +1,4 @@
-#include "valuetext_p.h"
+#include "shownvalue_p.h"
 
 #include "itemtypes_p.h"
 #include "texts_p.h"
@@ -14,11 +14,11 @@ namespace {
 constexpr int quotedLength = 40;
 constexpr int listedChoices = 12;
 
-QString recordText(const QVariantMap& record, const QVector<MemberDescription>& members, int precision)
+QString aggregateText(const QVariantMap& aggregate, const QVector<MemberDescription>& members, int precision)
 {
     QStringList texts;
     for (const MemberDescription& member : members)
-        texts += shownText(record.value(member.name), {}, precision);
+        texts += shownText(aggregate.value(member.name), {}, precision);
     return texts.join(QLatin1String(", "));
 }
 
@@ -104,7 +104,7 @@ QString shownText(const QVariant& value, const QVector<MemberDescription>& membe
     case QMetaType::QVariantList:
         return listText(value.toList(), members, precision);
     case QMetaType::QVariantMap:
-        return recordText(value.toMap(), members, precision);
+        return aggregateText(value.toMap(), members, precision);
     default:
         return value.toString();
     }
@@ -118,7 +118,7 @@ QString quotedText(const QVariant& value)
     if (text.isEmpty() && value.canConvert(QMetaType::QVariantList))
         return ValueTexts::tr("a list");
     if (text.isEmpty() && value.canConvert(QMetaType::QVariantMap))
-        return ValueTexts::tr("a record");
+        return ValueTexts::tr("an aggregate");
     if (text.size() > quotedLength)
         text = text.left(quotedLength) + QChar(0x2026);
     return value.userType() == QMetaType::QString ? QLatin1Char('"') + text + QLatin1Char('"') : text;
