@@ -228,6 +228,13 @@ bool Reader::enter(char kind, const char* contents)
     return status > 0;
 }
 
+bool Reader::enterIfNext(char kind, const char* contents)
+{
+    const int status = isGood() ? sd_bus_message_enter_container(m_message.raw(), kind, contents) : 0;
+    note(status == -ENXIO ? 0 : status);
+    return status > 0;
+}
+
 void Reader::leave()
 {
     if (isGood())
@@ -453,8 +460,8 @@ void Connection::match(const QByteArray& rule)
     if (!m_bus)
         return;
     // The filter hears everything; only the bus has to know.
-    const Message message = newCall(
-            "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "AddMatch");
+    const Message message
+            = newCall("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "AddMatch");
     Writer(message).text(QString::fromLatin1(rule));
     send(message);
 }

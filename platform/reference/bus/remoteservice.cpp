@@ -339,12 +339,12 @@ int RemoteService::readChange(Reader& reader, QVector<ItemChange>* changes)
     const quint8 code = reader.byte();
     FieldChange change;
     change.field = ItemField(code & ~withoutValue);
-    if (reader.variantContents() == "a(issb)") {
-        reader.enter('v', "a(issb)");
+    const StatePtr state = m_isReading ? nullptr : m_numbered.value(int(number));
+    if (change.field == ItemField::Choices && reader.enterIfNext('v', "a(issb)")) {
         change.choices = readChoices(reader);
         reader.leave();
     } else {
-        change.value = readValue(reader);
+        change.value = readValue(reader, state ? state->description.value : QVariant());
     }
     const int bytes = 16 + sizeOf(change.value) + 64 * change.choices.size();
     if (code & withoutValue)
@@ -356,8 +356,8 @@ int RemoteService::readChange(Reader& reader, QVector<ItemChange>* changes)
         // What is still to be read will be newer than this.
         if (number <= quint32(m_snapshot.items.size()))
             bus::apply(change, &m_snapshot.items[int(number) - 1]);
-    } else if (number < quint32(m_numbered.size()) && m_numbered.at(int(number))) {
-        changes->append({m_numbered.at(int(number)), change});
+    } else if (state) {
+        changes->append({state, change});
     }
     return bytes;
 }
@@ -381,8 +381,8 @@ void RemoteService::countMessage(int bytes)
 Outcome RemoteService::setItem(const QString& id, const QVariant& value, int timeoutMs)
 {
     if (embedded::EmbeddedService* own = localService(m_owner, m_path)) {
-        return callInProcess(own, 0, timeoutMs,
-                [id, value](ServiceData& service) { return setSetting(service, id, value); });
+        return callInProcess(
+                own, 0, timeoutMs, [id, value](ServiceData& service) { return setSetting(service, id, value); });
     }
     if (!canTravel(value))
         return {false, BusTexts::tr("%1 cannot be set: the value is too large, or a text of it holds a NUL.").arg(id)};

@@ -31,9 +31,9 @@ constexpr ItemField allFields[] = {ItemField::Value, ItemField::Label, ItemField
         ItemField::Quality, ItemField::Applicable, ItemField::Minimum, ItemField::Maximum, ItemField::Choices,
         ItemField::Attributes};
 
-constexpr Subscriber::Fields bit(ItemField field)
+constexpr ChangedItem::Fields bit(ItemField field)
 {
-    return Subscriber::Fields(1) << unsigned(field);
+    return ChangedItem::Fields(1) << unsigned(field);
 }
 
 /// What a service says of a field, as a value; choices have a form of their own.
@@ -97,18 +97,33 @@ embedded::ItemDescription travelling(embedded::ItemDescription item)
     return item;
 }
 
+/// Appends code and value, and returns about how many bytes they took.
+int appendValue(Writer& writer, ItemField field, const QVariant& value)
+{
+    const bool hasValue = value.isValid() && canTravel(value);
+    writer.byte(quint8(field) + (hasValue ? 0 : withoutValue));
+    if (hasValue)
+        writeValue(writer, value);
+    else
+        writeNoValue(writer);
+    return hasValue ? sizeOf(value) : 0;
+}
+
+int appendChoices(Writer& writer, const QVector<embedded::ChoiceDescription>& choices)
+{
+    embedded::ItemDescription item;
+    item.choices = choices;
+    const embedded::ItemDescription fitting = travelling(item);
+    writer.byte(quint8(ItemField::Choices));
+    writer.open('v', "a(issb)");
+    writeChoices(writer, fitting.choices);
+    writer.close();
+    return descriptionSize(fitting);
+}
+
 QStringList propertyNames()
 {
     return {QStringLiteral("Version"), QStringLiteral("Name"), QStringLiteral("Mounts")};
-}
-
-/// Leaves what concerns the service itself.
-void forgetItems(QMap<quint32, Subscriber::Fields>* changes)
-{
-    const Subscriber::Fields own = changes->value(0);
-    changes->clear();
-    if (own != 0)
-        changes->insert(0, own);
 }
 
 QStringList mountsOf(const EmbeddedService& service)
@@ -137,7 +152,7 @@ ServicePublication::ServicePublication(EmbeddedService* service, Connection* con
     ServiceData& data = ServiceData::of(*service);
     data.items.setWatcher(this);
     data.mountsChanged = [this] {
-        m_changes[0] |= Subscriber::Fields(1) << fieldMounts;
+        m_changes.note(0, ChangedItem::Fields(1) << fieldMounts);
         changeSoon();
     };
     numberItems();
@@ -167,7 +182,7 @@ void ServicePublication::numberItems()
     m_items.prepend(nullptr);
     for (int number = 1; number < m_items.size(); ++number)
         m_items.at(number)->number = quint32(number);
-    forgetItems(&m_changes);
+    m_changes.setEnd(m_items.size());
 }
 
 void ServicePublication::fieldChanged(ItemState* state, ItemField field)
@@ -175,7 +190,7 @@ void ServicePublication::fieldChanged(ItemState* state, ItemField field)
     // One that came while the service cannot be reached gets its number when that returns.
     if (state->number == 0)
         return;
-    m_changes[state->number] |= bit(field);
+    m_changes.note(state->number, bit(field));
     changeSoon();
 }
 
@@ -190,7 +205,7 @@ void ServicePublication::onItemsChanged()
     }
     numberItems();
     for (auto& [client, subscriber] : m_subscribers) {
-        forgetItems(&subscriber.changes);
+        subscriber.changes.forgetItems();
         subscriber.isOutdated = true;
     }
     changeSoon();
@@ -214,13 +229,9 @@ void ServicePublication::changeSoon()
 
 void ServicePublication::sendChanges()
 {
-    const QMap<quint32, Subscriber::Fields> changes = std::exchange(m_changes, {});
+    const QVector<ChangedItem> changes = m_changes.take();
     for (auto& [client, subscriber] : m_subscribers) {
-        if (subscriber.changes.isEmpty())
-            subscriber.changes = changes;
-        else
-            for (auto it = changes.cbegin(); it != changes.cend(); ++it)
-                subscriber.changes[it.key()] |= *it;
+        subscriber.changes.unite(changes);
         serve(client);
     }
 }
@@ -247,12 +258,12 @@ bool ServicePublication::sendMessage(const QByteArray& client, Subscriber& subsc
     writer.open('a', "(uyv)");
     int size = 64;
     while (size < largestPage && !subscriber.changes.isEmpty()) {
-        const auto change = subscriber.changes.begin();
+        const ChangedItem change = subscriber.changes.first();
         for (const ItemField field : allFields) {
-            if (*change & bit(field))
-                size += appendChange(writer, change.key(), field);
+            if (change.fields & bit(field))
+                size += appendChange(writer, change.number, field);
         }
-        subscriber.changes.erase(change);
+        subscriber.changes.removeFirst();
     }
     writer.close();
     subscriber.isOutdated = false;
@@ -261,35 +272,19 @@ bool ServicePublication::sendMessage(const QByteArray& client, Subscriber& subsc
 }
 
 /// Returns about how many bytes it took.
-int ServicePublication::appendChange(Writer& writer, quint32 number, ItemField field)
+int ServicePublication::appendChange(Writer& writer, quint32 number, ItemField field) const
 {
-    QVariant value;
-    const QVector<embedded::ChoiceDescription>* choices = nullptr;
-    embedded::ItemDescription copy;
-    if (number == 0) {
-        value = mountsOf(*m_service);
-    } else if (field == ItemField::Choices) {
-        copy.choices = m_items.at(int(number))->description.choices;
-        copy = travelling(copy);
-        choices = &copy.choices;
-    } else {
-        value = fieldValue(*m_items.at(int(number)), field);
-    }
-    const bool hasValue = choices || (value.isValid() && canTravel(value));
     writer.open('r', "uyv");
     writer.uint32(number);
-    writer.byte(quint8(field) + (hasValue ? 0 : withoutValue));
-    if (choices) {
-        writer.open('v', "a(issb)");
-        writeChoices(writer, *choices);
-        writer.close();
-    } else if (hasValue) {
-        writeValue(writer, value);
-    } else {
-        writeNoValue(writer);
-    }
+    int size = 16;
+    if (number == 0)
+        size += appendValue(writer, field, mountsOf(*m_service));
+    else if (field == ItemField::Choices)
+        size += appendChoices(writer, m_items.at(int(number))->description.choices);
+    else
+        size += appendValue(writer, field, fieldValue(*m_items.at(int(number)), field));
     writer.close();
-    return 16 + (choices ? descriptionSize(copy) : sizeOf(value));
+    return size;
 }
 
 void ServicePublication::sendErrors(const QByteArray& client, Subscriber& subscriber)
@@ -335,8 +330,7 @@ void ServicePublication::handle(const Message& call)
     });
     if (known == std::end(methods)) {
         m_connection->refuse(call, errorUnknownMethod,
-                BusTexts::tr("There is no method %1.%2.")
-                        .arg(QString::fromUtf8(interface), QString::fromUtf8(member)));
+                BusTexts::tr("There is no method %1.%2.").arg(QString::fromUtf8(interface), QString::fromUtf8(member)));
         return;
     }
     if (call.signature() != known->signature) {
