@@ -64,7 +64,7 @@ void answerMemory()
 Client::Client() = default;
 Client::~Client() = default;
 
-void Client::open(int count, int step)
+void Client::open(int count, int first, int step)
 {
     m_page.reset();
     m_manifest.reset();
@@ -73,7 +73,7 @@ void Client::open(int count, int step)
     m_client = connected(*m_backend);
     m_manifest = std::make_unique<Manifest>(m_client, QString(), serviceName());
     m_page = std::make_unique<Page>(
-            everyItem(count, step), [](QQmlContext* context) { Manifest::setQmlContext(context); });
+            everyItem(count, first, step), [](QQmlContext* context) { Manifest::setQmlContext(context); });
 }
 
 void Client::watch(int item)
@@ -105,7 +105,7 @@ int clientRole()
     const Commands commands({
             {QStringLiteral("page"),
                     [&client](const QVector<int>& arguments) {
-                        client.open(arguments.at(0), arguments.at(1));
+                        client.open(arguments.at(0), arguments.at(1), arguments.at(2));
                         answer({});
                     }},
             {QStringLiteral("watch"),

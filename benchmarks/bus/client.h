@@ -24,7 +24,7 @@ public:
     Client();
     ~Client() override;
 
-    void open(int count, int step);
+    void open(int count, int first, int step);
     /// Answers from now on whenever the binding to the item has a new value.
     void watch(int item);
     void settle(int changes) const;

@@ -30,8 +30,8 @@ QVector<Result> loadCases(int runs)
     Helper peer(QStringLiteral("qtclient"));
     publisher.ask(QStringLiteral("items"), {itemCount});
     sender.ask(QStringLiteral("items"), {itemCount});
-    client.ask(QStringLiteral("page"), {itemCount, bindingStep});
-    peer.ask(QStringLiteral("page"), {itemCount, bindingStep});
+    client.ask(QStringLiteral("page"), {itemCount, 0, bindingStep});
+    peer.ask(QStringLiteral("page"), {itemCount, 0, bindingStep});
 
     QVector<double> ours;
     QVector<double> maps;

@@ -53,10 +53,10 @@ bool Page::isSettled(int changes) const
             [this, changes](int item) { return shown(item) == lastValue(item, changes); });
 }
 
-QVector<int> everyItem(int count, int step)
+QVector<int> everyItem(int count, int first, int step)
 {
     QVector<int> items;
-    for (int item = 0; item < count; item += step)
+    for (int item = first; item < count; item += step)
         items += item;
     return items;
 }

@@ -29,7 +29,7 @@ private:
     std::unique_ptr<QObject> m_object;
 };
 
-/// Every `step`th of the first `count` items.
-QVector<int> everyItem(int count, int step);
+/// Every `step`th of the first `count` items, from `first` on.
+QVector<int> everyItem(int count, int first, int step);
 
 } // namespace bench

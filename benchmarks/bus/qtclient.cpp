@@ -44,14 +44,14 @@ void QtClient::listen()
         qFatal("The changes cannot be heard.");
 }
 
-void QtClient::open(int count, int step)
+void QtClient::open(int count, int first, int step)
 {
     listen();
     for (int item = 0; item < count; ++item) {
         m_items.push_back(std::make_unique<PlainLabels>());
         m_byId.insert(itemId(item), m_items.back().get());
     }
-    const QVector<int> shown = everyItem(count, step);
+    const QVector<int> shown = everyItem(count, first, step);
     m_page = std::make_unique<Page>(shown, [this, &shown](QQmlContext* context) {
         for (const int item : shown)
             context->setContextProperty(itemName(item), m_items.at(size_t(item)).get());
@@ -97,7 +97,7 @@ int qtClientRole()
                     }},
             {QStringLiteral("page"),
                     [&client](const QVector<int>& arguments) {
-                        client.open(arguments.at(0), arguments.at(1));
+                        client.open(arguments.at(0), arguments.at(1), arguments.at(2));
                         answer({});
                     }},
             {QStringLiteral("watch"),

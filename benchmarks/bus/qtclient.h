@@ -24,7 +24,7 @@ public:
 
     /// Without a page, for who only watches.
     void listen();
-    void open(int count, int step);
+    void open(int count, int first, int step);
     /// Answers from now on whenever the slot hears of the item.
     void watch(int item);
     void settle(int changes) const;

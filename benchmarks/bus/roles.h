@@ -7,8 +7,8 @@ namespace bench {
 
 /// Publishes our service: "items N"; "change N", the last with the time; "load".
 int publisherRole();
-/// A program with a page over it: "page N STEP", bound to every STEPth of N items; "watch I", which answers with the
-/// microseconds of each change of that item; "cpu"; "settle N", which answers with the CPU time when N changes have
+/// A program with a page over it: "page N FIRST STEP", bound to every STEPth of N items; "watch I", which answers with
+/// the microseconds of each change of that item; "cpu"; "settle N", which answers with the CPU time when N changes have
 /// arrived and whether all values are right; "start"; "memory".
 int clientRole();
 /// The same items in a process of their own: "memory".
