@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/platform.h"
+
 #include <QObject>
 #include <QQmlPropertyMap>
 #include <QString>
@@ -14,33 +16,19 @@ class QQmlEngine;
 namespace kiv::embedded {
 class EmbeddedBackend;
 class EmbeddedService;
-}
+} // namespace kiv::embedded
 
 namespace uiutils::apps {
 
-/// Which services a program shows, and where they come from if they live in this process.
-struct InstrumentSetup
-{
-    /// Folders of service files.
-    QStringList serviceFolders;
-    /// Below which changed settings are stored.
-    QString root;
-    /// Services that this program drives itself, on every platform.
-    QStringList ownServices;
-};
-
-/// The services of the platform that KIV_PLATFORM chooses, as pages know them: every item by its name, and the manifests
-/// as members of `services`, as in `services.basemgr.startChanges()`.
-///
-/// "embedded", the default, publishes the described services in this process. "bus" shows those of other processes on
-/// the bus that KIV_BUS names, also such that come later, and publishes only the program's own ones there.
+/// The services of the platform that KIV_PLATFORM chooses, as pages know them: every item by its name, and the
+/// manifests as members of `services`, as in `services.basemgr.startChanges()`.
 class Instrument : public QObject
 {
     Q_OBJECT
 
 public:
     /// Brings the services up. Returns null, having complained, when there are none, or KIV_PLATFORM is unknown.
-    static std::unique_ptr<Instrument> start(const InstrumentSetup& setup);
+    static std::unique_ptr<Instrument> start(const ServiceSetup& setup);
 
     /// Over the services that `backend` publishes. The back end must outlive this object.
     explicit Instrument(const kiv::embedded::EmbeddedBackend& backend);
@@ -57,13 +45,7 @@ public:
     QStringList listing() const;
 
 private:
-    /// Where the services come from.
-    class Platform;
-    class EmbeddedPlatform;
-    class BusPlatform;
-
     Instrument();
-    static std::unique_ptr<Platform> choosePlatform();
     void add(const QString& service);
 
     std::unique_ptr<Platform> m_platform;

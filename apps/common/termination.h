@@ -6,8 +6,8 @@ class QSocketNotifier;
 
 namespace uiutils::apps {
 
-/// Turns what ends a program from outside (SIGINT, SIGTERM, SIGHUP) into a signal of the event loop, so that the program
-/// can store what it has. Signals that the caller had ignored stay ignored. Make it before any thread starts.
+/// Turns what ends a program from outside (SIGINT, SIGTERM, SIGHUP) into a signal of the event loop, so that the
+/// program can store what it has. Signals that the caller had ignored stay ignored. Make it before any thread starts.
 class Termination : public QObject
 {
     Q_OBJECT

@@ -11,8 +11,8 @@ class KivData;
 
 namespace uiutils::demo {
 
-/// Waits, by itself, for what other processes do to the services of this demo: another application changes a setting, the
-/// services end, the services return. Takes a picture of each.
+/// Waits, by itself, for what other processes do to the services of this demo: another application changes a setting,
+/// the services end, the services return. Takes a picture of each.
 class Follower : public QObject
 {
     Q_OBJECT

@@ -30,8 +30,8 @@ void publish(const SampleModel& samples, kiv::embedded::EmbeddedService* service
 
 } // namespace
 
-void publishResults(LoopbackMeasurement* measurement,
-        const std::function<kiv::embedded::EmbeddedService*(const QString&)>& service)
+void publishResults(
+        LoopbackMeasurement* measurement, const std::function<kiv::embedded::EmbeddedService*(const QString&)>& service)
 {
     const auto publishAll = [measurement, service] {
         publish(*measurement->roundTrip(), service(roundTripService), QStringLiteral("upperLimit"));

@@ -53,12 +53,14 @@ void complainOf(const kiv::bus::BusPublisher& publisher, const QStringList& name
 {
     QObject::connect(&publisher, &kiv::bus::BusPublisher::connectionFailed, &publisher,
             [](const QString& reason) { complain(reason); });
-    QObject::connect(&publisher, &kiv::bus::BusPublisher::nameTaken, &publisher, [names, taken = 0](const QString& name) mutable {
-        if (isStartedInVain(++taken, names))
-            QCoreApplication::exit(exitDone);
-        complain(Texts::tr("Another program publishes the service %1. This one takes over when that program ends.")
-                         .arg(name));
-    });
+    QObject::connect(&publisher, &kiv::bus::BusPublisher::nameTaken, &publisher,
+            [names, taken = 0](const QString& name) mutable {
+                if (isStartedInVain(++taken, names))
+                    QCoreApplication::exit(exitDone);
+                complain(Texts::tr(
+                        "Another program publishes the service %1. This one takes over when that program ends.")
+                                 .arg(name));
+            });
 }
 
 int publish(const kiv::embedded::EmbeddedBackend& backend, const Options& options)

@@ -37,8 +37,7 @@ Options readOptions(const QStringList& arguments)
         return apps::ended<Options>(line);
     for (const QCommandLineOption& option : {services, without, root, activation}) {
         if (parser.values(option).contains(QString()))
-            return apps::ended<Options>(
-                    apps::misused(Texts::tr("--%1 needs a name.").arg(option.names().constLast())));
+            return apps::ended<Options>(apps::misused(Texts::tr("--%1 needs a name.").arg(option.names().constLast())));
     }
     if (!parser.positionalArguments().isEmpty())
         return apps::ended<Options>(apps::misused(Texts::tr("There are only options, and no further arguments.")));

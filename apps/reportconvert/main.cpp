@@ -1,5 +1,7 @@
 #include "base/paths_p.h"
 #include "common/complaint.h"
+#include "common/platform.h"
+#include "common/standardstreams.h"
 #include "console.h"
 #include "conversion.h"
 #include "options.h"
@@ -48,6 +50,16 @@ bool publishServices(kiv::embedded::EmbeddedBackend& backend, const Options& opt
     return false;
 }
 
+/// The services of the tables and plots: those of files, else those on the bus if the environment asks for them.
+bool useServices(kiv::embedded::EmbeddedBackend& backend, const Options& options,
+        std::unique_ptr<uiutils::apps::Platform>* platform)
+{
+    if (!options.serviceFolders.isEmpty() || !uiutils::apps::Platform::isElsewhere())
+        return publishServices(backend, options);
+    *platform = uiutils::apps::Platform::start({});
+    return bool(*platform);
+}
+
 /// The caller's own root is not filled, and a page without its icons looks complete at first sight.
 void warnOfMissingIcons(const Plan& plan)
 {
@@ -60,7 +72,8 @@ void warnOfMissingIcons(const Plan& plan)
 int convert(const Options& options, const Plan& plan, const QString& scratchFolder)
 {
     kiv::embedded::EmbeddedBackend backend;
-    if (!publishServices(backend, options))
+    std::unique_ptr<uiutils::apps::Platform> platform;
+    if (!useServices(backend, options, &platform))
         return exitFailed;
     warnOfMissingIcons(plan);
     const QString problem = options.page.logoFile.isEmpty() ? QString() : logoProblem(options.page.logoFile);
@@ -82,7 +95,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication::setApplicationName(QStringLiteral("reportconvert"));
     QCoreApplication::setApplicationVersion(QStringLiteral(UIUTILS_CONVERT_VERSION));
-    holdStandardStreams();
+    uiutils::apps::holdStandardStreams();
     holdSignals();
     installWarningHandler();
 

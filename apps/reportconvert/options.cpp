@@ -79,6 +79,8 @@ Environment:
   UIUTILS_ROOT  folder of status icons (base/qml/common/images) and temporary
                 plot images (tmp) in place of the program's own temporary one
   TMPDIR        where that temporary folder is created
+  KIV_PLATFORM  "bus": without --services the tables and plots are filled from
+                the services on the bus
 
 Examples:
   reportconvert --format html report.json

@@ -8,7 +8,6 @@
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
 
@@ -36,15 +35,6 @@ bool isPassing(int error)
 }
 
 } // namespace
-
-void holdStandardStreams()
-{
-    // In ascending order, because open() takes the lowest free number.
-    for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        if (::fcntl(fd, F_GETFD) < 0)
-            ::open("/dev/null", fd == STDIN_FILENO ? O_WRONLY : O_RDONLY);
-    }
-}
 
 bool copyStandardInput(QIODevice& target, QString* error)
 {

@@ -6,10 +6,6 @@
 
 namespace uiutils::convert {
 
-/// Occupies the standard streams that the caller closed, so that no file of ours is opened in their place and taken for
-/// one. Using them still fails.
-void holdStandardStreams();
-
 /// Copies standard input, up to the maximum size of a document. Returns false on failure, with the reason in `error`,
 /// which is empty after a signal.
 bool copyStandardInput(QIODevice& target, QString* error);

@@ -2,11 +2,12 @@
 #include "files.h"
 
 #include <QImage>
+#include <QStandardPaths>
 
 namespace {
 
-/// Runs the demo without a display, unless `variables` name one.
-Outcome runDemo(const QStringList& arguments, const QMap<QString, QString>& variables = {})
+/// Runs a program without a display, unless `variables` name one.
+Outcome run(const QString& program, const QStringList& arguments, const QMap<QString, QString>& variables)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_QUICK_BACKEND", "XDG_RUNTIME_DIR"})
@@ -15,8 +16,13 @@ Outcome runDemo(const QStringList& arguments, const QMap<QString, QString>& vari
         environment.insert(it.key(), it.value());
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(UIUTILS_DEMO_PROGRAM), arguments);
+    process.start(program, arguments);
     return ended(process);
+}
+
+Outcome runDemo(const QStringList& arguments, const QMap<QString, QString>& variables = {})
+{
+    return run(UIUTILS_DEMO_PROGRAM, arguments, variables);
 }
 
 QStringList filesBelow(const QString& folder)
@@ -114,6 +120,34 @@ private Q_SLOTS:
         QCOMPARE(QFileInfo(viewer).canonicalFilePath(), QFileInfo(UIUTILS_PDF_VIEWER).canonicalFilePath());
         QVERIFY(QFileInfo(root + "/base/qml/pdf_viewer").isDir());
 #endif
+    }
+
+    /// The second one sees what the first one changes, and the process of the services end and return. The tour puts the
+    /// user's name back, and that survives.
+    void twoApplicationsOnABus()
+    {
+        if (QStandardPaths::findExecutable("dbus-run-session").isEmpty())
+            QSKIP("there is no dbus-run-session");
+        const QString folder = m_folder->path();
+        writeFile(folder + "/services/cust/private/lastconfigs/services/basemgr.state.json",
+                R"({ "service": "basemgr", "values": { ":config:basemgr:system:userInfo_lastName:": "Dahl" } })");
+        const Outcome outcome = run("dbus-run-session",
+                {"--", UIUTILS_SOURCE_DIR "/tools/demo-bus", QFileInfo(UIUTILS_DEMO_PROGRAM).path(), "--tour"},
+                {{"UIUTILS_ROOT", folder}, {"XDG_RUNTIME_DIR", folder}});
+        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
+        const QString said = QString::fromUtf8(outcome.output);
+        const QRegularExpression story("second application: Another application has changed it to \"Solheim\"[.]\n"
+                                       ".*is killed.*"
+                                       "second application: The services have ended; it stays \"Dahl\"[.]\n"
+                                       ".*is started again.*"
+                                       "second application: The services have returned, and nothing is lost[.]\n",
+                QRegularExpression::DotMatchesEverythingOption);
+        QVERIFY2(story.match(said).hasMatch(), qPrintable(said));
+        QCOMPARE(filesBelow(folder + "/first/cust/public/reports").size(), 5);
+        const QStringList pictures = filesBelow(folder + "/second/pictures");
+        QCOMPARE(pictures.size(), 3);
+        for (const QString& picture : pictures)
+            checkPicture(picture);
     }
 
     void failures_data()

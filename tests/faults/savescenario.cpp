@@ -1,7 +1,8 @@
 // Saves as a page does, as often and in such places as faultproof.py orders.
 //
 // Each line on standard input is an order, a JSON object; each is answered by a line on standard output. An order is
-// carried out in a child process, which starts with everything ready (fonts, services, document) and may be killed.
+// carried out in a child process, which starts with everything ready (fonts, services, document) and may be killed. With
+// the argument "bus" the base manager lives in a process of its own, on a bus that only these processes know.
 
 #include "document/reportmetadata.h"
 #include "module/uiutilsmodule.h"
@@ -9,6 +10,8 @@
 #include "report/report.h"
 #include "writers/text/textreport.h"
 
+#include <bus/busbackend.h>
+#include <bus/buspublisher.h>
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 #include <kiv/kivnotificationmodelmanager.h>
@@ -19,10 +22,15 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRandomGenerator>
+#include <QSocketNotifier>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <csignal>
 #include <cstdio>
+#include <cstring>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <sys/prctl.h>
 #include <sys/socket.h>
@@ -37,6 +45,8 @@ constexpr unsigned patienceSeconds = 60;
 /// The tracer's answer to a call that the system does not have.
 constexpr long tracerIsHere = 7;
 constexpr int noSuchPolicy = 99;
+
+const QString listItem = ":config:basemgr:system:ss_nosync:stringARRAY:";
 
 QStringList logLines;
 
@@ -167,13 +177,6 @@ bool saveRecord(const QJsonObject& order)
     return record.saveMetadataToFile();
 }
 
-QJsonValue listToldToBaseManager()
-{
-    const auto* client = KIVClientInterface::getBaseMgrClient();
-    const auto* item = client->getItem(":config:basemgr:system:ss_nosync:stringARRAY:");
-    return QJsonArray::fromStringList(item->getValue().toStringList());
-}
-
 /// The order itself; returns what the library reports of it.
 QJsonObject perform(PageReport& report, const QJsonObject& order)
 {
@@ -200,50 +203,165 @@ QJsonObject perform(PageReport& report, const QJsonObject& order)
     claim.insert("generated", generated);
     claim.insert("written", QJsonArray::fromStringList(report.written));
     claim.insert("told", told());
-    claim.insert("list", listToldToBaseManager());
+    claim.insert("refusal", KIVClientInterface::getBaseMgrClient()->getLastError());
     claim.insert("log", QJsonArray::fromStringList(logLines));
     return claim;
 }
 
-void setUp(const kiv::embedded::EmbeddedBackend& backend, const QJsonObject& order)
+// --- The base manager ---
+
+using kiv::embedded::EmbeddedBackend;
+using kiv::embedded::EmbeddedService;
+
+void load(EmbeddedBackend& backend)
+{
+    QString problem;
+    if (!backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json", &problem))
+        qFatal("%s", qUtf8Printable(problem));
+}
+
+void setUp(EmbeddedService* basemgr, const QJsonObject& order)
+{
+    basemgr->setValue(":config:basemgr:system:saveLocation:", order.value("location").toInt());
+    basemgr->setValue(":result:basemgr:system:usbAttached:", order.value("stick").toBool());
+    basemgr->setMounted("/mnt/usb/", order.value("stick").toBool());
+}
+
+QJsonArray listToldTo(const EmbeddedService* basemgr)
+{
+    return QJsonArray::fromStringList(basemgr->item(listItem)->getValue().toStringList());
+}
+
+// Not read() and write(), which may be made to fail. A message is never empty, because that is how the end arrives.
+
+void send(int socket, const QJsonObject& message)
+{
+    const QByteArray text = QJsonDocument(message).toJson(QJsonDocument::Compact);
+    ::send(socket, text.constData(), size_t(text.size()), MSG_NOSIGNAL);
+}
+
+/// Empty at the end.
+QJsonObject received(int socket)
+{
+    QByteArray text(1 << 20, '\0');
+    text.truncate(int(std::max<ssize_t>(0, ::recv(socket, text.data(), size_t(text.size()), 0))));
+    return QJsonDocument::fromJson(text).object();
+}
+
+/// For each order a base manager that knows of nothing before, on the bus from the answer until the next message, which
+/// is answered by what it was told. A connection of its own gets no late requests of an earlier child.
+[[noreturn]] void runManager(int argc, char** argv, int orders)
+{
+    const QCoreApplication application(argc, argv);
+    const QSocketNotifier further(orders, QSocketNotifier::Read);
+    for (QJsonObject order = received(orders); !order.isEmpty(); order = received(orders)) {
+        EmbeddedBackend backend;
+        load(backend);
+        EmbeddedService* basemgr = backend.service("basemgr");
+        setUp(basemgr, order);
+        kiv::bus::BusPublisher publisher;
+        QObject::connect(&publisher, &kiv::bus::BusPublisher::published, [&] { send(orders, {{"published", true}}); });
+        QObject::connect(&further, &QSocketNotifier::activated, &publisher, &QCoreApplication::quit);
+        publisher.publish(basemgr);
+        QCoreApplication::exec();
+        received(orders);
+        send(orders, {{"list", listToldTo(basemgr)}});
+    }
+    ::_exit(0);
+}
+
+pid_t forked(int (&ends)[2], int type)
+{
+    if (::socketpair(AF_UNIX, type | SOCK_CLOEXEC, 0, ends) != 0)
+        qFatal("no socket");
+    const pid_t child = ::fork();
+    if (child < 0)
+        qFatal("no process");
+    ::close(ends[child == 0 ? 0 : 1]);
+    return child;
+}
+
+/// Starts a bus, which ends with this process.
+void startBus()
+{
+    FILE* bus = ::popen("exec setpriv --pdeathsig KILL dbus-daemon --session --nofork --nopidfile --print-address "
+                        "--address=unix:dir=\"$XDG_RUNTIME_DIR\"", "r");
+    char address[256] {};
+    if (!bus || !std::fgets(address, sizeof address, bus))
+        qFatal("no bus");
+    address[std::strcspn(address, "\n")] = '\0';
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+}
+
+/// Returns the socket for its orders. To be called before there is an event loop, which processes must not share.
+int startManager(int argc, char** argv)
+{
+    startBus();
+    int ends[2] {};
+    if (forked(ends, SOCK_SEQPACKET) == 0) {
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+        runManager(argc, argv, ends[1]);
+    }
+    return ends[0];
+}
+
+// --- The processes that save ---
+
+void setUpProcess(const QJsonObject& order)
 {
     const QJsonObject environment = order.value("environment").toObject();
     for (auto it = environment.begin(); it != environment.end(); ++it)
         qputenv(it.key().toLatin1().constData(), QFile::encodeName(it.value().toString()));
-    kiv::embedded::EmbeddedService* basemgr = backend.service("basemgr");
-    basemgr->setValue(":config:basemgr:system:saveLocation:", order.value("location").toInt());
-    basemgr->setValue(":result:basemgr:system:usbAttached:", order.value("stick").toBool());
-    basemgr->setMounted("/mnt/usb/", order.value("stick").toBool());
     // Children of one process would all choose the same names.
     QRandomGenerator::global()->discard(static_cast<unsigned long long>(::getpid()) % 100000);
 }
 
-[[noreturn]] void runChild(const kiv::embedded::EmbeddedBackend& backend, PageReport& report, const QJsonObject& order, int answer)
+/// Where the base manager of all orders is: in this process, or behind the socket.
+struct Manager
+{
+    EmbeddedService* here = nullptr;
+    int elsewhere = -1;
+};
+
+/// Connections to a bus do not survive a fork.
+void connectToBus()
+{
+    auto* backend = new kiv::bus::BusBackend;
+    if (!backend->waitForServices(patienceSeconds * 1000 / 2))
+        qFatal("no services: %s", qUtf8Printable(backend->problem()));
+}
+
+[[noreturn]] void runChild(const Manager& manager, PageReport& report, const QJsonObject& order, int answer)
 {
     ::alarm(patienceSeconds);
     ::prctl(PR_SET_PTRACER, PR_SET_PTRACER_ANY);
-    setUp(backend, order);
+    if (manager.here)
+        setUp(manager.here, order);
+    else
+        connectToBus();
+    setUpProcess(order);
     report.getReady(order);
     QCoreApplication::processEvents();
     logLines.clear();
     // A tracer that attached earlier would count calls that are not part of the order.
     ::send(answer, "", 1, 0);
-    const QByteArray claim = QJsonDocument(perform(report, order)).toJson(QJsonDocument::Compact);
-    // Not write(), which may be made to fail.
-    ::send(answer, claim.constData(), size_t(claim.size()), 0);
+    QJsonObject claim = perform(report, order);
+    if (manager.here)
+        claim.insert("list", listToldTo(manager.here));
+    send(answer, claim);
     ::_exit(0);
 }
 
-QByteArray received(int socket)
+/// Sends to the base manager in another process, if that is where it is, and returns the answer.
+QJsonObject ask(const Manager& manager, const QJsonObject& message)
 {
-    QByteArray all;
-    char part[4096];
-    for (ssize_t n = 1; n > 0;) {
-        n = ::recv(socket, part, sizeof part, 0);
-        if (n > 0)
-            all.append(part, int(n));
-    }
-    return all;
+    if (manager.here)
+        return {};
+    send(manager.elsewhere, message);
+    const QJsonObject answer = received(manager.elsewhere);
+    if (answer.isEmpty())
+        qFatal("the base manager has ended");
+    return answer;
 }
 
 void say(const QJsonObject& line)
@@ -253,29 +371,25 @@ void say(const QJsonObject& line)
     std::fflush(stdout);
 }
 
-void serve(const kiv::embedded::EmbeddedBackend& backend, PageReport& report, const QJsonObject& order)
+void serve(const Manager& manager, PageReport& report, const QJsonObject& order)
 {
+    ask(manager, order);
     int ends[2] {};
-    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0)
-        qFatal("no socket");
-    const pid_t child = ::fork();
-    if (child < 0)
-        qFatal("no process");
-    if (child == 0) {
-        ::close(ends[0]);
-        runChild(backend, report, order, ends[1]);
-    }
-    ::close(ends[1]);
+    const pid_t child = forked(ends, SOCK_SEQPACKET);
+    if (child == 0)
+        runChild(manager, report, order, ends[1]);
     char isReady = 0;
     ::recv(ends[0], &isReady, 1, 0);
     say({{"process", int(child)}});
-    const QByteArray claim = received(ends[0]);
+    QJsonObject claim = received(ends[0]);
     ::close(ends[0]);
     int status = 0;
     ::waitpid(child, &status, 0);
+    if (!manager.here)
+        claim.insert("list", ask(manager, {{"ended", true}}).value("list"));
     say({{"signal", WIFSIGNALED(status) ? WTERMSIG(status) : 0},
             {"exit", WIFEXITED(status) ? WEXITSTATUS(status) : -1},
-            {"claim", QJsonDocument::fromJson(claim).object()}});
+            {"claim", claim}});
 }
 
 /// Loads fonts and everything else that is loaded once. A controller reads its settings some time after its
@@ -294,11 +408,16 @@ void warmUp(PageReport& report)
 
 int main(int argc, char** argv)
 {
+    const bool isOnBus = argc > 1 && std::strcmp(argv[1], "bus") == 0;
+    Manager manager;
+    if (isOnBus)
+        manager.elsewhere = startManager(argc, argv);
     const QGuiApplication application(argc, argv);
-    kiv::embedded::EmbeddedBackend backend;
-    QString problem;
-    if (!backend.loadFile(UIUTILS_SERVICES_DIR "/basemgr.service.json", &problem))
-        qFatal("%s", qUtf8Printable(problem));
+    std::optional<EmbeddedBackend> backend;
+    if (!isOnBus) {
+        load(backend.emplace());
+        manager.here = backend->service("basemgr");
+    }
     const QTemporaryDir root;
     qputenv("UIUTILS_ROOT", QFile::encodeName(root.path()));
     PageReport report;
@@ -306,6 +425,6 @@ int main(int argc, char** argv)
     qInstallMessageHandler(keepLine);
     std::string line;
     while (std::getline(std::cin, line))
-        serve(backend, report, QJsonDocument::fromJson(QByteArray::fromStdString(line)).object());
+        serve(manager, report, QJsonDocument::fromJson(QByteArray::fromStdString(line)).object());
     return 0;
 }

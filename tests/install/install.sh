@@ -22,6 +22,7 @@ rm -rf "$prefix" "$work/consumer"
     -DCMAKE_CXX_FLAGS="$flags" >/dev/null
 "$cmake" --build "$work/consumer" >/dev/null
 "$work/consumer/consumer" "$prefix/share/uiutils/services"
+names=$("$work/consumer/onbus" "$prefix/share/uiutils/services" | sort)
 
 # pkg-config quotes no blanks, so this way gets a prefix without one.
 plain=$(mktemp -d)
@@ -60,6 +61,21 @@ if LD_LIBRARY_PATH='' ldd "$plugin" | grep 'libuiutils\|libkiv' | grep -v " => $
 fi
 if [ -x "$plain/bin/uiutils-qml" ]; then
     "$plain/bin/uiutils-qml" --root "$plain/root" --list | grep -q '^basemgr_cfg_saveLocation'
+fi
+# What describes the services on a bus, for strangers and for the bus itself.
+bus="$plain/share/dbus-1"
+xmllint --noout --nonet --nodefdtd "$bus/interfaces/org.uiutils.kiv.Service.xml"
+if [ -x "$plain/bin/kivd" ]; then
+    xmllint --noout --nonet --nodefdtd "$bus/system.d/org.uiutils.kiv.conf"
+    grep -q '^ExecStart=.*/bin/kivd$' "$plain/lib/systemd/user/kivd.service"
+    "$plain/bin/kivd" --root "$plain/state" --activation-files "$plain/own"
+    for folder in "$bus/services" "$plain/own"; do
+        test "$(find "$folder" -type f -printf '%f\n' | sed 's/[.]service$//' | sort)" = "$names"
+        test "$(sed -n 's/^Name=//p' "$folder"/*.service | sort)" = "$names"
+    done
+    test "$("$here/activation.sh" "$plain" "$work/consumer/onbus")" = 'absent, rejected
+read, rejected
+org.uiutils.kiv.basemgr'
 fi
 # A viewer that is no command, which the programs beside it find.
 if [ -x "$build/bin/pdf_viewer" ]; then

@@ -16,6 +16,7 @@ base        base                            -
 contract    platform/contract/kiv           -
 formatters  platform/reference/formatters   contract
 embedded    platform/reference/embedded     base contract formatters
+bus         platform/reference/bus          base contract formatters embedded
 
 core        lib/ui_utils/core               base
 service     lib/ui_utils/service            base contract core
@@ -34,7 +35,9 @@ saving      lib/ui_utils/report/saving      base contract core instrument docume
 module      lib/ui_utils/module             base contract LIBRARY
 
 plugin      qml/UiUtils                     LIBRARY base contract
-common      apps/common                     LIBRARY base contract embedded
+common      apps/common                     LIBRARY base contract embedded bus
+kivd        apps/kivd                       base contract embedded bus common
+kivctl      apps/kivctl                     base contract embedded bus common
 viewer      apps/pdf_viewer                 base common
 demo        apps/demo                       LIBRARY base contract embedded common
 convert     apps/reportconvert              LIBRARY base contract embedded common

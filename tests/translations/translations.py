@@ -195,7 +195,7 @@ def show(recording):
     odd = recording.run('reportconvert', '--strict', '--format', 'xml', '--services', recording.folder, document, code=1)
     nowhere = recording.run('uiutils-qml', TREE / 'docs/examples/gallery.qml', *services, '--root', root, '--grab', '/nowhere/a.png',
                             code=1)
-    for program in ('uiutils-qml', 'reportconvert', 'pdf_viewer', 'uiutils-demo'):
+    for program in ('uiutils-qml', 'reportconvert', 'pdf_viewer', 'uiutils-demo', 'kivd', 'kivctl'):
         recording.run(program, '--help')
         recording.run(program, '--nonsense', code=2)
     for example in ('gallery', 'notifications'):
@@ -203,6 +203,12 @@ def show(recording):
                       '--root', root, '--grab', recording.folder / 'page.png')
     recording.run('uiutils-demo', '--tour', '--samples', '20', '--root', root,
                   '--services', TREE / 'platform/reference/services')
+    alone = recording.folder / 'alone'
+    alone.mkdir()
+    (alone / 'kinds.service.json').write_bytes((data / 'services/kinds.service.json').read_bytes())
+    nobody = recording.run('uiutils-demo', '--follow', '--root', root, '--services', alone, code=1)
+    recording.environment['DBUS_SESSION_BUS_ADDRESS'] = 'unix:path=/nowhere/bus'
+    lost = recording.run('kivctl', 'list', code=4)
     return [
         ('a saved PDF file', saved, '«Page 1 of '),
         ('a saved PDF file', saved, '«Unit ID: WB1»'),
@@ -212,6 +218,8 @@ def show(recording):
         ('the rejection of a value', words, '«Level cannot be set to 11: «out of range». Allowed: «-10 to 10» dB.»'),
         ('the range of a value', words, '«2 - 8 chars»'),
         ('the rejection of a service', odd, '/items/1: «the id :config:odd:twice: appears twice»'),
+        ('a setting that is not there', nobody, '«There is no setting :config:basemgr:'),
+        ('a bus that is not there', lost, '«The session bus cannot be reached: '),
         ('the rejection of a file', nowhere, '«Cannot create a file in the folder of /nowhere/a.png: '),
     ]
 

@@ -8,6 +8,7 @@
 
 #include "formatters/formatters_p.h"
 
+#include <QAbstractEventDispatcher>
 #include <QDir>
 #include <QEventLoop>
 #include <QMap>
@@ -20,7 +21,7 @@ namespace kiv::bus {
 namespace {
 
 constexpr QLatin1String baseManagerName("basemgr");
-constexpr int patienceMs = 25'000;
+constexpr int patienceMs = 25 * 1000;
 
 } // namespace
 
@@ -46,7 +47,6 @@ struct BusBackend::Private
     RemoteService* makeService(const QString& name);
     void onSettled(RemoteService* service);
     bool isSettled() const;
-    void endWaits();
 
     BusBackend* const q;
     ReconnectingBus bus;
@@ -57,8 +57,6 @@ struct BusBackend::Private
     bool areNamesKnown = false;
     std::optional<quint32> ownUser;
     QString problem;
-    /// Of those who wait until the services are settled.
-    QVector<QEventLoop*> waits;
 };
 
 Message BusBackend::Private::daemonCall(const char* member)
@@ -77,8 +75,8 @@ void BusBackend::Private::onReady()
 {
     problem.clear();
     QByteArray prefix(namePrefix.data(), namePrefix.size() - 1);
-    connection()->match("type='signal',sender='org.freedesktop.DBus',member='NameOwnerChanged',arg0namespace='" + prefix
-            + '\'');
+    connection()->match(
+            "type='signal',sender='org.freedesktop.DBus',member='NameOwnerChanged',arg0namespace='" + prefix + '\'');
     const Message user = daemonCall("GetConnectionUnixUser");
     Writer(user).text(QString::fromLatin1(connection()->uniqueName()));
     askDaemon(user, [this](const Message& reply) { ownUser = Reader(reply).uint32(); });
@@ -111,7 +109,6 @@ void BusBackend::Private::onNames(const Message& reply)
         }
     }
     areNamesKnown = true;
-    endWaits();
 }
 
 void BusBackend::Private::onSignal(const Message& signal)
@@ -214,7 +211,6 @@ RemoteService* BusBackend::Private::makeService(const QString& name)
 
 void BusBackend::Private::onSettled(RemoteService* service)
 {
-    endWaits();
     if (!service->isReachable() || seen.contains(service->name()))
         return;
     seen += service->name();
@@ -226,14 +222,6 @@ bool BusBackend::Private::isSettled() const
     return areNamesKnown && std::all_of(services.cbegin(), services.cend(), [](const RemoteService* service) {
         return service->isSettled();
     });
-}
-
-void BusBackend::Private::endWaits()
-{
-    for (QEventLoop* wait : qAsConst(waits)) {
-        if (isSettled())
-            wait->quit();
-    }
 }
 
 BusBackend::BusBackend()
@@ -267,15 +255,21 @@ BusBackend::~BusBackend()
     qDeleteAll(all);
 }
 
-bool BusBackend::waitForServices(int timeoutMs)
+bool BusBackend::waitForServices(int timeoutMs, const std::function<bool()>& isEnough)
 {
-    if (d->isSettled())
-        return true;
+    const auto isOver = [&] { return d->isSettled() || (isEnough && isEnough()); };
     QEventLoop loop;
-    QTimer::singleShot(timeoutMs, &loop, &QEventLoop::quit);
-    d->waits += &loop;
-    loop.exec();
-    d->waits.removeOne(&loop);
+    QTimer timeout;
+    timeout.setSingleShot(true);
+    connect(&timeout, &QTimer::timeout, &loop, &QEventLoop::quit);
+    // What has to be waited for comes in messages: a look after all that have come is enough.
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &loop, [&] {
+        if (isOver())
+            loop.quit();
+    });
+    timeout.start(timeoutMs);
+    if (!isOver())
+        loop.exec();
     return d->isSettled();
 }
 

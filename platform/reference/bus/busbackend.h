@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 namespace kiv::bus {
@@ -24,9 +25,10 @@ public:
     BusBackend();
     ~BusBackend() override;
 
-    /// Runs an event loop until the services on the bus are known and read, for at most `timeoutMs` milliseconds. Returns
-    /// whether they are; if not, problem() says why.
-    bool waitForServices(int timeoutMs);
+    /// Runs an event loop until the services on the bus are known and read, for at most `timeoutMs` milliseconds, and
+    /// no longer than until `isEnough`, if given, answers true. Returns whether they are known and read; if not,
+    /// problem() may say why.
+    bool waitForServices(int timeoutMs, const std::function<bool()>& isEnough = {});
 
     /// Asks the bus to start the services that it can start and that are not running. Nothing waits for them.
     void startServices();

@@ -13,7 +13,7 @@ namespace kiv::bus {
 
 namespace {
 
-constexpr int daemonTimeoutMs = 25'000;
+constexpr int daemonTimeoutMs = 25 * 1000;
 
 // Answers of RequestName.
 constexpr quint32 primaryOwner = 1;
@@ -81,8 +81,8 @@ void BusPublisher::Private::onCall(const Message& call)
     if (publication && publication->service() && publication->service()->isReachable())
         publication->handle(call);
     else
-        connection()->refuse(call, errorUnknownObject,
-                BusTexts::tr("There is no object %1.").arg(QString::fromUtf8(call.path())));
+        connection()->refuse(
+                call, errorUnknownObject, BusTexts::tr("There is no object %1.").arg(QString::fromUtf8(call.path())));
 }
 
 void BusPublisher::Private::onSignal(const Message& signal)
@@ -193,7 +193,8 @@ bool BusPublisher::publish(embedded::EmbeddedService* service, QString* problem)
         return false;
     d->publications.push_back(std::make_unique<ServicePublication>(service, d->connection(), nullptr));
     ServicePublication* publication = d->publications.back().get();
-    connect(publication, &ServicePublication::reachableChanged, this, [this, publication] { d->onReachable(publication); });
+    connect(publication, &ServicePublication::reachableChanged, this,
+            [this, publication] { d->onReachable(publication); });
     connect(service, &QObject::destroyed, this, [this, service] { d->remove(service); });
     d->bus.start();
     d->requestName(publication);

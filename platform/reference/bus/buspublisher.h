@@ -28,8 +28,8 @@ public:
     ~BusPublisher() override;
 
     /// Publishes `service`, which the caller keeps, until it is withdrawn or deleted. It is on the bus when published()
-    /// is emitted. While it cannot be reached, see EmbeddedService::setReachable(), its name is given back. Where another
-    /// process has the name, the service waits until that gives it back. Returns false, with the reason in
+    /// is emitted. While it cannot be reached, see EmbeddedService::setReachable(), its name is given back. Where
+    /// another process has the name, the service waits until that gives it back. Returns false, with the reason in
     /// `problem`, when the name does not fit on a bus or a service of that name is published already.
     bool publish(embedded::EmbeddedService* service, QString* problem = nullptr);
 

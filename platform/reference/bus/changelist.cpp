@@ -34,25 +34,41 @@ QVector<ChangedItem> ChangeCollector::take()
     return items;
 }
 
+ChangedItem ChangeList::first() const
+{
+    const ChangedItem& item = m_items.at(m_next);
+    return {item.number, item.fields & ~m_removed};
+}
+
+void ChangeList::removeFirst(ChangedItem::Fields fields)
+{
+    m_removed |= fields;
+    if (first().fields != 0)
+        return;
+    ++m_next;
+    m_removed = 0;
+}
+
 void ChangeList::unite(const QVector<ChangedItem>& later)
 {
-    if (isEmpty()) {
-        m_items = later;
-        m_next = 0;
-        return;
-    }
-    QVector<ChangedItem> all;
-    all.reserve(m_items.size() - m_next + later.size());
-    std::merge(m_items.cbegin() + m_next, m_items.cend(), later.cbegin(), later.cend(), std::back_inserter(all),
-            [](const ChangedItem& a, const ChangedItem& b) { return a.number < b.number; });
-    m_items.clear();
+    QVector<ChangedItem> earlier = m_items.mid(m_next);
+    if (!earlier.isEmpty())
+        earlier.first() = first();
+    m_items = later;
     m_next = 0;
-    for (const ChangedItem& item : qAsConst(all)) {
-        if (!m_items.isEmpty() && m_items.constLast().number == item.number)
-            m_items.last().fields |= item.fields;
-        else
-            m_items.append(item);
+    m_removed = 0;
+    if (earlier.isEmpty())
+        return;
+    m_items.clear();
+    auto next = later.cbegin();
+    for (ChangedItem item : qAsConst(earlier)) {
+        while (next != later.cend() && next->number < item.number)
+            m_items.append(*next++);
+        if (next != later.cend() && next->number == item.number)
+            item.fields |= next++->fields;
+        m_items.append(item);
     }
+    std::copy(next, later.cend(), std::back_inserter(m_items));
 }
 
 void ChangeList::forgetItems()
@@ -60,6 +76,7 @@ void ChangeList::forgetItems()
     const bool hasOwn = !isEmpty() && first().number == 0;
     m_items = hasOwn ? QVector<ChangedItem> {first()} : QVector<ChangedItem>();
     m_next = 0;
+    m_removed = 0;
 }
 
 } // namespace kiv::bus

@@ -36,8 +36,10 @@ class ChangeList
 {
 public:
     bool isEmpty() const { return m_next == m_items.size(); }
-    ChangedItem first() const { return m_items.at(m_next); }
-    void removeFirst() { ++m_next; }
+    /// With the fields that have not been removed; at least one.
+    ChangedItem first() const;
+    /// Removes fields of the first item, and the item with the last of them.
+    void removeFirst(ChangedItem::Fields fields);
     /// Adds what changed later, in the order of the numbers.
     void unite(const QVector<ChangedItem>& later);
     /// Leaves what concerns the service itself.
@@ -47,6 +49,8 @@ private:
     /// Shared by all clients that have heard of everything before.
     QVector<ChangedItem> m_items;
     int m_next = 0;
+    /// Fields of the next item that were removed.
+    ChangedItem::Fields m_removed = 0;
 };
 
 } // namespace kiv::bus

@@ -34,8 +34,8 @@ int millisecondsUntil(quint64 time)
 {
     timespec now {};
     clock_gettime(CLOCK_MONOTONIC, &now);
-    const quint64 passed = quint64(now.tv_sec) * 1'000'000 + quint64(now.tv_nsec) / 1000;
-    return time <= passed ? 0 : int(qMin<quint64>((time - passed) / 1000 + 1, 1'000'000));
+    const quint64 passed = quint64(now.tv_sec) * 1000 * 1000 + quint64(now.tv_nsec) / 1000;
+    return time <= passed ? 0 : int(qMin<quint64>((time - passed) / 1000 + 1, 1000 * 1000));
 }
 
 } // namespace

@@ -103,8 +103,8 @@ public:
     double real();
     QString text();
     QVector<double> reals();
-    /// Enters a container as Writer::open() names them; false when the next value is no such one. At the end of an array
-    /// of containers false, and the reader stays good.
+    /// Enters a container as Writer::open() names them; false when the next value is no such one. At the end of an
+    /// array of containers false, and the reader stays good.
     bool enter(char kind, const char* contents);
     /// The same without harm when something else comes next.
     bool enterIfNext(char kind, const char* contents);
@@ -124,10 +124,7 @@ private:
 };
 
 /// Which bus: that of the session or that of the system.
-enum class Bus {
-    Session,
-    System
-};
+enum class Bus { Session, System };
 
 /// A connection to a bus, on the event loop of the thread that makes it. Only this class knows the library that carries
 /// it.
@@ -155,17 +152,21 @@ public:
     /// Empty until it is ready.
     QByteArray uniqueName() const { return m_uniqueName; }
 
-    Message newCall(const QByteArray& destination, const QByteArray& path, const char* interface, const char* member) const;
-    Message newSignal(const QByteArray& destination, const QByteArray& path, const char* interface, const char* member) const;
+    Message newCall(
+            const QByteArray& destination, const QByteArray& path, const char* interface, const char* member) const;
+    Message newSignal(
+            const QByteArray& destination, const QByteArray& path, const char* interface, const char* member) const;
     /// Empty when the caller wants no reply.
     static Message newReply(const Message& call);
     static void expectNoReply(const Message& call);
 
     /// Sends without waiting; false when it could not be queued.
     bool send(const Message& message);
-    /// Sends and lets `answer` hear of the reply, at the latest after `timeoutMs`. Nobody hears after `context` is gone.
+    /// Sends and lets `answer` hear of the reply, at the latest after `timeoutMs`. Nobody hears after `context` is
+    /// gone.
     void call(const Message& message, int timeoutMs, QObject* context, const Answer& answer);
-    /// Sends and waits for the reply for at most `timeoutMs` milliseconds. What else arrives meanwhile is handed on later.
+    /// Sends and waits for the reply for at most `timeoutMs` milliseconds. What else arrives meanwhile is handed on
+    /// later.
     Message callBlocking(const Message& message, int timeoutMs);
     /// Answers a call with an error.
     void refuse(const Message& call, const char* name, const QString& text);

@@ -46,9 +46,8 @@ bool areSame(const QVector<embedded::MemberDescription>& a, const QVector<embedd
 
 Told takeValue(const ItemStore::StatePtr& state, const QVariant& value)
 {
-    const embedded::Conversion conversion = value.isValid()
-            ? convertToType(state->type, state->description.members, value)
-            : embedded::Conversion();
+    const embedded::Conversion conversion
+            = value.isValid() ? convertToType(state->type, state->description.members, value) : embedded::Conversion();
     if (!conversion.problem.isEmpty()) {
         qWarning("The service sent a value for %s that is %s; the item keeps the one it had.",
                 qUtf8Printable(state->description.id), qUtf8Printable(conversion.problem));

@@ -8,8 +8,8 @@ class EmbeddedService;
 
 namespace kiv::bus {
 
-// The services that this thread's process publishes itself. A client that called one of them over the bus would wait for
-// the very thread that it blocks.
+// The services that this thread's process publishes itself. A client that called one of them over the bus would wait
+// for the very thread that it blocks.
 
 void addLocalService(const QByteArray& owner, const QByteArray& path, embedded::EmbeddedService* service);
 void removeLocalService(const embedded::EmbeddedService* service);

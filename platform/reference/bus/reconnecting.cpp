@@ -9,7 +9,7 @@ namespace kiv::bus {
 namespace {
 
 constexpr int shortestPauseMs = 50;
-constexpr int longestPauseMs = 10'000;
+constexpr int longestPauseMs = 10 * 1000;
 
 Bus busOfEnvironment()
 {

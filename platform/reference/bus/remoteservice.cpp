@@ -8,6 +8,7 @@
 #include "valuecodec_p.h"
 
 #include "embedded/descriptioncheck_p.h"
+#include "embedded/texts_p.h"
 
 #include <QDir>
 #include <QPointer>
@@ -24,11 +25,12 @@ using embedded::ItemField;
 using embedded::ItemState;
 using embedded::Outcome;
 using embedded::ServiceData;
+using embedded::ServiceFileTexts;
 
 /// Patience with what nobody waits for.
-constexpr int patienceMs = 25'000;
+constexpr int patienceMs = 25 * 1000;
 /// More than any service has; one that sends more is ill.
-constexpr int mostItems = 200'000;
+constexpr int mostItems = 200 * 1000;
 
 QSet<QString> cleanPaths(const QVariant& paths)
 {
@@ -54,12 +56,9 @@ RemoteService::~RemoteService() = default;
 
 void RemoteService::setOwner(const QByteArray& owner)
 {
-    const bool isNews = !std::exchange(m_isOwnerKnown, true);
-    if (owner == m_owner) {
-        if (isNews)
-            Q_EMIT settled();
+    m_isOwnerKnown = true;
+    if (owner == m_owner)
         return;
-    }
     m_owner = owner;
     ++m_session;
     m_isLoading = !owner.isEmpty();
@@ -88,7 +87,16 @@ void RemoteService::giveUp(const QString& reason)
     qWarning("%s", qUtf8Printable(reason));
     m_refusal = reason;
     m_isLoading = false;
-    Q_EMIT settled();
+    // What it said before is not known to hold.
+    const QPointer<RemoteService> self(this);
+    m_numbered.clear();
+    if (isReachable()) {
+        m_items.clear();
+        if (self)
+            Q_EMIT itemsChanged();
+    }
+    if (self)
+        Q_EMIT settled();
 }
 
 // --- Reading -------------------------------------------------------------------------------------
@@ -98,13 +106,13 @@ Message RemoteService::newCall(const char* interface, const char* member) const
     return m_connection->newCall(m_owner, m_path, interface, member);
 }
 
-void RemoteService::ask(const Message& call, void (RemoteService::*answer)(const Message&))
+void RemoteService::ask(const Message& call, const Connection::Answer& answer)
 {
     m_connection->call(call, patienceMs, this, [this, answer, session = m_session](const Message& reply) {
         if (session != m_session || !m_connection->isReady())
             return;
         if (!Connection::isTimeout(reply)) {
-            (this->*answer)(reply);
+            answer(reply);
             return;
         }
         // It may be stopped, and wake up later.
@@ -117,8 +125,8 @@ void RemoteService::load()
 {
     const Message properties = newCall(propertiesInterface, "GetAll");
     Writer(properties).text(QString::fromLatin1(serviceInterface));
-    ask(properties, &RemoteService::onProperties);
-    ask(newCall(serviceInterface, "Subscribe"), &RemoteService::onSubscribed);
+    ask(properties, [this](const Message& reply) { onProperties(reply); });
+    ask(newCall(serviceInterface, "Subscribe"), [this](const Message& reply) { onSubscribed(reply); });
     m_serial = 0;
     m_unacknowledged = 0;
     m_unacknowledgedBytes = 0;
@@ -160,6 +168,7 @@ void RemoteService::readSnapshot()
 {
     m_snapshot = Snapshot();
     m_isReading = true;
+    ++m_readings;
     askForPage(0);
 }
 
@@ -170,7 +179,11 @@ void RemoteService::askForPage(quint32 from)
     writer.text(QString());
     writer.uint32(from);
     writer.uint32(0);
-    ask(call, &RemoteService::onPage);
+    // A page that was asked for before the list changed belongs to another list.
+    ask(call, [this, reading = m_readings](const Message& reply) {
+        if (reading == m_readings)
+            onPage(reply);
+    });
 }
 
 void RemoteService::onPage(const Message& reply)
@@ -189,13 +202,16 @@ void RemoteService::onPage(const Message& reply)
         return;
     }
     m_snapshot.generation = generation;
-    if (!readPage(reader)) {
+    const int before = m_snapshot.items.size();
+    const bool isSound = readPage(reader);
+    const quint32 next = reader.uint32();
+    // A page without items that is not the last one would lead on for ever.
+    if (!isSound || !reader.isGood() || (next > 0 && m_snapshot.items.size() == before)) {
         giveUp(BusTexts::tr("The items of the service %1 cannot be read: they are not what the interface says.")
                         .arg(m_name));
         return;
     }
-    const quint32 next = reader.uint32();
-    if (next > 0 && reader.isGood())
+    if (next > 0)
         askForPage(next);
     else
         adopt();
@@ -234,8 +250,9 @@ void RemoteService::adopt()
     // Whoever hears of an item's end may end anything.
     if (!removeOthers(snapshot.items))
         return;
-    const bool isListChanged = isNew || m_items.size() != before || m_items.size() != snapshot.items.size();
+    const int kept = m_items.size();
     const QVector<ItemChange> changes = takeItems(snapshot.items);
+    const bool isListChanged = isNew || kept != before || m_items.size() != kept;
     m_items.open();
     bus::take(changes);
     if (self && session == m_session && isListChanged)
@@ -272,16 +289,21 @@ QVector<ItemChange> RemoteService::takeItems(const QVector<ItemDescription>& ite
     m_numbered = {nullptr};
     for (const ItemDescription& item : items) {
         StatePtr state = m_items.find(item.id);
-        if (state) {
+        const bool isTwice = state && m_numbered.value(int(state->position)) == state;
+        const QString problem = isTwice ? ServiceFileTexts::tr("the id %1 stands twice").arg(item.id)
+                : state                 ? QString()
+                                        : itemProblem(item);
+        if (!problem.isEmpty()) {
+            qWarning("The item %s of the service %s is left out: %s", qUtf8Printable(item.id), qUtf8Printable(m_name),
+                    qUtf8Printable(problem));
+            state.reset();
+        } else if (state) {
             const QVector<FieldChange> fields = differences(state->description, item);
             for (const FieldChange& field : fields)
                 changes += ItemChange {state, field};
-        } else if (const QString problem = itemProblem(item); problem.isEmpty()) {
+        } else {
             state = std::make_shared<ItemState>(item);
             m_items.add(state);
-        } else {
-            qWarning("The item %s of the service %s is left out: %s", qUtf8Printable(item.id), qUtf8Printable(m_name),
-                    qUtf8Printable(problem));
         }
         if (state)
             state->position = quint64(m_numbered.size());
@@ -346,7 +368,7 @@ int RemoteService::readChange(Reader& reader, QVector<ItemChange>* changes)
     } else {
         change.value = readValue(reader, state ? state->description.value : QVariant());
     }
-    const int bytes = 16 + sizeOf(change.value) + 64 * change.choices.size();
+    const int bytes = changeSize(change.value, change.choices);
     if (code & withoutValue)
         change.value = QVariant();
     if (number == 0) {

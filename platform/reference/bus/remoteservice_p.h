@@ -52,7 +52,7 @@ public:
 Q_SIGNALS:
     void itemsChanged();
     void errorReported(const QString& text);
-    /// It has become reachable, or was given up, or is known not to be there.
+    /// It has become reachable, or was given up, or is gone.
     void settled();
 
 private:
@@ -66,7 +66,7 @@ private:
     };
 
     Message newCall(const char* interface, const char* member) const;
-    void ask(const Message& call, void (RemoteService::*answer)(const Message&));
+    void ask(const Message& call, const Connection::Answer& answer);
     void onProperties(const Message& reply);
     void onSubscribed(const Message& reply);
     void onPage(const Message& reply);
@@ -91,6 +91,8 @@ private:
     QByteArray m_owner;
     /// Counts owners: an answer that one left behind is not the next one's.
     int m_session = 0;
+    /// Counts the readings of all items.
+    int m_readings = 0;
     embedded::ItemStore m_items;
     /// By number; null for number 0, the service itself.
     QVector<StatePtr> m_numbered;

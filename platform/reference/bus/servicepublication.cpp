@@ -16,6 +16,7 @@ namespace kiv::bus {
 namespace {
 
 using embedded::EmbeddedService;
+using embedded::ItemDescription;
 using embedded::ItemField;
 using embedded::ItemState;
 using embedded::Outcome;
@@ -27,13 +28,14 @@ constexpr int mostSubscribers = 256;
 /// Errors that a client which does not listen is told later.
 constexpr int mostErrors = 32;
 
-constexpr ItemField allFields[] = {ItemField::Value, ItemField::Label, ItemField::Unit, ItemField::Ready,
-        ItemField::Quality, ItemField::Applicable, ItemField::Minimum, ItemField::Maximum, ItemField::Choices,
-        ItemField::Attributes};
-
 constexpr ChangedItem::Fields bit(ItemField field)
 {
     return ChangedItem::Fields(1) << unsigned(field);
+}
+
+ItemField firstOf(ChangedItem::Fields fields)
+{
+    return ItemField(qCountTrailingZeroBits(fields));
 }
 
 /// What a service says of a field, as a value; choices have a form of their own.
@@ -64,24 +66,13 @@ QVariant fieldValue(const ItemState& state, ItemField field)
     return QVariant();
 }
 
-int descriptionSize(const embedded::ItemDescription& item)
-{
-    int size = 300 + 3 * (item.id.size() + item.label.size() + item.unit.size() + item.applicableExpr.size());
-    size += sizeOf(item.value) + sizeOf(item.attributes);
-    for (const embedded::ChoiceDescription& choice : item.choices)
-        size += 24 + 3 * (choice.name.size() + choice.label.size());
-    for (const embedded::MemberDescription& member : item.members)
-        size += 24 + 3 * member.name.size();
-    return size;
-}
-
 QString withoutNul(QString text)
 {
     return text.remove(QChar(0));
 }
 
 /// A description that fits into a message, whatever a program has put into it.
-embedded::ItemDescription travelling(embedded::ItemDescription item)
+ItemDescription travelling(ItemDescription item)
 {
     item.label = withoutNul(item.label);
     item.unit = withoutNul(item.unit);
@@ -94,7 +85,27 @@ embedded::ItemDescription travelling(embedded::ItemDescription item)
         item.value = QVariant();
     if (!canTravel(item.attributes))
         item.attributes.clear();
-    return item;
+    if (canTravel(item))
+        return item;
+    // Each part may fit, and not all of them. The item is there, and says nothing of itself.
+    ItemDescription bare;
+    bare.id = item.id;
+    bare.type = item.type;
+    bare.members = item.members;
+    bare.isEnumeration = item.isEnumeration || !item.choices.isEmpty();
+    return bare;
+}
+
+/// A call may leave the interface out.
+bool isKnownInterface(const QByteArray& interface)
+{
+    return interface.isEmpty() || interface == serviceInterface || interface == propertiesInterface
+            || interface == introspectableInterface || interface == "org.freedesktop.DBus.Peer";
+}
+
+QStringList propertyNames()
+{
+    return {QStringLiteral("Version"), QStringLiteral("Name"), QStringLiteral("Mounts")};
 }
 
 /// Appends code and value, and returns about how many bytes they took.
@@ -106,24 +117,19 @@ int appendValue(Writer& writer, ItemField field, const QVariant& value)
         writeValue(writer, value);
     else
         writeNoValue(writer);
-    return hasValue ? sizeOf(value) : 0;
+    return changeSize(hasValue ? value : QVariant(), {});
 }
 
 int appendChoices(Writer& writer, const QVector<embedded::ChoiceDescription>& choices)
 {
-    embedded::ItemDescription item;
+    ItemDescription item;
     item.choices = choices;
-    const embedded::ItemDescription fitting = travelling(item);
+    const ItemDescription fitting = travelling(item);
     writer.byte(quint8(ItemField::Choices));
     writer.open('v', "a(issb)");
     writeChoices(writer, fitting.choices);
     writer.close();
-    return descriptionSize(fitting);
-}
-
-QStringList propertyNames()
-{
-    return {QStringLiteral("Version"), QStringLiteral("Name"), QStringLiteral("Mounts")};
+    return changeSize(QVariant(), fitting.choices);
 }
 
 QStringList mountsOf(const EmbeddedService& service)
@@ -215,7 +221,7 @@ void ServicePublication::onError(const QString& text)
 {
     for (auto& [client, subscriber] : m_subscribers) {
         if (subscriber.errors.size() < mostErrors)
-            subscriber.errors += withoutNul(text.left(10'000));
+            subscriber.errors += withoutNul(text.left(10 * 1000));
     }
     changeSoon();
 }
@@ -259,11 +265,9 @@ bool ServicePublication::sendMessage(const QByteArray& client, Subscriber& subsc
     int size = 64;
     while (size < largestPage && !subscriber.changes.isEmpty()) {
         const ChangedItem change = subscriber.changes.first();
-        for (const ItemField field : allFields) {
-            if (change.fields & bit(field))
-                size += appendChange(writer, change.number, field);
-        }
-        subscriber.changes.removeFirst();
+        const ItemField field = firstOf(change.fields);
+        size += appendChange(writer, change.number, field);
+        subscriber.changes.removeFirst(bit(field));
     }
     writer.close();
     subscriber.isOutdated = false;
@@ -276,13 +280,13 @@ int ServicePublication::appendChange(Writer& writer, quint32 number, ItemField f
 {
     writer.open('r', "uyv");
     writer.uint32(number);
-    int size = 16;
+    int size = 0;
     if (number == 0)
-        size += appendValue(writer, field, mountsOf(*m_service));
+        size = appendValue(writer, field, mountsOf(*m_service));
     else if (field == ItemField::Choices)
-        size += appendChoices(writer, m_items.at(int(number))->description.choices);
+        size = appendChoices(writer, m_items.at(int(number))->description.choices);
     else
-        size += appendValue(writer, field, fieldValue(*m_items.at(int(number)), field));
+        size = appendValue(writer, field, fieldValue(*m_items.at(int(number)), field));
     writer.close();
     return size;
 }
@@ -329,7 +333,7 @@ void ServicePublication::handle(const Message& call)
         return member == method.member && (interface.isEmpty() || interface == method.interface);
     });
     if (known == std::end(methods)) {
-        m_connection->refuse(call, errorUnknownMethod,
+        m_connection->refuse(call, isKnownInterface(interface) ? errorUnknownMethod : errorUnknownInterface,
                 BusTexts::tr("There is no method %1.%2.").arg(QString::fromUtf8(interface), QString::fromUtf8(member)));
         return;
     }
@@ -359,10 +363,10 @@ void ServicePublication::getItems(const Message& call)
     quint32 count = 0;
     int size = 128;
     for (; position + 1 < quint32(m_items.size()) && (wanted == 0 || count < wanted); ++position) {
-        const embedded::ItemDescription& item = m_items.at(int(position) + 1)->description;
+        const ItemDescription& item = m_items.at(int(position) + 1)->description;
         if (!item.id.startsWith(prefix))
             continue;
-        const embedded::ItemDescription fitting = travelling(item);
+        const ItemDescription fitting = travelling(item);
         size += descriptionSize(fitting);
         if (count > 0 && size > largestPage)
             break;
@@ -491,8 +495,13 @@ void ServicePublication::writeProperty(Writer& writer, const QString& name) cons
 void ServicePublication::getProperty(const Message& call)
 {
     Reader arguments(call);
-    arguments.text();
+    const QString interface = arguments.text();
     const QString name = arguments.text();
+    if (!interface.isEmpty() && interface != QLatin1String(serviceInterface)) {
+        m_connection->refuse(
+                call, errorUnknownInterface, BusTexts::tr("There are no properties of %1.").arg(interface));
+        return;
+    }
     if (!propertyNames().contains(name)) {
         m_connection->refuse(call, errorUnknownProperty, BusTexts::tr("There is no property %1.").arg(name));
         return;

@@ -14,6 +14,10 @@ using embedded::ItemDescription;
 using embedded::MemberDescription;
 
 constexpr int deepest = 16;
+/// Beside a value there may be a page of others.
+constexpr int largestValue = largestMessage - largestPage - 4096;
+/// Where the sizes end that are counted.
+constexpr int largestSize = 1000 * 1000 * 1000;
 
 bool holdsOnly(const QVariantList& list, int type)
 {
@@ -419,8 +423,33 @@ int sizeOf(const QVariant& value)
     default:
         break;
     }
-    return int(std::min<qint64>(size, 2'000'000'000));
+    return int(std::min<qint64>(size, largestSize));
 }
+
+int sizeOf(const QVector<ChoiceDescription>& choices)
+{
+    qint64 size = 0;
+    for (const ChoiceDescription& choice : choices)
+        size += 24 + 3 * (qint64(choice.name.size()) + choice.label.size());
+    return int(std::min<qint64>(size, largestSize));
+}
+
+int descriptionSize(const ItemDescription& item)
+{
+    qint64 size = 300 + qint64(sizeOf(item.value)) + sizeOf(item.attributes) + sizeOf(item.choices);
+    for (const QString* text : {&item.id, &item.label, &item.unit, &item.applicableExpr})
+        size += 3 * qint64(text->size());
+    for (const MemberDescription& member : item.members)
+        size += 24 + 3 * qint64(member.name.size());
+    return int(std::min<qint64>(size, largestSize));
+}
+
+int changeSize(const QVariant& value, const QVector<ChoiceDescription>& choices)
+{
+    return 16 + sizeOf(value) + sizeOf(choices);
+}
+
+namespace {
 
 bool holdsNul(const QVariant& value)
 {
@@ -444,9 +473,29 @@ bool holdsNul(const QVariant& value)
     }
 }
 
+bool isDeep(const QVariant& value, int depth)
+{
+    const auto isDeeper = [depth](const QVariant& element) { return isDeep(element, depth + 1); };
+    if (depth > deepest)
+        return true;
+    if (value.userType() == QMetaType::QVariantList) {
+        const QVariantList list = value.toList();
+        return std::any_of(list.cbegin(), list.cend(), isDeeper);
+    }
+    const QVariantMap map = value.userType() == QMetaType::QVariantMap ? value.toMap() : QVariantMap();
+    return std::any_of(map.cbegin(), map.cend(), isDeeper);
+}
+
+} // namespace
+
 bool canTravel(const QVariant& value)
 {
-    return sizeOf(value) < largestMessage - 4096 && !holdsNul(value);
+    return sizeOf(value) < largestValue && !holdsNul(value) && !isDeep(value, 0);
+}
+
+bool canTravel(const ItemDescription& item)
+{
+    return descriptionSize(item) < largestValue;
 }
 
 void writeChoices(Writer& writer, const QVector<ChoiceDescription>& choices)

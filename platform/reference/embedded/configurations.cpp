@@ -13,7 +13,8 @@ namespace kiv::embedded {
 
 namespace {
 
-/// Finds settings by the last word of their ids. A service is indexed once, when a name is first looked up in it.
+/// Finds settings by their ids, or the last word of these. A service is indexed once, when a name is first looked up in
+/// it.
 class SettingFinder
 {
 public:
@@ -34,7 +35,22 @@ public:
         }
     }
 
-    Setting find(const QString& name)
+    Setting find(const QString& name) { return name.startsWith(QLatin1Char(':')) ? findId(name) : findName(name); }
+
+private:
+    using Index = QHash<QString, ItemStore::StatePtr>;
+
+    Setting findId(const QString& id) const
+    {
+        for (ServiceData* service : m_order) {
+            const ItemStore::StatePtr state = service->items.find(id);
+            if (state && state->isSetting())
+                return {service, state};
+        }
+        return {};
+    }
+
+    Setting findName(const QString& name)
     {
         const QString spelt = uiutils::fromBatchName(name);
         for (int i = 0; i < m_order.size(); ++i) {
@@ -45,9 +61,6 @@ public:
         }
         return {};
     }
-
-private:
-    using Index = QHash<QString, ItemStore::StatePtr>;
 
     const Index& index(int service)
     {

@@ -4,7 +4,7 @@
 
 namespace kiv::embedded {
 
-/// Sets a batch of settings, a JSON object of values by item name: all of them, or none. The names are looked up in the
+/// Sets a batch of settings, a JSON object of values by item name or id: all of them, or none. They are looked up in the
 /// settings of the service first, then in those of the others, in the order of the services' names.
 Outcome applyConfiguration(ServiceData& service, const QString& argument);
 

@@ -125,14 +125,14 @@ bool EmbeddedService::setUnit(const QString& id, const QString& unit)
 
 bool EmbeddedService::setReady(const QString& id, bool isReady)
 {
-    return change(d->items.find(id), ItemField::Ready, &ItemDescription::isReady, isReady,
-            &KIVClientItem::isReadyChanged);
+    return change(
+            d->items.find(id), ItemField::Ready, &ItemDescription::isReady, isReady, &KIVClientItem::isReadyChanged);
 }
 
 bool EmbeddedService::setQuality(const QString& id, KIVClientItem::Quality quality)
 {
-    return change(d->items.find(id), ItemField::Quality, &ItemDescription::quality, quality,
-            &KIVClientItem::qualityChanged);
+    return change(
+            d->items.find(id), ItemField::Quality, &ItemDescription::quality, quality, &KIVClientItem::qualityChanged);
 }
 
 bool EmbeddedService::setApplicable(const QString& id, bool isApplicable)

@@ -4,8 +4,8 @@
 
 #include <embedded/embedded_export.h>
 
-// What carries a client's request to a service in this process. Exported for the back ends that carry requests from other
-// processes; not installed.
+// What carries a client's request to a service in this process. Exported for the back ends that carry requests from
+// other processes; not installed.
 
 namespace kiv::embedded {
 
@@ -29,9 +29,9 @@ KIVEMBEDDED_EXPORT int actionDelay(const ServiceData& service, const QString& id
 
 using Request = std::function<Outcome(ServiceData&)>;
 
-/// Carries out a request of a client in this thread, which stands still for as long as the service takes, but at most for
-/// `timeoutMs`; then the request is carried out later and counts as not answered. `delayMs` is what the request takes
-/// in addition to the service's own delay.
+/// Carries out a request of a client in this thread, which stands still for as long as the service takes, but at most
+/// for `timeoutMs`; then the request is carried out later and counts as not answered. `delayMs` is what the request
+/// takes in addition to the service's own delay.
 KIVEMBEDDED_EXPORT Outcome callInProcess(EmbeddedService* service, int delayMs, int timeoutMs, const Request& request);
 
 } // namespace kiv::embedded

@@ -1,0 +1,265 @@
+#include "files.h"
+#include "privatebus.h"
+
+#include "service/kivdata.h"
+#include "service/manifest.h"
+
+#include <bus/busbackend.h>
+#include <kiv/kivclientinterface.h>
+#include <kiv/kivclientitem.h>
+
+#include <QElapsedTimer>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+
+using namespace kiv::bus;
+
+namespace {
+
+const QString levelId = ":config:life:level:";
+const QString steadyId = ":config:life:steady:";
+
+} // namespace
+
+/// Processes that end, stop and return.
+class BusLifeTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<PrivateBus> m_bus;
+    std::unique_ptr<QTemporaryDir> m_root;
+    std::unique_ptr<Child> m_kivd;
+    std::unique_ptr<BusBackend> m_backend;
+    KIVClientInterface* m_client = nullptr;
+
+    std::unique_ptr<Child> startKivd(const QString& services = "services")
+    {
+        auto kivd = std::make_unique<Child>();
+        kivd->run(QCoreApplication::applicationDirPath() + "/kivd",
+                {"--services", m_root->filePath(services), "--root", m_root->filePath("root")});
+        return kivd;
+    }
+    void writeServices(const QString& folder, int level)
+    {
+        const QString text = QString(R"({ "service": "life", "items": [
+            { "id": "%1", "type": "int", "value": %3 }, { "id": "%2", "type": "std::string", "value": "as ever" },
+            { "id": ":action:life:first:", "type": "action", "does": { "reply": "first" } },
+            { "id": ":action:life:second:", "type": "action", "does": { "reply": "second" } } ] })")
+                                     .arg(levelId, steadyId)
+                                     .arg(level);
+        writeFile(m_root->filePath(folder + "/life.service.json"), text.toUtf8());
+    }
+    bool isThere() const
+    {
+        return QTest::qWaitFor([this] { return m_client->isValid(); }, patience);
+    }
+    bool isGone() const
+    {
+        return QTest::qWaitFor([this] { return !m_client->isValid(); }, patience);
+    }
+    QVariant level() const { return m_client->getItem(levelId) ? m_client->getItem(levelId)->getValue() : QVariant(); }
+    std::unique_ptr<Child> startClient() const
+    {
+        auto client = std::make_unique<Child>();
+        client->run(QCoreApplication::applicationDirPath() + "/buspeer", {"client", "life"});
+        return client;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_bus = std::make_unique<PrivateBus>();
+        m_root = std::make_unique<QTemporaryDir>();
+        writeServices("services", 5);
+        m_kivd = startKivd();
+        m_backend = std::make_unique<BusBackend>();
+        m_client = m_backend->serviceClient("life", nullptr);
+        QVERIFY(isThere());
+    }
+    void cleanup()
+    {
+        m_backend.reset();
+        m_kivd.reset();
+        m_bus.reset();
+    }
+
+    /// The service or the bus dies at any moment under load; the pages keep what they had and find it again.
+    void killed()
+    {
+        const int kills = qMax(30, qEnvironmentVariableIntValue("UIUTILS_KILLS"));
+        Manifest manifest(m_client, "", "life");
+        KivData* shown = Manifest::getKivData(levelId);
+        KivData* steady = Manifest::getKivData(steadyId);
+        QSignalSpy levels(shown, &KivData::valueChanged);
+        // A wrapper tells of everything when its item returns; what it tells is what it had.
+        QSet<QString> steadyValues;
+        connect(steady, &KivData::valueChanged, this, [&] { steadyValues += steady->getValue().toString(); });
+        std::unique_ptr<Child> other = startClient();
+        QCOMPARE(other->ask("hammer " + levelId.toUtf8()), QByteArray("hammering"));
+        QRandomGenerator random(20240229);
+        for (int i = 0; i < kills; ++i) {
+            const int heard = levels.count() + random.bounded(12);
+            QTRY_VERIFY_WITH_TIMEOUT(levels.count() >= heard, patience);
+            if (random.bounded(2) == 0)
+                m_client->setItem(levelId, random.bounded(1000));
+            const bool isBus = i % 10 == 9;
+            (isBus ? m_bus->daemon : *m_kivd).end();
+            QVERIFY(isGone());
+            QVERIFY(!shown->isReady() && shown->getValue().isValid());
+            QCOMPARE(steady->getValue(), QVariant("as ever"));
+            QVERIFY(!m_client->setItem(levelId, 1) && !m_client->getLastError().isEmpty());
+            if (isBus)
+                m_bus->start();
+            else
+                m_kivd = startKivd();
+            QVERIFY2(isThere(), qPrintable(QString::number(i)));
+            QVERIFY(shown->isReady());
+        }
+        QCOMPARE(other->ask("rest"), QByteArray("resting"));
+        QTRY_VERIFY_WITH_TIMEOUT(m_client->setItem(levelId, 4711), patience);
+        QTRY_COMPARE_WITH_TIMEOUT(shown->getValue(), QVariant(4711), patience);
+        QTRY_COMPARE_WITH_TIMEOUT(other->ask("value " + levelId.toUtf8()), QByteArray("4711"), patience);
+        QCOMPARE(startClient()->ask("value " + levelId.toUtf8()), QByteArray("4711"));
+        QCOMPARE(steadyValues - QSet<QString> {"as ever"}, QSet<QString>());
+    }
+
+    void twoWriters()
+    {
+        const std::unique_ptr<Child> other = startClient();
+        const QByteArray id = levelId.toUtf8();
+        const QSignalSpy heard(m_client->getItem(levelId), &KIVClientItem::valueChanged);
+        for (int i = 0; i < 40; i += 2) {
+            QVERIFY(m_client->setItem(levelId, 100 + i));
+            QTRY_COMPARE_WITH_TIMEOUT(other->ask("value " + id), QByteArray::number(100 + i), patience);
+            QCOMPARE(other->ask("set " + id + ' ' + QByteArray::number(101 + i)), QByteArray("done"));
+            QTRY_COMPARE_WITH_TIMEOUT(level(), QVariant(101 + i), patience);
+        }
+        QCOMPARE(heard.count(), 40);
+        other->ask("hammer " + id);
+        for (int i = 0; i < 300; ++i)
+            QVERIFY2(m_client->setItem(levelId, 2000 + i), qPrintable(m_client->getLastError()));
+        other->ask("rest");
+        // Ordered behind everything that was written before.
+        QVERIFY(m_client->setItem(steadyId, "x"));
+        QTRY_COMPARE_WITH_TIMEOUT(m_client->getItem(steadyId)->getValue(), QVariant("x"), patience);
+        QTRY_COMPARE_WITH_TIMEOUT(other->ask("value " + steadyId.toUtf8()), QByteArray("x"), patience);
+        QCOMPARE(other->ask("value " + id), level().toByteArray());
+    }
+
+    /// Whoever is stopped: the caller waits for as long as it asked, and then not at all until somebody answers.
+    void stopped_data()
+    {
+        QTest::addColumn<bool>("isBus");
+        QTest::newRow("service") << false;
+        QTest::newRow("bus") << true;
+    }
+    void stopped()
+    {
+        QFETCH(bool, isBus);
+        Child& who = isBus ? m_bus->daemon : *m_kivd;
+        who.send(SIGSTOP);
+        QElapsedTimer timer;
+        timer.start();
+        QString reply = "untouched";
+        QVERIFY(!m_client->sendAction(":action:life:first:", QString(), &reply, 200));
+        const qint64 waited = timer.restart();
+        QVERIFY2(m_client->getLastError().contains("did not answer within 200 ms"),
+                qPrintable(m_client->getLastError()));
+        qInfo("A call of 200 ms came back after %lld ms.", waited);
+        QVERIFY(waited >= 200 && waited < 200 * 20);
+        QVERIFY(!m_client->setItem(levelId, 9));
+        QVERIFY2(m_client->getLastError().contains("has not answered an earlier request"),
+                qPrintable(m_client->getLastError()));
+        QVERIFY(timer.elapsed() < 200 * 20);
+        // What was said last is still there to read.
+        QCOMPARE(level(), QVariant(5));
+        who.send(SIGCONT);
+        QTRY_VERIFY_WITH_TIMEOUT(m_client->sendAction(":action:life:second:", QString(), &reply, patience), patience);
+        // The first one's answer has come meanwhile.
+        QCOMPARE(reply, QString("second"));
+        QVERIFY(m_client->setItem(levelId, 6));
+        QTRY_COMPARE_WITH_TIMEOUT(level(), QVariant(6), patience);
+    }
+
+    void busThatIsStoppedFromTheBeginning()
+    {
+        m_backend.reset();
+        m_bus->daemon.send(SIGSTOP);
+        m_backend = std::make_unique<BusBackend>();
+        m_client = m_backend->serviceClient("life", nullptr);
+        QVERIFY(!m_backend->waitForServices(100));
+        QVERIFY(!m_client->setItem(levelId, 9) && !m_client->getLastError().isEmpty());
+        m_bus->daemon.send(SIGCONT);
+        QVERIFY(isThere());
+    }
+
+    /// Who has the name first has it; the next one takes over.
+    void nameTakenByAnother()
+    {
+        writeServices("others", 77);
+        std::unique_ptr<Child> second = startKivd("others");
+        Stranger stranger;
+        const auto waiting = [&] {
+            const Message call = stranger.daemonCall("ListQueuedOwners");
+            Writer(call).text("org.uiutils.kiv.life");
+            Reader reader(stranger.ask(call));
+            int count = 0;
+            for (reader.enter('a', "s"); !reader.atEnd(); reader.text())
+                ++count;
+            return count;
+        };
+        QTRY_COMPARE_WITH_TIMEOUT(waiting(), 2, patience);
+        QCOMPARE(level(), QVariant(5));
+        m_kivd->end();
+        QTRY_COMPARE_WITH_TIMEOUT(level(), QVariant(77), patience);
+        QVERIFY(m_client->setItem(levelId, 78));
+        m_kivd = startKivd();
+        QTRY_COMPARE_WITH_TIMEOUT(waiting(), 2, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(level(), QVariant(78), patience);
+        second->end(SIGTERM);
+        QTRY_COMPARE_WITH_TIMEOUT(level(), QVariant(78), patience);
+    }
+
+    void termination()
+    {
+        QVERIFY(m_client->setItem(levelId, 6));
+        m_kivd->end(SIGTERM);
+        QCOMPARE(m_kivd->exitStatus(), QProcess::NormalExit);
+        QCOMPARE(m_kivd->exitCode(), 0);
+        QVERIFY(isGone());
+        m_kivd = startKivd();
+        QVERIFY(isThere());
+        QCOMPARE(level(), QVariant(6));
+        QCOMPARE(m_client->getItem(steadyId)->getValue(), QVariant("as ever"));
+    }
+
+    /// Reading and what fails start no service; only who asks for that does.
+    void activation()
+    {
+        const QString marker = m_root->filePath("started");
+        writeFile(m_bus->folder.filePath("services/org.uiutils.kiv.sleeper.service"),
+                QString("[D-BUS Service]\nName=org.uiutils.kiv.sleeper\nExec=/usr/bin/touch %1\n")
+                        .arg(marker)
+                        .toUtf8());
+        m_backend.reset();
+        m_kivd->end();
+        m_bus->kill();
+        m_bus->start();
+        m_kivd = startKivd();
+        m_backend = std::make_unique<BusBackend>();
+        KIVClientInterface* sleeper = m_backend->serviceClient("sleeper", nullptr);
+        QVERIFY(m_backend->waitForServices(patience));
+        QVERIFY(!sleeper->isValid() && !sleeper->getItem(levelId) && sleeper->getItemIds().isEmpty());
+        QVERIFY(!sleeper->setItem(levelId, 1));
+        QVERIFY(!sleeper->invokeAction(":action:life:first:"));
+        QVERIFY(Stranger().isConnected());
+        QVERIFY(!QFile::exists(marker));
+        m_backend->startServices();
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(marker), patience);
+    }
+};
+
+QTEST_GUILESS_MAIN(BusLifeTest)
+
+#include "tst_buslife.moc"
