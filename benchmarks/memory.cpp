@@ -37,14 +37,13 @@ qint64 growthHere(const std::function<void()>& run)
     return before < 0 || after < 0 ? -1 : after - before;
 }
 
-/// What the program holds of the heap.
+} // namespace
+
 double heapBytes()
 {
     const struct mallinfo2 heap = mallinfo2();
     return double(heap.uordblks) + double(heap.hblkhd);
 }
-
-} // namespace
 
 qint64 peakGrowth(const std::function<void()>& run)
 {

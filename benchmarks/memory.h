@@ -6,6 +6,9 @@
 
 namespace bench {
 
+/// What this process holds of the heap, in bytes.
+double heapBytes();
+
 /// By how many bytes the resident memory of a fresh child process grows at the most while `run` runs in it; -1 when
 /// the system does not tell.
 qint64 peakGrowth(const std::function<void()>& run);

@@ -154,6 +154,7 @@ private Q_SLOTS:
         QVERIFY(!m_setup->report("kinds", ":config:kinds:unknown:", 1));
         // The steps of a large counter are changes too.
         QVERIFY(m_setup->report("kinds", item->getId(), 2e13));
+        QTRY_COMPARE(changes.size(), 3);
         QVERIFY(m_setup->report("kinds", item->getId(), 2e13 + 1));
         QTRY_COMPARE(changes.size(), 4);
     }

@@ -228,6 +228,13 @@ bool Reader::enter(char kind, const char* contents)
     return status > 0;
 }
 
+bool Reader::enterIfNext(char kind, const char* contents)
+{
+    const int status = isGood() ? sd_bus_message_enter_container(m_message.raw(), kind, contents) : 0;
+    note(status == -ENXIO ? 0 : status);
+    return status > 0;
+}
+
 void Reader::leave()
 {
     if (isGood())

@@ -106,6 +106,8 @@ public:
     /// Enters a container as Writer::open() names them; false when the next value is no such one. At the end of an
     /// array of containers false, and the reader stays good.
     bool enter(char kind, const char* contents);
+    /// The same without harm when something else comes next.
+    bool enterIfNext(char kind, const char* contents);
     void leave();
     bool atEnd();
     /// The signature of what the variant that comes next holds; empty when none comes next.

@@ -361,12 +361,12 @@ int RemoteService::readChange(Reader& reader, QVector<ItemChange>* changes)
     const quint8 code = reader.byte();
     FieldChange change;
     change.field = ItemField(code & ~withoutValue);
-    if (reader.variantContents() == "a(issb)") {
-        reader.enter('v', "a(issb)");
+    const StatePtr state = m_isReading ? nullptr : m_numbered.value(int(number));
+    if (change.field == ItemField::Choices && reader.enterIfNext('v', "a(issb)")) {
         change.choices = readChoices(reader);
         reader.leave();
     } else {
-        change.value = readValue(reader);
+        change.value = readValue(reader, state ? state->description.value : QVariant());
     }
     const int bytes = changeSize(change.value, change.choices);
     if (code & withoutValue)
@@ -378,8 +378,8 @@ int RemoteService::readChange(Reader& reader, QVector<ItemChange>* changes)
         // What is still to be read will be newer than this.
         if (number <= quint32(m_snapshot.items.size()))
             bus::apply(change, &m_snapshot.items[int(number) - 1]);
-    } else if (number < quint32(m_numbered.size()) && m_numbered.at(int(number))) {
-        changes->append({m_numbered.at(int(number)), change});
+    } else if (state) {
+        changes->append({state, change});
     }
     return bytes;
 }

@@ -28,12 +28,12 @@ constexpr int mostSubscribers = 256;
 /// Errors that a client which does not listen is told later.
 constexpr int mostErrors = 32;
 
-constexpr Subscriber::Fields bit(ItemField field)
+constexpr ChangedItem::Fields bit(ItemField field)
 {
-    return Subscriber::Fields(1) << unsigned(field);
+    return ChangedItem::Fields(1) << unsigned(field);
 }
 
-ItemField firstOf(Subscriber::Fields fields)
+ItemField firstOf(ChangedItem::Fields fields)
 {
     return ItemField(qCountTrailingZeroBits(fields));
 }
@@ -108,13 +108,28 @@ QStringList propertyNames()
     return {QStringLiteral("Version"), QStringLiteral("Name"), QStringLiteral("Mounts")};
 }
 
-/// Leaves what concerns the service itself.
-void forgetItems(QMap<quint32, Subscriber::Fields>* changes)
+/// Appends code and value, and returns about how many bytes they took.
+int appendValue(Writer& writer, ItemField field, const QVariant& value)
 {
-    const Subscriber::Fields own = changes->value(0);
-    changes->clear();
-    if (own != 0)
-        changes->insert(0, own);
+    const bool hasValue = value.isValid() && canTravel(value);
+    writer.byte(quint8(field) + (hasValue ? 0 : withoutValue));
+    if (hasValue)
+        writeValue(writer, value);
+    else
+        writeNoValue(writer);
+    return changeSize(hasValue ? value : QVariant(), {});
+}
+
+int appendChoices(Writer& writer, const QVector<embedded::ChoiceDescription>& choices)
+{
+    ItemDescription item;
+    item.choices = choices;
+    const ItemDescription fitting = travelling(item);
+    writer.byte(quint8(ItemField::Choices));
+    writer.open('v', "a(issb)");
+    writeChoices(writer, fitting.choices);
+    writer.close();
+    return changeSize(QVariant(), fitting.choices);
 }
 
 QStringList mountsOf(const EmbeddedService& service)
@@ -143,7 +158,7 @@ ServicePublication::ServicePublication(EmbeddedService* service, Connection* con
     ServiceData& data = ServiceData::of(*service);
     data.items.setWatcher(this);
     data.mountsChanged = [this] {
-        m_changes[0] |= Subscriber::Fields(1) << fieldMounts;
+        m_changes.note(0, ChangedItem::Fields(1) << fieldMounts);
         changeSoon();
     };
     numberItems();
@@ -173,7 +188,7 @@ void ServicePublication::numberItems()
     m_items.prepend(nullptr);
     for (int number = 1; number < m_items.size(); ++number)
         m_items.at(number)->number = quint32(number);
-    forgetItems(&m_changes);
+    m_changes.setEnd(m_items.size());
 }
 
 void ServicePublication::fieldChanged(ItemState* state, ItemField field)
@@ -181,7 +196,7 @@ void ServicePublication::fieldChanged(ItemState* state, ItemField field)
     // One that came while the service cannot be reached gets its number when that returns.
     if (state->number == 0)
         return;
-    m_changes[state->number] |= bit(field);
+    m_changes.note(state->number, bit(field));
     changeSoon();
 }
 
@@ -196,7 +211,7 @@ void ServicePublication::onItemsChanged()
     }
     numberItems();
     for (auto& [client, subscriber] : m_subscribers) {
-        forgetItems(&subscriber.changes);
+        subscriber.changes.forgetItems();
         subscriber.isOutdated = true;
     }
     changeSoon();
@@ -220,13 +235,9 @@ void ServicePublication::changeSoon()
 
 void ServicePublication::sendChanges()
 {
-    const QMap<quint32, Subscriber::Fields> changes = std::exchange(m_changes, {});
+    const QVector<ChangedItem> changes = m_changes.take();
     for (auto& [client, subscriber] : m_subscribers) {
-        if (subscriber.changes.isEmpty())
-            subscriber.changes = changes;
-        else
-            for (auto it = changes.cbegin(); it != changes.cend(); ++it)
-                subscriber.changes[it.key()] |= *it;
+        subscriber.changes.unite(changes);
         serve(client);
     }
 }
@@ -253,12 +264,10 @@ bool ServicePublication::sendMessage(const QByteArray& client, Subscriber& subsc
     writer.open('a', "(uyv)");
     int size = 64;
     while (size < largestPage && !subscriber.changes.isEmpty()) {
-        const auto change = subscriber.changes.begin();
-        const ItemField field = firstOf(*change);
-        size += appendChange(writer, change.key(), field);
-        *change &= ~bit(field);
-        if (*change == 0)
-            subscriber.changes.erase(change);
+        const ChangedItem change = subscriber.changes.first();
+        const ItemField field = firstOf(change.fields);
+        size += appendChange(writer, change.number, field);
+        subscriber.changes.removeFirst(bit(field));
     }
     writer.close();
     subscriber.isOutdated = false;
@@ -267,35 +276,19 @@ bool ServicePublication::sendMessage(const QByteArray& client, Subscriber& subsc
 }
 
 /// Returns about how many bytes it took.
-int ServicePublication::appendChange(Writer& writer, quint32 number, ItemField field)
+int ServicePublication::appendChange(Writer& writer, quint32 number, ItemField field) const
 {
-    QVariant value;
-    const QVector<embedded::ChoiceDescription>* choices = nullptr;
-    ItemDescription copy;
-    if (number == 0) {
-        value = mountsOf(*m_service);
-    } else if (field == ItemField::Choices) {
-        copy.choices = m_items.at(int(number))->description.choices;
-        copy = travelling(copy);
-        choices = &copy.choices;
-    } else {
-        value = fieldValue(*m_items.at(int(number)), field);
-    }
-    const bool hasValue = choices || (value.isValid() && canTravel(value));
     writer.open('r', "uyv");
     writer.uint32(number);
-    writer.byte(quint8(field) + (hasValue ? 0 : withoutValue));
-    if (choices) {
-        writer.open('v', "a(issb)");
-        writeChoices(writer, *choices);
-        writer.close();
-    } else if (hasValue) {
-        writeValue(writer, value);
-    } else {
-        writeNoValue(writer);
-    }
+    int size = 0;
+    if (number == 0)
+        size = appendValue(writer, field, mountsOf(*m_service));
+    else if (field == ItemField::Choices)
+        size = appendChoices(writer, m_items.at(int(number))->description.choices);
+    else
+        size = appendValue(writer, field, fieldValue(*m_items.at(int(number)), field));
     writer.close();
-    return changeSize(hasValue ? value : QVariant(), copy.choices);
+    return size;
 }
 
 void ServicePublication::sendErrors(const QByteArray& client, Subscriber& subscriber)

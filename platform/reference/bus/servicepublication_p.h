@@ -57,7 +57,7 @@ private:
     void sendChanges();
     void serve(const QByteArray& client);
     void sendErrors(const QByteArray& client, Subscriber& subscriber);
-    int appendChange(Writer& writer, quint32 number, embedded::ItemField field);
+    int appendChange(Writer& writer, quint32 number, embedded::ItemField field) const;
     bool sendMessage(const QByteArray& client, Subscriber& subscriber);
 
     void getItems(const Message& call);
@@ -80,7 +80,7 @@ private:
     quint64 m_generation = 0;
     /// By number; null for number 0.
     QVector<StatePtr> m_items;
-    QMap<quint32, Subscriber::Fields> m_changes;
+    ChangeCollector m_changes;
     std::map<QByteArray, Subscriber> m_subscribers;
     QTimer m_timer;
     bool m_areItemsOutdated = false;

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "changelist_p.h"
 #include "protocol_p.h"
 
 #include <QByteArray>
-#include <QMap>
 #include <QStringList>
 
 #include <deque>
@@ -14,9 +14,6 @@ namespace kiv::bus {
 class Subscriber
 {
 public:
-    /// The fields of an item that it has to hear of, a bit for each code.
-    using Fields = quint32;
-
     quint64 lastSerial() const { return m_serial; }
     bool mayBeSent() const { return m_owed.size() < mostOwedMessages && m_owedBytes < mostOwedBytes; }
     /// Counts a message of that size and returns its serial.
@@ -24,8 +21,8 @@ public:
     /// Takes back the messages up to that serial. Returns whether it has caught up with enough of them to be sent more.
     bool acknowledge(quint64 serial);
 
-    /// Items by their numbers, in that order; number 0 is the service itself.
-    QMap<quint32, Fields> changes;
+    /// What it still has to hear of.
+    ChangeList changes;
     /// The items are others than before: it has to look anew.
     bool isOutdated = false;
     QStringList errors;

@@ -124,18 +124,51 @@ QVariantList readList(Reader& reader, const char* contents, int depth)
     return list;
 }
 
+/// What a value of that type travels as, of those that are neither lists nor maps; else null.
+const char* simpleContents(int type)
+{
+    switch (type) {
+    case QMetaType::Int:
+        return "i";
+    case QMetaType::UInt:
+        return "u";
+    case QMetaType::Bool:
+        return "b";
+    case QMetaType::Double:
+    case QMetaType::Float:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        return "d";
+    case QMetaType::QString:
+        return "s";
+    default:
+        return nullptr;
+    }
+}
+
+QVariant readSimple(Reader& reader, char type)
+{
+    switch (type) {
+    case 'i':
+        return reader.int32();
+    case 'u':
+        return reader.uint32();
+    case 'd':
+        return reader.real();
+    case 'b':
+        return reader.boolean();
+    case 's':
+        return reader.text();
+    default:
+        reader.skip(QByteArray(1, type).constData());
+        return QVariant();
+    }
+}
+
 QVariant readContents(Reader& reader, const QByteArray& contents, int depth)
 {
-    if (contents == "i")
-        return reader.int32();
-    if (contents == "u")
-        return reader.uint32();
-    if (contents == "d")
-        return reader.real();
-    if (contents == "b")
-        return reader.boolean();
-    if (contents == "s")
-        return reader.text();
+    if (contents.size() == 1)
+        return readSimple(reader, contents.front());
     if (contents == "ad")
         return readNumbers(reader);
     if (contents == "as")
@@ -246,8 +279,8 @@ QVector<MemberDescription> readMembers(Reader& reader)
 /// Enters the variant that comes next when it holds `contents`, and passes over it otherwise.
 bool enterVariant(Reader& reader, const char* contents)
 {
-    if (reader.variantContents() == contents)
-        return reader.enter('v', contents);
+    if (reader.enterIfNext('v', contents))
+        return true;
     reader.skip("v");
     return false;
 }
@@ -346,6 +379,17 @@ void writeNoValue(Writer& writer)
 QVariant readValue(Reader& reader)
 {
     return readValue(reader, 0);
+}
+
+QVariant readValue(Reader& reader, const QVariant& similar)
+{
+    // Looking what comes next costs as much as reading it.
+    const char* contents = simpleContents(similar.userType());
+    if (!contents || !reader.enterIfNext('v', contents))
+        return readValue(reader, 0);
+    const QVariant value = readSimple(reader, *contents);
+    reader.leave();
+    return value;
 }
 
 int sizeOf(const QVariant& value)

@@ -17,6 +17,8 @@ void writeNoValue(Writer& writer);
 
 /// Reads the variant that comes next; invalid, and not good, when it is of another kind.
 QVariant readValue(Reader& reader);
+/// The same, faster when the value is of the same type as `similar`.
+QVariant readValue(Reader& reader, const QVariant& similar);
 
 /// About how many bytes a value takes in a message.
 int sizeOf(const QVariant& value);

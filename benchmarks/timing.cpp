@@ -1,11 +1,9 @@
-#include "case.h"
+#include "timing.h"
 
 #include <algorithm>
 #include <ctime>
 
 namespace bench {
-
-namespace {
 
 double cpuMilliseconds()
 {
@@ -19,8 +17,6 @@ double median(QVector<double> values)
     std::sort(values.begin(), values.end());
     return values.at(values.size() / 2);
 }
-
-} // namespace
 
 double measured(const std::function<void()>& run)
 {

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "rooms.h"
+
+namespace bench {
+
+QVector<Result> latencyCases(int runs);
+QVector<Result> loadCases(int runs);
+QVector<Result> startCases(int runs);
+QVector<Result> memoryCases(int runs);
+
+} // namespace bench
