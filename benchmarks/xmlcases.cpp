@@ -9,7 +9,8 @@ QVector<Result> xmlCases(int runs)
 {
     const Writer writer {QStringLiteral("XML text"),
             [](const ReportTemplate& report) { return TemplateToXmlWriter(report, false, true, true).getXml(); },
-            [](const QString& text) { return text; }};
+            // The custom fields leave an empty line, which is no token.
+            [](QString text) { return text.replace(QLatin1String("\n\n"), QLatin1String("\n")); }};
     return writerCases(writer, runs, 10'000) + writerCases(writer, runs, 100'000);
 }
 
