@@ -1,6 +1,6 @@
 #pragma once
 
-#include "rooms.h"
+#include "benchmarks/rooms.h"
 
 namespace bench {
 

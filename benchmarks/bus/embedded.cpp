@@ -1,5 +1,5 @@
 #include "commands.h"
-#include "memory.h"
+#include "benchmarks/memory.h"
 #include "ownservice.h"
 #include "roles.h"
 #include "workload.h"

@@ -1,10 +1,10 @@
 #include "qtclient.h"
 
 #include "commands.h"
-#include "plainwrapper.h"
+#include "benchmarks/plainwrapper.h"
 #include "roles.h"
 #include "settling.h"
-#include "timing.h"
+#include "benchmarks/timing.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

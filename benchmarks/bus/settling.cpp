@@ -1,7 +1,7 @@
 #include "settling.h"
 
 #include "commands.h"
-#include "timing.h"
+#include "benchmarks/timing.h"
 #include "workload.h"
 
 #include <QTimer>

@@ -1,6 +1,6 @@
 #include "buscases.h"
 #include "helper.h"
-#include "timing.h"
+#include "benchmarks/timing.h"
 #include "workload.h"
 
 namespace bench {

@@ -43,6 +43,7 @@ demo        apps/demo                       LIBRARY base contract embedded commo
 convert     apps/reportconvert              LIBRARY base contract embedded common
 qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded common
 benchmarks  benchmarks                      LIBRARY base contract embedded
+busbench    benchmarks/bus                  LIBRARY base contract embedded bus benchmarks
 """
 GROUPS = {"WRITERS": "plots pdffile pages text html xml",
           "LIBRARY": "core service instrument document local files plots pdffile pages text html xml report saving module"}
@@ -55,7 +56,7 @@ TESTS = "tests/"
 LIBRARIES = ("base/", "lib/", "platform/")
 # Programs of the tree that may use headers that are not installed; every other use is an exception below.
 # Programs may use base too, but not the demo, which shows what can be built on an installed library.
-INSIDERS = {"benchmarks"}
+INSIDERS = {"benchmarks", "busbench"}
 GUESTS_OF_BASE = {"demo"}
 LARGEST_CIRCLE = 3
 

@@ -21,7 +21,6 @@ namespace kiv::bus {
 namespace {
 
 constexpr QLatin1String baseManagerName("basemgr");
-constexpr int patienceMs = 25 * 1000;
 
 } // namespace
 

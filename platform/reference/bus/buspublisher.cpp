@@ -13,8 +13,6 @@ namespace kiv::bus {
 
 namespace {
 
-constexpr int daemonTimeoutMs = 25 * 1000;
-
 // Answers of RequestName.
 constexpr quint32 primaryOwner = 1;
 constexpr quint32 inQueue = 2;
@@ -109,7 +107,7 @@ void BusPublisher::Private::requestName(ServicePublication* publication)
     Writer writer(call);
     writer.text(QString::fromLatin1(publication->busName()));
     writer.uint32(0);
-    connection()->call(call, daemonTimeoutMs, publication, [this, publication](const Message& reply) {
+    connection()->call(call, patienceMs, publication, [this, publication](const Message& reply) {
         const quint32 answer = reply.isError() ? 0 : Reader(reply).uint32();
         if (answer == inQueue)
             Q_EMIT q->nameTaken(publication->service() ? publication->service()->name() : QString());

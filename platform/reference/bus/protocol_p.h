@@ -42,6 +42,9 @@ constexpr quint8 withoutValue = 128;
 /// Field codes of the service itself, which has the number 0.
 constexpr quint8 fieldMounts = 1;
 
+/// Milliseconds of patience with answers that nobody waits for.
+constexpr int patienceMs = 25 * 1000;
+
 /// The largest message, and the largest part of a long answer, in bytes.
 constexpr int largestMessage = 16 * 1024 * 1024;
 constexpr int largestPage = 1024 * 1024;

@@ -2,6 +2,7 @@
 
 #include "busclient_p.h"
 #include "bustexts_p.h"
+#include "descriptioncodec_p.h"
 #include "itemchanges_p.h"
 #include "localservices_p.h"
 #include "protocol_p.h"
@@ -27,8 +28,6 @@ using embedded::Outcome;
 using embedded::ServiceData;
 using embedded::ServiceFileTexts;
 
-/// Patience with what nobody waits for.
-constexpr int patienceMs = 25 * 1000;
 /// More than any service has; one that sends more is ill.
 constexpr int mostItems = 200 * 1000;
 
@@ -49,6 +48,7 @@ RemoteService::RemoteService(const QString& name, Connection* connection, QObjec
     , m_path(bus::objectPath(name))
     , m_connection(connection)
     , m_sharedClient(new BusClient(this, this))
+    , m_calls(name, m_path, connection)
 {
 }
 
@@ -60,10 +60,10 @@ void RemoteService::setOwner(const QByteArray& owner)
     if (owner == m_owner)
         return;
     m_owner = owner;
+    m_calls.setOwner(owner);
     ++m_session;
     m_isLoading = !owner.isEmpty();
     m_isReading = false;
-    m_isStalled = false;
     m_refusal.clear();
     m_mounts.clear();
     m_numbered.clear();
@@ -402,79 +402,17 @@ void RemoteService::countMessage(int bytes)
 
 Outcome RemoteService::setItem(const QString& id, const QVariant& value, int timeoutMs)
 {
-    if (embedded::EmbeddedService* own = localService(m_owner, m_path)) {
-        return callInProcess(
-                own, 0, timeoutMs, [id, value](ServiceData& service) { return setSetting(service, id, value); });
-    }
-    if (!canTravel(value))
-        return {false, BusTexts::tr("%1 cannot be set: the value is too large, or a text of it holds a NUL.").arg(id)};
-    const Message message = newCall(serviceInterface, "SetItem");
-    Writer writer(message);
-    writer.text(id);
-    if (value.isValid())
-        writeValue(writer, value);
-    else
-        writeNoValue(writer);
-    return writer.isGood() ? call(message, timeoutMs) : gone();
+    return isReachable() ? m_calls.setItem(id, value, timeoutMs) : gone();
 }
 
 Outcome RemoteService::sendAction(const QString& id, const QString& argument, int timeoutMs)
 {
-    if (embedded::EmbeddedService* own = localService(m_owner, m_path)) {
-        return callInProcess(own, actionDelay(ServiceData::of(*own), id), timeoutMs,
-                [id, argument](ServiceData& service) { return carryOut(service, id, argument); });
-    }
-    if (!canTravel(argument))
-        return {false, BusTexts::tr("%1 was not sent: its argument is too large, or holds a NUL.").arg(id)};
-    const Message message = newCall(serviceInterface, "SendAction");
-    Writer writer(message);
-    writer.text(id);
-    writer.text(argument);
-    return writer.isGood() ? call(message, timeoutMs) : gone();
-}
-
-Outcome RemoteService::call(const Message& message, int timeoutMs)
-{
-    if (!isReachable())
-        return gone();
-    if (m_isStalled)
-        return {false,
-                BusTexts::tr("The service %1 has not answered an earlier request yet. Try again when it does.")
-                        .arg(m_name)};
-    const Message reply = m_connection->callBlocking(message, timeoutMs);
-    if (!reply.isError())
-        return {true, reply.signature() == "s" ? Reader(reply).text() : QString()};
-    if (Connection::isLoss(reply))
-        return {false, BusTexts::tr("The service %1 ended before it answered. Try again when it runs.").arg(m_name)};
-    if (!Connection::isTimeout(reply))
-        return {false, reply.errorText()};
-    onTimeout();
-    return {false,
-            BusTexts::tr("The service %1 did not answer within %2 ms. It may still carry out the request.")
-                    .arg(m_name, QString::number(std::max(timeoutMs, 0)))};
+    return isReachable() ? m_calls.sendAction(id, argument, timeoutMs) : gone();
 }
 
 Outcome RemoteService::gone() const
 {
-    return {false,
-            m_refusal.isEmpty() ? BusTexts::tr("The service %1 cannot be reached. Try again when it runs.").arg(m_name)
-                                : m_refusal};
-}
-
-/// Until the service shows that it is awake nobody waits for it again.
-void RemoteService::onTimeout()
-{
-    m_isStalled = true;
-    // Whatever it answers is an answer.
-    m_connection->call(newCall("org.freedesktop.DBus.Peer", "Ping"), patienceMs, this,
-            [this, session = m_session](const Message& reply) {
-                if (session != m_session)
-                    return;
-                if (m_isStalled && Connection::isTimeout(reply))
-                    onTimeout();
-                else
-                    m_isStalled = false;
-            });
+    return m_refusal.isEmpty() ? m_calls.gone() : Outcome {false, m_refusal};
 }
 
 } // namespace kiv::bus

@@ -2,8 +2,7 @@
 
 #include "connection_p.h"
 #include "itemchanges_p.h"
-
-#include "embedded/requests_p.h"
+#include "servicecalls_p.h"
 
 #include <QObject>
 #include <QSet>
@@ -43,7 +42,7 @@ public:
     /// A signal of the owner's.
     void hear(const Message& signal);
     /// The owner said something: it is awake.
-    void noteAlive() { m_isStalled = false; }
+    void noteAlive() { m_calls.noteAlive(); }
 
     // Calls wait for at most `timeoutMs` milliseconds.
     embedded::Outcome setItem(const QString& id, const QVariant& value, int timeoutMs);
@@ -79,15 +78,14 @@ private:
     void hearChanges(const Message& signal);
     int readChange(Reader& reader, QVector<ItemChange>* changes);
     void countMessage(int bytes);
-    embedded::Outcome call(const Message& message, int timeoutMs);
     embedded::Outcome gone() const;
-    void onTimeout();
 
     const QString m_name;
     const QByteArray m_busName;
     const QByteArray m_path;
     Connection* const m_connection;
     BusClient* const m_sharedClient;
+    ServiceCalls m_calls;
     QByteArray m_owner;
     /// Counts owners: an answer that one left behind is not the next one's.
     int m_session = 0;
@@ -102,7 +100,6 @@ private:
     bool m_isOwnerKnown = false;
     bool m_isReading = false;
     bool m_isLoading = false;
-    bool m_isStalled = false;
     int m_unacknowledged = 0;
     int m_unacknowledgedBytes = 0;
     QSet<QString> m_mounts;

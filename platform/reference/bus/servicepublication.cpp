@@ -1,6 +1,8 @@
 #include "servicepublication_p.h"
 
 #include "bustexts_p.h"
+#include "descriptioncodec_p.h"
+#include "fieldcodec_p.h"
 #include "protocol_p.h"
 #include "valuecodec_p.h"
 
@@ -38,64 +40,6 @@ ItemField firstOf(ChangedItem::Fields fields)
     return ItemField(qCountTrailingZeroBits(fields));
 }
 
-/// What a service says of a field, as a value; choices have a form of their own.
-QVariant fieldValue(const ItemState& state, ItemField field)
-{
-    switch (field) {
-    case ItemField::Value:
-        return state.description.value;
-    case ItemField::Label:
-        return state.description.label;
-    case ItemField::Unit:
-        return state.description.unit;
-    case ItemField::Ready:
-        return state.description.isReady;
-    case ItemField::Quality:
-        return int(state.description.quality);
-    case ItemField::Applicable:
-        return state.description.isApplicable;
-    case ItemField::Minimum:
-        return state.description.minimum;
-    case ItemField::Maximum:
-        return state.description.maximum;
-    case ItemField::Attributes:
-        return state.description.attributes;
-    case ItemField::Choices:
-        break;
-    }
-    return QVariant();
-}
-
-QString withoutNul(QString text)
-{
-    return text.remove(QChar(0));
-}
-
-/// A description that fits into a message, whatever a program has put into it.
-ItemDescription travelling(ItemDescription item)
-{
-    item.label = withoutNul(item.label);
-    item.unit = withoutNul(item.unit);
-    item.applicableExpr = withoutNul(item.applicableExpr);
-    for (embedded::ChoiceDescription& choice : item.choices) {
-        choice.name = withoutNul(choice.name);
-        choice.label = withoutNul(choice.label);
-    }
-    if (!canTravel(item.value))
-        item.value = QVariant();
-    if (!canTravel(item.attributes))
-        item.attributes.clear();
-    if (canTravel(item))
-        return item;
-    // Each part may fit, and not all of them. The item is there, and says nothing of itself.
-    ItemDescription bare;
-    bare.id = item.id;
-    bare.type = item.type;
-    bare.members = item.members;
-    bare.isEnumeration = item.isEnumeration || !item.choices.isEmpty();
-    return bare;
-}
-
 /// A call may leave the interface out.
 bool isKnownInterface(const QByteArray& interface)
 {
@@ -106,30 +50,6 @@ bool isKnownInterface(const QByteArray& interface)
 QStringList propertyNames()
 {
     return {QStringLiteral("Version"), QStringLiteral("Name"), QStringLiteral("Mounts")};
-}
-
-/// Appends code and value, and returns about how many bytes they took.
-int appendValue(Writer& writer, ItemField field, const QVariant& value)
-{
-    const bool hasValue = value.isValid() && canTravel(value);
-    writer.byte(quint8(field) + (hasValue ? 0 : withoutValue));
-    if (hasValue)
-        writeValue(writer, value);
-    else
-        writeNoValue(writer);
-    return changeSize(hasValue ? value : QVariant(), {});
-}
-
-int appendChoices(Writer& writer, const QVector<embedded::ChoiceDescription>& choices)
-{
-    ItemDescription item;
-    item.choices = choices;
-    const ItemDescription fitting = travelling(item);
-    writer.byte(quint8(ItemField::Choices));
-    writer.open('v', "a(issb)");
-    writeChoices(writer, fitting.choices);
-    writer.close();
-    return changeSize(QVariant(), fitting.choices);
 }
 
 QStringList mountsOf(const EmbeddedService& service)
@@ -280,13 +200,8 @@ int ServicePublication::appendChange(Writer& writer, quint32 number, ItemField f
 {
     writer.open('r', "uyv");
     writer.uint32(number);
-    int size = 0;
-    if (number == 0)
-        size = appendValue(writer, field, mountsOf(*m_service));
-    else if (field == ItemField::Choices)
-        size = appendChoices(writer, m_items.at(int(number))->description.choices);
-    else
-        size = appendValue(writer, field, fieldValue(*m_items.at(int(number)), field));
+    const int size = number == 0 ? writeField(writer, field, mountsOf(*m_service))
+                                 : writeField(writer, field, *m_items.at(int(number)));
     writer.close();
     return size;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "connection_p.h"
+#include "message_p.h"
+#include "protocol_p.h"
 
 #include <embedded/servicedescription.h>
 
@@ -20,25 +21,19 @@ QVariant readValue(Reader& reader);
 /// The same, faster when the value is of the same type as `similar`.
 QVariant readValue(Reader& reader, const QVariant& similar);
 
+/// The size that a value must stay below: beside it there may be a page of others.
+constexpr int largestValue = largestMessage - largestPage - 4096;
+/// Where the sizes end that are counted.
+constexpr int largestSize = 1000 * 1000 * 1000;
+
 /// About how many bytes a value takes in a message.
 int sizeOf(const QVariant& value);
 int sizeOf(const QVector<embedded::ChoiceDescription>& choices);
-/// The same of a whole description, and of the change of a field. Both sides count what a client owes by the latter.
-int descriptionSize(const embedded::ItemDescription& item);
+/// The same of the change of a field. Both sides count what a client owes by it.
 int changeSize(const QVariant& value, const QVector<embedded::ChoiceDescription>& choices);
 
 /// Whether a value can travel: no text of it holds a NUL, it is not nested deeper than a bus allows, and it leaves room
 /// in a message for what stands beside it.
 bool canTravel(const QVariant& value);
-/// Whether a whole description can.
-bool canTravel(const embedded::ItemDescription& item);
-
-void writeChoices(Writer& writer, const QVector<embedded::ChoiceDescription>& choices);
-QVector<embedded::ChoiceDescription> readChoices(Reader& reader);
-
-/// A description in the map of GetItems: type, value and whatever differs from the usual.
-void writeDescription(Writer& writer, const embedded::ItemDescription& item);
-/// Reads such a map; fields that are not known are passed over.
-void readDescription(Reader& reader, embedded::ItemDescription* item);
 
 } // namespace kiv::bus
