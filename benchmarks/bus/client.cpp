@@ -1,11 +1,11 @@
 #include "client.h"
 
-#include "commands.h"
 #include "benchmarks/memory.h"
+#include "benchmarks/timing.h"
+#include "commands.h"
 #include "page.h"
 #include "roles.h"
 #include "settling.h"
-#include "benchmarks/timing.h"
 #include "workload.h"
 
 #include "service/manifest.h"

@@ -1,5 +1,5 @@
-#include "commands.h"
 #include "benchmarks/memory.h"
+#include "commands.h"
 #include "ownservice.h"
 #include "roles.h"
 #include "workload.h"

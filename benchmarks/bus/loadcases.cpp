@@ -1,6 +1,6 @@
+#include "benchmarks/timing.h"
 #include "buscases.h"
 #include "helper.h"
-#include "benchmarks/timing.h"
 #include "workload.h"
 
 namespace bench {

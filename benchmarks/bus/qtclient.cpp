@@ -1,10 +1,10 @@
 #include "qtclient.h"
 
-#include "commands.h"
 #include "benchmarks/plainwrapper.h"
+#include "benchmarks/timing.h"
+#include "commands.h"
 #include "roles.h"
 #include "settling.h"
-#include "benchmarks/timing.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

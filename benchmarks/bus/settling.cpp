@@ -1,7 +1,7 @@
 #include "settling.h"
 
-#include "commands.h"
 #include "benchmarks/timing.h"
+#include "commands.h"
 #include "workload.h"
 
 #include <QTimer>
