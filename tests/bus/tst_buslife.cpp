@@ -216,7 +216,9 @@ private Q_SLOTS:
         QFETCH(QString, who);
         if (who == "bridge")
             connectOverStoppedBridge();
-        const pid_t stopped = who == "service" ? m_kivd->processId() : who == "bus" ? m_bus->daemon.processId() : m_bridge;
+        const pid_t stopped = who == "service" ? m_kivd->processId()
+                : who == "bus"                 ? m_bus->daemon.processId()
+                                               : m_bridge;
         ::kill(stopped, SIGSTOP);
         QElapsedTimer timer;
         timer.start();
