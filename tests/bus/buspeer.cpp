@@ -13,6 +13,7 @@
 #include <QSocketNotifier>
 #include <QTimer>
 
+#include <csignal>
 #include <cstdio>
 #include <functional>
 
@@ -97,7 +98,12 @@ int beService(const QString& name, int count)
         item.value = 0;
         description.items += item;
     }
+    kiv::embedded::ItemDescription die;
+    die.id = ":action:numbers:die:";
+    die.type = "action";
+    description.items += die;
     kiv::embedded::EmbeddedService* service = services.publish(description);
+    service->setActionHandler(":action:numbers:die:", [](const QString&, QString*) { return ::raise(SIGKILL) != 0; });
     kiv::bus::BusPublisher publisher;
     publisher.publish(service);
     QTimer turns;

@@ -11,6 +11,7 @@
 
 #include <csignal>
 #include <sys/prctl.h>
+#include <sys/stat.h>
 
 /// Milliseconds. Whoever waits so long has waited in vain.
 constexpr int patience = 60'000;
@@ -77,6 +78,8 @@ class PrivateBus
 public:
     PrivateBus()
     {
+        // Other users may come in.
+        ::chmod(folder.path().toLocal8Bit().constData(), 0711);
         QDir(folder.path()).mkdir("services");
         QFile::copy(UIUTILS_SOURCE_DIR "/tests/bus/bus.conf", folder.filePath("bus.conf"));
         qputenv("DBUS_SESSION_BUS_ADDRESS", address().toLocal8Bit());

@@ -65,7 +65,7 @@ public:
     quint64 generation = 7;
     QByteArray client;
     int readings = 0;
-    quint32 acknowledged = 0;
+    int acknowledgements = 0;
     std::function<void(sd_bus_message*, quint32 from)> items = [](sd_bus_message* message, quint32) {
         sd_bus_message_append(message, "(usa{sv})", 1, ":result:fake:one:", 2, "type", "s", "int", "value", "i", 1);
         sd_bus_message_append(message, "(usa{sv})", 2, ":result:fake:two:", 2, "type", "s", "int", "value", "i", 2);
@@ -80,6 +80,8 @@ private:
         if (call.member() == "GetItems") {
             ++readings;
             getItems(call);
+        } else if (call.member() == "Acknowledge") {
+            ++acknowledgements;
         } else if (call.member() == "GetAll") {
             sd_bus_message_append(reply.raw(), "a{sv}", version.isEmpty() ? 1 : 2, "Later", "(ib)", 1, 1, "Version",
                     "s", version.data());
@@ -258,12 +260,19 @@ private Q_SLOTS:
         m_fake->tell(3, nothing);
         QTRY_COMPARE_WITH_TIMEOUT(two(), QVariant(22), patience);
         QCOMPARE(m_fake->readings, 2);
-        m_fake->tell(4, [](sd_bus_message* m) { sd_bus_message_append(m, "(uyv)", 2, 1, "i", 23); });
+        // Errors count as changes do.
+        for (int i = 0; i < 16; ++i) {
+            const Message error = m_fake->connection.newSignal(m_fake->client, path, serviceInterface, "SigError");
+            sd_bus_message_append(error.raw(), "s", "Too warm");
+            m_fake->connection.send(error);
+        }
+        m_fake->tell(20, [](sd_bus_message* m) { sd_bus_message_append(m, "(uyv)", 2, 1, "i", 23); });
         QTRY_COMPARE_WITH_TIMEOUT(two(), QVariant(23), patience);
         QCOMPARE(m_fake->readings, 2);
         ++m_fake->generation;
         items(24);
-        m_fake->tell(5, nothing);
+        QTRY_COMPARE_WITH_TIMEOUT(m_fake->acknowledgements, 1, patience);
+        m_fake->tell(21, nothing);
         QTRY_COMPARE_WITH_TIMEOUT(two(), QVariant(24), patience);
         QCOMPARE(m_fake->readings, 3);
         QCOMPARE(second.count(), 3);

@@ -10,7 +10,12 @@
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QSignalSpy>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <unistd.h>
 
 using namespace kiv::bus;
 
@@ -32,6 +37,7 @@ private:
     std::unique_ptr<Child> m_kivd;
     std::unique_ptr<BusBackend> m_backend;
     KIVClientInterface* m_client = nullptr;
+    pid_t m_bridge = 0;
 
     std::unique_ptr<Child> startKivd(const QString& services = "services")
     {
@@ -59,6 +65,26 @@ private:
         return QTest::qWaitFor([this] { return !m_client->isValid(); }, patience);
     }
     QVariant level() const { return m_client->getItem(levelId) ? m_client->getItem(levelId)->getValue() : QVariant(); }
+    /// Reaches the bus through a program that forwards to it. It is stopped when the connection is made, and blocks
+    /// nobody.
+    void connectOverStoppedBridge()
+    {
+        if (QStandardPaths::findExecutable("systemd-stdio-bridge").isEmpty())
+            QSKIP("There is no systemd-stdio-bridge.");
+        m_backend.reset();
+        const QString script = QString("echo $$ >%1/bridge; kill -STOP $$; exec systemd-stdio-bridge --bus-path=%2")
+                                       .arg(m_bus->folder.path(), m_bus->address());
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "unixexec:path=/bin/sh,argv1=-c,argv2=" + QUrl::toPercentEncoding(script));
+        m_backend = std::make_unique<BusBackend>();
+        m_client = m_backend->serviceClient("life", nullptr);
+        waitUntil([this] {
+            m_bridge = contentsOf(m_bus->folder.filePath("bridge")).toInt();
+            return m_bridge > 0 && contentsOf(QString("/proc/%1/stat").arg(m_bridge)).contains(") T ");
+        });
+        QVERIFY(!m_backend->waitForServices(100) && !m_client->setItem(levelId, 9));
+        ::kill(m_bridge, SIGCONT);
+        QVERIFY(isThere());
+    }
     std::unique_ptr<Child> startClient() const
     {
         auto client = std::make_unique<Child>();
@@ -140,6 +166,8 @@ private Q_SLOTS:
         for (int i = 0; i < 300; ++i)
             QVERIFY2(m_client->setItem(levelId, 2000 + i), qPrintable(m_client->getLastError()));
         other->ask("rest");
+        // What does not arrive as it was is not sent at all.
+        QVERIFY(!m_client->setItem(steadyId, QString::fromLatin1("a\0b", 3)));
         // Ordered behind everything that was written before.
         QVERIFY(m_client->setItem(steadyId, "x"));
         QTRY_COMPARE_WITH_TIMEOUT(m_client->getItem(steadyId)->getValue(), QVariant("x"), patience);
@@ -147,18 +175,51 @@ private Q_SLOTS:
         QCOMPARE(other->ask("value " + id), level().toByteArray());
     }
 
+    void diesDuringACall()
+    {
+        Child peer;
+        peer.run(QCoreApplication::applicationDirPath() + "/buspeer", {"service", "mortal", "1"});
+        m_client = m_backend->serviceClient("mortal", nullptr);
+        QVERIFY(isThere());
+        QVERIFY(!m_client->sendAction(":action:numbers:die:", QString(), nullptr, patience));
+        QVERIFY2(m_client->getLastError().contains("mortal ended before it answered"),
+                qPrintable(m_client->getLastError()));
+        QVERIFY(isGone());
+    }
+
+    /// Who has the name on this user's bus is not believed if it is another user.
+    void serviceOfAnotherUser()
+    {
+        if (::geteuid() != 0)
+            QSKIP("Only root can be another user.");
+        m_backend.reset();
+        // The user of a connection is the one who opens it.
+        QCOMPARE(::seteuid(65534), 0);
+        m_backend = std::make_unique<BusBackend>();
+        QCOMPARE(::seteuid(0), 0);
+        m_client = m_backend->serviceClient("life", nullptr);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("life is run by another user"));
+        QVERIFY(m_backend->waitForServices(patience));
+        QVERIFY(!m_client->isValid() && !m_client->setItem(levelId, 9));
+        QVERIFY2(m_client->getLastError().contains("another user"), qPrintable(m_client->getLastError()));
+    }
+
     /// Whoever is stopped: the caller waits for as long as it asked, and then not at all until somebody answers.
     void stopped_data()
     {
-        QTest::addColumn<bool>("isBus");
-        QTest::newRow("service") << false;
-        QTest::newRow("bus") << true;
+        QTest::addColumn<QString>("who");
+        for (const char* who : {"service", "bus", "bridge"})
+            QTest::newRow(who) << who;
     }
     void stopped()
     {
-        QFETCH(bool, isBus);
-        Child& who = isBus ? m_bus->daemon : *m_kivd;
-        who.send(SIGSTOP);
+        QFETCH(QString, who);
+        if (who == "bridge")
+            connectOverStoppedBridge();
+        const pid_t stopped = who == "service" ? m_kivd->processId()
+                : who == "bus"                 ? m_bus->daemon.processId()
+                                               : m_bridge;
+        ::kill(stopped, SIGSTOP);
         QElapsedTimer timer;
         timer.start();
         QString reply = "untouched";
@@ -174,7 +235,7 @@ private Q_SLOTS:
         QVERIFY(timer.elapsed() < 200 * 20);
         // What was said last is still there to read.
         QCOMPARE(level(), QVariant(5));
-        who.send(SIGCONT);
+        ::kill(stopped, SIGCONT);
         QTRY_VERIFY_WITH_TIMEOUT(m_client->sendAction(":action:life:second:", QString(), &reply, patience), patience);
         // The first one's answer has come meanwhile.
         QCOMPARE(reply, QString("second"));

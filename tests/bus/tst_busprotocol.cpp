@@ -407,21 +407,47 @@ private Q_SLOTS:
             // A turn of its own.
             m_stranger->isConnected();
         };
+        // Errors count as well.
+        probe()->reportError("Too warm");
         for (int i = 0; i < 200; ++i)
             change(":config:probe:number:", i);
-        QCOMPARE(changes().size(), 64);
+        QCOMPARE(changes().size(), 63);
+        probe()->setLabel(":config:probe:number:", "Later");
+        for (int i = 0; i < 40; ++i)
+            probe()->reportError("Too cold");
         // Nothing was sent up to there: it counts for all that was.
         call(serviceInterface, "Acknowledge", [](sd_bus_message* m) { sd_bus_message_append(m, "t", quint64(20)); });
         QCOMPARE(changes().size(), 0);
         call(serviceInterface, "Acknowledge", [](sd_bus_message* m) { sd_bus_message_append(m, "t", ~quint64(0)); });
-        QTRY_COMPARE_WITH_TIMEOUT(m_stranger->signals_.size(), 1, patience);
-        Reader reader(m_stranger->signals_.last());
-        reader.skip("t");
-        QCOMPARE(reader.uint64(), quint64(65));
+        const auto serial = [this] {
+            waitUntil([this] { return !m_stranger->signals_.isEmpty(); });
+            Reader reader(m_stranger->signals_.value(0));
+            reader.skip("t");
+            return reader.uint64();
+        };
+        QCOMPARE(serial(), quint64(65));
+        QCOMPARE(changes(), (QStringList {"1 1 i", "1 2 s"}));
+        // Of the errors 32 were kept.
+        change(":config:probe:number:", 5);
+        QCOMPARE(serial(), quint64(98));
         QCOMPARE(changes(), QStringList {"1 1 i"});
 
+        // What it missed of a list that is no more has no numbers.
+        call(serviceInterface, "Subscribe");
+        for (int i = 0; i < 65; ++i)
+            change(":config:probe:number:", i);
+        change(":config:probe:names:stringARRAY:", QStringList {"x"});
+        probe()->removeItem(":config:probe:names:stringARRAY:");
+        QCOMPARE(changes().size(), 64);
+        call(serviceInterface, "Acknowledge", [](sd_bus_message* m) { sd_bus_message_append(m, "t", ~quint64(0)); });
+        QCOMPARE(serial(), quint64(65));
+        QCOMPARE(changes(), QStringList());
+
+        // Subscribing anew begins anew.
         qint64 bytes = 0;
         call(serviceInterface, "Subscribe");
+        change(":config:probe:number:", 7);
+        QCOMPARE(serial(), quint64(1));
         for (int i = 0; i < 40; ++i) {
             change(":config:probe:text:", QString(100'000, QChar('a' + i % 20)));
             bytes += changes().size() * 100'000;
@@ -430,6 +456,49 @@ private Q_SLOTS:
         call(serviceInterface, "Unsubscribe");
         change(":config:probe:number:", 3);
         QCOMPARE(changes(), QStringList());
+    }
+
+    /// Clients and calls beyond the limits are refused, and clients that ended make room.
+    void manyClients()
+    {
+        const auto subscribe = [](Stranger& stranger) {
+            return stranger
+                    .ask(stranger.connection.newCall("org.uiutils.kiv.probe", path, serviceInterface, "Subscribe"))
+                    .errorName();
+        };
+        std::vector<std::unique_ptr<Stranger>> strangers(256);
+        for (auto& stranger : strangers) {
+            stranger = std::make_unique<Stranger>();
+            QCOMPARE(subscribe(*stranger), QString());
+        }
+        QCOMPARE(subscribe(*m_stranger), QString("org.freedesktop.DBus.Error.LimitsExceeded"));
+        QCOMPARE(subscribe(*strangers.back()), QString());
+        probe()->setDelay(patience);
+        const auto act = [](sd_bus_message* m) { sd_bus_message_append(m, "ss", ":action:probe:go:", ""); };
+        for (int i = 0; i < 1024; ++i) {
+            const Message message = newCall(serviceInterface, "SendAction");
+            act(message.raw());
+            m_stranger->connection.send(message);
+        }
+        QCOMPARE(call(serviceInterface, "SendAction", act).errorName(),
+                QString("org.freedesktop.DBus.Error.LimitsExceeded"));
+        strangers.clear();
+        QTRY_COMPARE_WITH_TIMEOUT(subscribe(*m_stranger), QString(), patience);
+    }
+
+    /// Services that live in this process are called directly, also after the bus was away.
+    void busThatReturns()
+    {
+        m_bus.kill();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_publisher->isPublished("probe"), patience);
+        m_bus.start();
+        QTRY_VERIFY_WITH_TIMEOUT(m_publisher->isPublished("probe"), patience);
+        m_stranger = std::make_unique<Stranger>();
+        BusBackend backend;
+        KIVClientInterface* client = backend.serviceClient("probe", nullptr);
+        QTRY_VERIFY_WITH_TIMEOUT(client->isValid(), patience);
+        QVERIFY2(client->setItem(":config:probe:number:", 8), qPrintable(client->getLastError()));
+        QCOMPARE(number()->getValue(), QVariant(8));
     }
 
     /// What a program puts into its items may be larger than any message, or no text: others go on.
@@ -462,7 +531,8 @@ private Q_SLOTS:
                     QVariant deep = 1;
                     for (int i = 0; i < 200; ++i)
                         deep = QVariantList {deep};
-                    service->setAttribute(text, "deep", deep);
+                    // Of another item: this one says nothing of itself any more.
+                    service->setAttribute(":config:probe:record:", "deep", deep);
                 },
                 [&] { service->setValue(text, QString(QChar(0xd800)) + "b"); },
         };

@@ -490,6 +490,9 @@ private Q_SLOTS:
             QVERIFY2(station()->getLastError().contains(word), qPrintable(station()->getLastError()));
         for (auto it = set.cbegin(); it != set.cend(); ++it)
             QTRY_COMPARE(valueOf(it.key()), *it);
+        // Behind whatever the batch has changed.
+        QVERIFY(station()->setItem(":config:station:setup:count:", 8));
+        QTRY_COMPARE(valueOf(":config:station:setup:count:"), QVariant(8U));
         QTRY_COMPARE(valueOf(levelId), set.value(levelId, level));
         QCOMPARE(changes.size(), set.contains(levelId) ? 1 : 0);
         QVERIFY(!KIVClientInterface::getSessionBusClient("kinds")->invokeAction(":action:kinds:applyconfig:"));

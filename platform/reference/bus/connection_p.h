@@ -70,7 +70,7 @@ public:
     /// Asks the bus for the signals that match `rule`.
     void match(const QByteArray& rule);
 
-    /// Whether the message is the bus's own error for a peer that went without an answer.
+    /// Whether what callBlocking() returned is the bus's own error for a peer that went without an answer.
     static bool isLoss(const Message& reply);
     /// Whether the message is the carrying library's own error for a reply that did not come in time.
     static bool isTimeout(const Message& reply);

@@ -6,7 +6,7 @@ quint64 Subscriber::countMessage(int bytes)
 {
     m_owed.push_back({++m_serial, bytes});
     m_owedBytes += bytes;
-    m_isBehind = !mayBeSent();
+    m_isBehind = m_isBehind || m_owed.size() >= mostOwedMessages || m_owedBytes >= mostOwedBytes;
     return m_serial;
 }
 
@@ -16,10 +16,9 @@ bool Subscriber::acknowledge(quint64 serial)
         m_owedBytes -= m_owed.front().bytes;
         m_owed.pop_front();
     }
-    // One that is behind waits until it owes half as much, so that what it missed comes in few messages.
     if (m_isBehind && m_owed.size() <= mostOwedMessages / 2 && m_owedBytes <= mostOwedBytes / 2)
         m_isBehind = false;
-    return !m_isBehind;
+    return mayBeSent();
 }
 
 } // namespace kiv::bus

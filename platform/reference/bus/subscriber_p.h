@@ -15,7 +15,9 @@ class Subscriber
 {
 public:
     quint64 lastSerial() const { return m_serial; }
-    bool mayBeSent() const { return m_owed.size() < mostOwedMessages && m_owedBytes < mostOwedBytes; }
+    /// Whether it keeps up. One that is behind waits until it owes half as much, so that what it missed comes in few
+    /// messages.
+    bool mayBeSent() const { return !m_isBehind; }
     /// Counts a message of that size and returns its serial.
     quint64 countMessage(int bytes);
     /// Takes back the messages up to that serial. Returns whether it has caught up with enough of them to be sent more.
