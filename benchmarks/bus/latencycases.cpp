@@ -2,6 +2,8 @@
 #include "buscases.h"
 #include "helper.h"
 
+#include <QCoreApplication>
+
 namespace bench {
 
 namespace {
@@ -19,6 +21,34 @@ double latency(Helper& sender, Helper& client, int items)
     }
     return median(times);
 }
+
+#ifdef UIUTILS_HAS_REMOTE_OBJECTS
+/// A change of so many items against Qt Remote Objects, from the source to a slot at the replica.
+QVector<Result> replicaCases(int runs, Helper& publisher, Helper& client)
+{
+    Helper host(QStringLiteral("replicahost"));
+    Helper watcher(QStringLiteral("replicawatcher"));
+    const int meeting = int(QCoreApplication::applicationPid());
+    host.ask(QStringLiteral("items"), {mostItems, meeting});
+    watcher.ask(QStringLiteral("items"), {mostItems, meeting});
+    QVector<Result> results;
+    for (const int items : {1, 10, mostItems}) {
+        client.ask(QStringLiteral("page"), {mostItems, items - 1, mostItems});
+        client.ask(QStringLiteral("watch"), {items - 1});
+        watcher.ask(QStringLiteral("watch"), {items - 1});
+        const Timing timing = interleavedParts(
+                runs, [&] { return latency(publisher, client, items); }, [&] { return latency(host, watcher, items); });
+        results.append({QStringLiteral("   of %L1 / Qt Remote Objects, source to slot at the replica").arg(items),
+                QStringLiteral("us"), timing.ours, timing.floor, 0});
+    }
+    return results;
+}
+#else
+QVector<Result> replicaCases(int, Helper&, Helper&)
+{
+    return {};
+}
+#endif
 
 } // namespace
 
@@ -50,7 +80,7 @@ QVector<Result> latencyCases(int runs)
     const Timing timing = measure(mostItems, 0, 1);
     results.append({QStringLiteral("   of %L1 with a binding each / QtDBus, sender to typed slot").arg(mostItems), unit,
             timing.ours, timing.floor, 0});
-    return results;
+    return results + replicaCases(runs, publisher, client);
 }
 
 } // namespace bench

@@ -14,8 +14,17 @@ int run(const QString& role)
         const char* name;
         int (*run)();
     };
-    constexpr Role roles[] {{"publisher", bench::publisherRole}, {"client", bench::clientRole},
-            {"embedded", bench::embeddedRole}, {"qtsender", bench::qtSenderRole}, {"qtclient", bench::qtClientRole}};
+    constexpr Role roles[] {
+            {"publisher", bench::publisherRole},
+            {"client", bench::clientRole},
+            {"embedded", bench::embeddedRole},
+            {"qtsender", bench::qtSenderRole},
+            {"qtclient", bench::qtClientRole},
+#ifdef UIUTILS_HAS_REMOTE_OBJECTS
+            {"replicahost", bench::replicaHostRole},
+            {"replicawatcher", bench::replicaWatcherRole},
+#endif
+    };
     for (const Role& known : roles) {
         if (role == QLatin1String(known.name))
             return known.run();

@@ -18,4 +18,8 @@ int embeddedRole();
 int qtSenderRole();
 int qtClientRole();
 
+// The same over Qt Remote Objects, where it is installed: "items N MEETING", "change N" and "watch I".
+int replicaHostRole();
+int replicaWatcherRole();
+
 } // namespace bench
