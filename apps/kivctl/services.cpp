@@ -57,8 +57,11 @@ KIVClientInterface* Services::openFor(const QString& service, int* exitStatus)
     };
     if (!open(isReady, exitStatus))
         return nullptr;
-    if (isReady())
+    if (isReady()) {
+        // Nothing that is asked of this service depends on the others, which may not have been read yet.
+        m_isComplete = true;
         return client(service);
+    }
     *exitStatus = unknownService(service);
     return nullptr;
 }

@@ -6,6 +6,7 @@
 #include <systemd/sd-bus.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <ctime>
 #include <poll.h>
@@ -22,6 +23,23 @@ quint64 microseconds(int milliseconds)
     // Zero would mean the library's own time-out.
     return milliseconds > 0 ? quint64(milliseconds) * 1000 : 1;
 }
+
+/// Holds signals back: one that came would end the waiting for an answer, and the answer would be lost.
+class HeldSignals
+{
+public:
+    HeldSignals()
+    {
+        sigset_t all;
+        sigfillset(&all);
+        pthread_sigmask(SIG_BLOCK, &all, &m_before);
+    }
+    ~HeldSignals() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
+    Q_DISABLE_COPY_MOVE(HeldSignals)
+
+private:
+    sigset_t m_before {};
+};
 
 /// Milliseconds until a time of the monotonic clock, rounded up.
 int millisecondsUntil(quint64 time)
@@ -205,6 +223,7 @@ Message Connection::callBlocking(const Message& message, int timeoutMs)
         return Message();
     sd_bus_message* reply = nullptr;
     sd_bus_error error = SD_BUS_ERROR_NULL;
+    const HeldSignals held;
     const int status = sd_bus_call(m_bus, message.raw(), microseconds(timeoutMs), &error, &reply);
     if (status < 0) {
         sd_bus_message* failure = nullptr;
@@ -280,8 +299,9 @@ void Connection::pump()
                 break;
         }
     }
-    const bool isLost = m_bus && status < 0;
-    if (status > 0)
+    const bool isInterrupted = status == -EINTR || status == -EAGAIN;
+    const bool isLost = m_bus && status < 0 && !isInterrupted;
+    if (status > 0 || isInterrupted)
         pumpSoon();
     if (m_bus && !isLost && checkReady())
         Q_EMIT ready();
