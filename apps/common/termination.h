@@ -22,7 +22,7 @@ Q_SIGNALS:
 private:
     void read();
 
-    int m_descriptor = -1;
+    const int m_descriptor;
     QSocketNotifier* m_notifier = nullptr;
 };
 

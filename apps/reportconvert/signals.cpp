@@ -1,9 +1,10 @@
 #include "signals.h"
 
+#include "common/endingsignals.h"
+
 #include <cerrno>
 #include <csignal>
 #include <poll.h>
-#include <sys/signalfd.h>
 
 namespace uiutils::convert {
 
@@ -14,28 +15,14 @@ const int endingSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
 int signalDescriptor = -1;
 
-/// nohup and background jobs ignore some: blocking such a signal would still make it pending.
-bool isIgnored(int signal)
-{
-    struct sigaction action = {};
-    return ::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
-}
-
 } // namespace
 
 void holdSignals()
 {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
-    sigset_t held;
-    sigemptyset(&held);
-    for (const int signal : endingSignals) {
-        if (!isIgnored(signal))
-            sigaddset(&held, signal);
-    }
-    ::pthread_sigmask(SIG_BLOCK, &held, nullptr);
     // Becomes readable when a signal waits, and is never read: poll() can wait for both without a gap between them.
-    signalDescriptor = ::signalfd(-1, &held, SFD_CLOEXEC);
+    signalDescriptor = apps::holdEndingSignals();
 }
 
 int pendingSignal()
