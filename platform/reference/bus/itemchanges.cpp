@@ -30,20 +30,6 @@ struct Told
     bool choices = false;
 };
 
-bool areSame(const QVector<ChoiceDescription>& a, const QVector<ChoiceDescription>& b)
-{
-    return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(), [](const auto& one, const auto& other) {
-        return one.value == other.value && one.name == other.name && one.label == other.label
-                && one.isApplicable == other.isApplicable;
-    });
-}
-
-bool areSame(const QVector<embedded::MemberDescription>& a, const QVector<embedded::MemberDescription>& b)
-{
-    return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(),
-            [](const auto& one, const auto& other) { return one.name == other.name && one.type == other.type; });
-}
-
 Told takeValue(const ItemStore::StatePtr& state, const QVariant& value)
 {
     const embedded::Conversion conversion
@@ -60,7 +46,7 @@ Told takeValue(const ItemStore::StatePtr& state, const QVariant& value)
 Told takeChoices(const ItemStore::StatePtr& state, const QVector<ChoiceDescription>& choices)
 {
     if (!state->isEnumeration() || !choicesProblem(state->type, choices).isEmpty()
-            || areSame(choices, state->description.choices))
+            || choices == state->description.choices)
         return {};
     state->description.isEnumeration = true;
     state->description.choices = choices;
@@ -201,7 +187,7 @@ QVector<FieldChange> differences(const ItemDescription& before, const ItemDescri
     compare(ItemField::Minimum, before.minimum, now.minimum);
     compare(ItemField::Maximum, before.maximum, now.maximum);
     compare(ItemField::Attributes, before.attributes, now.attributes);
-    if (!areSame(before.choices, now.choices))
+    if (!(before.choices == now.choices))
         changes += FieldChange {ItemField::Choices, {}, now.choices};
     return changes;
 }
@@ -209,7 +195,7 @@ QVector<FieldChange> differences(const ItemDescription& before, const ItemDescri
 bool isSameItem(const ItemDescription& before, const ItemDescription& now)
 {
     return before.type == now.type && before.precision == now.precision && before.applicableExpr == now.applicableExpr
-            && areSame(before.members, now.members)
+            && before.members == now.members
             && (before.isEnumeration || !before.choices.isEmpty()) == (now.isEnumeration || !now.choices.isEmpty());
 }
 

@@ -32,11 +32,6 @@ bool change(const ItemStore::StatePtr& state, ItemField field, Value ItemDescrip
     return true;
 }
 
-bool isSameChoice(const ChoiceDescription& a, const ChoiceDescription& b)
-{
-    return a.value == b.value && a.name == b.name && a.label == b.label && a.isApplicable == b.isApplicable;
-}
-
 } // namespace
 
 EmbeddedService::EmbeddedService(const ServiceDescription& description, QObject* parent)
@@ -150,7 +145,7 @@ bool EmbeddedService::setChoices(const QString& id, const QVector<ChoiceDescript
     if (!state || !state->isEnumeration() || !choicesProblem(state->type, choices).isEmpty())
         return false;
     QVector<ChoiceDescription>& old = state->description.choices;
-    if (std::equal(old.cbegin(), old.cend(), choices.cbegin(), choices.cend(), isSameChoice))
+    if (old == choices)
         return true;
     // An enumeration stays one when its last choice is removed.
     state->description.isEnumeration = true;

@@ -21,6 +21,11 @@ struct ChoiceDescription
     QString label;
     /// Whether the choice can be selected now.
     bool isApplicable = true;
+
+    friend bool operator==(const ChoiceDescription& a, const ChoiceDescription& b)
+    {
+        return a.value == b.value && a.name == b.name && a.label == b.label && a.isApplicable == b.isApplicable;
+    }
 };
 
 /// A member of an aggregate, or a column of a table.
@@ -29,6 +34,11 @@ struct MemberDescription
     QString name;
     /// "std::string", "bool", "int", "uint" or "double".
     QString type;
+
+    friend bool operator==(const MemberDescription& a, const MemberDescription& b)
+    {
+        return a.name == b.name && a.type == b.type;
+    }
 };
 
 /// What an action does at a client's request. In `reply` and in the texts of `set`, "%1" stands for the argument.
