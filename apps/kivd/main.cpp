@@ -43,20 +43,30 @@ void notifyWhenPublished(kiv::bus::BusPublisher& publisher, const QStringList& n
     });
 }
 
-/// The bus starts a program for every name that is asked for while none is taken; one of them is enough.
-bool isStartedInVain(int taken, const QStringList& names)
+bool isStartedByBus()
 {
-    return taken == names.size() && qEnvironmentVariableIsSet("DBUS_STARTER_BUS_TYPE");
+    return qEnvironmentVariableIsSet("DBUS_STARTER_BUS_TYPE");
 }
 
 void complainOf(const kiv::bus::BusPublisher& publisher, const QStringList& names)
 {
     QObject::connect(&publisher, &kiv::bus::BusPublisher::connectionFailed, &publisher,
-            [](const QString& reason) { complain(reason); });
+            [last = QString()](const QString& reason) mutable {
+                // What a bus has started ends with it. Otherwise the bus is tried again, and a reason is told once.
+                if (isStartedByBus())
+                    QCoreApplication::exit(exitDone);
+                else if (reason != last)
+                    complain(reason);
+                last = reason;
+            });
     QObject::connect(&publisher, &kiv::bus::BusPublisher::nameTaken, &publisher,
             [names, taken = 0](const QString& name) mutable {
-                if (isStartedInVain(++taken, names))
-                    QCoreApplication::exit(exitDone);
+                // The bus starts a program for every name that is asked for while none is taken; one is enough.
+                if (isStartedByBus()) {
+                    if (++taken == names.size())
+                        QCoreApplication::exit(exitDone);
+                    return;
+                }
                 complain(Texts::tr(
                         "Another program publishes the service %1. This one takes over when that program ends.")
                                  .arg(name));

@@ -347,7 +347,7 @@ private Q_SLOTS:
             m_backend.reset();
         }
         m_fake->getItems
-                = [this](const Message& call) { m_fake->connection.refuse(call, "org.example.Error", "Not today"); };
+                = [this](const Message& call) { m_fake->connection.reject(call, "org.example.Error", "Not today"); };
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be read: Not today"));
         connectClient();
         QVERIFY(!m_client->setItem(":result:fake:one:", 1));
@@ -359,7 +359,7 @@ private Q_SLOTS:
     {
         connectClient();
         m_fake->getItems
-                = [this](const Message& call) { m_fake->connection.refuse(call, "org.example.Error", "Not today"); };
+                = [this](const Message& call) { m_fake->connection.reject(call, "org.example.Error", "Not today"); };
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be read: Not today"));
         m_fake->tell(5, [](sd_bus_message*) {});
         QTRY_VERIFY_WITH_TIMEOUT(!m_client->isValid(), patience);

@@ -43,6 +43,7 @@ struct BusBackend::Private
     void checkOwner(RemoteService* service);
     void onUser(RemoteService* service, const QByteArray& owner, const Message& reply);
     void noteAlive(const QByteArray& owner);
+    void startNext();
     RemoteService* makeService(const QString& name);
     void onSettled(RemoteService* service);
     bool isSettled() const;
@@ -53,6 +54,9 @@ struct BusBackend::Private
     /// By the unique name of their owner.
     QMultiHash<QByteArray, RemoteService*> byOwner;
     QSet<QString> seen;
+    /// Names that the bus can start.
+    QStringList toStart;
+    bool isStarting = false;
     bool areNamesKnown = false;
     std::optional<quint32> ownUser;
     QString problem;
@@ -87,6 +91,8 @@ void BusBackend::Private::onReady()
 void BusBackend::Private::onLost()
 {
     areNamesKnown = false;
+    isStarting = false;
+    toStart.clear();
     byOwner.clear();
     const QPointer<BusBackend> self(q);
     const QList<RemoteService*> all = services.values();
@@ -196,6 +202,25 @@ void BusBackend::Private::noteAlive(const QByteArray& owner)
         service->noteAlive();
 }
 
+/// One after the other: a program that is started for one name may publish the others as well.
+void BusBackend::Private::startNext()
+{
+    while (!toStart.isEmpty()) {
+        const QString name = toStart.takeFirst();
+        const QString service = serviceOfBusName(name.toUtf8());
+        const RemoteService* known = services.value(service);
+        if (service.isEmpty() || (known && !known->owner().isEmpty()))
+            continue;
+        const Message call = daemonCall("StartServiceByName");
+        Writer writer(call);
+        writer.text(name);
+        writer.uint32(0);
+        askDaemon(call, [this](const Message&) { startNext(); });
+        return;
+    }
+    isStarting = false;
+}
+
 // --- Services ------------------------------------------------------------------------------------
 
 RemoteService* BusBackend::Private::makeService(const QString& name)
@@ -218,9 +243,9 @@ void BusBackend::Private::onSettled(RemoteService* service)
 
 bool BusBackend::Private::isSettled() const
 {
-    return areNamesKnown && std::all_of(services.cbegin(), services.cend(), [](const RemoteService* service) {
-        return service->isSettled();
-    });
+    return areNamesKnown && !isStarting
+            && std::all_of(services.cbegin(), services.cend(),
+                    [](const RemoteService* service) { return service->isSettled(); });
 }
 
 BusBackend::BusBackend()
@@ -274,22 +299,14 @@ bool BusBackend::waitForServices(int timeoutMs, const std::function<bool()>& isE
 
 void BusBackend::startServices()
 {
+    d->isStarting = true;
     d->askDaemon(d->daemonCall("ListActivatableNames"), [this](const Message& reply) {
         Reader reader(reply);
-        if (reply.isError() || !reader.enter('a', "s"))
-            return;
-        while (!reader.atEnd()) {
-            const QString name = reader.text();
-            const QString service = serviceOfBusName(name.toUtf8());
-            const RemoteService* known = d->services.value(service);
-            if (service.isEmpty() || (known && !known->owner().isEmpty()))
-                continue;
-            const Message call = d->daemonCall("StartServiceByName");
-            Writer writer(call);
-            writer.text(name);
-            writer.uint32(0);
-            d->askDaemon(call, [](const Message&) {});
+        if (!reply.isError() && reader.enter('a', "s")) {
+            while (!reader.atEnd())
+                d->toStart += reader.text();
         }
+        d->startNext();
     });
 }
 

@@ -30,7 +30,8 @@ public:
     /// problem() may say why.
     bool waitForServices(int timeoutMs, const std::function<bool()>& isEnough = {});
 
-    /// Asks the bus to start the services that it can start and that are not running. Nothing waits for them.
+    /// Asks the bus to start the services that it can start and that are not running, one after the other. This returns
+    /// at once; waitForServices() waits for them too.
     void startServices();
 
     /// The services that have been seen on the bus, in ascending order of their names, also while they are away.

@@ -79,7 +79,7 @@ void BusPublisher::Private::onCall(const Message& call)
     if (publication && publication->service() && publication->service()->isReachable())
         publication->handle(call);
     else
-        connection()->refuse(
+        connection()->reject(
                 call, errorUnknownObject, BusTexts::tr("There is no object %1.").arg(QString::fromUtf8(call.path())));
 }
 
@@ -108,6 +108,9 @@ void BusPublisher::Private::requestName(ServicePublication* publication)
     writer.text(QString::fromLatin1(publication->busName()));
     writer.uint32(0);
     connection()->call(call, patienceMs, publication, [this, publication](const Message& reply) {
+        // Lost meanwhile; the name is requested again when the bus is back.
+        if (!connection()->isReady())
+            return;
         const quint32 answer = reply.isError() ? 0 : Reader(reply).uint32();
         if (answer == inQueue)
             Q_EMIT q->nameTaken(publication->service() ? publication->service()->name() : QString());

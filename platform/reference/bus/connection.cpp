@@ -20,7 +20,7 @@ constexpr int mostMessages = 64;
 
 quint64 microseconds(int milliseconds)
 {
-    // Zero would mean the library's own time-out.
+    // Zero would mean the library's own timeout.
     return milliseconds > 0 ? quint64(milliseconds) * 1000 : 1;
 }
 
@@ -32,6 +32,9 @@ public:
     {
         sigset_t all;
         sigfillset(&all);
+        // A fault of the program itself is still its own.
+        for (const int fault : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGTRAP})
+            sigdelset(&all, fault);
         pthread_sigmask(SIG_BLOCK, &all, &m_before);
     }
     ~HeldSignals() { pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
@@ -102,6 +105,7 @@ Connection::~Connection()
 bool Connection::open(Bus bus, QString* problem)
 {
     close();
+    ++m_openings;
     const int status = bus == Bus::System ? sd_bus_open_system(&m_bus) : sd_bus_open_user(&m_bus);
     if (status < 0) {
         m_bus = nullptr;
@@ -238,7 +242,7 @@ Message Connection::callBlocking(const Message& message, int timeoutMs)
     return Message(reply);
 }
 
-void Connection::refuse(const Message& call, const char* name, const QString& text)
+void Connection::reject(const Message& call, const char* name, const QString& text)
 {
     sd_bus_message* message = nullptr;
     const QByteArray utf8 = text.toUtf8();
@@ -291,6 +295,7 @@ void Connection::pumpSoon()
 void Connection::pump()
 {
     const QPointer<Connection> self(this);
+    const int opening = m_openings;
     int status = 0;
     if (m_bus) {
         for (int i = 0; i < mostMessages; ++i) {
@@ -309,7 +314,7 @@ void Connection::pump()
         handOn();
     if (!self)
         return;
-    if (isLost) {
+    if (isLost && m_bus && opening == m_openings) {
         close();
         Q_EMIT lost();
         return;

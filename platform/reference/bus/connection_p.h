@@ -3,7 +3,6 @@
 #include "message_p.h"
 
 #include <QByteArray>
-#include <QElapsedTimer>
 #include <QObject>
 #include <QString>
 #include <QTimer>
@@ -11,7 +10,6 @@
 #include <deque>
 #include <functional>
 #include <memory>
-#include <optional>
 
 struct sd_bus;
 struct sd_bus_slot;
@@ -22,8 +20,8 @@ namespace kiv::bus {
 /// Which bus: that of the session or that of the system.
 enum class Bus { Session, System };
 
-/// A connection to a bus, on the event loop of the thread that makes it. Only this class and
-/// Message know the library that carries it.
+/// A connection to a bus, on the event loop of the thread that makes it. Only this class and Message know the library
+/// that carries it.
 ///
 /// Nothing but callBlocking() waits: connecting, sending and receiving go on while the event loop runs. What arrives is
 /// handed on outside of the carrying library, in the order of arrival, so that who hears of it may do anything: run an
@@ -33,7 +31,7 @@ class Connection : public QObject
     Q_OBJECT
 
 public:
-    /// Hears the answer; isError() tells failures and time-outs from replies.
+    /// Hears the answer; isError() tells failures and timeouts from replies.
     using Answer = std::function<void(const Message& reply)>;
 
     explicit Connection(QObject* parent = nullptr);
@@ -65,7 +63,7 @@ public:
     /// later.
     Message callBlocking(const Message& message, int timeoutMs);
     /// Answers a call with an error.
-    void refuse(const Message& call, const char* name, const QString& text);
+    void reject(const Message& call, const char* name, const QString& text);
 
     /// Asks the bus for the signals that match `rule`.
     void match(const QByteArray& rule);
@@ -103,6 +101,8 @@ private:
 
     sd_bus* m_bus = nullptr;
     sd_bus_slot* m_filter = nullptr;
+    /// Counts what open() began: a slot may open anew.
+    int m_openings = 0;
     bool m_isReady = false;
     bool m_isPumpQueued = false;
     QByteArray m_uniqueName;

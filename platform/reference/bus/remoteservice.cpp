@@ -4,7 +4,6 @@
 #include "bustexts_p.h"
 #include "descriptioncodec_p.h"
 #include "itemchanges_p.h"
-#include "localservices_p.h"
 #include "protocol_p.h"
 #include "valuecodec_p.h"
 
@@ -14,18 +13,14 @@
 #include <QDir>
 #include <QPointer>
 
-#include <algorithm>
-
 namespace kiv::bus {
 
 namespace {
 
-using embedded::EmbeddedService;
 using embedded::ItemDescription;
 using embedded::ItemField;
 using embedded::ItemState;
 using embedded::Outcome;
-using embedded::ServiceData;
 using embedded::ServiceFileTexts;
 
 /// More than any service has; one that sends more is ill.
@@ -66,17 +61,22 @@ void RemoteService::setOwner(const QByteArray& owner)
     m_isReading = false;
     m_refusal.clear();
     m_mounts.clear();
-    m_numbered.clear();
     m_snapshot = Snapshot();
-    // Whoever hears of the end may end this as well.
+    if (closeItems() && owner.isEmpty())
+        Q_EMIT settled();
+}
+
+/// Ends what clients have of the items. Returns false when somebody who heard of that has ended this as well.
+bool RemoteService::closeItems()
+{
     const QPointer<RemoteService> self(this);
+    m_numbered.clear();
     if (isReachable()) {
         m_items.clear();
         if (self)
             Q_EMIT itemsChanged();
     }
-    if (self && owner.isEmpty())
-        Q_EMIT settled();
+    return self;
 }
 
 void RemoteService::giveUp(const QString& reason)
@@ -88,14 +88,7 @@ void RemoteService::giveUp(const QString& reason)
     m_refusal = reason;
     m_isLoading = false;
     // What it said before is not known to hold.
-    const QPointer<RemoteService> self(this);
-    m_numbered.clear();
-    if (isReachable()) {
-        m_items.clear();
-        if (self)
-            Q_EMIT itemsChanged();
-    }
-    if (self)
+    if (closeItems())
         Q_EMIT settled();
 }
 

@@ -64,6 +64,7 @@ private:
         QVector<embedded::ItemDescription> items;
     };
 
+    bool closeItems();
     Message newCall(const char* interface, const char* member) const;
     void ask(const Message& call, const Connection::Answer& answer);
     void onProperties(const Message& reply);

@@ -9,6 +9,18 @@
 
 namespace kiv::bus {
 
+namespace {
+
+/// Whether the words of an error are the service's, for the user; those of a bus or a library are not.
+bool isOwn(const Message& error)
+{
+    const QString name = error.errorName();
+    return name == QLatin1String(errorRejected) || name == QLatin1String(errorLimits)
+            || name == QLatin1String(errorInvalidArguments);
+}
+
+} // namespace
+
 using embedded::Outcome;
 using embedded::ServiceData;
 
@@ -70,7 +82,7 @@ Outcome ServiceCalls::call(const Message& message, int timeoutMs)
     if (Connection::isLoss(reply))
         return {false, BusTexts::tr("The service %1 ended before it answered. Try again when it runs.").arg(m_name)};
     if (!Connection::isTimeout(reply))
-        return {false, reply.errorText()};
+        return isOwn(reply) ? Outcome {false, reply.errorText()} : gone();
     onTimeout();
     return {false,
             BusTexts::tr("The service %1 did not answer within %2 ms. It may still carry out the request.")

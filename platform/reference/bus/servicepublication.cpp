@@ -4,11 +4,11 @@
 #include "descriptioncodec_p.h"
 #include "fieldcodec_p.h"
 #include "protocol_p.h"
+#include "serviceproperties_p.h"
 #include "valuecodec_p.h"
 
 #include "embedded/servicedata_p.h"
 
-#include <QFile>
 #include <QRandomGenerator>
 
 #include <algorithm>
@@ -45,19 +45,6 @@ bool isKnownInterface(const QByteArray& interface)
 {
     return interface.isEmpty() || interface == serviceInterface || interface == propertiesInterface
             || interface == introspectableInterface || interface == "org.freedesktop.DBus.Peer";
-}
-
-QStringList propertyNames()
-{
-    return {QStringLiteral("Version"), QStringLiteral("Name"), QStringLiteral("Mounts")};
-}
-
-QStringList mountsOf(const EmbeddedService& service)
-{
-    const QSet<QString>& mounted = ServiceData::of(service).mounted;
-    QStringList paths(mounted.cbegin(), mounted.cend());
-    paths.sort();
-    return paths;
 }
 
 } // namespace
@@ -248,12 +235,12 @@ void ServicePublication::handle(const Message& call)
         return member == method.member && (interface.isEmpty() || interface == method.interface);
     });
     if (known == std::end(methods)) {
-        m_connection->refuse(call, isKnownInterface(interface) ? errorUnknownMethod : errorUnknownInterface,
+        m_connection->reject(call, isKnownInterface(interface) ? errorUnknownMethod : errorUnknownInterface,
                 BusTexts::tr("There is no method %1.%2.").arg(QString::fromUtf8(interface), QString::fromUtf8(member)));
         return;
     }
     if (call.signature() != known->signature) {
-        m_connection->refuse(call, errorInvalidArguments,
+        m_connection->reject(call, errorInvalidArguments,
                 BusTexts::tr("%1 takes arguments of the signature \"%2\", not \"%3\".")
                         .arg(QString::fromLatin1(known->member), QString::fromLatin1(known->signature),
                                 QString::fromLatin1(call.signature())));
@@ -296,14 +283,14 @@ void ServicePublication::getItems(const Message& call)
     const bool isEnd = position + 1 >= quint32(m_items.size());
     writer.uint32(isEnd ? 0 : position);
     if (!writer.isGood() || !m_connection->send(reply))
-        m_connection->refuse(call, errorLimits, BusTexts::tr("The items of the service are too large for a message."));
+        m_connection->reject(call, errorLimits, BusTexts::tr("The items of the service are too large for a message."));
 }
 
 void ServicePublication::subscribe(const Message& call)
 {
     const QByteArray client = call.sender();
     if (m_subscribers.size() >= mostSubscribers && m_subscribers.count(client) == 0) {
-        m_connection->refuse(call, errorLimits, BusTexts::tr("The service has as many clients as it can serve."));
+        m_connection->reject(call, errorLimits, BusTexts::tr("The service has as many clients as it can serve."));
         return;
     }
     // What changed before is in the answers to GetItems, which come later than this one.
@@ -334,7 +321,7 @@ void ServicePublication::setItem(const Message& call)
     const QString id = arguments.text();
     const QVariant value = readValue(arguments);
     if (!arguments.isGood()) {
-        m_connection->refuse(call, errorInvalidArguments, BusTexts::tr("The value cannot be read."));
+        m_connection->reject(call, errorInvalidArguments, BusTexts::tr("The value cannot be read."));
         return;
     }
     carryOutLater(call, 0, false, [id, value](ServiceData& service) { return setSetting(service, id, value); });
@@ -353,7 +340,7 @@ void ServicePublication::sendAction(const Message& call)
 void ServicePublication::carryOutLater(const Message& call, int delayMs, bool hasReplyText, const Request& request)
 {
     if (m_requests >= mostRequests) {
-        m_connection->refuse(call, errorLimits, BusTexts::tr("The service has too much to do. Try again later."));
+        m_connection->reject(call, errorLimits, BusTexts::tr("The service has too much to do. Try again later."));
         return;
     }
     // Who hears of what is done may end the service, its publication and the connection.
@@ -363,7 +350,7 @@ void ServicePublication::carryOutLater(const Message& call, int delayMs, bool ha
         if (!self || !self->m_service)
             return;
         if (!self->m_service->isReachable()) {
-            connection->refuse(call, errorRejected,
+            connection->reject(call, errorRejected,
                     BusTexts::tr("The service %1 was withdrawn before it could answer.").arg(self->m_service->name()));
             return;
         }
@@ -371,7 +358,7 @@ void ServicePublication::carryOutLater(const Message& call, int delayMs, bool ha
         if (!connection)
             return;
         if (!outcome.isDone) {
-            connection->refuse(call, errorRejected, withoutNul(outcome.text));
+            connection->reject(call, errorRejected, withoutNul(outcome.text));
             return;
         }
         const Message reply = Connection::newReply(call);
@@ -393,37 +380,23 @@ void ServicePublication::carryOutLater(const Message& call, int delayMs, bool ha
 
 // --- Properties and description ------------------------------------------------------------------
 
-void ServicePublication::writeProperty(Writer& writer, const QString& name) const
-{
-    writer.open('v', name == QLatin1String("Mounts") ? "as" : "s");
-    if (name == QLatin1String("Mounts")) {
-        writer.open('a', "s");
-        for (const QString& path : mountsOf(*m_service))
-            writer.text(withoutNul(path));
-        writer.close();
-    } else {
-        writer.text(name == QLatin1String("Version") ? QString(version) : withoutNul(m_service->name()));
-    }
-    writer.close();
-}
-
 void ServicePublication::getProperty(const Message& call)
 {
     Reader arguments(call);
     const QString interface = arguments.text();
     const QString name = arguments.text();
     if (!interface.isEmpty() && interface != QLatin1String(serviceInterface)) {
-        m_connection->refuse(
+        m_connection->reject(
                 call, errorUnknownInterface, BusTexts::tr("There are no properties of %1.").arg(interface));
         return;
     }
     if (!propertyNames().contains(name)) {
-        m_connection->refuse(call, errorUnknownProperty, BusTexts::tr("There is no property %1.").arg(name));
+        m_connection->reject(call, errorUnknownProperty, BusTexts::tr("There is no property %1.").arg(name));
         return;
     }
     const Message reply = Connection::newReply(call);
     Writer writer(reply);
-    writeProperty(writer, name);
+    writeProperty(writer, *m_service, name);
     m_connection->send(reply);
 }
 
@@ -437,7 +410,7 @@ void ServicePublication::getProperties(const Message& call)
         for (const QString& name : propertyNames()) {
             writer.open('e', "sv");
             writer.text(name);
-            writeProperty(writer, name);
+            writeProperty(writer, *m_service, name);
             writer.close();
         }
     }
@@ -447,15 +420,13 @@ void ServicePublication::getProperties(const Message& call)
 
 void ServicePublication::setProperty(const Message& call)
 {
-    m_connection->refuse(call, errorReadOnly, BusTexts::tr("The properties of a service are read-only."));
+    m_connection->reject(call, errorReadOnly, BusTexts::tr("The properties of a service are read-only."));
 }
 
 void ServicePublication::introspect(const Message& call)
 {
-    QFile file(QStringLiteral(":/kiv/bus/org.uiutils.kiv.Service.xml"));
-    file.open(QIODevice::ReadOnly);
     const Message reply = Connection::newReply(call);
-    Writer(reply).text(QString::fromUtf8(file.readAll()));
+    Writer(reply).text(interfaceText());
     m_connection->send(reply);
 }
 

@@ -8,7 +8,6 @@
 #include "embedded/itemstate_p.h"
 #include "embedded/requests_p.h"
 
-#include <QHash>
 #include <QPointer>
 #include <QTimer>
 
@@ -71,7 +70,6 @@ private:
     void setProperty(const Message& call);
     void introspect(const Message& call);
     void carryOutLater(const Message& call, int delayMs, bool hasReplyText, const Request& request);
-    void writeProperty(Writer& writer, const QString& name) const;
 
     const QPointer<embedded::EmbeddedService> m_service;
     const QPointer<Connection> m_connection;
@@ -83,7 +81,6 @@ private:
     ChangeCollector m_changes;
     std::map<QByteArray, Subscriber> m_subscribers;
     QTimer m_timer;
-    bool m_areItemsOutdated = false;
     bool m_wasReachable = false;
     int m_requests = 0;
 };
