@@ -318,6 +318,20 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(marker));
         m_backend->startServices();
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(marker), patience);
+
+        // What the bus does start is waited for.
+        m_backend.reset();
+        m_kivd->end();
+        m_bus->kill();
+        QCOMPARE(QProcess::execute(QCoreApplication::applicationDirPath() + "/kivd",
+                         {"--services", m_root->filePath("services"), "--root", m_root->filePath("root"),
+                                 "--activation-files", m_bus->folder.filePath("services")}),
+                0);
+        m_bus->start();
+        m_backend = std::make_unique<BusBackend>();
+        m_backend->startServices();
+        QVERIFY(m_backend->waitForServices(patience));
+        QVERIFY(m_backend->serviceNames().contains("life"));
     }
 };
 

@@ -21,6 +21,8 @@ namespace kiv::bus {
 namespace {
 
 constexpr QLatin1String baseManagerName("basemgr");
+/// How long the start of a service holds up the others.
+constexpr int startPatienceMs = 500;
 
 } // namespace
 
@@ -215,7 +217,7 @@ void BusBackend::Private::startNext()
         Writer writer(call);
         writer.text(name);
         writer.uint32(0);
-        askDaemon(call, [this](const Message&) { startNext(); });
+        connection()->call(call, startPatienceMs, q, [this](const Message&) { startNext(); });
         return;
     }
     isStarting = false;
