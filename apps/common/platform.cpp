@@ -21,11 +21,6 @@ namespace {
 /// How long a start waits for services in other processes; slower ones are added when they come.
 constexpr int startTimeoutMs = 3000;
 
-QString platformName()
-{
-    return qEnvironmentVariable("KIV_PLATFORM", QStringLiteral("embedded"));
-}
-
 class EmbeddedPlatform final : public Platform
 {
 public:
@@ -91,21 +86,31 @@ template<class Chosen> std::unique_ptr<Platform> begun(const ServiceSetup& setup
 
 } // namespace
 
-std::unique_ptr<Platform> Platform::start(const ServiceSetup& setup)
+std::optional<PlatformKind> chosenPlatform(PlatformKind standard, QString* problem)
 {
-    if (isElsewhere())
-        return begun<BusPlatform>(setup);
-    if (platformName() == QLatin1String("embedded"))
-        return begun<EmbeddedPlatform>(setup);
-    complain(QCoreApplication::translate(
+    const QString name = qEnvironmentVariable("KIV_PLATFORM");
+    if (!qEnvironmentVariableIsSet("KIV_PLATFORM"))
+        return standard;
+    if (name == QLatin1String("bus"))
+        return PlatformKind::Bus;
+    if (name == QLatin1String("embedded"))
+        return PlatformKind::Embedded;
+    *problem = QCoreApplication::translate(
             "CommandLine", "KIV_PLATFORM is \"%1\". Set it to \"embedded\" or \"bus\", or leave it out.")
-                     .arg(platformName()));
-    return nullptr;
+                       .arg(name);
+    return std::nullopt;
 }
 
-bool Platform::isElsewhere()
+std::unique_ptr<Platform> Platform::start(const ServiceSetup& setup)
 {
-    return platformName() == QLatin1String("bus");
+    QString problem;
+    const std::optional<PlatformKind> kind = chosenPlatform(PlatformKind::Embedded, &problem);
+    if (kind == PlatformKind::Bus)
+        return begun<BusPlatform>(setup);
+    if (kind == PlatformKind::Embedded)
+        return begun<EmbeddedPlatform>(setup);
+    complain(problem);
+    return nullptr;
 }
 
 } // namespace uiutils::apps

@@ -5,12 +5,20 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 namespace kiv::embedded {
 class EmbeddedService;
 }
 
 namespace uiutils::apps {
+
+/// Where services live: in this process, or in others.
+enum class PlatformKind { Embedded, Bus };
+
+/// What KIV_PLATFORM names, or `standard` when it is not set. Returns nothing, with the reason in `problem`, when it
+/// names no platform.
+std::optional<PlatformKind> chosenPlatform(PlatformKind standard, QString* problem);
 
 /// Which services a program uses, and where they come from if they live in this process.
 struct ServiceSetup
@@ -33,8 +41,6 @@ class Platform : public QObject
 public:
     /// Brings the services up. Returns null, having complained, when there are none, or KIV_PLATFORM is unknown.
     static std::unique_ptr<Platform> start(const ServiceSetup& setup);
-    /// Whether KIV_PLATFORM names services in other processes.
-    static bool isElsewhere();
 
     virtual QStringList serviceNames() const = 0;
     /// The own side of a service that this process publishes, or null.

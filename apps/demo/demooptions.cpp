@@ -1,11 +1,10 @@
 #include "demooptions.h"
 
-#include "common/locations.h"
+#include "common/serviceoptions.h"
 #include "loopbackmeasurement.h"
 #include "texts.h"
 
 #include <QCommandLineParser>
-#include <QDir>
 
 namespace uiutils::demo {
 
@@ -28,17 +27,10 @@ QString description()
 
 DemoOptions readOptions(const QStringList& arguments)
 {
-    const QString ownRoot = apps::defaultRoot(QStringLiteral("uiutils-demo"));
-    const QStringList ownServices = apps::defaultServiceFolders();
+    const apps::ServiceOptions services(
+            QStringLiteral("uiutils-demo"), Texts::tr("Keep everything that is written below <folder> (default: %1)."));
     QCommandLineParser parser;
     parser.setApplicationDescription(description());
-    const QCommandLineOption root(QStringLiteral("root"),
-            Texts::tr("Keep everything that is written below <folder> (default: %1).").arg(ownRoot),
-            Texts::tr("folder"), ownRoot);
-    const QCommandLineOption services(QStringLiteral("services"),
-            Texts::tr("Publish the services described in <folder>; may be given more than once (default: %1).")
-                    .arg(ownServices.join(QLatin1Char(':'))),
-            Texts::tr("folder"));
     const QCommandLineOption samples(QStringLiteral("samples"),
             Texts::tr("Take <number> samples of each quantity, %1 to %2 (default: as the settings say).")
                     .arg(LoopbackMeasurement::fewestSamples)
@@ -49,17 +41,16 @@ DemoOptions readOptions(const QStringList& arguments)
     const QCommandLineOption follow(QStringLiteral("follow"),
             Texts::tr("Wait until another application changes the user's name, the services end and return; take a "
                       "picture of each and quit. Needs KIV_PLATFORM=bus."));
-    parser.addOptions({root, services, samples, tour, follow});
+    parser.addOptions(services.all() << samples << tour << follow);
 
     const apps::CommandLine line = apps::parse(parser, arguments);
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<DemoOptions>(line);
     if (!parser.positionalArguments().isEmpty())
         return misused(Texts::tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst()));
-    if (parser.value(root).isEmpty())
-        return misused(Texts::tr("--root needs the name of a folder."));
-    if (parser.values(services).contains(QString()))
-        return misused(Texts::tr("--services needs the name of a folder."));
+    const QString missing = apps::missingName(parser, services.all());
+    if (!missing.isEmpty())
+        return misused(missing);
 
     DemoOptions options;
     if (parser.isSet(samples))
@@ -71,8 +62,8 @@ DemoOptions readOptions(const QStringList& arguments)
                                .arg(LoopbackMeasurement::fewestSamples)
                                .arg(LoopbackMeasurement::mostSamples));
     }
-    options.root = QDir::cleanPath(QDir().absoluteFilePath(parser.value(root)));
-    options.serviceFolders = parser.isSet(services) ? parser.values(services) : ownServices;
+    options.root = services.root(parser);
+    options.serviceFolders = services.folders(parser);
     options.isTour = parser.isSet(tour);
     options.isFollower = parser.isSet(follow);
     return options;

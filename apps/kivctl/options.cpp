@@ -1,6 +1,8 @@
 #include "options.h"
 
 #include "common/locations.h"
+#include "common/platform.h"
+#include "common/serviceoptions.h"
 #include "texts.h"
 
 #include <QCommandLineParser>
@@ -153,10 +155,11 @@ QString chooseCommand(QStringList words, Options* options)
 /// Why there is no platform; empty when there is one.
 QString choosePlatform(bool hasFolders, Options* options)
 {
-    const QString name = qEnvironmentVariable("KIV_PLATFORM", QStringLiteral("bus"));
-    if (name != QLatin1String("bus") && name != QLatin1String("embedded"))
-        return Texts::tr("KIV_PLATFORM is \"%1\". Set it to \"embedded\" or \"bus\", or leave it out.").arg(name);
-    options->platform = hasFolders || name == QLatin1String("embedded") ? Options::Embedded : Options::Bus;
+    QString problem;
+    const std::optional<apps::PlatformKind> kind = apps::chosenPlatform(apps::PlatformKind::Bus, &problem);
+    if (!kind)
+        return problem;
+    options->platform = hasFolders || kind == apps::PlatformKind::Embedded ? Options::Embedded : Options::Bus;
     if (options->platform == Options::Embedded && options->command == Command::Watch)
         return Texts::tr("There is nothing to watch without a bus: the services of this program do not change.");
     return QString();
@@ -177,13 +180,12 @@ Options readOptions(const QStringList& arguments)
     const apps::CommandLine line = apps::parse(parser, withNumbersLast(arguments), {helpText(), QString()});
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);
-    for (const QCommandLineOption& option : {services, root}) {
-        if (parser.values(option).contains(QString()))
-            return misused(Texts::tr("--%1 needs a name.").arg(option.names().constLast()));
-    }
+    QString problem = apps::missingName(parser, {services, root});
+    if (!problem.isEmpty())
+        return misused(problem);
 
     Options options;
-    QString problem = chooseCommand(parser.positionalArguments(), &options);
+    problem = chooseCommand(parser.positionalArguments(), &options);
     if (problem.isEmpty())
         problem = choosePlatform(parser.isSet(services), &options);
     if (!problem.isEmpty())

@@ -43,7 +43,7 @@ bool publishServices(kiv::embedded::EmbeddedBackend& backend, const Options& opt
         say(problem);
     if (options.isStrict && !problems.isEmpty())
         return false;
-    if (options.serviceFolders.isEmpty() || !backend.serviceNames().isEmpty())
+    if (!backend.serviceNames().isEmpty())
         return true;
     say(Texts::tr("No service could be loaded from %1. Name a folder with service files with --services.")
                     .arg(options.serviceFolders.join(QStringLiteral(", "))));
@@ -54,8 +54,15 @@ bool publishServices(kiv::embedded::EmbeddedBackend& backend, const Options& opt
 bool useServices(kiv::embedded::EmbeddedBackend& backend, const Options& options,
         std::unique_ptr<uiutils::apps::Platform>* platform)
 {
-    if (!options.serviceFolders.isEmpty() || !uiutils::apps::Platform::isElsewhere())
+    using uiutils::apps::PlatformKind;
+    if (!options.serviceFolders.isEmpty())
         return publishServices(backend, options);
+    QString problem;
+    const auto kind = uiutils::apps::chosenPlatform(PlatformKind::Embedded, &problem);
+    if (!kind)
+        say(problem);
+    if (kind != PlatformKind::Bus)
+        return bool(kind);
     *platform = uiutils::apps::Platform::start({});
     return bool(*platform);
 }

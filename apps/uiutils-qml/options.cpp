@@ -1,10 +1,9 @@
 #include "options.h"
 
-#include "common/locations.h"
+#include "common/serviceoptions.h"
 #include "texts.h"
 
 #include <QCommandLineParser>
-#include <QDir>
 
 namespace uiutils::qmltool {
 
@@ -27,45 +26,36 @@ QString description()
 
 Options readOptions(const QStringList& arguments)
 {
-    const QString ownRoot = apps::defaultRoot(QStringLiteral("uiutils-qml"));
-    const QStringList ownServices = apps::defaultServiceFolders();
+    const apps::ServiceOptions services(QStringLiteral("uiutils-qml"),
+            Texts::tr("Keep everything that is written, also changed settings, below <folder> (default: %1)."));
     QCommandLineParser parser;
     parser.setApplicationDescription(description());
     parser.addPositionalArgument(
             QStringLiteral("page"), Texts::tr("The QML file to show."), QStringLiteral("page.qml"));
-    const QCommandLineOption services({QStringLiteral("s"), QStringLiteral("services")},
-            Texts::tr("Publish the services described in <folder>; may be given more than once (default: %1).")
-                    .arg(ownServices.join(QLatin1Char(':'))),
-            Texts::tr("folder"));
     const QCommandLineOption imports({QStringLiteral("I"), QStringLiteral("import")},
             Texts::tr("Look for further QML modules in <folder>; may be given more than once."), Texts::tr("folder"));
-    const QCommandLineOption root(QStringLiteral("root"),
-            Texts::tr("Keep everything that is written, also changed settings, below <folder> (default: %1).")
-                    .arg(ownRoot),
-            Texts::tr("folder"), ownRoot);
     const QCommandLineOption picture(QStringLiteral("grab"),
             Texts::tr("Write a picture of the page to <file> (PNG) and quit."), Texts::tr("file"));
     const QCommandLineOption list(QStringLiteral("list"),
             Texts::tr("List the items, one on each line: name in QML, type and value, separated by tabs. Needs no "
                       "page."));
-    parser.addOptions({services, imports, root, picture, list});
+    parser.addOptions(services.all() << imports << picture << list);
 
     const apps::CommandLine line = apps::parse(parser, arguments);
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);
-    for (const QCommandLineOption& option : {services, imports, root, picture}) {
-        if (parser.values(option).contains(QString()))
-            return misused(Texts::tr("--%1 needs a name.").arg(option.names().constLast()));
-    }
+    const QString missing = apps::missingName(parser, services.all() << imports << picture);
+    if (!missing.isEmpty())
+        return misused(missing);
     const QStringList pages = parser.positionalArguments();
     if (parser.isSet(list) != pages.isEmpty() || pages.size() > 1 || pages.contains(QString()))
         return misused(parser.isSet(list) ? Texts::tr("--list takes no page.") : Texts::tr("Name one page to show."));
 
     Options options;
     options.page = pages.value(0);
-    options.serviceFolders = parser.isSet(services) ? parser.values(services) : ownServices;
+    options.serviceFolders = services.folders(parser);
     options.importFolders = parser.values(imports);
-    options.root = QDir::cleanPath(QDir().absoluteFilePath(parser.value(root)));
+    options.root = services.root(parser);
     options.picture = parser.value(picture);
     return options;
 }
