@@ -5,12 +5,12 @@
 #include "descriptioncodec_p.h"
 #include "itemchanges_p.h"
 #include "protocol_p.h"
+#include "serviceproperties_p.h"
 #include "valuecodec_p.h"
 
 #include "embedded/descriptioncheck_p.h"
 #include "embedded/texts_p.h"
 
-#include <QDir>
 #include <QPointer>
 
 namespace kiv::bus {
@@ -25,14 +25,6 @@ using embedded::ServiceFileTexts;
 
 /// More than any service has; one that sends more is ill.
 constexpr int mostItems = 200 * 1000;
-
-QSet<QString> cleanPaths(const QVariant& paths)
-{
-    QSet<QString> clean;
-    for (const QString& path : paths.toStringList())
-        clean += QDir::cleanPath(path);
-    return clean;
-}
 
 } // namespace
 
@@ -128,15 +120,7 @@ void RemoteService::load()
 
 void RemoteService::onProperties(const Message& reply)
 {
-    Reader reader(reply);
-    QVariantMap properties;
-    if (!reply.isError() && reader.enter('a', "{sv}")) {
-        while (!reader.atEnd() && reader.enter('e', "sv")) {
-            const QString name = reader.text();
-            properties.insert(name, readValue(reader));
-            reader.leave();
-        }
-    }
+    const QVariantMap properties = readProperties(reply);
     const QString theirs = properties.value(QStringLiteral("Version")).toString();
     if (theirs.section(QLatin1Char('.'), 0, 0) == QString::number(majorVersion)) {
         m_mounts = cleanPaths(properties.value(QStringLiteral("Mounts")));

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "message_p.h"
+#include "connection_p.h"
 
+#include <QSet>
 #include <QStringList>
+#include <QVariant>
 
 namespace kiv::embedded {
 class EmbeddedService;
@@ -10,15 +12,20 @@ class EmbeddedService;
 
 namespace kiv::bus {
 
-QStringList propertyNames();
+// Of a service: answers to calls of the interfaces Properties and Introspectable.
 
-/// Appends a property of a service, one of propertyNames(), as a variant.
-void writeProperty(Writer& writer, const embedded::EmbeddedService& service, const QString& name);
+void answerGet(Connection& connection, const embedded::EmbeddedService& service, const Message& call);
+void answerGetAll(Connection& connection, const embedded::EmbeddedService& service, const Message& call);
+void answerSet(Connection& connection, const Message& call);
+void answerIntrospect(Connection& connection, const Message& call);
 
 /// Clean paths at which the service has drives mounted, in ascending order.
 QStringList mountsOf(const embedded::EmbeddedService& service);
 
-/// The description of the interface, in the form that Introspect answers.
-QString interfaceText();
+// Of a client.
+
+/// The answer of GetAll; empty for an error.
+QVariantMap readProperties(const Message& reply);
+QSet<QString> cleanPaths(const QVariant& paths);
 
 } // namespace kiv::bus

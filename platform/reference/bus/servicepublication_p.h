@@ -1,6 +1,7 @@
 #pragma once
 
 #include "connection_p.h"
+#include "serviceproperties_p.h"
 #include "subscriber_p.h"
 
 #include <embedded/embeddedservice.h>
@@ -65,10 +66,10 @@ private:
     void acknowledge(const Message& call);
     void setItem(const Message& call);
     void sendAction(const Message& call);
-    void getProperty(const Message& call);
-    void getProperties(const Message& call);
-    void setProperty(const Message& call);
-    void introspect(const Message& call);
+    void getProperty(const Message& call) { answerGet(*m_connection, *m_service, call); }
+    void getProperties(const Message& call) { answerGetAll(*m_connection, *m_service, call); }
+    void setProperty(const Message& call) { answerSet(*m_connection, call); }
+    void introspect(const Message& call) { answerIntrospect(*m_connection, call); }
     void carryOutLater(const Message& call, int delayMs, bool hasReplyText, const Request& request);
 
     const QPointer<embedded::EmbeddedService> m_service;
