@@ -61,3 +61,15 @@ function(uiutils_install_manual program summary)
     add_custom_target(${program}_man ALL DEPENDS "${page}")
     install(FILES "${page}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 endfunction()
+
+# uiutils_exports(<library> <name>)
+#
+# Exports the library's interface, and nothing that the compiler makes from the standard library's templates, under the
+# version <name>_<major>. A process that loads two major versions keeps them apart by it.
+function(uiutils_exports library name)
+    set(node "${name}_${PROJECT_VERSION_MAJOR}")
+    set(script "${CMAKE_CURRENT_BINARY_DIR}/${library}.map")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/exports.map.in" "${script}" @ONLY)
+    target_link_options(${library} PRIVATE "LINKER:--version-script=${script}")
+    set_property(TARGET ${library} APPEND PROPERTY LINK_DEPENDS "${script}")
+endfunction()

@@ -89,3 +89,11 @@ if nm -DC --defined-only "$library" | grep -E ' [A-Z] uiutils::(OpenNode|onDisk|
     echo "private symbols are exported" >&2
     exit 1
 fi
+# Nor may an export depend on which templates of the standard library a compiler has inlined.
+find "$plain" -name 'lib*.so.1' | while read -r file; do
+    if ! nm -D --defined-only "$file" | grep '@@[A-Z]*_1$' >/dev/null ||
+        nm -DC --defined-only "$file" | grep -E ' ([^(]* )?(guard variable for |typeinfo (name )?for )?(std|__gnu_cxx)::'; then
+        echo "$file exports what is not ours, or without a version" >&2
+        exit 1
+    fi
+done
