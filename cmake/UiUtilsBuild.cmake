@@ -52,7 +52,9 @@ function(uiutils_install_manual program summary)
     endif()
     set(page "${CMAKE_CURRENT_BINARY_DIR}/${program}.1")
     add_custom_command(OUTPUT "${page}"
-        COMMAND "${CMAKE_COMMAND}" -E env LC_ALL=C.UTF-8
+        # The page tells the places of an installed program, whoever builds it and wherever.
+        COMMAND "${CMAKE_COMMAND}" -E env LC_ALL=C.UTF-8 "UIUTILS_ROOT=~/.local/state/${program}"
+            "KIV_SERVICES=${CMAKE_INSTALL_FULL_DATADIR}/uiutils/services"
             "${UIUTILS_HELP2MAN}" --no-info --section=1 "--name=${summary}" "--output=${page}" "./$<TARGET_FILE_NAME:${program}>"
         # help2man passes the program to a shell unquoted, so its path must not contain a blank.
         WORKING_DIRECTORY "$<TARGET_FILE_DIR:${program}>"
