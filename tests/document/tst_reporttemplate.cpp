@@ -183,10 +183,11 @@ private Q_SLOTS:
         };
         add(report, before);
         add(rows, collected);
+        // What a page sets itself takes no row's place.
+        report.setKey("row_14", "own");
         report.addRows(&rows);
         add(report, after);
-        // What a page sets afterwards takes no row's place.
-        report.setKey("row_14", "own");
+        report.setKey("row_15", "own");
         report.endTable();
         report.endReport();
 
