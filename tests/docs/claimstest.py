@@ -32,6 +32,9 @@ PLANTED = [
     ("check_page_links", "docs/reports.md", "(#the-viewer)", "(#a-viewer)", "no heading for #a-viewer"),
     ("check_names", "docs/forms.md", "`UiDataContainer.allItemsOk`", "`UiDataContainer.allAreOk`", "nothing is called allAreOk"),
     ("check_sources", "docs/architecture.md", "`KivData`, `UiData` and `Report` have", "`KivData` and `Report` have", "UiData is not mentioned"),
+    ("check_rooms", "docs/architecture.md", "| `platform/reference/bus/` |", "| `platform/reference/wire/` |", "platform/reference/bus is not"),
+    ("check_guards", "CONTRIBUTING.md", "`tests/module/qmllint.sh`", "`tests/module/lint.sh`", "tests/module/qmllint.sh is not"),
+    ("check_paths", "docs/porting.md", "`subscriber_p.h`", "`subscribers_p.h`", "no file is called subscribers_p.h"),
 ]
 
 
