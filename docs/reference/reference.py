@@ -47,6 +47,8 @@ def main(doxygen, doxyfile, work, qmltypes, controls, *given):
     except qmlpages.Undescribed as missing:
         pages = []
         warnings.append(f"warning: {missing}")
+    for own in ("mainpage.md", "namespaces.dox"):
+        shutil.copy(pathlib.Path(__file__).parent / own, work / "input")
     for name, text in pages:
         (work / "input" / f"qml_{name}.md").write_text(text, encoding="utf-8")
     warnings += run_doxygen(doxygen, doxyfile, work)
