@@ -2,6 +2,7 @@
 """Compares what README, CONTRIBUTING and docs/ say with the tree and its build folder: linked libraries, packages, build options,
 environment variables, options of programs, presets, targets, paths, names in code, links and anchors. Usage: claims.py TREE BUILD"""
 
+import functools
 import json
 import os
 import re
@@ -19,6 +20,7 @@ class Tree:
     def __init__(self, root, build):
         self.build = build
         self.files = dict(self.texts(root))
+        self.known = None
         self.folders = {name.rsplit("/", depth)[0] for name in self.files for depth in range(1, name.count("/") + 1)}
         # What the changelog says of earlier times stays as it was.
         self.pages = {name: text for name, text in self.files.items() if name.endswith(".md") and name != "CHANGELOG.md"}
@@ -35,11 +37,21 @@ class Tree:
 
     def replace(self, name, text):
         self.files[name] = text
+        self.known = self.known if name.endswith(".md") else None
         if name in self.pages:
             self.pages[name] = text
 
     def code(self, prefixes=SOURCES, ends=(".cpp", ".h")):
         return {name: text for name, text in self.files.items() if name.startswith(prefixes) and name.endswith(ends)}
+
+    def words(self):
+        """Every word outside of the pages."""
+        if self.known is None:
+            self.known = set()
+            for name, text in self.files.items():
+                if not name.endswith((".md", ".png", ".svg")):
+                    self.known.update(re.findall(r"\w+", text))
+        return self.known
 
     def table(self, page, head):
         """The rows of the table below this head line, as lists of cells."""
@@ -69,6 +81,7 @@ def differences(what, said, true):
 
 # --- What is linked and installed ---
 
+@functools.lru_cache(maxsize=None)
 def linked(path):
     text = subprocess.run(["readelf", "-d", path], capture_output=True, text=True, check=True).stdout
     return {name.split(".so")[0] for name in re.findall(r"\(NEEDED\).*\[(?:lib)?([^\]]+)\]", text)}
@@ -117,24 +130,22 @@ READS = re.compile(r"(?:env|EnvironmentVariable\w*|isSet|environmentText)\(\"([A
 
 
 def check_environment(tree):
-    true = set()
+    true, code = set(), tree.code()
     for name, text in tree.files.items():
-        if name in tree.code() or name.startswith("tools/") or name in SCRIPTS.values():
+        if name in code or name.startswith("tools/") or name in SCRIPTS.values():
             true.update(a or b for a, b in READS.findall(text))
     true -= {"BASH_SOURCE", "VERSION_ID"}
     said = {name for cells in tree.table("docs/environment.md", "| variable | read by | meaning |") for name in quoted(cells[0])}
     yield from differences("docs/environment.md", said, true)
     for page, text in tree.pages.items():
         for name in re.findall(r"\b((?:UIUTILS|KIV)_[A-Z_]+)\b", text):
-            if not any(re.search(rf"\b{name}\b", other) for path, other in tree.files.items() if not path.endswith(".md")):
+            if name not in tree.words():
                 yield f"{page}: nothing reads {name}"
 
 
-def help_of(tree, program):
-    if program in SCRIPTS:
-        return tree.files[SCRIPTS[program]]
-    command = [os.path.join(tree.build, "bin", program), "--help"]
-    return subprocess.run(command, capture_output=True, text=True, check=True).stdout
+@functools.lru_cache(maxsize=None)
+def help_of(program):
+    return subprocess.run([program, "--help"], capture_output=True, text=True, check=True).stdout
 
 
 def options_in(text):
@@ -142,7 +153,8 @@ def options_in(text):
 
 
 def check_options(tree):
-    helps = {program: help_of(tree, program) for program in PROGRAMS + list(SCRIPTS)}
+    helps = {program: help_of(os.path.join(tree.build, "bin", program)) for program in PROGRAMS}
+    helps.update({program: tree.files[script] for program, script in SCRIPTS.items()})
     for program in PROGRAMS:
         completion = tree.files.get(f"apps/{program}/{program}.bash-completion")
         if completion:
@@ -169,10 +181,10 @@ def check_presets(tree):
     targets = set(re.findall(r"add_(?:custom_target|executable|library)\((\S+)", "".join(
         text for name, text in tree.files.items() if name.endswith("CMakeLists.txt"))))
     for page, text in tree.pages.items():
-        for name in re.findall(r"--preset[ =]([\w-]+)", text):
+        for name in re.findall(r"--preset[\s=]+([\w-]+)", text):
             if name not in names:
                 yield f"{page}: there is no preset {name}"
-        for name in re.findall(r"--target[ =]([\w-]+)", text):
+        for name in re.findall(r"--target[\s=]+([\w-]+)", text):
             if name not in targets:
                 yield f"{page}: there is no target {name}"
 
@@ -222,10 +234,6 @@ NAME = re.compile(r"(?:\w+(?:::|\.))?(\w*[a-z]\w*[A-Z]\w*|\w+_\w+)(?:\(.*\))?|(\
 
 def check_names(tree):
     """Names of code that the pages quote: of two words, or with parentheses. Qt's own are not looked for."""
-    words = set()
-    for name, text in tree.files.items():
-        if not name.endswith((".md", ".png", ".svg")):
-            words.update(re.findall(r"\w+", text))
     for page, text in tree.pages.items():
         shown = set(re.findall(r"\w+", blocks(text)))
         for code in quoted(text):
@@ -233,7 +241,7 @@ def check_names(tree):
             word = name and (name.group(1) or name.group(2))
             # An item's name in QML ends in the item's own; "row_N" stands for any number.
             word = word and re.sub(r"^\w+_(?:cfg|res|act)_|_N$", "", word)
-            if word and not re.match("Q[A-Zt]", word) and word not in words | shown:
+            if word and not re.match("Q[A-Zt]", word) and word not in tree.words() | shown:
                 yield f"{page}: nothing is called {word}"
 
 
