@@ -116,17 +116,20 @@ QByteArray textOf(const ReportTemplate& report, Generation& generation)
 
 const Format formatTable[] = {
         {QLatin1String("html"), QLatin1String("html"),
-                QT_TRANSLATE_NOOP("ReportConvert", "one page that needs no other file"), true, true, false, htmlOf},
+                QT_TRANSLATE_NOOP("ReportConvert", "one page that needs no other file"), true, true, false, true,
+                htmlOf},
         {QLatin1String("pdf"), QLatin1String("pdf"),
-                QT_TRANSLATE_NOOP("ReportConvert", "Letter pages to print or to hand on"), true, true, true, pdfOf},
+                QT_TRANSLATE_NOOP("ReportConvert", "Letter pages to print or to hand on"), true, true, true, false,
+                pdfOf},
         {QLatin1String("xml"), QLatin1String("xml"),
                 QT_TRANSLATE_NOOP("ReportConvert", "for machines, elements named by the tags"), false, false, false,
-                xmlOf},
+                false, xmlOf},
         {QLatin1String("json"), QLatin1String("json"),
                 QT_TRANSLATE_NOOP("ReportConvert", "the document itself, sorted and indented"), false, false, false,
-                jsonOf},
+                false, jsonOf},
         {QLatin1String("text"), QLatin1String("txt"),
-                QT_TRANSLATE_NOOP("ReportConvert", "80 columns, for a mail or a printer"), true, false, false, textOf},
+                QT_TRANSLATE_NOOP("ReportConvert", "80 columns, for a mail or a printer"), true, false, false, false,
+                textOf},
 };
 
 template<typename Predicate> const Format* findFormat(Predicate isWanted)

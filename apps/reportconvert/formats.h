@@ -51,6 +51,8 @@ struct Format
     bool isPage;
     /// Whether it is divided into sheets of paper.
     bool isPaper;
+    /// Whether it shows status icons only if their files can be read.
+    bool needsIconFiles;
     /// The contents of the file, text in UTF-8; null when it failed or was stopped.
     QByteArray (*generate)(const ReportTemplate& report, Generation& generation);
 };

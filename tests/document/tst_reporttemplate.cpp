@@ -2,6 +2,7 @@
 #include "files.h"
 
 #include "document/reporttemplate.h"
+#include "document/tablerows.h"
 
 #include <kiv/plovjsondocument.h>
 
@@ -152,6 +153,91 @@ private Q_SLOTS:
                 QVERIFY2(report.object() == plain.root, qPrintable(QString("seed %1").arg(seed)));
             }
         }
+    }
+
+    void rowsStayInOrder_data()
+    {
+        addColumns<int, int, int, QString, QString>();
+        QTest::newRow("nine") << 0 << 9 << 0 << "row_1" << "row_9";
+        QTest::newRow("ten") << 0 << 10 << 0 << "row_10" << "row_19";
+        QTest::newRow("ninety") << 0 << 90 << 0 << "row_10" << "row_99";
+        QTest::newRow("more") << 0 << 91 << 0 << "row_100" << "row_190";
+        QTest::newRow("thousands") << 0 << 9001 << 0 << "row_10000" << "row_19000";
+        QTest::newRow("after others") << 12 << 2 << 0 << "row_10" << "row_23";
+        QTest::newRow("before others") << 0 << 90 << 1 << "row_100" << "row_190";
+        QTest::newRow("among others") << 3 << 5 << 1 << "row_1" << "row_9";
+    }
+    /// The order of the calls, of the keys and of the numbers agree, whatever else the table holds.
+    void rowsStayInOrder()
+    {
+        const auto [before, collected, after, first, last] = currentRow<int, int, int, QString, QString>();
+        ReportTemplate report;
+        uiutils::TableRows rows;
+        report.beginReport("r");
+        report.beginTable("t", "Table");
+        report.setKey("row_count", "own");
+        int label = 0;
+        const auto add = [&](auto& to, int count) {
+            for (int i = 0; i < count; ++i, ++label)
+                to.addRow("tag", QString::number(label), label, {{"status", 16}});
+        };
+        add(report, before);
+        add(rows, collected);
+        // What a page sets itself takes no row's place.
+        report.setKey("row_14", "own");
+        report.addRows(&rows);
+        add(report, after);
+        report.setKey("row_15", "own");
+        report.endTable();
+        report.endReport();
+
+        const QJsonObject table = report.object().value("table_0").toObject();
+        QStringList keys, labels, expected;
+        for (auto it = table.begin(); it != table.end(); ++it) {
+            if (!it->isObject())
+                continue;
+            keys += it.key();
+            labels += it->toObject().value("label").toString();
+            expected += QString::number(expected.size());
+            QCOMPARE(it.key().size(), first.size());
+        }
+        QCOMPARE(labels.size(), label);
+        QCOMPARE(labels, expected);
+        QCOMPARE(keys.first() + keys.last(), first + last);
+        QCOMPARE(table.value(first).toObject(),
+                QJsonObject({{"label", "0"}, {"cell_0", QJsonObject {{"label", "0"}, {"tag", "tag"}, {"title", "0"}, {"attr_status", "16"}}}}));
+    }
+
+    /// Only a table takes rows, each once; a slot may close it.
+    void whoTakesCollectedRows()
+    {
+        ReportTemplate report;
+        uiutils::TableRows rows;
+        QSignalSpy told(&rows, &uiutils::TableRows::countChanged);
+        rows.addRow("a", "A", 1, {});
+        report.addRows(&rows);
+        report.beginReport("r");
+        report.beginSection("s", "Section");
+        report.addRows(&rows);
+        QCOMPARE(rows.count(), 1);
+        QCOMPARE(told.size(), 1);
+        report.beginTable("t", "Table");
+        report.addRows(nullptr);
+        report.addRows(&rows);
+        report.addRows(&rows);
+        rows.clear();
+        QCOMPARE(rows.count(), 0);
+        QCOMPARE(told.size(), 2);
+        rows.addRow("b", "B", 2, {});
+        connect(&rows, &uiutils::TableRows::countChanged, &report, [&] { report.endTable(); });
+        report.addRows(&rows);
+        report.endSection();
+        report.endReport();
+        const QJsonObject section = report.object().value("section_0").toObject();
+        QCOMPARE(section.size(), 4);
+        const QJsonObject table = section.value("table_0").toObject();
+        QCOMPARE(table.value("row_1").toObject().value("label").toString() + table.value("row_2").toObject().value("label").toString(), QString("AB"));
+        QCOMPARE(table.size(), 8);
     }
 
     void builtDocumentsReadBack()

@@ -1,6 +1,7 @@
 #include "core/status.h"
 #include "core/userdata.h"
 #include "document/reporttemplate.h"
+#include "document/tablerows.h"
 #include "files/fileutils.h"
 #include "files/screenshot.h"
 #include "local/uidata.h"
@@ -160,7 +161,7 @@ const QVector<Face>& faces()
     using Validator = ForgivingValidator;
     const auto validate = static_cast<Validator::ValidatorState (Validator::*)(QString, int)>(&Validator::validate);
     static const QVector<Face> all {face<Manifest, QObject>(), face<KIVSignal, QObject>(), face<UiEnumType, QObject>(),
-            face<UiDataContainer, QObject>(), face<ReportTemplate, QObject>(), face<PDFFile, QObject>(),
+            face<UiDataContainer, QObject>(), face<ReportTemplate, QObject>(), face<uiutils::TableRows, QObject>(), face<PDFFile, QObject>(),
             face<FileUtils, QObject>(), face<Screenshot, QObject>(), face<KivAggregateData, KivData>(),
             face<KivListAggregateData, KivData>(), face<QMLListAggregate, QAbstractListModel>(), face<StringUiData, UiData>(),
             face<BoolUiData, UiData>(), face<EnumUiData, UiData>(), face<UserData>(), face<uiutils::Status>(), face<uiutils::Alignment>(), face<KIVClientInterface>(),

@@ -78,13 +78,20 @@ private Q_SLOTS:
     {
         QQmlEngine engine;
         const auto object = made(engine, R"(ReportTemplate {
+                property TableRows rows: TableRows {}
                 Component.onCompleted: {
                     beginReport("page"); setKey("flag", true); addAttribute("unit", 3.5); beginTable("t", "Table")
-                    addRow("a", "First", 1, { "unit": "dB", "align": Alignment.Right, "status": Status.Pass }); endTable(); endReport()
+                    addRow("a", "First", 1, { "unit": "dB", "align": Alignment.Right, "status": Status.Pass }); endTable()
+                    for (let i = 0; i < 12; ++i)
+                        rows.addRow("b", "Row", i, { "unit": "m" })
+                    setKey("collected", rows.count); beginTable("u", "More"); addRows(rows); endTable(); endReport()
                 }
             })");
         const QJsonObject root = qobject_cast<ReportTemplate*>(object.get())->object();
         QCOMPARE(root.value("flag").toString() + root.value("attr_unit").toString(), QString("true3.5"));
+        QCOMPARE(root.value("collected"), QJsonValue("12"));
+        QCOMPARE(root.value("table_1").toObject().value("row_21").toObject().value("cell_0").toObject(),
+                QJsonObject({{"attr_unit", "m"}, {"label", "11"}, {"tag", "b"}, {"title", "Row"}}));
         QCOMPARE(root.value("table_0").toObject().value("row_1").toObject().value("cell_0").toObject(),
                 QJsonObject({{"attr_align", "2"}, {"attr_status", "16"}, {"attr_unit", "dB"}, {"label", "1"}, {"tag", "a"}, {"title", "First"}}));
     }

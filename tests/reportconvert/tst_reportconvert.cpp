@@ -149,6 +149,8 @@ private Q_SLOTS:
         const Outcome bare = run({"-f", "html", "-o", "-", path("small.json")});
         QVERIFY2(bare.errors.contains("UIUTILS_ROOT"), qPrintable(bare.errors));
         QCOMPARE(bare.exitCode, 0);
+        // Pages on paper have icons of their own.
+        QCOMPARE(run({"-f", "pdf", "-o", "small.pdf", path("small.json")}).errors, QString());
     }
 
     void paperOptions()

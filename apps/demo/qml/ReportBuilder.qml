@@ -9,6 +9,8 @@ QtObject {
     property LoopbackMeasurement measurement
     property ReportTemplate report
     property string title
+    // Keeps the order of the rows on the pages, however many there are.
+    readonly property TableRows rows: TableRows {}
 
     function build() {
         report.beginReport("loopback_report")
@@ -32,20 +34,19 @@ QtObject {
 
     function addSummary() {
         report.beginTable("summary", qsTr("Summary"))
-        keepRowsInOrder(12)
         addPlainRow("started", qsTr("Started"), measurement.startTime.replace("T", " ").replace("Z", " UTC"))
         addPlainRow("server", qsTr("Server"), measurement.serverAddress)
         addSummaryRows("round_trip_time", measurement.roundTrip)
         addSummaryRows("throughput", measurement.throughput)
-        report.endTable()
+        endTable()
     }
 
     function addSummaryRows(tag, quantity) {
         addValueRow(tag + "_median", qsTr("%1, median").arg(quantity.title), quantity, quantity.median)
         addValueRow(tag + "_minimum", qsTr("%1, minimum").arg(quantity.title), quantity, quantity.minimum)
         addValueRow(tag + "_maximum", qsTr("%1, maximum").arg(quantity.title), quantity, quantity.maximum)
-        report.addRow(tag + "_jitter", qsTr("%1, jitter").arg(quantity.title), quantity.text(quantity.jitter),
-                      { align: Alignment.Right, unit: quantity.unit })
+        rows.addRow(tag + "_jitter", qsTr("%1, jitter").arg(quantity.title), quantity.text(quantity.jitter),
+                    { align: Alignment.Right, unit: quantity.unit })
         addPlainRow(tag + "_limit", qsTr("%1, limit").arg(quantity.title), quantity.limitText)
     }
 
@@ -55,10 +56,9 @@ QtObject {
         report.addAttribute("limit", quantity.limitText)
         addPlot(tag, service)
         report.beginTable(tag + "_samples", qsTr("Samples"))
-        keepRowsInOrder(quantity.count)
         for (let i = 0; i < quantity.count; ++i)
             addValueRow("sample", qsTr("Sample %1").arg(i + 1), quantity, quantity.valueAt(i))
-        report.endTable()
+        endTable()
         report.endSection()
     }
 
@@ -69,23 +69,17 @@ QtObject {
         report.endTable()
     }
 
+    function endTable() {
+        report.addRows(rows)
+        report.endTable()
+    }
+
     function addPlainRow(tag, label, text) {
-        report.addRow(tag, label, text, { align: Alignment.Right })
+        rows.addRow(tag, label, text, { align: Alignment.Right })
     }
 
     function addValueRow(tag, label, quantity, value) {
-        report.addRow(tag, label, quantity.text(value),
-                      { status: quantity.statusOf(value), align: Alignment.Right, unit: quantity.unit })
-    }
-
-    // Pages show rows in the string order of their keys, which puts row_10 before row_2. A row's number counts the keys
-    // of its table that contain "row_"; with enough of those before the first row, all numbers have the same count of
-    // digits. The table starts with one such key of its own.
-    function keepRowsInOrder(rows) {
-        let first = 1
-        while (String(first).length < String(first + rows - 1).length)
-            first *= 10
-        for (let i = 1; i < first; ++i)
-            report.setKey("before_row_" + i, "")
+        rows.addRow(tag, label, quantity.text(value),
+                    { status: quantity.statusOf(value), align: Alignment.Right, unit: quantity.unit })
     }
 }

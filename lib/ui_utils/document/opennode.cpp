@@ -79,7 +79,7 @@ void OpenNode::append(Family family, const QJsonValue& child, int height)
     m_height = std::max(m_height, height + 1);
     Children& children = m_children[family];
     const int number = children.keyCount;
-    if (children.hasNumberedKey) {
+    if (children.hasNumberedKey && !children.isNumberedByArrival) {
         const QString key = childKey(familyWord(family), number);
         // A key of that name was set: it is replaced. The count stays, and so does the next number.
         if (m_keys.contains(key)) {
@@ -94,17 +94,30 @@ void OpenNode::append(Family family, const QJsonValue& child, int height)
 QJsonObject OpenNode::take()
 {
     for (int family = 0; family < FamilyCount; ++family) {
-        QVector<Child> waiting;
-        waiting.swap(m_children[family].waiting);
-        std::sort(waiting.begin(), waiting.end(),
-                [](const Child& a, const Child& b) { return DecimalText(a.number) < DecimalText(b.number); });
+        Children children;
+        std::swap(children, m_children[family]);
+        QVector<Child>& waiting = children.waiting;
+        if (children.isNumberedByArrival)
+            renumber(waiting);
+        else
+            std::sort(waiting.begin(), waiting.end(),
+                    [](const Child& a, const Child& b) { return DecimalText(a.number) < DecimalText(b.number); });
         for (const Child& child : qAsConst(waiting))
             m_keys.insert(childKey(familyWord(family), child.number), child.value);
-        m_children[family] = Children();
     }
     QJsonObject node;
     node.swap(m_keys);
     return node;
+}
+
+void OpenNode::renumber(QVector<Child>& children)
+{
+    int number = 1;
+    // There are nine numbers of one digit, 90 of two, 900 of three.
+    while (9 * number < children.size())
+        number *= 10;
+    for (Child& child : children)
+        child.number = number++;
 }
 
 void OpenNode::count(const QString& key)
@@ -122,7 +135,7 @@ QJsonValue* OpenNode::waitingChild(const QString& key)
 {
     for (int family = 0; family < FamilyCount; ++family) {
         const int number = childNumber(key, familyWord(family));
-        if (number < 0)
+        if (number < 0 || m_children[family].isNumberedByArrival)
             continue;
         QVector<Child>& waiting = m_children[family].waiting;
         const auto it = std::lower_bound(

@@ -35,6 +35,10 @@ public:
     /// that key.
     void append(Family family, const QJsonValue& child, int height = 0);
 
+    /// From now on the family's children, those that it has included, stay in the order in which they arrive: take()
+    /// numbers them so that all numbers have the same count of digits, and the smallest is 1, 10, 100 and so on.
+    void numberByArrival(Family family) { m_children[family].isNumberedByArrival = true; }
+
     /// The finished node; this one is then empty.
     QJsonObject take();
 
@@ -50,10 +54,13 @@ private:
         int keyCount = 0;
         /// Whether a key of m_keys is named like a child of the family.
         bool hasNumberedKey = false;
+        /// Whether the numbers of the waiting children are provisional.
+        bool isNumberedByArrival = false;
         /// In ascending order of their numbers, without duplicates, none of them a key of m_keys.
         QVector<Child> waiting;
     };
 
+    static void renumber(QVector<Child>& children);
     void count(const QString& key);
     QJsonValue* waitingChild(const QString& key);
 

@@ -3,6 +3,8 @@
 #include "base/paths_p.h"
 #include "document/opennode_p.h"
 #include "document/reportkeys_p.h"
+#include "document/reportrow_p.h"
+#include "document/tablerows.h"
 
 #include <kiv/plovjsondocument.h>
 
@@ -33,11 +35,6 @@ QJsonObject tableNode(const QString& tag, const QString& title)
             {keys::numColumns, 1}, {keys::tag, tag}, {keys::title, title}, {keys::useRowLabels, true}};
 }
 
-QString attributeKey(const QString& name)
-{
-    return keys::attributeFamily + name;
-}
-
 } // namespace
 
 /// The finished document, and the open nodes, of which the last one is the current one.
@@ -45,6 +42,8 @@ class uiutils::ReportTemplatePrivate
 {
 public:
     OpenNode* current();
+    /// Null unless the current node is a table.
+    OpenNode* currentTable();
     void closeInto(QLatin1String nodeType, int family);
     QJsonObject takeCurrent();
     void warnOfDepth();
@@ -130,7 +129,7 @@ void ReportTemplate::setKey(const QString& key, const QVariant& val)
 
 void ReportTemplate::addAttribute(const QString& key, const QVariant& val)
 {
-    setKey(attributeKey(key), val);
+    setKey(uiutils::attributeKey(key), val);
 }
 
 void ReportTemplate::beginSection(const QString& tag, const QString& title)
@@ -148,17 +147,8 @@ void ReportTemplate::beginTable(const QString& tag, const QString& title)
 void ReportTemplate::addRow(
         const QString& tag, const QString& rowLabel, const QVariant& val, const QMap<QString, QVariant>& attrs)
 {
-    OpenNode* node = d->current();
-    if (!node || node->nodeType() != keys::table)
-        return;
-
-    QJsonObject cell;
-    for (auto it = attrs.cbegin(); it != attrs.cend(); ++it)
-        cell.insert(attributeKey(it.key()), it.value().toString());
-    cell.insert(keys::label, val.toString());
-    cell.insert(keys::tag, tag);
-    cell.insert(keys::title, rowLabel);
-    node->append(OpenNode::Row, QJsonObject {{keys::cellFamily + QLatin1Char('0'), cell}, {keys::label, rowLabel}});
+    if (OpenNode* table = d->currentTable())
+        table->append(OpenNode::Row, uiutils::reportRow(tag, rowLabel, val, attrs));
 }
 
 void ReportTemplate::endTable()
@@ -177,6 +167,19 @@ void ReportTemplate::endReport()
         d->document.setObject(d->takeCurrent());
 }
 
+void ReportTemplate::addRows(uiutils::TableRows* rows)
+{
+    OpenNode* table = d->currentTable();
+    if (!table || !rows || rows->count() == 0)
+        return;
+    table->numberByArrival(OpenNode::Row);
+    const QVector<QJsonObject> taken = rows->take();
+    for (const QJsonObject& row : taken)
+        table->append(OpenNode::Row, row);
+    // Last, because a slot may close the table.
+    Q_EMIT rows->countChanged();
+}
+
 QVariant ReportTemplate::getAttr(const QString& name) const
 {
     const QJsonObject root = d->document.object();
@@ -187,6 +190,12 @@ QVariant ReportTemplate::getAttr(const QString& name) const
 OpenNode* ReportTemplatePrivate::current()
 {
     return openNodes.empty() ? nullptr : &openNodes.back();
+}
+
+OpenNode* ReportTemplatePrivate::currentTable()
+{
+    OpenNode* node = current();
+    return node && node->nodeType() == keys::table ? node : nullptr;
 }
 
 void ReportTemplatePrivate::closeInto(QLatin1String nodeType, int family)

@@ -12,7 +12,8 @@
 
 namespace uiutils {
 class ReportTemplatePrivate;
-}
+class TableRows;
+} // namespace uiutils
 
 /// The report document: one JSON object that all report writers read. It is built by a fixed sequence of calls or read
 /// from a file.
@@ -20,7 +21,8 @@ class ReportTemplatePrivate;
 /// A test application calls beginReport(), any number of setKey() and addAttribute(), blocks of beginSection() ...
 /// endSection(), which nest, and of beginTable(), addRow() ..., endTable(), and finally endReport(). Values are stored
 /// as text. Children are stored under numbered keys; a child's number is the count of its parent's keys that contain
-/// "section_", "table_" or "row_", so that rows, beside the key "use_row_labels", number from 1.
+/// "section_", "table_" or "row_", so that rows, beside the key "use_row_labels", number from 1. Rows that addRows()
+/// adds are numbered as it says.
 ///
 /// No operation reports an error: a call that makes no sense in the current state does nothing.
 class UIUTILS_EXPORT ReportTemplate : public QObject
@@ -65,6 +67,15 @@ public:
     Q_INVOKABLE void endSection();
     /// Makes the current node, whatever its type, the document.
     Q_INVOKABLE void endReport();
+
+    /// Moves the rows of `rows` to the end of the current table. `rows` remains the caller's and is empty then, and
+    /// emits its countChanged(). Does nothing, and leaves `rows` as it is, if that is null or empty or if the current
+    /// node is not a table.
+    ///
+    /// Such a table keeps the order in which its rows were added, those that addRow() adds before and after included:
+    /// when it is closed, they are numbered from 1 if there are at most 9, from 10 if there are at most 90, from 100 if
+    /// there are at most 900 and so on, so that the order of the numbers is that of the keys.
+    Q_INVOKABLE void addRows(uiutils::TableRows* rows);
 
     /// The document's root.
     QJsonObject object() const;

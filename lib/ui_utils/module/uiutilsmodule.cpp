@@ -3,6 +3,7 @@
 #include "core/status.h"
 #include "core/userdata.h"
 #include "document/reporttemplate.h"
+#include "document/tablerows.h"
 #include "files/fileutils.h"
 #include "files/screenshot.h"
 #include "local/uidata.h"
@@ -122,6 +123,7 @@ void registerTypes(const char* uri)
     registerCodes<Status>(uri, "Status");
     registerCodes<Alignment>(uri, "Alignment");
     qmlRegisterType<ReportTemplate>(uri, 1, 0, "ReportTemplate");
+    qmlRegisterType<TableRows>(uri, 1, 0, "TableRows");
     qmlRegisterType<PDFFile>(uri, 1, 0, "PDFFile");
     registerServiceTypes(uri);
     registerLocalTypes(uri);

@@ -33,7 +33,19 @@ PagePrinter::Outcome PagePrinter::print(const QString& path)
     m_printer.setOutputFileName(path);
     m_style.emplace(&m_printer);
     m_frame.emplace(*m_style, m_printer.paperRect(QPrinter::DevicePixel).size(), m_frameTexts);
-    return layOut() ? printPages() : Stopped;
+    const Outcome outcome = layOut() ? printPages() : Stopped;
+    warnOfUnreadableIcons();
+    return outcome;
+}
+
+/// One line for all of them: where one is missing, mostly all are.
+void PagePrinter::warnOfUnreadableIcons() const
+{
+    const QStringList& files = m_style->unreadableIcons();
+    if (!files.isEmpty())
+        qWarning("Built-in status icons are printed in place of files that are missing or are not images of at most "
+                 "1 MiB: %s",
+                qUtf8Printable(files.join(QStringLiteral(", "))));
 }
 
 bool PagePrinter::layOut()

@@ -44,6 +44,7 @@ public:
 
 private:
     bool layOut();
+    void warnOfUnreadableIcons() const;
     Outcome printPages();
     void drawPage(PageCanvas& canvas, int page);
     void addToOutline(const PlacedPortion& placed);

@@ -1,6 +1,7 @@
 #include "writers/pages/pagestyle_p.h"
 
 #include "base/paths_p.h"
+#include "writers/pages/drawnicon_p.h"
 #include "writers/pages/pageimage_p.h"
 #include "writers/pages/statusicons_p.h"
 
@@ -46,10 +47,10 @@ const QImage& PageStyle::statusIcon(int status) const
     auto it = m_icons.find(status);
     if (it == m_icons.end()) {
         it = m_icons.insert(status, decodedImage(readIcon(path)));
-        if (it->isNull())
-            qWarning(
-                    "The status icon %s is missing or is not an image of at most 1 MiB: the report is printed without it.",
-                    qUtf8Printable(onDisk(path)));
+        if (it->isNull()) {
+            *it = drawnStatusIcon(status);
+            m_unreadableIcons += onDisk(path);
+        }
     }
     return *it;
 }

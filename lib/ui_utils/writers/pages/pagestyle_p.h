@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QImage>
 #include <QMap>
+#include <QStringList>
 
 namespace uiutils {
 
@@ -17,9 +18,12 @@ public:
     /// Device units of a length in points.
     qreal points(qreal length) const { return length * m_unitsOfAPoint; }
 
-    /// The icon of a cell's status, always the same image, so that a file contains it once; null if there is none.
+    /// The icon of a cell's status, always the same image, so that a file contains it once; null if the status has
+    /// none. A file that cannot be read is replaced by a drawn icon.
     const QImage& statusIcon(int status) const;
     bool hasStatusIcon(int status) const { return !statusIcon(status).isNull(); }
+    /// The files on the disk that were to be shown and could not be read.
+    const QStringList& unreadableIcons() const { return m_unreadableIcons; }
 
 private:
     qreal m_unitsOfAPoint;
@@ -49,6 +53,7 @@ public:
 
 private:
     mutable QMap<int, QImage> m_icons;
+    mutable QStringList m_unreadableIcons;
 };
 
 } // namespace uiutils
