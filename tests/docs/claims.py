@@ -242,8 +242,8 @@ def check_names(tree):
         for code in quoted(text):
             name = NAME.fullmatch(code)
             word = name and (name.group(1) or name.group(2))
-            # An item's name in QML ends in the item's own; "row_N" stands for any number.
-            word = word and re.sub(r"^\w+_(?:cfg|res|act)_|_N$", "", word)
+            # An item's name in QML ends in the item's own; "row_N" and "row_12" are keys with a number.
+            word = word and re.sub(r"^\w+_(?:cfg|res|act)_|_(?:N|\d+)$", "", word)
             if word and not re.match("Q[A-Zt]", word) and word not in tree.words() | shown:
                 yield f"{page}: nothing is called {word}"
 
