@@ -158,6 +158,7 @@ def options_in(text):
 def check_options(tree):
     helps = {program: help_of(os.path.join(tree.build, "bin", program)) for program in PROGRAMS}
     helps.update({program: tree.files[script] for program, script in SCRIPTS.items()})
+    helps.update({name: text for name, text in tree.files.items() if name.startswith("tools/") and text.startswith("#!")})
     for program in PROGRAMS:
         completion = tree.files.get(f"apps/{program}/{program}.bash-completion")
         if completion:
@@ -242,9 +243,11 @@ def check_names(tree):
         for code in quoted(text):
             name = NAME.fullmatch(code)
             word = name and (name.group(1) or name.group(2))
+            if not word or re.match("Q[A-Zt]", word):
+                continue
             # An item's name in QML ends in the item's own; "row_N" and "row_12" are keys with a number.
-            word = word and re.sub(r"^\w+_(?:cfg|res|act)_|_(?:N|\d+)$", "", word)
-            if word and not re.match("Q[A-Zt]", word) and word not in tree.words() | shown:
+            forms = {word, re.sub(r"^\w+_(?:cfg|res|act)_|_(?:N|\d+)$", "", word)}
+            if not forms & (tree.words() | shown):
                 yield f"{page}: nothing is called {word}"
 
 
