@@ -9,6 +9,7 @@ tree=$1 work=$2 packages=${3-}
 # shellcheck source=tools/chroot.sh
 . "$tree/tools/chroot.sh"
 bare=$work/bare
+trap 'say "line $LINENO failed"' ERR
 
 skip() {
     echo "skipped: $1"
@@ -52,7 +53,7 @@ apt_in_bare() {
 
 files() {
     (cd "$bare" && find etc usr var -path var/cache -prune -o -path var/log -prune -o -path var/lib/apt -prune -o \
-        -path var/lib/dpkg -prune -o -print) | grep -i 'uiutils\|kiv' || true
+        -path var/lib/dpkg -prune -o -print) | grep -e uiutils -e '/\(lib\)\?kiv' || true
 }
 
 mkdir -p "$work"
