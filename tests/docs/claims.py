@@ -204,7 +204,8 @@ def check_paths(tree):
         for code in quoted(text) + blocks(text).split():
             path = code.rstrip("/.,:")
             if re.fullmatch(r"[\w.+-]+(/[\w.+-]+)+", path) and path.split("/")[0] in tops and not path.startswith("lib/qt5"):
-                if path not in tree.files and path not in tree.folders and path + ".in" not in tree.files:
+                beside = os.path.normpath(os.path.join(os.path.dirname(page), path))
+                if not {path, beside, path + ".in"} & (tree.files.keys() | tree.folders):
                     yield f"{page}: there is no {path}"
             elif NAMED_FILE.fullmatch(path) and not any(("/" + name).endswith("/" + path) for name in tree.files):
                 yield f"{page}: no file is called {path}"
