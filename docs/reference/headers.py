@@ -42,7 +42,7 @@ def pair_text(function, functions):
 
 
 def text_for(line, texts, functions):
-    line = line.strip()
+    line = re.sub(r"\[\[\w+\]\] ", "", line.strip())
     if PARENT.match(line):
         return "An object that `parent` deletes; without a parent, its creator does."
     function = FUNCTION.match(line)
@@ -66,7 +66,7 @@ def with_texts(header):
         before = line.strip()
 
 
-CLASS = re.compile(r"(?:class|struct) (?:[A-Z]+_EXPORT )?(\w+)(?: final)?(?: :[^;]*)?$")
+CLASS = re.compile(r"(?:class|struct) (?:\[\[\w+\]\] )?(?:[A-Z]+_EXPORT )?(\w+)(?: final)?(?: :[^;]*)?$")
 
 
 def texts_by_class(header):
