@@ -87,6 +87,6 @@ def texts_by_class(header):
             continue
         name = DECLARED.search(line)
         if text and name:
-            members.setdefault(next(filter(None, name.groups())), []).append(" ".join(text))
+            members.setdefault(next(filter(None, name.groups())), []).append("\n".join(text))
         text = []
     return found

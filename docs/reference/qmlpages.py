@@ -19,7 +19,7 @@ class Undescribed(Exception):
 
 
 def escaped(text):
-    return re.sub(r"([|<>])", r"\\\1", text)
+    return re.sub(r"([|<>])", r"\\\1", " ".join(text.split()))
 
 
 def for_pages(text):
@@ -106,7 +106,7 @@ def type_page(component, components, texts_of):
     of_base = f" It has everything that \\ref qml_{base.exported[0]} \"{base.exported[0]}\" has." if base and base.exported else ""
     # A class without a meta-object of its own is registered under that of its base, which Qt describes.
     own = component.cpp.split("::")[-1]
-    about = for_pages((texts_of(own).get(own) or texts_of(name).get(name) or [""])[0]).replace("  ", "\n\n")
+    about = for_pages((texts_of(own).get(own) or texts_of(name).get(name) or [""])[0])
     if not about:
         raise Undescribed(f"{name} has no text")
     members = list(component.lines(texts)) if texts_of(component.cpp) else []
