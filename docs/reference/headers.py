@@ -19,7 +19,8 @@ PARENT = re.compile(r"explicit \w+\(QObject\* parent = nullptr\);")
 FUNCTION = re.compile(r"[\w:<>,*& ]*?\b(\w+)\(.*")
 NO_MEMBER = ("//", "friend ", "~", "Q_PROPERTY", "return ")
 DECLARED = re.compile(
-    r"Q_PROPERTY\(\s*[\w:<>, ]+?[\s*&]+(\w+)\s+(?:READ|MEMBER|CONSTANT)|(?:class|struct|enum) (?:[A-Z_]+ )?(\w+)|(\w+)\(|(\w+)(?: = [^,]*)?[,;]")
+    r"Q_PROPERTY\(\s*[\w:<>, ]+?[\s*&]+(\w+)\s+(?:READ|MEMBER|CONSTANT)"
+    r"|(?:class|struct|enum) (?:[A-Z_]+ )?(\w+)|(\w+)\(|(\w+)(?: = [^,]*)?[,;]")
 
 
 def accessor_texts(header):
