@@ -38,9 +38,11 @@ void Follower::start()
     }
     // The service may come later, its items after it, and their values last.
     connect(&m_host, &Host::serviceAdded, this, &Follower::begin, Qt::QueuedConnection);
-    if (const auto* base = KIVClientInterface::getBaseMgrClient())
+    const auto* base = KIVClientInterface::getBaseMgrClient();
+    if (base)
         connect(base, &KIVClientInterface::itemsChanged, this, &Follower::begin, Qt::QueuedConnection);
-    QTimer::singleShot(patienceMs, this, &Follower::giveUp);
+    // Without a client there is no base manager that could come.
+    QTimer::singleShot(base ? patienceMs : 0, this, &Follower::giveUp);
     begin();
 }
 
