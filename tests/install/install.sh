@@ -122,6 +122,10 @@ if [ -x "$build/bin/pdf_viewer" ]; then
     "$plain/bin/uiutils-demo" --tour --root "$plain/root" >/dev/null
     test "$(readlink "$plain/root/base/bin/pdf_viewer")" = "$plain/libexec/uiutils/pdf_viewer"
 fi
+# No text that the build makes names where it was made.
+if grep -rIlF -e "$build" -e "$(dirname "$(dirname "$here")")" "$plain"; then
+    exit 1
+fi
 # Hidden visibility: what is private must not be reachable from outside.
 if nm -DC --defined-only "$library" | grep -E ' [A-Z] uiutils::(OpenNode|onDisk|writeFileDurably|NodeReader|PdfProbe|pdf::)'; then
     echo "private symbols are exported" >&2
