@@ -284,7 +284,8 @@ public:
     virtual QString getSaveFilePath(const QString& name, const QString& suffix);
     /// Writes a text as UTF-8, compressed if enabled, and notifies the user. `path` includes the suffix. If a file
     /// exists, compressed or not, nothing is written and the user is asked, unless `overwrite`.
-    [[nodiscard]] virtual bool writeTextReport(const QString& path, const QString& text, const QString& suffix, bool overwrite);
+    [[nodiscard]] virtual bool writeTextReport(
+            const QString& path, const QString& text, const QString& suffix, bool overwrite);
 
 protected:
     // Hooks: the defaults do nothing.
