@@ -47,6 +47,8 @@ QStringList placeImages()
                 "Host", "Reports have no icons: the folder %1 cannot be created. Check that you may write there.")
                         .arg(folder)};
     const QString source = installedFolder(QStringLiteral(UIUTILS_SHARED_FOLDER "/images"));
+    if (source.isEmpty())
+        return {QCoreApplication::translate("Host", "Reports have no icons: those of the library are not installed.")};
     QStringList problems;
     for (const QString& image : missing) {
         const QString problem = placeImage(source + QLatin1Char('/') + QFileInfo(image).fileName(), image);

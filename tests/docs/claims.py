@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
-"""Compares what README, CONTRIBUTING and docs/ say with the tree and its build folder: linked libraries, packages, build options,
-environment variables, options of programs, presets, targets, paths, names in code, links and anchors. Usage: claims.py TREE BUILD"""
+"""Compares what README, CONTRIBUTING and docs/ say with the tree and its build folder: linked libraries, packages,
+build options, environment variables, options of programs, presets, targets, paths, names in code, properties, links and
+anchors, sources of classes, rooms, scripts. Usage: claims.py TREE BUILD"""
 
 import functools
 import json
@@ -13,7 +14,8 @@ PROGRAMS = ["kivctl", "kivd", "pdf_viewer", "reportconvert", "uiutils-demo", "ui
 SCRIPTS = {"./check": "check", "./demo": "demo"}
 SOURCES = ("base/", "lib/", "platform/", "qml/", "apps/")
 # What every program of C++ links, and what the sanitizers add.
-RUN_TIME = {"c", "m", "pthread", "gcc_s", "stdc++", "asan", "ubsan", "gcov", "ld-linux-x86-64", "ld-linux-armhf", "ld-linux-aarch64"}
+RUN_TIME = {"c", "m", "pthread", "gcc_s", "stdc++", "asan", "ubsan", "gcov",
+            "ld-linux-x86-64", "ld-linux-armhf", "ld-linux-aarch64"}
 
 
 class Tree:
@@ -129,7 +131,8 @@ def check_build_options(tree):
 
 # --- Environment and options ---
 
-READS = re.compile(r"(?:env|EnvironmentVariable\w*|isSet|environmentText)\(\"([A-Z][A-Za-z_]+)\"|(?:\$\{|\[\[ -n \$)([A-Z]+_[A-Z_]+)")
+READS = re.compile(r"(?:env|EnvironmentVariable\w*|isSet|environmentText)\(\"([A-Z][A-Za-z_]+)\""
+                   r"|(?:\$\{|\[\[ -n \$)([A-Z]+_[A-Z_]+)")
 
 
 def check_environment(tree):
@@ -204,7 +207,8 @@ def check_paths(tree):
         for code in quoted(text) + blocks(text).split():
             path = code.rstrip("/.,:")
             if re.fullmatch(r"[\w.+-]+(/[\w.+-]+)+", path) and path.split("/")[0] in tops and not path.startswith("lib/qt5"):
-                if path not in tree.files and path not in tree.folders and path + ".in" not in tree.files:
+                beside = os.path.normpath(os.path.join(os.path.dirname(page), path))
+                if not {path, beside, path + ".in"} & (tree.files.keys() | tree.folders):
                     yield f"{page}: there is no {path}"
             elif NAMED_FILE.fullmatch(path) and not any(("/" + name).endswith("/" + path) for name in tree.files):
                 yield f"{page}: no file is called {path}"
@@ -231,6 +235,18 @@ def check_page_links(tree):
                 yield f"{page}: the link {target} leads nowhere"
             elif anchor and anchor not in anchors.get(place, ()):
                 yield f"{page}: there is no heading for {target}"
+
+
+PROPERTIES = [("docs/qml-api.md", "| property | type | writable | notifier | |", "lib/ui_utils/service/kivdata.h"),
+              ("docs/reports.md", "| property | |", "lib/ui_utils/report/report.h")]
+
+
+def check_properties(tree):
+    """The tables that list all properties of a class."""
+    for page, head, header in PROPERTIES:
+        said = {name for cells in tree.table(page, head) for name in quoted(cells[0])}
+        true = re.findall(r"Q_PROPERTY\([\w:<>]+\*? (\w+) ", tree.files[header])
+        yield from differences(f"{page}: properties", said, true)
 
 
 NAME = re.compile(r"(?:\w+(?:::|\.))?(\w*[a-z]\w*[A-Z]\w*|\w+_\w+)(?:\(.*\))?|(\w+)\(\)")
@@ -270,7 +286,10 @@ def check_rooms(tree):
     folders = {line.split()[1] for line in rooms.split("\n") if line}
     said = {code.rstrip("/").removesuffix("/kiv") for cells in tree.table("docs/architecture.md", "| room | what lives there |")
             for code in quoted(cells[0])}
-    for name in sorted({folder.removesuffix("/kiv") for folder in folders} - said):
+    # The rooms of such folders are told with the folder.
+    folders = {"examples" if folder.startswith("examples/") else "benchmarks" if folder.startswith("benchmarks/") else
+               folder.removesuffix("/kiv") for folder in folders}
+    for name in sorted(folders - said):
         yield f"docs/architecture.md: the room {name} is not mentioned"
 
 
@@ -283,7 +302,7 @@ def check_guards(tree):
 
 
 CHECKS = [check_links, check_packages, check_build_options, check_environment, check_options, check_presets, check_paths,
-          check_page_links, check_names, check_sources, check_rooms, check_guards]
+          check_page_links, check_names, check_properties, check_sources, check_rooms, check_guards]
 
 
 def main(root, build):

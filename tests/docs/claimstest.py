@@ -33,6 +33,7 @@ PLANTED = [
     ("check_page_links", "docs/reports.md", None, "[See](#a-viewer)", "no heading for #a-viewer"),
     ("check_names", "docs/forms.md", None, "`UiDataContainer.allAreOk` is true.", "nothing is called allAreOk"),
     ("check_names", "README.md", None, "Call `write()` or `doodle()`.", "nothing is called doodle"),
+    ("check_properties", "docs/qml-api.md", "| `applicable` |", "| `isApplicable` |", "applicable is not mentioned"),
     ("check_sources", "docs/architecture.md", "`KivData`, `UiData` and `Report` have", "`KivData` and `Report` have", "UiData is not mentioned"),
     ("check_rooms", "docs/architecture.md", "| `platform/reference/bus/` |", "| `platform/reference/wire/` |", "platform/reference/bus is not"),
     ("check_guards", "CONTRIBUTING.md", "`tests/module/qmllint.sh`", "`tests/module/lint.sh`", "tests/module/qmllint.sh is not"),
