@@ -1,6 +1,7 @@
 #include "common/serviceoptions.h"
 
-#include "common/locations.h"
+#include "base/root_p.h"
+#include "ui_host/describedservices_p.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

@@ -1,6 +1,5 @@
 #include "instrumentroot.h"
 
-#include "base/durablefile_p.h"
 #include "base/paths_p.h"
 #include "texts.h"
 
@@ -11,19 +10,6 @@
 namespace uiutils::demo {
 
 namespace {
-
-QByteArray contentsOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool installImage(const QString& name, const QString& folder, QString* error)
-{
-    const QString target = folder + name;
-    const QByteArray image = contentsOf(QStringLiteral(":/uiutils/images/") + name);
-    return contentsOf(target) == image || writeFileDurably(target, image, error);
-}
 
 QString whatToDo()
 {
@@ -77,13 +63,6 @@ bool prepareInstrumentRoot(const QString& root, const QString& viewer, QString* 
     // Reports write their plots to the instrument's /tmp.
     if (!makeFolder(images, error) || !makeFolder(root + QStringLiteral("/tmp"), error))
         return false;
-    const QStringList names = QDir(QStringLiteral(":/uiutils/images")).entryList();
-    for (const QString& name : names) {
-        if (!installImage(name, images, error)) {
-            *error += whatToDo();
-            return false;
-        }
-    }
     return linkViewer(root, viewer, error);
 }
 

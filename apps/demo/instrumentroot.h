@@ -4,8 +4,7 @@
 
 namespace uiutils::demo {
 
-/// Creates the folder that stands for the instrument's disk, with the status icons and the logo in their places;
-/// existing correct files are left alone. The viewer of PDF files becomes a link to the program `viewer`, unless that
+/// Creates what the demo needs in the folder that stands for the instrument's disk. The viewer of PDF files becomes a link to the program `viewer`, unless that
 /// is empty or the folder has a viewer of its own that is not a link.
 ///
 /// False when the folder cannot be used; `error` then names the file, what happened and what to do.

@@ -1,7 +1,7 @@
+#include "common/commandline.h"
+#include "common/complaint.h"
 #include "common/displaysetup.h"
-#include "common/instrument.h"
 #include "common/locations.h"
-#include "common/startup.h"
 #include "demooptions.h"
 #include "demotypes.h"
 #include "follower.h"
@@ -13,6 +13,7 @@
 #include "screencamera.h"
 #include "texts.h"
 #include "tour.h"
+#include "ui_host/host.h"
 
 #include <kiv/kivclientinterface.h>
 
@@ -76,10 +77,8 @@ int runFollower(Follower& follower)
 
 int runDemo(const DemoOptions& options)
 {
-    if (!useRoot(options.root))
-        return exitFailed;
-    const auto instrument = Instrument::start({options.serviceFolders, options.root, resultServices()});
-    if (!instrument)
+    uiutils::Host host;
+    if (!host.start({options.serviceFolders, options.root, resultServices()}))
         return exitFailed;
     QString error;
     if (!prepareInstrumentRoot(options.root, pdfViewerProgram(), &error))
@@ -99,9 +98,9 @@ int runDemo(const DemoOptions& options)
             options.samples > 0 ? MeasurementSettings::KeepSampleCounts : MeasurementSettings::FollowSampleCounts);
     if (options.samples > 0)
         measurement.setSamples(options.samples);
-    publishResults(&measurement, [&instrument](const QString& name) { return instrument->ownService(name); });
+    publishResults(&measurement, [&host](const QString& name) { return host.ownService(name); });
     QQmlApplicationEngine engine;
-    instrument->showTo(&engine);
+    host.showTo(&engine);
     QQuickWindow* const window = openWindow(engine, &measurement);
     if (!window)
         return complain(Texts::tr(

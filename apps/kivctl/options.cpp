@@ -1,9 +1,9 @@
 #include "options.h"
 
-#include "common/locations.h"
-#include "common/platform.h"
+#include "base/root_p.h"
 #include "common/serviceoptions.h"
 #include "texts.h"
+#include "ui_host/describedservices_p.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -114,7 +114,7 @@ Examples:
   kivctl dump optical > optical.json && kivctl load optical optical.json
                     keeps the settings of a service, and brings them back
 )")
-            .arg(QString::number(defaultTimeoutMs), apps::defaultRoot(QStringLiteral("kivctl")));
+            .arg(QString::number(defaultTimeoutMs), defaultRoot(QStringLiteral("kivctl")));
 }
 
 bool looksLikeNumber(const QString& argument)
@@ -156,10 +156,10 @@ QString chooseCommand(QStringList words, Options* options)
 QString choosePlatform(bool hasFolders, Options* options)
 {
     QString problem;
-    const std::optional<apps::PlatformKind> kind = apps::chosenPlatform(apps::PlatformKind::Bus, &problem);
+    const std::optional<PlatformKind> kind = chosenPlatform(PlatformKind::Bus, &problem);
     if (!kind)
         return problem;
-    options->platform = hasFolders || kind == apps::PlatformKind::Embedded ? Options::Embedded : Options::Bus;
+    options->platform = hasFolders || kind == PlatformKind::Embedded ? Options::Embedded : Options::Bus;
     if (options->platform == Options::Embedded && options->command == Command::Watch)
         return Texts::tr("There is nothing to watch without a bus: the services of this program do not change.");
     return QString();
@@ -175,7 +175,7 @@ Options readOptions(const QStringList& arguments)
             QString::number(defaultTimeoutMs));
     const QCommandLineOption services({QStringLiteral("s"), QStringLiteral("services")}, {}, QStringLiteral("FOLDER"));
     const QCommandLineOption root(
-            QStringLiteral("root"), {}, QStringLiteral("FOLDER"), apps::defaultRoot(QStringLiteral("kivctl")));
+            QStringLiteral("root"), {}, QStringLiteral("FOLDER"), defaultRoot(QStringLiteral("kivctl")));
     parser.addOptions({json, timeout, services, root});
     const apps::CommandLine line = apps::parse(parser, withNumbersLast(arguments), {helpText(), QString()});
     if (line.outcome != apps::CommandLine::Run)
@@ -195,7 +195,7 @@ Options readOptions(const QStringList& arguments)
     if (!isNumber || options.timeoutMs <= 0)
         return misused(Texts::tr("--timeout needs a number of milliseconds above 0."));
     options.isJson = parser.isSet(json);
-    options.serviceFolders = parser.isSet(services) ? parser.values(services) : apps::defaultServiceFolders();
+    options.serviceFolders = parser.isSet(services) ? parser.values(services) : defaultServiceFolders();
     options.root = QDir::cleanPath(QDir().absoluteFilePath(parser.value(root)));
     return options;
 }

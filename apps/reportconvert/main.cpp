@@ -1,6 +1,5 @@
 #include "base/paths_p.h"
 #include "common/complaint.h"
-#include "common/platform.h"
 #include "common/standardstreams.h"
 #include "console.h"
 #include "conversion.h"
@@ -9,6 +8,8 @@
 #include "signals.h"
 #include "streams.h"
 #include "texts.h"
+#include "ui_host/describedservices_p.h"
+#include "ui_host/serviceplatform_p.h"
 #include "workspace.h"
 
 #include <embedded/embeddedbackend.h>
@@ -52,18 +53,21 @@ bool publishServices(kiv::embedded::EmbeddedBackend& backend, const Options& opt
 
 /// The services of the tables and plots: those of files, else those on the bus if the environment asks for them.
 bool useServices(kiv::embedded::EmbeddedBackend& backend, const Options& options,
-        std::unique_ptr<uiutils::apps::Platform>* platform)
+        std::unique_ptr<uiutils::ServicePlatform>* platform)
 {
-    using uiutils::apps::PlatformKind;
+    using uiutils::PlatformKind;
     if (!options.serviceFolders.isEmpty())
         return publishServices(backend, options);
     QString problem;
-    const auto kind = uiutils::apps::chosenPlatform(PlatformKind::Embedded, &problem);
+    const auto kind = uiutils::chosenPlatform(PlatformKind::Embedded, &problem);
     if (!kind)
         say(problem);
     if (kind != PlatformKind::Bus)
         return bool(kind);
-    *platform = uiutils::apps::Platform::start({});
+    QStringList problems;
+    *platform = uiutils::ServicePlatform::start({}, &problems);
+    for (const QString& each : qAsConst(problems))
+        say(each);
     return bool(*platform);
 }
 
@@ -79,7 +83,7 @@ void warnOfMissingIcons(const Plan& plan)
 int convert(const Options& options, const Plan& plan, const QString& scratchFolder)
 {
     kiv::embedded::EmbeddedBackend backend;
-    std::unique_ptr<uiutils::apps::Platform> platform;
+    std::unique_ptr<uiutils::ServicePlatform> platform;
     if (!useServices(backend, options, &platform))
         return exitFailed;
     warnOfMissingIcons(plan);

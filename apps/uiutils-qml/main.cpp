@@ -1,9 +1,11 @@
 #include "options.h"
 #include "pagewindow.h"
 
+#include "common/complaint.h"
 #include "common/displaysetup.h"
-#include "common/instrument.h"
-#include "common/startup.h"
+#include "service/kivdata.h"
+#include "service/manifest.h"
+#include "ui_host/host.h"
 
 #include <QGuiApplication>
 #include <QLoggingCategory>
@@ -21,20 +23,27 @@ using qmltool::PageWindow;
 
 namespace {
 
-int list(const apps::Instrument& instrument)
+/// Prints one line for each item: its name in QML, type and value, separated by tabs.
+int list()
 {
-    const QStringList lines = instrument.listing();
-    for (const QString& line : lines)
+    QStringList lines;
+    const QStringList ids = Manifest::getKivIds(QString(), QString());
+    for (const QString& id : ids) {
+        if (const KivData* item = Manifest::getKivData(id))
+            lines += QStringList {item->getQmlTag(), item->getType(), item->getValueString()}.join(QLatin1Char('\t'));
+    }
+    lines.sort();
+    for (const QString& line : qAsConst(lines))
         std::printf("%s\n", qUtf8Printable(line));
     return exitDone;
 }
 
-int show(apps::Instrument& instrument, const Options& options)
+int show(Host& host, const Options& options)
 {
     if (apps::DisplaySetup::isOffScreen())
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     QQmlEngine engine;
-    instrument.showTo(&engine);
+    host.showTo(&engine);
     for (const QString& folder : options.importFolders)
         engine.addImportPath(folder);
     QObject::connect(&engine, &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
@@ -63,12 +72,10 @@ int main(int argc, char** argv)
 
     // The library's notes for developers do not concern users, who may enable them by QT_LOGGING_RULES.
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\nqml.debug=true"));
-    if (!apps::useRoot(options.root))
-        return exitFailed;
     const apps::DisplaySetup display;
     const QGuiApplication application(argc, argv);
-    const auto instrument = apps::Instrument::start({options.serviceFolders, options.root, {}});
-    if (!instrument)
+    Host host;
+    if (!host.start({options.serviceFolders, options.root}))
         return exitFailed;
-    return options.page.isEmpty() ? list(*instrument) : show(*instrument, options);
+    return options.page.isEmpty() ? list() : show(host, options);
 }

@@ -1,7 +1,6 @@
 #include "columns.h"
 #include "files.h"
 
-#include "common/instrument.h"
 #include "base/paths_p.h"
 #include "demotypes.h"
 #include "loopbackmeasurement.h"
@@ -9,6 +8,7 @@
 #include "measurementsettings.h"
 #include "qmlwarnings.h"
 #include "service/kivdata.h"
+#include "ui_host/host.h"
 #include "usbstick.h"
 
 #include <embedded/embeddedbackend.h>
@@ -478,11 +478,13 @@ private:
         m_measurement->setPause(0);
         m_settings = std::make_unique<MeasurementSettings>(m_measurement.get(),
                 KIVClientInterface::getSessionBusClient("loopback"), MeasurementSettings::KeepSampleCounts);
-        m_instrument = std::make_unique<uiutils::apps::Instrument>(*m_services);
+        m_host = std::make_unique<uiutils::Host>();
+        const QStringList names = m_services->serviceNames();
+        QVERIFY(names.isEmpty() || m_host->start({{}, {}, {}, names}));
         m_engine = std::make_unique<QQmlApplicationEngine>();
         m_warnings.take();
         m_warnings.watch(m_engine.get());
-        m_instrument->showTo(m_engine.get());
+        m_host->showTo(m_engine.get());
         m_engine->setInitialProperties({{"measurement", QVariant::fromValue(m_measurement.get())}});
         m_engine->load(QUrl("qrc:/uiutils/demo/Main.qml"));
         QVERIFY(!m_engine->rootObjects().isEmpty());
@@ -497,7 +499,7 @@ private:
     void endProgram()
     {
         m_engine.reset();
-        m_instrument.reset();
+        m_host.reset();
         m_settings.reset();
         m_measurement.reset();
         m_services.reset();
@@ -693,7 +695,7 @@ private:
     QStringList m_serviceFolders {shippedServices};
     std::unique_ptr<kiv::embedded::EmbeddedBackend> m_services;
     std::unique_ptr<MeasurementSettings> m_settings;
-    std::unique_ptr<uiutils::apps::Instrument> m_instrument;
+    std::unique_ptr<uiutils::Host> m_host;
     std::unique_ptr<LoopbackMeasurement> m_measurement;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     QQuickWindow* m_window = nullptr;

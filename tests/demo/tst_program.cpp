@@ -106,16 +106,11 @@ private Q_SLOTS:
     {
         const QString root = m_folder->path();
         QCOMPARE(runDemo({"--tour", "--root", root}).exitCode, 0);
-        const QString icon = root + "/base/qml/common/images/pass_icon.png";
-        const QByteArray drawn = contentsOf(icon);
-        QVERIFY(!QImage::fromData(drawn).isNull());
-        writeFile(icon, "damaged");
         const QString viewer = root + "/base/bin/pdf_viewer";
         QFile::remove(viewer);
         QVERIFY(QDir().mkpath(root + "/base/bin") && QFile::link("/nowhere/pdf_viewer", viewer));
 
         QCOMPARE(runDemo({"--tour", "--root", root}).exitCode, 0);
-        QCOMPARE(contentsOf(icon), drawn);
 #ifdef UIUTILS_PDF_VIEWER
         QCOMPARE(QFileInfo(viewer).canonicalFilePath(), QFileInfo(UIUTILS_PDF_VIEWER).canonicalFilePath());
         QVERIFY(QFileInfo(root + "/base/qml/pdf_viewer").isDir());

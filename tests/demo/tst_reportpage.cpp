@@ -1,4 +1,3 @@
-#include "common/instrument.h"
 #include "base/durablefile_p.h"
 #include "core/itemids_p.h"
 #include "base/paths_p.h"
@@ -7,6 +6,7 @@
 #include "loopbackmeasurement.h"
 #include "files.h"
 #include "qmlwarnings.h"
+#include "ui_host/host.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
@@ -86,13 +86,15 @@ public Q_SLOTS:
             qFatal("%s", qPrintable(problems.join('\n')));
         registerDemoTypes();
         m_driver = std::make_unique<Driver>(&m_backend);
-        m_instrument = std::make_unique<uiutils::apps::Instrument>(m_backend);
+        m_host = std::make_unique<uiutils::Host>();
+        if (!m_host->start({{}, {}, {}, m_backend.serviceNames()}))
+            qFatal("the services are not there");
     }
     void qmlEngineAvailable(QQmlEngine* engine)
     {
         m_driver->watch(engine);
         engine->rootContext()->setContextProperty("driver", m_driver.get());
-        m_instrument->showTo(engine);
+        m_host->showTo(engine);
     }
     void cleanupTestCase()
     {
@@ -102,7 +104,7 @@ public Q_SLOTS:
 private:
     kiv::embedded::EmbeddedBackend m_backend;
     std::unique_ptr<Driver> m_driver;
-    std::unique_ptr<uiutils::apps::Instrument> m_instrument;
+    std::unique_ptr<uiutils::Host> m_host;
 };
 
 QUICK_TEST_MAIN_WITH_SETUP(demo, Setup)

@@ -1,8 +1,8 @@
-#include "common/instrument.h"
 #include "document/reporttemplate.h"
 #include "files.h"
 #include "qmlwarnings.h"
 #include "report/report.h"
+#include "ui_host/host.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
@@ -108,13 +108,15 @@ public Q_SLOTS:
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
         m_driver.reset();
         qmlRegisterType<InteractiveReport>("UiUtils.Test", 1, 0, "InteractiveReport");
-        m_instrument = std::make_unique<uiutils::apps::Instrument>(m_backend);
+        m_host = std::make_unique<uiutils::Host>();
+        if (!m_host->start({{}, {}, {}, m_backend.serviceNames()}))
+            qFatal("the services are not there");
     }
     void qmlEngineAvailable(QQmlEngine* engine)
     {
         m_driver.watch(engine);
         engine->rootContext()->setContextProperty("driver", &m_driver);
-        m_instrument->showTo(engine);
+        m_host->showTo(engine);
     }
     /// Test cases take the warnings of their own tests; the others came between them.
     void cleanupTestCase()
@@ -127,7 +129,7 @@ public Q_SLOTS:
 private:
     kiv::embedded::EmbeddedBackend m_backend;
     Driver m_driver {&m_backend};
-    std::unique_ptr<uiutils::apps::Instrument> m_instrument;
+    std::unique_ptr<uiutils::Host> m_host;
 };
 
 QUICK_TEST_MAIN_WITH_SETUP(uiutils, Setup)

@@ -10,10 +10,10 @@ HEADERS = SOURCES[:5]
 
 # The include folders of all targets of the tree together: an include that a target cannot resolve is still an arrow when it
 # is written.
-INCLUDE_ROOTS = ("", "lib/ui_utils", "platform/contract", "platform/reference", "platform/reference/embedded", "apps",
+INCLUDE_ROOTS = ("", "lib", "lib/ui_utils", "platform/contract", "platform/reference", "platform/reference/embedded", "apps",
                  "apps/demo", "apps/pdf_viewer", "tests")
 # The first words of our headers in angle brackets.
-OUR_FOLDERS = {"base", "common", "embedded", "formatters", "kiv", "uiutils"}
+OUR_FOLDERS = {"base", "common", "embedded", "formatters", "kiv", "ui_host", "uiutils"}
 
 TOKEN = re.compile(r'//(?:[^\\\n]|\\.)*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])*\'', re.DOTALL)
 DIRECTIVE = re.compile(r'^[ \t]*#[ \t]*(?:include|include_next|import)\b[ \t]*(?:"([^"\n]+)"|<([^>\n]+)>|(.*))', re.MULTILINE)

@@ -1,7 +1,9 @@
-#include "common/platform.h"
+// The services of the reference platform; an instrument's are in instrumentplatform.cpp.
 
-#include "common/complaint.h"
-#include "common/startup.h"
+#include "base/root_p.h"
+#include "ui_host/describedservices_p.h"
+#include "ui_host/namedservices_p.h"
+#include "ui_host/serviceplatform_p.h"
 
 #include <bus/busbackend.h>
 #include <bus/buspublisher.h>
@@ -9,7 +11,7 @@
 
 #include <QCoreApplication>
 
-namespace uiutils::apps {
+namespace uiutils {
 
 using kiv::bus::BusBackend;
 using kiv::bus::BusPublisher;
@@ -21,10 +23,13 @@ namespace {
 /// How long a start waits for services in other processes; slower ones are added when they come.
 constexpr int startTimeoutMs = 3000;
 
-class EmbeddedPlatform final : public Platform
+class EmbeddedPlatform final : public ServicePlatform
 {
 public:
-    bool begin(const ServiceSetup& setup) { return loadServices(m_backend, setup.serviceFolders, setup.root); }
+    bool begin(const HostSetup& setup, QStringList* problems)
+    {
+        return loadServices(m_backend, setup.serviceFolders, setup.root, problems);
+    }
     QStringList serviceNames() const override { return m_backend.serviceNames(); }
     EmbeddedService* ownService(const QString& name) const override { return m_backend.service(name); }
 
@@ -32,22 +37,22 @@ private:
     EmbeddedBackend m_backend;
 };
 
-class BusPlatform final : public Platform
+class BusPlatform final : public ServicePlatform
 {
 public:
-    bool begin(const ServiceSetup& setup)
+    bool begin(const HostSetup& setup, QStringList* problems)
     {
-        publishOwn(setup);
+        publishOwn(setup, problems);
         m_bus = std::make_unique<BusBackend>();
-        connect(m_bus.get(), &BusBackend::serviceAppeared, this, &Platform::serviceAppeared);
+        connect(m_bus.get(), &BusBackend::serviceAppeared, this, &ServicePlatform::serviceAppeared);
         m_bus->startServices();
         if (!m_bus->waitForServices(startTimeoutMs) && !m_bus->problem().isEmpty()) {
-            complain(m_bus->problem());
+            *problems += m_bus->problem();
             return false;
         }
         if (m_bus->serviceNames().isEmpty())
-            complain(QCoreApplication::translate("CommandLine",
-                    "There is no service on the bus yet. Start kivd; its services are shown when they come."));
+            *problems += QCoreApplication::translate(
+                    "Host", "There is no service on the bus yet. Start kivd; its services are shown when they come.");
         return true;
     }
     QStringList serviceNames() const override { return m_bus->serviceNames(); }
@@ -57,9 +62,9 @@ public:
     }
 
 private:
-    void publishOwn(const ServiceSetup& setup)
+    void publishOwn(const HostSetup& setup, QStringList* problems)
     {
-        if (setup.ownServices.isEmpty() || !loadServices(m_own, setup.serviceFolders, setup.root))
+        if (setup.ownServices.isEmpty() || !loadServices(m_own, setup.serviceFolders, setup.root, problems))
             return;
         m_publisher = std::make_unique<BusPublisher>();
         const QStringList described = m_own.serviceNames();
@@ -68,7 +73,7 @@ private:
             if (!setup.ownServices.contains(name))
                 m_own.withdraw(name);
             else if (!m_publisher->publish(m_own.service(name), &problem))
-                complain(problem);
+                *problems += problem;
         }
     }
 
@@ -78,39 +83,35 @@ private:
     std::unique_ptr<BusBackend> m_bus;
 };
 
-template<class Chosen> std::unique_ptr<Platform> begun(const ServiceSetup& setup)
+template<class Chosen, class Setup> std::unique_ptr<ServicePlatform> begun(const Setup& setup, QStringList* problems)
 {
     auto platform = std::make_unique<Chosen>();
-    return platform->begin(setup) ? std::move(platform) : nullptr;
+    return platform->begin(setup, problems) ? std::move(platform) : nullptr;
 }
 
 } // namespace
 
-std::optional<PlatformKind> chosenPlatform(PlatformKind standard, QString* problem)
+HostSetup ServicePlatform::completed(HostSetup setup)
 {
-    const QString name = qEnvironmentVariable("KIV_PLATFORM");
-    if (!qEnvironmentVariableIsSet("KIV_PLATFORM"))
-        return standard;
-    if (name == QLatin1String("bus"))
-        return PlatformKind::Bus;
-    if (name == QLatin1String("embedded"))
-        return PlatformKind::Embedded;
-    *problem = QCoreApplication::translate(
-            "CommandLine", "KIV_PLATFORM is \"%1\". Set it to \"embedded\" or \"bus\", or leave it out.")
-                       .arg(name);
-    return std::nullopt;
+    if (setup.root.isEmpty())
+        setup.root = defaultRoot(QCoreApplication::applicationName());
+    if (setup.serviceFolders.isEmpty())
+        setup.serviceFolders = defaultServiceFolders();
+    return setup;
 }
 
-std::unique_ptr<Platform> Platform::start(const ServiceSetup& setup)
+std::unique_ptr<ServicePlatform> ServicePlatform::start(const HostSetup& setup, QStringList* problems)
 {
+    if (!setup.services.isEmpty())
+        return begun<NamedServices>(setup.services, problems);
     QString problem;
     const std::optional<PlatformKind> kind = chosenPlatform(PlatformKind::Embedded, &problem);
     if (kind == PlatformKind::Bus)
-        return begun<BusPlatform>(setup);
+        return begun<BusPlatform>(setup, problems);
     if (kind == PlatformKind::Embedded)
-        return begun<EmbeddedPlatform>(setup);
-    complain(problem);
+        return begun<EmbeddedPlatform>(setup, problems);
+    *problems += problem;
     return nullptr;
 }
 
-} // namespace uiutils::apps
+} // namespace uiutils

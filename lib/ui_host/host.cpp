@@ -1,0 +1,135 @@
+#include "ui_host/host.h"
+
+#include "base/root_p.h"
+#include "module/modulepath.h"
+#include "service/manifest.h"
+#include "ui_host/images_p.h"
+#include "ui_host/serviceplatform_p.h"
+#include "ui_host/translations_p.h"
+
+#include <kiv/kivclientinterface.h>
+
+#include <QCoreApplication>
+#include <QMap>
+#include <QPointer>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlPropertyMap>
+
+#include <cstdio>
+
+namespace uiutils {
+
+using kiv::embedded::EmbeddedService;
+
+namespace {
+
+/// Pages can read the services, not replace them.
+class ServicesByName final : public QQmlPropertyMap
+{
+    QVariant updateValue(const QString& key, const QVariant&) override { return value(key); }
+};
+
+/// The beginning of the names of a service's items: the last part of a name such as "com.example.test", because QML
+/// names contain no points.
+QString tagOf(const QString& service)
+{
+    return service.section(QLatin1Char('.'), -1);
+}
+
+} // namespace
+
+struct Host::Private
+{
+    ~Private() { qDeleteAll(manifests); }
+
+    bool startPlatform(const HostSetup& setup);
+    void add(const QString& service);
+
+    Translations translations;
+    std::unique_ptr<ServicePlatform> platform;
+    QMap<QString, Manifest*> manifests;
+    ServicesByName byName;
+    QPointer<QQmlEngine> engine;
+    QStringList problems;
+};
+
+bool Host::Private::startPlatform(const HostSetup& setup)
+{
+    platform = ServicePlatform::start(setup, &problems);
+    if (!platform)
+        return false;
+    const QStringList names = platform->serviceNames();
+    for (const QString& name : names)
+        add(name);
+    return true;
+}
+
+void Host::Private::add(const QString& service)
+{
+    auto* manifest = new Manifest(KIVClientInterface::getSessionBusClient(service), tagOf(service), service);
+    QQmlEngine::setObjectOwnership(manifest, QQmlEngine::CppOwnership);
+    manifests.insert(service, manifest);
+    byName.insert(service, QVariant::fromValue<QObject*>(manifest));
+    // Pages that are there already learn the new names.
+    if (engine)
+        Manifest::setQmlContext(engine->rootContext());
+}
+
+Host::Host(QObject* parent)
+    : QObject(parent)
+    , d(new Private)
+{
+    QQmlEngine::setObjectOwnership(&d->byName, QQmlEngine::CppOwnership);
+}
+
+Host::~Host() = default;
+
+bool Host::start(const HostSetup& setup)
+{
+    d->translations.install(setup.translationFolders);
+    const HostSetup complete = ServicePlatform::completed(setup);
+    const bool isUsable = useRoot(complete.root, &d->problems) && d->startPlatform(complete);
+    if (isUsable) {
+        d->problems += placeImages();
+        connect(d->platform.get(), &ServicePlatform::serviceAppeared, this, [this](const QString& name) {
+            d->add(name);
+            Q_EMIT serviceAdded(name);
+        });
+    }
+    for (const QString& problem : qAsConst(d->problems))
+        std::fprintf(stderr, "%s: %s\n", qUtf8Printable(QCoreApplication::applicationName()), qUtf8Printable(problem));
+    return isUsable;
+}
+
+QStringList Host::problems() const
+{
+    return d->problems;
+}
+
+void Host::showTo(QQmlEngine* engine)
+{
+    d->engine = engine;
+    const QString modules = qmlImportPath();
+    if (!modules.isEmpty())
+        engine->addImportPath(modules);
+    engine->rootContext()->setContextProperty(QStringLiteral("services"), &d->byName);
+    Manifest::setQmlContext(engine->rootContext());
+}
+
+QStringList Host::serviceNames() const
+{
+    return d->manifests.keys();
+}
+
+Manifest* Host::manifest(const QString& service) const
+{
+    return d->manifests.value(service);
+}
+
+EmbeddedService* Host::ownService(const QString& name) const
+{
+    return d->platform ? d->platform->ownService(name) : nullptr;
+}
+
+} // namespace uiutils
