@@ -23,11 +23,12 @@ build_packages=(
     fontconfig fonts-dejavu-core fonts-droid-fallback
 )
 
-# What the tests start beside the programs of the tree: a display, a bus, and readers that
-# know nothing of this library and so can judge the files it writes; help2man makes the
-# manual pages that are tested with the tools, and lupdate collects the texts for translators.
+# What the tests start beside the programs of the tree: a bus, and readers that know nothing
+# of this library and so can judge the files it writes; help2man makes the manual pages that
+# are tested with the tools, doxygen the reference pages, and lupdate collects the texts for
+# translators.
 test_packages=(
-    dbus xvfb xauth poppler-utils qpdf libxml2-utils tidy strace help2man python3 tzdata
+    dbus poppler-utils qpdf libxml2-utils tidy strace help2man doxygen python3 tzdata
     qttools5-dev qttools5-dev-tools python3-dbus python3-gi
 )
 

@@ -13,6 +13,7 @@ struct UIUTILS_EXPORT Status
     Q_GADGET
 
 public:
+    /// The codes in documents, items and writers.
     enum Code : qint8 { None = 0, Pass = 16, Marginal = 32, Fail = 64 };
     Q_ENUM(Code)
 
@@ -25,6 +26,7 @@ struct UIUTILS_EXPORT Alignment
     Q_GADGET
 
 public:
+    /// The codes in documents and writers.
     enum Code : qint8 { Center = 0, Left = 1, Right = 2 };
     Q_ENUM(Code)
 

@@ -24,6 +24,7 @@ public:
     Q_INVOKABLE QVariant getData(const QString& key) const { return m_values.value(key); }
 
 Q_SIGNALS:
+    /// Another value is kept under `key`.
     void signalDataChanged(const QString& key, const QVariant& value);
 
 private:

@@ -19,8 +19,11 @@ class ReportMetadataPrivate;
 class UIUTILS_EXPORT ReportMetadata
 {
 public:
+    /// An empty record.
     ReportMetadata();
+    /// Copies share their contents until one of them is changed.
     ReportMetadata(const ReportMetadata& other);
+    /// See the copy constructor.
     ReportMetadata& operator=(const ReportMetadata& other);
     ~ReportMetadata();
 
@@ -53,7 +56,9 @@ public:
 
     /// Sets one pair; replaces an earlier one of that key. Standard strings and literals are UTF-8.
     void setInfo(const QString& key, const QString& value);
+    /// The same for UTF-8.
     void setInfo(const std::string& key, const std::string& value);
+    /// The same for UTF-8.
     void setInfo(const char* key, const char* value) { setInfo(QString::fromUtf8(key), QString::fromUtf8(value)); }
     /// The value of a pair; empty if there is none.
     QString getInfo(const QString& key) const;

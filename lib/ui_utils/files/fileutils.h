@@ -31,8 +31,9 @@ public:
     ~FileUtils() override;
 
 public Q_SLOTS:
-    /// Receive the answers of all dialogs.
+    /// Receives the answers of all dialogs.
     void onNotificationAccepted(KIVNotification* notification);
+    /// See onNotificationAccepted().
     void onNotificationRejected(KIVNotification* notification);
 
 public:
@@ -49,9 +50,11 @@ public:
     /// `dest_path`. False, with a line in the log, if `src_path` does not exist or cannot be counted.
     Q_INVOKABLE bool checkDriveSpaceForDir(QString src_path, QString dest_path);
 
-    /// Errors, in the tray and in a dialog.
+    /// The drive of the path is full. In the tray and in a dialog.
     Q_INVOKABLE void sendNotificationDriveFull(QString real_path);
+    /// The file or folder cannot be read. In the tray and in a dialog.
     Q_INVOKABLE void sendNotificationReadError(QString real_path);
+    /// The file or folder cannot be written. In the tray and in a dialog.
     Q_INVOKABLE void sendNotificationWriteError(QString real_path);
     /// An error in a dialog alone; `needed` in bytes.
     Q_INVOKABLE void sendNotificationNotEnoughSpace(QString real_path, qint64 needed);
@@ -78,8 +81,9 @@ public:
     Q_INVOKABLE qint64 getDirSize(QString src_path, QString dest_path, qint64 fs_block_size);
 
 Q_SIGNALS:
-    /// The user's answer to the pending request.
+    /// The user has answered the pending request with yes.
     void accepted(KIVNotification* notification);
+    /// The user has answered the pending request with no.
     void rejected(KIVNotification* notification);
 
 private:

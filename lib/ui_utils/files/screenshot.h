@@ -21,6 +21,7 @@ class UIUTILS_EXPORT Screenshot : public QObject
     Q_OBJECT
 
 public:
+    /// A screenshot without a name; its record is empty until it is made.
     Screenshot();
     ~Screenshot() override;
 

@@ -31,20 +31,27 @@ class UIUTILS_EXPORT UiData : public KivData, public QQmlParserStatus
     Q_CLASSINFO("DefaultProperty", "uiEnumList")
     /// The choices. Setting a list makes the item an enumeration.
     Q_PROPERTY(UiDataEnums* uiEnumList READ getUiEnumList WRITE setUiEnumList)
+    /// What the item is called on a screen.
     Q_PROPERTY(QString label READ getLabel WRITE setLabel NOTIFY labelChanged)
     /// The object that declared the item.
     Q_PROPERTY(QObject* objectParent READ getObjectParent)
+    /// Whether an entry accepts input now; true at first.
     Q_PROPERTY(bool isReady READ isReady WRITE setReady NOTIFY isReadyChanged)
+    /// Whether an entry shows the item as text only.
     Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly NOTIFY readOnlyChanged)
+    /// Whether the item has a meaning now; screens hide what has none, and containers do not wait for it.
     Q_PROPERTY(bool applicable READ isApplicable WRITE setApplicable NOTIFY applicableChanged)
+    /// One line about the values that the item accepts, for example "0 - 100 dB".
     Q_PROPERTY(QString rangeDescription READ getRangeDescription NOTIFY rangeDescriptionChanged)
     /// The limits. The validator is updated when the event loop runs, so that both can be set first.
     Q_PROPERTY(QVariant minRange READ getMinRange WRITE setMinRange NOTIFY minRangeChanged)
+    /// See `minRange`.
     Q_PROPERTY(QVariant maxRange READ getMaxRange WRITE setMaxRange NOTIFY maxRangeChanged)
     /// One of the TYPE_ texts; any other behaves as an integer.
     Q_PROPERTY(QString type READ getType WRITE setType NOTIFY typeChanged)
     /// The name under which all pages of the engine know the item. It can be written once.
     Q_PROPERTY(QString registerId READ getRegisterId WRITE setRegisterId)
+    /// How the value is entered, a KivData::InputType.
     Q_PROPERTY(uint inputType READ getInputType WRITE setInputType NOTIFY inputTypeChanged)
     /// Whether the item adopts the stored value of its id when it enters a container.
     Q_PROPERTY(bool persistent READ isPersistent WRITE setPersistent)
@@ -54,22 +61,35 @@ class UIUTILS_EXPORT UiData : public KivData, public QQmlParserStatus
     Q_PROPERTY(bool valueOk READ isValueOk WRITE setValueOk NOTIFY valueOkChanged)
     /// What a text has to match; empty accepts everything. The validator is updated at once.
     Q_PROPERTY(QString regex READ getRegex WRITE setRegex NOTIFY regexChanged)
+    /// For the validator property of an entry field; belongs to the item.
     Q_PROPERTY(QValidator* validator READ getValidator NOTIFY validatorChanged)
     /// The choices' values by their names.
     Q_PROPERTY(QQmlPropertyMap* enums READ getEnumMap CONSTANT)
+    /// The labels of the choices, in their order.
     Q_PROPERTY(QStringList enumLabels READ getEnumLabels NOTIFY enumLabelsChanged)
 
 public:
+    /// "std::string": a text.
     static const QString TYPE_STRING;
+    /// "std::vector<string>": a list of texts.
     static const QString TYPE_VEC_STRING;
+    /// "std::vector<double>": a list of real numbers.
     static const QString TYPE_VEC_DOUBLE;
+    /// "std::vector<int32_t>": a list of integers of 32 bits.
     static const QString TYPE_VEC_INT;
+    /// "bool": true or false.
     static const QString TYPE_BOOL;
+    /// "eUiEnum": one of the choices.
     static const QString TYPE_ENUM;
+    /// "uint": a positive integer of 32 bits, or 0.
     static const QString TYPE_UINT;
+    /// "int": an integer of 32 bits.
     static const QString TYPE_INT;
+    /// "quint64": a positive integer of 64 bits, or 0.
     static const QString TYPE_UINT64;
+    /// "qint64": an integer of 64 bits.
     static const QString TYPE_INT64;
+    /// "double": a real number.
     static const QString TYPE_DOUBLE;
 
     explicit UiData(QObject* parent = nullptr);
@@ -124,6 +144,7 @@ public:
     QVariant getValue() const override;
     QString getValueString(bool showUnits = true) const override;
     int getValueCount() const override;
+    /// The same as variantAt().
     QVariant at(int ind) const override;
     /// What was set last; before that 0, or -1 without elements.
     int getArraySelection() const override;
@@ -137,6 +158,7 @@ public:
     void setUiEnumList(UiDataEnums* list);
     /// Adds choices from the three lists, position by position; what a list lacks is empty.
     void setEnums(const QList<int>& values, const QStringList& labels, const QStringList& names);
+    /// The same for choices without names.
     void setEnums(const QList<int>& values, const QStringList& labels);
     QObject* getEnums() const override;
     QQmlPropertyMap* getEnumMap() const;
@@ -149,24 +171,33 @@ public:
 public Q_SLOTS:
     /// A local item has no action.
     void invoke() override;
+    /// A local item has no action; the reply is empty.
     QString invokeWithStringArg(QString const& arg) override;
+    /// Emits applicableChanged().
     void slotApplicChanged() override;
+    /// Takes the choices from the list again; emits valueChanged(), enumLabelsChanged() and enumCountChanged().
     void slotEnumUpdate();
+    /// Takes limits and expression into the validator; emits validatorChanged().
     void slotValidatorUpdate();
 
 public:
     Q_INVOKABLE QObject* getObjectParent() const;
-    /// Sets the quality code to one of uiutils::Status.
+    /// Sets the quality code to uiutils::Status::None.
     Q_INVOKABLE void setQualityNone();
+    /// Sets the quality code to uiutils::Status::Pass.
     Q_INVOKABLE void setPassing();
+    /// Sets the quality code to uiutils::Status::Marginal.
     Q_INVOKABLE void setWarning();
+    /// Sets the quality code to uiutils::Status::Fail.
     Q_INVOKABLE void setFailing();
     Q_INVOKABLE QVariant getProperty(QString const& prop) const override;
     /// Element `ind` of a vector; undefined outside.
     Q_INVOKABLE QVariant variantAt(int ind) const override;
     /// Inserts before element `ind`, or after the last one; nothing happens for any other position.
     Q_INVOKABLE void insertAt(int ind, const QVariant& val);
+    /// Removes element `at`; nothing happens outside the vector.
     Q_INVOKABLE void removeAt(int at);
+    /// The same as variantAt().
     Q_INVOKABLE QVariant getArrayValue(int index) const override;
     Q_INVOKABLE void setAt(int ind, QVariant const& val) override;
     /// `enumVal` is the choice's position for enumLabel() and enumValue(), and its value for the others.

@@ -44,6 +44,7 @@ public:
     /// Replaces the stored values, by item id. Items that are in the container already keep their values.
     void setPersistentConfigMap(QMap<QString, QVariant> values);
 
+    /// What shared() returns; null before its first call.
     static UiDataContainer* s_dcInstance;
 
 Q_SIGNALS:
@@ -52,6 +53,7 @@ Q_SIGNALS:
     void valueChanged();
 
 public Q_SLOTS:
+    /// Works `allItemsOk` out again, and emits valueChanged().
     void slotValueUpdated();
 
 private:

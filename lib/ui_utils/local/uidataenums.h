@@ -36,7 +36,9 @@ public:
     /// Adds a choice at the end; null is ignored.
     Q_INVOKABLE void append(UiEnumType* a);
 
+    /// The choices in their order; the list owns none.
     QList<UiEnumType*> getEnumList() const;
+    /// Whether componentComplete() was called, or the list was never QML's.
     bool isComplete() const;
     QQmlListProperty<QObject> getItems();
 

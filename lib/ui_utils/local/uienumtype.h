@@ -27,6 +27,7 @@ class UIUTILS_EXPORT UiEnumType : public QObject
 
 public:
     explicit UiEnumType(QObject* parent = nullptr);
+    /// A choice with everything set.
     UiEnumType(QObject* parent, const QString& label, const QString& name, int value, bool applicable);
     ~UiEnumType() override;
 

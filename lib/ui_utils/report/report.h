@@ -58,13 +58,17 @@ class UIUTILS_EXPORT Report : public QObject
     Q_PROPERTY(QString lastSavedXML READ getLastSavedXML NOTIFY lastSavedXMLChanged)
     /// "portrait" or "landscape"; the template's until one is set, "portrait" if the template has none.
     Q_PROPERTY(QString orientation READ getOrientation WRITE setOrientation NOTIFY orientationChanged)
-    /// The template's until one is set.
+    /// What the report is called; the template's until one is set.
     Q_PROPERTY(QString title READ getTitle WRITE setTitle NOTIFY titleChanged)
+    /// What the report is about, one line; the template's until one is set.
     Q_PROPERTY(QString subject READ getSubject WRITE setSubject NOTIFY subjectChanged)
-    /// What the report shows in addition to the document.
+    /// Whether the report shows the job.
     Q_PROPERTY(bool includeJobInfo READ getIncludeJobInfo WRITE setIncludeJobInfo NOTIFY includeJobInfoChanged)
+    /// Whether the report shows the customer.
     Q_PROPERTY(bool includeCustomerInfo READ getIncludeCustomerInfo WRITE setIncludeCustomerInfo)
+    /// Whether the report lists the revisions of the hardware.
     Q_PROPERTY(bool showHardwareRevs READ getShowHardwareRevs WRITE setShowHardwareRevs NOTIFY showHardwareRevsChanged)
+    /// Whether the report lists the revisions of the software.
     Q_PROPERTY(bool showSoftwareRevs READ getShowSoftwareRevs WRITE setShowSoftwareRevs NOTIFY showSoftwareRevsChanged)
     /// The active job in one line; empty without one.
     Q_PROPERTY(QString jobSummary READ getJobSummary NOTIFY jobSummaryChanged)
@@ -75,23 +79,31 @@ class UIUTILS_EXPORT Report : public QObject
     Q_PROPERTY(QVariantMap settings READ getSettings NOTIFY settingsChanged)
     /// What the user chooses for a job.
     Q_PROPERTY(QVariantMap jobSettings READ getJobSettings)
+    /// Whether there is any of `jobSettings`.
     Q_PROPERTY(bool hasJobSettings READ hasJobSettings)
     /// Whether the tray notifies the user of a saved report; true by default.
     Q_PROPERTY(bool notifiesTray READ getNotifiesTray WRITE setNotifiesTray)
     /// Screenshots that belong to the report.
     Q_PROPERTY(QStringList screenshotList READ getScreenshotList WRITE setScreenshotList NOTIFY screenshotListChanged)
-    /// Whether a save is writing now, and how much of it is written, 0 to 1: a PDF page by page, all formats in equal
-    /// shares.
+    /// Whether a save is writing now.
     Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
+    /// How much of the running save is written, 0 to 1: a PDF page by page, all formats in equal shares.
     Q_PROPERTY(double progress READ getProgress NOTIFY progressChanged)
 
 public:
+    /// ".pdf"
     static const QString PDF_EXTENSION;
+    /// ".xml"
     static const QString XML_EXTENSION;
+    /// ".html"
     static const QString HTML_EXTENSION;
+    /// ".txt"
     static const QString TXT_EXTENSION;
+    /// ".json"
     static const QString JSON_EXTENSION;
+    /// ".sor"
     static const QString SOR_EXTENSION;
+    /// ".gz"
     static const QString GZIP_EXTENSION;
     /// The items that the HTML pass collects and the page renderer prints. Each pass first deletes those of the pass
     /// before. What an application appends is printed too, stays in the list and remains the application's.
@@ -150,7 +162,9 @@ public:
     bool isInteractive() const;
     void setInteractive(bool interactive);
 
+    /// When the test ran, as the page set it.
     QString getTestTime() const;
+    /// How long the test took, as the page set it.
     QString getTestDuration() const;
 
     /// Whether reports are saved as gzip files, with ".gz" after their suffix; false by default.
@@ -160,6 +174,7 @@ public:
     /// Replaces the file by its compressed form, which has ".gz" after its name, or the other way round. False, with a
     /// line in the log, if gzip fails.
     bool compressFile(const QString& path);
+    /// See compressFile().
     bool uncompressFile(const QString& path);
 
     /// Copies the saved report to the USB drive, durably, and replaces one of its name there. Notifies the user if that
@@ -173,6 +188,7 @@ public:
 
     /// The document that derived controllers build.
     ReportTemplate& document();
+    /// The document that derived controllers have built.
     const ReportTemplate& document() const;
 
     // --- The order of these is part of the binary interface. ---
@@ -187,40 +203,58 @@ public:
     Q_INVOKABLE virtual bool save(bool overwrite = false);
     Q_INVOKABLE void setTestTime(const QString& testTime);
     Q_INVOKABLE void setTestDuration(const QString& testDuration);
+    /// Whether the chosen format is PDF.
     Q_INVOKABLE bool isPDF() const;
+    /// Whether the chosen format is XML.
     Q_INVOKABLE bool isXml() const;
+    /// Whether the chosen format is HTML.
     Q_INVOKABLE bool isHtml() const;
+    /// Whether the chosen format is plain text.
     Q_INVOKABLE bool isText() const;
+    /// Whether the chosen format is JSON.
     Q_INVOKABLE bool isJson() const;
+    /// Whether all applicable formats are chosen.
     Q_INVOKABLE bool isAll() const;
     /// The settings item of that name, which belongs to the controller; null if there is none.
     Q_INVOKABLE virtual KivData* getSetting(const QString& name);
+    /// The same without creating anything.
     Q_INVOKABLE virtual KivData* getConstSetting(const QString& name) const;
     /// The name that is proposed to the user: the test's short label and the time.
     Q_INVOKABLE virtual QString proposedFileName();
+    /// For controllers that propose a name of their own; the default does nothing.
     Q_INVOKABLE virtual void setCustomDefaultReportName(const QString& name);
     /// Why no report can be made now, for the user; empty if one can.
     Q_INVOKABLE virtual QString cannotGenerateReportMessage();
-    /// The report's text. Null, the default, means none: an empty text file, a JSON file of "{ }".
+    /// The report's text; null, the default, means an empty file.
     Q_INVOKABLE virtual QString generateTxtReport();
+    /// The report's JSON; null, the default, means a file of "{ }".
     Q_INVOKABLE virtual QString generateJsonReport();
-    /// The document in these forms.
+    /// The document as XML.
     Q_INVOKABLE virtual QString generateXmlReport();
+    /// The document as XML without versions and customer, as the job manager takes it.
     Q_INVOKABLE virtual QString generateJobManagerReport();
+    /// The document as an HTML page.
     Q_INVOKABLE virtual QString generateHtmlReport();
     /// Whether generatePDFReport() makes pages of its own.
     Q_INVOKABLE virtual bool hasCustomPDF();
     /// The bytes of the PDF file; empty if it cannot be made.
     Q_INVOKABLE virtual QByteArray generatePDFReport();
-    /// Writers; `path` includes the format's suffix. False if the file was not written; the user is asked or notified.
+    /// Writes generateTxtReport(); `path` includes the format's suffix. False if the file was not written; the user is
+    /// asked or notified.
     Q_INVOKABLE bool writeTxtReport(const QString& path, bool overwrite = false);
+    /// Writes generateJsonReport(); see writeTxtReport().
     Q_INVOKABLE virtual bool writeJsonReport(const QString& path, bool overwrite = false);
-    /// The list of reports that the cloud does not sync.
+    /// Adds the report to the list of those that the cloud does not sync. If that fails, the user is notified.
     Q_INVOKABLE void addReportToNoSyncList(const QString& filePath);
+    /// Replaces the list of reports that the cloud does not sync. If that fails, the user is notified.
     Q_INVOKABLE void writeNoSyncListToFile(const QStringList& noSync_fileList);
+    /// Removes the report from the list of those that the cloud does not sync. If that fails, the user is notified.
     Q_INVOKABLE void removeReportFromNoSyncList(const QString& filePath);
+    /// Writes generateHtmlReport(); see writeTxtReport().
     Q_INVOKABLE bool writeHtmlReport(const QString& path, bool overwrite = false);
+    /// Writes generateXmlReport(); see writeTxtReport().
     Q_INVOKABLE virtual bool writeXmlReport(const QString& path, bool overwrite = false);
+    /// Writes generatePDFReport(); see writeTxtReport().
     Q_INVOKABLE bool writePDFReport(const QString& path, bool overwrite = false);
     /// Attaches the report to the active job. False if that is not possible; the user has been notified of the reason.
     Q_INVOKABLE bool writeToJobManager();
@@ -234,7 +268,9 @@ public:
     Q_INVOKABLE QString getOpenReportPath(const QString& nm);
     /// The unit's own folder of these reports; ends in "/".
     Q_INVOKABLE virtual QString getReportFilePath();
+    /// The type of the test for the active job, as setCdmTestTypeAndLabel() has taken it.
     Q_INVOKABLE virtual QString getCdmTestType();
+    /// The label of the test for the active job, as setCdmTestTypeAndLabel() has taken it.
     Q_INVOKABLE virtual QString getCdmTestLabel();
     /// Takes both from the base manager: "none" and "None" if it has none.
     Q_INVOKABLE virtual void setCdmTestTypeAndLabel();
@@ -259,12 +295,13 @@ protected:
     virtual void prepareDocument();
     /// A file has been written.
     virtual void reportWritten(const QString& path);
-    /// The user is being asked whether `path` may be overwritten, or has said no.
+    /// The user is being asked whether `path` may be overwritten.
     virtual void overwriteAsked(const QString& path);
+    /// The user has said no: `path` stays as it is.
     virtual void overwriteDeclined(const QString& path);
-    /// A save has ended with everything written, the first file at `path`; or it has failed, and `name` is the name
-    /// that the report was to have.
+    /// A save has ended with everything written, the first file at `path`.
     virtual void saveSucceeded(const QString& path);
+    /// A save has failed; `name` is the name that the report was to have.
     virtual void saveFailed(const QString& name);
 
     /// Called for each report that a save has written, once it is safe: `format` is "PDF", "XML" and so on. The default
@@ -295,8 +332,9 @@ protected:
     /// Stores the settings for the folder. Until they have been loaded, a setting that still has its initial value
     /// leaves the stored one unchanged.
     void saveSettings();
-    /// The files that this object has saved, with and without sync: each path once, in the list of its last save.
+    /// The files that this object has saved and that the cloud syncs: each path once, in the list of its last save.
     QStringList syncedReports() const;
+    /// The files that this object has saved and that the cloud does not sync; see syncedReports().
     QStringList unsyncedReports() const;
     /// The pages as the library prints them; empty if that fails.
     QByteArray generateDefaultPDFReport();
@@ -343,6 +381,7 @@ public Q_SLOTS:
     void slotCreateSettings();
     /// Receives the answers of all dialogs; only the one to the pending question of this object counts.
     void overwriteAccepted(KIVNotification* notification);
+    /// See overwriteAccepted().
     void overwriteRejected(KIVNotification* notification);
 
 private:

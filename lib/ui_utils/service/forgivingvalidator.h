@@ -13,6 +13,7 @@ class UIUTILS_EXPORT ForgivingValidator : public QRegularExpressionValidator
     Q_OBJECT
 
 public:
+    /// The answers of validate(), QValidator::State for QML.
     enum ValidatorState {
         Invalid = QValidator::Invalid,
         Intermediate = QValidator::Intermediate,
@@ -21,6 +22,7 @@ public:
     Q_ENUM(ValidatorState)
 
     explicit ForgivingValidator(QObject* parent = nullptr);
+    /// A validator that accepts what `expression` matches completely; `parent` deletes it.
     explicit ForgivingValidator(const QRegularExpression& expression, QObject* parent = nullptr);
     ~ForgivingValidator() override;
 

@@ -14,6 +14,7 @@ class UIUTILS_EXPORT KivAggregateData : public KivData
     Q_OBJECT
 
 public:
+    /// A wrapper of `item`, which stays its owner's, as a child of `manifest`.
     KivAggregateData(KivAggregateClientItem* item, Manifest* manifest);
     ~KivAggregateData() override;
 

@@ -69,6 +69,7 @@ class UIUTILS_EXPORT KivData : public QObject
     Q_PROPERTY(QString valueString READ getValueString NOTIFY valueChanged)
     /// The value as a user reads it, without its unit.
     Q_PROPERTY(QString valueStringNoUnits READ getValueStringNoUnits NOTIFY valueChanged)
+    /// The unit in `valueString`, for example "dB"; empty without one.
     Q_PROPERTY(QString unitString READ getUnitString NOTIFY unitsChanged)
     /// The selected element of an array item, from 0; -1 without elements. Kept under the item's id until the process
     /// ends.
@@ -83,9 +84,11 @@ class UIUTILS_EXPORT KivData : public QObject
     Q_PROPERTY(bool applicable READ isApplicable NOTIFY applicableChanged)
     /// The limits of the value, for a text those of its length; undefined without a limit.
     Q_PROPERTY(QVariant minRange READ getMinRange CONSTANT)
+    /// See `minRange`.
     Q_PROPERTY(QVariant maxRange READ getMaxRange CONSTANT)
     /// One line about the values that the item accepts, for example "0 - 100 dB".
     Q_PROPERTY(QString rangeDescription READ getRangeDescription CONSTANT)
+    /// The client of the item's service; null for an item without one.
     Q_PROPERTY(KIVClientInterface* client READ getClient CONSTANT)
     /// Turns values into texts; null for items without one.
     Q_PROPERTY(BaseFormatter* formatter READ getBaseFormatter CONSTANT)
@@ -163,7 +166,9 @@ public:
     virtual int getEnumCount() const;
     virtual int getValueCount() const;
     virtual QString getRangeDescription() const;
+    /// The same as variantAt().
     Q_INVOKABLE virtual QVariant at(int ind) const;
+    /// The same as variantAt().
     Q_INVOKABLE virtual QVariant getArrayValue(int index) const;
     /// The item's attribute of that name; undefined without one.
     Q_INVOKABLE virtual QVariant getProperty(QString const& prop) const;
@@ -191,6 +196,7 @@ public Q_SLOTS:
     virtual void invoke();
     /// Carries out the item's action with an argument and returns the service's reply. Waits for at most 500 ms.
     virtual QString invokeWithStringArg(QString const& arg);
+    /// The service has reported whether the item has a meaning: emits applicableChanged().
     virtual void slotApplicChanged();
 
 private Q_SLOTS:
@@ -227,9 +233,12 @@ Q_SIGNALS:
 protected:
     /// For derived classes of the library, whose private parts derive from those of the wrapper.
     KivData(std::unique_ptr<uiutils::KivDataPrivate> parts, QObject* parent);
+    /// The same for a wrapper of `item`.
     KivData(std::unique_ptr<uiutils::KivDataPrivate> parts, KIVClientItem* item, Manifest* manifest);
 
+    /// The wrapped item; null while there is none.
     KIVClientItem* item() const;
+    /// The manifest that the wrapper belongs to; null without one.
     Manifest* manifest() const;
     /// Keeps a value and passes it to the formatter; emits nothing.
     void holdValue(QVariant value);

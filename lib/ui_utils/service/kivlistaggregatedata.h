@@ -15,6 +15,7 @@ class UIUTILS_EXPORT KivListAggregateData : public KivData
     Q_OBJECT
 
 public:
+    /// A wrapper of `item`, which stays its owner's, as a child of `manifest`.
     KivListAggregateData(KivListAggregateClientItem* item, Manifest* manifest);
     ~KivListAggregateData() override;
 

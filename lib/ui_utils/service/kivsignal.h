@@ -32,6 +32,7 @@ Q_SIGNALS:
     void signalKIVError(QString error);
 
 public Q_SLOTS:
+    /// Emits signalKIVError().
     void slotError(QString error);
 
 private:

@@ -43,8 +43,10 @@ public:
     Manifest(KIVClientInterface* client, QString const& qmlTag, QString const& name, QObject* parent = nullptr);
     ~Manifest() override;
 
+    /// What the names of the items in QML begin with.
     QString getQmlTag() const;
     QString getServiceName() const;
+    /// The client of the service; null without one.
     KIVClientInterface* client() const;
 
     /// Whether a transaction runs.
@@ -66,6 +68,7 @@ public:
     static QStringList getKivIds(QString const& contains, QString const& filter);
     /// The wrapper that is registered under the id; null without one.
     static KivData* getKivData(QString const& id);
+    /// The same as getKivData().
     KivData* getItem(QString const& id) const { return getKivData(id); }
 
     /// Makes the items that are registered now known by name to everything below `context`. Call it again after further

@@ -34,12 +34,15 @@ public:
 
     // The parts of the text, for callers that made the writer without `generate` and choose what it writes.
 
-    /// Write the sections below a node with their contents, and the tables directly in it.
+    /// Writes the sections below a node with their contents.
     void sectionsToXml(QJsonObject& node);
+    /// Writes the tables directly in a node.
     void tablesToXml(QJsonObject& node);
-    /// Write the blocks, if they have any contents.
+    /// Writes the technician block, if it has any contents.
     void writeTechInfo();
+    /// Writes the customer block, if it has any contents.
     void writeCustomerInfo();
+    /// Writes the blocks of hardware and software, if they have any contents.
     void writeVersions();
     /// Inserts the technician and customer blocks after the root's start tag, once.
     void insertCustomFields();

@@ -16,6 +16,7 @@ public:
     /// Of members with the same name only the first counts.
     explicit KivAggregate(const QVector<QPair<QByteArray, QVariant>>& members);
 
+    /// The names of the members in order.
     QList<QByteArray> getPropertyNames() const;
 
     /// The member's value; invalid without such a member.

@@ -17,6 +17,7 @@ class QObject;
 class KIV_EXPORT KIVBackend
 {
 public:
+    /// Registers nothing; see setCurrent().
     KIVBackend();
     /// Unregisters the back end when it is the current one.
     virtual ~KIVBackend();
@@ -24,6 +25,7 @@ public:
 
     /// Makes `backend` the one that the entry points call; null for none. The caller keeps ownership.
     static void setCurrent(KIVBackend* backend);
+    /// The back end that the entry points call; null without one.
     static KIVBackend* current();
 
     /// See KIVClientInterface::getBaseMgrClient().

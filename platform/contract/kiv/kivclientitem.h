@@ -77,6 +77,7 @@ public:
     /// The item's name on a screen, in the user's language; may be empty.
     virtual QString getLabel() const = 0;
 
+    /// The value; invalid for an item without one.
     virtual QVariant getValue() const = 0;
 
     /// The value as a user reads it, in the user's locale; followed by a blank and the unit when `showUnits` is true
@@ -88,6 +89,7 @@ public:
 
     /// The limits of the value, or of the length of a text; invalid without a limit.
     virtual QVariant getMinRange() const = 0;
+    /// See getMinRange().
     virtual QVariant getMaxRange() const = 0;
 
     /// Whether the service can report or accept the value now; an item that is not ready keeps its last value.
@@ -110,9 +112,13 @@ public:
     virtual QVariant getAttribute(const QString& name) const = 0;
 
 Q_SIGNALS:
+    /// getValue() and getValueString() give another answer.
     void valueChanged();
+    /// getUnitString() gives another answer.
     void unitsChanged();
+    /// isReady() gives another answer.
     void isReadyChanged();
+    /// getQualityCode() gives another answer.
     void qualityChanged();
     /// Not emitted when an expression decides.
     void isApplicableChanged();

@@ -13,7 +13,9 @@ public:
     explicit KIVEnumChoicesClientItem(QObject* parent = nullptr);
     ~KIVEnumChoicesClientItem() override;
 
+    /// How many choices there are.
     virtual int count() const = 0;
+    /// The value that the item has with the choice.
     virtual int valueAt(int position) const = 0;
     /// The name in programs, for example "Internal"; unique among the choices.
     virtual QString nameAt(int position) const = 0;
@@ -24,6 +26,7 @@ public:
 
     /// The position of the choice with that value, or -1.
     virtual int indexOf(int value) const;
+    /// Whether a choice has that value.
     bool contains(int value) const { return indexOf(value) >= 0; }
     /// The label of the choice with that value; empty without such a choice. Pass a negative value as its two's
     /// complement.

@@ -12,11 +12,16 @@ class KIVClientInterface;
 class KIV_EXPORT KIVItemSnapshot
 {
 public:
+    /// What is kept of an item.
     struct Item
     {
+        /// The full id.
         QString id;
+        /// See KIVClientItem::getName().
         QString name;
+        /// What the item is called on a screen.
         QString label;
+        /// The value; invalid for an item without one.
         QVariant value;
         /// The value as a user reads it, with its unit.
         QString valueString;
@@ -31,6 +36,7 @@ public:
     /// Sorts the items by label, in the order of the user's locale; items with the same label by id.
     void labelSort();
 
+    /// The items, in the order of their ids or of labelSort().
     const QVector<Item>& items() const { return m_items; }
 
 private:

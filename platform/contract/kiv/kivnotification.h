@@ -20,13 +20,17 @@
 class KIV_EXPORT KIVNotification : public QObject
 {
     Q_OBJECT
+    /// What the notification is; a notice at first.
     Q_PROPERTY(Kind kind READ kind NOTIFY changed)
+    /// The title, in the user's language.
     Q_PROPERTY(QString longLabel READ longLabel NOTIFY changed)
+    /// The text, in the user's language: plain text, in which line feeds count.
     Q_PROPERTY(QString msg READ msg NOTIFY changed)
     /// When it was last raised; invalid before that.
     Q_PROPERTY(QDateTime time READ time NOTIFY changed)
 
 public:
+    /// What a notification is.
     enum Kind {
         /// Information. Its dialog has one answer, which is not reported.
         Notice,
@@ -41,7 +45,9 @@ public:
     explicit KIVNotification(QObject* parent = nullptr);
     ~KIVNotification() override;
 
+    /// Makes the notification an error.
     void setError() { setKind(Error); }
+    /// Makes the notification a question.
     void setRequest() { setKind(Request); }
     Kind kind() const { return m_kind; }
 

@@ -27,7 +27,7 @@
 class KIV_EXPORT KIVNotificationModelManager : public QAbstractListModel
 {
     Q_OBJECT
-    /// Maximum number of entries in the tray.
+    /// The number of entries in the tray.
     Q_PROPERTY(int count READ count NOTIFY countChanged)
     /// The notification whose dialog is open, or null.
     Q_PROPERTY(KIVNotification* currentDialog READ currentDialog NOTIFY currentDialogChanged)
@@ -35,6 +35,7 @@ class KIV_EXPORT KIVNotificationModelManager : public QAbstractListModel
     Q_PROPERTY(int waitingDialogs READ waitingDialogs NOTIFY waitingDialogsChanged)
 
 public:
+    /// The roles of the model; pages know them as `kind`, `longLabel`, `msg` and `time`.
     enum Role {
         KindRole = Qt::UserRole,
         LongLabelRole,
@@ -42,6 +43,7 @@ public:
         TimeRole,
     };
 
+    /// Maximum number of entries in the tray.
     static constexpr int maximumTrayEntries = 100;
 
     /// The one manager of the process, created by the first call; never null. It has no owner and outlives every
@@ -59,6 +61,7 @@ public:
     /// The user's answer to the open dialog. The only answer of a dialog that is not a request may be given by either.
     /// Without an open dialog nothing happens.
     Q_INVOKABLE void accept();
+    /// The user's other answer to the open dialog; see accept().
     Q_INVOKABLE void reject();
 
     /// Removes the entry in row `row` (counted from 0) from the tray; does nothing outside the tray.
@@ -71,7 +74,9 @@ Q_SIGNALS:
     void currentDialogChanged();
     void waitingDialogsChanged();
 
+    /// The user has answered this request with yes.
     void notificationAccepted(KIVNotification* notification);
+    /// The user has answered this request with no.
     void notificationRejected(KIVNotification* notification);
 
 private:

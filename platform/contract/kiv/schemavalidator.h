@@ -22,6 +22,7 @@
 class KIV_EXPORT SchemaValidator
 {
 public:
+    /// A validator without a schema, for which every text is invalid.
     SchemaValidator();
     ~SchemaValidator();
     Q_DISABLE_COPY_MOVE(SchemaValidator)

@@ -8,6 +8,7 @@
 class KIV_EXPORT System
 {
 public:
+    /// The one object of the process.
     static System& getInstance();
     Q_DISABLE_COPY_MOVE(System)
 

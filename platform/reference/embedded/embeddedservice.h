@@ -30,6 +30,7 @@ public:
 
     ~EmbeddedService() override;
 
+    /// The name under which the service is published.
     QString name() const;
 
     /// Ids in ascending string order, also while the service cannot be reached.
@@ -88,6 +89,7 @@ public:
     /// the path does not begin with a slash. Emits nothing. A drive is mounted while at least one service has it
     /// mounted, reachable or not, and is unmounted when that service is removed.
     bool setMounted(const QString& path, bool isMounted);
+    /// Whether this service has a drive mounted at `path`.
     bool isMounted(const QString& path) const;
 
     /// Publishes another item after the present ones and restores its stored value. Returns false, with the reason in
@@ -101,6 +103,7 @@ public:
     /// that was reported meanwhile; clients emit itemsChanged() once, if anything changed. A delayed request is
     /// discarded if its time comes while the service cannot be reached.
     void setReachable(bool isReachable);
+    /// What setReachable() was told last; true at first.
     bool isReachable() const;
 
 Q_SIGNALS:

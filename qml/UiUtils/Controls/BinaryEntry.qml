@@ -1,5 +1,6 @@
 import QtQuick 2.15
 
+/// A number in binary digits, or a text of them.
 RadixEntry {
     radix: 2
     prefix: "0b"

@@ -3,12 +3,12 @@ import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import UiUtils.Controls 1.0
 
-// One of an enumeration's choices; written at once. Choices that are not applicable now are not offered, but a selected
-// one is shown all the same.
+/// One of an enumeration's choices; written at once. Choices that are not applicable now are not offered, but a
+/// selected one is shown all the same.
 Entry {
     id: entry
 
-    // Choices of an entry without an item, as { label, value }.
+    /// Choices of an entry without an item, as { label, value }.
     property var choices: face.choices
 
     readonly property int position: choices.findIndex(choice => choice.value === Number(currentValue))

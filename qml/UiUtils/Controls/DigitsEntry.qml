@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "formats.js" as Formats
 
-// Digits that are not a number, such as a code: leading zeros count. An item of a numeric type gets a number.
+/// Digits that are not a number, such as a code: leading zeros count. An item of a numeric type gets a number.
 FieldEntry {
     readonly property bool isNumber: type !== "" && type !== "std::string"
 

@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "formats.js" as Formats
 
-// Seconds, written as h:mm:ss; m:ss and bare seconds are accepted too.
+/// Seconds, written as h:mm:ss; m:ss and bare seconds are accepted too.
 FieldEntry {
     function textOf(value) {
         return value === undefined || value === null || value === "" || isNaN(Number(value)) ? "" : Formats.durationText(Number(value))

@@ -3,42 +3,56 @@ import QtQuick.Layouts 1.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// What all entries have in common: label, quality, the editor, and the line with the error or the permitted values.
+/// What all entries have in common: label, quality, the editor, and the line with the error or the permitted values.
 FocusScope {
     id: entry
 
-    // The service item or local item that is edited. Without one an entry works on `value` alone.
+    /// The service item or local item that is edited. Without one an entry works on `value` alone.
     property var item
+    /// The value of an entry without an item.
     property var value
+    /// What stands above the editor; the item's label.
     property string label: face.label
+    /// The unit of the value; the item's.
     property string unit: face.unit
+    /// Whether the value is shown as text; the item's.
     property bool readOnly: face.readOnly
+    /// Whether the entry must not be empty; the item's.
     property bool mandatory: face.mandatory
+    /// The type of the value, as items name it; the item's.
     property string type: face.type
+    /// The smallest value, or the length of the shortest text; undefined for none; the item's.
     property var minimum: face.minimum
+    /// The largest value, or the length of the longest text; undefined for none; the item's.
     property var maximum: face.maximum
+    /// The line about the permitted values.
     property string rangeText: face.rangeDescription
-    // In a row of a list: without label and range.
+    /// In a row of a list: without label and range.
     property bool compact: false
-    // Replaces writing to the item; takes the value and returns why it was rejected, or an empty text.
+    /// Replaces writing to the item; takes the value and returns why it was rejected, or an empty text.
     property var storeWith: null
 
+    /// Whether the entry accepts input.
     property bool isReady: face.isReady
+    /// The item's value, or `value` without an item.
     readonly property var currentValue: face.hasItem ? face.value : value
     readonly property alias face: face
-    // What a screen reader says in addition to the name.
+    /// What a screen reader says in addition to the name.
     readonly property alias note: noteText.text
 
     // Set by the editors.
     property string plainText: face.valueString
     property string complaint: face.refusal
+    /// Whether the entry shows an error.
     property bool isInvalid: complaint !== ""
+    /// A line about what has happened meanwhile, such as another value from the service.
     property string news
     // Whether the content of the editor could be committed.
     property bool isAcceptable: true
 
     default property alias content: slot.data
 
+    /// A value was written; emitted after every commit.
     signal committed(var value)
 
     function store(newValue) {

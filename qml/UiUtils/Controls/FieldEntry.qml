@@ -4,28 +4,31 @@ import QtQuick.Layouts 1.15
 import UiUtils.Controls 1.0
 import "formats.js" as Formats
 
-// An entry of one line. Typed text belongs to the user until it is committed or reverted: no report of the service, no
-// rejection and no loss of the service changes it.
+/// An entry of one line. Typed text belongs to the user until it is committed or reverted: no report of the service, no
+/// rejection and no loss of the service changes it.
 Entry {
     id: entry
 
     property int inputMethodHints: Qt.ImhNone
     property int echoMode: TextInput.Normal
+    /// What the empty field shows.
     property string placeholderText
     // A pad of digits with this key beside the 0.
     property bool hasPad: false
     property string padSeparator
     property bool padHasSign: false
-    // Whether an empty text may be committed. A form's field may stay empty; a service decides for itself.
+    /// Whether an empty text may be committed. A form's field may stay empty; a service decides for itself.
     property bool acceptsEmpty: !mandatory && (!face.hasItem || face.isLocal)
 
     // The limits of a text in words: the item's own, if it has both.
     readonly property string lengthText: face.minimum !== undefined && face.maximum !== undefined
                                          ? face.tidyRange : Formats.rangeText(minimum, maximum, String, qsTr("chars"))
+    /// The text as it was typed.
     readonly property string text: field.text
-    // What is wrong with the text; empty when it can be committed.
+    /// What is wrong with the text; empty when it can be committed.
     readonly property string problem: problemOf(field.text)
     readonly property string shownText: textOf(currentValue)
+    /// Whether the typed text is not committed yet.
     property bool isEdited: false
     // A commit of this text has failed, so that the error is shown.
     property bool isTried: false
@@ -63,7 +66,7 @@ Entry {
 
     // --- Commit and restore ---
 
-    // Writes the typed text; false when it is rejected, in which case it stays in the field.
+    /// Writes the typed text; false when it is rejected, in which case it stays in the field.
     function commit() {
         if (!isEdited)
             return true
@@ -91,7 +94,7 @@ Entry {
         return true
     }
 
-    // Reverts the typed text; false when there was none.
+    /// Reverts the typed text; false when there was none.
     function restore() {
         const hadSomething = isEdited || face.refusal !== ""
         face.refusal = ""
@@ -114,6 +117,7 @@ Entry {
             hasNews = false
     }
 
+    /// Opens the pad of digits, if the entry has one.
     function openPad() {
         if (!hasPad || !isReady || readOnly)
             return

@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "formats.js" as Formats
 
-// The name of a file, without a folder.
+/// The name of a file, without a folder.
 FieldEntry {
     function check(text) {
         return (text === "" ? "" : Formats.fileNameProblem(text)) || checkLength(text)

@@ -1,5 +1,6 @@
 import QtQuick 2.15
 
+/// A number in hexadecimal digits, or a text of them.
 RadixEntry {
     radix: 16
     prefix: "0x"

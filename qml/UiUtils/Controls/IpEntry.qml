@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "formats.js" as Formats
 
-// An address of either version.
+/// An address of either version.
 FieldEntry {
     function check(text) {
         const problem = text.includes(":") ? Formats.ipv6Problem(text) : Formats.ipv4Problem(text)

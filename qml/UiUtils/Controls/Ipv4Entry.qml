@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import "formats.js" as Formats
 
+/// An IP address of version 4.
 FieldEntry {
     function check(text) {
         return Formats.ipv4Problem(text) || checkLength(text)

@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import "formats.js" as Formats
 
+/// An IP address of version 6; a zone such as "%eth0" may follow.
 FieldEntry {
     function check(text) {
         return Formats.ipv6Problem(text) || checkLength(text)

@@ -1,13 +1,15 @@
 import QtQuick 2.15
 import UiUtils 1.0
 
-// The entry that suits an item of any kind. Hidden while the item has no meaning, and without an item.
+/// The entry that suits an item of any kind. Hidden while the item has no meaning, and without an item.
 FocusScope {
     id: root
 
+    /// The item; null for none.
     property var item: null
+    /// What stands above the editor; the item's label.
     property string label: face.label
-    // The entry in use, for its additional properties.
+    /// The entry in use, for its additional properties.
     readonly property alias entry: loader.item
 
     readonly property bool isRecord: face.type === "aggregate" || face.type === "listAggregate"

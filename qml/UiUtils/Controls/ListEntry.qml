@@ -4,15 +4,17 @@ import QtQuick.Layouts 1.15
 import UiUtils.Controls 1.0
 import "formats.js" as Formats
 
-// The elements of an array, one below the other, and a line for a new one.
+/// The elements of an array, one below the other, and a line for a new one.
 Entry {
     id: entry
 
-    // Number of visible rows; more are scrolled.
+    /// Number of visible rows; more are scrolled.
     property int visibleRows: 3
+    /// Decimals of the elements; -1 for any.
     property int decimals: face.decimals
 
     readonly property bool isText: type === "std::vector<string>"
+    /// Number of elements.
     readonly property int count: rows.count
 
     // Called with the number of reports, so that a binding is evaluated again after each.

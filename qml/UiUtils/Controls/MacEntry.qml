@@ -1,7 +1,7 @@
 import QtQuick 2.15
 import "formats.js" as Formats
 
-// Hyphens and bare digits are accepted too; the item gets capitals and colons.
+/// Hyphens and bare digits are accepted too; the item gets capitals and colons.
 FieldEntry {
     function check(text) {
         return Formats.macProblem(text) || checkLength(Formats.macText(text))

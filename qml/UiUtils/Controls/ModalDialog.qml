@@ -3,7 +3,7 @@ import QtQuick.Controls 2.15
 import QtQuick.Window 2.15
 import UiUtils.Controls 1.0
 
-// A dialog in the centre of its window, over everything. When it closes, the previous item gets the focus back.
+/// A dialog in the centre of its window, over everything. When it closes, the previous item gets the focus back.
 Popup {
     id: dialog
 

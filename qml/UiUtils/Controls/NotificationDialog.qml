@@ -3,14 +3,15 @@ import QtQuick.Controls 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// The open dialog of the notifications, one at a time. A window needs one of these, anywhere on its page.
+/// The open dialog of the notifications, one at a time. A window needs one of these, anywhere on its page.
 ModalDialog {
     id: dialog
 
+    /// The notification that is shown; null without one.
     readonly property KIVNotification notification: Notifications.currentDialog
 
-    // A dialog accepts no answer for this time after it has opened, in milliseconds: the tap or key may have been meant
-    // for what was there before.
+    /// A dialog accepts no answer for this time after it has opened, in milliseconds: the tap or key may have been
+    /// meant for what was there before.
     property int graceTime: 300
 
     function answer(isAccepted) {

@@ -4,10 +4,11 @@ import QtQuick.Layouts 1.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
-// The user's notifications, newest first, each with a button that removes it.
+/// The user's notifications, newest first, each with a button that removes it.
 FocusScope {
     id: tray
 
+    /// Number of entries.
     readonly property int count: Notifications.count
 
     implicitWidth: 480

@@ -2,14 +2,16 @@ import QtQuick 2.15
 import UiUtils 1.0
 import "formats.js" as Formats
 
-// A number, shown in the user's locale and written as a plain number.
+/// A number, shown in the user's locale and written as a plain number.
 FieldEntry {
     id: entry
 
-    // Decimals that are shown and accepted; -1 for any.
+    /// Decimals that are shown and accepted; -1 for any.
     property int decimals: face.decimals
+    /// Whether only whole numbers are accepted.
     property bool whole: Formats.isWholeType(type) || face.inputType === KivData.INPUT_INT
                          || face.inputType === KivData.INPUT_POSITIVE_INT
+    /// Whether negative numbers are rejected.
     property bool positive: face.inputType === KivData.INPUT_POSITIVE_INT || face.inputType === KivData.INPUT_POSITIVE_FLOAT
 
     readonly property var least: Math.max(Formats.typeLimits(type)[0], positive ? 0 : -Infinity,

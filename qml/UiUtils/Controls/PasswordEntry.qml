@@ -1,5 +1,6 @@
 import QtQuick 2.15
 
+/// A text that is shown only on demand.
 FieldEntry {
     function check(text) {
         return checkLength(text)

@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import "formats.js" as Formats
 
+/// A telephone number: digits, a leading +, blanks and ( ) / - * #.
 FieldEntry {
     function check(text) {
         return Formats.phoneProblem(text) || checkLength(text)

@@ -1,13 +1,15 @@
 import QtQuick 2.15
 import "formats.js" as Formats
 
-// A number in another radix. An item of a numeric type gets the number, a text item the digits.
+/// A number in another radix. An item of a numeric type gets the number, a text item the digits.
 FieldEntry {
     id: entry
 
+    /// The base of the digits, 2 to 16.
     property int radix: 16
-    // The prefix that programmers write.
+    /// The prefix that programmers write; it may lead the digits.
     property string prefix: "0x"
+    /// What is shown for a text with other characters.
     property string problemText
 
     readonly property bool isNumber: type !== "" && type !== "std::string"

@@ -2,19 +2,23 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import UiUtils.Controls 1.0
 
-// The progress of a save whose controller handles events meanwhile (Report::setInteractive()). From the first moment it
-// blocks everything below, because the page must not change during a save. A window needs one of these for each such
-// controller.
+/// The progress of a save whose controller handles events meanwhile (Report::setInteractive()). From the first moment
+/// it blocks everything below, because the page must not change during a save. A window needs one of these for each
+/// such controller.
 ModalDialog {
     id: dialog
 
+    /// The controller whose saves are shown, a Report.
     property var report: null
 
-    // Milliseconds after which a save is long enough to be shown: a flash would help nobody.
+    /// Milliseconds after which a save is long enough to be shown: a flash would help nobody.
     property int delay: 200
 
+    /// Whether a save runs, shown or not.
     readonly property bool isSaving: report ? report.saving : false
+    /// How much of it is written, 0 to 1.
     readonly property real progress: isSaving ? report.progress : 0
+    /// Whether the user has cancelled it.
     property bool isCancelled: false
 
     // An invisible button cannot be meant.

@@ -3,7 +3,7 @@ import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import UiUtils.Controls 1.0
 
-// Yes or no; written at once.
+/// Yes or no; written at once.
 Entry {
     id: entry
 

@@ -1,8 +1,8 @@
 import QtQuick 2.15
 
-// Any text, of the length and form that the item requires.
+/// Any text, of the length and form that the item requires.
 FieldEntry {
-    // Characters that this text must not contain.
+    /// Characters that this text must not contain.
     property string forbidden
 
     function check(text) {

@@ -1,6 +1,7 @@
 import QtQuick 2.15
 import "formats.js" as Formats
 
+/// scheme://host and what may follow.
 FieldEntry {
     function check(text) {
         return Formats.urlProblem(text) || checkLength(text)

@@ -32,8 +32,11 @@ public:
     virtual ~HtmlStreamWriter();
     Q_DISABLE_COPY_MOVE(HtmlStreamWriter)
 
+    /// The value of a switch; invalid without one.
     QVariant attribute(const QString& name) const { return m_attributes.value(name); }
+    /// Whether a switch has a value.
     bool hasAttribute(const QString& name) const { return m_attributes.contains(name); }
+    /// Sets a switch.
     void setAttribute(const QString& name, const QVariant& value) { m_attributes.insert(name, value); }
 
     /// What has been written so far.
@@ -61,8 +64,10 @@ public:
     void writeEmptyCells(int columns);
     /// Closes the open row.
     void endRow();
+    /// Closes the open row and the table.
     void endTable();
 
+    /// Writes a paragraph of plain text.
     void writeParagraph(const QString& text);
     /// Writes a heading; levels below 1 and above 3 are written as 1 and 3.
     void writeHeading(int level, const QString& text);

@@ -59,8 +59,9 @@ public:
     /// The page. The first call writes it; later calls return the same text.
     QString getHtml();
 
-    /// Write the sections below a node with what they hold, and the tables directly in it.
+    /// Writes the sections below a node with what they hold.
     void sectionsToHtml(QJsonObject& node);
+    /// Writes the tables directly in a node.
     void tablesToHtml(QJsonObject& node);
 
 private:

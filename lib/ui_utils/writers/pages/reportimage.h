@@ -14,6 +14,7 @@ public:
     explicit ReportImage(const QByteArray& encoded, qreal pixelsOfAPoint = 1);
     ~ReportImage() override;
 
+    /// The contents that the item was made of.
     QByteArray encoded() const { return m_encoded; }
 
     void measure(const uiutils::PageStyle& style, const QSizeF& page) override;

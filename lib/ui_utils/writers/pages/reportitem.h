@@ -24,23 +24,32 @@ public:
     /// A place at which an item can be split: the number of rows before it, and the number of lines of the next row.
     struct Position
     {
+        /// Rows before the place.
         int row = 0;
+        /// Lines of the next row before the place.
         int line = 0;
 
+        /// Whether both are the same place.
         bool operator==(const Position& other) const { return row == other.row && line == other.line; }
+        /// Whether they are different places.
         bool operator!=(const Position& other) const { return !(*this == other); }
     };
 
     /// The part of an item that is together on one page.
     struct Portion
     {
+        /// Where the portion begins.
         Position begin;
+        /// Where the next one begins.
         Position end;
+        /// In units of the printing device.
         qreal height = 0;
 
+        /// Whether nothing fits.
         bool isEmpty() const { return begin == end; }
     };
 
+    /// An item of the application's own.
     ReportItem();
     virtual ~ReportItem();
     Q_DISABLE_COPY_MOVE(ReportItem)
@@ -70,6 +79,7 @@ public:
 
     /// Whether a pass has made the item, so that the next pass deletes it. False by default.
     bool isOfPass() const { return m_isOfPass; }
+    /// Has the next pass delete the item.
     void setOfPass() { m_isOfPass = true; }
 
 private:

@@ -24,8 +24,10 @@ class UIUTILS_EXPORT ReportPDF : public QObject
     Q_OBJECT
 
 public:
+    /// How the pages lie.
     enum Orientation { Portrait, Landscape };
 
+    /// A line of the title block.
     using Field = ReportField;
 
     explicit ReportPDF(QObject* parent = nullptr);
@@ -35,14 +37,18 @@ public:
     /// print().
     void setItems(const QList<ReportItem*>& items);
 
+    /// Portrait by default.
     void setOrientation(Orientation orientation);
     /// The kind of document, shown beside the logo and in the header; "Solvant Report" by default.
     void setDocumentTitle(const QString& title);
     /// The report's own title, shown in the title block and the header, and the title of the file; if it is empty, the
     /// file has the document's title.
     void setTitle(const QString& title);
+    /// The author among the entries of the file.
     void setAuthor(const QString& author);
+    /// The subject among the entries of the file.
     void setSubject(const QString& subject);
+    /// The producer among the entries of the file.
     void setProducer(const QString& producer);
     /// An instrument path; empty for none. The default is the instrument's logo.
     void setLogo(const QString& path);
@@ -50,6 +56,7 @@ public:
     void setUnitId(const QString& id);
     /// Shown in the middle of the footer.
     void setTimestamp(const QString& text);
+    /// The lines of the title block.
     void setFields(const QVector<Field>& fields);
 
     /// Prints into memory and returns the complete file. Returns nothing if it was cancelled, with `error` empty, or if

@@ -22,24 +22,30 @@ public:
     /// A row label is a cell that is distinguished from the values.
     enum class CellKind : quint8 { Value, RowLabel };
 
+    /// A cell as it is shown.
     struct Cell
     {
+        /// Plain text; line feeds begin new lines.
         QString text;
         /// A code of uiutils::Status; anything else has no icon.
         int status = uiutils::Status::None;
         /// A code of uiutils::Alignment; anything else means the center.
         qint8 alignment = uiutils::Alignment::Center;
+        /// Whether the cell is the row's label.
         CellKind kind = CellKind::Value;
         /// How many columns the cell covers.
         quint16 columnSpan = 1;
     };
 
+    /// An empty table. `columnLabels` has a text for each value column.
     ReportTable(const QString& title, const QStringList& columnLabels, bool hasLabelColumn);
     ~ReportTable() override;
 
+    /// The title above the columns.
     QString title() const { return m_title; }
     /// One text for each value column; empty if the column has no label.
     QStringList columnLabels() const;
+    /// Whether a column of row labels precedes the values.
     bool hasLabelColumn() const { return m_hasLabelColumn; }
     /// Columns of a row, the label column included.
     int columnCount() const { return m_valueColumns + (m_hasLabelColumn ? 1 : 0); }
@@ -49,6 +55,7 @@ public:
     /// Ends the current row; a row without cells does not count.
     void endRow();
 
+    /// Rows that have ended, and the one that has cells.
     int rowCount() const;
     /// The cells of a row; fewer than columnCount() if the row ended early.
     QVector<Cell> row(int index) const;

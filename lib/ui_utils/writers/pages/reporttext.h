@@ -12,9 +12,11 @@ class TextBlock;
 class UIUTILS_EXPORT ReportText : public ReportItem
 {
 public:
+    /// A paragraph of plain text; line feeds begin new lines.
     explicit ReportText(const QString& text);
     ~ReportText() override;
 
+    /// The text, as it was given.
     QString text() const { return m_text; }
 
     void measure(const uiutils::PageStyle& style, const QSizeF& page) override;

@@ -20,11 +20,17 @@ class PDFFilePrivate;
 class UIUTILS_EXPORT PDFFile : public QObject
 {
     Q_OBJECT
+    /// The file that the document was loaded from. Writing loads a file and emits filenameChanged() in any case.
     Q_PROPERTY(QString filename READ getFilename WRITE setFilename NOTIFY filenameChanged)
+    /// An entry of the document that is held; empty without one.
     Q_PROPERTY(QString title READ getTitle WRITE setTitle NOTIFY titleChanged)
+    /// See `title`.
     Q_PROPERTY(QString author READ getAuthor WRITE setAuthor NOTIFY authorChanged)
+    /// See `title`.
     Q_PROPERTY(QString subject READ getSubject WRITE setSubject NOTIFY subjectChanged)
+    /// See `title`.
     Q_PROPERTY(QString producer READ getProducer WRITE setProducer NOTIFY producerChanged)
+    /// In local time, in the long format of the default locale; empty if the file has no date that can be read.
     Q_PROPERTY(QString creationDate READ getCreationDate)
 
 public:
@@ -44,7 +50,7 @@ public:
     /// In local time, in the long format of the default locale; empty if the file has no date that can be read.
     QString getCreationDate() const;
 
-    /// Change the document that is held, not the file. The signal is emitted if there is a document and the change was
+    /// Changes the document that is held, not the file. The signal is emitted if there is a document and the change was
     /// made.
     void setTitle(const QString& title);
     void setAuthor(const QString& author);

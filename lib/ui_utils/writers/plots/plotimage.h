@@ -22,10 +22,12 @@ class PlotImagePrivate;
 class UIUTILS_EXPORT PlotImage
 {
 public:
+    /// A plot without a service, which is an empty frame.
     PlotImage();
     ~PlotImage();
     Q_DISABLE_COPY_MOVE(PlotImage)
 
+    /// The name of the service whose arrays are drawn.
     void setService(const QString& service);
     /// The background colour, a name of CSS or "#rrggbb"; an empty or unknown one means white.
     void setCurveBackground(const QString& color);

@@ -24,12 +24,19 @@ struct TextLayout
     /// Shown if it is known.
     ReportStatus status = ReportStatus::Unknown;
 
+    /// Whether the text has the active job.
     bool includeJobInfo = false;
+    /// Whether the customer is above the results.
     bool includeCustomerInfoTop = false;
+    /// Whether the technician is above the results.
     bool includeTechnicianInfoTop = false;
+    /// Whether the customer is below the results.
     bool includeCustomerInfoEnd = false;
+    /// Whether the technician is below the results.
     bool includeTechnicianInfoEnd = false;
+    /// Whether the revisions of the software are listed.
     bool showSoftwareRevs = true;
+    /// Whether the revisions of the hardware are listed.
     bool showHardwareRevs = true;
 };
 
