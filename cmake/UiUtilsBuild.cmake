@@ -53,7 +53,9 @@ function(uiutils_install_manual program summary)
     endif()
     set(page "${CMAKE_CURRENT_BINARY_DIR}/${program}.1")
     add_custom_command(OUTPUT "${page}"
-        COMMAND "${CMAKE_COMMAND}" -E env LC_ALL=C.UTF-8
+        # The page tells the places of an installed program, whoever builds it and wherever.
+        COMMAND "${CMAKE_COMMAND}" -E env LC_ALL=C.UTF-8 "UIUTILS_ROOT=~/.local/state/${program}"
+            "KIV_SERVICES=${CMAKE_INSTALL_FULL_DATADIR}/uiutils/services"
             "${UIUTILS_HELP2MAN}" --no-info --section=1 "--name=${summary}" "--output=${page}" "./$<TARGET_FILE_NAME:${program}>"
         # help2man passes the program to a shell unquoted, so its path must not contain a blank.
         WORKING_DIRECTORY "$<TARGET_FILE_DIR:${program}>"
@@ -61,4 +63,16 @@ function(uiutils_install_manual program summary)
         VERBATIM)
     add_custom_target(${program}_man ALL DEPENDS "${page}")
     install(FILES "${page}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+endfunction()
+
+# uiutils_exports(<library> <name>)
+#
+# Exports the library's interface, and nothing that the compiler makes from the standard library's templates, under the
+# version <name>_<major>. A process that loads two major versions keeps them apart by it.
+function(uiutils_exports library name)
+    set(node "${name}_${PROJECT_VERSION_MAJOR}")
+    set(script "${CMAKE_CURRENT_BINARY_DIR}/${library}.map")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/exports.map.in" "${script}" @ONLY)
+    target_link_options(${library} PRIVATE "LINKER:--version-script=${script}")
+    set_property(TARGET ${library} APPEND PROPERTY LINK_DEPENDS "${script}")
 endfunction()

@@ -154,19 +154,24 @@ install_packages() {
         explain_apt_failure "$update_log" "$install_log"
 }
 
+# The releases whose package names are known to be these.
+is_known_release() {
+    [[ $1 == 'debian 12' || $1 == 'debian 13' ]]
+}
+
 require_packages() {
     local release names missing
     release=$(release_name)
     names=$(missing_packages "$@")
     if [[ -z $names ]]; then
-        [[ $release == 'debian 12' ]] || say "warning: made for Debian 12, this is $release; going on"
+        is_known_release "$release" || say "warning: made for Debian 12 and 13, this is $release; going on"
         return 0
     fi
     mapfile -t missing <<<"$names"
     command -v apt-get >/dev/null ||
         fail "there is no apt-get here ($release) to install the missing packages: ${missing[*]}"
-    [[ $release == 'debian 12' ]] ||
-        fail "this is $release, not Debian 12, and these packages are missing: ${missing[*]}"
+    is_known_release "$release" ||
+        fail "this is $release, neither Debian 12 nor 13, and these packages are missing: ${missing[*]}"
     install_packages "${missing[@]}"
 }
 

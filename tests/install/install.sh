@@ -93,3 +93,11 @@ if nm -DC --defined-only "$library" | grep -E ' [A-Z] uiutils::(OpenNode|onDisk|
     echo "private symbols are exported" >&2
     exit 1
 fi
+# Nor may an export depend on which functions of other libraries a compiler has inlined.
+find "$plain" -name 'lib*.so.1' | while read -r file; do
+    if ! nm -D --defined-only "$file" | grep '@@[A-Z]*_1$' >/dev/null ||
+        nm -DCg --defined-only "$file" | grep -E '^[0-9a-f]+ . ([^(]* )?(guard variable for |typeinfo (name )?for )?(std|__gnu_cxx|Q[A-LN-Z][A-Za-z]*|QM[a-z][A-Za-z]*)::'; then
+        echo "$file exports what is not ours, or without a version" >&2
+        exit 1
+    fi
+done
