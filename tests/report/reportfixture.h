@@ -79,6 +79,7 @@ public:
     {
         connect(this, &Report::reportOverwriteAccepted, this, [this] { answers << save(true); });
     }
+    using Report::addFormat;
     using Report::addSetting;
     using Report::loadSettings;
     using Report::saveSettings;

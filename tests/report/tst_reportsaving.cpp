@@ -525,6 +525,42 @@ private Q_SLOTS:
         QVERIFY(report.save());
     }
 
+    /// An application's format has all that the library's have, in the controllers that have added it.
+    void applicationsAddFormats()
+    {
+        plug(2);
+        Controller report;
+        QByteArray csv = "1,2";
+        const auto make = [&] { return csv; };
+        QVERIFY(report.addFormat(100, "CSV", ".csv", make) && Controller().addFormat(100, "CSV", ".csv", make));
+        const std::pair<int, const char*> rejected[]{{100, ".csv"}, {100, ".c"}, {101, ".csv"}, {101, ".pdf"}, {99, ".c"},
+                {101, "c"}, {101, "."}, {101, ".gz"}, {101, "./c"}};
+        for (const auto& [value, suffix] : rejected)
+            QVERIFY2(!report.addFormat(value, "CSV", suffix, make), suffix);
+        QVERIFY(!report.addFormat(101, "D", ".d", {}) && !Controller().addFormat(100, "Other", ".csv", make));
+        Controller without("a", 100);
+        QVERIFY(without.getSuffixForReport().isEmpty() && !without.save() && names("/cust/public/reports").isEmpty());
+        manager()->accept();
+
+        report.setUp("a", 100);
+        QVERIFY(report.getSuffixForReport() == ".csv" && report.save() && !report.save());
+        QCOMPARE(dialogText(), QString("Do you want to overwrite report Internal:/reports/a.csv?"));
+        QCOMPARE(contentsOf(onDisk("/mnt/usb/a.csv")), csv);
+        QCOMPARE(report.getReportFiles().at(0).toMap().value("format").toString(), QString("CSV"));
+        QVERIFY(report.calls.contains("metadata CSV") && contentsOf(listFile()).contains("/a.csv\n"));
+        csv.clear();
+        QVERIFY(!report.save(true));
+        QVERIFY(dialogTitle() == "Write Error" && contentsOf(onDisk("/cust/public/reports/a.csv")) == "1,2");
+
+        csv = "3";
+        report.setUp("b", 5);
+        QVERIFY(report.save() && report.calls.filter("metadata").constLast() == "metadata CSV");
+        QCOMPARE(names("/cust/public/reports").filter("b."), QStringList({"b.csv", "b.html", "b.json", "b.pdf", "b.txt", "b.xml"}));
+        report.setFormatApplicable(100, false);
+        report.setUp("c", 5);
+        QVERIFY(report.save() && !QFile::exists(onDisk("/cust/public/reports/c.csv")));
+    }
+
     void reportsStayFromTheCloudThoughOthersFail()
     {
         Controller report("a", 5);

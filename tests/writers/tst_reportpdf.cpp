@@ -4,6 +4,7 @@
 
 #include "document/reporttemplate.h"
 #include "report/report.h"
+#include "writers/pages/reportdrawing.h"
 #include "writers/pages/reportheader.h"
 #include "writers/pages/reportimage.h"
 #include "writers/pages/reportpdf.h"
@@ -14,6 +15,7 @@
 #include <embedded/embeddedbackend.h>
 
 #include <QImage>
+#include <QPainter>
 
 #include <memory>
 
@@ -142,6 +144,28 @@ QString infoOf(const QString& path, const QString& key)
 
 const char* const statuses[] = {"pass", "marginal", "fail"};
 const QColor statusColors[] = {QColor(0, 200, 0), QColor(255, 160, 0), QColor(220, 0, 60)};
+
+/// Blue, with one word; paints far more than it may, and leaves the painter changed.
+class Drawing : public ReportDrawing
+{
+public:
+    Drawing(qreal height, const QString& word) : m_height(height), m_word(word) { }
+
+protected:
+    qreal height(const QSizeF&) const override { return m_height; }
+    void paint(QPainter& painter, const QSizeF& size) const override
+    {
+        painter.fillRect(QRectF(-900, -900, 9000, 9000), Qt::blue);
+        painter.fillRect(QRectF(0, 0, size.width() / 2, size.height()), Qt::yellow);
+        painter.drawText(QPointF(10, 20), m_word);
+        painter.scale(5, 5);
+        painter.setOpacity(0.1);
+    }
+
+private:
+    qreal m_height;
+    QString m_word;
+};
 
 void addRow(ReportTable& table, const QStringList& cells, int status = 0)
 {
@@ -656,6 +680,24 @@ private Q_SLOTS:
         const QString text = pagesOf(path).join(' ').simplified();
         for (const QString& word : qAsConst(words))
             QVERIFY2(text.contains(word), qPrintable(word));
+    }
+
+    /// In points, in the report's font, within its rectangle; complete, with its heading, and on the page that has room.
+    void drawings()
+    {
+        const QString path = printed({new Drawing(0, "none"), new Drawing(100, "low"), new ReportText("after"),
+                new ReportHeader(1, "Heading"), new Drawing(640, "high"), new Drawing(10000, "page"), new ReportText("end")});
+        QVERIFY(!path.isEmpty());
+        const QVector<Sheet> sheets = picturesOf(path);
+        QCOMPARE(sheets.size(), 4);
+        const auto drawn = [&](int page) { return sheets[page].colored(Qt::blue, {QPointF(0, 40), QPointF(612, 750)}); };
+        QVERIFY(qAbs(drawn(0).height() - 100) < 1 && qAbs(drawn(0).left() - 306) < 1 && qAbs(drawn(0).right() - 570) < 1);
+        const QRectF low = sheets[0].at("low");
+        const QRectF after = sheets[0].at("after");
+        QVERIFY(!sheets[0].has("none") && isSame(low.left(), 52) && isSame(low.height(), after.height()));
+        QVERIFY(after.top() > drawn(0).bottom() && !sheets[0].colored(QColor(0x202428), after).isEmpty());
+        QVERIFY(!sheets[0].has("Heading") && sheets[1].at("Heading").bottom() < drawn(1).top());
+        QVERIFY(qAbs(drawn(1).height() - 640) < 1 && drawn(2).height() > 660 && !sheets[2].has("end") && sheets[3].has("end"));
     }
 
     void iconsAreStoredOnce()

@@ -8,11 +8,13 @@
 #include "report/saving/saving_p.h"
 
 #include <QLatin1String>
+#include <QMap>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
 
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -78,6 +80,8 @@ public:
     QString lastPdf;
     QStringList screenshots;
     QVariantMap writerAttributes;
+    /// What makes the contents of the formats that a derived controller has added, by their values.
+    QMap<int, std::function<QByteArray()>> ownFormats;
     QStringList syncedReports;
     QStringList unsyncedReports;
 
@@ -103,6 +107,11 @@ public:
     // --- Saving ---
     QString chosenName();
     bool writeGenerated(const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite);
+    /// Writes a file of which `make` makes the contents; none are an error, for the reason `nothing`.
+    bool writeMade(
+            const QString& path, const std::function<QByteArray()>& make, const QString& nothing, bool overwrite);
+    /// False if the controller has no such format.
+    bool writeOwnFormat(int format, const QString& path, bool overwrite);
     /// Enters the files into one of the lists of saved files: each path is in one of them, once.
     void noteSaved(const QStringList& files, bool isSynced);
 

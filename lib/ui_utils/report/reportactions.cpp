@@ -143,19 +143,8 @@ bool Report::writeXmlReport(const QString& path, bool overwrite)
 
 bool Report::writePDFReport(const QString& path, bool overwrite)
 {
-    const auto saving = d->saving;
-    if (!saving->mayWrite({path}, overwrite))
-        return false;
-    const QPointer<Report> self(this);
-    const QByteArray pages = saving->withProgress([this] { return generatePDFReport(); });
-    if (!self)
-        return false;
-    // A report of the name may have appeared while the pages were made, for example on a USB drive.
-    if (!pages.isEmpty())
-        return saving->mayWrite({path}, overwrite) && saving->write(path, pages, overwrite);
-    if (!saving->progress.isCancelled())
-        saving->dialogs.notifyWriteError(path, QStringLiteral("there are no pages"));
-    return false;
+    return d->writeMade(
+            path, [this] { return generatePDFReport(); }, QStringLiteral("there are no pages"), overwrite);
 }
 
 bool Report::writeTextReport(const QString& path, const QString& text, const QString&, bool overwrite)

@@ -55,6 +55,20 @@ void Report::setFormatApplicable(int format, bool applicable)
         (*choice)->setApplicable(applicable);
 }
 
+bool Report::addFormat(
+        int value, const QString& label, const QString& suffix, const std::function<QByteArray()>& generate)
+{
+    UiData* item = d->settings.value(uiutils::formatSetting);
+    if (!item || !generate || d->ownFormats.contains(value))
+        return false;
+    const uiutils::FormatInfo* format = uiutils::addReportFormat(value, label, suffix);
+    if (!format)
+        return false;
+    d->ownFormats.insert(value, generate);
+    uiutils::addFormatChoice(*item, *format);
+    return true;
+}
+
 void Report::slotCreateSettings()
 {
     const QPointer<Report> self(this);
@@ -112,8 +126,8 @@ int Report::getFormat() const
 
 QString Report::getSuffixForReport() const
 {
-    const uiutils::FormatInfo* format = uiutils::formatInfo(getFormat());
-    return format ? QString(format->suffix) : QString();
+    const uiutils::FormatChoice choice = uiutils::formatChoice(d->settings.value(uiutils::formatSetting));
+    return choice.isFormat && !choice.isAll ? choice.formats.constFirst()->suffix : QString();
 }
 
 bool Report::isPDF() const

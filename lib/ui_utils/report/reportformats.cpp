@@ -1,20 +1,28 @@
 #include "report/reportformats_p.h"
 
 #include "local/uidata.h"
+#include "report/report.h"
 #include "report/reporttexts_p.h"
+
+#include <algorithm>
 
 namespace uiutils {
 
 namespace {
 
-/// In the order of their values.
-FormatInfos applicableFormats(const UiData& item)
+QList<UiEnumType*> choicesOf(const UiData& item)
 {
     const UiDataEnums* choices = item.getUiEnumList();
-    const QList<UiEnumType*> choiceList = choices ? choices->getEnumList() : QList<UiEnumType*>();
+    return choices ? choices->getEnumList() : QList<UiEnumType*>();
+}
+
+/// In the order of the table.
+FormatInfos applicableFormats(const UiData& item)
+{
+    const QList<UiEnumType*> choices = choicesOf(item);
     FormatInfos formats;
     for (const FormatInfo& candidate : allReportFormats()) {
-        for (const UiEnumType* choice : choiceList) {
+        for (const UiEnumType* choice : choices) {
             if (!candidate.suffix.isEmpty() && choice->getValue() == candidate.value && choice->isApplicable())
                 formats.append(&candidate);
         }
@@ -22,20 +30,58 @@ FormatInfos applicableFormats(const UiData& item)
     return formats;
 }
 
-} // namespace
+/// Another controller of the process may have added the format.
+bool hasFormat(const UiData& item, const FormatInfo& format)
+{
+    const QList<UiEnumType*> choices = choicesOf(item);
+    return format.value < Report::firstOwnFormat
+            || std::any_of(choices.cbegin(), choices.cend(),
+                    [&](const UiEnumType* choice) { return choice->getValue() == format.value; });
+}
 
-const QList<FormatInfo>& allReportFormats()
+bool isSuffix(const QString& text)
+{
+    return text.size() > 1 && text.startsWith(QLatin1Char('.')) && !text.endsWith(gzipSuffix)
+            && !text.contains(QLatin1Char('/')) && !text.contains(QChar(QChar::Null));
+}
+
+std::deque<FormatInfo>& formatTable()
 {
     using namespace NSReport;
-    static const QList<FormatInfo> formats {
-            {REPORT_FORMAT_PDF, QT_TRANSLATE_NOOP("Report", "PDF"), "REPORT_FORMAT_PDF", pdfSuffix, true},
-            {REPORT_FORMAT_XML, QT_TRANSLATE_NOOP("Report", "XML"), "REPORT_FORMAT_XML", xmlSuffix, true},
-            {REPORT_FORMAT_HTML, QT_TRANSLATE_NOOP("Report", "HTML"), "REPORT_FORMAT_HTML", htmlSuffix, false},
-            {REPORT_FORMAT_TEXT, QT_TRANSLATE_NOOP("Report", "TEXT"), "REPORT_FORMAT_TEXT", textSuffix, false},
-            {REPORT_FORMAT_JSON, QT_TRANSLATE_NOOP("Report", "JSON"), "REPORT_FORMAT_JSON", jsonSuffix, false},
-            {REPORT_FORMAT_ALL, QT_TRANSLATE_NOOP("Report", "ALL"), "REPORT_FORMAT_ALL", QLatin1String(), false},
+    static std::deque<FormatInfo> formats {
+            {REPORT_FORMAT_PDF, QLatin1String(QT_TRANSLATE_NOOP("Report", "PDF")), QStringLiteral("REPORT_FORMAT_PDF"),
+                    pdfSuffix, true},
+            {REPORT_FORMAT_XML, QLatin1String(QT_TRANSLATE_NOOP("Report", "XML")), QStringLiteral("REPORT_FORMAT_XML"),
+                    xmlSuffix, true},
+            {REPORT_FORMAT_HTML, QLatin1String(QT_TRANSLATE_NOOP("Report", "HTML")),
+                    QStringLiteral("REPORT_FORMAT_HTML"), htmlSuffix, false},
+            {REPORT_FORMAT_TEXT, QLatin1String(QT_TRANSLATE_NOOP("Report", "TEXT")),
+                    QStringLiteral("REPORT_FORMAT_TEXT"), textSuffix, false},
+            {REPORT_FORMAT_JSON, QLatin1String(QT_TRANSLATE_NOOP("Report", "JSON")),
+                    QStringLiteral("REPORT_FORMAT_JSON"), jsonSuffix, false},
+            {REPORT_FORMAT_ALL, QLatin1String(QT_TRANSLATE_NOOP("Report", "ALL")), QStringLiteral("REPORT_FORMAT_ALL"),
+                    QString(), false},
     };
     return formats;
+}
+
+} // namespace
+
+const std::deque<FormatInfo>& allReportFormats()
+{
+    return formatTable();
+}
+
+const FormatInfo* addReportFormat(int value, const QString& label, const QString& suffix)
+{
+    if (value < Report::firstOwnFormat || !isSuffix(suffix))
+        return nullptr;
+    for (const FormatInfo& format : formatTable()) {
+        if (format.value == value || format.suffix == suffix)
+            return format.value == value && format.suffix == suffix && format.label == label ? &format : nullptr;
+    }
+    formatTable().push_back({value, label, label, suffix, true});
+    return &formatTable().back();
 }
 
 const FormatInfo* formatInfo(int value)
@@ -61,6 +107,8 @@ FormatChoice formatChoice(const UiData* item)
         return choice;
     choice.given = item->getValue().toString();
     const FormatInfo* format = formatInfo(formatNumber(item));
+    if (format && !hasFormat(*item, *format))
+        format = nullptr;
     choice.isFormat = format;
     choice.isAll = format && format->value == NSReport::REPORT_FORMAT_ALL;
     if (choice.isAll)
@@ -76,12 +124,19 @@ void addFormatChoices(UiData& item)
     QStringList labels;
     QStringList names;
     for (const FormatInfo& format : allReportFormats()) {
+        if (format.value >= Report::firstOwnFormat)
+            break;
         values.append(format.value);
-        labels.append(ReportTexts::tr(format.label));
-        names.append(QLatin1String(format.name));
+        labels.append(ReportTexts::tr(format.label.toLatin1().constData()));
+        names.append(format.name);
     }
     item.setUiEnumList(new UiDataEnums(&item));
     item.setEnums(values, labels, names);
+}
+
+void addFormatChoice(UiData& item, const FormatInfo& format)
+{
+    item.setEnums({format.value}, {format.label}, {format.name});
 }
 
 } // namespace uiutils

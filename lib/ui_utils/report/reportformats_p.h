@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+#include <deque>
+
 class UiData;
 
 /// The formats of a report: one table that answers every question about them.
@@ -20,18 +22,24 @@ inline const QLatin1String gzipSuffix(".gz");
 
 struct FormatInfo
 {
-    NSReport::ReportFormat value;
-    /// In English.
-    const char* label;
-    const char* name;
+    /// An NSReport::ReportFormat, or at least Report::firstOwnFormat for a format that an application has added.
+    int value;
+    /// In English; of an application's format, as the application has given it.
+    QString label;
+    QString name;
     /// Empty for ALL, which is no file's format.
-    QLatin1String suffix;
-    /// Whether every controller offers it.
+    QString suffix;
+    /// Whether every controller that has the format offers it.
     bool isAlwaysOffered;
 };
 
-/// In the order of their values, in which ALL writes them.
-const QList<FormatInfo>& allReportFormats();
+/// In the order of their values, in which ALL writes them; after these, the formats that the controllers of this
+/// process have added. An entry keeps its place in memory.
+const std::deque<FormatInfo>& allReportFormats();
+
+/// The entry of a format of the application's own, which is made if there is none. Null if the value or the suffix is
+/// another format's, or cannot be one.
+const FormatInfo* addReportFormat(int value, const QString& label, const QString& suffix);
 
 /// Null if the value is not a format.
 const FormatInfo* formatInfo(int value);
@@ -55,7 +63,10 @@ int formatNumber(const UiData* item);
 
 FormatChoice formatChoice(const UiData* item);
 
-/// Adds the formats to the choices of an item.
+/// Adds the library's formats to the choices of an item.
 void addFormatChoices(UiData& item);
+
+/// Adds one of an application's.
+void addFormatChoice(UiData& item, const FormatInfo& format);
 
 } // namespace uiutils

@@ -93,7 +93,7 @@ void ReportHooks::prepareDocument()
         m_report->prepareDocument();
 }
 
-bool ReportHooks::write(NSReport::ReportFormat format, const QString& path, bool overwrite)
+bool ReportHooks::write(int format, const QString& path, bool overwrite)
 {
     if (!m_report)
         return false;
@@ -108,10 +108,9 @@ bool ReportHooks::write(NSReport::ReportFormat format, const QString& path, bool
         return m_report->writeTxtReport(path, overwrite);
     case NSReport::REPORT_FORMAT_JSON:
         return m_report->writeJsonReport(path, overwrite);
-    case NSReport::REPORT_FORMAT_ALL:
-        break;
+    default:
+        return data().writeOwnFormat(format, path, overwrite);
     }
-    return false;
 }
 
 void ReportHooks::describe(const QString& path, const QString& format)

@@ -30,7 +30,7 @@ public:
     void started(const QString& name) override;
     bool keepsName() override;
     void prepareDocument() override;
-    bool write(NSReport::ReportFormat format, const QString& path, bool overwrite) override;
+    bool write(int format, const QString& path, bool overwrite) override;
     void describe(const QString& path, const QString& format) override;
     void asked(const QString& path) override;
     void declined(const QString& path) override;

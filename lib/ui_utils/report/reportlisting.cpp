@@ -35,7 +35,7 @@ bool readName(const QString& fileName, SavedReport* report)
     report->isCompressed = fileName.endsWith(gzipSuffix);
     const int end = fileName.size() - (report->isCompressed ? gzipSuffix.size() : 0);
     const QStringRef plain = fileName.leftRef(end);
-    const QList<FormatInfo>& formats = allReportFormats();
+    const auto& formats = allReportFormats();
     const auto format = std::find_if(formats.cbegin(), formats.cend(), [&](const FormatInfo& candidate) {
         return !candidate.suffix.isEmpty() && plain.endsWith(candidate.suffix);
     });
@@ -43,7 +43,7 @@ bool readName(const QString& fileName, SavedReport* report)
         return false;
     report->fileName = fileName;
     report->name = fileName.left(end - format->suffix.size());
-    report->format = QLatin1String(format->label);
+    report->format = format->label;
     return true;
 }
 

@@ -153,6 +153,30 @@ bool ReportPrivate::writeGenerated(
     return self && q->writeTextReport(path, text, suffix, overwrite);
 }
 
+bool ReportPrivate::writeMade(
+        const QString& path, const std::function<QByteArray()>& make, const QString& nothing, bool overwrite)
+{
+    const auto held = saving;
+    if (!held->mayWrite({path}, overwrite))
+        return false;
+    const QPointer<Report> self(q);
+    const QByteArray contents = held->withProgress(make);
+    if (!self)
+        return false;
+    // A report of the name may have appeared while the contents were made, for example on a USB drive.
+    if (!contents.isEmpty())
+        return held->mayWrite({path}, overwrite) && held->write(path, contents, overwrite);
+    if (!held->progress.isCancelled())
+        held->dialogs.notifyWriteError(path, nothing);
+    return false;
+}
+
+bool ReportPrivate::writeOwnFormat(int format, const QString& path, bool overwrite)
+{
+    const std::function<QByteArray()> make = ownFormats.value(format);
+    return make && writeMade(path, make, QStringLiteral("there are no contents"), overwrite);
+}
+
 void ReportPrivate::noteSaved(const QStringList& files, bool isSynced)
 {
     QStringList& list = isSynced ? syncedReports : unsyncedReports;

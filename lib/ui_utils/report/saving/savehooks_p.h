@@ -35,7 +35,7 @@ public:
     virtual void started(const QString& name) = 0;
     virtual bool keepsName() = 0;
     virtual void prepareDocument() = 0;
-    virtual bool write(NSReport::ReportFormat format, const QString& path, bool overwrite) = 0;
+    virtual bool write(int format, const QString& path, bool overwrite) = 0;
     virtual void describe(const QString& path, const QString& format) = 0;
     virtual void asked(const QString& path) = 0;
     virtual void declined(const QString& path) = 0;

@@ -164,7 +164,7 @@ bool SaveRun::writeFile(const PlannedFile& file)
     const QString plain = isCompressed ? file.path + gzipSuffix : file.path;
     m_saved += file;
     m_written += m_saving->written.value(file.path, plain);
-    hooks().describe(m_written.constLast(), QLatin1String(file.format->label));
+    hooks().describe(m_written.constLast(), file.format->label);
     return true;
 }
 

@@ -123,6 +123,22 @@ void PageCanvas::drawImage(const QByteArray& encoded, const QRectF& place)
         drawImage(*it, place);
 }
 
+void PageCanvas::paint(const QRectF& place, const std::function<void(QPainter&)>& draw)
+{
+    flush();
+    m_painter.save();
+    m_painter.setClipRect(place);
+    m_painter.translate(place.topLeft());
+    m_painter.scale(m_style.points(1), m_style.points(1));
+    QFont font = m_style.body.font();
+    font.setPixelSize(qRound(font.pointSizeF()));
+    m_painter.setFont(font);
+    m_painter.setPen(m_style.ink);
+    m_painter.setBrush(Qt::NoBrush);
+    draw(m_painter);
+    m_painter.restore();
+}
+
 void PageCanvas::flush()
 {
     if (m_glyphs.isEmpty())

@@ -9,6 +9,7 @@
 #include <QRectF>
 #include <QVector>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -50,6 +51,9 @@ public:
     void drawImage(const QImage& image, const QRectF& place);
     /// Draws an encoded image. The same bytes are decoded once, and stored in the file once.
     void drawImage(const QByteArray& encoded, const QRectF& place);
+
+    /// Has `draw` paint into `place` and nowhere else: from (0, 0), in points, with the font and the colour of texts.
+    void paint(const QRectF& place, const std::function<void(QPainter&)>& draw);
 
     /// Draws the text that was collected. To be called at the end of each page.
     void flush();
