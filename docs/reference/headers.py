@@ -19,7 +19,8 @@ PARENT = re.compile(r"explicit \w+\(QObject\* parent = nullptr\);")
 FUNCTION = re.compile(r"[\w:<>,*& ]*?\b(\w+)\(.*")
 NO_MEMBER = ("//", "friend ", "~", "Q_PROPERTY", "return ")
 DECLARED = re.compile(
-    r"Q_PROPERTY\(\s*[\w:<>, ]+?[\s*&]+(\w+)\s+(?:READ|MEMBER|CONSTANT)|(?:class|struct|enum) (?:[A-Z_]+ )?(\w+)|(\w+)\(|(\w+)(?: = [^,]*)?[,;]")
+    r"Q_PROPERTY\(\s*[\w:<>, ]+?[\s*&]+(\w+)\s+(?:READ|MEMBER|CONSTANT)"
+    r"|(?:class|struct|enum) (?:[A-Z_]+ )?(\w+)|(\w+)\(|(\w+)(?: = [^,]*)?[,;]")
 
 
 def accessor_texts(header):
@@ -42,7 +43,7 @@ def pair_text(function, functions):
 
 
 def text_for(line, texts, functions):
-    line = line.strip()
+    line = re.sub(r"\[\[\w+\]\] ", "", line.strip())
     if PARENT.match(line):
         return "An object that `parent` deletes; without a parent, its creator does."
     function = FUNCTION.match(line)
@@ -66,7 +67,7 @@ def with_texts(header):
         before = line.strip()
 
 
-CLASS = re.compile(r"(?:class|struct) (?:[A-Z]+_EXPORT )?(\w+)(?: final)?(?: :[^;]*)?$")
+CLASS = re.compile(r"(?:class|struct) (?:\[\[\w+\]\] )?(?:[A-Z]+_EXPORT )?(\w+)(?: final)?(?: :[^;]*)?$")
 
 
 def texts_by_class(header):
@@ -87,6 +88,6 @@ def texts_by_class(header):
             continue
         name = DECLARED.search(line)
         if text and name:
-            members.setdefault(next(filter(None, name.groups())), []).append(" ".join(text))
+            members.setdefault(next(filter(None, name.groups())), []).append("\n".join(text))
         text = []
     return found

@@ -1,5 +1,5 @@
-"""The reference pages of the QML modules. Names and types come from the description of the module and from the QML files
-themselves, texts from the headers and from the comments of the QML files."""
+"""The reference pages of the QML modules. Names and types come from the description of the module and from the QML
+files themselves, texts from the headers and from the comments of the QML files."""
 import pathlib
 import re
 
@@ -19,7 +19,7 @@ class Undescribed(Exception):
 
 
 def escaped(text):
-    return re.sub(r"([|<>])", r"\\\1", text)
+    return re.sub(r"([|<>])", r"\\\1", " ".join(text.split()))
 
 
 def for_pages(text):
@@ -68,8 +68,9 @@ class Component:
         return shown, note, self.text(kind, name, texts)
 
     def enum_lines(self, enum, body, texts):
+        owner = self.exported[0] if self.exported else self.cpp
         for key, value in re.findall(r'"(\w+)": (-?\d+)', body):
-            yield f"`{self.exported[0] if self.exported else self.cpp}.{key}`", f"{enum} {value}", " ".join(texts.get(key, []))
+            yield f"`{owner}.{key}`", f"{enum} {value}", " ".join(texts.get(key, []))
 
     def text(self, kind, name, texts):
         if name not in texts:
@@ -99,14 +100,18 @@ def made_by(component):
     return "Pages create it." if component.creatable else "Pages do not create it."
 
 
+def base_text(name):
+    return f" It has everything that \\ref qml_{name} \"{name}\" has."
+
+
 def type_page(component, components, texts_of):
     texts = inherited_texts(component, components, texts_of)
     name = component.exported[0]
     base = components.get(component.base)
-    of_base = f" It has everything that \\ref qml_{base.exported[0]} \"{base.exported[0]}\" has." if base and base.exported else ""
+    of_base = base_text(base.exported[0]) if base and base.exported else ""
     # A class without a meta-object of its own is registered under that of its base, which Qt describes.
     own = component.cpp.split("::")[-1]
-    about = for_pages((texts_of(own).get(own) or texts_of(name).get(name) or [""])[0]).replace("  ", "\n\n")
+    about = for_pages((texts_of(own).get(own) or texts_of(name).get(name) or [""])[0])
     if not about:
         raise Undescribed(f"{name} has no text")
     members = list(component.lines(texts)) if texts_of(component.cpp) else []
@@ -127,7 +132,8 @@ def module_pages(qmltypes, texts_of):
 
 # --- The components of QML -----------------------------------------------------------------------
 
-QML_MEMBER = re.compile(r"    (?:default )?(readonly )?(?:property (\w+) (\w+)|signal (\w+)(\([^)]*\))?|function (\w+)(\([^)]*\)))")
+QML_MEMBER = re.compile(
+    r"    (?:default )?(readonly )?(?:property (\w+) (\w+)|signal (\w+)(\([^)]*\))?|function (\w+)(\([^)]*\)))")
 
 
 def qml_members(lines):
@@ -154,8 +160,8 @@ def control_page(name, folder, public):
         raise Undescribed(f"{name}.qml has no text")
     base = lines[root].split()[0]
     members = list(qml_members(lines[root:]))
-    of_base = f" It has everything that \\ref qml_{base} \"{base}\" has." if (folder / f"{base}.qml").exists() else f" It is a {base} of Qt."
-    role = "`import UiUtils.Controls 1.0`." if name in public else "A base of the module's types, which pages do not create."
+    of_base = base_text(base) if (folder / f"{base}.qml").exists() else f" It is a {base} of Qt."
+    role = "`import UiUtils.Controls 1.0`." if name in public else "A base of the module's types. Pages do not create it."
     parts = [f"# {name} {{#qml_{name}}}", "", role + of_base, "", " ".join(about), ""]
     return "\n".join(parts + ([table(members)] if members else [])) + "\n"
 
@@ -182,8 +188,8 @@ def list_page(identifier, title, about, pages):
 
 def all_pages(qmltypes, controls, texts_of):
     types, entries = module_pages(pathlib.Path(qmltypes), texts_of), controls_pages(pathlib.Path(controls))
-    types_about = "What pages know after `import UiUtils 1.0`. [Pages over services](docs/qml-api.md) of the sources says how it is used."
-    entries_about = "What pages know after `import UiUtils.Controls 1.0`: entries over items, and the views of notifications."
+    types_about = "What pages know after `import UiUtils 1.0`. docs/qml-api.md says how it is used."
+    entries_about = "What pages know after `import UiUtils.Controls 1.0`. docs/forms.md says how it is used."
     return types + entries + [
-        ("uiutils", list_page("qml_uiutils", "QML: UiUtils", types_about.replace("[Pages over services](docs/qml-api.md) of the sources", "docs/qml-api.md"), types)),
+        ("uiutils", list_page("qml_uiutils", "QML: UiUtils", types_about, types)),
         ("controls", list_page("qml_controls", "QML: UiUtils.Controls", entries_about, entries))]

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Makes the reference pages of the public interfaces. Usage:
-reference.py <doxygen> <configured Doxyfile> <folder to work in> <plugins.qmltypes> <folder of the QML components> <folder>=<header>...
+reference.py <doxygen> <configured Doxyfile> <folder to work in> <plugins.qmltypes> <folder of the QML components>
+             <folder>=<header>...
 Prints every warning, and fails if there is one."""
 import pathlib
 import re
@@ -13,8 +14,8 @@ import qmlpages
 
 
 def stage_headers(given, folder):
-    """Copies the headers into the folders that programs include them from; returns the texts of their classes' members, and
-    the classes without a text, of which doxygen would be silent."""
+    """Copies the headers into the folders that programs include them from; returns the texts of their classes' members,
+    and the classes without a text, of which doxygen would be silent."""
     texts, bare = {}, []
     for entry in given:
         place, path = entry.split("=", 1)
@@ -32,7 +33,8 @@ def stage_headers(given, folder):
 
 
 def run_doxygen(doxygen, doxyfile, work):
-    run = subprocess.run([doxygen, doxyfile], cwd=work, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False)
+    run = subprocess.run([doxygen, doxyfile], cwd=work, text=True, check=False,
+                         stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
     # The generator of the help file also prints what it does.
     return [line for line in run.stdout.split("\n") if run.returncode or re.search("warning:|error:", line)]
 
@@ -47,6 +49,8 @@ def main(doxygen, doxyfile, work, qmltypes, controls, *given):
     except qmlpages.Undescribed as missing:
         pages = []
         warnings.append(f"warning: {missing}")
+    for own in ("mainpage.md", "namespaces.dox"):
+        shutil.copy(pathlib.Path(__file__).parent / own, work / "input")
     for name, text in pages:
         (work / "input" / f"qml_{name}.md").write_text(text, encoding="utf-8")
     warnings += run_doxygen(doxygen, doxyfile, work)

@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
-"""Compares what README, CONTRIBUTING and docs/ say with the tree and its build folder: linked libraries, packages, build options,
-environment variables, options of programs, presets, targets, paths, names in code, links and anchors. Usage: claims.py TREE BUILD"""
+"""Compares what README, CONTRIBUTING and docs/ say with the tree and its build folder: linked libraries, packages,
+build options, environment variables, options of programs, presets, targets, paths, names in code, properties, links and
+anchors, sources of classes, rooms, scripts. Usage: claims.py TREE BUILD"""
 
+import functools
 import json
 import os
 import re
@@ -12,13 +14,15 @@ PROGRAMS = ["kivctl", "kivd", "pdf_viewer", "reportconvert", "uiutils-demo", "ui
 SCRIPTS = {"./check": "check", "./demo": "demo"}
 SOURCES = ("base/", "lib/", "platform/", "qml/", "apps/")
 # What every program of C++ links, and what the sanitizers add.
-RUN_TIME = {"c", "m", "pthread", "gcc_s", "stdc++", "asan", "ubsan", "gcov", "ld-linux-x86-64", "ld-linux-armhf", "ld-linux-aarch64"}
+RUN_TIME = {"c", "m", "pthread", "gcc_s", "stdc++", "asan", "ubsan", "gcov",
+            "ld-linux-x86-64", "ld-linux-armhf", "ld-linux-aarch64"}
 
 
 class Tree:
     def __init__(self, root, build):
         self.build = build
         self.files = dict(self.texts(root))
+        self.known = None
         self.folders = {name.rsplit("/", depth)[0] for name in self.files for depth in range(1, name.count("/") + 1)}
         # What the changelog says of earlier times stays as it was.
         self.pages = {name: text for name, text in self.files.items() if name.endswith(".md") and name != "CHANGELOG.md"}
@@ -35,11 +39,21 @@ class Tree:
 
     def replace(self, name, text):
         self.files[name] = text
+        self.known = self.known if name.endswith(".md") else None
         if name in self.pages:
             self.pages[name] = text
 
     def code(self, prefixes=SOURCES, ends=(".cpp", ".h")):
         return {name: text for name, text in self.files.items() if name.startswith(prefixes) and name.endswith(ends)}
+
+    def words(self):
+        """Every word outside of the pages."""
+        if self.known is None:
+            self.known = set()
+            for name, text in self.files.items():
+                if not name.endswith((".md", ".png", ".svg")):
+                    self.known.update(re.findall(r"\w+", text))
+        return self.known
 
     def table(self, page, head):
         """The rows of the table below this head line, as lists of cells."""
@@ -69,18 +83,22 @@ def differences(what, said, true):
 
 # --- What is linked and installed ---
 
+@functools.lru_cache(maxsize=None)
 def linked(path):
     text = subprocess.run(["readelf", "-d", path], capture_output=True, text=True, check=True).stdout
     return {name.split(".so")[0] for name in re.findall(r"\(NEEDED\).*\[(?:lib)?([^\]]+)\]", text)}
 
 
 def check_links(tree):
-    for cells in tree.table("README.md", "| library or program | links |"):
+    rows = tree.table("README.md", "| library or program | links |")
+    built = set(PROGRAMS) | {"libuiutilsplugin.so"} | {name for name in os.listdir(os.path.join(tree.build, "lib"))
+                                                       if re.fullmatch(r"lib\w+\.so\.\d+", name)}
+    yield from differences("README.md: what links", [name for cells in rows for name in quoted(cells[0])], built)
+    for cells in rows:
         for name in quoted(cells[0]):
             path = next((os.path.join(tree.build, place, name) for place in ("lib", "bin", "qml/UiUtils")
                          if os.path.exists(os.path.join(tree.build, place, name))), None)
             if not path:
-                yield f"README.md: {name} is not built"
                 continue
             said, true = quoted(cells[1]), linked(path)
             # The sanitizers look at types of further libraries.
@@ -113,28 +131,27 @@ def check_build_options(tree):
 
 # --- Environment and options ---
 
-READS = re.compile(r"(?:env|EnvironmentVariable\w*|isSet|environmentText)\(\"([A-Z][A-Za-z_]+)\"|(?:\$\{|\[\[ -n \$)([A-Z]+_[A-Z_]+)")
+READS = re.compile(r"(?:env|EnvironmentVariable\w*|isSet|environmentText)\(\"([A-Z][A-Za-z_]+)\""
+                   r"|(?:\$\{|\[\[ -n \$)([A-Z]+_[A-Z_]+)")
 
 
 def check_environment(tree):
-    true = set()
+    true, code = set(), tree.code()
     for name, text in tree.files.items():
-        if name in tree.code() or name.startswith("tools/") or name in SCRIPTS.values():
+        if name in code or name.startswith("tools/") or name in SCRIPTS.values():
             true.update(a or b for a, b in READS.findall(text))
     true -= {"BASH_SOURCE", "VERSION_ID"}
     said = {name for cells in tree.table("docs/environment.md", "| variable | read by | meaning |") for name in quoted(cells[0])}
     yield from differences("docs/environment.md", said, true)
     for page, text in tree.pages.items():
         for name in re.findall(r"\b((?:UIUTILS|KIV)_[A-Z_]+)\b", text):
-            if not any(re.search(rf"\b{name}\b", other) for path, other in tree.files.items() if not path.endswith(".md")):
+            if name not in tree.words():
                 yield f"{page}: nothing reads {name}"
 
 
-def help_of(tree, program):
-    if program in SCRIPTS:
-        return tree.files[SCRIPTS[program]]
-    command = [os.path.join(tree.build, "bin", program), "--help"]
-    return subprocess.run(command, capture_output=True, text=True, check=True).stdout
+@functools.lru_cache(maxsize=None)
+def help_of(program):
+    return subprocess.run([program, "--help"], capture_output=True, text=True, check=True).stdout
 
 
 def options_in(text):
@@ -142,7 +159,9 @@ def options_in(text):
 
 
 def check_options(tree):
-    helps = {program: help_of(tree, program) for program in PROGRAMS + list(SCRIPTS)}
+    helps = {program: help_of(os.path.join(tree.build, "bin", program)) for program in PROGRAMS}
+    helps.update({program: tree.files[script] for program, script in SCRIPTS.items()})
+    helps.update({name: text for name, text in tree.files.items() if name.startswith("tools/") and text.startswith("#!")})
     for program in PROGRAMS:
         completion = tree.files.get(f"apps/{program}/{program}.bash-completion")
         if completion:
@@ -169,10 +188,10 @@ def check_presets(tree):
     targets = set(re.findall(r"add_(?:custom_target|executable|library)\((\S+)", "".join(
         text for name, text in tree.files.items() if name.endswith("CMakeLists.txt"))))
     for page, text in tree.pages.items():
-        for name in re.findall(r"--preset[ =]([\w-]+)", text):
+        for name in re.findall(r"--preset[\s=]+([\w-]+)", text):
             if name not in names:
                 yield f"{page}: there is no preset {name}"
-        for name in re.findall(r"--target[ =]([\w-]+)", text):
+        for name in re.findall(r"--target[\s=]+([\w-]+)", text):
             if name not in targets:
                 yield f"{page}: there is no target {name}"
 
@@ -188,7 +207,8 @@ def check_paths(tree):
         for code in quoted(text) + blocks(text).split():
             path = code.rstrip("/.,:")
             if re.fullmatch(r"[\w.+-]+(/[\w.+-]+)+", path) and path.split("/")[0] in tops and not path.startswith("lib/qt5"):
-                if path not in tree.files and path not in tree.folders and path + ".in" not in tree.files:
+                beside = os.path.normpath(os.path.join(os.path.dirname(page), path))
+                if not {path, beside, path + ".in"} & (tree.files.keys() | tree.folders):
                     yield f"{page}: there is no {path}"
             elif NAMED_FILE.fullmatch(path) and not any(("/" + name).endswith("/" + path) for name in tree.files):
                 yield f"{page}: no file is called {path}"
@@ -217,23 +237,33 @@ def check_page_links(tree):
                 yield f"{page}: there is no heading for {target}"
 
 
+PROPERTIES = [("docs/qml-api.md", "| property | type | writable | notifier | |", "lib/ui_utils/service/kivdata.h"),
+              ("docs/reports.md", "| property | |", "lib/ui_utils/report/report.h")]
+
+
+def check_properties(tree):
+    """The tables that list all properties of a class."""
+    for page, head, header in PROPERTIES:
+        said = {name for cells in tree.table(page, head) for name in quoted(cells[0])}
+        true = re.findall(r"Q_PROPERTY\([\w:<>]+\*? (\w+) ", tree.files[header])
+        yield from differences(f"{page}: properties", said, true)
+
+
 NAME = re.compile(r"(?:\w+(?:::|\.))?(\w*[a-z]\w*[A-Z]\w*|\w+_\w+)(?:\(.*\))?|(\w+)\(\)")
 
 
 def check_names(tree):
     """Names of code that the pages quote: of two words, or with parentheses. Qt's own are not looked for."""
-    words = set()
-    for name, text in tree.files.items():
-        if not name.endswith((".md", ".png", ".svg")):
-            words.update(re.findall(r"\w+", text))
     for page, text in tree.pages.items():
         shown = set(re.findall(r"\w+", blocks(text)))
         for code in quoted(text):
             name = NAME.fullmatch(code)
             word = name and (name.group(1) or name.group(2))
-            # An item's name in QML ends in the item's own; "row_N" stands for any number.
-            word = word and re.sub(r"^\w+_(?:cfg|res|act)_|_N$", "", word)
-            if word and not re.match("Q[A-Zt]", word) and word not in words | shown:
+            if not word or re.match("Q[A-Zt]", word):
+                continue
+            # An item's name in QML ends in the item's own; "row_N" and "row_12" are keys with a number.
+            forms = {word, re.sub(r"^\w+_(?:cfg|res|act)_|_(?:N|\d+)$", "", word)}
+            if not forms & (tree.words() | shown):
                 yield f"{page}: nothing is called {word}"
 
 
@@ -269,7 +299,7 @@ def check_guards(tree):
 
 
 CHECKS = [check_links, check_packages, check_build_options, check_environment, check_options, check_presets, check_paths,
-          check_page_links, check_names, check_sources, check_rooms, check_guards]
+          check_page_links, check_names, check_properties, check_sources, check_rooms, check_guards]
 
 
 def main(root, build):

@@ -13,6 +13,9 @@ class Planted
 public:
     /// A member that has a text.
     void described();
+    /// Has a getter that needs no text of its own.
+    void setPaired(int value);
+    [[nodiscard]] int paired() const;
     void forgotten();
     /// Names a member that is not there, see Planted::missing().
     /// \\ref Planted::missing
@@ -56,7 +59,7 @@ def main(generators, work, doxygen, doxyfile, _, qmltypes, controls, *headers):
     check(code != 0, "gaps in a header are no failure")
     for gap in GAPS:
         check(gap in said, f"{gap} is not reported:\n{said}")
-    check("described" not in said.replace("misleading", ""), f"a described member is reported:\n{said}")
+    check("described" not in said and "aired" not in said, f"a described member is reported:\n{said}")
     copies = work / "copies"
     for kind, text, other, report in QML_GAPS:
         shutil.rmtree(copies, ignore_errors=True)

@@ -66,6 +66,9 @@ fi
 if [ -x "$plain/bin/uiutils-qml" ]; then
     "$plain/bin/uiutils-qml" --root "$plain/root" --list | grep -q '^basemgr_cfg_saveLocation'
 fi
+for schema in report-document service-file; do
+    cmp "$here/../../docs/$schema.schema.json" "$plain/share/uiutils/schemas/$schema.schema.json"
+done
 # What describes the services on a bus, for strangers and for the bus itself.
 bus="$plain/share/dbus-1"
 xmllint --noout --nonet --nodefdtd "$bus/interfaces/org.uiutils.kiv.Service.xml"

@@ -9,6 +9,7 @@ tree=$1 work=$2 packages=${3-}
 # shellcheck source=tools/chroot.sh
 . "$tree/tools/chroot.sh"
 bare=$work/bare
+trap 'say "line $LINENO failed"' ERR
 
 skip() {
     echo "skipped: $1"
@@ -17,18 +18,23 @@ skip() {
 
 make_bare_system() {
     remove_chroot "$bare"
-    make_chroot "$1" "$bare" apt "$work/bare.log" && in_chroot "$bare" apt-get -q update >"$work/apt.log" 2>&1 && return
+    if make_chroot "$1" "$bare" apt "$work/bare.log" && in_chroot "$bare" apt-get -q update >"$work/apt.log" 2>&1; then
+        return
+    fi
     ! grep -q 'Failed to fetch\|Temporary failure\|Could not connect' "$work/bare.log" || skip 'no packages can be fetched'
     fail "no bare system could be made: $(tail -n 3 "$work/bare.log")"
 }
 
 # The same packages as of a later version, for which they ask among each other.
 make_later() {
-    local package content=$work/content
+    local package named content=$work/content
     mkdir "$bare/later"
     for package in "$bare"/first/*.deb; do
         rm -rf "$content"
         dpkg-deb -R "$package" "$content"
+        # zgrep fails for each batch of files without a find.
+        named=$(find "$content" -type f -exec zgrep -lF /build/uiutils {} + || true)
+        [[ -z $named ]] || fail "the folder in which the packages were made is named in $named"
         sed -i 's/^\(Version: .*\)/\1+later/; s/(= \([^)]*\))/(= \1+later)/g' "$content/DEBIAN/control"
         dpkg-deb --root-owner-group -Zgzip -b "$content" "$bare/later" >/dev/null
     done
@@ -36,16 +42,18 @@ make_later() {
 
 # Each of our packages, with its version, that is installed or has left something.
 ours() {
-    in_chroot "$bare" dpkg-query -W -f '${source:Package} ${db:Status-Status} ${Version} ${Package}\n' | sed -n 's/^uiutils //p'
+    in_chroot "$bare" dpkg-query -W -f '${source:Package} ${db:Status-Status} ${Version} ${Package}\n' |
+        sed -n 's/^uiutils //p'
 }
 
 apt_in_bare() {
-    in_chroot "$bare" apt-get -q -y --no-install-recommends "$@" >>"$work/apt.log" 2>&1 || fail "apt-get $1: $(tail -n 5 "$work/apt.log")"
+    in_chroot "$bare" apt-get -q -y --no-install-recommends "$@" >>"$work/apt.log" 2>&1 ||
+        fail "apt-get $1: $(tail -n 5 "$work/apt.log")"
 }
 
 files() {
     (cd "$bare" && find etc usr var -path var/cache -prune -o -path var/log -prune -o -path var/lib/apt -prune -o \
-        -path var/lib/dpkg -prune -o -print) | grep -i 'uiutils\|kiv' || true
+        -path var/lib/dpkg -prune -o -print) | grep -e uiutils -e '/\(lib\)\?kiv' || true
 }
 
 mkdir -p "$work"

@@ -79,7 +79,7 @@ class UIUTILS_EXPORT Report : public QObject
     /// What the user chooses, by name: "reportName", "reportFormat", "reportSync_SS" and those that derived controllers
     /// add.
     Q_PROPERTY(QVariantMap settings READ getSettings NOTIFY settingsChanged)
-    /// What the user chooses for a job.
+    /// Settings for a job, by name; the library has none.
     Q_PROPERTY(QVariantMap jobSettings READ getJobSettings)
     /// Whether there is any of `jobSettings`.
     Q_PROPERTY(bool hasJobSettings READ hasJobSettings)

@@ -1,0 +1,34 @@
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Window 2.15
+import UiUtils 1.0
+import UiUtils.Controls 1.0
+
+// Every item of the service has a name here: the service's, "cfg", "res" or "act", and its own.
+Window {
+    width: 480
+    height: 460
+    visible: true
+    title: qsTr("Power meter")
+
+    Rectangle {
+        anchors.fill: parent
+        color: ControlsStyle.background
+    }
+    Column {
+        x: 40
+        y: 20
+        width: 400
+        spacing: 16
+
+        Meter { width: parent.width; item: powermeter_res_power }
+        Meter { width: parent.width; item: powermeter_res_noise }
+        ItemEntry { width: parent.width; item: powermeter_cfg_wavelength }
+        ItemEntry { width: parent.width; item: powermeter_cfg_reference }
+        Button {
+            text: powermeter_act_measure.label
+            onClicked: powermeter_act_measure.invoke()
+        }
+    }
+    Picture { }
+}
