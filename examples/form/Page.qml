@@ -86,6 +86,14 @@ Window {
             text: qsTr("Save")
             enabled: UiDataContainer.allItemsOk
             onClicked: save()
+            contentItem: Text {
+                text: button.text
+                textFormat: Text.PlainText
+                color: ControlsStyle.primaryText
+                font.pixelSize: ControlsStyle.bodyText
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+            }
             background: Rectangle {
                 implicitWidth: 160
                 implicitHeight: ControlsStyle.touch

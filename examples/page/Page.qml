@@ -25,9 +25,19 @@ Window {
         Meter { width: parent.width; item: powermeter_res_noise }
         ItemEntry { width: parent.width; item: powermeter_cfg_wavelength }
         ItemEntry { width: parent.width; item: powermeter_cfg_reference }
+        // A button would lay out markup in its text, and this one comes from the service.
         Button {
+            id: measure
             text: powermeter_act_measure.label
             onClicked: powermeter_act_measure.invoke()
+            contentItem: Text {
+                text: measure.text
+                textFormat: Text.PlainText
+                color: ControlsStyle.text
+                font.pixelSize: ControlsStyle.bodyText
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+            }
         }
     }
     Picture { }

@@ -1,8 +1,8 @@
 import QtQuick 2.15
 import QtQuick.Window 2.15
 
-// With "--picture FILE" on the command line, the window is drawn into FILE as soon as there is something to see, and the
-// program ends: a page can be looked at without a display.
+// With "--picture FILE" on the command line, the window is drawn into FILE as soon as there is something to see, and
+// the program ends: a page can be looked at without a display.
 Item {
     id: picture
 

@@ -30,8 +30,17 @@ Window {
         ItemEntry { width: parent.width; item: report.settings.reportName }
         ItemEntry { width: parent.width; item: report.settings.reportFormat }
         Button {
+            id: button
             text: qsTr("Save in %1").arg(report.saveLocation)
             onClicked: report.save()
+            contentItem: Text {
+                text: button.text
+                textFormat: Text.PlainText
+                color: ControlsStyle.text
+                font.pixelSize: ControlsStyle.bodyText
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+            }
         }
         Text {
             id: saved

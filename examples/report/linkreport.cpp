@@ -2,7 +2,6 @@
 
 #include "linkdrawing.h"
 
-#include <uiutils/nsreport.h>
 #include <uiutils/reportitem.h>
 
 #include <QScopeGuard>
@@ -30,8 +29,9 @@ void LinkReport::prepareDocument()
     report.beginSection(QStringLiteral("events"), tr("Events"));
     report.beginTable(QStringLiteral("list"), tr("Loss by event"));
     for (const Event& event : m_events)
-        report.addRow(QStringLiteral("loss"), event.kind, shown(event.loss, QStringLiteral("dB")),
-                {{QStringLiteral("status"), event.status}});
+        report.addRow(QStringLiteral("loss"),
+                tr("%1 at %2").arg(event.kind, shown(event.kilometre, QStringLiteral("km"))),
+                shown(event.loss, QStringLiteral("dB")), {{QStringLiteral("status"), event.status}});
     report.endTable();
     report.endSection();
     report.endReport();

@@ -2,6 +2,7 @@
 
 #include "measurement.h"
 
+#include <uiutils/nsreport.h>
 #include <uiutils/report.h>
 
 /// Saves what has been measured: as PDF with a drawing of its own, and as CSV, a format that only this report has.
@@ -11,7 +12,7 @@ class LinkReport : public Report
 
 public:
     /// What the setting of the format holds for CSV.
-    static constexpr int formatCsv = firstOwnFormat;
+    static constexpr int formatCsv = NSReport::firstOwnFormat;
 
     explicit LinkReport(QObject* parent = nullptr);
 

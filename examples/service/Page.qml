@@ -50,8 +50,17 @@ Window {
                 Repeater {
                     model: ["1310", "1550"]
                     Button {
+                        id: button
                         text: qsTr("%1 nm").arg(modelData)
                         onClicked: answer.text = linkbudget_act_suggest.invokeWithStringArg(modelData)
+                        contentItem: Text {
+                            text: button.text
+                            textFormat: Text.PlainText
+                            color: ControlsStyle.text
+                            font.pixelSize: ControlsStyle.bodyText
+                            horizontalAlignment: Text.AlignHCenter
+                            verticalAlignment: Text.AlignVCenter
+                        }
                     }
                 }
             }
@@ -67,6 +76,7 @@ Window {
         anchors.centerIn: parent
         visible: !budget.active
         text: qsTr("Waiting for the service")
+        textFormat: Text.PlainText
     }
     Picture { isReady: budget.active && linkbudget_res_loss.isReady }
 }

@@ -31,14 +31,15 @@ ItemDescription item(const QString& id, const QString& type, const QString& labe
 }
 
 /// A number from 0 to `maximum` that pages may set.
-ItemDescription setting(const QString& id, const QString& label, const QString& unit, double value, double maximum)
+ItemDescription setting(
+        const QString& id, const QString& label, const QString& unit, double value, double maximum, int decimals = 2)
 {
     ItemDescription description = item(id, QStringLiteral("double"), label);
     description.unit = unit;
     description.value = value;
     description.minimum = 0;
     description.maximum = maximum;
-    description.precision = 2;
+    description.precision = decimals;
     return description;
 }
 
@@ -50,7 +51,7 @@ ServiceDescription described()
     description.items += item(QStringLiteral(":result:linkbudget:manifest:"), QStringLiteral("std::string"), {});
     description.items += setting(length, QObject::tr("Length"), QStringLiteral("km"), 40, 200);
     description.items += setting(attenuation, QObject::tr("Attenuation"), QStringLiteral("dB/km"), 0.22, 5);
-    description.items += setting(connectors, QObject::tr("Connectors"), {}, 2, 100);
+    description.items += setting(connectors, QObject::tr("Connectors"), {}, 2, 100, 0);
     description.items += setting(allowed, QObject::tr("Allowed loss"), QStringLiteral("dB"), 15, 60);
     ItemDescription result = item(loss, QStringLiteral("double"), QObject::tr("Loss"));
     result.unit = QStringLiteral("dB");

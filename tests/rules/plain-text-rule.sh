@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "$1"
 
-mapfile -t files <<<"$(find apps qml docs -name '*.qml')"
+mapfile -t files <<<"$(find apps docs examples qml -name '*.qml')"
 test -e "${files[0]}"
 awk '
 function complain(what) {

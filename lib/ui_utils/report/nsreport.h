@@ -18,6 +18,9 @@ enum ReportFormat {
     REPORT_FORMAT_ALL
 };
 
+/// The formats of applications have values from this one on, see Report::addFormat().
+constexpr int firstOwnFormat = 100;
+
 /// Whether the two, in degrees, are a place on earth: -90 to 90 and -180 to 180. 0, 0 is not valid, because receivers
 /// without a fix report it.
 UIUTILS_EXPORT bool isGeoLocationValid(double latitude, double longitude);

@@ -107,8 +107,6 @@ public:
     static const QString SOR_EXTENSION;
     /// ".gz"
     static const QString GZIP_EXTENSION;
-    /// The formats of applications have values from this one on, see addFormat().
-    static constexpr int firstOwnFormat = 100;
     /// The items that the HTML pass collects and the page renderer prints. Each pass first deletes those of the pass
     /// before. What an application appends is printed too, stays in the list and remains the application's.
     static QList<ReportItem*>& m_reportItems;
@@ -348,10 +346,10 @@ protected:
     void setHtmlWriterAttributes(TemplateToHtmlWriter& writer) const;
     /// True if the report may be written; otherwise the user is asked.
     bool checkForOverwrite(const QString& name, const QString& suffix, bool overwrite);
-    /// Adds a format of the application's own to those that users can choose. `value`, at least firstOwnFormat, is what
-    /// the setting "reportFormat" holds and stores; `label` is what users read, also in lists and in the record of the
-    /// file; `suffix` ends the names of its files, as ".csv" does. Call it in the constructor, before the settings are
-    /// loaded.
+    /// Adds a format of the application's own to those that users can choose. `value`, at least
+    /// NSReport::firstOwnFormat, is what the setting "reportFormat" holds and stores; `label` is what users read, also
+    /// in lists and in the record of the file; `suffix` ends the names of its files, as ".csv" does. Call it in the
+    /// constructor, before the settings are loaded.
     ///
     /// A save in this format, or in ALL, which writes it after the formats of the library, calls `generate` for the
     /// contents, and is otherwise like any other: question, record, sync list, copies, notice. Empty contents are an

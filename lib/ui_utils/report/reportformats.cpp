@@ -1,7 +1,6 @@
 #include "report/reportformats_p.h"
 
 #include "local/uidata.h"
-#include "report/report.h"
 #include "report/reporttexts_p.h"
 
 #include <algorithm>
@@ -34,7 +33,7 @@ FormatInfos applicableFormats(const UiData& item)
 bool hasFormat(const UiData& item, const FormatInfo& format)
 {
     const QList<UiEnumType*> choices = choicesOf(item);
-    return format.value < Report::firstOwnFormat
+    return format.value < NSReport::firstOwnFormat
             || std::any_of(choices.cbegin(), choices.cend(),
                     [&](const UiEnumType* choice) { return choice->getValue() == format.value; });
 }
@@ -74,7 +73,7 @@ const std::deque<FormatInfo>& allReportFormats()
 
 const FormatInfo* addReportFormat(int value, const QString& label, const QString& suffix)
 {
-    if (value < Report::firstOwnFormat || !isSuffix(suffix))
+    if (value < NSReport::firstOwnFormat || !isSuffix(suffix))
         return nullptr;
     for (const FormatInfo& format : formatTable()) {
         if (format.value == value || format.suffix == suffix)
@@ -124,7 +123,7 @@ void addFormatChoices(UiData& item)
     QStringList labels;
     QStringList names;
     for (const FormatInfo& format : allReportFormats()) {
-        if (format.value >= Report::firstOwnFormat)
+        if (format.value >= NSReport::firstOwnFormat)
             break;
         values.append(format.value);
         labels.append(ReportTexts::tr(format.label.toLatin1().constData()));

@@ -22,7 +22,7 @@ inline const QLatin1String gzipSuffix(".gz");
 
 struct FormatInfo
 {
-    /// An NSReport::ReportFormat, or at least Report::firstOwnFormat for a format that an application has added.
+    /// An NSReport::ReportFormat, or at least NSReport::firstOwnFormat for a format that an application has added.
     int value;
     /// In English; of an application's format, as the application has given it.
     QString label;
