@@ -1,7 +1,7 @@
 #include "instrumentroot.h"
 
-#include "base/durablefile_p.h"
-#include "base/paths_p.h"
+#include "places.h"
+#include "savefile.h"
 #include "texts.h"
 
 #include <QDir>
@@ -22,7 +22,7 @@ bool installImage(const QString& name, const QString& folder, QString* error)
 {
     const QString target = folder + name;
     const QByteArray image = contentsOf(QStringLiteral(":/uiutils/images/") + name);
-    return contentsOf(target) == image || writeFileDurably(target, image, error);
+    return contentsOf(target) == image || saveFile(target, image, error);
 }
 
 QString whatToDo()
@@ -36,8 +36,8 @@ bool linkViewer(const QString& root, const QString& viewer, QString* error)
     if (viewer.isEmpty())
         return true;
     // The viewer is started in a folder that must exist.
-    const QFileInfo there(root + paths::pdfViewer);
-    if (!makeFolder(there.path(), error) || !makeFolder(root + paths::pdfViewerFolder, error))
+    const QFileInfo there(root + places::pdfViewer);
+    if (!makeFolder(there.path(), error) || !makeFolder(root + places::pdfViewerFolder, error))
         return false;
     if (there.symLinkTarget() == viewer || (there.exists() && !there.isSymLink()))
         return true;
@@ -73,7 +73,7 @@ bool makeFolder(const QString& folder, QString* error)
 
 bool prepareInstrumentRoot(const QString& root, const QString& viewer, QString* error)
 {
-    const QString images = root + paths::images;
+    const QString images = root + places::images;
     // Reports write their plots to the instrument's /tmp.
     if (!makeFolder(images, error) || !makeFolder(root + QStringLiteral("/tmp"), error))
         return false;

@@ -62,21 +62,7 @@ LARGEST_CIRCLE = 3
 
 # Arrows that break the rule at present, with the reason. The list may only shrink.
 EXCEPTIONS = """
-# The demo and the tools are built inside the tree.
-apps/demo/instrumentroot.cpp -> base/durablefile_p.h
-apps/demo/instrumentroot.cpp -> base/paths_p.h
-apps/demo/loopbackreport.cpp -> base/paths_p.h
-apps/demo/savedreportactions.cpp -> base/paths_p.h
-apps/demo/savedreportactions.cpp -> lib/ui_utils/report/saving/drivefile_p.h
-apps/demo/savedreportactions.cpp -> lib/ui_utils/instrument/drives_p.h
-apps/demo/savedreportactions.cpp -> lib/ui_utils/report/reportlisting_p.h
-apps/demo/savedreportactions.cpp -> lib/ui_utils/report/saving/reportrecord_p.h
-apps/demo/savedreportactions.h -> lib/ui_utils/report/reportlisting_p.h
-apps/demo/screencamera.cpp -> base/durablefile_p.h
-apps/demo/screencamera.cpp -> base/paths_p.h
-apps/demo/tour.cpp -> base/durablefile_p.h
-apps/demo/usbstick.cpp -> base/paths_p.h
-apps/demo/usbstick.cpp -> lib/ui_utils/core/itemids_p.h
+# The tools are built inside the tree.
 apps/reportconvert/conversion.cpp -> platform/reference/embedded/jsonschema_p.h
 """
 
