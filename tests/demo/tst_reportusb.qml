@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import UiUtils 1.0
 
 // Where reports are saved, with a USB drive and without.
 Item {
@@ -66,6 +67,8 @@ Item {
             const lists = (place, count, canChoose) => {
                 compare(text("reportPlace"), place === "USB" ? "USB:/" : "Internal:/reports/loopback/")
                 tryCompare(entry("reportList"), "count", count)
+                const current = () => entry("reportList").currentItem
+                tryVerify(() => count === 0 || (current() && current().file.drive === (place === "USB" ? SavedReports.Usb : SavedReports.Unit)))
                 compare([entry("unitButton").visible, entry("usbButton").visible], [canChoose, canChoose])
                 compare([entry("unitButton").checked, entry("usbButton").checked], [place !== "USB", place === "USB"])
                 tryCompare(entry("copyButton"), "visible", count > 0 && place !== "USB")
