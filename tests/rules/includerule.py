@@ -3,6 +3,7 @@
 
 import collections
 import os
+import re
 import sys
 
 sys.dont_write_bytecode = True
@@ -58,6 +59,8 @@ LIBRARIES = ("base/", "lib/", "platform/")
 # Programs may use base too, but not the demo, which shows what can be built on an installed library.
 INSIDERS = {"benchmarks", "busbench"}
 GUESTS_OF_BASE = {"demo"}
+# The libraries of the tree that the demo may link besides installed ones: its own parts, and what programs share.
+DEMO_LINKS = {"uiutils_demo_parts", "uiutils_apps_common"}
 LARGEST_CIRCLE = 3
 
 # Arrows that break the rule at present, with the reason. The list may only shrink.
@@ -88,6 +91,7 @@ class Rule:
 
     def __init__(self, texts, exceptions=None):
         self.graph = includegraph.Graph(texts)
+        self.demo_build = texts.get("apps/demo/CMakeLists.txt", "")
         self.pages = {path: text for path, text in texts.items() if path.endswith(".qml")}
         self.rooms = parse_rooms(ROOMS)
         self.units = self.graph.units()
@@ -95,7 +99,7 @@ class Rule:
         self.arrows = [arrow for arrow in self.graph.arrows if (arrow.source, arrow.target) not in self.exceptions]
 
     def faults(self):
-        return sorted(self.graph.faults + self.strangers() + self.misnamed() + self.judged() + self.imports()
+        return sorted(self.graph.faults + self.strangers() + self.misnamed() + self.judged() + self.imports() + self.links()
                       + self.header_circles() + self.unit_circles(self.arrows) + self.idle_exceptions())
 
     # --- Rooms ---
@@ -184,6 +188,12 @@ class Rule:
         return [Fault(path, line, f"pages of {os.path.dirname(path)} must not import {module}")
                 for path, text in self.pages.items() for line, module in includegraph.our_imports(text)
                 if module not in PAGES.get(os.path.dirname(path), [module])]
+
+    def links(self):
+        calls = re.finditer(r"target_link_libraries\(([^)]*)\)", self.demo_build)
+        return [Fault("apps/demo/CMakeLists.txt", self.demo_build.count("\n", 0, call.start()) + 1, f"the demo must not link {name}")
+                for call in calls for name in call.group(1).split()[1:]
+                if name.startswith("uiutils") and name not in DEMO_LINKS]
 
     # --- Circles ---
 
