@@ -152,7 +152,7 @@ Result listingCase(int runs)
     const Timing timing = interleaved(
             runs,
             [&] {
-                if (uiutils::reportFiles(folder.path()).size() != files)
+                if (uiutils::reportFiles(uiutils::savedReports(folder.path())).size() != files)
                     giveUp("reports are missing from the list");
             },
             [&] {

@@ -4,7 +4,6 @@
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
 #include "samplemodel.h"
-#include "savedreportactions.h"
 #include "screencamera.h"
 #include "usbstick.h"
 
@@ -19,7 +18,6 @@ void registerDemoTypes()
     qmlRegisterType<ItemEntry>(uri, 1, 0, "ItemEntry");
     qmlRegisterType<LoopbackMeasurement>(uri, 1, 0, "LoopbackMeasurement");
     qmlRegisterType<LoopbackReport>(uri, 1, 0, "LoopbackReport");
-    qmlRegisterType<SavedReportActions>(uri, 1, 0, "SavedReportActions");
     qmlRegisterType<ScreenCamera>(uri, 1, 0, "ScreenCamera");
     qmlRegisterType<UsbStick>(uri, 1, 0, "UsbStick");
     qmlRegisterUncreatableType<SampleModel>(

@@ -1,6 +1,6 @@
 #include "instrumentroot.h"
 
-#include "base/paths_p.h"
+#include "places.h"
 #include "texts.h"
 
 #include <QDir>
@@ -22,8 +22,8 @@ bool linkViewer(const QString& root, const QString& viewer, QString* error)
     if (viewer.isEmpty())
         return true;
     // The viewer is started in a folder that must exist.
-    const QFileInfo there(root + paths::pdfViewer);
-    if (!makeFolder(there.path(), error) || !makeFolder(root + paths::pdfViewerFolder, error))
+    const QFileInfo there(root + places::pdfViewer);
+    if (!makeFolder(there.path(), error) || !makeFolder(root + places::pdfViewerFolder, error))
         return false;
     if (there.symLinkTarget() == viewer || (there.exists() && !there.isSymLink()))
         return true;
@@ -59,7 +59,7 @@ bool makeFolder(const QString& folder, QString* error)
 
 bool prepareInstrumentRoot(const QString& root, const QString& viewer, QString* error)
 {
-    const QString images = root + paths::images;
+    const QString images = root + places::images;
     // Reports write their plots to the instrument's /tmp.
     if (!makeFolder(images, error) || !makeFolder(root + QStringLiteral("/tmp"), error))
         return false;

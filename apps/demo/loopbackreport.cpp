@@ -1,7 +1,8 @@
 #include "loopbackreport.h"
 
-#include "base/paths_p.h"
+#include "files/diskpath.h"
 #include "limit.h"
+#include "places.h"
 #include "report/nsreport.h"
 #include "writers/html/templatetohtmlwriter.h"
 #include "writers/text/textreport.h"
@@ -28,7 +29,7 @@ const struct
 /// The logo as part of the page; empty without a logo.
 QString logoUri()
 {
-    QFile file(onDisk(paths::logo));
+    QFile file(diskPath(places::logo));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return QStringLiteral("data:image/png;base64,") + QString::fromLatin1(file.readAll().toBase64());
@@ -50,6 +51,7 @@ LoopbackReport::LoopbackReport(QObject* parent)
     addSettings();
     // The page has a SaveProgress.
     setInteractive(true);
+    setNotifiesOncePerSave(true);
     setIncludeJobInfo(true);
     setIncludeCustomerInfo(true);
     setWriterAttribute(QStringLiteral("includeTechnicianInfoTop"), true);
@@ -124,24 +126,9 @@ QString LoopbackReport::cannotGenerateReportMessage()
     return hasResults() ? QString() : tr("Finish a measurement on the Measure page first.");
 }
 
-bool LoopbackReport::save(bool overwrite)
-{
-    setNotifiesTray(!isAll());
-    const bool isSaved = Report::save(overwrite);
-    setNotifiesTray(true);
-    return isSaved;
-}
-
-/// The last file of a save in all formats.
-bool LoopbackReport::writeJsonReport(const QString& path, bool overwrite)
-{
-    setNotifiesTray(true);
-    return Report::writeJsonReport(path, overwrite);
-}
-
 void LoopbackReport::keepFirstSettings()
 {
-    if (!QFile::exists(onDisk(paths::reportSettings + getFolder() + QStringLiteral(".json"))))
+    if (!QFile::exists(diskPath(places::reportSettings + getFolder() + QStringLiteral(".json"))))
         keepSettings();
 }
 
@@ -155,7 +142,7 @@ void LoopbackReport::prepareDocument()
 
 void LoopbackReport::reportWritten(const QString& path)
 {
-    m_savedFiles += onDisk(path);
+    m_savedFiles += diskPath(path);
     m_savedFiles.removeDuplicates();
     Q_EMIT fileWritten(path);
 }

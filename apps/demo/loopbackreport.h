@@ -35,19 +35,13 @@ public:
     /// The paths of the saved files on this machine's disk, in the order of saving, each once.
     QStringList savedFiles() const { return m_savedFiles; }
 
-    /// Saves the report. The user is notified once for all files of a save.
-    bool save(bool overwrite = false) override;
     /// "loopback_20260131-142500": a separate name for each run; "loopback" before the first.
     QString proposedFileName() override;
     QString cannotGenerateReportMessage() override;
     QString generateTxtReport() override;
     QString generateJsonReport() override;
-    bool writeJsonReport(const QString& path, bool overwrite = false) override;
     /// An HTML page that needs no other file.
     QString generateHtmlReport() override;
-
-    /// Call it after changing the saved files.
-    void tellFilesChanged() { Q_EMIT reportFilesChanged(); }
 
     /// Writes the present settings to the disk.
     void keepSettings() { saveSettings(); }

@@ -1,13 +1,15 @@
 #include "screencamera.h"
 
-#include "base/durablefile_p.h"
-#include "base/paths_p.h"
+#include "files/diskpath.h"
 #include "files/screenshot.h"
+#include "places.h"
+#include "savefile.h"
 
 #include <kiv/kivnotification.h>
 
 #include <QBuffer>
 #include <QDateTime>
+#include <QDir>
 #include <QFileInfo>
 #include <QQuickItem>
 
@@ -22,7 +24,7 @@ const QString suffix = QStringLiteral(".png");
 
 QString pathOf(const QString& baseName)
 {
-    return paths::screenshots + baseName + suffix;
+    return places::screenshots + baseName + suffix;
 }
 
 void tellTaken(const QString& shownPath)
@@ -55,7 +57,7 @@ QString ScreenCamera::freeBaseName(const QString& time)
 {
     const QString wanted = QStringLiteral("screenshot_") + time;
     QString name = wanted;
-    for (int number = 2; QFileInfo::exists(onDisk(pathOf(name))); ++number)
+    for (int number = 2; QFileInfo::exists(diskPath(pathOf(name))); ++number)
         name = QStringLiteral("%1_%2").arg(wanted).arg(number);
     return name;
 }
@@ -100,9 +102,9 @@ void ScreenCamera::keep(const QString& baseName)
         return;
     }
     // If there is no folder, the write reports that.
-    makeFolderDurably(onDisk(paths::screenshots));
+    QDir().mkpath(diskPath(places::screenshots));
     QString error;
-    if (!writeFileDurably(onDisk(path), bytes, &error)) {
+    if (!saveFile(diskPath(path), bytes, &error)) {
         fail(path, error);
         return;
     }
@@ -110,7 +112,7 @@ void ScreenCamera::keep(const QString& baseName)
     record.setBaseName(baseName);
     // The picture is safe without the record; the log has a line.
     record.saveMetadata();
-    m_pictures += onDisk(path);
+    m_pictures += diskPath(path);
     tellTaken(m_files.getSanitizedPathName(path));
     Q_EMIT taken(path);
 }

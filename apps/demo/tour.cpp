@@ -1,10 +1,10 @@
 #include "tour.h"
 
-#include "base/durablefile_p.h"
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
 #include "report/nsreport.h"
+#include "savefile.h"
 #include "screencamera.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
@@ -143,7 +143,7 @@ void Tour::keepPicture(const QString& path)
         fail(tr("The picture of the window for %1 is empty. Run the demo without a display, with DISPLAY and "
                 "WAYLAND_DISPLAY unset.")
                         .arg(path));
-    } else if (!writeFileDurably(path, bytes, &error)) {
+    } else if (!saveFile(path, bytes, &error)) {
         fail(error + QLatin1Char(' ')
                 + tr("Check the free space and that you may write there, or name another folder with "
                      "--root."));

@@ -1,8 +1,8 @@
 #include "usbstick.h"
 
-#include "base/paths_p.h"
-#include "core/itemids_p.h"
+#include "files/diskpath.h"
 #include "instrumentroot.h"
+#include "places.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
@@ -26,10 +26,12 @@ using kiv::embedded::EmbeddedService;
 
 namespace {
 
+const QString usbAttached = QStringLiteral(":result:basemgr:system:usbAttached:");
+
 /// The folder of the drive's files while it is plugged in.
 QString port()
 {
-    return QDir::cleanPath(onDisk(paths::usb));
+    return QDir::cleanPath(diskPath(places::usb));
 }
 
 /// The same while it is unplugged. Its existence says so, across restarts too.
@@ -50,25 +52,25 @@ EmbeddedService* baseManager()
 
 KIVClientItem* attachedItem()
 {
-    return baseManager() ? baseManager()->item(itemids::usbAttached) : nullptr;
+    return baseManager() ? baseManager()->item(usbAttached) : nullptr;
 }
 
 void setNoticed(bool isAttached)
 {
     if (baseManager())
-        baseManager()->setValue(itemids::usbAttached, isAttached);
+        baseManager()->setValue(usbAttached, isAttached);
 }
 
 void setMounted(bool isMounted)
 {
     if (isMounted && baseManager())
-        baseManager()->setMounted(paths::usb, true);
+        baseManager()->setMounted(places::usb, true);
     if (isMounted || !backend())
         return;
     // The user's own services may have mounted it, too.
     const QStringList names = backend()->serviceNames();
     for (const QString& name : names)
-        backend()->service(name)->setMounted(paths::usb, false);
+        backend()->service(name)->setMounted(places::usb, false);
 }
 
 /// Moves in one step, so that the files are always complete at one of the two places. An empty folder in the way is
@@ -111,17 +113,17 @@ void UsbStick::settle()
 bool UsbStick::isSupported() const
 {
     // Without a root folder of its own the demo would move a real mount point.
-    return attachedItem() && port() != QDir::cleanPath(paths::usb);
+    return attachedItem() && port() != QDir::cleanPath(places::usb);
 }
 
 bool UsbStick::isAttached() const
 {
-    return FileSystemUsage::isMounted(paths::usb);
+    return FileSystemUsage::isMounted(places::usb);
 }
 
 QString UsbStick::mountPoint() const
 {
-    return paths::usb;
+    return places::usb;
 }
 
 bool UsbStick::plug()

@@ -7,6 +7,7 @@
 #include "loopbackreport.h"
 #include "measurementsettings.h"
 #include "qmlwarnings.h"
+#include "screencamera.h"
 #include "service/kivdata.h"
 #include "ui_host/host.h"
 #include "usbstick.h"
@@ -340,17 +341,17 @@ private Q_SLOTS:
         removeReports();
         m_window->setProperty("page", 2);
         put(folder + "a.pdf", "a report");
-        m_report->tellFilesChanged();
-        QVERIFY(button("Delete")->isVisible() && !button("Open")->isVisible());
+        Q_EMIT m_report->reportFilesChanged();
+        QTRY_VERIFY(button("Delete")->isVisible() && !button("Open")->isVisible());
         for (const char* name : {"b.txt", "c.txt"})
             put(folder + name, "a report");
         // Prints that it was started.
         put("/base/bin/pdf_viewer", "#!/bin/sh\ntouch shown\n");
         QVERIFY(QFile(m_root.filePath("base/bin/pdf_viewer")).setPermissions(QFile::ReadOwner | QFile::ExeOwner));
         QVERIFY(QDir(m_root.path()).mkpath("base/qml/pdf_viewer"));
-        m_report->tellFilesChanged();
+        Q_EMIT m_report->reportFilesChanged();
         const QQuickItem* const list = named("reportList");
-        QCOMPARE(list->property("count").toInt(), 3);
+        QTRY_COMPARE(list->property("count").toInt(), 3);
         for (int i = 0; i < 20 && !list->hasActiveFocus(); ++i)
             QTest::keyClick(m_window, Qt::Key_Tab);
 
@@ -370,9 +371,19 @@ private Q_SLOTS:
         QVERIFY(notifications->currentDialog());
         QCOMPARE(notifications->currentDialog()->longLabel(), QString("Delete File"));
         notifications->accept();
-        QCOMPARE(list->property("count").toInt(), 2);
-        QCOMPARE(list->property("currentIndex").toInt(), 1);
+        QTRY_COMPARE(list->property("count").toInt(), 2);
+        QTRY_COMPARE(list->property("currentIndex").toInt(), 1);
         QTRY_VERIFY(list->hasActiveFocus());
+    }
+
+    void screenshotsHaveNamesOfTheirOwn()
+    {
+        const QString name("screenshot_20260131-142500");
+        QCOMPARE(ScreenCamera::freeBaseName("20260131-142500"), name);
+        for (const char* taken : {".png", "_2.png"})
+            put("/cust/public/screenshots/" + name + taken, "a picture");
+        QCOMPARE(ScreenCamera::freeBaseName("20260131-142500"), name + "_3");
+        QVERIFY(QDir(m_root.filePath("cust/public/screenshots")).removeRecursively());
     }
 
     /// With its dialogs, under a name of its own, and with one notification.
@@ -510,7 +521,7 @@ private:
     void removeReports()
     {
         QVERIFY(QDir(m_root.filePath("cust/public/reports")).removeRecursively());
-        m_report->tellFilesChanged();
+        Q_EMIT m_report->reportFilesChanged();
     }
 
     kiv::embedded::EmbeddedService* service(const QString& id) const

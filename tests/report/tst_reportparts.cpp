@@ -286,7 +286,7 @@ private Q_SLOTS:
 
         for (const QString& folder : {QString("/cust/public/reports"), QString("/cust/public/reports/")}) {
             QStringList lines;
-            const QVariantList files = uiutils::reportFiles(folder);
+            const QVariantList files = uiutils::reportFiles(uiutils::savedReports(folder));
             for (const QVariant& file : files) {
                 const QVariantMap map = file.toMap();
                 lines += QStringList({map["name"].toString(), map["path"].toString(), map["format"].toString(),
@@ -304,7 +304,7 @@ private Q_SLOTS:
                                     ".hidden /cust/public/reports/.hidden.pdf PDF 1 0 false"}));
         }
         for (const QString& none : {QString(), QString("/cust/none"), QString("/cust/public/reports/a.txt")})
-            QVERIFY(uiutils::reportFiles(none).isEmpty());
+            QVERIFY(uiutils::savedReports(none).isEmpty());
     }
 
     /// The folder's modification time decides; a file that grows in place does not change it.

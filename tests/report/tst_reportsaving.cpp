@@ -217,6 +217,38 @@ private Q_SLOTS:
         }
     }
 
+    void oneNoticeForAllFilesOfASave()
+    {
+        const auto titles = [] {
+            QStringList found;
+            for (int i = 0; i < manager()->count(); ++i)
+                found += manager()->data(manager()->index(i), KIVNotificationModelManager::LongLabelRole).toString();
+            return found;
+        };
+        Controller report("a", 5);
+        report.setNotifiesOncePerSave(true);
+        // The notice follows the last file, and comes also if one of them could not be written.
+        for (const char* pages : {"%PDF-", ""}) {
+            report.pages = pages;
+            int written = -1;
+            const auto counter = connect(manager(), &QAbstractItemModel::rowsInserted, this, [&] {
+                if (titles().constFirst() == "Report Saved")
+                    written = report.calls.count("written");
+            });
+            QCOMPARE(report.save(true), *pages != 0);
+            disconnect(counter);
+            QCOMPARE(written, *pages ? 5 : 9);
+            QCOMPARE(titles().mid(0, 2), *pages ? QStringList("Report Saved") : QStringList({"Report Saved", "Write Error"}));
+            QCOMPARE(titles().count("Report Saved"), *pages ? 1 : 2);
+        }
+        // A file that is written alone has its own.
+        QVERIFY(report.writeTxtReport("/cust/public/reports/b.txt"));
+        QCOMPARE(titles().count("Report Saved"), 3);
+        report.setNotifiesTray(false);
+        report.save(true);
+        QCOMPARE(titles().count("Report Saved"), 3);
+    }
+
     void overwritingIsAskedFor()
     {
         Controller report("a", 3);

@@ -152,6 +152,12 @@ class Planted(unittest.TestCase):
         self.assert_told(private, 1, "is installed although", {
             "lib/ui_utils/core/CMakeLists.txt": "uiutils_room(PUBLIC planted_p.h PRIVATE planted.cpp)", private: ""})
 
+    def test_what_the_demo_links(self):
+        link = "target_link_libraries(uiutils_demo_parts PUBLIC UiUtils::uiutils Qt5::Quick {})\n"
+        build = "apps/demo/CMakeLists.txt"
+        self.assert_told(build, 2, "must not link uiutils_base", {build: "\n" + link.format("uiutils_base")})
+        self.assert_not_told({build: link.format("Kiv::embedded\n    uiutils_apps_common")})
+
     def test_circles_of_headers(self):
         one, two = (f"lib/ui_utils/core/planted{number}_p.h" for number in (1, 2))
         self.assert_told(one, 2, "headers include each other", {one: including(two), two: including(one)})

@@ -239,7 +239,7 @@ FocusScope {
                 Layout.fillHeight: true
                 Layout.preferredHeight: 8
 
-                SavedReports {
+                SavedReportList {
                     anchors { fill: parent; margins: Theme.margin }
                     report: page.report
                     stick: page.stick

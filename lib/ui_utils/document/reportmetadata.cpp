@@ -185,6 +185,11 @@ QString ReportMetadata::getInfo(const QString& key) const
     return d->pairs.value(key);
 }
 
+QMap<QString, QString> ReportMetadata::info() const
+{
+    return d->pairs;
+}
+
 void ReportMetadata::updateMetadataPathBase(const QString& reportDir)
 {
     d->originBase = reportDir;

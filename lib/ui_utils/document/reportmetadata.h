@@ -2,6 +2,7 @@
 
 #include "core/uiutils_export.h"
 
+#include <QMap>
 #include <QSharedDataPointer>
 #include <QString>
 
@@ -62,6 +63,8 @@ public:
     void setInfo(const char* key, const char* value) { setInfo(QString::fromUtf8(key), QString::fromUtf8(value)); }
     /// The value of a pair; empty if there is none.
     QString getInfo(const QString& key) const;
+    /// All pairs.
+    QMap<QString, QString> info() const;
 
     /// Sets the folder of the described file and, derived from it, that of the record: "/cust/public/reports/otdr/" has
     /// its records in "/cust/private/reports/metadata/otdr/", and ".../reports/autosave/" in ".../reports/metadata/".

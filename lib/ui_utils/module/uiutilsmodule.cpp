@@ -9,6 +9,7 @@
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
 #include "report/report.h"
+#include "report/savedreports.h"
 #include "service/forgivingvalidator.h"
 #include "service/kivaggregatedata.h"
 #include "service/kivlistaggregatedata.h"
@@ -129,6 +130,7 @@ void registerTypes(const char* uri)
     registerLocalTypes(uri);
     registerFileTypes(uri);
     qmlRegisterType<Report>(uri, 1, 0, "Report");
+    qmlRegisterType<SavedReports>(uri, 1, 0, "SavedReports");
 }
 
 } // namespace uiutils

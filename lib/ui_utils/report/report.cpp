@@ -280,6 +280,16 @@ void Report::setNotifiesTray(bool notifies)
     d->notifiesTray = notifies;
 }
 
+bool Report::getNotifiesOncePerSave() const
+{
+    return d->notifiesOncePerSave;
+}
+
+void Report::setNotifiesOncePerSave(bool once)
+{
+    d->notifiesOncePerSave = once;
+}
+
 QStringList Report::getScreenshotList() const
 {
     return d->screenshots;

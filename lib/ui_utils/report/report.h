@@ -91,6 +91,9 @@ class UIUTILS_EXPORT Report : public QObject
     Q_PROPERTY(bool saving READ isSaving NOTIFY savingChanged)
     /// How much of the running save is written, 0 to 1: a PDF page by page, all formats in equal shares.
     Q_PROPERTY(double progress READ getProgress NOTIFY progressChanged)
+    /// Whether the tray has one notice for all files of a save, once the last of them is written, in place of one for
+    /// each; false by default. With `notifiesTray` false there is none.
+    Q_PROPERTY(bool notifiesOncePerSave READ getNotifiesOncePerSave WRITE setNotifiesOncePerSave)
 
 public:
     /// ".pdf"
@@ -156,6 +159,8 @@ public:
     void setScreenshotList(const QStringList& screenshots);
     bool isSaving() const;
     double getProgress() const;
+    bool getNotifiesOncePerSave() const;
+    void setNotifiesOncePerSave(bool once);
 
     /// Whether the page handles events while a report is saved: save() then does so between pages and formats, and the
     /// page can show the progress and call cancel(). The page has to keep users from everything else for as long as

@@ -70,6 +70,7 @@ public:
     bool showSoftwareRevs = true;
     bool isCompressionEnabled = false;
     bool notifiesTray = true;
+    bool notifiesOncePerSave = false;
     bool isInteractive = false;
     QString testTime;
     QString testDuration;

@@ -10,6 +10,7 @@
 #include "report/saving/nosynclist_p.h"
 #include "report/saving/reportrecord_p.h"
 #include "report/saving/saveplan_p.h"
+#include "report/viewer_p.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 #include "writers/html/templatetohtmlwriter.h"
 #include "writers/html/templatetopdfwriter.h"
@@ -17,7 +18,6 @@
 #include <kiv/filesystemusage.h>
 
 #include <QPointer>
-#include <QProcess>
 #include <QScopeGuard>
 
 using uiutils::onDisk;
@@ -340,12 +340,10 @@ void Report::showPDF(const QString& path)
 {
     const QString shown = path.isEmpty() ? d->lastPdf : path;
     const QString windowTitle = path.isEmpty() ? getTitle() : tr("View Report");
-    if (!shown.endsWith(PDF_EXTENSION) && !shown.endsWith(PDF_EXTENSION + GZIP_EXTENSION))
+    if (!uiutils::isForViewer(shown))
         return;
     d->lastPdf = shown;
-    QStringList arguments = QStringLiteral("-plugin EvdevTouch:/dev/input/event1 --dpy 85 -s").split(QLatin1Char(' '));
-    arguments << onDisk(shown) << QStringLiteral("-t") << windowTitle;
-    QProcess::startDetached(onDisk(uiutils::paths::pdfViewer), arguments, onDisk(uiutils::paths::pdfViewerFolder));
+    uiutils::startViewer(shown, windowTitle);
 }
 
 // --- Hooks ---

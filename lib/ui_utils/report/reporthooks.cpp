@@ -28,6 +28,11 @@ bool ReportHooks::notifiesTray() const
     return m_report && data().notifiesTray;
 }
 
+bool ReportHooks::notifiesOncePerSave() const
+{
+    return m_report && data().notifiesOncePerSave;
+}
+
 bool ReportHooks::isInteractive() const
 {
     return m_report && data().isInteractive;

@@ -20,6 +20,7 @@ public:
     bool isAlive() const override { return m_report; }
     bool isCompressed() const override;
     bool notifiesTray() const override;
+    bool notifiesOncePerSave() const override;
     void storeSettings() override;
     QString chosenName() override;
     FormatChoice chosenFormats() override;

@@ -4,12 +4,10 @@
 #include "instrument/drives_p.h"
 #include "report/reportformats_p.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QVariantMap>
-#include <QVector>
 
 #include <algorithm>
 #include <sys/stat.h>
@@ -17,17 +15,6 @@
 namespace uiutils {
 
 namespace {
-
-struct SavedReport
-{
-    QString fileName;
-    QString name;
-    QString format;
-    qint64 size = 0;
-    QDateTime time;
-    qint64 order = 0;
-    bool isCompressed = false;
-};
 
 /// Takes the file's name apart. False if it is not that of a report.
 bool readName(const QString& fileName, SavedReport* report)
@@ -41,22 +28,23 @@ bool readName(const QString& fileName, SavedReport* report)
     });
     if (format == formats.cend() || end == format->suffix.size())
         return false;
-    report->fileName = fileName;
     report->name = fileName.left(end - format->suffix.size());
     report->format = format->label;
     return true;
 }
 
-QVector<SavedReport> reportsIn(const QString& place)
+QVector<SavedReport> reportsIn(const QString& folder)
 {
     QVector<SavedReport> reports;
-    const QFileInfoList files = QDir(place).entryInfoList(QDir::Files | QDir::Hidden, QDir::Unsorted);
+    const QString start = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+    const QFileInfoList files = QDir(onDisk(folder)).entryInfoList(QDir::Files | QDir::Hidden, QDir::Unsorted);
     reports.reserve(files.size());
     for (const QFileInfo& file : files) {
         SavedReport report;
         // Some desktops put a companion with such a name beside each file of a USB drive.
         if (file.fileName().startsWith(QLatin1String("._")) || !readName(file.fileName(), &report))
             continue;
+        report.path = start + file.fileName();
         report.size = file.size();
         report.time = file.lastModified();
         report.order = report.time.toMSecsSinceEpoch();
@@ -65,58 +53,67 @@ QVector<SavedReport> reportsIn(const QString& place)
     return reports;
 }
 
-/// Reports of one name and time are in the order of their file names, so that all calls give the same list.
-bool comesBefore(const SavedReport& a, const SavedReport& b)
-{
-    if (a.order != b.order)
-        return a.order > b.order;
-    return a.name != b.name ? a.name < b.name : a.fileName < b.fileName;
-}
-
 /// Whether certainly no report is being written now: that changes their times, but not the folder's.
-bool areSettled(const QVariantList& reports, const timespec& now)
+bool areSettled(const QVector<SavedReport>& reports, const timespec& now)
 {
     constexpr qint64 longestPause = 2000;
     const qint64 time = now.tv_sec * qint64(1000) + now.tv_nsec / 1'000'000;
-    return std::none_of(reports.cbegin(), reports.cend(), [&](const QVariant& report) {
-        const QDateTime changed = report.toMap().value(QStringLiteral("time")).toDateTime();
-        return qAbs(time - changed.toMSecsSinceEpoch()) <= longestPause;
-    });
+    return std::none_of(reports.cbegin(), reports.cend(),
+            [&](const SavedReport& report) { return qAbs(time - report.order) <= longestPause; });
 }
 
 } // namespace
 
-QVariantList reportFiles(const QString& folder)
+bool comesBefore(const SavedReport& a, const SavedReport& b)
+{
+    if (a.order != b.order)
+        return a.order > b.order;
+    return a.name != b.name ? a.name < b.name : a.path < b.path;
+}
+
+QVector<SavedReport> savedReports(const QString& folder)
 {
     // An empty path would mean the current folder of the process.
     if (folder.isEmpty() || folder.contains(QChar(QChar::Null)))
-        return QVariantList();
-    QVector<SavedReport> reports = reportsIn(onDisk(folder));
+        return {};
+    QVector<SavedReport> reports = reportsIn(folder);
     std::sort(reports.begin(), reports.end(), comesBefore);
-    const QString start = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+    return reports;
+}
+
+QVariantList reportFiles(const QVector<SavedReport>& reports)
+{
     QVariantList list;
     list.reserve(reports.size());
-    for (const SavedReport& report : qAsConst(reports)) {
-        list += QVariantMap {{QStringLiteral("name"), report.name},
-                {QStringLiteral("path"), QString(start + report.fileName)}, {QStringLiteral("format"), report.format},
-                {QStringLiteral("size"), report.size}, {QStringLiteral("time"), report.time},
-                {QStringLiteral("compressed"), report.isCompressed}};
+    for (const SavedReport& report : reports) {
+        list += QVariantMap {{QStringLiteral("name"), report.name}, {QStringLiteral("path"), report.path},
+                {QStringLiteral("format"), report.format}, {QStringLiteral("size"), report.size},
+                {QStringLiteral("time"), report.time}, {QStringLiteral("compressed"), report.isCompressed}};
     }
     return list;
 }
 
 QVariantList ReportListing::files(const QString& folder)
 {
+    const QVector<SavedReport>& listed = reports(folder);
+    if (m_files.isEmpty())
+        m_files = reportFiles(listed);
+    return m_files;
+}
+
+const QVector<SavedReport>& ReportListing::reports(const QString& folder)
+{
     // Files and folders take their times from this clock: what changes from here on has this time or a later one.
     timespec now = {};
     ::clock_gettime(CLOCK_REALTIME_COARSE, &now);
     const std::optional<FolderState> state = instrument::isOnUsb(folder) ? std::nullopt : stateOf(folder);
     if (state && m_state && *m_state == *state && m_folder == folder)
-        return m_files;
-    m_files = instrument::isDriveThere(folder) ? reportFiles(folder) : QVariantList();
+        return m_reports;
+    m_reports = instrument::isDriveThere(folder) ? savedReports(folder) : QVector<SavedReport>();
+    m_files.clear();
     m_folder = folder;
-    m_state = state && isSettled(*state, now) && areSettled(m_files, now) ? state : std::nullopt;
-    return m_files;
+    m_state = state && isSettled(*state, now) && areSettled(m_reports, now) ? state : std::nullopt;
+    return m_reports;
 }
 
 bool ReportListing::FolderState::operator==(const FolderState& other) const

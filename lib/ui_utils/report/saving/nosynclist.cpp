@@ -224,6 +224,12 @@ bool areLines(const QStringList& paths, QString* error)
 
 } // namespace
 
+std::optional<QStringList> noSyncList(QString* error)
+{
+    const std::optional<Lines> lines = read(error);
+    return lines ? std::optional(textsOf(*lines)) : std::nullopt;
+}
+
 bool addToNoSyncList(const QStringList& paths, QString* error)
 {
     return areLines(paths, error)

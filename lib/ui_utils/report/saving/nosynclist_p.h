@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 /// The reports that the cloud does not sync: instrument paths of the files, each with the path of its record, which has
 /// "json" in place of the last suffix. One path per line; several processes may edit the list.
 ///
@@ -15,6 +17,9 @@ namespace uiutils {
 /// In bytes; no function here makes the list larger.
 constexpr qint64 largestNoSyncList = qint64(1024) * 1024;
 
+/// The paths in the list, in its order; none if there is no list yet. Nothing, with the reason in `error`, if the list
+/// cannot be used.
+std::optional<QStringList> noSyncList(QString* error);
 /// In one edit. Leaves out the path of a record if it is also that of an existing JSON report that is synced.
 bool addToNoSyncList(const QStringList& paths, QString* error);
 /// In one edit. The path of the record stays as long as it also stands for another report: a JSON report, or one in a

@@ -4,6 +4,7 @@
 #include "core/itemids_p.h"
 #include "document/reportmetadata.h"
 #include "instrument/basemanager_p.h"
+#include "instrument/drives_p.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -37,6 +38,12 @@ void describeReport(ReportMetadata* record, const QString& path, const QString& 
     record->setFormat(format);
     record->setTimeStamp(timeStamp(time));
     locate(record, path);
+}
+
+bool readReportRecord(ReportMetadata* record, const QString& path)
+{
+    locate(record, path);
+    return instrument::isDriveThere(path) && record->loadFromDisk();
 }
 
 void removeReportRecord(const QString& path)

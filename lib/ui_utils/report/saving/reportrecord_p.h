@@ -11,6 +11,10 @@ namespace uiutils {
 /// Clears the record and makes it that of the report at the instrument path: a result in this format, made at `time`.
 void describeReport(ReportMetadata* record, const QString& path, const QString& format, const QDateTime& time);
 
+/// Reads the record of the report at the instrument path. False, with a line in the log, if there is none that can be
+/// read or its drive is not there.
+bool readReportRecord(ReportMetadata* record, const QString& path);
+
 /// Deletes the record of the report at the instrument path, if there is one. If that fails, the log has a line.
 void removeReportRecord(const QString& path);
 

@@ -1,5 +1,6 @@
 #include "report/saving/savedialogs_p.h"
 
+#include "instrument/drives_p.h"
 #include "report/reporttexts_p.h"
 
 #include <QPointer>
@@ -52,6 +53,16 @@ void SaveDialogs::notifySyncError(const QString& consequence, const QString& rea
     const bool isSave = m_isFirstError.has_value();
     if (!isSave || !std::exchange(m_isSyncErrorShown, true))
         notify(ReportTexts::tr("Sync"), consequence + QLatin1Char(' ') + reason);
+}
+
+void SaveDialogs::notifySyncError(const QStringList& files, bool isSynced, const QString& reason)
+{
+    QStringList shown;
+    for (const QString& file : files)
+        shown += instrument::shownPath(file);
+    const QString consequence = isSynced ? ReportTexts::tr("%1 is still on the list of reports that are not synced.")
+                                         : ReportTexts::tr("The cloud may take %1, although it is not to be synced.");
+    notifySyncError(consequence.arg(shown.join(QLatin1String(", "))), reason);
 }
 
 void SaveDialogs::close()

@@ -5,6 +5,7 @@
 #include <kiv/kivnotification.h>
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -27,6 +28,8 @@ public:
     /// Notifies the user that the list of reports that are not synced could not be changed: what follows from that, and
     /// why. The log has the reason in any case.
     void notifySyncError(const QString& consequence, const QString& reason);
+    /// The same, with what follows for the files at the instrument paths, which were to be synced or not.
+    void notifySyncError(const QStringList& files, bool isSynced, const QString& reason);
 
     /// Closes all dialogs while everything is still valid for those who are notified of that.
     void close();

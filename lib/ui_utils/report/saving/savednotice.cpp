@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace uiutils {
 
 namespace {
@@ -19,6 +21,15 @@ QString reportNameOf(const QString& path)
     return QFileInfo(plain).completeBaseName();
 }
 
+void postNotice(const QString& path)
+{
+    // The tray copies it.
+    KIVNotification notification;
+    notification.setLongLabel(ReportTexts::tr("Report Saved"));
+    notification.setMsg(savedMessage(path));
+    notification.notifyTray();
+}
+
 } // namespace
 
 QString savedMessage(const QString& path)
@@ -27,13 +38,25 @@ QString savedMessage(const QString& path)
     return ReportTexts::tr("Report %1 saved\nFolder: %2").arg(reportNameOf(clean), instrument::shownFolderOf(clean));
 }
 
-void postSavedNotice(const QString& path)
+void SavedNotices::begin(bool isOneForAll)
 {
-    // The tray copies it.
-    KIVNotification notification;
-    notification.setLongLabel(ReportTexts::tr("Report Saved"));
-    notification.setMsg(savedMessage(path));
-    notification.notifyTray();
+    m_isOneForAll = isOneForAll;
+}
+
+void SavedNotices::post(const QString& path)
+{
+    if (!m_isOneForAll)
+        postNotice(path);
+    else if (m_first.isEmpty())
+        m_first = path;
+}
+
+void SavedNotices::end()
+{
+    m_isOneForAll = false;
+    const QString first = std::exchange(m_first, QString());
+    if (!first.isEmpty())
+        postNotice(first);
 }
 
 } // namespace uiutils

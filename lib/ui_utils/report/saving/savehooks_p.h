@@ -21,6 +21,7 @@ public:
     virtual bool isAlive() const = 0;
     virtual bool isCompressed() const = 0;
     virtual bool notifiesTray() const = 0;
+    virtual bool notifiesOncePerSave() const = 0;
 
     // --- What the user and the page have chosen ---
     virtual void storeSettings() = 0;

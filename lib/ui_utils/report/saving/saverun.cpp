@@ -125,7 +125,9 @@ bool SaveRun::write()
     hooks().savingChanged();
     if (hasOldProgress)
         hooks().progressChanged();
+    m_saving->notices.begin(hooks().notifiesOncePerSave());
     bool isComplete = writeFiles();
+    m_saving->notices.end();
     // What a user does not want synced is not synced, even if another format could not be written.
     updateSyncList();
     isComplete = isComplete && copyToUsb();

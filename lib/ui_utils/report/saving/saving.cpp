@@ -2,11 +2,9 @@
 
 #include "base/paths_p.h"
 #include "instrument/drives_p.h"
-#include "report/reporttexts_p.h"
 #include "report/saving/nosynclist_p.h"
 #include "report/saving/reportfilewriter_p.h"
 #include "report/saving/reportrecord_p.h"
-#include "report/saving/savednotice_p.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -76,7 +74,7 @@ bool Saving::write(const QString& path, const QByteArray& contents, bool overwri
     const bool notifiesTray = hooks->notifiesTray();
     hooks->fileWritten(path, file.path);
     if (hooks->isAlive() ? hooks->notifiesTray() : notifiesTray)
-        postSavedNotice(file.path);
+        notices.post(file.path);
     return true;
 }
 
@@ -98,16 +96,10 @@ void Saving::updateSyncList(const QStringList& files, bool isSynced)
     const bool isUpdated = isSynced ? removeFromNoSyncList(files, &error) : addToNoSyncList(files, &error);
     if (isUpdated)
         return;
-    if (!hooks->isAlive()) {
+    if (hooks->isAlive())
+        dialogs.notifySyncError(files, isSynced, error);
+    else
         qWarning("%s", qUtf8Printable(error));
-        return;
-    }
-    QStringList shown;
-    for (const QString& file : files)
-        shown += instrument::shownPath(file);
-    const QString consequence = isSynced ? ReportTexts::tr("%1 is still on the list of reports that are not synced.")
-                                         : ReportTexts::tr("The cloud may take %1, although it is not to be synced.");
-    dialogs.notifySyncError(consequence.arg(shown.join(QLatin1String(", "))), error);
 }
 
 // --- Progress ---

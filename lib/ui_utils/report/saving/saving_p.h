@@ -4,6 +4,7 @@
 #include "report/saving/consent_p.h"
 #include "report/saving/overwritequestion_p.h"
 #include "report/saving/savedialogs_p.h"
+#include "report/saving/savednotice_p.h"
 #include "report/saving/savehooks_p.h"
 #include "report/saving/saveprogress_p.h"
 
@@ -30,6 +31,7 @@ public:
     Consent consent;
     OverwriteQuestion question;
     SaveDialogs dialogs;
+    SavedNotices notices;
     SaveProgress progress;
     /// Whether another save is rejected now. Otherwise a slot that is notified of a save's progress could start one
     /// within the other, and that one the next.

@@ -14,34 +14,20 @@ ColumnLayout {
     property bool showsStick: false
     readonly property bool canChoose: stick !== null && stick.attached
     readonly property alias list: list
-    property var files: []
     // The folder of these reports, which may differ from the folder of the next save.
-    property string place
+    readonly property string place: words.getSanitizedPathName(showsStick ? stick.mountPoint : reports.folder)
     // Null without a report.
-    readonly property var current: files[list.currentIndex] || null
+    readonly property var current: list.currentItem ? list.currentItem.file : null
     // Other formats cannot be viewed on the instrument.
-    readonly property bool canOpen: hasViewer && current !== null && current.format === "PDF"
-    property bool hasViewer: false
-
-    // New reports are added at the top. When nothing was added, the position stays after a deletion.
-    function refresh() {
-        const newest = files.length > 0 ? files[0] : null
-        const row = list.currentIndex
-        hasViewer = actions.hasViewer()
-        files = showsStick ? actions.reportsOnUsb() : actions.reportsInUnit()
-        place = words.getSanitizedPathName(showsStick ? stick.mountPoint : report.getReportFilePath())
-        const isNews = files.length > 0 && (newest === null || files[0].time > newest.time)
-        list.currentIndex = isNews ? 0 : Math.min(row, files.length - 1)
-        list.positionViewAtIndex(list.currentIndex, ListView.Contain)
-    }
+    readonly property bool canOpen: current !== null && current.viewable
 
     function open() {
         if (canOpen)
-            report.showPDF(current.path)
+            reports.open(current.path)
     }
     function remove() {
         if (current !== null)
-            actions.remove(current.path)
+            reports.remove(current.path)
     }
 
     // "34.5 kB"; decimal, like the sizes of drives.
@@ -57,20 +43,20 @@ ColumnLayout {
     spacing: Theme.gap
 
     FileUtils { id: words }
-    SavedReportActions {
-        id: actions
+    SavedReports {
+        id: reports
         report: saved.report
+        drive: saved.showsStick ? SavedReports.Usb : SavedReports.Unit
+        // The newest is at the top. Later, when the view has the new rows.
+        onRowsInserted: (parent, first) => {
+            if (first === 0)
+                Qt.callLater(list.goToNewest)
+        }
     }
 
-    Component.onCompleted: refresh()
     onCanChooseChanged: showsStick = showsStick && canChoose
-    onShowsStickChanged: {
-        files = []
-        refresh()
-    }
     Connections {
         target: saved.report
-        function onReportFilesChanged() { saved.refresh() }
         // A new report is shown after a save.
         function onFileWritten(path) { saved.showsStick = saved.canChoose && path.startsWith(saved.stick.mountPoint) }
     }
@@ -158,7 +144,7 @@ ColumnLayout {
                 filled: false
                 text: qsTr("To USB")
                 Accessible.name: qsTr("Copy to the USB drive")
-                onClicked: actions.copyToUsb(saved.current.path)
+                onClicked: reports.copyToUsb(saved.current.path)
             }
             ActionButton {
                 objectName: "deleteButton"
@@ -179,6 +165,10 @@ ColumnLayout {
                 act()
         }
 
+        function goToNewest() {
+            currentIndex = 0
+        }
+
         Layout.fillWidth: true
         Layout.fillHeight: true
         clip: true
@@ -186,7 +176,7 @@ ColumnLayout {
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
-        model: saved.files
+        model: reports
         Keys.onReturnPressed: pressBy(event, saved.open)
         Keys.onEnterPressed: pressBy(event, saved.open)
         Keys.onDeletePressed: pressBy(event, saved.remove)
@@ -201,13 +191,15 @@ ColumnLayout {
         delegate: Rectangle {
             id: row
 
+            readonly property var file: model
+
             width: list.width - (bar.size < 1 ? bar.width + 2 : 0)
             height: Theme.touch - list.spacing
             radius: Theme.radius
             color: ListView.isCurrentItem ? Theme.selected : Theme.background
             border { width: list.activeFocus && ListView.isCurrentItem ? 3 : 0; color: Theme.focus }
             Accessible.role: Accessible.ListItem
-            Accessible.name: modelData.name + ", " + modelData.format
+            Accessible.name: model.name + ", " + model.format
             Accessible.description: details.text
             Accessible.selected: ListView.isCurrentItem
 
@@ -224,7 +216,7 @@ ColumnLayout {
 
                 Text {
                     Layout.preferredWidth: 48
-                    text: modelData.format
+                    text: model.format
                     textFormat: Text.PlainText
                     color: Theme.primary
                     font { pixelSize: Theme.smallText; bold: true }
@@ -236,7 +228,7 @@ ColumnLayout {
                     Text {
                         Layout.fillWidth: true
                         // A name may contain line feeds.
-                        text: modelData.name.replace(/\s/g, " ")
+                        text: model.name.replace(/\s/g, " ")
                         textFormat: Text.PlainText
                         color: Theme.text
                         font.pixelSize: Theme.smallText + 1
@@ -245,15 +237,15 @@ ColumnLayout {
                     }
                     Text {
                         id: details
-                        text: saved.sizeText(modelData.size) + ", "
-                              + modelData.time.toLocaleString(Qt.locale(), Locale.ShortFormat)
+                        text: saved.sizeText(model.size) + ", "
+                              + model.time.toLocaleString(Qt.locale(), Locale.ShortFormat)
                         textFormat: Text.PlainText
                         color: Theme.mutedText
                         font.pixelSize: Theme.smallText - 1
                     }
                 }
                 Text {
-                    visible: modelData.compressed
+                    visible: model.compressed
                     text: "gz"
                     textFormat: Text.PlainText
                     Accessible.name: qsTr("compressed")
