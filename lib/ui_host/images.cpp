@@ -17,14 +17,13 @@ QStringList missingImages()
     QStringList missing;
     for (const QLatin1String path : {paths::passIcon, paths::marginalIcon, paths::failIcon, paths::logo}) {
         const QFileInfo image(onDisk(path));
-        // A link is the user's own, wherever it leads.
-        if (!image.exists() && !image.isSymLink())
+        if (!image.exists())
             missing += image.filePath();
     }
     return missing;
 }
 
-/// Empty when done, or when another process has placed it meanwhile.
+/// Empty when done, or when something has the name: a link that leads nowhere, or what another process has placed.
 QString placeImage(const QString& from, const QString& to)
 {
     QFile image(from);
