@@ -69,8 +69,6 @@ private:
     /// nobody.
     void connectOverStoppedBridge()
     {
-        if (QStandardPaths::findExecutable("systemd-stdio-bridge").isEmpty())
-            QSKIP("There is no systemd-stdio-bridge.");
         m_backend.reset();
         const QString script = QString("echo $$ >%1/bridge; kill -STOP $$; exec systemd-stdio-bridge --bus-path=%2")
                                        .arg(m_bus->folder.path(), m_bus->address());
@@ -214,11 +212,15 @@ private Q_SLOTS:
     void stopped()
     {
         QFETCH(QString, who);
+        if (who == "bridge" && QStandardPaths::findExecutable("systemd-stdio-bridge").isEmpty())
+            QSKIP("There is no systemd-stdio-bridge.");
         if (who == "bridge")
             connectOverStoppedBridge();
         const pid_t stopped = who == "service" ? m_kivd->processId()
                 : who == "bus"                 ? m_bus->daemon.processId()
                                                : m_bridge;
+        // Without a process, the signal would stop everything that runs the tests.
+        QVERIFY(stopped > 0);
         ::kill(stopped, SIGSTOP);
         QElapsedTimer timer;
         timer.start();
