@@ -20,6 +20,7 @@ int main(int argc, char** argv)
                             {"binding", bench::bindingCases}, {"local", bench::localCases},
                             {"pdffile", bench::pdfFileCases}, {"report", bench::reportCases}});
     kiv::embedded::EmbeddedBackend backend;
-    backend.loadFolders({QStringLiteral(UIUTILS_SERVICES_DIR)});
+    if (!backend.loadFolders({QStringLiteral(UIUTILS_SERVICES_DIR)}).isEmpty())
+        qFatal("the services cannot be used");
     return bench::measureRooms(options);
 }

@@ -43,6 +43,17 @@ function(uiutils_install_headers folder)
     endforeach()
 endfunction()
 
+# uiutils_install_pkgconfig(<name> <library> <description> <required modules>)
+#
+# Only shared libraries are installed, so what one of them needs for itself is not named.
+function(uiutils_install_pkgconfig name library description required)
+    # Relative, so that an installed tree may be moved.
+    file(RELATIVE_PATH prefix "/p/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/p")
+    set(file "${CMAKE_CURRENT_BINARY_DIR}/${name}.pc")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/library.pc.in" "${file}" @ONLY)
+    install(FILES "${file}" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+endfunction()
+
 # uiutils_install_manual(<program> <short description>)
 #
 # The manual page is the program's own help; without help2man there is no page.

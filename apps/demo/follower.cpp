@@ -3,21 +3,28 @@
 #include "instrumentroot.h"
 #include "service/kivdata.h"
 #include "service/manifest.h"
+#include "ui_host/host.h"
+
+#include <kiv/kivclientinterface.h>
 
 #include <QQuickItem>
 #include <QSaveFile>
+#include <QTimer>
 
 namespace uiutils::demo {
 
 namespace {
 
+/// Time in which services start, also on a machine with much to do.
+constexpr int patienceMs = 30 * 1000;
 constexpr int settingsPage = 3;
 const QString settingId = QStringLiteral(":config:basemgr:system:userInfo_lastName:");
 
 } // namespace
 
-Follower::Follower(QQuickWindow* window, const QString& pictures)
-    : m_window(window)
+Follower::Follower(const Host& host, QQuickWindow* window, const QString& pictures)
+    : m_host(host)
+    , m_window(window)
     , m_folder(pictures)
 {
 }
@@ -25,15 +32,38 @@ Follower::Follower(QQuickWindow* window, const QString& pictures)
 void Follower::start()
 {
     QString error;
-    m_setting = Manifest::getKivData(settingId);
-    if (!m_setting || !makeFolder(m_folder, &error)) {
-        Q_EMIT failed(m_setting ? error : tr("There is no setting %1 to follow.").arg(settingId));
+    if (!makeFolder(m_folder, &error)) {
+        Q_EMIT failed(error);
         return;
     }
+    // The service may come later, its items after it, and their values last.
+    connect(&m_host, &Host::serviceAdded, this, &Follower::begin, Qt::QueuedConnection);
+    const auto* base = KIVClientInterface::getBaseMgrClient();
+    if (base)
+        connect(base, &KIVClientInterface::itemsChanged, this, &Follower::begin, Qt::QueuedConnection);
+    // Without a client there is no base manager that could come.
+    QTimer::singleShot(base ? patienceMs : 0, this, &Follower::giveUp);
+    begin();
+}
+
+void Follower::begin()
+{
+    if (m_stage != WaitsForServices)
+        return;
+    m_setting = Manifest::getKivData(settingId);
+    if (!m_setting || !m_setting->isReady())
+        return;
+    m_stage = WaitsForChange;
     m_window->setProperty("page", settingsPage);
     connect(m_setting, &KivData::valueChanged, this, &Follower::onValue);
     connect(m_setting, &KivData::isReadyChanged, this, &Follower::onReady);
     Q_EMIT noticed(tr("Following the user's name, \"%1\".").arg(m_setting->getValueString()));
+}
+
+void Follower::giveUp()
+{
+    if (m_stage == WaitsForServices)
+        Q_EMIT failed(tr("There is no setting %1 to follow. Start kivd with the service that has it.").arg(settingId));
 }
 
 void Follower::onValue()

@@ -108,7 +108,7 @@ int runDemo(const DemoOptions& options)
                 "QtQuick.Controls, QtQuick.Layouts and QtQuick.Window are installed."));
 
     if (options.isFollower) {
-        Follower follower(window, options.root + QStringLiteral("/pictures/"));
+        Follower follower(host, window, options.root + QStringLiteral("/pictures/"));
         const int exitCode = runFollower(follower);
         list(Texts::tr("Pictures:"), follower.pictures());
         return exitCode;

@@ -70,10 +70,10 @@ void Host::Private::add(const QString& service)
     auto* manifest = new Manifest(KIVClientInterface::getSessionBusClient(service), tagOf(service), service);
     QQmlEngine::setObjectOwnership(manifest, QQmlEngine::CppOwnership);
     manifests.insert(service, manifest);
-    byName.insert(service, QVariant::fromValue<QObject*>(manifest));
-    // Pages that are there already learn the new names.
+    // Pages that are there already use the items as soon as `services` has the service.
     if (engine)
         Manifest::setQmlContext(engine->rootContext());
+    byName.insert(service, QVariant::fromValue<QObject*>(manifest));
 }
 
 Host::Host(QObject* parent)
@@ -87,6 +87,9 @@ Host::~Host() = default;
 
 bool Host::start(const HostSetup& setup)
 {
+    // The manifests are those of the platform that is there.
+    if (d->platform)
+        return false;
     d->translations.install(setup.translationFolders);
     const HostSetup complete = ServicePlatform::completed(setup);
     const bool isUsable = useRoot(complete.root, &d->problems) && d->startPlatform(complete);

@@ -48,7 +48,7 @@ public:
     /// Deletes the manifests, then the services of this process, whose settings are stored first.
     ~Host() override;
 
-    /// Brings everything up; call it once, before the first page.
+    /// Brings everything up; call it once, before the first page. A host that is up returns false and stays as it is.
     ///
     /// - The environment variable UIUTILS_ROOT becomes the root of the setup.
     /// - Translations for the language of the default QLocale are installed: "uiutils_LANGUAGE.qm" and

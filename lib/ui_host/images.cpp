@@ -17,14 +17,13 @@ QStringList missingImages()
     QStringList missing;
     for (const QLatin1String path : {paths::passIcon, paths::marginalIcon, paths::failIcon, paths::logo}) {
         const QFileInfo image(onDisk(path));
-        // A link is the user's own, wherever it leads.
-        if (!image.exists() && !image.isSymLink())
+        if (!image.exists())
             missing += image.filePath();
     }
     return missing;
 }
 
-/// Empty when done, or when another process has placed it meanwhile.
+/// Empty when done, or when something has the name: a link that leads nowhere, or what another process has placed.
 QString placeImage(const QString& from, const QString& to)
 {
     QFile image(from);
@@ -47,6 +46,8 @@ QStringList placeImages()
                 "Host", "Reports have no icons: the folder %1 cannot be created. Check that you may write there.")
                         .arg(folder)};
     const QString source = installedFolder(QStringLiteral(UIUTILS_SHARED_FOLDER "/images"));
+    if (source.isEmpty())
+        return {QCoreApplication::translate("Host", "Reports have no icons: those of the library are not installed.")};
     QStringList problems;
     for (const QString& image : missing) {
         const QString problem = placeImage(source + QLatin1Char('/') + QFileInfo(image).fileName(), image);

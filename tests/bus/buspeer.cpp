@@ -105,7 +105,8 @@ int beService(const QString& name, int count)
     kiv::embedded::EmbeddedService* service = services.publish(description);
     service->setActionHandler(":action:numbers:die:", [](const QString&, QString*) { return ::raise(SIGKILL) != 0; });
     kiv::bus::BusPublisher publisher;
-    publisher.publish(service);
+    if (!publisher.publish(service))
+        return 1;
     QTimer turns;
     turns.setTimerType(Qt::PreciseTimer);
     int changesATurn = 0;

@@ -262,7 +262,8 @@ QJsonObject received(int socket)
         kiv::bus::BusPublisher publisher;
         QObject::connect(&publisher, &kiv::bus::BusPublisher::published, [&] { send(orders, {{"published", true}}); });
         QObject::connect(&further, &QSocketNotifier::activated, &publisher, &QCoreApplication::quit);
-        publisher.publish(basemgr);
+        if (!publisher.publish(basemgr))
+            qFatal("the service is not published");
         QCoreApplication::exec();
         received(orders);
         send(orders, {{"list", listToldTo(basemgr)}});

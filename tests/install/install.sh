@@ -26,7 +26,7 @@ names=$("$work/consumer/onbus" "$prefix/share/uiutils/services" | sort)
 
 # pkg-config quotes no blanks, so this way gets a prefix without one.
 plain=$(mktemp -d)
-trap 'rm -rf "$plain"' EXIT
+trap 'rm -rf "$plain" "$plain-moved" "$plain-sample"' EXIT
 "$cmake" --install "$build" --prefix "$plain" >/dev/null
 export PKG_CONFIG_PATH
 PKG_CONFIG_PATH=$(dirname "$(find "$plain" -name uiutils.pc)")
@@ -38,6 +38,37 @@ if ! grep -q 'Unable to write PDF report' <<<"$said" || grep -q 'without being t
     echo "PDF files are not tried out: $said" >&2
     exit 1
 fi
+
+# The application of the README as it stands there, built both ways. It needs no variable of the environment.
+block() { awk -v begin="\`\`\`$1" '$0 == begin { on = 1; next } on && /^```$/ { exit } on' "$here/../../README.md"; }
+sample=$plain-sample
+mkdir "$sample"
+block cmake >"$sample/CMakeLists.txt"
+block cpp >"$sample/main.cpp"
+block qml >"$sample/page.qml"
+run_sample() {
+    local said
+    said=$(cd "$sample" && env -u KIV_SERVICES -u UIUTILS_ROOT -u QML2_IMPORT_PATH -u LD_LIBRARY_PATH \
+        XDG_STATE_HOME="$sample/state" "$@" 2>&1) || true
+    # A report and nothing else, such as a warning.
+    if [ "$(sed -n '1p;/"Fiber 7"/p;$p' <<<"$said")" != $'qml: Internal {\n    "title": "Fiber 7"\n}' ]; then
+        echo "the README's application says: $said" >&2
+        exit 1
+    fi
+}
+# Only this package is named, and an older standard is the default.
+"$cmake" -G Ninja -S "$sample" -B "$sample/build" -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_FLAGS="$flags" \
+    -DCMAKE_CXX_STANDARD=14 -DUiUtils_DIR="$(dirname "$(find "$prefix" -name UiUtilsConfig.cmake)")" >/dev/null
+"$cmake" --build "$sample/build" >/dev/null
+run_sample "$sample/build/app"
+# shellcheck disable=SC2086
+c++() { "$compiler" $flags "$@"; }
+(cd "$sample" && eval "$(grep '^c++ ' "$here/../../README.md")")
+run_sample ./app
+# A prefix that was moved: its application needs the new place of the libraries, and nothing else.
+mv "$plain" "$plain-moved"
+run_sample LD_LIBRARY_PATH="$(dirname "$(find "$plain-moved" -name 'libuiutils.so.1')")" ./app
+mv "$plain-moved" "$plain"
 
 library=$(find "$plain" -name 'libuiutils.so.1')
 test -n "$library"
@@ -90,6 +121,10 @@ if [ -x "$build/bin/pdf_viewer" ]; then
     "$plain/libexec/uiutils/pdf_viewer" --version >/dev/null
     "$plain/bin/uiutils-demo" --tour --root "$plain/root" >/dev/null
     test "$(readlink "$plain/root/base/bin/pdf_viewer")" = "$plain/libexec/uiutils/pdf_viewer"
+fi
+# No text that the build makes names where it was made.
+if grep -rIlF --exclude-dir=root -e "$build" -e "$(dirname "$(dirname "$here")")" "$plain"; then
+    exit 1
 fi
 # Hidden visibility: what is private must not be reachable from outside.
 if nm -DC --defined-only "$library" | grep -E ' [A-Z] uiutils::(OpenNode|onDisk|writeFileDurably|NodeReader|PdfProbe|pdf::)'; then

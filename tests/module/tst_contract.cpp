@@ -17,6 +17,7 @@
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
+#include "ui_host/host.h"
 #include "writers/html/htmlstreamwriter.h"
 #include "writers/pdffile/pdffile.h"
 
@@ -161,7 +162,7 @@ const QVector<Face>& faces()
 {
     using Validator = ForgivingValidator;
     const auto validate = static_cast<Validator::ValidatorState (Validator::*)(QString, int)>(&Validator::validate);
-    static const QVector<Face> all {face<Manifest, QObject>(), face<KIVSignal, QObject>(), face<UiEnumType, QObject>(),
+    static const QVector<Face> all {face<uiutils::Host, QObject>(), face<Manifest, QObject>(), face<KIVSignal, QObject>(), face<UiEnumType, QObject>(),
             face<UiDataContainer, QObject>(), face<ReportTemplate, QObject>(), face<uiutils::TableRows, QObject>(), face<PDFFile, QObject>(),
             face<FileUtils, QObject>(), face<Screenshot, QObject>(), face<KivAggregateData, KivData>(),
             face<KivListAggregateData, KivData>(), face<QMLListAggregate, QAbstractListModel>(), face<StringUiData, UiData>(),

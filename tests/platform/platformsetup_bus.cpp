@@ -92,8 +92,10 @@ private:
         m_publisher = std::make_unique<kiv::bus::BusPublisher>();
         QObject::connect(m_publisher.get(), &kiv::bus::BusPublisher::published, &m_worker, [this] { m_published.release(); });
         m_names = m_services->backend.serviceNames();
-        for (const QString& name : qAsConst(m_names))
-            m_publisher->publish(m_services->backend.service(name));
+        for (const QString& name : qAsConst(m_names)) {
+            if (!m_publisher->publish(m_services->backend.service(name)))
+                qFatal("%s is not published", qPrintable(name));
+        }
     }
 
     QThread m_thread;

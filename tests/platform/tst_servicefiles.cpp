@@ -39,7 +39,7 @@ private Q_SLOTS:
     void shippedSettingsTakeTheirOwnValues()
     {
         EmbeddedBackend backend;
-        backend.loadFolders({UIUTILS_SOURCE_DIR "/platform/reference/services"});
+        QCOMPARE(backend.loadFolders({UIUTILS_SOURCE_DIR "/platform/reference/services"}), QStringList());
         QStringList refusals;
         int settings = 0;
         for (const QString& service : backend.serviceNames()) {

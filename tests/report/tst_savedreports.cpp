@@ -323,18 +323,29 @@ private Q_SLOTS:
         QCOMPARE(manager()->count(), error.isEmpty() && copy == "old" ? 0 : 1);
     }
 
-    /// The page may be left while the user reads a dialog, or by a slot of what the answer brings about.
+    /// The page may be left in a slot of what an action brings about.
     void aPageThatIsLeft()
     {
+        plug(0);
         const auto page = std::make_unique<Page>();
-        auto model = std::make_unique<SavedReports>();
-        model->setReport(&page->report);
         putReport(page->report, "a.pdf");
-        const auto left = connect(&page->report, &Report::reportFilesChanged, [&] { model.reset(); });
-        model->remove(folder + "a.pdf");
-        manager()->accept();
-        QVERIFY(!model && names(folder).isEmpty());
-        disconnect(left);
+        QSignalSpy changed(&page->report, &Report::reportFilesChanged);
+        std::unique_ptr<SavedReports> model;
+        for (const bool isCopied : {true, false}) {
+            model = std::make_unique<SavedReports>();
+            model->setReport(&page->report);
+            QObject scope;
+            connect(manager(), &QAbstractItemModel::rowsInserted, &scope, [&] { model.reset(); });
+            connect(&page->report, &Report::reportFilesChanged, &scope, [&] { model.reset(); });
+            if (isCopied)
+                model->copyToUsb(folder + "a.pdf");
+            else
+                model->remove(folder + "a.pdf");
+            manager()->accept();
+            QVERIFY(!model);
+            QCOMPARE(changed.size(), isCopied ? 0 : 1);
+        }
+        QVERIFY(names(folder).isEmpty() && names("/mnt/usb") == QStringList("a.pdf"));
     }
 };
 

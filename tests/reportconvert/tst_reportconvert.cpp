@@ -88,7 +88,7 @@ private Q_SLOTS:
                 QStringList({name + ".html", name + ".json", name + ".pdf", name + ".txt", name + ".xml"}));
 
         kiv::embedded::EmbeddedBackend backend;
-        backend.loadFolders({testData + "/services"});
+        QCOMPARE(backend.loadFolders({testData + "/services"}), QStringList());
         ReportTemplate report;
         report.readFile(document);
         const QString stem = path("new/folder/") + name;

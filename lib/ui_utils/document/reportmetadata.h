@@ -90,7 +90,7 @@ public:
     /// Reads type, format, pairs, time and path of the described file from the record's file. What is missing there
     /// becomes empty; numbers become texts. Returns false, and changes nothing, if there is no such file, if it is too
     /// large, or if it is not JSON of that structure.
-    bool loadFromDisk();
+    [[nodiscard]] bool loadFromDisk();
 
     /// Clears everything.
     void clear();

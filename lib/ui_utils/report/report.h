@@ -180,9 +180,9 @@ public:
 
     /// Replaces the file by its compressed form, which has ".gz" after its name, or the other way round. False, with a
     /// line in the log, if gzip fails.
-    bool compressFile(const QString& path);
+    [[nodiscard]] bool compressFile(const QString& path);
     /// See compressFile().
-    bool uncompressFile(const QString& path);
+    [[nodiscard]] bool uncompressFile(const QString& path);
 
     /// Copies the saved report to the USB drive, durably, and replaces one of its name there. Notifies the user if that
     /// fails.
@@ -248,9 +248,9 @@ public:
     Q_INVOKABLE virtual QByteArray generatePDFReport();
     /// Writes generateTxtReport(); `path` includes the format's suffix. False if the file was not written; the user is
     /// asked or notified.
-    Q_INVOKABLE bool writeTxtReport(const QString& path, bool overwrite = false);
+    [[nodiscard]] Q_INVOKABLE bool writeTxtReport(const QString& path, bool overwrite = false);
     /// Writes generateJsonReport(); see writeTxtReport().
-    Q_INVOKABLE virtual bool writeJsonReport(const QString& path, bool overwrite = false);
+    [[nodiscard]] Q_INVOKABLE virtual bool writeJsonReport(const QString& path, bool overwrite = false);
     /// Adds the report to the list of those that the cloud does not sync. If that fails, the user is notified.
     Q_INVOKABLE void addReportToNoSyncList(const QString& filePath);
     /// Replaces the list of reports that the cloud does not sync. If that fails, the user is notified.
@@ -258,11 +258,11 @@ public:
     /// Removes the report from the list of those that the cloud does not sync. If that fails, the user is notified.
     Q_INVOKABLE void removeReportFromNoSyncList(const QString& filePath);
     /// Writes generateHtmlReport(); see writeTxtReport().
-    Q_INVOKABLE bool writeHtmlReport(const QString& path, bool overwrite = false);
+    [[nodiscard]] Q_INVOKABLE bool writeHtmlReport(const QString& path, bool overwrite = false);
     /// Writes generateXmlReport(); see writeTxtReport().
-    Q_INVOKABLE virtual bool writeXmlReport(const QString& path, bool overwrite = false);
+    [[nodiscard]] Q_INVOKABLE virtual bool writeXmlReport(const QString& path, bool overwrite = false);
     /// Writes generatePDFReport(); see writeTxtReport().
-    Q_INVOKABLE bool writePDFReport(const QString& path, bool overwrite = false);
+    [[nodiscard]] Q_INVOKABLE bool writePDFReport(const QString& path, bool overwrite = false);
     /// Attaches the report to the active job. False if that is not possible; the user has been notified of the reason.
     Q_INVOKABLE bool writeToJobManager();
     /// How much of the file system at `path` is in use, 0 to 100.
@@ -289,7 +289,8 @@ public:
     virtual QString getSaveFilePath(const QString& name, const QString& suffix);
     /// Writes a text as UTF-8, compressed if enabled, and notifies the user. `path` includes the suffix. If a file
     /// exists, compressed or not, nothing is written and the user is asked, unless `overwrite`.
-    virtual bool writeTextReport(const QString& path, const QString& text, const QString& suffix, bool overwrite);
+    [[nodiscard]] virtual bool writeTextReport(
+            const QString& path, const QString& text, const QString& suffix, bool overwrite);
 
 protected:
     // Hooks: the defaults do nothing.
@@ -350,7 +351,7 @@ protected:
     /// Passes the switches of this object, and those of setWriterAttribute(), to a writer.
     void setHtmlWriterAttributes(TemplateToHtmlWriter& writer) const;
     /// True if the report may be written; otherwise the user is asked.
-    bool checkForOverwrite(const QString& name, const QString& suffix, bool overwrite);
+    [[nodiscard]] bool checkForOverwrite(const QString& name, const QString& suffix, bool overwrite);
     /// Adds a format of the application's own to those that users can choose. `value`, at least
     /// NSReport::firstOwnFormat, is what the setting "reportFormat" holds and stores; `label` is what users read, also
     /// in lists and in the record of the file; `suffix` ends the names of its files, as ".csv" does. Call it in the

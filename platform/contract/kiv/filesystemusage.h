@@ -18,7 +18,7 @@ public:
 
     /// Whether there is space to save a file in `directory`. If not, a dialog with the text `message` notifies the
     /// user. True when the file system gives no answer: the write itself will then fail or succeed.
-    static bool checkAndNotifyBeforeSave(const QString& directory, const QString& message);
+    [[nodiscard]] static bool checkAndNotifyBeforeSave(const QString& directory, const QString& message);
 
     /// How much of the space that is available to users is in use, 0 to 100; 0 when the file system gives no answer.
     static double percentageUsed(const QString& directory);

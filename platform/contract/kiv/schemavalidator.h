@@ -29,11 +29,11 @@ public:
 
     /// Reads the schema for later checks. False when the file cannot be read or is not a schema: errors() then says
     /// why, and every text is invalid until a schema is read.
-    bool setSchemaFile(const QString& path);
+    [[nodiscard]] bool setSchemaFile(const QString& path);
 
     /// Whether the text is well-formed and the schema allows it. False without a schema. The encoding is the one that
     /// the text declares, otherwise UTF-8.
-    bool validate(const QByteArray& xml);
+    [[nodiscard]] bool validate(const QByteArray& xml);
 
     /// The errors of the last operation, in the order of the text, each with its line as in "line 3: ..."; empty after
     /// a success. At most 100, and one more that gives the number of the remaining ones; long ones are cut.

@@ -31,7 +31,7 @@ public:
     /// is emitted. While it cannot be reached, see EmbeddedService::setReachable(), its name is given back. Where
     /// another process has the name, the service waits until that gives it back. Returns false, with the reason in
     /// `problem`, when the name does not fit on a bus or a service of that name is published already.
-    bool publish(embedded::EmbeddedService* service, QString* problem = nullptr);
+    [[nodiscard]] bool publish(embedded::EmbeddedService* service, QString* problem = nullptr);
 
     /// Ends what publish() began; nothing for a service that is not published.
     void withdraw(const embedded::EmbeddedService* service);

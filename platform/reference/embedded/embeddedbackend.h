@@ -38,7 +38,7 @@ public:
     /// Publishes the service of every "*.service.json" file of the folders, in the order of the folders and, within
     /// one, of the file names. Returns one sentence for each folder or file that could not be used (file, place in it
     /// and reason), and for each stored value that could not be restored; everything else is published all the same.
-    QStringList loadFolders(const QStringList& folders);
+    [[nodiscard]] QStringList loadFolders(const QStringList& folders);
 
     /// The folders in the environment variable KIV_SERVICES, separated by colons.
     static QStringList foldersFromEnvironment();
@@ -46,7 +46,7 @@ public:
     /// Publishes the service of one file. Returns false, with the reason in `problem`, when the file cannot be used or
     /// a service of that name is published already. Problems of the stored state are added to `problem`, one in each
     /// line, and do not make the call fail.
-    bool loadFile(const QString& path, QString* problem = nullptr);
+    [[nodiscard]] bool loadFile(const QString& path, QString* problem = nullptr);
 
     /// Publishes a service without a file. Returns null, with place and reason in `problem`, when the description is
     /// not valid or a service of that name is published already; other problems are as for loadFile(). Clients that had

@@ -32,7 +32,7 @@ public:
     /// The file's bytes; see ReportPDF::toPdf() for when there are none.
     QByteArray toPdf(QString* error = nullptr);
     /// Prints the file; see ReportPDF::print() for what it returns.
-    bool write(const QString& path, QString* error = nullptr);
+    [[nodiscard]] bool write(const QString& path, QString* error = nullptr);
 
 private:
     void layOut();

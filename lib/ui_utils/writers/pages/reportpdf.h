@@ -67,7 +67,7 @@ public:
     /// Prints to `path`, an instrument path in a folder that exists; the file is replaced only when the new one is
     /// completely on the disk. Returns false, leaves `path` untouched and no temporary file, if toPdf() returns nothing
     /// or the file cannot be written.
-    bool print(const QString& path, QString* error = nullptr);
+    [[nodiscard]] bool print(const QString& path, QString* error = nullptr);
 
     /// Whether any object of the program is printing; slots of progressChanged() are called then.
     static bool isPrinting();
