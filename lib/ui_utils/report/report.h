@@ -96,20 +96,13 @@ class UIUTILS_EXPORT Report : public QObject
     Q_PROPERTY(bool notifiesOncePerSave READ getNotifiesOncePerSave WRITE setNotifiesOncePerSave)
 
 public:
-    /// ".pdf"
-    static const QString PDF_EXTENSION;
-    /// ".xml"
-    static const QString XML_EXTENSION;
-    /// ".html"
-    static const QString HTML_EXTENSION;
-    /// ".txt"
-    static const QString TXT_EXTENSION;
-    /// ".json"
-    static const QString JSON_EXTENSION;
-    /// ".sor"
-    static const QString SOR_EXTENSION;
-    /// ".gz"
-    static const QString GZIP_EXTENSION;
+    static const QString PDF_EXTENSION; ///< ".pdf"
+    static const QString XML_EXTENSION; ///< ".xml"
+    static const QString HTML_EXTENSION; ///< ".html"
+    static const QString TXT_EXTENSION; ///< ".txt"
+    static const QString JSON_EXTENSION; ///< ".json"
+    static const QString SOR_EXTENSION; ///< ".sor"
+    static const QString GZIP_EXTENSION; ///< ".gz"
     /// The items that the HTML pass collects and the page renderer prints. Each pass first deletes those of the pass
     /// before. What an application appends is printed too, stays in the list and remains the application's.
     static QList<ReportItem*>& m_reportItems;
@@ -352,16 +345,12 @@ protected:
     void setHtmlWriterAttributes(TemplateToHtmlWriter& writer) const;
     /// True if the report may be written; otherwise the user is asked.
     [[nodiscard]] bool checkForOverwrite(const QString& name, const QString& suffix, bool overwrite);
-    /// Adds a format of the application's own to those that users can choose. `value`, at least
-    /// NSReport::firstOwnFormat, is what the setting "reportFormat" holds and stores; `label` is what users read, also
-    /// in lists and in the record of the file; `suffix` ends the names of its files, as ".csv" does. Call it in the
-    /// constructor, before the settings are loaded.
-    ///
-    /// A save in this format, or in ALL, which writes it after the formats of the library, calls `generate` for the
-    /// contents, and is otherwise like any other: question, record, sync list, copies, notice. Empty contents are an
-    /// error, of which the user is notified. All controllers of a process that add a value mean the same format by it.
-    /// False, and nothing is added, if value or suffix are those of another format, if the suffix has no dot in front,
-    /// ends in ".gz" or contains "/", and if `generate` is empty.
+    /// Adds a format of the application's own; to be called in the constructor. `value`, at least
+    /// NSReport::firstOwnFormat, is what "reportFormat" holds and stores, the same in every controller of the process;
+    /// `label` is what users read; `suffix` ends the names of files, as ".csv" does. A save in this format, or in ALL,
+    /// calls `generate` for the contents; empty ones are an error, of which the user is notified. False, and nothing is
+    /// added, if value or suffix are another format's, if the suffix has no dot in front, ends in ".gz" or contains
+    /// "/", or if `generate` is empty.
     bool addFormat(int value, const QString& label, const QString& suffix, const std::function<QByteArray()>& generate);
 
 Q_SIGNALS:

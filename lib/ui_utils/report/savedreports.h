@@ -46,9 +46,11 @@ class UIUTILS_EXPORT SavedReports : public QAbstractListModel
     Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
+    /// Of which drives the reports are listed.
     enum Drive { AllDrives, Unit, Usb };
     Q_ENUM(Drive)
 
+    /// What a row has; in QML the names of the roles stand for it.
     enum Role {
         NameRole = Qt::UserRole + 1,
         PathRole,
