@@ -50,7 +50,8 @@ private Q_SLOTS:
     {
         if (!UIUTILS_HAS_QMLTYPES)
             QSKIP("The module was built for another machine.");
-        QDirIterator files(UIUTILS_TEST_DATA_DIR "/contract", {"*.txt"});
+        // Pages do not know the class that shows them.
+        QDirIterator files(UIUTILS_TEST_DATA_DIR "/contract", {"[!H]*.txt"});
         QVERIFY(files.hasNext());
         while (files.hasNext()) {
             QFile table(files.next());
