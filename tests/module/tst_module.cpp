@@ -50,12 +50,14 @@ private Q_SLOTS:
     {
         if (!UIUTILS_HAS_QMLTYPES)
             QSKIP("The module was built for another machine.");
-        // Pages do not know the class that shows them.
-        QDirIterator files(UIUTILS_TEST_DATA_DIR "/contract", {"[!H]*.txt"});
+        QDirIterator files(UIUTILS_TEST_DATA_DIR "/contract", {"*.txt"});
         QVERIFY(files.hasNext());
         while (files.hasNext()) {
             QFile table(files.next());
             const QString name = files.fileInfo().baseName(), text = componentText(name);
+            // Pages do not know the class that shows them.
+            if (name == "Host")
+                continue;
             const QString exported = name == "KIVNotificationModelManager" ? "Notifications" : name;
             QVERIFY2(text.contains(QString("exports: [\"UiUtils/%1 1.0\"]").arg(exported)), qPrintable(name));
             QVERIFY(table.open(QIODevice::ReadOnly));
