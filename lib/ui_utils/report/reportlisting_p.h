@@ -17,7 +17,7 @@ struct SavedReport
     QString path;
     /// File name without the suffixes of format and compression.
     QString name;
-    /// "PDF", "XML", "HTML", "TEXT" or "JSON".
+    /// "PDF", "XML", "HTML", "TEXT", "JSON" or the label of a format that an application has added.
     QString format;
     /// Bytes on the disk.
     qint64 size = 0;

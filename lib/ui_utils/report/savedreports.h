@@ -18,7 +18,7 @@ class SavedReportsPrivate;
 /// |---|---|
 /// | `name` | file name without the suffixes of format and compression |
 /// | `path` | instrument path, which the operations take |
-/// | `format` | "PDF", "XML", "HTML", "TEXT" or "JSON" |
+/// | `format` | "PDF", "XML", "HTML", "TEXT", "JSON" or the label of a format that an application has added |
 /// | `size` | bytes on the disk, a qlonglong |
 /// | `time` | when it was written last, a QDateTime in local time |
 /// | `compressed` | whether it is a gzip file |
