@@ -263,7 +263,8 @@ private Q_SLOTS:
             } else if (xml.isEndElement() && xml.name() == "method") {
                 const Message reply = call(interface, method, [&](sd_bus_message* m) { appendDefaults(m, in); });
                 if (reply.isError())
-                    QVERIFY2((QStringList {"SetItem", "SendAction", "Get", "Set"}.contains(method)),
+                    QVERIFY2((QStringList {"SetItem", "SendAction", "Get", "Set"}.contains(method))
+                                    || (method == "GetMachineId" && !QFile::exists("/etc/machine-id")),
                             qPrintable(reply.errorText()));
                 else
                     QCOMPARE(reply.signature(), out);

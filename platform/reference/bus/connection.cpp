@@ -4,6 +4,7 @@
 #include <QSocketNotifier>
 
 #include <systemd/sd-bus.h>
+#include <systemd/sd-id128.h>
 
 #include <cerrno>
 #include <csignal>
@@ -44,6 +45,13 @@ private:
     sigset_t m_before {};
 };
 
+/// Without one, the library's own answer would end the connection.
+bool hasMachineId()
+{
+    sd_id128_t id;
+    return sd_id128_get_machine(&id) >= 0;
+}
+
 /// Milliseconds until a time of the monotonic clock, rounded up.
 int millisecondsUntil(quint64 time)
 {
@@ -70,13 +78,15 @@ struct Connection::Pending
 /// What the library calls, in its midst: only notes what has arrived.
 struct Connection::Callbacks
 {
-    static int onMessage(sd_bus_message* message, void* self, sd_bus_error*)
+    static int onMessage(sd_bus_message* message, void* self, sd_bus_error* error)
     {
         auto* connection = static_cast<Connection*>(self);
         const Message arrived(sd_bus_message_ref(message));
         // Who asks whether anybody is there is answered by the library.
         if (arrived.isCall() && arrived.interface() == "org.freedesktop.DBus.Peer")
-            return 0;
+            return arrived.member() == "GetMachineId" && !hasMachineId()
+                    ? sd_bus_error_set(error, SD_BUS_ERROR_FILE_NOT_FOUND, "This machine has no id.")
+                    : 0;
         connection->m_arrived.push_back({arrived, nullptr});
         return arrived.isCall() ? 1 : 0;
     }
