@@ -43,6 +43,7 @@ demo        apps/demo                       LIBRARY base contract embedded commo
 convert     apps/reportconvert              LIBRARY base contract embedded common
 qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded common
 benchmarks  benchmarks                      LIBRARY base contract embedded
+startbench  benchmarks/start                -
 busbench    benchmarks/bus                  LIBRARY base contract embedded bus benchmarks
 """
 GROUPS = {"WRITERS": "plots pdffile pages text html xml",
