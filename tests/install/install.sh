@@ -38,6 +38,11 @@ if ! grep -q 'Unable to write PDF report' <<<"$said" || grep -q 'without being t
     echo "PDF files are not tried out: $said" >&2
     exit 1
 fi
+# The reason is a text of the parser's library, which is found in the same way.
+if grep -q 'Unknown error\|Cannot load' <<<"$said"; then
+    echo "PDF files cannot be read: $said" >&2
+    exit 1
+fi
 
 library=$(find "$plain" -name 'libuiutils.so.1')
 test -n "$library"

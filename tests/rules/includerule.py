@@ -26,6 +26,7 @@ local       lib/ui_utils/local              base contract core service
 files       lib/ui_utils/files              base contract core instrument document
 plots       lib/ui_utils/writers/plots      base contract core
 pdffile     lib/ui_utils/writers/pdffile    base core
+podofo      lib/ui_utils/writers/pdffile/podofo  base core pdffile
 pages       lib/ui_utils/writers/pages      base core pdffile
 text        lib/ui_utils/writers/text       base contract core instrument document plots
 html        lib/ui_utils/writers/html       base contract core instrument document plots pages text
@@ -42,7 +43,7 @@ viewer      apps/pdf_viewer                 base common
 demo        apps/demo                       LIBRARY base contract embedded common
 convert     apps/reportconvert              LIBRARY base contract embedded common
 qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded common
-benchmarks  benchmarks                      LIBRARY base contract embedded
+benchmarks  benchmarks                      LIBRARY podofo base contract embedded
 startbench  benchmarks/start                -
 busbench    benchmarks/bus                  LIBRARY base contract embedded bus benchmarks
 """

@@ -6,7 +6,7 @@
 #include "writers/pages/titleblock_p.h"
 #include "writers/pdffile/pdfannotation_p.h"
 
-#include <QPrinter>
+#include <QPdfWriter>
 
 #include <functional>
 #include <optional>
@@ -43,14 +43,16 @@ public:
     const QVector<pdf::OutlineEntry>& outline() const { return m_outline; }
 
 private:
+    void prepare(const QString& path);
     bool layOut();
     Outcome printPages();
     void drawPage(PageCanvas& canvas, int page);
     void addToOutline(const PlacedPortion& placed);
 
     PageFrame::Texts m_frameTexts;
+    QPageLayout::Orientation m_orientation;
     Progress m_progress;
-    QPrinter m_printer;
+    std::optional<QPdfWriter> m_device;
     TitleBlock m_titleBlock;
     QList<ReportItem*> m_items;
     std::optional<PageStyle> m_style;

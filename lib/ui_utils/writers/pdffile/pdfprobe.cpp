@@ -1,7 +1,9 @@
 #include "writers/pdffile/pdfprobe_p.h"
 
-#include "writers/pdffile/pdfdocument_p.h"
+#include "base/ownplace_p.h"
+#include "writers/pdffile/pdfengine_p.h"
 #include "writers/pdffile/pdfprobeprotocol_p.h"
+#include "writers/pdffile/pdftexts_p.h"
 
 #include <QDeadlineTimer>
 #include <QElapsedTimer>
@@ -10,9 +12,7 @@
 
 #include <cerrno>
 #include <csignal>
-#include <dlfcn.h>
 #include <fcntl.h>
-#include <link.h>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/mman.h>
@@ -50,18 +50,6 @@ public:
 private:
     int m_fd;
 };
-
-/// The file that this code was loaded from: the library, or a program that has its objects.
-QString ownFile()
-{
-    Dl_info info {};
-    link_map* map = nullptr;
-    const auto* address = reinterpret_cast<const void*>(&ownFile);
-    const bool found = ::dladdr1(address, &info, reinterpret_cast<void**>(&map), RTLD_DL_LINKMAP) != 0;
-    const QString name = found && map ? QFile::decodeName(map->l_name) : QString();
-    // The program itself has no name there.
-    return QFileInfo(name.isEmpty() ? QStringLiteral("/proc/self/exe") : name).canonicalFilePath();
-}
 
 /// Found from the place of the library, never from the environment or the current folder, because it is trusted.
 QString installedHelper()
