@@ -2,8 +2,8 @@
 
 #include "base/durablefile_p.h"
 #include "writers/pdffile/pdfannotation_p.h"
-#include "writers/pdffile/pdfdocument_p.h"
 #include "writers/pdffile/pdffile.h"
+#include "writers/pdffile/podofo/pdfdocument_p.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -55,8 +55,8 @@ QVector<Result> ordinaryCases(int runs, const QString& path)
     const QByteArray contents = contentsOf(path);
     PDFFile file;
     QString error;
-    const Timing load = interleavedParts(
-            runs, timed([&] { file.setFilename(path); }), timed([&] { uiutils::pdf::load(contentsOf(path), &error); }));
+    const Timing load = interleavedParts(runs, timed([&] { file.setFilename(path); }),
+            timed([&] { uiutils::podofo::load(contentsOf(path), &error); }));
     file.setTitle(QStringLiteral("Fiber 7"));
     const Timing write = interleavedParts(runs, timed([&] { file.write(QString()); }),
             timed([&] { (void)uiutils::writeFileDurably(path, contents); }));
@@ -75,7 +75,7 @@ Result annotationCase(int runs, const QString& path)
     QString error;
     const Timing timing = interleaved(
             runs, [&] { uiutils::pdf::annotated(path, annotation, &error); },
-            [&] { uiutils::pdf::save(*uiutils::pdf::load(contentsOf(path), &error), &error); });
+            [&] { uiutils::podofo::save(*uiutils::podofo::load(contentsOf(path), &error), &error); });
     return {QStringLiteral("PDF file of %L1 pages with an outline of %L2 entries / the file without")
                     .arg(manyPages)
                     .arg(manyEntries),

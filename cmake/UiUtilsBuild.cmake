@@ -24,6 +24,10 @@ endif()
 add_compile_definitions(
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
     QT_NO_FOREACH QT_NO_KEYWORDS QT_DEPRECATED_WARNINGS)
+# Otherwise a processor of 32 bits lists no folder and finds no file whose numbers in the file system need more.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    add_compile_definitions(_FILE_OFFSET_BITS=64)
+endif()
 
 # uiutils_install_headers(<folder below include> <header>...)
 #

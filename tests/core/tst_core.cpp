@@ -54,9 +54,10 @@ extern "C" int flock(int fd, int operation) noexcept
     happens(onceLocked);
     return result;
 }
+// Where files may need more than 32 bits, this one is called fstatat64 in the object; elsewhere that is a second name.
 extern "C" int fstatat(int folder, const char* name, struct stat* entry, int flags) noexcept
 {
-    const int result = reinterpret_cast<decltype(&fstatat)>(::dlsym(RTLD_NEXT, "fstatat"))(folder, name, entry, flags);
+    const int result = reinterpret_cast<decltype(&fstatat)>(::dlsym(RTLD_NEXT, "fstatat64"))(folder, name, entry, flags);
     if (qstrcmp(name, "below") == 0)
         happens(onceSeen);
     return result;

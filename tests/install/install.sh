@@ -38,6 +38,11 @@ if ! grep -q 'Unable to write PDF report' <<<"$said" || grep -q 'without being t
     echo "PDF files are not tried out: $said" >&2
     exit 1
 fi
+# The reason is a text of the parser's library, which is found in the same way.
+if grep -q 'Unknown error\|Cannot load' <<<"$said"; then
+    echo "PDF files cannot be read: $said" >&2
+    exit 1
+fi
 
 # The application of the README as it stands there, built both ways. It needs no variable of the environment.
 block() { awk -v begin="\`\`\`$1" '$0 == begin { on = 1; next } on && /^```$/ { exit } on' "$here/../../README.md"; }

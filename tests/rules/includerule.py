@@ -27,6 +27,7 @@ local       lib/ui_utils/local              base contract core service
 files       lib/ui_utils/files              base contract core instrument document
 plots       lib/ui_utils/writers/plots      base contract core
 pdffile     lib/ui_utils/writers/pdffile    base core
+podofo      lib/ui_utils/writers/pdffile/podofo  base core pdffile
 pages       lib/ui_utils/writers/pages      base core pdffile
 text        lib/ui_utils/writers/text       base contract core instrument document plots
 html        lib/ui_utils/writers/html       base contract core instrument document plots pages text
@@ -45,12 +46,13 @@ viewer      apps/pdf_viewer                 base common
 demo        apps/demo                       LIBRARY base contract embedded common host
 convert     apps/reportconvert              LIBRARY base contract embedded common host
 qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded common host
-expage      examples/page               host
-exform      examples/form               LIBRARY contract host
-exreport    examples/report             LIBRARY contract host
-exservice   examples/service            contract embedded bus host
-explatform  examples/platform           contract host
-benchmarks  benchmarks                      LIBRARY base contract embedded
+expage      examples/page                   host
+exform      examples/form                   LIBRARY contract host
+exreport    examples/report                 LIBRARY contract host
+exservice   examples/service                contract embedded bus host
+explatform  examples/platform               contract host
+benchmarks  benchmarks                      LIBRARY podofo base contract embedded
+startbench  benchmarks/start                -
 busbench    benchmarks/bus                  LIBRARY base contract embedded bus benchmarks
 """
 GROUPS = {"WRITERS": "plots pdffile pages text html xml",

@@ -2,7 +2,8 @@
 #include "pdfsamples.h"
 
 #include "writers/pdffile/pdfannotation_p.h"
-#include "writers/pdffile/pdfdocument_p.h"
+#include "writers/pdffile/podofo/pdfdocument_p.h"
+#include "writers/pdffile/wholepdf_p.h"
 
 #include <cmath>
 
@@ -19,7 +20,7 @@ public:
     explicit OutlineText(const QByteArray& contents)
     {
         QString error;
-        m_document = load(contents, &error);
+        m_document = uiutils::podofo::load(contents, &error);
         if (!m_document)
             qFatal("%s", qPrintable(error));
         const PdfObject* outline = m_document->GetCatalog()->GetIndirectKey("Outlines");
@@ -40,7 +41,7 @@ private:
                 entry = entry->GetIndirectKey("Next")) {
             m_faults += entry->GetIndirectKey("Parent") != &parent;
             m_faults += entry->GetIndirectKey("Prev") != previous;
-            m_lines += QString(2 * depth, ' ') + textOf(entry->GetIndirectKey("Title")) + placeOf(*entry);
+            m_lines += QString(2 * depth, ' ') + uiutils::podofo::textOf(entry->GetIndirectKey("Title")) + placeOf(*entry);
             walk(*entry, depth + 1);
             previous = entry;
             ++children;

@@ -3,7 +3,7 @@
 #include "pdfsamples.h"
 #include "signallog.h"
 
-#include "writers/pdffile/pdfdocument_p.h"
+#include "writers/pdffile/pdfdate_p.h"
 #include "writers/pdffile/pdffile.h"
 
 #include <sys/stat.h>

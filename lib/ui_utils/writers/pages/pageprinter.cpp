@@ -2,24 +2,34 @@
 
 #include "writers/pages/pagecanvas_p.h"
 
+#include <QGuiApplication>
 #include <QPainter>
+#include <QScreen>
 
 namespace uiutils {
 
+namespace {
+
+/// The resolution of the screen, so that texts have the widths that they have there; where there is no screen, what Qt
+/// takes then.
+int pageResolution()
+{
+    if (QCoreApplication::testAttribute(Qt::AA_Use96Dpi))
+        return 96;
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? qRound(screen->logicalDotsPerInchY()) : 100;
+}
+
+} // namespace
+
 PagePrinter::PagePrinter(const PageSettings& settings, const QList<ReportItem*>& items, const Progress& progress)
     : m_frameTexts(settings.frame)
+    , m_orientation(settings.orientation)
     , m_progress(progress)
-    , m_printer(QPrinter::ScreenResolution)
     , m_titleBlock(settings.titleBlock)
     , m_items(items)
 {
     m_items.prepend(&m_titleBlock);
-    m_printer.setOutputFormat(QPrinter::PdfFormat);
-    m_printer.setPageSize(QPageSize(QPageSize::Letter));
-    m_printer.setPageOrientation(settings.orientation);
-    m_printer.setFullPage(true);
-    m_printer.setCreator(QStringLiteral("uiutils"));
-    m_printer.setDocName(m_frameTexts.title.isEmpty() ? m_frameTexts.documentTitle : m_frameTexts.title);
 }
 
 PagePrinter::~PagePrinter()
@@ -30,9 +40,9 @@ PagePrinter::~PagePrinter()
 
 PagePrinter::Outcome PagePrinter::print(const QString& path)
 {
-    m_printer.setOutputFileName(path);
-    m_style.emplace(&m_printer);
-    m_frame.emplace(*m_style, m_printer.paperRect(QPrinter::DevicePixel).size(), m_frameTexts);
+    prepare(path);
+    m_style.emplace(&*m_device);
+    m_frame.emplace(*m_style, m_device->pageLayout().fullRectPixels(m_device->resolution()).size(), m_frameTexts);
     const Outcome outcome = layOut() ? printPages() : Stopped;
     warnOfUnreadableIcons();
     return outcome;
@@ -46,6 +56,15 @@ void PagePrinter::warnOfUnreadableIcons() const
         qWarning("Built-in status icons are printed in place of files that are missing or are not images of at most "
                  "1 MiB: %s",
                 qUtf8Printable(files.join(QStringLiteral(", "))));
+}
+
+void PagePrinter::prepare(const QString& path)
+{
+    m_device.emplace(path);
+    m_device->setResolution(pageResolution());
+    m_device->setPageLayout(QPageLayout(QPageSize(QPageSize::Letter), m_orientation, QMarginsF()));
+    m_device->setCreator(QStringLiteral("uiutils"));
+    m_device->setTitle(m_frameTexts.title.isEmpty() ? m_frameTexts.documentTitle : m_frameTexts.title);
 }
 
 bool PagePrinter::layOut()
@@ -63,11 +82,11 @@ bool PagePrinter::layOut()
 PagePrinter::Outcome PagePrinter::printPages()
 {
     QPainter painter;
-    if (!painter.begin(&m_printer))
+    if (!painter.begin(&*m_device))
         return Failed;
     PageCanvas canvas(painter, *m_style);
     for (int page = 0; page < m_pageCount; ++page) {
-        if (page > 0 && !m_printer.newPage())
+        if (page > 0 && !m_device->newPage())
             return Failed;
         drawPage(canvas, page);
         if (!m_progress(page + 1, m_pageCount))

@@ -6,7 +6,7 @@
 #include "writers/pages/titleblock_p.h"
 #include "writers/pdffile/pdfannotation_p.h"
 
-#include <QPrinter>
+#include <QPdfWriter>
 
 #include <functional>
 #include <optional>
@@ -43,6 +43,7 @@ public:
     const QVector<pdf::OutlineEntry>& outline() const { return m_outline; }
 
 private:
+    void prepare(const QString& path);
     bool layOut();
     void warnOfUnreadableIcons() const;
     Outcome printPages();
@@ -50,8 +51,9 @@ private:
     void addToOutline(const PlacedPortion& placed);
 
     PageFrame::Texts m_frameTexts;
+    QPageLayout::Orientation m_orientation;
     Progress m_progress;
-    QPrinter m_printer;
+    std::optional<QPdfWriter> m_device;
     TitleBlock m_titleBlock;
     QList<ReportItem*> m_items;
     std::optional<PageStyle> m_style;

@@ -2,8 +2,10 @@
 
 #include "base/durablefile_p.h"
 #include "base/paths_p.h"
-#include "writers/pdffile/pdfdocument_p.h"
+#include "writers/pdffile/pdfdate_p.h"
+#include "writers/pdffile/pdfengine_p.h"
 #include "writers/pdffile/pdfprobe_p.h"
+#include "writers/pdffile/pdftexts_p.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
@@ -71,7 +73,7 @@ QByteArray read(const QString& path, const QDeadlineTimer& deadline, QString* er
     return contents;
 }
 
-std::unique_ptr<PoDoFo::PdfMemDocument> loadUntrusted(const QString& path, QString* error)
+std::unique_ptr<pdf::Document> loadUntrusted(const QString& path, QString* error)
 {
     // Reading gets a third of the time, so that the file can still be tried and loaded.
     const QDeadlineTimer deadline(uiutils::PdfProbe::patience);
@@ -113,12 +115,11 @@ bool isUsableKey(const QString& key)
 class uiutils::PDFFilePrivate
 {
 public:
-    using InfoSetter = void (PoDoFo::PdfInfo::*)(const PoDoFo::PdfString&);
-    bool change(InfoSetter setter, const QString& value, QLatin1String failure);
+    bool change(const QString& key, const QString& value, QLatin1String failure);
     bool writeTo(const QString& path, QString* error);
 
     QString filename;
-    std::unique_ptr<PoDoFo::PdfMemDocument> document;
+    std::unique_ptr<pdf::Document> document;
 };
 
 using uiutils::PDFFilePrivate;
@@ -175,34 +176,34 @@ QString PDFFile::getCreationDate() const
 
 void PDFFile::setTitle(const QString& title)
 {
-    if (d->change(&PoDoFo::PdfInfo::SetTitle, title, QLatin1String("Unable to set title: ")))
+    if (d->change(QStringLiteral("Title"), title, QLatin1String("Unable to set title: ")))
         Q_EMIT titleChanged();
 }
 
 void PDFFile::setAuthor(const QString& author)
 {
-    if (d->change(&PoDoFo::PdfInfo::SetAuthor, author, QLatin1String("Unable to set author: ")))
+    if (d->change(QStringLiteral("Author"), author, QLatin1String("Unable to set author: ")))
         Q_EMIT authorChanged();
 }
 
 void PDFFile::setSubject(const QString& subject)
 {
-    if (d->change(&PoDoFo::PdfInfo::SetSubject, subject, QLatin1String("Unable to set subject: ")))
+    if (d->change(QStringLiteral("Subject"), subject, QLatin1String("Unable to set subject: ")))
         Q_EMIT subjectChanged();
 }
 
 void PDFFile::setProducer(const QString& producer)
 {
-    if (d->change(&PoDoFo::PdfInfo::SetProducer, producer, QLatin1String("Unable to set producer: ")))
+    if (d->change(QStringLiteral("Producer"), producer, QLatin1String("Unable to set producer: ")))
         Q_EMIT producerChanged();
 }
 
-bool PDFFilePrivate::change(InfoSetter setter, const QString& value, QLatin1String failure)
+bool PDFFilePrivate::change(const QString& key, const QString& value, QLatin1String failure)
 {
     if (!document)
         return false;
     QString error;
-    if (pdf::guarded(&error, [&] { (document->GetInfo()->*setter)(pdf::stringOf(value)); }))
+    if (document->setEntry(key, value, &error))
         return true;
     report(failure, error);
     return false;
@@ -210,15 +211,7 @@ bool PDFFilePrivate::change(InfoSetter setter, const QString& value, QLatin1Stri
 
 QString PDFFile::getMetaData(const QString& key) const
 {
-    QString value;
-    QString error;
-    if (d->document) {
-        pdf::guarded(&error, [&] {
-            const PoDoFo::PdfName name(key.toStdString());
-            value = pdf::textOf(d->document->GetInfo()->GetObject()->GetIndirectKey(name));
-        });
-    }
-    return value;
+    return d->document ? d->document->entry(key) : QString();
 }
 
 void PDFFile::setMetaData(const QString& key, const QString& value)
@@ -226,11 +219,7 @@ void PDFFile::setMetaData(const QString& key, const QString& value)
     if (!d->document || !isUsableKey(key))
         return;
     QString error;
-    const bool set = pdf::guarded(&error, [&] {
-        const PoDoFo::PdfName name(key.toStdString());
-        d->document->GetInfo()->GetObject()->GetDictionary().AddKey(name, pdf::stringOf(value));
-    });
-    if (!set)
+    if (!d->document->setEntry(key, value, &error))
         report(QLatin1String("Unable to set metadata: "), error);
 }
 
@@ -245,8 +234,8 @@ void PDFFile::write(const QString& filename)
 
 bool PDFFilePrivate::writeTo(const QString& path, QString* error)
 {
-    // Written in memory first, because PoDoFo does not notice a full disk.
-    const QByteArray contents = pdf::save(*document, error);
+    // Written in memory first, because the parser does not notice a full disk.
+    const QByteArray contents = pdf::saved(*document, error);
     if (contents.isEmpty())
         return false;
     const QString target = uiutils::onDisk(path);

@@ -1,8 +1,9 @@
 #include "writers/pdffile/pdfprobe_p.h"
 
 #include "base/ownplace_p.h"
-#include "writers/pdffile/pdfdocument_p.h"
+#include "writers/pdffile/pdfengine_p.h"
 #include "writers/pdffile/pdfprobeprotocol_p.h"
+#include "writers/pdffile/pdftexts_p.h"
 
 #include <QDeadlineTimer>
 #include <QElapsedTimer>

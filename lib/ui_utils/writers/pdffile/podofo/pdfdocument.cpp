@@ -1,11 +1,9 @@
-#include "writers/pdffile/pdfdocument_p.h"
+#include "writers/pdffile/podofo/pdfdocument_p.h"
 
 #include "writers/pdffile/pdfciphers_p.h"
 #include "writers/pdffile/pdfprobeprotocol_p.h"
+#include "writers/pdffile/pdftexts_p.h"
 
-#include <QBuffer>
-#include <QFile>
-#include <QRegularExpression>
 #include <QVarLengthArray>
 #include <QtEndian>
 
@@ -16,15 +14,11 @@
 #include <utility>
 #include <vector>
 
-namespace uiutils::pdf {
+namespace uiutils::podofo {
+
+using pdf::PdfFileTexts;
 
 namespace {
-
-bool fail(QString* error, const QString& reason)
-{
-    *error = reason;
-    return false;
-}
 
 /// Where PDFDocEncoding is not Latin-1: 0x18 to 0x1f, and 0x7f to 0xa0.
 constexpr char16_t accents[] = u"\u02D8\u02C7\u02C6\u02D9\u02DD\u02DB\u02DA\u02DC";
@@ -173,33 +167,6 @@ void removePadding(PoDoFo::PdfMemDocument& document)
         info->GetDictionary().AddKey(key, text);
 }
 
-QByteArray tailOf(QIODevice& device)
-{
-    constexpr qint64 tail = 1024;
-    device.seek(qMax<qint64>(0, device.size() - tail));
-    return device.read(tail);
-}
-
-/// All bytes: QString's own function stops at a zero.
-QString fromLatin1(const QByteArray& bytes)
-{
-    return QString::fromLatin1(bytes.constData(), bytes.size());
-}
-
-/// Where the table of objects is, as the last "startxref" says; -1 if there is none.
-qint64 tablePosition(const QByteArray& tail)
-{
-    static const QRegularExpression expression(QStringLiteral("startxref\\s+(\\d{1,18})\\s+%%EOF\\s*\\z"));
-    const QRegularExpressionMatch match = expression.match(fromLatin1(tail));
-    return match.hasMatch() ? match.captured(1).toLongLong() : -1;
-}
-
-bool isTableStart(const QByteArray& bytes)
-{
-    static const QRegularExpression expression(QStringLiteral("^\\s{0,2}(xref\\s|\\d+\\s+\\d+\\s+obj\\b)"));
-    return expression.match(fromLatin1(bytes)).hasMatch();
-}
-
 } // namespace
 
 QString errorText(int code)
@@ -262,35 +229,12 @@ PoDoFo::PdfString stringOf(const QString& text)
     return PoDoFo::PdfString(units.constData(), PoDoFo::pdf_long(units.size()));
 }
 
-QDateTime dateTime(const QString& text)
-{
-    static const QRegularExpression expression(
-            QStringLiteral("^\\s*(?:D:)?(\\d{4})(?:(\\d\\d)(?:(\\d\\d)(?:(\\d\\d)(?:(\\d\\d)(\\d\\d)?)?)?)?)?"
-                           "(?:(Z)(?:00'?(?:00'?)?)?|([+-])(\\d\\d)(?:'?(\\d\\d)?'?)?)?\\s*\\z"));
-    const QRegularExpressionMatch match = expression.match(text);
-    if (!match.hasMatch())
-        return QDateTime();
-    const auto number = [&match](int group, int missing) {
-        return match.capturedLength(group) > 0 ? match.capturedRef(group).toInt() : missing;
-    };
-    const QDate date(number(1, 0), number(2, 1), number(3, 1));
-    const QTime time(number(4, 0), number(5, 0), number(6, 0));
-    if (!date.isValid() || !time.isValid() || number(9, 0) > 23 || number(10, 0) > 59)
-        return QDateTime();
-    if (match.capturedLength(7) > 0)
-        return QDateTime(date, time, Qt::UTC);
-    if (match.capturedLength(8) == 0)
-        return QDateTime(date, time, Qt::LocalTime);
-    const int offset = (number(9, 0) * 60 + number(10, 0)) * 60;
-    return QDateTime(date, time, Qt::OffsetFromUTC, match.capturedRef(8) == QLatin1String("-") ? -offset : offset);
-}
-
 std::unique_ptr<PoDoFo::PdfMemDocument> load(const QByteArray& contents, QString* error)
 {
     prepare();
     std::unique_ptr<PoDoFo::PdfMemDocument> document;
     if (contents.contains("/Encrypt"))
-        allowOldCiphers();
+        pdf::allowOldCiphers();
     const bool loaded = guarded(error, [&] {
         document = std::make_unique<PoDoFo::PdfMemDocument>();
         document->LoadFromBuffer(contents.constData(), contents.size());
@@ -309,7 +253,7 @@ QByteArray save(PoDoFo::PdfMemDocument& document, QString* error)
     QByteArray contents;
     // The padding that PoDoFo leaves in the texts would be written with them.
     if (document.GetEncrypted()) {
-        fail(error, PdfFileTexts::tr("The file is encrypted, and writing it would damage it"));
+        *error = PdfFileTexts::tr("The file is encrypted, and writing it would damage it");
         return contents;
     }
     const bool written = guarded(error, [&] {
@@ -320,32 +264,7 @@ QByteArray save(PoDoFo::PdfMemDocument& document, QString* error)
         PoDoFo::PdfOutputDevice device(&stream);
         document.Write(&device);
     });
-    QBuffer device(&contents);
-    device.open(QIODevice::ReadOnly);
-    return written && isWholePdf(device, error) ? contents : QByteArray();
+    return written ? contents : QByteArray();
 }
 
-bool isWholePdf(QIODevice& device, QString* error)
-{
-    device.seek(0);
-    if (!device.read(5).startsWith("%PDF-"))
-        return fail(error, PdfFileTexts::tr("The file does not begin like a PDF file"));
-    const qint64 position = tablePosition(tailOf(device));
-    if (position < 0)
-        return fail(error, PdfFileTexts::tr("The PDF file has no end"));
-    if (position == 0 || !device.seek(position) || !isTableStart(device.read(32)))
-        return fail(error, PdfFileTexts::tr("The PDF file has no table of its objects"));
-    return true;
-}
-
-bool isWholePdf(const QString& path, QString* error)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = file.errorString();
-        return false;
-    }
-    return isWholePdf(file, error);
-}
-
-} // namespace uiutils::pdf
+} // namespace uiutils::podofo
