@@ -44,23 +44,43 @@ bool isSuffix(const QString& text)
             && !text.contains(QLatin1Char('/')) && !text.contains(QChar(QChar::Null));
 }
 
-std::deque<FormatInfo>& formatTable()
+/// A format of the library's own.
+struct KnownFormat
+{
+    NSReport::ReportFormat value;
+    /// In English.
+    const char* label;
+    const char* name;
+    QLatin1String suffix;
+    bool isAlwaysOffered;
+};
+
+const QVector<KnownFormat>& knownFormats()
 {
     using namespace NSReport;
-    static std::deque<FormatInfo> formats {
-            {REPORT_FORMAT_PDF, QLatin1String(QT_TRANSLATE_NOOP("Report", "PDF")), QStringLiteral("REPORT_FORMAT_PDF"),
-                    pdfSuffix, true},
-            {REPORT_FORMAT_XML, QLatin1String(QT_TRANSLATE_NOOP("Report", "XML")), QStringLiteral("REPORT_FORMAT_XML"),
-                    xmlSuffix, true},
-            {REPORT_FORMAT_HTML, QLatin1String(QT_TRANSLATE_NOOP("Report", "HTML")),
-                    QStringLiteral("REPORT_FORMAT_HTML"), htmlSuffix, false},
-            {REPORT_FORMAT_TEXT, QLatin1String(QT_TRANSLATE_NOOP("Report", "TEXT")),
-                    QStringLiteral("REPORT_FORMAT_TEXT"), textSuffix, false},
-            {REPORT_FORMAT_JSON, QLatin1String(QT_TRANSLATE_NOOP("Report", "JSON")),
-                    QStringLiteral("REPORT_FORMAT_JSON"), jsonSuffix, false},
-            {REPORT_FORMAT_ALL, QLatin1String(QT_TRANSLATE_NOOP("Report", "ALL")), QStringLiteral("REPORT_FORMAT_ALL"),
-                    QString(), false},
+    static const QVector<KnownFormat> formats {
+            {REPORT_FORMAT_PDF, QT_TRANSLATE_NOOP("Report", "PDF"), "REPORT_FORMAT_PDF", pdfSuffix, true},
+            {REPORT_FORMAT_XML, QT_TRANSLATE_NOOP("Report", "XML"), "REPORT_FORMAT_XML", xmlSuffix, true},
+            {REPORT_FORMAT_HTML, QT_TRANSLATE_NOOP("Report", "HTML"), "REPORT_FORMAT_HTML", htmlSuffix, false},
+            {REPORT_FORMAT_TEXT, QT_TRANSLATE_NOOP("Report", "TEXT"), "REPORT_FORMAT_TEXT", textSuffix, false},
+            {REPORT_FORMAT_JSON, QT_TRANSLATE_NOOP("Report", "JSON"), "REPORT_FORMAT_JSON", jsonSuffix, false},
+            {REPORT_FORMAT_ALL, QT_TRANSLATE_NOOP("Report", "ALL"), "REPORT_FORMAT_ALL", QLatin1String(), false},
     };
+    return formats;
+}
+
+std::deque<FormatInfo> tableOfKnownFormats()
+{
+    std::deque<FormatInfo> table;
+    for (const KnownFormat& format : knownFormats())
+        table.push_back({format.value, QLatin1String(format.label), QLatin1String(format.name), format.suffix,
+                format.isAlwaysOffered});
+    return table;
+}
+
+std::deque<FormatInfo>& formatTable()
+{
+    static std::deque<FormatInfo> formats = tableOfKnownFormats();
     return formats;
 }
 
@@ -122,12 +142,10 @@ void addFormatChoices(UiData& item)
     QList<int> values;
     QStringList labels;
     QStringList names;
-    for (const FormatInfo& format : allReportFormats()) {
-        if (format.value >= NSReport::firstOwnFormat)
-            break;
+    for (const KnownFormat& format : knownFormats()) {
         values.append(format.value);
-        labels.append(ReportTexts::tr(format.label.toLatin1().constData()));
-        names.append(format.name);
+        labels.append(ReportTexts::tr(format.label));
+        names.append(QLatin1String(format.name));
     }
     item.setUiEnumList(new UiDataEnums(&item));
     item.setEnums(values, labels, names);
