@@ -286,7 +286,12 @@ def judge_plants(lupdate):
             return judge_tree(lupdate, pathlib.Path(folder))
 
     yield from (f'not wrong, and complained of: {complaint}' for complaint in judged('lib/a.cpp', SOUND))
+    # The lupdate of Debian 13 reads digit separators.
+    version = subprocess.run([lupdate, '-version'], capture_output=True, text=True).stdout.split()[-1]
+    reads_separators = tuple(map(int, version.split('.'))) >= (5, 15, 15)
     for name, file, source, words in WRONG:
+        if words == 'Unterminated' and reads_separators:
+            continue
         found = judged(file, source)
         if not any(words in complaint for complaint in found):
             yield f'planted and not found: {name}; found: {found}'

@@ -44,7 +44,8 @@ QString recordOf(const QString& path)
     return (hasSuffix ? path.left(dot) : path) + QLatin1String(".json");
 }
 
-std::nullopt_t unreadable(const QString& reason, QString* error)
+// lupdate would take the namespace of a result that is named for that of the text.
+auto unreadable(const QString& reason, QString* error)
 {
     *error = ReportTexts::tr("Cannot read %1: %2").arg(paths::noSyncList, reason);
     return std::nullopt;

@@ -7,6 +7,7 @@
 #include "writers/pages/pageprinter_p.h"
 #include "writers/pages/statusicons_p.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QPointer>
 #include <QScopedValueRollback>
@@ -25,7 +26,7 @@ class uiutils::ReportPDFPrivate
 public:
     QList<ReportItem*> items;
     ReportPDF::Orientation orientation = ReportPDF::Portrait;
-    QString documentTitle = ReportPDF::tr("Solvant Report");
+    QString documentTitle = QCoreApplication::translate("ReportPDF", "Solvant Report");
     QString title;
     QString author;
     QString subject;
