@@ -83,11 +83,13 @@ endfunction()
 # uiutils_exports(<library> <name>)
 #
 # Exports the library's interface, and nothing that the compiler makes from the standard library's templates, under the
-# version <name>_<major>. A process that loads two major versions keeps them apart by it.
+# version <name>_<major>. A process that loads two major versions keeps them apart by it. The library calls its own
+# functions without looking for them by name at the start, as Qt's do; whoever uses them is position independent, which
+# Qt demands anyway.
 function(uiutils_exports library name)
     set(node "${name}_${PROJECT_VERSION_MAJOR}")
     set(script "${CMAKE_CURRENT_BINARY_DIR}/${library}.map")
     configure_file("${PROJECT_SOURCE_DIR}/cmake/exports.map.in" "${script}" @ONLY)
-    target_link_options(${library} PRIVATE "LINKER:--version-script=${script}")
+    target_link_options(${library} PRIVATE "LINKER:--version-script=${script}" "LINKER:-Bsymbolic-functions")
     set_property(TARGET ${library} APPEND PROPERTY LINK_DEPENDS "${script}")
 endfunction()
