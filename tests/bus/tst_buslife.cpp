@@ -192,7 +192,8 @@ private Q_SLOTS:
             QSKIP("Only root can be another user.");
         m_backend.reset();
         // The user of a connection is the one who opens it.
-        QCOMPARE(::seteuid(65534), 0);
+        if (::seteuid(65534) != 0)
+            QSKIP("There is no other user in this name space.");
         m_backend = std::make_unique<BusBackend>();
         QCOMPARE(::seteuid(0), 0);
         m_client = m_backend->serviceClient("life", nullptr);
