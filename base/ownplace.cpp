@@ -27,6 +27,17 @@ QString ownFile()
     return QFileInfo(name.isEmpty() ? QStringLiteral("/proc/self/exe") : name).canonicalFilePath();
 }
 
+QString besideOwnFile(std::initializer_list<QLatin1String> places)
+{
+    const QString own = ownFile();
+    for (const QLatin1String place : places) {
+        const QFileInfo there(QFileInfo(own).path() + QLatin1Char('/') + place);
+        if (!own.isEmpty() && there.exists())
+            return there.canonicalFilePath();
+    }
+    return QString();
+}
+
 QString installedFolder(const QString& place)
 {
     const QString own = ownFile();

@@ -39,7 +39,7 @@ if ! grep -q 'Unable to write PDF report' <<<"$said" || grep -q 'without being t
     exit 1
 fi
 # The reason is a text of the parser's library, which is found in the same way.
-if grep -q 'Unknown error\|Cannot load' <<<"$said"; then
+if grep -q 'Unknown error\|Cannot load\|is not installed' <<<"$said"; then
     echo "PDF files cannot be read: $said" >&2
     exit 1
 fi

@@ -3,21 +3,15 @@
 #include "base/ownplace_p.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 namespace uiutils {
 
 QString qmlImportPath()
 {
-    const QString own = ownFile();
-    const QDir beside = QFileInfo(own).dir();
     // As installed, and as built.
-    for (const QLatin1String place : {QLatin1String(UIUTILS_QML_FROM_LIBRARY), QLatin1String("../qml")}) {
-        const QString folder = QDir::cleanPath(beside.filePath(place));
-        if (!own.isEmpty() && QFileInfo::exists(folder + QLatin1String("/UiUtils/qmldir")))
-            return folder;
-    }
-    return QString();
+    const QString description = besideOwnFile(
+            {QLatin1String(UIUTILS_QML_FROM_LIBRARY "/UiUtils/qmldir"), QLatin1String("../qml/UiUtils/qmldir")});
+    return description.isEmpty() ? QString() : QDir::cleanPath(description + QLatin1String("/../.."));
 }
 
 } // namespace uiutils

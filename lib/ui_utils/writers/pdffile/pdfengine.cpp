@@ -4,7 +4,6 @@
 #include "writers/pdffile/pdftexts_p.h"
 #include "writers/pdffile/wholepdf_p.h"
 
-#include <QFileInfo>
 #include <QLibrary>
 
 namespace uiutils::pdf {
@@ -14,20 +13,20 @@ namespace {
 /// Found from the place of the library, as the helper that tries files is.
 QString engineFile()
 {
-    const QString folder = QFileInfo(ownFile()).path();
-    for (const QLatin1String place : {QLatin1String("/uiutils/"), QLatin1String("/../lib/uiutils/")}) {
-        const QFileInfo file(folder + place + QLatin1String(UIUTILS_PDF_ENGINE));
-        if (file.isFile())
-            return file.canonicalFilePath();
-    }
-    return folder + QLatin1String("/uiutils/" UIUTILS_PDF_ENGINE);
+    return besideOwnFile(
+            {QLatin1String("uiutils/" UIUTILS_PDF_ENGINE), QLatin1String("../lib/uiutils/" UIUTILS_PDF_ENGINE)});
 }
 
 struct Loaded
 {
     Loaded()
     {
-        QLibrary library(engineFile());
+        const QString file = engineFile();
+        if (file.isEmpty()) {
+            error = PdfFileTexts::tr("%1 is not installed").arg(QLatin1String(UIUTILS_PDF_ENGINE));
+            return;
+        }
+        QLibrary library(file);
         const auto function = reinterpret_cast<UiUtilsPdfEngine>(library.resolve("uiutilsPdfEngine"));
         if (function)
             engine = function();

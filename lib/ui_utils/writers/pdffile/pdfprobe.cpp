@@ -54,14 +54,9 @@ private:
 /// Found from the place of the library, never from the environment or the current folder, because it is trusted.
 QString installedHelper()
 {
-    const QFileInfo own(ownFile());
-    for (const QLatin1String place :
-            {QLatin1String(UIUTILS_PDF_PROBE_FROM_LIBRARY), QLatin1String("../libexec/uiutils/uiutils-pdf-probe")}) {
-        const QFileInfo helper(own.path() + QLatin1Char('/') + place);
-        if (own.isAbsolute() && helper.isFile() && helper.isExecutable())
-            return helper.canonicalFilePath();
-    }
-    return QString();
+    const QFileInfo helper(besideOwnFile(
+            {QLatin1String(UIUTILS_PDF_PROBE_FROM_LIBRARY), QLatin1String("../libexec/uiutils/uiutils-pdf-probe")}));
+    return helper.isFile() && helper.isExecutable() ? helper.filePath() : QString();
 }
 
 /// The bytes as a file that nobody else can change.
