@@ -27,10 +27,10 @@ QString ownFile()
     return QFileInfo(name.isEmpty() ? QStringLiteral("/proc/self/exe") : name).canonicalFilePath();
 }
 
-QString besideOwnFile(std::initializer_list<QLatin1String> places)
+QString besideOwnFile(std::initializer_list<QString> places)
 {
     const QString own = ownFile();
-    for (const QLatin1String place : places) {
+    for (const QString& place : places) {
         const QFileInfo there(QFileInfo(own).path() + QLatin1Char('/') + place);
         if (!own.isEmpty() && there.exists())
             return there.canonicalFilePath();

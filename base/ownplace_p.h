@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QLatin1String>
 #include <QString>
 
 #include <initializer_list>
@@ -13,7 +12,7 @@ QString ownFile();
 
 /// The first of the paths, relative to the folder of the own file, where something is, without links; empty when there
 /// is nothing at any.
-QString besideOwnFile(std::initializer_list<QLatin1String> places);
+QString besideOwnFile(std::initializer_list<QString> places);
 
 /// The folder `place`, such as "share/uiutils/services", of the installation that this code belongs to, wherever that
 /// was moved: the nearest one below the folders that hold the own file. The build folder has the same layout. Empty

@@ -10,6 +10,7 @@
 
 #include <QFile>
 #include <QPainter>
+#include <QPrinter>
 #include <QTemporaryDir>
 #include <QTextDocument>
 

@@ -25,7 +25,9 @@ public:
         m_service = std::make_unique<OwnService>(items);
         m_publisher = std::make_unique<kiv::bus::BusPublisher>();
         QObject::connect(m_publisher.get(), &kiv::bus::BusPublisher::published, [] { answer({}); });
-        m_publisher->publish(m_service->service());
+        QString problem;
+        if (!m_publisher->publish(m_service->service(), &problem))
+            qFatal("%s", qPrintable(problem));
         m_ids.clear();
         for (int item = 0; item < items; ++item)
             m_ids += itemId(item);

@@ -14,7 +14,8 @@ from includegraph import HEADERS, Fault  # noqa: E402
 # includes counts too.
 ROOMS = """
 base        base                            -
-contract    platform/contract/kiv           -
+contract    platform/contract/kiv           base
+schema      platform/contract/kiv/schema    contract base
 formatters  platform/reference/formatters   contract
 embedded    platform/reference/embedded     base contract formatters
 bus         platform/reference/bus          base contract formatters embedded

@@ -39,7 +39,7 @@ GROUPS = {
 # The rooms, and after each the rooms that it must not include: those beside and above it.
 FORBIDDEN = """
 base        contract REFERENCE LIBRARY PROGRAMS
-contract    base REFERENCE LIBRARY PROGRAMS
+contract    REFERENCE LIBRARY PROGRAMS
 formatters  base embedded LIBRARY PROGRAMS
 embedded    LIBRARY PROGRAMS
 

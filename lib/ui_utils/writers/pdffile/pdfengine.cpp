@@ -1,37 +1,21 @@
 #include "writers/pdffile/pdfengine_p.h"
 
-#include "base/ownplace_p.h"
+#include "base/ownlibrary_p.h"
 #include "writers/pdffile/pdftexts_p.h"
 #include "writers/pdffile/wholepdf_p.h"
-
-#include <QLibrary>
 
 namespace uiutils::pdf {
 
 namespace {
 
-/// Found from the place of the library, as the helper that tries files is.
-QString engineFile()
-{
-    return besideOwnFile(
-            {QLatin1String("uiutils/" UIUTILS_PDF_ENGINE), QLatin1String("../lib/uiutils/" UIUTILS_PDF_ENGINE)});
-}
-
 struct Loaded
 {
     Loaded()
     {
-        const QString file = engineFile();
-        if (file.isEmpty()) {
-            error = PdfFileTexts::tr("%1 is not installed").arg(QLatin1String(UIUTILS_PDF_ENGINE));
-            return;
-        }
-        QLibrary library(file);
-        const auto function = reinterpret_cast<UiUtilsPdfEngine>(library.resolve("uiutilsPdfEngine"));
+        const auto function = reinterpret_cast<UiUtilsPdfEngine>(
+                ownLibraryFunction("uiutils", UIUTILS_PDF_ENGINE, "uiutilsPdfEngine", &error));
         if (function)
             engine = function();
-        else
-            error = library.errorString();
     }
 
     const Engine* engine = nullptr;
