@@ -15,7 +15,7 @@ build_packages=(
     g++ cmake ninja-build pkg-config
     qtbase5-dev qtbase5-private-dev
     qtdeclarative5-dev qtdeclarative5-private-dev qtdeclarative5-dev-tools
-    libvalijson-dev libpodofo-dev libssl-dev libxml2-dev libpoppler-qt5-dev zlib1g-dev
+    libvalijson-dev libharfbuzz-dev libpodofo-dev libssl-dev libxml2-dev libpoppler-qt5-dev zlib1g-dev
     libsystemd-dev
     qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2
     qml-module-qtquick-layouts qml-module-qttest qml-module-qtqml-models2

@@ -26,10 +26,12 @@ instrument  lib/ui_utils/instrument         base contract core
 document    lib/ui_utils/document           base contract core
 local       lib/ui_utils/local              base contract core service
 files       lib/ui_utils/files              base contract core instrument document
+emitter     lib/ui_utils/writers/emitter    base core
+fonts       lib/ui_utils/writers/emitter/fonts  base core emitter
 plots       lib/ui_utils/writers/plots      base contract core
 pdffile     lib/ui_utils/writers/pdffile    base core
 podofo      lib/ui_utils/writers/pdffile/podofo  base core pdffile
-pages       lib/ui_utils/writers/pages      base core pdffile
+pages       lib/ui_utils/writers/pages      base core emitter pdffile
 text        lib/ui_utils/writers/text       base contract core instrument document plots
 html        lib/ui_utils/writers/html       base contract core instrument document plots pages text
 xml         lib/ui_utils/templ2xmlwriter    base contract core instrument document
@@ -56,8 +58,8 @@ benchmarks  benchmarks                      LIBRARY podofo base contract embedde
 startbench  benchmarks/start                -
 busbench    benchmarks/bus                  LIBRARY base contract embedded bus benchmarks
 """
-GROUPS = {"WRITERS": "plots pdffile pages text html xml",
-          "LIBRARY": "core service instrument document local files plots pdffile pages text html xml report saving module"}
+GROUPS = {"WRITERS": "emitter plots pdffile pages text html xml",
+          "LIBRARY": "core service instrument document local files emitter plots pdffile pages text html xml report saving module"}
 # Our modules that pages may import.
 PAGES = {"apps/common/qml": [], "apps/pdf_viewer/qml": ["UiUtils.Viewer"], "qml/UiUtils/Controls": ["UiUtils", "UiUtils.Controls"],
          "apps/demo/qml": ["UiUtils", "UiUtils.Controls", "UiUtils.Demo"]}
