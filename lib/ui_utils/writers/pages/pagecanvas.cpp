@@ -1,42 +1,31 @@
 #include "writers/pages/pagecanvas_p.h"
 
+#include "writers/emitter/pdfdocument_p.h"
 #include "writers/pages/pagefont_p.h"
 #include "writers/pages/pageimage_p.h"
+#include "writers/pages/pagepainter_p.h"
 #include "writers/pages/pagestyle_p.h"
+#include "writers/pages/statusicons_p.h"
 
-#include <QGlyphRun>
+#include <QCryptographicHash>
+#include <QImage>
 #include <QPainter>
-#include <QTextLine>
 
 namespace uiutils {
 
-namespace {
-
-/// Decoded images that are kept in memory.
-constexpr int maximumImages = 8;
-
-} // namespace
-
-PageCanvas::PageCanvas(QPainter& painter, const PageStyle& style)
-    : m_painter(painter)
+PageCanvas::PageCanvas(pdf::DocumentWriter& writer, const PageStyle& style)
+    : m_writer(writer)
     , m_style(style)
+    , m_structure(writer)
 {
-    // Lossy compression would damage the thin lines and letters of a plot.
-    m_painter.setRenderHint(QPainter::LosslessImageRendering);
-    m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
 }
 
-PageCanvas::~PageCanvas()
-{
-    flush();
-}
+PageCanvas::~PageCanvas() = default;
 
 void PageCanvas::fill(const QVector<QRectF>& rectangles, const QColor& color)
 {
-    flush();
-    m_painter.setPen(Qt::NoPen);
-    m_painter.setBrush(color);
-    m_painter.drawRects(rectangles);
+    const auto mark = m_structure.artifact(pdf::PageContent::Anything);
+    m_writer.content().fill(rectangles, color);
 }
 
 void PageCanvas::frame(const QRectF& rectangle, const QColor& color)
@@ -82,75 +71,101 @@ const WrappedText* PageCanvas::findParted(const PageFont& font, const QString& t
     return nullptr;
 }
 
-void PageCanvas::drawPlain(const PageFont& font, QStringView text, const QPointF& baseLine, const QColor& color)
+pdf::EmbeddedFont& PageCanvas::embedded(const PageFont& font)
 {
-    if (m_font != &font || m_color != color) {
-        flush();
-        m_font = &font;
-        m_color = color;
-    }
-    qreal x = baseLine.x();
-    for (const QChar c : text) {
-        const PageFont::Glyph& glyph = font.glyph(c);
-        m_glyphs += glyph.index;
-        m_positions += QPointF(x, baseLine.y());
-        x += glyph.advance;
+    pdf::EmbeddedFont*& embedded = m_fonts[&font];
+    if (!embedded)
+        embedded = m_writer.font(font.raw());
+    return *embedded;
+}
+
+void PageCanvas::setRow(const PageFont& font, QStringView text)
+{
+    pdf::EmbeddedFont& embedded = this->embedded(font);
+    m_row.font = &embedded;
+    m_row.size = font.size();
+    m_row.glyphs.resize(int(text.size()));
+    m_row.gaps.resize(int(text.size()));
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const quint16 glyph = font.glyph(c).index;
+        embedded.use(glyph, c);
+        m_row.glyphs[i] = glyph;
+        m_row.gaps[i] = i + 1 < text.size() ? float(font.kerning(c, text.at(i + 1))) : 0;
     }
 }
 
-void PageCanvas::drawShaped(const QTextLine& line, const QPointF& baseLine, const QColor& color)
+void PageCanvas::drawPlain(const PageFont& font, QStringView text, const QPointF& baseLine, const QColor& color)
 {
-    flush();
-    m_painter.setPen(color);
-    line.draw(&m_painter, {baseLine.x(), baseLine.y() - line.ascent()});
+    setRow(font, text);
+    m_writer.content().show(m_row, baseLine, color);
+}
+
+void PageCanvas::drawInvisibly(const PageFont& font, const QString& text, const QRectF& place)
+{
+    const qreal width = font.plainWidth(text);
+    if (width <= 0)
+        return;
+    setRow(font, text);
+    m_writer.content().showInvisibly(m_row, {place.left(), place.top() + font.ascent()}, width, place.width());
+}
+
+void PageCanvas::drawShaped(
+        const PageFont& font, const QTextLayout& layout, int line, const QPointF& baseLine, const QColor& color)
+{
+    ShapedText(m_writer, font, &m_pictures, &m_missing).draw(layout, line, baseLine, color);
+}
+
+void PageCanvas::drawStatusIcon(int status, const QRectF& place)
+{
+    const auto mark = m_structure.artifact(pdf::PageContent::Anything);
+    drawImage(m_style.statusIcon(status), place);
+}
+
+void PageCanvas::drawStatusWord(int status, const QString& beside, const QRectF& icon)
+{
+    const QString word = statusWord(status);
+    if (!beside.contains(word, Qt::CaseInsensitive))
+        drawInvisibly(m_style.body, word, icon);
 }
 
 void PageCanvas::drawImage(const QImage& image, const QRectF& place)
 {
-    flush();
-    m_painter.drawImage(place, image);
+    m_writer.content().image(m_writer.image(image), place);
 }
 
 void PageCanvas::drawImage(const QByteArray& encoded, const QRectF& place)
 {
-    auto it = m_images.find(encoded);
-    if (it == m_images.end()) {
-        if (m_images.size() >= maximumImages)
-            m_images.clear();
-        it = m_images.insert(encoded, decodedImage(encoded));
+    QByteArray& name = m_images[QCryptographicHash::hash(encoded, QCryptographicHash::Sha1)];
+    if (name.isEmpty()) {
+        const QImage image = decodedImage(encoded);
+        if (image.isNull())
+            return;
+        name = m_writer.image(image);
     }
-    if (!it->isNull())
-        drawImage(*it, place);
-}
-
-void PageCanvas::paint(const QRectF& place, const std::function<void(QPainter&)>& draw)
-{
-    flush();
-    m_painter.save();
-    m_painter.setClipRect(place);
-    m_painter.translate(place.topLeft());
-    m_painter.scale(m_style.points(1), m_style.points(1));
-    QFont font = m_style.body.font();
-    font.setPixelSize(qRound(font.pointSizeF()));
-    m_painter.setFont(font);
-    m_painter.setPen(m_style.ink);
-    m_painter.setBrush(Qt::NoBrush);
-    draw(m_painter);
-    m_painter.restore();
+    m_writer.content().image(name, place);
 }
 
 void PageCanvas::flush()
 {
-    if (m_glyphs.isEmpty())
+    if (m_pictures.isEmpty())
         return;
-    QGlyphRun run;
-    run.setRawFont(m_font->raw());
-    run.setRawData(m_glyphs.constData(), m_positions.constData(), m_glyphs.size());
-    m_painter.setPen(m_color);
-    m_painter.drawGlyphRun({}, run);
-    // Keeps the memory for the next run.
-    m_glyphs.resize(0);
-    m_positions.resize(0);
+    const auto mark = m_structure.artifact(pdf::PageContent::Anything);
+    drawPictures(m_writer, m_pictures);
+    m_pictures.clear();
+}
+
+void PageCanvas::paint(const QRectF& place, const std::function<void(QPainter&)>& draw)
+{
+    const auto mark = m_structure.figure(QString());
+    PagePainter device(m_writer, m_style.body, &m_missing, m_style.points(1), place);
+    QPainter painter(&device);
+    QFont font(m_style.body.font(), &device);
+    font.setPixelSize(qRound(font.pointSizeF()));
+    painter.setFont(font);
+    painter.setPen(m_style.ink);
+    painter.setBrush(Qt::NoBrush);
+    draw(painter);
 }
 
 } // namespace uiutils

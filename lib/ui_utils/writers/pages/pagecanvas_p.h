@@ -1,10 +1,11 @@
 #pragma once
 
+#include "writers/pages/pagestructure_p.h"
+#include "writers/pages/shapedtext_p.h"
 #include "writers/pages/wrappedtext_p.h"
 
 #include <QColor>
 #include <QHash>
-#include <QImage>
 #include <QPointF>
 #include <QRectF>
 #include <QVector>
@@ -13,27 +14,28 @@
 #include <memory>
 #include <vector>
 
+class QImage;
 class QPainter;
-class QTextLine;
 
 namespace uiutils {
 
 class PageFont;
 class PageStyle;
 
-/// What report items draw on: a painter on a page, and the style of the pages.
+/// What report items draw on: the page that is being written, the style of the pages, and what the content is.
 ///
-/// Plain text is collected and drawn in runs, in the order of the calls: readers that copy text follow the order of
-/// drawing.
+/// Texts are written in the order of the calls, which readers that copy text follow.
 class PageCanvas
 {
 public:
-    PageCanvas(QPainter& painter, const PageStyle& style);
+    PageCanvas(pdf::DocumentWriter& writer, const PageStyle& style);
     ~PageCanvas();
     Q_DISABLE_COPY_MOVE(PageCanvas)
 
     const PageStyle& style() const { return m_style; }
+    PageStructure& structure() { return m_structure; }
 
+    /// Decoration, which no text belongs to.
     void fill(const QRectF& rectangle, const QColor& color) { fill(QVector<QRectF> {rectangle}, color); }
     void fill(const QVector<QRectF>& rectangles, const QColor& color);
     /// A frame inside the rectangle.
@@ -46,17 +48,27 @@ public:
     void forgetParts() { m_parted.clear(); }
     /// Draws one line of a text that can be set glyph by glyph.
     void drawPlain(const PageFont& font, QStringView text, const QPointF& baseLine, const QColor& color);
-    void drawShaped(const QTextLine& line, const QPointF& baseLine, const QColor& color);
+    /// Draws one line of any other.
+    void drawShaped(const PageFont& font, const QTextLayout& layout, int line, const QPointF& baseLine, const QColor& color);
+    /// Has readers copy `text`, which can be set glyph by glyph, from where a picture says the same.
+    void drawInvisibly(const PageFont& font, const QString& text, const QRectF& place);
+
+    /// The icon of a status, which is decoration beside its word.
+    void drawStatusIcon(int status, const QRectF& place);
+    /// The word of a status, for those who search and copy; nothing if `beside`, the text beside the icon, says it.
+    void drawStatusWord(int status, const QString& beside, const QRectF& icon);
 
     void drawImage(const QImage& image, const QRectF& place);
     /// Draws an encoded image. The same bytes are decoded once, and stored in the file once.
     void drawImage(const QByteArray& encoded, const QRectF& place);
 
+    /// Draws what could not be drawn among texts. To be called at the end of each page.
+    void flush();
+    /// The characters of all pages that no font has.
+    const QString& missing() const { return m_missing; }
+
     /// Has `draw` paint into `place` and nowhere else: from (0, 0), in points, with the font and the colour of texts.
     void paint(const QRectF& place, const std::function<void(QPainter&)>& draw);
-
-    /// Draws the text that was collected. To be called at the end of each page.
-    void flush();
 
 private:
     struct Parted
@@ -68,16 +80,20 @@ private:
     };
 
     const WrappedText* findParted(const PageFont& font, const QString& text, qreal width) const;
+    pdf::EmbeddedFont& embedded(const PageFont& font);
+    void setRow(const PageFont& font, QStringView text);
 
-    QPainter& m_painter;
+    pdf::DocumentWriter& m_writer;
     const PageStyle& m_style;
-    const PageFont* m_font = nullptr;
-    QColor m_color;
-    QVector<quint32> m_glyphs;
-    QVector<QPointF> m_positions;
+    PageStructure m_structure;
+    QHash<const PageFont*, pdf::EmbeddedFont*> m_fonts;
+    // Kept for its memory.
+    pdf::PageContent::Row m_row;
     // A cell that continues over a hundred pages is broken into lines once.
     std::vector<Parted> m_parted;
-    QHash<QByteArray, QImage> m_images;
+    QHash<QByteArray, QByteArray> m_images;
+    QVector<GlyphPicture> m_pictures;
+    QString m_missing;
 };
 
 } // namespace uiutils

@@ -1,6 +1,12 @@
 #include "writers/pages/pagefont_p.h"
 
+#include "writers/emitter/fontmetrics_p.h"
+#include "writers/emitter/fontprogram_p.h"
+
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QPaintDevice>
+#include <QTextLayout>
 
 #include <cmath>
 
@@ -8,8 +14,9 @@ namespace uiutils {
 
 namespace {
 
-/// A sixteenth of a unit is invisible, and the page then repeats few different numbers, which compress well.
-constexpr qreal advanceSteps = 16;
+/// Of a font in which one unit is a thousandth.
+constexpr int thousandths = 1000;
+constexpr qreal pointsOfAnInch = 72;
 
 bool isSetByItself(QChar c)
 {
@@ -50,45 +57,109 @@ bool isSetByItself(QChar c)
 } // namespace
 
 PageFont::PageFont(const QFont& font, QPaintDevice* device)
-    : m_font(font, device)
+    : m_size(font.pointSizeF())
+    , m_thousandth(m_size * device->logicalDpiY() / pointsOfAnInch / thousandths)
+    , m_font(font, device)
+    , m_pairs(std::make_unique<Pairs>())
 {
     // With hinting for a screen, glyphs would be spaced unevenly on paper.
     m_font.setHintingPreference(QFont::PreferNoHinting);
     m_raw = QRawFont::fromFont(m_font);
+    m_isEmbeddable = pdf::embeddingOf(m_raw) == pdf::Embedding::Allowed;
     const QFontMetricsF metrics(m_font, device);
     m_ascent = metrics.ascent();
     m_lineHeight = std::ceil(metrics.height());
+    for (auto& row : *m_pairs)
+        row.fill(unknownPair);
 }
+
+PageFont::~PageFont() = default;
+PageFont::PageFont(PageFont&&) noexcept = default;
 
 qreal PageFont::plainWidth(QStringView text) const
 {
     qreal width = 0;
+    int kerned = 0;
+    QChar before;
     for (const QChar c : text) {
         const qreal advance = glyph(c).advance;
         if (advance < 0)
             return -1;
         width += advance;
+        kerned += before.isNull() ? 0 : kerning(before, c);
+        before = c;
     }
-    return width;
+    return width + kerned * m_thousandth;
 }
 
 const PageFont::Block& PageFont::loadBlock(uchar row) const
 {
     auto block = std::make_unique<Block>();
+    if (!m_isEmbeddable) {
+        m_blocks[row] = std::move(block);
+        return *m_blocks[row];
+    }
+    QVector<quint16> glyphs;
+    QVector<int> cells;
     for (int cell = 0; cell < int(block->size()); ++cell) {
         const QChar character(uchar(cell), row);
         if (!isSetByItself(character))
             continue;
         // The font's own table lacks glyphs for some spaces that look the same.
         const bool isBlank = character.category() == QChar::Separator_Space && character.unicode() == 0xa0;
-        const QVector<quint32> glyphs = m_raw.glyphIndexesForString(isBlank ? QStringLiteral(" ") : QString(character));
-        if (glyphs.size() != 1 || glyphs.constFirst() == 0)
+        const QVector<quint32> found = m_raw.glyphIndexesForString(isBlank ? QStringLiteral(" ") : QString(character));
+        if (found.size() != 1 || found.constFirst() == 0 || found.constFirst() > 0xffff)
             continue;
-        const qreal advance = m_raw.advancesForGlyphIndexes(glyphs).constFirst().x();
-        (*block)[size_t(cell)] = {glyphs.constFirst(), float(std::round(advance * advanceSteps) / advanceSteps)};
+        glyphs += quint16(found.constFirst());
+        cells += cell;
     }
+    const QVector<double> widths = pdf::glyphWidths(m_raw, glyphs);
+    for (int i = 0; i < cells.size(); ++i)
+        (*block)[size_t(cells.at(i))] = {glyphs.at(i), 0, float(widths.at(i) * m_thousandth)};
     m_blocks[row] = std::move(block);
     return *m_blocks[row];
+}
+
+/// 0 when all places are taken.
+int PageFont::placeInPairs(const Glyph& glyph) const
+{
+    if (glyph.inPairs == 0 && m_inPairs < mostInPairs - 1)
+        glyph.inPairs = quint16(++m_inPairs);
+    return glyph.inPairs;
+}
+
+int PageFont::measurePair(QChar left, QChar right) const
+{
+    const int row = placeInPairs(glyph(left));
+    const int column = placeInPairs(glyph(right));
+    // Words of scripts with more letters than that have no pairs.
+    if (row == 0 || column == 0)
+        return 0;
+    qint16& known = (*m_pairs)[size_t(row)][size_t(column)];
+    if (known == unknownPair)
+        known = qint16(shapedKerning(left, right));
+    return known;
+}
+
+/// What the font says about the pair. A ligature is not a pair: texts are set glyph by glyph.
+int PageFont::shapedKerning(QChar left, QChar right) const
+{
+    if (left.isSpace() || right.isSpace())
+        return 0;
+    QFont font = m_font;
+    font.setPixelSize(thousandths);
+    QTextLayout layout(QString(left) + right, font);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setNumColumns(2);
+    layout.endLayout();
+    const QList<QGlyphRun> runs = line.glyphRuns();
+    if (runs.size() != 1 || runs.constFirst().glyphIndexes() != QVector<quint32> {glyph(left).index, glyph(right).index})
+        return 0;
+    const QVector<QPointF> positions = runs.constFirst().positions();
+    const qreal apart = positions.at(1).x() - positions.at(0).x() - glyph(left).advance / m_thousandth;
+    constexpr qreal most = 999;
+    return qRound(qBound(-most, apart, most));
 }
 
 } // namespace uiutils

@@ -53,7 +53,7 @@ void PageFrame::drawHeader(PageCanvas& canvas, int page) const
     // The first page has the title block.
     if (page == 1)
         return;
-    drawLine(canvas, m_headerTop, m_texts.title, {}, m_texts.documentTitle);
+    drawLine(canvas, "/Type/Pagination/Subtype/Header", m_headerTop, m_texts.title, {}, m_texts.documentTitle);
     const qreal rule = m_headerTop + m_style.small.lineHeight() + m_style.points(ruleDistance);
     canvas.fill(QRectF(m_left, rule, m_width, m_style.hairline), m_style.rule);
 }
@@ -61,13 +61,14 @@ void PageFrame::drawHeader(PageCanvas& canvas, int page) const
 void PageFrame::drawFooter(PageCanvas& canvas, int page, int pageCount) const
 {
     canvas.fill(QRectF(m_left, m_footerTop - m_style.points(ruleDistance), m_width, m_style.hairline), m_style.rule);
-    drawLine(canvas, m_footerTop, m_unit, m_texts.timestamp,
+    drawLine(canvas, "/Type/Pagination/Subtype/Footer", m_footerTop, m_unit, m_texts.timestamp,
             QCoreApplication::translate("ReportPDF", "Page %1 of %2").arg(page).arg(pageCount));
 }
 
 void PageFrame::drawLine(
-        PageCanvas& canvas, qreal top, const QString& left, const QString& middle, const QString& right) const
+        PageCanvas& canvas, const char* kind, qreal top, const QString& left, const QString& middle, const QString& right) const
 {
+    const auto mark = canvas.structure().artifact(pdf::PageContent::Text, kind);
     const auto draw = [&](const QString& text, Qt::Alignment alignment) {
         canvas.drawText(m_style.small, text, {m_left, top}, m_width, alignment, m_style.mutedInk, 0, 1);
     };

@@ -31,9 +31,9 @@ public:
 
 private:
     void shortenTexts();
-    /// Texts at the left, in the middle and at the right of a line.
+    /// Texts at the left, in the middle and at the right of a line; `kind` says for readers what the line is.
     void drawLine(
-            PageCanvas& canvas, qreal top, const QString& left, const QString& middle, const QString& right) const;
+            PageCanvas& canvas, const char* kind, qreal top, const QString& left, const QString& middle, const QString& right) const;
 
     const PageStyle& m_style;
     Texts m_texts;

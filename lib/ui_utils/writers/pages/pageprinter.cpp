@@ -3,12 +3,13 @@
 #include "writers/pages/pagecanvas_p.h"
 
 #include <QGuiApplication>
-#include <QPainter>
 #include <QScreen>
 
 namespace uiutils {
 
 namespace {
+
+constexpr qreal metersOfAnInch = 0.0254;
 
 /// The resolution of the screen, so that texts have the widths that they have there; where there is no screen, what Qt
 /// takes then.
@@ -26,10 +27,16 @@ PagePrinter::PagePrinter(const PageSettings& settings, const QList<ReportItem*>&
     : m_frameTexts(settings.frame)
     , m_orientation(settings.orientation)
     , m_progress(progress)
+    , m_information(settings.information)
+    , m_isTagged(settings.isTagged)
+    , m_device(1, 1, QImage::Format_ARGB32_Premultiplied)
     , m_titleBlock(settings.titleBlock)
     , m_items(items)
 {
     m_items.prepend(&m_titleBlock);
+    const int dotsOfAMeter = qRound(pageResolution() / metersOfAnInch);
+    m_device.setDotsPerMeterX(dotsOfAMeter);
+    m_device.setDotsPerMeterY(dotsOfAMeter);
 }
 
 PagePrinter::~PagePrinter()
@@ -38,14 +45,25 @@ PagePrinter::~PagePrinter()
         item->release();
 }
 
-PagePrinter::Outcome PagePrinter::print(const QString& path)
+PagePrinter::Outcome PagePrinter::print(QIODevice* device, QString* error)
 {
-    prepare(path);
-    m_style.emplace(&*m_device);
-    m_frame.emplace(*m_style, m_device->pageLayout().fullRectPixels(m_device->resolution()).size(), m_frameTexts);
-    const Outcome outcome = layOut() ? printPages() : Stopped;
+    const QSizeF paper = QPageLayout(QPageSize(QPageSize::Letter), m_orientation, QMarginsF()).fullRect(QPageLayout::Point).size();
+    m_style.emplace(&m_device);
+    m_frame.emplace(*m_style, paper * m_style->points(1), m_frameTexts);
+    Outcome outcome = Stopped;
+    if (layOut()) {
+        pdf::DocumentWriter writer(device, {m_information, paper, m_style->points(1), m_isTagged});
+        outcome = printPages(writer, error);
+    }
     warnOfUnreadableIcons();
     return outcome;
+}
+
+void PagePrinter::warnOfMissing(const QString& characters)
+{
+    if (!characters.isEmpty())
+        qWarning("No installed font has these characters of a report, which are printed as empty frames: %s",
+                qUtf8Printable(characters));
 }
 
 /// One line for all of them: where one is missing, mostly all are.
@@ -56,15 +74,6 @@ void PagePrinter::warnOfUnreadableIcons() const
         qWarning("Built-in status icons are printed in place of files that are missing or are not images of at most "
                  "1 MiB: %s",
                 qUtf8Printable(files.join(QStringLiteral(", "))));
-}
-
-void PagePrinter::prepare(const QString& path)
-{
-    m_device.emplace(path);
-    m_device->setResolution(pageResolution());
-    m_device->setPageLayout(QPageLayout(QPageSize(QPageSize::Letter), m_orientation, QMarginsF()));
-    m_device->setCreator(QStringLiteral("uiutils"));
-    m_device->setTitle(m_frameTexts.title.isEmpty() ? m_frameTexts.documentTitle : m_frameTexts.title);
 }
 
 bool PagePrinter::layOut()
@@ -79,20 +88,18 @@ bool PagePrinter::layOut()
     return m_progress(0, m_pageCount);
 }
 
-PagePrinter::Outcome PagePrinter::printPages()
+PagePrinter::Outcome PagePrinter::printPages(pdf::DocumentWriter& writer, QString* error)
 {
-    QPainter painter;
-    if (!painter.begin(&*m_device))
-        return Failed;
-    PageCanvas canvas(painter, *m_style);
-    for (int page = 0; page < m_pageCount; ++page) {
-        if (page > 0 && !m_device->newPage())
-            return Failed;
+    PageCanvas canvas(writer, *m_style);
+    for (int page = 0; page < m_pageCount && !writer.hasFailed(); ++page) {
+        writer.beginPage();
         drawPage(canvas, page);
+        writer.endPage();
         if (!m_progress(page + 1, m_pageCount))
             return Stopped;
     }
-    return painter.end() ? Printed : Failed;
+    warnOfMissing(canvas.missing());
+    return writer.finish(m_outline, error) ? Printed : Failed;
 }
 
 void PagePrinter::drawPage(PageCanvas& canvas, int page)

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "writers/emitter/pdfdocument_p.h"
 #include "writers/pages/pageflow_p.h"
 #include "writers/pages/pageframe_p.h"
 #include "writers/pages/pagestyle_p.h"
 #include "writers/pages/titleblock_p.h"
-#include "writers/pdffile/pdfannotation_p.h"
 
-#include <QPdfWriter>
+#include <QImage>
+#include <QPageLayout>
 
 #include <functional>
 #include <optional>
@@ -18,11 +19,12 @@ struct PageSettings
 {
     TitleBlock::Contents titleBlock;
     PageFrame::Texts frame;
+    pdf::DocumentInformation information;
+    bool isTagged = false;
     QPageLayout::Orientation orientation = QPageLayout::Portrait;
 };
 
-/// Prints items on the pages of one PDF file, as the printer device writes it. The caller has to check whether the file
-/// is complete.
+/// Prints items on the pages of one PDF file.
 class PagePrinter
 {
 public:
@@ -36,24 +38,25 @@ public:
 
     enum Outcome { Printed, Stopped, Failed };
 
-    /// Prints to `path` on the disk. `Failed` means that the device could not write.
-    Outcome print(const QString& path);
-
-    /// The headings and tables that were printed.
-    const QVector<pdf::OutlineEntry>& outline() const { return m_outline; }
+    /// Prints to an open device. `Failed` means that it did not take the file, or that a font cannot be embedded, for
+    /// the reason in `error`; what was written is then of no use.
+    Outcome print(QIODevice* device, QString* error);
 
 private:
-    void prepare(const QString& path);
     bool layOut();
     void warnOfUnreadableIcons() const;
-    Outcome printPages();
+    static void warnOfMissing(const QString& characters);
+    Outcome printPages(pdf::DocumentWriter& writer, QString* error);
     void drawPage(PageCanvas& canvas, int page);
     void addToOutline(const PlacedPortion& placed);
 
     PageFrame::Texts m_frameTexts;
     QPageLayout::Orientation m_orientation;
     Progress m_progress;
-    std::optional<QPdfWriter> m_device;
+    pdf::DocumentInformation m_information;
+    bool m_isTagged;
+    // Where there is a resolution, but nothing is painted.
+    QImage m_device;
     TitleBlock m_titleBlock;
     QList<ReportItem*> m_items;
     std::optional<PageStyle> m_style;

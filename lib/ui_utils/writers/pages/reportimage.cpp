@@ -34,5 +34,6 @@ ReportItem::Portion ReportImage::split(const Position& begin, qreal room, bool i
 void ReportImage::draw(uiutils::PageCanvas& canvas, const Portion& portion, const QPointF& topLeft) const
 {
     // Below a heading there is less space than on an empty page.
+    const auto mark = canvas.structure().figure(QString());
     canvas.drawImage(m_encoded, QRectF(topLeft, m_size.scaled({m_size.width(), portion.height}, Qt::KeepAspectRatio)));
 }

@@ -1,18 +1,18 @@
 #include "writers/pages/reportpdf.h"
 
 #include "base/durablefile_p.h"
-#include "base/memoryfile_p.h"
 #include "base/paths_p.h"
 #include "writers/pages/pageimage_p.h"
 #include "writers/pages/pageprinter_p.h"
 #include "writers/pages/statusicons_p.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QPointer>
 #include <QScopedValueRollback>
-
-#include <cerrno>
 
 namespace {
 
@@ -35,6 +35,7 @@ public:
     QString unitId;
     QString timestamp;
     QVector<ReportPDF::Field> fields;
+    bool isTagged = true;
     bool isCancelled = false;
 };
 
@@ -50,7 +51,6 @@ public:
 private:
     uiutils::PageSettings settings() const;
     bool tellProgress(int page, int pageCount);
-    QByteArray finish(const QString& printed, const QVector<uiutils::pdf::OutlineEntry>& outline, QString* error) const;
 
     QPointer<ReportPDF> m_owner;
 };
@@ -70,42 +70,25 @@ bool ReportPDF::Job::tellProgress(int page, int pageCount)
 uiutils::PageSettings ReportPDF::Job::settings() const
 {
     const uiutils::ReportPDFPrivate& owner = *m_owner->d;
-    return {{uiutils::decodedImage(uiutils::readIcon(owner.logo)), owner.documentTitle, owner.title, owner.fields},
-            {owner.documentTitle, owner.title, owner.unitId, owner.timestamp},
-            owner.orientation == ReportPDF::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait};
+    uiutils::PageSettings settings;
+    settings.titleBlock = {uiutils::decodedImage(uiutils::readIcon(owner.logo)), owner.documentTitle, owner.title,
+            owner.fields};
+    settings.frame = {owner.documentTitle, owner.title, owner.unitId, owner.timestamp};
+    settings.orientation = owner.orientation == ReportPDF::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
+    settings.information = {owner.title.isEmpty() ? owner.documentTitle : owner.title, owner.author, owner.subject,
+            owner.producer, QStringLiteral("uiutils"), QDateTime::currentDateTime(), QLocale().bcp47Name()};
+    settings.isTagged = owner.isTagged;
+    return settings;
 }
 
 QByteArray ReportPDF::Job::run(QString* error)
 {
-    const uiutils::MemoryFile printed;
-    if (printed.path().isEmpty()) {
-        *error = qt_error_string(errno);
-        return QByteArray();
-    }
+    QByteArray file;
+    QBuffer printed(&file);
+    printed.open(QIODevice::WriteOnly);
     uiutils::PagePrinter printer(
             settings(), m_owner->d->items, [this](int page, int count) { return tellProgress(page, count); });
-    switch (printer.print(printed.path())) {
-    case uiutils::PagePrinter::Stopped:
-        return QByteArray();
-    case uiutils::PagePrinter::Failed:
-        *error = tr("there is not enough memory for its pages");
-        return QByteArray();
-    case uiutils::PagePrinter::Printed:
-        break;
-    }
-    return finish(printed.path(), printer.outline(), error);
-}
-
-/// A printer device does not report what could not be written: only a file that can be read again to its end was
-/// printed.
-QByteArray ReportPDF::Job::finish(
-        const QString& printed, const QVector<uiutils::pdf::OutlineEntry>& outline, QString* error) const
-{
-    const uiutils::ReportPDFPrivate& owner = *m_owner->d;
-    return uiutils::pdf::annotated(printed,
-            {owner.title.isEmpty() ? owner.documentTitle : owner.title, owner.author, owner.subject, owner.producer,
-                    outline},
-            error);
+    return printer.print(&printed, error) == uiutils::PagePrinter::Printed ? file : QByteArray();
 }
 
 ReportPDF::ReportPDF(QObject* parent)

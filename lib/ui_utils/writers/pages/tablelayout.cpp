@@ -250,46 +250,71 @@ void TableLayout::draw(PageCanvas& canvas, const ReportItem::Portion& portion, c
 {
     const int band = bandOf(portion.begin);
     const Title& title = titleAt(portion.begin);
-    QRectF place(topLeft, QSizeF(m_page.width(), titleHeight(title)));
-    drawTitle(canvas, title, place);
-    place.setTop(place.bottom());
-    place.setHeight(labelsHeight(band));
-    drawLabels(canvas, band, place);
+    const QRectF titlePlace(topLeft, QSizeF(m_page.width(), titleHeight(title)));
+    const QRectF labelsPlace(titlePlace.bottomLeft(), QSizeF(m_page.width(), labelsHeight(band)));
+    drawBackground(canvas, portion, titlePlace, labelsPlace);
 
-    QPointF at = place.bottomLeft();
-    drawStripes(canvas, portion, at);
-    canvas.frame({topLeft, QSizeF(m_page.width(), portion.height)}, m_style.rule);
+    // Columns that continue below are a table of their own for those who have it read aloud.
+    const bool begins = portion.begin.line == 0 && portion.begin.row % m_rowsOfABand == 0;
+    if (begins)
+        canvas.structure().beginTable();
+    drawTitle(canvas, title, titlePlace, begins);
+    drawLabels(canvas, band, labelsPlace, begins);
+    QPointF at = labelsPlace.bottomLeft();
     forEachRow(portion, [&](int row, int beginLine, int endLine, qreal height) {
+        if (beginLine == 0)
+            canvas.structure().beginRow();
         drawRow(canvas, band, row, beginLine, endLine, at);
+        if (endLine == m_lines.at(row))
+            canvas.structure().endRow();
         at.ry() += height;
     });
-    canvas.flush();
     if (portion.end.line == 0)
         canvas.forgetParts();
+    if (portion.end.line == 0 && portion.end.row % m_rowsOfABand == 0)
+        canvas.structure().endTable();
 }
 
-void TableLayout::drawTitle(PageCanvas& canvas, const Title& title, const QRectF& place) const
+void TableLayout::drawBackground(
+        PageCanvas& canvas, const ReportItem::Portion& portion, const QRectF& title, const QRectF& labels) const
+{
+    if (title.height() > 0)
+        canvas.fill(title, m_style.accent);
+    if (labels.height() > 0)
+        canvas.fill(labels, m_style.labelFill);
+    drawStripes(canvas, portion, labels.bottomLeft());
+    canvas.frame({title.topLeft(), QSizeF(m_page.width(), portion.height)}, m_style.rule);
+}
+
+void TableLayout::drawTitle(PageCanvas& canvas, const Title& title, const QRectF& place, bool begins) const
 {
     if (title.lines == 0)
         return;
-    canvas.fill(place, m_style.accent);
+    const auto mark = begins ? canvas.structure().caption() : canvas.structure().artifact(pdf::PageContent::Text);
     canvas.drawText(m_style.tableTitle, title.text, place.topLeft() + QPointF(m_style.cellPadding, m_style.rowPadding),
             place.width() - 2 * m_style.cellPadding, readingSideOf(m_table.title()), m_style.onAccent, 0, title.lines);
 }
 
-void TableLayout::drawLabels(PageCanvas& canvas, int band, const QRectF& place) const
+void TableLayout::drawLabels(PageCanvas& canvas, int band, const QRectF& place, bool begins) const
 {
     if (m_labelLines.at(band) == 0)
         return;
-    canvas.fill(place, m_style.labelFill);
+    if (begins)
+        canvas.structure().beginRow();
     qreal x = place.left() + m_style.cellPadding;
     for (int i = 0; i < m_bands.at(band).size(); ++i) {
         const ColumnWidth& column = m_bands.at(band).at(i);
-        canvas.drawText(m_style.bold, m_shownLabels.at(band).at(i), {x, place.top() + m_style.rowPadding},
+        const QString& label = m_shownLabels.at(band).at(i);
+        const auto mark = begins
+                ? canvas.structure().cell(i, PageStructure::ColumnLabel, 1, label.isEmpty())
+                : canvas.structure().artifact(pdf::PageContent::Text);
+        canvas.drawText(m_style.bold, label, {x, place.top() + m_style.rowPadding},
                 column.width - 2 * m_style.cellPadding + tolerance, alignmentOf(column.column), m_style.ink, 0,
                 m_labelLines.at(band));
         x += column.width;
     }
+    if (begins)
+        canvas.structure().endRow();
 }
 
 /// Under every other row, drawn together: a colour for each row would take more space in the file than the row's text.
@@ -313,24 +338,31 @@ void TableLayout::drawRow(
     if (tableRow >= m_table.rowCount())
         return;
     qreal x = topLeft.x() + m_style.cellPadding;
-    for (const ColumnWidth& column : m_bands.at(band)) {
-        if (const ReportTable::Cell* cell = m_table.cellAt(tableRow, column.column))
-            drawCell(canvas, *cell, {x, topLeft.y() + m_style.rowPadding},
-                    column.width - 2 * m_style.cellPadding + tolerance, beginLine, endLine);
-        x += column.width;
+    const ColumnBand& columns = m_bands.at(band);
+    for (int i = 0; i < columns.size(); ++i) {
+        if (const ReportTable::Cell* cell = m_table.cellAt(tableRow, columns.at(i).column))
+            drawCell(canvas, *cell, i, {x, topLeft.y() + m_style.rowPadding},
+                    columns.at(i).width - 2 * m_style.cellPadding + tolerance, beginLine, endLine);
+        x += columns.at(i).width;
     }
 }
 
-void TableLayout::drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, const QPointF& topLeft, qreal width,
-        int beginLine, int endLine) const
+void TableLayout::drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, int column, const QPointF& topLeft,
+        qreal width, int beginLine, int endLine) const
 {
     const PageFont& font = fontOf(cell);
     Qt::Alignment alignment = alignmentFor(cell.alignment);
     const qreal icon = iconSpace(cell);
+    const bool isLabel = cell.kind == ReportTable::CellKind::RowLabel;
+    const auto mark = [&] {
+        return canvas.structure().cell(column, isLabel ? PageStructure::RowLabel : PageStructure::Value,
+                cell.columnSpan, icon <= 0 && cell.text.isEmpty());
+    };
     if (icon <= 0) {
         // A paragraph is aligned to its side, even if figures are centred.
         if (alignment == Qt::AlignHCenter && isParagraph(font, cell.text, width))
             alignment = readingSideOf(cell.text);
+        const auto marked = mark();
         canvas.drawText(font, cell.text, topLeft, width, alignment, m_style.ink, beginLine, endLine);
         return;
     }
@@ -340,10 +372,12 @@ void TableLayout::drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, co
     const bool isLong = cell.text.size() > maximumLabelLength;
     const qreal spare = isLong ? 0 : qMax(0.0, room - WrappedText::naturalWidth(font, cell.text));
     const qreal indent = alignment == Qt::AlignLeft ? 0 : alignment == Qt::AlignRight ? spare : spare / 2;
-    if (beginLine == 0) {
-        canvas.drawImage(m_style.statusIcon(cell.status),
-                {topLeft + QPointF(indent, 0), QSizeF(m_heights.line, m_heights.line)});
-    }
+    const QRectF iconPlace(topLeft + QPointF(indent, 0), QSizeF(m_heights.line, m_heights.line));
+    if (beginLine == 0)
+        canvas.drawStatusIcon(cell.status, iconPlace);
+    const auto marked = mark();
+    if (beginLine == 0)
+        canvas.drawStatusWord(cell.status, cell.text, iconPlace);
     canvas.drawText(font, cell.text, topLeft + QPointF(indent + icon, 0), room,
             spare > 0 ? Qt::AlignLeft : readingSideOf(cell.text), m_style.ink, beginLine, endLine);
 }

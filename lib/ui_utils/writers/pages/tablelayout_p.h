@@ -49,12 +49,15 @@ private:
     void measureLabels(int band);
     void measureRows(int band);
 
-    void drawTitle(PageCanvas& canvas, const Title& title, const QRectF& place) const;
-    void drawLabels(PageCanvas& canvas, int band, const QRectF& place) const;
+    void drawBackground(
+            PageCanvas& canvas, const ReportItem::Portion& portion, const QRectF& title, const QRectF& labels) const;
+    /// `begins` is false for what is repeated on another page.
+    void drawTitle(PageCanvas& canvas, const Title& title, const QRectF& place, bool begins) const;
+    void drawLabels(PageCanvas& canvas, int band, const QRectF& place, bool begins) const;
     void drawStripes(PageCanvas& canvas, const ReportItem::Portion& portion, const QPointF& topLeft) const;
     void drawRow(PageCanvas& canvas, int band, int row, int beginLine, int endLine, const QPointF& topLeft) const;
-    void drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, const QPointF& topLeft, qreal width, int beginLine,
-            int endLine) const;
+    void drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, int column, const QPointF& topLeft, qreal width,
+            int beginLine, int endLine) const;
     /// Calls visit(int row, int beginLine, int endLine, qreal height) for the part of each row that is in a portion.
     template<typename Visitor> void forEachRow(const ReportItem::Portion& portion, Visitor visit) const;
 

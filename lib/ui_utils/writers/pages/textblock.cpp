@@ -32,7 +32,12 @@ ReportItem::Portion TextBlock::split(const ReportItem::Position& begin, qreal ro
 
 void TextBlock::draw(PageCanvas& canvas, const ReportItem::Portion& portion, const QPointF& topLeft) const
 {
-    m_lines.draw(canvas, topLeft, m_width, m_alignment, m_color, portion.begin.row, portion.end.row);
+    {
+        const auto mark = canvas.structure().text(m_tag);
+        m_lines.draw(canvas, topLeft, m_width, m_alignment, m_color, portion.begin.row, portion.end.row);
+    }
+    if (portion.end == end())
+        canvas.structure().endText();
     if (m_ruleThickness > 0 && portion.end == end())
         canvas.fill(
                 QRectF(topLeft.x(), topLeft.y() + portion.height - m_ruleThickness, m_width, m_ruleThickness), m_color);

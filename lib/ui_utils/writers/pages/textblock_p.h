@@ -12,6 +12,8 @@ public:
     /// `font` must outlive the block.
     TextBlock(const PageFont& font, const QString& text, qreal width, const QColor& color);
 
+    /// What the text is in the structure of the file: a literal, such as "/H1"; "/P" by default.
+    void setTag(const char* tag) { m_tag = tag; }
     void setSpaceAbove(qreal space) { m_spaceAbove = space; }
     /// A rule below the last line.
     void setRuleBelow(qreal thickness, qreal distance);
@@ -29,6 +31,7 @@ private:
     qreal m_width;
     QColor m_color;
     Qt::Alignment m_alignment;
+    const char* m_tag = "/P";
     qreal m_spaceAbove = 0;
     qreal m_ruleThickness = 0;
     qreal m_ruleDistance = 0;

@@ -4,6 +4,8 @@
 #include "writers/pages/pagestyle_p.h"
 #include "writers/pages/wrappedtext_p.h"
 
+#include <QCoreApplication>
+
 namespace uiutils {
 
 namespace {
@@ -86,11 +88,14 @@ void TitleBlock::draw(PageCanvas& canvas, const Portion&, const QPointF& topLeft
 {
     const PageStyle& style = canvas.style();
     drawHead(canvas, topLeft);
-    canvas.drawText(style.headings[0], m_shownTitle, topLeft + QPointF(0, m_titleTop), m_width,
-            m_shownTitle.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft, style.ink, 0, m_titleLines);
+    if (m_titleLines > 0) {
+        const auto mark = canvas.structure().text("/Title");
+        canvas.drawText(style.headings[0], m_shownTitle, topLeft + QPointF(0, m_titleTop), m_width,
+                m_shownTitle.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft, style.ink, 0, m_titleLines);
+    }
+    canvas.structure().endText();
     for (int i = 0; i < m_places.size(); ++i)
         drawField(canvas, i, topLeft);
-    canvas.flush();
 }
 
 void TitleBlock::drawHead(PageCanvas& canvas, const QPointF& topLeft) const
@@ -98,11 +103,16 @@ void TitleBlock::drawHead(PageCanvas& canvas, const QPointF& topLeft) const
     const PageStyle& style = canvas.style();
     if (logoWidth() > 0) {
         const QSizeF size = QSizeF(m_contents.logo.size()).scaled(logoWidth(), logoHeight, Qt::KeepAspectRatio);
+        const auto mark = canvas.structure().figure(QCoreApplication::translate("ReportPDF", "Logo"));
         canvas.drawImage(m_contents.logo, QRectF(topLeft, size));
     }
     const qreal textTop = m_headHeight - style.points(6) - style.documentTitle.lineHeight();
-    canvas.drawText(style.documentTitle, m_shownDocumentTitle, topLeft + QPointF(0, textTop), m_width, Qt::AlignRight,
-            style.accent, 0, 1);
+    {
+        const auto mark = canvas.structure().text("/P");
+        canvas.drawText(style.documentTitle, m_shownDocumentTitle, topLeft + QPointF(0, textTop), m_width,
+                Qt::AlignRight, style.accent, 0, 1);
+    }
+    canvas.structure().endText();
     canvas.fill(QRectF(topLeft.x(), topLeft.y() + m_headHeight, m_width, style.points(1.5)), style.accent);
 }
 
@@ -111,17 +121,24 @@ void TitleBlock::drawField(PageCanvas& canvas, int index, const QPointF& topLeft
     const PageStyle& style = canvas.style();
     const ReportPDF::Field& field = m_contents.fields.at(index);
     const FieldPlace& place = m_places.at(index);
-    canvas.drawText(style.bold, field.label, topLeft + place.label, m_labelWidth, Qt::AlignLeft, style.mutedInk, 0,
-            maximumFieldLines);
     QPointF at = topLeft + place.text;
     qreal room = m_textWidth;
-    if (style.hasStatusIcon(field.status)) {
-        const qreal side = style.body.lineHeight();
-        canvas.drawImage(style.statusIcon(field.status), QRectF(at, QSizeF(side, side)));
-        at.rx() += side + style.points(4);
-        room -= side + style.points(8);
+    const bool hasIcon = style.hasStatusIcon(field.status);
+    const QRectF icon(at, QSizeF(style.body.lineHeight(), style.body.lineHeight()));
+    if (hasIcon) {
+        canvas.drawStatusIcon(field.status, icon);
+        at.rx() += icon.width() + style.points(4);
+        room -= icon.width() + style.points(8);
     }
-    canvas.drawText(style.body, field.text, at, room, Qt::AlignLeft, style.ink, 0, maximumFieldLines);
+    {
+        const auto mark = canvas.structure().text("/P");
+        canvas.drawText(style.bold, field.label, topLeft + place.label, m_labelWidth, Qt::AlignLeft, style.mutedInk, 0,
+                maximumFieldLines);
+        if (hasIcon)
+            canvas.drawStatusWord(field.status, field.text, icon);
+        canvas.drawText(style.body, field.text, at, room, Qt::AlignLeft, style.ink, 0, maximumFieldLines);
+    }
+    canvas.structure().endText();
 }
 
 } // namespace uiutils

@@ -68,8 +68,10 @@ qreal widestWord(const PageFont& font, QStringView text)
 {
     qreal widest = 0;
     qreal width = 0;
+    QChar before;
     for (const QChar c : text) {
-        width = isBreak(c) ? 0 : width + font.glyph(c).advance;
+        width = isBreak(c) ? 0 : width + font.advance(before, c);
+        before = c;
         widest = qMax(widest, width);
     }
     return widest;
@@ -115,7 +117,7 @@ void WrappedText::addPlain(const PageFont& font, int begin, int length, qreal wi
         int at = lineBegin;
         for (; at < end; ++at) {
             const QChar c = m_text.at(at);
-            const qreal advance = font.glyph(c).advance;
+            const qreal advance = font.advance(at > lineBegin ? m_text.at(at - 1) : QChar(), c);
             if (isBreak(c)) {
                 breakAt = at;
                 usedUpToBreak = used;
@@ -177,8 +179,9 @@ void WrappedText::draw(PageCanvas& canvas, const QPointF& topLeft, qreal boxWidt
         if (line.layout < 0) {
             canvas.drawPlain(m_font, QStringView(m_text).mid(line.begin, line.length), {x, baseLine}, color);
         } else {
-            const QTextLine shaped = m_layouts[size_t(line.layout)]->lineAt(line.layoutLine);
-            canvas.drawShaped(shaped, {x - shaped.naturalTextRect().x(), baseLine}, color);
+            const QTextLayout& layout = *m_layouts[size_t(line.layout)];
+            const qreal left = layout.lineAt(line.layoutLine).naturalTextRect().x();
+            canvas.drawShaped(m_font, layout, line.layoutLine, {x - left, baseLine}, color);
         }
     }
 }

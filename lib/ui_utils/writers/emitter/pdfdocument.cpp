@@ -1,0 +1,159 @@
+#include "writers/emitter/pdfdocument_p.h"
+
+#include "writers/emitter/fontprogram_p.h"
+#include "writers/emitter/pdfimage_p.h"
+#include "writers/emitter/pdfsyntax_p.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QImage>
+
+namespace uiutils::pdf {
+
+namespace {
+
+/// The same for all sizes of a face: its names, and its header, which holds a check sum.
+QByteArray keyOf(const QRawFont& raw)
+{
+    return raw.familyName().toUtf8() + '\0' + raw.styleName().toUtf8() + '\0' + raw.fontTable("head");
+}
+
+} // namespace
+
+DocumentWriter::DocumentWriter(QIODevice* device, const DocumentSettings& settings)
+    : m_settings(settings)
+    , m_output(device)
+    , m_content(settings.unitsOfAPoint, settings.pageSize.height() * settings.unitsOfAPoint)
+    , m_pageTree(m_output.reserve())
+    , m_resources(m_output.reserve())
+{
+    if (settings.isTagged)
+        m_structure.emplace(m_output);
+}
+
+DocumentWriter::~DocumentWriter() = default;
+
+void DocumentWriter::beginPage()
+{
+    m_pages += m_output.reserve();
+    if (m_structure)
+        m_structure->beginPage(m_pages.constLast());
+}
+
+void DocumentWriter::endPage()
+{
+    const int content = m_output.reserve();
+    m_output.writeStream(content, {}, m_content.take());
+    QByteArray page = "<</Type/Page/Parent " + referenceTo(m_pageTree) + "/Resources " + referenceTo(m_resources)
+            + "/Contents " + referenceTo(content);
+    if (m_structure) {
+        page += "/Tabs/S/StructParents " + QByteArray::number(m_structure->pageNumber());
+        m_structure->endPage();
+    }
+    m_output.write(m_pages.constLast(), page + ">>");
+}
+
+EmbeddedFont* DocumentWriter::font(const QRawFont& raw)
+{
+    for (const auto& [face, font] : m_faces) {
+        if (face == raw)
+            return font;
+    }
+    EmbeddedFont*& font = m_fontsByFace[keyOf(raw)];
+    if (!font && embeddingOf(raw) == Embedding::Allowed) {
+        const QByteArray name = "/F" + QByteArray::number(int(m_fonts.size()) + 1);
+        m_fonts.push_back(std::make_unique<EmbeddedFont>(raw, m_output.reserve(), name));
+        font = m_fonts.back().get();
+    }
+    m_faces.emplace_back(raw, font);
+    return font;
+}
+
+QByteArray DocumentWriter::image(const QImage& image)
+{
+    QByteArray& name = m_images[image.cacheKey()];
+    if (name.isEmpty()) {
+        name = "/I" + QByteArray::number(m_images.size());
+        m_imageResources += name + ' ' + referenceTo(writeImage(m_output, image));
+    }
+    return name;
+}
+
+bool DocumentWriter::writeFonts(QString* error)
+{
+    for (const auto& font : m_fonts) {
+        *error = font->write(m_output);
+        if (!error->isEmpty())
+            return false;
+    }
+    return true;
+}
+
+void DocumentWriter::writeResources()
+{
+    QByteArray fonts;
+    for (const auto& font : m_fonts)
+        fonts += font->name() + ' ' + referenceTo(font->object());
+    m_output.write(m_resources, "<</Font<<" + fonts + ">>/XObject<<" + m_imageResources + ">>>>");
+}
+
+void DocumentWriter::writePageTree()
+{
+    QByteArray tree = "<</Type/Pages/Count " + QByteArray::number(m_pages.size()) + "/MediaBox[0 0 ";
+    appendNumbers(tree, {m_settings.pageSize.width(), m_settings.pageSize.height()});
+    tree += "]/Kids[";
+    for (const int page : qAsConst(m_pages))
+        tree += referenceTo(page) + ' ';
+    m_output.write(m_pageTree, tree + "]>>");
+}
+
+QByteArray DocumentWriter::information() const
+{
+    const DocumentInformation& about = m_settings.information;
+    QByteArray text("<<");
+    const std::pair<const char*, const QString*> entries[] {{"/Title", &about.title}, {"/Author", &about.author},
+            {"/Subject", &about.subject}, {"/Creator", &about.creator}, {"/Producer", &about.producer}};
+    for (const auto& [key, value] : entries) {
+        if (!value->isEmpty())
+            text += key + textString(*value);
+    }
+    return text + "/CreationDate" + dateString(about.created) + ">>";
+}
+
+/// The same for the same document and time.
+QByteArray DocumentWriter::identifier() const
+{
+    return QCryptographicHash::hash(information() + QByteArray::number(m_pages.size()), QCryptographicHash::Md5);
+}
+
+QByteArray DocumentWriter::catalog(const QVector<OutlineEntry>& outline)
+{
+    QByteArray text = "<</Type/Catalog/Pages " + referenceTo(m_pageTree) + "/ViewerPreferences<</DisplayDocTitle true>>";
+    const QString& language = m_settings.information.language;
+    if (!language.isEmpty())
+        text += "/Lang" + textString(language);
+    const int entries = writeOutline(m_output, outline, m_pages, m_settings.pageSize.height());
+    if (entries > 0)
+        text += "/PageMode/UseOutlines/Outlines " + referenceTo(entries);
+    if (m_structure)
+        text += "/MarkInfo<</Marked true>>/StructTreeRoot " + referenceTo(m_structure->finish());
+    return text + ">>";
+}
+
+bool DocumentWriter::finish(const QVector<OutlineEntry>& outline, QString* error)
+{
+    if (!writeFonts(error))
+        return false;
+    writeResources();
+    writePageTree();
+    const int catalogObject = m_output.reserve();
+    m_output.writePlain(catalogObject, catalog(outline));
+    const int informationObject = m_output.reserve();
+    m_output.writePlain(informationObject, information());
+    if (m_output.finish(catalogObject, informationObject, identifier()))
+        return true;
+    *error = QCoreApplication::translate("ReportPDF", "there is not enough memory for its pages");
+    return false;
+}
+
+} // namespace uiutils::pdf

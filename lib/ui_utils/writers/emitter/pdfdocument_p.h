@@ -1,0 +1,94 @@
+#pragma once
+
+#include "writers/emitter/embeddedfont_p.h"
+#include "writers/emitter/pagecontent_p.h"
+#include "writers/emitter/pdfoutline_p.h"
+#include "writers/emitter/pdfoutput_p.h"
+#include "writers/emitter/structuretree_p.h"
+
+#include <QDateTime>
+#include <QHash>
+#include <QSizeF>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QImage;
+
+namespace uiutils::pdf {
+
+/// What a file says of itself.
+struct DocumentInformation
+{
+    QString title;
+    QString author;
+    QString subject;
+    QString producer;
+    QString creator;
+    QDateTime created;
+    /// As in "en-US"; empty if it is not known.
+    QString language;
+};
+
+struct DocumentSettings
+{
+    DocumentInformation information;
+    /// In points.
+    QSizeF pageSize;
+    /// Units of the layout in a point.
+    qreal unitsOfAPoint = 1;
+    bool isTagged = false;
+};
+
+/// A PDF file that is written page by page: what is finished is on the device, and only what the end of the file needs
+/// is held.
+class DocumentWriter
+{
+public:
+    DocumentWriter(QIODevice* device, const DocumentSettings& settings);
+    ~DocumentWriter();
+    Q_DISABLE_COPY_MOVE(DocumentWriter)
+
+    void beginPage();
+    PageContent& content() { return m_content; }
+    void endPage();
+
+    /// The font of the file for this face in any size; null if it cannot be embedded.
+    EmbeddedFont* font(const QRawFont& raw);
+    /// The name of a picture for PageContent; the same picture is stored once.
+    QByteArray image(const QImage& image);
+
+    qreal unitsOfAPoint() const { return m_settings.unitsOfAPoint; }
+    /// Null if the file has no structure.
+    StructureTree* structure() { return m_structure ? &*m_structure : nullptr; }
+
+    /// Whether the device has failed. Pages may be written on, in vain.
+    bool hasFailed() const { return m_output.hasFailed(); }
+    /// Ends the file. False, with `error` set, if the device did not take all of it or a font cannot be embedded.
+    bool finish(const QVector<OutlineEntry>& outline, QString* error);
+
+private:
+    bool writeFonts(QString* error);
+    void writeResources();
+    void writePageTree();
+    QByteArray catalog(const QVector<OutlineEntry>& outline);
+    QByteArray information() const;
+    QByteArray identifier() const;
+
+    DocumentSettings m_settings;
+    PdfOutput m_output;
+    PageContent m_content;
+    std::optional<StructureTree> m_structure;
+    int m_pageTree;
+    int m_resources;
+    QVector<int> m_pages;
+    std::vector<std::unique_ptr<EmbeddedFont>> m_fonts;
+    // Faces that were asked for, in each size.
+    std::vector<std::pair<QRawFont, EmbeddedFont*>> m_faces;
+    QHash<QByteArray, EmbeddedFont*> m_fontsByFace;
+    QHash<qint64, QByteArray> m_images;
+    QByteArray m_imageResources;
+};
+
+} // namespace uiutils::pdf
