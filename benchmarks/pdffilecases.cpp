@@ -1,7 +1,6 @@
 #include "case.h"
 
 #include "base/durablefile_p.h"
-#include "writers/pdffile/pdfannotation_p.h"
 #include "writers/pdffile/pdffile.h"
 #include "writers/pdffile/podofo/pdfdocument_p.h"
 
@@ -66,29 +65,12 @@ QVector<Result> ordinaryCases(int runs, const QString& path)
                     QStringLiteral("ms"), write.ours, write.floor, 0}};
 }
 
-Result annotationCase(int runs, const QString& path)
-{
-    print(path, manyPages);
-    uiutils::pdf::Annotation annotation;
-    for (int i = 0; i < manyEntries; ++i)
-        annotation.outline += {QStringLiteral("Event %1").arg(i), i % 10 == 0 ? 0 : 1, i / 10, qreal(i % 10)};
-    QString error;
-    const Timing timing = interleaved(
-            runs, [&] { uiutils::pdf::annotated(path, annotation, &error); },
-            [&] { uiutils::podofo::save(*uiutils::podofo::load(contentsOf(path), &error), &error); });
-    return {QStringLiteral("PDF file of %L1 pages with an outline of %L2 entries / the file without")
-                    .arg(manyPages)
-                    .arg(manyEntries),
-            QStringLiteral("ms CPU"), timing.ours, timing.floor, 0};
-}
-
 } // namespace
 
 QVector<Result> pdfFileCases(int runs)
 {
     const QTemporaryDir folder;
-    return ordinaryCases(runs, folder.filePath(QStringLiteral("ordinary.pdf")))
-            << annotationCase(runs, folder.filePath(QStringLiteral("large.pdf")));
+    return ordinaryCases(runs, folder.filePath(QStringLiteral("ordinary.pdf")));
 }
 
 } // namespace bench

@@ -126,7 +126,7 @@ void PageCanvas::drawStatusWord(int status, const QString& beside, const QRectF&
 {
     const QString word = statusWord(status);
     if (!beside.contains(word, Qt::CaseInsensitive))
-        drawInvisibly(m_style.body, word, icon);
+        drawInvisibly(m_style.body, word + QLatin1Char(' '), icon);
 }
 
 void PageCanvas::drawImage(const QImage& image, const QRectF& place)

@@ -89,7 +89,7 @@ void TitleBlock::draw(PageCanvas& canvas, const Portion&, const QPointF& topLeft
     const PageStyle& style = canvas.style();
     drawHead(canvas, topLeft);
     if (m_titleLines > 0) {
-        const auto mark = canvas.structure().text("/Title");
+        const auto mark = canvas.structure().text("/H1");
         canvas.drawText(style.headings[0], m_shownTitle, topLeft + QPointF(0, m_titleTop), m_width,
                 m_shownTitle.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft, style.ink, 0, m_titleLines);
     }
@@ -134,6 +134,10 @@ void TitleBlock::drawField(PageCanvas& canvas, int index, const QPointF& topLeft
         const auto mark = canvas.structure().text("/P");
         canvas.drawText(style.bold, field.label, topLeft + place.label, m_labelWidth, Qt::AlignLeft, style.mutedInk, 0,
                 maximumFieldLines);
+    }
+    canvas.structure().endText();
+    {
+        const auto mark = canvas.structure().text("/P");
         if (hasIcon)
             canvas.drawStatusWord(field.status, field.text, icon);
         canvas.drawText(style.body, field.text, at, room, Qt::AlignLeft, style.ink, 0, maximumFieldLines);

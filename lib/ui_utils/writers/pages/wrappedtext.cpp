@@ -177,7 +177,10 @@ void WrappedText::draw(PageCanvas& canvas, const QPointF& topLeft, qreal boxWidt
         else if (alignment & Qt::AlignRight)
             x += spare;
         if (line.layout < 0) {
-            canvas.drawPlain(m_font, QStringView(m_text).mid(line.begin, line.length), {x, baseLine}, color);
+            // With the blank at which the line ends, so that words stay apart for those who copy them.
+            const int end = line.begin + line.length;
+            const int blank = end < m_text.size() && isBreak(m_text.at(end)) ? 1 : 0;
+            canvas.drawPlain(m_font, QStringView(m_text).mid(line.begin, line.length + blank), {x, baseLine}, color);
         } else {
             const QTextLayout& layout = *m_layouts[size_t(line.layout)];
             const qreal left = layout.lineAt(line.layoutLine).naturalTextRect().x();

@@ -9,8 +9,6 @@
 /// libraries along that linking them took a third of the start of every page.
 namespace uiutils::pdf {
 
-struct Annotation;
-
 /// A PDF file in memory.
 class Document
 {
@@ -21,8 +19,6 @@ public:
     virtual QString entry(const QString& key) const = 0;
     /// False, with `error` set, if the entry cannot be set.
     virtual bool setEntry(const QString& key, const QString& value, QString* error) = 0;
-    /// False, with `error` set, if the document is not as the annotation needs it.
-    virtual bool annotate(const Annotation& annotation, QString* error) = 0;
     /// The document as a file; empty, with `error` set, if it cannot be written, as no encrypted one can.
     virtual QByteArray save(QString* error) = 0;
 };

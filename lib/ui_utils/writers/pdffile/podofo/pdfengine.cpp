@@ -1,7 +1,6 @@
 #include "writers/pdffile/pdfengine_p.h"
 
 #include "writers/pdffile/podofo/pdfdocument_p.h"
-#include "writers/pdffile/podofo/pdfoutline_p.h"
 
 #include <utility>
 
@@ -31,11 +30,6 @@ public:
             const PoDoFo::PdfName name(key.toStdString());
             info().GetDictionary().AddKey(name, stringOf(value));
         });
-    }
-
-    bool annotate(const pdf::Annotation& annotation, QString* error) override
-    {
-        return guarded(error, [&] { podofo::annotate(*m_document, annotation); });
     }
 
     QByteArray save(QString* error) override { return podofo::save(*m_document, error); }
