@@ -72,6 +72,13 @@ inline QByteArray names(const QString& family, const QString& postScriptName)
     return records + texts;
 }
 
+/// The font shows sixty-four characters from this one on by its glyphs 36 and further.
+inline QByteArray cmap(quint32 character)
+{
+    const QByteArray group = u32(character) + u32(character + 63) + u32(36);
+    return u16(0) + u16(1) + u16(3) + u16(10) + u32(12) + u16(12) + u16(0) + u32(28) + u32(0) + u32(1) + group;
+}
+
 /// A list of objects, as CFF has it.
 inline QByteArray index(const QVector<QByteArray>& objects)
 {
