@@ -15,8 +15,11 @@ namespace {
 struct Candidate
 {
     QString family;
+    QList<QFontDatabase::WritingSystem> writingSystems;
+    bool isOpened = false;
+    /// Empty too if the font cannot be embedded.
     pdf::FontCoverage coverage;
-    /// Opened again if it is chosen; open fonts take memory.
+    /// Opened again if it is chosen: open fonts take memory.
     QRawFont font;
 };
 
@@ -34,9 +37,8 @@ size_t rank(const QFontDatabase& database, const QString& family)
     return family.contains(QLatin1String("Sans"), Qt::CaseInsensitive) ? 0 : 1;
 }
 
-QStringList rankedFamilies()
+QStringList rankedFamilies(const QFontDatabase& database)
 {
-    const QFontDatabase database;
     std::array<QStringList, 3> ranked;
     const QStringList families = database.families();
     for (const QString& family : families)
@@ -44,48 +46,71 @@ QStringList rankedFamilies()
     return ranked[0] + ranked[1] + ranked[2];
 }
 
-class Candidates
+std::vector<Candidate> allCandidates()
 {
-public:
-    QString familyFor(uint character)
-    {
-        for (size_t i = 0; i < m_known.size() || openNext(i); ++i) {
-            if (pdf::mayShow(m_known[i].coverage, character) && shows(&m_known[i], character))
-                return m_known[i].family;
-        }
-        return {};
-    }
+    const QFontDatabase database;
+    std::vector<Candidate> candidates;
+    const QStringList families = rankedFamilies(database);
+    for (const QString& family : families)
+        candidates.push_back({family, database.writingSystems(family), false, {}, {}});
+    return candidates;
+}
 
-private:
-    /// Opens families until there are more than `count` candidates.
-    bool openNext(size_t count)
-    {
-        while (m_known.size() <= count && !m_waiting.isEmpty()) {
-            const QString family = m_waiting.takeFirst();
-            const QRawFont font = regularFont(family);
-            if (pdf::embeddingOf(font) == pdf::Embedding::Allowed)
-                m_known.push_back({family, pdf::fontCoverage(pdf::tablesOf(font)), {}});
-        }
-        return m_known.size() > count;
+/// What families claim to show, if they claim it for this character; otherwise any.
+QFontDatabase::WritingSystem writingSystem(uint character)
+{
+    const QChar::Script script = QChar::script(character);
+    // From Latin to Georgian both lists have the same order.
+    constexpr int offset = int(QChar::Script_Latin) - int(QFontDatabase::Latin);
+    static_assert(int(QChar::Script_Thai) - int(QFontDatabase::Thai) == offset);
+    static_assert(int(QChar::Script_Georgian) - int(QFontDatabase::Georgian) == offset);
+    if (script >= QChar::Script_Latin && script <= QChar::Script_Georgian)
+        return QFontDatabase::WritingSystem(script - offset);
+    switch (script) {
+    case QChar::Script_Han:
+        return QFontDatabase::SimplifiedChinese;
+    case QChar::Script_Hiragana:
+    case QChar::Script_Katakana:
+        return QFontDatabase::Japanese;
+    case QChar::Script_Hangul:
+        return QFontDatabase::Korean;
+    case QChar::Script_Khmer:
+        return QFontDatabase::Khmer;
+    default:
+        return QFontDatabase::Any;
     }
+}
 
-    static bool shows(Candidate* candidate, uint character)
-    {
-        if (!candidate->font.isValid())
-            candidate->font = regularFont(candidate->family);
-        return candidate->font.supportsCharacter(character);
+bool shows(Candidate* candidate, uint character)
+{
+    if (!candidate->isOpened) {
+        candidate->isOpened = true;
+        const QRawFont font = regularFont(candidate->family);
+        if (pdf::embeddingOf(font) == pdf::Embedding::Allowed)
+            candidate->coverage = pdf::fontCoverage(pdf::tablesOf(font));
     }
-
-    QStringList m_waiting = rankedFamilies();
-    std::vector<Candidate> m_known;
-};
+    if (!pdf::mayShow(candidate->coverage, character))
+        return false;
+    if (!candidate->font.isValid())
+        candidate->font = regularFont(candidate->family);
+    return candidate->font.supportsCharacter(character);
+}
 
 } // namespace
 
 QString embeddableFamily(uint character)
 {
-    static Candidates candidates;
-    return candidates.familyFor(character);
+    static std::vector<Candidate> candidates = allCandidates();
+    const QFontDatabase::WritingSystem wanted = writingSystem(character);
+    for (Candidate& candidate : candidates) {
+        if (candidate.writingSystems.contains(wanted) && shows(&candidate, character))
+            return candidate.family;
+    }
+    for (Candidate& candidate : candidates) {
+        if (shows(&candidate, character))
+            return candidate.family;
+    }
+    return {};
 }
 
 } // namespace uiutils
