@@ -5,6 +5,7 @@
 #include <hb-subset.h>
 #include <hb.h>
 
+#include <map>
 #include <memory>
 
 namespace uiutils::fonts {
@@ -41,29 +42,35 @@ bool isEmbedded(hb_tag_t tag, FontProgram::Kind kind)
     }
 }
 
+/// Every table is fetched once and stays until the subset is made: the subsetter asks for it several times, and reads
+/// it after it has released it.
 struct Source
 {
     const FontTables& tables;
     FontProgram::Kind kind;
+    std::map<hb_tag_t, Blob> fetched;
 };
 
-/// The blob owns the bytes.
-hb_blob_t* blobOf(const QByteArray& bytes)
+Blob blobOf(const QByteArray& bytes)
 {
     auto* owned = new QByteArray(bytes);
     const auto release = [](void* data) { delete static_cast<QByteArray*>(data); };
-    return hb_blob_create(owned->constData(), uint(owned->size()), HB_MEMORY_MODE_READONLY, owned, release);
+    return Blob(hb_blob_create(owned->constData(), uint(owned->size()), HB_MEMORY_MODE_READONLY, owned, release));
 }
 
 /// Other tables would only cost time, or add the glyphs to which they lead.
 hb_blob_t* fetchTable(hb_face_t* /*face*/, hb_tag_t tag, void* data)
 {
-    const Source& source = *static_cast<const Source*>(data);
+    Source& source = *static_cast<Source*>(data);
     if (!isEmbedded(tag, source.kind))
         return hb_blob_get_empty();
-    char name[5] = {};
-    hb_tag_to_string(tag, name);
-    return blobOf(source.tables(name));
+    Blob& blob = source.fetched[tag];
+    if (!blob) {
+        char name[5] = {};
+        hb_tag_to_string(tag, name);
+        blob = blobOf(source.tables(name));
+    }
+    return hb_blob_reference(blob.get());
 }
 
 Input inputOf(const QVector<quint16>& glyphs)
@@ -107,7 +114,7 @@ extern "C" Q_DECL_EXPORT void uiutilsFontSubset(
         const uiutils::pdf::FontTables& tables, const QVector<quint16>& glyphs, uiutils::pdf::FontProgram* program)
 {
     using namespace uiutils::fonts;
-    Source source {tables, program->kind};
+    Source source {tables, program->kind, {}};
     const Face face(hb_face_create_for_tables(fetchTable, &source, nullptr));
     const Input input = inputOf(glyphs);
     const Face subset(input ? hb_subset_or_fail(face.get(), input.get()) : nullptr);
