@@ -27,7 +27,8 @@ document    lib/ui_utils/document           base contract core
 local       lib/ui_utils/local              base contract core service
 files       lib/ui_utils/files              base contract core instrument document
 plots       lib/ui_utils/writers/plots      base contract core
-pdffile     lib/ui_utils/writers/pdffile    base core
+emitter     lib/ui_utils/writers/emitter    base core
+pdffile     lib/ui_utils/writers/pdffile    base core emitter
 podofo      lib/ui_utils/writers/pdffile/podofo  base core pdffile
 pages       lib/ui_utils/writers/pages      base core pdffile
 text        lib/ui_utils/writers/text       base contract core instrument document plots
@@ -56,8 +57,8 @@ benchmarks  benchmarks                      LIBRARY podofo base contract embedde
 startbench  benchmarks/start                -
 busbench    benchmarks/bus                  LIBRARY base contract embedded bus benchmarks
 """
-GROUPS = {"WRITERS": "plots pdffile pages text html xml",
-          "LIBRARY": "core service instrument document local files plots pdffile pages text html xml report saving module"}
+GROUPS = {"WRITERS": "plots emitter pdffile pages text html xml",
+          "LIBRARY": "core service instrument document local files plots emitter pdffile pages text html xml report saving module"}
 # Our modules that pages may import.
 PAGES = {"apps/common/qml": [], "apps/pdf_viewer/qml": ["UiUtils.Viewer"], "qml/UiUtils/Controls": ["UiUtils", "UiUtils.Controls"],
          "apps/demo/qml": ["UiUtils", "UiUtils.Controls", "UiUtils.Demo"]}

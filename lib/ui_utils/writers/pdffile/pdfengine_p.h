@@ -11,20 +11,26 @@ namespace uiutils::pdf {
 
 struct Annotation;
 
-/// A PDF file in memory.
-class Document
+/// A PDF file in memory, of which the document information can be changed.
+class DescribedFile
 {
 public:
-    virtual ~Document() = default;
+    virtual ~DescribedFile() = default;
 
     /// An entry of the document information; empty if there is none, or if it is not a text.
     virtual QString entry(const QString& key) const = 0;
     /// False, with `error` set, if the entry cannot be set.
     virtual bool setEntry(const QString& key, const QString& value, QString* error) = 0;
+    /// The file with what was changed; empty, with `error` set, if it cannot be written, as no encrypted one can.
+    virtual QByteArray save(QString* error) = 0;
+};
+
+/// A PDF file of which the parser has read all objects.
+class Document : public DescribedFile
+{
+public:
     /// False, with `error` set, if the document is not as the annotation needs it.
     virtual bool annotate(const Annotation& annotation, QString* error) = 0;
-    /// The document as a file; empty, with `error` set, if it cannot be written, as no encrypted one can.
-    virtual QByteArray save(QString* error) = 0;
 };
 
 /// What the library with the parser offers. It lives as long as the process.
@@ -42,8 +48,8 @@ protected:
 /// document does not need the bytes any more. Contents from outside must have passed a PdfProbe.
 std::unique_ptr<Document> load(const QByteArray& contents, QString* error);
 
-/// The document as a complete file; empty, with `error` set, if there is none.
-QByteArray saved(Document& document, QString* error);
+/// The complete file with what was changed; empty, with `error` set, if there is none.
+QByteArray saved(DescribedFile& document, QString* error);
 
 /// The text for an error code of the parser; never empty.
 QString errorText(int code);
