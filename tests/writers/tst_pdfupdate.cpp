@@ -51,11 +51,10 @@ QByteArray retitled(const QByteArray& contents, const QString& title)
     return file && file->setEntry("Title", title, &error) ? file->save(&error) : QByteArray();
 }
 
-/// Null if the file takes the other road.
 QString titleOf(const QByteArray& contents)
 {
     const auto file = pdf::openForUpdate(contents);
-    return file ? file->entry("Title") + "" : QString();
+    return file ? file->entry("Title") : "none";
 }
 
 /// The texts of a packet by the names of the elements around them; lists and languages are left out.
@@ -274,7 +273,7 @@ private Q_SLOTS:
     void otherFilesTakeTheOtherRoad()
     {
         QFETCH(QByteArray, contents);
-        QCOMPARE(titleOf(contents), QString());
+        QVERIFY(!pdf::openForUpdate(contents));
     }
 
     /// Wherever a byte is wrong, the file takes the other road, or what is added is what the intact file would get,
@@ -311,7 +310,7 @@ private Q_SLOTS:
             }
             // A file that was cut short has no end, or not this one.
             const QByteArray cut = contents.left(at);
-            QVERIFY(titleOf(cut).isNull() || cut == contents.chopped(1) || cut == good || cut == good.chopped(1));
+            QVERIFY(!pdf::openForUpdate(cut) || cut == contents.chopped(1) || cut == good || cut == good.chopped(1));
         }
         QVERIFY2(opened > contents.size() / 2 && opened < 2 * contents.size(), qPrintable(QString::number(opened)));
     }
