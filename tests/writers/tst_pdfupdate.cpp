@@ -201,6 +201,8 @@ private Q_SLOTS:
         const QByteArray second = retitled(first, "Other");
         QVERIFY(second.startsWith(base));
         QCOMPARE(second.size(), first.size());
+        const int id = first.lastIndexOf("/ID [");
+        QVERIFY(id < 0 || first.mid(id, 50) != second.mid(id, 50));
         QCOMPARE(titleOf(second), QString("Other"));
         const QByteArray end = second.mid(base.size());
         QCOMPARE(end.count("%%EOF"), 1);
@@ -227,6 +229,7 @@ private Q_SLOTS:
         QTest::newRow("hybrid") << sketch.finishedByStream(trailer + "/XRefStm 9");
         QTest::newRow("no information") << sketch.finishedByStream("");
         QTest::newRow("information that is a page") << sketch.finishedByStream("/Info 3 0 R");
+        QTest::newRow("information of another type") << sample("/Type/Filespec");
         QTest::newRow("information that is the catalog") << sample(info, "/Info 1 0 R");
         QTest::newRow("an entry elsewhere") << sample("/Title 5 0 R");
         QTest::newRow("an entry twice") << sample("/Title(A)/Title(B)");
@@ -257,6 +260,7 @@ private Q_SLOTS:
         QTest::newRow("other filter") << withTable("/Size 7/W[1 2 1]/Filter/ASCIIHexDecode", rows().toHex());
         QTest::newRow("not deflated") << withTable(deflate, rows());
         QTest::newRow("something after the end") << good + "1 0 obj";
+        QTest::newRow("two ends") << good + good.mid(good.indexOf("startxref"));
         QTest::newRow("an object after the table") << changed("startxref", "7 0 obj 5 endobj startxref");
         QTest::newRow("an earlier table that is not there") << sketch.finishedByStream(trailer + "/Prev 600");
         QTest::newRow("an earlier table that is this one")
@@ -264,7 +268,8 @@ private Q_SLOTS:
         // One thing in what was added is different from what formsThatAreChanged() has.
         QTest::newRow("added to what was added") << added(added(good, 4, 7), 4, 8);
         QTest::newRow("another object added") << added(good, 3, 7);
-        QTest::newRow("a table of another number") << added(good, 4, 6);
+        QTest::newRow("a table of another size") << added(good, 4, 7).replace("/Size 8/Index", "/Size 9/Index");
+        QTest::newRow("a table of another number") << added(good, 4, 6).replace("/Size 7/Index", "/Size 8/Index");
         QTest::newRow("a gap before what was added") << added(good + "5", 4, 7);
         QTest::newRow("another root added") << added(good, 4, 7, "/Root 2 0 R/Info 4 0 R");
         const QByteArray prev = "/Prev " + QByteArray::number(sketch.size());

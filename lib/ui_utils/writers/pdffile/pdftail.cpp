@@ -89,7 +89,7 @@ bool Tables::readAdded()
     m_added = m_base;
     m_size = beginOfAdded();
     m_base = tableBefore(m_size);
-    return m_base && isOrdinary(m_base->keys()) && m_base->keys().value("Prev").isNull()
+    return m_base && isOrdinary(m_base->keys())
             && Source(m_added->keys().value("Prev")).takeNumber() == m_base->position()
             && m_added->number() == m_base->size() && m_added->size() == m_base->size() + 1;
 }
@@ -186,11 +186,9 @@ bool readMetadata(const Tables& tables, const Dictionary& catalog, Tail* tail)
 bool readCatalog(const Tables& tables, Tail* tail)
 {
     Dictionary catalog;
-    const int number = referenceIn(tail->trailer, "Root");
-    auto source = tables.object(number);
+    auto source = tables.object(referenceIn(tail->trailer, "Root"));
     return source && source->takeDictionary(&catalog) && source->take("endobj") && catalog.value("Type") == "/Catalog"
-            && readMetadata(tables, catalog, tail) && number != tail->informationNumber
-            && number != tail->metadataNumber && tail->informationNumber != tail->metadataNumber;
+            && readMetadata(tables, catalog, tail);
 }
 
 } // namespace
