@@ -29,9 +29,9 @@ files       lib/ui_utils/files              base contract core instrument docume
 emitter     lib/ui_utils/writers/emitter    base core
 fonts       lib/ui_utils/writers/emitter/fonts  base core emitter
 plots       lib/ui_utils/writers/plots      base contract core
-pdffile     lib/ui_utils/writers/pdffile    base core
+pdffile     lib/ui_utils/writers/pdffile    base core emitter
 podofo      lib/ui_utils/writers/pdffile/podofo  base core pdffile
-pages       lib/ui_utils/writers/pages      base core emitter pdffile
+pages       lib/ui_utils/writers/pages      base core emitter
 text        lib/ui_utils/writers/text       base contract core instrument document plots
 html        lib/ui_utils/writers/html       base contract core instrument document plots pages text
 xml         lib/ui_utils/templ2xmlwriter    base contract core instrument document

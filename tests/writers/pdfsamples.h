@@ -66,6 +66,16 @@ public:
     {
         return m_bytes + tableAndTrailer + "startxref\n" + QByteArray::number(m_bytes.size()) + "\n%%EOF\n";
     }
+    /// Ended as the library does: by a table in the form of a stream, which lists itself too.
+    QByteArray finishedByStream(const QByteArray& trailer, const QByteArray& rowsToAdd = QByteArray()) const
+    {
+        Sketch sketch = *this;
+        sketch.m_offsets += size();
+        const QByteArray rows = sketch.binaryTable() + rowsToAdd;
+        sketch.m_offsets.removeLast();
+        sketch.addStream("/Type/XRef/Root 1 0 R/W[1 2 1]/Size " + QByteArray::number(rows.size() / 4) + trailer, rows);
+        return sketch.finishedAt(size());
+    }
     /// Ended with the entries of its last object, a stream that begins at `table`.
     QByteArray finishedAt(int table) const
     {
@@ -83,6 +93,13 @@ inline QByteArray described(const QByteArray& info)
     Sketch sketch;
     sketch.addPage().add("<<" + info + ">>");
     return sketch.finished("/Info 4 0 R");
+}
+/// The same in the form that the library writes.
+inline QByteArray describedByStream(const QByteArray& info)
+{
+    Sketch sketch;
+    sketch.addPage().add("<<" + info + ">>");
+    return sketch.finishedByStream("/Info 4 0 R");
 }
 
 inline void print(const QString& path, int pages)

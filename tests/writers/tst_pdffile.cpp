@@ -59,11 +59,13 @@ private Q_SLOTS:
         samples::Sketch sketch;
         sketch.addPage().add("<</Title " + string + "/Other " + string + ">>");
         sketch.add("(Referred)");
-        PDFFile file;
-        file.setFilename(made("strings.pdf", sketch.finished("/Info 4 0 R")));
-        QCOMPARE(file.getTitle(), text);
-        QCOMPARE(file.getMetaData("Other"), text);
-        QCOMPARE(file.getAuthor(), QString());
+        for (const QByteArray& contents : {sketch.finished("/Info 4 0 R"), sketch.finishedByStream("/Info 4 0 R")}) {
+            PDFFile file;
+            file.setFilename(made("strings.pdf", contents));
+            QCOMPARE(file.getTitle(), text);
+            QCOMPARE(file.getMetaData("Other"), text);
+            QCOMPARE(file.getAuthor(), QString());
+        }
     }
 
     void keepsTexts_data()
@@ -83,18 +85,20 @@ private Q_SLOTS:
     void keepsTexts()
     {
         QFETCH(QString, text);
-        const QString name = made("texts.pdf", described(""));
-        PDFFile file;
-        file.setFilename(name);
-        file.setTitle(text);
-        file.setMetaData("Job number", text);
-        file.write(QString());
-        PDFFile again;
-        again.setFilename(name);
-        const QString whole = QString::fromUtf8(text.toUtf8().constData(), text.toUtf8().size());
-        QCOMPARE(again.getTitle(), whole);
-        QCOMPARE(again.getMetaData("Job number"), whole);
-        QCOMPARE(samples::faultsOf(name), QString());
+        for (const QByteArray& contents : {described(""), samples::describedByStream("")}) {
+            const QString name = made("texts.pdf", contents);
+            PDFFile file;
+            file.setFilename(name);
+            file.setTitle(text);
+            file.setMetaData("Job number", text);
+            file.write(QString());
+            PDFFile again;
+            again.setFilename(name);
+            const QString whole = QString::fromUtf8(text.toUtf8().constData(), text.toUtf8().size());
+            QCOMPARE(again.getTitle(), whole);
+            QCOMPARE(again.getMetaData("Job number"), whole);
+            QCOMPARE(samples::faultsOf(name), QString());
+        }
     }
 
     void otherReadersSeeTheTexts()
@@ -324,9 +328,16 @@ private Q_SLOTS:
         QCOMPARE(file.getTitle(), QString());
     }
 
+    void hostileKeysDoNoHarm_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::newRow("a table") << described("/Title(Kept)/Number 5");
+        QTest::newRow("a table in a stream") << samples::describedByStream("/Title(Kept)/Number 5");
+    }
     void hostileKeysDoNoHarm()
     {
-        const QString name = made("keys.pdf", described("/Title(Kept)/Number 5"));
+        QFETCH(QByteArray, contents);
+        const QString name = made("keys.pdf", contents);
         PDFFile file;
         file.setFilename(name);
         const QString fits(127, 'k');

@@ -221,7 +221,8 @@ private Q_SLOTS:
         outputOf("qpdf", {"--object-streams=generate", path("printed.pdf"), path("packed.pdf")});
         outputOf("qpdf", {"--encrypt", "", "owner", "256", "--", path("printed.pdf"), path("locked.pdf")});
         const QVector<QByteArray> bases{samples::described("/Title(A)/Author<FEFF0041>"), contentsOf(path("packed.pdf")),
-                contentsOf(path("printed.pdf")), contentsOf(path("locked.pdf"))};
+                contentsOf(path("printed.pdf")), contentsOf(path("locked.pdf")),
+                samples::describedByStream("/Title(A)/Author<FEFF0041>")};
         std::mt19937 random(20260314);
         const auto below = [&random](int limit) { return int(random() % unsigned(qMax(1, limit))); };
         int loaded = 0;

@@ -129,7 +129,7 @@ QByteArray DocumentWriter::identifier() const
 QByteArray DocumentWriter::catalog(const QVector<OutlineEntry>& outline)
 {
     QByteArray text = "<</Type/Catalog/Pages " + referenceTo(m_pageTree) + "/ViewerPreferences<</DisplayDocTitle true>>";
-    const QString& language = m_settings.information.language;
+    const QString& language = m_settings.language;
     if (!language.isEmpty())
         text += "/Lang" + textString(language);
     const int entries = writeOutline(m_output, outline, m_pages, m_settings.pageSize.height());

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "writers/emitter/documentinformation_p.h"
 #include "writers/emitter/embeddedfont_p.h"
 #include "writers/emitter/pagecontent_p.h"
 #include "writers/emitter/pdfoutline_p.h"
 #include "writers/emitter/pdfoutput_p.h"
 #include "writers/emitter/structuretree_p.h"
 
-#include <QDateTime>
 #include <QHash>
 #include <QSizeF>
 
@@ -18,22 +18,11 @@ class QImage;
 
 namespace uiutils::pdf {
 
-/// What a file says of itself.
-struct DocumentInformation
-{
-    QString title;
-    QString author;
-    QString subject;
-    QString producer;
-    QString creator;
-    QDateTime created;
-    /// As in "en-US"; empty if it is not known.
-    QString language;
-};
-
 struct DocumentSettings
 {
     DocumentInformation information;
+    /// Of the texts, as in "en-US"; empty if it is not known.
+    QString language;
     /// In points.
     QSizeF pageSize;
     /// Units of the layout in a point.

@@ -20,6 +20,7 @@ struct PageSettings
     TitleBlock::Contents titleBlock;
     PageFrame::Texts frame;
     pdf::DocumentInformation information;
+    QString language;
     bool isTagged = false;
     QPageLayout::Orientation orientation = QPageLayout::Portrait;
 };
@@ -54,6 +55,7 @@ private:
     QPageLayout::Orientation m_orientation;
     Progress m_progress;
     pdf::DocumentInformation m_information;
+    QString m_language;
     bool m_isTagged;
     // Where there is a resolution, but nothing is painted.
     QImage m_device;

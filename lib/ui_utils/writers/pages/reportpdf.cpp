@@ -75,8 +75,15 @@ uiutils::PageSettings ReportPDF::Job::settings() const
             owner.fields};
     settings.frame = {owner.documentTitle, owner.title, owner.unitId, owner.timestamp};
     settings.orientation = owner.orientation == ReportPDF::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
-    settings.information = {owner.title.isEmpty() ? owner.documentTitle : owner.title, owner.author, owner.subject,
-            owner.producer, QStringLiteral("uiutils"), QDateTime::currentDateTime(), QLocale().bcp47Name()};
+    uiutils::pdf::DocumentInformation& about = settings.information;
+    about.title = owner.title.isEmpty() ? owner.documentTitle : owner.title;
+    about.author = owner.author;
+    about.subject = owner.subject;
+    about.creator = QStringLiteral("uiutils");
+    about.producer = owner.producer;
+    const QDateTime now = QDateTime::currentDateTime();
+    about.created = now.toOffsetFromUtc(now.offsetFromUtc());
+    settings.language = QLocale().bcp47Name();
     settings.isTagged = owner.isTagged;
     return settings;
 }

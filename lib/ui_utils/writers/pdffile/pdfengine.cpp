@@ -30,7 +30,7 @@ const Loaded& loaded()
 
 } // namespace
 
-std::unique_ptr<Document> load(const QByteArray& contents, QString* error)
+std::unique_ptr<DescribedFile> load(const QByteArray& contents, QString* error)
 {
     if (loaded().engine)
         return loaded().engine->load(contents, error);
@@ -38,7 +38,7 @@ std::unique_ptr<Document> load(const QByteArray& contents, QString* error)
     return nullptr;
 }
 
-QByteArray saved(Document& document, QString* error)
+QByteArray saved(DescribedFile& document, QString* error)
 {
     const QByteArray contents = document.save(error);
     return !contents.isEmpty() && isWholePdf(contents, error) ? contents : QByteArray();

@@ -6,6 +6,7 @@
 #include "writers/pdffile/pdfengine_p.h"
 #include "writers/pdffile/pdfprobe_p.h"
 #include "writers/pdffile/pdftexts_p.h"
+#include "writers/pdffile/pdfupdate_p.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
@@ -73,13 +74,17 @@ QByteArray read(const QString& path, const QDeadlineTimer& deadline, QString* er
     return contents;
 }
 
-std::unique_ptr<pdf::Document> loadUntrusted(const QString& path, QString* error)
+std::unique_ptr<pdf::DescribedFile> loadUntrusted(const QString& path, QString* error)
 {
     // Reading gets a third of the time, so that the file can still be tried and loaded.
     const QDeadlineTimer deadline(uiutils::PdfProbe::patience);
     const QByteArray contents = read(path, QDeadlineTimer(uiutils::PdfProbe::patience / 3), error);
+    if (!error->isEmpty())
+        return nullptr;
+    if (auto file = pdf::openForUpdate(contents))
+        return file;
     // The bytes that were tried are the bytes that are loaded, whatever happens to the file.
-    if (!error->isEmpty() || !uiutils::PdfProbe(int(deadline.remainingTime())).passes(contents, error))
+    if (!uiutils::PdfProbe(int(deadline.remainingTime())).passes(contents, error))
         return nullptr;
     return pdf::load(contents, error);
 }
@@ -119,7 +124,7 @@ public:
     bool writeTo(const QString& path, QString* error);
 
     QString filename;
-    std::unique_ptr<pdf::Document> document;
+    std::unique_ptr<pdf::DescribedFile> document;
 };
 
 using uiutils::PDFFilePrivate;

@@ -14,7 +14,8 @@ class PDFFilePrivate;
 /// The document information of a PDF file: reads it, changes it and writes the file back. Pages are not changed.
 ///
 /// Paths are the instrument's. If something fails, the log has a line. Files come from USB drives, so each is tried in
-/// a process of its own before it is loaded. A file is rejected if it is not a regular file, has more than 64 MiB, asks
+/// a process of its own before it is loaded; of a file that the library wrote only the end is read, and changes are
+/// added to it. A file is rejected if it is not a regular file, has more than 64 MiB, asks
 /// for a password, or takes so long that setFilename() would not return within a second. An encrypted file that opens
 /// without a password is read, but not written.
 class UIUTILS_EXPORT PDFFile : public QObject

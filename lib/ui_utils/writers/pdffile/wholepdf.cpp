@@ -17,23 +17,14 @@ bool fail(QString* error, const QString& reason)
 
 QByteArray tailOf(QIODevice& device)
 {
-    constexpr qint64 tail = 1024;
-    device.seek(qMax<qint64>(0, device.size() - tail));
-    return device.read(tail);
+    device.seek(qMax<qint64>(0, device.size() - tailSize));
+    return device.read(tailSize);
 }
 
 /// All bytes: QString's own function stops at a zero.
 QString fromLatin1(const QByteArray& bytes)
 {
     return QString::fromLatin1(bytes.constData(), bytes.size());
-}
-
-/// Where the table of objects is, as the last "startxref" says; -1 if there is none.
-qint64 tablePosition(const QByteArray& tail)
-{
-    static const QRegularExpression expression(QStringLiteral("startxref\\s+(\\d{1,18})\\s+%%EOF\\s*\\z"));
-    const QRegularExpressionMatch match = expression.match(fromLatin1(tail));
-    return match.hasMatch() ? match.captured(1).toLongLong() : -1;
 }
 
 bool isTableStart(const QByteArray& bytes)
@@ -43,6 +34,13 @@ bool isTableStart(const QByteArray& bytes)
 }
 
 } // namespace
+
+qint64 tablePosition(const QByteArray& tail)
+{
+    static const QRegularExpression expression(QStringLiteral("startxref\\s+(\\d{1,18})\\s+%%EOF\\s*\\z"));
+    const QRegularExpressionMatch match = expression.match(fromLatin1(tail));
+    return match.hasMatch() ? match.captured(1).toLongLong() : -1;
+}
 
 bool isWholePdf(QIODevice& device, QString* error)
 {

@@ -14,4 +14,11 @@ bool isWholePdf(QIODevice& device, QString* error);
 /// The same for the contents of a file.
 bool isWholePdf(const QByteArray& contents, QString* error);
 
+/// Where the table of objects is, as the last "startxref" of these last bytes of a file says; -1 if they have none, or
+/// anything after its end.
+qint64 tablePosition(const QByteArray& tail);
+
+/// How many bytes of the end of a file tablePosition() needs.
+constexpr int tailSize = 1024;
+
 } // namespace uiutils::pdf

@@ -1,13 +1,12 @@
 #include "writers/pdffile/podofo/pdfdocument_p.h"
 
 #include "writers/pdffile/pdfciphers_p.h"
+#include "writers/pdffile/pdfencoding_p.h"
 #include "writers/pdffile/pdfprobeprotocol_p.h"
 #include "writers/pdffile/pdftexts_p.h"
 
 #include <QVarLengthArray>
-#include <QtEndian>
 
-#include <algorithm>
 #include <cstring>
 #include <ostream>
 #include <streambuf>
@@ -16,58 +15,15 @@
 
 namespace uiutils::podofo {
 
-using pdf::PdfFileTexts;
+using pdf::fromUtf16, pdf::PdfFileTexts;
 
 namespace {
-
-/// Where PDFDocEncoding is not Latin-1: 0x18 to 0x1f, and 0x7f to 0xa0.
-constexpr char16_t accents[] = u"\u02D8\u02C7\u02C6\u02D9\u02DD\u02DB\u02DA\u02DC";
-constexpr char16_t marks[]
-        = u"\uFFFD\u2022\u2020\u2021\u2026\u2014\u2013\u0192\u2044\u2039\u203A\u2212\u2030\u201E\u201C"
-          u"\u201D\u2018\u2019\u201A\u2122\uFB01\uFB02\u0141\u0152\u0160\u0178\u017D\u0131\u0142\u0153"
-          u"\u0161\u017E\uFFFD\u20AC";
-
-QChar fromPdfDocEncoding(uchar byte)
-{
-    if (byte >= 0x18 && byte <= 0x1f)
-        return accents[byte - 0x18];
-    if (byte >= 0x7f && byte <= 0xa0)
-        return marks[byte - 0x7f];
-    return byte == 0xad ? QChar(QChar::ReplacementCharacter) : QChar(ushort(byte));
-}
-
-QString fromPdfDocEncoding(const QByteArray& bytes)
-{
-    QString result(bytes.size(), Qt::Uninitialized);
-    for (int i = 0; i < bytes.size(); ++i)
-        result[i] = fromPdfDocEncoding(static_cast<uchar>(bytes.at(i)));
-    return result;
-}
-
-/// Discards half a character at the end.
-QString fromUtf16(const QByteArray& bytes, int begin, bool bigEndian)
-{
-    QString result((bytes.size() - begin) / 2, Qt::Uninitialized);
-    for (int i = 0; i < result.size(); ++i) {
-        const char* unit = bytes.constData() + begin + qptrdiff(2) * i;
-        result[i] = bigEndian ? qFromBigEndian<ushort>(unit) : qFromLittleEndian<ushort>(unit);
-    }
-    return result;
-}
 
 /// If a string has the mark of the other byte order and is not written in hexadecimal, PoDoFo swaps its bytes and
 /// forgets that they are UTF-16. No other text has zeros.
 bool isTurned(const QByteArray& bytes)
 {
     return bytes.size() % 2 == 0 && bytes.contains('\0');
-}
-
-/// Whether every reader shows the bytes of the text as the text, because it is the same in PDFDocEncoding and ASCII.
-bool isPlain(const QString& text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) {
-        return (c >= QLatin1Char(' ') && c <= QLatin1Char('~')) || c == QLatin1Char('\n') || c == QLatin1Char('\t');
-    });
 }
 
 /// Appends to an array what is written to it.
@@ -199,13 +155,8 @@ QString textOf(const PoDoFo::PdfString& string)
     const QByteArray bytes(string.GetString(), int(string.GetLength()));
     if (string.IsUnicode())
         return fromUtf16(bytes, 0, true);
-    if (bytes.startsWith("\xff\xfe"))
-        return fromUtf16(bytes, 2, false);
-    if (isTurned(bytes))
-        return fromUtf16(bytes, 0, true);
-    if (bytes.startsWith("\xef\xbb\xbf"))
-        return QString::fromUtf8(bytes.constData() + 3, bytes.size() - 3);
-    return fromPdfDocEncoding(bytes);
+    // With its mark, UTF-16 of the other order is not turned.
+    return isTurned(bytes) && !bytes.startsWith("\xff\xfe") ? fromUtf16(bytes, 0, true) : pdf::textOf(bytes);
 }
 
 QString textOf(const PoDoFo::PdfObject* object)
@@ -217,15 +168,11 @@ QString textOf(const PoDoFo::PdfObject* object)
 
 PoDoFo::PdfString stringOf(const QString& text)
 {
-    if (isPlain(text)) {
+    if (pdf::isPlain(text)) {
         const QByteArray bytes = text.toLatin1();
         return PoDoFo::PdfString(bytes.constData(), PoDoFo::pdf_long(bytes.size()));
     }
-    const QByteArray utf8 = text.toUtf8();
-    const QString whole = QString::fromUtf8(utf8.constData(), utf8.size());
-    QVarLengthArray<PoDoFo::pdf_utf16be, 256> units(whole.size());
-    for (int i = 0; i < whole.size(); ++i)
-        units[i] = qToBigEndian(whole.at(i).unicode());
+    const QVector<ushort> units = pdf::utf16(text);
     return PoDoFo::PdfString(units.constData(), PoDoFo::pdf_long(units.size()));
 }
 

@@ -8,7 +8,7 @@ namespace uiutils::podofo {
 
 namespace {
 
-class LoadedDocument final : public pdf::Document
+class LoadedDocument final : public pdf::DescribedFile
 {
 public:
     explicit LoadedDocument(std::unique_ptr<PoDoFo::PdfMemDocument> document)
@@ -43,7 +43,7 @@ private:
 class PodofoEngine final : public pdf::Engine
 {
 public:
-    std::unique_ptr<pdf::Document> load(const QByteArray& contents, QString* error) const override
+    std::unique_ptr<pdf::DescribedFile> load(const QByteArray& contents, QString* error) const override
     {
         auto document = podofo::load(contents, error);
         return document ? std::make_unique<LoadedDocument>(std::move(document)) : nullptr;
