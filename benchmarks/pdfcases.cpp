@@ -82,8 +82,8 @@ void printItems(const Items& items, const QString& path, bool isTagged)
 {
     uiutils::PageSettings settings;
     settings.frame.documentTitle = QStringLiteral("Benchmark");
-    settings.information.created = QDateTime::currentDateTime();
-    settings.isTagged = isTagged;
+    settings.document.information.created = QDateTime::currentDateTime();
+    settings.document.isTagged = isTagged;
     uiutils::PagePrinter printer(settings, items.list(), [](int, int) { return true; });
     QFile file(path);
     QString error;

@@ -81,6 +81,8 @@ QByteArray pdfOf(const ReportTemplate& report, Generation& generation)
     writer.setAttribute(QStringLiteral("logo"), page.hasLogo ? scratchLogo(generation) : QString());
     if (!page.orientation.isEmpty() || !own.isEmpty())
         writer.setAttribute(QStringLiteral("orientation"), page.orientation.isEmpty() ? own : page.orientation);
+    if (page.isArchive)
+        writer.setAttribute(QStringLiteral("pdf_archive"), true);
     writer.setAttribute(QStringLiteral("unitId"), page.unitId);
     QObject::connect(&writer.pages(), &ReportPDF::progressChanged, &writer.pages(), [&](int done, int count) {
         if (!generation.mayContinue(done, count))

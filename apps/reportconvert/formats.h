@@ -22,6 +22,8 @@ struct PageSettings
     QString logoFile;
     /// "portrait" or "landscape"; empty: as the document says.
     QString orientation;
+    /// Whether PDF files have the form for archives, whatever the document says.
+    bool isArchive = false;
     /// Empty: the unit whose services are loaded.
     QString unitId;
 };

@@ -60,6 +60,8 @@ Options:
       --no-logo          leave the logo out
       --orientation=WAY  of PDF pages: portrait or landscape; without it as the
                          document says
+      --archive          PDF files for archives (PDF/A-2u): whatever is needed to
+                         show and read them is inside
       --unit-id=TEXT     unit in the footer of PDF pages, in place of the one
                          that the services name
       --strict           a document that does not have the layout of a report
@@ -133,6 +135,7 @@ struct KnownOptions
     const QCommandLineOption logo {QStringLiteral("logo"), {}, QStringLiteral("FILE")};
     const QCommandLineOption noLogo {QStringLiteral("no-logo")};
     const QCommandLineOption orientation {QStringLiteral("orientation"), {}, QStringLiteral("WAY")};
+    const QCommandLineOption archive {QStringLiteral("archive")};
     const QCommandLineOption unitId {QStringLiteral("unit-id"), {}, QStringLiteral("TEXT")};
     const QCommandLineOption strict {QStringLiteral("strict")};
 };
@@ -184,6 +187,7 @@ QString readPage(const QCommandLineParser& parser, const KnownOptions& known, Op
     options->page.hasLogo = !parser.isSet(known.noLogo);
     options->page.logoFile = parser.value(known.logo);
     options->page.orientation = parser.value(known.orientation);
+    options->page.isArchive = parser.isSet(known.archive);
     options->page.unitId = parser.value(known.unitId);
     return QString();
 }
@@ -195,7 +199,7 @@ Options readOptions(const QStringList& arguments)
     const KnownOptions known;
     QCommandLineParser parser;
     parser.addOptions({known.format, known.output, known.services, known.title, known.logo, known.noLogo,
-            known.orientation, known.unitId, known.strict});
+            known.orientation, known.archive, known.unitId, known.strict});
     const QString version = QStringLiteral("reportconvert (uiutils) %1\n").arg(QCoreApplication::applicationVersion());
     const apps::CommandLine line = apps::parse(parser, arguments, {helpText(), version});
     if (line.outcome != apps::CommandLine::Run)

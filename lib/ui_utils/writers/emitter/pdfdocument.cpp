@@ -3,7 +3,9 @@
 #include "writers/emitter/fontprogram_p.h"
 #include "writers/emitter/pdfimage_p.h"
 #include "writers/emitter/pdfsyntax_p.h"
+#include "writers/emitter/xmp_p.h"
 
+#include <QColorSpace>
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QImage>
@@ -29,6 +31,10 @@ DocumentWriter::DocumentWriter(QIODevice* device, const DocumentSettings& settin
 {
     if (settings.isTagged)
         m_structure.emplace(m_output);
+    if (settings.isArchive) {
+        m_settings.information.archivePart = 2;
+        m_settings.information.archiveConformance = QStringLiteral("U");
+    }
 }
 
 DocumentWriter::~DocumentWriter() = default;
@@ -126,6 +132,22 @@ QByteArray DocumentWriter::identifier() const
     return QCryptographicHash::hash(information() + QByteArray::number(m_pages.size()), QCryptographicHash::Md5);
 }
 
+/// Readable without inflating anything, for programs that know nothing of PDF.
+int DocumentWriter::writeMetadata()
+{
+    const int object = m_output.reserve();
+    m_output.writeStream(object, "/Type/Metadata/Subtype/XML", xmpPacket(m_settings.information), PdfOutput::AsIs);
+    return object;
+}
+
+/// What the numbers of colours mean.
+int DocumentWriter::writeProfile()
+{
+    const int object = m_output.reserve();
+    m_output.writeStream(object, "/N 3", QColorSpace(QColorSpace::SRgb).iccProfile());
+    return object;
+}
+
 QByteArray DocumentWriter::catalog(const QVector<OutlineEntry>& outline)
 {
     QByteArray text = "<</Type/Catalog/Pages " + referenceTo(m_pageTree) + "/ViewerPreferences<</DisplayDocTitle true>>";
@@ -135,6 +157,10 @@ QByteArray DocumentWriter::catalog(const QVector<OutlineEntry>& outline)
     const int entries = writeOutline(m_output, outline, m_pages, m_settings.pageSize.height());
     if (entries > 0)
         text += "/PageMode/UseOutlines/Outlines " + referenceTo(entries);
+    text += "/Metadata " + referenceTo(writeMetadata());
+    if (m_settings.isArchive)
+        text += "/OutputIntents[<</Type/OutputIntent/S/GTS_PDFA1/OutputConditionIdentifier(sRGB)/DestOutputProfile "
+                + referenceTo(writeProfile()) + ">>]";
     if (m_structure)
         text += "/MarkInfo<</Marked true>>/StructTreeRoot " + referenceTo(m_structure->finish());
     return text + ">>";

@@ -28,6 +28,8 @@ struct DocumentSettings
     /// Units of the layout in a point.
     qreal unitsOfAPoint = 1;
     bool isTagged = false;
+    /// Whether the file keeps the rules of PDF/A-2u and says so. Everything that they ask for besides is always kept.
+    bool isArchive = false;
 };
 
 /// A PDF file that is written page by page: what is finished is on the device, and only what the end of the file needs
@@ -62,6 +64,8 @@ private:
     void writeResources();
     void writePageTree();
     QByteArray catalog(const QVector<OutlineEntry>& outline);
+    int writeMetadata();
+    int writeProfile();
     QByteArray information() const;
     QByteArray identifier() const;
 

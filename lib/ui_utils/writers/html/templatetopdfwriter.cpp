@@ -8,6 +8,8 @@ TemplateToPdfWriter::TemplateToPdfWriter(const ReportTemplate& document, QList<R
     : m_html(document, items)
     , m_items(items)
     , m_subject(document.getAttr(QStringLiteral("subject")).toString())
+    , m_isTagged(document.getAttr(QStringLiteral("pdf_tagged")))
+    , m_isArchive(document.getAttr(QStringLiteral("pdf_archive")))
 {
     setAttribute(QStringLiteral("isForPDF"), true);
 }
@@ -42,9 +44,18 @@ void TemplateToPdfWriter::setUpPages()
         const QString own = text(name);
         return own.isEmpty() ? fallback : own;
     };
+    const auto choice = [this](const char* name, const QVariant& ofDocument) {
+        const QVariant own = m_html.attribute(QLatin1String(name));
+        return own.isValid() ? own : ofDocument;
+    };
     m_pages.setItems(*m_items);
     m_pages.setOrientation(
             text("orientation") == QLatin1String("portrait") ? ReportPDF::Portrait : ReportPDF::Landscape);
+    const QVariant tagged = choice("pdf_tagged", m_isTagged);
+    m_pages.setStructure(!tagged.isValid() ? ReportPDF::AutomaticStructure
+                    : tagged.toBool()      ? ReportPDF::WithStructure
+                                           : ReportPDF::WithoutStructure);
+    m_pages.setArchive(choice("pdf_archive", m_isArchive).toBool());
     m_pages.setTitle(m_html.title());
     m_pages.setAuthor(textOr("author", uiutils::instrument::technicianName()));
     m_pages.setSubject(textOr("subject", m_subject));

@@ -23,7 +23,8 @@ public:
 
     /// Sets a switch of content: those of the HTML writer; "logo", an instrument path; "orientation", "portrait" or
     /// anything else for landscape; "unitId", in place of the unit's own; "author", in place of the
-    /// technician's name; "subject", in place of the document's; "producer".
+    /// technician's name; "subject", in place of the document's; "producer"; "pdf_tagged" and
+    /// "pdf_archive", in place of the document's fields of these names: ReportPDF::setStructure() and setArchive().
     void setAttribute(const QString& name, const QVariant& value) { m_html.setAttribute(name, value); }
 
     /// Receives the progress of toPdf() and write(), and can cancel them.
@@ -41,5 +42,7 @@ private:
     TemplateToHtmlWriter m_html;
     QList<ReportItem*>* m_items;
     QString m_subject;
+    QVariant m_isTagged;
+    QVariant m_isArchive;
     ReportPDF m_pages;
 };

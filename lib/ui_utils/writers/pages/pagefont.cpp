@@ -2,12 +2,14 @@
 
 #include "writers/emitter/fontmetrics_p.h"
 #include "writers/emitter/fontprogram_p.h"
+#include "writers/pages/fontchoice_p.h"
 
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QPaintDevice>
 #include <QTextLayout>
 
+#include <algorithm>
 #include <cmath>
 
 namespace uiutils {
@@ -118,6 +120,42 @@ const PageFont::Block& PageFont::loadBlock(uchar row) const
         (*block)[size_t(cells.at(i))] = {glyphs.at(i), 0, float(widths.at(i) * m_thousandth)};
     m_blocks[row] = std::move(block);
     return *m_blocks[row];
+}
+
+/// A font of pictures is not: pages show its glyphs as pictures.
+bool PageFont::isRefused(const QRawFont& raw) const
+{
+    for (const auto& [font, isRefused] : m_refused) {
+        if (font == raw)
+            return isRefused;
+    }
+    const pdf::Embedding embedding = pdf::embeddingOf(raw);
+    const bool isRefused = embedding != pdf::Embedding::Allowed && embedding != pdf::Embedding::NoOutlines;
+    m_refused.emplace_back(raw, isRefused);
+    return isRefused;
+}
+
+bool PageFont::replaceRefused(const QTextLayout& layout) const
+{
+    const QList<QGlyphRun> runs = layout.glyphRuns();
+    const auto isOfRefused = [this](const QGlyphRun& run) { return isRefused(run.rawFont()); };
+    if (std::none_of(runs.cbegin(), runs.cend(), isOfRefused))
+        return false;
+    const QVector<uint> characters = layout.text().toUcs4();
+    QStringList families = m_font.families().isEmpty() ? QStringList(m_font.family()) : m_font.families();
+    const int known = families.size();
+    int at = 0;
+    for (const uint character : characters) {
+        const int length = QChar::requiresSurrogates(character) ? 2 : 1;
+        const QList<QGlyphRun> own = layout.glyphRuns(at, length);
+        at += length;
+        const QString family = std::any_of(own.cbegin(), own.cend(), isOfRefused) ? embeddableFamily(character) : QString();
+        if (!family.isEmpty() && !families.contains(family))
+            families += family;
+    }
+    if (families.size() > known)
+        m_font.setFamilies(families);
+    return families.size() > known;
 }
 
 /// 0 when all places are taken.

@@ -6,6 +6,10 @@
 
 #include <array>
 #include <memory>
+#include <utility>
+#include <vector>
+
+class QTextLayout;
 
 namespace uiutils {
 
@@ -61,6 +65,11 @@ public:
         return before.isNull() ? own : own + kerning(before, character) * m_thousandth;
     }
 
+    bool isEmbeddable() const { return m_isEmbeddable; }
+    /// Has fonts that cannot be embedded give way to others. Returns whether there is another one for a character of the
+    /// layout, so that its text must be laid out again with font().
+    bool replaceRefused(const QTextLayout& layout) const;
+
     /// The width of a text that can be set glyph by glyph; negative for any other.
     qreal plainWidth(QStringView text) const;
 
@@ -74,15 +83,18 @@ private:
     int measurePair(QChar left, QChar right) const;
     int placeInPairs(const Glyph& glyph) const;
     int shapedKerning(QChar left, QChar right) const;
+    bool isRefused(const QRawFont& raw) const;
 
     qreal m_size;
     qreal m_thousandth;
-    QFont m_font;
+    mutable QFont m_font;
     QRawFont m_raw;
     bool m_isEmbeddable;
     qreal m_ascent;
     qreal m_lineHeight;
     mutable std::array<std::unique_ptr<Block>, 256> m_blocks;
+    // Fonts of other families that were asked about.
+    mutable std::vector<std::pair<QRawFont, bool>> m_refused;
     mutable int m_inPairs = 0;
     mutable std::unique_ptr<Pairs> m_pairs;
 };

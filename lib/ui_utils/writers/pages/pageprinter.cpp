@@ -27,9 +27,7 @@ PagePrinter::PagePrinter(const PageSettings& settings, const QList<ReportItem*>&
     : m_frameTexts(settings.frame)
     , m_orientation(settings.orientation)
     , m_progress(progress)
-    , m_information(settings.information)
-    , m_language(settings.language)
-    , m_isTagged(settings.isTagged)
+    , m_document(settings.document)
     , m_device(1, 1, QImage::Format_ARGB32_Premultiplied)
     , m_titleBlock(settings.titleBlock)
     , m_items(items)
@@ -53,7 +51,9 @@ PagePrinter::Outcome PagePrinter::print(QIODevice* device, QString* error)
     m_frame.emplace(*m_style, paper * m_style->points(1), m_frameTexts);
     Outcome outcome = Stopped;
     if (layOut()) {
-        pdf::DocumentWriter writer(device, {m_information, m_language, paper, m_style->points(1), m_isTagged});
+        m_document.pageSize = paper;
+        m_document.unitsOfAPoint = m_style->points(1);
+        pdf::DocumentWriter writer(device, m_document);
         outcome = printPages(writer, error);
     }
     warnOfUnreadableIcons();

@@ -19,9 +19,8 @@ struct PageSettings
 {
     TitleBlock::Contents titleBlock;
     PageFrame::Texts frame;
-    pdf::DocumentInformation information;
-    QString language;
-    bool isTagged = false;
+    /// All but the size of pages and the units, which the printer sets.
+    pdf::DocumentSettings document;
     QPageLayout::Orientation orientation = QPageLayout::Portrait;
 };
 
@@ -54,9 +53,7 @@ private:
     PageFrame::Texts m_frameTexts;
     QPageLayout::Orientation m_orientation;
     Progress m_progress;
-    pdf::DocumentInformation m_information;
-    QString m_language;
-    bool m_isTagged;
+    pdf::DocumentSettings m_document;
     // Where there is a resolution, but nothing is painted.
     QImage m_device;
     TitleBlock m_titleBlock;

@@ -2,6 +2,7 @@
 
 #include "base/paths_p.h"
 #include "writers/pages/drawnicon_p.h"
+#include "writers/pages/fontchoice_p.h"
 #include "writers/pages/pageimage_p.h"
 #include "writers/pages/statusicons_p.h"
 
@@ -19,6 +20,11 @@ PageFont pageFont(qreal size, bool isBold, QPaintDevice* device)
     font.setStyleHint(QFont::SansSerif);
     font.setPointSizeF(size);
     font.setBold(isBold);
+    PageFont chosen(font, device);
+    const QString other = chosen.isEmbeddable() ? QString() : embeddableFamily('a');
+    if (other.isEmpty())
+        return chosen;
+    font.setFamily(other);
     return {font, device};
 }
 

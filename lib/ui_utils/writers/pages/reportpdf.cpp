@@ -4,6 +4,7 @@
 #include "base/paths_p.h"
 #include "writers/pages/pageimage_p.h"
 #include "writers/pages/pageprinter_p.h"
+#include "writers/pages/reporttable.h"
 #include "writers/pages/statusicons_p.h"
 
 #include <QBuffer>
@@ -15,6 +16,9 @@
 #include <QScopedValueRollback>
 
 namespace {
+
+/// The structure of more rows makes a file four times as large.
+constexpr int mostTaggedRows = 20000;
 
 bool isAnyPrinting = false;
 
@@ -35,9 +39,24 @@ public:
     QString unitId;
     QString timestamp;
     QVector<ReportPDF::Field> fields;
-    bool isTagged = true;
+    ReportPDF::Structure structure = ReportPDF::AutomaticStructure;
+    bool isArchive = false;
     bool isCancelled = false;
+
+    bool isTagged() const;
 };
+
+bool uiutils::ReportPDFPrivate::isTagged() const
+{
+    if (structure != ReportPDF::AutomaticStructure)
+        return structure == ReportPDF::WithStructure;
+    int rows = 0;
+    for (const ReportItem* item : items) {
+        const auto* const table = dynamic_cast<const ReportTable*>(item);
+        rows += table ? table->rowCount() : 0;
+    }
+    return isArchive || rows <= mostTaggedRows;
+}
 
 /// One run of the printer. A slot of progressChanged() may delete the renderer; the run then counts as cancelled.
 class ReportPDF::Job
@@ -75,7 +94,7 @@ uiutils::PageSettings ReportPDF::Job::settings() const
             owner.fields};
     settings.frame = {owner.documentTitle, owner.title, owner.unitId, owner.timestamp};
     settings.orientation = owner.orientation == ReportPDF::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
-    uiutils::pdf::DocumentInformation& about = settings.information;
+    uiutils::pdf::DocumentInformation& about = settings.document.information;
     about.title = owner.title.isEmpty() ? owner.documentTitle : owner.title;
     about.author = owner.author;
     about.subject = owner.subject;
@@ -83,8 +102,9 @@ uiutils::PageSettings ReportPDF::Job::settings() const
     about.producer = owner.producer;
     const QDateTime now = QDateTime::currentDateTime();
     about.created = now.toOffsetFromUtc(now.offsetFromUtc());
-    settings.language = QLocale().bcp47Name();
-    settings.isTagged = owner.isTagged;
+    settings.document.language = QLocale().bcp47Name();
+    settings.document.isArchive = owner.isArchive;
+    settings.document.isTagged = owner.isTagged();
     return settings;
 }
 
@@ -159,6 +179,16 @@ void ReportPDF::setTimestamp(const QString& text)
 void ReportPDF::setFields(const QVector<Field>& fields)
 {
     d->fields = fields;
+}
+
+void ReportPDF::setStructure(Structure structure)
+{
+    d->structure = structure;
+}
+
+void ReportPDF::setArchive(bool isArchive)
+{
+    d->isArchive = isArchive;
 }
 
 bool ReportPDF::isPrinting()

@@ -59,6 +59,19 @@ public:
     /// The lines of the title block.
     void setFields(const QVector<Field>& fields);
 
+    /// Whether files say what is a heading, a table or a cell, for programs that read them aloud or take them apart.
+    enum Structure {
+        /// In files of up to 20,000 rows of tables, and in the archive form.
+        AutomaticStructure,
+        WithStructure,
+        WithoutStructure,
+    };
+    /// AutomaticStructure by default. Structure makes large files about four times as large.
+    void setStructure(Structure structure);
+    /// Whether files have the form for archives, PDF/A-2u: whatever is needed to show and read them is inside, and they
+    /// say so. False by default.
+    void setArchive(bool isArchive);
+
     /// Prints into memory and returns the complete file. Returns nothing if it was cancelled, with `error` empty, or if
     /// a step failed, which `error` names. Does not return to the event loop. While it runs, no other object of the
     /// program can print, because items have one layout at a time.

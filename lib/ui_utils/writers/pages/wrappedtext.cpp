@@ -77,6 +77,20 @@ qreal widestWord(const PageFont& font, QStringView text)
     return widest;
 }
 
+void layOut(QTextLayout& layout, qreal width)
+{
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setTextDirection(Qt::LayoutDirectionAuto);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0, 0});
+    }
+    layout.endLayout();
+}
+
 } // namespace
 
 WrappedText::WrappedText(const PageFont& font, const QString& text, qreal width)
@@ -141,18 +155,16 @@ void WrappedText::addPlain(const PageFont& font, int begin, int length, qreal wi
 void WrappedText::addShaped(const PageFont& font, int begin, int length, qreal width)
 {
     auto layout = std::make_unique<QTextLayout>(m_text.mid(begin, length), font.font());
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTextDirection(Qt::LayoutDirectionAuto);
-    layout->setTextOption(option);
-    layout->beginLayout();
-    for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
-        line.setLineWidth(width);
-        line.setPosition({0, 0});
+    layOut(*layout, width);
+    if (font.replaceRefused(*layout)) {
+        layout->setFont(font.font());
+        layOut(*layout, width);
+    }
+    for (int i = 0; i < layout->lineCount(); ++i) {
+        const QTextLine line = layout->lineAt(i);
         m_lines.push_back({begin + line.textStart(), line.textLength(), line.naturalTextWidth(), int(m_layouts.size()),
                 line.lineNumber()});
     }
-    layout->endLayout();
     m_layouts.push_back(std::move(layout));
 }
 
