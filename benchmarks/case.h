@@ -10,6 +10,9 @@ QVector<Result> documentCases(int runs);
 QVector<Result> htmlCases(int runs);
 QVector<Result> xmlCases(int runs);
 QVector<Result> pdfCases(int runs);
+/// What the program does in a process of its own for pdfCases(): it prints by how many bytes the first file made it grow.
+constexpr char firstFileArgument[] = "first-file";
+int printFirstFile();
 QVector<Result> plotCases(int runs);
 QVector<Result> textCases(int runs);
 QVector<Result> localCases(int runs);

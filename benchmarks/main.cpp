@@ -10,6 +10,8 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication app(argc, argv);
+    if (argc == 2 && qstrcmp(argv[1], bench::firstFileArgument) == 0)
+        return bench::printFirstFile();
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 
     // In the order in which they are measured: behind the bindings, documents and texts take a third longer.

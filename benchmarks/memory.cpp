@@ -26,6 +26,14 @@ qint64 statusBytes(const char* field)
     return -1;
 }
 
+} // namespace
+
+double heapBytes()
+{
+    const struct mallinfo2 heap = mallinfo2();
+    return double(heap.uordblks) + double(heap.hblkhd);
+}
+
 qint64 growthHere(const std::function<void()>& run)
 {
     QFile peak(QStringLiteral("/proc/self/clear_refs"));
@@ -35,14 +43,6 @@ qint64 growthHere(const std::function<void()>& run)
     run();
     const qint64 after = statusBytes("VmHWM");
     return before < 0 || after < 0 ? -1 : after - before;
-}
-
-} // namespace
-
-double heapBytes()
-{
-    const struct mallinfo2 heap = mallinfo2();
-    return double(heap.uordblks) + double(heap.hblkhd);
 }
 
 qint64 peakGrowth(const std::function<void()>& run)

@@ -13,6 +13,9 @@ double heapBytes();
 /// the system does not tell.
 qint64 peakGrowth(const std::function<void()>& run);
 
+/// The same in this process.
+qint64 growthHere(const std::function<void()>& run);
+
 /// The same behind `prepare`, which a child that shares no code pages with anybody yet may need.
 qint64 peakGrowth(const std::function<void()>& prepare, const std::function<void()>& run);
 

@@ -195,7 +195,7 @@ void PageContent::appendRow(const Row& row)
         isArray = true;
         appendCodes(row, begin, i + 1);
         // A positive number moves back.
-        m_bytes += QByteArray::number(-qRound(row.gaps.at(i)));
+        appendInteger(m_bytes, -qRound(row.gaps.at(i)));
         begin = i + 1;
     }
     appendCodes(row, begin, count);
@@ -241,10 +241,13 @@ void PageContent::beginMark(Holds holds)
         endTextObject();
 }
 
-void PageContent::beginMarked(const QByteArray& tag, int number, Holds holds)
+void PageContent::beginMarked(const char* tag, int number, Holds holds)
 {
     beginMark(holds);
-    m_bytes += tag + "<</MCID " + QByteArray::number(number) + ">>BDC\n";
+    m_bytes += tag;
+    m_bytes += "<</MCID ";
+    appendInteger(m_bytes, number);
+    m_bytes += ">>BDC\n";
 }
 
 void PageContent::beginArtifact(const QByteArray& properties, Holds holds)

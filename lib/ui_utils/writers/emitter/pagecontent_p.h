@@ -42,7 +42,7 @@ public:
     /// What stands between a begin and its end().
     enum Holds { Text, Anything };
     /// Content with this number on its page.
-    void beginMarked(const QByteArray& tag, int number, Holds holds);
+    void beginMarked(const char* tag, int number, Holds holds);
     /// What is not content of the document, such as lines and page numbers.
     void beginArtifact(const QByteArray& properties, Holds holds);
     /// Text that stands for another.

@@ -8,8 +8,9 @@ namespace uiutils::pdf {
 
 namespace {
 
-/// The best of time and size for content of pages.
-constexpr int deflateLevel = 5;
+/// The best of time and size, for what repeats itself less and for what repeats itself more.
+constexpr int levelOfContent = 5;
+constexpr int levelOfObjects = 4;
 /// Objects of one object stream: a reader inflates all of them for one.
 constexpr int objectsOfAStream = 200;
 /// A type, an offset or a number, an index.
@@ -26,14 +27,14 @@ void appendEntry(QByteArray& rows, QByteArray& last, int type, quint32 at, int i
     last = QByteArray(entry, columns);
 }
 
-} // namespace
-
-QByteArray deflated(const QByteArray& bytes)
+QByteArray deflated(const QByteArray& bytes, int level)
 {
     // Four bytes of length come before what zlib writes.
     constexpr int prefix = 4;
-    return qCompress(bytes, deflateLevel).mid(prefix);
+    return qCompress(bytes, level).mid(prefix);
 }
+
+} // namespace
 
 PdfOutput::PdfOutput(QIODevice* device)
     : m_device(device)
@@ -69,7 +70,10 @@ void PdfOutput::write(int object, const QByteArray& body)
         m_streamNumber = reserve();
     m_places[size_t(object)] = {quint32(m_streamNumber), quint16(m_streamCount)};
     ++m_streamCount;
-    m_streamNumbers += QByteArray::number(object) + ' ' + QByteArray::number(m_streamBodies.size()) + ' ';
+    appendInteger(m_streamNumbers, object);
+    m_streamNumbers += ' ';
+    appendInteger(m_streamNumbers, m_streamBodies.size());
+    m_streamNumbers += ' ';
     m_streamBodies += body;
     m_streamBodies += '\n';
     if (m_streamCount == objectsOfAStream)
@@ -81,9 +85,9 @@ void PdfOutput::flushObjects()
     if (m_streamCount == 0)
         return;
     const QByteArray entries = "/Type/ObjStm/N " + QByteArray::number(m_streamCount) + "/First "
-            + QByteArray::number(m_streamNumbers.size());
+            + QByteArray::number(m_streamNumbers.size()) + "/Filter/FlateDecode";
     m_streamCount = 0;
-    writeStream(m_streamNumber, entries, m_streamNumbers + m_streamBodies);
+    putStream(m_streamNumber, entries, deflated(m_streamNumbers + m_streamBodies, levelOfObjects));
     m_streamNumbers.resize(0);
     m_streamBodies.resize(0);
 }
@@ -96,10 +100,16 @@ void PdfOutput::writePlain(int object, const QByteArray& body)
 
 void PdfOutput::writeStream(int object, const QByteArray& entries, const QByteArray& data, Filter filter)
 {
-    const QByteArray stored = filter == Deflated ? deflated(data) : data;
+    if (filter == AsIs)
+        putStream(object, entries, data);
+    else
+        putStream(object, entries + "/Filter/FlateDecode", deflated(data, levelOfContent));
+}
+
+void PdfOutput::putStream(int object, const QByteArray& entries, const QByteArray& stored)
+{
     beginPlain(object);
-    put("<<" + entries + (filter == Deflated ? "/Filter/FlateDecode" : "") + "/Length "
-            + QByteArray::number(stored.size()) + ">>stream\n");
+    put("<<" + entries + "/Length " + QByteArray::number(stored.size()) + ">>stream\n");
     put(stored);
     put("\nendstream\nendobj\n");
 }

@@ -48,6 +48,7 @@ private:
 
     void put(const QByteArray& bytes);
     void beginPlain(int object);
+    void putStream(int object, const QByteArray& entries, const QByteArray& stored);
     void flushObjects();
     QByteArray table() const;
 
@@ -62,8 +63,5 @@ private:
     QByteArray m_streamNumbers;
     QByteArray m_streamBodies;
 };
-
-/// The bytes, compressed as a stream with /FlateDecode holds them.
-QByteArray deflated(const QByteArray& bytes);
 
 } // namespace uiutils::pdf

@@ -13,6 +13,25 @@ bool isPrintableAscii(const QString& text)
     return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() >= 0x20 && c.unicode() < 0x7f; });
 }
 
+/// A number from its last digit to its first, without memory of its own: files have millions of them.
+class Digits
+{
+public:
+    void prepend(char c) { m_text[--m_begin] = c; }
+    void prependWhole(quint64 number)
+    {
+        do {
+            prepend(char('0' + number % 10));
+            number /= 10;
+        } while (number > 0);
+    }
+    void appendTo(QByteArray& bytes) const { bytes.append(m_text + m_begin, int(sizeof m_text) - m_begin); }
+
+private:
+    char m_text[32];
+    int m_begin = int(sizeof m_text);
+};
+
 QByteArray utf16(const QString& text)
 {
     QByteArray bytes("\xfe\xff");
@@ -27,25 +46,34 @@ QByteArray utf16(const QString& text)
 
 void appendHundredths(QByteArray& bytes, qint64 hundredths)
 {
-    if (hundredths < 0) {
-        bytes += '-';
-        hundredths = -hundredths;
-    }
-    char digits[24];
-    int at = int(sizeof digits);
-    const int fraction = int(hundredths % 100);
+    Digits digits;
+    const quint64 amount = quint64(qAbs(hundredths));
+    const int fraction = int(amount % 100);
+    if (fraction % 10 != 0)
+        digits.prepend(char('0' + fraction % 10));
     if (fraction != 0) {
-        if (fraction % 10 != 0)
-            digits[--at] = char('0' + fraction % 10);
-        digits[--at] = char('0' + fraction / 10);
-        digits[--at] = '.';
+        digits.prepend(char('0' + fraction / 10));
+        digits.prepend('.');
     }
-    qint64 whole = hundredths / 100;
-    do {
-        digits[--at] = char('0' + whole % 10);
-        whole /= 10;
-    } while (whole > 0);
-    bytes.append(digits + at, int(sizeof digits) - at);
+    digits.prependWhole(amount / 100);
+    if (hundredths < 0)
+        digits.prepend('-');
+    digits.appendTo(bytes);
+}
+
+void appendInteger(QByteArray& bytes, qint64 number)
+{
+    Digits digits;
+    digits.prependWhole(quint64(qAbs(number)));
+    if (number < 0)
+        digits.prepend('-');
+    digits.appendTo(bytes);
+}
+
+void appendReference(QByteArray& bytes, int object)
+{
+    appendInteger(bytes, object);
+    bytes.append(" 0 R", 4);
 }
 
 void appendNumber(QByteArray& bytes, qreal number)

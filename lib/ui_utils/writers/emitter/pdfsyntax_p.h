@@ -14,6 +14,10 @@ void appendHundredths(QByteArray& bytes, qint64 hundredths);
 /// Appends the numbers, each with a blank after it.
 void appendNumbers(QByteArray& bytes, std::initializer_list<qreal> numbers);
 
+/// Appends an integer, and "12 0 R".
+void appendInteger(QByteArray& bytes, qint64 number);
+void appendReference(QByteArray& bytes, int object);
+
 /// A text for readers: of a title, an alternative, a date.
 QByteArray textString(const QString& text);
 /// Any bytes.

@@ -27,33 +27,47 @@ StructureElement StructureTree::open(StructureElement& parent, const char* tag, 
 
 void StructureTree::close(StructureElement& element)
 {
-    QByteArray body;
-    body.reserve(64 + element.m_kids.size() * 12);
+    QByteArray& body = m_body;
+    body.resize(0);
     body += "<</S";
     body += element.m_tag;
     body += "/P ";
-    body += referenceTo(element.m_parent);
+    appendReference(body, element.m_parent);
     body += element.m_entries;
     // Content without a page of its own is on the element's.
     int page = 0;
     for (const StructureElement::Kid& kid : element.m_kids)
         page = page == 0 ? kid.page : page;
-    if (page != 0)
-        body += "/Pg " + referenceTo(page);
-    if (!element.m_kids.isEmpty())
-        body += "/K[";
-    for (const StructureElement::Kid& kid : element.m_kids) {
-        if (kid.page == 0)
-            body += referenceTo(kid.number);
-        else if (kid.page == page)
-            body += QByteArray::number(kid.number);
-        else
-            body += "<</Type/MCR/Pg " + referenceTo(kid.page) + "/MCID " + QByteArray::number(kid.number) + ">>";
-        body += ' ';
+    if (page != 0) {
+        body += "/Pg ";
+        appendReference(body, page);
     }
-    body += element.m_kids.isEmpty() ? ">>" : "]>>";
+    const int count = element.m_kids.size();
+    if (count > 0)
+        body += count > 1 ? "/K[" : "/K ";
+    for (int i = 0; i < count; ++i) {
+        if (i > 0)
+            body += ' ';
+        appendKid(body, element.m_kids.at(i), page);
+    }
+    body += count > 1 ? "]>>" : ">>";
     m_output.write(element.m_object, body);
     element = StructureElement();
+}
+
+void StructureTree::appendKid(QByteArray& body, const StructureElement::Kid& kid, int page)
+{
+    if (kid.page == 0) {
+        appendReference(body, kid.number);
+    } else if (kid.page == page) {
+        appendInteger(body, kid.number);
+    } else {
+        body += "<</Type/MCR/Pg ";
+        appendReference(body, kid.page);
+        body += "/MCID ";
+        appendInteger(body, kid.number);
+        body += ">>";
+    }
 }
 
 void StructureTree::beginPage(int object)
@@ -73,8 +87,10 @@ int StructureTree::mark(StructureElement& element)
 void StructureTree::endPage()
 {
     QByteArray list("[");
-    for (const int element : qAsConst(m_marks))
-        list += referenceTo(element) + ' ';
+    for (const int element : qAsConst(m_marks)) {
+        appendReference(list, element);
+        list += ' ';
+    }
     m_pages += m_output.reserve();
     m_output.write(m_pages.constLast(), list + ']');
 }

@@ -59,10 +59,14 @@ public:
     int finish();
 
 private:
+    static void appendKid(QByteArray& body, const StructureElement::Kid& kid, int page);
+
     PdfOutput& m_output;
     int m_root;
     StructureElement m_document;
     int m_page = 0;
+    // Kept for its memory.
+    QByteArray m_body;
     // The element of each marked content of the page.
     QVector<int> m_marks;
     // For each page, the object that lists its elements.

@@ -99,8 +99,9 @@ int Tables::beginOfAdded() const
 {
     if (m_added->entryCount() > mostAdded)
         return 0;
+    const QVector<qint64> numbers = m_added->numbers();
     qint64 begin = m_contents.size();
-    for (const qint64 number : m_added->numbers())
+    for (const qint64 number : numbers)
         begin = qMin(begin, m_added->entry(number).place);
     return int(begin);
 }

@@ -15,7 +15,8 @@
 
 namespace uiutils::podofo {
 
-using pdf::fromUtf16, pdf::PdfFileTexts;
+using pdf::fromUtf16;
+using pdf::PdfFileTexts;
 
 namespace {
 
