@@ -1,7 +1,6 @@
 #include "common/commandline.h"
 #include "common/complaint.h"
 #include "common/displaysetup.h"
-#include "common/locations.h"
 #include "demooptions.h"
 #include "demotypes.h"
 #include "follower.h"
@@ -81,7 +80,7 @@ int runDemo(const DemoOptions& options)
     if (!host.start({options.serviceFolders, options.root, resultServices()}))
         return exitFailed;
     QString error;
-    if (!prepareInstrumentRoot(options.root, pdfViewerProgram(), &error))
+    if (!prepareInstrumentRoot(options.root, &error))
         return complain(error);
     say(Texts::tr("Everything is written below %1").arg(options.root));
 

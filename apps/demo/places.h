@@ -10,7 +10,5 @@ inline const QLatin1String screenshots("/cust/public/screenshots/");
 inline const QLatin1String reportSettings("/cust/private/lastconfigs/reportSettings/");
 inline const QLatin1String images("/base/qml/common/images/");
 inline const QLatin1String logo("/base/qml/common/images/Norda_Color-medium.png");
-inline const QLatin1String pdfViewer("/base/bin/pdf_viewer");
-inline const QLatin1String pdfViewerFolder("/base/qml/pdf_viewer");
 
 } // namespace uiutils::demo::places

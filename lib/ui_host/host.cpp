@@ -6,6 +6,7 @@
 #include "ui_host/images_p.h"
 #include "ui_host/serviceplatform_p.h"
 #include "ui_host/translations_p.h"
+#include "ui_host/viewerlink_p.h"
 
 #include <kiv/kivclientinterface.h>
 
@@ -94,7 +95,7 @@ bool Host::start(const HostSetup& setup)
     const HostSetup complete = ServicePlatform::completed(setup);
     const bool isUsable = useRoot(complete.root, &d->problems) && d->startPlatform(complete);
     if (isUsable) {
-        d->problems += placeImages();
+        d->problems += placeImages() + placeViewer();
         connect(d->platform.get(), &ServicePlatform::serviceAppeared, this, [this](const QString& name) {
             d->add(name);
             Q_EMIT serviceAdded(name);

@@ -35,7 +35,7 @@ struct HostSetup
 };
 
 /// What every application with pages repeats: it brings up the services, makes them known to the pages, and finds the
-/// QML module, the translations and the images of reports.
+/// QML module, the translations, the images of reports and the viewer of saved ones.
 ///
 /// Create the application object first, then the host, then the engine: the host outlives the engine. There is one host
 /// in a process. Everything runs on the thread of the application object.
@@ -59,6 +59,7 @@ public:
     ///   are published there. The bus is asked to start what it can, for at most three seconds; later services are
     ///   added when they come.
     /// - Status icons and logo are copied below the root where they are missing. An existing file is never replaced.
+    /// - The installed viewer of PDF files is linked below a root that has none, for Report::showPDF().
     ///
     /// Returns false when there is nothing that pages could use: the root cannot be used, KIV_PLATFORM is unknown, the
     /// bus cannot be reached, or there is no service at all. Everything that went wrong is printed on standard error,

@@ -339,6 +339,7 @@ private Q_SLOTS:
     {
         const QString folder = "/cust/public/reports/loopback/";
         removeReports();
+        QFile::remove(m_root.filePath("base/bin/pdf_viewer"));
         m_window->setProperty("page", 2);
         put(folder + "a.pdf", "a report");
         Q_EMIT m_report->reportFilesChanged();

@@ -43,7 +43,7 @@ public:
         m_root = std::make_unique<QTemporaryDir>();
         qputenv("UIUTILS_ROOT", m_root->path().toLocal8Bit());
         QString error;
-        if (!prepareInstrumentRoot(m_root->path(), QString(), &error) || !makeFolder(folder(), &error))
+        if (!prepareInstrumentRoot(m_root->path(), &error) || !makeFolder(folder(), &error))
             qFatal("%s", qPrintable(error));
         m_baseManager->setMounted(paths::usb, false);
         m_baseManager->setValue(itemids::usbAttached, false);
