@@ -103,7 +103,7 @@ inline QByteArray charString(int glyph)
     return char(28) + u16(0) + step(10, 21) + step(100 + glyph, 6) + step(700, 7) + step(-100 - glyph, 6) + char(14);
 }
 
-/// The glyphs after 0 have these CIDs; keyed by names if `isCidKeyed` is false.
+/// The glyphs after 0 have these CIDs; if `isCidKeyed` is false, the first names of the standard.
 inline QByteArray cff(const QVector<int>& cids, bool isCidKeyed)
 {
     QByteArray charset(1, '\0');
@@ -122,7 +122,7 @@ inline QByteArray cff(const QVector<int>& cids, bool isCidKeyed)
         const QByteArray keyed = number(391) + number(392) + number(0) + "\14\36" + number(select) + "\14\45"
             + number(select + fdSelect.size()) + "\14\44";
         const QByteArray plain = number(0) + number(select) + char(18);
-        return index({(isCidKeyed ? keyed : QByteArray()) + number(at) + char(15) + number(at + charset.size()) + char(17)
+        return index({(isCidKeyed ? keyed : QByteArray()) + number(isCidKeyed ? at : 0) + char(15) + number(at + charset.size()) + char(17)
             + (isCidKeyed ? QByteArray() : plain)});
     };
     const int at = head.size() + topDict(0).size() + tail.size();

@@ -117,7 +117,9 @@ void TestFontProgram::trueType()
     compareOutlines(font, program, glyphs, glyphsOf(font, text.left(1) == "W" ? "Q" : "中").first());
     const QRawFont subset = rawFont(program.data);
     QCOMPARE(subset.fontTable("fpgm") + subset.fontTable("GSUB") + subset.fontTable("name"), QByteArray());
-    Tables tables = fontsamples::tablesOf(subset);
+    // Instructions would call functions that are not there any more.
+    QCOMPARE(subset.fontTable("maxp").mid(26, 2), u16(0));
+    const Tables tables = fontsamples::tablesOf(subset);
     QCOMPARE(glyphWidths(access(tables), glyphs), glyphWidths(font, glyphs));
 }
 
@@ -127,7 +129,7 @@ void TestFontProgram::cffIsCodedByGlyph_data()
     QTest::addColumn<bool>("isCidKeyed");
     QTest::newRow("names") << sequence(1, 3) << false;
     QTest::newRow("single numbers") << QVector<int> {70, 50, 60} << true;
-    QTest::newRow("short ranges") << sequence(500, 100) + sequence(900, 290) << true;
+    QTest::newRow("short ranges") << sequence(500, 256) + sequence(900, 256) << true;
     QTest::newRow("a long range") << sequence(1000, 300) << true;
 }
 

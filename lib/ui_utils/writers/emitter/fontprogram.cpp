@@ -48,7 +48,7 @@ bool areWidthsBroken(const FontTables& tables, int glyphCount)
 {
     const int count = FontTable(tables("hhea")).u16(34);
     const FontTable hmtx(tables("hmtx"));
-    return count == 0 || count > glyphCount || hmtx.size() < qint64(count) * 4 + qint64(glyphCount - count) * 2;
+    return count == 0 || hmtx.size() < count * 4 + qMax(0, glyphCount - count) * 2;
 }
 
 /// Judged by where the outlines begin and end, without fetching them.
