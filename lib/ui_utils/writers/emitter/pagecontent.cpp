@@ -32,6 +32,16 @@ void appendEscaped(QByteArray& bytes, uchar byte)
     bytes += char(byte);
 }
 
+/// As exactly as pictures have it.
+void appendColor(QByteArray& bytes, const QColor& color)
+{
+    for (const int part : {color.red(), color.green(), color.blue()}) {
+        bytes += part == 0 || part == 255 ? QByteArray::number(part / 255)
+                                          : QByteArray::number(part / 255.0, 'f', 3).mid(1);
+        bytes += ' ';
+    }
+}
+
 qint64 toHundredths(qreal value)
 {
     constexpr qreal farthest = 1e7;
@@ -62,7 +72,7 @@ void PageContent::setFill(const QColor& color)
     if (m_state.fill == rgb)
         return;
     m_state.fill = rgb;
-    appendNumbers(m_bytes, {color.redF(), color.greenF(), color.blueF()});
+    appendColor(m_bytes, color);
     m_bytes += "rg\n";
 }
 
@@ -215,8 +225,22 @@ void PageContent::show(const Row& row, const QPointF& baseLine, const QColor& co
         appendNumber(m_bytes, row.size);
         m_bytes += " Tf\n";
     }
+    if (row.isThickened)
+        thicken(row, color);
     moveTo(baseLine);
     appendRow(row);
+    if (row.isThickened)
+        m_bytes += "0 Tr\n";
+}
+
+/// Outlines in the same colour, as wide as rasterizers make them.
+void PageContent::thicken(const Row& row, const QColor& color)
+{
+    constexpr qreal share = 24;
+    appendColor(m_bytes, color);
+    m_bytes += "RG ";
+    appendNumber(m_bytes, row.size / share);
+    m_bytes += " w 2 Tr\n";
 }
 
 void PageContent::showInvisibly(const Row& row, const QPointF& baseLine, qreal natural, qreal width)

@@ -34,6 +34,8 @@ public:
         QVector<quint16> glyphs;
         /// As many as glyphs, or none.
         QVector<float> gaps;
+        /// Whether the outlines are thickened, because the font has no bold face.
+        bool isThickened = false;
     };
     void show(const Row& row, const QPointF& baseLine, const QColor& color);
     /// Text that is not seen but copied, as wide as `width`, which it has without stretching if it is `natural`.
@@ -76,6 +78,7 @@ private:
     void moveTo(const QPointF& baseLine);
     void appendCodes(const Row& row, int begin, int end);
     void appendRow(const Row& row);
+    void thicken(const Row& row, const QColor& color);
     void appendPath(const QPainterPath& path);
 
     qreal m_scale;

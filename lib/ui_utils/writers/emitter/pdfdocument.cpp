@@ -110,7 +110,7 @@ void DocumentWriter::writePageTree()
     tree += "]/Kids[";
     for (const int page : qAsConst(m_pages))
         tree += referenceTo(page) + ' ';
-    m_output.write(m_pageTree, tree + "]>>");
+    m_output.writePlain(m_pageTree, tree + "]>>");
 }
 
 QByteArray DocumentWriter::information() const

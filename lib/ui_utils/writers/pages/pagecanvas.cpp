@@ -84,6 +84,7 @@ void PageCanvas::setRow(const PageFont& font, QStringView text)
     pdf::EmbeddedFont& embedded = this->embedded(font);
     m_row.font = &embedded;
     m_row.size = font.size();
+    m_row.isThickened = font.isThickened(font.raw());
     m_row.glyphs.resize(int(text.size()));
     m_row.gaps.resize(int(text.size()));
     for (int i = 0; i < text.size(); ++i) {
@@ -97,6 +98,8 @@ void PageCanvas::setRow(const PageFont& font, QStringView text)
 
 void PageCanvas::drawPlain(const PageFont& font, QStringView text, const QPointF& baseLine, const QColor& color)
 {
+    if (text.isEmpty())
+        return;
     setRow(font, text);
     m_writer.content().show(m_row, baseLine, color);
 }

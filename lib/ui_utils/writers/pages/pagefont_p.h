@@ -66,6 +66,8 @@ public:
     }
 
     bool isEmbeddable() const { return m_isEmbeddable; }
+    /// Whether a face of such a font is to be thickened, because it is not bold as asked.
+    bool isThickened(const QRawFont& raw) const { return m_font.bold() && raw.weight() < QFont::DemiBold; }
     /// Has fonts that cannot be embedded give way to others. Returns whether there is another one for a character of the
     /// layout, so that its text must be laid out again with font().
     bool replaceRefused(const QTextLayout& layout) const;

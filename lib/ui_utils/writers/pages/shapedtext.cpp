@@ -127,6 +127,7 @@ void ShapedText::drawRun(const QGlyphRun& run, const QString& text)
     const QVector<quint32> glyphs = run.glyphIndexes();
     const QVector<QPointF> positions = run.positions();
     const pdf::EmbeddedFont* const font = m_writer.font(raw);
+    const bool isThickened = m_font.isThickened(raw);
     for (int i = 0; i < glyphs.size(); ++i) {
         const QPointF at = m_origin + positions.at(i);
         if (glyphs.at(i) == 0 && !m_missing->contains(text))
@@ -135,7 +136,7 @@ void ShapedText::drawRun(const QGlyphRun& run, const QString& text)
             drawPicture(raw, glyphs.at(i), at);
             continue;
         }
-        m_row = {font, raw.pixelSize() / m_writer.unitsOfAPoint(), {quint16(glyphs.at(i))}, {}};
+        m_row = {font, raw.pixelSize() / m_writer.unitsOfAPoint(), {quint16(glyphs.at(i))}, {}, isThickened};
         m_writer.content().show(m_row, at, m_color);
     }
 }
