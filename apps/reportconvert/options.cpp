@@ -60,8 +60,8 @@ Options:
       --no-logo          leave the logo out
       --orientation=WAY  of PDF pages: portrait or landscape; without it as the
                          document says
-      --archive          PDF files for archives (PDF/A-2u): whatever is needed to
-                         show and read them is inside
+      --archive          PDF files for archives (PDF/A-2u): all that is needed
+                         to show and read them is inside
       --unit-id=TEXT     unit in the footer of PDF pages, in place of the one
                          that the services name
       --strict           a document that does not have the layout of a report
