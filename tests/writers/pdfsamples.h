@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files.h"
+#include "pdfreading.h"
 
 #include <QPainter>
 #include <QPdfWriter>
@@ -113,13 +113,6 @@ inline void print(const QString& path, int pages)
         for (int line = 0; line < 40; ++line)
             painter.drawText(200, 200 + 250 * line, QString("Page %1, line %2: 0.25 dB").arg(page).arg(line));
     }
-}
-
-/// Empty when qpdf finds no error.
-inline QString faultsOf(const QString& path)
-{
-    const QString output = outputOf("qpdf", {"--check", path});
-    return output.startsWith("status") || output.contains("WARNING") ? output : QString();
 }
 
 } // namespace samples

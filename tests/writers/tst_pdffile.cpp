@@ -97,7 +97,7 @@ private Q_SLOTS:
             const QString whole = QString::fromUtf8(text.toUtf8().constData(), text.toUtf8().size());
             QCOMPARE(again.getTitle(), whole);
             QCOMPARE(again.getMetaData("Job number"), whole);
-            QCOMPARE(samples::faultsOf(name), QString());
+            QCOMPARE(faultsOf(name), QString());
         }
     }
 
@@ -273,7 +273,7 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(name));
         file.write(QString());
         for (const QString& written : {path("kept.pdf"), name}) {
-            QCOMPARE(samples::faultsOf(written), QString());
+            QCOMPARE(faultsOf(written), QString());
             QVERIFY(outputOf("pdftotext", {written, "-"}).contains("Page 2, line 39"));
         }
     }
@@ -353,7 +353,7 @@ private Q_SLOTS:
         for (const QString& key : keys)
             QCOMPARE(file.getMetaData(key), "value of " + key);
         QCOMPARE(file.getTitle(), QString("Kept"));
-        QCOMPARE(samples::faultsOf(name), QString());
+        QCOMPARE(faultsOf(name), QString());
     }
 
     /// Files of other programs are read, changed and written twice.
@@ -377,7 +377,7 @@ private Q_SLOTS:
         for (const QString& title : {QString("First"), QString::fromUtf8("Zweiter, λ")}) {
             file.setTitle(title);
             file.write(QString());
-            QCOMPARE(samples::faultsOf(name), QString());
+            QCOMPARE(faultsOf(name), QString());
             PDFFile again;
             again.setFilename(name);
             QCOMPARE(again.getTitle(), title);

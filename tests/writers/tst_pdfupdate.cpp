@@ -155,7 +155,7 @@ private Q_SLOTS:
         QCOMPARE(added.count("/ID [<0011> <"), 1);
         QVERIFY(!added.contains("<0022>"));
 
-        QCOMPARE(samples::faultsOf(name), QString());
+        QCOMPARE(faultsOf(name), QString());
         const QString output = outputOf("pdfinfo", {"-enc", "UTF-8", name}).simplified();
         QVERIFY2(output.contains("Title: " + title + " Subject: S"), qPrintable(output));
         QString error;
@@ -208,7 +208,7 @@ private Q_SLOTS:
         QCOMPARE(end.count("%%EOF"), 1);
         QCOMPARE(end.contains("xpacket"), contents.contains("uiutils"));
         QCOMPARE(end.contains("/Own [(a)]"), contents.contains("/Own"));
-        QCOMPARE(samples::faultsOf(writeFile(path("b.pdf"), second)), QString());
+        QCOMPARE(faultsOf(writeFile(path("b.pdf"), second)), QString());
     }
 
     /// Each differs in one thing from what the library writes.

@@ -1,6 +1,7 @@
 #include "columns.h"
 #include "files.h"
 #include "filesizelimit.h"
+#include "pdfreading.h"
 
 #include "document/reporttemplate.h"
 #include "report/report.h"
@@ -20,14 +21,6 @@
 #include <memory>
 
 namespace {
-
-/// The text in the order in which it was drawn, page by page.
-QStringList pagesOf(const QString& path)
-{
-    QStringList pages = outputOf("pdftotext", {"-raw", path, "-"}).split('\f');
-    pages.removeLast();
-    return pages;
-}
 
 /// A page of a file as readers see it: words and pixels by position, in points.
 struct Sheet
@@ -134,12 +127,6 @@ QStringList outlineOf(const QString& path)
     };
     visit(json.value("outlines").toArray(), 0);
     return lines;
-}
-
-QString infoOf(const QString& path, const QString& key)
-{
-    const QRegularExpression line("^" + key + ":\\s+(.*)$", QRegularExpression::MultilineOption);
-    return line.match(outputOf("pdfinfo", {path})).captured(1);
 }
 
 const char* const statuses[] = {"pass", "marginal", "fail"};

@@ -1,5 +1,6 @@
 #include "writers/emitter/pdfdocument_p.h"
 
+#include "base/xmltext_p.h"
 #include "writers/emitter/fontprogram_p.h"
 #include "writers/emitter/pdfimage_p.h"
 #include "writers/emitter/pdfsyntax_p.h"
@@ -29,11 +30,15 @@ DocumentWriter::DocumentWriter(QIODevice* device, const DocumentSettings& settin
     , m_pageTree(m_output.reserve())
     , m_resources(m_output.reserve())
 {
+    DocumentInformation& about = m_settings.information;
+    // What XML cannot hold would make the packet say something else than the entries.
+    for (QString* text : {&about.title, &about.author, &about.subject, &about.creator, &about.producer})
+        *text = markupText(*text);
     if (settings.isTagged)
         m_structure.emplace(m_output);
     if (settings.isArchive) {
-        m_settings.information.archivePart = 2;
-        m_settings.information.archiveConformance = QStringLiteral("U");
+        about.archivePart = 2;
+        about.archiveConformance = QStringLiteral("U");
     }
 }
 
@@ -150,7 +155,8 @@ int DocumentWriter::writeProfile()
 
 QByteArray DocumentWriter::catalog(const QVector<OutlineEntry>& outline)
 {
-    QByteArray text = "<</Type/Catalog/Pages " + referenceTo(m_pageTree) + "/ViewerPreferences<</DisplayDocTitle true>>";
+    QByteArray text
+            = "<</Type/Catalog/Pages " + referenceTo(m_pageTree) + "/ViewerPreferences<</DisplayDocTitle true>>";
     const QString& language = m_settings.language;
     if (!language.isEmpty())
         text += "/Lang" + textString(language);

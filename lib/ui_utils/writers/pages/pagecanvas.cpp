@@ -7,11 +7,26 @@
 #include "writers/pages/pagestyle_p.h"
 #include "writers/pages/statusicons_p.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QImage>
 #include <QPainter>
 
 namespace uiutils {
+
+namespace {
+
+/// "Bypass" does not say "Pass".
+bool hasWord(const QString& text, const QString& word)
+{
+    const auto isLetter = [&](int at) { return at >= 0 && at < text.size() && text.at(at).isLetterOrNumber(); };
+    int at = text.indexOf(word, 0, Qt::CaseInsensitive);
+    while (at >= 0 && (isLetter(at - 1) || isLetter(at + word.size())))
+        at = text.indexOf(word, at + 1, Qt::CaseInsensitive);
+    return at >= 0;
+}
+
+} // namespace
 
 PageCanvas::PageCanvas(pdf::DocumentWriter& writer, const PageStyle& style)
     : m_writer(writer)
@@ -128,7 +143,7 @@ void PageCanvas::drawStatusIcon(int status, const QRectF& place)
 void PageCanvas::drawStatusWord(int status, const QString& beside, const QRectF& icon)
 {
     const QString word = statusWord(status);
-    if (!beside.contains(word, Qt::CaseInsensitive))
+    if (!hasWord(beside, word))
         drawInvisibly(m_style.body, word + QLatin1Char(' '), icon);
 }
 
@@ -160,7 +175,7 @@ void PageCanvas::flush()
 
 void PageCanvas::paint(const QRectF& place, const std::function<void(QPainter&)>& draw)
 {
-    const auto mark = m_structure.figure(QString());
+    const auto mark = m_structure.figure(QCoreApplication::translate("ReportPDF", "Drawing"));
     PagePainter device(m_writer, m_style.body, &m_missing, m_style.points(1), place);
     QPainter painter(&device);
     QFont font(m_style.body.font(), &device);

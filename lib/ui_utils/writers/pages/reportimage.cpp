@@ -4,6 +4,8 @@
 #include "writers/pages/pageimage_p.h"
 #include "writers/pages/pagestyle_p.h"
 
+#include <QCoreApplication>
+
 ReportImage::ReportImage(const QByteArray& encoded, qreal pixelsOfAPoint)
     : m_encoded(encoded)
     , m_naturalSize(QSizeF(uiutils::encodedSize(encoded)) / qMax(pixelsOfAPoint, 0.01))
@@ -34,6 +36,6 @@ ReportItem::Portion ReportImage::split(const Position& begin, qreal room, bool i
 void ReportImage::draw(uiutils::PageCanvas& canvas, const Portion& portion, const QPointF& topLeft) const
 {
     // Below a heading there is less space than on an empty page.
-    const auto mark = canvas.structure().figure(QString());
+    const auto mark = canvas.structure().figure(QCoreApplication::translate("ReportPDF", "Plot"));
     canvas.drawImage(m_encoded, QRectF(topLeft, m_size.scaled({m_size.width(), portion.height}, Qt::KeepAspectRatio)));
 }

@@ -19,6 +19,14 @@ bool isSameGlyph(const QList<QGlyphRun>& a, const QList<QGlyphRun>& b)
             && a.constFirst().positions() == b.constFirst().positions();
 }
 
+/// What a file may say that a glyph stands for.
+QString glyphText(const QString& text)
+{
+    const bool isCharacter = text.isValidUtf16() && !text.contains(QChar(0)) && !text.contains(QChar(0xfeff))
+            && !text.contains(QChar(0xfffe));
+    return isCharacter ? text : QString(QChar(QChar::ReplacementCharacter));
+}
+
 bool isPlainGlyph(quint32 glyph)
 {
     return glyph > 0 && glyph <= 0xffff;
@@ -53,7 +61,8 @@ void ShapedText::draw(const QTextLayout& layout, int line, const QPointF& baseLi
     const QVector<Cluster> clusters = clustersOf(layout, shaped);
     for (int begin = 0, end = 0; begin < clusters.size(); begin = end) {
         // What is read from right to left is marked letter by letter: readers reverse whole words of it.
-        const auto isLetter = [&](int i) { return !clusters.at(i).isRightToLeft && !clusters.at(i).text.at(0).isSpace(); };
+        const auto isLetter
+                = [&](int i) { return !clusters.at(i).isRightToLeft && !clusters.at(i).text.at(0).isSpace(); };
         end = begin + 1;
         while (isLetter(begin) && end < clusters.size() && isLetter(end))
             ++end;
@@ -82,6 +91,10 @@ QVector<ShapedText::Cluster> ShapedText::clustersOf(const QTextLayout& layout, c
 
 void ShapedText::drawWord(const QVector<Cluster>& clusters, int begin, int end)
 {
+    if (isReversedLigature(clusters.at(begin))) {
+        drawReversedLigature(clusters.at(begin));
+        return;
+    }
     bool isAsRead = true;
     QString text;
     for (int i = begin; i < end; ++i) {
@@ -96,6 +109,14 @@ void ShapedText::drawWord(const QVector<Cluster>& clusters, int begin, int end)
         m_writer.content().end();
 }
 
+bool ShapedText::isReversedLigature(const Cluster& cluster) const
+{
+    return cluster.isRightToLeft && cluster.text.size() > 1 && cluster.runs.size() == 1
+            && cluster.runs.constFirst().glyphIndexes().size() == 1
+            && isPlainGlyph(cluster.runs.constFirst().glyphIndexes().constFirst())
+            && std::all_of(cluster.text.cbegin(), cluster.text.cend(), [](QChar c) { return c.isLetter(); });
+}
+
 /// Whether readers get the text from the glyphs.
 bool ShapedText::note(const Cluster& cluster)
 {
@@ -103,16 +124,41 @@ bool ShapedText::note(const Cluster& cluster)
     for (const QGlyphRun& run : cluster.runs)
         glyphs += run.glyphIndexes().size();
     const bool isOneToOne = glyphs == cluster.text.size();
-    bool isAsRead = glyphs > 0;
+    bool isAsRead = glyphs > 0 && (glyphs == 1 || isOneToOne);
     int at = 0;
     for (const QGlyphRun& run : cluster.runs) {
         pdf::EmbeddedFont* const font = m_writer.font(run.rawFont());
+        const quint32 blank = run.rawFont().glyphIndexesForString(QStringLiteral(" ")).value(0);
         for (const quint32 glyph : run.glyphIndexes()) {
-            const QString own = glyphs == 1 ? cluster.text : QString(cluster.text.at(qMin(at++, cluster.text.size() - 1)));
-            isAsRead = font && isPlainGlyph(glyph) && font->use(quint16(glyph), own) && (glyphs == 1 || isOneToOne) && isAsRead;
+            const QString text
+                    = glyphs == 1 ? cluster.text : QString(cluster.text.at(qMin(at++, cluster.text.size() - 1)));
+            // Characters that nothing is drawn for have the glyph of the blank, which would then be read as one of
+            // them.
+            const QString own = glyph == blank ? QStringLiteral(" ") : glyphText(text);
+            isAsRead = font && isPlainGlyph(glyph) && font->use(quint16(glyph), own) && own == text && isAsRead;
         }
     }
     return isAsRead;
+}
+
+/// Readers take the letters of one glyph from left to right, also where the others are taken from right to left. So
+/// each gets a place of its own: the last one that of the glyph, and the ones before it blanks over its right part.
+void ShapedText::drawReversedLigature(const Cluster& cluster)
+{
+    const QGlyphRun& run = cluster.runs.constFirst();
+    const int letters = cluster.text.size();
+    const qreal width = run.rawFont().advancesForGlyphIndexes(run.glyphIndexes()).constFirst().x() / letters;
+    const QPointF left = m_origin + run.positions().constFirst();
+    pdf::PageContent& content = m_writer.content();
+    note(cluster);
+    for (int i = 0; i < letters; ++i) {
+        content.beginText(cluster.text.at(i));
+        if (i + 1 < letters)
+            drawPlaceholder(left + QPointF(width * (letters - 1 - i), 0), width);
+        else
+            drawCluster(cluster);
+        content.end();
+    }
 }
 
 void ShapedText::drawCluster(const Cluster& cluster)
@@ -141,8 +187,8 @@ void ShapedText::drawRun(const QGlyphRun& run, const QString& text)
     }
 }
 
-/// Readers copy text only from where a glyph is.
-void ShapedText::drawPlaceholder(const QPointF& at)
+/// Readers copy text only from where a glyph is. Without a width, the blank has its own.
+void ShapedText::drawPlaceholder(const QPointF& at, qreal width)
 {
     pdf::EmbeddedFont* const font = m_writer.font(m_font.raw());
     const PageFont::Glyph& blank = m_font.glyph(QLatin1Char(' '));
@@ -150,7 +196,7 @@ void ShapedText::drawPlaceholder(const QPointF& at)
         return;
     font->use(blank.index, QLatin1Char(' '));
     m_row = {font, m_font.size(), {blank.index}, {}};
-    m_writer.content().showInvisibly(m_row, at, blank.advance, blank.advance);
+    m_writer.content().showInvisibly(m_row, at, blank.advance, width > 0 ? width : blank.advance);
 }
 
 void ShapedText::drawPicture(const QRawFont& raw, quint32 glyph, const QPointF& at)

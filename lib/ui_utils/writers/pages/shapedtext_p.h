@@ -52,10 +52,12 @@ private:
     QVector<Cluster> clustersOf(const QTextLayout& layout, const QTextLine& line) const;
     void drawWord(const QVector<Cluster>& clusters, int begin, int end);
     bool note(const Cluster& cluster);
+    bool isReversedLigature(const Cluster& cluster) const;
+    void drawReversedLigature(const Cluster& cluster);
     void drawCluster(const Cluster& cluster);
     void drawRun(const QGlyphRun& run, const QString& text);
     void drawPicture(const QRawFont& raw, quint32 glyph, const QPointF& at);
-    void drawPlaceholder(const QPointF& at);
+    void drawPlaceholder(const QPointF& at, qreal width = 0);
 
     pdf::DocumentWriter& m_writer;
     const PageFont& m_font;
