@@ -38,7 +38,8 @@ class PdfObjects
 public:
     explicit PdfObjects(const QString& path)
     {
-        const QString json = outputOf("qpdf", {"--json=2", "--json-stream-data=inline", "--decode-level=generalized", path});
+        const QString json = outputOf(
+                "qpdf", {"--json=2", "--json-stream-data=inline", "--decode-level=generalized", path});
         m_objects = QJsonDocument::fromJson(json.toUtf8()).object().value("qpdf").toArray().at(1).toObject();
     }
 

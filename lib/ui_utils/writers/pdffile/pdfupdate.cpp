@@ -1,5 +1,6 @@
 #include "writers/pdffile/pdfupdate_p.h"
 
+#include "base/xmltext_p.h"
 #include "writers/emitter/documentinformation_p.h"
 #include "writers/emitter/xmp_p.h"
 #include "writers/pdffile/pdfdate_p.h"
@@ -129,7 +130,8 @@ public:
 
     bool setEntry(const QString& key, const QString& value, QString* /*error*/) override
     {
-        m_tail.information.set(key.toUtf8(), stringSource(value));
+        // Without what the XMP packet, which says the same, cannot hold.
+        m_tail.information.set(key.toUtf8(), stringSource(m_tail.metadataNumber > 0 ? markupText(value) : value));
         return true;
     }
 
