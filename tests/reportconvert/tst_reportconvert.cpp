@@ -15,6 +15,7 @@
 #include <fcntl.h>
 #include <memory>
 #include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {

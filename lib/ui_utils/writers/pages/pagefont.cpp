@@ -2,6 +2,7 @@
 
 #include "writers/emitter/fontmetrics_p.h"
 #include "writers/emitter/fontprogram_p.h"
+#include "writers/emitter/fonttable_p.h"
 #include "writers/pages/fontchoice_p.h"
 
 #include <QFontMetricsF>
@@ -56,6 +57,14 @@ bool isSetByItself(QChar c)
     }
 }
 
+bool isBoldFace(const QRawFont& raw)
+{
+    // The least of the table's weights that counts as bold, and where it has the weight.
+    constexpr int leastBold = 600;
+    constexpr int place = 4;
+    return pdf::FontTable(raw.fontTable("OS/2")).u16(place) >= leastBold;
+}
+
 } // namespace
 
 PageFont::PageFont(const QFont& font, QPaintDevice* device)
@@ -68,6 +77,7 @@ PageFont::PageFont(const QFont& font, QPaintDevice* device)
     m_font.setHintingPreference(QFont::PreferNoHinting);
     m_raw = QRawFont::fromFont(m_font);
     m_isEmbeddable = pdf::embeddingOf(m_raw) == pdf::Embedding::Allowed;
+    m_isThickened = m_font.bold() && !isBoldFace(m_raw);
     const QFontMetricsF metrics(m_font, device);
     m_ascent = metrics.ascent();
     m_lineHeight = std::ceil(metrics.height());
@@ -120,6 +130,11 @@ const PageFont::Block& PageFont::loadBlock(uchar row) const
         (*block)[size_t(cells.at(i))] = {glyphs.at(i), 0, float(widths.at(i) * m_thousandth)};
     m_blocks[row] = std::move(block);
     return *m_blocks[row];
+}
+
+bool PageFont::isThickened(const QRawFont& raw) const
+{
+    return raw == m_raw ? m_isThickened : m_font.bold() && !isBoldFace(raw);
 }
 
 /// A font of pictures is not: pages show its glyphs as pictures.

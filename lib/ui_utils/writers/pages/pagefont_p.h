@@ -66,8 +66,9 @@ public:
     }
 
     bool isEmbeddable() const { return m_isEmbeddable; }
-    /// Whether a face of such a font is to be thickened, because it is not bold as asked.
-    bool isThickened(const QRawFont& raw) const { return m_font.bold() && raw.weight() < QFont::DemiBold; }
+    /// Whether a face that shows texts of the font is to be thickened, because it is not bold as asked. Qt itself says of
+    /// any face that it is what was asked for.
+    bool isThickened(const QRawFont& raw) const;
     /// Has fonts that cannot be embedded give way to others. Returns whether there is another one for a character of the
     /// layout, so that its text must be laid out again with font().
     bool replaceRefused(const QTextLayout& layout) const;
@@ -92,6 +93,7 @@ private:
     mutable QFont m_font;
     QRawFont m_raw;
     bool m_isEmbeddable;
+    bool m_isThickened;
     qreal m_ascent;
     qreal m_lineHeight;
     mutable std::array<std::unique_ptr<Block>, 256> m_blocks;
