@@ -1,7 +1,5 @@
 #include "writers/emitter/pdfsyntax_p.h"
 
-#include <QtEndian>
-
 #include <cmath>
 
 namespace uiutils::pdf {
@@ -32,10 +30,12 @@ private:
     int m_begin = int(sizeof m_text);
 };
 
+/// With the mark of its order, and lone surrogates replaced.
 QByteArray utf16(const QString& text)
 {
+    const QByteArray utf8 = text.toUtf8();
     QByteArray bytes("\xfe\xff");
-    for (const QChar c : text) {
+    for (const QChar c : QString::fromUtf8(utf8.constData(), utf8.size())) {
         bytes += char(c.row());
         bytes += char(c.cell());
     }

@@ -18,7 +18,7 @@ void appendNumbers(QByteArray& bytes, std::initializer_list<qreal> numbers);
 void appendInteger(QByteArray& bytes, qint64 number);
 void appendReference(QByteArray& bytes, int object);
 
-/// A text for readers: of a title, an alternative, a date.
+/// A text for readers: of a title, an alternative, a date. Lone surrogates are replaced.
 QByteArray textString(const QString& text);
 /// Any bytes.
 QByteArray byteString(const QByteArray& bytes);

@@ -2,6 +2,7 @@
 
 #include "base/xmltext_p.h"
 #include "writers/emitter/documentinformation_p.h"
+#include "writers/emitter/pdfsyntax_p.h"
 #include "writers/emitter/xmp_p.h"
 #include "writers/pdffile/pdfdate_p.h"
 #include "writers/pdffile/pdfencoding_p.h"
@@ -15,15 +16,6 @@
 namespace uiutils::pdf {
 
 namespace {
-
-QByteArray stringSource(const QString& text)
-{
-    if (!isPlain(text)) {
-        const QVector<ushort> units = utf16(text);
-        return "<feff" + QByteArray(reinterpret_cast<const char*>(units.constData()), units.size() * 2).toHex() + '>';
-    }
-    return '(' + text.toLatin1().replace('\\', "\\\\").replace('(', "\\(").replace(')', "\\)") + ')';
-}
 
 /// Empty if the value is not a string.
 QString textIn(const Dictionary& information, const QByteArray& key)
@@ -131,7 +123,7 @@ public:
     bool setEntry(const QString& key, const QString& value, QString* /*error*/) override
     {
         // Without what the XMP packet, which says the same, cannot hold.
-        m_tail.information.set(key.toUtf8(), stringSource(m_tail.metadataNumber > 0 ? markupText(value) : value));
+        m_tail.information.set(key.toUtf8(), textString(m_tail.metadataNumber > 0 ? markupText(value) : value));
         return true;
     }
 
