@@ -75,6 +75,7 @@ private:
     QTransform toPage() const { return state->transform() * m_base; }
     void setClip();
     void fillPath(const QPainterPath& path, const QBrush& brush);
+    void drawOutline(const QPainterPath& path);
     void drawPicture(const QRectF& place, const std::function<void(QPainter&)>& draw);
 
     pdf::DocumentWriter& m_writer;
@@ -113,6 +114,11 @@ void PagePainter::Engine::fillPath(const QPainterPath& path, const QBrush& brush
 void PagePainter::Engine::drawPath(const QPainterPath& path)
 {
     fillPath(path, state->brush());
+    drawOutline(path);
+}
+
+void PagePainter::Engine::drawOutline(const QPainterPath& path)
+{
     const QPen pen = state->pen();
     if (pen.style() == Qt::NoPen)
         return;
@@ -125,23 +131,15 @@ void PagePainter::Engine::drawPath(const QPainterPath& path)
 
 void PagePainter::Engine::drawPolygon(const QPointF* points, int count, PolygonDrawMode mode)
 {
-    if (count == 0)
-        return;
     QPainterPath path;
     path.addPolygon(QPolygonF(QVector<QPointF>(points, points + count)));
-    if (mode != PolylineMode)
-        path.closeSubpath();
-    path.setFillRule(mode == WindingMode ? Qt::WindingFill : Qt::OddEvenFill);
-    if (mode != PolylineMode) {
-        drawPath(path);
+    if (mode == PolylineMode) {
+        drawOutline(path);
         return;
     }
-    const QPen pen = state->pen();
-    if (pen.style() == Qt::NoPen)
-        return;
-    QPainterPathStroker stroker(pen);
-    stroker.setWidth(qMax(pen.widthF(), 0.25));
-    fillPath(stroker.createStroke(path), pen.brush());
+    path.closeSubpath();
+    path.setFillRule(mode == WindingMode ? Qt::WindingFill : Qt::OddEvenFill);
+    drawPath(path);
 }
 
 /// `draw` paints in the painter's coordinates.

@@ -129,7 +129,8 @@ bool ShapedText::note(const Cluster& cluster)
     for (const QGlyphRun& run : cluster.runs) {
         pdf::EmbeddedFont* const font = m_writer.font(run.rawFont());
         const quint32 blank = run.rawFont().glyphIndexesForString(QStringLiteral(" ")).value(0);
-        for (const quint32 glyph : run.glyphIndexes()) {
+        const QVector<quint32> indexes = run.glyphIndexes();
+        for (const quint32 glyph : indexes) {
             const QString text
                     = glyphs == 1 ? cluster.text : QString(cluster.text.at(qMin(at++, cluster.text.size() - 1)));
             // Characters that nothing is drawn for have the glyph of the blank, which would then be read as one of
