@@ -54,6 +54,14 @@ void writeText(QXmlStreamWriter& writer, QString& output, const QString& text)
     output += text;
 }
 
+void appendText(QString& output, const QString& text)
+{
+    if (isDirect(text))
+        output += text;
+    else
+        output += markupText(text).toHtmlEscaped();
+}
+
 void makeRoom(QString& output, qint64 characters)
 {
     const qint64 needed = output.size() + std::min(characters, mostRoom);

@@ -17,6 +17,9 @@ void writeAttribute(QXmlStreamWriter& writer, QString& output, const QString& na
 /// Writes text, which may contain anything; see markupText().
 void writeText(QXmlStreamWriter& writer, QString& output, const QString& text);
 
+/// Appends text where no tag is open; it may contain anything, see markupText().
+void appendText(QString& output, const QString& text);
+
 /// Reserves space in `output` for `characters` more. The capacity grows by at least half, so that many calls stay
 /// cheap.
 void makeRoom(QString& output, qint64 characters);

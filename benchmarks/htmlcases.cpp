@@ -76,9 +76,9 @@ QVector<Result> htmlCases(int runs)
     qputenv("UIUTILS_ROOT", QFile::encodeName(root.path()));
     installIcons(root.path());
     QVector<Result> results;
-    const Writer withItems {QStringLiteral("HTML page and report items"), pageWithItems, withoutTimestamp};
+    const Writer withItems {QStringLiteral("HTML page and report items"), pageWithItems, withoutTimestamp, 0.65};
     const Writer plain {QStringLiteral("HTML page"), [](const ReportTemplate& report) { return page(report, nullptr); },
-            withoutTimestamp};
+            withoutTimestamp, 0.65};
     for (const int rows : {10'000, 100'000}) {
         results += writerCases(plain, runs, rows);
         results += writerCases(withItems, runs, rows).constFirst();

@@ -34,6 +34,11 @@ double heapBytes()
     return double(heap.uordblks) + double(heap.hblkhd);
 }
 
+qint64 peakHere()
+{
+    return statusBytes("VmHWM");
+}
+
 qint64 growthHere(const std::function<void()>& run)
 {
     QFile peak(QStringLiteral("/proc/self/clear_refs"));

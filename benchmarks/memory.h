@@ -13,7 +13,10 @@ double heapBytes();
 /// the system does not tell.
 qint64 peakGrowth(const std::function<void()>& run);
 
-/// The same in this process.
+/// The most memory that this process has had resident since its start, in bytes; -1 when the system does not tell.
+qint64 peakHere();
+
+/// The growth of peakGrowth() in this process.
 qint64 growthHere(const std::function<void()>& run);
 
 /// The same behind `prepare`, which a child that shares no code pages with anybody yet may need.

@@ -230,13 +230,35 @@ Result richTextCase(int runs, int rows, const QString& path)
             QStringLiteral("ms CPU"), timing.ours, timing.floor, 0};
 }
 
-/// In a process that has printed nothing yet, and shares no memory with this one.
-double firstGrowth()
+/// The memory that a process says it took which has done nothing else, and shares none with this one.
+double memoryOfProcess(const char* argument)
 {
     QProcess fresh;
-    fresh.start(QCoreApplication::applicationFilePath(), {QLatin1String(firstFileArgument)});
+    fresh.start(QCoreApplication::applicationFilePath(), {QLatin1String(argument)});
     fresh.waitForFinished(-1);
     return fresh.readAllStandardOutput().trimmed().toDouble();
+}
+
+constexpr int few = 10'000;
+constexpr int many = 100'000;
+constexpr int most = 1'000'000;
+
+/// One run each: what is of interest is whether the memory stays.
+QVector<Result> longestCases(const QString& path)
+{
+    QVector<Result> results;
+    const Items handful(tables);
+    const Items items(most);
+    for (const bool isTagged : {false, true}) {
+        const double growth = double(peakGrowth([&] { printItems(handful, path, isTagged); },
+                                      [&] { printItems(items, path, isTagged); }))
+                / 1e6;
+        results.append({QStringLiteral("memory growth of %1 pages of %L2 rows / size of the file")
+                                .arg(isTagged ? QStringLiteral("tagged") : QStringLiteral("untagged"))
+                                .arg(most),
+                QStringLiteral("MB"), growth, double(QFile(path).size()) / 1e6, 0});
+    }
+    return results;
 }
 
 } // namespace
@@ -249,6 +271,16 @@ int printFirstFile()
     return 0;
 }
 
+int writeWholeDocument()
+{
+    const QTemporaryDir folder;
+    ReportTemplate report;
+    buildTables(report, many, 0);
+    writeDocument(report, folder.filePath(QStringLiteral("whole.pdf")));
+    printf("%lld\n", peakHere());
+    return 0;
+}
+
 QVector<Result> pdfCases(int runs)
 {
     const QTemporaryDir folder;
@@ -256,8 +288,6 @@ QVector<Result> pdfCases(int runs)
     qputenv("UIUTILS_ROOT", QFile::encodeName(folder.path()));
     installIcons(folder.path());
 
-    constexpr int few = 10'000;
-    constexpr int many = 100'000;
     QVector<Result> results;
     for (const bool isTagged : {false, true}) {
         const QVector<Result> ofFew = printCases(runs, few, 3, isTagged, path);
@@ -272,7 +302,10 @@ QVector<Result> pdfCases(int runs)
     results.append({QStringLiteral("images in a file of 10,000 failed rows / of 10"), QStringLiteral("images"),
             double(imagesOfMany), double(imagesIn(path)), 1});
     results.append({QStringLiteral("memory of a process's first file, 10 rows / 8 MB"), QStringLiteral("MB"),
-            firstGrowth() / 1e6, 8, 1});
+            memoryOfProcess(firstFileArgument) / 1e6, 8, 1});
+    results.append({QStringLiteral("memory of a process that builds and prints 100,000 rows / 120 MB"),
+            QStringLiteral("MB"), memoryOfProcess(wholeDocumentArgument) / 1e6, 120, 1});
+    results += longestCases(path);
     results += documentCases(runs, few, path);
     results += documentCases(runs, many, path);
     results.append(richTextCase(runs, few, path));

@@ -21,6 +21,8 @@ struct Writer
     std::function<QString(const ReportTemplate& report)> write;
     /// The part of the text that is the same on every run.
     std::function<QString(const QString& text)> lasting;
+    /// How many times as long as the stream writer it may take.
+    double limit = 1.3;
 };
 
 /// Time of the writer against a bare stream writer that emits the same tokens, and the peak memory that the text takes

@@ -20,7 +20,9 @@ QString numberedKey(QLatin1String family, int number)
 
 QString textOf(const QJsonValue& value)
 {
-    return value.isString() ? value.toString() : value.toVariant().toString();
+    if (value.isString())
+        return value.toString();
+    return value.isUndefined() ? QString() : value.toVariant().toString();
 }
 
 QString shownTextOf(const QJsonValue& value)

@@ -3,6 +3,7 @@
 #include "document/reportkeys_p.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace uiutils {
 
@@ -29,38 +30,24 @@ int childNumber(const QString& key, QLatin1String word)
     return isNumber && number >= 0 && childKey(word, number) == key ? number : -1;
 }
 
-/// Orders numbers as their decimal texts: 1, 10, 100, 11, 2.
-struct DecimalText
+/// A number by which the decimal texts of numbers are ordered: 1, 10, 100, 11, 2. Those of 1, 10 and 100 are equal.
+qint64 decimalOrder(int number)
 {
-    explicit DecimalText(int n)
-        : padded(n)
-        , number(n)
-    {
-        while (padded != 0 && padded < 1000 * 1000 * 1000)
-            padded *= 10;
-    }
-    bool operator<(const DecimalText& other) const
-    {
-        return padded != other.padded ? padded < other.padded : number < other.number;
-    }
-
-    qint64 padded;
-    int number;
-};
+    qint64 order = number;
+    while (order != 0 && order < 1000 * 1000 * 1000)
+        order *= 10;
+    return order;
+}
 
 } // namespace
 
-OpenNode::OpenNode(const QJsonObject& keys, int level)
+OpenNode::OpenNode(const QJsonObject& fields, int level)
     : m_level(level)
-    , m_keys(keys)
+    , m_nodeType(fields.value(keys::nodeType).toString())
+    , m_keys(fields)
 {
-    for (auto it = keys.begin(); it != keys.end(); ++it)
+    for (auto it = fields.begin(); it != fields.end(); ++it)
         count(it.key());
-}
-
-QString OpenNode::nodeType() const
-{
-    return m_keys.value(keys::nodeType).toString();
 }
 
 void OpenNode::set(const QString& key, const QJsonValue& value)
@@ -72,6 +59,8 @@ void OpenNode::set(const QString& key, const QJsonValue& value)
     if (!m_keys.contains(key))
         count(key);
     m_keys.insert(key, value);
+    if (key == keys::nodeType)
+        m_nodeType = value.toString();
 }
 
 void OpenNode::append(Family family, const QJsonValue& child, int height)
@@ -87,7 +76,7 @@ void OpenNode::append(Family family, const QJsonValue& child, int height)
             return;
         }
     }
-    children.waiting.append({number, child});
+    children.waiting.push_back({number, child});
     ++children.keyCount;
 }
 
@@ -96,25 +85,33 @@ QJsonObject OpenNode::take()
     for (int family = 0; family < FamilyCount; ++family) {
         Children children;
         std::swap(children, m_children[family]);
-        QVector<Child>& waiting = children.waiting;
         if (children.isNumberedByArrival)
-            renumber(waiting);
-        else
-            std::sort(waiting.begin(), waiting.end(),
-                    [](const Child& a, const Child& b) { return DecimalText(a.number) < DecimalText(b.number); });
-        for (const Child& child : qAsConst(waiting))
-            m_keys.insert(childKey(familyWord(family), child.number), child.value);
+            renumber(children.waiting);
+        insertByKey(familyWord(family), children.waiting);
     }
     QJsonObject node;
     node.swap(m_keys);
     return node;
 }
 
-void OpenNode::renumber(QVector<Child>& children)
+/// In the order of the keys, so that none that is stored already has to move.
+void OpenNode::insertByKey(QLatin1String word, const std::vector<Child>& children)
+{
+    std::vector<std::pair<qint64, const Child*>> ordered;
+    ordered.reserve(children.size());
+    for (const Child& child : children)
+        ordered.emplace_back(decimalOrder(child.number), &child);
+    // The children's places in memory have the order of their numbers.
+    std::sort(ordered.begin(), ordered.end());
+    for (const auto& entry : ordered)
+        m_keys.insert(childKey(word, entry.second->number), entry.second->value);
+}
+
+void OpenNode::renumber(std::vector<Child>& children)
 {
     int number = 1;
     // There are nine numbers of one digit, 90 of two, 900 of three.
-    while (9 * number < children.size())
+    while (9 * number < int(children.size()))
         number *= 10;
     for (Child& child : children)
         child.number = number++;
@@ -137,7 +134,7 @@ QJsonValue* OpenNode::waitingChild(const QString& key)
         const int number = childNumber(key, familyWord(family));
         if (number < 0 || m_children[family].isNumberedByArrival)
             continue;
-        QVector<Child>& waiting = m_children[family].waiting;
+        std::vector<Child>& waiting = m_children[family].waiting;
         const auto it = std::lower_bound(
                 waiting.begin(), waiting.end(), number, [](const Child& child, int n) { return child.number < n; });
         return it != waiting.end() && it->number == number ? &it->value : nullptr;

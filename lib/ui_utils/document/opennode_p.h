@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QJsonObject>
-#include <QVector>
 
 #include <array>
+#include <vector>
 
 namespace uiutils {
 
@@ -19,14 +19,14 @@ public:
     enum Family { Row, Section, Table, FamilyCount };
 
     /// `level` is the number of nodes of its report that enclose it.
-    explicit OpenNode(const QJsonObject& keys = QJsonObject(), int level = 0);
+    explicit OpenNode(const QJsonObject& fields = QJsonObject(), int level = 0);
 
     int level() const { return m_level; }
     /// How deep its nodes and rows are nested; 0 if it has none.
     int height() const { return m_height; }
 
     /// The value of the key "node_type".
-    QString nodeType() const;
+    const QString& nodeType() const { return m_nodeType; }
 
     /// Sets a key. Replaces what was stored under it, a child included.
     void set(const QString& key, const QJsonValue& value);
@@ -57,15 +57,17 @@ private:
         /// Whether the numbers of the waiting children are provisional.
         bool isNumberedByArrival = false;
         /// In ascending order of their numbers, without duplicates, none of them a key of m_keys.
-        QVector<Child> waiting;
+        std::vector<Child> waiting;
     };
 
-    static void renumber(QVector<Child>& children);
+    void insertByKey(QLatin1String word, const std::vector<Child>& children);
+    static void renumber(std::vector<Child>& children);
     void count(const QString& key);
     QJsonValue* waitingChild(const QString& key);
 
     int m_level;
     int m_height = 0;
+    QString m_nodeType;
     QJsonObject m_keys;
     std::array<Children, FamilyCount> m_children;
 };

@@ -16,7 +16,6 @@
 #include <limits>
 
 using uiutils::Alignment;
-using uiutils::beginLine;
 using uiutils::markupText;
 using uiutils::Status;
 
@@ -25,46 +24,46 @@ namespace {
 /// On the screens that browsers assume.
 constexpr qreal pixelsOfAPoint = 96.0 / 72.0;
 
-// Shared for ever: a cell is written in well under a microsecond, so that copies of literals would be noticeable.
-struct Words
-{
-    const QString align = QStringLiteral("align");
-    const QString b = QStringLiteral("b");
-    const QString center = QStringLiteral("center");
-    const QString colspan = QStringLiteral("colspan");
-    const QString height = QStringLiteral("height");
-    const QString iconSize = QStringLiteral("20");
-    const QString img = QStringLiteral("img");
-    const QString left = QStringLiteral("left");
-    const QString right = QStringLiteral("right");
-    const QString src = QStringLiteral("src");
-    const QString td = QStringLiteral("td");
-    const QString th = QStringLiteral("th");
-    const QString tr = QStringLiteral("tr");
-    const QString width = QStringLiteral("width");
-};
-
 // Indentation levels of a table in the body.
 constexpr int rowLevel = 3;
 constexpr int cellLevel = 4;
 constexpr int contentLevel = 5;
 
-const Words& words()
+QString newLine(int level)
 {
-    static const Words words;
-    return words;
+    return QLatin1Char('\n') + QString(4 * level, QLatin1Char(' '));
 }
 
-const QString& alignmentName(int align)
+/// The markup around what a cell shows, by the codes of uiutils::Alignment. A cell is written in a fraction of a
+/// microsecond, most of which its elements would take if they were written one by one.
+struct CellMarkup
 {
-    switch (align) {
-    case Alignment::Left:
-        return words().left;
-    case Alignment::Right:
-        return words().right;
-    default:
-        return words().center;
+    CellMarkup()
+    {
+        const QLatin1String names[] = {QLatin1String("center"), QLatin1String("left"), QLatin1String("right")};
+        for (const int align : {Alignment::Center, Alignment::Left, Alignment::Right}) {
+            value[align] = newLine(cellLevel) + QStringLiteral("<td align=\"%1\">").arg(names[align]);
+            label[align] = value[align] + newLine(contentLevel) + QStringLiteral("<b>");
+        }
     }
+
+    QString value[3];
+    QString label[3];
+    QString valueEnd = QStringLiteral("</td>");
+    QString labelEnd = QStringLiteral("</b>") + newLine(cellLevel) + valueEnd;
+    QString row = newLine(rowLevel) + QStringLiteral("<tr>");
+    QString rowEnd = newLine(rowLevel) + QStringLiteral("</tr>");
+};
+
+const CellMarkup& cellMarkup()
+{
+    static const CellMarkup markup;
+    return markup;
+}
+
+int knownAlignment(int align)
+{
+    return align == Alignment::Left || align == Alignment::Right ? align : int(Alignment::Center);
 }
 
 QString pngSource(const QByteArray& png)
@@ -188,8 +187,8 @@ void HtmlStreamWriter::startTable(const QString& title, const QStringList& colum
     m_tableHasRows = false;
     if (!title.isEmpty()) {
         startTableRow();
-        writeStartElement(words().th);
-        writeAttribute(words().colspan, QString::number(qMax(1, m_columnCount)));
+        writeStartElement(QStringLiteral("th"));
+        writeAttribute(QStringLiteral("colspan"), QString::number(qMax(1, m_columnCount)));
         writeTextElement(QStringLiteral("i"), markupText(title));
         writeEndElement();
         writeEndElement();
@@ -207,7 +206,7 @@ void HtmlStreamWriter::writeHeaderRow(const QStringList& columnLabels, bool hasL
         return;
     startTableRow();
     if (hasLabelColumn)
-        writeTextElement(words().th, QString());
+        writeTextElement(QStringLiteral("th"), QString());
     int empty = 0;
     for (const QString& label : columnLabels) {
         if (label.isEmpty()) {
@@ -216,7 +215,7 @@ void HtmlStreamWriter::writeHeaderRow(const QStringList& columnLabels, bool hasL
         }
         writeEmptyHeader(empty);
         empty = 0;
-        writeTextElement(words().th, markupText(label));
+        writeTextElement(QStringLiteral("th"), markupText(label));
     }
     writeEmptyHeader(empty);
     writeEndElement();
@@ -227,9 +226,9 @@ void HtmlStreamWriter::writeEmptyHeader(int columns)
 {
     if (columns < 1)
         return;
-    writeStartElement(words().th);
+    writeStartElement(QStringLiteral("th"));
     if (columns > 1)
-        writeAttribute(words().colspan, QString::number(columns));
+        writeAttribute(QStringLiteral("colspan"), QString::number(columns));
     writeCharacters(QString());
     writeEndElement();
 }
@@ -237,7 +236,7 @@ void HtmlStreamWriter::writeEmptyHeader(int columns)
 void HtmlStreamWriter::startTableRow()
 {
     m_tableHasRows = true;
-    writeStartElement(words().tr);
+    writeStartElement(QStringLiteral("tr"));
 }
 
 void HtmlStreamWriter::expectRows(int rows, qint64 cells)
@@ -258,17 +257,39 @@ void HtmlStreamWriter::startRow()
     m_currentColumn = 0;
 }
 
+/// The first row of a table is an element of the stream writer, which then knows that the table has contents.
+void HtmlStreamWriter::startTextRow()
+{
+    m_rowHasText = true;
+    m_rowIsElement = !m_tableHasRows;
+    if (!m_rowIsElement) {
+        m_output += cellMarkup().row;
+        return;
+    }
+    startTableRow();
+    writeCharacters(QString());
+    setAutoFormatting(false);
+}
+
+void HtmlStreamWriter::endTextRow()
+{
+    if (!m_rowIsElement) {
+        m_output += cellMarkup().rowEnd;
+        return;
+    }
+    m_output += newLine(rowLevel);
+    writeEndElement();
+    setAutoFormatting(true);
+}
+
+/// False if no row is open or the row is full.
 bool HtmlStreamWriter::beginCell(int columns)
 {
     if (!m_rowOpen || m_currentColumn >= m_columnCount)
         return false;
-    if (m_currentColumn == 0) {
-        startTableRow();
-        setAutoFormatting(false);
-    }
+    if (m_currentColumn == 0 && m_keepsText)
+        startTextRow();
     m_currentColumn += columns;
-    beginLine(*this, m_output, cellLevel);
-    writeStartElement(words().td);
     return true;
 }
 
@@ -276,13 +297,11 @@ void HtmlStreamWriter::writeHeaderCell(const QString& text, int align)
 {
     if (!beginCell(1))
         return;
-    uiutils::writeAttribute(*this, m_output, words().align, alignmentName(align));
-    beginLine(*this, m_output, contentLevel);
-    writeStartElement(words().b);
-    uiutils::writeText(*this, m_output, text);
-    writeEndElement();
-    beginLine(*this, m_output, cellLevel);
-    writeEndElement();
+    if (m_rowHasText) {
+        m_output += cellMarkup().label[knownAlignment(align)];
+        uiutils::appendText(m_output, text);
+        m_output += cellMarkup().labelEnd;
+    }
     if (m_currentTable)
         m_currentTable->appendCell({text, Status::None, qint8(align), ReportTable::CellKind::RowLabel, 1});
 }
@@ -291,10 +310,12 @@ void HtmlStreamWriter::writeCell(const QString& text, int status, int align)
 {
     if (!beginCell(1))
         return;
-    uiutils::writeAttribute(*this, m_output, words().align, alignmentName(align));
-    writeStatusIcon(status);
-    uiutils::writeText(*this, m_output, text);
-    writeEndElement();
+    if (m_rowHasText) {
+        m_output += cellMarkup().value[knownAlignment(align)];
+        writeStatusIcon(status);
+        uiutils::appendText(m_output, text);
+        m_output += cellMarkup().valueEnd;
+    }
     if (m_currentTable)
         m_currentTable->appendCell({text, status, qint8(align), ReportTable::CellKind::Value, 1});
 }
@@ -304,10 +325,10 @@ void HtmlStreamWriter::writeEmptyCells(int columns)
     const int span = qMin(columns, m_columnCount - m_currentColumn);
     if (span <= 0 || !beginCell(span))
         return;
-    if (span > 1)
-        writeAttribute(words().colspan, QString::number(span));
-    writeCharacters(QString());
-    writeEndElement();
+    if (m_rowHasText) {
+        m_output += newLine(cellLevel)
+                + (span > 1 ? QStringLiteral("<td colspan=\"%1\"></td>").arg(span) : QStringLiteral("<td></td>"));
+    }
     if (m_currentTable)
         m_currentTable->appendCell(
                 {QString(), Status::None, Alignment::Center, ReportTable::CellKind::Value, quint16(span)});
@@ -315,13 +336,11 @@ void HtmlStreamWriter::writeEmptyCells(int columns)
 
 void HtmlStreamWriter::endRow()
 {
-    if (m_rowOpen && m_currentColumn > 0) {
-        beginLine(*this, m_output, rowLevel);
-        writeEndElement();
-        setAutoFormatting(true);
-    }
+    if (m_rowHasText)
+        endTextRow();
     if (m_currentTable)
         m_currentTable->endRow();
+    m_rowHasText = false;
     m_rowOpen = false;
     m_currentColumn = 0;
     clearText();
@@ -356,8 +375,8 @@ void HtmlStreamWriter::writeHeading(int level, const QString& text)
 
 void HtmlStreamWriter::writeImage(const QString& source)
 {
-    writeEmptyElement(words().img);
-    writeAttribute(words().src, markupText(source));
+    writeEmptyElement(QStringLiteral("img"));
+    writeAttribute(QStringLiteral("src"), markupText(source));
 }
 
 void HtmlStreamWriter::writeImageParagraph(const QByteArray& png, int pixels)
@@ -373,21 +392,18 @@ void HtmlStreamWriter::writeImageParagraph(const QByteArray& png, int pixels)
 void HtmlStreamWriter::writeStatusIcon(int status)
 {
     const QLatin1String path = uiutils::statusIconPath(status);
-    if (path.isEmpty())
-        return;
-    beginLine(*this, m_output, contentLevel);
-    writeEmptyElement(words().img);
-    uiutils::writeAttribute(*this, m_output, words().src, iconSource(path));
-    uiutils::writeAttribute(*this, m_output, words().width, words().iconSize);
-    uiutils::writeAttribute(*this, m_output, words().height, words().iconSize);
+    if (!path.isEmpty())
+        m_output += iconMarkup(path);
 }
 
-const QString& HtmlStreamWriter::iconSource(const QString& path)
+const QString& HtmlStreamWriter::iconMarkup(const QString& path)
 {
-    auto it = m_iconSources.find(path);
-    if (it == m_iconSources.end()) {
+    auto it = m_iconMarkups.find(path);
+    if (it == m_iconMarkups.end()) {
         const QByteArray& bytes = *m_iconCache.insert(path, uiutils::readIcon(path));
-        it = m_iconSources.insert(path, pngSource(bytes));
+        it = m_iconMarkups.insert(path,
+                newLine(contentLevel)
+                        + QStringLiteral("<img src=\"%1\" width=\"20\" height=\"20\"/>").arg(pngSource(bytes)));
     }
     return *it;
 }

@@ -78,6 +78,8 @@ public:
 
 private:
     void startTableRow();
+    void startTextRow();
+    void endTextRow();
     bool beginCell(int columns);
     void writeHeaderRow(const QStringList& columnLabels, bool hasLabelColumn);
     void writeEmptyHeader(int columns);
@@ -85,7 +87,7 @@ private:
     void append(ReportItem* item);
     void abandonTable();
     void clearText();
-    const QString& iconSource(const QString& path);
+    const QString& iconMarkup(const QString& path);
 
     QString m_output;
     QVariantMap m_attributes;
@@ -94,11 +96,14 @@ private:
     int m_currentColumn = 0;
     bool m_hasLabelColumn = true;
     bool m_rowOpen = false;
+    // Whether the open row has cells whose text is kept.
+    bool m_rowHasText = false;
+    bool m_rowIsElement = false;
     bool m_tableHasRows = false;
     bool m_keepsText = true;
     QMap<QString, QByteArray> m_iconCache;
-    // The same icons as URIs: encoding one for each of ten thousand cells would cost more than the cells.
-    QMap<QString, QString> m_iconSources;
+    // The same icons as elements: encoding one for each of ten thousand cells would cost more than the cells.
+    QMap<QString, QString> m_iconMarkups;
     QList<ReportItem*>* m_items;
     ReportTable* m_currentTable = nullptr;
 };
