@@ -40,6 +40,7 @@ saving      lib/ui_utils/report/saving      base contract core instrument docume
 module      lib/ui_utils/module             base contract LIBRARY
 
 host        lib/ui_host                     base contract core service module embedded bus
+paper       lib/ui_paper                    core pages
 
 plugin      qml/UiUtils                     LIBRARY base contract
 common      apps/common                     LIBRARY base contract embedded bus host

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "writers/pages/reportitem.h"
 #include "writers/pages/reportfield.h"
+#include "writers/pages/reportitem.h"
 
 #include <QImage>
 #include <QStringList>
