@@ -19,8 +19,6 @@ public:
     bool isCancelled = false;
 };
 
-} // namespace uiutils
-
 namespace {
 
 constexpr qreal pointsOfAnInch = 72;
@@ -126,7 +124,7 @@ private:
 
 ReportPaper::ReportPaper(QObject* parent)
     : QObject(parent)
-    , d(std::make_unique<uiutils::ReportPaperPrivate>())
+    , d(std::make_unique<ReportPaperPrivate>())
 {
 }
 
@@ -155,3 +153,5 @@ void ReportPaper::cancel()
 {
     d->isCancelled = true;
 }
+
+} // namespace uiutils

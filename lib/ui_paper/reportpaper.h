@@ -11,8 +11,8 @@ class QPrinter;
 class ReportPDF;
 
 namespace uiutils {
+
 class ReportPaperPrivate;
-}
 
 /// Prints the pages of a ReportPDF on paper, to a QPrinter that the application has set up: the layout is that of the
 /// files, on the printer's paper.
@@ -43,5 +43,7 @@ Q_SIGNALS:
     void progressChanged(int sheet, int sheetCount);
 
 private:
-    const std::unique_ptr<uiutils::ReportPaperPrivate> d;
+    const std::unique_ptr<ReportPaperPrivate> d;
 };
+
+} // namespace uiutils

@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using uiutils::ReportPaper;
+
 namespace {
 
 QStringList wordsOf(const QString& text)

@@ -13,6 +13,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using uiutils::ReportPainter;
+
 namespace {
 
 constexpr int pixelsOfAnInch = 144;

@@ -10,5 +10,5 @@ int main(int argc, char** argv)
     QPrinter printer;
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(QString::fromLocal8Bit(argv[1]));
-    return ReportPaper().print(ReportPDF(), printer) ? 0 : 1;
+    return uiutils::ReportPaper().print(ReportPDF(), printer) ? 0 : 1;
 }

@@ -17,8 +17,6 @@ public:
     std::optional<ReportLayout> layout;
 };
 
-} // namespace uiutils
-
 namespace {
 
 /// On less paper there is no room between the margins.
@@ -26,17 +24,17 @@ constexpr qreal leastSide = 200;
 
 QSizeF usablePaper(const QSizeF& paper, QPageLayout::Orientation orientation)
 {
-    return paper.isEmpty() ? uiutils::letterPaper(orientation) : paper.expandedTo({leastSide, leastSide});
+    return paper.isEmpty() ? letterPaper(orientation) : paper.expandedTo({leastSide, leastSide});
 }
 
 } // namespace
 
 ReportPainter::ReportPainter(const ReportPDF& pages, const QSizeF& paper)
-    : d(std::make_unique<uiutils::ReportPainterPrivate>())
+    : d(std::make_unique<ReportPainterPrivate>())
 {
     if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         return;
-    const uiutils::PageSettings settings = pages.d->settings();
+    const PageSettings settings = pages.d->settings();
     d->layout.emplace(settings.surroundings, pages.d->items, usablePaper(paper, settings.orientation));
 }
 
@@ -64,7 +62,9 @@ void ReportPainter::paint(QPainter& painter, int page)
     const qreal unit = 1 / d->layout->style().points(1);
     painter.save();
     painter.scale(unit, unit);
-    uiutils::PainterCanvas canvas(painter, d->layout->style());
+    PainterCanvas canvas(painter, d->layout->style());
     d->layout->draw(canvas, page);
     painter.restore();
 }
+
+} // namespace uiutils

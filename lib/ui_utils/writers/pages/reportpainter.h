@@ -10,8 +10,8 @@ class QPainter;
 class ReportPDF;
 
 namespace uiutils {
+
 class ReportPainterPrivate;
-}
 
 /// Paints the pages of a ReportPDF, on a screen or on paper: the same pages as in its files, without making a file.
 ///
@@ -40,5 +40,7 @@ public:
     void paint(QPainter& painter, int page);
 
 private:
-    const std::unique_ptr<uiutils::ReportPainterPrivate> d;
+    const std::unique_ptr<ReportPainterPrivate> d;
 };
+
+} // namespace uiutils
