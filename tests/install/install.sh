@@ -23,6 +23,10 @@ rm -rf "$prefix" "$work/consumer"
 "$cmake" --build "$work/consumer" >/dev/null
 "$work/consumer/consumer" "$prefix/share/uiutils/services"
 names=$("$work/consumer/onbus" "$prefix/share/uiutils/services" | sort)
+if [ -e "$work/consumer/onpaper" ]; then
+    "$work/consumer/onpaper" "$work/paper.pdf"
+    test -s "$work/paper.pdf"
+fi
 
 # pkg-config quotes no blanks, so this way gets a prefix without one.
 plain=$(mktemp -d)

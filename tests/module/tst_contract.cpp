@@ -8,6 +8,7 @@
 #include "local/uidatacontainer.h"
 #include "report/nsreport.h"
 #include "report/report.h"
+#include "report/reportpreview.h"
 #include "report/savedreports.h"
 #include "service/forgivingvalidator.h"
 #include "service/kivaggregatedata.h"
@@ -166,7 +167,7 @@ const QVector<Face>& faces()
             face<UiDataContainer, QObject>(), face<ReportTemplate, QObject>(), face<uiutils::TableRows, QObject>(), face<PDFFile, QObject>(),
             face<FileUtils, QObject>(), face<Screenshot, QObject>(), face<KivAggregateData, KivData>(),
             face<KivListAggregateData, KivData>(), face<QMLListAggregate, QAbstractListModel>(), face<StringUiData, UiData>(),
-            face<uiutils::SavedReports, QAbstractListModel>(), face<BoolUiData, UiData>(), face<EnumUiData, UiData>(), face<UserData>(), face<uiutils::Status>(), face<uiutils::Alignment>(), face<KIVClientInterface>(),
+            face<uiutils::ReportPreview, QAbstractListModel>(), face<uiutils::SavedReports, QAbstractListModel>(), face<BoolUiData, UiData>(), face<EnumUiData, UiData>(), face<UserData>(), face<uiutils::Status>(), face<uiutils::Alignment>(), face<KIVClientInterface>(),
             face<BaseFormatter>(), face<KIVNotification>(), face<KIVNotificationModelManager>(),
             face<Validator, QRegularExpressionValidator>({operation("validate", validate)}),
             face<UiDataEnums, QObject>(declaredOperations<UiDataEnums>()), face<KivData, QObject>(kivDataOperations()),

@@ -2,6 +2,7 @@
 #include "files.h"
 #include "qmlwarnings.h"
 #include "report/report.h"
+#include "report/reportpreview.h"
 #include "ui_host/host.h"
 
 #include <embedded/embeddedbackend.h>
@@ -9,8 +10,13 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QQmlContext>
+#include <QPainter>
 #include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickItemGrabResult>
+#include <QSignalSpy>
 #include <QtQuickTest>
 
 #include <memory>
@@ -77,6 +83,22 @@ public:
         return writeFile(m_root->filePath("document.json"), document.toJson().toUtf8());
     }
     Q_INVOKABLE QStringList savedReports() const { return namesIn(m_root->filePath("cust/public/reports/long")); }
+
+    /// Whether the item shows that page of a preview, and nothing blank.
+    Q_INVOKABLE static bool shows(QQuickItem* item, uiutils::ReportPreview* preview, int page)
+    {
+        const QSharedPointer<QQuickItemGrabResult> grabbed = item->grabToImage();
+        if (!QSignalSpy(grabbed.data(), &QQuickItemGrabResult::ready).wait())
+            return false;
+        const QImage shown = grabbed->image().convertToFormat(QImage::Format_RGB32);
+        QImage expected(shown.size(), QImage::Format_RGB32);
+        expected.fill(Qt::white);
+        const QImage blank = expected;
+        QPainter painter(&expected);
+        painter.scale(shown.width() / preview->pageSize(page).width(), shown.height() / preview->pageSize(page).height());
+        preview->paint(painter, page);
+        return shown == expected && shown != blank;
+    }
 
     /// The effect of a key that was pressed long ago.
     Q_INVOKABLE void holdKey(int key)

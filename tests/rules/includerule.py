@@ -40,8 +40,10 @@ saving      lib/ui_utils/report/saving      base contract core instrument docume
 module      lib/ui_utils/module             base contract LIBRARY
 
 host        lib/ui_host                     base contract core service module embedded bus
+paper       lib/ui_paper                    core pages
 
 plugin      qml/UiUtils                     LIBRARY base contract
+preview     qml/UiUtils/Preview             LIBRARY base contract
 common      apps/common                     LIBRARY base contract embedded bus host
 kivd        apps/kivd                       base contract embedded bus common
 kivctl      apps/kivctl                     base contract embedded bus common host
@@ -61,7 +63,7 @@ busbench    benchmarks/bus                  LIBRARY base contract embedded bus b
 GROUPS = {"WRITERS": "emitter plots pdffile pages text html xml",
           "LIBRARY": "core service instrument document local files emitter plots pdffile pages text html xml report saving module"}
 # Our modules that pages may import.
-PAGES = {"apps/common/qml": [], "apps/pdf_viewer/qml": ["UiUtils.Viewer"], "qml/UiUtils/Controls": ["UiUtils", "UiUtils.Controls"],
+PAGES = {"apps/common/qml": [], "apps/pdf_viewer/qml": ["UiUtils.Viewer"], "qml/UiUtils/Controls": ["UiUtils", "UiUtils.Controls", "UiUtils.Preview"],
          "apps/demo/qml": ["UiUtils", "UiUtils.Controls", "UiUtils.Demo"]}
 # Tests may include everything, and nothing may include them.
 TESTS = "tests/"

@@ -21,6 +21,7 @@ ROOMS = ('base', 'platform', 'lib', 'apps', 'qml')
 # Contexts of which show() makes no text appear. A context that no longer exists is removed from the list.
 UNSEEN = {
     'FileSystemUsage', 'FontTexts', 'KivAggregateData', 'OwnLibrary', 'PDFFile', 'Paths', 'SchemaValidator', 'ServiceState',
+    'uiutils::ReportPaper',
     *(f'uiutils::demo::{name}' for name in ('LoopbackProbe', 'Tour', 'UsbStick')),
 }
 # Texts that are, by agreement, the beginning of a line. All others are complete: translators cannot reorder parts.

@@ -27,6 +27,15 @@ FocusScope {
         return hasResults && titleEntry.commit() && nameEntry.commit() && report.save()
     }
 
+    function showPreview() {
+        if (hasResults && titleEntry.commit())
+            preview.show()
+    }
+
+    PreviewDialog {
+        id: preview
+        report: page.report
+    }
     LoopbackReport {
         id: report
         measurement: page.measurement
@@ -218,13 +227,25 @@ FocusScope {
                     Accessible.role: Accessible.AlertMessage
                     Accessible.name: text
                 }
-                ActionButton {
-                    objectName: "saveButton"
-                    Layout.fillWidth: true
-                    focus: true
-                    enabled: page.hasResults && page.titleItem.valueOk && page.nameItem.valueOk
-                    text: qsTr("Save")
-                    onClicked: page.save()
+                RowLayout {
+                    spacing: Theme.gap
+
+                    ActionButton {
+                        objectName: "previewButton"
+                        Layout.preferredWidth: 110
+                        filled: false
+                        enabled: page.hasResults && page.titleItem.valueOk
+                        text: qsTr("Preview")
+                        onClicked: page.showPreview()
+                    }
+                    ActionButton {
+                        objectName: "saveButton"
+                        Layout.fillWidth: true
+                        focus: true
+                        enabled: page.hasResults && page.titleItem.valueOk && page.nameItem.valueOk
+                        text: qsTr("Save")
+                        onClicked: page.save()
+                    }
                 }
             }
         }

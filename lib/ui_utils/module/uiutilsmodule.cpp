@@ -9,6 +9,7 @@
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
 #include "report/report.h"
+#include "report/reportpreview.h"
 #include "report/savedreports.h"
 #include "service/forgivingvalidator.h"
 #include "service/kivaggregatedata.h"
@@ -130,6 +131,7 @@ void registerTypes(const char* uri)
     registerLocalTypes(uri);
     registerFileTypes(uri);
     qmlRegisterType<Report>(uri, 1, 0, "Report");
+    qmlRegisterType<ReportPreview>(uri, 1, 0, "ReportPreview");
     qmlRegisterType<SavedReports>(uri, 1, 0, "SavedReports");
 }
 

@@ -19,6 +19,7 @@ class KIVNotification;
 class ReportItem;
 class ReportMetadata;
 class TemplateToHtmlWriter;
+class TemplateToPdfWriter;
 
 namespace uiutils {
 class ReportHooks;
@@ -185,6 +186,11 @@ public:
     int getFormat() const;
     /// The suffix of the chosen format, with its dot; empty for ALL and without a format.
     QString getSuffixForReport() const;
+
+    /// What a save as PDF would print now, for a preview or for paper: brings the document up to date, as a save does,
+    /// and returns the writer with all switches of this object. Its items come into `items`, see TemplateToPdfWriter.
+    /// Null while this object saves, and if hasCustomPDF().
+    std::unique_ptr<TemplateToPdfWriter> makePdfWriter(QList<ReportItem*>* items);
 
     /// The document that derived controllers build.
     ReportTemplate& document();

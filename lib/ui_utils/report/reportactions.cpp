@@ -6,6 +6,7 @@
 #include "report/jobreport_p.h"
 #include "report/report.h"
 #include "report/report_p.h"
+#include "report/reporthooks_p.h"
 #include "report/saving/gzip_p.h"
 #include "report/saving/nosynclist_p.h"
 #include "report/saving/reportrecord_p.h"
@@ -112,6 +113,21 @@ QByteArray Report::generateDefaultPDFReport()
     if (!error.isEmpty())
         qDebug("The pages of the report could not be made: %s", qUtf8Printable(error));
     return file;
+}
+
+std::unique_ptr<TemplateToPdfWriter> Report::makePdfWriter(QList<ReportItem*>* items)
+{
+    if (isSaving() || hasCustomPDF())
+        return nullptr;
+    uiutils::ReportHooks hooks(this);
+    hooks.takeJobInfo();
+    hooks.prepareDocument();
+    if (!hooks.isAlive())
+        return nullptr;
+    auto writer = std::make_unique<TemplateToPdfWriter>(d->document, items);
+    d->handOnSwitches(*writer);
+    writer->setAttribute(QStringLiteral("subject"), getSubject());
+    return writer;
 }
 
 void Report::setWriterAttribute(const QString& name, const QVariant& value)

@@ -13,7 +13,8 @@
 
 namespace uiutils {
 class ReportPDFPrivate;
-}
+class ReportPainter;
+} // namespace uiutils
 
 /// Prints report items as a PDF file: Letter pages with a title block on the first, a header line on the others and a
 /// footer on all of them, an outline of headings and tables, and title, author, subject and producer.
@@ -95,6 +96,7 @@ Q_SIGNALS:
     void progressChanged(int page, int pageCount);
 
 private:
+    friend class uiutils::ReportPainter;
     class Job;
 
     const std::unique_ptr<uiutils::ReportPDFPrivate> d;
