@@ -173,9 +173,9 @@ void PageCanvas::flush()
     m_pictures.clear();
 }
 
-void PageCanvas::paint(const QRectF& place, const std::function<void(QPainter&)>& draw)
+void PageCanvas::paint(const QRectF& place, const QString& description, const std::function<void(QPainter&)>& draw)
 {
-    const auto mark = m_structure.figure(QCoreApplication::translate("ReportPDF", "Drawing"));
+    const auto mark = m_structure.figure(description);
     PagePainter device(m_writer, m_style.body, &m_missing, m_style.points(1), place);
     QPainter painter(&device);
     QFont font(m_style.body.font(), &device);

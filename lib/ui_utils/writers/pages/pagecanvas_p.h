@@ -68,7 +68,8 @@ public:
     const QString& missing() const { return m_missing; }
 
     /// Has `draw` paint into `place` and nowhere else: from (0, 0), in points, with the font and the colour of texts.
-    void paint(const QRectF& place, const std::function<void(QPainter&)>& draw);
+    /// `description` is read aloud in its place.
+    void paint(const QRectF& place, const QString& description, const std::function<void(QPainter&)>& draw);
 
 private:
     struct Parted
