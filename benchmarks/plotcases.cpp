@@ -1,7 +1,6 @@
 #include "case.h"
 
 #include "writers/plots/plotdata_p.h"
-#include "writers/plots/plotimage.h"
 #include "writers/plots/plotpainter_p.h"
 
 #include <QImage>
@@ -16,27 +15,35 @@ namespace {
 constexpr int points = 100'000;
 const QSize size(800, 400);
 
-/// A noisy slope, as a trace over distance is.
-uiutils::PlotData trace()
+/// What a service has.
+struct Arrays
 {
-    uiutils::PlotData data;
-    uiutils::PlotCurve curve;
+    QVariantList xs;
+    QVariantList ys;
+};
+
+/// A noisy slope, as a trace over distance is.
+Arrays trace()
+{
+    Arrays arrays;
     for (int i = 0; i < points; ++i) {
-        curve.xs += i * 0.001;
-        curve.ys += -0.0002 * i + std::sin(i * 12.9898) * 0.8;
+        arrays.xs += i * 0.001;
+        arrays.ys += -0.0002 * i + std::sin(i * 12.9898) * 0.8;
     }
-    data.curves += curve;
-    return data;
+    return arrays;
 }
 
 /// The plot's points as pixels of the whole picture, ready made.
-QVector<QPointF> pixels(const uiutils::PlotData& data)
+QVector<QPointF> pixels(const Arrays& arrays)
 {
-    const uiutils::AxisScale x(data.extent().x, data.xKind, uiutils::AxisScale::AtData, 10);
-    const uiutils::AxisScale y(data.extent().y, data.yKind, uiutils::AxisScale::AtTicks, 10);
+    uiutils::PlotData data;
+    uiutils::addCurve(data, {}, arrays.xs, arrays.ys);
+    const uiutils::AxisScale x(data.xExtent(), data.xKind, uiutils::AxisScale::AtData, 10);
+    const uiutils::AxisScale y(
+            data.yExtent(uiutils::LeftSide), uiutils::AxisScale::Linear, uiutils::AxisScale::AtTicks, 10);
     QVector<QPointF> result;
     for (int i = 0; i < points; ++i) {
-        const QPointF point = data.curves.constFirst().point(i);
+        const QPointF point(arrays.xs.at(i).toDouble(), arrays.ys.at(i).toDouble());
         result += QPointF(x.position(point.x()) * size.width(), (1 - y.position(point.y())) * size.height());
     }
     return result;
@@ -49,11 +56,13 @@ QImage emptyPicture()
     return image;
 }
 
-void drawPlot(const uiutils::PlotData& data)
+void drawPlot(const Arrays& arrays)
 {
+    const auto data = std::make_shared<uiutils::PlotData>();
+    uiutils::addCurve(*data, {}, arrays.xs, arrays.ys);
     QImage image = emptyPicture();
     QPainter painter(&image);
-    uiutils::PlotPainter(painter, data, size, Qt::white).draw();
+    uiutils::PlotPainter(painter, uiutils::PlotLayout(data, QString(), size), Qt::white, 1).draw({});
 }
 
 void drawPolyline(const QVector<QPointF>& points)
@@ -69,10 +78,10 @@ void drawPolyline(const QVector<QPointF>& points)
 
 QVector<Result> plotCases(int runs)
 {
-    const uiutils::PlotData data = trace();
-    const QVector<QPointF> line = pixels(data);
+    const Arrays arrays = trace();
+    const QVector<QPointF> line = pixels(arrays);
     const Timing timing = interleaved(
-            runs, [&] { drawPlot(data); }, [&] { drawPolyline(line); });
+            runs, [&] { drawPlot(arrays); }, [&] { drawPolyline(line); });
     return {{QStringLiteral("plot of %L1 points, axes and all / drawPolyline of the same points").arg(points),
             QStringLiteral("ms CPU"), timing.ours, timing.floor, 0.5}};
 }

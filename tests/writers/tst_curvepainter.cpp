@@ -68,7 +68,7 @@ QStringList textsIn(const PlotLegend& legend)
 {
     QStringList texts;
     for (const PlotLegend::Place& place : legend.places())
-        texts += place.entry.text;
+        texts += place.lines.join(' ');
     return texts;
 }
 
@@ -125,30 +125,53 @@ private Q_SLOTS:
         }
     }
 
-    void legendSaysHowManyAreLeftOut()
+    /// Each entry has its place within the width, no two share one, and long ones are wrapped; only beyond 200 lines
+    /// texts are shortened, and then entries are counted.
+    void legend()
     {
         const QFontMetricsF metrics((QFont()));
         QVector<LegendEntry> entries;
-        for (int i = 0; i < 100; ++i)
+        for (int i = 0; i < 200; ++i)
             entries.append({QString("Curve %1").arg(i), QPen(Qt::black)});
+        entries[7].text = QString("Long name ").repeated(20).trimmed();
+        const auto faultOf = [&](const PlotLegend& legend) {
+            QVector<QRectF> boxes;
+            for (const PlotLegend::Place& place : legend.places()) {
+                const QRectF box(place.left, place.line, place.width, place.lines.size() - 0.1);
+                if (box.left() < 0 || box.right() > 400.01 || box.bottom() > legend.lineCount())
+                    return place.lines.first() + " is outside";
+                if (std::any_of(boxes.cbegin(), boxes.cend(), [&](const QRectF& other) { return other.intersects(box); }))
+                    return place.lines.first() + " lies over another";
+                boxes += box;
+            }
+            return QString();
+        };
+        const PlotLegend all(entries, 0, metrics, 10, 400);
+        const QStringList texts = textsIn(all);
+        QCOMPARE(faultOf(all), QString());
+        QCOMPARE(texts.size(), 200);
+        for (int i = 0; i < 200; ++i)
+            QCOMPARE(texts.at(i), entries.at(i).text);
+        QVERIFY(all.lineCount() > 50 && all.lineCount() < 200);
+        int next = 0;
+        for (const LineRange& part : all.parts(12)) {
+            QCOMPARE(part.begin, next);
+            QVERIFY(part.count() > 0 && part.count() <= 12);
+            next = part.end;
+        }
+        QCOMPARE(next, all.lineCount());
 
-        const QStringList all = textsIn(PlotLegend(entries.mid(0, 5), metrics, 10, 400));
-        QCOMPARE(all.size(), 5);
-        QCOMPARE(all.last(), QString("Curve 4"));
-
-        const PlotLegend legend(entries, metrics, 10, 400);
-        QCOMPARE(legend.rowCount(), 3);
-        const QStringList texts = textsIn(legend);
-        QVERIFY(texts.size() > 3);
-        QCOMPARE(texts.last(), QString("and %1 more").arg(101 - texts.size()));
-        for (const PlotLegend::Place& place : legend.places())
-            QVERIFY(place.left + place.width <= 400);
-
-        // Each wider than a row: the count takes the place of the third.
         for (LegendEntry& entry : entries)
             entry.text += QString(200, 'w');
-        QCOMPARE(textsIn(PlotLegend(entries, metrics, 10, 400)).last(), QString("and 98 more"));
-        QCOMPARE(PlotLegend({}, metrics, 10, 400).rowCount(), 0);
+        const PlotLegend shortened(entries, 0, metrics, 10, 400);
+        QCOMPARE(textsIn(shortened).size(), 200);
+        QCOMPARE(shortened.lineCount(), 200);
+        QCOMPARE(faultOf(shortened), QString());
+        QVERIFY(textsIn(shortened).last().startsWith("Curve 199w"));
+        const PlotLegend counted(entries + entries, 7, metrics, 10, 400);
+        QCOMPARE(counted.lineCount(), 200);
+        QCOMPARE(textsIn(counted).last(), QString("and 208 more"));
+        QCOMPARE(PlotLegend({}, 0, metrics, 10, 400).lineCount(), 0);
     }
 };
 

@@ -1,10 +1,15 @@
 #include "columns.h"
 
 #include "writers/plots/axisscale_p.h"
+#include "writers/plots/curvepoints_p.h"
 #include "writers/plots/plotdata_p.h"
+
+#include <QDateTime>
 
 #include <cmath>
 #include <limits>
+
+#include <time.h>
 
 using namespace uiutils;
 
@@ -29,22 +34,30 @@ QStringList labels(const AxisScale& scale)
     return labels;
 }
 
-PlotData oneCurve(const QVector<QPointF>& points)
+PlotData oneCurve(const QVector<QPointF>& points, AxisScale::Kind yKind = AxisScale::Linear)
 {
-    PlotData data;
-    data.curves.append(PlotCurve());
+    QVariantList xs;
+    QVariantList ys;
     for (const QPointF& point : points) {
-        data.curves.last().xs += point.x();
-        data.curves.last().ys += point.y();
+        xs += point.x();
+        ys += point.y();
     }
+    PlotData data;
+    data.axes[LeftSide].kind = yKind;
+    addCurve(data, {}, xs, ys);
     return data;
 }
 
 QVector<QVector<QPointF>> stretchesOf(const PlotData& data, int columns)
 {
-    const AxisScale x(data.extent().x, data.xKind, AxisScale::AtData, 10);
-    const AxisScale y(data.extent().y, data.yKind, AxisScale::AtData, 10);
-    return visibleStretches(data, data.curves.first(), x, y, columns);
+    const AxisScale x(data.xExtent(), data.xKind, AxisScale::AtData, 10);
+    const AxisScale y(data.yExtent(LeftSide), data.axes[LeftSide].kind, AxisScale::AtData, 10);
+    return visibleStretches(data.curves.first(), x, y, columns);
+}
+
+double secondsAt(const QString& time)
+{
+    return double(QDateTime::fromString(time, Qt::ISODate).toSecsSinceEpoch());
 }
 
 } // namespace
@@ -54,6 +67,12 @@ class PlotScaleTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        qputenv("TZ", "UTC");
+        tzset();
+    }
+
     void ticks_data()
     {
         addColumns<QVector<double>, int, int, int, QStringList>();
@@ -62,6 +81,9 @@ private Q_SLOTS:
         const int log = AxisScale::Logarithmic;
         const int ticks = AxisScale::AtTicks;
         const int data = AxisScale::AtData;
+        const int duration = AxisScale::Duration;
+        const int date = AxisScale::Date;
+        const double monday = secondsAt("2026-03-02T08:50:00");
         QTest::newRow("tens") << V {0, 97} << linear << ticks << 6 << QStringList {"0", "20", "40", "60", "80", "100"};
         QTest::newRow("within the data") << V {3, 97} << linear << data << 6 << QStringList {"20", "40", "60", "80"};
         QTest::newRow("both signs") << V {-19.9, 5.2} << linear << ticks << 7
@@ -85,6 +107,24 @@ private Q_SLOTS:
         QTest::newRow("between two round ones") << V {2.1, 4.9} << log << data << 6
                                                << QStringList {"2.5", "3.0", "3.5", "4.0", "4.5"};
         QTest::newRow("within a decade") << V {3, 8} << log << ticks << 6 << QStringList {"2", "5", "10"};
+        QTest::newRow("minutes") << V {0, 290} << duration << data << 6
+                                 << QStringList {"0 s", "1 min", "2 min", "3 min", "4 min"};
+        QTest::newRow("half minutes") << V {100, 215} << duration << data << 5
+                                      << QStringList {"2 min", "2 min 30 s", "3 min", "3 min 30 s"};
+        QTest::newRow("days and hours") << V {-1, 130000} << duration << data << 4 << QStringList {"0 s", "12 h", "1 d", "1 d 12 h"};
+        QTest::newRow("many days") << V {0, 4e7} << duration << data << 5 << QStringList {"0 s", "100 d", "200 d", "300 d", "400 d"};
+        QTest::newRow("shorter than a second") << V {0.1, 0.5} << duration << data << 6
+                                               << QStringList {"0.1", "0.2", "0.3", "0.4", "0.5"};
+        QTest::newRow("longer than calendars") << V {0, 1e15} << date << data << 3 << QStringList {"0", "5e+14", "1.0e+15"};
+        QTest::newRow("clock") << V {monday, monday + 4000} << date << data << 5
+                               << QStringList {"09:00", "09:15", "09:30", "09:45"};
+        QTest::newRow("over midnight") << V {monday, monday + 90000} << date << data << 3
+                                       << QStringList {"2 Mar 12:00", "3 Mar 00:00"};
+        QTest::newRow("days") << V {monday, monday + 3 * 86400} << date << data << 4
+                              << QStringList {"3 Mar", "4 Mar", "5 Mar"};
+        QTest::newRow("months") << V {monday, monday + 100 * 86400} << date << data << 4
+                                << QStringList {"Apr 2026", "May 2026", "Jun 2026"};
+        QTest::newRow("years") << V {monday, monday + 5e8} << date << data << 4 << QStringList {"2030", "2035", "2040"};
         QTest::newRow("not positive") << V {-3, 0} << log << ticks << 6 << QStringList {"1", "10"};
     }
     void ticks()
@@ -101,7 +141,7 @@ private Q_SLOTS:
                 3.7e8, 3.7e8 + 1e-6, 1e300, huge};
         for (const double a : values) {
             for (const double b : values) {
-                for (const auto kind : {AxisScale::Linear, AxisScale::Logarithmic}) {
+                for (const auto kind : {AxisScale::Linear, AxisScale::Logarithmic, AxisScale::Duration, AxisScale::Date}) {
                     for (const auto ends : {AxisScale::AtData, AxisScale::AtTicks}) {
                         for (const int maximum : {-1, 2, 5, 40}) {
                             const AxisScale scale(interval({a, b}), kind, ends, maximum);
@@ -110,12 +150,12 @@ private Q_SLOTS:
                             QVERIFY2(std::isfinite(scale.low()) && std::isfinite(scale.high()), which);
                             QVERIFY2(scale.low() < scale.high(), which);
                             QVERIFY2(scale.ticks().size() <= qMax(maximum, 3), which);
-                            QVERIFY2(kind == AxisScale::Linear || scale.low() > 0, which);
+                            QVERIFY2(kind != AxisScale::Logarithmic || scale.low() > 0, which);
                             for (const double tick : scale.ticks()) {
                                 const double position = scale.position(tick);
                                 QVERIFY2(position > -1e-6 && position < 1 + 1e-6, which);
                             }
-                            if (ends == AxisScale::AtTicks)
+                            if (ends == AxisScale::AtTicks && !scale.isOfTime())
                                 QVERIFY2(scale.ticks().size() >= 2, which);
                             const bool isLogarithmic = kind == AxisScale::Logarithmic;
                             if (std::abs(a) < 1e300 && (!isLogarithmic || a >= 1e-300))
@@ -140,6 +180,24 @@ private Q_SLOTS:
         const AxisScale inner(interval({0.25, 450}), AxisScale::Logarithmic, AxisScale::AtData, 5);
         QCOMPARE(inner.minorTicks().size(), 7 + 8 + 8 + 3);
         QCOMPARE(inner.position(450), 1.0);
+    }
+
+    /// Also where a day has 23 hours; the days are said once, below the axis.
+    void datesAreLocal()
+    {
+        qputenv("TZ", "Europe/Berlin");
+        tzset();
+        const double low = secondsAt("2026-03-28T00:00:00");
+        const AxisScale scale(interval({low, secondsAt("2026-03-31T00:00:00")}), AxisScale::Date, AxisScale::AtData, 5);
+        const QStringList days = labels(scale);
+        const QString note = scale.note(QLocale::c());
+        const AxisScale hours(interval({low, low + 7200}), AxisScale::Date, AxisScale::AtData, 5);
+        const QString day = hours.note(QLocale::c());
+        qputenv("TZ", "UTC");
+        tzset();
+        QCOMPARE(days, QStringList({"28 Mar", "29 Mar", "30 Mar", "31 Mar"}));
+        QCOMPARE(note, QString("28 Mar 2026 to 31 Mar 2026"));
+        QCOMPARE(day, QString("28 Mar 2026"));
     }
 
     void noSpikeIsLost()
@@ -174,12 +232,36 @@ private Q_SLOTS:
         QCOMPARE(stretches.at(1).size(), 1);
         QCOMPARE(stretches.at(2).size(), 2);
 
-        PlotData log = oneCurve({{1, 1}, {2, 0}, {3, -1}, {4, 10}});
-        log.yKind = AxisScale::Logarithmic;
-        QCOMPARE(stretchesOf(log, 100).size(), 2);
+        QCOMPARE(stretchesOf(oneCurve({{1, 1}, {2, 0}, {3, -1}, {4, 10}}, AxisScale::Logarithmic), 100).size(), 2);
         QVERIFY(stretchesOf(oneCurve({}), 100).isEmpty());
     }
 
+    /// However many points there are, in whatever order, and however often they are interrupted.
+    void memoryIsBounded_data()
+    {
+        addColumns<int, int>();
+        QTest::newRow("in order") << 0 << 0;
+        QTest::newRow("back and forth") << 1 << 0;
+        QTest::newRow("each alone") << 0 << 2;
+        QTest::newRow("back and forth, interrupted") << 1 << 3;
+    }
+    void memoryIsBounded()
+    {
+        const auto [jumps, interruptions] = currentRow<int, int>();
+        constexpr int columns = 100;
+        constexpr int count = 1000 * 1000;
+        CurvePoints points(columns);
+        for (int i = 0; i < count; ++i) {
+            const double x = jumps ? (i * 7919LL % count) / double(count) : i / double(count);
+            points.add(x, {x, i == 314'159 ? 9.0 : std::sin(i)});
+            if (interruptions && i % interruptions == 0)
+                points.interrupt();
+        }
+        const QVector<QPointF> left = points.take();
+        QVERIFY2(left.size() <= columns * 40, qPrintable(QString::number(left.size())));
+        QVERIFY(left.size() > columns);
+        QVERIFY(std::any_of(left.cbegin(), left.cend(), [](const QPointF& point) { return point.y() == 9; }));
+    }
 };
 
 QTEST_GUILESS_MAIN(PlotScaleTest)

@@ -4,6 +4,7 @@
 #include "writers/emitter/pdfsyntax_p.h"
 
 #include <QPainterPath>
+#include <QPen>
 
 #include <cmath>
 
@@ -127,6 +128,40 @@ void PageContent::fill(const QPainterPath& path, const QColor& color)
     setFill(color);
     appendPath(path);
     m_bytes += path.fillRule() == Qt::OddEvenFill ? "f*\n" : "f\n";
+}
+
+void PageContent::setPen(const QPen& pen)
+{
+    const qreal width = pen.widthF() * m_scale;
+    const int cap = pen.capStyle() == Qt::FlatCap ? 0 : pen.capStyle() == Qt::RoundCap ? 1 : 2;
+    const int join = pen.joinStyle() == Qt::RoundJoin ? 1 : pen.joinStyle() == Qt::BevelJoin ? 2 : 0;
+    appendColor(m_bytes, pen.color());
+    m_bytes += "RG ";
+    appendNumber(m_bytes, width);
+    m_bytes += " w " + QByteArray::number(cap) + " J " + QByteArray::number(join) + " j";
+    if (pen.style() != Qt::SolidLine) {
+        m_bytes += " [";
+        const QVector<qreal> dashes = pen.dashPattern();
+        for (const qreal dash : dashes) {
+            appendNumber(m_bytes, dash * width);
+            m_bytes += ' ';
+        }
+        m_bytes += "] ";
+        appendNumber(m_bytes, pen.dashOffset() * width);
+        m_bytes += " d";
+    }
+    m_bytes += '\n';
+}
+
+void PageContent::stroke(const QPainterPath& path, const QPen& pen)
+{
+    if (path.isEmpty())
+        return;
+    endTextObject();
+    m_bytes += "q ";
+    setPen(pen);
+    appendPath(path);
+    m_bytes += "S Q\n";
 }
 
 void PageContent::clip(const QPainterPath& path)

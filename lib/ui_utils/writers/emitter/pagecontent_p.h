@@ -8,6 +8,7 @@
 #include <QVector>
 
 class QPainterPath;
+class QPen;
 
 namespace uiutils::pdf {
 
@@ -22,6 +23,8 @@ public:
 
     void fill(const QVector<QRectF>& rectangles, const QColor& color);
     void fill(const QPainterPath& path, const QColor& color);
+    /// Along the path with the pen's colour, width, dashes, ends and joins.
+    void stroke(const QPainterPath& path, const QPen& pen);
     void image(const QByteArray& name, const QRectF& place);
 
     /// Glyphs of a font in a row, with the numbers by which the distances after them differ from their widths, in
@@ -72,6 +75,7 @@ private:
     qint64 across(qreal x) const;
     qint64 up(qreal y) const;
     void setFill(const QColor& color);
+    void setPen(const QPen& pen);
     void beginMark(Holds holds);
     void beginTextObject();
     void endTextObject();

@@ -382,6 +382,18 @@ void HtmlStreamWriter::writeImage(const QString& source)
 void HtmlStreamWriter::writeImageParagraph(const QByteArray& png, int pixels)
 {
     append(new ReportImage(png, pixels * pixelsOfAPoint));
+    writePng(png);
+}
+
+void HtmlStreamWriter::writeImageParagraph(const QByteArray& png, const QVector<ReportItem*>& items)
+{
+    for (ReportItem* item : items)
+        append(item);
+    writePng(png);
+}
+
+void HtmlStreamWriter::writePng(const QByteArray& png)
+{
     if (!m_keepsText)
         return;
     writeStartElement(QStringLiteral("p"));

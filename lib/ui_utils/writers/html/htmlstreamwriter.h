@@ -75,6 +75,10 @@ public:
     void writeImage(const QString& source);
     /// Writes a paragraph that holds a PNG image, of which `pixels` pixels are shown per pixel of the page.
     void writeImageParagraph(const QByteArray& png, int pixels = 1);
+    /// The same, with items of the caller's for printed pages in place of an image; the list owns them.
+    void writeImageParagraph(const QByteArray& png, const QVector<ReportItem*>& items);
+    /// Whether texts are kept, see discardText().
+    bool keepsText() const { return m_keepsText; }
 
 private:
     void startTableRow();
@@ -85,6 +89,7 @@ private:
     void writeEmptyHeader(int columns);
     void writeStatusIcon(int status);
     void append(ReportItem* item);
+    void writePng(const QByteArray& png);
     void abandonTable();
     void clearText();
     const QString& iconMarkup(const QString& path);

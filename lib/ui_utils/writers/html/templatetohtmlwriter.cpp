@@ -6,17 +6,16 @@
 #include "document/reporttemplate.h"
 #include "instrument/unit_p.h"
 #include "writers/html/htmlstreamwriter.h"
+#include "writers/html/pageplots_p.h"
 #include "writers/html/pagestyle_p.h"
 #include "writers/html/style.h"
 #include "writers/pages/reportpdf.h"
-#include "writers/plots/plotdata_p.h"
-#include "writers/plots/plotimage.h"
+#include "writers/plots/plotpainter_p.h"
 #include "writers/text/reportcontent_p.h"
 
 #include <kiv/system.h>
 
 #include <QDate>
-#include <QFile>
 
 namespace instrument = uiutils::instrument;
 namespace keys = uiutils::keys;
@@ -28,8 +27,6 @@ using uiutils::TableReader;
 
 namespace {
 
-/// Enough to make a plot's letters as sharp as the page's.
-constexpr int plotPixelsOnPaper = 2;
 /// The plot of a table with this number or a larger one leaves no file.
 constexpr quint64 mostPlotFiles = 100;
 
@@ -89,7 +86,6 @@ QString TemplateToHtmlWriter::getHtml()
 void TemplateToHtmlWriter::collectItems()
 {
     m_html->discardText();
-    m_plotPixels = plotPixelsOnPaper;
     writePage();
 }
 
@@ -113,7 +109,7 @@ void TemplateToHtmlWriter::writePage()
         writeTechnicianTable();
     m_html->writeEndElement();
     m_html->writeEndDocument();
-    m_plots.clear();
+    m_plots.reset();
 }
 
 QString TemplateToHtmlWriter::title() const
@@ -288,7 +284,7 @@ void TemplateToHtmlWriter::tablesToHtml(QJsonObject& node)
     NodeReader(node).forEachTable(NodeReader::ByKey, [this](const QString& key, const QJsonObject& object) {
         const TableReader table(object);
         if (table.isPlot())
-            plotToHtml(table.text(keys::service), NodeReader::tableNumber(key).value_or(0));
+            plotToHtml(table, NodeReader::tableNumber(key).value_or(0));
         else
             tableToHtml(table);
     });
@@ -336,27 +332,16 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
 
 /// The file is for other programs to read; tables with the same number in several sections overwrite it. A document
 /// with thousands of plots does not fill the memory that holds temporary files.
-void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumber)
+void TemplateToHtmlWriter::plotToHtml(const TableReader& table, quint64 tableNumber)
 {
-    const QString path = uiutils::paths::plotImage(tableNumber);
-    // All services without curves look alike, and a document may name thousands that do not exist.
-    const bool isKnown = m_plots.contains(service);
-    const QString key = isKnown || !uiutils::readPlotData(service).curves.isEmpty() ? service : QString();
-    auto known = m_plots.constFind(key);
-    const bool isLeft = tableNumber < mostPlotFiles;
-    if (known != m_plots.constEnd()) {
-        if (isLeft)
-            uiutils::writeFileForNow(uiutils::onDisk(path), *known);
-    } else {
-        PlotImage plot;
-        plot.setService(service);
-        plot.setCurveBackground(attribute(QStringLiteral("plot_curve_bg")).toString());
-        plot.setSize(attribute(QStringLiteral("plot_width")).toInt(), attribute(QStringLiteral("plot_height")).toInt());
-        plot.setPixelScale(m_plotPixels);
-        plot.write(path);
-        if (!isLeft)
-            QFile::remove(uiutils::onDisk(path));
-        known = m_plots.insert(key, plot.getData());
-    }
-    m_html->writeImageParagraph(*known, m_plotPixels);
+    const auto number = [this](const char* name) { return attribute(QLatin1String(name)).toInt(); };
+    if (!m_plots)
+        m_plots = std::make_unique<uiutils::PagePlots>(uiutils::plotSize(number("plot_width"), number("plot_height")),
+                uiutils::plotBackground(attribute(QStringLiteral("plot_curve_bg")).toString()));
+    const uiutils::PagePlots::Plot plot = m_plots->plot(table.text(keys::service), table.title());
+    const bool leavesFile = tableNumber < mostPlotFiles;
+    const QByteArray picture = leavesFile || m_html->keepsText() ? m_plots->picture(plot) : QByteArray();
+    if (leavesFile)
+        uiutils::writeFileForNow(uiutils::onDisk(uiutils::paths::plotImage(tableNumber)), picture);
+    m_html->writeImageParagraph(picture, m_plots->items(plot));
 }

@@ -5,7 +5,6 @@
 #include "writers/pages/reportitem.h"
 
 #include <QByteArray>
-#include <QHash>
 #include <QJsonObject>
 #include <QList>
 #include <QString>
@@ -19,6 +18,7 @@ class ReportTemplate;
 
 namespace uiutils {
 class NodeReader;
+class PagePlots;
 class TableReader;
 } // namespace uiutils
 
@@ -83,17 +83,14 @@ private:
     void sectionToHtml(QJsonObject& section);
     void tableToHtml(const uiutils::TableReader& table);
     void rowToHtml(const uiutils::TableReader& table, bool hasLabel, const QJsonObject& row);
-    void plotToHtml(const QString& service, quint64 tableNumber);
+    void plotToHtml(const uiutils::TableReader& table, quint64 tableNumber);
     void writeConfigurationValues(const uiutils::NodeReader& section);
 
     QJsonObject m_document;
     QVariantMap m_bodyAttributes;
     QList<ReportItem*>* m_items;
     std::unique_ptr<HtmlStreamWriter> m_html;
-    // An image of each service: the page holds them anyway, and drawing one takes longer than the rest of the page.
-    QHash<QString, QByteArray> m_plots;
-    // Per pixel of the page: paper is finer than a screen.
-    int m_plotPixels = 1;
+    std::unique_ptr<uiutils::PagePlots> m_plots;
     int m_depth = 0;
     bool m_isWritten = false;
 };

@@ -101,9 +101,9 @@ void FileCanvas::flush()
     m_pictures.clear();
 }
 
-void FileCanvas::paint(const QRectF& place, const std::function<void(QPainter&)>& draw)
+void FileCanvas::paint(const QRectF& place, const QString& description, const std::function<void(QPainter&)>& draw)
 {
-    const auto mark = structure().figure(QCoreApplication::translate("ReportPDF", "Drawing"));
+    const auto mark = structure().figure(description);
     PagePainter device(m_writer, style().body, &m_missing, style().points(1), place);
     QPainter painter(&device);
     setTextStyle(painter, style());

@@ -23,7 +23,7 @@ public:
     void drawImage(const QImage& image, const QRectF& place) override;
     /// The same bytes are decoded once, and stored in the file once.
     void drawImage(const QByteArray& encoded, const QRectF& place) override;
-    void paint(const QRectF& place, const std::function<void(QPainter&)>& draw) override;
+    void paint(const QRectF& place, const QString& description, const std::function<void(QPainter&)>& draw) override;
     void flush() override;
 
     /// The characters of all pages that no font has.

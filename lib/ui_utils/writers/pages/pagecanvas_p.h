@@ -63,7 +63,8 @@ public:
     virtual void drawImage(const QByteArray& encoded, const QRectF& place) = 0;
 
     /// Has `draw` paint into `place` and nowhere else: from (0, 0), in points, with the font and the colour of texts.
-    virtual void paint(const QRectF& place, const std::function<void(QPainter&)>& draw) = 0;
+    /// `description` is read aloud in its place.
+    virtual void paint(const QRectF& place, const QString& description, const std::function<void(QPainter&)>& draw) = 0;
 
     /// Draws what could not be drawn among texts. To be called at the end of each page.
     virtual void flush() { }

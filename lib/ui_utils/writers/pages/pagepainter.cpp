@@ -13,6 +13,7 @@
 #include <QPixmap>
 #include <QTextLayout>
 
+#include <cmath>
 #include <functional>
 
 namespace uiutils {
@@ -24,6 +25,16 @@ constexpr int pointsOfAnInch = 72;
 constexpr int pixelsOfAPoint = 4;
 /// Of a picture, along each side.
 constexpr int mostPixels = 4000;
+
+/// Whether lengths change by one factor in all directions.
+bool isUniform(const QTransform& transform)
+{
+    const auto isSame = [](qreal a, qreal b) { return std::abs(a - b) <= 1e-6 * (std::abs(a) + std::abs(b)); };
+    return transform.isAffine()
+            && isSame(std::hypot(transform.m11(), transform.m12()), std::hypot(transform.m21(), transform.m22()))
+            && std::abs(transform.m11() * transform.m21() + transform.m12() * transform.m22())
+            <= 1e-6 * std::abs(transform.determinant());
+}
 
 } // namespace
 
@@ -65,6 +76,7 @@ public:
     }
 
     void drawPath(const QPainterPath& path) override;
+    void drawLines(const QLineF* lines, int count) override;
     void drawPolygon(const QPointF* points, int count, PolygonDrawMode mode) override;
     void drawPixmap(const QRectF& place, const QPixmap& pixmap, const QRectF& source) override;
     void drawImage(const QRectF& place, const QImage& image, const QRectF& source, Qt::ImageConversionFlags) override;
@@ -119,14 +131,34 @@ void PagePainter::Engine::drawPath(const QPainterPath& path)
 
 void PagePainter::Engine::drawOutline(const QPainterPath& path)
 {
-    const QPen pen = state->pen();
+    QPen pen = state->pen();
     if (pen.style() == Qt::NoPen)
         return;
-    QPainterPathStroker stroker(pen);
     // A width of 0 is as thin as can be seen on paper.
     constexpr qreal hairline = 0.25;
-    stroker.setWidth(pen.widthF() > 0 ? pen.widthF() : hairline);
+    if (pen.widthF() <= 0)
+        pen.setWidthF(hairline);
+    const QTransform transform = toPage();
+    const qreal scale = std::sqrt(std::abs(transform.determinant()));
+    // Lines of a pen that is not round under a shear, or that is not all of one colour, are areas.
+    if (isUniform(transform) && pen.brush().style() == Qt::SolidPattern && pen.color().alphaF() * state->opacity() > 0.999) {
+        pen.setWidthF(pen.widthF() * scale);
+        m_writer.content().stroke(transform.map(path), pen);
+        return;
+    }
+    QPainterPathStroker stroker(pen);
     fillPath(stroker.createStroke(path), pen.brush());
+}
+
+/// All in one path, which takes less room than each alone.
+void PagePainter::Engine::drawLines(const QLineF* lines, int count)
+{
+    QPainterPath path;
+    for (int i = 0; i < count; ++i) {
+        path.moveTo(lines[i].p1());
+        path.lineTo(lines[i].p2());
+    }
+    drawOutline(path);
 }
 
 void PagePainter::Engine::drawPolygon(const QPointF* points, int count, PolygonDrawMode mode)

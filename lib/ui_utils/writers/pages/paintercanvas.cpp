@@ -73,7 +73,8 @@ void PainterCanvas::drawImage(const QByteArray& encoded, const QRectF& place)
         drawImage(image, place);
 }
 
-void PainterCanvas::paint(const QRectF& place, const std::function<void(QPainter&)>& draw)
+void PainterCanvas::paint(
+        const QRectF& place, const QString& /*description*/, const std::function<void(QPainter&)>& draw)
 {
     flush();
     m_painter.save();

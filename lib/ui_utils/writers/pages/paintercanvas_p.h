@@ -20,7 +20,7 @@ public:
     void drawInvisibly(const PageFont& font, const QString& text, const QRectF& place) override;
     void drawImage(const QImage& image, const QRectF& place) override;
     void drawImage(const QByteArray& encoded, const QRectF& place) override;
-    void paint(const QRectF& place, const std::function<void(QPainter&)>& draw) override;
+    void paint(const QRectF& place, const QString& description, const std::function<void(QPainter&)>& draw) override;
     void flush() override;
 
 private:

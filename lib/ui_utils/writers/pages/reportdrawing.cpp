@@ -3,6 +3,8 @@
 #include "writers/pages/pagecanvas_p.h"
 #include "writers/pages/pagestyle_p.h"
 
+#include <QCoreApplication>
+
 namespace uiutils {
 
 /// The layout, in device units.
@@ -11,6 +13,7 @@ class ReportDrawingPrivate
 public:
     QSizeF size;
     qreal spaceAbove = 0;
+    QString description;
 };
 
 } // namespace uiutils
@@ -21,6 +24,11 @@ ReportDrawing::ReportDrawing()
 }
 
 ReportDrawing::~ReportDrawing() = default;
+
+void ReportDrawing::setDescription(const QString& description)
+{
+    d->description = description;
+}
 
 void ReportDrawing::measure(const uiutils::PageStyle& style, const QSizeF& page)
 {
@@ -43,7 +51,9 @@ void ReportDrawing::draw(uiutils::PageCanvas& canvas, const Portion& portion, co
 {
     const QSizeF size(d->size.width(), portion.height);
     const qreal point = canvas.style().points(1);
-    canvas.paint({topLeft, size}, [&](QPainter& painter) { paint(painter, size / point); });
+    const QString& own = d->description;
+    const QString description = own.isEmpty() ? QCoreApplication::translate("ReportPDF", "Drawing") : own;
+    canvas.paint({topLeft, size}, description, [&](QPainter& painter) { paint(painter, size / point); });
 }
 
 qreal ReportDrawing::spaceAbove() const

@@ -28,6 +28,9 @@ public:
     void draw(uiutils::PageCanvas& canvas, const Portion& portion, const QPointF& topLeft) const override;
     qreal spaceAbove() const override;
 
+    /// What the drawing shows, for those who have the pages read aloud: "Drawing" by default.
+    void setDescription(const QString& description);
+
 protected:
     /// How high the drawing is on pages that have `page` for contents. The page's height is the maximum; a drawing of
     /// no height takes no space and is not painted.

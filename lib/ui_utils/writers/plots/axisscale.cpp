@@ -81,25 +81,17 @@ QVector<double> roundValues(Interval interval)
 
 } // namespace
 
-void Interval::include(double value)
-{
-    if (!std::isfinite(value))
-        return;
-    if (isEmpty()) {
-        low = value;
-        high = value;
-        return;
-    }
-    low = std::min(low, value);
-    high = std::max(high, value);
-}
-
 AxisScale::AxisScale(Interval data, Kind kind, Ends ends, int maximumTicks)
     : m_kind(kind)
 {
     // An axis that crosses zero and ends at ticks needs three.
     const int ticks = std::max(3, maximumTicks);
-    if (kind == Logarithmic)
+    const TimeTicks::Kind times = kind == Date ? TimeTicks::Date : TimeTicks::Duration;
+    if (isOfTime() && !TimeTicks::canShow(linearExtent(data), times))
+        m_kind = Linear;
+    if (isOfTime())
+        scaleTimes(linearExtent(data), ticks);
+    else if (kind == Logarithmic)
         scaleLogarithmically(positiveExtent(data), ends, ticks);
     else
         scaleLinearly(linearExtent(data), ends, ticks);
@@ -122,6 +114,14 @@ void AxisScale::scaleLinearly(Interval data, Ends ends, int maximumTicks)
     m_high = ends == AtTicks ? last * m_step : data.high;
     for (int n = 0; n <= int(last - first); ++n)
         m_ticks += (first + n) * m_step;
+}
+
+void AxisScale::scaleTimes(Interval data, int maximumTicks)
+{
+    m_low = data.low;
+    m_high = data.high;
+    m_times = TimeTicks(data, m_kind == Date ? TimeTicks::Date : TimeTicks::Duration, maximumTicks);
+    m_ticks = m_times.ticks();
 }
 
 void AxisScale::scaleLogarithmically(Interval data, Ends ends, int maximumTicks)
@@ -181,16 +181,18 @@ bool AxisScale::addDecades(Interval data, Ends ends, int maximumTicks)
 
 double AxisScale::position(double value) const
 {
-    if (m_kind == Linear)
-        return (value - m_low) / (m_high - m_low);
+    if (m_kind != Logarithmic)
+        return qBound(0.0, (value - m_low) / (m_high - m_low), 1.0);
     if (value <= 0)
         return qQNaN();
     const double first = std::log10(m_low);
-    return (std::log10(value) - first) / (std::log10(m_high) - first);
+    return qBound(0.0, (std::log10(value) - first) / (std::log10(m_high) - first), 1.0);
 }
 
 QString AxisScale::label(double tick, const QLocale& locale) const
 {
+    if (isOfTime())
+        return m_times.label(tick, locale);
     if (m_kind == Logarithmic && !m_hasEvenTicks) {
         // One notation for all ticks, so that they can be compared.
         const bool isPlain = m_ticks.constFirst() > 0.99e-4 && m_ticks.constLast() < 1.01e6;

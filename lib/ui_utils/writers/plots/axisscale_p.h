@@ -1,21 +1,12 @@
 #pragma once
 
+#include "writers/plots/timeticks_p.h"
+
 #include <QLocale>
 #include <QString>
 #include <QVector>
 
 namespace uiutils {
-
-/// The values from `low` to `high`; empty until a value is included.
-struct Interval
-{
-    double low = 1;
-    double high = 0;
-
-    bool isEmpty() const { return low > high; }
-    /// Widens the interval to contain `value`; one that is not finite is left out.
-    void include(double value);
-};
 
 /// The arithmetic of a plot's axis: which values it spans, where its round ticks are and how they are labelled.
 ///
@@ -23,18 +14,23 @@ struct Interval
 class AxisScale
 {
 public:
-    enum Kind { Linear, Logarithmic };
+    /// Durations and dates are in seconds; intervals that words cannot say are linear.
+    enum Kind { Linear, Logarithmic, Duration, Date };
     /// Whether the axis ends with the data, or at the next tick beyond the data.
     enum Ends { AtData, AtTicks };
 
     /// An axis for `data` with at most `maximumTicks` ticks; a maximum below three counts as three. A logarithmic axis
-    /// takes only positive values.
+    /// takes only positive values; an axis of times ends with its data.
     AxisScale(Interval data, Kind kind, Ends ends, int maximumTicks);
 
     double low() const { return m_low; }
     double high() const { return m_high; }
 
-    /// Where `value` is between the ends, 0 to 1; NaN for a value that a logarithmic axis cannot show.
+    /// Whether the labels say times, so that the axis needs no unit.
+    bool isOfTime() const { return m_kind == Duration || m_kind == Date; }
+
+    /// Where `value` is between the ends, 0 to 1; what is beyond an end is there. NaN for a value that a logarithmic
+    /// axis cannot show.
     double position(double value) const;
 
     /// The round values that get a label, in ascending order.
@@ -44,9 +40,12 @@ public:
 
     /// A tick's value as users of `locale` read it, with enough decimals to distinguish the ticks.
     QString label(double tick, const QLocale& locale) const;
+    /// What the labels have in common and leave out, such as a day; mostly empty.
+    QString note(const QLocale& locale) const { return isOfTime() ? m_times.note(locale) : QString(); }
 
 private:
     void scaleLinearly(Interval data, Ends ends, int maximumTicks);
+    void scaleTimes(Interval data, int maximumTicks);
     void scaleLogarithmically(Interval data, Ends ends, int maximumTicks);
     bool addRoundTicks(Interval data, Ends ends, int maximumTicks);
     bool addDecades(Interval data, Ends ends, int maximumTicks);
@@ -57,6 +56,7 @@ private:
     double m_step = 1;
     // A logarithmic axis that is too short for its own round values has ticks one step apart.
     bool m_hasEvenTicks = false;
+    TimeTicks m_times;
     QVector<double> m_ticks;
     QVector<double> m_minorTicks;
 };

@@ -3,6 +3,7 @@
 #include "writers/plots/curveink_p.h"
 
 #include <QLineF>
+#include <QPaintEngine>
 
 #include <algorithm>
 
@@ -15,10 +16,11 @@ constexpr int linesOfAPiece = 16;
 
 } // namespace
 
-CurvePainter::CurvePainter(QPainter& painter, const QRectF& frame, const QPen& pen)
+CurvePainter::CurvePainter(QPainter& painter, const QRectF& frame, const QPen& pen, double resolution)
     : m_painter(painter)
     , m_frame(frame)
     , m_pen(pen)
+    , m_resolution(resolution)
 {
 }
 
@@ -29,13 +31,13 @@ void CurvePainter::drawLines(const QVector<QVector<QPointF>>& stretches)
         painted += paintedPixels(stretch);
     if (!coversItself(painted)) {
         for (const QVector<QPointF>& stretch : stretches)
-            drawInPieces(stretch);
+            drawLine(stretch);
         return;
     }
-    CurveInk ink(m_frame.size().toSize());
+    CurveInk ink = this->ink();
     for (const QVector<QPointF>& stretch : stretches) {
         for (int i = 1; i < stretch.size(); ++i)
-            ink.mark(stretch.at(i - 1) - m_frame.topLeft(), stretch.at(i) - m_frame.topLeft());
+            ink.mark(onInk(stretch.at(i - 1)), onInk(stretch.at(i)));
     }
     drawInk(ink, m_pen.widthF());
 }
@@ -44,9 +46,9 @@ void CurvePainter::drawDots(const QVector<QPointF>& points)
 {
     const double radius = m_pen.widthF() * 1.4;
     if (coversItself(points.size() * 4 * radius * radius)) {
-        CurveInk ink(m_frame.size().toSize());
+        CurveInk ink = this->ink();
         for (const QPointF& point : points)
-            ink.mark(point - m_frame.topLeft(), point - m_frame.topLeft());
+            ink.mark(onInk(point), onInk(point));
         drawInk(ink, 2 * radius);
         return;
     }
@@ -70,6 +72,24 @@ double CurvePainter::paintedPixels(const QVector<QPointF>& stretch) const
     return length * m_pen.widthF();
 }
 
+CurveInk CurvePainter::ink() const
+{
+    return CurveInk((m_frame.size() * m_resolution).toSize());
+}
+
+/// Files take a line as it is.
+void CurvePainter::drawLine(const QVector<QPointF>& stretch)
+{
+    if (m_painter.paintEngine()->type() == QPaintEngine::Raster) {
+        drawInPieces(stretch);
+        return;
+    }
+    m_painter.setPen(m_pen);
+    m_painter.setBrush(Qt::NoBrush);
+    if (stretch.size() > 1)
+        m_painter.drawPolyline(stretch.constData(), stretch.size());
+}
+
 void CurvePainter::drawInPieces(const QVector<QPointF>& stretch)
 {
     QPen pen = m_pen;
@@ -88,11 +108,14 @@ void CurvePainter::drawInPieces(const QVector<QPointF>& stretch)
 
 void CurvePainter::drawInk(const CurveInk& ink, double width)
 {
-    m_painter.setPen(QPen(m_pen.color(), width, Qt::SolidLine, Qt::RoundCap));
+    const double pixels = width * m_resolution;
+    m_painter.save();
     m_painter.translate(m_frame.topLeft());
+    m_painter.scale(1 / m_resolution, 1 / m_resolution);
+    m_painter.setPen(QPen(m_pen.color(), pixels, Qt::SolidLine, Qt::RoundCap));
     // The caps of two lines that are a pen's width apart meet; lines are a quarter of a pixel short at each end.
-    m_painter.drawLines(ink.lines(int(width - 0.5)));
-    m_painter.translate(-m_frame.topLeft());
+    m_painter.drawLines(ink.lines(int(pixels - 0.5)));
+    m_painter.restore();
 }
 
 } // namespace uiutils

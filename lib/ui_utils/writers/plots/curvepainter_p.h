@@ -18,8 +18,9 @@ class CurveInk;
 class CurvePainter
 {
 public:
-    /// All points are in the painter's coordinates and within the frame.
-    CurvePainter(QPainter& painter, const QRectF& frame, const QPen& pen);
+    /// All points are in the painter's coordinates and within the frame. `resolution` is the number of pixels for each
+    /// unit of them.
+    CurvePainter(QPainter& painter, const QRectF& frame, const QPen& pen, double resolution = 1);
 
     void drawLines(const QVector<QVector<QPointF>>& stretches);
     void drawDots(const QVector<QPointF>& points);
@@ -27,12 +28,16 @@ public:
 private:
     bool coversItself(double paintedPixels) const;
     double paintedPixels(const QVector<QPointF>& stretch) const;
+    CurveInk ink() const;
+    QPointF onInk(const QPointF& point) const { return (point - m_frame.topLeft()) * m_resolution; }
+    void drawLine(const QVector<QPointF>& stretch);
     void drawInPieces(const QVector<QPointF>& stretch);
     void drawInk(const CurveInk& ink, double width);
 
     QPainter& m_painter;
     QRectF m_frame;
     QPen m_pen;
+    double m_resolution;
 };
 
 } // namespace uiutils

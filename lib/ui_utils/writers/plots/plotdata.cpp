@@ -1,6 +1,7 @@
 #include "writers/plots/plotdata_p.h"
 
 #include "core/itemids_p.h"
+#include "writers/plots/curvepoints_p.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
@@ -15,129 +16,211 @@ namespace {
 const QLatin1String xEnd("_x:doubleARRAY:");
 const QLatin1String yEnd("_y:doubleARRAY:");
 
-/// A label or unit, cut to a length that every plot has space for: a service may hold megabytes, and each character is
-/// measured.
+constexpr int mostCurves = 500;
+// Those of the largest picture, twice.
+constexpr int columnsOfACurve = 8192;
+constexpr int columnsOfAllCurves = 8 * columnsOfACurve;
+
+// Nobody measures for thirty years: seconds between these two are points in time.
+constexpr double year2000 = 946684800;
+constexpr double year2100 = 4102444800;
+// What is shorter reads well as a number of seconds.
+constexpr double shortestDuration = 120;
+
+/// Characters that break a line, or that turn round what follows them.
+bool disturbsLine(QChar c)
+{
+    return c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line
+            || c.category() == QChar::Separator_Paragraph || (c >= QChar(0x202a) && c <= QChar(0x202e))
+            || (c >= QChar(0x2066) && c <= QChar(0x2069));
+}
+
+/// A label or unit on one line, cut to a length that every plot has space for: a service may hold megabytes, and each
+/// character is measured.
 QString shownText(const QString& text)
 {
     constexpr int longest = 200;
-    return text.size() <= longest ? text : text.left(longest - 1) + QChar(0x2026);
+    const bool isLong = text.size() > longest;
+    QString shown = isLong ? text.left(longest - 1) + QChar(0x2026) : text;
+    for (QChar& c : shown) {
+        if (disturbsLine(c))
+            c = QLatin1Char(' ');
+    }
+    return shown.simplified();
+}
+
+/// NaN for what is not a number.
+double number(const QVariant& value)
+{
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    return isNumber ? number : qQNaN();
 }
 
 AxisScale::Kind scaleKind(const KIVClientItem& item)
 {
-    return item.getAttribute(QStringLiteral("scale")).toString() == QLatin1String("log") ? AxisScale::Logarithmic
-                                                                                         : AxisScale::Linear;
+    const QString scale = item.getAttribute(QStringLiteral("scale")).toString();
+    return scale == QLatin1String("log") ? AxisScale::Logarithmic : AxisScale::Linear;
 }
 
-void addLimit(PlotData& data, const KIVClientItem& item, const QString& attribute, PlotLimit::Kind kind)
+AxisScale::Kind xScaleKind(const KIVClientItem& item)
 {
-    bool isNumber = false;
-    const double value = item.getAttribute(attribute).toDouble(&isNumber);
-    if (!isNumber || !std::isfinite(value))
+    const QString scale = item.getAttribute(QStringLiteral("scale")).toString();
+    return scale == QLatin1String("date")        ? AxisScale::Date
+            : scale == QLatin1String("duration") ? AxisScale::Duration
+                                                 : scaleKind(item);
+}
+
+/// The seconds of a unit; 0 for a unit that is not one of time.
+double secondsOf(const QString& unit)
+{
+    static const std::pair<const char*, double> units[] = {{"s", 1}, {"ms", 1e-3}, {"us", 1e-6}, {"\u00b5s", 1e-6},
+            {"ns", 1e-9}, {"min", 60}, {"h", 3600}, {"d", 86400}};
+    for (const auto& [name, seconds] : units) {
+        if (unit == QString::fromUtf8(name))
+            return seconds;
+    }
+    return 0;
+}
+
+void addLimit(PlotData& data, const KIVClientItem& item, PlotSide side, const QString& attribute, PlotLimit::Kind kind)
+{
+    const double value = number(item.getAttribute(attribute));
+    if (!std::isfinite(value))
         return;
     const bool isKnown = std::any_of(data.limits.cbegin(), data.limits.cend(),
-            [&](const PlotLimit& limit) { return limit.kind == kind && limit.value == value; });
+            [&](const PlotLimit& limit) { return limit.kind == kind && limit.value == value && limit.side == side; });
     if (!isKnown)
-        data.limits.append({kind, value, shownText(item.getUnitString())});
+        data.limits.append({kind, value, shownText(item.getUnitString()), side});
 }
 
-void addCurve(PlotData& data, const KIVClientItem& x, const KIVClientItem& y)
+/// The first unit is on the left, together with curves without one; all others are on the right.
+PlotSide sideOf(const PlotData& data, const QString& unit)
+{
+    const QStringList& left = data.axes[LeftSide].units;
+    return unit.isEmpty() || left.isEmpty() || left.contains(unit) ? LeftSide : RightSide;
+}
+
+void addPair(PlotData& data, const KIVClientItem& x, const KIVClientItem& y)
 {
     if (data.curves.isEmpty()) {
         data.xLabel = shownText(x.getLabel());
         data.xUnit = shownText(x.getUnitString());
-        data.xKind = scaleKind(x);
-        data.yKind = scaleKind(y);
+        data.xKind = xScaleKind(x);
+        data.axes[LeftSide].kind = scaleKind(y);
     }
-    const QString label = y.getLabel().isEmpty() ? y.getName() : y.getLabel();
-    data.curves.append({shownText(label), shownText(y.getUnitString()), x.getValue().toList(), y.getValue().toList()});
-    addLimit(data, y, QStringLiteral("lowerLimit"), PlotLimit::Lower);
-    addLimit(data, y, QStringLiteral("upperLimit"), PlotLimit::Upper);
+    PlotCurve curve;
+    curve.label = shownText(y.getLabel().isEmpty() ? y.getName() : y.getLabel());
+    curve.unit = shownText(y.getUnitString());
+    curve.side = sideOf(data, curve.unit);
+    curve.isMask = y.getAttribute(QStringLiteral("mask")).toBool();
+    PlotAxis& axis = data.axes[curve.side];
+    if (curve.side == RightSide && axis.units.isEmpty())
+        axis.kind = scaleKind(y);
+    if (!curve.unit.isEmpty() && !axis.units.contains(curve.unit))
+        axis.units += curve.unit;
+    addLimit(data, y, curve.side, QStringLiteral("lowerLimit"), PlotLimit::Lower);
+    addLimit(data, y, curve.side, QStringLiteral("upperLimit"), PlotLimit::Upper);
+    addCurve(data, curve, x.getValue().toList(), y.getValue().toList());
 }
 
-/// Collects the points of one pixel column.
-class Column
+/// Seconds and milliseconds that are long or recent are times, and so is what the service calls so.
+AxisScale::Kind timeKind(const PlotData& data, double seconds)
 {
-public:
-    bool isEmpty() const { return m_count == 0; }
+    if (data.xKind != AxisScale::Linear || seconds <= 0 || seconds > 1)
+        return data.xKind;
+    Interval extent = data.xExtent();
+    if (extent.isEmpty())
+        return data.xKind;
+    extent = {extent.low * seconds, extent.high * seconds};
+    if (extent.low >= year2000 && extent.high < year2100)
+        return AxisScale::Date;
+    return extent.extent() >= shortestDuration ? AxisScale::Duration : AxisScale::Linear;
+}
 
-    void take(const QPointF& point)
-    {
-        if (m_count == 0)
-            m_first = m_lowest = m_highest = {point, 0};
-        if (point.y() < m_lowest.point.y())
-            m_lowest = {point, m_count};
-        if (point.y() > m_highest.point.y())
-            m_highest = {point, m_count};
-        m_last = {point, m_count};
-        ++m_count;
+void settleTimes(PlotData& data)
+{
+    const double unit = secondsOf(data.xUnit);
+    data.xKind = timeKind(data, unit);
+    if (data.xKind != AxisScale::Date && data.xKind != AxisScale::Duration)
+        return;
+    const double seconds = unit > 0 ? unit : 1;
+    data.xUnit = QStringLiteral("s");
+    for (PlotCurve& curve : data.curves) {
+        curve.extent.x.low *= seconds;
+        curve.extent.x.high *= seconds;
+        for (QPointF& point : curve.points)
+            point.rx() *= seconds;
     }
-
-    void moveTo(QVector<QPointF>& stretch)
-    {
-        Entry entries[] = {m_first, m_lowest, m_highest, m_last};
-        std::sort(std::begin(entries), std::end(entries),
-                [](const Entry& a, const Entry& b) { return a.order < b.order; });
-        int previous = -1;
-        for (const Entry& entry : entries) {
-            if (m_count > 0 && entry.order != previous)
-                stretch += entry.point;
-            previous = entry.order;
-        }
-        m_count = 0;
-    }
-
-private:
-    struct Entry
-    {
-        QPointF point;
-        int order = 0;
-    };
-    Entry m_first;
-    Entry m_lowest;
-    Entry m_highest;
-    Entry m_last;
-    int m_count = 0;
-};
+}
 
 } // namespace
 
-PlotExtent PlotData::extent() const
+Interval PlotData::xExtent() const
 {
-    PlotExtent extent;
+    Interval extent;
+    for (const PlotCurve& curve : curves)
+        extent.include(curve.extent.x);
+    return extent;
+}
+
+Interval PlotData::yExtent(PlotSide side) const
+{
+    Interval extent;
     for (const PlotCurve& curve : curves) {
-        const PlotExtent own = extentOf(curve);
-        if (own.x.isEmpty())
-            continue;
-        extent.x.include(own.x.low);
-        extent.x.include(own.x.high);
-        extent.y.include(own.y.low);
-        extent.y.include(own.y.high);
+        if (curve.side == side)
+            extent.include(curve.extent.y);
     }
+    const bool isLinear = axes[side].kind == AxisScale::Linear;
+    Interval levels;
     for (const PlotLimit& limit : limits) {
-        if (yKind == AxisScale::Linear || limit.value > 0)
-            extent.y.include(limit.value);
+        if (limit.side == side && (isLinear || limit.value > 0))
+            levels.include(limit.value);
     }
+    if (levels.isEmpty())
+        return extent;
+    extent.include(levels);
+    // A limit at the end of the axis would lie on the frame.
+    const double pad = isLinear ? 0.02 * extent.extent() : 0;
+    if (levels.low <= extent.low)
+        extent.include(extent.low - pad);
+    if (levels.high >= extent.high)
+        extent.include(extent.high + pad);
     return extent;
 }
 
-PlotExtent PlotData::extentOf(const PlotCurve& curve) const
+bool PlotData::isDrawable(const QPointF& point, PlotSide side) const
 {
-    PlotExtent extent;
-    for (int i = 0; i < curve.size(); ++i) {
-        const QPointF point = curve.point(i);
-        if (!isDrawable(point))
+    return std::isfinite(point.x()) && std::isfinite(point.y()) && (xKind != AxisScale::Logarithmic || point.x() > 0)
+            && (axes[side].kind != AxisScale::Logarithmic || point.y() > 0);
+}
+
+void addCurve(PlotData& data, PlotCurve curve, const QVariantList& xs, const QVariantList& ys)
+{
+    if (data.curves.size() >= mostCurves) {
+        ++data.omitted;
+        return;
+    }
+    curve.size = std::min(xs.size(), ys.size());
+    for (int i = 0; i < curve.size; ++i) {
+        const QPointF point(number(xs.at(i)), number(ys.at(i)));
+        if (!data.isDrawable(point, curve.side))
             continue;
-        extent.x.include(point.x());
-        extent.y.include(point.y());
+        curve.extent.x.include(point.x());
+        curve.extent.y.include(point.y());
     }
-    return extent;
-}
-
-bool PlotData::isDrawable(const QPointF& point) const
-{
-    return std::isfinite(point.x()) && std::isfinite(point.y()) && (xKind == AxisScale::Linear || point.x() > 0)
-            && (yKind == AxisScale::Linear || point.y() > 0);
+    const AxisScale scale(curve.extent.x, data.xKind == AxisScale::Logarithmic ? data.xKind : AxisScale::Linear,
+            AxisScale::AtData, 3);
+    CurvePoints points(std::min(columnsOfACurve, columnsOfAllCurves / (data.curves.size() + 1)));
+    for (int i = 0; i < curve.size; ++i) {
+        const QPointF point(number(xs.at(i)), number(ys.at(i)));
+        if (data.isDrawable(point, curve.side))
+            points.add(scale.position(point.x()), point);
+        else
+            points.interrupt();
+    }
+    curve.points = points.take();
+    data.curves += curve;
 }
 
 PlotData readPlotData(const QString& service)
@@ -153,38 +236,35 @@ PlotData readPlotData(const QString& service)
         const KIVClientItem* x = client->getItem(id);
         const KIVClientItem* y = client->getItem(id.left(id.size() - xEnd.size()) + yEnd);
         if (x && y)
-            addCurve(data, *x, *y);
+            addPair(data, *x, *y);
     }
+    settleTimes(data);
     return data;
 }
 
 QVector<QVector<QPointF>> visibleStretches(
-        const PlotData& data, const PlotCurve& curve, const AxisScale& xScale, const AxisScale& yScale, int columns)
+        const PlotCurve& curve, const AxisScale& xScale, const AxisScale& yScale, int columns)
 {
-    QVector<QVector<QPointF>> stretches;
-    QVector<QPointF> stretch;
-    Column column;
-    int currentColumn = -1;
-    const auto endStretch = [&] {
-        column.moveTo(stretch);
-        if (!stretch.isEmpty())
-            stretches += stretch;
-        stretch.clear();
-    };
-    for (int i = 0; i < curve.size(); ++i) {
-        const QPointF point = curve.point(i);
-        if (!data.isDrawable(point)) {
-            endStretch();
+    CurvePoints visible(columns);
+    for (const QPointF& point : curve.points) {
+        if (CurvePoints::isInterruption(point)) {
+            visible.interrupt();
             continue;
         }
         const QPointF position(xScale.position(point.x()), yScale.position(point.y()));
-        const int pixelColumn = int(qBound(0.0, position.x(), 1.0) * columns);
-        if (pixelColumn != currentColumn)
-            column.moveTo(stretch);
-        currentColumn = pixelColumn;
-        column.take(position);
+        visible.add(position.x(), position);
     }
-    endStretch();
+    const QVector<QPointF> points = visible.take();
+    QVector<QVector<QPointF>> stretches;
+    bool isOpen = false;
+    for (const QPointF& point : points) {
+        const bool isEnd = CurvePoints::isInterruption(point);
+        if (!isEnd && !isOpen)
+            stretches += QVector<QPointF>();
+        if (!isEnd)
+            stretches.last() += point;
+        isOpen = !isEnd;
+    }
     return stretches;
 }
 

@@ -4,31 +4,36 @@
 
 #include <QPointF>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <QVector>
-#include <QtMath>
 
 namespace uiutils {
 
-/// One curve of a plot, with the points of the service: the shorter array determines how many there are.
+/// The values of points that can be drawn.
+struct PlotExtent
+{
+    Interval x;
+    Interval y;
+};
+
+/// Which side of a plot has the axis of a value.
+enum PlotSide { LeftSide, RightSide };
+
+/// One curve of a plot.
 struct PlotCurve
 {
     QString label;
     QString unit;
-    QVariantList xs;
-    QVariantList ys;
-
-    int size() const { return qMin(xs.size(), ys.size()); }
-    /// A coordinate that is not a number is NaN.
-    QPointF point(int index) const { return {number(xs.at(index)), number(ys.at(index))}; }
-
-private:
-    static double number(const QVariant& value)
-    {
-        bool isNumber = false;
-        const double number = value.toDouble(&isNumber);
-        return isNumber ? number : qQNaN();
-    }
+    PlotSide side = LeftSide;
+    /// A mask is a limit that is not the same everywhere.
+    bool isMask = false;
+    /// How many points the service has: the shorter array determines.
+    int size = 0;
+    /// Of all of them.
+    PlotExtent extent;
+    /// As many of them as pictures can show, with CurvePoints::interruption() where some cannot be drawn.
+    QVector<QPointF> points;
 };
 
 /// A level that the curves are compared with.
@@ -38,13 +43,15 @@ struct PlotLimit
     Kind kind;
     double value;
     QString unit;
+    PlotSide side = LeftSide;
 };
 
-/// The values that the axes of a plot have to show: those of points that can be drawn, and the limits.
-struct PlotExtent
+/// What an axis of values shows.
+struct PlotAxis
 {
-    Interval x;
-    Interval y;
+    AxisScale::Kind kind = AxisScale::Linear;
+    /// Of its curves: one on the left, those of all other curves on the right.
+    QStringList units;
 };
 
 /// The plot as the service describes it.
@@ -52,26 +59,32 @@ struct PlotData
 {
     QVector<PlotCurve> curves;
     QVector<PlotLimit> limits;
+    /// How many curves a service has beyond those.
+    int omitted = 0;
     QString xLabel;
+    /// "s" where the axis is one of times.
     QString xUnit;
     AxisScale::Kind xKind = AxisScale::Linear;
-    AxisScale::Kind yKind = AxisScale::Linear;
+    /// One for each side.
+    PlotAxis axes[2];
 
-    PlotExtent extent() const;
-    /// The same for the points of one curve only.
-    PlotExtent extentOf(const PlotCurve& curve) const;
+    bool has(PlotSide side) const { return side == LeftSide || !axes[side].units.isEmpty(); }
+    Interval xExtent() const;
+    /// Of the curves of a side, and of the limits.
+    Interval yExtent(PlotSide side) const;
     /// Whether a point is finite, and positive along logarithmic axes.
-    bool isDrawable(const QPointF& point) const;
+    bool isDrawable(const QPointF& point, PlotSide side) const;
 };
+
+/// Adds a curve from the arrays of a service: what pictures can show of it.
+void addCurve(PlotData& data, PlotCurve curve, const QVariantList& xs, const QVariantList& ys);
 
 /// Reads the curves of a service: pairs of result arrays whose ids end in "_x:doubleARRAY:" and "_y:doubleARRAY:" and
 /// agree before that. Empty if there is no such service.
 PlotData readPlotData(const QString& service);
 
-/// Thins a curve out to what `columns` pixel columns can show. Of neighbouring points in one column only the first, the
-/// lowest, the highest and the last remain, so that no spike is lost; a point that cannot be drawn interrupts the
-/// curve. Returns the connected stretches, in positions 0 to 1 along both axes.
+/// What `columns` columns can show of a curve: the connected stretches, in positions 0 to 1 along both axes.
 QVector<QVector<QPointF>> visibleStretches(
-        const PlotData& data, const PlotCurve& curve, const AxisScale& xScale, const AxisScale& yScale, int columns);
+        const PlotCurve& curve, const AxisScale& xScale, const AxisScale& yScale, int columns);
 
 } // namespace uiutils

@@ -4,22 +4,16 @@
 #include "base/paths_p.h"
 #include "writers/plots/plotpainter_p.h"
 
-#include <QBuffer>
-#include <QImage>
-#include <QPainter>
-
-namespace {
-
-constexpr int maximumSide = 4000;
-
-} // namespace
+#include <QColor>
+#include <QSize>
 
 class uiutils::PlotImagePrivate
 {
 public:
-    QImage draw() const;
+    QByteArray draw() const;
 
     QString service;
+    QString title;
     QColor background = Qt::white;
     QSize size;
     int pixelScale = 1;
@@ -41,15 +35,17 @@ void PlotImage::setService(const QString& service)
 
 void PlotImage::setCurveBackground(const QString& color)
 {
-    d->background = QColor(color);
-    if (!d->background.isValid())
-        d->background = Qt::white;
+    d->background = uiutils::plotBackground(color);
 }
 
 void PlotImage::setSize(int width, int height)
 {
-    d->size = QSize(
-            width < 1 ? 600 : qBound(50, width, maximumSide), height < 1 ? 400 : qBound(50, height, maximumSide));
+    d->size = uiutils::plotSize(width, height);
+}
+
+void PlotImage::setTitle(const QString& title)
+{
+    d->title = title;
 }
 
 void PlotImage::setPixelScale(int scale)
@@ -64,23 +60,14 @@ QByteArray PlotImage::getData() const
 
 bool PlotImage::write(const QString& path)
 {
-    d->data.clear();
-    QBuffer buffer(&d->data);
-    buffer.open(QIODevice::WriteOnly);
-    d->draw().save(&buffer, "PNG");
+    d->data = d->draw();
     const QString place = uiutils::onDisk(path);
     return path.startsWith(uiutils::paths::plotImageStem) ? uiutils::writeFileForNow(place, d->data)
                                                           : uiutils::writeFileDurably(place, d->data);
 }
 
-QImage uiutils::PlotImagePrivate::draw() const
+QByteArray uiutils::PlotImagePrivate::draw() const
 {
-    // Never more pixels than the largest picture.
-    const QSize pixels = (size * pixelScale).boundedTo(QSize(maximumSide, maximumSide));
-    QImage image(pixels, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    const uiutils::PlotData plot = uiutils::readPlotData(service);
-    QPainter painter(&image);
-    uiutils::PlotPainter(painter, plot, pixels, background).draw();
-    return image;
+    const auto data = std::make_shared<PlotData>(readPlotData(service));
+    return plotPicture(PlotLayout(data, title, size), background, pixelScale);
 }

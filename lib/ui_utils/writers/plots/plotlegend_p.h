@@ -5,6 +5,7 @@
 #include <QPen>
 #include <QPointF>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 namespace uiutils {
@@ -16,34 +17,52 @@ struct LegendEntry
     QPen pen;
 };
 
-/// The legend of a plot: entries side by side in at most three rows. If there are more, the last entry says how many.
+/// Lines of text that follow each other, from `begin` up to, but not including, `end`.
+struct LineRange
+{
+    int begin = 0;
+    int end = 0;
+
+    int count() const { return end - begin; }
+};
+
+/// The legend of a plot: all entries in columns, row by row. One that is wider than half the legend has rows of its
+/// own, and is wrapped. Only in a legend of more than 200 lines texts are cut; if it still has more, its last entry
+/// says how many are left out.
 class PlotLegend
 {
 public:
     struct Place
     {
-        LegendEntry entry;
-        int row;
+        QPen pen;
+        QStringList lines;
+        int line;
         double left;
         double width;
     };
 
     PlotLegend() = default;
-    /// `unit` is the plot's measure of distances, `width` the width of a row; both in pixels.
-    PlotLegend(const QVector<LegendEntry>& entries, const QFontMetricsF& metrics, double unit, double width);
+    /// `unit` is the plot's measure of distances. `omitted` entries are left out in any case.
+    PlotLegend(
+            const QVector<LegendEntry>& entries, int omitted, const QFontMetricsF& metrics, double unit, double width);
 
-    int rowCount() const { return m_places.isEmpty() ? 0 : m_places.constLast().row + 1; }
+    int lineCount() const { return m_lineCount; }
     const QVector<Place>& places() const { return m_places; }
 
-    /// Draws the entries in the painter's font, the first row at `topLeft`.
-    void draw(QPainter& painter, const QPointF& topLeft, const QColor& ink) const;
+    /// The legend in ranges of at most `lines` lines that tear no entry; more only for an entry with more.
+    QVector<LineRange> parts(int lines) const;
+
+    /// Draws the lines of a range in the painter's font, the first one at `topLeft`.
+    void draw(QPainter& painter, const QPointF& topLeft, LineRange range, const QColor& ink) const;
 
 private:
-    bool place(const LegendEntry& entry, const QFontMetricsF& metrics);
-    void placeCount(int total, const QFontMetricsF& metrics);
+    void place(const QVector<LegendEntry>& entries, const QFontMetricsF& metrics, bool wraps);
+    void placeRow(const LegendEntry& entry, const QFontMetricsF& metrics, bool wraps);
+    void cut(int omitted);
 
     double m_unit = 0;
     double m_width = 0;
+    int m_lineCount = 0;
     QVector<Place> m_places;
 };
 

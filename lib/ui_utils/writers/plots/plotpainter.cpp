@@ -2,7 +2,9 @@
 
 #include "writers/plots/curvepainter_p.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
+#include <QImage>
 #include <QLocale>
 
 #include <algorithm>
@@ -12,192 +14,164 @@ namespace uiutils {
 
 namespace {
 
-// Distinguishable with any colour vision; after the last colour the dashes change.
-const QRgb curveColors[] = {0x00689b, 0xd55e00, 0x009e73, 0xaa4499, 0x7a5195, 0x444444};
-const QRgb limitColor = 0xc62828;
 const QRgb gridColor = 0xd5dbe0;
 const QRgb minorGridColor = 0xedf0f2;
 const QRgb inkColor = 0x263238;
-constexpr int curvesThatShowTheirPoints = 60;
-
-QString titled(const QString& label, const QString& unit)
-{
-    if (unit.isEmpty())
-        return label;
-    return label.isEmpty() ? unit : QStringLiteral("%1 (%2)").arg(label, unit);
-}
+// Of a solid line; dots between dashes must be farther apart.
+constexpr int mostMarkedPoints = 60;
+constexpr double mostPixels = 4000;
+// Of all curves together, in columns for each pixel: what many curves show of each other is little.
+constexpr double columnsOfAllCurves = 16;
 
 } // namespace
 
-PlotPainter::PlotPainter(QPainter& painter, const PlotData& data, const QSize& size, const QColor& background)
+PlotPainter::PlotPainter(QPainter& painter, const PlotLayout& layout, const QColor& background, double resolution)
     : m_painter(painter)
-    , m_data(data)
-    , m_size(size)
+    , m_layout(layout)
+    , m_data(layout.data())
+    , m_frame(layout.frame())
+    , m_unit(layout.unit())
     , m_background(background)
-    , m_unit(qBound(10.0, std::min(size.width(), size.height()) / 26.0, 30.0))
-    , m_metrics(scaledFont())
-    , m_extent(data.extent())
-    , m_x(m_extent.x, data.xKind, AxisScale::AtData, int(size.width() / (m_unit * 6)))
-    , m_y(m_extent.y, data.yKind, AxisScale::AtTicks, int(size.height() / (m_unit * 3)))
+    , m_resolution(resolution)
 {
 }
 
-QFont PlotPainter::scaledFont() const
-{
-    QFont font(QStringLiteral("sans-serif"));
-    font.setPixelSize(int(m_unit));
-    return font;
-}
-
-void PlotPainter::draw()
+void PlotPainter::draw(LineRange legend)
 {
     m_painter.setRenderHint(QPainter::Antialiasing);
-    m_painter.setFont(scaledFont());
-    layOut();
+    m_painter.setFont(m_layout.font());
     if (m_frame.width() < 2 || m_frame.height() < 2)
         return;
+    drawTitles();
     m_painter.fillRect(m_frame, m_background);
     drawGrid();
-    m_painter.setClipRect(m_frame.adjusted(-1, -1, 1, 1));
+    m_painter.save();
+    m_painter.setClipRect(m_frame.adjusted(-1, -1, 1, 1), Qt::IntersectClip);
     for (int i = 0; i < m_data.curves.size(); ++i)
         drawCurve(i);
     drawLimits();
-    m_painter.setClipping(false);
-    if (m_extent.x.isEmpty())
+    m_painter.restore();
+    m_painter.setPen(QColor(inkColor));
+    if (m_data.xExtent().isEmpty())
         m_painter.drawText(m_frame, Qt::AlignCenter, QCoreApplication::translate("PlotImage", "No data"));
     drawTickLabels();
-    drawTitles();
-    m_legend.draw(m_painter, m_legendPlace, QColor(inkColor));
+    m_layout.legend().draw(m_painter, m_layout.legendPlace(), legend, QColor(inkColor));
 }
 
-void PlotPainter::layOut()
+void PlotPainter::drawRight(const QPointF& baseLine, const QString& text)
 {
-    const QLocale locale;
-    const double line = m_metrics.height();
-    double labelWidth = 0;
-    for (const double tick : m_y.ticks())
-        labelWidth = std::max(labelWidth, m_metrics.horizontalAdvance(m_y.label(tick, locale)));
-    const double endLabel
-            = m_x.ticks().isEmpty() ? 0 : m_metrics.horizontalAdvance(m_x.label(m_x.ticks().constLast(), locale));
-
-    const double left = labelWidth + 1.2 * m_unit;
-    const double right = std::max(0.6 * m_unit, endLabel / 2 + 0.3 * m_unit);
-    m_legend = PlotLegend(legendEntries(), m_metrics, m_unit, m_size.width() - left - right);
-    const double legendHeight = m_legend.rowCount() * line;
-    const double top = line + legendHeight + 0.8 * m_unit;
-    const double bottom = 2 * line + 0.9 * m_unit;
-    // Whole pixels, so that a curve is thinned out in the same columns in which it is drawn.
-    m_frame = QRectF(left, top, m_size.width() - left - right, m_size.height() - top - bottom).toRect();
-    m_legendPlace = QPointF(m_frame.left(), line + 0.4 * m_unit);
+    m_painter.drawText(baseLine - QPointF(m_layout.metrics().horizontalAdvance(text), 0), text);
 }
 
-QPen PlotPainter::curvePen(int index) const
+void PlotPainter::drawTitles()
 {
-    const int colors = int(std::size(curveColors));
-    const Qt::PenStyle styles[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine};
-    const Qt::PenStyle style = styles[std::min(index / colors, 3)];
-    return QPen(QColor(curveColors[index % colors]), std::max(1.2, m_unit / 9), style, Qt::RoundCap, Qt::RoundJoin);
-}
-
-QPen PlotPainter::limitPen() const
-{
-    return QPen(QColor(limitColor), std::max(1.0, m_unit / 10), Qt::DashLine);
-}
-
-QString PlotPainter::yTitle() const
-{
-    if (m_data.curves.isEmpty())
-        return QString();
-    const PlotCurve& first = m_data.curves.constFirst();
-    if (m_data.curves.size() == 1)
-        return titled(first.label, first.unit);
-    const bool isShared = std::all_of(m_data.curves.cbegin(), m_data.curves.cend(),
-            [&](const PlotCurve& curve) { return curve.unit == first.unit; });
-    return isShared ? first.unit : QString();
-}
-
-QVector<LegendEntry> PlotPainter::legendEntries() const
-{
-    QVector<LegendEntry> entries;
-    const bool isShared = !yTitle().isEmpty();
-    for (int i = 0; m_data.curves.size() > 1 && i < m_data.curves.size(); ++i) {
-        const PlotCurve& curve = m_data.curves.at(i);
-        entries.append({isShared ? curve.label : titled(curve.label, curve.unit), curvePen(i)});
+    const double right = m_layout.size().width();
+    const double ascent = m_layout.metrics().ascent();
+    m_painter.setPen(QColor(inkColor));
+    m_painter.setFont(m_layout.titleFont());
+    for (int i = 0; i < m_layout.titleLines().size(); ++i) {
+        const QString& line = m_layout.titleLines().at(i);
+        const double width = QFontMetricsF(m_layout.titleFont()).horizontalAdvance(line);
+        const double left = m_layout.title().isRightToLeft() ? right - width : 0;
+        m_painter.drawText(QPointF(left, 0.2 * m_unit + i * m_layout.lineHeight() + ascent), line);
     }
-    const QLocale locale;
-    for (const PlotLimit& limit : m_data.limits) {
-        const QString text = limit.kind == PlotLimit::Lower ? QCoreApplication::translate("PlotImage", "at least %1 %2")
-                                                            : QCoreApplication::translate("PlotImage", "at most %1 %2");
-        entries.append({text.arg(locale.toString(limit.value, 'g', 6), limit.unit).trimmed(), limitPen()});
-    }
-    return entries;
+    m_painter.setFont(m_layout.font());
+    const double baseLine = m_layout.axisTitleTop() + ascent;
+    m_painter.drawText(QPointF(0, baseLine), m_layout.axisTitle(LeftSide));
+    if (m_data.has(RightSide))
+        drawRight(QPointF(right, baseLine), m_layout.axisTitle(RightSide));
+    const QString xTitle = m_layout.xTitle();
+    const double width = m_layout.metrics().horizontalAdvance(xTitle);
+    m_painter.drawText(
+            QPointF(m_frame.center().x() - width / 2, m_frame.bottom() + 0.6 * m_unit + m_layout.lineHeight() + ascent),
+            xTitle);
 }
 
 void PlotPainter::drawGrid()
 {
     const auto drawLines = [this](const QVector<double>& xs, const QVector<double>& ys, QRgb color) {
-        m_painter.setPen(QPen(QColor(color), 1));
+        m_painter.setPen(QPen(QColor(color), 1, Qt::SolidLine, Qt::FlatCap));
         for (const double x : xs)
-            m_painter.drawLine(QPointF(xAt(x), m_frame.top()), QPointF(xAt(x), m_frame.bottom()));
-        for (const double y : ys)
-            m_painter.drawLine(QPointF(m_frame.left(), yAt(y)), QPointF(m_frame.right(), yAt(y)));
+            m_painter.drawLine(QPointF(m_layout.xAt(x), m_frame.top()), QPointF(m_layout.xAt(x), m_frame.bottom()));
+        for (const double y : ys) {
+            const double at = m_layout.yAt(y, LeftSide);
+            m_painter.drawLine(QPointF(m_frame.left(), at), QPointF(m_frame.right(), at));
+        }
     };
-    drawLines(m_x.minorTicks(), m_y.minorTicks(), minorGridColor);
-    drawLines(m_x.ticks(), m_y.ticks(), gridColor);
-    m_painter.setPen(QPen(QColor(inkColor), 1));
+    drawLines(m_layout.x().minorTicks(), m_layout.y(LeftSide).minorTicks(), minorGridColor);
+    drawLines(m_layout.x().ticks(), m_layout.y(LeftSide).ticks(), gridColor);
+    m_painter.setPen(QPen(QColor(inkColor), 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     m_painter.drawRect(m_frame);
 }
 
 void PlotPainter::drawTickLabels()
 {
+    drawTickLabels(LeftSide);
+    if (m_data.has(RightSide))
+        drawTickLabels(RightSide);
     const QLocale locale;
-    const double line = m_metrics.height();
-    m_painter.setPen(QColor(inkColor));
-    for (const double tick : m_y.ticks()) {
-        const QRectF box(0, yAt(tick) - line / 2, m_frame.left() - 0.5 * m_unit, line);
-        m_painter.drawText(box, Qt::AlignRight | Qt::AlignVCenter, m_y.label(tick, locale));
-    }
+    const QFontMetricsF metrics = m_layout.metrics();
     double free = 0;
-    for (const double tick : m_x.ticks()) {
-        const QString text = m_x.label(tick, locale);
-        const double width = m_metrics.horizontalAdvance(text);
-        const double left = qBound(0.0, xAt(tick) - width / 2, std::max(0.0, m_size.width() - width));
-        m_painter.drawLine(QPointF(xAt(tick), m_frame.bottom()), QPointF(xAt(tick), m_frame.bottom() + 0.3 * m_unit));
+    for (const double tick : m_layout.x().ticks()) {
+        const QString text = m_layout.x().label(tick, locale);
+        const double width = metrics.horizontalAdvance(text);
+        const double x = m_layout.xAt(tick);
+        const double left = qBound(0.0, x - width / 2, std::max(0.0, m_layout.size().width() - width));
+        m_painter.drawLine(QPointF(x, m_frame.bottom()), QPointF(x, m_frame.bottom() + 0.3 * m_unit));
         if (left < free)
             continue;
-        m_painter.drawText(QRectF(left, m_frame.bottom() + 0.4 * m_unit, width + 1, line), Qt::AlignLeft, text);
+        m_painter.drawText(QPointF(left, m_frame.bottom() + 0.4 * m_unit + metrics.ascent()), text);
         free = left + width + 0.5 * m_unit;
     }
 }
 
-void PlotPainter::drawTitles()
+void PlotPainter::drawTickLabels(PlotSide side)
 {
-    const double line = m_metrics.height();
-    const auto drawTitle = [this](const QRectF& box, int alignment, const QString& title) {
-        m_painter.drawText(box, alignment, m_metrics.elidedText(title, Qt::ElideRight, box.width()));
-    };
-    m_painter.setPen(QColor(inkColor));
-    const double margin = 0.4 * m_unit;
-    drawTitle(QRectF(margin, 0.2 * m_unit, m_size.width() - 2 * margin, line), Qt::AlignLeft, yTitle());
-    drawTitle(QRectF(m_frame.left(), m_size.height() - line - 0.2 * m_unit, m_frame.width(), line), Qt::AlignHCenter,
-            titled(m_data.xLabel, m_data.xUnit));
+    const QLocale locale;
+    const QFontMetricsF metrics = m_layout.metrics();
+    const AxisScale& scale = m_layout.y(side);
+    for (const double tick : scale.ticks()) {
+        const QString text = scale.label(tick, locale);
+        const double y = m_layout.yAt(tick, side);
+        const double baseLine = y + (metrics.ascent() - metrics.descent()) / 2;
+        if (side == LeftSide) {
+            drawRight(QPointF(m_frame.left() - 0.5 * m_unit, baseLine), text);
+            continue;
+        }
+        m_painter.drawLine(QPointF(m_frame.right(), y), QPointF(m_frame.right() + 0.3 * m_unit, y));
+        m_painter.drawText(QPointF(m_frame.right() + 0.6 * m_unit, baseLine), text);
+    }
 }
 
 void PlotPainter::drawLimits()
 {
-    m_painter.setPen(limitPen());
+    const QPen pen = m_layout.limitPen();
     for (const PlotLimit& limit : m_data.limits) {
-        const double y = yAt(limit.value);
-        if (std::isfinite(y))
-            m_painter.drawLine(QPointF(m_frame.left(), y), QPointF(m_frame.right(), y));
+        const double y = m_layout.yAt(limit.value, limit.side);
+        if (!std::isfinite(y))
+            continue;
+        const QLineF line(m_frame.left(), y, m_frame.right(), y);
+        // The dashes can be seen on a line of the frame too.
+        m_painter.setPen(QPen(m_background, pen.widthF(), Qt::SolidLine, Qt::FlatCap));
+        m_painter.drawLine(line);
+        m_painter.setPen(pen);
+        m_painter.drawLine(line);
     }
+}
+
+double PlotPainter::columnsOfAPixel() const
+{
+    return qBound(0.5, columnsOfAllCurves / std::max(1, m_data.curves.size()), m_resolution);
 }
 
 void PlotPainter::drawCurve(int index)
 {
     const PlotCurve& curve = m_data.curves.at(index);
-    const bool showsPoints = curve.size() <= curvesThatShowTheirPoints;
-    QVector<QVector<QPointF>> stretches = visibleStretches(m_data, curve, m_x, m_y, std::max(1, int(m_frame.width())));
+    const QPen pen = curve.isMask ? m_layout.limitPen() : m_layout.curvePen(index);
+    const int most = pen.style() == Qt::SolidLine ? mostMarkedPoints : int(m_frame.width() / (3 * m_unit));
+    const bool showsPoints = curve.size <= most && !curve.isMask;
+    const int columns = std::max(1, int(m_frame.width() * columnsOfAPixel()));
+    QVector<QVector<QPointF>> stretches = visibleStretches(curve, m_layout.x(), m_layout.y(curve.side), columns);
     QVector<QPointF> dots;
     for (QVector<QPointF>& stretch : stretches) {
         for (QPointF& point : stretch)
@@ -207,9 +181,33 @@ void PlotPainter::drawCurve(int index)
         if (showsPoints || stretch.size() == 1)
             dots += stretch;
     }
-    CurvePainter painter(m_painter, m_frame, curvePen(index));
+    CurvePainter painter(m_painter, m_frame, pen, m_resolution);
     painter.drawLines(stretches);
     painter.drawDots(dots);
+}
+
+QColor plotBackground(const QString& name)
+{
+    const QColor color(name);
+    return color.isValid() ? color : QColor(Qt::white);
+}
+
+QByteArray plotPicture(const PlotLayout& layout, const QColor& background, int scale)
+{
+    const QSizeF size = layout.size();
+    const double factor = std::min({double(scale), mostPixels / size.width(), mostPixels / size.height()});
+    const QSizeF pixels = size * factor;
+    QImage image(std::max(1, qRound(pixels.width())), std::max(1, qRound(pixels.height())), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.scale(factor, factor);
+    PlotPainter(painter, layout, background, factor).draw({0, layout.legend().lineCount()});
+    painter.end();
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return png;
 }
 
 } // namespace uiutils

@@ -1,53 +1,48 @@
 #pragma once
 
-#include "writers/plots/plotdata_p.h"
-#include "writers/plots/plotlegend_p.h"
+#include "writers/plots/plotlayout_p.h"
 
+#include <QByteArray>
 #include <QColor>
-#include <QFontMetricsF>
 #include <QPainter>
-#include <QRectF>
-#include <QSize>
 
 namespace uiutils {
 
-/// Draws a plot into a picture of any size: title row, legend, grid, axes with round ticks, limits, curves.
+/// Draws a plot: title, grid, axes with round ticks, curves, limits, legend. The same drawing at every resolution and
+/// on every device.
 class PlotPainter
 {
 public:
-    PlotPainter(QPainter& painter, const PlotData& data, const QSize& size, const QColor& background);
+    /// Curves show `resolution` columns for each pixel of the layout.
+    PlotPainter(QPainter& painter, const PlotLayout& layout, const QColor& background, double resolution);
 
-    void draw();
+    /// Draws the plot at (0, 0), with the lines of the legend below.
+    void draw(LineRange legend);
 
 private:
-    QFont scaledFont() const;
-    QPen curvePen(int index) const;
-    QPen limitPen() const;
-    QVector<LegendEntry> legendEntries() const;
-    QString yTitle() const;
-
-    void layOut();
+    void drawTitles();
+    void drawRight(const QPointF& baseLine, const QString& text);
     void drawGrid();
     void drawTickLabels();
-    void drawTitles();
+    void drawTickLabels(PlotSide side);
     void drawLimits();
     void drawCurve(int index);
-
-    double xAt(double value) const { return m_frame.left() + m_x.position(value) * m_frame.width(); }
-    double yAt(double value) const { return m_frame.bottom() - m_y.position(value) * m_frame.height(); }
+    double columnsOfAPixel() const;
 
     QPainter& m_painter;
+    const PlotLayout& m_layout;
     const PlotData& m_data;
-    QSizeF m_size;
-    QColor m_background;
-    double m_unit;
-    QFontMetricsF m_metrics;
-    PlotExtent m_extent;
-    AxisScale m_x;
-    AxisScale m_y;
     QRectF m_frame;
-    PlotLegend m_legend;
-    QPointF m_legendPlace;
+    double m_unit;
+    QColor m_background;
+    double m_resolution;
 };
+
+/// A colour by its name in CSS or "#rrggbb"; white for an empty or unknown one.
+QColor plotBackground(const QString& name);
+
+/// A PNG of the plot with its whole legend, with `scale` pixels for each pixel of the layout; fewer if it would have
+/// more than 4,000 along a side.
+QByteArray plotPicture(const PlotLayout& layout, const QColor& background, int scale);
 
 } // namespace uiutils

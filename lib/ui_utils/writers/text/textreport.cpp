@@ -49,9 +49,9 @@ TextTable plotTable(const PlotData& data)
                     ReportWords::tr("Maximum")});
     for (int i = 0; i < qMin(data.curves.size(), mostCurves); ++i) {
         const PlotCurve& curve = data.curves.at(i);
-        const PlotExtent extent = data.extentOf(curve);
+        const PlotExtent& extent = curve.extent;
         table.startRow(withUnit(curve.label, curve.unit));
-        table.addCell(Points, QLocale().toString(curve.size()), Status::None, Alignment::Right);
+        table.addCell(Points, QLocale().toString(curve.size), Status::None, Alignment::Right);
         if (extent.x.isEmpty())
             continue;
         const QString range = ReportWords::tr("%1 to %2");

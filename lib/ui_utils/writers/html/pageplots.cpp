@@ -1,0 +1,49 @@
+#include "writers/html/pageplots_p.h"
+
+#include "writers/html/plotdrawing_p.h"
+#include "writers/plots/plotpainter_p.h"
+
+namespace uiutils {
+
+namespace {
+
+constexpr int mostTitledPictures = 100;
+
+} // namespace
+
+PagePlots::PagePlots(const QSize& size, const QColor& background)
+    : m_size(size)
+    , m_background(background)
+{
+    m_data.insert(QString(), std::make_shared<PlotData>());
+}
+
+/// All services without curves look alike, and a document may name thousands that do not exist.
+PagePlots::Plot PagePlots::plot(const QString& service, const QString& title)
+{
+    auto known = m_data.constFind(service);
+    if (known == m_data.constEnd()) {
+        const auto data = std::make_shared<PlotData>(readPlotData(service));
+        known = data->curves.isEmpty() ? m_data.constFind(QString()) : m_data.insert(service, data);
+    }
+    return std::make_shared<const PlotLayout>(*known, title, m_size);
+}
+
+QByteArray PagePlots::picture(const Plot& plot)
+{
+    const bool hasRoom = m_pictures.size() < mostTitledPictures;
+    const QPair<const PlotData*, QString> own(&plot->data(), plot->title());
+    const auto known = m_pictures.constFind(own);
+    if (known != m_pictures.constEnd())
+        return *known;
+    if (hasRoom || plot->title().isEmpty())
+        return *m_pictures.insert(own, plotPicture(*plot, m_background, 1));
+    return picture(std::make_shared<const PlotLayout>(plot->sharedData(), QString(), m_size));
+}
+
+QVector<ReportItem*> PagePlots::items(const Plot& plot) const
+{
+    return plotItems(plot, m_background);
+}
+
+} // namespace uiutils
