@@ -77,6 +77,10 @@ public:
     void writeImageParagraph(const QByteArray& png, int pixels = 1);
 
 private:
+    friend class TemplateToHtmlWriter;
+
+    /// Puts a page that was made elsewhere in place of what has been written.
+    void replaceText(const QString& page) { m_output = page; }
     void startTableRow();
     bool beginCell(int columns);
     void writeHeaderRow(const QStringList& columnLabels, bool hasLabelColumn);

@@ -8,6 +8,8 @@
 #include "writers/html/htmlstreamwriter.h"
 #include "writers/html/pagestyle_p.h"
 #include "writers/html/style.h"
+#include "writers/modern/modernpage_p.h"
+#include "writers/modern/pagelanguage_p.h"
 #include "writers/pages/reportpdf.h"
 #include "writers/plots/plotdata_p.h"
 #include "writers/plots/plotimage.h"
@@ -81,7 +83,9 @@ QVariant TemplateToHtmlWriter::attribute(const QString& name) const
 
 QString TemplateToHtmlWriter::getHtml()
 {
-    if (!m_isWritten)
+    if (!m_isWritten && isModern())
+        writeModernPage();
+    else if (!m_isWritten)
         writePage();
     return m_html->output();
 }
@@ -91,6 +95,37 @@ void TemplateToHtmlWriter::collectItems()
     m_html->discardText();
     m_plotPixels = plotPixelsOnPaper;
     writePage();
+}
+
+bool TemplateToHtmlWriter::isModern() const
+{
+    return attribute(QStringLiteral("page")).toString() == QLatin1String("modern");
+}
+
+void TemplateToHtmlWriter::writeModernPage()
+{
+    if (m_items)
+        collectItems();
+    m_isWritten = true;
+    m_plotPixels = plotPixelsOnPaper;
+    uiutils::ModernPageSource source;
+    source.document = m_document;
+    source.title = title();
+    source.facts = titleFields();
+    source.statusWord = overallStatus().word;
+    source.attribute = [this](const QString& name) { return attribute(name); };
+    source.plot = [this](const QString& service, quint64 number) { return plotOf(service, number); };
+    source.plotPixels = m_plotPixels;
+    m_html->replaceText(uiutils::modernPage(source));
+    m_plots.clear();
+}
+
+QVariantMap TemplateToHtmlWriter::defaultBodyAttributes() const
+{
+    const uiutils::PageLanguage language = uiutils::pageLanguage(
+            [this](const QString& name) { return attribute(name); }, NodeReader(m_document), title());
+    return {{QStringLiteral("lang"), language.tag}, {QStringLiteral("dir"), language.direction()},
+            {QStringLiteral("style"), QStringLiteral("print-color-adjust:exact; -webkit-print-color-adjust:exact")}};
 }
 
 void TemplateToHtmlWriter::writePage()
@@ -334,9 +369,14 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
     m_html->endRow();
 }
 
+void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumber)
+{
+    m_html->writeImageParagraph(plotOf(service, tableNumber), m_plotPixels);
+}
+
 /// The file is for other programs to read; tables with the same number in several sections overwrite it. A document
 /// with thousands of plots does not fill the memory that holds temporary files.
-void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumber)
+QByteArray TemplateToHtmlWriter::plotOf(const QString& service, quint64 tableNumber)
 {
     const QString path = uiutils::paths::plotImage(tableNumber);
     // All services without curves look alike, and a document may name thousands that do not exist.
@@ -358,5 +398,5 @@ void TemplateToHtmlWriter::plotToHtml(const QString& service, quint64 tableNumbe
             QFile::remove(uiutils::onDisk(path));
         known = m_plots.insert(key, plot.getData());
     }
-    m_html->writeImageParagraph(*known, m_plotPixels);
+    return *known;
 }
