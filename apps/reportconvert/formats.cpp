@@ -44,8 +44,11 @@ QString logoUri(const PageSettings& page)
 }
 
 /// What pages on the screen and on paper share.
-template<typename Writer> void setAttributes(Writer& writer, const PageSettings& page)
+template<typename Writer> void setAttributes(Writer& writer, const ReportTemplate& report, const PageSettings& page)
 {
+    const QString own = report.getAttr(QStringLiteral("orientation")).toString();
+    if (!page.orientation.isEmpty() || !own.isEmpty())
+        writer.setAttribute(QStringLiteral("orientation"), page.orientation.isEmpty() ? own : page.orientation);
     if (!page.title.isNull())
         writer.setAttribute(QStringLiteral("title"), page.title);
     // Without services these tables would have no rows.
@@ -57,8 +60,11 @@ template<typename Writer> void setAttributes(Writer& writer, const PageSettings&
 QByteArray htmlOf(const ReportTemplate& report, Generation& generation)
 {
     TemplateToHtmlWriter writer(report, nullptr);
-    setAttributes(writer, generation.page);
+    setAttributes(writer, report, generation.page);
     writer.setAttribute(QStringLiteral("logo"), generation.page.hasLogo ? logoUri(generation.page) : QString());
+    if (generation.page.isModern)
+        writer.setAttribute(QStringLiteral("page"), QStringLiteral("modern"));
+    writer.setBodyAttributes(writer.defaultBodyAttributes());
     return writer.getHtml().toUtf8();
 }
 
@@ -74,13 +80,10 @@ QString scratchLogo(const Generation& generation)
 QByteArray pdfOf(const ReportTemplate& report, Generation& generation)
 {
     const PageSettings& page = generation.page;
-    const QString own = report.getAttr(QStringLiteral("orientation")).toString();
     QList<ReportItem*> items;
     TemplateToPdfWriter writer(report, &items);
-    setAttributes(writer, page);
+    setAttributes(writer, report, page);
     writer.setAttribute(QStringLiteral("logo"), page.hasLogo ? scratchLogo(generation) : QString());
-    if (!page.orientation.isEmpty() || !own.isEmpty())
-        writer.setAttribute(QStringLiteral("orientation"), page.orientation.isEmpty() ? own : page.orientation);
     if (page.isArchive)
         writer.setAttribute(QStringLiteral("pdf_archive"), true);
     writer.setAttribute(QStringLiteral("unitId"), page.unitId);
@@ -119,7 +122,7 @@ QByteArray textOf(const ReportTemplate& report, Generation& generation)
 const Format formatTable[] = {
         {QLatin1String("html"), QLatin1String("html"),
                 QT_TRANSLATE_NOOP("ReportConvert", "one page that needs no other file"), true, true, false, true,
-                htmlOf},
+                htmlOf, true},
         {QLatin1String("pdf"), QLatin1String("pdf"),
                 QT_TRANSLATE_NOOP("ReportConvert", "Letter pages to print or to hand on"), true, true, true, false,
                 pdfOf},

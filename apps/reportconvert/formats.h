@@ -24,6 +24,8 @@ struct PageSettings
     QString orientation;
     /// Whether PDF files have the form for archives, whatever the document says.
     bool isArchive = false;
+    /// Whether HTML pages are made for screens of any size, paper and reading aloud.
+    bool isModern = false;
     /// Empty: the unit whose services are loaded.
     QString unitId;
 };
@@ -57,6 +59,8 @@ struct Format
     bool needsIconFiles;
     /// The contents of the file, text in UTF-8; null when it failed or was stopped.
     QByteArray (*generate)(const ReportTemplate& report, Generation& generation);
+    /// Whether PageSettings::isModern has an effect.
+    bool hasStyles = false;
 };
 
 /// Why the picture cannot be a logo; empty if it can.

@@ -58,8 +58,11 @@ Options:
       --logo=FILE        picture in place of the logo of HTML and PDF, up to
                          1 MiB
       --no-logo          leave the logo out
-      --orientation=WAY  of PDF pages: portrait or landscape; without it as the
-                         document says
+      --style=STYLE      of HTML pages: classic (the default) or modern, for
+                         phones, dark screens, paper and programs that read
+                         aloud
+      --orientation=WAY  of PDF pages, and of modern HTML pages on paper:
+                         portrait or landscape; without it as the document says
       --archive          PDF files for archives (PDF/A-2u): all that is needed
                          to show and read them is inside
       --unit-id=TEXT     unit in the footer of PDF pages, in place of the one
@@ -110,6 +113,13 @@ bool addFormats(const QString& name, QVector<const Format*>* formats)
     return format;
 }
 
+const QLatin1String modernStyle("modern");
+
+bool isStyle(const QString& text)
+{
+    return text == QLatin1String("classic") || text == modernStyle;
+}
+
 bool isOrientation(const QString& text)
 {
     return text == QLatin1String("portrait") || text == QLatin1String("landscape");
@@ -135,6 +145,7 @@ struct KnownOptions
     const QCommandLineOption logo {QStringLiteral("logo"), {}, QStringLiteral("FILE")};
     const QCommandLineOption noLogo {QStringLiteral("no-logo")};
     const QCommandLineOption orientation {QStringLiteral("orientation"), {}, QStringLiteral("WAY")};
+    const QCommandLineOption style {QStringLiteral("style"), {}, QStringLiteral("STYLE")};
     const QCommandLineOption archive {QStringLiteral("archive")};
     const QCommandLineOption unitId {QStringLiteral("unit-id"), {}, QStringLiteral("TEXT")};
     const QCommandLineOption strict {QStringLiteral("strict")};
@@ -182,11 +193,14 @@ QString readPage(const QCommandLineParser& parser, const KnownOptions& known, Op
     if (parser.isSet(known.orientation) && !isOrientation(parser.value(known.orientation)))
         return Texts::tr("There is no orientation \"%1\", only portrait and landscape.")
                 .arg(parser.value(known.orientation));
+    if (parser.isSet(known.style) && !isStyle(parser.value(known.style)))
+        return Texts::tr("There is no style \"%1\", only classic and modern.").arg(parser.value(known.style));
     if (parser.isSet(known.title))
         options->page.title = parser.value(known.title);
     options->page.hasLogo = !parser.isSet(known.noLogo);
     options->page.logoFile = parser.value(known.logo);
     options->page.orientation = parser.value(known.orientation);
+    options->page.isModern = parser.value(known.style) == modernStyle;
     options->page.isArchive = parser.isSet(known.archive);
     options->page.unitId = parser.value(known.unitId);
     return QString();
@@ -198,7 +212,7 @@ Options readOptions(const QStringList& arguments)
 {
     const KnownOptions known;
     QCommandLineParser parser;
-    parser.addOptions({known.format, known.output, known.services, known.title, known.logo, known.noLogo,
+    parser.addOptions({known.format, known.output, known.services, known.title, known.logo, known.noLogo, known.style,
             known.orientation, known.archive, known.unitId, known.strict});
     const QString version = QStringLiteral("reportconvert (uiutils) %1\n").arg(QCoreApplication::applicationVersion());
     const apps::CommandLine line = apps::parse(parser, arguments, {helpText(), version});

@@ -134,8 +134,12 @@ QString idleOption(const PageSettings& page, const Plan& plan)
         return Texts::tr("--title changes HTML pages, PDF files and plain texts only, and none is requested.");
     if ((!page.hasLogo || !page.logoFile.isEmpty()) && !plan.writes(&Format::isPage))
         return Texts::tr("--logo and --no-logo change HTML pages and PDF files only, and none is requested.");
-    if ((!page.orientation.isEmpty() || !page.unitId.isEmpty()) && !plan.writes(&Format::isPaper))
-        return Texts::tr("--orientation and --unit-id change PDF files only, and none is requested.");
+    if (page.isModern && !plan.writes(&Format::hasStyles))
+        return Texts::tr("--style changes HTML pages only, and none is requested.");
+    if (!page.orientation.isEmpty() && !page.isModern && !plan.writes(&Format::isPaper))
+        return Texts::tr("--orientation changes PDF files and modern HTML pages only, and none is requested.");
+    if (!page.unitId.isEmpty() && !plan.writes(&Format::isPaper))
+        return Texts::tr("--unit-id changes PDF files only, and none is requested.");
     return {};
 }
 

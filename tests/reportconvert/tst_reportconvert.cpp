@@ -142,6 +142,10 @@ private Q_SLOTS:
         QVERIFY(page({}).contains("<img src=\"data:"));
         QVERIFY(page({"--title", "Größe <1>"}).contains("<title>Größe &lt;1&gt;</title>"));
         QVERIFY(!page({"--no-logo"}).contains("<img"));
+        QVERIFY(page({}).contains("<body dir=\"ltr\" lang=\"en\" style="));
+        QCOMPARE(page({"--style", "classic"}).left(99), page({}).left(99));
+        const QString modern = page({"--style", "modern", "--orientation", "landscape"});
+        QVERIFY(modern.contains("<html lang=\"en\" dir=\"ltr\">") && modern.contains("@page { size: landscape; }"));
         QCOMPARE(run({"-o", "small.txt", "--title", "Größe", path("small.json")}).exitCode, 0);
         QVERIFY(contentsOf(path("small.txt")).startsWith("=====\nGröße\n=====\n"));
 

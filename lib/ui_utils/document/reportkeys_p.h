@@ -17,6 +17,8 @@ inline const QLatin1String enabled("enabled");
 inline const QLatin1String service("service");
 inline const QLatin1String configModule("config_module");
 inline const QLatin1String indentPixels("indent_pix");
+inline const QLatin1String language("language");
+inline const QLatin1String direction("direction");
 inline const QLatin1String useRowLabels("use_row_labels");
 inline const QLatin1String numColumns("num_columns");
 inline const QLatin1String statusAttribute("attr_status");

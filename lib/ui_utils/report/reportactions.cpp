@@ -51,6 +51,7 @@ template<typename Writer> void uiutils::ReportPrivate::handOnSwitches(Writer& wr
 void Report::setHtmlWriterAttributes(TemplateToHtmlWriter& writer) const
 {
     d->handOnSwitches(writer);
+    writer.setBodyAttributes(writer.defaultBodyAttributes());
 }
 
 QString Report::generateTxtReport()

@@ -81,6 +81,10 @@ public:
     bool keepsText() const { return m_keepsText; }
 
 private:
+    friend class TemplateToHtmlWriter;
+
+    /// Puts a page that was made elsewhere in place of what has been written.
+    void replaceText(const QString& page) { m_output = page; }
     void startTableRow();
     void startTextRow();
     void endTextRow();

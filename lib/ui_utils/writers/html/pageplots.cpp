@@ -11,9 +11,10 @@ constexpr int mostTitledPictures = 100;
 
 } // namespace
 
-PagePlots::PagePlots(const QSize& size, const QColor& background)
+PagePlots::PagePlots(const QSize& size, const QColor& background, int pixelScale)
     : m_size(size)
     , m_background(background)
+    , m_pixelScale(pixelScale)
 {
     m_data.insert(QString(), std::make_shared<PlotData>());
 }
@@ -37,7 +38,7 @@ QByteArray PagePlots::picture(const Plot& plot)
     if (known != m_pictures.constEnd())
         return *known;
     if (hasRoom || plot->title().isEmpty())
-        return *m_pictures.insert(own, plotPicture(*plot, m_background, 1));
+        return *m_pictures.insert(own, plotPicture(*plot, m_background, m_pixelScale));
     return picture(std::make_shared<const PlotLayout>(plot->sharedData(), QString(), m_size));
 }
 

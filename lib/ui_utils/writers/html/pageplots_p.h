@@ -22,7 +22,8 @@ class PagePlots
 public:
     using Plot = std::shared_ptr<const PlotLayout>;
 
-    PagePlots(const QSize& size, const QColor& background);
+    /// `pixelScale` pixels of a picture stand for one of `size`.
+    PagePlots(const QSize& size, const QColor& background, int pixelScale);
 
     /// The plot of a service's curves, or an empty one.
     Plot plot(const QString& service, const QString& title);
@@ -36,6 +37,7 @@ private:
 
     QSize m_size;
     QColor m_background;
+    int m_pixelScale;
     QHash<QString, Data> m_data;
     QHash<QPair<const PlotData*, QString>, QByteArray> m_pictures;
 };

@@ -2,6 +2,7 @@
 
 #include "writers/pages/reportdrawing.h"
 #include "writers/plots/plotpainter_p.h"
+#include "writers/text/plotwords_p.h"
 #include "writers/text/reportcontent_p.h"
 
 #include <QPainter>
@@ -53,7 +54,8 @@ public:
         , m_background(background)
     {
         const QString title = m_layout->title();
-        setDescription(title.isEmpty() ? ReportWords::tr("Plot") : ReportWords::tr("Plot: %1").arg(title));
+        setDescription(ReportWords::tr("%1. %2").arg(
+                title.isEmpty() ? ReportWords::tr("Plot") : title, plotInWords(m_layout->data())));
     }
 
     QString outlineTitle() const override { return m_layout->title(); }

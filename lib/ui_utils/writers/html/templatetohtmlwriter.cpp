@@ -9,8 +9,11 @@
 #include "writers/html/pageplots_p.h"
 #include "writers/html/pagestyle_p.h"
 #include "writers/html/style.h"
+#include "writers/modern/modernpage_p.h"
+#include "writers/modern/pagelanguage_p.h"
 #include "writers/pages/reportpdf.h"
 #include "writers/plots/plotpainter_p.h"
+#include "writers/text/plotwords_p.h"
 #include "writers/text/reportcontent_p.h"
 
 #include <kiv/system.h>
@@ -78,7 +81,9 @@ QVariant TemplateToHtmlWriter::attribute(const QString& name) const
 
 QString TemplateToHtmlWriter::getHtml()
 {
-    if (!m_isWritten)
+    if (!m_isWritten && isModern())
+        writeModernPage();
+    else if (!m_isWritten)
         writePage();
     return m_html->output();
 }
@@ -87,6 +92,43 @@ void TemplateToHtmlWriter::collectItems()
 {
     m_html->discardText();
     writePage();
+}
+
+bool TemplateToHtmlWriter::isModern() const
+{
+    return attribute(QStringLiteral("page")).toString() == QLatin1String("modern");
+}
+
+void TemplateToHtmlWriter::writeModernPage()
+{
+    if (m_items)
+        collectItems();
+    m_isWritten = true;
+    m_plotPixels = plotPixelsOnPaper;
+    uiutils::ModernPageSource source;
+    source.document = m_document;
+    source.title = title();
+    source.facts = titleFields();
+    source.statusWord = overallStatus().word;
+    source.attribute = [this](const QString& name) { return attribute(name); };
+    // The page says the title.
+    source.plot = [this](const QString& service, quint64 number) {
+        const uiutils::PagePlots::Plot plot = plots().plot(service, QString());
+        leavePlotFile(number, plots().picture(plot));
+        return uiutils::PlotOnPage {plots().picture(plot), uiutils::plotInWords(plot->data())};
+    };
+    source.plotPixels = m_plotPixels;
+    m_html->replaceText(uiutils::modernPage(source));
+    m_plots.reset();
+    m_plotPixels = 1;
+}
+
+QVariantMap TemplateToHtmlWriter::defaultBodyAttributes() const
+{
+    const uiutils::PageLanguage language = uiutils::pageLanguage(
+            [this](const QString& name) { return attribute(name); }, NodeReader(m_document), title());
+    return {{QStringLiteral("lang"), language.tag}, {QStringLiteral("dir"), language.direction()},
+            {QStringLiteral("style"), QStringLiteral("print-color-adjust:exact; -webkit-print-color-adjust:exact")}};
 }
 
 void TemplateToHtmlWriter::writePage()
@@ -297,8 +339,10 @@ void TemplateToHtmlWriter::tableToHtml(const TableReader& table)
 
     const bool hasLabels = table.usesRowLabels();
     m_html->startTable(table.title(), table.columnLabels(), hasLabels, m_depth, attributes);
-    const TableReader::Extent extent = table.extent();
-    m_html->expectRows(extent.rows, extent.cells);
+    if (m_html->keepsText()) {
+        const TableReader::Extent extent = table.extent();
+        m_html->expectRows(extent.rows, extent.cells);
+    }
     table.forEachRow(NodeReader::ByKey, [&](const QString& key, const QJsonObject& row) {
         if (key.startsWith(keys::rowFamily))
             rowToHtml(table, hasLabels, row);
@@ -330,18 +374,28 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
     m_html->endRow();
 }
 
-/// The file is for other programs to read; tables with the same number in several sections overwrite it. A document
-/// with thousands of plots does not fill the memory that holds temporary files.
 void TemplateToHtmlWriter::plotToHtml(const TableReader& table, quint64 tableNumber)
+{
+    const uiutils::PagePlots::Plot plot = plots().plot(table.text(keys::service), table.title());
+    const bool leavesFile = tableNumber < mostPlotFiles;
+    const QByteArray picture = leavesFile || m_html->keepsText() ? plots().picture(plot) : QByteArray();
+    leavePlotFile(tableNumber, picture);
+    m_html->writeImageParagraph(picture, plots().items(plot));
+}
+
+uiutils::PagePlots& TemplateToHtmlWriter::plots()
 {
     const auto number = [this](const char* name) { return attribute(QLatin1String(name)).toInt(); };
     if (!m_plots)
         m_plots = std::make_unique<uiutils::PagePlots>(uiutils::plotSize(number("plot_width"), number("plot_height")),
-                uiutils::plotBackground(attribute(QStringLiteral("plot_curve_bg")).toString()));
-    const uiutils::PagePlots::Plot plot = m_plots->plot(table.text(keys::service), table.title());
-    const bool leavesFile = tableNumber < mostPlotFiles;
-    const QByteArray picture = leavesFile || m_html->keepsText() ? m_plots->picture(plot) : QByteArray();
-    if (leavesFile)
+                uiutils::plotBackground(attribute(QStringLiteral("plot_curve_bg")).toString()), m_plotPixels);
+    return *m_plots;
+}
+
+/// The file is for other programs to read; tables with the same number in several sections overwrite it. A document
+/// with thousands of plots does not fill the memory that holds temporary files.
+void TemplateToHtmlWriter::leavePlotFile(quint64 tableNumber, const QByteArray& picture)
+{
+    if (tableNumber < mostPlotFiles)
         uiutils::writeFileForNow(uiutils::onDisk(uiutils::paths::plotImage(tableNumber)), picture);
-    m_html->writeImageParagraph(picture, m_plots->items(plot));
 }

@@ -42,7 +42,10 @@ public:
     /// A switch's value; invalid when it is neither set nor has a default.
     QVariant attribute(const QString& name) const;
 
-    /// Attributes of the page's body element.
+    /// What makes a page read and print as it should: its language, the direction of its lines, and that its colours
+    /// are printed. For setBodyAttributes(); a modern page has them without.
+    QVariantMap defaultBodyAttributes() const;
+    /// Attributes of the page's body element; a modern page has none.
     void setBodyAttributes(const QVariantMap& attributes) { m_bodyAttributes = attributes; }
 
     /// The report's title: the attribute "title", or the document's own where that is not set.
@@ -70,7 +73,9 @@ private:
     bool isSet(const char* name) const;
     OverallStatus overallStatus() const;
 
+    bool isModern() const;
     void writePage();
+    void writeModernPage();
     void writeBodyStart();
     void writeTestInformation();
     void writeJobTable();
@@ -84,6 +89,8 @@ private:
     void tableToHtml(const uiutils::TableReader& table);
     void rowToHtml(const uiutils::TableReader& table, bool hasLabel, const QJsonObject& row);
     void plotToHtml(const uiutils::TableReader& table, quint64 tableNumber);
+    uiutils::PagePlots& plots();
+    void leavePlotFile(quint64 tableNumber, const QByteArray& picture);
     void writeConfigurationValues(const uiutils::NodeReader& section);
 
     QJsonObject m_document;
@@ -91,6 +98,7 @@ private:
     QList<ReportItem*>* m_items;
     std::unique_ptr<HtmlStreamWriter> m_html;
     std::unique_ptr<uiutils::PagePlots> m_plots;
+    int m_plotPixels = 1;
     int m_depth = 0;
     bool m_isWritten = false;
 };

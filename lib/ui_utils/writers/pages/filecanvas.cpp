@@ -6,7 +6,6 @@
 #include "writers/pages/pagepainter_p.h"
 #include "writers/pages/pagestyle_p.h"
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QImage>
 #include <QPainter>

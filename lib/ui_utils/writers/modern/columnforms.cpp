@@ -1,0 +1,92 @@
+#include "writers/modern/columnforms_p.h"
+
+#include "core/numbertext_p.h"
+#include "core/status.h"
+#include "document/documentreader_p.h"
+
+#include <algorithm>
+#include <array>
+
+namespace uiutils {
+
+namespace {
+
+constexpr int rowsLookedAt = 50;
+constexpr int alignments = Alignment::Right + 1;
+
+/// What the first cells of a column are like.
+struct ColumnCount
+{
+    int texts = 0;
+    int numbers = 0;
+    std::array<int, alignments> named {};
+
+    QLatin1String form() const
+    {
+        const auto most = std::max_element(named.begin(), named.end());
+        if (*most > texts)
+            return alignmentClass(int(most - named.begin()));
+        // A remark or two among the numbers change nothing.
+        return numbers > 0 && 3 * numbers >= 2 * texts ? alignmentClass(Alignment::Right) : QLatin1String();
+    }
+};
+
+} // namespace
+
+QLatin1String alignmentClass(int alignment)
+{
+    switch (alignment) {
+    case Alignment::Center:
+        return QLatin1String("c");
+    case Alignment::Left:
+        return QLatin1String("l");
+    case Alignment::Right:
+        return QLatin1String("r");
+    default:
+        return QLatin1String();
+    }
+}
+
+int alignmentNamed(const QString& attribute)
+{
+    const int code = attribute.size() == 1 ? attribute.at(0).unicode() - '0' : -1;
+    return code < alignments ? code : -1;
+}
+
+bool isUnbroken(const QString& text)
+{
+    constexpr int longest = 24;
+    const bool isShort
+            = text.size() <= longest && text.count(QLatin1Char(' ')) <= 1 && !text.contains(QLatin1Char('\n'));
+    const QStringView digits
+            = isShort ? QStringView(text).mid(text.startsWith(QLatin1Char('-')) ? 1 : 0) : QStringView();
+    return (!digits.isEmpty() && digits.front().isDigit()) || isNumber(text);
+}
+
+QVector<QLatin1String> columnForms(const TableReader& table)
+{
+    QVector<ColumnCount> counts(table.columnCount());
+    int rows = 0;
+    table.forEachRow(NodeReader::ByKey, [&](const QString&, const QJsonObject& row) {
+        if (++rows > rowsLookedAt)
+            return;
+        table.forEachCellOf(row, [&](int column, const QJsonObject& cell) {
+            ColumnCount& count = counts[column];
+            const int alignment = alignmentNamed(textOf(cell.value(keys::alignAttribute)));
+            const QString text = shownTextOf(cell.value(keys::label));
+            if (alignment >= 0)
+                ++count.named[size_t(alignment)];
+            else if (!text.isEmpty()) {
+                ++count.texts;
+                count.numbers += isNumber(text) ? 1 : 0;
+            }
+        });
+    });
+    QVector<QLatin1String> forms;
+    forms.reserve(counts.size());
+    for (const ColumnCount& count : qAsConst(counts))
+        forms += count.form();
+    return forms;
+}
+
+} // namespace uiutils
