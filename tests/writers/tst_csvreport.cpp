@@ -139,7 +139,7 @@ private Q_SLOTS:
         const QJsonObject plot {{"title", "Curve"}, {"label", "plot"}, {"service", "plots"}};
         const QJsonObject hidden {{"enabled", "false"}, {"table_0", one}};
         const QJsonObject section {{"title", "Events"}, {"log_0", "=started"}, {"table_0", bare}, {"table_10", tableOf("NUL|V", {})},
-                {"table_2", tableOf("events 2|V", {})}, {"table_3", tableOf("Events|V", {})}, {"section_0", hidden}};
+                {"table_2", tableOf("events 2|V", {})}, {"table_3", tableOf("EVENTS|V", {})}, {"section_0", hidden}};
         ReportTemplate report;
         fill(report, {{"node_type", "report"}, {"tag", "t"}, {"title", "Größe"}, {"attr_unit", "3.5"}, {"table_0", one}, {"table_1", one},
                              {"section_0", section}, {"section_1", QJsonObject {{"table_0", plot}}}, {"table_9", tableOf("Größe.|V", {})}});
@@ -154,7 +154,7 @@ private Q_SLOTS:
             contents[name] = QString::fromUtf8(bytes);
         });
         QCOMPARE(names, QStringList({"report.csv", "Loss_Gain_ _A__.csv", "Loss_Gain_ _A__ 2.csv", "Größe.csv", "Events.csv",
-                                "events 2.csv", "Events 3.csv", "_NUL.csv", "Curve.csv", "Log.csv"}));
+                                "events 2.csv", "EVENTS 3.csv", "_NUL.csv", "Curve.csv", "Log.csv"}));
         QCOMPARE(contents["report.csv"],
                 QString("Name,Value\r\nTimestamp,2026-11-21 09:05:07\r\nunit,3.5\r\ntag,t\r\ntitle,Größe\r\n"));
         QCOMPARE(contents["Log.csv"], QString("Section,Entry\r\nEvents,'=started\r\n"));
@@ -181,7 +181,9 @@ private Q_SLOTS:
         ReportTemplate report;
         fill(report, document);
         const QTemporaryDir folder;
-        const QString file = writeFile(folder.filePath("a.zip"), reportCsvZip(report, plainLayout()));
+        const QByteArray archive = reportCsvZip(report, plainLayout());
+        QCOMPARE(archive.right(14).left(4), QByteArray(4, '\xff'));
+        const QString file = writeFile(folder.filePath("a.zip"), archive);
         const QString count = "import sys, zipfile; n = zipfile.ZipFile(sys.argv[1]).namelist(); print(len(set(n)), n[1], n[-1])";
         QCOMPARE(readBy("python3", {"-c", count, file}).trimmed(), QString("66001 T.csv T 66000.csv"));
     }
