@@ -185,6 +185,8 @@ void Crew::bury(Worker& worker)
     while (::waitpid(worker.process, &status, 0) < 0 && errno == EINTR) { }
     ::close(worker.channel);
     worker.process = -1;
+    if (WIFSIGNALED(status))
+        removeLeftovers(worker.job);
     if (m_signal == 0 && worker.job >= 0)
         failJob(worker.job, status);
     else if (m_signal == 0 && !worker.isReady)
@@ -201,15 +203,21 @@ void Crew::buryUnready(int status)
         say(Texts::tr("The conversion could not start (%1).").arg(causeOf(status)));
 }
 
+/// What a process that was killed leaves beside its files, and its folder for temporary ones.
+void Crew::removeLeftovers(int job) const
+{
+    removeStaleTemporaries(Workspace::place());
+    const QVector<Target> targets = job < 0 ? QVector<Target>() : m_plan.jobs.at(job).targets;
+    for (const Target& target : targets)
+        removeStaleTemporaries(target.packing == Packing::Files ? target.path : QFileInfo(target.path).path());
+}
+
 void Crew::failJob(int job, int status)
 {
     const Job& lost = m_plan.jobs.at(job);
     ++m_finished;
     m_failed += lost.name();
     say(Texts::tr("%1: the conversion of this document crashed (%2)").arg(lost.name(), causeOf(status)));
-    removeStaleTemporaries(Workspace::place());
-    for (const Target& target : lost.targets)
-        removeStaleTemporaries(target.packing == Packing::Files ? target.path : QFileInfo(target.path).path());
 }
 
 void Crew::signalWorkers(int signal) const

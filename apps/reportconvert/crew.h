@@ -45,6 +45,7 @@ private:
     void handOut(Worker& worker);
     void bury(Worker& worker);
     void buryUnready(int status);
+    void removeLeftovers(int job) const;
     void failJob(int job, int status);
     void signalWorkers(int signal) const;
     void stop();
