@@ -34,6 +34,7 @@ podofo      lib/ui_utils/writers/pdffile/podofo  base core pdffile
 pages       lib/ui_utils/writers/pages      base core emitter
 text        lib/ui_utils/writers/text       base contract core instrument document plots
 modern      lib/ui_utils/writers/modern     base contract core instrument document plots pages text
+csv         lib/ui_utils/writers/csv        base contract core instrument document plots text
 html        lib/ui_utils/writers/html       base contract core instrument document plots pages text modern
 xml         lib/ui_utils/templ2xmlwriter    base contract core instrument document
 report      lib/ui_utils/report             base contract core service instrument document local files WRITERS saving
@@ -61,8 +62,8 @@ benchmarks  benchmarks                      LIBRARY podofo base contract embedde
 startbench  benchmarks/start                -
 busbench    benchmarks/bus                  LIBRARY base contract embedded bus benchmarks
 """
-GROUPS = {"WRITERS": "emitter plots pdffile pages text modern html xml",
-          "LIBRARY": "core service instrument document local files emitter plots pdffile pages text modern html xml report saving module"}
+GROUPS = {"WRITERS": "emitter plots pdffile pages text modern csv html xml",
+          "LIBRARY": "core service instrument document local files emitter plots pdffile pages text modern csv html xml report saving module"}
 # Our modules that pages may import.
 PAGES = {"apps/common/qml": [], "apps/pdf_viewer/qml": ["UiUtils.Viewer"], "qml/UiUtils/Controls": ["UiUtils", "UiUtils.Controls", "UiUtils.Preview"],
          "apps/demo/qml": ["UiUtils", "UiUtils.Controls", "UiUtils.Demo"]}
