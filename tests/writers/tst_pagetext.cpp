@@ -13,7 +13,6 @@
 
 #include <QBuffer>
 #include <QImage>
-#include <QStandardPaths>
 
 namespace {
 
@@ -81,15 +80,6 @@ private:
         QVERIFY2(isPrinted, qPrintable(error));
     }
 
-    /// What Poppler and qpdf have to say about the file, and MuPDF where it is installed.
-    QString readersComplaints() const
-    {
-        QString complaints = faultsOf(m_path) + outputOf("pdftoppm", {"-r", "9", m_path, m_root.filePath("page")});
-        if (!QStandardPaths::findExecutable("mutool").isEmpty())
-            complaints += outputOf("mutool", {"draw", "-q", "-F", "text", "-o", "/dev/null", m_path});
-        return complaints;
-    }
-
 private Q_SLOTS:
     void initTestCase()
     {
@@ -151,7 +141,7 @@ private Q_SLOTS:
 
     void charactersThatNoFontHasAreNamedOnce()
     {
-        const uint codes[] {0xe123, 0x1fae8};
+        const uint codes[] {0x378, 0x1ffe0};
         const QString unknown = QString::fromUcs4(codes, 2);
         QVERIFY(uiutils::embeddableFamily(codes[0]).isEmpty() && uiutils::embeddableFamily(codes[1]).isEmpty());
         warnings.clear();
@@ -250,7 +240,7 @@ private Q_SLOTS:
     {
         const auto [text] = currentRow<QString>();
         for (const bool isArchive : {false, true}) {
-            print({new ReportHeader(1, text), new ReportText(text + "\ue123"), new ReportImage(picture(2)),
+            print({new ReportHeader(1, text), new ReportText(text + "\u0378"), new ReportImage(picture(2)),
                           table(text, {text}, {{"row", text}}, uiutils::Status::Marginal)},
                     [&](ReportPDF& pdf) {
                         pdf.setTitle(text);
@@ -295,7 +285,7 @@ private Q_SLOTS:
             pdf.setAuthor(text);
             pdf.setArchive(true);
         });
-        QCOMPARE(readersComplaints(), QString());
+        QCOMPARE(faultsOf(m_path), QString());
         QCOMPARE(faultsOfArchive(m_path), QString());
     }
 
@@ -305,7 +295,7 @@ private Q_SLOTS:
         for (int i = 0; i < 1000; ++i)
             items += new ReportImage(picture(i));
         print(items);
-        QCOMPARE(readersComplaints(), QString());
+        QCOMPARE(faultsOf(m_path), QString());
         int images = 0;
         for (const auto& [reference, dictionary] : PdfObjects(m_path).all())
             images += dictionary.value("/Subtype") == "/Image";
