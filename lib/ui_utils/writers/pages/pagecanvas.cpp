@@ -166,11 +166,10 @@ void PageCanvas::drawImage(const QByteArray& encoded, const QRectF& place)
 
 void PageCanvas::flush()
 {
-    if (m_pictures.isEmpty())
+    if (m_pictures.waiting.isEmpty())
         return;
     const auto mark = m_structure.artifact(pdf::PageContent::Anything);
-    drawPictures(m_writer, m_pictures);
-    m_pictures.clear();
+    m_pictures.draw(m_writer);
 }
 
 void PageCanvas::paint(const QRectF& place, const std::function<void(QPainter&)>& draw)

@@ -92,7 +92,7 @@ private:
     // A cell that continues over a hundred pages is broken into lines once.
     std::vector<Parted> m_parted;
     QHash<QByteArray, QByteArray> m_images;
-    QVector<GlyphPicture> m_pictures;
+    GlyphPictures m_pictures;
     QString m_missing;
 };
 
