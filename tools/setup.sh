@@ -20,7 +20,8 @@ build_packages=(
     qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2
     qml-module-qtquick-layouts qml-module-qttest qml-module-qtqml-models2
     qml-module-qtqml-workerscript2
-    fontconfig fonts-dejavu-core fonts-droid-fallback
+    fontconfig fonts-dejavu-core fonts-droid-fallback fonts-tlwg-loma-ttf fonts-lohit-deva
+    fonts-naver-d2coding fonts-noto-color-emoji
 )
 
 # What the tests start beside the programs of the tree: a bus, and readers that know nothing
@@ -28,7 +29,7 @@ build_packages=(
 # are tested with the tools, doxygen the reference pages, and lupdate collects the texts for
 # translators.
 test_packages=(
-    dbus poppler-utils qpdf libxml2-utils tidy strace help2man doxygen python3 tzdata
+    dbus poppler-utils mupdf-tools qpdf libxml2-utils tidy strace help2man doxygen python3 tzdata
     qttools5-dev qttools5-dev-tools python3-dbus python3-gi
 )
 

@@ -8,6 +8,7 @@
 #include <QMap>
 #include <QRegularExpression>
 #include <QSet>
+#include <QTemporaryDir>
 
 /// What independent readers find in a PDF file.
 
@@ -25,11 +26,16 @@ inline QString infoOf(const QString& path, const QString& key)
     return line.match(outputOf("pdfinfo", {path})).captured(1);
 }
 
-/// Empty when qpdf finds no error.
+/// Empty when qpdf finds no error, and Poppler and MuPDF draw each page without a word.
 inline QString faultsOf(const QString& path)
 {
-    const QString output = outputOf("qpdf", {"--check", path});
-    return output.startsWith("status") || output.contains("WARNING") ? output : QString();
+    const QString check = outputOf("qpdf", {"--check", path});
+    QString faults = check.startsWith("status") || check.contains("WARNING") ? check : QString();
+    const QTemporaryDir pages;
+    faults += outputOf("pdftoppm", {"-r", "9", path, pages.filePath("page")});
+    // Debian builds MuPDF without profiles of colours, and it says so of each file that has one.
+    return faults + outputOf("mutool", {"draw", "-q", "-r", "9", "-F", "pgm", "-o", "/dev/null", path})
+            .remove("warning: ICC support is not available\n");
 }
 
 /// The objects of a file, with streams inflated.

@@ -168,7 +168,7 @@ class ReportPdfTest : public QObject
     Q_OBJECT
 
 private:
-    /// Prints items and deletes them. The file has passed qpdf's check, and all words are readable.
+    /// Prints items and deletes them. Readers find no fault in the file, and all words are readable.
     QString printed(const QList<ReportItem*>& items, const std::function<void(ReportPDF&)>& setUp = [](ReportPDF&) {})
     {
         ReportPDF pdf;
@@ -177,8 +177,8 @@ private:
         QString error;
         const bool isPrinted = pdf.print(m_path, &error);
         qDeleteAll(items);
-        if (isPrinted && outputOf("qpdf", {"--check", m_path}).startsWith("status"))
-            error = "qpdf";
+        if (isPrinted)
+            error = faultsOf(m_path);
         if (isPrinted && error.isEmpty())
             error = misplacedIn(sheetsOf(m_path));
         if (!error.isEmpty())
@@ -222,6 +222,7 @@ private:
         const bool isPrinted = writer.write(m_path, &error);
         qDeleteAll(items);
         QVERIFY2(isPrinted, qPrintable(error));
+        QCOMPARE(faultsOf(m_path), QString());
         QCOMPARE(misplacedIn(sheetsOf(m_path)), QString());
     }
 

@@ -5,6 +5,8 @@
 #include "writers/emitter/fonttable_p.h"
 
 #include <QCoreApplication>
+#include <QHash>
+#include <QMutex>
 
 #include <algorithm>
 #include <numeric>
@@ -107,6 +109,12 @@ FontTables tablesOf(const QRawFont& font)
     return [font](const char* tag) { return font.fontTable(tag); };
 }
 
+QByteArray faceOf(const QRawFont& font)
+{
+    return font.familyName().toUtf8() + '\0' + font.styleName().toUtf8() + '\0' + font.fontTable("head")
+            + font.fontTable("OS/2") + font.fontTable("maxp");
+}
+
 Embedding embeddingOf(const FontTables& tables)
 {
     const FontFacts facts = fontFacts(tables);
@@ -131,7 +139,12 @@ Embedding embeddingOf(const FontTables& tables)
 
 Embedding embeddingOf(const QRawFont& font)
 {
-    return embeddingOf(tablesOf(font));
+    static QMutex mutex;
+    static QHash<QByteArray, Embedding> known;
+    const QByteArray face = faceOf(font);
+    const QMutexLocker locker(&mutex);
+    const auto it = known.constFind(face);
+    return it != known.constEnd() ? *it : *known.insert(face, embeddingOf(tablesOf(font)));
 }
 
 FontProgram fontProgram(const FontTables& tables, const QVector<quint16>& glyphs)

@@ -16,6 +16,9 @@ using FontTables = std::function<QByteArray(const char* tag)>;
 
 FontTables tablesOf(const QRawFont& font);
 
+/// The same for all sizes of a face: its names, and headers, one of which holds a check sum.
+QByteArray faceOf(const QRawFont& font);
+
 /// Whether a font may and can be embedded.
 enum class Embedding {
     Allowed,
@@ -31,8 +34,9 @@ enum class Embedding {
 };
 
 /// Judged from small tables. For a font with CFF outlines that table is copied once too, because nothing else says that
-/// there is one: ask once for each face.
+/// there is one.
 Embedding embeddingOf(const FontTables& tables);
+/// The same, judged once for each face in a process. May be called in any thread.
 Embedding embeddingOf(const QRawFont& font);
 
 /// A font's data as a PDF file embeds it.

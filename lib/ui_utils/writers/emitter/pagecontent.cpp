@@ -300,13 +300,24 @@ void PageContent::beginMark(Holds holds)
         endTextObject();
 }
 
-void PageContent::beginMarked(const char* tag, int number, Holds holds)
+void PageContent::beginMarked(const char* tag, int number, Holds holds, const QString& text)
 {
     beginMark(holds);
-    m_bytes += tag;
+    m_markBegin = m_bytes.size();
+    // Some readers look for a text in this tag only.
+    m_bytes += text.isNull() ? tag : "/Span";
     m_bytes += "<</MCID ";
     appendInteger(m_bytes, number);
+    if (!text.isNull())
+        m_bytes += "/ActualText" + textString(text);
     m_bytes += ">>BDC\n";
+    m_markEnd = m_bytes.size();
+}
+
+void PageContent::dropMark()
+{
+    m_marks.removeLast();
+    m_bytes.truncate(m_markBegin);
 }
 
 void PageContent::beginArtifact(const QByteArray& properties, Holds holds)

@@ -46,11 +46,15 @@ public:
 
     /// What stands between a begin and its end().
     enum Holds { Text, Anything };
-    /// Content with this number on its page.
-    void beginMarked(const char* tag, int number, Holds holds);
+    /// Content with this number on its page. It stands for `text`, unless that is null.
+    void beginMarked(const char* tag, int number, Holds holds, const QString& text = {});
+    /// Whether nothing has been drawn since beginMarked().
+    bool isMarkEmpty() const { return m_bytes.size() == m_markEnd; }
+    /// Takes back the beginning of a mark that is empty.
+    void dropMark();
     /// What is not content of the document, such as lines and page numbers.
     void beginArtifact(const QByteArray& properties, Holds holds);
-    /// Text that stands for another.
+    /// Text that stands for another, outside of marked content.
     void beginText(const QString& text);
     void end();
 
@@ -92,6 +96,9 @@ private:
     QVector<State> m_saved;
     bool m_isText = false;
     QVector<Holds> m_marks;
+    // Where the last mark with a number begins and ends.
+    int m_markBegin = 0;
+    int m_markEnd = 0;
     // Where the last row of the text object begins, in hundredths of a point.
     qint64 m_lineX = 0;
     qint64 m_lineY = 0;

@@ -13,16 +13,6 @@
 
 namespace uiutils::pdf {
 
-namespace {
-
-/// The same for all sizes of a face: its names, and its header, which holds a check sum.
-QByteArray keyOf(const QRawFont& raw)
-{
-    return raw.familyName().toUtf8() + '\0' + raw.styleName().toUtf8() + '\0' + raw.fontTable("head");
-}
-
-} // namespace
-
 DocumentWriter::DocumentWriter(QIODevice* device, const DocumentSettings& settings)
     : m_settings(settings)
     , m_output(device)
@@ -64,13 +54,50 @@ void DocumentWriter::endPage()
     m_output.write(m_pages.constLast(), page + ">>");
 }
 
+void DocumentWriter::beginMarked(StructureElement& element, PageContent::Holds holds, const QString& text)
+{
+    m_marked = &element;
+    m_holds = holds;
+    m_content.beginMarked(element.tag(), m_structure->mark(element), holds, text);
+}
+
+void DocumentWriter::endMarked()
+{
+    StructureElement* const element = std::exchange(m_marked, nullptr);
+    if (!element || !m_content.isMarkEmpty()) {
+        m_content.end();
+        return;
+    }
+    m_content.dropMark();
+    m_structure->dropMark(*element);
+}
+
+void DocumentWriter::beginText(const QString& text)
+{
+    StructureElement* const element = m_marked;
+    if (!element) {
+        m_content.beginText(text);
+        return;
+    }
+    endMarked();
+    beginMarked(*element, m_holds, text);
+}
+
+void DocumentWriter::endText()
+{
+    StructureElement* const element = m_marked;
+    endMarked();
+    if (element)
+        beginMarked(*element, m_holds);
+}
+
 EmbeddedFont* DocumentWriter::font(const QRawFont& raw)
 {
     for (const auto& [face, font] : m_faces) {
         if (face == raw)
             return font;
     }
-    EmbeddedFont*& font = m_fontsByFace[keyOf(raw)];
+    EmbeddedFont*& font = m_fontsByFace[faceOf(raw)];
     if (!font && embeddingOf(raw) == Embedding::Allowed) {
         const QByteArray name = "/F" + QByteArray::number(int(m_fonts.size()) + 1);
         m_fonts.push_back(std::make_unique<EmbeddedFont>(raw, m_output.reserve(), name));

@@ -45,6 +45,14 @@ public:
     PageContent& content() { return m_content; }
     void endPage();
 
+    /// What is drawn between these belongs to the element.
+    void beginMarked(StructureElement& element, PageContent::Holds holds, const QString& text = {});
+    void endMarked();
+    /// What is drawn between these stands for the text. In an element it is a part of its own: where marks are nested,
+    /// some readers take the end of the inner one for that of the outer.
+    void beginText(const QString& text);
+    void endText();
+
     /// The font of the file for this face in any size; null if it cannot be embedded.
     EmbeddedFont* font(const QRawFont& raw);
     /// The name of a picture for PageContent; the same picture is stored once.
@@ -73,6 +81,9 @@ private:
     PdfOutput m_output;
     PageContent m_content;
     std::optional<StructureTree> m_structure;
+    // To which what is drawn belongs; null for what no element holds.
+    StructureElement* m_marked = nullptr;
+    PageContent::Holds m_holds = PageContent::Text;
     int m_pageTree;
     int m_resources;
     QVector<int> m_pages;

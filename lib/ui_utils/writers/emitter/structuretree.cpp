@@ -84,6 +84,12 @@ int StructureTree::mark(StructureElement& element)
     return number;
 }
 
+void StructureTree::dropMark(StructureElement& element)
+{
+    m_marks.removeLast();
+    element.m_kids.removeLast();
+}
+
 void StructureTree::endPage()
 {
     QByteArray list("[");

@@ -14,6 +14,7 @@ class StructureElement
 {
 public:
     bool isOpen() const { return m_object != 0; }
+    const char* tag() const { return m_tag; }
 
 private:
     friend class StructureTree;
@@ -51,6 +52,8 @@ public:
     void beginPage(int object);
     /// A number for content of the element on this page.
     int mark(StructureElement& element);
+    /// Takes back the last number, which was given for content of the element.
+    void dropMark(StructureElement& element);
     /// The number by which the page finds its elements.
     int pageNumber() const { return m_pages.size(); }
     void endPage();

@@ -93,11 +93,10 @@ void FileCanvas::drawImage(const QByteArray& encoded, const QRectF& place)
 
 void FileCanvas::flush()
 {
-    if (m_pictures.isEmpty())
+    if (m_pictures.waiting.isEmpty())
         return;
     const auto mark = structure().artifact(pdf::PageContent::Anything);
-    drawPictures(m_writer, m_pictures);
-    m_pictures.clear();
+    m_pictures.draw(m_writer);
 }
 
 void FileCanvas::paint(const QRectF& place, const QString& description, const std::function<void(QPainter&)>& draw)

@@ -38,7 +38,7 @@ private:
     // Kept for its memory.
     pdf::PageContent::Row m_row;
     QHash<QByteArray, QByteArray> m_images;
-    QVector<GlyphPicture> m_pictures;
+    GlyphPictures m_pictures;
     QString m_missing;
 };
 

@@ -93,6 +93,7 @@ private:
     pdf::DocumentWriter& m_writer;
     const PageFont& m_blank;
     QString* m_missing;
+    GlyphPictures m_pictures;
     QRectF m_place;
     QTransform m_base;
 };
@@ -231,12 +232,11 @@ void PagePainter::Engine::drawTextItem(const QPointF& at, const QTextItem& item)
     line.setLineWidth(WrappedText::anyWidth);
     layout.endLayout();
     line.setPosition({-line.naturalTextRect().x(), 0});
-    QVector<GlyphPicture> pictures;
     pdf::PageContent& content = m_writer.content();
     content.save();
     content.transform(toPage());
-    ShapedText(m_writer, m_blank, &pictures, m_missing).draw(layout, 0, at, state->pen().color());
-    drawPictures(m_writer, pictures);
+    ShapedText(m_writer, m_blank, &m_pictures, m_missing).draw(layout, 0, at, state->pen().color());
+    m_pictures.draw(m_writer);
     content.restore();
 }
 

@@ -1,6 +1,5 @@
 #include "writers/pages/pagestructure_p.h"
 
-#include "writers/emitter/pdfdocument_p.h"
 #include "writers/emitter/pdfsyntax_p.h"
 
 namespace uiutils {
@@ -29,10 +28,10 @@ PageStructure::PageStructure(pdf::DocumentWriter* writer)
 {
 }
 
-PageStructure::Mark PageStructure::marked(const char* tag, pdf::StructureElement& element, Holds holds)
+PageStructure::Mark PageStructure::marked(pdf::StructureElement& element)
 {
-    m_writer->content().beginMarked(tag, m_tree->mark(element), holds);
-    return Mark(&m_writer->content());
+    m_writer->beginMarked(element, PageContent::Text);
+    return Mark(m_writer);
 }
 
 PageStructure::Mark PageStructure::artifact(Holds holds, const char* properties)
@@ -40,7 +39,7 @@ PageStructure::Mark PageStructure::artifact(Holds holds, const char* properties)
     if (!m_tree)
         return Mark();
     m_writer->content().beginArtifact(properties, holds);
-    return Mark(&m_writer->content());
+    return Mark(m_writer);
 }
 
 PageStructure::Mark PageStructure::text(const char* tag)
@@ -49,7 +48,7 @@ PageStructure::Mark PageStructure::text(const char* tag)
         return Mark();
     if (!m_text.isOpen())
         m_text = m_tree->open(m_tree->document(), tag);
-    return marked(tag, m_text, PageContent::Text);
+    return marked(m_text);
 }
 
 void PageStructure::endText()
@@ -63,9 +62,9 @@ PageStructure::Mark PageStructure::figure(const QString& alternative)
     if (!m_tree)
         return Mark();
     pdf::StructureElement figure = m_tree->open(m_tree->document(), "/Figure", "/Alt" + pdf::textString(alternative));
-    Mark mark = marked("/Figure", figure, PageContent::Anything);
+    m_writer->content().beginMarked(figure.tag(), m_tree->mark(figure), PageContent::Anything);
     m_tree->close(figure);
-    return mark;
+    return Mark(m_writer);
 }
 
 void PageStructure::beginTable()
@@ -76,6 +75,7 @@ void PageStructure::beginTable()
 
 void PageStructure::endTable()
 {
+    endCaption();
     if (m_table.isOpen())
         m_tree->close(m_table);
 }
@@ -84,14 +84,19 @@ PageStructure::Mark PageStructure::caption()
 {
     if (!m_table.isOpen())
         return Mark();
-    pdf::StructureElement caption = m_tree->open(m_table, "/Caption");
-    Mark mark = marked("/Caption", caption, PageContent::Text);
-    m_tree->close(caption);
-    return mark;
+    m_caption = m_tree->open(m_table, "/Caption");
+    return marked(m_caption);
+}
+
+void PageStructure::endCaption()
+{
+    if (m_caption.isOpen())
+        m_tree->close(m_caption);
 }
 
 void PageStructure::beginRow()
 {
+    endCaption();
     if (m_table.isOpen())
         m_row = m_tree->open(m_table, "/TR");
 }
@@ -115,10 +120,9 @@ PageStructure::Mark PageStructure::cell(int column, CellKind kind, int span, boo
     if (size_t(column) >= m_cells.size())
         m_cells.resize(size_t(column) + 1);
     pdf::StructureElement& cell = m_cells[size_t(column)];
-    const char* const tag = kind == Value ? "/TD" : "/TH";
     if (!cell.isOpen())
-        cell = m_tree->open(m_row, tag, attributesOf(kind, span));
-    return isEmpty ? Mark() : marked(tag, cell, PageContent::Text);
+        cell = m_tree->open(m_row, kind == Value ? "/TD" : "/TH", attributesOf(kind, span));
+    return isEmpty ? Mark() : marked(cell);
 }
 
 } // namespace uiutils

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "writers/emitter/pagecontent_p.h"
-#include "writers/emitter/structuretree_p.h"
+#include "writers/emitter/pdfdocument_p.h"
 
 #include <QString>
 
@@ -9,10 +8,6 @@
 #include <vector>
 
 namespace uiutils {
-
-namespace pdf {
-class DocumentWriter;
-}
 
 /// Says what the content of pages is, for those who have it read aloud. In a file without structure, and
 /// where there is no file, it says nothing.
@@ -26,24 +21,24 @@ public:
     class Mark
     {
     public:
-        explicit Mark(pdf::PageContent* content = nullptr)
-            : m_content(content)
+        explicit Mark(pdf::DocumentWriter* writer = nullptr)
+            : m_writer(writer)
         {
         }
         Mark(Mark&& other) noexcept
-            : m_content(std::exchange(other.m_content, nullptr))
+            : m_writer(std::exchange(other.m_writer, nullptr))
         {
         }
         Mark& operator=(Mark&&) = delete;
         Q_DISABLE_COPY(Mark)
         ~Mark()
         {
-            if (m_content)
-                m_content->end();
+            if (m_writer)
+                m_writer->endMarked();
         }
 
     private:
-        pdf::PageContent* m_content;
+        pdf::DocumentWriter* m_writer;
     };
     using Holds = pdf::PageContent::Holds;
 
@@ -68,12 +63,14 @@ public:
     [[nodiscard]] Mark cell(int column, CellKind kind, int span, bool isEmpty);
 
 private:
-    Mark marked(const char* tag, pdf::StructureElement& element, Holds holds);
+    Mark marked(pdf::StructureElement& element);
+    void endCaption();
 
     pdf::DocumentWriter* m_writer;
     pdf::StructureTree* m_tree;
     pdf::StructureElement m_text;
     pdf::StructureElement m_table;
+    pdf::StructureElement m_caption;
     pdf::StructureElement m_row;
     std::vector<pdf::StructureElement> m_cells;
 };

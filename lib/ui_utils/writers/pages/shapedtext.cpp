@@ -1,8 +1,10 @@
 #include "writers/pages/shapedtext_p.h"
 
+#include "writers/emitter/fontprogram_p.h"
 #include "writers/emitter/pdfdocument_p.h"
 #include "writers/pages/pagefont_p.h"
 
+#include <QImage>
 #include <QPainter>
 #include <QPainterPathStroker>
 
@@ -11,20 +13,90 @@ namespace uiutils {
 namespace {
 
 /// Of a picture of a glyph: enough for a print.
-constexpr int pixelsOfAPicture = 128;
+constexpr int pixelsOfAPicture = 256;
 
-bool isSameGlyph(const QList<QGlyphRun>& a, const QList<QGlyphRun>& b)
+int glyphsIn(const QList<QGlyphRun>& runs)
 {
-    return a.size() == 1 && b.size() == 1 && a.constFirst().glyphIndexes() == b.constFirst().glyphIndexes()
-            && a.constFirst().positions() == b.constFirst().positions();
+    int count = 0;
+    for (const QGlyphRun& run : runs)
+        count += run.glyphIndexes().size();
+    return count;
+}
+
+/// Whether the first glyph is the same: then one of the two has all glyphs of the other.
+bool hasSameGlyphs(const QList<QGlyphRun>& a, const QList<QGlyphRun>& b)
+{
+    return glyphsIn(a) > 0 && glyphsIn(b) > 0
+            && a.constFirst().glyphIndexes().constFirst() == b.constFirst().glyphIndexes().constFirst()
+            && a.constFirst().positions().constFirst() == b.constFirst().positions().constFirst();
 }
 
 /// What a file may say that a glyph stands for.
-QString glyphText(const QString& text)
+QString permitted(const QString& text)
 {
     const bool isCharacter = text.isValidUtf16() && !text.contains(QChar(0)) && !text.contains(QChar(0xfeff))
             && !text.contains(QChar(0xfffe));
     return isCharacter ? text : QString(QChar(QChar::ReplacementCharacter));
+}
+
+int lengthAt(const QString& text, int at)
+{
+    return text.at(at).isHighSurrogate() && at + 1 < text.size() ? 2 : 1;
+}
+
+/// Takes the character out of the text that the font shows by this glyph; empty if there is none.
+QString takeCharacterOf(const QRawFont& raw, quint32 glyph, QString* text)
+{
+    for (int at = 0, length = 1; at < text->size(); at += length) {
+        length = lengthAt(*text, at);
+        const QString character = text->mid(at, length);
+        if (raw.glyphIndexesForString(character) == QVector<quint32> {glyph}) {
+            text->remove(at, length);
+            return character;
+        }
+    }
+    return {};
+}
+
+QString ownText(const QRawFont& raw, quint32 glyph, QString* text)
+{
+    const QString character = takeCharacterOf(raw, glyph, text);
+    if (!character.isEmpty())
+        return character;
+    // Characters that nothing is drawn for have the glyph of the blank, which would then be read as one of them.
+    if (raw.glyphIndexesForString(QStringLiteral(" ")) == QVector<quint32> {glyph})
+        return QStringLiteral(" ");
+    // Some letters are drawn in parts.
+    QString parts = text->normalized(QString::NormalizationForm_KD);
+    const QString part = parts == *text ? QString() : takeCharacterOf(raw, glyph, &parts);
+    if (!part.isEmpty())
+        *text = parts;
+    return part;
+}
+
+/// What each glyph of a cluster says: what the font's own table says, as other texts use the glyph too; those that are
+/// not in it share what remains.
+QStringList textsOfGlyphs(const QList<QGlyphRun>& runs, const QString& text)
+{
+    // No letter has as many marks.
+    constexpr int longest = 32;
+    QString rest = text;
+    QStringList texts;
+    for (const QGlyphRun& run : runs) {
+        const QVector<quint32> glyphs = run.glyphIndexes();
+        for (const quint32 glyph : glyphs)
+            texts += text.size() > longest ? QString() : ownText(run.rawFont(), glyph, &rest);
+    }
+    int unknown = texts.count(QString());
+    int at = 0;
+    for (QString& share : texts) {
+        if (!share.isEmpty())
+            continue;
+        const int length = at >= rest.size() ? 0 : --unknown > 0 ? lengthAt(rest, at) : rest.size() - at;
+        share = length > 0 ? rest.mid(at, length) : QString(QChar(0x200b));
+        at += length;
+    }
+    return texts;
 }
 
 bool isPlainGlyph(quint32 glyph)
@@ -32,20 +104,30 @@ bool isPlainGlyph(quint32 glyph)
     return glyph > 0 && glyph <= 0xffff;
 }
 
-} // namespace
-
-void drawPictures(pdf::DocumentWriter& writer, const QVector<GlyphPicture>& pictures)
+/// What is printed for a character that no font has.
+QPainterPath frameOf(const QRawFont& raw)
 {
-    for (const GlyphPicture& picture : pictures) {
-        if (picture.image.isNull())
-            writer.content().fill(picture.path, picture.color);
-        else
-            writer.content().image(writer.image(picture.image), picture.place);
-    }
+    QPainterPath box;
+    box.addRect(raw.pixelSize() * 0.08, -raw.pixelSize() * 0.7, raw.pixelSize() * 0.5, raw.pixelSize() * 0.7);
+    QPainterPathStroker pen;
+    pen.setWidth(raw.pixelSize() * 0.05);
+    return pen.createStroke(box);
 }
 
-ShapedText::ShapedText(
-        pdf::DocumentWriter& writer, const PageFont& font, QVector<GlyphPicture>* pictures, QString* missing)
+} // namespace
+
+void GlyphPictures::draw(pdf::DocumentWriter& writer)
+{
+    for (const GlyphPicture& picture : qAsConst(waiting)) {
+        if (picture.image.isEmpty())
+            writer.content().fill(picture.path, picture.color);
+        else
+            writer.content().image(picture.image, picture.place);
+    }
+    waiting.clear();
+}
+
+ShapedText::ShapedText(pdf::DocumentWriter& writer, const PageFont& font, GlyphPictures* pictures, QString* missing)
     : m_writer(writer)
     , m_font(font)
     , m_pictures(pictures)
@@ -78,9 +160,11 @@ QVector<ShapedText::Cluster> ShapedText::clustersOf(const QTextLayout& layout, c
         next = qBound(at + 1, layout.nextCursorPosition(at), end);
         const QString text = layout.text().mid(at, next - at);
         const QList<QGlyphRun> runs = line.glyphRuns(at, next - at);
-        // The second part of a ligature has no glyph, or the same one.
-        if (!clusters.isEmpty() && (runs.isEmpty() || isSameGlyph(runs, clusters.constLast().runs))) {
-            clusters.last().text += text;
+        // The second part of a ligature has no glyph, or the same one. That of a letter drawn in parts has all of them.
+        if (!clusters.isEmpty() && (runs.isEmpty() || hasSameGlyphs(runs, clusters.constLast().runs))) {
+            Cluster& last = clusters.last();
+            last.text += text;
+            last.runs = glyphsIn(runs) > glyphsIn(last.runs) ? runs : last.runs;
             continue;
         }
         const bool isReversed = !runs.isEmpty() && runs.constFirst().isRightToLeft();
@@ -91,10 +175,8 @@ QVector<ShapedText::Cluster> ShapedText::clustersOf(const QTextLayout& layout, c
 
 void ShapedText::drawWord(const QVector<Cluster>& clusters, int begin, int end)
 {
-    if (isReversedLigature(clusters.at(begin))) {
-        drawReversedLigature(clusters.at(begin));
+    if (drawReversedLigature(clusters.at(begin)))
         return;
-    }
     bool isAsRead = true;
     QString text;
     for (int i = begin; i < end; ++i) {
@@ -102,64 +184,57 @@ void ShapedText::drawWord(const QVector<Cluster>& clusters, int begin, int end)
         text += clusters.at(i).text;
     }
     if (!isAsRead)
-        m_writer.content().beginText(text);
+        m_writer.beginText(text);
     for (int i = begin; i < end; ++i)
         drawCluster(clusters.at(i));
     if (!isAsRead)
-        m_writer.content().end();
-}
-
-bool ShapedText::isReversedLigature(const Cluster& cluster) const
-{
-    return cluster.isRightToLeft && cluster.text.size() > 1 && cluster.runs.size() == 1
-            && cluster.runs.constFirst().glyphIndexes().size() == 1
-            && isPlainGlyph(cluster.runs.constFirst().glyphIndexes().constFirst())
-            && std::all_of(cluster.text.cbegin(), cluster.text.cend(), [](QChar c) { return c.isLetter(); });
+        m_writer.endText();
 }
 
 /// Whether readers get the text from the glyphs.
 bool ShapedText::note(const Cluster& cluster)
 {
-    int glyphs = 0;
-    for (const QGlyphRun& run : cluster.runs)
-        glyphs += run.glyphIndexes().size();
-    const bool isOneToOne = glyphs == cluster.text.size();
-    bool isAsRead = glyphs > 0 && (glyphs == 1 || isOneToOne);
+    const QStringList texts = textsOfGlyphs(cluster.runs, cluster.text);
+    bool isNoted = !texts.isEmpty();
     int at = 0;
     for (const QGlyphRun& run : cluster.runs) {
         pdf::EmbeddedFont* const font = m_writer.font(run.rawFont());
-        const quint32 blank = run.rawFont().glyphIndexesForString(QStringLiteral(" ")).value(0);
-        const QVector<quint32> indexes = run.glyphIndexes();
-        for (const quint32 glyph : indexes) {
-            const QString text
-                    = glyphs == 1 ? cluster.text : QString(cluster.text.at(qMin(at++, cluster.text.size() - 1)));
-            // Characters that nothing is drawn for have the glyph of the blank, which would then be read as one of
-            // them.
-            const QString own = glyph == blank ? QStringLiteral(" ") : glyphText(text);
-            isAsRead = font && isPlainGlyph(glyph) && font->use(quint16(glyph), own) && own == text && isAsRead;
+        const QVector<quint32> glyphs = run.glyphIndexes();
+        for (const quint32 glyph : glyphs) {
+            const QString text = permitted(texts.at(at++));
+            isNoted = font && isPlainGlyph(glyph) && font->use(quint16(glyph), text) && isNoted;
         }
     }
-    return isAsRead;
+    return isNoted && texts.join(QString()) == cluster.text && permitted(cluster.text) == cluster.text;
 }
 
 /// Readers take the letters of one glyph from left to right, also where the others are taken from right to left. So
-/// each gets a place of its own: the last one that of the glyph, and the ones before it blanks over its right part.
-void ShapedText::drawReversedLigature(const Cluster& cluster)
+/// each gets a place of its own: the last one that of the glyph, and those before it are over its right part, unseen.
+bool ShapedText::drawReversedLigature(const Cluster& cluster)
 {
-    const QGlyphRun& run = cluster.runs.constFirst();
     const int letters = cluster.text.size();
-    const qreal width = run.rawFont().advancesForGlyphIndexes(run.glyphIndexes()).constFirst().x() / letters;
+    if (!cluster.isRightToLeft || letters < 2 || cluster.runs.size() != 1)
+        return false;
+    const QGlyphRun& run = cluster.runs.constFirst();
+    const QRawFont raw = run.rawFont();
+    pdf::EmbeddedFont* const font = m_writer.font(raw);
+    const QVector<quint32> own = raw.glyphIndexesForString(cluster.text);
+    const QVector<quint32> drawn = run.glyphIndexes();
+    if (!font || drawn.size() != 1 || !isPlainGlyph(drawn.constFirst()) || own.size() != letters
+            || !std::all_of(own.cbegin(), own.cend(), isPlainGlyph)
+            || !std::all_of(cluster.text.cbegin(), cluster.text.cend(), [](QChar c) { return c.isLetter(); }))
+        return false;
+    const QVector<QPointF> widths = raw.advancesForGlyphIndexes(own);
+    const qreal width = raw.advancesForGlyphIndexes(drawn).constFirst().x() / letters;
     const QPointF left = m_origin + run.positions().constFirst();
-    pdf::PageContent& content = m_writer.content();
-    note(cluster);
-    for (int i = 0; i < letters; ++i) {
-        content.beginText(cluster.text.at(i));
-        if (i + 1 < letters)
-            drawPlaceholder(left + QPointF(width * (letters - 1 - i), 0), width);
-        else
-            drawCluster(cluster);
-        content.end();
+    for (int i = 0; i + 1 < letters; ++i) {
+        font->use(quint16(own.at(i)), cluster.text.at(i));
+        m_row = {font, raw.pixelSize() / m_writer.unitsOfAPoint(), {quint16(own.at(i))}, {}};
+        m_writer.content().showInvisibly(m_row, left + QPointF(width * (letters - 1 - i), 0), widths.at(i).x(), width);
     }
+    font->use(quint16(drawn.constFirst()), cluster.text.right(1));
+    drawCluster(cluster);
+    return true;
 }
 
 void ShapedText::drawCluster(const Cluster& cluster)
@@ -205,33 +280,38 @@ void ShapedText::drawPicture(const QRawFont& raw, quint32 glyph, const QPointF& 
     drawPlaceholder(at);
     GlyphPicture picture;
     picture.color = m_color;
-    picture.path = glyph == 0 ? QPainterPath() : raw.pathForGlyph(glyph);
-    if (glyph == 0) {
-        QPainterPath box;
-        box.addRect(raw.pixelSize() * 0.08, -raw.pixelSize() * 0.7, raw.pixelSize() * 0.5, raw.pixelSize() * 0.7);
-        QPainterPathStroker pen;
-        pen.setWidth(raw.pixelSize() * 0.05);
-        picture.path = pen.createStroke(box);
+    // After a font of pictures was asked for an outline, its glyphs are empty for the rest of the process.
+    if (glyph > 0 && pdf::embeddingOf(raw) == pdf::Embedding::NoOutlines) {
+        picture.place = raw.boundingRect(glyph).translated(at);
+        picture.image = picture.place.isEmpty() ? QByteArray() : pictureOf(raw, glyph);
+    } else {
+        picture.path = glyph == 0 ? frameOf(raw) : raw.pathForGlyph(glyph);
+        picture.path.translate(at);
     }
-    picture.path.translate(at);
-    if (picture.path.isEmpty()) {
-        const QRectF bounds = raw.boundingRect(glyph);
-        picture.place = bounds.translated(at);
-        picture.image = QImage(pixelsOfAPicture * 2, pixelsOfAPicture * 2, QImage::Format_ARGB32_Premultiplied);
-        picture.image.fill(Qt::transparent);
-        QGlyphRun run;
-        run.setRawFont(raw);
-        run.setGlyphIndexes({glyph});
-        run.setPositions({QPointF()});
-        QPainter painter(&picture.image);
-        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        if (!bounds.isEmpty()) {
-            painter.scale(picture.image.width() / bounds.width(), picture.image.height() / bounds.height());
-            painter.translate(-bounds.topLeft());
-            painter.drawGlyphRun({}, run);
-        }
-    }
-    *m_pictures += picture;
+    m_pictures->waiting += picture;
+}
+
+QByteArray ShapedText::pictureOf(const QRawFont& raw, quint32 glyph)
+{
+    const QString key = QStringList {raw.familyName(), raw.styleName(), QString::number(glyph)}.join(QLatin1Char('\n'));
+    QByteArray& name = m_pictures->images[key];
+    if (!name.isEmpty())
+        return name;
+    const QRectF bounds = raw.boundingRect(glyph);
+    QImage image(pixelsOfAPicture, pixelsOfAPicture, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QGlyphRun run;
+    run.setRawFont(raw);
+    run.setGlyphIndexes({glyph});
+    run.setPositions({QPointF()});
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.scale(image.width() / bounds.width(), image.height() / bounds.height());
+    painter.translate(-bounds.topLeft());
+    painter.drawGlyphRun({}, run);
+    painter.end();
+    name = m_writer.image(image);
+    return name;
 }
 
 } // namespace uiutils

@@ -3,7 +3,7 @@
 #include "writers/emitter/pagecontent_p.h"
 
 #include <QGlyphRun>
-#include <QImage>
+#include <QHash>
 #include <QPainterPath>
 #include <QString>
 #include <QTextLayout>
@@ -22,13 +22,22 @@ class DocumentWriter;
 /// cannot hold it.
 struct GlyphPicture
 {
-    QImage image;
+    /// The name of a picture of the file, or none.
+    QByteArray image;
     QRectF place;
     QPainterPath path;
     QColor color;
 };
 
-void drawPictures(pdf::DocumentWriter& writer, const QVector<GlyphPicture>& pictures);
+struct GlyphPictures
+{
+    QVector<GlyphPicture> waiting;
+    /// The names of pictures by face and glyph: each is stored once in a file.
+    QHash<QString, QByteArray> images;
+
+    /// Draws those that wait.
+    void draw(pdf::DocumentWriter& writer);
+};
 
 /// Writes text that Qt has laid out, with the letters behind the glyphs in the order of reading.
 class ShapedText
@@ -36,7 +45,7 @@ class ShapedText
 public:
     /// `font` has the glyph that stands for pictures, if it can be embedded. The pictures and the characters that no
     /// font has are added to the lists.
-    ShapedText(pdf::DocumentWriter& writer, const PageFont& font, QVector<GlyphPicture>* pictures, QString* missing);
+    ShapedText(pdf::DocumentWriter& writer, const PageFont& font, GlyphPictures* pictures, QString* missing);
 
     void draw(const QTextLayout& layout, int line, const QPointF& baseLine, const QColor& color);
 
@@ -52,16 +61,16 @@ private:
     QVector<Cluster> clustersOf(const QTextLayout& layout, const QTextLine& line) const;
     void drawWord(const QVector<Cluster>& clusters, int begin, int end);
     bool note(const Cluster& cluster);
-    bool isReversedLigature(const Cluster& cluster) const;
-    void drawReversedLigature(const Cluster& cluster);
+    bool drawReversedLigature(const Cluster& cluster);
     void drawCluster(const Cluster& cluster);
     void drawRun(const QGlyphRun& run, const QString& text);
     void drawPicture(const QRawFont& raw, quint32 glyph, const QPointF& at);
+    QByteArray pictureOf(const QRawFont& raw, quint32 glyph);
     void drawPlaceholder(const QPointF& at, qreal width = 0);
 
     pdf::DocumentWriter& m_writer;
     const PageFont& m_font;
-    QVector<GlyphPicture>* m_pictures;
+    GlyphPictures* m_pictures;
     QString* m_missing;
     QPointF m_origin;
     QColor m_color;
