@@ -3,6 +3,7 @@
 
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
+#include "writers/csv/csvreport.h"
 #include "writers/text/textreport.h"
 
 #include <cstdio>
@@ -88,13 +89,21 @@ QVector<Result> textCase(int runs, int rows)
             });
     if (leaves == 0)
         std::exit(1);
+    const QByteArray csv = uiutils::reportCsv(report);
+    const Timing asCsv = interleaved(
+            runs, [&] { uiutils::reportCsv(report); }, [&] { leaves += leavesOf(report.object()); });
     const double size = double(text.size()) * sizeof(QChar) / 1e6;
     const double growth = double(peakGrowth([&] { uiutils::reportText(report); })) / 1e6;
+    const double csvGrowth = double(peakGrowth([&] { uiutils::reportCsv(report); })) / 1e6;
     return {{QStringLiteral("plain text of %L1 rows / the same pieces, padded").arg(rows), QStringLiteral("ms CPU"),
                     timing.ours, timing.floor, 0},
             {QStringLiteral("plain text of %L1 rows / reading the leaves, and the same pieces, padded").arg(rows),
                     QStringLiteral("ms CPU"), withReading.ours, withReading.floor, 3},
-            {QStringLiteral("   peak memory of it / size of its text"), QStringLiteral("MB"), growth, size, 0}};
+            {QStringLiteral("   peak memory of it / size of its text"), QStringLiteral("MB"), growth, size, 0},
+            {QStringLiteral("CSV of %L1 rows / reading the leaves").arg(rows), QStringLiteral("ms CPU"), asCsv.ours,
+                    asCsv.floor, 2},
+            {QStringLiteral("   peak memory of it / its size"), QStringLiteral("MB"), csvGrowth,
+                    double(csv.size()) / 1e6, 0}};
 }
 
 } // namespace

@@ -15,6 +15,12 @@ namespace {
 
 bool isProgressShown = false;
 
+std::function<void(const QString&)>& messageSink()
+{
+    static std::function<void(const QString&)> sink;
+    return sink;
+}
+
 QString& warningSubject()
 {
     static QString subject;
@@ -54,13 +60,20 @@ void sayQtMessage(QtMsgType type, const QMessageLogContext&, const QString& text
 
 void say(const QString& message)
 {
+    if (messageSink())
+        return messageSink()(printable(message));
     clearProgress();
     apps::complain(printable(message));
 }
 
+void setMessageSink(const std::function<void(const QString&)>& sink)
+{
+    messageSink() = sink;
+}
+
 void showProgress(const QString& text)
 {
-    const int width = terminalWidth();
+    const int width = messageSink() ? 0 : terminalWidth();
     if (width == 0)
         return;
     clearProgress();

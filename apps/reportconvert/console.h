@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <functional>
+
 /// The texts on standard error.
 namespace uiutils::convert {
 
@@ -13,6 +15,9 @@ void say(const QString& message);
 /// terminal.
 void showProgress(const QString& text);
 void clearProgress();
+
+/// Has `sink` called with each message in place of printing it, and no progress shown. The messages have no line ends.
+void setMessageSink(const std::function<void(const QString& message)>& sink);
 
 /// Prints the library's warnings as ours, with the name of the document that is being converted.
 void installWarningHandler();

@@ -56,6 +56,15 @@ QString advice(const QString& path)
 
 } // namespace
 
+int stoppedBy(int signal, int written, const Plan& plan)
+{
+    say(Texts::tr("Stopped by SIG%1: %2 of %3 files were written.")
+                    .arg(QLatin1String(::sigabbrev_np(signal)))
+                    .arg(written)
+                    .arg(plan.targetCount()));
+    return exitSignalled + signal;
+}
+
 Conversion::Conversion(const Plan& plan, const Options& options, const QString& scratchFolder)
     : m_plan(plan)
     , m_options(options)
@@ -65,24 +74,28 @@ Conversion::Conversion(const Plan& plan, const Options& options, const QString& 
 
 int Conversion::run()
 {
+    bool hasFailed = false;
     for (const Job& job : m_plan.jobs) {
         if (isStopped())
             break;
-        setWarningSubject(job.name());
-        convertDocument(job);
+        hasFailed |= !convert(job);
     }
-    setWarningSubject({});
     clearProgress();
-    if (m_signal == 0)
-        return m_hasFailed ? apps::exitFailed : apps::exitDone;
-    say(Texts::tr("Stopped by SIG%1: %2 of %3 files were written.")
-                    .arg(QLatin1String(::sigabbrev_np(m_signal)))
-                    .arg(m_written)
-                    .arg(m_plan.targetCount()));
-    return exitSignalled + m_signal;
+    if (m_signal != 0)
+        return stoppedBy(m_signal, m_written, m_plan);
+    return hasFailed ? apps::exitFailed : apps::exitDone;
 }
 
-void Conversion::convertDocument(const Job& job)
+bool Conversion::convert(const Job& job)
+{
+    m_hasFailed = false;
+    setWarningSubject(job.name());
+    writeTargets(job);
+    setWarningSubject({});
+    return !m_hasFailed;
+}
+
+void Conversion::writeTargets(const Job& job)
 {
     announce(job.name());
     ReportTemplate report;
@@ -103,12 +116,18 @@ void Conversion::writeTarget(const Target& target, const ReportTemplate& report)
             showProgress(Texts::tr("%1: page %2 of %3").arg(target.name()).arg(page).arg(pageCount));
         return !isStopped();
     };
-    Generation generation {m_options.page, m_scratchFolder, mayContinue, {}};
+    bool isWritten = true;
+    const auto writePart = [&](const QString& name, const QByteArray& bytes) {
+        isWritten = isWritten && !isStopped() && write(target.path + QLatin1Char('/') + name, bytes);
+    };
+    Generation generation {
+            m_options.page, m_options.tables, target.packing, m_scratchFolder, mayContinue, writePart, {}};
     const QByteArray bytes = target.format->generate(report, generation);
-    if (!bytes.isNull())
-        write(target, bytes);
-    else if (!generation.error.isEmpty())
+    const QString path = generation.isPacked && !target.packedPath.isEmpty() ? target.packedPath : target.path;
+    if (!generation.error.isEmpty())
         fail(target.name() + QStringLiteral(": ") + generation.error);
+    else if (target.packing == Packing::Files ? isWritten : !bytes.isNull() && write(path, bytes))
+        ++m_written;
 }
 
 bool Conversion::read(const Job& job, ReportTemplate& report)
@@ -146,17 +165,17 @@ bool Conversion::hasAcceptableLayout(const Job& job, const ReportTemplate& repor
     return true;
 }
 
-void Conversion::write(const Target& target, const QByteArray& bytes)
+bool Conversion::write(const QString& path, const QByteArray& bytes)
 {
     QString error;
-    const bool isWritten
-            = target.path.isEmpty() ? writeStandardOutput(bytes, &error) : writeFile(target.path, bytes, &error);
-    if (isWritten)
-        ++m_written;
-    else if (!error.isEmpty())
-        fail(error);
-    else
+    if (path.isEmpty() ? writeStandardOutput(bytes, &error) : writeFile(path, bytes, &error))
+        return true;
+    // Without a reason it was a signal.
+    if (error.isEmpty())
         isStopped();
+    else
+        fail(error);
+    return false;
 }
 
 bool Conversion::writeFile(const QString& path, const QByteArray& bytes, QString* error) const
@@ -168,8 +187,9 @@ bool Conversion::writeFile(const QString& path, const QByteArray& bytes, QString
         return false;
     }
     // Only now, so that a call without anything to write leaves no empty folder. The write reports why this failed.
-    if (!m_plan.newFolder.isEmpty())
-        QDir().mkpath(m_plan.newFolder);
+    const QString folder = QFileInfo(path).path();
+    if (m_plan.newFolders.contains(folder))
+        QDir().mkpath(folder);
     if (writeFileDurably(path, bytes, error))
         return true;
     *error += QStringLiteral(". ") + advice(path);

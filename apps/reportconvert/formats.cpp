@@ -3,6 +3,7 @@
 #include "document/reporttemplate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 #include "texts.h"
+#include "writers/csv/csvreport.h"
 #include "writers/html/templatetohtmlwriter.h"
 #include "writers/html/templatetopdfwriter.h"
 #include "writers/text/textreport.h"
@@ -104,16 +105,45 @@ QByteArray jsonOf(const ReportTemplate& report, Generation&)
     return reportJson(report).toUtf8();
 }
 
-QByteArray textOf(const ReportTemplate& report, Generation& generation)
+/// Besides the time, the same as in the page.
+TextLayout textLayout(const PageSettings& page)
 {
     TextLayout layout;
-    layout.title = generation.page.title;
+    layout.title = page.title;
     layout.timestamp = QDateTime::currentDateTime();
-    // The same as in the page.
     layout.includeJobInfo = true;
     layout.includeTechnicianInfoTop = true;
     layout.includeCustomerInfoTop = true;
-    return reportText(report, layout).toUtf8();
+    return layout;
+}
+
+QByteArray textOf(const ReportTemplate& report, Generation& generation)
+{
+    return reportText(report, textLayout(generation.page)).toUtf8();
+}
+
+QByteArray csvOf(const ReportTemplate& report, Generation& generation)
+{
+    CsvLayout layout;
+    layout.hasDecimalComma = generation.tables.hasDecimalComma;
+    layout.hasByteOrderMark = generation.tables.hasByteOrderMark;
+    layout.content = textLayout(generation.page);
+    const int count = csvTableCount(report);
+    const bool isPackedIfNeeded = generation.packing == Packing::AsNeeded && count > 1;
+    generation.isPacked = generation.packing == Packing::Packed || isPackedIfNeeded;
+    if (generation.isPacked)
+        return reportCsvZip(report, layout);
+    if (generation.packing == Packing::Files) {
+        visitCsvFiles(report, layout, generation.writePart);
+        return QByteArray();
+    }
+    if (count <= 1)
+        return reportCsv(report, layout);
+    generation.error
+            = Texts::tr("The document has %1 tables, and a CSV file takes one. Pack them with --csv=zip, or name "
+                        "a folder with --output.")
+                      .arg(count);
+    return QByteArray();
 }
 
 const Format formatTable[] = {
@@ -132,6 +162,9 @@ const Format formatTable[] = {
         {QLatin1String("text"), QLatin1String("txt"),
                 QT_TRANSLATE_NOOP("ReportConvert", "80 columns, for a mail or a printer"), true, false, false, false,
                 textOf},
+        {QLatin1String("csv"), QLatin1String("csv"),
+                QT_TRANSLATE_NOOP("ReportConvert", "for spreadsheets, a file for each table"), true, false, false,
+                false, csvOf, true, QLatin1String("zip")},
 };
 
 template<typename Predicate> const Format* findFormat(Predicate isWanted)
@@ -176,7 +209,9 @@ const Format* formatByName(const QString& name)
 
 const Format* formatBySuffix(const QString& suffix)
 {
-    return findFormat([&](const Format& format) { return format.suffix == suffix; });
+    if (suffix.isEmpty())
+        return nullptr;
+    return findFormat([&](const Format& format) { return format.suffix == suffix || format.packedSuffix == suffix; });
 }
 
 QString formatNames()

@@ -28,16 +28,41 @@ struct PageSettings
     QString unitId;
 };
 
+/// How a format that has a file for each table is written.
+enum class Packing {
+    /// One table as it is, several in one packed file.
+    AsNeeded,
+    /// One table as it is; several are an error.
+    Single,
+    /// Every table as a file in a folder.
+    Files,
+    Packed,
+};
+
+/// The options for formats of tables.
+struct TableSettings
+{
+    Packing packing = Packing::AsNeeded;
+    bool hasDecimalComma = false;
+    bool hasByteOrderMark = true;
+};
+
 /// The context of the conversion of one document into one format.
 struct Generation
 {
     const PageSettings& page;
+    const TableSettings& tables;
+    Packing packing;
     /// For temporary files.
     QString scratchFolder;
     /// Called with the finished pages and the expected number; false stops the conversion.
     std::function<bool(int page, int pageCount)> mayContinue;
+    /// Called with the files of Packing::Files, which then are the result.
+    std::function<void(const QString& name, const QByteArray& contents)> writePart;
     /// Why there is no result; empty when it was stopped.
     QString error;
+    /// Whether the result is packed.
+    bool isPacked = false;
 };
 
 /// A format that documents can be converted to. A new row of the table in formats.cpp is a new format.
@@ -57,6 +82,10 @@ struct Format
     bool needsIconFiles;
     /// The contents of the file, text in UTF-8; null when it failed or was stopped.
     QByteArray (*generate)(const ReportTemplate& report, Generation& generation);
+    /// Whether it has a file for each table: TableSettings have an effect.
+    bool hasTables = false;
+    /// The suffix of several tables in one file.
+    QLatin1String packedSuffix = QLatin1String();
 };
 
 /// Why the picture cannot be a logo; empty if it can.
@@ -69,7 +98,7 @@ const QVector<const Format*>& allFormats();
 const Format* formatByName(const QString& name);
 const Format* formatBySuffix(const QString& suffix);
 
-/// "html, pdf, xml, json, text".
+/// "html, pdf, xml, json, text, csv".
 QString formatNames();
 
 } // namespace uiutils::convert

@@ -3,6 +3,7 @@
 #include "common/standardstreams.h"
 #include "console.h"
 #include "conversion.h"
+#include "crew.h"
 #include "options.h"
 #include "plan.h"
 #include "signals.h"
@@ -10,12 +11,15 @@
 #include "texts.h"
 #include "ui_host/describedservices_p.h"
 #include "ui_host/serviceplatform_p.h"
+#include "worker.h"
 #include "workspace.h"
 
 #include <embedded/embeddedbackend.h>
 
 #include <QFile>
 #include <QGuiApplication>
+
+#include <functional>
 
 using namespace uiutils::convert;
 using uiutils::apps::exitDone;
@@ -80,7 +84,10 @@ void warnOfMissingIcons(const Plan& plan)
                     .arg(qEnvironmentVariable("UIUTILS_ROOT")));
 }
 
-int convert(const Options& options, const Plan& plan, const QString& scratchFolder)
+/// What is done with a conversion that is prepared; returns the process's exit status.
+using Use = std::function<int(Conversion& conversion)>;
+
+int convert(const Options& options, const Plan& plan, const QString& scratchFolder, const Use& use)
 {
     kiv::embedded::EmbeddedBackend backend;
     std::unique_ptr<uiutils::ServicePlatform> platform;
@@ -90,7 +97,8 @@ int convert(const Options& options, const Plan& plan, const QString& scratchFold
     const QString problem = options.page.logoFile.isEmpty() ? QString() : logoProblem(options.page.logoFile);
     if (!problem.isEmpty())
         return failed(problem, exitMisused);
-    return Conversion(plan, options, scratchFolder).run();
+    Conversion conversion(plan, options, scratchFolder);
+    return use(conversion);
 }
 
 /// Plots need only the fonts of a display: one that does not answer must not matter.
@@ -98,6 +106,34 @@ void forgetDisplay()
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qunsetenv("QT_QPA_PLATFORMTHEME");
+}
+
+int prepare(char** argv, const Options& options, const Plan& plan, const Use& use)
+{
+    Workspace workspace;
+    QString error;
+    if (!workspace.prepare(&error))
+        return failed(error, exitFailed);
+    forgetDisplay();
+    // A document's name after "--" could look like an option of the toolkit.
+    int nameOnly = 1;
+    const QGuiApplication application(nameOnly, argv);
+    return convert(options, plan, workspace.path(), use);
+}
+
+/// One document needs no other process.
+int convertAll(char** argv, const Options& options, const Plan& plan)
+{
+    if (plan.jobs.size() == 1)
+        return prepare(argv, options, plan, [](Conversion& conversion) { return conversion.run(); });
+    const auto work = [&](int channel) {
+        setMessageSink([channel](const QString& message) { sendLine(channel, answers::message + message.toUtf8()); });
+        return prepare(argv, options, plan, [&](Conversion& conversion) {
+            serve(channel, conversion, plan);
+            return exitDone;
+        });
+    };
+    return Crew(plan, options.jobs, work).run();
 }
 
 } // namespace
@@ -119,13 +155,5 @@ int main(int argc, char** argv)
     if (!plan.error.isEmpty())
         return failed(plan.error, exitMisused);
 
-    Workspace workspace;
-    QString error;
-    if (!workspace.prepare(&error))
-        return failed(error, exitFailed);
-    forgetDisplay();
-    // A document's name after "--" could look like an option of the toolkit.
-    int nameOnly = 1;
-    const QGuiApplication application(nameOnly, argv);
-    return convert(options, plan, workspace.path());
+    return convertAll(argv, options, plan);
 }

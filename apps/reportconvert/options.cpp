@@ -4,6 +4,8 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QHash>
+#include <QThread>
 
 namespace uiutils::convert {
 
@@ -32,11 +34,13 @@ QString formatHelp()
 QString helpText()
 {
     return Texts::tr(R"(Usage: reportconvert [OPTION]... DOCUMENT...
-Convert report documents of the instrument (JSON) to HTML, PDF, XML, JSON or
-plain text.
+Convert report documents of the instrument (JSON) to HTML, PDF, XML, JSON,
+plain text or CSV.
 
-A DOCUMENT is a file of up to 16 MiB, or "-" for standard input. Each is
-converted separately: one that fails is named and does not stop the others.
+A DOCUMENT is a file of up to 16 MiB, "-" for standard input, or a folder, whose
+documents (*.json) are converted. Several are converted at once, each
+separately: one that fails is named and does not stop the others, and the last
+line says how many were converted and which were not.
 Existing files are replaced only by complete ones, and a document never by its
 own output.
 
@@ -48,7 +52,8 @@ Options:
                          "/"; default: the current one), which gets a file with
                          the document's name and the format's suffix, "report"
                          for standard input; or, for one document and one
-                         format, a file, or "-" for standard output
+                         format, a file, or "-" for standard output; without it,
+                         the documents of a folder are converted in that folder
   -s, --services=FOLDER  fill the tables about unit, user and job, and the
                          plots, from the service files in FOLDER; may be given
                          more than once or with colons; without it those tables
@@ -64,6 +69,15 @@ Options:
                          to show and read them is inside
       --unit-id=TEXT     unit in the footer of PDF pages, in place of the one
                          that the services name
+      --csv=FORM         of CSV: "files", a folder with the document's name that
+                         holds a file for each table; "zip", all of them in one
+                         ".zip" file; or "auto" (default): a document of one
+                         table is a ".csv" file, one of several a ".zip" file
+      --decimal-comma    CSV with decimal commas, and ";" between the fields
+      --no-bom           CSV without the mark by which spreadsheets recognize
+                         UTF-8
+  -j, --jobs=N           convert N documents at once, each in a process of its
+                         own; default: as many as there are processors
       --strict           a document that does not have the layout of a report
                          document, or a service file that cannot be used, is an
                          error; without it a warning
@@ -90,6 +104,9 @@ Examples:
 
   reportconvert --format all --services services --output converted/ *.json
                     writes every document in every format into "converted"
+
+  reportconvert --format csv --decimal-comma measured/
+                    converts the folder "measured" for a spreadsheet
 
   reportconvert --format xml --output - - < report.json | xmllint -
                     converts from standard input to standard output
@@ -137,6 +154,10 @@ struct KnownOptions
     const QCommandLineOption orientation {QStringLiteral("orientation"), {}, QStringLiteral("WAY")};
     const QCommandLineOption archive {QStringLiteral("archive")};
     const QCommandLineOption unitId {QStringLiteral("unit-id"), {}, QStringLiteral("TEXT")};
+    const QCommandLineOption csv {QStringLiteral("csv"), {}, QStringLiteral("FORM")};
+    const QCommandLineOption decimalComma {QStringLiteral("decimal-comma")};
+    const QCommandLineOption noMark {QStringLiteral("no-bom")};
+    const QCommandLineOption jobs = named("j", "jobs", "N");
     const QCommandLineOption strict {QStringLiteral("strict")};
 };
 
@@ -167,6 +188,7 @@ QString readPlaces(const QCommandLineParser& parser, const KnownOptions& known, 
     options->output = parser.isSet(known.output) ? parser.value(known.output) : QStringLiteral(".");
     if (options->output.isEmpty())
         return Texts::tr("--output needs the name of a folder or file, or \"-\".");
+    options->isPlaceGiven = parser.isSet(known.output);
     options->serviceFolders = splitFolders(parser.values(known.services));
     if (parser.isSet(known.services) && options->serviceFolders.isEmpty())
         return Texts::tr("--services needs the name of a folder.");
@@ -192,6 +214,26 @@ QString readPage(const QCommandLineParser& parser, const KnownOptions& known, Op
     return QString();
 }
 
+QString readJobs(const QCommandLineParser& parser, const KnownOptions& known, Options* options)
+{
+    constexpr int most = 256;
+    bool isNumber = true;
+    options->jobs = parser.isSet(known.jobs) ? parser.value(known.jobs).toInt(&isNumber) : QThread::idealThreadCount();
+    options->jobs = qMin(options->jobs, most);
+    return isNumber && options->jobs > 0 ? QString() : Texts::tr("--jobs needs a number of processes, 1 or more.");
+}
+
+QString readTables(const QCommandLineParser& parser, const KnownOptions& known, Options* options)
+{
+    const QHash<QString, Packing> forms {{QString(), Packing::AsNeeded}, {QStringLiteral("auto"), Packing::AsNeeded},
+            {QStringLiteral("files"), Packing::Files}, {QStringLiteral("zip"), Packing::Packed}};
+    const QString form = parser.value(known.csv);
+    if (!forms.contains(form) || (form.isEmpty() && parser.isSet(known.csv)))
+        return Texts::tr("There is no form \"%1\" of CSV, only auto, files and zip.").arg(form);
+    options->tables = {forms.value(form), parser.isSet(known.decimalComma), !parser.isSet(known.noMark)};
+    return QString();
+}
+
 } // namespace
 
 Options readOptions(const QStringList& arguments)
@@ -199,14 +241,15 @@ Options readOptions(const QStringList& arguments)
     const KnownOptions known;
     QCommandLineParser parser;
     parser.addOptions({known.format, known.output, known.services, known.title, known.logo, known.noLogo,
-            known.orientation, known.archive, known.unitId, known.strict});
+            known.orientation, known.archive, known.unitId, known.csv, known.decimalComma, known.noMark, known.jobs,
+            known.strict});
     const QString version = QStringLiteral("reportconvert (uiutils) %1\n").arg(QCoreApplication::applicationVersion());
     const apps::CommandLine line = apps::parse(parser, arguments, {helpText(), version});
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);
 
     Options options;
-    for (const auto read : {readDocuments, readFormats, readPlaces, readPage}) {
+    for (const auto read : {readDocuments, readFormats, readPlaces, readPage, readTables, readJobs}) {
         const QString problem = read(parser, known, &options);
         if (!problem.isEmpty())
             return misused(problem);

@@ -20,8 +20,12 @@ struct Options : apps::CommandLine
     QVector<const Format*> formats;
     /// As given; "." without the option.
     QString output;
+    bool isPlaceGiven = false;
+    /// How many processes convert several documents at once.
+    int jobs = 1;
     QStringList serviceFolders;
     PageSettings page;
+    TableSettings tables;
     bool isStrict = false;
 };
 

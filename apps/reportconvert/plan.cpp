@@ -51,18 +51,41 @@ std::optional<Identity> identityOf(const QString& document)
     return Identity(status.st_dev, status.st_ino);
 }
 
-/// All targets are in one folder, so that two of them are the same file only when their names are equal.
+/// The same for all names of a file that may not exist yet. Folders have many targets and are looked up once.
+class Places
+{
+public:
+    QString of(const QString& path)
+    {
+        const QFileInfo file(path);
+        QString& folder = m_folders[file.path()];
+        if (folder.isEmpty()) {
+            const QString real = QFileInfo(file.path()).canonicalFilePath();
+            folder = real.isEmpty() ? QDir::cleanPath(QFileInfo(file.path()).absoluteFilePath()) : real;
+        }
+        return folder + QLatin1Char('/') + file.fileName();
+    }
+
+private:
+    QHash<QString, QString> m_folders;
+};
+
 QString clashOf(const QVector<Job>& jobs)
 {
     QHash<QString, QString> documentOf;
+    Places places;
     for (const Job& job : jobs) {
         for (const Target& target : job.targets) {
-            if (documentOf.contains(target.path)) {
-                return Texts::tr("%1 and %2 would both be written to %3. Convert them in two calls, into different "
-                                 "folders.")
-                        .arg(documentOf.value(target.path), job.name(), target.path);
+            const QStringList paths = target.path.isEmpty() ? QStringList() : target.paths();
+            for (const QString& path : paths) {
+                const QString place = places.of(path);
+                if (documentOf.contains(place)) {
+                    return Texts::tr("%1 and %2 would both be written to %3. Convert them in two calls, into different "
+                                     "folders.")
+                            .arg(documentOf.value(place), job.name(), path);
+                }
+                documentOf.insert(place, job.name());
             }
-            documentOf.insert(target.path, job.name());
         }
     }
     return {};
@@ -77,10 +100,13 @@ QString overwrittenDocument(const QVector<Job>& jobs)
     }
     for (const Job& job : jobs) {
         for (const Target& target : job.targets) {
-            const std::optional<Identity> identity = identityOf(target.path);
-            if (identity && documents.contains(*identity)) {
-                return Texts::tr("%1 would overwrite the document %2. Name another folder or file with --output.")
-                        .arg(target.path, documents.value(*identity));
+            const QStringList paths = target.path.isEmpty() ? QStringList() : target.paths();
+            for (const QString& path : paths) {
+                const std::optional<Identity> identity = identityOf(path);
+                if (identity && documents.contains(*identity)) {
+                    return Texts::tr("%1 would overwrite the document %2. Name another folder or file with --output.")
+                            .arg(path, documents.value(*identity));
+                }
             }
         }
     }
@@ -94,27 +120,85 @@ Plan rejected(const QString& error)
     return plan;
 }
 
-Plan intoFolder(const Options& options)
+/// A document of the call and the folder that its files are written to.
+struct Source
+{
+    QString document;
+    QString folder;
+};
+
+/// The documents in the order of the call, those of folders in the order of their names. The files of a folder are
+/// written beside its documents if the call names no other place.
+QVector<Source> sourcesOf(const Options& options, QString* error)
+{
+    QVector<Source> sources;
+    for (const QString& document : options.documents) {
+        if (isStandardStream(document) || !QFileInfo(document).isDir()) {
+            sources += {document, options.output};
+            continue;
+        }
+        const QDir folder(document);
+        const QStringList names = folder.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+        if (names.isEmpty())
+            *error = Texts::tr("The folder %1 has no document (*.json).").arg(document);
+        for (const QString& name : names)
+            sources += {folder.filePath(name), options.isPlaceGiven ? options.output : document};
+    }
+    return sources;
+}
+
+Target targetIn(const Source& source, const Format* format, Packing packing)
+{
+    const QString stem = QDir::cleanPath(QDir(source.folder).filePath(baseName(source.document)));
+    const auto path = [&](QLatin1String suffix) { return QString(stem + QLatin1Char('.') + suffix); };
+    if (!format->hasTables)
+        return {format, path(format->suffix)};
+    switch (packing) {
+    case Packing::Files:
+        return {format, stem, packing};
+    case Packing::Packed:
+        return {format, path(format->packedSuffix), packing};
+    default:
+        return {format, path(format->suffix), packing, path(format->packedSuffix)};
+    }
+}
+
+Plan intoFolders(const Options& options, const QVector<Source>& sources)
 {
     Plan plan;
-    for (const QString& document : options.documents) {
-        Job job {document, {}};
+    const bool isNew = !QFileInfo(options.output).isDir();
+    for (const Source& source : sources) {
+        Job job {source.document, {}};
         for (const Format* format : options.formats) {
-            const QString file = baseName(document) + QLatin1Char('.') + format->suffix;
-            job.targets += Target {format, QDir::cleanPath(QDir(options.output).filePath(file))};
+            job.targets += targetIn(source, format, options.tables.packing);
+            const Target& target = job.targets.constLast();
+            if (target.packing == Packing::Files)
+                plan.newFolders += target.path;
+            else if (isNew)
+                plan.newFolders += QFileInfo(target.path).path();
         }
         plan.jobs += job;
     }
-    if (!QFileInfo(options.output).isDir())
-        plan.newFolder = options.output;
     return plan;
 }
 
+/// What a single file or standard output holds: its reader expects one form.
+Packing packingOfOne(const Options& options)
+{
+    const Format* const format = options.formats.constFirst();
+    const QString suffix = QFileInfo(options.output).suffix().toLower();
+    const bool isPacked = options.tables.packing == Packing::Packed || suffix == format->packedSuffix;
+    return isPacked && format->hasTables ? Packing::Packed : Packing::Single;
+}
+
 /// The plan for standard output or a single file.
-Plan intoOne(const Options& options)
+Plan intoOne(const Options& options, const QVector<Source>& sources)
 {
     const bool toStandardOutput = isStandardStream(options.output);
-    if (options.documents.size() > 1 || options.formats.size() > 1) {
+    const bool isOne = sources.size() == 1 && options.formats.size() == 1;
+    if (isOne && options.formats.constFirst()->hasTables && options.tables.packing == Packing::Files)
+        return rejected(Texts::tr("--csv=files writes a folder for each document. Name a folder with --output."));
+    if (!isOne) {
         return rejected(toStandardOutput
                         ? Texts::tr("Standard output takes one document in one format. Name a folder with --output.")
                         : Texts::tr("%1 is not a folder, and a file takes one document in one format. To create a "
@@ -122,20 +206,27 @@ Plan intoOne(const Options& options)
                                   .arg(options.output));
     }
     Plan plan;
-    const Target target {options.formats.constFirst(), toStandardOutput ? QString() : options.output};
-    plan.jobs += Job {options.documents.constFirst(), {target}};
+    const Target target {
+            options.formats.constFirst(), toStandardOutput ? QString() : options.output, packingOfOne(options)};
+    plan.jobs += Job {sources.constFirst().document, {target}};
     return plan;
 }
 
 /// The error for an option that affects none of the requested formats.
-QString idleOption(const PageSettings& page, const Plan& plan)
+QString idleOption(const Options& options, const Plan& plan)
 {
+    const PageSettings& page = options.page;
     if (!page.title.isNull() && !plan.writes(&Format::hasTitle))
-        return Texts::tr("--title changes HTML pages, PDF files and plain texts only, and none is requested.");
+        return Texts::tr(
+                "--title changes HTML pages, PDF files, plain texts and CSV files only, and none is requested.");
     if ((!page.hasLogo || !page.logoFile.isEmpty()) && !plan.writes(&Format::isPage))
         return Texts::tr("--logo and --no-logo change HTML pages and PDF files only, and none is requested.");
     if ((!page.orientation.isEmpty() || !page.unitId.isEmpty()) && !plan.writes(&Format::isPaper))
         return Texts::tr("--orientation and --unit-id change PDF files only, and none is requested.");
+    const bool isTablesDefault = options.tables.packing == Packing::AsNeeded && !options.tables.hasDecimalComma
+            && options.tables.hasByteOrderMark;
+    if (!isTablesDefault && !plan.writes(&Format::hasTables))
+        return Texts::tr("--csv, --decimal-comma and --no-bom change CSV files only, and none is requested.");
     return {};
 }
 
@@ -173,9 +264,13 @@ Plan makePlan(const Options& given)
             return rejected(Texts::tr("Name a format with --format: %1 or all.").arg(formatNames()));
         options.formats += format;
     }
-    Plan plan = writesFolder ? intoFolder(options) : intoOne(options);
+    QString missing;
+    const QVector<Source> sources = sourcesOf(options, &missing);
+    if (!missing.isEmpty())
+        return rejected(missing);
+    Plan plan = writesFolder ? intoFolders(options, sources) : intoOne(options, sources);
     if (plan.error.isEmpty())
-        plan.error = idleOption(options.page, plan);
+        plan.error = idleOption(options, plan);
     if (plan.error.isEmpty())
         plan.error = clashOf(plan.jobs);
     if (plan.error.isEmpty())

@@ -2,7 +2,9 @@
 
 #include "options.h"
 
+#include <QSet>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 namespace uiutils::convert {
@@ -11,9 +13,14 @@ namespace uiutils::convert {
 struct Target
 {
     const Format* format;
-    /// Empty for standard output.
+    /// Empty for standard output; a folder for Packing::Files.
     QString path;
+    Packing packing = Packing::AsNeeded;
+    /// The path of the packed form, if that has another one.
+    QString packedPath = QString();
 
+    /// Where it may be written.
+    QStringList paths() const { return packedPath.isEmpty() ? QStringList(path) : QStringList {path, packedPath}; }
     /// The name in messages.
     QString name() const { return path.isEmpty() ? QStringLiteral("<standard output>") : path; }
 };
@@ -33,8 +40,8 @@ struct Job
 struct Plan
 {
     QVector<Job> jobs;
-    /// A folder to create before the first file is written; empty for none.
-    QString newFolder;
+    /// Folders to create when the first file is written to them.
+    QSet<QString> newFolders;
     /// Why the call must not run, in words; empty when it may.
     QString error;
 
@@ -43,8 +50,8 @@ struct Plan
     bool writes(bool Format::*flag) const;
 };
 
-/// Gives every document and format its target. Rejects two targets of one name, and a target that is one of the
-/// documents. Reads the disk and changes nothing on it.
+/// Finds the documents of folders, and gives every document and format its target. Rejects two targets of one name, and
+/// a target that is one of the documents. Reads the disk and changes nothing on it.
 Plan makePlan(const Options& options);
 
 } // namespace uiutils::convert

@@ -4,7 +4,6 @@
 
 #include <cerrno>
 #include <csignal>
-#include <poll.h>
 
 namespace uiutils::convert {
 
@@ -39,11 +38,18 @@ int pendingSignal()
     return 0;
 }
 
+bool waitForAny(std::vector<pollfd>& descriptors)
+{
+    descriptors.push_back({signalDescriptor, POLLIN, 0});
+    while (::poll(descriptors.data(), descriptors.size(), -1) < 0 && errno == EINTR) { }
+    descriptors.pop_back();
+    return pendingSignal() == 0;
+}
+
 bool waitFor(int fd, short events)
 {
-    pollfd waiting[] = {{fd, events, 0}, {signalDescriptor, POLLIN, 0}};
-    while (::poll(waiting, 2, -1) < 0 && errno == EINTR) { }
-    return pendingSignal() == 0;
+    std::vector<pollfd> waiting {{fd, events, 0}};
+    return waitForAny(waiting);
 }
 
 } // namespace uiutils::convert

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <poll.h>
+#include <vector>
+
 namespace uiutils::convert {
 
 /// Blocks SIGINT, SIGTERM and SIGHUP, unless the caller ignores them, so that no file is half-written. A reader that
@@ -9,6 +12,9 @@ void holdSignals();
 
 /// The number of a signal that is waiting, or 0.
 int pendingSignal();
+
+/// Waits until one of the descriptors is ready for its events of poll(); false when a signal came first.
+bool waitForAny(std::vector<pollfd>& descriptors);
 
 /// Waits until `fd` is ready for `events` of poll(); false when a signal came first.
 bool waitFor(int fd, short events);

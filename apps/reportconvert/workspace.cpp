@@ -11,16 +11,12 @@
 
 namespace uiutils::convert {
 
-namespace {
-
 /// Not QDir::tempPath(), which is "/" when TMPDIR names a folder that does not exist.
-QString place()
+QString Workspace::place()
 {
     const QString named = qEnvironmentVariable("TMPDIR");
     return named.isEmpty() ? QStringLiteral("/tmp") : named;
 }
-
-} // namespace
 
 bool Workspace::prepare(QString* error)
 {

@@ -18,6 +18,8 @@ public:
     /// what to do in `error`, on failure.
     bool prepare(QString* error);
 
+    /// Where the folder is made.
+    static QString place();
     /// For temporary files.
     QString path() const { return m_folder->path(); }
 

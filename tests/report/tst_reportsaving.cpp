@@ -593,6 +593,31 @@ private Q_SLOTS:
         QVERIFY(report.save() && !QFile::exists(onDisk("/cust/public/reports/c.csv")));
     }
 
+    /// CSV is offered on request, and then has all that other formats have; nothing else changes.
+    void csv()
+    {
+        Controller without("a", 5);
+        Controller report("a", 99);
+        QVERIFY(report.getSuffixForReport().isEmpty() && !report.save());
+        manager()->accept();
+        QVERIFY(report.offerCsv(true) && !report.offerCsv() && without.save());
+        QVERIFY(!names("/cust/public/reports").contains("a.zip"));
+        ReportTemplate& document = report.document();
+        document.beginReport("t");
+        document.beginTable("t", "T");
+        document.addRow("t", "A", 0.5, {});
+        document.endTable();
+        document.endReport();
+        QVERIFY(report.save() && !report.save() && names("/cust/public/reports").contains("a.zip"));
+        QCOMPARE(dialogText(), QString("Do you want to overwrite report Internal:/reports/a.zip?"));
+        QVERIFY(report.calls.contains("metadata CSV") && contentsOf(listFile()).contains("/a.zip\n"));
+        QProcess unzip;
+        unzip.start("python3", {"-c", "import sys, zipfile; print(zipfile.ZipFile(sys.argv[1]).read('T.csv').decode()[1:])",
+                                       onDisk("/cust/public/reports/a.zip")});
+        QVERIFY(unzip.waitForFinished());
+        QCOMPARE(unzip.readAllStandardOutput().simplified(), QByteArray("Name;Value A;0,5"));
+    }
+
     void reportsStayFromTheCloudThoughOthersFail()
     {
         Controller report("a", 5);

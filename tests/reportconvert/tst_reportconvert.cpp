@@ -3,6 +3,7 @@
 
 #include "document/reporttemplate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
+#include "writers/csv/csvreport.h"
 #include "writers/text/textreport.h"
 
 #include <embedded/embeddedbackend.h>
@@ -84,13 +85,15 @@ private Q_SLOTS:
         const QString document = testData + "/documents/" + name + ".json";
         const Outcome outcome = run({"--format", "all", "--services", testData + "/services", "--output", path("new/folder/"), document});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
-        QCOMPARE(namesIn(path("new/folder")),
-                QStringList({name + ".html", name + ".json", name + ".pdf", name + ".txt", name + ".xml"}));
-
         kiv::embedded::EmbeddedBackend backend;
         QCOMPARE(backend.loadFolders({testData + "/services"}), QStringList());
         ReportTemplate report;
         report.readFile(document);
+        QStringList names;
+        for (const char* suffix : {".html", ".json", ".pdf", ".txt", ".xml", uiutils::csvTableCount(report) > 1 ? ".zip" : ".csv"})
+            names += name + suffix;
+        names.sort();
+        QCOMPARE(namesIn(path("new/folder")), names);
         const QString stem = path("new/folder/") + name;
         QCOMPARE(contentsOf(stem + ".json"), report.toJson().toUtf8());
         QCOMPARE(contentsOf(stem + ".xml"), TemplateToXmlWriter(report, false, true, true).getXml().toUtf8());
@@ -243,8 +246,94 @@ private Q_SLOTS:
         const Outcome outcome = run({"-f", "html", "-f", "json", "-o", "out/", "a.json", "broken.json", "c.json"});
         QCOMPARE(outcome.exitCode, 1);
         QVERIFY2(outcome.errors.startsWith("reportconvert: broken.json:2:"), qPrintable(outcome.errors));
-        QCOMPARE(outcome.errors.count('\n'), 1);
+        QVERIFY2(outcome.errors.endsWith("2 of 3 documents were converted. Not, or not completely: broken.json.\n"),
+                qPrintable(outcome.errors));
+        QCOMPARE(outcome.errors.count('\n'), 2);
         QCOMPARE(namesIn(path("out")), QStringList({"a.html", "a.json", "c.html", "c.json"}));
+    }
+
+    /// The documents of a folder are converted beside them, or where the call says; other files are left alone.
+    void folders()
+    {
+        QVERIFY(QDir(m_folder->path()).mkpath("in/below") && QDir(m_folder->path()).mkpath("other/empty"));
+        QStringList expected;
+        for (int i = 100; i < 140; ++i) {
+            writeFile(path(QString("in/%1.json").arg(i)), smallDocument);
+            expected << QString("%1.json").arg(i) << QString("%1.xml").arg(i);
+        }
+        for (const char* name : {"in/a.txt", "in/below/b.json", "other/100.json"})
+            writeFile(path(name), smallDocument);
+        const Outcome outcome = run({"-f", "xml", "-j", "3", "in"});
+        QCOMPARE(outcome.errors, QString("reportconvert: 40 of 40 documents were converted.\n"));
+        QCOMPARE(outcome.exitCode, 0);
+        QCOMPARE(namesIn(path("in")), expected + QStringList({"a.txt", "below"}));
+        QCOMPARE(contentsOf(path("in/139.xml")), run({"-f", "xml", "-o", "-", "in/100.json"}).output);
+        QCOMPARE(run({"-f", "csv", "-o", "out/", "in/below", "other/100.json"}).exitCode, 0);
+        QCOMPARE(namesIn(path("out")), QStringList({"100.csv", "b.csv"}));
+    }
+
+    /// A document that ends its process is lost alone.
+    void crash()
+    {
+        for (const char* name : {"b.json", "c.json"})
+            writeFile(path(name), smallDocument);
+        QProcess process;
+        prepare(process);
+        process.start(program, {"-f", "xml", "-j", "1", "-", "b.json", "c.json"});
+        const QString children = QString("/proc/%1/task/%1/children").arg(process.processId());
+        const auto worker = [&] { return contentsOf(children).trimmed().toInt(); };
+        // What is read goes to a temporary file.
+        const auto isReading = [&] {
+            const QFileInfoList files = QDir(QString("/proc/%1/fd").arg(worker())).entryInfoList(QDir::Files | QDir::System);
+            const QRegularExpression input("^" + m_scratch->path() + "/[^/]+/(input|#)");
+            return std::any_of(files.begin(), files.end(),
+                    [&](const QFileInfo& file) { return file.symLinkTarget().contains(input); });
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(isReading(), 60000);
+        QVERIFY(worker() > 1);
+        QCOMPARE(::kill(pid_t(worker()), SIGKILL), 0);
+        const Outcome outcome = ended(process);
+        QCOMPARE(outcome.exitCode, 1);
+        QCOMPARE(outcome.errors, QString("reportconvert: <standard input>: the conversion of this document crashed (SIGKILL)\n"
+                "reportconvert: 2 of 3 documents were converted. Not, or not completely: <standard input>.\n"));
+        QCOMPARE(namesIn(m_folder->path()), QStringList({"b.json", "b.xml", "c.json", "c.xml"}));
+    }
+
+    /// What is missing for all documents is said once, however many processes miss it.
+    void missingForAll()
+    {
+        for (const char* name : {"b.json", "c.json"})
+            writeFile(path(name), smallDocument);
+        const Outcome outcome = run({"-f", "xml", "-j", "4", "-s", "none", "b.json", "c.json"});
+        QCOMPARE(outcome.exitCode, 1);
+        QVERIFY2(outcome.errors.count("No service could be loaded") == 1 && !outcome.errors.contains("documents"),
+                qPrintable(outcome.errors));
+        QCOMPARE(namesIn(m_folder->path()), QStringList({"b.json", "c.json"}));
+        const Outcome other = run({"-f", "xml", "-j", "4", "-s", "none:" + testData + "/services", "b.json", "c.json"});
+        QVERIFY2(other.exitCode == 0 && other.errors.count("none") == 1, qPrintable(other.errors));
+    }
+
+    void tablesForSpreadsheets()
+    {
+        const QByteArray two = "'table_0':{'title':'A','num_columns':1,'row_1':{'cell_0':{'label':'0.5 dB'}}},"
+                               "'table_1':{'title':'B'},";
+        writeFile(path("one.json"), smallDocument);
+        writeFile(path("two.json"), QByteArray(smallDocument).replace("{", '{' + QByteArray(two).replace('\'', '"')));
+        QCOMPARE(run({"-f", "csv", "one.json", "two.json"}).exitCode, 0);
+        QVERIFY(contentsOf(path("one.csv")).startsWith("\xef\xbb\xbfName,Value\r\nTimestamp,"));
+        QVERIFY(contentsOf(path("two.zip")).startsWith("PK"));
+        QCOMPARE(run({"-f", "csv", "--csv=zip", "one.json"}).exitCode, 0);
+        QCOMPARE(namesIn(m_folder->path()), QStringList({"one.csv", "one.json", "one.zip", "two.json", "two.zip"}));
+        QCOMPARE(run({"-f", "csv", "--csv=files", "--decimal-comma", "--no-bom", "-o", "new/", "two.json"}).exitCode, 0);
+        QCOMPARE(namesIn(path("new/two")), QStringList({"A.csv", "B.csv", "report.csv"}));
+        QCOMPARE(contentsOf(path("new/two/A.csv")), QByteArray(";Unit\r\n0,5;dB\r\n"));
+        QVERIFY(run({"-o", "a.zip", "one.json"}).exitCode == 0 && contentsOf(path("a.zip")).startsWith("PK"));
+        QVERIFY(run({"-f", "csv", "--csv=zip", "-o", "-", "two.json"}).output.startsWith("PK"));
+        for (const char* output : {"-", "a.csv"}) {
+            const Outcome several = run({"-f", "csv", "-o", output, "two.json"});
+            QVERIFY2(several.exitCode == 1 && several.errors.contains("2 tables"), qPrintable(several.errors));
+        }
+        QVERIFY(!QFile::exists(path("a.csv")));
     }
 
     void documentFaults_data()
@@ -289,7 +378,7 @@ private Q_SLOTS:
     void rejectedCalls()
     {
         const auto [arguments, words] = currentRow<QString, QString>();
-        QVERIFY(QDir(m_folder->path()).mkdir("sub") && QFile::link(m_folder->path(), path("link")));
+        QVERIFY(QDir(m_folder->path()).mkdir("sub") && QDir(m_folder->path()).mkdir("empty") && QFile::link(m_folder->path(), path("link")));
         for (const char* name : {"a.json", "sub/a.json", "sub/b.json"})
             writeFile(path(name), smallDocument);
         // The header of 9,000 by 9,000 pixels.
@@ -344,7 +433,7 @@ private Q_SLOTS:
         writeFile(path("c.json"), smallDocument);
         QProcess process;
         prepare(process);
-        process.start("bash", {"-c", trap + "exec \"$0\" \"$@\"", program, "-f", "html", "broken.json", "-", "c.json"});
+        process.start("bash", {"-c", trap + "exec \"$0\" \"$@\"", program, "-j", "1", "-f", "html", "broken.json", "-", "c.json"});
         process.setReadChannel(QProcess::StandardError);
         QVERIFY(process.waitForReadyRead());
         QCOMPARE(::kill(pid_t(process.processId()), signal), 0);

@@ -33,6 +33,7 @@ pdffile     lib/ui_utils/writers/pdffile    base core emitter
 podofo      lib/ui_utils/writers/pdffile/podofo  base core pdffile
 pages       lib/ui_utils/writers/pages      base core emitter
 text        lib/ui_utils/writers/text       base contract core instrument document plots
+csv         lib/ui_utils/writers/csv        base contract core instrument document plots text
 html        lib/ui_utils/writers/html       base contract core instrument document plots pages text
 xml         lib/ui_utils/templ2xmlwriter    base contract core instrument document
 report      lib/ui_utils/report             base contract core service instrument document local files WRITERS saving
@@ -60,8 +61,8 @@ benchmarks  benchmarks                      LIBRARY podofo base contract embedde
 startbench  benchmarks/start                -
 busbench    benchmarks/bus                  LIBRARY base contract embedded bus benchmarks
 """
-GROUPS = {"WRITERS": "emitter plots pdffile pages text html xml",
-          "LIBRARY": "core service instrument document local files emitter plots pdffile pages text html xml report saving module"}
+GROUPS = {"WRITERS": "emitter plots pdffile pages text csv html xml",
+          "LIBRARY": "core service instrument document local files emitter plots pdffile pages text csv html xml report saving module"}
 # Our modules that pages may import.
 PAGES = {"apps/common/qml": [], "apps/pdf_viewer/qml": ["UiUtils.Viewer"], "qml/UiUtils/Controls": ["UiUtils", "UiUtils.Controls", "UiUtils.Preview"],
          "apps/demo/qml": ["UiUtils", "UiUtils.Controls", "UiUtils.Demo"]}

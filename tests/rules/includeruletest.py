@@ -17,7 +17,7 @@ FOLDERS = {
     "formatters": "platform/reference/formatters",
     "embedded": "platform/reference/embedded",
     **{room: f"lib/ui_utils/{room}" for room in "core service instrument document local files report module".split()},
-    **{room: f"lib/ui_utils/writers/{room}" for room in "plots pdffile pages text html".split()},
+    **{room: f"lib/ui_utils/writers/{room}" for room in "plots pdffile pages text csv html".split()},
     "xml": "lib/ui_utils/templ2xmlwriter",
     "saving": "lib/ui_utils/report/saving",
     "plugin": "qml/UiUtils",
@@ -31,7 +31,7 @@ FOLDERS = {
 }
 GROUPS = {
     "REFERENCE": "formatters embedded",
-    "WRITERS": "plots pdffile pages text html xml",
+    "WRITERS": "plots pdffile pages text csv html xml",
     "ABOVE": "report saving module PROGRAMS",
     "LIBRARY": "core service instrument document local files WRITERS report saving module",
     "PROGRAMS": "plugin common viewer demo convert qmlviewer benchmarks tests",
@@ -51,9 +51,10 @@ local       REFERENCE instrument document files WRITERS ABOVE
 files       REFERENCE local WRITERS ABOVE
 plots       REFERENCE service instrument document local files WRITERS ABOVE
 pdffile     REFERENCE contract service instrument document local files WRITERS ABOVE
-pages       REFERENCE contract service instrument document local files plots text html xml ABOVE
-text        REFERENCE local files pdffile pages html xml ABOVE
-html        REFERENCE local files xml ABOVE
+pages       REFERENCE contract service instrument document local files plots text csv html xml ABOVE
+text        REFERENCE local files pdffile pages csv html xml ABOVE
+csv         REFERENCE local files pdffile pages html xml ABOVE
+html        REFERENCE local files csv xml ABOVE
 xml         REFERENCE local files WRITERS ABOVE
 report      REFERENCE module PROGRAMS
 saving      REFERENCE module PROGRAMS

@@ -18,6 +18,9 @@ enum ReportFormat {
     REPORT_FORMAT_ALL
 };
 
+/// The format that Report::offerCsv() adds to these.
+constexpr int csvFormat = 99;
+
 /// The formats of applications have values from this one on, see Report::addFormat().
 constexpr int firstOwnFormat = 100;
 

@@ -283,6 +283,10 @@ public:
     /// Ends the running save before the next page or format. What is written by then stays. The user, who wanted it, is
     /// not notified.
     Q_INVOKABLE void cancel();
+    /// Offers users the format CSV (NSReport::csvFormat) as well: a ".zip" file of all tables, in which numbers have a
+    /// decimal comma if `hasDecimalComma`. To be called when the object is made, once: false, and nothing changes, if
+    /// it was called before, or if a format of the application's own has the suffix.
+    Q_INVOKABLE bool offerCsv(bool hasDecimalComma = false);
 
     /// The path of a report `name` that is saved now, with `suffix` appended unless it ends so. Makes the folder.
     virtual QString getSaveFilePath(const QString& name, const QString& suffix);

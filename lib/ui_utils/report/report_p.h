@@ -81,7 +81,7 @@ public:
     QString lastPdf;
     QStringList screenshots;
     QVariantMap writerAttributes;
-    /// What makes the contents of the formats that a derived controller has added, by their values.
+    /// What makes the contents of the formats that have been added to the library's, by their values.
     QMap<int, std::function<QByteArray()>> ownFormats;
     QStringList syncedReports;
     QStringList unsyncedReports;
@@ -106,6 +106,8 @@ public:
     template<typename Writer> void handOnSwitches(Writer& writer) const;
 
     // --- Saving ---
+    bool addFormat(int value, const QString& label, const QString& suffix, const std::function<QByteArray()>& generate);
+    QByteArray csvArchive(bool hasDecimalComma) const;
     QString chosenName();
     bool writeGenerated(const QString& path, QString (Report::*generate)(), const QString& suffix, bool overwrite);
     /// Writes a file of which `make` makes the contents; none are an error, for the reason `nothing`.

@@ -58,15 +58,13 @@ void Report::setFormatApplicable(int format, bool applicable)
 bool Report::addFormat(
         int value, const QString& label, const QString& suffix, const std::function<QByteArray()>& generate)
 {
-    UiData* item = d->settings.value(uiutils::formatSetting);
-    if (!item || !generate || d->ownFormats.contains(value))
-        return false;
-    const uiutils::FormatInfo* format = uiutils::addReportFormat(value, label, suffix);
-    if (!format)
-        return false;
-    d->ownFormats.insert(value, generate);
-    uiutils::addFormatChoice(*item, *format);
-    return true;
+    return value >= NSReport::firstOwnFormat && d->addFormat(value, label, suffix, generate);
+}
+
+bool Report::offerCsv(bool hasDecimalComma)
+{
+    return d->addFormat(NSReport::csvFormat, QStringLiteral("CSV"), QStringLiteral(".zip"),
+            [this, hasDecimalComma] { return d->csvArchive(hasDecimalComma); });
 }
 
 void Report::slotCreateSettings()

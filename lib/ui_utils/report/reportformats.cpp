@@ -33,7 +33,7 @@ FormatInfos applicableFormats(const UiData& item)
 bool hasFormat(const UiData& item, const FormatInfo& format)
 {
     const QList<UiEnumType*> choices = choicesOf(item);
-    return format.value < NSReport::firstOwnFormat
+    return format.value < NSReport::csvFormat
             || std::any_of(choices.cbegin(), choices.cend(),
                     [&](const UiEnumType* choice) { return choice->getValue() == format.value; });
 }
@@ -93,7 +93,7 @@ const std::deque<FormatInfo>& allReportFormats()
 
 const FormatInfo* addReportFormat(int value, const QString& label, const QString& suffix)
 {
-    if (value < NSReport::firstOwnFormat || !isSuffix(suffix))
+    if (value < NSReport::csvFormat || !isSuffix(suffix))
         return nullptr;
     for (const FormatInfo& format : formatTable()) {
         if (format.value == value || format.suffix == suffix)

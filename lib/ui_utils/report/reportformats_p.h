@@ -22,7 +22,8 @@ inline const QLatin1String gzipSuffix(".gz");
 
 struct FormatInfo
 {
-    /// An NSReport::ReportFormat, or at least NSReport::firstOwnFormat for a format that an application has added.
+    /// An NSReport::ReportFormat, NSReport::csvFormat, or at least NSReport::firstOwnFormat for a format that an
+    /// application has added.
     int value;
     /// In English; of an application's format, as the application has given it.
     QString label;
@@ -37,7 +38,7 @@ struct FormatInfo
 /// process have added. An entry keeps its place in memory.
 const std::deque<FormatInfo>& allReportFormats();
 
-/// The entry of a format of the application's own, which is made if there is none. Null if the value or the suffix is
+/// The entry of a format that only some controllers have, CSV or one of the application's own, which is made if there is none. Null if the value or the suffix is
 /// another format's, or cannot be one.
 const FormatInfo* addReportFormat(int value, const QString& label, const QString& suffix);
 
@@ -66,7 +67,7 @@ FormatChoice formatChoice(const UiData* item);
 /// Adds the library's formats to the choices of an item.
 void addFormatChoices(UiData& item);
 
-/// Adds one of an application's.
+/// Adds one that addReportFormat() has returned.
 void addFormatChoice(UiData& item, const FormatInfo& format);
 
 } // namespace uiutils

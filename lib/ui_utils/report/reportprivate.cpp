@@ -5,6 +5,7 @@
 #include "instrument/basemanager_p.h"
 #include "report/reporthooks_p.h"
 #include "report/reportnaming_p.h"
+#include "writers/csv/csvreport.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
@@ -131,6 +132,33 @@ QString ReportPrivate::ownOrTemplate(const QString& own, const char* key) const
 }
 
 // --- Saving ---
+
+bool ReportPrivate::addFormat(
+        int value, const QString& label, const QString& suffix, const std::function<QByteArray()>& generate)
+{
+    UiData* item = settings.value(formatSetting);
+    if (!item || !generate || ownFormats.contains(value))
+        return false;
+    const FormatInfo* format = addReportFormat(value, label, suffix);
+    if (!format)
+        return false;
+    ownFormats.insert(value, generate);
+    addFormatChoice(*item, *format);
+    return true;
+}
+
+QByteArray ReportPrivate::csvArchive(bool hasDecimalComma) const
+{
+    CsvLayout layout;
+    layout.hasDecimalComma = hasDecimalComma;
+    layout.content.title = q->getTitle();
+    layout.content.timestamp = QDateTime::currentDateTime();
+    layout.content.includeJobInfo = includeJobInfo;
+    layout.content.includeCustomerInfoTop = includeCustomerInfo;
+    layout.content.showHardwareRevs = showHardwareRevs;
+    layout.content.showSoftwareRevs = showSoftwareRevs;
+    return reportCsvZip(document, layout);
+}
 
 QString ReportPrivate::chosenName()
 {
