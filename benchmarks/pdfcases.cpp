@@ -5,6 +5,7 @@
 #include "writers/html/templatetohtmlwriter.h"
 #include "writers/html/templatetopdfwriter.h"
 #include "writers/pages/pageprinter_p.h"
+#include "writers/pages/reportpainter.h"
 #include "writers/pages/reporttable.h"
 
 #include <QDateTime>
@@ -178,6 +179,31 @@ QVector<Result> printCases(int runs, int rows, int columns, bool isTagged, const
     return results;
 }
 
+/// As a screen shows it.
+void previewFirstPage(const Items& items)
+{
+    ReportPDF report;
+    report.setItems(items.list());
+    uiutils::ReportPainter pages(report);
+    while (pages.layOutMore()) { }
+    constexpr qreal pixelsOfAPoint = 1.5;
+    QImage page((pages.pageSize(0) * pixelsOfAPoint).toSize(), QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    painter.scale(pixelsOfAPoint, pixelsOfAPoint);
+    pages.paint(painter, 0);
+}
+
+Result previewCase(int runs, int rows)
+{
+    const Items items(rows);
+    ReportPDF report;
+    report.setItems(items.list());
+    const Timing timing = interleaved(runs, [&] { previewFirstPage(items); }, [&] { report.toPdf(); });
+    return {QStringLiteral("first page of a preview of %L1 rows / printing them").arg(rows), QStringLiteral("ms CPU"),
+            timing.ours, timing.floor, 0.15};
+}
+
 void writeDocument(const ReportTemplate& report, const QString& path)
 {
     QList<ReportItem*> items;
@@ -306,6 +332,7 @@ QVector<Result> pdfCases(int runs)
     results.append({QStringLiteral("memory of a process that builds and prints 100,000 rows / 120 MB"),
             QStringLiteral("MB"), memoryOfProcess(wholeDocumentArgument) / 1e6, 120, 1});
     results += longestCases(path);
+    results += {previewCase(runs, few), previewCase(runs, many)};
     results += documentCases(runs, few, path);
     results += documentCases(runs, many, path);
     results.append(richTextCase(runs, few, path));

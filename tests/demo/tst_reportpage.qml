@@ -33,6 +33,15 @@ Item {
             compare(trayTitles(), ["Report Saved"])
         }
 
+        function test_preview() {
+            const preview = page.preview
+            tap(entry("previewButton"))
+            tryVerify(() => preview.preview.pageCount > 1)
+            compare(driver.files(), [])
+            tap(findChild(preview.contentItem, "closeButton"))
+            tryCompare(preview, "visible", false)
+        }
+
         function test_overwrite_data() {
             return [{ tag: "no", answer: "rejectButton", format: "HTML" }, { tag: "yes", answer: "acceptButton", format: "HTML", isReplaced: true },
                     { tag: "no, all formats", answer: "rejectButton", format: "ALL" },

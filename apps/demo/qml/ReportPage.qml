@@ -11,6 +11,7 @@ FocusScope {
     property LoopbackMeasurement measurement
     readonly property alias report: report
     readonly property alias stick: stick
+    readonly property alias preview: preview
     readonly property bool hasResults: measurement.state === LoopbackMeasurement.Finished
     readonly property var titleItem: report.getSetting("reportTitle")
     readonly property var nameItem: report.getSetting("reportName")
