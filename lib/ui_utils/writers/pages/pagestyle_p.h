@@ -7,16 +7,44 @@
 #include <QMap>
 #include <QStringList>
 
+#include <optional>
+
 namespace uiutils {
+
+/// The type of a table: fonts and distances.
+struct TableType
+{
+    const PageFont& body;
+    const PageFont& bold;
+    /// On the left and right of a cell's text.
+    qreal cellPadding;
+    /// Above and below a cell's text.
+    qreal rowPadding;
+
+    /// From line to line of a row.
+    qreal lineHeight() const { return qMax(body.lineHeight(), bold.lineHeight()); }
+};
 
 /// Fonts, colours and distances of printed pages, in the units of the device that they are printed on.
 class PageStyle
 {
 public:
+    /// `device` must outlive the style.
     explicit PageStyle(QPaintDevice* device);
 
     /// Device units of a length in points.
     qreal points(qreal length) const { return length * m_unitsOfAPoint; }
+
+    /// For tables of few columns, and for tables of many.
+    TableType tableType(bool isDense) const;
+
+    /// The font and the colour of headings of that level, 1 or more.
+    const PageFont& headingFont(int level) const;
+    const QColor& headingColor(int level) const;
+
+    /// Whether the report is read from right to left; then columns, labels and sides are mirrored.
+    bool isMirrored() const { return m_isMirrored; }
+    void setMirrored(bool isMirrored) { m_isMirrored = isMirrored; }
 
     /// The icon of a cell's status, always the same image, so that a file contains it once; null if the status has
     /// none. A file that cannot be read is replaced by a drawn icon.
@@ -26,7 +54,9 @@ public:
     const QStringList& unreadableIcons() const { return m_unreadableIcons; }
 
 private:
+    QPaintDevice* m_device;
     qreal m_unitsOfAPoint;
+    bool m_isMirrored = false;
 
 public:
     const PageFont body;
@@ -52,6 +82,9 @@ public:
     const qreal hairline;
 
 private:
+    // Made for the first table of many columns.
+    mutable std::optional<PageFont> m_denseBody;
+    mutable std::optional<PageFont> m_denseBold;
     mutable QMap<int, QImage> m_icons;
     mutable QStringList m_unreadableIcons;
 };
