@@ -83,7 +83,7 @@ private:
 void printItems(const Items& items, const QString& path, bool isTagged)
 {
     uiutils::PageSettings settings;
-    settings.frame.documentTitle = QStringLiteral("Benchmark");
+    settings.surroundings.frame.documentTitle = QStringLiteral("Benchmark");
     settings.document.information.created = QDateTime::currentDateTime();
     settings.document.isTagged = isTagged;
     uiutils::PagePrinter printer(settings, items.list(), [](int, int) { return true; });

@@ -18,17 +18,17 @@ TemplateToPdfWriter::~TemplateToPdfWriter() = default;
 
 QByteArray TemplateToPdfWriter::toPdf(QString* error)
 {
-    layOut();
+    collectItems();
     return m_pages.toPdf(error);
 }
 
 bool TemplateToPdfWriter::write(const QString& path, QString* error)
 {
-    layOut();
+    collectItems();
     return m_pages.print(path, error);
 }
 
-void TemplateToPdfWriter::layOut()
+void TemplateToPdfWriter::collectItems()
 {
     // The items of the last pass may be the ones that are being printed.
     if (ReportPDF::isPrinting())

@@ -29,6 +29,9 @@ public:
 
     /// Receives the progress of toPdf() and write(), and can cancel them.
     ReportPDF& pages() { return m_pages; }
+    /// Does the pass without printing: pages() has then everything that toPdf() would print, for a ReportPainter. Does
+    /// nothing while any ReportPDF is printing, whose items these may be.
+    void collectItems();
 
     /// The file's bytes; see ReportPDF::toPdf() for when there are none.
     QByteArray toPdf(QString* error = nullptr);
@@ -36,7 +39,6 @@ public:
     [[nodiscard]] bool write(const QString& path, QString* error = nullptr);
 
 private:
-    void layOut();
     void setUpPages();
 
     TemplateToHtmlWriter m_html;

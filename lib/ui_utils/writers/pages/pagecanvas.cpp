@@ -1,14 +1,9 @@
 #include "writers/pages/pagecanvas_p.h"
 
-#include "writers/emitter/pdfdocument_p.h"
 #include "writers/pages/pagefont_p.h"
-#include "writers/pages/pageimage_p.h"
-#include "writers/pages/pagepainter_p.h"
 #include "writers/pages/pagestyle_p.h"
 #include "writers/pages/statusicons_p.h"
 
-#include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QImage>
 #include <QPainter>
 
@@ -28,20 +23,13 @@ bool hasWord(const QString& text, const QString& word)
 
 } // namespace
 
-PageCanvas::PageCanvas(pdf::DocumentWriter& writer, const PageStyle& style)
-    : m_writer(writer)
-    , m_style(style)
-    , m_structure(writer)
+PageCanvas::PageCanvas(const PageStyle& style, const PageStructure& structure)
+    : m_style(style)
+    , m_structure(structure)
 {
 }
 
 PageCanvas::~PageCanvas() = default;
-
-void PageCanvas::fill(const QVector<QRectF>& rectangles, const QColor& color)
-{
-    const auto mark = m_structure.artifact(pdf::PageContent::Anything);
-    m_writer.content().fill(rectangles, color);
-}
 
 void PageCanvas::frame(const QRectF& rectangle, const QColor& color)
 {
@@ -86,54 +74,6 @@ const WrappedText* PageCanvas::findParted(const PageFont& font, const QString& t
     return nullptr;
 }
 
-pdf::EmbeddedFont& PageCanvas::embedded(const PageFont& font)
-{
-    pdf::EmbeddedFont*& embedded = m_fonts[&font];
-    if (!embedded)
-        embedded = m_writer.font(font.raw());
-    return *embedded;
-}
-
-void PageCanvas::setRow(const PageFont& font, QStringView text)
-{
-    pdf::EmbeddedFont& embedded = this->embedded(font);
-    m_row.font = &embedded;
-    m_row.size = font.size();
-    m_row.isThickened = font.isThickened(font.raw());
-    m_row.glyphs.resize(int(text.size()));
-    m_row.gaps.resize(int(text.size()));
-    for (int i = 0; i < text.size(); ++i) {
-        const QChar c = text.at(i);
-        const quint16 glyph = font.glyph(c).index;
-        embedded.use(glyph, c);
-        m_row.glyphs[i] = glyph;
-        m_row.gaps[i] = i + 1 < text.size() ? float(font.kerning(c, text.at(i + 1))) : 0;
-    }
-}
-
-void PageCanvas::drawPlain(const PageFont& font, QStringView text, const QPointF& baseLine, const QColor& color)
-{
-    if (text.isEmpty())
-        return;
-    setRow(font, text);
-    m_writer.content().show(m_row, baseLine, color);
-}
-
-void PageCanvas::drawInvisibly(const PageFont& font, const QString& text, const QRectF& place)
-{
-    const qreal width = font.plainWidth(text);
-    if (width <= 0)
-        return;
-    setRow(font, text);
-    m_writer.content().showInvisibly(m_row, {place.left(), place.top() + font.ascent()}, width, place.width());
-}
-
-void PageCanvas::drawShaped(
-        const PageFont& font, const QTextLayout& layout, int line, const QPointF& baseLine, const QColor& color)
-{
-    ShapedText(m_writer, font, &m_pictures, &m_missing).draw(layout, line, baseLine, color);
-}
-
 void PageCanvas::drawStatusIcon(int status, const QRectF& place)
 {
     const auto mark = m_structure.artifact(pdf::PageContent::Anything);
@@ -147,43 +87,13 @@ void PageCanvas::drawStatusWord(int status, const QString& beside, const QRectF&
         drawInvisibly(m_style.body, word + QLatin1Char(' '), icon);
 }
 
-void PageCanvas::drawImage(const QImage& image, const QRectF& place)
+void PageCanvas::setTextStyle(QPainter& painter, const PageStyle& style)
 {
-    m_writer.content().image(m_writer.image(image), place);
-}
-
-void PageCanvas::drawImage(const QByteArray& encoded, const QRectF& place)
-{
-    QByteArray& name = m_images[QCryptographicHash::hash(encoded, QCryptographicHash::Sha1)];
-    if (name.isEmpty()) {
-        const QImage image = decodedImage(encoded);
-        if (image.isNull())
-            return;
-        name = m_writer.image(image);
-    }
-    m_writer.content().image(name, place);
-}
-
-void PageCanvas::flush()
-{
-    if (m_pictures.isEmpty())
-        return;
-    const auto mark = m_structure.artifact(pdf::PageContent::Anything);
-    drawPictures(m_writer, m_pictures);
-    m_pictures.clear();
-}
-
-void PageCanvas::paint(const QRectF& place, const std::function<void(QPainter&)>& draw)
-{
-    const auto mark = m_structure.figure(QCoreApplication::translate("ReportPDF", "Drawing"));
-    PagePainter device(m_writer, m_style.body, &m_missing, m_style.points(1), place);
-    QPainter painter(&device);
-    QFont font(m_style.body.font(), &device);
+    QFont font = style.body.font();
     font.setPixelSize(qRound(font.pointSizeF()));
     painter.setFont(font);
-    painter.setPen(m_style.ink);
+    painter.setPen(style.ink);
     painter.setBrush(Qt::NoBrush);
-    draw(painter);
 }
 
 } // namespace uiutils

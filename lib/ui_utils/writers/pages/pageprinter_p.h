@@ -1,27 +1,19 @@
 #pragma once
 
 #include "writers/emitter/pdfdocument_p.h"
-#include "writers/pages/pageflow_p.h"
-#include "writers/pages/pageframe_p.h"
-#include "writers/pages/pagestyle_p.h"
-#include "writers/pages/titleblock_p.h"
-
-#include <QImage>
-#include <QPageLayout>
+#include "writers/pages/reportlayout_p.h"
 
 #include <functional>
-#include <optional>
 
 namespace uiutils {
 
-/// What all pages of a file share.
+/// What all pages of a report share.
 struct PageSettings
 {
-    TitleBlock::Contents titleBlock;
-    PageFrame::Texts frame;
-    /// All but the size of pages and the units, which the printer sets.
-    pdf::DocumentSettings document;
+    ReportLayout::Surroundings surroundings;
     QPageLayout::Orientation orientation = QPageLayout::Portrait;
+    /// Of a file: all but the size of pages and the units, which the printer sets.
+    pdf::DocumentSettings document;
 };
 
 /// Prints items on the pages of one PDF file.
@@ -44,27 +36,11 @@ public:
 
 private:
     bool layOut();
-    void warnOfUnreadableIcons() const;
-    static void warnOfMissing(const QString& characters);
     Outcome printPages(pdf::DocumentWriter& writer, QString* error);
-    void drawPage(PageCanvas& canvas, int page);
-    void addToOutline(const PlacedPortion& placed);
 
-    PageFrame::Texts m_frameTexts;
-    QPageLayout::Orientation m_orientation;
-    Progress m_progress;
+    ReportLayout m_layout;
     pdf::DocumentSettings m_document;
-    // Where there is a resolution, but nothing is painted.
-    QImage m_device;
-    TitleBlock m_titleBlock;
-    QList<ReportItem*> m_items;
-    std::optional<PageStyle> m_style;
-    std::optional<PageFrame> m_frame;
-    QVector<PlacedPortion> m_placed;
-    int m_nextPortion = 0;
-    int m_pageCount = 0;
-    int m_headingLevel = 0;
-    QVector<pdf::OutlineEntry> m_outline;
+    Progress m_progress;
 };
 
 } // namespace uiutils

@@ -23,24 +23,24 @@ QByteArray attributesOf(PageStructure::CellKind kind, int span)
 
 } // namespace
 
-PageStructure::PageStructure(pdf::DocumentWriter& writer)
+PageStructure::PageStructure(pdf::DocumentWriter* writer)
     : m_writer(writer)
-    , m_tree(writer.structure())
+    , m_tree(writer ? writer->structure() : nullptr)
 {
 }
 
 PageStructure::Mark PageStructure::marked(const char* tag, pdf::StructureElement& element, Holds holds)
 {
-    m_writer.content().beginMarked(tag, m_tree->mark(element), holds);
-    return Mark(&m_writer.content());
+    m_writer->content().beginMarked(tag, m_tree->mark(element), holds);
+    return Mark(&m_writer->content());
 }
 
 PageStructure::Mark PageStructure::artifact(Holds holds, const char* properties)
 {
     if (!m_tree)
         return Mark();
-    m_writer.content().beginArtifact(properties, holds);
-    return Mark(&m_writer.content());
+    m_writer->content().beginArtifact(properties, holds);
+    return Mark(&m_writer->content());
 }
 
 PageStructure::Mark PageStructure::text(const char* tag)

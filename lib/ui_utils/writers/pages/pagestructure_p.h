@@ -14,11 +14,13 @@ namespace pdf {
 class DocumentWriter;
 }
 
-/// Says what the content of pages is, for those who have it read aloud. In a file without structure it says nothing.
+/// Says what the content of pages is, for those who have it read aloud. In a file without structure, and
+/// where there is no file, it says nothing.
 class PageStructure
 {
 public:
-    explicit PageStructure(pdf::DocumentWriter& writer);
+    /// Null if the pages are not those of a file.
+    explicit PageStructure(pdf::DocumentWriter* writer);
 
     /// What is drawn while it lives belongs together. Marks are not nested.
     class Mark
@@ -68,7 +70,7 @@ public:
 private:
     Mark marked(const char* tag, pdf::StructureElement& element, Holds holds);
 
-    pdf::DocumentWriter& m_writer;
+    pdf::DocumentWriter* m_writer;
     pdf::StructureTree* m_tree;
     pdf::StructureElement m_text;
     pdf::StructureElement m_table;

@@ -13,6 +13,7 @@ namespace uiutils {
 namespace {
 
 constexpr qreal pointsOfAnInch = 72;
+constexpr qreal metersOfAnInch = 0.0254;
 /// In points, of tables of many columns.
 constexpr qreal denseSize = 7.5;
 
@@ -30,10 +31,19 @@ PageFont pageFont(qreal size, bool isBold, QPaintDevice* device)
     return {font, device};
 }
 
+QImage imageOf(int resolution)
+{
+    QImage image(1, 1, QImage::Format_Mono);
+    const int dotsOfAMeter = qRound(resolution / metersOfAnInch);
+    image.setDotsPerMeterX(dotsOfAMeter);
+    image.setDotsPerMeterY(dotsOfAMeter);
+    return image;
+}
+
 } // namespace
 
 PageStyle::PageStyle(QPaintDevice* device)
-    : m_device(device)
+    : m_resolution(imageOf(device->logicalDpiY()))
     , m_unitsOfAPoint(device->logicalDpiY() / pointsOfAnInch)
     , body(pageFont(9, false, device))
     , bold(pageFont(9, true, device))
@@ -52,8 +62,8 @@ TableType PageStyle::tableType(bool isDense) const
     if (!isDense)
         return {body, bold, cellPadding, rowPadding};
     if (!m_denseBody) {
-        m_denseBody.emplace(pageFont(denseSize, false, m_device));
-        m_denseBold.emplace(pageFont(denseSize, true, m_device));
+        m_denseBody.emplace(pageFont(denseSize, false, &m_resolution));
+        m_denseBold.emplace(pageFont(denseSize, true, &m_resolution));
     }
     return {*m_denseBody, *m_denseBold, points(3.5), points(1.5)};
 }

@@ -29,7 +29,6 @@ struct TableType
 class PageStyle
 {
 public:
-    /// `device` must outlive the style.
     explicit PageStyle(QPaintDevice* device);
 
     /// Device units of a length in points.
@@ -54,7 +53,8 @@ public:
     const QStringList& unreadableIcons() const { return m_unreadableIcons; }
 
 private:
-    QPaintDevice* m_device;
+    // What fonts are made for later: the resolution of the device.
+    mutable QImage m_resolution;
     qreal m_unitsOfAPoint;
     bool m_isMirrored = false;
 

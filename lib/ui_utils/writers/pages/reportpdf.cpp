@@ -1,9 +1,8 @@
-#include "writers/pages/reportpdf.h"
+#include "writers/pages/reportpdf_p.h"
 
 #include "base/durablefile_p.h"
 #include "base/paths_p.h"
 #include "writers/pages/pageimage_p.h"
-#include "writers/pages/pageprinter_p.h"
 #include "writers/pages/reporttable.h"
 #include "writers/pages/statusicons_p.h"
 
@@ -24,28 +23,6 @@ bool isAnyPrinting = false;
 
 } // namespace
 
-/// What the pages are to show.
-class uiutils::ReportPDFPrivate
-{
-public:
-    QList<ReportItem*> items;
-    ReportPDF::Orientation orientation = ReportPDF::Portrait;
-    QString documentTitle = QCoreApplication::translate("ReportPDF", "Solvant Report");
-    QString title;
-    QString author;
-    QString subject;
-    QString producer;
-    QString logo = paths::logo;
-    QString unitId;
-    QString timestamp;
-    QVector<ReportPDF::Field> fields;
-    ReportPDF::Structure structure = ReportPDF::AutomaticStructure;
-    bool isArchive = false;
-    bool isCancelled = false;
-
-    bool isTagged() const;
-};
-
 bool uiutils::ReportPDFPrivate::isTagged() const
 {
     if (structure != ReportPDF::AutomaticStructure)
@@ -58,6 +35,26 @@ bool uiutils::ReportPDFPrivate::isTagged() const
     return isArchive || rows <= mostTaggedRows;
 }
 
+uiutils::PageSettings uiutils::ReportPDFPrivate::settings() const
+{
+    PageSettings settings;
+    settings.surroundings.titleBlock = {decodedImage(readIcon(logo)), documentTitle, title, fields};
+    settings.surroundings.frame = {documentTitle, title, unitId, timestamp};
+    settings.orientation = orientation == ReportPDF::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
+    pdf::DocumentInformation& about = settings.document.information;
+    about.title = title.isEmpty() ? documentTitle : title;
+    about.author = author;
+    about.subject = subject;
+    about.creator = QStringLiteral("uiutils");
+    about.producer = producer;
+    const QDateTime now = QDateTime::currentDateTime();
+    about.created = now.toOffsetFromUtc(now.offsetFromUtc());
+    settings.document.language = QLocale().bcp47Name();
+    settings.document.isArchive = isArchive;
+    settings.document.isTagged = isTagged();
+    return settings;
+}
+
 /// One run of the printer. A slot of progressChanged() may delete the renderer; the run then counts as cancelled.
 class ReportPDF::Job
 {
@@ -68,7 +65,6 @@ public:
     QByteArray run(QString* error);
 
 private:
-    uiutils::PageSettings settings() const;
     bool tellProgress(int page, int pageCount);
 
     QPointer<ReportPDF> m_owner;
@@ -86,35 +82,13 @@ bool ReportPDF::Job::tellProgress(int page, int pageCount)
     return m_owner && !m_owner->d->isCancelled;
 }
 
-uiutils::PageSettings ReportPDF::Job::settings() const
-{
-    const uiutils::ReportPDFPrivate& owner = *m_owner->d;
-    uiutils::PageSettings settings;
-    settings.titleBlock = {uiutils::decodedImage(uiutils::readIcon(owner.logo)), owner.documentTitle, owner.title,
-            owner.fields};
-    settings.frame = {owner.documentTitle, owner.title, owner.unitId, owner.timestamp};
-    settings.orientation = owner.orientation == ReportPDF::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
-    uiutils::pdf::DocumentInformation& about = settings.document.information;
-    about.title = owner.title.isEmpty() ? owner.documentTitle : owner.title;
-    about.author = owner.author;
-    about.subject = owner.subject;
-    about.creator = QStringLiteral("uiutils");
-    about.producer = owner.producer;
-    const QDateTime now = QDateTime::currentDateTime();
-    about.created = now.toOffsetFromUtc(now.offsetFromUtc());
-    settings.document.language = QLocale().bcp47Name();
-    settings.document.isArchive = owner.isArchive;
-    settings.document.isTagged = owner.isTagged();
-    return settings;
-}
-
 QByteArray ReportPDF::Job::run(QString* error)
 {
     QByteArray file;
     QBuffer printed(&file);
     printed.open(QIODevice::WriteOnly);
-    uiutils::PagePrinter printer(
-            settings(), m_owner->d->items, [this](int page, int count) { return tellProgress(page, count); });
+    uiutils::PagePrinter printer(m_owner->d->settings(), m_owner->d->items,
+            [this](int page, int count) { return tellProgress(page, count); });
     return printer.print(&printed, error) == uiutils::PagePrinter::Printed ? file : QByteArray();
 }
 

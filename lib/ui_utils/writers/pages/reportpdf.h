@@ -95,6 +95,7 @@ Q_SIGNALS:
     void progressChanged(int page, int pageCount);
 
 private:
+    friend class ReportPainter;
     class Job;
 
     const std::unique_ptr<uiutils::ReportPDFPrivate> d;

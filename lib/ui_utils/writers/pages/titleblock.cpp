@@ -52,7 +52,7 @@ void TitleBlock::measureFields(const PageStyle& style, qreal pageWidth)
     const qreal gap = style.points(8);
     const qreal columnWidth = (pageWidth - gap * (columns - 1)) / columns;
     m_labelWidth = 0;
-    for (ReportPDF::Field& field : m_contents.fields)
+    for (ReportField& field : m_contents.fields)
         m_labelWidth = qMax(m_labelWidth, WrappedText::naturalWidth(style.bold, field.label));
     m_labelWidth = qMin(m_labelWidth + gap, columnWidth / 2);
     m_textWidth = columnWidth - m_labelWidth;
@@ -63,7 +63,7 @@ void TitleBlock::measureFields(const PageStyle& style, qreal pageWidth)
         int lines = 1;
         const int end = qMin(first + columns, m_contents.fields.size());
         for (int i = first; i < end; ++i) {
-            ReportPDF::Field& field = m_contents.fields[i];
+            ReportField& field = m_contents.fields[i];
             field.label = WrappedText::elided(style.bold, field.label, m_labelWidth, maximumFieldLines);
             const qreal room = m_textWidth - (style.hasStatusIcon(field.status) ? style.body.lineHeight() + gap : 0);
             field.text = WrappedText::elided(style.body, field.text, room, maximumFieldLines);
@@ -119,7 +119,7 @@ void TitleBlock::drawHead(PageCanvas& canvas, const QPointF& topLeft) const
 void TitleBlock::drawField(PageCanvas& canvas, int index, const QPointF& topLeft) const
 {
     const PageStyle& style = canvas.style();
-    const ReportPDF::Field& field = m_contents.fields.at(index);
+    const ReportField& field = m_contents.fields.at(index);
     const FieldPlace& place = m_places.at(index);
     QPointF at = topLeft + place.text;
     qreal room = m_textWidth;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "writers/pages/reportitem.h"
-#include "writers/pages/reportpdf.h"
+#include "writers/pages/reportfield.h"
 
 #include <QImage>
 #include <QStringList>
@@ -19,7 +19,7 @@ public:
         QImage logo;
         QString documentTitle;
         QString title;
-        QVector<ReportPDF::Field> fields;
+        QVector<ReportField> fields;
     };
 
     explicit TitleBlock(const Contents& contents);

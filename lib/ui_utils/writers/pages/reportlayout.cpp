@@ -1,0 +1,162 @@
+#include "writers/pages/reportlayout_p.h"
+
+#include "writers/pages/pagecanvas_p.h"
+
+#include <QGuiApplication>
+#include <QHash>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace uiutils {
+
+namespace {
+
+constexpr qreal metersOfAnInch = 0.0254;
+
+/// The resolution of the screen, so that texts have the widths that they have there; where there is no screen, what Qt
+/// takes then.
+int pageResolution()
+{
+    if (QCoreApplication::testAttribute(Qt::AA_Use96Dpi))
+        return 96;
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? qRound(screen->logicalDotsPerInchY()) : 100;
+}
+
+/// Where there is a resolution, but nothing is painted.
+QImage measuringDevice()
+{
+    QImage device(1, 1, QImage::Format_ARGB32_Premultiplied);
+    const int dotsOfAMeter = qRound(pageResolution() / metersOfAnInch);
+    device.setDotsPerMeterX(dotsOfAMeter);
+    device.setDotsPerMeterY(dotsOfAMeter);
+    return device;
+}
+
+PageStyle measuringStyle()
+{
+    QImage device = measuringDevice();
+    return PageStyle(&device);
+}
+
+/// Which layout each item has. Items cannot say it themselves.
+class Owners
+{
+public:
+    /// Changes with every layout of any item.
+    quint64 changes() const { return m_changes; }
+    bool isOf(const ReportItem* item, const ReportLayout* layout) const { return m_layouts.value(item) == layout; }
+    void set(const ReportItem* item, const ReportLayout* layout)
+    {
+        m_layouts.insert(item, layout);
+        ++m_changes;
+    }
+    void remove(const ReportItem* item) { m_layouts.remove(item); }
+
+private:
+    QHash<const ReportItem*, const ReportLayout*> m_layouts;
+    quint64 m_changes = 0;
+};
+
+Owners& owners()
+{
+    static auto& owners = *new Owners;
+    return owners;
+}
+
+} // namespace
+
+QSizeF letterPaper(QPageLayout::Orientation orientation)
+{
+    return QPageLayout(QPageSize(QPageSize::Letter), orientation, QMarginsF()).fullRect(QPageLayout::Point).size();
+}
+
+ReportLayout::ReportLayout(const Surroundings& surroundings, const QList<ReportItem*>& items, const QSizeF& paper)
+    : m_paper(paper)
+    , m_style(measuringStyle())
+    , m_frame(m_style, paper * m_style.points(1), surroundings.frame)
+    , m_titleBlock(surroundings.titleBlock)
+    , m_items(items)
+{
+    m_items.prepend(&m_titleBlock);
+}
+
+ReportLayout::~ReportLayout()
+{
+    for (ReportItem* item : qAsConst(m_items)) {
+        if (!owners().isOf(item, this))
+            continue;
+        item->release();
+        owners().remove(item);
+    }
+}
+
+void ReportLayout::measure(ReportItem& item) const
+{
+    owners().set(&item, this);
+    item.measure(m_style, m_frame.body().size());
+}
+
+bool ReportLayout::advance()
+{
+    if (m_measured < m_items.size())
+        measure(*m_items.at(m_measured++));
+    else if (m_pageCount == 0)
+        m_placed = flowOntoPages(m_items, m_frame.body().height(), &m_pageCount);
+    return m_pageCount == 0;
+}
+
+bool ReportLayout::isUpToDate() const
+{
+    return m_changes == owners().changes()
+            || std::all_of(m_items.cbegin(), m_items.cend(), [this](auto* item) { return owners().isOf(item, this); });
+}
+
+void ReportLayout::draw(PageCanvas& canvas, int page)
+{
+    if (!isUpToDate()) {
+        // The items may have changed meanwhile, too.
+        m_measured = 0;
+        m_pageCount = 0;
+        while (advance()) { }
+    }
+    m_changes = owners().changes();
+    if (page < 0 || page >= m_pageCount)
+        return;
+    m_frame.drawHeader(canvas, page + 1);
+    drawItems(canvas, page);
+    m_frame.drawFooter(canvas, page + 1, m_pageCount);
+    canvas.flush();
+}
+
+void ReportLayout::drawItems(PageCanvas& canvas, int page) const
+{
+    const QPointF origin = m_frame.body().topLeft();
+    const auto isBefore = [](const PlacedPortion& placed, int page) { return placed.page < page; };
+    auto it = std::lower_bound(m_placed.cbegin(), m_placed.cend(), page, isBefore);
+    for (; it != m_placed.cend() && it->page == page; ++it)
+        m_items.at(it->item)->draw(canvas, it->portion, origin + QPointF(0, it->top));
+}
+
+/// A heading is nested in the one of the higher level before it, and a table in the last heading.
+QVector<pdf::OutlineEntry> ReportLayout::outline() const
+{
+    QVector<pdf::OutlineEntry> entries;
+    int headingLevel = 0;
+    for (const PlacedPortion& placed : m_placed) {
+        if (placed.portion.begin != ReportItem::Position())
+            continue;
+        const ReportItem& item = *m_items.at(placed.item);
+        const int heading = item.headingLevel();
+        if (heading > 0)
+            headingLevel = heading;
+        const QString title = item.outlineTitle();
+        const int level = heading > 0 ? heading - 1 : headingLevel;
+        if (!title.isEmpty())
+            entries.append({title, level, placed.page, (m_frame.body().top() + placed.top) / m_style.points(1)});
+    }
+    return entries;
+}
+
+} // namespace uiutils
