@@ -42,9 +42,10 @@ QImage imageOf(int resolution)
 
 } // namespace
 
-PageStyle::PageStyle(QPaintDevice* device)
+PageStyle::PageStyle(QPaintDevice* device, bool isMirrored)
     : m_resolution(imageOf(device->logicalDpiY()))
     , m_unitsOfAPoint(device->logicalDpiY() / pointsOfAnInch)
+    , m_isMirrored(isMirrored)
     , body(pageFont(9, false, device))
     , bold(pageFont(9, true, device))
     , small(pageFont(8, false, device))

@@ -29,7 +29,8 @@ struct TableType
 class PageStyle
 {
 public:
-    explicit PageStyle(QPaintDevice* device);
+    /// A mirrored style is for a report that is read from right to left: columns, labels and sides change places.
+    explicit PageStyle(QPaintDevice* device, bool isMirrored = false);
 
     /// Device units of a length in points.
     qreal points(qreal length) const { return length * m_unitsOfAPoint; }
@@ -41,9 +42,11 @@ public:
     const PageFont& headingFont(int level) const;
     const QColor& headingColor(int level) const;
 
-    /// Whether the report is read from right to left; then columns, labels and sides are mirrored.
     bool isMirrored() const { return m_isMirrored; }
-    void setMirrored(bool isMirrored) { m_isMirrored = isMirrored; }
+    /// Where lines begin.
+    Qt::Alignment beginning() const { return m_isMirrored ? Qt::AlignRight : Qt::AlignLeft; }
+    /// Where lines end.
+    Qt::Alignment ending() const { return m_isMirrored ? Qt::AlignLeft : Qt::AlignRight; }
 
     /// The icon of a cell's status, always the same image, so that a file contains it once; null if the status has
     /// none. A file that cannot be read is replaced by a drawn icon.
@@ -56,7 +59,7 @@ private:
     // What fonts are made for later: the resolution of the device.
     mutable QImage m_resolution;
     qreal m_unitsOfAPoint;
-    bool m_isMirrored = false;
+    bool m_isMirrored;
 
 public:
     const PageFont body;

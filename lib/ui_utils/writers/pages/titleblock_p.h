@@ -1,7 +1,7 @@
 #pragma once
 
-#include "writers/pages/reportitem.h"
 #include "writers/pages/reportfield.h"
+#include "writers/pages/reportitem.h"
 
 #include <QImage>
 #include <QStringList>
@@ -42,6 +42,7 @@ private:
 
     void measureFields(const PageStyle& style, qreal pageWidth);
     qreal logoWidth() const;
+    QRectF placed(const PageStyle& style, const QRectF& rectangle) const;
     void drawHead(PageCanvas& canvas, const QPointF& topLeft) const;
     void drawField(PageCanvas& canvas, int index, const QPointF& topLeft) const;
 
