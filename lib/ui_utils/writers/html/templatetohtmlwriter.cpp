@@ -12,6 +12,7 @@
 #include "writers/modern/modernpage_p.h"
 #include "writers/modern/pagelanguage_p.h"
 #include "writers/pages/reportpdf.h"
+#include "writers/pages/reporttable.h"
 #include "writers/plots/plotpainter_p.h"
 #include "writers/text/plotwords_p.h"
 #include "writers/text/reportcontent_p.h"
@@ -42,10 +43,17 @@ void writeInformation(HtmlStreamWriter& html, const uiutils::InformationTable& t
     for (const instrument::LabelledText& row : table.rows) {
         html.startRow();
         html.writeHeaderCell(row.label, Alignment::Right);
-        html.writeCell(row.text);
+        html.writeCell(row.text, Status::None, ReportTable::automatic);
         html.endRow();
     }
     html.endTable();
+}
+
+/// Of a cell, on pages; in HTML, a cell without one is centred.
+int alignmentOf(const QJsonObject& cell)
+{
+    const QString alignment = uiutils::textOf(cell.value(keys::alignAttribute));
+    return alignment.isEmpty() ? ReportTable::automatic : qMax(0, alignment.toInt());
 }
 
 } // namespace
@@ -287,7 +295,7 @@ void TemplateToHtmlWriter::writeHardwareTable()
     for (const QStringList& parts : assemblies) {
         m_html->startRow();
         for (const QString& part : parts)
-            m_html->writeCell(part);
+            m_html->writeCell(part, Status::None, ReportTable::automatic);
         m_html->endRow();
     }
     m_html->endTable();
@@ -367,8 +375,7 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
         missing = 0;
         const QJsonObject cell = value.toObject();
         m_html->writeCell(uiutils::shownTextOf(cell.value(keys::label)),
-                uiutils::textOf(cell.value(keys::statusAttribute)).toInt(),
-                uiutils::textOf(cell.value(keys::alignAttribute)).toInt());
+                uiutils::textOf(cell.value(keys::statusAttribute)).toInt(), alignmentOf(cell));
     }
     m_html->writeEmptyCells(missing);
     m_html->endRow();

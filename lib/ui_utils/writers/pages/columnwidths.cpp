@@ -14,6 +14,8 @@ namespace {
 /// tables of labels and values are aligned.
 constexpr qreal labelShare = 0.3;
 constexpr int fewValues = 2;
+/// Of the width of a page: a longer word is torn, instead of taking the space of other columns.
+constexpr qreal longWordShare = 1.0 / 3;
 /// Enough halvings of a width to make the rest invisible.
 constexpr int bisections = 40;
 
@@ -59,34 +61,45 @@ void spread(ColumnBand& band, int labels, qreal total, const std::function<qreal
     }
 }
 
-/// Sets the widths of columns that are side by side.
-void share(ColumnBand& band, const QVector<ColumnDemand>& demands, qreal total, int labels)
+/// Gives each column its greater width as far as a common limit, and at least the lesser one: a long remark does not
+/// make other columns break their short texts.
+template<typename Lesser, typename Greater>
+void fillBetween(ColumnBand& band, qreal total, Lesser lesser, Greater greater)
 {
-    const auto natural = [&](const ColumnWidth& c) { return demands.at(c.column).natural; };
-    const auto minimal = [&](const ColumnWidth& c) { return qMin(demands.at(c.column).minimal, natural(c)); };
-    const qreal naturalSum = sumOf(band, natural);
-    const qreal minimalSum = sumOf(band, minimal);
-    if (naturalSum <= total) {
+    const auto limited = [&](const ColumnWidth& c, qreal limit) { return qMax(lesser(c), qMin(greater(c), limit)); };
+    qreal low = 0;
+    qreal high = total;
+    for (int i = 0; i < bisections; ++i) {
+        const qreal limit = (low + high) / 2;
+        (sumOf(band, [&](const ColumnWidth& c) { return limited(c, limit); }) > total ? high : low) = limit;
+    }
+    for (ColumnWidth& c : band)
+        c.width = limited(c, low);
+}
+
+/// Sets the widths of columns that are side by side.
+void share(ColumnBand& band, const QVector<ColumnDemand>& demands, qreal total, qreal comfortable, int labels)
+{
+    const auto of = [&](const ColumnWidth& c) -> const ColumnDemand& { return demands.at(c.column); };
+    const auto natural = [&](const ColumnWidth& c) { return of(c).natural; };
+    const auto besideLongWords
+            = [&](const ColumnWidth& c) { return qMax(of(c).word, qMin(of(c).natural, comfortable)); };
+    const qreal longest = sumOf(band, besideLongWords) <= total ? total : total * longWordShare;
+    const auto word = [&](const ColumnWidth& c) { return qMin(of(c).word, longest); };
+    const auto piece = [&](const ColumnWidth& c) { return qMin(of(c).piece, longest); };
+    if (sumOf(band, natural) <= total) {
         spread(band, labels, total, natural);
-    } else if (minimalSum <= total) {
-        // One long remark does not make the other columns break their short texts.
-        const auto limited
-                = [&](const ColumnWidth& c, qreal limit) { return qMax(minimal(c), qMin(natural(c), limit)); };
-        qreal low = 0;
-        qreal high = total;
-        for (int i = 0; i < bisections; ++i) {
-            const qreal limit = (low + high) / 2;
-            (sumOf(band, [&](const ColumnWidth& c) { return limited(c, limit); }) > total ? high : low) = limit;
-        }
-        for (ColumnWidth& c : band)
-            c.width = limited(c, low);
+    } else if (sumOf(band, word) <= total) {
+        fillBetween(band, total, word, natural);
+    } else if (sumOf(band, piece) <= total) {
+        fillBetween(band, total, piece, word);
     } else {
         std::vector<qreal> widths;
         for (const ColumnWidth& c : band)
-            widths.push_back(minimal(c));
+            widths.push_back(piece(c));
         const qreal limit = commonLimit(widths, total);
         for (ColumnWidth& c : band)
-            c.width = qMin(minimal(c), limit);
+            c.width = qMin(piece(c), limit);
     }
 }
 
@@ -121,18 +134,37 @@ QVector<ColumnBand> dealt(const QVector<ColumnDemand>& demands, qreal total, int
     return bands;
 }
 
+/// The same number of bands, as even as possible.
+template<typename Need>
+QVector<ColumnBand> balanced(const QVector<ColumnDemand>& demands, qreal total, int labels, Need need)
+{
+    QVector<ColumnBand> bands = dealt(demands, total, labels, need);
+    qreal low = 0;
+    qreal high = total;
+    for (int i = 0; i < bisections; ++i) {
+        const qreal limit = (low + high) / 2;
+        const QVector<ColumnBand> tried = dealt(demands, limit, labels, need);
+        const bool isEnough = tried.size() <= bands.size();
+        (isEnough ? high : low) = limit;
+        if (isEnough)
+            bands = tried;
+    }
+    return bands;
+}
+
 } // namespace
 
-QVector<ColumnBand> columnBands(const QVector<ColumnDemand>& demands, qreal total, qreal least, int labels)
+QVector<ColumnBand> columnBands(const QVector<ColumnDemand>& demands, qreal total, qreal comfortable, int labels)
 {
-    const auto scarce = [&](const ColumnDemand& d) { return qMin(qMin(d.minimal, d.natural), least); };
+    const qreal longest = total * longWordShare;
+    const auto scarce = [&](const ColumnDemand& d) { return qMin(d.piece, longest); };
     // If there have to be several bands, every column has enough space in one of them.
-    const auto ample = [&](const ColumnDemand& d) { return qMin(d.natural, qMax(2 * least, scarce(d))); };
+    const auto ample = [&](const ColumnDemand& d) { return qMin(d.natural, qMax(comfortable, qMin(d.word, longest))); };
     QVector<ColumnBand> bands = dealt(demands, total, labels, scarce);
     if (bands.size() > 1)
-        bands = dealt(demands, total, labels, ample);
+        bands = balanced(demands, total, labels, ample);
     for (ColumnBand& band : bands)
-        share(band, demands, total, labels);
+        share(band, demands, total, comfortable, labels);
     return bands;
 }
 

@@ -10,8 +10,10 @@ struct ColumnDemand
 {
     /// Holds every text in one line.
     qreal natural = 0;
-    /// Holds every word unbroken.
-    qreal minimal = 0;
+    /// Holds every word in one piece.
+    qreal word = 0;
+    /// Holds every part of a word that separators leave.
+    qreal piece = 0;
 
     bool isEmpty() const { return natural <= 0; }
 };
@@ -26,9 +28,12 @@ struct ColumnWidth
 using ColumnBand = QVector<ColumnWidth>;
 
 /// Gives each column its width so that a band is `total` wide: the natural width and a share of the remaining space, or
-/// a width between the minimal and the natural one. The first `labels` columns are row labels. If the words do not fit,
-/// the widest are broken, down to a column width of `least`. If that is not enough, the columns are divided into
-/// several bands, each of which begins with the row labels. No band if no column needs any width.
-QVector<ColumnBand> columnBands(const QVector<ColumnDemand>& demands, qreal total, qreal least, int labels);
+/// a width between that of its longest word and the natural one. The first `labels` columns are row labels.
+///
+/// If the words do not fit, the longest are torn at separators. If that is not enough, the columns are divided into
+/// several bands of about the same width, each of which begins with the row labels. A word of more than a third of
+/// `total` counts only as long as every other column has its natural width or a comfortable one: `comfortable`. No band
+/// if no column needs any width.
+QVector<ColumnBand> columnBands(const QVector<ColumnDemand>& demands, qreal total, qreal comfortable, int labels);
 
 } // namespace uiutils

@@ -11,14 +11,20 @@ namespace uiutils {
 
 namespace {
 
-/// "Bypass" does not say "Pass".
+/// "Passed" says "Pass"; "Bypass" and "Passive" do not.
 bool hasWord(const QString& text, const QString& word)
 {
+    constexpr int longestEnding = 2;
     const auto isLetter = [&](int at) { return at >= 0 && at < text.size() && text.at(at).isLetterOrNumber(); };
-    int at = text.indexOf(word, 0, Qt::CaseInsensitive);
-    while (at >= 0 && (isLetter(at - 1) || isLetter(at + word.size())))
-        at = text.indexOf(word, at + 1, Qt::CaseInsensitive);
-    return at >= 0;
+    for (int at = text.indexOf(word, 0, Qt::CaseInsensitive); at >= 0;
+            at = text.indexOf(word, at + 1, Qt::CaseInsensitive)) {
+        int end = at + word.size();
+        while (isLetter(end))
+            ++end;
+        if (!isLetter(at - 1) && end - at - word.size() <= longestEnding)
+            return true;
+    }
+    return false;
 }
 
 } // namespace

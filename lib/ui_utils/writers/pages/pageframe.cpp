@@ -65,16 +65,16 @@ void PageFrame::drawFooter(PageCanvas& canvas, int page, int pageCount) const
             QCoreApplication::translate("ReportPDF", "Page %1 of %2").arg(page).arg(pageCount));
 }
 
-void PageFrame::drawLine(
-        PageCanvas& canvas, const char* kind, qreal top, const QString& left, const QString& middle, const QString& right) const
+void PageFrame::drawLine(PageCanvas& canvas, const char* kind, qreal top, const QString& beginning,
+        const QString& middle, const QString& ending) const
 {
     const auto mark = canvas.structure().artifact(pdf::PageContent::Text, kind);
     const auto draw = [&](const QString& text, Qt::Alignment alignment) {
         canvas.drawText(m_style.small, text, {m_left, top}, m_width, alignment, m_style.mutedInk, 0, 1);
     };
-    draw(left, Qt::AlignLeft);
+    draw(beginning, m_style.beginning());
     draw(middle, Qt::AlignHCenter);
-    draw(right, Qt::AlignRight);
+    draw(ending, m_style.ending());
 }
 
 } // namespace uiutils

@@ -32,8 +32,8 @@ public:
 private:
     void shortenTexts();
     /// Texts at the left, in the middle and at the right of a line; `kind` says for readers what the line is.
-    void drawLine(
-            PageCanvas& canvas, const char* kind, qreal top, const QString& left, const QString& middle, const QString& right) const;
+    void drawLine(PageCanvas& canvas, const char* kind, qreal top, const QString& beginning, const QString& middle,
+            const QString& ending) const;
 
     const PageStyle& m_style;
     Texts m_texts;

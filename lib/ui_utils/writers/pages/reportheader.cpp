@@ -3,9 +3,17 @@
 #include "writers/pages/pagestyle_p.h"
 #include "writers/pages/textblock_p.h"
 
+namespace {
+
+constexpr const char* tags[] {"/H1", "/H2", "/H3", "/H4", "/H5", "/H6"};
+/// Above a heading, in points.
+constexpr int spaces[] {16, 12, 12, 10, 8, 8};
+
+} // namespace
+
 ReportHeader::ReportHeader(int level, const QString& text)
     : ReportText(text)
-    , m_level(qBound(1, level, 3))
+    , m_level(qBound(1, level, int(std::size(tags))))
 {
 }
 
@@ -13,11 +21,10 @@ ReportHeader::~ReportHeader() = default;
 
 void ReportHeader::measure(const uiutils::PageStyle& style, const QSizeF& page)
 {
-    const uiutils::PageFont& font = style.headings[size_t(m_level - 1)];
-    auto block = std::make_unique<uiutils::TextBlock>(font, text(), page.width(), style.accent);
-    constexpr const char* tags[] {"/H1", "/H2", "/H3"};
+    auto block = std::make_unique<uiutils::TextBlock>(
+            style.headingFont(m_level), text(), page.width(), style.headingColor(m_level));
     block->setTag(tags[m_level - 1]);
-    block->setSpaceAbove(style.points(m_level == 1 ? 16 : 12));
+    block->setSpaceAbove(style.points(spaces[m_level - 1]));
     if (m_level == 1)
         block->setRuleBelow(style.points(1), style.points(2));
     setBlock(std::move(block));

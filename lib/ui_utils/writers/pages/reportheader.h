@@ -6,7 +6,7 @@
 class UIUTILS_EXPORT ReportHeader final : public ReportText
 {
 public:
-    /// Levels below 1 and above 3 count as 1 and 3.
+    /// Levels below 1 and above 6 count as 1 and 6.
     ReportHeader(int level, const QString& text);
     ~ReportHeader() override;
 

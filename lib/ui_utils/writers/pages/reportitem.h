@@ -74,7 +74,7 @@ public:
 
     /// The item's title in the file's outline; empty for an item that is not listed there.
     virtual QString outlineTitle() const { return {}; }
-    /// 1 to 3 for a heading, to which headings of higher levels and other items belong; 0 for other items.
+    /// 1 to 6 for a heading, to which headings of higher levels and other items belong; 0 for other items.
     virtual int headingLevel() const { return 0; }
 
     /// Whether a pass has made the item, so that the next pass deletes it. False by default.

@@ -1,6 +1,7 @@
 #include "writers/pages/reportlayout_p.h"
 
 #include "writers/pages/pagecanvas_p.h"
+#include "writers/pages/readingside_p.h"
 
 #include <QGuiApplication>
 #include <QHash>
@@ -34,10 +35,21 @@ QImage measuringDevice()
     return device;
 }
 
-PageStyle measuringStyle()
+/// By its title, or if that has no letters, by those of its parts.
+bool isReportReadFromRight(const QString& title, const QList<ReportItem*>& items)
+{
+    if (hasReadingSide(title))
+        return isReadFromRight(title);
+    QString parts;
+    for (const ReportItem* item : items)
+        parts += item->outlineTitle();
+    return isReadFromRight(parts);
+}
+
+PageStyle measuringStyle(bool isMirrored)
 {
     QImage device = measuringDevice();
-    return PageStyle(&device);
+    return PageStyle(&device, isMirrored);
 }
 
 /// Which layout each item has. Items cannot say it themselves.
@@ -74,7 +86,7 @@ QSizeF letterPaper(QPageLayout::Orientation orientation)
 
 ReportLayout::ReportLayout(const Surroundings& surroundings, const QList<ReportItem*>& items, const QSizeF& paper)
     : m_paper(paper)
-    , m_style(measuringStyle())
+    , m_style(measuringStyle(isReportReadFromRight(surroundings.titleBlock.title, items)))
     , m_frame(m_style, paper * m_style.points(1), surroundings.frame)
     , m_titleBlock(surroundings.titleBlock)
     , m_items(items)

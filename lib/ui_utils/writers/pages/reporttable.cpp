@@ -65,7 +65,7 @@ const ReportTable::Cell* ReportTable::cellAt(int row, int column) const
 
 void ReportTable::measure(const uiutils::PageStyle& style, const QSizeF& page)
 {
-    m_layout = std::make_unique<uiutils::TableLayout>(*this, style, page);
+    m_layout = uiutils::TableLayout::of(*this, style, page);
 }
 
 void ReportTable::release()

@@ -14,13 +14,19 @@ class TableLayout;
 }
 
 /// A table of a printed report. Its columns are as wide as their contents need. What does not fit is wrapped; if a
-/// table has too many columns, the others follow below it. Each page on which a table continues repeats its title and
-/// column labels. Rows are not split unless a page is too low for one with the headings above it.
+/// table has too many columns, the others follow below it, and a single row becomes a list of labels and values. Each
+/// page on which a table continues repeats its title and column labels. Rows are not split unless a page is too low for
+/// one with the headings above it; then their labels are repeated. If the title and the labels are read from right to
+/// left, the first column is the rightmost, and left and right change places except for numbers.
 class UIUTILS_EXPORT ReportTable final : public ReportItem
 {
 public:
     /// A row label is a cell that is distinguished from the values.
     enum class CellKind : quint8 { Value, RowLabel };
+
+    /// The alignment of a cell that has none of its own: to the right in a column of which most such cells are numbers,
+    /// else to the side from which the table is read.
+    static constexpr qint8 automatic = -1;
 
     /// A cell as it is shown.
     struct Cell
@@ -29,7 +35,7 @@ public:
         QString text;
         /// A code of uiutils::Status; anything else has no icon.
         int status = uiutils::Status::None;
-        /// A code of uiutils::Alignment; anything else means the center.
+        /// A code of uiutils::Alignment, or `automatic`; anything else means the center.
         qint8 alignment = uiutils::Alignment::Center;
         /// Whether the cell is the row's label.
         CellKind kind = CellKind::Value;

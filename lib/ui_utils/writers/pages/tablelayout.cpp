@@ -1,7 +1,7 @@
 #include "writers/pages/tablelayout_p.h"
 
 #include "writers/pages/pagecanvas_p.h"
-#include "writers/pages/pagestyle_p.h"
+#include "writers/pages/readingside_p.h"
 #include "writers/pages/wrappedtext_p.h"
 
 #include <QCoreApplication>
@@ -16,14 +16,12 @@ constexpr qreal maximumCenteredLines = 2;
 constexpr int maximumLabelLength = 400;
 /// Rows on the first page of a table that continues on the next.
 constexpr int leastRows = 3;
+/// Rows on the last page of a table.
+constexpr int leastLastRows = 2;
 /// Of a page's height: a table of at most this height is not split.
 constexpr qreal maximumMovedShare = 0.25;
 /// Of a page's height, for labels that are repeated on each page.
 constexpr qreal maximumLabelShare = 0.25;
-/// In points: columns that would be narrower move to another band.
-constexpr qreal leastColumnWidth = 48;
-/// A width that was measured still holds its text after rounding.
-constexpr qreal tolerance = 0.01;
 
 /// Estimated.
 bool isParagraph(const PageFont& font, const QString& text, qreal width)
@@ -34,102 +32,63 @@ bool isParagraph(const PageFont& font, const QString& text, qreal width)
     return (plainWidth < 0 ? text.size() * font.lineHeight() / 2 : plainWidth) > maximumCenteredLines * width;
 }
 
-Qt::Alignment alignmentFor(int code)
+PageStructure::CellKind kindOf(const ReportTable::Cell& cell)
 {
-    switch (code) {
-    case Alignment::Left:
-        return Qt::AlignLeft;
-    case Alignment::Right:
-        return Qt::AlignRight;
-    default:
-        return Qt::AlignHCenter;
-    }
+    return cell.kind == ReportTable::CellKind::RowLabel ? PageStructure::RowLabel : PageStructure::Value;
 }
 
-Qt::Alignment readingSideOf(const QString& text)
+/// Each column that is not empty as a row: its label and its value.
+std::unique_ptr<ReportTable> turned(const ReportTable& table)
 {
-    return text.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    const int labels = table.hasLabelColumn() ? 1 : 0;
+    const ReportTable::Cell* const rowLabel = labels > 0 ? table.cellAt(0, 0) : nullptr;
+    auto list = std::make_unique<ReportTable>(table.title(), QStringList {rowLabel ? rowLabel->text : QString()}, true);
+    const QStringList columnLabels = table.columnLabels();
+    for (int i = 0; i < columnLabels.size(); ++i) {
+        const ReportTable::Cell* const cell = table.cellAt(0, i + labels);
+        if (columnLabels.at(i).isEmpty() && (!cell || cell->text.isEmpty()))
+            continue;
+        list->appendCell({columnLabels.at(i), Status::None, Alignment::Right, ReportTable::CellKind::RowLabel});
+        if (cell)
+            list->appendCell({cell->text, cell->status, cell->alignment});
+        list->endRow();
+    }
+    return list;
 }
 
 } // namespace
+
+std::unique_ptr<TableLayout> TableLayout::of(const ReportTable& table, const PageStyle& style, const QSizeF& page)
+{
+    auto layout = std::make_unique<TableLayout>(table, style, page);
+    if (table.rowCount() != 1 || layout->m_columns.bands().size() < 2)
+        return layout;
+    auto list = turned(table);
+    layout = std::make_unique<TableLayout>(*list, style, page);
+    layout->m_turned = std::move(list);
+    return layout;
+}
 
 TableLayout::TableLayout(const ReportTable& table, const PageStyle& style, const QSizeF& page)
     : m_table(table)
     , m_style(style)
     , m_page(page)
-    , m_heights {qMax(style.body.lineHeight(), style.bold.lineHeight()), 2 * style.rowPadding}
-    , m_labels(table.columnLabels())
+    , m_columns(table, style, page.width())
+    , m_type(m_columns.type())
+    , m_heights {m_type.lineHeight(), 2 * m_type.rowPadding}
     , m_rowsOfABand(qMax(1, table.rowCount()))
 {
-    m_bands = columnBands(demands(), page.width(), style.points(leastColumnWidth), table.hasLabelColumn() ? 1 : 0);
+    int bands = m_columns.bands().size();
     if (!table.title().isEmpty()) {
         m_title = makeTitle(shortTitle(table.title()));
         m_continuedTitle = makeTitle(QCoreApplication::translate("ReportPDF", "%1 - Continued").arg(m_title.text));
-        if (m_bands.isEmpty())
-            m_bands += ColumnBand();
+        bands = qMax(1, bands);
     }
-    m_lines.fill(1, m_bands.size() * m_rowsOfABand);
-    for (int band = 0; band < m_bands.size(); ++band) {
+    m_lines.fill(1, bands * m_rowsOfABand);
+    for (int band = 0; band < bands; ++band) {
         measureLabels(band);
         measureRows(band);
     }
-}
-
-const PageFont& TableLayout::fontOf(const ReportTable::Cell& cell) const
-{
-    return cell.kind == ReportTable::CellKind::RowLabel ? m_style.bold : m_style.body;
-}
-
-qreal TableLayout::iconSpace(const ReportTable::Cell& cell) const
-{
-    if (!m_style.hasStatusIcon(cell.status))
-        return 0;
-    return m_heights.line + (cell.text.isEmpty() ? 0 : m_style.cellPadding);
-}
-
-QString TableLayout::labelOf(int column) const
-{
-    return m_labels.value(m_table.hasLabelColumn() ? column - 1 : column);
-}
-
-/// A label is aligned like the first value of its column.
-Qt::Alignment TableLayout::alignmentOf(int column) const
-{
-    const ReportTable::Cell* const cell = m_table.rowCount() > 0 ? m_table.cellAt(0, column) : nullptr;
-    return alignmentFor(cell ? cell->alignment : qint8(Alignment::Center));
-}
-
-QVector<ColumnDemand> TableLayout::demands() const
-{
-    QVector<ColumnDemand> demands(m_table.columnCount());
-    const qreal padding = 2 * m_style.cellPadding;
-    for (int column = 0; column < demands.size(); ++column) {
-        const QString label = labelOf(column);
-        if (!label.isEmpty()) {
-            demands[column].natural = WrappedText::naturalWidth(m_style.bold, label) + padding;
-            demands[column].minimal = WrappedText::minimalWidth(m_style.bold, label) + padding;
-        }
-    }
-    for (int row = 0; row < m_table.rowCount(); ++row) {
-        for (int column = 0; column < demands.size(); ++column) {
-            if (const ReportTable::Cell* cell = m_table.cellAt(row, column))
-                demandFor(*cell, demands[column]);
-        }
-    }
-    return demands;
-}
-
-void TableLayout::demandFor(const ReportTable::Cell& cell, ColumnDemand& demand) const
-{
-    const qreal icon = iconSpace(cell);
-    if (cell.text.isEmpty() && icon <= 0)
-        return;
-    const qreal beside = icon + 2 * m_style.cellPadding + tolerance;
-    const qreal natural = WrappedText::naturalWidth(fontOf(cell), cell.text) + beside;
-    demand.natural = qMax(demand.natural, natural);
-    // No word is wider than its text.
-    if (natural > demand.minimal)
-        demand.minimal = qMax(demand.minimal, WrappedText::minimalWidth(fontOf(cell), cell.text) + beside);
 }
 
 QString TableLayout::shortTitle(const QString& text) const
@@ -144,15 +103,14 @@ TableLayout::Title TableLayout::makeTitle(const QString& text) const
 
 void TableLayout::measureLabels(int band)
 {
-    const int maximum = qMax(1, int(m_page.height() * maximumLabelShare / m_style.bold.lineHeight()));
+    const int maximum = qMax(1, int(m_page.height() * maximumLabelShare / m_type.bold.lineHeight()));
     int lines = 0;
     QStringList shown;
-    for (const ColumnWidth& column : m_bands.at(band)) {
-        const qreal width = column.width - 2 * m_style.cellPadding + tolerance;
-        QString label = labelOf(column.column);
+    for (const TableColumns::Place& place : m_columns.bands().value(band)) {
+        QString label = m_columns.labelOf(place.column);
         if (!label.isEmpty()) {
-            label = WrappedText::elided(m_style.bold, label, width, maximum);
-            lines = qMax(lines, WrappedText(m_style.bold, label, width).lineCount());
+            label = WrappedText::elided(m_type.bold, label, place.width, maximum);
+            lines = qMax(lines, WrappedText(m_type.bold, label, place.width).lineCount());
         }
         shown += label;
     }
@@ -162,17 +120,19 @@ void TableLayout::measureLabels(int band)
 
 void TableLayout::measureRows(int band)
 {
-    for (const ColumnWidth& column : m_bands.at(band)) {
-        const qreal width = column.width - 2 * m_style.cellPadding + tolerance;
+    for (const TableColumns::Place& place : m_columns.bands().value(band)) {
+        if (m_columns.areLines(place))
+            continue;
         int* lines = m_lines.data() + qptrdiff(band) * m_rowsOfABand;
         for (int row = 0; row < m_table.rowCount(); ++row, ++lines) {
-            const ReportTable::Cell* const cell = m_table.cellAt(row, column.column);
+            const ReportTable::Cell* const cell = m_table.cellAt(row, place.column);
             if (!cell || cell->text.isEmpty())
                 continue;
-            const qreal room = width - iconSpace(*cell);
-            const qreal plainWidth = fontOf(*cell).plainWidth(cell->text);
+            const PageFont& font = m_columns.fontOf(*cell);
+            const qreal room = place.width - m_columns.iconSpace(*cell);
+            const qreal plainWidth = font.plainWidth(cell->text);
             if (plainWidth < 0 || plainWidth > room)
-                *lines = qMax(*lines, WrappedText(fontOf(*cell), cell->text, room).lineCount());
+                *lines = qMax(*lines, WrappedText(font, cell->text, room).lineCount());
         }
     }
 }
@@ -190,7 +150,7 @@ qreal TableLayout::titleHeight(const Title& title) const
 qreal TableLayout::labelsHeight(int band) const
 {
     const int lines = m_labelLines.at(band);
-    return lines == 0 ? 0 : lines * m_style.bold.lineHeight() + 2 * m_style.rowPadding;
+    return lines == 0 ? 0 : lines * m_type.bold.lineHeight() + 2 * m_type.rowPadding;
 }
 
 qreal TableLayout::headHeight(const ReportItem::Position& begin) const
@@ -209,10 +169,29 @@ ReportItem::Portion TableLayout::split(const ReportItem::Position& begin, qreal 
     const int bandEnd = (bandOf(begin) + 1) * m_rowsOfABand;
     const bool mayTear = isWholePage || (begin == ReportItem::Position() && isFirstRowTornAnyway(room));
     ReportItem::Portion portion = takeRows(m_lines, m_heights, begin, bandEnd, room - head, mayTear);
+    keepLastRowsTogether(portion);
     if (portion.isEmpty() || (!isWholePage && isBetterMoved(portion, bandEnd)))
         return {begin, begin, 0};
-    portion.height += head;
+    portion.height += head + (isLastOfBand(portion) ? spaceAbove() : 0);
     return portion;
+}
+
+/// Whether another band begins below the portion.
+bool TableLayout::isLastOfBand(const ReportItem::Portion& portion) const
+{
+    return portion.end.line == 0 && portion.end.row % m_rowsOfABand == 0 && portion.end.row < m_lines.size();
+}
+
+/// Leaves a row for the next page, if otherwise one row would be alone there.
+void TableLayout::keepLastRowsTogether(ReportItem::Portion& portion) const
+{
+    const int bandEnd = (bandOf(portion.begin) + 1) * m_rowsOfABand;
+    const int firstWhole = portion.begin.row + (portion.begin.line > 0 ? 1 : 0);
+    if (portion.end.line > 0 || bandEnd - portion.end.row >= leastLastRows || portion.end.row == bandEnd
+            || portion.end.row - firstWhole < leastLastRows)
+        return;
+    --portion.end.row;
+    portion.height -= m_heights.of(m_lines.at(portion.end.row));
 }
 
 /// Whether a row that does not fit on any page should begin here, instead of leaving much of this page empty.
@@ -283,7 +262,8 @@ void TableLayout::drawBackground(
     if (labels.height() > 0)
         canvas.fill(labels, m_style.labelFill);
     drawStripes(canvas, portion, labels.bottomLeft());
-    canvas.frame({title.topLeft(), QSizeF(m_page.width(), portion.height)}, m_style.rule);
+    const qreal height = portion.height - (isLastOfBand(portion) ? spaceAbove() : 0);
+    canvas.frame({title.topLeft(), QSizeF(m_page.width(), height)}, m_style.rule);
 }
 
 void TableLayout::drawTitle(PageCanvas& canvas, const Title& title, const QRectF& place, bool begins) const
@@ -292,7 +272,8 @@ void TableLayout::drawTitle(PageCanvas& canvas, const Title& title, const QRectF
         return;
     const auto mark = begins ? canvas.structure().caption() : canvas.structure().artifact(pdf::PageContent::Text);
     canvas.drawText(m_style.tableTitle, title.text, place.topLeft() + QPointF(m_style.cellPadding, m_style.rowPadding),
-            place.width() - 2 * m_style.cellPadding, readingSideOf(m_table.title()), m_style.onAccent, 0, title.lines);
+            place.width() - 2 * m_style.cellPadding, m_columns.isMirrored() ? Qt::AlignRight : Qt::AlignLeft,
+            m_style.onAccent, 0, title.lines);
 }
 
 void TableLayout::drawLabels(PageCanvas& canvas, int band, const QRectF& place, bool begins) const
@@ -301,17 +282,14 @@ void TableLayout::drawLabels(PageCanvas& canvas, int band, const QRectF& place, 
         return;
     if (begins)
         canvas.structure().beginRow();
-    qreal x = place.left() + m_style.cellPadding;
-    for (int i = 0; i < m_bands.at(band).size(); ++i) {
-        const ColumnWidth& column = m_bands.at(band).at(i);
+    const TableColumns::Band columns = m_columns.bands().value(band);
+    for (int i = 0; i < columns.size(); ++i) {
+        const TableColumns::Place& column = columns.at(i);
         const QString& label = m_shownLabels.at(band).at(i);
-        const auto mark = begins
-                ? canvas.structure().cell(i, PageStructure::ColumnLabel, 1, label.isEmpty())
-                : canvas.structure().artifact(pdf::PageContent::Text);
-        canvas.drawText(m_style.bold, label, {x, place.top() + m_style.rowPadding},
-                column.width - 2 * m_style.cellPadding + tolerance, alignmentOf(column.column), m_style.ink, 0,
-                m_labelLines.at(band));
-        x += column.width;
+        const auto mark = begins ? canvas.structure().cell(i, PageStructure::ColumnLabel, 1, label.isEmpty())
+                                 : canvas.structure().artifact(pdf::PageContent::Text);
+        canvas.drawText(m_type.bold, label, place.topLeft() + QPointF(column.left, m_type.rowPadding), column.width,
+                m_columns.labelAlignment(column.column), m_style.ink, 0, m_labelLines.at(band));
     }
     if (begins)
         canvas.structure().endRow();
@@ -335,50 +313,70 @@ void TableLayout::drawRow(
         PageCanvas& canvas, int band, int row, int beginLine, int endLine, const QPointF& topLeft) const
 {
     const int tableRow = row % m_rowsOfABand;
-    if (tableRow >= m_table.rowCount())
+    if (tableRow >= m_table.rowCount() || band >= m_columns.bands().size())
         return;
-    qreal x = topLeft.x() + m_style.cellPadding;
-    const ColumnBand& columns = m_bands.at(band);
+    const QPointF at = topLeft + QPointF(0, m_type.rowPadding);
+    const TableColumns::Band& columns = m_columns.bands().at(band);
     for (int i = 0; i < columns.size(); ++i) {
-        if (const ReportTable::Cell* cell = m_table.cellAt(tableRow, columns.at(i).column))
-            drawCell(canvas, *cell, i, {x, topLeft.y() + m_style.rowPadding},
-                    columns.at(i).width - 2 * m_style.cellPadding + tolerance, beginLine, endLine);
-        x += columns.at(i).width;
+        const ReportTable::Cell* const cell = m_table.cellAt(tableRow, columns.at(i).column);
+        if (!cell || (beginLine > 0 && drawAgain(canvas, *cell, columns.at(i), at, beginLine, endLine)))
+            continue;
+        if (m_columns.iconSpace(*cell) > 0)
+            drawJudged(canvas, *cell, i, columns.at(i), at, beginLine, endLine);
+        else
+            drawCell(canvas, *cell, i, columns.at(i), at, beginLine, endLine);
     }
 }
 
-void TableLayout::drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, int column, const QPointF& topLeft,
-        qreal width, int beginLine, int endLine) const
+/// Repeats the label of a row that has begun on another page, unless the label itself goes on.
+bool TableLayout::drawAgain(PageCanvas& canvas, const ReportTable::Cell& cell, const TableColumns::Place& place,
+        const QPointF& topLeft, int beginLine, int endLine) const
 {
-    const PageFont& font = fontOf(cell);
-    Qt::Alignment alignment = alignmentFor(cell.alignment);
-    const qreal icon = iconSpace(cell);
-    const bool isLabel = cell.kind == ReportTable::CellKind::RowLabel;
-    const auto mark = [&] {
-        return canvas.structure().cell(column, isLabel ? PageStructure::RowLabel : PageStructure::Value,
-                cell.columnSpan, icon <= 0 && cell.text.isEmpty());
-    };
-    if (icon <= 0) {
-        // A paragraph is aligned to its side, even if figures are centred.
-        if (alignment == Qt::AlignHCenter && isParagraph(font, cell.text, width))
-            alignment = readingSideOf(cell.text);
-        const auto marked = mark();
-        canvas.drawText(font, cell.text, topLeft, width, alignment, m_style.ink, beginLine, endLine);
-        return;
-    }
-    // Icon and text together are where the text alone would be. With another width than it was measured with, the text
-    // might be broken differently.
-    const qreal room = width - icon;
+    if (cell.kind != ReportTable::CellKind::RowLabel
+            || WrappedText(m_type.bold, cell.text, place.width).lineCount() > beginLine)
+        return false;
+    const auto mark = canvas.structure().artifact(pdf::PageContent::Text);
+    canvas.drawText(m_type.bold, cell.text, topLeft + QPointF(place.left, 0), place.width,
+            m_columns.alignmentOf(cell, place.column), m_style.ink, 0, endLine - beginLine);
+    return true;
+}
+
+void TableLayout::drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, int column,
+        const TableColumns::Place& place, const QPointF& topLeft, int beginLine, int endLine) const
+{
+    const PageFont& font = m_columns.fontOf(cell);
+    Qt::Alignment alignment = m_columns.alignmentOf(cell, place.column);
+    // A paragraph is aligned to its side, even if figures are centred.
+    if (alignment == Qt::AlignHCenter && isParagraph(font, cell.text, place.width))
+        alignment = readingSideOf(cell.text);
+    const auto mark = canvas.structure().cell(column, kindOf(cell), cell.columnSpan, cell.text.isEmpty());
+    canvas.drawText(
+            font, cell.text, topLeft + QPointF(place.left, 0), place.width, alignment, m_style.ink, beginLine, endLine);
+}
+
+/// A cell with the icon of its status, which is on the side from which the table is read. Icon and text together are
+/// where the text alone would be.
+void TableLayout::drawJudged(PageCanvas& canvas, const ReportTable::Cell& cell, int column,
+        const TableColumns::Place& place, const QPointF& topLeft, int beginLine, int endLine) const
+{
+    const PageFont& font = m_columns.fontOf(cell);
+    const Qt::Alignment alignment = m_columns.alignmentOf(cell, place.column);
+    const qreal icon = m_columns.iconSpace(cell);
+    // With another width than it was measured with, the text might be broken differently.
+    const qreal room = place.width - icon;
     const bool isLong = cell.text.size() > maximumLabelLength;
     const qreal spare = isLong ? 0 : qMax(0.0, room - WrappedText::naturalWidth(font, cell.text));
     const qreal indent = alignment == Qt::AlignLeft ? 0 : alignment == Qt::AlignRight ? spare : spare / 2;
-    const QRectF iconPlace(topLeft + QPointF(indent, 0), QSizeF(m_heights.line, m_heights.line));
+    const qreal right = place.left + indent + room - spare;
+    const qreal iconLeft = m_columns.isMirrored() ? right + icon - m_heights.line : place.left + indent;
+    const QRectF iconPlace(topLeft + QPointF(iconLeft, 0), QSizeF(m_heights.line, m_heights.line));
     if (beginLine == 0)
         canvas.drawStatusIcon(cell.status, iconPlace);
-    const auto marked = mark();
+    const auto mark = canvas.structure().cell(column, kindOf(cell), cell.columnSpan, false);
     if (beginLine == 0)
         canvas.drawStatusWord(cell.status, cell.text, iconPlace);
-    canvas.drawText(font, cell.text, topLeft + QPointF(indent + icon, 0), room,
+    const qreal textLeft = place.left + indent + (m_columns.isMirrored() ? 0 : icon);
+    canvas.drawText(font, cell.text, topLeft + QPointF(textLeft, 0), room,
             spare > 0 ? Qt::AlignLeft : readingSideOf(cell.text), m_style.ink, beginLine, endLine);
 }
 

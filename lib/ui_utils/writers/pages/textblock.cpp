@@ -3,6 +3,7 @@
 #include "writers/pages/pagecanvas_p.h"
 #include "writers/pages/pageflow_p.h"
 #include "writers/pages/pagefont_p.h"
+#include "writers/pages/readingside_p.h"
 
 namespace uiutils {
 
@@ -11,7 +12,7 @@ TextBlock::TextBlock(const PageFont& font, const QString& text, qreal width, con
     , m_lines(font, text, width)
     , m_width(width)
     , m_color(color)
-    , m_alignment(text.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft)
+    , m_alignment(readingSideOf(text))
 {
 }
 

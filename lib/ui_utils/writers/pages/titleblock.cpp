@@ -84,14 +84,21 @@ ReportItem::Portion TitleBlock::split(const Position& begin, qreal room, bool is
     return fits ? Portion {begin, end(), m_height} : Portion {begin, begin, 0};
 }
 
+/// A rectangle from the block's top left corner, where it is in a report that is read from that side.
+QRectF TitleBlock::placed(const PageStyle& style, const QRectF& rectangle) const
+{
+    const qreal left = m_width - rectangle.right();
+    return style.isMirrored() ? QRectF(QPointF(left, rectangle.top()), rectangle.size()) : rectangle;
+}
+
 void TitleBlock::draw(PageCanvas& canvas, const Portion&, const QPointF& topLeft) const
 {
     const PageStyle& style = canvas.style();
     drawHead(canvas, topLeft);
     if (m_titleLines > 0) {
         const auto mark = canvas.structure().text("/H1");
-        canvas.drawText(style.headings[0], m_shownTitle, topLeft + QPointF(0, m_titleTop), m_width,
-                m_shownTitle.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft, style.ink, 0, m_titleLines);
+        canvas.drawText(style.headings[0], m_shownTitle, topLeft + QPointF(0, m_titleTop), m_width, style.beginning(),
+                style.ink, 0, m_titleLines);
     }
     canvas.structure().endText();
     for (int i = 0; i < m_places.size(); ++i)
@@ -104,13 +111,13 @@ void TitleBlock::drawHead(PageCanvas& canvas, const QPointF& topLeft) const
     if (logoWidth() > 0) {
         const QSizeF size = QSizeF(m_contents.logo.size()).scaled(logoWidth(), logoHeight, Qt::KeepAspectRatio);
         const auto mark = canvas.structure().figure(QCoreApplication::translate("ReportPDF", "Logo"));
-        canvas.drawImage(m_contents.logo, QRectF(topLeft, size));
+        canvas.drawImage(m_contents.logo, placed(style, QRectF(QPointF(), size)).translated(topLeft));
     }
     const qreal textTop = m_headHeight - style.points(6) - style.documentTitle.lineHeight();
     {
         const auto mark = canvas.structure().text("/P");
         canvas.drawText(style.documentTitle, m_shownDocumentTitle, topLeft + QPointF(0, textTop), m_width,
-                Qt::AlignRight, style.accent, 0, 1);
+                style.ending(), style.accent, 0, 1);
     }
     canvas.structure().endText();
     canvas.fill(QRectF(topLeft.x(), topLeft.y() + m_headHeight, m_width, style.points(1.5)), style.accent);
@@ -121,26 +128,27 @@ void TitleBlock::drawField(PageCanvas& canvas, int index, const QPointF& topLeft
     const PageStyle& style = canvas.style();
     const ReportField& field = m_contents.fields.at(index);
     const FieldPlace& place = m_places.at(index);
-    QPointF at = topLeft + place.text;
-    qreal room = m_textWidth;
+    const qreal line = style.body.lineHeight();
+    QRectF text(place.text, QSizeF(m_textWidth, line));
     const bool hasIcon = style.hasStatusIcon(field.status);
-    const QRectF icon(at, QSizeF(style.body.lineHeight(), style.body.lineHeight()));
+    const QRectF icon = placed(style, QRectF(place.text, QSizeF(line, line))).translated(topLeft);
     if (hasIcon) {
         canvas.drawStatusIcon(field.status, icon);
-        at.rx() += icon.width() + style.points(4);
-        room -= icon.width() + style.points(8);
+        text.adjust(line + style.points(4), 0, -style.points(4), 0);
     }
     {
         const auto mark = canvas.structure().text("/P");
-        canvas.drawText(style.bold, field.label, topLeft + place.label, m_labelWidth, Qt::AlignLeft, style.mutedInk, 0,
-                maximumFieldLines);
+        const QRectF label = placed(style, QRectF(place.label, QSizeF(m_labelWidth, line)));
+        canvas.drawText(style.bold, field.label, topLeft + label.topLeft(), m_labelWidth, style.beginning(),
+                style.mutedInk, 0, maximumFieldLines);
     }
     canvas.structure().endText();
     {
         const auto mark = canvas.structure().text("/P");
         if (hasIcon)
             canvas.drawStatusWord(field.status, field.text, icon);
-        canvas.drawText(style.body, field.text, at, room, Qt::AlignLeft, style.ink, 0, maximumFieldLines);
+        canvas.drawText(style.body, field.text, topLeft + placed(style, text).topLeft(), text.width(),
+                style.beginning(), style.ink, 0, maximumFieldLines);
     }
     canvas.structure().endText();
 }

@@ -42,6 +42,7 @@ private:
 
     void measureFields(const PageStyle& style, qreal pageWidth);
     qreal logoWidth() const;
+    QRectF placed(const PageStyle& style, const QRectF& rectangle) const;
     void drawHead(PageCanvas& canvas, const QPointF& topLeft) const;
     void drawField(PageCanvas& canvas, int index, const QPointF& topLeft) const;
 

@@ -1,8 +1,10 @@
 #include "writers/pages/wrappedtext_p.h"
 
 #include "base/xmltext_p.h"
+#include "writers/pages/linebreaks_p.h"
 #include "writers/pages/pagecanvas_p.h"
 #include "writers/pages/pagefont_p.h"
+#include "writers/pages/readingside_p.h"
 
 #include <algorithm>
 
@@ -58,34 +60,78 @@ QString withEllipsis(QString text)
     return text.trimmed() + QChar(0x2026);
 }
 
-bool isBreak(QChar c)
+bool isBlank(QChar c)
 {
     return c == QLatin1Char(' ');
 }
 
-/// The widest word of a plain text.
-qreal widestWord(const PageFont& font, QStringView text)
+/// The widest of the parts between which `isEnd` says that a plain text may be divided. It gets a place, with the
+/// character before it and after it.
+template<typename IsEnd> qreal widestPart(const PageFont& font, QStringView text, IsEnd isEnd)
 {
     qreal widest = 0;
     qreal width = 0;
     QChar before;
-    for (const QChar c : text) {
-        width = isBreak(c) ? 0 : width + font.advance(before, c);
+    for (int at = 0; at < text.size(); ++at) {
+        const QChar c = text.at(at);
+        if (isEnd(at))
+            width = 0;
+        // A blank at which a line ends has no width.
+        width += isBlank(c) && isLineBreak(text, at) ? 0 : font.advance(before, c);
         before = c;
         widest = qMax(widest, width);
     }
     return widest;
 }
 
+/// Whether Qt's rules for ends of lines are those of words with blanks between them. Ideographs may be divided
+/// anywhere.
+bool isOfWord(QChar c)
+{
+    switch (c.script()) {
+    case QChar::Script_Han:
+    case QChar::Script_Hiragana:
+    case QChar::Script_Katakana:
+    case QChar::Script_Hangul:
+    case QChar::Script_Thai:
+    case QChar::Script_Lao:
+    case QChar::Script_Khmer:
+    case QChar::Script_Myanmar:
+        return false;
+    default:
+        return !c.isSpace();
+    }
+}
+
+/// Where a line that Qt has ended at `end` should end.
+int lineEnd(const QString& text, int begin, int end)
+{
+    if (end >= text.size())
+        return end;
+    const bool isAfterBlank = isBlank(text.at(end - 1));
+    if (isAfterBlank ? isLineBreak(text, end - 1) : !isOfWord(text.at(end - 1)) || !isOfWord(text.at(end)))
+        return end;
+    for (int at = end - 1; at > begin; --at) {
+        if (isBlank(text.at(at)) && isLineBreak(text, at))
+            return at + 1;
+    }
+    const int torn = isAfterBlank ? end : tearIn(text, begin, end);
+    return isBlank(text.at(torn)) ? torn + 1 : torn;
+}
+
 void layOut(QTextLayout& layout, qreal width)
 {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTextDirection(Qt::LayoutDirectionAuto);
+    option.setTextDirection(isReadFromRight(layout.text()) ? Qt::RightToLeft : Qt::LeftToRight);
     layout.setTextOption(option);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
+        const int end = line.textStart() + line.textLength();
+        const int better = lineEnd(layout.text(), line.textStart(), end);
+        if (better < end && better > line.textStart() && layout.isValidCursorPosition(better))
+            line.setNumColumns(better - line.textStart(), width);
         line.setPosition({0, 0});
     }
     layout.endLayout();
@@ -122,6 +168,7 @@ void WrappedText::addParagraph(const PageFont& font, int begin, int length, qrea
 /// Fills line after line with as many words as fit.
 void WrappedText::addPlain(const PageFont& font, int begin, int length, qreal width)
 {
+    const QStringView text = QStringView(m_text).left(begin + length);
     const int end = begin + length;
     int lineBegin = begin;
     while (lineBegin < end) {
@@ -130,11 +177,13 @@ void WrappedText::addPlain(const PageFont& font, int begin, int length, qreal wi
         int breakAt = -1;
         int at = lineBegin;
         for (; at < end; ++at) {
-            const QChar c = m_text.at(at);
-            const qreal advance = font.advance(at > lineBegin ? m_text.at(at - 1) : QChar(), c);
-            if (isBreak(c)) {
-                breakAt = at;
-                usedUpToBreak = used;
+            const QChar c = text.at(at);
+            const qreal advance = font.advance(at > lineBegin ? text.at(at - 1) : QChar(), c);
+            if (isBlank(c)) {
+                if (isLineBreak(text, at)) {
+                    breakAt = at;
+                    usedUpToBreak = used;
+                }
             } else if (used + advance > width && at > lineBegin) {
                 break;
             }
@@ -144,10 +193,12 @@ void WrappedText::addPlain(const PageFont& font, int begin, int length, qreal wi
             m_lines.push_back({lineBegin, breakAt - lineBegin, usedUpToBreak, -1, 0});
             lineBegin = breakAt + 1;
         } else {
-            m_lines.push_back({lineBegin, at - lineBegin, qMin(used, width), -1, 0});
+            at = at < end ? tearIn(text, lineBegin, at) : at;
+            const qreal torn = at < end ? font.plainWidth(text.mid(lineBegin, at - lineBegin)) : used;
+            m_lines.push_back({lineBegin, at - lineBegin, qMin(torn, width), -1, 0});
             lineBegin = at;
         }
-        while (lineBegin < end && isBreak(m_text.at(lineBegin)))
+        while (lineBegin < end && isBlank(text.at(lineBegin)))
             ++lineBegin;
     }
 }
@@ -191,7 +242,7 @@ void WrappedText::draw(PageCanvas& canvas, const QPointF& topLeft, qreal boxWidt
         if (line.layout < 0) {
             // With the blank at which the line ends, so that words stay apart for those who copy them.
             const int end = line.begin + line.length;
-            const int blank = end < m_text.size() && isBreak(m_text.at(end)) ? 1 : 0;
+            const int blank = end < m_text.size() && isBlank(m_text.at(end)) ? 1 : 0;
             canvas.drawPlain(m_font, QStringView(m_text).mid(line.begin, line.length + blank), {x, baseLine}, color);
         } else {
             const QTextLayout& layout = *m_layouts[size_t(line.layout)];
@@ -207,19 +258,33 @@ qreal WrappedText::naturalWidth(const PageFont& font, const QString& text)
     return width < 0 ? WrappedText(font, text, anyWidth).width() : width;
 }
 
-qreal WrappedText::minimalWidth(const PageFont& font, const QString& text)
+WrappedText::Widths WrappedText::widths(const PageFont& font, const QString& text, qreal plainWidth)
 {
-    if (font.plainWidth(text) >= 0)
-        return widestWord(font, text);
+    if (plainWidth >= 0) {
+        const QStringView view(text);
+        const auto isEnd = [&](int at) { return isBlank(view.at(at)) && isLineBreak(view, at); };
+        return {plainWidth, view.contains(QLatin1Char(' ')) ? widestPart(font, view, isEnd) : plainWidth};
+    }
     const WrappedText whole(font, text, anyWidth);
-    qreal widest = 0;
+    Widths widths {whole.width(), 0};
     for (const Line& line : whole.m_lines) {
         if (line.layout < 0)
-            widest = qMax(widest, widestWord(font, QStringView(whole.m_text).mid(line.begin, line.length)));
+            widths.word = qMax(
+                    widths.word, WrappedText::widths(font, whole.m_text.mid(line.begin, line.length), line.width).word);
     }
     for (const auto& layout : whole.m_layouts)
-        widest = qMax(widest, layout->minimumWidth());
-    return widest;
+        widths.word = qMax(widths.word, layout->minimumWidth());
+    return widths;
+}
+
+qreal WrappedText::pieceWidth(const PageFont& font, const QString& text)
+{
+    const qreal plainWidth = font.plainWidth(text);
+    if (plainWidth < 0)
+        return widths(font, text, plainWidth).word;
+    const QStringView view(text);
+    return widestPart(
+            font, view, [&](int at) { return isSeam(view, at) || (isBlank(view.at(at)) && isLineBreak(view, at)); });
 }
 
 QString WrappedText::elided(const PageFont& font, const QString& text, qreal width, int maximumLines)

@@ -13,8 +13,8 @@ namespace uiutils {
 class PageCanvas;
 class PageFont;
 
-/// A text broken into lines of a maximum width. Words that are wider are broken anywhere; line feeds separate lines.
-/// Control characters never reach the page.
+/// A text broken into lines of a maximum width. Words that are wider are torn, if possible at a separator; line feeds
+/// separate lines. Control characters never reach the page.
 class WrappedText
 {
 public:
@@ -35,8 +35,18 @@ public:
 
     /// The width of the text if none of its lines is broken.
     static qreal naturalWidth(const PageFont& font, const QString& text);
-    /// The width below which words have to be broken.
-    static qreal minimalWidth(const PageFont& font, const QString& text);
+
+    struct Widths
+    {
+        /// Of the text if none of its lines is broken.
+        qreal natural = 0;
+        /// Below this width words have to be torn.
+        qreal word = 0;
+    };
+    /// `plainWidth` is that of the font for the text.
+    static Widths widths(const PageFont& font, const QString& text, qreal plainWidth);
+    /// The width below which words have to be torn elsewhere than at separators.
+    static qreal pieceWidth(const PageFont& font, const QString& text);
     /// The text, shortened with an ellipsis if it takes more than `maximumLines`.
     static QString elided(const PageFont& font, const QString& text, qreal width, int maximumLines);
 
