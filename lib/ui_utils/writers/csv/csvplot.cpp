@@ -10,19 +10,16 @@ namespace uiutils {
 
 namespace {
 
-/// As many as a table has columns; a service may publish more.
-constexpr int mostCurves = 500;
-
 QString withUnit(const QString& label, const QString& unit)
 {
     return plainText(unit.isEmpty() ? label : QStringLiteral("%1 (%2)").arg(label, unit)).trimmed();
 }
 
-void writeHeader(const PlotData& data, int curves, CsvLines& lines)
+void writeHeader(const PlotData& data, CsvLines& lines)
 {
-    for (int i = 0; i < curves; ++i) {
-        lines.putText(withUnit(data.xLabel, data.xUnit));
-        lines.putText(withUnit(data.curves.at(i).label, data.curves.at(i).unit));
+    for (const PlotCurve& curve : data.curves) {
+        lines.putText(withUnit(data.xLabel, data.xOwnUnit));
+        lines.putText(withUnit(curve.label, curve.unit));
     }
     for (const PlotLimit& limit : data.limits) {
         const bool isLower = limit.kind == PlotLimit::Lower;
@@ -33,18 +30,18 @@ void writeHeader(const PlotData& data, int curves, CsvLines& lines)
 
 } // namespace
 
-void writePlotPoints(const PlotData& data, CsvLines& lines)
+void writePlotPoints(const QString& service, CsvLines& lines)
 {
-    const int curves = std::min(data.curves.size(), mostCurves);
-    writeHeader(data, curves, lines);
+    const PlotData data = readPlotData(service);
+    // What pictures show of a curve is not all of it.
+    const QVector<PlotArrays> curves = readPlotArrays(service);
+    writeHeader(data, lines);
     int rows = 0;
-    for (int i = 0; i < curves; ++i)
-        rows = std::max(rows, data.curves.at(i).size());
+    for (const PlotArrays& curve : curves)
+        rows = std::max(rows, curve.size());
     for (int row = 0; row < rows; ++row) {
-        for (int i = 0; i < curves; ++i) {
-            const PlotCurve& curve = data.curves.at(i);
-            const bool isThere = row < curve.size();
-            const QPointF point = isThere ? curve.point(row) : QPointF(qQNaN(), qQNaN());
+        for (const PlotArrays& curve : curves) {
+            const QPointF point = row < curve.size() ? curve.point(row) : QPointF(qQNaN(), qQNaN());
             lines.putNumber(point.x());
             lines.putNumber(point.y());
         }

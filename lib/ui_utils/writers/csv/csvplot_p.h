@@ -4,9 +4,7 @@
 
 namespace uiutils {
 
-struct PlotData;
-
-/// Writes the points of a plot: two columns for each curve, as spreadsheets draw them, and one for each limit.
-void writePlotPoints(const PlotData& data, CsvLines& lines);
+/// Writes all points of a service's curves: two columns for each curve, as spreadsheets draw them, and one for each limit.
+void writePlotPoints(const QString& service, CsvLines& lines);
 
 } // namespace uiutils

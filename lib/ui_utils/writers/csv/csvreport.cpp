@@ -9,7 +9,6 @@
 #include "writers/csv/csvplot_p.h"
 #include "writers/csv/csvtable_p.h"
 #include "writers/csv/ziparchive_p.h"
-#include "writers/plots/plotdata_p.h"
 #include "writers/text/reportcontent_p.h"
 
 #include <functional>
@@ -182,7 +181,7 @@ private:
     void writePlot(const QString& title, const TableReader& reader)
     {
         CsvLines lines = newLines();
-        writePlotPoints(readPlotData(reader.text(keys::service)), lines);
+        writePlotPoints(reader.text(keys::service), lines);
         writeFile(title, lines);
     }
 

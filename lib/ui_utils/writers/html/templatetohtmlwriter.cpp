@@ -31,6 +31,8 @@ using uiutils::TableReader;
 
 namespace {
 
+/// For screens whose pixels are smaller than the page's.
+constexpr int pixelsOfModernPlots = 2;
 /// The plot of a table with this number or a larger one leaves no file.
 constexpr quint64 mostPlotFiles = 100;
 
@@ -112,7 +114,7 @@ void TemplateToHtmlWriter::writeModernPage()
     if (m_items)
         collectItems();
     m_isWritten = true;
-    m_plotPixels = plotPixelsOnPaper;
+    m_plotPixels = pixelsOfModernPlots;
     uiutils::ModernPageSource source;
     source.document = m_document;
     source.title = title();

@@ -106,6 +106,7 @@ void addPair(PlotData& data, const KIVClientItem& x, const KIVClientItem& y)
     if (data.curves.isEmpty()) {
         data.xLabel = shownText(x.getLabel());
         data.xUnit = shownText(x.getUnitString());
+        data.xOwnUnit = data.xUnit;
         data.xKind = xScaleKind(x);
         data.axes[LeftSide].kind = scaleKind(y);
     }
@@ -151,6 +152,23 @@ void settleTimes(PlotData& data)
         curve.extent.x.high *= seconds;
         for (QPointF& point : curve.points)
             point.rx() *= seconds;
+    }
+}
+
+/// Calls visit(x, y) for each pair of items that is a curve.
+template<typename Visitor> void forEachPair(const QString& service, Visitor visit)
+{
+    const KIVClientInterface* client = KIVClientInterface::getSessionBusClient(service);
+    if (!client)
+        return;
+    const QStringList ids = client->getItemIds(itemids::result);
+    for (const QString& id : ids) {
+        if (!id.endsWith(xEnd))
+            continue;
+        const KIVClientItem* x = client->getItem(id);
+        const KIVClientItem* y = client->getItem(id.left(id.size() - xEnd.size()) + yEnd);
+        if (x && y)
+            visit(*x, *y);
     }
 }
 
@@ -226,20 +244,24 @@ void addCurve(PlotData& data, PlotCurve curve, const QVariantList& xs, const QVa
 PlotData readPlotData(const QString& service)
 {
     PlotData data;
-    const KIVClientInterface* client = KIVClientInterface::getSessionBusClient(service);
-    if (!client)
-        return data;
-    const QStringList ids = client->getItemIds(itemids::result);
-    for (const QString& id : ids) {
-        if (!id.endsWith(xEnd))
-            continue;
-        const KIVClientItem* x = client->getItem(id);
-        const KIVClientItem* y = client->getItem(id.left(id.size() - xEnd.size()) + yEnd);
-        if (x && y)
-            addPair(data, *x, *y);
-    }
+    forEachPair(service, [&](const KIVClientItem& x, const KIVClientItem& y) { addPair(data, x, y); });
     settleTimes(data);
     return data;
+}
+
+QPointF PlotArrays::point(int index) const
+{
+    return {number(m_xs.at(index)), number(m_ys.at(index))};
+}
+
+QVector<PlotArrays> readPlotArrays(const QString& service)
+{
+    QVector<PlotArrays> curves;
+    forEachPair(service, [&](const KIVClientItem& x, const KIVClientItem& y) {
+        if (curves.size() < mostCurves)
+            curves.append({x.getValue().toList(), y.getValue().toList()});
+    });
+    return curves;
 }
 
 QVector<QVector<QPointF>> visibleStretches(

@@ -8,6 +8,8 @@
 #include <QVariant>
 #include <QVector>
 
+#include <algorithm>
+
 namespace uiutils {
 
 /// The values of points that can be drawn.
@@ -64,6 +66,8 @@ struct PlotData
     QString xLabel;
     /// "s" where the axis is one of times.
     QString xUnit;
+    /// The unit that the service names.
+    QString xOwnUnit;
     AxisScale::Kind xKind = AxisScale::Linear;
     /// One for each side.
     PlotAxis axes[2];
@@ -82,6 +86,29 @@ void addCurve(PlotData& data, PlotCurve curve, const QVariantList& xs, const QVa
 /// Reads the curves of a service: pairs of result arrays whose ids end in "_x:doubleARRAY:" and "_y:doubleARRAY:" and
 /// agree before that. Empty if there is no such service.
 PlotData readPlotData(const QString& service);
+
+/// The arrays of one curve, shared with their service.
+class PlotArrays
+{
+public:
+    PlotArrays(const QVariantList& xs, const QVariantList& ys)
+        : m_xs(xs)
+        , m_ys(ys)
+    {
+    }
+
+    /// The shorter array determines.
+    int size() const { return std::min(m_xs.size(), m_ys.size()); }
+    /// NaN for what is no number.
+    QPointF point(int index) const;
+
+private:
+    QVariantList m_xs;
+    QVariantList m_ys;
+};
+
+/// All points of the curves of readPlotData(), in their order and in the units of the service.
+QVector<PlotArrays> readPlotArrays(const QString& service);
 
 /// What `columns` columns can show of a curve: the connected stretches, in positions 0 to 1 along both axes.
 QVector<QVector<QPointF>> visibleStretches(
