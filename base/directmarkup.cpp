@@ -54,7 +54,7 @@ void writeText(QXmlStreamWriter& writer, QString& output, const QString& text)
     output += text;
 }
 
-void appendText(QString& output, const QString& text)
+void appendDirectText(QString& output, const QString& text)
 {
     if (isDirect(text))
         output += text;

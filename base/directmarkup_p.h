@@ -18,7 +18,7 @@ void writeAttribute(QXmlStreamWriter& writer, QString& output, const QString& na
 void writeText(QXmlStreamWriter& writer, QString& output, const QString& text);
 
 /// Appends text where no tag is open; it may contain anything, see markupText().
-void appendText(QString& output, const QString& text);
+void appendDirectText(QString& output, const QString& text);
 
 /// Reserves space in `output` for `characters` more. The capacity grows by at least half, so that many calls stay
 /// cheap.

@@ -80,14 +80,9 @@ QString scratchLogo(const Generation& generation)
 
 QByteArray pdfOf(const ReportTemplate& report, Generation& generation)
 {
-    const PageSettings& page = generation.page;
     QList<ReportItem*> items;
     TemplateToPdfWriter writer(report, &items);
-    setAttributes(writer, report, page);
-    writer.setAttribute(QStringLiteral("logo"), page.hasLogo ? scratchLogo(generation) : QString());
-    if (page.isArchive)
-        writer.setAttribute(QStringLiteral("pdf_archive"), true);
-    writer.setAttribute(QStringLiteral("unitId"), page.unitId);
+    setUpPages(writer, report, generation);
     QObject::connect(&writer.pages(), &ReportPDF::progressChanged, &writer.pages(), [&](int done, int count) {
         if (!generation.mayContinue(done, count))
             writer.pages().cancel();
@@ -177,6 +172,19 @@ template<typename Predicate> const Format* findFormat(Predicate isWanted)
 }
 
 } // namespace
+
+void setUpPages(TemplateToPdfWriter& writer, const ReportTemplate& report, const Generation& generation)
+{
+    const PageSettings& page = generation.page;
+    const QString own = report.getAttr(QStringLiteral("orientation")).toString();
+    setAttributes(writer, page);
+    writer.setAttribute(QStringLiteral("logo"), page.hasLogo ? scratchLogo(generation) : QString());
+    if (!page.orientation.isEmpty() || !own.isEmpty())
+        writer.setAttribute(QStringLiteral("orientation"), page.orientation.isEmpty() ? own : page.orientation);
+    if (page.isArchive)
+        writer.setAttribute(QStringLiteral("pdf_archive"), true);
+    writer.setAttribute(QStringLiteral("unitId"), page.unitId);
+}
 
 QString logoProblem(const QString& path)
 {

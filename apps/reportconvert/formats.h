@@ -9,6 +9,7 @@
 #include <functional>
 
 class ReportTemplate;
+class TemplateToPdfWriter;
 
 namespace uiutils::convert {
 
@@ -91,6 +92,9 @@ struct Format
     /// The suffix of several tables in one file.
     QLatin1String packedSuffix = QLatin1String();
 };
+
+/// Hands the settings of pages to a writer.
+void setUpPages(TemplateToPdfWriter& writer, const ReportTemplate& report, const Generation& generation);
 
 /// Why the picture cannot be a logo; empty if it can.
 QString logoProblem(const QString& file);

@@ -1,5 +1,6 @@
 #include "base/paths_p.h"
 #include "common/complaint.h"
+#include "common/displaysetup.h"
 #include "common/standardstreams.h"
 #include "console.h"
 #include "conversion.h"
@@ -20,6 +21,7 @@
 #include <QGuiApplication>
 
 #include <functional>
+#include <optional>
 
 using namespace uiutils::convert;
 using uiutils::apps::exitDone;
@@ -114,10 +116,18 @@ int prepare(char** argv, const Options& options, const Plan& plan, const Use& us
     QString error;
     if (!workspace.prepare(&error))
         return failed(error, exitFailed);
-    forgetDisplay();
+    std::optional<uiutils::apps::DisplaySetup> display;
+    if (options.opensWindow())
+        display.emplace();
+    else
+        forgetDisplay();
     // A document's name after "--" could look like an option of the toolkit.
     int nameOnly = 1;
     const QGuiApplication application(nameOnly, argv);
+    if (options.opensWindow() && uiutils::apps::DisplaySetup::isOffScreen())
+        return failed(Texts::tr("There is no display to show the pages on. To get pictures of them, name a folder with "
+                                "--output."),
+                exitFailed);
     return convert(options, plan, workspace.path(), use);
 }
 

@@ -79,6 +79,10 @@ Options:
       --decimal-comma    CSV with decimal commas, and ";" between the fields
       --no-bom           CSV without the mark by which spreadsheets recognize
                          UTF-8
+      --preview          show the pages of the PDF file of one DOCUMENT in a
+                         window, and write nothing; with --output=FOLDER write
+                         them as pictures (PNG, 150 dots per inch) into a folder
+                         there with the document's name, without a window
   -j, --jobs=N           convert N documents at once, each in a process of its
                          own; default: as many as there are processors
       --strict           a document that does not have the layout of a report
@@ -169,6 +173,7 @@ struct KnownOptions
     const QCommandLineOption decimalComma {QStringLiteral("decimal-comma")};
     const QCommandLineOption noMark {QStringLiteral("no-bom")};
     const QCommandLineOption jobs = named("j", "jobs", "N");
+    const QCommandLineOption preview {QStringLiteral("preview")};
     const QCommandLineOption strict {QStringLiteral("strict")};
 };
 
@@ -228,6 +233,14 @@ QString readPage(const QCommandLineParser& parser, const KnownOptions& known, Op
     return QString();
 }
 
+QString readPreview(const QCommandLineParser& parser, const KnownOptions& known, Options* options)
+{
+    options->isPreview = parser.isSet(known.preview);
+    if (options->isPreview && parser.isSet(known.format))
+        return Texts::tr("--preview and --format cannot be used together.");
+    return QString();
+}
+
 QString readJobs(const QCommandLineParser& parser, const KnownOptions& known, Options* options)
 {
     constexpr int most = 256;
@@ -256,14 +269,14 @@ Options readOptions(const QStringList& arguments)
     QCommandLineParser parser;
     parser.addOptions({known.format, known.output, known.services, known.title, known.logo, known.noLogo, known.style,
             known.orientation, known.archive, known.unitId, known.csv, known.decimalComma, known.noMark, known.jobs,
-            known.strict});
+            known.preview, known.strict});
     const QString version = QStringLiteral("reportconvert (uiutils) %1\n").arg(QCoreApplication::applicationVersion());
     const apps::CommandLine line = apps::parse(parser, arguments, {helpText(), version});
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);
 
     Options options;
-    for (const auto read : {readDocuments, readFormats, readPlaces, readPage, readTables, readJobs}) {
+    for (const auto read : {readDocuments, readFormats, readPlaces, readPage, readTables, readPreview, readJobs}) {
         const QString problem = read(parser, known, &options);
         if (!problem.isEmpty())
             return misused(problem);

@@ -27,6 +27,10 @@ struct Options : apps::CommandLine
     PageSettings page;
     TableSettings tables;
     bool isStrict = false;
+    bool isPreview = false;
+
+    /// Whether pages are shown on the screen.
+    bool opensWindow() const { return isPreview && !isPlaceGiven; }
 };
 
 /// Reads the arguments, the program's own name first. Needs a QCoreApplication.

@@ -1,5 +1,6 @@
 #include "plan.h"
 
+#include "preview.h"
 #include "texts.h"
 
 #include <QDir>
@@ -234,6 +235,32 @@ QString idleOption(const Options& options, const Plan& plan)
     return {};
 }
 
+/// The pages of a document in a window, or of any documents as pictures in folders.
+Plan previewPlan(Options options)
+{
+    options.formats = {&previewFormat()};
+    if (options.opensWindow()) {
+        const QStringList& documents = options.documents;
+        if (documents.size() != 1
+                || (!isStandardStream(documents.constFirst()) && QFileInfo(documents.constFirst()).isDir()))
+            return rejected(Texts::tr("--preview shows one document. To get pictures of several, name a folder with "
+                                      "--output."));
+        Plan plan;
+        plan.jobs += Job {documents.constFirst(), {Target {options.formats.constFirst(), QString()}}};
+        return plan;
+    }
+    if (isStandardStream(options.output))
+        return rejected(Texts::tr("--preview writes a folder for each document. Name a folder with --output."));
+    options.tables.packing = Packing::Files;
+    QString missing;
+    const QVector<Source> sources = sourcesOf(options, &missing);
+    if (!missing.isEmpty())
+        return rejected(missing);
+    Plan plan = intoFolders(options, sources);
+    plan.error = clashOf(plan.jobs);
+    return plan;
+}
+
 } // namespace
 
 QString Job::name() const
@@ -259,6 +286,8 @@ bool Plan::writes(bool Format::*flag) const
 
 Plan makePlan(const Options& given)
 {
+    if (given.isPreview)
+        return previewPlan(given);
     Options options = given;
     const bool writesFolder = !isStandardStream(options.output) && isFolder(options.output);
     if (options.formats.isEmpty()) {

@@ -299,7 +299,7 @@ void HtmlStreamWriter::writeHeaderCell(const QString& text, int align)
         return;
     if (m_rowHasText) {
         m_output += cellMarkup().label[knownAlignment(align)];
-        uiutils::appendText(m_output, text);
+        uiutils::appendDirectText(m_output, text);
         m_output += cellMarkup().labelEnd;
     }
     if (m_currentTable)
@@ -313,7 +313,7 @@ void HtmlStreamWriter::writeCell(const QString& text, int status, int align)
     if (m_rowHasText) {
         m_output += cellMarkup().value[knownAlignment(align)];
         writeStatusIcon(status);
-        uiutils::appendText(m_output, text);
+        uiutils::appendDirectText(m_output, text);
         m_output += cellMarkup().valueEnd;
     }
     if (m_currentTable)
