@@ -202,6 +202,8 @@ private:
                 return;
             const QVector<NodeReader::LogEntry> entries = section.logEntries();
             for (const NodeReader::LogEntry& entry : entries) {
+                if (plainText(entry.text).trimmed().isEmpty())
+                    continue;
                 table.startRow(section.title());
                 table.addText(0, entry.text);
             }
