@@ -138,7 +138,7 @@ private Q_SLOTS:
         const QJsonObject bare = tableOf("|V", {});
         const QJsonObject plot {{"title", "Curve"}, {"label", "plot"}, {"service", "plots"}};
         const QJsonObject hidden {{"enabled", "false"}, {"table_0", one}};
-        const QJsonObject section {{"title", "Events"}, {"log_0", "=started"}, {"table_0", bare}, {"table_10", tableOf("NUL|V", {})},
+        const QJsonObject section {{"title", "Events"}, {"log_0", "=started"}, {"log_1", " "}, {"table_0", bare}, {"table_10", tableOf("NUL|V", {})},
                 {"table_2", tableOf("events 2|V", {})}, {"table_3", tableOf("EVENTS|V", {})}, {"section_0", hidden}};
         ReportTemplate report;
         fill(report, {{"node_type", "report"}, {"tag", "t"}, {"title", "Größe"}, {"attr_unit", "3.5"}, {"table_0", one}, {"table_1", one},

@@ -283,9 +283,8 @@ public:
     /// Ends the running save before the next page or format. What is written by then stays. The user, who wanted it, is
     /// not notified.
     Q_INVOKABLE void cancel();
-    /// Offers users the format CSV (NSReport::csvFormat) as well: a ".zip" file of all tables, in which numbers have a
-    /// decimal comma if `hasDecimalComma`. To be called when the object is made, once: false, and nothing changes, if
-    /// it was called before, or if a format of the application's own has the suffix.
+    /// Offers users CSV (NSReport::csvFormat) as well, a ".zip" file of all tables. To be called once, when the object
+    /// is made: false, and nothing changes, after an earlier call, or if an application's format has the suffix.
     Q_INVOKABLE bool offerCsv(bool hasDecimalComma = false);
 
     /// The path of a report `name` that is saved now, with `suffix` appended unless it ends so. Makes the folder.
@@ -316,11 +315,9 @@ protected:
     virtual void saveFailed(const QString& name);
 
     /// Called for each report that a save has written, once it is safe: `format` is "PDF", "XML" and so on. The default
-    /// writes its metadata record, with the work order and the job. If a record cannot be written, only the log has a
-    /// line.
+    /// writes its metadata record, with the work order and the job; if that fails, only the log has a line.
     virtual void writeMetadata(const QString& path, const QString& format);
-    /// Whether the active job is complete, that is, has an ID; checked before a report is attached to it or its record
-    /// names it.
+    /// Whether the active job has an ID; checked before a report is attached to it or its record names it.
     virtual bool ensureValidJobData();
     /// Adds the data of the job and of the test to metadata(): "jobId", "testType", "testLabel".
     virtual void updateJobTestMetadata();
@@ -340,8 +337,7 @@ protected:
     void setFormatApplicable(int format, bool applicable);
     /// Has the settings take the values that are stored for the folder, if these are allowed.
     void loadSettings();
-    /// Stores the settings for the folder. Until they have been loaded, a setting that still has its initial value
-    /// leaves the stored one unchanged.
+    /// Stores the settings for the folder. Before these are loaded, one with its initial value replaces no stored one.
     void saveSettings();
     /// The files that this object has saved and that the cloud syncs: each path once, in the list of its last save.
     QStringList syncedReports() const;

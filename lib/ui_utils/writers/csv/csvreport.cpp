@@ -201,6 +201,8 @@ private:
                 return;
             const QVector<NodeReader::LogEntry> entries = section.logEntries();
             for (const NodeReader::LogEntry& entry : entries) {
+                if (plainText(entry.text).trimmed().isEmpty())
+                    continue;
                 table.startRow(section.title());
                 table.addText(0, entry.text);
             }
