@@ -33,6 +33,13 @@ test_packages=(
     qttools5-dev qttools5-dev-tools python3-dbus python3-gi
 )
 
+# What only "./check --long" needs: a browser that shows the pages. The checker of accessibility that
+# judges them there comes through npm, if that is here.
+# shellcheck disable=SC2034 # ./check reads it
+long_packages=(
+    chromium
+)
+
 # Standard output stays free for the program and for the test results.
 say() {
     printf '%s: %s\n' "${0##*/}" "$*" >&2

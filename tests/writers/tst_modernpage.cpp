@@ -240,6 +240,16 @@ lines &lt;i&gt;</bdi></td><td></td><td><bdi>x</bdi></td></tr>
             QCOMPARE(page.contains("<td data-label=\"&quot;a&quot; &lt;b&gt;\">"), isLabelled);
             QCOMPARE(faultsOf(page), QString());
         }
+        // Few columns whose words would not fit beside each other.
+        const std::pair<int, const char*> broad[] {{3, "<div class=\"scroll\" "}, {6, "<div class=\"scroll side\" "}, {9, "class=\"cards\""}};
+        for (const auto& [columns, begin] : broad) {
+            QByteArray labels;
+            for (int i = 0; i < columns; ++i)
+                labels += QByteArray("'col_label_%1':'serviceNameOfTheTerminal',").replace("%1", QByteArray::number(i));
+            ReportTemplate report;
+            readRows(report, columns, labels + "'row_1':{'label':'R','cell_0':{'label':'x'}}");
+            QVERIFY2(pageOf(report).contains(begin), qPrintable(QString::number(columns)));
+        }
     }
 
     void wordsOfTexts()

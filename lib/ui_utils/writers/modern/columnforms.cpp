@@ -3,6 +3,8 @@
 #include "core/numbertext_p.h"
 #include "core/status.h"
 #include "document/documentreader_p.h"
+#include "writers/modern/markupwords_p.h"
+#include "writers/text/reportcontent_p.h"
 
 #include <algorithm>
 #include <array>
@@ -12,16 +14,45 @@ namespace uiutils {
 namespace {
 
 constexpr int rowsLookedAt = 50;
+/// In letters: icon and word.
+constexpr int verdictWidth = 10;
 constexpr int alignments = Alignment::Right + 1;
+
+/// How many letters of a text are on one line.
+int longestPieceOf(const QString& text)
+{
+    if (isUnbroken(text))
+        return text.size();
+    int longest = 0;
+    const QVector<QStringRef> words = text.splitRef(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QStringRef& word : words)
+        longest = qMax(longest, word.size());
+    return qMin(longest, longestPiece);
+}
 
 /// What the first cells of a column are like.
 struct ColumnCount
 {
     int texts = 0;
     int numbers = 0;
+    int narrowest = 0;
     std::array<int, alignments> named {};
 
-    QLatin1String form() const
+    void add(const QJsonObject& cell)
+    {
+        const int alignment = alignmentNamed(textOf(cell.value(keys::alignAttribute)));
+        const QString text = shownTextOf(cell.value(keys::label));
+        const bool isJudged = !statusText(textOf(cell.value(keys::statusAttribute)).toInt()).isEmpty();
+        narrowest = qMax(narrowest, longestPieceOf(text) + (isJudged ? verdictWidth : 0));
+        if (alignment >= 0)
+            ++named[size_t(alignment)];
+        else if (!text.isEmpty()) {
+            ++texts;
+            numbers += isNumber(text) ? 1 : 0;
+        }
+    }
+
+    QLatin1String side() const
     {
         const auto most = std::max_element(named.begin(), named.end());
         if (*most > texts)
@@ -63,29 +94,22 @@ bool isUnbroken(const QString& text)
     return (!digits.isEmpty() && digits.front().isDigit()) || isNumber(text);
 }
 
-QVector<QLatin1String> columnForms(const TableReader& table)
+QVector<ColumnForm> columnForms(const TableReader& table)
 {
     QVector<ColumnCount> counts(table.columnCount());
+    const QStringList labels = table.columnLabels();
+    for (int column = 0; column < counts.size(); ++column)
+        counts[column].narrowest = longestPieceOf(labels.at(column));
     int rows = 0;
     table.forEachRow(NodeReader::ByKey, [&](const QString&, const QJsonObject& row) {
         if (++rows > rowsLookedAt)
             return;
-        table.forEachCellOf(row, [&](int column, const QJsonObject& cell) {
-            ColumnCount& count = counts[column];
-            const int alignment = alignmentNamed(textOf(cell.value(keys::alignAttribute)));
-            const QString text = shownTextOf(cell.value(keys::label));
-            if (alignment >= 0)
-                ++count.named[size_t(alignment)];
-            else if (!text.isEmpty()) {
-                ++count.texts;
-                count.numbers += isNumber(text) ? 1 : 0;
-            }
-        });
+        table.forEachCellOf(row, [&](int column, const QJsonObject& cell) { counts[column].add(cell); });
     });
-    QVector<QLatin1String> forms;
+    QVector<ColumnForm> forms;
     forms.reserve(counts.size());
     for (const ColumnCount& count : qAsConst(counts))
-        forms += count.form();
+        forms += ColumnForm {count.side(), count.narrowest};
     return forms;
 }
 

@@ -11,8 +11,6 @@ namespace uiutils {
 
 namespace {
 
-/// In characters. A column is never wider than this against its will; two of them fit on a phone.
-constexpr int longestPiece = 18;
 /// A break after less than this, or before the rest of a word that is shorter, looks like a mistake.
 constexpr int shortestPiece = 4;
 const QLatin1String breakMark("<wbr/>");

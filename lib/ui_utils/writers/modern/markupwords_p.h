@@ -8,6 +8,10 @@ namespace uiutils {
 /// What a page says, as markup that is both HTML and well-formed XML. Whatever a text contains, it stays text. Line
 /// ends of every kind become line feeds.
 
+/// In letters: what a long word is broken into. A column is never wider than this against its will; two of them fit on
+/// a phone.
+constexpr int longestPiece = 18;
+
 /// Appends ` name="value"`.
 void appendAttribute(QString& page, QLatin1String name, const QString& value);
 

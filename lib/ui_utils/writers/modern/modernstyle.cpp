@@ -47,7 +47,7 @@ const QLatin1String tables(R"css(
 .scroll:focus-visible { outline: 3px solid var(--accent); outline-offset: 2px; }
 table { margin: 1rem 0; border-collapse: collapse; font-size: .95rem; }
 .scroll table { margin: 0; overflow-wrap: normal; }
-caption { padding: .2rem 0; text-align: start; font-weight: 600; white-space: pre-wrap; }
+caption { padding: .2rem 0; text-align: start; font-weight: 600; white-space: pre-wrap; overflow-wrap: break-word; }
 caption bdi { display: inline-block; position: sticky; inset-inline-start: 0; max-width: min(84rem, 100vw - 3rem); }
 th, td { padding: .35rem .6rem; border-block-end: 1px solid var(--line); text-align: start; vertical-align: top;
   white-space: pre-wrap; }

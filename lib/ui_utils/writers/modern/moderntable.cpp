@@ -12,10 +12,11 @@ namespace uiutils {
 
 namespace {
 
-/// More columns than fit across a sheet.
+// What fits across a sheet of A4, upright and on its side with smaller letters.
 constexpr int mostUpright = 8;
-/// More than fit across a sheet on its side.
+constexpr int lettersUpright = 100;
 constexpr int mostOnSide = 12;
+constexpr int lettersOnSide = 175;
 /// A text of more characters gets a column of some width.
 constexpr int longText = 120;
 /// A row's label of at most so many is not broken: it fits on a phone beside the cells.
@@ -68,11 +69,29 @@ void appendClasses(QString& page, std::initializer_list<QLatin1String> classes)
         appendAttribute(page, QLatin1String("class"), names);
 }
 
-QLatin1String tableClasses(int columns)
+/// How a table is put on paper.
+enum class Place { Upright, OnSide, AsList };
+
+/// What a table needs when no word is torn decides, and how many columns it has: many narrow ones are hard to follow.
+Place placeOf(const ModernTable::Shape& shape)
 {
-    if (columns > mostOnSide)
-        return QLatin1String(" class=\"cards\"");
-    return columns <= 2 ? QLatin1String(" class=\"pair\"") : QLatin1String();
+    constexpr int labelWidth = 12;
+    constexpr int gap = 2;
+    int columns = shape.hasRowLabels ? 1 : 0;
+    int letters = columns * (labelWidth + gap);
+    for (const ColumnForm& form : shape.forms)
+        letters += form.narrowest + gap;
+    columns += shape.columnLabels.size();
+    if (columns <= mostUpright && letters <= lettersUpright)
+        return Place::Upright;
+    return columns <= mostOnSide && letters <= lettersOnSide ? Place::OnSide : Place::AsList;
+}
+
+QLatin1String tableClass(int columns, Place place)
+{
+    if (columns <= 2)
+        return QLatin1String("pair");
+    return place == Place::AsList ? QLatin1String("cards") : QLatin1String();
 }
 
 } // namespace
@@ -84,11 +103,12 @@ ModernTable::ModernTable(QString& page, const Shape& shape, int number)
     const int columns = width() + (shape.hasRowLabels ? 1 : 0);
     const QString id = QStringLiteral("t%1").arg(number);
     const bool hasTitle = !shape.title.trimmed().isEmpty();
+    const Place place = placeOf(shape);
     m_isScrolled = columns > 2;
-    m_isCards = columns > mostOnSide;
+    m_isCards = place == Place::AsList;
     if (m_isScrolled) {
-        const bool isOnSide = columns > mostUpright && !m_isCards;
-        m_page += isOnSide ? QLatin1String("<div class=\"scroll side\"") : QLatin1String("<div class=\"scroll\"");
+        m_page += place == Place::OnSide ? QLatin1String("<div class=\"scroll side\"")
+                                         : QLatin1String("<div class=\"scroll\"");
         m_page += QLatin1String(" role=\"group\" tabindex=\"0\"");
         if (hasTitle)
             appendAttribute(m_page, QLatin1String("aria-labelledby"), id);
@@ -96,7 +116,9 @@ ModernTable::ModernTable(QString& page, const Shape& shape, int number)
             appendAttribute(m_page, QLatin1String("aria-label"), ReportWords::tr("Table %1").arg(number));
         m_page += QLatin1String(">\n");
     }
-    m_page += QLatin1String("<table") + tableClasses(columns) + QLatin1Char('>');
+    m_page += QLatin1String("<table");
+    appendClasses(m_page, {tableClass(columns, place)});
+    m_page += QLatin1Char('>');
     if (hasTitle) {
         m_page += QLatin1String("\n<caption id=\"") + id + QLatin1String("\">");
         appendValue(m_page, shape.title);
@@ -120,7 +142,7 @@ void ModernTable::writeHead()
             continue;
         writeEmptyCells(column - m_nextColumn);
         m_page += QLatin1String("<th scope=\"col\"");
-        appendClasses(m_page, {form(column)});
+        appendClasses(m_page, {sideOf(column)});
         m_page += QLatin1Char('>');
         appendValue(m_page, labels.at(column));
         m_page += QLatin1String("</th>");
@@ -166,7 +188,7 @@ void ModernTable::addCell(int column, const QString& text, int status, int align
     const QLatin1String judged = statusClass(status);
     m_page += QLatin1String("<td");
     appendClasses(m_page,
-            {alignment < 0 ? form(column) : alignmentClass(alignment), QLatin1String(isUnbroken(text) ? "n" : ""),
+            {alignment < 0 ? sideOf(column) : alignmentClass(alignment), QLatin1String(isUnbroken(text) ? "n" : ""),
                     QLatin1String(text.size() > longText ? "long" : ""), judged});
     const QString& label = m_shape.columnLabels.at(column);
     if (m_isCards && !label.isEmpty() && (!text.isEmpty() || !judged.isEmpty()))
@@ -208,7 +230,7 @@ void appendTable(QString& page, const TableReader& table, int number)
     const TableReader::Extent extent = table.extent();
     makeRoom(page, qint64(extent.rows) * charactersOfARow + extent.cells * charactersOfACell);
     // Beside labels alone, values of all kinds form a list that begins at one side.
-    const auto forms = table.columnCount() > 1 ? columnForms(table) : QVector<QLatin1String>();
+    const auto forms = table.columnCount() > 1 ? columnForms(table) : QVector<ColumnForm>();
     const ModernTable::Shape shape {table.title(), table.columnLabels(), hasLabels, forms};
     ModernTable markup(page, shape, number);
     table.forEachRow(NodeReader::ByNumber, [&](const QString& key, const QJsonObject& row) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/status.h"
+#include "writers/modern/columnforms_p.h"
 
 #include <QLatin1String>
 #include <QString>
@@ -26,8 +27,8 @@ public:
         /// One for each value column, empty where it has none.
         QStringList columnLabels;
         bool hasRowLabels = true;
-        /// See columnForms(); none are to the side where lines begin.
-        QVector<QLatin1String> forms = {};
+        /// Without them cells stand to the side where lines begin.
+        QVector<ColumnForm> forms = {};
     };
 
     /// Begins a table of the page; `number` tells it from the page's others.
@@ -44,10 +45,7 @@ public:
 private:
     void writeHead();
     void writeEmptyCells(int columns);
-    QLatin1String form(int column) const
-    {
-        return column < m_shape.forms.size() ? m_shape.forms.at(column) : QLatin1String();
-    }
+    QLatin1String sideOf(int column) const { return m_shape.forms.value(column).side; }
     int width() const { return m_shape.columnLabels.size(); }
 
     QString& m_page;
