@@ -87,7 +87,6 @@ private:
     void writeEmptyHeader(int columns);
     void writeStatusIcon(int status);
     void append(ReportItem* item);
-    void writePng(const QByteArray& png);
     void abandonTable();
     void clearText();
     const QString& iconSource(const QString& path);
