@@ -93,6 +93,35 @@ private Q_SLOTS:
         QVERIFY2(isNear(drawn, extent), qPrintable(difference));
     }
 
+    /// Texts, lines and places have one size, whatever the number of pixels.
+    void theSameDrawingAtEveryResolution()
+    {
+        kiv::embedded::EmbeddedBackend backend;
+        QVERIFY(backend.loadFile(UIUTILS_TEST_DATA_DIR "/services/eight.service.json"));
+        QVector<QImage> pictures;
+        for (const int scale : {1, 3}) {
+            PlotImage plot;
+            plot.setService("eight");
+            plot.setTitle("Title");
+            plot.setSize(700, 300);
+            plot.setPixelScale(scale);
+            QVERIFY(plot.write("/tmp/rep_plot_5.png"));
+            pictures += QImage::fromData(plot.getData());
+        }
+        const QSize size = pictures.first().size();
+        QCOMPARE(pictures.last().size(), size * 3);
+        // Shades of cells: the same ink is in the same place, though not in the same pixels.
+        const QSize cells = size / 6;
+        int worst = 0;
+        for (QImage& picture : pictures)
+            picture = picture.scaled(cells, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(QImage::Format_Grayscale8);
+        for (int y = 0; y < cells.height(); ++y) {
+            for (int x = 0; x < cells.width(); ++x)
+                worst = qMax(worst, qAbs(qGray(pictures[0].pixel(x, y)) - qGray(pictures[1].pixel(x, y))));
+        }
+        QVERIFY2(worst < 40, qPrintable(QString::number(worst)));
+    }
+
     /// Nothing longer than the maximum in a plot reaches the painter.
     void hugeTexts()
     {

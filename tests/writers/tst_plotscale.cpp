@@ -200,6 +200,16 @@ private Q_SLOTS:
         QCOMPARE(day, QString("28 Mar 2026"));
     }
 
+    /// A limit belongs to the axis of its curve, which reaches beyond it.
+    void axesReachTheirLimits()
+    {
+        PlotData data = oneCurve({{0, 10}, {1, 20}});
+        data.limits = {{PlotLimit::Upper, 100, "", LeftSide}, {PlotLimit::Lower, -5000, "", RightSide}};
+        const Interval left = data.yExtent(LeftSide);
+        QVERIFY(left.low == 10 && left.high > 100 && left.high < 105);
+        QVERIFY(data.yExtent(RightSide).low <= -5000 && data.yExtent(RightSide).high < 0);
+    }
+
     void noSpikeIsLost()
     {
         QVector<QPointF> points;
@@ -225,8 +235,10 @@ private Q_SLOTS:
 
     void pointsThatCannotBeDrawnPartTheCurve()
     {
-        const auto stretches = stretchesOf(
-                oneCurve({{0, 1}, {1, 2}, {2, qQNaN()}, {3, 4}, {qInf(), 5}, {5, -qInf()}, {6, 0}, {7, 1}}), 100);
+        const PlotData data = oneCurve({{0, 1}, {1, 2}, {2, qQNaN()}, {3, 4}, {qInf(), 50}, {50, -qInf()}, {6, 0}, {7, 1}});
+        QVERIFY(data.xExtent().low == 0 && data.xExtent().high == 7);
+        QVERIFY(data.yExtent(LeftSide).low == 0 && data.yExtent(LeftSide).high == 4);
+        const auto stretches = stretchesOf(data, 100);
         QCOMPARE(stretches.size(), 3);
         QCOMPARE(stretches.at(0).size(), 2);
         QCOMPARE(stretches.at(1).size(), 1);

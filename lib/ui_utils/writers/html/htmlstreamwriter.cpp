@@ -381,19 +381,13 @@ void HtmlStreamWriter::writeImage(const QString& source)
 
 void HtmlStreamWriter::writeImageParagraph(const QByteArray& png, int pixels)
 {
-    append(new ReportImage(png, pixels * pixelsOfAPoint));
-    writePng(png);
+    writeImageParagraph(png, QVector<ReportItem*> {new ReportImage(png, pixels * pixelsOfAPoint)});
 }
 
 void HtmlStreamWriter::writeImageParagraph(const QByteArray& png, const QVector<ReportItem*>& items)
 {
     for (ReportItem* item : items)
         append(item);
-    writePng(png);
-}
-
-void HtmlStreamWriter::writePng(const QByteArray& png)
-{
     if (!m_keepsText)
         return;
     writeStartElement(QStringLiteral("p"));

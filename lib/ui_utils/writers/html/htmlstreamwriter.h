@@ -93,7 +93,6 @@ private:
     void writeEmptyHeader(int columns);
     void writeStatusIcon(int status);
     void append(ReportItem* item);
-    void writePng(const QByteArray& png);
     void abandonTable();
     void clearText();
     const QString& iconMarkup(const QString& path);

@@ -6,6 +6,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <cmath>
 
 namespace uiutils {
 
@@ -108,15 +109,17 @@ void PlotLayout::layOut(const QSize& size)
     const double legendGap = m_legend.lineCount() > 0 ? 0.3 * m_unit : 0;
     const double bare = size.height() - (m_line + 0.8 * m_unit) - bottom;
     const double legendHeight = m_legend.lineCount() * m_line + legendGap;
-    const double height = std::max(size.height() - top - bottom - legendHeight, std::min(bare, size.height() * 0.55));
+    const double around = top + bottom + legendHeight;
+    const double least = std::min(bare, size.height() * 0.55);
+    constexpr double rounding = 0.01;
+    m_height = size.height() - around >= least - rounding ? size.height() : std::ceil(around + least - rounding);
     // Whole pixels, so that a curve is thinned out in the same columns in which it is drawn.
-    m_frame = QRectF(left, top, m_width - left - right, height).toRect();
-    m_legendTop = m_frame.bottom() + bottom + legendGap;
+    m_frame = QRectF(left, top, m_width - left - right, m_height - around).toRect();
 }
 
 QSizeF PlotLayout::sizeWith(LineRange legend) const
 {
-    return {m_width, m_legendTop + legend.count() * m_line};
+    return {m_width, m_height - (m_legend.lineCount() - legend.count()) * m_line};
 }
 
 QPen PlotLayout::curvePen(int index) const

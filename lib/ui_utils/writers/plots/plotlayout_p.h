@@ -60,7 +60,7 @@ public:
     }
 
     const PlotLegend& legend() const { return m_legend; }
-    QPointF legendPlace() const { return {0, m_legendTop}; }
+    QPointF legendPlace() const { return {0, m_height - m_legend.lineCount() * m_line}; }
 
     /// The colour and dashes of a curve, which a print without colours distinguishes too.
     QPen curvePen(int index) const;
@@ -88,7 +88,7 @@ private:
     double m_axisTitleTop = 0;
     QRectF m_frame;
     PlotLegend m_legend;
-    double m_legendTop = 0;
+    double m_height = 0;
 };
 
 } // namespace uiutils
