@@ -146,23 +146,20 @@ QByteArray csvOf(const ReportTemplate& report, Generation& generation)
 
 const Format formatTable[] = {
         {QLatin1String("html"), QLatin1String("html"),
-                QT_TRANSLATE_NOOP("ReportConvert", "one page that needs no other file"), true, true, false, true,
-                htmlOf, true},
+                QT_TRANSLATE_NOOP("ReportConvert", "one page that needs no other file"),
+                Format::HasTitle | Format::IsPage | Format::NeedsIconFiles | Format::HasStyles, htmlOf},
         {QLatin1String("pdf"), QLatin1String("pdf"),
-                QT_TRANSLATE_NOOP("ReportConvert", "Letter pages to print or to hand on"), true, true, true, false,
-                pdfOf},
+                QT_TRANSLATE_NOOP("ReportConvert", "Letter pages to print or to hand on"),
+                Format::HasTitle | Format::IsPage | Format::IsPaper, pdfOf},
         {QLatin1String("xml"), QLatin1String("xml"),
-                QT_TRANSLATE_NOOP("ReportConvert", "for machines, elements named by the tags"), false, false, false,
-                false, xmlOf},
+                QT_TRANSLATE_NOOP("ReportConvert", "for machines, elements named by the tags"), 0, xmlOf},
         {QLatin1String("json"), QLatin1String("json"),
-                QT_TRANSLATE_NOOP("ReportConvert", "the document itself, sorted and indented"), false, false, false,
-                false, jsonOf},
+                QT_TRANSLATE_NOOP("ReportConvert", "the document itself, sorted and indented"), 0, jsonOf},
         {QLatin1String("text"), QLatin1String("txt"),
-                QT_TRANSLATE_NOOP("ReportConvert", "80 columns, for a mail or a printer"), true, false, false, false,
-                textOf},
+                QT_TRANSLATE_NOOP("ReportConvert", "80 columns, for a mail or a printer"), Format::HasTitle, textOf},
         {QLatin1String("csv"), QLatin1String("csv"),
-                QT_TRANSLATE_NOOP("ReportConvert", "for spreadsheets, a file for each table"), true, false, false,
-                false, csvOf, true, QLatin1String("zip")},
+                QT_TRANSLATE_NOOP("ReportConvert", "for spreadsheets, a file for each table"),
+                Format::HasTitle | Format::HasTables, csvOf, QLatin1String("zip")},
 };
 
 template<typename Predicate> const Format* findFormat(Predicate isWanted)
@@ -176,11 +173,8 @@ template<typename Predicate> const Format* findFormat(Predicate isWanted)
 void setUpPages(TemplateToPdfWriter& writer, const ReportTemplate& report, const Generation& generation)
 {
     const PageSettings& page = generation.page;
-    const QString own = report.getAttr(QStringLiteral("orientation")).toString();
-    setAttributes(writer, page);
+    setAttributes(writer, report, page);
     writer.setAttribute(QStringLiteral("logo"), page.hasLogo ? scratchLogo(generation) : QString());
-    if (!page.orientation.isEmpty() || !own.isEmpty())
-        writer.setAttribute(QStringLiteral("orientation"), page.orientation.isEmpty() ? own : page.orientation);
     if (page.isArchive)
         writer.setAttribute(QStringLiteral("pdf_archive"), true);
     writer.setAttribute(QStringLiteral("unitId"), page.unitId);

@@ -71,26 +71,32 @@ struct Generation
 /// A format that documents can be converted to. A new row of the table in formats.cpp is a new format.
 struct Format
 {
+    enum Trait {
+        /// PageSettings::title has an effect.
+        HasTitle = 1,
+        /// It shows pictures: the logo, status icons.
+        IsPage = 2,
+        /// It is divided into sheets of paper.
+        IsPaper = 4,
+        /// It shows status icons only if their files can be read.
+        NeedsIconFiles = 8,
+        /// PageSettings::isModern has an effect.
+        HasStyles = 16,
+        /// It has a file for each table: TableSettings have an effect.
+        HasTables = 32
+    };
+
     QLatin1String name;
     /// The suffix of the file's name, without the dot.
     QLatin1String suffix;
     const char* description;
-    /// Whether PageSettings::title has an effect.
-    bool hasTitle;
-    /// Whether it shows pictures: the logo, status icons.
-    bool isPage;
-    /// Whether it is divided into sheets of paper.
-    bool isPaper;
-    /// Whether it shows status icons only if their files can be read.
-    bool needsIconFiles;
+    int traits;
     /// The contents of the file, text in UTF-8; null when it failed or was stopped.
     QByteArray (*generate)(const ReportTemplate& report, Generation& generation);
-    /// Whether PageSettings::isModern has an effect.
-    bool hasStyles = false;
-    /// Whether it has a file for each table: TableSettings have an effect.
-    bool hasTables = false;
     /// The suffix of several tables in one file.
     QLatin1String packedSuffix = QLatin1String();
+
+    bool has(Trait trait) const { return (traits & trait) != 0; }
 };
 
 /// Hands the settings of pages to a writer.

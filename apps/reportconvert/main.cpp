@@ -80,7 +80,7 @@ bool useServices(kiv::embedded::EmbeddedBackend& backend, const Options& options
 /// The caller's own root is not filled, and an HTML page without its icons looks complete at first sight.
 void warnOfMissingIcons(const Plan& plan)
 {
-    if (!plan.writes(&Format::needsIconFiles) || QFile::exists(uiutils::onDisk(uiutils::paths::passIcon)))
+    if (!plan.writes(Format::NeedsIconFiles) || QFile::exists(uiutils::onDisk(uiutils::paths::passIcon)))
         return;
     say(Texts::tr("warning: HTML pages will show no status icons, because UIUTILS_ROOT names %1, where there are none.")
                     .arg(qEnvironmentVariable("UIUTILS_ROOT")));

@@ -152,7 +152,7 @@ Target targetIn(const Source& source, const Format* format, Packing packing)
 {
     const QString stem = QDir::cleanPath(QDir(source.folder).filePath(baseName(source.document)));
     const auto path = [&](QLatin1String suffix) { return QString(stem + QLatin1Char('.') + suffix); };
-    if (!format->hasTables)
+    if (!format->has(Format::HasTables))
         return {format, path(format->suffix)};
     switch (packing) {
     case Packing::Files:
@@ -189,7 +189,7 @@ Packing packingOfOne(const Options& options)
     const Format* const format = options.formats.constFirst();
     const QString suffix = QFileInfo(options.output).suffix().toLower();
     const bool isPacked = options.tables.packing == Packing::Packed || suffix == format->packedSuffix;
-    return isPacked && format->hasTables ? Packing::Packed : Packing::Single;
+    return isPacked && format->has(Format::HasTables) ? Packing::Packed : Packing::Single;
 }
 
 /// The plan for standard output or a single file.
@@ -197,7 +197,7 @@ Plan intoOne(const Options& options, const QVector<Source>& sources)
 {
     const bool toStandardOutput = isStandardStream(options.output);
     const bool isOne = sources.size() == 1 && options.formats.size() == 1;
-    if (isOne && options.formats.constFirst()->hasTables && options.tables.packing == Packing::Files)
+    if (isOne && options.formats.constFirst()->has(Format::HasTables) && options.tables.packing == Packing::Files)
         return rejected(Texts::tr("--csv=files writes a folder for each document. Name a folder with --output."));
     if (!isOne) {
         return rejected(toStandardOutput
@@ -217,20 +217,20 @@ Plan intoOne(const Options& options, const QVector<Source>& sources)
 QString idleOption(const Options& options, const Plan& plan)
 {
     const PageSettings& page = options.page;
-    if (!page.title.isNull() && !plan.writes(&Format::hasTitle))
+    if (!page.title.isNull() && !plan.writes(Format::HasTitle))
         return Texts::tr(
                 "--title changes HTML pages, PDF files, plain texts and CSV files only, and none is requested.");
-    if ((!page.hasLogo || !page.logoFile.isEmpty()) && !plan.writes(&Format::isPage))
+    if ((!page.hasLogo || !page.logoFile.isEmpty()) && !plan.writes(Format::IsPage))
         return Texts::tr("--logo and --no-logo change HTML pages and PDF files only, and none is requested.");
-    if (page.isModern && !plan.writes(&Format::hasStyles))
+    if (page.isModern && !plan.writes(Format::HasStyles))
         return Texts::tr("--style changes HTML pages only, and none is requested.");
-    if (!page.orientation.isEmpty() && !page.isModern && !plan.writes(&Format::isPaper))
+    if (!page.orientation.isEmpty() && !page.isModern && !plan.writes(Format::IsPaper))
         return Texts::tr("--orientation changes PDF files and modern HTML pages only, and none is requested.");
-    if (!page.unitId.isEmpty() && !plan.writes(&Format::isPaper))
+    if (!page.unitId.isEmpty() && !plan.writes(Format::IsPaper))
         return Texts::tr("--unit-id changes PDF files only, and none is requested.");
     const bool isTablesDefault = options.tables.packing == Packing::AsNeeded && !options.tables.hasDecimalComma
             && options.tables.hasByteOrderMark;
-    if (!isTablesDefault && !plan.writes(&Format::hasTables))
+    if (!isTablesDefault && !plan.writes(Format::HasTables))
         return Texts::tr("--csv, --decimal-comma and --no-bom change CSV files only, and none is requested.");
     return {};
 }
@@ -276,11 +276,11 @@ int Plan::targetCount() const
     return count;
 }
 
-bool Plan::writes(bool Format::*flag) const
+bool Plan::writes(Format::Trait trait) const
 {
-    return std::any_of(jobs.begin(), jobs.end(), [flag](const Job& job) {
-        return std::any_of(
-                job.targets.begin(), job.targets.end(), [flag](const Target& target) { return target.format->*flag; });
+    return std::any_of(jobs.begin(), jobs.end(), [trait](const Job& job) {
+        return std::any_of(job.targets.begin(), job.targets.end(),
+                [trait](const Target& target) { return target.format->has(trait); });
     });
 }
 

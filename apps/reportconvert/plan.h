@@ -46,8 +46,8 @@ struct Plan
     QString error;
 
     int targetCount() const;
-    /// Whether that flag is true of a requested format.
-    bool writes(bool Format::*flag) const;
+    /// Whether a requested format has that trait.
+    bool writes(Format::Trait trait) const;
 };
 
 /// Finds the documents of folders, and gives every document and format its target. Rejects two targets of one name, and
