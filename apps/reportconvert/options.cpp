@@ -76,8 +76,9 @@ Options:
       --decimal-comma    CSV with decimal commas, and ";" between the fields
       --no-bom           CSV without the mark by which spreadsheets recognize
                          UTF-8
-  -j, --jobs=N           convert N documents at once, each in a process of its
-                         own; default: as many as there are processors
+  -j, --jobs=N           convert N documents at once, in processes that take one
+                         after the other; default: as many as there are
+                         processors
       --strict           a document that does not have the layout of a report
                          document, or a service file that cannot be used, is an
                          error; without it a warning
