@@ -83,8 +83,9 @@ Options:
                          window, and write nothing; with --output=FOLDER write
                          them as pictures (PNG, 150 dots per inch) into a folder
                          there with the document's name, without a window
-  -j, --jobs=N           convert N documents at once, each in a process of its
-                         own; default: as many as there are processors
+  -j, --jobs=N           convert N documents at once, in processes that take one
+                         after the other; default: as many as there are
+                         processors
       --strict           a document that does not have the layout of a report
                          document, or a service file that cannot be used, is an
                          error; without it a warning

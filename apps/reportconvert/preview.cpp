@@ -76,8 +76,8 @@ QByteArray previewOf(const ReportTemplate& report, Generation& generation)
 
 const Format& previewFormat()
 {
-    static const Format format {
-            QLatin1String("preview"), QLatin1String("png"), "", true, true, true, false, previewOf, true};
+    static const Format format {QLatin1String("preview"), QLatin1String("png"), "",
+            Format::HasTitle | Format::IsPage | Format::IsPaper | Format::HasTables, previewOf};
     return format;
 }
 

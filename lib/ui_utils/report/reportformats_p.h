@@ -38,8 +38,8 @@ struct FormatInfo
 /// process have added. An entry keeps its place in memory.
 const std::deque<FormatInfo>& allReportFormats();
 
-/// The entry of a format that only some controllers have, CSV or one of the application's own, which is made if there is none. Null if the value or the suffix is
-/// another format's, or cannot be one.
+/// The entry of a format that only some controllers have, CSV or one of the application's own, which is made if there
+/// is none. Null if the value or the suffix is another format's, or cannot be one.
 const FormatInfo* addReportFormat(int value, const QString& label, const QString& suffix);
 
 /// Null if the value is not a format.
