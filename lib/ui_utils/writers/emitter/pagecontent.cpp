@@ -149,6 +149,8 @@ void PageContent::image(const QByteArray& name, const QRectF& place)
         m_bytes += ' ';
     }
     m_bytes += "cm " + name + " Do Q\n";
+    if (!m_images.contains(name))
+        m_images += name;
 }
 
 void PageContent::beginTextObject()
@@ -338,6 +340,7 @@ QByteArray PageContent::take()
 {
     endTextObject();
     m_state = State();
+    m_images.clear();
     return std::exchange(m_bytes, QByteArray());
 }
 

@@ -47,8 +47,10 @@ public:
     /// after which endText() is called.
     [[nodiscard]] Mark text(const char* tag);
     void endText();
-    /// A picture that shows `alternative`, on `place` of its page.
-    [[nodiscard]] Mark figure(const QString& alternative);
+    /// What the pictures that follow are about.
+    void setHeading(const QString& heading) { m_heading = heading; }
+    /// A picture: readers say its kind and the heading.
+    [[nodiscard]] Mark figure(const QString& kind);
 
     /// Rows of cells follow, until endTable(). A row that goes on on the next page is begun and ended once.
     void beginTable();
@@ -66,6 +68,7 @@ private:
 
     pdf::DocumentWriter& m_writer;
     pdf::StructureTree* m_tree;
+    QString m_heading;
     pdf::StructureElement m_text;
     pdf::StructureElement m_table;
     pdf::StructureElement m_caption;

@@ -17,6 +17,7 @@ void ReportHeader::measure(const uiutils::PageStyle& style, const QSizeF& page)
     auto block = std::make_unique<uiutils::TextBlock>(font, text(), page.width(), style.accent);
     constexpr const char* tags[] {"/H1", "/H2", "/H3"};
     block->setTag(tags[m_level - 1]);
+    block->setHeading(text());
     block->setSpaceAbove(style.points(m_level == 1 ? 16 : 12));
     if (m_level == 1)
         block->setRuleBelow(style.points(1), style.points(2));
