@@ -184,6 +184,8 @@ void PageContent::image(const QByteArray& name, const QRectF& place)
         m_bytes += ' ';
     }
     m_bytes += "cm " + name + " Do Q\n";
+    if (!m_images.contains(name))
+        m_images += name;
 }
 
 void PageContent::beginTextObject()
@@ -373,6 +375,7 @@ QByteArray PageContent::take()
 {
     endTextObject();
     m_state = State();
+    m_images.clear();
     return std::exchange(m_bytes, QByteArray());
 }
 

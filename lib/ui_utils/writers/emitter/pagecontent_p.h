@@ -64,6 +64,8 @@ public:
     void clip(const QPainterPath& path);
     void restore();
 
+    /// The names of the pictures since take(), each once.
+    const QVector<QByteArray>& images() const { return m_images; }
     /// The bytes so far; nothing is left.
     QByteArray take();
 
@@ -95,6 +97,7 @@ private:
     State m_state;
     QVector<State> m_saved;
     bool m_isText = false;
+    QVector<QByteArray> m_images;
     QVector<Holds> m_marks;
     // Where the last mark with a number begins and ends.
     int m_markBegin = 0;

@@ -18,7 +18,7 @@ DocumentWriter::DocumentWriter(QIODevice* device, const DocumentSettings& settin
     , m_output(device)
     , m_content(settings.unitsOfAPoint, settings.pageSize.height() * settings.unitsOfAPoint)
     , m_pageTree(m_output.reserve())
-    , m_resources(m_output.reserve())
+    , m_fontResources(m_output.reserve())
 {
     DocumentInformation& about = m_settings.information;
     // What XML cannot hold would make the packet say something else than the entries.
@@ -44,9 +44,9 @@ void DocumentWriter::beginPage()
 void DocumentWriter::endPage()
 {
     const int content = m_output.reserve();
+    const QByteArray used = resources();
     m_output.writeStream(content, {}, m_content.take());
-    QByteArray page = "<</Type/Page/Parent " + referenceTo(m_pageTree) + "/Resources " + referenceTo(m_resources)
-            + "/Contents " + referenceTo(content);
+    QByteArray page = "<</Type/Page/Parent " + referenceTo(m_pageTree) + used + "/Contents " + referenceTo(content);
     if (m_structure) {
         page += "/Tabs/S/StructParents " + QByteArray::number(m_structure->pageNumber());
         m_structure->endPage();
@@ -112,7 +112,7 @@ QByteArray DocumentWriter::image(const QImage& image)
     QByteArray& name = m_images[image.cacheKey()];
     if (name.isEmpty()) {
         name = "/I" + QByteArray::number(m_images.size());
-        m_imageResources += name + ' ' + referenceTo(writeImage(m_output, image));
+        m_imageObjects.insert(name, writeImage(m_output, image));
     }
     return name;
 }
@@ -127,12 +127,23 @@ bool DocumentWriter::writeFonts(QString* error)
     return true;
 }
 
-void DocumentWriter::writeResources()
+/// The pictures of this page only: readers go through the list of each page that they show.
+QByteArray DocumentWriter::resources() const
+{
+    QByteArray text = "/Resources<</Font " + referenceTo(m_fontResources);
+    if (!m_content.images().isEmpty())
+        text += "/XObject<<";
+    for (const QByteArray& name : m_content.images())
+        text += name + ' ' + referenceTo(m_imageObjects.value(name));
+    return text + (m_content.images().isEmpty() ? ">>" : ">>>>");
+}
+
+void DocumentWriter::writeFontResources()
 {
     QByteArray fonts;
     for (const auto& font : m_fonts)
         fonts += font->name() + ' ' + referenceTo(font->object());
-    m_output.write(m_resources, "<</Font<<" + fonts + ">>/XObject<<" + m_imageResources + ">>>>");
+    m_output.write(m_fontResources, "<<" + fonts + ">>");
 }
 
 void DocumentWriter::writePageTree()
@@ -203,7 +214,7 @@ bool DocumentWriter::finish(const QVector<OutlineEntry>& outline, QString* error
 {
     if (!writeFonts(error))
         return false;
-    writeResources();
+    writeFontResources();
     writePageTree();
     const int catalogObject = m_output.reserve();
     m_output.writePlain(catalogObject, catalog(outline));

@@ -69,7 +69,8 @@ public:
 
 private:
     bool writeFonts(QString* error);
-    void writeResources();
+    QByteArray resources() const;
+    void writeFontResources();
     void writePageTree();
     QByteArray catalog(const QVector<OutlineEntry>& outline);
     int writeMetadata();
@@ -85,14 +86,14 @@ private:
     StructureElement* m_marked = nullptr;
     PageContent::Holds m_holds = PageContent::Text;
     int m_pageTree;
-    int m_resources;
+    int m_fontResources;
     QVector<int> m_pages;
     std::vector<std::unique_ptr<EmbeddedFont>> m_fonts;
     // Faces that were asked for, in each size.
     std::vector<std::pair<QRawFont, EmbeddedFont*>> m_faces;
     QHash<QByteArray, EmbeddedFont*> m_fontsByFace;
     QHash<qint64, QByteArray> m_images;
-    QByteArray m_imageResources;
+    QHash<QByteArray, int> m_imageObjects;
 };
 
 } // namespace uiutils::pdf

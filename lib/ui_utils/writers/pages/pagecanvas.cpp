@@ -1,5 +1,6 @@
 #include "writers/pages/pagecanvas_p.h"
 
+#include "core/statusword_p.h"
 #include "writers/pages/pagefont_p.h"
 #include "writers/pages/pagestyle_p.h"
 #include "writers/pages/statusicons_p.h"

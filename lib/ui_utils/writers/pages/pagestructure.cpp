@@ -2,6 +2,8 @@
 
 #include "writers/emitter/pdfsyntax_p.h"
 
+#include <QCoreApplication>
+
 namespace uiutils {
 
 using pdf::PageContent;
@@ -57,10 +59,13 @@ void PageStructure::endText()
         m_tree->close(m_text);
 }
 
-PageStructure::Mark PageStructure::figure(const QString& alternative)
+PageStructure::Mark PageStructure::figure(const QString& description)
 {
     if (!m_tree)
         return Mark();
+    const QString alternative = m_heading.isEmpty()
+            ? description
+            : QCoreApplication::translate("ReportPDF", "%1: %2").arg(m_heading, description);
     pdf::StructureElement figure = m_tree->open(m_tree->document(), "/Figure", "/Alt" + pdf::textString(alternative));
     m_writer->content().beginMarked(figure.tag(), m_tree->mark(figure), PageContent::Anything);
     m_tree->close(figure);

@@ -49,8 +49,10 @@ public:
     /// after which endText() is called.
     [[nodiscard]] Mark text(const char* tag);
     void endText();
-    /// A picture that shows `alternative`, on `place` of its page.
-    [[nodiscard]] Mark figure(const QString& alternative);
+    /// What the pictures that follow are about.
+    void setHeading(const QString& heading) { m_heading = heading; }
+    /// A picture: readers say the heading and the description.
+    [[nodiscard]] Mark figure(const QString& description);
 
     /// Rows of cells follow, until endTable(). A row that goes on on the next page is begun and ended once.
     void beginTable();
@@ -68,6 +70,7 @@ private:
 
     pdf::DocumentWriter* m_writer;
     pdf::StructureTree* m_tree;
+    QString m_heading;
     pdf::StructureElement m_text;
     pdf::StructureElement m_table;
     pdf::StructureElement m_caption;

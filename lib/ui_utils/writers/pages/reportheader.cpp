@@ -24,6 +24,7 @@ void ReportHeader::measure(const uiutils::PageStyle& style, const QSizeF& page)
     auto block = std::make_unique<uiutils::TextBlock>(
             style.headingFont(m_level), text(), page.width(), style.headingColor(m_level));
     block->setTag(tags[m_level - 1]);
+    block->setHeading(text());
     block->setSpaceAbove(style.points(spaces[m_level - 1]));
     if (m_level == 1)
         block->setRuleBelow(style.points(1), style.points(2));

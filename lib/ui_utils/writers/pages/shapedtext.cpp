@@ -263,7 +263,8 @@ void ShapedText::drawRun(const QGlyphRun& run, const QString& text)
     }
 }
 
-/// Readers copy text only from where a glyph is. Without a width, the blank has its own.
+/// Readers copy text only from where a glyph is, and take what is not covered for a gap between words. Without a width,
+/// the blank has its own.
 void ShapedText::drawPlaceholder(const QPointF& at, qreal width)
 {
     pdf::EmbeddedFont* const font = m_writer.font(m_font.raw());
@@ -277,7 +278,7 @@ void ShapedText::drawPlaceholder(const QPointF& at, qreal width)
 
 void ShapedText::drawPicture(const QRawFont& raw, quint32 glyph, const QPointF& at)
 {
-    drawPlaceholder(at);
+    drawPlaceholder(at, raw.advancesForGlyphIndexes({glyph}).value(0).x());
     GlyphPicture picture;
     picture.color = m_color;
     // After a font of pictures was asked for an outline, its glyphs are empty for the rest of the process.

@@ -66,7 +66,7 @@ private:
     void drawRun(const QGlyphRun& run, const QString& text);
     void drawPicture(const QRawFont& raw, quint32 glyph, const QPointF& at);
     QByteArray pictureOf(const QRawFont& raw, quint32 glyph);
-    void drawPlaceholder(const QPointF& at, qreal width = 0);
+    void drawPlaceholder(const QPointF& at, qreal width);
 
     pdf::DocumentWriter& m_writer;
     const PageFont& m_font;

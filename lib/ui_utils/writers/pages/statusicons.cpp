@@ -3,7 +3,6 @@
 #include "base/paths_p.h"
 #include "core/status.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -26,20 +25,6 @@ QLatin1String statusIconPath(int status)
         return paths::failIcon;
     default:
         return QLatin1String();
-    }
-}
-
-QString statusWord(int status)
-{
-    switch (status) {
-    case Status::Pass:
-        return QCoreApplication::translate("ReportPDF", "Pass");
-    case Status::Marginal:
-        return QCoreApplication::translate("ReportPDF", "Marginal");
-    case Status::Fail:
-        return QCoreApplication::translate("ReportPDF", "Fail");
-    default:
-        return QString();
     }
 }
 

@@ -33,6 +33,8 @@ ReportItem::Portion TextBlock::split(const ReportItem::Position& begin, qreal ro
 
 void TextBlock::draw(PageCanvas& canvas, const ReportItem::Portion& portion, const QPointF& topLeft) const
 {
+    if (!m_heading.isEmpty())
+        canvas.structure().setHeading(m_heading);
     {
         const auto mark = canvas.structure().text(m_tag);
         m_lines.draw(canvas, topLeft, m_width, m_alignment, m_color, portion.begin.row, portion.end.row);

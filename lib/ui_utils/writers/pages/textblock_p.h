@@ -14,6 +14,8 @@ public:
 
     /// What the text is in the structure of the file: a literal, such as "/H1"; "/P" by default.
     void setTag(const char* tag) { m_tag = tag; }
+    /// What pictures that follow are about.
+    void setHeading(const QString& heading) { m_heading = heading; }
     void setSpaceAbove(qreal space) { m_spaceAbove = space; }
     /// A rule below the last line.
     void setRuleBelow(qreal thickness, qreal distance);
@@ -32,6 +34,7 @@ private:
     QColor m_color;
     Qt::Alignment m_alignment;
     const char* m_tag = "/P";
+    QString m_heading;
     qreal m_spaceAbove = 0;
     qreal m_ruleThickness = 0;
     qreal m_ruleDistance = 0;

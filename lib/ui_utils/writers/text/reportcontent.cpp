@@ -1,6 +1,7 @@
 #include "writers/text/reportcontent_p.h"
 
 #include "core/status.h"
+#include "core/statusword_p.h"
 #include "document/documentreader_p.h"
 #include "instrument/job_p.h"
 #include "instrument/people_p.h"
@@ -62,27 +63,13 @@ QString overallText(ReportStatus status)
 {
     switch (status) {
     case ReportStatus::Pass:
-        return statusText(Status::Pass);
+        return statusWord(Status::Pass);
     case ReportStatus::Marginal:
-        return statusText(Status::Marginal);
+        return statusWord(Status::Marginal);
     case ReportStatus::Fail:
-        return statusText(Status::Fail);
+        return statusWord(Status::Fail);
     case ReportStatus::NotCompleted:
         return ReportWords::tr("Not Completed");
-    default:
-        return {};
-    }
-}
-
-QString statusText(int status)
-{
-    switch (status) {
-    case Status::Pass:
-        return ReportWords::tr("Pass");
-    case Status::Marginal:
-        return ReportWords::tr("Marginal");
-    case Status::Fail:
-        return ReportWords::tr("Fail");
     default:
         return {};
     }

@@ -33,9 +33,6 @@ InformationTable configurationTable(const NodeReader& section, const NodeReader&
 /// The overall result of the test as text; empty if it is not known.
 QString overallText(ReportStatus status);
 
-/// "Pass", "Marginal" or "Fail" for a code of Status; else empty.
-QString statusText(int status);
-
 /// "Sat Nov 21 2026".
 QString dateText(const QDate& date);
 

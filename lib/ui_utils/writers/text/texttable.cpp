@@ -2,6 +2,7 @@
 
 #include "base/plaintext_p.h"
 #include "core/numbertext_p.h"
+#include "core/statusword_p.h"
 #include "writers/text/reportcontent_p.h"
 
 #include <QVarLengthArray>
@@ -116,7 +117,8 @@ int TextTable::Column::statusPart() const
 TextTable::TextTable(const QString& title, const QStringList& columnLabels)
     : m_title(plainText(title).trimmed())
     , m_columns(columnLabels.size() + 1)
-    , m_statusWords {statusText(Status::Pass), statusText(Status::Marginal), statusText(Status::Fail)}
+    , m_statusWords {uiutils::statusWord(Status::Pass), uiutils::statusWord(Status::Marginal),
+              uiutils::statusWord(Status::Fail)}
 {
     for (int i = 0; i < columnLabels.size(); ++i) {
         Column& column = m_columns[i + 1];
