@@ -64,6 +64,22 @@ Item {
             compare(driver.takeWarnings(), [])
         }
 
+        function test_pinch() {
+            const page = make(100)
+            page.dialog.show()
+            const pages = pagesOf(page)
+            tryVerify(() => pages.itemAtIndex(0) !== null)
+            const touch = touchEvent(pages), at = apart => [pages.width / 2 + apart, 200]
+            touch.press(0, pages, ...at(-40)).commit()
+            touch.stationary(0).press(1, pages, ...at(40)).commit()
+            for (let apart = 45; apart <= 120; apart += 5)
+                touch.move(0, pages, ...at(-apart)).move(1, pages, ...at(apart)).commit()
+            touch.release(0, pages, ...at(-120)).release(1, pages, ...at(120)).commit()
+            verify(pages.zoom > 1.5 && pages.zoom < 4)
+            compare(pages.page, 0)
+            page.dialog.close()
+        }
+
         // A report that is replaced while its pages are being made, by a longer and a shorter one, and one that is given up.
         function test_replaced() {
             const page = make(4000), preview = page.dialog.preview

@@ -318,6 +318,24 @@ private Q_SLOTS:
         QVERIFY2(other.exitCode == 0 && other.errors.count("none") == 1, qPrintable(other.errors));
     }
 
+    /// The pictures show what the PDF pages show; a window needs a display.
+    void previewOfPages()
+    {
+        writeFile(path("one.json"), smallDocument);
+        QCOMPARE(run({"-f", "pdf", "--orientation", "landscape", "one.json"}).exitCode, 0);
+        QCOMPARE(run({"--preview", "--orientation", "landscape", "-o", "new/", "one.json"}).exitCode, 0);
+        QCOMPARE(namesIn(path("new/one")), QStringList({"page-1.png"}));
+        const QImage picture(path("new/one/page-1.png"));
+        QCOMPARE(picture.size(), QSize(1650, 1275));
+        outputOf("pdftoppm", {"-r", "150", "-png", "-singlefile", path("one.pdf"), path("one")});
+        const auto coarse = [](const QImage& image) { return image.scaled(80, 60, Qt::IgnoreAspectRatio, Qt::SmoothTransformation); };
+        const QImage own = coarse(picture), other = coarse(QImage(path("one.png")));
+        for (int i = 0; i < 80 * 60; ++i)
+            QVERIFY(qAbs(qGray(own.pixel(i % 80, i / 80)) - qGray(other.pixel(i % 80, i / 80))) < 40);
+        const Outcome window = run({"--preview", "one.json"});
+        QVERIFY2(window.exitCode == 1 && window.errors.contains("no display"), qPrintable(window.errors));
+    }
+
     void tablesForSpreadsheets()
     {
         const QByteArray two = "'table_0':{'title':'A','num_columns':1,'row_1':{'cell_0':{'label':'0.5 dB'}}},"
