@@ -254,6 +254,10 @@ private Q_SLOTS:
         QVERIFY(tops.size() > 5);
         for (int i = 1; i < tops.size(); ++i)
             QVERIFY(isSame(tops.at(i) - tops.at(i - 1), tops.at(1) - tops.at(0)));
+        qreal bottom = 0;
+        for (const auto& word : sheet.words)
+            bottom = word.first == "Port" && word.second.top() < tops.at(1) ? qMax(bottom, word.second.bottom()) : bottom;
+        QVERIFY(tops.at(1) - bottom > 8);
         const QString text = pagesOf(m_path).join(' ').simplified();
         QVERIFY(text.contains("25 columns Port 1 Level 1 1.00 Frequency 2 1.14"));
     }
