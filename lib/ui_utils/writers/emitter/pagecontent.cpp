@@ -51,9 +51,8 @@ qint64 toHundredths(qreal value)
 
 } // namespace
 
-PageContent::PageContent(qreal unitsOfAPoint, qreal pageHeight)
+PageContent::PageContent(qreal unitsOfAPoint)
     : m_scale(1 / unitsOfAPoint)
-    , m_height(pageHeight)
 {
 }
 
@@ -179,7 +178,8 @@ void PageContent::image(const QByteArray& name, const QRectF& place)
     m_bytes += "q ";
     const qint64 left = across(place.left());
     const qint64 bottom = up(place.bottom());
-    for (const qint64 number : {across(place.right()) - left, qint64(0), qint64(0), up(place.top()) - bottom, left, bottom}) {
+    for (const qint64 number :
+            {across(place.right()) - left, qint64(0), qint64(0), up(place.top()) - bottom, left, bottom}) {
         appendHundredths(m_bytes, number);
         m_bytes += ' ';
     }

@@ -19,7 +19,10 @@ class EmbeddedFont;
 class PageContent
 {
 public:
-    PageContent(qreal unitsOfAPoint, qreal pageHeight);
+    explicit PageContent(qreal unitsOfAPoint);
+
+    /// In units, of the page that begins.
+    void setHeight(qreal height) { m_height = height; }
 
     void fill(const QVector<QRectF>& rectangles, const QColor& color);
     void fill(const QPainterPath& path, const QColor& color);
@@ -92,7 +95,7 @@ private:
     void appendPath(const QPainterPath& path);
 
     qreal m_scale;
-    qreal m_height;
+    qreal m_height = 0;
     QByteArray m_bytes;
     State m_state;
     QVector<State> m_saved;

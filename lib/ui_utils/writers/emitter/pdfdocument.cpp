@@ -13,10 +13,21 @@
 
 namespace uiutils::pdf {
 
+namespace {
+
+QByteArray mediaBox(const QSizeF& size)
+{
+    QByteArray box("/MediaBox[0 0 ");
+    appendNumbers(box, {size.width(), size.height()});
+    return box + ']';
+}
+
+} // namespace
+
 DocumentWriter::DocumentWriter(QIODevice* device, const DocumentSettings& settings)
     : m_settings(settings)
     , m_output(device)
-    , m_content(settings.unitsOfAPoint, settings.pageSize.height() * settings.unitsOfAPoint)
+    , m_content(settings.unitsOfAPoint)
     , m_pageTree(m_output.reserve())
     , m_fontResources(m_output.reserve())
 {
@@ -34,8 +45,12 @@ DocumentWriter::DocumentWriter(QIODevice* device, const DocumentSettings& settin
 
 DocumentWriter::~DocumentWriter() = default;
 
-void DocumentWriter::beginPage()
+void DocumentWriter::beginPage(const QSizeF& size)
 {
+    m_pageSize = size;
+    if (m_usualSize.isEmpty())
+        m_usualSize = size;
+    m_content.setHeight(size.height() * m_settings.unitsOfAPoint);
     m_pages += m_output.reserve();
     if (m_structure)
         m_structure->beginPage(m_pages.constLast());
@@ -47,6 +62,8 @@ void DocumentWriter::endPage()
     const QByteArray used = resources();
     m_output.writeStream(content, {}, m_content.take());
     QByteArray page = "<</Type/Page/Parent " + referenceTo(m_pageTree) + used + "/Contents " + referenceTo(content);
+    if (m_pageSize != m_usualSize)
+        page += mediaBox(m_pageSize);
     if (m_structure) {
         page += "/Tabs/S/StructParents " + QByteArray::number(m_structure->pageNumber());
         m_structure->endPage();
@@ -148,9 +165,7 @@ void DocumentWriter::writeFontResources()
 
 void DocumentWriter::writePageTree()
 {
-    QByteArray tree = "<</Type/Pages/Count " + QByteArray::number(m_pages.size()) + "/MediaBox[0 0 ";
-    appendNumbers(tree, {m_settings.pageSize.width(), m_settings.pageSize.height()});
-    tree += "]/Kids[";
+    QByteArray tree = "<</Type/Pages/Count " + QByteArray::number(m_pages.size()) + mediaBox(m_usualSize) + "/Kids[";
     for (const int page : qAsConst(m_pages))
         tree += referenceTo(page) + ' ';
     m_output.writePlain(m_pageTree, tree + "]>>");
@@ -198,7 +213,7 @@ QByteArray DocumentWriter::catalog(const QVector<OutlineEntry>& outline)
     const QString& language = m_settings.language;
     if (!language.isEmpty())
         text += "/Lang" + textString(language);
-    const int entries = writeOutline(m_output, outline, m_pages, m_settings.pageSize.height());
+    const int entries = writeOutline(m_output, outline, m_pages);
     if (entries > 0)
         text += "/PageMode/UseOutlines/Outlines " + referenceTo(entries);
     text += "/Metadata " + referenceTo(writeMetadata());

@@ -23,8 +23,6 @@ struct DocumentSettings
     DocumentInformation information;
     /// Of the texts, as in "en-US"; empty if it is not known.
     QString language;
-    /// In points.
-    QSizeF pageSize;
     /// Units of the layout in a point.
     qreal unitsOfAPoint = 1;
     bool isTagged = false;
@@ -41,7 +39,8 @@ public:
     ~DocumentWriter();
     Q_DISABLE_COPY_MOVE(DocumentWriter)
 
-    void beginPage();
+    /// `size` in points.
+    void beginPage(const QSizeF& size);
     PageContent& content() { return m_content; }
     void endPage();
 
@@ -88,6 +87,9 @@ private:
     int m_pageTree;
     int m_fontResources;
     QVector<int> m_pages;
+    // Of the first page, which most pages have.
+    QSizeF m_usualSize;
+    QSizeF m_pageSize;
     std::vector<std::unique_ptr<EmbeddedFont>> m_fonts;
     // Faces that were asked for, in each size.
     std::vector<std::pair<QRawFont, EmbeddedFont*>> m_faces;

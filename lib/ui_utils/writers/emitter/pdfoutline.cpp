@@ -75,18 +75,18 @@ QByteArray linkText(const Links& links, const QVector<int>& objects)
     return text;
 }
 
-QByteArray descriptionOf(const OutlineEntry& entry, const QVector<int>& pages, qreal pageHeight)
+QByteArray descriptionOf(const OutlineEntry& entry, const QVector<int>& pages)
 {
     QByteArray text = "/Title" + textString(shownTitle(entry.title)) + "/Dest["
             + referenceTo(pages.at(qBound(0, entry.page, pages.size() - 1))) + "/XYZ 0 ";
-    appendNumber(text, pageHeight - qBound(0.0, entry.top, pageHeight));
+    appendNumber(text, qMax(0.0, entry.height));
     // The reader's own magnification.
     return text + " 0]";
 }
 
 } // namespace
 
-int writeOutline(PdfOutput& output, const QVector<OutlineEntry>& entries, const QVector<int>& pages, qreal pageHeight)
+int writeOutline(PdfOutput& output, const QVector<OutlineEntry>& entries, const QVector<int>& pages)
 {
     if (entries.isEmpty() || pages.isEmpty())
         return 0;
@@ -95,8 +95,7 @@ int writeOutline(PdfOutput& output, const QVector<OutlineEntry>& entries, const 
     for (int i = 0; i < links.size(); ++i)
         objects += output.reserve();
     for (int i = 0; i < entries.size(); ++i)
-        output.write(objects.at(i),
-                "<<" + descriptionOf(entries.at(i), pages, pageHeight) + linkText(links.at(i), objects) + ">>");
+        output.write(objects.at(i), "<<" + descriptionOf(entries.at(i), pages) + linkText(links.at(i), objects) + ">>");
     output.write(objects.constLast(), "<</Type/Outlines" + linkText(links.constLast(), objects) + ">>");
     return objects.constLast();
 }

@@ -17,12 +17,11 @@ struct OutlineEntry
     int level = 0;
     /// From 0.
     int page = 0;
-    /// Points from the page's top edge.
-    qreal top = 0;
+    /// Points from the page's lower edge.
+    qreal height = 0;
 };
 
-/// Writes the outline of a file with these pages, each as high as that in points. Returns its object, 0 without
-/// entries.
-int writeOutline(PdfOutput& output, const QVector<OutlineEntry>& entries, const QVector<int>& pages, qreal pageHeight);
+/// Writes the outline of a file with these pages. Returns its object, 0 without entries.
+int writeOutline(PdfOutput& output, const QVector<OutlineEntry>& entries, const QVector<int>& pages);
 
 } // namespace uiutils::pdf

@@ -10,6 +10,7 @@ TemplateToPdfWriter::TemplateToPdfWriter(const ReportTemplate& document, QList<R
     , m_subject(document.getAttr(QStringLiteral("subject")).toString())
     , m_isTagged(document.getAttr(QStringLiteral("pdf_tagged")))
     , m_isArchive(document.getAttr(QStringLiteral("pdf_archive")))
+    , m_tableOrientation(document.getAttr(QStringLiteral("pdf_table_orientation")))
 {
     setAttribute(QStringLiteral("isForPDF"), true);
 }
@@ -55,6 +56,8 @@ void TemplateToPdfWriter::setUpPages()
     m_pages.setStructure(!tagged.isValid() ? ReportPDF::AutomaticStructure
                     : tagged.toBool()      ? ReportPDF::WithStructure
                                            : ReportPDF::WithoutStructure);
+    const bool turnsTables = choice("pdf_table_orientation", m_tableOrientation).toString() == QLatin1String("auto");
+    m_pages.setTableOrientation(turnsTables ? ReportPDF::AutomaticOrientation : ReportPDF::SameOrientation);
     m_pages.setArchive(choice("pdf_archive", m_isArchive).toBool());
     m_pages.setTitle(m_html.title());
     m_pages.setAuthor(textOr("author", uiutils::instrument::technicianName()));

@@ -23,8 +23,9 @@ public:
 
     /// Sets a switch of content: those of the HTML writer; "logo", an instrument path; "orientation", "portrait" or
     /// anything else for landscape; "unitId", in place of the unit's own; "author", in place of the
-    /// technician's name; "subject", in place of the document's; "producer"; "pdf_tagged" and
-    /// "pdf_archive", in place of the document's fields of these names: ReportPDF::setStructure() and setArchive().
+    /// technician's name; "subject", in place of the document's; "producer"; "pdf_tagged",
+    /// "pdf_archive" and "pdf_table_orientation", in place of the document's fields of these names:
+    /// ReportPDF::setStructure(), setArchive() and setTableOrientation(), which is automatic for "auto".
     void setAttribute(const QString& name, const QVariant& value) { m_html.setAttribute(name, value); }
 
     /// Receives the progress of toPdf() and write(), and can cancel them.
@@ -46,5 +47,6 @@ private:
     QString m_subject;
     QVariant m_isTagged;
     QVariant m_isArchive;
+    QVariant m_tableOrientation;
     ReportPDF m_pages;
 };

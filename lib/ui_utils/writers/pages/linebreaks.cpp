@@ -74,8 +74,10 @@ bool isLineBreak(QStringView text, int at)
 bool isSeam(QStringView text, int at)
 {
     const int separator = at - 1;
-    return separator > 0 && at < text.size() && isSeparator(text.at(separator)) && !isSeparator(text.at(at))
-            && !isPartOfNumber(text, separator) && !isLeadingSign(text, separator);
+    if (separator < 1 || at >= text.size() || !isSeparator(text.at(separator)))
+        return false;
+    const bool isAtEnd = !isSeparator(text.at(at)) || isLeadingSign(text, at);
+    return isAtEnd && !isPartOfNumber(text, separator) && !isLeadingSign(text, separator);
 }
 
 int tearIn(QStringView text, int begin, int end)

@@ -10,9 +10,11 @@ constexpr qreal tolerance = 1e-6;
 class Flow
 {
 public:
-    Flow(const QList<ReportItem*>& items, qreal pageHeight)
+    Flow(const QList<ReportItem*>& items, const QVector<bool>& isTurned, const PageHeights& heights)
         : m_items(items)
-        , m_pageHeight(pageHeight)
+        , m_isTurned(isTurned)
+        , m_heights(heights)
+        , m_pageHeight(heights.upright)
     {
     }
 
@@ -49,8 +51,11 @@ private:
         const ReportItem& item = *m_items.at(index);
         if (item.end() == ReportItem::Position())
             return;
-        if (!isAtTop() && isPartedFromNext(index, m_top))
+        const qreal height = m_heights.of(m_isTurned.at(index));
+        const bool isOfOtherPages = !qFuzzyCompare(height, m_pageHeight);
+        if (!isAtTop() && (isOfOtherPages || isPartedFromNext(index, m_top)))
             startPage();
+        m_pageHeight = height;
         if (!isAtTop())
             m_top += item.spaceAbove();
         ReportItem::Position at;
@@ -84,6 +89,8 @@ private:
             // An item that shows nothing has nothing to split.
             if (item.end() == ReportItem::Position())
                 continue;
+            if (!qFuzzyCompare(m_heights.of(m_isTurned.at(index)), m_pageHeight))
+                return true;
             if (top > 0)
                 top += item.spaceAbove();
             const ReportItem::Portion portion = item.split({}, m_pageHeight - top, isWholePage(top, hasHeadingsOnly));
@@ -97,6 +104,9 @@ private:
     }
 
     const QList<ReportItem*>& m_items;
+    const QVector<bool>& m_isTurned;
+    PageHeights m_heights;
+    // Of the page that is being filled.
     qreal m_pageHeight;
     int m_page = 0;
     qreal m_top = 0;
@@ -142,9 +152,10 @@ ReportItem::Portion takeLines(int lineCount, qreal lineHeight, int begin, qreal 
     return {{begin, 0}, {begin + taken, 0}, taken * lineHeight};
 }
 
-QVector<PlacedPortion> flowOntoPages(const QList<ReportItem*>& items, qreal pageHeight, int* pageCount)
+QVector<PlacedPortion> flowOntoPages(
+        const QList<ReportItem*>& items, const QVector<bool>& isTurned, const PageHeights& heights, int* pageCount)
 {
-    Flow flow(items, pageHeight);
+    Flow flow(items, isTurned, heights);
     flow.run();
     *pageCount = flow.pageCount();
     return flow.placed();

@@ -36,7 +36,18 @@ struct PlacedPortion
     ReportItem::Portion portion;
 };
 
-/// Places measured items one below the other on pages of that height, in their order. `pageCount` is 1 without items.
-QVector<PlacedPortion> flowOntoPages(const QList<ReportItem*>& items, qreal pageHeight, int* pageCount);
+/// The heights of pages that are upright and of those that are turned.
+struct PageHeights
+{
+    qreal upright;
+    qreal turned;
+
+    qreal of(bool isTurned) const { return isTurned ? turned : upright; }
+};
+
+/// Places measured items one below the other on pages of these heights, in their order. `isTurned` says for each item
+/// on which kind of page it is. `pageCount` is 1 without items.
+QVector<PlacedPortion> flowOntoPages(
+        const QList<ReportItem*>& items, const QVector<bool>& isTurned, const PageHeights& heights, int* pageCount);
 
 } // namespace uiutils

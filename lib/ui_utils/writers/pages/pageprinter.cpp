@@ -37,7 +37,6 @@ PagePrinter::Outcome PagePrinter::print(QIODevice* device, QString* error)
 {
     Outcome outcome = Stopped;
     if (layOut()) {
-        m_document.pageSize = m_layout.pageSize();
         m_document.unitsOfAPoint = m_layout.style().points(1);
         pdf::DocumentWriter writer(device, m_document);
         outcome = printPages(writer, error);
@@ -59,7 +58,7 @@ PagePrinter::Outcome PagePrinter::printPages(pdf::DocumentWriter& writer, QStrin
 {
     FileCanvas canvas(writer, m_layout.style());
     for (int page = 0; page < m_layout.pageCount() && !writer.hasFailed(); ++page) {
-        writer.beginPage();
+        writer.beginPage(m_layout.pageSize(page));
         m_layout.draw(canvas, page);
         writer.endPage();
         if (!m_progress(page + 1, m_layout.pageCount()))

@@ -2,6 +2,7 @@
 
 #include "writers/pages/pagecanvas_p.h"
 #include "writers/pages/readingside_p.h"
+#include "writers/pages/reporttable.h"
 
 #include <QGuiApplication>
 #include <QHash>
@@ -88,10 +89,13 @@ ReportLayout::ReportLayout(const Surroundings& surroundings, const QList<ReportI
     : m_paper(paper)
     , m_style(measuringStyle(isReportReadFromRight(surroundings.titleBlock.title, items)))
     , m_frame(m_style, paper * m_style.points(1), surroundings.frame)
+    , m_turnedFrame(m_style, paper.transposed() * m_style.points(1), surroundings.frame)
+    , m_turnsWideTables(surroundings.turnsWideTables && paper.width() < paper.height())
     , m_titleBlock(surroundings.titleBlock)
     , m_items(items)
 {
     m_items.prepend(&m_titleBlock);
+    m_isTurned.fill(false, m_items.size());
 }
 
 ReportLayout::~ReportLayout()
@@ -104,19 +108,48 @@ ReportLayout::~ReportLayout()
     }
 }
 
-void ReportLayout::measure(ReportItem& item) const
+void ReportLayout::measure(int index)
 {
+    ReportItem& item = *m_items.at(index);
     owners().set(&item, this);
-    item.measure(m_style, m_frame.body().size());
+    item.measure(m_style, frameOf(m_isTurned.at(index)).body().size());
 }
 
 bool ReportLayout::advance()
 {
-    if (m_measured < m_items.size())
-        measure(*m_items.at(m_measured++));
-    else if (m_pageCount == 0)
-        m_placed = flowOntoPages(m_items, m_frame.body().height(), &m_pageCount);
+    if (m_measured < m_items.size()) {
+        const int index = m_measured++;
+        m_isTurned[index] = false;
+        measure(index);
+        const auto* const table = m_turnsWideTables ? dynamic_cast<const ReportTable*>(m_items.at(index)) : nullptr;
+        m_isTurned[index] = table && table->isWide();
+        if (m_isTurned.at(index))
+            measure(index);
+    } else if (m_pageCount == 0) {
+        turnHeadings();
+        const PageHeights heights {m_frame.body().height(), m_turnedFrame.body().height()};
+        m_placed = flowOntoPages(m_items, m_isTurned, heights, &m_pageCount);
+    }
     return m_pageCount == 0;
+}
+
+/// What belongs to a turned table is on its page, and so is the title block if the report begins with it.
+void ReportLayout::turnHeadings()
+{
+    for (int i = m_items.size() - 2; i >= 0; --i) {
+        const bool belongsToNext = i == 0 || m_items.at(i)->keepsWithNext();
+        if (!belongsToNext || !m_isTurned.at(i + 1) || m_isTurned.at(i))
+            continue;
+        m_isTurned[i] = true;
+        measure(i);
+    }
+}
+
+bool ReportLayout::isTurned(int page) const
+{
+    const auto isBefore = [](const PlacedPortion& placed, int page) { return placed.page < page; };
+    const auto it = std::lower_bound(m_placed.cbegin(), m_placed.cend(), page, isBefore);
+    return it != m_placed.cend() && m_isTurned.at(it->item);
 }
 
 bool ReportLayout::isUpToDate() const
@@ -136,15 +169,16 @@ void ReportLayout::draw(PageCanvas& canvas, int page)
     m_changes = owners().changes();
     if (page < 0 || page >= m_pageCount)
         return;
-    m_frame.drawHeader(canvas, page + 1);
+    const PageFrame& frame = frameOf(isTurned(page));
+    frame.drawHeader(canvas, page + 1);
     drawItems(canvas, page);
-    m_frame.drawFooter(canvas, page + 1, m_pageCount);
+    frame.drawFooter(canvas, page + 1, m_pageCount);
     canvas.flush();
 }
 
 void ReportLayout::drawItems(PageCanvas& canvas, int page) const
 {
-    const QPointF origin = m_frame.body().topLeft();
+    const QPointF origin = frameOf(isTurned(page)).body().topLeft();
     const auto isBefore = [](const PlacedPortion& placed, int page) { return placed.page < page; };
     auto it = std::lower_bound(m_placed.cbegin(), m_placed.cend(), page, isBefore);
     for (; it != m_placed.cend() && it->page == page; ++it)
@@ -165,8 +199,9 @@ QVector<pdf::OutlineEntry> ReportLayout::outline() const
             headingLevel = heading;
         const QString title = item.outlineTitle();
         const int level = heading > 0 ? heading - 1 : headingLevel;
+        const qreal top = (frameOf(m_isTurned.at(placed.item)).body().top() + placed.top) / m_style.points(1);
         if (!title.isEmpty())
-            entries.append({title, level, placed.page, (m_frame.body().top() + placed.top) / m_style.points(1)});
+            entries.append({title, level, placed.page, pageSize(placed.page).height() - top});
     }
     return entries;
 }

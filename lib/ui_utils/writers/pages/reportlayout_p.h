@@ -26,6 +26,8 @@ public:
     {
         TitleBlock::Contents titleBlock;
         PageFrame::Texts frame;
+        /// Whether tables that are too wide for upright pages are on turned ones, as headings above them are.
+        bool turnsWideTables = false;
     };
 
     /// `paper` in points. The items remain the caller's and must outlive the layout.
@@ -34,8 +36,8 @@ public:
     Q_DISABLE_COPY_MOVE(ReportLayout)
 
     const PageStyle& style() const { return m_style; }
-    /// In points.
-    QSizeF pageSize() const { return m_paper; }
+    /// In points. `page` counts from 0.
+    QSizeF pageSize(int page) const { return isTurned(page) ? m_paper.transposed() : m_paper; }
 
     /// Measures the next item, or, when none is left, finds where pages end. Returns whether more is to be done.
     bool advance();
@@ -48,15 +50,22 @@ public:
     QVector<pdf::OutlineEntry> outline() const;
 
 private:
-    void measure(ReportItem& item) const;
+    void measure(int index);
+    void turnHeadings();
+    bool isTurned(int page) const;
+    const PageFrame& frameOf(bool isTurned) const { return isTurned ? m_turnedFrame : m_frame; }
     bool isUpToDate() const;
     void drawItems(PageCanvas& canvas, int page) const;
 
     QSizeF m_paper;
     PageStyle m_style;
     PageFrame m_frame;
+    PageFrame m_turnedFrame;
+    bool m_turnsWideTables;
     TitleBlock m_titleBlock;
     QList<ReportItem*> m_items;
+    // For each item, whether it is on turned pages.
+    QVector<bool> m_isTurned;
     int m_measured = 0;
     QVector<PlacedPortion> m_placed;
     int m_pageCount = 0;

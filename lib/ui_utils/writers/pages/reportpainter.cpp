@@ -50,9 +50,9 @@ int ReportPainter::pageCount() const
     return d->layout ? d->layout->pageCount() : 0;
 }
 
-QSizeF ReportPainter::pageSize(int) const
+QSizeF ReportPainter::pageSize(int page) const
 {
-    return d->layout ? d->layout->pageSize() : QSizeF();
+    return d->layout ? d->layout->pageSize(page) : QSizeF();
 }
 
 void ReportPainter::paint(QPainter& painter, int page)

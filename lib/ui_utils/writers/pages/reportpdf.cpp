@@ -40,6 +40,7 @@ uiutils::PageSettings uiutils::ReportPDFPrivate::settings() const
     PageSettings settings;
     settings.surroundings.titleBlock = {decodedImage(readIcon(logo)), documentTitle, title, fields};
     settings.surroundings.frame = {documentTitle, title, unitId, timestamp};
+    settings.surroundings.turnsWideTables = tableOrientation == ReportPDF::AutomaticOrientation;
     settings.orientation = orientation == ReportPDF::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
     pdf::DocumentInformation& about = settings.document.information;
     about.title = title.isEmpty() ? documentTitle : title;
@@ -108,6 +109,11 @@ void ReportPDF::setItems(const QList<ReportItem*>& items)
 void ReportPDF::setOrientation(Orientation orientation)
 {
     d->orientation = orientation;
+}
+
+void ReportPDF::setTableOrientation(TableOrientation orientation)
+{
+    d->tableOrientation = orientation;
 }
 
 void ReportPDF::setDocumentTitle(const QString& title)

@@ -40,6 +40,15 @@ public:
 
     /// Portrait by default.
     void setOrientation(Orientation orientation);
+    /// How the pages of a wide table lie.
+    enum TableOrientation {
+        /// As the others.
+        SameOrientation,
+        /// In landscape, if the table is too wide for portrait pages.
+        AutomaticOrientation,
+    };
+    /// SameOrientation by default. Headings above such a table are on its pages.
+    void setTableOrientation(TableOrientation orientation);
     /// The kind of document, shown beside the logo and in the header; "Solvant Report" by default.
     void setDocumentTitle(const QString& title);
     /// The report's own title, shown in the title block and the header, and the title of the file; if it is empty, the

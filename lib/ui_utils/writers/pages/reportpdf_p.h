@@ -12,6 +12,7 @@ class uiutils::ReportPDFPrivate
 public:
     QList<ReportItem*> items;
     ReportPDF::Orientation orientation = ReportPDF::Portrait;
+    ReportPDF::TableOrientation tableOrientation = ReportPDF::SameOrientation;
     QString documentTitle = QCoreApplication::translate("ReportPDF", "Solvant Report");
     QString title;
     QString author;

@@ -68,6 +68,11 @@ void ReportTable::measure(const uiutils::PageStyle& style, const QSizeF& page)
     m_layout = uiutils::TableLayout::of(*this, style, page);
 }
 
+bool ReportTable::isWide() const
+{
+    return m_layout && m_layout->isWide();
+}
+
 void ReportTable::release()
 {
     m_layout.reset();

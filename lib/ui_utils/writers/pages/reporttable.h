@@ -68,6 +68,10 @@ public:
     /// The cell that begins in that column of a row, or null.
     const Cell* cellAt(int row, int column) const;
 
+    /// Whether the table has columns that have no place side by side, or too many for its usual type, on the pages for
+    /// which it was last measured.
+    bool isWide() const;
+
     void measure(const uiutils::PageStyle& style, const QSizeF& page) override;
     void release() override;
     Position end() const override;

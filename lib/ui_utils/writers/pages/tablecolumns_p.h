@@ -29,6 +29,8 @@ public:
 
     const TableType& type() const { return m_type; }
     const QVector<Band>& bands() const { return m_bands; }
+    /// Whether the columns are divided, or set in smaller type.
+    bool isWide() const { return m_bands.size() > 1 || &m_type.body != &m_style.body; }
     /// Whether the first column is the rightmost.
     bool isMirrored() const { return m_isMirrored; }
 

@@ -20,6 +20,7 @@ public:
 
     TableLayout(const ReportTable& table, const PageStyle& style, const QSizeF& page);
 
+    bool isWide() const { return !m_list && m_columns.isWide(); }
     int rowCount() const { return m_lines.size(); }
     ReportItem::Portion split(const ReportItem::Position& begin, qreal room, bool isWholePage) const;
     void draw(PageCanvas& canvas, const ReportItem::Portion& portion, const QPointF& topLeft) const;
@@ -57,7 +58,8 @@ private:
     void drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, int column, const TableColumns::Place& place,
             const QPointF& topLeft, int beginLine, int endLine) const;
     void drawJudged(PageCanvas& canvas, const ReportTable::Cell& cell, int column, const TableColumns::Place& place,
-            const QPointF& topLeft, int beginLine, int endLine) const;
+            const QPointF& topLeft, int beginLine, int endLine, const QString& beside) const;
+    QString verdictBeside(const ReportTable::Cell& cell, int row, const TableColumns::Band& columns, int column) const;
     bool drawAgain(PageCanvas& canvas, const ReportTable::Cell& cell, const TableColumns::Place& place,
             const QPointF& topLeft, int beginLine, int endLine) const;
     /// Calls visit(int row, int beginLine, int endLine, qreal height) for the part of each row that is in a portion.
@@ -78,7 +80,7 @@ private:
     // For each row, one band after the other.
     QVector<int> m_lines;
     // What is laid out in place of a table of a single row.
-    std::unique_ptr<ReportTable> m_turned;
+    std::unique_ptr<ReportTable> m_list;
 };
 
 } // namespace uiutils
