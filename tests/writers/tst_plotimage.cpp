@@ -97,7 +97,7 @@ private Q_SLOTS:
     void theSameDrawingAtEveryResolution()
     {
         kiv::embedded::EmbeddedBackend backend;
-        QVERIFY(backend.loadFile(UIUTILS_TEST_DATA_DIR "/services/eight.service.json"));
+        QVERIFY(backend.loadFile(UIUTILS_TEST_DATA_DIR "/plots/eight.service.json"));
         QVector<QImage> pictures;
         for (const int scale : {1, 3}) {
             PlotImage plot;

@@ -118,7 +118,7 @@ private Q_SLOTS:
         QVERIFY(QDir(m_folder.path()).mkdir("tmp"));
         m_backend = std::make_unique<kiv::embedded::EmbeddedBackend>();
         for (const char* name : {"eight", "two"})
-            QVERIFY(m_backend->loadFile(QString(UIUTILS_TEST_DATA_DIR "/services/%1.service.json").arg(name)));
+            QVERIFY(m_backend->loadFile(QString(UIUTILS_TEST_DATA_DIR "/plots/%1.service.json").arg(name)));
     }
 
     /// Title, every curve and limit in picture and legend, in the size that was asked for, and none of it a picture.

@@ -39,6 +39,13 @@ QFont fontOf(double unit)
     return font;
 }
 
+/// In the notation of an axis.
+QString levelText(double value)
+{
+    const bool isPlain = std::abs(value) < 1e7;
+    return QLocale().toString(value, 'g', isPlain ? 7 : 6);
+}
+
 QString titled(const QString& label, const QString& unit)
 {
     if (unit.isEmpty())
@@ -204,11 +211,10 @@ QVector<LegendEntry> PlotLayout::curveEntries() const
 QVector<LegendEntry> PlotLayout::legendEntries() const
 {
     QVector<LegendEntry> limits;
-    const QLocale locale;
     for (const PlotLimit& limit : m_data->limits) {
         const QString text = limit.kind == PlotLimit::Lower ? QCoreApplication::translate("PlotImage", "at least %1 %2")
                                                             : QCoreApplication::translate("PlotImage", "at most %1 %2");
-        limits.append({text.arg(locale.toString(limit.value, 'g', 6), limit.unit).trimmed(), limitPen()});
+        limits.append({text.arg(levelText(limit.value), limit.unit).trimmed(), limitPen()});
     }
     const QVector<LegendEntry> curves = curveEntries();
     return curves.size() > curvesBeforeLimits ? limits + curves : curves + limits;

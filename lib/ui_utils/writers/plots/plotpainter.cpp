@@ -47,9 +47,12 @@ void PlotPainter::draw(LineRange legend)
     drawGrid();
     m_painter.save();
     m_painter.setClipRect(m_frame.adjusted(-1, -1, 1, 1), Qt::IntersectClip);
+    const QPen limitPen = m_layout.limitPen();
+    // Below the dashes, so that they can be seen on a line of the frame too, and below curves.
+    drawLimits(QPen(m_background, limitPen.widthF(), Qt::SolidLine, Qt::FlatCap));
     for (int i = 0; i < m_data.curves.size(); ++i)
         drawCurve(i);
-    drawLimits();
+    drawLimits(limitPen);
     m_painter.restore();
     m_painter.setPen(QColor(inkColor));
     if (m_data.xExtent().isEmpty())
@@ -143,19 +146,13 @@ void PlotPainter::drawTickLabels(PlotSide side)
     }
 }
 
-void PlotPainter::drawLimits()
+void PlotPainter::drawLimits(const QPen& pen)
 {
-    const QPen pen = m_layout.limitPen();
+    m_painter.setPen(pen);
     for (const PlotLimit& limit : m_data.limits) {
         const double y = m_layout.yAt(limit.value, limit.side);
-        if (!std::isfinite(y))
-            continue;
-        const QLineF line(m_frame.left(), y, m_frame.right(), y);
-        // The dashes can be seen on a line of the frame too.
-        m_painter.setPen(QPen(m_background, pen.widthF(), Qt::SolidLine, Qt::FlatCap));
-        m_painter.drawLine(line);
-        m_painter.setPen(pen);
-        m_painter.drawLine(line);
+        if (std::isfinite(y))
+            m_painter.drawLine(QPointF(m_frame.left(), y), QPointF(m_frame.right(), y));
     }
 }
 

@@ -25,7 +25,7 @@ private:
     void drawGrid();
     void drawTickLabels();
     void drawTickLabels(PlotSide side);
-    void drawLimits();
+    void drawLimits(const QPen& pen);
     void drawCurve(int index);
     double columnsOfAPixel() const;
 
