@@ -1,6 +1,6 @@
-#include "../writers/pdfreading.h"
 #include "columns.h"
 #include "files.h"
+#include "writers/pdfreading.h"
 
 #include "document/reporttemplate.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
