@@ -1,6 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the shapes of reports that layouts are judged by, each as a document, and the service that the curves read:
-shapes.py FOLDER"""
+"""Writes the shapes of reports that layouts are judged by, each as a document: shapes.py FOLDER"""
 import json
 import pathlib
 import sys
@@ -110,11 +109,6 @@ def right_to_left():
                   section('أحداث', table('אירועים', ['מרחק', 'ניחות', 'הערה'], rows)))
 
 
-def curves():
-    return report('Eight curves', section('Curves', {'node_type': 'table', 'tag': 'p', 'title': 'Levels over time', 'label': 'plot',
-                                                       'num_columns': 0, 'use_row_labels': False, 'service': 'eight'}))
-
-
 def verdicts():
     rows = [[name, cell(word, code), cell(value, code), 'Limit: 0.50 dB'] for name, word, code, value in
             [('Loss', 'Pass', PASS, '0.21 dB'), ('Return loss', 'Marginal', MARGINAL, '-31.0 dB'), ('Length', 'Fail', FAIL, '12.7 km'),
@@ -129,28 +123,13 @@ def extremes():
                   table('One column', ['Number'], [[i] for i in range(9)], labels=False), many_columns(200, 3), many_columns(25, 1))
 
 
-def service():
-    """The data of the eight curves."""
-    items = []
-    for curve in range(8):
-        seconds = list(range(0, 3600, 60))
-        levels = [round(-20 - curve * 2 + (second * (curve + 3) % 700) / 175, 2) for second in seconds]
-        prefix = f':result:eight:c{curve}'
-        items.append({'id': f'{prefix}_x:doubleARRAY:', 'type': 'doubleARRAY', 'label': 'Time', 'unit': 's', 'value': seconds})
-        items.append({'id': f'{prefix}_y:doubleARRAY:', 'type': 'doubleARRAY', 'label': f'Channel {curve + 1}', 'unit': 'dBm',
-                      'value': levels, 'attributes': {'upperLimit': -14 + curve, 'lowerLimit': -40}})
-    return {'service': 'eight', 'title': 'Eight curves with limits', 'items': items}
-
-
 SHAPES = {
     'optical-events': optical_events, 'wireless-survey': wireless_survey,
     'wide': lambda: report('Wide tables', many_columns(25, 60)), 'levels': levels, 'long-cells': long_cells,
-    'long-words': long_words, 'right-to-left': right_to_left, 'curves': curves, 'verdicts': verdicts, 'extremes': extremes,
+    'long-words': long_words, 'right-to-left': right_to_left, 'verdicts': verdicts, 'extremes': extremes,
 }
 
 if __name__ == '__main__':
     folder = pathlib.Path(sys.argv[1])
     for name, shape in SHAPES.items():
         (folder / f'{name}.json').write_text(json.dumps(shape(), ensure_ascii=False), encoding='utf-8')
-    (folder / 'services').mkdir(exist_ok=True)
-    (folder / 'services/eight.service.json').write_text(json.dumps(service()), encoding='utf-8')

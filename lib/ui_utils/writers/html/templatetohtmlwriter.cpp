@@ -108,14 +108,9 @@ void TemplateToHtmlWriter::writeModernPage()
         collectItems();
     m_isWritten = true;
     m_plotPixels = plotPixelsOnPaper;
-    uiutils::ModernPageSource source;
-    source.document = m_document;
-    source.title = title();
-    source.facts = titleFields();
-    source.statusWord = overallStatus().word;
-    source.attribute = [this](const QString& name) { return attribute(name); };
-    source.plot = [this](const QString& service, quint64 number) { return plotOf(service, number); };
-    source.plotPixels = m_plotPixels;
+    const uiutils::ModernPageSource source {m_document, title(), titleFields(), overallStatus().word,
+            [this](const QString& name) { return attribute(name); },
+            [this](const QString& service, quint64 number) { return plotOf(service, number); }, m_plotPixels};
     m_html->replaceText(uiutils::modernPage(source));
     m_plots.clear();
 }
