@@ -81,7 +81,7 @@ PLANTED = [
     ('field', r'<html lang="\w+"', '<html', 'html-has-lang'),
     ('field', r' tabindex="0"', '', 'scrollable-region-focusable'),
     ('field', r' aria-labelledby="\w+"', ' aria-labelledby="none"', 'aria-valid-attr-value|axe'),
-    ('curves', r' alt="[^"]*"', '', 'image-alt'),
+    ('field', r' alt="[^"]*"', '', 'image-alt'),
     ('field', r'--quiet: #4d565e', '--quiet: #b0b0b0', 'color-contrast'),
     ('field', r'--fail: #a8201a', '--fail: #f07070', 'color-contrast'),
     ('levels', r'<h4', '<h6', 'heading-order'),
@@ -124,14 +124,15 @@ def broad(columns):
 def convert(tree, build, folder):
     """The pages, by name."""
     shapes = folder / 'shapes'
-    shapes.mkdir(parents=True, exist_ok=True)
+    shutil.rmtree(shapes, ignore_errors=True)
+    shapes.mkdir(parents=True)
     data = tree / 'tests/data'
     subprocess.run([sys.executable, '-B', data / 'shapes/shapes.py', shapes], check=True)
     tables = {f'table_{columns}': broad(columns) for columns in (4, 5, 7, 8, 9, 11, 12)}
     (shapes / 'broad.json').write_text(json.dumps({'node_type': 'report', 'tag': 'r', 'title': 'Broad', **tables}), encoding='utf-8')
     documents = [data / f'documents/{name}.json' for name in DOCUMENTS] + sorted(shapes.glob('*.json'))
-    subprocess.run([build / 'bin/reportconvert', '--format', 'html', '--style', 'modern', '--services', data / 'services', '--services',
-                    shapes / 'services', '--output', f'{folder / "pages"}/', *documents], check=True, stderr=subprocess.DEVNULL)
+    subprocess.run([build / 'bin/reportconvert', '--format', 'html', '--style', 'modern', '--services', data / 'services', '--output',
+                    f'{folder / "pages"}/', *documents], check=True, stderr=subprocess.DEVNULL)
     return {document.stem: folder / 'pages' / f'{document.stem}.html' for document in documents}
 
 

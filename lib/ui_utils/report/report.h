@@ -347,8 +347,7 @@ protected:
     QByteArray generateDefaultPDFReport();
     /// Sets a switch of the HTML writer and of the pages for all later saves; it overrides those of this object.
     void setWriterAttribute(const QString& name, const QVariant& value);
-    /// Passes the switches of this object, and those of setWriterAttribute(), to a writer, and gives the body of its
-    /// page the attributes of TemplateToHtmlWriter::defaultBodyAttributes().
+    /// Passes the switches of this object, those of setWriterAttribute() and its defaultBodyAttributes() to a writer.
     void setHtmlWriterAttributes(TemplateToHtmlWriter& writer) const;
     /// True if the report may be written; otherwise the user is asked.
     [[nodiscard]] bool checkForOverwrite(const QString& name, const QString& suffix, bool overwrite);

@@ -2,6 +2,7 @@
 
 #include "base/plaintext_p.h"
 #include "core/status.h"
+#include "core/statusword_p.h"
 #include "writers/text/reportcontent_p.h"
 
 namespace uiutils {
@@ -36,7 +37,7 @@ Quantity withUnit(QStringView text, QStringView unit)
 
 CsvTable::CsvTable(const QString& rowLabel, const QStringList& columnLabels)
     : m_columns(columnLabels.size() + 1)
-    , m_statusWords {statusText(Status::Pass), statusText(Status::Marginal), statusText(Status::Fail)}
+    , m_statusWords {statusWord(Status::Pass), statusWord(Status::Marginal), statusWord(Status::Fail)}
 {
     m_columns[0].label = rowLabel;
     for (int i = 0; i < columnLabels.size(); ++i)

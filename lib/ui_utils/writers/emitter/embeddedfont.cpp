@@ -43,7 +43,8 @@ QByteArray widthsOf(const QVector<quint16>& glyphs, const QVector<double>& width
 
 QByteArray descriptorOf(const FontMetrics& metrics, const QByteArray& name, const FontProgram& program, int file)
 {
-    QByteArray text = "<</Type/FontDescriptor/FontName" + name + "/Flags " + QByteArray::number(metrics.flags) + "/FontBBox[";
+    QByteArray text
+            = "<</Type/FontDescriptor/FontName" + name + "/Flags " + QByteArray::number(metrics.flags) + "/FontBBox[";
     appendNumbers(text, {qreal(metrics.left), qreal(metrics.bottom), qreal(metrics.right), qreal(metrics.top)});
     text += "]/ItalicAngle ";
     appendNumber(text, metrics.italicAngle);
@@ -136,7 +137,8 @@ QString EmbeddedFont::write(PdfOutput& output) const
     const int descendant = output.reserve();
     output.write(descendant,
             QByteArray("<</Type/Font/Subtype") + (isCff ? "/CIDFontType0" : "/CIDFontType2/CIDToGIDMap/Identity")
-                    + "/BaseFont" + name + "/CIDSystemInfo<</Registry(Adobe)/Ordering(Identity)/Supplement 0>>/FontDescriptor "
+                    + "/BaseFont" + name
+                    + "/CIDSystemInfo<</Registry(Adobe)/Ordering(Identity)/Supplement 0>>/FontDescriptor "
                     + referenceTo(descriptor) + "/W" + widthsOf(used, glyphWidths(m_font, used)) + ">>");
     const int texts = output.reserve();
     output.writeStream(texts, {}, toUnicode(used));

@@ -45,11 +45,12 @@ int writeImage(PdfOutput& output, const QImage& image)
 {
     const int mask = writeMask(output, image);
     const bool isGray = image.allGray();
-    const QImage colors = isGray ? image.convertToFormat(QImage::Format_Grayscale8)
-                                 : image.convertToFormat(QImage::Format_RGB888);
+    const QImage colors
+            = isGray ? image.convertToFormat(QImage::Format_Grayscale8) : image.convertToFormat(QImage::Format_RGB888);
     const int object = output.reserve();
     output.writeStream(object,
-            entriesOf(image, isGray ? "/DeviceGray" : "/DeviceRGB") + (mask > 0 ? "/SMask " + referenceTo(mask) : QByteArray()),
+            entriesOf(image, isGray ? "/DeviceGray" : "/DeviceRGB")
+                    + (mask > 0 ? "/SMask " + referenceTo(mask) : QByteArray()),
             packed(colors, isGray ? 1 : 3));
     return object;
 }

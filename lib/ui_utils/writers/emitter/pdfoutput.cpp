@@ -18,8 +18,8 @@ constexpr int columns = 7;
 
 void appendEntry(QByteArray& rows, QByteArray& last, int type, quint32 at, int index)
 {
-    const char entry[columns] = {char(type), char(at >> 24), char(at >> 16), char(at >> 8), char(at), char(index >> 8),
-            char(index)};
+    const char entry[columns]
+            = {char(type), char(at >> 24), char(at >> 16), char(at >> 8), char(at), char(index >> 8), char(index)};
     // Each row is written as its difference from the one above, because neighbours differ little.
     rows += char(2);
     for (int i = 0; i < columns; ++i)
@@ -138,9 +138,10 @@ bool PdfOutput::finish(int catalog, int information, const QByteArray& id)
     m_places[size_t(number)] = {begin, plain};
     const QByteArray identifier = hexString(id);
     writeStream(number,
-            "/Type/XRef/Size " + QByteArray::number(int(m_places.size())) + "/W[1 4 2]/DecodeParms<</Predictor 12/Columns "
-                    + QByteArray::number(columns) + ">>/Root " + referenceTo(catalog) + "/Info "
-                    + referenceTo(information) + "/ID[" + identifier + identifier + ']',
+            "/Type/XRef/Size " + QByteArray::number(int(m_places.size()))
+                    + "/W[1 4 2]/DecodeParms<</Predictor 12/Columns " + QByteArray::number(columns) + ">>/Root "
+                    + referenceTo(catalog) + "/Info " + referenceTo(information) + "/ID[" + identifier + identifier
+                    + ']',
             table());
     put("startxref\n" + QByteArray::number(begin) + "\n%%EOF\n");
     return !m_hasFailed;

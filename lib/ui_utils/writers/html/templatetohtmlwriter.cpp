@@ -115,19 +115,15 @@ void TemplateToHtmlWriter::writeModernPage()
         collectItems();
     m_isWritten = true;
     m_plotPixels = pixelsOfModernPlots;
-    uiutils::ModernPageSource source;
-    source.document = m_document;
-    source.title = title();
-    source.facts = titleFields();
-    source.statusWord = overallStatus().word;
-    source.attribute = [this](const QString& name) { return attribute(name); };
-    // The page says the title.
-    source.plot = [this](const QString& service, quint64 number) {
+    const auto plotOnPage = [this](const QString& service, quint64 number) {
+        // The page says the title.
         const uiutils::PagePlots::Plot plot = plots().plot(service, QString());
-        leavePlotFile(number, plots().picture(plot));
-        return uiutils::PlotOnPage {plots().picture(plot), uiutils::plotInWords(plot->data())};
+        const QByteArray picture = plots().picture(plot);
+        leavePlotFile(number, picture);
+        return uiutils::PlotOnPage {picture, uiutils::plotInWords(plot->data())};
     };
-    source.plotPixels = m_plotPixels;
+    const uiutils::ModernPageSource source {m_document, title(), titleFields(), overallStatus().word,
+            [this](const QString& name) { return attribute(name); }, plotOnPage, m_plotPixels};
     m_html->replaceText(uiutils::modernPage(source));
     m_plots.reset();
     m_plotPixels = 1;

@@ -2,6 +2,7 @@
 
 #include "core/numbertext_p.h"
 #include "core/status.h"
+#include "core/statusword_p.h"
 #include "document/documentreader_p.h"
 #include "writers/modern/markupwords_p.h"
 #include "writers/text/reportcontent_p.h"
@@ -42,7 +43,7 @@ struct ColumnCount
     {
         const int alignment = alignmentNamed(textOf(cell.value(keys::alignAttribute)));
         const QString text = shownTextOf(cell.value(keys::label));
-        const bool isJudged = !statusText(textOf(cell.value(keys::statusAttribute)).toInt()).isEmpty();
+        const bool isJudged = !statusWord(textOf(cell.value(keys::statusAttribute)).toInt()).isEmpty();
         narrowest = qMax(narrowest, longestPieceOf(text) + (isJudged ? verdictWidth : 0));
         if (alignment >= 0)
             ++named[size_t(alignment)];

@@ -84,8 +84,9 @@ const QLatin1String paper(R"css(
   .scroll tbody th { position: static; max-width: none; }
   caption bdi { position: static; max-width: 100%; }
   table { font-size: 9pt; }
-  thead { display: table-header-group; }
+  thead { display: table-header-group; break-inside: avoid; break-after: avoid; }
   tr:not(:has(> .long)) { break-inside: avoid; }
+  tbody tr:first-child { break-before: avoid; }
   tbody tr:first-child:not(:last-child) { break-after: avoid; }
   tbody tr:last-child:not(:first-child) { break-before: avoid; }
   td.long { min-width: 12em; }

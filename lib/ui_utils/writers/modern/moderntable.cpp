@@ -1,6 +1,7 @@
 #include "writers/modern/moderntable_p.h"
 
 #include "base/directmarkup_p.h"
+#include "core/statusword_p.h"
 #include "document/documentreader_p.h"
 #include "writers/modern/columnforms_p.h"
 #include "writers/modern/markupwords_p.h"
@@ -194,7 +195,7 @@ void ModernTable::addCell(int column, const QString& text, int status, int align
     if (m_isCards && !label.isEmpty() && (!text.isEmpty() || !judged.isEmpty()))
         appendAttribute(m_page, QLatin1String("data-label"), label);
     m_page += QLatin1Char('>');
-    const QString verdict = statusText(status);
+    const QString verdict = statusWord(status);
     const bool isOwnVerdict = !verdict.isEmpty() && isVerdict(text, verdict, judged);
     if (!text.isEmpty() && !isOwnVerdict)
         appendValue(m_page, text);

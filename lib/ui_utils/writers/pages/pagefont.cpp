@@ -164,7 +164,8 @@ bool PageFont::replaceRefused(const QTextLayout& layout) const
         const int length = QChar::requiresSurrogates(character) ? 2 : 1;
         const QList<QGlyphRun> own = layout.glyphRuns(at, length);
         at += length;
-        const QString family = std::any_of(own.cbegin(), own.cend(), isOfRefused) ? embeddableFamily(character) : QString();
+        const QString family
+                = std::any_of(own.cbegin(), own.cend(), isOfRefused) ? embeddableFamily(character) : QString();
         if (!family.isEmpty() && !families.contains(family))
             families += family;
     }
@@ -207,7 +208,8 @@ int PageFont::shapedKerning(QChar left, QChar right) const
     line.setNumColumns(2);
     layout.endLayout();
     const QList<QGlyphRun> runs = line.glyphRuns();
-    if (runs.size() != 1 || runs.constFirst().glyphIndexes() != QVector<quint32> {glyph(left).index, glyph(right).index})
+    if (runs.size() != 1
+            || runs.constFirst().glyphIndexes() != QVector<quint32> {glyph(left).index, glyph(right).index})
         return 0;
     const QVector<QPointF> positions = runs.constFirst().positions();
     const qreal apart = positions.at(1).x() - positions.at(0).x() - glyph(left).advance / m_thousandth;

@@ -41,9 +41,11 @@ bool isUniform(const QTransform& transform)
 class PagePainter::Engine final : public QPaintEngine
 {
 public:
-    Engine(pdf::DocumentWriter& writer, const PageFont& blank, QString* missing, qreal unitsOfAPoint, const QRectF& place)
-        : QPaintEngine(PrimitiveTransform | PixmapTransform | PainterPaths | Antialiasing | AlphaBlend | PaintOutsidePaintEvent
-                | ObjectBoundingModeGradients | LinearGradientFill | RadialGradientFill | ConicalGradientFill | PatternBrush)
+    Engine(pdf::DocumentWriter& writer, const PageFont& blank, QString* missing, qreal unitsOfAPoint,
+            const QRectF& place)
+        : QPaintEngine(PrimitiveTransform | PixmapTransform | PainterPaths | Antialiasing | AlphaBlend
+                | PaintOutsidePaintEvent | ObjectBoundingModeGradients | LinearGradientFill | RadialGradientFill
+                | ConicalGradientFill | PatternBrush)
         , m_writer(writer)
         , m_blank(blank)
         , m_missing(missing)
@@ -142,7 +144,8 @@ void PagePainter::Engine::drawOutline(const QPainterPath& path)
     const QTransform transform = toPage();
     const qreal scale = std::sqrt(std::abs(transform.determinant()));
     // Lines of a pen that is not round under a shear, or that is not all of one colour, are areas.
-    if (isUniform(transform) && pen.brush().style() == Qt::SolidPattern && pen.color().alphaF() * state->opacity() > 0.999) {
+    if (isUniform(transform) && pen.brush().style() == Qt::SolidPattern
+            && pen.color().alphaF() * state->opacity() > 0.999) {
         pen.setWidthF(pen.widthF() * scale);
         m_writer.content().stroke(transform.map(path), pen);
         return;
@@ -240,8 +243,8 @@ void PagePainter::Engine::drawTextItem(const QPointF& at, const QTextItem& item)
     content.restore();
 }
 
-PagePainter::PagePainter(pdf::DocumentWriter& writer, const PageFont& blank, QString* missing, qreal unitsOfAPoint,
-        const QRectF& place)
+PagePainter::PagePainter(
+        pdf::DocumentWriter& writer, const PageFont& blank, QString* missing, qreal unitsOfAPoint, const QRectF& place)
     : m_engine(std::make_unique<Engine>(writer, blank, missing, unitsOfAPoint, place))
     , m_size(place.size() / unitsOfAPoint)
 {

@@ -1,5 +1,6 @@
 #include "writers/pages/tablelayout_p.h"
 
+#include "core/statusword_p.h"
 #include "writers/pages/pagecanvas_p.h"
 #include "writers/pages/readingside_p.h"
 #include "writers/pages/rowlist_p.h"
