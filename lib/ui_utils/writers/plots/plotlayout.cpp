@@ -50,7 +50,9 @@ QString titled(const QString& label, const QString& unit)
 {
     if (unit.isEmpty())
         return label;
-    return label.isEmpty() ? unit : QStringLiteral("%1 (%2)").arg(label, unit);
+    // Beside words from right to left, "°C" would become "C°".
+    const QString mark = label.isRightToLeft() ? QString(QChar(0x200e)) : QString();
+    return label.isEmpty() ? unit : QStringLiteral("%1 (%2)").arg(label, mark + unit + mark);
 }
 
 } // namespace

@@ -46,7 +46,9 @@ void PlotPainter::draw(LineRange legend)
     m_painter.fillRect(m_frame, m_background);
     drawGrid();
     m_painter.save();
-    m_painter.setClipRect(m_frame.adjusted(-1, -1, 1, 1), Qt::IntersectClip);
+    // Dots on the frame are whole.
+    const double edge = 0.4 * m_unit;
+    m_painter.setClipRect(m_frame.adjusted(-edge, -edge, edge, edge), Qt::IntersectClip);
     const QPen limitPen = m_layout.limitPen();
     // Below the dashes, so that they can be seen on a line of the frame too, and below curves.
     drawLimits(QPen(m_background, limitPen.widthF(), Qt::SolidLine, Qt::FlatCap));
@@ -56,9 +58,19 @@ void PlotPainter::draw(LineRange legend)
     m_painter.restore();
     m_painter.setPen(QColor(inkColor));
     if (m_data.xExtent().isEmpty())
-        m_painter.drawText(m_frame, Qt::AlignCenter, QCoreApplication::translate("PlotImage", "No data"));
+        drawNoData();
     drawTickLabels();
     m_layout.legend().draw(m_painter, m_layout.legendPlace(), legend, QColor(inkColor));
+}
+
+/// Limits may be behind it.
+void PlotPainter::drawNoData()
+{
+    const QString text = QCoreApplication::translate("PlotImage", "No data");
+    QRectF place(0, 0, m_layout.metrics().horizontalAdvance(text), m_layout.lineHeight());
+    place.moveCenter(m_frame.center());
+    m_painter.fillRect(place.adjusted(-m_unit, 0, m_unit, 0), m_background);
+    m_painter.drawText(place.topLeft() + QPointF(0, m_layout.metrics().ascent()), text);
 }
 
 void PlotPainter::drawRight(const QPointF& baseLine, const QString& text)
@@ -164,7 +176,10 @@ double PlotPainter::columnsOfAPixel() const
 void PlotPainter::drawCurve(int index)
 {
     const PlotCurve& curve = m_data.curves.at(index);
-    const QPen pen = curve.isMask ? m_layout.limitPen() : m_layout.curvePen(index);
+    QPen pen = curve.isMask ? m_layout.limitPen() : m_layout.curvePen(index);
+    // Nothing else shows a curve of one point.
+    if (curve.points.size() == 1)
+        pen.setWidthF(2 * pen.widthF());
     const int most = pen.style() == Qt::SolidLine ? mostMarkedPoints : int(m_frame.width() / (3 * m_unit));
     const bool showsPoints = curve.size <= most && !curve.isMask;
     const int columns = std::max(1, int(m_frame.width() * columnsOfAPixel()));

@@ -21,6 +21,7 @@ public:
 
 private:
     void drawTitles();
+    void drawNoData();
     void drawRight(const QPointF& baseLine, const QString& text);
     void drawGrid();
     void drawTickLabels();

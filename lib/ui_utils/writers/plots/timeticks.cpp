@@ -44,7 +44,8 @@ constexpr DurationPart durationParts[] = {{day, QT_TRANSLATE_NOOP("PlotImage", "
 
 bool TimeTicks::canShow(const Interval& seconds, Kind kind)
 {
-    const double first = kind == Date ? -largest / 4 : -largest;
+    // Calendars differ on what was before the year 1.
+    const double first = kind == Date ? -6e10 : -largest;
     return seconds.extent() >= 1 && seconds.low > first && seconds.high < largest;
 }
 
