@@ -94,10 +94,13 @@ bool TableColumns::isReadFromRight() const
 
 void TableColumns::judge(const ReportTable::Cell& cell, Column& column) const
 {
-    if (cell.alignment != ReportTable::automatic)
-        column.hasOwnAlignments = column.hasOwnAlignments || !cell.text.isEmpty();
-    else if (!cell.text.isEmpty())
+    if (cell.text.isEmpty())
+        return;
+    if (cell.alignment == ReportTable::automatic)
         ++(isNumber(cell.text) ? column.numbers : column.texts);
+    else
+        ++(cell.alignment == Alignment::Right && cell.kind == ReportTable::CellKind::Value ? column.rights
+                                                                                           : column.others);
 }
 
 void TableColumns::measureLabels()
@@ -153,15 +156,15 @@ QVector<ColumnDemand> TableColumns::demands() const
     return demands;
 }
 
-/// Numbers stand below each other, but not at the far side of a column that is wider than they need: they would be far
-/// from what they belong to.
+/// What is aligned to the right stands below each other, but not at the far side of a column that is wider than needed:
+/// it would be far from what it belongs to.
 TableColumns::Band TableColumns::placed(const ColumnBand& band) const
 {
     Band places;
     qreal begin = 0;
     for (const ColumnWidth& width : band) {
         const Column& column = m_columns.at(width.column);
-        const bool isBlock = column.isNumeric() && !column.hasOwnAlignments && !m_isMirrored;
+        const bool isBlock = column.isAllRight() && !m_isMirrored;
         const qreal used = isBlock ? qMin(width.width, column.demand.natural) : width.width;
         const qreal left = m_isMirrored ? m_width - begin - width.width : begin;
         places.append({width.column, left + m_type.cellPadding, used - 2 * m_type.cellPadding + tolerance});

@@ -52,10 +52,13 @@ private:
         /// Cells without an alignment of their own.
         int numbers = 0;
         int texts = 0;
-        bool hasOwnAlignments = false;
+        /// Cells that are to be aligned to the right, and otherwise.
+        int rights = 0;
+        int others = 0;
         bool hasPlainLines = true;
 
         bool isNumeric() const { return numbers > 2 * texts; }
+        bool isAllRight() const { return others == 0 && numbers + rights > 0 && (isNumeric() || numbers + texts == 0); }
     };
 
     bool isReadFromRight() const;
