@@ -8,8 +8,8 @@
 #include "writers/pages/reportpainter.h"
 #include "writers/pages/reporttable.h"
 
-#include <QDateTime>
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
 #include <QPainter>
 #include <QPrinter>
@@ -52,8 +52,8 @@ class Items
 public:
     explicit Items(int rows, int columns = 3, int status = 0)
     {
-        const QStringList labels = QStringList {QStringLiteral("Point"), QStringLiteral("Level"),
-                                            QStringLiteral("Channel")}
+        const QStringList labels
+                = QStringList {QStringLiteral("Point"), QStringLiteral("Level"), QStringLiteral("Channel")}
                 + QVector<QString>(columns - 3, QStringLiteral("Loss")).toList();
         for (int table = 0; table < tables; ++table) {
             auto* item = new ReportTable(QStringLiteral("Measurements %1").arg(table), labels, false);
@@ -157,20 +157,22 @@ QVector<Result> printCases(int runs, int rows, int columns, bool isTagged, const
     const Limits& limits = isTagged ? tagged : untagged;
     const Items items(rows, columns);
     const Timing timing = interleaved(
-            runs, [&] { printItems(items, path, isTagged); }, [&] { printPlainly(items, path + QStringLiteral(".floor")); });
-    QVector<Result> results {{QStringLiteral("%1 pages of %L2 rows, %3 columns / boundingRect and drawText of their cells")
-                                      .arg(isTagged ? QStringLiteral("tagged") : QStringLiteral("untagged"))
-                                      .arg(rows)
-                                      .arg(columns),
-            QStringLiteral("ms CPU"), timing.ours, timing.floor, limits.floor}};
+            runs, [&] { printItems(items, path, isTagged); },
+            [&] { printPlainly(items, path + QStringLiteral(".floor")); });
+    QVector<Result> results {
+            {QStringLiteral("%1 pages of %L2 rows, %3 columns / boundingRect and drawText of their cells")
+                            .arg(isTagged ? QStringLiteral("tagged") : QStringLiteral("untagged"))
+                            .arg(rows)
+                            .arg(columns),
+                    QStringLiteral("ms CPU"), timing.ours, timing.floor, limits.floor}};
     if (columns > 3)
         return results;
     printItems(items, path, isTagged);
     const double size = double(QFile(path).size());
     // A file of a few rows first: a forked process maps the toolkit's code anew, which is not the pages' doing.
     const Items few(tables);
-    const double growth = double(peakGrowth([&] { printItems(few, path, isTagged); },
-                                  [&] { printItems(items, path, isTagged); }))
+    const double growth
+            = double(peakGrowth([&] { printItems(few, path, isTagged); }, [&] { printItems(items, path, isTagged); }))
             / 1e6;
     results.append({QStringLiteral("   peak memory growth of it / its limit"), QStringLiteral("MB"), growth,
             limits.growth, rows >= 100'000 ? 1.0 : 0.0});
@@ -199,7 +201,8 @@ Result previewCase(int runs, int rows, double limit)
     const Items items(rows);
     ReportPDF report;
     report.setItems(items.list());
-    const Timing timing = interleaved(runs, [&] { previewFirstPage(items); }, [&] { report.toPdf(); });
+    const Timing timing = interleaved(
+            runs, [&] { previewFirstPage(items); }, [&] { report.toPdf(); });
     return {QStringLiteral("first page of a preview of %L1 rows / printing them").arg(rows), QStringLiteral("ms CPU"),
             timing.ours, timing.floor, limit};
 }

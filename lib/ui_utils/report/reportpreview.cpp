@@ -164,16 +164,14 @@ void ReportPreview::show()
         return;
     clear();
     d->begin(*writer);
-    layOut();
+    d->nextSlice.start();
+    setBusy(true);
 }
 
 void ReportPreview::layOut()
 {
-    if (d->layOut()) {
-        d->nextSlice.start();
-        setBusy(true);
+    if (d->layOut())
         return;
-    }
     d->nextSlice.stop();
     addPages();
 }

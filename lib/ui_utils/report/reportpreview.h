@@ -57,9 +57,9 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// Shows the report as it is now, in place of what was shown before. The pages come at once if that takes a few
-    /// milliseconds, otherwise when control has returned to the event loop. There are none while a file is being
-    /// printed, and none of a controller that makes pages of its own.
+    /// Shows the report as it is now, in place of what was shown before. The pages come when control has
+    /// returned to the event loop. There are none while a file is being printed, and none of a controller that makes
+    /// pages of its own.
     Q_INVOKABLE void show();
     /// Forgets the pages, and the memory that they take.
     Q_INVOKABLE void clear();

@@ -9,9 +9,9 @@
 
 namespace uiutils {
 
-/// A page of a ReportPreview, which fills the item; give the item the proportions of the page. It is drawn when it comes
-/// into sight. While the item's size changes, the present picture is stretched; a sharp one replaces it when the size is
-/// stable. In QML: PreviewPage.
+/// A page of a ReportPreview, which fills the item; give the item the proportions of the page. It is drawn when it
+/// comes into sight. While the item's size changes, the present picture is stretched; a sharp one replaces it when the
+/// size is stable. In QML: PreviewPage.
 class PreviewPage : public QQuickItem
 {
     Q_OBJECT
