@@ -208,7 +208,7 @@ private Q_SLOTS:
     /// A page of thousands of plots is made in seconds: after a hundred titles pictures are shared.
     void manyTitles()
     {
-        uiutils::PagePlots plots(QSize(160, 120), Qt::white);
+        uiutils::PagePlots plots(QSize(160, 120), Qt::white, 1);
         QVector<QByteArray> pictures;
         for (int i = 0; i < 105; ++i)
             pictures += plots.picture(plots.plot("none", QString("Title %1").arg(i)));
