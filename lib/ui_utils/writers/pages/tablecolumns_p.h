@@ -6,7 +6,12 @@
 
 #include <QStringList>
 
+#include <memory>
+
 namespace uiutils {
+
+/// The single row of a table as a list: each column that is not empty is a row with its label and its value.
+std::unique_ptr<ReportTable> rowAsList(const ReportTable& table);
 
 /// The columns of a table on pages: the type of their texts, their places, and how their cells are aligned.
 class TableColumns

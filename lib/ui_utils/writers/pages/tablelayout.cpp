@@ -3,8 +3,6 @@
 #include "core/statusword_p.h"
 #include "writers/pages/pagecanvas_p.h"
 #include "writers/pages/readingside_p.h"
-#include "writers/pages/rowlist_p.h"
-#include "writers/pages/statusicons_p.h"
 #include "writers/pages/wrappedtext_p.h"
 
 #include <QCoreApplication>
@@ -306,8 +304,7 @@ void TableLayout::drawRow(
         if (!cell || (beginLine > 0 && drawAgain(canvas, *cell, columns.at(i), at, beginLine, endLine)))
             continue;
         if (m_columns.iconSpace(*cell) > 0)
-            drawJudged(canvas, *cell, i, columns.at(i), at, beginLine, endLine,
-                    verdictBeside(*cell, tableRow, columns, i));
+            drawJudged(canvas, *cell, i, columns.at(i), at, beginLine, endLine);
         else
             drawCell(canvas, *cell, i, columns.at(i), at, beginLine, endLine);
     }
@@ -339,26 +336,10 @@ void TableLayout::drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, in
             font, cell.text, topLeft + QPointF(place.left, 0), place.width, alignment, m_style.ink, beginLine, endLine);
 }
 
-/// What may say the status of a cell in words: its text, and if it has one, that of its neighbours with the same
-/// status.
-QString TableLayout::verdictBeside(
-        const ReportTable::Cell& cell, int row, const TableColumns::Band& columns, int column) const
-{
-    QString said = cell.text;
-    for (const int i : {column - 1, column + 1}) {
-        const bool isThere = !cell.text.isEmpty() && i >= 0 && i < columns.size();
-        const ReportTable::Cell* const other = isThere ? m_table.cellAt(row, columns.at(i).column) : nullptr;
-        if (other && other->status == cell.status)
-            said += QLatin1Char(' ') + (other->text.isEmpty() ? statusWord(cell.status) : other->text);
-    }
-    return said;
-}
-
 /// A cell with the icon of its status, which is on the side from which the table is read. Icon and text together are
 /// where the text alone would be.
 void TableLayout::drawJudged(PageCanvas& canvas, const ReportTable::Cell& cell, int column,
-        const TableColumns::Place& place, const QPointF& topLeft, int beginLine, int endLine,
-        const QString& beside) const
+        const TableColumns::Place& place, const QPointF& topLeft, int beginLine, int endLine) const
 {
     const PageFont& font = m_columns.fontOf(cell);
     const Qt::Alignment alignment = m_columns.alignmentOf(cell, place.column);
@@ -375,7 +356,7 @@ void TableLayout::drawJudged(PageCanvas& canvas, const ReportTable::Cell& cell, 
         canvas.drawStatusIcon(cell.status, iconPlace);
     const auto mark = canvas.structure().cell(column, kindOf(cell), cell.columnSpan, false);
     if (beginLine == 0)
-        canvas.drawStatusWord(cell.status, beside, iconPlace);
+        canvas.drawStatusWord(cell.status, cell.text, iconPlace);
     const qreal textLeft = place.left + indent + (m_columns.isMirrored() ? 0 : icon);
     canvas.drawText(font, cell.text, topLeft + QPointF(textLeft, 0), room,
             spare > 0 ? Qt::AlignLeft : readingSideOf(cell.text), m_style.ink, beginLine, endLine);

@@ -58,8 +58,7 @@ private:
     void drawCell(PageCanvas& canvas, const ReportTable::Cell& cell, int column, const TableColumns::Place& place,
             const QPointF& topLeft, int beginLine, int endLine) const;
     void drawJudged(PageCanvas& canvas, const ReportTable::Cell& cell, int column, const TableColumns::Place& place,
-            const QPointF& topLeft, int beginLine, int endLine, const QString& beside) const;
-    QString verdictBeside(const ReportTable::Cell& cell, int row, const TableColumns::Band& columns, int column) const;
+            const QPointF& topLeft, int beginLine, int endLine) const;
     bool drawAgain(PageCanvas& canvas, const ReportTable::Cell& cell, const TableColumns::Place& place,
             const QPointF& topLeft, int beginLine, int endLine) const;
     /// Calls visit(int row, int beginLine, int endLine, qreal height) for the part of each row that is in a portion.
