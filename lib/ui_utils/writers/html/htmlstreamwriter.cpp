@@ -2,6 +2,7 @@
 
 #include "base/directmarkup_p.h"
 #include "base/xmltext_p.h"
+#include "writers/html/cellmarkup_p.h"
 #include "writers/html/pagestyle_p.h"
 #include "writers/html/style.h"
 #include "writers/pages/reportheader.h"
@@ -23,48 +24,6 @@ namespace {
 
 /// On the screens that browsers assume.
 constexpr qreal pixelsOfAPoint = 96.0 / 72.0;
-
-// Indentation levels of a table in the body.
-constexpr int rowLevel = 3;
-constexpr int cellLevel = 4;
-constexpr int contentLevel = 5;
-
-QString newLine(int level)
-{
-    return QLatin1Char('\n') + QString(4 * level, QLatin1Char(' '));
-}
-
-/// The markup around what a cell shows, by the codes of uiutils::Alignment. A cell is written in a fraction of a
-/// microsecond, most of which its elements would take if they were written one by one.
-struct CellMarkup
-{
-    CellMarkup()
-    {
-        const QLatin1String names[] = {QLatin1String("center"), QLatin1String("left"), QLatin1String("right")};
-        for (const int align : {Alignment::Center, Alignment::Left, Alignment::Right}) {
-            value[align] = newLine(cellLevel) + QStringLiteral("<td align=\"%1\">").arg(names[align]);
-            label[align] = value[align] + newLine(contentLevel) + QStringLiteral("<b>");
-        }
-    }
-
-    QString value[3];
-    QString label[3];
-    QString valueEnd = QStringLiteral("</td>");
-    QString labelEnd = QStringLiteral("</b>") + newLine(cellLevel) + valueEnd;
-    QString row = newLine(rowLevel) + QStringLiteral("<tr>");
-    QString rowEnd = newLine(rowLevel) + QStringLiteral("</tr>");
-};
-
-const CellMarkup& cellMarkup()
-{
-    static const CellMarkup markup;
-    return markup;
-}
-
-int knownAlignment(int align)
-{
-    return align == Alignment::Left || align == Alignment::Right ? align : int(Alignment::Center);
-}
 
 QString pngSource(const QByteArray& png)
 {
@@ -263,7 +222,7 @@ void HtmlStreamWriter::startTextRow()
     m_rowHasText = true;
     m_rowIsElement = !m_tableHasRows;
     if (!m_rowIsElement) {
-        m_output += cellMarkup().row;
+        m_output += uiutils::cellMarkup().row;
         return;
     }
     startTableRow();
@@ -274,10 +233,10 @@ void HtmlStreamWriter::startTextRow()
 void HtmlStreamWriter::endTextRow()
 {
     if (!m_rowIsElement) {
-        m_output += cellMarkup().rowEnd;
+        m_output += uiutils::cellMarkup().rowEnd;
         return;
     }
-    m_output += newLine(rowLevel);
+    m_output += uiutils::newLine(uiutils::rowLevel);
     writeEndElement();
     setAutoFormatting(true);
 }
@@ -298,9 +257,9 @@ void HtmlStreamWriter::writeHeaderCell(const QString& text, int align)
     if (!beginCell(1))
         return;
     if (m_rowHasText) {
-        m_output += cellMarkup().label[knownAlignment(align)];
+        m_output += uiutils::cellMarkup().label[uiutils::knownAlignment(align)];
         uiutils::appendDirectText(m_output, text);
-        m_output += cellMarkup().labelEnd;
+        m_output += uiutils::cellMarkup().labelEnd;
     }
     if (m_currentTable)
         m_currentTable->appendCell({text, Status::None, qint8(align), ReportTable::CellKind::RowLabel, 1});
@@ -311,10 +270,10 @@ void HtmlStreamWriter::writeCell(const QString& text, int status, int align)
     if (!beginCell(1))
         return;
     if (m_rowHasText) {
-        m_output += cellMarkup().value[knownAlignment(align)];
+        m_output += uiutils::cellMarkup().value[uiutils::knownAlignment(align)];
         writeStatusIcon(status);
         uiutils::appendDirectText(m_output, text);
-        m_output += cellMarkup().valueEnd;
+        m_output += uiutils::cellMarkup().valueEnd;
     }
     if (m_currentTable)
         m_currentTable->appendCell({text, status, qint8(align), ReportTable::CellKind::Value, 1});
@@ -326,7 +285,7 @@ void HtmlStreamWriter::writeEmptyCells(int columns)
     if (span <= 0 || !beginCell(span))
         return;
     if (m_rowHasText) {
-        m_output += newLine(cellLevel)
+        m_output += uiutils::newLine(uiutils::cellLevel)
                 + (span > 1 ? QStringLiteral("<td colspan=\"%1\"></td>").arg(span) : QStringLiteral("<td></td>"));
     }
     if (m_currentTable)
@@ -408,7 +367,7 @@ const QString& HtmlStreamWriter::iconMarkup(const QString& path)
     if (it == m_iconMarkups.end()) {
         const QByteArray& bytes = *m_iconCache.insert(path, uiutils::readIcon(path));
         it = m_iconMarkups.insert(path,
-                newLine(contentLevel)
+                uiutils::newLine(uiutils::contentLevel)
                         + QStringLiteral("<img src=\"%1\" width=\"20\" height=\"20\"/>").arg(pngSource(bytes)));
     }
     return *it;

@@ -1,5 +1,7 @@
 #include "writers/html/pageplots_p.h"
 
+#include "base/durablefile_p.h"
+#include "base/paths_p.h"
 #include "writers/html/plotdrawing_p.h"
 #include "writers/plots/plotpainter_p.h"
 
@@ -8,6 +10,8 @@ namespace uiutils {
 namespace {
 
 constexpr int mostTitledPictures = 100;
+/// The plot of a table with this number or a larger one leaves no file.
+constexpr quint64 mostFiles = 100;
 
 } // namespace
 
@@ -40,6 +44,12 @@ QByteArray PagePlots::picture(const Plot& plot)
     if (hasRoom || plot->title().isEmpty())
         return *m_pictures.insert(own, plotPicture(*plot, m_background, m_pixelScale));
     return picture(std::make_shared<const PlotLayout>(plot->sharedData(), QString(), m_size));
+}
+
+void PagePlots::leaveFile(const Plot& plot, quint64 tableNumber)
+{
+    if (tableNumber < mostFiles)
+        writeFileForNow(onDisk(paths::plotImage(tableNumber)), picture(plot));
 }
 
 QVector<ReportItem*> PagePlots::items(const Plot& plot) const

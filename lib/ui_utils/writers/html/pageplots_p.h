@@ -29,6 +29,9 @@ public:
     Plot plot(const QString& service, const QString& title);
     /// A PNG. With more than a hundred titles, the pictures of further ones say none, and are shared.
     QByteArray picture(const Plot& plot);
+    /// Leaves the picture in a file for other programs; tables with the same number overwrite it. A document with
+    /// thousands of plots does not fill the memory that holds temporary files.
+    void leaveFile(const Plot& plot, quint64 tableNumber);
     /// New items for printed pages.
     QVector<ReportItem*> items(const Plot& plot) const;
 

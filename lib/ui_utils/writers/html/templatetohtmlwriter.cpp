@@ -1,7 +1,5 @@
 #include "writers/html/templatetohtmlwriter.h"
 
-#include "base/durablefile_p.h"
-#include "base/paths_p.h"
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
 #include "instrument/unit_p.h"
@@ -33,8 +31,6 @@ namespace {
 
 /// For screens whose pixels are smaller than the page's.
 constexpr int pixelsOfModernPlots = 2;
-/// The plot of a table with this number or a larger one leaves no file.
-constexpr quint64 mostPlotFiles = 100;
 
 /// A two-column table of labels and values; none without rows.
 void writeInformation(HtmlStreamWriter& html, const uiutils::InformationTable& table, int nestingLevel)
@@ -118,9 +114,8 @@ void TemplateToHtmlWriter::writeModernPage()
     const auto plotOnPage = [this](const QString& service, quint64 number) {
         // The page says the title.
         const uiutils::PagePlots::Plot plot = plots().plot(service, QString());
-        const QByteArray picture = plots().picture(plot);
-        leavePlotFile(number, picture);
-        return uiutils::PlotOnPage {picture, uiutils::plotInWords(plot->data())};
+        plots().leaveFile(plot, number);
+        return uiutils::PlotOnPage {plots().picture(plot), uiutils::plotInWords(plot->data())};
     };
     const uiutils::ModernPageSource source {m_document, title(), titleFields(), overallStatus().word,
             [this](const QString& name) { return attribute(name); }, plotOnPage, m_plotPixels};
@@ -382,10 +377,8 @@ void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, co
 void TemplateToHtmlWriter::plotToHtml(const TableReader& table, quint64 tableNumber)
 {
     const uiutils::PagePlots::Plot plot = plots().plot(table.text(keys::service), table.title());
-    const bool leavesFile = tableNumber < mostPlotFiles;
-    const QByteArray picture = leavesFile || m_html->keepsText() ? plots().picture(plot) : QByteArray();
-    leavePlotFile(tableNumber, picture);
-    m_html->writeImageParagraph(picture, plots().items(plot));
+    plots().leaveFile(plot, tableNumber);
+    m_html->writeImageParagraph(m_html->keepsText() ? plots().picture(plot) : QByteArray(), plots().items(plot));
 }
 
 uiutils::PagePlots& TemplateToHtmlWriter::plots()
@@ -395,12 +388,4 @@ uiutils::PagePlots& TemplateToHtmlWriter::plots()
         m_plots = std::make_unique<uiutils::PagePlots>(uiutils::plotSize(number("plot_width"), number("plot_height")),
                 uiutils::plotBackground(attribute(QStringLiteral("plot_curve_bg")).toString()), m_plotPixels);
     return *m_plots;
-}
-
-/// The file is for other programs to read; tables with the same number in several sections overwrite it. A document
-/// with thousands of plots does not fill the memory that holds temporary files.
-void TemplateToHtmlWriter::leavePlotFile(quint64 tableNumber, const QByteArray& picture)
-{
-    if (tableNumber < mostPlotFiles)
-        uiutils::writeFileForNow(uiutils::onDisk(uiutils::paths::plotImage(tableNumber)), picture);
 }

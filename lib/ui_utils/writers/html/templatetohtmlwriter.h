@@ -90,7 +90,6 @@ private:
     void rowToHtml(const uiutils::TableReader& table, bool hasLabel, const QJsonObject& row);
     void plotToHtml(const uiutils::TableReader& table, quint64 tableNumber);
     uiutils::PagePlots& plots();
-    void leavePlotFile(quint64 tableNumber, const QByteArray& picture);
     void writeConfigurationValues(const uiutils::NodeReader& section);
 
     QJsonObject m_document;
