@@ -162,25 +162,31 @@ public:
     /// derived controllers, whose pages are made for it.
     bool isInteractive() const;
     void setInteractive(bool interactive);
+
     /// When the test ran, as the page set it.
     QString getTestTime() const;
     /// How long the test took, as the page set it.
     QString getTestDuration() const;
+
     /// Whether reports are saved as gzip files, with ".gz" after their suffix; false by default.
     bool isCompressionEnabled() const;
     void setCompressionEnabled(bool enabled);
+
     /// Replaces the file by its compressed form, which has ".gz" after its name, or the other way round. False, with a
     /// line in the log, if gzip fails.
     [[nodiscard]] bool compressFile(const QString& path);
     /// See compressFile().
     [[nodiscard]] bool uncompressFile(const QString& path);
+
     /// Copies the saved report to the USB drive, durably, and replaces one of its name there. Notifies the user if that
     /// fails.
     void saveToUsb(const QString& name, const QString& suffix);
+
     /// An NSReport::ReportFormat; -1 if the item "reportFormat" does not exist or has no value.
     int getFormat() const;
     /// The suffix of the chosen format, with its dot; empty for ALL and without a format.
     QString getSuffixForReport() const;
+
     /// What a save as PDF would print now, for a preview or for paper: brings the document up to date, as a save does,
     /// and returns the writer with all switches of this object. Its items come into `items`, see TemplateToPdfWriter.
     /// Null while this object saves, and if hasCustomPDF().
@@ -306,6 +312,7 @@ protected:
     virtual void saveSucceeded(const QString& path);
     /// A save has failed; `name` is the name that the report was to have.
     virtual void saveFailed(const QString& name);
+
     /// Called for each report that a save has written, once it is safe: `format` is "PDF", "XML" and so on. The default
     /// writes its metadata record, with the work order and the job; if that fails, only the log has a line.
     virtual void writeMetadata(const QString& path, const QString& format);
@@ -370,11 +377,13 @@ Q_SIGNALS:
     void jobSchemaChanged();
     void settingsChanged();
     void screenshotListChanged();
+
     /// The user has agreed that the pending report is overwritten.
     void reportOverwriteAccepted();
     /// A save has succeeded; emitted once per save. `filename` is the file's name without its folder, with its suffix
     /// and ".gz" if it has one; for all formats it is the name that the files share.
     void reportGenerated(const QString& filename);
+
     void savingChanged();
     void progressChanged();
 
