@@ -54,7 +54,7 @@ QtObject {
         report.beginSection(tag, quantity.title)
         report.addAttribute("unit", quantity.unit)
         report.addAttribute("limit", quantity.limitText)
-        addPlot(tag, service)
+        addPlot(tag, qsTr("%1 of each sample").arg(quantity.title), service)
         report.beginTable(tag + "_samples", qsTr("Samples"))
         for (let i = 0; i < quantity.count; ++i)
             addValueRow("sample", qsTr("Sample %1").arg(i + 1), quantity, quantity.valueAt(i))
@@ -62,8 +62,8 @@ QtObject {
         report.endSection()
     }
 
-    function addPlot(tag, service) {
-        report.beginTable(tag + "_plot", qsTr("Plot"))
+    function addPlot(tag, title, service) {
+        report.beginTable(tag + "_plot", title)
         report.setKey("label", "plot")
         report.setKey("service", service)
         report.endTable()
