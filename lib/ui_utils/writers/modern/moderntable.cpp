@@ -19,7 +19,7 @@ constexpr int lettersUpright = 100;
 constexpr int mostOnSide = 12;
 constexpr int lettersOnSide = 175;
 /// A text of more characters gets a column of some width.
-constexpr int longText = 120;
+constexpr int longText = 60;
 /// A row's label of at most so many is not broken: it fits on a phone beside the cells.
 constexpr int longestFirmLabel = 14;
 
