@@ -20,6 +20,16 @@ bool isDirect(const QString& text)
     });
 }
 
+/// Readers of markup take white space in a value for blanks, unless it is escaped.
+QString escapedValue(const QString& value)
+{
+    QString escaped = markupText(value).toHtmlEscaped();
+    escaped.replace(QLatin1Char('\t'), QLatin1String("&#9;"));
+    escaped.replace(QLatin1Char('\n'), QLatin1String("&#10;"));
+    escaped.replace(QLatin1Char('\r'), QLatin1String("&#13;"));
+    return escaped;
+}
+
 } // namespace
 
 void beginLine(QXmlStreamWriter& writer, QString& output, int level)
@@ -30,28 +40,13 @@ void beginLine(QXmlStreamWriter& writer, QString& output, int level)
     output.append(deepest.constData(), 1 + 4 * qBound(0, level, 8));
 }
 
-void writeAttribute(QXmlStreamWriter& writer, QString& output, const QString& name, const QString& value)
+void appendAttribute(QString& output, const QString& name, const QString& value)
 {
-    if (!isDirect(value)) {
-        writer.writeAttribute(name, markupText(value));
-        return;
-    }
     output += QLatin1Char(' ');
     output += name;
     output += QLatin1String("=\"");
-    output += value;
+    output += isDirect(value) ? value : escapedValue(value);
     output += QLatin1Char('"');
-}
-
-void writeText(QXmlStreamWriter& writer, QString& output, const QString& text)
-{
-    if (!isDirect(text)) {
-        writer.writeCharacters(markupText(text));
-        return;
-    }
-    // Closes the open tag.
-    writer.writeCharacters(QString());
-    output += text;
 }
 
 void appendDirectText(QString& output, const QString& text)

@@ -11,11 +11,8 @@ namespace uiutils {
 /// element. Auto-formatting must be off.
 void beginLine(QXmlStreamWriter& writer, QString& output, int level);
 
-/// Writes an attribute of the element that was just started. `value` may contain anything; see markupText().
-void writeAttribute(QXmlStreamWriter& writer, QString& output, const QString& name, const QString& value);
-
-/// Writes text, which may contain anything; see markupText().
-void writeText(QXmlStreamWriter& writer, QString& output, const QString& text);
+/// Appends an attribute where a tag is open. `value` may contain anything, see markupText(); `name` is a name.
+void appendAttribute(QString& output, const QString& name, const QString& value);
 
 /// Appends text where no tag is open; it may contain anything, see markupText().
 void appendDirectText(QString& output, const QString& text);

@@ -165,7 +165,7 @@ void TemplateToXmlWriter::rowToXml(const QJsonObject& row)
     static const QString labelAttribute = keys::label;
     beginLine(m_xml, m_output, level);
     m_xml.writeStartElement(element);
-    uiutils::writeAttribute(m_xml, m_output, labelAttribute, uiutils::shownTextOf(row.value(keys::label)));
+    uiutils::appendAttribute(m_output, labelAttribute, uiutils::shownTextOf(row.value(keys::label)));
     bool hasCells = false;
     uiutils::forEachCell(row, [&](const QJsonObject& cell) {
         hasCells = true;
@@ -177,12 +177,19 @@ void TemplateToXmlWriter::rowToXml(const QJsonObject& row)
     m_xml.writeEndElement();
 }
 
+/// Without the stream writer, which would copy each word several times.
 void TemplateToXmlWriter::cellToXml(const QJsonObject& cell)
 {
-    startElement(uiutils::textOf(cell.value(keys::tag)), QStringLiteral("cell"));
+    static const QString nameless = QStringLiteral("cell");
+    const QString name = elementName(uiutils::textOf(cell.value(keys::tag)), nameless);
+    m_output += QLatin1Char('<');
+    m_output += name;
     writeAttributes(cell);
-    uiutils::writeText(m_xml, m_output, uiutils::shownTextOf(cell.value(keys::label)));
-    m_xml.writeEndElement();
+    m_output += QLatin1Char('>');
+    uiutils::appendDirectText(m_output, uiutils::shownTextOf(cell.value(keys::label)));
+    m_output += QLatin1String("</");
+    m_output += name;
+    m_output += QLatin1Char('>');
 }
 
 void TemplateToXmlWriter::writeTechInfo()
@@ -292,7 +299,7 @@ void TemplateToXmlWriter::writeAttributes(const QJsonObject& node)
     NodeReader(node).forEachAttribute([&](const QString& name, const QString& value) {
         const QString xml = name.isEmpty() ? namelessName : xmlName(name);
         if (xml == name)
-            uiutils::writeAttribute(m_xml, m_output, name, value);
+            uiutils::appendAttribute(m_output, name, value);
         else
             mapped.append({xml, value});
     });
@@ -306,6 +313,6 @@ void TemplateToXmlWriter::writeAttributes(const QJsonObject& node)
         if (written.contains(attribute.first))
             continue;
         written += attribute.first;
-        uiutils::writeAttribute(m_xml, m_output, attribute.first, attribute.second);
+        uiutils::appendAttribute(m_output, attribute.first, attribute.second);
     }
 }
