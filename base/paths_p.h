@@ -12,6 +12,9 @@ inline const QLatin1String usb("/mnt/usb/");
 inline const QLatin1String reports("/cust/public/reports/");
 /// Folder of the users' report settings.
 inline const QLatin1String reportSettings("/cust/private/lastconfigs/reportSettings/");
+/// Folder of what was measured and is not saved yet: a folder for each application, and in it one for each kind of
+/// draft.
+inline const QLatin1String drafts("/cust/private/drafts/");
 /// The reports that are not sent to the cloud, one path in each line.
 inline const QLatin1String noSyncList("/cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt");
 /// The instrument's viewer of PDF files, and its working folder.

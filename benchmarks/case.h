@@ -18,6 +18,7 @@ int printFirstFile();
 constexpr char wholeDocumentArgument[] = "whole-document";
 int writeWholeDocument();
 QVector<Result> plotCases(int runs);
+QVector<Result> livePlotCases(int runs);
 QVector<Result> textCases(int runs);
 QVector<Result> localCases(int runs);
 QVector<Result> pdfFileCases(int runs);

@@ -20,7 +20,7 @@ int main(int argc, char** argv)
     const bench::Options options
             = bench::readOptions(QStringLiteral("Measures the library against floors in the same run."),
                     {{"document", bench::documentCases}, {"html", bench::htmlCases}, {"pdf", bench::pdfCases},
-                            {"plot", bench::plotCases}, {"xml", bench::xmlCases}, {"text", bench::textCases},
+                            {"plot", bench::plotCases}, {"liveplot", bench::livePlotCases}, {"xml", bench::xmlCases}, {"text", bench::textCases},
                             {"binding", bench::bindingCases}, {"local", bench::localCases},
                             {"pdffile", bench::pdfFileCases}, {"report", bench::reportCases}});
     kiv::embedded::EmbeddedBackend backend;

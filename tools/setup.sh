@@ -16,10 +16,11 @@ build_packages=(
     qtbase5-dev qtbase5-private-dev
     qtdeclarative5-dev qtdeclarative5-private-dev qtdeclarative5-dev-tools
     libvalijson-dev libharfbuzz-dev libpodofo-dev libssl-dev libxml2-dev libpoppler-qt5-dev zlib1g-dev
-    libsystemd-dev
+    libsystemd-dev qttools5-dev-tools
     qml-module-qtquick2 qml-module-qtquick-window2 qml-module-qtquick-controls2
     qml-module-qtquick-layouts qml-module-qttest qml-module-qtqml-models2
     qml-module-qtqml-workerscript2
+    qtvirtualkeyboard-plugin qml-module-qtquick-virtualkeyboard qml-module-qt-labs-folderlistmodel
     fontconfig fonts-dejavu-core fonts-droid-fallback fonts-tlwg-loma-ttf fonts-lohit-deva
     fonts-naver-d2coding fonts-noto-color-emoji
 )
@@ -27,10 +28,10 @@ build_packages=(
 # What the tests start beside the programs of the tree: a bus, and readers that know nothing
 # of this library and so can judge the files it writes; help2man makes the manual pages that
 # are tested with the tools, doxygen the reference pages, and lupdate collects the texts for
-# translators.
+# translators. A display and a registry of accessible programs show what a screen reader finds.
 test_packages=(
     dbus poppler-utils mupdf-tools qpdf libxml2-utils tidy strace help2man doxygen python3 tzdata
-    qttools5-dev qttools5-dev-tools python3-dbus python3-gi
+    qttools5-dev python3-dbus python3-gi xvfb at-spi2-core
 )
 
 # What only "./check --long" needs: a browser that shows the pages. The checker of accessibility that

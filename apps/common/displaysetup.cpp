@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
+#include <QLibraryInfo>
 
 namespace uiutils::apps {
 
@@ -31,6 +32,17 @@ DisplaySetup::DisplaySetup()
     qputenv("QT_QPA_PLATFORM", platforms);
     if (platforms == "offscreen" && !isSet("QT_QUICK_BACKEND"))
         qputenv("QT_QUICK_BACKEND", "software");
+}
+
+void DisplaySetup::offerScreenKeyboard()
+{
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (isSet("QT_IM_MODULE") || platform == "offscreen" || platform == "minimal")
+        return;
+    const QString plugin = QLibraryInfo::location(QLibraryInfo::PluginsPath)
+            + QStringLiteral("/platforminputcontexts/libqtvirtualkeyboardplugin.so");
+    if (QFile::exists(plugin))
+        qputenv("QT_IM_MODULE", "qtvirtualkeyboard");
 }
 
 bool DisplaySetup::isOffScreen()

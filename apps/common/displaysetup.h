@@ -17,6 +17,10 @@ public:
     /// may not answer.
     static bool isOffScreen();
 
+    /// Lets Qt Virtual Keyboard, where it is installed, write into the fields of a window that somebody sees, unless
+    /// QT_IM_MODULE names another input method. Call it before the application object exists.
+    static void offerScreenKeyboard();
+
 private:
     void ensureRuntimeFolder();
 

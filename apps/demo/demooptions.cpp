@@ -41,7 +41,8 @@ DemoOptions readOptions(const QStringList& arguments)
     const QCommandLineOption follow(QStringLiteral("follow"),
             Texts::tr("Wait until another application changes the user's name, the services end and return; take a "
                       "picture of each and quit. Needs KIV_PLATFORM=bus."));
-    parser.addOptions(services.all() << samples << tour << follow);
+    const QCommandLineOption screen = apps::screenOption(QStringLiteral("1024x600@170"));
+    parser.addOptions(services.all() << samples << screen << tour << follow);
 
     const apps::CommandLine line = apps::parse(parser, arguments);
     if (line.outcome != apps::CommandLine::Run)
@@ -61,6 +62,11 @@ DemoOptions readOptions(const QStringList& arguments)
         return misused(Texts::tr("--samples needs a number from %1 to %2.")
                                .arg(LoopbackMeasurement::fewestSamples)
                                .arg(LoopbackMeasurement::mostSamples));
+    }
+    if (parser.isSet(screen)) {
+        const QString problem = apps::readScreen(parser.value(screen), &options.screen);
+        if (!problem.isEmpty())
+            return misused(problem);
     }
     options.root = services.root(parser);
     options.serviceFolders = services.folders(parser);

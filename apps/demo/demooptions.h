@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/commandline.h"
+#include "common/screen.h"
 
 #include <QString>
 #include <QStringList>
@@ -15,6 +16,8 @@ struct DemoOptions : apps::CommandLine
     QStringList serviceFolders;
     /// Samples of each quantity; 0 for the number in the settings.
     int samples = 0;
+    /// The screen of the instrument.
+    apps::Screen screen {{1024, 600}, 170};
     bool isTour = false;
     /// Watch what other processes do.
     bool isFollower = false;

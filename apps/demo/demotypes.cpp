@@ -1,13 +1,14 @@
 #include "demotypes.h"
 
-#include "itementry.h"
+#include "desk.h"
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
+#include "pendingitem.h"
+#include "picturefiles.h"
 #include "samplemodel.h"
 #include "screencamera.h"
 #include "usbstick.h"
 
-#include <QUrl>
 #include <QtQml>
 
 namespace uiutils::demo {
@@ -15,14 +16,15 @@ namespace uiutils::demo {
 void registerDemoTypes()
 {
     const char* const uri = "UiUtils.Demo";
-    qmlRegisterType<ItemEntry>(uri, 1, 0, "ItemEntry");
+    qmlRegisterType<Desk>(uri, 1, 0, "Desk");
     qmlRegisterType<LoopbackMeasurement>(uri, 1, 0, "LoopbackMeasurement");
     qmlRegisterType<LoopbackReport>(uri, 1, 0, "LoopbackReport");
+    qmlRegisterType<PendingItem>(uri, 1, 0, "PendingItem");
+    qmlRegisterType<PictureFiles>(uri, 1, 0, "PictureFiles");
     qmlRegisterType<ScreenCamera>(uri, 1, 0, "ScreenCamera");
     qmlRegisterType<UsbStick>(uri, 1, 0, "UsbStick");
     qmlRegisterUncreatableType<SampleModel>(
             uri, 1, 0, "SampleModel", QStringLiteral("A SampleModel comes from a LoopbackMeasurement"));
-    qmlRegisterSingletonType(QUrl(QStringLiteral("qrc:/uiutils/demo/Theme.qml")), uri, 1, 0, "Theme");
 }
 
 } // namespace uiutils::demo

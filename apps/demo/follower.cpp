@@ -17,7 +17,6 @@ namespace {
 
 /// Time in which services start, also on a machine with much to do.
 constexpr int patienceMs = 30 * 1000;
-constexpr int settingsPage = 3;
 const QString settingId = QStringLiteral(":config:basemgr:system:userInfo_lastName:");
 
 } // namespace
@@ -54,7 +53,7 @@ void Follower::begin()
     if (!m_setting || !m_setting->isReady())
         return;
     m_stage = WaitsForChange;
-    m_window->setProperty("page", settingsPage);
+    QMetaObject::invokeMethod(m_window, "open", Q_ARG(QVariant, QStringLiteral("people")));
     connect(m_setting, &KivData::valueChanged, this, &Follower::onValue);
     connect(m_setting, &KivData::isReadyChanged, this, &Follower::onReady);
     Q_EMIT noticed(tr("Following the user's name, \"%1\".").arg(m_setting->getValueString()));

@@ -4,12 +4,45 @@
 
 #include <QLocale>
 
+#include <cmath>
+#include <optional>
+
 namespace uiutils::demo {
+
+namespace {
+
+const QString startKey = QStringLiteral("startTime");
+const QString serverKey = QStringLiteral("server");
+const QString messageKey = QStringLiteral("messageBytes");
+const QString roundTripKey = QStringLiteral("roundTrip");
+const QString throughputKey = QStringLiteral("throughput");
+/// Of "address:port".
+constexpr int longestAddress = 64;
+
+/// The samples of a quantity; nothing if they cannot be those of a run.
+std::optional<QVector<double>> samplesIn(const QVariant& list)
+{
+    const QVariantList values = list.toList();
+    if (values.isEmpty() || values.size() > LoopbackMeasurement::mostSamples)
+        return {};
+    QVector<double> samples;
+    for (const QVariant& value : values) {
+        bool isNumber = false;
+        samples += value.toDouble(&isNumber);
+        if (!isNumber || !std::isfinite(samples.constLast()) || samples.constLast() < 0)
+            return {};
+    }
+    return samples;
+}
+
+} // namespace
 
 LoopbackMeasurement::LoopbackMeasurement(QObject* parent)
     : QObject(parent)
-    , m_roundTrip(tr("Round-trip time"), QStringLiteral("ms"), 3, {Limit::AtMost, maximumRoundTripMilliseconds}, this)
-    , m_throughput(tr("Throughput"), QStringLiteral("Mbit/s"), 0, {Limit::AtLeast, minimumThroughputMegabits}, this)
+    , m_roundTrip([] { return SampleModel::tr("Round-trip time"); }, QStringLiteral("ms"), 3,
+              {Limit::AtMost, maximumRoundTripMilliseconds}, this)
+    , m_throughput([] { return SampleModel::tr("Throughput"); }, QStringLiteral("Mbit/s"), 0,
+              {Limit::AtLeast, minimumThroughputMegabits}, this)
 {
     m_thread.setObjectName(QStringLiteral("loopback"));
     connect(&m_roundTrip, &SampleModel::statusChanged, this, &LoopbackMeasurement::statusChanged);
@@ -152,6 +185,37 @@ void LoopbackMeasurement::cancel()
         return;
     end(Cancelled);
     Q_EMIT cancelled();
+}
+
+QVariantMap LoopbackMeasurement::results() const
+{
+    if (m_state != Finished)
+        return {};
+    return {{startKey, startTime()}, {serverKey, m_serverAddress}, {messageKey, m_runSettings.messageBytes},
+            {roundTripKey, m_roundTrip.values()}, {throughputKey, m_throughput.values()}};
+}
+
+bool LoopbackMeasurement::restore(const QVariantMap& results)
+{
+    const QDateTime start = QDateTime::fromString(results.value(startKey).toString(), Qt::ISODate);
+    const std::optional<QVector<double>> roundTrip = samplesIn(results.value(roundTripKey));
+    const std::optional<QVector<double>> throughput = samplesIn(results.value(throughputKey));
+    if (isRunning() || !start.isValid() || !roundTrip || !throughput)
+        return false;
+    ++m_run;
+    m_startTime = start;
+    m_runSettings.roundTripSamples = roundTrip->size();
+    m_runSettings.throughputSamples = throughput->size();
+    m_runSettings.messageBytes = qBound(smallestMessage, results.value(messageKey).toInt(), largestMessage);
+    m_serverAddress = results.value(serverKey).toString().left(longestAddress);
+    m_errorText.clear();
+    m_roundTrip.setValues(*roundTrip);
+    m_throughput.setValues(*throughput);
+    Q_EMIT serverAddressChanged();
+    Q_EMIT progressChanged();
+    setState(Finished);
+    Q_EMIT finished();
+    return true;
 }
 
 void LoopbackMeasurement::listenTo(LoopbackProbe* probe)

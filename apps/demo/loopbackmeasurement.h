@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QObject>
 #include <QThread>
+#include <QVariantMap>
 
 namespace uiutils::demo {
 
@@ -91,6 +92,11 @@ public:
     Q_INVOKABLE void start();
     /// Ends the run at once and keeps the samples taken; does nothing without a run.
     Q_INVOKABLE void cancel();
+    /// The results of a finished run as plain values, for restore(); empty in any other state.
+    Q_INVOKABLE QVariantMap results() const;
+    /// Takes over the results of an earlier run, as if it had just finished; false, without a change, during a run and
+    /// for what results() cannot have given. Emits finished().
+    Q_INVOKABLE bool restore(const QVariantMap& results);
 
 Q_SIGNALS:
     void stateChanged();

@@ -1,6 +1,7 @@
 #include "loopbackreport.h"
 
 #include "files/diskpath.h"
+#include "languages/languages.h"
 #include "limit.h"
 #include "places.h"
 #include "report/nsreport.h"
@@ -35,9 +36,9 @@ QString logoUri()
     return QStringLiteral("data:image/png;base64,") + QString::fromLatin1(file.readAll().toBase64());
 }
 
-QMap<QString, QVariant> describe(const QString& name, const QString& type, const QString& label)
+QMap<QString, QVariant> describe(const QString& name, const QString& type)
 {
-    return {{QStringLiteral("name"), name}, {QStringLiteral("type"), type}, {QStringLiteral("label"), label}};
+    return {{QStringLiteral("name"), name}, {QStringLiteral("type"), type}};
 }
 
 } // namespace
@@ -62,20 +63,33 @@ LoopbackReport::LoopbackReport(QObject* parent)
 void LoopbackReport::addSettings()
 {
     auto* title = new StringUiData;
-    QMap<QString, QVariant> attributes = describe(titleSetting, UiData::TYPE_STRING, tr("Title on the report"));
+    QMap<QString, QVariant> attributes = describe(titleSetting, UiData::TYPE_STRING);
     attributes.insert(QStringLiteral("minRange"), 0);
     attributes.insert(QStringLiteral("maxRange"), longestTitle);
     title->setAttributes(attributes);
-    title->setValue(tr("TCP loopback test"));
     addSetting(title);
     auto* compression = new BoolUiData;
-    compression->setAttributes(describe(compressionSetting, UiData::TYPE_BOOL, tr("Compressed")));
+    compression->setAttributes(describe(compressionSetting, UiData::TYPE_BOOL));
     compression->setValue(false);
     addSetting(compression);
 
+    labelSettings(title, compression);
+    connect(Languages::instance(), &Languages::currentChanged, title,
+            [this, title, compression] { labelSettings(title, compression); });
     connect(title, &KivData::valueChanged, this, &LoopbackReport::takeSettings);
     connect(compression, &KivData::valueChanged, this, &LoopbackReport::takeSettings);
     takeSettings();
+}
+
+void LoopbackReport::labelSettings(UiData* title, UiData* compression)
+{
+    title->setLabel(tr("Title on the report"));
+    compression->setLabel(tr("Compressed"));
+    // A title that the user has typed stays.
+    const QString before = m_usualTitle;
+    m_usualTitle = tr("TCP loopback test");
+    if (title->getValue().toString() == before)
+        title->setValue(m_usualTitle);
 }
 
 void LoopbackReport::takeSettings()

@@ -62,12 +62,15 @@ protected:
 
 private:
     void addSettings();
+    void labelSettings(UiData* title, UiData* compression);
     void takeSettings();
     void proposeName();
     bool hasResults() const;
 
     QPointer<LoopbackMeasurement> m_measurement;
     QStringList m_savedFiles;
+    /// That of a report without another one, in the language of the application.
+    QString m_usualTitle;
 };
 
 } // namespace uiutils::demo

@@ -1,6 +1,7 @@
 #include "common/commandline.h"
 #include "common/complaint.h"
 #include "common/displaysetup.h"
+#include "common/screen.h"
 #include "demooptions.h"
 #include "demotypes.h"
 #include "follower.h"
@@ -44,9 +45,11 @@ void list(const QString& heading, const QStringList& files)
 }
 
 /// The main window, or null when its page cannot be loaded.
-QQuickWindow* openWindow(QQmlApplicationEngine& engine, LoopbackMeasurement* measurement)
+QQuickWindow* openWindow(QQmlApplicationEngine& engine, LoopbackMeasurement* measurement, const Screen& screen)
 {
-    engine.setInitialProperties({{QStringLiteral("measurement"), QVariant::fromValue(measurement)}});
+    useDensity(&engine, screen.dotsPerInch);
+    engine.setInitialProperties({{QStringLiteral("measurement"), QVariant::fromValue(measurement)},
+            {QStringLiteral("width"), screen.size.width()}, {QStringLiteral("height"), screen.size.height()}});
     engine.load(QUrl(QStringLiteral("qrc:/uiutils/demo/Main.qml")));
     return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
 }
@@ -100,7 +103,7 @@ int runDemo(const DemoOptions& options)
     publishResults(&measurement, [&host](const QString& name) { return host.ownService(name); });
     QQmlApplicationEngine engine;
     host.showTo(&engine);
-    QQuickWindow* const window = openWindow(engine, &measurement);
+    QQuickWindow* const window = openWindow(engine, &measurement, options.screen);
     if (!window)
         return complain(Texts::tr(
                 "The main page could not be loaded, for the reason given above. Check that the QML modules QtQuick, "
@@ -134,8 +137,9 @@ int main(int argc, char** argv)
         return *exitCode;
 
     // The library's notes for developers do not concern users, who may enable them by QT_LOGGING_RULES.
-    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\nqt.virtualkeyboard.hunspell=false"));
     const DisplaySetup display;
+    DisplaySetup::offerScreenKeyboard();
     const QGuiApplication application(argc, argv);
     return runDemo(options);
 }

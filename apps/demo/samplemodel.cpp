@@ -6,8 +6,7 @@
 
 namespace uiutils::demo {
 
-SampleModel::SampleModel(
-        const QString& title, const QString& unit, int mostDecimals, const Limit& limit, QObject* parent)
+SampleModel::SampleModel(Words title, const QString& unit, int mostDecimals, const Limit& limit, QObject* parent)
     : QAbstractListModel(parent)
     , m_title(title)
     , m_unit(unit)
@@ -101,13 +100,25 @@ void SampleModel::append(double value)
     Q_EMIT statusChanged();
 }
 
+QVariantList SampleModel::values() const
+{
+    QVariantList values;
+    for (const double sample : m_samples)
+        values += sample;
+    return values;
+}
+
 void SampleModel::clear()
 {
-    if (m_samples.isEmpty())
-        return;
+    if (!m_samples.isEmpty())
+        setValues({});
+}
+
+void SampleModel::setValues(const QVector<double>& samples)
+{
     beginResetModel();
-    m_samples.clear();
-    m_statistics = {};
+    m_samples = samples;
+    m_statistics = statisticsOf(samples);
     endResetModel();
     Q_EMIT samplesChanged();
     Q_EMIT statusChanged();

@@ -5,6 +5,7 @@
 
 #include <QAbstractListModel>
 #include <QString>
+#include <QVariantList>
 #include <QVector>
 
 namespace uiutils::demo {
@@ -33,14 +34,17 @@ class SampleModel : public QAbstractListModel
 public:
     enum Role { NumberRole = Qt::UserRole + 1, ValueRole, TextRole, StatusRole, StatusTextRole };
 
+    /// Requests a text in the language of the moment.
+    using Words = QString (*)();
+
     /// Texts show three significant digits, with at most `mostDecimals` of them after the point.
-    SampleModel(const QString& title, const QString& unit, int mostDecimals, const Limit& limit, QObject* parent);
+    SampleModel(Words title, const QString& unit, int mostDecimals, const Limit& limit, QObject* parent);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    QString title() const { return m_title; }
+    QString title() const { return m_title(); }
     QString unit() const { return m_unit; }
     int count() const { return m_samples.size(); }
     double minimum() const { return m_statistics.minimum; }
@@ -66,6 +70,10 @@ public:
     Q_INVOKABLE static QString statusText(int status);
 
     void append(double value);
+    /// All samples in their order.
+    QVariantList values() const;
+    /// Replaces all samples.
+    void setValues(const QVector<double>& samples);
     void clear();
 
 Q_SIGNALS:
@@ -74,7 +82,7 @@ Q_SIGNALS:
     void limitChanged();
 
 private:
-    const QString m_title;
+    const Words m_title;
     const QString m_unit;
     const int m_mostDecimals;
     Limit m_limit;

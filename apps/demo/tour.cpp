@@ -4,38 +4,75 @@
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
 #include "report/nsreport.h"
+#include "report/reportpreview.h"
 #include "savefile.h"
 #include "screencamera.h"
 
+#include <kiv/kivclientinterface.h>
+#include <kiv/kivclientitem.h>
 #include <kiv/kivnotificationmodelmanager.h>
 
-#include <QLocale>
 #include <QQuickItem>
 #include <QVariant>
 
+#include <memory>
 #include <utility>
 
 namespace uiutils::demo {
 
 namespace {
 
-/// Time in which any window that is being drawn gives a picture, in milliseconds.
-constexpr int picturePatience = 20000;
+/// Between two attempts at a step, in milliseconds.
+constexpr int pace = 15;
+/// Time in which any window that is being drawn comes to every step, in milliseconds.
+constexpr int patience = 30 * 1000;
 
 const QString formatSetting = QStringLiteral("reportFormat");
+const QString otherJob = QStringLiteral("WO-88217");
+const QString otherName = QStringLiteral("Solheim");
 
-/// The text of the open dialog; empty without one.
-QString openDialogText()
+/// What the tour changes in services.
+const char* const changedSettings[] = {":config:basemgr:system:userInfo_lastName:",
+        ":config:basemgr:system:customerInfo_name:", ":config:basemgr:system:customerInfo_address:",
+        ":config:basemgr:system:customerInfo_circuitID:", ":config:basemgr:system:customerInfo_contact:",
+        ":config:loopback:limits:maximumRtt:", ":config:unit:display:theme:", ":config:unit:display:language:",
+        ":config:workflow_manager_app:workflow_manager_reg_module:activeWorkOrderId:",
+        ":config:workflow_manager_app:workflow_manager_reg_module:activeWorkOrderWorkflowId:"};
+/// The job in hand: each value and the action that sets it.
+const struct
 {
-    const KIVNotification* const dialog = KIVNotificationModelManager::instance()->currentDialog();
-    return dialog ? dialog->msg() : QString();
+    const char* value;
+    const char* action;
+} jobValues[] = {{":result:basemgr:jobmanager:jobBAN:", ":action:basemgr:jobmanager:setJobBAN:"},
+        {":result:basemgr:jobmanager:jobTechnician:", ":action:basemgr:jobmanager:setJobTechnician:"},
+        {":result:basemgr:jobmanager:jobID:", ":action:basemgr:jobmanager:openJob:"}};
+
+/// Ends when the event loop would have to wait for a service.
+constexpr int serviceTimeout = 500;
+
+KIVClientInterface* clientOf(const QString& id)
+{
+    const QString service = id.section(QLatin1Char(':'), 2, 2);
+    return KIVClientInterface::getSessionBusClient(service == QLatin1String("workflow_manager_app")
+                    ? QStringLiteral("orb.base.workflow_manager_app")
+                    : service);
 }
 
-void closeDialogs()
+KIVClientItem* itemOf(const QString& id)
 {
-    KIVNotificationModelManager* const dialogs = KIVNotificationModelManager::instance();
-    while (dialogs->currentDialog())
-        dialogs->reject();
+    KIVClientInterface* const client = clientOf(id);
+    return client ? client->getItem(id) : nullptr;
+}
+
+bool isQuestionOpen()
+{
+    const KIVNotification* const dialog = KIVNotificationModelManager::instance()->currentDialog();
+    return dialog && dialog->kind() == KIVNotification::Request;
+}
+
+bool isAnyDialogOpen()
+{
+    return KIVNotificationModelManager::instance()->currentDialog();
 }
 
 } // namespace
@@ -47,11 +84,17 @@ Tour::Tour(QQuickWindow* window, LoopbackMeasurement* measurement, LoopbackRepor
     , m_report(report)
     , m_camera(camera)
     , m_folder(pictures)
+    , m_touch(window)
 {
+    m_clock.setInterval(pace);
+    connect(&m_clock, &QTimer::timeout, this, &Tour::step);
     m_patience.setSingleShot(true);
-    m_patience.setInterval(picturePatience);
-    connect(&m_patience, &QTimer::timeout, this,
-            [this] { fail(tr("The window was not drawn for %1 s. Keep it in sight.").arg(picturePatience / 1000)); });
+    m_patience.setInterval(patience);
+    connect(&m_patience, &QTimer::timeout, this, [this] {
+        fail(tr("The tour waited for %1 s in vain: %2. Keep the window in sight, and leave it alone.")
+                        .arg(patience / 1000)
+                        .arg(m_steps.isEmpty() ? QString() : m_steps.head().what));
+    });
 }
 
 void Tour::start()
@@ -61,83 +104,169 @@ void Tour::start()
         fail(error);
         return;
     }
-    connect(m_measurement, &LoopbackMeasurement::sampleTaken, this, &Tour::watchSamples);
-    connect(m_measurement, &LoopbackMeasurement::finished, this, &Tour::visitAll);
     connect(m_measurement, &LoopbackMeasurement::failed, this, &Tour::fail);
     connect(m_camera, &ScreenCamera::failed, this, &Tour::fail);
-    connect(m_measurement, &LoopbackMeasurement::cancelled, this,
-            [this] { fail(tr("The measurement was cancelled before the tour was over. Start the tour again.")); });
-    m_measurement->start();
-}
-
-void Tour::watchSamples()
-{
-    // The measure page during its work: half of the second quantity has been taken.
-    if (m_measurement->throughput()->count() == m_measurement->throughputSamples() / 2)
-        visit({MeasurePage, QStringLiteral("1-measuring")});
-}
-
-void Tour::visitAll()
-{
-    m_isMeasured = true;
-    visit({MeasurePage, QStringLiteral("2-measured")});
-    visit({ResultsPage, QStringLiteral("3-results"), &Tour::takeScreenshot});
-    visit({SettingsPage, QStringLiteral("4-changing"), &Tour::changeSettings});
-    visit({SettingsPage, QStringLiteral("5-settings"), &Tour::applySettings});
-    visit({ReportPage, QStringLiteral("6-report"), &Tour::saveReport});
-    visit({ReportPage, QStringLiteral("7-question"), &Tour::saveAgain});
-    visit({GalleryPage, QStringLiteral("8-entries"), &Tour::leaveQuestion});
-}
-
-void Tour::visit(const Stop& stop)
-{
-    m_stops.enqueue(stop);
-    if (!m_grab)
-        visitNext();
-}
-
-void Tour::visitNext()
-{
-    if (m_isOver)
-        return;
-    if (m_stops.isEmpty()) {
-        if (!m_isMeasured || !restoreSettings())
-            return;
-        m_isOver = true;
-        Q_EMIT finished();
-        return;
-    }
-    const Stop stop = m_stops.dequeue();
-    m_window->setProperty("page", stop.page);
-    if (!stop.deed || (this->*stop.deed)())
-        takePicture(stop.picture);
-}
-
-void Tour::takePicture(const QString& name)
-{
-    const QString path = m_folder + name + QStringLiteral(".png");
-    m_grab = m_window->contentItem()->grabToImage();
-    if (!m_grab) {
-        fail(tr("No picture of the window could be taken for %1. Run the demo without a display, with DISPLAY and "
-                "WAYLAND_DISPLAY unset.")
-                        .arg(path));
-        return;
-    }
+    remember();
+    plan();
     m_patience.start();
-    // Queued, because the result must outlive its own signal.
-    connect(
-            m_grab.data(), &QQuickItemGrabResult::ready, this, [this, path] { keepPicture(path); },
-            Qt::QueuedConnection);
+    m_clock.start();
 }
 
-void Tour::keepPicture(const QString& path)
+void Tour::plan()
 {
-    m_patience.stop();
-    const QByteArray bytes = pngOf(m_grab->image());
-    m_grab.clear();
-    if (m_isOver)
-        return;
+    planJob();
+    planRun();
+    planReport();
+    planRest();
+}
 
+void Tour::planJob()
+{
+    picture(QStringLiteral("01-home"));
+    press(QStringLiteral("peopleButton"));
+    type(QStringLiteral("userInfo_lastName/field"), otherName);
+    picture(QStringLiteral("02-people"));
+    press(QStringLiteral("home"));
+    press(QStringLiteral("jobsButton"));
+    type(QStringLiteral("jobSearch/searchField"), QStringLiteral("lin 1g"));
+    picture(QStringLiteral("03-jobs"));
+    press(QStringLiteral("job ") + otherJob);
+    waitFor(tr("the job is open"), [] {
+        const KIVClientItem* const job = itemOf(QStringLiteral(":result:basemgr:jobmanager:jobID:"));
+        return job && job->getValue().toString() == otherJob;
+    });
+    press(QStringLiteral("setup"));
+    press(QStringLiteral("maximumRtt/moreButton"));
+    picture(QStringLiteral("04-setup"));
+    press(QStringLiteral("reviewButton"));
+    picture(QStringLiteral("05-review"));
+    press(QStringLiteral("applyButton"));
+}
+
+void Tour::planRun()
+{
+    press(QStringLiteral("run"));
+    press(QStringLiteral("startButton"));
+    waitFor(tr("half of the run"),
+            [this] { return m_measurement->throughput()->count() >= m_measurement->throughputSamples() / 2; });
+    picture(QStringLiteral("06-running"));
+    waitFor(tr("the end of the run"), [this] { return m_measurement->state() == LoopbackMeasurement::Finished; });
+    picture(QStringLiteral("07-measured"));
+    press(QStringLiteral("results"));
+    press(QStringLiteral("orderChoice/#2"));
+    picture(QStringLiteral("08-results"));
+    press(QStringLiteral("failuresChoice/#1"));
+    picture(QStringLiteral("09-failures"));
+    press(QStringLiteral("failuresChoice/#0"));
+}
+
+void Tour::planReport()
+{
+    press(QStringLiteral("report"));
+    waitFor(tr("the format of all files"), [this] {
+        KivData* const format = m_report->getSetting(formatSetting);
+        m_formatBefore = format->getValue();
+        format->setValue(int(NSReport::REPORT_FORMAT_ALL));
+        return true;
+    });
+    picture(QStringLiteral("10-report"));
+    press(QStringLiteral("previewButton"));
+    waitFor(tr("the pages of the preview"), [this] {
+        const auto* const preview = m_window->findChild<ReportPreview*>();
+        return preview && !preview->isBusy() && preview->pageCount() > 0;
+    });
+    picture(QStringLiteral("11-preview"));
+    press(QStringLiteral("closeButton"));
+    press(QStringLiteral("saveButton"));
+    waitFor(tr("the report is saved"), [this] { return m_report->savedFiles().size() >= 5 && !m_report->isSaving(); });
+    press(QStringLiteral("saveButton"));
+    waitFor(tr("a question before files are overwritten"), isQuestionOpen);
+    picture(QStringLiteral("12-question"));
+    waitFor(tr("the answer"), [this] {
+        if (QQuickItem* const button = m_touch.find(QStringLiteral("rejectButton")); button && isAnyDialogOpen())
+            m_touch.press(button);
+        return !isAnyDialogOpen();
+    });
+}
+
+void Tour::planRest()
+{
+    press(QStringLiteral("files"));
+    picture(QStringLiteral("13-files"));
+    press(QStringLiteral("fileList/#0"));
+    picture(QStringLiteral("14-file"));
+    press(QStringLiteral("backButton"));
+    press(QStringLiteral("home"));
+    press(QStringLiteral("settingsTile"));
+    press(QStringLiteral("cameraButton"));
+    waitFor(tr("the screenshot"), [this] { return !m_camera->pictures().isEmpty(); });
+    press(QStringLiteral("themeChoice/#1"));
+    picture(QStringLiteral("15-settings"));
+    press(QStringLiteral("themeChoice/#2"));
+    picture(QStringLiteral("16-sunlight"));
+    press(QStringLiteral("themeChoice/#0"));
+    press(QStringLiteral("languageRow"));
+    press(QStringLiteral("language ar"));
+    press(QStringLiteral("home"));
+    picture(QStringLiteral("17-arabic"));
+    press(QStringLiteral("settingsTile"));
+    press(QStringLiteral("languageRow"));
+    press(QStringLiteral("language en"));
+    press(QStringLiteral("bellItem"));
+    picture(QStringLiteral("18-notifications"));
+    press(QStringLiteral("home"));
+    press(QStringLiteral("deskHandle"));
+    waitFor(tr("the drawer of the desk"), [this] {
+        const QObject* const drawer = m_window->findChild<QObject*>(QStringLiteral("deskDrawer"));
+        return drawer && drawer->property("opened").toBool();
+    });
+    picture(QStringLiteral("19-desk"));
+}
+
+void Tour::press(const QString& name)
+{
+    m_steps.enqueue({tr("\"%1\" can be pressed").arg(name), [this, name] {
+                         QQuickItem* const item = isAnyDialogOpen() ? nullptr : m_touch.find(name);
+                         if (item)
+                             m_touch.press(item);
+                         return item != nullptr;
+                     }});
+}
+
+void Tour::type(const QString& field, const QString& text)
+{
+    press(field);
+    m_steps.enqueue({tr("\"%1\" is typed").arg(text), [this, text] {
+                         m_touch.type(text);
+                         m_touch.key(Qt::Key_Return);
+                         return true;
+                     }});
+}
+
+void Tour::waitFor(const QString& what, const std::function<bool()>& condition)
+{
+    m_steps.enqueue({what, condition});
+}
+
+void Tour::picture(const QString& name)
+{
+    const auto grab = std::make_shared<QSharedPointer<QQuickItemGrabResult>>();
+    const auto isReady = std::make_shared<bool>(false);
+    const QString path = m_folder + name + QStringLiteral(".png");
+    // Nothing of the step before is pressed any more.
+    m_steps.enqueue({tr("a picture of the window can be taken"), [this, grab, isReady] {
+                         *grab = m_window->contentItem()->grabToImage();
+                         if (*grab)
+                             connect(grab->data(), &QQuickItemGrabResult::ready, this, [isReady] { *isReady = true; });
+                         return !grab->isNull();
+                     }});
+    m_steps.enqueue({tr("the picture %1").arg(path),
+            [this, grab, isReady, path] { return *isReady && keepPicture(path, *grab); }});
+}
+
+bool Tour::keepPicture(const QString& path, const QSharedPointer<QQuickItemGrabResult>& grab)
+{
+    const QByteArray bytes = pngOf(grab->image());
     QString error;
     if (bytes.isEmpty()) {
         fail(tr("The picture of the window for %1 is empty. Run the demo without a display, with DISPLAY and "
@@ -149,110 +278,63 @@ void Tour::keepPicture(const QString& path)
                      "--root."));
     } else {
         m_pictures += path;
-        visitNext();
+    }
+    return true;
+}
+
+void Tour::step()
+{
+    if (m_touch.isPressed()) {
+        m_touch.release();
+        return;
+    }
+    if (m_isOver)
+        return;
+    if (m_steps.isEmpty()) {
+        m_isOver = true;
+        m_clock.stop();
+        m_patience.stop();
+        restore();
+        Q_EMIT finished();
+        return;
+    }
+    if (!m_steps.head().attempt() || m_isOver)
+        return;
+    m_steps.dequeue();
+    m_patience.start();
+}
+
+void Tour::remember()
+{
+    for (const char* id : changedSettings) {
+        if (const KIVClientItem* const item = itemOf(QLatin1String(id)))
+            m_before.insert(QLatin1String(id), item->getValue());
+    }
+    for (const auto& job : jobValues) {
+        if (const KIVClientItem* const item = itemOf(QLatin1String(job.value)))
+            m_before.insert(QLatin1String(job.value), item->getValue());
     }
 }
 
-/// It is stored before the tour's own picture of the page, because windows give pictures in the order of the requests.
-bool Tour::takeScreenshot()
-{
-    m_camera->shoot(m_window);
-    return !m_isOver;
-}
-
-bool Tour::saveReport()
-{
-    KivData* const format = m_report->getSetting(formatSetting);
-    m_formatBefore = format->getValue();
-    format->setValue(int(NSReport::REPORT_FORMAT_ALL));
-    bool isSaved = false;
-    if (!pressSave(&isSaved))
-        return false;
-    if (!isSaved)
-        fail(tr("The report was not saved. %1").arg(openDialogText()));
-    return isSaved;
-}
-
-bool Tour::saveAgain()
-{
-    bool isSaved = false;
-    if (!pressSave(&isSaved))
-        return false;
-    const KIVNotification* const question = KIVNotificationModelManager::instance()->currentDialog();
-    if (!isSaved && question && question->kind() == KIVNotification::Request)
-        return true;
-    fail(tr("An existing report was saved again without a question."));
-    return false;
-}
-
-bool Tour::leaveQuestion()
-{
-    closeDialogs();
-    return true;
-}
-
-bool Tour::pressSave(bool* isSaved)
-{
-    QVariant saved;
-    if (!QMetaObject::invokeMethod(m_window, "saveReport", Q_RETURN_ARG(QVariant, saved)))
-        return failAsForeign();
-    *isSaved = saved.toBool();
-    return true;
-}
-
-bool Tour::changeSettings()
-{
-    return enter(QStringLiteral(":config:basemgr:system:userInfo_lastName:"), QStringLiteral("Solheim"))
-            && enter(QStringLiteral(":config:loopback:limits:maximumRtt:"), QLocale().toString(2));
-}
-
-bool Tour::applySettings()
-{
-    return doOnPage("applySettings");
-}
-
-bool Tour::restoreSettings()
+/// The tour is the user's guest.
+void Tour::restore()
 {
     if (m_formatBefore.isValid()) {
         m_report->getSetting(formatSetting)->setValue(std::exchange(m_formatBefore, {}));
         m_report->keepSettings();
     }
-    const QMap<QString, QString> before = std::exchange(m_before, {});
-    for (auto it = before.cbegin(); it != before.cend(); ++it) {
-        if (!enter(it.key(), it.value()))
-            return false;
+    const QMap<QString, QVariant> before = std::exchange(m_before, {});
+    for (const char* id : changedSettings) {
+        const auto value = before.constFind(QLatin1String(id));
+        if (value != before.cend() && clientOf(value.key()))
+            clientOf(value.key())->setItem(value.key(), *value);
     }
-    m_before.clear();
-    return before.isEmpty() || applySettings();
-}
-
-bool Tour::enter(const QString& setting, const QString& text)
-{
-    QVariant before;
-    if (!QMetaObject::invokeMethod(m_window, "enterSetting", Q_RETURN_ARG(QVariant, before), Q_ARG(QVariant, setting),
-                Q_ARG(QVariant, text)))
-        return failAsForeign();
-    // The user's own services may lack the setting.
-    if (before.isValid())
-        m_before.insert(setting, before.toString());
-    return true;
-}
-
-bool Tour::doOnPage(const char* function)
-{
-    QVariant problem;
-    if (!QMetaObject::invokeMethod(m_window, function, Q_RETURN_ARG(QVariant, problem)))
-        return failAsForeign();
-    if (problem.toString().isEmpty())
-        return true;
-    fail(problem.toString());
-    return false;
-}
-
-bool Tour::failAsForeign()
-{
-    fail(tr("The main page lacks what the tour uses; its QML files do not belong to this program. Install it again."));
-    return false;
+    for (const auto& job : jobValues) {
+        const QString value = before.value(QLatin1String(job.value)).toString();
+        QString reply;
+        if (!value.isEmpty())
+            clientOf(QLatin1String(job.action))->sendAction(QLatin1String(job.action), value, &reply, serviceTimeout);
+    }
 }
 
 void Tour::fail(const QString& text)
@@ -260,8 +342,9 @@ void Tour::fail(const QString& text)
     if (m_isOver)
         return;
     m_isOver = true;
+    m_clock.stop();
     m_patience.stop();
-    restoreSettings();
+    restore();
     Q_EMIT failed(text);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "touch.h"
+
 #include <QMap>
 #include <QObject>
 #include <QQueue>
@@ -9,15 +11,19 @@
 #include <QStringList>
 #include <QTimer>
 
+#include <functional>
+
 namespace uiutils::demo {
 
 class LoopbackMeasurement;
 class LoopbackReport;
 class ScreenCamera;
 
-/// Uses the demo the way a user does, by itself: measures, looks at each page, tries out settings, saves the report.
+/// Goes the road of a job by itself, with touches where a user would press: takes a job, changes the set-up, measures,
+/// looks at the results, saves the report, and looks at everything else. Takes pictures on the way.
 ///
-/// It owns none of its arguments. Pictures of the pages are written to a folder, completely or not at all.
+/// It owns none of its arguments. Pictures are written to a folder, completely or not at all. What it changes is
+/// restored, also after a failure.
 class Tour : public QObject
 {
     Q_OBJECT
@@ -39,38 +45,26 @@ Q_SIGNALS:
     void failed(const QString& text);
 
 private:
-    enum Page { MeasurePage, ResultsPage, ReportPage, SettingsPage, GalleryPage };
-
-    /// A page to show, the name of its picture, and what to do before the picture is taken; false on failure.
-    struct Stop
+    /// What is tried again and again until it returns true, and what it is for the user.
+    struct Step
     {
-        Page page;
-        QString picture;
-        bool (Tour::*deed)() = nullptr;
+        QString what;
+        std::function<bool()> attempt;
     };
 
-    void watchSamples();
-    void visitAll();
-    void visit(const Stop& stop);
-    void visitNext();
-    void takePicture(const QString& name);
-    void keepPicture(const QString& path);
-    bool takeScreenshot();
-    bool saveReport();
-    /// Saves again, which makes the demo ask a question.
-    bool saveAgain();
-    /// Answers no, and closes all other dialogs.
-    bool leaveQuestion();
-    bool changeSettings();
-    bool applySettings();
-    /// Restores the settings from before the tour; the tour is the user's guest.
-    bool restoreSettings();
-    bool enter(const QString& setting, const QString& text);
-    /// Calls a function of the main page that returns an error text.
-    bool doOnPage(const char* function);
-    /// Presses Save on the report page; false without such a page.
-    bool pressSave(bool* isSaved);
-    bool failAsForeign();
+    void plan();
+    void planJob();
+    void planRun();
+    void planReport();
+    void planRest();
+    void press(const QString& name);
+    void type(const QString& field, const QString& text);
+    void waitFor(const QString& what, const std::function<bool()>& condition);
+    void picture(const QString& name);
+    void step();
+    bool keepPicture(const QString& path, const QSharedPointer<QQuickItemGrabResult>& grab);
+    void remember();
+    void restore();
     void fail(const QString& text);
 
     QQuickWindow* const m_window;
@@ -78,17 +72,16 @@ private:
     LoopbackReport* const m_report;
     ScreenCamera* const m_camera;
     const QString m_folder;
+    Touch m_touch;
     QStringList m_pictures;
-    QQueue<Stop> m_stops;
-    /// The texts of the fields before the tour, by the settings' ids.
-    QMap<QString, QString> m_before;
-    /// The format that was selected before the tour; invalid until the tour saves.
+    QQueue<Step> m_steps;
+    /// The services' settings before the tour, by their ids.
+    QMap<QString, QVariant> m_before;
     QVariant m_formatBefore;
-    /// The picture being taken; null between pictures.
-    QSharedPointer<QQuickItemGrabResult> m_grab;
-    /// Runs while a picture is being taken.
+    /// Tries the first of the steps.
+    QTimer m_clock;
+    /// Runs out when a step cannot be done.
     QTimer m_patience;
-    bool m_isMeasured = false;
     bool m_isOver = false;
 };
 

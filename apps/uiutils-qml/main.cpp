@@ -1,6 +1,9 @@
 #include "options.h"
+#include "pageaudit.h"
 #include "pagewindow.h"
+#include "texts.h"
 
+#include "audit/screenaudit.h"
 #include "common/complaint.h"
 #include "common/displaysetup.h"
 #include "service/kivdata.h"
@@ -38,6 +41,27 @@ int list()
     return exitDone;
 }
 
+void finish(const QString& problem)
+{
+    QCoreApplication::exit(problem.isEmpty() ? exitDone : complain(problem));
+}
+
+int audit(QQmlEngine* engine, QQuickWindow* window, const Options& options)
+{
+    const QStringList complaints = qmltool::auditPage(engine, window, options.screen.dotsPerInch);
+    for (const QString& complaint : complaints)
+        std::printf("%s\n", qUtf8Printable(complaint));
+    return complaints.isEmpty() ? exitDone : exitFailed;
+}
+
+void work(QQmlEngine* engine, QQuickWindow* window, const Options& options)
+{
+    if (options.isAudit)
+        QCoreApplication::exit(audit(engine, window, options));
+    else
+        qmltool::takePicture(window, options.picture, finish);
+}
+
 int show(Host& host, const Options& options)
 {
     if (apps::DisplaySetup::isOffScreen())
@@ -49,14 +73,21 @@ int show(Host& host, const Options& options)
     QObject::connect(&engine, &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     QObject::connect(&engine, &QQmlEngine::exit, qApp, &QCoreApplication::exit, Qt::QueuedConnection);
 
-    const PageWindow page(&engine, options.page);
+    if (options.screen.dotsPerInch > 0)
+        apps::useDensity(&engine, options.screen.dotsPerInch);
+    if (options.isAudit)
+        audit::ScreenAudit::prepare();
+    const PageWindow page(&engine, options.page, options.screen.size);
     if (!page.window())
         return complain(page.error());
-    if (options.picture.isEmpty())
-        return QCoreApplication::exec();
-
-    qmltool::takePicture(page.window(), options.picture,
-            [](const QString& error) { QCoreApplication::exit(error.isEmpty() ? exitDone : complain(error)); });
+    if (options.isAudit || !options.picture.isEmpty()) {
+        qmltool::whenDrawn(page.window(), [&](const QString& problem) {
+            if (problem.isEmpty())
+                work(&engine, page.window(), options);
+            else
+                finish(problem);
+        });
+    }
     return QCoreApplication::exec();
 }
 
@@ -71,11 +102,15 @@ int main(int argc, char** argv)
         return *exitCode;
 
     // The library's notes for developers do not concern users, who may enable them by QT_LOGGING_RULES.
-    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false\nqml.debug=true"));
+    QLoggingCategory::setFilterRules(
+            QStringLiteral("default.debug=false\nqt.virtualkeyboard.hunspell=false\nqml.debug=true"));
     const apps::DisplaySetup display;
+    apps::DisplaySetup::offerScreenKeyboard();
     const QGuiApplication application(argc, argv);
     Host host;
     if (!host.start({options.serviceFolders, options.root}))
         return exitFailed;
+    if (!options.language.isEmpty() && !host.setLanguage(options.language))
+        return complain(qmltool::Texts::tr("There is no language \"%1\".").arg(options.language));
     return options.page.isEmpty() ? list() : show(host, options);
 }

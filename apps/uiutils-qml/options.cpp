@@ -22,6 +22,27 @@ QString description()
                      "Exit status: 0 done, 1 failed, 2 wrong command line.");
 }
 
+QCommandLineOption languageOption()
+{
+    return {QStringLiteral("language"),
+            Texts::tr("Show the page in the language of that code, such as \"de\"; \"pseudo\" is long English "
+                      "(default: the system's)."),
+            Texts::tr("code")};
+}
+
+Options chosen(const QCommandLineParser& parser, const apps::ServiceOptions& services)
+{
+    Options options;
+    options.page = parser.positionalArguments().value(0);
+    options.serviceFolders = services.folders(parser);
+    options.importFolders = parser.values(QStringLiteral("import"));
+    options.root = services.root(parser);
+    options.language = parser.value(QStringLiteral("language"));
+    options.picture = parser.value(QStringLiteral("grab"));
+    options.isAudit = parser.isSet(QStringLiteral("audit"));
+    return options;
+}
+
 } // namespace
 
 Options readOptions(const QStringList& arguments)
@@ -36,27 +57,35 @@ Options readOptions(const QStringList& arguments)
             Texts::tr("Look for further QML modules in <folder>; may be given more than once."), Texts::tr("folder"));
     const QCommandLineOption picture(QStringLiteral("grab"),
             Texts::tr("Write a picture of the page to <file> (PNG) and quit."), Texts::tr("file"));
+    const QCommandLineOption screen
+            = apps::screenOption(Texts::tr("the size of the page, at the density of this screen"));
+    const QCommandLineOption audit(QStringLiteral("audit"),
+            Texts::tr(
+                    "List what a technician could not touch or read on the page, in every theme, and quit: targets "
+                    "below 9 mm or too close together, small, cut, overlapping and faint texts. Exit status 1 if there "
+                    "is anything."));
     const QCommandLineOption list(QStringLiteral("list"),
             Texts::tr("List the items, one on each line: name in QML, type and value, separated by tabs. Needs no "
                       "page."));
-    parser.addOptions(services.all() << imports << picture << list);
+    const QCommandLineOption language = languageOption();
+    parser.addOptions(services.all() << imports << language << picture << screen << audit << list);
 
     const apps::CommandLine line = apps::parse(parser, arguments);
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);
-    const QString missing = apps::missingName(parser, services.all() << imports << picture);
+    const QString missing = apps::missingName(parser, services.all() << imports << language << picture);
     if (!missing.isEmpty())
         return misused(missing);
     const QStringList pages = parser.positionalArguments();
     if (parser.isSet(list) != pages.isEmpty() || pages.size() > 1 || pages.contains(QString()))
         return misused(parser.isSet(list) ? Texts::tr("--list takes no page.") : Texts::tr("Name one page to show."));
 
-    Options options;
-    options.page = pages.value(0);
-    options.serviceFolders = services.folders(parser);
-    options.importFolders = parser.values(imports);
-    options.root = services.root(parser);
-    options.picture = parser.value(picture);
+    Options options = chosen(parser, services);
+    if (parser.isSet(screen)) {
+        const QString problem = apps::readScreen(parser.value(screen), &options.screen);
+        if (!problem.isEmpty())
+            return misused(problem);
+    }
     return options;
 }
 

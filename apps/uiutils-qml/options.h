@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/commandline.h"
+#include "common/screen.h"
 
 #include <QString>
 #include <QStringList>
@@ -16,8 +17,14 @@ struct Options : apps::CommandLine
     QStringList importFolders;
     /// Absolute folder below which the instrument's paths lie.
     QString root;
+    /// The code of the language; empty for that of the system.
+    QString language;
     /// The picture to take of the page, or empty.
     QString picture;
+    /// Whether the page is judged instead of used.
+    bool isAudit = false;
+    /// The screen to imitate; without a size the page has its own.
+    apps::Screen screen;
 };
 
 /// Reads the arguments, the program's own name first. Needs a QCoreApplication and no display.

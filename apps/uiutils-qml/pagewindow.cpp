@@ -37,20 +37,9 @@ QString writePicture(const QImage& image, const QString& file)
     return writeFileDurably(file, bytes, &error) ? QString() : error;
 }
 
-void grab(QQuickWindow* window, const QString& file, const std::function<void(const QString&)>& done)
-{
-    const QSharedPointer<QQuickItemGrabResult> result = window->contentItem()->grabToImage();
-    if (!result)
-        return done(Texts::tr("No picture of the page could be taken for %1.").arg(file));
-    // Queued, because the result, which this holds, must outlive its own signal.
-    QObject::connect(
-            result.data(), &QQuickItemGrabResult::ready, window,
-            [result, file, done] { done(writePicture(result->image(), file)); }, Qt::QueuedConnection);
-}
-
 } // namespace
 
-PageWindow::PageWindow(QQmlEngine* engine, const QString& file)
+PageWindow::PageWindow(QQmlEngine* engine, const QString& file, const QSize& size)
     : m_component(engine)
 {
     if (!QFileInfo(file).isFile()) {
@@ -60,17 +49,19 @@ PageWindow::PageWindow(QQmlEngine* engine, const QString& file)
     m_component.loadUrl(QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()), QQmlComponent::PreferSynchronous);
     m_root.reset(m_component.create());
     if (m_root)
-        show(engine);
+        show(engine, size);
     else
         m_error = plainTextOf(m_component);
 }
 
 PageWindow::~PageWindow() = default;
 
-void PageWindow::show(QQmlEngine* engine)
+void PageWindow::show(QQmlEngine* engine, const QSize& size)
 {
     m_window = qobject_cast<QQuickWindow*>(m_root.get());
     if (m_window) {
+        if (!size.isEmpty())
+            m_window->resize(size);
         m_window->show();
         return;
     }
@@ -81,7 +72,9 @@ void PageWindow::show(QQmlEngine* engine)
     }
     auto view = std::make_unique<QQuickView>(engine, nullptr);
     view->setResizeMode(QQuickView::SizeRootObjectToView);
-    if (item->width() <= 0 || item->height() <= 0)
+    if (!size.isEmpty())
+        item->setSize(size);
+    else if (item->width() <= 0 || item->height() <= 0)
         item->setSize({1024, 600});
     // The view takes ownership of the page.
     view->setContent(m_component.url(), &m_component, m_root.release());
@@ -90,24 +83,35 @@ void PageWindow::show(QQmlEngine* engine)
     m_window->show();
 }
 
-void takePicture(QQuickWindow* window, const QString& file, const std::function<void(const QString&)>& done)
+void whenDrawn(QQuickWindow* window, const std::function<void(const QString&)>& go)
 {
     // The window has no size before the first frame.
     auto first = std::make_shared<QMetaObject::Connection>();
     *first = QObject::connect(
             window, &QQuickWindow::frameSwapped, window,
-            [window, file, done, first] {
+            [go, first] {
                 QObject::disconnect(*first);
-                grab(window, file, done);
+                go(QString());
             },
             Qt::QueuedConnection);
     // Time in which any window that is being drawn has been drawn.
     constexpr int patienceMs = 20000;
-    QTimer::singleShot(patienceMs, window, [file, done] {
-        done(Texts::tr("The page was not drawn in time for %1. Keep its window in sight, or unset DISPLAY and "
-                       "WAYLAND_DISPLAY.")
-                        .arg(file));
+    QTimer::singleShot(patienceMs, window, [go, first] {
+        if (QObject::disconnect(*first))
+            go(Texts::tr("The page was not drawn in time. Keep its window in sight, or unset DISPLAY and "
+                         "WAYLAND_DISPLAY."));
     });
+}
+
+void takePicture(QQuickWindow* window, const QString& file, const std::function<void(const QString&)>& done)
+{
+    const QSharedPointer<QQuickItemGrabResult> result = window->contentItem()->grabToImage();
+    if (!result)
+        return done(Texts::tr("No picture of the page could be taken for %1.").arg(file));
+    // Queued, because the result, which this holds, must outlive its own signal.
+    QObject::connect(
+            result.data(), &QQuickItemGrabResult::ready, window,
+            [result, file, done] { done(writePicture(result->image(), file)); }, Qt::QueuedConnection);
 }
 
 } // namespace uiutils::qmltool

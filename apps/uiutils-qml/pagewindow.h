@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QQmlComponent>
+#include <QSize>
 #include <QString>
 
 #include <functional>
@@ -16,8 +17,9 @@ namespace uiutils::qmltool {
 class PageWindow
 {
 public:
-    /// Loads the page. Without a window afterwards, error() says why.
-    PageWindow(QQmlEngine* engine, const QString& file);
+    /// Loads the page and shows it in `size`, or in its own size if that is empty. Without a window afterwards, error()
+    /// says why.
+    PageWindow(QQmlEngine* engine, const QString& file, const QSize& size);
     ~PageWindow();
     Q_DISABLE_COPY_MOVE(PageWindow)
 
@@ -25,7 +27,7 @@ public:
     QString error() const { return m_error; }
 
 private:
-    void show(QQmlEngine* engine);
+    void show(QQmlEngine* engine, const QSize& size);
 
     QQmlComponent m_component;
     std::unique_ptr<QObject> m_root;
@@ -35,8 +37,10 @@ private:
     QString m_error;
 };
 
-/// Takes a picture of the window when it has been drawn, writes it as PNG and calls `done` with the error, or an empty
-/// text.
+/// Calls `go` with an empty text when the window has been drawn, or with the reason why it is not.
+void whenDrawn(QQuickWindow* window, const std::function<void(const QString&)>& go);
+
+/// Takes a picture of a window that has been drawn, writes it as PNG and calls `done` with the error, or an empty text.
 void takePicture(QQuickWindow* window, const QString& file, const std::function<void(const QString&)>& done);
 
 } // namespace uiutils::qmltool

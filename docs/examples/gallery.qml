@@ -1,7 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
-import QtQuick.Window 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
@@ -13,19 +11,6 @@ Rectangle {
     // A local item of the right column: a text unless it says otherwise.
     component Field: UiData {
         type: "std::string"
-    }
-
-    // Otherwise the keyboard focus could leave the view.
-    function showFocus() {
-        const item = Window.activeFocusItem
-        let within = item
-        while (within && within !== columns)
-            within = within.parent
-        if (!within)
-            return
-        const top = item.mapToItem(columns, 0, 0).y
-        if (top < page.contentY || top + item.height + 40 > page.contentY + page.height)
-            page.contentY = Math.max(0, Math.min(top - page.height / 3, page.contentHeight - page.height))
     }
 
     width: 1024
@@ -64,20 +49,13 @@ Rectangle {
     Field { id: away; label: "Sensor"; value: "Probe 2"; isReady: false }
     Field { id: fixed; label: "Serial number"; value: "UT-000417"; readOnly: true }
 
-    Window.onActiveFocusItemChanged: showFocus()
+    ScreenKeyboard {}
 
-    Flickable {
-        id: page
+    ScrollArea {
         anchors.fill: parent
-        contentHeight: columns.height + 2 * ControlsStyle.margin
-        boundsBehavior: Flickable.StopAtBounds
-        ScrollBar.vertical: ScrollBar { policy: ScrollBar.AlwaysOn }
+        padding: ControlsStyle.margin
 
         RowLayout {
-            id: columns
-            x: ControlsStyle.margin
-            y: ControlsStyle.margin
-            width: page.width - 2 * ControlsStyle.margin - 8
             spacing: ControlsStyle.margin
 
             Repeater {
@@ -99,19 +77,17 @@ Rectangle {
                     Layout.alignment: Qt.AlignTop
                     implicitHeight: entries.implicitHeight + 2 * ControlsStyle.margin
                     radius: ControlsStyle.radius
-                    color: "#ffffff"
-                    border { width: 1; color: "#cfdae2" }
+                    color: ControlsStyle.card
+                    border { width: ControlsStyle.line; color: ControlsStyle.divider }
 
                     ColumnLayout {
                         id: entries
                         anchors { left: parent.left; right: parent.right; top: parent.top; margins: ControlsStyle.margin }
-                        spacing: 12
+                        spacing: ControlsStyle.touchGap
 
-                        Text {
+                        HeadingText {
+                            Layout.fillWidth: true
                             text: modelData.title
-                            textFormat: Text.PlainText
-                            color: ControlsStyle.text
-                            font { pixelSize: ControlsStyle.headingText; bold: true }
                         }
                         Repeater {
                             model: modelData.items

@@ -134,6 +134,8 @@ def module_pages(qmltypes, texts_of):
 
 QML_MEMBER = re.compile(
     r"    (?:default )?(readonly )?(?:property (\w+) (\w+)|signal (\w+)(\([^)]*\))?|function (\w+)(\([^)]*\)))")
+# Templates of Qt are imported as T.
+QML_ROOT = re.compile(r"^(?:T\.)?([A-Z]\w*) \{", re.M)
 
 
 def qml_members(lines):
@@ -154,11 +156,11 @@ def qml_members(lines):
 
 def control_page(name, folder, public):
     lines = (folder / f"{name}.qml").read_text(encoding="utf-8").split("\n")
-    root = next(at for at, line in enumerate(lines) if re.match(r"[A-Z]\w* \{", line))
+    root = next(at for at, line in enumerate(lines) if QML_ROOT.match(line))
     about = [line[4:] for line in lines[:root] if line.startswith("/// ")]
     if not about:
         raise Undescribed(f"{name}.qml has no text")
-    base = lines[root].split()[0]
+    base = QML_ROOT.match(lines[root]).group(1)
     members = list(qml_members(lines[root:]))
     of_base = base_text(base) if (folder / f"{base}.qml").exists() else f" It is a {base} of Qt."
     role = "`import UiUtils.Controls 1.0`." if name in public else "A base of the module's types. Pages do not create it."
@@ -167,7 +169,7 @@ def control_page(name, folder, public):
 
 
 def base_of(name, folder):
-    return re.search(r"^([A-Z]\w*) \{", (folder / f"{name}.qml").read_text(encoding="utf-8"), re.M).group(1)
+    return QML_ROOT.search((folder / f"{name}.qml").read_text(encoding="utf-8")).group(1)
 
 
 def controls_pages(folder):

@@ -1,11 +1,11 @@
 #include "ui_host/host.h"
 
 #include "base/root_p.h"
+#include "languages/languages.h"
 #include "module/modulepath.h"
 #include "service/manifest.h"
 #include "ui_host/images_p.h"
 #include "ui_host/serviceplatform_p.h"
-#include "ui_host/translations_p.h"
 #include "ui_host/viewerlink_p.h"
 
 #include <kiv/kivclientinterface.h>
@@ -42,12 +42,15 @@ QString tagOf(const QString& service)
 
 struct Host::Private
 {
-    ~Private() { qDeleteAll(manifests); }
+    ~Private()
+    {
+        qDeleteAll(manifests);
+        Languages::instance()->close();
+    }
 
     bool startPlatform(const HostSetup& setup);
     void add(const QString& service);
 
-    Translations translations;
     std::unique_ptr<ServicePlatform> platform;
     QMap<QString, Manifest*> manifests;
     ServicesByName byName;
@@ -91,7 +94,7 @@ bool Host::start(const HostSetup& setup)
     // The manifests are those of the platform that is there.
     if (d->platform)
         return false;
-    d->translations.install(setup.translationFolders);
+    Languages::instance()->open(setup.translationFolders);
     const HostSetup complete = ServicePlatform::completed(setup);
     const bool isUsable = useRoot(complete.root, &d->problems) && d->startPlatform(complete);
     if (isUsable) {
@@ -106,6 +109,11 @@ bool Host::start(const HostSetup& setup)
     return isUsable;
 }
 
+bool Host::setLanguage(const QString& code)
+{
+    return Languages::instance()->setCurrent(code);
+}
+
 QStringList Host::problems() const
 {
     return d->problems;
@@ -114,6 +122,7 @@ QStringList Host::problems() const
 void Host::showTo(QQmlEngine* engine)
 {
     d->engine = engine;
+    Languages::instance()->follow(engine);
     const QString modules = qmlImportPath();
     if (!modules.isEmpty())
         engine->addImportPath(modules);

@@ -51,7 +51,7 @@ public:
     /// Brings everything up; call it once, before the first page. A host that is up returns false and stays as it is.
     ///
     /// - The environment variable UIUTILS_ROOT becomes the root of the setup.
-    /// - Translations for the language of the default QLocale are installed: "uiutils_LANGUAGE.qm" and
+    /// - The language that suits the default QLocale best is chosen. Its translations are "uiutils_LANGUAGE.qm" and
     ///   "APPLICATION_LANGUAGE.qm", with the name of the application, from the installed folder
     ///   share/uiutils/translations and from those of the setup.
     /// - KIV_PLATFORM chooses the services. "embedded", the default: the described services live in this process.
@@ -65,6 +65,10 @@ public:
     /// bus cannot be reached, or there is no service at all. Everything that went wrong is printed on standard error,
     /// one line for each problem, and is in problems(), also when the result is true.
     [[nodiscard]] bool start(const HostSetup& setup = HostSetup());
+
+    /// Changes the language of everything, also of pages that are shown; call it after start(). Returns false, and
+    /// changes nothing, when there is no catalogue of that language. Languages has more about languages.
+    bool setLanguage(const QString& code);
 
     /// What went wrong in start(), in words for users, with places and reasons; for a file of services, the file, the
     /// place in it and the reason.

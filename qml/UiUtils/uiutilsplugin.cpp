@@ -1,3 +1,4 @@
+#include "languages/languages.h"
 #include "module/uiutilsmodule.h"
 
 #include <QQmlExtensionPlugin>
@@ -10,6 +11,8 @@ class UiUtilsPlugin final : public QQmlExtensionPlugin
 
 public:
     void registerTypes(const char* uri) override { uiutils::registerTypes(uri); }
+    /// Not only engines that ask for the languages show texts.
+    void initializeEngine(QQmlEngine* engine, const char*) override { uiutils::Languages::instance()->follow(engine); }
 };
 
 #include "uiutilsplugin.moc"

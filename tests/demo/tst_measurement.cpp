@@ -296,6 +296,35 @@ private Q_SLOTS:
         QCOMPARE(m_failed->count(), 1);
     }
 
+    /// What a draft has kept is another run's, and may be damaged.
+    void resultsAreRestored()
+    {
+        QVERIFY(m_measurement->results().isEmpty());
+        const QVariantMap results {{"startTime", "2026-01-31T14:25:00+01:00"}, {"server", "127.0.0.1:7"}, {"messageBytes", 100},
+                {"roundTrip", QVariantList {0.5, 0.25}}, {"throughput", QVariantList {2000}}};
+        const auto with = [&](const QString& key, const QVariant& value) {
+            QVariantMap changed = results;
+            changed.insert(key, value);
+            return changed;
+        };
+        QVariantList many;
+        for (int i = 0; i <= LoopbackMeasurement::mostSamples; ++i)
+            many += 1;
+        for (const QVariantMap& damaged : {QVariantMap(), with("startTime", "yesterday"), with("roundTrip", QVariantList()),
+                     with("roundTrip", many), with("throughput", QVariantList {-1}), with("throughput", QVariantList {qQNaN()}),
+                     with("throughput", QVariantList {"fast"})}) {
+            QVERIFY(!m_measurement->restore(damaged));
+            QCOMPARE(m_measurement->state(), LoopbackMeasurement::Idle);
+        }
+        QVERIFY(m_measurement->restore(results));
+        QCOMPARE(m_finished->count(), 1);
+        QCOMPARE(m_measurement->results(), results);
+        QCOMPARE(m_measurement->roundTrip()->median(), 0.375);
+        QCOMPARE(m_measurement->progress(), 1.0);
+        m_measurement->start();
+        QVERIFY(!m_measurement->restore(results));
+    }
+
     void destroyedInMidRun()
     {
         m_measurement->start();

@@ -1,14 +1,15 @@
 #include "columns.h"
 #include "files.h"
 
-#include "base/paths_p.h"
 #include "demotypes.h"
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
 #include "measurementsettings.h"
 #include "qmlwarnings.h"
+#include "report/nsreport.h"
 #include "screencamera.h"
 #include "service/kivdata.h"
+#include "touch.h"
 #include "ui_host/host.h"
 #include "usbstick.h"
 
@@ -23,7 +24,6 @@
 #include <QQuickWindow>
 #include <QTcpServer>
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -34,7 +34,9 @@ namespace {
 constexpr int longWait = 60000;
 
 const char* const lastName = ":config:basemgr:system:userInfo_lastName:";
-const char* const saveLocation = ":config:basemgr:system:saveLocation:";
+const char* const address = ":config:basemgr:system:customerInfo_address:";
+const char* const jobId = ":result:basemgr:jobmanager:jobID:";
+const char* const workOrder = ":config:workflow_manager_app:workflow_manager_reg_module:activeWorkOrderId:";
 const char* const roundTripLimit = ":config:loopback:limits:maximumRtt:";
 const char* const roundTripSamples = ":config:loopback:test:rttSamples:";
 
@@ -52,14 +54,9 @@ QString textOf(const QQuickItem* item)
     return item->property("text").toString();
 }
 
-/// Whether the item is in something that scrolls, where being cut off at an edge is not an error.
-bool isScrolled(const QQuickItem* item)
+KIVNotificationModelManager* notifications()
 {
-    for (; item; item = item->parentItem()) {
-        if (item->inherits("QQuickFlickable"))
-            return true;
-    }
-    return false;
+    return KIVNotificationModelManager::instance();
 }
 
 } // namespace
@@ -73,7 +70,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_root.isValid());
         qputenv("UIUTILS_ROOT", m_root.path().toLocal8Bit());
-        qputenv("QT_QUICK_CONTROLS_STYLE", "Default");
+        QGuiApplication::setQuitOnLastWindowClosed(false);
         registerDemoTypes();
     }
 
@@ -81,300 +78,298 @@ private Q_SLOTS:
     {
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
         m_settingsFolder = std::make_unique<QTemporaryDir>();
+        QDir(m_root.filePath("cust")).removeRecursively();
         startProgram();
     }
 
     void cleanup()
     {
-        QVERIFY(stick()->pull());
+        if (m_window->findChild<UsbStick*>())
+            QVERIFY(m_window->findChild<UsbStick*>()->pull());
         endProgram();
-        KIVNotificationModelManager::instance()->clear();
+        notifications()->clear();
         QCOMPARE(m_warnings.take(), QStringList());
     }
 
-    /// Measure, cancel, measure, look, save: all with keys. Without a measurement nothing can be saved.
+    /// Each page comes without a warning, with and without services, and is kept.
+    void everyPage_data()
+    {
+        addColumns<bool, QSize>();
+        QTest::newRow("with services") << true << QSize(1024, 600);
+        QTest::newRow("small, dark, Arabic") << true << QSize(800, 480);
+        QTest::newRow("without services") << false << QSize(1024, 600);
+    }
+
+    void everyPage()
+    {
+        const auto [hasServices, size] = currentRow<bool, QSize>();
+        if (!hasServices) {
+            endProgram();
+            m_serviceFolders.clear();
+            startProgram();
+            m_serviceFolders = QStringList(shippedServices);
+        }
+        m_window->resize(size);
+        if (size.height() < 600) {
+            setServed(":config:unit:display:theme:", 1);
+            setServed(":config:unit:display:language:", "ar");
+            QTRY_COMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
+        }
+        const QStringList names = m_window->property("pageNames").toStringList();
+        QVERIFY(names.size() >= 12);
+        for (const QString& name : names) {
+            if (!hasServices && name == "gallery")
+                continue;
+            QQuickItem* const page = open(name);
+            QVERIFY2(page && page->isVisible(), qPrintable(name));
+            QCOMPARE(open(name), page);
+            waitForFrame();
+        }
+        QTRY_COMPARE(m_window->color().lightness() < 100, size.height() < 600);
+        if (size.height() < 600) {
+            setServed(":config:unit:display:language:", "en");
+            QTRY_COMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+        }
+    }
+
+    /// Recent first, found by words; customer, work order and job manager agree afterwards.
+    void jobIsChosen()
+    {
+        press("jobsButton");
+        QCOMPARE(rowsOf("jobList").value(0), QString("WO-88213, Fjordside Clinic"));
+        QCOMPARE(rowsOf("jobList").size(), 5);
+        press("jobKind/#1");
+        QCOMPARE(find("jobList")->property("count").toInt(), 10);
+        press("jobSearch/searchField");
+        m_touch->type("museum");
+        QVERIFY(rowsOf("jobList").isEmpty());
+        m_touch->type("LIBRARY 1g");
+        QCOMPARE(rowsOf("jobList"), QStringList("WO-88102, Municipal Library"));
+        press("job WO-88102");
+        QCOMPARE(served(jobId), QVariant("WO-88102"));
+        QCOMPARE(served(":result:basemgr:jobmanager:jobBAN:"), QVariant("700 115 640"));
+        QCOMPARE(served(":result:basemgr:jobmanager:jobTechnician:"), QVariant("Ines Halvorsen"));
+        QCOMPARE(served(address), QVariant("15 Market Square"));
+        QCOMPARE(served(workOrder), QVariant("WO-88102"));
+        QVERIFY(isShown("Municipal Library"));
+        QVERIFY(find("jobItem"));
+    }
+
+    /// Nothing is changed, and the page says why; afterwards everything can be changed again.
+    void jobIsRefused()
+    {
+        service(address)->setRefusal(address, "The office has locked the address.");
+        open("jobs");
+        press("job WO-88217");
+        QTRY_VERIFY(isShownPart("The office has locked the address."));
+        QCOMPARE(served(jobId), QVariant("WO-88213"));
+        QCOMPARE(served(":config:basemgr:system:customerInfo_name:"), QVariant("Fjordside Clinic"));
+        QCOMPARE(served(workOrder), QVariant("WO-88213"));
+        service(address)->setRefusal(address, QString());
+
+        // A set-up that waits would be applied with the job.
+        open("setup");
+        press("maximumRtt/moreButton");
+        open("jobs");
+        press("job WO-88217");
+        QCOMPARE(served(jobId), QVariant("WO-88213"));
+        QVERIFY(isShownPart("Apply or revert the set-up first"));
+        open("setup");
+        press("revertButton");
+        open("jobs");
+        press("job WO-88217");
+        QCOMPARE(served(jobId), QVariant("WO-88217"));
+        QCOMPARE(served(roundTripLimit), QVariant(1.0));
+    }
+
+    /// Held back until it is applied after a review; what is reverted, refused or reported meanwhile is no change.
+    void setupIsReviewed()
+    {
+        open("setup");
+        QVERIFY(isOff("reviewButton"));
+        for (int i = 0; i < 2; ++i)
+            press("maximumRtt/moreButton");
+        press("rttSamples/moreButton");
+        QCOMPARE(served(roundTripLimit), QVariant(1.0));
+        press("reviewButton");
+        QTRY_VERIFY(isShown(QString::fromUtf8("1.000 ms \u2192 3.000 ms")) && isShown(QString::fromUtf8("40 \u2192 50")));
+        press("revertAllButton");
+        QTRY_VERIFY(isOff("reviewButton"));
+
+        press("maximumRtt/moreButton");
+        press("rttSamples/moreButton");
+        service(roundTripLimit)->setValue(roundTripLimit, 5);
+        QTRY_VERIFY(isShownPart("1 change"));
+        service(roundTripSamples)->setRefusal(roundTripSamples, "The samples are fixed.");
+        press("reviewButton");
+        press("applyButton");
+        QTRY_VERIFY(isShownPart("The samples are fixed."));
+        QCOMPARE(served(roundTripSamples), QVariant(40u));
+        service(roundTripSamples)->setRefusal(roundTripSamples, QString());
+        press("applyButton");
+        QCOMPARE(served(roundTripSamples), QVariant(50u));
+        QCOMPARE(served(roundTripLimit), QVariant(5.0));
+        QTRY_VERIFY(isOff("reviewButton"));
+    }
+
+    /// A run that fails says why; a figure that fails does so by word and colour, and is among the failures.
+    void resultsAreJudged()
+    {
+        open("run");
+        failToMeasure();
+        QVERIFY(isShown(m_measurement->errorText()));
+        m_measurement->setServerPort(0);
+        m_measurement->setPatience(longWait);
+        press("startButton");
+        QVERIFY(m_measurement->isRunning());
+        press("startButton");
+        QCOMPARE(m_measurement->state(), LoopbackMeasurement::Cancelled);
+        measure();
+        m_measurement->roundTrip()->setLimit(0);
+        waitForFrame();
+        QCOMPARE(shownTimes("Fail"), 2);
+        press("results");
+        const int count = m_measurement->roundTrip()->count();
+        QCOMPARE(find("sampleList")->property("count").toInt(), count);
+        press("failuresChoice/#1");
+        QCOMPARE(find("sampleList")->property("count").toInt(), count);
+        press("orderChoice/#2");
+        QCOMPARE(rowsOf("sampleList", "value").constFirst(), m_measurement->roundTrip()->text(m_measurement->roundTrip()->maximum()));
+        m_measurement->roundTrip()->setLimit(m_measurement->roundTrip()->median());
+        QVERIFY(find("sampleList")->property("count").toInt() <= count / 2);
+        press("quantityChoice/#1");
+        m_measurement->throughput()->setLimit(0);
+        QTRY_VERIFY(isShown("Nothing failed"));
+    }
+
+    /// Every file that a save of all formats would overwrite is named, and the answers are verbs.
+    void reportIsSaved()
+    {
+        measure();
+        open("report");
+        m_report->getSetting("reportFormat")->setValue(int(NSReport::REPORT_FORMAT_ALL));
+        press("saveButton");
+        QTRY_COMPARE(reports().size(), 5);
+        const QByteArray before = contentsOf(reports().constFirst());
+        for (const char* answer : {"rejectButton", "acceptButton"}) {
+            QTRY_VERIFY(!m_report->isSaving());
+            press("saveButton");
+            QTRY_VERIFY(notifications()->currentDialog());
+            for (const QString& file : reports())
+                QVERIFY2(isShownPart(QFileInfo(file).fileName()), qPrintable(file));
+            QCOMPARE(shownTimes("Keep"), 1);
+            QCOMPARE(shownTimes("Overwrite"), 1);
+            m_report->getSetting("reportTitle")->setValue("Another title");
+            // Keys and touches that arrive at once may have been meant for the page.
+            QTRY_VERIFY((tap(answer), !notifications()->currentDialog()));
+        }
+        QTRY_VERIFY(contentsOf(reports().constFirst()) != before);
+    }
+
+    /// Results that are not saved are offered at the next start, and are the same; saved ones are not offered.
+    void draftSurvives()
+    {
+        measure();
+        const QVariantMap results = m_measurement->results();
+        for (const bool isSaved : {false, true}) {
+            endProgram();
+            startProgram();
+            QTRY_VERIFY(find("discardButton"));
+            press("nextButton");
+            QCOMPARE(m_measurement->results(), results);
+            QVERIFY(!find("discardButton"));
+            if (isSaved)
+                QVERIFY(m_report->save());
+        }
+        endProgram();
+        startProgram();
+        waitForFrame();
+        QVERIFY(!find("discardButton"));
+    }
+
+    /// Record, sync, copy and deletion of one of the files.
+    void filesOfTheUnit()
+    {
+        measure();
+        QVERIFY(m_report->save());
+        UsbStick* const stick = m_window->findChild<UsbStick*>();
+        QVERIFY(stick && stick->plug());
+        open("files");
+        press("fileList/#0");
+        QTRY_VERIFY(isShown("Record"));
+        const QString list = m_root.filePath("cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt");
+        const bool wasSynced = !contentsOf(list).contains("loopback_");
+        press("syncButton");
+        QTRY_COMPARE(contentsOf(list).contains("loopback_"), wasSynced);
+        press("copyButton");
+        QTRY_COMPARE(namesIn(m_root.filePath("mnt/usb")).size(), 1);
+        press("deleteButton");
+        QTRY_VERIFY(notifications()->currentDialog());
+        QTRY_VERIFY((tap("acceptButton"), !notifications()->currentDialog()));
+        QTRY_VERIFY(reports().isEmpty() && isShown("Nothing is saved yet"));
+        press("filesKind/#1");
+        QTRY_COMPARE(find("fileList")->property("count").toInt(), 1);
+    }
+
+    /// What comes and goes by itself moves nothing that a user may be about to press.
+    void nothingMoves()
+    {
+        UsbStick* const stick = m_window->findChild<UsbStick*>();
+        for (const char* name : {"home", "setup", "report", "files", "people", "jobs"}) {
+            open(name);
+            waitForFrame();
+            const QMap<QQuickItem*, QRectF> before = places();
+            QVERIFY(before.size() > 5);
+            QVERIFY(stick->plug());
+            for (const char* service : {"basemgr", "loopback", "jobs", "unit"})
+                m_services->service(service)->setReachable(false);
+            waitForFrame();
+            const QMap<QQuickItem*, QRectF> during = places();
+            for (auto it = before.begin(); it != before.end(); ++it)
+                QVERIFY2(!during.contains(it.key()) || during[it.key()] == it.value(), qPrintable(QString(name) + ' ' + it.key()->objectName()));
+            for (const char* service : {"basemgr", "loopback", "jobs", "unit"})
+                m_services->service(service)->setReachable(true);
+            QVERIFY(stick->pull());
+        }
+    }
+
+    /// Writes fail while the disk is full, and the results are not lost.
+    void deskDrawer()
+    {
+        measure();
+        QTest::keyClick(m_window, Qt::Key_D, Qt::ControlModifier);
+        press("diskButton");
+        QVERIFY(!m_report->save());
+        QTRY_VERIFY(notifications()->currentDialog());
+        notifications()->reject();
+        QVERIFY(reports().isEmpty());
+        press("diskButton");
+        QVERIFY(m_report->save());
+        press("away loopback");
+        QVERIFY(!m_services->service("loopback")->isReachable());
+        press("away loopback");
+        QVERIFY(m_services->service("loopback")->isReachable());
+        press("batteryButton");
+        QCOMPARE(served(":result:unit:power:batteryLevel:"), QVariant(9u));
+        press("linkButton");
+        QCOMPARE(served(":result:unit:link:linkUp:"), QVariant(false));
+    }
+
+    /// All with keys: tabs, a page over another and back, a run.
     void keyboardReachesEverything()
     {
-        QVERIFY(!button("Save")->isEnabled());
+        QTest::keyClick(m_window, Qt::Key_3, Qt::ControlModifier);
+        focus("startButton");
         QTest::keyClick(m_window, Qt::Key_Space);
         QVERIFY(m_measurement->isRunning());
         QTest::keyClick(m_window, Qt::Key_Return);
         QCOMPARE(m_measurement->state(), LoopbackMeasurement::Cancelled);
-
-        QTest::keyClick(m_window, Qt::Key_Space);
-        QTRY_COMPARE_WITH_TIMEOUT(m_measurement->state(), LoopbackMeasurement::Finished, longWait);
-
-        QTest::keyClick(m_window, Qt::Key_3, Qt::ControlModifier);
-        QCOMPARE(m_window->property("page").toInt(), 2);
-        focusButton("Save");
-        QTest::keyClick(m_window, Qt::Key_Space);
-        QCOMPARE(m_report->savedFiles().size(), 1);
-        QVERIFY(QFile::exists(m_report->savedFiles().constFirst()));
-
-        // A question before the file is overwritten; the answer leads back to the page.
-        QTest::keyClick(m_window, Qt::Key_Space);
-        const KIVNotificationModelManager* const notifications = KIVNotificationModelManager::instance();
-        QVERIFY(notifications->currentDialog());
-        // Keys that arrive at once may have been meant for the page.
-        QTRY_VERIFY((QTest::keyClick(m_window, Qt::Key_Escape), !notifications->currentDialog()));
-        QTRY_VERIFY(button("Save")->hasActiveFocus());
-    }
-
-    void fingerChangesLimit()
-    {
-        SampleModel* const roundTrip = m_measurement->roundTrip();
-        QCOMPARE(roundTrip->limit(), LoopbackMeasurement::maximumRoundTripMilliseconds);
-        QQuickItem* const raise = button("+");
-        QVERIFY(raise->width() >= 44 && raise->height() >= 44);
-        click(raise);
-        QCOMPARE(roundTrip->limit(), 2 * LoopbackMeasurement::maximumRoundTripMilliseconds);
-        QCOMPARE(served(roundTripLimit), QVariant(roundTrip->limit()));
-    }
-
-    /// Typed text is held back across a change of the page, and reaches both services at once.
-    void settingsAreAppliedTogether()
-    {
-        QTest::keyClick(m_window, Qt::Key_4, Qt::ControlModifier);
-        type(lastName, "Berg");
-        type(roundTripLimit, "0.25");
-        QCOMPARE(served(lastName), QVariant("Halvorsen"));
-        QCOMPARE(m_measurement->roundTrip()->limit(), 1.0);
-        QCOMPARE(shownTimes("2 changes are not applied yet."), 1);
-
         QTest::keyClick(m_window, Qt::Key_1, Qt::ControlModifier);
-        QTest::keyClick(m_window, Qt::Key_4, Qt::ControlModifier);
-        QCOMPARE(textOf(fieldOf(lastName)), QString("Berg"));
-        QVERIFY(isChanged(roundTripLimit) && !isChanged(roundTripSamples));
-
-        press("Apply");
-        QCOMPARE(served(lastName), QVariant("Berg"));
-        QCOMPARE(served(roundTripLimit), QVariant(0.25));
-        QCOMPARE(m_measurement->roundTrip()->limit(), 0.25);
-        QCOMPARE(shownTimes("All settings are applied."), 1);
-        QVERIFY(!button("Apply")->isEnabled() && !button("Revert")->isEnabled());
-    }
-
-    /// Also after a field was changed twice, cannot be applied, or went back by itself.
-    void revertRestoresWhatTheServicesHold()
-    {
-        m_window->setProperty("page", 3);
-        type(lastName, "Berg");
-        type(roundTripSamples, "");
-        QTest::keyClick(m_window, Qt::Key_Backtab);
-        type(lastName, "Dahl");
-        fieldOf(saveLocation)->forceActiveFocus();
-        QTest::keyClick(m_window, Qt::Key_Down);
-        type(roundTripLimit, "5");
-        type(roundTripLimit, "1.000");
-        QVERIFY(!isChanged(roundTripLimit));
-        QVERIFY(isChanged(saveLocation));
-
-        press("Revert");
-        QCOMPARE(textOf(fieldOf(lastName)), QString("Halvorsen"));
-        QCOMPARE(textOf(fieldOf(roundTripSamples)), QString("40"));
-        QCOMPARE(shownTimes("All settings are applied."), 1);
-        type(roundTripSamples, "50");
-        press("Apply");
-        QCOMPARE(served(lastName), QVariant("Halvorsen"));
-        QCOMPARE(served(saveLocation), QVariant(0));
-        QCOMPARE(served(roundTripLimit), QVariant(1.0));
-        QCOMPARE(served(roundTripSamples), QVariant(50u));
-    }
-
-    void entries_data()
-    {
-        addColumns<QString, QString, QString, QVariant>();
-        const QString limit = roundTripLimit;
-        QTest::newRow("point") << limit << "en_US" << "0.25" << QVariant(0.25);
-        QTest::newRow("comma") << limit << "de_DE" << "0,25" << QVariant(0.25);
-        QTest::newRow("thousands without separators") << limit << "de_DE" << "1234,5" << QVariant(1234.5);
-        QTest::newRow("no number") << limit << "de_DE" << "" << QVariant();
-        QTest::newRow("too large") << limit << "en_US" << "20000" << QVariant();
-        QTest::newRow("whole number") << QString(roundTripSamples) << "de_DE" << "1500" << QVariant(1500u);
-        QTest::newRow("fewer than one") << QString(roundTripSamples) << "en_US" << "0" << QVariant();
-        QTest::newRow("text with a comma") << QString(lastName) << "de_DE" << "Berg, Ida" << QVariant("Berg, Ida");
-        QTest::newRow("letters beyond ASCII")
-                << QString(lastName) << "de_DE" << QString::fromUtf8("Sørensen") << QVariant(QString::fromUtf8("Sørensen"));
-        QTest::newRow("no name") << QString(lastName) << "en_US" << "" << QVariant("default");
-    }
-
-    /// An entry that is not acceptable blocks all others, until it is corrected.
-    void entries()
-    {
-        const auto [id, locale, typed, taken] = currentRow<QString, QString, QString, QVariant>();
-        endProgram();
-        QLocale::setDefault(QLocale(locale));
-        startProgram();
-        m_window->setProperty("page", 3);
-        const QVariant before = served(id);
-        const QString shown = textOf(fieldOf(id));
-        type(":config:basemgr:system:userInfo_techID:", "T-1");
-        type(id, typed);
-        QCOMPARE(textOf(fieldOf(id)), typed);
-        QCOMPARE(button("Apply")->isEnabled(), taken.isValid());
-        QCOMPARE(hasFailColor(id), !taken.isValid());
-        if (!taken.isValid()) {
-            QTest::keyClick(m_window, Qt::Key_Return);
-            QVERIFY(fieldOf(id)->hasActiveFocus());
-            type(id, shown);
-        }
-        press("Apply");
-        QCOMPARE(served(id), taken.isValid() ? taken : before);
-        QCOMPARE(served(":config:basemgr:system:userInfo_techID:"), QVariant("T-1"));
-    }
-
-    void rejectedSettingsAreExplained_data()
-    {
-        addColumns<QString, int>();
-        // In the bar, and at each setting that the reason may concern.
-        QTest::newRow("named") << "Last Name cannot be changed in the field." << 2;
-        QTest::newRow("not named") << "The roster is closed." << 3;
-    }
-
-    void rejectedSettingsAreExplained()
-    {
-        const auto [words, times] = currentRow<QString, int>();
-        service(lastName)->setRefusal(lastName, words);
-        m_window->setProperty("page", 3);
-        type(lastName, "Berg");
-        type(roundTripLimit, "2");
-        // At every attempt.
-        for (int i = 0; i < 2; ++i) {
-            press("Apply");
-            QCOMPARE(shownTimes("Nothing was set. " + words), times);
-            QVERIFY(isInSight(fieldOf(lastName)));
-            QCOMPARE(served(lastName), QVariant("Halvorsen"));
-            QCOMPARE(served(roundTripLimit), QVariant(1.0));
-            QVERIFY(isChanged(lastName) && isChanged(roundTripLimit));
-        }
-
-        service(lastName)->setRefusal(lastName, QString());
-        press("Apply");
-        QCOMPARE(served(lastName), QVariant("Berg"));
-        QCOMPARE(served(roundTripLimit), QVariant(2.0));
-        QCOMPARE(shownTimes("Nothing was set. " + words), 0);
-    }
-
-    /// The service decides about a setting; what it reports of other settings leaves the entry alone.
-    void settingsFollowTheService()
-    {
-        m_window->setProperty("page", 3);
-        type(lastName, "Berg");
-        type(roundTripSamples, "");
-        service(lastName)->setReady(lastName, false);
-        QVERIFY(!fieldOf(lastName)->isEnabled());
-        service(lastName)->setReady(lastName, true);
-        service(roundTripSamples)->setReady(roundTripSamples, false);
-        service(roundTripSamples)->setReady(roundTripSamples, true);
-        service(roundTripLimit)->setValue(roundTripLimit, 3);
-        QCOMPARE(textOf(fieldOf(lastName)), QString("Berg"));
-        QCOMPARE(textOf(fieldOf(roundTripSamples)), QString());
-        QCOMPARE(textOf(fieldOf(roundTripLimit)), QString("3.000"));
-        QVERIFY(isChanged(lastName) && !isChanged(roundTripLimit));
-
-        service(lastName)->setValue(lastName, "Dahl");
-        QCOMPARE(textOf(fieldOf(lastName)), QString("Dahl"));
-        QVERIFY(!isChanged(lastName));
-
-        // What is not applicable is hidden and blocks nothing.
-        service(roundTripSamples)->setApplicable(roundTripSamples, false);
-        QVERIFY(!fieldOf(roundTripSamples)->isVisible());
-        type(lastName, "Berg");
-        QVERIFY(button("Apply")->isEnabled());
-    }
-
-    /// The keyboard reaches all settings, and each is scrolled into view.
-    void keyboardReachesEverySetting()
-    {
-        m_window->setProperty("page", 3);
-        fieldOf(":config:basemgr:system:userInfo_firstName:")->forceActiveFocus();
-        int fields = 0;
-        for (; m_window->activeFocusItem()->inherits("QQuickTextField")
-                || m_window->activeFocusItem()->inherits("QQuickComboBox"); ++fields) {
-            const QQuickItem* field = m_window->activeFocusItem();
-            waitForFrame();
-            QVERIFY(isInSight(field));
-            QTest::keyClick(m_window, Qt::Key_Tab);
-        }
-        QCOMPARE(fields, 14);
-    }
-
-    void fingerChooses()
-    {
-        service(saveLocation)->setChoices(saveLocation,
-                {{0, "Internal", "Internal", true}, {1, "Usb", "USB", false}, {2, "Both", "Internal and USB", true}});
-        m_window->setProperty("page", 3);
-        fieldOf(saveLocation)->forceActiveFocus();
-        waitForFrame();
-        click(fieldOf(saveLocation));
-        waitForFrame();
-        const auto choice = [this](const QString& label) {
-            return firstItem([&](const QQuickItem* item) {
-                return item->inherits("QQuickItemDelegate") && textOf(item) == label;
-            });
-        };
-        QVERIFY(choice("USB")->height() >= 44);
-        // A choice that is not applicable now cannot be selected.
-        click(choice("USB"));
-        QVERIFY(!isChanged(saveLocation));
-        click(choice("Internal and USB"));
-        QVERIFY(isChanged(saveLocation));
-        press("Apply");
-        QCOMPARE(served(saveLocation), QVariant(2));
-    }
-
-    /// The page works without services that the user's own folder lacks.
-    void noServicesNoSettings()
-    {
-        endProgram();
-        m_serviceFolders.clear();
-        startProgram();
-        m_serviceFolders = QStringList(shippedServices);
-        m_window->setProperty("page", 3);
-        QCOMPARE(shownTimes("There are no settings, because the services basemgr and loopback are not published."), 1);
-    }
-
-    /// The keys of the list, and the position after each.
-    void savedReportsByKeys()
-    {
-        const QString folder = "/cust/public/reports/loopback/";
-        removeReports();
-        QFile::remove(m_root.filePath("base/bin/pdf_viewer"));
-        m_window->setProperty("page", 2);
-        put(folder + "a.pdf", "a report");
-        Q_EMIT m_report->reportFilesChanged();
-        QTRY_VERIFY(button("Delete")->isVisible() && !button("Open")->isVisible());
-        for (const char* name : {"b.txt", "c.txt"})
-            put(folder + name, "a report");
-        // Prints that it was started.
-        put("/base/bin/pdf_viewer", "#!/bin/sh\ntouch shown\n");
-        QVERIFY(QFile(m_root.filePath("base/bin/pdf_viewer")).setPermissions(QFile::ReadOwner | QFile::ExeOwner));
-        QVERIFY(QDir(m_root.path()).mkpath("base/qml/pdf_viewer"));
-        Q_EMIT m_report->reportFilesChanged();
-        const QQuickItem* const list = named("reportList");
-        QTRY_COMPARE(list->property("count").toInt(), 3);
-        for (int i = 0; i < 20 && !list->hasActiveFocus(); ++i)
-            QTest::keyClick(m_window, Qt::Key_Tab);
-
-        // Files may have the same time; the one that can be opened is somewhere in the list.
-        while (!button("Open")->isVisible() && list->property("currentIndex").toInt() < 2) {
-            QTest::keyClick(m_window, Qt::Key_Return);
-            QTest::keyClick(m_window, Qt::Key_Down);
-        }
+        focus("peopleButton");
         QTest::keyClick(m_window, Qt::Key_Return);
-        QTRY_VERIFY(QFile::exists(m_root.filePath("base/qml/pdf_viewer/shown")));
-
-        for (int i = 0; i < 3; ++i)
-            QTest::keyClick(m_window, Qt::Key_Up);
-        QTest::keyClick(m_window, Qt::Key_Down);
-        QTest::keyClick(m_window, Qt::Key_Delete);
-        KIVNotificationModelManager* const notifications = KIVNotificationModelManager::instance();
-        QVERIFY(notifications->currentDialog());
-        QCOMPARE(notifications->currentDialog()->longLabel(), QString("Delete File"));
-        notifications->accept();
-        QTRY_COMPARE(list->property("count").toInt(), 2);
-        QTRY_COMPARE(list->property("currentIndex").toInt(), 1);
-        QTRY_VERIFY(list->hasActiveFocus());
+        QVERIFY(find("peopleTabs"));
+        QTest::keyClick(m_window, Qt::Key_Escape);
+        QVERIFY(find("peopleButton"));
     }
 
     void screenshotsHaveNamesOfTheirOwn()
@@ -384,99 +379,57 @@ private Q_SLOTS:
         for (const char* taken : {".png", "_2.png"})
             put("/cust/public/screenshots/" + name + taken, "a picture");
         QCOMPARE(ScreenCamera::freeBaseName("20260131-142500"), name + "_3");
-        QVERIFY(QDir(m_root.filePath("cust/public/screenshots")).removeRecursively());
     }
 
-    /// With its dialogs, under a name of its own, and with one notification.
+    /// With its dialogs, under a name of its own, and with one notification; each is among the files.
     void screenshots()
     {
-        KIVNotificationModelManager* const notifications = KIVNotificationModelManager::instance();
         const QString folder = m_root.filePath("cust/public/screenshots");
         put("/cust/public/screenshots", "no folder");
         QTest::keyClick(m_window, Qt::Key_P, Qt::ControlModifier);
-        QTRY_VERIFY(notifications->currentDialog());
-        QCOMPARE(notifications->currentDialog()->longLabel(), QString("Write Error"));
-        QCOMPARE(notifications->count(), 1);
+        QTRY_VERIFY(notifications()->currentDialog());
+        QCOMPARE(notifications()->currentDialog()->longLabel(), QString("Write Error"));
+        QCOMPARE(notifications()->count(), 1);
         QVERIFY(QFile::remove(folder));
-
         waitForFrame();
         for (int taken = 1; taken <= 2; ++taken) {
             QTest::keyClick(m_window, Qt::Key_Print);
-            QTRY_COMPARE(notifications->count(), 1 + taken);
+            QTRY_COMPARE(notifications()->count(), 1 + taken);
         }
-        const QStringList names = namesIn(folder);
-        QCOMPARE(names.size(), 2);
-        for (const QString& name : names) {
+        QCOMPARE(namesIn(folder).size(), 2);
+        for (const QString& name : namesIn(folder)) {
             // The page below the open dialog is dimmed.
             QVERIFY(QImage(folder + '/' + name).pixelColor(2, 300).lightness() < 200);
             QVERIFY(QFile::exists(m_root.filePath("cust/private/screenshots/metadata/" + name + ".metadata")));
         }
-        notifications->reject();
-        QTRY_VERIFY((QTest::keyClick(m_window, Qt::Key_Escape), !notifications->currentDialog()));
+        QTRY_VERIFY((QTest::keyClick(m_window, Qt::Key_Escape), !notifications()->currentDialog()));
+        open("files");
+        press("filesKind/#2");
+        press("pictureList/#0");
+        press("deletePictureButton");
+        QTRY_VERIFY((tap("acceptButton"), !notifications()->currentDialog()));
+        QTRY_COMPARE(namesIn(folder).size(), 1);
+        QCOMPARE(namesIn(m_root.filePath("cust/private/screenshots/metadata")).size(), 1);
     }
 
     /// The report comes first, then the error.
     void windowClosesOnceSaved()
     {
-        QGuiApplication::setQuitOnLastWindowClosed(false);
+        measure();
         connect(m_report, &Report::savingChanged, this, [this] {
             if (m_report->isSaving())
-                QVERIFY(!m_window->close() && m_window->findChild<QObject*>("saveProgress")->property("visible").toBool());
+                QVERIFY(!m_window->close());
         });
         for (const bool isWritten : {false, true}) {
-            removeReports();
+            QDir(m_root.filePath("cust/public")).removeRecursively();
             if (!isWritten)
                 put("/cust/public/reports", "no folder");
             QCOMPARE(m_report->save(), isWritten);
             QVERIFY(m_window->isVisible());
             QCoreApplication::processEvents();
             QTRY_COMPARE(m_window->isVisible(), !isWritten);
-            KIVNotificationModelManager::instance()->reject();
+            notifications()->reject();
             QVERIFY(isWritten || QFile::remove(m_root.filePath("cust/public/reports")));
-        }
-    }
-
-    /// No text is cut off, outside the window or over a neighbouring card, in any state of a page. Controls show no
-    /// markup either.
-    void textsFit_data()
-    {
-        addColumns<QString, QSize>();
-        for (const char* state : {"idle", "failed", "finished", "marginal", "with a USB drive"}) {
-            QTest::addRow("%s, instrument", state) << state << QSize(1024, 600);
-            QTest::addRow("%s, smallest", state) << state << QSize(880, 540);
-        }
-    }
-
-    void textsFit()
-    {
-        const auto [state, size] = currentRow<QString, QSize>();
-        m_window->resize(size);
-        if (state == "failed")
-            failToMeasure();
-        else if (state != "idle") {
-            measure();
-            // The widest texts, whatever this machine measures under its present load.
-            for (const double factor : {1.0, 1.5}) {
-                m_measurement->roundTrip()->append(6789 * factor);
-                m_measurement->throughput()->append((state == "marginal" ? 65432 : 123456) * factor);
-            }
-        }
-        if (state == "marginal") {
-            for (SampleModel* quantity : {m_measurement->roundTrip(), m_measurement->throughput()})
-                quantity->setLimit(quantity->median());
-            QVERIFY(QMetaObject::invokeMethod(m_window, "saveReport"));
-        }
-        if (state == "with a USB drive")
-            saveOnBoth();
-        for (int page = 0; page <= 4; ++page) {
-            m_window->setProperty("page", page);
-            waitForFrame();
-            const QList<QQuickItem*> texts = shownTexts();
-            QVERIFY(!texts.isEmpty());
-            for (const QQuickItem* text : texts) {
-                QVERIFY2(text->property("textFormat").toInt() == Qt::PlainText, qPrintable(textOf(text)));
-                checkFits(text);
-            }
         }
     }
 
@@ -502,10 +455,13 @@ private:
         QVERIFY(!m_engine->rootObjects().isEmpty());
         m_window = qobject_cast<QQuickWindow*>(m_engine->rootObjects().constFirst());
         QVERIFY(m_window);
+        m_touch = std::make_unique<Touch>(m_window);
         m_report = m_window->property("report").value<LoopbackReport*>();
         QVERIFY(m_report);
         m_window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(m_window, longWait));
+        // What comes after the first frame.
+        QTRY_VERIFY(m_window->findChild<QObject*>("deskDrawer"));
     }
 
     void endProgram()
@@ -519,103 +475,114 @@ private:
 
     /// Files of the instrument.
     void put(const QString& path, const QByteArray& contents) { writeFile(m_root.path() + path, contents); }
-    void removeReports()
+    QStringList reports() const
     {
-        QVERIFY(QDir(m_root.filePath("cust/public/reports")).removeRecursively());
-        Q_EMIT m_report->reportFilesChanged();
+        const QDir folder(m_root.filePath("cust/public/reports/loopback"));
+        QStringList paths;
+        for (const QString& name : folder.entryList(QDir::Files))
+            paths += folder.filePath(name);
+        return paths;
     }
 
     kiv::embedded::EmbeddedService* service(const QString& id) const
     {
-        return m_services->service(id.section(':', 2, 2));
+        const QString name = id.section(':', 2, 2);
+        return m_services->service(name == "workflow_manager_app" ? "orb.base." + name : name);
     }
 
     /// The service's value.
     QVariant served(const QString& id) const { return service(id)->item(id)->getValue(); }
+    void setServed(const QString& id, const QVariant& value) { service(id)->setValue(id, value); }
 
-    /// The row of a setting on the settings page.
-    QQuickItem* rowOf(const QString& id) const
+    QQuickItem* open(const QString& name)
     {
-        return firstItem([&](const QQuickItem* item) {
-            const auto* data = item->property("item").value<KivData*>();
-            return data && data->getId() == id && item->property("changed").isValid();
-        });
+        QVariant page;
+        QMetaObject::invokeMethod(m_window, "open", Q_RETURN_ARG(QVariant, page), Q_ARG(QVariant, name));
+        return page.value<QQuickItem*>();
     }
 
-    /// The control in that row.
-    QQuickItem* fieldOf(const QString& id) const
+    /// What a user sees of that name, enabled or not.
+    QQuickItem* find(const QString& name) const
     {
-        const QList<QQuickItem*> items = itemsBelow(rowOf(id));
-        const auto isControl = [](const QQuickItem* item) {
-            return item->inherits("QQuickTextField") || item->inherits("QQuickComboBox");
-        };
-        return *std::find_if(items.begin(), items.end(), isControl);
+        QQuickItem* found = nullptr;
+        for (QQuickItem* item : itemsBelow(m_window->contentItem())) {
+            if (item->objectName() == name && item->isVisible())
+                found = item;
+        }
+        return found;
     }
 
-    bool isChanged(const QString& id) const { return rowOf(id)->property("changed").toBool(); }
-
-    /// Whether the permitted values are shown as a warning.
-    bool hasFailColor(const QString& id) const
+    bool isOff(const QString& name) const
     {
-        const QList<QQuickItem*> items = itemsBelow(rowOf(id));
-        return std::any_of(items.begin(), items.end(), [](const QQuickItem* item) {
-            return item->inherits("QQuickText") && !textOf(item).isEmpty()
-                    && item->property("color").value<QColor>() == QColor("#b3261e");
-        });
+        const QQuickItem* const item = find(name);
+        return item && !item->isEnabled();
     }
 
-    /// Whether the settings page is scrolled so that the complete item is visible.
-    bool isInSight(const QQuickItem* item) const
+    bool tap(const QString& path)
     {
-        const auto* view = firstItem([](const QQuickItem* candidate) {
-            return candidate->isVisible() && candidate->inherits("QQuickFlickable")
-                    && candidate->property("contentHeight").toReal() > candidate->height();
-        });
-        const QRectF sight = view->mapRectToScene(QRectF(0, 0, view->width(), view->height()));
-        return sight.contains(item->mapRectToScene(QRectF(0, 0, item->width(), item->height())));
+        QQuickItem* const item = m_touch->find(path);
+        if (!item)
+            return false;
+        m_touch->press(item);
+        m_touch->release();
+        QCoreApplication::processEvents();
+        return true;
     }
 
-    void type(const QString& id, const QString& text)
+    void press(const QString& path)
     {
-        QQuickItem* const field = fieldOf(id);
-        field->forceActiveFocus();
-        QVERIFY(QMetaObject::invokeMethod(field, "selectAll"));
-        QTest::keyClick(m_window, Qt::Key_Delete);
-        for (const QChar letter : text)
-            QTest::sendKeyEvent(QTest::Click, m_window, Qt::Key_unknown, letter, Qt::NoModifier);
+        // The macro looks once more after the success.
+        bool isPressed = false;
+        QTRY_VERIFY2_WITH_TIMEOUT(isPressed || (isPressed = tap(path)), qPrintable(path), longWait);
     }
 
-    void press(const QString& words)
+    QStringList shownTexts() const
     {
-        focusButton(words);
-        QTest::keyClick(m_window, Qt::Key_Space);
+        QStringList texts;
+        for (const QQuickItem* item : itemsBelow(m_window->contentItem())) {
+            if (item->isVisible() && item->inherits("QQuickText") && !textOf(item).isEmpty())
+                texts += textOf(item);
+        }
+        return texts;
+    }
+    int shownTimes(const QString& words) const { return int(shownTexts().count(words)); }
+    bool isShown(const QString& words) const { return shownTexts().contains(words); }
+    bool isShownPart(const QString& words) const { return shownTexts().join('\n').contains(words); }
+
+    /// The rows in sight of a list, from top to bottom.
+    QStringList rowsOf(const QString& list, const char* property = "title") const
+    {
+        waitForFrame();
+        QMap<qreal, QString> rows;
+        for (const QQuickItem* item : itemsBelow(find(list))) {
+            if (item->isVisible() && item->property("chevron").isValid())
+                rows.insert(item->y(), item->property(property).toString());
+        }
+        return rows.values();
     }
 
-    void click(const QQuickItem* item)
+    /// What can be pressed or read, outside of what lies over the page.
+    QMap<QQuickItem*, QRectF> places() const
     {
-        QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier,
-                item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
+        QMap<QQuickItem*, QRectF> places;
+        for (QQuickItem* item : itemsBelow(m_window->contentItem())) {
+            if (item->isVisible() && item->inherits("QQuickAbstractButton"))
+                places.insert(item, item->mapRectToScene(QRectF(0, 0, item->width(), item->height())));
+        }
+        return places;
     }
 
-    int shownTimes(const QString& words) const
+    void focus(const QString& name)
     {
-        const QList<QQuickItem*> texts = shownTexts();
-        return int(std::count_if(
-                texts.begin(), texts.end(), [&](const QQuickItem* text) { return textOf(text) == words; }));
+        for (int i = 0; i < 40 && !(m_window->activeFocusItem() && m_window->activeFocusItem()->objectName() == name); ++i)
+            QTest::keyClick(m_window, Qt::Key_Tab);
+        QCOMPARE(m_window->activeFocusItem()->objectName(), name);
     }
 
     void measure()
     {
         m_measurement->start();
         QTRY_COMPARE_WITH_TIMEOUT(m_measurement->state(), LoopbackMeasurement::Finished, longWait);
-    }
-
-    /// The unit's list has the most buttons.
-    void saveOnBoth()
-    {
-        QVERIFY(stick()->plug());
-        service(saveLocation)->setValue(saveLocation, 2);
-        QVERIFY(QMetaObject::invokeMethod(m_window, "saveReport"));
     }
 
     void failToMeasure()
@@ -629,75 +596,11 @@ private:
     }
 
     /// Layouts are settled when the page has been drawn.
-    void waitForFrame()
+    void waitForFrame() const
     {
         QSignalSpy drawn(m_window, &QQuickWindow::frameSwapped);
         m_window->update();
         QVERIFY(drawn.wait(longWait));
-    }
-
-    void checkFits(const QQuickItem* text)
-    {
-        const QString words = textOf(text);
-        QVERIFY2(!text->property("truncated").toBool(), qPrintable("cut off: " + words));
-        if (isScrolled(text))
-            return;
-        const QRectF painted(0, 0, text->property("paintedWidth").toReal(), text->property("paintedHeight").toReal());
-        const QSizeF room = text->size() + QSizeF(1, 1);
-        QVERIFY2(painted.width() <= room.width() && painted.height() <= room.height(), qPrintable("too large for its room: " + words));
-        const QRectF window(QPointF(), m_window->size());
-        const QRectF place = text->mapRectToScene(painted);
-        QVERIFY2(window.contains(place), qPrintable("outside the window: " + words));
-        const QRectF parent = text->parentItem()->mapRectToScene(
-                QRectF(0, 0, text->parentItem()->width() + 1, text->parentItem()->height() + 1));
-        QVERIFY2(place.right() <= parent.right(), qPrintable("runs out of its parent: " + words));
-    }
-
-    QQuickItem* firstItem(const std::function<bool(const QQuickItem*)>& isWanted) const
-    {
-        const QList<QQuickItem*> items = itemsBelow(m_window->contentItem());
-        const auto found = std::find_if(items.begin(), items.end(), isWanted);
-        if (found == items.end())
-            qFatal("The page lacks the item that the test looks for.");
-        return *found;
-    }
-
-    QQuickItem* named(const QString& name) const
-    {
-        return firstItem([&](const QQuickItem* item) { return item->objectName() == name; });
-    }
-
-    UsbStick* stick() const
-    {
-        return firstItem([](const QQuickItem* item) {
-            return item->property("report").isValid() && item->property("stick").isValid();
-        })->property("stick").value<UsbStick*>();
-    }
-
-    QQuickItem* button(const QString& words) const
-    {
-        return firstItem([&](const QQuickItem* item) {
-            return item->inherits("QQuickButton") && textOf(item) == words;
-        });
-    }
-
-    /// The visible texts.
-    QList<QQuickItem*> shownTexts() const
-    {
-        QList<QQuickItem*> items = itemsBelow(m_window->contentItem());
-        const auto isNoShownText = [](const QQuickItem* item) {
-            return !item->isVisible() || !item->inherits("QQuickText") || textOf(item).isEmpty();
-        };
-        items.erase(std::remove_if(items.begin(), items.end(), isNoShownText), items.end());
-        return items;
-    }
-
-    void focusButton(const QString& words)
-    {
-        QQuickItem* const wanted = button(words);
-        for (int i = 0; i < 20 && !wanted->hasActiveFocus(); ++i)
-            QTest::keyClick(m_window, Qt::Key_Tab);
-        QVERIFY2(wanted->hasActiveFocus(), qPrintable("The tab key never reaches " + words));
     }
 
     const QString shippedServices = UIUTILS_SOURCE_DIR "/platform/reference/services";
@@ -711,6 +614,7 @@ private:
     std::unique_ptr<LoopbackMeasurement> m_measurement;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     QQuickWindow* m_window = nullptr;
+    std::unique_ptr<Touch> m_touch;
     LoopbackReport* m_report = nullptr;
     QmlWarnings m_warnings;
 };

@@ -20,6 +20,15 @@ Outcome run(const QString& program, const QStringList& arguments, const QMap<QSt
     return ended(process);
 }
 
+/// What a program complained of. That there is no on-screen keyboard is a note.
+QString complaints(const Outcome& outcome)
+{
+    QStringList lines = outcome.errors.split('\n', Qt::SkipEmptyParts);
+    lines.removeAll("qml: There is no on-screen keyboard: Qt Virtual Keyboard is not installed, or QT_IM_MODULE is not "
+                    "\"qtvirtualkeyboard\".");
+    return lines.join('\n');
+}
+
 Outcome runDemo(const QStringList& arguments, const QMap<QString, QString>& variables = {})
 {
     return run(UIUTILS_DEMO_PROGRAM, arguments, variables);
@@ -75,12 +84,12 @@ private Q_SLOTS:
         const QString root = m_folder->filePath("a new/root");
         const Outcome outcome = runDemo({"--tour", "--root", root, "--samples", QString::number(samples)});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
-        QCOMPARE(outcome.errors, QString());
+        QCOMPARE(complaints(outcome), QString());
 
         const QStringList reports = filesBelow(root + "/cust/public/reports");
         const QStringList pictures = filesBelow(root + "/pictures");
         QCOMPARE(reports.size(), 5);
-        QCOMPARE(pictures.size(), 8);
+        QCOMPARE(pictures.size(), 19);
         const QStringList screenshots = filesBelow(root + "/cust/public/screenshots");
         QCOMPARE(screenshots.size(), 1);
         for (const QString& file : reports + pictures + screenshots)
@@ -186,7 +195,7 @@ private Q_SLOTS:
         for (int run = 0; run < 2; ++run) {
             const Outcome outcome = runDemo({"--tour", "--root", m_folder->path()});
             QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
-            QCOMPARE(outcome.errors, QString());
+            QCOMPARE(complaints(outcome), QString());
             const QString words = wordsOf(contentsOf(filesBelow(m_folder->filePath("cust/public/reports")).at(5 * run)));
             QVERIFY2(words.contains("Signe"), qPrintable(words));
             QVERIFY2(words.contains("Solheim") && !words.contains("Dahl"), qPrintable(words));
@@ -203,14 +212,14 @@ private Q_SLOTS:
     /// that a user put there stays.
     void pictureThatCannotBeWritten()
     {
-        QVERIFY(QDir(m_folder->path()).mkpath("pictures/6-report.png"));
+        QVERIFY(QDir(m_folder->path()).mkpath("pictures/10-report.png"));
         const QString viewer = writeFile(m_folder->filePath("base/bin/pdf_viewer"), "own");
         const Outcome outcome = runDemo({"--tour", "--root", m_folder->path()});
         QCOMPARE(outcome.exitCode, 1);
-        QVERIFY2(outcome.errors.contains("6-report.png"), qPrintable(outcome.errors));
-        QCOMPARE(filesBelow(m_folder->filePath("pictures")).size(), 5);
-        QVERIFY(outcome.output.contains("5-settings.png"));
-        QVERIFY(!outcome.output.contains("6-report.png"));
+        QVERIFY2(outcome.errors.contains("10-report.png"), qPrintable(outcome.errors));
+        QCOMPARE(filesBelow(m_folder->filePath("pictures")).size(), 9);
+        QVERIFY(outcome.output.contains("09-failures.png"));
+        QVERIFY(!outcome.output.contains("10-report.png"));
         QCOMPARE(contentsOf(viewer), QByteArray("own"));
     }
 

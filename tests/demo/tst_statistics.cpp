@@ -57,13 +57,13 @@ private Q_SLOTS:
         const std::tuple<int, double, const char*> rows[] {{4, 0.0, "0.000 u"}, {4, 0.00042, "0.0004 u"}, {4, 0.02194, "0.0219 u"},
                 {4, 0.1234, "0.123 u"}, {4, 1.0, "1.00 u"}, {4, 123.4, "123 u"}, {0, 12345.6, "12346 u"}};
         for (const auto& [mostDecimals, value, text] : rows)
-            QCOMPARE(SampleModel("Quantity", "u", mostDecimals, {Limit::AtMost, 1}, nullptr).text(value), QString(text));
+            QCOMPARE(SampleModel([] { return QString("Quantity"); }, "u", mostDecimals, {Limit::AtMost, 1}, nullptr).text(value), QString(text));
     }
 
     /// A new limit judges the present samples again, and a limit that makes no sense changes nothing.
     void changedLimitJudgesAnew()
     {
-        SampleModel model("Time", "ms", 3, {Limit::AtMost, 1}, nullptr);
+        SampleModel model([] { return QString("Time"); }, "ms", 3, {Limit::AtMost, 1}, nullptr);
         QCOMPARE(model.status(), int(Status::None));
         model.append(0.5);
         model.append(0.25);

@@ -6,6 +6,8 @@
 
 #include <kiv/plovjsondocument.h>
 
+#include <malloc.h>
+
 namespace {
 
 /// The document's rules in their plainest form, every count taken by walking the keys: ReportTemplate must agree with
@@ -206,6 +208,19 @@ private Q_SLOTS:
         QCOMPARE(keys.first() + keys.last(), first + last);
         QCOMPARE(table.value(first).toObject(),
                 QJsonObject({{"label", "0"}, {"cell_0", QJsonObject {{"label", "0"}, {"tag", "tag"}, {"title", "0"}, {"attr_status", "16"}}}}));
+    }
+
+    /// Qt's objects keep room for growth, a quarter of a row's memory, which is given back.
+    void memoryOfRows()
+    {
+        uiutils::TableRows rows;
+        const auto heap = [] { return mallinfo2().uordblks; };
+        const size_t before = heap();
+        for (int i = 0; i < 1000; ++i)
+            rows.addRow("tag", "Measurement point 12345", "-123.456 dBm", {{"status", 16}});
+        if (before == 0)
+            QSKIP("This allocator does not say what it holds.");
+        QVERIFY2(heap() - before <= 640 * 1000, qPrintable(QString::number(heap() - before)));
     }
 
     /// Only a table takes rows, each once; a slot may close it.

@@ -6,6 +6,7 @@
 
 #include "document/reportmetadata.h"
 #include "module/uiutilsmodule.h"
+#include "report/drafts/reportdraft.h"
 #include "report/nsreport.h"
 #include "report/report.h"
 #include "writers/text/textreport.h"
@@ -177,6 +178,18 @@ bool saveRecord(const QJsonObject& order)
     return record.saveMetadataToFile();
 }
 
+/// What was found is given back, and is replaced.
+bool saveDraft(const QJsonObject& order)
+{
+    uiutils::ReportDraft draft;
+    draft.setDraftId("otdr");
+    // What cannot be read stays, and the log says so.
+    if (!draft.restore())
+        return false;
+    draft.setData({{"variant", order.value("variant").toString()}, {"values", QString(20'000, 'x')}});
+    return draft.flush();
+}
+
 /// The order itself; returns what the library reports of it.
 QJsonObject perform(PageReport& report, const QJsonObject& order)
 {
@@ -192,6 +205,8 @@ QJsonObject perform(PageReport& report, const QJsonObject& order)
         report.saveSettings();
     else if (kind == "record")
         claim.insert("saved", saveRecord(order));
+    else if (kind == "draft")
+        claim.insert("saved", saveDraft(order));
     else if (kind == "list")
         report.addReportToNoSyncList("/cust/public/reports/otdr/" + order.value("variant").toString() + ".pdf");
     else

@@ -1,5 +1,7 @@
 """What is saved, and what exists before."""
 
+import json
+import zlib
 from dataclasses import dataclass, field
 
 FORMATS = {"pdf": 0, "xml": 1, "html": 2, "text": 3, "json": 4, "all": 5}
@@ -9,6 +11,8 @@ INTERNAL = "cust/public/reports/otdr/Fibre 12"
 STICK = "mnt/usb/Fibre 12"
 LIST = "cust/private/lastconfigs/base/basemgr/system/nosync_fileList.txt"
 
+DRAFT = "cust/private/drafts/savescenario/otdr/20260102-030405-000.draft"
+
 # Files that must not be touched, in a folder of other reports and in that of these.
 BYSTANDERS = {"cust/public/reports/ethernet/Link 3.xml": b"<link/>\n",
               "cust/private/lastconfigs/reportSettings/ethernet.json": b"{}\n"}
@@ -17,6 +21,12 @@ NEIGHBOURS = {"cust/public/reports/otdr/Fibre 11.pdf": b"%PDF-1.4 of another fib
               "mnt/usb/Fibre 11.xml": b"<fibre/>\n"}
 # Reports that are in the no-sync list already.
 KEPT = {LIST: b"/cust/public/reports/otdr/Fibre 11.pdf\n/cust/public/reports/otdr/Fibre 11.json\n"}
+
+
+def _draft():
+    packed = zlib.compress(b'{"variant":"old"}\n{}\n{}\n')
+    header = {"version": 1, "size": len(packed), "savedAt": "2026-01-02T03:04:05.000Z", "title": ""}
+    return json.dumps(header).encode() + b"\n" + packed
 
 
 @dataclass
@@ -77,6 +87,7 @@ def all_scenarios():
 
     for kind in ("settings", "record", "list"):
         scenarios += _pair(kind, {"kind": kind}, None)
+    scenarios.append(Scenario("draft-over", {"kind": "draft"}, None, None, {**BYSTANDERS, DRAFT: _draft()}))
     for scenario in scenarios:
         if scenario.order["kind"] != "report" and scenario.prior is not None:
             scenario.files.update(KEPT)

@@ -114,10 +114,10 @@ def claim_faults(kind, expectation, actual, claim):
             problems.append(f"{path} was reported as written, and is not")
     if kind == "report":
         problems += _save_faults(expectation, states, claim)
-    elif kind == "record" and claim["saved"] and not all(map(has_new, expectation.targets)):
-        problems.append("saving the record returned true, and it is not there")
-    elif kind == "record" and not claim["saved"] and not claim["log"]:
-        problems.append("the record was not saved, and the log does not say so")
+    elif kind in ("record", "draft") and claim["saved"] and not all(map(has_new, expectation.targets)):
+        problems.append(f"saving the {kind} returned true, and it is not there")
+    elif kind in ("record", "draft") and not claim["saved"] and not claim["log"]:
+        problems.append(f"the {kind} was not saved, and the log does not say so")
     elif kind in ("settings", "list") and not all(map(has_new, expectation.targets)) and not claim["log"]:
         problems.append("nothing was stored, and the log does not say so")
     if kind == "list" and claim["list"] and not has_new(scenarios.LIST):

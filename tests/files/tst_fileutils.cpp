@@ -126,6 +126,9 @@ private Q_SLOTS:
             QCOMPARE(dialog->kind(), kind);
             QCOMPARE(dialog->longLabel(), title);
             QCOMPARE(manager()->count(), trayEntries);
+            const QString verbs = dialog->value("acceptText").toString() + '/' + dialog->value("rejectText").toString();
+            QCOMPARE(verbs, QString(title.startsWith("Delete") ? "Delete/Keep" : kind == request ? "Overwrite/Keep" : "/"));
+            QCOMPARE(dialog->value("details").toString(), QString(title == "Delete Files" ? "USB:/a\nUSB:/b" : ""));
             if (trayEntries == 1) {
                 const QModelIndex entry = manager()->index(0);
                 QCOMPARE(entry.data(KIVNotificationModelManager::LongLabelRole).toString(), title);
@@ -151,7 +154,7 @@ private Q_SLOTS:
 
     void values()
     {
-        const Arguments arguments {{"step", "2"}, {"name", "x"}};
+        const Arguments arguments {{"step", "2"}, {"name", "x"}, {"acceptText", "Replace"}};
         const auto kept = [](const char* key) { return manager()->currentDialog()->value(key).toString(); };
         FileUtils files;
         files.sendNotificationDeleteRequest("cut:/mnt/usb/a\n/mnt/usb/b", arguments);
@@ -166,6 +169,22 @@ private Q_SLOTS:
         manager()->reject();
         files.sendNotificationOverwriteScreenshotRequest("/mnt/usb/s.png", "/base/i.png", {{"Filename", "mine"}});
         QCOMPARE(kept("Filename") + kept("IconFile"), QString("mine/base/i.png"));
+        manager()->reject();
+        files.sendNotificationDeleteRequest(QString("/mnt/usb/a\n").repeated(102) + "/mnt/usb/z", arguments);
+        QCOMPARE(kept("details").count('\n'), 100);
+        QVERIFY(kept("details").endsWith("USB:/a\nand 3 more"));
+        QCOMPARE(kept("acceptText") + kept("rejectText"), QString("ReplaceKeep"));
+    }
+
+    void namesOfFiles()
+    {
+        const FileUtils files;
+        const std::pair<QString, QString> rows[] {{"a.b", ""}, {QString("<\\|\"*a<"), "The name must not contain < \\ | \" *"}, {"a\r", "The name must not contain control characters"},
+                {"LPT1", "Computers do not allow the name \"LPT1\""}, {"nul .txt", "Computers do not allow the name \"nul .txt\""}, {"lpt0", ""},
+                {QString(255, 'x'), ""}, {QString(256, 'x'), "The name may have 255 characters, it has 256"},
+                {QString(128, QChar(0xfc)), "The name may have 127 characters, it has 128"}, {QString::fromUtf8("😀").repeated(64), "The name may have 63 characters, it has 64"}};
+        for (const auto& [name, problem] : rows)
+            QCOMPARE(files.fileNameProblem(name), problem);
     }
 
     void answersThatAreNotTheirs()

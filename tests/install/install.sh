@@ -99,12 +99,16 @@ sed -n 's/.* \([A-Za-z]*\.qml\)$/\1/p' "$controls/qmldir" | while read -r file; 
     test -s "$controls/$file"
 done
 test -s "$controls/ItemEntry.qml"
+test -s "$controls/icons/back.png"
+test -s "$controls/icons/small/back.png"
 if LD_LIBRARY_PATH='' ldd "$plugin" | grep 'libuiutils\|libkiv' | grep -v " => $plain/"; then
     echo "the QML module does not find its library" >&2
     exit 1
 fi
 if [ -x "$plain/bin/uiutils-qml" ]; then
-    "$plain/bin/uiutils-qml" --root "$plain/root" --list | grep -q '^basemgr_cfg_saveLocation'
+    "$plain/bin/uiutils-qml" --root "$plain/root" --list | grep '^basemgr_cfg_saveLocation' >/dev/null
+    # ... and its translations.
+    "$plain/bin/uiutils-qml" --root "$plain/root" --language de --list | grep '^basemgr_cfg_saveLocation.*Intern$' >/dev/null
 fi
 for schema in report-document service-file; do
     cmp "$here/../../docs/$schema.schema.json" "$plain/share/uiutils/schemas/$schema.schema.json"

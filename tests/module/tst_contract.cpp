@@ -5,7 +5,9 @@
 #include "files/fileutils.h"
 #include "files/screenshot.h"
 #include "local/uidata.h"
+#include "languages/languages.h"
 #include "local/uidatacontainer.h"
+#include "report/drafts/reportdraft.h"
 #include "report/nsreport.h"
 #include "report/report.h"
 #include "report/reportpreview.h"
@@ -17,6 +19,7 @@
 #include "service/manifest.h"
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
+#include "service/rowfilter.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 #include "ui_host/host.h"
 #include "writers/html/htmlstreamwriter.h"
@@ -82,7 +85,7 @@ template<typename Member> Operation operation(const char* name, Member member)
     const QScopedPointer<char, QScopedPointerPodDeleter> type(
             abi::__cxa_demangle(typeid(Member).name(), nullptr, nullptr, nullptr));
     // "QVariant (KivData::*)(int) const"
-    static const QRegularExpression parts("^(.+) \\((\\w+)::\\*\\)(.+)$");
+    static const QRegularExpression parts("^(.+) \\(([\\w:]+)::\\*\\)(.+)$");
     const QRegularExpressionMatch match = parts.match(QString(type.data()));
     return {name, match.captured(1) + " " + name + match.captured(3), match.captured(2), placeOf(member)};
 }
@@ -167,10 +170,11 @@ const QVector<Face>& faces()
             face<UiDataContainer, QObject>(), face<ReportTemplate, QObject>(), face<uiutils::TableRows, QObject>(), face<PDFFile, QObject>(),
             face<FileUtils, QObject>(), face<Screenshot, QObject>(), face<KivAggregateData, KivData>(),
             face<KivListAggregateData, KivData>(), face<QMLListAggregate, QAbstractListModel>(), face<StringUiData, UiData>(),
-            face<uiutils::ReportPreview, QAbstractListModel>(), face<uiutils::SavedReports, QAbstractListModel>(), face<BoolUiData, UiData>(), face<EnumUiData, UiData>(), face<UserData>(), face<uiutils::Status>(), face<uiutils::Alignment>(), face<KIVClientInterface>(),
+            face<uiutils::ReportPreview, QAbstractListModel>(), face<uiutils::SavedReports, QAbstractListModel>(), face<uiutils::RowFilter, QSortFilterProxyModel>(), face<BoolUiData, UiData>(), face<EnumUiData, UiData>(), face<UserData>(), face<uiutils::Languages>(), face<uiutils::Status>(), face<uiutils::Alignment>(), face<KIVClientInterface>(),
             face<BaseFormatter>(), face<KIVNotification>(), face<KIVNotificationModelManager>(),
             face<Validator, QRegularExpressionValidator>({operation("validate", validate)}),
-            face<UiDataEnums, QObject>(declaredOperations<UiDataEnums>()), face<KivData, QObject>(kivDataOperations()),
+            face<UiDataEnums, QObject>(declaredOperations<UiDataEnums>()),
+            face<uiutils::ReportDraft, QObject>(declaredOperations<uiutils::ReportDraft>()), face<KivData, QObject>(kivDataOperations()),
             face<UiData, KivData>(itemOperations<UiData>() + declaredOperations<UiData>(),
                     {TEXT(UiData, TYPE_STRING), TEXT(UiData, TYPE_VEC_STRING), TEXT(UiData, TYPE_VEC_DOUBLE),
                             TEXT(UiData, TYPE_VEC_INT), TEXT(UiData, TYPE_BOOL), TEXT(UiData, TYPE_ENUM), TEXT(UiData, TYPE_UINT),

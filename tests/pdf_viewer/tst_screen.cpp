@@ -148,7 +148,7 @@ private Q_SLOTS:
         show(samples::barred(2));
         QTRY_VERIFY(isSharp(0));
         // The width of the view without its margins.
-        QCOMPARE(picture(0)->width() + 2, 996.0);
+        QCOMPARE(picture(0)->width() + 2, m_window->width() - 2.0 * 12);
         click("fitPageButton");
         QTRY_VERIFY(isSharp(0));
         QVERIFY(picture(0)->height() <= m_pages->height() && picture(0)->height() > m_pages->height() - 20);
@@ -176,7 +176,7 @@ private Q_SLOTS:
         QTest::keyClick(m_window, Qt::Key_Home);
         QCOMPARE(text("pageText"), QString("Page 1 of 12"));
         QTest::keyClick(m_window, Qt::Key_PageDown);
-        QCOMPARE(m_pages->property("contentY").toReal(), 0.9 * m_pages->height());
+        QVERIFY(qAbs(m_pages->property("contentY").toReal() - 0.9 * m_pages->height()) < 1);
         const qreal before = zoom();
         QTest::keyClick(m_window, Qt::Key_Plus);
         QVERIFY(zoom() > before);

@@ -1,12 +1,26 @@
 #include "columns.h"
 #include "files.h"
+#include "jsonschema_p.h"
 
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
 
+#include <QJsonDocument>
+#include <QJsonObject>
+
 using kiv::embedded::EmbeddedBackend;
+
+namespace {
+
+QJsonObject objectIn(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+}
+
+} // namespace
 
 class ServiceFilesTest : public QObject
 {
@@ -18,8 +32,8 @@ private Q_SLOTS:
     {
         addColumns<QString, QStringList>();
         QTest::newRow("shipped") << UIUTILS_SOURCE_DIR "/platform/reference/services"
-                                 << QStringList {"basemgr", "loopback", "loopback_rtt", "loopback_throughput",
-                                        "optical", "orb.base.workflow_manager_app"};
+                                 << QStringList {"basemgr", "jobs", "loopback", "loopback_rtt", "loopback_throughput",
+                                        "optical", "orb.base.workflow_manager_app", "unit"};
         QTest::newRow("of the tests") << UIUTILS_TEST_DATA_DIR "/services"
                                       << QStringList {"basemgr", "kinds", "orb.base.workflow_manager_app", "plots",
                                              "station"};
@@ -33,6 +47,27 @@ private Q_SLOTS:
         QCOMPARE(backend.serviceNames(), services);
         for (const QString& service : services)
             QVERIFY(!backend.service(service)->itemIds().isEmpty());
+    }
+
+    /// Files that say what a shipped one says are loaded without a look at the schema, and no others.
+    void shippedFilesConform()
+    {
+        const QJsonObject schema = objectIn(UIUTILS_SOURCE_DIR "/docs/service-file.schema.json");
+        QVERIFY(!schema.isEmpty());
+        const QDir folder(UIUTILS_SOURCE_DIR "/platform/reference/services");
+        const QStringList files = folder.entryList({"*.service.json"});
+        QVERIFY(!files.isEmpty());
+        QTemporaryDir changed;
+        for (const QString& name : files) {
+            QJsonObject service = objectIn(folder.filePath(name));
+            QCOMPARE(kiv::embedded::schemaViolation(schema, service), QString());
+            QCOMPARE(service, objectIn(":/uiutils/services/" + name));
+            service.insert("unknown", 1);
+            writeFile(changed.filePath(name), QJsonDocument(service).toJson());
+        }
+        EmbeddedBackend backend;
+        QCOMPARE(backend.loadFolders({changed.path()}).size(), files.size());
+        QCOMPARE(backend.serviceNames(), QStringList());
     }
 
     /// A screen must be able to write back every value, or the file is wrong.

@@ -95,7 +95,7 @@ Item {
             compare(driver.value(":config:entry:name:"), "Trunk 12")
             compare(fieldOf(pair.first).text, "x")
             verify(pair.first.entry.isInvalid)
-            compare(pair.first.entry.note, "2 - 16 chars")
+            compare(pair.first.entry.note, "At least 2 characters; this text has 1")
         }
 
         // A form in a popup closes with Escape when there is nothing to revert.
@@ -177,6 +177,7 @@ Item {
             compare(driver.value(":config:entry:on:"), true)
             driver.report(":config:entry:on:", false)
             verify(!control.checked)
+            compare(control.Accessible.description, "Off")
 
             const jammed = make(entryComponent, { item: entry_cfg_jammed })
             const stuck = findChild(jammed, "switch")
@@ -189,12 +190,12 @@ Item {
         function test_choices() {
             const entry = make(entryComponent, { item: entry_cfg_mode })
             const box = findChild(entry, "box")
-            compare(box.displayText, "Automatic")
+            compare(box.Accessible.description, "Automatic")
             compare(box.count, 2)
             tap(box)
             tryVerify(() => box.popup.opened)
             const row = box.popup.contentItem.itemAtIndex(1)
-            compare(row.contentItem.text, "By hand")
+            compare(row.text, "By hand")
             tap(row)
             compare(driver.value(":config:entry:mode:"), 2)
             tryVerify(() => !box.popup.visible)
@@ -287,7 +288,7 @@ Item {
         function test_listOfTheService() {
             const entry = make(entryComponent, { item: entry_cfg_hosts })
             const rows = findChild(entry, "rows")
-            const hosts = () => Array.from(driver.value(":config:entry:hosts:stringARRAY:"))
+            const hosts = () => driver.value(":config:entry:hosts:stringARRAY:").map(String)
             tryCompare(rows, "count", 2)
             enter(rows.itemAtIndex(1), "gamma")
             compare(hosts(), ["alpha", "gamma"])
@@ -297,6 +298,7 @@ Item {
             enter(rows.itemAtIndex(0), "much too long")
             compare(hosts(), ["alpha", "gamma"])
             compare(fieldOf(rows.itemAtIndex(0)).text, "much too long")
+            verify(findChild(rows.itemAtIndex(0), "invalidMark").visible)
             keyClick(Qt.Key_Escape)
             type(findChild(entry, "adder"), "delta")
             mouseClick(findChild(entry, "addButton"))
@@ -463,7 +465,7 @@ Item {
             const entry = make(textComponent, { minimum: 3, value: "abc" })
             enter(entry, "ab")
             compare(entry.value, "abc")
-            compare(entry.note, "At least 3 chars")
+            compare(entry.note, "At least 3 characters; this text has 2")
             entry.mandatory = true
             enter(entry, "")
             compare(entry.value, "abc")

@@ -92,6 +92,35 @@ Item {
                     { tag: "back to no", act: () => { keyClick(Qt.Key_Right); keyClick(Qt.Key_Left); keyClick(Qt.Key_Space) }, answer: "no" },
                     { tag: "Tab", act: () => { keyClick(Qt.Key_Tab); keyClick(Qt.Key_Return) }, answer: "yes" }]
         }
+        // The words of the one who asks, all of it on the dialog's own ground.
+        function test_verbs() {
+            const dialog = makeDialog()
+            const words = { acceptText: "Overwrite", rejectText: "Keep", details: "a.html\na.pdf" }
+            files.sendNotificationOverwriteRequest("/mnt/usb/a.html", words)
+            compare(part(dialog, "acceptButton").text, words.acceptText)
+            compare(part(dialog, "rejectButton").text, words.rejectText)
+            verify(part(dialog, "dialogText").text.endsWith("?\n\n" + words.details))
+            const button = part(dialog, "acceptButton")
+            const corner = () => button.mapToItem(dialog.background, button.width, button.height)
+            tryVerify(() => corner().x < dialog.background.width && corner().y < dialog.background.height)
+            keyClick(Qt.Key_Escape)
+        }
+        // Who uses keys sees where they go, in the dialog and afterwards.
+        function test_focusIsShownToKeys_data() {
+            return [{ tag: "keys", reason: Qt.TabFocusReason, shown: true }, { tag: "finger", reason: Qt.MouseFocusReason, shown: false }]
+        }
+        function test_focusIsShownToKeys(data) {
+            const field = findChild(make(fieldComponent), "field")
+            field.forceActiveFocus(data.reason)
+            const dialog = makeDialog()
+            ask("a")
+            const button = part(dialog, "rejectButton")
+            compare(button.activeFocus, true)
+            compare(findChild(button, "focusFrame").visible, data.shown)
+            keyClick(Qt.Key_Escape)
+            tryCompare(dialog, "visible", false)
+            compare(field.activeFocus && ControlsStyle.isByKey(field), data.shown)
+        }
         function test_answers(data) {
             const dialog = makeDialog()
             verify(!dialog.visible)
@@ -101,6 +130,18 @@ Item {
             data.act(dialog)
             compare(files.answers, [data.answer + " /mnt/usb/a"])
             tryCompare(dialog, "visible", false)
+        }
+
+        function test_questionsHaveVerbs() {
+            const dialog = makeDialog()
+            const shown = () => ["acceptButton", "rejectButton", "dialogText"].map(name => part(dialog, name).text)
+            files.sendNotificationDeleteRequest("/mnt/usb/a\n/mnt/usb/<b>", {})
+            compare(shown(), ["Delete", "Keep", "Do you want to delete these 2 files?\n\nUSB:/a\nUSB:/<b>"])
+            files.sendNotificationOverwriteRequest("/mnt/usb/a", { "rejectText": "" })
+            tryVerify(() => part(dialog, "acceptButton").text === "Overwrite")
+            compare(shown(), ["Overwrite", "No", "Do you want to overwrite File USB:/a?"])
+            files.sendNotificationWriteError("/mnt/usb/a")
+            tryVerify(() => part(dialog, "acceptButton").text === "OK")
         }
 
         function test_errorsHaveOneAnswer_data() {

@@ -68,7 +68,8 @@ Item {
             const page = make(100)
             page.dialog.show()
             const pages = pagesOf(page)
-            tryVerify(() => pages.itemAtIndex(0) !== null)
+            tryVerify(() => page.dialog.opened && pages.itemAtIndex(0) !== null)
+            waitForRendering(pages)
             const touch = touchEvent(pages), at = apart => [pages.width / 2 + apart, 200]
             touch.press(0, pages, ...at(-40)).commit()
             touch.stationary(0).press(1, pages, ...at(40)).commit()

@@ -23,6 +23,8 @@ class SavedReportsTest : public ReportFixture
 {
     Q_OBJECT
 
+    QTemporaryDir m_programs;
+
     /// A page that shows the list of a controller.
     struct Page
     {
@@ -93,6 +95,14 @@ class SavedReportsTest : public ReportFixture
     }
 
 private Q_SLOTS:
+    /// The machine's own programs must not be found, nor its desktop.
+    void initTestCase()
+    {
+        qputenv("PATH", QFile::encodeName(m_programs.path()));
+        qunsetenv("DISPLAY");
+        qunsetenv("WAYLAND_DISPLAY");
+    }
+
     void theListFollowsTheDisk()
     {
         plug(0);
@@ -139,6 +149,101 @@ private Q_SLOTS:
         QCOMPARE(page.at(0, SavedReports::SyncedRole), QVariant());
         QVERIFY(!page.model.setSynced(folder + "c.json", false));
         expectError("Sync");
+    }
+
+    void searchingAndSorting()
+    {
+        putOld(folder + "Trunk 10.pdf", 1, "1234");
+        putOld(folder + "trunk 9.xml", 2, "12");
+        putOld(folder + "Ring.pdf.gz", 3, "123");
+        Page page;
+        const auto order = [&](const QString& rows) {
+            QCOMPARE(page.rows().remove("PDF ").remove("XML ").remove(" gz"), rows);
+            QCOMPARE(page.model.totalCount(), 3 + int(rows.contains("new")));
+        };
+        order("Ring, trunk 9, Trunk 10");
+        page.model.setReversed(true);
+        order("Trunk 10, trunk 9, Ring");
+        page.model.setSortKey(SavedReports::ByName);
+        order("Trunk 10, trunk 9, Ring");
+        page.model.setReversed(false);
+        order("Ring, trunk 9, Trunk 10");
+        page.model.setSortKey(SavedReports::BySize);
+        order("Trunk 10, Ring, trunk 9");
+        page.model.setSortKey(SavedReports::ByFormat);
+        order("Ring, Trunk 10, trunk 9");
+        QVERIFY(page.takeChanges().isEmpty());
+        for (const auto& [filter, rows] : {std::pair(" TRUNK ", "Trunk 10, trunk 9"), std::pair("trunk pdf", "Trunk 10"), std::pair("trunk txt", ""), std::pair("nk 9 x", "trunk 9")}) {
+            page.model.setFilter(filter);
+            order(rows);
+        }
+        // What comes and goes finds its place; what is not looked for is counted.
+        page.model.setSortKey(SavedReports::ByName);
+        page.model.setFilter("pdf");
+        page.takeChanges();
+        QSignalSpy totals(&page.model, &SavedReports::totalCountChanged);
+        putOld(folder + "new sound.pdf", 9);
+        page.model.refresh();
+        order("new sound, Ring, Trunk 10");
+        QCOMPARE(page.takeChanges(), QString("+0 count"));
+        QVERIFY(QFile::remove(onDisk(folder + "trunk 9.xml")));
+        page.model.refresh();
+        QVERIFY(page.takeChanges().isEmpty() && totals.size() == 2);
+        // A slot that wants another order while rows come.
+        connect(&page.model, &SavedReports::rowsInserted, [&] { page.model.setReversed(true); });
+        putOld(folder + "able.pdf", 8);
+        page.model.refresh();
+        QTRY_COMPARE(page.rows(), QString("PDF Trunk 10, PDF Ring gz, PDF new sound, PDF able"));
+    }
+
+    void openingEachFormat()
+    {
+        const QStringList formats {"a.csv.zip", "a.html", "a.json", "a.pdf", "a.txt", "a.xml", "a.xml.gz"};
+        const auto viewable = [&] {
+            Page page;
+            return page.rows().count("viewable");
+        };
+        for (const QString& name : formats)
+            put(folder + name, "report");
+        QCOMPARE(viewable(), 0);
+        QVERIFY(!SavedReports().open(folder + "a.txt"));
+        const QString opened = m_programs.filePath("opened");
+        const QString program = writeFile(m_programs.filePath("xdg-open"), "#!/bin/sh\necho \"$1\" > " + QFile::encodeName(opened) + ".new\n/bin/mv "
+                + QFile::encodeName(opened) + ".new " + QFile::encodeName(opened) + "\n");
+        const auto gone = qScopeGuard([&] { QFile::remove(program); });
+        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+        const auto desktop = qScopeGuard([] { qunsetenv("WAYLAND_DISPLAY"); });
+        QCOMPARE(viewable(), 0);
+        qputenv("WAYLAND_DISPLAY", "wayland-0");
+        QCOMPARE(viewable(), 5);
+        SavedReports model;
+        QVERIFY(!model.open(folder + "a.xml.gz"));
+        QVERIFY(model.open(folder + "a.txt"));
+        QTRY_COMPARE(contentsOf(opened), QFile::encodeName(onDisk(folder + "a.txt")) + '\n');
+    }
+
+    void readingTexts()
+    {
+        const auto packed = [](const QByteArray& text) {
+            // A gzip member: header, deflated data, checksum and size.
+            QProcess gzip;
+            gzip.start("/bin/gzip", {"-c"});
+            gzip.write(text);
+            gzip.closeWriteChannel();
+            gzip.waitForFinished();
+            return gzip.readAllStandardOutput();
+        };
+        const QByteArray large = QByteArray(1024 * 1024 - 1, 'x') + "\u00fc and more";
+        const std::tuple<QString, QByteArray, QString> rows[] {{"a.txt", "gr\u00fcn\n", QString::fromUtf8("gr\u00fcn\n")}, {"a.xml.gz", packed("<a/>"), "<a/>"},
+                {"a.html", large, QString(1024 * 1024 - 1, 'x')}, {"a.json.gz", packed(large), QString(1024 * 1024 - 1, 'x')},
+                {"a.html.gz", packed("text").chopped(3), ""}, {"a.pdf", "%PDF", ""}, {"a.zip", "PK", ""}, {"b.txt.gz", "text", ""}};
+        const SavedReports model;
+        for (const auto& [name, bytes, text] : rows) {
+            put(folder + name, bytes);
+            QVERIFY2(model.readText(folder + name) == text, qPrintable(name));
+        }
+        QVERIFY(model.readText(folder + "none.txt").isEmpty());
+        QVERIFY(QDir().mkpath(onDisk(folder + "folder.txt")) && model.readText(folder + "folder.txt").isEmpty());
     }
 
     void whichReportsAreListed()

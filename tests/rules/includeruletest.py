@@ -133,7 +133,7 @@ class Planted(unittest.TestCase):
         self.assert_told(source, 2, "viewer must not reach report: apps/common/planted.h -> lib/ui_utils/report/report.h", changes)
 
     def test_what_pages_import(self):
-        page, shared, kit = "apps/pdf_viewer/qml/Planted.qml", "apps/common/qml/Planted.qml", "qml/UiUtils/Controls/Planted.qml"
+        page, shared, kit = "apps/pdf_viewer/qml/Planted.qml", "qml/UiUtils/Controls/Measures.qml", "qml/UiUtils/Controls/Planted.qml"
         self.assert_told(page, 2, "must not import UiUtils", {page: "import UiUtils.Viewer 1.0\nimport UiUtils 1.0\n"})
         self.assert_told(shared, 1, "must not import UiUtils.Controls", {shared: "import UiUtils.Controls 1.0 as Kit\n"})
         self.assert_told(kit, 1, "must not import UiUtils.Demo", {kit: "  import  UiUtils.Demo 1.0\n"})

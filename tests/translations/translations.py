@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
-"""Checks that every text of the tree can be translated: the extraction tool finds it under the context of the request.
+"""Checks that every text of the tree can be translated, the extraction tool finding it under the context of the request,
+and that the catalogues have all of them.
 
 translations.py extracted --lupdate TOOL           what the tool finds, and what the sources may look like
+translations.py catalogues --lupdate TOOL          what the catalogues say
 translations.py planted --lupdate TOOL             that the above finds what is wrong
 translations.py used --lupdate TOOL --build BUILD --recorder LIBRARY
                                                    what programs request at run time, and what they show of it
@@ -17,11 +19,15 @@ import tempfile
 import xml.etree.ElementTree
 
 TREE = pathlib.Path(__file__).resolve().parents[2]
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(TREE / 'translations'))
+import update  # noqa: E402
+
 ROOMS = ('base', 'platform', 'lib', 'apps', 'qml')
 # Contexts of which show() makes no text appear. A context that no longer exists is removed from the list.
 UNSEEN = {
-    'FileSystemUsage', 'FontTexts', 'KivAggregateData', 'OwnLibrary', 'PDFFile', 'Paths', 'SchemaValidator', 'ServiceState',
-    'uiutils::ReportPaper',
+    'FileSystemUsage', 'FontTexts', 'KivAggregateData', 'OwnLibrary', 'PDFFile', 'Paths', 'SchemaValidator',
+    'ScreenAudit', 'ServiceState', 'uiutils::ReportDraft', 'uiutils::ReportPaper',
     *(f'uiutils::demo::{name}' for name in ('LoopbackProbe', 'Tour', 'UsbStick')),
 }
 # Texts that are, by agreement, the beginning of a line. All others are complete: translators cannot reorder parts.
@@ -31,19 +37,25 @@ CONTEXTS_OF_QT = re.compile(r'Q[A-Z]')
 
 # --- What the tool finds -----------------------------------------------------------------------------------------
 
-def extract(lupdate, tree):
-    """The set of (context, text), and the tool's warnings."""
+def messages_of(ts):
+    """By context, text, comment, and whether it is a count."""
+    contexts = xml.etree.ElementTree.parse(ts).getroot().iter('context')
+    return {(context.findtext('name'), message.findtext('source'), message.findtext('comment') or '', 'numerus' in message.attrib): message
+            for context in contexts for message in context.iter('message')}
+
+
+def collect(lupdate, tree, rooms):
+    """The keys of all messages, and the tool's warnings."""
     with tempfile.TemporaryDirectory() as folder:
         ts = pathlib.Path(folder, 'all.ts')
-        rooms = [room for room in ROOMS if (tree / room).is_dir()]
-        run = subprocess.run([lupdate, '-silent', '-no-obsolete', '-locations', 'none', '-extensions', 'cpp,h,qml,js', *rooms,
-                              '-ts', ts], cwd=tree, capture_output=True, text=True)
-        complaints = [f'{line.strip()} (says lupdate)' for line in run.stderr.splitlines() if line.strip()]
-        if run.returncode != 0 or not ts.exists():
-            return set(), complaints + [f'lupdate ended with {run.returncode}']
-        contexts = xml.etree.ElementTree.parse(ts).getroot().iter('context')
-        return {(context.findtext('name'), message.findtext('source'))
-                for context in contexts for message in context.iter('message')}, complaints
+        complaints = [f'{complaint} (says lupdate)' for complaint in update.update(lupdate, tree, [ts], rooms)]
+        return (set(messages_of(ts)) if ts.exists() else set()), complaints
+
+
+def extract(lupdate, tree):
+    """The set of (context, text), and the tool's warnings."""
+    keys, complaints = collect(lupdate, tree, ROOMS)
+    return {key[:2] for key in keys}, complaints
 
 
 def judge_texts(extracted):
@@ -130,7 +142,9 @@ def judge_sources(tree):
             noted[call.folder].append(call)
         elif call.context and MEMBER.fullmatch(call.words):
             asked[call.folder].append(call)
-        elif not LITERALS.fullmatch(call.words):
+        elif call.name.startswith('qsTr') and '\\\\' in call.words:
+            yield f'{call.place}: lupdate drops the backslash; make it a place such as %1'
+        elif call.context != update.LABELS and not LITERALS.fullmatch(call.words):
             yield f'{call.place}: the text is not written out; one of a table is a member of its row'
     yield from judge_tables(noted, asked)
 
@@ -148,6 +162,63 @@ def judge_tables(noted, asked):
 def judge_tree(lupdate, tree):
     extracted, complaints = extract(lupdate, tree)
     return complaints + list(judge_texts(extracted)) + list(judge_sources(tree))
+
+
+# --- What the catalogues say -------------------------------------------------------------------------------------
+
+PLACE = re.compile(r'%L?\d+|%n')
+ENDS = {'.': '.。', ':': ':：', '?': '?？؟', '…': '…'}
+
+
+def judge_form(source, form, is_count):
+    if not form.strip():
+        yield 'is empty'
+        return
+    missing = collections.Counter(PLACE.findall(source))
+    missing.subtract(PLACE.findall(form))
+    # "One report" needs no number.
+    if any(number and not (is_count and place == '%n' and number > 0) for place, number in missing.items()):
+        yield 'has other places'
+    if source.count('\n') != form.count('\n'):
+        yield 'has other lines'
+    if (form != form.strip()) != (source != source.strip()) or '  ' in form:
+        yield 'has stray blanks'
+    ends = ENDS.get(source.strip()[-1])
+    # A mark of direction may follow.
+    if ends and form.strip(' \u200e')[-1] not in ends:
+        yield f'does not end in {" or ".join(ends)}'
+
+
+def judge_message(source, message):
+    translation = message.find('translation')
+    if translation.get('type'):
+        yield f'is {translation.get("type")}'
+        return
+    is_count = message.get('numerus') == 'yes'
+    for form in translation.findall('numerusform') if is_count else [translation]:
+        yield from judge_form(source, form.text or '', is_count)
+
+
+def judge_catalogue(ts, wanted):
+    messages = messages_of(ts)
+    for key in sorted(wanted ^ set(messages)):
+        yield f'{ts.name}: {key}: {"is missing" if key in wanted else "is no longer requested"}; build update-translations'
+    for key, message in messages.items():
+        if ts.stem.endswith('_pseudo'):
+            complaints = [] if update.lengthened(key[1]) in message.find('translation').itertext() else ['is not what update.py makes of it']
+        else:
+            complaints = judge_message(key[1], message)
+        yield from (f'{ts.name}: {key}: the translation {complaint}' for complaint in complaints)
+
+
+def judge_catalogues(lupdate):
+    wanted, complaints = collect(lupdate, TREE, update.ROOMS)
+    files = sorted((TREE / 'translations').glob('*.ts'))
+    names = [f'uiutils_{language}.ts' for language in sorted([*update.LANGUAGES, 'en', 'pseudo'])]
+    if [file.name for file in files] != names:
+        complaints.append(f'the catalogues are {files}, not {names}')
+    return complaints + [complaint for file in files
+                         for complaint in judge_catalogue(file, {key for key in wanted if key[3]} if file.stem == 'uiutils_en' else wanted)]
 
 
 # --- What programs request ---------------------------------------------------------------------------------------
@@ -199,7 +270,7 @@ def show(recording):
     for program in ('uiutils-qml', 'reportconvert', 'pdf_viewer', 'uiutils-demo', 'kivd', 'kivctl'):
         recording.run(program, '--help')
         recording.run(program, '--nonsense', code=2)
-    for example in ('gallery', 'notifications'):
+    for example in ('gallery', 'notifications', 'liveplot'):
         recording.run('uiutils-qml', TREE / f'docs/examples/{example}.qml', '--services', TREE / 'platform/reference/services',
                       '--root', root, '--grab', recording.folder / 'page.png')
     recording.run('uiutils-demo', '--tour', '--samples', '20', '--root', root,
@@ -217,7 +288,7 @@ def show(recording):
         ('an HTML page', html, '«Test Information»'),
         ('a plain text', text, '«Pass»'),
         ('a question', words, '«Do you want to overwrite report «Internal:»/reports/marked.pdf?»'),
-        ('the rejection of a value', words, '«Level cannot be set to 11: «out of range». Allowed: «-10 to 10» dB.»'),
+        ('the rejection of a value', words, '««Level» cannot be set to 11: «out of range». Allowed: «-10 to 10» dB.»'),
         ('the range of a value', words, '«2 - 8 chars»'),
         ('the rejection of a service', odd, '/items/1: «the id :config:odd:twice: appears twice»'),
         ('a setting that is not there', nobody, '«There is no setting :config:basemgr:'),
@@ -229,7 +300,8 @@ def show(recording):
 
 def judge_recording(asked, extracted):
     for context, text in sorted(asked - extracted):
-        if not CONTEXTS_OF_QT.match(context):
+        # The tests have services of their own.
+        if context != update.LABELS and not CONTEXTS_OF_QT.match(context):
             yield f'context {context}: "{text}" is asked for, and lupdate does not find it there'
     # A page's context is the name of its file, whatever requests the text.
     pages = {file.stem for room in ROOMS for file in (TREE / room).rglob('*') if file.suffix in ('.qml', '.js')}
@@ -274,8 +346,33 @@ WRONG = [
      'a.cpp:5: the text is not written out'),
     ('a part of a sentence', 'base/a.cpp', TEXTS + 'QString a() { return name + Texts::tr(" is gone"); }', 'part of a sentence'),
     ('a number that the tool takes for a letter', 'platform/a.h', "constexpr int most = 10'000;\n", 'Unterminated'),
+    ('a backslash, which the tool drops', 'qml/A.qml', 'Text { text: qsTr("a \\\\ b") }', 'drops the backslash'),
     ('a text of a page that is put together', 'qml/A.qml', 'Text { text: qsTr("Text " + name) }', 'A.qml:1: the text is not written out'),
 ]
+
+
+WRONG_CATALOGUES = [
+    ('<translation type="unfinished">Es fehlt %1.</translation>', 'unfinished'), ('<translation type="vanished">Es fehlt %1.</translation>', 'vanished'),
+    ('<translation></translation>', 'empty'), ('<translation>Es fehlt.</translation>', 'other places'),
+    ('<translation>Es fehlt %1 %1.</translation>', 'other places'), ('<translation>Es fehlt %1. </translation>', 'stray blanks'),
+    ('<translation>Es fehlt %1</translation>', 'does not end'), ('<translation>Es fehlt\n%1.</translation>', 'other lines'),
+]
+
+
+def judge_planted_catalogues():
+    def judged(translation, wanted):
+        with tempfile.TemporaryDirectory() as folder:
+            ts = pathlib.Path(folder, 'a.ts')
+            ts.write_text(f'<TS><context><name>A</name><message><source>%1 is missing.</source>{translation}</message></context></TS>')
+            return list(judge_catalogue(ts, wanted))
+
+    key = ('A', '%1 is missing.', '', False)
+    right = '<translation>Es fehlt %1.</translation>'
+    yield from (f'not wrong, and complained of: {complaint}' for complaint in judged(right, {key}))
+    plants = [(translation, {key}, words) for translation, words in WRONG_CATALOGUES]
+    plants += [(right, {key, ('A', 'Another', '', False)}, 'is missing'), (right, set(), 'no longer requested')]
+    yield from (f'planted and not found: {translation}' for translation, wanted, words in plants
+                if not any(words in complaint for complaint in judged(translation, wanted)))
 
 
 def judge_plants(lupdate):
@@ -305,7 +402,7 @@ def judge_plants(lupdate):
 
 def main():
     parser = argparse.ArgumentParser()
-    parser.add_argument('task', choices=('extracted', 'planted', 'used'))
+    parser.add_argument('task', choices=('extracted', 'catalogues', 'planted', 'used'))
     parser.add_argument('--lupdate', required=True)
     parser.add_argument('--build', type=pathlib.Path)
     parser.add_argument('--recorder', type=pathlib.Path)
@@ -313,7 +410,9 @@ def main():
     if options.task == 'extracted':
         complaints = judge_tree(options.lupdate, TREE)
     elif options.task == 'planted':
-        complaints = list(judge_plants(options.lupdate))
+        complaints = list(judge_plants(options.lupdate)) + list(judge_planted_catalogues())
+    elif options.task == 'catalogues':
+        complaints = judge_catalogues(options.lupdate)
     else:
         complaints = judge_programs(options.lupdate, options.build, options.recorder)
     for complaint in complaints:

@@ -2,6 +2,7 @@
 #include "files.h"
 
 #include <QImage>
+#include <QLibraryInfo>
 
 /// The program as users start it.
 class UiUtilsQmlTest : public QObject
@@ -36,6 +37,10 @@ private Q_SLOTS:
         QTest::newRow("list and page") << QStringList {"--list", "a.qml"} << 2 << "--list takes no page";
         QTest::newRow("empty folder name") << QStringList {"--services", "", "a.qml"} << 2 << "--services needs";
         QTest::newRow("no such page") << QStringList {"/nowhere/a.qml"} << 1 << "There is no page /nowhere/a.qml";
+        for (const char* screen : {"", "800x480", "800x480@", "0x480@133", "800x199@133", "8001x480@133", "800x480@39", "800x480@601", "800x480@133x"})
+            QTest::newRow(screen) << QStringList {"--screen", screen, "a.qml"} << 2 << "--screen needs a size of 200 to 8000 pixels";
+        QTest::newRow("no such language") << QStringList {"--services", m_services, "--language", "xx", "--list"} << 1 << "no language \"xx\"";
+        QTest::newRow("a language") << QStringList {"--services", m_services, "--language", "de", "--list"} << 0 << "field_cfg_name";
         QTest::newRow("no such folder") << QStringList {"--services", "/nowhere", "--list"} << 1 << "/nowhere";
     }
     void commandLines()
@@ -65,6 +70,38 @@ private Q_SLOTS:
         QVERIFY(outcome.errors.contains("The key is turned."));
     }
 
+    void showsWhatAnotherScreenShows()
+    {
+        const QString body = "{ width: 99; height: 99; Component.onCompleted: Qt.callLater(() => {"
+                             " console.log(width, height, ControlsStyle.touch); Qt.exit(7) }) }";
+        for (const char* kind : {"Item ", "import QtQuick.Window 2.15\nWindow "}) {
+            const QString file = page("import UiUtils.Controls 1.0\n" + QByteArray(kind) + body.toUtf8());
+            const Outcome outcome = run({file, "--services", m_services, "--screen", "800x480@133"});
+            QVERIFY2(outcome.exitCode == 7 && outcome.errors.contains("800 480 48"), qPrintable(outcome.errors));
+        }
+    }
+
+    /// The field in use is above the keyboard, also the last one of a page that could not scroll so far; afterwards the
+    /// page is as it was. Without a keyboard the log has one note.
+    void screenKeyboard_data()
+    {
+        addColumns<QByteArray, int>();
+        QTest::newRow("keyboard") << QByteArray("qtvirtualkeyboard") << 7;
+        QTest::newRow("none") << QByteArray("none") << 8;
+    }
+    void screenKeyboard()
+    {
+        const auto [method, exitCode] = currentRow<QByteArray, int>();
+        if (exitCode == 7 && !QFile::exists(QLibraryInfo::location(QLibraryInfo::PluginsPath) + "/platforminputcontexts/libqtvirtualkeyboardplugin.so"))
+            QSKIP("Qt Virtual Keyboard is not installed");
+        const QString file = page("import UiUtils.Controls 1.0\n" + contentsOf(UIUTILS_SOURCE_DIR "/tests/uiutils-qml/keyboard.qml.in"));
+        qputenv("QT_IM_MODULE", method);
+        const Outcome outcome = run({file, "--services", m_services, "--screen", "800x480@133"});
+        qunsetenv("QT_IM_MODULE");
+        QVERIFY2(outcome.exitCode == exitCode, qPrintable(QString::number(outcome.exitCode) + outcome.errors));
+        QCOMPARE(outcome.errors.count("There is no on-screen keyboard"), exitCode == 8 ? 1 : 0);
+    }
+
     void aServiceWhoseNameQmlCannotSpell()
     {
         const QString file = page("Item { Component.onCompleted: { Qt.exit(workflow_manager_app_cfg_activeWorkOrderId.value =="
@@ -82,6 +119,20 @@ private Q_SLOTS:
         const QImage image(picture);
         QCOMPARE(image.size(), QSize(60, 40));
         QCOMPARE(image.pixelColor(30, 20), QColor(Qt::blue));
+    }
+
+    void judgesAPage()
+    {
+        const QByteArray body = "import UiUtils.Controls 1.0\nRectangle { width: 300; height: 200; color: 'white'; MouseArea { width: %1; height:"
+                                " width; onClicked: {} }\nText { x: 90; color: ControlsStyle.text; font.pixelSize: 30; text: 'W'\n"
+                                "Accessible.role: Accessible.StaticText; Accessible.name: text } }";
+        const QStringList options {"--services", m_services, "--audit", "--screen", "800x480@254"};
+        const Outcome small = run(QStringList {page(QByteArray(body).replace("%1", "70"))} + options);
+        QCOMPARE(small.exitCode, 1);
+        QVERIFY2(small.output.startsWith("Target: MouseArea: 7.0 x 7.0 mm, at least 9.0\n"), qPrintable(small.output + small.errors));
+        // The theme is switched: only on a dark one is the text too light for this surface.
+        QVERIFY2(small.output.contains("dark: Contrast: Text \"W\"") && !small.output.contains("light: "), small.output);
+        QCOMPARE(run(QStringList {page(QByteArray(body).replace("%1", "90").replace("'white'", "ControlsStyle.background"))} + options).exitCode, 0);
     }
 
     void aFaultyPage()

@@ -252,6 +252,64 @@ private Q_SLOTS:
         QCOMPARE(titlesAfter(&uiutils::sharedReportItems()), expected);
     }
 
+    /// The item of a table reads its rows from the document, which it keeps; those of a table of many columns are stored.
+    void itemsShowTheDocument_data()
+    {
+        QTest::addColumn<int>("columns");
+        QTest::newRow("read") << 3;
+        QTest::newRow("stored") << 9;
+    }
+    void itemsShowTheDocument()
+    {
+        QFETCH(int, columns);
+        const QString document = R"({"table_1": {"title": "A", "num_columns": %1, "use_row_labels": true,
+            "row_2": {"label": "two", "cell_0": {"label": 7, "attr_status": "64", "attr_align": "2"}, "cell_1": {"label": "EMPTY"}},
+            "row_10": {"label": "EMPTY", "cell_2": {"label": "ten", "attr_align": "-5"}},
+            "row_1": {"cell_0": "no cell"}, "row_3": "no row", "a_row_4": {"label": "no row"}},
+            "table_2": {"title": "B", "num_columns": 0, "row_1": {}}})";
+        const QString path = writeFile(m_root.filePath("rows.json"), document.arg(columns).toUtf8());
+        const auto cells = [](const ReportTable& table, int row) {
+            QStringList texts;
+            for (const ReportTable::Cell& cell : table.row(row))
+                texts += QString("%1 %2 %3 %4 %5").arg(cell.text).arg(cell.status).arg(cell.alignment)
+                                 .arg(int(cell.kind)).arg(cell.columnSpan);
+            return texts;
+        };
+        for (const bool keepsText : {true, false}) {
+            QList<ReportItem*> items;
+            {
+                ReportTemplate report;
+                report.readFile(path);
+                TemplateToHtmlWriter writer(report, &items);
+                keepsText ? void(writer.getHtml()) : writer.collectItems();
+            }
+            QVector<ReportTable*> tables;
+            for (ReportItem* item : qAsConst(items)) {
+                if (auto* table = dynamic_cast<ReportTable*>(item); table && table->title().size() == 1)
+                    tables += table;
+            }
+            QCOMPARE(tables.size(), 2);
+            QCOMPARE(tables.at(1)->rowCount(), 0);
+            ReportTable& table = *tables.at(0);
+            QCOMPARE(table.rowCount(), 3);
+            QCOMPARE(cells(table, 0), (QStringList {" 0 2 1 1", QString(" 0 0 0 %1").arg(columns)}));
+            const QStringList ten {" 0 2 1 1", " 0 0 0 2", "ten 0 0 0 1"};
+            QCOMPARE(cells(table, 1).mid(0, 3), ten);
+            QCOMPARE(cells(table, 2), (QStringList {"two 0 2 1 1", "7 64 2 0 1", " 0 -1 0 1", QString(" 0 0 0 %1").arg(columns - 2)}));
+            QCOMPARE(table.cellAt(1, 3)->text, QString("ten"));
+            QCOMPARE(table.cellAt(2, 1)->text, QString("7"));
+            QVERIFY(table.cellAt(2, 2) && table.cellAt(2, 3) && !table.cellAt(0, 2) && !table.cellAt(1, 2));
+
+            table.appendCell({"of the application"});
+            table.endRow();
+            QCOMPARE(table.rowCount(), 4);
+            QCOMPARE(cells(table, 1).mid(0, 3), ten);
+            QCOMPARE(table.cellAt(3, 0)->text, QString("of the application"));
+            QVERIFY(!table.cellAt(1, 2));
+            qDeleteAll(items);
+        }
+    }
+
     /// A table may claim many more columns than it fills, and have keys that are not rows.
     void columnsAreLaidOutForFilledCellsOnly()
     {

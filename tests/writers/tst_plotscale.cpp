@@ -204,7 +204,7 @@ private Q_SLOTS:
     void axesReachTheirLimits()
     {
         PlotData data = oneCurve({{0, 10}, {1, 20}});
-        data.limits = {{PlotLimit::Upper, 100, "", LeftSide}, {PlotLimit::Lower, -5000, "", RightSide}};
+        data.limits = {{PlotLimit::Upper, 100, "", LeftSide, {}}, {PlotLimit::Lower, -5000, "", RightSide, {}}};
         const Interval left = data.yExtent(LeftSide);
         QVERIFY(left.low == 10 && left.high > 100 && left.high < 105);
         QVERIFY(data.yExtent(RightSide).low <= -5000 && data.yExtent(RightSide).high < 0);

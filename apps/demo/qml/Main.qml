@@ -1,34 +1,43 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
-import QtQuick.Layouts 1.15
+import QtQuick.Templates 2.15 as T
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 import UiUtils.Demo 1.0
 
-ApplicationWindow {
+// The instrument: its states above, a page, the ways to the pages below. Pages are made when they are first shown.
+T.ApplicationWindow {
     id: window
 
     required property LoopbackMeasurement measurement
-    // The page shown: 0 Measure, 1 Results, 2 Report, 3 Settings, 4 Entries.
-    property alias page: navigation.currentIndex
-
-    readonly property alias report: reportPage.report
-    readonly property alias camera: camera
-
+    readonly property var tabs: ["home", "setup", "run", "results", "report", "files"]
+    readonly property var files: ({ home: "HomePage.qml", setup: "SetupPage.qml", run: "RunPage.qml", results: "ResultsPage.qml",
+                                    report: "ReportPage.qml", files: "FilesPage.qml", jobs: "JobsPage.qml", people: "PeoplePage.qml",
+                                    settings: "SettingsPage.qml", language: "LanguagePage.qml", notifications: "NotificationsPage.qml", review: "ReviewPage.qml",
+                                    gallery: "GroupsPage.qml" })
+    readonly property var pageNames: Object.keys(files)
+    readonly property alias session: session
+    readonly property alias report: session.report
+    readonly property alias camera: session.camera
+    readonly property alias stack: stack
+    property bool isDrawn: false
     property bool closesOnceSaved: false
 
-    // Saves the report of the last run, as its page does; false when that asks the user a question or reports an error.
-    function saveReport() {
-        return reportPage.save()
+    // Shows the page of that name, and returns it. Tabs take the place of what is shown; all others come upon it.
+    function open(name) {
+        const tab = tabs.indexOf(name)
+        if (tab < 0)
+            return stack.push(files[name], name === "gallery" ? {} : { session: session })
+        navigation.currentIndex = tab
+        return stack.open(files[name], { session: session })
     }
 
-    // What a user does on the settings page: enters a text for the setting with that id, and returns the previous text;
-    // applies all entries, and returns the reason when that failed.
-    function enterSetting(id, text) {
-        return settingsPage.enter(id, text)
+    function showPage(index) {
+        return open(tabs[index])
     }
-    function applySettings() {
-        return settingsPage.apply()
+
+    // What the first picture does not need, neither its objects nor its files.
+    function complete() {
+        overlays.setSource("Overlays.qml", { session: session })
     }
 
     // Errors that happened meanwhile are read first.
@@ -38,103 +47,39 @@ ApplicationWindow {
             window.close()
     }
 
+    width: 1024
+    height: 600
+    visible: true
+    title: qsTr("TCP loopback test")
+    color: ControlsStyle.background
+    LayoutMirroring.enabled: ControlsStyle.mirrored
+    LayoutMirroring.childrenInherit: true
     // The page of a running save must stay.
     onClosing: {
         close.accepted = !report.saving
         closesOnceSaved = report.saving
     }
+    Component.onCompleted: open("home")
 
-    width: 1024
-    height: 600
-    minimumWidth: 880
-    minimumHeight: 540
-    visible: true
-    title: qsTr("TCP loopback test")
-    background: Rectangle { color: Theme.background }
-
-    header: Rectangle {
-        implicitHeight: 56
-        color: Theme.card
-
-        RowLayout {
-            anchors { fill: parent; leftMargin: Theme.margin; rightMargin: Theme.margin }
-            spacing: Theme.margin
-
-            Image {
-                // As wide as the right side, so that the title is centred.
-                Layout.preferredWidth: 150 + Theme.touch + Theme.margin
-                Layout.preferredHeight: 40
-                horizontalAlignment: Image.AlignLeft
-                source: "qrc:/uiutils/images/Norda_Color-medium.png"
-                fillMode: Image.PreserveAspectFit
-                mipmap: true
-                Accessible.ignored: true
-            }
-            Text {
-                Layout.fillWidth: true
-                text: window.title
-                textFormat: Text.PlainText
-                color: Theme.text
-                font.pixelSize: Theme.headingText
-                horizontalAlignment: Text.AlignHCenter
-            }
-            Item {
-                Layout.preferredWidth: 150
-                Layout.preferredHeight: 40
-
-                StatusBadge {
-                    anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-                    status: window.measurement.status
-                    word: window.measurement.roundTrip.statusText(status)
-                    pixelSize: Theme.headingText
-                }
-            }
-            CameraButton {
-                objectName: "cameraButton"
-                enabled: cameraShortcut.enabled
-                onClicked: camera.shoot(window)
-            }
-        }
-        Rectangle {
-            anchors.bottom: parent.bottom
-            width: parent.width
-            height: 1
-            color: Theme.border
+    Session {
+        id: session
+        measurement: window.measurement
+        onPageWanted: window.open(name)
+        onShotWanted: camera.shoot(window)
+    }
+    Binding {
+        target: ControlsStyle
+        property: "theme"
+        value: ControlsStyle.themes[typeof unit_cfg_theme === "undefined" ? 0 : unit_cfg_theme.value] || "light"
+    }
+    Connections {
+        target: window
+        enabled: !window.isDrawn
+        function onFrameSwapped() {
+            window.isDrawn = true
+            Qt.callLater(window.complete)
         }
     }
-
-    StackLayout {
-        anchors.fill: parent
-        currentIndex: navigation.currentIndex
-
-        MeasurePage {
-            focus: true
-            measurement: window.measurement
-        }
-        ResultsPage {
-            measurement: window.measurement
-        }
-        ReportPage {
-            id: reportPage
-            measurement: window.measurement
-        }
-        SettingsPage {
-            id: settingsPage
-            measurement: window.measurement
-        }
-        Loader {
-            readonly property bool isWanted: navigation.currentIndex === 4
-
-            // Its many entries are created when the page is first shown, and stay.
-            active: false
-            onIsWantedChanged: active = true
-            sourceComponent: services.optical ? galleryPage : noGallery
-        }
-    }
-
-    ScreenCamera { id: camera }
-    NotificationDialog {}
-    SaveProgress { report: window.report }
     Connections {
         target: window.report
         function onSavingChanged() {
@@ -144,42 +89,43 @@ ApplicationWindow {
         }
     }
 
-    footer: TabBar {
+    header: InstrumentBar { session: session }
+    PageStack {
+        id: stack
+        anchors.fill: parent
+        focus: true
+        folder: Qt.resolvedUrl(".")
+        Component.onCompleted: window.pageNames.forEach(name => keep(window.files[name]))
+    }
+    footer: TouchTabs {
         id: navigation
-        spacing: 0
-
-        NavigationTab { text: qsTr("Measure") }
-        NavigationTab { text: qsTr("Results") }
-        NavigationTab { text: qsTr("Report") }
-        NavigationTab {
-            text: qsTr("Settings")
-            marked: settingsPage.changed > 0
-        }
-        NavigationTab { text: qsTr("Entries") }
+        objectName: "navigation"
+        navigation: true
+        model: [
+            { name: "home", icon: "home", text: qsTr("Home") },
+            { name: "setup", icon: "settings", text: qsTr("Set-up"), marked: session.setup.pending.length > 0 },
+            { name: "run", icon: "run", text: qsTr("Run") },
+            { name: "results", icon: "results", text: qsTr("Results") },
+            { name: "report", icon: "report", text: qsTr("Report"), marked: session.hasResults && !session.isSaved },
+            { name: "files", icon: "files", text: qsTr("Files") }
+        ]
+        onChosen: window.showPage(index)
     }
 
-    Shortcut { sequence: "Ctrl+1"; onActivated: navigation.currentIndex = 0 }
-    Shortcut { sequence: "Ctrl+2"; onActivated: navigation.currentIndex = 1 }
-    Shortcut { sequence: "Ctrl+3"; onActivated: navigation.currentIndex = 2 }
-    Shortcut { sequence: "Ctrl+4"; onActivated: navigation.currentIndex = 3 }
-    Shortcut { sequence: "Ctrl+5"; onActivated: navigation.currentIndex = 4 }
+    Loader { id: overlays }
 
+    Repeater {
+        model: window.tabs
+        Item {
+            Shortcut { sequence: "Ctrl+" + (index + 1); onActivated: window.showPage(index) }
+        }
+    }
     Shortcut {
-        id: cameraShortcut
         // Pictures include dialogs.
         context: Qt.ApplicationShortcut
         enabled: !window.report.saving
         sequences: ["Print", "Ctrl+P"]
         autoRepeat: false
-        onActivated: camera.shoot(window)
-    }
-
-    Component {
-        id: galleryPage
-        GalleryPage {}
-    }
-    Component {
-        id: noGallery
-        EmptyNote { text: qsTr("This page shows the items of the service \"optical\", which is not published.") }
+        onActivated: session.shotWanted()
     }
 }

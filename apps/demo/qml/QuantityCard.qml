@@ -1,86 +1,102 @@
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
+import UiUtils 1.0
+import UiUtils.Controls 1.0
+import UiUtils.Plot 1.0
 import UiUtils.Demo 1.0
 
-// One quantity during the measurement: its median as a large figure, its spread, its samples and its limit.
+// One quantity during a run: its median as a large figure with its verdict, its spread, and its curve with the limit.
 Card {
     id: card
 
     property SampleModel quantity
-    property int slots: 20
-    property alias steps: stepper.steps
+    // Whether the limit is a maximum.
+    property bool isMaximum: false
 
     function shown(value) {
         return quantity.count > 0 ? quantity.numberText(value) : "\u2013"
     }
 
-    ColumnLayout {
-        anchors { fill: parent; margins: Theme.margin }
-        spacing: Theme.gap
+    Layout.fillWidth: true
+    Layout.fillHeight: true
+    Layout.preferredWidth: 1
+    padding: ControlsStyle.gap
 
-        RowLayout {
-            Layout.preferredHeight: 24
+    // One line of figures: the curve is what the page is for.
+    RowLayout {
+        Layout.fillWidth: true
+        spacing: ControlsStyle.gap
 
-            Text {
+        FigureText {
+            text: card.shown(card.quantity.median)
+            color: card.quantity.status === Status.None ? ControlsStyle.text : ControlsStyle.qualityColor(card.quantity.status)
+            font.pixelSize: ControlsStyle.pt(20)
+            Accessible.name: qsTr("%1, median: %2").arg(card.quantity.title).arg(card.quantity.text(card.quantity.median))
+        }
+        LabelText {
+            Layout.alignment: Qt.AlignBottom
+            Layout.bottomMargin: ControlsStyle.gap
+            text: card.quantity.unit
+        }
+        ColumnLayout {
+            spacing: 0
+
+            BodyText {
                 Layout.fillWidth: true
                 text: card.quantity.title
-                textFormat: Text.PlainText
-                color: Theme.text
-                font { pixelSize: Theme.headingText; bold: true }
+                horizontalAlignment: Text.AlignRight
+                font.weight: Font.DemiBold
             }
-            StatusBadge {
+            StatusMark {
+                Layout.alignment: Qt.AlignRight
                 status: card.quantity.status
-                word: card.quantity.statusText(card.quantity.status)
             }
         }
-        RowLayout {
-            Layout.preferredHeight: 54
-            spacing: 8
+    }
+    LabelText {
+        Layout.fillWidth: true
+        text: qsTr("%1 to %2, jitter %3, %4").arg(card.shown(card.quantity.minimum)).arg(card.shown(card.quantity.maximum))
+              .arg(card.shown(card.quantity.jitter)).arg(card.quantity.limitText)
+        wrapMode: Text.Wrap
+    }
+    LivePlot {
+        id: plot
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        xLabel: qsTr("Sample")
+        textSize: ControlsStyle.smallText
+        legend: false
+        emptyText: qsTr("No samples yet")
+        colors {
+            background: ControlsStyle.card
+            plotArea: ControlsStyle.field
+            text: ControlsStyle.text
+            grid: ControlsStyle.grid
+            minorGrid: ControlsStyle.grid
+            cursor: ControlsStyle.primary
+            marker: ControlsStyle.information
+            limit: ControlsStyle.axis
+            pass: ControlsStyle.pass
+            marginal: ControlsStyle.warning
+            fail: ControlsStyle.fail
+            curves: ControlsStyle.curves
+        }
+        Accessible.role: Accessible.Chart
+        Accessible.name: card.quantity.title
+        Accessible.description: plot.accessibleText
 
-            Text {
-                text: card.shown(card.quantity.median)
-                textFormat: Text.PlainText
-                color: Theme.primary
-                font { pixelSize: Theme.figureText; bold: true }
-            }
-            Text {
-                Layout.alignment: Qt.AlignBottom
-                Layout.bottomMargin: 8
-                Layout.fillWidth: true
-                text: qsTr("%1 (median)").arg(card.quantity.unit)
-                textFormat: Text.PlainText
-                color: Theme.mutedText
-                font.pixelSize: Theme.bodyText
-            }
-        }
-        RowLayout {
-            spacing: Theme.gap
+        PlotCurve {
+            name: card.quantity.title
+            unit: card.quantity.unit
+            model: card.quantity
+            xRole: "number"
+            yRole: "value"
 
-            Repeater {
-                model: [
-                    { name: qsTr("Minimum"), value: card.quantity.minimum },
-                    { name: qsTr("Maximum"), value: card.quantity.maximum },
-                    { name: qsTr("Jitter"), value: card.quantity.jitter }
-                ]
-
-                SummaryFigure {
-                    Layout.fillWidth: true
-                    Layout.preferredWidth: 1
-                    name: modelData.name
-                    value: card.shown(modelData.value)
-                }
+            PlotLimit {
+                upper: card.isMaximum ? card.quantity.limit : NaN
+                lower: card.isMaximum ? NaN : card.quantity.limit
+                label: qsTr("Limit")
             }
-        }
-        SampleChart {
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            quantity: card.quantity
-            slots: card.slots
-        }
-        LimitStepper {
-            id: stepper
-            Layout.fillWidth: true
-            quantity: card.quantity
         }
     }
 }

@@ -21,7 +21,7 @@ AbstractButton {
         id: caption
         text: control.text
         textFormat: Text.PlainText
-        color: !control.enabled ? Theme.disabled : control.checked ? Theme.card : Theme.primary
+        color: !control.enabled ? Theme.disabledText : control.checked ? Theme.primaryText : Theme.primary
         font { pixelSize: control.isSign ? Theme.signText : Theme.smallText; bold: true }
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
@@ -29,16 +29,16 @@ AbstractButton {
     }
     background: Rectangle {
         radius: Theme.radius
-        color: control.checked ? Theme.primary : control.down ? Theme.background : Theme.card
-        border { width: 2; color: control.enabled ? Theme.primary : Theme.border }
+        color: control.checked ? Theme.primary : control.down ? Theme.pressed : Theme.card
+        border { width: Theme.line; color: Theme.border }
 
         // Shows which control has the keyboard focus.
         Rectangle {
-            anchors { fill: parent; margins: -3 }
+            anchors { fill: parent; margins: -1.5 * border.width }
             visible: control.visualFocus
-            radius: Theme.radius + 3
+            radius: Theme.radius + border.width
             color: "transparent"
-            border { width: 3; color: Theme.focus }
+            border { width: Theme.focusLine; color: Theme.focus }
         }
     }
 }

@@ -7,11 +7,11 @@ Rectangle {
 
     property ViewerDocument document
 
-    width: Math.min(parent.width - 4 * Theme.margin, 720)
+    width: Math.min(parent.width - 4 * Theme.margin, Theme.mm(110))
     height: words.implicitHeight + 4 * Theme.margin
     radius: Theme.radius
     color: Theme.card
-    border { width: 1; color: Theme.border }
+    border { width: Theme.line; color: Theme.border }
     Accessible.role: Accessible.AlertMessage
     Accessible.name: document.problem
     Accessible.description: document.path + "\n" + document.advice
@@ -25,7 +25,7 @@ Rectangle {
             width: parent.width
             text: note.document.problem
             textFormat: Text.PlainText
-            color: Theme.fail
+            color: Theme.invalid
             font { pixelSize: Theme.headingText; bold: true }
             wrapMode: Text.Wrap
         }

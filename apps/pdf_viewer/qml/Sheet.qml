@@ -30,7 +30,7 @@ Rectangle {
             return sheet.status === PageItem.Drawing ? qsTr("Page %1").arg(sheet.page + 1) : ""
         }
         textFormat: Text.PlainText
-        color: sheet.status === PageItem.Failed ? Theme.fail : Theme.mutedText
+        color: sheet.status === PageItem.Failed ? Theme.invalid : Theme.mutedText
         font.pixelSize: Theme.bodyText
         wrapMode: Text.Wrap
         elide: Text.ElideRight

@@ -1,9 +1,8 @@
 pragma Singleton
 import QtQuick 2.15
 
-CommonTheme {
-    readonly property color desk: "#d5dee4"
-
-    readonly property int bar: 60
-    readonly property int signText: 28
+// The measures and colours of the kit; the viewer does without its module.
+Measures {
+    readonly property color desk: divider
+    readonly property int signText: headingText
 }

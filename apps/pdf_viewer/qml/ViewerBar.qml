@@ -11,26 +11,28 @@ Rectangle {
 
     signal closeWanted()
 
-    implicitHeight: Theme.bar
+    implicitHeight: Theme.touch + 2 * Theme.gap
     color: Theme.card
 
     RowLayout {
         anchors { fill: parent; leftMargin: Theme.margin; rightMargin: Theme.margin }
-        spacing: Theme.gap
+        spacing: Theme.touchGap
 
         Text {
             Layout.fillWidth: true
             text: bar.title
             textFormat: Text.PlainText
             color: Theme.text
-            font.pixelSize: Theme.headingText
+            font.pixelSize: Theme.bodyText
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
             elide: Text.ElideRight
             Accessible.role: Accessible.Heading
             Accessible.name: text
         }
         RowLayout {
             visible: bar.pages.count > 0
-            spacing: Theme.gap
+            spacing: Theme.touchGap
 
             BarButton {
                 objectName: "previousButton"
@@ -66,7 +68,6 @@ Rectangle {
                 enabled: bar.pages.page < bar.pages.count - 1
                 onClicked: bar.pages.goTo(bar.pages.page + 1)
             }
-            Item { Layout.preferredWidth: Theme.gap }
             BarButton {
                 objectName: "zoomOutButton"
                 isSign: true
@@ -77,7 +78,7 @@ Rectangle {
             }
             Text {
                 objectName: "zoomText"
-                Layout.preferredWidth: 58
+                Layout.preferredWidth: Theme.mm(12)
                 text: qsTr("%1 %").arg(Math.round(bar.pages.zoom * 100))
                 textFormat: Text.PlainText
                 color: Theme.text
@@ -108,7 +109,6 @@ Rectangle {
                 checked: bar.pages.fit === PageList.FitPage
                 onClicked: bar.pages.fitTo(PageList.FitPage)
             }
-            Item { Layout.preferredWidth: Theme.gap }
         }
         BarButton {
             objectName: "closeButton"
@@ -121,7 +121,7 @@ Rectangle {
     Rectangle {
         anchors.bottom: parent.bottom
         width: parent.width
-        height: 1
+        height: Theme.line
         color: Theme.border
     }
 }

@@ -108,6 +108,14 @@ TableReader::Extent TableReader::extent() const
     return extent;
 }
 
+QVector<int> TableReader::rowPlaces() const
+{
+    QVector<int> places;
+    forEachRowOnPage([&](int place, const QJsonObject&) { places += place; });
+    places.squeeze();
+    return places;
+}
+
 const QString& TableReader::cellKey(int column)
 {
     // Shared permanently, which makes tables that claim a thousand columns and fill two many times cheaper.
@@ -128,6 +136,12 @@ int TableReader::columnOf(const QString& key) const
     const int column = key.midRef(keys::cellFamily.size()).toInt(&isNumber);
     // "cell_07" and "cell_+7" are not keys of cells.
     return isNumber && column >= 0 && column < m_columnCount && cellKey(column) == key ? column : -1;
+}
+
+QString TableReader::plotSource() const
+{
+    const QString own = text(keys::plotData);
+    return own.isEmpty() ? text(keys::service) : own;
 }
 
 bool TableReader::usesRowLabels() const

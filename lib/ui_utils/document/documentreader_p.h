@@ -150,6 +150,8 @@ public:
     QStringList columnLabels() const;
     bool usesRowLabels() const;
     bool isPlot() const { return text(keys::label) == keys::plot; }
+    /// What a plot shows: its own data, or the name of the service that has them.
+    QString plotSource() const;
 
     /// The key of the cell in that column.
     static const QString& cellKey(int column);
@@ -168,6 +170,21 @@ public:
     {
         forEachChild(keys::rowFamily, order, visit);
     }
+
+    /// Calls visit(int place, QJsonObject row) for each row that HTML and PDF pages show, in the order of their keys.
+    template<typename Visitor> void forEachRowOnPage(Visitor visit) const
+    {
+        int place = 0;
+        for (auto it = m_node.begin(); it != m_node.end(); ++it, ++place) {
+            const QJsonValue value = it.value();
+            if (value.isObject() && it.key().startsWith(keys::rowFamily))
+                visit(place, value.toObject());
+        }
+    }
+    /// The places of these rows.
+    QVector<int> rowPlaces() const;
+    /// The row at a place.
+    QJsonObject rowAt(int place) const { return (m_node.begin() + place).value().toObject(); }
 
     /// Calls visit(int column, QJsonObject cell) for each cell that a row has in a column of the table, in the order of
     /// the columns. The time depends on what the row holds: a table may claim many more columns than it fills.

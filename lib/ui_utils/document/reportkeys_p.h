@@ -35,7 +35,8 @@ inline const QLatin1String logFamily("log_");
 
 /// The text that means an empty one.
 inline const QLatin1String emptyText("EMPTY");
-/// The label that makes a table a plot.
+/// The label that makes a table a plot, and the key of data that the plot has itself.
 inline const QLatin1String plot("plot");
+inline const QLatin1String plotData("plot_data");
 
 } // namespace uiutils::keys

@@ -105,6 +105,11 @@ void ReportTemplate::adopt(const ReportTemplate& other)
     d->path = other.d->path;
 }
 
+void ReportTemplate::setObject(const QJsonObject& root)
+{
+    d->document.setObject(root);
+}
+
 bool ReportTemplate::hasError() const
 {
     return d->document.hasError();

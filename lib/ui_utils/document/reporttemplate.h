@@ -41,6 +41,8 @@ public:
     void readDiskFile(const QString& file);
     /// Replaces the document, the tag, the path and the errors of readFile() by those of `other`. Open nodes stay open.
     void adopt(const ReportTemplate& other);
+    /// Replaces the document alone. Open nodes stay open.
+    void setObject(const QJsonObject& root);
     /// Whether the last readFile() failed.
     Q_INVOKABLE bool hasError() const;
     /// The document as indented JSON text; empty for an empty document.

@@ -2,6 +2,7 @@
 
 #include "base/paths_p.h"
 #include "files/drivespace_p.h"
+#include "files/filename_p.h"
 #include "instrument/drives_p.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
@@ -42,6 +43,10 @@ namespace {
 const QLatin1String uidKey("uid");
 const QLatin1String fileNameKey("Filename");
 const QLatin1String iconFileKey("IconFile");
+// What a dialog shows besides title and text.
+const QLatin1String acceptKey("acceptText");
+const QLatin1String rejectKey("rejectText");
+const QLatin1String detailsKey("details");
 
 QString kindOf(const QString& path)
 {
@@ -55,6 +60,25 @@ QMap<QString, QString> joined(QMap<QString, QString> first, const QMap<QString, 
     for (auto it = others.cbegin(); it != others.cend(); ++it)
         first.insert(it.key(), it.value());
     return first;
+}
+
+QMap<QString, QString> overwriteValues(const QMap<QString, QString>& others)
+{
+    return joined({{acceptKey, FileUtils::tr("Overwrite")}, {rejectKey, FileUtils::tr("Keep")}}, others);
+}
+
+/// The files, one in each line.
+QString shownFiles(const QString& paths)
+{
+    constexpr int most = 100;
+    QStringList shown = paths.split(QLatin1Char('\n'));
+    const int others = shown.size() - most;
+    shown = shown.mid(0, most);
+    for (QString& path : shown)
+        path = uiutils::instrument::shownPath(path);
+    if (others > 0)
+        shown += FileUtils::tr("and %1 more").arg(others);
+    return shown.join(QLatin1Char('\n'));
 }
 
 std::optional<qint64> countedBlocks(
@@ -163,7 +187,7 @@ void FileUtils::sendNotificationOverwriteRequest(QString real_file_path_to, QMap
     const QString text = real_file_path_to.isEmpty()
             ? tr("Do you want to overwrite all files/directories?")
             : tr("Do you want to overwrite %1 %2?").arg(kindOf(real_file_path_to), name);
-    d->sendRequest(tr("File Exists"), text, optional_args);
+    d->sendRequest(tr("File Exists"), text, overwriteValues(optional_args));
 }
 
 void FileUtils::sendNotificationDeleteRequest(QString real_file_path, QMap<QString, QString> optional_args)
@@ -173,7 +197,10 @@ void FileUtils::sendNotificationDeleteRequest(QString real_file_path, QMap<QStri
     const QString text = count > 1
             ? tr("Do you want to delete these %1 files?").arg(count)
             : tr("Do you want to delete the %1 %2?").arg(kind, getSanitizedPathName(real_file_path));
-    d->sendRequest(tr("Delete %1").arg(kind), text, joined({{fileNameKey, real_file_path}}, optional_args));
+    QMap<QString, QString> values {{fileNameKey, real_file_path}, {acceptKey, tr("Delete")}, {rejectKey, tr("Keep")}};
+    if (count > 1)
+        values.insert(detailsKey, shownFiles(real_file_path));
+    d->sendRequest(tr("Delete %1").arg(kind), text, joined(values, optional_args));
 }
 
 void FileUtils::sendNotificationOverwriteReportRequest(QString real_file_path, QMap<QString, QString> optional_args)
@@ -183,7 +210,7 @@ void FileUtils::sendNotificationOverwriteReportRequest(QString real_file_path, Q
     if (name.endsWith(QLatin1String(".pdf.gz")))
         name.chop(compression.size());
     d->sendRequest(tr("Report Exists"), tr("Do you want to overwrite report %1?").arg(name),
-            joined({{fileNameKey, real_file_path}}, optional_args));
+            overwriteValues(joined({{fileNameKey, real_file_path}}, optional_args)));
 }
 
 void FileUtils::sendNotificationOverwriteScreenshotRequest(
@@ -191,7 +218,7 @@ void FileUtils::sendNotificationOverwriteScreenshotRequest(
 {
     const QString name = getSanitizedPathName(real_file_path);
     d->sendRequest(tr("File Exists"), tr("Do you want to overwrite screenshot %1?").arg(name),
-            joined({{fileNameKey, real_file_path}, {iconFileKey, icon_file}}, optional_args));
+            overwriteValues(joined({{fileNameKey, real_file_path}, {iconFileKey, icon_file}}, optional_args)));
 }
 
 qint64 FileUtils::getDirSize(QString src_path, QString dest_path, qint64 fs_block_size)
@@ -204,6 +231,11 @@ qint64 FileUtils::getDirSize(QString src_path, QString dest_path, qint64 fs_bloc
         return 0;
     const auto blocks = countedBlocks("getDirSize", src_path, dest_path, fs_block_size);
     return blocks.value_or(std::numeric_limits<qint64>::max());
+}
+
+QString FileUtils::fileNameProblem(const QString& name) const
+{
+    return uiutils::fileNameProblem(name);
 }
 
 KIVNotification* FileUtilsPrivate::freshNotification(const QString& title, const QString& text)

@@ -22,6 +22,10 @@ class FileUtilsPrivate;
 /// At most one notification of an object is pending: raising one withdraws the one before it. accepted() and rejected()
 /// report the answer to that one, which has the optional arguments as values. Nothing here copies, moves or deletes
 /// files.
+///
+/// Requests have the words of their answers as the values "acceptText" ("Overwrite", "Delete") and "rejectText"
+/// ("Keep"), and the value "details", with a file in each line, if they are about several files. An optional argument
+/// of the name replaces each of these.
 class UIUTILS_EXPORT FileUtils : public QObject
 {
     Q_OBJECT
@@ -79,6 +83,11 @@ public:
     /// 1. The largest number, with a line in the log, if a folder, which the line names, cannot be read, or if there
     /// are more than 100,000 files and folders.
     Q_INVOKABLE qint64 getDirSize(QString src_path, QString dest_path, qint64 fs_block_size);
+
+    /// What is wrong with a file name, in words that can be shown where it is typed; empty if nothing is. The rules are
+    /// those of USB drives that other computers read: no / \ : * ? " < > | and control characters, no space at the
+    /// ends, no point at the end, no name of a device such as "CON", at most 255 bytes.
+    Q_INVOKABLE QString fileNameProblem(const QString& name) const;
 
 Q_SIGNALS:
     /// The user has answered the pending request with yes.

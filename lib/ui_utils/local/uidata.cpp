@@ -117,6 +117,8 @@ void UiData::slotEnumUpdate()
     for (const UiEnumType* choice : choices) {
         if (!choice->getName().isEmpty())
             d->enumMap->insert(choice->getName(), choice->getValue());
+        // A page in another language labels them anew.
+        connect(choice, &UiEnumType::labelChanged, this, &UiData::slotEnumUpdate, Qt::UniqueConnection);
         d->enumLabels.append(choice->getLabel());
         d->enumValues.append(choice->getValue());
     }

@@ -6,8 +6,10 @@
 #include "document/tablerows.h"
 #include "files/fileutils.h"
 #include "files/screenshot.h"
+#include "languages/languages.h"
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
+#include "report/drafts/reportdraft.h"
 #include "report/report.h"
 #include "report/reportpreview.h"
 #include "report/savedreports.h"
@@ -18,6 +20,7 @@
 #include "service/manifest.h"
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
+#include "service/rowfilter.h"
 #include "writers/pdffile/pdffile.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
@@ -32,6 +35,14 @@ QObject* userData(QQmlEngine*, QJSEngine*)
 {
     QQmlEngine::setObjectOwnership(UserData::getInstance(), QQmlEngine::CppOwnership);
     return UserData::getInstance();
+}
+
+QObject* languages(QQmlEngine* engine, QJSEngine*)
+{
+    Languages* const all = Languages::instance();
+    QQmlEngine::setObjectOwnership(all, QQmlEngine::CppOwnership);
+    all->follow(engine);
+    return all;
 }
 
 template<typename Type> void registerOfManifest(const char* uri, const char* name)
@@ -54,6 +65,7 @@ void registerServiceTypes(const char* uri)
     qmlRegisterUncreatableType<BaseFormatter>(
             uri, 1, 0, "BaseFormatter", QStringLiteral("Formatters come from the platform."));
     qmlRegisterType<KIVSignal>(uri, 1, 0, "KIVSignal");
+    qmlRegisterType<RowFilter>(uri, 1, 0, "RowFilter");
     qmlRegisterType<ForgivingValidator>(uri, 1, 0, "ForgivingValidator");
     qmlRegisterSingletonType<UserData>(uri, 1, 0, "UserData", userData);
 
@@ -122,6 +134,7 @@ void registerFileTypes(const char* uri)
 
 void registerTypes(const char* uri)
 {
+    qmlRegisterSingletonType<Languages>(uri, 1, 0, "Languages", languages);
     registerCodes<Status>(uri, "Status");
     registerCodes<Alignment>(uri, "Alignment");
     qmlRegisterType<ReportTemplate>(uri, 1, 0, "ReportTemplate");
@@ -133,6 +146,7 @@ void registerTypes(const char* uri)
     qmlRegisterType<Report>(uri, 1, 0, "Report");
     qmlRegisterType<ReportPreview>(uri, 1, 0, "ReportPreview");
     qmlRegisterType<SavedReports>(uri, 1, 0, "SavedReports");
+    qmlRegisterType<ReportDraft>(uri, 1, 0, "ReportDraft");
 }
 
 } // namespace uiutils

@@ -95,6 +95,11 @@ class UIUTILS_EXPORT Report : public QObject
     /// Whether the tray has one notice for all files of a save, once the last of them is written, in place of one for
     /// each; false by default. With `notifiesTray` false there is none.
     Q_PROPERTY(bool notifiesOncePerSave READ getNotifiesOncePerSave WRITE setNotifiesOncePerSave)
+    /// What is wrong with the name in the settings, in words: see fileNameProblem(). Empty if nothing is, and without a
+    /// name, because a save then proposes one.
+    Q_PROPERTY(QString nameProblem READ getNameProblem NOTIFY problemsChanged)
+    /// Why nothing can be saved in the format in the settings, in words; empty if it can.
+    Q_PROPERTY(QString formatProblem READ getFormatProblem NOTIFY problemsChanged)
 
 public:
     static const QString PDF_EXTENSION; ///< ".pdf"
@@ -154,6 +159,8 @@ public:
     bool isSaving() const;
     double getProgress() const;
     bool getNotifiesOncePerSave() const;
+    QString getNameProblem();
+    QString getFormatProblem() const;
     void setNotifiesOncePerSave(bool once);
 
     /// Whether the page handles events while a report is saved: save() then does so between pages and formats, and the
@@ -285,6 +292,10 @@ public:
     /// Offers users CSV (NSReport::csvFormat) as well, a ".zip" file of all tables. To be called once, when the object
     /// is made: false, and nothing changes, after an earlier call, or if an application's format has the suffix.
     Q_INVOKABLE bool offerCsv(bool hasDecimalComma = false);
+    /// What is wrong with a name for the report, with both numbers if it is too long: by the rules of the item
+    /// "reportName", of files on USB drives, and of the chosen formats. Empty if nothing is. A save rejects fewer
+    /// names, because it need not write to a USB drive.
+    Q_INVOKABLE QString fileNameProblem(const QString& name);
 
     /// The path of a report `name` that is saved now, with `suffix` appended unless it ends so. Makes the folder.
     virtual QString getSaveFilePath(const QString& name, const QString& suffix);
@@ -386,6 +397,7 @@ Q_SIGNALS:
 
     void savingChanged();
     void progressChanged();
+    void problemsChanged();
 
 public Q_SLOTS:
     /// A watched service item, the sender, has changed.

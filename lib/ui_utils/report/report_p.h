@@ -91,6 +91,8 @@ public:
     /// The list of reports is that of the folder that the next one is saved into.
     bool tellLocation();
     bool emitEach(std::initializer_list<void (Report::*)()> notifiers);
+    /// If what is wrong with name or format has changed.
+    bool tellProblems();
 
     // --- Services and settings ---
     void watchServices();
@@ -120,6 +122,8 @@ public:
 
 private:
     Report* const q;
+    QString m_toldNameProblem;
+    QString m_toldFormatProblem;
 };
 
 } // namespace uiutils

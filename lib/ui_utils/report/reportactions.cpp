@@ -178,6 +178,7 @@ bool Report::isCompressionEnabled() const
 void Report::setCompressionEnabled(bool enabled)
 {
     d->isCompressionEnabled = enabled;
+    d->tellProblems();
 }
 
 bool Report::compressFile(const QString& path)

@@ -5,11 +5,13 @@
 #include "core/itemids_p.h"
 #include "instrument/basemanager_p.h"
 #include "instrument/drives_p.h"
+#include "report/nameproblem_p.h"
 #include "report/report.h"
 #include "report/report_p.h"
 #include "report/reportformats_p.h"
 #include "report/reportnaming_p.h"
 #include "report/reportsettingsstore_p.h"
+#include "report/saving/saveplan_p.h"
 
 #include <QFile>
 
@@ -41,7 +43,12 @@ void Report::addSetting(UiData* item)
             this, [this] { uiutils::settleReportSettings(d->settings, *d->settingOrigins); }, Qt::QueuedConnection);
     if (former && former != item)
         former->deleteLater();
+    if (item->getName() == uiutils::nameSetting || item->getName() == uiutils::formatSetting)
+        connect(item, &KivData::valueChanged, this, [this] { d->tellProblems(); });
+    const QPointer<Report> self(this);
     Q_EMIT settingsChanged();
+    if (self)
+        d->tellProblems();
 }
 
 void Report::setFormatApplicable(int format, bool applicable)
@@ -51,8 +58,12 @@ void Report::setFormatApplicable(int format, bool applicable)
     const QList<UiEnumType*> list = choices ? choices->getEnumList() : QList<UiEnumType*>();
     const auto choice = std::find_if(
             list.cbegin(), list.cend(), [=](const UiEnumType* candidate) { return candidate->getValue() == format; });
-    if (choice != list.cend())
-        (*choice)->setApplicable(applicable);
+    if (choice == list.cend())
+        return;
+    const QPointer<Report> self(this);
+    (*choice)->setApplicable(applicable);
+    if (self)
+        d->tellProblems();
 }
 
 bool Report::addFormat(
@@ -126,6 +137,24 @@ QString Report::getSuffixForReport() const
 {
     const uiutils::FormatChoice choice = uiutils::formatChoice(d->settings.value(uiutils::formatSetting));
     return choice.isFormat && !choice.isAll ? choice.formats.constFirst()->suffix : QString();
+}
+
+QString Report::getNameProblem()
+{
+    const KivData* const item = getSetting(uiutils::nameSetting);
+    const QString name = item ? item->getValue().toString() : QString();
+    return name.isEmpty() ? QString() : fileNameProblem(name);
+}
+
+QString Report::getFormatProblem() const
+{
+    return uiutils::formatProblem(uiutils::formatChoice(d->settings.value(uiutils::formatSetting)));
+}
+
+QString Report::fileNameProblem(const QString& name)
+{
+    const uiutils::FormatChoice choice = uiutils::formatChoice(d->settings.value(uiutils::formatSetting));
+    return uiutils::reportNameProblem(name, getSetting(uiutils::nameSetting), choice.formats, d->isCompressionEnabled);
 }
 
 bool Report::isPDF() const

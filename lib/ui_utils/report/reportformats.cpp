@@ -1,6 +1,7 @@
 #include "report/reportformats_p.h"
 
 #include "local/uidata.h"
+#include "report/ownlabel_p.h"
 #include "report/reporttexts_p.h"
 
 #include <algorithm>
@@ -149,6 +150,9 @@ void addFormatChoices(UiData& item)
     }
     item.setUiEnumList(new UiDataEnums(&item));
     item.setEnums(values, labels, names);
+    const QList<UiEnumType*> choices = choicesOf(item);
+    for (int i = 0; i < choices.size(); ++i)
+        keepLabelled(choices.at(i), [&format = knownFormats().at(i)] { return ReportTexts::tr(format.label); });
 }
 
 void addFormatChoice(UiData& item, const FormatInfo& format)

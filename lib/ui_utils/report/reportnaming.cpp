@@ -1,5 +1,6 @@
 #include "report/reportnaming_p.h"
 
+#include "files/filename_p.h"
 #include "report/reportformats_p.h"
 #include "report/reporttexts_p.h"
 
@@ -50,11 +51,11 @@ QString safePathPart(const QString& name)
 QString nameProblem(const QString& name, const QString& suffix, bool compressed)
 {
     if (name == QLatin1String(".") || name == QLatin1String(".."))
-        return ReportTexts::tr("\"%1\" is not a file name.").arg(name);
+        return notAFileName(name);
     if (name.contains(QLatin1Char('/')))
-        return ReportTexts::tr("The name must not contain \"/\".");
+        return nameMustNotContain(QStringLiteral("/"));
     if (name.contains(QChar(QChar::Null)))
-        return ReportTexts::tr("The name must not contain a NUL character.");
+        return nameMustNotContain(ReportTexts::tr("a NUL character"));
     constexpr int mostBytes = 255;
     const auto fits = [&](const QString& part) {
         const QString plain = withSuffix(safePathPart(part), suffix);
@@ -67,7 +68,7 @@ QString nameProblem(const QString& name, const QString& suffix, bool compressed)
     int most = qMin(characters.size(), 2 * mostBytes);
     while (most > 0 && !fits(QString::fromUcs4(characters.constData(), most)))
         --most;
-    return ReportTexts::tr("The name has %1 characters; the maximum is %2.").arg(characters.size()).arg(most);
+    return nameTooLong(most, characters.size());
 }
 
 QString safeFolder(const QString& folder)

@@ -3,6 +3,7 @@
 #include "base/paths_p.h"
 #include "core/itemids_p.h"
 #include "instrument/basemanager_p.h"
+#include "report/ownlabel_p.h"
 #include "report/reporthooks_p.h"
 #include "report/reportnaming_p.h"
 #include "writers/csv/csvreport.h"
@@ -14,9 +15,9 @@ namespace uiutils {
 
 namespace {
 
-QMap<QString, QVariant> attributesOf(const QString& name, const QString& type, const QString& label)
+QMap<QString, QVariant> attributesOf(const QString& name, const QString& type)
 {
-    return {{QStringLiteral("name"), name}, {QStringLiteral("type"), type}, {QStringLiteral("label"), label}};
+    return {{QStringLiteral("name"), name}, {QStringLiteral("type"), type}};
 }
 
 } // namespace
@@ -49,6 +50,15 @@ bool ReportPrivate::emitEach(std::initializer_list<void (Report::*)()> notifiers
             return false;
     }
     return true;
+}
+
+bool ReportPrivate::tellProblems()
+{
+    const QString ofName = q->getNameProblem();
+    const QString ofFormat = q->getFormatProblem();
+    const bool isOtherName = changes(m_toldNameProblem, ofName);
+    const bool isOtherFormat = changes(m_toldFormatProblem, ofFormat);
+    return (!isOtherName && !isOtherFormat) || emitEach({&Report::problemsChanged});
 }
 
 // --- Services and settings ---
@@ -86,20 +96,23 @@ void ReportPrivate::watchItems()
 void ReportPrivate::createSettings()
 {
     auto* name = new StringUiData(q);
-    QMap<QString, QVariant> attributes = attributesOf(nameSetting, UiData::TYPE_STRING, Report::tr("Name"));
+    QMap<QString, QVariant> attributes = attributesOf(nameSetting, UiData::TYPE_STRING);
     attributes.insert(QStringLiteral("regex"), QStringLiteral("^[(?!._)\\w\\d-.\\s]{1,50}$"));
     name->setAttributes(attributes);
+    keepLabelled(name, [] { return Report::tr("Name"); });
     name->setValue(QString());
     q->addSetting(name);
 
     auto* format = new EnumUiData(q);
-    format->setAttributes(attributesOf(formatSetting, UiData::TYPE_ENUM, Report::tr("Format")));
+    format->setAttributes(attributesOf(formatSetting, UiData::TYPE_ENUM));
+    keepLabelled(format, [] { return Report::tr("Format"); });
     addFormatChoices(*format);
     format->setValue(QVariant(int(NSReport::REPORT_FORMAT_PDF)));
     q->addSetting(format);
 
     auto* sync = new BoolUiData(q);
-    sync->setAttributes(attributesOf(syncSetting, UiData::TYPE_BOOL, Report::tr("Sync with Meridex")));
+    sync->setAttributes(attributesOf(syncSetting, UiData::TYPE_BOOL));
+    keepLabelled(sync, [] { return Report::tr("Sync with Meridex"); });
     q->addSetting(sync);
 }
 

@@ -142,12 +142,20 @@ std::optional<QJsonObject> readSettings(const QString& path)
 /// The value that an untouched item takes with this file; its present value if the file has none for it.
 QVariant valueToTake(const UiData& item, const SettingOrigin& origin, const QJsonValue& stored, const QString& path)
 {
-    if (isAllowed(item, stored))
-        return item.getType() == UiData::TYPE_ENUM ? QVariant(stored.toInt()) : stored.toVariant();
+    const QVariant value = allowedValue(item, stored);
+    if (value.isValid())
+        return value;
     return origin.path == path ? item.getValue() : origin.initial;
 }
 
 } // namespace
+
+QVariant allowedValue(const UiData& item, const QJsonValue& stored)
+{
+    if (!isAllowed(item, stored))
+        return {};
+    return item.getType() == UiData::TYPE_ENUM ? QVariant(stored.toInt()) : stored.toVariant();
+}
 
 QString reportSettingsPath(const QString& folder)
 {

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class QJsonValue;
 class UiData;
 
 /// The settings of users for reports: one JSON object in a file for each folder of reports.
@@ -32,6 +33,9 @@ struct SettingOrigin
 
 /// By the name of the item.
 using SettingOrigins = QMap<QString, SettingOrigin>;
+
+/// The value of `stored` for the item; invalid if a user could not have entered it.
+QVariant allowedValue(const UiData& item, const QJsonValue& stored);
 
 /// Takes the present values of new items for their initial ones.
 void settleReportSettings(const ReportSettings& items, SettingOrigins& origins);

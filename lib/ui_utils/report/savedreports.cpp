@@ -2,6 +2,7 @@
 
 #include "document/reportmetadata.h"
 #include "report/savedreports_p.h"
+#include "report/savedtext_p.h"
 #include "report/saving/reportrecord_p.h"
 #include "report/viewer_p.h"
 
@@ -78,6 +79,44 @@ int SavedReports::count() const
     return d->rows.size();
 }
 
+QString SavedReports::filter() const
+{
+    return d->filter;
+}
+
+void SavedReports::setFilter(const QString& filter)
+{
+    if (std::exchange(d->filter, filter) != filter && d->rearrange())
+        Q_EMIT filterChanged();
+}
+
+SavedReports::SortKey SavedReports::sortKey() const
+{
+    return d->sortKey;
+}
+
+void SavedReports::setSortKey(SortKey key)
+{
+    if (std::exchange(d->sortKey, key) != key && d->rearrange())
+        Q_EMIT sortKeyChanged();
+}
+
+bool SavedReports::isReversed() const
+{
+    return d->isReversed;
+}
+
+void SavedReports::setReversed(bool reversed)
+{
+    if (std::exchange(d->isReversed, reversed) != reversed && d->rearrange())
+        Q_EMIT reversedChanged();
+}
+
+int SavedReports::totalCount() const
+{
+    return d->all.size();
+}
+
 int SavedReports::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : d->rows.size();
@@ -92,7 +131,8 @@ QVariant SavedReports::data(const QModelIndex& index, int role) const
 QHash<int, QByteArray> SavedReports::roleNames() const
 {
     return {{NameRole, "name"}, {PathRole, "path"}, {FormatRole, "format"}, {SizeRole, "size"}, {TimeRole, "time"},
-            {CompressedRole, "compressed"}, {DriveRole, "drive"}, {SyncedRole, "synced"}, {ViewableRole, "viewable"}};
+            {CompressedRole, "compressed"}, {DriveRole, "drive"}, {SyncedRole, "synced"}, {ViewableRole, "viewable"},
+            {ReadableRole, "readable"}};
 }
 
 void SavedReports::refresh()
@@ -103,7 +143,7 @@ void SavedReports::refresh()
 bool SavedReports::open(const QString& path)
 {
     if (!isForViewer(path) || !hasViewer())
-        return false;
+        return isForDesktop(path) && openOnDesktop(path);
     if (d->report)
         d->report->showPDF(path);
     else
@@ -139,6 +179,11 @@ QVariantMap SavedReports::record(const QString& path) const
     return {{QStringLiteral("type"), record.type()}, {QStringLiteral("format"), record.format()},
             {QStringLiteral("timeStamp"), record.timeStamp()},
             {QStringLiteral("originFilePath"), record.originFilePath()}, {QStringLiteral("info"), info}};
+}
+
+QString SavedReports::readText(const QString& path) const
+{
+    return savedText(path);
 }
 
 } // namespace uiutils

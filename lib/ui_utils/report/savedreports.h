@@ -11,8 +11,7 @@ namespace uiutils {
 
 class SavedReportsPrivate;
 
-/// The saved reports on the unit and on the USB drive, newest first, and what users can do with them. In QML:
-/// SavedReports.
+/// The saved reports on the unit and on the USB drive, and what users can do with them. In QML: SavedReports.
 ///
 /// | role | value |
 /// |---|---|
@@ -24,7 +23,9 @@ class SavedReportsPrivate;
 /// | `compressed` | whether it is a gzip file |
 /// | `drive` | Unit or Usb |
 /// | `synced` | whether the cloud may take it; invalid if the list of reports that are not synced cannot be used |
-/// | `viewable` | whether open() shows it: a PDF report, and the instrument has a viewer |
+/// | `viewable` | whether open() shows it: a PDF report where the instrument has a viewer; any report that is not
+/// compressed where the machine has "xdg-open", as desktops have | | `readable` | whether readText() has its text: a
+/// TEXT, XML, HTML or JSON report |
 ///
 /// The ending of its name makes a file a report; reports in sub-folders are not listed. The list is read when control
 /// returns to the event loop, after construction, after a setter, and when reports have come or gone, whoever saved or
@@ -44,6 +45,15 @@ class UIUTILS_EXPORT SavedReports : public QAbstractListModel
     Q_PROPERTY(uiutils::SavedReports::Drive drive READ drive WRITE setDrive NOTIFY driveChanged)
     /// The number of rows.
     Q_PROPERTY(int count READ count NOTIFY countChanged)
+    /// Words separated by spaces: only reports are listed that have each of them in name or format, in capital or small
+    /// letters. Empty, the default, for all.
+    Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY filterChanged)
+    /// By what the rows are ordered; ByTime by default. Another order, like another filter, resets the model.
+    Q_PROPERTY(uiutils::SavedReports::SortKey sortKey READ sortKey WRITE setSortKey NOTIFY sortKeyChanged)
+    /// Whether the order is the other way round; false by default.
+    Q_PROPERTY(bool reversed READ isReversed WRITE setReversed NOTIFY reversedChanged)
+    /// The number of rows that there are without a filter.
+    Q_PROPERTY(int totalCount READ totalCount NOTIFY totalCountChanged)
 
 public:
     /// Of which drives the reports are listed.
@@ -60,9 +70,15 @@ public:
         CompressedRole,
         DriveRole,
         SyncedRole,
-        ViewableRole
+        ViewableRole,
+        ReadableRole
     };
     Q_ENUM(Role)
+
+    /// Newest first, by name from A to Z with numbers by their value, largest first, by format. What is equal is
+    /// ordered by time.
+    enum SortKey { ByTime, ByName, BySize, ByFormat };
+    Q_ENUM(SortKey)
 
     explicit SavedReports(QObject* parent = nullptr);
     ~SavedReports() override;
@@ -74,6 +90,13 @@ public:
     Drive drive() const;
     void setDrive(Drive drive);
     int count() const;
+    QString filter() const;
+    void setFilter(const QString& filter);
+    SortKey sortKey() const;
+    void setSortKey(SortKey key);
+    bool isReversed() const;
+    void setReversed(bool reversed);
+    int totalCount() const;
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -81,8 +104,8 @@ public:
 
     /// Reads the list at once.
     Q_INVOKABLE void refresh();
-    /// Opens a PDF report in the instrument's viewer. False if the instrument has no viewer for it; the user is not
-    /// notified of that.
+    /// Opens a PDF report in the instrument's viewer, and any other with the program that the desktop has for it. False
+    /// if there is none; the user is not notified of that.
     Q_INVOKABLE bool open(const QString& path);
     /// Copies the report to the USB drive, durably; asks before it replaces a file there. The tray notifies the user
     /// when the copy is safe. Does nothing for a report that is there.
@@ -96,12 +119,19 @@ public:
     /// The metadata record of the report, read from the disk: `type`, `format`, `timeStamp`, `originFilePath`, and
     /// `info` with the free pairs. Empty, with a line in the log, if the record cannot be read.
     Q_INVOKABLE QVariantMap record(const QString& path) const;
+    /// The text of a report that is text, compressed or not, and at most its first MiB; markup is returned as it
+    /// stands. Empty if the report cannot be read or has no text.
+    Q_INVOKABLE QString readText(const QString& path) const;
 
 Q_SIGNALS:
     void reportChanged();
     void folderChanged();
     void driveChanged();
     void countChanged();
+    void filterChanged();
+    void sortKeyChanged();
+    void reversedChanged();
+    void totalCountChanged();
 
 private:
     friend class SavedReportsPrivate;

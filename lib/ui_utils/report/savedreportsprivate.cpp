@@ -4,6 +4,7 @@
 #include "core/itemids_p.h"
 #include "instrument/basemanager_p.h"
 #include "instrument/drives_p.h"
+#include "report/savedtext_p.h"
 #include "report/saving/nosynclist_p.h"
 #include "report/viewer_p.h"
 
@@ -13,6 +14,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace uiutils {
@@ -101,13 +103,56 @@ void SavedReportsPrivate::refresh()
     if (!self)
         return;
     m_isRefreshing = true;
-    const int countBefore = rows.size();
+    const int rowsBefore = rows.size();
+    const int allBefore = all.size();
     watchDisk();
-    takeRows(read());
+    all = read();
+    if (m_isRearranged)
+        arrange();
+    else
+        takeRows(shown());
     takeMarks();
     m_isRefreshing = false;
-    if (rows.size() != countBefore)
+    tellCounts(rowsBefore, allBefore);
+}
+
+bool SavedReportsPrivate::rearrange()
+{
+    m_isRearranged = true;
+    // The rows are being changed in the former order.
+    if (m_isRefreshing) {
+        schedule();
+        return true;
+    }
+    const int rowsBefore = rows.size();
+    const QPointer<SavedReports> self(q);
+    m_isRefreshing = true;
+    arrange();
+    if (!self)
+        return false;
+    m_isRefreshing = false;
+    return tellCounts(rowsBefore, all.size());
+}
+
+/// Rows that come and go one by one would take long where there are many, and users expect the top of another list.
+void SavedReportsPrivate::arrange()
+{
+    m_isRearranged = false;
+    q->beginResetModel();
+    m_order = SavedReportOrder(sortKey, isReversed);
+    rows = shown();
+    q->endResetModel();
+}
+
+bool SavedReportsPrivate::tellCounts(int rowsBefore, int allBefore)
+{
+    const QPointer<SavedReports> self(q);
+    const bool isOtherTotal = all.size() != allBefore;
+    if (rows.size() != rowsBefore)
         Q_EMIT q->countChanged();
+    if (self && isOtherTotal)
+        Q_EMIT q->totalCountChanged();
+    return self;
 }
 
 QVector<SavedReport> SavedReportsPrivate::read()
@@ -122,6 +167,16 @@ QVector<SavedReport> SavedReportsPrivate::read()
 
 // --- The rows ---
 
+QVector<SavedReport> SavedReportsPrivate::shown() const
+{
+    QVector<SavedReport> reports;
+    const QStringList words = filter.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    std::copy_if(all.cbegin(), all.cend(), std::back_inserter(reports),
+            [&](const SavedReport& report) { return hasWords(report, words); });
+    std::stable_sort(reports.begin(), reports.end(), m_order);
+    return reports;
+}
+
 /// Both lists are in the same order. A report that was saved again has another place: its row is removed and another
 /// one is inserted.
 void SavedReportsPrivate::takeRows(const QVector<SavedReport>& now)
@@ -129,10 +184,10 @@ void SavedReportsPrivate::takeRows(const QVector<SavedReport>& now)
     int row = 0;
     for (int next = 0; next < now.size() || row < rows.size();) {
         int end = row;
-        while (end < rows.size() && (next == now.size() || comesBefore(rows.at(end), now.at(next))))
+        while (end < rows.size() && (next == now.size() || m_order(rows.at(end), now.at(next))))
             ++end;
         int fresh = next;
-        while (end == row && fresh < now.size() && (row == rows.size() || comesBefore(now.at(fresh), rows.at(row))))
+        while (end == row && fresh < now.size() && (row == rows.size() || m_order(now.at(fresh), rows.at(row))))
             ++fresh;
         if (end > row) {
             removeRows(row, end);
@@ -175,8 +230,10 @@ void SavedReportsPrivate::takeMarks()
     if (std::exchange(unsynced, listed) != listed)
         roles += SavedReports::SyncedRole;
     const bool isViewerThere = uiutils::hasViewer();
-    if (std::exchange(hasViewer, isViewerThere) != isViewerThere)
+    const bool isDesktop = uiutils::hasDesktop();
+    if (std::exchange(hasViewer, isViewerThere) != isViewerThere || hasDesktop != isDesktop)
         roles += SavedReports::ViewableRole;
+    hasDesktop = isDesktop;
     if (!roles.isEmpty() && !rows.isEmpty())
         Q_EMIT q->dataChanged(q->index(0), q->index(rows.size() - 1), roles);
 }
@@ -202,7 +259,9 @@ QVariant SavedReportsPrivate::value(const SavedReport& row, int role) const
     case SavedReports::SyncedRole:
         return unsynced ? !unsynced->contains(row.path) : QVariant();
     case SavedReports::ViewableRole:
-        return hasViewer && isForViewer(row.path);
+        return (hasViewer && isForViewer(row.path)) || (hasDesktop && isForDesktop(row.path));
+    case SavedReports::ReadableRole:
+        return hasText(row.path);
     default:
         return {};
     }

@@ -5,8 +5,20 @@
 
 #include <QFileInfo>
 #include <QProcess>
+#include <QStandardPaths>
 
 namespace uiutils {
+
+namespace {
+
+/// Empty without a window system, in which another program could show a file.
+QString desktopProgram()
+{
+    const bool hasWindows = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    return hasWindows ? QStandardPaths::findExecutable(QStringLiteral("xdg-open")) : QString();
+}
+
+} // namespace
 
 bool isForViewer(const QString& path)
 {
@@ -23,6 +35,22 @@ void startViewer(const QString& path, const QString& windowTitle)
     QStringList arguments = QStringLiteral("-plugin EvdevTouch:/dev/input/event1 --dpy 85 -s").split(QLatin1Char(' '));
     arguments << onDisk(path) << QStringLiteral("-t") << windowTitle;
     QProcess::startDetached(onDisk(paths::pdfViewer), arguments, onDisk(paths::pdfViewerFolder));
+}
+
+bool isForDesktop(const QString& path)
+{
+    return !path.endsWith(gzipSuffix);
+}
+
+bool hasDesktop()
+{
+    return !desktopProgram().isEmpty();
+}
+
+bool openOnDesktop(const QString& path)
+{
+    const QString program = desktopProgram();
+    return !program.isEmpty() && QProcess::startDetached(program, {QFileInfo(onDisk(path)).absoluteFilePath()});
 }
 
 } // namespace uiutils

@@ -39,6 +39,7 @@ public:
     bool registerItems();
     bool registerItem(const QString& id);
     void bindItems();
+    void noteAvailability();
     QString actionId(QLatin1String action) const;
     bool send(const QString& actionId, const QString& argument);
 
@@ -46,6 +47,7 @@ public:
     QString manifestId;
     /// The items that have been given wrappers.
     QSet<QString> known;
+    bool wasAvailable = false;
 
 private:
     Manifest* q;
@@ -106,6 +108,7 @@ Manifest::Manifest(KIVClientInterface* client, QString const& qmlTag, QString co
     if (!client)
         return;
     connect(client, &KIVClientInterface::itemsChanged, this, [this] { d->bindItems(); });
+    d->wasAvailable = isAvailable();
     d->registerItems();
 }
 
@@ -138,6 +141,11 @@ KIVClientInterface* Manifest::client() const
 bool Manifest::isChanging() const
 {
     return d->isChanging;
+}
+
+bool Manifest::isAvailable() const
+{
+    return d->client && d->client->isValid();
 }
 
 QVector<QPointer<KivData>> ManifestPrivate::wrappers() const
@@ -216,6 +224,17 @@ void ManifestPrivate::bindItems()
     // What never changes while an item is available is read once, perhaps before it was available.
     if (hasReturned)
         KIVContextObject::evaluateNames();
+    if (self)
+        noteAvailability();
+}
+
+void ManifestPrivate::noteAvailability()
+{
+    const bool isAvailable = q->isAvailable();
+    if (isAvailable == wasAvailable)
+        return;
+    wasAvailable = isAvailable;
+    Q_EMIT q->isAvailableChanged();
 }
 
 void Manifest::startChanges()

@@ -36,6 +36,8 @@ class UIUTILS_EXPORT Manifest : public QObject
     Q_OBJECT
     /// The service's name.
     Q_PROPERTY(QString name READ getServiceName CONSTANT)
+    /// Whether the service can be reached now.
+    Q_PROPERTY(bool isAvailable READ isAvailable NOTIFY isAvailableChanged)
 
 public:
     /// Wraps the items of the service `name`. `qmlTag` begins the names of the items in QML; the service's name does
@@ -51,6 +53,8 @@ public:
 
     /// Whether a transaction runs.
     bool isChanging() const;
+    /// Whether the service can be reached now; false without a client.
+    bool isAvailable() const;
 
     /// Begins a transaction; nothing happens when one runs.
     Q_INVOKABLE void startChanges();
@@ -76,6 +80,10 @@ public:
     static void setQmlContext(QQmlContext* context);
     /// The context last given to setQmlContext(); null after it has been deleted.
     static QQmlContext* qmlContext();
+
+Q_SIGNALS:
+    /// The service vanished or returned; its items have the new answers.
+    void isAvailableChanged();
 
 private:
     friend class uiutils::ManifestPrivate;

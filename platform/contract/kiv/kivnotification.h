@@ -59,7 +59,8 @@ public:
     void setMsg(const QString& msg);
     QString msg() const { return m_msg; }
 
-    /// Stores `value` under `key` for the receiver of the answer; the user does not see it.
+    /// Stores `value` under `key` for the receiver of the answer. The user sees those that a view shows: "acceptText"
+    /// and "rejectText", the words of the answers, and "details", more text.
     void setValue(const QString& key, const QVariant& value);
     /// The value last stored under `key`; invalid without one.
     Q_INVOKABLE QVariant value(const QString& key) const { return m_values.value(key); }

@@ -1,5 +1,7 @@
 #include "embeddeditem_p.h"
 
+#include "shownvalue_p.h"
+
 #include <kiv/kivaggregateclientitem.h>
 #include <kiv/kivenumclientitem.h>
 #include <kiv/kivvecclientitem.h>
@@ -21,7 +23,7 @@ public:
     unsigned getType() const final { return m_state->type; }
     QString getTypeName() const final { return m_state->typeName(); }
     QString getId() const final { return m_state->description.id; }
-    QString getLabel() const final { return m_state->description.label; }
+    QString getLabel() const final { return m_state->label(); }
     QVariant getValue() const final { return m_state->description.value; }
     QString getValueString(bool showUnits = true) const final { return m_state->valueText(showUnits); }
     QString getUnitString() const final { return m_state->unitText(); }
@@ -58,8 +60,7 @@ public:
     QString nameAt(int position) const override { return choices().value(position).name; }
     QString labelAt(int position) const override
     {
-        const ChoiceDescription choice = choices().value(position);
-        return choice.label.isEmpty() ? choice.name : choice.label;
+        return contains(position) ? choiceLabel(m_state->description, choices().at(position)) : QString();
     }
     bool isApplicableAt(int position) const override
     {

@@ -4,6 +4,7 @@
 #include "formatters/formatters_p.h"
 #include "itemtypes_p.h"
 #include "shownvalue_p.h"
+#include "texts_p.h"
 #include "valueconversion_p.h"
 
 #include <algorithm>
@@ -31,7 +32,12 @@ ItemState::ItemState(const ItemDescription& itemDescription)
 
 QString ItemState::title() const
 {
-    return description.label.isEmpty() ? name() : description.label;
+    return description.label.isEmpty() ? name() : label();
+}
+
+QString ItemState::label() const
+{
+    return translatedLabel(description.label, description.id);
 }
 
 QString ItemState::name() const
@@ -76,7 +82,7 @@ QVariant ItemState::attribute(const QString& name) const
     if (own != description.attributes.cend())
         return *own;
     if (name == QLatin1String("label"))
-        return description.label;
+        return label();
     if (name == QLatin1String("type"))
         return typeName();
     if (name == QLatin1String("minRange"))
@@ -138,7 +144,7 @@ QString ItemState::choiceText() const
             });
     if (choice == description.choices.cend())
         return QString();
-    return choice->label.isEmpty() ? choice->name : choice->label;
+    return choiceLabel(description, *choice);
 }
 
 QString ItemState::formattedText(bool showUnits) const

@@ -69,6 +69,8 @@ public:
     bool isEnumeration() const { return description.isEnumeration || !description.choices.isEmpty(); }
     /// The last word of the id that is not an array mark.
     QString name() const;
+    /// In the language of this process, as are all labels that are shown.
+    QString label() const;
     /// The label; if it is empty, the name.
     QString title() const;
 

@@ -55,7 +55,7 @@ QString choicesText(const ItemDescription& item)
     QStringList texts;
     for (const ChoiceDescription& choice : item.choices) {
         if (choice.isApplicable)
-            texts += choice.label.isEmpty() ? choice.name : choice.label;
+            texts += choiceLabel(item, choice);
     }
     if (texts.size() > listedChoices)
         texts = texts.mid(0, listedChoices) << QString(QChar(0x2026));
@@ -88,6 +88,11 @@ QString withUnit(const QString& text, const ItemDescription& item)
 }
 
 } // namespace
+
+QString choiceLabel(const ItemDescription& item, const ChoiceDescription& choice)
+{
+    return choice.label.isEmpty() ? choice.name : translatedLabel(choice.label, item.id);
+}
 
 QString shownText(const QVariant& value, const QVector<MemberDescription>& members, int precision)
 {

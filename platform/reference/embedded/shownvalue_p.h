@@ -8,6 +8,9 @@ namespace kiv::embedded {
 /// needs.
 QString shownText(const QVariant& value, const QVector<MemberDescription>& members, int precision);
 
+/// What users read of a choice: its label; without one, its name.
+QString choiceLabel(const ItemDescription& item, const ChoiceDescription& choice);
+
 /// A value as an error quotes it: long values are shortened, texts are in quotes.
 QString quotedText(const QVariant& value);
 

@@ -5,5 +5,4 @@ RadixEntry {
     radix: 2
     prefix: "0b"
     inputMethodHints: Qt.ImhDigitsOnly
-    hasPad: true
 }

@@ -1,6 +1,6 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
+import QtQuick.Templates 2.15 as T
 import UiUtils.Controls 1.0
 
 /// One of an enumeration's choices; written at once. Choices that are not applicable now are not offered, but a
@@ -36,7 +36,7 @@ Entry {
     rangeText: ""
     plainText: box.displayText
 
-    ComboBox {
+    T.ComboBox {
         id: box
         objectName: "box"
         Layout.fillWidth: true
@@ -46,10 +46,10 @@ Entry {
         textRole: "label"
         currentIndex: entry.position
         displayText: entry.labelOf(entry.currentValue)
-        leftPadding: 0
         font.pixelSize: ControlsStyle.bodyText
         Accessible.name: entry.label
-        Accessible.description: entry.note
+        Accessible.description: entry.spoken(contentItem.text)
+        Accessible.onPressAction: popup.open()
         Keys.onReturnPressed: event.accepted = openByKey()
         Keys.onEnterPressed: event.accepted = openByKey()
         // The same key would close the box again.
@@ -72,45 +72,38 @@ Entry {
         onModelChanged: currentIndex = Qt.binding(() => entry.position)
         onActivated: entry.take(index)
 
-        contentItem: Text {
-            leftPadding: ControlsStyle.margin
+        contentItem: StyledText {
+            readonly property bool mayElide: true
+
+            leftPadding: ControlsStyle.mirrored ? ControlsStyle.margin + sign.width : ControlsStyle.margin
+            rightPadding: ControlsStyle.mirrored ? ControlsStyle.margin : ControlsStyle.margin + sign.width
             text: box.displayText + (entry.unit !== "" && box.displayText !== "" ? " " + entry.unit : "")
-            textFormat: Text.PlainText
             font: box.font
-            color: box.enabled ? ControlsStyle.text : ControlsStyle.mutedText
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideRight
+            Accessible.ignored: true
         }
-        indicator: Text {
-            x: box.width - width - ControlsStyle.margin
+        indicator: Icon {
+            id: sign
+            x: ControlsStyle.mirrored ? ControlsStyle.gap : box.width - width - ControlsStyle.gap
             y: (box.height - height) / 2
-            text: "\u25be"
-            textFormat: Text.PlainText
-            font.pixelSize: ControlsStyle.headingText
-            color: box.enabled ? ControlsStyle.primary : ControlsStyle.border
+            name: "down"
+            color: box.enabled ? ControlsStyle.primary : ControlsStyle.disabledText
         }
         background: EntryFrame {
-            isFocused: box.activeFocus
+            // Not box.popup, which would be made at once.
+            isFocused: box.down
             isInvalid: entry.isInvalid
             quality: entry.face.quality
+
+            FocusFrame { control: box }
         }
-        delegate: ItemDelegate {
-            id: choice
-            width: box.width
-            height: ControlsStyle.touch
+        popup: ChoiceList { box: box }
+        delegate: ChoiceRow {
+            width: ListView.view ? ListView.view.width : 0
+            text: modelData.label
+            isPresent: entry.position === index
             highlighted: box.highlightedIndex === index
-            contentItem: Text {
-                leftPadding: 4
-                text: modelData.label
-                textFormat: Text.PlainText
-                color: ControlsStyle.text
-                font { pixelSize: ControlsStyle.bodyText; bold: entry.position === index }
-                verticalAlignment: Text.AlignVCenter
-                elide: Text.ElideRight
-            }
-            background: Rectangle {
-                color: choice.highlighted ? ControlsStyle.pressed : ControlsStyle.field
-            }
         }
     }
 }

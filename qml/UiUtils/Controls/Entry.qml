@@ -37,8 +37,16 @@ FocusScope {
     /// The item's value, or `value` without an item.
     readonly property var currentValue: face.hasItem ? face.value : value
     readonly property alias face: face
-    /// What a screen reader says in addition to the name.
-    readonly property alias note: noteText.text
+    /// What a screen reader says in addition to the name: what is wrong, or the permitted values.
+    readonly property string note: face.isMissing ? qsTr("Not available")
+                                 : !isReady ? qsTr("Not ready")
+                                 : readOnly ? ""
+                                 : complaint !== "" ? complaint : compact ? "" : rangeText
+
+    // What a screen reader says besides the name: what is shown, and the note.
+    function spoken(shown) {
+        return [shown, note].filter(text => text !== "").join(", ")
+    }
 
     // Set by the editors.
     property string plainText: face.valueString
@@ -105,8 +113,10 @@ FocusScope {
     }
 
     visible: face.isApplicable
-    implicitWidth: 320
+    implicitWidth: ControlsStyle.mm(60)
     implicitHeight: column.implicitHeight
+    // Above the entries that follow.
+    z: noteLine.isOpen ? 1 : 0
 
     ItemFace {
         id: face
@@ -117,34 +127,41 @@ FocusScope {
     Column {
         id: column
         width: parent.width
-        spacing: 3
+        spacing: ControlsStyle.gap / 2
 
         RowLayout {
             width: parent.width
             visible: !entry.compact && (entry.label !== "" || face.quality !== Status.None)
-            spacing: 4
+            spacing: ControlsStyle.gap / 2
 
-            Text {
-                Layout.maximumWidth: column.width - qualityWord.implicitWidth - 24
+            StyledText {
+                readonly property bool mayElide: true
+
+                Layout.maximumWidth: column.width - (quality.visible ? quality.implicitWidth + ControlsStyle.smallText : 0) - 2 * ControlsStyle.gap
                 text: entry.label
-                textFormat: Text.PlainText
-                color: ControlsStyle.mutedText
+                muted: true
                 font.pixelSize: ControlsStyle.smallText
                 elide: Text.ElideRight
             }
-            Text {
+            StyledText {
                 Layout.fillWidth: true
                 text: entry.mandatory && !entry.readOnly ? "*" : ""
-                textFormat: Text.PlainText
-                color: ControlsStyle.invalid
-                font { pixelSize: ControlsStyle.smallText; bold: true }
+                color: ControlsStyle.text
+                font { pixelSize: ControlsStyle.smallText; weight: Font.DemiBold }
+                Accessible.name: text === "" ? "" : qsTr("Must be filled in")
             }
-            Text {
-                id: qualityWord
+            Icon {
+                visible: quality.visible
+                name: ControlsStyle.qualityIcon(face.quality)
+                color: quality.color
+                size: ControlsStyle.smallText
+            }
+            StyledText {
+                id: quality
+                visible: face.quality !== Status.None
                 text: ControlsStyle.qualityWord(face.quality)
-                textFormat: Text.PlainText
                 color: ControlsStyle.qualityColor(face.quality)
-                font { pixelSize: ControlsStyle.smallText; bold: true }
+                font { pixelSize: ControlsStyle.smallText; weight: Font.DemiBold }
             }
         }
 
@@ -154,49 +171,43 @@ FocusScope {
             visible: !entry.readOnly
             // A disabled item loses the focus; a hidden editor would still receive keys.
             enabled: entry.isReady && !entry.readOnly && face.isApplicable
-            spacing: ControlsStyle.gap
+            spacing: ControlsStyle.touchGap
         }
 
-        Text {
+        Item {
             width: parent.width
-            height: Math.max(ControlsStyle.touch, implicitHeight)
+            height: Math.max(ControlsStyle.touch, plain.implicitHeight)
             visible: entry.readOnly
-            text: entry.plainText === "" ? "\u2013" : entry.plainText
-            textFormat: Text.PlainText
-            verticalAlignment: Text.AlignVCenter
-            wrapMode: Text.Wrap
-            color: !entry.isReady ? ControlsStyle.mutedText
-                 : face.quality !== Status.None ? ControlsStyle.qualityColor(face.quality) : ControlsStyle.text
-            font { pixelSize: ControlsStyle.headingText; bold: face.quality !== Status.None }
-            Accessible.role: Accessible.StaticText
-            Accessible.name: entry.label + " " + text
+
+            StyledText {
+                id: plain
+                anchors { left: parent.left; right: state.left; rightMargin: ControlsStyle.gap; verticalCenter: parent.verticalCenter }
+                text: entry.plainText === "" ? "\u2013" : entry.plainText
+                wrapMode: Text.Wrap
+                color: !entry.isReady ? ControlsStyle.mutedText
+                     : face.quality !== Status.None ? ControlsStyle.qualityColor(face.quality) : ControlsStyle.text
+                font { pixelSize: ControlsStyle.headingText; weight: face.quality !== Status.None ? Font.DemiBold : Font.Normal }
+                Accessible.name: entry.label + " " + text
+            }
+            // Beside the value, where it moves nothing.
+            StyledText {
+                id: state
+                anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+                text: entry.readOnly ? entry.note : ""
+                muted: true
+                font.pixelSize: ControlsStyle.smallText
+            }
         }
-        Text {
-            id: noteText
+        EntryNote {
+            id: noteLine
             width: parent.width
-            visible: text !== ""
-            text: face.isMissing ? qsTr("Not available")
-                : !entry.isReady ? qsTr("Not ready")
-                : entry.readOnly ? ""
-                : entry.complaint !== "" ? entry.complaint
-                : entry.compact ? "" : entry.rangeText
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
-            color: entry.isInvalid && entry.isReady ? ControlsStyle.invalid : ControlsStyle.mutedText
-            font { pixelSize: ControlsStyle.smallText; bold: entry.isInvalid && entry.isReady }
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
-        }
-        Text {
-            width: parent.width
-            visible: text !== "" && !entry.readOnly
-            text: entry.news
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
-            color: ControlsStyle.news
-            font.pixelSize: ControlsStyle.smallText
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            visible: !entry.readOnly
+            keepsRoom: !entry.compact
+            text: entry.news === "" ? entry.note : entry.complaint === "" || !entry.isReady ? entry.news : entry.complaint + "\n" + entry.news
+            usualText: entry.rangeText
+            isProblem: entry.isInvalid && entry.isReady
+            isNews: entry.news !== ""
+            isActive: entry.activeFocus
         }
     }
 }

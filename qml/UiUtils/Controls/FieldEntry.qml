@@ -1,6 +1,6 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
+import QtQuick.Templates 2.15 as T
 import UiUtils.Controls 1.0
 import "formats.js" as Formats
 
@@ -13,10 +13,14 @@ Entry {
     property int echoMode: TextInput.Normal
     /// What the empty field shows.
     property string placeholderText
-    // A pad of digits with this key beside the 0.
+    // A button of the kind of entry, at the end of the field.
+    property Component tool: null
+    // A pad of these digits, with a key for each of the separators.
     property bool hasPad: false
+    property string padDigits: "0123456789"
     property string padSeparator
     property bool padHasSign: false
+    property bool padHasExponent: false
     /// Whether an empty text may be committed. A form's field may stay empty; a service decides for itself.
     property bool acceptsEmpty: !mandatory && (!face.hasItem || face.isLocal)
 
@@ -57,8 +61,9 @@ Entry {
 
     // The limits of a text limit its length; a form's item leaves them to its entry.
     function checkLength(text) {
-        if (text.length < Number(minimum || 0) || text.length > (maximum === undefined ? Infinity : Number(maximum)))
-            return lengthText
+        const problem = Formats.limitsProblem(minimum, maximum, text.length)
+        if (problem !== "")
+            return problem
         if (face.matches(text))
             return ""
         return Formats.lengthProblem(face.item ? face.item.regex : "", text) || qsTr("This does not have the required form")
@@ -119,10 +124,14 @@ Entry {
 
     /// Opens the pad of digits, if the entry has one.
     function openPad() {
+        openPadFor(Qt.OtherFocusReason)
+    }
+
+    function openPadFor(reason) {
         if (!hasPad || !isReady || readOnly)
             return
         padLoader.active = true
-        padLoader.item.start(field.text)
+        padLoader.item.start(field.text, frame, reason)
     }
 
     function takePad(text) {
@@ -161,6 +170,7 @@ Entry {
     Component.onCompleted: settle()
 
     EntryFrame {
+        id: frame
         Layout.fillWidth: true
         Layout.preferredHeight: ControlsStyle.touch
         isFocused: field.activeFocus
@@ -169,26 +179,32 @@ Entry {
 
         RowLayout {
             anchors.fill: parent
-            spacing: 0
+            spacing: ControlsStyle.touchGap
 
-            TextField {
+            T.TextField {
                 id: field
                 objectName: "field"
                 Layout.fillWidth: true
                 Layout.fillHeight: true
                 focus: true
-                leftPadding: ControlsStyle.margin
-                rightPadding: 4
+                leftPadding: ControlsStyle.mirrored ? 0 : ControlsStyle.margin
+                rightPadding: ControlsStyle.mirrored ? ControlsStyle.margin : 0
+                // Where the layout begins, whatever is typed.
+                horizontalAlignment: TextInput.AlignLeft
+                verticalAlignment: TextInput.AlignVCenter
                 selectByMouse: true
-                color: enabled ? ControlsStyle.text : ControlsStyle.mutedText
+                color: enabled ? ControlsStyle.text : ControlsStyle.disabledText
                 selectionColor: ControlsStyle.primary
                 selectedTextColor: ControlsStyle.primaryText
                 font.pixelSize: ControlsStyle.bodyText
                 echoMode: entry.echoMode
                 inputMethodHints: entry.inputMethodHints
-                background: null
                 Accessible.name: entry.label
-                Accessible.description: entry.note
+                // The name of a password's field is not said.
+                Accessible.description: (entry.echoMode === TextInput.Normal ? "" : entry.label + ", ")
+                                        + entry.spoken(length === 0 ? entry.placeholderText : "")
+                // From here the template takes the description when a screen reader comes; it is not shown.
+                placeholderText: Accessible.description
                 Keys.onEscapePressed: event.accepted = entry.restore()
                 onTextEdited: entry.takeTyping()
                 onAccepted: entry.commit()
@@ -201,66 +217,64 @@ Entry {
                 TapHandler {
                     acceptedDevices: PointerDevice.TouchScreen
                     enabled: entry.hasPad && ControlsStyle.padOnTap
-                    onTapped: entry.openPad()
+                    onTapped: entry.openPadFor(Qt.MouseFocusReason)
                 }
                 // The field's own placeholder would interpret markup.
-                Text {
-                    anchors { fill: parent; leftMargin: field.leftPadding; rightMargin: field.rightPadding }
+                StyledText {
+                    anchors { fill: parent; leftMargin: ControlsStyle.margin }
                     visible: field.length === 0 && field.preeditText === ""
                     text: entry.placeholderText
-                    textFormat: Text.PlainText
-                    color: ControlsStyle.border
+                    muted: true
                     font: field.font
                     verticalAlignment: Text.AlignVCenter
                     elide: Text.ElideRight
+                    Accessible.ignored: true
                 }
             }
-            Text {
-                Layout.rightMargin: 10
+            // Where no line below says so.
+            Icon {
+                objectName: "invalidMark"
+                visible: entry.compact && entry.isInvalid
+                name: "warning"
+                color: ControlsStyle.invalid
+            }
+            StyledText {
+                readonly property bool mayElide: true
+
+                Layout.rightMargin: padButton.visible ? 0 : ControlsStyle.margin
                 // The value has priority.
                 Layout.maximumWidth: parent.width / 3
                 visible: text !== ""
                 text: entry.unit
-                textFormat: Text.PlainText
                 elide: Text.ElideRight
-                color: ControlsStyle.mutedText
+                muted: true
                 font.pixelSize: ControlsStyle.bodyText
             }
-            EntryButton {
+            IconButton {
                 objectName: "revealButton"
                 visible: entry.echoMode !== TextInput.Normal || isRevealing
                 property bool isRevealing: false
-                text: isRevealing ? qsTr("Hide") : qsTr("Show")
-                Accessible.name: isRevealing ? qsTr("Hide %1").arg(entry.label) : qsTr("Show %1").arg(entry.label)
+                iconName: isRevealing ? "hide" : "preview"
+                name: isRevealing ? qsTr("Hide %1").arg(entry.label) : qsTr("Show %1").arg(entry.label)
                 onClicked: {
                     isRevealing = !isRevealing
                     field.echoMode = isRevealing ? TextInput.Normal : Qt.binding(() => entry.echoMode)
                 }
             }
-            EntryButton {
+            IconButton {
+                id: padButton
                 objectName: "padButton"
                 visible: entry.hasPad
-                Accessible.name: qsTr("Number pad for %1").arg(entry.label)
-                onClicked: entry.openPad()
-
-                Grid {
-                    anchors.centerIn: parent
-                    columns: 3
-                    spacing: 4
-                    opacity: parent.enabled ? 1 : 0.4
-
-                    Repeater {
-                        model: 9
-                        Rectangle {
-                            width: 5
-                            height: 5
-                            radius: 1
-                            color: ControlsStyle.primary
-                        }
-                    }
-                }
+                iconName: "keypad"
+                name: qsTr("Number pad for %1").arg(entry.label)
+                onClicked: entry.openPadFor(visualFocus ? Qt.TabFocusReason : Qt.MouseFocusReason)
+            }
+            Loader {
+                visible: item !== null
+                sourceComponent: entry.tool
             }
         }
+        FocusFrame { control: field }
     }
 
     Loader {
@@ -271,13 +285,15 @@ Entry {
             label: entry.unit !== "" ? "%1 (%2)".arg(entry.label).arg(entry.unit) : entry.label
             rangeText: entry.rangeText
             problem: entry.isReady ? entry.problemOf(text) : qsTr("Not ready")
-            separator: entry.padSeparator
+            digits: entry.padDigits
+            separators: entry.padSeparator
             hasSign: entry.padHasSign
+            hasExponent: entry.padHasExponent
             onAccepted: {
                 close()
                 entry.takePad(text)
             }
-            onClosed: field.forceActiveFocus()
+            onClosed: field.forceActiveFocus(reason)
         }
     }
 }

@@ -10,5 +10,8 @@ FieldEntry {
 
     rangeText: face.tidyRange
     placeholderText: "192.0.2.1"
+    hasPad: true
+    padDigits: "0123456789ABCDEF"
+    padSeparator: ".:"
     inputMethodHints: Qt.ImhPreferNumbers | Qt.ImhPreferLowercase | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
 }

@@ -9,5 +9,8 @@ FieldEntry {
 
     rangeText: face.tidyRange
     placeholderText: "2001:db8::1"
+    hasPad: true
+    padDigits: "0123456789ABCDEF"
+    padSeparator: ":"
     inputMethodHints: Qt.ImhPreferNumbers | Qt.ImhPreferLowercase | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
 }

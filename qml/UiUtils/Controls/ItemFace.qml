@@ -1,4 +1,5 @@
 import QtQuick 2.15
+import UiUtils 1.0
 
 // An item as its entry sees it. The item may not exist yet, be replaced, be destroyed, or lose and regain its service
 // during an edit. Its description (type, limits, choices) is taken only from an item that can give it, so that an entry
@@ -45,7 +46,12 @@ QtObject {
 
     // Writes to the item and returns why it was rejected; an empty text after a success.
     function write(value) {
-        return writeWith(() => { item.value = value })
+        return writeWith(() => {
+            // During a transaction an item reverts only its last write: each must be the first, so that it reverts to the
+            // service's value.
+            item.revert()
+            item.value = value
+        })
     }
 
     function writeWith(operation) {
@@ -130,6 +136,12 @@ QtObject {
         describe()
         ++reports
         replaced()
+    }
+
+    // Labels, choices and limits are told in the new language.
+    property Connections listener: Connections {
+        target: Languages
+        function onCurrentChanged() { face.describe() }
     }
 
     property Connections watcher: Connections {

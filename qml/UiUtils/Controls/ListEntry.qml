@@ -1,6 +1,6 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
+import QtQuick.Templates 2.15 as T
 import UiUtils.Controls 1.0
 import "formats.js" as Formats
 
@@ -115,16 +115,16 @@ Entry {
         visible: count > 0
         model: rows
         clip: true
-        spacing: 4
+        spacing: ControlsStyle.touchGap
         // Rows keep their typed text while they are scrolled out of view.
         cacheBuffer: 4000
         boundsBehavior: Flickable.StopAtBounds
-        ScrollBar.vertical: ScrollBar { policy: entry.isLong ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
+        T.ScrollBar.vertical: ScrollMark {}
 
         delegate: FocusScope {
             id: row
 
-            width: view.width - (entry.isLong ? 12 : 0)
+            width: view.width - (entry.isLong ? ControlsStyle.margin : 0)
             height: line.implicitHeight
             Keys.onUpPressed: entry.focusRow(Math.max(0, index - 1))
             Keys.onDownPressed: entry.focusRow(index + 1)
@@ -136,14 +136,13 @@ Entry {
             RowLayout {
                 id: line
                 width: parent.width
-                spacing: 4
+                spacing: ControlsStyle.touchGap
 
-                Text {
-                    Layout.preferredWidth: 26
+                StyledText {
+                    Layout.preferredWidth: ControlsStyle.mm(5)
                     text: index + 1
-                    textFormat: Text.PlainText
                     horizontalAlignment: Text.AlignRight
-                    color: ControlsStyle.mutedText
+                    muted: true
                     font.pixelSize: ControlsStyle.smallText
                 }
                 ListElementEntry {
@@ -151,11 +150,10 @@ Entry {
                     list: entry
                     row: index
                 }
-                EntryButton {
+                IconButton {
                     objectName: "removeButton"
-                    text: "\u00d7"
-                    font.pixelSize: ControlsStyle.padText
-                    Accessible.name: qsTr("Remove element %1 of %2").arg(index + 1).arg(entry.label)
+                    iconName: "delete"
+                    name: qsTr("Remove element %1 of %2").arg(index + 1).arg(entry.label)
                     onClicked: entry.remove(index)
                 }
             }
@@ -163,9 +161,9 @@ Entry {
     }
     RowLayout {
         Layout.fillWidth: true
-        Layout.leftMargin: 30
-        Layout.rightMargin: entry.isLong ? 12 : 0
-        spacing: 4
+        Layout.leftMargin: ControlsStyle.mm(5) + ControlsStyle.touchGap
+        Layout.rightMargin: entry.isLong ? ControlsStyle.margin : 0
+        spacing: ControlsStyle.touchGap
 
         ListElementEntry {
             id: adder
@@ -177,11 +175,10 @@ Entry {
                     entry.focusRow(rows.count - 1)
             }
         }
-        EntryButton {
+        IconButton {
             objectName: "addButton"
-            text: "+"
-            font.pixelSize: ControlsStyle.padText
-            Accessible.name: qsTr("Add to %1").arg(entry.label)
+            iconName: "add"
+            name: qsTr("Add to %1").arg(entry.label)
             onClicked: {
                 if (adder.item)
                     adder.item.commit()

@@ -12,5 +12,8 @@ FieldEntry {
 
     rangeText: "00:00:00:00:00:00 - FF:FF:FF:FF:FF:FF"
     placeholderText: "00:1A:2B:3C:4D:5E"
+    hasPad: true
+    padDigits: "0123456789ABCDEF"
+    padSeparator: ":"
     inputMethodHints: Qt.ImhPreferNumbers | Qt.ImhPreferUppercase | Qt.ImhNoPredictiveText
 }

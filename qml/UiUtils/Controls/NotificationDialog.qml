@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
@@ -34,6 +34,9 @@ ModalDialog {
     visible: notification !== null && overlay !== null
 
     contentItem: Column {
+        // A popup does not inherit it from the page.
+        LayoutMirroring.enabled: ControlsStyle.mirrored
+        LayoutMirroring.childrenInherit: true
         // Each dialog has buttons of its own: a press that began on those of the previous one ends with them.
         Repeater {
             model: dialog.notification !== null ? [dialog.notification] : []
@@ -45,13 +48,20 @@ ModalDialog {
                 readonly property bool isRequest: kind === KIVNotification.Request
                 readonly property string title: modelData ? modelData.longLabel : ""
                 readonly property string msg: modelData ? modelData.msg : ""
+                readonly property string details: value("details", "")
+
+                // What is given with a notification is there before the dialog opens, and stays.
+                function value(key, otherwise) {
+                    const given = modelData ? modelData.value(key) : undefined
+                    return given === undefined || given === "" ? otherwise : String(given)
+                }
 
                 width: parent ? parent.width : 0
                 height: column.implicitHeight
                 focus: true
                 Accessible.role: Accessible.AlertMessage
                 Accessible.name: mark.word + ": " + title
-                Accessible.description: msg
+                Accessible.description: msgText.text
                 Keys.onEscapePressed: {
                     if (!event.isAutoRepeat)
                         dialog.answer(false)
@@ -59,14 +69,14 @@ ModalDialog {
                 Keys.onUpPressed: scrolled.scroll(-1)
                 Keys.onDownPressed: scrolled.scroll(1)
                 // Questions are about overwriting and deleting: a stray key must not say yes.
-                Component.onCompleted: (isRequest ? rejectButton : acceptButton).forceActiveFocus()
+                Component.onCompleted: (isRequest ? rejectButton : acceptButton).forceActiveFocus(dialog.focusReason)
 
                 // Not a layout: its height would follow the width of wrapped texts within one change, in an endless
                 // circle.
                 Column {
                     id: column
                     width: parent.width
-                    spacing: ControlsStyle.margin + 4
+                    spacing: ControlsStyle.margin
 
                     Item {
                         width: parent.width
@@ -75,6 +85,7 @@ ModalDialog {
                         NotificationMark {
                             id: mark
                             objectName: "mark"
+                            anchors.left: parent.left
                             kind: content.kind
                         }
                         Text {
@@ -87,7 +98,7 @@ ModalDialog {
                             maximumLineCount: 2
                             elide: Text.ElideRight
                             color: ControlsStyle.text
-                            font { pixelSize: ControlsStyle.headingText; bold: true }
+                            font { pixelSize: ControlsStyle.headingText; weight: Font.DemiBold }
                         }
                     }
                     Flickable {
@@ -102,17 +113,18 @@ ModalDialog {
 
                         objectName: "scrolled"
                         width: parent.width
-                        height: Math.min(contentHeight, (dialog.overlay ? dialog.overlay.height / 2 : 300))
+                        height: Math.min(contentHeight, (dialog.overlay ? dialog.overlay.height / 2 : ControlsStyle.mm(45)))
                         contentHeight: msgText.implicitHeight
                         clip: true
                         boundsBehavior: Flickable.StopAtBounds
-                        ScrollBar.vertical: ScrollBar { policy: scrolled.isLong ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
+                        T.ScrollBar.vertical: ScrollMark {}
 
                         Text {
                             id: msgText
                             objectName: "dialogText"
+                            x: ControlsStyle.mirrored ? ControlsStyle.margin : 0
                             width: scrolled.width - ControlsStyle.margin
-                            text: content.msg
+                            text: content.details === "" ? content.msg : content.msg + "\n\n" + content.details
                             textFormat: Text.PlainText
                             wrapMode: Text.Wrap
                             color: ControlsStyle.text
@@ -121,7 +133,7 @@ ModalDialog {
                     }
                     Item {
                         width: parent.width
-                        height: ControlsStyle.touch
+                        height: buttons.height
 
                         Text {
                             objectName: "waitingText"
@@ -137,18 +149,22 @@ ModalDialog {
                             anchors.right: parent.right
                             spacing: ControlsStyle.margin
 
-                            DialogButton {
+                            readonly property real least: ControlsStyle.mm(22)
+
+                            TouchButton {
                                 id: rejectButton
                                 objectName: "rejectButton"
+                                width: Math.max(buttons.least, implicitWidth)
                                 visible: content.isRequest
-                                text: qsTr("No")
+                                text: content.value("rejectText", qsTr("No"))
                                 KeyNavigation.right: acceptButton
                                 onClicked: dialog.answer(false)
                             }
-                            DialogButton {
+                            TouchButton {
                                 id: acceptButton
                                 objectName: "acceptButton"
-                                text: content.isRequest ? qsTr("Yes") : qsTr("OK")
+                                width: Math.max(buttons.least, implicitWidth)
+                                text: content.value("acceptText", content.isRequest ? qsTr("Yes") : qsTr("OK"))
                                 filled: true
                                 onClicked: dialog.answer(true)
                             }

@@ -11,10 +11,10 @@ Rectangle {
     readonly property string word: kind === KIVNotification.Error ? qsTr("Error")
                                  : kind === KIVNotification.Request ? qsTr("Question") : qsTr("Notice")
 
-    implicitWidth: 32
-    implicitHeight: 32
+    implicitWidth: ControlsStyle.mm(6)
+    implicitHeight: implicitWidth
     radius: width / 2
-    color: kind === KIVNotification.Error ? ControlsStyle.fail : ControlsStyle.primary
+    color: kind === KIVNotification.Error ? ControlsStyle.invalid : ControlsStyle.information
     Accessible.role: Accessible.StaticText
     Accessible.name: word
 

@@ -1,6 +1,6 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
+import QtQuick.Templates 2.15 as T
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
@@ -11,7 +11,7 @@ FocusScope {
     /// Number of entries.
     readonly property int count: Notifications.count
 
-    implicitWidth: 480
+    implicitWidth: ControlsStyle.mm(90)
     implicitHeight: column.implicitHeight
 
     function dismissCurrent() {
@@ -23,26 +23,22 @@ FocusScope {
     ColumnLayout {
         id: column
         anchors.fill: parent
-        spacing: ControlsStyle.gap
+        spacing: ControlsStyle.touchGap
 
         RowLayout {
             Layout.fillWidth: true
+            spacing: ControlsStyle.touchGap
 
-            Text {
+            HeadingText {
                 Layout.fillWidth: true
                 text: tray.count > 0 ? qsTr("Notifications (%1)").arg(tray.count) : qsTr("Notifications")
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
-                color: ControlsStyle.text
-                font { pixelSize: ControlsStyle.headingText; bold: true }
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
             }
-            EntryButton {
+            TouchButton {
                 objectName: "clearButton"
                 // Keeps its place, so that the list does not move up.
                 opacity: enabled ? 1 : 0
                 enabled: tray.count > 0
+                quiet: true
                 text: qsTr("Clear all")
                 onClicked: Notifications.clear()
             }
@@ -57,10 +53,10 @@ FocusScope {
             focus: true
             clip: true
             model: Notifications
-            spacing: ControlsStyle.gap
+            spacing: ControlsStyle.touchGap
             boundsBehavior: Flickable.StopAtBounds
             highlightMoveDuration: 0
-            ScrollBar.vertical: ScrollBar { id: bar }
+            T.ScrollBar.vertical: ScrollMark { id: bar }
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Notifications")
             Keys.onDeletePressed: tray.dismissCurrent()
@@ -75,14 +71,11 @@ FocusScope {
             delegate: Rectangle {
                 id: entry
 
-                width: list.width - (bar.size < 1 ? bar.width + 2 : 0)
+                width: list.width - (bar.visible ? bar.width + ControlsStyle.gap : 0)
                 height: Math.max(ControlsStyle.touch, texts.implicitHeight) + 2 * ControlsStyle.gap
                 radius: ControlsStyle.radius
-                color: ControlsStyle.field
-                border {
-                    width: list.activeFocus && ListView.isCurrentItem ? 3 : 1
-                    color: list.activeFocus && ListView.isCurrentItem ? ControlsStyle.focus : ControlsStyle.border
-                }
+                color: ControlsStyle.card
+                border { width: ControlsStyle.line; color: ControlsStyle.divider }
                 Accessible.role: Accessible.ListItem
                 Accessible.name: mark.word + ": " + model.longLabel
                 Accessible.description: model.msg
@@ -96,63 +89,65 @@ FocusScope {
                 Column {
                     id: texts
                     anchors { left: mark.right; right: dismissButton.left; margins: ControlsStyle.margin; verticalCenter: parent.verticalCenter }
-                    spacing: 2
+                    spacing: ControlsStyle.gap / 3
 
                     Item {
                         width: parent.width
                         height: title.implicitHeight
 
-                        Text {
+                        StyledText {
                             id: title
+                            readonly property bool mayElide: true
+
                             anchors { left: parent.left; right: time.left; rightMargin: ControlsStyle.gap }
                             text: model.longLabel
-                            textFormat: Text.PlainText
                             elide: Text.ElideRight
-                            color: ControlsStyle.text
-                            font { pixelSize: ControlsStyle.bodyText; bold: true }
+                            font { pixelSize: ControlsStyle.bodyText; weight: Font.DemiBold }
                         }
-                        Text {
+                        StyledText {
                             id: time
                             anchors { right: parent.right; baseline: title.baseline }
                             text: model.time.toLocaleString(Qt.locale(), Locale.ShortFormat)
-                            textFormat: Text.PlainText
-                            color: ControlsStyle.mutedText
+                            muted: true
                             font.pixelSize: ControlsStyle.smallText
                         }
                     }
-                    Text {
+                    StyledText {
+                        readonly property bool mayElide: true
+
                         width: parent.width
                         visible: text !== ""
                         text: model.msg
-                        textFormat: Text.PlainText
                         wrapMode: Text.Wrap
                         // A longer text would push all others out of view.
                         maximumLineCount: 6
                         elide: Text.ElideRight
-                        color: ControlsStyle.text
                         font.pixelSize: ControlsStyle.bodyText
                     }
                 }
-                EntryButton {
+                IconButton {
                     id: dismissButton
                     objectName: "dismissButton"
-                    anchors { right: parent.right; rightMargin: 6; verticalCenter: parent.verticalCenter }
-                    text: "\u00d7"
-                    font.pixelSize: ControlsStyle.padText
+                    anchors { right: parent.right; rightMargin: ControlsStyle.gap; verticalCenter: parent.verticalCenter }
+                    iconName: "close"
                     focusPolicy: Qt.NoFocus
-                    Accessible.name: qsTr("Dismiss %1").arg(model.longLabel)
+                    name: qsTr("Dismiss %1").arg(model.longLabel)
                     onClicked: Notifications.remove(model.index)
+                }
+                FocusFrame {
+                    control: list
+                    within: true
+                    visible: list.activeFocus && entry.ListView.isCurrentItem
                 }
             }
 
-            Text {
+            StyledText {
                 anchors { fill: parent; margins: ControlsStyle.margin }
                 visible: tray.count === 0
                 text: qsTr("No notifications")
-                textFormat: Text.PlainText
+                muted: true
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
-                color: ControlsStyle.mutedText
                 font.pixelSize: ControlsStyle.bodyText
             }
         }

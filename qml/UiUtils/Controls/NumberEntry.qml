@@ -57,7 +57,8 @@ FieldEntry {
 
     // The item's own words, if they give the limits unchanged.
     rangeText: {
-        const isDescribed = face.inputType >= KivData.INPUT_INT && face.inputType <= KivData.INPUT_POSITIVE_FLOAT
+        // Whether there is an item is asked first: that makes the item describe itself.
+        const isDescribed = face.hasItem && face.inputType >= KivData.INPUT_INT && face.inputType <= KivData.INPUT_POSITIVE_FLOAT
                           && (whole || decimals >= 0 || face.hasFormatter) && face.minimum !== undefined && face.maximum !== undefined
         return isDescribed ? Formats.withUnit(face.tidyRange, unit) : Formats.rangeText(minimum, maximum, textOf, unit)
     }
@@ -68,4 +69,6 @@ FieldEntry {
     hasPad: true
     padSeparator: whole || decimals === 0 ? "" : Qt.locale().decimalPoint
     padHasSign: least < 0
+    // Rounded values have no digits for one.
+    padHasExponent: !whole && decimals < 0
 }

@@ -1,10 +1,12 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
-import QtQuick.Layouts 1.15
+import QtQuick.Templates 2.15 as T
 import UiUtils.Controls 1.0
+import "padkeys.js" as PadKeys
+import "placing.js" as Placing
 
-// Keys for gloved fingers. The pad types into a text of its own; the field gets it with OK.
-Popup {
+// Keys for gloved fingers. The pad types into a text of its own; the field gets it with OK. It opens beside its field:
+// high where that has a place, low otherwise.
+T.Popup {
     id: pad
 
     property string label
@@ -12,26 +14,53 @@ Popup {
     // What is wrong with the text, in words.
     property string problem
     property string text
-    // The key right of the 0; empty for none.
-    property string separator
+    property string digits: "0123456789"
+    // What can be typed besides digits, a key for each.
+    property string separators
     property bool hasSign: false
+    property bool hasExponent: false
 
     signal accepted
 
     // The first key replaces the present text, like a selection.
     property bool isFresh: true
     property bool isTried: false
+    readonly property bool isWrong: isTried && problem !== ""
+    readonly property bool hasExponentNow: /e/i.test(text)
 
-    function start(initial) {
+    // What is on the keys and what a screen reader says, where it is not the name of the key.
+    readonly property var words: ({ sign: "+/\u2212", Delete: "\u2190", Clear: qsTr("Clear"), Cancel: qsTr("Cancel"), OK: qsTr("OK") })
+    readonly property var names: ({ sign: qsTr("Change the sign"), Delete: qsTr("Delete"), e: qsTr("e, exponent of ten") })
+
+    // The item that the pad must not cover.
+    property Item owner: null
+    property int reason: Qt.OtherFocusReason
+    readonly property var place: {
+        if (!owner || !parent)
+            return { x: 0, y: 0, form: 0 }
+        // So near that it covers label and note of the field completely.
+        const edge = ControlsStyle.gap
+        const within = Qt.rect(edge, edge, parent.width - 2 * edge, parent.height - 2 * edge)
+        return Placing.place(owner.mapToItem(parent, 0, 0, owner.width, owner.height),
+                             [high.size, low.size], within, ControlsStyle.line, ControlsStyle.mirrored)
+    }
+    readonly property bool isLow: place.form === 1
+
+    // `from` says how the pad was opened: by a key, so that the focus is shown, or by a finger.
+    function start(initial, beside, from) {
+        Placing.reveal(beside, 0, T.Overlay.overlay ? T.Overlay.overlay.height : Infinity)
+        owner = null
+        owner = beside
+        reason = from
         text = initial
         isFresh = true
         isTried = false
         open()
-        okKey.forceActiveFocus()
+        contents.focusKey("OK", reason)
     }
 
-    function type(character) {
-        text = (isFresh ? "" : text) + character
+    function type(characters) {
+        text = (isFresh ? "" : text) + characters
         isFresh = false
         isTried = false
     }
@@ -42,8 +71,24 @@ Popup {
         isTried = false
     }
 
+    function clear() {
+        text = ""
+        isFresh = false
+        isTried = false
+    }
+
+    // The sign of the exponent, once there is one.
     function changeSign() {
-        text = text.startsWith("-") ? text.slice(1) : "-" + text
+        const parts = /^([^eE]*[eE])(.*)$/.exec(text) || ["", "", text]
+        if (parts[1] !== "" || hasSign)
+            text = parts[1] + (parts[2].startsWith("-") ? parts[2].slice(1) : "-" + parts[2])
+        isFresh = false
+        isTried = false
+    }
+
+    function addExponent() {
+        if (!hasExponentNow && text !== "")
+            text += "e"
         isFresh = false
     }
 
@@ -53,143 +98,61 @@ Popup {
             accepted()
     }
 
-    // The next enabled key in the given direction.
-    function step(columns, rows) {
-        const keys = grid.keys
-        let at = keys.findIndex(key => key.activeFocus)
-        if (at < 0)
-            return
-        let column = at % 4
-        let row = Math.floor(at / 4)
-        do {
-            column += columns
-            row += rows
-            if (column < 0 || column > 3 || row < 0 || row > 3)
-                return
-        } while (!keys[row * 4 + column].enabled)
-        keys[row * 4 + column].forceActiveFocus()
+    function press(name) {
+        const deeds = { Delete: deleteLast, Clear: clear, Cancel: close, OK: finish, sign: changeSign, e: addExponent }
+        if (deeds[name])
+            deeds[name]()
+        else
+            type(name)
+    }
+
+    function accepts(name) {
+        if (name === "sign")
+            return hasSign || hasExponentNow
+        return name.length !== 1 || name === "e" || digits.includes(name) || separators.includes(name)
     }
 
     function handle(event) {
-        const moves = { [Qt.Key_Left]: [-1, 0], [Qt.Key_Right]: [1, 0], [Qt.Key_Up]: [0, -1], [Qt.Key_Down]: [0, 1] }
+        const character = event.text.toUpperCase()
         event.accepted = true
-        if (moves[event.key])
-            step(moves[event.key][0], moves[event.key][1])
-        else if (/^[0-9]$/.test(event.text))
-            type(event.text)
-        else if (separator !== "" && (event.text === "." || event.text === "," || event.text === separator))
-            type(separator)
-        else if (event.text === "-" && hasSign)
+        if (character !== "" && digits.includes(character))
+            type(character)
+        else if (separators !== "" && (".,".includes(event.text) || separators.includes(event.text)) && event.text !== "")
+            type(separators.includes(event.text) ? event.text : separators[0])
+        else if (event.text === "-" && accepts("sign"))
             changeSign()
+        else if (character === "E" && hasExponent)
+            addExponent()
         else if (event.key === Qt.Key_Backspace || event.key === Qt.Key_Delete)
             deleteLast()
         else
-            event.accepted = false
+            event.accepted = contents.step(event.key)
     }
 
     objectName: "pad"
-    parent: Overlay.overlay
-    anchors.centerIn: parent
+    parent: T.Overlay.overlay
+    x: place.x
+    y: place.y
+    width: (isLow ? low : high).size.width
+    height: (isLow ? low : high).size.height
     modal: true
+    dim: false
     focus: true
-    padding: ControlsStyle.margin
+    padding: isLow ? ControlsStyle.gap : ControlsStyle.margin
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     background: Rectangle {
-        radius: ControlsStyle.radius + 4
+        radius: ControlsStyle.radius
         color: ControlsStyle.background
-        border { width: 1; color: ControlsStyle.border }
+        border { width: 2 * ControlsStyle.line; color: ControlsStyle.border }
     }
 
-    contentItem: ColumnLayout {
-        spacing: ControlsStyle.gap
+    PadForm { id: high; keys: PadKeys.keys(pad, false, ControlsStyle.mirrored); textHeight: contents.smallLine; words: pad.words }
+    PadForm { id: low; isLow: true; keys: PadKeys.keys(pad, true, ControlsStyle.mirrored); textHeight: contents.smallLine; words: pad.words }
+
+    contentItem: PadContents {
+        id: contents
+        pad: pad
+        form: pad.isLow ? low : high
         Keys.onPressed: pad.handle(event)
-
-        Text {
-            Layout.fillWidth: true
-            Layout.preferredWidth: 1
-            visible: text !== ""
-            text: pad.label
-            textFormat: Text.PlainText
-            color: ControlsStyle.mutedText
-            font.pixelSize: ControlsStyle.smallText
-            elide: Text.ElideRight
-        }
-        EntryFrame {
-            Layout.fillWidth: true
-            Layout.preferredHeight: 56
-            isInvalid: pad.isTried && pad.problem !== ""
-
-            Text {
-                id: display
-                objectName: "padDisplay"
-                anchors { fill: parent; leftMargin: 12; rightMargin: 12 }
-                text: pad.text
-                textFormat: Text.PlainText
-                horizontalAlignment: Text.AlignRight
-                verticalAlignment: Text.AlignVCenter
-                elide: Text.ElideLeft
-                color: pad.isFresh ? ControlsStyle.mutedText : ControlsStyle.text
-                font.pixelSize: ControlsStyle.padText
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
-            }
-        }
-        Text {
-            Layout.fillWidth: true
-            Layout.preferredWidth: 1
-            Layout.minimumHeight: 18
-            text: pad.isTried && pad.problem !== "" ? pad.problem : pad.rangeText
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
-            color: pad.isTried && pad.problem !== "" ? ControlsStyle.invalid : ControlsStyle.mutedText
-            font { pixelSize: ControlsStyle.smallText; bold: pad.isTried && pad.problem !== "" }
-        }
-        GridLayout {
-            id: grid
-
-            readonly property var keys: [key7, key8, key9, backKey, key4, key5, key6, clearKey,
-                                         key1, key2, key3, cancelKey, signKey, key0, separatorKey, okKey]
-
-            columns: 4
-            columnSpacing: ControlsStyle.gap
-            rowSpacing: ControlsStyle.gap
-
-            PadKey { id: key7; text: "7"; onClicked: pad.type(types) }
-            PadKey { id: key8; text: "8"; onClicked: pad.type(types) }
-            PadKey { id: key9; text: "9"; onClicked: pad.type(types) }
-            PadKey { id: backKey; text: "\u2190"; quiet: true; Accessible.name: qsTr("Delete"); onClicked: pad.deleteLast() }
-            PadKey { id: key4; text: "4"; onClicked: pad.type(types) }
-            PadKey { id: key5; text: "5"; onClicked: pad.type(types) }
-            PadKey { id: key6; text: "6"; onClicked: pad.type(types) }
-            PadKey {
-                id: clearKey
-                text: qsTr("Clear")
-                quiet: true
-                onClicked: {
-                    pad.isFresh = true
-                    pad.deleteLast()
-                }
-            }
-            PadKey { id: key1; text: "1"; onClicked: pad.type(types) }
-            PadKey { id: key2; text: "2"; onClicked: pad.type(types) }
-            PadKey { id: key3; text: "3"; onClicked: pad.type(types) }
-            PadKey { id: cancelKey; text: qsTr("Cancel"); quiet: true; onClicked: pad.close() }
-            PadKey {
-                id: signKey
-                text: "+/\u2212"
-                opacity: pad.hasSign ? 1 : 0
-                enabled: pad.hasSign
-                Accessible.name: qsTr("Change the sign")
-                onClicked: pad.changeSign()
-            }
-            PadKey { id: key0; text: "0"; onClicked: pad.type(types) }
-            PadKey {
-                id: separatorKey
-                text: pad.separator
-                opacity: pad.separator !== "" ? 1 : 0
-                enabled: pad.separator !== ""
-                onClicked: pad.type(types)
-            }
-            PadKey { id: okKey; text: qsTr("OK"); filled: true; focus: true; onClicked: pad.finish() }
-        }
     }
 }

@@ -5,5 +5,4 @@ RadixEntry {
     radix: 8
     prefix: "0o"
     inputMethodHints: Qt.ImhDigitsOnly
-    hasPad: true
 }

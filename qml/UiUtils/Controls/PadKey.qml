@@ -1,21 +1,46 @@
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import UiUtils.Controls 1.0
 
-EntryButton {
+// A key of the pad.
+T.Button {
     id: key
 
-    // The text of the key; a key without one is a command.
-    property string types: text
+    property bool filled: false
+    // An action, not a character.
     property bool quiet: false
 
-    objectName: text
-    implicitWidth: ControlsStyle.padKeyWidth
-    implicitHeight: ControlsStyle.padKeyHeight
-    font { pixelSize: quiet ? ControlsStyle.bodyText : ControlsStyle.headingText; bold: true }
+    leftPadding: ControlsStyle.line
+    rightPadding: leftPadding
+    font { pixelSize: quiet && text.length > 1 ? ControlsStyle.bodyText : ControlsStyle.headingText; weight: Font.DemiBold }
+    Accessible.name: text
+    Keys.onReturnPressed: pressBy(event)
+    Keys.onEnterPressed: pressBy(event)
+
+    function pressBy(event) {
+        if (!event.isAutoRepeat)
+            clicked()
+    }
+
+    contentItem: Text {
+        text: key.text
+        textFormat: Text.PlainText
+        font: key.font
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: ControlsStyle.smallText
+        elide: Text.ElideRight
+        color: !key.enabled ? ControlsStyle.disabledText : key.filled ? ControlsStyle.primaryText : ControlsStyle.primary
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
     background: Rectangle {
         radius: ControlsStyle.radius
         color: key.filled ? (key.down ? ControlsStyle.primaryPressed : ControlsStyle.primary)
-                          : key.down ? ControlsStyle.pressed : key.quiet ? ControlsStyle.background : ControlsStyle.field
-        border { width: key.activeFocus ? 3 : 1; color: key.activeFocus ? ControlsStyle.focus : ControlsStyle.border }
+                          : key.down ? ControlsStyle.pressed
+                          : !key.enabled ? ControlsStyle.disabledField : key.quiet ? ControlsStyle.background : ControlsStyle.field
+        border { width: key.filled ? 0 : ControlsStyle.line; color: key.enabled ? ControlsStyle.border : ControlsStyle.divider }
     }
+
+    FocusFrame {}
 }

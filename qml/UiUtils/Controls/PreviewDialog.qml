@@ -1,5 +1,4 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
@@ -26,10 +25,13 @@ ModalDialog {
 
     objectName: "previewDialog"
     padding: ControlsStyle.margin
-    width: overlay ? overlay.width - 2 * ControlsStyle.margin : 560
-    height: overlay ? overlay.height - 2 * ControlsStyle.margin : 400
+    width: overlay ? overlay.width - 2 * ControlsStyle.margin : ControlsStyle.mm(110)
+    height: overlay ? overlay.height - 2 * ControlsStyle.margin : ControlsStyle.mm(80)
 
     contentItem: FocusScope {
+        // A popup does not inherit it from the page.
+        LayoutMirroring.enabled: ControlsStyle.mirrored
+        LayoutMirroring.childrenInherit: true
         focus: true
         Accessible.role: Accessible.Dialog
         Accessible.name: heading.text
@@ -43,7 +45,7 @@ ModalDialog {
 
             RowLayout {
                 Layout.fillWidth: true
-                spacing: ControlsStyle.gap
+                spacing: ControlsStyle.touchGap
 
                 Text {
                     id: heading
@@ -55,27 +57,25 @@ ModalDialog {
                     textFormat: Text.PlainText
                     elide: Text.ElideRight
                     color: ControlsStyle.text
-                    font { pixelSize: ControlsStyle.headingText; bold: true }
+                    font { pixelSize: ControlsStyle.headingText; weight: Font.DemiBold }
                 }
-                DialogButton {
+                IconButton {
                     objectName: "zoomOutButton"
-                    implicitWidth: ControlsStyle.touch
-                    filled: false
+                    iconName: "remove"
+                    quiet: false
                     enabled: pages.zoom > pages.leastZoom
-                    text: "\u2212"
-                    Accessible.name: qsTr("Zoom out")
+                    name: qsTr("Zoom out")
                     onClicked: pages.zoomTo(pages.zoom / 1.25)
                 }
-                DialogButton {
+                IconButton {
                     objectName: "zoomInButton"
-                    implicitWidth: ControlsStyle.touch
-                    filled: false
+                    iconName: "add"
+                    quiet: false
                     enabled: pages.zoom < pages.mostZoom
-                    text: "+"
-                    Accessible.name: qsTr("Zoom in")
+                    name: qsTr("Zoom in")
                     onClicked: pages.zoomTo(pages.zoom * 1.25)
                 }
-                DialogButton {
+                TouchButton {
                     objectName: "closeButton"
                     text: qsTr("Close")
                     onClicked: dialog.close()

@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import UiUtils.Controls 1.0
 import UiUtils.Preview 1.0
 
@@ -93,8 +93,8 @@ ListView {
         onWheel: list.zoomTo(list.zoom * Math.pow(1.25, event.angleDelta.y / 120))
     }
 
-    ScrollBar.vertical: ScrollBar { policy: list.contentHeight > list.height ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff }
-    ScrollBar.horizontal: ScrollBar {}
+    T.ScrollBar.vertical: ScrollMark {}
+    T.ScrollBar.horizontal: ScrollMark {}
 
     delegate: Item {
         width: list.contentWidth
@@ -106,7 +106,7 @@ ListView {
             width: list.pageWidth
             height: Math.round(width * pageHeight / pageWidth)
             color: "white"
-            border { width: 1; color: ControlsStyle.border }
+            border { width: ControlsStyle.line; color: ControlsStyle.border }
             Accessible.role: Accessible.Graphic
             Accessible.name: qsTr("Page %1").arg(index + 1)
 

@@ -44,4 +44,6 @@ FieldEntry {
     rangeText: isNumber ? Formats.rangeText(minimum, maximum, textOf, unit) : lengthText
     // When the field shows plain text for reading, the digits still count.
     plainText: shownText
+    hasPad: true
+    padDigits: digits
 }

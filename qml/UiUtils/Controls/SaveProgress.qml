@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import UiUtils.Controls 1.0
 
 /// The progress of a save whose controller handles events meanwhile (Report::setInteractive()). From the first moment
@@ -57,6 +57,9 @@ ModalDialog {
     exit: null
 
     contentItem: FocusScope {
+        // A popup does not inherit it from the page.
+        LayoutMirroring.enabled: ControlsStyle.mirrored
+        LayoutMirroring.childrenInherit: true
         implicitHeight: column.implicitHeight
         focus: true
         Accessible.role: Accessible.Dialog
@@ -70,7 +73,7 @@ ModalDialog {
         Column {
             id: column
             width: parent.width
-            spacing: ControlsStyle.margin + 4
+            spacing: ControlsStyle.margin
 
             Text {
                 id: titleText
@@ -80,7 +83,7 @@ ModalDialog {
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
                 color: ControlsStyle.text
-                font { pixelSize: ControlsStyle.headingText; bold: true }
+                font { pixelSize: ControlsStyle.headingText; weight: Font.DemiBold }
             }
             Text {
                 id: nameText
@@ -88,6 +91,7 @@ ModalDialog {
                 width: parent.width
                 text: dialog.isSaving ? dialog.savedName() : ""
                 textFormat: Text.PlainText
+                readonly property bool mayElide: true
                 // Similar names differ at their ends.
                 elide: Text.ElideMiddle
                 color: ControlsStyle.text
@@ -97,24 +101,25 @@ ModalDialog {
                 width: parent.width
                 height: percentage.implicitHeight
 
-                ProgressBar {
+                T.ProgressBar {
                     id: bar
                     objectName: "progressBar"
                     anchors { left: parent.left; right: percentage.left; rightMargin: ControlsStyle.margin; verticalCenter: parent.verticalCenter }
                     value: dialog.progress
                     padding: 0
                     background: Rectangle {
-                        implicitHeight: 16
+                        implicitHeight: ControlsStyle.mm(2.5)
                         radius: height / 2
                         color: ControlsStyle.field
-                        border { width: 1; color: ControlsStyle.border }
+                        border { width: ControlsStyle.line; color: ControlsStyle.border }
                     }
                     contentItem: Item {
-                        implicitHeight: 16
+                        implicitHeight: ControlsStyle.mm(2.5)
 
                         Rectangle {
+                            anchors.left: parent.left
                             visible: width > 0
-                            width: bar.visualPosition * parent.width
+                            width: bar.position * parent.width
                             height: parent.height
                             radius: height / 2
                             color: ControlsStyle.primary
@@ -126,7 +131,7 @@ ModalDialog {
                 Text {
                     id: percentage
                     anchors.right: parent.right
-                    width: 56
+                    width: ControlsStyle.mm(12)
                     text: qsTr("%1 %").arg(Math.floor(100 * dialog.progress))
                     textFormat: Text.PlainText
                     horizontalAlignment: Text.AlignRight
@@ -135,7 +140,7 @@ ModalDialog {
                     Accessible.ignored: true
                 }
             }
-            DialogButton {
+            TouchButton {
                 objectName: "cancelButton"
                 anchors.right: parent.right
                 focus: true

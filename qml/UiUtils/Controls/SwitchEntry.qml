@@ -1,6 +1,6 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
+import QtQuick.Templates 2.15 as T
 import UiUtils.Controls 1.0
 
 /// Yes or no; written at once.
@@ -19,55 +19,58 @@ Entry {
     rangeText: ""
     plainText: isOn ? qsTr("On") : qsTr("Off")
 
-    Switch {
+    T.Switch {
         id: control
         objectName: "switch"
         Layout.fillWidth: true
         implicitHeight: ControlsStyle.touch
         focus: true
         checked: entry.isOn
-        padding: 0
-        spacing: ControlsStyle.margin
         text: checked ? qsTr("On") : qsTr("Off")
         font.pixelSize: ControlsStyle.bodyText
         Accessible.name: entry.label
-        Accessible.description: entry.note
+        Accessible.description: entry.spoken(text)
         Keys.onReturnPressed: entry.take(!entry.isOn)
         Keys.onEnterPressed: entry.take(!entry.isOn)
         onToggled: entry.take(checked)
 
-        contentItem: Text {
-            leftPadding: control.indicator.width + control.spacing + 4
+        readonly property real besides: track.width + ControlsStyle.margin
+
+        contentItem: StyledText {
+            leftPadding: ControlsStyle.mirrored ? 0 : control.besides
+            rightPadding: ControlsStyle.mirrored ? control.besides : 0
             text: control.text
-            textFormat: Text.PlainText
             font: control.font
-            color: control.enabled ? ControlsStyle.text : ControlsStyle.mutedText
             verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
         }
         indicator: Rectangle {
-            x: 4
+            id: track
+            x: ControlsStyle.mirrored ? control.width - width - inset : inset
             y: (control.height - height) / 2
-            width: 64
-            height: 36
+            width: ControlsStyle.mm(11)
+            height: ControlsStyle.mm(6)
             radius: height / 2
-            opacity: control.enabled ? 1 : 0.5
-            color: control.checked ? ControlsStyle.primary : ControlsStyle.field
-            border { width: control.checked ? 0 : 2; color: ControlsStyle.mutedText }
+            color: !control.enabled ? ControlsStyle.disabledField : control.checked ? ControlsStyle.primary : ControlsStyle.field
+            border { width: 2 * ControlsStyle.line; color: !control.enabled ? ControlsStyle.disabledText : control.checked ? ControlsStyle.primary : ControlsStyle.border }
+
+            // Room for the frame of the focus.
+            readonly property real inset: ControlsStyle.focusLine
+            readonly property bool isRight: control.checked !== ControlsStyle.mirrored
 
             Rectangle {
-                x: control.checked ? parent.width - width - 5 : 5
+                readonly property real inset: 4 * ControlsStyle.line
+
+                x: track.isRight ? parent.width - width - inset : inset
                 anchors.verticalCenter: parent.verticalCenter
-                width: 26
-                height: 26
-                radius: 13
-                color: control.checked ? ControlsStyle.primaryText : ControlsStyle.mutedText
-            }
-            Rectangle {
-                anchors { fill: parent; margins: -5 }
-                visible: control.activeFocus
+                width: height
+                height: parent.height - 2 * inset
                 radius: height / 2
-                color: "transparent"
-                border { width: 3; color: ControlsStyle.focus }
+                color: !control.enabled ? ControlsStyle.disabledText : control.checked ? ControlsStyle.primaryText : ControlsStyle.mutedText
+            }
+            FocusFrame {
+                control: control
+                radius: height / 2
             }
         }
     }

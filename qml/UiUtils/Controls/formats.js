@@ -54,24 +54,18 @@ function urlProblem(text) {
             ? "" : qsTr("Scheme and host, such as https://host/path")
 }
 
-function utf8Length(text) {
-    return encodeURIComponent(text.replace(/[\uD800-\uDFFF]/g, "__")).replace(/%../g, "x").length
-}
-
-function fileNameProblem(text) {
-    // The rules of a USB drive that other computers can read.
-    if (/[\/\\:*?"<>|\u0000-\u001f\u007f]/.test(text))
-        return qsTr("A file name cannot contain / \\ : * ? \" < > |")
-    if (/^\.+$/.test(text) || /^\s|[\s.]$/.test(text))
-        return qsTr("A file name cannot begin with a blank or end with a blank or point")
-    return utf8Length(text) > 255 ? qsTr("This file name is too long") : ""
-}
-
 // What is wrong with the length of a text, if the expression is only a length of one kind of characters.
 function lengthProblem(expression, text) {
     const limits = /^\^?\[(?:\\.|[^\]\\])*\]\{\d+,(\d+)\}\$?$/.exec(expression)
     const length = Array.from(text).length
-    return limits !== null && length > Number(limits[1]) ? qsTr("At most %1 characters; this text has %2").arg(limits[1]).arg(length) : ""
+    return limits === null ? "" : limitsProblem(undefined, limits[1], length)
+}
+
+// What is wrong with a length, with both numbers; limits may be undefined.
+function limitsProblem(minimum, maximum, length) {
+    if (maximum !== undefined && length > Number(maximum))
+        return qsTr("At most %1 characters; this text has %2").arg(maximum).arg(length)
+    return length < Number(minimum || 0) ? qsTr("At least %1 characters; this text has %2").arg(minimum).arg(length) : ""
 }
 
 function phoneProblem(text) {

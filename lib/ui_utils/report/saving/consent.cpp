@@ -79,4 +79,16 @@ QString firstTaken(const QStringList& paths, bool compressed)
     return taken == paths.cend() ? QString() : *taken;
 }
 
+QStringList takenFiles(const QStringList& paths, bool compressed)
+{
+    QStringList taken;
+    for (const QString& path : paths) {
+        if (isTaken(path))
+            taken += path;
+        if (compressed && isTaken(path + gzipSuffix))
+            taken += path + gzipSuffix;
+    }
+    return taken;
+}
+
 } // namespace uiutils

@@ -58,4 +58,7 @@ private:
 /// too. Empty if all are free.
 QString firstTaken(const QStringList& paths, bool compressed);
 
+/// All files that exist at the instrument paths, compressed or not, if `compressed`.
+QStringList takenFiles(const QStringList& paths, bool compressed);
+
 } // namespace uiutils

@@ -1,5 +1,8 @@
 #include "report/saving/overwritequestion_p.h"
 
+#include "instrument/drives_p.h"
+#include "report/reporttexts_p.h"
+
 #include <QUuid>
 
 #include <utility>
@@ -10,13 +13,24 @@ namespace {
 
 const QLatin1String tokenKey("question");
 
+QString listed(const QStringList& files)
+{
+    QStringList lines(ReportTexts::tr("%1 files would be overwritten:").arg(files.size()));
+    for (const QString& file : files)
+        lines += instrument::shownPath(file);
+    return lines.join(QLatin1Char('\n'));
+}
+
 } // namespace
 
-void OverwriteQuestion::ask(const QString& path)
+void OverwriteQuestion::ask(const QString& path, const QStringList& files)
 {
     m_pendingPath = path;
     m_token = QUuid::createUuid().toString();
-    m_question->sendNotificationOverwriteReportRequest(path, {{tokenKey, m_token}});
+    QMap<QString, QString> values {{tokenKey, m_token}};
+    if (files.size() > 1)
+        values.insert(QStringLiteral("details"), listed(files));
+    m_question->sendNotificationOverwriteReportRequest(path, values);
 }
 
 QString OverwriteQuestion::takeAnswered(const KIVNotification* notification)

@@ -3,6 +3,7 @@
 #include "files/fileutils.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -17,8 +18,9 @@ public:
     ~OverwriteQuestion() = default;
     Q_DISABLE_COPY_MOVE(OverwriteQuestion)
 
-    /// Asks about the report at `path`, which is pending until the answer.
-    void ask(const QString& path);
+    /// Asks about the report at `path`, which is pending until the answer, and names all `files` that would be
+    /// overwritten if they are several.
+    void ask(const QString& path, const QStringList& files);
     /// The pending report if the notification is the question about it, which then counts as answered; otherwise empty.
     QString takeAnswered(const KIVNotification* notification);
     bool isAsking() const { return !m_token.isEmpty(); }

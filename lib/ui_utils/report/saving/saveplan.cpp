@@ -8,16 +8,14 @@
 
 namespace uiutils {
 
-namespace {
-
-QString noFormat(const FormatChoice& choice)
+QString formatProblem(const FormatChoice& choice)
 {
+    if (!choice.formats.isEmpty())
+        return QString();
     if (choice.given.isEmpty() || choice.isFormat)
         return ReportTexts::tr("No format is chosen to save the report in.");
     return ReportTexts::tr("There is no format \"%1\" to save the report in.").arg(choice.given);
 }
-
-} // namespace
 
 QStringList SavePlan::paths(bool isUsbThere) const
 {
@@ -49,7 +47,7 @@ QVector<PlannedFile> plannedFiles(
 QString planProblem(const QString& name, const FormatChoice& choice, bool compressed)
 {
     if (choice.formats.isEmpty())
-        return noFormat(choice);
+        return formatProblem(choice);
     for (const FormatInfo* format : choice.formats) {
         QString problem = nameProblem(name, format->suffix, compressed);
         if (!problem.isEmpty())

@@ -43,6 +43,9 @@ PlannedFile plannedFile(const QString& path, const FormatInfo* format, bool copi
 QVector<PlannedFile> plannedFiles(
         const QString& name, const FormatInfos& formats, bool copiesToUsb, const PathOf& pathOf);
 
+/// Why nothing can be saved in the chosen formats, for the user; empty if it can.
+QString formatProblem(const FormatChoice& choice);
+
 /// Why nothing can be saved under the name in the chosen formats, for the user; empty if it can.
 QString planProblem(const QString& name, const FormatChoice& choice, bool compressed);
 

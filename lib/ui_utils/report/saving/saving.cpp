@@ -28,7 +28,7 @@ bool Saving::mayWrite(const QStringList& paths, bool overwrite)
         return true;
     hooks->listenForAnswers();
     consent.ask(destinations(), paths);
-    question.ask(taken);
+    question.ask(taken, takenFiles(paths, hooks->isCompressed()));
     hooks->asked(taken);
     return false;
 }

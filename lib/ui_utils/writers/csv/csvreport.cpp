@@ -181,7 +181,7 @@ private:
     void writePlot(const QString& title, const TableReader& reader)
     {
         CsvLines lines = newLines();
-        writePlotPoints(reader.text(keys::service), lines);
+        writePlotPoints(reader.plotSource(), lines);
         writeFile(title, lines);
     }
 

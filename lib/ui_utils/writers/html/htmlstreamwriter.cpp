@@ -10,6 +10,7 @@
 #include "writers/pages/reporttable.h"
 #include "writers/pages/reporttext.h"
 #include "writers/pages/statusicons_p.h"
+#include "writers/pages/tablerowsource_p.h"
 
 #include <QRegularExpression>
 
@@ -90,6 +91,22 @@ void HtmlStreamWriter::abandonTable()
     if (m_currentTable && m_items == &uiutils::sharedReportItems() && m_items->lastIndexOf(m_currentTable) >= 0)
         m_currentTable->setOfPass();
     m_currentTable = nullptr;
+}
+
+void HtmlStreamWriter::readRowsFrom(std::unique_ptr<uiutils::TableRowSource> rows)
+{
+    if (m_currentTable)
+        m_currentTable->readRowsFrom(std::move(rows));
+}
+
+bool HtmlStreamWriter::needsRows() const
+{
+    return m_keepsText || storesCells();
+}
+
+bool HtmlStreamWriter::storesCells() const
+{
+    return m_currentTable && !m_currentTable->readsRows();
 }
 
 void HtmlStreamWriter::writeHead(const QString& title, const QList<Style*>& styles)
@@ -261,7 +278,7 @@ void HtmlStreamWriter::writeHeaderCell(const QString& text, int align)
         uiutils::appendDirectText(m_output, text);
         m_output += uiutils::cellMarkup().labelEnd;
     }
-    if (m_currentTable)
+    if (storesCells())
         m_currentTable->appendCell({text, Status::None, qint8(align), ReportTable::CellKind::RowLabel, 1});
 }
 
@@ -275,7 +292,7 @@ void HtmlStreamWriter::writeCell(const QString& text, int status, int align)
         uiutils::appendDirectText(m_output, text);
         m_output += uiutils::cellMarkup().valueEnd;
     }
-    if (m_currentTable)
+    if (storesCells())
         m_currentTable->appendCell({text, status, qint8(align), ReportTable::CellKind::Value, 1});
 }
 
@@ -288,7 +305,7 @@ void HtmlStreamWriter::writeEmptyCells(int columns)
         m_output += uiutils::newLine(uiutils::cellLevel)
                 + (span > 1 ? QStringLiteral("<td colspan=\"%1\"></td>").arg(span) : QStringLiteral("<td></td>"));
     }
-    if (m_currentTable)
+    if (storesCells())
         m_currentTable->appendCell(
                 {QString(), Status::None, Alignment::Center, ReportTable::CellKind::Value, quint16(span)});
 }

@@ -11,9 +11,15 @@
 #include <QVariant>
 #include <QXmlStreamWriter>
 
+#include <memory>
+
 class ReportItem;
 class ReportTable;
 class Style;
+
+namespace uiutils {
+class TableRowSource;
+}
 
 /// Writes one HTML 4.01 page into a string that it owns. Its element operations are the only place where markup is
 /// made: whatever text they are given, the page stays well-formed and no text becomes markup.
@@ -83,6 +89,11 @@ public:
 private:
     friend class TemplateToHtmlWriter;
 
+    /// Has the item of the open table, which has no row yet, read its rows from there. What is written to the table is
+    /// then for the text alone.
+    void readRowsFrom(std::unique_ptr<uiutils::TableRowSource> rows);
+    /// Whether the rows of the open table are kept anywhere if they are written.
+    bool needsRows() const;
     /// Puts a page that was made elsewhere in place of what has been written.
     void replaceText(const QString& page) { m_output = page; }
     void startTableRow();
@@ -93,6 +104,7 @@ private:
     void writeEmptyHeader(int columns);
     void writeStatusIcon(int status);
     void append(ReportItem* item);
+    bool storesCells() const;
     void abandonTable();
     void clearText();
     const QString& iconMarkup(const QString& path);

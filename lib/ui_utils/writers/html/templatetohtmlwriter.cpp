@@ -3,6 +3,7 @@
 #include "document/documentreader_p.h"
 #include "document/reporttemplate.h"
 #include "instrument/unit_p.h"
+#include "writers/html/documentrows_p.h"
 #include "writers/html/htmlstreamwriter.h"
 #include "writers/html/pageplots_p.h"
 #include "writers/html/pagestyle_p.h"
@@ -22,6 +23,7 @@
 namespace instrument = uiutils::instrument;
 namespace keys = uiutils::keys;
 using uiutils::Alignment;
+using uiutils::DocumentRows;
 using uiutils::NodeReader;
 using uiutils::ReportWords;
 using uiutils::Status;
@@ -45,13 +47,6 @@ void writeInformation(HtmlStreamWriter& html, const uiutils::InformationTable& t
         html.endRow();
     }
     html.endTable();
-}
-
-/// Of a cell, on pages; in HTML, a cell without one is centred.
-int alignmentOf(const QJsonObject& cell)
-{
-    const QString alignment = uiutils::textOf(cell.value(keys::alignAttribute));
-    return alignment.isEmpty() ? ReportTable::automatic : qMax(0, alignment.toInt());
 }
 
 } // namespace
@@ -338,45 +333,31 @@ void TemplateToHtmlWriter::tableToHtml(const TableReader& table)
     QVariantMap attributes;
     table.forEachAttribute([&](const QString& name, const QString& value) { attributes.insert(name, value); });
 
-    const bool hasLabels = table.usesRowLabels();
-    m_html->startTable(table.title(), table.columnLabels(), hasLabels, m_depth, attributes);
+    m_html->startTable(table.title(), table.columnLabels(), table.usesRowLabels(), m_depth, attributes);
+    if (m_items && DocumentRows::canRead(table))
+        m_html->readRowsFrom(std::make_unique<DocumentRows>(table));
+    if (m_html->needsRows())
+        rowsToHtml(table);
+    m_html->endTable();
+}
+
+void TemplateToHtmlWriter::rowsToHtml(const TableReader& table)
+{
     if (m_html->keepsText()) {
         const TableReader::Extent extent = table.extent();
         m_html->expectRows(extent.rows, extent.cells);
     }
-    table.forEachRow(NodeReader::ByKey, [&](const QString& key, const QJsonObject& row) {
-        if (key.startsWith(keys::rowFamily))
-            rowToHtml(table, hasLabels, row);
+    const bool hasLabels = table.usesRowLabels();
+    table.forEachRowOnPage([&](int, const QJsonObject& row) {
+        m_html->startRow();
+        uiutils::writeRow(table, hasLabels, row, *m_html);
+        m_html->endRow();
     });
-    m_html->endTable();
-}
-
-void TemplateToHtmlWriter::rowToHtml(const TableReader& table, bool hasLabel, const QJsonObject& row)
-{
-    m_html->startRow();
-    if (hasLabel)
-        m_html->writeHeaderCell(uiutils::shownTextOf(row.value(keys::label)), Alignment::Right);
-
-    int missing = 0;
-    for (int column = 0; column < table.columnCount(); ++column) {
-        const QJsonValue value = row.value(table.cellKey(column));
-        if (!value.isObject()) {
-            ++missing;
-            continue;
-        }
-        m_html->writeEmptyCells(missing);
-        missing = 0;
-        const QJsonObject cell = value.toObject();
-        m_html->writeCell(uiutils::shownTextOf(cell.value(keys::label)),
-                uiutils::textOf(cell.value(keys::statusAttribute)).toInt(), alignmentOf(cell));
-    }
-    m_html->writeEmptyCells(missing);
-    m_html->endRow();
 }
 
 void TemplateToHtmlWriter::plotToHtml(const TableReader& table, quint64 tableNumber)
 {
-    const uiutils::PagePlots::Plot plot = plots().plot(table.text(keys::service), table.title());
+    const uiutils::PagePlots::Plot plot = plots().plot(table.plotSource(), table.title());
     plots().leaveFile(plot, tableNumber);
     m_html->writeImageParagraph(m_html->keepsText() ? plots().picture(plot) : QByteArray(), plots().items(plot));
 }

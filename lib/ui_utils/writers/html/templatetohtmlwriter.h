@@ -87,7 +87,7 @@ private:
 
     void sectionToHtml(QJsonObject& section);
     void tableToHtml(const uiutils::TableReader& table);
-    void rowToHtml(const uiutils::TableReader& table, bool hasLabel, const QJsonObject& row);
+    void rowsToHtml(const uiutils::TableReader& table);
     void plotToHtml(const uiutils::TableReader& table, quint64 tableNumber);
     uiutils::PagePlots& plots();
     void writeConfigurationValues(const uiutils::NodeReader& section);

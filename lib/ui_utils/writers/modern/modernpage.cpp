@@ -227,7 +227,7 @@ private:
 
     void writePlot(const TableReader& table, quint64 number)
     {
-        const PlotOnPage plot = m_source.plot(table.text(keys::service), number);
+        const PlotOnPage plot = m_source.plot(table.plotSource(), number);
         const QSize size = pngSize(plot.png) / m_source.plotPixels;
         const QString own = table.title().trimmed();
         const QString title = own.isEmpty() ? ReportWords::tr("Plot") : own;

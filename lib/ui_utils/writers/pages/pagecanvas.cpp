@@ -74,8 +74,8 @@ void PageCanvas::drawText(const PageFont& font, const QString& text, const QPoin
 const WrappedText* PageCanvas::findParted(const PageFont& font, const QString& text, qreal width) const
 {
     for (const Parted& parted : m_parted) {
-        // Shared data means the same text; comparing megabytes for each page would be no better than wrapping them.
-        if (parted.font == &font && qFuzzyCompare(parted.width, width) && parted.text.constData() == text.constData())
+        // A row that was read anew for another page has other strings of the same text.
+        if (parted.font == &font && qFuzzyCompare(parted.width, width) && parted.text == text)
             return parted.lines.get();
     }
     return nullptr;

@@ -66,11 +66,11 @@ public:
     }
 
     bool isEmbeddable() const { return m_isEmbeddable; }
-    /// Whether a face that shows texts of the font is to be thickened, because it is not bold as asked. Qt itself says of
-    /// any face that it is what was asked for.
+    /// Whether a face that shows texts of the font is to be thickened, because it is not bold as asked. Qt itself says
+    /// of any face that it is what was asked for.
     bool isThickened(const QRawFont& raw) const;
-    /// Has fonts that cannot be embedded give way to others. Returns whether there is another one for a character of the
-    /// layout, so that its text must be laid out again with font().
+    /// Has fonts that cannot be embedded give way to others. Returns whether there is another one for a character of
+    /// the layout, so that its text must be laid out again with font().
     bool replaceRefused(const QTextLayout& layout) const;
 
     /// The width of a text that can be set glyph by glyph; negative for any other.

@@ -1,6 +1,7 @@
 #include "writers/pages/reporttable.h"
 
 #include "writers/pages/tablelayout_p.h"
+#include "writers/pages/tablerowsource_p.h"
 
 ReportTable::ReportTable(const QString& title, const QStringList& columnLabels, bool hasLabelColumn)
     : m_title(title)
@@ -29,8 +30,26 @@ QStringList ReportTable::columnLabels() const
     return labels;
 }
 
+void ReportTable::readRowsFrom(std::unique_ptr<uiutils::TableRowSource> rows)
+{
+    m_source = std::move(rows);
+    m_hasSpans = true;
+}
+
+/// Rows of the application's own follow those that were read.
+void ReportTable::storeRows()
+{
+    const std::unique_ptr<uiutils::TableRowSource> source = std::move(m_source);
+    for (int row = 0; row < source->count(); ++row) {
+        m_cells += source->row(row);
+        endRow();
+    }
+}
+
 void ReportTable::appendCell(const Cell& cell)
 {
+    if (m_source)
+        storeRows();
     m_hasSpans = m_hasSpans || cell.columnSpan > 1;
     m_cells.append(cell);
 }
@@ -43,18 +62,27 @@ void ReportTable::endRow()
 
 int ReportTable::rowCount() const
 {
-    return m_rowEnds.size() + (hasOpenRow() ? 1 : 0);
+    return m_source ? m_source->count() : m_rowEnds.size() + (hasOpenRow() ? 1 : 0);
 }
 
 QVector<ReportTable::Cell> ReportTable::row(int index) const
 {
+    if (m_source)
+        return m_source->row(index);
     return m_cells.mid(rowBegin(index), rowEnd(index) - rowBegin(index));
 }
 
 const ReportTable::Cell* ReportTable::cellAt(int row, int column) const
 {
-    const Cell* cell = m_cells.constData() + rowBegin(row);
-    const Cell* const end = m_cells.constData() + rowEnd(row);
+    if (m_source) {
+        const QVector<Cell>& cells = m_source->row(row);
+        return findCell(cells.constBegin(), cells.constEnd(), column);
+    }
+    return findCell(m_cells.constData() + rowBegin(row), m_cells.constData() + rowEnd(row), column);
+}
+
+const ReportTable::Cell* ReportTable::findCell(const Cell* cell, const Cell* end, int column) const
+{
     if (!m_hasSpans)
         return column < end - cell ? cell + column : nullptr;
     int at = 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/status.h"
+#include "writers/pages/reportcell.h"
 #include "writers/pages/reportitem.h"
 
 #include <QString>
@@ -9,9 +9,12 @@
 
 #include <memory>
 
+class HtmlStreamWriter;
+
 namespace uiutils {
 class TableLayout;
-}
+class TableRowSource;
+} // namespace uiutils
 
 /// A table of a printed report. Its columns are as wide as their contents need. What does not fit is wrapped; if a
 /// table has too many columns, the others follow below it, and a single row becomes a list of labels and values. Each
@@ -21,27 +24,14 @@ class TableLayout;
 class UIUTILS_EXPORT ReportTable final : public ReportItem
 {
 public:
-    /// A row label is a cell that is distinguished from the values.
-    enum class CellKind : quint8 { Value, RowLabel };
+    /// A cell of a row.
+    using Cell = ReportCell;
+    /// What a cell is in its row.
+    using CellKind = ReportCell::Kind;
 
     /// The alignment of a cell that has none of its own: to the right in a column of which most such cells are numbers,
     /// else to the side from which the table is read.
     static constexpr qint8 automatic = -1;
-
-    /// A cell as it is shown.
-    struct Cell
-    {
-        /// Plain text; line feeds begin new lines.
-        QString text;
-        /// A code of uiutils::Status; anything else has no icon.
-        int status = uiutils::Status::None;
-        /// A code of uiutils::Alignment, or `automatic`; anything else means the center.
-        qint8 alignment = uiutils::Alignment::Center;
-        /// Whether the cell is the row's label.
-        CellKind kind = CellKind::Value;
-        /// How many columns the cell covers.
-        quint16 columnSpan = 1;
-    };
 
     /// An empty table. `columnLabels` has a text for each value column.
     ReportTable(const QString& title, const QStringList& columnLabels, bool hasLabelColumn);
@@ -65,7 +55,8 @@ public:
     int rowCount() const;
     /// The cells of a row; fewer than columnCount() if the row ended early.
     QVector<Cell> row(int index) const;
-    /// The cell that begins in that column of a row, or null.
+    /// The cell that begins in that column of a row, or null. The tables that a pass makes read their rows from the
+    /// report document: a cell of such a table stays until one of another row is requested.
     const Cell* cellAt(int row, int column) const;
 
     /// Whether the table has columns that have no place side by side, or too many for its usual type, on the pages for
@@ -81,11 +72,19 @@ public:
     QString outlineTitle() const override { return m_title; }
 
 private:
+    friend class ::HtmlStreamWriter;
+
     struct Label
     {
         int column;
         QString text;
     };
+
+    /// Has the table read its rows from `rows`. It must have none of its own.
+    void readRowsFrom(std::unique_ptr<uiutils::TableRowSource> rows);
+    bool readsRows() const { return m_source != nullptr; }
+    void storeRows();
+    const Cell* findCell(const Cell* cell, const Cell* end, int column) const;
 
     bool hasOpenRow() const { return m_cells.size() > (m_rowEnds.isEmpty() ? 0 : m_rowEnds.constLast()); }
     int rowBegin(int index) const { return index == 0 ? 0 : m_rowEnds.at(index - 1); }
@@ -100,7 +99,7 @@ private:
     // One flat list: a vector for each row would cost more than the cells.
     QVector<Cell> m_cells;
     QVector<int> m_rowEnds;
+    // Where the rows are while none is stored.
+    std::unique_ptr<uiutils::TableRowSource> m_source;
     std::unique_ptr<uiutils::TableLayout> m_layout;
 };
-
-Q_DECLARE_TYPEINFO(ReportTable::Cell, Q_MOVABLE_TYPE);

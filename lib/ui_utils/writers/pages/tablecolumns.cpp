@@ -95,6 +95,7 @@ TableColumns::TableColumns(const ReportTable& table, const PageStyle& style, qre
 {
     m_isMirrored = isReadFromRight();
     forEachExamined(table, [this](int column, const ReportTable::Cell& cell) { judge(cell, m_columns[column]); });
+    alignLabels();
     measureLabels();
     measureCells();
     const QVector<ColumnBand> bands
@@ -223,11 +224,13 @@ Qt::Alignment TableColumns::alignmentOf(const ReportTable::Cell& cell, int colum
     return m_isMirrored && !isNumber(cell.text) ? mirrored(alignment) : alignment;
 }
 
-Qt::Alignment TableColumns::labelAlignment(int column) const
+void TableColumns::alignLabels()
 {
     static const ReportTable::Cell none {{}, Status::None, ReportTable::automatic};
-    const ReportTable::Cell* const cell = m_table.rowCount() > 0 ? m_table.cellAt(0, column) : nullptr;
-    return alignmentOf(cell ? *cell : none, column);
+    for (int column = 0; column < m_columns.size(); ++column) {
+        const ReportTable::Cell* const cell = m_table.rowCount() > 0 ? m_table.cellAt(0, column) : nullptr;
+        m_labelAlignments += alignmentOf(cell ? *cell : none, column);
+    }
 }
 
 } // namespace uiutils

@@ -48,7 +48,7 @@ public:
     QString labelOf(int column) const;
     Qt::Alignment alignmentOf(const ReportTable::Cell& cell, int column) const;
     /// A label is aligned like the values below it.
-    Qt::Alignment labelAlignment(int column) const;
+    Qt::Alignment labelAlignment(int column) const { return m_labelAlignments.at(column); }
 
 private:
     struct Column
@@ -68,6 +68,7 @@ private:
 
     bool isReadFromRight() const;
     void judge(const ReportTable::Cell& cell, Column& column) const;
+    void alignLabels();
     void measureLabels();
     void measureCells();
     void measureCell(const ReportTable::Cell& cell, Column& column) const;
@@ -80,6 +81,8 @@ private:
     bool m_isMirrored;
     TableType m_type;
     QStringList m_labels;
+    // Of the first row, which is not read again for each page.
+    QVector<Qt::Alignment> m_labelAlignments;
     QVector<Column> m_columns;
     QVector<Band> m_bands;
 };

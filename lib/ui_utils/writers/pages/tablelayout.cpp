@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace uiutils {
 
 namespace {
@@ -102,21 +104,26 @@ void TableLayout::measureLabels(int band)
 
 void TableLayout::measureRows(int band)
 {
-    for (const TableColumns::Place& place : m_columns.bands().value(band)) {
-        if (m_columns.areLines(place))
-            continue;
-        int* lines = m_lines.data() + qptrdiff(band) * m_rowsOfABand;
-        for (int row = 0; row < m_table.rowCount(); ++row, ++lines) {
-            const ReportTable::Cell* const cell = m_table.cellAt(row, place.column);
-            if (!cell || cell->text.isEmpty())
-                continue;
-            const PageFont& font = m_columns.fontOf(*cell);
-            const qreal room = place.width - m_columns.iconSpace(*cell);
-            const qreal plainWidth = font.plainWidth(cell->text);
-            if (plainWidth < 0 || plainWidth > room)
-                *lines = qMax(*lines, WrappedText(font, cell->text, room).lineCount());
-        }
+    TableColumns::Band places = m_columns.bands().value(band);
+    const auto isDone = [this](const TableColumns::Place& place) { return m_columns.areLines(place); };
+    places.erase(std::remove_if(places.begin(), places.end(), isDone), places.end());
+    if (places.isEmpty())
+        return;
+    int* lines = m_lines.data() + qptrdiff(band) * m_rowsOfABand;
+    for (int row = 0; row < m_table.rowCount(); ++row, ++lines) {
+        for (const TableColumns::Place& place : qAsConst(places))
+            *lines = qMax(*lines, linesOf(m_table.cellAt(row, place.column), place.width));
     }
+}
+
+int TableLayout::linesOf(const ReportTable::Cell* cell, qreal width) const
+{
+    if (!cell || cell->text.isEmpty())
+        return 1;
+    const PageFont& font = m_columns.fontOf(*cell);
+    const qreal room = width - m_columns.iconSpace(*cell);
+    const qreal plainWidth = font.plainWidth(cell->text);
+    return plainWidth < 0 || plainWidth > room ? WrappedText(font, cell->text, room).lineCount() : 1;
 }
 
 const TableLayout::Title& TableLayout::titleAt(const ReportItem::Position& begin) const

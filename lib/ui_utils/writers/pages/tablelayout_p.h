@@ -47,6 +47,7 @@ private:
     Title makeTitle(const QString& text) const;
     void measureLabels(int band);
     void measureRows(int band);
+    int linesOf(const ReportTable::Cell* cell, qreal width) const;
 
     void drawBackground(
             PageCanvas& canvas, const ReportItem::Portion& portion, const QRectF& title, const QRectF& labels) const;

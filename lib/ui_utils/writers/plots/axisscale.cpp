@@ -56,7 +56,8 @@ Interval positiveExtent(Interval data)
 
 int decadeOf(double value)
 {
-    return int(std::floor(std::log10(value) + finest));
+    // A mark may stand where the axis has no place.
+    return value > 0 && std::isfinite(value) ? int(std::floor(std::log10(value) + finest)) : 0;
 }
 
 /// The decade of the smallest power of ten that is at least `value`.

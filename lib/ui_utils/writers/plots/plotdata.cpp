@@ -2,6 +2,7 @@
 
 #include "core/itemids_p.h"
 #include "writers/plots/curvepoints_p.h"
+#include "writers/plots/plotsource_p.h"
 
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
@@ -33,20 +34,6 @@ bool disturbsLine(QChar c)
     return c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line
             || c.category() == QChar::Separator_Paragraph || (c >= QChar(0x202a) && c <= QChar(0x202e))
             || (c >= QChar(0x2066) && c <= QChar(0x2069));
-}
-
-/// A label or unit on one line, cut to a length that every plot has space for: a service may hold megabytes, and each
-/// character is measured.
-QString shownText(const QString& text)
-{
-    constexpr int longest = 200;
-    const bool isLong = text.size() > longest;
-    QString shown = isLong ? text.left(longest - 1) + QChar(0x2026) : text;
-    for (QChar& c : shown) {
-        if (disturbsLine(c))
-            c = QLatin1Char(' ');
-    }
-    return shown.simplified();
 }
 
 /// NaN for what is not a number.
@@ -91,7 +78,7 @@ void addLimit(PlotData& data, const KIVClientItem& item, PlotSide side, const QS
     const bool isKnown = std::any_of(data.limits.cbegin(), data.limits.cend(),
             [&](const PlotLimit& limit) { return limit.kind == kind && limit.value == value && limit.side == side; });
     if (!isKnown)
-        data.limits.append({kind, value, shownText(item.getUnitString()), side});
+        data.limits.append({kind, value, shownPlotText(item.getUnitString()), side, {}});
 }
 
 /// The first unit is on the left, together with curves without one; all others are on the right.
@@ -104,22 +91,21 @@ PlotSide sideOf(const PlotData& data, const QString& unit)
 void addPair(PlotData& data, const KIVClientItem& x, const KIVClientItem& y)
 {
     if (data.curves.isEmpty()) {
-        data.xLabel = shownText(x.getLabel());
-        data.xUnit = shownText(x.getUnitString());
+        data.xLabel = shownPlotText(x.getLabel());
+        data.xUnit = shownPlotText(x.getUnitString());
         data.xOwnUnit = data.xUnit;
         data.xKind = xScaleKind(x);
         data.axes[LeftSide].kind = scaleKind(y);
     }
     PlotCurve curve;
-    curve.label = shownText(y.getLabel().isEmpty() ? y.getName() : y.getLabel());
-    curve.unit = shownText(y.getUnitString());
+    curve.label = shownPlotText(y.getLabel().isEmpty() ? y.getName() : y.getLabel());
+    curve.unit = shownPlotText(y.getUnitString());
     curve.side = sideOf(data, curve.unit);
     curve.isMask = y.getAttribute(QStringLiteral("mask")).toBool();
     PlotAxis& axis = data.axes[curve.side];
     if (curve.side == RightSide && axis.units.isEmpty())
         axis.kind = scaleKind(y);
-    if (!curve.unit.isEmpty() && !axis.units.contains(curve.unit))
-        axis.units += curve.unit;
+    addUnit(axis, curve.unit);
     addLimit(data, y, curve.side, QStringLiteral("lowerLimit"), PlotLimit::Lower);
     addLimit(data, y, curve.side, QStringLiteral("upperLimit"), PlotLimit::Upper);
     addCurve(data, curve, x.getValue().toList(), y.getValue().toList());
@@ -174,9 +160,23 @@ template<typename Visitor> void forEachPair(const QString& service, Visitor visi
 
 } // namespace
 
+QString shownPlotText(const QString& text)
+{
+    constexpr int longest = 200;
+    const bool isLong = text.size() > longest;
+    QString shown = isLong ? text.left(longest - 1) + QChar(0x2026) : text;
+    for (QChar& c : shown) {
+        if (disturbsLine(c))
+            c = QLatin1Char(' ');
+    }
+    return shown.simplified();
+}
+
 Interval PlotData::xExtent() const
 {
-    Interval extent;
+    Interval extent = xWindow;
+    if (!extent.isEmpty())
+        return extent;
     for (const PlotCurve& curve : curves)
         extent.include(curve.extent.x);
     return extent;
@@ -184,7 +184,9 @@ Interval PlotData::xExtent() const
 
 Interval PlotData::yExtent(PlotSide side) const
 {
-    Interval extent;
+    Interval extent = axes[side].window;
+    if (!extent.isEmpty())
+        return extent;
     for (const PlotCurve& curve : curves) {
         if (curve.side == side)
             extent.include(curve.extent.y);
@@ -211,6 +213,12 @@ bool PlotData::isDrawable(const QPointF& point, PlotSide side) const
 {
     return std::isfinite(point.x()) && std::isfinite(point.y()) && (xKind != AxisScale::Logarithmic || point.x() > 0)
             && (axes[side].kind != AxisScale::Logarithmic || point.y() > 0);
+}
+
+void addUnit(PlotAxis& axis, const QString& unit)
+{
+    if (!unit.isEmpty() && !axis.units.contains(unit))
+        axis.units += unit;
 }
 
 void addCurve(PlotData& data, PlotCurve curve, const QVariantList& xs, const QVariantList& ys)
@@ -241,10 +249,12 @@ void addCurve(PlotData& data, PlotCurve curve, const QVariantList& xs, const QVa
     data.curves += curve;
 }
 
-PlotData readPlotData(const QString& service)
+PlotData readPlotData(const QString& source)
 {
+    if (isPlotText(source))
+        return plotOfText(source);
     PlotData data;
-    forEachPair(service, [&](const KIVClientItem& x, const KIVClientItem& y) { addPair(data, x, y); });
+    forEachPair(source, [&](const KIVClientItem& x, const KIVClientItem& y) { addPair(data, x, y); });
     settleTimes(data);
     return data;
 }
@@ -254,10 +264,12 @@ QPointF PlotArrays::point(int index) const
     return {number(m_xs.at(index)), number(m_ys.at(index))};
 }
 
-QVector<PlotArrays> readPlotArrays(const QString& service)
+QVector<PlotArrays> readPlotArrays(const QString& source)
 {
+    if (isPlotText(source))
+        return arraysOfText(source);
     QVector<PlotArrays> curves;
-    forEachPair(service, [&](const KIVClientItem& x, const KIVClientItem& y) {
+    forEachPair(source, [&](const KIVClientItem& x, const KIVClientItem& y) {
         if (curves.size() < mostCurves)
             curves.append({x.getValue().toList(), y.getValue().toList()});
     });

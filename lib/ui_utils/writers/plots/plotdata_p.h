@@ -22,6 +22,22 @@ struct PlotExtent
 /// Which side of a plot has the axis of a value.
 enum PlotSide { LeftSide, RightSide };
 
+/// What of a curve exceeds its limits.
+struct PlotExcess
+{
+    /// Whether it fails; otherwise it is marginal.
+    bool isFailure = true;
+    /// As those of the curve.
+    QVector<QPointF> points;
+};
+
+/// A place on the x axis that is kept in sight.
+struct PlotMark
+{
+    QString label;
+    double x = 0;
+};
+
 /// One curve of a plot.
 struct PlotCurve
 {
@@ -36,6 +52,7 @@ struct PlotCurve
     PlotExtent extent;
     /// As many of them as pictures can show, with CurvePoints::interruption() where some cannot be drawn.
     QVector<QPointF> points;
+    QVector<PlotExcess> excesses;
 };
 
 /// A level that the curves are compared with.
@@ -46,6 +63,8 @@ struct PlotLimit
     double value;
     QString unit;
     PlotSide side = LeftSide;
+    /// Empty for one that its value names.
+    QString label = {};
 };
 
 /// What an axis of values shows.
@@ -54,6 +73,8 @@ struct PlotAxis
     AxisScale::Kind kind = AxisScale::Linear;
     /// Of its curves: one on the left, those of all other curves on the right.
     QStringList units;
+    /// The values that the axis shows; empty for those of its curves and limits.
+    Interval window;
 };
 
 /// The plot as the service describes it.
@@ -69,6 +90,9 @@ struct PlotData
     /// The unit that the service names.
     QString xOwnUnit;
     AxisScale::Kind xKind = AxisScale::Linear;
+    /// As that of an axis of values.
+    Interval xWindow;
+    QVector<PlotMark> marks;
     /// One for each side.
     PlotAxis axes[2];
 
@@ -83,9 +107,17 @@ struct PlotData
 /// Adds a curve from the arrays of a service: what pictures can show of it.
 void addCurve(PlotData& data, PlotCurve curve, const QVariantList& xs, const QVariantList& ys);
 
+/// Adds to an axis what a curve says of it.
+void addUnit(PlotAxis& axis, const QString& unit);
+
+/// A label or unit on one line, cut to a length that every plot has space for: a service may hold megabytes, and each
+/// character is measured.
+QString shownPlotText(const QString& text);
+
 /// Reads the curves of a service: pairs of result arrays whose ids end in "_x:doubleARRAY:" and "_y:doubleARRAY:" and
-/// agree before that. Empty if there is no such service.
-PlotData readPlotData(const QString& service);
+/// agree before that. Empty if there is no such service. A source that is no name is the data themselves, see
+/// plotsource_p.h.
+PlotData readPlotData(const QString& source);
 
 /// The arrays of one curve, shared with their service.
 class PlotArrays
@@ -107,8 +139,8 @@ private:
     QVariantList m_ys;
 };
 
-/// All points of the curves of readPlotData(), in their order and in the units of the service.
-QVector<PlotArrays> readPlotArrays(const QString& service);
+/// All points of the curves of readPlotData(), in their order and in the units of the source.
+QVector<PlotArrays> readPlotArrays(const QString& source);
 
 /// What `columns` columns can show of a curve: the connected stretches, in positions 0 to 1 along both axes.
 QVector<QVector<QPointF>> visibleStretches(

@@ -24,6 +24,10 @@ const QRgb curveColors[] = {0x00689b, 0xd55e00, 0x007a5a, 0xaa4499, 0x8a6d00, 0x
 const QVector<qreal> curveDashes[]
         = {{}, {6, 2.5}, {1.5, 2}, {8, 2, 1.5, 2}, {3, 2}, {12, 3}, {8, 2, 1.5, 2, 1.5, 2}, {12, 2, 3, 2}};
 const QRgb limitColor = 0xc62828;
+const QRgb marginalColor = 0x9a5b00;
+const QRgb markColor = 0x5e35b1;
+// A place on an axis is said as exactly as a screen shows it.
+constexpr int distinguishable = 1000;
 
 double unitOf(const QSize& size)
 {
@@ -46,6 +50,13 @@ QString levelText(double value)
     return QLocale().toString(value, 'g', isPlain ? 7 : 6);
 }
 
+/// A window is shown as it is.
+AxisScale scaleOf(const PlotData& data, PlotSide side, int ticks)
+{
+    const PlotAxis& axis = data.axes[side];
+    return {data.yExtent(side), axis.kind, axis.window.isEmpty() ? AxisScale::AtTicks : AxisScale::AtData, ticks};
+}
+
 QString titled(const QString& label, const QString& unit)
 {
     if (unit.isEmpty())
@@ -64,6 +75,11 @@ QSize plotSize(int width, int height)
     return {width < 1 ? 600 : qBound(least, width, most), height < 1 ? 400 : qBound(least, height, most)};
 }
 
+QColor plotCurveColor(int index)
+{
+    return QColor(curveColors[index % int(std::size(curveColors))]);
+}
+
 PlotLayout::PlotLayout(std::shared_ptr<const PlotData> data, const QString& title, const QSize& size)
     : m_data(std::move(data))
     , m_title(title)
@@ -72,10 +88,8 @@ PlotLayout::PlotLayout(std::shared_ptr<const PlotData> data, const QString& titl
     , m_font(fontOf(m_unit))
     , m_line(QFontMetricsF(m_font).height())
     , m_x(m_data->xExtent(), m_data->xKind, AxisScale::AtData, int(m_width / (m_unit * 7)))
-    , m_left(m_data->yExtent(LeftSide), m_data->axes[LeftSide].kind, AxisScale::AtTicks,
-              int(size.height() / (m_unit * 3)))
-    , m_right(m_data->yExtent(RightSide), m_data->axes[RightSide].kind, AxisScale::AtTicks,
-              int(size.height() / (m_unit * 3)))
+    , m_left(scaleOf(*m_data, LeftSide, int(size.height() / (m_unit * 3))))
+    , m_right(scaleOf(*m_data, RightSide, int(size.height() / (m_unit * 3))))
 {
     layOut(size);
 }
@@ -135,7 +149,7 @@ QPen PlotLayout::curvePen(int index) const
 {
     const int count = int(std::size(curveColors));
     const QVector<qreal>& dashes = curveDashes[(index + index / count) % count];
-    QPen pen(QColor(curveColors[index % count]), std::max(1.2, m_unit / 8), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    QPen pen(plotCurveColor(index), std::max(1.2, m_unit / 8), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     if (!dashes.isEmpty()) {
         // Round ends would fill the gaps.
         pen.setCapStyle(Qt::FlatCap);
@@ -148,6 +162,19 @@ QPen PlotLayout::limitPen() const
 {
     QPen pen(QColor(limitColor), std::max(1.0, m_unit / 10), Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
     pen.setDashPattern({4, 4});
+    return pen;
+}
+
+QPen PlotLayout::excessPen(bool isFailure) const
+{
+    return {QColor(isFailure ? limitColor : marginalColor), std::max(2.4, m_unit / 4), Qt::SolidLine, Qt::FlatCap,
+            Qt::BevelJoin};
+}
+
+QPen PlotLayout::markPen() const
+{
+    QPen pen(QColor(markColor), std::max(1.0, m_unit / 10), Qt::SolidLine, Qt::FlatCap);
+    pen.setDashPattern({8, 2, 2, 2});
     return pen;
 }
 
@@ -191,7 +218,8 @@ QString PlotLayout::xTitle() const
 /// One curve is named beside its axis, if the name fits there.
 bool PlotLayout::needsLegend() const
 {
-    return m_data->curves.size() > 1 || !m_data->limits.isEmpty() || !fits(LeftSide);
+    return m_data->curves.size() > 1 || !m_data->limits.isEmpty() || !m_data->marks.isEmpty() || !fits(LeftSide)
+            || !excessEntries().isEmpty();
 }
 
 QVector<LegendEntry> PlotLayout::curveEntries() const
@@ -210,14 +238,50 @@ QVector<LegendEntry> PlotLayout::curveEntries() const
     return entries;
 }
 
+/// Each kind once.
+QVector<LegendEntry> PlotLayout::excessEntries() const
+{
+    QVector<LegendEntry> entries;
+    for (const bool isFailure : {false, true}) {
+        const QString text = isFailure ? QCoreApplication::translate("PlotImage", "beyond a limit")
+                                       : QCoreApplication::translate("PlotImage", "beyond a warning level");
+        for (const PlotCurve& curve : m_data->curves) {
+            const bool has = std::any_of(curve.excesses.cbegin(), curve.excesses.cend(),
+                    [&](const PlotExcess& excess) { return excess.isFailure == isFailure; });
+            if (has) {
+                entries.append({text, excessPen(isFailure)});
+                break;
+            }
+        }
+    }
+    return entries;
+}
+
+QVector<LegendEntry> PlotLayout::markEntries() const
+{
+    QVector<LegendEntry> entries;
+    const QLocale locale;
+    const AxisScale scale(m_data->xExtent(), m_data->xKind, AxisScale::AtData, distinguishable);
+    for (const PlotMark& mark : m_data->marks) {
+        const QString number = scale.label(mark.x, locale);
+        const QString place = scale.isOfTime() || m_data->xUnit.isEmpty()
+                ? number
+                : QStringLiteral("%1 %2").arg(number, m_data->xUnit);
+        entries.append({titled(mark.label, place), markPen()});
+    }
+    return entries;
+}
+
 QVector<LegendEntry> PlotLayout::legendEntries() const
 {
     QVector<LegendEntry> limits;
     for (const PlotLimit& limit : m_data->limits) {
         const QString text = limit.kind == PlotLimit::Lower ? QCoreApplication::translate("PlotImage", "at least %1 %2")
                                                             : QCoreApplication::translate("PlotImage", "at most %1 %2");
-        limits.append({text.arg(levelText(limit.value), limit.unit).trimmed(), limitPen()});
+        const QString level = text.arg(levelText(limit.value), limit.unit).trimmed();
+        limits.append({titled(limit.label, level), limitPen()});
     }
+    limits += excessEntries() + markEntries();
     const QVector<LegendEntry> curves = curveEntries();
     return curves.size() > curvesBeforeLimits ? limits + curves : curves + limits;
 }

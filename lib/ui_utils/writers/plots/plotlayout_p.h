@@ -3,6 +3,7 @@
 #include "writers/plots/plotdata_p.h"
 #include "writers/plots/plotlegend_p.h"
 
+#include <QColor>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPen>
@@ -18,6 +19,9 @@ namespace uiutils {
 
 /// The size of a drawing in pixels: the default of 600 x 400 for a side below 1, else from 50 to 4,000.
 QSize plotSize(int width, int height);
+
+/// The colour of the curve with that number, which is distinguishable from the seven others with any colour vision.
+QColor plotCurveColor(int index);
 
 /// Where the parts of a plot are: title, axis titles, the frame of the curves with its scales, legend. One layout
 /// serves every picture, of any resolution, and pages. Lengths are in pixels of a page, 1/96 inch.
@@ -65,6 +69,9 @@ public:
     /// The colour and dashes of a curve, which a print without colours distinguishes too.
     QPen curvePen(int index) const;
     QPen limitPen() const;
+    /// Of what exceeds a limit: wider than the curve, so that it can be seen without colours.
+    QPen excessPen(bool isFailure) const;
+    QPen markPen() const;
 
 private:
     bool needsLegend() const;
@@ -72,6 +79,8 @@ private:
     QString namedAxisTitle(PlotSide side) const;
     QVector<LegendEntry> legendEntries() const;
     QVector<LegendEntry> curveEntries() const;
+    QVector<LegendEntry> excessEntries() const;
+    QVector<LegendEntry> markEntries() const;
     double labelWidth(const AxisScale& scale) const;
     void layOut(const QSize& size);
 

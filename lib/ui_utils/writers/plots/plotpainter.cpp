@@ -54,7 +54,10 @@ void PlotPainter::draw(LineRange legend)
     drawLimits(QPen(m_background, limitPen.widthF(), Qt::SolidLine, Qt::FlatCap));
     for (int i = 0; i < m_data.curves.size(); ++i)
         drawCurve(i);
+    for (const PlotCurve& curve : m_data.curves)
+        drawExcesses(curve);
     drawLimits(limitPen);
+    drawMarks();
     m_painter.restore();
     m_painter.setPen(QColor(inkColor));
     if (m_data.xExtent().isEmpty())
@@ -173,6 +176,51 @@ double PlotPainter::columnsOfAPixel() const
     return qBound(0.5, columnsOfAllCurves / std::max(1, m_data.curves.size()), m_resolution);
 }
 
+/// In pixels of the layout.
+QVector<QVector<QPointF>> PlotPainter::placedStretches(const PlotCurve& curve) const
+{
+    const int columns = std::max(1, int(m_frame.width() * columnsOfAPixel()));
+    QVector<QVector<QPointF>> stretches = visibleStretches(curve, m_layout.x(), m_layout.y(curve.side), columns);
+    for (QVector<QPointF>& stretch : stretches) {
+        for (QPointF& point : stretch)
+            point = QPointF(
+                    m_frame.left() + point.x() * m_frame.width(), m_frame.bottom() - point.y() * m_frame.height());
+    }
+    return stretches;
+}
+
+void PlotPainter::drawExcesses(const PlotCurve& curve)
+{
+    for (const PlotExcess& excess : curve.excesses) {
+        PlotCurve part;
+        part.side = curve.side;
+        part.points = excess.points;
+        const QVector<QVector<QPointF>> stretches = placedStretches(part);
+        QVector<QPointF> dots;
+        for (const QVector<QPointF>& stretch : stretches) {
+            if (stretch.size() == 1)
+                dots += stretch;
+        }
+        CurvePainter painter(m_painter, m_frame, m_layout.excessPen(excess.isFailure), m_resolution);
+        painter.drawLines(stretches);
+        painter.drawDots(dots);
+    }
+}
+
+void PlotPainter::drawMarks()
+{
+    for (const PlotMark& mark : m_data.marks) {
+        const double x = m_layout.xAt(mark.x);
+        if (!std::isfinite(x))
+            continue;
+        m_painter.setPen(m_layout.markPen());
+        m_painter.drawLine(QPointF(x, m_frame.top()), QPointF(x, m_frame.bottom()));
+        const double width = m_layout.metrics().horizontalAdvance(mark.label);
+        const double left = qBound(m_frame.left(), x + 0.3 * m_unit, std::max(m_frame.left(), m_frame.right() - width));
+        m_painter.drawText(QPointF(left, m_frame.bottom() - 0.4 * m_unit), mark.label);
+    }
+}
+
 void PlotPainter::drawCurve(int index)
 {
     const PlotCurve& curve = m_data.curves.at(index);
@@ -182,13 +230,9 @@ void PlotPainter::drawCurve(int index)
         pen.setWidthF(2 * pen.widthF());
     const int most = pen.style() == Qt::SolidLine ? mostMarkedPoints : int(m_frame.width() / (3 * m_unit));
     const bool showsPoints = curve.size <= most && !curve.isMask;
-    const int columns = std::max(1, int(m_frame.width() * columnsOfAPixel()));
-    QVector<QVector<QPointF>> stretches = visibleStretches(curve, m_layout.x(), m_layout.y(curve.side), columns);
+    const QVector<QVector<QPointF>> stretches = placedStretches(curve);
     QVector<QPointF> dots;
-    for (QVector<QPointF>& stretch : stretches) {
-        for (QPointF& point : stretch)
-            point = QPointF(
-                    m_frame.left() + point.x() * m_frame.width(), m_frame.bottom() - point.y() * m_frame.height());
+    for (const QVector<QPointF>& stretch : stretches) {
         // A point without neighbours makes no line.
         if (showsPoints || stretch.size() == 1)
             dots += stretch;

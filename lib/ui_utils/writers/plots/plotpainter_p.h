@@ -28,6 +28,9 @@ private:
     void drawTickLabels(PlotSide side);
     void drawLimits(const QPen& pen);
     void drawCurve(int index);
+    QVector<QVector<QPointF>> placedStretches(const PlotCurve& curve) const;
+    void drawExcesses(const PlotCurve& curve);
+    void drawMarks();
     double columnsOfAPixel() const;
 
     QPainter& m_painter;

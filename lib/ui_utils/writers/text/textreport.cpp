@@ -269,10 +269,10 @@ private:
         startBlock();
         const QString own = plainText(reader.title()).trimmed();
         m_lines.putText(own.isEmpty() ? ReportWords::tr("Plot") : own, m_width);
-        const QString service = reader.text(keys::service);
-        auto known = m_plots.constFind(service);
+        const QString source = reader.plotSource();
+        auto known = m_plots.constFind(source);
         if (known == m_plots.constEnd())
-            known = m_plots.insert(service, plotTable(readPlotData(service)));
+            known = m_plots.insert(source, plotTable(readPlotData(source)));
         if (known->hasRows())
             known->write(m_lines, m_width);
         m_lines.putText(known->hasRows() ? ReportWords::tr("The curves are drawn in the HTML and PDF reports.")

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QImage>
+#include <QStringList>
+
+class QQuickWindow;
+
+namespace uiutils::audit {
+
+/// Draws the window until two pictures in a row are equal, and returns the last one. What never stands still, such as
+/// a running clock, ends after a number of pictures.
+QImage pictureAtRest(QQuickWindow* window);
+
+/// What in a window a technician could not touch or read: one line for each violation, with the item and the measure.
+/// The window has to be shown. Contents that scroll are moved through the window, and back.
+class ScreenAudit
+{
+public:
+    /// The size and place of things: what a language or a screen can spoil.
+    static constexpr int Geometry = 1;
+    /// The contrast of texts and icons, measured in pictures: what a theme can spoil.
+    static constexpr int Contrast = 2;
+    /// What screen readers do not say: what a page spoils alone.
+    static constexpr int Voice = 4;
+
+    /// Turns accessibility on, without which the tree of the page is not complete; pages that were loaded before
+    /// may lack something.
+    static void prepare();
+
+    ScreenAudit(QQuickWindow* window, double pixelsPerMillimetre);
+
+    QStringList complaints(int rules = Geometry | Contrast | Voice) const;
+
+private:
+    QStringList seen(int rules) const;
+    QStringList faintContents() const;
+
+    QQuickWindow* m_window;
+    double m_pixelsPerMillimetre;
+};
+
+} // namespace uiutils::audit

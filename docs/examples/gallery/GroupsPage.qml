@@ -1,0 +1,41 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import UiUtils.Controls 1.0
+
+// The groups of the gallery.
+KitPage {
+    id: page
+
+    readonly property var groups: [
+        { file: "ButtonsPage.qml", icon: "run", title: "Buttons and texts", note: "Buttons, icons, cards and the sizes of texts" },
+        { file: "ListsPage.qml", icon: "results", title: "Lists", note: "Rows, sections and what stands there when a list is empty" },
+        { file: "EntriesPage.qml", icon: "edit", title: "Entries", note: "The entry for every kind of item" },
+        { file: "NumbersPage.qml", icon: "settings", title: "Choices and numbers", note: "Segments, steppers and sliders that keep an item's limits" },
+        { file: "DatesPage.qml", icon: "calendar", title: "Date and time", note: "Typed as the locale writes them, or picked" },
+        { file: "StatusPage.qml", icon: "bell", title: "Status and messages", note: "Verdicts, progress, problems and services that are away" },
+        { file: "PagesPage.qml", icon: "files", title: "Pages", note: "The stack of pages, tabs and the line at the top" }
+    ]
+
+    title: "Components"
+
+    GridLayout {
+        Layout.fillWidth: true
+        columns: 2
+        columnSpacing: ControlsStyle.touchGap
+        rowSpacing: ControlsStyle.touchGap
+
+        Repeater {
+            model: page.groups
+
+            Tile {
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                Layout.preferredWidth: 1
+                iconName: modelData.icon
+                title: modelData.title
+                note: modelData.note
+                onClicked: page.stack.push(Qt.resolvedUrl(modelData.file))
+            }
+        }
+    }
+}

@@ -1,0 +1,44 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import UiUtils 1.0
+import UiUtils.Controls 1.0
+
+KitPage {
+    title: "Choices and numbers"
+    subtitle: "A gesture writes one value, within the limits of the item"
+
+    RowLayout {
+        Layout.fillWidth: true
+        spacing: ControlsStyle.margin
+
+        Card {
+            Layout.fillWidth: true
+            Layout.preferredWidth: 1
+            Layout.alignment: Qt.AlignTop
+            title: "Items of a service"
+
+            SegmentedChoice { Layout.fillWidth: true; item: optical_cfg_mode }
+            ItemStepper { Layout.fillWidth: true; item: optical_cfg_range }
+            ItemSlider { Layout.fillWidth: true; item: optical_cfg_backscatter }
+        }
+        Card {
+            Layout.fillWidth: true
+            Layout.preferredWidth: 1
+            Layout.alignment: Qt.AlignTop
+            title: "Items of this page"
+
+            UiData { id: repetitions; type: "int"; label: "Repetitions"; value: 10; minRange: 1; maxRange: 100 }
+            UiData { id: brightness; type: "int"; label: "Brightness in per cent"; value: 70; minRange: 10; maxRange: 100 }
+
+            ItemStepper { Layout.fillWidth: true; item: repetitions; step: 5 }
+            ItemSlider { Layout.fillWidth: true; item: brightness; step: 10 }
+            SegmentedChoice {
+                id: shown
+                Layout.fillWidth: true
+                model: ["All", "Only failures"]
+                value: model[0]
+            }
+            BodyText { Layout.fillWidth: true; muted: true; text: "Chosen: %1".arg(shown.value) }
+        }
+    }
+}

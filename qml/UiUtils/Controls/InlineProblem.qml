@@ -1,0 +1,42 @@
+import QtQuick 2.15
+import UiUtils.Controls 1.0
+
+/// A problem where it is: an icon and words, below what is wrong. Without a text nothing is shown; with `keepsRoom` the
+/// room for one line stays, so that nothing moves when a problem comes.
+Item {
+    id: problem
+
+    property string text
+    property bool keepsRoom: false
+
+    implicitWidth: words.x + words.implicitWidth
+    implicitHeight: text === "" ? keepsRoom ? words.font.pixelSize * 1.4 : 0 : Math.max(mark.height, words.implicitHeight)
+    visible: text !== "" || keepsRoom
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: text
+    Accessible.ignored: text === ""
+
+    Row {
+        id: row
+        width: parent.width
+        visible: problem.text !== ""
+        spacing: ControlsStyle.gap / 2
+
+        Icon {
+            id: mark
+            name: "warning"
+            size: ControlsStyle.mm(3.6)
+            color: ControlsStyle.invalid
+        }
+        StyledText {
+            id: words
+            width: row.width - mark.width - row.spacing
+            anchors.verticalCenter: lineCount === 1 ? parent.verticalCenter : undefined
+            text: problem.text
+            color: ControlsStyle.invalid
+            wrapMode: Text.Wrap
+            font { pixelSize: ControlsStyle.labelText; weight: Font.DemiBold }
+            Accessible.ignored: true
+        }
+    }
+}

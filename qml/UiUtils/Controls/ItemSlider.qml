@@ -1,0 +1,98 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import QtQuick.Templates 2.15 as T
+import UiUtils.Controls 1.0
+import "steps.js" as Steps
+
+/// A number on a line between the item's limits; written when the finger leaves the line. An item without both limits has
+/// no line.
+NumberFace {
+    id: entry
+
+    readonly property bool hasLine: isFinite(least) && isFinite(most) && least < most
+
+    RowLayout {
+        Layout.fillWidth: true
+        spacing: ControlsStyle.margin
+
+        T.Slider {
+            id: slider
+            objectName: "slider"
+            Layout.fillWidth: true
+            implicitHeight: ControlsStyle.touch
+            focus: true
+            enabled: entry.hasLine
+            from: entry.hasLine ? entry.least : 0
+            to: entry.hasLine ? entry.most : 1
+            stepSize: entry.stepSize
+            snapMode: T.Slider.SnapAlways
+            Accessible.name: entry.label
+            Accessible.description: [entry.numberText, entry.note].filter(part => part !== "").join(", ")
+            onMoved: entry.draft = Steps.clean(value)
+            onPressedChanged: {
+                if (!pressed)
+                    entry.commit()
+            }
+            onActiveFocusChanged: {
+                if (!activeFocus)
+                    entry.commit()
+            }
+            Keys.onReleased: {
+                if (!event.isAutoRepeat)
+                    entry.commit()
+            }
+
+            // The user's gesture has ended the binding.
+            Binding {
+                target: slider
+                property: "value"
+                value: entry.number
+            }
+
+            background: Rectangle {
+                x: slider.handle.width / 2
+                y: (slider.height - height) / 2
+                width: slider.width - slider.handle.width
+                height: ControlsStyle.mm(1.4)
+                radius: height / 2
+                color: ControlsStyle.pressed
+                border { width: ControlsStyle.line; color: ControlsStyle.border }
+
+                Rectangle {
+                    x: slider.mirrored ? parent.width - width : 0
+                    width: slider.position * parent.width
+                    height: parent.height
+                    radius: parent.radius
+                    color: slider.enabled ? ControlsStyle.primary : ControlsStyle.disabledText
+                }
+            }
+            handle: Rectangle {
+                x: slider.visualPosition * (slider.width - width)
+                y: (slider.height - height) / 2
+                width: ControlsStyle.mm(6)
+                height: width
+                radius: width / 2
+                color: !slider.enabled ? ControlsStyle.disabledField : slider.pressed ? ControlsStyle.primaryPressed : ControlsStyle.primary
+                border { width: 2 * ControlsStyle.line; color: ControlsStyle.field }
+
+                FocusFrame {
+                    control: slider
+                    radius: height / 2
+                }
+            }
+        }
+        // As wide as the widest figure, so that the line does not change its length.
+        BodyText {
+            id: figure
+            Layout.preferredWidth: Math.max(low.oneLine, high.oneLine)
+            text: entry.hasNumber ? entry.numberText : "\u2013"
+            horizontalAlignment: Text.AlignRight
+            wrapMode: Text.NoWrap
+            font.weight: Font.DemiBold
+            Accessible.ignored: true
+
+            NaturalWidth { id: low; font: figure.font; text: entry.hasLine ? entry.textOf(entry.least) + " " + entry.unit : "" }
+            NaturalWidth { id: high; font: figure.font; text: entry.hasLine ? entry.textOf(entry.most) + " " + entry.unit : "" }
+        }
+    }
+}

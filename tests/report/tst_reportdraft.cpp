@@ -1,0 +1,396 @@
+#include "reportfixture.h"
+
+#include "report/drafts/draftfile_p.h"
+#include "report/drafts/reportdraft.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <cmath>
+
+using uiutils::ReportDraft;
+
+namespace {
+
+const QString id("otdr");
+const QString folder("/cust/private/drafts/tst_reportdraft/otdr/");
+
+/// A page with a draft, as it is in one run of the program.
+struct Run
+{
+    Controller report;
+    ReportDraft draft;
+    SignalLog log {&draft};
+
+    explicit Run(const QString& draftId = id)
+    {
+        draft.setInterval(0);
+        draft.setReport(&report);
+        draft.setDraftId(draftId);
+        log.take();
+    }
+    void measure(const QVariantMap& data, const QString& event = QString())
+    {
+        report.document().beginReport("otdr");
+        report.document().setKey("event", event);
+        report.document().endReport();
+        draft.setData(data);
+    }
+    QString event() { return report.document().object().value("event").toString(); }
+};
+
+QVariantMap number(int value)
+{
+    return {{"number", value}};
+}
+
+/// Keeps numbers until it is killed, and prints each that is safe.
+int keepNumbers()
+{
+    Run run;
+    QFile out;
+    if (!out.open(1, QIODevice::WriteOnly | QIODevice::Unbuffered))
+        return 1;
+    for (int i = 1;; ++i) {
+        run.measure(number(i), QString(50'000, QChar('a' + i % 26)) + QString::number(i));
+        if (i % 3 == 0 && !run.draft.flush())
+            return 1;
+        if (i % 3 == 0)
+            out.write(QByteArray::number(i) + '\n');
+        QCoreApplication::processEvents();
+    }
+}
+
+} // namespace
+
+/// What was measured and not saved is offered again.
+class ReportDraftTest : public ReportFixture
+{
+    Q_OBJECT
+
+    QStringList files() const { return names(folder); }
+    QString onlyFile() const { return files().size() == 1 ? onDisk(folder + files().first()) : QString(); }
+
+private Q_SLOTS:
+    void whatWasMeasuredComesBack()
+    {
+        const QVariantMap data {{"text", "ü\n\"{"}, {"list", QVariantList {1, 2.5, true, QVariantList {"x"}}}, {"big", 9007199254740993LL}};
+        {
+            Run run;
+            QVERIFY(!run.draft.isAvailable() && !run.draft.restore());
+            run.report.setUp("Fiber 7", 1);
+            run.report.setTestTime("14:03");
+            run.report.setTitle("OTDR");
+            run.report.setScreenshotList({"/cust/public/a.png"});
+            QCOMPARE(files(), QStringList());
+            run.measure(data, "splice");
+            QVERIFY(run.draft.isPending());
+            QTRY_VERIFY(!run.draft.isPending());
+            QCOMPARE(run.log.take(), QStringList({"pendingChanged", "dataChanged", "pendingChanged"}));
+            // Others do not get what somebody is working on.
+            Run other;
+            QVERIFY(!other.draft.isAvailable());
+            other.draft.setData(number(1));
+            QVERIFY(!other.draft.flush());
+            QCOMPARE(other.draft.problem(), QString("Another page or program keeps results of this kind"));
+            QVERIFY(!Run("else").draft.isAvailable());
+            other.draft.forget();
+        }
+        Run run;
+        QVERIFY(run.draft.isAvailable());
+        QCOMPARE(run.draft.availableTitle(), QString("Fiber 7"));
+        QVERIFY(qAbs(run.draft.savedAt().secsTo(QDateTime::currentDateTime())) < 60);
+        // A handler that keeps what is half given back.
+        connect(&run.report, &Report::titleChanged, &run.draft, &ReportDraft::keep);
+        connect(&run.draft, &ReportDraft::dataChanged, &run.draft, [&] { QCOMPARE(run.event(), QString("splice")); });
+        QVERIFY(run.draft.restore());
+        QCOMPARE(run.log.take(), QStringList({"dataChanged", "pendingChanged", "availableChanged", "restored"}));
+        QCOMPARE(QJsonObject::fromVariantMap(run.draft.data()), QJsonObject::fromVariantMap(data));
+        QCOMPARE(run.report.getSetting("reportName")->getValue().toString(), QString("Fiber 7"));
+        QCOMPARE(run.report.getFormat(), 1);
+        QCOMPARE(run.report.getTestTime() + run.report.getTitle() + run.report.getScreenshotList().join(' '), QString("14:03OTDR/cust/public/a.png"));
+        QVERIFY(run.draft.flush() && !run.draft.isAvailable());
+        uiutils::DraftContents kept;
+        QVERIFY(uiutils::readDraft(onlyFile(), &kept) == uiutils::DraftState::Good);
+        QCOMPARE(kept.report.value("testTime").toString() + kept.document.value("event").toString(), QString("14:03splice"));
+
+        // Only a save that succeeds is the end of it.
+        run.report.setUp("a/b", 1);
+        QVERIFY(!run.report.save());
+        QCOMPARE(files().size(), 1);
+        run.report.setUp("Fiber 7", 1);
+        QVERIFY(run.report.save());
+        QCOMPARE(files(), QStringList());
+        QVERIFY(run.draft.flush() && files().isEmpty());
+    }
+
+    void unansweredDraftsStay()
+    {
+        for (int i = 1; i <= 3; ++i)
+            Run().measure(number(i));
+        Run run;
+        QCOMPARE(run.draft.availableCount(), 3);
+        run.measure(number(4));
+        QVERIFY(run.draft.flush());
+        QCOMPARE(files().size(), 4);
+        // The newest one is given back, and what it replaces is offered.
+        QVERIFY(run.draft.restore());
+        QCOMPARE(run.draft.data(), number(3));
+        QCOMPARE(run.draft.availableCount(), 3);
+        QVERIFY(run.draft.restore());
+        QCOMPARE(run.draft.data(), number(4));
+        run.draft.discard();
+        QCOMPARE(run.log.take().count("availableChanged"), 3);
+        run.draft.forget();
+        QCOMPARE(run.draft.data(), number(4));
+        QVERIFY(run.draft.restore());
+        QCOMPARE(run.draft.data(), number(2));
+        run.draft.discard();
+        QCOMPARE(files().size(), 1);
+    }
+
+    void aRestoreThatCannotKeepWhatItReplacesDoesNothing()
+    {
+        Run().measure(number(1));
+        Run run;
+        run.measure(number(2));
+        const FileSizeLimit full(10);
+        QVERIFY(!run.draft.restore());
+        QCOMPARE(run.draft.data(), number(2));
+        QVERIFY(run.draft.isAvailable());
+    }
+
+    void damagedDraftsAreSetAside_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<bool>("isOffered");
+        QTest::addColumn<QString>("end");
+        const uiutils::DraftContents contents {{{"number", 1}}, {}, {}};
+        QString problem;
+        const QByteArray good = *uiutils::draftFile({QDateTime::currentDateTime(), "t"}, contents, &problem);
+        const auto body = [&](const QByteArray& text, int level = -1) {
+            const QByteArray packed = qCompress(text, level).mid(4);
+            return json("{'version':1,'size':" + QByteArray::number(packed.size()) + ",'savedAt':'2026-01-31T14:00:00.000Z'}\n") + packed;
+        };
+        // As it stands in the stream, and still a number.
+        const QByteArray flipped = body("{\"number\":1}\n{}\n{}\n", 0).replace("number\":1", "number\":2");
+        QTest::newRow("empty") << QByteArray() << false << ".damaged";
+        QTest::newRow("half written") << good.left(good.size() / 2) << false << ".damaged";
+        QTest::newRow("no header") << QByteArray(100'000, 'x') << false << ".damaged";
+        QTest::newRow("longer") << good + 'x' << false << ".damaged";
+        QTest::newRow("another version") << QByteArray(good).replace("\"version\":1", "\"version\":2") << false << ".draft";
+        QTest::newRow("another number") << flipped << true << ".damaged";
+        QTest::newRow("two lines") << body("{}\n{}\n") << true << ".damaged";
+        QTest::newRow("no objects") << body("[]\n[]\n[]\n") << true << ".damaged";
+        QTest::newRow("much in little") << body(QByteArray(200'000'000, ' ')) << true << ".damaged";
+        QTest::newRow("nested") << body("{\"a\":" + QByteArray(100'000, '[') + "}\n{}\n{}\n") << true << ".damaged";
+        QTest::newRow("many lists") << body("{\"a\":[" + QByteArray("[],").repeated(800'000) + "1]}\n{}\n{}\n") << true << ".damaged";
+        QTest::newRow("open text") << body("{\"a\":\"\\\n{}\n{}\n") << true << ".damaged";
+    }
+    void damagedDraftsAreSetAside()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(bool, isOffered);
+        QFETCH(QString, end);
+        writeFile(onDisk(folder + "20260131-140000-000.draft"), file);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(end == ".draft" ? "made by another version" : "is damaged; it is now"));
+        if (isOffered)
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be given back"));
+        {
+            Run run;
+            QCOMPARE(run.draft.isAvailable(), isOffered);
+            run.draft.setData(number(7));
+            QVERIFY(!run.draft.restore());
+            QCOMPARE(run.draft.data(), number(7));
+            QVERIFY(!run.draft.isAvailable() && run.draft.flush());
+            QCOMPARE(files().size(), 2);
+            QCOMPARE(files().filter(QRegularExpression("^20260131.*" + QRegularExpression::escape(end) + '$')).size(), 1);
+            QVERIFY(QFileInfo(onDisk(folder + files().first())).size() == file.size());
+            run.draft.forget();
+        }
+        if (end == ".draft")
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("made by another version"));
+        QVERIFY(!Run().draft.isAvailable());
+    }
+
+    void whatCouldNotBeReadIsNotWritten()
+    {
+        const auto limited = [](const QVariant& value) {
+            Run run;
+            run.measure({{"value", value}});
+            const QString problem = run.draft.flush() ? QString() : run.draft.problem();
+            run.draft.forget();
+            return problem;
+        };
+        QVariant nested = 1;
+        for (int i = 0; i < 998; ++i)
+            nested = QVariantList {nested};
+        QCOMPARE(limited(nested), QString());
+        QCOMPARE(limited(QVariantList {nested, QString("]")}), QString());
+        const QString problem("The results are too large to be kept before they are saved");
+        QCOMPARE(limited(QVariantList {QVariantList {nested}}), problem);
+        QCOMPARE(limited(QString(70'000'000, 'x')), problem);
+        QCOMPARE(files(), QStringList());
+    }
+
+    void aFullDiskIsSaidAndTriedAgain()
+    {
+        Run run;
+        run.measure(number(1));
+        QVERIFY(run.draft.flush());
+        const QByteArray before = contentsOf(onlyFile());
+        {
+            const FileSizeLimit full(10);
+            run.measure(number(2));
+            QTRY_VERIFY(!run.draft.problem().isEmpty());
+            QVERIFY(run.draft.isPending() && !run.draft.flush());
+            QCOMPARE(contentsOf(onlyFile()), before);
+        }
+        QTRY_VERIFY(!run.draft.isPending());
+        QCOMPARE(run.draft.problem(), QString());
+        QVERIFY(contentsOf(onlyFile()) != before);
+        QCOMPARE(run.log.take().count("problemChanged"), 2);
+    }
+
+    void changesThatFollowEachOtherAreWrittenOnce()
+    {
+        Run run;
+        run.draft.setInterval(3600'000);
+        run.measure(number(0));
+        QTRY_VERIFY(!run.draft.isPending());
+        const QByteArray first = contentsOf(onlyFile());
+        for (int i = 1; i <= 1000; ++i) {
+            run.measure(number(i));
+            QCoreApplication::processEvents();
+        }
+        QVERIFY(run.draft.isPending());
+        QCOMPARE(contentsOf(onlyFile()), first);
+        Q_EMIT QCoreApplication::instance()->aboutToQuit({});
+        QVERIFY(!run.draft.isPending() && contentsOf(onlyFile()) != first);
+        QCOMPARE(run.log.take().count("pendingChanged"), 4);
+    }
+
+    void anotherOwnerFollowsTheFirst()
+    {
+        auto first = std::make_unique<Run>();
+        first->measure(number(1));
+        QVERIFY(first->draft.flush());
+        Run second;
+        QVERIFY(!second.draft.isAvailable());
+        first.reset();
+        QTRY_VERIFY(second.draft.isAvailable());
+        QCOMPARE(second.log.take(), QStringList("availableChanged"));
+    }
+
+    void theOldestOfTooManyIsRemoved()
+    {
+        for (int i = 0; i < 30; ++i) {
+            if (i >= 20)
+                QTest::ignoreMessage(QtWarningMsg, QRegularExpression("too many drafts"));
+            Run().measure(number(i));
+        }
+        Run run;
+        QCOMPARE(run.draft.availableCount(), 20);
+        QVERIFY(run.draft.restore());
+        QCOMPARE(run.draft.data(), number(29));
+    }
+
+    void valuesThatNobodyCouldEnterAreLeftOut()
+    {
+        const QJsonObject settings {{"reportName", "a/b"}, {"reportFormat", 4711}, {"reportSync_SS", "yes"}};
+        QString problem;
+        writeFile(onDisk(folder + "a.draft"), *uiutils::draftFile({QDateTime::currentDateTime(), {}}, {{}, {{"settings", settings}}, {}}, &problem));
+        Run run;
+        run.report.setUp("mine", 1);
+        QVERIFY(run.draft.restore());
+        QCOMPARE(run.report.getSetting("reportName")->getValue().toString(), QString("mine"));
+        QCOMPARE(run.report.getFormat(), 1);
+        QCOMPARE(run.report.getSetting("reportSync_SS")->getValue().toBool(), false);
+    }
+
+    void slotsMayDeleteTheDraft()
+    {
+        const auto dies = [](auto signal, const auto& act) {
+            auto* draft = new ReportDraft;
+            const QPointer<ReportDraft> alive(draft);
+            draft->setInterval(0);
+            draft->setDraftId(id);
+            QObject::connect(draft, signal, draft, [draft] { delete draft; });
+            act(draft);
+            QTRY_VERIFY(!alive);
+        };
+        const auto give = [](ReportDraft* draft) { draft->restore(); };
+        const auto set = [](ReportDraft* draft) { draft->setData(number(draft->data().value("number").toInt() + 1)); };
+        dies(&ReportDraft::pendingChanged, set);
+        dies(&ReportDraft::dataChanged, set);
+        dies(&ReportDraft::dataChanged, give);
+        dies(&ReportDraft::restored, give);
+        dies(&ReportDraft::availableChanged, give);
+        dies(&ReportDraft::availableChanged, [](ReportDraft* draft) { draft->discard(); });
+        const FileSizeLimit full(10);
+        dies(&ReportDraft::problemChanged, set);
+    }
+
+    void pagesGiveTheirOwnObjects()
+    {
+        const auto page = [](QQmlEngine* engine) {
+            QQmlComponent component(engine);
+            component.setData("import UiUtils 1.0; ReportDraft { draftId: 'otdr'; interval: 0; data: ({ rows: [{ a: 1 }, [2, 'x']], none: NaN }) }", QUrl());
+            return std::unique_ptr<ReportDraft>(qobject_cast<ReportDraft*>(component.create()));
+        };
+        qmlRegisterType<ReportDraft>("UiUtils", 1, 0, "ReportDraft");
+        QQmlEngine engine;
+        auto draft = page(&engine);
+        QVERIFY(draft && draft->flush());
+        QCOMPARE(files(), QStringList());
+        draft->keep();
+        QVERIFY(draft->flush());
+        draft.reset();
+        draft = page(&engine);
+        draft->setData({});
+        QVERIFY(draft->restore());
+        const QVariantMap expected {{"rows", QVariantList {QVariantMap {{"a", 1}}, QVariantList {2, "x"}}}, {"none", QVariant::fromValue(nullptr)}};
+        QCOMPARE(draft->data(), expected);
+    }
+
+    void aKilledProcessLeavesTheOldOrTheNewDraft()
+    {
+        int known = 0;
+        for (int round = 0; round < 20; ++round) {
+            QProcess process;
+            process.start(QCoreApplication::applicationFilePath(), {"--keep"});
+            // The moment is another one in each round: after so many reports, and some turns of this loop.
+            int safe = 0;
+            for (int lines = 0; lines <= round / 2;) {
+                QVERIFY(process.waitForReadyRead(60'000));
+                while (process.canReadLine()) {
+                    safe = process.readLine().toInt();
+                    ++lines;
+                }
+            }
+            for (int i = 0; i < round * 997; ++i)
+                process.bytesAvailable();
+            process.kill();
+            QVERIFY(process.waitForFinished());
+            Run run;
+            QVERIFY(run.draft.isAvailable() && run.draft.restore());
+            known = run.draft.data().value("number").toInt();
+            QVERIFY(known >= safe);
+            QCOMPARE(run.event(), QString(50'000, QChar('a' + known % 26)) + QString::number(known));
+            QCOMPARE(run.draft.availableCount(), 0);
+            run.draft.forget();
+            QCOMPARE(files().filter(".draft"), QStringList());
+        }
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QGuiApplication application(argc, argv);
+    application.setApplicationName("tst_reportdraft");
+    if (argc == 2 && QByteArray(argv[1]) == "--keep")
+        return keepNumbers();
+    ReportDraftTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_reportdraft.moc"

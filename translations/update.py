@@ -1,0 +1,104 @@
+#!/usr/bin/env python3
+"""Brings the catalogues up to the texts of the tree. Usage: update.py --lupdate TOOL [--into FOLDER]
+
+New texts are unfinished, until translators have worked on them; what is no longer requested is removed. The long
+catalogue, which nobody translates, is made here: the English texts, 40 % longer, with accents, between brackets. What is
+cut off on a page has lost its bracket.
+"""
+import argparse
+import json
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+import xml.etree.ElementTree
+
+TREE = pathlib.Path(__file__).resolve().parents[1]
+LANGUAGES = ('ar', 'de', 'es', 'fr', 'ja')
+# What users of an instrument see. The programs for the command line are in English.
+ROOMS = ('base', 'platform', 'lib', 'qml', 'apps/common', 'apps/demo', 'apps/pdf_viewer')
+SERVICES = 'platform/reference/services'
+# Of labels in service files, which no source requests by themselves.
+LABELS = 'ServiceItem'
+# Places for values, and names of settings, options and files, which stay as they are.
+KEPT = re.compile(r'%L?\d+|%n|&\w+;|--[\w-]+|\b[A-Z]+_[A-Z_]+\b')
+ACCENTS = str.maketrans('AaBCcDdEeGgHhIiJjKkLlNnOoRrSsTtUuWwYyZz', 'ÅåßÇçÐđÉéĜĝĤĥÎîĴĵĶķĻļÑñÖöŔŕŠšŢţÛûŴŵÝýŽž')
+
+
+def labels_of(tree):
+    """The labels of the items in the service files of the tree, and of their choices."""
+    for file in sorted((tree / SERVICES).glob('*.service.json')):
+        for item in json.loads(file.read_text(encoding='utf-8'))['items']:
+            for labelled in [item, *item.get('choices', [])]:
+                # What is a number reads the same everywhere.
+                if re.search(r'[^\W\d]', labelled.get('label', '')):
+                    yield labelled['label']
+
+
+def label_source(tree):
+    """The labels as a source that lupdate reads."""
+    labels = sorted(set(labels_of(tree)))
+    return ''.join(f'const char* label{number} = QT_TRANSLATE_NOOP("{LABELS}", {json.dumps(label)});\n'
+                   for number, label in enumerate(labels))
+
+
+def update(lupdate, tree, files, rooms=ROOMS, options=()):
+    """Runs the tool over the tree. Returns its complaints."""
+    with tempfile.TemporaryDirectory() as folder:
+        labels = pathlib.Path(folder, 'labels.cpp')
+        labels.write_text(label_source(tree), encoding='utf-8')
+        run = subprocess.run([lupdate, '-silent', '-no-obsolete', '-locations', 'none', '-source-language', 'en', '-extensions', 'cpp,h,qml,js',
+                              *[room for room in rooms if (tree / room).is_dir()], labels, *options, '-ts', *files], cwd=tree, capture_output=True, text=True)
+    complaints = [line.strip() for line in run.stderr.splitlines() if line.strip()]
+    return complaints + ([f'lupdate ended with {run.returncode}'] if run.returncode else [])
+
+
+def lengthened(text):
+    """The text with accents, 40 % longer, between brackets; the beginning of a line keeps its blank."""
+    # "%1 %" is no longer in any language.
+    if not re.search(r'[A-Za-z]{2}', KEPT.sub('', text)):
+        return text
+    parts, end = [], 0
+    for kept in KEPT.finditer(text):
+        parts += [text[end:kept.start()].translate(ACCENTS), kept.group()]
+        end = kept.end()
+    parts.append(text[end:].translate(ACCENTS))
+    wanted = max(1, round(len(text) * 0.4) - 2)
+    padding = ('~ ' * wanted)[:wanted].strip()
+    return f'[{"".join(parts).strip(" ")} {padding}]{" " * text.endswith(" ")}'
+
+
+def lengthen(file):
+    """Translates every message of a catalogue that lupdate has written."""
+    catalogue = xml.etree.ElementTree.parse(file)
+    # The tool changes no catalogue without a language, and knows its plural forms by it.
+    catalogue.getroot().set('language', 'en')
+    for message in catalogue.getroot().iter('message'):
+        translation = message.find('translation')
+        translation.attrib.clear()
+        forms = translation.findall('numerusform')
+        for place in forms or [translation]:
+            place.text = lengthened(message.findtext('source'))
+    text = xml.etree.ElementTree.tostring(catalogue.getroot(), encoding='unicode')
+    file.write_text(f'<?xml version="1.0" encoding="utf-8"?>\n<!DOCTYPE TS>\n{text}\n', encoding='utf-8')
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument('--lupdate', required=True)
+    parser.add_argument('--into', type=pathlib.Path, default=TREE / 'translations')
+    options = parser.parse_args()
+    long = options.into / 'uiutils_pseudo.ts'
+    complaints = update(options.lupdate, TREE, [options.into / f'uiutils_{language}.ts' for language in LANGUAGES] + [long])
+    # English needs no translations, but has a singular.
+    complaints += update(options.lupdate, TREE, [options.into / 'uiutils_en.ts'], options=['-pluralonly'])
+    for complaint in complaints:
+        print(complaint, file=sys.stderr)
+    if not complaints:
+        lengthen(long)
+    return 1 if complaints else 0
+
+
+if __name__ == '__main__':
+    sys.exit(main())
