@@ -1,5 +1,7 @@
 #include "options.h"
+#include "page.h"
 #include "pageaudit.h"
+#include "pagereload.h"
 #include "pagewindow.h"
 #include "texts.h"
 
@@ -22,6 +24,8 @@ using apps::complain;
 using apps::exitDone;
 using apps::exitFailed;
 using qmltool::Options;
+using qmltool::Page;
+using qmltool::PageReload;
 using qmltool::PageWindow;
 
 namespace {
@@ -62,32 +66,42 @@ void work(QQmlEngine* engine, QQuickWindow* window, const Options& options)
         qmltool::takePicture(window, options.picture, finish);
 }
 
+/// An engine that knows the services and nothing of a page.
+std::unique_ptr<QQmlEngine> makeEngine(Host& host, const Options& options)
+{
+    auto engine = std::make_unique<QQmlEngine>();
+    host.showTo(engine.get());
+    for (const QString& folder : options.importFolders)
+        engine->addImportPath(folder);
+    QObject::connect(engine.get(), &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    QObject::connect(engine.get(), &QQmlEngine::exit, qApp, &QCoreApplication::exit, Qt::QueuedConnection);
+    if (options.screen.dotsPerInch > 0)
+        apps::useDensity(engine.get(), options.screen.dotsPerInch);
+    return engine;
+}
+
 int show(Host& host, const Options& options)
 {
     if (apps::DisplaySetup::isOffScreen())
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
-    QQmlEngine engine;
-    host.showTo(&engine);
-    for (const QString& folder : options.importFolders)
-        engine.addImportPath(folder);
-    QObject::connect(&engine, &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
-    QObject::connect(&engine, &QQmlEngine::exit, qApp, &QCoreApplication::exit, Qt::QueuedConnection);
-
-    if (options.screen.dotsPerInch > 0)
-        apps::useDensity(&engine, options.screen.dotsPerInch);
     if (options.isAudit)
         audit::ScreenAudit::prepare();
-    const PageWindow page(&engine, options.page, options.screen.size);
-    if (!page.window())
-        return complain(page.error());
-    if (options.isAudit || !options.picture.isEmpty()) {
-        qmltool::whenDrawn(page.window(), [&](const QString& problem) {
-            if (problem.isEmpty())
-                work(&engine, page.window(), options);
-            else
-                finish(problem);
-        });
+    auto page = std::make_unique<Page>(makeEngine(host, options), options.page);
+    if (!page->root())
+        return complain(page->error());
+    PageWindow window(options.screen.size);
+    window.show(std::move(page));
+    if (!options.isAudit && options.picture.isEmpty()) {
+        const PageReload reload(&host, &window, options.page, options.importFolders,
+                [&host, &options] { return makeEngine(host, options); });
+        return QCoreApplication::exec();
     }
+    qmltool::whenDrawn(window.window(), [&](const QString& problem) {
+        if (problem.isEmpty())
+            work(window.page()->engine(), window.window(), options);
+        else
+            finish(problem);
+    });
     return QCoreApplication::exec();
 }
 

@@ -1,0 +1,41 @@
+#include "errorpane.h"
+
+#include "module/modulepath.h"
+
+#include <QQmlComponent>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+namespace uiutils::qmltool {
+
+ErrorPane::ErrorPane()
+{
+    const QString modules = qmlImportPath();
+    if (!modules.isEmpty())
+        m_engine.addImportPath(modules);
+}
+
+ErrorPane::~ErrorPane() = default;
+
+void ErrorPane::show(QQuickWindow* window, const QString& text)
+{
+    if (!m_item) {
+        QQmlComponent component(&m_engine, QStringLiteral("qrc:/uiutils-qml/ErrorPane.qml"));
+        m_item.reset(qobject_cast<QQuickItem*>(component.create()));
+        if (!m_item)
+            return;
+    }
+    m_item->setProperty("text", text);
+    m_item->setParentItem(window->contentItem());
+    m_item->setVisible(true);
+}
+
+void ErrorPane::hide()
+{
+    if (!m_item)
+        return;
+    m_item->setVisible(false);
+    m_item->setParentItem(nullptr);
+}
+
+} // namespace uiutils::qmltool
