@@ -18,6 +18,7 @@
 #include <QQuickWindow>
 
 #include <cstdio>
+#include <optional>
 
 using namespace uiutils;
 using apps::complain;
@@ -86,16 +87,19 @@ int show(Host& host, const Options& options)
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     if (options.isAudit)
         audit::ScreenAudit::prepare();
+    PageWindow window(options.screen.size);
+    const bool isUsed = !options.isAudit && options.picture.isEmpty();
+    std::optional<PageReload> reload;
+    // Before the page is read, so that no change is missed.
+    if (isUsed)
+        reload.emplace(&host, &window, options.page, options.importFolders,
+                [&host, &options] { return makeEngine(host, options); });
     auto page = std::make_unique<Page>(makeEngine(host, options), options.page);
     if (!page->root())
         return complain(page->error());
-    PageWindow window(options.screen.size);
     window.show(std::move(page));
-    if (!options.isAudit && options.picture.isEmpty()) {
-        const PageReload reload(&host, &window, options.page, options.importFolders,
-                [&host, &options] { return makeEngine(host, options); });
+    if (isUsed)
         return QCoreApplication::exec();
-    }
     qmltool::whenDrawn(window.window(), [&](const QString& problem) {
         if (problem.isEmpty())
             work(window.page()->engine(), window.window(), options);

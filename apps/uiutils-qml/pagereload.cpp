@@ -31,9 +31,22 @@ PageReload::PageReload(Host* host, PageWindow* window, const QString& page, cons
     , m_watch(QStringList(QFileInfo(page).absolutePath()) + importFolders, pageFiles(), FolderWatch::AllBelow,
               [this](const QStringList&, bool) { reload(); })
 {
+    m_host->followServiceFiles();
+    // The page uses what is new of its services as soon as it is loaded again.
+    m_read = QObject::connect(m_host, &Host::serviceFilesRead, [this](const QStringList& problems) {
+        const bool isWorse = problems.size() > m_serviceProblems.size();
+        m_serviceProblems = problems;
+        if (isWorse)
+            report();
+        else
+            reload();
+    });
 }
 
-PageReload::~PageReload() = default;
+PageReload::~PageReload()
+{
+    QObject::disconnect(m_read);
+}
 
 void PageReload::reload()
 {
@@ -46,7 +59,6 @@ void PageReload::reload()
     } else {
         page.reset();
         m_host->showTo(m_window->page()->engine());
-        std::fprintf(stderr, "%s\n", qUtf8Printable(m_pageProblem));
     }
     report();
 }
@@ -57,9 +69,10 @@ void PageReload::report()
     if (!m_pageProblem.isEmpty())
         problems.prepend(m_pageProblem);
     if (problems.isEmpty())
-        m_errors.hide();
-    else
-        m_errors.show(m_window->window(), problems.join(QLatin1Char('\n')));
+        return m_errors.hide();
+    const QString text = problems.join(QLatin1Char('\n'));
+    std::fprintf(stderr, "%s\n", qUtf8Printable(text));
+    m_errors.show(m_window->window(), text);
 }
 
 } // namespace uiutils::qmltool

@@ -41,6 +41,7 @@ private:
     QString m_pageProblem;
     QStringList m_serviceProblems;
     ErrorPane m_errors;
+    QMetaObject::Connection m_read;
     FolderWatch m_watch;
 };
 

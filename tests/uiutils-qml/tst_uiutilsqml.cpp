@@ -135,34 +135,45 @@ private Q_SLOTS:
         QCOMPARE(run(QStringList {page(QByteArray(body).replace("%1", "90").replace("'white'", "ControlsStyle.background"))} + options).exitCode, 0);
     }
 
-    /// A change of any file that the page is made of shows at once; mistakes stand in the window of the page, which lives on.
+    /// A change of any file that the page is made of, or of a service, shows at once; mistakes stand in the window of the page,
+    /// which lives on.
     void followsFiles()
     {
         const auto part = [&](const QByteArray& word) { return "import QtQuick 2.15\nItem { property string word: '" + word + "' }"; };
-        writeFile(m_folder.filePath("Part.qml"), part("one"));
-        const QString file = page("import QtQuick.Window 2.15\nItem { id: page; property string said; Part { id: part }\n"
-                                  "Component.onCompleted: console.log('shown', part.word)\n"
+        const auto service = [&](const QByteArray& value) {
+            return "{ \"service\": \"field\", \"items\": [ { \"id\": \":result:field:state:\", \"type\": \"std::string\", \"value\": \"" + value + "\" } ] }";
+        };
+        QDir(m_folder.path()).mkdir("services");
+        const QString described = writeFile(m_folder.filePath("services/field.service.json"), service("idle"));
+        const QString component = writeFile(m_folder.filePath("Part.qml"), part("one"));
+        const QString file = page("Item { id: page; property string said; Part { id: part }\n"
+                                  "Component.onCompleted: console.log('shown', part.word, field_res_state.value)\n"
                                   "Timer { interval: 20; running: true; repeat: true; onTriggered: { for (let i = 0; i < page.parent.children.length; ++i) {\n"
                                   "const item = page.parent.children[i];\n"
                                   "if (item.objectName === 'errorPane' && item.visible && item.text !== page.said) {\n"
-                                  "page.said = item.text; console.log('alive', part.word, item.text) } } } } }");
+                                  "page.said = item.text; console.log('alive', part.word, field_res_state.value, item.text) } } } } }");
         QProcess process;
-        process.start(UIUTILS_QML_PROGRAM, {file, "--services", m_services, "--root", m_folder.filePath("root")});
+        process.start(UIUTILS_QML_PROGRAM, {file, "--services", m_folder.filePath("services"), "--root", m_folder.filePath("root")});
         QByteArray log;
         const auto says = [&](const QByteArray& words) {
             return QTest::qWaitFor([&] { return (log += process.readAllStandardError()).contains(words); }, 30000);
         };
-        QVERIFY2(says("shown one"), log);
-        writeFile(m_folder.filePath("Part.qml"), part("two"));
-        QVERIFY2(says("shown two"), log);
+        QVERIFY2(says("shown one idle"), log);
+        writeFile(component, part("two"));
+        QVERIFY2(says("shown two idle"), log);
         // As editors save: another file takes the place.
-        writeFile(m_folder.filePath("next"), part("three").chopped(1));
-        QFile::remove(m_folder.filePath("Part.qml"));
-        QVERIFY(QFile::rename(m_folder.filePath("next"), m_folder.filePath("Part.qml")));
-        QVERIFY2(says("alive two") && log.contains("/Part.qml:2"), log);
-        writeFile(m_folder.filePath("Part.qml"), part("four"));
-        QVERIFY2(says("shown four"), log);
-        QVERIFY(!log.contains("shown three") && process.state() == QProcess::Running);
+        const QString next = writeFile(m_folder.filePath("next"), part("three").chopped(1));
+        QVERIFY(QFile::remove(component) && QFile::rename(next, component));
+        QVERIFY2(says("alive two idle file://") && log.contains("/Part.qml:2"), log);
+        writeFile(component, part("four"));
+        QVERIFY2(says("shown four idle"), log);
+        writeFile(described, service("busy"));
+        QVERIFY2(says("shown four busy"), log);
+        writeFile(described, service("broken").chopped(1));
+        QVERIFY2(says("alive four busy " + described.toUtf8() + ":1:"), log);
+        writeFile(described, service("mended"));
+        QVERIFY2(says("shown four mended"), log);
+        QVERIFY(!log.contains("three") && process.state() == QProcess::Running);
         process.terminate();
         QVERIFY(process.waitForFinished());
     }

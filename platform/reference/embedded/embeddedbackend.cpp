@@ -3,12 +3,14 @@
 #include "descriptioncheck_p.h"
 #include "embeddedclient_p.h"
 #include "formatters/formatters_p.h"
+#include "keptstate_p.h"
 #include "servicedata_p.h"
 #include "servicefile_p.h"
 #include "serviceregistry_p.h"
 #include "texts_p.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -20,6 +22,7 @@ struct EmbeddedBackend::Private
 {
     ServiceRegistry registry;
     QString stateFolder;
+    FileReader fileReader;
 };
 
 EmbeddedBackend::EmbeddedBackend()
@@ -41,6 +44,11 @@ EmbeddedBackend::~EmbeddedBackend()
 void EmbeddedBackend::setStateFolder(const QString& path)
 {
     d->stateFolder = path;
+}
+
+void EmbeddedBackend::setFileReader(const FileReader& reader)
+{
+    d->fileReader = reader;
 }
 
 QStringList EmbeddedBackend::foldersFromEnvironment()
@@ -77,15 +85,66 @@ bool EmbeddedBackend::loadFile(const QString& path, QString* problem)
     return isLoaded;
 }
 
-bool EmbeddedBackend::loadFile(const QString& path, QStringList* problems)
+/// A file that can be used, with what else it says.
+struct EmbeddedBackend::CheckedFile
+{
+    ServiceFile file;
+    FileExtras extras;
+};
+
+std::optional<EmbeddedBackend::CheckedFile> EmbeddedBackend::check(const QString& path, QStringList* problems) const
 {
     QString reason;
-    const std::optional<ServiceDescription> description = readServiceFile(path, &reason);
-    if (!description) {
+    const std::optional<ServiceFile> file = readServiceFile(path, &reason);
+    if (!file) {
         *problems += reason;
-        return false;
+        return std::nullopt;
     }
-    return publish(*description, path, problems);
+    const FileExtras extras = d->fileReader ? d->fileReader(path, file->document, file->service) : FileExtras();
+    if (!extras.problem.isEmpty()) {
+        *problems += path + QLatin1String(": ") + extras.problem;
+        return std::nullopt;
+    }
+    return CheckedFile {*file, extras};
+}
+
+bool EmbeddedBackend::loadFile(const QString& path, QStringList* problems)
+{
+    const std::optional<CheckedFile> checked = check(path, problems);
+    return checked && publish(checked->file.service, path, checked->extras, problems);
+}
+
+/// Whether the service is published, and by something else than the file.
+bool EmbeddedBackend::isFromElsewhere(const QString& service, const QString& path) const
+{
+    const ServicePlace* place = d->registry.place(service);
+    return place && place->service() && QFileInfo(place->file()) != QFileInfo(path);
+}
+
+bool EmbeddedBackend::reloadFile(const QString& path, QJsonObject* document, QStringList* problems)
+{
+    const std::optional<CheckedFile> checked = check(path, problems);
+    if (!checked)
+        return false;
+    const QString name = checked->file.service.service;
+    const QString nameBefore = document->value(QLatin1String("service")).toString();
+    const QPointer<QObject> alive(&d->registry);
+    std::optional<KeptState> kept;
+    if (!isFromElsewhere(name, path)) {
+        if (const EmbeddedService* running = service(name))
+            kept.emplace(*running, *document, checked->file.document);
+        withdraw(name);
+        if (alive && nameBefore != name && !isFromElsewhere(nameBefore, path))
+            withdraw(nameBefore);
+    }
+    if (!alive)
+        return false;
+    EmbeddedService* published = publish(checked->file.service, path, checked->extras, problems);
+    if (published && kept)
+        kept->giveBackTo(published);
+    if (published)
+        *document = checked->file.document;
+    return published;
 }
 
 EmbeddedService* EmbeddedBackend::publish(const ServiceDescription& description, QString* problem)
@@ -94,7 +153,7 @@ EmbeddedService* EmbeddedBackend::publish(const ServiceDescription& description,
     const QString reason = serviceProblem(description);
     EmbeddedService* service = nullptr;
     if (reason.isEmpty())
-        service = publish(description, QString(), &problems);
+        service = publish(description, QString(), FileExtras(), &problems);
     else
         problems += reason;
     if (problem)
@@ -103,7 +162,7 @@ EmbeddedService* EmbeddedBackend::publish(const ServiceDescription& description,
 }
 
 EmbeddedService* EmbeddedBackend::publish(
-        const ServiceDescription& description, const QString& file, QStringList* problems)
+        const ServiceDescription& description, const QString& file, const FileExtras& extras, QStringList* problems)
 {
     ServicePlace* place = d->registry.makePlace(description.service);
     if (place->service()) {
@@ -121,6 +180,9 @@ EmbeddedService* EmbeddedBackend::publish(
         QObject::connect(data.keeper.get(), &StateKeeper::failed, service, &EmbeddedService::reportError);
         *problems += data.keeper->takeBack();
     }
+    *problems += extras.notes;
+    if (extras.begin)
+        extras.begin(service);
     // A slot that hears of the new items may withdraw them at once.
     const QPointer<EmbeddedService> published(service);
     place->publish(service, file);

@@ -4,11 +4,14 @@
 #include <embedded/servicedescription.h>
 #include <kiv/kivbackend.h>
 
+#include <QJsonObject>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 namespace kiv::embedded {
 
@@ -35,6 +38,23 @@ public:
     /// is tried again after the next change.
     void setStateFolder(const QString& path);
 
+    /// What else a service file says, besides the service that it describes.
+    struct FileExtras
+    {
+        /// Why the file cannot be used, the place in it first; empty when it can.
+        QString problem;
+        /// What is left out of the file, one sentence each.
+        QStringList notes;
+        /// Called with the service before clients see it. May be empty.
+        std::function<void(EmbeddedService*)> begin;
+    };
+    /// Reads what else a file says. The file conforms to the schema, and `service` is what it describes.
+    using FileReader = std::function<FileExtras(
+            const QString& path, const QJsonObject& file, const ServiceDescription& service)>;
+
+    /// Lets `reader` take part in the reading of every file that is loaded from now on; an empty one ends that.
+    void setFileReader(const FileReader& reader);
+
     /// Publishes the service of every "*.service.json" file of the folders, in the order of the folders and, within
     /// one, of the file names. Returns one sentence for each folder or file that could not be used (file, place in it
     /// and reason), and for each stored value that could not be restored; everything else is published all the same.
@@ -47,6 +67,13 @@ public:
     /// a service of that name is published already. Problems of the stored state are added to `problem`, one in each
     /// line, and do not make the call fail.
     [[nodiscard]] bool loadFile(const QString& path, QString* problem = nullptr);
+
+    /// Reads a file again and publishes its service anew, or for the first time. `document` is what the file said when
+    /// it was loaded, and becomes what it says now: values, quality and readiness of items stay as they are, except
+    /// those about which the file says something new. Returns false, with the reason in `problems`, when the file
+    /// cannot be used; then everything stays as it was. Other problems are as for loadFile(). Clients emit
+    /// itemsChanged().
+    [[nodiscard]] bool reloadFile(const QString& path, QJsonObject* document, QStringList* problems);
 
     /// Publishes a service without a file. Returns null, with place and reason in `problem`, when the description is
     /// not valid or a service of that name is published already; other problems are as for loadFile(). Clients that had
@@ -70,8 +97,12 @@ public:
     std::optional<bool> isMounted(const QString& path) const override;
 
 private:
-    EmbeddedService* publish(const ServiceDescription& description, const QString& file, QStringList* problems);
+    EmbeddedService* publish(const ServiceDescription& description, const QString& file, const FileExtras& extras,
+            QStringList* problems);
     bool loadFile(const QString& path, QStringList* problems);
+    struct CheckedFile;
+    std::optional<CheckedFile> check(const QString& path, QStringList* problems) const;
+    bool isFromElsewhere(const QString& service, const QString& path) const;
 
     struct Private;
     std::unique_ptr<Private> d;
