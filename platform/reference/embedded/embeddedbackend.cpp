@@ -20,6 +20,7 @@ struct EmbeddedBackend::Private
 {
     ServiceRegistry registry;
     QString stateFolder;
+    FileReader fileReader;
 };
 
 EmbeddedBackend::EmbeddedBackend()
@@ -41,6 +42,11 @@ EmbeddedBackend::~EmbeddedBackend()
 void EmbeddedBackend::setStateFolder(const QString& path)
 {
     d->stateFolder = path;
+}
+
+void EmbeddedBackend::setFileReader(const FileReader& reader)
+{
+    d->fileReader = reader;
 }
 
 QStringList EmbeddedBackend::foldersFromEnvironment()
@@ -80,12 +86,17 @@ bool EmbeddedBackend::loadFile(const QString& path, QString* problem)
 bool EmbeddedBackend::loadFile(const QString& path, QStringList* problems)
 {
     QString reason;
-    const std::optional<ServiceDescription> description = readServiceFile(path, &reason);
-    if (!description) {
+    const std::optional<ServiceFile> file = readServiceFile(path, &reason);
+    if (!file) {
         *problems += reason;
         return false;
     }
-    return publish(*description, path, problems);
+    const FileExtras extras = d->fileReader ? d->fileReader(path, file->document, file->service) : FileExtras();
+    if (!extras.problem.isEmpty()) {
+        *problems += path + QLatin1String(": ") + extras.problem;
+        return false;
+    }
+    return publish(file->service, path, extras, problems);
 }
 
 EmbeddedService* EmbeddedBackend::publish(const ServiceDescription& description, QString* problem)
@@ -94,7 +105,7 @@ EmbeddedService* EmbeddedBackend::publish(const ServiceDescription& description,
     const QString reason = serviceProblem(description);
     EmbeddedService* service = nullptr;
     if (reason.isEmpty())
-        service = publish(description, QString(), &problems);
+        service = publish(description, QString(), FileExtras(), &problems);
     else
         problems += reason;
     if (problem)
@@ -103,7 +114,7 @@ EmbeddedService* EmbeddedBackend::publish(const ServiceDescription& description,
 }
 
 EmbeddedService* EmbeddedBackend::publish(
-        const ServiceDescription& description, const QString& file, QStringList* problems)
+        const ServiceDescription& description, const QString& file, const FileExtras& extras, QStringList* problems)
 {
     ServicePlace* place = d->registry.makePlace(description.service);
     if (place->service()) {
@@ -121,6 +132,9 @@ EmbeddedService* EmbeddedBackend::publish(
         QObject::connect(data.keeper.get(), &StateKeeper::failed, service, &EmbeddedService::reportError);
         *problems += data.keeper->takeBack();
     }
+    *problems += extras.notes;
+    if (extras.begin)
+        extras.begin(service);
     // A slot that hears of the new items may withdraw them at once.
     const QPointer<EmbeddedService> published(service);
     place->publish(service, file);

@@ -4,10 +4,12 @@
 #include <embedded/servicedescription.h>
 #include <kiv/kivbackend.h>
 
+#include <QJsonObject>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 namespace kiv::embedded {
@@ -34,6 +36,23 @@ public:
     /// is removed. A failure is reported through KIVClientInterface::SigError() of the service's clients, and the write
     /// is tried again after the next change.
     void setStateFolder(const QString& path);
+
+    /// What else a service file says, besides the service that it describes.
+    struct FileExtras
+    {
+        /// Why the file cannot be used, the place in it first; empty when it can.
+        QString problem;
+        /// What is left out of the file, one sentence each.
+        QStringList notes;
+        /// Called with the service before clients see it. May be empty.
+        std::function<void(EmbeddedService*)> begin;
+    };
+    /// Reads what else a file says. The file conforms to the schema, and `service` is what it describes.
+    using FileReader = std::function<FileExtras(
+            const QString& path, const QJsonObject& file, const ServiceDescription& service)>;
+
+    /// Lets `reader` take part in the reading of every file that is loaded from now on; an empty one ends that.
+    void setFileReader(const FileReader& reader);
 
     /// Publishes the service of every "*.service.json" file of the folders, in the order of the folders and, within
     /// one, of the file names. Returns one sentence for each folder or file that could not be used (file, place in it
@@ -70,7 +89,8 @@ public:
     std::optional<bool> isMounted(const QString& path) const override;
 
 private:
-    EmbeddedService* publish(const ServiceDescription& description, const QString& file, QStringList* problems);
+    EmbeddedService* publish(const ServiceDescription& description, const QString& file, const FileExtras& extras,
+            QStringList* problems);
     bool loadFile(const QString& path, QStringList* problems);
 
     struct Private;

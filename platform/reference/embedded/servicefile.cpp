@@ -80,8 +80,10 @@ std::optional<ActionDescription> actionOf(const QJsonValue& value)
     if (!value.isObject())
         return std::nullopt;
     const QJsonObject object = value.toObject();
+    // What fails now and then does so only where the service is simulated.
+    const bool isFailing = !object.contains(QLatin1String("fails"));
     return ActionDescription {object.value(QLatin1String("set")).toObject().toVariantMap(), textOf(object, "reply"),
-            textOf(object, "fail"), object.value(QLatin1String("delay")).toInt()};
+            isFailing ? textOf(object, "fail") : QString(), object.value(QLatin1String("delay")).toInt()};
 }
 
 ItemDescription itemDescription(const QJsonObject& object)
@@ -167,7 +169,7 @@ ServiceDescription serviceDescription(const QJsonObject& root, QString* problem)
 
 } // namespace
 
-std::optional<ServiceDescription> readServiceFile(const QString& path, QString* problem)
+std::optional<ServiceFile> readServiceFile(const QString& path, QString* problem)
 {
     PlovJsonDocument document;
     if (!document.readFile(path)) {
@@ -181,7 +183,7 @@ std::optional<ServiceDescription> readServiceFile(const QString& path, QString* 
     if (violation.isEmpty())
         service = serviceDescription(document.object(), &violation);
     if (violation.isEmpty())
-        return service;
+        return ServiceFile {document.object(), service};
     *problem = path + QLatin1String(": ") + violation;
     return std::nullopt;
 }
