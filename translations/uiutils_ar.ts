@@ -2752,6 +2752,14 @@ Folder: %2</source>
         <source>Theme</source>
         <translation>السمة</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>التقدم</translation>
+    </message>
+    <message>
+        <source>Received Power</source>
+        <translation>القدرة المستقبلة</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>

@@ -2736,6 +2736,14 @@ Ordner: %2</translation>
         <source>Theme</source>
         <translation>Farben</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Received Power</source>
+        <translation>Empfangsleistung</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>

@@ -2736,6 +2736,14 @@ Carpeta: %2</translation>
         <source>Theme</source>
         <translation>Tema</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Received Power</source>
+        <translation>Potencia recibida</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>

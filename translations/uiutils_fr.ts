@@ -2736,6 +2736,14 @@ Dossier&#xa0;: %2</translation>
         <source>Theme</source>
         <translation>Thème</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Received Power</source>
+        <translation>Puissance reçue</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>

@@ -2732,6 +2732,14 @@ Folder: %2</source>
         <source>Theme</source>
         <translation>テーマ</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>進捗</translation>
+    </message>
+    <message>
+        <source>Received Power</source>
+        <translation>受信パワー</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>

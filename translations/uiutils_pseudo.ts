@@ -2736,6 +2736,14 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>Theme</source>
         <translation>[Ţĥémé ~]</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>[Pŕöĝŕéšš ~]</translation>
+    </message>
+    <message>
+        <source>Received Power</source>
+        <translation>[Ŕéçéîvéđ Pöŵéŕ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
