@@ -787,6 +787,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <source>Saved reports cannot be shown: the link %1 to the viewer of PDF files cannot be created. Check that you may write there.</source>
         <translation>يتعذر عرض التقارير المحفوظة: يتعذر إنشاء الرابط %1 إلى عارض PDF. تحقق من صلاحية الكتابة هناك.</translation>
     </message>
+    <message>
+        <source>KIV_SIMULATION is &quot;%1&quot;. Set it to &quot;on&quot; or &quot;off&quot;, or leave it out.</source>
+        <translation>قيمة KIV_SIMULATION هي &quot;%1&quot;. اضبطها على &quot;on&quot; أو &quot;off&quot; أو احذفها.</translation>
+    </message>
 </context>
 <context>
     <name>InstrumentBar</name>
@@ -2748,6 +2752,14 @@ Folder: %2</source>
         <source>Theme</source>
         <translation>السمة</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>التقدم</translation>
+    </message>
+    <message>
+        <source>Received Power</source>
+        <translation>القدرة المستقبلة</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
@@ -3119,6 +3131,97 @@ Folder: %2</source>
     <message>
         <source>Page %1 cannot be drawn. The file may be damaged.</source>
         <translation>يتعذر رسم الصفحة %1. قد يكون الملف تالفًا.</translation>
+    </message>
+</context>
+<context>
+    <name>Simulation</name>
+    <message>
+        <source>%1 is running already. Stop it, or wait until it is done.</source>
+        <translation>%1 قيد التشغيل بالفعل. أوقفه أو انتظر حتى ينتهي.</translation>
+    </message>
+    <message>
+        <source>the value of %1: %2</source>
+        <translation>قيمة %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: not a regular file</source>
+        <translation>‏%1: ليس ملفًا عاديًا</translation>
+    </message>
+    <message>
+        <source>%1: cannot be opened: %2</source>
+        <translation>‏%1: يتعذر الفتح: %2</translation>
+    </message>
+    <message>
+        <source>%1: larger than %2 MiB</source>
+        <translation>‏%1: أكبر من %2 MiB</translation>
+    </message>
+    <message>
+        <source>%1: the first line names no column &quot;%2&quot;</source>
+        <translation>‏%1: لا يذكر السطر الأول عمودًا باسم &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>%1: no line has a value of the item&apos;s type in the column</source>
+        <translation>‏%1: لا يحتوي أي سطر في العمود على قيمة من نوع العنصر</translation>
+    </message>
+    <message>
+        <source>only a result can move: settings are set by clients</source>
+        <translation>لا يتغير تلقائيًا إلا النتائج: الإعدادات يضبطها العملاء</translation>
+    </message>
+    <message>
+        <source>an item of the type %1 cannot move as &quot;%2&quot;</source>
+        <translation>لا يمكن لعنصر من النوع %1 أن يتغير بطريقة &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>has no meaning for &quot;%1&quot;</source>
+        <translation>لا معنى له مع &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>must be greater than &quot;from&quot;</source>
+        <translation>يجب أن يكون أكبر من &quot;from&quot;</translation>
+    </message>
+    <message>
+        <source>only numbers have &quot;noise&quot;, &quot;from&quot; and &quot;to&quot;</source>
+        <translation>الأرقام وحدها لها &quot;noise&quot; و&quot;from&quot; و&quot;to&quot;</translation>
+    </message>
+    <message>
+        <source>%1. The item %2 stands still.</source>
+        <translation>%1. العنصر %2 لا يتغير.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 lines have no value for %4 and are left out.</source>
+        <translation>‏%1: %2 من %3 سطر بلا قيمة للعنصر %4 وقد أُهملت.</translation>
+    </message>
+    <message>
+        <source>only numbers and Booleans can be judged by their value</source>
+        <translation>لا يُحكم بالقيمة إلا على الأرقام والقيم المنطقية</translation>
+    </message>
+    <message>
+        <source>&quot;to&quot; is less than &quot;from&quot;</source>
+        <translation>&quot;to&quot; أصغر من &quot;from&quot;</translation>
+    </message>
+    <message>
+        <source>there is no item %1 that is a number</source>
+        <translation>لا يوجد عنصر %1 يكون رقمًا</translation>
+    </message>
+    <message>
+        <source>there is no item %1 that has a value</source>
+        <translation>لا يوجد عنصر %1 له قيمة</translation>
+    </message>
+    <message>
+        <source>a value of %1 is drawn from the numbers between &quot;from&quot; and &quot;to&quot;</source>
+        <translation>تُسحب قيمة %1 من الأرقام بين &quot;from&quot; و&quot;to&quot;</translation>
+    </message>
+    <message>
+        <source>must be greater than &quot;for&quot;</source>
+        <translation>يجب أن يكون أكبر من &quot;for&quot;</translation>
+    </message>
+    <message>
+        <source>no id begins with &quot;%1&quot;</source>
+        <translation>لا يبدأ أي معرّف بـ &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is no action %1 that &quot;runs&quot;</source>
+        <translation>لا يوجد إجراء %1 له &quot;runs&quot;</translation>
     </message>
 </context>
 <context>

@@ -779,6 +779,10 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
         <source>Saved reports cannot be shown: the link %1 to the viewer of PDF files cannot be created. Check that you may write there.</source>
         <translation>Gespeicherte Berichte können nicht angezeigt werden: Die Verknüpfung %1 zum PDF-Betrachter kann nicht angelegt werden. Prüfen Sie, ob Sie dort schreiben dürfen.</translation>
     </message>
+    <message>
+        <source>KIV_SIMULATION is &quot;%1&quot;. Set it to &quot;on&quot; or &quot;off&quot;, or leave it out.</source>
+        <translation>KIV_SIMULATION ist „%1“. Setzen Sie es auf „on“ oder „off“, oder lassen Sie es weg.</translation>
+    </message>
 </context>
 <context>
     <name>InstrumentBar</name>
@@ -2732,6 +2736,14 @@ Ordner: %2</translation>
         <source>Theme</source>
         <translation>Farben</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Received Power</source>
+        <translation>Empfangsleistung</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
@@ -3099,6 +3111,97 @@ Ordner: %2</translation>
     <message>
         <source>Page %1 cannot be drawn. The file may be damaged.</source>
         <translation>Seite %1 kann nicht gezeichnet werden. Die Datei ist vielleicht beschädigt.</translation>
+    </message>
+</context>
+<context>
+    <name>Simulation</name>
+    <message>
+        <source>%1 is running already. Stop it, or wait until it is done.</source>
+        <translation>%1 läuft bereits. Halten Sie es an, oder warten Sie, bis es fertig ist.</translation>
+    </message>
+    <message>
+        <source>the value of %1: %2</source>
+        <translation>der Wert von %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: not a regular file</source>
+        <translation>%1: keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>%1: cannot be opened: %2</source>
+        <translation>%1: kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: larger than %2 MiB</source>
+        <translation>%1: größer als %2 MiB</translation>
+    </message>
+    <message>
+        <source>%1: the first line names no column &quot;%2&quot;</source>
+        <translation>%1: die erste Zeile nennt keine Spalte „%2“</translation>
+    </message>
+    <message>
+        <source>%1: no line has a value of the item&apos;s type in the column</source>
+        <translation>%1: keine Zeile hat in der Spalte einen Wert vom Typ des Elements</translation>
+    </message>
+    <message>
+        <source>only a result can move: settings are set by clients</source>
+        <translation>nur ein Ergebnis kann sich bewegen: Einstellungen setzen die Clients</translation>
+    </message>
+    <message>
+        <source>an item of the type %1 cannot move as &quot;%2&quot;</source>
+        <translation>ein Element vom Typ %1 kann sich nicht als „%2“ bewegen</translation>
+    </message>
+    <message>
+        <source>has no meaning for &quot;%1&quot;</source>
+        <translation>hat für „%1“ keine Bedeutung</translation>
+    </message>
+    <message>
+        <source>must be greater than &quot;from&quot;</source>
+        <translation>muss größer sein als „from“</translation>
+    </message>
+    <message>
+        <source>only numbers have &quot;noise&quot;, &quot;from&quot; and &quot;to&quot;</source>
+        <translation>nur Zahlen haben „noise“, „from“ und „to“</translation>
+    </message>
+    <message>
+        <source>%1. The item %2 stands still.</source>
+        <translation>%1. Das Element %2 steht still.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 lines have no value for %4 and are left out.</source>
+        <translation>%1: %2 von %3 Zeilen haben keinen Wert für %4 und werden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>only numbers and Booleans can be judged by their value</source>
+        <translation>nur Zahlen und Wahrheitswerte können nach ihrem Wert beurteilt werden</translation>
+    </message>
+    <message>
+        <source>&quot;to&quot; is less than &quot;from&quot;</source>
+        <translation>„to“ ist kleiner als „from“</translation>
+    </message>
+    <message>
+        <source>there is no item %1 that is a number</source>
+        <translation>es gibt kein Element %1, das eine Zahl ist</translation>
+    </message>
+    <message>
+        <source>there is no item %1 that has a value</source>
+        <translation>es gibt kein Element %1, das einen Wert hat</translation>
+    </message>
+    <message>
+        <source>a value of %1 is drawn from the numbers between &quot;from&quot; and &quot;to&quot;</source>
+        <translation>ein Wert von %1 wird aus den Zahlen zwischen „from“ und „to“ gezogen</translation>
+    </message>
+    <message>
+        <source>must be greater than &quot;for&quot;</source>
+        <translation>muss größer sein als „for“</translation>
+    </message>
+    <message>
+        <source>no id begins with &quot;%1&quot;</source>
+        <translation>keine Kennung beginnt mit „%1“</translation>
+    </message>
+    <message>
+        <source>there is no action %1 that &quot;runs&quot;</source>
+        <translation>es gibt keine Aktion %1 mit „runs“</translation>
     </message>
 </context>
 <context>

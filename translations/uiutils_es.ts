@@ -779,6 +779,10 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
         <source>Saved reports cannot be shown: the link %1 to the viewer of PDF files cannot be created. Check that you may write there.</source>
         <translation>No se pueden mostrar los informes guardados: no se puede crear el enlace %1 al visor de PDF. Compruebe que puede escribir allí.</translation>
     </message>
+    <message>
+        <source>KIV_SIMULATION is &quot;%1&quot;. Set it to &quot;on&quot; or &quot;off&quot;, or leave it out.</source>
+        <translation>KIV_SIMULATION es «%1». Póngalo en «on» u «off», o quítelo.</translation>
+    </message>
 </context>
 <context>
     <name>InstrumentBar</name>
@@ -2732,6 +2736,14 @@ Carpeta: %2</translation>
         <source>Theme</source>
         <translation>Tema</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Received Power</source>
+        <translation>Potencia recibida</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
@@ -3099,6 +3111,97 @@ Carpeta: %2</translation>
     <message>
         <source>Page %1 cannot be drawn. The file may be damaged.</source>
         <translation>No se puede dibujar la página %1. El archivo puede estar dañado.</translation>
+    </message>
+</context>
+<context>
+    <name>Simulation</name>
+    <message>
+        <source>%1 is running already. Stop it, or wait until it is done.</source>
+        <translation>%1 ya está en marcha. Deténgalo o espere a que termine.</translation>
+    </message>
+    <message>
+        <source>the value of %1: %2</source>
+        <translation>el valor de %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: not a regular file</source>
+        <translation>%1: no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>%1: cannot be opened: %2</source>
+        <translation>%1: no se puede abrir: %2</translation>
+    </message>
+    <message>
+        <source>%1: larger than %2 MiB</source>
+        <translation>%1: supera los %2 MiB</translation>
+    </message>
+    <message>
+        <source>%1: the first line names no column &quot;%2&quot;</source>
+        <translation>%1: la primera línea no nombra ninguna columna «%2»</translation>
+    </message>
+    <message>
+        <source>%1: no line has a value of the item&apos;s type in the column</source>
+        <translation>%1: ninguna línea tiene en la columna un valor del tipo del elemento</translation>
+    </message>
+    <message>
+        <source>only a result can move: settings are set by clients</source>
+        <translation>solo un resultado puede moverse: los ajustes los fijan los clientes</translation>
+    </message>
+    <message>
+        <source>an item of the type %1 cannot move as &quot;%2&quot;</source>
+        <translation>un elemento del tipo %1 no puede moverse como «%2»</translation>
+    </message>
+    <message>
+        <source>has no meaning for &quot;%1&quot;</source>
+        <translation>no tiene sentido para «%1»</translation>
+    </message>
+    <message>
+        <source>must be greater than &quot;from&quot;</source>
+        <translation>debe ser mayor que «from»</translation>
+    </message>
+    <message>
+        <source>only numbers have &quot;noise&quot;, &quot;from&quot; and &quot;to&quot;</source>
+        <translation>solo los números tienen «noise», «from» y «to»</translation>
+    </message>
+    <message>
+        <source>%1. The item %2 stands still.</source>
+        <translation>%1. El elemento %2 no se mueve.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 lines have no value for %4 and are left out.</source>
+        <translation>%1: %2 de %3 líneas no tienen valor para %4 y se omiten.</translation>
+    </message>
+    <message>
+        <source>only numbers and Booleans can be judged by their value</source>
+        <translation>solo los números y los valores lógicos pueden juzgarse por su valor</translation>
+    </message>
+    <message>
+        <source>&quot;to&quot; is less than &quot;from&quot;</source>
+        <translation>«to» es menor que «from»</translation>
+    </message>
+    <message>
+        <source>there is no item %1 that is a number</source>
+        <translation>no hay ningún elemento %1 que sea un número</translation>
+    </message>
+    <message>
+        <source>there is no item %1 that has a value</source>
+        <translation>no hay ningún elemento %1 que tenga un valor</translation>
+    </message>
+    <message>
+        <source>a value of %1 is drawn from the numbers between &quot;from&quot; and &quot;to&quot;</source>
+        <translation>un valor de %1 se elige entre los números de «from» a «to»</translation>
+    </message>
+    <message>
+        <source>must be greater than &quot;for&quot;</source>
+        <translation>debe ser mayor que «for»</translation>
+    </message>
+    <message>
+        <source>no id begins with &quot;%1&quot;</source>
+        <translation>ningún identificador empieza por «%1»</translation>
+    </message>
+    <message>
+        <source>there is no action %1 that &quot;runs&quot;</source>
+        <translation>no hay ninguna acción %1 con «runs»</translation>
     </message>
 </context>
 <context>

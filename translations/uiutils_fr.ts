@@ -779,6 +779,10 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
         <source>Saved reports cannot be shown: the link %1 to the viewer of PDF files cannot be created. Check that you may write there.</source>
         <translation>Les rapports enregistrés ne peuvent pas être affichés&#xa0;: impossible de créer le lien %1 vers la visionneuse PDF. Vérifiez que vous pouvez y écrire.</translation>
     </message>
+    <message>
+        <source>KIV_SIMULATION is &quot;%1&quot;. Set it to &quot;on&quot; or &quot;off&quot;, or leave it out.</source>
+        <translation>KIV_SIMULATION vaut «&#xa0;%1&#xa0;». Indiquez «&#xa0;on&#xa0;» ou «&#xa0;off&#xa0;», ou supprimez-le.</translation>
+    </message>
 </context>
 <context>
     <name>InstrumentBar</name>
@@ -2732,6 +2736,14 @@ Dossier&#xa0;: %2</translation>
         <source>Theme</source>
         <translation>Thème</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Received Power</source>
+        <translation>Puissance reçue</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
@@ -3099,6 +3111,97 @@ Dossier&#xa0;: %2</translation>
     <message>
         <source>Page %1 cannot be drawn. The file may be damaged.</source>
         <translation>La page %1 ne peut pas être affichée. Le fichier est peut-être endommagé.</translation>
+    </message>
+</context>
+<context>
+    <name>Simulation</name>
+    <message>
+        <source>%1 is running already. Stop it, or wait until it is done.</source>
+        <translation>%1 est déjà en cours. Arrêtez-la, ou attendez la fin.</translation>
+    </message>
+    <message>
+        <source>the value of %1: %2</source>
+        <translation>la valeur de %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1: not a regular file</source>
+        <translation>%1&#xa0;: pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>%1: cannot be opened: %2</source>
+        <translation>%1&#xa0;: ouverture impossible&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1: larger than %2 MiB</source>
+        <translation>%1&#xa0;: plus de %2 Mio</translation>
+    </message>
+    <message>
+        <source>%1: the first line names no column &quot;%2&quot;</source>
+        <translation>%1&#xa0;: la première ligne ne nomme aucune colonne «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1: no line has a value of the item&apos;s type in the column</source>
+        <translation>%1&#xa0;: aucune ligne n’a dans la colonne une valeur du type de l’élément</translation>
+    </message>
+    <message>
+        <source>only a result can move: settings are set by clients</source>
+        <translation>seul un résultat peut varier&#xa0;: les réglages sont faits par les clients</translation>
+    </message>
+    <message>
+        <source>an item of the type %1 cannot move as &quot;%2&quot;</source>
+        <translation>un élément du type %1 ne peut pas varier en «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>has no meaning for &quot;%1&quot;</source>
+        <translation>n’a pas de sens pour «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>must be greater than &quot;from&quot;</source>
+        <translation>doit être supérieur à «&#xa0;from&#xa0;»</translation>
+    </message>
+    <message>
+        <source>only numbers have &quot;noise&quot;, &quot;from&quot; and &quot;to&quot;</source>
+        <translation>seuls les nombres ont «&#xa0;noise&#xa0;», «&#xa0;from&#xa0;» et «&#xa0;to&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1. The item %2 stands still.</source>
+        <translation>%1. L’élément %2 ne varie pas.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 lines have no value for %4 and are left out.</source>
+        <translation>%1&#xa0;: %2 lignes sur %3 n’ont pas de valeur pour %4 et sont omises.</translation>
+    </message>
+    <message>
+        <source>only numbers and Booleans can be judged by their value</source>
+        <translation>seuls les nombres et les booléens peuvent être jugés d’après leur valeur</translation>
+    </message>
+    <message>
+        <source>&quot;to&quot; is less than &quot;from&quot;</source>
+        <translation>«&#xa0;to&#xa0;» est inférieur à «&#xa0;from&#xa0;»</translation>
+    </message>
+    <message>
+        <source>there is no item %1 that is a number</source>
+        <translation>il n’y a pas d’élément %1 qui soit un nombre</translation>
+    </message>
+    <message>
+        <source>there is no item %1 that has a value</source>
+        <translation>il n’y a pas d’élément %1 qui ait une valeur</translation>
+    </message>
+    <message>
+        <source>a value of %1 is drawn from the numbers between &quot;from&quot; and &quot;to&quot;</source>
+        <translation>une valeur de %1 est tirée parmi les nombres de «&#xa0;from&#xa0;» à «&#xa0;to&#xa0;»</translation>
+    </message>
+    <message>
+        <source>must be greater than &quot;for&quot;</source>
+        <translation>doit être supérieur à «&#xa0;for&#xa0;»</translation>
+    </message>
+    <message>
+        <source>no id begins with &quot;%1&quot;</source>
+        <translation>aucun identifiant ne commence par «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>there is no action %1 that &quot;runs&quot;</source>
+        <translation>il n’y a pas d’action %1 avec «&#xa0;runs&#xa0;»</translation>
     </message>
 </context>
 <context>

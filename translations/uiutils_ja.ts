@@ -777,6 +777,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <source>Saved reports cannot be shown: the link %1 to the viewer of PDF files cannot be created. Check that you may write there.</source>
         <translation>保存したレポートを表示できません: PDF ビューアーへのリンク %1 を作成できません。書き込み権限を確認してください。</translation>
     </message>
+    <message>
+        <source>KIV_SIMULATION is &quot;%1&quot;. Set it to &quot;on&quot; or &quot;off&quot;, or leave it out.</source>
+        <translation>KIV_SIMULATION が &quot;%1&quot; です。&quot;on&quot; か &quot;off&quot; に設定するか、指定しないでください。</translation>
+    </message>
 </context>
 <context>
     <name>InstrumentBar</name>
@@ -2728,6 +2732,14 @@ Folder: %2</source>
         <source>Theme</source>
         <translation>テーマ</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>進捗</translation>
+    </message>
+    <message>
+        <source>Received Power</source>
+        <translation>受信パワー</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
@@ -3094,6 +3106,97 @@ Folder: %2</source>
     <message>
         <source>Page %1 cannot be drawn. The file may be damaged.</source>
         <translation>%1 ページを描画できません。ファイルが壊れている可能性があります。</translation>
+    </message>
+</context>
+<context>
+    <name>Simulation</name>
+    <message>
+        <source>%1 is running already. Stop it, or wait until it is done.</source>
+        <translation>%1 は実行中です。停止するか、終わるまで待ってください。</translation>
+    </message>
+    <message>
+        <source>the value of %1: %2</source>
+        <translation>%1 の値: %2</translation>
+    </message>
+    <message>
+        <source>%1: not a regular file</source>
+        <translation>%1: 通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>%1: cannot be opened: %2</source>
+        <translation>%1: 開けません: %2</translation>
+    </message>
+    <message>
+        <source>%1: larger than %2 MiB</source>
+        <translation>%1: %2 MiB を超えています</translation>
+    </message>
+    <message>
+        <source>%1: the first line names no column &quot;%2&quot;</source>
+        <translation>%1: 最初の行に列 &quot;%2&quot; がありません</translation>
+    </message>
+    <message>
+        <source>%1: no line has a value of the item&apos;s type in the column</source>
+        <translation>%1: この列に項目の型の値を持つ行がありません</translation>
+    </message>
+    <message>
+        <source>only a result can move: settings are set by clients</source>
+        <translation>変動できるのは結果だけです: 設定はクライアントが行います</translation>
+    </message>
+    <message>
+        <source>an item of the type %1 cannot move as &quot;%2&quot;</source>
+        <translation>型 %1 の項目は &quot;%2&quot; として変動できません</translation>
+    </message>
+    <message>
+        <source>has no meaning for &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; では意味がありません</translation>
+    </message>
+    <message>
+        <source>must be greater than &quot;from&quot;</source>
+        <translation>&quot;from&quot; より大きくしてください</translation>
+    </message>
+    <message>
+        <source>only numbers have &quot;noise&quot;, &quot;from&quot; and &quot;to&quot;</source>
+        <translation>&quot;noise&quot;、&quot;from&quot;、&quot;to&quot; は数値にしか使えません</translation>
+    </message>
+    <message>
+        <source>%1. The item %2 stands still.</source>
+        <translation>%1。項目 %2 は変動しません。</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 lines have no value for %4 and are left out.</source>
+        <translation>%1: %3 行中 %2 行に %4 の値がないため、除外しました。</translation>
+    </message>
+    <message>
+        <source>only numbers and Booleans can be judged by their value</source>
+        <translation>値で判定できるのは数値と真偽値だけです</translation>
+    </message>
+    <message>
+        <source>&quot;to&quot; is less than &quot;from&quot;</source>
+        <translation>&quot;to&quot; が &quot;from&quot; より小さくなっています</translation>
+    </message>
+    <message>
+        <source>there is no item %1 that is a number</source>
+        <translation>数値の項目 %1 がありません</translation>
+    </message>
+    <message>
+        <source>there is no item %1 that has a value</source>
+        <translation>値を持つ項目 %1 がありません</translation>
+    </message>
+    <message>
+        <source>a value of %1 is drawn from the numbers between &quot;from&quot; and &quot;to&quot;</source>
+        <translation>%1 の値は &quot;from&quot; から &quot;to&quot; までの数から選ばれます</translation>
+    </message>
+    <message>
+        <source>must be greater than &quot;for&quot;</source>
+        <translation>&quot;for&quot; より大きくしてください</translation>
+    </message>
+    <message>
+        <source>no id begins with &quot;%1&quot;</source>
+        <translation>&quot;%1&quot; で始まる ID がありません</translation>
+    </message>
+    <message>
+        <source>there is no action %1 that &quot;runs&quot;</source>
+        <translation>&quot;runs&quot; を持つアクション %1 がありません</translation>
     </message>
 </context>
 <context>

@@ -779,6 +779,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <source>Saved reports cannot be shown: the link %1 to the viewer of PDF files cannot be created. Check that you may write there.</source>
         <translation>[Šåvéđ ŕépöŕţš çåññöţ bé šĥöŵñ: ţĥé ļîñķ %1 ţö ţĥé vîéŵéŕ öf PÐF fîļéš çåññöţ bé çŕéåţéđ. Çĥéçķ ţĥåţ ýöû måý ŵŕîţé ţĥéŕé. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>KIV_SIMULATION is "%1". Set it to "on" or "off", or leave it out.</source>
+        <translation>[KIV_SIMULATION îš "%1". Šéţ îţ ţö "öñ" öŕ "öff", öŕ ļéåvé îţ öûţ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>InstrumentBar</name>
@@ -2732,6 +2736,14 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>Theme</source>
         <translation>[Ţĥémé ~]</translation>
     </message>
+    <message>
+        <source>Progress</source>
+        <translation>[Pŕöĝŕéšš ~]</translation>
+    </message>
+    <message>
+        <source>Received Power</source>
+        <translation>[Ŕéçéîvéđ Pöŵéŕ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
@@ -3099,6 +3111,97 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
     <message>
         <source>Page %1 cannot be drawn. The file may be damaged.</source>
         <translation>[Påĝé %1 çåññöţ bé đŕåŵñ. Ţĥé fîļé måý bé đåmåĝéđ. ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+</context>
+<context>
+    <name>Simulation</name>
+    <message>
+        <source>%1 is running already. Stop it, or wait until it is done.</source>
+        <translation>[%1 îš ŕûññîñĝ åļŕéåđý. Šţöp îţ, öŕ ŵåîţ ûñţîļ îţ îš đöñé. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>the value of %1: %2</source>
+        <translation>[ţĥé våļûé öf %1: %2 ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1: not a regular file</source>
+        <translation>[%1: ñöţ å ŕéĝûļåŕ fîļé ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1: cannot be opened: %2</source>
+        <translation>[%1: çåññöţ bé öpéñéđ: %2 ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1: larger than %2 MiB</source>
+        <translation>[%1: ļåŕĝéŕ ţĥåñ %2 Mîß ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1: the first line names no column "%2"</source>
+        <translation>[%1: ţĥé fîŕšţ ļîñé ñåméš ñö çöļûmñ "%2" ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1: no line has a value of the item's type in the column</source>
+        <translation>[%1: ñö ļîñé ĥåš å våļûé öf ţĥé îţém'š ţýpé îñ ţĥé çöļûmñ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>only a result can move: settings are set by clients</source>
+        <translation>[öñļý å ŕéšûļţ çåñ mövé: šéţţîñĝš åŕé šéţ bý çļîéñţš ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>an item of the type %1 cannot move as "%2"</source>
+        <translation>[åñ îţém öf ţĥé ţýpé %1 çåññöţ mövé åš "%2" ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>has no meaning for "%1"</source>
+        <translation>[ĥåš ñö méåñîñĝ föŕ "%1" ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>must be greater than "from"</source>
+        <translation>[mûšţ bé ĝŕéåţéŕ ţĥåñ "fŕöm" ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>only numbers have "noise", "from" and "to"</source>
+        <translation>[öñļý ñûmbéŕš ĥåvé "ñöîšé", "fŕöm" åñđ "ţö" ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1. The item %2 stands still.</source>
+        <translation>[%1. Ţĥé îţém %2 šţåñđš šţîļļ. ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 lines have no value for %4 and are left out.</source>
+        <translation>[%1: %2 öf %3 ļîñéš ĥåvé ñö våļûé föŕ %4 åñđ åŕé ļéfţ öûţ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>only numbers and Booleans can be judged by their value</source>
+        <translation>[öñļý ñûmbéŕš åñđ ßööļéåñš çåñ bé ĵûđĝéđ bý ţĥéîŕ våļûé ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>"to" is less than "from"</source>
+        <translation>["ţö" îš ļéšš ţĥåñ "fŕöm" ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>there is no item %1 that is a number</source>
+        <translation>[ţĥéŕé îš ñö îţém %1 ţĥåţ îš å ñûmbéŕ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>there is no item %1 that has a value</source>
+        <translation>[ţĥéŕé îš ñö îţém %1 ţĥåţ ĥåš å våļûé ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>a value of %1 is drawn from the numbers between "from" and "to"</source>
+        <translation>[å våļûé öf %1 îš đŕåŵñ fŕöm ţĥé ñûmbéŕš béţŵééñ "fŕöm" åñđ "ţö" ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>must be greater than "for"</source>
+        <translation>[mûšţ bé ĝŕéåţéŕ ţĥåñ "föŕ" ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>no id begins with "%1"</source>
+        <translation>[ñö îđ béĝîñš ŵîţĥ "%1" ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>there is no action %1 that "runs"</source>
+        <translation>[ţĥéŕé îš ñö åçţîöñ %1 ţĥåţ "ŕûñš" ~ ~ ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>

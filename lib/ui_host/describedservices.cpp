@@ -3,11 +3,29 @@
 #include "base/ownplace_p.h"
 #include "base/paths_p.h"
 
+#include "simulation/simulation_p.h"
+
 #include <embedded/embeddedbackend.h>
 
 #include <QCoreApplication>
 
 namespace uiutils {
+
+namespace {
+
+kiv::simulation::Simulated chosenSimulation(QStringList* problems)
+{
+    const QString name = qEnvironmentVariable("KIV_SIMULATION");
+    if (name == QLatin1String("off"))
+        return kiv::simulation::Simulated::Actions;
+    if (!name.isEmpty() && name != QLatin1String("on"))
+        *problems += QCoreApplication::translate(
+                "Host", "KIV_SIMULATION is \"%1\". Set it to \"on\" or \"off\", or leave it out.")
+                             .arg(name);
+    return kiv::simulation::Simulated::All;
+}
+
+} // namespace
 
 std::optional<PlatformKind> chosenPlatform(PlatformKind standard, QString* problem)
 {
@@ -37,6 +55,7 @@ bool loadServices(
         kiv::embedded::EmbeddedBackend& backend, const QStringList& folders, const QString& root, QStringList* problems)
 {
     backend.setStateFolder(root + paths::serviceSettings);
+    kiv::simulation::simulate(backend, chosenSimulation(problems));
     *problems += backend.loadFolders(folders);
     if (!backend.serviceNames().isEmpty())
         return true;

@@ -336,6 +336,27 @@ private Q_SLOTS:
         QVERIFY(m_backend->waitForServices(patience));
         QVERIFY(m_backend->serviceNames().contains("life"));
     }
+
+    /// A service whose file moves it does so in another process, and vanishes and returns there.
+    void simulated()
+    {
+        writeFile(m_root->filePath("moving/m.service.json"), R"({ "service": "moving", "items": [
+            { "id": ":result:moving:n:", "type": "int", "judged": { "passing": { "to": 2 } },
+              "moves": { "as": "steps", "every": 10, "values": [1, 2, 3], "then": "stay" } } ],
+            "happens": [{ "after": 500, "for": 500, "every": 1000, "vanish": true }] })");
+        qputenv("KIV_SIMULATION", "on");
+        const std::unique_ptr<Child> kivd = startKivd("moving");
+        qputenv("KIV_SIMULATION", "off");
+        m_client = m_backend->serviceClient("moving", nullptr);
+        const auto isMoved = [this] {
+            const KIVClientItem* item = m_client->getItem(":result:moving:n:");
+            return item && item->getValue() == 3 && item->getQualityCode() == KIVClientItem::QualityFailing;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(isMoved(), patience);
+        QVERIFY(isGone());
+        QVERIFY(isThere());
+        QVERIFY(isGone());
+    }
 };
 
 QTEST_GUILESS_MAIN(BusLifeTest)

@@ -18,6 +18,7 @@ contract    platform/contract/kiv           base
 schema      platform/contract/kiv/schema    contract base
 formatters  platform/reference/formatters   contract
 embedded    platform/reference/embedded     base contract formatters
+simulation  platform/reference/simulation   base contract formatters embedded
 bus         platform/reference/bus          base contract formatters embedded
 
 core        lib/ui_utils/core               base
@@ -43,7 +44,7 @@ saving      lib/ui_utils/report/saving      base contract core instrument docume
 drafts      lib/ui_utils/report/drafts      base contract core service document local report
 module      lib/ui_utils/module             base contract LIBRARY
 
-host        lib/ui_host                     base contract core languages service module embedded bus
+host        lib/ui_host                     base contract core languages service module embedded simulation bus
 paper       lib/ui_paper                    core pages
 
 plugin      qml/UiUtils                     LIBRARY base contract

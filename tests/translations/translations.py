@@ -278,6 +278,8 @@ def show(recording):
     alone = recording.folder / 'alone'
     alone.mkdir()
     (alone / 'kinds.service.json').write_bytes((data / 'services/kinds.service.json').read_bytes())
+    moving = '{ "id": ":result:moving:a:", "type": "int", "moves": { "as": "file", "file": "missing.csv" } }'
+    (alone / 'moving.service.json').write_text(f'{{ "service": "moving", "items": [{moving}] }}')
     nobody = recording.run('uiutils-demo', '--follow', '--root', root, '--services', alone, code=1)
     none = recording.run('uiutils-qml', '--list', '--services', '/nowhere', '--root', root, code=1)
     recording.environment['DBUS_SESSION_BUS_ADDRESS'] = 'unix:path=/nowhere/bus'
@@ -292,6 +294,7 @@ def show(recording):
         ('the range of a value', words, '«2 - 8 chars»'),
         ('the rejection of a service', odd, '/items/1: «the id :config:odd:twice: appears twice»'),
         ('a setting that is not there', nobody, '«There is no setting :config:basemgr:'),
+        ('an item that stands still', nobody, ' The item :result:moving:a: stands still.»'),
         ('a host without services', none, '«No service could be loaded from /nowhere. '),
         ('a bus that is not there', lost, '«The session bus cannot be reached: '),
         ('the rejection of a file', nowhere, '«Cannot create a file in the folder of /nowhere/a.png: '),

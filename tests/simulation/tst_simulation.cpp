@@ -1,0 +1,427 @@
+#include "columns.h"
+#include "embedded/servicedata_p.h"
+#include "signallog.h"
+#include "simulatedservice.h"
+#include "simulation/csvcolumn_p.h"
+#include "simulation/simulation_p.h"
+
+#include <sys/stat.h>
+
+using namespace kiv::simulation;
+using kiv::embedded::EmbeddedBackend;
+using kiv::embedded::EmbeddedService;
+using kiv::embedded::ServiceData;
+
+namespace {
+
+/// A measurement of 5 s, which fails one time in `often`.
+QByteArray meter(const QByteArray& fails = {}, const QByteArray& seed = "1")
+{
+    return R"({"service": "s", "seed": )" + seed + R"(, "items": [
+        {"id": ":result:s:state:", "type": "std::string", "value": "idle"},
+        {"id": ":result:s:progress:", "type": "uint", "value": 0},
+        {"id": ":result:s:loss:", "type": "double", "judged": {"passing": {"to": 4}, "warning": {"to": 5}}},
+        {"id": ":result:s:events:", "type": "int"},
+        {"id": ":result:s:level:", "type": "int", "value": -1,
+          "moves": {"as": "ramp", "from": 0, "to": 100, "period": 10000, "every": 100, "while": ":action:s:start:"}},
+        {"id": ":action:s:start:", "type": "action", "label": "Start",
+          "does": {"set": {":result:s:state:": "measuring %1"}, "reply": "Measuring %1.", "runs": 5000,
+            "progress": ":result:s:progress:",)" + fails + R"(
+            "then": {":result:s:state:": "%1 done", ":result:s:loss:": {"from": 3.5, "to": 4.5}, ":result:s:events:": {"from": 1, "to": 3}},
+            "stopped": {":result:s:state:": "stopped"}}},
+        {"id": ":action:s:stop:", "type": "action",
+          "does": {"stops": ":action:s:start:", "reply": "Stopped."}}]})";
+}
+const QByteArray failing = R"("fail": "No light.", "fails": 0.1, "failed": {":result:s:state:": "failed"},)";
+const QString state = ":result:s:state:";
+const QString progress = ":result:s:progress:";
+const QString level = ":result:s:level:";
+const QString start = ":action:s:start:";
+
+/// The final states, and the results, of that many measurements.
+QStringList outcomes(int count, const QByteArray& seed)
+{
+    SimulatedService service(meter(failing, seed));
+    QStringList outcomes;
+    for (int i = 0; i < count; ++i) {
+        service.act(start, QString::number(i));
+        service.to(service.now + 5000);
+        outcomes += service.value(state).toString() + ' ' + service.value(":result:s:loss:").toString();
+    }
+    return outcomes;
+}
+
+QByteArray item(const QByteArray& name, const QByteArray& moves)
+{
+    return R"({"id": ":result:s:)" + name + R"(:", "type": "int", "moves": )" + moves + "}";
+}
+
+QByteArray service(const QByteArray& items, const QByteArray& happens = "[]")
+{
+    return R"({"service": "s", "items": [)" + items + R"(], "happens": )" + happens + "}";
+}
+
+const QByteArray counting = R"({"as": "ramp", "from": 0, "to": 1000, "period": 100000, "every": 100})";
+
+} // namespace
+
+class SimulationTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rejectedFiles_data()
+    {
+        addColumns<QByteArray, QString>();
+        for (const QStringList& row : tableIn("/rejected/simulation.txt"))
+            QTest::newRow(qPrintable(row.at(0))) << row.at(2).toUtf8() << row.at(1);
+    }
+    void rejectedFiles()
+    {
+        const auto [contents, place] = currentRow<QByteArray, QString>();
+        QTemporaryDir folder;
+        const QString path = writeFile(folder.filePath("bad.service.json"), contents);
+        EmbeddedBackend backend;
+        simulate(backend, Simulated::All);
+        QString problem;
+        QVERIFY(!backend.loadFile(path, &problem));
+        QVERIFY2(problem.startsWith(path + place), qPrintable(problem));
+        QVERIFY(problem.size() > path.size() + place.size());
+        QCOMPARE(backend.serviceNames(), QStringList());
+    }
+
+    void measurement()
+    {
+        SimulatedService s(meter());
+        QCOMPARE(s.value(level), QVariant(-1));
+        QCOMPARE(s.driver->due(), never);
+        s.now = 1000;
+        QCOMPARE(s.act(start, "fiber 7"), "Measuring fiber 7.");
+        QCOMPARE(s.value(state), QVariant("measuring fiber 7"));
+        QCOMPARE(s.value(progress), QVariant(0u));
+        QCOMPARE(s.value(level), QVariant(0));
+        s.to(3400);
+        QCOMPARE(s.value(progress), QVariant(48u));
+        QCOMPARE(s.value(level), QVariant(24));
+        QCOMPARE(s.act(start), "!Start is running already. Stop it, or wait until it is done.");
+        s.to(5999);
+        QCOMPARE(s.value(state), QVariant("measuring fiber 7"));
+        QVERIFY(s.value(progress).toUInt() >= 96 && s.value(progress).toUInt() < 100);
+        QVERIFY(!s.value(":result:s:loss:").isValid());
+
+        // However late it is seen, nothing has moved after the end.
+        s.to(20'000);
+        QCOMPARE(s.value(progress), QVariant(100u));
+        QCOMPARE(s.value(state), QVariant("fiber 7 done"));
+        QCOMPARE(s.value(level), QVariant(49));
+        const double loss = s.value(":result:s:loss:").toDouble();
+        QVERIFY(loss >= 3.5 && loss <= 4.5);
+        QCOMPARE(s.item(":result:s:loss:")->getQualityCode(),
+                int(loss <= 4 ? KIVClientItem::QualityPassing : KIVClientItem::QualityWarning));
+        QVERIFY((QSet<int> {1, 2, 3}).contains(s.value(":result:s:events:").toInt()));
+        QCOMPARE(s.driver->due(), never);
+        QCOMPARE(s.act(start, "again"), "Measuring again.");
+    }
+
+    void stoppedMeasurement()
+    {
+        SimulatedService s(meter());
+        QCOMPARE(s.act(":action:s:stop:"), "Stopped.");
+        QCOMPARE(s.value(state), QVariant("idle"));
+        s.act(start);
+        s.to(2000);
+        QCOMPARE(s.act(":action:s:stop:"), "Stopped.");
+        QCOMPARE(s.value(state), QVariant("stopped"));
+        s.to(9000);
+        QCOMPARE(s.value(state), QVariant("stopped"));
+        QCOMPARE(s.value(progress), QVariant(40u));
+        QCOMPARE(s.value(level), QVariant(20));
+        // It begins from the beginning.
+        s.act(start);
+        QCOMPARE(s.value(progress), QVariant(0u));
+        QCOMPARE(s.value(level), QVariant(0));
+        s.to(13'999);
+        QVERIFY(s.value(state) != QVariant(" done"));
+        s.to(14'000);
+        QCOMPARE(s.value(state), QVariant(" done"));
+    }
+
+    void seeds()
+    {
+        const QStringList first = outcomes(1000, "1");
+        QCOMPARE(outcomes(1000, "1"), first);
+        QVERIFY(outcomes(1000, "2") != first);
+        const int failures = first.filter("failed").size();
+        QVERIFY2(failures > 70 && failures < 130, qPrintable(QString::number(failures)));
+        QVERIFY(QSet<QString>(first.cbegin(), first.cend()).size() > 800);
+    }
+
+    /// A run that fails ends early, says so to everybody, and has no results.
+    void failedMeasurement()
+    {
+        SimulatedService s(meter(R"("fail": "No light.", "failed": {":result:s:state:": "failed"},)"));
+        QStringList errors;
+        connect(s.client, &KIVClientInterface::SigError, this, [&](const QString& text) { errors += text; });
+        QCOMPARE(s.act(start, "x"), "Measuring x.");
+        s.to(4999);
+        QCOMPARE(errors, QStringList {"No light."});
+        QCOMPARE(s.value(state), QVariant("failed"));
+        QVERIFY(s.value(progress).toUInt() < 100);
+        QVERIFY(!s.value(":result:s:loss:").isValid());
+    }
+
+    /// An action that is done at once fails in its answer, in its share of attempts.
+    void failedAttempts()
+    {
+        SimulatedService s(service(R"({"id": ":result:s:n:", "type": "int", "value": 0},
+            {"id": ":action:s:zero:", "type": "action", "does": {"set": {":result:s:n:": "%1"}, "fail": "Busy.", "fails": 0.1}})"));
+        int failures = 0;
+        for (int i = 1; i <= 1000; ++i) {
+            const bool isFailing = s.act(":action:s:zero:", QString::number(i)) == "!Busy.";
+            failures += int(isFailing);
+            QCOMPARE(s.value(":result:s:n:").toInt() == i, !isFailing);
+        }
+        QVERIFY2(failures > 70 && failures < 130, qPrintable(QString::number(failures)));
+        QVERIFY(s.act(":action:s:zero:", "x").startsWith("!"));
+    }
+
+    void judgedWhoeverSetsIt()
+    {
+        SimulatedService s(service(R"(
+            {"id": ":config:s:gain:", "type": "int", "value": 5, "judged": {"passing": {"to": 5}}, "ready": {"to": 10}},
+            {"id": ":action:s:set:", "type": "action", "does": {"set": {":config:s:gain:": "%1"}}})",
+                R"([{"after": 1000, "for": 1000, "ready": false}, {"after": 3000, "for": 1000, "vanish": true}])"));
+        const auto seen = [&s] {
+            const KIVClientItem* gain = s.item(":config:s:gain:");
+            return qMakePair(gain->getQualityCode(), gain->isReady());
+        };
+        QCOMPARE(seen(), qMakePair(int(KIVClientItem::QualityPassing), true));
+        QVERIFY(s.client->setItem(":config:s:gain:", 6));
+        QCOMPARE(seen(), qMakePair(int(KIVClientItem::QualityFailing), true));
+        s.act(":action:s:set:", "11");
+        QCOMPARE(seen(), qMakePair(int(KIVClientItem::QualityFailing), false));
+        // Kept from being ready whatever its value, and free again.
+        s.to(1000);
+        s.backend.service("s")->setValue(":config:s:gain:", 4);
+        QCOMPARE(seen(), qMakePair(int(KIVClientItem::QualityPassing), false));
+        s.to(2000);
+        QCOMPARE(seen(), qMakePair(int(KIVClientItem::QualityPassing), true));
+        // What changed while the service was away is judged when it returns, and after that as before.
+        s.to(3000);
+        s.backend.service("s")->setValue(":config:s:gain:", 9);
+        s.to(4000);
+        QCOMPARE(seen(), qMakePair(int(KIVClientItem::QualityFailing), true));
+        SignalLog log(s.item(":config:s:gain:"));
+        s.backend.service("s")->setValue(":config:s:gain:", 3);
+        QCOMPARE(log.take().count("qualityChanged"), 1);
+    }
+
+    void refusingAndSlow()
+    {
+        SimulatedService s(service(R"(
+            {"id": ":config:s:a:", "type": "int", "value": 1, "refuse": "Sealed."}, {"id": ":config:s:b:", "type": "int", "value": 1},
+            {"id": ":config:s:c:", "type": "int", "value": 1}, {"id": ":action:s:d:", "type": "action", "does": {"reply": "Done."}})",
+                R"([{"after": 1000, "for": 1000, "refuse": "Locked.", "items": [":config:s:a:", ":config:s:b", ":action:"]},
+                    {"after": 1500, "for": 1000, "refuse": "Hot.", "items": [":config:s:b"]},
+                    {"after": 1000, "for": 2000, "slow": 40}, {"after": 1500, "for": 500, "slow": 90}])"));
+        const auto answers = [&s] {
+            QStringList answers;
+            for (const char* id : {":config:s:a:", ":config:s:b:", ":config:s:c:"})
+                answers += s.client->setItem(id, 2) ? QString("ok") : s.client->getLastError();
+            answers += s.act(":action:s:d:");
+            return answers + QStringList {QString::number(ServiceData::of(*s.backend.service("s")).delayMs)};
+        };
+        const QStringList usual {"Sealed.", "ok", "ok", "Done.", "0"};
+        QCOMPARE(answers(), usual);
+        s.to(1000);
+        QCOMPARE(answers(), (QStringList {"Locked.", "Locked.", "ok", "!Locked.", "40"}));
+        s.to(1600);
+        QCOMPARE(answers(), (QStringList {"Locked.", "Locked.", "ok", "!Locked.", "90"}));
+        s.to(2000);
+        QCOMPARE(answers(), (QStringList {"Sealed.", "Hot.", "ok", "Done.", "40"}));
+        s.to(3000);
+        QCOMPARE(answers(), usual);
+        QCOMPARE(s.driver->due(), never);
+    }
+
+    /// A service that vanishes ends what it does, and what it published goes on when it returns.
+    void vanishing()
+    {
+        QByteArray json = meter();
+        json.replace(R"({"service": "s",)", R"({"service": "s", "happens": [{"after": 2000, "for": 3000, "every": 20000, "vanish": true},
+            {"after": 9000, "every": 1000, "error": "Hot.", "set": {":result:s:events:": 7}}],)");
+        SimulatedService s(json);
+        SignalLog log(s.client);
+        s.act(start);
+        s.to(2000);
+        QVERIFY(!s.client->isValid());
+        QCOMPARE(log.take(), QStringList {"itemsChanged"});
+        s.to(4999);
+        QVERIFY(!s.client->isValid());
+        s.to(5000);
+        QVERIFY(s.client->isValid());
+        QCOMPARE(log.take(), QStringList {"itemsChanged"});
+        QCOMPARE(s.value(state), QVariant("stopped"));
+        s.to(8999);
+        QCOMPARE(log.take(), QStringList());
+        s.to(9000);
+        s.to(10'000);
+        QCOMPARE(log.take(), (QStringList {"SigError Hot.", "SigError Hot."}));
+        QCOMPARE(s.value(":result:s:events:"), QVariant(7));
+        s.to(22'000);
+        QVERIFY(!s.client->isValid());
+    }
+
+    void stillness()
+    {
+        SimulatedService s(service(item("n", counting) + R"(, {"id": ":result:s:m:", "type": "int", "value": 3, "judged": {"passing": {"to": 2}}})",
+                                   R"([{"after": 10, "vanish": true}])"), true);
+        QCOMPARE(s.driver->due(), never);
+        QVERIFY(!s.value(":result:s:n:").isValid());
+        QCOMPARE(s.item(":result:s:m:")->getQualityCode(), int(KIVClientItem::QualityFailing));
+        s.to(1000);
+        QVERIFY(s.client->isValid());
+
+        SimulatedService running(meter(), true);
+        running.act(start);
+        running.to(2500);
+        QCOMPARE(running.value(level), QVariant(25));
+        running.to(5000);
+        QCOMPARE(running.value(state), QVariant(" done"));
+    }
+
+    /// Values in between that nobody could have seen are left out, and a value is announced once.
+    void announcedOnce()
+    {
+        SimulatedService s(service(item("slow", R"({"as": "ramp", "from": 0, "to": 10, "period": 100000, "every": 1000})") + ","
+                + item("quick", counting)));
+        SignalLog slow(s.item(":result:s:slow:"));
+        SignalLog quick(s.item(":result:s:quick:"));
+        const auto counts = [&] { return qMakePair(slow.take().size(), quick.take().size()); };
+        QCOMPARE(s.driver->due(), qint64(100));
+        s.to(99);
+        QCOMPARE(counts(), qMakePair(0, 0));
+        s.to(100);
+        s.to(100);
+        QCOMPARE(counts(), qMakePair(0, 1));
+        s.to(2050);
+        QCOMPARE(counts(), qMakePair(0, 1));
+        QCOMPARE(s.value(":result:s:quick:"), QVariant(20));
+        QCOMPARE(s.driver->due(), qint64(2100));
+        s.to(10'000);
+        QCOMPARE(counts(), qMakePair(1, 1));
+        QCOMPARE(s.value(":result:s:slow:"), QVariant(1));
+    }
+
+    /// What a slot does is the newest: later values are not replaced by older ones, and what is gone stays alone.
+    void slotsThatGoOn()
+    {
+        SimulatedService s(service(item("a", counting) + "," + item("b", counting)));
+        auto nested = connect(s.item(":result:s:a:"), &KIVClientItem::valueChanged, this, [&] {
+            if (s.now < 5000)
+                s.to(5000);
+        });
+        s.to(100);
+        QCOMPARE(s.value(":result:s:a:"), QVariant(50));
+        QCOMPARE(s.value(":result:s:b:"), QVariant(50));
+        disconnect(nested);
+        connect(s.item(":result:s:a:"), &KIVClientItem::valueChanged, this, [&] { s.backend.withdraw("s"); });
+        s.to(6000);
+        QVERIFY(!s.backend.service("s"));
+        s.to(7000);
+    }
+    void slotsThatEndTheService_data()
+    {
+        addColumns<QString, int>();
+        QTest::newRow("progress") << progress << 1000;
+        QTest::newRow("at its end") << state << 5000;
+        QTest::newRow("result") << ":result:s:loss:" << 5000;
+        QTest::newRow("what moves meanwhile") << level << 1000;
+        QTest::newRow("what an event sets") << ":result:s:events:" << 4000;
+    }
+    void slotsThatEndTheService()
+    {
+        const auto [id, time] = currentRow<QString, int>();
+        QByteArray json = meter();
+        json.replace(R"({"service": "s",)", R"({"service": "s", "happens":
+            [{"after": 4000, "set": {":result:s:events:": 9}, "error": "x", "vanish": true, "ready": false}],)");
+        SimulatedService s(time == 4000 ? json : meter());
+        s.act(start, "x");
+        connect(s.item(id), &KIVClientItem::valueChanged, this, [&] { s.backend.withdraw("s"); });
+        s.to(time);
+        QVERIFY(!s.backend.service("s"));
+        s.to(20'000);
+    }
+
+    void files_data()
+    {
+        addColumns<QByteArray, QByteArray, QString, int>();
+        const QByteArray column = R"(, "column": "level")";
+        QTest::newRow("plain") << QByteArray("time,level\n0,1\n1,2\n2,3\n") << column << "1 2 3 1" << 0;
+        QTest::newRow("other line ends") << QByteArray("time\tlevel\r\n0\t1\r\n\r\n1\t2\r\n") << column << "1 2 1 2" << 0;
+        QTest::newRow("marked and quoted") << QByteArray("\xef\xbb\xbf\"level\";\"a;b\"\n\"4\";x\n \"5\" ;\n") << column << "4 5 4 5" << 0;
+        QTest::newRow("first column") << QByteArray("any\n7\n8") << QByteArray() << "7 8 7 8" << 0;
+        QTest::newRow("broken lines") << QByteArray("time,level\n0,1\nx\n1,none\n2,1.5\n3,inf\n4,1e300\n5,2\n") << column << "1 2 1 2" << 1;
+        QTest::newRow("held") << QByteArray("level\n1\n2\n") << QByteArray(R"(, "then": "stay")") << "1 2 2 2" << 0;
+        QTest::newRow("no such column") << QByteArray("time,levels\n0,1\n") << column << "- - - -" << 1;
+        QTest::newRow("no line") << QByteArray("level\n") << column << "- - - -" << 1;
+        QTest::newRow("empty") << QByteArray() << column << "- - - -" << 1;
+        QTest::newRow("nothing but separators") << QByteArray(2'000'000, ',') << column << "- - - -" << 1;
+        QTest::newRow("too large") << QByteArray("level\n") + QByteArray(int(largestCsvFile), '1') << column << "- - - -" << 1;
+    }
+    /// Of a file that is wrong the rest is used, in one sentence that names the file.
+    void files()
+    {
+        const auto [contents, more, expected, noteCount] = currentRow<QByteArray, QByteArray, QString, int>();
+        QTemporaryDir folder;
+        const QString path = writeFile(folder.filePath("values.csv"), contents);
+        SimulatedService s(service(item("n", "{\"as\": \"file\", \"every\": 100, \"file\": \"" + path.toUtf8() + '"' + more + '}')));
+        QStringList values;
+        for (const int time : {0, 100, 200, 300}) {
+            s.to(time);
+            values += s.value(":result:s:n:").isValid() ? s.value(":result:s:n:").toString() : QString("-");
+        }
+        QCOMPARE(values.join(' '), expected);
+        QCOMPARE(s.notes.size(), noteCount);
+        QCOMPARE(s.problem, s.notes.join('\n'));
+        for (const QString& note : qAsConst(s.notes))
+            QVERIFY2(note.startsWith(path + ": "), qPrintable(note));
+        if (contents.contains("none"))
+            QVERIFY2(s.notes.first().contains(": 5 of 7 "), qPrintable(s.notes.first()));
+    }
+    void filesThatAreNone()
+    {
+        QTemporaryDir folder;
+        QCOMPARE(::mkfifo(qPrintable(folder.filePath("pipe")), 0600), 0);
+        for (const QString& path : {folder.filePath("missing.csv"), folder.filePath("pipe"), folder.path()}) {
+            const CsvColumn column = readCsvColumn(path, "level", false);
+            QVERIFY2(column.problem.startsWith(path + ": "), qPrintable(column.problem));
+            QVERIFY(column.values.isEmpty());
+        }
+        writeFile(folder.filePath("texts.csv"), "state,n\nidle,1\n\"very \"\"hot\"\"\",2\n,3\n");
+        QCOMPARE(readCsvColumn(folder.filePath("texts.csv"), "state", true).values, (QVariantList {"idle", "very \"hot\"", ""}));
+    }
+
+    /// By the real time, on the event loop, without a trace in the state files.
+    void onTheEventLoop()
+    {
+        QTemporaryDir folder;
+        const QString path = writeFile(folder.filePath("s.service.json"),
+                service(item("n", R"({"as": "steps", "every": 10, "values": [1, 2, 3], "then": "stay"})")));
+        for (const Simulated what : {Simulated::All, Simulated::Actions}) {
+            EmbeddedBackend backend;
+            backend.setStateFolder(folder.filePath("state"));
+            simulate(backend, what);
+            QVERIFY(backend.loadFile(path));
+            KIVClientInterface* client = KIVClientInterface::getSessionBusClient("s");
+            if (what == Simulated::All)
+                QTRY_COMPARE(client->getItem(":result:s:n:")->getValue(), QVariant(3));
+            else
+                QCOMPARE(client->getItem(":result:s:n:")->getValue(), QVariant());
+        }
+        QVERIFY(!QDir(folder.filePath("state")).exists());
+    }
+};
+
+QTEST_GUILESS_MAIN(SimulationTest)
+#include "tst_simulation.moc"
