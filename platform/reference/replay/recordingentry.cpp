@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
 
@@ -25,52 +26,56 @@ class NameCheck
 {
 public:
     explicit NameCheck(const QByteArray& line)
-        : m_line(line)
+        : m_at(line.constData())
+        , m_end(line.constData() + line.size())
     {
     }
 
     bool findsRepeated()
     {
-        for (m_at = 0; m_at < m_line.size(); ++m_at) {
-            const char c = m_line.at(m_at);
-            if (c == '{' || c == '[') {
+        for (; m_at < m_end; ++m_at) {
+            if (*m_at == '{' || *m_at == '[')
                 m_names.emplace_back();
-            } else if ((c == '}' || c == ']') && !m_names.empty()) {
+            else if ((*m_at == '}' || *m_at == ']') && !m_names.empty())
                 m_names.pop_back();
-            } else if (c == '"' && isRepeated(text())) {
+            else if (*m_at == '"' && isRepeated(text()))
                 return true;
-            }
         }
         return false;
     }
 
 private:
-    /// The text that begins here, as it is written.
+    /// The text that begins here, as it is written; goes to its end.
     QByteArray text()
     {
-        const int begin = ++m_at;
-        while (m_at < m_line.size() && m_line.at(m_at) != '"')
-            m_at += m_line.at(m_at) == '\\' ? 2 : 1;
-        return QByteArray::fromRawData(m_line.constData() + begin, std::min(m_at, m_line.size()) - begin);
+        const char* const begin = ++m_at;
+        while (m_at < m_end && *m_at != '"')
+            m_at += *m_at == '\\' ? 2 : 1;
+        m_at = std::min(m_at, m_end);
+        return QByteArray::fromRawData(begin, int(m_at - begin));
     }
 
     bool isRepeated(const QByteArray& name)
     {
-        int next = m_at + 1;
-        while (next < m_line.size() && (m_line.at(next) == ' ' || m_line.at(next) == '\t'))
+        const char* next = m_at < m_end ? m_at + 1 : m_end;
+        while (next < m_end && (*next == ' ' || *next == '\t'))
             ++next;
-        if (next >= m_line.size() || m_line.at(next) != ':' || m_names.empty())
+        if (next == m_end || *next != ':' || m_names.empty())
             return false;
-        // An escape is another spelling of a name; no name of ours needs one, except of members, which are few.
-        const QByteArray plain = name.contains('\\') ? QJsonDocument::fromJson("[\"" + name + "\"]")[0].toString().toUtf8()
-                                                     : name;
-        const int before = m_names.back().size();
-        m_names.back().insert(plain);
-        return m_names.back().size() == before;
+        QSet<QByteArray>& names = m_names.back();
+        const int before = names.size();
+        names.insert(name.contains('\\') ? withoutEscapes(name) : name);
+        return names.size() == before;
     }
 
-    const QByteArray& m_line;
-    int m_at = 0;
+    /// A name can be written in several ways.
+    static QByteArray withoutEscapes(const QByteArray& name)
+    {
+        return QJsonDocument::fromJson("[\"" + name + "\"]")[0].toString().toUtf8();
+    }
+
+    const char* m_at;
+    const char* m_end;
     std::vector<QSet<QByteArray>> m_names;
 };
 
@@ -122,9 +127,21 @@ bool isReadable(const QByteArray& line)
     return containers <= mostContainers && line.count(',') <= mostValues;
 }
 
-qint64 memoryOf(const QByteArray& line)
+qint64 memoryOf(const QJsonValue& value)
 {
-    return line.size() + qint64(memoryPerValue) * line.count(',');
+    qint64 memory = memoryPerValue;
+    if (value.isString()) {
+        memory += qint64(sizeof(QChar)) * value.toString().size();
+    } else if (value.isArray()) {
+        const QJsonArray elements = value.toArray();
+        for (const QJsonValue& element : elements)
+            memory += memoryOf(element);
+    } else if (value.isObject()) {
+        const QJsonObject members = value.toObject();
+        for (auto it = members.begin(); it != members.end(); ++it)
+            memory += memoryOf(it.value()) + qint64(sizeof(QChar)) * it.key().size();
+    }
+    return memory;
 }
 
 std::optional<Entry> readEntry(const QByteArray& line)
@@ -142,7 +159,6 @@ std::optional<Entry> readEntry(const QByteArray& line)
     if (!kind || !isNamed || !readTime(entry.fields.value(QLatin1String("t")), &entry.time))
         return std::nullopt;
     entry.kind = *kind;
-    entry.memory = memoryOf(line);
     return entry;
 }
 

@@ -27,8 +27,8 @@ QByteArray headerLine();
 /// Whether a line keeps the limits.
 bool isReadable(const QByteArray& line);
 
-/// About how many bytes of memory hold what a line says.
-qint64 memoryOf(const QByteArray& line);
+/// About how many bytes of memory hold a value.
+qint64 memoryOf(const QJsonValue& value);
 
 /// What a line says.
 struct Entry
@@ -58,8 +58,6 @@ struct Entry
     QString id;
     /// All members of the line.
     QJsonObject fields;
-    /// See memoryOf().
-    qint64 memory = 0;
 };
 
 /// Reads a line; nothing for one that is not of a recording.

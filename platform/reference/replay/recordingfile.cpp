@@ -159,7 +159,14 @@ void RecordingFile::work()
 
 bool RecordingFile::writePiece(const QByteArray& lines, bool isLast)
 {
-    return write(m_deflation ? m_deflation->compress(lines, isLast) : lines);
+    if (!m_deflation)
+        return write(lines);
+    // What fails is lost from its beginning, so it is not to be long.
+    for (int begin = 0; begin < lines.size(); begin += fullPiece) {
+        if (!write(m_deflation->compress(lines.mid(begin, fullPiece), false)))
+            return false;
+    }
+    return !isLast || write(m_deflation->compress(QByteArray(), true));
 }
 
 bool RecordingFile::write(const QByteArray& bytes)

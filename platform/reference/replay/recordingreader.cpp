@@ -10,6 +10,8 @@ namespace {
 
 /// Bytes of broken lines in a row after which nothing sound is expected.
 constexpr qint64 hopelessBytes = 2 * qint64(longestLine);
+/// What every entry has, and no less.
+constexpr int shortestLine = int(sizeof(R"({"t":0,"service":"a"})"));
 
 } // namespace
 
@@ -92,8 +94,13 @@ QStringList RecordingReader::findServices(int most)
     rewind();
     QStringList services;
     QByteArray line;
-    while (services.size() < most && m_lines.next(&line)) {
-        // Lines that begin or tell a service are few; reading all the others would take as long as playing them.
+    while (services.size() < most && m_brokenBytes < hopelessBytes && m_lines.next(&line)) {
+        // Lines that begin a service are few; reading all the others would take as long as playing them.
+        if (!line.startsWith('{') || line.size() < shortestLine) {
+            count(line);
+            continue;
+        }
+        m_brokenBytes = 0;
         if (!line.contains("\"snapshot\""))
             continue;
         const std::optional<Entry> entry = readEntry(line);

@@ -7,6 +7,7 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
 #include <utility>
 
 namespace kiv::replay {
@@ -142,14 +143,18 @@ void ReplayedService::reportError(const Entry& entry)
         m_service->reportError(textOf(entry.fields, "error"));
 }
 
-bool ReplayedService::makeRoom(qint64 more) const
+/// Counts that an item takes so much memory now. Returns false where there is not enough.
+bool ReplayedService::makeRoom(const Item& now, Item* held) const
 {
-    if (m_holdings->bytes + more <= mostBytes) {
-        m_holdings->bytes += more;
-        return true;
+    const qint64 more = now.described + now.valued - held->described - held->valued;
+    if (m_holdings->bytes + more > mostBytes) {
+        ++m_troubles->excess;
+        return false;
     }
-    ++m_troubles->excess;
-    return false;
+    m_holdings->bytes += more;
+    held->described = now.described;
+    held->valued = now.valued;
+    return true;
 }
 
 void ReplayedService::putItem(const Entry& entry)
@@ -158,16 +163,14 @@ void ReplayedService::putItem(const Entry& entry)
     Item item;
     item.nature = natureOf(description);
     item.attributes = description.attributes;
-    item.described = entry.memory;
+    item.valued = memoryOf(fieldOf(entry.fields, "value"));
+    item.described = memoryOf(entry.fields) - item.valued;
     if (m_isInSnapshot)
         m_inSnapshot += entry.id;
     const auto present = m_items.find(entry.id);
     if (present != m_items.end() && present->nature == item.nature) {
-        if (makeRoom(item.described - present->described - present->valued)) {
-            present->described = item.described;
-            present->valued = 0;
+        if (makeRoom(item, &*present))
             update(description, &*present);
-        }
         return;
     }
     forget(entry.id);
@@ -180,10 +183,11 @@ void ReplayedService::addItem(const ItemDescription& description, const Item& it
         ++m_troubles->excess;
         return;
     }
-    if (!makeRoom(item.described))
+    Item none;
+    if (!makeRoom(item, &none))
         return;
     if (!m_service || !m_service->addItem(description)) {
-        m_holdings->bytes -= item.described;
+        m_holdings->bytes -= item.described + item.valued;
         ++m_troubles->unfit;
         return;
     }
@@ -251,11 +255,12 @@ bool ReplayedService::changeItem(const Entry& entry, quint64 turn)
     if (turn != 0 && item->turn == turn)
         return false;
     item->turn = turn;
-    if (entry.fields.contains(QLatin1String("value")) || entry.fields.contains(QLatin1String("choices"))) {
-        if (!makeRoom(entry.memory - item->valued))
-            return true;
-        item->valued = entry.memory;
-    }
+    Item now = *item;
+    if (entry.fields.contains(QLatin1String("value")))
+        now.valued = memoryOf(fieldOf(entry.fields, "value"));
+    now.described = std::max(now.described, memoryOf(fieldOf(entry.fields, "choices")));
+    if (!makeRoom(now, &*item))
+        return true;
     m_troubles->unfit += apply(entry.id, entry.fields) ? 0 : 1;
     return true;
 }

@@ -60,13 +60,13 @@ private:
         /// What cannot be changed while the item lives.
         QByteArray nature;
         QVariantMap attributes;
-        /// About how much memory the description takes, and the last value.
+        /// About how much memory the description takes without the value, and the value.
         qint64 described = 0;
         qint64 valued = 0;
         quint64 turn = 0;
     };
 
-    bool makeRoom(qint64 more) const;
+    bool makeRoom(const Item& now, Item* held) const;
     void addItem(const embedded::ItemDescription& description, const Item& item);
     void forget(const QString& id);
     void update(const embedded::ItemDescription& description, Item* item);
