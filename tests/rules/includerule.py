@@ -22,7 +22,7 @@ bus         platform/reference/bus          base contract formatters embedded
 
 core        lib/ui_utils/core               base
 languages   lib/ui_utils/languages          base core
-service     lib/ui_utils/service            base contract core
+service     lib/ui_utils/service            base contract core languages
 instrument  lib/ui_utils/instrument         base contract core
 document    lib/ui_utils/document           base contract core
 local       lib/ui_utils/local              base contract core service
