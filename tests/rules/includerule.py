@@ -24,7 +24,7 @@ replay      platform/reference/replay       base contract embedded
 
 core        lib/ui_utils/core               base
 languages   lib/ui_utils/languages          base core
-service     lib/ui_utils/service            base contract core
+service     lib/ui_utils/service            base contract core languages
 instrument  lib/ui_utils/instrument         base contract core
 document    lib/ui_utils/document           base contract core
 local       lib/ui_utils/local              base contract core service
