@@ -27,7 +27,7 @@ QByteArray meter(const QByteArray& fails = {}, const QByteArray& seed = "1")
         {"id": ":action:s:start:", "type": "action", "label": "Start",
           "does": {"set": {":result:s:state:": "measuring %1"}, "reply": "Measuring %1.", "runs": 5000,
             "progress": ":result:s:progress:",)" + fails + R"(
-            "then": {":result:s:state:": "%1 done", ":result:s:loss:": {"from": 3.5, "to": 4.5}, ":result:s:events:": {"from": 1, "to": 3}},
+            "done": {":result:s:state:": "%1 done", ":result:s:loss:": {"from": 3.5, "to": 4.5}, ":result:s:events:": {"from": 1, "to": 3}},
             "stopped": {":result:s:state:": "stopped"}}},
         {"id": ":action:s:stop:", "type": "action",
           "does": {"stops": ":action:s:start:", "reply": "Stopped."}}]})";
@@ -46,7 +46,8 @@ QStringList outcomes(int count, const QByteArray& seed)
     for (int i = 0; i < count; ++i) {
         service.act(start, QString::number(i));
         service.to(service.now + 5000);
-        outcomes += service.value(state).toString() + ' ' + service.value(":result:s:loss:").toString();
+        outcomes += service.value(state).toString() + ' ' + service.value(":result:s:loss:").toString() + ' '
+                + service.value(":result:s:events:").toString();
     }
     return outcomes;
 }
@@ -56,9 +57,9 @@ QByteArray item(const QByteArray& name, const QByteArray& moves)
     return R"({"id": ":result:s:)" + name + R"(:", "type": "int", "moves": )" + moves + "}";
 }
 
-QByteArray service(const QByteArray& items, const QByteArray& happens = "[]")
+QByteArray service(const QByteArray& items, const QByteArray& happensAndMore = "[]")
 {
-    return R"({"service": "s", "items": [)" + items + R"(], "happens": )" + happens + "}";
+    return R"({"service": "s", "items": [)" + items + R"(], "happens": )" + happensAndMore + "}";
 }
 
 const QByteArray counting = R"({"as": "ramp", "from": 0, "to": 1000, "period": 100000, "every": 100})";
@@ -153,6 +154,8 @@ private Q_SLOTS:
         QVERIFY(outcomes(1000, "2") != first);
         const int failures = first.filter("failed").size();
         QVERIFY2(failures > 70 && failures < 130, qPrintable(QString::number(failures)));
+        for (const char* events : {" 1", " 2", " 3"})
+            QVERIFY(QString(first.join('\n') + '\n').contains(events + QString('\n')));
         QVERIFY(QSet<QString>(first.cbegin(), first.cend()).size() > 800);
     }
 
@@ -223,7 +226,7 @@ private Q_SLOTS:
             {"id": ":config:s:c:", "type": "int", "value": 1}, {"id": ":action:s:d:", "type": "action", "does": {"reply": "Done."}})",
                 R"([{"after": 1000, "for": 1000, "refuse": "Locked.", "items": [":config:s:a:", ":config:s:b", ":action:"]},
                     {"after": 1500, "for": 1000, "refuse": "Hot.", "items": [":config:s:b"]},
-                    {"after": 1000, "for": 2000, "slow": 40}, {"after": 1500, "for": 500, "slow": 90}])"));
+                    {"after": 1500, "for": 500, "slow": 90}, {"after": 1000, "for": 2000, "slow": 40}], "delay": 3)"));
         const auto answers = [&s] {
             QStringList answers;
             for (const char* id : {":config:s:a:", ":config:s:b:", ":config:s:c:"})
@@ -231,7 +234,7 @@ private Q_SLOTS:
             answers += s.act(":action:s:d:");
             return answers + QStringList {QString::number(ServiceData::of(*s.backend.service("s")).delayMs)};
         };
-        const QStringList usual {"Sealed.", "ok", "ok", "Done.", "0"};
+        const QStringList usual {"Sealed.", "ok", "ok", "Done.", "3"};
         QCOMPARE(answers(), usual);
         s.to(1000);
         QCOMPARE(answers(), (QStringList {"Locked.", "Locked.", "ok", "!Locked.", "40"}));

@@ -8,7 +8,7 @@ namespace kiv::simulation {
 
 Driver::Driver(embedded::EmbeddedService* service, const Plan& plan, const Clock& clock)
     : m_service(service)
-    , m_plan(plan)
+    , m_judgements(plan.judgements)
     , m_clock(clock)
     , m_movements(service, plan.motions, plan.seed)
     , m_actions(service, plan)
@@ -26,8 +26,8 @@ Driver::Driver(embedded::EmbeddedService* service, const Plan& plan, const Clock
 void Driver::begin(bool isStill)
 {
     m_isStill = isStill;
-    if (!m_plan.judgements.isEmpty()) {
-        m_judges = new Judges(m_service, m_plan.judgements);
+    if (!m_judgements.isEmpty()) {
+        m_judges = new Judges(m_service, m_judgements);
         m_judges->isHeldBack = [self = weak_from_this()](const QString& id) {
             const auto driver = self.lock();
             return driver && driver->m_happenings.isHeldBack(id);
