@@ -17,9 +17,8 @@ Driver::Driver(embedded::EmbeddedService* service, const Plan& plan, const Clock
     m_actions.started = [this](const QString& id, qint64 now) { m_movements.startAction(id, now); };
     m_actions.ended = [this](const QString& id) { m_movements.endAction(id); };
     m_happenings.vanishing = [this] { m_actions.stopAll(); };
-    m_happenings.released = [this](const QString& id) {
-        if (m_judges)
-            m_judges->judge(id);
+    m_happenings.readiness = [this](const QString& id, bool isReadyInFile) {
+        return m_judges ? m_judges->isReadyByValue(id, isReadyInFile) : isReadyInFile;
     };
 }
 
@@ -84,7 +83,7 @@ void Driver::advance()
         else if (happens <= m_movements.due())
             m_happenings.advance(happens);
         else
-            m_movements.advance(std::min({now, acts, happens}));
+            m_movements.advance(std::min(now, std::min(acts, happens) - 1));
     }
 }
 
