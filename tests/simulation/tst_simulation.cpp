@@ -386,7 +386,7 @@ private Q_SLOTS:
         QTest::newRow("no line") << QByteArray("level\n") << column << "- - - -" << 1;
         QTest::newRow("empty") << QByteArray() << column << "- - - -" << 1;
         QTest::newRow("nothing but separators") << QByteArray(2'000'000, ',') << column << "- - - -" << 1;
-        QTest::newRow("too large") << QByteArray("level\n") + QByteArray(int(largestCsvFile), '1') << column << "- - - -" << 1;
+        QTest::newRow("too large") << QByteArray("level\n") + QByteArray("1\n").repeated(int(largestCsvFile) / 2) << column << "- - - -" << 1;
     }
     /// Of a file that is wrong the rest is used, in one sentence that names the file.
     void files()
@@ -441,6 +441,30 @@ private Q_SLOTS:
                 QCOMPARE(client->getItem(":result:s:n:")->getValue(), QVariant());
         }
         QVERIFY(!QDir(folder.filePath("state")).exists());
+    }
+
+    /// A slot that runs an event loop stops nobody else, and when all is done nothing wakes the process any more.
+    void nestedLoopAndRest()
+    {
+        QTemporaryDir folder;
+        EmbeddedBackend backend;
+        simulate(backend, Simulated::Actions);
+        QVERIFY(backend.loadFile(writeFile(folder.filePath("s.service.json"), meter().replace("5000", "500"))));
+        KIVClientInterface* client = KIVClientInterface::getSessionBusClient("s");
+        const auto reaches = [client](const QString& id, const QVariant& value) {
+            return QTest::qWaitFor([&] { return client->getItem(id)->getValue() == value; }, 30'000);
+        };
+        bool isNested = false;
+        connect(client->getItem(level), &KIVClientItem::valueChanged, this, [&] {
+            if (client->getItem(level)->getValue() == 1)
+                isNested = reaches(state, " done");
+        });
+        const auto* timer = backend.service("s")->findChild<QTimer*>();
+        QVERIFY(timer && !timer->isActive());
+        QVERIFY(client->invokeAction(start));
+        QVERIFY(timer->isActive());
+        QVERIFY(reaches(state, " done"));
+        QTRY_VERIFY(isNested && !timer->isActive());
     }
 };
 
