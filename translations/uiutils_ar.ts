@@ -3223,6 +3223,10 @@ Folder: %2</source>
         <source>there is no action %1 that &quot;runs&quot;</source>
         <translation>لا يوجد إجراء %1 له &quot;runs&quot;</translation>
     </message>
+    <message>
+        <source>nothing happens: &quot;slow&quot;, &quot;vanish&quot;, &quot;refuse&quot;, &quot;ready&quot;, &quot;error&quot; or &quot;set&quot; is missing</source>
+        <translation>لا يحدث شيء: ينقص &quot;slow&quot; أو &quot;vanish&quot; أو &quot;refuse&quot; أو &quot;ready&quot; أو &quot;error&quot; أو &quot;set&quot;</translation>
+    </message>
 </context>
 <context>
     <name>SwitchEntry</name>

@@ -3203,6 +3203,10 @@ Ordner: %2</translation>
         <source>there is no action %1 that &quot;runs&quot;</source>
         <translation>es gibt keine Aktion %1 mit „runs“</translation>
     </message>
+    <message>
+        <source>nothing happens: &quot;slow&quot;, &quot;vanish&quot;, &quot;refuse&quot;, &quot;ready&quot;, &quot;error&quot; or &quot;set&quot; is missing</source>
+        <translation>es geschieht nichts: „slow“, „vanish“, „refuse“, „ready“, „error“ oder „set“ fehlt</translation>
+    </message>
 </context>
 <context>
     <name>SwitchEntry</name>

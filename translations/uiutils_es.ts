@@ -3203,6 +3203,10 @@ Carpeta: %2</translation>
         <source>there is no action %1 that &quot;runs&quot;</source>
         <translation>no hay ninguna acción %1 con «runs»</translation>
     </message>
+    <message>
+        <source>nothing happens: &quot;slow&quot;, &quot;vanish&quot;, &quot;refuse&quot;, &quot;ready&quot;, &quot;error&quot; or &quot;set&quot; is missing</source>
+        <translation>no ocurre nada: falta «slow», «vanish», «refuse», «ready», «error» o «set»</translation>
+    </message>
 </context>
 <context>
     <name>SwitchEntry</name>

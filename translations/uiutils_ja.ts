@@ -3198,6 +3198,10 @@ Folder: %2</source>
         <source>there is no action %1 that &quot;runs&quot;</source>
         <translation>&quot;runs&quot; を持つアクション %1 がありません</translation>
     </message>
+    <message>
+        <source>nothing happens: &quot;slow&quot;, &quot;vanish&quot;, &quot;refuse&quot;, &quot;ready&quot;, &quot;error&quot; or &quot;set&quot; is missing</source>
+        <translation>何も起こりません: &quot;slow&quot;、&quot;vanish&quot;、&quot;refuse&quot;、&quot;ready&quot;、&quot;error&quot;、&quot;set&quot; のいずれかが必要です</translation>
+    </message>
 </context>
 <context>
     <name>SwitchEntry</name>

@@ -3203,6 +3203,10 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>there is no action %1 that "runs"</source>
         <translation>[ţĥéŕé îš ñö åçţîöñ %1 ţĥåţ "ŕûñš" ~ ~ ~ ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>nothing happens: "slow", "vanish", "refuse", "ready", "error" or "set" is missing</source>
+        <translation>[ñöţĥîñĝ ĥåppéñš: "šļöŵ", "våñîšĥ", "ŕéfûšé", "ŕéåđý", "éŕŕöŕ" öŕ "šéţ" îš mîššîñĝ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>SwitchEntry</name>

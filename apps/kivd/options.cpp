@@ -12,10 +12,11 @@ Options readOptions(const QStringList& arguments)
     const apps::ServiceOptions services(
             QStringLiteral("kivd"), Texts::tr("Store changed settings below <folder> (default: %1)."));
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-            Texts::tr("Publishes the services that service files describe on the session bus, or on the system bus if "
-                      "KIV_BUS is \"system\", until it is ended. Settings that clients change are stored.\n\n"
-                      "Exit status: 0 ended by a signal, 1 failed, 2 wrong command line."));
+    parser.setApplicationDescription(Texts::tr(
+            "Publishes the services that service files describe on the session bus, or on the system bus if "
+            "KIV_BUS is \"system\", until it is ended. Settings that clients change are stored. With KIV_SIMULATION "
+            "\"off\" nothing moves or happens by itself.\n\n"
+            "Exit status: 0 ended by a signal, 1 failed, 2 wrong command line."));
     const QCommandLineOption without(QStringLiteral("without"),
             Texts::tr("Leave the service <name> to another program; may be given more than once."), Texts::tr("name"));
     const QCommandLineOption activation(QStringLiteral("activation-files"),

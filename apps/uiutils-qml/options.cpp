@@ -16,10 +16,11 @@ Options misused(const QString& message)
 
 QString description()
 {
-    return Texts::tr("Shows a QML page with every item of the described services under its name, such as "
-                     "basemgr_cfg_saveLocation, and the services themselves as members of \"services\", such as "
-                     "services.basemgr.\n\n"
-                     "Exit status: 0 done, 1 failed, 2 wrong command line.");
+    return Texts::tr(
+            "Shows a QML page with every item of the described services under its name, such as "
+            "basemgr_cfg_saveLocation, and the services themselves as members of \"services\", such as "
+            "services.basemgr. With KIV_SIMULATION \"off\" nothing in the services moves or happens by itself.\n\n"
+            "Exit status: 0 done, 1 failed, 2 wrong command line.");
 }
 
 QCommandLineOption languageOption()

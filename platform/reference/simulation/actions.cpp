@@ -108,7 +108,7 @@ void SimulatedActions::advance(Entry& entry, qint64 now)
     // A slot that heard of the progress may have stopped it.
     if (!entry.isRunning || !m_service)
         return;
-    end(entry, entry.isFailing ? entry.action.whenFailed : entry.action.atEnd);
+    end(entry, entry.isFailing ? entry.action.whenFailed : entry.action.whenDone);
     if (!error.isEmpty() && m_service)
         m_service->reportError(error);
 }

@@ -14,8 +14,11 @@ namespace {
 
 char separatorOf(const QByteArray& line)
 {
+    bool isQuoted = false;
     for (const char character : line) {
-        if (character == ',' || character == ';' || character == '\t')
+        if (character == '"')
+            isQuoted = !isQuoted;
+        else if (!isQuoted && (character == ',' || character == ';' || character == '\t'))
             return character;
     }
     return ',';

@@ -8,7 +8,7 @@ namespace kiv::simulation {
 
 Driver::Driver(embedded::EmbeddedService* service, const Plan& plan, const Clock& clock)
     : m_service(service)
-    , m_plan(plan)
+    , m_judgements(plan.judgements)
     , m_clock(clock)
     , m_movements(service, plan.motions, plan.seed)
     , m_actions(service, plan)
@@ -17,17 +17,16 @@ Driver::Driver(embedded::EmbeddedService* service, const Plan& plan, const Clock
     m_actions.started = [this](const QString& id, qint64 now) { m_movements.startAction(id, now); };
     m_actions.ended = [this](const QString& id) { m_movements.endAction(id); };
     m_happenings.vanishing = [this] { m_actions.stopAll(); };
-    m_happenings.released = [this](const QString& id) {
-        if (m_judges)
-            m_judges->judge(id);
+    m_happenings.readiness = [this](const QString& id, bool isReadyInFile) {
+        return m_judges ? m_judges->isReadyByValue(id, isReadyInFile) : isReadyInFile;
     };
 }
 
 void Driver::begin(bool isStill)
 {
     m_isStill = isStill;
-    if (!m_plan.judgements.isEmpty()) {
-        m_judges = new Judges(m_service, m_plan.judgements);
+    if (!m_judgements.isEmpty()) {
+        m_judges = new Judges(m_service, m_judgements);
         m_judges->isHeldBack = [self = weak_from_this()](const QString& id) {
             const auto driver = self.lock();
             return driver && driver->m_happenings.isHeldBack(id);
@@ -84,7 +83,7 @@ void Driver::advance()
         else if (happens <= m_movements.due())
             m_happenings.advance(happens);
         else
-            m_movements.advance(std::min({now, acts, happens}));
+            m_movements.advance(std::min(now, std::min(acts, happens) - 1));
     }
 }
 

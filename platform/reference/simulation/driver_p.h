@@ -35,7 +35,7 @@ private:
     bool callAction(int index, const QString& argument, QString* replyOrError);
 
     const QPointer<embedded::EmbeddedService> m_service;
-    const Plan m_plan;
+    const QVector<Judgement> m_judgements;
     const Clock m_clock;
     Movements m_movements;
     SimulatedActions m_actions;

@@ -84,10 +84,8 @@ void Happenings::turnItem(const QString& id, const Original& original)
 {
     const QString refusal = refusalOf(id);
     m_service->setRefusal(id, refusal.isEmpty() ? original.refusal : refusal);
-    const bool isHeld = isHeldBack(id);
-    m_service->setReady(id, original.isReady && !isHeld);
-    if (!isHeld && m_service && released)
-        released(id);
+    const bool isReady = readiness ? readiness(id, original.isReady) : original.isReady;
+    m_service->setReady(id, isReady && !isHeldBack(id));
 }
 
 void Happenings::turnReachable()

@@ -39,8 +39,8 @@ public:
     /// Whether the item is kept from being ready now.
     bool isHeldBack(const QString& id) const;
 
-    /// Called when an item is no longer kept from being ready.
-    std::function<void(const QString& id)> released;
+    /// Whether an item is ready that nothing holds back, by its file or by its value. May be empty.
+    std::function<bool(const QString& id, bool isReadyInFile)> readiness;
     /// Called before the service vanishes.
     std::function<void()> vanishing;
 

@@ -46,4 +46,12 @@ void Judges::judge(const QString& id)
         m_service->setReady(id, rule.isReadyWith(value) && !(isHeldBack && isHeldBack(id)));
 }
 
+bool Judges::isReadyByValue(const QString& id, bool otherwise) const
+{
+    const auto judgement = m_judgements.constFind(id);
+    const KIVClientItem* const item = m_service->item(id);
+    const bool isJudged = item && judgement != m_judgements.cend() && judgement->ready;
+    return isJudged ? judgement->isReadyWith(item->getValue()) : otherwise;
+}
+
 } // namespace kiv::simulation

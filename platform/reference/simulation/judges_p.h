@@ -25,6 +25,9 @@ public:
     /// Judges an item by the value that it has now; nothing for one that is not judged.
     void judge(const QString& id);
 
+    /// Whether the value that an item has now makes it ready; `otherwise` for one of which that is not judged.
+    bool isReadyByValue(const QString& id, bool otherwise) const;
+
     /// Whether something else keeps an item from being ready.
     std::function<bool(const QString& id)> isHeldBack;
 

@@ -36,7 +36,7 @@ struct SimulatedAction
     qint64 runsMs = 0;
     /// The item that counts from 0 to 100 while it runs; may be empty.
     QString progress;
-    QVector<Assignment> atEnd;
+    QVector<Assignment> whenDone;
     QVector<Assignment> whenStopped;
     QVector<Assignment> whenFailed;
     /// The action that it stops; may be empty.

@@ -175,7 +175,7 @@ void PlanReader::readAction(const ItemDescription& item, const QJsonObject& does
     action.progress = does.value(QLatin1String("progress")).toString();
     action.stops = does.value(QLatin1String("stops")).toString();
     action.set = readAssignments(QStringLiteral("/does/set"), does.value(QLatin1String("set")).toObject());
-    action.atEnd = readAssignments(QStringLiteral("/does/then"), does.value(QLatin1String("then")).toObject());
+    action.whenDone = readAssignments(QStringLiteral("/does/done"), does.value(QLatin1String("done")).toObject());
     action.whenStopped
             = readAssignments(QStringLiteral("/does/stopped"), does.value(QLatin1String("stopped")).toObject());
     action.whenFailed = readAssignments(QStringLiteral("/does/failed"), does.value(QLatin1String("failed")).toObject());
@@ -248,6 +248,11 @@ void PlanReader::readHappening(const QJsonObject& object)
     happening.refusal = object.value(QLatin1String("refuse")).toString();
     happening.error = object.value(QLatin1String("error")).toString();
     happening.set = readAssignments(QStringLiteral("/set"), object.value(QLatin1String("set")).toObject());
+    if (!happening.slowMs && !happening.isVanishing && !happening.isNotReady && happening.refusal.isEmpty()
+            && happening.error.isEmpty() && happening.set.isEmpty())
+        complain(QString(),
+                Texts::tr(
+                        "nothing happens: \"slow\", \"vanish\", \"refuse\", \"ready\", \"error\" or \"set\" is missing"));
     if (happening.everyMs > 0 && happening.forMs >= happening.everyMs)
         complain(QStringLiteral("/every"), Texts::tr("must be greater than \"for\""));
     QStringList beginnings = object.value(QLatin1String("items")).toVariant().toStringList();

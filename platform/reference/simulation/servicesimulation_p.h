@@ -23,7 +23,7 @@ private:
     qint64 now() const { return m_time.elapsed() - m_pause; }
 
     QElapsedTimer m_time;
-    QTimer m_timer;
+    QTimer m_timer {this};
     /// Time that the process stood still.
     qint64 m_pause = 0;
     std::shared_ptr<Driver> m_driver;
