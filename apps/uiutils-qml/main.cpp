@@ -2,7 +2,10 @@
 #include "page.h"
 #include "pageaudit.h"
 #include "pagereload.h"
+#include "pagetest.h"
 #include "pagewindow.h"
+#include "replaydesk.h"
+#include "steppedtime.h"
 #include "texts.h"
 
 #include "audit/screenaudit.h"
@@ -18,6 +21,7 @@
 #include <QQuickWindow>
 
 #include <cstdio>
+#include <memory>
 #include <optional>
 
 using namespace uiutils;
@@ -59,9 +63,18 @@ int audit(QQmlEngine* engine, QQuickWindow* window, const Options& options)
     return complaints.isEmpty() ? exitDone : exitFailed;
 }
 
-void work(QQmlEngine* engine, QQuickWindow* window, const Options& options)
+/// What stands in for the world around a page: the services of a recording, and the time of a test.
+struct Surroundings
 {
-    if (options.isAudit)
+    std::unique_ptr<qmltool::ReplayDesk> desk;
+    std::unique_ptr<qmltool::SteppedTime> time;
+};
+
+void work(QQmlEngine* engine, QQuickWindow* window, const Surroundings& around, const Options& options)
+{
+    if (around.time)
+        QCoreApplication::exit(qmltool::testPage(window, around.desk->player(), around.time.get(), options));
+    else if (options.isAudit)
         QCoreApplication::exit(audit(engine, window, options));
     else
         qmltool::takePicture(window, options.picture, finish);
@@ -81,14 +94,14 @@ std::unique_ptr<QQmlEngine> makeEngine(Host& host, const Options& options)
     return engine;
 }
 
-int show(Host& host, const Options& options)
+int show(Host& host, const Surroundings& around, const Options& options)
 {
     if (apps::DisplaySetup::isOffScreen())
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     if (options.isAudit)
         audit::ScreenAudit::prepare();
     PageWindow window(options.screen.size);
-    const bool isUsed = !options.isAudit && options.picture.isEmpty();
+    const bool isUsed = !options.isAudit && options.picture.isEmpty() && !around.time;
     std::optional<PageReload> reload;
     // Before the page is read, so that no change is missed.
     if (isUsed)
@@ -98,15 +111,37 @@ int show(Host& host, const Options& options)
     if (!page->root())
         return complain(page->error());
     window.show(std::move(page));
-    if (isUsed)
-        return QCoreApplication::exec();
-    qmltool::whenDrawn(window.window(), [&](const QString& problem) {
-        if (problem.isEmpty())
-            work(window.page()->engine(), window.window(), options);
-        else
-            finish(problem);
-    });
+    if (!isUsed) {
+        qmltool::whenDrawn(window.window(), [&](const QString& problem) {
+            if (problem.isEmpty())
+                work(window.page()->engine(), window.window(), around, options);
+            else
+                finish(problem);
+        });
+    } else if (around.desk) {
+        around.desk->play(options);
+    }
     return QCoreApplication::exec();
+}
+
+/// Puts a recording in place of the service files, if the options name one. Returns false, having complained, when it
+/// cannot be used.
+bool surround(const Options& options, Surroundings* around, HostSetup* setup)
+{
+    if (options.recording.isEmpty())
+        return true;
+    QString problem;
+    around->desk = std::make_unique<qmltool::ReplayDesk>();
+    if (!around->desk->open(options, &problem)) {
+        complain(problem);
+        return false;
+    }
+    setup->services = around->desk->services();
+    if (options.moments.isEmpty())
+        return true;
+    around->time = std::make_unique<qmltool::SteppedTime>();
+    around->time->setNow(options.fromMs);
+    return true;
 }
 
 } // namespace
@@ -122,13 +157,20 @@ int main(int argc, char** argv)
     // The library's notes for developers do not concern users, who may enable them by QT_LOGGING_RULES.
     QLoggingCategory::setFilterRules(
             QStringLiteral("default.debug=false\nqt.virtualkeyboard.hunspell=false\nqml.debug=true"));
+    // What a test sees does not depend on anybody's screen.
+    if (!options.moments.isEmpty())
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     const apps::DisplaySetup display;
     apps::DisplaySetup::offerScreenKeyboard();
     const QGuiApplication application(argc, argv);
+    Surroundings around;
+    HostSetup setup {options.serviceFolders, options.root};
+    if (!surround(options, &around, &setup))
+        return exitFailed;
     Host host;
-    if (!host.start({options.serviceFolders, options.root}))
+    if (!host.start(setup))
         return exitFailed;
     if (!options.language.isEmpty() && !host.setLanguage(options.language))
         return complain(qmltool::Texts::tr("There is no language \"%1\".").arg(options.language));
-    return options.page.isEmpty() ? list() : show(host, options);
+    return options.page.isEmpty() ? list() : show(host, around, options);
 }

@@ -305,13 +305,15 @@ private Q_SLOTS:
     /// Clients in other processes hear of a turn of the event loop as a whole.
     void everyChangeIsHeard()
     {
-        PlayingBench played(start + value(10, 2) + value(10, 3) + value(11, 4));
+        PlayingBench played(start + value(10, 2) + value(10, 3) + value(11, 4) + R"({"t":11,"service":"otdr","gone":true})" "\n");
         QVERIFY(!played.player.advanceTo(20, Player::EachHeard));
         QCOMPARE(played.value(), QVariant(2));
         QVERIFY(!played.player.advanceTo(20, Player::EachHeard));
         QCOMPARE(played.value(), QVariant(3));
-        QVERIFY(played.player.advanceTo(20, Player::EachHeard));
+        QVERIFY(!played.player.advanceTo(20, Player::EachHeard));
         QCOMPARE(played.value(), QVariant(4));
+        QVERIFY(played.player.advanceTo(20, Player::EachHeard));
+        QVERIFY(!played.item());
     }
 
     void followsAClock()
@@ -341,11 +343,16 @@ private Q_SLOTS:
         QCOMPARE(at(10'049), 2);
         QCOMPARE(log, QStringList());
         QCOMPARE(at(10'149), 3);
+        // Clients hear of the last change first.
+        QCOMPARE(log, QStringList());
+        QCOMPARE(at(10'149), 3);
         QCOMPARE(log, QStringList("ended"));
         playback.jumpTo(150);
         playback.setLooped(true);
         playback.setPaused(false);
+        QCOMPARE(at(10'199), 3);
         QCOMPARE(at(10'199), 1);
+        QCOMPARE(at(10'298), 1);
         QCOMPARE(at(10'299), 2);
         QCOMPARE(log, QStringList("ended"));
     }

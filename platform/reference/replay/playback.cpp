@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace kiv::replay {
 
@@ -68,6 +69,7 @@ void Playback::jumpTo(qint64 ms)
 
 void Playback::begin()
 {
+    m_isEnding = false;
     if (m_isPaused)
         m_timer.stop();
     else
@@ -84,7 +86,10 @@ void Playback::turn()
     }
     const std::optional<qint64> next = m_player->nextTime();
     if (!next) {
-        atEnd();
+        if (std::exchange(m_isEnding, true))
+            atEnd();
+        else
+            m_timer.start(0);
         return;
     }
     const double wait = double(*next - m_player->position()) / m_speed;

@@ -52,6 +52,8 @@ private:
     double m_speed = 1;
     bool m_isLooped = false;
     bool m_isPaused = true;
+    /// Whether clients have still to hear of the last changes.
+    bool m_isEnding = false;
     /// The moment of the recording that it was at a moment of the clock.
     qint64 m_position = 0;
     qint64 m_since = 0;

@@ -105,6 +105,9 @@ bool Player::apply(const Entry& entry, quint64 turn)
         ++m_troubles.unknown;
         return true;
     }
+    // What went before an end or a snapshot is heard first.
+    if (service && entry.kind != Entry::Item && service->hasChanged(turn))
+        return false;
     const bool isBeginning = entry.kind == Entry::Snapshot || entry.kind == Entry::Item;
     if (!service && isBeginning)
         service = publish(entry.service);
@@ -120,7 +123,7 @@ bool Player::apply(const Entry& entry, quint64 turn)
     else if (isWithoutBeginning)
         beginSnapshot(service, entry.service, INT_MAX);
     if (entry.kind == Entry::Item) {
-        service->putItem(entry);
+        service->putItem(entry, turn);
         --m_missing;
     } else if (entry.kind == Entry::Removed) {
         service->removeItem(entry);

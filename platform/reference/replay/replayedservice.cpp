@@ -157,7 +157,7 @@ bool ReplayedService::makeRoom(const Item& now, Item* held) const
     return true;
 }
 
-void ReplayedService::putItem(const Entry& entry)
+void ReplayedService::putItem(const Entry& entry, quint64 turn)
 {
     const ItemDescription description = descriptionOf(entry);
     Item item;
@@ -165,10 +165,13 @@ void ReplayedService::putItem(const Entry& entry)
     item.attributes = description.attributes;
     item.valued = memoryOf(fieldOf(entry.fields, "value"));
     item.described = memoryOf(entry.fields) - item.valued;
+    item.turn = turn;
+    m_turn = turn;
     if (m_isInSnapshot)
         m_inSnapshot += entry.id;
     const auto present = m_items.find(entry.id);
     if (present != m_items.end() && present->nature == item.nature) {
+        present->turn = turn;
         if (makeRoom(item, &*present))
             update(description, &*present);
         return;
@@ -255,6 +258,7 @@ bool ReplayedService::changeItem(const Entry& entry, quint64 turn)
     if (turn != 0 && item->turn == turn)
         return false;
     item->turn = turn;
+    m_turn = turn;
     Item now = *item;
     if (entry.fields.contains(QLatin1String("value")))
         now.valued = memoryOf(fieldOf(entry.fields, "value"));

@@ -46,11 +46,12 @@ public:
     void leave();
     void reportError(const Entry& entry);
 
-    void putItem(const Entry& entry);
+    void putItem(const Entry& entry, quint64 turn);
     void removeItem(const Entry& entry);
-    /// Changes an item. With a turn other than 0 an item changes once in that turn; returns false, and changes nothing,
-    /// when it has.
+    /// Changes an item. Returns false, and changes nothing, when it has changed in that turn; 0 is no turn.
     bool changeItem(const Entry& entry, quint64 turn);
+    /// Whether something has changed in that turn; 0 is no turn.
+    bool hasChanged(quint64 turn) const { return turn != 0 && m_turn == turn; }
 
     embedded::EmbeddedService* service() const;
 
@@ -77,6 +78,8 @@ private:
     Holdings* const m_holdings;
     PlayingTroubles* const m_troubles;
     QHash<QString, Item> m_items;
+    /// The last one in which something changed.
+    quint64 m_turn = 0;
     bool m_isInSnapshot = false;
     QSet<QString> m_inSnapshot;
 };
