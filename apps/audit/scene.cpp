@@ -174,6 +174,17 @@ Scene readScene(const QQuickWindow* window)
     return walk.takeScene();
 }
 
+Scene within(Scene scene, const QQuickItem* item)
+{
+    const auto isOutside = [item](const QQuickItem* other) { return !item->isAncestorOf(other); };
+    const auto isShownOutside = [&](const Shown& shown) { return isOutside(shown.item); };
+    for (QVector<Shown>* all : {&scene.targets, &scene.texts, &scene.icons})
+        all->erase(std::remove_if(all->begin(), all->end(), isShownOutside), all->end());
+    scene.scrollers.erase(
+            std::remove_if(scene.scrollers.begin(), scene.scrollers.end(), isOutside), scene.scrollers.end());
+    return scene;
+}
+
 bool mayElide(const QQuickItem* item)
 {
     for (; item; item = item->parentItem()) {

@@ -71,30 +71,18 @@ Rectangle {
                               address6, mac, url, fileName, phone, pin, pattern, mode, lines, judged, away, fixed] }
                 ]
 
-                Rectangle {
+                Card {
                     Layout.fillWidth: true
                     Layout.preferredWidth: 1
                     Layout.alignment: Qt.AlignTop
-                    implicitHeight: entries.implicitHeight + 2 * ControlsStyle.margin
-                    radius: ControlsStyle.radius
-                    color: ControlsStyle.card
-                    border { width: ControlsStyle.line; color: ControlsStyle.divider }
+                    spacing: ControlsStyle.touchGap
+                    title: modelData.title
 
-                    ColumnLayout {
-                        id: entries
-                        anchors { left: parent.left; right: parent.right; top: parent.top; margins: ControlsStyle.margin }
-                        spacing: ControlsStyle.touchGap
-
-                        HeadingText {
+                    Repeater {
+                        model: modelData.items
+                        ItemEntry {
                             Layout.fillWidth: true
-                            text: modelData.title
-                        }
-                        Repeater {
-                            model: modelData.items
-                            ItemEntry {
-                                Layout.fillWidth: true
-                                item: modelData
-                            }
+                            item: modelData
                         }
                     }
                 }

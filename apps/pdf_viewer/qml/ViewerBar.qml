@@ -26,6 +26,8 @@ Rectangle {
             font.pixelSize: Theme.bodyText
             wrapMode: Text.Wrap
             maximumLineCount: 2
+            // Where the bar begins, in whatever language the title is.
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
             Accessible.role: Accessible.Heading
             Accessible.name: text

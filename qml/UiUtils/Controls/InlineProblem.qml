@@ -2,20 +2,28 @@ import QtQuick 2.15
 import UiUtils.Controls 1.0
 
 /// A problem where it is: an icon and words, below what is wrong. Without a text nothing is shown; with `keepsRoom` the
-/// room for one line stays, so that nothing moves when a problem comes.
+/// room for `lines` lines stays, so that nothing moves when a problem comes.
 Item {
     id: problem
 
     property string text
     property bool keepsRoom: false
+    /// The lines that `keepsRoom` keeps; a text that needs more is higher.
+    property int lines: 1
+
+    readonly property real room: Math.max(mark.height, Math.ceil(lines * metrics.lineSpacing))
 
     implicitWidth: words.x + words.implicitWidth
-    implicitHeight: text === "" ? keepsRoom ? words.font.pixelSize * 1.4 : 0 : Math.max(mark.height, words.implicitHeight)
+    implicitHeight: Math.max(keepsRoom ? room : 0, text === "" ? 0 : Math.max(mark.height, words.implicitHeight))
     visible: text !== "" || keepsRoom
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text
     Accessible.ignored: text === ""
 
+    FontMetrics {
+        id: metrics
+        font: words.font
+    }
     Row {
         id: row
         width: parent.width

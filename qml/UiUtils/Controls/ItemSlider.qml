@@ -22,13 +22,21 @@ NumberFace {
             implicitHeight: ControlsStyle.touch
             focus: true
             enabled: entry.hasLine
-            from: entry.hasLine ? entry.least : 0
-            to: entry.hasLine ? entry.most : 1
+            // From multiple to multiple of the step, of which the slider counts from its begin; what it sets stays within
+            // the limits.
+            from: entry.hasLine ? Math.floor(Steps.clean(entry.least / entry.stepSize)) * entry.stepSize : 0
+            to: entry.hasLine ? Math.ceil(Steps.clean(entry.most / entry.stepSize)) * entry.stepSize : 1
             stepSize: entry.stepSize
             snapMode: T.Slider.SnapAlways
             Accessible.name: entry.label
             Accessible.description: [entry.numberText, entry.note].filter(part => part !== "").join(", ")
-            onMoved: entry.draft = Steps.clean(value)
+            onMoved: {
+                entry.draft = pressed ? Steps.nearest(value, entry.stepSize, entry.least, entry.most)
+                                      : Steps.next(entry.number, value < entry.number ? -1 : 1, entry.stepSize, entry.least, entry.most)
+                // A key that leads beyond a limit changes nothing, and neither does the binding.
+                if (!pressed)
+                    value = entry.number
+            }
             onPressedChanged: {
                 if (!pressed)
                     entry.commit()

@@ -13,18 +13,20 @@ Entry {
     /// Decimals that are shown; -1 for as many as the value needs.
     property int decimals: face.decimals
 
+    readonly property bool isWhole: Formats.isWholeType(type)
     readonly property real stepSize: Steps.stepOf(step, face.item && face.item.getProperty ? face.item.getProperty("increment") : undefined,
-                                                  Formats.isWholeType(type) ? 0 : decimals)
+                                                  decimals, isWhole)
     readonly property real least: Math.max(Formats.typeLimits(type)[0], minimum === undefined ? -Infinity : Number(minimum))
     readonly property real most: Math.min(Formats.typeLimits(type)[1], maximum === undefined ? Infinity : Number(maximum))
     // What the present gesture has set; undefined without one.
     property var draft
     readonly property real number: {
         const shown = Number(draft === undefined ? currentValue : draft)
-        return isNaN(shown) ? isFinite(least) ? least : 0 : shown
+        return isFinite(shown) ? shown : isFinite(least) ? least : 0
     }
     readonly property string numberText: textOf(number) + (unit === "" ? "" : " " + unit)
     readonly property bool hasNumber: draft !== undefined || currentValue !== undefined && currentValue !== null && currentValue !== ""
+                                                             && isFinite(Number(currentValue))
 
     function textOf(number) {
         const plain = decimals >= 0 ? number.toFixed(decimals) : String(Steps.clean(number))

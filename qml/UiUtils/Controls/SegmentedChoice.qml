@@ -12,7 +12,10 @@ Entry {
     readonly property var choices: face.hasItem ? face.choices
         : model.map(choice => choice.label !== undefined ? choice : { label: choice, value: choice })
     /// The position of the present choice; -1 for none.
-    readonly property int currentIndex: choices.findIndex(choice => choice.value === (face.hasItem ? Number(currentValue) : currentValue))
+    readonly property int currentIndex: choices.findIndex(choice => choice.value === presentValue)
+    // No value is not the number 0.
+    readonly property var presentValue: !face.hasItem ? currentValue
+        : currentValue === null || currentValue === "" ? undefined : Number(currentValue)
 
     // Choices without a label, as in the header of a page, name themselves.
     readonly property string spokenName: !compact ? label

@@ -1,4 +1,4 @@
-#include "languages/catalogues_p.h"
+#include "base/catalogues_p.h"
 
 #include "base/ownplace_p.h"
 
