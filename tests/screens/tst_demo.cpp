@@ -89,7 +89,7 @@ private Q_SLOTS:
             {"preview", [this] { preview(); }},
             {"problem", [this] { open("report"); enterLongName(); }},
             {"problem-left", [this] { open("report"); enterLongName(); itemNamed(m_window->contentItem(), "saveButton")->forceActiveFocus(); }},
-            {"question", [this] { m_files.sendNotificationOverwriteRequest(longFiles, {}); }},
+            {"question", [this] { m_files.sendNotificationDeleteRequest(longFiles, {}); }},
             {"error", [this] { m_files.sendNotificationNotEnoughSpace(longFiles.section('\n', 0, 0), 1.5e9); }},
             {"notices", [this] { m_files.sendNotificationDriveFull("/mnt/usb"); notifications()->accept(); open("notifications"); }},
             {"away", [this] { m_services.service("loopback")->setReachable(false); open("setup"); }},

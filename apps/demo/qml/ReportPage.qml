@@ -24,7 +24,7 @@ KitPage {
         BodyText {
             objectName: "reportState"
             Layout.fillWidth: true
-            text: page.report.formatProblem || page.state
+            text: page.report.formatProblem || page.report.nameProblem || page.state
             muted: true
             maximumLineCount: 2
             elide: Text.ElideMiddle

@@ -11,7 +11,9 @@ Item {
     /// The lines that `keepsRoom` keeps; a text that needs more is higher.
     property int lines: 1
 
-    readonly property real room: Math.max(mark.height, Math.ceil(lines * metrics.lineSpacing))
+    // Of the same height in all scripts.
+    readonly property int lineHeight: Math.ceil(1.3 * ControlsStyle.labelText)
+    readonly property real room: Math.max(mark.height, lines * lineHeight)
 
     implicitWidth: words.x + words.implicitWidth
     implicitHeight: Math.max(keepsRoom ? room : 0, text === "" ? 0 : Math.max(mark.height, words.implicitHeight))
@@ -20,10 +22,6 @@ Item {
     Accessible.name: text
     Accessible.ignored: text === ""
 
-    FontMetrics {
-        id: metrics
-        font: words.font
-    }
     Row {
         id: row
         width: parent.width
@@ -42,6 +40,8 @@ Item {
             anchors.verticalCenter: lineCount === 1 ? parent.verticalCenter : undefined
             text: problem.text
             color: ControlsStyle.invalid
+            lineHeightMode: Text.FixedHeight
+            lineHeight: problem.lineHeight
             wrapMode: Text.Wrap
             font { pixelSize: ControlsStyle.labelText; weight: Font.DemiBold }
             Accessible.ignored: true

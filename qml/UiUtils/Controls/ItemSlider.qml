@@ -17,6 +17,9 @@ NumberFace {
 
         T.Slider {
             id: slider
+            // Keys press it, too.
+            property bool isByKey: false
+
             objectName: "slider"
             Layout.fillWidth: true
             implicitHeight: ControlsStyle.touch
@@ -30,24 +33,29 @@ NumberFace {
             snapMode: T.Slider.SnapAlways
             Accessible.name: entry.label
             Accessible.description: [entry.numberText, entry.note].filter(part => part !== "").join(", ")
-            onMoved: {
-                entry.draft = pressed ? Steps.nearest(value, entry.stepSize, entry.least, entry.most)
-                                      : Steps.next(entry.number, value < entry.number ? -1 : 1, entry.stepSize, entry.least, entry.most)
-                // A key that leads beyond a limit changes nothing, and neither does the binding.
-                if (!pressed)
-                    value = entry.number
-            }
+            onMoved: entry.draft = isByKey ? Steps.next(entry.number, value < entry.number ? -1 : 1, entry.stepSize, entry.least, entry.most)
+                                           : Steps.nearest(value, entry.stepSize, entry.least, entry.most)
             onPressedChanged: {
-                if (!pressed)
-                    entry.commit()
+                if (pressed)
+                    return
+                entry.commit()
+                // What was beyond a limit did not change the number, so that the binding does not know of it.
+                value = entry.number
+            }
+            Keys.onPressed: {
+                isByKey = true
+                event.accepted = false
             }
             onActiveFocusChanged: {
                 if (!activeFocus)
                     entry.commit()
             }
             Keys.onReleased: {
-                if (!event.isAutoRepeat)
-                    entry.commit()
+                event.accepted = false
+                if (event.isAutoRepeat)
+                    return
+                isByKey = false
+                entry.commit()
             }
 
             // The user's gesture has ended the binding.

@@ -28,6 +28,8 @@ T.Popup {
         const keyboard = Qt.inputMethod.keyboardRectangle
         const bottom = Qt.inputMethod.visible && keyboard.height > 0 ? Math.min(page.height, keyboard.y) : page.height
         const place = Placing.placeList(field, implicitHeight, Qt.rect(edge, edge, page.width - 2 * edge, bottom - 2 * edge), edge / 2)
+        const left = owner.mapToItem(page, 0, 0).x
+        x = Math.max(edge, Math.min(left - padding, page.width - edge - width)) - left
         y = place.y - owner.mapToItem(page, 0, 0).y
         const top = view ? view.mapToItem(page, 0, 0).y : 0
         isInSight = field.y + field.height > top && (!view || field.y < top + view.height)
@@ -35,7 +37,6 @@ T.Popup {
 
     objectName: "noteSheet"
     parent: owner
-    x: -padding
     width: owner.width + 2 * padding
     implicitHeight: Math.max(ControlsStyle.touch, implicitContentHeight + 2 * padding)
     padding: ControlsStyle.gap / 2

@@ -20,13 +20,12 @@ Entry {
     readonly property real most: Math.min(Formats.typeLimits(type)[1], maximum === undefined ? Infinity : Number(maximum))
     // What the present gesture has set; undefined without one.
     property var draft
-    readonly property real number: {
-        const shown = Number(draft === undefined ? currentValue : draft)
-        return isFinite(shown) ? shown : isFinite(least) ? least : 0
-    }
+    // What a gesture begins with where there is no value.
+    readonly property real begin: isFinite(least) ? least : Math.min(0, most)
+    readonly property real number: draft !== undefined ? draft : hasValue ? Number(currentValue) : begin
+    readonly property bool hasValue: currentValue !== undefined && currentValue !== null && currentValue !== "" && isFinite(Number(currentValue))
     readonly property string numberText: textOf(number) + (unit === "" ? "" : " " + unit)
-    readonly property bool hasNumber: draft !== undefined || currentValue !== undefined && currentValue !== null && currentValue !== ""
-                                                             && isFinite(Number(currentValue))
+    readonly property bool hasNumber: draft !== undefined || hasValue
 
     function textOf(number) {
         const plain = decimals >= 0 ? number.toFixed(decimals) : String(Steps.clean(number))

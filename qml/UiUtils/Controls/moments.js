@@ -45,13 +45,24 @@ function written(parts, locale, hasDate, hasTime) {
             .filter(part => part !== "").join(" ")
 }
 
+// Without a Date, which would show an hour that the present zone leaves out as another one.
 function writtenDate(parts, locale, format) {
-    return toDate(parts).toLocaleString(locale, format)
+    return filled(format, /'([^']*)'|yyyy|MM?|dd?/g, locale, { yyyy: parts.year, MM: two(parts.month), M: parts.month, dd: two(parts.day), d: parts.day })
 }
 
-// On a day on which no clock is put forward: an hour that the present zone leaves out would be shown as another one.
 function writtenTime(parts, locale, format) {
-    return new Date(2000, 0, 15, parts.hour, parts.minute).toLocaleString(locale, format)
+    const half = parts.hour < 12 ? locale.amText : locale.pmText
+    const hour = /[aA]/.test(format.replace(/'[^']*'/g, "")) ? (parts.hour + 11) % 12 + 1 : parts.hour
+    return filled(format, /'([^']*)'|HH?|hh?|mm?|AP?|ap?/g, locale,
+                  { HH: two(parts.hour), H: parts.hour, hh: two(hour), h: hour, mm: two(parts.minute), m: parts.minute,
+                    AP: half, A: half, ap: half.toLowerCase(), a: half.toLowerCase() })
+}
+
+// The format with the values of its parts, in the digits of the locale.
+function filled(format, parts, locale, values) {
+    const zero = locale.zeroDigit.charCodeAt(0)
+    return format.replace(parts, (part, quoted) => quoted !== undefined ? quoted
+        : String(values[part]).replace(/[0-9]/g, digit => String.fromCharCode(zero + Number(digit))))
 }
 
 // Noon is on that day wherever clocks are put forward.
