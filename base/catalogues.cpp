@@ -44,45 +44,96 @@ std::unique_ptr<QTranslator> loaded(const QString& folder, const QString& name, 
     return nullptr;
 }
 
+QStringList filesIn(const QString& folder, const QString& pattern)
+{
+    return QDir(folder).entryList({pattern + QLatin1String(".qm")}, QDir::Files, QDir::Name);
+}
+
+/// The languages of the catalogues in a folder whose names are accepted. A name may contain underscores, too.
+template <class Accept>
+QStringList codesIn(const QString& folder, const Accept& accepts)
+{
+    static const QRegularExpression form(QStringLiteral("^(.+)_([a-z]{2,3}(?:_[A-Z][A-Za-z]+)*)\\.qm$"));
+    QStringList codes;
+    const QStringList files = filesIn(folder, QStringLiteral("*_*"));
+    for (const QString& file : files) {
+        const QRegularExpressionMatch match = form.match(file);
+        if (match.hasMatch() && accepts(match.captured(1)))
+            codes += match.captured(2);
+    }
+    return codes;
+}
+
+bool isOfLibrary(const QString& name)
+{
+    return name == libraryName;
+}
+
+/// The names of the catalogues of a language: the library's first, so that an application can replace its texts.
+QStringList namesIn(const QString& folder, const QString& code)
+{
+    QStringList names;
+    for (const QString& fallback : fallbacks(code)) {
+        const QString ending = QLatin1Char('_') + fallback;
+        const QStringList files = filesIn(folder, QLatin1Char('*') + ending);
+        for (const QString& file : files)
+            names += file.chopped(ending.size() + int(qstrlen(".qm")));
+    }
+    names.removeDuplicates();
+    if (names.removeAll(libraryName) > 0)
+        names.prepend(libraryName);
+    return names;
+}
+
+/// Those of the application in the folder that many share.
+QStringList sharedNames()
+{
+    return {libraryName, QCoreApplication::applicationName()};
+}
+
 } // namespace
 
+QString installedCatalogues(const QString& name)
+{
+    return installedFolder(QStringLiteral(UIUTILS_TRANSLATIONS_FOLDER "/") + name);
+}
+
 Catalogues::Catalogues(const QStringList& folders)
-    : m_folders(QStringList(installedFolder(QStringLiteral(UIUTILS_TRANSLATIONS_FOLDER))) + folders)
+    : m_installed(installedCatalogues())
+    , m_folders(folders)
 {
     // An empty folder would be the current one.
     m_folders.removeAll(QString());
 }
 
-QStringList Catalogues::codesOf(const QString& name) const
-{
-    static const QRegularExpression language(QStringLiteral("^[a-z]{2,3}(_[A-Za-z]+)*$"));
-    QStringList codes;
-    for (const QString& folder : m_folders) {
-        const QStringList files = QDir(folder).entryList({name + QLatin1String("_*.qm")}, QDir::Files, QDir::Name);
-        for (const QString& file : files)
-            codes += file.mid(name.size() + 1).chopped(int(qstrlen(".qm")));
-    }
-    codes.removeDuplicates();
-    return codes.filter(language);
-}
-
 QStringList Catalogues::offered() const
 {
-    QStringList codes = codesOf(QCoreApplication::applicationName());
+    QStringList ofLibrary = codesIn(m_installed, isOfLibrary);
+    QStringList codes = codesIn(
+            m_installed, [](const QString& name) { return name == QCoreApplication::applicationName(); });
+    for (const QString& folder : m_folders) {
+        ofLibrary += codesIn(folder, isOfLibrary);
+        codes += codesIn(folder, [](const QString& name) { return !isOfLibrary(name); });
+    }
     if (codes.isEmpty())
-        codes = codesOf(libraryName);
+        codes = ofLibrary;
     codes.removeAll(QLatin1String(sourceLanguage));
+    codes.removeDuplicates();
     codes.sort();
     return QStringList(QLatin1String(sourceLanguage)) + codes;
 }
 
 bool Catalogues::has(const QString& code) const
 {
-    const auto isThere = [&](const QString& folder) {
-        return QFile::exists(filePath(folder, libraryName, code))
-                || QFile::exists(filePath(folder, QCoreApplication::applicationName(), code));
-    };
-    return code == QLatin1String(sourceLanguage) || std::any_of(m_folders.cbegin(), m_folders.cend(), isThere);
+    if (code == QLatin1String(sourceLanguage))
+        return true;
+    // A language that is not one would match files as a pattern.
+    static const QRegularExpression form(QStringLiteral("^\\w+$"));
+    if (!form.match(code).hasMatch())
+        return false;
+    const QStringList names = sharedNames();
+    return std::any_of(names.cbegin(), names.cend(), [&](const QString& name) { return QFile::exists(filePath(m_installed, name, code)); })
+            || std::any_of(m_folders.cbegin(), m_folders.cend(), [&](const QString& folder) { return !filesIn(folder, QStringLiteral("*_") + code).isEmpty(); });
 }
 
 QString Catalogues::bestFor(const QLocale& locale) const
@@ -105,9 +156,13 @@ std::vector<std::unique_ptr<QTranslator>> Catalogues::load(const QString& code) 
             all.push_back(std::move(translator));
     };
     add(QLibraryInfo::location(QLibraryInfo::TranslationsPath), QStringLiteral("qtbase"));
+    const QStringList shared = sharedNames();
+    for (const QString& name : shared)
+        add(m_installed, name);
     for (const QString& folder : m_folders) {
-        add(folder, libraryName);
-        add(folder, QCoreApplication::applicationName());
+        const QStringList names = namesIn(folder, code);
+        for (const QString& name : names)
+            add(folder, name);
     }
     return all;
 }

@@ -116,7 +116,7 @@ void Walk::record(const QQuickItem* item, const Surroundings& around)
     if (isIcon(item))
         m_scene.icons += shown(item, QRectF(QPointF(), item->size()), around);
     if (isCover(item, around.opacity, m_window))
-        m_covers += {item->mapRectToScene(QRectF(QPointF(), item->size())) & around.clip, m_order};
+        m_covers += {item, item->mapRectToScene(QRectF(QPointF(), item->size())) & around.clip, m_order};
 }
 
 Shown Walk::shown(const QQuickItem* item, const QRectF& area, const Surroundings& around) const
@@ -129,7 +129,9 @@ void Walk::removeCovered(QVector<Shown>& all) const
 {
     const auto isCovered = [this](const Shown& shown) {
         return std::any_of(m_covers.begin(), m_covers.end(), [&shown](const Cover& cover) {
-            return cover.order > shown.order && !shown.seen.isEmpty() && cover.area.contains(shown.seen);
+            // The background of a button covers what is behind the button.
+            return cover.order > shown.order && !shown.seen.isEmpty() && cover.area.contains(shown.seen)
+                    && !shown.item->isAncestorOf(cover.item);
         });
     };
     all.erase(std::remove_if(all.begin(), all.end(), isCovered), all.end());

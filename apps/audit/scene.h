@@ -31,6 +31,7 @@ struct Shown
 /// What hides all that was painted before it.
 struct Cover
 {
+    const QQuickItem* item = nullptr;
     QRectF area;
     int order = 0;
 };

@@ -1,5 +1,6 @@
 #include "options.h"
 #include "pageaudit.h"
+#include "pagetranslations.h"
 #include "pagewindow.h"
 #include "texts.h"
 
@@ -107,8 +108,12 @@ int main(int argc, char** argv)
     const apps::DisplaySetup display;
     apps::DisplaySetup::offerScreenKeyboard();
     const QGuiApplication application(argc, argv);
+    const qmltool::PageTranslations translations(options.page);
+    const QStringList problems = translations.problems();
+    for (const QString& problem : problems)
+        complain(problem);
     Host host;
-    if (!host.start({options.serviceFolders, options.root}))
+    if (!host.start({options.serviceFolders, options.root, {}, {}, translations.folders()}))
         return exitFailed;
     if (!options.language.isEmpty() && !host.setLanguage(options.language))
         return complain(qmltool::Texts::tr("There is no language \"%1\".").arg(options.language));

@@ -1,5 +1,6 @@
 #include "stage.h"
 
+#include "common/translations.h"
 #include "qmlwarnings.h"
 #include "ui_host/host.h"
 
@@ -17,7 +18,7 @@ private Q_SLOTS:
     {
         qputenv("QT_QUICK_CONTROLS_STYLE", "Default");
         ScreenAudit::prepare();
-        QVERIFY(m_host.start({{UIUTILS_SOURCE_DIR "/platform/reference/services"}, m_root.path()}));
+        QVERIFY(m_host.start({{UIUTILS_SOURCE_DIR "/platform/reference/services"}, m_root.path(), {}, {}, {uiutils::apps::translationsOf("examples")}}));
         m_warnings.watch(&m_engine);
         m_host.showTo(&m_engine);
     }

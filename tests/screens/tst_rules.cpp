@@ -50,6 +50,9 @@ private Q_SLOTS:
         row("no fault", "Area {} Area { x: 110 } Words { y: 200; text: 'Read me' }", "");
         row("small button", "AbstractButton { width: 90; height: 70; text: 'OK' }",
                 "Target: AbstractButton \"OK\": 9.0 x 7.0 mm, at least 9.0");
+        row("small button with a background", "AbstractButton { width: 90; height: 70; background: Rectangle { color: 'silver' } }",
+                "Target: AbstractButton: 9.0 x 7.0 mm, at least 9.0");
+        row("covered button", "AbstractButton { width: 90; height: 70 } Rectangle { width: 90; height: 70 }", "");
         row("small disabled button", "AbstractButton { width: 70; height: 90; enabled: false; focusPolicy: Qt.StrongFocus }",
                 "Target: AbstractButton: 7.0 x 9.0 mm, at least 9.0");
         row("small field", "TextInput { objectName: 'name'; width: 200; height: 60; font.pixelSize: 32 }",

@@ -36,8 +36,11 @@ KitPage {
             enabled: page.session.hasResults
             text: qsTr("Preview")
             onClicked: {
-                if (titleEntry.commit())
-                    preview.item.show()
+                if (!titleEntry.commit())
+                    return
+                // Who is quicker than the loader waits for it.
+                preview.asynchronous = false
+                preview.item.show()
             }
         },
         TouchButton {

@@ -37,7 +37,8 @@ Item {
         StyledText {
             id: words
             width: row.width - mark.width - row.spacing
-            anchors.verticalCenter: lineCount === 1 ? parent.verticalCenter : undefined
+            // An anchor that is given up would leave the text where it was.
+            y: lineCount === 1 ? (mark.height - height) / 2 : 0
             text: problem.text
             color: ControlsStyle.invalid
             lineHeightMode: Text.FixedHeight

@@ -43,8 +43,6 @@ Entry {
     Rectangle {
         objectName: "segments"
         Layout.fillWidth: true
-        implicitWidth: row.implicitWidth
-        implicitHeight: row.implicitHeight
         radius: ControlsStyle.radius
         color: enabled ? ControlsStyle.field : ControlsStyle.disabledField
         border { width: ControlsStyle.line; color: entry.isInvalid ? ControlsStyle.invalid : ControlsStyle.border }
@@ -63,6 +61,9 @@ Entry {
             readonly property real widest: Array.from(children).reduce((width, child) => Math.max(width, child.implicitWidth), 0)
             anchors.fill: parent
             spacing: 0
+            // As bindings they would be evaluated within themselves, when a text takes another line.
+            onImplicitWidthChanged: parent.implicitWidth = implicitWidth
+            onImplicitHeightChanged: parent.implicitHeight = implicitHeight
 
             Repeater {
                 model: entry.choices
