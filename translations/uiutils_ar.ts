@@ -588,7 +588,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation>‏%1، %2</translation>
+        <translation>‏⁨%1⁩، ⁨%2⁩</translation>
     </message>
     <message>
         <source>%1, compressed</source>
@@ -1486,6 +1486,18 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     <message>
         <source>Open it on a computer, or ask whoever made it for a file without a password.</source>
         <translation>افتحه على حاسوب، أو اطلب من منشئه ملفًا دون كلمة مرور.</translation>
+    </message>
+    <message>
+        <source>There is no language &quot;%1&quot;.</source>
+        <translation>لا توجد لغة &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Speak the language of that code, such as &quot;de&quot; (default: that of the environment).</source>
+        <translation>استخدام لغة هذا الرمز، مثل &quot;de&quot; (الافتراضي: لغة البيئة).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>الرمز</translation>
     </message>
 </context>
 <context>

@@ -1475,6 +1475,18 @@ Exit-Status: 0 fertig, 1 die Datei konnte nicht gezeigt werden, 2 falsche Befehl
         <source>Open it on a computer, or ask whoever made it for a file without a password.</source>
         <translation>Öffnen Sie sie auf einem Computer, oder bitten Sie um eine Datei ohne Passwort.</translation>
     </message>
+    <message>
+        <source>There is no language &quot;%1&quot;.</source>
+        <translation>Es gibt keine Sprache „%1“.</translation>
+    </message>
+    <message>
+        <source>Speak the language of that code, such as &quot;de&quot; (default: that of the environment).</source>
+        <translation>Die Sprache mit diesem Code sprechen, etwa „de“ (Standard: die der Umgebung).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>Code</translation>
+    </message>
 </context>
 <context>
     <name>PeoplePage</name>

@@ -1475,6 +1475,18 @@ Código de salida: 0 hecho, 1 no se pudo mostrar el archivo, 2 línea de órdene
         <source>Open it on a computer, or ask whoever made it for a file without a password.</source>
         <translation>Ábralo en un ordenador, o pida a su autor un archivo sin contraseña.</translation>
     </message>
+    <message>
+        <source>There is no language &quot;%1&quot;.</source>
+        <translation>No existe el idioma «%1».</translation>
+    </message>
+    <message>
+        <source>Speak the language of that code, such as &quot;de&quot; (default: that of the environment).</source>
+        <translation>Hablar el idioma de ese código, como «de» (por defecto: el del entorno).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>código</translation>
+    </message>
 </context>
 <context>
     <name>PeoplePage</name>

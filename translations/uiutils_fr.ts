@@ -1475,6 +1475,18 @@ Code de sortie&#xa0;: 0 terminé, 1 le fichier n’a pas pu être affiché, 2 li
         <source>Open it on a computer, or ask whoever made it for a file without a password.</source>
         <translation>Ouvrez-le sur un ordinateur, ou demandez à son auteur un fichier sans mot de passe.</translation>
     </message>
+    <message>
+        <source>There is no language &quot;%1&quot;.</source>
+        <translation>Il n’y a pas de langue « %1 ».</translation>
+    </message>
+    <message>
+        <source>Speak the language of that code, such as &quot;de&quot; (default: that of the environment).</source>
+        <translation>Parler la langue de ce code, par exemple « de » (par défaut : celle de l’environnement).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>code</translation>
+    </message>
 </context>
 <context>
     <name>PeoplePage</name>

@@ -1472,6 +1472,18 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <source>Open it on a computer, or ask whoever made it for a file without a password.</source>
         <translation>コンピューターで開くか、作成者にパスワードなしのファイルを依頼してください。</translation>
     </message>
+    <message>
+        <source>There is no language &quot;%1&quot;.</source>
+        <translation>言語「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>Speak the language of that code, such as &quot;de&quot; (default: that of the environment).</source>
+        <translation>このコードの言語を使います。例: &quot;de&quot; (既定: 環境の言語)。</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>コード</translation>
+    </message>
 </context>
 <context>
     <name>PeoplePage</name>

@@ -1475,6 +1475,18 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <source>Open it on a computer, or ask whoever made it for a file without a password.</source>
         <translation>[Öpéñ îţ öñ å çömpûţéŕ, öŕ åšķ ŵĥöévéŕ måđé îţ föŕ å fîļé ŵîţĥöûţ å påššŵöŕđ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>There is no language "%1".</source>
+        <translation>[Ţĥéŕé îš ñö ļåñĝûåĝé "%1". ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Speak the language of that code, such as "de" (default: that of the environment).</source>
+        <translation>[Špéåķ ţĥé ļåñĝûåĝé öf ţĥåţ çöđé, šûçĥ åš "đé" (đéfåûļţ: ţĥåţ öf ţĥé éñvîŕöñméñţ). ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>[çöđé ~]</translation>
+    </message>
 </context>
 <context>
     <name>PeoplePage</name>

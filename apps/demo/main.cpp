@@ -2,6 +2,7 @@
 #include "common/complaint.h"
 #include "common/displaysetup.h"
 #include "common/screen.h"
+#include "common/translations.h"
 #include "demooptions.h"
 #include "demotypes.h"
 #include "follower.h"
@@ -80,7 +81,7 @@ int runFollower(Follower& follower)
 int runDemo(const DemoOptions& options)
 {
     uiutils::Host host;
-    if (!host.start({options.serviceFolders, options.root, resultServices()}))
+    if (!host.start({options.serviceFolders, options.root, resultServices(), {}, {translationsOf(QStringLiteral("examples"))}}))
         return exitFailed;
     QString error;
     if (!prepareInstrumentRoot(options.root, &error))

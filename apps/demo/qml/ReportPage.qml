@@ -24,7 +24,7 @@ KitPage {
         BodyText {
             objectName: "reportState"
             Layout.fillWidth: true
-            text: page.report.formatProblem || page.state
+            text: page.report.formatProblem || page.report.nameProblem || page.state
             muted: true
             maximumLineCount: 2
             elide: Text.ElideMiddle
@@ -36,8 +36,11 @@ KitPage {
             enabled: page.session.hasResults
             text: qsTr("Preview")
             onClicked: {
-                if (titleEntry.commit())
-                    preview.item.show()
+                if (!titleEntry.commit())
+                    return
+                // Who is quicker than the loader waits for it.
+                preview.asynchronous = false
+                preview.item.show()
             }
         },
         TouchButton {

@@ -16,6 +16,7 @@ KitPage {
             Layout.fillWidth: true
             text: page.changes.refusal
             keepsRoom: true
+            lines: 2
         },
         TouchButton {
             objectName: "revertAllButton"

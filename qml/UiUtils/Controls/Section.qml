@@ -75,6 +75,7 @@ ColumnLayout {
         id: column
         Layout.fillWidth: true
         visible: section.expanded
-        spacing: ControlsStyle.gap
+        // There may be targets among the contents.
+        spacing: ControlsStyle.touchGap
     }
 }

@@ -14,8 +14,11 @@ namespace uiutils {
 /// The language in which the texts are written; it needs no catalogue.
 constexpr char sourceLanguage[] = "en";
 
-/// The catalogues in a list of folders: "uiutils_LANGUAGE.qm", and "APPLICATION_LANGUAGE.qm" with the application's
-/// name. Those of a later folder have precedence.
+/// The installed folder of catalogues, or the folder of that name in it; empty if there is none.
+QString installedCatalogues(const QString& name = QString());
+
+/// The catalogues "NAME_LANGUAGE.qm" in a list of folders. Those of a later folder have precedence. In the installed
+/// folder, which many applications share, NAME is "uiutils" or the application's name; in all others it is any name.
 class Catalogues
 {
 public:
@@ -33,8 +36,7 @@ public:
     std::vector<std::unique_ptr<QTranslator>> load(const QString& code) const;
 
 private:
-    QStringList codesOf(const QString& name) const;
-
+    QString m_installed;
     QStringList m_folders;
 };
 
