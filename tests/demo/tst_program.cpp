@@ -2,6 +2,7 @@
 #include "files.h"
 
 #include <QImage>
+#include <QLibraryInfo>
 #include <QStandardPaths>
 
 namespace {
@@ -77,18 +78,32 @@ private Q_SLOTS:
         QVERIFY(m_folder->isValid());
     }
 
+    void tour_data()
+    {
+        addColumns<QByteArray>();
+        QTest::newRow("keys") << QByteArray("none");
+        QTest::newRow("on-screen keyboard") << QByteArray("qtvirtualkeyboard");
+    }
+
+    /// What is typed is the same, wherever the keyboard is.
     void tour()
     {
+        const auto [keyboard] = currentRow<QByteArray>();
+        const bool isOnScreen = keyboard != "none";
+        if (isOnScreen && !QFile::exists(QLibraryInfo::location(QLibraryInfo::PluginsPath) + "/platforminputcontexts/libqtvirtualkeyboardplugin.so"))
+            QSKIP("Qt Virtual Keyboard is not installed");
         // Numbers of three digits must be in order, too.
         const int samples = 100;
         const QString root = m_folder->filePath("a new/root");
-        const Outcome outcome = runDemo({"--tour", "--root", root, "--samples", QString::number(samples)});
+        const Outcome outcome = runDemo({"--tour", "--root", root, "--samples", QString::number(samples)}, {{"QT_IM_MODULE", keyboard}});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
         QCOMPARE(complaints(outcome), QString());
+        QCOMPARE(outcome.output.contains("Texts were typed on the on-screen keyboard."), isOnScreen);
 
         const QStringList reports = filesBelow(root + "/cust/public/reports");
         const QStringList pictures = filesBelow(root + "/pictures");
         QCOMPARE(reports.size(), 5);
+        QCOMPARE(QFileInfo(reports.constFirst()).fileName(), QString("lindhof.html"));
         QCOMPARE(pictures.size(), 19);
         const QStringList screenshots = filesBelow(root + "/cust/public/screenshots");
         QCOMPARE(screenshots.size(), 1);
