@@ -5,9 +5,12 @@ class PagesTroubleTest : public PagesFixture
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Results that are not saved are offered at the next start, and are the same; saved ones are not offered.
+    /// Results that are not saved are offered at the next start, and are the same, with their job; saved ones are not
+    /// offered.
     void draftSurvives()
     {
+        open("jobs");
+        press("job WO-88217");
         measure();
         const QVariantMap results = m_measurement->results();
         for (const bool isSaved : {false, true}) {
@@ -16,6 +19,8 @@ private Q_SLOTS:
             QTRY_VERIFY(find("discardButton"));
             press("nextButton");
             QCOMPARE(m_measurement->results(), results);
+            QCOMPARE(served(jobId), QVariant("WO-88217"));
+            QCOMPARE(served(":result:basemgr:jobmanager:jobBAN:"), QVariant("700 118 301"));
             QVERIFY(!find("discardButton"));
             if (isSaved)
                 QVERIFY(m_report->save());

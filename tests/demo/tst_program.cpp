@@ -115,6 +115,30 @@ private Q_SLOTS:
             checkPicture(picture);
     }
 
+    /// The results of a program that was killed are kept until they are saved, and no longer.
+    void killed_data()
+    {
+        addColumns<QString, bool>();
+        QTest::newRow("measured") << QString("07-measured") << true;
+        QTest::newRow("saved") << QString("12-question") << false;
+    }
+    void killed()
+    {
+        const auto [picture, isKept] = currentRow<QString, bool>();
+        const QString root = m_folder->filePath("root");
+        QProcess demo;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove("DISPLAY");
+        demo.setProcessEnvironment(environment);
+        demo.start(UIUTILS_DEMO_PROGRAM, {"--tour", "--root", root});
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(root + "/pictures/" + picture + ".png"), 60000);
+        demo.kill();
+        QVERIFY(demo.waitForFinished());
+        const QStringList kept = filesBelow(root + "/cust/private/drafts").filter(".draft");
+        QCOMPARE(kept.size(), isKept ? 1 : 0);
+        QCOMPARE(filesBelow(root + "/cust/public/reports").size(), isKept ? 0 : 5);
+    }
+
     /// Without a display, or with one that does not answer, the tour starts without being requested.
     void runsByItself()
     {

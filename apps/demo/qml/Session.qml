@@ -44,7 +44,12 @@ QtObject {
     readonly property ReportDraft draft: ReportDraft {
         draftId: "loopback"
         report: session.report
-        onRestored: session.measurement.restore(data)
+        onRestored: {
+            // Results belong to the job for which they were measured.
+            if (data.job && data.job.jobId !== session.jobId && services.basemgr !== undefined)
+                session.jobs.open(data.job)
+            session.measurement.restore(data)
+        }
     }
     readonly property LoopbackReport report: LoopbackReport {
         measurement: session.measurement
@@ -74,7 +79,8 @@ QtObject {
         function onFinished() {
             session.isSaved = false
             session.builder.build()
-            session.draft.data = session.measurement.results()
+            const isTaken = session.jobs.taken && session.jobs.taken.jobId === session.jobId
+            session.draft.data = Object.assign({ job: isTaken ? session.jobs.taken : null }, session.measurement.results())
         }
     }
 
