@@ -134,6 +134,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <source>%1 cannot be written: %2.</source>
         <translation>تتعذر كتابة %1: %2.</translation>
     </message>
+    <message>
+        <source>Texts were typed on the on-screen keyboard.</source>
+        <translation>كُتبت النصوص بلوحة المفاتيح على الشاشة.</translation>
+    </message>
 </context>
 <context>
     <name>DeskDrawer</name>
@@ -613,6 +617,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>Pictures</source>
         <translation>الصور</translation>
+    </message>
+    <message>
+        <source>%1, %2 % of the drive in use</source>
+        <translation>%1، المستخدَم من القرص %2 %</translation>
     </message>
 </context>
 <context>
@@ -1676,12 +1684,8 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <translation>لا توجد عينات بعد</translation>
     </message>
     <message>
-        <source>Limit</source>
-        <translation>الحد</translation>
-    </message>
-    <message>
-        <source>%1 to %2, jitter %3, %4</source>
-        <translation>‏%1 إلى %2، الارتعاش %3، %4</translation>
+        <source>%1 to %2, jitter %3</source>
+        <translation>‏%1 إلى %2، الارتعاش %3</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,10 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
         <source>%1 cannot be written: %2.</source>
         <translation>%1 kann nicht geschrieben werden: %2.</translation>
     </message>
+    <message>
+        <source>Texts were typed on the on-screen keyboard.</source>
+        <translation>Texte wurden auf der Bildschirmtastatur eingegeben.</translation>
+    </message>
 </context>
 <context>
     <name>DeskDrawer</name>
@@ -605,6 +609,10 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     <message>
         <source>Pictures</source>
         <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>%1, %2 % of the drive in use</source>
+        <translation>%1, Laufwerk zu %2 % belegt</translation>
     </message>
 </context>
 <context>
@@ -1660,12 +1668,8 @@ Exit-Status: 0 fertig, 1 die Datei konnte nicht gezeigt werden, 2 falsche Befehl
         <translation>Noch keine Messwerte</translation>
     </message>
     <message>
-        <source>Limit</source>
-        <translation>Grenzwert</translation>
-    </message>
-    <message>
-        <source>%1 to %2, jitter %3, %4</source>
-        <translation>%1 bis %2, Jitter %3, %4</translation>
+        <source>%1 to %2, jitter %3</source>
+        <translation>%1 bis %2, Jitter %3</translation>
     </message>
 </context>
 <context>
@@ -2742,7 +2746,7 @@ Ordner: %2</translation>
     </message>
     <message>
         <source>Sunlight</source>
-        <translation>Sonnenlicht</translation>
+        <translation>Sonne</translation>
     </message>
     <message>
         <source>Theme</source>

@@ -134,6 +134,10 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
         <source>%1 cannot be written: %2.</source>
         <translation>No se puede escribir %1: %2.</translation>
     </message>
+    <message>
+        <source>Texts were typed on the on-screen keyboard.</source>
+        <translation>Los textos se escribieron con el teclado en pantalla.</translation>
+    </message>
 </context>
 <context>
     <name>DeskDrawer</name>
@@ -605,6 +609,10 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     <message>
         <source>Pictures</source>
         <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>%1, %2 % of the drive in use</source>
+        <translation>%1, %2 % de la unidad en uso</translation>
     </message>
 </context>
 <context>
@@ -1660,12 +1668,8 @@ Código de salida: 0 hecho, 1 no se pudo mostrar el archivo, 2 línea de órdene
         <translation>Aún no hay muestras</translation>
     </message>
     <message>
-        <source>Limit</source>
-        <translation>Límite</translation>
-    </message>
-    <message>
-        <source>%1 to %2, jitter %3, %4</source>
-        <translation>%1 a %2, fluctuación %3, %4</translation>
+        <source>%1 to %2, jitter %3</source>
+        <translation>%1 a %2, fluctuación %3</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,10 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
         <source>%1 cannot be written: %2.</source>
         <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
     </message>
+    <message>
+        <source>Texts were typed on the on-screen keyboard.</source>
+        <translation>Les textes ont été saisis au clavier à l’écran.</translation>
+    </message>
 </context>
 <context>
     <name>DeskDrawer</name>
@@ -605,6 +609,10 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     <message>
         <source>Pictures</source>
         <translation>Images</translation>
+    </message>
+    <message>
+        <source>%1, %2 % of the drive in use</source>
+        <translation>%1, %2 % du disque occupés</translation>
     </message>
 </context>
 <context>
@@ -1660,12 +1668,8 @@ Code de sortie&#xa0;: 0 terminé, 1 le fichier n’a pas pu être affiché, 2 li
         <translation>Aucun échantillon</translation>
     </message>
     <message>
-        <source>Limit</source>
-        <translation>Limite</translation>
-    </message>
-    <message>
-        <source>%1 to %2, jitter %3, %4</source>
-        <translation>%1 à %2, gigue %3, %4</translation>
+        <source>%1 to %2, jitter %3</source>
+        <translation>%1 à %2, gigue %3</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <source>%1 cannot be written: %2.</source>
         <translation>%1 に書き込めません: %2。</translation>
     </message>
+    <message>
+        <source>Texts were typed on the on-screen keyboard.</source>
+        <translation>テキストは画面キーボードで入力されました。</translation>
+    </message>
 </context>
 <context>
     <name>DeskDrawer</name>
@@ -603,6 +607,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>Pictures</source>
         <translation>画像</translation>
+    </message>
+    <message>
+        <source>%1, %2 % of the drive in use</source>
+        <translation>%1、ドライブ使用率 %2 %</translation>
     </message>
 </context>
 <context>
@@ -1656,12 +1664,8 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <translation>サンプルがまだありません</translation>
     </message>
     <message>
-        <source>Limit</source>
-        <translation>限度値</translation>
-    </message>
-    <message>
-        <source>%1 to %2, jitter %3, %4</source>
-        <translation>%1 ～ %2、ジッター %3、%4</translation>
+        <source>%1 to %2, jitter %3</source>
+        <translation>%1 ～ %2、ジッター %3</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <source>%1 cannot be written: %2.</source>
         <translation>[%1 çåññöţ bé ŵŕîţţéñ: %2. ~ ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>Texts were typed on the on-screen keyboard.</source>
+        <translation>[Ţéxţš ŵéŕé ţýpéđ öñ ţĥé öñ-šçŕééñ ķéýböåŕđ. ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>DeskDrawer</name>
@@ -605,6 +609,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>Pictures</source>
         <translation>[Pîçţûŕéš ~]</translation>
+    </message>
+    <message>
+        <source>%1, %2 % of the drive in use</source>
+        <translation>[%1, %2 % öf ţĥé đŕîvé îñ ûšé ~ ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>
@@ -1660,12 +1668,8 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <translation>[Ñö šåmpļéš ýéţ ~ ~]</translation>
     </message>
     <message>
-        <source>Limit</source>
-        <translation>[Ļîmîţ ~]</translation>
-    </message>
-    <message>
-        <source>%1 to %2, jitter %3, %4</source>
-        <translation>[%1 ţö %2, ĵîţţéŕ %3, %4 ~ ~ ~ ~]</translation>
+        <source>%1 to %2, jitter %3</source>
+        <translation>[%1 ţö %2, ĵîţţéŕ %3 ~ ~ ~]</translation>
     </message>
 </context>
 <context>

@@ -121,6 +121,8 @@ int runDemo(const DemoOptions& options)
     auto* const camera = window->property("camera").value<ScreenCamera*>();
     Tour tour(window, &measurement, report, camera, options.root + QStringLiteral("/pictures/"));
     const int exitCode = options.isTour || isOffScreen ? runTour(tour) : QCoreApplication::exec();
+    if (tour.hasUsedScreenKeyboard())
+        say(Texts::tr("Texts were typed on the on-screen keyboard."));
     list(Texts::tr("Reports:"), report->savedFiles());
     list(Texts::tr("Screenshots:"), camera->pictures());
     list(Texts::tr("Pictures:"), tour.pictures());

@@ -19,6 +19,12 @@ KitPage {
         return titleEntry.commit() && nameEntry.commit() && canSave && report.save()
     }
 
+    // A tap that bounces off a glove does not ask whether to overwrite what it has saved.
+    Timer {
+        id: secondTap
+        interval: Qt.styleHints.mouseDoubleClickInterval
+    }
+
     Accessible.name: qsTr("Report")
     footer: [
         BodyText {
@@ -47,9 +53,12 @@ KitPage {
             objectName: "saveButton"
             iconName: "save"
             filled: true
-            enabled: page.canSave
+            enabled: page.canSave && !secondTap.running
             text: qsTr("Save")
-            onClicked: page.save()
+            onClicked: {
+                page.save()
+                secondTap.restart()
+            }
         }
     ]
 

@@ -44,7 +44,7 @@ KitPage {
         ListRow {
             Layout.fillWidth: true
             title: modelData.label
-            value: qsTr("%1 \u2192 %2").arg(modelData.before).arg(modelData.after)
+            value: qsTr("%1 \u2192 %2").arg(page.session.isolated(modelData.before)).arg(page.session.isolated(modelData.after))
             enabled: true
         }
     }

@@ -75,6 +75,8 @@ Entry {
                     text: modelData.label
                     checked: entry.currentIndex === index
                     isDivided: index > 0 && entry.currentIndex !== index && entry.currentIndex !== index - 1
+                    // A button that is checked would uncheck itself.
+                    onToggled: checked = Qt.binding(() => entry.currentIndex === index)
                     onClicked: entry.take(index)
                 }
             }
