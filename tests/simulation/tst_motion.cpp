@@ -110,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(values, expected);
     }
 
-    /// A walk stays in its range, its steps are no longer than they may be, and it gets about.
+    /// A walk stays in its range, its steps are no longer than they may be, it turns at the limits, and it gets about.
     void walk()
     {
         Motion motion = motionOf(Motion::Walk, KIVClientItem::TypeDouble, {-1, 1});
@@ -122,6 +122,7 @@ private Q_SLOTS:
         double longest = 0;
         for (int i = 1; i < values.size(); ++i) {
             const double value = values.at(i).toDouble();
+            QVERIFY2(value != values.at(i - 1).toDouble(), "it sticks to its limit");
             least = std::min(least, value);
             most = std::max(most, value);
             longest = std::max(longest, std::abs(value - values.at(i - 1).toDouble()));

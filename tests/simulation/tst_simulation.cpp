@@ -254,12 +254,42 @@ private Q_SLOTS:
         s.to(1000);
         QCOMPARE(answers(), (QStringList {"Locked.", "Locked.", "ok", "!Locked.", "40"}));
         s.to(1600);
-        QCOMPARE(answers(), (QStringList {"Locked.", "Locked.", "ok", "!Locked.", "90"}));
+        QCOMPARE(answers(), (QStringList {"Locked.", "Hot.", "ok", "!Locked.", "90"}));
         s.to(2000);
         QCOMPARE(answers(), (QStringList {"Sealed.", "Hot.", "ok", "Done.", "40"}));
         s.to(3000);
         QCOMPARE(answers(), usual);
         QCOMPARE(s.driver->due(), never);
+    }
+
+    /// What is done to items by hand elsewhere can be done by the file, and is undone.
+    void conditions()
+    {
+        SimulatedService s(service(R"(
+            {"id": ":result:s:a:", "type": "int", "value": 1, "quality": "warning"},
+            {"id": ":result:s:b:", "type": "int", "value": 1, "judged": {"passing": {"to": 1}}, "applicable": false},
+            {"id": ":result:s:c:", "type": "std::string", "value": "x", "moves": {"as": "steps", "every": 1000, "values": ["x", null]}},
+            {"id": ":action:s:clear:", "type": "action", "does": {"set": {":result:s:a:": null}}})",
+                R"([{"after": 1000, "for": 1000, "quality": "failing", "items": [":result:"]}, {"after": 1000, "for": 2000, "applicable": false}])"));
+        const auto seen = [&s] {
+            QStringList seen;
+            for (const char* id : {":result:s:a:", ":result:s:b:", ":result:s:c:"})
+                seen += QString("%1 %2 %3").arg(s.item(id)->getQualityCode()).arg(s.item(id)->isApplicable()).arg(s.value(id).toString());
+            return seen;
+        };
+        QCOMPARE(seen(), (QStringList {"32 1 1", "16 0 1", "0 1 x"}));
+        s.to(1000);
+        QCOMPARE(seen(), (QStringList {"64 0 1", "64 0 1", "64 0 "}));
+        QVERIFY(!s.value(":result:s:c:").isValid());
+        s.backend.service("s")->setValue(":result:s:b:", 0);
+        QCOMPARE(s.item(":result:s:b:")->getQualityCode(), int(KIVClientItem::QualityFailing));
+        s.backend.service("s")->setReady(":result:s:a:", false);
+        s.to(2000);
+        QCOMPARE(seen(), (QStringList {"32 0 1", "16 0 0", "0 0 x"}));
+        s.to(3000);
+        QCOMPARE(s.act(":action:s:clear:"), QString());
+        QCOMPARE(seen(), (QStringList {"32 1 ", "16 0 0", "0 1 "}));
+        QVERIFY(!s.value(":result:s:a:").isValid() && !s.item(":result:s:a:")->isReady());
     }
 
     /// A service that vanishes ends what it does, and what it published goes on when it returns.
