@@ -159,6 +159,14 @@ private Q_SLOTS:
         QCOMPARE(most, 5.2);
         QCOMPARE(valuesOf(motion, {17}), valuesOf(motion, {3, 9, 17}).mid(2));
 
+        // What has no value gets none of noise.
+        motion.start = QVariant();
+        QCOMPARE(valuesOf(motion, {1}), QVariantList {QVariant()});
+        motion.kind = Motion::List;
+        motion.values = QVariantList {4., QVariant()};
+        const QVariantList gaps = valuesOf(motion, {0, 1});
+        QVERIFY(std::abs(gaps.at(0).toDouble() - 4) <= 0.5 && !gaps.at(1).isValid());
+
         // Every point of a curve has noise of its own.
         motion = motionOf(Motion::Constant, KIVClientItem::TypeDoubleArray);
         motion.start = QVariantList {0., 10.};
