@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace uiutils {
@@ -30,6 +31,14 @@ FolderLock::~FolderLock()
 {
     if (m_fd >= 0)
         ::close(m_fd);
+}
+
+bool FolderLock::isAt(const QString& folder) const
+{
+    struct stat locked = {};
+    struct stat there = {};
+    return ::fstat(m_fd, &locked) == 0 && ::stat(QFile::encodeName(folder).constData(), &there) == 0
+            && locked.st_dev == there.st_dev && locked.st_ino == there.st_ino;
 }
 
 /// Polls, because a lock that the system waits for cannot be given up in time.

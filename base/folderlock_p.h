@@ -17,6 +17,8 @@ public:
 
     bool isLocked() const { return m_error.isEmpty(); }
     QString error() const { return m_error; }
+    /// Whether the path still leads to the locked folder. Somebody may have removed it, and made another of that name.
+    bool isAt(const QString& folder) const;
 
 private:
     bool wait(int patience) const;

@@ -229,7 +229,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <name>DurableFile</name>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation>تتعذر كتابة %1: %2</translation>
+        <translation>تتعذر كتابة ⁦%1⁩: %2</translation>
     </message>
     <message>
         <source>The path holds a NUL character</source>
@@ -237,15 +237,15 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>Cannot create a file in the folder of %1: %2</source>
-        <translation>يتعذر إنشاء ملف في مجلد %1: %2</translation>
+        <translation>يتعذر إنشاء ملف في مجلد ⁦%1⁩: %2</translation>
     </message>
     <message>
         <source>Cannot replace %1: %2</source>
-        <translation>يتعذر استبدال %1: %2</translation>
+        <translation>يتعذر استبدال ⁦%1⁩: %2</translation>
     </message>
     <message>
         <source>Cannot make sure that %1 survives a power cut: %2</source>
-        <translation>لا يمكن ضمان بقاء %1 بعد انقطاع التيار: %2</translation>
+        <translation>لا يمكن ضمان بقاء ⁦%1⁩ بعد انقطاع التيار: %2</translation>
     </message>
 </context>
 <context>
@@ -407,7 +407,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>Drive %1 is full</source>
-        <translation>محرك الأقراص %1 ممتلئ</translation>
+        <translation>محرك الأقراص ⁦%1⁩ ممتلئ</translation>
     </message>
     <message>
         <source>Read Error</source>
@@ -415,7 +415,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>There was an error reading %1</source>
-        <translation>حدث خطأ أثناء قراءة %1</translation>
+        <translation>حدث خطأ أثناء قراءة ⁦%1⁩</translation>
     </message>
     <message>
         <source>Write Error</source>
@@ -423,11 +423,11 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>There was an error writing to %1</source>
-        <translation>حدث خطأ أثناء كتابة %1</translation>
+        <translation>حدث خطأ أثناء كتابة ⁦%1⁩</translation>
     </message>
     <message>
         <source>Not enough disk space for %1 - would need %2</source>
-        <translation>لا توجد مساحة كافية لـ %1 - المطلوب %2</translation>
+        <translation>لا توجد مساحة كافية لـ ⁦%1⁩ - المطلوب %2</translation>
     </message>
     <message>
         <source>Not Enough Space</source>
@@ -439,7 +439,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>Do you want to overwrite %1 %2?</source>
-        <translation>هل تريد استبدال %1 %2؟</translation>
+        <translation>هل تريد استبدال %1 ⁦%2⁩؟</translation>
     </message>
     <message>
         <source>File Exists</source>
@@ -455,11 +455,11 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>Do you want to delete the %1 %2?</source>
-        <translation>هل تريد حذف %1 %2؟</translation>
+        <translation>هل تريد حذف %1 ⁦%2⁩؟</translation>
     </message>
     <message>
         <source>Delete %1</source>
-        <translation>حذف %1</translation>
+        <translation>حذف ⁦%1⁩</translation>
     </message>
     <message>
         <source>Report Exists</source>
@@ -467,11 +467,11 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>Do you want to overwrite report %1?</source>
-        <translation>هل تريد استبدال التقرير %1؟</translation>
+        <translation>هل تريد استبدال التقرير ⁦%1⁩؟</translation>
     </message>
     <message>
         <source>Do you want to overwrite screenshot %1?</source>
-        <translation>هل تريد استبدال لقطة الشاشة %1؟</translation>
+        <translation>هل تريد استبدال لقطة الشاشة ⁦%1⁩؟</translation>
     </message>
     <message>
         <source>Internal:</source>
@@ -1767,7 +1767,7 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
     <message>
         <source>Cannot write %1: %2</source>
-        <translation>تتعذر كتابة %1: %2</translation>
+        <translation>تتعذر كتابة ⁦%1⁩: %2</translation>
     </message>
     <message>
         <source>the USB drive is not there</source>
@@ -1775,7 +1775,7 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
     <message>
         <source>Cannot read %1: %2</source>
-        <translation>تتعذر قراءة %1: %2</translation>
+        <translation>تتعذر قراءة ⁦%1⁩: %2</translation>
     </message>
     <message>
         <source>it has more than 1 MiB</source>
@@ -1787,7 +1787,7 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
     <message>
         <source>Cannot lock %1: %2</source>
-        <translation>يتعذر قفل %1: %2</translation>
+        <translation>يتعذر قفل ⁦%1⁩: %2</translation>
     </message>
     <message>
         <source>%1 contains a line feed</source>
@@ -1795,7 +1795,7 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
     <message>
         <source>Cannot compress %1: %2</source>
-        <translation>يتعذر ضغط %1: %2</translation>
+        <translation>يتعذر ضغط ⁦%1⁩: %2</translation>
     </message>
     <message>
         <source>gzip is missing or has failed</source>
@@ -1807,11 +1807,11 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
     <message>
         <source>%1 is still on the list of reports that are not synced.</source>
-        <translation>لا يزال %1 في قائمة التقارير غير المتزامنة.</translation>
+        <translation>لا يزال ⁦%1⁩ في قائمة التقارير غير المتزامنة.</translation>
     </message>
     <message>
         <source>The cloud may take %1, although it is not to be synced.</source>
-        <translation>قد تأخذ السحابة %1 مع أنه لا ينبغي مزامنته.</translation>
+        <translation>قد تأخذ السحابة ⁦%1⁩ مع أنه لا ينبغي مزامنته.</translation>
     </message>
     <message>
         <source>Report Saved</source>
@@ -1820,8 +1820,8 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     <message>
         <source>Report %1 saved
 Folder: %2</source>
-        <translation>تم حفظ التقرير %1
-المجلد: %2</translation>
+        <translation>تم حفظ التقرير ⁦%1⁩
+المجلد: ⁦%2⁩</translation>
     </message>
     <message>
         <source>No format is chosen to save the report in.</source>
@@ -1943,7 +1943,7 @@ Folder: %2</source>
     </message>
     <message>
         <source>Cannot print %1: %2</source>
-        <translation>تتعذر طباعة %1: %2</translation>
+        <translation>تتعذر طباعة ⁦%1⁩: %2</translation>
     </message>
     <message>
         <source>another file is being printed</source>
@@ -1978,11 +1978,11 @@ Folder: %2</source>
     </message>
     <message>
         <source>Saved in %1</source>
-        <translation>محفوظ في %1</translation>
+        <translation>محفوظ في ⁦%1⁩</translation>
     </message>
     <message>
         <source>Will be saved in %1</source>
-        <translation>سيُحفظ في %1</translation>
+        <translation>سيُحفظ في ⁦%1⁩</translation>
     </message>
     <message>
         <source>Report</source>
@@ -3862,7 +3862,7 @@ Folder: %2</source>
     <name>uiutils::demo::UsbStick</name>
     <message>
         <source>The files in %1 cannot be moved to %2: %3.</source>
-        <translation>يتعذر نقل الملفات من %1 إلى %2: %3.</translation>
+        <translation>يتعذر نقل الملفات من ⁦%1⁩ إلى ⁦%2⁩: %3.</translation>
     </message>
     <message>
         <source>No service of this instrument knows of USB drives.</source>

@@ -1429,7 +1429,7 @@ Exit-Status: 0 fertig, 1 die Datei konnte nicht gezeigt werden, 2 falsche Befehl
     </message>
     <message>
         <source>The file holds more than %1 MiB, which is more than this unit can show.</source>
-        <translation>Die Datei hat mehr als %1 MiB. So viel kann dieses Gerät nicht zeigen.</translation>
+        <translation>Die Datei hat mehr als %1&#xa0;MiB. So viel kann dieses Gerät nicht zeigen.</translation>
     </message>
     <message>
         <source>This is not a PDF file.</source>
@@ -1541,19 +1541,19 @@ Exit-Status: 0 fertig, 1 die Datei konnte nicht gezeigt werden, 2 falsche Befehl
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 d</translation>
+        <translation>%1&#xa0;d</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 h</translation>
+        <translation>%1&#xa0;h</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -1580,7 +1580,7 @@ Exit-Status: 0 fertig, 1 die Datei konnte nicht gezeigt werden, 2 falsche Befehl
     </message>
     <message>
         <source>%1: larger than the %2 MiB that a document may have</source>
-        <translation>%1: größer als die %2 MiB, die ein Dokument haben darf</translation>
+        <translation>%1: größer als die %2&#xa0;MiB, die ein Dokument haben darf</translation>
     </message>
     <message>
         <source>%1: cannot be read: %2</source>
@@ -2244,7 +2244,7 @@ Ordner: %2</translation>
     </message>
     <message>
         <source>The service %1 did not answer within %2 ms. It may still carry out the request.</source>
-        <translation>Der Dienst %1 hat in %2 ms nicht geantwortet. Die Anfrage wird vielleicht noch ausgeführt.</translation>
+        <translation>Der Dienst %1 hat in %2&#xa0;ms nicht geantwortet. Die Anfrage wird vielleicht noch ausgeführt.</translation>
     </message>
     <message>
         <source>There are no properties of %1.</source>
@@ -2829,7 +2829,7 @@ Ordner: %2</translation>
     </message>
     <message>
         <source>The service %1 did not answer within %2 ms. It may still carry out the request.</source>
-        <translation>Der Dienst %1 hat in %2 ms nicht geantwortet. Die Anfrage wird vielleicht noch ausgeführt.</translation>
+        <translation>Der Dienst %1 hat in %2&#xa0;ms nicht geantwortet. Die Anfrage wird vielleicht noch ausgeführt.</translation>
     </message>
 </context>
 <context>
@@ -3656,11 +3656,11 @@ Ordner: %2</translation>
     </message>
     <message>
         <source>Measured with a TCP client and a TCP server of this program over the loopback interface of this unit. Round-trip time: %1 samples, each the time from sending a message of %2 bytes until all of its echo had arrived. Throughput: %6 samples, each the time for sending %3 MiB until the server had acknowledged the last byte; 1 Mbit/s is 1,000,000 bits a second. Between samples there is a pause of %4 ms, and one exchange of each kind before the first sample is not counted. Jitter is the mean difference between neighbouring samples. A value passes when it meets its limit with a margin of at least %5 %, is marginal when it meets it with less, and fails when it does not meet it; the overall status is that of the worse median.</source>
-        <translation>Gemessen mit einem TCP-Client und einem TCP-Server dieses Programms über die Loopback-Schnittstelle dieses Geräts. Umlaufzeit: %1 Messwerte, jeweils die Zeit vom Senden einer Nachricht von %2 Byte, bis ihr Echo ganz angekommen war. Durchsatz: %6 Messwerte, jeweils die Zeit für das Senden von %3 MiB, bis der Server das letzte Byte bestätigt hatte; 1 Mbit/s sind 1 000 000 Bit je Sekunde. Zwischen Messwerten liegt eine Pause von %4 ms; ein Austausch jeder Art vor dem ersten Messwert zählt nicht. Jitter ist die mittlere Differenz benachbarter Messwerte. Ein Wert besteht, wenn er den Grenzwert mit mindestens %5 % Abstand einhält, ist grenzwertig, wenn er ihn mit weniger einhält, und fällt durch, wenn er ihn nicht einhält; das Gesamtergebnis ist das des schlechteren Medians.</translation>
+        <translation>Gemessen mit einem TCP-Client und einem TCP-Server dieses Programms über die Loopback-Schnittstelle dieses Geräts. Umlaufzeit: %1 Messwerte, jeweils die Zeit vom Senden einer Nachricht von %2 Byte, bis ihr Echo ganz angekommen war. Durchsatz: %6 Messwerte, jeweils die Zeit für das Senden von %3&#xa0;MiB, bis der Server das letzte Byte bestätigt hatte; 1 Mbit/s sind 1 000 000 Bit je Sekunde. Zwischen Messwerten liegt eine Pause von %4&#xa0;ms; ein Austausch jeder Art vor dem ersten Messwert zählt nicht. Jitter ist die mittlere Differenz benachbarter Messwerte. Ein Wert besteht, wenn er den Grenzwert mit mindestens %5 % Abstand einhält, ist grenzwertig, wenn er ihn mit weniger einhält, und fällt durch, wenn er ihn nicht einhält; das Gesamtergebnis ist das des schlechteren Medians.</translation>
     </message>
     <message>
         <source>A run takes %1 to %2 samples of each and messages of %3 B or more; other values are changed to the nearest permitted one.</source>
-        <translation>Eine Messung hat %1 bis %2 Messwerte je Größe und Nachrichten ab %3 B; andere Werte werden auf den nächsten zulässigen geändert.</translation>
+        <translation>Eine Messung hat %1 bis %2 Messwerte je Größe und Nachrichten ab %3&#xa0;B; andere Werte werden auf den nächsten zulässigen geändert.</translation>
     </message>
 </context>
 <context>
@@ -3679,7 +3679,7 @@ Ordner: %2</translation>
     </message>
     <message>
         <source>The server at %1 was silent for %2 s while %3. Check that the loopback interface is up and that no firewall blocks it, then start again.</source>
-        <translation>Der Server an %1 schwieg %2 s lang (%3). Prüfen Sie, ob die Loopback-Schnittstelle aktiv ist und keine Firewall sie sperrt, und starten Sie erneut.</translation>
+        <translation>Der Server an %1 schwieg %2&#xa0;s lang (%3). Prüfen Sie, ob die Loopback-Schnittstelle aktiv ist und keine Firewall sie sperrt, und starten Sie erneut.</translation>
     </message>
     <message>
         <source>connecting</source>
@@ -3756,7 +3756,7 @@ Ordner: %2</translation>
     </message>
     <message>
         <source>The window was not drawn for %1 s.</source>
-        <translation>Das Fenster wurde %1 s lang nicht gezeichnet.</translation>
+        <translation>Das Fenster wurde %1&#xa0;s lang nicht gezeichnet.</translation>
     </message>
     <message>
         <source>The picture of the window is empty.</source>
@@ -3779,7 +3779,7 @@ Ordner: %2</translation>
     </message>
     <message>
         <source>The tour waited for %1 s in vain: %2. Keep the window in sight, and leave it alone.</source>
-        <translation>Der Rundgang hat %1 s vergeblich gewartet: %2. Halten Sie das Fenster sichtbar und rühren Sie es nicht an.</translation>
+        <translation>Der Rundgang hat %1&#xa0;s vergeblich gewartet: %2. Halten Sie das Fenster sichtbar und rühren Sie es nicht an.</translation>
     </message>
     <message>
         <source>the job is open</source>

@@ -1429,7 +1429,7 @@ Código de salida: 0 hecho, 1 no se pudo mostrar el archivo, 2 línea de órdene
     </message>
     <message>
         <source>The file holds more than %1 MiB, which is more than this unit can show.</source>
-        <translation>El archivo tiene más de %1 MiB, más de lo que este equipo puede mostrar.</translation>
+        <translation>El archivo tiene más de %1&#xa0;MiB, más de lo que este equipo puede mostrar.</translation>
     </message>
     <message>
         <source>This is not a PDF file.</source>
@@ -1541,19 +1541,19 @@ Código de salida: 0 hecho, 1 no se pudo mostrar el archivo, 2 línea de órdene
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 d</translation>
+        <translation>%1&#xa0;d</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 h</translation>
+        <translation>%1&#xa0;h</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -1580,7 +1580,7 @@ Código de salida: 0 hecho, 1 no se pudo mostrar el archivo, 2 línea de órdene
     </message>
     <message>
         <source>%1: larger than the %2 MiB that a document may have</source>
-        <translation>%1: supera los %2 MiB que puede tener un documento</translation>
+        <translation>%1: supera los %2&#xa0;MiB que puede tener un documento</translation>
     </message>
     <message>
         <source>%1: cannot be read: %2</source>
@@ -2244,7 +2244,7 @@ Carpeta: %2</translation>
     </message>
     <message>
         <source>The service %1 did not answer within %2 ms. It may still carry out the request.</source>
-        <translation>El servicio %1 no respondió en %2 ms. Aún puede ejecutar la petición.</translation>
+        <translation>El servicio %1 no respondió en %2&#xa0;ms. Aún puede ejecutar la petición.</translation>
     </message>
     <message>
         <source>There are no properties of %1.</source>
@@ -2829,7 +2829,7 @@ Carpeta: %2</translation>
     </message>
     <message>
         <source>The service %1 did not answer within %2 ms. It may still carry out the request.</source>
-        <translation>El servicio %1 no respondió en %2 ms. Aún puede ejecutar la petición.</translation>
+        <translation>El servicio %1 no respondió en %2&#xa0;ms. Aún puede ejecutar la petición.</translation>
     </message>
 </context>
 <context>
@@ -2875,11 +2875,11 @@ Carpeta: %2</translation>
     <name>ServiceValue</name>
     <message>
         <source>%1 or more</source>
-        <translation>%1 o más</translation>
+        <translation>%1&#xa0;o más</translation>
     </message>
     <message>
         <source>%1 or less</source>
-        <translation>%1 o menos</translation>
+        <translation>%1&#xa0;o menos</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -3656,11 +3656,11 @@ Carpeta: %2</translation>
     </message>
     <message>
         <source>Measured with a TCP client and a TCP server of this program over the loopback interface of this unit. Round-trip time: %1 samples, each the time from sending a message of %2 bytes until all of its echo had arrived. Throughput: %6 samples, each the time for sending %3 MiB until the server had acknowledged the last byte; 1 Mbit/s is 1,000,000 bits a second. Between samples there is a pause of %4 ms, and one exchange of each kind before the first sample is not counted. Jitter is the mean difference between neighbouring samples. A value passes when it meets its limit with a margin of at least %5 %, is marginal when it meets it with less, and fails when it does not meet it; the overall status is that of the worse median.</source>
-        <translation>Medido con un cliente TCP y un servidor TCP de este programa por la interfaz de bucle de este equipo. Tiempo de ida y vuelta: %1 muestras, cada una el tiempo desde el envío de un mensaje de %2 bytes hasta la llegada de todo su eco. Caudal: %6 muestras, cada una el tiempo de envío de %3 MiB hasta que el servidor confirmó el último byte; 1 Mbit/s son 1 000 000 bits por segundo. Entre muestras hay una pausa de %4 ms, y un intercambio de cada clase antes de la primera no cuenta. La fluctuación es la diferencia media entre muestras vecinas. Un valor es conforme si cumple su límite con un margen de al menos %5 %, es marginal si lo cumple con menos y no es conforme si no lo cumple; el resultado global es el de la peor mediana.</translation>
+        <translation>Medido con un cliente TCP y un servidor TCP de este programa por la interfaz de bucle de este equipo. Tiempo de ida y vuelta: %1 muestras, cada una el tiempo desde el envío de un mensaje de %2 bytes hasta la llegada de todo su eco. Caudal: %6 muestras, cada una el tiempo de envío de %3&#xa0;MiB hasta que el servidor confirmó el último byte; 1 Mbit/s son 1 000 000 bits por segundo. Entre muestras hay una pausa de %4&#xa0;ms, y un intercambio de cada clase antes de la primera no cuenta. La fluctuación es la diferencia media entre muestras vecinas. Un valor es conforme si cumple su límite con un margen de al menos %5 %, es marginal si lo cumple con menos y no es conforme si no lo cumple; el resultado global es el de la peor mediana.</translation>
     </message>
     <message>
         <source>A run takes %1 to %2 samples of each and messages of %3 B or more; other values are changed to the nearest permitted one.</source>
-        <translation>Una medición toma de %1 a %2 muestras de cada magnitud y mensajes de %3 B o más; otros valores se cambian por el más próximo permitido.</translation>
+        <translation>Una medición toma de %1 a %2 muestras de cada magnitud y mensajes de %3&#xa0;B o más; otros valores se cambian por el más próximo permitido.</translation>
     </message>
 </context>
 <context>
@@ -3679,7 +3679,7 @@ Carpeta: %2</translation>
     </message>
     <message>
         <source>The server at %1 was silent for %2 s while %3. Check that the loopback interface is up and that no firewall blocks it, then start again.</source>
-        <translation>El servidor %1 calló durante %2 s (%3). Compruebe que la interfaz de bucle está activa y que ningún cortafuegos la bloquea, y empiece de nuevo.</translation>
+        <translation>El servidor %1 calló durante %2&#xa0;s (%3). Compruebe que la interfaz de bucle está activa y que ningún cortafuegos la bloquea, y empiece de nuevo.</translation>
     </message>
     <message>
         <source>connecting</source>
@@ -3756,7 +3756,7 @@ Carpeta: %2</translation>
     </message>
     <message>
         <source>The window was not drawn for %1 s.</source>
-        <translation>La ventana no se dibujó durante %1 s.</translation>
+        <translation>La ventana no se dibujó durante %1&#xa0;s.</translation>
     </message>
     <message>
         <source>The picture of the window is empty.</source>
@@ -3779,7 +3779,7 @@ Carpeta: %2</translation>
     </message>
     <message>
         <source>The tour waited for %1 s in vain: %2. Keep the window in sight, and leave it alone.</source>
-        <translation>El recorrido esperó %1 s en vano: %2. Mantenga la ventana a la vista y no la toque.</translation>
+        <translation>El recorrido esperó %1&#xa0;s en vano: %2. Mantenga la ventana a la vista y no la toque.</translation>
     </message>
     <message>
         <source>the job is open</source>

@@ -1429,7 +1429,7 @@ Code de sortie&#xa0;: 0 terminé, 1 le fichier n’a pas pu être affiché, 2 li
     </message>
     <message>
         <source>The file holds more than %1 MiB, which is more than this unit can show.</source>
-        <translation>Le fichier dépasse %1 Mio, plus que cet appareil ne peut afficher.</translation>
+        <translation>Le fichier dépasse %1&#xa0;Mio, plus que cet appareil ne peut afficher.</translation>
     </message>
     <message>
         <source>This is not a PDF file.</source>
@@ -1541,19 +1541,19 @@ Code de sortie&#xa0;: 0 terminé, 1 le fichier n’a pas pu être affiché, 2 li
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 j</translation>
+        <translation>%1&#xa0;j</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 h</translation>
+        <translation>%1&#xa0;h</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 min</translation>
+        <translation>%1&#xa0;min</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -1580,7 +1580,7 @@ Code de sortie&#xa0;: 0 terminé, 1 le fichier n’a pas pu être affiché, 2 li
     </message>
     <message>
         <source>%1: larger than the %2 MiB that a document may have</source>
-        <translation>%1&#xa0;: dépasse les %2 Mio permis à un document</translation>
+        <translation>%1&#xa0;: dépasse les %2&#xa0;Mio permis à un document</translation>
     </message>
     <message>
         <source>%1: cannot be read: %2</source>
@@ -2244,7 +2244,7 @@ Dossier&#xa0;: %2</translation>
     </message>
     <message>
         <source>The service %1 did not answer within %2 ms. It may still carry out the request.</source>
-        <translation>Le service %1 n’a pas répondu en %2 ms. Il peut encore exécuter la demande.</translation>
+        <translation>Le service %1 n’a pas répondu en %2&#xa0;ms. Il peut encore exécuter la demande.</translation>
     </message>
     <message>
         <source>There are no properties of %1.</source>
@@ -2829,7 +2829,7 @@ Dossier&#xa0;: %2</translation>
     </message>
     <message>
         <source>The service %1 did not answer within %2 ms. It may still carry out the request.</source>
-        <translation>Le service %1 n’a pas répondu en %2 ms. Il peut encore exécuter la demande.</translation>
+        <translation>Le service %1 n’a pas répondu en %2&#xa0;ms. Il peut encore exécuter la demande.</translation>
     </message>
 </context>
 <context>
@@ -3656,11 +3656,11 @@ Dossier&#xa0;: %2</translation>
     </message>
     <message>
         <source>Measured with a TCP client and a TCP server of this program over the loopback interface of this unit. Round-trip time: %1 samples, each the time from sending a message of %2 bytes until all of its echo had arrived. Throughput: %6 samples, each the time for sending %3 MiB until the server had acknowledged the last byte; 1 Mbit/s is 1,000,000 bits a second. Between samples there is a pause of %4 ms, and one exchange of each kind before the first sample is not counted. Jitter is the mean difference between neighbouring samples. A value passes when it meets its limit with a margin of at least %5 %, is marginal when it meets it with less, and fails when it does not meet it; the overall status is that of the worse median.</source>
-        <translation>Mesuré avec un client TCP et un serveur TCP de ce programme sur l’interface de bouclage de cet appareil. Temps aller-retour&#xa0;: %1 échantillons, chacun étant le temps entre l’envoi d’un message de %2 octets et l’arrivée complète de son écho. Débit&#xa0;: %6 échantillons, chacun étant le temps d’envoi de %3 Mio jusqu’à l’acquittement du dernier octet par le serveur&#xa0;; 1 Mbit/s vaut 1 000 000 bits par seconde. Une pause de %4 ms sépare les échantillons, et un échange de chaque sorte avant le premier ne compte pas. La gigue est l’écart moyen entre échantillons voisins. Une valeur est conforme si elle respecte sa limite avec une marge d’au moins %5&#xa0;%, limite si la marge est moindre, et non conforme sinon&#xa0;; le résultat global est celui de la moins bonne médiane.</translation>
+        <translation>Mesuré avec un client TCP et un serveur TCP de ce programme sur l’interface de bouclage de cet appareil. Temps aller-retour&#xa0;: %1 échantillons, chacun étant le temps entre l’envoi d’un message de %2 octets et l’arrivée complète de son écho. Débit&#xa0;: %6 échantillons, chacun étant le temps d’envoi de %3&#xa0;Mio jusqu’à l’acquittement du dernier octet par le serveur&#xa0;; 1 Mbit/s vaut 1 000 000 bits par seconde. Une pause de %4&#xa0;ms sépare les échantillons, et un échange de chaque sorte avant le premier ne compte pas. La gigue est l’écart moyen entre échantillons voisins. Une valeur est conforme si elle respecte sa limite avec une marge d’au moins %5&#xa0;%, limite si la marge est moindre, et non conforme sinon&#xa0;; le résultat global est celui de la moins bonne médiane.</translation>
     </message>
     <message>
         <source>A run takes %1 to %2 samples of each and messages of %3 B or more; other values are changed to the nearest permitted one.</source>
-        <translation>Une mesure prend de %1 à %2 échantillons de chaque grandeur et des messages d’au moins %3 o&#xa0;; les autres valeurs sont ramenées à la plus proche valeur permise.</translation>
+        <translation>Une mesure prend de %1 à %2 échantillons de chaque grandeur et des messages d’au moins %3&#xa0;o&#xa0;; les autres valeurs sont ramenées à la plus proche valeur permise.</translation>
     </message>
 </context>
 <context>
@@ -3679,7 +3679,7 @@ Dossier&#xa0;: %2</translation>
     </message>
     <message>
         <source>The server at %1 was silent for %2 s while %3. Check that the loopback interface is up and that no firewall blocks it, then start again.</source>
-        <translation>Le serveur %1 est resté muet %2 s (%3). Vérifiez que l’interface de bouclage est active et qu’aucun pare-feu ne la bloque, puis recommencez.</translation>
+        <translation>Le serveur %1 est resté muet %2&#xa0;s (%3). Vérifiez que l’interface de bouclage est active et qu’aucun pare-feu ne la bloque, puis recommencez.</translation>
     </message>
     <message>
         <source>connecting</source>
@@ -3756,7 +3756,7 @@ Dossier&#xa0;: %2</translation>
     </message>
     <message>
         <source>The window was not drawn for %1 s.</source>
-        <translation>La fenêtre n’a pas été dessinée pendant %1 s.</translation>
+        <translation>La fenêtre n’a pas été dessinée pendant %1&#xa0;s.</translation>
     </message>
     <message>
         <source>The picture of the window is empty.</source>
@@ -3779,7 +3779,7 @@ Dossier&#xa0;: %2</translation>
     </message>
     <message>
         <source>The tour waited for %1 s in vain: %2. Keep the window in sight, and leave it alone.</source>
-        <translation>La visite a attendu %1 s en vain&#xa0;: %2. Gardez la fenêtre visible et n’y touchez pas.</translation>
+        <translation>La visite a attendu %1&#xa0;s en vain&#xa0;: %2. Gardez la fenêtre visible et n’y touchez pas.</translation>
     </message>
     <message>
         <source>the job is open</source>

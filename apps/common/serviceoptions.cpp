@@ -30,6 +30,11 @@ ServiceOptions::ServiceOptions(const QString& program, const QString& rootHelp)
 {
 }
 
+bool ServiceOptions::areGiven(const QCommandLineParser& parser) const
+{
+    return parser.isSet(m_services);
+}
+
 QStringList ServiceOptions::folders(const QCommandLineParser& parser) const
 {
     return parser.isSet(m_services) ? parser.values(m_services) : m_ownFolders;

@@ -18,6 +18,8 @@ public:
 
     QList<QCommandLineOption> all() const { return {m_services, m_root}; }
 
+    /// Whether folders were given.
+    bool areGiven(const QCommandLineParser& parser) const;
     /// The folders that were given, else the default ones.
     QStringList folders(const QCommandLineParser& parser) const;
     /// Absolute.

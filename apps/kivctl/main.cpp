@@ -2,6 +2,7 @@
 #include "options.h"
 #include "output.h"
 #include "reading.h"
+#include "recording.h"
 #include "services.h"
 #include "watch.h"
 
@@ -38,6 +39,10 @@ int run(kivctl::Services& services, const kivctl::Options& options)
         return kivctl::load(services, options);
     case Command::Services:
         return kivctl::listServices(services, options);
+    case Command::Record:
+        return kivctl::record(services, options);
+    case Command::Replay:
+        return kivctl::replay(options);
     }
     return apps::exitMisused;
 }

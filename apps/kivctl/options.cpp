@@ -37,6 +37,8 @@ constexpr Syntax syntaxes[] = {
         {Command::Dump, "dump", "dump SERVICE", 1, 1},
         {Command::Load, "load", "load SERVICE FILE", 2, 2},
         {Command::Services, "services", "services", 0, 0},
+        {Command::Record, "record", "record FILE", 1, 1},
+        {Command::Replay, "replay", "replay FILE", 1, 1},
 };
 
 /// Null for a name that no command has.
@@ -56,7 +58,7 @@ Options misused(const QString& message)
 QString helpText()
 {
     return Texts::tr(R"(Usage: kivctl [OPTION]... COMMAND [ARGUMENT]...
-Read, set and watch the items of the instrument's services.
+Read, set, watch and record the items of the instrument's services.
 
 Commands:
   list [PREFIX]         list the items whose id begins with PREFIX, or all: id,
@@ -73,6 +75,13 @@ Commands:
   load SERVICE FILE     set the settings of a service as FILE, made by "dump",
                         has them: all or none
   services              list the services: name and number of items
+  record FILE           write every change of the services to FILE, with
+                        everything that they are at its beginning, until SIGINT
+                        or SIGTERM
+  replay FILE           publish the services of a recording on the bus and change
+                        them as they were changed; meanwhile an empty line on
+                        standard input pauses it or lets it go on, and a number
+                        of seconds jumps there
 
 Columns are separated by tabs. A control character in a text is shown as an
 escape such as \n or \u001B. The FILE "-" is standard input.
@@ -87,6 +96,15 @@ Options:
                          FOLDER describe; may be given more than once
       --root=FOLDER      without a bus: keep settings below FOLDER (default:
                          %2)
+      --only=SERVICE     record: this service alone; may be given more than once
+      --duration=S       record: end after S seconds
+      --gzip             record: compress, as a FILE that ends in .gz is
+      --attribute=NAME   record: this attribute of items as well; may be given
+                         more than once
+      --speed=FACTOR     replay: so many times faster (default: 1)
+      --from=S           replay: from second S on
+      --loop             replay: begin again at the end
+      --paused           replay: begin with a pause
   -h, --help             show this help
   -v, --version          show the version
 
@@ -113,6 +131,12 @@ Examples:
 
   kivctl dump optical > optical.json && kivctl load optical optical.json
                     keeps the settings of a service, and brings them back
+
+  kivctl record --duration 60 session.kivlog.gz
+                    records a minute of everything
+
+  kivctl replay --loop --speed 10 session.kivlog.gz
+                    plays it ten times faster, over and over
 )")
             .arg(QString::number(defaultTimeoutMs), defaultRoot(QStringLiteral("kivctl")));
 }
@@ -160,9 +184,81 @@ QString choosePlatform(bool hasFolders, Options* options)
     if (!kind)
         return problem;
     options->platform = hasFolders || kind == PlatformKind::Embedded ? Options::Embedded : Options::Bus;
-    if (options->platform == Options::Embedded && options->command == Command::Watch)
+    if (options->platform == Options::Bus)
+        return QString();
+    if (options->command == Command::Watch || options->command == Command::Record)
         return Texts::tr("There is nothing to watch without a bus: the services of this program do not change.");
+    if (options->command == Command::Replay)
+        return Texts::tr("A recording is replayed on a bus. \"uiutils-qml --replay\" shows a page over one without it.");
     return QString();
+}
+
+/// The options of recordings.
+struct RecordingOptions
+{
+    const QCommandLineOption only {QStringLiteral("only"), {}, QStringLiteral("SERVICE")};
+    const QCommandLineOption duration {QStringLiteral("duration"), {}, QStringLiteral("S")};
+    const QCommandLineOption gzip {QStringLiteral("gzip")};
+    const QCommandLineOption attribute {QStringLiteral("attribute"), {}, QStringLiteral("NAME")};
+    const QCommandLineOption speed {QStringLiteral("speed"), {}, QStringLiteral("FACTOR"), QStringLiteral("1")};
+    const QCommandLineOption from {QStringLiteral("from"), {}, QStringLiteral("S"), QStringLiteral("0")};
+    const QCommandLineOption loop {QStringLiteral("loop")};
+    const QCommandLineOption paused {QStringLiteral("paused")};
+
+    QList<QCommandLineOption> ofRecord() const { return {only, duration, gzip, attribute}; }
+    QList<QCommandLineOption> ofReplay() const { return {speed, from, loop, paused}; }
+
+    /// Returns what is wrong, or an empty text.
+    QString read(const QCommandLineParser& parser, Options* options) const;
+
+private:
+    static QString strayProblem(
+            const QCommandLineParser& parser, const QList<QCommandLineOption>& options, const char* command);
+};
+
+QString RecordingOptions::strayProblem(
+        const QCommandLineParser& parser, const QList<QCommandLineOption>& options, const char* command)
+{
+    for (const QCommandLineOption& option : options) {
+        if (parser.isSet(option))
+            return Texts::tr("--%1 is an option of \"%2\".").arg(option.names().constFirst(), QLatin1String(command));
+    }
+    return QString();
+}
+
+/// Returns a number of milliseconds, or a negative one.
+qint64 millisecondsIn(const QString& seconds)
+{
+    bool isNumber = false;
+    const double number = seconds.toDouble(&isNumber);
+    return isNumber && number >= 0 && number <= mostSeconds ? qint64(number * 1000) : -1;
+}
+
+QString RecordingOptions::read(const QCommandLineParser& parser, Options* options) const
+{
+    QString stray;
+    if (options->command != Command::Record)
+        stray = strayProblem(parser, ofRecord(), "record");
+    if (stray.isEmpty() && options->command != Command::Replay)
+        stray = strayProblem(parser, ofReplay(), "replay");
+    if (!stray.isEmpty())
+        return stray;
+    options->only = parser.values(only);
+    options->attributes = parser.values(attribute);
+    options->isCompressed = parser.isSet(gzip);
+    options->isLooped = parser.isSet(loop);
+    options->isPaused = parser.isSet(paused);
+    options->fromMs = millisecondsIn(parser.value(from));
+    if (options->fromMs < 0)
+        return Texts::tr("--from needs a number of seconds.");
+    const qint64 duration = parser.isSet(this->duration) ? millisecondsIn(parser.value(this->duration)) : 0;
+    if (duration < 0 || duration > INT_MAX || (duration == 0 && parser.isSet(this->duration)))
+        return Texts::tr("--duration needs a number of seconds above 0.");
+    options->durationMs = int(duration);
+    bool isNumber = false;
+    options->speed = parser.value(speed).toDouble(&isNumber);
+    const bool isSpeed = isNumber && options->speed >= 0.001 && options->speed <= 1e6;
+    return isSpeed ? QString() : Texts::tr("--speed needs a number from 0.001 to 1000000.");
 }
 
 } // namespace
@@ -176,11 +272,13 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption services({QStringLiteral("s"), QStringLiteral("services")}, {}, QStringLiteral("FOLDER"));
     const QCommandLineOption root(
             QStringLiteral("root"), {}, QStringLiteral("FOLDER"), defaultRoot(QStringLiteral("kivctl")));
-    parser.addOptions({json, timeout, services, root});
+    const RecordingOptions recording;
+    parser.addOptions(QList<QCommandLineOption> {json, timeout, services, root} + recording.ofRecord()
+            + recording.ofReplay());
     const apps::CommandLine line = apps::parse(parser, withNumbersLast(arguments), {helpText(), QString()});
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);
-    QString problem = apps::missingName(parser, {services, root});
+    QString problem = apps::missingName(parser, {services, root, recording.only, recording.attribute});
     if (!problem.isEmpty())
         return misused(problem);
 
@@ -188,6 +286,8 @@ Options readOptions(const QStringList& arguments)
     problem = chooseCommand(parser.positionalArguments(), &options);
     if (problem.isEmpty())
         problem = choosePlatform(parser.isSet(services), &options);
+    if (problem.isEmpty())
+        problem = recording.read(parser, &options);
     if (!problem.isEmpty())
         return misused(problem);
     bool isNumber = false;

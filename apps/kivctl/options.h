@@ -17,7 +17,12 @@ enum class Command {
     Dump,
     Load,
     Services,
+    Record,
+    Replay,
 };
+
+/// The longest time that an option may give: ten years.
+constexpr double mostSeconds = 10.0 * 366 * 24 * 3600;
 
 /// What the command line asks for.
 struct Options : apps::CommandLine
@@ -38,6 +43,21 @@ struct Options : apps::CommandLine
     QStringList serviceFolders;
     /// Absolute folder below which the instrument's paths lie.
     QString root;
+
+    // Of "record".
+    bool isCompressed = false;
+    /// 0 for no end.
+    int durationMs = 0;
+    /// The services that are recorded; empty for all.
+    QStringList only;
+    /// Attributes that are recorded beside the known ones.
+    QStringList attributes;
+
+    // Of "replay".
+    double speed = 1;
+    bool isLooped = false;
+    bool isPaused = false;
+    qint64 fromMs = 0;
 };
 
 /// Reads the arguments, the program's own name first. Needs a QCoreApplication.

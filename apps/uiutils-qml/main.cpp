@@ -1,6 +1,11 @@
 #include "options.h"
+#include "page.h"
 #include "pageaudit.h"
+#include "pagereload.h"
+#include "pagetest.h"
 #include "pagewindow.h"
+#include "replaydesk.h"
+#include "steppedtime.h"
 #include "texts.h"
 
 #include "audit/screenaudit.h"
@@ -16,12 +21,16 @@
 #include <QQuickWindow>
 
 #include <cstdio>
+#include <memory>
+#include <optional>
 
 using namespace uiutils;
 using apps::complain;
 using apps::exitDone;
 using apps::exitFailed;
 using qmltool::Options;
+using qmltool::Page;
+using qmltool::PageReload;
 using qmltool::PageWindow;
 
 namespace {
@@ -54,41 +63,85 @@ int audit(QQmlEngine* engine, QQuickWindow* window, const Options& options)
     return complaints.isEmpty() ? exitDone : exitFailed;
 }
 
-void work(QQmlEngine* engine, QQuickWindow* window, const Options& options)
+/// What stands in for the world around a page: the services of a recording, and the time of a test.
+struct Surroundings
 {
-    if (options.isAudit)
+    std::unique_ptr<qmltool::ReplayDesk> desk;
+    std::unique_ptr<qmltool::SteppedTime> time;
+};
+
+void work(QQmlEngine* engine, QQuickWindow* window, const Surroundings& around, const Options& options)
+{
+    if (around.time)
+        QCoreApplication::exit(qmltool::testPage(window, around.desk->player(), around.time.get(), options));
+    else if (options.isAudit)
         QCoreApplication::exit(audit(engine, window, options));
     else
         qmltool::takePicture(window, options.picture, finish);
 }
 
-int show(Host& host, const Options& options)
+/// An engine that knows the services and nothing of a page.
+std::unique_ptr<QQmlEngine> makeEngine(Host& host, const Options& options)
+{
+    auto engine = std::make_unique<QQmlEngine>();
+    host.showTo(engine.get());
+    for (const QString& folder : options.importFolders)
+        engine->addImportPath(folder);
+    QObject::connect(engine.get(), &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    QObject::connect(engine.get(), &QQmlEngine::exit, qApp, &QCoreApplication::exit, Qt::QueuedConnection);
+    if (options.screen.dotsPerInch > 0)
+        apps::useDensity(engine.get(), options.screen.dotsPerInch);
+    return engine;
+}
+
+int show(Host& host, const Surroundings& around, const Options& options)
 {
     if (apps::DisplaySetup::isOffScreen())
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
-    QQmlEngine engine;
-    host.showTo(&engine);
-    for (const QString& folder : options.importFolders)
-        engine.addImportPath(folder);
-    QObject::connect(&engine, &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
-    QObject::connect(&engine, &QQmlEngine::exit, qApp, &QCoreApplication::exit, Qt::QueuedConnection);
-
-    if (options.screen.dotsPerInch > 0)
-        apps::useDensity(&engine, options.screen.dotsPerInch);
     if (options.isAudit)
         audit::ScreenAudit::prepare();
-    const PageWindow page(&engine, options.page, options.screen.size);
-    if (!page.window())
-        return complain(page.error());
-    if (options.isAudit || !options.picture.isEmpty()) {
-        qmltool::whenDrawn(page.window(), [&](const QString& problem) {
+    PageWindow window(options.screen.size);
+    const bool isUsed = !options.isAudit && options.picture.isEmpty() && !around.time;
+    std::optional<PageReload> reload;
+    // Before the page is read, so that no change is missed.
+    if (isUsed)
+        reload.emplace(&host, &window, options.page, options.importFolders,
+                [&host, &options] { return makeEngine(host, options); });
+    auto page = std::make_unique<Page>(makeEngine(host, options), options.page);
+    if (!page->root())
+        return complain(page->error());
+    window.show(std::move(page));
+    if (!isUsed) {
+        qmltool::whenDrawn(window.window(), [&](const QString& problem) {
             if (problem.isEmpty())
-                work(&engine, page.window(), options);
+                work(window.page()->engine(), window.window(), around, options);
             else
                 finish(problem);
         });
+    } else if (around.desk) {
+        around.desk->play(options);
     }
     return QCoreApplication::exec();
+}
+
+/// Puts a recording in place of the service files, if the options name one. Returns false, having complained, when it
+/// cannot be used.
+bool surround(const Options& options, Surroundings* around, HostSetup* setup)
+{
+    if (options.recording.isEmpty())
+        return true;
+    QString problem;
+    around->desk = std::make_unique<qmltool::ReplayDesk>();
+    if (!around->desk->open(options, &problem)) {
+        complain(problem);
+        return false;
+    }
+    setup->services = around->desk->services();
+    if (options.moments.isEmpty())
+        return true;
+    around->time = std::make_unique<qmltool::SteppedTime>();
+    around->time->setNow(options.fromMs);
+    return true;
 }
 
 } // namespace
@@ -104,13 +157,20 @@ int main(int argc, char** argv)
     // The library's notes for developers do not concern users, who may enable them by QT_LOGGING_RULES.
     QLoggingCategory::setFilterRules(
             QStringLiteral("default.debug=false\nqt.virtualkeyboard.hunspell=false\nqml.debug=true"));
+    // What a test sees does not depend on anybody's screen.
+    if (!options.moments.isEmpty())
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     const apps::DisplaySetup display;
     apps::DisplaySetup::offerScreenKeyboard();
     const QGuiApplication application(argc, argv);
+    Surroundings around;
+    HostSetup setup {options.serviceFolders, options.root};
+    if (!surround(options, &around, &setup))
+        return exitFailed;
     Host host;
-    if (!host.start({options.serviceFolders, options.root}))
+    if (!host.start(setup))
         return exitFailed;
     if (!options.language.isEmpty() && !host.setLanguage(options.language))
         return complain(qmltool::Texts::tr("There is no language \"%1\".").arg(options.language));
-    return options.page.isEmpty() ? list() : show(host, options);
+    return options.page.isEmpty() ? list() : show(host, around, options);
 }

@@ -1,6 +1,7 @@
 #include "options.h"
 
 #include "common/serviceoptions.h"
+#include "replayoptions.h"
 #include "texts.h"
 
 #include <QCommandLineParser>
@@ -69,12 +70,14 @@ Options readOptions(const QStringList& arguments)
             Texts::tr("List the items, one on each line: name in QML, type and value, separated by tabs. Needs no "
                       "page."));
     const QCommandLineOption language = languageOption();
+    const ReplayOptions replay;
     parser.addOptions(services.all() << imports << language << picture << screen << audit << list);
+    parser.addOptions(replay.all());
 
     const apps::CommandLine line = apps::parse(parser, arguments);
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);
-    const QString missing = apps::missingName(parser, services.all() << imports << language << picture);
+    const QString missing = apps::missingName(parser, services.all() + replay.named() << imports << language << picture);
     if (!missing.isEmpty())
         return misused(missing);
     const QStringList pages = parser.positionalArguments();
@@ -87,7 +90,8 @@ Options readOptions(const QStringList& arguments)
         if (!problem.isEmpty())
             return misused(problem);
     }
-    return options;
+    const QString problem = replay.read(parser, services.areGiven(parser), &options);
+    return problem.isEmpty() ? options : misused(problem);
 }
 
 } // namespace uiutils::qmltool

@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 namespace uiutils::qmltool {
 
@@ -25,6 +26,22 @@ struct Options : apps::CommandLine
     bool isAudit = false;
     /// The screen to imitate; without a size the page has its own.
     apps::Screen screen;
+
+    /// The recording whose services are shown; empty for services from files.
+    QString recording;
+    /// The moment of it with which to begin.
+    qint64 fromMs = 0;
+    double speed = 1;
+    bool isLooped = false;
+    /// Moments at which the page is compared with what is expected of it, in ascending order; empty for a page that is
+    /// used.
+    QVector<qint64> moments;
+    /// The folder of what is expected.
+    QString expectations;
+    /// Whether what the page shows is written down as expected.
+    bool isUpdate = false;
+    /// Whether pictures are compared besides texts.
+    bool hasPictures = false;
 };
 
 /// Reads the arguments, the program's own name first. Needs a QCoreApplication and no display.

@@ -4,27 +4,15 @@
 #include "texts.h"
 
 #include <QBuffer>
-#include <QFileInfo>
 #include <QImage>
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickItemGrabResult>
-#include <QQuickView>
+#include <QQuickWindow>
 #include <QTimer>
-#include <QUrl>
 
 namespace uiutils::qmltool {
 
 namespace {
-
-QString plainTextOf(const QQmlComponent& component)
-{
-    QStringList lines;
-    const QList<QQmlError> errors = component.errors();
-    for (const QQmlError& error : errors)
-        lines.append(error.toString());
-    return lines.join(QLatin1Char('\n'));
-}
 
 QString writePicture(const QImage& image, const QString& file)
 {
@@ -39,48 +27,52 @@ QString writePicture(const QImage& image, const QString& file)
 
 } // namespace
 
-PageWindow::PageWindow(QQmlEngine* engine, const QString& file, const QSize& size)
-    : m_component(engine)
+PageWindow::PageWindow(const QSize& size)
+    : m_size(size)
 {
-    if (!QFileInfo(file).isFile()) {
-        m_error = Texts::tr("There is no page %1.").arg(file);
-        return;
-    }
-    m_component.loadUrl(QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()), QQmlComponent::PreferSynchronous);
-    m_root.reset(m_component.create());
-    if (m_root)
-        show(engine, size);
-    else
-        m_error = plainTextOf(m_component);
 }
 
 PageWindow::~PageWindow() = default;
 
-void PageWindow::show(QQmlEngine* engine, const QSize& size)
+void PageWindow::show(std::unique_ptr<Page> page)
 {
-    m_window = qobject_cast<QQuickWindow*>(m_root.get());
-    if (m_window) {
-        if (!size.isEmpty())
-            m_window->resize(size);
-        m_window->show();
-        return;
-    }
-    auto* item = qobject_cast<QQuickItem*>(m_root.get());
-    if (!item) {
-        m_error = Texts::tr("The page is neither an item nor a window.");
-        return;
-    }
-    auto view = std::make_unique<QQuickView>(engine, nullptr);
-    view->setResizeMode(QQuickView::SizeRootObjectToView);
-    if (!size.isEmpty())
-        item->setSize(size);
-    else if (item->width() <= 0 || item->height() <= 0)
-        item->setSize({1024, 600});
-    // The view takes ownership of the page.
-    view->setContent(m_component.url(), &m_component, m_root.release());
-    m_window = view.get();
-    m_ownWindow = std::move(view);
+    if (auto* window = qobject_cast<QQuickWindow*>(page->root()))
+        showWindow(window);
+    else
+        showItem(qobject_cast<QQuickItem*>(page->root()));
     m_window->show();
+    // Only now, so that no moment is without a window, after which an application ends.
+    m_page = std::move(page);
+}
+
+void PageWindow::showWindow(QQuickWindow* window)
+{
+    if (m_window)
+        window->setGeometry(m_window->geometry());
+    else if (!m_size.isEmpty())
+        window->resize(m_size);
+    if (m_shared)
+        m_shared->hide();
+    m_window = window;
+}
+
+void PageWindow::showItem(QQuickItem* item)
+{
+    if (!m_shared) {
+        m_shared = std::make_unique<QQuickWindow>();
+        const QSize own = item->width() > 0 && item->height() > 0 ? item->size().toSize() : QSize(1024, 600);
+        if (m_window)
+            m_shared->setGeometry(m_window->geometry());
+        else
+            m_shared->resize(m_size.isEmpty() ? own : m_size);
+    }
+    m_window = m_shared.get();
+    const auto fill = [this, item] { item->setSize(m_shared->size()); };
+    QObject::connect(m_window, &QWindow::widthChanged, item, fill);
+    QObject::connect(m_window, &QWindow::heightChanged, item, fill);
+    qmlEngine(item)->setIncubationController(m_window->incubationController());
+    fill();
+    item->setParentItem(m_window->contentItem());
 }
 
 void whenDrawn(QQuickWindow* window, const std::function<void(const QString&)>& go)

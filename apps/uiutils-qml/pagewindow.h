@@ -1,40 +1,44 @@
 #pragma once
 
-#include <QObject>
-#include <QQmlComponent>
+#include "page.h"
+
 #include <QSize>
 #include <QString>
 
 #include <functional>
 #include <memory>
 
-class QQmlEngine;
+class QQuickItem;
 class QQuickWindow;
 
 namespace uiutils::qmltool {
 
-/// A QML page on the screen: in its own window, if it is one, or in a new one.
+/// A page on the screen: in its own window, if it is one, or in a window that all such pages share.
 class PageWindow
 {
 public:
-    /// Loads the page and shows it in `size`, or in its own size if that is empty. Without a window afterwards, error()
-    /// says why.
-    PageWindow(QQmlEngine* engine, const QString& file, const QSize& size);
+    /// Pages are shown in `size`, or in their own size if that is empty.
+    explicit PageWindow(const QSize& size);
     ~PageWindow();
     Q_DISABLE_COPY_MOVE(PageWindow)
 
+    /// Shows a page that has a root. The page that was shown before ends; the new one has its place and size.
+    void show(std::unique_ptr<Page> page);
+
+    /// The page that is shown; null before the first.
+    Page* page() const { return m_page.get(); }
+    /// The window of the page that is shown; null before the first.
     QQuickWindow* window() const { return m_window; }
-    QString error() const { return m_error; }
 
 private:
-    void show(QQmlEngine* engine, const QSize& size);
+    void showItem(QQuickItem* item);
+    void showWindow(QQuickWindow* window);
 
-    QQmlComponent m_component;
-    std::unique_ptr<QObject> m_root;
-    /// Only for a page that is not a window itself.
-    std::unique_ptr<QQuickWindow> m_ownWindow;
+    const QSize m_size;
+    /// For pages that are not windows themselves. Pages end before it.
+    std::unique_ptr<QQuickWindow> m_shared;
+    std::unique_ptr<Page> m_page;
     QQuickWindow* m_window = nullptr;
-    QString m_error;
 };
 
 /// Calls `go` with an empty text when the window has been drawn, or with the reason why it is not.

@@ -100,9 +100,13 @@ bool Host::start(const HostSetup& setup)
     if (isUsable) {
         d->problems += placeImages() + placeViewer();
         connect(d->platform.get(), &ServicePlatform::serviceAppeared, this, [this](const QString& name) {
+            // A service that was withdrawn meanwhile has its manifest still.
+            if (d->manifests.contains(name))
+                return;
             d->add(name);
             Q_EMIT serviceAdded(name);
         });
+        connect(d->platform.get(), &ServicePlatform::filesRead, this, &Host::serviceFilesRead);
     }
     for (const QString& problem : qAsConst(d->problems))
         std::fprintf(stderr, "%s: %s\n", qUtf8Printable(QCoreApplication::applicationName()), qUtf8Printable(problem));
@@ -112,6 +116,12 @@ bool Host::start(const HostSetup& setup)
 bool Host::setLanguage(const QString& code)
 {
     return Languages::instance()->setCurrent(code);
+}
+
+void Host::followServiceFiles()
+{
+    if (d->platform)
+        d->platform->followFiles();
 }
 
 QStringList Host::problems() const

@@ -70,6 +70,12 @@ public:
     /// changes nothing, when there is no catalogue of that language. Languages has more about languages.
     bool setLanguage(const QString& code);
 
+    /// Reads the service files again whenever one changes or is added, for whoever writes services while pages run:
+    /// call it after start(). Items keep their values, quality and readiness, except those about which a file says
+    /// something new; a file that cannot be used changes nothing. Does nothing where the services live in other
+    /// processes. Emits serviceFilesRead(), and serviceAdded() for a service that is new.
+    void followServiceFiles();
+
     /// What went wrong in start(), in words for users, with places and reasons; for a file of services, the file, the
     /// place in it and the reason.
     QStringList problems() const;
@@ -93,6 +99,9 @@ public:
 Q_SIGNALS:
     /// A service has come after start(). It has a manifest, and pages know its items.
     void serviceAdded(const QString& name);
+    /// Service files were read again after a change. `problems` has a sentence for each file that cannot be used as it
+    /// is now, with the place and the reason; it is empty when all is well.
+    void serviceFilesRead(const QStringList& problems);
 
 private:
     struct Private;

@@ -8,6 +8,7 @@
 #include <bus/busbackend.h>
 #include <bus/buspublisher.h>
 #include <embedded/embeddedbackend.h>
+#include <embedded/servicefilewatch.h>
 
 #include <QCoreApplication>
 
@@ -17,6 +18,7 @@ using kiv::bus::BusBackend;
 using kiv::bus::BusPublisher;
 using kiv::embedded::EmbeddedBackend;
 using kiv::embedded::EmbeddedService;
+using kiv::embedded::ServiceFileWatch;
 
 namespace {
 
@@ -28,13 +30,22 @@ class EmbeddedPlatform final : public ServicePlatform
 public:
     bool begin(const HostSetup& setup, QStringList* problems)
     {
-        return loadServices(m_backend, setup.serviceFolders, setup.root, problems);
+        m_folders = setup.serviceFolders;
+        return loadServices(m_backend, m_folders, setup.root, problems);
     }
     QStringList serviceNames() const override { return m_backend.serviceNames(); }
     EmbeddedService* ownService(const QString& name) const override { return m_backend.service(name); }
+    void followFiles() override
+    {
+        m_watch = std::make_unique<ServiceFileWatch>(&m_backend, m_folders);
+        connect(m_watch.get(), &ServiceFileWatch::serviceAdded, this, &ServicePlatform::serviceAppeared);
+        connect(m_watch.get(), &ServiceFileWatch::filesRead, this, &ServicePlatform::filesRead);
+    }
 
 private:
+    QStringList m_folders;
     EmbeddedBackend m_backend;
+    std::unique_ptr<ServiceFileWatch> m_watch;
 };
 
 class BusPlatform final : public ServicePlatform

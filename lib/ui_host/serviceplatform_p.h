@@ -27,10 +27,14 @@ public:
     virtual QStringList serviceNames() const = 0;
     /// The own side of a service that this process publishes, or null.
     virtual kiv::embedded::EmbeddedService* ownService(const QString& name) const = 0;
+    /// Reads the service files again when they change, where services of this process are described by files.
+    virtual void followFiles() { }
 
 Q_SIGNALS:
     /// A service that had not been seen before can be reached.
     void serviceAppeared(const QString& name);
+    /// Service files were read again; what is wrong with them now.
+    void filesRead(const QStringList& problems);
 };
 
 } // namespace uiutils

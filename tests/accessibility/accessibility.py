@@ -247,9 +247,19 @@ def slide(test, desk, page):
         test.expect(slider.value > before, f"{slider} says its new value")
 
 
+def shown_by(desk, program, name):
+    """The object of that name, as soon as it is there."""
+    found = []
+    def is_there():
+        found[:] = [find(desk.tree(program), name)]
+        return found[0]
+    desk.wait(is_there, repr(name))
+    return found[0]
+
+
 def open_by(desk, program, pressed, shown):
     """Presses what has that name, and returns the tree as soon as something else of that name is there."""
-    node = find(desk.tree(program), pressed)
+    node = shown_by(desk, program, pressed)
     node.press()
     tree = []
     def is_there():
@@ -265,6 +275,9 @@ def open_by(desk, program, pressed, shown):
 PAGES = [("Set-up", "Set-up"), ("Run", "Run"), ("Results", "Round-trip time"), ("Report", "Report"), ("Files", "Files"), ("Home", "TCP loopback test"),
          ("Jobs", "Jobs"), ("Home", "TCP loopback test"), ("People", "People"), ("Home", "TCP loopback test"),
          ("Notifications", "Notifications"), ("Home", "TCP loopback test"), ("Settings", "Settings")]
+
+
+VERDICTS = {"Pass", "Warning", "Fail"}
 
 
 def news_of(desk, node, kind):
@@ -285,7 +298,8 @@ def run_test(test, desk, program):
         test.expect(len(news_of(desk, figure, "accessible-name")) > 1, f"{figure.name!r} is announced while it changes")
     for progress in [node for node in tree.all() if node.role == "progress bar"]:
         test.expect(len(news_of(desk, progress, "accessible-description")) > 1, f"{progress} is announced while it changes")
-    test.expect(any(node.name == "Pass" for node in tree.all()), "the verdict is in the tree")
+    # Which one, depends on how busy the machine is.
+    test.expect(any(node.name in VERDICTS for node in tree.all()), "the verdict is in the tree")
 
 
 def demo(test):

@@ -34,6 +34,8 @@ TAB, SPACE, ESCAPE = 0xff09, 0x20, 0xff1b
 SYMBOL = 3
 # Seconds. Whoever waits so long has waited in vain.
 PATIENCE = 60
+# What a program answers about an object that was deleted after it had been named.
+GONE = {"org.freedesktop.DBus.Error." + name for name in ("UnknownObject", "UnknownMethod", "UnknownInterface", "UnknownProperty")}
 
 BUS = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
@@ -238,8 +240,17 @@ class Desk:
                 self.bus.get_object(REGISTRY, ROOT, introspect=False).GetChildren(dbus_interface=ACCESSIBLE)]
 
     def tree(self, program, is_wanted=lambda node: "showing" in node.states):
-        """All that shows of the program."""
-        return Node(self, *program).read(is_wanted)
+        """All that shows of the program. Pages change while they are read: what names an object that is gone is read again."""
+        root = []
+        def is_read():
+            try:
+                root[:] = [Node(self, *program).read(is_wanted)]
+            except dbus.DBusException as error:
+                if error.get_dbus_name() not in GONE:
+                    raise
+            return bool(root)
+        self.wait(is_read, "a tree of objects that all exist")
+        return root[0]
 
     def hand(self):
         return dbus.Interface(self.bus.get_object(REGISTRY, "/org/a11y/atspi/registry/deviceeventcontroller", introspect=False), HAND)

@@ -79,7 +79,8 @@ private Q_SLOTS:
                 {"/mnt/usb/a", "USB:/a"}, {"copy:/cust/public/a", "Internal:/a"}, {"cut:/mnt/usb/a", "USB:/a"},
                 {"copy:cut:/mnt/usb/a", "cut:/mnt/usb/a"},
                 {"/cust/public/mnt/usb/cust/public", "Internal:/mnt/usb/cust/public"},
-                {"Copy:/CUST/public", "Copy:/CUST/public"}, {"/tmp/copy:/mnt/usb", "/tmp/copy:/mnt/usb"}, {"", ""}};
+                {"Copy:/CUST/public", "Copy:/CUST/public"}, {"/tmp/copy:/mnt/usb", "/tmp/copy:/mnt/usb"}, {"", ""},
+                {u8"cut:/mnt/usb/a\nb\u2028c\u202egpj.exe", "USB:/a b cgpj.exe"}, {u8"/mnt/usb/\u0645\u200c.pdf", u8"USB:/\u0645\u200c.pdf"}};
         for (const auto& [path, shown] : rows)
             QCOMPARE(FileUtils().getSanitizedPathName(path), QString(shown));
     }
@@ -180,6 +181,7 @@ private Q_SLOTS:
     {
         const FileUtils files;
         const std::pair<QString, QString> rows[] {{"a.b", ""}, {QString("<\\|\"*a<"), "The name must not contain < \\ | \" *"}, {"a\r", "The name must not contain control characters"},
+                {u8"\u202efdp.exe", "The name must not contain control characters"}, {u8"\u0645\u06cc\u200c\u062e", ""},
                 {"LPT1", "Computers do not allow the name \"LPT1\""}, {"nul .txt", "Computers do not allow the name \"nul .txt\""}, {"lpt0", ""},
                 {QString(255, 'x'), ""}, {QString(256, 'x'), "The name may have 255 characters, it has 256"},
                 {QString(128, QChar(0xfc)), "The name may have 127 characters, it has 128"}, {QString::fromUtf8("😀").repeated(64), "The name may have 63 characters, it has 64"}};

@@ -9,6 +9,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQmlExpression>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
@@ -180,6 +181,37 @@ private Q_SLOTS:
         QCOMPARE(QLocale().name(), "de_AT");
         QCOMPARE(QCoreApplication::translate("ReportTemplate", "Value"), "Value");
         QLocale::setDefault(before);
+    }
+
+    /// What a folder may hold: half a file, a region with a number, a language of which Qt has no name.
+    void cataloguesOfEveryKind()
+    {
+        const QString folder = m_folder.filePath("others");
+        QVERIFY(QDir().mkpath(folder));
+        const QByteArray whole = contentsOf(installed("uiutils_de.qm"));
+        writeFile(folder + "/tst_languages_it.qm", whole.left(whole.size() / 2));
+        const QString ts = writeFile(m_folder.filePath("b.ts"),
+                "<TS version='2.1'><context><name>A</name><message><source>a</source><translation>b</translation></message></context></TS>");
+        for (const char* code : {"es_419", "xx"})
+            QVERIFY(!outputOf(UIUTILS_LRELEASE, {ts, "-qm", folder + "/tst_languages_" + code + ".qm"}).startsWith("status"));
+        Languages* const languages = Languages::instance();
+        Host host;
+        HostSetup own = setup();
+        own.translationFolders = QStringList(folder);
+        // The language that the user had chosen.
+        const auto choice = connect(languages, &Languages::availableChanged, [&] { host.setLanguage("es_419"); });
+        QVERIFY(host.start(own));
+        disconnect(choice);
+        QCOMPARE(languages->current(), "es_419");
+        QStringList offered;
+        const QVariantList available = languages->available();
+        for (const QVariant& language : available)
+            offered += language.toMap()["code"].toString() + ' ' + language.toMap()["name"].toString();
+        QCOMPARE(offered.size(), 3);
+        QVERIFY2(offered.at(1).startsWith("es_419 Español") && offered.at(2) == "xx xx", qPrintable(offered.join(", ")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("The translations in .*_it.qm cannot be read"));
+        QVERIFY(!host.setLanguage("it"));
+        QCOMPARE(languages->current(), "es_419");
     }
 
     /// Entries take no others, and two kinds of digits on a page would be read wrongly.

@@ -303,6 +303,16 @@ void LivePlotTest::axes()
     m_plot->setWindow(5, 5, qQNaN(), qQNaN());
     QVERIFY(m_plot->xMinimum() < 5 && m_plot->xMaximum() > 5 && m_plot->yMinimum() < m_plot->yMaximum());
     picture();
+    // What cannot be negative, with a limit near zero: the space below the limit ends there.
+    m_plot->setYScale(LivePlot::Linear);
+    m_plot->autoscale();
+    limit.setUpper(qQNaN());
+    limit.setLower(1000);
+    m_curve->setPoints(QVector<QPointF> {{1, 8000}, {2, 63000}});
+    QCOMPARE(m_plot->yMinimum(), 0.0);
+    m_curve->setPoints(QVector<QPointF> {{1, -8000}, {2, -63000}});
+    limit.setLower(-1000);
+    QCOMPARE(m_plot->yMaximum(), 0.0);
 }
 
 void LivePlotTest::follows()

@@ -1,6 +1,7 @@
 #include "reportfixture.h"
 
 #include "report/drafts/draftfile_p.h"
+#include "report/drafts/draftwriter_p.h"
 #include "report/drafts/reportdraft.h"
 
 #include <QQmlComponent>
@@ -103,7 +104,7 @@ private Q_SLOTS:
         connect(&run.report, &Report::titleChanged, &run.draft, &ReportDraft::keep);
         connect(&run.draft, &ReportDraft::dataChanged, &run.draft, [&] { QCOMPARE(run.event(), QString("splice")); });
         QVERIFY(run.draft.restore());
-        QCOMPARE(run.log.take(), QStringList({"dataChanged", "pendingChanged", "availableChanged", "restored"}));
+        QCOMPARE(run.log.take(), QStringList({"dataChanged", "availableChanged", "pendingChanged", "restored"}));
         QCOMPARE(QJsonObject::fromVariantMap(run.draft.data()), QJsonObject::fromVariantMap(data));
         QCOMPARE(run.report.getSetting("reportName")->getValue().toString(), QString("Fiber 7"));
         QCOMPARE(run.report.getFormat(), 1);
@@ -121,6 +122,131 @@ private Q_SLOTS:
         QVERIFY(run.report.save());
         QCOMPARE(files(), QStringList());
         QVERIFY(run.draft.flush() && files().isEmpty());
+    }
+
+    /// A page goes on measuring while its report is written.
+    void whatIsMeasuredDuringASaveIsKept()
+    {
+        Run run;
+        run.report.setUp("a", 3);
+        run.measure(number(1), "one");
+        QVERIFY(run.draft.flush());
+        run.report.meanwhile = [&] { run.draft.keep(); };
+        QVERIFY(run.report.save());
+        QCOMPARE(files(), QStringList());
+        run.measure(number(2), "two");
+        run.report.meanwhile = [&] { run.measure(number(3), "two"); };
+        QVERIFY(run.report.save(true) && run.draft.flush());
+        QCOMPARE(files().size(), 1);
+        run.report.meanwhile = [&] {
+            run.measure(number(3), "three");
+            run.draft.keep();
+        };
+        QVERIFY(run.report.save(true) && run.draft.flush());
+        QCOMPARE(files().size(), 1);
+        run.report.meanwhile = nullptr;
+        QVERIFY(run.report.save(true));
+        QCOMPARE(files(), QStringList());
+    }
+
+    void deletedObjectsLeaveWhatTheyHad()
+    {
+        {
+            auto report = std::make_unique<Controller>("Fiber 7", 1);
+            ReportDraft draft;
+            draft.setDraftId(id);
+            draft.setReport(report.get());
+            report->document().beginReport("otdr");
+            report->document().endReport();
+            draft.keep();
+            connect(report.get(), &QObject::destroyed, &draft, &ReportDraft::keep);
+            report.reset();
+            draft.setReport(nullptr);
+            draft.setData(number(2));
+        }
+        {
+            Run run;
+            QCOMPARE(run.draft.availableTitle(), QString("Fiber 7"));
+            QVERIFY(run.draft.restore());
+            QCOMPARE(run.report.document().object().value("tag").toString(), QString("otdr"));
+            QCOMPARE(run.draft.data(), number(2));
+            // What was given back counts as kept.
+            run.report.document().setObject({});
+            run.draft.setReport(nullptr);
+            auto document = std::make_unique<ReportTemplate>();
+            run.draft.setDocument(document.get());
+            document->setObject({{"tag", "own"}});
+            run.draft.keep();
+            document.reset();
+            run.draft.setData(number(3));
+        }
+        // A draft of a document alone has nothing for the controller.
+        Run run;
+        run.report.setTitle("mine");
+        QVERIFY(run.draft.restore());
+        QCOMPARE(run.report.document().object().value("tag").toString() + run.report.getTitle(), QString("ownmine"));
+    }
+
+    /// The results of two tests must never be in one report.
+    void aDraftWithoutDocumentGivesNone()
+    {
+        {
+            ReportDraft draft;
+            draft.setDraftId(id);
+            draft.setData(number(1));
+        }
+        Run run;
+        run.measure(number(2), "two");
+        QVERIFY(run.draft.restore());
+        QCOMPARE(run.event(), QString());
+    }
+
+    /// A page that gives back whatever is offered, also what was just replaced.
+    void aSlotGivesADraftBackInTheMiddleOfAWrite()
+    {
+        for (const bool isFlushed : {false, true}) {
+            auto first = std::make_unique<Run>();
+            first->measure(number(1));
+            QVERIFY(first->draft.flush());
+            {
+                Run second;
+                // Later than the write of what was kept.
+                second.draft.setInterval(3600'000);
+                second.draft.setData(number(2));
+                connect(&second.draft, &ReportDraft::availableChanged, &second.draft, &ReportDraft::restore);
+                first.reset();
+                if (isFlushed)
+                    second.draft.flush();
+                QTRY_COMPARE(second.draft.data(), number(1));
+            }
+            Run run;
+            QCOMPARE(run.draft.availableCount(), 2);
+            QSet<int> numbers;
+            for (int i = 0; i < 2; ++i) {
+                QVERIFY(run.draft.restore());
+                numbers += run.draft.data().value("number").toInt();
+                run.draft.forget();
+            }
+            QCOMPARE(numbers, QSet<int>({1, 2}));
+        }
+    }
+
+    void aSlotForgetsInTheMiddleOfAWrite()
+    {
+        for (const bool isFlushed : {false, true}) {
+            auto first = std::make_unique<Run>();
+            first->measure(number(1));
+            QVERIFY(first->draft.flush());
+            Run second;
+            second.draft.setData(number(2));
+            connect(&second.draft, &ReportDraft::availableChanged, &second.draft, &ReportDraft::forget);
+            first.reset();
+            if (isFlushed)
+                second.draft.flush();
+            QTRY_VERIFY(!second.draft.isPending() && second.draft.isAvailable());
+            QCOMPARE(files().size(), 1);
+            second.draft.discard();
+        }
     }
 
     void unansweredDraftsStay()
@@ -281,6 +407,83 @@ private Q_SLOTS:
         QCOMPARE(second.log.take(), QStringList("availableChanged"));
     }
 
+    /// A draft that was given back is written under its former name. What was removed is not offered any more.
+    void theOldestIsTheOneThatWasWrittenFirst()
+    {
+        const auto write = [&](const QString& name, const QDateTime& time, int value) {
+            QString problem;
+            const QString path = onDisk(folder + name);
+            writeFile(path, *uiutils::draftFile({time, name}, {QJsonObject::fromVariantMap(number(value)), {}, {}}, &problem));
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::ReadWrite) && file.setFileTime(time, QFile::FileModificationTime));
+        };
+        const QDateTime now = QDateTime::currentDateTime();
+        for (int i = 1; i <= 19; ++i)
+            write(QString("202601%1.draft").arg(i, 2, 10, QChar('0')), now.addSecs(-3600 + i), i);
+        write("20250101.draft", now.addSecs(-60), 20);
+        Run run;
+        QCOMPARE(run.draft.availableCount(), 20);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("too many drafts.*20260101"));
+        run.draft.setData(number(21));
+        QVERIFY(run.draft.flush());
+        QCOMPARE(run.draft.availableCount(), 19);
+        QVERIFY(run.draft.restore());
+        QCOMPARE(run.draft.data(), number(20));
+        run.draft.forget();
+        // Somebody else has removed it.
+        QVERIFY(QFile::remove(onDisk(folder + "20260119.draft")));
+        run.draft.discard();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be given back"));
+        QVERIFY(!run.draft.restore());
+        QVERIFY(run.draft.restore());
+        QCOMPARE(run.draft.data(), number(18));
+    }
+
+    void aRemovedFolderIsMadeAgain()
+    {
+        Run run;
+        run.measure(number(1));
+        QVERIFY(run.draft.flush());
+        const QFile::Permissions mine = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+        QCOMPARE(QFileInfo(onDisk(folder)).permissions() & ~(QFile::ReadUser | QFile::WriteUser | QFile::ExeUser), mine);
+        QVERIFY(QDir(onDisk("/cust/private/drafts")).removeRecursively());
+        run.measure(number(2));
+        QVERIFY(run.draft.flush() && files().size() == 1);
+        // Another folder of the name may have another owner.
+        QVERIFY(QDir(onDisk("/cust/private/drafts")).removeRecursively());
+        Run other;
+        other.measure(number(3));
+        QVERIFY(other.draft.flush());
+        run.measure(number(4));
+        QVERIFY(!run.draft.flush());
+        QCOMPARE(files().size(), 1);
+        run.draft.forget();
+        QCOMPARE(files().size(), 1);
+    }
+
+    /// What was not written for the former name is not left as pending for the new one.
+    void anotherNameBeginsAnew()
+    {
+        const FileSizeLimit full(10);
+        Run run;
+        run.measure(number(1));
+        QVERIFY(!run.draft.flush() && run.draft.isPending());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("The draft of otdr is lost: "));
+        run.log.take();
+        run.draft.setDraftId("else");
+        QVERIFY(!run.draft.isPending() && run.draft.problem().isEmpty());
+        QCOMPARE(run.log.take(), QStringList({"problemChanged", "pendingChanged", "draftIdChanged"}));
+    }
+
+    void aSlowDiskIsSpared()
+    {
+        QCOMPARE(uiutils::pauseAfter(2000, 50), 2000);
+        QCOMPARE(uiutils::pauseAfter(2000, 300), 6000);
+        // It was stuck once.
+        QCOMPARE(uiutils::pauseAfter(2000, 30'000), 60'000);
+        QCOMPARE(uiutils::pauseAfter(3600'000, 30'000), 3600'000);
+    }
+
     void theOldestOfTooManyIsRemoved()
     {
         for (int i = 0; i < 30; ++i) {
@@ -301,7 +504,9 @@ private Q_SLOTS:
         writeFile(onDisk(folder + "a.draft"), *uiutils::draftFile({QDateTime::currentDateTime(), {}}, {{}, {{"settings", settings}}, {}}, &problem));
         Run run;
         run.report.setUp("mine", 1);
+        run.report.setTitle("mine");
         QVERIFY(run.draft.restore());
+        QCOMPARE(run.report.getTitle(), QString("mine"));
         QCOMPARE(run.report.getSetting("reportName")->getValue().toString(), QString("mine"));
         QCOMPARE(run.report.getFormat(), 1);
         QCOMPARE(run.report.getSetting("reportSync_SS")->getValue().toBool(), false);

@@ -387,6 +387,7 @@ private Q_SLOTS:
         KivData* const name = report.getSetting("reportName");
         const std::pair<QString, QString> rows[] {{QString(86, 'x'), "The name may have 50 characters, it has 86"}, {QString(50, 'x'), ""},
                 {"Fibre 12.a-b_(?!)", "The name must not contain ?"}, {"a:b&c&", "The name must not contain : &"}, {"a\tb", "The name must not contain control characters"},
+                {QString("a") + QChar(0x200b), "The name must not contain control characters"},
                 {QString::fromUtf8("a😀b/"), QString::fromUtf8("The name must not contain 😀 /")}, {" a", "The name must not begin with a space"},
                 {"a ", "The name must not end with a space"}, {"a.", "The name must not end with a point"}, {"..", "\"..\" is not a file name"},
                 {"Com7.x", "Computers do not allow the name \"Com7.x\""}, {"com", ""}};

@@ -20,10 +20,11 @@ formatters  platform/reference/formatters   contract
 embedded    platform/reference/embedded     base contract formatters
 simulation  platform/reference/simulation   base contract formatters embedded
 bus         platform/reference/bus          base contract formatters embedded
+replay      platform/reference/replay       base contract embedded
 
 core        lib/ui_utils/core               base
 languages   lib/ui_utils/languages          base core
-service     lib/ui_utils/service            base contract core
+service     lib/ui_utils/service            base contract core languages
 instrument  lib/ui_utils/instrument         base contract core
 document    lib/ui_utils/document           base contract core
 local       lib/ui_utils/local              base contract core service
@@ -53,11 +54,11 @@ liveplot    qml/UiUtils/Plot                base contract core languages documen
 common      apps/common                     LIBRARY base contract embedded bus host
 audit       apps/audit                      -
 kivd        apps/kivd                       base contract embedded bus common
-kivctl      apps/kivctl                     base contract embedded bus common host
+kivctl      apps/kivctl                     base contract embedded bus replay common host
 viewer      apps/pdf_viewer                 base common
 demo        apps/demo                       LIBRARY base contract embedded common host
 convert     apps/reportconvert              LIBRARY base contract embedded common host
-qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded common audit host
+qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common audit host
 expage      examples/page                   host
 exform      examples/form                   LIBRARY contract host
 exreport    examples/report                 LIBRARY contract host
@@ -65,7 +66,7 @@ exservice   examples/service                contract embedded bus host
 explatform  examples/platform               contract host
 benchmarks  benchmarks                      LIBRARY podofo base contract embedded liveplot
 startbench  benchmarks/start                -
-busbench    benchmarks/bus                  LIBRARY base contract embedded bus benchmarks
+busbench    benchmarks/bus                  LIBRARY base contract embedded bus replay benchmarks
 """
 GROUPS = {"WRITERS": "emitter plots pdffile pages text modern csv html xml",
           "LIBRARY": "core languages service instrument document local files emitter plots pdffile pages text modern csv html xml report saving drafts module"}
@@ -77,10 +78,10 @@ TESTS = "tests/"
 # The folders of libraries. A header there ends in _p.h unless it is installed.
 LIBRARIES = ("base/", "lib/", "platform/")
 # Programs of the tree that may use headers that are not installed; every other use is an exception below.
-# Programs may also use base and where the host's services come from, but not the demo and the examples, which show what can be built on an
+# Programs may also use base, recordings and where the host's services come from, but not the demo and the examples, which show what can be built on an
 # installed library.
 INSIDERS = {"benchmarks", "busbench"}
-SHARED_WITH_PROGRAMS = ("base/", "lib/ui_host/")
+SHARED_WITH_PROGRAMS = ("base/", "platform/reference/replay/", "lib/ui_host/")
 # Parts of the library that hold no state, which these rooms link once more because the library hides them.
 LINKED_AGAIN = {"liveplot": "lib/ui_utils/writers/plots/"}
 GUESTS = {"demo", "expage", "exform", "exreport", "exservice", "explatform"}

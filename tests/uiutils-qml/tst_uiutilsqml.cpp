@@ -41,6 +41,19 @@ private Q_SLOTS:
             QTest::newRow(screen) << QStringList {"--screen", screen, "a.qml"} << 2 << "--screen needs a size of 200 to 8000 pixels";
         QTest::newRow("no such language") << QStringList {"--services", m_services, "--language", "xx", "--list"} << 1 << "no language \"xx\"";
         QTest::newRow("a language") << QStringList {"--services", m_services, "--language", "de", "--list"} << 0 << "field_cfg_name";
+        const QStringList replayed {"a.qml", "--replay", "a"};
+        QTest::newRow("no such recording") << QStringList {"a.qml", "--replay", "/nowhere/a"} << 1 << "/nowhere/a cannot be read";
+        QTest::newRow("no recording") << QStringList {"a.qml", "--replay", UIUTILS_SOURCE_DIR "/README.md"} << 1 << "not a recording";
+        QTest::newRow("two kinds of services") << replayed + QStringList {"--services", m_services} << 2 << "not from both";
+        QTest::newRow("speed without a recording") << QStringList {"a.qml", "--speed", "2"} << 2 << "--speed needs --replay";
+        QTest::newRow("moments without expectations") << replayed + QStringList {"--grab-at", "1"} << 2 << "--grab-at needs --expect";
+        QTest::newRow("expectations without moments") << replayed + QStringList {"--expect", "a"} << 2 << "--expect needs --grab-at";
+        QTest::newRow("moments and a picture") << replayed + QStringList {"--grab-at", "1", "--expect", "a", "--grab", "a"} << 2 << "neither --grab";
+        QTest::newRow("moments before the first") << replayed + QStringList {"--grab-at", "1", "--expect", "a", "--from", "2"} << 2 << "--from does not";
+        for (const char* times : {"", "1,", "x", "2,1", "-1", "nan", "1e300"})
+            QTest::newRow(times) << replayed + QStringList {"--expect", "a", "--grab-at", times} << 2 << "ascending order";
+        for (const char* speed : {"0", "-1", "nan", "inf", "x"})
+            QTest::newRow(qPrintable(QString("speed ") + speed)) << replayed + QStringList {"--speed", speed} << 2 << "--speed needs a number";
         QTest::newRow("no such folder") << QStringList {"--services", "/nowhere", "--list"} << 1 << "/nowhere";
     }
     void commandLines()
@@ -121,6 +134,81 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(30, 20), QColor(Qt::blue));
     }
 
+    /// The time of the page is that of the recording, whenever the machine gets to it: animations and timers too.
+    void testsAPage()
+    {
+        const QString recording = writeFile(m_folder.filePath("a.kivlog"), R"({"format":"kiv-recording","version":1}
+{"t":0,"service":"otdr","snapshot":1}
+{"t":0,"service":"otdr","id":":result:otdr:loss:","type":"int","unit":"dB","value":0}
+{"t":1005,"service":"otdr","id":":result:otdr:loss:","value":100}
+{"t":3000,"service":"otdr","gone":true}
+)");
+        const QByteArray body = "Rectangle { width: 200; height: 100; color: 'white'; Rectangle { width: 50; height: 50; color: 'red'; x: otdr_res_loss.value\n"
+                                "Behavior on x { NumberAnimation { duration: 1000 } } }\n"
+                                "Text { objectName: 'loss'; text: otdr_res_loss.valueString } Text { objectName: 'hidden'; text: 'a'; visible: false }\n"
+                                "Item { objectName: 'box'; Text { y: 20; objectName: 'x'; text: Math.round(parent.parent.children[0].x) } }\n"
+                                "Text { y: 40; property int n; text: n + '\\n' + services.otdr.isAvailable\n"
+                                "Timer { interval: 400; repeat: true; running: true; onTriggered: ++parent.n } } }";
+        const QString folder = m_folder.filePath("expected");
+        const auto check = [&](const QStringList& options) {
+            return run(QStringList {page(body), "--replay", recording, "--expect", folder} + options);
+        };
+        Outcome outcome = check({"--grab-at", "0,1.505,2.5,4", "--pictures", "--update"});
+        QVERIFY2(outcome.exitCode == 0 && outcome.output.isEmpty() && outcome.errors.isEmpty(), qPrintable(outcome.output + outcome.errors));
+        const auto texts = [&folder](const char* moment) { return contentsOf(folder + "/page@" + moment + "s.txt"); };
+        QCOMPARE(texts("0"), QByteArray("loss: 0 dB\nbox/x: 0\nText: 0\\ntrue\n"));
+        QCOMPARE(texts("1.505"), QByteArray("loss: 100 dB\nbox/x: 50\nText: 3\\ntrue\n"));
+        QCOMPARE(texts("2.5"), QByteArray("loss: 100 dB\nbox/x: 100\nText: 6\\ntrue\n"));
+        QVERIFY2(texts("4").endsWith("Text: 10\\nfalse\n"), texts("4"));
+        QCOMPARE(QImage(folder + "/page@2.5s.png").pixelColor(120, 45), QColor(Qt::red));
+        // Other moments before it make no difference.
+        outcome = check({"--grab-at", "0.1,0.777,1.505,1.51,4", "--pictures"});
+        QCOMPARE(outcome.exitCode, 1);
+        QCOMPARE(namesIn(folder).filter("1.505s"), (QStringList {"page@1.505s.png", "page@1.505s.txt"}));
+        QCOMPARE(outcome.output.count("There is no "), 6);
+        QVERIFY2(!outcome.output.contains("differs"), outcome.output);
+
+        // One text and one picture are not as expected; what they are lies beside it.
+        writeFile(folder + "/page@2.5s.txt", texts("2.5").replace("100 dB", "99 dB"));
+        QImage picture(folder + "/page@2.5s.png");
+        for (int i = 0; i < 30; ++i)
+            picture.setPixelColor(i, 90, Qt::blue);
+        picture.save(folder + "/page@2.5s.png");
+        outcome = check({"--grab-at", "1.505,2.5", "--pictures"});
+        QCOMPARE(outcome.exitCode, 1);
+        QCOMPARE(outcome.output, QString("%1/page@2.5s.txt differs; what the page shows is in %1/page@2.5s.actual.txt:\n    - loss: 99 dB\n    + loss: 100 dB\n"
+                                         "%1/page@2.5s.png differs; what the page shows is in %1/page@2.5s.actual.png:\n    30 of 20000 pixels differ\n")
+                                         .arg(folder).toUtf8());
+        QVERIFY(contentsOf(folder + "/page@2.5s.actual.txt").startsWith("loss: 100 dB\n"));
+        // Nobody sees a few pixels, and what agrees again leaves nothing behind.
+        for (int i = 20; i < 30; ++i)
+            picture.setPixelColor(i, 90, Qt::white);
+        for (int i = 0; i < 20; ++i)
+            picture.setPixelColor(i, 90, i < 19 ? Qt::white : Qt::blue);
+        picture.save(folder + "/page@2.5s.png");
+        writeFile(folder + "/page@2.5s.txt", texts("2.5").replace("99 dB", "100 dB"));
+        outcome = check({"--grab-at", "1.505,2.5", "--pictures"});
+        QVERIFY2(outcome.exitCode == 0 && outcome.output.isEmpty(), outcome.output);
+        QCOMPARE(namesIn(folder).filter("2.5s.actual"), QStringList());
+    }
+
+    void showsARecording()
+    {
+        const QString recording = writeFile(m_folder.filePath("b.kivlog"), R"({"format":"kiv-recording","version":1}
+{"t":0,"service":"otdr","snapshot":1}
+{"t":0,"service":"otdr","id":":result:otdr:loss:","type":"int","value":1}
+{"t":2000,"service":"otdr","id":":result:otdr:loss:","value":2}
+{"t":60000000,"service":"late","snapshot":1}
+{"t":60000000,"service":"late","id":":result:late:a:","type":"int","value":7}
+)");
+        // Only at this speed does the end come before the test gives up.
+        const QString file = page("Item { Text { text: otdr_res_loss.value + ' ' + late_res_a.value; onTextChanged: if (text == '2 7') Qt.exit(7) } }");
+        const Outcome outcome = run({file, "--replay", recording, "--from", "1.5", "--speed", "1000000"});
+        QVERIFY2(outcome.exitCode == 7, qPrintable(QString::number(outcome.exitCode) + outcome.errors));
+        const Outcome listed = run({"--list", "--replay", recording, "--from", "3"});
+        QCOMPARE(listed.output, QByteArray("otdr_res_loss\tint\t2\n"));
+    }
+
     void judgesAPage()
     {
         const QByteArray body = "import UiUtils.Controls 1.0\nRectangle { width: 300; height: 200; color: 'white'; MouseArea { width: %1; height:"
@@ -133,6 +221,49 @@ private Q_SLOTS:
         // The theme is switched: only on a dark one is the text too light for this surface.
         QVERIFY2(small.output.contains("dark: Contrast: Text \"W\"") && !small.output.contains("light: "), small.output);
         QCOMPARE(run(QStringList {page(QByteArray(body).replace("%1", "90").replace("'white'", "ControlsStyle.background"))} + options).exitCode, 0);
+    }
+
+    /// A change of any file that the page is made of, or of a service, shows at once; mistakes stand in the window of the page,
+    /// which lives on.
+    void followsFiles()
+    {
+        const auto part = [&](const QByteArray& word) { return "import QtQuick 2.15\nItem { property string word: '" + word + "' }"; };
+        const auto service = [&](const QByteArray& value) {
+            return "{ \"service\": \"field\", \"items\": [ { \"id\": \":result:field:state:\", \"type\": \"std::string\", \"value\": \"" + value + "\" } ] }";
+        };
+        QDir(m_folder.path()).mkdir("services");
+        const QString described = writeFile(m_folder.filePath("services/field.service.json"), service("idle"));
+        const QString component = writeFile(m_folder.filePath("Part.qml"), part("one"));
+        const QString file = page("Item { id: page; property string said; Part { id: part }\n"
+                                  "Component.onCompleted: console.log('shown', part.word, field_res_state.value)\n"
+                                  "Timer { interval: 20; running: true; repeat: true; onTriggered: { for (let i = 0; i < page.parent.children.length; ++i) {\n"
+                                  "const item = page.parent.children[i];\n"
+                                  "if (item.objectName === 'errorPane' && item.visible && item.text !== page.said) {\n"
+                                  "page.said = item.text; console.log('alive', part.word, field_res_state.value, item.text) } } } } }");
+        QProcess process;
+        process.start(UIUTILS_QML_PROGRAM, {file, "--services", m_folder.filePath("services"), "--root", m_folder.filePath("root")});
+        QByteArray log;
+        const auto says = [&](const QByteArray& words) {
+            return QTest::qWaitFor([&] { return (log += process.readAllStandardError()).contains(words); }, 30000);
+        };
+        QVERIFY2(says("shown one idle"), log);
+        writeFile(component, part("two"));
+        QVERIFY2(says("shown two idle"), log);
+        // As editors save: another file takes the place.
+        const QString next = writeFile(m_folder.filePath("next"), part("three").chopped(1));
+        QVERIFY(QFile::remove(component) && QFile::rename(next, component));
+        QVERIFY2(says("alive two idle file://") && log.contains("/Part.qml:2"), log);
+        writeFile(component, part("four"));
+        QVERIFY2(says("shown four idle"), log);
+        writeFile(described, service("busy"));
+        QVERIFY2(says("shown four busy"), log);
+        writeFile(described, service("broken").chopped(1));
+        QVERIFY2(says("alive four busy " + described.toUtf8() + ":1:"), log);
+        writeFile(described, service("mended"));
+        QVERIFY2(says("shown four mended"), log);
+        QVERIFY(!log.contains("three") && process.state() == QProcess::Running);
+        process.terminate();
+        QVERIFY(process.waitForFinished());
     }
 
     void aFaultyPage()

@@ -45,9 +45,14 @@ QString forbiddenIn(const QString& name, const std::function<bool(const QString&
     QStringList found;
     const QVector<uint> characters = name.toUcs4();
     for (const uint character : characters) {
-        const bool isShown = QChar::category(character) != QChar::Other_Control;
-        const QString shown = isShown ? QString::fromUcs4(&character, 1) : FileUtils::tr("control characters");
-        if (!found.contains(shown) && (!isShown || isForbidden(shown)))
+        const QString text = QString::fromUcs4(&character, 1);
+        const QChar::Category category = QChar::category(character);
+        if (category != QChar::Other_Control && !isForbidden(text))
+            continue;
+        // Nobody sees a mark that joins letters or turns their direction.
+        const bool isShown = category != QChar::Other_Control && category != QChar::Other_Format;
+        const QString shown = isShown ? text : FileUtils::tr("control characters");
+        if (!found.contains(shown))
             found += shown;
     }
     return found.join(QLatin1Char(' '));
@@ -74,7 +79,8 @@ QString fileNameProblem(const QString& name)
         return FileUtils::tr("The name is empty");
     if (name == QLatin1String(".") || name == QLatin1String(".."))
         return notAFileName(name);
-    const QString others = QStringLiteral("/\\:*?\"<>|");
+    // The last ones turn the direction of what follows: ".fdp.exe" could look like a report.
+    const QString others = QStringLiteral("/\\:*?\"<>|\u202a\u202b\u202c\u202d\u202e\u2066\u2067\u2068\u2069");
     const QString forbidden = forbiddenIn(name, [&](const QString& character) { return others.contains(character); });
     if (!forbidden.isEmpty())
         return nameMustNotContain(forbidden);

@@ -85,8 +85,9 @@ public:
     Q_INVOKABLE qint64 getDirSize(QString src_path, QString dest_path, qint64 fs_block_size);
 
     /// What is wrong with a file name, in words that can be shown where it is typed; empty if nothing is. The rules are
-    /// those of USB drives that other computers read: no / \ : * ? " < > | and control characters, no space at the
-    /// ends, no point at the end, no name of a device such as "CON", at most 255 bytes.
+    /// those of USB drives that other computers read: no / \ : * ? " < > |, control characters and such as turn the
+    /// direction of text, no space at the ends, no point at the end, no name of a device such as "CON", at most 255
+    /// bytes.
     Q_INVOKABLE QString fileNameProblem(const QString& name) const;
 
 Q_SIGNALS:

@@ -1,6 +1,7 @@
 #include "instrument/drives_p.h"
 
 #include "base/paths_p.h"
+#include "base/plaintext_p.h"
 
 #include <kiv/filesystemusage.h>
 
@@ -38,7 +39,8 @@ QString shownPath(const QString& path)
     // Without a slash at the end, because the folders themselves are shown too.
     const QLatin1String internal("/cust/public");
     const QLatin1String usb("/mnt/usb");
-    QString plain = withoutClipboardMark(path);
+    // The names on strangers' drives must neither break nor turn the text of a question.
+    const QString plain = plainText(withoutClipboardMark(path)).replace(QLatin1Char('\n'), QLatin1Char(' '));
     if (plain.startsWith(internal))
         return QCoreApplication::translate("FileUtils", "Internal:") + plain.mid(internal.size());
     if (plain.startsWith(usb))

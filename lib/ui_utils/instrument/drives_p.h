@@ -18,8 +18,8 @@ bool isDriveThere(const QString& path);
 /// The path without the "copy:" or "cut:" that the clipboard puts in front.
 QString withoutClipboardMark(const QString& path);
 
-/// The path as messages show it: without the clipboard's mark, with "Internal:" for "/cust/public" and "USB:" for
-/// "/mnt/usb".
+/// The path as messages show it, on one line: without the clipboard's mark, with "Internal:" for "/cust/public" and
+/// "USB:" for "/mnt/usb", and without controls that turn the direction of text.
 QString shownPath(const QString& path);
 
 /// The folder of the clean path as the notice of a saved report shows it: relative to the unit's public folder, "USB"

@@ -31,14 +31,29 @@ QString filePath(const QString& folder, const QString& name, const QString& code
     return folder + QLatin1Char('/') + name + QLatin1Char('_') + code + QLatin1String(".qm");
 }
 
+/// Without the file Qt would try other names. One that is damaged, perhaps half copied, has no texts.
+bool load(QTranslator& translator, const QString& file)
+{
+    if (!QFile::exists(file))
+        return false;
+    if (translator.load(file))
+        return true;
+    qWarning("The translations in %s cannot be read", qUtf8Printable(file));
+    return false;
+}
+
+bool isCatalogue(const QString& file)
+{
+    QTranslator translator;
+    return load(translator, file);
+}
+
 /// Null without a catalogue.
 std::unique_ptr<QTranslator> loaded(const QString& folder, const QString& name, const QString& code)
 {
     auto translator = std::make_unique<QTranslator>();
     for (const QString& fallback : fallbacks(code)) {
-        // Without the file Qt would try other names.
-        const QString file = filePath(folder, name, fallback);
-        if (QFile::exists(file) && translator->load(file))
+        if (load(*translator, filePath(folder, name, fallback)))
             return translator;
     }
     return nullptr;
@@ -55,15 +70,18 @@ Catalogues::Catalogues(const QStringList& folders)
 
 QStringList Catalogues::codesOf(const QString& name) const
 {
-    static const QRegularExpression language(QStringLiteral("^[a-z]{2,3}(_[A-Za-z]+)*$"));
+    static const QRegularExpression language(QStringLiteral("^[a-z]{2,3}(_[A-Za-z0-9]+)*$"));
     QStringList codes;
     for (const QString& folder : m_folders) {
         const QStringList files = QDir(folder).entryList({name + QLatin1String("_*.qm")}, QDir::Files, QDir::Name);
-        for (const QString& file : files)
-            codes += file.mid(name.size() + 1).chopped(int(qstrlen(".qm")));
+        for (const QString& file : files) {
+            const QString code = file.mid(name.size() + 1).chopped(int(qstrlen(".qm")));
+            if (language.match(code).hasMatch() && isCatalogue(folder + QLatin1Char('/') + file))
+                codes += code;
+        }
     }
     codes.removeDuplicates();
-    return codes.filter(language);
+    return codes;
 }
 
 QStringList Catalogues::offered() const
@@ -79,8 +97,8 @@ QStringList Catalogues::offered() const
 bool Catalogues::has(const QString& code) const
 {
     const auto isThere = [&](const QString& folder) {
-        return QFile::exists(filePath(folder, libraryName, code))
-                || QFile::exists(filePath(folder, QCoreApplication::applicationName(), code));
+        return isCatalogue(filePath(folder, libraryName, code))
+                || isCatalogue(filePath(folder, QCoreApplication::applicationName(), code));
     };
     return code == QLatin1String(sourceLanguage) || std::any_of(m_folders.cbegin(), m_folders.cend(), isThere);
 }

@@ -25,7 +25,7 @@ public:
     /// The languages to offer: those of the application, where it has catalogues of its own, else the library's; the
     /// source language first.
     QStringList offered() const;
-    /// Whether there is a catalogue of that language or it is the source language.
+    /// Whether there is a catalogue of that language that can be read, or it is the source language.
     bool has(const QString& code) const;
     /// The language that suits the locale best; without one the source language.
     QString bestFor(const QLocale& locale) const;

@@ -72,8 +72,10 @@ QString Languages::Private::nameOf(const QString& code) const
         if (!name.isEmpty())
             return name;
     }
-    return code == QLatin1String(sourceLanguage) ? QStringLiteral("English")
-                                                 : capitalised(QLocale(code).nativeLanguageName());
+    if (code == QLatin1String(sourceLanguage))
+        return QStringLiteral("English");
+    const QString known = QLocale(code).nativeLanguageName();
+    return known.isEmpty() ? code : capitalised(known);
 }
 
 void Languages::Private::install(const QString& code)
@@ -121,8 +123,9 @@ void Languages::open(const QStringList& folders)
         d->first = QLocale();
     d->isOpen = true;
     d->catalogues = Catalogues(folders);
-    Q_EMIT availableChanged();
     d->take(d->catalogues.bestFor(d->first));
+    // A slot may choose the language that the user wants.
+    Q_EMIT availableChanged();
     Q_EMIT currentChanged();
     d->showInPages();
 }

@@ -19,7 +19,8 @@ namespace uiutils {
 /// A language is a code such as "de" or "pt_BR". It has catalogues: files "uiutils_LANGUAGE.qm" for the library and
 /// "APPLICATION_LANGUAGE.qm", with the name of the application, for the application's own texts. They are looked for in
 /// the installed folder share/uiutils/translations and in the folders that open() gets. English, the language of the
-/// sources, needs none. The application remembers the user's choice; this class does not.
+/// sources, needs none. A damaged file counts for nothing, and the log has a line. The application remembers the
+/// user's choice; this class does not.
 ///
 /// When the language changes, so do the default QLocale and the layout direction of the application; every binding in
 /// the pages of all followed engines is evaluated again, and labels of items and of the library's own settings change.
@@ -28,7 +29,8 @@ namespace uiutils {
 class UIUTILS_EXPORT Languages : public QObject
 {
     Q_OBJECT
-    /// The code of the language. A language without a catalogue is rejected: setting it changes nothing.
+    /// The code of the language. A language without a catalogue that can be read is rejected: setting it changes
+    /// nothing.
     Q_PROPERTY(QString current READ current WRITE setCurrent NOTIFY currentChanged)
     /// The languages to offer to users, English first and the others by their codes: objects with `code`, `name` (of
     /// the language, in that language) and `isRightToLeft`. They are those of the application, where it has catalogues

@@ -1,33 +1,14 @@
 #include "report/savedreportorder_p.h"
 
-#include <algorithm>
+#include "core/usercollator_p.h"
 
 namespace uiutils {
-
-bool hasWords(const SavedReport& report, const QStringList& words)
-{
-    return std::all_of(words.cbegin(), words.cend(), [&](const QString& word) {
-        return report.name.contains(word, Qt::CaseInsensitive) || report.format.contains(word, Qt::CaseInsensitive);
-    });
-}
-
-namespace {
-
-/// The C locale knows neither numbers nor capital letters.
-QLocale ofUser()
-{
-    return QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale();
-}
-
-} // namespace
 
 SavedReportOrder::SavedReportOrder(SavedReports::SortKey key, bool reversed)
     : m_key(key)
     , m_isReversed(reversed)
-    , m_names(ofUser())
+    , m_names(userCollator())
 {
-    m_names.setNumericMode(true);
-    m_names.setCaseSensitivity(Qt::CaseInsensitive);
 }
 
 bool SavedReportOrder::operator()(const SavedReport& a, const SavedReport& b) const

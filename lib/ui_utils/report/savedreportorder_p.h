@@ -4,12 +4,8 @@
 #include "report/savedreports.h"
 
 #include <QCollator>
-#include <QStringList>
 
 namespace uiutils {
-
-/// Whether the report has each of the words in its name or format.
-bool hasWords(const SavedReport& report, const QStringList& words);
 
 /// The order of rows. The same reports always have the same order.
 class SavedReportOrder

@@ -23,9 +23,8 @@ class SavedReportsPrivate;
 /// | `compressed` | whether it is a gzip file |
 /// | `drive` | Unit or Usb |
 /// | `synced` | whether the cloud may take it; invalid if the list of reports that are not synced cannot be used |
-/// | `viewable` | whether open() shows it: a PDF report where the instrument has a viewer; any report that is not
-/// compressed where the machine has "xdg-open", as desktops have | | `readable` | whether readText() has its text: a
-/// TEXT, XML, HTML or JSON report |
+/// | `viewable` | whether open() shows it |
+/// | `readable` | whether readText() has its text: a TEXT, XML, HTML or JSON report |
 ///
 /// The ending of its name makes a file a report; reports in sub-folders are not listed. The list is read when control
 /// returns to the event loop, after construction, after a setter, and when reports have come or gone, whoever saved or
@@ -104,8 +103,9 @@ public:
 
     /// Reads the list at once.
     Q_INVOKABLE void refresh();
-    /// Opens a PDF report in the instrument's viewer, and any other with the program that the desktop has for it. False
-    /// if there is none; the user is not notified of that.
+    /// Opens a PDF report in the instrument's viewer. Where there is none, and any other report, with the program that
+    /// the desktop has for it ("xdg-open"), unless the report is compressed. False if nothing shows it; the user is not
+    /// notified of that.
     Q_INVOKABLE bool open(const QString& path);
     /// Copies the report to the USB drive, durably; asks before it replaces a file there. The tray notifies the user
     /// when the copy is safe. Does nothing for a report that is there.

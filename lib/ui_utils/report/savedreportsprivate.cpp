@@ -2,6 +2,7 @@
 
 #include "base/paths_p.h"
 #include "core/itemids_p.h"
+#include "core/searchwords_p.h"
 #include "instrument/basemanager_p.h"
 #include "instrument/drives_p.h"
 #include "report/savedtext_p.h"
@@ -170,9 +171,10 @@ QVector<SavedReport> SavedReportsPrivate::read()
 QVector<SavedReport> SavedReportsPrivate::shown() const
 {
     QVector<SavedReport> reports;
-    const QStringList words = filter.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    std::copy_if(all.cbegin(), all.cend(), std::back_inserter(reports),
-            [&](const SavedReport& report) { return hasWords(report, words); });
+    const SearchWords words(filter);
+    std::copy_if(all.cbegin(), all.cend(), std::back_inserter(reports), [&](const SavedReport& report) {
+        return words.areIn({report.name, report.format});
+    });
     std::stable_sort(reports.begin(), reports.end(), m_order);
     return reports;
 }

@@ -1,10 +1,53 @@
 #include "service/rowfilter.h"
 
-#include <QCollator>
+#include "core/searchwords_p.h"
+#include "core/usercollator_p.h"
+#include "languages/languages.h"
 
-#include <algorithm>
+#include <QDateTime>
+
+#include <cmath>
 
 namespace uiutils {
+
+namespace {
+
+constexpr int unknownRole = -1;
+
+/// What can be sorted, in this order.
+enum class Kind { Number, Time, Text, Nothing };
+
+Kind kindOf(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::Float:
+    case QMetaType::Double:
+        return std::isnan(value.toDouble()) ? Kind::Nothing : Kind::Number;
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        return Kind::Number;
+    case QMetaType::QDate:
+    case QMetaType::QDateTime:
+        return value.toDateTime().isValid() ? Kind::Time : Kind::Nothing;
+    default:
+        return value.toString().isEmpty() ? Kind::Nothing : Kind::Text;
+    }
+}
+
+bool isFraction(const QVariant& value)
+{
+    return value.userType() == QMetaType::Double || value.userType() == QMetaType::Float;
+}
+
+template<typename Value> int compared(const Value& a, const Value& b)
+{
+    return a < b ? -1 : b < a ? 1 : 0;
+}
+
+} // namespace
 
 class RowFilterPrivate
 {
@@ -12,21 +55,25 @@ public:
     explicit RowFilterPrivate(RowFilter* filter)
         : q(filter)
     {
-        collator.setNumericMode(true);
-        collator.setCaseSensitivity(Qt::CaseInsensitive);
     }
 
     /// The numbers of the roles with these names, which a model may give anew with every reset.
     QVector<int> roles(const QStringList& names) const;
     bool hasWords(const QModelIndex& index) const;
     bool hasValue(const QModelIndex& index) const;
-    void sort() const;
+    int sortRole() const;
+    /// Negative if `a` comes before `b`, 0 if both are equal.
+    int compare(const QVariant& a, const QVariant& b) const;
+    void sort();
     void count();
 
     RowFilter* const q;
-    QCollator collator;
+    QCollator collator = userCollator();
+    /// The number of the role `sortBy` once it is known: a model may have it only with the first row.
+    mutable int sortNumber = unknownRole;
+    QMetaObject::Connection deletion;
     QString text;
-    QStringList words;
+    SearchWords words;
     QStringList textRoles;
     QString role;
     QVariantList values;
@@ -55,26 +102,56 @@ bool RowFilterPrivate::hasWords(const QModelIndex& index) const
     const QVector<int> numbers = roles(textRoles);
     for (const int number : numbers)
         texts += index.data(number).toString();
-    return std::all_of(words.cbegin(), words.cend(), [&](const QString& word) {
-        return std::any_of(texts.cbegin(), texts.cend(),
-                [&](const QString& candidate) { return candidate.contains(word, Qt::CaseInsensitive); });
-    });
+    return words.areIn(texts);
 }
 
 bool RowFilterPrivate::hasValue(const QModelIndex& index) const
 {
-    if (valueTexts.isEmpty())
+    if (valueTexts.isEmpty() || role.isEmpty())
         return true;
-    const QVector<int> numbers = role.isEmpty() ? QVector<int>() : roles({role});
-    return !numbers.isEmpty() && valueTexts.contains(index.data(numbers.constFirst()).toString());
+    const QVector<int> numbers = roles({role});
+    return valueTexts.contains(numbers.isEmpty() ? QString() : index.data(numbers.constFirst()).toString());
 }
 
-void RowFilterPrivate::sort() const
+int RowFilterPrivate::sortRole() const
 {
-    const QVector<int> numbers = sortBy.isEmpty() ? QVector<int>() : roles({sortBy});
-    if (!numbers.isEmpty())
-        q->setSortRole(numbers.constFirst());
-    q->QSortFilterProxyModel::sort(numbers.isEmpty() ? -1 : 0, isDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    if (sortNumber == unknownRole)
+        sortNumber = roles({sortBy}).value(0, unknownRole);
+    return sortNumber;
+}
+
+int RowFilterPrivate::compare(const QVariant& a, const QVariant& b) const
+{
+    const Kind kind = kindOf(a);
+    const Kind other = kindOf(b);
+    if (kind != other) {
+        const bool isMissing = kind == Kind::Nothing || other == Kind::Nothing;
+        return isMissing && isDescending ? compared(other, kind) : compared(kind, other);
+    }
+    switch (kind) {
+    case Kind::Number:
+        // Large whole numbers are not the same as fractions.
+        return isFraction(a) || isFraction(b) ? compared(a.toDouble(), b.toDouble())
+                                              : compared(a.toLongLong(), b.toLongLong());
+    case Kind::Time:
+        return compared(a.toDateTime(), b.toDateTime());
+    case Kind::Text:
+        return collator.compare(a.toString(), b.toString());
+    case Kind::Nothing:
+        break;
+    }
+    return 0;
+}
+
+void RowFilterPrivate::sort()
+{
+    const int column = sortBy.isEmpty() ? -1 : 0;
+    const Qt::SortOrder order = isDescending ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sortNumber = unknownRole;
+    if (column == q->sortColumn() && order == q->sortOrder())
+        q->invalidate();
+    else
+        q->QSortFilterProxyModel::sort(column, order);
 }
 
 void RowFilterPrivate::count()
@@ -95,6 +172,12 @@ RowFilter::RowFilter(QObject* parent)
     connect(this, &QAbstractItemModel::rowsRemoved, this, follow);
     connect(this, &QAbstractItemModel::modelReset, this, follow);
     connect(this, &QAbstractItemModel::layoutChanged, this, follow);
+    // Another table may give its roles other numbers.
+    connect(this, &QAbstractItemModel::modelAboutToBeReset, this, [this] { d->sortNumber = unknownRole; });
+    connect(Languages::instance(), &Languages::currentChanged, this, [this] {
+        d->collator = userCollator();
+        d->sort();
+    });
 }
 
 RowFilter::~RowFilter() = default;
@@ -109,7 +192,7 @@ void RowFilter::setText(const QString& text)
     if (text == d->text)
         return;
     d->text = text;
-    d->words = text.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    d->words = SearchWords(text);
     invalidateFilter();
     Q_EMIT textChanged();
 }
@@ -149,12 +232,14 @@ QVariantList RowFilter::values() const
 
 void RowFilter::setValues(const QVariantList& values)
 {
-    if (values == d->values)
+    QStringList texts;
+    for (const QVariant& value : values)
+        texts += value.toString();
+    // QVariant takes true and 1 for equal.
+    if (values == d->values && texts == d->valueTexts)
         return;
     d->values = values;
-    d->valueTexts.clear();
-    for (const QVariant& value : values)
-        d->valueTexts += value.toString();
+    d->valueTexts = texts;
     invalidateFilter();
     Q_EMIT valuesChanged();
 }
@@ -189,9 +274,20 @@ void RowFilter::setDescending(bool isDescending)
 
 void RowFilter::setSourceModel(QAbstractItemModel* model)
 {
+    disconnect(d->deletion);
     QSortFilterProxyModel::setSourceModel(model);
+    // Qt would leave views with the rows of the deleted model.
+    if (model)
+        d->deletion = connect(model, &QObject::destroyed, this, [this] { setSourceModel(nullptr); });
     d->sort();
     d->count();
+}
+
+/// Qt would return those that the model had when it was set.
+QHash<int, QByteArray> RowFilter::roleNames() const
+{
+    const QAbstractItemModel* const model = sourceModel();
+    return model ? model->roleNames() : QHash<int, QByteArray>();
 }
 
 QVariantMap RowFilter::get(int row) const
@@ -212,11 +308,11 @@ bool RowFilter::filterAcceptsRow(int row, const QModelIndex& parent) const
 
 bool RowFilter::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
-    const QVariant a = left.data(sortRole());
-    const QVariant b = right.data(sortRole());
-    if (a.userType() == QMetaType::QString && b.userType() == QMetaType::QString)
-        return d->collator.compare(a.toString(), b.toString()) < 0;
-    return QSortFilterProxyModel::lessThan(left, right);
+    const int role = d->sortRole();
+    const int result = role == unknownRole ? 0 : d->compare(left.data(role), right.data(role));
+    // The order of the model in either direction, also for rows that come later.
+    const bool isBefore = d->isDescending ? right.row() < left.row() : left.row() < right.row();
+    return result == 0 ? isBefore : result < 0;
 }
 
 } // namespace uiutils

@@ -3,12 +3,14 @@
 #include "descriptioncheck_p.h"
 #include "embeddedclient_p.h"
 #include "formatters/formatters_p.h"
+#include "keptstate_p.h"
 #include "servicedata_p.h"
 #include "servicefile_p.h"
 #include "serviceregistry_p.h"
 #include "texts_p.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -83,20 +85,66 @@ bool EmbeddedBackend::loadFile(const QString& path, QString* problem)
     return isLoaded;
 }
 
-bool EmbeddedBackend::loadFile(const QString& path, QStringList* problems)
+/// A file that can be used, with what else it says.
+struct EmbeddedBackend::CheckedFile
+{
+    ServiceFile file;
+    FileExtras extras;
+};
+
+std::optional<EmbeddedBackend::CheckedFile> EmbeddedBackend::check(const QString& path, QStringList* problems) const
 {
     QString reason;
     const std::optional<ServiceFile> file = readServiceFile(path, &reason);
     if (!file) {
         *problems += reason;
-        return false;
+        return std::nullopt;
     }
     const FileExtras extras = d->fileReader ? d->fileReader(path, file->document, file->service) : FileExtras();
     if (!extras.problem.isEmpty()) {
         *problems += path + QLatin1String(": ") + extras.problem;
-        return false;
+        return std::nullopt;
     }
-    return publish(file->service, path, extras, problems);
+    return CheckedFile {*file, extras};
+}
+
+bool EmbeddedBackend::loadFile(const QString& path, QStringList* problems)
+{
+    const std::optional<CheckedFile> checked = check(path, problems);
+    return checked && publish(checked->file.service, path, checked->extras, problems);
+}
+
+/// Whether the service is published, and by something else than the file.
+bool EmbeddedBackend::isFromElsewhere(const QString& service, const QString& path) const
+{
+    const ServicePlace* place = d->registry.place(service);
+    return place && place->service() && QFileInfo(place->file()) != QFileInfo(path);
+}
+
+bool EmbeddedBackend::reloadFile(const QString& path, QJsonObject* document, QStringList* problems)
+{
+    const std::optional<CheckedFile> checked = check(path, problems);
+    if (!checked)
+        return false;
+    const QString name = checked->file.service.service;
+    const QString nameBefore = document->value(QLatin1String("service")).toString();
+    const QPointer<QObject> alive(&d->registry);
+    std::optional<KeptState> kept;
+    if (!isFromElsewhere(name, path)) {
+        if (const EmbeddedService* running = service(name))
+            kept.emplace(*running, *document, checked->file.document);
+        withdraw(name);
+        if (alive && nameBefore != name && !isFromElsewhere(nameBefore, path))
+            withdraw(nameBefore);
+    }
+    if (!alive)
+        return false;
+    EmbeddedService* published = publish(checked->file.service, path, checked->extras, problems);
+    if (published && kept)
+        kept->giveBackTo(published);
+    if (published)
+        *document = checked->file.document;
+    return published;
 }
 
 EmbeddedService* EmbeddedBackend::publish(const ServiceDescription& description, QString* problem)

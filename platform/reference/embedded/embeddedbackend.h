@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace kiv::embedded {
 
@@ -67,6 +68,13 @@ public:
     /// line, and do not make the call fail.
     [[nodiscard]] bool loadFile(const QString& path, QString* problem = nullptr);
 
+    /// Reads a file again and publishes its service anew, or for the first time. `document` is what the file said when
+    /// it was loaded, and becomes what it says now: values, quality and readiness of items stay as they are, except
+    /// those about which the file says something new. Returns false, with the reason in `problems`, when the file
+    /// cannot be used; then everything stays as it was. Other problems are as for loadFile(). Clients emit
+    /// itemsChanged().
+    [[nodiscard]] bool reloadFile(const QString& path, QJsonObject* document, QStringList* problems);
+
     /// Publishes a service without a file. Returns null, with place and reason in `problem`, when the description is
     /// not valid or a service of that name is published already; other problems are as for loadFile(). Clients that had
     /// an earlier service of that name emit itemsChanged().
@@ -92,6 +100,9 @@ private:
     EmbeddedService* publish(const ServiceDescription& description, const QString& file, const FileExtras& extras,
             QStringList* problems);
     bool loadFile(const QString& path, QStringList* problems);
+    struct CheckedFile;
+    std::optional<CheckedFile> check(const QString& path, QStringList* problems) const;
+    bool isFromElsewhere(const QString& service, const QString& path) const;
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -33,7 +33,8 @@ Interval levelsOf(const QVector<CurveBound>& bounds, bool isLogarithmic)
     return levels;
 }
 
-/// With some space, so that limits do not lie on the frame.
+/// With some space, so that limits do not lie on the frame. The space never reaches beyond zero: an axis of what cannot be
+/// negative would spend half of its length below.
 Interval withLevels(Interval values, const Interval& levels, bool isLogarithmic)
 {
     if (levels.isEmpty())
@@ -41,9 +42,9 @@ Interval withLevels(Interval values, const Interval& levels, bool isLogarithmic)
     values.include(levels);
     const double pad = isLogarithmic ? 0 : 0.02 * values.extent();
     if (levels.low <= values.low)
-        values.include(values.low - pad);
+        values.include(values.low < 0 ? values.low - pad : std::max(0.0, values.low - pad));
     if (levels.high >= values.high)
-        values.include(values.high + pad);
+        values.include(values.high > 0 ? values.high + pad : std::min(0.0, values.high + pad));
     return values;
 }
 

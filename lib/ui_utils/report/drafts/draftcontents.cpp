@@ -86,11 +86,11 @@ void takeReportState(Report* report, const QJsonObject& state)
     takeSettings(*report, state.value(settingsKey).toObject());
     for (const TextField& field : textFields) {
         // Where the template says the same, its value stays in charge.
-        const QString text = state.value(field.key).toString();
-        if (alive && text != (report->*field.get)())
-            (report->*field.set)(text);
+        const QJsonValue text = state.value(field.key);
+        if (alive && text.isString() && text.toString() != (report->*field.get)())
+            (report->*field.set)(text.toString());
     }
-    if (alive)
+    if (alive && state.value(screenshotsKey).isArray())
         report->setScreenshotList(textsIn(state.value(screenshotsKey).toArray()));
 }
 

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QtDebug>
 
 #include <algorithm>
@@ -54,8 +55,9 @@ DraftFolder::DraftFolder(const QString& id)
 
 bool DraftFolder::claim(QString* error)
 {
-    if (m_lock)
+    if (isOwned())
         return true;
+    m_lock.reset();
     auto lock = std::make_unique<FolderLock>(m_folder, 0);
     *error = lock->error();
     if (lock->isLocked())
@@ -65,10 +67,19 @@ bool DraftFolder::claim(QString* error)
 
 bool DraftFolder::makeAndClaim(QString* error)
 {
-    if (m_lock || makeFolderDurably(m_folder))
-        return claim(error);
-    *error = qt_error_string(errno);
-    return false;
+    const bool isThere = exists();
+    if (!makeFolderDurably(m_folder)) {
+        *error = qt_error_string(errno);
+        return false;
+    }
+    if (!isThere)
+        QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return claim(error);
+}
+
+bool DraftFolder::isAnotherOwner(const QString& error)
+{
+    return error == qt_error_string(EWOULDBLOCK);
 }
 
 bool DraftFolder::exists() const
@@ -125,9 +136,17 @@ void DraftFolder::setAside(const QString& path) const
         qWarning("The draft %s is damaged", qUtf8Printable(path));
 }
 
+/// A name does not tell the age: a draft that was given back is written again under its name.
 void DraftFolder::removeOldest(QLatin1String end, int most) const
 {
     QStringList names = namesIn(m_folder, end);
+    if (names.size() <= most)
+        return;
+    QHash<QString, QDateTime> times;
+    for (const QString& name : qAsConst(names))
+        times.insert(name, QFileInfo(m_folder + name).lastModified());
+    std::stable_sort(
+            names.begin(), names.end(), [&](const QString& a, const QString& b) { return times[a] < times[b]; });
     while (names.size() > most) {
         const QString oldest = m_folder + names.takeFirst();
         qWarning("There are too many drafts; the oldest is removed: %s", qUtf8Printable(oldest));

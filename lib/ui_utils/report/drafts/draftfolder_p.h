@@ -23,8 +23,8 @@ struct OfferedDraft
 class DraftFolder
 {
 public:
-    /// How many drafts are kept, and how many files that cannot be read. Beyond that the oldest is removed, and the log
-    /// says so.
+    /// How many drafts are kept, and how many files that cannot be read. Beyond that the one that was written first is
+    /// removed, and the log says so.
     static constexpr int mostDrafts = 20;
     static constexpr int mostDamaged = 5;
 
@@ -33,10 +33,13 @@ public:
 
     /// Whether this object owns the folder now. Does not wait for another owner. `error` is for the log.
     bool claim(QString* error);
-    /// The same; first makes the folder if there is none.
+    /// The same; first makes the folder if there is none, for this user alone.
     bool makeAndClaim(QString* error);
-    bool isOwned() const { return bool(m_lock); }
+    /// False again when somebody has removed the folder.
+    bool isOwned() const { return m_lock && m_lock->isAt(m_folder); }
     bool exists() const;
+    /// Whether the reason that claim() gives is another owner.
+    static bool isAnotherOwner(const QString& error);
 
     /// The drafts in the folder, the last written first. A damaged one gets another name, with a line in the log. What
     /// another version of the library has made stays where it is.

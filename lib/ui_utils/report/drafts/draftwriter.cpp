@@ -38,6 +38,13 @@ DraftOutcome writeDraft(const QString& path, const DraftHeader& header, const Dr
     return outcome;
 }
 
+qint64 pauseAfter(int interval, qint64 duration)
+{
+    constexpr int shareOfTime = 20;
+    constexpr qint64 longest = 60'000;
+    return qMax<qint64>(interval, qMin(longest, shareOfTime * duration));
+}
+
 /// Written by the thread before `isDone`, read after it.
 struct DraftWriter::Result
 {

@@ -27,6 +27,11 @@ struct DraftOutcome
 /// Writes the file at `path` on the disk.
 DraftOutcome writeDraft(const QString& path, const DraftHeader& header, const DraftContents& contents);
 
+/// The shortest time from the end of one write, which took so long, to the next, in milliseconds: at most a twentieth
+/// of the time is spent on writing, and of the life of the disk. But a disk that was stuck once must not cost a user
+/// more than a minute of measuring.
+qint64 pauseAfter(int interval, qint64 duration);
+
 /// Writes drafts in a thread of its own, because a disk may take a second to say that a file is safe. One at a time.
 class DraftWriter
 {

@@ -51,8 +51,10 @@ void ReportDraft::setReport(Report* report)
     if (d->report)
         d->report->disconnect(this);
     d->report = report;
+    d->hasReport = report;
     if (report) {
-        connect(report, &Report::reportGenerated, this, [this] { forget(); });
+        connect(report, &Report::savingChanged, this, [this] { d->noteSave(); });
+        connect(report, &Report::reportGenerated, this, [this] { d->endSave(); });
         connect(report, &QObject::destroyed, this, &ReportDraft::reportChanged);
     }
     Q_EMIT reportChanged();
@@ -65,8 +67,11 @@ ReportTemplate* ReportDraft::document() const
 
 void ReportDraft::setDocument(ReportTemplate* document)
 {
-    if (std::exchange(d->document, document) != document)
-        Q_EMIT documentChanged();
+    if (document == d->document)
+        return;
+    d->document = document;
+    d->hasDocument = document;
+    Q_EMIT documentChanged();
 }
 
 QVariantMap ReportDraft::data() const

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 namespace uiutils {
 
@@ -22,6 +23,9 @@ public:
     QString id;
     QPointer<Report> report;
     QPointer<ReportTemplate> document;
+    /// Whether the page has set one, which may have been deleted since.
+    bool hasReport = false;
+    bool hasDocument = false;
     QVariantMap data;
     int interval = 2000;
     bool isBeingCreated = false;
@@ -35,6 +39,9 @@ public:
     bool restore();
     void discard();
     void forget();
+    /// The controller begins to write its report, or is done.
+    void noteSave();
+    void endSave();
 
 private:
     /// What keep() has taken.
@@ -48,14 +55,17 @@ private:
 
     void look();
     void schedule();
+    void takeObjects();
+    bool canWrite() const { return m_isUnwritten && !m_writer.isBusy(); }
     bool takeFolder();
     void write();
     DraftContents takeKept();
     void finish();
     void settle(const DraftOutcome& outcome);
     void rejectOffered(DraftState state);
-    bool putBack(const DraftContents& contents);
+    void putBack(const DraftContents& contents, const QString& title);
     void setOffered(const QVector<OfferedDraft>& drafts);
+    void dropVanished();
     void setProblem(const QString& words, const QString& error);
     void tellPending();
     qint64 pause() const;
@@ -65,6 +75,8 @@ private:
     /// The file of this run, on the disk; empty if there is none.
     QString m_ownFile;
     Kept m_kept;
+    /// What was kept when the controller began to write its report.
+    std::optional<Kept> m_saved;
     bool m_isUnwritten = false;
     bool m_isRestoring = false;
     bool m_keepsAfterwards = false;

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QtDebug>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace uiutils {
@@ -25,14 +27,20 @@ ReportDraftPrivate::ReportDraftPrivate(ReportDraft* draft)
 void ReportDraftPrivate::takeId(const QString& newId)
 {
     const QPointer<ReportDraft> self(q);
-    flush();
+    if (!flush() && self)
+        qWarning("The draft of %s is lost: %s", qUtf8Printable(id), qUtf8Printable(problem));
     if (!self)
         return;
     id = newId;
-    m_ownFile.clear();
-    m_isUnwritten = false;
     m_folder = id.isEmpty() ? nullptr : std::make_unique<DraftFolder>(id);
-    look();
+    m_ownFile.clear();
+    m_saved.reset();
+    m_lookError.clear();
+    m_look.stop();
+    // What could not be written belongs to the other name, and so does the problem.
+    forget();
+    if (self)
+        look();
 }
 
 /// The page that owned the folder may be the one that this page replaces, and be deleted soon.
@@ -43,8 +51,9 @@ void ReportDraftPrivate::look()
     const bool isKept = !isOwner && m_folder && m_folder->exists();
     if (isKept && std::exchange(m_lookError, error) != error)
         qWarning("The drafts of %s are not offered now: %s", qUtf8Printable(id), qUtf8Printable(error));
+    constexpr int longestWait = 1000;
     if (isKept)
-        m_look.start(qMax(1, interval));
+        m_look.start(qBound(1, interval, longestWait));
     setOffered(isOwner ? m_folder->drafts() : QVector<OfferedDraft>());
 }
 
@@ -54,6 +63,16 @@ void ReportDraftPrivate::setOffered(const QVector<OfferedDraft>& drafts)
     offered = drafts;
     if (isChange)
         Q_EMIT q->availableChanged();
+}
+
+/// Too many drafts, or somebody else, may have removed files.
+void ReportDraftPrivate::dropVanished()
+{
+    QVector<OfferedDraft> left;
+    std::copy_if(offered.cbegin(), offered.cend(), std::back_inserter(left),
+            [](const OfferedDraft& draft) { return QFile::exists(draft.path); });
+    if (left.size() != offered.size())
+        setOffered(left);
 }
 
 void ReportDraftPrivate::discard()
@@ -73,13 +92,21 @@ void ReportDraftPrivate::keep()
     if (m_isRestoring || !m_folder)
         return;
     m_kept.data = data;
+    takeObjects();
+    m_isUnwritten = true;
+    schedule();
+    tellPending();
+}
+
+/// The objects of a page are deleted in any order. Of one that is gone, what it had last stays.
+void ReportDraftPrivate::takeObjects()
+{
+    if (hasReport ? !report : hasDocument && !document)
+        return;
     m_kept.report = report ? reportState(*report) : QJsonObject();
     m_kept.title = report ? reportLabel(*report) : QString();
     const ReportTemplate* const source = report ? &std::as_const(*report).document() : document.data();
     m_kept.document = source ? source->object() : QJsonObject();
-    m_isUnwritten = true;
-    schedule();
-    tellPending();
 }
 
 void ReportDraftPrivate::forget()
@@ -96,6 +123,20 @@ void ReportDraftPrivate::forget()
     setProblem(QString(), QString());
     if (self)
         tellPending();
+}
+
+void ReportDraftPrivate::noteSave()
+{
+    if (report && report->isSaving())
+        m_saved = m_kept;
+}
+
+/// What was measured while the report was written is not in it.
+void ReportDraftPrivate::endSave()
+{
+    const std::optional<Kept> saved = std::exchange(m_saved, std::nullopt);
+    if (!saved || (saved->data == m_kept.data && saved->document == m_kept.document))
+        forget();
 }
 
 void ReportDraftPrivate::tellPending()
@@ -116,11 +157,9 @@ void ReportDraftPrivate::setProblem(const QString& words, const QString& error)
 
 // --- When it is written ---
 
-/// At most a twentieth of the time is spent on writing, and of the life of the disk.
 qint64 ReportDraftPrivate::pause() const
 {
-    constexpr int shareOfTime = 20;
-    const qint64 wanted = qMax<qint64>(interval, shareOfTime * m_lastDuration);
+    const qint64 wanted = pauseAfter(interval, m_lastDuration);
     return m_sinceWriting.isValid() ? qMax<qint64>(0, wanted - m_sinceWriting.elapsed()) : 0;
 }
 
@@ -130,7 +169,8 @@ void ReportDraftPrivate::schedule()
         m_turn.start(int(pause()));
 }
 
-/// What another owner has left is listed before a file of this run is among it.
+/// What another owner has left is listed before a file of this run is among it. A slot that is notified of that may
+/// give a draft back: whoever goes on after this asks canWrite() again.
 bool ReportDraftPrivate::takeFolder()
 {
     if (m_folder->isOwned())
@@ -139,20 +179,23 @@ bool ReportDraftPrivate::takeFolder()
     QString error;
     if (m_folder->makeAndClaim(&error)) {
         m_look.stop();
+        // That of a folder that somebody has removed.
+        m_ownFile.clear();
         setOffered(m_folder->drafts());
         return self;
     }
     m_sinceWriting.restart();
     schedule();
-    setProblem(m_folder->exists() ? ReportDraft::tr("Another page or program keeps results of this kind")
-                                  : ReportDraft::tr("There is no folder to keep the results in until they are saved"),
+    setProblem(DraftFolder::isAnotherOwner(error)
+                    ? ReportDraft::tr("Another page or program keeps results of this kind")
+                    : ReportDraft::tr("There is no folder to keep the results in until they are saved"),
             error);
     return false;
 }
 
 void ReportDraftPrivate::write()
 {
-    if (!m_isUnwritten || m_writer.isBusy() || !takeFolder())
+    if (!canWrite() || !takeFolder() || !canWrite())
         return;
     const DraftContents contents = takeKept();
     m_writer.start(m_ownFile, {QDateTime::currentDateTime(), m_kept.title}, contents);
@@ -182,6 +225,8 @@ void ReportDraftPrivate::settle(const DraftOutcome& outcome)
     setProblem(outcome.problem, outcome.error);
     if (self)
         tellPending();
+    if (self)
+        dropVanished();
 }
 
 bool ReportDraftPrivate::flush()
@@ -189,7 +234,7 @@ bool ReportDraftPrivate::flush()
     const QPointer<ReportDraft> self(q);
     m_writer.wait();
     finish();
-    if (self && m_isUnwritten && takeFolder()) {
+    if (self && m_isUnwritten && takeFolder() && canWrite()) {
         const DraftContents contents = takeKept();
         settle(writeDraft(m_ownFile, {QDateTime::currentDateTime(), m_kept.title}, contents));
     }
@@ -202,7 +247,7 @@ bool ReportDraftPrivate::restore()
 {
     const QPointer<ReportDraft> self(q);
     // Before a draft takes the place of what this run has, that has to be safe.
-    if (offered.isEmpty() || !flush() || !self || offered.isEmpty())
+    if (m_isRestoring || offered.isEmpty() || !flush() || !self || offered.isEmpty())
         return false;
     const OfferedDraft draft = offered.constFirst();
     DraftContents contents;
@@ -216,8 +261,16 @@ bool ReportDraftPrivate::restore()
     OfferedDraft former {std::exchange(m_ownFile, draft.path), {}};
     if (!former.path.isEmpty() && readDraftHeader(former.path, &former.header) == DraftState::Good)
         offered.prepend(former);
-    if (putBack(contents))
+    m_isRestoring = true;
+    putBack(contents, draft.header.title);
+    // Of a page that gives back whatever is offered, two drafts would replace each other forever.
+    if (self)
         Q_EMIT q->availableChanged();
+    if (!self)
+        return true;
+    m_isRestoring = false;
+    if (std::exchange(m_keepsAfterwards, false))
+        keep();
     if (self)
         Q_EMIT q->restored();
     return true;
@@ -227,31 +280,25 @@ bool ReportDraftPrivate::restore()
 void ReportDraftPrivate::rejectOffered(DraftState state)
 {
     if (state == DraftState::Unreadable)
-        return;
+        return dropVanished();
     if (state == DraftState::Damaged)
         m_folder->setAside(offered.constFirst().path);
     setOffered(offered.mid(1));
 }
 
 /// A slot that is notified of one value may call keep() while the others are still the former ones.
-bool ReportDraftPrivate::putBack(const DraftContents& contents)
+void ReportDraftPrivate::putBack(const DraftContents& contents, const QString& title)
 {
     const QPointer<ReportDraft> self(q);
-    m_isRestoring = true;
     ReportTemplate* const target = report ? &report->document() : document.data();
-    if (target && !contents.document.isEmpty())
+    if (target)
         target->setObject(contents.document);
     data = contents.data.toVariantMap();
-    if (report)
+    m_kept = {data, contents.report, contents.document, title};
+    if (report && !contents.report.isEmpty())
         takeReportState(report, contents.report);
     if (self)
         Q_EMIT q->dataChanged();
-    if (!self)
-        return false;
-    m_isRestoring = false;
-    if (std::exchange(m_keepsAfterwards, false))
-        keep();
-    return self;
 }
 
 } // namespace uiutils
