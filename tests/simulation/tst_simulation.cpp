@@ -5,6 +5,8 @@
 #include "simulation/csvcolumn_p.h"
 #include "simulation/simulation_p.h"
 
+#include <QJsonDocument>
+
 #include <sys/stat.h>
 
 using namespace kiv::simulation;
@@ -471,6 +473,41 @@ private Q_SLOTS:
                 QCOMPARE(client->getItem(":result:s:n:")->getValue(), QVariant());
         }
         QVERIFY(!QDir(folder.filePath("state")).exists());
+    }
+
+    /// A file that is read again ends what it let happen, and judges what has not moved since.
+    void readAgain()
+    {
+        QTemporaryDir folder;
+        EmbeddedBackend backend;
+        simulate(backend, Simulated::All);
+        const QByteArray items = R"({"id": ":result:s:a:", "type": "int", "value": 3, "judged": {"passing": {"to": 5}}},
+            {"id": ":result:s:b:", "type": "int", "value": 3}, {"id": ":config:s:c:", "type": "int", "value": 3})";
+        const QString path = writeFile(folder.filePath("s.service.json"),
+                service(items, R"([{"after": 0, "vanish": true, "quality": "failing", "ready": false}])"));
+        QVERIFY(backend.loadFile(path));
+        QJsonObject document = QJsonDocument::fromJson(contentsOf(path)).object();
+        backend.service("s")->setValue(":config:s:c:", 4);
+        KIVClientInterface* client = KIVClientInterface::getSessionBusClient("s");
+        const auto reload = [&](QByteArray contents) {
+            QStringList problems;
+            writeFile(path, contents);
+            return backend.reloadFile(path, &document, &problems);
+        };
+        const auto quality = [client](const char* id) { return client->getItem(id)->getQualityCode(); };
+        QVERIFY(!client->isValid());
+        QVERIFY(reload(service(items, R"([{"after": 90000, "error": "x"}])")));
+        QVERIFY(client->isValid() && client->getItem(":result:s:b:")->isReady());
+        QCOMPARE(quality(":result:s:b:"), int(KIVClientItem::QualityNone));
+        QVERIFY(client->setItem(":config:s:c:", 5));
+        QVERIFY(backend.service("s")->setQuality(":result:s:b:", KIVClientItem::QualityWarning));
+        QByteArray stricter = "{\"service\": \"s\", \"items\": [" + items + "]}";
+        QVERIFY(reload(stricter));
+        QVERIFY(backend.service("s")->setQuality(":result:s:b:", KIVClientItem::QualityWarning));
+        QVERIFY(reload(stricter.replace("\"to\": 5", "\"to\": 2")));
+        QCOMPARE(quality(":result:s:a:"), int(KIVClientItem::QualityFailing));
+        QCOMPARE(quality(":result:s:b:"), int(KIVClientItem::QualityWarning));
+        QCOMPARE(client->getItem(":config:s:c:")->getValue(), QVariant(5));
     }
 
     /// A slot that runs an event loop stops nobody else, and when all is done nothing wakes the process any more.
