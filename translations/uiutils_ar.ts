@@ -3240,8 +3240,8 @@ Folder: %2</source>
         <translation>لا يوجد إجراء %1 له &quot;runs&quot;</translation>
     </message>
     <message>
-        <source>nothing happens: &quot;slow&quot;, &quot;vanish&quot;, &quot;refuse&quot;, &quot;ready&quot;, &quot;error&quot; or &quot;set&quot; is missing</source>
-        <translation>لا يحدث شيء: ينقص &quot;slow&quot; أو &quot;vanish&quot; أو &quot;refuse&quot; أو &quot;ready&quot; أو &quot;error&quot; أو &quot;set&quot;</translation>
+        <source>nothing happens: say what, such as &quot;vanish&quot;: true</source>
+        <translation>لا يحدث شيء: اذكر ما يحدث، مثل &quot;vanish&quot;: true</translation>
     </message>
 </context>
 <context>

@@ -3220,8 +3220,8 @@ Ordner: %2</translation>
         <translation>es gibt keine Aktion %1 mit „runs“</translation>
     </message>
     <message>
-        <source>nothing happens: &quot;slow&quot;, &quot;vanish&quot;, &quot;refuse&quot;, &quot;ready&quot;, &quot;error&quot; or &quot;set&quot; is missing</source>
-        <translation>es geschieht nichts: „slow“, „vanish“, „refuse“, „ready“, „error“ oder „set“ fehlt</translation>
+        <source>nothing happens: say what, such as &quot;vanish&quot;: true</source>
+        <translation>es geschieht nichts: geben Sie an, was, zum Beispiel &quot;vanish&quot;: true</translation>
     </message>
 </context>
 <context>

@@ -3220,8 +3220,8 @@ Carpeta: %2</translation>
         <translation>no hay ninguna acción %1 con «runs»</translation>
     </message>
     <message>
-        <source>nothing happens: &quot;slow&quot;, &quot;vanish&quot;, &quot;refuse&quot;, &quot;ready&quot;, &quot;error&quot; or &quot;set&quot; is missing</source>
-        <translation>no ocurre nada: falta «slow», «vanish», «refuse», «ready», «error» o «set»</translation>
+        <source>nothing happens: say what, such as &quot;vanish&quot;: true</source>
+        <translation>no ocurre nada: indique qué, por ejemplo &quot;vanish&quot;: true</translation>
     </message>
 </context>
 <context>

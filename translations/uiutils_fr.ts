@@ -3220,8 +3220,8 @@ Dossier&#xa0;: %2</translation>
         <translation>il n’y a pas d’action %1 avec «&#xa0;runs&#xa0;»</translation>
     </message>
     <message>
-        <source>nothing happens: &quot;slow&quot;, &quot;vanish&quot;, &quot;refuse&quot;, &quot;ready&quot;, &quot;error&quot; or &quot;set&quot; is missing</source>
-        <translation>il ne se passe rien&#xa0;: il manque «&#xa0;slow&#xa0;», «&#xa0;vanish&#xa0;», «&#xa0;refuse&#xa0;», «&#xa0;ready&#xa0;», «&#xa0;error&#xa0;» ou «&#xa0;set&#xa0;»</translation>
+        <source>nothing happens: say what, such as &quot;vanish&quot;: true</source>
+        <translation>il ne se passe rien&#xa0;: indiquez quoi, par exemple &quot;vanish&quot;: true</translation>
     </message>
 </context>
 <context>

@@ -3215,8 +3215,8 @@ Folder: %2</source>
         <translation>&quot;runs&quot; を持つアクション %1 がありません</translation>
     </message>
     <message>
-        <source>nothing happens: &quot;slow&quot;, &quot;vanish&quot;, &quot;refuse&quot;, &quot;ready&quot;, &quot;error&quot; or &quot;set&quot; is missing</source>
-        <translation>何も起こりません: &quot;slow&quot;、&quot;vanish&quot;、&quot;refuse&quot;、&quot;ready&quot;、&quot;error&quot;、&quot;set&quot; のいずれかが必要です</translation>
+        <source>nothing happens: say what, such as &quot;vanish&quot;: true</source>
+        <translation>何も起こりません: &quot;vanish&quot;: true のように、何が起こるかを書いてください</translation>
     </message>
 </context>
 <context>

@@ -3220,8 +3220,8 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <translation>[ţĥéŕé îš ñö åçţîöñ %1 ţĥåţ "ŕûñš" ~ ~ ~ ~ ~ ~]</translation>
     </message>
     <message>
-        <source>nothing happens: "slow", "vanish", "refuse", "ready", "error" or "set" is missing</source>
-        <translation>[ñöţĥîñĝ ĥåppéñš: "šļöŵ", "våñîšĥ", "ŕéfûšé", "ŕéåđý", "éŕŕöŕ" öŕ "šéţ" îš mîššîñĝ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+        <source>nothing happens: say what, such as "vanish": true</source>
+        <translation>[ñöţĥîñĝ ĥåppéñš: šåý ŵĥåţ, šûçĥ åš "våñîšĥ": ţŕûé ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>

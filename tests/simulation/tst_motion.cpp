@@ -110,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(values, expected);
     }
 
-    /// A walk stays in its range, its steps are no longer than they may be, and it gets about.
+    /// A walk stays in its range, its steps are no longer than they may be, it turns at the limits, and it gets about.
     void walk()
     {
         Motion motion = motionOf(Motion::Walk, KIVClientItem::TypeDouble, {-1, 1});
@@ -122,6 +122,7 @@ private Q_SLOTS:
         double longest = 0;
         for (int i = 1; i < values.size(); ++i) {
             const double value = values.at(i).toDouble();
+            QVERIFY2(value != values.at(i - 1).toDouble(), "it sticks to its limit");
             least = std::min(least, value);
             most = std::max(most, value);
             longest = std::max(longest, std::abs(value - values.at(i - 1).toDouble()));
@@ -157,6 +158,14 @@ private Q_SLOTS:
         QVERIFY2(least >= 4.5 && least < 4.55, qPrintable(QString::number(least)));
         QCOMPARE(most, 5.2);
         QCOMPARE(valuesOf(motion, {17}), valuesOf(motion, {3, 9, 17}).mid(2));
+
+        // What has no value gets none of noise.
+        motion.start = QVariant();
+        QCOMPARE(valuesOf(motion, {1}), QVariantList {QVariant()});
+        motion.kind = Motion::List;
+        motion.values = QVariantList {4., QVariant()};
+        const QVariantList gaps = valuesOf(motion, {0, 1});
+        QVERIFY(std::abs(gaps.at(0).toDouble() - 4) <= 0.5 && !gaps.at(1).isValid());
 
         // Every point of a curve has noise of its own.
         motion = motionOf(Motion::Constant, KIVClientItem::TypeDoubleArray);

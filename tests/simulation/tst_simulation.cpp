@@ -1,11 +1,9 @@
 #include "columns.h"
 #include "embedded/servicedata_p.h"
+#include "servicetexts.h"
 #include "signallog.h"
 #include "simulatedservice.h"
-#include "simulation/csvcolumn_p.h"
 #include "simulation/simulation_p.h"
-
-#include <sys/stat.h>
 
 using namespace kiv::simulation;
 using kiv::embedded::EmbeddedBackend;
@@ -13,33 +11,6 @@ using kiv::embedded::EmbeddedService;
 using kiv::embedded::ServiceData;
 
 namespace {
-
-/// A measurement of 5 s, which fails one time in `often`.
-QByteArray meter(const QByteArray& fails = {}, const QByteArray& seed = "1")
-{
-    return R"({"service": "s", "seed": )" + seed + R"(, "items": [
-        {"id": ":result:s:state:", "type": "std::string", "value": "idle"},
-        {"id": ":result:s:progress:", "type": "uint", "value": 0},
-        {"id": ":result:s:loss:", "type": "double", "judged": {"passing": {"to": 4}, "warning": {"to": 5}}},
-        {"id": ":result:s:events:", "type": "int"},
-        {"id": ":result:s:level:", "type": "int", "value": -1,
-          "moves": {"as": "ramp", "from": 0, "to": 100, "period": 10000, "every": 100, "while": ":action:s:start:"}},
-        {"id": ":result:s:power:", "type": "double", "value": 0,
-          "moves": {"as": "walk", "from": -10, "to": 10, "while": ":action:s:start:"}},
-        {"id": ":action:s:start:", "type": "action", "label": "Start",
-          "does": {"set": {":result:s:state:": "measuring %1"}, "reply": "Measuring %1.", "runs": 5000,
-            "progress": ":result:s:progress:",)" + fails + R"(
-            "done": {":result:s:state:": "%1 done", ":result:s:loss:": {"from": 3.5, "to": 4.5}, ":result:s:events:": {"from": 1, "to": 3}},
-            "stopped": {":result:s:state:": "stopped"}}},
-        {"id": ":action:s:stop:", "type": "action",
-          "does": {"stops": ":action:s:start:", "reply": "Stopped."}}]})";
-}
-const QByteArray failing = R"("fail": "No light.", "fails": 0.1, "failed": {":result:s:state:": "failed"},)";
-const QString state = ":result:s:state:";
-const QString progress = ":result:s:progress:";
-const QString power = ":result:s:power:";
-const QString level = ":result:s:level:";
-const QString start = ":action:s:start:";
 
 /// The final states, and the results, of that many measurements.
 QStringList outcomes(int count, const QByteArray& seed)
@@ -55,16 +26,6 @@ QStringList outcomes(int count, const QByteArray& seed)
     return outcomes;
 }
 
-QByteArray item(const QByteArray& name, const QByteArray& moves)
-{
-    return R"({"id": ":result:s:)" + name + R"(:", "type": "int", "moves": )" + moves + "}";
-}
-
-QByteArray service(const QByteArray& items, const QByteArray& happensAndMore = "[]")
-{
-    return R"({"service": "s", "items": [)" + items + R"(], "happens": )" + happensAndMore + "}";
-}
-
 const QByteArray counting = R"({"as": "ramp", "from": 0, "to": 1000, "period": 100000, "every": 100})";
 
 } // namespace
@@ -74,26 +35,6 @@ class SimulationTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void rejectedFiles_data()
-    {
-        addColumns<QByteArray, QString>();
-        for (const QStringList& row : tableIn("/rejected/simulation.txt"))
-            QTest::newRow(qPrintable(row.at(0))) << row.at(2).toUtf8() << row.at(1);
-    }
-    void rejectedFiles()
-    {
-        const auto [contents, place] = currentRow<QByteArray, QString>();
-        QTemporaryDir folder;
-        const QString path = writeFile(folder.filePath("bad.service.json"), contents);
-        EmbeddedBackend backend;
-        simulate(backend, Simulated::All);
-        QString problem;
-        QVERIFY(!backend.loadFile(path, &problem));
-        QVERIFY2(problem.startsWith(path + place), qPrintable(problem));
-        QVERIFY(problem.size() > path.size() + place.size());
-        QCOMPARE(backend.serviceNames(), QStringList());
-    }
-
     void measurement()
     {
         SimulatedService s(meter());
@@ -254,12 +195,42 @@ private Q_SLOTS:
         s.to(1000);
         QCOMPARE(answers(), (QStringList {"Locked.", "Locked.", "ok", "!Locked.", "40"}));
         s.to(1600);
-        QCOMPARE(answers(), (QStringList {"Locked.", "Locked.", "ok", "!Locked.", "90"}));
+        QCOMPARE(answers(), (QStringList {"Locked.", "Hot.", "ok", "!Locked.", "90"}));
         s.to(2000);
         QCOMPARE(answers(), (QStringList {"Sealed.", "Hot.", "ok", "Done.", "40"}));
         s.to(3000);
         QCOMPARE(answers(), usual);
         QCOMPARE(s.driver->due(), never);
+    }
+
+    /// What is done to items by hand elsewhere can be done by the file, and is undone.
+    void conditions()
+    {
+        SimulatedService s(service(R"(
+            {"id": ":result:s:a:", "type": "int", "value": 1, "quality": "warning"},
+            {"id": ":result:s:b:", "type": "int", "value": 1, "judged": {"passing": {"to": 1}}, "applicable": false},
+            {"id": ":result:s:c:", "type": "std::string", "value": "x", "moves": {"as": "steps", "every": 1000, "values": ["x", null]}},
+            {"id": ":action:s:clear:", "type": "action", "does": {"set": {":result:s:a:": null}}})",
+                R"([{"after": 1000, "for": 1000, "quality": "failing", "items": [":result:"]}, {"after": 1000, "for": 2000, "applicable": false}])"));
+        const auto seen = [&s] {
+            QStringList seen;
+            for (const char* id : {":result:s:a:", ":result:s:b:", ":result:s:c:"})
+                seen += QString("%1 %2 %3").arg(s.item(id)->getQualityCode()).arg(s.item(id)->isApplicable()).arg(s.value(id).toString());
+            return seen;
+        };
+        QCOMPARE(seen(), (QStringList {"32 1 1", "16 0 1", "0 1 x"}));
+        s.to(1000);
+        QCOMPARE(seen(), (QStringList {"64 0 1", "64 0 1", "64 0 "}));
+        QVERIFY(!s.value(":result:s:c:").isValid());
+        s.backend.service("s")->setValue(":result:s:b:", 0);
+        QCOMPARE(s.item(":result:s:b:")->getQualityCode(), int(KIVClientItem::QualityFailing));
+        s.backend.service("s")->setReady(":result:s:a:", false);
+        s.to(2000);
+        QCOMPARE(seen(), (QStringList {"32 0 1", "16 0 0", "0 0 x"}));
+        s.to(3000);
+        QCOMPARE(s.act(":action:s:clear:"), QString());
+        QCOMPARE(seen(), (QStringList {"32 1 ", "16 0 0", "0 1 "}));
+        QVERIFY(!s.value(":result:s:a:").isValid() && !s.item(":result:s:a:")->isReady());
     }
 
     /// A service that vanishes ends what it does, and what it published goes on when it returns.
@@ -369,58 +340,6 @@ private Q_SLOTS:
         s.to(time);
         QVERIFY(!s.backend.service("s"));
         s.to(20'000);
-    }
-
-    void files_data()
-    {
-        addColumns<QByteArray, QByteArray, QString, int>();
-        const QByteArray column = R"(, "column": "level")";
-        QTest::newRow("plain") << QByteArray("time,level\n0,1\n1,2\n2,3\n") << column << "1 2 3 1" << 0;
-        QTest::newRow("other line ends") << QByteArray("time\tlevel\r\n0\t1\r\n\r\n1\t2\r\n") << column << "1 2 1 2" << 0;
-        QTest::newRow("marked and quoted") << QByteArray("\xef\xbb\xbf\"level\";n\n\"4\";x\n \"5\" ;\n") << column << "4 5 4 5" << 0;
-        QTest::newRow("separators in cells") << QByteArray("\"a,b;c\";level\n\"1;2\";\"3\"\n4;5\n") << column << "3 5 3 5" << 0;
-        QTest::newRow("first column") << QByteArray("any\n7\n8") << QByteArray() << "7 8 7 8" << 0;
-        QTest::newRow("broken lines") << QByteArray("time,level\n0,1\nx\n1,none\n2,1.5\n3,inf\n4,1e300\n5,2\n") << column << "1 2 1 2" << 1;
-        QTest::newRow("held") << QByteArray("level\n1\n2\n") << QByteArray(R"(, "then": "stay")") << "1 2 2 2" << 0;
-        QTest::newRow("no such column") << QByteArray("time,levels\n0,1\n") << column << "- - - -" << 1;
-        QTest::newRow("no line") << QByteArray("level\n") << column << "- - - -" << 1;
-        QTest::newRow("empty") << QByteArray() << column << "- - - -" << 1;
-        QTest::newRow("nothing but separators") << QByteArray(2'000'000, ',') << column << "- - - -" << 1;
-        QTest::newRow("too large") << QByteArray("level\n") + QByteArray("1\n").repeated(int(largestCsvFile) / 2) << column << "- - - -" << 1;
-    }
-    /// Of a file that is wrong the rest is used, in one sentence that names the file.
-    void files()
-    {
-        const auto [contents, more, expected, noteCount] = currentRow<QByteArray, QByteArray, QString, int>();
-        QTemporaryDir folder;
-        const QString path = writeFile(folder.filePath("values.csv"), contents);
-        SimulatedService s(service(item("n", "{\"as\": \"file\", \"every\": 100, \"file\": \"" + path.toUtf8() + '"' + more + '}')));
-        QStringList values;
-        for (const int time : {0, 100, 200, 300}) {
-            s.to(time);
-            values += s.value(":result:s:n:").isValid() ? s.value(":result:s:n:").toString() : QString("-");
-        }
-        QCOMPARE(values.join(' '), expected);
-        QCOMPARE(s.notes.size(), noteCount);
-        QCOMPARE(s.problem, s.notes.join('\n'));
-        for (const QString& note : qAsConst(s.notes))
-            QVERIFY2(note.startsWith(path + ": "), qPrintable(note));
-        if (contents.contains("none"))
-            QVERIFY2(s.notes.first().contains(": 5 of 7 "), qPrintable(s.notes.first()));
-    }
-    void filesThatAreNone()
-    {
-        QTemporaryDir folder;
-        QCOMPARE(::mkfifo(qPrintable(folder.filePath("pipe")), 0600), 0);
-        for (const QString& path : {folder.filePath("missing.csv"), folder.filePath("pipe"), folder.path()}) {
-            const CsvColumn column = readCsvColumn(path, "level", false);
-            QVERIFY2(column.problem.startsWith(path + ": "), qPrintable(column.problem));
-            QVERIFY(column.values.isEmpty());
-        }
-        writeFile(folder.filePath("odd.csv"), "level\n1\ninf\nnan\n-1e400\n2e3\n");
-        QCOMPARE(readCsvColumn(folder.filePath("odd.csv"), "level", false).values, (QVariantList {1., 2000.}));
-        writeFile(folder.filePath("texts.csv"), "state,n\nidle,1\n\"very \"\"hot\"\"\",2\n,3\n");
-        QCOMPARE(readCsvColumn(folder.filePath("texts.csv"), "state", true).values, (QVariantList {"idle", "very \"hot\"", ""}));
     }
 
     /// By the real time, on the event loop, without a trace in the state files.

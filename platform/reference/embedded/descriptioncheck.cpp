@@ -109,7 +109,7 @@ QString setProblem(const ItemDescription& action, const QHash<QString, const Ite
             return ServiceFileTexts::tr("/does/set: there is no item %1").arg(it.key());
         const bool waitsForArgument
                 = it->userType() == QMetaType::QString && it->toString().contains(QLatin1String("%1"));
-        const QString problem = convertToType(typeCode(item->type), item->members, *it).problem;
+        const QString problem = convertReported(typeCode(item->type), item->members, *it).problem;
         if (!waitsForArgument && !problem.isEmpty())
             return ServiceFileTexts::tr("/does/set: the value of %1: %2").arg(it.key(), problem);
     }

@@ -69,8 +69,7 @@ bool EmbeddedService::setValue(const QString& id, const QVariant& value)
     const ItemStore::StatePtr state = d->items.find(id);
     if (!state || state->type == KIVClientItem::TypeAction)
         return false;
-    const Conversion conversion
-            = value.isValid() ? convertToType(state->type, state->description.members, value) : Conversion();
+    const Conversion conversion = convertReported(state->type, state->description.members, value);
     if (!conversion.problem.isEmpty())
         return false;
     const ItemState::Changes changes = state->takeValue(conversion.value);

@@ -1,7 +1,5 @@
 #include "itemtypes_p.h"
 
-#include <kiv/kivclientitem.h>
-
 #include <QHash>
 
 namespace kiv::embedded {
@@ -39,6 +37,15 @@ unsigned elementType(unsigned type)
     default:
         return type;
     }
+}
+
+KIVClientItem::Quality qualityNamed(const QString& name)
+{
+    if (name == QLatin1String("passing"))
+        return KIVClientItem::QualityPassing;
+    if (name == QLatin1String("warning"))
+        return KIVClientItem::QualityWarning;
+    return name == QLatin1String("failing") ? KIVClientItem::QualityFailing : KIVClientItem::QualityNone;
 }
 
 } // namespace kiv::embedded

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <kiv/kivclientitem.h>
+
 #include <QString>
 
 namespace kiv::embedded {
@@ -12,5 +14,8 @@ bool isSimpleType(unsigned type);
 
 /// The type of an array's elements; for other types the type itself.
 unsigned elementType(unsigned type);
+
+/// The quality of that name in service files; none for an unknown name.
+KIVClientItem::Quality qualityNamed(const QString& name);
 
 } // namespace kiv::embedded

@@ -24,11 +24,31 @@ bool isSame(const QJsonObject& one, const QJsonObject& other, const char* key)
     return one.value(QLatin1String(key)) == other.value(QLatin1String(key));
 }
 
+/// What a file lets happen to its service passes with it: otherwise the service would stay away, or an item bad, when
+/// the file does not say so any more.
+bool isEventful(const QJsonObject& file)
+{
+    return file.contains(QLatin1String("happens"));
+}
+
+/// Whether the quality follows the value by itself.
+bool isJudged(const QJsonObject& item)
+{
+    return item.contains(QLatin1String("judged"));
+}
+
+bool isReadyByValue(const QJsonObject& item)
+{
+    return item.value(QLatin1String("ready")).isObject();
+}
+
 } // namespace
 
 KeptState::KeptState(const EmbeddedService& service, const QJsonObject& before, const QJsonObject& now)
-    : m_isReachable(service.isReachable())
 {
+    const bool keepsConditions = !isEventful(before) && !isEventful(now);
+    if (keepsConditions)
+        m_isReachable = service.isReachable();
     const QHash<QString, QJsonObject> earlier = itemsOf(before);
     const QJsonArray items = now.value(QLatin1String("items")).toArray();
     for (const QJsonValue& value : items) {
@@ -41,9 +61,9 @@ KeptState::KeptState(const EmbeddedService& service, const QJsonObject& before, 
         Item kept {id, {}, {}, {}};
         // A stored setting would otherwise hide what has just been written into the file.
         kept.value = isSame(item, old, "value") ? running->getValue() : item.value(QLatin1String("value")).toVariant();
-        if (isSame(item, old, "quality"))
+        if (keepsConditions && isSame(item, old, "quality") && !isJudged(item) && !isJudged(old))
             kept.quality = KIVClientItem::Quality(running->getQualityCode());
-        if (isSame(item, old, "ready"))
+        if (keepsConditions && isSame(item, old, "ready") && !isReadyByValue(item))
             kept.isReady = running->isReady();
         m_items += kept;
     }
@@ -60,8 +80,8 @@ void KeptState::giveBackTo(EmbeddedService* service) const
         if (alive && item.isReady)
             alive->setReady(item.id, *item.isReady);
     }
-    if (alive)
-        alive->setReachable(m_isReachable);
+    if (alive && m_isReachable)
+        alive->setReachable(*m_isReachable);
 }
 
 } // namespace kiv::embedded

@@ -35,7 +35,7 @@ private:
     };
 
     QVector<Item> m_items;
-    bool m_isReachable;
+    std::optional<bool> m_isReachable;
 };
 
 } // namespace kiv::embedded

@@ -43,7 +43,7 @@ QString PendingWrites::addWrite(ServiceData& service, const ItemStore::StatePtr&
 
 QString PendingWrites::addReport(ServiceData& service, const ItemStore::StatePtr& state, const QVariant& value)
 {
-    const Conversion conversion = convertToType(state->type, state->description.members, value);
+    const Conversion conversion = convertReported(state->type, state->description.members, value);
     if (!conversion.problem.isEmpty())
         return rejection(*state, value, conversion.problem);
     m_writes.append({&service, state, conversion.value});

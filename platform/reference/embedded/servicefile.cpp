@@ -1,6 +1,7 @@
 #include "servicefile_p.h"
 
 #include "descriptioncheck_p.h"
+#include "itemtypes_p.h"
 #include "jsonschema_p.h"
 #include "texts_p.h"
 
@@ -45,15 +46,6 @@ bool isShipped(const QString& path, const QJsonObject& document)
 QString textOf(const QJsonObject& object, const char* key)
 {
     return object.value(QLatin1String(key)).toString();
-}
-
-KIVClientItem::Quality qualityOf(const QString& name)
-{
-    if (name == QLatin1String("passing"))
-        return KIVClientItem::QualityPassing;
-    if (name == QLatin1String("warning"))
-        return KIVClientItem::QualityWarning;
-    return name == QLatin1String("failing") ? KIVClientItem::QualityFailing : KIVClientItem::QualityNone;
 }
 
 QVector<ChoiceDescription> choicesOf(const QJsonArray& array)
@@ -101,7 +93,7 @@ ItemDescription itemDescription(const QJsonObject& object)
     item.choices = choicesOf(object.value(QLatin1String("choices")).toArray());
     item.isEnumeration = object.contains(QLatin1String("choices"));
     item.members = membersOf(object.value(QLatin1String("members")).toArray());
-    item.quality = qualityOf(textOf(object, "quality"));
+    item.quality = qualityNamed(textOf(object, "quality"));
     item.isReady = object.value(QLatin1String("ready")).toBool(true);
     item.isApplicable = object.value(QLatin1String("applicable")).toBool(true);
     item.applicableExpr = textOf(object, "applicable");

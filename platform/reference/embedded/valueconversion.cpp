@@ -202,4 +202,10 @@ Conversion convertToType(unsigned type, const QVector<MemberDescription>& member
     }
 }
 
+Conversion convertReported(unsigned type, const QVector<MemberDescription>& members, const QVariant& value)
+{
+    const bool isNone = !value.isValid() || value.userType() == QMetaType::Nullptr;
+    return isNone ? Conversion() : convertToType(type, members, value);
+}
+
 } // namespace kiv::embedded

@@ -18,6 +18,9 @@ bool isSame(const QVariant& a, const QVariant& b);
 /// or infinite, which callers may reject. An invalid value cannot be converted.
 Conversion convertToType(unsigned type, const QVector<MemberDescription>& members, const QVariant& value);
 
+/// The same for a value that the service itself reports, which may also be none: invalid, or null in JSON.
+Conversion convertReported(unsigned type, const QVector<MemberDescription>& members, const QVariant& value);
+
 /// An error in an element of a list. `index` counts from 0; users count from 1.
 QString atElement(int index, const QString& problem);
 

@@ -44,7 +44,7 @@ QString assignmentsProblem(const QVector<Assignment>& assignments, const QString
         if (assignment.drawnFrom)
             continue;
         const QString problem
-                = embedded::convertToType(assignment.type, assignment.members, valueOf(assignment, argument)).problem;
+                = embedded::convertReported(assignment.type, assignment.members, valueOf(assignment, argument)).problem;
         if (!problem.isEmpty())
             return Texts::tr("the value of %1: %2").arg(assignment.id, problem);
     }

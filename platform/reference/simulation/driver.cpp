@@ -17,8 +17,8 @@ Driver::Driver(embedded::EmbeddedService* service, const Plan& plan, const Clock
     m_actions.started = [this](const QString& id, qint64 now) { m_movements.startAction(id, now); };
     m_actions.ended = [this](const QString& id) { m_movements.endAction(id); };
     m_happenings.vanishing = [this] { m_actions.stopAll(); };
-    m_happenings.readiness = [this](const QString& id, bool isReadyInFile) {
-        return m_judges ? m_judges->isReadyByValue(id, isReadyInFile) : isReadyInFile;
+    m_happenings.judged = [this](const QString& id, const Condition& inFile) {
+        return m_judges ? m_judges->judged(id, inFile) : inFile;
     };
 }
 
@@ -27,9 +27,9 @@ void Driver::begin(bool isStill)
     m_isStill = isStill;
     if (!m_judgements.isEmpty()) {
         m_judges = new Judges(m_service, m_judgements);
-        m_judges->isHeldBack = [self = weak_from_this()](const QString& id) {
+        m_judges->changed = [self = weak_from_this()](const QString& id, const Condition& condition) {
             const auto driver = self.lock();
-            return driver && driver->m_happenings.isHeldBack(id);
+            return driver ? driver->m_happenings.changed(id, condition) : condition;
         };
     }
     takeOverActions();

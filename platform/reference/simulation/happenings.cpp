@@ -68,8 +68,8 @@ void Happenings::begin(const Happening& happening, quint64 time)
 /// What lasts.
 void Happenings::turn(const Happening& happening)
 {
-    for (auto it = happening.items.cbegin(); it != happening.items.cend() && m_service; ++it)
-        turnItem(it.key(), *it);
+    for (auto it = happening.items.cbegin(); it != happening.items.cend(); ++it)
+        turnItem(it.key(), happening);
     if (happening.slowMs && m_service) {
         int delay = m_delayMs;
         for (int i = 0; i < m_stands.size(); ++i)
@@ -80,12 +80,20 @@ void Happenings::turn(const Happening& happening)
         turnReachable();
 }
 
-void Happenings::turnItem(const QString& id, const Original& original)
+/// Only what it concerns: the rest may have been set by hand.
+void Happenings::turnItem(const QString& id, const Happening& happening)
 {
-    const QString refusal = refusalOf(id);
-    m_service->setRefusal(id, refusal.isEmpty() ? original.refusal : refusal);
-    const bool isReady = readiness ? readiness(id, original.isReady) : original.isReady;
-    m_service->setReady(id, isReady && !isHeldBack(id));
+    const QPointer<embedded::EmbeddedService> alive(m_service);
+    const Condition inFile = happening.items.value(id);
+    const Condition now = alive ? changed(id, judged ? judged(id, inFile) : inFile) : inFile;
+    if (alive && !happening.refusal.isEmpty())
+        alive->setRefusal(id, now.refusal);
+    if (alive && happening.isNotReady)
+        alive->setReady(id, now.isReady);
+    if (alive && happening.isNotApplicable)
+        alive->setApplicable(id, now.isApplicable);
+    if (alive && happening.quality)
+        alive->setQuality(id, now.quality);
 }
 
 void Happenings::turnReachable()
@@ -101,21 +109,22 @@ void Happenings::turnReachable()
 
 QString Happenings::refusalOf(const QString& id) const
 {
-    for (int i = 0; i < m_stands.size(); ++i) {
-        const Happening& happening = m_happenings.at(i);
-        if (m_stands.at(i).isOn && !happening.refusal.isEmpty() && happening.items.contains(id))
-            return happening.refusal;
-    }
-    return QString();
+    return changed(id, Condition()).refusal;
 }
 
-bool Happenings::isHeldBack(const QString& id) const
+/// Of several the last one in the file counts.
+Condition Happenings::changed(const QString& id, Condition condition) const
 {
     for (int i = 0; i < m_stands.size(); ++i) {
-        if (m_stands.at(i).isOn && m_happenings.at(i).isNotReady && m_happenings.at(i).items.contains(id))
-            return true;
+        const Happening& happening = m_happenings.at(i);
+        if (!m_stands.at(i).isOn || !happening.items.contains(id))
+            continue;
+        condition.isReady = condition.isReady && !happening.isNotReady;
+        condition.isApplicable = condition.isApplicable && !happening.isNotApplicable;
+        condition.quality = happening.quality.value_or(condition.quality);
+        condition.refusal = happening.refusal.isEmpty() ? condition.refusal : happening.refusal;
     }
-    return false;
+    return condition;
 }
 
 } // namespace kiv::simulation

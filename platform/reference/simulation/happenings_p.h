@@ -36,18 +36,18 @@ public:
 
     /// The text with which the item rejects clients now; empty when nothing happens to it.
     QString refusalOf(const QString& id) const;
-    /// Whether the item is kept from being ready now.
-    bool isHeldBack(const QString& id) const;
+    /// A condition of an item with what happens to it now.
+    Condition changed(const QString& id, Condition condition) const;
 
-    /// Whether an item is ready that nothing holds back, by its file or by its value. May be empty.
-    std::function<bool(const QString& id, bool isReadyInFile)> readiness;
+    /// The condition that an item has by its value, otherwise that of its file. May be empty.
+    std::function<Condition(const QString& id, const Condition& inFile)> judged;
     /// Called before the service vanishes.
     std::function<void()> vanishing;
 
 private:
     void begin(const Happening& happening, quint64 time);
     void turn(const Happening& happening);
-    void turnItem(const QString& id, const Original& original);
+    void turnItem(const QString& id, const Happening& happening);
     void turnReachable();
 
     const QPointer<embedded::EmbeddedService> m_service;

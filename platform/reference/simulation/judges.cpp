@@ -33,25 +33,32 @@ void Judges::follow()
 
 void Judges::judge(const QString& id)
 {
-    const auto judgement = m_judgements.constFind(id);
-    const KIVClientItem* const item = judgement == m_judgements.cend() ? nullptr : m_service->item(id);
-    if (!item)
+    const auto rule = m_judgements.constFind(id);
+    if (rule == m_judgements.cend() || !m_service->item(id))
         return;
-    const Judgement rule = *judgement;
-    const QVariant value = item->getValue();
+    const bool judgesQuality = rule->judgesQuality();
+    const bool judgesReadiness = bool(rule->ready);
+    const Condition byValue = judged(id, Condition());
+    const Condition condition = changed ? changed(id, byValue) : byValue;
     const QPointer<Judges> self(this);
-    if (rule.judgesQuality())
-        m_service->setQuality(id, rule.qualityOf(value));
-    if (self && rule.ready)
-        m_service->setReady(id, rule.isReadyWith(value) && !(isHeldBack && isHeldBack(id)));
+    if (judgesQuality)
+        m_service->setQuality(id, condition.quality);
+    if (self && judgesReadiness)
+        m_service->setReady(id, condition.isReady);
 }
 
-bool Judges::isReadyByValue(const QString& id, bool otherwise) const
+Condition Judges::judged(const QString& id, Condition condition) const
 {
-    const auto judgement = m_judgements.constFind(id);
-    const KIVClientItem* const item = m_service->item(id);
-    const bool isJudged = item && judgement != m_judgements.cend() && judgement->ready;
-    return isJudged ? judgement->isReadyWith(item->getValue()) : otherwise;
+    const auto rule = m_judgements.constFind(id);
+    const KIVClientItem* const item = rule == m_judgements.cend() ? nullptr : m_service->item(id);
+    if (!item)
+        return condition;
+    const QVariant value = item->getValue();
+    if (rule->judgesQuality())
+        condition.quality = rule->qualityOf(value);
+    if (rule->ready)
+        condition.isReady = rule->isReadyWith(value);
+    return condition;
 }
 
 } // namespace kiv::simulation

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "judgement_p.h"
+#include "plan_p.h"
 
 #include <QHash>
 #include <QObject>
@@ -25,11 +25,11 @@ public:
     /// Judges an item by the value that it has now; nothing for one that is not judged.
     void judge(const QString& id);
 
-    /// Whether the value that an item has now makes it ready; `otherwise` for one of which that is not judged.
-    bool isReadyByValue(const QString& id, bool otherwise) const;
+    /// The condition with what the value that the item has now says of it.
+    Condition judged(const QString& id, Condition condition) const;
 
-    /// Whether something else keeps an item from being ready.
-    std::function<bool(const QString& id)> isHeldBack;
+    /// What else changes the condition of an item. May be empty.
+    std::function<Condition(const QString& id, const Condition& condition)> changed;
 
 private:
     /// The objects of the items are new each time when the service returns.

@@ -71,10 +71,15 @@ void Mover::restart()
 
 QVariant Mover::valueAt(quint64 step)
 {
+    const bool isList = m_motion.kind == Motion::List;
+    const QVariant given = isList ? listed(step) : m_motion.start;
+    // Noise makes no value of none.
+    if ((isList || m_motion.kind == Motion::Constant) && !given.isValid())
+        return QVariant();
     if (m_motion.type == KIVClientItem::TypeDoubleArray)
-        return arrayAt(step);
-    if (m_motion.kind == Motion::List && m_motion.noise <= 0)
-        return listed(step);
+        return arrayAt(given.toList(), step);
+    if (isList && m_motion.noise <= 0)
+        return given;
     return fitting(numberAt(step) + noiseAt(step));
 }
 
@@ -109,9 +114,8 @@ double Mover::walkedTo(quint64 step)
     return m_position;
 }
 
-QVariant Mover::arrayAt(quint64 step) const
+QVariant Mover::arrayAt(QVariantList values, quint64 step) const
 {
-    QVariantList values = (m_motion.kind == Motion::List ? listed(step) : m_motion.start).toList();
     if (m_motion.noise <= 0)
         return values;
     for (int i = 0; i < values.size(); ++i) {

@@ -66,7 +66,7 @@ public:
 private:
     double numberAt(quint64 step);
     double walkedTo(quint64 step);
-    QVariant arrayAt(quint64 step) const;
+    QVariant arrayAt(QVariantList values, quint64 step) const;
     QVariant listed(quint64 step) const;
     QVariant fitting(double number) const;
     double noiseAt(quint64 index) const;

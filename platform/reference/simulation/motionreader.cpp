@@ -95,7 +95,7 @@ QString readValues(const ItemDescription& item, const QJsonArray& values, QVaria
         const QString problem = notOfType(item, value);
         if (!problem.isEmpty())
             return QStringLiteral("/moves/values/%1: ").arg(i) + problem;
-        list->append(embedded::convertToType(embedded::typeCode(item.type), item.members, value).value);
+        list->append(embedded::convertReported(embedded::typeCode(item.type), item.members, value).value);
     }
     return QString();
 }
@@ -157,7 +157,7 @@ MotionReading readMotion(const ItemDescription& item, const QJsonObject& moves, 
 
 QString notOfType(const ItemDescription& item, const QVariant& value)
 {
-    return embedded::convertToType(embedded::typeCode(item.type), item.members, value).problem;
+    return embedded::convertReported(embedded::typeCode(item.type), item.members, value).problem;
 }
 
 Range rangeOf(const QJsonObject& object)

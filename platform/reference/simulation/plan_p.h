@@ -43,11 +43,13 @@ struct SimulatedAction
     QString stops;
 };
 
-/// What an item returns to.
-struct Original
+/// How an item is for clients, besides its value.
+struct Condition
 {
     QString refusal;
     bool isReady = true;
+    bool isApplicable = true;
+    KIVClientItem::Quality quality = KIVClientItem::QualityNone;
 };
 
 /// What befalls the service at a time. A field that is empty has no part in it.
@@ -61,11 +63,15 @@ struct Happening
     std::optional<int> slowMs;
     bool isVanishing = false;
     bool isNotReady = false;
+    bool isNotApplicable = false;
+    std::optional<KIVClientItem::Quality> quality;
     QString refusal;
     QString error;
     QVector<Assignment> set;
-    /// The items that `refusal` and `isNotReady` concern, as their file describes them, by id.
-    QHash<QString, Original> items;
+    /// The items whose condition it changes, as their file describes them, by id.
+    QHash<QString, Condition> items;
+
+    bool changesConditions() const { return isNotReady || isNotApplicable || quality || !refusal.isEmpty(); }
 };
 
 /// What one service does by itself, and how its actions proceed.

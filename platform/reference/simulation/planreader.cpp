@@ -78,6 +78,14 @@ std::optional<Range> rangeIn(const QJsonObject& object, QLatin1String key)
     return value.isObject() ? std::optional<Range>(rangeOf(value.toObject())) : std::nullopt;
 }
 
+std::optional<KIVClientItem::Quality> qualityIn(const QJsonObject& object)
+{
+    const QString name = object.value(QLatin1String("quality")).toString();
+    if (name.isEmpty())
+        return std::nullopt;
+    return embedded::qualityNamed(name);
+}
+
 /// Whether the simulation carries the action out; everything else is the service's own.
 bool isSimulated(const QJsonObject& does)
 {
@@ -245,18 +253,18 @@ void PlanReader::readHappening(const QJsonObject& object)
         happening.slowMs = object.value(QLatin1String("slow")).toInt();
     happening.isVanishing = object.value(QLatin1String("vanish")).toBool();
     happening.isNotReady = !object.value(QLatin1String("ready")).toBool(true);
+    happening.isNotApplicable = !object.value(QLatin1String("applicable")).toBool(true);
+    happening.quality = qualityIn(object);
     happening.refusal = object.value(QLatin1String("refuse")).toString();
     happening.error = object.value(QLatin1String("error")).toString();
     happening.set = readAssignments(QStringLiteral("/set"), object.value(QLatin1String("set")).toObject());
-    if (!happening.slowMs && !happening.isVanishing && !happening.isNotReady && happening.refusal.isEmpty()
-            && happening.error.isEmpty() && happening.set.isEmpty())
-        complain(QString(),
-                Texts::tr(
-                        "nothing happens: \"slow\", \"vanish\", \"refuse\", \"ready\", \"error\" or \"set\" is missing"));
+    if (!happening.slowMs && !happening.isVanishing && !happening.changesConditions() && happening.error.isEmpty()
+            && happening.set.isEmpty())
+        complain(QString(), Texts::tr("nothing happens: say what, such as \"vanish\": true"));
     if (happening.everyMs > 0 && happening.forMs >= happening.everyMs)
         complain(QStringLiteral("/every"), Texts::tr("must be greater than \"for\""));
     QStringList beginnings = object.value(QLatin1String("items")).toVariant().toStringList();
-    if (beginnings.isEmpty() && (happening.isNotReady || !happening.refusal.isEmpty()))
+    if (beginnings.isEmpty() && happening.changesConditions())
         beginnings += QString();
     for (const QString& beginning : qAsConst(beginnings))
         addItems(beginning, &happening);
@@ -270,7 +278,7 @@ void PlanReader::addItems(const QString& beginning, Happening* happening)
         if (!item.id.startsWith(beginning))
             continue;
         isAny = true;
-        happening->items.insert(item.id, {item.refusal, item.isReady});
+        happening->items.insert(item.id, {item.refusal, item.isReady, item.isApplicable, item.quality});
     }
     if (!isAny)
         complain(QStringLiteral("/items"), Texts::tr("no id begins with \"%1\"").arg(beginning));
