@@ -70,14 +70,17 @@ QString recordTo(const QString& path, RecordingFile::Form form, const QByteArray
     return file->problem();
 }
 
+/// The most memory that this process has held; with AddressSanitizer, which keeps what is freed, nothing.
 int mostResidentKiB()
 {
+#ifndef __SANITIZE_ADDRESS__
     const QList<QByteArray> lines = contentsOf("/proc/self/status").split('\n');
     for (const QByteArray& line : lines) {
         if (line.startsWith("VmHWM:"))
             return line.mid(6).trimmed().split(' ').first().toInt();
     }
-    return -1;
+#endif
+    return 0;
 }
 
 } // namespace
@@ -200,9 +203,7 @@ private Q_SLOTS:
             played.player.advanceTo(100);
             QCOMPARE(played.value(), QVariant(2));
             QVERIFY2(played.player.troubles().contains("in the middle"), qPrintable(played.player.troubles()));
-#ifndef __SANITIZE_ADDRESS__
             QVERIFY2(mostResidentKiB() - before < 150 << 10, qPrintable(QString::number(mostResidentKiB() - before)));
-#endif
         }
     }
 
