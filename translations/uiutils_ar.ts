@@ -1696,6 +1696,77 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
 </context>
 <context>
+    <name>Recording</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ليس ملفًا.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>تتعذر قراءة %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 has no service that can be replayed.</source>
+        <translation>لا يحتوي %1 على أي خدمة يمكن إعادة تشغيلها.</translation>
+    </message>
+    <message>
+        <source>broken lines: %1</source>
+        <translation>الأسطر التالفة: %1</translation>
+    </message>
+    <message>
+        <source>lines whose time goes backwards: %1</source>
+        <translation>الأسطر التي يرجع وقتها إلى الوراء: %1</translation>
+    </message>
+    <message>
+        <source>lines about items or services that are not there: %1</source>
+        <translation>الأسطر التي تخص عناصر أو خدمات غير موجودة: %1</translation>
+    </message>
+    <message>
+        <source>lines that do not fit their item: %1</source>
+        <translation>الأسطر التي لا تناسب عنصرها: %1</translation>
+    </message>
+    <message>
+        <source>lines beyond the limits: %1</source>
+        <translation>الأسطر التي تتجاوز الحدود: %1</translation>
+    </message>
+    <message>
+        <source>it ends in the middle</source>
+        <translation>ينتهي في المنتصف</translation>
+    </message>
+    <message>
+        <source>The recording is not sound and was played as far as it can be: %1.</source>
+        <translation>التسجيل غير سليم وتمت إعادة تشغيله قدر الإمكان: %1.</translation>
+    </message>
+    <message>
+        <source>%1 exists. Name another file, or remove that one.</source>
+        <translation>%1 موجود بالفعل. حدد ملفًا آخر أو احذف هذا الملف.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>تتعذر كتابة %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is written too slowly. The recording ends here.</source>
+        <translation>كتابة %1 بطيئة جدًا. ينتهي التسجيل هنا.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. The recording ends here.</source>
+        <translation>تتعذر كتابة %1: %2. ينتهي التسجيل هنا.</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of services.</source>
+        <translation>%1 ليس تسجيلاً لخدمات.</translation>
+    </message>
+    <message>
+        <source>%1 was recorded by a newer program, which writes another form. Use that one.</source>
+        <translation>تم تسجيل %1 ببرنامج أحدث يكتب صيغة أخرى. استخدم ذلك البرنامج.</translation>
+    </message>
+    <message>
+        <source>This is a recording: nothing can be started or stopped in it.</source>
+        <translation>هذا تسجيل: لا يمكن بدء أي شيء فيه أو إيقافه.</translation>
+    </message>
+</context>
+<context>
     <name>Report</name>
     <message>
         <source>ID: </source>

@@ -1680,6 +1680,77 @@ Código de salida: 0 hecho, 1 no se pudo mostrar el archivo, 2 línea de órdene
     </message>
 </context>
 <context>
+    <name>Recording</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 no es un archivo.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>No se puede leer %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 has no service that can be replayed.</source>
+        <translation>%1 no contiene ningún servicio que se pueda reproducir.</translation>
+    </message>
+    <message>
+        <source>broken lines: %1</source>
+        <translation>líneas dañadas: %1</translation>
+    </message>
+    <message>
+        <source>lines whose time goes backwards: %1</source>
+        <translation>líneas cuyo tiempo retrocede: %1</translation>
+    </message>
+    <message>
+        <source>lines about items or services that are not there: %1</source>
+        <translation>líneas sobre elementos o servicios que no existen: %1</translation>
+    </message>
+    <message>
+        <source>lines that do not fit their item: %1</source>
+        <translation>líneas que no encajan con su elemento: %1</translation>
+    </message>
+    <message>
+        <source>lines beyond the limits: %1</source>
+        <translation>líneas que superan los límites: %1</translation>
+    </message>
+    <message>
+        <source>it ends in the middle</source>
+        <translation>termina a la mitad</translation>
+    </message>
+    <message>
+        <source>The recording is not sound and was played as far as it can be: %1.</source>
+        <translation>La grabación no está íntegra y se ha reproducido hasta donde es posible: %1.</translation>
+    </message>
+    <message>
+        <source>%1 exists. Name another file, or remove that one.</source>
+        <translation>%1 ya existe. Indique otro archivo o elimine ese.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>No se puede escribir %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is written too slowly. The recording ends here.</source>
+        <translation>%1 se escribe demasiado despacio. La grabación termina aquí.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. The recording ends here.</source>
+        <translation>No se puede escribir %1: %2. La grabación termina aquí.</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of services.</source>
+        <translation>%1 no es una grabación de servicios.</translation>
+    </message>
+    <message>
+        <source>%1 was recorded by a newer program, which writes another form. Use that one.</source>
+        <translation>%1 se grabó con un programa más reciente, que escribe otra forma. Utilice ese.</translation>
+    </message>
+    <message>
+        <source>This is a recording: nothing can be started or stopped in it.</source>
+        <translation>Esto es una grabación: en ella no se puede iniciar ni detener nada.</translation>
+    </message>
+</context>
+<context>
     <name>Report</name>
     <message>
         <source>ID: </source>

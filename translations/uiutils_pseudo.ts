@@ -1680,6 +1680,77 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
 </context>
 <context>
+    <name>Recording</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>[%1 îš ñöţ å fîļé. ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>[%1 çåññöţ bé ŕéåđ: %2. ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 has no service that can be replayed.</source>
+        <translation>[%1 ĥåš ñö šéŕvîçé ţĥåţ çåñ bé ŕépļåýéđ. ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>broken lines: %1</source>
+        <translation>[bŕöķéñ ļîñéš: %1 ~ ~]</translation>
+    </message>
+    <message>
+        <source>lines whose time goes backwards: %1</source>
+        <translation>[ļîñéš ŵĥöšé ţîmé ĝöéš båçķŵåŕđš: %1 ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>lines about items or services that are not there: %1</source>
+        <translation>[ļîñéš åböûţ îţémš öŕ šéŕvîçéš ţĥåţ åŕé ñöţ ţĥéŕé: %1 ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>lines that do not fit their item: %1</source>
+        <translation>[ļîñéš ţĥåţ đö ñöţ fîţ ţĥéîŕ îţém: %1 ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>lines beyond the limits: %1</source>
+        <translation>[ļîñéš béýöñđ ţĥé ļîmîţš: %1 ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>it ends in the middle</source>
+        <translation>[îţ éñđš îñ ţĥé mîđđļé ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The recording is not sound and was played as far as it can be: %1.</source>
+        <translation>[Ţĥé ŕéçöŕđîñĝ îš ñöţ šöûñđ åñđ ŵåš pļåýéđ åš fåŕ åš îţ çåñ bé: %1. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 exists. Name another file, or remove that one.</source>
+        <translation>[%1 éxîšţš. Ñåmé åñöţĥéŕ fîļé, öŕ ŕémövé ţĥåţ öñé. ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>[%1 çåññöţ bé ŵŕîţţéñ: %2. ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 is written too slowly. The recording ends here.</source>
+        <translation>[%1 îš ŵŕîţţéñ ţöö šļöŵļý. Ţĥé ŕéçöŕđîñĝ éñđš ĥéŕé. ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. The recording ends here.</source>
+        <translation>[%1 çåññöţ bé ŵŕîţţéñ: %2. Ţĥé ŕéçöŕđîñĝ éñđš ĥéŕé. ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of services.</source>
+        <translation>[%1 îš ñöţ å ŕéçöŕđîñĝ öf šéŕvîçéš. ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 was recorded by a newer program, which writes another form. Use that one.</source>
+        <translation>[%1 ŵåš ŕéçöŕđéđ bý å ñéŵéŕ pŕöĝŕåm, ŵĥîçĥ ŵŕîţéš åñöţĥéŕ föŕm. Ûšé ţĥåţ öñé. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>This is a recording: nothing can be started or stopped in it.</source>
+        <translation>[Ţĥîš îš å ŕéçöŕđîñĝ: ñöţĥîñĝ çåñ bé šţåŕţéđ öŕ šţöppéđ îñ îţ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+</context>
+<context>
     <name>Report</name>
     <message>
         <source>ID: </source>
