@@ -99,8 +99,7 @@ sed -n 's/.* \([A-Za-z]*\.qml\)$/\1/p' "$controls/qmldir" | while read -r file; 
     test -s "$controls/$file"
 done
 test -s "$controls/ItemEntry.qml"
-test -s "$controls/icons/back.png"
-test -s "$controls/icons/small/back.png"
+test -s "$controls/libuiutilscontrolsplugin.so"
 if LD_LIBRARY_PATH='' ldd "$plugin" | grep 'libuiutils\|libkiv' | grep -v " => $plain/"; then
     echo "the QML module does not find its library" >&2
     exit 1

@@ -48,6 +48,7 @@ paper       lib/ui_paper                    core pages
 
 plugin      qml/UiUtils                     LIBRARY base contract
 preview     qml/UiUtils/Preview             LIBRARY base contract
+kit         qml/UiUtils/Controls            -
 liveplot    qml/UiUtils/Plot                base contract core languages document service plots
 common      apps/common                     LIBRARY base contract embedded bus host
 audit       apps/audit                      -

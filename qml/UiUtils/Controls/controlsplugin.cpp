@@ -1,0 +1,15 @@
+#include "iconpicture.h"
+
+#include <QQmlExtensionPlugin>
+
+/// Registers what the kit does not do in QML when a page imports the module.
+class UiUtilsControlsPlugin final : public QQmlExtensionPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QQmlExtensionInterface_iid)
+
+public:
+    void registerTypes(const char* uri) override { qmlRegisterType<uiutils::IconPicture>(uri, 1, 0, "IconPicture"); }
+};
+
+#include "controlsplugin.moc"
