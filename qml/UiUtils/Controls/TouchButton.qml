@@ -40,11 +40,6 @@ T.Button {
         implicitWidth: row.room + natural.oneLine
         implicitHeight: Math.max(mark.height, label.implicitHeight)
 
-        NaturalWidth {
-            id: natural
-            font: control.font
-            text: control.text
-        }
         Row {
             id: row
             // What the text has not.
@@ -71,6 +66,11 @@ T.Button {
                 wrapMode: Text.Wrap
                 Accessible.ignored: true
             }
+        }
+        NaturalWidth {
+            id: natural
+            font: control.font
+            text: control.text
         }
     }
     background: Rectangle {

@@ -1,4 +1,5 @@
 #include "iconpicture.h"
+#include "naturalwidth.h"
 
 #include <QQmlExtensionPlugin>
 
@@ -9,7 +10,11 @@ class UiUtilsControlsPlugin final : public QQmlExtensionPlugin
     Q_PLUGIN_METADATA(IID QQmlExtensionInterface_iid)
 
 public:
-    void registerTypes(const char* uri) override { qmlRegisterType<uiutils::IconPicture>(uri, 1, 0, "IconPicture"); }
+    void registerTypes(const char* uri) override
+    {
+        qmlRegisterType<uiutils::IconPicture>(uri, 1, 0, "IconPicture");
+        qmlRegisterType<uiutils::NaturalWidth>(uri, 1, 0, "NaturalWidth");
+    }
 };
 
 #include "controlsplugin.moc"

@@ -151,7 +151,9 @@ QImage IconDrawing::picture(int side, const QColor& color, bool isMirrored) cons
     painter.resetTransform();
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(picture.rect(), color);
-    return picture;
+    painter.end();
+    // An image that was painted on keeps the painter's engine, which is larger than the icon.
+    return picture.copy();
 }
 
 } // namespace uiutils
