@@ -43,7 +43,8 @@ saving      lib/ui_utils/report/saving      base contract core instrument docume
 drafts      lib/ui_utils/report/drafts      base contract core service document local report
 module      lib/ui_utils/module             base contract LIBRARY
 
-host        lib/ui_host                     base contract core languages service module embedded bus
+host        lib/ui_host                     base contract core languages service module embedded
+hostbus     lib/ui_host/bus                 base contract embedded bus host
 paper       lib/ui_paper                    core pages
 
 plugin      qml/UiUtils                     LIBRARY base contract
