@@ -75,6 +75,6 @@ Entry {
                 }
             }
         }
-        FocusFrame {}
+        FocusWatch {}
     }
 }

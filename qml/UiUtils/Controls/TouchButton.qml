@@ -86,5 +86,5 @@ T.Button {
         border { width: control.quiet || control.filled && control.enabled ? 0 : ControlsStyle.line; color: ControlsStyle.border }
     }
 
-    FocusFrame {}
+    FocusWatch {}
 }

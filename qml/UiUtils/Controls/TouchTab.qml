@@ -80,9 +80,9 @@ T.TabButton {
         }
     }
 
-    FocusFrame {
-        control: tab
-        visible: tab.checked && (ControlsStyle.keyFocus ? tab.bar.visualFocus : tab.bar.activeFocus)
+    FocusWatch {
+        control: tab.bar
+        active: tab.checked
         within: true
     }
 }

@@ -1,3 +1,4 @@
+#include "focuswatch.h"
 #include "iconpicture.h"
 #include "naturalwidth.h"
 
@@ -12,6 +13,7 @@ class UiUtilsControlsPlugin final : public QQmlExtensionPlugin
 public:
     void registerTypes(const char* uri) override
     {
+        qmlRegisterType<uiutils::FocusWatch>(uri, 1, 0, "FocusWatch");
         qmlRegisterType<uiutils::IconPicture>(uri, 1, 0, "IconPicture");
         qmlRegisterType<uiutils::NaturalWidth>(uri, 1, 0, "NaturalWidth");
     }
