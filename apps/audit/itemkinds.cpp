@@ -109,7 +109,7 @@ bool isText(const QQuickItem* item)
 
 bool isIcon(const QQuickItem* item)
 {
-    return QByteArray(item->metaObject()->className()).startsWith("Icon_QML");
+    return item->inherits("uiutils::IconPicture");
 }
 
 bool isSurface(const QQuickItem* item)

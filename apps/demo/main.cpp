@@ -18,6 +18,7 @@
 
 #include <kiv/kivclientinterface.h>
 
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QQmlApplicationEngine>
@@ -53,6 +54,17 @@ QQuickWindow* openWindow(QQmlApplicationEngine& engine, LoopbackMeasurement* mea
             {QStringLiteral("width"), screen.size.width()}, {QStringLiteral("height"), screen.size.height()}});
     engine.load(QUrl(QStringLiteral("qrc:/uiutils/demo/Main.qml")));
     return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
+}
+
+/// The pages are made after the first frame. Returns false when the window was closed before.
+bool waitForPages(QQuickWindow* window)
+{
+    const auto isComplete = [window] { return window->property("isComplete").toBool(); };
+    QEventLoop loop;
+    QObject::connect(window, SIGNAL(isCompleteChanged()), &loop, SLOT(quit()));
+    if (!isComplete())
+        loop.exec();
+    return isComplete();
 }
 
 int runTour(Tour& tour)
@@ -116,6 +128,8 @@ int runDemo(const DemoOptions& options)
         list(Texts::tr("Pictures:"), follower.pictures());
         return exitCode;
     }
+    if (!waitForPages(window))
+        return exitDone;
     auto* const report = window->property("report").value<LoopbackReport*>();
     report->keepFirstSettings();
     auto* const camera = window->property("camera").value<ScreenCamera*>();

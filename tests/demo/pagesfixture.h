@@ -117,12 +117,12 @@ protected:
         m_window = qobject_cast<QQuickWindow*>(m_engine->rootObjects().constFirst());
         QVERIFY(m_window);
         m_touch = std::make_unique<Touch>(m_window);
-        m_report = m_window->property("report").value<LoopbackReport*>();
-        QVERIFY(m_report);
         m_window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(m_window, longWait));
-        // What comes after the first frame.
+        // What comes after the first frame, and what comes last.
         QTRY_VERIFY(m_window->findChild<QObject*>("deskDrawer"));
+        m_report = m_window->property("report").value<LoopbackReport*>();
+        QVERIFY(m_report);
     }
 
     void endProgram()

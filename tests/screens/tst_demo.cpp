@@ -76,6 +76,7 @@ private Q_SLOTS:
 
     void pages()
     {
+        QTRY_VERIFY(m_window->property("isComplete").toBool());
         const QStringList pages = m_window->property("pageNames").toStringList();
         QVERIFY(pages.size() > 10);
         judge(pages, [](const QString&) {});

@@ -101,7 +101,7 @@ Entry {
             isInvalid: entry.isInvalid
             quality: entry.face.quality
 
-            FocusFrame { control: box }
+            FocusWatch { control: box }
         }
         popup: ChoiceList { box: box }
         delegate: ChoiceRow {

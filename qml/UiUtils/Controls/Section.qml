@@ -69,7 +69,7 @@ ColumnLayout {
             color: header.down ? ControlsStyle.pressed : "transparent"
         }
 
-        FocusFrame {}
+        FocusWatch {}
     }
     ColumnLayout {
         id: column

@@ -81,6 +81,6 @@ Entry {
                 }
             }
         }
-        FocusFrame {}
+        FocusWatch {}
     }
 }

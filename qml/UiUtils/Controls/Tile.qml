@@ -82,5 +82,5 @@ T.AbstractButton {
         border { width: ControlsStyle.line; color: tile.marked ? ControlsStyle.news : ControlsStyle.divider }
     }
 
-    FocusFrame {}
+    FocusWatch {}
 }
