@@ -52,7 +52,8 @@ bool isCatalogue(const QString& file)
 std::unique_ptr<QTranslator> loaded(const QString& folder, const QString& name, const QString& code)
 {
     auto translator = std::make_unique<QTranslator>();
-    for (const QString& fallback : fallbacks(code)) {
+    const QStringList codes = fallbacks(code);
+    for (const QString& fallback : codes) {
         if (load(*translator, filePath(folder, name, fallback)))
             return translator;
     }
@@ -161,7 +162,8 @@ QString Catalogues::bestFor(const QLocale& locale) const
 {
     const QStringList wanted = locale.uiLanguages();
     for (QString language : wanted) {
-        for (const QString& code : fallbacks(language.replace(QLatin1Char('-'), QLatin1Char('_')))) {
+        const QStringList codes = fallbacks(language.replace(QLatin1Char('-'), QLatin1Char('_')));
+        for (const QString& code : codes) {
             if (has(code))
                 return code;
         }

@@ -37,8 +37,9 @@ bool FolderLock::isAt(const QString& folder) const
 {
     struct stat locked = {};
     struct stat there = {};
-    return ::fstat(m_fd, &locked) == 0 && ::stat(QFile::encodeName(folder).constData(), &there) == 0
-            && locked.st_dev == there.st_dev && locked.st_ino == there.st_ino;
+    if (::stat(QFile::encodeName(folder).constData(), &there) != 0)
+        return errno != ENOENT && errno != ENOTDIR;
+    return ::fstat(m_fd, &locked) != 0 || (locked.st_dev == there.st_dev && locked.st_ino == there.st_ino);
 }
 
 /// Polls, because a lock that the system waits for cannot be given up in time.

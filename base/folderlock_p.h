@@ -18,6 +18,7 @@ public:
     bool isLocked() const { return m_error.isEmpty(); }
     QString error() const { return m_error; }
     /// Whether the path still leads to the locked folder. Somebody may have removed it, and made another of that name.
+    /// True if that cannot be found out.
     bool isAt(const QString& folder) const;
 
 private:

@@ -7,6 +7,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <cmath>
+#include <sys/resource.h>
 
 using uiutils::ReportDraft;
 
@@ -165,20 +166,30 @@ private Q_SLOTS:
             draft.setData(number(2));
         }
         {
+            auto report = std::make_unique<Controller>();
+            ReportDraft draft;
+            draft.setReport(report.get());
+            draft.setDraftId(id);
+            QCOMPARE(draft.availableTitle(), QString("Fiber 7"));
+            QVERIFY(draft.restore());
+            QCOMPARE(draft.data(), number(2));
+            // What was given back counts as kept.
+            report.reset();
+            draft.setData(number(3));
+        }
+        {
             Run run;
             QCOMPARE(run.draft.availableTitle(), QString("Fiber 7"));
             QVERIFY(run.draft.restore());
             QCOMPARE(run.report.document().object().value("tag").toString(), QString("otdr"));
-            QCOMPARE(run.draft.data(), number(2));
-            // What was given back counts as kept.
-            run.report.document().setObject({});
+            QCOMPARE(run.draft.data(), number(3));
             run.draft.setReport(nullptr);
             auto document = std::make_unique<ReportTemplate>();
             run.draft.setDocument(document.get());
             document->setObject({{"tag", "own"}});
             run.draft.keep();
             document.reset();
-            run.draft.setData(number(3));
+            run.draft.setData(number(4));
         }
         // A draft of a document alone has nothing for the controller.
         Run run;
@@ -449,6 +460,15 @@ private Q_SLOTS:
         QVERIFY(QDir(onDisk("/cust/private/drafts")).removeRecursively());
         run.measure(number(2));
         QVERIFY(run.draft.flush() && files().size() == 1);
+        // Somebody has put an earlier one in its place, with a draft that was not answered there.
+        const QString path = onlyFile();
+        const QByteArray earlier = contentsOf(path);
+        QVERIFY(QDir(onDisk("/cust/private/drafts")).removeRecursively());
+        writeFile(path, earlier);
+        run.measure(number(3));
+        QVERIFY(run.draft.flush() && run.draft.restore());
+        QCOMPARE(run.draft.data(), number(2));
+        QCOMPARE(files().size(), 2);
         // Another folder of the name may have another owner.
         QVERIFY(QDir(onDisk("/cust/private/drafts")).removeRecursively());
         Run other;
@@ -459,6 +479,24 @@ private Q_SLOTS:
         QCOMPARE(files().size(), 1);
         run.draft.forget();
         QCOMPARE(files().size(), 1);
+    }
+
+    /// The user is told of another owner only if there is one.
+    void aFolderThatCannotBeOpened()
+    {
+        Run().measure(number(1));
+        Run run("else");
+        struct rlimit files = {};
+        QCOMPARE(::getrlimit(RLIMIT_NOFILE, &files), 0);
+        const struct rlimit none = {3, files.rlim_max};
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
+        run.draft.setDraftId(id);
+        run.draft.setData(number(2));
+        const bool isSafe = run.draft.flush();
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &files), 0);
+        QVERIFY(!isSafe);
+        QCOMPARE(run.draft.problem(), QString("There is no folder to keep the results in until they are saved"));
+        QVERIFY(run.draft.flush() && run.draft.problem().isEmpty());
     }
 
     /// What was not written for the former name is not left as pending for the new one.

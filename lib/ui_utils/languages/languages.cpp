@@ -38,7 +38,7 @@ const struct
 
 QString capitalised(const QString& name)
 {
-    return name.left(1).toUpper() + name.mid(1);
+    return name.at(0).toUpper() + name.mid(1);
 }
 
 bool readsRightToLeft(const QString& code)
@@ -68,7 +68,7 @@ QString Languages::Private::nameOf(const QString& code) const
 {
     const auto translators = catalogues.load(code);
     for (auto it = translators.crbegin(); it != translators.crend(); ++it) {
-        const QString name = (*it)->translate(context, "English");
+        QString name = (*it)->translate(context, "English");
         if (!name.isEmpty())
             return name;
     }

@@ -53,9 +53,8 @@ class UIUTILS_EXPORT Report : public QObject
     Q_PROPERTY(bool canWriteToFile READ getCanWriteToFile WRITE setCanWriteToFile NOTIFY canWriteToFileChanged)
     /// The folder into which the next save writes, as users read it.
     Q_PROPERTY(QString saveLocation READ getSaveLocation NOTIFY saveLocationChanged)
-    /// The saved reports in the folder into which the next save writes, on the unit or on the USB drive, newest first:
-    /// maps of `name`, `path`, `format`, `size` in bytes, `time` and `compressed`. Read again when the folder has
-    /// changed.
+    /// The saved reports in the folder of the next save, newest first: maps of `name`, `path`, `format`, `size` in
+    /// bytes, `time` and `compressed`. Read again when the folder has changed.
     Q_PROPERTY(QVariantList reportFiles READ getReportFiles NOTIFY reportFilesChanged)
     /// The XML report that this object saved last; empty before.
     Q_PROPERTY(QString lastSavedXML READ getLastSavedXML NOTIFY lastSavedXMLChanged)
@@ -95,8 +94,7 @@ class UIUTILS_EXPORT Report : public QObject
     /// Whether the tray has one notice for all files of a save, once the last of them is written, in place of one for
     /// each; false by default. With `notifiesTray` false there is none.
     Q_PROPERTY(bool notifiesOncePerSave READ getNotifiesOncePerSave WRITE setNotifiesOncePerSave)
-    /// What is wrong with the name in the settings, in words: see fileNameProblem(). Empty if nothing is, and without a
-    /// name, because a save then proposes one.
+    /// What fileNameProblem() says of the name in the settings; empty without a name: a save then proposes one.
     Q_PROPERTY(QString nameProblem READ getNameProblem NOTIFY problemsChanged)
     /// Why nothing can be saved in the format in the settings, in words; empty if it can.
     Q_PROPERTY(QString formatProblem READ getFormatProblem NOTIFY problemsChanged)
@@ -163,40 +161,31 @@ public:
     QString getFormatProblem() const;
     void setNotifiesOncePerSave(bool once);
 
-    /// Whether the page handles events while a report is saved: save() then does so between pages and formats, and the
-    /// page can show the progress and call cancel(). The page has to keep users from everything else for as long as
-    /// `saving` is true, as SaveProgress of UiUtils.Controls does, and must not be deleted. False by default. For
-    /// derived controllers, whose pages are made for it.
+    /// Whether save() handles events between pages and formats, so that its page can show the progress and call
+    /// cancel(). While `saving` is true, the page has to keep users from everything else, as SaveProgress of
+    /// UiUtils.Controls does, and must not be deleted. False by default; for controllers with such pages.
     bool isInteractive() const;
     void setInteractive(bool interactive);
-
     /// When the test ran, as the page set it.
     QString getTestTime() const;
     /// How long the test took, as the page set it.
     QString getTestDuration() const;
-
     /// Whether reports are saved as gzip files, with ".gz" after their suffix; false by default.
     bool isCompressionEnabled() const;
     void setCompressionEnabled(bool enabled);
-
     /// Replaces the file by its compressed form, which has ".gz" after its name, or the other way round. False, with a
     /// line in the log, if gzip fails.
     [[nodiscard]] bool compressFile(const QString& path);
     /// See compressFile().
     [[nodiscard]] bool uncompressFile(const QString& path);
-
-    /// Copies the saved report to the USB drive, durably, and replaces one of its name there. Notifies the user if that
-    /// fails.
+    /// Copies the saved report durably to the USB drive, in place of one of its name. The user is told if that fails.
     void saveToUsb(const QString& name, const QString& suffix);
-
     /// An NSReport::ReportFormat; -1 if the item "reportFormat" does not exist or has no value.
     int getFormat() const;
     /// The suffix of the chosen format, with its dot; empty for ALL and without a format.
     QString getSuffixForReport() const;
-
-    /// What a save as PDF would print now, for a preview or for paper: brings the document up to date, as a save does,
-    /// and returns the writer with all switches of this object. Its items come into `items`, see TemplateToPdfWriter.
-    /// Null while this object saves, and if hasCustomPDF().
+    /// For a preview or paper: brings the document up to date, as a save does, and returns a writer of PDF pages with
+    /// all switches. Its items come into `items`, see TemplateToPdfWriter. Null during a save, and if hasCustomPDF().
     std::unique_ptr<TemplateToPdfWriter> makePdfWriter(QList<ReportItem*>* items);
     /// The document that derived controllers build.
     ReportTemplate& document();
@@ -272,8 +261,7 @@ public:
     Q_INVOKABLE bool writeToJobManager();
     /// How much of the file system at `path` is in use, 0 to 100.
     Q_INVOKABLE double percentageFileSystemUsed(const QString& path = QStringLiteral("/cust/public/reports/"));
-    /// Opens a PDF report in the instrument's viewer; for an empty path, the one saved or shown last. Does nothing for
-    /// other files.
+    /// Opens a PDF report in the instrument's viewer; for "", the one saved or shown last. Ignores other files.
     Q_INVOKABLE void showPDF(const QString& path);
     /// The path of the one of `reportFiles` that has this name, with or without suffix; the newest of several. Empty if
     /// there is none.
@@ -286,15 +274,13 @@ public:
     Q_INVOKABLE virtual QString getCdmTestLabel();
     /// Takes both from the base manager: "none" and "None" if it has none.
     Q_INVOKABLE virtual void setCdmTestTypeAndLabel();
-    /// Ends the running save before the next page or format. What is written by then stays. The user, who wanted it, is
-    /// not notified.
+    /// Ends the running save before the next page or format; what is written stays. The user is not notified.
     Q_INVOKABLE void cancel();
     /// Offers users CSV (NSReport::csvFormat) as well, a ".zip" file of all tables. To be called once, when the object
     /// is made: false, and nothing changes, after an earlier call, or if an application's format has the suffix.
     Q_INVOKABLE bool offerCsv(bool hasDecimalComma = false);
-    /// What is wrong with a name for the report, with both numbers if it is too long: by the rules of the item
-    /// "reportName", of files on USB drives, and of the chosen formats. Empty if nothing is. A save rejects fewer
-    /// names, because it need not write to a USB drive.
+    /// What is wrong with a name, with both numbers if it is too long: by the item "reportName", the chosen formats and
+    /// the rules of USB drives, to which a save need not write. Empty if nothing is.
     Q_INVOKABLE QString fileNameProblem(const QString& name);
 
     /// The path of a report `name` that is saved now, with `suffix` appended unless it ends so. Makes the folder.
@@ -306,8 +292,7 @@ public:
 
 protected:
     // Hooks: the defaults do nothing.
-    /// The settings have taken the values that are stored for the folder: 100 ms after construction, and whenever a new
-    /// folder has brought its own; then after the notifiers of the setter.
+    /// The settings have taken the stored values: 100 ms after construction, and after the notifiers of a new folder.
     virtual void settingsLoaded();
     /// A save begins; the settings are stored, no file is written yet.
     virtual void saveStarted(const QString& name);
@@ -324,8 +309,8 @@ protected:
     /// A save has failed; `name` is the name that the report was to have.
     virtual void saveFailed(const QString& name);
 
-    /// Called for each report that a save has written, once it is safe: `format` is "PDF", "XML" and so on. The default
-    /// writes its metadata record, with the work order and the job; if that fails, only the log has a line.
+    /// Called for each report of a save once it is safe: `format` is "PDF", "XML" and so on. The default writes its
+    /// metadata record, with the work order and the job; if that fails, only the log has a line.
     virtual void writeMetadata(const QString& path, const QString& format);
     /// Whether the active job has an ID; checked before a report is attached to it or its record names it.
     virtual bool ensureValidJobData();
@@ -363,10 +348,9 @@ protected:
     [[nodiscard]] bool checkForOverwrite(const QString& name, const QString& suffix, bool overwrite);
     /// Adds a format of the application's own; to be called in the constructor. `value`, at least
     /// NSReport::firstOwnFormat, is what "reportFormat" holds and stores, the same in every controller of the process;
-    /// `label` is what users read; `suffix` ends the names of files, as ".csv" does. A save in this format, or in ALL,
-    /// calls `generate` for the contents; empty ones are an error, of which the user is notified. False, and nothing is
-    /// added, if value or suffix are another format's, if the suffix has no dot in front, ends in ".gz" or contains
-    /// "/", or if `generate` is empty.
+    /// `label` is what users read; `suffix` ends the names of files, as ".csv" does. A save in it, or in ALL, calls
+    /// `generate`; empty contents are an error, of which the user is notified. False, and nothing is added, if value or
+    /// suffix are another format's, if the suffix has no dot in front, ends in ".gz" or has "/", or without `generate`.
     bool addFormat(int value, const QString& label, const QString& suffix, const std::function<QByteArray()>& generate);
 
 Q_SIGNALS:
@@ -394,7 +378,6 @@ Q_SIGNALS:
     /// A save has succeeded; emitted once per save. `filename` is the file's name without its folder, with its suffix
     /// and ".gz" if it has one; for all formats it is the name that the files share.
     void reportGenerated(const QString& filename);
-
     void savingChanged();
     void progressChanged();
     void problemsChanged();

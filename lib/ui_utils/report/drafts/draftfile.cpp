@@ -93,7 +93,7 @@ DraftState readHeader(QFile& file, DraftHeader* header)
     header->savedAt = QDateTime::fromString(object.value(savedAtKey).toString(), Qt::ISODateWithMs).toLocalTime();
     header->title = object.value(titleKey).toString().left(longestTitle);
     const qint64 size = file.size() - line.size();
-    const bool isComplete = header->savedAt.isValid() && object.value(sizeKey).toDouble() == size;
+    const bool isComplete = header->savedAt.isValid() && object.value(sizeKey).toDouble() == double(size);
     return isComplete && size <= largestDraft ? DraftState::Good : DraftState::Damaged;
 }
 
