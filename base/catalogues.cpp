@@ -50,8 +50,7 @@ QStringList filesIn(const QString& folder, const QString& pattern)
 }
 
 /// The languages of the catalogues in a folder whose names are accepted. A name may contain underscores, too.
-template <class Accept>
-QStringList codesIn(const QString& folder, const Accept& accepts)
+template<class Accept> QStringList codesIn(const QString& folder, const Accept& accepts)
 {
     static const QRegularExpression form(QStringLiteral("^(.+)_([a-z]{2,3}(?:_[A-Z][A-Za-z]+)*)\\.qm$"));
     QStringList codes;
@@ -109,8 +108,8 @@ Catalogues::Catalogues(const QStringList& folders)
 QStringList Catalogues::offered() const
 {
     QStringList ofLibrary = codesIn(m_installed, isOfLibrary);
-    QStringList codes = codesIn(
-            m_installed, [](const QString& name) { return name == QCoreApplication::applicationName(); });
+    QStringList codes
+            = codesIn(m_installed, [](const QString& name) { return name == QCoreApplication::applicationName(); });
     for (const QString& folder : m_folders) {
         ofLibrary += codesIn(folder, isOfLibrary);
         codes += codesIn(folder, [](const QString& name) { return !isOfLibrary(name); });
@@ -132,8 +131,10 @@ bool Catalogues::has(const QString& code) const
     if (!form.match(code).hasMatch())
         return false;
     const QStringList names = sharedNames();
-    return std::any_of(names.cbegin(), names.cend(), [&](const QString& name) { return QFile::exists(filePath(m_installed, name, code)); })
-            || std::any_of(m_folders.cbegin(), m_folders.cend(), [&](const QString& folder) { return !filesIn(folder, QStringLiteral("*_") + code).isEmpty(); });
+    return std::any_of(names.cbegin(), names.cend(),
+                   [&](const QString& name) { return QFile::exists(filePath(m_installed, name, code)); })
+            || std::any_of(m_folders.cbegin(), m_folders.cend(),
+                    [&](const QString& folder) { return !filesIn(folder, QStringLiteral("*_") + code).isEmpty(); });
 }
 
 QString Catalogues::bestFor(const QLocale& locale) const
