@@ -66,8 +66,7 @@ QStringList filesIn(const QString& folder, const QString& pattern)
 }
 
 /// The languages of the catalogues in a folder whose names are accepted. A name may contain underscores, too.
-template <class Accept>
-QStringList codesIn(const QString& folder, const Accept& accepts)
+template<class Accept> QStringList codesIn(const QString& folder, const Accept& accepts)
 {
     static const QRegularExpression form(QStringLiteral("^(.+)_([a-z]{2,3}(?:_[A-Z0-9][A-Za-z0-9]*)*)\\.qm$"));
     QStringList codes;
@@ -125,8 +124,8 @@ Catalogues::Catalogues(const QStringList& folders)
 QStringList Catalogues::offered() const
 {
     QStringList ofLibrary = codesIn(m_installed, isOfLibrary);
-    QStringList codes = codesIn(
-            m_installed, [](const QString& name) { return name == QCoreApplication::applicationName(); });
+    QStringList codes
+            = codesIn(m_installed, [](const QString& name) { return name == QCoreApplication::applicationName(); });
     for (const QString& folder : m_folders) {
         ofLibrary += codesIn(folder, isOfLibrary);
         codes += codesIn(folder, [](const QString& name) { return !isOfLibrary(name); });

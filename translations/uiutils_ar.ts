@@ -515,7 +515,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>&quot;%1&quot; is not a file name</source>
-        <translation>&quot;%1&quot; ليس اسم ملف</translation>
+        <translation>‏&quot;%1&quot; ليس اسم ملف</translation>
     </message>
     <message>
         <source>The name is empty</source>
@@ -2268,7 +2268,7 @@ Folder: %2</source>
     <name>ServiceBanner</name>
     <message>
         <source>&quot;%1&quot; does not answer. What is shown may be old; the page goes on by itself when the service is back.</source>
-        <translation>&quot;%1&quot; لا يجيب. قد يكون المعروض قديمًا؛ وتتابع الصفحة تلقائيًا عند عودة الخدمة.</translation>
+        <translation>‏&quot;%1&quot; لا يجيب. قد يكون المعروض قديمًا؛ وتتابع الصفحة تلقائيًا عند عودة الخدمة.</translation>
     </message>
 </context>
 <context>

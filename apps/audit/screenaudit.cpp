@@ -33,7 +33,8 @@ Scene sceneOf(const QQuickWindow* window)
     return open ? within(scene, open) : scene;
 }
 
-/// What the judging of something that opens leaves behind otherwise: what has the focus, and how far the page is scrolled.
+/// What the judging of something that opens leaves behind otherwise: what has the focus, and how far the page is
+/// scrolled.
 class PageKeeper
 {
 public:

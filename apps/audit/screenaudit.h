@@ -15,8 +15,8 @@ namespace uiutils::audit {
 QImage pictureAtRest(QQuickWindow* window);
 
 /// What in a window a technician could not touch or read: one line for each violation, with the item and the measure.
-/// The window has to be shown. Contents that scroll are moved through the window, and back. While something is open over
-/// the page, such as a dialog, that is judged and not the page.
+/// The window has to be shown. Contents that scroll are moved through the window, and back. While something is open
+/// over the page, such as a dialog, that is judged and not the page.
 class ScreenAudit
 {
 public:

@@ -93,7 +93,8 @@ int runFollower(Follower& follower)
 int runDemo(const DemoOptions& options)
 {
     uiutils::Host host;
-    if (!host.start({options.serviceFolders, options.root, resultServices(), {}, {translationsOf(QStringLiteral("examples"))}}))
+    if (!host.start({options.serviceFolders, options.root, resultServices(), {},
+                {translationsOf(QStringLiteral("examples"))}}))
         return exitFailed;
     QString error;
     if (!prepareInstrumentRoot(options.root, &error))

@@ -51,7 +51,8 @@ void PageTranslations::compile(const QStringList& sources)
 {
     const QString program = compiler();
     if (program.isEmpty()) {
-        m_problems += Texts::tr("The translations beside the page are not used: the program lrelease is not installed.");
+        m_problems
+                += Texts::tr("The translations beside the page are not used: the program lrelease is not installed.");
         return;
     }
     m_compiled = std::make_unique<TemporaryFolder>(QDir::tempPath());

@@ -16,6 +16,8 @@ Rectangle {
     width: 1024
     height: 600
     color: ControlsStyle.background
+    LayoutMirroring.enabled: ControlsStyle.mirrored
+    LayoutMirroring.childrenInherit: true
 
     Field { id: site; label: qsTr("Site"); value: "Lindhof exchange"; mandatory: true; minRange: 1; maxRange: 40; inputType: KivData.INPUT_ALPHANUMERIC }
     Field { id: attenuation; type: "double"; label: qsTr("Attenuation"); value: 3.25; minRange: 0; maxRange: 40; precision: 2; inputType: KivData.INPUT_POSITIVE_FLOAT }

@@ -94,13 +94,14 @@ private:
     void judge(const Screen& screen, const QString& theme, int rules)
     {
         uiutils::apps::useDensity(m_engine, screen.dotsPerInch);
-        uiutils::apps::useTheme(m_engine, theme);
         m_window->resize(screen.size);
         const QString size = QString("%1x%2").arg(screen.size.width()).arg(screen.size.height());
         for (const QString& page : m_pages) {
             m_show(page);
             if (QTest::currentTestFailed())
                 return;
+            // After the page, because a program may have a theme of its own.
+            uiutils::apps::useTheme(m_engine, theme);
             const QString place = QStringList {page, size, theme, uiutils::Languages::instance()->current()}.join('-');
             const ScreenAudit audit(m_window, screen.dotsPerInch / 25.4);
             const bool keepsPictures = !qEnvironmentVariableIsEmpty("UIUTILS_PICTURES");

@@ -189,6 +189,18 @@ def judge_form(source, form, is_count):
         yield f'does not end in {" or ".join(ends)}'
 
 
+# A value before the first letter decides the direction of the whole text, unless the text begins with a mark.
+VALUE_FIRST = re.compile(r'[^\w\u200f%]*%L?\d')
+
+
+def judge_direction(message):
+    translation = message.find('translation')
+    for form in translation.findall('numerusform') or [translation]:
+        text = form.text or ''
+        if VALUE_FIRST.match(text) and re.search('[\u0600-\u06ff]', text):
+            yield 'begins with a value; put the mark U+200F before it'
+
+
 def judge_message(source, message):
     translation = message.find('translation')
     if translation.get('type'):
@@ -207,7 +219,7 @@ def judge_catalogue(ts, wanted):
         if ts.stem.endswith('_pseudo'):
             complaints = [] if update.lengthened(key[1]) in message.find('translation').itertext() else ['is not what update.py makes of it']
         else:
-            complaints = judge_message(key[1], message)
+            complaints = [*judge_message(key[1], message), *(judge_direction(message) if ts.stem.endswith('_ar') else ())]
         yield from (f'{ts.name}: {key}: the translation {complaint}' for complaint in complaints)
 
 

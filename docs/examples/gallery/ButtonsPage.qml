@@ -33,7 +33,7 @@ KitPage {
                 TouchButton { text: qsTr("Overwrite"); filled: true; danger: true }
                 TouchButton { text: qsTr("Not now"); enabled: false }
                 TouchButton { text: qsTr("Not now"); filled: true; enabled: false }
-                TouchButton { width: ControlsStyle.mm(34); text: qsTr("A long text takes a second line"); iconName: "sync" }
+                TouchButton { width: ControlsStyle.mm(44); text: qsTr("A long text takes a second line"); iconName: "sync" }
             }
         }
         Card {

@@ -112,7 +112,7 @@
     </message>
     <message>
         <source>Passed on: %1</source>
-        <translation>‏المُسلَّم: %1</translation>
+        <translation>‏المُسلَّم: ⁨%1⁩</translation>
     </message>
 </context>
 <context>
