@@ -155,7 +155,9 @@ QVector<Result> livePlotCases(int runs)
             QStringLiteral("live plot: frame after one more of %L1 points / %2").arg(manyPoints).arg(floor),
             [&] { many.frame(); }, true, 0.6);
     add(
-            QStringLiteral("live plot: frame after one more of %L1 points that go back and forth / %2").arg(manyPoints).arg(floor),
+            QStringLiteral("live plot: frame after one more of %L1 points that go back and forth / %2")
+                    .arg(manyPoints)
+                    .arg(floor),
             [&] { looped.frame(); }, true, 0);
     add(
             QStringLiteral("live plot: geometry after one more of %L1 points / %2").arg(manyPoints).arg(floor),

@@ -17,8 +17,8 @@ public:
     explicit Touch(QQuickWindow* window);
 
     /// The item at that path that a user could press now: visible, enabled, within the window. A path has objectNames,
-    /// each below the one before, separated by "/"; "#2" is the third button below, "=Save" the one with that text. Null
-    /// without one; an item that is scrolled away is scrolled into sight first, and found at a later call.
+    /// each below the one before, separated by "/"; "#2" is the third button below, "=Save" the one with that text.
+    /// Null without one; an item that is scrolled away is scrolled into sight first, and found at a later call.
     QQuickItem* find(const QString& path) const;
     /// The topmost visible item of that kind; null without one.
     QQuickItem* findIf(const std::function<bool(const QQuickItem*)>& isWanted) const;

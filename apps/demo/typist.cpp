@@ -75,6 +75,9 @@ bool Typist::type(const QString& text)
     const QQuickItem* const field = m_window->activeFocusItem();
     if (!field || !field->inherits("QQuickTextInput") || (serves(keyboard) && !isOpen))
         return false;
+    // Its layout comes a little later than the keyboard.
+    if (isOpen && !keyOf(Qt::Key_Return))
+        return false;
     if (isOpen && hasKeysFor(text)) {
         pressNext(text, shownIn(field));
     } else {
@@ -103,9 +106,10 @@ void Typist::pressNext(const QString& text, const QString& shown)
     const QChar next = text.at(shown.size());
     QQuickItem* const key = keyOf(next);
     const bool isUpper = key && key->property("uppercased").toBool();
+    QQuickItem* const shift = keyOf(Qt::Key_Shift);
     // The layout shows its letters in the other case afterwards.
-    if (next.isLetter() && isUpper != next.isUpper() && !m_isPressed)
-        m_touch->press(keyOf(Qt::Key_Shift));
+    if (next.isLetter() && isUpper != next.isUpper() && !m_isPressed && shift)
+        m_touch->press(shift);
     else
         pressOnce(key);
 }

@@ -126,17 +126,19 @@ private Q_SLOTS:
     void deskDrawer()
     {
         measure();
+        open("files");
         QTest::keyClick(m_window, Qt::Key_D, Qt::ControlModifier);
         press("diskButton");
         QVERIFY(!m_report->save());
         QTRY_VERIFY(notifications()->currentDialog());
         QCOMPARE(notifications()->currentDialog()->longLabel(), QString("Not Enough Space"));
         notifications()->reject();
-        // The free space agrees; a page that is shown again says so.
+        // The free space agrees, on the page behind the drawer, too.
         QCOMPARE(m_report->percentageFileSystemUsed(), 100.0);
-        open("files");
+        QTest::keyClick(m_window, Qt::Key_D, Qt::ControlModifier);
         QTRY_VERIFY(isShownPart("100 % of the drive in use"));
         QVERIFY(reports().isEmpty());
+        QTest::keyClick(m_window, Qt::Key_D, Qt::ControlModifier);
         press("diskButton");
         QVERIFY(m_report->percentageFileSystemUsed() < 100);
         QVERIFY(m_report->save());

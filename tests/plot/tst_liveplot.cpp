@@ -215,6 +215,13 @@ void LivePlotTest::follows()
     QCOMPARE(m_plot->xMinimum(), left);
     m_plot->autoscale();
     QCOMPARE(m_plot->xMinimum(), 16.0);
+    // However x is rounded, the last point is in sight.
+    m_curve->clear();
+    m_plot->setFollow(2.7);
+    for (int i = 0; i < 1000; ++i) {
+        m_curve->append(i * 0.1, 1);
+        QVERIFY2(m_plot->xMaximum() >= m_curve->lastX(), qPrintable(QString::number(i)));
+    }
 }
 
 void LivePlotTest::readout()

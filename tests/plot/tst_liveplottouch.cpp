@@ -69,6 +69,16 @@ void LivePlotTouchTest::pinch()
     touch().release(0, at(0.45));
     QCOMPARE(m_plot->xMinimum(), seen);
     QVERIFY(!m_plot->isCursorVisible());
+    // Fingers that begin at one place.
+    m_plot->autoscale();
+    const double all = m_plot->xMaximum() - m_plot->xMinimum();
+    touch().press(0, at(0.5)).press(1, at(0.5));
+    touch().move(0, at(0.5)).move(1, at(0.5));
+    touch().move(0, at(0.4)).move(1, at(0.6));
+    touch().release(0, at(0.4)).release(1, at(0.6));
+    const double part = m_plot->xMaximum() - m_plot->xMinimum();
+    QVERIFY(part > 0 && part < all);
+    m_plot->setWindow(seen, seen + 500, -1, 1);
     // One finger above the other: values alone.
     touch().press(0, at(0.5, 0.3)).press(1, at(0.5, 0.5));
     for (int step = 1; step <= 10; ++step)

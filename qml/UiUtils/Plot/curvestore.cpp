@@ -223,7 +223,8 @@ void CurveStore::feedAll(CurvePoints& points, const std::function<double(double)
 
 int CurveStore::firstLineAt(double x) const
 {
-    const auto isElsewhere = [&](const Block& block) { return block.x.isEmpty() || block.x.low > x || block.x.high < x; };
+    const auto isElsewhere
+            = [&](const Block& block) { return block.x.isEmpty() || block.x.low > x || block.x.high < x; };
     for (int i = 0; i + 1 < m_points.size();) {
         const int level = largestBlock(i, isElsewhere);
         // The line from the block's last point leads to the next block.

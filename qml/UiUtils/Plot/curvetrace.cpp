@@ -38,9 +38,8 @@ QVector<QPointF> thinnedAscending(const CurveStore& store, const AxisView& x, in
     const int first = store.firstFrom(x.low());
     if (first > 0 && store.isDrawable(store.at(first - 1)))
         thinned += store.at(first - 1);
-    const int from = forEachColumn(store, x, columns, [&](int column, int begin, int end) {
-        store.feed(points, (column + 0.5) / columns, begin, end);
-    });
+    const int from = forEachColumn(store, x, columns,
+            [&](int column, int begin, int end) { store.feed(points, (column + 0.5) / columns, begin, end); });
     thinned += points.take();
     if (from < store.size())
         thinned += store.isDrawable(store.at(from)) ? store.at(from) : CurvePoints::interruption();
