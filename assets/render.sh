@@ -1,6 +1,6 @@
 #!/bin/sh
-# Renders the PNG pictures from the SVG drawings: those of reports beside the drawings, the icons of UiUtils.Controls
-# into its folder. The PNGs are kept in the tree, so that a build needs no SVG renderer.
+# Renders the PNG pictures of reports from the SVG drawings, beside these. The PNGs are kept in the tree, so that a build
+# needs no SVG renderer. The icons of UiUtils.Controls are drawn by the kit itself.
 set -eu
 cd "$(dirname "$0")"
 command -v rsvg-convert >/dev/null || {
@@ -20,12 +20,4 @@ render() {
 
 for drawing in *.svg; do
     render "$drawing" "${drawing%.svg}.png"
-done
-# Icons are shown smaller than this: the largest have 12 mm. Most fit into the half, which is decoded in a quarter of the
-# time.
-for drawing in icons/*.svg; do
-    icons="../qml/UiUtils/Controls/icons"
-    name="$(basename "$drawing" .svg).png"
-    render "$drawing" "$icons/$name" --width 96 --height 96
-    render "$drawing" "$icons/small/$name" --width 48 --height 48
 done

@@ -36,20 +36,31 @@ QVector<QPointF> samples(int count)
     return points;
 }
 
+/// A loop that is gone through slowly, with the same noise.
+QVector<QPointF> loop(int count)
+{
+    QVector<QPointF> points;
+    for (int i = 0; i < count; ++i) {
+        const double part = double(i) / count;
+        points += QPointF(std::cos(part * 20), signalAt(part, i));
+    }
+    return points;
+}
+
 /// A plot in a window without a screen, on the renderer that draws with the processor.
 class ShownPlot
 {
 public:
-    explicit ShownPlot(int count)
+    explicit ShownPlot(const QVector<QPointF>& points)
         : m_window(&m_control)
-        , m_next(count)
+        , m_next(points.size())
     {
         m_plot.setSize(size);
         m_plot.setParentItem(m_window.contentItem());
-        m_curve.setCapacity(2 * count);
+        m_curve.setCapacity(2 * points.size());
         m_curve.setName(QStringLiteral("Signal"));
         m_plot.addCurve(&m_curve);
-        m_curve.setPoints(samples(count));
+        m_curve.setPoints(points);
         m_window.setGeometry(QRect(QPoint(), size));
         m_control.initialize(nullptr);
     }
@@ -57,7 +68,7 @@ public:
     /// One more point, and the frame that shows it.
     void frame()
     {
-        m_curve.append(m_next * 1e-3, signalAt(1, m_next));
+        m_curve.append(m_curve.lastX() + 1e-3, signalAt(1, m_next));
         ++m_next;
         if (m_control.grab().isNull())
             qFatal("the live plot is not drawn");
@@ -127,8 +138,9 @@ QVector<Result> livePlotCases(int runs)
 {
     QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     const QVector<QPointF> line = pixels();
-    ShownPlot few(fewPoints);
-    ShownPlot many(manyPoints);
+    ShownPlot few(samples(fewPoints));
+    ShownPlot many(samples(manyPoints));
+    ShownPlot looped(loop(manyPoints));
     GeometryOfPlot geometry(manyPoints);
     QVector<Result> results;
     const auto add = [&](const QString& name, const std::function<void()>& ours, bool isSmooth, double limit) {
@@ -142,6 +154,9 @@ QVector<Result> livePlotCases(int runs)
     add(
             QStringLiteral("live plot: frame after one more of %L1 points / %2").arg(manyPoints).arg(floor),
             [&] { many.frame(); }, true, 0.6);
+    add(
+            QStringLiteral("live plot: frame after one more of %L1 points that go back and forth / %2").arg(manyPoints).arg(floor),
+            [&] { looped.frame(); }, true, 0);
     add(
             QStringLiteral("live plot: geometry after one more of %L1 points / %2").arg(manyPoints).arg(floor),
             [&] { geometry.frame(); }, true, 0.3);

@@ -134,6 +134,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <source>%1 cannot be written: %2.</source>
         <translation>تتعذر كتابة %1: %2.</translation>
     </message>
+    <message>
+        <source>Texts were typed on the on-screen keyboard.</source>
+        <translation>كُتبت النصوص بلوحة المفاتيح على الشاشة.</translation>
+    </message>
 </context>
 <context>
     <name>DeskDrawer</name>
@@ -588,7 +592,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation>‏%1، %2</translation>
+        <translation>‏⁨%1⁩، ⁨%2⁩</translation>
     </message>
     <message>
         <source>%1, compressed</source>
@@ -613,6 +617,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>Pictures</source>
         <translation>الصور</translation>
+    </message>
+    <message>
+        <source>%1, %2 % of the drive in use</source>
+        <translation>%1، المستخدَم من القرص %2 %</translation>
     </message>
 </context>
 <context>
@@ -1487,6 +1495,18 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <source>Open it on a computer, or ask whoever made it for a file without a password.</source>
         <translation>افتحه على حاسوب، أو اطلب من منشئه ملفًا دون كلمة مرور.</translation>
     </message>
+    <message>
+        <source>There is no language &quot;%1&quot;.</source>
+        <translation>لا توجد لغة &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Speak the language of that code, such as &quot;de&quot; (default: that of the environment).</source>
+        <translation>استخدام لغة هذا الرمز، مثل &quot;de&quot; (الافتراضي: لغة البيئة).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>الرمز</translation>
+    </message>
 </context>
 <context>
     <name>PeoplePage</name>
@@ -1664,12 +1684,8 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <translation>لا توجد عينات بعد</translation>
     </message>
     <message>
-        <source>Limit</source>
-        <translation>الحد</translation>
-    </message>
-    <message>
-        <source>%1 to %2, jitter %3, %4</source>
-        <translation>‏%1 إلى %2، الارتعاش %3، %4</translation>
+        <source>%1 to %2, jitter %3</source>
+        <translation>‏%1 إلى %2، الارتعاش %3</translation>
     </message>
 </context>
 <context>
@@ -1677,6 +1693,77 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     <message>
         <source>Only the digits %1 can be used here</source>
         <translation>لا يُقبل هنا إلا الأرقام %1</translation>
+    </message>
+</context>
+<context>
+    <name>Recording</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ليس ملفًا.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>تتعذر قراءة %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 has no service that can be replayed.</source>
+        <translation>لا يحتوي %1 على أي خدمة يمكن إعادة تشغيلها.</translation>
+    </message>
+    <message>
+        <source>broken lines: %1</source>
+        <translation>الأسطر التالفة: %1</translation>
+    </message>
+    <message>
+        <source>lines whose time goes backwards: %1</source>
+        <translation>الأسطر التي يرجع وقتها إلى الوراء: %1</translation>
+    </message>
+    <message>
+        <source>lines about items or services that are not there: %1</source>
+        <translation>الأسطر التي تخص عناصر أو خدمات غير موجودة: %1</translation>
+    </message>
+    <message>
+        <source>lines that do not fit their item: %1</source>
+        <translation>الأسطر التي لا تناسب عنصرها: %1</translation>
+    </message>
+    <message>
+        <source>lines beyond the limits: %1</source>
+        <translation>الأسطر التي تتجاوز الحدود: %1</translation>
+    </message>
+    <message>
+        <source>it ends in the middle</source>
+        <translation>ينتهي في المنتصف</translation>
+    </message>
+    <message>
+        <source>The recording is not sound and was played as far as it can be: %1.</source>
+        <translation>التسجيل غير سليم وتمت إعادة تشغيله قدر الإمكان: %1.</translation>
+    </message>
+    <message>
+        <source>%1 exists. Name another file, or remove that one.</source>
+        <translation>%1 موجود بالفعل. حدد ملفًا آخر أو احذف هذا الملف.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>تتعذر كتابة %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is written too slowly. The recording ends here.</source>
+        <translation>كتابة %1 بطيئة جدًا. ينتهي التسجيل هنا.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. The recording ends here.</source>
+        <translation>تتعذر كتابة %1: %2. ينتهي التسجيل هنا.</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of services.</source>
+        <translation>%1 ليس تسجيلاً لخدمات.</translation>
+    </message>
+    <message>
+        <source>%1 was recorded by a newer program, which writes another form. Use that one.</source>
+        <translation>تم تسجيل %1 ببرنامج أحدث يكتب صيغة أخرى. استخدم ذلك البرنامج.</translation>
+    </message>
+    <message>
+        <source>This is a recording: nothing can be started or stopped in it.</source>
+        <translation>هذا تسجيل: لا يمكن بدء أي شيء فيه أو إيقافه.</translation>
     </message>
 </context>
 <context>

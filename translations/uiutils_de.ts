@@ -134,6 +134,10 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
         <source>%1 cannot be written: %2.</source>
         <translation>%1 kann nicht geschrieben werden: %2.</translation>
     </message>
+    <message>
+        <source>Texts were typed on the on-screen keyboard.</source>
+        <translation>Texte wurden auf der Bildschirmtastatur eingegeben.</translation>
+    </message>
 </context>
 <context>
     <name>DeskDrawer</name>
@@ -605,6 +609,10 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     <message>
         <source>Pictures</source>
         <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>%1, %2 % of the drive in use</source>
+        <translation>%1, Laufwerk zu %2 % belegt</translation>
     </message>
 </context>
 <context>
@@ -1475,6 +1483,18 @@ Exit-Status: 0 fertig, 1 die Datei konnte nicht gezeigt werden, 2 falsche Befehl
         <source>Open it on a computer, or ask whoever made it for a file without a password.</source>
         <translation>Öffnen Sie sie auf einem Computer, oder bitten Sie um eine Datei ohne Passwort.</translation>
     </message>
+    <message>
+        <source>There is no language &quot;%1&quot;.</source>
+        <translation>Es gibt keine Sprache „%1“.</translation>
+    </message>
+    <message>
+        <source>Speak the language of that code, such as &quot;de&quot; (default: that of the environment).</source>
+        <translation>Die Sprache mit diesem Code sprechen, etwa „de“ (Standard: die der Umgebung).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>Code</translation>
+    </message>
 </context>
 <context>
     <name>PeoplePage</name>
@@ -1648,12 +1668,8 @@ Exit-Status: 0 fertig, 1 die Datei konnte nicht gezeigt werden, 2 falsche Befehl
         <translation>Noch keine Messwerte</translation>
     </message>
     <message>
-        <source>Limit</source>
-        <translation>Grenzwert</translation>
-    </message>
-    <message>
-        <source>%1 to %2, jitter %3, %4</source>
-        <translation>%1 bis %2, Jitter %3, %4</translation>
+        <source>%1 to %2, jitter %3</source>
+        <translation>%1 bis %2, Jitter %3</translation>
     </message>
 </context>
 <context>
@@ -1661,6 +1677,77 @@ Exit-Status: 0 fertig, 1 die Datei konnte nicht gezeigt werden, 2 falsche Befehl
     <message>
         <source>Only the digits %1 can be used here</source>
         <translation>Nur die Ziffern %1 sind hier möglich</translation>
+    </message>
+</context>
+<context>
+    <name>Recording</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 has no service that can be replayed.</source>
+        <translation>%1 enthält keinen Dienst, der wiedergegeben werden kann.</translation>
+    </message>
+    <message>
+        <source>broken lines: %1</source>
+        <translation>fehlerhafte Zeilen: %1</translation>
+    </message>
+    <message>
+        <source>lines whose time goes backwards: %1</source>
+        <translation>Zeilen, deren Zeit rückwärts läuft: %1</translation>
+    </message>
+    <message>
+        <source>lines about items or services that are not there: %1</source>
+        <translation>Zeilen über Werte oder Dienste, die es nicht gibt: %1</translation>
+    </message>
+    <message>
+        <source>lines that do not fit their item: %1</source>
+        <translation>Zeilen, die nicht zu ihrem Wert passen: %1</translation>
+    </message>
+    <message>
+        <source>lines beyond the limits: %1</source>
+        <translation>Zeilen jenseits der Grenzen: %1</translation>
+    </message>
+    <message>
+        <source>it ends in the middle</source>
+        <translation>sie endet mittendrin</translation>
+    </message>
+    <message>
+        <source>The recording is not sound and was played as far as it can be: %1.</source>
+        <translation>Die Aufzeichnung ist nicht einwandfrei und wurde so weit wie möglich wiedergegeben: %1.</translation>
+    </message>
+    <message>
+        <source>%1 exists. Name another file, or remove that one.</source>
+        <translation>%1 gibt es schon. Nennen Sie eine andere Datei, oder entfernen Sie diese.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is written too slowly. The recording ends here.</source>
+        <translation>%1 wird zu langsam geschrieben. Die Aufzeichnung endet hier.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. The recording ends here.</source>
+        <translation>%1 kann nicht geschrieben werden: %2. Die Aufzeichnung endet hier.</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of services.</source>
+        <translation>%1 ist keine Aufzeichnung von Diensten.</translation>
+    </message>
+    <message>
+        <source>%1 was recorded by a newer program, which writes another form. Use that one.</source>
+        <translation>%1 wurde von einem neueren Programm aufgezeichnet, das eine andere Form schreibt. Verwenden Sie jenes.</translation>
+    </message>
+    <message>
+        <source>This is a recording: nothing can be started or stopped in it.</source>
+        <translation>Dies ist eine Aufzeichnung: In ihr kann nichts gestartet oder angehalten werden.</translation>
     </message>
 </context>
 <context>
@@ -2730,7 +2817,7 @@ Ordner: %2</translation>
     </message>
     <message>
         <source>Sunlight</source>
-        <translation>Sonnenlicht</translation>
+        <translation>Sonne</translation>
     </message>
     <message>
         <source>Theme</source>

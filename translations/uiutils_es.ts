@@ -134,6 +134,10 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
         <source>%1 cannot be written: %2.</source>
         <translation>No se puede escribir %1: %2.</translation>
     </message>
+    <message>
+        <source>Texts were typed on the on-screen keyboard.</source>
+        <translation>Los textos se escribieron con el teclado en pantalla.</translation>
+    </message>
 </context>
 <context>
     <name>DeskDrawer</name>
@@ -605,6 +609,10 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     <message>
         <source>Pictures</source>
         <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>%1, %2 % of the drive in use</source>
+        <translation>%1, %2 % de la unidad en uso</translation>
     </message>
 </context>
 <context>
@@ -1475,6 +1483,18 @@ Código de salida: 0 hecho, 1 no se pudo mostrar el archivo, 2 línea de órdene
         <source>Open it on a computer, or ask whoever made it for a file without a password.</source>
         <translation>Ábralo en un ordenador, o pida a su autor un archivo sin contraseña.</translation>
     </message>
+    <message>
+        <source>There is no language &quot;%1&quot;.</source>
+        <translation>No existe el idioma «%1».</translation>
+    </message>
+    <message>
+        <source>Speak the language of that code, such as &quot;de&quot; (default: that of the environment).</source>
+        <translation>Hablar el idioma de ese código, como «de» (por defecto: el del entorno).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>código</translation>
+    </message>
 </context>
 <context>
     <name>PeoplePage</name>
@@ -1648,12 +1668,8 @@ Código de salida: 0 hecho, 1 no se pudo mostrar el archivo, 2 línea de órdene
         <translation>Aún no hay muestras</translation>
     </message>
     <message>
-        <source>Limit</source>
-        <translation>Límite</translation>
-    </message>
-    <message>
-        <source>%1 to %2, jitter %3, %4</source>
-        <translation>%1 a %2, fluctuación %3, %4</translation>
+        <source>%1 to %2, jitter %3</source>
+        <translation>%1 a %2, fluctuación %3</translation>
     </message>
 </context>
 <context>
@@ -1661,6 +1677,77 @@ Código de salida: 0 hecho, 1 no se pudo mostrar el archivo, 2 línea de órdene
     <message>
         <source>Only the digits %1 can be used here</source>
         <translation>Aquí solo se admiten los dígitos %1</translation>
+    </message>
+</context>
+<context>
+    <name>Recording</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 no es un archivo.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>No se puede leer %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 has no service that can be replayed.</source>
+        <translation>%1 no contiene ningún servicio que se pueda reproducir.</translation>
+    </message>
+    <message>
+        <source>broken lines: %1</source>
+        <translation>líneas dañadas: %1</translation>
+    </message>
+    <message>
+        <source>lines whose time goes backwards: %1</source>
+        <translation>líneas cuyo tiempo retrocede: %1</translation>
+    </message>
+    <message>
+        <source>lines about items or services that are not there: %1</source>
+        <translation>líneas sobre elementos o servicios que no existen: %1</translation>
+    </message>
+    <message>
+        <source>lines that do not fit their item: %1</source>
+        <translation>líneas que no encajan con su elemento: %1</translation>
+    </message>
+    <message>
+        <source>lines beyond the limits: %1</source>
+        <translation>líneas que superan los límites: %1</translation>
+    </message>
+    <message>
+        <source>it ends in the middle</source>
+        <translation>termina a la mitad</translation>
+    </message>
+    <message>
+        <source>The recording is not sound and was played as far as it can be: %1.</source>
+        <translation>La grabación no está íntegra y se ha reproducido hasta donde es posible: %1.</translation>
+    </message>
+    <message>
+        <source>%1 exists. Name another file, or remove that one.</source>
+        <translation>%1 ya existe. Indique otro archivo o elimine ese.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>No se puede escribir %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is written too slowly. The recording ends here.</source>
+        <translation>%1 se escribe demasiado despacio. La grabación termina aquí.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. The recording ends here.</source>
+        <translation>No se puede escribir %1: %2. La grabación termina aquí.</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of services.</source>
+        <translation>%1 no es una grabación de servicios.</translation>
+    </message>
+    <message>
+        <source>%1 was recorded by a newer program, which writes another form. Use that one.</source>
+        <translation>%1 se grabó con un programa más reciente, que escribe otra forma. Utilice ese.</translation>
+    </message>
+    <message>
+        <source>This is a recording: nothing can be started or stopped in it.</source>
+        <translation>Esto es una grabación: en ella no se puede iniciar ni detener nada.</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,10 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
         <source>%1 cannot be written: %2.</source>
         <translation>Impossible d’écrire %1&#xa0;: %2.</translation>
     </message>
+    <message>
+        <source>Texts were typed on the on-screen keyboard.</source>
+        <translation>Les textes ont été saisis au clavier à l’écran.</translation>
+    </message>
 </context>
 <context>
     <name>DeskDrawer</name>
@@ -605,6 +609,10 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     <message>
         <source>Pictures</source>
         <translation>Images</translation>
+    </message>
+    <message>
+        <source>%1, %2 % of the drive in use</source>
+        <translation>%1, %2 % du disque occupés</translation>
     </message>
 </context>
 <context>
@@ -1475,6 +1483,18 @@ Code de sortie&#xa0;: 0 terminé, 1 le fichier n’a pas pu être affiché, 2 li
         <source>Open it on a computer, or ask whoever made it for a file without a password.</source>
         <translation>Ouvrez-le sur un ordinateur, ou demandez à son auteur un fichier sans mot de passe.</translation>
     </message>
+    <message>
+        <source>There is no language &quot;%1&quot;.</source>
+        <translation>Il n’y a pas de langue « %1 ».</translation>
+    </message>
+    <message>
+        <source>Speak the language of that code, such as &quot;de&quot; (default: that of the environment).</source>
+        <translation>Parler la langue de ce code, par exemple « de » (par défaut : celle de l’environnement).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>code</translation>
+    </message>
 </context>
 <context>
     <name>PeoplePage</name>
@@ -1648,12 +1668,8 @@ Code de sortie&#xa0;: 0 terminé, 1 le fichier n’a pas pu être affiché, 2 li
         <translation>Aucun échantillon</translation>
     </message>
     <message>
-        <source>Limit</source>
-        <translation>Limite</translation>
-    </message>
-    <message>
-        <source>%1 to %2, jitter %3, %4</source>
-        <translation>%1 à %2, gigue %3, %4</translation>
+        <source>%1 to %2, jitter %3</source>
+        <translation>%1 à %2, gigue %3</translation>
     </message>
 </context>
 <context>
@@ -1661,6 +1677,77 @@ Code de sortie&#xa0;: 0 terminé, 1 le fichier n’a pas pu être affiché, 2 li
     <message>
         <source>Only the digits %1 can be used here</source>
         <translation>Seuls les chiffres %1 sont admis ici</translation>
+    </message>
+</context>
+<context>
+    <name>Recording</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 n’est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>Impossible de lire %1 : %2.</translation>
+    </message>
+    <message>
+        <source>%1 has no service that can be replayed.</source>
+        <translation>%1 ne contient aucun service qui puisse être rejoué.</translation>
+    </message>
+    <message>
+        <source>broken lines: %1</source>
+        <translation>lignes défectueuses : %1</translation>
+    </message>
+    <message>
+        <source>lines whose time goes backwards: %1</source>
+        <translation>lignes dont le temps recule : %1</translation>
+    </message>
+    <message>
+        <source>lines about items or services that are not there: %1</source>
+        <translation>lignes sur des éléments ou services absents : %1</translation>
+    </message>
+    <message>
+        <source>lines that do not fit their item: %1</source>
+        <translation>lignes qui ne conviennent pas à leur élément : %1</translation>
+    </message>
+    <message>
+        <source>lines beyond the limits: %1</source>
+        <translation>lignes au-delà des limites : %1</translation>
+    </message>
+    <message>
+        <source>it ends in the middle</source>
+        <translation>il s’arrête au milieu</translation>
+    </message>
+    <message>
+        <source>The recording is not sound and was played as far as it can be: %1.</source>
+        <translation>L’enregistrement n’est pas intact et a été rejoué autant que possible : %1.</translation>
+    </message>
+    <message>
+        <source>%1 exists. Name another file, or remove that one.</source>
+        <translation>%1 existe déjà. Indiquez un autre fichier ou supprimez celui-ci.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>Impossible d’écrire %1 : %2.</translation>
+    </message>
+    <message>
+        <source>%1 is written too slowly. The recording ends here.</source>
+        <translation>L’écriture de %1 est trop lente. L’enregistrement s’arrête ici.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. The recording ends here.</source>
+        <translation>Impossible d’écrire %1 : %2. L’enregistrement s’arrête ici.</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of services.</source>
+        <translation>%1 n’est pas un enregistrement de services.</translation>
+    </message>
+    <message>
+        <source>%1 was recorded by a newer program, which writes another form. Use that one.</source>
+        <translation>%1 a été enregistré par un programme plus récent, qui écrit une autre forme. Utilisez celui-là.</translation>
+    </message>
+    <message>
+        <source>This is a recording: nothing can be started or stopped in it.</source>
+        <translation>Ceci est un enregistrement : rien ne peut y être démarré ni arrêté.</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <source>%1 cannot be written: %2.</source>
         <translation>%1 に書き込めません: %2。</translation>
     </message>
+    <message>
+        <source>Texts were typed on the on-screen keyboard.</source>
+        <translation>テキストは画面キーボードで入力されました。</translation>
+    </message>
 </context>
 <context>
     <name>DeskDrawer</name>
@@ -603,6 +607,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>Pictures</source>
         <translation>画像</translation>
+    </message>
+    <message>
+        <source>%1, %2 % of the drive in use</source>
+        <translation>%1、ドライブ使用率 %2 %</translation>
     </message>
 </context>
 <context>
@@ -1472,6 +1480,18 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <source>Open it on a computer, or ask whoever made it for a file without a password.</source>
         <translation>コンピューターで開くか、作成者にパスワードなしのファイルを依頼してください。</translation>
     </message>
+    <message>
+        <source>There is no language &quot;%1&quot;.</source>
+        <translation>言語「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>Speak the language of that code, such as &quot;de&quot; (default: that of the environment).</source>
+        <translation>このコードの言語を使います。例: &quot;de&quot; (既定: 環境の言語)。</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>コード</translation>
+    </message>
 </context>
 <context>
     <name>PeoplePage</name>
@@ -1644,12 +1664,8 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <translation>サンプルがまだありません</translation>
     </message>
     <message>
-        <source>Limit</source>
-        <translation>限度値</translation>
-    </message>
-    <message>
-        <source>%1 to %2, jitter %3, %4</source>
-        <translation>%1 ～ %2、ジッター %3、%4</translation>
+        <source>%1 to %2, jitter %3</source>
+        <translation>%1 ～ %2、ジッター %3</translation>
     </message>
 </context>
 <context>
@@ -1657,6 +1673,77 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     <message>
         <source>Only the digits %1 can be used here</source>
         <translation>%1 だけを使用できます</translation>
+    </message>
+</context>
+<context>
+    <name>Recording</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 はファイルではありません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>%1 を読み取れません: %2。</translation>
+    </message>
+    <message>
+        <source>%1 has no service that can be replayed.</source>
+        <translation>%1 には再生できるサービスがありません。</translation>
+    </message>
+    <message>
+        <source>broken lines: %1</source>
+        <translation>壊れた行: %1</translation>
+    </message>
+    <message>
+        <source>lines whose time goes backwards: %1</source>
+        <translation>時刻が逆行する行: %1</translation>
+    </message>
+    <message>
+        <source>lines about items or services that are not there: %1</source>
+        <translation>存在しない項目またはサービスの行: %1</translation>
+    </message>
+    <message>
+        <source>lines that do not fit their item: %1</source>
+        <translation>項目に合わない行: %1</translation>
+    </message>
+    <message>
+        <source>lines beyond the limits: %1</source>
+        <translation>上限を超える行: %1</translation>
+    </message>
+    <message>
+        <source>it ends in the middle</source>
+        <translation>途中で終わっています</translation>
+    </message>
+    <message>
+        <source>The recording is not sound and was played as far as it can be: %1.</source>
+        <translation>記録に問題があるため、可能な範囲で再生しました: %1。</translation>
+    </message>
+    <message>
+        <source>%1 exists. Name another file, or remove that one.</source>
+        <translation>%1 は既に存在します。別のファイルを指定するか、そのファイルを削除してください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>%1 に書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>%1 is written too slowly. The recording ends here.</source>
+        <translation>%1 への書き込みが遅すぎます。記録はここで終了します。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. The recording ends here.</source>
+        <translation>%1 に書き込めません: %2。記録はここで終了します。</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of services.</source>
+        <translation>%1 はサービスの記録ではありません。</translation>
+    </message>
+    <message>
+        <source>%1 was recorded by a newer program, which writes another form. Use that one.</source>
+        <translation>%1 は、別の形式で書き込む新しいプログラムで記録されました。そのプログラムを使用してください。</translation>
+    </message>
+    <message>
+        <source>This is a recording: nothing can be started or stopped in it.</source>
+        <translation>これは記録です。開始や停止はできません。</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <source>%1 cannot be written: %2.</source>
         <translation>[%1 çåññöţ bé ŵŕîţţéñ: %2. ~ ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>Texts were typed on the on-screen keyboard.</source>
+        <translation>[Ţéxţš ŵéŕé ţýpéđ öñ ţĥé öñ-šçŕééñ ķéýböåŕđ. ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>DeskDrawer</name>
@@ -605,6 +609,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>Pictures</source>
         <translation>[Pîçţûŕéš ~]</translation>
+    </message>
+    <message>
+        <source>%1, %2 % of the drive in use</source>
+        <translation>[%1, %2 % öf ţĥé đŕîvé îñ ûšé ~ ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>
@@ -1475,6 +1483,18 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <source>Open it on a computer, or ask whoever made it for a file without a password.</source>
         <translation>[Öpéñ îţ öñ å çömpûţéŕ, öŕ åšķ ŵĥöévéŕ måđé îţ föŕ å fîļé ŵîţĥöûţ å påššŵöŕđ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>There is no language "%1".</source>
+        <translation>[Ţĥéŕé îš ñö ļåñĝûåĝé "%1". ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Speak the language of that code, such as "de" (default: that of the environment).</source>
+        <translation>[Špéåķ ţĥé ļåñĝûåĝé öf ţĥåţ çöđé, šûçĥ åš "đé" (đéfåûļţ: ţĥåţ öf ţĥé éñvîŕöñméñţ). ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>[çöđé ~]</translation>
+    </message>
 </context>
 <context>
     <name>PeoplePage</name>
@@ -1648,12 +1668,8 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <translation>[Ñö šåmpļéš ýéţ ~ ~]</translation>
     </message>
     <message>
-        <source>Limit</source>
-        <translation>[Ļîmîţ ~]</translation>
-    </message>
-    <message>
-        <source>%1 to %2, jitter %3, %4</source>
-        <translation>[%1 ţö %2, ĵîţţéŕ %3, %4 ~ ~ ~ ~]</translation>
+        <source>%1 to %2, jitter %3</source>
+        <translation>[%1 ţö %2, ĵîţţéŕ %3 ~ ~ ~]</translation>
     </message>
 </context>
 <context>
@@ -1661,6 +1677,77 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     <message>
         <source>Only the digits %1 can be used here</source>
         <translation>[Öñļý ţĥé đîĝîţš %1 çåñ bé ûšéđ ĥéŕé ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+</context>
+<context>
+    <name>Recording</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>[%1 îš ñöţ å fîļé. ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2.</source>
+        <translation>[%1 çåññöţ bé ŕéåđ: %2. ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 has no service that can be replayed.</source>
+        <translation>[%1 ĥåš ñö šéŕvîçé ţĥåţ çåñ bé ŕépļåýéđ. ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>broken lines: %1</source>
+        <translation>[bŕöķéñ ļîñéš: %1 ~ ~]</translation>
+    </message>
+    <message>
+        <source>lines whose time goes backwards: %1</source>
+        <translation>[ļîñéš ŵĥöšé ţîmé ĝöéš båçķŵåŕđš: %1 ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>lines about items or services that are not there: %1</source>
+        <translation>[ļîñéš åböûţ îţémš öŕ šéŕvîçéš ţĥåţ åŕé ñöţ ţĥéŕé: %1 ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>lines that do not fit their item: %1</source>
+        <translation>[ļîñéš ţĥåţ đö ñöţ fîţ ţĥéîŕ îţém: %1 ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>lines beyond the limits: %1</source>
+        <translation>[ļîñéš béýöñđ ţĥé ļîmîţš: %1 ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>it ends in the middle</source>
+        <translation>[îţ éñđš îñ ţĥé mîđđļé ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The recording is not sound and was played as far as it can be: %1.</source>
+        <translation>[Ţĥé ŕéçöŕđîñĝ îš ñöţ šöûñđ åñđ ŵåš pļåýéđ åš fåŕ åš îţ çåñ bé: %1. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 exists. Name another file, or remove that one.</source>
+        <translation>[%1 éxîšţš. Ñåmé åñöţĥéŕ fîļé, öŕ ŕémövé ţĥåţ öñé. ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2.</source>
+        <translation>[%1 çåññöţ bé ŵŕîţţéñ: %2. ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 is written too slowly. The recording ends here.</source>
+        <translation>[%1 îš ŵŕîţţéñ ţöö šļöŵļý. Ţĥé ŕéçöŕđîñĝ éñđš ĥéŕé. ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. The recording ends here.</source>
+        <translation>[%1 çåññöţ bé ŵŕîţţéñ: %2. Ţĥé ŕéçöŕđîñĝ éñđš ĥéŕé. ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 is not a recording of services.</source>
+        <translation>[%1 îš ñöţ å ŕéçöŕđîñĝ öf šéŕvîçéš. ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 was recorded by a newer program, which writes another form. Use that one.</source>
+        <translation>[%1 ŵåš ŕéçöŕđéđ bý å ñéŵéŕ pŕöĝŕåm, ŵĥîçĥ ŵŕîţéš åñöţĥéŕ föŕm. Ûšé ţĥåţ öñé. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>This is a recording: nothing can be started or stopped in it.</source>
+        <translation>[Ţĥîš îš å ŕéçöŕđîñĝ: ñöţĥîñĝ çåñ bé šţåŕţéđ öŕ šţöppéđ îñ îţ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>

@@ -18,6 +18,8 @@ TREE = pathlib.Path(__file__).resolve().parents[1]
 LANGUAGES = ('ar', 'de', 'es', 'fr', 'ja')
 # What users of an instrument see. The programs for the command line are in English.
 ROOMS = ('base', 'platform', 'lib', 'qml', 'apps/common', 'apps/demo', 'apps/pdf_viewer')
+# Pages that have their catalogues beside them.
+EXAMPLES = 'docs/examples'
 SERVICES = 'platform/reference/services'
 # Of labels in service files, which no source requests by themselves.
 LABELS = 'ServiceItem'
@@ -47,7 +49,7 @@ def update(lupdate, tree, files, rooms=ROOMS, options=()):
     """Runs the tool over the tree. Returns its complaints."""
     with tempfile.TemporaryDirectory() as folder:
         labels = pathlib.Path(folder, 'labels.cpp')
-        labels.write_text(label_source(tree), encoding='utf-8')
+        labels.write_text('' if rooms == (EXAMPLES,) else label_source(tree), encoding='utf-8')
         run = subprocess.run([lupdate, '-silent', '-no-obsolete', '-locations', 'none', '-source-language', 'en', '-extensions', 'cpp,h,qml,js',
                               *[room for room in rooms if (tree / room).is_dir()], labels, *options, '-ts', *files], cwd=tree, capture_output=True, text=True)
     complaints = [line.strip() for line in run.stderr.splitlines() if line.strip()]
@@ -89,14 +91,18 @@ def main():
     parser.add_argument('--lupdate', required=True)
     parser.add_argument('--into', type=pathlib.Path, default=TREE / 'translations')
     options = parser.parse_args()
+    beside = TREE / EXAMPLES / 'translations' if options.into == TREE / 'translations' else options.into
     long = options.into / 'uiutils_pseudo.ts'
+    long_examples = beside / 'examples_pseudo.ts'
     complaints = update(options.lupdate, TREE, [options.into / f'uiutils_{language}.ts' for language in LANGUAGES] + [long])
     # English needs no translations, but has a singular.
     complaints += update(options.lupdate, TREE, [options.into / 'uiutils_en.ts'], options=['-pluralonly'])
+    complaints += update(options.lupdate, TREE, [beside / f'examples_{language}.ts' for language in LANGUAGES] + [long_examples], (EXAMPLES,))
     for complaint in complaints:
         print(complaint, file=sys.stderr)
     if not complaints:
         lengthen(long)
+        lengthen(long_examples)
     return 1 if complaints else 0
 
 

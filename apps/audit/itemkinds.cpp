@@ -109,7 +109,7 @@ bool isText(const QQuickItem* item)
 
 bool isIcon(const QQuickItem* item)
 {
-    return QByteArray(item->metaObject()->className()).startsWith("Icon_QML");
+    return item->inherits("uiutils::IconPicture");
 }
 
 bool isSurface(const QQuickItem* item)
@@ -137,7 +137,9 @@ QRectF paintedArea(const QQuickItem* text)
     const double left = paddingOf(text, "leftPadding");
     const double top = paddingOf(text, "topPadding");
     // A field scrolls what does not fit.
-    const double width = isEditor(text) ? std::min(content.width(), room.width()) : content.width();
+    const double width = isEditor(text)
+            ? std::min(content.width(), room.width() - left - paddingOf(text, "rightPadding"))
+            : content.width();
     const int across = text->property("effectiveHorizontalAlignment").toInt();
     const int down = text->property("verticalAlignment").toInt();
     return {left + aligned(across, room.width() - left - paddingOf(text, "rightPadding"), width),

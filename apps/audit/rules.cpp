@@ -206,6 +206,16 @@ QStringList strayTargets(const Scene& scene)
     return complaints;
 }
 
+QStringList coveredFields(const QQuickItem* opened, const QQuickItem* field)
+{
+    const auto areaOf = [](const QQuickItem* item) { return item->mapRectToScene(QRectF(QPointF(), item->size())); };
+    const QRectF shared = areaOf(opened) & areaOf(field);
+    if (std::min(shared.width(), shared.height()) <= rounding)
+        return {};
+    return {told(Texts::tr("Covered"), field,
+            Texts::tr("%1 x %2 pixels by what opens for it").arg(figure(shared.width()), figure(shared.height())))};
+}
+
 QStringList faintWords(const Scene& scene, const QImage& picture)
 {
     QStringList complaints;

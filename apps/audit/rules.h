@@ -25,6 +25,8 @@ QStringList smallTexts(const Scene& scene, const Ruler& ruler);
 QStringList cutTexts(const Scene& scene);
 QStringList overlappingTexts(const Scene& scene);
 QStringList strayTargets(const Scene& scene);
+/// What opens for a field must leave the field in sight.
+QStringList coveredFields(const QQuickItem* opened, const QQuickItem* field);
 /// Texts and icons that cannot be read in the picture of the scene.
 QStringList faintWords(const Scene& scene, const QImage& picture);
 

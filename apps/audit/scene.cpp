@@ -116,7 +116,7 @@ void Walk::record(const QQuickItem* item, const Surroundings& around)
     if (isIcon(item))
         m_scene.icons += shown(item, QRectF(QPointF(), item->size()), around);
     if (isCover(item, around.opacity, m_window))
-        m_covers += {item->mapRectToScene(QRectF(QPointF(), item->size())) & around.clip, m_order};
+        m_covers += {item, item->mapRectToScene(QRectF(QPointF(), item->size())) & around.clip, m_order};
 }
 
 Shown Walk::shown(const QQuickItem* item, const QRectF& area, const Surroundings& around) const
@@ -129,7 +129,9 @@ void Walk::removeCovered(QVector<Shown>& all) const
 {
     const auto isCovered = [this](const Shown& shown) {
         return std::any_of(m_covers.begin(), m_covers.end(), [&shown](const Cover& cover) {
-            return cover.order > shown.order && !shown.seen.isEmpty() && cover.area.contains(shown.seen);
+            // The background of a button covers what is behind the button.
+            return cover.order > shown.order && !shown.seen.isEmpty() && cover.area.contains(shown.seen)
+                    && !shown.item->isAncestorOf(cover.item);
         });
     };
     all.erase(std::remove_if(all.begin(), all.end(), isCovered), all.end());
@@ -172,6 +174,17 @@ Scene readScene(const QQuickWindow* window)
     const QRectF all(QPointF(), window->size());
     walk.visit(window->contentItem(), {all, all});
     return walk.takeScene();
+}
+
+Scene within(Scene scene, const QQuickItem* item)
+{
+    const auto isOutside = [item](const QQuickItem* other) { return !item->isAncestorOf(other); };
+    const auto isShownOutside = [&](const Shown& shown) { return isOutside(shown.item); };
+    for (QVector<Shown>* all : {&scene.targets, &scene.texts, &scene.icons})
+        all->erase(std::remove_if(all->begin(), all->end(), isShownOutside), all->end());
+    scene.scrollers.erase(
+            std::remove_if(scene.scrollers.begin(), scene.scrollers.end(), isOutside), scene.scrollers.end());
+    return scene;
 }
 
 bool mayElide(const QQuickItem* item)

@@ -31,6 +31,7 @@ struct Shown
 /// What hides all that was painted before it.
 struct Cover
 {
+    const QQuickItem* item = nullptr;
     QRectF area;
     int order = 0;
 };
@@ -45,6 +46,9 @@ struct Scene
 };
 
 Scene readScene(const QQuickWindow* window);
+
+/// What of the scene is inside an item.
+Scene within(Scene scene, const QQuickItem* item);
 
 /// Whether the item, or one that it stands in, says by a property `mayElide` that its text may be cut.
 bool mayElide(const QQuickItem* item);

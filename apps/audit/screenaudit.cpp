@@ -1,10 +1,13 @@
 #include "screenaudit.h"
 
+#include "openers.h"
 #include "rules.h"
+#include "texts.h"
 #include "voice.h"
 
 #include <QAccessible>
 #include <QCoreApplication>
+#include <QPointer>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QScreen>
@@ -22,6 +25,44 @@ bool isPlain(const QQuickItem* scroller)
 {
     return !scroller->inherits("QQuickItemView");
 }
+
+Scene sceneOf(const QQuickWindow* window)
+{
+    const QQuickItem* const open = topPopup(window);
+    const Scene scene = readScene(window);
+    return open ? within(scene, open) : scene;
+}
+
+/// What the judging of something that opens leaves behind otherwise: what has the focus, and how far the page is scrolled.
+class PageKeeper
+{
+public:
+    explicit PageKeeper(QQuickWindow* window)
+        : m_window(window)
+        , m_focused(window->activeFocusItem())
+    {
+        const QVector<const QQuickItem*> scrollers = readScene(window).scrollers;
+        for (const QQuickItem* scroller : scrollers)
+            m_places.append({const_cast<QQuickItem*>(scroller), scroller->property("contentY").toDouble()});
+    }
+    ~PageKeeper()
+    {
+        if (m_focused)
+            m_focused->forceActiveFocus(Qt::MouseFocusReason);
+        else if (QQuickItem* const focused = m_window->activeFocusItem())
+            focused->setFocus(false);
+        for (const auto& [scroller, place] : qAsConst(m_places)) {
+            if (scroller)
+                scroller->setProperty("contentY", place);
+        }
+    }
+    Q_DISABLE_COPY_MOVE(PageKeeper)
+
+private:
+    QQuickWindow* m_window;
+    QPointer<QQuickItem> m_focused;
+    QVector<QPair<QPointer<QQuickItem>, double>> m_places;
+};
 
 QImage pictureOf(QQuickWindow* window)
 {
@@ -72,10 +113,47 @@ QStringList ScreenAudit::complaints(int rules) const
     return complaints;
 }
 
+QStringList ScreenAudit::complaintsOfOpened(int rules, const std::function<void()>& look) const
+{
+    QStringList all;
+    const PageKeeper keeper(m_window);
+    const QQuickItem* const before = topPopup(m_window);
+    const QVector<Opener> openers = openersIn(m_window);
+    for (const Opener& opener : openers) {
+        if (!opener.item || !opener.target)
+            continue;
+        QMetaObject::invokeMethod(opener.target, opener.open);
+        pictureAtRest(m_window);
+        QQuickItem* const popup = topPopup(m_window);
+        if (!popup || popup == before) {
+            all += Texts::tr("Opened: %1: nothing opens").arg(nameOf(opener.item));
+            continue;
+        }
+        all += complaintsOf(popup, opener.item, rules);
+        if (look)
+            look();
+        close(popup);
+    }
+    all.removeDuplicates();
+    return all;
+}
+
+QStringList ScreenAudit::complaintsOf(QQuickItem* popup, const QQuickItem* opener, int rules) const
+{
+    QStringList all = complaints(rules);
+    const QQuickItem* const field = fieldOf(opener);
+    if (rules & Geometry && field && !isDimming(popup))
+        all += coveredFields(popup, field);
+    for (QString& complaint : all)
+        complaint = Texts::tr("%1 (opened by %2)").arg(complaint, nameOf(opener));
+    return all;
+}
+
 QStringList ScreenAudit::seen(int rules) const
 {
+    waitForPopup(m_window);
     const QImage picture = pictureAtRest(m_window);
-    const Scene scene = readScene(m_window);
+    const Scene scene = sceneOf(m_window);
     QStringList complaints;
     if (rules & Geometry) {
         const Ruler ruler {m_pixelsPerMillimetre};
@@ -92,7 +170,7 @@ QStringList ScreenAudit::seen(int rules) const
 QStringList ScreenAudit::faintContents() const
 {
     QStringList complaints;
-    const QVector<const QQuickItem*> scrollers = readScene(m_window).scrollers;
+    const QVector<const QQuickItem*> scrollers = sceneOf(m_window).scrollers;
     for (const QQuickItem* found : scrollers) {
         auto* const scroller = const_cast<QQuickItem*>(found);
         if (!isPlain(scroller))
@@ -103,7 +181,7 @@ QStringList ScreenAudit::faintContents() const
         for (double y = 0; last > 0 && y < last + scroller->height() / 2; y += scroller->height() / 2) {
             scroller->setProperty("contentY", qMin(y, last));
             const QImage picture = pictureAtRest(m_window);
-            complaints += faintWords(readScene(m_window), picture);
+            complaints += faintWords(sceneOf(m_window), picture);
         }
         scroller->setProperty("contentY", before);
     }

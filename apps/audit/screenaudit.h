@@ -3,6 +3,9 @@
 #include <QImage>
 #include <QStringList>
 
+#include <functional>
+
+class QQuickItem;
 class QQuickWindow;
 
 namespace uiutils::audit {
@@ -12,7 +15,8 @@ namespace uiutils::audit {
 QImage pictureAtRest(QQuickWindow* window);
 
 /// What in a window a technician could not touch or read: one line for each violation, with the item and the measure.
-/// The window has to be shown. Contents that scroll are moved through the window, and back.
+/// The window has to be shown. Contents that scroll are moved through the window, and back. While something is open over
+/// the page, such as a dialog, that is judged and not the page.
 class ScreenAudit
 {
 public:
@@ -31,8 +35,13 @@ public:
 
     QStringList complaints(int rules = Geometry | Contrast | Voice) const;
 
+    /// The same for what the controls of the page open: lists of choices, pads, pickers. Each is opened, judged and
+    /// closed again; `look` is called while it is open. What opens beside a field must not cover it.
+    QStringList complaintsOfOpened(int rules, const std::function<void()>& look = {}) const;
+
 private:
     QStringList seen(int rules) const;
+    QStringList complaintsOf(QQuickItem* popup, const QQuickItem* opener, int rules) const;
     QStringList faintContents() const;
 
     QQuickWindow* m_window;

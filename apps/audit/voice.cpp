@@ -34,8 +34,11 @@ void collect(QAccessibleInterface* face, QStringList& said)
         collect(face->child(i), said);
 }
 
+// An "i" in a circle is a sign.
 bool hasWords(const QString& text)
 {
+    if (text.size() == 1 && text.at(0).unicode() < 0x80 && text.at(0).isLetter())
+        return false;
     return std::any_of(text.begin(), text.end(), [](QChar letter) { return letter.isLetterOrNumber(); });
 }
 

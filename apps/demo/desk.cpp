@@ -1,5 +1,7 @@
 #include "desk.h"
 
+#include "diskspace.h"
+
 #include <embedded/embeddedbackend.h>
 #include <embedded/embeddedservice.h>
 
@@ -73,6 +75,7 @@ void Desk::setDiskFull(bool isFull)
     // The signal would end the process; without it, the write fails.
     std::signal(SIGXFSZ, isFull ? SIG_IGN : SIG_DFL);
     limitFiles(isFull ? 0 : RLIM_INFINITY);
+    showNoSpace(isFull);
     Q_EMIT diskFullChanged();
 }
 

@@ -2,6 +2,7 @@
 #include "common/complaint.h"
 #include "common/displaysetup.h"
 #include "common/screen.h"
+#include "common/translations.h"
 #include "demooptions.h"
 #include "demotypes.h"
 #include "follower.h"
@@ -17,6 +18,7 @@
 
 #include <kiv/kivclientinterface.h>
 
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QQmlApplicationEngine>
@@ -54,6 +56,17 @@ QQuickWindow* openWindow(QQmlApplicationEngine& engine, LoopbackMeasurement* mea
     return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
 }
 
+/// The pages are made after the first frame. Returns false when the window was closed before.
+bool waitForPages(QQuickWindow* window)
+{
+    const auto isComplete = [window] { return window->property("isComplete").toBool(); };
+    QEventLoop loop;
+    QObject::connect(window, SIGNAL(isCompleteChanged()), &loop, SLOT(quit()));
+    if (!isComplete())
+        loop.exec();
+    return isComplete();
+}
+
 int runTour(Tour& tour)
 {
     QObject::connect(
@@ -80,7 +93,7 @@ int runFollower(Follower& follower)
 int runDemo(const DemoOptions& options)
 {
     uiutils::Host host;
-    if (!host.start({options.serviceFolders, options.root, resultServices()}))
+    if (!host.start({options.serviceFolders, options.root, resultServices(), {}, {translationsOf(QStringLiteral("examples"))}}))
         return exitFailed;
     QString error;
     if (!prepareInstrumentRoot(options.root, &error))
@@ -115,11 +128,15 @@ int runDemo(const DemoOptions& options)
         list(Texts::tr("Pictures:"), follower.pictures());
         return exitCode;
     }
+    if (!waitForPages(window))
+        return exitDone;
     auto* const report = window->property("report").value<LoopbackReport*>();
     report->keepFirstSettings();
     auto* const camera = window->property("camera").value<ScreenCamera*>();
     Tour tour(window, &measurement, report, camera, options.root + QStringLiteral("/pictures/"));
     const int exitCode = options.isTour || isOffScreen ? runTour(tour) : QCoreApplication::exec();
+    if (tour.hasUsedScreenKeyboard())
+        say(Texts::tr("Texts were typed on the on-screen keyboard."));
     list(Texts::tr("Reports:"), report->savedFiles());
     list(Texts::tr("Screenshots:"), camera->pictures());
     list(Texts::tr("Pictures:"), tour.pictures());

@@ -9,6 +9,8 @@
 #include <QTouchDevice>
 #include <QTouchEvent>
 
+#include <algorithm>
+
 namespace uiutils::demo {
 
 namespace {
@@ -38,9 +40,14 @@ QQuickItem* findPart(QQuickItem* root, const QString& part)
     QList<QQuickItem*> items;
     collect(root, &items);
     const bool isNumber = part.startsWith(QLatin1Char('#'));
+    const bool isText = part.startsWith(QLatin1Char('='));
     QList<QQuickItem*> matches;
     for (QQuickItem* item : qAsConst(items)) {
-        if (isNumber ? item->inherits("QQuickAbstractButton") : item->objectName() == part)
+        const bool isButton = item->inherits("QQuickAbstractButton");
+        const bool isMatch = isNumber ? isButton
+                : isText              ? isButton && item->property("text").toString() == part.mid(1)
+                                      : item->objectName() == part;
+        if (isMatch)
             matches += item;
     }
     return isNumber ? matches.value(part.mid(1).toInt()) : matches.isEmpty() ? nullptr : matches.constLast();
@@ -78,10 +85,20 @@ QQuickItem* Touch::find(const QString& path) const
     if (!item || !item->isEnabled() || item->width() <= 0)
         return nullptr;
     if (QQuickItem* const area = hidingArea(item)) {
-        QMetaObject::invokeMethod(area, "reveal", Q_ARG(QVariant, QVariant::fromValue(item)));
+        // Lists are dragged by whoever wants a row.
+        if (area->metaObject()->indexOfMethod("reveal(QVariant)") >= 0)
+            QMetaObject::invokeMethod(area, "reveal", Q_ARG(QVariant, QVariant::fromValue(item)));
         return nullptr;
     }
     return QRectF(QPointF(), m_window->size()).contains(placeOf(item).center()) ? item : nullptr;
+}
+
+QQuickItem* Touch::findIf(const std::function<bool(const QQuickItem*)>& isWanted) const
+{
+    QList<QQuickItem*> items;
+    collect(m_window->contentItem(), &items);
+    const auto found = std::find_if(items.crbegin(), items.crend(), isWanted);
+    return found == items.crend() ? nullptr : *found;
 }
 
 void Touch::send(int type, Qt::TouchPointState state) const
@@ -90,19 +107,38 @@ void Touch::send(int type, Qt::TouchPointState state) const
     point.setState(state);
     point.setPos(m_place);
     point.setScenePos(m_place);
-    point.setStartPos(m_place);
-    point.setStartScenePos(m_place);
+    point.setStartPos(m_start);
+    point.setStartScenePos(m_start);
     point.setScreenPos(m_window->mapToGlobal(m_place.toPoint()));
     QTouchEvent event(QEvent::Type(type), screen(), Qt::NoModifier, state, {point});
     event.setWindow(m_window);
     QCoreApplication::sendEvent(m_window, &event);
 }
 
-void Touch::press(QQuickItem* item)
+void Touch::press(QQuickItem* item, double along)
 {
-    m_place = placeOf(item).center();
+    const QRectF place = placeOf(item);
+    m_start = m_place = {place.left() + along * place.width(), place.center().y()};
+    m_parts = 0;
     m_isPressed = true;
     send(QEvent::TouchBegin, Qt::TouchPointPressed);
+}
+
+void Touch::drag(QQuickItem* area, const QPointF& by)
+{
+    constexpr int steps = 8;
+    press(area);
+    m_part = by / steps;
+    m_parts = steps;
+}
+
+void Touch::goOn()
+{
+    if (m_parts == 0)
+        return release();
+    --m_parts;
+    m_place += m_part;
+    send(QEvent::TouchUpdate, Qt::TouchPointMoved);
 }
 
 void Touch::release()

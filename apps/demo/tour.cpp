@@ -1,5 +1,6 @@
 #include "tour.h"
 
+#include "files/diskpath.h"
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
@@ -12,6 +13,8 @@
 #include <kiv/kivclientitem.h>
 #include <kiv/kivnotificationmodelmanager.h>
 
+#include <QDir>
+#include <QFileInfo>
 #include <QQuickItem>
 #include <QVariant>
 
@@ -27,7 +30,8 @@ constexpr int pace = 15;
 /// Time in which any window that is being drawn comes to every step, in milliseconds.
 constexpr int patience = 30 * 1000;
 
-const QString formatSetting = QStringLiteral("reportFormat");
+/// What the tour changes in the settings of the report.
+const char* const changedOwn[] = {"reportFormat", "reportName"};
 const QString otherJob = QStringLiteral("WO-88217");
 const QString otherName = QStringLiteral("Solheim");
 
@@ -49,6 +53,20 @@ const struct
 
 /// Ends when the event loop would have to wait for a service.
 constexpr int serviceTimeout = 500;
+
+/// What a report may be called, as a customer's office would: one that is not there yet, of letters.
+QString freeName(const QString& name, const QString& folder)
+{
+    QString free = name;
+    while (!QDir(folder).entryList({free + QStringLiteral(".*")}).isEmpty())
+        free += QLatin1Char('b');
+    return free;
+}
+
+bool isList(const QQuickItem* item)
+{
+    return item->inherits("QQuickListView");
+}
 
 KIVClientInterface* clientOf(const QString& id)
 {
@@ -85,6 +103,7 @@ Tour::Tour(QQuickWindow* window, LoopbackMeasurement* measurement, LoopbackRepor
     , m_camera(camera)
     , m_folder(pictures)
     , m_touch(window)
+    , m_typist(window, &m_touch)
 {
     m_clock.setInterval(pace);
     connect(&m_clock, &QTimer::timeout, this, &Tour::step);
@@ -163,12 +182,12 @@ void Tour::planRun()
 void Tour::planReport()
 {
     press(QStringLiteral("report"));
-    waitFor(tr("the format of all files"), [this] {
-        KivData* const format = m_report->getSetting(formatSetting);
-        m_formatBefore = format->getValue();
-        format->setValue(int(NSReport::REPORT_FORMAT_ALL));
-        return true;
+    type(QStringLiteral("nameEntry/field"),
+            freeName(QStringLiteral("lindhof"), QFileInfo(diskPath(m_report->getReportFilePath())).path()));
+    choose(QStringLiteral("formatEntry/box"), [this] {
+        return m_report->getSetting(QStringLiteral("reportFormat"))->enumLabelForValue(NSReport::REPORT_FORMAT_ALL);
     });
+    waitFor(tr("the format of all files"), [this] { return m_report->isAll(); });
     picture(QStringLiteral("10-report"));
     press(QStringLiteral("previewButton"));
     waitFor(tr("the pages of the preview"), [this] {
@@ -223,24 +242,39 @@ void Tour::planRest()
     picture(QStringLiteral("19-desk"));
 }
 
-void Tour::press(const QString& name)
+void Tour::press(const QString& name, double along)
 {
-    m_steps.enqueue({tr("\"%1\" can be pressed").arg(name), [this, name] {
+    m_steps.enqueue({tr("\"%1\" can be pressed").arg(name), [this, name, along] {
                          QQuickItem* const item = isAnyDialogOpen() ? nullptr : m_touch.find(name);
                          if (item)
-                             m_touch.press(item);
+                             m_touch.press(item, along);
                          return item != nullptr;
                      }});
 }
 
 void Tour::type(const QString& field, const QString& text)
 {
-    press(field);
-    m_steps.enqueue({tr("\"%1\" is typed").arg(text), [this, text] {
-                         m_touch.type(text);
-                         m_touch.key(Qt::Key_Return);
-                         return true;
-                     }});
+    // The cursor is to be behind what is there.
+    constexpr double end = 0.95;
+    press(field, end);
+    waitFor(tr("\"%1\" is typed").arg(text), [this, text] { return m_typist.type(text); });
+}
+
+/// Rows that are not in sight are dragged there.
+void Tour::choose(const QString& entry, const std::function<QString()>& choice)
+{
+    press(entry);
+    waitFor(tr("\"%1\" can be pressed").arg(entry), [this, choice] {
+        QQuickItem* const list = m_touch.findIf(isList);
+        if (!list || list->property("moving").toBool())
+            return false;
+        QQuickItem* const row = m_touch.find(QLatin1Char('=') + choice());
+        if (row)
+            m_touch.press(row);
+        else
+            m_touch.drag(list, {0, -list->height() / 3});
+        return row != nullptr;
+    });
 }
 
 void Tour::waitFor(const QString& what, const std::function<bool()>& condition)
@@ -285,7 +319,7 @@ bool Tour::keepPicture(const QString& path, const QSharedPointer<QQuickItemGrabR
 void Tour::step()
 {
     if (m_touch.isPressed()) {
-        m_touch.release();
+        m_touch.goOn();
         return;
     }
     if (m_isOver)
@@ -310,6 +344,8 @@ void Tour::remember()
         if (const KIVClientItem* const item = itemOf(QLatin1String(id)))
             m_before.insert(QLatin1String(id), item->getValue());
     }
+    for (const char* name : changedOwn)
+        m_ownBefore.insert(QLatin1String(name), m_report->getSetting(QLatin1String(name))->getValue());
     for (const auto& job : jobValues) {
         if (const KIVClientItem* const item = itemOf(QLatin1String(job.value)))
             m_before.insert(QLatin1String(job.value), item->getValue());
@@ -319,10 +355,11 @@ void Tour::remember()
 /// The tour is the user's guest.
 void Tour::restore()
 {
-    if (m_formatBefore.isValid()) {
-        m_report->getSetting(formatSetting)->setValue(std::exchange(m_formatBefore, {}));
+    const QMap<QString, QVariant> own = std::exchange(m_ownBefore, {});
+    for (auto it = own.cbegin(); it != own.cend(); ++it)
+        m_report->getSetting(it.key())->setValue(it.value());
+    if (!own.isEmpty())
         m_report->keepSettings();
-    }
     const QMap<QString, QVariant> before = std::exchange(m_before, {});
     for (const char* id : changedSettings) {
         const auto value = before.constFind(QLatin1String(id));

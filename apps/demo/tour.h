@@ -1,6 +1,7 @@
 #pragma once
 
 #include "touch.h"
+#include "typist.h"
 
 #include <QMap>
 #include <QObject>
@@ -36,6 +37,9 @@ public:
     /// The pictures written up to now.
     QStringList pictures() const { return m_pictures; }
 
+    /// Whether the on-screen keyboard served.
+    bool hasUsedScreenKeyboard() const { return m_typist.hasUsedScreen(); }
+
     void start();
 
 Q_SIGNALS:
@@ -57,8 +61,9 @@ private:
     void planRun();
     void planReport();
     void planRest();
-    void press(const QString& name);
+    void press(const QString& name, double along = 0.5);
     void type(const QString& field, const QString& text);
+    void choose(const QString& entry, const std::function<QString()>& choice);
     void waitFor(const QString& what, const std::function<bool()>& condition);
     void picture(const QString& name);
     void step();
@@ -73,11 +78,13 @@ private:
     ScreenCamera* const m_camera;
     const QString m_folder;
     Touch m_touch;
+    Typist m_typist;
     QStringList m_pictures;
     QQueue<Step> m_steps;
     /// The services' settings before the tour, by their ids.
     QMap<QString, QVariant> m_before;
-    QVariant m_formatBefore;
+    /// The report's own, by their names.
+    QMap<QString, QVariant> m_ownBefore;
     /// Tries the first of the steps.
     QTimer m_clock;
     /// Runs out when a step cannot be done.

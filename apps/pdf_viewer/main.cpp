@@ -1,4 +1,5 @@
 #include "inputplugins.h"
+#include "language.h"
 #include "options.h"
 #include "processlimits.h"
 #include "texts.h"
@@ -110,6 +111,9 @@ int main(int argc, char** argv)
     const apps::DisplaySetup display;
     QtArguments arguments(argv[0], viewer::usablePlugins(options.plugins, qgetenv("QT_QPA_PLATFORM")));
     const QGuiApplication application(arguments.count(), arguments.values());
+    const viewer::Language language(options.language);
+    if (!language.isKnown())
+        return complain(viewer::Texts::tr("There is no language \"%1\".").arg(options.language));
     // A window that nobody can see would never be closed.
     if (!isPlatformGiven && apps::DisplaySetup::isOffScreen()) {
         return complain(viewer::Texts::tr(

@@ -56,7 +56,10 @@ Options readOptions(const QStringList& arguments)
             Texts::tr("Use the input plug-in <name:device>; may be given more than once. Has no effect if a window "
                       "system provides the input or the device does not exist."),
             Texts::tr("name:device"));
-    parser.addOptions({density, fullScreen, title, plugin});
+    const QCommandLineOption language(QStringLiteral("language"),
+            Texts::tr("Speak the language of that code, such as \"de\" (default: that of the environment)."),
+            Texts::tr("code"));
+    parser.addOptions({density, fullScreen, title, plugin, language});
 
     const apps::CommandLine line = apps::parse(parser, arguments);
     if (line.outcome != apps::CommandLine::Run)
@@ -72,6 +75,7 @@ Options readOptions(const QStringList& arguments)
         return misused(Texts::tr("--dpy needs a number from 1 to %1.").arg(mostDotsPerInch));
     options.file = files.constFirst();
     options.title = titleOf(parser.value(title), options.file);
+    options.language = parser.value(language);
     options.isFullScreen = parser.isSet(fullScreen);
     options.plugins = parser.values(plugin);
     return options;

@@ -14,6 +14,8 @@ struct Options : apps::CommandLine
     QString file;
     /// The title of the window: never empty.
     QString title;
+    /// The code of the language; empty for that of the environment.
+    QString language;
     /// Dots per inch of the screen.
     int dotsPerInch = 85;
     /// Full screen, unless a window system arranges windows.

@@ -3,6 +3,7 @@
 #include "pageaudit.h"
 #include "pagereload.h"
 #include "pagetest.h"
+#include "pagetranslations.h"
 #include "pagewindow.h"
 #include "replaydesk.h"
 #include "steppedtime.h"
@@ -163,8 +164,12 @@ int main(int argc, char** argv)
     const apps::DisplaySetup display;
     apps::DisplaySetup::offerScreenKeyboard();
     const QGuiApplication application(argc, argv);
+    const qmltool::PageTranslations translations(options.page);
+    const QStringList problems = translations.problems();
+    for (const QString& problem : problems)
+        complain(problem);
     Surroundings around;
-    HostSetup setup {options.serviceFolders, options.root};
+    HostSetup setup {options.serviceFolders, options.root, {}, {}, translations.folders()};
     if (!surround(options, &around, &setup))
         return exitFailed;
     Host host;

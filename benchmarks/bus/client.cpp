@@ -3,6 +3,7 @@
 #include "benchmarks/memory.h"
 #include "benchmarks/timing.h"
 #include "commands.h"
+#include "ownrecording.h"
 #include "page.h"
 #include "roles.h"
 #include "settling.h"
@@ -99,6 +100,16 @@ void Client::settle(int changes) const
             [this, changes] { return m_page->isSettled(changes); });
 }
 
+void Client::record(bool isCompressed)
+{
+    m_recording = std::make_unique<OwnRecording>(m_client, isCompressed);
+}
+
+bool Client::hasRecorded(int loads)
+{
+    return m_recording->isComplete(loads);
+}
+
 int clientRole()
 {
     Client client;
@@ -115,6 +126,15 @@ int clientRole()
                     }},
             {QStringLiteral("cpu"), [](const QVector<int>&) { answer({cpuMilliseconds()}); }},
             {QStringLiteral("settle"), [&client](const QVector<int>& arguments) { client.settle(arguments.at(0)); }},
+            {QStringLiteral("record"),
+                    [&client](const QVector<int>& arguments) {
+                        client.record(arguments.at(0) != 0);
+                        answer({});
+                    }},
+            {QStringLiteral("recorded"),
+                    [&client](const QVector<int>& arguments) {
+                        answer({double(client.hasRecorded(arguments.at(0)))});
+                    }},
             {QStringLiteral("start"), [](const QVector<int>&) { answerStart(); }},
             {QStringLiteral("memory"), [](const QVector<int>&) { answerMemory(); }},
     });

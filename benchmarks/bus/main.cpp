@@ -44,8 +44,8 @@ int main(int argc, char** argv)
 
     const bench::Options options = bench::readOptions(
             QStringLiteral("Measures services on a bus of their own against QtDBus, each in a process of its own."),
-            {{"latency", bench::latencyCases}, {"load", bench::loadCases}, {"start", bench::startCases},
-                    {"memory", bench::memoryCases}});
+            {{"latency", bench::latencyCases}, {"load", bench::loadCases}, {"record", bench::recordCases},
+                    {"start", bench::startCases}, {"memory", bench::memoryCases}});
     const bench::PrivateBus bus;
     return bench::measureRooms(options);
 }

@@ -9,7 +9,8 @@ namespace bench {
 int publisherRole();
 /// A program with a page over it: "page N FIRST STEP", bound to every STEPth of N items; "watch I", which answers with
 /// the microseconds of each change of that item; "cpu"; "settle N", which answers with the CPU time when N changes have
-/// arrived and whether all values are right; "start"; "memory".
+/// arrived and whether all values are right; "record C", compressed or not, from now on; "recorded N", which answers
+/// whether the recording has the changes of N loads; "start"; "memory".
 int clientRole();
 /// The same items in a process of their own: "memory".
 int embeddedRole();

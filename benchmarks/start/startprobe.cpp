@@ -1,6 +1,8 @@
-// A plug-in for any program with a window: QT_QPA_GENERIC_PLUGINS=startprobe. When the first frame is on the screen it says
-// what the program has cost, and ends it. A program with a function showPage(index) in its window is asked for the pages
-// 0 to n - 1 of STARTPROBE_PAGES, twice each; then the plug-in says how long the second showing took.
+// A plug-in for any program with a window: QT_QPA_GENERIC_PLUGINS=startprobe. When the first frame is on the screen it
+// says what the program has cost, says so again when the frame is there that shows the whole first page, and ends the
+// program (with STARTPROBE_UNTIL=first, after the first frame). A window without a property isComplete shows everything
+// in its first frame. A program with a function showPage(index) in its window is asked for the pages 0 to n - 1 of
+// STARTPROBE_PAGES, twice each; then the plug-in says how long the second showing took.
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -11,6 +13,7 @@
 
 #include <cstdio>
 #include <ctime>
+#include <utility>
 
 #include <unistd.h>
 
@@ -23,15 +26,26 @@ double milliseconds(clockid_t clock)
     return double(time.tv_sec) * 1000 + double(time.tv_nsec) / 1e6;
 }
 
-/// Kilobytes of this process that the kernel reports under that name.
-int memory(const char* name)
+/// A moment of the process.
+struct Cost
+{
+    double time = milliseconds(CLOCK_MONOTONIC);
+    double cpu = milliseconds(CLOCK_PROCESS_CPUTIME_ID);
+};
+
+QByteArray memory()
 {
     QFile file(QStringLiteral("/proc/self/smaps_rollup"));
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    const QRegularExpression line(QLatin1String("^") + QLatin1String(name) + QLatin1String(": +(\\d+)"),
-            QRegularExpression::MultilineOption);
-    return line.match(QString::fromLatin1(file.readAll())).captured(1).toInt();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Kilobytes that the kernel reports under that name.
+int numberIn(const QByteArray& memory, const char* name)
+{
+    const QRegularExpression line(
+            QLatin1String("^") + QLatin1String(name) + QLatin1String(": +(\\d+)"), QRegularExpression::MultilineOption);
+    const QString number = line.match(QString::fromLatin1(memory)).captured(1);
+    return number.isEmpty() ? -1 : number.toInt();
 }
 
 class StartProbe : public QObject
@@ -58,9 +72,17 @@ public:
 private:
     void frameShown()
     {
-        if (m_step < 0) {
-            std::printf("first %.3f %.3f %d %d\n", milliseconds(CLOCK_MONOTONIC), milliseconds(CLOCK_PROCESS_CPUTIME_ID),
-                    memory("Private_Dirty"), memory("Rss"));
+        if (!std::exchange(m_isShown, true)) {
+            say("first");
+            if (qEnvironmentVariable("STARTPROBE_UNTIL") == QLatin1String("first"))
+                ::_exit(0);
+        }
+        if (!m_isComplete) {
+            const QVariant isComplete = m_window->property("isComplete");
+            m_isComplete = !isComplete.isValid() || isComplete.toBool();
+            if (!m_isComplete)
+                return;
+            say("complete");
         } else if (m_step >= m_steps / 2) {
             std::printf("page %d %.3f %.3f\n", m_step % (m_steps / 2), double(m_time.nsecsElapsed()) / 1e6,
                     milliseconds(CLOCK_PROCESS_CPUTIME_ID) - m_cpu);
@@ -70,6 +92,18 @@ private:
         if (m_step >= m_steps)
             ::_exit(0);
         QMetaObject::invokeMethod(this, &StartProbe::showNext, Qt::QueuedConnection);
+    }
+
+    /// What the process has cost until now, without what this has cost.
+    void say(const char* what)
+    {
+        const Cost now;
+        const QByteArray used = memory();
+        std::printf("%s %.3f %.3f %d %d\n", what, now.time - m_own.time, now.cpu - m_own.cpu,
+                numberIn(used, "Private_Dirty"), numberIn(used, "Rss"));
+        std::fflush(stdout);
+        const Cost after;
+        m_own = {m_own.time + after.time - now.time, m_own.cpu + after.cpu - now.cpu};
     }
 
     void showNext()
@@ -83,6 +117,9 @@ private:
 
     QQuickWindow* m_window = nullptr;
     const int m_steps;
+    Cost m_own {0, 0};
+    bool m_isShown = false;
+    bool m_isComplete = false;
     int m_step = -1;
     double m_cpu = 0;
     QElapsedTimer m_time;

@@ -30,7 +30,8 @@ struct HostSetup
     /// The names of the services of a platform that does not describe them: an instrument's, or a back end that the
     /// application has made the current one. If there are any, KIV_PLATFORM and `serviceFolders` are not used.
     QStringList services = {};
-    /// Further folders of translations, see Host::start(). Those of a later folder have precedence.
+    /// Folders with translations of the application, "NAME_LANGUAGE.qm" with any NAME. Those of a later folder have
+    /// precedence. A resource, such as ":/translations", is a folder, too.
     QStringList translationFolders = {};
 };
 
@@ -53,7 +54,7 @@ public:
     /// - The environment variable UIUTILS_ROOT becomes the root of the setup.
     /// - The language that suits the default QLocale best is chosen. Its translations are "uiutils_LANGUAGE.qm" and
     ///   "APPLICATION_LANGUAGE.qm", with the name of the application, from the installed folder
-    ///   share/uiutils/translations and from those of the setup.
+    ///   share/uiutils/translations, and all "NAME_LANGUAGE.qm" from the folders of the setup.
     /// - KIV_PLATFORM chooses the services. "embedded", the default: the described services live in this process.
     ///   "bus": those of other processes are used, on the bus that KIV_BUS names, and only the application's own ones
     ///   are published there. The bus is asked to start what it can, for at most three seconds; later services are

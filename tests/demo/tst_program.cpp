@@ -2,6 +2,7 @@
 #include "files.h"
 
 #include <QImage>
+#include <QLibraryInfo>
 #include <QStandardPaths>
 
 namespace {
@@ -77,18 +78,32 @@ private Q_SLOTS:
         QVERIFY(m_folder->isValid());
     }
 
+    void tour_data()
+    {
+        addColumns<QByteArray>();
+        QTest::newRow("keys") << QByteArray("none");
+        QTest::newRow("on-screen keyboard") << QByteArray("qtvirtualkeyboard");
+    }
+
+    /// What is typed is the same, wherever the keyboard is.
     void tour()
     {
+        const auto [keyboard] = currentRow<QByteArray>();
+        const bool isOnScreen = keyboard != "none";
+        if (isOnScreen && !QFile::exists(QLibraryInfo::location(QLibraryInfo::PluginsPath) + "/platforminputcontexts/libqtvirtualkeyboardplugin.so"))
+            QSKIP("Qt Virtual Keyboard is not installed");
         // Numbers of three digits must be in order, too.
         const int samples = 100;
         const QString root = m_folder->filePath("a new/root");
-        const Outcome outcome = runDemo({"--tour", "--root", root, "--samples", QString::number(samples)});
+        const Outcome outcome = runDemo({"--tour", "--root", root, "--samples", QString::number(samples)}, {{"QT_IM_MODULE", keyboard}});
         QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
         QCOMPARE(complaints(outcome), QString());
+        QCOMPARE(outcome.output.contains("Texts were typed on the on-screen keyboard."), isOnScreen);
 
         const QStringList reports = filesBelow(root + "/cust/public/reports");
         const QStringList pictures = filesBelow(root + "/pictures");
         QCOMPARE(reports.size(), 5);
+        QCOMPARE(QFileInfo(reports.constFirst()).fileName(), QString("lindhof.html"));
         QCOMPARE(pictures.size(), 19);
         const QStringList screenshots = filesBelow(root + "/cust/public/screenshots");
         QCOMPARE(screenshots.size(), 1);
@@ -98,6 +113,30 @@ private Q_SLOTS:
         checkPages(reports.at(2));
         for (const QString& picture : pictures + screenshots)
             checkPicture(picture);
+    }
+
+    /// The results of a program that was killed are kept until they are saved, and no longer.
+    void killed_data()
+    {
+        addColumns<QString, bool>();
+        QTest::newRow("measured") << QString("07-measured") << true;
+        QTest::newRow("saved") << QString("12-question") << false;
+    }
+    void killed()
+    {
+        const auto [picture, isKept] = currentRow<QString, bool>();
+        const QString root = m_folder->filePath("root");
+        QProcess demo;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove("DISPLAY");
+        demo.setProcessEnvironment(environment);
+        demo.start(UIUTILS_DEMO_PROGRAM, {"--tour", "--root", root});
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(root + "/pictures/" + picture + ".png"), 60000);
+        demo.kill();
+        QVERIFY(demo.waitForFinished());
+        const QStringList kept = filesBelow(root + "/cust/private/drafts").filter(".draft");
+        QCOMPARE(kept.size(), isKept ? 1 : 0);
+        QCOMPARE(filesBelow(root + "/cust/public/reports").size(), isKept ? 0 : 5);
     }
 
     /// Without a display, or with one that does not answer, the tour starts without being requested.

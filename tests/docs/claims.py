@@ -91,12 +91,12 @@ def linked(path):
 
 def check_links(tree):
     rows = tree.table("README.md", "| library or program | links |")
-    built = set(PROGRAMS) | {"libuiutilsplugin.so", "libuiutilsplotplugin.so", "libuiutilspreviewplugin.so", "libuiutilsfonts.so", "libuiutilspdf.so", "libkivschema.so"}
+    built = set(PROGRAMS) | {"libuiutilsplugin.so", "libuiutilscontrolsplugin.so", "libuiutilsplotplugin.so", "libuiutilspreviewplugin.so", "libuiutilsbus.so", "libuiutilsfonts.so", "libuiutilspdf.so", "libkivschema.so"}
     built |= {name for name in os.listdir(os.path.join(tree.build, "lib")) if re.fullmatch(r"lib\w+\.so\.\d+", name)}
     yield from differences("README.md: what links", [name for cells in rows for name in quoted(cells[0])], built)
     for cells in rows:
         for name in quoted(cells[0]):
-            path = next((os.path.join(tree.build, place, name) for place in ("lib", "lib/kiv", "lib/uiutils", "bin", "qml/UiUtils", "qml/UiUtils/Plot", "qml/UiUtils/Preview")
+            path = next((os.path.join(tree.build, place, name) for place in ("lib", "lib/kiv", "lib/uiutils", "bin", "qml/UiUtils", "qml/UiUtils/Controls", "qml/UiUtils/Plot", "qml/UiUtils/Preview")
                          if os.path.exists(os.path.join(tree.build, place, name))), None)
             if not path:
                 continue

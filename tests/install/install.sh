@@ -99,8 +99,7 @@ sed -n 's/.* \([A-Za-z]*\.qml\)$/\1/p' "$controls/qmldir" | while read -r file; 
     test -s "$controls/$file"
 done
 test -s "$controls/ItemEntry.qml"
-test -s "$controls/icons/back.png"
-test -s "$controls/icons/small/back.png"
+test -s "$controls/libuiutilscontrolsplugin.so"
 if LD_LIBRARY_PATH='' ldd "$plugin" | grep 'libuiutils\|libkiv' | grep -v " => $plain/"; then
     echo "the QML module does not find its library" >&2
     exit 1
@@ -109,6 +108,10 @@ if [ -x "$plain/bin/uiutils-qml" ]; then
     "$plain/bin/uiutils-qml" --root "$plain/root" --list | grep '^basemgr_cfg_saveLocation' >/dev/null
     # ... and its translations.
     "$plain/bin/uiutils-qml" --root "$plain/root" --language de --list | grep '^basemgr_cfg_saveLocation.*Intern$' >/dev/null
+    # ... and what it loads for services on a bus, though there is no bus.
+    if KIV_PLATFORM=bus "$plain/bin/uiutils-qml" --root "$plain/root" --list 2>&1 | grep libuiutilsbus; then
+        exit 1
+    fi
 fi
 for schema in report-document service-file; do
     cmp "$here/../../docs/$schema.schema.json" "$plain/share/uiutils/schemas/$schema.schema.json"

@@ -1,5 +1,6 @@
 #include "columns.h"
 
+#include "language.h"
 #include "pageitem.h"
 #include "viewerdocument.h"
 #include "viewersamples.h"
@@ -182,6 +183,38 @@ private Q_SLOTS:
         QVERIFY(zoom() > before);
         QTest::keyClick(m_window, Qt::Key_Escape);
         QTRY_VERIFY(!m_window->isVisible());
+    }
+
+    /// The bar and the notes in the language, from right to left where it is written so; pages are the same in every one.
+    void speaks_data()
+    {
+        addColumns<QString, QString, bool>();
+        QTest::newRow("German") << "de" << "Seite 1 von 3" << false;
+        QTest::newRow("right to left") << "ar" << QString::fromUtf8(u8"الصفحة 1 من 3") << true;
+        QTest::newRow("unknown") << "xx" << "Page 1 of 3" << false;
+    }
+    void speaks()
+    {
+        const auto [code, words, isMirrored] = currentRow<QString, QString, bool>();
+        const QLocale locale;
+        {
+            const Language language(code);
+            QCOMPARE(language.isKnown(), code != "xx");
+            show(samples::barred(3));
+            QTRY_VERIFY(isSharp(0));
+            QCOMPARE(text("pageText"), words);
+            const auto left = [this](const char* name) { return m_window->findChild<QQuickItem*>(name)->mapToScene({}).x(); };
+            QCOMPARE(left("closeButton") < left("nextButton"), isMirrored);
+            QCOMPARE(left("nextButton") < left("previousButton"), isMirrored);
+            QCOMPARE(text("previousButton"), QString::fromUtf8(isMirrored ? u8"›" : u8"‹"));
+            QCOMPARE(colorAt(0, 0.5, 0.05), QColor(Qt::black));
+            click("nextButton");
+            QTRY_VERIFY(isSharp(1));
+            QCOMPARE(colorAt(1, 0.5, 0.15), QColor(Qt::black));
+            m_engine.reset();
+        }
+        QLocale::setDefault(locale);
+        QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
     }
 
     /// Two fingers move apart: what is between them grows and stays in place.

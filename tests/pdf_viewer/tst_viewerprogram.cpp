@@ -9,11 +9,12 @@ class ViewerProgramTest : public QObject
     Q_OBJECT
 
 private:
-    void start(const QStringList& arguments, const QByteArray& platform)
+    void start(const QStringList& arguments, const QByteArray& platform, const QByteArray& language = {})
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
             environment.remove(name);
+        environment.insert("LANGUAGE", language);
         if (!platform.isEmpty())
             environment.insert("QT_QPA_PLATFORM", platform);
         m_viewer.setProcessEnvironment(environment);
@@ -32,18 +33,22 @@ private Q_SLOTS:
 
     void endings_data()
     {
-        addColumns<QStringList, int, QString>();
-        QTest::newRow("help") << QStringList {"--help"} << 0 << "--dpy";
-        QTest::newRow("wrong command line") << QStringList {"--dpy", "0", "a.pdf"} << 2 << "--dpy needs a number";
-        QTest::newRow("nobody could see it") << QStringList {"a.pdf"} << 1 << "There is no display to show a.pdf on.";
+        addColumns<QStringList, int, QString, QByteArray>();
+        const QString german = QString::fromUtf8(u8"Es gibt keine Anzeige für a.pdf.");
+        QTest::newRow("help") << QStringList {"--help"} << 0 << "--dpy" << QByteArray();
+        QTest::newRow("wrong command line") << QStringList {"--dpy", "0", "a.pdf"} << 2 << "--dpy needs a number" << QByteArray();
+        QTest::newRow("no such language") << QStringList {"--language", "xx", "a.pdf"} << 1 << "There is no language \"xx\"." << QByteArray();
+        QTest::newRow("in German") << QStringList {"--language", "de", "a.pdf"} << 1 << german << QByteArray("fr");
+        QTest::newRow("in the language of the environment") << QStringList {"a.pdf"} << 1 << german << QByteArray("de:fr");
+        QTest::newRow("nobody could see it") << QStringList {"a.pdf"} << 1 << "There is no display to show a.pdf on." << QByteArray();
     }
     void endings()
     {
-        const auto [arguments, exitCode, words] = currentRow<QStringList, int, QString>();
-        start(arguments, {});
+        const auto [arguments, exitCode, words, language] = currentRow<QStringList, int, QString, QByteArray>();
+        start(arguments, {}, language);
         QVERIFY(m_viewer.waitForFinished());
         QCOMPARE(m_viewer.exitCode(), exitCode);
-        const QString told = m_viewer.exitCode() == 0 ? m_viewer.readAllStandardOutput() : m_viewer.readAllStandardError();
+        const QString told = QString::fromUtf8(m_viewer.exitCode() == 0 ? m_viewer.readAllStandardOutput() : m_viewer.readAllStandardError());
         QVERIFY2(told.contains(words), qPrintable(told));
     }
 

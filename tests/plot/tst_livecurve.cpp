@@ -1,5 +1,6 @@
 #include "axisview.h"
 #include "curvetrace.h"
+#include "writers/plots/axisscale_p.h"
 
 #include <QtMath>
 #include <QtTest>
@@ -52,7 +53,9 @@ class LiveCurveTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void everyColumnHasItsExtremes_data();
     void everyColumnHasItsExtremes();
+    void edges();
     void appendedAsReplaced();
     void gapsStayGaps();
     void brokenData_data();
@@ -63,15 +66,26 @@ private Q_SLOTS:
     void views();
 };
 
+void LiveCurveTest::everyColumnHasItsExtremes_data()
+{
+    QTest::addColumn<bool>("isReversed");
+    QTest::newRow("from left to right") << false;
+    QTest::newRow("from right to left") << true;
+}
+
 /// Against a walk over all points, in windows that begin and end anywhere in a block.
 void LiveCurveTest::everyColumnHasItsExtremes()
 {
+    QFETCH(bool, isReversed);
     std::mt19937 random(7);
     const int count = 40000, columns = 97;
     QVector<QPointF> points;
     for (int i = 0; i < count; ++i)
         points += i % 512 == 1 ? QPointF(none, 1) : QPointF(i, random() % 2000 == 0 ? 5.0 - random() % 11 : 0.001 * (random() % 1000));
+    if (isReversed)
+        std::reverse(points.begin(), points.end());
     const Curve curve(points);
+    QCOMPARE(curve.store.isAscending(), !isReversed);
     const AxisView y({-10, 10}, false);
     for (const Interval window : {Interval {0, count - 1.0}, {63, 64 * 65}, {1000.5, 38999.5}, {-5000, 5000}, {20000, 20300}}) {
         const AxisView x(window, false);
@@ -94,10 +108,33 @@ void LiveCurveTest::everyColumnHasItsExtremes()
         QVERIFY(most > columns / 3);
         QVERIFY(allPoints(curve.trace(x, y, columns)).size() < 12 * columns);
     }
+}
+
+void LiveCurveTest::edges()
+{
+    const int columns = 10;
     // Lines lead to points beyond the window.
     const CurveTrace between = Curve({{0, 0}, {10, 10}}).trace(AxisView({4, 6}, false), AxisView({0, 10}, false), columns);
     QCOMPARE(between.lines.size(), 1);
     QVERIFY(between.lines.at(0).points == QVector<QPointF>({{0, 0.4}, {1, 0.6}}));
+    // Of many points on the right edge, all count; so does a curve along an edge that is rounded.
+    QVector<QPointF> wall;
+    for (int i = 0; i < 300; ++i)
+        wall += QPointF(10, i == 200 ? 9 : 1);
+    const CurveTrace right = Curve(wall, {{CurveBound::Upper, {{0, 8}}, Status::Fail, {}}}).trace(AxisView({0, 10}, false), AxisView({0, 10}, false), columns);
+    QVERIFY(allPoints(right).contains({1, 0.9}));
+    const AxisView rounded({0, 1.001 - 1e-15}, false);
+    QCOMPARE(Curve({{0, 1.001}, {10, 1.001}}).trace(AxisView({0, 10}, false), rounded, columns).lines.size(), 1);
+    QCOMPARE(Curve({{5, 1.001}}).trace(AxisView({0, 10}, false), rounded, columns).dots.size(), 1);
+    // What goes on beyond the window is no line along its edge.
+    const CurveTrace away = Curve({{0.001, 0.1}, {-5, 5}, {0.002, 9}, {10, 9}, {9, 9}}).trace(AxisView({0, 10}, false), AxisView({0, 10}, false), columns);
+    for (const TracePart& part : away.lines) {
+        for (int i = 1; i < part.points.size(); ++i)
+            QVERIFY(qAbs(part.points.at(i).y() - part.points.at(i - 1).y()) < 0.1);
+    }
+    // A gap at the beginning is left of everything.
+    const Curve late({{none, 1}, {-5, 1}, {-4, 2}});
+    QVERIFY(late.store.isAscending() && late.store.xExtent().low == -5);
 }
 
 void LiveCurveTest::appendedAsReplaced()
@@ -144,7 +181,18 @@ void LiveCurveTest::gapsStayGaps()
     QVector<QPointF> many;
     for (int i = 0; i < 100000; ++i)
         many += QPointF(i, i == 50530 ? none : i % 3);
-    QCOMPARE(Curve(many).trace(AxisView({0, 99999}, false), AxisView({0, 3}, false), 100).lines.size(), 2);
+    for (int order = 0; order < 2; ++order) {
+        QCOMPARE(Curve(many).trace(AxisView({0, 99999}, false), AxisView({0, 3}, false), 100).lines.size(), 2);
+        std::reverse(many.begin(), many.end());
+    }
+    // A long one after more short ones than a column shows.
+    for (const int density : {1, 100}) {
+        QVector<QPointF> flicker;
+        for (int i = 0; i < 4000 * density; ++i)
+            flicker += QPointF(i, i < 1000 * density ? (i % 3 ? 1 : none) : i < 3000 * density ? none : 1);
+        for (const TracePart& part : Curve(flicker).trace(AxisView({0, 4000.0 * density}, false), AxisView({0, 3}, false), 40).lines)
+            QVERIFY(part.points.constFirst().x() > 0.7 || part.points.constLast().x() < 0.3);
+    }
     // A point between gaps is a dot.
     const Curve lonely({{0, 0}, {0.2, none}, {0.5, 0.5}, {0.6, none}, {1, 1}});
     const CurveTrace trace = lonely.trace(AxisView({0, 1}, false), AxisView({0, 1}, false), 10);
@@ -228,14 +276,18 @@ void LiveCurveTest::noFailureIsLost()
         points += QPointF(i, i % 2);
     points[50000].setY(9);
     points[50003].setY(6);
+    QVector<QPointF> reversed = points;
+    std::reverse(reversed.begin(), reversed.end());
     const CurveBound mask {CurveBound::Upper, {{0, 10}, {50001, 10}, {50001.5, 5}, {50004, 5}, {50004.5, 10}, {99999, 10}}, Status::Fail, QString()};
-    const Curve curve(points, {mask});
-    QCOMPARE(int(curve.verdicts.worst()), int(Status::Fail));
-    const AxisView x({0, 99999}, false), y({0, 12}, false);
-    const CurveTrace trace = curve.trace(x, y, 100);
-    QCOMPARE(trace.dots.size(), 1);
-    QCOMPARE(trace.dots.at(0).status, Status::Fail);
-    QCOMPARE(trace.dots.at(0).points, QVector<QPointF>({{x.position(50003), 0.5}}));
+    for (const QVector<QPointF>& order : {points, reversed}) {
+        const Curve curve(order, {mask});
+        QCOMPARE(int(curve.verdicts.worst()), int(Status::Fail));
+        const AxisView x({0, 99999}, false), y({0, 12}, false);
+        const CurveTrace trace = curve.trace(x, y, 100);
+        QCOMPARE(trace.dots.size(), 1);
+        QCOMPARE(trace.dots.at(0).status, Status::Fail);
+        QCOMPARE(trace.dots.at(0).points, QVector<QPointF>({{x.position(50003), 0.5}}));
+    }
     // Along a logarithmic axis, the straight line that is seen counts: 10 in the middle of 1 and 100.
     const CurveBound slope {CurveBound::Upper, {{1, 1}, {100, 100}}, Status::Fail, QString()};
     QCOMPARE(CurveJudge({slope}, true, true).status({10, 11}), Status::Fail);
@@ -256,6 +308,9 @@ void LiveCurveTest::views()
     for (int i = 0; i < 200; ++i)
         view = view.zoomed(10, 0.5);
     QVERIFY(view.high() > view.low() && view.low() >= 1e9 && view.high() <= 1e9 + 1);
+    // However near, the scale is that of what is shown.
+    QCOMPARE(AxisScale(view.values(), AxisScale::Linear, AxisScale::AtData, 5).low(), view.low());
+    QVERIFY(AxisView({-5, 50}, true).low() > 1e-3);
     for (int i = 0; i < 1000; ++i)
         view = view.zoomed(0.1, 0.5);
     QVERIFY(std::isfinite(view.high() - view.low()));

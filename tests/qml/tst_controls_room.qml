@@ -16,9 +16,11 @@ Item {
         Window {
             property alias entry: loader.item
             property alias place: loader
+            property alias elsewhere: elsewhere
             property Component kind
             visible: true
             Loader { id: loader; width: 300; sourceComponent: kind }
+            Item { id: elsewhere }
         }
     }
     Component { id: levelComponent; NumberEntry { label: "Level"; unit: "dB"; minimum: -10; value: 3 } }
@@ -29,6 +31,20 @@ Item {
     Component {
         id: choiceComponent
         ChoiceEntry { value: 1; choices: Array.from("abcdefghijklmn").map((label, i) => ({ label: label, value: i })) }
+    }
+    Component { id: formAddressComponent; Ipv4Entry { value: "192.0.2.1" } }
+    Component {
+        id: scrolledComponent
+        Flickable {
+            width: 120
+            height: 200
+            contentHeight: 900
+            clip: true
+            Column {
+                Ipv4Entry { width: 120; value: "192.0.2.1" }
+                Ipv4Entry { objectName: "second"; width: 120; value: "192.0.2.1" }
+            }
+        }
     }
     Component {
         id: formComponent
@@ -142,7 +158,64 @@ Item {
             waitForRendering(form)
             compare(form.second.y, before)
             if (row.words)
-                compare(findAll(form.first, "noteText").filter(text => text.visible && !text.truncated).map(text => text.text), [row.words])
+                compare(findChild(findChild(form.first, "noteSheet").contentItem, "noteText").text, row.words)
+        }
+
+        // Words that need room are beside their field wherever it is, also in what scrolls and under what follows.
+        function test_longWordsLeaveTheField_data() {
+            return [{ tag: "top", y: 0 }, { tag: "middle", y: 200 }, { tag: "bottom", y: 480 - 68 }]
+        }
+        function test_longWordsLeaveTheField(row) {
+            const window = createTemporaryObject(screenComponent, root, { width: 800, height: 480, kind: formAddressComponent })
+            window.place.width = 120
+            window.place.y = row.y
+            window.requestActivate()
+            tryVerify(() => window.active)
+            const entry = window.entry
+            const field = fieldOf(entry)
+            field.forceActiveFocus()
+            field.text = "1"
+            field.textEdited()
+            field.accepted()
+            tryVerify(() => findChild(entry, "noteSheet") && findChild(entry, "noteSheet").opened)
+            const sheet = findChild(entry, "noteSheet")
+            verifyFree(rectOf(sheet.background, window), rectOf(field.parent.parent, window), window, row.tag)
+            verify(!findChild(sheet.contentItem, "noteText").truncated)
+            tap(sheet.contentItem)
+            tryCompare(entry, "isInvalid", true)
+            tryVerify(() => !findChild(entry, "noteSheet"))
+            // Other words are shown again; who leaves takes them along.
+            field.text = "1.2"
+            field.textEdited()
+            field.accepted()
+            field.text = "1.2.3.999"
+            field.textEdited()
+            field.accepted()
+            tryVerify(() => findChild(entry, "noteSheet"))
+            window.elsewhere.forceActiveFocus()
+            tryVerify(() => !findChild(entry, "noteSheet"))
+        }
+
+        function test_longWordsGoWithTheirField() {
+            const window = createTemporaryObject(screenComponent, root, { width: 800, height: 480, kind: scrolledComponent })
+            window.requestActivate()
+            tryVerify(() => window.active)
+            const view = window.entry
+            const entry = findChild(view, "second")
+            const field = fieldOf(entry)
+            field.forceActiveFocus()
+            field.text = "1"
+            field.textEdited()
+            field.accepted()
+            tryVerify(() => findChild(entry, "noteSheet") && findChild(entry, "noteSheet").opened)
+            const sheet = findChild(entry, "noteSheet")
+            for (const y of [60, 0, 90]) {
+                view.contentY = y
+                verifyFree(rectOf(sheet.background, window), rectOf(field.parent.parent, window), window, `scrolled to ${y}`)
+                compare(sheet.opacity, 1)
+            }
+            view.contentY = 200
+            compare(sheet.opacity, 0)
         }
 
         function test_focusIsShownForKeysOnly_data() {

@@ -47,6 +47,21 @@ Item {
         }
     }
     Component {
+        id: passingPage
+        KitPage {
+            title: "Passing"
+            Component.onDestruction: root.gone.push(title)
+        }
+    }
+    Component {
+        id: problemComponent
+        Column {
+            property alias problem: problem
+            width: 300
+            InlineProblem { id: problem; width: parent.width; keepsRoom: true }
+        }
+    }
+    Component {
         id: servedPage
         KitPage {
             title: "Served"
@@ -115,9 +130,10 @@ Item {
             stack.keep(secondPage)
             const kept = stack.push(secondPage, { title: "Kept" })
             kept.count = 3
+            stack.push(passingPage)
             stack.home()
-            // What is deleted is deleted now.
-            wait(0)
+            // What is not kept is deleted now.
+            tryCompare(root, "gone", ["Passing"])
             compare([stack.depth, kept.visible], [1, false])
             compare(stack.open(secondPage, { title: "Again" }), kept)
             compare([stack.depth, kept.count, kept.title, kept.visible], [1, 3, "Again", true])
@@ -126,7 +142,7 @@ Item {
             compare(stack.push(secondPage), kept)
             compare(stack.depth, 1)
             stack.home()
-            compare([stack.currentPage.title, stack.depth, root.made.length, root.gone], ["First", 1, 2, []])
+            compare([stack.currentPage.title, stack.depth, root.made.length, root.gone], ["First", 1, 2, ["Passing"]])
         }
 
         function test_pagesThatCannotBeMade() {
@@ -185,6 +201,24 @@ Item {
             compare([search.text, around.count], ["", 0])
             keyClick(Qt.Key_Escape)
             compare(around.count, 1)
+        }
+
+        function test_problemMovesNothing() {
+            const place = make(problemComponent, { width: 200 })
+            const [empty, low] = [place.height, place.problem.height]
+            for (const text of ["Too long", "\u9577\u3059\u304e\u307e\u3059", "\u0637\u0648\u064a\u0644 \u062c\u062f\u064b\u0627"]) {
+                place.problem.text = text
+                compare(place.height, empty)
+            }
+            place.problem.lines = 2
+            verify(place.problem.height > low)
+            const two = place.problem.height
+            place.problem.text = "The drive is full. Delete files, or save elsewhere."
+            verify(findWords(place.problem).lineCount === 2)
+            compare(place.problem.height, two)
+        }
+        function findWords(item) {
+            return item.lineCount !== undefined ? item : Array.from(item.children).reduce((found, child) => found || findWords(child), null)
         }
 
         function test_textsThatDoNotFit() {

@@ -2,6 +2,7 @@ import QtQuick 2.15
 import QtTest 1.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
+import "../../qml/UiUtils/Controls/moments.js" as Moments
 
 // Numbers in steps, segments, dates and times over items that have limits, reject, run in transactions and vanish.
 Item {
@@ -13,6 +14,7 @@ Item {
     Component { id: stepperComponent; ItemStepper {} }
     Component { id: sliderComponent; ItemSlider {} }
     Component { id: segmentsComponent; SegmentedChoice {} }
+    Component { id: choiceComponent; ChoiceEntry { label: "Choice" } }
     Component { id: dateComponent; DateEntry { label: "Due" } }
     Component { id: timeComponent; TimeEntry { label: "Begin" } }
     Component { id: momentComponent; DateTimeEntry { label: "Next" } }
@@ -45,6 +47,64 @@ Item {
                     compare(row.item.value, value)
                 }
             }
+        }
+
+        // Missing limits, limits that leave nothing, increments and values that are no numbers.
+        function test_oddItems() {
+            const item = properties => createTemporaryObject(itemComponent, root, Object.assign({ type: "int", label: "Local" }, properties))
+            const crossed = make(stepperComponent, { item: item({ value: 5, minRange: 9, maxRange: 1 }) })
+            verify(!button(crossed, "lessButton").enabled && !button(crossed, "moreButton").enabled)
+            verify(!findChild(make(sliderComponent, { item: item({ value: 5, minRange: 9, maxRange: 1 }) }), "slider").enabled)
+            const free = make(stepperComponent, { item: item({ value: 5 }), step: 0.4 })
+            tap(button(free, "moreButton"))
+            compare([free.item.value, free.stepSize], [6, 1])
+            for (const nothing of [NaN, Infinity, "", undefined, "off"]) {
+                const entry = make(stepperComponent, { value: nothing, minimum: 3, maximum: 9 })
+                compare([entry.hasNumber, entry.number, entry.commit()], [false, 3, true])
+                tap(button(entry, "moreButton"))
+                compare(entry.value, 4)
+            }
+            const choice = { model: [{ label: "None", value: 0 }, { label: "One", value: 1 }] }
+            for (const nothing of [null, "", undefined])
+                compare(make(segmentsComponent, Object.assign({ value: nothing }, choice)).currentIndex, -1)
+            for (const nothing of [null, "", undefined])
+                compare(make(choiceComponent, { value: nothing, choices: choice.model }).position, -1)
+        }
+
+        function test_limitsThatChange() {
+            const local = createTemporaryObject(itemComponent, root, { type: "int", label: "Local", value: 50, minRange: 0, maxRange: 100 })
+            const entry = make(sliderComponent, { item: local, step: 10 })
+            const slider = findChild(entry, "slider")
+            local.maxRange = 60
+            compare([slider.to, entry.number, slider.visualPosition > 0.8], [60, 50, true])
+            local.minRange = 70
+            verify(!slider.enabled)
+            compare(local.value, 50)
+        }
+
+        // As with a stepper, whatever the line begins with.
+        function test_sliderGoesToMultiples() {
+            const entry = make(sliderComponent, { minimum: 3, maximum: 98, value: 3, step: 10, width: 800 })
+            const slider = findChild(entry, "slider")
+            const at = value => slider.background.x + (value - slider.from) / (slider.to - slider.from) * slider.background.width
+            for (const [place, value] of [[52, 50], [100, 98], [0, 3]]) {
+                const touch = touchEvent(slider)
+                touch.press(0, slider, at(entry.number), slider.height / 2).commit()
+                for (const part of [0.3, 0.7, 1])
+                    touch.move(0, slider, at(entry.number + part * (place - entry.number)), slider.height / 2).commit()
+                touch.release(0, slider, at(place), slider.height / 2).commit()
+                compare(entry.value, value)
+            }
+            slider.forceActiveFocus()
+            for (const value of [10, 20]) {
+                keyClick(Qt.Key_Right)
+                compare(entry.value, value)
+            }
+            entry.value = 98
+            keyClick(Qt.Key_Right)
+            compare([entry.value, slider.value], [98, 98])
+            keyClick(Qt.Key_Left)
+            compare(entry.value, 90)
         }
 
         function test_limitsEndTheSteps() {
@@ -195,6 +255,18 @@ Item {
             compare([entry.value || "", spy.count, entry.isInvalid], [row.value, row.value === "" ? 0 : 1, row.value === ""])
             // What is shown can be typed again.
             compare(entry.parsed(field.text), row.value)
+        }
+
+        // The tests run in a zone whose clocks are put forward from 00:00 to 01:00 on the last Friday of April.
+        function test_hoursThatAZoneLeavesOut() {
+            driver.setLocale("de_DE")
+            const entry = make(momentComponent, { value: "2026-04-24T00:30" })
+            compare([fieldOf(entry).text, entry.parsed("24.04.2026 00:30")], ["24.04.2026 00:30", "2026-04-24T00:30"])
+            const days = Moments.weeks(2026, 4, 1).map(day => Moments.isoOf(day, true, false))
+            compare([days.length, new Set(days).size, days[25]], [42, 42, "2026-04-24"])
+            compare(Moments.moved({ year: 2026, month: 4, day: 23 }, 0, 1).day, 24)
+            // No calendar goes beyond years of four digits.
+            compare(Moments.moved({ year: 9999, month: 12, day: 31 }, 0, 1).year, 9999)
         }
 
         function test_boundsOfDates() {

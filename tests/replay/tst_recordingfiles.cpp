@@ -70,14 +70,17 @@ QString recordTo(const QString& path, RecordingFile::Form form, const QByteArray
     return file->problem();
 }
 
+/// The most memory that this process has held; with AddressSanitizer, which keeps what is freed, nothing.
 int mostResidentKiB()
 {
+#ifndef __SANITIZE_ADDRESS__
     const QList<QByteArray> lines = contentsOf("/proc/self/status").split('\n');
     for (const QByteArray& line : lines) {
         if (line.startsWith("VmHWM:"))
             return line.mid(6).trimmed().split(' ').first().toInt();
     }
-    return -1;
+#endif
+    return 0;
 }
 
 } // namespace
@@ -111,7 +114,8 @@ private Q_SLOTS:
         row("too many values", change("\"value\":[0" + QByteArray(",0").repeated(2000001) + "]"), "broken lines: 1");
         row("too many lists", change("\"value\":[[]" + QByteArray(",[]").repeated(750001) + "]"), "broken lines: 1");
         row("too long", change("\"value\":\"" + QByteArray(33 << 20, 'x') + "\""), "broken lines: 1");
-        row("backwards", change(json("'value':1")).replace("\"t\":5", "\"t\":7") + change(json("'value':1")), "goes backwards: 1");
+        row("backwards", change(json("'value':1")).replace("\"t\":5", "\"t\":8") + change(json("'value':1")).replace("\"t\":5", "\"t\":10")
+                        + change(json("'value':1")).replace("\"t\":5", "\"t\":9"), "goes backwards: 2");
         row("unknown item", json("{'t':5,'service':'otdr','id':':result:otdr:b:','value':2}\n"), "not there: 1");
         row("unknown service", json("{'t':5,'service':'x','id':':result:otdr:a:','value':2}\n") + json("{'t':5,'service':'x','gone':true}\n"), "not there: 2");
         for (const char* fields : {"\"value\":\"x\"", "\"value\":[1]", "\"value\":{}", "\"value\":1e300", "\"quality\":\"good\"", "\"ready\":1",
@@ -127,12 +131,18 @@ private Q_SLOTS:
     {
         const auto [line, words] = currentRow<QByteArray, QString>();
         const bool isEnd = !line.endsWith('\n');
-        PlayingBench played(start + line + (isEnd ? QByteArray() : QByteArray(json("{'t':9,'service':'otdr','id':':result:otdr:a:','value':7}\n"))));
+        PlayingBench played(start + line + (isEnd ? QByteArray() : QByteArray(json("{'t':12,'service':'otdr','id':':result:otdr:a:','value':7}\n"))));
         QVERIFY2(played.isOpen, qPrintable(played.problem));
         played.player.advanceTo(8);
         QCOMPARE(played.value(), QVariant(1));
         QVERIFY(played.item()->isReady() && played.item()->isApplicable() && !played.item()->getMinRange().isValid());
-        played.player.advanceTo(100);
+        for (qint64 last = 8; played.player.nextTime();) {
+            const qint64 next = *played.player.nextTime();
+            QVERIFY(next >= last);
+            last = next;
+            played.player.advanceTo(next);
+            QVERIFY(played.player.nextTime() != next);
+        }
         QCOMPARE(played.value(), QVariant(isEnd ? 1 : 7));
         const QString troubles = played.player.troubles();
         QVERIFY2(words.isEmpty() ? troubles.isEmpty() : troubles.contains(words), qPrintable(troubles));
@@ -200,9 +210,7 @@ private Q_SLOTS:
             played.player.advanceTo(100);
             QCOMPARE(played.value(), QVariant(2));
             QVERIFY2(played.player.troubles().contains("in the middle"), qPrintable(played.player.troubles()));
-#ifndef __SANITIZE_ADDRESS__
             QVERIFY2(mostResidentKiB() - before < 150 << 10, qPrintable(QString::number(mostResidentKiB() - before)));
-#endif
         }
     }
 

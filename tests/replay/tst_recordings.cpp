@@ -155,15 +155,20 @@ private Q_SLOTS:
         RecordingBench bench;
         bench.publish("otdr", item(R"("type": "double", "value": 1)") + R"(, {"id": ":result:otdr:b:", "type": "int"})");
         bench.publish("other", R"({"id": ":result:other:c:", "type": "int"})");
-        bench.follow({"otdr", "other"});
+        bench.publish("third", R"({"id": ":result:third:f:", "type": "double", "value": 1, "attributes": {"formatter": "frequency"}})");
+        bench.follow({"otdr", "other", "third"});
         bench.recorder->lookAround(100);
         bench.take();
+        const SignalLog log(bench.client("third")->getItem(":result:third:f:"));
+        bench.service("third")->setValue(":result:third:f:", 2e6);
+        QVERIFY(log.names.contains("unitsChanged"));
+        QCOMPARE(bench.take(), QByteArrayList {R"({"t":0,"service":"third","id":":result:third:f:","value":2000000})"});
         bench.service()->setLabel(a, "L");
         bench.service()->setRange(a, {}, 7);
         bench.service()->setRange(":result:otdr:b:", 1, {});
         bench.service("other")->setLabel(":result:other:c:", "C");
         QCOMPARE(bench.take(), QByteArrayList());
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 4; ++i)
             bench.recorder->lookAround(1);
         QByteArrayList lines = bench.take();
         std::sort(lines.begin(), lines.end());
@@ -232,7 +237,7 @@ private Q_SLOTS:
             recorder.follow(played.client(name));
         while (const auto next = played.player.nextTime()) {
             now = *next;
-            QVERIFY(played.player.advanceTo(now));
+            QVERIFY(played.player.advanceTo(now) && played.player.nextTime() != next);
         }
         const auto lines = [](const QByteArray& text) { return text.split('\n').mid(1); };
         QCOMPARE(lines(again), lines(bench.text));

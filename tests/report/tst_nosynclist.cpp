@@ -1,5 +1,6 @@
 #include "files.h"
 
+#include <QFileSystemWatcher>
 #include <QtTest>
 
 #include "report/saving/nosynclist_p.h"
@@ -70,6 +71,9 @@ private Q_SLOTS:
         const QTemporaryDir root(hasMemory ? "/dev/shm/uiutils-test-XXXXXX" : QDir::tempPath() + "/uiutils-test-XXXXXX");
         QVERIFY(root.isValid());
         qputenv("UIUTILS_ROOT", QFile::encodeName(root.path()));
+        const QString folder = QFileInfo(root.path() + listPath).path();
+        QVERIFY(QDir().mkpath(folder));
+        QFileSystemWatcher watcher({folder});
         std::vector<std::unique_ptr<QProcess>> editors;
         for (int i = 0; i < processes; ++i) {
             editors.push_back(std::make_unique<QProcess>());
@@ -77,13 +81,16 @@ private Q_SLOTS:
             editors.back()->start(QCoreApplication::applicationFilePath(), {"--edit", QString::number(i)});
         }
         const auto isRunning = [](const auto& editor) { return editor->state() != QProcess::NotRunning; };
-        int looks = 0;
-        while (std::any_of(editors.cbegin(), editors.cend(), isRunning)) {
-            QVERIFY(!QFile::exists(root.path() + listPath) || isWhole(contentsOf(root.path() + listPath)));
+        // A look at the list whenever something in its folder has changed.
+        int looks = 0, broken = 0;
+        connect(&watcher, &QFileSystemWatcher::directoryChanged, this, [&] {
+            broken += QFile::exists(root.path() + listPath) && !isWhole(contentsOf(root.path() + listPath));
             ++looks;
-            QTest::qWait(1);
-        }
+        });
+        while (std::any_of(editors.cbegin(), editors.cend(), isRunning))
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         QVERIFY(looks > 10);
+        QCOMPARE(broken, 0);
         for (const auto& editor : editors)
             QCOMPARE(editor->exitCode(), 0);
         const QByteArray text = contentsOf(root.path() + listPath);
@@ -93,7 +100,7 @@ private Q_SLOTS:
             for (int number = edits * 2 / 5; number < edits * 3 / 5; ++number)
                 QVERIFY(text.contains(reportOf(process, number).toUtf8() + '\n'));
         }
-        QCOMPARE(namesIn(QFileInfo(root.path() + listPath).path()), QStringList("nosync_fileList.txt"));
+        QCOMPARE(namesIn(folder), QStringList("nosync_fileList.txt"));
     }
 };
 

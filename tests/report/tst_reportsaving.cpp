@@ -798,7 +798,7 @@ private Q_SLOTS:
     {
         const QString viewer = onDisk("/base/bin/pdf_viewer");
         writeFile(
-                viewer, "#!/bin/sh\nprintf '%s\\n' \"$PWD\" \"$@\" > arguments.part\nmv arguments.part arguments\n");
+                viewer, "#!/bin/sh\nprintf '%s\\n' \"$LANGUAGE\" \"$PWD\" \"$@\" > arguments.part\nmv arguments.part arguments\n");
         QVERIFY(QFile::setPermissions(viewer, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         QVERIFY(QDir().mkpath(onDisk("/base/qml/pdf_viewer")));
         Report report;
@@ -808,7 +808,7 @@ private Q_SLOTS:
         const QString arguments = onDisk("/base/qml/pdf_viewer/arguments");
         QTRY_VERIFY(QFile::exists(arguments));
         QCOMPARE(QString::fromUtf8(contentsOf(arguments)).split('\n'),
-                QStringList({onDisk("/base/qml/pdf_viewer"), "-plugin", "EvdevTouch:/dev/input/event1", "--dpy", "85",
+                QStringList({"en", onDisk("/base/qml/pdf_viewer"), "-plugin", "EvdevTouch:/dev/input/event1", "--dpy", "85",
                         "-s", onDisk("/cust/a b.pdf.gz"), "-t", "View Report", ""}));
         QVERIFY(QFile::remove(arguments));
         report.setTitle("Shown again");

@@ -11,7 +11,7 @@ HEADERS = SOURCES[:5]
 # The include folders of all targets of the tree together: an include that a target cannot resolve is still an arrow when it
 # is written.
 INCLUDE_ROOTS = ("", "lib", "lib/ui_utils", "platform/contract", "platform/reference", "platform/reference/embedded", "apps",
-                 "apps/demo", "apps/pdf_viewer", "qml/UiUtils/Plot", "tests")
+                 "apps/demo", "apps/pdf_viewer", "qml/UiUtils/Controls", "qml/UiUtils/Plot", "tests")
 # The first words of our headers in angle brackets.
 OUR_FOLDERS = {"base", "common", "embedded", "formatters", "kiv", "ui_host", "uiutils"}
 

@@ -45,11 +45,13 @@ saving      lib/ui_utils/report/saving      base contract core instrument docume
 drafts      lib/ui_utils/report/drafts      base contract core service document local report
 module      lib/ui_utils/module             base contract LIBRARY
 
-host        lib/ui_host                     base contract core languages service module embedded simulation bus
+host        lib/ui_host                     base contract core languages service module embedded simulation
+hostbus     lib/ui_host/bus                 base contract embedded bus host
 paper       lib/ui_paper                    core pages
 
 plugin      qml/UiUtils                     LIBRARY base contract
 preview     qml/UiUtils/Preview             LIBRARY base contract
+kit         qml/UiUtils/Controls            -
 liveplot    qml/UiUtils/Plot                base contract core languages document service plots
 common      apps/common                     LIBRARY base contract embedded bus host
 audit       apps/audit                      -

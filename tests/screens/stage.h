@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audit/openers.h"
 #include "audit/screenaudit.h"
 #include "common/screen.h"
 #include "languages/languages.h"
@@ -101,13 +102,25 @@ private:
             if (QTest::currentTestFailed())
                 return;
             const QString place = QStringList {page, size, theme, uiutils::Languages::instance()->current()}.join('-');
-            const QStringList found = ScreenAudit(m_window, screen.dotsPerInch / 25.4).complaints(rules);
-            for (const QString& complaint : found)
-                m_faults[keyOf(complaint)] += place + ": " + complaint;
+            const ScreenAudit audit(m_window, screen.dotsPerInch / 25.4);
+            const bool keepsPictures = !qEnvironmentVariableIsEmpty("UIUTILS_PICTURES");
+            note(place, audit.complaints(rules));
             ++m_judged;
-            if (!qEnvironmentVariableIsEmpty("UIUTILS_PICTURES"))
+            if (keepsPictures)
                 keepPicture(place, page);
+            int opened = 0;
+            note(place, audit.complaintsOfOpened(rules, [&] {
+                ++m_judged;
+                if (keepsPictures)
+                    save(uiutils::audit::pictureAtRest(m_window), QString("%1-opened-%2").arg(place).arg(++opened));
+            }));
         }
+    }
+
+    void note(const QString& place, const QStringList& complaints)
+    {
+        for (const QString& complaint : complaints)
+            m_faults[keyOf(complaint)] += place + ": " + complaint;
     }
 
     // Figures differ from screen to screen, and pages share bars.
@@ -124,10 +137,15 @@ private:
         return found == patterns.end() ? QString() : *found;
     }
 
+    static void save(const QImage& picture, const QString& name)
+    {
+        QVERIFY(picture.save(QDir(qEnvironmentVariable("UIUTILS_PICTURES")).filePath(name + ".png")));
+    }
+
     void keepPicture(const QString& place, const QString& page)
     {
         const QImage picture = uiutils::audit::pictureAtRest(m_window);
-        QVERIFY(picture.save(QDir(qEnvironmentVariable("UIUTILS_PICTURES")).filePath(place + ".png")));
+        save(picture, place);
         const int column = onSheet.indexOf(place.mid(page.size() + 1));
         if (column >= 0)
             m_sheet[page][column] = picture.scaled(thumb, Qt::KeepAspectRatio, Qt::SmoothTransformation);
@@ -145,7 +163,7 @@ private:
                 painter.drawImage(it.key() * thumb.width(), y, *it);
             y += thumb.height();
         }
-        QVERIFY(sheet.save(QDir(qEnvironmentVariable("UIUTILS_PICTURES")).filePath("sheet-" + m_pages.first() + ".png")));
+        save(sheet, "sheet-" + m_pages.first());
     }
 
     const QStringList onSheet {"800x480-light-en", "1024x600-light-en", "1280x800-light-en", "1024x600-dark-en",

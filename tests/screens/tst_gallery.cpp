@@ -1,5 +1,7 @@
 #include "stage.h"
 
+#include "common/translations.h"
+#include "qmlwarnings.h"
 #include "ui_host/host.h"
 
 #include <QQuickItem>
@@ -16,7 +18,8 @@ private Q_SLOTS:
     {
         qputenv("QT_QUICK_CONTROLS_STYLE", "Default");
         ScreenAudit::prepare();
-        QVERIFY(m_host.start({{UIUTILS_SOURCE_DIR "/platform/reference/services"}, m_root.path()}));
+        QVERIFY(m_host.start({{UIUTILS_SOURCE_DIR "/platform/reference/services"}, m_root.path(), {}, {}, {uiutils::apps::translationsOf("examples")}}));
+        m_warnings.watch(&m_engine);
         m_host.showTo(&m_engine);
     }
 
@@ -38,6 +41,8 @@ private Q_SLOTS:
         });
     }
 
+    void cleanup() { QCOMPARE(m_warnings.take(), QStringList()); }
+
 private:
     void judge(const QStringList& pages, const Stage::Show& show)
     {
@@ -52,6 +57,7 @@ private:
     const QString m_examples = UIUTILS_SOURCE_DIR "/docs/examples/";
     QTemporaryDir m_root;
     uiutils::Host m_host;
+    QmlWarnings m_warnings;
     QQmlEngine m_engine;
     QQuickView m_view {&m_engine, nullptr};
 };

@@ -15,7 +15,9 @@ class RulesTest : public QObject
     Q_OBJECT
 
 private:
-    static QStringList complaintsOf(const QByteArray& body, int rules)
+    enum Judged { Page, Opened };
+
+    static QStringList complaintsOf(const QByteArray& body, int rules, Judged judged = Page)
     {
         QQuickView view;
         QQmlComponent component(view.engine());
@@ -23,13 +25,17 @@ private:
                           "Rectangle { id: page; width: 800; height: 480; color: 'white'\n"
                           "component Words: Text { font.pixelSize: 29; color: 'black'; textFormat: Text.PlainText }\n"
                           "component Area: MouseArea { width: 90; height: 90; onClicked: {} }\n"
+                          "component Sheet: Popup { width: 300; height: 200; padding: 0; background: Rectangle {} }\n"
+                          "component Input: TextInput { width: 300; height: 90; font.pixelSize: 32; text: '7'; color: 'black' }\n"
+                          "component Field: Input { function openPad() {} }\n"
                         + body + "}", QUrl("qrc:/page.qml"));
         QObject* const root = component.create();
         if (!root)
             return {component.errorString()};
         view.setContent({}, &component, root);
         view.show();
-        return ScreenAudit(&view, 10).complaints(rules);
+        const ScreenAudit audit(&view, 10);
+        return judged == Page ? audit.complaints(rules) : audit.complaintsOfOpened(rules);
     }
 
 private Q_SLOTS:
@@ -44,6 +50,9 @@ private Q_SLOTS:
         row("no fault", "Area {} Area { x: 110 } Words { y: 200; text: 'Read me' }", "");
         row("small button", "AbstractButton { width: 90; height: 70; text: 'OK' }",
                 "Target: AbstractButton \"OK\": 9.0 x 7.0 mm, at least 9.0");
+        row("small button with a background", "AbstractButton { width: 90; height: 70; background: Rectangle { color: 'silver' } }",
+                "Target: AbstractButton: 9.0 x 7.0 mm, at least 9.0");
+        row("covered button", "AbstractButton { width: 90; height: 70 } Rectangle { width: 90; height: 70 }", "");
         row("small disabled button", "AbstractButton { width: 70; height: 90; enabled: false; focusPolicy: Qt.StrongFocus }",
                 "Target: AbstractButton: 7.0 x 9.0 mm, at least 9.0");
         row("small field", "TextInput { objectName: 'name'; width: 200; height: 60; font.pixelSize: 32 }",
@@ -98,6 +107,43 @@ private Q_SLOTS:
             QCOMPARE(found.join('\n'), complaint);
     }
 
+    void opened_data()
+    {
+        addColumns<QByteArray, QString>();
+        const auto row = [](const char* name, const char* body, const char* complaint) {
+            QTest::newRow(name) << QByteArray(body) << QString(complaint);
+        };
+        const char* const box = "ComboBox { objectName: 'mode'; width: 200; height: 90; model: ['A', 'B']; delegate: Item {}\n"
+                                "popup: Sheet { y: %1; contentItem: Item { Area { width: %2 } } } }";
+        const auto boxRow = [&](const char* name, const char* y, const char* width, const char* complaint) {
+            row(name, QByteArray(box).replace("%1", y).replace("%2", width), complaint);
+        };
+        boxRow("list below its field", "90", "90", "");
+        boxRow("fault of a list", "90", "70",
+                "Target: Area: 7.0 x 9.0 mm, at least 9.0 (opened by ComboBox mode)");
+        boxRow("list over its field", "60", "90",
+                "Covered: ComboBox mode: 200.0 x 30.0 pixels by what opens for it (opened by ComboBox mode)");
+        // The page has faults of its own, which are not told for each list again.
+        row("page under a list", "AbstractButton { y: 300; width: 10; height: 10 } Words { text: 'a' } Words { text: 'b' }\n"
+                "Field { y: 100; function openPad() { pad.open() } } Sheet { id: pad; y: 200; contentItem: Item { Words { text: 'c' } } }", "");
+        row("pad over its field", "Item { property bool hasPad: true; function openPad() { pad.open() } Input { objectName: 'count' } }\n"
+                "Sheet { id: pad; x: 250 }", "Covered: Input count \"7\": 50.0 x 90.0 pixels by what opens for it (opened by Item)");
+        row("dialog that shows what it is about", "Item { function openPicker() { dialog.open() } Input {} } Sheet { id: dialog; modal: true; dim: true;\n"
+                "Overlay.modal: Rectangle { color: '#80000000' } }", "");
+        row("no pad", "Item { property bool hasPad: false; function openPad() {} }", "");
+        row("disabled", "Field { enabled: false }", "");
+        row("service away", "Item { property bool isReady: false; function openPad() {} }", "");
+        row("nothing opens", "Field { objectName: 'count' }", "Opened: Field count \"7\": nothing opens");
+        row("one after the other", "Field { function openPad() { one.open() } } Field { y: 100; function openPad() { two.open() } }\n"
+                "Sheet { id: one; x: 400 } Sheet { id: two; x: 400; contentItem: Item { Words { text: 'W'; font.pixelSize: 20 } } }",
+                "Letters: Words \"W\": 5.7 pt, at least 8.0 (opened by Field \"7\")");
+    }
+    void opened()
+    {
+        const auto [body, complaint] = currentRow<QByteArray, QString>();
+        QCOMPARE(complaintsOf(body, ScreenAudit::Geometry, Opened).join('\n'), complaint);
+    }
+
     void contrast_data()
     {
         addColumns<QByteArray, QString>();
@@ -135,7 +181,7 @@ private Q_SLOTS:
         row("by its button", "AbstractButton { width: 90; height: 90; Accessible.name: 'Start the test'; Words { text: 'Start' } }", "");
         row("hidden voice", "Words { text: 'dB' } Item { visible: false; Accessible.role: Accessible.StaticText; Accessible.name: 'dB' }",
                 "Voice: Words \"dB\": no screen reader says it");
-        row("only a sign", "Words { text: '\u00d7' }", "");
+        row("only a sign", "Words { text: '\u00d7' } Words { text: 'i' }", "");
     }
     void voice()
     {

@@ -23,7 +23,7 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, str(TREE / 'translations'))
 import update  # noqa: E402
 
-ROOMS = ('base', 'platform', 'lib', 'apps', 'qml')
+ROOMS = ('base', 'platform', 'lib', 'apps', 'qml', update.EXAMPLES)
 # Contexts of which show() makes no text appear. A context that no longer exists is removed from the list.
 UNSEEN = {
     'FileSystemUsage', 'FontTexts', 'KivAggregateData', 'OwnLibrary', 'PDFFile', 'Paths', 'SchemaValidator',
@@ -213,10 +213,16 @@ def judge_catalogue(ts, wanted):
 
 def judge_catalogues(lupdate):
     wanted, complaints = collect(lupdate, TREE, update.ROOMS)
+    of_examples, more = collect(lupdate, TREE, (update.EXAMPLES,))
+    complaints += more
     files = sorted((TREE / 'translations').glob('*.ts'))
     names = [f'uiutils_{language}.ts' for language in sorted([*update.LANGUAGES, 'en', 'pseudo'])]
     if [file.name for file in files] != names:
         complaints.append(f'the catalogues are {files}, not {names}')
+    beside = sorted((TREE / update.EXAMPLES / 'translations').glob('*.ts'))
+    if [file.stem for file in beside] != sorted(f'examples_{language}' for language in [*update.LANGUAGES, 'pseudo']):
+        complaints.append(f'the catalogues of the examples are {beside}')
+    complaints += [complaint for file in beside for complaint in judge_catalogue(file, of_examples)]
     return complaints + [complaint for file in files
                          for complaint in judge_catalogue(file, {key for key in wanted if key[3]} if file.stem == 'uiutils_en' else wanted)]
 

@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QLibraryInfo>
+#include <QStandardPaths>
 
 /// The program as users start it.
 class UiUtilsQmlTest : public QObject
@@ -207,6 +208,34 @@ private Q_SLOTS:
         QVERIFY2(outcome.exitCode == 7, qPrintable(QString::number(outcome.exitCode) + outcome.errors));
         const Outcome listed = run({"--list", "--replay", recording, "--from", "3"});
         QCOMPARE(listed.output, QByteArray("otdr_res_loss\tint\t2\n"));
+    }
+
+    /// What translators have done is seen at once, also on a page in a folder of its own. What is broken is told.
+    void translationsBesideThePage()
+    {
+        if (QStandardPaths::findExecutable("lrelease", {QLibraryInfo::location(QLibraryInfo::BinariesPath)}).isEmpty())
+            QSKIP("lrelease is not installed");
+        const auto write = [this](const QString& name, const QByteArray& word) {
+            QVERIFY(QDir().mkpath(QFileInfo(m_folder.filePath(name)).path()));
+            writeFile(m_folder.filePath(name), "<TS version='2.1' language='de'><context><name>page</name><message><source>Hello</source>"
+                                               "<translation>" + word + "</translation></message></context></TS>");
+        };
+        const QByteArray body = "Item { Component.onCompleted: { console.log(qsTr('Hello')); Qt.exit(7) } }";
+        const QStringList options {"--services", m_services, "--language", "de"};
+        write("translations/site_pages_de.ts", "Hallo");
+        QDir().mkpath(m_folder.filePath("pages"));
+        const QString below = writeFile(m_folder.filePath("pages/page.qml"), contentsOf(page(body)));
+        for (const QString& file : {page(body), below}) {
+            const Outcome outcome = run(QStringList(file) + options);
+            QVERIFY2(outcome.exitCode == 7 && outcome.errors.contains("Hallo"), qPrintable(outcome.errors));
+        }
+        write("pages/translations/site_pages_de.ts", "Servus");
+        QVERIFY(run(QStringList(below) + options).errors.contains("Servus"));
+        writeFile(m_folder.filePath("translations/site_pages_de.ts"), "<TS><context>");
+        const Outcome broken = run(QStringList(page(body)) + options);
+        QVERIFY2(broken.exitCode == 7 && broken.errors.contains("site_pages_de.ts cannot be compiled: ") && broken.errors.contains("Hello"),
+                qPrintable(broken.errors));
+        QVERIFY(QDir(m_folder.filePath("translations")).removeRecursively());
     }
 
     void judgesAPage()

@@ -193,11 +193,16 @@ private Q_SLOTS:
         const QString note = scale.note(QLocale::c());
         const AxisScale hours(interval({low, low + 7200}), AxisScale::Date, AxisScale::AtData, 5);
         const QString day = hours.note(QLocale::c());
+        // Full hours stay full behind the night.
+        const QStringList quarters = labels({interval({low, low + 2 * 86400}), AxisScale::Date, AxisScale::AtData, 9});
         qputenv("TZ", "UTC");
         tzset();
         QCOMPARE(days, QStringList({"28 Mar", "29 Mar", "30 Mar", "31 Mar"}));
         QCOMPARE(note, QString("28 Mar 2026 to 31 Mar 2026"));
         QCOMPARE(day, QString("28 Mar 2026"));
+        QCOMPARE(quarters.size(), 9);
+        QCOMPARE(quarters.mid(4, 2), QStringList({"29 Mar 00:00", "29 Mar 06:00"}));
+        QCOMPARE(quarters.constLast(), QString("30 Mar 00:00"));
     }
 
     /// A limit belongs to the axis of its curve, which reaches beyond it.
@@ -208,6 +213,12 @@ private Q_SLOTS:
         const Interval left = data.yExtent(LeftSide);
         QVERIFY(left.low == 10 && left.high > 100 && left.high < 105);
         QVERIFY(data.yExtent(RightSide).low <= -5000 && data.yExtent(RightSide).high < 0);
+        // Not beyond zero, where no value is.
+        PlotData far = oneCurve({{0, 60000}, {1, 64000}});
+        far.limits = {{PlotLimit::Lower, 1000, "", LeftSide, {}}};
+        QCOMPARE(far.yExtent(LeftSide).low, 0.0);
+        far.limits = {{PlotLimit::Lower, 0, "", LeftSide, {}}};
+        QVERIFY(far.yExtent(LeftSide).low < 0);
     }
 
     void noSpikeIsLost()

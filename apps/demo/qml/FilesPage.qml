@@ -13,7 +13,11 @@ KitPage {
     readonly property bool canSwitch: session.hasDrive
 
     title: qsTr("Files")
-    subtitle: showsPictures ? qsTr("%n screenshots", "", pictures.count) : qsTr("%n reports", "", reports.count)
+    subtitle: showsPictures ? qsTr("%n screenshots", "", pictures.count)
+            : kind.currentIndex === 1 ? qsTr("%n reports", "", reports.count)
+            : qsTr("%1, %2 % of the drive in use").arg(qsTr("%n reports", "", reports.count)).arg(Math.round(page.session.used))
+    onVisibleChanged: if (visible && session) session.look()
+    Component.onCompleted: session.look()
     scrolls: false
     actions: SegmentedChoice {
         id: kind
@@ -72,7 +76,7 @@ KitPage {
             // A name may contain line feeds.
             title: model.name.replace(/\s/g, " ")
             subtitle: qsTr("%1, %2").arg(page.session.sizeText(model.size))
-                                    .arg(model.time.toLocaleString(Qt.locale(), Locale.ShortFormat))
+                                    .arg(page.session.timeText(model.time))
             value: model.compressed ? qsTr("%1, compressed").arg(model.format) : model.format
             chevron: true
             onClicked: page.stack.push("FileDetailsPage.qml", { session: page.session, files: reports, path: model.path })
@@ -101,7 +105,7 @@ KitPage {
         delegate: ListRow {
             iconName: "camera"
             title: model.name
-            subtitle: model.time.toLocaleString(Qt.locale(), Locale.ShortFormat)
+            subtitle: page.session.timeText(model.time)
             chevron: true
             onClicked: page.stack.push("PicturePage.qml", { files: pictures, name: model.name, path: model.path, source: model.source })
         }

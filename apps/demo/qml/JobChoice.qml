@@ -9,6 +9,9 @@ QtObject {
     // Why the last job could not be chosen; empty when it was.
     property string problem
 
+    // What open() was last given; null before.
+    property var taken: null
+
     readonly property var workflow: services["orb.base.workflow_manager_app"]
     readonly property Connections refusals: Connections {
         target: typeof basemgr_cfg_customerInfo_name === "undefined" ? null : basemgr_cfg_customerInfo_name
@@ -32,6 +35,9 @@ QtObject {
         basemgr_act_setJobTechnician.invokeWithStringArg(technician)
         basemgr_act_openJob.invokeWithStringArg(job.jobId)
         problem = basemgr_res_jobID.value === job.jobId ? "" : basemgr_act_openJob.error
+        if (problem === "")
+            taken = { jobId: job.jobId, customer: job.customer, address: job.address, circuit: job.circuit, contact: job.contact,
+                      ban: job.ban, workflow: job.workflow }
         return problem === ""
     }
 

@@ -47,7 +47,7 @@ KitPage {
     }
     InlineProblem {
         Layout.fillWidth: true
-        visible: text !== ""
+        keepsRoom: true
         text: page.session.jobs.problem
     }
     ListArea {

@@ -4,40 +4,40 @@ import UiUtils 1.0
 import UiUtils.Controls 1.0
 import UiUtils.Demo 1.0
 
-// The instrument: its states above, a page, the ways to the pages below. Pages are made when they are first shown.
+// The window. Its first frame has the places of bars and page; what stands there is made as soon as the frame is on the
+// screen.
 T.ApplicationWindow {
     id: window
 
     required property LoopbackMeasurement measurement
-    readonly property var tabs: ["home", "setup", "run", "results", "report", "files"]
-    readonly property var files: ({ home: "HomePage.qml", setup: "SetupPage.qml", run: "RunPage.qml", results: "ResultsPage.qml",
-                                    report: "ReportPage.qml", files: "FilesPage.qml", jobs: "JobsPage.qml", people: "PeoplePage.qml",
-                                    settings: "SettingsPage.qml", language: "LanguagePage.qml", notifications: "NotificationsPage.qml", review: "ReviewPage.qml",
-                                    gallery: "GroupsPage.qml" })
-    readonly property var pageNames: Object.keys(files)
-    readonly property alias session: session
-    readonly property alias report: session.report
-    readonly property alias camera: session.camera
-    readonly property alias stack: stack
-    property bool isDrawn: false
+    // Everything that is shown; null before complete().
+    readonly property Item instrument: content.item
+    readonly property bool isComplete: instrument !== null
+    readonly property var pageNames: isComplete ? instrument.pageNames : []
+    readonly property QtObject report: isComplete ? instrument.report : null
+    readonly property QtObject camera: isComplete ? instrument.camera : null
     property bool closesOnceSaved: false
 
-    // Shows the page of that name, and returns it. Tabs take the place of what is shown; all others come upon it.
+    // Shows the page of that name, and returns it.
     function open(name) {
-        const tab = tabs.indexOf(name)
-        if (tab < 0)
-            return stack.push(files[name], name === "gallery" ? {} : { session: session })
-        navigation.currentIndex = tab
-        return stack.open(files[name], { session: session })
+        complete()
+        return instrument.open(name)
     }
 
     function showPage(index) {
-        return open(tabs[index])
+        complete()
+        return open(instrument.tabs[index])
     }
 
-    // What the first picture does not need, neither its objects nor its files.
+    // Makes what the first frame did not show.
     function complete() {
-        overlays.setSource("Overlays.qml", { session: session })
+        if (!isComplete)
+            content.setSource("Instrument.qml", { measurement: measurement })
+    }
+
+    // What comes over the pages is not needed to see them, neither its objects nor its files.
+    function addOverlays() {
+        overlays.setSource("Overlays.qml", { session: instrument.session })
     }
 
     // Errors that happened meanwhile are read first.
@@ -56,17 +56,10 @@ T.ApplicationWindow {
     LayoutMirroring.childrenInherit: true
     // The page of a running save must stay.
     onClosing: {
-        close.accepted = !report.saving
-        closesOnceSaved = report.saving
+        closesOnceSaved = isComplete && report.saving
+        close.accepted = !closesOnceSaved
     }
-    Component.onCompleted: open("home")
 
-    Session {
-        id: session
-        measurement: window.measurement
-        onPageWanted: window.open(name)
-        onShotWanted: camera.shoot(window)
-    }
     Binding {
         target: ControlsStyle
         property: "theme"
@@ -74,10 +67,9 @@ T.ApplicationWindow {
     }
     Connections {
         target: window
-        enabled: !window.isDrawn
+        enabled: overlays.status === Loader.Null
         function onFrameSwapped() {
-            window.isDrawn = true
-            Qt.callLater(window.complete)
+            Qt.callLater(window.isComplete ? window.addOverlays : window.complete)
         }
     }
     Connections {
@@ -89,43 +81,39 @@ T.ApplicationWindow {
         }
     }
 
-    header: InstrumentBar { session: session }
-    PageStack {
-        id: stack
-        anchors.fill: parent
-        focus: true
-        folder: Qt.resolvedUrl(".")
-        Component.onCompleted: window.pageNames.forEach(name => keep(window.files[name]))
-    }
-    footer: TouchTabs {
-        id: navigation
-        objectName: "navigation"
-        navigation: true
-        model: [
-            { name: "home", icon: "home", text: qsTr("Home") },
-            { name: "setup", icon: "settings", text: qsTr("Set-up"), marked: session.setup.pending.length > 0 },
-            { name: "run", icon: "run", text: qsTr("Run") },
-            { name: "results", icon: "results", text: qsTr("Results") },
-            { name: "report", icon: "report", text: qsTr("Report"), marked: session.hasResults && !session.isSaved },
-            { name: "files", icon: "files", text: qsTr("Files") }
-        ]
-        onChosen: window.showPage(index)
-    }
+    // The bars as they are seen before they have anything to show.
+    Rectangle {
+        width: parent.width
+        height: ControlsStyle.touch
+        color: ControlsStyle.divider
 
-    Loader { id: overlays }
-
-    Repeater {
-        model: window.tabs
-        Item {
-            Shortcut { sequence: "Ctrl+" + (index + 1); onActivated: window.showPage(index) }
+        Rectangle {
+            width: parent.width
+            height: parent.height - ControlsStyle.line
+            color: ControlsStyle.card
         }
     }
-    Shortcut {
-        // Pictures include dialogs.
-        context: Qt.ApplicationShortcut
-        enabled: !window.report.saving
-        sequences: ["Print", "Ctrl+P"]
-        autoRepeat: false
-        onActivated: session.shotWanted()
+    Rectangle {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: ControlsStyle.mm(11)
+        color: ControlsStyle.divider
+
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: parent.height - ControlsStyle.line
+            color: ControlsStyle.card
+        }
     }
+    Loader {
+        id: content
+        anchors.fill: parent
+        focus: true
+    }
+    Connections {
+        target: window.instrument
+        function onShotWanted() { window.camera.shoot(window) }
+    }
+    Loader { id: overlays }
 }

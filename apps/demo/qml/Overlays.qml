@@ -14,8 +14,11 @@ Item {
 
     NotificationDialog {}
     SaveProgress { report: overlays.session.report }
-    DeskDrawer { id: desk }
-    ScreenKeyboard {}
+    DeskDrawer {
+        id: desk
+        onClosed: overlays.session.look()
+    }
+    ScreenKeyboard { objectName: "screenKeyboard" }
 
     // In the margin of the pages, where the user has no control.
     T.AbstractButton {

@@ -88,6 +88,7 @@ KitPage {
             InlineProblem {
                 Layout.fillWidth: true
                 Layout.leftMargin: ControlsStyle.margin
+                keepsRoom: true
                 text: page.session.jobs.problem
             }
             ListArea {

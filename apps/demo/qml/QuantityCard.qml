@@ -55,8 +55,8 @@ Card {
     }
     LabelText {
         Layout.fillWidth: true
-        text: qsTr("%1 to %2, jitter %3, %4").arg(card.shown(card.quantity.minimum)).arg(card.shown(card.quantity.maximum))
-              .arg(card.shown(card.quantity.jitter)).arg(card.quantity.limitText)
+        text: qsTr("%1 to %2, jitter %3").arg(card.shown(card.quantity.minimum)).arg(card.shown(card.quantity.maximum))
+              .arg(card.shown(card.quantity.jitter))
         wrapMode: Text.Wrap
     }
     LivePlot {
@@ -95,7 +95,7 @@ Card {
             PlotLimit {
                 upper: card.isMaximum ? card.quantity.limit : NaN
                 lower: card.isMaximum ? NaN : card.quantity.limit
-                label: qsTr("Limit")
+                label: card.quantity.limitText
             }
         }
     }

@@ -19,12 +19,18 @@ KitPage {
         return titleEntry.commit() && nameEntry.commit() && canSave && report.save()
     }
 
+    // A tap that bounces off a glove does not ask whether to overwrite what it has saved.
+    Timer {
+        id: secondTap
+        interval: Qt.styleHints.mouseDoubleClickInterval
+    }
+
     Accessible.name: qsTr("Report")
     footer: [
         BodyText {
             objectName: "reportState"
             Layout.fillWidth: true
-            text: page.report.formatProblem || page.state
+            text: page.report.formatProblem || page.report.nameProblem || page.state
             muted: true
             maximumLineCount: 2
             elide: Text.ElideMiddle
@@ -36,17 +42,23 @@ KitPage {
             enabled: page.session.hasResults
             text: qsTr("Preview")
             onClicked: {
-                if (titleEntry.commit())
-                    preview.item.show()
+                if (!titleEntry.commit())
+                    return
+                // Who is quicker than the loader waits for it.
+                preview.asynchronous = false
+                preview.item.show()
             }
         },
         TouchButton {
             objectName: "saveButton"
             iconName: "save"
             filled: true
-            enabled: page.canSave
+            enabled: page.canSave && !secondTap.running
             text: qsTr("Save")
-            onClicked: page.save()
+            onClicked: {
+                page.save()
+                secondTap.restart()
+            }
         }
     ]
 

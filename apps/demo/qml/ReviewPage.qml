@@ -16,6 +16,7 @@ KitPage {
             Layout.fillWidth: true
             text: page.changes.refusal
             keepsRoom: true
+            lines: 2
         },
         TouchButton {
             objectName: "revertAllButton"
@@ -43,7 +44,7 @@ KitPage {
         ListRow {
             Layout.fillWidth: true
             title: modelData.label
-            value: qsTr("%1 \u2192 %2").arg(modelData.before).arg(modelData.after)
+            value: qsTr("%1 \u2192 %2").arg(page.session.isolated(modelData.before)).arg(page.session.isolated(modelData.after))
             enabled: true
         }
     }

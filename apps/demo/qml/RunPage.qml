@@ -12,6 +12,17 @@ KitPage {
     readonly property LoopbackMeasurement measurement: session.measurement
     readonly property bool isFailed: measurement.state === LoopbackMeasurement.Failed
 
+    // A tap that bounces off a glove does not stop what it has started.
+    Timer {
+        id: secondTap
+        interval: Qt.styleHints.mouseDoubleClickInterval
+    }
+
+    function begin() {
+        measurement.start()
+        secondTap.start()
+    }
+
     Accessible.name: qsTr("Run")
     scrolls: false
     footer: [
@@ -40,7 +51,12 @@ KitPage {
             danger: page.measurement.running
             iconName: page.measurement.running ? "stop" : "run"
             text: page.measurement.running ? qsTr("Stop") : qsTr("Start")
-            onClicked: page.measurement.running ? page.measurement.cancel() : page.measurement.start()
+            onClicked: {
+                if (page.measurement.running && !secondTap.running)
+                    page.measurement.cancel()
+                else if (!page.measurement.running)
+                    page.begin()
+            }
         }
     ]
 

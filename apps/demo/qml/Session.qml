@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import UiUtils 1.0
+import UiUtils.Controls 1.0
 import UiUtils.Demo 1.0
 
 // What the pages share: the job in hand, its measurement, the report of it, and what holds the results until they are
@@ -31,7 +32,7 @@ QtObject {
     readonly property bool hasJob: jobId !== "" && basemgr_res_isJobActive.value === true
     readonly property bool hasDrive: typeof basemgr_res_usbAttached !== "undefined" && basemgr_res_usbAttached.value === true
     // Whether files are to go to a drive that is not there.
-    readonly property bool missesDrive: !hasDrive && typeof basemgr_cfg_saveLocation !== "undefined"
+    readonly property bool missesDrive: !hasDrive && typeof basemgr_cfg_saveLocation !== "undefined" && !!basemgr_cfg_saveLocation.enums
                                         && basemgr_cfg_saveLocation.value !== basemgr_cfg_saveLocation.enums.Internal
     readonly property string customer: typeof basemgr_cfg_customerInfo_name === "undefined" ? ""
                                      : known(basemgr_cfg_customerInfo_name.value)
@@ -43,14 +44,22 @@ QtObject {
     readonly property ReportDraft draft: ReportDraft {
         draftId: "loopback"
         report: session.report
-        onRestored: session.measurement.restore(data)
+        onRestored: {
+            // Results belong to the job for which they were measured.
+            if (data.job && data.job.jobId !== session.jobId && services.basemgr !== undefined)
+                session.jobs.open(data.job)
+            session.measurement.restore(data)
+        }
     }
     readonly property LoopbackReport report: LoopbackReport {
         measurement: session.measurement
         tag: "loopback"
         onContentWanted: session.builder.build()
         onReportOverwriteAccepted: save(true)
-        onFileWritten: session.isSaved = true
+        onFileWritten: {
+            session.isSaved = true
+            session.look()
+        }
     }
     readonly property ReportBuilder builder: ReportBuilder {
         measurement: session.measurement
@@ -70,8 +79,25 @@ QtObject {
         function onFinished() {
             session.isSaved = false
             session.builder.build()
-            session.draft.data = session.measurement.results()
+            const isTaken = session.jobs.taken && session.jobs.taken.jobId === session.jobId
+            session.draft.data = Object.assign({ job: isTaken ? session.jobs.taken : null }, session.measurement.results())
         }
+    }
+
+    // How full the unit's drive is, in percent; measured anew by look().
+    property real used: report.percentageFileSystemUsed()
+
+    function look() {
+        used = report.percentageFileSystemUsed()
+    }
+
+    // Numbers with units, and times, keep their own direction beside each other.
+    function isolated(text) {
+        return ControlsStyle.mirrored ? "\u2068" + text + "\u2069" : text
+    }
+
+    function timeText(time) {
+        return isolated(time.toLocaleString(Qt.locale(), Locale.ShortFormat))
     }
 
     // "34.5 kB"; decimal, like the sizes of drives.
@@ -81,7 +107,7 @@ QtObject {
         for (; bytes >= 999.5 && unit < units.length - 1; ++unit)
             bytes /= 1000
         const decimals = unit > 0 && bytes < 99.95 ? 1 : 0
-        return qsTr("%1 %2").arg(Number(bytes).toLocaleString(Qt.locale(), "f", decimals)).arg(units[unit])
+        return isolated(qsTr("%1 %2").arg(Number(bytes).toLocaleString(Qt.locale(), "f", decimals)).arg(units[unit]))
     }
 
     // The service writes "default" where nothing is set.

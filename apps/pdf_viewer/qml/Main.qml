@@ -21,6 +21,8 @@ ApplicationWindow {
     visibility: isFullScreen ? Window.FullScreen : Window.AutomaticVisibility
     flags: isFullScreen ? Qt.Window | Qt.FramelessWindowHint : Qt.Window
     background: Rectangle { color: Theme.desk }
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
 
     header: ViewerBar {
         title: window.title
@@ -43,6 +45,7 @@ ApplicationWindow {
             color: Theme.text
             font.pixelSize: Theme.bodyText
             wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignLeft
             verticalAlignment: Text.AlignVCenter
             Accessible.role: Accessible.AlertMessage
             Accessible.name: text
@@ -52,6 +55,9 @@ ApplicationWindow {
         id: pages
         objectName: "pages"
         anchors { left: parent.left; right: parent.right; top: repaired.bottom; bottom: parent.bottom }
+        // A page looks the same in every language.
+        LayoutMirroring.enabled: false
+        LayoutMirroring.childrenInherit: true
         focus: true
         document: window.document
         dotsPerInch: window.dotsPerInch

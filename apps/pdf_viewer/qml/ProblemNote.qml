@@ -28,6 +28,7 @@ Rectangle {
             color: Theme.invalid
             font { pixelSize: Theme.headingText; bold: true }
             wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignLeft
         }
         Text {
             width: parent.width
@@ -36,6 +37,7 @@ Rectangle {
             color: Theme.mutedText
             font.pixelSize: Theme.smallText
             wrapMode: Text.WrapAnywhere
+            horizontalAlignment: Text.AlignLeft
             maximumLineCount: 6
             elide: Text.ElideRight
         }
@@ -46,6 +48,7 @@ Rectangle {
             color: Theme.text
             font.pixelSize: Theme.bodyText
             wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignLeft
         }
     }
 }

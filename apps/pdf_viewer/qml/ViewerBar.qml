@@ -26,6 +26,8 @@ Rectangle {
             font.pixelSize: Theme.bodyText
             wrapMode: Text.Wrap
             maximumLineCount: 2
+            // Where the bar begins, in whatever language the title is.
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
             Accessible.role: Accessible.Heading
             Accessible.name: text
@@ -37,7 +39,7 @@ Rectangle {
             BarButton {
                 objectName: "previousButton"
                 isSign: true
-                text: "\u2039"
+                text: Theme.mirrored ? "\u203a" : "\u2039"
                 label: qsTr("Previous page")
                 enabled: bar.pages.page > 0
                 onClicked: bar.pages.goTo(bar.pages.page - 1)
@@ -63,7 +65,7 @@ Rectangle {
             BarButton {
                 objectName: "nextButton"
                 isSign: true
-                text: "\u203a"
+                text: Theme.mirrored ? "\u2039" : "\u203a"
                 label: qsTr("Next page")
                 enabled: bar.pages.page < bar.pages.count - 1
                 onClicked: bar.pages.goTo(bar.pages.page + 1)

@@ -4,10 +4,10 @@ import UiUtils 1.0
 import UiUtils.Controls 1.0
 
 KitPage {
-    title: "Buttons and texts"
+    title: qsTr("Buttons and texts")
     actions: [
-        IconButton { iconName: "camera"; name: "Take a screenshot" },
-        TouchButton { iconName: "run"; text: "Start"; filled: true }
+        IconButton { iconName: "camera"; name: qsTr("Take a screenshot") },
+        TouchButton { iconName: "run"; text: qsTr("Start"); filled: true }
     ]
 
     GridLayout {
@@ -20,43 +20,43 @@ KitPage {
             Layout.fillWidth: true
             Layout.preferredWidth: 1
             Layout.fillHeight: true
-            title: "Buttons"
+            title: qsTr("Buttons")
 
             Flow {
                 Layout.fillWidth: true
                 spacing: ControlsStyle.touchGap
 
-                TouchButton { text: "Save"; iconName: "save"; filled: true }
-                TouchButton { text: "Preview"; iconName: "preview" }
-                TouchButton { text: "Cancel"; quiet: true }
-                TouchButton { text: "Delete"; iconName: "delete"; danger: true }
-                TouchButton { text: "Overwrite"; filled: true; danger: true }
-                TouchButton { text: "Not now"; enabled: false }
-                TouchButton { text: "Not now"; filled: true; enabled: false }
-                TouchButton { width: ControlsStyle.mm(34); text: "A long text takes a second line"; iconName: "sync" }
+                TouchButton { text: qsTr("Save"); iconName: "save"; filled: true }
+                TouchButton { text: qsTr("Preview"); iconName: "preview" }
+                TouchButton { text: qsTr("Cancel"); quiet: true }
+                TouchButton { text: qsTr("Delete"); iconName: "delete"; danger: true }
+                TouchButton { text: qsTr("Overwrite"); filled: true; danger: true }
+                TouchButton { text: qsTr("Not now"); enabled: false }
+                TouchButton { text: qsTr("Not now"); filled: true; enabled: false }
+                TouchButton { width: ControlsStyle.mm(34); text: qsTr("A long text takes a second line"); iconName: "sync" }
             }
         }
         Card {
             Layout.fillWidth: true
             Layout.preferredWidth: 1
             Layout.fillHeight: true
-            title: "Texts"
+            title: qsTr("Texts")
 
-            TitleText { Layout.fillWidth: true; text: "The title of a page" }
-            HeadingText { Layout.fillWidth: true; text: "The heading of a card" }
-            BodyText { Layout.fillWidth: true; text: "A text that people read, which wraps where the line ends." }
-            BodyText { Layout.fillWidth: true; muted: true; text: "A text of less importance." }
+            TitleText { Layout.fillWidth: true; wrapMode: Text.Wrap; text: qsTr("The title of a page") }
+            HeadingText { Layout.fillWidth: true; text: qsTr("The heading of a card") }
+            BodyText { Layout.fillWidth: true; text: qsTr("A text that people read, which wraps where the line ends.") }
+            BodyText { Layout.fillWidth: true; muted: true; text: qsTr("A text of less importance.") }
             LabelText {
                 readonly property bool mayElide: true
                 Layout.fillWidth: true
-                text: "A label, which ends in an ellipsis where there is no room for it"
+                text: qsTr("A label, which ends in an ellipsis where there is no room for it")
             }
             FigureText { Layout.fillWidth: true; text: "-12.47 dBm" }
         }
         Card {
             Layout.fillWidth: true
             Layout.columnSpan: parent.columns
-            title: "Icons"
+            title: qsTr("Icons")
 
             Flow {
                 Layout.fillWidth: true

@@ -10,8 +10,8 @@ KitPage {
     readonly property var items: [optical_cfg_cable_1, optical_cfg_wavelength, optical_cfg_offset, optical_cfg_duration, optical_cfg_collector,
         optical_cfg_storeTraces, optical_cfg_backscatter, optical_cfg_calibration, optical_res_loss, optical_cfg_stages]
 
-    title: "Entries"
-    subtitle: "ItemEntry over items of the optical service"
+    title: qsTr("Entries")
+    subtitle: qsTr("ItemEntry over items of the optical service")
     service: "optical"
 
     Card {

@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
+import UiUtils 1.0
 import UiUtils.Controls 1.0
 
 // The components of UiUtils.Controls, in groups:
@@ -19,14 +20,24 @@ Rectangle {
 
         StatusBar {
             Layout.fillWidth: true
-            title: "Gallery"
+            title: qsTr("Gallery")
             items: [
-                StatusItem { iconName: "battery"; name: "Battery"; text: "82 %" },
+                StatusItem { iconName: "battery"; name: qsTr("Battery"); text: "82 %" },
+                StatusItem {
+                    objectName: "languageItem"
+                    iconName: "language"
+                    name: qsTr("Language")
+                    text: Languages.name
+                    onClicked: {
+                        const codes = Languages.available.map(language => language.code)
+                        Languages.current = codes[(codes.indexOf(Languages.current) + 1) % codes.length]
+                    }
+                },
                 StatusItem {
                     objectName: "themeItem"
                     iconName: "theme"
-                    name: "Theme"
-                    text: ControlsStyle.theme
+                    name: qsTr("Theme")
+                    text: ({ light: qsTr("light"), dark: qsTr("dark"), sunlight: qsTr("sunlight") })[ControlsStyle.theme]
                     onClicked: {
                         const themes = ControlsStyle.themes
                         ControlsStyle.theme = themes[(themes.indexOf(ControlsStyle.theme) + 1) % themes.length]

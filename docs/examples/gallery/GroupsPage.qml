@@ -7,16 +7,16 @@ KitPage {
     id: page
 
     readonly property var groups: [
-        { file: "ButtonsPage.qml", icon: "run", title: "Buttons and texts", note: "Buttons, icons, cards and the sizes of texts" },
-        { file: "ListsPage.qml", icon: "results", title: "Lists", note: "Rows, sections and what stands there when a list is empty" },
-        { file: "EntriesPage.qml", icon: "edit", title: "Entries", note: "The entry for every kind of item" },
-        { file: "NumbersPage.qml", icon: "settings", title: "Choices and numbers", note: "Segments, steppers and sliders that keep an item's limits" },
-        { file: "DatesPage.qml", icon: "calendar", title: "Date and time", note: "Typed as the locale writes them, or picked" },
-        { file: "StatusPage.qml", icon: "bell", title: "Status and messages", note: "Verdicts, progress, problems and services that are away" },
-        { file: "PagesPage.qml", icon: "files", title: "Pages", note: "The stack of pages, tabs and the line at the top" }
+        { file: "ButtonsPage.qml", icon: "run", title: qsTr("Buttons and texts"), note: qsTr("Buttons, icons, cards and the sizes of texts") },
+        { file: "ListsPage.qml", icon: "results", title: qsTr("Lists"), note: qsTr("Rows, sections and what stands there when a list is empty") },
+        { file: "EntriesPage.qml", icon: "edit", title: qsTr("Entries"), note: qsTr("The entry for every kind of item") },
+        { file: "NumbersPage.qml", icon: "settings", title: qsTr("Choices and numbers"), note: qsTr("Segments, steppers and sliders that keep an item's limits") },
+        { file: "DatesPage.qml", icon: "calendar", title: qsTr("Date and time"), note: qsTr("Typed as the locale writes them, or picked") },
+        { file: "StatusPage.qml", icon: "bell", title: qsTr("Status and messages"), note: qsTr("Verdicts, progress, problems and services that are away") },
+        { file: "PagesPage.qml", icon: "files", title: qsTr("Pages"), note: qsTr("The stack of pages, tabs and the line at the top") }
     ]
 
-    title: "Components"
+    title: qsTr("Components")
 
     GridLayout {
         Layout.fillWidth: true

@@ -4,8 +4,8 @@ import UiUtils 1.0
 import UiUtils.Controls 1.0
 
 KitPage {
-    title: "Lists"
-    subtitle: "Rows of 11 mm and more, which may touch"
+    title: qsTr("Lists")
+    subtitle: qsTr("Rows of 11 mm and more, which may touch")
 
     RowLayout {
         Layout.fillWidth: true
@@ -28,9 +28,9 @@ KitPage {
 
                 Repeater {
                     model: [
-                        { title: "Lindhof exchange", note: "JOB-4711, 3 tests", value: "14:20", status: Status.Pass },
-                        { title: "Trunk 12, manhole 4 to the bridge at the old brewery", note: "JOB-4712, 1 test", value: "11:05", status: Status.Fail },
-                        { title: "Harbour ring", note: "JOB-4713, 8 tests", value: "yesterday", status: Status.Marginal },
+                        { title: "Lindhof exchange", note: qsTr("JOB-4711, 3 tests"), value: "14:20", status: Status.Pass },
+                        { title: "Trunk 12, manhole 4 to the bridge at the old brewery", note: qsTr("JOB-4712, 1 test"), value: "11:05", status: Status.Fail },
+                        { title: "Harbour ring", note: qsTr("JOB-4713, 8 tests"), value: qsTr("yesterday"), status: Status.Marginal },
                         { title: "School, building C", note: "JOB-4714", value: "", status: Status.None }
                     ]
 
@@ -58,8 +58,8 @@ KitPage {
 
                 Section {
                     Layout.fillWidth: true
-                    title: "Files"
-                    note: "A section whose contents fold away"
+                    title: qsTr("Files")
+                    note: qsTr("A section whose contents fold away")
                     collapsible: true
 
                     ListRow {
@@ -70,8 +70,8 @@ KitPage {
                         title: "lindhof-17.pdf"
                         subtitle: "218 kB"
                         trailing: [
-                            IconButton { iconName: "open"; name: "Open" },
-                            IconButton { iconName: "delete"; name: "Delete"; danger: true }
+                            IconButton { iconName: "open"; name: qsTr("Open") },
+                            IconButton { iconName: "delete"; name: qsTr("Delete"); danger: true }
                         ]
                     }
                     ListRow {
@@ -81,7 +81,7 @@ KitPage {
                         iconName: "report"
                         title: "lindhof-16.pdf"
                         enabled: false
-                        value: "being copied"
+                        value: qsTr("being copied")
                     }
                 }
             }
@@ -91,9 +91,9 @@ KitPage {
                 EmptyState {
                     Layout.fillWidth: true
                     iconName: "camera"
-                    title: "No screenshots"
-                    text: "Tap the camera at the top of a page to keep what it shows."
-                    actionText: "Take one"
+                    title: qsTr("No screenshots")
+                    text: qsTr("Tap the camera at the top of a page to keep what it shows.")
+                    actionText: qsTr("Take one")
                 }
             }
         }

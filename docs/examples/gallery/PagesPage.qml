@@ -6,13 +6,13 @@ import UiUtils.Controls 1.0
 KitPage {
     id: page
 
-    title: "Pages"
-    subtitle: "Page %1 of the stack".arg(stack ? stack.depth : 1)
+    title: qsTr("Pages")
+    subtitle: qsTr("Page %1 of the stack").arg(stack ? stack.depth : 1)
     footer: [
-        BodyText { Layout.fillWidth: true; text: "The footer stays where it is."; muted: true },
-        TouchButton { text: "Home"; iconName: "home"; onClicked: page.stack.home() },
+        BodyText { Layout.fillWidth: true; text: qsTr("The footer stays where it is."); muted: true },
+        TouchButton { text: qsTr("Home"); iconName: "home"; onClicked: page.stack.home() },
         TouchButton {
-            text: "Next page"
+            text: qsTr("Next page")
             filled: true
             onClicked: page.stack.push(Qt.resolvedUrl("PagesPage.qml"))
         }
@@ -24,12 +24,12 @@ KitPage {
 
         TouchTabs {
             Layout.fillWidth: true
-            model: ["Overview", "Events", { text: "Curve", icon: "plot" }]
+            model: [qsTr("Overview"), qsTr("Events"), { text: qsTr("Curve"), icon: "plot" }]
         }
         BodyText {
             Layout.fillWidth: true
             Layout.margins: ControlsStyle.margin
-            text: "Tabs above the contents. The arrow keys go from tab to tab."
+            text: qsTr("Tabs above the contents. The arrow keys go from tab to tab.")
         }
     }
     Card {
@@ -39,14 +39,14 @@ KitPage {
         BodyText {
             Layout.fillWidth: true
             Layout.margins: ControlsStyle.margin
-            text: "Tabs below the contents are the navigation of a program."
+            text: qsTr("Tabs below the contents are the navigation of a program.")
         }
         TouchTabs {
             Layout.fillWidth: true
             navigation: true
             currentIndex: 2
-            model: [{ text: "Home", icon: "home" }, { text: "Set-up", icon: "settings" }, { text: "Run", icon: "run" },
-                { text: "Results", icon: "results", marked: true }, { text: "Report", icon: "report" }, { text: "Files", icon: "files" }]
+            model: [{ text: qsTr("Home"), icon: "home" }, { text: qsTr("Set-up"), icon: "settings" }, { text: qsTr("Run"), icon: "run" },
+                { text: qsTr("Results"), icon: "results", marked: true }, { text: qsTr("Report"), icon: "report" }, { text: qsTr("Files"), icon: "files" }]
         }
     }
 }

@@ -1,6 +1,6 @@
 #include "languages/languages.h"
 
-#include "languages/catalogues_p.h"
+#include "base/catalogues_p.h"
 
 #include <QCoreApplication>
 #include <QPointer>

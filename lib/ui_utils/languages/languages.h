@@ -17,10 +17,10 @@ namespace uiutils {
 /// The language that the application speaks, and those that it can speak. In QML: the singleton Languages.
 ///
 /// A language is a code such as "de" or "pt_BR". It has catalogues: files "uiutils_LANGUAGE.qm" for the library and
-/// "APPLICATION_LANGUAGE.qm", with the name of the application, for the application's own texts. They are looked for in
-/// the installed folder share/uiutils/translations and in the folders that open() gets. English, the language of the
-/// sources, needs none. A damaged file counts for nothing, and the log has a line. The application remembers the
-/// user's choice; this class does not.
+/// "APPLICATION_LANGUAGE.qm", with the name of the application, in the installed folder share/uiutils/translations, and
+/// all files "NAME_LANGUAGE.qm" in the folders that open() gets. English, the language of the sources, needs none. A
+/// damaged file counts for nothing, and the log has a line. The application remembers the user's choice; this class does
+/// not.
 ///
 /// When the language changes, so do the default QLocale and the layout direction of the application; every binding in
 /// the pages of all followed engines is evaluated again, and labels of items and of the library's own settings change.

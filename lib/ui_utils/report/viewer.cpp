@@ -1,6 +1,7 @@
 #include "report/viewer_p.h"
 
 #include "base/paths_p.h"
+#include "languages/languages.h"
 #include "report/reportformats_p.h"
 
 #include <QFileInfo>
@@ -34,7 +35,15 @@ void startViewer(const QString& path, const QString& windowTitle)
 {
     QStringList arguments = QStringLiteral("-plugin EvdevTouch:/dev/input/event1 --dpy 85 -s").split(QLatin1Char(' '));
     arguments << onDisk(path) << QStringLiteral("-t") << windowTitle;
-    QProcess::startDetached(onDisk(paths::pdfViewer), arguments, onDisk(paths::pdfViewerFolder));
+    QProcess viewer;
+    viewer.setProgram(onDisk(paths::pdfViewer));
+    viewer.setArguments(arguments);
+    viewer.setWorkingDirectory(onDisk(paths::pdfViewerFolder));
+    // It speaks as this application does now, whatever the language of the system.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LANGUAGE"), Languages::instance()->current());
+    viewer.setProcessEnvironment(environment);
+    viewer.startDetached();
 }
 
 bool isForDesktop(const QString& path)

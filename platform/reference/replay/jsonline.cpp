@@ -1,9 +1,9 @@
 #include "jsonline_p.h"
 
-#include <QLocale>
-
 #include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <iterator>
 
 namespace kiv::replay {
 
@@ -58,12 +58,24 @@ void appendOthers(QByteArray* line, const QString& text)
     }
 }
 
+/// What Qt makes of a number takes several times as long.
+template<class Number> void appendDigits(QByteArray* line, Number number)
+{
+    char digits[32];
+    const std::to_chars_result end = std::to_chars(std::begin(digits), std::end(digits), number);
+    line->append(digits, int(end.ptr - digits));
+}
+
 void appendNumber(QByteArray* line, double number)
 {
-    if (std::isfinite(number))
-        line->append(QByteArray::number(number, 'g', QLocale::FloatingPointShortest));
-    else
+    // Up to here people read digits more easily than exponents.
+    constexpr double mostWhole = 1e15;
+    if (!std::isfinite(number))
         line->append(std::isnan(number) ? "\"nan\"" : number > 0 ? "\"inf\"" : "\"-inf\"");
+    else if (std::abs(number) < mostWhole && number == std::floor(number) && (number != 0 || !std::signbit(number)))
+        appendDigits(line, qint64(number));
+    else
+        appendDigits(line, number);
 }
 
 template<class List> void appendList(QByteArray* line, const List& list)
@@ -100,10 +112,13 @@ void appendMap(QByteArray* line, const QVariantMap& map)
 void appendText(QByteArray* line, const QString& text)
 {
     line->append('"');
-    if (std::all_of(text.cbegin(), text.cend(), isPlain))
-        line->append(text.toLatin1());
-    else
+    if (std::all_of(text.cbegin(), text.cend(), isPlain)) {
+        const int begin = line->size();
+        line->resize(begin + text.size());
+        std::transform(text.cbegin(), text.cend(), line->begin() + begin, [](QChar c) { return char(c.unicode()); });
+    } else {
         appendOthers(line, text);
+    }
     line->append('"');
 }
 
@@ -119,11 +134,11 @@ void appendValue(QByteArray* line, const QVariant& value)
         break;
     case QMetaType::Int:
     case QMetaType::LongLong:
-        line->append(QByteArray::number(value.toLongLong()));
+        appendDigits(line, value.toLongLong());
         break;
     case QMetaType::UInt:
     case QMetaType::ULongLong:
-        line->append(QByteArray::number(value.toULongLong()));
+        appendDigits(line, value.toULongLong());
         break;
     case QMetaType::Float:
     case QMetaType::Double:

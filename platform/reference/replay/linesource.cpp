@@ -72,6 +72,7 @@ LineSource::~LineSource() = default;
 
 bool LineSource::open(const QString& path, QString* problem)
 {
+    m_file.close();
     m_file.setFileName(path);
     // It is read more than once.
     if (QFileInfo::exists(path) && !QFileInfo(path).isFile()) {

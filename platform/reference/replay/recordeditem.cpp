@@ -138,11 +138,6 @@ QByteArray membersJson(const KIVClientItem& item, const QByteArray& before)
     return QByteArray();
 }
 
-bool hasMembers(const KIVClientItem& item)
-{
-    return item.getType() == KIVClientItem::TypeAggregate || item.getType() == KIVClientItem::TypeListAggregate;
-}
-
 void appendDescription(
         QByteArray* line, const KIVClientItem& item, const QuietFacts& quiet, const QByteArray& members)
 {

@@ -36,9 +36,6 @@ QByteArray choicesJson(const KIVClientItem& item);
 /// are those of the present value, and of `before` where there is none.
 QByteArray membersJson(const KIVClientItem& item, const QByteArray& before);
 
-/// Whether the item's value has members.
-bool hasMembers(const KIVClientItem& item);
-
 /// Appends everything that the item says to the line of a recording that names it.
 void appendDescription(
         QByteArray* line, const KIVClientItem& item, const QuietFacts& quiet, const QByteArray& members);

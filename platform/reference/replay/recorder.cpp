@@ -9,6 +9,7 @@
 
 #include <QSet>
 
+#include <algorithm>
 #include <utility>
 
 namespace kiv::replay {
@@ -16,8 +17,10 @@ namespace kiv::replay {
 namespace {
 
 constexpr int lookMs = 200;
-constexpr int itemsPerLook = 200;
+constexpr int itemsPerLook = 100;
 constexpr int usualLine = 4096;
+/// Most lines have it.
+const QLatin1String valueField(",\"value\":");
 
 /// What screens ask items for beside what has an accessor.
 QStringList knownAttributes()
@@ -170,12 +173,15 @@ void Recorder::recordValue(Watched* watched)
 {
     const KIVClientItem& item = *watched->item;
     // A value may be the first to show which types its members have.
-    if (hasMembers(item) && membersJson(item, watched->members) != watched->members) {
+    if (!watched->members.isEmpty() && membersJson(item, watched->members) != watched->members) {
         describe(watched);
         ++m_counts.changes;
         return;
     }
-    recordField(*watched, "value", item.getValue());
+    begin(watched->place);
+    m_line.append(valueField.data(), valueField.size());
+    appendValue(&m_line, item.getValue());
+    endChange();
 }
 
 /// The unit of a formatter follows the value without being recorded.
@@ -244,20 +250,24 @@ void Recorder::lookAround(int count)
 
 void Recorder::begin(const QByteArray& place)
 {
+    const qint64 now = m_clock();
+    if (now != m_lineTime || m_lineBegin.isEmpty()) {
+        m_lineTime = now;
+        m_lineBegin = "{\"t\":" + QByteArray::number(now);
+    }
     // Keeps what it has allocated.
-    m_line.resize(0);
-    m_line.append("{\"t\":").append(QByteArray::number(m_clock())).append(place);
+    m_line.resize(m_lineBegin.size() + place.size());
+    std::copy(place.cbegin(), place.cend(), std::copy(m_lineBegin.cbegin(), m_lineBegin.cend(), m_line.begin()));
 }
 
 /// Returns false when the line says too much to be read again.
 bool Recorder::end()
 {
-    m_line.append('}');
+    m_line.append("}\n", 2);
     if (!isReadable(m_line)) {
         ++m_counts.leftOut;
         return false;
     }
-    m_line.append('\n');
     m_sink(m_line);
     return true;
 }

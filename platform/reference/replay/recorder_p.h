@@ -101,6 +101,9 @@ private:
     QStringList m_attributes;
     std::map<const KIVClientInterface*, std::unique_ptr<Followed>> m_services;
     QByteArray m_line;
+    /// How lines of a moment begin; many changes come at once.
+    QByteArray m_lineBegin;
+    qint64 m_lineTime = 0;
     QTimer m_looks;
     /// Where lookAround() goes on.
     const KIVClientInterface* m_lookedAt = nullptr;

@@ -91,10 +91,13 @@ void RecordingFile::append(const QByteArray& lines)
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (!m_problem.isEmpty() || m_isEnding)
             return;
-        isFull = m_pending.size() + lines.size() > mostPending;
+        const int before = m_pending.size();
+        isFull = before + lines.size() > mostPending;
         if (!isFull)
             m_pending += lines;
-        if (m_pending.size() < fullPiece && !isFull)
+        // The thread is woken once, however long it takes to come.
+        const bool isPiece = before < fullPiece && m_pending.size() >= fullPiece;
+        if (!isPiece && !isFull)
             return;
     }
     if (isFull)
@@ -135,8 +138,11 @@ qint64 RecordingFile::size() const
 void RecordingFile::work()
 {
     Clock::time_point synced = Clock::now();
+    // It and what is pending take turns, and keep what they have allocated.
+    QByteArray piece;
+    piece.reserve(2 * fullPiece);
     for (bool isLast = false; !isLast;) {
-        QByteArray piece;
+        piece.resize(0);
         {
             std::unique_lock<std::mutex> lock(m_mutex);
             m_wake.wait_for(lock, writeInterval,

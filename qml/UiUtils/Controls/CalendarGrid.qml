@@ -17,7 +17,7 @@ FocusScope {
     readonly property var days: Moments.weeks(parts.year, parts.month, firstDay)
 
     // Whether the short names of the days fit.
-    property bool hasRoom: true
+    readonly property bool hasRoom: [0, 1, 2, 3, 4, 5, 6].every(column => labelMetrics.advanceWidth(dayName(column, Locale.ShortFormat)) <= ControlsStyle.touch)
     // Whether the user is at the keys, and should see where they lead.
     property bool usesKeys: false
 
@@ -54,6 +54,10 @@ FocusScope {
     Accessible.focusable: true
     Keys.onPressed: handle(event)
 
+    FontMetrics {
+        id: labelMetrics
+        font.pixelSize: ControlsStyle.labelText
+    }
     Grid {
         id: grid
         columns: 7
@@ -68,7 +72,6 @@ FocusScope {
                 text: calendar.dayName(index, calendar.hasRoom ? Locale.ShortFormat : Locale.NarrowFormat)
                 elide: Text.ElideNone
                 horizontalAlignment: Text.AlignHCenter
-                Component.onCompleted: calendar.hasRoom = calendar.hasRoom && implicitWidth <= width
             }
         }
         Repeater {
@@ -81,7 +84,7 @@ FocusScope {
                 checked: day.month === calendar.parts.month && day.day === calendar.parts.day
                 isWithin: day.month === calendar.parts.month
                 enabled: calendar.isPermitted(day)
-                text: Moments.written(day, Qt.locale(), "d")
+                text: Moments.writtenDate(day, Qt.locale(), "d")
                 Accessible.name: Moments.toDate(day).toLocaleDateString(Qt.locale(), Locale.LongFormat)
                 onClicked: calendar.picked(day)
 

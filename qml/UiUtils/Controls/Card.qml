@@ -24,13 +24,12 @@ T.Control {
     Accessible.name: title
 
     contentItem: Item {
-        implicitWidth: column.implicitWidth
-
         ColumnLayout {
             id: column
             width: parent.width
             spacing: card.spacing
-            // As a binding it would be evaluated within itself, when a text takes another line.
+            // As bindings they would be evaluated within themselves, when a text takes another line.
+            onImplicitWidthChanged: parent.implicitWidth = implicitWidth
             onImplicitHeightChanged: parent.implicitHeight = implicitHeight
 
             // A card that is higher than its contents has them at the top, unless one of them wants the height.

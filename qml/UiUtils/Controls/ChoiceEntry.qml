@@ -11,7 +11,12 @@ Entry {
     /// Choices of an entry without an item, as { label, value }.
     property var choices: face.choices
 
-    readonly property int position: choices.findIndex(choice => choice.value === Number(currentValue))
+    readonly property int position: choices.findIndex(choice => choice.value === numberOf(currentValue))
+
+    // No value is not the number 0.
+    function numberOf(value) {
+        return value === null || value === "" ? NaN : Number(value)
+    }
 
     // For a value that is not offered the item gives the label.
     function labelOf(value) {
@@ -27,7 +32,7 @@ Entry {
 
     function take(index) {
         const chosen = choices[index]
-        if (chosen && chosen.value !== Number(currentValue) && store(chosen.value) === "")
+        if (chosen && chosen.value !== numberOf(currentValue) && store(chosen.value) === "")
             committed(chosen.value)
         box.currentIndex = Qt.binding(() => entry.position)
     }
@@ -96,7 +101,7 @@ Entry {
             isInvalid: entry.isInvalid
             quality: entry.face.quality
 
-            FocusFrame { control: box }
+            FocusWatch { control: box }
         }
         popup: ChoiceList { box: box }
         delegate: ChoiceRow {

@@ -115,8 +115,6 @@ FocusScope {
     visible: face.isApplicable
     implicitWidth: ControlsStyle.mm(60)
     implicitHeight: column.implicitHeight
-    // Above the entries that follow.
-    z: noteLine.isOpen ? 1 : 0
 
     ItemFace {
         id: face
@@ -208,6 +206,7 @@ FocusScope {
             isProblem: entry.isInvalid && entry.isReady
             isNews: entry.news !== ""
             isActive: entry.activeFocus
+            editor: slot
         }
     }
 }

@@ -274,7 +274,7 @@ Entry {
                 sourceComponent: entry.tool
             }
         }
-        FocusFrame { control: field }
+        FocusWatch { control: field }
     }
 
     Loader {

@@ -41,8 +41,6 @@ FocusScope {
     visible: face.hasItem && face.isApplicable
     implicitWidth: loader.implicitWidth
     implicitHeight: loader.implicitHeight
-    // What it says may lie over the entries that follow.
-    z: entry ? entry.z : 0
 
     ItemFace {
         id: face

@@ -17,29 +17,45 @@ NumberFace {
 
         T.Slider {
             id: slider
+            // Keys press it, too.
+            property bool isByKey: false
+
             objectName: "slider"
             Layout.fillWidth: true
             implicitHeight: ControlsStyle.touch
             focus: true
             enabled: entry.hasLine
-            from: entry.hasLine ? entry.least : 0
-            to: entry.hasLine ? entry.most : 1
+            // From multiple to multiple of the step, of which the slider counts from its begin; what it sets stays within
+            // the limits.
+            from: entry.hasLine ? Math.floor(Steps.clean(entry.least / entry.stepSize)) * entry.stepSize : 0
+            to: entry.hasLine ? Math.ceil(Steps.clean(entry.most / entry.stepSize)) * entry.stepSize : 1
             stepSize: entry.stepSize
             snapMode: T.Slider.SnapAlways
             Accessible.name: entry.label
             Accessible.description: [entry.numberText, entry.note].filter(part => part !== "").join(", ")
-            onMoved: entry.draft = Steps.clean(value)
+            onMoved: entry.draft = isByKey ? Steps.next(entry.number, value < entry.number ? -1 : 1, entry.stepSize, entry.least, entry.most)
+                                           : Steps.nearest(value, entry.stepSize, entry.least, entry.most)
             onPressedChanged: {
-                if (!pressed)
-                    entry.commit()
+                if (pressed)
+                    return
+                entry.commit()
+                // What was beyond a limit did not change the number, so that the binding does not know of it.
+                value = entry.number
+            }
+            Keys.onPressed: {
+                isByKey = true
+                event.accepted = false
             }
             onActiveFocusChanged: {
                 if (!activeFocus)
                     entry.commit()
             }
             Keys.onReleased: {
-                if (!event.isAutoRepeat)
-                    entry.commit()
+                event.accepted = false
+                if (event.isAutoRepeat)
+                    return
+                isByKey = false
+                entry.commit()
             }
 
             // The user's gesture has ended the binding.

@@ -97,7 +97,7 @@ NumberFace {
                 font.weight: Font.DemiBold
                 Accessible.ignored: true
             }
-            FocusFrame {}
+            FocusWatch {}
         }
         StepButton {
             objectName: "moreButton"

@@ -99,6 +99,7 @@ FocusScope {
             padding: ControlsStyle.margin
         }
         Rectangle {
+            id: foot
             Layout.fillWidth: true
             implicitHeight: footerRow.implicitHeight + 2 * ControlsStyle.touchGap
             visible: footerRow.children.length > 0
@@ -116,12 +117,15 @@ FocusScope {
             }
         }
     }
-    // Back stays within reach.
+    // Over the title, where Back stays within reach; a page without a title has it over the footer.
     Loader {
+        readonly property bool isBelow: !header.visible && foot.visible
+
         active: page.service !== ""
-        anchors { left: parent.left; right: parent.right; top: parent.top; margins: ControlsStyle.gap / 2 }
-        anchors.leftMargin: page.hasBack ? ControlsStyle.touch + 2 * ControlsStyle.gap : ControlsStyle.gap
-        height: Math.max(header.height, ControlsStyle.touch)
+        x: ControlsStyle.mirrored || isBelow ? ControlsStyle.gap / 2 : page.width - width - ControlsStyle.gap / 2
+        y: isBelow ? foot.y : ControlsStyle.gap / 2
+        width: page.width - ControlsStyle.gap / 2 - (page.hasBack && !isBelow ? ControlsStyle.touch + 2 * ControlsStyle.gap : ControlsStyle.gap / 2)
+        height: isBelow ? foot.height : Math.max(header.height, ControlsStyle.touch)
         z: 5
 
         sourceComponent: ServiceBanner {

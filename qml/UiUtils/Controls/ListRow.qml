@@ -139,5 +139,5 @@ T.ItemDelegate {
         }
     }
 
-    FocusFrame { within: true }
+    FocusWatch { within: true }
 }

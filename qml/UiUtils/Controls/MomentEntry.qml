@@ -16,7 +16,7 @@ FieldEntry {
     readonly property var parts: Moments.partsOf(currentValue, hasDate, hasTime)
 
     function shown(parts) {
-        return Moments.written(parts, Qt.locale(), Moments.format(Qt.locale(), hasDate, hasTime))
+        return Moments.written(parts, Qt.locale(), hasDate, hasTime)
     }
 
     function textOf(value) {
@@ -50,12 +50,17 @@ FieldEntry {
             : !hasDate ? qsTr("This is not a time, such as %1").arg(example) : qsTr("This is not a date and time, such as %1").arg(example)
     }
 
-    /// Opens the picker; `isByKey` for users who see where the keys lead.
-    function openPicker(isByKey) {
+    /// Opens the picker.
+    function openPicker() {
+        openPickerFor(false)
+    }
+
+    // `isByKey` for users who see where the keys lead.
+    function openPickerFor(isByKey) {
         if (!isReady || readOnly)
             return
         pickerLoader.active = true
-        pickerLoader.item.start(Moments.parse(text, Qt.locale(), hasDate, hasTime) || parts, isByKey === true)
+        pickerLoader.item.start(Moments.parse(text, Qt.locale(), hasDate, hasTime) || parts, isByKey)
     }
 
     rangeText: ""
@@ -66,7 +71,7 @@ FieldEntry {
         objectName: "pickerButton"
         iconName: entry.hasDate ? "calendar" : "clock"
         name: qsTr("Choose: %1").arg(entry.label)
-        onClicked: entry.openPicker(visualFocus)
+        onClicked: entry.openPickerFor(visualFocus)
     }
 
     Loader {

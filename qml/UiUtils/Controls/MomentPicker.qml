@@ -28,10 +28,6 @@ ModalDialog {
         first.forceActiveFocus(isByKey ? Qt.TabFocusReason : Qt.MouseFocusReason)
     }
 
-    function write(format) {
-        return Moments.written(parts, Qt.locale(), format)
-    }
-
     function move(months, days) {
         parts = Moments.moved(parts, months, days)
     }
@@ -81,14 +77,14 @@ ModalDialog {
                     wrapMode: Text.NoWrap
                     fontSizeMode: Text.HorizontalFit
                     minimumPixelSize: ControlsStyle.bodyText
-                    text: picker.write(Moments.format(Qt.locale(), picker.hasDate, picker.hasTime))
+                    text: Moments.written(picker.parts, Qt.locale(), picker.hasDate, picker.hasTime)
                     color: picker.isPermitted ? ControlsStyle.text : ControlsStyle.invalid
                 }
                 TurnLine {
                     Layout.fillWidth: true
                     visible: picker.hasDate
                     name: qsTr("Year")
-                    text: picker.write("yyyy")
+                    text: Moments.writtenDate(picker.parts, Qt.locale(), "yyyy")
                     onTurned: picker.move(12 * direction, 0)
                 }
                 TurnLine {
@@ -105,7 +101,7 @@ ModalDialog {
                     Layout.fillWidth: true
                     visible: picker.hasTime
                     name: qsTr("Hour")
-                    text: picker.write(Moments.hourFormat(Qt.locale()))
+                    text: Moments.writtenTime(picker.parts, Qt.locale(), Moments.hourFormat(Qt.locale()))
                     onTurned: picker.turn("hour", 24, direction)
                 }
                 TurnLine {
@@ -113,7 +109,7 @@ ModalDialog {
                     Layout.fillWidth: true
                     visible: picker.hasTime
                     name: qsTr("Minute")
-                    text: picker.write("mm")
+                    text: Moments.writtenTime(picker.parts, Qt.locale(), "mm")
                     onTurned: picker.turn("minute", 60, direction)
                 }
                 Item { Layout.fillHeight: true }

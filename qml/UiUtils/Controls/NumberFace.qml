@@ -13,18 +13,19 @@ Entry {
     /// Decimals that are shown; -1 for as many as the value needs.
     property int decimals: face.decimals
 
+    readonly property bool isWhole: Formats.isWholeType(type)
     readonly property real stepSize: Steps.stepOf(step, face.item && face.item.getProperty ? face.item.getProperty("increment") : undefined,
-                                                  Formats.isWholeType(type) ? 0 : decimals)
+                                                  decimals, isWhole)
     readonly property real least: Math.max(Formats.typeLimits(type)[0], minimum === undefined ? -Infinity : Number(minimum))
     readonly property real most: Math.min(Formats.typeLimits(type)[1], maximum === undefined ? Infinity : Number(maximum))
     // What the present gesture has set; undefined without one.
     property var draft
-    readonly property real number: {
-        const shown = Number(draft === undefined ? currentValue : draft)
-        return isNaN(shown) ? isFinite(least) ? least : 0 : shown
-    }
+    // What a gesture begins with where there is no value.
+    readonly property real begin: isFinite(least) ? least : Math.min(0, most)
+    readonly property real number: draft !== undefined ? draft : hasValue ? Number(currentValue) : begin
+    readonly property bool hasValue: currentValue !== undefined && currentValue !== null && currentValue !== "" && isFinite(Number(currentValue))
     readonly property string numberText: textOf(number) + (unit === "" ? "" : " " + unit)
-    readonly property bool hasNumber: draft !== undefined || currentValue !== undefined && currentValue !== null && currentValue !== ""
+    readonly property bool hasNumber: draft !== undefined || hasValue
 
     function textOf(number) {
         const plain = decimals >= 0 ? number.toFixed(decimals) : String(Steps.clean(number))

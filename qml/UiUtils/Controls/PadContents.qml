@@ -9,7 +9,8 @@ FocusScope {
     property var pad
     property var form
 
-    readonly property real smallLine: Math.ceil(small.height)
+    // Of the same height in all scripts.
+    readonly property int smallLine: Math.ceil(1.3 * ControlsStyle.smallText)
     // The low form has the display beside the words.
     readonly property real half: form.isLow ? (width - ControlsStyle.touchGap) / 2 : width
 
@@ -42,8 +43,6 @@ FocusScope {
     Accessible.role: Accessible.Dialog
     Accessible.name: label.text
 
-    FontMetrics { id: small; font.pixelSize: ControlsStyle.smallText }
-
     Text {
         id: label
         x: ControlsStyle.mirrored ? contents.width - width : 0
@@ -53,6 +52,8 @@ FocusScope {
         textFormat: Text.PlainText
         color: ControlsStyle.mutedText
         font.pixelSize: ControlsStyle.smallText
+        lineHeightMode: Text.FixedHeight
+        lineHeight: contents.smallLine
         horizontalAlignment: ControlsStyle.mirrored ? Text.AlignRight : Text.AlignLeft
         elide: Text.ElideRight
     }
@@ -86,6 +87,8 @@ FocusScope {
         height: contents.form.isLow ? contents.form.rowHeight - contents.smallLine : 2 * contents.smallLine
         text: contents.pad.isWrong ? "! " + contents.pad.problem : contents.pad.rangeText
         textFormat: Text.PlainText
+        lineHeightMode: Text.FixedHeight
+        lineHeight: contents.smallLine
         wrapMode: Text.Wrap
         elide: Text.ElideRight
         color: contents.pad.isWrong ? ControlsStyle.invalid : ControlsStyle.mutedText

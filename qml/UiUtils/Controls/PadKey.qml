@@ -42,5 +42,5 @@ T.Button {
         border { width: key.filled ? 0 : ControlsStyle.line; color: key.enabled ? ControlsStyle.border : ControlsStyle.divider }
     }
 
-    FocusFrame {}
+    FocusWatch {}
 }

@@ -75,26 +75,23 @@ ModalDialog {
             width: parent.width
             spacing: ControlsStyle.margin
 
-            Text {
+            StyledText {
                 id: titleText
                 objectName: "progressTitle"
                 width: parent.width
                 text: dialog.isCancelled ? qsTr("Cancelling the save") : qsTr("Saving the report")
-                textFormat: Text.PlainText
                 wrapMode: Text.Wrap
-                color: ControlsStyle.text
                 font { pixelSize: ControlsStyle.headingText; weight: Font.DemiBold }
             }
-            Text {
+            StyledText {
                 id: nameText
                 objectName: "progressName"
+                readonly property bool mayElide: true
+
                 width: parent.width
                 text: dialog.isSaving ? dialog.savedName() : ""
-                textFormat: Text.PlainText
-                readonly property bool mayElide: true
                 // Similar names differ at their ends.
                 elide: Text.ElideMiddle
-                color: ControlsStyle.text
                 font.pixelSize: ControlsStyle.bodyText
             }
             Item {
@@ -105,17 +102,15 @@ ModalDialog {
                     id: bar
                     objectName: "progressBar"
                     anchors { left: parent.left; right: percentage.left; rightMargin: ControlsStyle.margin; verticalCenter: parent.verticalCenter }
+                    implicitHeight: ControlsStyle.mm(2.5)
                     value: dialog.progress
                     padding: 0
                     background: Rectangle {
-                        implicitHeight: ControlsStyle.mm(2.5)
                         radius: height / 2
                         color: ControlsStyle.field
                         border { width: ControlsStyle.line; color: ControlsStyle.border }
                     }
                     contentItem: Item {
-                        implicitHeight: ControlsStyle.mm(2.5)
-
                         Rectangle {
                             anchors.left: parent.left
                             visible: width > 0

@@ -69,12 +69,13 @@ ColumnLayout {
             color: header.down ? ControlsStyle.pressed : "transparent"
         }
 
-        FocusFrame {}
+        FocusWatch {}
     }
     ColumnLayout {
         id: column
         Layout.fillWidth: true
         visible: section.expanded
-        spacing: ControlsStyle.gap
+        // There may be targets among the contents.
+        spacing: ControlsStyle.touchGap
     }
 }

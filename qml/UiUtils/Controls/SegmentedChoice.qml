@@ -12,7 +12,10 @@ Entry {
     readonly property var choices: face.hasItem ? face.choices
         : model.map(choice => choice.label !== undefined ? choice : { label: choice, value: choice })
     /// The position of the present choice; -1 for none.
-    readonly property int currentIndex: choices.findIndex(choice => choice.value === (face.hasItem ? Number(currentValue) : currentValue))
+    readonly property int currentIndex: choices.findIndex(choice => choice.value === presentValue)
+    // No value is not the number 0.
+    readonly property var presentValue: !face.hasItem ? currentValue
+        : currentValue === null || currentValue === "" ? undefined : Number(currentValue)
 
     // Choices without a label, as in the header of a page, name themselves.
     readonly property string spokenName: !compact ? label
@@ -40,8 +43,6 @@ Entry {
     Rectangle {
         objectName: "segments"
         Layout.fillWidth: true
-        implicitWidth: row.implicitWidth
-        implicitHeight: row.implicitHeight
         radius: ControlsStyle.radius
         color: enabled ? ControlsStyle.field : ControlsStyle.disabledField
         border { width: ControlsStyle.line; color: entry.isInvalid ? ControlsStyle.invalid : ControlsStyle.border }
@@ -60,6 +61,9 @@ Entry {
             readonly property real widest: Array.from(children).reduce((width, child) => Math.max(width, child.implicitWidth), 0)
             anchors.fill: parent
             spacing: 0
+            // As bindings they would be evaluated within themselves, when a text takes another line.
+            onImplicitWidthChanged: parent.implicitWidth = implicitWidth
+            onImplicitHeightChanged: parent.implicitHeight = implicitHeight
 
             Repeater {
                 model: entry.choices
@@ -71,10 +75,12 @@ Entry {
                     text: modelData.label
                     checked: entry.currentIndex === index
                     isDivided: index > 0 && entry.currentIndex !== index && entry.currentIndex !== index - 1
+                    // A button that is checked would uncheck itself.
+                    onToggled: checked = Qt.binding(() => entry.currentIndex === index)
                     onClicked: entry.take(index)
                 }
             }
         }
-        FocusFrame {}
+        FocusWatch {}
     }
 }

@@ -68,5 +68,5 @@ T.AbstractButton {
         color: control.down ? ControlsStyle.pressed : "transparent"
     }
 
-    FocusFrame { within: true }
+    FocusWatch { within: true }
 }

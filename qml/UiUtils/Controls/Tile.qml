@@ -60,7 +60,7 @@ T.AbstractButton {
                 visible: text !== "" && tile.status === Status.None
                 text: tile.note
                 color: tile.marked ? ControlsStyle.news : ControlsStyle.mutedText
-                maximumLineCount: 2
+                maximumLineCount: 3
                 wrapMode: Text.Wrap
                 elide: Text.ElideRight
                 Accessible.ignored: true
@@ -82,5 +82,5 @@ T.AbstractButton {
         border { width: ControlsStyle.line; color: tile.marked ? ControlsStyle.news : ControlsStyle.divider }
     }
 
-    FocusFrame {}
+    FocusWatch {}
 }

@@ -40,11 +40,6 @@ T.Button {
         implicitWidth: row.room + natural.oneLine
         implicitHeight: Math.max(mark.height, label.implicitHeight)
 
-        NaturalWidth {
-            id: natural
-            font: control.font
-            text: control.text
-        }
         Row {
             id: row
             // What the text has not.
@@ -72,6 +67,11 @@ T.Button {
                 Accessible.ignored: true
             }
         }
+        NaturalWidth {
+            id: natural
+            font: control.font
+            text: control.text
+        }
     }
     background: Rectangle {
         radius: ControlsStyle.radius
@@ -86,5 +86,5 @@ T.Button {
         border { width: control.quiet || control.filled && control.enabled ? 0 : ControlsStyle.line; color: ControlsStyle.border }
     }
 
-    FocusFrame {}
+    FocusWatch {}
 }

@@ -25,11 +25,6 @@ T.TabButton {
     }
 
     contentItem: Item {
-        NaturalWidth {
-            id: natural
-            font: tab.font
-            text: tab.text
-        }
         Grid {
             anchors.centerIn: parent
             columns: tab.isStacked ? 1 : 2
@@ -43,14 +38,16 @@ T.TabButton {
                 color: tab.ink
                 size: ControlsStyle.mm(4.8)
 
-                Rectangle {
+                Loader {
                     anchors { left: parent.right; leftMargin: -width / 2; top: parent.top; topMargin: -height / 3 }
-                    width: ControlsStyle.mm(2.2)
-                    height: width
-                    radius: width / 2
-                    visible: tab.isMarked
-                    color: ControlsStyle.news
-                    border { width: ControlsStyle.line; color: ControlsStyle.card }
+                    active: tab.isMarked
+                    sourceComponent: Rectangle {
+                        implicitWidth: ControlsStyle.mm(2.2)
+                        implicitHeight: implicitWidth
+                        radius: width / 2
+                        color: ControlsStyle.news
+                        border { width: ControlsStyle.line; color: ControlsStyle.card }
+                    }
                 }
             }
             StyledText {
@@ -65,6 +62,11 @@ T.TabButton {
                 Accessible.ignored: true
             }
         }
+        NaturalWidth {
+            id: natural
+            font: tab.font
+            text: tab.text
+        }
     }
     background: Rectangle {
         color: tab.down ? ControlsStyle.pressed : "transparent"
@@ -78,9 +80,9 @@ T.TabButton {
         }
     }
 
-    FocusFrame {
-        control: tab
-        visible: tab.checked && (ControlsStyle.keyFocus ? tab.bar.visualFocus : tab.bar.activeFocus)
+    FocusWatch {
+        control: tab.bar
+        active: tab.checked
         within: true
     }
 }

@@ -48,7 +48,7 @@ FocusScope {
             Keys.onLeftPressed: line.turned(ControlsStyle.mirrored ? 1 : -1)
             Keys.onRightPressed: line.turned(ControlsStyle.mirrored ? -1 : 1)
 
-            FocusFrame { within: true }
+            FocusWatch { within: true }
         }
         TouchButton {
             objectName: "more"

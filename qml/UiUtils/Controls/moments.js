@@ -8,7 +8,7 @@ function two(number) {
 }
 
 function dayCount(year, month) {
-    return new Date(year, month, 0).getDate()
+    return new Date(year, month, 0, 12).getDate()
 }
 
 function isDate(parts) {
@@ -40,12 +40,34 @@ function isoOf(parts, hasDate, hasTime) {
 }
 
 // The moment in the words and digits of the locale.
-function written(parts, locale, format) {
-    return toDate(parts).toLocaleString(locale, format)
+function written(parts, locale, hasDate, hasTime) {
+    return [hasDate ? writtenDate(parts, locale, dateFormat(locale)) : "", hasTime ? writtenTime(parts, locale, timeFormat(locale)) : ""]
+            .filter(part => part !== "").join(" ")
 }
 
+// Without a Date, which would show an hour that the present zone leaves out as another one.
+function writtenDate(parts, locale, format) {
+    return filled(format, /'([^']*)'|yyyy|MM?|dd?/g, locale, { yyyy: parts.year, MM: two(parts.month), M: parts.month, dd: two(parts.day), d: parts.day })
+}
+
+function writtenTime(parts, locale, format) {
+    const half = parts.hour < 12 ? locale.amText : locale.pmText
+    const hour = /[aA]/.test(format.replace(/'[^']*'/g, "")) ? (parts.hour + 11) % 12 + 1 : parts.hour
+    return filled(format, /'([^']*)'|HH?|hh?|mm?|AP?|ap?/g, locale,
+                  { HH: two(parts.hour), H: parts.hour, hh: two(hour), h: hour, mm: two(parts.minute), m: parts.minute,
+                    AP: half, A: half, ap: half.toLowerCase(), a: half.toLowerCase() })
+}
+
+// The format with the values of its parts, in the digits of the locale.
+function filled(format, parts, locale, values) {
+    const zero = locale.zeroDigit.charCodeAt(0)
+    return format.replace(parts, (part, quoted) => quoted !== undefined ? quoted
+        : String(values[part]).replace(/[0-9]/g, digit => String.fromCharCode(zero + Number(digit))))
+}
+
+// Noon is on that day wherever clocks are put forward.
 function toDate(parts) {
-    return new Date(parts.year, parts.month - 1, parts.day, parts.hour || 0, parts.minute || 0)
+    return new Date(parts.year, parts.month - 1, parts.day, 12)
 }
 
 // The locale's short formats: the year in full, no seconds, and no marks of direction, which a field shows as boxes.
@@ -57,10 +79,6 @@ function dateFormat(locale) {
 
 function timeFormat(locale) {
     return locale.timeFormat(1).replace(/[:.]ss/, "").replace(/[\u200e\u200f\u061c]/g, "")
-}
-
-function format(locale, hasDate, hasTime) {
-    return [hasDate ? dateFormat(locale) : "", hasTime ? timeFormat(locale) : ""].filter(part => part !== "").join(" ")
 }
 
 // With the digits 0 to 9, whatever the locale's.
@@ -83,7 +101,7 @@ function hourOf(hour, text, locale) {
 
 // The numbers in the order of the locale; the order of ISO 8601 where the year leads.
 function dateOrder(text, locale) {
-    return /^\s*\d{4}/.test(text) ? ["y", "M", "d"] : dateFormat(locale).match(/y+|M+|d+/g).map(part => part[0])
+    return /^\s*\d{4}/.test(text) ? ["y", "M", "d"] : dateFormat(locale).replace(/'[^']*'/g, "").match(/y+|M+|d+/g).map(part => part[0])
 }
 
 // What somebody typed, in parts; null when it is no such date or time.
@@ -108,11 +126,11 @@ function parse(typed, locale, hasDate, hasTime) {
 
 // The days of the six weeks in which a month lies, the first day of the locale's week first.
 function weeks(year, month, firstDayOfWeek) {
-    const first = new Date(year, month - 1, 1)
+    const first = new Date(year, month - 1, 1, 12)
     const lead = (first.getDay() - firstDayOfWeek % 7 + 7) % 7
     const days = []
     for (let i = 0; i < 42; ++i) {
-        const day = new Date(year, month - 1, 1 - lead + i)
+        const day = new Date(year, month - 1, 1 - lead + i, 12)
         days.push({ year: day.getFullYear(), month: day.getMonth() + 1, day: day.getDate() })
     }
     return days
@@ -120,10 +138,11 @@ function weeks(year, month, firstDayOfWeek) {
 
 // The parts with so many months or days more; the last day of a month at most.
 function moved(parts, months, days) {
-    const month = new Date(parts.year, parts.month - 1 + months, 1)
+    const month = new Date(parts.year, parts.month - 1 + months, 1, 12)
     const day = Math.min(parts.day, dayCount(month.getFullYear(), month.getMonth() + 1))
-    const date = new Date(month.getFullYear(), month.getMonth(), day + days)
-    return Object.assign({}, parts, { year: date.getFullYear(), month: date.getMonth() + 1, day: date.getDate() })
+    const date = new Date(month.getFullYear(), month.getMonth(), day + days, 12)
+    const there = Object.assign({}, parts, { year: date.getFullYear(), month: date.getMonth() + 1, day: date.getDate() })
+    return isDate(there) ? there : parts
 }
 
 // The format of an hour alone.

@@ -9,8 +9,10 @@ namespace {
 // Below the limits of a double, so that no difference in this file overflows.
 constexpr double largest = 1e300;
 constexpr double smallest = 1e-300;
-// An extent that is smaller, relative to its own values, is lost in their rounding.
-constexpr double finest = 1e-12;
+// An extent that is smaller, relative to its own values, is lost in their rounding, and has no ticks.
+constexpr double finest = 2e-10;
+// Of a logarithmic axis whose low end is not positive.
+constexpr double decadesBelow = 3;
 // Farther away nothing can be distinguished, and painters lose their way.
 constexpr double farthest = 1e6;
 
@@ -32,7 +34,8 @@ Interval positiveValues(Interval values)
     if (values.isEmpty() || !(values.high > 0))
         return {1, 10};
     const double high = qBound(smallest, values.high, largest);
-    const double low = qBound(smallest, values.low, high);
+    const double wanted = values.low > 0 ? values.low : high * std::pow(10, -decadesBelow);
+    const double low = qBound(smallest, wanted, high);
     return high > low * (1 + 1e-6) ? Interval {low, high} : Interval {low / 1.05, high * 1.05};
 }
 

@@ -84,7 +84,7 @@ Status::Code CurveVerdicts::worst() const
 
 int CurveVerdicts::firstOf(Status::Code status, int begin, int end) const
 {
-    const QVector<int>& found = status == Status::Fail ? m_failed : m_marginal;
+    const QVector<int>& found = all(status);
     const auto first = std::lower_bound(found.cbegin(), found.cend(), begin);
     return first != found.cend() && *first < end ? *first : -1;
 }

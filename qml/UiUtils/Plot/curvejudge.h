@@ -56,6 +56,8 @@ public:
     Status::Code worst() const;
     /// The first point of that status from `begin` up to, but not including, `end`; -1 if there is none.
     int firstOf(Status::Code status, int begin, int end) const;
+    /// All points of that status, Marginal or Fail, in their order.
+    const QVector<int>& all(Status::Code status) const { return status == Status::Fail ? m_failed : m_marginal; }
 
 private:
     QVector<int> m_marginal;

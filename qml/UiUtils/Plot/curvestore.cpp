@@ -58,7 +58,7 @@ void CurveStore::rebuild()
 {
     m_x = m_y = Interval();
     m_isAscending = true;
-    m_lastX = m_points.isEmpty() ? 0 : m_points.constFirst().x();
+    m_lastX = m_points.isEmpty() ? -qInf() : m_points.constFirst().x();
     for (QVector<Block>& level : m_levels)
         level.clear();
     for (int i = 0; i < m_points.size(); ++i)
@@ -98,12 +98,20 @@ void CurveStore::enter(Block& block, int index, bool isDrawable) const
     if (y > m_points.at(block.highest).y())
         block.highest = index;
     block.last = index;
+    block.x.include(m_points.at(index).x());
 }
 
 int CurveStore::firstFrom(double x, int begin) const
 {
     const auto found = std::lower_bound(m_points.cbegin() + begin, m_points.cend(), x,
             [](const QPointF& point, double value) { return point.x() < value; });
+    return int(found - m_points.cbegin());
+}
+
+int CurveStore::firstBeyond(double x, int begin) const
+{
+    const auto found = std::upper_bound(m_points.cbegin() + begin, m_points.cend(), x,
+            [](double value, const QPointF& point) { return value < point.x(); });
     return int(found - m_points.cbegin());
 }
 
@@ -175,6 +183,63 @@ bool CurveStore::feedBlock(CurvePoints& points, double position, const Block& bl
     for (const int index : {block.first, early, late, block.last})
         points.add(position, m_points.at(index));
     return true;
+}
+
+/// The level of the largest block that begins at `index`, is complete, and is wanted with all that it has of smaller
+/// ones; -1 if there is none.
+template<typename Condition> int CurveStore::largestBlock(int index, const Condition& isWanted) const
+{
+    int found = -1;
+    for (int level = 0; level < levels; ++level) {
+        const int size = blockSizes[level];
+        if (index % size != 0 || index + size > m_points.size() || !isWanted(m_levels[level].at(index / size)))
+            break;
+        found = level;
+    }
+    return found;
+}
+
+void CurveStore::feedAll(CurvePoints& points, const std::function<double(double)>& positionOf) const
+{
+    const auto isOneColumn = [&](const Block& block) {
+        return block.first >= 0 && !block.isInterrupted
+                && points.columnOf(positionOf(block.x.low)) == points.columnOf(positionOf(block.x.high));
+    };
+    for (int i = 0; i < m_points.size();) {
+        const int level = largestBlock(i, isOneColumn);
+        if (level >= 0) {
+            const Block& block = m_levels[level].at(i / blockSizes[level]);
+            feedBlock(points, positionOf(block.x.low), block);
+            i += blockSizes[level];
+            continue;
+        }
+        if (isDrawable(m_points.at(i)))
+            points.add(positionOf(m_points.at(i).x()), m_points.at(i));
+        else
+            points.interrupt();
+        ++i;
+    }
+}
+
+int CurveStore::firstLineAt(double x) const
+{
+    const auto isElsewhere = [&](const Block& block) { return block.x.isEmpty() || block.x.low > x || block.x.high < x; };
+    for (int i = 0; i + 1 < m_points.size();) {
+        const int level = largestBlock(i, isElsewhere);
+        // The line from the block's last point leads to the next block.
+        if (level >= 0) {
+            i += blockSizes[level] - 1;
+            if (i + 1 == m_points.size())
+                break;
+        }
+        const QPointF& from = m_points.at(i);
+        const QPointF& to = m_points.at(i + 1);
+        const auto [low, high] = std::minmax(from.x(), to.x());
+        if (low <= x && x <= high && isDrawable(from) && isDrawable(to))
+            return i;
+        ++i;
+    }
+    return -1;
 }
 
 } // namespace uiutils

@@ -5,6 +5,9 @@
 #include <QPointF>
 #include <QVector>
 
+#include <functional>
+#include <limits>
+
 namespace uiutils {
 
 class CurvePoints;
@@ -38,9 +41,15 @@ public:
     bool isAscending() const { return m_isAscending; }
     /// The first point of an ascending curve, from `begin` on, that is not left of `x`; the size if there is none.
     int firstFrom(double x, int begin = 0) const;
+    /// The same for the first point that is right of `x`.
+    int firstBeyond(double x, int begin = 0) const;
+    /// The first point of the first line that leads over `x`, in the order of the points; -1 if none does.
+    int firstLineAt(double x) const;
 
     /// Hands on what is worth drawing of these points, which all are in the column at `position`.
     void feed(CurvePoints& points, double position, int begin, int end) const;
+    /// The same for all points, in their order, whatever their x. `positionOf(x)` is what `points` expects.
+    void feedAll(CurvePoints& points, const std::function<double(double)>& positionOf) const;
 
 private:
     struct Block
@@ -50,6 +59,7 @@ private:
         int lowest = -1;
         int highest = -1;
         bool isInterrupted = false;
+        Interval x;
     };
 
     void take(int index);
@@ -57,6 +67,7 @@ private:
     void enter(Block& block, int index, bool isDrawable) const;
     int blockLevel(int index, int end, bool mayBeInterrupted) const;
     bool feedBlock(CurvePoints& points, double position, const Block& block) const;
+    template<typename Condition> int largestBlock(int index, const Condition& isWanted) const;
 
     static constexpr int levels = 5;
 
@@ -64,7 +75,8 @@ private:
     QVector<Block> m_levels[levels];
     Interval m_x;
     Interval m_y;
-    double m_lastX = 0;
+    // Gaps at the beginning are left of everything.
+    double m_lastX = -std::numeric_limits<double>::infinity();
     bool m_isAscending = true;
     bool m_isLogarithmicX = false;
     bool m_isLogarithmicY = false;

@@ -12,26 +12,35 @@ namespace {
 
 // Of the judgement along one line: more cannot be distinguished.
 constexpr int mostChanges = 8;
+// Of the window: ends of axes are rounded, and a curve along the edge is to be seen.
+constexpr double rounding = 1e-9;
+
+/// Calls visit(column, begin, end) with the points of each column of an ascending curve; returns the first point that
+/// is right of the window.
+template<typename Visitor> int forEachColumn(const CurveStore& store, const AxisView& x, int columns, Visitor visit)
+{
+    int from = store.firstFrom(x.low());
+    for (int column = 0; column < columns; ++column) {
+        // The last column has the right edge.
+        const int to = column == columns - 1 ? store.firstBeyond(x.high(), from)
+                                             : store.firstFrom(x.value(double(column + 1) / columns), from);
+        visit(column, from, to);
+        from = to;
+    }
+    return from;
+}
 
 /// The points that remain, with one more on either side of the window, to which lines lead.
 QVector<QPointF> thinnedAscending(const CurveStore& store, const AxisView& x, int columns)
 {
     CurvePoints points(columns);
-    int from = store.firstFrom(x.low());
     QVector<QPointF> thinned;
-    if (from > 0 && store.isDrawable(store.at(from - 1)))
-        thinned += store.at(from - 1);
-    for (int column = 0; column < columns; ++column) {
-        // The last column has the right edge, and the point after it.
-        const bool isLast = column == columns - 1;
-        int to = store.firstFrom(isLast ? x.high() : x.value(double(column + 1) / columns), from);
-        if (isLast) {
-            while (to < store.size() && store.at(to).x() == x.high())
-                ++to;
-        }
-        store.feed(points, (column + 0.5) / columns, from, to);
-        from = to;
-    }
+    const int first = store.firstFrom(x.low());
+    if (first > 0 && store.isDrawable(store.at(first - 1)))
+        thinned += store.at(first - 1);
+    const int from = forEachColumn(store, x, columns, [&](int column, int begin, int end) {
+        store.feed(points, (column + 0.5) / columns, begin, end);
+    });
     thinned += points.take();
     if (from < store.size())
         thinned += store.isDrawable(store.at(from)) ? store.at(from) : CurvePoints::interruption();
@@ -40,13 +49,10 @@ QVector<QPointF> thinnedAscending(const CurveStore& store, const AxisView& x, in
 
 QVector<QPointF> thinnedInOrder(const CurveStore& store, const AxisView& x, int columns)
 {
-    CurvePoints points(columns);
-    for (int i = 0; i < store.size(); ++i) {
-        if (store.isDrawable(store.at(i)))
-            points.add(x.position(store.at(i).x()), store.at(i));
-        else
-            points.interrupt();
-    }
+    // Two more columns, so that nothing beyond the window counts as being at its edges.
+    const int all = columns + 2;
+    CurvePoints points(all);
+    store.feedAll(points, [&](double value) { return (x.position(value) * columns + 1) / all; });
     return points.take();
 }
 
@@ -72,6 +78,11 @@ bool cutToWindow(const QPointF& from, const QPointF& to, double& begin, double& 
     return begin <= end;
 }
 
+double atEdge(double place)
+{
+    return std::abs(place) <= rounding ? 0 : std::abs(place - 1) <= rounding ? 1 : place;
+}
+
 bool isInWindow(const QPointF& position)
 {
     return position.x() >= 0 && position.x() <= 1 && position.y() >= 0 && position.y() <= 1;
@@ -91,7 +102,7 @@ public:
 
     void add(const QPointF& point)
     {
-        const QPointF position(m_x.position(point.x()), m_y.position(point.y()));
+        const QPointF position = positionOf(point);
         const Status::Code status = m_judge.isEmpty() ? Status::None : m_judge.status(point);
         if (isInWindow(position)) {
             Status::Code& worst = m_worst[columnOf(position)];
@@ -114,14 +125,21 @@ public:
     /// A point that exceeds a bound, unless its column shows one.
     void mark(const QPointF& point, Status::Code status)
     {
-        const QPointF position(m_x.position(point.x()), m_y.position(point.y()));
-        if (isInWindow(position) && m_worst.at(columnOf(position)) < status)
-            addDot(position, status);
+        const QPointF position = positionOf(point);
+        if (!isInWindow(position) || m_worst.at(columnOf(position)) >= status)
+            return;
+        addDot(position, status);
+        m_worst[columnOf(position)] = status;
     }
 
     CurveTrace take() { return std::move(m_trace); }
 
 private:
+    QPointF positionOf(const QPointF& point) const
+    {
+        return {atEdge(m_x.position(point.x())), atEdge(m_y.position(point.y()))};
+    }
+
     int columnOf(const QPointF& position) const
     {
         return std::min(int(position.x() * m_worst.size()), m_worst.size() - 1);
@@ -190,15 +208,20 @@ private:
 
 void markExceeding(Tracer& tracer, const CurveSource& curve, const AxisView& x, int columns)
 {
-    int begin = curve.store.firstFrom(x.low());
-    for (int column = 0; column < columns; ++column) {
-        const int end = curve.store.firstFrom(x.value(double(column + 1) / columns), begin);
+    forEachColumn(curve.store, x, columns, [&](int, int begin, int end) {
         for (const Status::Code status : {Status::Fail, Status::Marginal}) {
             const int index = curve.verdicts.firstOf(status, begin, end);
             if (index >= 0)
                 tracer.mark(curve.store.at(index), status);
         }
-        begin = end;
+    });
+}
+
+void markExceedingInOrder(Tracer& tracer, const CurveSource& curve)
+{
+    for (const Status::Code status : {Status::Fail, Status::Marginal}) {
+        for (const int index : curve.verdicts.all(status))
+            tracer.mark(curve.store.at(index), status);
     }
 }
 
@@ -220,6 +243,8 @@ CurveTrace curveTrace(const CurveSource& curve, const AxisView& x, const AxisVie
     tracer.interrupt();
     if (isAscending && curve.verdicts.worst() > Status::Pass)
         markExceeding(tracer, curve, x, shown);
+    else if (!isAscending)
+        markExceedingInOrder(tracer, curve);
     return tracer.take();
 }
 

@@ -50,7 +50,10 @@ LivePlot::LivePlot(QQuickItem* parent)
     m_quiet.setInterval(announcementMs);
     connect(&m_quiet, &QTimer::timeout, this, &LivePlot::announceText);
     connect(&m_colors, &PlotColors::changed, this, &LivePlot::redrawCurves);
-    connect(Languages::instance(), &Languages::currentChanged, this, &LivePlot::redrawCurves);
+    connect(Languages::instance(), &Languages::currentChanged, this, &LivePlot::speakAnew);
+    // What is read says these.
+    connect(this, &LivePlot::labelsChanged, this, &LivePlot::readoutsChanged);
+    connect(this, &LivePlot::markersChanged, this, &LivePlot::readoutsChanged);
     takeGestures();
 }
 
@@ -60,6 +63,8 @@ LivePlot::~LivePlot()
         disconnect(curve, nullptr, this, nullptr);
     for (PlotMarkerItem* marker : qAsConst(m_content.markers))
         disconnect(marker, nullptr, this, nullptr);
+    for (QObject* object : qAsConst(m_contents))
+        disconnect(object, nullptr, this, nullptr);
 }
 
 // --- Contents ---
@@ -75,6 +80,7 @@ void LivePlot::addContent(QQmlListProperty<QObject>* list, QObject* object)
     if (!object)
         return;
     plot->m_contents += object;
+    connect(object, &QObject::destroyed, plot, &LivePlot::dropContent);
     if (auto* curve = qobject_cast<PlotCurveItem*>(object))
         plot->addCurve(curve);
     else if (auto* marker = qobject_cast<PlotMarkerItem*>(object))
@@ -93,6 +99,11 @@ int LivePlot::contentCount(QQmlListProperty<QObject>* list)
 QObject* LivePlot::contentAt(QQmlListProperty<QObject>* list, int index)
 {
     return static_cast<LivePlot*>(list->object)->m_contents.value(index);
+}
+
+void LivePlot::dropContent(QObject* object)
+{
+    m_contents.removeAll(object);
 }
 
 QVariantList LivePlot::curves() const
@@ -125,8 +136,16 @@ void LivePlot::removeCurve(PlotCurveItem* curve)
 {
     if (!curve || !m_content.curves.contains(curve))
         return;
-    disconnect(curve, nullptr, this, nullptr);
+    stopListeningTo(curve);
     dropCurve(curve);
+}
+
+/// What was declared inside is known until it is deleted.
+void LivePlot::stopListeningTo(QObject* object)
+{
+    disconnect(object, nullptr, this, nullptr);
+    if (m_contents.contains(object))
+        connect(object, &QObject::destroyed, this, &LivePlot::dropContent);
 }
 
 /// Of a curve that is being deleted nothing but the address is left.
@@ -155,7 +174,7 @@ void LivePlot::removeMarker(PlotMarkerItem* marker)
 {
     if (!marker || !m_content.markers.contains(marker))
         return;
-    disconnect(marker, nullptr, this, nullptr);
+    stopListeningTo(marker);
     dropMarker(marker);
 }
 
@@ -182,6 +201,15 @@ void LivePlot::judge()
         worst = std::max(worst, curve->verdict());
     if (assign(m_verdict, worst))
         Q_EMIT verdictChanged();
+}
+
+/// The texts that getters and pictures have are of another language now.
+void LivePlot::speakAnew()
+{
+    redrawCurves();
+    Q_EMIT readoutsChanged();
+    Q_EMIT accessibleTextChanged();
+    Q_EMIT styleChanged();
 }
 
 // --- What a page sets ---

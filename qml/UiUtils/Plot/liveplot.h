@@ -188,7 +188,8 @@ public:
     Q_INVOKABLE QString deltaBetween(uiutils::PlotMarkerItem* from, uiutils::PlotMarkerItem* to) const;
 
     /// Adds a plot with what is shown now to the node of the report that is open. Every format draws it, from the saved
-    /// document too. In print colours; `title` is written above.
+    /// document too. In print colours; `title` is written above. Files of data have all points of the curves, unless
+    /// there are more than 200,000: then they have those that are drawn.
     Q_INVOKABLE void addToReport(ReportTemplate* report, const QString& tag, const QString& title) const;
     /// What addToReport() stores, the value of the key "plot_data" of a table with the label "plot".
     Q_INVOKABLE QString reportData() const;
@@ -233,10 +234,13 @@ private:
     static int contentCount(QQmlListProperty<QObject>* list);
     static QObject* contentAt(QQmlListProperty<QObject>* list, int index);
 
+    void dropContent(QObject* object);
+    void stopListeningTo(QObject* object);
     void dropCurve(QObject* curve);
     void dropMarker(QObject* marker);
     void scaleCurves();
     void judge();
+    void speakAnew();
     void changeStyle();
     void redraw();
     void redrawCurves();

@@ -210,7 +210,9 @@ void LivePlot::takeFingers(const QVector<QPointF>& fingers, ulong time)
 {
     // As far from the cursor as a finger is wide.
     const double reach = std::max(20.0, 1.5 * m_content.textSize);
-    m_gestures.take(fingers, time, isCursorVisible() ? positionOf(cursorX(), 0).x() : std::nan(""), reach);
+    const double cursor = view().x().position(cursorX());
+    const bool isSeen = cursor >= 0 && cursor <= 1;
+    m_gestures.take(fingers, time, isSeen ? frame().pointAt({cursor, 0}).x() : std::nan(""), reach);
     setKeepTouchGrab(m_gestures.isMoving());
     setKeepMouseGrab(m_gestures.isMoving());
 }

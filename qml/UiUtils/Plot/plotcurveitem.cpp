@@ -12,17 +12,6 @@ namespace {
 
 constexpr int largestCapacity = 10 * 1000 * 1000;
 
-/// Where a curve that is not ascending has `x` for the first time: the index of the line's first point; -1 for nowhere.
-int firstLineAt(const CurveStore& store, double x)
-{
-    for (int i = 0; i + 1 < store.size(); ++i) {
-        const auto [low, high] = std::minmax({store.at(i).x(), store.at(i + 1).x()});
-        if (low <= x && x <= high)
-            return i;
-    }
-    return -1;
-}
-
 double onScale(double value, bool isLogarithmic)
 {
     return isLogarithmic ? std::log10(value) : value;
@@ -192,7 +181,8 @@ void PlotCurveItem::setScales(bool isLogarithmicX, bool isLogarithmicY)
 
 double PlotCurveItem::lastX() const
 {
-    return m_store.size() > 0 ? m_store.at(m_store.size() - 1).x() : qQNaN();
+    const double last = m_store.size() > 0 ? m_store.at(m_store.size() - 1).x() : qQNaN();
+    return std::isfinite(last) ? last : qQNaN();
 }
 
 double PlotCurveItem::lastY() const
@@ -202,8 +192,10 @@ double PlotCurveItem::lastY() const
 
 double PlotCurveItem::valueAt(double x) const
 {
-    const int after = m_store.isAscending() ? m_store.firstFrom(x) : firstLineAt(m_store, x) + 1;
-    if (!std::isfinite(x) || after >= m_store.size() || (after == 0 && m_store.at(0).x() != x))
+    if (!std::isfinite(x))
+        return qQNaN();
+    const int after = m_store.isAscending() ? m_store.firstFrom(x) : m_store.firstLineAt(x) + 1;
+    if (after >= m_store.size() || (after == 0 && m_store.at(0).x() != x))
         return qQNaN();
     const QPointF& right = m_store.at(after);
     if (right.x() == x && m_store.isDrawable(right))

@@ -61,7 +61,7 @@ private:
     /// On the side where the curve must not be, if there is room.
     void addBoundLabel(const CurveBound& bound, const QPointF& end, const QColor& color)
     {
-        const QString text = m_frame.metrics().elidedText(bound.label, Qt::ElideRight, m_rect.width() / 2);
+        const QString text = m_frame.metrics().elidedText(bound.label, Qt::ElideRight, m_rect.width() - m_line);
         const double outside = bound.side == CurveBound::Upper ? end.y() - m_line : end.y();
         const double top = qBound(m_rect.top(), outside, std::max(m_rect.top(), m_rect.bottom() - m_line));
         const double width = m_frame.metrics().horizontalAdvance(text);

@@ -11,6 +11,8 @@ namespace {
 
 // Twice those of a plot on paper; a document holds them as text.
 constexpr int columns = 1200;
+// Of all curves together, for files of data: 6 MB of text, where documents have at most 16.
+constexpr int mostPoints = 200 * 1000;
 
 /// Builds the plot of one view.
 class ReportPlotBuilder
@@ -33,8 +35,11 @@ public:
             m_data.axes[side].kind = m_content.yKinds[side];
             m_data.axes[side].window = m_view.y(side).values();
         }
+        int count = 0;
         for (const PlotCurveItem* curve : m_content.visibleCurves())
-            addCurve(*curve);
+            count += curve->count();
+        for (const PlotCurveItem* curve : m_content.visibleCurves())
+            addCurve(*curve, count <= mostPoints);
         for (const PlotCurveItem* curve : m_content.visibleCurves())
             addBounds(*curve);
         for (const PlotMarkerItem* marker : m_content.markers) {
@@ -94,12 +99,14 @@ private:
         return curve;
     }
 
-    void addCurve(const PlotCurveItem& item)
+    void addCurve(const PlotCurveItem& item, bool hasAll)
     {
         const PlotSide side = sideOf(&item);
         const CurveTrace trace = curveTrace(item.source(), m_view.x(), m_view.y(side), columns);
         PlotCurve curve = curveOf(trace, side, item.name(), item.unit());
         curve.size = item.count();
+        for (int i = 0; hasAll && i < item.count(); ++i)
+            curve.all += item.store().at(i);
         for (const Status::Code status : {Status::Marginal, Status::Fail}) {
             const QVector<QPointF> points = pointsOf(trace, side, [&](Status::Code own) { return own == status; });
             if (!points.isEmpty())

@@ -6,6 +6,8 @@ namespace uiutils {
 
 namespace {
 
+constexpr double momentSeconds = 10;
+
 bool isLogarithmic(AxisScale::Kind kind)
 {
     return kind == AxisScale::Logarithmic;
@@ -17,7 +19,7 @@ Interval valuesInSight(const CurveStore& store, const AxisView& x)
     if (!store.isAscending())
         return store.yExtent();
     const int begin = std::max(0, store.firstFrom(x.low()) - 1);
-    const int end = std::min(store.size(), store.firstFrom(x.high()) + 1);
+    const int end = std::min(store.size(), store.firstBeyond(x.high()) + 1);
     return store.yExtent(begin, end);
 }
 
@@ -42,9 +44,9 @@ Interval withLevels(Interval values, const Interval& levels, bool isLogarithmic)
     values.include(levels);
     const double pad = isLogarithmic ? 0 : 0.02 * values.extent();
     if (levels.low <= values.low)
-        values.include(values.low < 0 ? values.low - pad : std::max(0.0, values.low - pad));
+        values.include(paddedLimit(values.low, -pad));
     if (levels.high >= values.high)
-        values.include(values.high > 0 ? values.high + pad : std::min(0.0, values.high + pad));
+        values.include(paddedLimit(values.high, pad));
     return values;
 }
 
@@ -67,8 +69,13 @@ void PlotView::fitX(const PlotContent& content)
         extent.include(curve->store().xExtent());
     if (m_follow > 0) {
         const double begin = extent.isEmpty() ? 0 : std::max(extent.low, extent.high - m_follow);
-        extent = {begin, begin + m_follow};
+        // Rounding must not leave the last point outside.
+        extent = {begin, std::max(begin + m_follow, extent.isEmpty() ? 0 : extent.high)};
     }
+    // The moment of a single point: without it, an axis of dates would show years.
+    const bool isOfTime = content.xKind == AxisScale::Date || content.xKind == AxisScale::Duration;
+    if (isOfTime && !extent.isEmpty() && extent.extent() <= 0)
+        extent.high = extent.low + momentSeconds;
     m_x = AxisView(extent, isLogarithmic(content.xKind));
 }
 

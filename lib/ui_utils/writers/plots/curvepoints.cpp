@@ -52,21 +52,32 @@ CurvePoints::CurvePoints(int columns)
 
 void CurvePoints::add(double position, const QPointF& point)
 {
-    const int column = int(qBound(0.0, position, 1.0) * m_columns);
+    const int column = columnOf(position);
     if (column != m_current) {
         m_column.moveTo(m_points);
+        // The next column is not connected with this one.
+        if (m_isInterrupted && !isInterruption(m_points.constLast()))
+            m_points += interruption();
         m_interruptions = 0;
         if (m_points.size() > m_most)
             compact();
     }
     m_current = column;
+    m_isInterrupted = false;
     m_column.take(point);
+}
+
+int CurvePoints::columnOf(double position) const
+{
+    return int(qBound(0.0, position, 1.0) * m_columns);
 }
 
 void CurvePoints::interrupt()
 {
-    if (m_interruptions >= mostInterruptions)
+    if (m_interruptions >= mostInterruptions) {
+        m_isInterrupted = true;
         return;
+    }
     m_column.moveTo(m_points);
     if (m_points.isEmpty() || isInterruption(m_points.constLast()))
         return;
@@ -95,6 +106,7 @@ QVector<QPointF> CurvePoints::take()
     m_column.moveTo(m_points);
     m_current = -1;
     m_interruptions = 0;
+    m_isInterrupted = false;
     return std::exchange(m_points, {});
 }
 

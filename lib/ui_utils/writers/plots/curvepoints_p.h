@@ -17,6 +17,8 @@ public:
 
     /// Adds a point whose distance from the left end is `position`, 0 to 1.
     void add(double position, const QPointF& point);
+    /// The column of a position, 0 to the number of columns.
+    int columnOf(double position) const;
     /// The curve has no line to the next point.
     void interrupt();
 
@@ -53,6 +55,8 @@ private:
     int m_most;
     int m_current = -1;
     int m_interruptions = 0;
+    // Whether the column has had more interruptions than it shows, and no point since.
+    bool m_isInterrupted = false;
     Column m_column;
     QVector<QPointF> m_points;
 };

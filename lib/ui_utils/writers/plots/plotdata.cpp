@@ -172,6 +172,12 @@ QString shownPlotText(const QString& text)
     return shown.simplified();
 }
 
+double paddedLimit(double limit, double pad)
+{
+    const double end = limit + pad;
+    return limit * end < 0 ? 0 : end;
+}
+
 Interval PlotData::xExtent() const
 {
     Interval extent = xWindow;
@@ -203,9 +209,9 @@ Interval PlotData::yExtent(PlotSide side) const
     // A limit at the end of the axis would lie on the frame.
     const double pad = isLinear ? 0.02 * extent.extent() : 0;
     if (levels.low <= extent.low)
-        extent.include(extent.low - pad);
+        extent.include(paddedLimit(extent.low, -pad));
     if (levels.high >= extent.high)
-        extent.include(extent.high + pad);
+        extent.include(paddedLimit(extent.high, pad));
     return extent;
 }
 

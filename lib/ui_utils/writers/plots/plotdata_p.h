@@ -52,6 +52,8 @@ struct PlotCurve
     PlotExtent extent;
     /// As many of them as pictures can show, with CurvePoints::interruption() where some cannot be drawn.
     QVector<QPointF> points;
+    /// All of them, for files of data; empty where `points` are all, or where they are too many.
+    QVector<QPointF> all;
     QVector<PlotExcess> excesses;
 };
 
@@ -103,6 +105,10 @@ struct PlotData
     /// Whether a point is finite, and positive along logarithmic axes.
     bool isDrawable(const QPointF& point, PlotSide side) const;
 };
+
+/// Where an axis ends that goes on by `pad` beyond a limit. It ends at zero where that is between: half an axis of
+/// negative values says nothing about a throughput.
+double paddedLimit(double limit, double pad);
 
 /// Adds a curve from the arrays of a service: what pictures can show of it.
 void addCurve(PlotData& data, PlotCurve curve, const QVariantList& xs, const QVariantList& ys);

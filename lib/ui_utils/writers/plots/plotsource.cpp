@@ -25,6 +25,7 @@ const QLatin1String curves("curves");
 const QLatin1String mask("mask");
 const QLatin1String count("count");
 const QLatin1String points("points");
+const QLatin1String everyPoint("data");
 const QLatin1String failed("failed");
 const QLatin1String marginal("marginal");
 const QLatin1String limits("limits");
@@ -67,6 +68,17 @@ QJsonArray arrayOf(const QVector<QPointF>& line)
     return array;
 }
 
+/// The same with all their digits, as they were measured.
+QJsonArray allOf(const QVector<QPointF>& line)
+{
+    QJsonArray array;
+    for (const QPointF& point : line) {
+        array += std::isfinite(point.x()) ? QJsonValue(point.x()) : QJsonValue();
+        array += std::isfinite(point.y()) ? QJsonValue(point.y()) : QJsonValue();
+    }
+    return array;
+}
+
 QJsonObject axisOf(const QString& name, const QString& unitName, AxisScale::Kind number, const Interval& window)
 {
     QJsonObject axis {{label, name}, {unit, unitName}, {kind, QString(kinds[number])}};
@@ -94,6 +106,8 @@ QJsonObject curveObject(const PlotCurve& curve)
         object.insert(side, QString(right));
     if (curve.isMask)
         object.insert(mask, true);
+    if (!curve.all.isEmpty())
+        object.insert(everyPoint, allOf(curve.all));
     for (const PlotExcess& excess : curve.excesses)
         object.insert(excess.isFailure ? failed : marginal, arrayOf(excess.points));
     return object;
@@ -219,7 +233,8 @@ QVector<PlotArrays> arraysOfText(const QString& text)
     const QJsonArray all = QJsonDocument::fromJson(text.toUtf8()).object().value(curves).toArray();
     const int shown = plotOfText(text).curves.size();
     for (int i = 0; i < shown; ++i) {
-        const QJsonArray line = all.at(i).toObject().value(points).toArray();
+        const QJsonObject curve = all.at(i).toObject();
+        const QJsonArray line = curve.value(curve.value(everyPoint).isArray() ? everyPoint : points).toArray();
         arrays.append({valuesOf(line, 0), valuesOf(line, 1)});
     }
     return arrays;

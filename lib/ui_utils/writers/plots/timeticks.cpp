@@ -56,7 +56,8 @@ TimeTicks::TimeTicks(const Interval& seconds, Kind kind, int maximum)
 {
     const double offset = kind == Date ? timeOf(seconds.low).offsetFromUtc() : 0;
     for (const double step : steps) {
-        if (addMultiples(step, offset))
+        const bool isLocal = kind == Date && step > hour;
+        if (isLocal ? addHours(int(step / hour)) : addMultiples(step, offset))
             return;
     }
     for (const int days : steppedDays) {
@@ -91,6 +92,23 @@ bool TimeTicks::addMultiples(double step, double offset)
     for (double n = std::ceil((m_range.low + offset) / step); n * step - offset <= m_range.high; ++n) {
         if (!add(n * step - offset))
             return false;
+    }
+    return true;
+}
+
+/// Full hours of the clock, also behind the night in which it is changed.
+bool TimeTicks::addHours(int hours)
+{
+    m_step = hours * hour;
+    m_ticks.clear();
+    QDate date = timeOf(m_range.low).date();
+    for (; secondsOf(date) <= m_range.high; date = date.addDays(1)) {
+        for (int clock = 0; clock < 24; clock += hours) {
+            const double tick = double(QDateTime(date, QTime(clock, 0)).toMSecsSinceEpoch()) / 1000;
+            // An hour that is left out is the next one.
+            if ((m_ticks.isEmpty() || tick > m_ticks.constLast()) && !add(tick))
+                return false;
+        }
     }
     return true;
 }

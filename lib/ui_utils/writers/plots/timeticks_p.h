@@ -29,6 +29,7 @@ public:
 
 private:
     bool addMultiples(double step, double offset);
+    bool addHours(int hours);
     bool addDays(int days);
     bool addMonths(int months);
     bool add(double tick);
