@@ -3228,27 +3228,27 @@ Folder: %2</source>
     </message>
     <message>
         <source>the value of %1: %2</source>
-        <translation>قيمة %1: %2</translation>
+        <translation>قيمة ⁦%1⁩: %2</translation>
     </message>
     <message>
         <source>%1: not a regular file</source>
-        <translation>‏%1: ليس ملفًا عاديًا</translation>
+        <translation>⁦%1⁩: ليس ملفًا عاديًا</translation>
     </message>
     <message>
         <source>%1: cannot be opened: %2</source>
-        <translation>‏%1: يتعذر الفتح: %2</translation>
+        <translation>⁦%1⁩: يتعذر الفتح: %2</translation>
     </message>
     <message>
         <source>%1: larger than %2 MiB</source>
-        <translation>‏%1: أكبر من %2 MiB</translation>
+        <translation>⁦%1⁩: أكبر من %2&#xa0;MiB</translation>
     </message>
     <message>
         <source>%1: the first line names no column &quot;%2&quot;</source>
-        <translation>‏%1: لا يذكر السطر الأول عمودًا باسم &quot;%2&quot;</translation>
+        <translation>⁦%1⁩: لا يذكر السطر الأول عمودًا باسم &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1: no line has a value of the item&apos;s type in the column</source>
-        <translation>‏%1: لا يحتوي أي سطر في العمود على قيمة من نوع العنصر</translation>
+        <translation>⁦%1⁩: لا يحتوي أي سطر في العمود على قيمة من نوع العنصر</translation>
     </message>
     <message>
         <source>only a result can move: settings are set by clients</source>
@@ -3256,7 +3256,7 @@ Folder: %2</source>
     </message>
     <message>
         <source>an item of the type %1 cannot move as &quot;%2&quot;</source>
-        <translation>لا يمكن لعنصر من النوع %1 أن يتغير بطريقة &quot;%2&quot;</translation>
+        <translation>لا يمكن لعنصر من النوع ⁦%1⁩ أن يتغير بطريقة &quot;%2&quot;</translation>
     </message>
     <message>
         <source>has no meaning for &quot;%1&quot;</source>
@@ -3272,11 +3272,11 @@ Folder: %2</source>
     </message>
     <message>
         <source>%1. The item %2 stands still.</source>
-        <translation>%1. العنصر %2 لا يتغير.</translation>
+        <translation>%1. العنصر ⁦%2⁩ لا يتغير.</translation>
     </message>
     <message>
         <source>%1: %2 of %3 lines have no value for %4 and are left out.</source>
-        <translation>‏%1: %2 من %3 سطر بلا قيمة للعنصر %4 وقد أُهملت.</translation>
+        <translation>⁦%1⁩: %2 من %3 سطر بلا قيمة للعنصر ⁦%4⁩ وقد أُهملت.</translation>
     </message>
     <message>
         <source>only numbers and Booleans can be judged by their value</source>
@@ -3288,15 +3288,15 @@ Folder: %2</source>
     </message>
     <message>
         <source>there is no item %1 that is a number</source>
-        <translation>لا يوجد عنصر %1 يكون رقمًا</translation>
+        <translation>لا يوجد عنصر ⁦%1⁩ يكون رقمًا</translation>
     </message>
     <message>
         <source>there is no item %1 that has a value</source>
-        <translation>لا يوجد عنصر %1 له قيمة</translation>
+        <translation>لا يوجد عنصر ⁦%1⁩ له قيمة</translation>
     </message>
     <message>
         <source>a value of %1 is drawn from the numbers between &quot;from&quot; and &quot;to&quot;</source>
-        <translation>تُسحب قيمة %1 من الأرقام بين &quot;from&quot; و&quot;to&quot;</translation>
+        <translation>تُسحب قيمة ⁦%1⁩ من الأرقام بين &quot;from&quot; و&quot;to&quot;</translation>
     </message>
     <message>
         <source>must be greater than &quot;for&quot;</source>
@@ -3304,11 +3304,11 @@ Folder: %2</source>
     </message>
     <message>
         <source>no id begins with &quot;%1&quot;</source>
-        <translation>لا يبدأ أي معرّف بـ &quot;%1&quot;</translation>
+        <translation>لا يبدأ أي معرّف بـ &quot;⁦%1⁩&quot;</translation>
     </message>
     <message>
         <source>there is no action %1 that &quot;runs&quot;</source>
-        <translation>لا يوجد إجراء %1 له &quot;runs&quot;</translation>
+        <translation>لا يوجد إجراء ⁦%1⁩ له &quot;runs&quot;</translation>
     </message>
     <message>
         <source>nothing happens: say what, such as &quot;vanish&quot;: true</source>

@@ -3220,7 +3220,7 @@ Ordner: %2</translation>
     </message>
     <message>
         <source>%1: larger than %2 MiB</source>
-        <translation>%1: größer als %2 MiB</translation>
+        <translation>%1: größer als %2&#xa0;MiB</translation>
     </message>
     <message>
         <source>%1: the first line names no column &quot;%2&quot;</source>

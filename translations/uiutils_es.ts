@@ -3220,7 +3220,7 @@ Carpeta: %2</translation>
     </message>
     <message>
         <source>%1: larger than %2 MiB</source>
-        <translation>%1: supera los %2 MiB</translation>
+        <translation>%1: supera los %2&#xa0;MiB</translation>
     </message>
     <message>
         <source>%1: the first line names no column &quot;%2&quot;</source>

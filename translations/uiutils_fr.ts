@@ -3220,7 +3220,7 @@ Dossier&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1: larger than %2 MiB</source>
-        <translation>%1&#xa0;: plus de %2 Mio</translation>
+        <translation>%1&#xa0;: plus de %2&#xa0;Mio</translation>
     </message>
     <message>
         <source>%1: the first line names no column &quot;%2&quot;</source>

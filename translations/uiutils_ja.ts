@@ -3215,7 +3215,7 @@ Folder: %2</source>
     </message>
     <message>
         <source>%1: larger than %2 MiB</source>
-        <translation>%1: %2 MiB を超えています</translation>
+        <translation>%1: %2&#xa0;MiB を超えています</translation>
     </message>
     <message>
         <source>%1: the first line names no column &quot;%2&quot;</source>

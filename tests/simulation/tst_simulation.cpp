@@ -211,7 +211,8 @@ private Q_SLOTS:
             {"id": ":result:s:b:", "type": "int", "value": 1, "judged": {"passing": {"to": 1}}, "applicable": false},
             {"id": ":result:s:c:", "type": "std::string", "value": "x", "moves": {"as": "steps", "every": 1000, "values": ["x", null]}},
             {"id": ":action:s:clear:", "type": "action", "does": {"set": {":result:s:a:": null}}})",
-                R"([{"after": 1000, "for": 1000, "quality": "failing", "items": [":result:"]}, {"after": 1000, "for": 2000, "applicable": false}])"));
+                R"([{"after": 1000, "for": 2000, "applicable": false}, {"after": 1500, "for": 100, "applicable": false},
+                    {"after": 1000, "for": 1000, "quality": "failing", "items": [":result:"]}])"));
         const auto seen = [&s] {
             QStringList seen;
             for (const char* id : {":result:s:a:", ":result:s:b:", ":result:s:c:"})
@@ -225,6 +226,9 @@ private Q_SLOTS:
         s.backend.service("s")->setValue(":result:s:b:", 0);
         QCOMPARE(s.item(":result:s:b:")->getQualityCode(), int(KIVClientItem::QualityFailing));
         s.backend.service("s")->setReady(":result:s:a:", false);
+        s.to(1500);
+        s.to(1600);
+        QVERIFY(!s.item(":result:s:a:")->isApplicable());
         s.to(2000);
         QCOMPARE(seen(), (QStringList {"32 0 1", "16 0 0", "0 0 x"}));
         s.to(3000);

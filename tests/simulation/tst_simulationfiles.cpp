@@ -152,6 +152,28 @@ private Q_SLOTS:
         QCOMPARE(readCsvColumn(folder.filePath("texts.csv"), "state", true).values, (QVariantList {"idle", "very \"hot\"", ""}));
     }
 
+    /// The example of the documentation does what is said of it there.
+    void example()
+    {
+        QString page = QString::fromUtf8(contentsOf(UIUTILS_SOURCE_DIR "/docs/service-files.md"));
+        page = page.mid(page.indexOf("\n## Simulation\n")).section("```", 1, 1).mid(int(strlen("json")));
+        SimulatedService s(page.replace("\"service\": \"powermeter\"", "\"service\": \"s\"").toUtf8());
+        const QString level = ":result:powermeter:test:level:";
+        const QVariant first = s.value(level);
+        QCOMPARE(s.act(":action:powermeter:test:start:", "fiber 7"), "Measuring fiber 7.");
+        s.to(5000);
+        QVERIFY(s.value(level) != first && s.value(level).toDouble() >= -32 && s.value(level).toDouble() <= -18);
+        QVERIFY(QStringList({"done", "failed"}).contains(s.value(":result:powermeter:test:state:").toString()));
+        s.to(20'000);
+        QVERIFY(!s.client->isValid());
+        s.to(26'000);
+        QVERIFY(s.client->isValid());
+        s.to(41'000);
+        // Slowness would make the test wait.
+        s.backend.service("s")->setDelay(0);
+        QCOMPARE(s.act(":action:powermeter:test:stop:"), "!The laser is locked.");
+    }
+
     /// A file that is read again ends what it let happen, and judges what has not moved since.
     void readAgain()
     {

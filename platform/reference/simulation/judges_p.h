@@ -2,7 +2,7 @@
 
 #include "plan_p.h"
 
-#include <QHash>
+#include <QMap>
 #include <QObject>
 #include <QVector>
 
@@ -36,7 +36,7 @@ private:
     void follow();
 
     embedded::EmbeddedService* const m_service;
-    QHash<QString, Judgement> m_judgements;
+    QMap<QString, Judgement> m_judgements;
 };
 
 } // namespace kiv::simulation

@@ -4,7 +4,7 @@
 
 #include "embedded/servicedescription.h"
 
-#include <QHash>
+#include <QMap>
 #include <QVector>
 
 namespace kiv::simulation {
@@ -69,7 +69,7 @@ struct Happening
     QString error;
     QVector<Assignment> set;
     /// The items whose condition it changes, as their file describes them, by id.
-    QHash<QString, Condition> items;
+    QMap<QString, Condition> items;
 
     bool changesConditions() const { return isNotReady || isNotApplicable || quality || !refusal.isEmpty(); }
 };

@@ -7,6 +7,7 @@
 #include "embedded/valueconversion_p.h"
 
 #include <QFileInfo>
+#include <QHash>
 #include <QJsonArray>
 
 #include <algorithm>
