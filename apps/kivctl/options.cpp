@@ -189,7 +189,8 @@ QString choosePlatform(bool hasFolders, Options* options)
     if (options->command == Command::Watch || options->command == Command::Record)
         return Texts::tr("There is nothing to watch without a bus: the services of this program do not change.");
     if (options->command == Command::Replay)
-        return Texts::tr("A recording is replayed on a bus. \"uiutils-qml --replay\" shows a page over one without it.");
+        return Texts::tr(
+                "A recording is replayed on a bus. \"uiutils-qml --replay\" shows a page over one without it.");
     return QString();
 }
 
@@ -273,8 +274,8 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption root(
             QStringLiteral("root"), {}, QStringLiteral("FOLDER"), defaultRoot(QStringLiteral("kivctl")));
     const RecordingOptions recording;
-    parser.addOptions(QList<QCommandLineOption> {json, timeout, services, root} + recording.ofRecord()
-            + recording.ofReplay());
+    parser.addOptions(
+            QList<QCommandLineOption> {json, timeout, services, root} + recording.ofRecord() + recording.ofReplay());
     const apps::CommandLine line = apps::parse(parser, withNumbersLast(arguments), {helpText(), QString()});
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);

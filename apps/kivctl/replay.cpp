@@ -65,8 +65,7 @@ private:
         else if (isNumber && seconds >= 0 && seconds <= mostSeconds)
             m_playback->jumpTo(qint64(seconds * 1000));
         else
-            complain(Texts::tr("An empty line pauses and goes on, a number of seconds jumps there."),
-                    apps::exitFailed);
+            complain(Texts::tr("An empty line pauses and goes on, a number of seconds jumps there."), apps::exitFailed);
     }
 
     Playback* const m_playback;
@@ -76,8 +75,8 @@ private:
 
 void complainOf(const BusPublisher& publisher)
 {
-    QObject::connect(&publisher, &BusPublisher::connectionFailed, &publisher,
-            [last = QString()](const QString& reason) mutable {
+    QObject::connect(
+            &publisher, &BusPublisher::connectionFailed, &publisher, [last = QString()](const QString& reason) mutable {
                 if (reason != last)
                     complain(reason, exitUnreachable);
                 last = reason;

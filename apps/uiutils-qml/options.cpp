@@ -77,7 +77,8 @@ Options readOptions(const QStringList& arguments)
     const apps::CommandLine line = apps::parse(parser, arguments);
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);
-    const QString missing = apps::missingName(parser, services.all() + replay.named() << imports << language << picture);
+    const QString missing
+            = apps::missingName(parser, services.all() + replay.named() << imports << language << picture);
     if (!missing.isEmpty())
         return misused(missing);
     const QStringList pages = parser.positionalArguments();

@@ -146,9 +146,10 @@ private:
         if (isThere && lines.isEmpty())
             return true;
         std::printf("%s\n",
-                qUtf8Printable(isThere ? Texts::tr("%1 differs; what the page shows is in %2:").arg(expectedPath, actualPath)
-                                       : Texts::tr("There is no %1, which --update writes; what the page shows is in %2.")
-                                                 .arg(expectedPath, actualPath)));
+                qUtf8Printable(isThere
+                                ? Texts::tr("%1 differs; what the page shows is in %2:").arg(expectedPath, actualPath)
+                                : Texts::tr("There is no %1, which --update writes; what the page shows is in %2.")
+                                          .arg(expectedPath, actualPath)));
         for (const QString& line : lines)
             std::printf("    %s\n", qUtf8Printable(line));
         writeDown(actualPath, actual);

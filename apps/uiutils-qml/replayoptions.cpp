@@ -40,9 +40,9 @@ bool readMoments(const QString& text, QVector<qint64>* moments)
 
 ReplayOptions::ReplayOptions()
     : m_replay(QStringLiteral("replay"),
-              Texts::tr("Show the services of a recording that \"kivctl record\" has made, as they change in it, in "
-                        "place of described ones."),
-              Texts::tr("file"))
+            Texts::tr("Show the services of a recording that \"kivctl record\" has made, as they change in it, in "
+                      "place of described ones."),
+            Texts::tr("file"))
     , m_from(QStringLiteral("from"), Texts::tr("Replay from that second on (default: 0)."), Texts::tr("seconds"),
               QStringLiteral("0"))
     , m_speed(QStringLiteral("speed"), Texts::tr("Replay so many times faster (default: 1)."), Texts::tr("factor"),
@@ -53,7 +53,8 @@ ReplayOptions::ReplayOptions()
                         "the folder of --expect, and quit. The time of the page is that of the recording. Exit status "
                         "1 if anything differs."),
               Texts::tr("times"))
-    , m_expect(QStringLiteral("expect"), Texts::tr("The folder with what is expected of the page."), Texts::tr("folder"))
+    , m_expect(
+              QStringLiteral("expect"), Texts::tr("The folder with what is expected of the page."), Texts::tr("folder"))
     , m_update(QStringLiteral("update"), Texts::tr("Write what the page shows to the folder instead of comparing."))
     , m_pictures(QStringLiteral("pictures"), Texts::tr("Compare pictures besides the texts of the page."))
 {

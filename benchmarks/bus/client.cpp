@@ -132,9 +132,8 @@ int clientRole()
                         answer({});
                     }},
             {QStringLiteral("recorded"),
-                    [&client](const QVector<int>& arguments) {
-                        answer({double(client.hasRecorded(arguments.at(0)))});
-                    }},
+                    [&client](
+                            const QVector<int>& arguments) { answer({double(client.hasRecorded(arguments.at(0)))}); }},
             {QStringLiteral("start"), [](const QVector<int>&) { answerStart(); }},
             {QStringLiteral("memory"), [](const QVector<int>&) { answerMemory(); }},
     });

@@ -21,8 +21,8 @@ OwnRecording::OwnRecording(KIVClientInterface* client, bool isCompressed)
 {
     using kiv::replay::RecordingFile;
     QString problem;
-    m_file = RecordingFile::create(m_folder.filePath(fileName),
-            isCompressed ? RecordingFile::Compressed : RecordingFile::Plain, &problem);
+    m_file = RecordingFile::create(
+            m_folder.filePath(fileName), isCompressed ? RecordingFile::Compressed : RecordingFile::Plain, &problem);
     if (!m_file)
         qFatal("%s", qPrintable(problem));
     m_recorder = std::make_unique<kiv::replay::Recorder>([this](const QByteArray& line) { m_file->append(line); });

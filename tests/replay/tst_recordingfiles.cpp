@@ -115,7 +115,7 @@ private Q_SLOTS:
         row("too many lists", change("\"value\":[[]" + QByteArray(",[]").repeated(750001) + "]"), "broken lines: 1");
         row("too long", change("\"value\":\"" + QByteArray(33 << 20, 'x') + "\""), "broken lines: 1");
         row("backwards", change(json("'value':1")).replace("\"t\":5", "\"t\":8") + change(json("'value':1")).replace("\"t\":5", "\"t\":10")
-                        + change(json("'value':1")).replace("\"t\":5", "\"t\":9"), "goes backwards: 2");
+                        + change(json("'value':1")).replace("\"t\":5", "\"t\":9"), "goes backwards: 1");
         row("unknown item", json("{'t':5,'service':'otdr','id':':result:otdr:b:','value':2}\n"), "not there: 1");
         row("unknown service", json("{'t':5,'service':'x','id':':result:otdr:a:','value':2}\n") + json("{'t':5,'service':'x','gone':true}\n"), "not there: 2");
         for (const char* fields : {"\"value\":\"x\"", "\"value\":[1]", "\"value\":{}", "\"value\":1e300", "\"quality\":\"good\"", "\"ready\":1",
@@ -286,17 +286,23 @@ private Q_SLOTS:
         }
     }
 
-    /// A recording that was appended goes on where the first one ended.
+    /// A recording that was appended goes on where the first one ended, compressed or not.
     void appended()
     {
-        PlayingBench played(start + numbered(4) + recordingHeader + numbered(3));
-        played.player.advanceTo(5);
-        QCOMPARE(played.value(), QVariant(4));
-        played.player.advanceTo(6);
-        QCOMPARE(played.value(), QVariant(2));
-        played.player.advanceTo(7);
-        QCOMPARE(played.value(), QVariant(3));
-        QCOMPARE(played.player.troubles(), QString());
+        const QByteArray first = recordingHeader + start + numbered(4);
+        const QByteArray second = recordingHeader + numbered(3);
+        QCOMPARE(recordTo(m_folder.filePath("1.gz"), RecordingFile::Compressed, first), QString());
+        QCOMPARE(recordTo(m_folder.filePath("2.gz"), RecordingFile::Compressed, second), QString());
+        for (const QByteArray& both : {first + second, contentsOf(m_folder.filePath("1.gz")) + contentsOf(m_folder.filePath("2.gz"))}) {
+            PlayingBench played(both, {});
+            played.player.advanceTo(5);
+            QCOMPARE(played.value(), QVariant(4));
+            played.player.advanceTo(6);
+            QCOMPARE(played.value(), QVariant(2));
+            played.player.advanceTo(7);
+            QCOMPARE(played.value(), QVariant(3));
+            QCOMPARE(played.player.troubles(), QString());
+        }
     }
 };
 

@@ -14,7 +14,8 @@ namespace kiv::replay {
 namespace {
 
 constexpr int blockSize = 64 * 1024;
-/// A line of this length is none, and what follows is not read: a few bytes of a compressed file can stand for gigabytes.
+/// A line of this length is none, and what follows is not read: a few bytes of a compressed file can stand for
+/// gigabytes.
 constexpr qint64 hopelessLine = 8 * qint64(longestLine);
 
 } // namespace

@@ -56,7 +56,8 @@ std::optional<qint64> Player::nextTime() const
     return m_next ? std::optional<qint64>(m_next->time) : std::nullopt;
 }
 
-/// Makes the service, which nobody can reach. Null when the back end has one of that name already, or there are too many.
+/// Makes the service, which nobody can reach. Null when the back end has one of that name already, or there are too
+/// many.
 ReplayedService* Player::publish(const QString& name)
 {
     embedded::ServiceDescription description;
@@ -139,8 +140,7 @@ bool Player::advanceTo(qint64 ms, Pace pace)
 {
     const quint64 turn = pace == EachHeard ? ++m_turn : 0;
     for (;;) {
-        const bool goesOn
-                = m_missing > 0 && m_next && m_next->kind == Entry::Item && m_next->service == m_snapshotName;
+        const bool goesOn = m_missing > 0 && m_next && m_next->kind == Entry::Item && m_next->service == m_snapshotName;
         if (!goesOn)
             endSnapshot();
         if (!m_next || m_next->time > ms)

@@ -14,7 +14,7 @@
 namespace kiv::embedded {
 class EmbeddedBackend;
 class EmbeddedService;
-}
+} // namespace kiv::embedded
 
 namespace kiv::replay {
 
@@ -49,8 +49,8 @@ public:
     QStringList services() const { return m_names; }
     embedded::EmbeddedService* service(const QString& name) const;
 
-    /// Applies everything up to `ms` milliseconds after the beginning of the recording. Returns false when there is more
-    /// to be done at that pace: let the event loop run and call again.
+    /// Applies everything up to `ms` milliseconds after the beginning of the recording. Returns false when there is
+    /// more to be done at that pace: let the event loop run and call again.
     bool advanceTo(qint64 ms, Pace pace = AtOnce);
 
     /// Goes to a moment, back to the beginning first if it is an earlier one. Clients hear of what differs.

@@ -138,8 +138,7 @@ QByteArray membersJson(const KIVClientItem& item, const QByteArray& before)
     return QByteArray();
 }
 
-void appendDescription(
-        QByteArray* line, const KIVClientItem& item, const QuietFacts& quiet, const QByteArray& members)
+void appendDescription(QByteArray* line, const KIVClientItem& item, const QuietFacts& quiet, const QByteArray& members)
 {
     const QString type = typeWord(item.getType());
     appendField(line, "type", type.isEmpty() ? item.getTypeName() : type);

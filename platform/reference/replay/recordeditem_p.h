@@ -37,7 +37,6 @@ QByteArray choicesJson(const KIVClientItem& item);
 QByteArray membersJson(const KIVClientItem& item, const QByteArray& before);
 
 /// Appends everything that the item says to the line of a recording that names it.
-void appendDescription(
-        QByteArray* line, const KIVClientItem& item, const QuietFacts& quiet, const QByteArray& members);
+void appendDescription(QByteArray* line, const KIVClientItem& item, const QuietFacts& quiet, const QByteArray& members);
 
 } // namespace kiv::replay

@@ -155,7 +155,8 @@ std::optional<Entry> readEntry(const QByteArray& line)
     const std::optional<Entry::Kind> kind = kindOf(entry.fields);
     entry.service = entry.fields.value(QLatin1String("service")).toString();
     entry.id = entry.fields.value(QLatin1String("id")).toString();
-    const bool isNamed = !entry.service.isEmpty() && entry.service.size() <= longestName && entry.id.size() <= longestName;
+    const bool isNamed
+            = !entry.service.isEmpty() && entry.service.size() <= longestName && entry.id.size() <= longestName;
     if (!kind || !isNamed || !readTime(entry.fields.value(QLatin1String("t")), &entry.time))
         return std::nullopt;
     entry.kind = *kind;

@@ -65,9 +65,8 @@ std::unique_ptr<RecordingFile> RecordingFile::create(const QString& path, Form f
             : ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (descriptor >= 0)
         return std::unique_ptr<RecordingFile>(new RecordingFile(descriptor, path, form));
-    *problem = errno == EEXIST
-            ? ReplayTexts::tr("%1 exists. Name another file, or remove that one.").arg(path)
-            : ReplayTexts::tr("%1 cannot be written: %2.").arg(path, qt_error_string(errno));
+    *problem = errno == EEXIST ? ReplayTexts::tr("%1 exists. Name another file, or remove that one.").arg(path)
+                               : ReplayTexts::tr("%1 cannot be written: %2.").arg(path, qt_error_string(errno));
     return nullptr;
 }
 
