@@ -801,6 +801,33 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
 </context>
 <context>
+    <name>Instrument</name>
+    <message>
+        <source>Home</source>
+        <translation>الرئيسية</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>الإعداد</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>القياس</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>النتائج</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>التقرير</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>الملفات</translation>
+    </message>
+</context>
+<context>
     <name>InstrumentBar</name>
     <message>
         <source>Job</source>
@@ -1094,36 +1121,12 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <translation>اختبار حلقة TCP</translation>
     </message>
     <message>
-        <source>Results</source>
-        <translation>النتائج</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>التقرير</translation>
-    </message>
-    <message>
         <source>The file is damaged. What could be read of it is shown; something may be missing.</source>
         <translation>الملف تالف. يُعرض ما أمكنت قراءته؛ وقد ينقص شيء.</translation>
     </message>
     <message>
         <source>Opening the file …</source>
         <translation>جارٍ فتح الملف …</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>الرئيسية</translation>
-    </message>
-    <message>
-        <source>Set-up</source>
-        <translation>الإعداد</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>القياس</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>الملفات</translation>
     </message>
 </context>
 <context>

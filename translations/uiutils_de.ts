@@ -793,6 +793,33 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     </message>
 </context>
 <context>
+    <name>Instrument</name>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Messung</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+</context>
+<context>
     <name>InstrumentBar</name>
     <message>
         <source>Job</source>
@@ -1082,36 +1109,12 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
         <translation>TCP-Loopback-Prüfung</translation>
     </message>
     <message>
-        <source>Results</source>
-        <translation>Ergebnisse</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>Bericht</translation>
-    </message>
-    <message>
         <source>The file is damaged. What could be read of it is shown; something may be missing.</source>
         <translation>Die Datei ist beschädigt. Gezeigt wird, was lesbar war; etwas kann fehlen.</translation>
     </message>
     <message>
         <source>Opening the file …</source>
         <translation>Datei wird geöffnet …</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>Start</translation>
-    </message>
-    <message>
-        <source>Set-up</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>Messung</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Dateien</translation>
     </message>
 </context>
 <context>

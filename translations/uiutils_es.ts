@@ -793,6 +793,33 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     </message>
 </context>
 <context>
+    <name>Instrument</name>
+    <message>
+        <source>Home</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Medición</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+</context>
+<context>
     <name>InstrumentBar</name>
     <message>
         <source>Job</source>
@@ -1082,36 +1109,12 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
         <translation>Prueba de bucle TCP</translation>
     </message>
     <message>
-        <source>Results</source>
-        <translation>Resultados</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>Informe</translation>
-    </message>
-    <message>
         <source>The file is damaged. What could be read of it is shown; something may be missing.</source>
         <translation>El archivo está dañado. Se muestra lo que se pudo leer; puede faltar algo.</translation>
     </message>
     <message>
         <source>Opening the file …</source>
         <translation>Abriendo el archivo …</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>Inicio</translation>
-    </message>
-    <message>
-        <source>Set-up</source>
-        <translation>Configuración</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>Medición</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Archivos</translation>
     </message>
 </context>
 <context>

@@ -793,6 +793,33 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     </message>
 </context>
 <context>
+    <name>Instrument</name>
+    <message>
+        <source>Home</source>
+        <translation>Accueil</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Configuration</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Mesure</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Résultats</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+</context>
+<context>
     <name>InstrumentBar</name>
     <message>
         <source>Job</source>
@@ -1082,36 +1109,12 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
         <translation>Test de bouclage TCP</translation>
     </message>
     <message>
-        <source>Results</source>
-        <translation>Résultats</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>Rapport</translation>
-    </message>
-    <message>
         <source>The file is damaged. What could be read of it is shown; something may be missing.</source>
         <translation>Le fichier est endommagé. Ce qui a pu être lu est affiché&#xa0;; il peut manquer quelque chose.</translation>
     </message>
     <message>
         <source>Opening the file …</source>
         <translation>Ouverture du fichier …</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>Accueil</translation>
-    </message>
-    <message>
-        <source>Set-up</source>
-        <translation>Configuration</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>Mesure</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Fichiers</translation>
     </message>
 </context>
 <context>

@@ -791,6 +791,33 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
 </context>
 <context>
+    <name>Instrument</name>
+    <message>
+        <source>Home</source>
+        <translation>ホーム</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>測定設定</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>測定</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>レポート</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+</context>
+<context>
     <name>InstrumentBar</name>
     <message>
         <source>Job</source>
@@ -1079,36 +1106,12 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <translation>TCP ループバック試験</translation>
     </message>
     <message>
-        <source>Results</source>
-        <translation>結果</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>レポート</translation>
-    </message>
-    <message>
         <source>The file is damaged. What could be read of it is shown; something may be missing.</source>
         <translation>ファイルが壊れています。読み取れた部分を表示します。欠けている部分があるかもしれません。</translation>
     </message>
     <message>
         <source>Opening the file …</source>
         <translation>ファイルを開いています …</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>ホーム</translation>
-    </message>
-    <message>
-        <source>Set-up</source>
-        <translation>測定設定</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>測定</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>ファイル</translation>
     </message>
 </context>
 <context>

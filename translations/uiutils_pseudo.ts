@@ -793,6 +793,33 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
 </context>
 <context>
+    <name>Instrument</name>
+    <message>
+        <source>Home</source>
+        <translation>[Ĥömé ~]</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>[Šéţ-ûp ~]</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>[Ŕûñ ~]</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>[Ŕéšûļţš ~]</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>[Ŕépöŕţ ~]</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>[Fîļéš ~]</translation>
+    </message>
+</context>
+<context>
     <name>InstrumentBar</name>
     <message>
         <source>Job</source>
@@ -1082,36 +1109,12 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <translation>[ŢÇP ļööpbåçķ ţéšţ ~ ~ ~]</translation>
     </message>
     <message>
-        <source>Results</source>
-        <translation>[Ŕéšûļţš ~]</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>[Ŕépöŕţ ~]</translation>
-    </message>
-    <message>
         <source>The file is damaged. What could be read of it is shown; something may be missing.</source>
         <translation>[Ţĥé fîļé îš đåmåĝéđ. Ŵĥåţ çöûļđ bé ŕéåđ öf îţ îš šĥöŵñ; šöméţĥîñĝ måý bé mîššîñĝ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
     <message>
         <source>Opening the file …</source>
         <translation>[Öpéñîñĝ ţĥé fîļé … ~ ~ ~]</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>[Ĥömé ~]</translation>
-    </message>
-    <message>
-        <source>Set-up</source>
-        <translation>[Šéţ-ûp ~]</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>[Ŕûñ ~]</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>[Fîļéš ~]</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,8 @@ StatusBar {
     readonly property bool hasUnit: typeof unit_res_batteryLevel !== "undefined"
     readonly property bool isLow: hasUnit && unit_res_batteryLevel.value <= 20 && !unit_res_charging.value
 
+    objectName: "statusBar"
+
     StatusItem {
         objectName: "jobItem"
         iconName: "jobs"

@@ -83,6 +83,7 @@ T.ApplicationWindow {
 
     // The bars as they are seen before they have anything to show.
     Rectangle {
+        objectName: "statusPlace"
         width: parent.width
         height: ControlsStyle.touch
         color: ControlsStyle.divider
@@ -94,6 +95,7 @@ T.ApplicationWindow {
         }
     }
     Rectangle {
+        objectName: "navigationPlace"
         anchors.bottom: parent.bottom
         width: parent.width
         height: ControlsStyle.mm(11)
