@@ -41,7 +41,7 @@ DraftOutcome writeDraft(const QString& path, const DraftHeader& header, const Dr
 qint64 pauseAfter(int interval, qint64 duration)
 {
     constexpr int shareOfTime = 20;
-    constexpr qint64 longest = 60'000;
+    constexpr qint64 longest = 60 * 1000;
     return qMax<qint64>(interval, qMin(longest, shareOfTime * duration));
 }
 
