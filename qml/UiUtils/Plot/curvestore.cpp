@@ -235,7 +235,7 @@ int CurveStore::firstLineAt(double x) const
         }
         const QPointF& from = m_points.at(i);
         const QPointF& to = m_points.at(i + 1);
-        const auto [low, high] = std::minmax(from.x(), to.x());
+        const auto [low, high] = std::minmax({from.x(), to.x()});
         if (low <= x && x <= high && isDrawable(from) && isDrawable(to))
             return i;
         ++i;
