@@ -184,11 +184,7 @@ QString choosePlatform(bool hasFolders, Options* options)
     if (!kind)
         return problem;
     options->platform = hasFolders || kind == PlatformKind::Embedded ? Options::Embedded : Options::Bus;
-    if (options->platform == Options::Bus)
-        return QString();
-    if (options->command == Command::Watch || options->command == Command::Record)
-        return Texts::tr("There is nothing to watch without a bus: the services of this program do not change.");
-    if (options->command == Command::Replay)
+    if (options->platform == Options::Embedded && options->command == Command::Replay)
         return Texts::tr(
                 "A recording is replayed on a bus. \"uiutils-qml --replay\" shows a page over one without it.");
     return QString();

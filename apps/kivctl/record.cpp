@@ -103,11 +103,13 @@ int record(Services& services, const Options& options)
     followAll(&recorder, services, options);
     timer.start();
 
-    QObject::connect(services.bus(), &BusBackend::serviceAppeared, &recorder, [&](const QString& service) {
-        if (isWanted(options, service))
-            follow(&recorder, service);
-    });
-    complainOfEnds(*services.bus());
+    if (const BusBackend* bus = services.bus()) {
+        QObject::connect(bus, &BusBackend::serviceAppeared, &recorder, [&](const QString& service) {
+            if (isWanted(options, service))
+                follow(&recorder, service);
+        });
+        complainOfEnds(*bus);
+    }
     QObject::connect(file.get(), &RecordingFile::failed, &recorder, [](const QString& reason) {
         complain(reason, apps::exitFailed);
         QCoreApplication::quit();

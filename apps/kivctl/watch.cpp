@@ -111,9 +111,11 @@ int watch(Services& services, const Options& options)
         return exitStatus;
     takeSignals();
     Watch watch(options.operands.value(0), options.isJson);
-    QObject::connect(services.bus(), &BusBackend::serviceAppeared, &watch, &Watch::follow);
-    QObject::connect(services.bus(), &BusBackend::connectionFailed, &watch,
-            [](const QString& reason) { complain(reason, exitUnreachable); });
+    if (const BusBackend* bus = services.bus()) {
+        QObject::connect(bus, &BusBackend::serviceAppeared, &watch, &Watch::follow);
+        QObject::connect(bus, &BusBackend::connectionFailed, &watch,
+                [](const QString& reason) { complain(reason, exitUnreachable); });
+    }
     // An error of the pipe is its reader's end, of which nobody would hear before the next change.
     QSocketNotifier reader(STDOUT_FILENO, QSocketNotifier::Exception);
     QObject::connect(&reader, &QSocketNotifier::activated, &watch, [] { QCoreApplication::exit(apps::exitDone); });

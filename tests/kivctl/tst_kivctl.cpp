@@ -243,6 +243,25 @@ private Q_SLOTS:
         QCOMPARE(outcome.errors, QString());
     }
 
+    /// Services of the program itself move too.
+    void watchesWithoutABus()
+    {
+        QTemporaryDir folder;
+        writeFile(folder.filePath("w.service.json"), R"({ "service": "w", "items": [ { "id": ":result:w:a:", "type": "int",
+                "value": 0, "moves": { "as": "ramp", "from": 1, "to": 9, "step": 1, "every": 20 } } ] })");
+        QProcess watching;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("KIV_SIMULATION", "on");
+        watching.setProcessEnvironment(environment);
+        watching.start(program, {"watch", ":result:w:", "--services", folder.path(), "--root", folder.filePath("root")});
+        const QByteArray first = nextLine(watching);
+        const QByteArray second = nextLine(watching);
+        QVERIFY2(first.startsWith(":result:w:a:\t") && second.startsWith(":result:w:a:\t") && first != second,
+                first + second + watching.readAllStandardError());
+        signalTo(watching, SIGINT);
+        QCOMPARE(ended(watching).exitCode, 0);
+    }
+
     void endsWithItsReader()
     {
         QProcess watching;

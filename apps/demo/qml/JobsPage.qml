@@ -77,7 +77,7 @@ KitPage {
 
         EmptyState {
             anchors.fill: parent
-            visible: list.count === 0
+            visible: list.count === 0 && (!page.isServed || services.jobs.isAvailable)
             iconName: "search"
             title: page.isServed ? qsTr("No job is found") : qsTr("There are no jobs")
             text: page.isServed ? qsTr("Other words, or all jobs, may find one.")
