@@ -248,7 +248,7 @@ private Q_SLOTS:
     {
         QTemporaryDir folder;
         writeFile(folder.filePath("w.service.json"), R"({ "service": "w", "items": [ { "id": ":result:w:a:", "type": "int",
-                "value": 0, "moves": { "as": "ramp", "from": 1, "to": 9, "step": 1, "every": 20 } } ] })");
+                "value": 0, "moves": { "as": "ramp", "from": 1, "to": 9, "period": 200, "every": 20 } } ] })");
         QProcess watching;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("KIV_SIMULATION", "on");
