@@ -2169,7 +2169,7 @@ Folder: %2</source>
     </message>
     <message>
         <source>%1 → %2</source>
-        <translation>‏%1 ← %2</translation>
+        <translation>‏⁨%1⁩ ← ⁨%2⁩</translation>
     </message>
 </context>
 <context>

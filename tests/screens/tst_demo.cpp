@@ -95,9 +95,9 @@ private Q_SLOTS:
             {"error", [this] { m_files.sendNotificationNotEnoughSpace(longFiles.section('\n', 0, 0), 1.5e9); }},
             {"notices", [this] { m_files.sendNotificationDriveFull("/mnt/usb"); notifications()->accept(); open("notifications"); }},
             {"away", [this] { m_services.service("loopback")->setReachable(false); open("setup"); }},
-            {"review", [this] { run("session.setup.enter(loopback_cfg_maximumRtt, 7)"); open("review"); }},
+            {"review", [this] { change(); open("review"); }},
             {"saving", [this] { save(); }},
-            {"refused job", [this] { run("session.setup.enter(loopback_cfg_maximumRtt, 7)"); open("jobs"); click("job "); }},
+            {"refused job", [this] { change(); open("jobs"); click("job "); QVERIFY(run("session.jobs.problem !== ''").toBool()); }},
         };
         judge(scenes.keys(), [&](const QString& scene) {
             endScene();
@@ -158,6 +158,12 @@ private:
     {
         QTRY_VERIFY(itemNamed(m_window->contentItem(), name));
         QVERIFY(QMetaObject::invokeMethod(itemNamed(m_window->contentItem(), name), "clicked"));
+    }
+
+    void change()
+    {
+        run("session.setup.enter(loopback_cfg_maximumRtt, loopback_cfg_maximumRtt.value + 1)");
+        QTRY_COMPARE(run("session.setup.pending.length").toInt(), 1);
     }
 
     void preview()

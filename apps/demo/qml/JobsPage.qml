@@ -48,6 +48,7 @@ KitPage {
     InlineProblem {
         Layout.fillWidth: true
         keepsRoom: true
+        lines: 2
         text: page.session.jobs.problem
     }
     ListArea {
