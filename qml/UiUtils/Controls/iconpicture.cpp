@@ -62,6 +62,8 @@ QSGNode* IconPicture::updatePaintNode(QSGNode* node, UpdatePaintNodeData*)
     if (!image) {
         image = window()->createImageNode();
         image->setOwnsTexture(true);
+        // Where a pixel of the picture is no whole one of the screen.
+        image->setFiltering(QSGTexture::Linear);
         m_isNew = true;
     }
     if (m_isNew)
