@@ -280,6 +280,7 @@ def show(recording):
     (alone / 'kinds.service.json').write_bytes((data / 'services/kinds.service.json').read_bytes())
     nobody = recording.run('uiutils-demo', '--follow', '--root', root, '--services', alone, code=1)
     none = recording.run('uiutils-qml', '--list', '--services', '/nowhere', '--root', root, code=1)
+    unplayed = recording.run('uiutils-qml', '--list', '--replay', TREE / 'README.md', '--root', root, code=1)
     recording.environment['DBUS_SESSION_BUS_ADDRESS'] = 'unix:path=/nowhere/bus'
     lost = recording.run('kivctl', 'list', code=4)
     return [
@@ -293,6 +294,7 @@ def show(recording):
         ('the rejection of a service', odd, '/items/1: «the id :config:odd:twice: appears twice»'),
         ('a setting that is not there', nobody, '«There is no setting :config:basemgr:'),
         ('a host without services', none, '«No service could be loaded from /nowhere. '),
+        ('what is no recording', unplayed, 'README.md is not a recording of services.»'),
         ('a bus that is not there', lost, '«The session bus cannot be reached: '),
         ('the rejection of a file', nowhere, '«Cannot create a file in the folder of /nowhere/a.png: '),
     ]
