@@ -145,18 +145,6 @@ Scene Walk::takeScene()
     return m_scene;
 }
 
-// "TouchButton" of "TouchButton_QMLTYPE_12".
-QString typeOf(const QQuickItem* item)
-{
-    const QString name = QString::fromLatin1(item->metaObject()->className()).section(QLatin1String("_QML"), 0, 0);
-    return name.startsWith(QLatin1String("QQuick")) ? name.mid(6) : name;
-}
-
-bool isOwnType(const QQuickItem* item)
-{
-    return QByteArray(item->metaObject()->className()).contains("_QMLTYPE_");
-}
-
 QString wordsOf(const QQuickItem* item)
 {
     const QString text = item->property("text").toString();
@@ -167,6 +155,17 @@ QString wordsOf(const QQuickItem* item)
 }
 
 } // namespace
+
+QString typeOf(const QQuickItem* item)
+{
+    const QString name = QString::fromLatin1(item->metaObject()->className()).section(QLatin1String("_QML"), 0, 0);
+    return name.startsWith(QLatin1String("QQuick")) ? name.mid(6) : name;
+}
+
+bool isOwnType(const QQuickItem* item)
+{
+    return QByteArray(item->metaObject()->className()).contains("_QMLTYPE_");
+}
 
 Scene readScene(const QQuickWindow* window)
 {

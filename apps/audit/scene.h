@@ -53,6 +53,11 @@ Scene within(Scene scene, const QQuickItem* item);
 /// Whether the item, or one that it stands in, says by a property `mayElide` that its text may be cut.
 bool mayElide(const QQuickItem* item);
 
+/// What page writers call the item's type: "TouchButton" of "TouchButton_QMLTYPE_12", "Text" of "QQuickText".
+QString typeOf(const QQuickItem* item);
+/// Whether the type is a component in a file.
+bool isOwnType(const QQuickItem* item);
+
 /// How a page writer finds the item: its text, and the types and names of the items it stands in.
 QString nameOf(const QQuickItem* item);
 

@@ -2,6 +2,7 @@
 
 #include "base/root_p.h"
 #include "common/serviceoptions.h"
+#include "recordingoptions.h"
 #include "texts.h"
 #include "ui_host/describedservices_p.h"
 
@@ -190,74 +191,6 @@ QString choosePlatform(bool hasFolders, Options* options)
     return QString();
 }
 
-/// The options of recordings.
-struct RecordingOptions
-{
-    const QCommandLineOption only {QStringLiteral("only"), {}, QStringLiteral("SERVICE")};
-    const QCommandLineOption duration {QStringLiteral("duration"), {}, QStringLiteral("S")};
-    const QCommandLineOption gzip {QStringLiteral("gzip")};
-    const QCommandLineOption attribute {QStringLiteral("attribute"), {}, QStringLiteral("NAME")};
-    const QCommandLineOption speed {QStringLiteral("speed"), {}, QStringLiteral("FACTOR"), QStringLiteral("1")};
-    const QCommandLineOption from {QStringLiteral("from"), {}, QStringLiteral("S"), QStringLiteral("0")};
-    const QCommandLineOption loop {QStringLiteral("loop")};
-    const QCommandLineOption paused {QStringLiteral("paused")};
-
-    QList<QCommandLineOption> ofRecord() const { return {only, duration, gzip, attribute}; }
-    QList<QCommandLineOption> ofReplay() const { return {speed, from, loop, paused}; }
-
-    /// Returns what is wrong, or an empty text.
-    QString read(const QCommandLineParser& parser, Options* options) const;
-
-private:
-    static QString strayProblem(
-            const QCommandLineParser& parser, const QList<QCommandLineOption>& options, const char* command);
-};
-
-QString RecordingOptions::strayProblem(
-        const QCommandLineParser& parser, const QList<QCommandLineOption>& options, const char* command)
-{
-    for (const QCommandLineOption& option : options) {
-        if (parser.isSet(option))
-            return Texts::tr("--%1 is an option of \"%2\".").arg(option.names().constFirst(), QLatin1String(command));
-    }
-    return QString();
-}
-
-/// Returns a number of milliseconds, or a negative one.
-qint64 millisecondsIn(const QString& seconds)
-{
-    bool isNumber = false;
-    const double number = seconds.toDouble(&isNumber);
-    return isNumber && number >= 0 && number <= mostSeconds ? qint64(number * 1000) : -1;
-}
-
-QString RecordingOptions::read(const QCommandLineParser& parser, Options* options) const
-{
-    QString stray;
-    if (options->command != Command::Record)
-        stray = strayProblem(parser, ofRecord(), "record");
-    if (stray.isEmpty() && options->command != Command::Replay)
-        stray = strayProblem(parser, ofReplay(), "replay");
-    if (!stray.isEmpty())
-        return stray;
-    options->only = parser.values(only);
-    options->attributes = parser.values(attribute);
-    options->isCompressed = parser.isSet(gzip);
-    options->isLooped = parser.isSet(loop);
-    options->isPaused = parser.isSet(paused);
-    options->fromMs = millisecondsIn(parser.value(from));
-    if (options->fromMs < 0)
-        return Texts::tr("--from needs a number of seconds.");
-    const qint64 duration = parser.isSet(this->duration) ? millisecondsIn(parser.value(this->duration)) : 0;
-    if (duration < 0 || duration > INT_MAX || (duration == 0 && parser.isSet(this->duration)))
-        return Texts::tr("--duration needs a number of seconds above 0.");
-    options->durationMs = int(duration);
-    bool isNumber = false;
-    options->speed = parser.value(speed).toDouble(&isNumber);
-    const bool isSpeed = isNumber && options->speed >= 0.001 && options->speed <= 1e6;
-    return isSpeed ? QString() : Texts::tr("--speed needs a number from 0.001 to 1000000.");
-}
-
 } // namespace
 
 Options readOptions(const QStringList& arguments)
@@ -270,12 +203,11 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption root(
             QStringLiteral("root"), {}, QStringLiteral("FOLDER"), defaultRoot(QStringLiteral("kivctl")));
     const RecordingOptions recording;
-    parser.addOptions(
-            QList<QCommandLineOption> {json, timeout, services, root} + recording.ofRecord() + recording.ofReplay());
+    parser.addOptions(QList<QCommandLineOption> {json, timeout, services, root} + recording.all());
     const apps::CommandLine line = apps::parse(parser, withNumbersLast(arguments), {helpText(), QString()});
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);
-    QString problem = apps::missingName(parser, {services, root, recording.only, recording.attribute});
+    QString problem = apps::missingName(parser, recording.named() << services << root);
     if (!problem.isEmpty())
         return misused(problem);
 

@@ -21,9 +21,6 @@ enum class Command {
     Replay,
 };
 
-/// The longest time that an option may give: ten years.
-constexpr double mostSeconds = 10.0 * 366 * 24 * 3600;
-
 /// What the command line asks for.
 struct Options : apps::CommandLine
 {

@@ -71,7 +71,7 @@ int finish(RecordingFile* file, const Recorder& recorder, const QString& path)
     if (counts.leftOut > 0)
         complain(Texts::tr("%1 values are too large to be recorded.").arg(counts.leftOut), apps::exitFailed);
     const QLocale locale = QLocale::c();
-    const QString summary = Texts::tr("%1 changes of %2 services in %3 s, %4 bytes.")
+    const QString summary = Texts::tr("changes: %1, services: %2, seconds: %3, bytes: %4")
                                     .arg(QString::number(counts.changes), QString::number(counts.services),
                                             locale.toString(seconds, 'f', 1), QString::number(file->size()));
     if (path == QLatin1String("-"))

@@ -1,4 +1,5 @@
 #include "common/complaint.h"
+#include "common/playtimes.h"
 #include "common/termination.h"
 #include "options.h"
 #include "output.h"
@@ -58,12 +59,11 @@ private:
 
     void obey(const QByteArray& line)
     {
-        bool isNumber = false;
-        const double seconds = line.toDouble(&isNumber);
+        const std::optional<qint64> moment = apps::millisecondsOf(QString::fromUtf8(line));
         if (line.isEmpty())
             m_playback->setPaused(!m_playback->isPaused());
-        else if (isNumber && seconds >= 0 && seconds <= mostSeconds)
-            m_playback->jumpTo(qint64(seconds * 1000));
+        else if (moment)
+            m_playback->jumpTo(*moment);
         else
             complain(Texts::tr("An empty line pauses and goes on, a number of seconds jumps there."), apps::exitFailed);
     }

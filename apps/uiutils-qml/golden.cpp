@@ -20,27 +20,16 @@ constexpr int mostComparedLines = 2000;
 constexpr int colourTolerance = 24;
 constexpr qint64 pixelTolerance = 1000;
 
-QString typeOf(const QQuickItem* item)
-{
-    const QString name = QString::fromLatin1(item->metaObject()->className()).section(QLatin1String("_QML"), 0, 0);
-    return name.startsWith(QLatin1String("QQuick")) ? name.mid(6) : name;
-}
-
-bool isOwnType(const QQuickItem* item)
-{
-    return QByteArray(item->metaObject()->className()).contains("_QMLTYPE_");
-}
-
 QString wordOf(const QQuickItem* item)
 {
-    return item->objectName().isEmpty() ? typeOf(item) : item->objectName();
+    return item->objectName().isEmpty() ? audit::typeOf(item) : item->objectName();
 }
 
 QString pathOf(const QQuickItem* item)
 {
     QStringList words(wordOf(item));
     for (const QQuickItem* parent = item->parentItem(); parent; parent = parent->parentItem()) {
-        if (isOwnType(parent) || !parent->objectName().isEmpty())
+        if (audit::isOwnType(parent) || !parent->objectName().isEmpty())
             words.prepend(wordOf(parent));
     }
     return words.join(QLatin1Char('/'));

@@ -1,5 +1,6 @@
 #include "replayoptions.h"
 
+#include "common/playtimes.h"
 #include "options.h"
 #include "texts.h"
 
@@ -11,27 +12,14 @@ namespace uiutils::qmltool {
 
 namespace {
 
-/// Ten years.
-constexpr double mostSeconds = 10.0 * 366 * 24 * 3600;
-
-bool readSeconds(const QString& text, qint64* ms)
-{
-    bool isNumber = false;
-    const double seconds = text.toDouble(&isNumber);
-    if (!isNumber || !(seconds >= 0 && seconds <= mostSeconds))
-        return false;
-    *ms = qRound64(seconds * 1000);
-    return true;
-}
-
 bool readMoments(const QString& text, QVector<qint64>* moments)
 {
     const QStringList words = text.split(QLatin1Char(','));
     for (const QString& word : words) {
-        qint64 moment = 0;
-        if (!readSeconds(word, &moment))
+        const std::optional<qint64> moment = apps::millisecondsOf(word);
+        if (!moment)
             return false;
-        *moments += moment;
+        *moments += *moment;
     }
     return std::is_sorted(moments->cbegin(), moments->cend());
 }
@@ -94,18 +82,21 @@ QString ReplayOptions::read(const QCommandLineParser& parser, bool areServicesGi
     options->isLooped = parser.isSet(m_loop);
     options->isUpdate = parser.isSet(m_update);
     options->hasPictures = parser.isSet(m_pictures);
-    if (!readSeconds(parser.value(m_from), &options->fromMs))
+    const std::optional<qint64> from = apps::millisecondsOf(parser.value(m_from));
+    const std::optional<double> speed = apps::speedOf(parser.value(m_speed));
+    if (!from)
         return Texts::tr("--from needs a number of seconds.");
+    if (!speed)
+        return Texts::tr("--speed needs a number from 0.001 to 1000000.");
+    options->fromMs = *from;
+    options->speed = *speed;
     if (parser.isSet(m_at) && !readMoments(parser.value(m_at), &options->moments))
         return Texts::tr("--grab-at needs numbers of seconds in ascending order, separated by commas.");
     if (!options->moments.isEmpty() && options->moments.constFirst() < options->fromMs)
         return Texts::tr("--grab-at needs moments that --from does not leave out.");
     if (!options->moments.isEmpty() && (options->isAudit || !options->picture.isEmpty() || options->page.isEmpty()))
         return Texts::tr("--grab-at needs a page, and neither --grab nor --audit.");
-    bool isNumber = false;
-    options->speed = parser.value(m_speed).toDouble(&isNumber);
-    const bool isSpeed = isNumber && options->speed >= 0.001 && options->speed <= 1e6;
-    return isSpeed ? QString() : Texts::tr("--speed needs a number from 0.001 to 1000000.");
+    return QString();
 }
 
 } // namespace uiutils::qmltool

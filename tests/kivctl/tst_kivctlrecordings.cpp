@@ -132,8 +132,8 @@ private Q_SLOTS:
         Outcome outcome = ended(recording);
         QCOMPARE(outcome.exitCode, 0);
         QCOMPARE(outcome.errors, QString());
-        QVERIFY2(outcome.output.startsWith("5 changes of 5 services in "), outcome.output);
-        QVERIFY2(outcome.output.endsWith(QByteArray::number(contentsOf(first).size()) + " bytes.\n"), outcome.output);
+        QVERIFY2(outcome.output.startsWith("changes: 5, services: 5, seconds: "), outcome.output);
+        QVERIFY2(outcome.output.endsWith(" bytes: " + QByteArray::number(contentsOf(first).size()) + '\n'), outcome.output);
         QVERIFY(run({"record", first}).errors.contains("exists"));
 
         QProcess replay;
@@ -143,9 +143,10 @@ private Q_SLOTS:
         replay.write("\n");
         outcome = ended(replay);
         QVERIFY2(outcome.exitCode == 0 && outcome.errors.isEmpty(), qPrintable(outcome.errors));
+        QVERIFY(waitUntil([&] { return unzipped(second).count("\"gone\":true") == 5; }));
         recording.terminate();
         outcome = ended(recording);
-        QVERIFY2(outcome.output.startsWith("5 changes of 5 services in "), outcome.output);
+        QVERIFY2(outcome.output.startsWith("changes: 5, services: 5, seconds: "), outcome.output);
         QByteArrayList again = linesOf(unzipped(second));
         QByteArrayList before = linesOf(contentsOf(first));
         // Services end in any order.
@@ -193,7 +194,7 @@ private Q_SLOTS:
         QCOMPARE(outcome.exitCode, 0);
         QVERIFY(outcome.output.startsWith("{\"format\":\"kiv-recording\"") && outcome.output.endsWith("}\n"));
         QCOMPARE(outcome.output.count("\"snapshot\""), 1);
-        QVERIFY2(outcome.errors.contains("later is not there") && outcome.errors.contains("0 changes of 1 services"), qPrintable(outcome.errors));
+        QVERIFY2(outcome.errors.contains("later is not there") && outcome.errors.contains("changes: 0, services: 1"), qPrintable(outcome.errors));
         const QString file = writeFile(m_folder.filePath("short"), outcome.output);
         const Outcome late = run({"replay", file, "--from", "10"});
         QCOMPARE(late.exitCode, 1);

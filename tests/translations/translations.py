@@ -300,6 +300,7 @@ def show(recording):
     (alone / 'moving.service.json').write_text(f'{{ "service": "moving", "items": [{moving}] }}')
     nobody = recording.run('uiutils-demo', '--follow', '--root', root, '--services', alone, code=1)
     none = recording.run('uiutils-qml', '--list', '--services', '/nowhere', '--root', root, code=1)
+    unplayed = recording.run('uiutils-qml', '--list', '--replay', TREE / 'README.md', '--root', root, code=1)
     recording.environment['DBUS_SESSION_BUS_ADDRESS'] = 'unix:path=/nowhere/bus'
     lost = recording.run('kivctl', 'list', code=4)
     return [
@@ -314,6 +315,7 @@ def show(recording):
         ('a setting that is not there', nobody, '«There is no setting :config:basemgr:'),
         ('an item that stands still', nobody, ' The item :result:moving:a: stands still.»'),
         ('a host without services', none, '«No service could be loaded from /nowhere. '),
+        ('what is no recording', unplayed, 'README.md is not a recording of services.»'),
         ('a bus that is not there', lost, '«The session bus cannot be reached: '),
         ('the rejection of a file', nowhere, '«Cannot create a file in the folder of /nowhere/a.png: '),
     ]
