@@ -1,6 +1,8 @@
 #include "changefollower.h"
 
 #include "itemtext.h"
+#include "service/kivdata.h"
+#include "service/manifest.h"
 #include "texts.h"
 
 #include <kiv/kivclientinterface.h>
@@ -14,6 +16,13 @@ namespace {
 
 constexpr int itemsAtATime = 500;
 constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
+
+QString pageName(const QString& id)
+{
+    const KivData* const item = Manifest::getKivData(id);
+    const QString name = item ? item->getQmlTag() : QString();
+    return name.isEmpty() ? id : name;
+}
 
 double numberOf(const KIVClientItem& item)
 {
@@ -54,7 +63,7 @@ ChangeFollower::ChangeFollower(KIVClientInterface* client, ChangeLog* log, QObje
     connect(&m_timer, &QTimer::timeout, this, &ChangeFollower::listenToSome);
     connect(client, &KIVClientInterface::itemsChanged, this, &ChangeFollower::noteItems);
     connect(client, &KIVClientInterface::SigError, this, [this](const QString& error) {
-        m_log->add(ChangeLog::Error, m_client->getServiceName(), error, noNumber);
+        m_log->add({ChangeLog::Error, m_client->getServiceName(), m_client->getServiceName(), error});
     });
     m_waiting = client->getItemIds();
     m_ids = QSet<QString>(m_waiting.begin(), m_waiting.end());
@@ -67,15 +76,15 @@ void ChangeFollower::noteItems()
     const QSet<QString> now(ids.begin(), ids.end());
     const bool isValid = m_client->isValid();
     if (isValid != m_wasValid) {
-        m_log->add(ChangeLog::Service, m_client->getServiceName(),
-                isValid ? Texts::tr("The service has come") : Texts::tr("The service has gone"), noNumber);
+        noteService(m_client->getServiceName(),
+                isValid ? Texts::tr("The service has come") : Texts::tr("The service has gone"));
     } else {
         const QSet<QString> come = QSet<QString>(now).subtract(m_ids);
         const QSet<QString> gone = QSet<QString>(m_ids).subtract(now);
         for (const QString& id : come)
-            m_log->add(ChangeLog::Service, id, Texts::tr("The item has come"), noNumber);
+            noteService(id, Texts::tr("The item has come"));
         for (const QString& id : gone)
-            m_log->add(ChangeLog::Service, id, Texts::tr("The item has gone"), noNumber);
+            noteService(id, Texts::tr("The item has gone"));
     }
     m_wasValid = isValid;
     m_ids = now;
@@ -88,10 +97,11 @@ void ChangeFollower::listenToSome()
     for (int i = 0; i < itemsAtATime && m_client && !m_waiting.isEmpty(); ++i) {
         const QString id = m_waiting.takeLast();
         KIVClientItem* const item = m_client->getItem(id);
-        QPointer<KIVClientItem>& heard = m_heard[id];
-        if (item && heard != item)
-            listenTo(item);
-        heard = item;
+        Heard& heard = m_heard[id];
+        if (!item || heard.item == item)
+            continue;
+        heard = {item, pageName(id)};
+        listenTo(item);
     }
     if (m_waiting.isEmpty() || !m_client)
         m_timer.stop();
@@ -111,37 +121,49 @@ const KIVClientItem* ChangeFollower::reporter() const
     return qobject_cast<const KIVClientItem*>(sender());
 }
 
+void ChangeFollower::note(ChangeLog::Kind kind, const KIVClientItem& item, const QString& text)
+{
+    const QString id = item.getId();
+    m_log->add({kind, id, m_heard.value(id).name, text, kind == ChangeLog::Value ? numberOf(item) : noNumber});
+}
+
+/// A service, or an item as a whole.
+void ChangeFollower::noteService(const QString& id, const QString& text)
+{
+    const QString known = m_heard.value(id).name;
+    m_log->add({ChangeLog::Service, id, known.isEmpty() ? pageName(id) : known, text});
+}
+
 void ChangeFollower::noteValue()
 {
     // A paused log needs no text, which may take longer than the change.
     if (const KIVClientItem* const item = reporter())
-        m_log->add(ChangeLog::Value, item->getId(), m_log->isPaused() ? QString() : shortText(*item), numberOf(*item));
+        note(ChangeLog::Value, *item, m_log->isPaused() ? QString() : shortText(*item));
 }
 
 void ChangeFollower::noteUnit()
 {
     if (const KIVClientItem* const item = reporter())
-        m_log->add(ChangeLog::Unit, item->getId(), item->getUnitString(), noNumber);
+        note(ChangeLog::Unit, *item, item->getUnitString());
 }
 
 void ChangeFollower::noteReadiness()
 {
     if (const KIVClientItem* const item = reporter())
-        m_log->add(ChangeLog::Readiness, item->getId(), item->isReady() ? Texts::tr("Ready") : Texts::tr("Not ready"),
-                noNumber);
+        note(ChangeLog::Readiness, *item, item->isReady() ? Texts::tr("Ready") : Texts::tr("Not ready"));
 }
 
 void ChangeFollower::noteQuality()
 {
     if (const KIVClientItem* const item = reporter())
-        m_log->add(ChangeLog::Quality, item->getId(), qualityWord(item->getQualityCode()), noNumber);
+        note(ChangeLog::Quality, *item, qualityWord(item->getQualityCode()));
 }
 
 void ChangeFollower::noteApplicability()
 {
     if (const KIVClientItem* const item = reporter())
-        m_log->add(ChangeLog::Applicability, item->getId(),
-                item->isApplicable() ? Texts::tr("Applicable") : Texts::tr("Not applicable"), noNumber);
+        note(ChangeLog::Applicability, *item,
+                item->isApplicable() ? Texts::tr("Applicable") : Texts::tr("Not applicable"));
 }
 
 } // namespace uiutils::inspector

@@ -37,13 +37,22 @@ private:
     void noteQuality();
     void noteApplicability();
     const KIVClientItem* reporter() const;
+    void note(ChangeLog::Kind kind, const KIVClientItem& item, const QString& text);
+    void noteService(const QString& id, const QString& text);
+
+    struct Heard
+    {
+        QPointer<KIVClientItem> item;
+        /// Nobody knows it while the service is away.
+        QString name;
+    };
 
     const QPointer<KIVClientInterface> m_client;
     ChangeLog* const m_log;
     QTimer m_timer;
     QStringList m_waiting;
     QSet<QString> m_ids;
-    QHash<QString, QPointer<KIVClientItem>> m_heard;
+    QHash<QString, Heard> m_heard;
     bool m_wasValid = false;
 };
 

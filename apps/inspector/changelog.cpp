@@ -1,7 +1,5 @@
 #include "changelog.h"
 
-#include "service/kivdata.h"
-#include "service/manifest.h"
 #include "texts.h"
 
 #include <QDateTime>
@@ -37,13 +35,6 @@ QString kindWord(ChangeLog::Kind kind)
     return QString();
 }
 
-QString nameOf(const QString& id)
-{
-    const KivData* const item = Manifest::getKivData(id);
-    const QString name = item ? item->getQmlTag() : QString();
-    return name.isEmpty() ? id : name;
-}
-
 QString timeText(qint64 time)
 {
     return QDateTime::fromMSecsSinceEpoch(time).toString(QStringLiteral("HH:mm:ss.zzz"));
@@ -61,7 +52,7 @@ ChangeLog::ChangeLog(int capacity, const Clock& clock, QObject* parent)
     connect(&m_timer, &QTimer::timeout, this, &ChangeLog::flush);
 }
 
-void ChangeLog::add(Kind kind, const QString& id, const QString& text, double number)
+void ChangeLog::add(Change change)
 {
     if (!m_timer.isActive())
         m_timer.start();
@@ -69,7 +60,8 @@ void ChangeLog::add(Kind kind, const QString& id, const QString& text, double nu
         ++m_missed;
         return;
     }
-    m_fresh.push_back({m_clock(), kind, id, text, number});
+    change.time = m_clock();
+    m_fresh.push_back(std::move(change));
     // An event loop that does not run must not make the log grow.
     if (int(m_fresh.size()) >= m_capacity)
         flush();
@@ -150,7 +142,7 @@ QVariant ChangeLog::data(const QModelIndex& index, int role) const
     case IdRole:
         return change.id;
     case NameRole:
-        return nameOf(change.id);
+        return change.name;
     case KindRole:
         return kindWord(change.kind);
     case TextRole:

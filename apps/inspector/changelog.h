@@ -6,6 +6,7 @@
 
 #include <deque>
 #include <functional>
+#include <limits>
 #include <vector>
 
 namespace uiutils::inspector {
@@ -29,14 +30,16 @@ public:
 
     struct Change
     {
-        /// Milliseconds since 1970.
-        qint64 time = 0;
         Kind kind = Value;
         /// Of the item; of a service its name.
         QString id;
+        /// What pages call the item.
+        QString name;
         QString text;
         /// The value where it is a number; otherwise not a number.
-        double number = 0;
+        double number = std::numeric_limits<double>::quiet_NaN();
+        /// Milliseconds since 1970.
+        qint64 time = 0;
     };
 
     enum Role {
@@ -53,8 +56,8 @@ public:
     /// `clock` gives the time of changes, in milliseconds since 1970.
     explicit ChangeLog(int capacity = usualCapacity, const Clock& clock = {}, QObject* parent = nullptr);
 
-    /// Enters a change that happens now.
-    void add(Kind kind, const QString& id, const QString& text, double number);
+    /// Enters a change. Its time is now.
+    void add(Change change);
 
     bool isPaused() const { return m_isPaused; }
     void setPaused(bool isPaused);
