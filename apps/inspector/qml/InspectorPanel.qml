@@ -10,7 +10,7 @@ Rectangle {
     required property Inspector inspector
     // The item whose details are shown; null for none.
     property QtObject chosen: null
-    readonly property bool isWide: width > ControlsStyle.mm(150)
+    readonly property bool isWide: width > ControlsStyle.mm(170)
 
     // Shows the details of an item.
     function show(item) {
@@ -26,6 +26,13 @@ Rectangle {
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Inspector")
 
+    // Where the page beside it ends.
+    Rectangle {
+        anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
+        width: ControlsStyle.line
+        color: ControlsStyle.border
+        z: 1
+    }
     ColumnLayout {
         anchors.fill: parent
         spacing: 0

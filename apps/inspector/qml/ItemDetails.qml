@@ -10,6 +10,8 @@ Item {
     required property Inspector inspector
     property QtObject item: null
     property bool hasBack: false
+    // The entry describes an item when it gets the item.
+    property bool isDescribed: true
     signal back
 
     EmptyState {
@@ -77,7 +79,7 @@ Item {
                 objectName: "itemEntry"
                 Layout.fillWidth: true
                 // Results are shown above.
-                item: details.item !== null && glance.type !== "action" && !details.item.readOnly ? details.item : null
+                item: details.isDescribed && details.item !== null && glance.type !== "action" && !details.item.readOnly ? details.item : null
                 label: qsTr("Setting")
             }
             Loader {
@@ -97,6 +99,10 @@ Item {
                 service: details.item === null ? null : details.inspector.serviceOf(details.item)
                 item: details.item
                 type: glance.type
+                onLimitsChanged: {
+                    details.isDescribed = false
+                    Qt.callLater(() => { details.isDescribed = true })
+                }
             }
             LabelText {
                 Layout.fillWidth: true

@@ -26,11 +26,22 @@ Section {
         maximum.value = item === null ? "" : textOf(item.maxRange)
     }
 
-    function setLimits(low, high) {
+    function setLimits(entry, low, high) {
         const problem = service.setLimits(item.id, low, high)
-        Qt.callLater(showLimits)
+        if (problem === "") {
+            Qt.callLater(showLimits)
+            limitsChanged()
+        }
+        return told(entry, problem)
+    }
+
+    // An entry without an item shows what is set here.
+    function told(entry, problem) {
+        entry.face.refusal = problem
         return problem
     }
+
+    signal limitsChanged
 
     title: qsTr("By hand")
     note: isPossible ? "" : qsTr("What a service reports can be set by hand where the service lives in this process. This one lives in another.")
@@ -63,6 +74,7 @@ Section {
             storeWith: isReady => { hands.set(id => hands.service.setReady(id, isReady)); return "" }
         }
         SwitchEntry {
+            id: applicable
             objectName: "applicableHand"
             Layout.fillWidth: true
             label: qsTr("Applicable")
@@ -70,7 +82,7 @@ Section {
             storeWith: isApplicable => {
                 let isDone = false
                 hands.set(id => { isDone = hands.service.setApplicable(id, isApplicable) })
-                return isDone ? "" : qsTr("The service decides by an expression.")
+                return hands.told(applicable, isDone ? "" : qsTr("The service decides by an expression."))
             }
         }
         TextEntry {
@@ -80,7 +92,7 @@ Section {
             visible: hands.type !== "action"
             label: qsTr("Value that the service reports")
             value: ""
-            storeWith: text => text === "" || hands.item === null ? "" : hands.service.setValue(hands.item.id, text)
+            storeWith: text => text === "" || hands.item === null ? "" : hands.told(report, hands.service.setValue(hands.item.id, text))
         }
         RowLayout {
             Layout.fillWidth: true
@@ -92,14 +104,14 @@ Section {
                 objectName: "minimumHand"
                 Layout.fillWidth: true
                 label: hands.type === "std::string" ? qsTr("Shortest") : qsTr("Minimum")
-                storeWith: text => hands.setLimits(text, maximum.text)
+                storeWith: text => hands.setLimits(minimum, text, maximum.text)
             }
             TextEntry {
                 id: maximum
                 objectName: "maximumHand"
                 Layout.fillWidth: true
                 label: hands.type === "std::string" ? qsTr("Longest") : qsTr("Maximum")
-                storeWith: text => hands.setLimits(minimum.text, text)
+                storeWith: text => hands.setLimits(maximum, minimum.text, text)
             }
         }
     }

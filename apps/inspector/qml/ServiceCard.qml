@@ -67,6 +67,7 @@ Card {
             model: card.service.pending
 
             ListRow {
+                required property var modelData
                 Layout.fillWidth: true
                 title: modelData.name
                 subtitle: qsTr("Now: %1").arg(modelData.from)

@@ -15,6 +15,7 @@ ScrollArea {
         model: page.inspector.services
 
         ServiceCard {
+            required property var modelData
             Layout.fillWidth: true
             service: modelData
         }
