@@ -50,7 +50,7 @@ public:
         TextRole,
     };
 
-    static constexpr int usualCapacity = 10'000;
+    static constexpr int usualCapacity = 10000;
     using Clock = std::function<qint64()>;
 
     /// `clock` gives the time of changes, in milliseconds since 1970.

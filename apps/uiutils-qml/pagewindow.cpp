@@ -108,6 +108,11 @@ void PageWindow::showPanelAlone(QQuickWindow* page)
         QObject::connect(m_panelWindow.get(), &QWindow::widthChanged, m_panelWindow.get(), fill);
         QObject::connect(m_panelWindow.get(), &QWindow::heightChanged, m_panelWindow.get(), fill);
     }
+    // The program ends with its page.
+    QObject::connect(page, &QWindow::visibleChanged, m_panelWindow.get(), [this, page](bool isVisible) {
+        if (!isVisible && m_window == page)
+            m_panelWindow->hide();
+    });
     putPanelInto(m_panelWindow.get());
     m_panel->setPosition(QPointF());
     m_panel->setSize(m_panelWindow->size());

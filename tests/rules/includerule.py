@@ -51,12 +51,14 @@ preview     qml/UiUtils/Preview             LIBRARY base contract
 liveplot    qml/UiUtils/Plot                base contract core languages document service plots
 common      apps/common                     LIBRARY base contract embedded bus host
 audit       apps/audit                      -
+inspector   apps/inspector                  LIBRARY base contract embedded host
 kivd        apps/kivd                       base contract embedded bus common
 kivctl      apps/kivctl                     base contract embedded bus common host
 viewer      apps/pdf_viewer                 base common
-demo        apps/demo                       LIBRARY base contract embedded common host
+demo        apps/demo                       LIBRARY base contract embedded common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
-qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded common audit host
+qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded common audit host inspector
+inspecttool apps/uiutils-inspector          LIBRARY base contract embedded common host inspector
 expage      examples/page                   host
 exform      examples/form                   LIBRARY contract host
 exreport    examples/report                 LIBRARY contract host
@@ -70,6 +72,7 @@ GROUPS = {"WRITERS": "emitter plots pdffile pages text modern csv html xml",
           "LIBRARY": "core languages service instrument document local files emitter plots pdffile pages text modern csv html xml report saving drafts module"}
 # Our modules that pages may import. The measures are a resource of the viewer, too.
 PAGES = {"qml/UiUtils/Controls/Measures.qml": [], "apps/pdf_viewer/qml": ["UiUtils.Viewer"], "qml/UiUtils/Controls": ["UiUtils", "UiUtils.Controls", "UiUtils.Preview"],
+         "apps/inspector/qml": ["UiUtils", "UiUtils.Controls", "UiUtils.Plot", "UiUtils.Inspector"],
          "apps/demo/qml": ["UiUtils", "UiUtils.Controls", "UiUtils.Demo", "UiUtils.Plot"]}
 # Tests may include everything, and nothing may include them.
 TESTS = "tests/"
@@ -84,7 +87,7 @@ SHARED_WITH_PROGRAMS = ("base/", "lib/ui_host/")
 LINKED_AGAIN = {"liveplot": "lib/ui_utils/writers/plots/"}
 GUESTS = {"demo", "expage", "exform", "exreport", "exservice", "explatform"}
 # The libraries of the tree that the demo may link besides installed ones: its own parts, and what programs share.
-DEMO_LINKS = {"uiutils_demo_parts", "uiutils_apps_common"}
+DEMO_LINKS = {"uiutils_demo_parts", "uiutils_apps_common", "uiutils_inspector"}
 LARGEST_CIRCLE = 3
 
 # Arrows that break the rule at present, with the reason. The list may only shrink.

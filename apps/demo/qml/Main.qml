@@ -9,6 +9,8 @@ T.ApplicationWindow {
     id: window
 
     required property LoopbackMeasurement measurement
+    // The window with the services and their items; null where there is no desk.
+    property QtObject inspector: null
     readonly property var tabs: ["home", "setup", "run", "results", "report", "files"]
     readonly property var files: ({ home: "HomePage.qml", setup: "SetupPage.qml", run: "RunPage.qml", results: "ResultsPage.qml",
                                     report: "ReportPage.qml", files: "FilesPage.qml", jobs: "JobsPage.qml", people: "PeoplePage.qml",
@@ -37,7 +39,7 @@ T.ApplicationWindow {
 
     // What the first picture does not need, neither its objects nor its files.
     function complete() {
-        overlays.setSource("Overlays.qml", { session: session })
+        overlays.setSource("Overlays.qml", { session: session, inspector: inspector })
     }
 
     // Errors that happened meanwhile are read first.
@@ -119,6 +121,12 @@ T.ApplicationWindow {
         Item {
             Shortcut { sequence: "Ctrl+" + (index + 1); onActivated: window.showPage(index) }
         }
+    }
+    Shortcut {
+        enabled: window.inspector !== null
+        sequence: "F12"
+        autoRepeat: false
+        onActivated: window.inspector.toggle()
     }
     Shortcut {
         // Pictures include dialogs.

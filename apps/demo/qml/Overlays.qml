@@ -8,13 +8,17 @@ Item {
     id: overlays
 
     property Session session
+    property QtObject inspector: null
 
     parent: T.Overlay.overlay
     anchors.fill: parent
 
     NotificationDialog {}
     SaveProgress { report: overlays.session.report }
-    DeskDrawer { id: desk }
+    DeskDrawer {
+        id: desk
+        inspector: overlays.inspector
+    }
     ScreenKeyboard {}
 
     // In the margin of the pages, where the user has no control.

@@ -45,9 +45,9 @@ ColumnLayout {
         Layout.fillWidth: true
         Layout.leftMargin: ControlsStyle.margin
         Layout.rightMargin: ControlsStyle.margin
-        text: [qsTr("%L1 changes").arg(page.log.count),
-               page.log.fallen > 0 ? qsTr("%L1 older ones fell out").arg(page.log.fallen) : "",
-               page.log.missed > 0 ? qsTr("%L1 while paused").arg(page.log.missed) : ""].filter(part => part !== "").join(" \u00b7 ")
+        text: [qsTr("Changes: %L1").arg(page.log.count),
+               page.log.fallen > 0 ? qsTr("fallen out: %L1").arg(page.log.fallen) : "",
+               page.log.missed > 0 ? qsTr("missed while paused: %L1").arg(page.log.missed) : ""].filter(part => part !== "").join(" \u00b7 ")
         wrapMode: Text.Wrap
     }
     ListArea {

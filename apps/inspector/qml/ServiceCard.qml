@@ -15,36 +15,30 @@ Card {
     BodyText {
         objectName: "serviceState"
         Layout.fillWidth: true
-        text: card.service.isAvailable ? qsTr("%n items", "", card.service.itemCount) : qsTr("Cannot be reached")
+        text: [card.service.isAvailable ? qsTr("%n items", "", card.service.itemCount) : qsTr("Cannot be reached"),
+               card.service.isSlow ? qsTr("answers slowly") : "",
+               card.service.isRefusing ? qsTr("rejects every change") : ""].filter(part => part !== "").join(" \u00b7 ")
         muted: true
     }
-    GridLayout {
+    Flow {
         Layout.fillWidth: true
         visible: card.service.isOwn
-        columns: width > ControlsStyle.mm(100) ? 3 : 1
-        columnSpacing: ControlsStyle.gap
-        rowSpacing: 0
+        spacing: ControlsStyle.touchGap
 
-        SwitchEntry {
+        TouchButton {
             objectName: "slow " + card.service.name
-            Layout.fillWidth: true
-            label: qsTr("Slow")
-            value: card.service.isSlow
-            storeWith: isSlow => { card.service.isSlow = isSlow; return "" }
+            text: card.service.isSlow ? qsTr("Fast") : qsTr("Slow")
+            onClicked: card.service.isSlow = !card.service.isSlow
         }
-        SwitchEntry {
+        TouchButton {
             objectName: "refuse " + card.service.name
-            Layout.fillWidth: true
-            label: qsTr("Rejects every change")
-            value: card.service.isRefusing
-            storeWith: isRefusing => { card.service.isRefusing = isRefusing; return "" }
+            text: card.service.isRefusing ? qsTr("Accept") : qsTr("Refuse")
+            onClicked: card.service.isRefusing = !card.service.isRefusing
         }
-        SwitchEntry {
+        TouchButton {
             objectName: "away " + card.service.name
-            Layout.fillWidth: true
-            label: qsTr("Away")
-            value: card.service.isAway
-            storeWith: isAway => { card.service.isAway = isAway; return "" }
+            text: card.service.isAway ? qsTr("Return") : qsTr("Vanish")
+            onClicked: card.service.isAway = !card.service.isAway
         }
     }
     BodyText {
