@@ -9,6 +9,8 @@
 
 #include <QtQml>
 
+#include <algorithm>
+
 namespace uiutils::inspector {
 
 Inspector::Inspector(Host* host, const QString& favouritesFile, QObject* parent)
@@ -42,7 +44,13 @@ void Inspector::add(const QString& name)
     QQmlEngine::setObjectOwnership(m_services.constLast(), QQmlEngine::CppOwnership);
     m_items.add(manifest);
     if (manifest->client())
-        new ChangeFollower(manifest->client(), &m_log, m_services.constLast());
+        m_followers += new ChangeFollower(manifest->client(), &m_log, m_services.constLast());
+}
+
+bool Inspector::isListening() const
+{
+    return std::all_of(m_followers.begin(), m_followers.end(),
+            [](const ChangeFollower* follower) { return follower->isComplete(); });
 }
 
 QVariantList Inspector::services() const

@@ -14,6 +14,8 @@ class Host;
 
 namespace uiutils::inspector {
 
+class ChangeFollower;
+
 /// What the panel shows: all services of a host with their items, and what has happened since.
 class Inspector : public QObject
 {
@@ -27,6 +29,9 @@ public:
     /// The host must be up and outlive the object. `favouritesFile` as Favourites has it.
     Inspector(Host* host, const QString& favouritesFile, QObject* parent = nullptr);
     ~Inspector() override;
+
+    /// Whether the log hears every item; it begins to listen a few items at a time.
+    bool isListening() const;
 
     ItemRows* items() { return &m_items; }
     ChangeLog* log() { return &m_log; }
@@ -50,6 +55,8 @@ private:
     ItemRows m_items;
     ChangeLog m_log;
     QVector<InspectedService*> m_services;
+    /// Children of the services.
+    QVector<ChangeFollower*> m_followers;
 };
 
 /// Where the favourites of a program's user are kept, below the root in use.

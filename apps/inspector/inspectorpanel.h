@@ -33,6 +33,8 @@ public:
     QQuickItem* load();
     QQuickItem* item() const { return m_item.get(); }
     QString error() const { return m_error; }
+    /// See Inspector::isListening().
+    bool isListening() const { return m_inspector.isListening(); }
 
 private:
     QQmlEngine m_engine;

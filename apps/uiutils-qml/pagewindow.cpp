@@ -72,6 +72,7 @@ void PageWindow::showItem(QQuickItem* item)
             m_shared->setGeometry(m_window->geometry());
         else
             m_shared->resize((m_size.isEmpty() ? own : m_size) + QSize(panelWidth(), 0));
+        m_pageWidth = m_shared->width() - panelWidth();
     }
     m_window = m_shared.get();
     if (m_panelWindow)
@@ -86,10 +87,10 @@ void PageWindow::showItem(QQuickItem* item)
     item->setParentItem(m_window->contentItem());
 }
 
-/// The panel gets what it wants, but never more than half of a window that the user made small.
+/// The page keeps its width beside the panel. In a window that the user made small both get smaller.
 void PageWindow::arrange(QQuickItem* page)
 {
-    const int beside = qMin(panelWidth(), m_shared->width() / 2);
+    const int beside = qMin(panelWidth(), qMax(m_shared->width() - m_pageWidth, m_shared->width() / 2));
     page->setSize(QSizeF(m_shared->width() - beside, m_shared->height()));
     if (!m_panel)
         return;

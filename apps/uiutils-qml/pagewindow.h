@@ -45,6 +45,8 @@ private:
 
     const QSize m_size;
     QQuickItem* m_panel = nullptr;
+    /// Of pages in the shared window, when it was made.
+    int m_pageWidth = 0;
     /// For the panel beside a page that is a window.
     std::unique_ptr<QQuickWindow> m_panelWindow;
     /// For pages that are not windows themselves. Pages end before it.

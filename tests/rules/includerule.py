@@ -66,6 +66,7 @@ exservice   examples/service                contract embedded bus host
 explatform  examples/platform               contract host
 benchmarks  benchmarks                      LIBRARY podofo base contract embedded liveplot
 startbench  benchmarks/start                -
+openbench   benchmarks/inspector            LIBRARY base contract embedded host inspector
 busbench    benchmarks/bus                  LIBRARY base contract embedded bus benchmarks
 """
 GROUPS = {"WRITERS": "emitter plots pdffile pages text modern csv html xml",

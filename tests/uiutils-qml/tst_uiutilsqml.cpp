@@ -41,6 +41,7 @@ private Q_SLOTS:
             QTest::newRow(screen) << QStringList {"--screen", screen, "a.qml"} << 2 << "--screen needs a size of 200 to 8000 pixels";
         QTest::newRow("no such language") << QStringList {"--services", m_services, "--language", "xx", "--list"} << 1 << "no language \"xx\"";
         QTest::newRow("a language") << QStringList {"--services", m_services, "--language", "de", "--list"} << 0 << "field_cfg_name";
+        QTest::newRow("inspector of an audit") << QStringList {"--inspect", "--audit", "a.qml"} << 2 << "--inspect is for a page that is used";
         QTest::newRow("no such folder") << QStringList {"--services", "/nowhere", "--list"} << 1 << "/nowhere";
     }
     void commandLines()
@@ -119,6 +120,22 @@ private Q_SLOTS:
         const QImage image(picture);
         QCOMPARE(image.size(), QSize(60, 40));
         QCOMPARE(image.pixelColor(30, 20), QColor(Qt::blue));
+    }
+
+    /// The inspector stands beside the page, which keeps its size, or in a window of its own beside that of the page.
+    void showsTheInspector()
+    {
+        const QString picture = m_folder.filePath("page.png");
+        const QStringList options {"--services", m_services, "--screen", "300x400@127", "--inspect", "--grab", picture};
+        const QByteArray window = "import QtQuick.Window 2.15\nWindow { visible: true; color: 'red' }";
+        QCOMPARE(run(QStringList(page("Rectangle { color: 'red' }")) + options).exitCode, 0);
+        const QImage beside(picture);
+        // 100 mm at 5 pixels.
+        QCOMPARE(beside.size(), QSize(800, 400));
+        QCOMPARE(beside.pixelColor(299, 399), QColor(Qt::red));
+        QVERIFY(beside.pixelColor(310, 200) != QColor(Qt::red));
+        QCOMPARE(run(QStringList(page(window)) + options).exitCode, 0);
+        QCOMPARE(QImage(picture).size(), QSize(300, 400));
     }
 
     void judgesAPage()

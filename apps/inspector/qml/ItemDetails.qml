@@ -95,6 +95,7 @@ Item {
                 }
             }
             ItemHands {
+                objectName: "hands"
                 Layout.fillWidth: true
                 service: details.item === null ? null : details.inspector.serviceOf(details.item)
                 item: details.item

@@ -42,6 +42,7 @@ Card {
         }
     }
     BodyText {
+        objectName: "elsewhere"
         Layout.fillWidth: true
         visible: !card.service.isOwn
         text: qsTr("The service lives in another process. It can be watched and edited, not disturbed.")

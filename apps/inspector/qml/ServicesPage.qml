@@ -9,6 +9,7 @@ ScrollArea {
 
     required property Inspector inspector
 
+    objectName: "inspectorServices"
     padding: ControlsStyle.margin
 
     Repeater {
