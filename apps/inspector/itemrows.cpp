@@ -85,15 +85,6 @@ void ItemRows::setText(const QString& text)
     Q_EMIT filterChanged();
 }
 
-void ItemRows::setService(const QString& service)
-{
-    if (service == m_service)
-        return;
-    m_service = service;
-    filter();
-    Q_EMIT filterChanged();
-}
-
 void ItemRows::setFavouritesOnly(bool isOnly)
 {
     if (isOnly == m_favouritesOnly)
@@ -124,11 +115,6 @@ bool ItemRows::isKept(const Entry& entry) const
 {
     if (m_favouritesOnly && !m_favourites->contains(entry.id))
         return false;
-    if (!m_service.isEmpty()) {
-        const Manifest* const manifest = m_manifests[entry.service];
-        if (!manifest || manifest->getServiceName() != m_service)
-            return false;
-    }
     return std::all_of(m_words.begin(), m_words.end(),
             [&entry](const QString& word) { return searchedText(entry).contains(word); });
 }
@@ -152,7 +138,6 @@ QVariant ItemRows::data(const QModelIndex& index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return QVariant();
     const Entry& entry = m_entries[m_rows[index.row()]];
-    const Manifest* const manifest = m_manifests[entry.service];
     switch (role) {
     case ItemRole:
         return QVariant::fromValue<QObject*>(entry.item);
@@ -160,8 +145,6 @@ QVariant ItemRows::data(const QModelIndex& index, int role) const
         return entry.id;
     case NameRole:
         return entry.name;
-    case ServiceRole:
-        return manifest ? manifest->getServiceName() : QString();
     case FavouriteRole:
         return m_favourites->contains(entry.id);
     default:
@@ -171,7 +154,7 @@ QVariant ItemRows::data(const QModelIndex& index, int role) const
 
 QHash<int, QByteArray> ItemRows::roleNames() const
 {
-    return {{ItemRole, "rowItem"}, {IdRole, "rowId"}, {NameRole, "rowName"}, {ServiceRole, "rowService"},
+    return {{ItemRole, "rowItem"}, {IdRole, "rowId"}, {NameRole, "rowName"},
             {FavouriteRole, "rowFavourite"}};
 }
 

@@ -21,10 +21,9 @@ class Favourites;
 class ItemRows : public QAbstractListModel
 {
     Q_OBJECT
-    /// What is looked for: every word must be found in the name, the label or the id, however it is capitalized.
+    /// What is looked for: every word must be found in the name, the label or the id, however it is capitalized. Names
+    /// begin with that of their service.
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY filterChanged)
-    /// The service whose items are kept; empty for all.
-    Q_PROPERTY(QString service READ service WRITE setService NOTIFY filterChanged)
     Q_PROPERTY(bool favouritesOnly READ areFavouritesOnly WRITE setFavouritesOnly NOTIFY filterChanged)
     /// How many rows there are, and how many there would be without any filter.
     Q_PROPERTY(int count READ count NOTIFY countChanged)
@@ -35,7 +34,6 @@ public:
         ItemRole = Qt::UserRole,
         IdRole,
         NameRole,
-        ServiceRole,
         FavouriteRole,
     };
 
@@ -47,8 +45,6 @@ public:
 
     QString text() const { return m_words.join(QLatin1Char(' ')); }
     void setText(const QString& text);
-    QString service() const { return m_service; }
-    void setService(const QString& service);
     bool areFavouritesOnly() const { return m_favouritesOnly; }
     void setFavouritesOnly(bool isOnly);
     int count() const { return int(m_rows.size()); }
@@ -93,7 +89,6 @@ private:
     std::vector<Entry> m_entries;
     std::vector<int> m_rows;
     QStringList m_words;
-    QString m_service;
     bool m_favouritesOnly = false;
 };
 

@@ -66,6 +66,7 @@ Item {
                 readonly property bool mayElide: true
                 objectName: "liveValue"
                 Layout.fillWidth: true
+                visible: text !== ""
                 text: [glance.text, glance.trouble, ControlsStyle.qualityWord(glance.quality)].filter(part => part !== "").join(" \u00b7 ")
                 font { pixelSize: ControlsStyle.headingText; weight: Font.DemiBold }
             }
