@@ -13,8 +13,8 @@ class Favourites : public QObject
     Q_OBJECT
 
 public:
-    /// `file` is a path on disk, or empty for favourites that end with the object. A file that is not there or cannot be
-    /// read means none.
+    /// `file` is a path on disk, or empty for favourites that end with the object. A file that is not there or cannot
+    /// be read means none.
     explicit Favourites(const QString& file, QObject* parent = nullptr);
 
     bool contains(const QString& id) const { return m_ids.contains(id); }

@@ -176,7 +176,8 @@ QString InspectedService::setValue(const QString& id, const QVariant& value)
         return Texts::tr("The service does not live here.");
     const KIVClientItem* const item = service->item(id);
     const bool isText = item && item->getType() == KIVClientItem::TypeString;
-    return service->setValue(id, isText ? value : typedValue(value)) ? QString() : Texts::tr("The item cannot have this value.");
+    return service->setValue(id, isText ? value : typedValue(value)) ? QString()
+                                                                     : Texts::tr("The item cannot have this value.");
 }
 
 QString InspectedService::setLimits(const QString& id, const QString& minimum, const QString& maximum)

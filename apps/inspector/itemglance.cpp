@@ -91,8 +91,8 @@ void ItemGlance::describe()
 
 bool ItemGlance::isNumber() const
 {
-    static const QStringList numbers {QStringLiteral("bool"), QStringLiteral("int"), QStringLiteral("uint"),
-            QStringLiteral("double")};
+    static const QStringList numbers {
+            QStringLiteral("bool"), QStringLiteral("int"), QStringLiteral("uint"), QStringLiteral("double")};
     return numbers.contains(m_type);
 }
 

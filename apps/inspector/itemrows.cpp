@@ -154,8 +154,7 @@ QVariant ItemRows::data(const QModelIndex& index, int role) const
 
 QHash<int, QByteArray> ItemRows::roleNames() const
 {
-    return {{ItemRole, "rowItem"}, {IdRole, "rowId"}, {NameRole, "rowName"},
-            {FavouriteRole, "rowFavourite"}};
+    return {{ItemRole, "rowItem"}, {IdRole, "rowId"}, {NameRole, "rowName"}, {FavouriteRole, "rowFavourite"}};
 }
 
 int ItemRows::rowOf(QObject* item) const

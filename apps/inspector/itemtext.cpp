@@ -44,7 +44,8 @@ bool holdsSeveral(const QString& type)
 QString shortText(const KivData& item)
 {
     const KIVClientInterface* const client = item.getClient();
-    const KIVClientItem* const source = client && holdsSeveral(item.getType()) ? client->getItem(item.getId()) : nullptr;
+    const KIVClientItem* const source
+            = client && holdsSeveral(item.getType()) ? client->getItem(item.getId()) : nullptr;
     return source ? contents(source->getValue()) : inOneLine(item.getValueString());
 }
 

@@ -20,8 +20,7 @@ QString description()
 
 const QStringList& themes()
 {
-    static const QStringList names {
-            QStringLiteral("light"), QStringLiteral("dark"), QStringLiteral("sunlight")};
+    static const QStringList names {QStringLiteral("light"), QStringLiteral("dark"), QStringLiteral("sunlight")};
     return names;
 }
 
@@ -62,8 +61,7 @@ Options readOptions(const QStringList& arguments)
     options.root = services.root(parser);
     options.language = parser.value(language);
     options.theme = parser.value(theme);
-    const QString problem
-            = parser.isSet(screen) ? apps::readScreen(parser.value(screen), &options.screen) : QString();
+    const QString problem = parser.isSet(screen) ? apps::readScreen(parser.value(screen), &options.screen) : QString();
     return problem.isEmpty() ? options : misused(problem);
 }
 

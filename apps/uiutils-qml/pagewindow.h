@@ -23,8 +23,8 @@ public:
     ~PageWindow();
     Q_DISABLE_COPY_MOVE(PageWindow)
 
-    /// Shows an item beside every page, at the end of its window, or, if the page is a window itself, in a window beside
-    /// that. Call it before the first page; the item must outlive the object.
+    /// Shows an item beside every page, at the end of its window, or, if the page is a window itself, in a window
+    /// beside that. Call it before the first page; the item must outlive the object.
     void setPanel(QQuickItem* panel) { m_panel = panel; }
 
     /// Shows a page that has a root. The page that was shown before ends; the new one has its place and size.

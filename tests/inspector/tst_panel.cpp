@@ -2,6 +2,7 @@
 #include "stand.h"
 
 #include "inspector/inspectorpanel.h"
+#include "inspector/inspectorwindow.h"
 #include "inspector/itemglance.h"
 #include "service/kivdata.h"
 #include "service/manifest.h"
@@ -223,6 +224,33 @@ private Q_SLOTS:
         QCOMPARE(part("liveValue")->property("text").toString(), "-1 dBm");
         // Beside the list, because there is room.
         QVERIFY(part("itemList") && !part("detailsBack"));
+    }
+
+    /// The window of an application opens and closes, also by its own frame; what was done to a service ends with it.
+    void aWindowOpensAndCloses()
+    {
+        InspectorWindow window(&m_stand->host);
+        QSignalSpy changes(&window, &InspectorWindow::isOpenChanged);
+        const auto shown = [] {
+            const QWindowList all = QGuiApplication::topLevelWindows();
+            const auto found = std::find_if(all.begin(), all.end(), [](const QWindow* one) { return one->title() == "Inspector" && one->isVisible(); });
+            return found == all.end() ? nullptr : *found;
+        };
+        for (int round = 1; round <= 2; ++round) {
+            window.toggle();
+            QVERIFY(window.isOpen() && shown());
+            auto* const panel = qobject_cast<QQuickWindow*>(shown())->contentItem()->childItems().constFirst();
+            auto* const inspector = panel->property("inspector").value<Inspector*>();
+            inspector->service("com.example.meter")->setAway(true);
+            QVERIFY(!m_stand->client->isValid());
+            if (round == 1)
+                window.toggle();
+            else
+                shown()->close();
+            QTRY_VERIFY(!window.isOpen() && !shown());
+            QVERIFY(m_stand->client->isValid());
+            QCOMPARE(changes.size(), 2 * round);
+        }
     }
 
     /// However many items there are, only rows in sight are bound to theirs.
