@@ -51,7 +51,8 @@ InspectedService::~InspectedService()
     blockSignals(true);
     setSlow(false);
     setRefusing(false);
-    setAway(false);
+    if (m_takenAway && m_takenAway == own())
+        setAway(false);
 }
 
 bool InspectedService::isAvailable() const
@@ -114,6 +115,7 @@ void InspectedService::setAway(bool isAway)
     EmbeddedService* const service = own();
     if (!service || isAway == this->isAway())
         return;
+    m_takenAway = isAway ? service : nullptr;
     const QPointer<InspectedService> self(this);
     service->setReachable(!isAway);
     if (self)

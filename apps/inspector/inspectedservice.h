@@ -86,6 +86,7 @@ private:
     /// The services to which it was done: a service that was published again knows nothing of it.
     QPointer<kiv::embedded::EmbeddedService> m_slowed;
     QPointer<kiv::embedded::EmbeddedService> m_refusing;
+    QPointer<kiv::embedded::EmbeddedService> m_takenAway;
     int m_delayBefore = 0;
     QHash<QString, QString> m_refusalsBefore;
     bool m_isChanging = false;

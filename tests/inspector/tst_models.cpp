@@ -351,6 +351,11 @@ private Q_SLOTS:
         QVERIFY(m_stand->client->isValid());
         QCOMPARE(m_stand->meter->delay(), 3);
         QVERIFY(m_stand->client->setItem(rangeId, 9));
+        // A service that went by itself stays away.
+        hands = inspected(&parent);
+        m_stand->meter->setReachable(false);
+        delete hands;
+        QVERIFY(!m_stand->client->isValid());
     }
 
     void aServiceElsewhereIsLeftAlone()
