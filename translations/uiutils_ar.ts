@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar_EG" sourcelanguage="en">
 <context>
+    <name>ActionForm</name>
+    <message>
+        <source>Argument</source>
+        <translation>الوسيط</translation>
+    </message>
+    <message>
+        <source>Carry out</source>
+        <translation>تنفيذ</translation>
+    </message>
+</context>
+<context>
     <name>Changes</name>
     <message>
         <source>%1 %2</source>
@@ -220,6 +231,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>Vanish</source>
         <translation>اختفاء</translation>
+    </message>
+    <message>
+        <source>Inspector (F12)</source>
+        <translation>المفتش (F12)</translation>
     </message>
 </context>
 <context>
@@ -828,6 +843,150 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
 </context>
 <context>
+    <name>Inspector</name>
+    <message>
+        <source>Passing</source>
+        <translation>ناجح</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>تحذير</translation>
+    </message>
+    <message>
+        <source>Failing</source>
+        <translation>فاشل</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>بلا</translation>
+    </message>
+    <message>
+        <source>The service has come</source>
+        <translation>ظهرت الخدمة</translation>
+    </message>
+    <message>
+        <source>The service has gone</source>
+        <translation>اختفت الخدمة</translation>
+    </message>
+    <message>
+        <source>The item has come</source>
+        <translation>ظهر العنصر</translation>
+    </message>
+    <message>
+        <source>The item has gone</source>
+        <translation>اختفى العنصر</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>جاهز</translation>
+    </message>
+    <message>
+        <source>Not ready</source>
+        <translation>غير جاهز</translation>
+    </message>
+    <message>
+        <source>Applicable</source>
+        <translation>قابل للتطبيق</translation>
+    </message>
+    <message>
+        <source>Not applicable</source>
+        <translation>غير قابل للتطبيق</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>القيمة</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>الوحدة</translation>
+    </message>
+    <message>
+        <source>Readiness</source>
+        <translation>الجاهزية</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>الجودة</translation>
+    </message>
+    <message>
+        <source>Applicability</source>
+        <translation>قابلية التطبيق</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>خطأ</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>الخدمة</translation>
+    </message>
+    <message>
+        <source>Rejected by hand</source>
+        <translation>رُفض يدويًا</translation>
+    </message>
+    <message>
+        <source>The service does not live here.</source>
+        <translation>لا تعمل الخدمة هنا.</translation>
+    </message>
+    <message>
+        <source>The item cannot have this value.</source>
+        <translation>لا يمكن أن يأخذ العنصر هذه القيمة.</translation>
+    </message>
+    <message>
+        <source>The item cannot have these limits.</source>
+        <translation>لا يمكن أن يأخذ العنصر هذه الحدود.</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>المفتش</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>غير متاح</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elements</source>
+        <translation>
+            <numerusform>لا عناصر</numerusform>
+            <numerusform>عنصر واحد</numerusform>
+            <numerusform>عنصران</numerusform>
+            <numerusform>%n عناصر</numerusform>
+            <numerusform>%n عنصرًا</numerusform>
+            <numerusform>%n عنصر</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n members</source>
+        <translation>
+            <numerusform>لا حقول</numerusform>
+            <numerusform>حقل واحد</numerusform>
+            <numerusform>حقلان</numerusform>
+            <numerusform>%n حقول</numerusform>
+            <numerusform>%n حقلًا</numerusform>
+            <numerusform>%n حقل</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>InspectorPanel</name>
+    <message>
+        <source>Inspector</source>
+        <translation>المفتش</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>العناصر</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>الخدمات</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>التغييرات</translation>
+    </message>
+</context>
+<context>
     <name>InstrumentBar</name>
     <message>
         <source>Job</source>
@@ -883,10 +1042,103 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
 </context>
 <context>
+    <name>ItemDetails</name>
+    <message>
+        <source>No item chosen</source>
+        <translation>لم يُختر عنصر</translation>
+    </message>
+    <message>
+        <source>Choose one in the list.</source>
+        <translation>اختر عنصرًا من القائمة.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>الإعداد</translation>
+    </message>
+</context>
+<context>
     <name>ItemFace</name>
     <message>
         <source>The entry was rejected.</source>
         <translation>رُفض الإدخال.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHands</name>
+    <message>
+        <source>By hand</source>
+        <translation>يدويًا</translation>
+    </message>
+    <message>
+        <source>What a service reports can be set by hand where the service lives in this process. This one lives in another.</source>
+        <translation>يمكن ضبط ما تبلّغ عنه الخدمة يدويًا إذا كانت تعمل في هذه العملية. تعمل هذه الخدمة في عملية أخرى.</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>الجودة</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>بلا</translation>
+    </message>
+    <message>
+        <source>Pass</source>
+        <translation>ناجح</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>تحذير</translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <translation>فاشل</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>جاهز</translation>
+    </message>
+    <message>
+        <source>Applicable</source>
+        <translation>قابل للتطبيق</translation>
+    </message>
+    <message>
+        <source>The service decides by an expression.</source>
+        <translation>تقرر الخدمة ذلك بتعبير.</translation>
+    </message>
+    <message>
+        <source>Value that the service reports</source>
+        <translation>القيمة التي تبلّغ عنها الخدمة</translation>
+    </message>
+    <message>
+        <source>Shortest</source>
+        <translation>الأقصر</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>الحد الأدنى</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>الأطول</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>الحد الأقصى</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHistory</name>
+    <message>
+        <source>No values yet</source>
+        <translation>لا توجد قيم بعد</translation>
+    </message>
+    <message>
+        <source>History of %1</source>
+        <translation>سجل %1</translation>
     </message>
 </context>
 <context>
@@ -898,6 +1150,45 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>More: %1</source>
         <translation>أكثر: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ItemsPage</name>
+    <message>
+        <source>Search items</source>
+        <translation>ابحث عن عناصر</translation>
+    </message>
+    <message>
+        <source>Favourites only</source>
+        <translation>المفضلة فقط</translation>
+    </message>
+    <message>
+        <source>%1 of %2 items</source>
+        <translation>%1 من %2 من العناصر</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>العناصر</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the favourites</source>
+        <translation>إزالة %1 من المفضلة</translation>
+    </message>
+    <message>
+        <source>Add %1 to the favourites</source>
+        <translation>إضافة %1 إلى المفضلة</translation>
+    </message>
+    <message>
+        <source>No items</source>
+        <translation>لا توجد عناصر</translation>
+    </message>
+    <message>
+        <source>The items are shown when their services come.</source>
+        <translation>تظهر العناصر عند ظهور خدماتها.</translation>
+    </message>
+    <message>
+        <source>No item matches the search.</source>
+        <translation>لا يوجد عنصر يطابق البحث.</translation>
     </message>
 </context>
 <context>
@@ -1112,6 +1403,45 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>At the cursor: %1.</source>
         <translation>عند المؤشر: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LogPage</name>
+    <message>
+        <source>Go on</source>
+        <translation>متابعة</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>مسح</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>التغييرات</translation>
+    </message>
+    <message>
+        <source>No changes yet</source>
+        <translation>لا توجد تغييرات بعد</translation>
+    </message>
+    <message>
+        <source>What services report is shown as it comes.</source>
+        <translation>يظهر ما تبلّغ عنه الخدمات فور وروده.</translation>
+    </message>
+    <message>
+        <source>Changes: %L1</source>
+        <translation>التغييرات: %L1</translation>
+    </message>
+    <message>
+        <source>fallen out: %L1</source>
+        <translation>سقطت: %L1</translation>
+    </message>
+    <message>
+        <source>missed while paused: %L1</source>
+        <translation>فاتت أثناء الإيقاف: %L1</translation>
     </message>
 </context>
 <context>
@@ -2394,6 +2724,76 @@ Folder: %2</source>
     </message>
 </context>
 <context>
+    <name>ServiceCard</name>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>لا عناصر</numerusform>
+            <numerusform>عنصر واحد</numerusform>
+            <numerusform>عنصران</numerusform>
+            <numerusform>%n عناصر</numerusform>
+            <numerusform>%n عنصرًا</numerusform>
+            <numerusform>%n عنصر</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>لا يمكن الوصول إليها</translation>
+    </message>
+    <message>
+        <source>answers slowly</source>
+        <translation>تستجيب ببطء</translation>
+    </message>
+    <message>
+        <source>rejects every change</source>
+        <translation>ترفض كل تغيير</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>سريع</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>بطيء</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>قبول</translation>
+    </message>
+    <message>
+        <source>Refuse</source>
+        <translation>رفض</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>عودة</translation>
+    </message>
+    <message>
+        <source>Vanish</source>
+        <translation>اختفاء</translation>
+    </message>
+    <message>
+        <source>The service lives in another process. It can be watched and edited, not disturbed.</source>
+        <translation>تعمل الخدمة في عملية أخرى. يمكن مراقبتها وتعديلها، لا تعطيلها.</translation>
+    </message>
+    <message>
+        <source>A transaction runs</source>
+        <translation>معاملة جارية</translation>
+    </message>
+    <message>
+        <source>Not sent</source>
+        <translation>لم يُرسل</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>الآن: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is changed yet.</source>
+        <translation>لم يتغير شيء بعد.</translation>
+    </message>
+</context>
+<context>
     <name>ServiceFile</name>
     <message>
         <source>the id %1 stands twice</source>
@@ -3094,6 +3494,17 @@ Folder: %2</source>
     <message>
         <source>not one of the choices</source>
         <translation>ليس من الخيارات</translation>
+    </message>
+</context>
+<context>
+    <name>ServicesPage</name>
+    <message>
+        <source>No services yet</source>
+        <translation>لا توجد خدمات بعد</translation>
+    </message>
+    <message>
+        <source>They are shown when they come.</source>
+        <translation>تظهر فور وصولها.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>ActionForm</name>
+    <message>
+        <source>Argument</source>
+        <translation>Argument</translation>
+    </message>
+    <message>
+        <source>Carry out</source>
+        <translation>Ausführen</translation>
+    </message>
+</context>
+<context>
     <name>Changes</name>
     <message>
         <source>%1 %2</source>
@@ -220,6 +231,10 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     <message>
         <source>Vanish</source>
         <translation>Verschwinden</translation>
+    </message>
+    <message>
+        <source>Inspector (F12)</source>
+        <translation>Inspektor (F12)</translation>
     </message>
 </context>
 <context>
@@ -820,6 +835,142 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     </message>
 </context>
 <context>
+    <name>Inspector</name>
+    <message>
+        <source>Passing</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Failing</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>The service has come</source>
+        <translation>Der Dienst ist da</translation>
+    </message>
+    <message>
+        <source>The service has gone</source>
+        <translation>Der Dienst ist weg</translation>
+    </message>
+    <message>
+        <source>The item has come</source>
+        <translation>Das Element ist da</translation>
+    </message>
+    <message>
+        <source>The item has gone</source>
+        <translation>Das Element ist weg</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Not ready</source>
+        <translation>Nicht bereit</translation>
+    </message>
+    <message>
+        <source>Applicable</source>
+        <translation>Anwendbar</translation>
+    </message>
+    <message>
+        <source>Not applicable</source>
+        <translation>Nicht anwendbar</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Readiness</source>
+        <translation>Bereitschaft</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Applicability</source>
+        <translation>Anwendbarkeit</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Dienst</translation>
+    </message>
+    <message>
+        <source>Rejected by hand</source>
+        <translation>Von Hand abgelehnt</translation>
+    </message>
+    <message>
+        <source>The service does not live here.</source>
+        <translation>Der Dienst läuft nicht hier.</translation>
+    </message>
+    <message>
+        <source>The item cannot have this value.</source>
+        <translation>Das Element kann diesen Wert nicht haben.</translation>
+    </message>
+    <message>
+        <source>The item cannot have these limits.</source>
+        <translation>Das Element kann diese Grenzen nicht haben.</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspektor</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Nicht verfügbar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elements</source>
+        <translation>
+            <numerusform>%n Element</numerusform>
+            <numerusform>%n Elemente</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n members</source>
+        <translation>
+            <numerusform>%n Feld</numerusform>
+            <numerusform>%n Felder</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>InspectorPanel</name>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspektor</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Elemente</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>Dienste</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+</context>
+<context>
     <name>InstrumentBar</name>
     <message>
         <source>Job</source>
@@ -875,10 +1026,103 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     </message>
 </context>
 <context>
+    <name>ItemDetails</name>
+    <message>
+        <source>No item chosen</source>
+        <translation>Kein Element gewählt</translation>
+    </message>
+    <message>
+        <source>Choose one in the list.</source>
+        <translation>Wählen Sie eines in der Liste.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+</context>
+<context>
     <name>ItemFace</name>
     <message>
         <source>The entry was rejected.</source>
         <translation>Die Eingabe wurde abgelehnt.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHands</name>
+    <message>
+        <source>By hand</source>
+        <translation>Von Hand</translation>
+    </message>
+    <message>
+        <source>What a service reports can be set by hand where the service lives in this process. This one lives in another.</source>
+        <translation>Was ein Dienst meldet, kann von Hand gesetzt werden, wenn der Dienst in diesem Prozess läuft. Dieser läuft in einem anderen.</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Pass</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Applicable</source>
+        <translation>Anwendbar</translation>
+    </message>
+    <message>
+        <source>The service decides by an expression.</source>
+        <translation>Der Dienst entscheidet durch einen Ausdruck.</translation>
+    </message>
+    <message>
+        <source>Value that the service reports</source>
+        <translation>Wert, den der Dienst meldet</translation>
+    </message>
+    <message>
+        <source>Shortest</source>
+        <translation>Kürzester</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Längster</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHistory</name>
+    <message>
+        <source>No values yet</source>
+        <translation>Noch keine Werte</translation>
+    </message>
+    <message>
+        <source>History of %1</source>
+        <translation>Verlauf von %1</translation>
     </message>
 </context>
 <context>
@@ -890,6 +1134,45 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     <message>
         <source>More: %1</source>
         <translation>Mehr: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ItemsPage</name>
+    <message>
+        <source>Search items</source>
+        <translation>Elemente suchen</translation>
+    </message>
+    <message>
+        <source>Favourites only</source>
+        <translation>Nur Favoriten</translation>
+    </message>
+    <message>
+        <source>%1 of %2 items</source>
+        <translation>%1 von %2 Elementen</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Elemente</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the favourites</source>
+        <translation>%1 aus den Favoriten entfernen</translation>
+    </message>
+    <message>
+        <source>Add %1 to the favourites</source>
+        <translation>%1 zu den Favoriten hinzufügen</translation>
+    </message>
+    <message>
+        <source>No items</source>
+        <translation>Keine Elemente</translation>
+    </message>
+    <message>
+        <source>The items are shown when their services come.</source>
+        <translation>Die Elemente werden gezeigt, sobald ihre Dienste da sind.</translation>
+    </message>
+    <message>
+        <source>No item matches the search.</source>
+        <translation>Kein Element passt zur Suche.</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1383,45 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     <message>
         <source>At the cursor: %1.</source>
         <translation>Am Cursor: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LogPage</name>
+    <message>
+        <source>Go on</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>No changes yet</source>
+        <translation>Noch keine Änderungen</translation>
+    </message>
+    <message>
+        <source>What services report is shown as it comes.</source>
+        <translation>Was Dienste melden, wird sofort gezeigt.</translation>
+    </message>
+    <message>
+        <source>Changes: %L1</source>
+        <translation>Änderungen: %L1</translation>
+    </message>
+    <message>
+        <source>fallen out: %L1</source>
+        <translation>herausgefallen: %L1</translation>
+    </message>
+    <message>
+        <source>missed while paused: %L1</source>
+        <translation>in der Pause verpasst: %L1</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2700,72 @@ Ordner: %2</translation>
     </message>
 </context>
 <context>
+    <name>ServiceCard</name>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n Element</numerusform>
+            <numerusform>%n Elemente</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>Nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>answers slowly</source>
+        <translation>antwortet langsam</translation>
+    </message>
+    <message>
+        <source>rejects every change</source>
+        <translation>lehnt jede Änderung ab</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Schnell</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>Langsam</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Annehmen</translation>
+    </message>
+    <message>
+        <source>Refuse</source>
+        <translation>Ablehnen</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Zurückkehren</translation>
+    </message>
+    <message>
+        <source>Vanish</source>
+        <translation>Verschwinden</translation>
+    </message>
+    <message>
+        <source>The service lives in another process. It can be watched and edited, not disturbed.</source>
+        <translation>Der Dienst läuft in einem anderen Prozess. Er kann beobachtet und bearbeitet, aber nicht gestört werden.</translation>
+    </message>
+    <message>
+        <source>A transaction runs</source>
+        <translation>Eine Transaktion läuft</translation>
+    </message>
+    <message>
+        <source>Not sent</source>
+        <translation>Nicht gesendet</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Jetzt: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is changed yet.</source>
+        <translation>Noch ist nichts geändert.</translation>
+    </message>
+</context>
+<context>
     <name>ServiceFile</name>
     <message>
         <source>the id %1 stands twice</source>
@@ -3078,6 +3466,17 @@ Ordner: %2</translation>
     <message>
         <source>not one of the choices</source>
         <translation>keine der Möglichkeiten</translation>
+    </message>
+</context>
+<context>
+    <name>ServicesPage</name>
+    <message>
+        <source>No services yet</source>
+        <translation>Noch keine Dienste</translation>
+    </message>
+    <message>
+        <source>They are shown when they come.</source>
+        <translation>Sie werden gezeigt, sobald sie da sind.</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,23 @@
     </message>
 </context>
 <context>
+    <name>Inspector</name>
+    <message numerus="yes">
+        <source>%n elements</source>
+        <translation>
+            <numerusform>%n element</numerusform>
+            <numerusform>%n elements</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n members</source>
+        <translation>
+            <numerusform>%n member</numerusform>
+            <numerusform>%n members</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>JobsPage</name>
     <message numerus="yes">
         <source>%n jobs</source>
@@ -35,6 +52,16 @@
         <translation>
             <numerusform>%n job</numerusform>
             <numerusform>%n jobs</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ServiceCard</name>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n item</numerusform>
+            <numerusform>%n items</numerusform>
         </translation>
     </message>
 </context>

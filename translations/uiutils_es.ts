@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en">
 <context>
+    <name>ActionForm</name>
+    <message>
+        <source>Argument</source>
+        <translation>Argumento</translation>
+    </message>
+    <message>
+        <source>Carry out</source>
+        <translation>Ejecutar</translation>
+    </message>
+</context>
+<context>
     <name>Changes</name>
     <message>
         <source>%1 %2</source>
@@ -220,6 +231,10 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     <message>
         <source>Vanish</source>
         <translation>Desaparecer</translation>
+    </message>
+    <message>
+        <source>Inspector (F12)</source>
+        <translation>Inspector (F12)</translation>
     </message>
 </context>
 <context>
@@ -820,6 +835,142 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     </message>
 </context>
 <context>
+    <name>Inspector</name>
+    <message>
+        <source>Passing</source>
+        <translation>Correcto</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Failing</source>
+        <translation>Fallo</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>The service has come</source>
+        <translation>El servicio ha llegado</translation>
+    </message>
+    <message>
+        <source>The service has gone</source>
+        <translation>El servicio se ha ido</translation>
+    </message>
+    <message>
+        <source>The item has come</source>
+        <translation>El elemento ha llegado</translation>
+    </message>
+    <message>
+        <source>The item has gone</source>
+        <translation>El elemento se ha ido</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Not ready</source>
+        <translation>No listo</translation>
+    </message>
+    <message>
+        <source>Applicable</source>
+        <translation>Aplicable</translation>
+    </message>
+    <message>
+        <source>Not applicable</source>
+        <translation>No aplicable</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <source>Readiness</source>
+        <translation>Disponibilidad</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message>
+        <source>Applicability</source>
+        <translation>Aplicabilidad</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Servicio</translation>
+    </message>
+    <message>
+        <source>Rejected by hand</source>
+        <translation>Rechazado a mano</translation>
+    </message>
+    <message>
+        <source>The service does not live here.</source>
+        <translation>El servicio no se ejecuta aquí.</translation>
+    </message>
+    <message>
+        <source>The item cannot have this value.</source>
+        <translation>El elemento no puede tener este valor.</translation>
+    </message>
+    <message>
+        <source>The item cannot have these limits.</source>
+        <translation>El elemento no puede tener estos límites.</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspector</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>No disponible</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elements</source>
+        <translation>
+            <numerusform>%n elemento</numerusform>
+            <numerusform>%n elementos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n members</source>
+        <translation>
+            <numerusform>%n campo</numerusform>
+            <numerusform>%n campos</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>InspectorPanel</name>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspector</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Elementos</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>Servicios</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Cambios</translation>
+    </message>
+</context>
+<context>
     <name>InstrumentBar</name>
     <message>
         <source>Job</source>
@@ -875,10 +1026,103 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     </message>
 </context>
 <context>
+    <name>ItemDetails</name>
+    <message>
+        <source>No item chosen</source>
+        <translation>Ningún elemento elegido</translation>
+    </message>
+    <message>
+        <source>Choose one in the list.</source>
+        <translation>Elija uno de la lista.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+</context>
+<context>
     <name>ItemFace</name>
     <message>
         <source>The entry was rejected.</source>
         <translation>La entrada fue rechazada.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHands</name>
+    <message>
+        <source>By hand</source>
+        <translation>A mano</translation>
+    </message>
+    <message>
+        <source>What a service reports can be set by hand where the service lives in this process. This one lives in another.</source>
+        <translation>Lo que informa un servicio se puede fijar a mano si el servicio se ejecuta en este proceso. Este se ejecuta en otro.</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>Pass</source>
+        <translation>Correcto</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <translation>Fallo</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Applicable</source>
+        <translation>Aplicable</translation>
+    </message>
+    <message>
+        <source>The service decides by an expression.</source>
+        <translation>El servicio decide con una expresión.</translation>
+    </message>
+    <message>
+        <source>Value that the service reports</source>
+        <translation>Valor que informa el servicio</translation>
+    </message>
+    <message>
+        <source>Shortest</source>
+        <translation>Más corto</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Mínimo</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Más largo</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Máximo</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHistory</name>
+    <message>
+        <source>No values yet</source>
+        <translation>Aún no hay valores</translation>
+    </message>
+    <message>
+        <source>History of %1</source>
+        <translation>Historial de %1</translation>
     </message>
 </context>
 <context>
@@ -890,6 +1134,45 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     <message>
         <source>More: %1</source>
         <translation>Más: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ItemsPage</name>
+    <message>
+        <source>Search items</source>
+        <translation>Buscar elementos</translation>
+    </message>
+    <message>
+        <source>Favourites only</source>
+        <translation>Solo favoritos</translation>
+    </message>
+    <message>
+        <source>%1 of %2 items</source>
+        <translation>%1 de %2 elementos</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Elementos</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the favourites</source>
+        <translation>Quitar %1 de los favoritos</translation>
+    </message>
+    <message>
+        <source>Add %1 to the favourites</source>
+        <translation>Añadir %1 a los favoritos</translation>
+    </message>
+    <message>
+        <source>No items</source>
+        <translation>Ningún elemento</translation>
+    </message>
+    <message>
+        <source>The items are shown when their services come.</source>
+        <translation>Los elementos se muestran cuando llegan sus servicios.</translation>
+    </message>
+    <message>
+        <source>No item matches the search.</source>
+        <translation>Ningún elemento coincide con la búsqueda.</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1383,45 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     <message>
         <source>At the cursor: %1.</source>
         <translation>En el cursor: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LogPage</name>
+    <message>
+        <source>Go on</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vaciar</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Cambios</translation>
+    </message>
+    <message>
+        <source>No changes yet</source>
+        <translation>Aún no hay cambios</translation>
+    </message>
+    <message>
+        <source>What services report is shown as it comes.</source>
+        <translation>Lo que informan los servicios se muestra al instante.</translation>
+    </message>
+    <message>
+        <source>Changes: %L1</source>
+        <translation>Cambios: %L1</translation>
+    </message>
+    <message>
+        <source>fallen out: %L1</source>
+        <translation>caídos: %L1</translation>
+    </message>
+    <message>
+        <source>missed while paused: %L1</source>
+        <translation>perdidos en pausa: %L1</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2700,72 @@ Carpeta: %2</translation>
     </message>
 </context>
 <context>
+    <name>ServiceCard</name>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n elemento</numerusform>
+            <numerusform>%n elementos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>Inaccesible</translation>
+    </message>
+    <message>
+        <source>answers slowly</source>
+        <translation>responde despacio</translation>
+    </message>
+    <message>
+        <source>rejects every change</source>
+        <translation>rechaza todo cambio</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Rápido</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>Lento</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Refuse</source>
+        <translation>Rechazar</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Volver</translation>
+    </message>
+    <message>
+        <source>Vanish</source>
+        <translation>Desaparecer</translation>
+    </message>
+    <message>
+        <source>The service lives in another process. It can be watched and edited, not disturbed.</source>
+        <translation>El servicio se ejecuta en otro proceso. Se puede observar y editar, no perturbar.</translation>
+    </message>
+    <message>
+        <source>A transaction runs</source>
+        <translation>Hay una transacción en curso</translation>
+    </message>
+    <message>
+        <source>Not sent</source>
+        <translation>No enviado</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Ahora: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is changed yet.</source>
+        <translation>Aún no ha cambiado nada.</translation>
+    </message>
+</context>
+<context>
     <name>ServiceFile</name>
     <message>
         <source>the id %1 stands twice</source>
@@ -3078,6 +3466,17 @@ Carpeta: %2</translation>
     <message>
         <source>not one of the choices</source>
         <translation>no es una de las opciones</translation>
+    </message>
+</context>
+<context>
+    <name>ServicesPage</name>
+    <message>
+        <source>No services yet</source>
+        <translation>Aún no hay servicios</translation>
+    </message>
+    <message>
+        <source>They are shown when they come.</source>
+        <translation>Se muestran cuando llegan.</translation>
     </message>
 </context>
 <context>

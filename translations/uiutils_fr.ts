@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en">
 <context>
+    <name>ActionForm</name>
+    <message>
+        <source>Argument</source>
+        <translation>Argument</translation>
+    </message>
+    <message>
+        <source>Carry out</source>
+        <translation>Exécuter</translation>
+    </message>
+</context>
+<context>
     <name>Changes</name>
     <message>
         <source>%1 %2</source>
@@ -220,6 +231,10 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     <message>
         <source>Vanish</source>
         <translation>Disparaître</translation>
+    </message>
+    <message>
+        <source>Inspector (F12)</source>
+        <translation>Inspecteur (F12)</translation>
     </message>
 </context>
 <context>
@@ -820,6 +835,142 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     </message>
 </context>
 <context>
+    <name>Inspector</name>
+    <message>
+        <source>Passing</source>
+        <translation>Réussi</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Failing</source>
+        <translation>Échec</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>The service has come</source>
+        <translation>Le service est arrivé</translation>
+    </message>
+    <message>
+        <source>The service has gone</source>
+        <translation>Le service est parti</translation>
+    </message>
+    <message>
+        <source>The item has come</source>
+        <translation>L’élément est arrivé</translation>
+    </message>
+    <message>
+        <source>The item has gone</source>
+        <translation>L’élément est parti</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Prêt</translation>
+    </message>
+    <message>
+        <source>Not ready</source>
+        <translation>Pas prêt</translation>
+    </message>
+    <message>
+        <source>Applicable</source>
+        <translation>Applicable</translation>
+    </message>
+    <message>
+        <source>Not applicable</source>
+        <translation>Non applicable</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>Readiness</source>
+        <translation>Disponibilité</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Applicability</source>
+        <translation>Applicabilité</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>Service</translation>
+    </message>
+    <message>
+        <source>Rejected by hand</source>
+        <translation>Refusé à la main</translation>
+    </message>
+    <message>
+        <source>The service does not live here.</source>
+        <translation>Le service ne tourne pas ici.</translation>
+    </message>
+    <message>
+        <source>The item cannot have this value.</source>
+        <translation>L’élément ne peut pas avoir cette valeur.</translation>
+    </message>
+    <message>
+        <source>The item cannot have these limits.</source>
+        <translation>L’élément ne peut pas avoir ces limites.</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspecteur</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Indisponible</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elements</source>
+        <translation>
+            <numerusform>%n élément</numerusform>
+            <numerusform>%n éléments</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n members</source>
+        <translation>
+            <numerusform>%n champ</numerusform>
+            <numerusform>%n champs</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>InspectorPanel</name>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspecteur</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Éléments</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>Services</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Modifications</translation>
+    </message>
+</context>
+<context>
     <name>InstrumentBar</name>
     <message>
         <source>Job</source>
@@ -875,10 +1026,103 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     </message>
 </context>
 <context>
+    <name>ItemDetails</name>
+    <message>
+        <source>No item chosen</source>
+        <translation>Aucun élément choisi</translation>
+    </message>
+    <message>
+        <source>Choose one in the list.</source>
+        <translation>Choisissez-en un dans la liste.</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Réglage</translation>
+    </message>
+</context>
+<context>
     <name>ItemFace</name>
     <message>
         <source>The entry was rejected.</source>
         <translation>La saisie a été refusée.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHands</name>
+    <message>
+        <source>By hand</source>
+        <translation>À la main</translation>
+    </message>
+    <message>
+        <source>What a service reports can be set by hand where the service lives in this process. This one lives in another.</source>
+        <translation>Ce qu’un service signale peut être réglé à la main si le service tourne dans ce processus. Celui-ci tourne dans un autre.</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Pass</source>
+        <translation>Réussi</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <translation>Échec</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Prêt</translation>
+    </message>
+    <message>
+        <source>Applicable</source>
+        <translation>Applicable</translation>
+    </message>
+    <message>
+        <source>The service decides by an expression.</source>
+        <translation>Le service décide par une expression.</translation>
+    </message>
+    <message>
+        <source>Value that the service reports</source>
+        <translation>Valeur signalée par le service</translation>
+    </message>
+    <message>
+        <source>Shortest</source>
+        <translation>Le plus court</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>Le plus long</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHistory</name>
+    <message>
+        <source>No values yet</source>
+        <translation>Pas encore de valeurs</translation>
+    </message>
+    <message>
+        <source>History of %1</source>
+        <translation>Historique de %1</translation>
     </message>
 </context>
 <context>
@@ -890,6 +1134,45 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     <message>
         <source>More: %1</source>
         <translation>Plus&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ItemsPage</name>
+    <message>
+        <source>Search items</source>
+        <translation>Chercher des éléments</translation>
+    </message>
+    <message>
+        <source>Favourites only</source>
+        <translation>Favoris seulement</translation>
+    </message>
+    <message>
+        <source>%1 of %2 items</source>
+        <translation>%1 éléments sur %2</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Éléments</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the favourites</source>
+        <translation>Retirer %1 des favoris</translation>
+    </message>
+    <message>
+        <source>Add %1 to the favourites</source>
+        <translation>Ajouter %1 aux favoris</translation>
+    </message>
+    <message>
+        <source>No items</source>
+        <translation>Aucun élément</translation>
+    </message>
+    <message>
+        <source>The items are shown when their services come.</source>
+        <translation>Les éléments sont montrés dès que leurs services arrivent.</translation>
+    </message>
+    <message>
+        <source>No item matches the search.</source>
+        <translation>Aucun élément ne correspond à la recherche.</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1383,45 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     <message>
         <source>At the cursor: %1.</source>
         <translation>Au curseur&#xa0;: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LogPage</name>
+    <message>
+        <source>Go on</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vider</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Modifications</translation>
+    </message>
+    <message>
+        <source>No changes yet</source>
+        <translation>Pas encore de modifications</translation>
+    </message>
+    <message>
+        <source>What services report is shown as it comes.</source>
+        <translation>Ce que les services signalent est montré aussitôt.</translation>
+    </message>
+    <message>
+        <source>Changes: %L1</source>
+        <translation>Modifications : %L1</translation>
+    </message>
+    <message>
+        <source>fallen out: %L1</source>
+        <translation>perdues : %L1</translation>
+    </message>
+    <message>
+        <source>missed while paused: %L1</source>
+        <translation>manquées en pause : %L1</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2700,72 @@ Dossier&#xa0;: %2</translation>
     </message>
 </context>
 <context>
+    <name>ServiceCard</name>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n élément</numerusform>
+            <numerusform>%n éléments</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>Inaccessible</translation>
+    </message>
+    <message>
+        <source>answers slowly</source>
+        <translation>répond lentement</translation>
+    </message>
+    <message>
+        <source>rejects every change</source>
+        <translation>refuse toute modification</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Rapide</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>Lent</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>Accepter</translation>
+    </message>
+    <message>
+        <source>Refuse</source>
+        <translation>Refuser</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Revenir</translation>
+    </message>
+    <message>
+        <source>Vanish</source>
+        <translation>Disparaître</translation>
+    </message>
+    <message>
+        <source>The service lives in another process. It can be watched and edited, not disturbed.</source>
+        <translation>Le service tourne dans un autre processus. On peut l’observer et le modifier, pas le perturber.</translation>
+    </message>
+    <message>
+        <source>A transaction runs</source>
+        <translation>Une transaction est en cours</translation>
+    </message>
+    <message>
+        <source>Not sent</source>
+        <translation>Non envoyé</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Maintenant : %1</translation>
+    </message>
+    <message>
+        <source>Nothing is changed yet.</source>
+        <translation>Rien n’est encore modifié.</translation>
+    </message>
+</context>
+<context>
     <name>ServiceFile</name>
     <message>
         <source>the id %1 stands twice</source>
@@ -3078,6 +3466,17 @@ Dossier&#xa0;: %2</translation>
     <message>
         <source>not one of the choices</source>
         <translation>pas un des choix</translation>
+    </message>
+</context>
+<context>
+    <name>ServicesPage</name>
+    <message>
+        <source>No services yet</source>
+        <translation>Pas encore de services</translation>
+    </message>
+    <message>
+        <source>They are shown when they come.</source>
+        <translation>Ils sont montrés dès qu’ils arrivent.</translation>
     </message>
 </context>
 <context>

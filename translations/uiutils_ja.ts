@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en">
 <context>
+    <name>ActionForm</name>
+    <message>
+        <source>Argument</source>
+        <translation>引数</translation>
+    </message>
+    <message>
+        <source>Carry out</source>
+        <translation>実行</translation>
+    </message>
+</context>
+<context>
     <name>Changes</name>
     <message>
         <source>%1 %2</source>
@@ -220,6 +231,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>Vanish</source>
         <translation>消す</translation>
+    </message>
+    <message>
+        <source>Inspector (F12)</source>
+        <translation>インスペクター (F12)</translation>
     </message>
 </context>
 <context>
@@ -818,6 +833,140 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
 </context>
 <context>
+    <name>Inspector</name>
+    <message>
+        <source>Passing</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Failing</source>
+        <translation>不合格</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>The service has come</source>
+        <translation>サービスが現れました</translation>
+    </message>
+    <message>
+        <source>The service has gone</source>
+        <translation>サービスがなくなりました</translation>
+    </message>
+    <message>
+        <source>The item has come</source>
+        <translation>項目が現れました</translation>
+    </message>
+    <message>
+        <source>The item has gone</source>
+        <translation>項目がなくなりました</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>Not ready</source>
+        <translation>準備未完了</translation>
+    </message>
+    <message>
+        <source>Applicable</source>
+        <translation>適用可能</translation>
+    </message>
+    <message>
+        <source>Not applicable</source>
+        <translation>適用外</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>Readiness</source>
+        <translation>準備状態</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>Applicability</source>
+        <translation>適用可否</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>サービス</translation>
+    </message>
+    <message>
+        <source>Rejected by hand</source>
+        <translation>手動で拒否されました</translation>
+    </message>
+    <message>
+        <source>The service does not live here.</source>
+        <translation>このサービスはここでは動いていません。</translation>
+    </message>
+    <message>
+        <source>The item cannot have this value.</source>
+        <translation>この項目はこの値を持てません。</translation>
+    </message>
+    <message>
+        <source>The item cannot have these limits.</source>
+        <translation>この項目はこの範囲を持てません。</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>インスペクター</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>利用できません</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elements</source>
+        <translation>
+            <numerusform>%n 要素</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n members</source>
+        <translation>
+            <numerusform>%n メンバー</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>InspectorPanel</name>
+    <message>
+        <source>Inspector</source>
+        <translation>インスペクター</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>サービス</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>変更</translation>
+    </message>
+</context>
+<context>
     <name>InstrumentBar</name>
     <message>
         <source>Job</source>
@@ -873,10 +1022,103 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
 </context>
 <context>
+    <name>ItemDetails</name>
+    <message>
+        <source>No item chosen</source>
+        <translation>項目が選ばれていません</translation>
+    </message>
+    <message>
+        <source>Choose one in the list.</source>
+        <translation>一覧から選んでください。</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+</context>
+<context>
     <name>ItemFace</name>
     <message>
         <source>The entry was rejected.</source>
         <translation>入力が拒否されました。</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHands</name>
+    <message>
+        <source>By hand</source>
+        <translation>手動</translation>
+    </message>
+    <message>
+        <source>What a service reports can be set by hand where the service lives in this process. This one lives in another.</source>
+        <translation>サービスが報告する内容は、サービスがこのプロセスで動いている場合に手動で設定できます。このサービスは別のプロセスで動いています。</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Pass</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <translation>不合格</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>Applicable</source>
+        <translation>適用可能</translation>
+    </message>
+    <message>
+        <source>The service decides by an expression.</source>
+        <translation>サービスが式で決めます。</translation>
+    </message>
+    <message>
+        <source>Value that the service reports</source>
+        <translation>サービスが報告する値</translation>
+    </message>
+    <message>
+        <source>Shortest</source>
+        <translation>最短</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>最小</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>最長</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>最大</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHistory</name>
+    <message>
+        <source>No values yet</source>
+        <translation>まだ値がありません</translation>
+    </message>
+    <message>
+        <source>History of %1</source>
+        <translation>%1 の履歴</translation>
     </message>
 </context>
 <context>
@@ -888,6 +1130,45 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>More: %1</source>
         <translation>増やす: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ItemsPage</name>
+    <message>
+        <source>Search items</source>
+        <translation>項目を検索</translation>
+    </message>
+    <message>
+        <source>Favourites only</source>
+        <translation>お気に入りのみ</translation>
+    </message>
+    <message>
+        <source>%1 of %2 items</source>
+        <translation>%2 項目中 %1</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the favourites</source>
+        <translation>%1 をお気に入りから外す</translation>
+    </message>
+    <message>
+        <source>Add %1 to the favourites</source>
+        <translation>%1 をお気に入りに追加</translation>
+    </message>
+    <message>
+        <source>No items</source>
+        <translation>項目がありません</translation>
+    </message>
+    <message>
+        <source>The items are shown when their services come.</source>
+        <translation>サービスが現れると項目が表示されます。</translation>
+    </message>
+    <message>
+        <source>No item matches the search.</source>
+        <translation>検索に一致する項目がありません。</translation>
     </message>
 </context>
 <context>
@@ -1097,6 +1378,45 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>At the cursor: %1.</source>
         <translation>カーソル位置: %1。</translation>
+    </message>
+</context>
+<context>
+    <name>LogPage</name>
+    <message>
+        <source>Go on</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>消去</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>No changes yet</source>
+        <translation>まだ変更がありません</translation>
+    </message>
+    <message>
+        <source>What services report is shown as it comes.</source>
+        <translation>サービスの報告はすぐに表示されます。</translation>
+    </message>
+    <message>
+        <source>Changes: %L1</source>
+        <translation>変更: %L1</translation>
+    </message>
+    <message>
+        <source>fallen out: %L1</source>
+        <translation>破棄: %L1</translation>
+    </message>
+    <message>
+        <source>missed while paused: %L1</source>
+        <translation>停止中の変更: %L1</translation>
     </message>
 </context>
 <context>
@@ -2374,6 +2694,71 @@ Folder: %2</source>
     </message>
 </context>
 <context>
+    <name>ServiceCard</name>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%n 項目</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>接続できません</translation>
+    </message>
+    <message>
+        <source>answers slowly</source>
+        <translation>応答が遅い</translation>
+    </message>
+    <message>
+        <source>rejects every change</source>
+        <translation>すべての変更を拒否</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>高速</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>低速</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>受け入れ</translation>
+    </message>
+    <message>
+        <source>Refuse</source>
+        <translation>拒否</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>復帰</translation>
+    </message>
+    <message>
+        <source>Vanish</source>
+        <translation>消失</translation>
+    </message>
+    <message>
+        <source>The service lives in another process. It can be watched and edited, not disturbed.</source>
+        <translation>このサービスは別のプロセスで動いています。監視と編集はできますが、妨害はできません。</translation>
+    </message>
+    <message>
+        <source>A transaction runs</source>
+        <translation>トランザクション実行中</translation>
+    </message>
+    <message>
+        <source>Not sent</source>
+        <translation>未送信</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>現在: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is changed yet.</source>
+        <translation>まだ何も変更されていません。</translation>
+    </message>
+</context>
+<context>
     <name>ServiceFile</name>
     <message>
         <source>the id %1 stands twice</source>
@@ -3074,6 +3459,17 @@ Folder: %2</source>
     <message>
         <source>not one of the choices</source>
         <translation>選択肢にありません</translation>
+    </message>
+</context>
+<context>
+    <name>ServicesPage</name>
+    <message>
+        <source>No services yet</source>
+        <translation>まだサービスがありません</translation>
+    </message>
+    <message>
+        <source>They are shown when they come.</source>
+        <translation>現れると表示されます。</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>ActionForm</name>
+    <message>
+        <source>Argument</source>
+        <translation>[Åŕĝûméñţ ~]</translation>
+    </message>
+    <message>
+        <source>Carry out</source>
+        <translation>[Çåŕŕý öûţ ~]</translation>
+    </message>
+</context>
+<context>
     <name>Changes</name>
     <message>
         <source>%1 %2</source>
@@ -220,6 +231,10 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>Vanish</source>
         <translation>[Våñîšĥ ~]</translation>
+    </message>
+    <message>
+        <source>Inspector (F12)</source>
+        <translation>[Îñšpéçţöŕ (F12) ~ ~]</translation>
     </message>
 </context>
 <context>
@@ -820,6 +835,142 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
 </context>
 <context>
+    <name>Inspector</name>
+    <message>
+        <source>Passing</source>
+        <translation>[Påššîñĝ ~]</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>[Ŵåŕñîñĝ ~]</translation>
+    </message>
+    <message>
+        <source>Failing</source>
+        <translation>[Fåîļîñĝ ~]</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>[Ñöñé ~]</translation>
+    </message>
+    <message>
+        <source>The service has come</source>
+        <translation>[Ţĥé šéŕvîçé ĥåš çömé ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The service has gone</source>
+        <translation>[Ţĥé šéŕvîçé ĥåš ĝöñé ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The item has come</source>
+        <translation>[Ţĥé îţém ĥåš çömé ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The item has gone</source>
+        <translation>[Ţĥé îţém ĥåš ĝöñé ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>[Ŕéåđý ~]</translation>
+    </message>
+    <message>
+        <source>Not ready</source>
+        <translation>[Ñöţ ŕéåđý ~]</translation>
+    </message>
+    <message>
+        <source>Applicable</source>
+        <translation>[Åppļîçåbļé ~]</translation>
+    </message>
+    <message>
+        <source>Not applicable</source>
+        <translation>[Ñöţ åppļîçåbļé ~ ~]</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>[Våļûé ~]</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>[Ûñîţ ~]</translation>
+    </message>
+    <message>
+        <source>Readiness</source>
+        <translation>[Ŕéåđîñéšš ~]</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>[Qûåļîţý ~]</translation>
+    </message>
+    <message>
+        <source>Applicability</source>
+        <translation>[Åppļîçåbîļîţý ~ ~]</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>[Éŕŕöŕ ~]</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <translation>[Šéŕvîçé ~]</translation>
+    </message>
+    <message>
+        <source>Rejected by hand</source>
+        <translation>[Ŕéĵéçţéđ bý ĥåñđ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The service does not live here.</source>
+        <translation>[Ţĥé šéŕvîçé đöéš ñöţ ļîvé ĥéŕé. ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The item cannot have this value.</source>
+        <translation>[Ţĥé îţém çåññöţ ĥåvé ţĥîš våļûé. ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The item cannot have these limits.</source>
+        <translation>[Ţĥé îţém çåññöţ ĥåvé ţĥéšé ļîmîţš. ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Inspector</source>
+        <translation>[Îñšpéçţöŕ ~]</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>[Ñöţ åvåîļåbļé ~ ~]</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n elements</source>
+        <translation>
+            <numerusform>[%n éļéméñţš ~]</numerusform>
+            <numerusform>[%n éļéméñţš ~]</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n members</source>
+        <translation>
+            <numerusform>[%n mémbéŕš ~]</numerusform>
+            <numerusform>[%n mémbéŕš ~]</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>InspectorPanel</name>
+    <message>
+        <source>Inspector</source>
+        <translation>[Îñšpéçţöŕ ~]</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>[Îţémš ~]</translation>
+    </message>
+    <message>
+        <source>Services</source>
+        <translation>[Šéŕvîçéš ~]</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>[Çĥåñĝéš ~]</translation>
+    </message>
+</context>
+<context>
     <name>InstrumentBar</name>
     <message>
         <source>Job</source>
@@ -875,10 +1026,103 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
 </context>
 <context>
+    <name>ItemDetails</name>
+    <message>
+        <source>No item chosen</source>
+        <translation>[Ñö îţém çĥöšéñ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Choose one in the list.</source>
+        <translation>[Çĥööšé öñé îñ ţĥé ļîšţ. ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>[ßåçķ ~]</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>[Šéţţîñĝ ~]</translation>
+    </message>
+</context>
+<context>
     <name>ItemFace</name>
     <message>
         <source>The entry was rejected.</source>
         <translation>[Ţĥé éñţŕý ŵåš ŕéĵéçţéđ. ~ ~ ~ ~]</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHands</name>
+    <message>
+        <source>By hand</source>
+        <translation>[ßý ĥåñđ ~]</translation>
+    </message>
+    <message>
+        <source>What a service reports can be set by hand where the service lives in this process. This one lives in another.</source>
+        <translation>[Ŵĥåţ å šéŕvîçé ŕépöŕţš çåñ bé šéţ bý ĥåñđ ŵĥéŕé ţĥé šéŕvîçé ļîvéš îñ ţĥîš pŕöçéšš. Ţĥîš öñé ļîvéš îñ åñöţĥéŕ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>[Qûåļîţý ~]</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>[Ñöñé ~]</translation>
+    </message>
+    <message>
+        <source>Pass</source>
+        <translation>[Påšš ~]</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>[Ŵåŕñîñĝ ~]</translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <translation>[Fåîļ ~]</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>[Ŕéåđý ~]</translation>
+    </message>
+    <message>
+        <source>Applicable</source>
+        <translation>[Åppļîçåbļé ~]</translation>
+    </message>
+    <message>
+        <source>The service decides by an expression.</source>
+        <translation>[Ţĥé šéŕvîçé đéçîđéš bý åñ éxpŕéššîöñ. ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Value that the service reports</source>
+        <translation>[Våļûé ţĥåţ ţĥé šéŕvîçé ŕépöŕţš ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Shortest</source>
+        <translation>[Šĥöŕţéšţ ~]</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>[Mîñîmûm ~]</translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation>[Ļöñĝéšţ ~]</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>[Måxîmûm ~]</translation>
+    </message>
+</context>
+<context>
+    <name>ItemHistory</name>
+    <message>
+        <source>No values yet</source>
+        <translation>[Ñö våļûéš ýéţ ~ ~]</translation>
+    </message>
+    <message>
+        <source>History of %1</source>
+        <translation>[Ĥîšţöŕý öf %1 ~ ~]</translation>
     </message>
 </context>
 <context>
@@ -890,6 +1134,45 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>More: %1</source>
         <translation>[Möŕé: %1 ~]</translation>
+    </message>
+</context>
+<context>
+    <name>ItemsPage</name>
+    <message>
+        <source>Search items</source>
+        <translation>[Šéåŕçĥ îţémš ~ ~]</translation>
+    </message>
+    <message>
+        <source>Favourites only</source>
+        <translation>[Fåvöûŕîţéš öñļý ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1 of %2 items</source>
+        <translation>[%1 öf %2 îţémš ~ ~]</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>[Îţémš ~]</translation>
+    </message>
+    <message>
+        <source>Remove %1 from the favourites</source>
+        <translation>[Ŕémövé %1 fŕöm ţĥé fåvöûŕîţéš ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Add %1 to the favourites</source>
+        <translation>[Åđđ %1 ţö ţĥé fåvöûŕîţéš ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>No items</source>
+        <translation>[Ñö îţémš ~]</translation>
+    </message>
+    <message>
+        <source>The items are shown when their services come.</source>
+        <translation>[Ţĥé îţémš åŕé šĥöŵñ ŵĥéñ ţĥéîŕ šéŕvîçéš çömé. ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>No item matches the search.</source>
+        <translation>[Ñö îţém måţçĥéš ţĥé šéåŕçĥ. ~ ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1383,45 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>At the cursor: %1.</source>
         <translation>[Åţ ţĥé çûŕšöŕ: %1. ~ ~ ~]</translation>
+    </message>
+</context>
+<context>
+    <name>LogPage</name>
+    <message>
+        <source>Go on</source>
+        <translation>[Ĝö öñ ~]</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>[Påûšé ~]</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>[Çļéåŕ ~]</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>[Çĥåñĝéš ~]</translation>
+    </message>
+    <message>
+        <source>No changes yet</source>
+        <translation>[Ñö çĥåñĝéš ýéţ ~ ~]</translation>
+    </message>
+    <message>
+        <source>What services report is shown as it comes.</source>
+        <translation>[Ŵĥåţ šéŕvîçéš ŕépöŕţ îš šĥöŵñ åš îţ çöméš. ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Changes: %L1</source>
+        <translation>[Çĥåñĝéš: %L1 ~ ~]</translation>
+    </message>
+    <message>
+        <source>fallen out: %L1</source>
+        <translation>[fåļļéñ öûţ: %L1 ~ ~]</translation>
+    </message>
+    <message>
+        <source>missed while paused: %L1</source>
+        <translation>[mîššéđ ŵĥîļé påûšéđ: %L1 ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>
@@ -2378,6 +2700,72 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>
+    <name>ServiceCard</name>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>[%n îţémš ~]</numerusform>
+            <numerusform>[%n îţémš ~]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>[Çåññöţ bé ŕéåçĥéđ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>answers slowly</source>
+        <translation>[åñšŵéŕš šļöŵļý ~ ~]</translation>
+    </message>
+    <message>
+        <source>rejects every change</source>
+        <translation>[ŕéĵéçţš évéŕý çĥåñĝé ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>[Fåšţ ~]</translation>
+    </message>
+    <message>
+        <source>Slow</source>
+        <translation>[Šļöŵ ~]</translation>
+    </message>
+    <message>
+        <source>Accept</source>
+        <translation>[Åççépţ ~]</translation>
+    </message>
+    <message>
+        <source>Refuse</source>
+        <translation>[Ŕéfûšé ~]</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>[Ŕéţûŕñ ~]</translation>
+    </message>
+    <message>
+        <source>Vanish</source>
+        <translation>[Våñîšĥ ~]</translation>
+    </message>
+    <message>
+        <source>The service lives in another process. It can be watched and edited, not disturbed.</source>
+        <translation>[Ţĥé šéŕvîçé ļîvéš îñ åñöţĥéŕ pŕöçéšš. Îţ çåñ bé ŵåţçĥéđ åñđ éđîţéđ, ñöţ đîšţûŕbéđ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>A transaction runs</source>
+        <translation>[Å ţŕåñšåçţîöñ ŕûñš ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Not sent</source>
+        <translation>[Ñöţ šéñţ ~]</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>[Ñöŵ: %1 ~]</translation>
+    </message>
+    <message>
+        <source>Nothing is changed yet.</source>
+        <translation>[Ñöţĥîñĝ îš çĥåñĝéđ ýéţ. ~ ~ ~ ~]</translation>
+    </message>
+</context>
+<context>
     <name>ServiceFile</name>
     <message>
         <source>the id %1 stands twice</source>
@@ -3078,6 +3466,17 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
     <message>
         <source>not one of the choices</source>
         <translation>[ñöţ öñé öf ţĥé çĥöîçéš ~ ~ ~ ~]</translation>
+    </message>
+</context>
+<context>
+    <name>ServicesPage</name>
+    <message>
+        <source>No services yet</source>
+        <translation>[Ñö šéŕvîçéš ýéţ ~ ~]</translation>
+    </message>
+    <message>
+        <source>They are shown when they come.</source>
+        <translation>[Ţĥéý åŕé šĥöŵñ ŵĥéñ ţĥéý çömé. ~ ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>

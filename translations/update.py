@@ -17,7 +17,7 @@ import xml.etree.ElementTree
 TREE = pathlib.Path(__file__).resolve().parents[1]
 LANGUAGES = ('ar', 'de', 'es', 'fr', 'ja')
 # What users of an instrument see. The programs for the command line are in English.
-ROOMS = ('base', 'platform', 'lib', 'qml', 'apps/common', 'apps/demo', 'apps/pdf_viewer')
+ROOMS = ('base', 'platform', 'lib', 'qml', 'apps/common', 'apps/demo', 'apps/inspector', 'apps/pdf_viewer')
 # Pages that have their catalogues beside them.
 EXAMPLES = 'docs/examples'
 SERVICES = 'platform/reference/services'

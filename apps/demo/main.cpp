@@ -6,6 +6,7 @@
 #include "demooptions.h"
 #include "demotypes.h"
 #include "follower.h"
+#include "inspector/inspectorwindow.h"
 #include "instrumentroot.h"
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
@@ -28,6 +29,7 @@
 
 using namespace uiutils::demo;
 using namespace uiutils::apps;
+using uiutils::inspector::InspectorWindow;
 
 namespace {
 
@@ -47,10 +49,12 @@ void list(const QString& heading, const QStringList& files)
 }
 
 /// The main window, or null when its page cannot be loaded.
-QQuickWindow* openWindow(QQmlApplicationEngine& engine, LoopbackMeasurement* measurement, const Screen& screen)
+QQuickWindow* openWindow(QQmlApplicationEngine& engine, LoopbackMeasurement* measurement, InspectorWindow* inspector,
+        const Screen& screen)
 {
     useDensity(&engine, screen.dotsPerInch);
     engine.setInitialProperties({{QStringLiteral("measurement"), QVariant::fromValue(measurement)},
+            {QStringLiteral("inspector"), QVariant::fromValue<QObject*>(inspector)},
             {QStringLiteral("width"), screen.size.width()}, {QStringLiteral("height"), screen.size.height()}});
     engine.load(QUrl(QStringLiteral("qrc:/uiutils/demo/Main.qml")));
     return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
@@ -115,14 +119,20 @@ int runDemo(const DemoOptions& options)
     if (options.samples > 0)
         measurement.setSamples(options.samples);
     publishResults(&measurement, [&host](const QString& name) { return host.ownService(name); });
+    InspectorWindow inspector(&host);
     QQmlApplicationEngine engine;
     host.showTo(&engine);
-    QQuickWindow* const window = openWindow(engine, &measurement, options.screen);
+    QQuickWindow* const window = openWindow(engine, &measurement, &inspector, options.screen);
     if (!window)
         return complain(Texts::tr(
                 "The main page could not be loaded, for the reason given above. Check that the QML modules QtQuick, "
                 "QtQuick.Controls, QtQuick.Layouts and QtQuick.Window are installed."));
 
+    // The program ends with its window.
+    QObject::connect(window, &QWindow::visibleChanged, &inspector, [&inspector](bool isVisible) {
+        if (!isVisible && inspector.isOpen())
+            inspector.toggle();
+    });
     if (options.isFollower) {
         Follower follower(host, window, options.root + QStringLiteral("/pictures/"));
         const int exitCode = runFollower(follower);

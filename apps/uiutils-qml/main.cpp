@@ -12,6 +12,7 @@
 #include "audit/screenaudit.h"
 #include "common/complaint.h"
 #include "common/displaysetup.h"
+#include "inspector/inspectorpanel.h"
 #include "service/kivdata.h"
 #include "service/manifest.h"
 #include "ui_host/host.h"
@@ -29,6 +30,7 @@ using namespace uiutils;
 using apps::complain;
 using apps::exitDone;
 using apps::exitFailed;
+using inspector::InspectorPanel;
 using qmltool::Options;
 using qmltool::Page;
 using qmltool::PageReload;
@@ -95,6 +97,18 @@ std::unique_ptr<QQmlEngine> makeEngine(Host& host, const Options& options)
     return engine;
 }
 
+/// Null, after an error message, when the panel could not be made.
+std::unique_ptr<InspectorPanel> makePanel(Host& host, const Options& options)
+{
+    auto panel = std::make_unique<InspectorPanel>(&host);
+    if (options.screen.dotsPerInch > 0)
+        apps::useDensity(panel->engine(), options.screen.dotsPerInch);
+    if (panel->load())
+        return panel;
+    complain(panel->error());
+    return nullptr;
+}
+
 int show(Host& host, const Surroundings& around, const Options& options)
 {
     if (apps::DisplaySetup::isOffScreen())
@@ -111,6 +125,11 @@ int show(Host& host, const Surroundings& around, const Options& options)
     auto page = std::make_unique<Page>(makeEngine(host, options), options.page);
     if (!page->root())
         return complain(page->error());
+    const std::unique_ptr<InspectorPanel> panel = options.isInspected ? makePanel(host, options) : nullptr;
+    if (options.isInspected && !panel)
+        return exitFailed;
+    if (panel)
+        window.setPanel(panel->item());
     window.show(std::move(page));
     if (!isUsed) {
         qmltool::whenDrawn(window.window(), [&](const QString& problem) {

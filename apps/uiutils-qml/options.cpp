@@ -42,6 +42,7 @@ Options chosen(const QCommandLineParser& parser, const apps::ServiceOptions& ser
     options.language = parser.value(QStringLiteral("language"));
     options.picture = parser.value(QStringLiteral("grab"));
     options.isAudit = parser.isSet(QStringLiteral("audit"));
+    options.isInspected = parser.isSet(QStringLiteral("inspect"));
     return options;
 }
 
@@ -69,9 +70,12 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption list(QStringLiteral("list"),
             Texts::tr("List the items, one on each line: name in QML, type and value, separated by tabs. Needs no "
                       "page."));
+    const QCommandLineOption inspect(QStringLiteral("inspect"),
+            Texts::tr("Show the services and their items beside the page: what they are now, what has changed, and "
+                      "what can be done to them by hand."));
     const QCommandLineOption language = languageOption();
     const ReplayOptions replay;
-    parser.addOptions(services.all() << imports << language << picture << screen << audit << list);
+    parser.addOptions(services.all() << imports << language << picture << screen << inspect << audit << list);
     parser.addOptions(replay.all());
 
     const apps::CommandLine line = apps::parse(parser, arguments);
@@ -84,6 +88,9 @@ Options readOptions(const QStringList& arguments)
     const QStringList pages = parser.positionalArguments();
     if (parser.isSet(list) != pages.isEmpty() || pages.size() > 1 || pages.contains(QString()))
         return misused(parser.isSet(list) ? Texts::tr("--list takes no page.") : Texts::tr("Name one page to show."));
+
+    if (parser.isSet(inspect) && (parser.isSet(audit) || parser.isSet(list)))
+        return misused(Texts::tr("--inspect is for a page that is used, not for --audit or --list."));
 
     Options options = chosen(parser, services);
     if (parser.isSet(screen)) {

@@ -24,6 +24,8 @@ struct Options : apps::CommandLine
     QString picture;
     /// Whether the page is judged instead of used.
     bool isAudit = false;
+    /// Whether the inspector is shown beside the page.
+    bool isInspected = false;
     /// The screen to imitate; without a size the page has its own.
     apps::Screen screen;
 

@@ -32,7 +32,12 @@ PageWindow::PageWindow(const QSize& size)
 {
 }
 
-PageWindow::~PageWindow() = default;
+PageWindow::~PageWindow()
+{
+    // The panel belongs to somebody else.
+    if (m_panel)
+        m_panel->setParentItem(nullptr);
+}
 
 void PageWindow::show(std::unique_ptr<Page> page)
 {
@@ -54,6 +59,8 @@ void PageWindow::showWindow(QQuickWindow* window)
     if (m_shared)
         m_shared->hide();
     m_window = window;
+    if (m_panel)
+        showPanelAlone(window);
 }
 
 void PageWindow::showItem(QQuickItem* item)
@@ -64,15 +71,64 @@ void PageWindow::showItem(QQuickItem* item)
         if (m_window)
             m_shared->setGeometry(m_window->geometry());
         else
-            m_shared->resize(m_size.isEmpty() ? own : m_size);
+            m_shared->resize((m_size.isEmpty() ? own : m_size) + QSize(panelWidth(), 0));
+        m_pageWidth = m_shared->width() - panelWidth();
     }
     m_window = m_shared.get();
-    const auto fill = [this, item] { item->setSize(m_shared->size()); };
+    if (m_panelWindow)
+        m_panelWindow->hide();
+    const auto fill = [this, item] { arrange(item); };
     QObject::connect(m_window, &QWindow::widthChanged, item, fill);
     QObject::connect(m_window, &QWindow::heightChanged, item, fill);
     qmlEngine(item)->setIncubationController(m_window->incubationController());
+    if (m_panel)
+        putPanelInto(m_window);
     fill();
     item->setParentItem(m_window->contentItem());
+}
+
+/// The page keeps its width beside the panel. In a window that the user made small both get smaller.
+void PageWindow::arrange(QQuickItem* page)
+{
+    const int beside = qMin(panelWidth(), qMax(m_shared->width() - m_pageWidth, m_shared->width() / 2));
+    page->setSize(QSizeF(m_shared->width() - beside, m_shared->height()));
+    if (!m_panel)
+        return;
+    m_panel->setPosition(QPointF(m_shared->width() - beside, 0));
+    m_panel->setSize(QSizeF(beside, m_shared->height()));
+}
+
+void PageWindow::showPanelAlone(QQuickWindow* page)
+{
+    if (!m_panelWindow) {
+        m_panelWindow = std::make_unique<QQuickWindow>();
+        m_panelWindow->setTitle(Texts::tr("Inspector"));
+        m_panelWindow->resize(panelWidth(), qMax(page->height(), int(m_panel->implicitHeight())));
+        m_panelWindow->setPosition(page->x() + page->width(), page->y());
+        const auto fill = [this] { m_panel->setSize(m_panelWindow->size()); };
+        QObject::connect(m_panelWindow.get(), &QWindow::widthChanged, m_panelWindow.get(), fill);
+        QObject::connect(m_panelWindow.get(), &QWindow::heightChanged, m_panelWindow.get(), fill);
+    }
+    // The program ends with its page.
+    QObject::connect(page, &QWindow::visibleChanged, m_panelWindow.get(), [this, page](bool isVisible) {
+        if (!isVisible && m_window == page)
+            m_panelWindow->hide();
+    });
+    putPanelInto(m_panelWindow.get());
+    m_panel->setPosition(QPointF());
+    m_panel->setSize(m_panelWindow->size());
+    m_panelWindow->show();
+}
+
+void PageWindow::putPanelInto(QQuickWindow* window)
+{
+    qmlEngine(m_panel)->setIncubationController(window->incubationController());
+    m_panel->setParentItem(window->contentItem());
+}
+
+int PageWindow::panelWidth() const
+{
+    return m_panel ? int(m_panel->implicitWidth()) : 0;
 }
 
 void whenDrawn(QQuickWindow* window, const std::function<void(const QString&)>& go)

@@ -13,7 +13,8 @@ class QQuickWindow;
 
 namespace uiutils::qmltool {
 
-/// A page on the screen: in its own window, if it is one, or in a window that all such pages share.
+/// A page on the screen: in its own window, if it is one, or in a window that all such pages share. A panel may stand
+/// beside the pages.
 class PageWindow
 {
 public:
@@ -21,6 +22,10 @@ public:
     explicit PageWindow(const QSize& size);
     ~PageWindow();
     Q_DISABLE_COPY_MOVE(PageWindow)
+
+    /// Shows an item beside every page, at the end of its window, or, if the page is a window itself, in a window
+    /// beside that. Call it before the first page; the item must outlive the object.
+    void setPanel(QQuickItem* panel) { m_panel = panel; }
 
     /// Shows a page that has a root. The page that was shown before ends; the new one has its place and size.
     void show(std::unique_ptr<Page> page);
@@ -33,8 +38,17 @@ public:
 private:
     void showItem(QQuickItem* item);
     void showWindow(QQuickWindow* window);
+    void arrange(QQuickItem* page);
+    void showPanelAlone(QQuickWindow* page);
+    void putPanelInto(QQuickWindow* window);
+    int panelWidth() const;
 
     const QSize m_size;
+    QQuickItem* m_panel = nullptr;
+    /// Of pages in the shared window, when it was made.
+    int m_pageWidth = 0;
+    /// For the panel beside a page that is a window.
+    std::unique_ptr<QQuickWindow> m_panelWindow;
     /// For pages that are not windows themselves. Pages end before it.
     std::unique_ptr<QQuickWindow> m_shared;
     std::unique_ptr<Page> m_page;

@@ -55,12 +55,14 @@ kit         qml/UiUtils/Controls            -
 liveplot    qml/UiUtils/Plot                base contract core languages document service plots
 common      apps/common                     LIBRARY base contract embedded bus host
 audit       apps/audit                      -
+inspector   apps/inspector                  LIBRARY base contract embedded host
 kivd        apps/kivd                       base contract embedded bus common
 kivctl      apps/kivctl                     base contract embedded bus replay common host
 viewer      apps/pdf_viewer                 base common
-demo        apps/demo                       LIBRARY base contract embedded common host
+demo        apps/demo                       LIBRARY base contract embedded common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
-qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common audit host
+qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common audit host inspector
+inspecttool apps/uiutils-inspector          LIBRARY base contract embedded common host inspector
 expage      examples/page                   host
 exform      examples/form                   LIBRARY contract host
 exreport    examples/report                 LIBRARY contract host
@@ -68,12 +70,14 @@ exservice   examples/service                contract embedded bus host
 explatform  examples/platform               contract host
 benchmarks  benchmarks                      LIBRARY podofo base contract embedded liveplot
 startbench  benchmarks/start                -
+openbench   benchmarks/inspector            LIBRARY base contract embedded host inspector
 busbench    benchmarks/bus                  LIBRARY base contract embedded bus replay benchmarks
 """
 GROUPS = {"WRITERS": "emitter plots pdffile pages text modern csv html xml",
           "LIBRARY": "core languages service instrument document local files emitter plots pdffile pages text modern csv html xml report saving drafts module"}
 # Our modules that pages may import. The measures are a resource of the viewer, too.
 PAGES = {"qml/UiUtils/Controls/Measures.qml": [], "apps/pdf_viewer/qml": ["UiUtils.Viewer"], "qml/UiUtils/Controls": ["UiUtils", "UiUtils.Controls", "UiUtils.Preview"],
+         "apps/inspector/qml": ["UiUtils", "UiUtils.Controls", "UiUtils.Plot", "UiUtils.Inspector"],
          "apps/demo/qml": ["UiUtils", "UiUtils.Controls", "UiUtils.Demo", "UiUtils.Plot"]}
 # Tests may include everything, and nothing may include them.
 TESTS = "tests/"
@@ -88,7 +92,7 @@ SHARED_WITH_PROGRAMS = ("base/", "platform/reference/replay/", "lib/ui_host/")
 LINKED_AGAIN = {"liveplot": "lib/ui_utils/writers/plots/"}
 GUESTS = {"demo", "expage", "exform", "exreport", "exservice", "explatform"}
 # The libraries of the tree that the demo may link besides installed ones: its own parts, and what programs share.
-DEMO_LINKS = {"uiutils_demo_parts", "uiutils_apps_common"}
+DEMO_LINKS = {"uiutils_demo_parts", "uiutils_apps_common", "uiutils_inspector"}
 LARGEST_CIRCLE = 3
 
 # Arrows that break the rule at present, with the reason. The list may only shrink.

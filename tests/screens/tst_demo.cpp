@@ -64,7 +64,8 @@ private Q_SLOTS:
         QVERIFY(m_host.start({{}, {}, {}, m_services.serviceNames(), {uiutils::apps::translationsOf("examples")}}));
         m_warnings.watch(&m_engine);
         m_host.showTo(&m_engine);
-        m_engine.setInitialProperties({{"measurement", QVariant::fromValue(&m_measurement)}});
+        // Anything: its button is judged.
+        m_engine.setInitialProperties({{"measurement", QVariant::fromValue(&m_measurement)}, {"inspector", QVariant::fromValue<QObject*>(this)}});
         m_engine.load(QUrl("qrc:/uiutils/demo/Main.qml"));
         QVERIFY(!m_engine.rootObjects().isEmpty());
         m_window = qobject_cast<QQuickWindow*>(m_engine.rootObjects().constFirst());

@@ -55,6 +55,7 @@ private Q_SLOTS:
             QTest::newRow(times) << replayed + QStringList {"--expect", "a", "--grab-at", times} << 2 << "ascending order";
         for (const char* speed : {"0", "-1", "nan", "inf", "x"})
             QTest::newRow(qPrintable(QString("speed ") + speed)) << replayed + QStringList {"--speed", speed} << 2 << "--speed needs a number";
+        QTest::newRow("inspector of an audit") << QStringList {"--inspect", "--audit", "a.qml"} << 2 << "--inspect is for a page that is used";
         QTest::newRow("no such folder") << QStringList {"--services", "/nowhere", "--list"} << 1 << "/nowhere";
     }
     void commandLines()
@@ -236,6 +237,22 @@ private Q_SLOTS:
         QVERIFY2(broken.exitCode == 7 && broken.errors.contains("site_pages_de.ts cannot be compiled: ") && broken.errors.contains("Hello"),
                 qPrintable(broken.errors));
         QVERIFY(QDir(m_folder.filePath("translations")).removeRecursively());
+    }
+
+    /// The inspector stands beside the page, which keeps its size, or in a window of its own beside that of the page.
+    void showsTheInspector()
+    {
+        const QString picture = m_folder.filePath("page.png");
+        const QStringList options {"--services", m_services, "--screen", "300x400@127", "--inspect", "--grab", picture};
+        const QByteArray window = "import QtQuick.Window 2.15\nWindow { visible: true; color: 'red' }";
+        QCOMPARE(run(QStringList(page("Rectangle { color: 'red' }")) + options).exitCode, 0);
+        const QImage beside(picture);
+        // 100 mm at 5 pixels.
+        QCOMPARE(beside.size(), QSize(800, 400));
+        QCOMPARE(beside.pixelColor(299, 399), QColor(Qt::red));
+        QVERIFY(beside.pixelColor(310, 200) != QColor(Qt::red));
+        QCOMPARE(run(QStringList(page(window)) + options).exitCode, 0);
+        QCOMPARE(QImage(picture).size(), QSize(300, 400));
     }
 
     void judgesAPage()

@@ -8,6 +8,7 @@ import UiUtils.Demo 1.0
 T.Drawer {
     id: drawer
 
+    property QtObject inspector: null
     readonly property alias stick: stick
 
     objectName: "deskDrawer"
@@ -36,6 +37,17 @@ T.Drawer {
             Layout.fillWidth: true
             text: qsTr("What happens to an instrument in the field, at the press of a button.")
             wrapMode: Text.Wrap
+        }
+        TouchButton {
+            objectName: "inspectorButton"
+            Layout.fillWidth: true
+            visible: drawer.inspector !== null
+            iconName: "search"
+            text: qsTr("Inspector (F12)")
+            onClicked: {
+                drawer.close()
+                drawer.inspector.toggle()
+            }
         }
         Section {
             Layout.fillWidth: true

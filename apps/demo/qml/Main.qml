@@ -10,6 +10,8 @@ T.ApplicationWindow {
     id: window
 
     required property LoopbackMeasurement measurement
+    // The window with the services and their items; null where there is no desk.
+    property QtObject inspector: null
     // Everything that is shown; null before complete().
     readonly property Item instrument: content.item
     readonly property bool isComplete: instrument !== null
@@ -37,7 +39,7 @@ T.ApplicationWindow {
 
     // What comes over the pages is not needed to see them, neither its objects nor its files.
     function addOverlays() {
-        overlays.setSource("Overlays.qml", { session: instrument.session })
+        overlays.setSource("Overlays.qml", { session: instrument.session, inspector: inspector })
     }
 
     // Errors that happened meanwhile are read first.
@@ -107,6 +109,12 @@ T.ApplicationWindow {
             height: parent.height - ControlsStyle.line
             color: ControlsStyle.card
         }
+    }
+    Shortcut {
+        enabled: window.inspector !== null
+        sequence: "F12"
+        autoRepeat: false
+        onActivated: window.inspector.toggle()
     }
     Loader {
         id: content

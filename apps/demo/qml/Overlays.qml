@@ -8,6 +8,7 @@ Item {
     id: overlays
 
     property Session session
+    property QtObject inspector: null
 
     parent: T.Overlay.overlay
     anchors.fill: parent
@@ -16,6 +17,7 @@ Item {
     SaveProgress { report: overlays.session.report }
     DeskDrawer {
         id: desk
+        inspector: overlays.inspector
         onClosed: overlays.session.look()
     }
     ScreenKeyboard { objectName: "screenKeyboard" }

@@ -64,8 +64,8 @@ KitPage {
 
                 Repeater {
                     model: ["add", "back", "battery", "bell", "calendar", "camera", "check", "clock", "close", "copy", "delete", "down", "drawer", "edit",
-                        "eject", "fail", "files", "filter", "forward", "hide", "home", "information", "jobs", "keyboard", "keypad", "language", "link",
-                        "more", "open", "pass", "people", "plot", "preview", "remove", "report", "results", "run", "save", "search", "settings", "sort",
+                        "eject", "fail", "favourite", "favourite-off", "files", "filter", "forward", "hide", "home", "information", "jobs", "keyboard", "keypad",
+                        "language", "link", "more", "open", "pass", "people", "plot", "preview", "remove", "report", "results", "run", "save", "search", "settings", "sort",
                         "stop", "sync", "theme", "up", "usb", "user", "warning"]
 
                     Column {

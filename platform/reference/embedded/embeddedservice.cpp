@@ -179,9 +179,20 @@ bool EmbeddedService::setRefusal(const QString& id, const QString& text)
     return true;
 }
 
+QString EmbeddedService::refusal(const QString& id) const
+{
+    const ItemStore::StatePtr state = d->items.find(id);
+    return state ? state->description.refusal : QString();
+}
+
 void EmbeddedService::setDelay(int ms)
 {
     d->delayMs = std::max(ms, 0);
+}
+
+int EmbeddedService::delay() const
+{
+    return d->delayMs;
 }
 
 bool EmbeddedService::setActionHandler(const QString& id, const ActionHandler& handler)

@@ -74,9 +74,13 @@ public:
 
     /// Rejects every write of a client to this setting with the error `text`; an empty text allows writes again.
     bool setRefusal(const QString& id, const QString& text);
+    /// The error with which writes to this setting are rejected; empty when they are allowed.
+    QString refusal(const QString& id) const;
 
     /// How long the service takes to answer a call from now on, in milliseconds; a negative number counts as zero.
     void setDelay(int ms);
+    /// In milliseconds.
+    int delay() const;
 
     /// Lets `handler` carry out an action in place of its description; an empty one undoes that. Returns false when the
     /// service has no such action. The handler may do anything, and may remove the service.
