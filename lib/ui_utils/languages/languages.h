@@ -19,8 +19,8 @@ namespace uiutils {
 /// A language is a code such as "de" or "pt_BR". It has catalogues: files "uiutils_LANGUAGE.qm" for the library and
 /// "APPLICATION_LANGUAGE.qm", with the name of the application, in the installed folder share/uiutils/translations, and
 /// all files "NAME_LANGUAGE.qm" in the folders that open() gets. English, the language of the sources, needs none. A
-/// damaged file counts for nothing, and the log has a line. The application remembers the user's choice; this class does
-/// not.
+/// damaged file counts for nothing, and the log has a line. The application remembers the user's choice; this class
+/// does not.
 ///
 /// When the language changes, so do the default QLocale and the layout direction of the application; every binding in
 /// the pages of all followed engines is evaluated again, and labels of items and of the library's own settings change.

@@ -35,8 +35,8 @@ Interval levelsOf(const QVector<CurveBound>& bounds, bool isLogarithmic)
     return levels;
 }
 
-/// With some space, so that limits do not lie on the frame. The space never reaches beyond zero: an axis of what cannot be
-/// negative would spend half of its length below.
+/// With some space, so that limits do not lie on the frame. The space never reaches beyond zero: an axis of what cannot
+/// be negative would spend half of its length below.
 Interval withLevels(Interval values, const Interval& levels, bool isLogarithmic)
 {
     if (levels.isEmpty())
