@@ -816,33 +816,6 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
 </context>
 <context>
-    <name>Instrument</name>
-    <message>
-        <source>Home</source>
-        <translation>الرئيسية</translation>
-    </message>
-    <message>
-        <source>Set-up</source>
-        <translation>الإعداد</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>القياس</translation>
-    </message>
-    <message>
-        <source>Results</source>
-        <translation>النتائج</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>التقرير</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>الملفات</translation>
-    </message>
-</context>
-<context>
     <name>Inspector</name>
     <message>
         <source>Passing</source>
@@ -966,6 +939,14 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
             <numerusform>%n حقل</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Recording to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 changes in %3 s</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>InspectorPanel</name>
@@ -984,6 +965,33 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>Changes</source>
         <translation>التغييرات</translation>
+    </message>
+</context>
+<context>
+    <name>Instrument</name>
+    <message>
+        <source>Home</source>
+        <translation>الرئيسية</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>الإعداد</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>القياس</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>النتائج</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>التقرير</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>الملفات</translation>
     </message>
 </context>
 <context>
@@ -1442,6 +1450,14 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>missed while paused: %L1</source>
         <translation>فاتت أثناء الإيقاف: %L1</translation>
+    </message>
+    <message>
+        <source>End recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished">السجل</translation>
     </message>
 </context>
 <context>

@@ -808,33 +808,6 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     </message>
 </context>
 <context>
-    <name>Instrument</name>
-    <message>
-        <source>Home</source>
-        <translation>Start</translation>
-    </message>
-    <message>
-        <source>Set-up</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>Messung</translation>
-    </message>
-    <message>
-        <source>Results</source>
-        <translation>Ergebnisse</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>Bericht</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Dateien</translation>
-    </message>
-</context>
-<context>
     <name>Inspector</name>
     <message>
         <source>Passing</source>
@@ -950,6 +923,14 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
             <numerusform>%n Felder</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Recording to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 changes in %3 s</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>InspectorPanel</name>
@@ -968,6 +949,33 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     <message>
         <source>Changes</source>
         <translation>Änderungen</translation>
+    </message>
+</context>
+<context>
+    <name>Instrument</name>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Messung</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
     </message>
 </context>
 <context>
@@ -1422,6 +1430,14 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     <message>
         <source>missed while paused: %L1</source>
         <translation>in der Pause verpasst: %L1</translation>
+    </message>
+    <message>
+        <source>End recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished">Datensatz</translation>
     </message>
 </context>
 <context>

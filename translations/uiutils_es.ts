@@ -808,33 +808,6 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     </message>
 </context>
 <context>
-    <name>Instrument</name>
-    <message>
-        <source>Home</source>
-        <translation>Inicio</translation>
-    </message>
-    <message>
-        <source>Set-up</source>
-        <translation>Configuración</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>Medición</translation>
-    </message>
-    <message>
-        <source>Results</source>
-        <translation>Resultados</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>Informe</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Archivos</translation>
-    </message>
-</context>
-<context>
     <name>Inspector</name>
     <message>
         <source>Passing</source>
@@ -950,6 +923,14 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
             <numerusform>%n campos</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Recording to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 changes in %3 s</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>InspectorPanel</name>
@@ -968,6 +949,33 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     <message>
         <source>Changes</source>
         <translation>Cambios</translation>
+    </message>
+</context>
+<context>
+    <name>Instrument</name>
+    <message>
+        <source>Home</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Medición</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
     </message>
 </context>
 <context>
@@ -1422,6 +1430,14 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     <message>
         <source>missed while paused: %L1</source>
         <translation>perdidos en pausa: %L1</translation>
+    </message>
+    <message>
+        <source>End recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished">Ficha</translation>
     </message>
 </context>
 <context>

@@ -808,33 +808,6 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     </message>
 </context>
 <context>
-    <name>Instrument</name>
-    <message>
-        <source>Home</source>
-        <translation>Accueil</translation>
-    </message>
-    <message>
-        <source>Set-up</source>
-        <translation>Configuration</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>Mesure</translation>
-    </message>
-    <message>
-        <source>Results</source>
-        <translation>Résultats</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>Rapport</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>Fichiers</translation>
-    </message>
-</context>
-<context>
     <name>Inspector</name>
     <message>
         <source>Passing</source>
@@ -950,6 +923,14 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
             <numerusform>%n champs</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Recording to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 changes in %3 s</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>InspectorPanel</name>
@@ -968,6 +949,33 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     <message>
         <source>Changes</source>
         <translation>Modifications</translation>
+    </message>
+</context>
+<context>
+    <name>Instrument</name>
+    <message>
+        <source>Home</source>
+        <translation>Accueil</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Configuration</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Mesure</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Résultats</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
     </message>
 </context>
 <context>
@@ -1422,6 +1430,14 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     <message>
         <source>missed while paused: %L1</source>
         <translation>manquées en pause : %L1</translation>
+    </message>
+    <message>
+        <source>End recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished">Fiche</translation>
     </message>
 </context>
 <context>

@@ -806,33 +806,6 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
 </context>
 <context>
-    <name>Instrument</name>
-    <message>
-        <source>Home</source>
-        <translation>ホーム</translation>
-    </message>
-    <message>
-        <source>Set-up</source>
-        <translation>測定設定</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>測定</translation>
-    </message>
-    <message>
-        <source>Results</source>
-        <translation>結果</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>レポート</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>ファイル</translation>
-    </message>
-</context>
-<context>
     <name>Inspector</name>
     <message>
         <source>Passing</source>
@@ -946,6 +919,14 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
             <numerusform>%n メンバー</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Recording to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 changes in %3 s</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>InspectorPanel</name>
@@ -964,6 +945,33 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>Changes</source>
         <translation>変更</translation>
+    </message>
+</context>
+<context>
+    <name>Instrument</name>
+    <message>
+        <source>Home</source>
+        <translation>ホーム</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>測定設定</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>測定</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>レポート</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
     </message>
 </context>
 <context>
@@ -1417,6 +1425,14 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>missed while paused: %L1</source>
         <translation>停止中の変更: %L1</translation>
+    </message>
+    <message>
+        <source>End recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation type="unfinished">記録</translation>
     </message>
 </context>
 <context>

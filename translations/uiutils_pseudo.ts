@@ -808,33 +808,6 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
 </context>
 <context>
-    <name>Instrument</name>
-    <message>
-        <source>Home</source>
-        <translation>[Ĥömé ~]</translation>
-    </message>
-    <message>
-        <source>Set-up</source>
-        <translation>[Šéţ-ûp ~]</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>[Ŕûñ ~]</translation>
-    </message>
-    <message>
-        <source>Results</source>
-        <translation>[Ŕéšûļţš ~]</translation>
-    </message>
-    <message>
-        <source>Report</source>
-        <translation>[Ŕépöŕţ ~]</translation>
-    </message>
-    <message>
-        <source>Files</source>
-        <translation>[Fîļéš ~]</translation>
-    </message>
-</context>
-<context>
     <name>Inspector</name>
     <message>
         <source>Passing</source>
@@ -950,6 +923,14 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
             <numerusform>[%n mémbéŕš ~]</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Recording to %1</source>
+        <translation>[Ŕéçöŕđîñĝ ţö %1 ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1: %2 changes in %3 s</source>
+        <translation>[%1: %2 çĥåñĝéš îñ %3 š ~ ~ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>InspectorPanel</name>
@@ -968,6 +949,33 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>Changes</source>
         <translation>[Çĥåñĝéš ~]</translation>
+    </message>
+</context>
+<context>
+    <name>Instrument</name>
+    <message>
+        <source>Home</source>
+        <translation>[Ĥömé ~]</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>[Šéţ-ûp ~]</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>[Ŕûñ ~]</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>[Ŕéšûļţš ~]</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>[Ŕépöŕţ ~]</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>[Fîļéš ~]</translation>
     </message>
 </context>
 <context>
@@ -1422,6 +1430,14 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>missed while paused: %L1</source>
         <translation>[mîššéđ ŵĥîļé påûšéđ: %L1 ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>End recording</source>
+        <translation>[Éñđ ŕéçöŕđîñĝ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>[Ŕéçöŕđ ~]</translation>
     </message>
 </context>
 <context>

@@ -18,6 +18,7 @@ Inspector::Inspector(Host* host, const QString& favouritesFile, QObject* parent)
     , m_host(host)
     , m_favourites(favouritesFile)
     , m_items(&m_favourites)
+    , m_recording(host, recordingsFolder())
 {
     QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
     const QStringList names = host->serviceNames();
@@ -95,6 +96,7 @@ void registerTypes()
     qmlRegisterUncreatableType<InspectedService>(uri, 1, 0, "InspectedService", reason);
     qmlRegisterAnonymousType<ItemRows>(uri, 1);
     qmlRegisterAnonymousType<ChangeLog>(uri, 1);
+    qmlRegisterAnonymousType<ServiceRecording>(uri, 1);
 }
 
 } // namespace uiutils::inspector

@@ -4,6 +4,7 @@
 #include "favourites.h"
 #include "inspectedservice.h"
 #include "itemrows.h"
+#include "servicerecording.h"
 
 #include <QObject>
 #include <QVariantList>
@@ -22,6 +23,7 @@ class Inspector : public QObject
     Q_OBJECT
     Q_PROPERTY(uiutils::inspector::ItemRows* items READ items CONSTANT)
     Q_PROPERTY(uiutils::inspector::ChangeLog* log READ log CONSTANT)
+    Q_PROPERTY(uiutils::inspector::ServiceRecording* recording READ recording CONSTANT)
     /// InspectedService objects, in the order of their names at the start; later services follow.
     Q_PROPERTY(QVariantList services READ services NOTIFY servicesChanged)
 
@@ -35,6 +37,7 @@ public:
 
     ItemRows* items() { return &m_items; }
     ChangeLog* log() { return &m_log; }
+    ServiceRecording* recording() { return &m_recording; }
     QVariantList services() const;
 
     /// The service of that full name, or null.
@@ -54,6 +57,7 @@ private:
     Favourites m_favourites;
     ItemRows m_items;
     ChangeLog m_log;
+    ServiceRecording m_recording;
     QVector<InspectedService*> m_services;
     /// Children of the services.
     QVector<ChangeFollower*> m_followers;

@@ -226,6 +226,28 @@ private Q_SLOTS:
         QVERIFY(part("itemList") && !part("detailsBack"));
     }
 
+    /// What happens between two taps is in a file, after everything as it was.
+    void changesAreRecorded()
+    {
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(m_stand->path("services")));
+        open({1200, 700});
+        QVERIFY(QDir::setCurrent(before));
+        m_panel->item()->findChild<QQuickItem*>("inspectorTabs")->setProperty("currentIndex", 2);
+        QTRY_VERIFY(part("recordButton"));
+        m_stand->meter->setValue(powerId, 3.75);
+        tapPart("recordButton");
+        m_stand->meter->setValue(powerId, 4.25);
+        tapPart("recordButton");
+        m_stand->meter->setValue(powerId, 5.75);
+        QTRY_VERIFY(part("recordingText")->property("text").toString().contains(".kivlog: 1 changes in "));
+        const QStringList files = namesIn(m_stand->path("services")).filter(".kivlog");
+        QCOMPARE(files.size(), 1);
+        const QByteArray lines = contentsOf(m_stand->path("services/" + files.constFirst()));
+        QVERIFY2(lines.contains("\"service\":\"clock\"") && lines.indexOf("3.75") < lines.indexOf("4.25") && lines.contains("3.75"), lines);
+        QVERIFY2(!lines.contains("5.75"), lines);
+    }
+
     /// The window of an application opens and closes, also by its own frame; what was done to a service ends with it.
     void aWindowOpensAndCloses()
     {

@@ -55,14 +55,14 @@ kit         qml/UiUtils/Controls            -
 liveplot    qml/UiUtils/Plot                base contract core languages document service plots
 common      apps/common                     LIBRARY base contract embedded bus host
 audit       apps/audit                      -
-inspector   apps/inspector                  LIBRARY base contract embedded host
+inspector   apps/inspector                  LIBRARY base contract embedded replay host
 kivd        apps/kivd                       base contract embedded bus common
 kivctl      apps/kivctl                     base contract embedded bus replay common host
 viewer      apps/pdf_viewer                 base common
-demo        apps/demo                       LIBRARY base contract embedded common host inspector
+demo        apps/demo                       LIBRARY base contract embedded replay common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
 qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common audit host inspector
-inspecttool apps/uiutils-inspector          LIBRARY base contract embedded common host inspector
+inspecttool apps/uiutils-inspector          LIBRARY base contract embedded replay common host inspector
 expage      examples/page                   host
 exform      examples/form                   LIBRARY contract host
 exreport    examples/report                 LIBRARY contract host
@@ -70,7 +70,7 @@ exservice   examples/service                contract embedded bus host
 explatform  examples/platform               contract host
 benchmarks  benchmarks                      LIBRARY podofo base contract embedded liveplot
 startbench  benchmarks/start                -
-openbench   benchmarks/inspector            LIBRARY base contract embedded host inspector
+openbench   benchmarks/inspector            LIBRARY base contract embedded replay host inspector
 busbench    benchmarks/bus                  LIBRARY base contract embedded bus replay benchmarks
 """
 GROUPS = {"WRITERS": "emitter plots pdffile pages text modern csv html xml",

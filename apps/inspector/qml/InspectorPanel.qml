@@ -54,7 +54,11 @@ Rectangle {
             Loader { active: tabs.currentIndex === 1; sourceComponent: ServicesPage { inspector: panel.inspector } }
             Loader {
                 active: tabs.currentIndex === 2
-                sourceComponent: LogPage { log: panel.inspector.log; onChosen: panel.show(panel.inspector.item(id)) }
+                sourceComponent: LogPage {
+                    log: panel.inspector.log
+                    recording: panel.inspector.recording
+                    onChosen: panel.show(panel.inspector.item(id))
+                }
             }
         }
     }

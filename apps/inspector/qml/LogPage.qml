@@ -8,8 +8,7 @@ ColumnLayout {
     id: page
 
     required property var log
-    // Further buttons, such as one that saves the changes as a recording.
-    property alias actions: actionRow.data
+    required property var recording
     signal chosen(string id)
 
     spacing: ControlsStyle.touchGap
@@ -33,12 +32,22 @@ ColumnLayout {
             enabled: page.log.count > 0
             onClicked: page.log.clear()
         }
-        RowLayout {
-            id: actionRow
-            visible: children.length > 0
-            spacing: ControlsStyle.touchGap
+        TouchButton {
+            objectName: "recordButton"
+            iconName: page.recording.running ? "stop" : "save"
+            text: page.recording.running ? qsTr("End recording") : qsTr("Record")
+            onClicked: page.recording.running ? page.recording.end() : page.recording.begin()
         }
         Item { Layout.fillWidth: true }
+    }
+    LabelText {
+        objectName: "recordingText"
+        Layout.fillWidth: true
+        Layout.leftMargin: ControlsStyle.margin
+        Layout.rightMargin: ControlsStyle.margin
+        visible: text !== ""
+        text: page.recording.text
+        wrapMode: Text.Wrap
     }
     LabelText {
         objectName: "logCounts"

@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" sourcelanguage="en" language="en">
+<TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name>ButtonsPage</name>
     <message>
