@@ -26,7 +26,7 @@ import update  # noqa: E402
 ROOMS = ('base', 'platform', 'lib', 'apps', 'qml', update.EXAMPLES)
 # Contexts of which show() makes no text appear. A context that no longer exists is removed from the list.
 UNSEEN = {
-    'FileSystemUsage', 'FontTexts', 'KivAggregateData', 'OwnLibrary', 'PDFFile', 'Paths', 'SchemaValidator',
+    'FileSystemUsage', 'FontTexts', 'Inspector', 'KivAggregateData', 'OwnLibrary', 'PDFFile', 'Paths', 'SchemaValidator',
     'ScreenAudit', 'ServiceState', 'uiutils::ReportDraft', 'uiutils::ReportPaper',
     *(f'uiutils::demo::{name}' for name in ('LoopbackProbe', 'Tour', 'UsbStick')),
 }
@@ -285,12 +285,12 @@ def show(recording):
     odd = recording.run('reportconvert', '--strict', '--format', 'xml', '--services', recording.folder, document, code=1)
     nowhere = recording.run('uiutils-qml', TREE / 'docs/examples/gallery.qml', *services, '--root', root, '--grab', '/nowhere/a.png',
                             code=1)
-    for program in ('uiutils-qml', 'reportconvert', 'pdf_viewer', 'uiutils-demo', 'kivd', 'kivctl'):
+    for program in ('uiutils-qml', 'uiutils-inspector', 'reportconvert', 'pdf_viewer', 'uiutils-demo', 'kivd', 'kivctl'):
         recording.run(program, '--help')
         recording.run(program, '--nonsense', code=2)
     for example in ('gallery', 'notifications', 'liveplot'):
         recording.run('uiutils-qml', TREE / f'docs/examples/{example}.qml', '--services', TREE / 'platform/reference/services',
-                      '--root', root, '--grab', recording.folder / 'page.png')
+                      '--root', root, '--inspect', '--grab', recording.folder / 'page.png')
     recording.run('uiutils-demo', '--tour', '--samples', '20', '--root', root,
                   '--services', TREE / 'platform/reference/services')
     alone = recording.folder / 'alone'
