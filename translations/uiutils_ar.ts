@@ -941,11 +941,11 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>Recording to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>يُسجَّل في ⁦%1⁩</translation>
     </message>
     <message>
         <source>%1: %2 changes in %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>⁦%1⁩: %2 تغييرات خلال %3 ث</translation>
     </message>
 </context>
 <context>
@@ -1453,11 +1453,11 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>End recording</source>
-        <translation type="unfinished"></translation>
+        <translation>إنهاء التسجيل</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished">السجل</translation>
+        <translation>تسجيل</translation>
     </message>
 </context>
 <context>

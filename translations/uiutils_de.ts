@@ -925,11 +925,11 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     </message>
     <message>
         <source>Recording to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird aufgezeichnet in %1</translation>
     </message>
     <message>
         <source>%1: %2 changes in %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 Änderungen in %3&#xa0;s</translation>
     </message>
 </context>
 <context>
@@ -1433,11 +1433,11 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
     </message>
     <message>
         <source>End recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnung beenden</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished">Datensatz</translation>
+        <translation>Aufzeichnen</translation>
     </message>
 </context>
 <context>

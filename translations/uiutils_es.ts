@@ -925,11 +925,11 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     </message>
     <message>
         <source>Recording to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabando en %1</translation>
     </message>
     <message>
         <source>%1: %2 changes in %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 cambios en %3&#xa0;s</translation>
     </message>
 </context>
 <context>
@@ -1433,11 +1433,11 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
     </message>
     <message>
         <source>End recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminar grabación</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished">Ficha</translation>
+        <translation>Grabar</translation>
     </message>
 </context>
 <context>

@@ -925,11 +925,11 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     </message>
     <message>
         <source>Recording to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement dans %1</translation>
     </message>
     <message>
         <source>%1: %2 changes in %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2 changements en %3&#xa0;s</translation>
     </message>
 </context>
 <context>
@@ -1433,11 +1433,11 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
     </message>
     <message>
         <source>End recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished">Fiche</translation>
+        <translation>Enregistrer</translation>
     </message>
 </context>
 <context>

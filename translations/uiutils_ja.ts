@@ -921,11 +921,11 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>Recording to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に記録中</translation>
     </message>
     <message>
         <source>%1: %2 changes in %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %3 秒間に %2 件の変更</translation>
     </message>
 </context>
 <context>
@@ -1428,11 +1428,11 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>End recording</source>
-        <translation type="unfinished"></translation>
+        <translation>記録を終了</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished">記録</translation>
+        <translation>記録</translation>
     </message>
 </context>
 <context>
