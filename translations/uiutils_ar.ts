@@ -16,7 +16,7 @@
     <name>Changes</name>
     <message>
         <source>%1 %2</source>
-        <translation>%1 %2</translation>
+        <translation>‏%1 %2</translation>
     </message>
 </context>
 <context>
@@ -635,7 +635,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>%1, %2 % of the drive in use</source>
-        <translation>%1، المستخدَم من القرص %2 %</translation>
+        <translation>‏%1، المستخدَم من القرص %2 %</translation>
     </message>
 </context>
 <context>
@@ -945,7 +945,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>%1: %2 changes in %3 s</source>
-        <translation>⁦%1⁩: %2 تغييرات خلال %3 ث</translation>
+        <translation>‏⁦%1⁩: %2 تغييرات خلال %3 ث</translation>
     </message>
 </context>
 <context>
@@ -1026,11 +1026,11 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>%1 G</source>
-        <translation>%1 G</translation>
+        <translation>‏%1 G</translation>
     </message>
     <message>
         <source>%1 M</source>
-        <translation>%1 M</translation>
+        <translation>‏%1 M</translation>
     </message>
     <message>
         <source>Battery, charging</source>
@@ -1042,7 +1042,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>‏%1 %</translation>
     </message>
     <message>
         <source>Notifications</source>
@@ -1172,7 +1172,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>%1 of %2 items</source>
-        <translation>%1 من %2 من العناصر</translation>
+        <translation>‏%1 من %2 من العناصر</translation>
     </message>
     <message>
         <source>Items</source>
@@ -1255,7 +1255,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     <message>
         <source>%1
 %2</source>
-        <translation>%1
+        <translation>‏%1
 %2</translation>
     </message>
     <message>
@@ -1406,7 +1406,7 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
     </message>
     <message>
         <source>%1.</source>
-        <translation>%1.</translation>
+        <translation>‏%1.</translation>
     </message>
     <message>
         <source>At the cursor: %1.</source>
@@ -2048,7 +2048,7 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     <name>Recording</name>
     <message>
         <source>%1 is not a file.</source>
-        <translation>%1 ليس ملفًا.</translation>
+        <translation>‏%1 ليس ملفًا.</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2.</source>
@@ -2088,7 +2088,7 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
     <message>
         <source>%1 exists. Name another file, or remove that one.</source>
-        <translation>%1 موجود بالفعل. حدد ملفًا آخر أو احذف هذا الملف.</translation>
+        <translation>‏%1 موجود بالفعل. حدد ملفًا آخر أو احذف هذا الملف.</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2.</source>
@@ -2104,7 +2104,7 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
     <message>
         <source>%1 is not a recording of services.</source>
-        <translation>%1 ليس تسجيلاً لخدمات.</translation>
+        <translation>‏%1 ليس تسجيلاً لخدمات.</translation>
     </message>
     <message>
         <source>%1 was recorded by a newer program, which writes another form. Use that one.</source>
@@ -2367,7 +2367,7 @@ Folder: %2</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1: %2</translation>
+        <translation>‏%1: %2</translation>
     </message>
     <message>
         <source>Drawing</source>
@@ -2549,7 +2549,7 @@ Folder: %2</source>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>‏%1 %</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -3543,7 +3543,7 @@ Folder: %2</source>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation>%1 %2</translation>
+        <translation>‏%1 %2</translation>
     </message>
 </context>
 <context>
@@ -3654,7 +3654,7 @@ Folder: %2</source>
     <name>Simulation</name>
     <message>
         <source>%1 is running already. Stop it, or wait until it is done.</source>
-        <translation>%1 قيد التشغيل بالفعل. أوقفه أو انتظر حتى ينتهي.</translation>
+        <translation>‏%1 قيد التشغيل بالفعل. أوقفه أو انتظر حتى ينتهي.</translation>
     </message>
     <message>
         <source>the value of %1: %2</source>
@@ -3662,23 +3662,23 @@ Folder: %2</source>
     </message>
     <message>
         <source>%1: not a regular file</source>
-        <translation>⁦%1⁩: ليس ملفًا عاديًا</translation>
+        <translation>‏⁦%1⁩: ليس ملفًا عاديًا</translation>
     </message>
     <message>
         <source>%1: cannot be opened: %2</source>
-        <translation>⁦%1⁩: يتعذر الفتح: %2</translation>
+        <translation>‏⁦%1⁩: يتعذر الفتح: %2</translation>
     </message>
     <message>
         <source>%1: larger than %2 MiB</source>
-        <translation>⁦%1⁩: أكبر من %2&#xa0;MiB</translation>
+        <translation>‏⁦%1⁩: أكبر من %2&#xa0;MiB</translation>
     </message>
     <message>
         <source>%1: the first line names no column &quot;%2&quot;</source>
-        <translation>⁦%1⁩: لا يذكر السطر الأول عمودًا باسم &quot;%2&quot;</translation>
+        <translation>‏⁦%1⁩: لا يذكر السطر الأول عمودًا باسم &quot;%2&quot;</translation>
     </message>
     <message>
         <source>%1: no line has a value of the item&apos;s type in the column</source>
-        <translation>⁦%1⁩: لا يحتوي أي سطر في العمود على قيمة من نوع العنصر</translation>
+        <translation>‏⁦%1⁩: لا يحتوي أي سطر في العمود على قيمة من نوع العنصر</translation>
     </message>
     <message>
         <source>only a result can move: settings are set by clients</source>
@@ -3702,11 +3702,11 @@ Folder: %2</source>
     </message>
     <message>
         <source>%1. The item %2 stands still.</source>
-        <translation>%1. العنصر ⁦%2⁩ لا يتغير.</translation>
+        <translation>‏%1. العنصر ⁦%2⁩ لا يتغير.</translation>
     </message>
     <message>
         <source>%1: %2 of %3 lines have no value for %4 and are left out.</source>
-        <translation>⁦%1⁩: %2 من %3 سطر بلا قيمة للعنصر ⁦%4⁩ وقد أُهملت.</translation>
+        <translation>‏⁦%1⁩: %2 من %3 سطر بلا قيمة للعنصر ⁦%4⁩ وقد أُهملت.</translation>
     </message>
     <message>
         <source>only numbers and Booleans can be judged by their value</source>
@@ -3848,7 +3848,7 @@ Folder: %2</source>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation>%1. %2</translation>
+        <translation>‏%1. %2</translation>
     </message>
     <message>
         <source>Plot</source>
@@ -4002,7 +4002,7 @@ Folder: %2</source>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>‏%1 %</translation>
     </message>
     <message>
         <source>Zoom %1</source>

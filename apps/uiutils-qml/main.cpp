@@ -115,7 +115,13 @@ int show(Host& host, const Surroundings& around, const Options& options)
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     if (options.isAudit)
         audit::ScreenAudit::prepare();
+    // It outlives the window that it is shown in.
+    const std::unique_ptr<InspectorPanel> panel = options.isInspected ? makePanel(host, options) : nullptr;
+    if (options.isInspected && !panel)
+        return exitFailed;
     PageWindow window(options.screen.size);
+    if (panel)
+        window.setPanel(panel->item());
     const bool isUsed = !options.isAudit && options.picture.isEmpty() && !around.time;
     std::optional<PageReload> reload;
     // Before the page is read, so that no change is missed.
@@ -125,11 +131,6 @@ int show(Host& host, const Surroundings& around, const Options& options)
     auto page = std::make_unique<Page>(makeEngine(host, options), options.page);
     if (!page->root())
         return complain(page->error());
-    const std::unique_ptr<InspectorPanel> panel = options.isInspected ? makePanel(host, options) : nullptr;
-    if (options.isInspected && !panel)
-        return exitFailed;
-    if (panel)
-        window.setPanel(panel->item());
     window.show(std::move(page));
     if (!isUsed) {
         qmltool::whenDrawn(window.window(), [&](const QString& problem) {

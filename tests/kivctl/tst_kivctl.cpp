@@ -328,9 +328,9 @@ private Q_SLOTS:
         const Outcome outcome = own({"set", count, "51"}, "file/root");
         QCOMPARE(outcome.exitCode, 1);
         QVERIFY2(outcome.errors.contains("station.state.json"), qPrintable(outcome.errors));
-        QCOMPARE(own({"watch"}).exitCode, 2);
+        QCOMPARE(own({"replay", "a"}).exitCode, 2);
         qputenv("KIV_PLATFORM", "embedded");
-        const int exitCode = run({"watch"}).exitCode;
+        const int exitCode = run({"replay", "a"}).exitCode;
         qunsetenv("KIV_PLATFORM");
         QCOMPARE(exitCode, 2);
     }

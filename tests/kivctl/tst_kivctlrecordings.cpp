@@ -101,7 +101,7 @@ private Q_SLOTS:
         QTest::newRow("speed") << QStringList {"replay", "a", "--speed", "0"} << 2 << "--speed needs";
         QTest::newRow("from") << QStringList {"replay", "a", "--from", "x"} << 2 << "--from needs";
         QTest::newRow("duration") << QStringList {"record", "a", "--duration", "0"} << 2 << "--duration needs";
-        QTest::newRow("no bus to watch") << QStringList {"record", "a", "-s", UIUTILS_TEST_DATA_DIR "/services"} << 2 << "without a bus";
+        QTest::newRow("no bus to replay on") << QStringList {"replay", "a", "-s", UIUTILS_TEST_DATA_DIR "/services"} << 2 << "replayed on a bus";
         QTest::newRow("no bus to play on") << QStringList {"replay", "a", "-s", UIUTILS_TEST_DATA_DIR "/services"} << 2 << "uiutils-qml --replay";
         QTest::newRow("no such recording") << QStringList {"replay", "/nowhere/a"} << 1 << "/nowhere/a cannot be read";
         QTest::newRow("no recording") << QStringList {"replay", UIUTILS_SOURCE_DIR "/README.md"} << 1 << "is not a recording";

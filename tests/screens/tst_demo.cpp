@@ -145,7 +145,8 @@ private:
 
     QVariant run(const QString& expression)
     {
-        return QQmlExpression(QQmlEngine::contextForObject(m_window), m_window, expression).evaluate();
+        auto* const instrument = m_window->property("instrument").value<QQuickItem*>();
+        return QQmlExpression(QQmlEngine::contextForObject(instrument), instrument, expression).evaluate();
     }
 
     void open(const QString& page)
