@@ -3744,6 +3744,18 @@ Folder: %2</source>
         <source>nothing happens: say what, such as &quot;vanish&quot;: true</source>
         <translation>لا يحدث شيء: اذكر ما يحدث، مثل &quot;vanish&quot;: true</translation>
     </message>
+    <message>
+        <source>%1 The item %2 stands still.</source>
+        <translation>‏⁦%1⁩ يبقى العنصر ⁦%2⁩ ثابتًا.</translation>
+    </message>
+    <message>
+        <source>%1: lines that cannot be read are left out: %2</source>
+        <translation>‏⁦%1⁩: أسطر لا يمكن قراءتها وتُركت: %2</translation>
+    </message>
+    <message>
+        <source>%1: the recording has no value of %2.</source>
+        <translation>‏⁦%1⁩: لا يحوي التسجيل قيمة للعنصر ⁦%2⁩.</translation>
+    </message>
 </context>
 <context>
     <name>SwitchEntry</name>

@@ -3712,6 +3712,18 @@ Ordner: %2</translation>
         <source>nothing happens: say what, such as &quot;vanish&quot;: true</source>
         <translation>es geschieht nichts: geben Sie an, was, zum Beispiel &quot;vanish&quot;: true</translation>
     </message>
+    <message>
+        <source>%1 The item %2 stands still.</source>
+        <translation>%1 Der Eintrag %2 steht still.</translation>
+    </message>
+    <message>
+        <source>%1: lines that cannot be read are left out: %2</source>
+        <translation>%1: nicht lesbare Zeilen, die ausgelassen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: the recording has no value of %2.</source>
+        <translation>%1: Die Aufzeichnung hat keinen Wert von %2.</translation>
+    </message>
 </context>
 <context>
     <name>SwitchEntry</name>

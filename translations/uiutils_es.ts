@@ -3712,6 +3712,18 @@ Carpeta: %2</translation>
         <source>nothing happens: say what, such as &quot;vanish&quot;: true</source>
         <translation>no ocurre nada: indique qué, por ejemplo &quot;vanish&quot;: true</translation>
     </message>
+    <message>
+        <source>%1 The item %2 stands still.</source>
+        <translation>%1 El elemento %2 no se mueve.</translation>
+    </message>
+    <message>
+        <source>%1: lines that cannot be read are left out: %2</source>
+        <translation>%1: líneas ilegibles que se omiten: %2</translation>
+    </message>
+    <message>
+        <source>%1: the recording has no value of %2.</source>
+        <translation>%1: la grabación no tiene ningún valor de %2.</translation>
+    </message>
 </context>
 <context>
     <name>SwitchEntry</name>

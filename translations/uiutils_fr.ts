@@ -3712,6 +3712,18 @@ Dossier&#xa0;: %2</translation>
         <source>nothing happens: say what, such as &quot;vanish&quot;: true</source>
         <translation>il ne se passe rien&#xa0;: indiquez quoi, par exemple &quot;vanish&quot;: true</translation>
     </message>
+    <message>
+        <source>%1 The item %2 stands still.</source>
+        <translation>%1 L’élément %2 reste immobile.</translation>
+    </message>
+    <message>
+        <source>%1: lines that cannot be read are left out: %2</source>
+        <translation>%1&#xa0;: lignes illisibles, omises&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1: the recording has no value of %2.</source>
+        <translation>%1&#xa0;: l’enregistrement n’a aucune valeur de %2.</translation>
+    </message>
 </context>
 <context>
     <name>SwitchEntry</name>

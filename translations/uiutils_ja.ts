@@ -3704,6 +3704,18 @@ Folder: %2</source>
         <source>nothing happens: say what, such as &quot;vanish&quot;: true</source>
         <translation>何も起こりません: &quot;vanish&quot;: true のように、何が起こるかを書いてください</translation>
     </message>
+    <message>
+        <source>%1 The item %2 stands still.</source>
+        <translation>%1 項目 %2 は変化しません。</translation>
+    </message>
+    <message>
+        <source>%1: lines that cannot be read are left out: %2</source>
+        <translation>%1: 読み取れないため省いた行: %2</translation>
+    </message>
+    <message>
+        <source>%1: the recording has no value of %2.</source>
+        <translation>%1: 記録に %2 の値がありません。</translation>
+    </message>
 </context>
 <context>
     <name>SwitchEntry</name>

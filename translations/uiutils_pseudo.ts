@@ -3712,6 +3712,18 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>nothing happens: say what, such as "vanish": true</source>
         <translation>[ñöţĥîñĝ ĥåppéñš: šåý ŵĥåţ, šûçĥ åš "våñîšĥ": ţŕûé ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>%1 The item %2 stands still.</source>
+        <translation>[%1 Ţĥé îţém %2 šţåñđš šţîļļ. ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1: lines that cannot be read are left out: %2</source>
+        <translation>[%1: ļîñéš ţĥåţ çåññöţ bé ŕéåđ åŕé ļéfţ öûţ: %2 ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>%1: the recording has no value of %2.</source>
+        <translation>[%1: ţĥé ŕéçöŕđîñĝ ĥåš ñö våļûé öf %2. ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>SwitchEntry</name>

@@ -1,5 +1,5 @@
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Layouts 1.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
 
@@ -14,21 +14,6 @@ Rectangle {
     height: 600
     color: ControlsStyle.background
 
-    component Choice: Button {
-        id: choice
-        width: parent.width
-        height: ControlsStyle.touch
-        font.pixelSize: ControlsStyle.bodyText
-        contentItem: Text {
-            text: choice.text
-            textFormat: Text.PlainText
-            font: choice.font
-            color: ControlsStyle.text
-            horizontalAlignment: Text.AlignHCenter
-            verticalAlignment: Text.AlignVCenter
-        }
-    }
-
     // An error is shown beside an open question.
     FileUtils {
         id: messages
@@ -39,28 +24,51 @@ Rectangle {
         onRejected: answer.text = "No: " + notification.longLabel + ", " + notification.value("step")
     }
 
-    Column {
-        anchors { left: parent.left; top: parent.top; margins: 24 }
-        width: 380
-        spacing: ControlsStyle.gap
+    RowLayout {
+        anchors { fill: parent; margins: ControlsStyle.margin }
+        spacing: ControlsStyle.margin
 
-        Choice { text: "Overwrite a file"; onClicked: questions.sendNotificationOverwriteRequest(page.report, { step: "save" }) }
-        Choice { text: "Delete two files"; onClicked: questions.sendNotificationDeleteRequest(page.report + "\n" + page.report, { step: "list" }) }
-        Choice { text: "The drive is full"; onClicked: messages.sendNotificationDriveFull("/mnt/usb") }
-        Choice { text: "A file cannot be read"; onClicked: messages.sendNotificationReadError(page.report) }
-        Choice { text: "A file of 10 petabytes"; onClicked: messages.checkDriveSpaceForFile(1e16, "/") }
-        Text {
-            id: answer
-            textFormat: Text.PlainText
-            width: parent.width
-            wrapMode: Text.Wrap
-            color: ControlsStyle.text
-            font.pixelSize: ControlsStyle.bodyText
+        ColumnLayout {
+            Layout.alignment: Qt.AlignTop
+            Layout.preferredWidth: 2
+            Layout.fillWidth: true
+            spacing: ControlsStyle.touchGap
+
+            TouchButton {
+                Layout.fillWidth: true
+                text: "Overwrite a file"
+                onClicked: questions.sendNotificationOverwriteRequest(page.report, { step: "save" })
+            }
+            TouchButton {
+                Layout.fillWidth: true
+                text: "Delete two files"
+                onClicked: questions.sendNotificationDeleteRequest(page.report + "\n" + page.report, { step: "list" })
+            }
+            TouchButton {
+                Layout.fillWidth: true
+                text: "The drive is full"
+                onClicked: messages.sendNotificationDriveFull("/mnt/usb")
+            }
+            TouchButton {
+                Layout.fillWidth: true
+                text: "A file cannot be read"
+                onClicked: messages.sendNotificationReadError(page.report)
+            }
+            TouchButton {
+                Layout.fillWidth: true
+                text: "A file of 10 petabytes"
+                onClicked: messages.checkDriveSpaceForFile(1e16, "/")
+            }
+            BodyText {
+                id: answer
+                Layout.fillWidth: true
+            }
         }
-    }
-    NotificationTray {
-        anchors { right: parent.right; top: parent.top; bottom: parent.bottom; margins: 24 }
-        width: 520
+        NotificationTray {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            Layout.preferredWidth: 3
+        }
     }
     NotificationDialog {}
 

@@ -18,7 +18,7 @@ contract    platform/contract/kiv           base
 schema      platform/contract/kiv/schema    contract base
 formatters  platform/reference/formatters   contract
 embedded    platform/reference/embedded     base contract formatters
-simulation  platform/reference/simulation   base contract formatters embedded
+simulation  platform/reference/simulation   base contract formatters embedded replay
 bus         platform/reference/bus          base contract formatters embedded
 replay      platform/reference/replay       base contract embedded
 

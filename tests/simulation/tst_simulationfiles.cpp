@@ -2,6 +2,7 @@
 #include "servicetexts.h"
 #include "simulatedservice.h"
 #include "simulation/csvcolumn_p.h"
+#include "simulation/recordedvalues_p.h"
 #include "simulation/simulation_p.h"
 
 #include <QJsonArray>
@@ -150,6 +151,50 @@ private Q_SLOTS:
         QCOMPARE(readCsvColumn(folder.filePath("odd.csv"), "level", false).values, (QVariantList {1., 2000.}));
         writeFile(folder.filePath("texts.csv"), "state,n\nidle,1\n\"very \"\"hot\"\"\",2\n,3\n");
         QCOMPARE(readCsvColumn(folder.filePath("texts.csv"), "state", true).values, (QVariantList {"idle", "very \"hot\"", ""}));
+    }
+
+    /// What an item was in a recording, in its time and as far as it goes, in items of every type.
+    void recordings()
+    {
+        QTemporaryDir folder;
+        const QString path = writeFile(folder.filePath("a.kivlog"), R"({"format":"kiv-recording","version":1}
+{"t":0,"service":"otdr","snapshot":1}
+{"t":50,"service":"otdr","id":":result:otdr:a:","type":"double","value":1.5}
+{"t":60,"service":"otdr","id":":result:otdr:b:","type":"std::string","value":"idle"}
+{"t":150,"service":"otdr","id":":result:otdr:a:","value":2.5}
+{"t":160,"service":"otdr","id":":result:otdr:a:","quality":"failing"}
+{"t":240,"service":"otdr","id":":result:otdr:a:","value":3.5}
+{"t":260,
+{"t":250,"service":"otdr","id":":result:otdr:a:","value":4.5}
+{"t":340,"service":"otdr","id":":result:otdr:a:","removed":true}
+{"t":460,"service":"otdr","id":":result:otdr:b:","value":"done"}
+{"t":470,)");
+        const auto moving = [&](const QString& type, const QString& more) {
+            return QString(R"({ "service": "s", "items": [ { "id": ":result:s:n:", "type": "%1", "moves":
+                    { "as": "recording", "every": 100, "file": "%2"%3 } } ] })").arg(type, path, more).toUtf8();
+        };
+        const auto shown = [](SimulatedService& s) {
+            QStringList values;
+            for (const int time : {0, 99, 100, 200, 300, 400, 500}) {
+                s.to(time);
+                values += s.value(":result:s:n:").isValid() ? s.value(":result:s:n:").toString() : QString("-");
+            }
+            return values.join(' ');
+        };
+        SimulatedService number(moving("double", ", \"item\": \":result:otdr:a:\""));
+        QCOMPARE(shown(number), QString("1.5 1.5 2.5 4.5 - - 1.5"));
+        QCOMPARE(number.notes.size(), 1);
+        QVERIFY2(number.notes.first().startsWith(path + ": ") && number.notes.first().endsWith(": 1"), qPrintable(number.notes.first()));
+        SimulatedService text(moving("std::string", ", \"item\": \":result:otdr:b:\", \"then\": \"stay\""));
+        QCOMPARE(shown(text), QString("idle idle idle idle idle done done"));
+        // Nothing of that id, or of that type.
+        SimulatedService other(moving("double", ""));
+        QCOMPARE(shown(other), QString("- - - - - - -"));
+        QVERIFY2(other.notes.value(0).contains("no value of :result:s:n:"), qPrintable(other.notes.value(0)));
+        SimulatedService unfit(moving("int", ", \"item\": \":result:otdr:b:\""));
+        QCOMPARE(shown(unfit), QString("- - - - - - -"));
+        const QString nowhere = readRecordedValues(folder.filePath("none"), "a", 100).problem;
+        QVERIFY2(nowhere.startsWith(folder.filePath("none")), qPrintable(nowhere));
     }
 
     /// The example of the documentation does what is said of it there.

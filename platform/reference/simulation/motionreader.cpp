@@ -1,6 +1,7 @@
 #include "motionreader_p.h"
 
 #include "csvcolumn_p.h"
+#include "recordedvalues_p.h"
 #include "simulationtexts_p.h"
 
 #include "embedded/itemtypes_p.h"
@@ -36,6 +37,7 @@ constexpr NamedKind kinds[] {
         {"sine", Motion::Sine, numbers, "noise from to period"},
         {"walk", Motion::Walk, numbers, "noise from to step"},
         {"file", Motion::List, cells, "noise from to file column then"},
+        {"recording", Motion::List, ~0U, "noise from to file item then"},
         {"steps", Motion::List, ~0U, "noise from to values then"},
 };
 
@@ -100,9 +102,25 @@ QString readValues(const ItemDescription& item, const QJsonArray& values, QVaria
     return QString();
 }
 
-void readFile(const ItemDescription& item, const QJsonObject& moves, const QDir& folder, MotionReading* reading)
+void readRecording(const ItemDescription& item, const QJsonObject& moves, const QString& path, MotionReading* reading)
 {
-    const QString path = folder.filePath(moves.value(QLatin1String("file")).toString());
+    const QString id = moves.value(QLatin1String("item")).toString(item.id);
+    const RecordedValues recorded = readRecordedValues(path, id, reading->motion.everyMs);
+    for (const QVariant& value : recorded.values) {
+        const auto converted = embedded::convertReported(reading->motion.type, item.members, value);
+        // What is of another type is no value of this item.
+        reading->motion.values += value.isValid() && converted.problem.isEmpty() ? converted.value : QVariant();
+    }
+    reading->hasValues = !reading->motion.values.isEmpty();
+    if (!recorded.problem.isEmpty())
+        reading->note = Texts::tr("%1 The item %2 stands still.").arg(recorded.problem, item.id);
+    else if (recorded.brokenLines > 0)
+        reading->note = Texts::tr("%1: lines that cannot be read are left out: %2")
+                                .arg(path, QString::number(recorded.brokenLines));
+}
+
+void readTable(const ItemDescription& item, const QJsonObject& moves, const QString& path, MotionReading* reading)
+{
     const bool isText = item.type == QLatin1String("std::string");
     CsvColumn column = readCsvColumn(path, moves.value(QLatin1String("column")).toString(), isText);
     const auto fits = [&item](const QVariant& value) { return notOfType(item, value).isEmpty(); };
@@ -150,8 +168,11 @@ MotionReading readMotion(const ItemDescription& item, const QJsonObject& moves, 
     }
     if (moves.contains(QLatin1String("values")))
         reading.problem = readValues(item, moves.value(QLatin1String("values")).toArray(), &reading.motion.values);
-    if (moves.contains(QLatin1String("file")))
-        readFile(item, moves, folder, &reading);
+    const QString path = folder.filePath(moves.value(QLatin1String("file")).toString());
+    if (moves.value(QLatin1String("as")) == QLatin1String("recording"))
+        readRecording(item, moves, path, &reading);
+    else if (moves.contains(QLatin1String("file")))
+        readTable(item, moves, path, &reading);
     return reading;
 }
 
