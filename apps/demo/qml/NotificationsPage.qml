@@ -11,6 +11,7 @@ KitPage {
 
     NotificationTray {
         objectName: "notificationTray"
+        titled: false
         Layout.fillWidth: true
         Layout.fillHeight: true
         activeFocusOnTab: true

@@ -10,6 +10,8 @@ FocusScope {
 
     /// Number of entries.
     readonly property int count: Notifications.count
+    /// Whether the tray has a heading. A page that is called so already needs none.
+    property bool titled: true
 
     implicitWidth: ControlsStyle.mm(90)
     implicitHeight: column.implicitHeight
@@ -31,6 +33,8 @@ FocusScope {
 
             HeadingText {
                 Layout.fillWidth: true
+                opacity: tray.titled ? 1 : 0
+                Accessible.ignored: !tray.titled
                 text: tray.count > 0 ? qsTr("Notifications (%1)").arg(tray.count) : qsTr("Notifications")
             }
             TouchButton {
