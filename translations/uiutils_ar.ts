@@ -940,10 +940,6 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         </translation>
     </message>
     <message>
-        <source>Recording to %1</source>
-        <translation>يُسجَّل في ⁦%1⁩</translation>
-    </message>
-    <message>
         <source>%1: %2 changes in %3 s</source>
         <translation>‏⁦%1⁩: %2 تغييرات خلال %3 ث</translation>
     </message>
@@ -1452,12 +1448,8 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <translation>فاتت أثناء الإيقاف: %L1</translation>
     </message>
     <message>
-        <source>End recording</source>
-        <translation>إنهاء التسجيل</translation>
-    </message>
-    <message>
-        <source>Record</source>
-        <translation>تسجيل</translation>
+        <source>Save as recording</source>
+        <translation>حفظ كتسجيل</translation>
     </message>
 </context>
 <context>

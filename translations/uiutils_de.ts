@@ -924,10 +924,6 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
         </translation>
     </message>
     <message>
-        <source>Recording to %1</source>
-        <translation>Wird aufgezeichnet in %1</translation>
-    </message>
-    <message>
         <source>%1: %2 changes in %3 s</source>
         <translation>%1: %2 Änderungen in %3&#xa0;s</translation>
     </message>
@@ -1432,12 +1428,8 @@ Exit-Status: 0 fertig, 1 fehlgeschlagen, 2 falsche Befehlszeile.</translation>
         <translation>in der Pause verpasst: %L1</translation>
     </message>
     <message>
-        <source>End recording</source>
-        <translation>Aufzeichnung beenden</translation>
-    </message>
-    <message>
-        <source>Record</source>
-        <translation>Aufzeichnen</translation>
+        <source>Save as recording</source>
+        <translation>Als Aufzeichnung speichern</translation>
     </message>
 </context>
 <context>

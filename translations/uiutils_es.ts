@@ -924,10 +924,6 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
         </translation>
     </message>
     <message>
-        <source>Recording to %1</source>
-        <translation>Grabando en %1</translation>
-    </message>
-    <message>
         <source>%1: %2 changes in %3 s</source>
         <translation>%1: %2 cambios en %3&#xa0;s</translation>
     </message>
@@ -1432,12 +1428,8 @@ Código de salida: 0 hecho, 1 ha fallado, 2 línea de órdenes incorrecta.</tran
         <translation>perdidos en pausa: %L1</translation>
     </message>
     <message>
-        <source>End recording</source>
-        <translation>Terminar grabación</translation>
-    </message>
-    <message>
-        <source>Record</source>
-        <translation>Grabar</translation>
+        <source>Save as recording</source>
+        <translation>Guardar como grabación</translation>
     </message>
 </context>
 <context>

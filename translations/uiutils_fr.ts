@@ -924,10 +924,6 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
         </translation>
     </message>
     <message>
-        <source>Recording to %1</source>
-        <translation>Enregistrement dans %1</translation>
-    </message>
-    <message>
         <source>%1: %2 changes in %3 s</source>
         <translation>%1&#xa0;: %2 changements en %3&#xa0;s</translation>
     </message>
@@ -1432,12 +1428,8 @@ Code de sortie&#xa0;: 0 terminé, 1 échec, 2 ligne de commande incorrecte.</tra
         <translation>manquées en pause : %L1</translation>
     </message>
     <message>
-        <source>End recording</source>
-        <translation>Arrêter</translation>
-    </message>
-    <message>
-        <source>Record</source>
-        <translation>Enregistrer</translation>
+        <source>Save as recording</source>
+        <translation>Enregistrer la session</translation>
     </message>
 </context>
 <context>

@@ -920,10 +920,6 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         </translation>
     </message>
     <message>
-        <source>Recording to %1</source>
-        <translation>%1 に記録中</translation>
-    </message>
-    <message>
         <source>%1: %2 changes in %3 s</source>
         <translation>%1: %3 秒間に %2 件の変更</translation>
     </message>
@@ -1427,12 +1423,8 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <translation>停止中の変更: %L1</translation>
     </message>
     <message>
-        <source>End recording</source>
-        <translation>記録を終了</translation>
-    </message>
-    <message>
-        <source>Record</source>
-        <translation>記録</translation>
+        <source>Save as recording</source>
+        <translation>記録として保存</translation>
     </message>
 </context>
 <context>

@@ -924,10 +924,6 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         </translation>
     </message>
     <message>
-        <source>Recording to %1</source>
-        <translation>[Ŕéçöŕđîñĝ ţö %1 ~ ~]</translation>
-    </message>
-    <message>
         <source>%1: %2 changes in %3 s</source>
         <translation>[%1: %2 çĥåñĝéš îñ %3 š ~ ~ ~ ~]</translation>
     </message>
@@ -1432,12 +1428,8 @@ Exit status: 0 done, 1 failed, 2 wrong command line.</source>
         <translation>[mîššéđ ŵĥîļé påûšéđ: %L1 ~ ~ ~ ~]</translation>
     </message>
     <message>
-        <source>End recording</source>
-        <translation>[Éñđ ŕéçöŕđîñĝ ~ ~]</translation>
-    </message>
-    <message>
-        <source>Record</source>
-        <translation>[Ŕéçöŕđ ~]</translation>
+        <source>Save as recording</source>
+        <translation>[Šåvé åš ŕéçöŕđîñĝ ~ ~ ~]</translation>
     </message>
 </context>
 <context>

@@ -30,35 +30,18 @@ ServiceRecording::~ServiceRecording() = default;
 
 void ServiceRecording::begin()
 {
-    if (m_recorder)
-        return;
-    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
-    m_path = QDir(m_folder).filePath(QStringLiteral("services-%1.kivlog").arg(time));
-    QString problem;
-    m_file = RecordingFile::create(m_path, RecordingFile::Plain, &problem);
-    if (!m_file)
-        return say(problem);
-    connect(m_file.get(), &RecordingFile::failed, this, &ServiceRecording::end, Qt::QueuedConnection);
-    m_recorder = std::make_unique<Recorder>([this](const QByteArray& line) { m_file->append(line); });
+    if (!m_recorder)
+        restart();
+}
+
+void ServiceRecording::restart()
+{
+    m_recorder.reset();
+    m_lines.clear();
+    m_recorder = std::make_unique<Recorder>([this](const QByteArray& line) { take(line); });
     const QStringList services = m_host->serviceNames();
     for (const QString& service : services)
         follow(service);
-    say(Texts::tr("Recording to %1").arg(m_path));
-}
-
-void ServiceRecording::end()
-{
-    if (!m_recorder)
-        return;
-    const Recorder::Counts counts = m_recorder->counts();
-    const double seconds = double(m_recorder->time()) / 1000;
-    m_recorder.reset();
-    const bool isWhole = m_file->close();
-    const QString problem = m_file->problem();
-    m_file.reset();
-    say(isWhole ? Texts::tr("%1: %2 changes in %3 s")
-                            .arg(m_path, QLocale().toString(counts.changes), QLocale().toString(seconds, 'f', 1))
-                : problem);
 }
 
 void ServiceRecording::follow(const QString& service)
@@ -68,10 +51,37 @@ void ServiceRecording::follow(const QString& service)
         m_recorder->follow(client);
 }
 
-void ServiceRecording::say(const QString& text)
+void ServiceRecording::take(const QByteArray& line)
 {
-    m_text = text;
-    Q_EMIT changed();
+    const bool wasFull = m_lines.size() > mostBytes;
+    m_lines += line;
+    // Not now: the recorder is in the middle of a line.
+    if (!wasFull && m_lines.size() > mostBytes)
+        QMetaObject::invokeMethod(this, &ServiceRecording::restart, Qt::QueuedConnection);
+}
+
+void ServiceRecording::save()
+{
+    m_text = saved();
+    Q_EMIT textChanged();
+}
+
+QString ServiceRecording::saved()
+{
+    begin();
+    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    const QString path = QDir(m_folder).filePath(QStringLiteral("services-%1.kivlog").arg(time));
+    QString problem;
+    const std::unique_ptr<RecordingFile> file = RecordingFile::create(path, RecordingFile::Plain, &problem);
+    if (!file)
+        return problem;
+    file->append(m_lines);
+    if (!file->close())
+        return file->problem();
+    const QLocale locale;
+    return Texts::tr("%1: %2 changes in %3 s")
+            .arg(path, locale.toString(m_recorder->counts().changes),
+                    locale.toString(double(m_recorder->time()) / 1000, 'f', 1));
 }
 
 QString recordingsFolder()

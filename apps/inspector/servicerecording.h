@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <QString>
 
@@ -7,8 +8,7 @@
 
 namespace kiv::replay {
 class Recorder;
-class RecordingFile;
-} // namespace kiv::replay
+}
 
 namespace uiutils {
 class Host;
@@ -16,39 +16,42 @@ class Host;
 
 namespace uiutils::inspector {
 
-/// Records all services of a host into a file, from the moment when the user wants it.
+/// Records all services of a host in memory, so that what has happened can be saved when the user finds it worth
+/// saving.
 class ServiceRecording : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(bool running READ isRunning NOTIFY changed)
-    /// Where the recording goes, what became of the last one, or why there is none; empty before the first.
-    Q_PROPERTY(QString text READ text NOTIFY changed)
+    /// Where the last recording was saved, or why it was not; empty before the first.
+    Q_PROPERTY(QString text READ text NOTIFY textChanged)
 
 public:
+    /// Bytes that are kept in memory. A recording that grows beyond them begins anew, with all items as they are then.
+    static constexpr int mostBytes = 32 * 1024 * 1024;
+
     /// Files are made in the folder, with the time in their names. The host must outlive the object.
     ServiceRecording(Host* host, const QString& folder, QObject* parent = nullptr);
-    /// Ends the recording.
     ~ServiceRecording() override;
 
-    bool isRunning() const { return m_recorder != nullptr; }
     QString text() const { return m_text; }
 
-    /// Begins with all items as they are now. Does nothing while a recording runs.
+    /// Begins with all items as they are now. Does nothing when it has begun already.
     Q_INVOKABLE void begin();
-    Q_INVOKABLE void end();
+    /// Writes what was recorded so far into a new file, and goes on.
+    Q_INVOKABLE void save();
 
 Q_SIGNALS:
-    void changed();
+    void textChanged();
 
 private:
+    void restart();
     void follow(const QString& service);
-    void say(const QString& text);
+    void take(const QByteArray& line);
+    QString saved();
 
     Host* const m_host;
     const QString m_folder;
-    QString m_path;
     QString m_text;
-    std::unique_ptr<kiv::replay::RecordingFile> m_file;
+    QByteArray m_lines;
     std::unique_ptr<kiv::replay::Recorder> m_recorder;
 };
 

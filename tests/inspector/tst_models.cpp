@@ -2,6 +2,7 @@
 
 #include "inspector/changefollower.h"
 #include "inspector/changelog.h"
+#include "inspector/servicerecording.h"
 #include "inspector/favourites.h"
 #include "inspector/inspectedservice.h"
 #include "inspector/itemglance.h"
@@ -239,6 +240,27 @@ private Q_SLOTS:
         QCOMPARE(log.fallen(), 26.0);
         log.clear();
         QCOMPARE(log.count() + int(log.fallen()), 0);
+    }
+
+    /// However much happens, the memory has a limit, and what is saved begins with everything as it was.
+    void aRecordingBeginsAnew()
+    {
+        ServiceRecording recording(&m_stand->host, m_stand->path("root"));
+        recording.begin();
+        for (int i = 0; i < 100; ++i) {
+            QVERIFY(m_stand->meter->setValue(":result:meter:trace:doubleARRAY:", QVariantList::fromVector(QVector<QVariant>(100'000, 100.5 + i))));
+            QCoreApplication::processEvents();
+        }
+        recording.save();
+        const QString path = recording.text().section(": ", 0, 0);
+        const QByteArray lines = contentsOf(path);
+        QVERIFY2(lines.size() < ServiceRecording::mostBytes && lines.contains("199.5") && !lines.contains("100.5"), qPrintable(recording.text()));
+        for (const char* service : {"com.example.meter", "clock"})
+            QVERIFY(lines.contains(QByteArray("\"service\":\"") + service + "\",\"snapshot\""));
+        // Never over another one.
+        recording.save();
+        QVERIFY(recording.text().contains("exists") || recording.text() != path);
+        QCOMPARE(contentsOf(path).size(), lines.size());
     }
 
     void aPausedLogStays()

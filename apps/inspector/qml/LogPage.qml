@@ -12,6 +12,8 @@ ColumnLayout {
     signal chosen(string id)
 
     spacing: ControlsStyle.touchGap
+    // Who never looks at changes pays for no recording.
+    Component.onCompleted: recording.begin()
 
     RowLayout {
         Layout.fillWidth: true
@@ -34,9 +36,9 @@ ColumnLayout {
         }
         TouchButton {
             objectName: "recordButton"
-            iconName: page.recording.running ? "stop" : "save"
-            text: page.recording.running ? qsTr("End recording") : qsTr("Record")
-            onClicked: page.recording.running ? page.recording.end() : page.recording.begin()
+            iconName: "save"
+            text: qsTr("Save as recording")
+            onClicked: page.recording.save()
         }
         Item { Layout.fillWidth: true }
     }
