@@ -53,7 +53,7 @@ void PageReload::reload()
     auto page = std::make_unique<Page>(m_makeEngine(), m_page);
     m_pageProblem = page->error();
     if (page->root()) {
-        // Its engine ends with the page before.
+        // It may stand in a window that ends with the page before.
         m_errors.hide();
         m_window->show(std::move(page));
     } else {
