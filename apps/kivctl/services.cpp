@@ -1,7 +1,8 @@
 #include "services.h"
 
+#include "common/nearest.h"
 #include "common/startup.h"
-#include "nearest.h"
+
 #include "output.h"
 #include "texts.h"
 
@@ -13,6 +14,7 @@
 namespace uiutils::kivctl {
 
 using apps::exitFailed;
+using apps::nearest;
 using kiv::bus::BusBackend;
 using kiv::embedded::EmbeddedBackend;
 

@@ -54,6 +54,8 @@ preview     qml/UiUtils/Preview             LIBRARY base contract
 kit         qml/UiUtils/Controls            -
 liveplot    qml/UiUtils/Plot                base contract core languages document service plots
 common      apps/common                     LIBRARY base contract embedded bus host
+names       apps/names                      LIBRARY contract
+check       apps/check                      LIBRARY base contract embedded simulation common names
 audit       apps/audit                      -
 inspector   apps/inspector                  LIBRARY base contract embedded replay host
 kivd        apps/kivd                       base contract embedded bus common

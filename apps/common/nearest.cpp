@@ -1,4 +1,4 @@
-#include "nearest.h"
+#include "common/nearest.h"
 
 #include <QVector>
 
@@ -6,7 +6,7 @@
 #include <numeric>
 #include <utility>
 
-namespace uiutils::kivctl {
+namespace uiutils::apps {
 
 namespace {
 
@@ -69,4 +69,4 @@ QStringList nearest(const QString& wanted, const QStringList& known)
     return ids;
 }
 
-} // namespace uiutils::kivctl
+} // namespace uiutils::apps
