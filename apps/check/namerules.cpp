@@ -30,12 +30,6 @@ QString unknownChoice(const names::ItemFacts& item, const QString& name)
             .arg(item.contextName(), name, enumeration(known));
 }
 
-bool hasChoice(const names::ItemFacts& item, const QString& name)
-{
-    return std::any_of(item.choices.cbegin(), item.choices.cend(),
-            [&name](const names::Choice& choice) { return choice.name == name; });
-}
-
 QString unknownService(const QString& name, const QStringList& known)
 {
     const QString proposed = proposal(name, known);
@@ -123,14 +117,13 @@ void NameRules::judgeMember(const Meaning& base, FieldMemberExpression* field)
     const QQmlJS::SourceLocation place = field->identifierToken;
     if (base.kind == Meaning::Item && memberOf(*base.item, name).kind == Member::None)
         report(place, unknownMember(*base.item, name), base.item->id);
-    else if (base.kind == Meaning::Choices && !hasChoice(*base.item, name)
-            && memberOfService(name).kind == Member::None)
+    else if (base.kind == Meaning::Choices && !choiceOf(*base.item, name) && memberOfService(name).kind == Member::None)
         report(place, unknownChoice(*base.item, name), base.item->id);
     else if (base.kind == Meaning::Service && memberOfService(name).kind == Member::None)
         report(place,
                 QStringLiteral("A service has no \"%1\".%2")
                         .arg(name, QLatin1String(" It has ") + enumeration(membersOfServices()) + QLatin1Char('.')));
-    else if (base.kind == Meaning::Singleton && !m_scope.items.item(base.member, name))
+    else if (base.kind == Meaning::Singleton && !m_scope.items.hasMember(base.member, name))
         report(place,
                 QStringLiteral("The service \"%1\" has no item %2.%3")
                         .arg(base.member, name, proposal(name, m_scope.items.memberNames(base.member))));

@@ -17,7 +17,8 @@ const QLatin1String categories[] = {QLatin1String("_cfg_"), QLatin1String("_res_
 QString moduleName(const QString& tag)
 {
     QString name;
-    const QStringList words = tag.split(QLatin1Char('_'), Qt::SkipEmptyParts);
+    const QStringList words
+            = QString(tag).replace(QLatin1Char('-'), QLatin1Char('_')).split(QLatin1Char('_'), Qt::SkipEmptyParts);
     for (const QString& word : words)
         name += word.at(0).toUpper() + word.mid(1);
     return name;
@@ -81,6 +82,8 @@ PageItems::PageItems(const QVector<names::ItemFacts>& items)
     for (int i = 0; i < m_items.size(); ++i) {
         const names::ItemFacts& item = m_items.at(i);
         m_services.insert(item.service);
+        if (item.id.endsWith(QLatin1String(":manifest:")))
+            m_batchServices.insert(item.service);
         m_tags.insert(item.tag);
         m_modules.insert(moduleName(item.tag), item.tag);
         if (item.memberName.isEmpty())
@@ -99,6 +102,24 @@ const names::ItemFacts* PageItems::item(const QString& contextName) const
 const names::ItemFacts* PageItems::item(const QString& tag, const QString& memberName) const
 {
     return item(tag + QLatin1Char('_') + memberName);
+}
+
+bool PageItems::hasMember(const QString& tag, const QString& name) const
+{
+    if (name == QLatin1String("service") || item(tag, name) || isOfEveryObject(name))
+        return true;
+    const QStringList known = memberNames(tag);
+    return std::any_of(known.cbegin(), known.cend(), [&](const QString& member) {
+        const names::ItemFacts& facts = *item(tag, member);
+        return name.startsWith(member + QLatin1Char('_')) && choiceOf(facts, name.mid(member.size() + 1));
+    });
+}
+
+const names::Choice* choiceOf(const names::ItemFacts& item, const QString& name)
+{
+    const auto found = std::find_if(item.choices.cbegin(), item.choices.cend(),
+            [&name](const names::Choice& choice) { return choice.name == name; });
+    return found == item.choices.cend() ? nullptr : &*found;
 }
 
 QString tagInName(const QString& name)

@@ -37,7 +37,11 @@ public:
     const names::ItemFacts* item(const QString& contextName) const;
     /// The item of a service by the tag of the service and, for example, "cfg_mode"; null for none.
     const names::ItemFacts* item(const QString& tag, const QString& memberName) const;
+    /// Whether the module of a service has the name: an item, the value of a choice, or the service itself.
+    bool hasMember(const QString& tag, const QString& name) const;
     bool hasTag(const QString& tag) const { return m_tags.contains(tag); }
+    /// Whether the service takes several settings in one batch.
+    bool takesBatches(const QString& service) const { return m_batchServices.contains(service); }
     bool hasService(const QString& name) const { return m_services.contains(name); }
     /// The tag whose module has that name: "WorkflowManager" for "workflow_manager". Empty for none.
     QString tagOfModule(const QString& moduleName) const { return m_modules.value(moduleName); }
@@ -57,7 +61,11 @@ private:
     QHash<QString, QString> m_modules;
     QSet<QString> m_tags;
     QSet<QString> m_services;
+    QSet<QString> m_batchServices;
 };
+
+/// The choice with a name; null for none.
+const names::Choice* choiceOf(const names::ItemFacts& item, const QString& name);
 
 /// The service's tag in a name of the form TAG_cfg_NAME, TAG_res_NAME or TAG_act_NAME; empty for another form.
 QString tagInName(const QString& name);

@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace uiutils::check {
 
 using namespace QQmlJS::AST;
@@ -69,6 +71,22 @@ private:
 QString inFolder(const QString& folder, const QString& name)
 {
     return QDir::isAbsolutePath(name) ? name : QDir::cleanPath(folder + QLatin1Char('/') + name);
+}
+
+/// Whether one character too many, too few or wrong, or two that changed places, make one name of the other.
+bool isSlip(const QString& a, const QString& b)
+{
+    int begin = 0;
+    while (begin < a.size() && begin < b.size() && a.at(begin) == b.at(begin))
+        ++begin;
+    int end = 0;
+    while (end < a.size() - begin && end < b.size() - begin && a.at(a.size() - 1 - end) == b.at(b.size() - 1 - end))
+        ++end;
+    const QString fromA = a.mid(begin, a.size() - begin - end);
+    const QString fromB = b.mid(begin, b.size() - begin - end);
+    const bool areSwapped
+            = fromA.size() == 2 && fromB.size() == 2 && fromA.at(0) == fromB.at(1) && fromA.at(1) == fromB.at(0);
+    return (fromA.size() <= 1 && fromB.size() <= 1) || areSwapped;
 }
 
 QString versionOf(const UiImport& import)
@@ -162,15 +180,16 @@ void PageSet::readModule(const PageFile& file, const UiImport& import, FileImpor
 
 void PageSet::reportModule(const PageFile& file, const UiImport& import, const QString& name)
 {
-    const QString proposed = proposal(name, m_modules.names());
-    Finding finding = file.at(import.importUri->identifierToken,
-            QStringLiteral("The module %1 was not found.%2")
-                    .arg(name,
-                            proposed.isEmpty()
-                                    ? QStringLiteral(" Name the folder above it with --import, or install it. A module "
-                                                     "that the program itself brings along cannot be found here.")
-                                    : proposed));
-    if (proposed.isEmpty())
+    const QStringList& known = m_modules.names();
+    const bool isMistake
+            = std::any_of(known.cbegin(), known.cend(), [&name](const QString& other) { return isSlip(name, other); });
+    const QString advice = isMistake
+            ? proposal(name, known)
+            : QStringLiteral(" Name the folder above it with --import, or install it. A module that the program itself "
+                             "brings along cannot be found here.");
+    Finding finding = file.at(
+            import.importUri->identifierToken, QStringLiteral("The module %1 was not found.%2").arg(name, advice));
+    if (!isMistake)
         finding.weight = Finding::Warning;
     m_findings->append(finding);
 }

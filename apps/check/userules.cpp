@@ -192,8 +192,27 @@ void UseRules::judgeOrder(ExpressionNode* compared)
                 *meaning.item);
 }
 
+/// A service without the item that stands for itself takes no batch.
+void UseRules::judgeTransaction(FieldMemberExpression* called)
+{
+    const bool isTransaction = called
+            && (called->name == QLatin1String("startChanges") || called->name == QLatin1String("applyChanges"));
+    const Meaning service = isTransaction ? m_scope.meaningOf(called->base) : Meaning();
+    const bool isKnown = service.kind == Meaning::Service && m_scope.items.hasService(service.member);
+    if (!isKnown || m_scope.items.takesBatches(service.member))
+        return;
+    Finding finding = m_scope.file.at(called->identifierToken,
+            QStringLiteral(
+                    "The service \"%1\" takes no changes together, because it has no item \":result:%1:manifest:\". "
+                    "Add one to its file, or write the settings one by one.")
+                    .arg(service.member));
+    finding.weight = Finding::Warning;
+    m_findings->append(finding);
+}
+
 bool UseRules::visit(CallExpression* call)
 {
+    judgeTransaction(cast<FieldMemberExpression*>(call->base));
     const Meaning meaning = m_scope.meaningOf(call->base);
     if (meaning.kind != Meaning::OfItem)
         return true;

@@ -32,6 +32,7 @@ private:
     void judgeValue(const names::ItemFacts& item, QQmlJS::AST::ExpressionNode* value);
     void judgeComparison(QQmlJS::AST::ExpressionNode* compared, QQmlJS::AST::ExpressionNode* other);
     void judgeOrder(QQmlJS::AST::ExpressionNode* compared);
+    void judgeTransaction(QQmlJS::AST::FieldMemberExpression* called);
     void report(QQmlJS::AST::Node* node, const QString& message, const names::ItemFacts& item,
             Finding::Weight weight = Finding::Error);
 
