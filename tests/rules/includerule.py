@@ -57,6 +57,7 @@ common      apps/common                     LIBRARY base contract embedded bus h
 names       apps/names                      LIBRARY contract
 check       apps/check                      LIBRARY base contract formatters embedded simulation common names
 checktool   apps/uiutils-check              check common names
+modules     apps/modules                    base names
 audit       apps/audit                      -
 inspector   apps/inspector                  LIBRARY base contract embedded replay host
 kivd        apps/kivd                       base contract embedded bus common
@@ -65,6 +66,7 @@ viewer      apps/pdf_viewer                 base common
 demo        apps/demo                       LIBRARY base contract embedded replay common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
 qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common audit host inspector
+describe    apps/uiutils-describe           LIBRARY base contract embedded bus common host names modules
 inspecttool apps/uiutils-inspector          LIBRARY base contract embedded replay common host inspector
 expage      examples/page                   host
 exform      examples/form                   LIBRARY contract host
