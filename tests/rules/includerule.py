@@ -16,7 +16,7 @@ ROOMS = """
 base        base                            -
 contract    platform/contract/kiv           base
 schema      platform/contract/kiv/schema    contract base
-formatters  platform/reference/formatters   contract
+formatters  platform/reference/formatters   base contract
 embedded    platform/reference/embedded     base contract formatters
 simulation  platform/reference/simulation   base contract formatters embedded replay
 bus         platform/reference/bus          base contract formatters embedded
