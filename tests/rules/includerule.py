@@ -49,9 +49,10 @@ host        lib/ui_host                     base contract core languages service
 hostbus     lib/ui_host/bus                 base contract embedded bus host
 paper       lib/ui_paper                    core pages
 
+scene       qml/scene                       -
 plugin      qml/UiUtils                     LIBRARY base contract
-preview     qml/UiUtils/Preview             LIBRARY base contract
-kit         qml/UiUtils/Controls            -
+preview     qml/UiUtils/Preview             LIBRARY base contract scene
+kit         qml/UiUtils/Controls            scene
 liveplot    qml/UiUtils/Plot                base contract core languages document service plots
 common      apps/common                     LIBRARY base contract embedded bus host
 names       apps/names                      LIBRARY contract
@@ -62,7 +63,7 @@ audit       apps/audit                      -
 inspector   apps/inspector                  LIBRARY base contract embedded replay host
 kivd        apps/kivd                       base contract embedded bus common
 kivctl      apps/kivctl                     base contract embedded bus replay common host
-viewer      apps/pdf_viewer                 base common
+viewer      apps/pdf_viewer                 base common scene
 demo        apps/demo                       LIBRARY base contract embedded replay common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
 qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common audit host inspector
