@@ -72,8 +72,10 @@ Outcome BusClient::gone() const
 /// A slot that heard of what was done may have deleted the client.
 bool BusClient::remember(const QPointer<BusClient>& client, const Outcome& outcome)
 {
-    if (client)
+    if (client) {
         client->m_lastError = outcome.isDone ? QString() : outcome.text;
+        client->m_rejected = outcome.rejected;
+    }
     return outcome.isDone;
 }
 

@@ -78,8 +78,10 @@ Outcome EmbeddedClient::call(int delayMs, int timeoutMs, const Request& request)
 /// A slot that heard of the change may have deleted the client.
 bool EmbeddedClient::remember(const QPointer<EmbeddedClient>& client, const Outcome& outcome)
 {
-    if (client)
+    if (client) {
         client->m_lastError = outcome.isDone ? QString() : outcome.text;
+        client->m_rejected = outcome.rejected;
+    }
     return outcome.isDone;
 }
 
