@@ -1,0 +1,237 @@
+#!/usr/bin/env python3
+"""Does what docs/tutorial.md says, and looks at what comes out: the code of the page is that of the files of its steps,
+and all that a reader has to type; the commands print what the page says; somebody who uses the page of a step finds it
+as the tutorial describes it. Usage: tutorial.py TREE BUILD WORK [--pictures]. With --pictures it takes those of the page
+anew, into docs/images."""
+
+import collections
+import glob
+import os
+import re
+import shutil
+import subprocess
+import sys
+
+HANDS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "tutorial")
+SCREEN = "--screen 800x480@133 --language en"
+LANGUAGES = {"json", "qml", "cpp", "cmake"}
+# What a reader does not type but makes by commands.
+MADE = ("*.kivlog", "golden")
+# The log may have these lines, or not: the settings of a report are read when the page has been there for a moment, and
+# Qt remarks that two engines know of the same items.
+REMARKS = re.compile(r"^(Could not open /cust/private/lastconfigs/\S+ for reading|QQmlEngine::setContextForObject\(\): .*)\n", re.M)
+
+
+class Step:
+    """A section of the page, and the folder with its files."""
+
+    def __init__(self, tree, number, text):
+        self.number = number
+        folders = glob.glob(os.path.join(tree, "docs/examples/tutorial", f"{number}-*"))
+        self.folder = folders[0] if folders else None
+        self.blocks = []
+        name = None
+        for part in re.split(r"(^```.*?^```$)", text, flags=re.M | re.S):
+            fence = re.fullmatch(r"```(\w*)\n(.*?)```", part, re.S)
+            if fence:
+                self.blocks.append((fence.group(1), name, fence.group(2)))
+            for name in re.findall(r"`(\w[\w.]*\.\w+|CMakeLists\.txt)`", "" if fence else part):
+                pass
+
+    def files(self):
+        names = sorted(os.listdir(self.folder)) if self.folder else []
+        return {name: read(os.path.join(self.folder, name)) for name in names
+                if os.path.isfile(os.path.join(self.folder, name)) and not name.endswith(".kivlog")}
+
+
+def read(path):
+    with open(path, encoding="utf-8") as file:
+        return file.read()
+
+
+def steps_of(tree):
+    parts = re.split(r"^## (\d+)\. .*$", read(os.path.join(tree, "docs/tutorial.md")), flags=re.M)
+    return [Step(tree, int(number), text) for number, text in zip(parts[1::2], parts[2::2])]
+
+
+def lines_of(text):
+    return [line.strip() for line in text.split("\n") if line.strip()]
+
+
+# --- The page and the files ---
+
+def check_pieces(step, before):
+    """Every block of code is a piece of its file."""
+    files = step.files()
+    for language, name, code in step.blocks:
+        if language not in LANGUAGES:
+            continue
+        if name not in files:
+            yield f"step {step.number}: there is no {name}"
+        elif code not in files[name]:
+            yield f"step {step.number}: {name} has no piece\n{code}"
+
+
+def check_typed(step, before):
+    """Who types the blocks has the files: each line that is new is shown, each that went has become one that is shown."""
+    old = before.files() if before else {}
+    for name, text in step.files().items():
+        shown = lines_of("".join(code for language, of, code in step.blocks if of == name and language in LANGUAGES))
+        was, now = (collections.Counter(lines_of(part)) for part in (old.get(name, ""), text))
+        for line in now - was:
+            if line not in shown:
+                yield f"step {step.number}: nobody is told to type into {name}: {line}"
+        for line in was - now:
+            if not any(other.startswith(re.split(r"[ \]},;]*$|: \w", line)[0]) for other in shown):
+                yield f"step {step.number}: nobody is told to remove from {name}: {line}"
+
+
+def check_length(steps, page):
+    """Fifteen minutes: 200 words a minute are read, and 300 characters a minute are typed."""
+    prose = re.sub(r"```.*?```", "", page, flags=re.S)
+    typed = sum(len(line.strip()) for step in steps for language, _, code in step.blocks for line in code.split("\n")
+                if language in LANGUAGES | {"sh"})
+    words = len(prose.split())
+    minutes = words / 200 + typed / 300
+    print(f"{words} words, {typed} characters to type: {minutes:.1f} minutes")
+    if minutes > 15:
+        yield f"the tutorial takes {minutes:.1f} minutes"
+
+
+# --- The commands ---
+
+class Desk:
+    """A copy of a step's files, with or without those that commands make, and the programs."""
+
+    def __init__(self, build, work, step, has_made=True):
+        self.step = step
+        self.folder = os.path.join(work, f"step {step.number}" + ("" if has_made else " anew"))
+        shutil.rmtree(self.folder, ignore_errors=True)
+        shutil.copytree(step.folder, self.folder, ignore=None if has_made else shutil.ignore_patterns(*MADE))
+        here = {"KIV_PLATFORM": "embedded", "KIV_SERVICES": self.folder, "UIUTILS_ROOT": os.path.join(self.folder, "root"),
+                "PATH": os.path.join(build, "bin") + os.pathsep + os.environ["PATH"]}
+        self.environment = {**os.environ, **here}
+
+    def run(self, command):
+        done = subprocess.run(["bash", "-ec", command], cwd=self.folder, env=self.environment, text=True,
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=300)
+        return done.returncode, REMARKS.sub("", done.stdout)
+
+    def use(self, hand):
+        """What one of the pages in tests/docs/tutorial prints, which uses the page of the step."""
+        for name in (hand, "Hand.qml"):
+            shutil.copy(os.path.join(HANDS, name), self.folder)
+        shutil.rmtree(os.path.join(self.folder, "root"), ignore_errors=True)
+        return self.run(f"uiutils-qml {hand} {SCREEN} --grab used.png")[1]
+
+
+def ended(command):
+    """The command, with an end where it would show a window until somebody closes it."""
+    shows = command.startswith("uiutils-qml ") and not re.search(r"--(list|check|audit|grab|grab-at)\b", command)
+    return command + " --grab shown.png" if shows else re.sub(r"--duration \d+", "--duration 1", command)
+
+
+def check_commands(step, desks):
+    """The commands of a step print what follows them: on a desk where nothing has been made before, and, those that make
+    nothing, with the files of the step."""
+    anew, desk = desks
+    blocks = step.blocks + [("end", None, "")]
+    for (language, _, code), (then, _, output) in zip(blocks, blocks[1:]):
+        if language != "sh":
+            continue
+        commands = "".join(ended(line) + "\n" for line in code.rstrip("\n").split("\n"))
+        for place in [anew] if re.search(r" record | --update", code) else [anew, desk]:
+            yield from check_output(place, commands, output if then == "" else "")
+
+
+def check_output(desk, commands, expected):
+    status, printed = desk.run(commands)
+    pattern = "".join(".*" if part == "…" else re.escape(part) for part in re.split("(…)", expected))
+    if not re.fullmatch(pattern, printed):
+        yield f"step {desk.step.number}: {commands}prints\n{printed}and not\n{expected}"
+    if status:
+        yield f"step {desk.step.number}: {commands}ends with {status}"
+
+
+# --- The pages ---
+
+# What somebody sees who looks at the page of a step, and what comes of using it: step, hand, lines.
+USES = [
+    (2, "look.qml", ["Cable test", "Loss", "2.50 dB"]),
+    (3, "look.qml", ["Cable test", "Loss", "2.50 dB", "Set-up", "Site", "Harbour", "1 - 20 chars", "Length", "40.0", "m",
+                     "1.0 - 300.0 m"]),
+    (3, "form.qml", ["1.0 - 300.0 m|40.0 m", "|60.0 m"]),
+    (4, "changes.qml", ["Harbour|40.0 m", "Mill|60.0 m", "60"]),
+    (5, "report.qml", ["Saved: one.pdf", "Saved: one.html"]),
+]
+
+
+def check_uses(desk):
+    for step, hand, lines in USES:
+        if step == desk.step.number:
+            printed = desk.use(hand).replace("qml: ", "").rstrip("\n").split("\n")
+            if printed != lines:
+                yield f"step {step}: {hand} prints {printed}, not {lines}"
+
+
+def check_audit(desk):
+    """The page can be touched and read."""
+    if "CablePage.qml" in desk.step.files():
+        status, printed = desk.run(f"uiutils-qml CablePage.qml {SCREEN} --audit")
+        if status or printed:
+            yield f"step {desk.step.number}: the audit says {printed}"
+
+
+def check_report(desk):
+    """The report that was saved has the values of the page."""
+    if desk.step.number != 5:
+        return
+    folder = os.path.join(desk.folder, "root/cust/public/reports/cable")
+    names = sorted(os.listdir(folder)) if os.path.isdir(folder) else []
+    if names != ["one.html", "one.pdf"]:
+        yield f"step 5: the reports are {names}"
+        return
+    pages = subprocess.run(["pdftotext", "-layout", os.path.join(folder, "one.pdf"), "-"], capture_output=True, text=True).stdout
+    for text in ("Cable test, Harbour", "Length", "40.0 m", "Loss", "2.50 dB"):
+        for name, content in (("one.pdf", pages), ("one.html", read(os.path.join(folder, "one.html")))):
+            if text not in content:
+                yield f"step 5: {name} lacks {text}"
+
+
+def check_step(tree, build, work, before, step):
+    if not step.folder:
+        return [f"step {step.number} has no folder"]
+    found = [line for check in (check_pieces, check_typed) for line in check(step, before)]
+    # What a page does is of no interest while it is not the one of the tutorial.
+    if found:
+        return found
+    desk = Desk(build, work, step)
+    found += check_commands(step, (Desk(build, work, step, has_made=False), desk))
+    for check in (check_uses, check_audit, check_report):
+        found += check(desk)
+    return found
+
+
+def take_pictures(tree, build, work):
+    images = os.path.join(tree, "docs/images")
+    desks = {step.number: Desk(build, work, step) for step in steps_of(tree) if step.folder}
+    desks[3].use("toolong.qml")
+    shutil.copy(os.path.join(desks[3].folder, "used.png"), os.path.join(images, "tutorial-form.png"))
+    desks[5].use("report.qml")
+    desks[5].run(f"pdftoppm -r 60 -H 250 -singlefile -png root/cust/public/reports/cable/one.pdf {images}/tutorial-report")
+    desks[7].run(f"uiutils-qml CablePage.qml {SCREEN} --replay session.kivlog --grab-at 11 --expect taken --update --pictures")
+    shutil.copy(os.path.join(desks[7].folder, "taken/CablePage@11s.png"), os.path.join(images, "tutorial-gone.png"))
+
+
+def main(tree, build, work):
+    steps = steps_of(tree)
+    found = list(check_length(steps, read(os.path.join(tree, "docs/tutorial.md"))))
+    for before, step in zip([None] + steps, steps):
+        found += check_step(tree, build, work, before, step)
+    print("\n".join(found) or f"{len(steps)} steps")
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    paths = [os.path.abspath(argument) for argument in sys.argv[1:4]]
+    sys.exit(take_pictures(*paths) if "--pictures" in sys.argv else main(*paths))
