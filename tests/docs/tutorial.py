@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Does what docs/tutorial.md says, and looks at what comes out: the code of the page is that of the files of its steps,
 and all that a reader has to type; the commands print what the page says; somebody who uses the page of a step finds it
-as the tutorial describes it. Usage: tutorial.py TREE BUILD WORK [--pictures]. With --pictures it takes those of the page
-anew, into docs/images."""
+as the tutorial describes it. Usage: tutorial.py CMAKE TREE BUILD WORK
+FLAGS [--pictures]. The programs are those of an installation, which is made in WORK. With --pictures it takes the
+pictures of the page anew, into docs/images."""
 
 import collections
 import glob
@@ -103,13 +104,14 @@ def check_length(steps, page):
 class Desk:
     """A copy of a step's files, with or without those that commands make, and the programs."""
 
-    def __init__(self, build, work, step, has_made=True):
+    def __init__(self, prefix, work, step, has_made=True):
         self.step = step
         self.folder = os.path.join(work, f"step {step.number}" + ("" if has_made else " anew"))
         shutil.rmtree(self.folder, ignore_errors=True)
         shutil.copytree(step.folder, self.folder, ignore=None if has_made else shutil.ignore_patterns(*MADE))
         here = {"KIV_PLATFORM": "embedded", "KIV_SERVICES": self.folder, "UIUTILS_ROOT": os.path.join(self.folder, "root"),
-                "PATH": os.path.join(build, "bin") + os.pathsep + os.environ["PATH"]}
+                "PATH": os.path.join(prefix, "bin") + os.pathsep + os.environ["PATH"], "CMAKE_PREFIX_PATH": prefix,
+                "CMAKE_GENERATOR": "Ninja"}
         self.environment = {**os.environ, **here}
 
     def run(self, command):
@@ -198,23 +200,32 @@ def check_report(desk):
                 yield f"step 5: {name} lacks {text}"
 
 
-def check_step(tree, build, work, before, step):
+def check_step(prefix, work, before, step):
     if not step.folder:
         return [f"step {step.number} has no folder"]
     found = [line for check in (check_pieces, check_typed) for line in check(step, before)]
     # What a page does is of no interest while it is not the one of the tutorial.
     if found:
         return found
-    desk = Desk(build, work, step)
-    found += check_commands(step, (Desk(build, work, step, has_made=False), desk))
+    desk = Desk(prefix, work, step)
+    found += check_commands(step, (Desk(prefix, work, step, has_made=False), desk))
     for check in (check_uses, check_audit, check_report):
         found += check(desk)
     return found
 
 
-def take_pictures(tree, build, work):
+def check(tree, prefix, work, numbers=()):
+    """What is wrong with the tutorial of a tree; with numbers, with these steps."""
+    steps = steps_of(tree)
+    yield from check_length(steps, read(os.path.join(tree, "docs/tutorial.md")))
+    for before, step in zip([None] + steps, steps):
+        if not numbers or step.number in numbers:
+            yield from check_step(prefix, work, before, step)
+
+
+def take_pictures(tree, prefix, work):
     images = os.path.join(tree, "docs/images")
-    desks = {step.number: Desk(build, work, step) for step in steps_of(tree) if step.folder}
+    desks = {step.number: Desk(prefix, work, step) for step in steps_of(tree) if step.folder}
     desks[3].use("toolong.qml")
     shutil.copy(os.path.join(desks[3].folder, "used.png"), os.path.join(images, "tutorial-form.png"))
     desks[5].use("report.qml")
@@ -223,15 +234,24 @@ def take_pictures(tree, build, work):
     shutil.copy(os.path.join(desks[7].folder, "taken/CablePage@11s.png"), os.path.join(images, "tutorial-gone.png"))
 
 
-def main(tree, build, work):
-    steps = steps_of(tree)
-    found = list(check_length(steps, read(os.path.join(tree, "docs/tutorial.md"))))
-    for before, step in zip([None] + steps, steps):
-        found += check_step(tree, build, work, before, step)
-    print("\n".join(found) or f"{len(steps)} steps")
+def install(cmake, build, work):
+    prefix = os.path.join(work, "installed")
+    shutil.rmtree(prefix, ignore_errors=True)
+    subprocess.run([cmake, "--install", build, "--prefix", prefix], check=True, stdout=subprocess.DEVNULL)
+    return prefix
+
+
+def main(cmake, tree, build, work, flags, *pictures):
+    os.environ["CXXFLAGS"] = flags
+    tree, work = os.path.abspath(tree), os.path.abspath(work)
+    prefix = install(cmake, build, work)
+    if pictures:
+        take_pictures(tree, prefix, work)
+        return 0
+    found = list(check(tree, prefix, work))
+    print("\n".join(found) or "The tutorial can be followed.")
     return 1 if found else 0
 
 
 if __name__ == "__main__":
-    paths = [os.path.abspath(argument) for argument in sys.argv[1:4]]
-    sys.exit(take_pictures(*paths) if "--pictures" in sys.argv else main(*paths))
+    sys.exit(main(*sys.argv[1:]))
