@@ -12,6 +12,7 @@ import re
 import shutil
 import subprocess
 import sys
+import tempfile
 
 HANDS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "tutorial")
 SCREEN = "--screen 800x480@133 --language en"
@@ -23,6 +24,11 @@ MADE = ("*.kivlog", "golden")
 REMARKS = re.compile(r"^(Could not open /cust/private/lastconfigs/\S+ for reading|QQmlEngine::setContextForObject\(\): .*)\n", re.M)
 
 
+# A block of the page: the file that it belongs to; what the reader does wrong before its commands, in a comment that no
+# reader sees: "<!-- hand: COMMAND -->".
+Block = collections.namedtuple("Block", "language name code hand")
+
+
 class Step:
     """A section of the page, and the folder with its files."""
 
@@ -32,13 +38,18 @@ class Step:
         folders = glob.glob(os.path.join(tree, "docs/examples/tutorial", f"{number}-*"))
         self.folder = folders[0] if folders else None
         self.blocks = []
-        name = None
+        name = hand = None
         for part in re.split(r"(^```.*?^```$)", text, flags=re.M | re.S):
             fence = re.fullmatch(r"```(\w*)\n(.*?)```", part, re.S)
             if fence:
-                self.blocks.append((fence.group(1), name, fence.group(2)))
-            for name in re.findall(r"`(\w[\w.]*\.\w+|CMakeLists\.txt)`", "" if fence else part):
+                self.blocks.append(Block(fence.group(1), name, fence.group(2), hand))
+                continue
+            hand = next(iter(re.findall(r"<!-- hand: (.*?) -->", part)), None)
+            for name in re.findall(r"`(\w[\w.]*\.\w+)`", part):
                 pass
+
+    def commands(self):
+        return [line for block in self.blocks if block.language == "sh" for line in block.code.rstrip("\n").split("\n")]
 
     def files(self):
         names = sorted(os.listdir(self.folder)) if self.folder else []
@@ -65,45 +76,58 @@ def lines_of(text):
 def check_pieces(step, before):
     """Every block of code is a piece of its file."""
     files = step.files()
-    for language, name, code in step.blocks:
-        if language not in LANGUAGES:
+    for block in step.blocks:
+        if block.language not in LANGUAGES:
             continue
-        if name not in files:
-            yield f"step {step.number}: there is no {name}"
-        elif code not in files[name]:
-            yield f"step {step.number}: {name} has no piece\n{code}"
+        if block.name not in files:
+            yield f"step {step.number}: there is no {block.name}"
+        elif block.code not in files[block.name]:
+            yield f"step {step.number}: {block.name} has no piece\n{block.code}"
 
 
 def shown_in(step, name):
-    return lines_of("".join(code for language, of, code in step.blocks if of == name and language in LANGUAGES))
+    return lines_of("".join(block.code for block in step.blocks if block.name == name and block.language in LANGUAGES))
 
 
 def check_typed(step, before):
     """Who types the blocks has the files: each line that is new is shown, each that went has become one that is shown."""
-    for name, added in new_lines(step, before).items():
+    old = files_before(step, before)
+    for name, added in more_lines(step.files(), old).items():
         shown = shown_in(step, name)
         for line in added:
             if line not in shown:
                 yield f"step {step.number}: nobody is told to type into {name}: {line}"
-    for name, removed in new_lines(before, step).items() if before else ():
+    for name, removed in more_lines(old, step.files()).items():
         shown = shown_in(step, name)
         for line in removed:
             if not any(other.startswith(re.split(r"[ \]},;]*$|: \w", line)[0]) for other in shown):
                 yield f"step {step.number}: nobody is told to remove from {name}: {line}"
 
 
-def new_lines(step, before):
-    """By file, the lines that a step adds."""
-    old = before.files() if before else {}
-    return {name: collections.Counter(lines_of(text)) - collections.Counter(lines_of(old.get(name, "")))
-            for name, text in step.files().items()}
+def files_before(step, before):
+    """The files with which a step begins, after what its commands replace in them."""
+    files = before.files() if before else {}
+    with tempfile.TemporaryDirectory() as folder:
+        for name, text in files.items():
+            with open(os.path.join(folder, name), "w", encoding="utf-8") as file:
+                file.write(text)
+        for command in step.commands():
+            if command.startswith("sed -i "):
+                subprocess.run(command, shell=True, cwd=folder, check=True)
+        return {name: read(os.path.join(folder, name)) for name in files}
+
+
+def more_lines(files, than):
+    """By file, the lines that it has more than the other of its name."""
+    return {name: collections.Counter(lines_of(text)) - collections.Counter(lines_of(than.get(name, "")))
+            for name, text in files.items()}
 
 
 def minutes_of(step, before):
     """200 words a minute are read, and 300 characters a minute are typed."""
-    commands = "".join(code for language, _, code in step.blocks if language == "sh")
-    typed = len(commands) + sum(len(line) for lines in new_lines(step, before).values() for line in lines.elements())
-    return minutes_to_read(step.text) + typed / 300
+    added = more_lines(step.files(), files_before(step, before))
+    typed = "".join(step.commands() + [line for lines in added.values() for line in lines.elements()])
+    return minutes_to_read(step.text) + len(typed) / 300
 
 
 def minutes_to_read(text):
@@ -164,22 +188,27 @@ def check_commands(step, desks):
     """The commands of a step print what follows them: on a desk where nothing has been made before, and, those that make
     nothing, with the files of the step."""
     anew, desk = desks
-    blocks = step.blocks + [("end", None, "")]
-    for (language, _, code), (then, _, output) in zip(blocks, blocks[1:]):
-        if language != "sh":
+    for block, then in zip(step.blocks, step.blocks[1:] + [Block("end", None, "", None)]):
+        if block.language != "sh":
             continue
-        commands = "".join(ended(line) + "\n" for line in code.rstrip("\n").split("\n"))
-        for place in [anew] if re.search(r" record | --update|^cmake ", code) else [anew, desk]:
-            yield from check_output(place, commands, output if then == "" else "")
+        expected = then.code if then.language == "" else ""
+        for place in [anew] if block.hand or re.search(r" record | --update|^cmake ", block.code) else [anew, desk]:
+            yield from check_output(place, block, expected)
 
 
-def check_output(desk, commands, expected):
-    status, printed = desk.run(commands)
+def check_output(desk, block, expected):
+    saved = {name: read(os.path.join(desk.folder, name)) for name in desk.step.files()}
+    commands = "".join(ended(line) + "\n" for line in block.code.rstrip("\n").split("\n"))
+    status, printed = desk.run(f"{block.hand}\n{commands}" if block.hand else commands)
     pattern = "".join(".*" if part == "…" else re.escape(part) for part in re.split("(…)", expected))
     if not re.fullmatch(pattern, printed):
         yield f"step {desk.step.number}: {commands}prints\n{printed}and not\n{expected}"
-    if status:
+    if (status == 0) == bool(block.hand):
         yield f"step {desk.step.number}: {commands}ends with {status}"
+    # What was done wrong is put right.
+    for name, text in saved.items() if block.hand else ():
+        with open(os.path.join(desk.folder, name), "w", encoding="utf-8") as file:
+            file.write(text)
 
 
 # --- The pages ---
@@ -201,6 +230,13 @@ def check_uses(desk):
             printed = desk.use(hand).replace("qml: ", "").rstrip("\n").split("\n")
             if printed != lines:
                 yield f"step {step}: {hand} prints {printed}, not {lines}"
+
+
+def check_check(desk):
+    """The checks of files and pages find nothing."""
+    status, printed = desk.run("uiutils-check . " + " ".join(name for name in desk.step.files() if name.endswith(".qml")))
+    if status or printed:
+        yield f"step {desk.step.number}: uiutils-check says {printed}"
 
 
 def check_audit(desk):
