@@ -10,6 +10,7 @@
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
 #include "report/drafts/reportdraft.h"
+#include "report/pagereport.h"
 #include "report/report.h"
 #include "report/reportpreview.h"
 #include "report/savedreports.h"
@@ -157,6 +158,7 @@ void registerTypes(const char* uri)
     registerLocalTypes(uri);
     registerFileTypes(uri);
     qmlRegisterType<Report>(uri, 1, 0, "Report");
+    qmlRegisterType<PageReport>(uri, 1, 0, "PageReport");
     qmlRegisterType<ReportPreview>(uri, 1, 0, "ReportPreview");
     qmlRegisterType<SavedReports>(uri, 1, 0, "SavedReports");
     qmlRegisterType<ReportDraft>(uri, 1, 0, "ReportDraft");
