@@ -1,5 +1,6 @@
 #include "check/schemawords.h"
 
+#include "check/pageitems.h"
 #include "common/nearest.h"
 
 #include <QHash>
@@ -209,7 +210,7 @@ void Walk::checkEnum(const JsonNode& allowed, const JsonNode& value)
     }
     mustBe(value, QStringLiteral("be one of ") + words.join(QLatin1String(", ")));
     if (value.isText())
-        m_violations.last().message += proposal(value.text, texts);
+        m_violations.last().message += didYouMean(value.text, texts);
 }
 
 void Walk::checkNumber(const JsonNode& rule, const JsonNode& value)
@@ -331,7 +332,7 @@ void Walk::checkKeys(const JsonNode& rule, const JsonNode& value)
         if (properties->member(member.key))
             continue;
         const QString place = placeFor(member.key, *properties);
-        const QString hint = place.isEmpty() ? proposal(member.key, known)
+        const QString hint = place.isEmpty() ? didYouMean(member.key, known)
                                              : QStringLiteral(" It belongs into %1.").arg(quoted(place));
         tell(member.keyOffset,
                 QStringLiteral("The key %1 has no meaning here.").arg(quoted(member.key)) + hint
@@ -435,15 +436,12 @@ QString shownValue(const JsonNode& value)
     return QString();
 }
 
-QString proposal(const QString& wanted, const QStringList& known)
+QString didYouMean(const QString& wanted, const QStringList& known)
 {
-    const QStringList words = apps::nearest(wanted, known);
-    if (words.isEmpty())
-        return QString();
-    QStringList list;
-    for (const QString& word : words)
-        list += quoted(word);
-    return QStringLiteral(" Did you mean ") + list.join(QLatin1String(" or ")) + QLatin1Char('?');
+    QStringList names;
+    for (const QString& name : apps::nearest(wanted, known))
+        names += quoted(name);
+    return proposal(names);
 }
 
 QVector<Violation> violations(const JsonNode& schema, const JsonNode& document)

@@ -155,7 +155,7 @@ QString ServiceNames::proposalFor(const QString& contextName, const QString& own
     QStringList known;
     for (const QString& name : m_all)
         known += shortened(name, ownTag);
-    return proposal(shortened(contextName, ownTag), known);
+    return didYouMean(shortened(contextName, ownTag), known);
 }
 
 void checkNames(const Documents& documents, const ServiceNames& names)

@@ -137,7 +137,7 @@ QString SimulationCheck::nearestId(const QString& id, bool (*suits)(const Servic
         if (suits(item))
             known += item.description.id;
     }
-    return proposal(id, known);
+    return didYouMean(id, known);
 }
 
 /// The platform reads it, also the file of values; its words are "/moves/KEY: REASON".

@@ -1,5 +1,6 @@
 #include "options.h"
 
+#include "check/pagecheck.h"
 #include "check/servicecheck.h"
 #include "common/complaint.h"
 
@@ -37,6 +38,8 @@ QVector<Finding> findingsFor(const checker::Options& options)
 {
     QVector<names::ItemFacts> items;
     QVector<Finding> findings = check::checkServices(options.services, &items);
+    findings += check::checkPages(options.pages, {options.importFolders, items});
+    check::sort(&findings);
     if (options.isQuiet)
         findings.erase(std::remove_if(findings.begin(), findings.end(),
                                [](const Finding& finding) { return finding.weight == Finding::Warning; }),
