@@ -94,7 +94,7 @@ public:
     {
     }
 
-    /// `name` is how the value is called, `condition` when the rule holds: ", as "type" is "int"".
+    /// `name` is how the value is called, `condition` when the rule holds: " where "type" is "int"".
     void check(const JsonNode& rule, const JsonNode& value, const QString& name, const QString& condition);
     QVector<Violation> take() { return m_violations; }
 
@@ -369,9 +369,9 @@ void Walk::checkCondition(const JsonNode& rule, const JsonNode& value, const QSt
             part.check(property, *member, QString(), QString());
         if (!member || !part.m_violations.isEmpty())
             return;
-        when += quoted(property.key) + QLatin1String(" ") + asWritten(*member);
+        when += quoted(property.key) + QLatin1String(" is ") + asWritten(*member);
     }
-    check(*then, value, name, QStringLiteral(" with ") + when.join(QLatin1String(" and ")));
+    check(*then, value, name, QStringLiteral(" where ") + when.join(QLatin1String(" and ")));
 }
 
 /// The branch is that of the value's kind.
@@ -397,6 +397,52 @@ void Walk::checkNot(const JsonNode& rule, const JsonNode& value)
             tell(member->keyOffset,
                     QStringLiteral("%1 has no meaning%2: remove it.").arg(quoted(key.text), m_condition));
     }
+}
+
+/// The word of an id, or of a name in an expression, that tells it from others.
+QString lastWord(const QString& name)
+{
+    static const QRegularExpression separators(QStringLiteral("[:.]+"));
+    const QStringList words = name.split(separators, Qt::SkipEmptyParts);
+    return words.value(words.size() - 1).toLower();
+}
+
+/// Whether two thirds of the letters are the same.
+bool isAlike(const QString& a, const QString& b)
+{
+    QString rest = a;
+    int common = 0;
+    for (const QChar character : b) {
+        const int at = rest.indexOf(character);
+        common += at >= 0 ? 1 : 0;
+        if (at >= 0)
+            rest.remove(at, 1);
+    }
+    return 3 * common > 2 * std::max(a.size(), b.size()) || (a.size() > 5 && b.contains(a));
+}
+
+/// The same word with other capitals, after another one, or cut, is likelier than all others.
+QStringList likely(const QString& wanted, const QStringList& known)
+{
+    constexpr int shortest = 3;
+    QStringList same;
+    QStringList cut;
+    for (const QString& name : known) {
+        if (name.compare(wanted, Qt::CaseInsensitive) == 0 || lastWord(name) == lastWord(wanted))
+            same += name;
+        else if (std::min(name.size(), wanted.size()) >= shortest
+                && (name.startsWith(wanted, Qt::CaseInsensitive) || wanted.startsWith(name, Qt::CaseInsensitive)))
+            cut += name;
+    }
+    if (!same.isEmpty() || !cut.isEmpty())
+        return (same.isEmpty() ? cut : same).mid(0, shortest);
+    QStringList names;
+    const QString word = lastWord(wanted);
+    for (const QString& name : apps::nearest(wanted, known)) {
+        if (isAlike(word, lastWord(name)))
+            names += name;
+    }
+    return names;
 }
 
 } // namespace
@@ -439,7 +485,7 @@ QString shownValue(const JsonNode& value)
 QString didYouMean(const QString& wanted, const QStringList& known)
 {
     QStringList names;
-    for (const QString& name : apps::nearest(wanted, known))
+    for (const QString& name : likely(wanted, known))
         names += quoted(name);
     return proposal(names);
 }
