@@ -122,7 +122,7 @@ private Q_SLOTS:
         QTest::newRow("next line") << QByteArray("{ \"service\": \"b\",\n\"items\": 5 }") << 2 << 10;
         QTest::newRow("line ends of Windows") << QByteArray("{ \"service\": \"b\",\r\n\r\n\"items\": 5 }") << 3 << 10;
         QTest::newRow("two bytes a letter") << QByteArray("{ \"service\": \"\xc3\xa4\", \"items\": 5 }") << 1 << 28;
-        QTest::newRow("two units a letter") << QByteArray("{ \"service\": \"\xf0\x9f\x98\x80\", \"items\": 5 }") << 1 << 29;
+        QTest::newRow("two units a letter") << QByteArray("{ \"title\": \"\xf0\x9f\x98\x80\", \"service\": \"b\", \"items\": 5 }") << 1 << 43;
     }
     void places()
     {
@@ -170,27 +170,27 @@ private Q_SLOTS:
     void longChains()
     {
         QByteArray items;
-        constexpr int count = 20000;
+        constexpr int count = 5000;
         for (int i = 0; i < count; ++i)
             items += QString("%1{ \"id\": \":config:bench:i%2:\", \"type\": \"bool\", \"applicable\": \"cfg.i%3\" }")
                              .arg(i > 0 ? "," : "").arg(i).arg(i + 1).toUtf8();
-        const QByteArray last = ", { \"id\": \":config:bench:i20000:\", \"type\": \"bool\" }";
+        const QByteArray last = ", { \"id\": \":config:bench:i5000:\", \"type\": \"bool\" }";
         QCOMPARE(linesOf(findingsIn(serviceWith(items + last))), QStringList());
-        const QByteArray closing = ", { \"id\": \":config:bench:i20000:\", \"type\": \"bool\", \"applicable\": \"cfg.i0\" }";
+        const QByteArray closing = ", { \"id\": \":config:bench:i5000:\", \"type\": \"bool\", \"applicable\": \"cfg.i0\" }";
         const QVector<Finding> circle = findingsIn(serviceWith(items + closing));
         QCOMPARE(circle.size(), 1);
         QVERIFY(circle.at(0).message.contains("circle"));
     }
 
-    /// What is wrong a hundred thousand times is told a thousand times, and counted.
+    /// What is wrong twenty thousand times is told a thousand times, and counted.
     void manyFindings()
     {
         QByteArray items;
-        for (int i = 0; i < 100000; ++i)
+        for (int i = 0; i < 20000; ++i)
             items += QByteArray(i > 0 ? "," : "") + "{ \"id\": \":config:bench:" + QByteArray::number(i) + ":\", \"type\": \"number\" }";
         const QVector<Finding> findings = findingsIn(serviceWith(items));
         QCOMPARE(findings.size(), 1001);
-        QVERIFY(findings.at(0).message.startsWith("99000 more"));
+        QVERIFY(findings.at(0).message.startsWith("19000 more"));
         QCOMPARE(findings.at(0).weight, Finding::Error);
     }
 
