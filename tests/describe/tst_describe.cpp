@@ -52,7 +52,7 @@ private:
     /// What a page logs, or why it is not shown.
     QString shown(const QString& path, const QStringList& options = {}) const
     {
-        const Outcome outcome = run(UIUTILS_QML_PROGRAM, QStringList {path, "--root", QTemporaryDir().path(), "--grab", m_folder.filePath("page.png"),
+        const Outcome outcome = run(UIUTILS_QML_PROGRAM, QStringList {path, "--root", m_folder.filePath(QString("root%1").arg(++m_runs)), "--grab", m_folder.filePath("page.png"),
                                             "--services", m_folder.filePath("services")} + options);
         return outcome.errors;
     }
@@ -65,6 +65,8 @@ private:
     QString imports() const { return m_folder.filePath("imports"); }
 
     QTemporaryDir m_folder;
+    /// Each begins with the values of the file.
+    mutable int m_runs = 0;
 
 private Q_SLOTS:
     void initTestCase()
