@@ -56,12 +56,14 @@ private:
                                             "--services", m_folder.filePath("services")} + options);
         return outcome.errors;
     }
-    QString linted(const QString& path) const
+    /// What qmllint says, which knows the modules by this option.
+    QString linted(const QString& path, const QStringList& modules) const
     {
-        const Outcome outcome = run(UIUTILS_QMLLINT, {"-U", "-I", QLibraryInfo::location(QLibraryInfo::Qml2ImportsPath), "-I", UIUTILS_QML_BUILD,
-                                            "-I", m_folder.filePath("imports"), path});
+        const Outcome outcome = run(UIUTILS_QMLLINT, QStringList {"-U", "-I", QLibraryInfo::location(QLibraryInfo::Qml2ImportsPath), "-I", UIUTILS_QML_BUILD}
+                        + modules + QStringList(path));
         return outcome.exitCode == 0 ? outcome.errors : QString("status %1\n").arg(outcome.exitCode) + outcome.errors;
     }
+    QString linted(const QString& path) const { return linted(path, {"-I", imports()}); }
     QString imports() const { return m_folder.filePath("imports"); }
 
     QTemporaryDir m_folder;
@@ -127,6 +129,17 @@ private Q_SLOTS:
         const auto [expression, finding] = currentRow<QByteArray, QString>();
         const QString found = linted(page("Wrong", "import Instrument.Bench 1.0\nItem { property var x: " + expression + " }\n"));
         QVERIFY2(found.startsWith("status") && found.contains(finding) && found.contains("at 4:"), qPrintable(found));
+    }
+
+    /// Tools that read no QML files have the types from the description.
+    void theDescriptionOfTypesSaysTheSame()
+    {
+        const QStringList types {"-i", imports() + "/Instrument/Bench/plugins.qmltypes"};
+        const QByteArray start = "import Instrument.Bench 1.0\nItem { property var x: Bench.";
+        for (const char* expression : {"cfg_mode.label", "res_events.value", "cfg_mode_Auto", "service.isAvailable", "tag"})
+            QCOMPARE(linted(page("Right", start + expression + " }\n"), types), QString());
+        for (const char* expression : {"cfg_mod.label", "cfg_mode.lable", "res_events.valeu", "cfg_mode_Atuo", "service.isAvailble"})
+            QVERIFY2(linted(page("Wrong", start + expression + " }\n"), types).startsWith("status"), expression);
     }
 
     void commandLines_data()
