@@ -57,6 +57,7 @@ common      apps/common                     LIBRARY base contract embedded bus h
 names       apps/names                      LIBRARY contract
 check       apps/check                      LIBRARY base contract embedded simulation common names
 audit       apps/audit                      -
+servicetexts apps/servicetexts              base contract embedded
 inspector   apps/inspector                  LIBRARY base contract embedded replay host
 kivd        apps/kivd                       base contract embedded bus common
 kivctl      apps/kivctl                     base contract embedded bus replay common host

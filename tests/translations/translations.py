@@ -309,7 +309,7 @@ def show(recording):
         ('an HTML page', html, '«Test Information»'),
         ('a plain text', text, '«Pass»'),
         ('a question', words, '«Do you want to overwrite report «Internal:»/reports/marked.pdf?»'),
-        ('the rejection of a value', words, '««Level» cannot be set to 11: «out of range». Allowed: «-10 to 10» dB.»'),
+        ('the rejection of a value', words, '««Level» cannot be set to 11: «out of range». Allowed: «-10 to 10» «dB».»'),
         ('the range of a value', words, '«2 - 8 chars»'),
         ('the rejection of a service', odd, '/items/1: «the id :config:odd:twice: appears twice»'),
         ('a setting that is not there', nobody, '«There is no setting :config:basemgr:'),
