@@ -55,6 +55,7 @@ kit         qml/UiUtils/Controls            -
 liveplot    qml/UiUtils/Plot                base contract core languages document service plots
 common      apps/common                     LIBRARY base contract embedded bus host
 names       apps/names                      LIBRARY contract
+modules     apps/modules                    base names
 check       apps/check                      LIBRARY base contract embedded simulation common names
 audit       apps/audit                      -
 servicetexts apps/servicetexts              base contract embedded
@@ -64,7 +65,8 @@ kivctl      apps/kivctl                     base contract embedded bus replay co
 viewer      apps/pdf_viewer                 base common
 demo        apps/demo                       LIBRARY base contract embedded replay common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
-qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common audit host inspector
+qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common names modules audit host inspector
+describe    apps/uiutils-describe           LIBRARY base contract embedded bus common host names modules
 inspecttool apps/uiutils-inspector          LIBRARY base contract embedded replay common host inspector
 expage      examples/page                   host
 exform      examples/form                   LIBRARY contract host

@@ -21,6 +21,7 @@
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
 #include "service/rowfilter.h"
+#include "service/serviceitems_p.h"
 #include "writers/pdffile/pdffile.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
@@ -66,6 +67,7 @@ void registerServiceTypes(const char* uri)
             uri, 1, 0, "BaseFormatter", QStringLiteral("Formatters come from the platform."));
     qmlRegisterType<KIVSignal>(uri, 1, 0, "KIVSignal");
     qmlRegisterType<RowFilter>(uri, 1, 0, "RowFilter");
+    qmlRegisterType<ServiceItems>(uri, 1, 0, "ServiceItems");
     qmlRegisterType<ForgivingValidator>(uri, 1, 0, "ForgivingValidator");
     qmlRegisterSingletonType<UserData>(uri, 1, 0, "UserData", userData);
 
