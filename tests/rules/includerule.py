@@ -66,7 +66,7 @@ viewer      apps/pdf_viewer                 base common
 demo        apps/demo                       LIBRARY base contract embedded replay common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
 qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common names modules audit host inspector
-describe    apps/uiutils-describe           LIBRARY base contract embedded bus common host names modules
+describe    apps/uiutils-describe           LIBRARY base contract embedded bus common host names modules servicetexts
 inspecttool apps/uiutils-inspector          LIBRARY base contract embedded replay common host inspector
 expage      examples/page                   host
 exform      examples/form                   LIBRARY contract host

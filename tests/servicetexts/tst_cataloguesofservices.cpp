@@ -167,6 +167,28 @@ private Q_SLOTS:
         QCOMPARE(QFileInfo::exists(path(name)), !contents.isEmpty());
     }
 
+    /// One service file that cannot be read, and all that it says would be marked as vanished.
+    void theProgram()
+    {
+        const auto run = [](const QStringList& arguments) { return outputOf(UIUTILS_DESCRIBE_PROGRAM, arguments); };
+        writeFile(path("services/a.service.json"), service);
+        const QStringList wanted {"--services", path("services"), "--ts", path("a_de.ts"), path("a_ja.ts")};
+        const QString made = run(wanted);
+        QVERIFY2(made.startsWith(path("a_de.ts") + ": Found 12 source text(s) (12 new and 0 already existing)\n" + path("a_ja.ts")), qPrintable(made));
+        QVERIFY(contentsOf(path("a_ja.ts")).contains("language=\"ja"));
+        const QByteArray before = contentsOf(path("a_de.ts"));
+        writeFile(path("services/b.service.json"), "{");
+        const QString refused = run(wanted);
+        QVERIFY2(refused.startsWith("status 1\nuiutils-describe: " + path("services/b.service.json") + " is no service file: "), qPrintable(refused));
+        QCOMPARE(contentsOf(path("a_de.ts")), before);
+        for (const QStringList& misuse : {QStringList {"--ts"}, wanted + QStringList {"--output", path("x")}, wanted + QStringList {"--bus"}})
+            QVERIFY2(run(misuse).startsWith("status 2"), qPrintable(run(misuse)));
+        QVERIFY(QDir().mkdir(path("empty")));
+        QVERIFY(run({"--services", path("empty"), "--ts", path("a_de.ts")}).contains("There is no service file in " + path("empty")));
+        QVERIFY(run({"--services", path("none"), "--ts", path("a_de.ts")}).contains(path("none") + " cannot be read: No such file"));
+        QCOMPARE(contentsOf(path("a_de.ts")), before);
+    }
+
     /// What is wrong in a service file is for others to tell; its other texts count.
     void wrongServices()
     {
