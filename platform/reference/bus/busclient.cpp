@@ -75,8 +75,12 @@ Outcome BusClient::gone() const
 /// A slot that heard of what was done may have deleted the client.
 bool BusClient::remember(const QPointer<BusClient>& client, const Outcome& outcome)
 {
-    if (client)
+    if (client) {
         client->m_lastError = outcome.isDone ? QString() : uiutils::translatedServiceText(outcome.text);
+        client->m_rejected = outcome.rejected;
+        for (QString& reason : client->m_rejected)
+            reason = uiutils::translatedServiceText(reason);
+    }
     return outcome.isDone;
 }
 

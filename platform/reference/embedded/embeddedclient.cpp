@@ -81,8 +81,12 @@ Outcome EmbeddedClient::call(int delayMs, int timeoutMs, const Request& request)
 /// A slot that heard of the change may have deleted the client.
 bool EmbeddedClient::remember(const QPointer<EmbeddedClient>& client, const Outcome& outcome)
 {
-    if (client)
+    if (client) {
         client->m_lastError = outcome.isDone ? QString() : uiutils::translatedServiceText(outcome.text);
+        client->m_rejected = outcome.rejected;
+        for (QString& reason : client->m_rejected)
+            reason = uiutils::translatedServiceText(reason);
+    }
     return outcome.isDone;
 }
 

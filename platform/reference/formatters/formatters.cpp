@@ -184,4 +184,11 @@ BaseFormatter* create(const QString& name)
     return nullptr;
 }
 
+QStringList names()
+{
+    return {QStringLiteral("decimal"), QStringLiteral("scientific"), QStringLiteral("si"), QStringLiteral("dB"),
+            QStringLiteral("dBm"), QStringLiteral("percent"), QStringLiteral("duration"), QStringLiteral("frequency"),
+            QStringLiteral("distance"), QStringLiteral("bitrate")};
+}
+
 } // namespace kiv::formatters
