@@ -60,6 +60,7 @@ check       apps/check                      LIBRARY base contract formatters emb
 checktool   apps/uiutils-check              check common names
 modules     apps/modules                    base names
 audit       apps/audit                      -
+servicetexts apps/servicetexts              base contract embedded
 inspector   apps/inspector                  LIBRARY base contract embedded replay host
 kivd        apps/kivd                       base contract embedded bus common
 kivctl      apps/kivctl                     base contract embedded bus replay common host
@@ -67,7 +68,7 @@ viewer      apps/pdf_viewer                 base common scene
 demo        apps/demo                       LIBRARY base contract embedded replay common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
 qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common names modules audit host inspector
-describe    apps/uiutils-describe           LIBRARY base contract embedded bus common host names modules
+describe    apps/uiutils-describe           LIBRARY base contract embedded bus common host names modules servicetexts
 inspecttool apps/uiutils-inspector          LIBRARY base contract embedded replay common host inspector
 expage      examples/page                   host
 exform      examples/form                   LIBRARY contract host
