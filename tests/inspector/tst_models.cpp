@@ -76,6 +76,7 @@ private Q_SLOTS:
         QTest::newRow("everything, service by service, in their order") << "" << allNames;
         QTest::newRow("label") << "power" << QStringList {"clock_cfg_zone", "meter_res_power"};
         QTest::newRow("every word, in any order and case") << " OPTICAL  met" << QStringList {"meter_res_power"};
+        QTest::newRow("accents") << u8"pówer" << QStringList {"clock_cfg_zone", "meter_res_power"};
         QTest::newRow("page's name") << "res_t" << QStringList {"meter_res_trace", "meter_res_table"};
         QTest::newRow("id") << ":trace:" << QStringList {"meter_res_trace"};
         QTest::newRow("one word is not there") << "power nowhere" << QStringList();
