@@ -8,6 +8,8 @@
 #include <QQmlEngine>
 #include <cmath>
 #include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 using uiutils::ReportDraft;
 
@@ -40,6 +42,13 @@ struct Run
     QString event() { return report.document().object().value("event").toString(); }
 };
 
+/// How often the folder of drafts was synced while it was watched and empty: by the page's own thread, and by others.
+struct
+{
+    std::atomic_bool isWatched {false};
+    std::atomic_int byPage {0}, byOthers {0};
+} syncs;
+
 QVariantMap number(int value)
 {
     return {{"number", value}};
@@ -63,6 +72,15 @@ int keepNumbers()
 }
 
 } // namespace
+
+/// Replaces the C library's function.
+extern "C" int fsync(int fd)
+{
+    const QString path = syncs.isWatched ? QFile::symLinkTarget(QString("/proc/self/fd/%1").arg(fd)) + '/' : QString();
+    if (path.endsWith(folder) && namesIn(path).isEmpty())
+        ++(QThread::currentThread() == QCoreApplication::instance()->thread() ? syncs.byPage : syncs.byOthers);
+    return int(::syscall(SYS_fsync, fd));
+}
 
 /// What was measured and not saved is offered again.
 class ReportDraftTest : public ReportFixture
@@ -123,6 +141,30 @@ private Q_SLOTS:
         QVERIFY(run.report.save());
         QCOMPARE(files(), QStringList());
         QVERIFY(run.draft.flush() && files().isEmpty());
+    }
+
+    /// What was saved or discarded is not offered again after a power cut; the page does not wait for the disk.
+    void aRemovalSurvivesAPowerCut()
+    {
+        {
+            Run run;
+            run.report.setUp("a", 3);
+            run.measure(number(1));
+            QVERIFY(run.draft.flush());
+            syncs.isWatched = true;
+            QVERIFY(run.report.save());
+            QTRY_COMPARE(syncs.byOthers.load(), 1);
+            syncs.isWatched = false;
+            run.measure(number(2));
+            QVERIFY(run.draft.flush());
+        }
+        Run run;
+        QVERIFY(run.draft.isAvailable());
+        syncs.isWatched = true;
+        run.draft.discard();
+        QTRY_COMPARE(syncs.byOthers.load(), 2);
+        syncs.isWatched = false;
+        QCOMPARE(syncs.byPage.load(), 0);
     }
 
     /// A page goes on measuring while its report is written.
