@@ -193,8 +193,10 @@ private Q_SLOTS:
         glance.setItem(Manifest::getKivData(rangeId));
         QCOMPARE(glance.text(), "7");
         changes.clear();
+        ItemGlance witness;
+        witness.setItem(Manifest::getKivData(powerId));
         m_stand->meter->setValue(powerId, 5);
-        QTest::qWait(0);
+        QTRY_VERIFY(witness.text().startsWith('5'));
         QCOMPARE(changes.size(), 0);
     }
 
