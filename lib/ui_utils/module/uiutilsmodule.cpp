@@ -10,6 +10,7 @@
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
 #include "report/drafts/reportdraft.h"
+#include "report/pagereport.h"
 #include "report/report.h"
 #include "report/reportpreview.h"
 #include "report/savedreports.h"
@@ -21,6 +22,7 @@
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
 #include "service/rowfilter.h"
+#include "service/serviceitems_p.h"
 #include "writers/pdffile/pdffile.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
@@ -79,6 +81,7 @@ void registerServiceTypes(const char* uri)
             uri, 1, 0, "BaseFormatter", QStringLiteral("Formatters come from the platform."));
     qmlRegisterType<KIVSignal>(uri, 1, 0, "KIVSignal");
     qmlRegisterType<RowFilter>(uri, 1, 0, "RowFilter");
+    qmlRegisterType<ServiceItems>(uri, 1, 0, "ServiceItems");
     qmlRegisterType<ForgivingValidator>(uri, 1, 0, "ForgivingValidator");
     qmlRegisterSingletonType<UserData>(uri, 1, 0, "UserData", userData);
 
@@ -155,6 +158,7 @@ void registerTypes(const char* uri)
     registerLocalTypes(uri);
     registerFileTypes(uri);
     qmlRegisterType<Report>(uri, 1, 0, "Report");
+    qmlRegisterType<PageReport>(uri, 1, 0, "PageReport");
     qmlRegisterType<ReportPreview>(uri, 1, 0, "ReportPreview");
     qmlRegisterType<SavedReports>(uri, 1, 0, "SavedReports");
     qmlRegisterType<ReportDraft>(uri, 1, 0, "ReportDraft");
