@@ -190,6 +190,10 @@ void PageSet::reportModule(const PageFile& file, const UiImport& import, const Q
             ? proposal(name, known)
             : QStringLiteral(" Name the folder above it with --import, or install it. A module that the program itself "
                              "brings along cannot be found here.");
+    // All files of a program import the modules that it brings along: one line tells it.
+    if (!isMistake && m_missingModules.contains(name))
+        return;
+    m_missingModules.insert(name);
     Finding finding = file.at(
             import.importUri->identifierToken, QStringLiteral("The module %1 was not found.%2").arg(name, advice));
     if (!isMistake)
