@@ -235,7 +235,11 @@ QVector<Finding> lint(const QString& program, const PageScope& scope, const QStr
         return {{Finding::Warning, scope.file.path(), 0, 0, QString(),
                 QStringLiteral("%1 did not finish with this file.").arg(program)}};
     }
-    return findingsOfLint(QString::fromLocal8Bit(process.readAll()), scope, isPage);
+    QVector<Finding> findings = findingsOfLint(QString::fromLocal8Bit(process.readAll()), scope, isPage);
+    if (process.exitStatus() == QProcess::CrashExit)
+        findings.append({Finding::Warning, scope.file.path(), 0, 0, QString(),
+                QStringLiteral("qmllint crashed over this file, so less of it was checked.")});
+    return findings;
 }
 
 } // namespace uiutils::check

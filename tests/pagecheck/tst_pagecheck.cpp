@@ -81,7 +81,7 @@ private Q_SLOTS:
         QTest::newRow("a member that is asked for")
             << QByteArray("Item { visible: optical_res_loss.valueOk === undefined }");
         QTest::newRow("a property that a component's user may set")
-            << QByteArray("Item { property var item: optical_res_loss; function f() { item.value = 3 } }");
+            << QByteArray("Item { property var measured: optical_res_loss; function f() { measured.value = 3 } }");
         QTest::newRow("a property that is changed")
             << QByteArray("Item { Item { id: a; property var what: optical_res_loss }\n"
                           "function f() { a.what = { vlaue: 1 }; return a.what.vlaue } }");
@@ -92,6 +92,7 @@ private Q_SLOTS:
             << QByteArray("Item { readonly property var item: optical_res_loss\nLoader { onLoaded: item.start() } }");
         QTest::newRow("roles of a model")
             << QByteArray("ListView { model: optical_res_events.value; delegate: Text { text: model.kind + knid } }");
+        QTest::newRow("a parameter of a signal") << QByteArray("Text { id: lnk; onLinkActivated: print(link) }");
         QTest::newRow("a name that only the program knows") << QByteArray("Text { text: backend.title }");
         QTest::newRow("everything an item has")
             << QByteArray("Item { width: optical_cfg_mode.enumCount + optical_cfg_range.minRange\n"
@@ -148,6 +149,8 @@ private Q_SLOTS:
                                                 << QByteArray("has no elements");
         QTest::newRow("a service's handler") << QByteArray("Connections { target: services.optical; function onAvailableChanged() {} }")
                                              << QByteArray("A service has no signal \"availableChanged\"");
+        QTest::newRow("a handler of what is no signal") << QByteArray("Connections { target: optical_res_loss; function onIsReady() {} }")
+                                                        << QByteArray("An item has no signal \"isReady\"");
         QTest::newRow("an old handler") << QByteArray("Connections { target: optical_res_loss; onChanged: {} }")
                                         << QByteArray("An item has no signal \"changed\"");
         QTest::newRow("a choice that two entries offer") << QByteArray("SegmentedChoice { item: optical_cfg_cable_1 }")
