@@ -131,8 +131,7 @@ std::unique_ptr<PageFile> PageFile::read(const QString& path, QVector<Finding>* 
 void PageFile::parse(const QString& code, QVector<Finding>* findings)
 {
     QQmlJS::Lexer lexer(&m_engine);
-    // Also in scripts, whose first lines may be directives for pages.
-    lexer.setCode(code, 1, true);
+    lexer.setCode(code, 1, !isScript());
     QQmlJS::Parser parser(&m_engine);
     const bool isModule = m_path.endsWith(QLatin1String(".mjs"));
     const bool isRead = !isScript() ? parser.parse() : isModule ? parser.parseModule() : parser.parseScript();

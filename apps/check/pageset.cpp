@@ -2,9 +2,12 @@
 
 #include "check/expressions.h"
 #include "check/shallowvisitor.h"
+#include "check/wording.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QXmlStreamReader>
 
 #include <algorithm>
 
@@ -71,22 +74,6 @@ private:
 QString inFolder(const QString& folder, const QString& name)
 {
     return QDir::isAbsolutePath(name) ? name : QDir::cleanPath(folder + QLatin1Char('/') + name);
-}
-
-/// Whether one character too many, too few or wrong, or two that changed places, make one name of the other.
-bool isSlip(const QString& a, const QString& b)
-{
-    int begin = 0;
-    while (begin < a.size() && begin < b.size() && a.at(begin) == b.at(begin))
-        ++begin;
-    int end = 0;
-    while (end < a.size() - begin && end < b.size() - begin && a.at(a.size() - 1 - end) == b.at(b.size() - 1 - end))
-        ++end;
-    const QString fromA = a.mid(begin, a.size() - begin - end);
-    const QString fromB = b.mid(begin, b.size() - begin - end);
-    const bool areSwapped
-            = fromA.size() == 2 && fromB.size() == 2 && fromA.at(0) == fromB.at(1) && fromA.at(1) == fromB.at(0);
-    return (fromA.size() <= 1 && fromB.size() <= 1) || areSwapped;
 }
 
 QString versionOf(const UiImport& import)
@@ -170,6 +157,9 @@ void PageSet::readModule(const PageFile& file, const UiImport& import, FileImpor
     }
     if (module) {
         takeModule(*module, prefix, imports);
+        // A file of the module itself uses what the module keeps to itself.
+        if (module->files.contains(QFileInfo(file.path()).completeBaseName()))
+            imports->isComplete = false;
     } else if (imports->singletons.contains(prefix + last)) {
         imports->types.insert(prefix + last);
     } else if (name != QLatin1String("QtQml")) {
@@ -236,6 +226,31 @@ void PageSet::takeFolder(const QString& folder, const QString& prefix, FileImpor
         imports->types.insert(prefix + type);
         imports->ownTypes.insert(prefix + type);
         imports->files.insert(prefix + type, inFolder(folder, name));
+    }
+    takeResources(folder, prefix, imports);
+}
+
+/// A program whose resources are listed here may have files of other folders beside the page.
+void PageSet::takeResources(const QString& folder, const QString& prefix, FileImports* imports)
+{
+    const QStringList lists = QDir(folder).entryList({QStringLiteral("*.qrc")}, QDir::Files);
+    for (const QString& list : lists) {
+        QFile file(inFolder(folder, list));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        QXmlStreamReader xml(&file);
+        while (!xml.atEnd()) {
+            if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != QLatin1String("file"))
+                continue;
+            const QString alias = xml.attributes().value(QLatin1String("alias")).toString();
+            const QString name = xml.readElementText(QXmlStreamReader::SkipChildElements);
+            const QString type = prefix + QFileInfo(alias.isEmpty() ? name : alias).completeBaseName();
+            if (!name.endsWith(QLatin1String(".qml")) || imports->types.contains(type))
+                continue;
+            imports->types.insert(type);
+            imports->ownTypes.insert(type);
+            imports->files.insert(type, inFolder(folder, name));
+        }
     }
 }
 

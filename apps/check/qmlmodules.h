@@ -43,7 +43,8 @@ public:
 
 private:
     std::unique_ptr<QmlModule> read(const QString& folder);
-    void readDescription(const QString& file, QmlModule* module);
+    /// Reads a description of types, or a type that is a QML file. False if it cannot be read.
+    bool readTypes(const QString& file, QmlModule* module);
 
     const int m_foldersOfUser;
     QStringList m_folders;

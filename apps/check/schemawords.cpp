@@ -1,6 +1,6 @@
 #include "check/schemawords.h"
 
-#include "check/pageitems.h"
+#include "check/wording.h"
 #include "common/nearest.h"
 
 #include <QHash>

@@ -64,7 +64,7 @@ kivctl      apps/kivctl                     base contract embedded bus replay co
 viewer      apps/pdf_viewer                 base common
 demo        apps/demo                       LIBRARY base contract embedded replay common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
-qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common audit host inspector
+qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common audit host inspector check names
 inspecttool apps/uiutils-inspector          LIBRARY base contract embedded replay common host inspector
 expage      examples/page                   host
 exform      examples/form                   LIBRARY contract host

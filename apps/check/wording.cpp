@@ -1,0 +1,48 @@
+#include "check/wording.h"
+
+#include "common/nearest.h"
+
+#include <algorithm>
+
+namespace uiutils::check {
+
+QString proposal(const QStringList& names)
+{
+    if (names.isEmpty())
+        return QString();
+    QString list = names.mid(0, names.size() - 1).join(QLatin1String(", "));
+    if (!list.isEmpty())
+        list += QLatin1String(" or ");
+    return QLatin1String(" Did you mean ") + list + names.constLast() + QLatin1Char('?');
+}
+
+QString proposal(const QString& wanted, const QStringList& known)
+{
+    return proposal(apps::nearest(wanted, known));
+}
+
+QString enumeration(QStringList names)
+{
+    constexpr int most = 8;
+    std::sort(names.begin(), names.end());
+    const int more = names.size() - most;
+    const QString list = names.mid(0, most).join(QLatin1String(", "));
+    return more > 0 ? QStringLiteral("%1 and %2 more").arg(list, QString::number(more)) : list;
+}
+
+bool isSlip(const QString& a, const QString& b)
+{
+    int begin = 0;
+    while (begin < a.size() && begin < b.size() && a.at(begin) == b.at(begin))
+        ++begin;
+    int end = 0;
+    while (end < a.size() - begin && end < b.size() - begin && a.at(a.size() - 1 - end) == b.at(b.size() - 1 - end))
+        ++end;
+    const QString fromA = a.mid(begin, a.size() - begin - end);
+    const QString fromB = b.mid(begin, b.size() - begin - end);
+    const bool areSwapped
+            = fromA.size() == 2 && fromB.size() == 2 && fromA.at(0) == fromB.at(1) && fromA.at(1) == fromB.at(0);
+    return (fromA.size() <= 1 && fromB.size() <= 1) || areSwapped;
+}
+
+} // namespace uiutils::check
