@@ -1,6 +1,6 @@
 #include "check/servicenames.h"
 
-#include "check/schemawords.h"
+#include "check/jsonwords.h"
 
 #include "core/dynamicobject_p.h"
 #include "service/applicability_p.h"

@@ -228,6 +228,23 @@ private Q_SLOTS:
             QVERIFY2(finding.message.size() < 1000, qPrintable(finding.message));
     }
 
+    /// Qt's reader would only say that it has met a wrong character.
+    void encodings_data()
+    {
+        addColumns<QByteArray, QByteArray>();
+        QTest::newRow("too long for what it says") << QByteArray("\xc0\xaf") << QByteArray("0xc0");
+        QTest::newRow("a surrogate") << QByteArray("\xed\xa0\x80") << QByteArray("0xed");
+        QTest::newRow("beyond the last character") << QByteArray("\xf4\x90\x80\x80") << QByteArray("0xf4");
+        QTest::newRow("cut") << QByteArray("\xe2\x82") << QByteArray("0xe2");
+    }
+    void encodings()
+    {
+        const auto [bytes, wrong] = currentRow<QByteArray, QByteArray>();
+        const QVector<Finding> findings = findingsIn("{ \"title\": \"" + bytes + "\", \"service\": \"b\", \"items\": [] }");
+        QCOMPARE(findings.size(), 1);
+        QVERIFY2(findings.at(0).message.contains("UTF-8") && findings.at(0).message.contains(wrong), qPrintable(findings.at(0).message));
+    }
+
     /// Ids of every script can be written, and what cannot be is told in one line.
     void namesOfAllScripts()
     {
