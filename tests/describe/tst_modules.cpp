@@ -123,9 +123,9 @@ private Q_SLOTS:
         QVERIFY(singleton(range).contains("    /// Range\n    /// Setting, a number, 0.5 to 260 km\n    /// :config:optical:range:\n"
                                           "    readonly property KivData cfg_range: null\n"));
         range.kind = ItemFacts::Table;
-        QVERIFY(singleton(range).contains("property KivListAggregateData cfg_range"));
+        QVERIFY(singleton(range).contains("/// Setting, a table"));
         range.kind = ItemFacts::Aggregate;
-        QVERIFY(singleton(range).contains("property KivAggregateData cfg_range"));
+        QVERIFY(singleton(range).contains("/// Setting, an aggregate"));
         ItemFacts text = item("optical", ":result:optical:text:", "res_text");
         text.type = "std::string";
         text.maximum = 20;

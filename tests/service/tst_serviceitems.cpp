@@ -127,6 +127,10 @@ private Q_SLOTS:
         QCOMPARE(object->property("service").value<Manifest*>()->getServiceName(), QString("com.example.rec"));
         QCOMPARE(object->property("seen"), QVariant("Mode 3"));
         QCOMPARE(object->property("cfg_mode_Auto"), QVariant(1));
+        object->setProperty("tag", "xyz");
+        QCOMPARE(object->property("seen"), QVariant(" 4"));
+        object->setProperty("tag", "rec");
+        QCOMPARE(object->property("seen"), QVariant("Mode 3"));
         // Nobody else can write them.
         QVERIFY(!object->setProperty("cfg_mode", QVariant::fromValue<QObject*>(nullptr)));
         QVERIFY(wrapperAt(object, "cfg_mode"));

@@ -1,4 +1,4 @@
-#include "service/serviceitems_p.h"
+#include "service/serviceitems.h"
 
 #include "service/itemregistry_p.h"
 #include "service/kivdata_p.h"
@@ -164,7 +164,13 @@ QString ServiceItems::tag() const
 
 void ServiceItems::setTag(const QString& tag)
 {
+    if (d->tag == tag)
+        return;
+    const QPointer<ServiceItems> self(this);
     d->tag = tag;
+    Q_EMIT tagChanged();
+    if (self)
+        d->look(itemregistry::Told::Changes);
 }
 
 Manifest* ServiceItems::service() const
