@@ -14,9 +14,9 @@
 #include "common/complaint.h"
 #include "common/displaysetup.h"
 #include "inspector/inspectorpanel.h"
+#include "languages/languages.h"
 #include "service/kivdata.h"
 #include "service/manifest.h"
-#include "languages/languages.h"
 #include "ui_host/describedservices_p.h"
 #include "ui_host/host.h"
 
@@ -38,8 +38,8 @@ using qmltool::Options;
 using qmltool::Page;
 using qmltool::PageModules;
 using qmltool::PageReload;
-using qmltool::Translations;
 using qmltool::PageWindow;
+using qmltool::Translations;
 
 namespace {
 
