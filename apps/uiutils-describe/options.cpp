@@ -106,7 +106,10 @@ Options readOptions(const QStringList& arguments)
     if (line.outcome != apps::CommandLine::Run)
         return apps::ended<Options>(line);
     QString problem = apps::missingName(parser, named);
-    const std::optional<PlatformKind> kind = chosenPlatform(PlatformKind::Embedded, &problem);
+    // What the command line says counts, whatever the environment says.
+    const bool isChosen = parser.isSet(bus) || parser.isSet(services);
+    const std::optional<PlatformKind> kind
+            = isChosen ? PlatformKind::Embedded : chosenPlatform(PlatformKind::Embedded, &problem);
     if (!problem.isEmpty())
         return misused(problem);
     const bool areCatalogues = parser.isSet(catalogues);
@@ -122,7 +125,7 @@ Options readOptions(const QStringList& arguments)
         return misused(QStringLiteral("--bus and --services exclude each other."));
 
     Options options;
-    options.isBus = parser.isSet(bus) || (kind == PlatformKind::Bus && !parser.isSet(services));
+    options.isBus = parser.isSet(bus) || kind == PlatformKind::Bus;
     options.services = parser.isSet(services) ? parser.values(services) : defaultServiceFolders();
     (areCatalogues ? options.catalogues : options.wanted) = parser.positionalArguments();
     options.output = QDir::cleanPath(QDir().absoluteFilePath(parser.value(output)));
