@@ -57,6 +57,14 @@
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>يتطلب --screen حجمًا من %1 إلى %2 بكسل وكثافة من %3 إلى %4 نقطة في البوصة، مثل 1024x600@170.</translation>
     </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>يتطلب --from عددًا من الثواني.</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>يتطلب --speed عددًا من 0.001 إلى 1000000.</translation>
+    </message>
 </context>
 <context>
     <name>ControlsStyle</name>

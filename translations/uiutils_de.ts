@@ -57,6 +57,14 @@
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>--screen braucht eine Größe von %1 bis %2 Pixeln und eine Auflösung von %3 bis %4 Punkten je Zoll, zum Beispiel 1024x600@170.</translation>
     </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>--from braucht eine Anzahl von Sekunden.</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>--speed braucht eine Zahl von 0.001 bis 1000000.</translation>
+    </message>
 </context>
 <context>
     <name>ControlsStyle</name>

@@ -57,6 +57,14 @@
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>--screen necesita un tamaño de %1 a %2 píxeles y una densidad de %3 a %4 puntos por pulgada, por ejemplo 1024x600@170.</translation>
     </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>--from necesita un número de segundos.</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>--speed necesita un número de 0.001 a 1000000.</translation>
+    </message>
 </context>
 <context>
     <name>ControlsStyle</name>

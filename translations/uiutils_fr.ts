@@ -57,6 +57,14 @@
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>--screen exige une taille de %1 à %2 pixels et une densité de %3 à %4 points par pouce, par exemple 1024x600@170.</translation>
     </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>--from exige un nombre de secondes.</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>--speed exige un nombre de 0.001 à 1000000.</translation>
+    </message>
 </context>
 <context>
     <name>ControlsStyle</name>

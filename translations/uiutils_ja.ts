@@ -57,6 +57,14 @@
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>--screen には %1 ～ %2 ピクセルのサイズと %3 ～ %4 dpi の密度が必要です (例: 1024x600@170)。</translation>
     </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>--from には秒数が必要です。</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>--speed には 0.001 ～ 1000000 の数が必要です。</translation>
+    </message>
 </context>
 <context>
     <name>ControlsStyle</name>

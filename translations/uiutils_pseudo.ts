@@ -57,6 +57,14 @@
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>[--screen ñééđš å šîžé öf %1 ţö %2 pîxéļš åñđ å đéñšîţý öf %3 ţö %4 đöţš péŕ îñçĥ, šûçĥ åš 1024x600@170. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>[--from ñééđš å ñûmbéŕ öf šéçöñđš. ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>[--speed ñééđš å ñûmbéŕ fŕöm 0.001 ţö 1000000. ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>ControlsStyle</name>
