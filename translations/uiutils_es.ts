@@ -3238,6 +3238,54 @@ Carpeta: %2</translation>
         <source>Received Power</source>
         <translation>Potencia recibida</translation>
     </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>Mbit/s</translation>
+    </message>
+    <message>
+        <source>The calibration can only be set at the factory.</source>
+        <translation>La calibración solo puede ajustarse en fábrica.</translation>
+    </message>
+    <message>
+        <source>The calibration needs a reference fiber. Connect one and try again.</source>
+        <translation>La calibración necesita una fibra de referencia. Conecte una e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>There is no light on the fiber. Check the connector, and start again.</source>
+        <translation>No hay luz en la fibra. Compruebe el conector y empiece de nuevo.</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>km</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>nm</translation>
+    </message>
+    <message>
+        <source>ns</source>
+        <translation>ns</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>

@@ -3238,6 +3238,54 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>Received Power</source>
         <translation>[Ŕéçéîvéđ Pöŵéŕ ~ ~]</translation>
     </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>[Mbîţ/š ~]</translation>
+    </message>
+    <message>
+        <source>The calibration can only be set at the factory.</source>
+        <translation>[Ţĥé çåļîbŕåţîöñ çåñ öñļý bé šéţ åţ ţĥé fåçţöŕý. ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The calibration needs a reference fiber. Connect one and try again.</source>
+        <translation>[Ţĥé çåļîbŕåţîöñ ñééđš å ŕéféŕéñçé fîbéŕ. Çöññéçţ öñé åñđ ţŕý åĝåîñ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>There is no light on the fiber. Check the connector, and start again.</source>
+        <translation>[Ţĥéŕé îš ñö ļîĝĥţ öñ ţĥé fîbéŕ. Çĥéçķ ţĥé çöññéçţöŕ, åñđ šţåŕţ åĝåîñ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>[đß ~]</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>[đßm ~]</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>[ķm ~]</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>[mš ~]</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>[ñm ~]</translation>
+    </message>
+    <message>
+        <source>ns</source>
+        <translation>[ñš ~]</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
