@@ -59,11 +59,11 @@
     </message>
     <message>
         <source>--from needs a number of seconds.</source>
-        <translation>--from demande un nombre de secondes.</translation>
+        <translation>--from exige un nombre de secondes.</translation>
     </message>
     <message>
         <source>--speed needs a number from 0.001 to 1000000.</source>
-        <translation>--speed demande un nombre de 0.001 à 1000000.</translation>
+        <translation>--speed exige un nombre de 0.001 à 1000000.</translation>
     </message>
 </context>
 <context>
