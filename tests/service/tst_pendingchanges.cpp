@@ -405,7 +405,7 @@ private Q_SLOTS:
         const QVariantMap none;
         QTest::newRow("text") << "std::string" << none << QVariant("A") << QVariant("B") << "A>B";
         QTest::newRow("number") << "int" << none << QVariant(1000) << QVariant(-2000) << "1.000 dB>-2.000 dB";
-        QTest::newRow("decimals") << "double" << QVariantMap {{"precision", 2}} << QVariant(1.5) << QVariant(2) << "1,50 dB>2 dB";
+        QTest::newRow("decimals") << "double" << QVariantMap {{"precision", 2}} << QVariant(1.5) << QVariant(2) << "1,50 dB>2,00 dB";
         QTest::newRow("any decimals") << "double" << none << QVariant(1.5) << QVariant(0.125) << "1,5 dB>0,125 dB";
         QTest::newRow("list") << "std::vector<double>" << none << QVariant(QVariantList {1.5}) << QVariant(QVariantList {1.5, 2.0})
                               << "1,5 dB>1,5, 2 dB";

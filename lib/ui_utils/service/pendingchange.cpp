@@ -32,6 +32,15 @@ bool isNumber(const QVariant& value)
     }
 }
 
+/// A number as the type that the service uses: pages set 3 where the service means 3.000.
+QVariant asTypeOf(const QVariant& value, const QVariant& served)
+{
+    QVariant converted = value;
+    return isNumber(value) && isNumber(served) && converted.convert(served.userType()) && meansSame(converted, value)
+            ? converted
+            : value;
+}
+
 bool isList(const QVariant& value)
 {
     return value.userType() == QMetaType::QVariantList || value.userType() == QMetaType::QStringList;
@@ -115,7 +124,7 @@ bool renew(PendingChange& change)
     if (parts->item) {
         change.label = item.getLabel().isEmpty() ? item.getName() : item.getLabel();
         change.oldText = settingText(item, change.oldValue);
-        change.newText = settingText(item, change.newValue);
+        change.newText = settingText(item, asTypeOf(change.newValue, change.oldValue));
     } else if (change.label.isEmpty()) {
         // It was made while the service was away.
         change.label = itemids::nameOf(change.id);
