@@ -1,6 +1,7 @@
 #include "options.h"
 #include "page.h"
 #include "pageaudit.h"
+#include "pagemodules.h"
 #include "pagereload.h"
 #include "pagetest.h"
 #include "pagetranslations.h"
@@ -15,6 +16,8 @@
 #include "inspector/inspectorpanel.h"
 #include "service/kivdata.h"
 #include "service/manifest.h"
+#include "languages/languages.h"
+#include "ui_host/describedservices_p.h"
 #include "ui_host/host.h"
 
 #include <QGuiApplication>
@@ -33,7 +36,9 @@ using apps::exitFailed;
 using inspector::InspectorPanel;
 using qmltool::Options;
 using qmltool::Page;
+using qmltool::PageModules;
 using qmltool::PageReload;
+using qmltool::Translations;
 using qmltool::PageWindow;
 
 namespace {
@@ -84,17 +89,27 @@ void work(QQmlEngine* engine, QQuickWindow* window, const Surroundings& around, 
 }
 
 /// An engine that knows the services and nothing of a page.
-std::unique_ptr<QQmlEngine> makeEngine(Host& host, const Options& options)
+std::unique_ptr<QQmlEngine> makeEngine(Host& host, PageModules& modules, const Options& options)
 {
     auto engine = std::make_unique<QQmlEngine>();
     host.showTo(engine.get());
     for (const QString& folder : options.importFolders)
         engine->addImportPath(folder);
+    modules.showTo(engine.get());
     QObject::connect(engine.get(), &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     QObject::connect(engine.get(), &QQmlEngine::exit, qApp, &QCoreApplication::exit, Qt::QueuedConnection);
     if (options.screen.dotsPerInch > 0)
         apps::useDensity(engine.get(), options.screen.dotsPerInch);
     return engine;
+}
+
+std::unique_ptr<Page> loadPage(Host& host, PageModules& modules, const Options& options)
+{
+    auto page = std::make_unique<Page>(makeEngine(host, modules, options), options.page);
+    if (!modules.help(page->error()))
+        return page;
+    page.reset();
+    return std::make_unique<Page>(makeEngine(host, modules, options), options.page);
 }
 
 /// Null, after an error message, when the panel could not be made.
@@ -119,6 +134,7 @@ int show(Host& host, const Surroundings& around, const Options& options)
     const std::unique_ptr<InspectorPanel> panel = options.isInspected ? makePanel(host, options) : nullptr;
     if (options.isInspected && !panel)
         return exitFailed;
+    PageModules modules;
     PageWindow window(options.screen.size);
     if (panel)
         window.setPanel(panel->item());
@@ -127,8 +143,8 @@ int show(Host& host, const Surroundings& around, const Options& options)
     // Before the page is read, so that no change is missed.
     if (isUsed)
         reload.emplace(&host, &window, options.page, options.importFolders,
-                [&host, &options] { return makeEngine(host, options); });
-    auto page = std::make_unique<Page>(makeEngine(host, options), options.page);
+                [&host, &modules, &options] { return loadPage(host, modules, options); });
+    auto page = loadPage(host, modules, options);
     if (!page->root())
         return complain(page->error());
     window.show(std::move(page));
@@ -143,6 +159,13 @@ int show(Host& host, const Surroundings& around, const Options& options)
         around.desk->play(options);
     }
     return QCoreApplication::exec();
+}
+
+void complainOf(const Translations& translations)
+{
+    const QStringList problems = translations.problems();
+    for (const QString& problem : problems)
+        complain(problem);
 }
 
 /// Puts a recording in place of the service files, if the options name one. Returns false, having complained, when it
@@ -184,17 +207,25 @@ int main(int argc, char** argv)
     const apps::DisplaySetup display;
     apps::DisplaySetup::offerScreenKeyboard();
     const QGuiApplication application(argc, argv);
-    const qmltool::PageTranslations translations(options.page);
-    const QStringList problems = translations.problems();
-    for (const QString& problem : problems)
-        complain(problem);
+    Translations ofPage(qmltool::translationsOfPage(options.page));
+    const QStringList serviceFolders
+            = options.serviceFolders.isEmpty() ? defaultServiceFolders() : options.serviceFolders;
+    Translations ofServices(qmltool::translationsOfServices(serviceFolders));
+    complainOf(ofPage);
+    complainOf(ofServices);
     Surroundings around;
-    HostSetup setup {options.serviceFolders, options.root, {}, {}, translations.folders()};
+    HostSetup setup {options.serviceFolders, options.root, {}, {}, ofPage.folders()};
     if (!surround(options, &around, &setup))
         return exitFailed;
     Host host;
     if (!host.start(setup))
         return exitFailed;
+    Languages::instance()->setServiceFolders(ofServices.folders());
+    for (Translations* translations : {&ofPage, &ofServices})
+        translations->follow([translations] {
+            complainOf(*translations);
+            Languages::instance()->readAgain();
+        });
     if (!options.language.isEmpty() && !host.setLanguage(options.language))
         return complain(qmltool::Texts::tr("There is no language \"%1\".").arg(options.language));
     return options.page.isEmpty() ? list() : show(host, around, options);

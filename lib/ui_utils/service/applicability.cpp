@@ -353,6 +353,11 @@ private:
 
 } // namespace
 
+bool isQmlName(const QString& text)
+{
+    return !text.isEmpty() && nameEnd(text, 0) == text.size();
+}
+
 std::optional<QString> translatedApplicability(const QString& expression, const QString& tag, QString* problem)
 {
     // Far longer than anybody writes. The parser of the engine recurses as deep as the brackets are nested.

@@ -15,4 +15,7 @@ namespace uiutils {
 /// publishes must not run as a program. Anything else is rejected: nothing is returned, and `problem` has the reason.
 std::optional<QString> translatedApplicability(const QString& expression, const QString& tag, QString* problem);
 
+/// Whether QML reads the text as one name, reserved words aside.
+bool isQmlName(const QString& text);
+
 } // namespace uiutils

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class BaseFormatter;
 
@@ -19,5 +20,8 @@ namespace kiv::formatters {
 ///
 /// "decimal", "scientific" and "si" accept a unit after a colon: "si:V".
 BaseFormatter* create(const QString& name);
+
+/// The names that create() knows, without units.
+QStringList names();
 
 } // namespace kiv::formatters
