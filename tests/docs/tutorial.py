@@ -272,7 +272,7 @@ def check_step(prefix, work, before, step):
         return found
     desk = Desk(prefix, work, step)
     found += check_commands(step, (Desk(prefix, work, step, has_made=False), desk))
-    for check in (check_uses, check_audit, check_report):
+    for check in (check_check, check_uses, check_audit, check_report):
         found += check(desk)
     return found
 

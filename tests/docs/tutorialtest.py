@@ -23,6 +23,9 @@ PLANTED = [
     (1, [(PAGE, "## 1.", "word " * 1000 + "\n\n## 1.")], "the tutorial takes"),
     # The commands.
     (1, [(PAGE, "double\t40.0 m", "double\t41.0 m")], "prints\ncable_cfg_length\tdouble\t40.0 m"),
+    (1, [(PAGE, "<!-- hand:", "<!-- foot:")], "prints"),
+    (1, [(name, '"precision": 2 }', '"precision": 2, "unti": "dB" }') for name in (PAGE, STEPS + "1-service/cable.service.json")],
+     "uiutils-check says"),
     (2, [(PAGE, "uiutils-qml CablePage.qml", "uiutils-qml CablesPage.qml")], "ends with 1"),
     (7, [(STEPS + "7-test/golden/CablePage@2s.txt", "Fail", "Pass")], "CablePage@2s.txt differs"),
     (7, [(PAGE, "kivctl record", "kivctl recall")], "ends with 2"),
