@@ -15,6 +15,8 @@
 #include "inspector/inspectorpanel.h"
 #include "service/kivdata.h"
 #include "service/manifest.h"
+#include "languages/languages.h"
+#include "ui_host/describedservices_p.h"
 #include "ui_host/host.h"
 
 #include <QGuiApplication>
@@ -34,6 +36,7 @@ using inspector::InspectorPanel;
 using qmltool::Options;
 using qmltool::Page;
 using qmltool::PageReload;
+using qmltool::Translations;
 using qmltool::PageWindow;
 
 namespace {
@@ -145,6 +148,13 @@ int show(Host& host, const Surroundings& around, const Options& options)
     return QCoreApplication::exec();
 }
 
+void complainOf(const Translations& translations)
+{
+    const QStringList problems = translations.problems();
+    for (const QString& problem : problems)
+        complain(problem);
+}
+
 /// Puts a recording in place of the service files, if the options name one. Returns false, having complained, when it
 /// cannot be used.
 bool surround(const Options& options, Surroundings* around, HostSetup* setup)
@@ -184,17 +194,25 @@ int main(int argc, char** argv)
     const apps::DisplaySetup display;
     apps::DisplaySetup::offerScreenKeyboard();
     const QGuiApplication application(argc, argv);
-    const qmltool::PageTranslations translations(options.page);
-    const QStringList problems = translations.problems();
-    for (const QString& problem : problems)
-        complain(problem);
+    Translations ofPage(qmltool::translationsOfPage(options.page));
+    const QStringList serviceFolders
+            = options.serviceFolders.isEmpty() ? defaultServiceFolders() : options.serviceFolders;
+    Translations ofServices(qmltool::translationsOfServices(serviceFolders));
+    complainOf(ofPage);
+    complainOf(ofServices);
     Surroundings around;
-    HostSetup setup {options.serviceFolders, options.root, {}, {}, translations.folders()};
+    HostSetup setup {options.serviceFolders, options.root, {}, {}, ofPage.folders()};
     if (!surround(options, &around, &setup))
         return exitFailed;
     Host host;
     if (!host.start(setup))
         return exitFailed;
+    Languages::instance()->setServiceFolders(ofServices.folders());
+    for (Translations* translations : {&ofPage, &ofServices})
+        translations->follow([translations] {
+            complainOf(*translations);
+            Languages::instance()->readAgain();
+        });
     if (!options.language.isEmpty() && !host.setLanguage(options.language))
         return complain(qmltool::Texts::tr("There is no language \"%1\".").arg(options.language));
     return options.page.isEmpty() ? list() : show(host, around, options);

@@ -22,6 +22,7 @@
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
 #include "service/rowfilter.h"
+#include "service/serviceitems_p.h"
 #include "writers/pdffile/pdffile.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
@@ -32,18 +33,31 @@ namespace uiutils {
 
 namespace {
 
-QObject* userData(QQmlEngine*, QJSEngine*)
+/// An object that all engines have in common, for the engine that asks for it now. Qt then makes a context in that
+/// engine for the object, and warns when the object has one already. Nothing is evaluated in these contexts, so the one
+/// that Qt has made in another engine is removed. A context that the application has chosen stays.
+QObject* inCommon(QObject* object, QQmlEngine* engine)
 {
-    QQmlEngine::setObjectOwnership(UserData::getInstance(), QQmlEngine::CppOwnership);
-    return UserData::getInstance();
+    static QHash<const QObject*, QPointer<QQmlEngine>> engineOfContext;
+    QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
+    const QQmlContext* const context = QQmlEngine::contextForObject(object);
+    const bool isMadeByQt = context && context->engine() == engineOfContext.value(object);
+    if (isMadeByQt)
+        delete context;
+    if (!context || isMadeByQt)
+        engineOfContext.insert(object, engine);
+    return object;
+}
+
+QObject* userData(QQmlEngine* engine, QJSEngine*)
+{
+    return inCommon(UserData::getInstance(), engine);
 }
 
 QObject* languages(QQmlEngine* engine, QJSEngine*)
 {
-    Languages* const all = Languages::instance();
-    QQmlEngine::setObjectOwnership(all, QQmlEngine::CppOwnership);
-    all->follow(engine);
-    return all;
+    Languages::instance()->follow(engine);
+    return inCommon(Languages::instance(), engine);
 }
 
 template<typename Type> void registerOfManifest(const char* uri, const char* name)
@@ -67,6 +81,7 @@ void registerServiceTypes(const char* uri)
             uri, 1, 0, "BaseFormatter", QStringLiteral("Formatters come from the platform."));
     qmlRegisterType<KIVSignal>(uri, 1, 0, "KIVSignal");
     qmlRegisterType<RowFilter>(uri, 1, 0, "RowFilter");
+    qmlRegisterType<ServiceItems>(uri, 1, 0, "ServiceItems");
     qmlRegisterType<ForgivingValidator>(uri, 1, 0, "ForgivingValidator");
     qmlRegisterSingletonType<UserData>(uri, 1, 0, "UserData", userData);
 
@@ -81,10 +96,9 @@ template<typename Names> void registerCodes(const char* uri, const char* name)
             QStringLiteral("%1 has names for codes.").arg(QLatin1String(name)));
 }
 
-QObject* sharedContainer(QQmlEngine*, QJSEngine*)
+QObject* sharedContainer(QQmlEngine* engine, QJSEngine*)
 {
-    QQmlEngine::setObjectOwnership(UiDataContainer::shared(), QQmlEngine::CppOwnership);
-    return UiDataContainer::shared();
+    return inCommon(UiDataContainer::shared(), engine);
 }
 
 void registerLocalTypes(const char* uri)
@@ -98,10 +112,9 @@ void registerLocalTypes(const char* uri)
     qmlRegisterSingletonType<UiDataContainer>(uri, 1, 0, "UiDataContainer", sharedContainer);
 }
 
-QObject* notifications(QQmlEngine*, QJSEngine*)
+QObject* notifications(QQmlEngine* engine, QJSEngine*)
 {
-    QQmlEngine::setObjectOwnership(KIVNotificationModelManager::instance(), QQmlEngine::CppOwnership);
-    return KIVNotificationModelManager::instance();
+    return inCommon(KIVNotificationModelManager::instance(), engine);
 }
 
 QMap<QString, QString> textsOf(const QJSValue& object)

@@ -351,4 +351,5 @@ void Manifest::setQmlContext(QQmlContext* context)
     // Bindings may still use the one before, so each stays until the context is deleted.
     QObject::connect(context, &QObject::destroyed, names, [names] { delete names; });
     context->setContextObject(names);
+    itemregistry::tellNameUsers(itemregistry::Told::Changes);
 }

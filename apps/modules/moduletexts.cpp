@@ -1,0 +1,166 @@
+#include "modules/moduletexts.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace uiutils::modules {
+
+using names::ItemFacts;
+
+const QLatin1String mark("Made by uiutils-describe, which replaces this file.");
+
+namespace {
+
+constexpr int longestText = 200;
+constexpr int mostChoices = 20;
+
+/// One line of a comment, whatever the service says.
+QString plain(const QString& text)
+{
+    QString line = text;
+    for (QChar& character : line) {
+        if (!character.isPrint() && !character.isSurrogate())
+            character = QLatin1Char(' ');
+    }
+    line = line.simplified();
+    return line.size() > longestText ? line.left(longestText) + QChar(0x2026) : line;
+}
+
+QString numberText(const QVariant& number)
+{
+    return number.type() == QVariant::Double ? QString::number(number.toDouble(), 'g', QLocale::FloatingPointShortest)
+                                             : number.toString();
+}
+
+QString rangeOf(const ItemFacts& item)
+{
+    const QString unit = item.type == QLatin1String("std::string") ? QStringLiteral(" characters")
+            : item.unit.isEmpty()                                  ? QString()
+                                                                   : QLatin1Char(' ') + plain(item.unit);
+    const bool hasMinimum = item.minimum.isValid();
+    const bool hasMaximum = item.maximum.isValid();
+    if (hasMinimum && hasMaximum)
+        return numberText(item.minimum) + QStringLiteral(" to ") + numberText(item.maximum) + unit;
+    if (hasMinimum)
+        return QStringLiteral("at least ") + numberText(item.minimum) + unit;
+    if (hasMaximum)
+        return QStringLiteral("at most ") + numberText(item.maximum) + unit;
+    return item.unit.isEmpty() ? QString() : QStringLiteral("in ") + plain(item.unit);
+}
+
+QString choicesOf(const ItemFacts& item)
+{
+    QStringList texts;
+    for (int i = 0; i < std::min(item.choices.size(), mostChoices); ++i)
+        texts += QString::number(item.choices.at(i).value) + QLatin1Char(' ') + plain(item.choices.at(i).label);
+    if (item.choices.size() > mostChoices)
+        texts += QStringLiteral("and %1 more").arg(item.choices.size() - mostChoices);
+    return texts.join(QStringLiteral(", "));
+}
+
+QString kindOf(const ItemFacts& item)
+{
+    if (item.isAction())
+        return QStringLiteral("An action");
+    const QString type = item.isEnumeration ? QStringLiteral("choice")
+            : item.kind == ItemFacts::Table ? QStringLiteral("table")
+                                            : item.type;
+    return (item.isSetting() ? QStringLiteral("A setting, ") : QStringLiteral("A result, read-only, ")) + type;
+}
+
+/// The lines above the property of an item.
+QStringList documentationOf(const ItemFacts& item)
+{
+    QStringList lines {plain(item.label.isEmpty() ? item.name : item.label)};
+    QString facts = kindOf(item);
+    const QString limits = item.isEnumeration ? choicesOf(item) : rangeOf(item);
+    if (!limits.isEmpty())
+        facts += QStringLiteral(": ") + limits;
+    lines += facts;
+    lines += plain(item.id);
+    return lines;
+}
+
+QString wrapperType(const ItemFacts& item)
+{
+    switch (item.kind) {
+    case ItemFacts::Aggregate:
+        return QStringLiteral("KivAggregateData");
+    case ItemFacts::Table:
+        return QStringLiteral("KivListAggregateData");
+    case ItemFacts::Value:
+        break;
+    }
+    return QStringLiteral("KivData");
+}
+
+QString marked(const char* comment)
+{
+    return QLatin1String(comment) + QLatin1Char(' ') + mark + QLatin1Char('\n');
+}
+
+} // namespace
+
+QByteArray directoryText(const Module& module, const QString& import)
+{
+    return (marked("#")
+            + QStringLiteral("module %1\n"
+                             "singleton %2 1.0 %2.qml\n"
+                             "typeinfo plugins.qmltypes\n"
+                             "depends UiUtils 1.0\n")
+                      .arg(import, module.name))
+            .toUtf8();
+}
+
+QByteArray singletonText(const Module& module)
+{
+    QString text = marked("//");
+    text += QStringLiteral("pragma Singleton\n"
+                           "import UiUtils 1.0\n\n"
+                           "ServiceItems {\n"
+                           "    tag: \"%1\"\n")
+                    .arg(module.tag);
+    for (const Member& member : module.members) {
+        text += QLatin1Char('\n');
+        const QStringList lines = documentationOf(member.facts);
+        for (const QString& line : lines)
+            text += QStringLiteral("    /// ") + line + QLatin1Char('\n');
+        text += QStringLiteral("    readonly property %1 %2: null\n")
+                        .arg(wrapperType(member.facts), member.facts.memberName);
+        for (const Constant& constant : member.constants)
+            text += QStringLiteral("    readonly property int %1: %2 // %3\n")
+                            .arg(constant.name, QString::number(constant.value), plain(constant.label));
+    }
+    text += QStringLiteral("}\n");
+    return text.toUtf8();
+}
+
+QByteArray typesText(const Module& module, const QString& import)
+{
+    QString text = QStringLiteral("import QtQuick.tooling 1.2\n\n");
+    text.prepend(marked("//"));
+    text += QStringLiteral("Module {\n"
+                           "    dependencies: [\"UiUtils 1.0\"]\n"
+                           "    Component {\n"
+                           "        name: \"%2\"\n"
+                           "        prototype: \"uiutils::ServiceItems\"\n"
+                           "        exports: [\"%1/%2 1.0\"]\n"
+                           "        exportMetaObjectRevisions: [0]\n"
+                           "        isComposite: true\n"
+                           "        isCreatable: false\n"
+                           "        isSingleton: true\n")
+                    .arg(import, module.name);
+    const QString pointer = QStringLiteral("        Property { name: \"%1\"; type: \"%2\"; isReadonly: true; "
+                                           "isPointer: true }\n");
+    const QString number = QStringLiteral("        Property { name: \"%1\"; type: \"int\"; isReadonly: true }\n");
+    for (const Member& member : module.members) {
+        text += pointer.arg(member.facts.memberName, wrapperType(member.facts));
+        for (const Constant& constant : member.constants)
+            text += number.arg(constant.name);
+    }
+    text += QStringLiteral("    }\n}\n");
+    return text.toUtf8();
+}
+
+} // namespace uiutils::modules
