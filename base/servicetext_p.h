@@ -13,7 +13,7 @@ inline QString translatedServiceText(const QString& text, const QString& id = QS
 {
     if (text.isEmpty())
         return text;
-    return QCoreApplication::translate(serviceContext, text.toUtf8().constData(), id.toUtf8().constData());
+    return QCoreApplication::translate("ServiceItem", text.toUtf8().constData(), id.toUtf8().constData());
 }
 
 } // namespace uiutils

@@ -57,6 +57,14 @@
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>يتطلب --screen حجمًا من %1 إلى %2 بكسل وكثافة من %3 إلى %4 نقطة في البوصة، مثل 1024x600@170.</translation>
     </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>يحتاج --from إلى عدد من الثواني.</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>يحتاج --speed إلى عدد من 0.001 إلى 1000000.</translation>
+    </message>
 </context>
 <context>
     <name>ControlsStyle</name>
@@ -3257,6 +3265,54 @@ Folder: %2</source>
     <message>
         <source>Received Power</source>
         <translation>القدرة المستقبلة</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>Mbit/s</translation>
+    </message>
+    <message>
+        <source>The calibration can only be set at the factory.</source>
+        <translation>لا يمكن ضبط المعايرة إلا في المصنع.</translation>
+    </message>
+    <message>
+        <source>The calibration needs a reference fiber. Connect one and try again.</source>
+        <translation>تحتاج المعايرة إلى ليف مرجعي. وصّل ليفًا وحاول مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>There is no light on the fiber. Check the connector, and start again.</source>
+        <translation>لا يوجد ضوء في الليف. افحص الموصل وابدأ من جديد.</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>km</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>nm</translation>
+    </message>
+    <message>
+        <source>ns</source>
+        <translation>ns</translation>
     </message>
 </context>
 <context>

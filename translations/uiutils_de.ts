@@ -57,6 +57,14 @@
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>--screen braucht eine Größe von %1 bis %2 Pixeln und eine Auflösung von %3 bis %4 Punkten je Zoll, zum Beispiel 1024x600@170.</translation>
     </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>--from braucht eine Anzahl von Sekunden.</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>--speed braucht eine Zahl von 0.001 bis 1000000.</translation>
+    </message>
 </context>
 <context>
     <name>ControlsStyle</name>
@@ -3229,6 +3237,54 @@ Ordner: %2</translation>
     <message>
         <source>Received Power</source>
         <translation>Empfangsleistung</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>Mbit/s</translation>
+    </message>
+    <message>
+        <source>The calibration can only be set at the factory.</source>
+        <translation>Die Kalibrierung kann nur im Werk eingestellt werden.</translation>
+    </message>
+    <message>
+        <source>The calibration needs a reference fiber. Connect one and try again.</source>
+        <translation>Die Kalibrierung braucht eine Referenzfaser. Schließen Sie eine an und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>There is no light on the fiber. Check the connector, and start again.</source>
+        <translation>Auf der Faser ist kein Licht. Prüfen Sie den Stecker und starten Sie erneut.</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>km</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>nm</translation>
+    </message>
+    <message>
+        <source>ns</source>
+        <translation>ns</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,14 @@
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>--screen necesita un tamaño de %1 a %2 píxeles y una densidad de %3 a %4 puntos por pulgada, por ejemplo 1024x600@170.</translation>
     </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>--from necesita un número de segundos.</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>--speed necesita un número de 0.001 a 1000000.</translation>
+    </message>
 </context>
 <context>
     <name>ControlsStyle</name>
@@ -3229,6 +3237,54 @@ Carpeta: %2</translation>
     <message>
         <source>Received Power</source>
         <translation>Potencia recibida</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>Mbit/s</translation>
+    </message>
+    <message>
+        <source>The calibration can only be set at the factory.</source>
+        <translation>La calibración solo puede ajustarse en fábrica.</translation>
+    </message>
+    <message>
+        <source>The calibration needs a reference fiber. Connect one and try again.</source>
+        <translation>La calibración necesita una fibra de referencia. Conecte una e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>There is no light on the fiber. Check the connector, and start again.</source>
+        <translation>No hay luz en la fibra. Compruebe el conector y empiece de nuevo.</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>km</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>nm</translation>
+    </message>
+    <message>
+        <source>ns</source>
+        <translation>ns</translation>
     </message>
 </context>
 <context>

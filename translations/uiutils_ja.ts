@@ -57,6 +57,14 @@
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>--screen には %1 ～ %2 ピクセルのサイズと %3 ～ %4 dpi の密度が必要です (例: 1024x600@170)。</translation>
     </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>--from には秒数が必要です。</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>--speed には 0.001 から 1000000 までの数が必要です。</translation>
+    </message>
 </context>
 <context>
     <name>ControlsStyle</name>
@@ -3222,6 +3230,54 @@ Folder: %2</source>
     <message>
         <source>Received Power</source>
         <translation>受信パワー</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>Mbit/s</translation>
+    </message>
+    <message>
+        <source>The calibration can only be set at the factory.</source>
+        <translation>校正は工場でのみ設定できます。</translation>
+    </message>
+    <message>
+        <source>The calibration needs a reference fiber. Connect one and try again.</source>
+        <translation>校正には基準ファイバーが必要です。接続してからもう一度試してください。</translation>
+    </message>
+    <message>
+        <source>There is no light on the fiber. Check the connector, and start again.</source>
+        <translation>ファイバーに光がありません。コネクタを確認して、もう一度開始してください。</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>km</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>nm</translation>
+    </message>
+    <message>
+        <source>ns</source>
+        <translation>ns</translation>
     </message>
 </context>
 <context>

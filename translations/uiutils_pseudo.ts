@@ -57,6 +57,14 @@
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>[--screen ñééđš å šîžé öf %1 ţö %2 pîxéļš åñđ å đéñšîţý öf %3 ţö %4 đöţš péŕ îñçĥ, šûçĥ åš 1024x600@170. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>[--from ñééđš å ñûmbéŕ öf šéçöñđš. ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>[--speed ñééđš å ñûmbéŕ fŕöm 0.001 ţö 1000000. ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>ControlsStyle</name>
@@ -3229,6 +3237,54 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
     <message>
         <source>Received Power</source>
         <translation>[Ŕéçéîvéđ Pöŵéŕ ~ ~]</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>[Mbîţ/š ~]</translation>
+    </message>
+    <message>
+        <source>The calibration can only be set at the factory.</source>
+        <translation>[Ţĥé çåļîbŕåţîöñ çåñ öñļý bé šéţ åţ ţĥé fåçţöŕý. ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The calibration needs a reference fiber. Connect one and try again.</source>
+        <translation>[Ţĥé çåļîbŕåţîöñ ñééđš å ŕéféŕéñçé fîbéŕ. Çöññéçţ öñé åñđ ţŕý åĝåîñ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>There is no light on the fiber. Check the connector, and start again.</source>
+        <translation>[Ţĥéŕé îš ñö ļîĝĥţ öñ ţĥé fîbéŕ. Çĥéçķ ţĥé çöññéçţöŕ, åñđ šţåŕţ åĝåîñ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>[đß ~]</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>[đßm ~]</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>[ķm ~]</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>[mš ~]</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>[ñm ~]</translation>
+    </message>
+    <message>
+        <source>ns</source>
+        <translation>[ñš ~]</translation>
     </message>
 </context>
 <context>

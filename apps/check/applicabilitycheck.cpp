@@ -102,7 +102,9 @@ void ApplicabilityCheck::check(ServiceDocument* document, const ServiceItem& ite
                 QStringLiteral(
                         "The expression %1 cannot be read, so that the item would never be applicable: %2. Write it like "
                         "\"cfg.mode == 2 && res.state != 'idle'\".")
-                        .arg(quoted(expression.text), problem));
+                                .arg(quoted(expression.text), problem)
+                        + (problem.startsWith(QLatin1String("\"= ")) ? QStringLiteral(" Two equal signs compare.")
+                                                                     : QString()));
     const QVector<QString> names = itemNames(*translated);
     for (const QString& name : names)
         checkName(document, expression, name);

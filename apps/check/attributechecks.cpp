@@ -114,7 +114,7 @@ void AttributeCheck::checkFormatter(const JsonNode& value)
                         .arg(quoted(kind)));
     else if (!formatter)
         m_findings.error(value,
-                QStringLiteral("There is no formatter %1.").arg(quoted(value.text)) + proposal(kind, names)
+                QStringLiteral("There is no formatter %1.").arg(quoted(value.text)) + didYouMean(kind, names)
                         + QStringLiteral(" Allowed are %1.").arg(names.join(QLatin1String(", "))));
     else if (!(m_type & Numbers))
         m_findings.warn(value,
@@ -173,7 +173,7 @@ void AttributeCheck::checkScale(const JsonNode& value)
     if (isKind(value, JsonNode::Text, "\"log\", \"duration\" or \"date\"") && !scales.contains(value.text))
         m_findings.error(value,
                 QStringLiteral("There is no scale %1: it is \"log\", \"duration\" or \"date\".").arg(quoted(value.text))
-                        + proposal(value.text, scales));
+                        + didYouMean(value.text, scales));
 }
 
 void AttributeCheck::checkLimit(const JsonNode& value)
@@ -208,7 +208,7 @@ void AttributeCheck::checkName(const JsonNode& value)
     QStringList known;
     for (const NamedCheck& check : checks)
         known += QLatin1String(check.name);
-    const QString nearest = proposal(value.key, known);
+    const QString nearest = didYouMean(value.key, known);
     if (!nearest.isEmpty())
         m_findings.warn(
                 value.keyOffset, QStringLiteral("Nothing reads the attribute %1.").arg(quoted(value.key)) + nearest);

@@ -49,7 +49,11 @@ QString itemAt(int offset, const JsonNode* items)
         return QString();
     auto next = std::upper_bound(items->children.cbegin(), items->children.cend(), offset,
             [](int place, const JsonNode& item) { return place < item.offset; });
-    return next == items->children.cbegin() ? QString() : std::prev(next)->textOf("id").left(300);
+    QString id = next == items->children.cbegin() ? QString() : std::prev(next)->textOf("id").left(300);
+    // A finding is one line, whatever an id holds.
+    std::replace_if(
+            id.begin(), id.end(), [](QChar c) { return !c.isPrint() && !c.isSurrogate(); }, QLatin1Char(' '));
+    return id;
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include "embedded/descriptioncheck_p.h"
 #include "embedded/filedescription_p.h"
+#include "embedded/itemtypes_p.h"
 
 #include <QSet>
 
@@ -79,6 +80,11 @@ void ItemCheck::checkLimits()
 {
     const QVariant& minimum = m_description.minimum;
     const QVariant& maximum = m_description.maximum;
+    const bool isLimited = kiv::embedded::elementType(m_item.type) & (numbers | KIVClientItem::TypeString);
+    if (!isLimited && (minimum.isValid() || maximum.isValid()))
+        return m_findings.error(m_item.part(minimum.isValid() ? "minimum" : "maximum"),
+                QStringLiteral("A value of the type %1 has no limits: remove \"minimum\" and \"maximum\".")
+                        .arg(quoted(m_description.type)));
     if (minimum.isValid() && maximum.isValid() && minimum.toDouble() > maximum.toDouble())
         m_findings.error(m_item.part("minimum"),
                 QStringLiteral("\"minimum\" %1 is above \"maximum\" %2, so that no value would be allowed.")
@@ -180,8 +186,10 @@ void checkByPlatform(ServiceDocument* document, const ServiceItem& item)
     const bool hasPlace = problem.startsWith(QLatin1Char('/'));
     const QString reason = hasPlace ? problem.section(QLatin1String(": "), 1) : problem;
     const JsonNode* place = item.node->at(hasPlace ? problem.section(QLatin1String(": "), 0, 0) : QString());
-    const QString key = place->key.isEmpty() ? QStringLiteral("The item") : quoted(place->key);
-    document->findings.error(*place, QStringLiteral("%1 cannot be used: %2.").arg(key, reason));
+    if (place->key.isEmpty())
+        return document->findings.error(*place, QStringLiteral("The item cannot be used: %1.").arg(reason));
+    document->findings.error(*place,
+            QStringLiteral("%1 is %2, which cannot be used: %3.").arg(quoted(place->key), shownValue(*place), reason));
 }
 
 void checkDuplicates(ServiceDocument* document)

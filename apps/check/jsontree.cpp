@@ -135,7 +135,7 @@ bool Reader::failAtValue()
         return fail(m_at, QStringLiteral("A value is expected here, not %1.").arg(shown(m_text, m_at)));
     const QString small = word.toLower();
     if (small == QLatin1String("true") || small == QLatin1String("false") || small == QLatin1String("null"))
-        return fail(m_at, QStringLiteral("Write %1 in small letters.").arg(small));
+        return fail(m_at, QStringLiteral("Write %1 in small letters: %2.").arg(word, small));
     return fail(
             m_at, QStringLiteral("\"%1\" without quotation marks is no value: a text is written \"%1\".").arg(word));
 }
@@ -228,6 +228,8 @@ bool Reader::readMember(JsonNode* node, int depth)
     if (!isAt('"')) {
         if (m_at >= m_text.size())
             return fail(node->offset, QStringLiteral("The object that begins here has no end: '}' is missing."));
+        if (isAt('\'') || isWordCharacter(current()))
+            return fail(m_at, QStringLiteral("A key is written in double quotation marks, such as \"id\"."));
         return fail(m_at,
                 QStringLiteral("A key in double quotation marks is expected here, not %1.").arg(shown(m_text, m_at)));
     }

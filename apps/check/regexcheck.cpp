@@ -14,12 +14,15 @@ constexpr int textLength = 40;
 /// Of which texts are made that an expression may stumble over.
 constexpr int mostSamples = 8;
 
-bool repeatsTwice(const QString& pattern)
+/// Whether it may take long at all: it repeats a group, or several things.
+bool isSuspect(const QString& pattern)
 {
-    static const QRegularExpression repetition(QStringLiteral(R"(\\.|[*+]|\{\d+,\d*\})"));
+    static const QRegularExpression repetition(QStringLiteral(R"(\\.|\)?(?:[*+]|\{\d+,\d*\}))"));
     int count = 0;
-    for (auto it = repetition.globalMatch(pattern); it.hasNext();)
-        count += it.next().capturedView().startsWith(QLatin1Char('\\')) ? 0 : 1;
+    for (auto it = repetition.globalMatch(pattern); it.hasNext();) {
+        const QString found = it.next().captured();
+        count += found.startsWith(QLatin1Char('\\')) ? 0 : found.startsWith(QLatin1Char(')')) ? 2 : 1;
+    }
     return count > 1;
 }
 
@@ -58,6 +61,8 @@ QStringList trialTexts(const QString& pattern)
     for (const QChar character : characters) {
         if (!character.isLetterOrNumber())
             ends += character;
+        // The engine looks first whether the text has what must come last.
+        ends += character + ends.constFirst();
     }
     QStringList texts;
     for (const QString& end : qAsConst(ends)) {
@@ -72,7 +77,7 @@ QStringList trialTexts(const QString& pattern)
 /// Tried, not guessed: the engine itself counts its steps, so that the answer does not depend on the machine.
 bool isCostly(const QString& pattern)
 {
-    if (!repeatsTwice(pattern))
+    if (!isSuspect(pattern))
         return false;
     const QRegularExpression limited(
             QStringLiteral("(*LIMIT_MATCH=%1)").arg(mostSteps) + QRegularExpression::anchoredPattern(pattern));

@@ -1,5 +1,6 @@
 #include "check/schemawords.h"
 
+#include "check/pageitems.h"
 #include "common/nearest.h"
 
 #include <QHash>
@@ -93,7 +94,7 @@ public:
     {
     }
 
-    /// `name` is how the value is called, `condition` when the rule holds: ", as "type" is "int"".
+    /// `name` is how the value is called, `condition` when the rule holds: " where "type" is "int"".
     void check(const JsonNode& rule, const JsonNode& value, const QString& name, const QString& condition);
     QVector<Violation> take() { return m_violations; }
 
@@ -209,7 +210,7 @@ void Walk::checkEnum(const JsonNode& allowed, const JsonNode& value)
     }
     mustBe(value, QStringLiteral("be one of ") + words.join(QLatin1String(", ")));
     if (value.isText())
-        m_violations.last().message += proposal(value.text, texts);
+        m_violations.last().message += didYouMean(value.text, texts);
 }
 
 void Walk::checkNumber(const JsonNode& rule, const JsonNode& value)
@@ -331,7 +332,7 @@ void Walk::checkKeys(const JsonNode& rule, const JsonNode& value)
         if (properties->member(member.key))
             continue;
         const QString place = placeFor(member.key, *properties);
-        const QString hint = place.isEmpty() ? proposal(member.key, known)
+        const QString hint = place.isEmpty() ? didYouMean(member.key, known)
                                              : QStringLiteral(" It belongs into %1.").arg(quoted(place));
         tell(member.keyOffset,
                 QStringLiteral("The key %1 has no meaning here.").arg(quoted(member.key)) + hint
@@ -368,9 +369,9 @@ void Walk::checkCondition(const JsonNode& rule, const JsonNode& value, const QSt
             part.check(property, *member, QString(), QString());
         if (!member || !part.m_violations.isEmpty())
             return;
-        when += quoted(property.key) + QLatin1String(" ") + asWritten(*member);
+        when += quoted(property.key) + QLatin1String(" is ") + asWritten(*member);
     }
-    check(*then, value, name, QStringLiteral(" with ") + when.join(QLatin1String(" and ")));
+    check(*then, value, name, QStringLiteral(" where ") + when.join(QLatin1String(" and ")));
 }
 
 /// The branch is that of the value's kind.
@@ -396,6 +397,52 @@ void Walk::checkNot(const JsonNode& rule, const JsonNode& value)
             tell(member->keyOffset,
                     QStringLiteral("%1 has no meaning%2: remove it.").arg(quoted(key.text), m_condition));
     }
+}
+
+/// The word of an id, or of a name in an expression, that tells it from others.
+QString lastWord(const QString& name)
+{
+    static const QRegularExpression separators(QStringLiteral("[:.]+"));
+    const QStringList words = name.split(separators, Qt::SkipEmptyParts);
+    return words.value(words.size() - 1).toLower();
+}
+
+/// Whether two thirds of the letters are the same.
+bool isAlike(const QString& a, const QString& b)
+{
+    QString rest = a;
+    int common = 0;
+    for (const QChar character : b) {
+        const int at = rest.indexOf(character);
+        common += at >= 0 ? 1 : 0;
+        if (at >= 0)
+            rest.remove(at, 1);
+    }
+    return 3 * common > 2 * std::max(a.size(), b.size()) || (a.size() > 5 && b.contains(a));
+}
+
+/// The same word with other capitals, after another one, or cut, is likelier than all others.
+QStringList likely(const QString& wanted, const QStringList& known)
+{
+    constexpr int shortest = 3;
+    QStringList same;
+    QStringList cut;
+    for (const QString& name : known) {
+        if (name.compare(wanted, Qt::CaseInsensitive) == 0 || lastWord(name) == lastWord(wanted))
+            same += name;
+        else if (std::min(name.size(), wanted.size()) >= shortest
+                && (name.startsWith(wanted, Qt::CaseInsensitive) || wanted.startsWith(name, Qt::CaseInsensitive)))
+            cut += name;
+    }
+    if (!same.isEmpty() || !cut.isEmpty())
+        return (same.isEmpty() ? cut : same).mid(0, shortest);
+    QStringList names;
+    const QString word = lastWord(wanted);
+    for (const QString& name : apps::nearest(wanted, known)) {
+        if (isAlike(word, lastWord(name)))
+            names += name;
+    }
+    return names;
 }
 
 } // namespace
@@ -435,15 +482,12 @@ QString shownValue(const JsonNode& value)
     return QString();
 }
 
-QString proposal(const QString& wanted, const QStringList& known)
+QString didYouMean(const QString& wanted, const QStringList& known)
 {
-    const QStringList words = apps::nearest(wanted, known);
-    if (words.isEmpty())
-        return QString();
-    QStringList list;
-    for (const QString& word : words)
-        list += quoted(word);
-    return QStringLiteral(" Did you mean ") + list.join(QLatin1String(" or ")) + QLatin1Char('?');
+    QStringList names;
+    for (const QString& name : likely(wanted, known))
+        names += quoted(name);
+    return proposal(names);
 }
 
 QVector<Violation> violations(const JsonNode& schema, const JsonNode& document)

@@ -30,6 +30,6 @@ QString quoted(const QString& text);
 QString shownNumber(double number);
 
 /// " Did you mean "x" or "y"?" for the known words that are nearest; empty without one.
-QString proposal(const QString& wanted, const QStringList& known);
+QString didYouMean(const QString& wanted, const QStringList& known);
 
 } // namespace uiutils::check

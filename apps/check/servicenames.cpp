@@ -155,7 +155,7 @@ QString ServiceNames::proposalFor(const QString& contextName, const QString& own
     QStringList known;
     for (const QString& name : m_all)
         known += shortened(name, ownTag);
-    return proposal(shortened(contextName, ownTag), known);
+    return didYouMean(shortened(contextName, ownTag), known);
 }
 
 void checkNames(const Documents& documents, const ServiceNames& names)
@@ -176,7 +176,7 @@ void checkNames(const Documents& documents, const ServiceNames& names)
         else if (tags.contains(tag))
             document->findings.warn(*place,
                     QStringLiteral(
-                            "Pages name the items of this service by %1, and those of %2 too: items of the same name would hide each other.")
+                            "Pages name the items of this service by its last part, %1, and those of the service %2 too: items of the same name would hide each other.")
                             .arg(quoted(tag), quoted(tags.value(tag)->description.service)));
         else
             tags.insert(tag, document.get());

@@ -137,7 +137,7 @@ QString SimulationCheck::nearestId(const QString& id, bool (*suits)(const Servic
         if (suits(item))
             known += item.description.id;
     }
-    return proposal(id, known);
+    return didYouMean(id, known);
 }
 
 /// The platform reads it, also the file of values; its words are "/moves/KEY: REASON".
@@ -157,7 +157,7 @@ void SimulationCheck::checkMoves(const ServiceItem& item, const JsonNode& moves)
                 QStringLiteral("%1 in \"moves\": %2.")
                         .arg(quoted(place->key), reading.problem.section(QLatin1String(": "), 1)));
     } else if (!reading.hasValues) {
-        m_findings.error(item.node->member("moves")->member("file") ? *moves.member("file") : moves, reading.note);
+        m_findings.error(moves.member("file") ? *moves.member("file") : moves, reading.note);
     } else if (!reading.note.isEmpty()) {
         m_findings.warn(moves.member("file") ? *moves.member("file") : moves, reading.note);
     } else {
@@ -250,9 +250,15 @@ void SimulationCheck::checkValues(const JsonNode& values)
         return;
     for (const JsonNode& value : values.children) {
         const ServiceItem* item = m_document.item(value.key);
-        if (!item || !hasValue(*item)) {
+        if (item && !hasValue(*item)) {
             m_findings.error(value.keyOffset,
-                    QStringLiteral("%1 sets what does not exist: no item with a value has the id %2.")
+                    QStringLiteral("%1 sets %2, which is an action and has no value.")
+                            .arg(quoted(values.key), quoted(value.key)));
+            continue;
+        }
+        if (!item) {
+            m_findings.error(value.keyOffset,
+                    QStringLiteral("%1 sets what does not exist: no item has the id %2.")
                                     .arg(quoted(values.key), quoted(value.key))
                             + nearestId(value.key, hasValue));
             continue;
@@ -301,10 +307,10 @@ void SimulationCheck::checkRunning(const JsonNode& reference)
     const bool isAction = item && item->type == KIVClientItem::TypeAction;
     const QString message = isAction
             ? QStringLiteral(
-                    "The action %1 does not run: give its \"does\" the key \"runs\", or name an action that has it.")
-            : QStringLiteral("There is no action %1 that runs.");
+                    "the action %1 does not run. Give its \"does\" the key \"runs\", or name an action that has it.")
+            : QStringLiteral("there is no action %1 that runs.");
     m_findings.error(reference,
-            QStringLiteral("%1: ").arg(quoted(reference.key)) + message.arg(quoted(reference.text))
+            QStringLiteral("%1 cannot be followed: ").arg(quoted(reference.key)) + message.arg(quoted(reference.text))
                     + (isAction ? QString() : nearestId(reference.text, isRunning)));
 }
 
@@ -313,10 +319,10 @@ void SimulationCheck::checkProgress(const JsonNode& progress)
     const ServiceItem* item = m_document.item(progress.text);
     if (!item || !isNumber(*item))
         return m_findings.error(progress,
-                QStringLiteral("\"progress\": %1 %2.")
-                                .arg(item ? QStringLiteral("the item is no number:")
-                                          : QStringLiteral("there is no item"),
-                                        quoted(progress.text))
+                (item ? QStringLiteral("\"progress\" must name a number, but %1 is of the type %2.")
+                                        .arg(item->description.id, quoted(item->description.type))
+                      : QStringLiteral("\"progress\" must name a number, but there is no item %1.")
+                                        .arg(quoted(progress.text)))
                         + nearestId(progress.text, isNumber));
     const QVariant& maximum = item->description.maximum;
     if (maximum.isValid() && maximum.toDouble() < 100)

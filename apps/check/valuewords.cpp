@@ -51,8 +51,9 @@ QString textProblem(const ServiceItem& item, const QString& text, RegexCheck* re
     if (isOutside(text.size(), item))
         return QStringLiteral("The text %1 has %2 characters, which is outside %3.")
                 .arg(quoted(text), QString::number(text.size()), limitWords(item));
-    const QString pattern = item.description.attributes.value(QStringLiteral("regex")).toString();
-    if (pattern.isEmpty())
+    const QVariant regex = item.description.attributes.value(QStringLiteral("regex"));
+    const QString pattern = regex.toString();
+    if (pattern.isEmpty() || regex.userType() != QMetaType::QString)
         return QString();
     const RegexFacts& facts = regexes->facts(pattern);
     if (!facts.problem.isEmpty() || facts.isCostly || facts.form.match(text).hasMatch())

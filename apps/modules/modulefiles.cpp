@@ -56,6 +56,12 @@ bool isOurs(const QByteArray& contents)
     return contents.isEmpty() || contents.left(contents.indexOf('\n')).contains(mark.data());
 }
 
+QString refusal(const QString& path)
+{
+    return QStringLiteral("%1 was not made by uiutils-describe and is not replaced. Remove it, or name another place.")
+            .arg(QDir::toNativeSeparators(path));
+}
+
 /// Returns why it could not be written.
 QString writeModule(const Module& module, const Place& place)
 {
@@ -65,18 +71,18 @@ QString writeModule(const Module& module, const Place& place)
     for (const File& file : files) {
         const std::optional<QByteArray> present = contentsOf(folder + file.name);
         if (!present || !isOurs(*present))
-            return QStringLiteral("%1 was not made by uiutils-describe and is not replaced. Remove it, or name "
-                                  "another folder with --output.")
-                    .arg(QDir::toNativeSeparators(folder + file.name));
+            return refusal(folder + file.name);
         if (*present != file.contents)
             changed.append(file);
     }
-    if (!changed.isEmpty() && !makeFolderDurably(folder))
+    const bool isTemporary = place.kind == Place::Temporary;
+    if (!changed.isEmpty() && !(isTemporary ? QDir().mkpath(folder) : makeFolderDurably(folder)))
         return QStringLiteral("The folder %1 cannot be created.").arg(folder);
     QString error;
     for (const File& file : qAsConst(changed)) {
-        if (!writeFileDurably(folder + file.name, file.contents, &error))
-            return error;
+        const QString path = folder + file.name;
+        if (isTemporary ? !writeFileForNow(path, file.contents) : !writeFileDurably(path, file.contents, &error))
+            return isTemporary ? QStringLiteral("%1 cannot be written.").arg(path) : error;
     }
     return QString();
 }
@@ -108,7 +114,9 @@ QString writeResources(const QVector<Module>& modules, const Place& place, const
     }
     text += QStringLiteral("    </qresource>\n</RCC>\n");
     const std::optional<QByteArray> present = contentsOf(path);
-    if (present && *present == text.toUtf8())
+    if (!present || !isOurs(*present))
+        return refusal(path);
+    if (*present == text.toUtf8())
         return QString();
     QString error;
     return writeFileDurably(path, text.toUtf8(), &error) ? QString() : error;

@@ -10,10 +10,17 @@ namespace uiutils::modules {
 /// Where modules are written, and under which name pages import them.
 struct Place
 {
+    enum Kind {
+        Permanent,
+        /// Need not survive a power cut.
+        Temporary,
+    };
+
     /// An import path, which is created when it is missing.
     QString folder;
     /// The beginning of the modules' names, for example "Instrument".
     QString importName;
+    Kind kind = Permanent;
 };
 
 /// Writes the modules into their folders. A file that says already what it should is left as it is. A file that this

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int mostNamed = 3;
 /// QML numbers properties and their notifiers in 16 bits, and QObject's come first.
-constexpr int mostProperties = 16'000;
+constexpr int mostProperties = 16 * 1000;
 
 /// The choices that QML can spell; an item of the same name has precedence.
 QVector<Constant> constantsOf(const ItemFacts& item, const QMap<QString, ItemFacts>& others)

@@ -1,5 +1,6 @@
 #include "modules/moduletexts.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <algorithm>
@@ -53,20 +54,35 @@ QString choicesOf(const ItemFacts& item)
 {
     QStringList texts;
     for (int i = 0; i < std::min(item.choices.size(), mostChoices); ++i)
-        texts += QString::number(item.choices.at(i).value) + QLatin1Char(' ') + plain(item.choices.at(i).label);
+        texts += QStringLiteral("%1 (%2)").arg(
+                plain(item.choices.at(i).label), QString::number(item.choices.at(i).value));
     if (item.choices.size() > mostChoices)
         texts += QStringLiteral("and %1 more").arg(item.choices.size() - mostChoices);
     return texts.join(QStringLiteral(", "));
 }
 
+/// What people call a type.
+QString typeWords(const ItemFacts& item)
+{
+    static const QHash<QString, QString> words {{QStringLiteral("std::string"), QStringLiteral("a text")},
+            {QStringLiteral("bool"), QStringLiteral("true or false")},
+            {QStringLiteral("int"), QStringLiteral("a whole number")},
+            {QStringLiteral("uint"), QStringLiteral("a whole number from 0")},
+            {QStringLiteral("double"), QStringLiteral("a number")},
+            {QStringLiteral("std::vector<string>"), QStringLiteral("a list of texts")},
+            {QStringLiteral("std::vector<double>"), QStringLiteral("a list of numbers")}};
+    if (item.isEnumeration)
+        return QStringLiteral("one of");
+    if (item.kind == ItemFacts::Aggregate)
+        return QStringLiteral("an aggregate");
+    return item.kind == ItemFacts::Table ? QStringLiteral("a table") : words.value(item.type, plain(item.type));
+}
+
 QString kindOf(const ItemFacts& item)
 {
     if (item.isAction())
-        return QStringLiteral("An action");
-    const QString type = item.isEnumeration ? QStringLiteral("choice")
-            : item.kind == ItemFacts::Table ? QStringLiteral("table")
-                                            : item.type;
-    return (item.isSetting() ? QStringLiteral("A setting, ") : QStringLiteral("A result, read-only, ")) + type;
+        return QStringLiteral("Action");
+    return (item.isSetting() ? QStringLiteral("Setting, ") : QStringLiteral("Result, read-only, ")) + typeWords(item);
 }
 
 /// The lines above the property of an item.
@@ -76,7 +92,7 @@ QStringList documentationOf(const ItemFacts& item)
     QString facts = kindOf(item);
     const QString limits = item.isEnumeration ? choicesOf(item) : rangeOf(item);
     if (!limits.isEmpty())
-        facts += QStringLiteral(": ") + limits;
+        facts += (item.isEnumeration ? QStringLiteral(" ") : QStringLiteral(", ")) + limits;
     lines += facts;
     lines += plain(item.id);
     return lines;

@@ -1,5 +1,6 @@
 #include "options.h"
 
+#include "check/pagecheck.h"
 #include "check/servicecheck.h"
 #include "common/complaint.h"
 
@@ -13,6 +14,13 @@ using check::Finding;
 
 namespace {
 
+QVector<Finding> shownOf(QVector<Finding> findings, bool isQuiet)
+{
+    const auto isHidden = [isQuiet](const Finding& finding) { return isQuiet && finding.weight == Finding::Warning; };
+    findings.erase(std::remove_if(findings.begin(), findings.end(), isHidden), findings.end());
+    return findings;
+}
+
 int countOf(Finding::Weight weight, const QVector<Finding>& findings)
 {
     return int(std::count_if(
@@ -24,7 +32,7 @@ void print(const QByteArray& text)
     std::fwrite(text.constData(), 1, size_t(text.size()), stdout);
 }
 
-/// The findings, a line each, and how many there are.
+/// A line for each.
 QByteArray listOf(const QVector<Finding>& findings)
 {
     QByteArray text;
@@ -37,10 +45,8 @@ QVector<Finding> findingsFor(const checker::Options& options)
 {
     QVector<names::ItemFacts> items;
     QVector<Finding> findings = check::checkServices(options.services, &items);
-    if (options.isQuiet)
-        findings.erase(std::remove_if(findings.begin(), findings.end(),
-                               [](const Finding& finding) { return finding.weight == Finding::Warning; }),
-                findings.end());
+    findings += check::checkPages(options.pages, {options.importFolders, items});
+    check::sort(&findings);
     return findings;
 }
 
@@ -56,7 +62,8 @@ int main(int argc, char** argv)
         return *exitCode;
 
     const QVector<Finding> findings = findingsFor(options);
-    print(options.asJson ? check::toJson(findings) : listOf(findings));
+    const QVector<Finding> shown = shownOf(findings, options.isQuiet);
+    print(options.asJson ? check::toJson(shown) : listOf(shown));
     const int errors = countOf(Finding::Error, findings);
     const int warnings = countOf(Finding::Warning, findings);
     return errors > 0 || (options.isStrict && warnings > 0) ? apps::exitFailed : apps::exitDone;

@@ -6,6 +6,7 @@
 #include "modules/modulefiles.h"
 #include "modules/moduleplan.h"
 #include "names/itemfacts.h"
+#include "servicetexts/catalogueupdate.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -36,6 +37,24 @@ int writeModules(const Options& options)
     return problems.isEmpty() ? exitDone : exitFailed;
 }
 
+int updateCatalogues(const Options& options)
+{
+    const QStringList files = servicetexts::serviceFilesIn(options.services);
+    QStringList problems;
+    if (files.isEmpty())
+        problems += QStringLiteral("There is no service file in %1. Name a folder that has some, or a file, with --services.")
+                            .arg(options.services.join(QStringLiteral(", ")));
+    const servicetexts::ServiceTexts texts = servicetexts::textsOf(files, &problems);
+    // The texts of a file that cannot be read would count as vanished.
+    const QStringList summaries
+            = problems.isEmpty() ? servicetexts::updateCatalogues(options.catalogues, texts, &problems) : QStringList();
+    for (const QString& summary : summaries)
+        std::printf("%s\n", qUtf8Printable(summary));
+    for (const QString& problem : qAsConst(problems))
+        complain(problem);
+    return problems.isEmpty() ? exitDone : exitFailed;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -49,6 +68,8 @@ int main(int argc, char** argv)
     const Options options = describe::readOptions(QCoreApplication::arguments());
     if (const auto exitCode = apps::exitCodeOf(options))
         return *exitCode;
+    if (!options.catalogues.isEmpty())
+        return updateCatalogues(options);
     describe::Sources sources;
     return sources.open(options) ? writeModules(options) : exitFailed;
 }

@@ -19,6 +19,8 @@ struct Options : apps::CommandLine
     /// Absolute.
     QString output;
     QString importName;
+    /// Catalogues of translators to bring up to what the services say; empty for modules.
+    QStringList catalogues;
     /// The collection of resources to write, or empty.
     QString resources;
 };

@@ -1,6 +1,7 @@
 #include "options.h"
 #include "page.h"
 #include "pageaudit.h"
+#include "pagemodules.h"
 #include "pagereload.h"
 #include "pagetest.h"
 #include "pagetranslations.h"
@@ -35,6 +36,7 @@ using apps::exitFailed;
 using inspector::InspectorPanel;
 using qmltool::Options;
 using qmltool::Page;
+using qmltool::PageModules;
 using qmltool::PageReload;
 using qmltool::Translations;
 using qmltool::PageWindow;
@@ -87,17 +89,27 @@ void work(QQmlEngine* engine, QQuickWindow* window, const Surroundings& around, 
 }
 
 /// An engine that knows the services and nothing of a page.
-std::unique_ptr<QQmlEngine> makeEngine(Host& host, const Options& options)
+std::unique_ptr<QQmlEngine> makeEngine(Host& host, PageModules& modules, const Options& options)
 {
     auto engine = std::make_unique<QQmlEngine>();
     host.showTo(engine.get());
     for (const QString& folder : options.importFolders)
         engine->addImportPath(folder);
+    modules.showTo(engine.get());
     QObject::connect(engine.get(), &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     QObject::connect(engine.get(), &QQmlEngine::exit, qApp, &QCoreApplication::exit, Qt::QueuedConnection);
     if (options.screen.dotsPerInch > 0)
         apps::useDensity(engine.get(), options.screen.dotsPerInch);
     return engine;
+}
+
+std::unique_ptr<Page> loadPage(Host& host, PageModules& modules, const Options& options)
+{
+    auto page = std::make_unique<Page>(makeEngine(host, modules, options), options.page);
+    if (!modules.help(page->error()))
+        return page;
+    page.reset();
+    return std::make_unique<Page>(makeEngine(host, modules, options), options.page);
 }
 
 /// Null, after an error message, when the panel could not be made.
@@ -122,6 +134,7 @@ int show(Host& host, const Surroundings& around, const Options& options)
     const std::unique_ptr<InspectorPanel> panel = options.isInspected ? makePanel(host, options) : nullptr;
     if (options.isInspected && !panel)
         return exitFailed;
+    PageModules modules;
     PageWindow window(options.screen.size);
     if (panel)
         window.setPanel(panel->item());
@@ -130,8 +143,8 @@ int show(Host& host, const Surroundings& around, const Options& options)
     // Before the page is read, so that no change is missed.
     if (isUsed)
         reload.emplace(&host, &window, options.page, options.importFolders,
-                [&host, &options] { return makeEngine(host, options); });
-    auto page = std::make_unique<Page>(makeEngine(host, options), options.page);
+                [&host, &modules, &options] { return loadPage(host, modules, options); });
+    auto page = loadPage(host, modules, options);
     if (!page->root())
         return complain(page->error());
     window.show(std::move(page));

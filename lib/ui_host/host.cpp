@@ -69,7 +69,8 @@ struct Host::Private
     ServicesByName byName;
     QPointer<QQmlEngine> engine;
     QStringList problems;
-    std::unique_ptr<FolderWatch> translations;
+    QStringList translationFolders;
+    std::unique_ptr<FolderWatch> translationWatch;
 };
 
 bool Host::Private::startPlatform(const HostSetup& setup)
@@ -109,7 +110,8 @@ bool Host::start(const HostSetup& setup)
     if (d->platform)
         return false;
     const HostSetup complete = ServicePlatform::completed(setup);
-    Languages::instance()->setServiceFolders(translationsBeside(complete.serviceFolders));
+    d->translationFolders = translationsBeside(complete.serviceFolders);
+    Languages::instance()->setServiceFolders(d->translationFolders);
     Languages::instance()->open(setup.translationFolders);
     const bool isUsable = useRoot(complete.root, &d->problems) && d->startPlatform(complete);
     if (isUsable) {
@@ -138,8 +140,8 @@ void Host::followServiceFiles()
     if (!d->platform)
         return;
     d->platform->followFiles();
-    d->translations = std::make_unique<FolderWatch>(Languages::instance()->serviceFolders(),
-            QStringList(QStringLiteral("*.qm")), FolderWatch::ThisFolder,
+    d->translationWatch = std::make_unique<FolderWatch>(d->translationFolders, QStringList(QStringLiteral("*.qm")),
+            FolderWatch::ThisFolder,
             [](const QStringList&, bool) { Languages::instance()->readAgain(); });
 }
 

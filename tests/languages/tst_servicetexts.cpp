@@ -26,7 +26,7 @@ constexpr int patience = 60'000;
 // Units of their own and of formatters; ids in other scripts; the same word for two things.
 const QByteArray service = R"({ "service": "probe", "items": [
     { "id": ":config:probe:setup:mode:", "type": "int", "label": "Mode", "value": 1, "unit": "turns",
-      "choices": [{ "value": 0, "name": "Low", "label": "Low" }, { "value": 1, "name": "High", "label": "High" }] },
+      "choices": [{ "value": 0, "name": "Low", "label": "Low" }, { "value": 1, "name": "High" }] },
     { "id": ":config:probe:setup:steps:", "type": "double", "label": "Steps", "value": 4, "minimum": 0, "maximum": 10,
       "attributes": { "inputType": 11, "formatter": "decimal:steps" } },
     { "id": ":result:probe:test:speed:", "type": "double", "label": "Speed", "value": 2500, "attributes": { "formatter": "si:rev" } },

@@ -60,14 +60,15 @@ check       apps/check                      LIBRARY base contract formatters emb
 checktool   apps/uiutils-check              check common names
 modules     apps/modules                    base names
 audit       apps/audit                      -
+servicetexts apps/servicetexts              base contract embedded
 inspector   apps/inspector                  LIBRARY base contract embedded replay host
 kivd        apps/kivd                       base contract embedded bus common
 kivctl      apps/kivctl                     base contract embedded bus replay common host
 viewer      apps/pdf_viewer                 base common scene
 demo        apps/demo                       LIBRARY base contract embedded replay common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
-qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common audit host inspector
-describe    apps/uiutils-describe           LIBRARY base contract embedded bus common host names modules
+qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common names modules audit host inspector
+describe    apps/uiutils-describe           LIBRARY base contract embedded bus common host names modules servicetexts
 inspecttool apps/uiutils-inspector          LIBRARY base contract embedded replay common host inspector
 expage      examples/page                   host
 exform      examples/form                   LIBRARY contract host
@@ -77,6 +78,7 @@ explatform  examples/platform               contract host
 benchmarks  benchmarks                      LIBRARY podofo base contract embedded liveplot
 startbench  benchmarks/start                -
 openbench   benchmarks/inspector            LIBRARY base contract embedded replay host inspector
+checkbench  benchmarks/check                base contract embedded simulation benchmarks check names
 busbench    benchmarks/bus                  LIBRARY base contract embedded bus replay benchmarks
 """
 GROUPS = {"WRITERS": "emitter plots pdffile pages text modern csv html xml",
@@ -92,7 +94,7 @@ LIBRARIES = ("base/", "lib/", "platform/")
 # Programs of the tree that may use headers that are not installed; every other use is an exception below.
 # Programs may also use base, recordings and where the host's services come from, but not the demo and the examples, which show what can be built on an
 # installed library.
-INSIDERS = {"benchmarks", "busbench"}
+INSIDERS = {"benchmarks", "busbench", "checkbench"}
 SHARED_WITH_PROGRAMS = ("base/", "platform/reference/replay/", "lib/ui_host/")
 # Parts of libraries that hold no state, which these rooms link once more because the libraries hide them.
 LINKED_AGAIN = {"liveplot": "lib/ui_utils/writers/plots/",

@@ -239,6 +239,48 @@ private Q_SLOTS:
         QVERIFY(QDir(m_folder.filePath("translations")).removeRecursively());
     }
 
+    /// What services say is translated by what is beside their files, in each folder, and again when it is saved. It
+    /// brings no language.
+    void translationsBesideServices()
+    {
+        if (QStandardPaths::findExecutable("lrelease", {QLibraryInfo::location(QLibraryInfo::BinariesPath)}).isEmpty())
+            QSKIP("lrelease is not installed");
+        const auto write = [this](const QString& name, const QByteArray& text, const QByteArray& word) {
+            return writeFile(m_folder.filePath(name), "<TS version='2.1' language='de'><context><name>ServiceItem</name><message><source>" + text
+                            + "</source><translation>" + word + "</translation></message></context></TS>");
+        };
+        QStringList options {"--language", "de"};
+        for (const char* name : {"a", "b"}) {
+            writeFile(m_folder.filePath(QString("%1/%1.service.json").arg(name)), QByteArray(R"({ "service": "X", "items": [
+                { "id": ":result:X:t:", "type": "int", "label": "Label of X", "value": 1, "unit": "turns" }] })").replace('X', name));
+            options += {"--services", m_folder.filePath(name)};
+        }
+        write("a/translations/site_de.ts", "Label of a", "Wort a");
+        write("b/translations/site_de.ts", "Label of b", "Wort b");
+        write("b/translations/more_de.ts", "turns", "Runden");
+        write("b/translations/more_nl.ts", "turns", "ronden");
+        writeFile(m_folder.filePath("b/translations/broken_de.ts"), "<TS><context>");
+        QProcess process;
+        process.start(UIUTILS_QML_PROGRAM, QStringList {page(R"(Text {
+            property string shown: a_res_t.label + '|' + b_res_t.label + '|' + b_res_t.valueString + '|' + Languages.available.length
+            onShownChanged: console.log(shown)
+            Component.onCompleted: console.log('shows ' + shown) })"), "--root", m_folder.path()} + options);
+        QByteArray log;
+        const auto logs = [&](const QByteArray& words) {
+            log += process.readAllStandardError();
+            return log.contains(words);
+        };
+        QTRY_VERIFY2_WITH_TIMEOUT(logs("shows Wort a|Wort b|1 Runden|6"), log.constData(), 60000);
+        QVERIFY2(log.contains("broken_de.ts cannot be compiled: "), log.constData());
+        write("b/translations/site_de.ts", "Label of b", "Anders");
+        QTRY_VERIFY2_WITH_TIMEOUT(logs("Wort a|Anders|1 Runden|6"), log.constData(), 60000);
+        process.terminate();
+        QVERIFY(process.waitForFinished(60000));
+        options[1] = "nl";
+        const Outcome dutch = run(options + QStringList("--list"));
+        QVERIFY2(dutch.exitCode == 1 && dutch.errors.contains("no language \"nl\""), qPrintable(dutch.errors));
+    }
+
     /// The inspector stands beside the page, which keeps its size, or in a window of its own beside that of the page.
     void showsTheInspector()
     {

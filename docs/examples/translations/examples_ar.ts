@@ -77,6 +77,45 @@
     </message>
 </context>
 <context>
+    <name>CablePage</name>
+    <message>
+        <source>Cable test</source>
+        <translation>اختبار الكابل</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>الإعداد</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>تطبيق</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>تقرير</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>Cable test, %1</source>
+        <translation>اختبار الكابل، %1</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>النتائج</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>تم الحفظ: %1</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>

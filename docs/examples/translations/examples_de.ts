@@ -77,6 +77,45 @@
     </message>
 </context>
 <context>
+    <name>CablePage</name>
+    <message>
+        <source>Cable test</source>
+        <translation>Kabelprüfung</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Einrichtung</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cable test, %1</source>
+        <translation>Kabelprüfung, %1</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>

@@ -77,6 +77,45 @@
     </message>
 </context>
 <context>
+    <name>CablePage</name>
+    <message>
+        <source>Cable test</source>
+        <translation>Prueba de cable</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Cable test, %1</source>
+        <translation>Prueba de cable, %1</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Guardado: %1</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>

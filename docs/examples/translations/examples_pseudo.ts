@@ -77,6 +77,45 @@
     </message>
 </context>
 <context>
+    <name>CablePage</name>
+    <message>
+        <source>Cable test</source>
+        <translation>[Çåbļé ţéšţ ~]</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>[Šéţ-ûp ~]</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>[Ŕévéŕţ ~]</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>[Åppļý ~]</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>[Ŕépöŕţ ~]</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>[Šåvé ~]</translation>
+    </message>
+    <message>
+        <source>Cable test, %1</source>
+        <translation>[Çåbļé ţéšţ, %1 ~ ~]</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>[Ŕéšûļţš ~]</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>[Šåvéđ: %1 ~]</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>

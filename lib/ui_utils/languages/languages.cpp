@@ -156,11 +156,6 @@ void Languages::setServiceFolders(const QStringList& folders)
         readAgain();
 }
 
-QStringList Languages::serviceFolders() const
-{
-    return d->serviceFolders;
-}
-
 void Languages::readAgain()
 {
     if (!d->isOpen)

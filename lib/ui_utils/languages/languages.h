@@ -62,7 +62,6 @@ public:
     /// names the folders "translations" beside the service files; close() forgets all. While the languages are open,
     /// this reads the catalogues again.
     void setServiceFolders(const QStringList& folders);
-    QStringList serviceFolders() const;
     /// Reads all catalogues again, after some have been changed. Emits as open() does. The language stays; without a
     /// catalogue that can be read it becomes English.
     void readAgain();

@@ -98,7 +98,7 @@ QString withUnit(const QString& text, const ItemDescription& item)
 
 QString choiceLabel(const ItemDescription& item, const ChoiceDescription& choice)
 {
-    return choice.label.isEmpty() ? choice.name : uiutils::translatedServiceText(choice.label, item.id);
+    return uiutils::translatedServiceText(choice.label.isEmpty() ? choice.name : choice.label, item.id);
 }
 
 QString shownText(const QVariant& value, const QVector<MemberDescription>& members, int precision)

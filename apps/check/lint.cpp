@@ -1,0 +1,221 @@
+#include "check/lint.h"
+
+#include "check/expressions.h"
+#include "check/pagefile.h"
+#include "check/shallowvisitor.h"
+
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace uiutils::check {
+
+using namespace QQmlJS::AST;
+
+namespace {
+
+/// Where objects are made for the rows of a model, whose roles are names there.
+class RowReader : public ShallowVisitor
+{
+public:
+    bool isInRows(int line) const
+    {
+        return std::any_of(m_ranges.cbegin(), m_ranges.cend(),
+                [line](const Range& range) { return line >= range.first && line <= range.last; });
+    }
+
+protected:
+    bool visit(UiObjectDefinition* object) override
+    {
+        static const QSet<QString> makers {QStringLiteral("Repeater"), QStringLiteral("Instantiator"),
+                QStringLiteral("Component"), QStringLiteral("DelegateModel")};
+        if (makers.contains(lastName(object->qualifiedTypeNameId)))
+            enter(object);
+        return true;
+    }
+    bool visit(UiObjectBinding* binding) override
+    {
+        if (lastName(binding->qualifiedId).endsWith(QLatin1String("elegate")))
+            enter(binding);
+        return true;
+    }
+    bool visit(UiInlineComponent* component) override
+    {
+        enter(component);
+        return true;
+    }
+
+private:
+    struct Range
+    {
+        int first;
+        int last;
+    };
+    void enter(Node* node)
+    {
+        m_ranges.append({int(node->firstSourceLocation().startLine), int(node->lastSourceLocation().startLine)});
+    }
+
+    QVector<Range> m_ranges;
+};
+
+/// One complaint of the checker.
+struct Complaint
+{
+    QString text;
+    int line = 0;
+    int column = 0;
+    /// Whether the checker knows where the name comes from, and only advises to say so.
+    bool isAdvice = false;
+};
+
+QVector<Complaint> complaintsIn(const QString& output)
+{
+    static const QRegularExpression behind(QStringLiteral("^Warning: (.*) at (\\d+):(\\d+)\\.?$"));
+    static const QRegularExpression before(QStringLiteral("^Warning: (\\d+):(\\d+): (.*)$"));
+    QVector<Complaint> complaints;
+    const QStringList lines = output.split(QLatin1Char('\n'));
+    for (const QString& line : lines) {
+        const QRegularExpressionMatch atEnd = behind.match(line);
+        const QRegularExpressionMatch atBegin = before.match(line);
+        if (atEnd.hasMatch())
+            complaints.append({atEnd.captured(1), atEnd.captured(2).toInt(), atEnd.captured(3).toInt(), false});
+        else if (atBegin.hasMatch())
+            complaints.append({atBegin.captured(3), atBegin.captured(1).toInt(), atBegin.captured(2).toInt(), false});
+        else if (line.startsWith(QLatin1String("Note:")) && !complaints.isEmpty())
+            complaints.last().isAdvice = true;
+    }
+    return complaints;
+}
+
+/// The texts in quotation marks.
+QStringList quotedIn(const QString& text)
+{
+    QStringList quoted;
+    const QStringList parts = text.split(QLatin1Char('"'));
+    for (int i = 1; i < parts.size(); i += 2)
+        quoted += parts.at(i);
+    return quoted;
+}
+
+QString nameAt(const QString& code, int line, int column)
+{
+    static const QRegularExpression name(QStringLiteral("[A-Za-z_$][\\w$]*"));
+    const QString text = code.section(QLatin1Char('\n'), line - 1, line - 1);
+    return name.match(text, column - 1, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption)
+            .captured();
+}
+
+/// Turns complaints about one file into findings.
+class Translation
+{
+public:
+    Translation(const PageScope& scope, bool isPage, bool knowsTypes)
+        : m_scope(scope)
+        , m_isPage(isPage)
+        , m_knowsTypes(knowsTypes)
+    {
+        if (scope.file.root())
+            scope.file.root()->accept(&m_rows);
+    }
+
+    /// Without a message for what a user need not know.
+    Finding of(const Complaint& complaint) const
+    {
+        Finding finding {Finding::Warning, m_scope.file.path(), complaint.line, complaint.column, QString(), QString()};
+        const QStringList names = quotedIn(complaint.text);
+        if (complaint.text == QLatin1String("unqualified access")) {
+            finding.message = ofName(complaint);
+        } else if (complaint.text.startsWith(QLatin1String("Property "))) {
+            finding.message = ofProperty(names);
+        } else if (complaint.text.startsWith(QLatin1String("no matching signal"))) {
+            finding.weight = m_knowsTypes ? Finding::Error : Finding::Warning;
+            finding.message = QStringLiteral("The object has no signal for \"%1\", so this is never called.")
+                                      .arg(names.value(0));
+        } else if (complaint.text.startsWith(QLatin1String("with statements"))) {
+            finding.message = QStringLiteral("Leave out \"with\": nobody can tell what a name below it stands for.");
+        } else if (complaint.text.contains(QLatin1String("You cannot access"))) {
+            finding.message = QStringLiteral("\"%1\" has no members, so \"%2\" of it is undefined.")
+                                      .arg(names.value(0), names.constLast());
+        }
+        return finding;
+    }
+
+private:
+    QString ofName(const Complaint& complaint) const
+    {
+        const QString name = nameAt(m_scope.file.code(), complaint.line, complaint.column);
+        const bool isKnown = !tagInName(name).isEmpty() || name == QLatin1String("services")
+                || m_scope.names.isDeclared(name) || m_scope.names.isText(name)
+                || m_scope.names.of(m_scope.file).guarded.contains(name) || m_scope.imports.properties.contains(name);
+        if (complaint.isAdvice || name.isEmpty() || isKnown || !m_isPage || !m_scope.imports.isComplete
+                || m_rows.isInRows(complaint.line))
+            return QString();
+        return QStringLiteral(
+                "Nothing here has the name \"%1\": no item, and nothing that the checked files declare. Is "
+                "it misspelt? Only a program that sets it itself knows it.")
+                .arg(name);
+    }
+    QString ofProperty(const QStringList& names) const
+    {
+        // What an object of any class has is not known.
+        const bool isAnyObject = names.value(1).startsWith(QLatin1String("QObject"))
+                || names.value(1).startsWith(QLatin1String("QQmlPropertyMap"));
+        return isAnyObject || names.size() < 2 || !m_knowsTypes
+                ? QString()
+                : QStringLiteral("An object of type %1 has no property \"%2\".").arg(names.at(1), names.at(0));
+    }
+
+    const PageScope& m_scope;
+    const bool m_isPage;
+    const bool m_knowsTypes;
+    RowReader m_rows;
+};
+
+} // namespace
+
+QString lintProgram()
+{
+    const QString name = QStringLiteral("qmllint");
+    const QString ofQt = QLibraryInfo::location(QLibraryInfo::BinariesPath) + QLatin1Char('/') + name;
+    return QFileInfo(ofQt).isExecutable() ? ofQt : QStandardPaths::findExecutable(name);
+}
+
+QVector<Finding> findingsOfLint(const QString& output, const PageScope& scope, bool isPage)
+{
+    const bool knowsTypes = scope.imports.isComplete;
+    const Translation translation(scope, isPage, knowsTypes);
+    QVector<Finding> findings;
+    const QVector<Complaint> complaints = complaintsIn(output);
+    for (const Complaint& complaint : complaints) {
+        const Finding finding = translation.of(complaint);
+        if (!finding.message.isEmpty())
+            findings.append(finding);
+    }
+    return findings;
+}
+
+QVector<Finding> lint(const QString& program, const PageScope& scope, const QStringList& importFolders, bool isPage)
+{
+    constexpr int longestMs = 30000;
+    QStringList arguments {QStringLiteral("-U")};
+    for (const QString& folder : importFolders)
+        arguments << QStringLiteral("-I") << folder;
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.start(program, arguments << QFileInfo(scope.file.path()).absoluteFilePath());
+    if (!process.waitForFinished(longestMs)) {
+        process.kill();
+        process.waitForFinished();
+        return {{Finding::Warning, scope.file.path(), 0, 0, QString(),
+                QStringLiteral("%1 did not finish with this file.").arg(program)}};
+    }
+    return findingsOfLint(QString::fromLocal8Bit(process.readAll()), scope, isPage);
+}
+
+} // namespace uiutils::check
