@@ -24,7 +24,7 @@ KitPage {
             onClicked: pending.apply()
         }
     ]
-    Component.onCompleted: pending.enter(optical_cfg_offset, optical_cfg_offset.value + 100)
+    Component.onCompleted: pending.enter(optical_cfg_offset, 100)
 
     PendingChanges { id: pending; manifests: [services.optical] }
 
