@@ -23,7 +23,7 @@
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
 #include "service/rowfilter.h"
-#include "service/serviceitems_p.h"
+#include "service/serviceitems.h"
 #include "writers/pdffile/pdffile.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
