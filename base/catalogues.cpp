@@ -1,9 +1,11 @@
 #include "base/catalogues_p.h"
 
 #include "base/ownplace_p.h"
+#include "base/servicetext_p.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QRegularExpression>
 #include <QTranslator>
@@ -31,12 +33,52 @@ QString filePath(const QString& folder, const QString& name, const QString& code
     return folder + QLatin1Char('/') + name + QLatin1Char('_') + code + QLatin1String(".qm");
 }
 
-/// Without the file Qt would try other names. One that is damaged, perhaps half copied, has no texts.
-bool load(QTranslator& translator, const QString& file)
+/// More than any catalogue has.
+constexpr qint64 largestCatalogue = 64 * 1024 * 1024;
+
+/// Holds its catalogue in memory. Qt maps files, and a program that writes a mapped one anew ends those that read it.
+class HeldTranslator : public QTranslator
 {
-    if (!QFile::exists(file))
+public:
+    HeldTranslator() = default;
+    /// Other threads request texts too: the catalogue goes after nobody can find it.
+    ~HeldTranslator() override
+    {
+        if (QCoreApplication::instance())
+            QCoreApplication::removeTranslator(this);
+    }
+    Q_DISABLE_COPY_MOVE(HeldTranslator)
+
+    bool read(const QString& file)
+    {
+        QFile source(file);
+        if (!source.open(QIODevice::ReadOnly) || source.size() > largestCatalogue)
+            return false;
+        m_catalogue = source.readAll();
+        return load(reinterpret_cast<const uchar*>(m_catalogue.constData()), m_catalogue.size());
+    }
+
+private:
+    QByteArray m_catalogue;
+};
+
+/// Speaks for services only: whoever writes a service does not decide what the rest of an application says.
+class ServiceTranslator final : public HeldTranslator
+{
+public:
+    QString translate(const char* context, const char* text, const char* comment, int count) const override
+    {
+        const bool isOfService = qstrcmp(context, serviceContext) == 0;
+        return isOfService ? HeldTranslator::translate(context, text, comment, count) : QString();
+    }
+};
+
+/// Without the file Qt would try other names. One that is damaged, perhaps half copied, has no texts.
+bool load(HeldTranslator& translator, const QString& file)
+{
+    if (!QFileInfo(file).isFile())
         return false;
-    if (translator.load(file))
+    if (translator.read(file))
         return true;
     qWarning("The translations in %s cannot be read", qUtf8Printable(file));
     return false;
@@ -44,14 +86,15 @@ bool load(QTranslator& translator, const QString& file)
 
 bool isCatalogue(const QString& file)
 {
-    QTranslator translator;
+    HeldTranslator translator;
     return load(translator, file);
 }
 
 /// Null without a catalogue.
+template<class Translator = HeldTranslator>
 std::unique_ptr<QTranslator> loaded(const QString& folder, const QString& name, const QString& code)
 {
-    auto translator = std::make_unique<QTranslator>();
+    auto translator = std::make_unique<Translator>();
     const QStringList codes = fallbacks(code);
     for (const QString& fallback : codes) {
         if (load(*translator, filePath(folder, name, fallback)))
@@ -113,12 +156,14 @@ QString installedCatalogues(const QString& name)
     return installedFolder(QStringLiteral(UIUTILS_TRANSLATIONS_FOLDER "/") + name);
 }
 
-Catalogues::Catalogues(const QStringList& folders)
+Catalogues::Catalogues(const QStringList& folders, const QStringList& serviceFolders)
     : m_installed(installedCatalogues())
     , m_folders(folders)
+    , m_serviceFolders(serviceFolders)
 {
     // An empty folder would be the current one.
     m_folders.removeAll(QString());
+    m_serviceFolders.removeAll(QString());
 }
 
 QStringList Catalogues::offered() const
@@ -181,6 +226,13 @@ std::vector<std::unique_ptr<QTranslator>> Catalogues::load(const QString& code) 
     const QStringList shared = sharedNames();
     for (const QString& name : shared)
         add(m_installed, name);
+    for (const QString& folder : m_serviceFolders) {
+        const QStringList names = namesIn(folder, code);
+        for (const QString& name : names) {
+            if (auto translator = loaded<ServiceTranslator>(folder, name, code))
+                all.push_back(std::move(translator));
+        }
+    }
     for (const QString& folder : m_folders) {
         const QStringList names = namesIn(folder, code);
         for (const QString& name : names)

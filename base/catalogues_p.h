@@ -19,11 +19,14 @@ QString installedCatalogues(const QString& name = QString());
 
 /// The catalogues "NAME_LANGUAGE.qm" in a list of folders. Those of a later folder have precedence. In the installed
 /// folder, which many applications share, NAME is "uiutils" or the application's name; in all others it is any name.
+///
+/// Catalogues of services translate what services say and nothing else. Those of the application have precedence over
+/// them. They bring no language: an application that speaks only with its services' words would be half translated.
 class Catalogues
 {
 public:
-    /// Those in the installed folder and in `folders`.
-    explicit Catalogues(const QStringList& folders = {});
+    /// Those in the installed folder and in `folders`; those of services in `serviceFolders`.
+    explicit Catalogues(const QStringList& folders = {}, const QStringList& serviceFolders = {});
 
     /// The languages to offer: those of the application, where it has catalogues of its own, else the library's; the
     /// source language first.
@@ -38,6 +41,7 @@ public:
 private:
     QString m_installed;
     QStringList m_folders;
+    QStringList m_serviceFolders;
 };
 
 /// The locale of a language.

@@ -31,27 +31,6 @@ int openToRead(const QString& path, int flags)
     return fd;
 }
 
-/// Makes the name of `member`, which has just been created or renamed in its folder, survive a power cut. File systems
-/// that cannot sync keep it in other ways, or not at all.
-bool syncNameOf(const QString& member)
-{
-    int fd = openToRead(QFileInfo(member).path() + QLatin1Char('/'), O_DIRECTORY);
-    // A folder may allow writing and not listing: then its complete file system is synced.
-    const bool isClosed = fd < 0 && errno == EACCES;
-    if (isClosed)
-        fd = openToRead(member, 0);
-    if (fd < 0)
-        return false;
-    int result = 0;
-    do {
-        result = isClosed ? ::syncfs(fd) : ::fsync(fd);
-    } while (result != 0 && errno == EINTR);
-    const int reason = errno;
-    ::close(fd);
-    errno = reason;
-    return result == 0 || reason == EINVAL || reason == EOPNOTSUPP;
-}
-
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(DurableFile)
@@ -104,6 +83,25 @@ NewFile write(
 }
 
 } // namespace
+
+bool syncNameOf(const QString& member)
+{
+    int fd = openToRead(QFileInfo(member).path() + QLatin1Char('/'), O_DIRECTORY);
+    // A folder may allow writing and not listing: then its complete file system is synced.
+    const bool isClosed = fd < 0 && errno == EACCES;
+    if (isClosed)
+        fd = openToRead(member, 0);
+    if (fd < 0)
+        return false;
+    int result = 0;
+    do {
+        result = isClosed ? ::syncfs(fd) : ::fsync(fd);
+    } while (result != 0 && errno == EINTR);
+    const int reason = errno;
+    ::close(fd);
+    errno = reason;
+    return result == 0 || reason == EINVAL || reason == EOPNOTSUPP;
+}
 
 bool writeFileDurably(const QString& path, const QByteArray& contents, QString* error, const QString& temporary)
 {

@@ -27,6 +27,11 @@ enum class NewFile { Written, Taken, Failed };
 /// The same for a file that must not replace another one, even one that appears during the write.
 [[nodiscard]] NewFile writeNewFileDurably(const QString& path, const QByteArray& contents, QString* error = nullptr);
 
+/// Makes what was done to the name of `member` in its folder survive a power cut: its creation, a renaming, its
+/// removal. True also on file systems that cannot sync, which keep it in other ways, or not at all. False, with the
+/// reason in errno, if that fails.
+[[nodiscard]] bool syncNameOf(const QString& member);
+
 /// Writes a file that need not survive a power cut, without waiting for the disk: readers see it complete or not at
 /// all, and a link at `path` is replaced. What killed processes left in the folder stays there.
 bool writeFileForNow(const QString& path, const QByteArray& contents);

@@ -4,7 +4,7 @@ namespace bench {
 
 QVector<Result> bindingCases(int runs)
 {
-    return createCases(runs) + updateCases(runs) + contextCases(runs);
+    return createCases(runs) + updateCases(runs) + contextCases(runs) + moduleCases(runs);
 }
 
 } // namespace bench

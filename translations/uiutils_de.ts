@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>Changes</name>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
-    </message>
-</context>
-<context>
     <name>CommandLine</name>
     <message>
         <source>The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. Name another folder.</source>
@@ -56,6 +49,14 @@
     <message>
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>--screen braucht eine Größe von %1 bis %2 Pixeln und eine Auflösung von %3 bis %4 Punkten je Zoll, zum Beispiel 1024x600@170.</translation>
+    </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>--from braucht eine Anzahl von Sekunden.</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>--speed braucht eine Zahl von 0.001 bis 1000000.</translation>
     </message>
 </context>
 <context>
@@ -1830,6 +1831,60 @@ Exit-Status: 0 fertig, 1 die Datei konnte nicht gezeigt werden, 2 falsche Befehl
     </message>
 </context>
 <context>
+    <name>PendingChangeRow</name>
+    <message>
+        <source>Changed meanwhile</source>
+        <translation>Inzwischen geändert</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Jetzt: %1</translation>
+    </message>
+    <message>
+        <source>You have set: %1</source>
+        <translation>Sie haben eingestellt: %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Dismiss %1</source>
+        <translation>%1 verwerfen</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>%1 rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Set again</source>
+        <translation>Erneut setzen</translation>
+    </message>
+    <message>
+        <source>Set %1 again</source>
+        <translation>%1 erneut setzen</translation>
+    </message>
+</context>
+<context>
+    <name>PendingChangesView</name>
+    <message>
+        <source>Nothing waits</source>
+        <translation>Nichts steht aus</translation>
+    </message>
+    <message>
+        <source>Settings that you change are listed here until they are applied.</source>
+        <translation>Einstellungen, die Sie ändern, stehen hier, bis sie angewendet sind.</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Ausstehende Änderungen</translation>
+    </message>
+</context>
+<context>
     <name>PeoplePage</name>
     <message>
         <source>People</source>
@@ -2481,10 +2536,6 @@ Ordner: %2</translation>
         <source>Apply</source>
         <translation>Übernehmen</translation>
     </message>
-    <message>
-        <source>%1 → %2</source>
-        <translation>%1 → %2</translation>
-    </message>
 </context>
 <context>
     <name>RunPage</name>
@@ -2706,6 +2757,10 @@ Ordner: %2</translation>
         <source>The service %1 was withdrawn before it could answer.</source>
         <translation>Der Dienst %1 wurde zurückgezogen, bevor er antworten konnte.</translation>
     </message>
+    <message>
+        <source>The service %1 answered something that the interface does not know.</source>
+        <translation>Der Dienst %1 hat etwas geantwortet, das die Schnittstelle nicht kennt.</translation>
+    </message>
 </context>
 <context>
     <name>ServiceCard</name>
@@ -2771,6 +2826,10 @@ Ordner: %2</translation>
     <message>
         <source>Nothing is changed yet.</source>
         <translation>Noch ist nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Pending changes</source>
+        <translation>Ausstehende Änderungen</translation>
     </message>
 </context>
 <context>
@@ -3230,6 +3289,54 @@ Ordner: %2</translation>
         <source>Received Power</source>
         <translation>Empfangsleistung</translation>
     </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>Mbit/s</translation>
+    </message>
+    <message>
+        <source>The calibration can only be set at the factory.</source>
+        <translation>Die Kalibrierung kann nur im Werk eingestellt werden.</translation>
+    </message>
+    <message>
+        <source>The calibration needs a reference fiber. Connect one and try again.</source>
+        <translation>Die Kalibrierung braucht eine Referenzfaser. Schließen Sie eine an und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>There is no light on the fiber. Check the connector, and start again.</source>
+        <translation>Auf der Faser ist kein Licht. Prüfen Sie den Stecker und starten Sie erneut.</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>km</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>nm</translation>
+    </message>
+    <message>
+        <source>ns</source>
+        <translation>ns</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
@@ -3597,6 +3704,13 @@ Ordner: %2</translation>
     <message>
         <source>Run</source>
         <translation>Messung</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings were changed meanwhile.</source>
+        <translation>
+            <numerusform>%n Einstellung wurde inzwischen geändert.</numerusform>
+            <numerusform>%n Einstellungen wurden inzwischen geändert.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4062,6 +4176,17 @@ Ordner: %2</translation>
     <message>
         <source>At least %1 characters; this text has %2</source>
         <translation>Mindestens %1 Zeichen; dieser Text hat %2</translation>
+    </message>
+</context>
+<context>
+    <name>uiutils::PendingChanges</name>
+    <message>
+        <source>The service %1 cannot be reached. The change waits until it returns.</source>
+        <translation>Der Dienst %1 ist nicht erreichbar. Die Änderung wartet, bis er zurückkehrt.</translation>
+    </message>
+    <message>
+        <source>The entry was rejected.</source>
+        <translation>Die Eingabe wurde abgelehnt.</translation>
     </message>
 </context>
 <context>

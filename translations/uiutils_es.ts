@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>Changes</name>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
-    </message>
-</context>
-<context>
     <name>CommandLine</name>
     <message>
         <source>The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. Name another folder.</source>
@@ -56,6 +49,14 @@
     <message>
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>--screen necesita un tamaño de %1 a %2 píxeles y una densidad de %3 a %4 puntos por pulgada, por ejemplo 1024x600@170.</translation>
+    </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>--from necesita un número de segundos.</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>--speed necesita un número de 0.001 a 1000000.</translation>
     </message>
 </context>
 <context>
@@ -1830,6 +1831,60 @@ Código de salida: 0 hecho, 1 no se pudo mostrar el archivo, 2 línea de órdene
     </message>
 </context>
 <context>
+    <name>PendingChangeRow</name>
+    <message>
+        <source>Changed meanwhile</source>
+        <translation>Cambiado entretanto</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Ahora: %1</translation>
+    </message>
+    <message>
+        <source>You have set: %1</source>
+        <translation>Ha ajustado: %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Revertir</translation>
+    </message>
+    <message>
+        <source>Dismiss %1</source>
+        <translation>Descartar %1</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>Revertir %1</translation>
+    </message>
+    <message>
+        <source>Set again</source>
+        <translation>Ajustar de nuevo</translation>
+    </message>
+    <message>
+        <source>Set %1 again</source>
+        <translation>Ajustar %1 de nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>PendingChangesView</name>
+    <message>
+        <source>Nothing waits</source>
+        <translation>No hay nada pendiente</translation>
+    </message>
+    <message>
+        <source>Settings that you change are listed here until they are applied.</source>
+        <translation>Los ajustes que cambie aparecen aquí hasta que se apliquen.</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Cambios pendientes</translation>
+    </message>
+</context>
+<context>
     <name>PeoplePage</name>
     <message>
         <source>People</source>
@@ -2481,10 +2536,6 @@ Carpeta: %2</translation>
         <source>Apply</source>
         <translation>Aplicar</translation>
     </message>
-    <message>
-        <source>%1 → %2</source>
-        <translation>%1 → %2</translation>
-    </message>
 </context>
 <context>
     <name>RunPage</name>
@@ -2706,6 +2757,10 @@ Carpeta: %2</translation>
         <source>The service %1 was withdrawn before it could answer.</source>
         <translation>El servicio %1 se retiró antes de poder responder.</translation>
     </message>
+    <message>
+        <source>The service %1 answered something that the interface does not know.</source>
+        <translation>El servicio %1 ha respondido algo que la interfaz no conoce.</translation>
+    </message>
 </context>
 <context>
     <name>ServiceCard</name>
@@ -2771,6 +2826,10 @@ Carpeta: %2</translation>
     <message>
         <source>Nothing is changed yet.</source>
         <translation>Aún no ha cambiado nada.</translation>
+    </message>
+    <message>
+        <source>Pending changes</source>
+        <translation>Cambios pendientes</translation>
     </message>
 </context>
 <context>
@@ -3230,6 +3289,54 @@ Carpeta: %2</translation>
         <source>Received Power</source>
         <translation>Potencia recibida</translation>
     </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>Mbit/s</translation>
+    </message>
+    <message>
+        <source>The calibration can only be set at the factory.</source>
+        <translation>La calibración solo puede ajustarse en fábrica.</translation>
+    </message>
+    <message>
+        <source>The calibration needs a reference fiber. Connect one and try again.</source>
+        <translation>La calibración necesita una fibra de referencia. Conecte una e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>There is no light on the fiber. Check the connector, and start again.</source>
+        <translation>No hay luz en la fibra. Compruebe el conector y empiece de nuevo.</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>km</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>nm</translation>
+    </message>
+    <message>
+        <source>ns</source>
+        <translation>ns</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
@@ -3597,6 +3704,13 @@ Carpeta: %2</translation>
     <message>
         <source>Run</source>
         <translation>Medición</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings were changed meanwhile.</source>
+        <translation>
+            <numerusform>%n ajuste ha cambiado entretanto.</numerusform>
+            <numerusform>%n ajustes han cambiado entretanto.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4062,6 +4176,17 @@ Carpeta: %2</translation>
     <message>
         <source>At least %1 characters; this text has %2</source>
         <translation>Mínimo %1 caracteres; este texto tiene %2</translation>
+    </message>
+</context>
+<context>
+    <name>uiutils::PendingChanges</name>
+    <message>
+        <source>The service %1 cannot be reached. The change waits until it returns.</source>
+        <translation>No se puede acceder al servicio %1. El cambio espera a que vuelva.</translation>
+    </message>
+    <message>
+        <source>The entry was rejected.</source>
+        <translation>Se ha rechazado la entrada.</translation>
     </message>
 </context>
 <context>

@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>Changes</name>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
-    </message>
-</context>
-<context>
     <name>CommandLine</name>
     <message>
         <source>The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. Name another folder.</source>
@@ -56,6 +49,14 @@
     <message>
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>--screen exige une taille de %1 à %2 pixels et une densité de %3 à %4 points par pouce, par exemple 1024x600@170.</translation>
+    </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>--from exige un nombre de secondes.</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>--speed exige un nombre de 0.001 à 1000000.</translation>
     </message>
 </context>
 <context>
@@ -1830,6 +1831,60 @@ Code de sortie&#xa0;: 0 terminé, 1 le fichier n’a pas pu être affiché, 2 li
     </message>
 </context>
 <context>
+    <name>PendingChangeRow</name>
+    <message>
+        <source>Changed meanwhile</source>
+        <translation>Modifié entre-temps</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Maintenant : %1</translation>
+    </message>
+    <message>
+        <source>You have set: %1</source>
+        <translation>Vous avez réglé : %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Dismiss %1</source>
+        <translation>Ignorer %1</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>Annuler %1</translation>
+    </message>
+    <message>
+        <source>Set again</source>
+        <translation>Régler à nouveau</translation>
+    </message>
+    <message>
+        <source>Set %1 again</source>
+        <translation>Régler %1 à nouveau</translation>
+    </message>
+</context>
+<context>
+    <name>PendingChangesView</name>
+    <message>
+        <source>Nothing waits</source>
+        <translation>Rien n’est en attente</translation>
+    </message>
+    <message>
+        <source>Settings that you change are listed here until they are applied.</source>
+        <translation>Les réglages que vous modifiez figurent ici jusqu’à leur application.</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Modifications en attente</translation>
+    </message>
+</context>
+<context>
     <name>PeoplePage</name>
     <message>
         <source>People</source>
@@ -2481,10 +2536,6 @@ Dossier&#xa0;: %2</translation>
         <source>Apply</source>
         <translation>Appliquer</translation>
     </message>
-    <message>
-        <source>%1 → %2</source>
-        <translation>%1 → %2</translation>
-    </message>
 </context>
 <context>
     <name>RunPage</name>
@@ -2706,6 +2757,10 @@ Dossier&#xa0;: %2</translation>
         <source>The service %1 was withdrawn before it could answer.</source>
         <translation>Le service %1 a été retiré avant de pouvoir répondre.</translation>
     </message>
+    <message>
+        <source>The service %1 answered something that the interface does not know.</source>
+        <translation>Le service %1 a répondu quelque chose que l’interface ne connaît pas.</translation>
+    </message>
 </context>
 <context>
     <name>ServiceCard</name>
@@ -2771,6 +2826,10 @@ Dossier&#xa0;: %2</translation>
     <message>
         <source>Nothing is changed yet.</source>
         <translation>Rien n’est encore modifié.</translation>
+    </message>
+    <message>
+        <source>Pending changes</source>
+        <translation>Modifications en attente</translation>
     </message>
 </context>
 <context>
@@ -3230,6 +3289,54 @@ Dossier&#xa0;: %2</translation>
         <source>Received Power</source>
         <translation>Puissance reçue</translation>
     </message>
+    <message>
+        <source>B</source>
+        <translation>o</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>Mbit/s</translation>
+    </message>
+    <message>
+        <source>The calibration can only be set at the factory.</source>
+        <translation>L’étalonnage ne peut être réglé qu’en usine.</translation>
+    </message>
+    <message>
+        <source>The calibration needs a reference fiber. Connect one and try again.</source>
+        <translation>L’étalonnage demande une fibre de référence. Raccordez-en une et réessayez.</translation>
+    </message>
+    <message>
+        <source>There is no light on the fiber. Check the connector, and start again.</source>
+        <translation>Il n’y a pas de lumière dans la fibre. Vérifiez le connecteur et recommencez.</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>km</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>nm</translation>
+    </message>
+    <message>
+        <source>ns</source>
+        <translation>ns</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
@@ -3597,6 +3704,13 @@ Dossier&#xa0;: %2</translation>
     <message>
         <source>Run</source>
         <translation>Mesure</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings were changed meanwhile.</source>
+        <translation>
+            <numerusform>%n réglage a été modifié entre-temps.</numerusform>
+            <numerusform>%n réglages ont été modifiés entre-temps.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4062,6 +4176,17 @@ Dossier&#xa0;: %2</translation>
     <message>
         <source>At least %1 characters; this text has %2</source>
         <translation>%1 caractères au moins&#xa0;; ce texte en a %2</translation>
+    </message>
+</context>
+<context>
+    <name>uiutils::PendingChanges</name>
+    <message>
+        <source>The service %1 cannot be reached. The change waits until it returns.</source>
+        <translation>Le service %1 est injoignable. La modification attend son retour.</translation>
+    </message>
+    <message>
+        <source>The entry was rejected.</source>
+        <translation>La saisie a été refusée.</translation>
     </message>
 </context>
 <context>

@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>Changes</name>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
-    </message>
-</context>
-<context>
     <name>CommandLine</name>
     <message>
         <source>The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. Name another folder.</source>
@@ -56,6 +49,14 @@
     <message>
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>--screen には %1 ～ %2 ピクセルのサイズと %3 ～ %4 dpi の密度が必要です (例: 1024x600@170)。</translation>
+    </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>--from には秒数が必要です。</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>--speed には 0.001 から 1000000 までの数が必要です。</translation>
     </message>
 </context>
 <context>
@@ -1825,6 +1826,60 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
 </context>
 <context>
+    <name>PendingChangeRow</name>
+    <message>
+        <source>Changed meanwhile</source>
+        <translation>その間に変更されました</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>現在: %1</translation>
+    </message>
+    <message>
+        <source>You have set: %1</source>
+        <translation>設定した値: %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Dismiss %1</source>
+        <translation>%1 を閉じる</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>%1 を元に戻す</translation>
+    </message>
+    <message>
+        <source>Set again</source>
+        <translation>再設定</translation>
+    </message>
+    <message>
+        <source>Set %1 again</source>
+        <translation>%1 を再設定</translation>
+    </message>
+</context>
+<context>
+    <name>PendingChangesView</name>
+    <message>
+        <source>Nothing waits</source>
+        <translation>保留中の変更はありません</translation>
+    </message>
+    <message>
+        <source>Settings that you change are listed here until they are applied.</source>
+        <translation>変更した設定は、適用されるまでここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>保留中の変更</translation>
+    </message>
+</context>
+<context>
     <name>PeoplePage</name>
     <message>
         <source>People</source>
@@ -2475,10 +2530,6 @@ Folder: %2</source>
         <source>Apply</source>
         <translation>適用</translation>
     </message>
-    <message>
-        <source>%1 → %2</source>
-        <translation>%1 → %2</translation>
-    </message>
 </context>
 <context>
     <name>RunPage</name>
@@ -2700,6 +2751,10 @@ Folder: %2</source>
         <source>The service %1 was withdrawn before it could answer.</source>
         <translation>サービス %1 は応答する前に取り下げられました。</translation>
     </message>
+    <message>
+        <source>The service %1 answered something that the interface does not know.</source>
+        <translation>サービス %1 が、インターフェイスにない応答を返しました。</translation>
+    </message>
 </context>
 <context>
     <name>ServiceCard</name>
@@ -2764,6 +2819,10 @@ Folder: %2</source>
     <message>
         <source>Nothing is changed yet.</source>
         <translation>まだ何も変更されていません。</translation>
+    </message>
+    <message>
+        <source>Pending changes</source>
+        <translation>保留中の変更</translation>
     </message>
 </context>
 <context>
@@ -3223,6 +3282,54 @@ Folder: %2</source>
         <source>Received Power</source>
         <translation>受信パワー</translation>
     </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>Mbit/s</translation>
+    </message>
+    <message>
+        <source>The calibration can only be set at the factory.</source>
+        <translation>校正は工場でのみ設定できます。</translation>
+    </message>
+    <message>
+        <source>The calibration needs a reference fiber. Connect one and try again.</source>
+        <translation>校正には基準ファイバーが必要です。接続してからもう一度試してください。</translation>
+    </message>
+    <message>
+        <source>There is no light on the fiber. Check the connector, and start again.</source>
+        <translation>ファイバーに光がありません。コネクタを確認して、もう一度開始してください。</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>dB</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>dBm</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>km</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>nm</translation>
+    </message>
+    <message>
+        <source>ns</source>
+        <translation>ns</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
@@ -3589,6 +3696,12 @@ Folder: %2</source>
     <message>
         <source>Run</source>
         <translation>測定</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings were changed meanwhile.</source>
+        <translation>
+            <numerusform>その間に %n 件の設定が変更されました。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4054,6 +4167,17 @@ Folder: %2</source>
     <message>
         <source>At least %1 characters; this text has %2</source>
         <translation>最小 %1 文字です。このテキストは %2 文字です</translation>
+    </message>
+</context>
+<context>
+    <name>uiutils::PendingChanges</name>
+    <message>
+        <source>The service %1 cannot be reached. The change waits until it returns.</source>
+        <translation>サービス %1 に接続できません。変更は、サービスが復帰するまで保留されます。</translation>
+    </message>
+    <message>
+        <source>The entry was rejected.</source>
+        <translation>入力は拒否されました。</translation>
     </message>
 </context>
 <context>

@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>Changes</name>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
-    </message>
-</context>
-<context>
     <name>CommandLine</name>
     <message>
         <source>The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. Name another folder.</source>
@@ -56,6 +49,14 @@
     <message>
         <source>--screen needs a size of %1 to %2 pixels and a density of %3 to %4 dots per inch, such as 1024x600@170.</source>
         <translation>[--screen ñééđš å šîžé öf %1 ţö %2 pîxéļš åñđ å đéñšîţý öf %3 ţö %4 đöţš péŕ îñçĥ, šûçĥ åš 1024x600@170. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>--from needs a number of seconds.</source>
+        <translation>[--from ñééđš å ñûmbéŕ öf šéçöñđš. ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>--speed needs a number from 0.001 to 1000000.</source>
+        <translation>[--speed ñééđš å ñûmbéŕ fŕöm 0.001 ţö 1000000. ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>
@@ -1830,6 +1831,60 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
 </context>
 <context>
+    <name>PendingChangeRow</name>
+    <message>
+        <source>Changed meanwhile</source>
+        <translation>[Çĥåñĝéđ méåñŵĥîļé ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>[Ñöŵ: %1 ~]</translation>
+    </message>
+    <message>
+        <source>You have set: %1</source>
+        <translation>[Ýöû ĥåvé šéţ: %1 ~ ~]</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>[Ðîšmîšš ~]</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>[Ŕévéŕţ ~]</translation>
+    </message>
+    <message>
+        <source>Dismiss %1</source>
+        <translation>[Ðîšmîšš %1 ~]</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>[Ŕévéŕţ %1 ~]</translation>
+    </message>
+    <message>
+        <source>Set again</source>
+        <translation>[Šéţ åĝåîñ ~]</translation>
+    </message>
+    <message>
+        <source>Set %1 again</source>
+        <translation>[Šéţ %1 åĝåîñ ~ ~]</translation>
+    </message>
+</context>
+<context>
+    <name>PendingChangesView</name>
+    <message>
+        <source>Nothing waits</source>
+        <translation>[Ñöţĥîñĝ ŵåîţš ~ ~]</translation>
+    </message>
+    <message>
+        <source>Settings that you change are listed here until they are applied.</source>
+        <translation>[Šéţţîñĝš ţĥåţ ýöû çĥåñĝé åŕé ļîšţéđ ĥéŕé ûñţîļ ţĥéý åŕé åppļîéđ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>[Çĥåñĝéš ţĥåţ ŵåîţ ~ ~ ~]</translation>
+    </message>
+</context>
+<context>
     <name>PeoplePage</name>
     <message>
         <source>People</source>
@@ -2481,10 +2536,6 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>Apply</source>
         <translation>[Åppļý ~]</translation>
     </message>
-    <message>
-        <source>%1 → %2</source>
-        <translation>%1 → %2</translation>
-    </message>
 </context>
 <context>
     <name>RunPage</name>
@@ -2706,6 +2757,10 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>The service %1 was withdrawn before it could answer.</source>
         <translation>[Ţĥé šéŕvîçé %1 ŵåš ŵîţĥđŕåŵñ béföŕé îţ çöûļđ åñšŵéŕ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>The service %1 answered something that the interface does not know.</source>
+        <translation>[Ţĥé šéŕvîçé %1 åñšŵéŕéđ šöméţĥîñĝ ţĥåţ ţĥé îñţéŕfåçé đöéš ñöţ ķñöŵ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>ServiceCard</name>
@@ -2771,6 +2826,10 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
     <message>
         <source>Nothing is changed yet.</source>
         <translation>[Ñöţĥîñĝ îš çĥåñĝéđ ýéţ. ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Pending changes</source>
+        <translation>[Péñđîñĝ çĥåñĝéš ~ ~]</translation>
     </message>
 </context>
 <context>
@@ -3230,6 +3289,54 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>Received Power</source>
         <translation>[Ŕéçéîvéđ Pöŵéŕ ~ ~]</translation>
     </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>[Mbîţ/š ~]</translation>
+    </message>
+    <message>
+        <source>The calibration can only be set at the factory.</source>
+        <translation>[Ţĥé çåļîbŕåţîöñ çåñ öñļý bé šéţ åţ ţĥé fåçţöŕý. ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The calibration needs a reference fiber. Connect one and try again.</source>
+        <translation>[Ţĥé çåļîbŕåţîöñ ñééđš å ŕéféŕéñçé fîbéŕ. Çöññéçţ öñé åñđ ţŕý åĝåîñ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>There is no light on the fiber. Check the connector, and start again.</source>
+        <translation>[Ţĥéŕé îš ñö ļîĝĥţ öñ ţĥé fîbéŕ. Çĥéçķ ţĥé çöññéçţöŕ, åñđ šţåŕţ åĝåîñ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>[đß ~]</translation>
+    </message>
+    <message>
+        <source>dBm</source>
+        <translation>[đßm ~]</translation>
+    </message>
+    <message>
+        <source>km</source>
+        <translation>[ķm ~]</translation>
+    </message>
+    <message>
+        <source>m</source>
+        <translation>m</translation>
+    </message>
+    <message>
+        <source>ms</source>
+        <translation>[mš ~]</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>[ñm ~]</translation>
+    </message>
+    <message>
+        <source>ns</source>
+        <translation>[ñš ~]</translation>
+    </message>
 </context>
 <context>
     <name>ServiceRequest</name>
@@ -3597,6 +3704,13 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
     <message>
         <source>Run</source>
         <translation>[Ŕûñ ~]</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n settings were changed meanwhile.</source>
+        <translation>
+            <numerusform>[%n šéţţîñĝš ŵéŕé çĥåñĝéđ méåñŵĥîļé. ~ ~ ~ ~ ~ ~]</numerusform>
+            <numerusform>[%n šéţţîñĝš ŵéŕé çĥåñĝéđ méåñŵĥîļé. ~ ~ ~ ~ ~ ~]</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4062,6 +4176,17 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
     <message>
         <source>At least %1 characters; this text has %2</source>
         <translation>[Åţ ļéåšţ %1 çĥåŕåçţéŕš; ţĥîš ţéxţ ĥåš %2 ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+</context>
+<context>
+    <name>uiutils::PendingChanges</name>
+    <message>
+        <source>The service %1 cannot be reached. The change waits until it returns.</source>
+        <translation>[Ţĥé šéŕvîçé %1 çåññöţ bé ŕéåçĥéđ. Ţĥé çĥåñĝé ŵåîţš ûñţîļ îţ ŕéţûŕñš. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The entry was rejected.</source>
+        <translation>[Ţĥé éñţŕý ŵåš ŕéĵéçţéđ. ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>

@@ -21,27 +21,38 @@ ROOMS = ('base', 'platform', 'lib', 'qml', 'apps/common', 'apps/demo', 'apps/ins
 # Pages that have their catalogues beside them.
 EXAMPLES = 'docs/examples'
 SERVICES = 'platform/reference/services'
-# Of labels in service files, which no source requests by themselves.
+# Of what service files say, which no source requests by itself. A test compares the list with that of uiutils-describe,
+# which this script cannot use: it also runs where nothing is built.
 LABELS = 'ServiceItem'
+# The units of the formatters that have one of their own.
+UNITS = {'frequency': 'Hz', 'distance': 'm', 'bitrate': 'bit/s', 'dB': 'dB', 'dBm': 'dBm'}
 # Places for values, and names of settings, options and files, which stay as they are.
 KEPT = re.compile(r'%L?\d+|%n|&\w+;|--[\w-]+|\b[A-Z]+_[A-Z_]+\b')
 ACCENTS = str.maketrans('AaBCcDdEeGgHhIiJjKkLlNnOoRrSsTtUuWwYyZz', 'ÅåßÇçÐđÉéĜĝĤĥÎîĴĵĶķĻļÑñÖöŔŕŠšŢţÛûŴŵÝýŽž')
 
 
+def texts_of(item):
+    """What an item says to people: its label, choices, units and errors."""
+    formatter = item.get('attributes', {}).get('formatter', '')
+    yield from (item.get('label'), item.get('unit'), item.get('refuse'), item.get('does', {}).get('fail'),
+                UNITS.get(formatter) or formatter.partition(':')[2])
+    yield from (choice.get('label') or choice['name'] for choice in item.get('choices', []))
+
+
 def labels_of(tree):
-    """The labels of the items in the service files of the tree, and of their choices."""
+    """What the service files of the tree say."""
     for file in sorted((tree / SERVICES).glob('*.service.json')):
-        for item in json.loads(file.read_text(encoding='utf-8'))['items']:
-            for labelled in [item, *item.get('choices', [])]:
-                # What is a number reads the same everywhere.
-                if re.search(r'[^\W\d]', labelled.get('label', '')):
-                    yield labelled['label']
+        service = json.loads(file.read_text(encoding='utf-8'))
+        said = [text for item in service['items'] for text in texts_of(item)]
+        said += [happening.get(key) for happening in service.get('happens', []) for key in ('refuse', 'error')]
+        # What has no letter reads the same everywhere.
+        yield from (text for text in said if text and re.search(r'[^\W\d_]', text))
 
 
 def label_source(tree):
     """The labels as a source that lupdate reads."""
     labels = sorted(set(labels_of(tree)))
-    return ''.join(f'const char* label{number} = QT_TRANSLATE_NOOP("{LABELS}", {json.dumps(label)});\n'
+    return ''.join(f'const char* label{number} = QT_TRANSLATE_NOOP("{LABELS}", {json.dumps(label, ensure_ascii=False)});\n'
                    for number, label in enumerate(labels))
 
 

@@ -103,23 +103,16 @@ QStringList quotedIn(const QString& text)
     return quoted;
 }
 
-QString lineOf(const QString& code, int line)
-{
-    return code.section(QLatin1Char('\n'), line - 1, line - 1);
-}
-
 QStringList namesOfEveryPage()
 {
     return {QStringLiteral("parent"), QStringLiteral("console"), QStringLiteral("services"), QStringLiteral("qsTr"),
             QStringLiteral("undefined"), QStringLiteral("parseInt"), QStringLiteral("parseFloat")};
 }
 
-QString nameAt(const QString& code, int line, int column)
+QString nameAt(const QString& line, int column)
 {
     static const QRegularExpression name(QStringLiteral("[A-Za-z_$][\\w$]*"));
-    return name
-            .match(lineOf(code, line), column - 1, QRegularExpression::NormalMatch,
-                    QRegularExpression::AnchoredMatchOption)
+    return name.match(line, column - 1, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption)
             .captured();
 }
 
@@ -131,6 +124,7 @@ public:
         : m_scope(scope)
         , m_isPage(isPage)
         , m_knowsTypes(knowsTypes)
+        , m_lines(scope.file.code().split(QLatin1Char('\n')))
     {
         if (scope.file.root())
             scope.file.root()->accept(&m_rows);
@@ -160,14 +154,16 @@ public:
     }
 
 private:
+    QString lineOf(const Complaint& complaint) const { return m_lines.value(complaint.line - 1); }
     /// Only what looks like a slip: programs give pages names of their own, and rows of models have others.
     QString ofName(const Complaint& complaint) const
     {
-        const QString name = nameAt(m_scope.file.code(), complaint.line, complaint.column);
+        const QString name = nameAt(lineOf(complaint), complaint.column);
         const bool isKnown = name.isEmpty() || name.at(0).isUpper() || !tagInName(name).isEmpty()
                 || name == QLatin1String("services") || m_scope.names.isDeclared(name) || m_scope.names.isText(name)
                 || m_scope.names.of(m_scope.file).guarded.contains(name) || m_scope.imports.properties.contains(name);
-        if (complaint.isAdvice || isKnown || name.size() < 3 || !m_isPage || !m_knowsTypes || m_rows.isInRows(complaint.line))
+        if (complaint.isAdvice || isKnown || name.size() < 3 || !m_isPage || !m_knowsTypes
+                || m_rows.isInRows(complaint.line))
             return QString();
         QStringList near = m_scope.names.declared();
         near += namesOfEveryPage();
@@ -180,7 +176,7 @@ private:
     QString ofProperty(const Complaint& complaint, const QStringList& names) const
     {
         static const QRegularExpression owner(QStringLiteral("(?<![\\w.])(\\w+)\\.$"));
-        const QString before = lineOf(m_scope.file.code(), complaint.line).left(complaint.column - 1);
+        const QString before = lineOf(complaint).left(complaint.column - 1);
         const QString id = owner.match(before).captured(1);
         return names.size() < 2 || !m_knowsTypes || !m_scope.names.of(m_scope.file).ids.contains(id)
                 ? QString()
@@ -191,6 +187,7 @@ private:
     const PageScope& m_scope;
     const bool m_isPage;
     const bool m_knowsTypes;
+    const QStringList m_lines;
     RowReader m_rows;
 };
 
@@ -220,6 +217,11 @@ QVector<Finding> findingsOfLint(const QString& output, const PageScope& scope, b
 QVector<Finding> lint(const QString& program, const PageScope& scope, const QStringList& importFolders, bool isPage)
 {
     constexpr int longestMs = 30000;
+    // It takes seconds for such a file, which is no page that somebody wrote by hand.
+    constexpr int longestFile = 512 * 1024;
+    if (scope.file.code().size() > longestFile)
+        return {{Finding::Warning, scope.file.path(), 0, 0, QString(),
+                QStringLiteral("qmllint was not asked, because the file has more than 512 KiB.")}};
     QStringList arguments {QStringLiteral("-U")};
     for (const QString& folder : importFolders)
         arguments << QStringLiteral("-I") << folder;

@@ -170,6 +170,19 @@ void PageSet::readModule(const PageFile& file, const UiImport& import, FileImpor
 
 void PageSet::reportModule(const PageFile& file, const UiImport& import, const QString& name)
 {
+    const QString ofServices = QStringLiteral("Instrument.");
+    if (name.startsWith(ofServices) && !m_items.isEmpty()) {
+        QStringList modules = m_items.moduleNames();
+        for (QString& module : modules)
+            module.prepend(ofServices);
+        const QString proposed = proposal(name, modules);
+        m_findings->append(file.at(import.importUri->identifierToken,
+                QStringLiteral("No service has the module %1.%2")
+                        .arg(name,
+                                proposed.isEmpty() ? QStringLiteral(" The modules are %1.").arg(enumeration(modules))
+                                                   : proposed)));
+        return;
+    }
     const QStringList& known = m_modules.names();
     const bool isMistake
             = std::any_of(known.cbegin(), known.cend(), [&name](const QString& other) { return isSlip(name, other); });
@@ -177,6 +190,10 @@ void PageSet::reportModule(const PageFile& file, const UiImport& import, const Q
             ? proposal(name, known)
             : QStringLiteral(" Name the folder above it with --import, or install it. A module that the program itself "
                              "brings along cannot be found here.");
+    // All files of a program import the modules that it brings along: one line tells it.
+    if (!isMistake && m_missingModules.contains(name))
+        return;
+    m_missingModules.insert(name);
     Finding finding = file.at(
             import.importUri->identifierToken, QStringLiteral("The module %1 was not found.%2").arg(name, advice));
     if (!isMistake)
@@ -223,6 +240,8 @@ void PageSet::takeFolder(const QString& folder, const QString& prefix, FileImpor
     const QStringList names = QDir(folder).entryList({QStringLiteral("*.qml")}, QDir::Files);
     for (const QString& name : names) {
         const QString type = name.chopped(4);
+        if (!type.at(0).isUpper())
+            continue;
         imports->types.insert(prefix + type);
         imports->ownTypes.insert(prefix + type);
         imports->files.insert(prefix + type, inFolder(folder, name));
@@ -262,6 +281,9 @@ void PageSet::readUses(const PageFile& file, FileImports* imports)
         const QString component = imports->files.value(type.name);
         if (!component.isEmpty())
             enqueue(component);
+        const bool isMissing = imports->isComplete && !imports->types.contains(type.name);
+        if (isMissing && !type.name.contains(QLatin1Char('.')) && !imports->homes.contains(type.name))
+            imports->homes.insert(type.name, m_modules.moduleWith(type.name));
     }
     for (const UseReader::Use& use : qAsConst(reader.files)) {
         const QString path = inFolder(file.folder(), use.name);

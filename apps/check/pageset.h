@@ -49,6 +49,7 @@ private:
     QStringList m_waiting;
     /// As the file system knows them, so that a link is no second file.
     QSet<QString> m_known;
+    QSet<QString> m_missingModules;
 };
 
 } // namespace uiutils::check

@@ -11,6 +11,9 @@
 #include <QLibraryInfo>
 #include <QVector>
 
+#include <algorithm>
+#include <tuple>
+
 namespace uiutils::check {
 
 using namespace QQmlJS::AST;
@@ -205,6 +208,22 @@ bool QmlModules::readTypes(const QString& file, QmlModule* module)
     DescriptionReader reader(module);
     types->page()->accept(&reader);
     return true;
+}
+
+QString QmlModules::moduleWith(const QString& type)
+{
+    // The latest version of Qt's; the shortest name is the one that pages import.
+    QStringList names = this->names();
+    std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
+        return std::make_tuple(a.count(QLatin1Char('.')), a.size(), a)
+                < std::make_tuple(b.count(QLatin1Char('.')), b.size(), b);
+    });
+    for (const QString& name : qAsConst(names)) {
+        const QmlModule* const module = find(name, QStringLiteral("2.15"));
+        if (module && module->types.contains(type))
+            return name;
+    }
+    return QString();
 }
 
 const QStringList& QmlModules::names()

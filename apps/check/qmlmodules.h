@@ -38,6 +38,8 @@ public:
     const QmlModule* find(const QString& name, const QString& version);
     /// The names of all modules that the folders have.
     const QStringList& names();
+    /// The name of a module that has a type; empty where none is known.
+    QString moduleWith(const QString& type);
     /// Where modules are searched, in this order.
     QStringList folders() const { return m_folders; }
 

@@ -3,6 +3,7 @@
 #include "common/nearest.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace uiutils::check {
 
@@ -18,7 +19,11 @@ QString proposal(const QStringList& names)
 
 QString proposal(const QString& wanted, const QStringList& known)
 {
-    return proposal(apps::nearest(wanted, known));
+    QStringList slips;
+    std::copy_if(known.cbegin(), known.cend(), std::back_inserter(slips),
+            [&wanted](const QString& name) { return isSlip(wanted, name); });
+    std::sort(slips.begin(), slips.end());
+    return proposal(slips.isEmpty() ? apps::nearest(wanted, known) : slips.mid(0, 3));
 }
 
 QString enumeration(QStringList names)

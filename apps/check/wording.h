@@ -7,7 +7,7 @@ namespace uiutils::check {
 
 /// " Did you mean A, B or C?", or an empty text.
 QString proposal(const QStringList& names);
-/// The same for what is nearest to a name that does not exist.
+/// The same for what is nearest to a name that does not exist; of slips and others, only the slips.
 QString proposal(const QString& wanted, const QStringList& known);
 /// "A, B, C and 7 more".
 QString enumeration(QStringList names);

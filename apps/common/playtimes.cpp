@@ -1,5 +1,7 @@
 #include "common/playtimes.h"
 
+#include <QCoreApplication>
+
 namespace uiutils::apps {
 
 namespace {
@@ -21,9 +23,18 @@ std::optional<qint64> millisecondsOf(const QString& seconds)
     return number ? std::optional<qint64>(qRound64(*number * 1000)) : std::nullopt;
 }
 
-std::optional<double> speedOf(const QString& factor)
+PlayTimes playTimes(const QString& from, const QString& speed)
 {
-    return numberIn(factor, 0.001, 1e6);
+    PlayTimes times;
+    const std::optional<qint64> start = millisecondsOf(from);
+    const std::optional<double> factor = numberIn(speed, 0.001, 1e6);
+    if (!start)
+        times.problem = QCoreApplication::translate("CommandLine", "--from needs a number of seconds.");
+    else if (!factor)
+        times.problem = QCoreApplication::translate("CommandLine", "--speed needs a number from 0.001 to 1000000.");
+    times.fromMs = start.value_or(times.fromMs);
+    times.speed = factor.value_or(times.speed);
+    return times;
 }
 
 } // namespace uiutils::apps

@@ -4,9 +4,7 @@
 #include "languages/languages.h"
 #include "limit.h"
 #include "places.h"
-#include "report/nsreport.h"
 #include "writers/html/templatetohtmlwriter.h"
-#include "writers/text/textreport.h"
 
 #include <QFile>
 
@@ -44,11 +42,8 @@ QMap<QString, QVariant> describe(const QString& name, const QString& type)
 } // namespace
 
 LoopbackReport::LoopbackReport(QObject* parent)
-    : Report(parent)
+    : PageReport(parent)
 {
-    for (const int format : {NSReport::REPORT_FORMAT_HTML, NSReport::REPORT_FORMAT_TEXT, NSReport::REPORT_FORMAT_JSON,
-                 NSReport::REPORT_FORMAT_ALL})
-        setFormatApplicable(format, true);
     addSettings();
     // The page has a SaveProgress.
     setInteractive(true);
@@ -56,6 +51,7 @@ LoopbackReport::LoopbackReport(QObject* parent)
     setIncludeJobInfo(true);
     setIncludeCustomerInfo(true);
     setWriterAttribute(QStringLiteral("includeTechnicianInfoTop"), true);
+    setWriterAttribute(QStringLiteral("page"), QString());
     setWriterAttribute(QStringLiteral("plot_width"), 640);
     setWriterAttribute(QStringLiteral("plot_height"), 320);
 }
@@ -148,7 +144,7 @@ void LoopbackReport::keepFirstSettings()
 
 void LoopbackReport::prepareDocument()
 {
-    Q_EMIT contentWanted();
+    PageReport::prepareDocument();
     // The other files of the last save.
     for (const auto& flag : statusFlags)
         setWriterAttribute(flag.name, hasResults() && m_measurement->status() == flag.status);
@@ -159,16 +155,6 @@ void LoopbackReport::reportWritten(const QString& path)
     m_savedFiles += diskPath(path);
     m_savedFiles.removeDuplicates();
     Q_EMIT fileWritten(path);
-}
-
-QString LoopbackReport::generateTxtReport()
-{
-    return reportText(document());
-}
-
-QString LoopbackReport::generateJsonReport()
-{
-    return reportJson(document());
 }
 
 QString LoopbackReport::generateHtmlReport()

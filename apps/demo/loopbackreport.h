@@ -1,7 +1,7 @@
 #pragma once
 
 #include "loopbackmeasurement.h"
-#include "report/report.h"
+#include "report/pagereport.h"
 
 #include <QPointer>
 #include <QStringList>
@@ -12,14 +12,12 @@ namespace uiutils::demo {
 ///
 /// It adds two settings to those of every report: "reportTitle", the title on the report, and "reportCompression",
 /// whether the files are compressed.
-class LoopbackReport : public Report
+class LoopbackReport : public PageReport
 {
     Q_OBJECT
     /// The subject of the report; the caller keeps ownership. Each run gives the report a new name when it ends.
     Q_PROPERTY(uiutils::demo::LoopbackMeasurement* measurement READ measurement WRITE setMeasurement NOTIFY
                     measurementChanged)
-    /// The document for the next save.
-    Q_PROPERTY(ReportTemplate* content READ content CONSTANT)
 
 public:
     static const QString titleSetting;
@@ -30,16 +28,12 @@ public:
     LoopbackMeasurement* measurement() const { return m_measurement; }
     void setMeasurement(LoopbackMeasurement* measurement);
 
-    ReportTemplate* content() { return &document(); }
-
     /// The paths of the saved files on this machine's disk, in the order of saving, each once.
     QStringList savedFiles() const { return m_savedFiles; }
 
     /// "loopback_20260131-142500": a separate name for each run; "loopback" before the first.
     QString proposedFileName() override;
     QString cannotGenerateReportMessage() override;
-    QString generateTxtReport() override;
-    QString generateJsonReport() override;
     /// An HTML page that needs no other file.
     QString generateHtmlReport() override;
 
@@ -50,8 +44,6 @@ public:
 
 Q_SIGNALS:
     void measurementChanged();
-    /// A save needs the content: the receiver builds it before returning.
-    void contentWanted();
     /// A save has written the file at the instrument path; emitted before reportFilesChanged().
     void fileWritten(const QString& path);
 

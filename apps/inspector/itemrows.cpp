@@ -1,5 +1,6 @@
 #include "itemrows.h"
 
+#include "base/searchform_p.h"
 #include "favourites.h"
 #include "languages/languages.h"
 #include "service/kivdata.h"
@@ -77,7 +78,7 @@ void ItemRows::replace(int service, std::vector<Entry> entries)
 
 void ItemRows::setText(const QString& text)
 {
-    const QStringList words = text.toCaseFolded().simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList words = searchForm(text).simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     if (words == m_words)
         return;
     m_words = words;
@@ -123,7 +124,7 @@ const QString& ItemRows::searchedText(const Entry& entry)
 {
     if (entry.searched.isEmpty()) {
         const QString label = entry.item ? entry.item->getLabel() : QString();
-        entry.searched = QStringList {entry.name, label, entry.id}.join(QLatin1Char('\n')).toCaseFolded();
+        entry.searched = searchForm(QStringList {entry.name, label, entry.id}.join(QLatin1Char('\n')));
     }
     return entry.searched;
 }

@@ -44,17 +44,14 @@ QString RecordingOptions::read(const QCommandLineParser& parser, Options* option
     options->isCompressed = parser.isSet(m_gzip);
     options->isLooped = parser.isSet(m_loop);
     options->isPaused = parser.isSet(m_paused);
-    const std::optional<qint64> from = apps::millisecondsOf(parser.value(m_from));
-    const std::optional<double> speed = apps::speedOf(parser.value(m_speed));
+    const apps::PlayTimes times = apps::playTimes(parser.value(m_from), parser.value(m_speed));
     const qint64 duration = apps::millisecondsOf(parser.value(m_duration)).value_or(0);
-    if (!from)
-        return Texts::tr("--from needs a number of seconds.");
-    if (!speed)
-        return Texts::tr("--speed needs a number from 0.001 to 1000000.");
+    if (!times.problem.isEmpty())
+        return times.problem;
     if (parser.isSet(m_duration) && (duration == 0 || duration > INT_MAX))
         return Texts::tr("--duration needs a number of seconds above 0, at most %1.").arg(INT_MAX / 1000);
-    options->fromMs = *from;
-    options->speed = *speed;
+    options->fromMs = times.fromMs;
+    options->speed = times.speed;
     options->durationMs = int(duration);
     return QString();
 }

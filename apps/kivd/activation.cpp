@@ -25,6 +25,8 @@ QString commandLine(const Options& options)
     QString line = quoted(QCoreApplication::applicationFilePath());
     for (const QString& folder : options.serviceFolders)
         line += QLatin1String(" --services ") + quoted(QDir(folder).absolutePath());
+    if (options.isFollowing)
+        line += QLatin1String(" --follow");
     return line + QLatin1String(" --root ") + quoted(options.root);
 }
 

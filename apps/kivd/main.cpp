@@ -8,23 +8,32 @@
 
 #include <bus/buspublisher.h>
 #include <embedded/embeddedbackend.h>
+#include <embedded/embeddedservice.h>
+#include <embedded/servicefilewatch.h>
 
 #include <QCoreApplication>
+#include <QHash>
+#include <QPointer>
+#include <QSet>
 
 #include <systemd/sd-daemon.h>
 
 #include <algorithm>
+#include <memory>
 
 using namespace uiutils;
 using apps::complain;
 using apps::exitDone;
 using apps::exitFailed;
+using kiv::embedded::EmbeddedBackend;
+using kiv::embedded::EmbeddedService;
+using kiv::embedded::ServiceFileWatch;
 using kivd::Options;
 using kivd::Texts;
 
 namespace {
 
-QStringList publishedNames(const kiv::embedded::EmbeddedBackend& backend, const Options& options)
+QStringList publishedNames(const EmbeddedBackend& backend, const Options& options)
 {
     QStringList names = backend.serviceNames();
     for (const QString& name : options.without)
@@ -60,10 +69,11 @@ void complainOf(const kiv::bus::BusPublisher& publisher, const QStringList& name
                 last = reason;
             });
     QObject::connect(&publisher, &kiv::bus::BusPublisher::nameTaken, &publisher,
-            [names, taken = 0](const QString& name) mutable {
+            [names, taken = QSet<QString>()](const QString& name) mutable {
                 // The bus starts a program for every name that is asked for while none is taken; one is enough.
                 if (isStartedByBus()) {
-                    if (++taken == names.size())
+                    taken += name;
+                    if (taken.size() == names.size())
                         QCoreApplication::exit(exitDone);
                     return;
                 }
@@ -73,7 +83,25 @@ void complainOf(const kiv::bus::BusPublisher& publisher, const QStringList& name
             });
 }
 
-int publish(const kiv::embedded::EmbeddedBackend& backend, const Options& options)
+/// What has been given to the publisher; by name.
+using Given = QHash<QString, QPointer<EmbeddedService>>;
+
+/// Publishes what is not on the bus yet. A service whose file was read again is another object of the same name.
+void publishNew(kiv::bus::BusPublisher& publisher, const EmbeddedBackend& backend, const Options& options, Given* given)
+{
+    const QStringList names = publishedNames(backend, options);
+    for (const QString& name : names) {
+        EmbeddedService* service = backend.service(name);
+        if (given->value(name) == service)
+            continue;
+        given->insert(name, service);
+        QString problem;
+        if (!publisher.publish(service, &problem))
+            complain(problem);
+    }
+}
+
+int publish(EmbeddedBackend& backend, const Options& options)
 {
     const apps::Termination termination;
     QObject::connect(&termination, &apps::Termination::requested, qApp, &QCoreApplication::quit);
@@ -81,10 +109,16 @@ int publish(const kiv::embedded::EmbeddedBackend& backend, const Options& option
     const QStringList names = publishedNames(backend, options);
     notifyWhenPublished(publisher, names);
     complainOf(publisher, names);
-    for (const QString& name : names) {
-        QString problem;
-        if (!publisher.publish(backend.service(name), &problem))
-            complain(problem);
+    Given given;
+    publishNew(publisher, backend, options, &given);
+    std::unique_ptr<ServiceFileWatch> watch;
+    if (options.isFollowing) {
+        watch = std::make_unique<ServiceFileWatch>(&backend, options.serviceFolders);
+        QObject::connect(watch.get(), &ServiceFileWatch::filesRead, &publisher, [&](const QStringList& problems) {
+            for (const QString& problem : problems)
+                complain(problem);
+            publishNew(publisher, backend, options, &given);
+        });
     }
     QCoreApplication::exec();
     sd_notify(0, "STOPPING=1");
@@ -104,7 +138,7 @@ int main(int argc, char** argv)
     if (!apps::useRoot(options.root))
         return exitFailed;
     // Ends after the publisher: it stores the settings.
-    kiv::embedded::EmbeddedBackend backend;
+    EmbeddedBackend backend;
     if (!apps::loadServices(backend, options.serviceFolders, options.root))
         return exitFailed;
     if (!options.activationFolder.isEmpty())

@@ -23,7 +23,10 @@ Options readOptions(const QStringList& arguments)
             Texts::tr("Publish nothing. Write a file into <folder> for each service, by which the bus starts this "
                       "program when a client asks for the service."),
             Texts::tr("folder"));
-    parser.addOptions(services.all() << without << activation);
+    const QCommandLineOption follow(QStringLiteral("follow"),
+            Texts::tr("Read service files again when they change, and load those that are added. A file that cannot be "
+                      "used changes nothing. For whoever writes them: otherwise they are read once, at the start."));
+    parser.addOptions(services.all() << without << activation << follow);
 
     const apps::CommandLine line = apps::parse(parser, arguments);
     if (line.outcome != apps::CommandLine::Run)
@@ -39,6 +42,7 @@ Options readOptions(const QStringList& arguments)
     options.without = parser.values(without);
     options.root = services.root(parser);
     options.activationFolder = parser.value(activation);
+    options.isFollowing = parser.isSet(follow);
     return options;
 }
 

@@ -17,6 +17,8 @@ struct Options : apps::CommandLine
     QString root;
     /// Where files for D-Bus activation are to be written instead of publishing; empty for nowhere.
     QString activationFolder;
+    /// Whether service files are read again when they change.
+    bool isFollowing = false;
 };
 
 /// Reads the arguments, the program's own name first.

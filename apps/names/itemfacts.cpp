@@ -1,6 +1,8 @@
 #include "names/itemfacts.h"
 
+#include "service/kivaggregatedata.h"
 #include "service/kivdata.h"
+#include "service/kivlistaggregatedata.h"
 #include "service/manifest.h"
 
 #include <QHash>
@@ -41,6 +43,20 @@ QString wrapperType(const QString& type)
     return type;
 }
 
+ItemFacts::Kind kindOf(const KivData& wrapper)
+{
+    if (qobject_cast<const KivAggregateData*>(&wrapper))
+        return ItemFacts::Aggregate;
+    return qobject_cast<const KivListAggregateData*>(&wrapper) ? ItemFacts::Table : ItemFacts::Value;
+}
+
+ItemFacts::Kind kindOf(const QString& type)
+{
+    if (type == QLatin1String("aggregate"))
+        return ItemFacts::Aggregate;
+    return type == QLatin1String("listAggregate") ? ItemFacts::Table : ItemFacts::Value;
+}
+
 QVector<Choice> choicesOf(KivData& item)
 {
     QVector<Choice> choices;
@@ -66,6 +82,7 @@ ItemFacts factsOf(const QString& id, KivData& wrapper)
     facts.id = id;
     facts.name = wrapper.getName();
     facts.memberName = memberNameOf(id, facts.name);
+    facts.kind = kindOf(wrapper);
     facts.type = wrapper.getType();
     facts.label = wrapper.getLabel();
     facts.unit = wrapper.getUnitString();
@@ -108,6 +125,7 @@ QVector<ItemFacts> factsOfDocument(const QJsonObject& document)
         facts.id = item.value(QLatin1String("id")).toString();
         facts.name = nameOf(facts.id);
         facts.memberName = memberNameOf(facts.id, facts.name);
+        facts.kind = kindOf(item.value(QLatin1String("type")).toString());
         facts.type = wrapperType(item.value(QLatin1String("type")).toString());
         facts.label = item.value(QLatin1String("label")).toString();
         facts.unit = item.value(QLatin1String("unit")).toString();

@@ -20,6 +20,14 @@ struct Choice
 /// What pages can know of an item before they run.
 struct ItemFacts
 {
+    enum Kind {
+        Value,
+        /// A value with members.
+        Aggregate,
+        /// Rows of members.
+        Table,
+    };
+
     /// The full name of the service, for example "com.example.optical".
     QString service;
     /// What the names of the service's items begin with, for example "optical".
@@ -30,6 +38,7 @@ struct ItemFacts
     QString name;
     /// For example "cfg_mode"; empty for an id without a category.
     QString memberName;
+    Kind kind = Value;
     /// As KivData::getType() says it: "double", "std::vector<string>", "aggregate" ….
     QString type;
     QString label;

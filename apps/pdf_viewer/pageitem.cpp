@@ -1,9 +1,9 @@
 #include "pageitem.h"
 
 #include "pdfpages.h"
+#include "qml/scene/picturenode.h"
 
 #include <QQuickWindow>
-#include <QSGImageNode>
 
 namespace uiutils::viewer {
 
@@ -135,23 +135,7 @@ void PageItem::setStatus(Status status)
 
 QSGNode* PageItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*)
 {
-    auto* image = static_cast<QSGImageNode*>(node);
-    if (m_picture.isNull()) {
-        delete image;
-        return nullptr;
-    }
-    if (!image) {
-        image = window()->createImageNode();
-        image->setOwnsTexture(true);
-        image->setFiltering(QSGTexture::Linear);
-        m_isPictureNew = true;
-    }
-    if (m_isPictureNew) {
-        image->setTexture(window()->createTextureFromImage(m_picture, QQuickWindow::TextureIsOpaque));
-        m_isPictureNew = false;
-    }
-    image->setRect(boundingRect());
-    return image;
+    return pictureNode(node, *this, m_picture, &m_isPictureNew, QQuickWindow::TextureIsOpaque);
 }
 
 } // namespace uiutils::viewer

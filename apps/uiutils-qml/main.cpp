@@ -3,6 +3,7 @@
 #include "pageaudit.h"
 #include "pagejudge.h"
 #include "pagelog.h"
+#include "pagemodules.h"
 #include "pagereload.h"
 #include "pagetest.h"
 #include "pagetranslations.h"
@@ -15,8 +16,10 @@
 #include "common/complaint.h"
 #include "common/displaysetup.h"
 #include "inspector/inspectorpanel.h"
+#include "languages/languages.h"
 #include "service/kivdata.h"
 #include "service/manifest.h"
+#include "ui_host/describedservices_p.h"
 #include "ui_host/host.h"
 
 #include <QGuiApplication>
@@ -38,8 +41,10 @@ using inspector::InspectorPanel;
 using qmltool::Options;
 using qmltool::Page;
 using qmltool::PageLog;
+using qmltool::PageModules;
 using qmltool::PageReload;
 using qmltool::PageWindow;
+using qmltool::Translations;
 
 namespace {
 
@@ -77,6 +82,14 @@ int grabbed(int exitCode, const PageLog& log)
     return complain(qmltool::Texts::tr("The picture was written, but the page reported what is wrong, see above."));
 }
 
+int audit(QQmlEngine* engine, QQuickWindow* window, const Options& options)
+{
+    const QStringList complaints = qmltool::auditPage(engine, window, options.screen.dotsPerInch);
+    for (const QString& complaint : complaints)
+        std::printf("%s\n", qUtf8Printable(complaint));
+    return complaints.isEmpty() ? exitDone : exitFailed;
+}
+
 /// What stands in for the world around a page: the services of a recording, and the time of a test.
 struct Surroundings
 {
@@ -97,17 +110,36 @@ void work(QQmlEngine* engine, QQuickWindow* window, const Surroundings& around, 
 }
 
 /// An engine that knows the services and nothing of a page.
-std::unique_ptr<QQmlEngine> makeEngine(Host& host, const Options& options)
+std::unique_ptr<QQmlEngine> makeEngine(Host& host, PageModules& modules, const Options& options)
 {
     auto engine = std::make_unique<QQmlEngine>();
     host.showTo(engine.get());
     for (const QString& folder : options.importFolders)
         engine->addImportPath(folder);
+    modules.showTo(engine.get());
     QObject::connect(engine.get(), &QQmlEngine::quit, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     QObject::connect(engine.get(), &QQmlEngine::exit, qApp, &QCoreApplication::exit, Qt::QueuedConnection);
     if (options.screen.dotsPerInch > 0)
         apps::useDensity(engine.get(), options.screen.dotsPerInch);
     return engine;
+}
+
+std::unique_ptr<Page> loadOnce(Host& host, PageModules& modules, PageLog* log, const Options& options)
+{
+    std::unique_ptr<QQmlEngine> engine = makeEngine(host, modules, options);
+    if (options.isCheck || !options.picture.isEmpty())
+        log->follow(engine.get(), options.isCheck);
+    return std::make_unique<Page>(std::move(engine), options.page);
+}
+
+std::unique_ptr<Page> loadPage(Host& host, PageModules& modules, PageLog* log, const Options& options)
+{
+    std::unique_ptr<Page> page = loadOnce(host, modules, log, options);
+    if (!modules.help(page->error()))
+        return page;
+    page.reset();
+    log->clear();
+    return loadOnce(host, modules, log, options);
 }
 
 /// Null, after an error message, when the panel could not be made.
@@ -154,6 +186,7 @@ int show(Host& host, const Surroundings& around, const Options& options)
     if (options.isInspected && !panel)
         return exitFailed;
     PageLog log(options.page);
+    PageModules modules;
     PageWindow window(options.screen.size);
     if (panel)
         window.setPanel(panel->item());
@@ -161,15 +194,12 @@ int show(Host& host, const Surroundings& around, const Options& options)
     // Before the page is read, so that no change is missed.
     if (isUsed(options, around))
         reload.emplace(&host, &window, options.page, options.importFolders,
-                [&host, &options] { return makeEngine(host, options); });
-    std::unique_ptr<QQmlEngine> engine = makeEngine(host, options);
-    if (options.isCheck || !options.picture.isEmpty())
-        log.follow(engine.get(), options.isCheck);
-    auto page = std::make_unique<Page>(std::move(engine), options.page);
+                [&host, &modules, &log, &options] { return loadPage(host, modules, &log, options); });
+    auto page = loadPage(host, modules, &log, options);
     if (!page->root() && options.isCheck) {
         log.add(page->errors());
-        const bool isTold = !before.isEmpty() || log.hasErrors();
-        return std::max(isTold ? exitFailed : complain(page->error()), qmltool::tell(before, log.findings(), options));
+        log.addProblem(page->errors().isEmpty() ? page->error() : QString());
+        return qmltool::tell(before, log.findings(), options);
     }
     if (!page->root())
         return complain(page->error());
@@ -185,6 +215,13 @@ int show(Host& host, const Surroundings& around, const Options& options)
         around.desk->play(options);
     }
     return ended(QCoreApplication::exec(), before, log, options);
+}
+
+void complainOf(const Translations& translations)
+{
+    const QStringList problems = translations.problems();
+    for (const QString& problem : problems)
+        complain(problem);
 }
 
 /// Puts a recording in place of the service files, if the options name one. Returns false, having complained, when it
@@ -226,17 +263,25 @@ int main(int argc, char** argv)
     const apps::DisplaySetup display;
     apps::DisplaySetup::offerScreenKeyboard();
     const QGuiApplication application(argc, argv);
-    const qmltool::PageTranslations translations(options.page);
-    const QStringList problems = translations.problems();
-    for (const QString& problem : problems)
-        complain(problem);
+    Translations ofPage(qmltool::translationsOfPage(options.page));
+    const QStringList serviceFolders
+            = options.serviceFolders.isEmpty() ? defaultServiceFolders() : options.serviceFolders;
+    Translations ofServices(qmltool::translationsOfServices(serviceFolders));
+    complainOf(ofPage);
+    complainOf(ofServices);
     Surroundings around;
-    HostSetup setup {options.serviceFolders, options.root, {}, {}, translations.folders()};
+    HostSetup setup {options.serviceFolders, options.root, {}, {}, ofPage.folders()};
     if (!surround(options, &around, &setup))
         return exitFailed;
     Host host;
     if (!host.start(setup))
         return exitFailed;
+    Languages::instance()->setServiceFolders(ofServices.folders());
+    for (Translations* translations : {&ofPage, &ofServices})
+        translations->follow([translations] {
+            complainOf(*translations);
+            Languages::instance()->readAgain();
+        });
     if (!options.language.isEmpty() && !host.setLanguage(options.language))
         return complain(qmltool::Texts::tr("There is no language \"%1\".").arg(options.language));
     return options.page.isEmpty() ? list() : show(host, around, options);

@@ -21,7 +21,8 @@ int tell(QVector<Finding> before, const QVector<Finding>& running, const Options
     QVector<Finding> all = before;
     for (const Finding& finding : running) {
         const bool isExplained = std::any_of(before.cbegin(), before.cend(), [&finding](const Finding& known) {
-            return known.weight == Finding::Error && known.file == finding.file && known.line == finding.line;
+            return known.weight == Finding::Error && known.file == finding.file
+                    && (known.line == finding.line || finding.line == 0);
         });
         if (!isExplained)
             all.append(finding);

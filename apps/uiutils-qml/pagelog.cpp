@@ -68,6 +68,12 @@ void PageLog::add(const QList<QQmlError>& errors)
     }
 }
 
+void PageLog::addProblem(const QString& problem)
+{
+    if (!problem.isEmpty())
+        m_findings.append({check::Finding::Error, m_page, 0, 0, QString(), problem});
+}
+
 bool PageLog::hasErrors() const
 {
     return std::any_of(m_findings.cbegin(), m_findings.cend(),

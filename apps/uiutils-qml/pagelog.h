@@ -28,6 +28,10 @@ public:
     /// Enters why the page was not loaded.
     void add(const QList<QQmlError>& errors);
 
+    /// The same for what has no place in a file; nothing if the text is empty.
+    void addProblem(const QString& problem);
+    void clear() { m_findings.clear(); }
+
     const QVector<check::Finding>& findings() const { return m_findings; }
     bool hasErrors() const;
 

@@ -23,11 +23,10 @@ const QStringList& pageFiles()
 } // namespace
 
 PageReload::PageReload(Host* host, PageWindow* window, const QString& page, const QStringList& importFolders,
-        const EngineMaker& makeEngine)
+        const PageMaker& makePage)
     : m_host(host)
     , m_window(window)
-    , m_page(page)
-    , m_makeEngine(makeEngine)
+    , m_makePage(makePage)
     , m_watch(QStringList(QFileInfo(page).absolutePath()) + importFolders, pageFiles(), FolderWatch::AllBelow,
               [this](const QStringList&, bool) { reload(); })
 {
@@ -50,7 +49,7 @@ PageReload::~PageReload()
 
 void PageReload::reload()
 {
-    auto page = std::make_unique<Page>(m_makeEngine(), m_page);
+    auto page = m_makePage();
     m_pageProblem = page->error();
     if (page->root()) {
         // It may stand in a window that ends with the page before.

@@ -3,8 +3,6 @@
 #include "base/folderwatch_p.h"
 #include "errorpane.h"
 
-#include <QQmlEngine>
-
 #include <functional>
 #include <memory>
 
@@ -14,6 +12,7 @@ class Host;
 
 namespace uiutils::qmltool {
 
+class Page;
 class PageWindow;
 
 /// Shows a page again when its file, a file below its folder or one below an import folder has changed, and when
@@ -22,11 +21,11 @@ class PageWindow;
 class PageReload
 {
 public:
-    using EngineMaker = std::function<std::unique_ptr<QQmlEngine>()>;
+    using PageMaker = std::function<std::unique_ptr<Page>()>;
 
-    /// All of these must outlive the object. `makeEngine` makes an engine for the services.
+    /// All of these must outlive the object. `makePage` loads the page.
     PageReload(Host* host, PageWindow* window, const QString& page, const QStringList& importFolders,
-            const EngineMaker& makeEngine);
+            const PageMaker& makePage);
     ~PageReload();
     Q_DISABLE_COPY_MOVE(PageReload)
 
@@ -36,8 +35,7 @@ private:
 
     Host* const m_host;
     PageWindow* const m_window;
-    const QString m_page;
-    const EngineMaker m_makeEngine;
+    const PageMaker m_makePage;
     QString m_pageProblem;
     QStringList m_serviceProblems;
     ErrorPane m_errors;

@@ -82,14 +82,11 @@ QString ReplayOptions::read(const QCommandLineParser& parser, bool areServicesGi
     options->isLooped = parser.isSet(m_loop);
     options->isUpdate = parser.isSet(m_update);
     options->hasPictures = parser.isSet(m_pictures);
-    const std::optional<qint64> from = apps::millisecondsOf(parser.value(m_from));
-    const std::optional<double> speed = apps::speedOf(parser.value(m_speed));
-    if (!from)
-        return Texts::tr("--from needs a number of seconds.");
-    if (!speed)
-        return Texts::tr("--speed needs a number from 0.001 to 1000000.");
-    options->fromMs = *from;
-    options->speed = *speed;
+    const apps::PlayTimes times = apps::playTimes(parser.value(m_from), parser.value(m_speed));
+    if (!times.problem.isEmpty())
+        return times.problem;
+    options->fromMs = times.fromMs;
+    options->speed = times.speed;
     if (parser.isSet(m_at) && !readMoments(parser.value(m_at), &options->moments))
         return Texts::tr("--grab-at needs numbers of seconds in ascending order, separated by commas.");
     if (!options->moments.isEmpty() && options->moments.constFirst() < options->fromMs)

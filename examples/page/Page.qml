@@ -3,8 +3,9 @@ import QtQuick.Controls 2.15
 import QtQuick.Window 2.15
 import UiUtils 1.0
 import UiUtils.Controls 1.0
+import Instrument.Powermeter 1.0
 
-// Every item of the service has a name here: the service's, "cfg", "res" or "act", and its own.
+// Every item of the service is a member of Powermeter: "cfg", "res" or "act", and its own name.
 Window {
     width: 480
     height: 460
@@ -21,15 +22,15 @@ Window {
         width: 400
         spacing: 16
 
-        Meter { width: parent.width; item: powermeter_res_power }
-        Meter { width: parent.width; item: powermeter_res_noise }
-        ItemEntry { width: parent.width; item: powermeter_cfg_wavelength }
-        ItemEntry { width: parent.width; item: powermeter_cfg_reference }
+        Meter { width: parent.width; item: Powermeter.res_power }
+        Meter { width: parent.width; item: Powermeter.res_noise }
+        ItemEntry { width: parent.width; item: Powermeter.cfg_wavelength }
+        ItemEntry { width: parent.width; item: Powermeter.cfg_reference }
         // A button would lay out markup in its text, and this one comes from the service.
         Button {
             id: measure
-            text: powermeter_act_measure.label
-            onClicked: powermeter_act_measure.invoke()
+            text: Powermeter.act_measure.label
+            onClicked: Powermeter.act_measure.invoke()
             contentItem: Text {
                 text: measure.text
                 textFormat: Text.PlainText

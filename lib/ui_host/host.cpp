@@ -1,5 +1,6 @@
 #include "ui_host/host.h"
 
+#include "base/folderwatch_p.h"
 #include "base/root_p.h"
 #include "languages/languages.h"
 #include "module/modulepath.h"
@@ -11,6 +12,7 @@
 #include <kiv/kivclientinterface.h>
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QMap>
 #include <QPointer>
 #include <QQmlContext>
@@ -24,6 +26,17 @@ namespace uiutils {
 using kiv::embedded::EmbeddedService;
 
 namespace {
+
+QStringList translationsBeside(const QStringList& serviceFolders)
+{
+    QStringList folders;
+    for (const QString& folder : serviceFolders) {
+        const QString beside = folder + QStringLiteral("/translations");
+        if (QFileInfo(beside).isDir())
+            folders += beside;
+    }
+    return folders;
+}
 
 /// Pages can read the services, not replace them.
 class ServicesByName final : public QQmlPropertyMap
@@ -56,6 +69,8 @@ struct Host::Private
     ServicesByName byName;
     QPointer<QQmlEngine> engine;
     QStringList problems;
+    QStringList translationFolders;
+    std::unique_ptr<FolderWatch> translationWatch;
 };
 
 bool Host::Private::startPlatform(const HostSetup& setup)
@@ -94,8 +109,10 @@ bool Host::start(const HostSetup& setup)
     // The manifests are those of the platform that is there.
     if (d->platform)
         return false;
-    Languages::instance()->open(setup.translationFolders);
     const HostSetup complete = ServicePlatform::completed(setup);
+    d->translationFolders = translationsBeside(complete.serviceFolders);
+    Languages::instance()->setServiceFolders(d->translationFolders);
+    Languages::instance()->open(setup.translationFolders);
     const bool isUsable = useRoot(complete.root, &d->problems) && d->startPlatform(complete);
     if (isUsable) {
         d->problems += placeImages() + placeViewer();
@@ -120,8 +137,11 @@ bool Host::setLanguage(const QString& code)
 
 void Host::followServiceFiles()
 {
-    if (d->platform)
-        d->platform->followFiles();
+    if (!d->platform)
+        return;
+    d->platform->followFiles();
+    d->translationWatch = std::make_unique<FolderWatch>(d->translationFolders, QStringList(QStringLiteral("*.qm")),
+            FolderWatch::ThisFolder, [](const QStringList&, bool) { Languages::instance()->readAgain(); });
 }
 
 QStringList Host::problems() const

@@ -55,6 +55,8 @@ public:
     /// - The language that suits the default QLocale best is chosen. Its translations are "uiutils_LANGUAGE.qm" and
     ///   "APPLICATION_LANGUAGE.qm", with the name of the application, from the installed folder
     ///   share/uiutils/translations, and all "NAME_LANGUAGE.qm" from the folders of the setup.
+    ///   What services say is also translated by all "NAME_LANGUAGE.qm" in the folders "translations" of the service
+    ///   folders, also where the services live in other processes.
     /// - KIV_PLATFORM chooses the services. "embedded", the default: the described services live in this process.
     ///   "bus": those of other processes are used, on the bus that KIV_BUS names, and only the application's own ones
     ///   are published there. The bus is asked to start what it can, for at most three seconds; later services are
@@ -74,7 +76,8 @@ public:
     /// Reads the service files again whenever one changes or is added, for whoever writes services while pages run:
     /// call it after start(). Items keep their values, quality and readiness, except those about which a file says
     /// something new; a file that cannot be used changes nothing. Does nothing where the services live in other
-    /// processes. Emits serviceFilesRead(), and serviceAdded() for a service that is new.
+    /// processes. Emits serviceFilesRead(), and serviceAdded() for a service that is new. Catalogues beside the service
+    /// files are followed too, wherever the services live.
     void followServiceFiles();
 
     /// What went wrong in start(), in words for users, with places and reasons; for a file of services, the file, the

@@ -39,11 +39,11 @@ private:
     KIVClientInterface* m_client = nullptr;
     pid_t m_bridge = 0;
 
-    std::unique_ptr<Child> startKivd(const QString& services = "services")
+    std::unique_ptr<Child> startKivd(const QString& services = "services", const QStringList& options = {})
     {
         auto kivd = std::make_unique<Child>();
         kivd->run(QCoreApplication::applicationDirPath() + "/kivd",
-                {"--services", m_root->filePath(services), "--root", m_root->filePath("root")});
+                QStringList {"--services", m_root->filePath(services), "--root", m_root->filePath("root")} + options);
         return kivd;
     }
     void writeServices(const QString& folder, int level)
@@ -335,6 +335,47 @@ private Q_SLOTS:
         m_backend->startServices();
         QVERIFY(m_backend->waitForServices(patience));
         QVERIFY(m_backend->serviceNames().contains("life"));
+    }
+
+    /// Service files are edited under a page. What they say anew counts, what clients have set stays, and a file that
+    /// is only half there takes nothing away.
+    void filesAreEdited()
+    {
+        m_kivd->end();
+        QVERIFY(isGone());
+        m_kivd = startKivd("services", {"--follow", "--without", "hidden"});
+        QVERIFY(isThere());
+        QVERIFY(m_client->setItem(levelId, 6));
+        Manifest manifest(m_client, "", "life");
+        const KivData* steady = Manifest::getKivData(steadyId);
+        const QString file = m_root->filePath("services/life.service.json");
+        const QByteArray text = contentsOf(file);
+
+        // Twice: what was published again follows as well.
+        for (const QByteArray& word : {QByteArray("edited"), QByteArray("edited again")}) {
+            writeFile(file, QByteArray(text).replace("as ever", word));
+            QTRY_COMPARE_WITH_TIMEOUT(steady->getValue(), QVariant(QString(word)), patience);
+            QTRY_VERIFY_WITH_TIMEOUT(steady->isReady(), patience);
+            QCOMPARE(level(), QVariant(6));
+        }
+        QVERIFY(m_client->setItem(levelId, 7));
+
+        // The program reads the half file before the added one, because its name comes first.
+        QSignalSpy ended(m_client, &KIVClientInterface::itemsChanged);
+        writeFile(file, text.left(text.size() / 2));
+        writeFile(m_root->filePath("services/more.service.json"),
+                R"({ "service": "more", "items": [{ "id": ":result:more:n:", "type": "int", "value": 1 }] })");
+        writeFile(m_root->filePath("services/hidden.service.json"),
+                R"({ "service": "hidden", "items": [{ "id": ":result:hidden:n:", "type": "int", "value": 1 }] })");
+        QTRY_VERIFY_WITH_TIMEOUT(m_backend->serviceNames().contains("more"), patience);
+        QVERIFY(ended.isEmpty() && m_client->isValid());
+        QVERIFY(!m_backend->serviceNames().contains("hidden"));
+        QCOMPARE(level(), QVariant(7));
+
+        // Another name is another service.
+        writeFile(file, QByteArray(text).replace(R"("life")", R"("renamed")"));
+        QTRY_VERIFY_WITH_TIMEOUT(m_backend->serviceNames().contains("renamed"), patience);
+        QVERIFY(isGone());
     }
 
     /// A service whose file moves it does so in another process, and vanishes and returns there.

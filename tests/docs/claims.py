@@ -10,7 +10,8 @@ import re
 import subprocess
 import sys
 
-PROGRAMS = ["kivctl", "kivd", "pdf_viewer", "reportconvert", "uiutils-check", "uiutils-demo", "uiutils-inspector", "uiutils-qml"]
+PROGRAMS = ["kivctl", "kivd", "pdf_viewer", "reportconvert", "uiutils-check", "uiutils-demo", "uiutils-describe", "uiutils-inspector",
+            "uiutils-qml"]
 SCRIPTS = {"./check": "check", "./demo": "demo"}
 SOURCES = ("base/", "lib/", "platform/", "qml/", "apps/")
 # What every program of C++ links, and what the sanitizers add.

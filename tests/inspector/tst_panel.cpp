@@ -95,7 +95,7 @@ private:
             if (area->metaObject()->indexOfMethod("reveal(QVariant)") >= 0)
                 QMetaObject::invokeMethod(area, "reveal", Q_ARG(QVariant, QVariant::fromValue(part(name))));
         }
-        QTest::qWait(0);
+        QCoreApplication::processEvents();
     }
 
 private Q_SLOTS:
@@ -296,7 +296,7 @@ private Q_SLOTS:
         QVERIFY2(bound > 3 && bound < 30, qPrintable(QString::number(bound)));
         for (int row = 0; row < 2007; row += 150) {
             QMetaObject::invokeMethod(list, "positionViewAtIndex", Q_ARG(int, row), Q_ARG(int, 0));
-            QTest::qWait(0);
+            QCoreApplication::processEvents();
         }
         QTRY_VERIFY(part(":result:meter:many:n1950:"));
         QCOMPARE(part(":result:meter:many:n1950:")->property("value").toString(), "1,950");

@@ -1,10 +1,9 @@
 #include "columns.h"
-#include "files.h"
+#include "servicesonbus.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QStandardPaths>
 
 #include <csignal>
 
@@ -16,15 +15,6 @@ const QString level = ":config:station:setup:level_3:";
 const QString state = ":result:station:state:";
 // What would colour a terminal, as a text of two ways to begin a sequence.
 const QString hostileText = QString::fromUtf8("a\tb\x1b[31mc\u009b1md\u202e");
-
-Outcome run(const QStringList& arguments, const QByteArray& input = {})
-{
-    QProcess process;
-    process.start(program, arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    return ended(process);
-}
 
 QString valueOf(const QString& id)
 {
@@ -64,45 +54,28 @@ private:
     {
         QProcess watching;
         watching.start(program, {"watch", state});
-        m_kivd.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_kivd.start(UIUTILS_KIVD_PROGRAM, {"-s", UIUTILS_TEST_DATA_DIR "/services", "-s", m_folder.path(), "--root", m_folder.filePath("kivd")});
+        m_services.start({m_folder.path()});
         QVERIFY(nextLine(watching).startsWith(state.toUtf8()));
         watching.terminate();
         QCOMPARE(ended(watching).exitCode, 0);
     }
-    void endServices()
-    {
-        m_kivd.terminate();
-        m_kivd.waitForFinished();
-    }
 
     QTemporaryDir m_folder;
-    QProcess m_bus;
-    QProcess m_kivd;
+    ServicesOnBus m_services;
 
 private Q_SLOTS:
     void initTestCase()
     {
-        if (QStandardPaths::findExecutable("dbus-daemon").isEmpty())
+        if (!m_services.startBus())
             QSKIP("There is no dbus-daemon");
-        for (const char* name : {"KIV_PLATFORM", "KIV_BUS"})
-            qunsetenv(name);
-        m_bus.start("dbus-daemon", {"--session", "--nofork", "--nopidfile", "--print-address"});
-        qputenv("DBUS_SESSION_BUS_ADDRESS", nextLine(m_bus).trimmed());
         const QJsonObject item {{"id", ":result:hostile:text:"}, {"type", "std::string"}, {"label", hostileText}, {"value", hostileText}};
         const QJsonObject action {{"id", ":action:hostile:endless:"}, {"type", "action"}, {"does", QJsonObject {{"delay", 600'000}}}};
         writeFile(m_folder.filePath("hostile.service.json"),
                 QJsonDocument(QJsonObject {{"service", "hostile"}, {"items", QJsonArray {item, action}}}).toJson());
     }
-    void cleanupTestCase()
-    {
-        endServices();
-        m_bus.terminate();
-        m_bus.waitForFinished();
-    }
     void init()
     {
-        if (m_kivd.state() == QProcess::NotRunning)
+        if (m_services.process().state() == QProcess::NotRunning)
             startServices();
     }
 
@@ -176,7 +149,7 @@ private Q_SLOTS:
         QCOMPARE(run({"set", ":config:station:setup:points:doubleARRAY:", "[3, 4.5]"}).exitCode, 0);
         QCOMPARE(valueOf(":config:station:setup:points:doubleARRAY:"), QString("[3,4.5]"));
         // The services have stored it when they end by SIGTERM.
-        endServices();
+        m_services.end();
         startServices();
         QCOMPARE(valueOf(level), QString("-5"));
     }
@@ -232,9 +205,9 @@ private Q_SLOTS:
         QCOMPARE(next()["service"].toString(), QString("station"));
         QCOMPARE(run({"action", ":action:station:start:", "once"}).exitCode, 0);
         QCOMPARE(next()["value"].toString(), QString("runs once"));
-        m_kivd.kill();
+        m_services.process().kill();
         QCOMPARE(next()["gone"], QJsonValue(true));
-        m_kivd.waitForFinished();
+        m_services.process().waitForFinished();
         startServices();
         QCOMPARE(next()["value"].toString(), QString("idle"));
         signalTo(watching, SIGINT);
@@ -296,12 +269,12 @@ private Q_SLOTS:
 
     void servicesAway()
     {
-        signalTo(m_kivd, SIGSTOP);
+        signalTo(m_services.process(), SIGSTOP);
         const Outcome outcome = run({"-t", "50", "get", count});
-        signalTo(m_kivd, SIGCONT);
+        signalTo(m_services.process(), SIGCONT);
         QCOMPARE(outcome.exitCode, 4);
         QVERIFY2(outcome.errors.contains("within 50 ms"), qPrintable(outcome.errors));
-        endServices();
+        m_services.end();
         for (const QStringList& arguments : {QStringList {"list"}, QStringList {"get", count}, QStringList {"dump", "station"}}) {
             const Outcome alone = run(arguments);
             QCOMPARE(alone.exitCode, 4);

@@ -1,10 +1,9 @@
 #include "columns.h"
-#include "files.h"
+#include "servicesonbus.h"
 
 #include <QElapsedTimer>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QStandardPaths>
 
 #include <csignal>
 
@@ -13,14 +12,6 @@ namespace {
 const QString program = UIUTILS_KIVCTL_PROGRAM;
 const QString count = ":config:station:setup:count:";
 constexpr int patienceMs = 60000;
-
-Outcome run(const QStringList& arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    process.closeWriteChannel();
-    return ended(process);
-}
 
 template<class Condition> bool waitUntil(const Condition& condition)
 {
@@ -52,19 +43,12 @@ class KivctlRecordingsTest : public QObject
 
 private:
     QTemporaryDir m_folder;
-    QProcess m_bus;
-    QProcess m_kivd;
+    ServicesOnBus m_services;
 
     void startServices()
     {
-        m_kivd.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_kivd.start(UIUTILS_KIVD_PROGRAM, {"-s", UIUTILS_TEST_DATA_DIR "/services", "--root", m_folder.filePath("kivd")});
+        m_services.start();
         QVERIFY(waitUntil([] { return run({"services"}).output.contains("station\t23"); }));
-    }
-    void endServices()
-    {
-        m_kivd.terminate();
-        m_kivd.waitForFinished();
     }
     /// A recording that has begun.
     void startRecording(QProcess* process, const QString& file, const QStringList& options = {})
@@ -77,19 +61,8 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
-        if (QStandardPaths::findExecutable("dbus-daemon").isEmpty())
+        if (!m_services.startBus())
             QSKIP("There is no dbus-daemon");
-        for (const char* name : {"KIV_PLATFORM", "KIV_BUS"})
-            qunsetenv(name);
-        m_bus.start("dbus-daemon", {"--session", "--nofork", "--nopidfile", "--print-address"});
-        QVERIFY(m_bus.waitForReadyRead(patienceMs));
-        qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.readLine().trimmed());
-    }
-    void cleanupTestCase()
-    {
-        endServices();
-        m_bus.terminate();
-        m_bus.waitForFinished();
     }
 
     void commandLines_data()
@@ -126,7 +99,7 @@ private Q_SLOTS:
         for (const char* value : {"11", "12", "13"})
             QCOMPARE(run({"set", count, value}).exitCode, 0);
         QCOMPARE(run({"action", ":action:station:start:", "once"}).exitCode, 0);
-        endServices();
+        m_services.end();
         QVERIFY(waitUntil([&] { return contentsOf(first).count("\"gone\":true") == 5; }));
         recording.terminate();
         Outcome outcome = ended(recording);
@@ -174,7 +147,7 @@ private Q_SLOTS:
             QVERIFY(!text().contains("basemgr"));
             QCOMPARE(run({"set", count, "20"}).exitCode, 0);
         }
-        endServices();
+        m_services.end();
         QProcess replay;
         replay.start(program, {"replay", m_folder.filePath("killed.kivlog.gz"), "--from", "1000", "--paused"});
         QVERIFY(waitUntil([] { return run({"get", count}).output == "21\n"; }));
@@ -190,7 +163,7 @@ private Q_SLOTS:
     {
         startServices();
         const Outcome outcome = run({"record", "-", "--duration", "0.2", "--only", "station", "--only", "later"});
-        endServices();
+        m_services.end();
         QCOMPARE(outcome.exitCode, 0);
         QVERIFY(outcome.output.startsWith("{\"format\":\"kiv-recording\"") && outcome.output.endsWith("}\n"));
         QCOMPARE(outcome.output.count("\"snapshot\""), 1);

@@ -1,3 +1,4 @@
+#include "core/userdata.h"
 #include "document/reporttemplate.h"
 #include "module/uiutilsmodule.h"
 
@@ -5,6 +6,7 @@
 
 #include <QJsonObject>
 #include <QQmlComponent>
+#include <QQmlContext>
 #include <QQmlEngine>
 #include <QtTest>
 
@@ -123,6 +125,50 @@ private Q_SLOTS:
         QVERIFY(QMetaObject::invokeMethod(object.get(), "ask"));
         QCOMPARE(object->property("answers").toStringList(),
                 (QStringList {"Delete File", "yes /mnt/usb/a2", "no /mnt/usb/bundefined", "yes own3"}));
+    }
+
+    /// The objects that all pages share belong to no engine: pages beside each other, and after each other, follow them
+    /// without a word in the log.
+    void enginesShareObjects()
+    {
+        const QByteArray page = R"(QtObject {
+                property string seen: UserData.getData("word") + Languages.current + UiDataContainer.objectName
+                        + Notifications.objectName
+                property Connections heard: Connections {
+                    target: UserData
+                    function onSignalDataChanged(key, value) { seen = value }
+                }
+            })";
+        static QStringList said;
+        said.clear();
+        const auto before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) { said += text; });
+        const auto restore = qScopeGuard([=] { qInstallMessageHandler(before); });
+        auto first = std::make_unique<QQmlEngine>();
+        auto second = std::make_unique<QQmlEngine>();
+        auto shownFirst = made(*first, page);
+        const auto shownSecond = made(*second, page);
+        UserData::getInstance()->setData("word", "both");
+        QCOMPARE(shownFirst->property("seen").toString(), QString("both"));
+        QCOMPARE(shownSecond->property("seen").toString(), QString("both"));
+        shownFirst.reset();
+        first.reset();
+        QQmlEngine third;
+        const auto shownThird = made(third, page);
+        UserData::getInstance()->setData("word", "later");
+        QCOMPARE(shownSecond->property("seen").toString(), QString("later"));
+        QCOMPARE(shownThird->property("seen").toString(), QString("later"));
+        QCOMPARE(said, QStringList());
+    }
+
+    /// What the application has chosen itself.
+    void contextOfTheApplicationStays()
+    {
+        QQmlEngine engine, other;
+        QQmlContext own(engine.rootContext());
+        QQmlEngine::setContextForObject(UserData::getInstance(), &own);
+        QTest::ignoreMessage(QtWarningMsg, "QQmlEngine::setContextForObject(): Object already has a QQmlContext");
+        made(other, "QtObject { property var x: UserData }");
+        QCOMPARE(QQmlEngine::contextForObject(UserData::getInstance()), &own);
     }
 };
 

@@ -478,6 +478,39 @@ private Q_SLOTS:
         writeFile(onDisk("/cust/private/reports"), "no folder");
         QVERIFY(report.save(true) && !manager()->currentDialog());
     }
+    /// Somebody else closes the job and the work order while the first file is made: all files of the save are of the
+    /// job in which it began. The page sees what is, and the next save is of no job.
+    void jobIsClosedDuringASave()
+    {
+        QVERIFY(m_backend->loadFile(UIUTILS_SERVICES_DIR "/workflow_manager_app.service.json"));
+        Controller report("a", 5);
+        report.setFolder("f");
+        report.setIncludeJobInfo(true);
+        QString summary = "none was read";
+        report.meanwhile = [&] {
+            QVERIFY(basemgr()->setValue(activeItem, false));
+            QVERIFY(basemgr()->setValue(":result:basemgr:jobmanager:jobID:", ""));
+            m_backend->withdraw("orb.base.workflow_manager_app");
+            summary = report.getJobSummary();
+        };
+        QVERIFY(report.save());
+        QCOMPARE(summary, QString());
+        const QString folder = "/cust/private/reports/metadata/f/";
+        const QStringList records = names(folder);
+        QCOMPARE(records.size(), 5);
+        const auto infoOf = [&](const QString& name) {
+            return QJsonDocument::fromJson(contentsOf(onDisk(folder + name))).object()["info"].toObject();
+        };
+        for (const QString& name : records) {
+            QCOMPARE(infoOf(name)["jobId"].toString(), QString("WO-88213"));
+            QCOMPARE(infoOf(name)["wo"].toString(), QString("WO-88213"));
+        }
+        const auto page = [&] { return contentsOf(onDisk("/cust/public/reports/f/a.html")); };
+        QVERIFY(page().contains("WO-88213"));
+        QVERIFY(report.save(true));
+        QVERIFY(!page().contains("WO-88213"));
+        QCOMPARE(infoOf("a.xml.metadata"), QJsonObject());
+    }
     void timeStampsHaveTheLocalOffset()
     {
         const std::tuple<const char*, const char*, const char*> rows[]{

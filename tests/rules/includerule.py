@@ -16,7 +16,7 @@ ROOMS = """
 base        base                            -
 contract    platform/contract/kiv           base
 schema      platform/contract/kiv/schema    contract base
-formatters  platform/reference/formatters   contract
+formatters  platform/reference/formatters   base contract
 embedded    platform/reference/embedded     base contract formatters
 simulation  platform/reference/simulation   base contract formatters embedded replay
 bus         platform/reference/bus          base contract formatters embedded
@@ -49,22 +49,26 @@ host        lib/ui_host                     base contract core languages service
 hostbus     lib/ui_host/bus                 base contract embedded bus host
 paper       lib/ui_paper                    core pages
 
+scene       qml/scene                       -
 plugin      qml/UiUtils                     LIBRARY base contract
-preview     qml/UiUtils/Preview             LIBRARY base contract
-kit         qml/UiUtils/Controls            -
+preview     qml/UiUtils/Preview             LIBRARY base contract scene
+kit         qml/UiUtils/Controls            scene
 liveplot    qml/UiUtils/Plot                base contract core languages document service plots
 common      apps/common                     LIBRARY base contract embedded bus host
 names       apps/names                      LIBRARY contract
 check       apps/check                      LIBRARY base contract formatters embedded simulation common names
 checktool   apps/uiutils-check              check common names
+modules     apps/modules                    base names
 audit       apps/audit                      -
+servicetexts apps/servicetexts              base contract embedded
 inspector   apps/inspector                  LIBRARY base contract embedded replay host
 kivd        apps/kivd                       base contract embedded bus common
 kivctl      apps/kivctl                     base contract embedded bus replay common host
-viewer      apps/pdf_viewer                 base common
+viewer      apps/pdf_viewer                 base common scene
 demo        apps/demo                       LIBRARY base contract embedded replay common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
-qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common audit host inspector check names
+qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common names modules audit host inspector check
+describe    apps/uiutils-describe           LIBRARY base contract embedded bus common host names modules servicetexts
 inspecttool apps/uiutils-inspector          LIBRARY base contract embedded replay common host inspector
 expage      examples/page                   host
 exform      examples/form                   LIBRARY contract host
@@ -95,7 +99,7 @@ SHARED_WITH_PROGRAMS = ("base/", "platform/reference/replay/", "lib/ui_host/")
 # Parts of libraries that hold no state, which these rooms link once more because the libraries hide them.
 LINKED_AGAIN = {"liveplot": "lib/ui_utils/writers/plots/",
                 # What reads a file wrongly in a program must read it in the same way when it is checked.
-                "check": ("lib/ui_utils/core/dynamicobject_p.h", "lib/ui_utils/service/applicability_p.h", "platform/reference/embedded/", "platform/reference/formatters/",
+                "check": ("lib/ui_utils/service/applicability_p.h", "platform/reference/embedded/", "platform/reference/formatters/",
                           "platform/reference/simulation/")}
 GUESTS = {"demo", "expage", "exform", "exreport", "exservice", "explatform"}
 # The libraries of the tree that the demo may link besides installed ones: its own parts, and what programs share.

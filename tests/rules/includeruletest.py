@@ -40,7 +40,7 @@ GROUPS = {
 FORBIDDEN = """
 base        contract REFERENCE LIBRARY PROGRAMS
 contract    REFERENCE LIBRARY PROGRAMS
-formatters  base embedded LIBRARY PROGRAMS
+formatters  embedded LIBRARY PROGRAMS
 embedded    LIBRARY PROGRAMS
 
 core        contract REFERENCE service instrument document local files WRITERS ABOVE

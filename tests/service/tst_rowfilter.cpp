@@ -195,6 +195,45 @@ private Q_SLOTS:
         QCOMPARE(shown(*filter), QString("j2 j1"));
     }
 
+    /// As people type names on keyboards without their letters, and names that were entered on such keyboards.
+    void namesAreFoundWithoutAccents_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isFound");
+        const auto row = [](const char* name, const char* typed, const char* text, bool isFound = true) {
+            QTest::newRow(name) << QString(typed) << QString(text) << isFound;
+        };
+        row("umlaut", "muller", u8"Müller");
+        row("umlaut typed", u8"MÜLLER", "Muller");
+        row("two characters", "garcon", u8"garc\u0327on");
+        row("strokes", "lodz soren", u8"Łódź, Søren");
+        row("sharp s", "strasse", u8"Straße");
+        row("dots of capitals", "istanbul", u8"İSTANBUL");
+        row("Greek", u8"αθηνα", u8"Αθήνα");
+        row("Cyrillic", u8"ежик", u8"Ёжик");
+        row("vowel points", u8"محمد", u8"مُحَمَّد");
+        row("Hebrew points", u8"שלום", u8"שָׁלוֹם");
+        row("hamza", u8"احمد", u8"أحمد");
+        row("width", "wo-12", u8"ＷＯ－１２");
+        row("width of kana", u8"ガ", u8"ｶﾞ");
+        row("kana of another sound", u8"か", u8"が", false);
+        row("Thai tone", u8"มา", u8"ม้า", false);
+        row("Devanagari vowel", u8"कल", u8"कुल", false);
+        row("another letter", "mueller", u8"Müller", false);
+    }
+    void namesAreFoundWithoutAccents()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, text);
+        const auto model = rowsOf({text});
+        RowFilter filter;
+        filter.setSourceModel(model.get());
+        filter.setTextRoles({"size"});
+        filter.setText(typed);
+        QTEST(filter.count() == 1, "isFound");
+    }
+
     void whatIsFound()
     {
         // "é" as one character, and as two.

@@ -5,6 +5,8 @@ and that the catalogues have all of them.
 translations.py extracted --lupdate TOOL           what the tool finds, and what the sources may look like
 translations.py catalogues --lupdate TOOL          what the catalogues say
 translations.py planted --lupdate TOOL             that the above finds what is wrong
+translations.py described --lupdate TOOL --describe PROGRAM
+                                                   that uiutils-describe finds the same in service files
 translations.py used --lupdate TOOL --build BUILD --recorder LIBRARY
                                                    what programs request at run time, and what they show of it
 """
@@ -309,7 +311,7 @@ def show(recording):
         ('an HTML page', html, '«Test Information»'),
         ('a plain text', text, '«Pass»'),
         ('a question', words, '«Do you want to overwrite report «Internal:»/reports/marked.pdf?»'),
-        ('the rejection of a value', words, '««Level» cannot be set to 11: «out of range». Allowed: «-10 to 10» dB.»'),
+        ('the rejection of a value', words, '««Level» cannot be set to 11: «out of range». Allowed: «-10 to 10» «dB».»'),
         ('the range of a value', words, '«2 - 8 chars»'),
         ('the rejection of a service', odd, '/items/1: «the id :config:odd:twice: appears twice»'),
         ('a setting that is not there', nobody, '«There is no setting :config:basemgr:'),
@@ -423,12 +425,26 @@ def judge_plants(lupdate):
             yield f'planted and not found: {name}'
 
 
+def judge_described(describe):
+    """Two programs read what services say, and agree."""
+    with tempfile.TemporaryDirectory() as folder:
+        ts = pathlib.Path(folder, 'all_de.ts')
+        subprocess.run([describe, '--services', TREE / update.SERVICES, '--ts', ts], check=True, stdout=subprocess.DEVNULL)
+        described = {key[1] for key in messages_of(ts)}
+    collected = set(update.labels_of(TREE))
+    if not described:
+        yield 'uiutils-describe finds nothing'
+    yield from (f'only uiutils-describe finds "{text}"' for text in sorted(described - collected))
+    yield from (f'uiutils-describe does not find "{text}"' for text in sorted(collected - described))
+
+
 def main():
     parser = argparse.ArgumentParser()
-    parser.add_argument('task', choices=('extracted', 'catalogues', 'planted', 'used'))
+    parser.add_argument('task', choices=('extracted', 'catalogues', 'planted', 'described', 'used'))
     parser.add_argument('--lupdate', required=True)
     parser.add_argument('--build', type=pathlib.Path)
     parser.add_argument('--recorder', type=pathlib.Path)
+    parser.add_argument('--describe', type=pathlib.Path)
     options = parser.parse_args()
     if options.task == 'extracted':
         complaints = judge_tree(options.lupdate, TREE)
@@ -436,6 +452,8 @@ def main():
         complaints = list(judge_plants(options.lupdate)) + list(judge_planted_catalogues())
     elif options.task == 'catalogues':
         complaints = judge_catalogues(options.lupdate)
+    elif options.task == 'described':
+        complaints = list(judge_described(options.describe))
     else:
         complaints = judge_programs(options.lupdate, options.build, options.recorder)
     for complaint in complaints:

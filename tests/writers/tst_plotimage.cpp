@@ -141,6 +141,32 @@ private Q_SLOTS:
             QCOMPARE(text, QString(199, 'w') + QChar(0x2026));
     }
 
+    /// Which axis is one of times does not depend on the language in which its unit is read.
+    void timesInAnyLanguage()
+    {
+        struct Seconds final : QTranslator
+        {
+            bool isEmpty() const override { return false; }
+            QString translate(const char*, const char* text, const char*, int) const override
+            {
+                return qstrcmp(text, "s") == 0 ? "Sek" : qstrcmp(text, "rounds") == 0 ? "ms" : QString();
+            }
+        } seconds;
+        QVERIFY(QCoreApplication::installTranslator(&seconds));
+        kiv::embedded::EmbeddedBackend backend;
+        for (const auto& [unit, kind] : {std::pair(R"("unit": "s")", uiutils::AxisScale::Duration),
+                     {R"("attributes": {"formatter": "decimal:s"})", uiutils::AxisScale::Duration}, {R"("unit": "rounds")", uiutils::AxisScale::Linear}}) {
+            QByteArray service = R"({"service": "times", "items": [
+                {"id": ":result:times:a_x:doubleARRAY:", "type": "doubleARRAY", UNIT, "value": [0, 90000000]},
+                {"id": ":result:times:a_y:doubleARRAY:", "type": "doubleARRAY", "value": [1, 2]}]})";
+            QVERIFY(backend.loadFile(writeFile(m_root.filePath("times.service.json"), service.replace("UNIT", unit))));
+            const uiutils::PlotData data = uiutils::readPlotData("times");
+            QVERIFY2(data.xKind == kind, unit);
+            QCOMPARE(data.xOwnUnit, kind == uiutils::AxisScale::Linear ? "ms" : "Sek");
+            backend.withdraw("times");
+        }
+    }
+
     void sizes()
     {
         for (const auto& [asked, drawn] :

@@ -77,6 +77,72 @@
     </message>
 </context>
 <context>
+    <name>CablePage</name>
+    <message>
+        <source>Cable test</source>
+        <translation>اختبار الكابل</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>الإعداد</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>تطبيق</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>تقرير</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>Cable test, %1</source>
+        <translation>اختبار الكابل، %1</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>النتائج</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>تم الحفظ: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ChangesPage</name>
+    <message>
+        <source>Changes that wait</source>
+        <translation>التغييرات قيد الانتظار</translation>
+    </message>
+    <message>
+        <source>Nothing is sent before Apply</source>
+        <translation>لا يُرسَل شيء قبل «تطبيق»</translation>
+    </message>
+    <message>
+        <source>Revert all</source>
+        <translation>التراجع عن الكل</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>تطبيق</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>المراجعة</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>
@@ -218,6 +284,14 @@
     <message>
         <source>Components</source>
         <translation>المكونات</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>التغييرات قيد الانتظار</translation>
+    </message>
+    <message>
+        <source>What is applied together, each change with what became of it</source>
+        <translation>ما يُطبَّق معًا، وحالة كل تغيير</translation>
     </message>
 </context>
 <context>

@@ -77,6 +77,72 @@
     </message>
 </context>
 <context>
+    <name>CablePage</name>
+    <message>
+        <source>Cable test</source>
+        <translation>Kabelprüfung</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Einrichtung</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cable test, %1</source>
+        <translation>Kabelprüfung, %1</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ChangesPage</name>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Ausstehende Änderungen</translation>
+    </message>
+    <message>
+        <source>Nothing is sent before Apply</source>
+        <translation>Vor „Anwenden“ wird nichts gesendet</translation>
+    </message>
+    <message>
+        <source>Revert all</source>
+        <translation>Alles rückgängig</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>Prüfen</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>
@@ -218,6 +284,14 @@
     <message>
         <source>Components</source>
         <translation>Komponenten</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Ausstehende Änderungen</translation>
+    </message>
+    <message>
+        <source>What is applied together, each change with what became of it</source>
+        <translation>Was zusammen angewendet wird: jede Änderung und was aus ihr wurde</translation>
     </message>
 </context>
 <context>

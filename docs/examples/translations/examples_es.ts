@@ -77,6 +77,72 @@
     </message>
 </context>
 <context>
+    <name>CablePage</name>
+    <message>
+        <source>Cable test</source>
+        <translation>Prueba de cable</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Cable test, %1</source>
+        <translation>Prueba de cable, %1</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Guardado: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ChangesPage</name>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Cambios pendientes</translation>
+    </message>
+    <message>
+        <source>Nothing is sent before Apply</source>
+        <translation>No se envía nada antes de «Aplicar»</translation>
+    </message>
+    <message>
+        <source>Revert all</source>
+        <translation>Revertir todo</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>Revisión</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>
@@ -218,6 +284,14 @@
     <message>
         <source>Components</source>
         <translation>Componentes</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Cambios pendientes</translation>
+    </message>
+    <message>
+        <source>What is applied together, each change with what became of it</source>
+        <translation>Lo que se aplica junto, cada cambio con su estado</translation>
     </message>
 </context>
 <context>

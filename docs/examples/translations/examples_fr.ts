@@ -77,6 +77,72 @@
     </message>
 </context>
 <context>
+    <name>CablePage</name>
+    <message>
+        <source>Cable test</source>
+        <translation>Test de câble</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Configuration</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Cable test, %1</source>
+        <translation>Test de câble, %1</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Résultats</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Enregistré : %1</translation>
+    </message>
+</context>
+<context>
+    <name>ChangesPage</name>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Modifications en attente</translation>
+    </message>
+    <message>
+        <source>Nothing is sent before Apply</source>
+        <translation>Rien n’est envoyé avant « Appliquer »</translation>
+    </message>
+    <message>
+        <source>Revert all</source>
+        <translation>Tout annuler</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>Vérification</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>
@@ -218,6 +284,14 @@
     <message>
         <source>Components</source>
         <translation>Composants</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Modifications en attente</translation>
+    </message>
+    <message>
+        <source>What is applied together, each change with what became of it</source>
+        <translation>Ce qui est appliqué ensemble, chaque modification avec son état</translation>
     </message>
 </context>
 <context>

@@ -77,6 +77,72 @@
     </message>
 </context>
 <context>
+    <name>CablePage</name>
+    <message>
+        <source>Cable test</source>
+        <translation>ケーブル試験</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>レポート</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cable test, %1</source>
+        <translation>ケーブル試験、%1</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>保存済み: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ChangesPage</name>
+    <message>
+        <source>Changes that wait</source>
+        <translation>保留中の変更</translation>
+    </message>
+    <message>
+        <source>Nothing is sent before Apply</source>
+        <translation>「適用」まで何も送信されません</translation>
+    </message>
+    <message>
+        <source>Revert all</source>
+        <translation>すべて元に戻す</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>確認</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>
@@ -218,6 +284,14 @@
     <message>
         <source>Components</source>
         <translation>部品</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>保留中の変更</translation>
+    </message>
+    <message>
+        <source>What is applied together, each change with what became of it</source>
+        <translation>まとめて適用される変更と、それぞれの状態</translation>
     </message>
 </context>
 <context>

@@ -77,6 +77,72 @@
     </message>
 </context>
 <context>
+    <name>CablePage</name>
+    <message>
+        <source>Cable test</source>
+        <translation>[Çåbļé ţéšţ ~]</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>[Šéţ-ûp ~]</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>[Ŕévéŕţ ~]</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>[Åppļý ~]</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>[Ŕépöŕţ ~]</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>[Šåvé ~]</translation>
+    </message>
+    <message>
+        <source>Cable test, %1</source>
+        <translation>[Çåbļé ţéšţ, %1 ~ ~]</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>[Ŕéšûļţš ~]</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>[Šåvéđ: %1 ~]</translation>
+    </message>
+</context>
+<context>
+    <name>ChangesPage</name>
+    <message>
+        <source>Changes that wait</source>
+        <translation>[Çĥåñĝéš ţĥåţ ŵåîţ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Nothing is sent before Apply</source>
+        <translation>[Ñöţĥîñĝ îš šéñţ béföŕé Åppļý ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Revert all</source>
+        <translation>[Ŕévéŕţ åļļ ~]</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>[Åppļý ~]</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>[Šéţţîñĝš ~]</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>[Ŕévîéŵ ~]</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>
@@ -218,6 +284,14 @@
     <message>
         <source>Components</source>
         <translation>[Çömpöñéñţš ~]</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>[Çĥåñĝéš ţĥåţ ŵåîţ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>What is applied together, each change with what became of it</source>
+        <translation>[Ŵĥåţ îš åppļîéđ ţöĝéţĥéŕ, éåçĥ çĥåñĝé ŵîţĥ ŵĥåţ béçåmé öf îţ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>

@@ -5,8 +5,8 @@
 
 namespace uiutils {
 
-/// What a user types to find rows of a list: words between spaces, each of which has to be found, wherever and however
-/// it is capitalized. A letter with a mark is found in either of its two spellings.
+/// What a user types to find rows of a list: words between spaces, each of which has to be found, wherever it is, in the
+/// form of searchForm().
 class SearchWords
 {
 public:

@@ -25,18 +25,6 @@ QString valueOf(const KIVClientInterface* client, QLatin1String id)
     return item ? item->getValue().toString() : QString();
 }
 
-} // namespace
-
-bool isJobActive()
-{
-    return baseManagerValue(itemids::jobActive).toBool();
-}
-
-bool hasJobId()
-{
-    return !baseManagerText(itemids::jobId).trimmed().isEmpty();
-}
-
 LabelledTexts jobFields()
 {
     static const JobItem items[] = {
@@ -50,6 +38,37 @@ LabelledTexts jobFields()
             fields.append({QCoreApplication::translate("TemplateToHtmlWriter", job.label), item->getValueString()});
     }
     return fields;
+}
+
+JobFacts readFacts()
+{
+    return {isJobActive(), baseManagerText(itemids::jobId), jobFields(), workOrder()};
+}
+
+const HeldJob* newestHeld = nullptr;
+
+} // namespace
+
+bool isJobActive()
+{
+    return baseManagerValue(itemids::jobActive).toBool();
+}
+
+JobFacts jobFacts()
+{
+    return newestHeld ? newestHeld->m_facts : readFacts();
+}
+
+HeldJob::HeldJob()
+    : m_facts(readFacts())
+    , m_outer(newestHeld)
+{
+    newestHeld = this;
+}
+
+HeldJob::~HeldJob()
+{
+    newestHeld = m_outer;
 }
 
 QString jobSummary()

@@ -10,11 +10,39 @@
 namespace uiutils::instrument {
 
 bool isJobActive();
-/// Whether the job has an ID, without which it cannot be identified.
-bool hasJobId();
 
-/// The fields that identify the job, "Job ID" and so on.
-LabelledTexts jobFields();
+/// What reports and their records have of the job.
+struct JobFacts
+{
+    bool isActive = false;
+    QString id;
+    /// The fields that identify the job, "Job ID" and so on.
+    LabelledTexts fields;
+    /// See workOrder().
+    QMap<QString, QString> workOrder;
+
+    /// Whether the job has an ID, without which it cannot be identified.
+    bool hasId() const { return !id.trimmed().isEmpty(); }
+};
+
+/// The facts as they are now, or as they were when the newest HeldJob was made.
+JobFacts jobFacts();
+
+/// While one lives, jobFacts() stays as it is: the files of a save, which shows pages and lets other programs act
+/// meanwhile, are all of the same job. Those that live at the same time end in the reverse order of their making.
+class HeldJob
+{
+public:
+    HeldJob();
+    ~HeldJob();
+    Q_DISABLE_COPY_MOVE(HeldJob)
+
+private:
+    friend JobFacts jobFacts();
+
+    const JobFacts m_facts;
+    const HeldJob* const m_outer;
+};
 
 /// The active job on one line, "ID: WO-1, Tech: Ana, BAN: 7", without unknown parts. Empty without an active job.
 QString jobSummary();

@@ -56,6 +56,8 @@ struct Languages::Private
     void showInPages() const;
 
     Catalogues catalogues;
+    QStringList folders;
+    QStringList serviceFolders;
     QString current = QLatin1String(sourceLanguage);
     /// That of the system, or what the application has set before.
     QLocale first;
@@ -122,7 +124,8 @@ void Languages::open(const QStringList& folders)
     if (!d->isOpen)
         d->first = QLocale();
     d->isOpen = true;
-    d->catalogues = Catalogues(folders);
+    d->folders = folders;
+    d->catalogues = Catalogues(folders, d->serviceFolders);
     d->take(d->catalogues.bestFor(d->first));
     // A slot may choose the language that the user wants.
     Q_EMIT availableChanged();
@@ -135,10 +138,31 @@ void Languages::close()
     if (!d->isOpen)
         return;
     d->isOpen = false;
+    d->folders.clear();
+    d->serviceFolders.clear();
     d->catalogues = Catalogues();
     d->current = QLatin1String(sourceLanguage);
     d->installed.clear();
     QLocale::setDefault(d->first);
+    Q_EMIT availableChanged();
+    Q_EMIT currentChanged();
+    d->showInPages();
+}
+
+void Languages::setServiceFolders(const QStringList& folders)
+{
+    d->serviceFolders = folders;
+    if (d->isOpen)
+        readAgain();
+}
+
+void Languages::readAgain()
+{
+    if (!d->isOpen)
+        return;
+    d->catalogues = Catalogues(d->folders, d->serviceFolders);
+    // Its last catalogue may have been removed.
+    d->take(d->catalogues.has(d->current) ? d->current : QString::fromLatin1(sourceLanguage));
     Q_EMIT availableChanged();
     Q_EMIT currentChanged();
     d->showInPages();

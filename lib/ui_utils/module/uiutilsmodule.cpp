@@ -10,6 +10,7 @@
 #include "local/uidata.h"
 #include "local/uidatacontainer.h"
 #include "report/drafts/reportdraft.h"
+#include "report/pagereport.h"
 #include "report/report.h"
 #include "report/reportpreview.h"
 #include "report/savedreports.h"
@@ -18,9 +19,11 @@
 #include "service/kivlistaggregatedata.h"
 #include "service/kivsignal.h"
 #include "service/manifest.h"
+#include "service/pendingchanges.h"
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
 #include "service/rowfilter.h"
+#include "service/serviceitems.h"
 #include "writers/pdffile/pdffile.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
@@ -31,18 +34,31 @@ namespace uiutils {
 
 namespace {
 
-QObject* userData(QQmlEngine*, QJSEngine*)
+/// An object that all engines have in common, for the engine that asks for it now. Qt then makes a context in that
+/// engine for the object, and warns when the object has one already. Nothing is evaluated in these contexts, so the one
+/// that Qt has made in another engine is removed. A context that the application has chosen stays.
+QObject* inCommon(QObject* object, QQmlEngine* engine)
 {
-    QQmlEngine::setObjectOwnership(UserData::getInstance(), QQmlEngine::CppOwnership);
-    return UserData::getInstance();
+    static QHash<const QObject*, QPointer<QQmlEngine>> engineOfContext;
+    QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
+    const QQmlContext* const context = QQmlEngine::contextForObject(object);
+    const bool isMadeByQt = context && context->engine() == engineOfContext.value(object);
+    if (isMadeByQt)
+        delete context;
+    if (!context || isMadeByQt)
+        engineOfContext.insert(object, engine);
+    return object;
+}
+
+QObject* userData(QQmlEngine* engine, QJSEngine*)
+{
+    return inCommon(UserData::getInstance(), engine);
 }
 
 QObject* languages(QQmlEngine* engine, QJSEngine*)
 {
-    Languages* const all = Languages::instance();
-    QQmlEngine::setObjectOwnership(all, QQmlEngine::CppOwnership);
-    all->follow(engine);
-    return all;
+    Languages::instance()->follow(engine);
+    return inCommon(Languages::instance(), engine);
 }
 
 template<typename Type> void registerOfManifest(const char* uri, const char* name)
@@ -65,7 +81,9 @@ void registerServiceTypes(const char* uri)
     qmlRegisterUncreatableType<BaseFormatter>(
             uri, 1, 0, "BaseFormatter", QStringLiteral("Formatters come from the platform."));
     qmlRegisterType<KIVSignal>(uri, 1, 0, "KIVSignal");
+    qmlRegisterType<PendingChanges>(uri, 1, 0, "PendingChanges");
     qmlRegisterType<RowFilter>(uri, 1, 0, "RowFilter");
+    qmlRegisterType<ServiceItems>(uri, 1, 0, "ServiceItems");
     qmlRegisterType<ForgivingValidator>(uri, 1, 0, "ForgivingValidator");
     qmlRegisterSingletonType<UserData>(uri, 1, 0, "UserData", userData);
 
@@ -80,10 +98,9 @@ template<typename Names> void registerCodes(const char* uri, const char* name)
             QStringLiteral("%1 has names for codes.").arg(QLatin1String(name)));
 }
 
-QObject* sharedContainer(QQmlEngine*, QJSEngine*)
+QObject* sharedContainer(QQmlEngine* engine, QJSEngine*)
 {
-    QQmlEngine::setObjectOwnership(UiDataContainer::shared(), QQmlEngine::CppOwnership);
-    return UiDataContainer::shared();
+    return inCommon(UiDataContainer::shared(), engine);
 }
 
 void registerLocalTypes(const char* uri)
@@ -97,10 +114,9 @@ void registerLocalTypes(const char* uri)
     qmlRegisterSingletonType<UiDataContainer>(uri, 1, 0, "UiDataContainer", sharedContainer);
 }
 
-QObject* notifications(QQmlEngine*, QJSEngine*)
+QObject* notifications(QQmlEngine* engine, QJSEngine*)
 {
-    QQmlEngine::setObjectOwnership(KIVNotificationModelManager::instance(), QQmlEngine::CppOwnership);
-    return KIVNotificationModelManager::instance();
+    return inCommon(KIVNotificationModelManager::instance(), engine);
 }
 
 QMap<QString, QString> textsOf(const QJSValue& object)
@@ -144,6 +160,7 @@ void registerTypes(const char* uri)
     registerLocalTypes(uri);
     registerFileTypes(uri);
     qmlRegisterType<Report>(uri, 1, 0, "Report");
+    qmlRegisterType<PageReport>(uri, 1, 0, "PageReport");
     qmlRegisterType<ReportPreview>(uri, 1, 0, "ReportPreview");
     qmlRegisterType<SavedReports>(uri, 1, 0, "SavedReports");
     qmlRegisterType<ReportDraft>(uri, 1, 0, "ReportDraft");

@@ -303,7 +303,7 @@ void Report::writeMetadata(const QString& path, const QString& format)
 {
     uiutils::describeReport(&d->metadata, path, format, QDateTime::currentDateTime());
     addWorkOrderMetaDataInfo();
-    if (uiutils::instrument::isJobActive() && ensureValidJobData())
+    if (uiutils::instrument::jobFacts().isActive && ensureValidJobData())
         updateJobTestMetadata();
     // In the folder that remains of a removed USB drive, the record would be on the unit.
     if (uiutils::instrument::isDriveThere(path))
@@ -319,14 +319,14 @@ ReportMetadata& Report::metadata()
 
 void Report::addWorkOrderMetaDataInfo()
 {
-    const QMap<QString, QString> order = uiutils::instrument::workOrder();
+    const QMap<QString, QString> order = uiutils::instrument::jobFacts().workOrder;
     for (auto it = order.cbegin(); it != order.cend(); ++it)
         d->metadata.setInfo(it.key(), it.value());
 }
 
 bool Report::ensureValidJobData()
 {
-    return uiutils::instrument::hasJobId();
+    return uiutils::instrument::jobFacts().hasId();
 }
 
 void Report::updateJobTestMetadata()

@@ -16,6 +16,12 @@ Displaced& displacedById()
     return wrappers;
 }
 
+QVector<NameUser*>& nameUsers()
+{
+    static auto& users = *new QVector<NameUser*>;
+    return users;
+}
+
 } // namespace
 
 QMap<QString, KivData*>& entries()
@@ -76,6 +82,26 @@ QVector<KivData*> displaced(const QString& id)
 bool hasDisplaced()
 {
     return !displacedById().isEmpty();
+}
+
+NameUser::NameUser()
+{
+    nameUsers().append(this);
+}
+
+NameUser::~NameUser()
+{
+    nameUsers().removeOne(this);
+}
+
+void tellNameUsers(Told told)
+{
+    // Each may delete others.
+    const QVector<NameUser*> users = nameUsers();
+    for (NameUser* user : users) {
+        if (nameUsers().contains(user))
+            user->look(told);
+    }
 }
 
 } // namespace uiutils::itemregistry

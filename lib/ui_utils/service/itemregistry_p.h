@@ -27,4 +27,23 @@ void forget(const QString& id, const KivData* wrapper);
 QVector<KivData*> displaced(const QString& id);
 bool hasDisplaced();
 
+/// What those who use names are told of: the names that stand for another wrapper now, or all, because an item that has
+/// returned may answer otherwise than before.
+enum class Told { Changes, All };
+
+/// Whoever finds wrappers by their names. It is listed from its construction to its destruction.
+class NameUser
+{
+public:
+    NameUser();
+    virtual ~NameUser();
+    Q_DISABLE_COPY_MOVE(NameUser)
+
+    /// The names may stand for other wrappers than before.
+    virtual void look(Told told) = 0;
+};
+
+/// Makes everybody who uses names look again.
+void tellNameUsers(Told told);
+
 } // namespace uiutils::itemregistry

@@ -46,6 +46,7 @@ void KIVContextObject::evaluateNames()
         if (object)
             object->tellOfChanges();
     }
+    uiutils::itemregistry::tellNameUsers(uiutils::itemregistry::Told::All);
 }
 
 KIVContextObject::Names KIVContextObject::namesOf(const QMap<QString, KivData*>& items)

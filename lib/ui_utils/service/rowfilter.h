@@ -20,8 +20,8 @@ class RowFilterPrivate;
 class UIUTILS_EXPORT RowFilter : public QSortFilterProxyModel
 {
     Q_OBJECT
-    /// What the user looks for. Every word must be found in one of the `textRoles` of a row, wherever and however it is
-    /// capitalized; "" finds all rows.
+    /// What the user looks for. Every word must be found in one of the `textRoles` of a row, wherever it is, and whatever
+    /// its capitals and accents: "muller" finds "Müller". "" finds all rows.
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     /// The names of the roles in which words are looked for. Empty, the default: in all roles.
     Q_PROPERTY(QStringList textRoles READ textRoles WRITE setTextRoles NOTIFY textRolesChanged)

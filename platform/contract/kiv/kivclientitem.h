@@ -108,7 +108,8 @@ public:
     /// Another attribute by its name; invalid when the item has no such attribute. Screens know these: "label", "type",
     /// "minRange", "maxRange" (as the accessors give them), "precision" (decimals), "inputType" (which entry field, a
     /// number), "regex" (of an acceptable text), "formatter" (a name for getFormatter()) and "enum" (not empty on an
-    /// enumeration).
+    /// enumeration). A platform that translates what it shows says here what it has translated, for recordings:
+    /// "sourceLabel", "sourceUnit" and, of an enumeration, "sourceChoices", a list of labels.
     virtual QVariant getAttribute(const QString& name) const = 0;
 
 Q_SIGNALS:

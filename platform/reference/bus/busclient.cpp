@@ -3,6 +3,8 @@
 #include "bustexts_p.h"
 #include "remoteservice_p.h"
 
+#include "base/servicetext_p.h"
+
 namespace kiv::bus {
 
 using embedded::Outcome;
@@ -13,7 +15,8 @@ BusClient::BusClient(RemoteService* service, QObject* parent)
     , m_serviceName(service->name())
 {
     connect(service, &RemoteService::itemsChanged, this, &BusClient::itemsChanged);
-    connect(service, &RemoteService::errorReported, this, &BusClient::SigError);
+    connect(service, &RemoteService::errorReported, this,
+            [this](const QString& text) { Q_EMIT SigError(uiutils::translatedServiceText(text)); });
 }
 
 bool BusClient::isValid() const
@@ -72,8 +75,12 @@ Outcome BusClient::gone() const
 /// A slot that heard of what was done may have deleted the client.
 bool BusClient::remember(const QPointer<BusClient>& client, const Outcome& outcome)
 {
-    if (client)
-        client->m_lastError = outcome.isDone ? QString() : outcome.text;
+    if (client) {
+        client->m_lastError = outcome.isDone ? QString() : uiutils::translatedServiceText(outcome.text);
+        client->m_rejected = outcome.rejected;
+        for (QString& reason : client->m_rejected)
+            reason = uiutils::translatedServiceText(reason);
+    }
     return outcome.isDone;
 }
 

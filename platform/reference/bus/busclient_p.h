@@ -1,6 +1,7 @@
 #pragma once
 
 #include <kiv/kivclientinterface.h>
+#include <kiv/kivrejectedsettings.h>
 
 #include <QPointer>
 
@@ -13,9 +14,10 @@ namespace kiv::bus {
 class RemoteService;
 
 /// A client's view of a service on the bus; answers like an empty service while it cannot be reached.
-class BusClient final : public KIVClientInterface
+class BusClient final : public KIVClientInterface, public KIVRejectedSettings
 {
     Q_OBJECT
+    Q_INTERFACES(KIVRejectedSettings)
 
 public:
     BusClient(RemoteService* service, QObject* parent);
@@ -29,6 +31,7 @@ public:
     bool sendAction(const QString& id, const QString& argument, QString* reply, int timeoutMs) override;
     bool invokeAction(const QString& id) override;
     QString getLastError() const override { return m_lastError; }
+    QMap<QString, QString> rejectedSettings() const override { return m_rejected; }
 
 private:
     static bool remember(const QPointer<BusClient>& client, const embedded::Outcome& outcome);
@@ -37,6 +40,7 @@ private:
     const QPointer<RemoteService> m_service;
     const QString m_serviceName;
     QString m_lastError;
+    QMap<QString, QString> m_rejected;
 };
 
 } // namespace kiv::bus

@@ -100,4 +100,36 @@ int writeField(Writer& writer, ItemField field, const ItemState& state)
                                        : writeField(writer, field, fieldValue(state, field));
 }
 
+void writeTexts(Writer& writer, const QMap<QString, QString>& texts)
+{
+    int size = 0;
+    writer.open('a', "{ss}");
+    for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
+        const QString name = withoutNul(it.key());
+        const QString text = withoutNul(it.value());
+        size += sizeOf(name) + sizeOf(text);
+        if (size > largestPage)
+            break;
+        writer.open('e', "ss");
+        writer.text(name);
+        writer.text(text);
+        writer.close();
+    }
+    writer.close();
+}
+
+QMap<QString, QString> readTexts(Reader& reader)
+{
+    QMap<QString, QString> texts;
+    if (!reader.enter('a', "{ss}"))
+        return texts;
+    while (!reader.atEnd() && reader.enter('e', "ss")) {
+        const QString name = reader.text();
+        texts.insert(name, reader.text());
+        reader.leave();
+    }
+    reader.leave();
+    return texts;
+}
+
 } // namespace kiv::bus

@@ -10,6 +10,10 @@ namespace kiv::bus {
 
 QString withoutNul(QString text);
 
+/// Appends texts by their names as a{ss}: as many as leave room in a message for what stands beside them.
+void writeTexts(Writer& writer, const QMap<QString, QString>& texts);
+QMap<QString, QString> readTexts(Reader& reader);
+
 /// A description that fits into a message.
 embedded::ItemDescription travelling(embedded::ItemDescription item);
 

@@ -26,7 +26,9 @@ constexpr char daemonPath[] = "/org/freedesktop/DBus";
 
 /// Of the interface. A greater minor one only adds; another major one is another language.
 constexpr int majorVersion = 1;
-constexpr QLatin1String version("1.0");
+constexpr QLatin1String version("1.1");
+/// The first minor version with SendBatch.
+constexpr int minorVersionOfBatches = 1;
 
 /// What all bus names of services begin with.
 constexpr QLatin1String namePrefix("org.uiutils.kiv.");

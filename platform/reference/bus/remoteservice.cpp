@@ -124,6 +124,7 @@ void RemoteService::onProperties(const Message& reply)
     const QString theirs = properties.value(QStringLiteral("Version")).toString();
     if (theirs.section(QLatin1Char('.'), 0, 0) == QString::number(majorVersion)) {
         m_mounts = cleanPaths(properties.value(QStringLiteral("Mounts")));
+        m_calls.setKnowsBatches(theirs.section(QLatin1Char('.'), 1, 1).toInt() >= minorVersionOfBatches);
         return;
     }
     giveUp(theirs.isEmpty()

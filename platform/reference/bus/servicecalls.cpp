@@ -1,6 +1,7 @@
 #include "servicecalls_p.h"
 
 #include "bustexts_p.h"
+#include "fieldcodec_p.h"
 #include "localservices_p.h"
 #include "protocol_p.h"
 #include "valuecodec_p.h"
@@ -19,6 +20,22 @@ bool isOwn(const Message& error)
             || name == QLatin1String(errorInvalidArguments);
 }
 
+/// The end of the id of the action that sets a batch of settings.
+const QLatin1String batchEnd(":applyconfig:");
+
+/// The answer to SendBatch.
+embedded::Outcome readOutcome(const Message& reply, const QString& service)
+{
+    if (reply.signature() != "bsa{ss}")
+        return {false, BusTexts::tr("The service %1 answered something that the interface does not know.").arg(service)};
+    Reader reader(reply);
+    embedded::Outcome outcome;
+    outcome.isDone = reader.boolean();
+    outcome.text = reader.text();
+    outcome.rejected = readTexts(reader);
+    return outcome;
+}
+
 } // namespace
 
 using embedded::Outcome;
@@ -35,6 +52,7 @@ void ServiceCalls::setOwner(const QByteArray& owner)
 {
     m_owner = owner;
     m_isStalled = false;
+    m_knowsBatches = false;
 }
 
 Outcome ServiceCalls::setItem(const QString& id, const QVariant& value, int timeoutMs)
@@ -63,14 +81,16 @@ Outcome ServiceCalls::sendAction(const QString& id, const QString& argument, int
     }
     if (!canTravel(argument))
         return {false, BusTexts::tr("%1 was not sent: its argument is too large, or holds a NUL.").arg(id)};
-    const Message message = m_connection->newCall(m_owner, m_path, serviceInterface, "SendAction");
+    const bool isBatch = m_knowsBatches && id.endsWith(batchEnd);
+    const Message message
+            = m_connection->newCall(m_owner, m_path, serviceInterface, isBatch ? "SendBatch" : "SendAction");
     Writer writer(message);
     writer.text(id);
     writer.text(argument);
-    return writer.isGood() ? call(message, timeoutMs) : gone();
+    return writer.isGood() ? call(message, timeoutMs, isBatch) : gone();
 }
 
-Outcome ServiceCalls::call(const Message& message, int timeoutMs)
+Outcome ServiceCalls::call(const Message& message, int timeoutMs, bool isBatch)
 {
     if (m_isStalled)
         return {false,
@@ -78,7 +98,8 @@ Outcome ServiceCalls::call(const Message& message, int timeoutMs)
                         .arg(m_name)};
     const Message reply = m_connection->callBlocking(message, timeoutMs);
     if (!reply.isError())
-        return {true, reply.signature() == "s" ? Reader(reply).text() : QString()};
+        return isBatch ? readOutcome(reply, m_name)
+                       : Outcome {true, reply.signature() == "s" ? Reader(reply).text() : QString()};
     if (Connection::isLoss(reply))
         return {false, BusTexts::tr("The service %1 ended before it answered. Try again when it runs.").arg(m_name)};
     if (!Connection::isTimeout(reply))

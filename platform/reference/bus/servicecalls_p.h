@@ -19,6 +19,8 @@ public:
 
     /// The process that has the service now; a service of this thread is called directly.
     void setOwner(const QByteArray& owner);
+    /// Whether the owner has the method SendBatch.
+    void setKnowsBatches(bool knowsBatches) { m_knowsBatches = knowsBatches; }
     /// The owner said something.
     void noteAlive() { m_isStalled = false; }
 
@@ -28,7 +30,7 @@ public:
     embedded::Outcome gone() const;
 
 private:
-    embedded::Outcome call(const Message& message, int timeoutMs);
+    embedded::Outcome call(const Message& message, int timeoutMs, bool isBatch = false);
     void onTimeout();
 
     const QString m_name;
@@ -36,6 +38,7 @@ private:
     Connection* const m_connection;
     QByteArray m_owner;
     bool m_isStalled = false;
+    bool m_knowsBatches = false;
 };
 
 } // namespace kiv::bus

@@ -224,6 +224,7 @@ void ServicePublication::handle(const Message& call)
             {serviceInterface, "Acknowledge", "t", &ServicePublication::acknowledge},
             {serviceInterface, "SetItem", "sv", &ServicePublication::setItem},
             {serviceInterface, "SendAction", "ss", &ServicePublication::sendAction},
+            {serviceInterface, "SendBatch", "ss", &ServicePublication::sendBatch},
             {propertiesInterface, "Get", "ss", &ServicePublication::getProperty},
             {propertiesInterface, "GetAll", "s", &ServicePublication::getProperties},
             {propertiesInterface, "Set", "ssv", &ServicePublication::setProperty},
@@ -324,20 +325,21 @@ void ServicePublication::setItem(const Message& call)
         m_connection->reject(call, errorInvalidArguments, BusTexts::tr("The value cannot be read."));
         return;
     }
-    carryOutLater(call, 0, false, [id, value](ServiceData& service) { return setSetting(service, id, value); });
+    carryOutLater(call, 0, Answer::Nothing,
+            [id, value](ServiceData& service) { return setSetting(service, id, value); });
 }
 
-void ServicePublication::sendAction(const Message& call)
+void ServicePublication::carryOutAction(const Message& call, Answer answer)
 {
     Reader arguments(call);
     const QString id = arguments.text();
     const QString argument = arguments.text();
-    carryOutLater(call, actionDelay(ServiceData::of(*m_service), id), true,
+    carryOutLater(call, actionDelay(ServiceData::of(*m_service), id), answer,
             [id, argument](ServiceData& service) { return carryOut(service, id, argument); });
 }
 
 /// Carries out a request when the service's own time for it is over, and answers.
-void ServicePublication::carryOutLater(const Message& call, int delayMs, bool hasReplyText, const Request& request)
+void ServicePublication::carryOutLater(const Message& call, int delayMs, Answer answer, const Request& request)
 {
     if (m_requests >= mostRequests) {
         m_connection->reject(call, errorLimits, BusTexts::tr("The service has too much to do. Try again later."));
@@ -346,7 +348,7 @@ void ServicePublication::carryOutLater(const Message& call, int delayMs, bool ha
     // Who hears of what is done may end the service, its publication and the connection.
     const QPointer<ServicePublication> self(this);
     const QPointer<Connection> connection = m_connection;
-    const auto answer = [self, connection, call, hasReplyText, request] {
+    const auto carryOut = [self, connection, call, answer, request] {
         if (!self || !self->m_service)
             return;
         if (!self->m_service->isReachable()) {
@@ -357,24 +359,29 @@ void ServicePublication::carryOutLater(const Message& call, int delayMs, bool ha
         const Outcome outcome = request(ServiceData::of(*self->m_service));
         if (!connection)
             return;
-        if (!outcome.isDone) {
+        if (!outcome.isDone && answer != Answer::Everything) {
             connection->reject(call, errorRejected, withoutNul(outcome.text));
             return;
         }
         const Message reply = Connection::newReply(call);
-        if (hasReplyText)
-            Writer(reply).text(withoutNul(outcome.text));
+        Writer writer(reply);
+        if (answer == Answer::Everything)
+            writer.boolean(outcome.isDone);
+        if (answer != Answer::Nothing)
+            writer.text(withoutNul(outcome.text));
+        if (answer == Answer::Everything)
+            writeTexts(writer, outcome.rejected);
         connection->send(reply);
     };
     const qint64 delay = qint64(ServiceData::of(*m_service).delayMs) + delayMs;
     if (delay == 0) {
-        answer();
+        carryOut();
         return;
     }
     ++m_requests;
-    QTimer::singleShot(std::chrono::milliseconds(delay), this, [this, answer] {
+    QTimer::singleShot(std::chrono::milliseconds(delay), this, [this, carryOut] {
         --m_requests;
-        answer();
+        carryOut();
     });
 }
 

@@ -47,6 +47,8 @@ Q_SIGNALS:
 private:
     using StatePtr = embedded::ItemStore::StatePtr;
     using Request = std::function<embedded::Outcome(embedded::ServiceData&)>;
+    /// What the answer to a call says of its outcome.
+    enum class Answer { Nothing, Text, Everything };
     using Method = void (ServicePublication::*)(const Message&);
 
     void fieldChanged(embedded::ItemState* state, embedded::ItemField field) override;
@@ -65,12 +67,14 @@ private:
     void unsubscribe(const Message& call);
     void acknowledge(const Message& call);
     void setItem(const Message& call);
-    void sendAction(const Message& call);
+    void sendAction(const Message& call) { carryOutAction(call, Answer::Text); }
+    void sendBatch(const Message& call) { carryOutAction(call, Answer::Everything); }
+    void carryOutAction(const Message& call, Answer answer);
     void getProperty(const Message& call) { answerGet(*m_connection, *m_service, call); }
     void getProperties(const Message& call) { answerGetAll(*m_connection, *m_service, call); }
     void setProperty(const Message& call) { answerSet(*m_connection, call); }
     void introspect(const Message& call) { answerIntrospect(*m_connection, call); }
-    void carryOutLater(const Message& call, int delayMs, bool hasReplyText, const Request& request);
+    void carryOutLater(const Message& call, int delayMs, Answer answer, const Request& request);
 
     const QPointer<embedded::EmbeddedService> m_service;
     const QPointer<Connection> m_connection;

@@ -84,9 +84,9 @@ private:
     QVector<Index> m_indexes;
 };
 
-Outcome rejected(const QStringList& problems)
+Outcome rejected(const QStringList& problems, const QMap<QString, QString>& byName = {})
 {
-    return {false, RequestTexts::tr("Nothing was set. %1").arg(problems.join(QLatin1Char(' ')))};
+    return {false, RequestTexts::tr("Nothing was set. %1").arg(problems.join(QLatin1Char(' '))), byName};
 }
 
 } // namespace
@@ -110,6 +110,7 @@ Outcome applyConfiguration(ServiceData& service, const QString& argument)
     SettingFinder finder(service);
     PendingWrites writes;
     QStringList problems;
+    QMap<QString, QString> problemsByName;
     QSet<const ItemState*> named;
     for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
         const SettingFinder::Setting setting = finder.find(it.key());
@@ -121,11 +122,13 @@ Outcome applyConfiguration(ServiceData& service, const QString& argument)
         else
             problem = writes.addWrite(*setting.service, setting.state, it.value().toVariant());
         named += setting.state.get();
-        if (!problem.isEmpty())
-            problems += problem;
+        if (problem.isEmpty())
+            continue;
+        problems += problem;
+        problemsByName.insert(it.key(), problem);
     }
     if (!problems.isEmpty())
-        return rejected(problems);
+        return rejected(problems, problemsByName);
     const Outcome outcome {true, RequestTexts::tr("Settings applied: %1.").arg(values.size())};
     writes.apply();
     return outcome;

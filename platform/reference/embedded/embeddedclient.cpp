@@ -3,6 +3,8 @@
 #include "serviceregistry_p.h"
 #include "texts_p.h"
 
+#include "base/servicetext_p.h"
+
 namespace kiv::embedded {
 
 EmbeddedClient::EmbeddedClient(ServicePlace* place, QObject* parent)
@@ -11,7 +13,8 @@ EmbeddedClient::EmbeddedClient(ServicePlace* place, QObject* parent)
     , m_serviceName(place->name())
 {
     connect(place, &ServicePlace::itemsChanged, this, &EmbeddedClient::itemsChanged);
-    connect(place, &ServicePlace::errorReported, this, &EmbeddedClient::SigError);
+    connect(place, &ServicePlace::errorReported, this,
+            [this](const QString& text) { Q_EMIT SigError(uiutils::translatedServiceText(text)); });
 }
 
 EmbeddedService* EmbeddedClient::service() const
@@ -78,8 +81,12 @@ Outcome EmbeddedClient::call(int delayMs, int timeoutMs, const Request& request)
 /// A slot that heard of the change may have deleted the client.
 bool EmbeddedClient::remember(const QPointer<EmbeddedClient>& client, const Outcome& outcome)
 {
-    if (client)
-        client->m_lastError = outcome.isDone ? QString() : outcome.text;
+    if (client) {
+        client->m_lastError = outcome.isDone ? QString() : uiutils::translatedServiceText(outcome.text);
+        client->m_rejected = outcome.rejected;
+        for (QString& reason : client->m_rejected)
+            reason = uiutils::translatedServiceText(reason);
+    }
     return outcome.isDone;
 }
 

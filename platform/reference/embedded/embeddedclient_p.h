@@ -3,6 +3,7 @@
 #include "requests_p.h"
 
 #include <kiv/kivclientinterface.h>
+#include <kiv/kivrejectedsettings.h>
 
 #include <QPointer>
 
@@ -11,9 +12,10 @@ namespace kiv::embedded {
 class ServicePlace;
 
 /// A client's view of the service that is published at a place, if any; without one it answers like an empty service.
-class EmbeddedClient final : public KIVClientInterface
+class EmbeddedClient final : public KIVClientInterface, public KIVRejectedSettings
 {
     Q_OBJECT
+    Q_INTERFACES(KIVRejectedSettings)
 
 public:
     EmbeddedClient(ServicePlace* place, QObject* parent);
@@ -27,6 +29,7 @@ public:
     bool sendAction(const QString& id, const QString& argument, QString* reply, int timeoutMs) override;
     bool invokeAction(const QString& id) override;
     QString getLastError() const override { return m_lastError; }
+    QMap<QString, QString> rejectedSettings() const override { return m_rejected; }
 
 private:
     /// The service; null while it cannot be reached.
@@ -37,6 +40,7 @@ private:
     const QPointer<ServicePlace> m_place;
     const QString m_serviceName;
     QString m_lastError;
+    QMap<QString, QString> m_rejected;
 };
 
 } // namespace kiv::embedded

@@ -4,8 +4,9 @@
 #include "formatters/formatters_p.h"
 #include "itemtypes_p.h"
 #include "shownvalue_p.h"
-#include "texts_p.h"
 #include "valueconversion_p.h"
+
+#include "base/servicetext_p.h"
 
 #include <algorithm>
 
@@ -37,7 +38,7 @@ QString ItemState::title() const
 
 QString ItemState::label() const
 {
-    return translatedLabel(description.label, description.id);
+    return uiutils::translatedServiceText(description.label, description.id);
 }
 
 QString ItemState::name() const
@@ -64,14 +65,13 @@ QString ItemState::valueText(bool showUnits) const
     if (choice.isEmpty() && formatter())
         return formattedText(showUnits);
     const QString text = choice.isEmpty() ? shownText(description.value, description.members, precision()) : choice;
-    return showUnits && !text.isEmpty() && !description.unit.isEmpty() ? text + QLatin1Char(' ') + description.unit
-                                                                       : text;
+    return showUnits ? withUnit(text, description) : text;
 }
 
 QString ItemState::unitText() const
 {
     if (!description.unit.isEmpty() || !formatter())
-        return description.unit;
+        return unitLabel(description);
     formatter()->setValue(description.value);
     return formatter()->getUnitString();
 }
@@ -93,7 +93,22 @@ QVariant ItemState::attribute(const QString& name) const
         return description.precision;
     if (name == QLatin1String("enum") && isEnumeration())
         return this->name();
-    return QVariant();
+    return sourceText(name);
+}
+
+/// What a catalogue would translate, for recordings, which are played where another language is spoken.
+QVariant ItemState::sourceText(const QString& name) const
+{
+    if (name == QLatin1String("sourceLabel"))
+        return description.label;
+    if (name == QLatin1String("sourceUnit"))
+        return description.unit;
+    if (name != QLatin1String("sourceChoices") || !isEnumeration())
+        return QVariant();
+    QStringList labels;
+    for (const ChoiceDescription& choice : description.choices)
+        labels += choice.label.isEmpty() ? choice.name : choice.label;
+    return labels;
 }
 
 void ItemState::setAttribute(const QString& name, const QVariant& value)
@@ -149,8 +164,7 @@ QString ItemState::choiceText() const
 
 QString ItemState::formattedText(bool showUnits) const
 {
-    const bool hasOwnUnit = !description.unit.isEmpty();
-    formatter()->setShowUnits(showUnits && !hasOwnUnit);
+    formatter()->setShowUnits(showUnits && description.unit.isEmpty());
     QString text;
     if (elementType(type) == type) {
         text = formatter()->format(description.value);
@@ -161,7 +175,7 @@ QString ItemState::formattedText(bool showUnits) const
             texts += formatter()->format(element);
         text = texts.join(QLatin1String(", "));
     }
-    return showUnits && hasOwnUnit && !text.isEmpty() ? text + QLatin1Char(' ') + description.unit : text;
+    return showUnits ? withUnit(text, description) : text;
 }
 
 int ItemState::precision() const

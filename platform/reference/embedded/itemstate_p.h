@@ -92,6 +92,7 @@ public:
     }
 
 private:
+    QVariant sourceText(const QString& name) const;
     BaseFormatter* formatter() const;
     QString choiceText() const;
     QString formattedText(bool showUnits) const;

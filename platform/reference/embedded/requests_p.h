@@ -4,6 +4,9 @@
 
 #include <embedded/embedded_export.h>
 
+#include <QMap>
+#include <QString>
+
 // What carries a client's request to a service in this process. Exported for the back ends that carry requests from
 // other processes; not installed.
 
@@ -14,6 +17,8 @@ struct Outcome
 {
     bool isDone = false;
     QString text;
+    /// Why settings of a batch were rejected, by the names under which they were sent.
+    QMap<QString, QString> rejected = {};
 };
 
 // The service may have been removed when one of these returns, by a slot that heard of the change.

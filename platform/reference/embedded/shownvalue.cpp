@@ -3,6 +3,8 @@
 #include "itemtypes_p.h"
 #include "texts_p.h"
 
+#include "base/servicetext_p.h"
+
 #include <QLocale>
 
 #include <limits>
@@ -82,16 +84,21 @@ QString membersText(const ItemDescription& item)
     return ValueTexts::tr("the members %1").arg(names.join(QLatin1String(", ")));
 }
 
-QString withUnit(const QString& text, const ItemDescription& item)
+} // namespace
+
+QString unitLabel(const ItemDescription& item)
 {
-    return item.unit.isEmpty() ? text : text + QLatin1Char(' ') + item.unit;
+    return uiutils::translatedServiceText(item.unit, item.id);
 }
 
-} // namespace
+QString withUnit(const QString& text, const ItemDescription& item)
+{
+    return text.isEmpty() || item.unit.isEmpty() ? text : text + QLatin1Char(' ') + unitLabel(item);
+}
 
 QString choiceLabel(const ItemDescription& item, const ChoiceDescription& choice)
 {
-    return choice.label.isEmpty() ? choice.name : translatedLabel(choice.label, item.id);
+    return uiutils::translatedServiceText(choice.label.isEmpty() ? choice.name : choice.label, item.id);
 }
 
 QString shownText(const QVariant& value, const QVector<MemberDescription>& members, int precision)

@@ -11,6 +11,12 @@ QString shownText(const QVariant& value, const QVector<MemberDescription>& membe
 /// What users read of a choice: its label; without one, its name.
 QString choiceLabel(const ItemDescription& item, const ChoiceDescription& choice);
 
+/// What users read of the item's own unit; empty without one.
+QString unitLabel(const ItemDescription& item);
+
+/// A text with the item's own unit after it; an empty text stays empty.
+QString withUnit(const QString& text, const ItemDescription& item);
+
 /// A value as an error quotes it: long values are shortened, texts are in quotes.
 QString quotedText(const QVariant& value);
 

@@ -30,13 +30,4 @@ struct StateTexts
     Q_DECLARE_TR_FUNCTIONS(ServiceState)
 };
 
-/// The label of an item, or of one of its choices, in the language of this process; as the service gives it where no
-/// catalogue has it. The item's id, as the comment of a message, tells equal labels apart.
-inline QString translatedLabel(const QString& label, const QString& id)
-{
-    if (label.isEmpty())
-        return label;
-    return QCoreApplication::translate("ServiceItem", label.toUtf8().constData(), id.toUtf8().constData());
-}
-
 } // namespace kiv::embedded

@@ -1,5 +1,7 @@
 #include "formatters/formatters_p.h"
 
+#include "base/servicetext_p.h"
+
 #include <kiv/baseformatter.h>
 
 #include <QLocale>
@@ -41,8 +43,9 @@ public:
 
 protected:
     virtual QString numberText(double number) const = 0;
-    virtual QString unitOf(double) const { return m_unit; }
+    virtual QString unitOf(double) const { return uiutils::translatedServiceText(m_unit); }
 
+    /// As the service gives it.
     QString unit() const { return m_unit; }
     int precisionOr(int fallback) const { return getPrecision() < 0 ? fallback : std::min(getPrecision(), 15); }
 
@@ -99,7 +102,11 @@ protected:
         static const QString prefixes[] = {QStringLiteral("f"), QStringLiteral("p"), QStringLiteral("n"),
                 QString(QChar(0xb5)), QStringLiteral("m"), QString(), QStringLiteral("k"), QStringLiteral("M"),
                 QStringLiteral("G"), QStringLiteral("T"), QStringLiteral("P"), QStringLiteral("E")};
-        return prefixes[thousands(number) - smallest] + unit();
+        const QString prefix = prefixes[thousands(number) - smallest];
+        // A language may have a word of its own for "km", or only for "m".
+        const QString scaled = prefix + unit();
+        const QString translated = uiutils::translatedServiceText(scaled);
+        return translated == scaled ? prefix + uiutils::translatedServiceText(unit()) : translated;
     }
 
 private:

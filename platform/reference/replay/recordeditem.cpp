@@ -79,11 +79,19 @@ void appendJson(QByteArray* line, const char* name, const QByteArray& json)
         line->append(",\"").append(name).append("\":").append(json);
 }
 
+/// A text before translation, where the platform tells it.
+QString sourceText(const KIVClientItem& item, const QString& name, const QString& shown)
+{
+    const QVariant source = item.getAttribute(name);
+    return source.isValid() ? source.toString() : shown;
+}
+
 } // namespace
 
 QuietFacts quietFacts(const KIVClientItem& item, const QStringList& attributes)
 {
-    QuietFacts facts {item.getLabel(), item.getMinRange(), item.getMaxRange(), {}};
+    QuietFacts facts {sourceText(item, QStringLiteral("sourceLabel"), item.getLabel()), item.getMinRange(),
+            item.getMaxRange(), {}};
     for (const QString& name : attributes) {
         const QVariant value = item.getAttribute(name);
         if (value.isValid())
@@ -94,6 +102,9 @@ QuietFacts quietFacts(const KIVClientItem& item, const QStringList& attributes)
 
 QString ownUnit(const KIVClientItem& item)
 {
+    const QVariant source = item.getAttribute(QStringLiteral("sourceUnit"));
+    if (source.isValid())
+        return source.toString();
     const QString unit = item.getUnitString();
     const QString name = unit.isEmpty() ? QString() : item.getAttribute(QStringLiteral("formatter")).toString();
     if (name.isEmpty())
@@ -111,12 +122,14 @@ QByteArray choicesJson(const KIVClientItem& item)
     if (!enumeration)
         return QByteArray();
     const KIVEnumChoicesClientItem* const choices = enumeration->getChoices();
+    const QStringList sources = item.getAttribute(QStringLiteral("sourceChoices")).toStringList();
     QByteArray json("[");
     for (int i = 0; choices && i < choices->count(); ++i) {
         json += i > 0 ? ",{\"value\":" : "{\"value\":";
         json += QByteArray::number(choices->valueAt(i));
         appendField(&json, "name", choices->nameAt(i));
-        appendUnless(&json, "label", choices->labelAt(i) == choices->nameAt(i), choices->labelAt(i));
+        const QString label = sources.value(i, choices->labelAt(i));
+        appendUnless(&json, "label", label == choices->nameAt(i), label);
         appendUnless(&json, "applicable", choices->isApplicableAt(i), false);
         json += '}';
     }

@@ -1,10 +1,10 @@
 #include "iconpicture.h"
 
 #include "iconpictures.h"
+#include "qml/scene/picturenode.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
-#include <QSGImageNode>
 
 namespace uiutils {
 
@@ -54,23 +54,7 @@ void IconPicture::updatePolish()
 
 QSGNode* IconPicture::updatePaintNode(QSGNode* node, UpdatePaintNodeData*)
 {
-    auto* image = static_cast<QSGImageNode*>(node);
-    if (m_picture.isNull()) {
-        delete image;
-        return nullptr;
-    }
-    if (!image) {
-        image = window()->createImageNode();
-        image->setOwnsTexture(true);
-        // Where a pixel of the picture is no whole one of the screen.
-        image->setFiltering(QSGTexture::Linear);
-        m_isNew = true;
-    }
-    if (m_isNew)
-        image->setTexture(window()->createTextureFromImage(m_picture, QQuickWindow::TextureHasAlphaChannel));
-    m_isNew = false;
-    image->setRect(boundingRect());
-    return image;
+    return pictureNode(node, *this, m_picture, &m_isNew, QQuickWindow::TextureHasAlphaChannel);
 }
 
 void IconPicture::itemChange(ItemChange change, const ItemChangeData& data)

@@ -1,8 +1,9 @@
 #include "previewpage.h"
 
+#include "qml/scene/picturenode.h"
+
 #include <QPainter>
 #include <QQuickWindow>
-#include <QSGImageNode>
 
 #include <cmath>
 
@@ -99,23 +100,7 @@ void PreviewPage::updatePolish()
 
 QSGNode* PreviewPage::updatePaintNode(QSGNode* node, UpdatePaintNodeData*)
 {
-    auto* image = static_cast<QSGImageNode*>(node);
-    if (m_picture.isNull()) {
-        delete image;
-        return nullptr;
-    }
-    if (!image) {
-        image = window()->createImageNode();
-        image->setOwnsTexture(true);
-        image->setFiltering(QSGTexture::Linear);
-        m_isPictureNew = true;
-    }
-    if (m_isPictureNew) {
-        image->setTexture(window()->createTextureFromImage(m_picture, QQuickWindow::TextureIsOpaque));
-        m_isPictureNew = false;
-    }
-    image->setRect(boundingRect());
-    return image;
+    return pictureNode(node, *this, m_picture, &m_isPictureNew, QQuickWindow::TextureIsOpaque);
 }
 
 } // namespace uiutils

@@ -4,9 +4,11 @@
 #include "report/reporttexts_p.h"
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QMetaObject>
 #include <QObject>
 #include <QRunnable>
+#include <QtDebug>
 
 #include <atomic>
 #include <cerrno>
@@ -73,6 +75,18 @@ void DraftWriter::start(const QString& path, const DraftHeader& header, const Dr
         QMetaObject::invokeMethod(context, onDone, Qt::QueuedConnection);
     };
     m_threads.start(QRunnable::create(work));
+}
+
+bool DraftWriter::remove(const QString& path)
+{
+    if (!QFile::remove(path))
+        return false;
+    m_threads.start(QRunnable::create([path] {
+        if (!syncNameOf(path))
+            qWarning("A power cut may bring the draft %s back: %s", qUtf8Printable(path),
+                    qUtf8Printable(qt_error_string(errno)));
+    }));
+    return true;
 }
 
 std::optional<DraftOutcome> DraftWriter::take()

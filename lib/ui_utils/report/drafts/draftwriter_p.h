@@ -33,6 +33,7 @@ DraftOutcome writeDraft(const QString& path, const DraftHeader& header, const Dr
 qint64 pauseAfter(int interval, qint64 duration);
 
 /// Writes drafts in a thread of its own, because a disk may take a second to say that a file is safe. One at a time.
+/// The same thread makes removals safe.
 class DraftWriter
 {
 public:
@@ -44,8 +45,11 @@ public:
 
     /// Begins to write the file. What the thread reads is shared, and nobody changes it.
     void start(const QString& path, const DraftHeader& header, const DraftContents& contents);
+    /// Removes the file at once; a power cut may bring it back until the thread has seen to that. False if it cannot be
+    /// removed.
+    bool remove(const QString& path);
     bool isBusy() const { return bool(m_outcome); }
-    /// Waits until the file is written.
+    /// Waits until the file is written, and removals are safe.
     void wait() { m_threads.waitForDone(); }
     /// How the file was written, once; nothing if none was, or if that still goes on.
     std::optional<DraftOutcome> take();

@@ -79,7 +79,7 @@ void ReportDraftPrivate::discard()
 {
     if (offered.isEmpty())
         return;
-    if (!QFile::remove(offered.constFirst().path))
+    if (!m_writer.remove(offered.constFirst().path))
         qWarning("The draft %s cannot be removed", qUtf8Printable(offered.constFirst().path));
     setOffered(offered.mid(1));
 }
@@ -116,7 +116,7 @@ void ReportDraftPrivate::forget()
     m_turn.stop();
     m_kept = {};
     m_isUnwritten = false;
-    if (!m_ownFile.isEmpty() && !QFile::remove(m_ownFile) && QFile::exists(m_ownFile))
+    if (!m_ownFile.isEmpty() && !m_writer.remove(m_ownFile) && QFile::exists(m_ownFile))
         qWarning("The draft %s cannot be removed", qUtf8Printable(m_ownFile));
     m_ownFile.clear();
     const QPointer<ReportDraft> self(q);

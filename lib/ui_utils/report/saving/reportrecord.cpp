@@ -1,10 +1,9 @@
 #include "report/saving/reportrecord_p.h"
 
 #include "base/paths_p.h"
-#include "core/itemids_p.h"
 #include "document/reportmetadata.h"
-#include "instrument/basemanager_p.h"
 #include "instrument/drives_p.h"
+#include "instrument/job_p.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -61,7 +60,7 @@ void addJobTest(ReportMetadata* record, const QString& testType, const QString& 
     {
         QLatin1String key;
         QString value;
-    } pairs[] = {{QLatin1String("jobId"), instrument::baseManagerText(itemids::jobId)},
+    } pairs[] = {{QLatin1String("jobId"), instrument::jobFacts().id},
             {QLatin1String("testType"), testType}, {QLatin1String("testLabel"), testLabel}};
     for (const auto& pair : pairs) {
         if (!pair.value.isEmpty())

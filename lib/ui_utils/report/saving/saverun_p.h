@@ -1,5 +1,6 @@
 #pragma once
 
+#include "instrument/job_p.h"
 #include "report/saving/saveplan_p.h"
 #include "report/saving/saving_p.h"
 
@@ -44,6 +45,8 @@ private:
     bool m_overwrite;
     FormatChoice m_choice;
     SavePlan m_plan;
+    /// Another program may close the job while the files are written.
+    const instrument::HeldJob m_job;
     /// The planned files that have been written, and their paths on the disk.
     QVector<PlannedFile> m_saved;
     QStringList m_written;

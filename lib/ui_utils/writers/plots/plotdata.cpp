@@ -58,6 +58,16 @@ AxisScale::Kind xScaleKind(const KIVClientItem& item)
                                                  : scaleKind(item);
 }
 
+/// What the service says, whatever users read. A formatter's name ends in the unit that it has from the service.
+QString sourceUnit(const KIVClientItem& item)
+{
+    const QString own = item.getAttribute(QStringLiteral("sourceUnit")).toString();
+    const QString named = own.isEmpty()
+            ? item.getAttribute(QStringLiteral("formatter")).toString().section(QLatin1Char(':'), 1)
+            : own;
+    return named.isEmpty() ? item.getUnitString() : named;
+}
+
 /// The seconds of a unit; 0 for a unit that is not one of time.
 double secondsOf(const QString& unit)
 {
@@ -94,6 +104,7 @@ void addPair(PlotData& data, const KIVClientItem& x, const KIVClientItem& y)
         data.xLabel = shownPlotText(x.getLabel());
         data.xUnit = shownPlotText(x.getUnitString());
         data.xOwnUnit = data.xUnit;
+        data.xSeconds = secondsOf(sourceUnit(x));
         data.xKind = xScaleKind(x);
         data.axes[LeftSide].kind = scaleKind(y);
     }
@@ -127,7 +138,7 @@ AxisScale::Kind timeKind(const PlotData& data, double seconds)
 
 void settleTimes(PlotData& data)
 {
-    const double unit = secondsOf(data.xUnit);
+    const double unit = data.xSeconds;
     data.xKind = timeKind(data, unit);
     if (data.xKind != AxisScale::Date && data.xKind != AxisScale::Duration)
         return;

@@ -89,8 +89,10 @@ struct PlotData
     QString xLabel;
     /// "s" where the axis is one of times.
     QString xUnit;
-    /// The unit that the service names.
+    /// The unit of the service's values, as users read it.
     QString xOwnUnit;
+    /// How many seconds that unit is; 0 for a unit that is not one of time.
+    double xSeconds = 0;
     AxisScale::Kind xKind = AxisScale::Linear;
     /// As that of an axis of values.
     Interval xWindow;

@@ -27,7 +27,7 @@ instrument::LabelledTexts withoutDefaults(instrument::LabelledTexts fields)
 
 InformationTable jobTable()
 {
-    return {ReportWords::tr("Job Manager Information"), ReportWords::tr("Value"), instrument::jobFields()};
+    return {ReportWords::tr("Job Manager Information"), ReportWords::tr("Value"), instrument::jobFacts().fields};
 }
 
 InformationTable customerTable()

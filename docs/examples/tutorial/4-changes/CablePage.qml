@@ -1,0 +1,35 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import UiUtils 1.0
+import UiUtils.Controls 1.0
+
+KitPage {
+    title: qsTr("Cable test")
+    Component.onCompleted: services.cable.startChanges()
+
+    footer: [
+        BodyText { Layout.fillWidth: true; text: cable_cfg_length.error },
+        TouchButton {
+            text: qsTr("Revert")
+            onClicked: { services.cable.revertChanges(); services.cable.startChanges() }
+        },
+        TouchButton {
+            text: qsTr("Apply")
+            filled: true
+            onClicked: { services.cable.applyChanges(); services.cable.startChanges() }
+        }
+    ]
+
+    FigureCard {
+        Layout.fillWidth: true
+        label: cable_res_loss.label
+        value: cable_res_loss.valueString
+    }
+    Card {
+        Layout.fillWidth: true
+        title: qsTr("Set-up")
+
+        ItemEntry { Layout.fillWidth: true; item: cable_cfg_site }
+        ItemEntry { Layout.fillWidth: true; item: cable_cfg_length }
+    }
+}

@@ -1,0 +1,62 @@
+import QtQuick 2.15
+import QtQuick.Layouts 1.15
+import UiUtils 1.0
+import UiUtils.Controls 1.0
+
+KitPage {
+    title: qsTr("Cable test")
+    service: "cable"
+    Component.onCompleted: services.cable.startChanges()
+
+    footer: [
+        BodyText { Layout.fillWidth: true; text: cable_cfg_length.error },
+        TouchButton {
+            text: qsTr("Revert")
+            onClicked: { services.cable.revertChanges(); services.cable.startChanges() }
+        },
+        TouchButton {
+            text: qsTr("Apply")
+            filled: true
+            onClicked: { services.cable.applyChanges(); services.cable.startChanges() }
+        }
+    ]
+
+    FigureCard {
+        Layout.fillWidth: true
+        label: cable_res_loss.label
+        value: cable_res_loss.isReady ? cable_res_loss.valueString : ""
+        status: cable_res_loss.qualityCode
+    }
+    Card {
+        Layout.fillWidth: true
+        title: qsTr("Set-up")
+
+        ItemEntry { Layout.fillWidth: true; item: cable_cfg_site }
+        ItemEntry { Layout.fillWidth: true; item: cable_cfg_length }
+    }
+    Card {
+        Layout.fillWidth: true
+        title: qsTr("Report")
+
+        FileNameEntry { Layout.fillWidth: true; item: report.getSetting("reportName") }
+        ChoiceEntry { Layout.fillWidth: true; item: report.getSetting("reportFormat") }
+        TouchButton { text: qsTr("Save"); enabled: cable_res_loss.isReady; onClicked: report.save() }
+        BodyText { id: saved }
+    }
+    PageReport {
+        id: report
+        folder: "cable"
+        onContentWanted: {
+            content.beginReport("cable")
+            content.setKey("title", qsTr("Cable test, %1").arg(cable_cfg_site.valueString))
+            content.beginTable("results", qsTr("Results"))
+            for (const item of [cable_cfg_length, cable_res_loss])
+                content.addRow(item.name, item.label, item.valueString, { status: item.qualityCode })
+            content.endTable()
+            content.endReport()
+        }
+        onReportOverwriteAccepted: save(true)
+        onReportGenerated: saved.text = qsTr("Saved: %1").arg(filename)
+    }
+    NotificationDialog { }
+}

@@ -1,0 +1,5 @@
+import QtQuick 2.15
+
+Hand {
+    onArrived: texts().forEach(text => console.log(text))
+}
