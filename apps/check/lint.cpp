@@ -3,6 +3,7 @@
 #include "check/expressions.h"
 #include "check/pagefile.h"
 #include "check/shallowvisitor.h"
+#include "check/wording.h"
 
 #include <QFileInfo>
 #include <QLibraryInfo>
@@ -102,11 +103,16 @@ QStringList quotedIn(const QString& text)
     return quoted;
 }
 
-QString nameAt(const QString& code, int line, int column)
+QStringList namesOfEveryPage()
+{
+    return {QStringLiteral("parent"), QStringLiteral("console"), QStringLiteral("services"), QStringLiteral("qsTr"),
+            QStringLiteral("undefined"), QStringLiteral("parseInt"), QStringLiteral("parseFloat")};
+}
+
+QString nameAt(const QString& line, int column)
 {
     static const QRegularExpression name(QStringLiteral("[A-Za-z_$][\\w$]*"));
-    const QString text = code.section(QLatin1Char('\n'), line - 1, line - 1);
-    return name.match(text, column - 1, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption)
+    return name.match(line, column - 1, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption)
             .captured();
 }
 
@@ -118,6 +124,7 @@ public:
         : m_scope(scope)
         , m_isPage(isPage)
         , m_knowsTypes(knowsTypes)
+        , m_lines(scope.file.code().split(QLatin1Char('\n')))
     {
         if (scope.file.root())
             scope.file.root()->accept(&m_rows);
@@ -131,7 +138,8 @@ public:
         if (complaint.text == QLatin1String("unqualified access")) {
             finding.message = ofName(complaint);
         } else if (complaint.text.startsWith(QLatin1String("Property "))) {
-            finding.message = ofProperty(names);
+            finding.weight = Finding::Error;
+            finding.message = ofProperty(complaint, names);
         } else if (complaint.text.startsWith(QLatin1String("no matching signal"))) {
             finding.weight = m_knowsTypes ? Finding::Error : Finding::Warning;
             finding.message = QStringLiteral("The object has no signal for \"%1\", so this is never called.")
@@ -146,33 +154,40 @@ public:
     }
 
 private:
+    QString lineOf(const Complaint& complaint) const { return m_lines.value(complaint.line - 1); }
+    /// Only what looks like a slip: programs give pages names of their own, and rows of models have others.
     QString ofName(const Complaint& complaint) const
     {
-        const QString name = nameAt(m_scope.file.code(), complaint.line, complaint.column);
-        const bool isKnown = !tagInName(name).isEmpty() || name == QLatin1String("services")
-                || m_scope.names.isDeclared(name) || m_scope.names.isText(name)
+        const QString name = nameAt(lineOf(complaint), complaint.column);
+        const bool isKnown = name.isEmpty() || name.at(0).isUpper() || !tagInName(name).isEmpty()
+                || name == QLatin1String("services") || m_scope.names.isDeclared(name) || m_scope.names.isText(name)
                 || m_scope.names.of(m_scope.file).guarded.contains(name) || m_scope.imports.properties.contains(name);
-        if (complaint.isAdvice || name.isEmpty() || isKnown || !m_isPage || !m_scope.imports.isComplete
+        if (complaint.isAdvice || isKnown || name.size() < 3 || !m_isPage || !m_knowsTypes
                 || m_rows.isInRows(complaint.line))
             return QString();
-        return QStringLiteral(
-                "Nothing here has the name \"%1\": no item, and nothing that the checked files declare. Is "
-                "it misspelt? Only a program that sets it itself knows it.")
-                .arg(name);
+        QStringList near = m_scope.names.declared();
+        near += namesOfEveryPage();
+        near.erase(std::remove_if(
+                           near.begin(), near.end(), [&name](const QString& known) { return !isSlip(name, known); }),
+                near.end());
+        return near.isEmpty() ? QString() : QStringLiteral("Nothing has the name \"%1\".%2").arg(name, proposal(near));
     }
-    QString ofProperty(const QStringList& names) const
+    /// Only of an object that the file itself declares: the class of another may have more than the checker sees.
+    QString ofProperty(const Complaint& complaint, const QStringList& names) const
     {
-        // What an object of any class has is not known.
-        const bool isAnyObject = names.value(1).startsWith(QLatin1String("QObject"))
-                || names.value(1).startsWith(QLatin1String("QQmlPropertyMap"));
-        return isAnyObject || names.size() < 2 || !m_knowsTypes
+        static const QRegularExpression owner(QStringLiteral("(?<![\\w.])(\\w+)\\.$"));
+        const QString before = lineOf(complaint).left(complaint.column - 1);
+        const QString id = owner.match(before).captured(1);
+        return names.size() < 2 || !m_knowsTypes || !m_scope.names.of(m_scope.file).ids.contains(id)
                 ? QString()
-                : QStringLiteral("An object of type %1 has no property \"%2\".").arg(names.at(1), names.at(0));
+                : QStringLiteral("\"%1\" is of type %2, which has no property \"%3\".")
+                          .arg(id, names.at(1), names.at(0));
     }
 
     const PageScope& m_scope;
     const bool m_isPage;
     const bool m_knowsTypes;
+    const QStringList m_lines;
     RowReader m_rows;
 };
 
@@ -202,6 +217,11 @@ QVector<Finding> findingsOfLint(const QString& output, const PageScope& scope, b
 QVector<Finding> lint(const QString& program, const PageScope& scope, const QStringList& importFolders, bool isPage)
 {
     constexpr int longestMs = 30000;
+    // It takes seconds for such a file, which is no page that somebody wrote by hand.
+    constexpr int longestFile = 512 * 1024;
+    if (scope.file.code().size() > longestFile)
+        return {{Finding::Warning, scope.file.path(), 0, 0, QString(),
+                QStringLiteral("qmllint was not asked, because the file has more than 512 KiB.")}};
     QStringList arguments {QStringLiteral("-U")};
     for (const QString& folder : importFolders)
         arguments << QStringLiteral("-I") << folder;

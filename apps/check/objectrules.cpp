@@ -3,6 +3,7 @@
 #include "check/entryfit.h"
 #include "check/expressions.h"
 #include "check/pagefile.h"
+#include "check/wording.h"
 
 namespace uiutils::check {
 

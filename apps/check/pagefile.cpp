@@ -93,6 +93,19 @@ QString inPlainWords(const QString& message)
     return QStringLiteral("This cannot be read: %1.").arg(message);
 }
 
+/// The last line up to the given one that opens a quotation and does not close it; 0 for none. Texts may go over lines,
+/// so that one missing mark turns all that follows inside out.
+int lineWithOddQuotes(const QString& code, int line)
+{
+    const QVector<QStringRef> lines = code.splitRef(QLatin1Char('\n'));
+    for (int i = std::min(line, lines.size()) - 1; i >= 0; --i) {
+        const int quotes = lines.at(i).count(QLatin1Char('"')) - lines.at(i).count(QLatin1String("\\\""));
+        if (quotes % 2 != 0)
+            return i + 1;
+    }
+    return 0;
+}
+
 } // namespace
 
 PageFile::PageFile(const QString& path)
@@ -131,8 +144,7 @@ std::unique_ptr<PageFile> PageFile::read(const QString& path, QVector<Finding>* 
 void PageFile::parse(const QString& code, QVector<Finding>* findings)
 {
     QQmlJS::Lexer lexer(&m_engine);
-    // Also in scripts, whose first lines may be directives for pages.
-    lexer.setCode(code, 1, true);
+    lexer.setCode(code, 1, !isScript());
     QQmlJS::Parser parser(&m_engine);
     const bool isModule = m_path.endsWith(QLatin1String(".mjs"));
     const bool isRead = !isScript() ? parser.parse() : isModule ? parser.parseModule() : parser.parseScript();
@@ -143,6 +155,9 @@ void PageFile::parse(const QString& code, QVector<Finding>* findings)
     const QList<QQmlJS::DiagnosticMessage> messages = parser.diagnosticMessages();
     for (const QQmlJS::DiagnosticMessage& message : messages) {
         Finding finding = at(message.loc, inPlainWords(message.message));
+        const int open = lineWithOddQuotes(code, finding.line);
+        if (open > 0)
+            finding.message += QStringLiteral(" In line %1, is a quotation mark missing?").arg(open);
         finding.weight = message.isWarning() ? Finding::Warning : Finding::Error;
         findings->append(finding);
     }

@@ -1,6 +1,5 @@
 #include "check/pageitems.h"
 
-#include "common/nearest.h"
 #include "service/kivaggregatedata.h"
 #include "service/kivlistaggregatedata.h"
 #include "service/manifest.h"
@@ -183,30 +182,6 @@ bool isChoice(const names::ItemFacts& item)
 bool isText(const names::ItemFacts& item)
 {
     return item.type == QLatin1String("std::string");
-}
-
-QString proposal(const QStringList& names)
-{
-    if (names.isEmpty())
-        return QString();
-    QString list = names.mid(0, names.size() - 1).join(QLatin1String(", "));
-    if (!list.isEmpty())
-        list += QLatin1String(" or ");
-    return QLatin1String(" Did you mean ") + list + names.constLast() + QLatin1Char('?');
-}
-
-QString proposal(const QString& wanted, const QStringList& known)
-{
-    return proposal(apps::nearest(wanted, known));
-}
-
-QString enumeration(QStringList names)
-{
-    constexpr int most = 8;
-    std::sort(names.begin(), names.end());
-    const int more = names.size() - most;
-    const QString list = names.mid(0, most).join(QLatin1String(", "));
-    return more > 0 ? QStringLiteral("%1 and %2 more").arg(list, QString::number(more)) : list;
 }
 
 } // namespace uiutils::check

@@ -83,11 +83,4 @@ bool isSwitch(const names::ItemFacts& item);
 bool isChoice(const names::ItemFacts& item);
 bool isText(const names::ItemFacts& item);
 
-/// " Did you mean A, B or C?", or an empty text.
-QString proposal(const QStringList& names);
-/// The same for what is nearest to a name that does not exist.
-QString proposal(const QString& wanted, const QStringList& known);
-/// "A, B, C and 7 more".
-QString enumeration(QStringList names);
-
 } // namespace uiutils::check

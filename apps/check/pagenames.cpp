@@ -34,8 +34,10 @@ protected:
     {
         const QString name = lastName(binding->qualifiedId);
         const auto* const value = cast<IdentifierExpression*>(expressionOf(binding->statement));
-        if (name == QLatin1String("id") && value)
+        if (name == QLatin1String("id") && value) {
             declare(value->name.toString());
+            m_own->ids.insert(value->name.toString());
+        }
         m_names->m_changed.insert(name);
         return true;
     }

@@ -4,6 +4,7 @@
 #include <QSet>
 #include <QSharedPointer>
 #include <QString>
+#include <QStringList>
 
 #include <private/qqmljsastfwd_p.h>
 
@@ -16,6 +17,7 @@ struct FileNames
 {
     /// Names that have one value for good, as far as this file can tell, and the expression of it.
     QHash<QString, QQmlJS::AST::ExpressionNode*> constants;
+    QSet<QString> ids;
     /// Names that the file asks for before it uses them, so that they may be missing.
     QSet<QString> guarded;
     /// The same of members of `services`.
@@ -31,6 +33,7 @@ public:
 
     /// Whether any of the files gives the name a meaning: an id, a property, a variable, a parameter, a function ….
     bool isDeclared(const QString& name) const { return m_declarations.contains(name); }
+    QStringList declared() const { return m_declarations.keys(); }
     /// Whether it stands in a text, which may be the name by which an object registers itself.
     bool isText(const QString& name) const { return m_changed.contains(name); }
     const FileNames& of(const PageFile& file) const { return *m_files.value(&file); }

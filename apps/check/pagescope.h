@@ -28,6 +28,8 @@ struct FileImports
     /// Names of types, where all imports are known.
     QSet<QString> types;
     bool isComplete = false;
+    /// Modules that have the types that no import brings.
+    QHash<QString, QString> homes;
     /// Names of properties that objects of imported types have.
     QSet<QString> properties;
 };

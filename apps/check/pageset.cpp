@@ -2,9 +2,12 @@
 
 #include "check/expressions.h"
 #include "check/shallowvisitor.h"
+#include "check/wording.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QXmlStreamReader>
 
 #include <algorithm>
 
@@ -71,22 +74,6 @@ private:
 QString inFolder(const QString& folder, const QString& name)
 {
     return QDir::isAbsolutePath(name) ? name : QDir::cleanPath(folder + QLatin1Char('/') + name);
-}
-
-/// Whether one character too many, too few or wrong, or two that changed places, make one name of the other.
-bool isSlip(const QString& a, const QString& b)
-{
-    int begin = 0;
-    while (begin < a.size() && begin < b.size() && a.at(begin) == b.at(begin))
-        ++begin;
-    int end = 0;
-    while (end < a.size() - begin && end < b.size() - begin && a.at(a.size() - 1 - end) == b.at(b.size() - 1 - end))
-        ++end;
-    const QString fromA = a.mid(begin, a.size() - begin - end);
-    const QString fromB = b.mid(begin, b.size() - begin - end);
-    const bool areSwapped
-            = fromA.size() == 2 && fromB.size() == 2 && fromA.at(0) == fromB.at(1) && fromA.at(1) == fromB.at(0);
-    return (fromA.size() <= 1 && fromB.size() <= 1) || areSwapped;
 }
 
 QString versionOf(const UiImport& import)
@@ -170,6 +157,9 @@ void PageSet::readModule(const PageFile& file, const UiImport& import, FileImpor
     }
     if (module) {
         takeModule(*module, prefix, imports);
+        // A file of the module itself uses what the module keeps to itself.
+        if (module->files.contains(QFileInfo(file.path()).completeBaseName()))
+            imports->isComplete = false;
     } else if (imports->singletons.contains(prefix + last)) {
         imports->types.insert(prefix + last);
     } else if (name != QLatin1String("QtQml")) {
@@ -180,6 +170,19 @@ void PageSet::readModule(const PageFile& file, const UiImport& import, FileImpor
 
 void PageSet::reportModule(const PageFile& file, const UiImport& import, const QString& name)
 {
+    const QString ofServices = QStringLiteral("Instrument.");
+    if (name.startsWith(ofServices) && !m_items.isEmpty()) {
+        QStringList modules = m_items.moduleNames();
+        for (QString& module : modules)
+            module.prepend(ofServices);
+        const QString proposed = proposal(name, modules);
+        m_findings->append(file.at(import.importUri->identifierToken,
+                QStringLiteral("No service has the module %1.%2")
+                        .arg(name,
+                                proposed.isEmpty() ? QStringLiteral(" The modules are %1.").arg(enumeration(modules))
+                                                   : proposed)));
+        return;
+    }
     const QStringList& known = m_modules.names();
     const bool isMistake
             = std::any_of(known.cbegin(), known.cend(), [&name](const QString& other) { return isSlip(name, other); });
@@ -187,6 +190,10 @@ void PageSet::reportModule(const PageFile& file, const UiImport& import, const Q
             ? proposal(name, known)
             : QStringLiteral(" Name the folder above it with --import, or install it. A module that the program itself "
                              "brings along cannot be found here.");
+    // All files of a program import the modules that it brings along: one line tells it.
+    if (!isMistake && m_missingModules.contains(name))
+        return;
+    m_missingModules.insert(name);
     Finding finding = file.at(
             import.importUri->identifierToken, QStringLiteral("The module %1 was not found.%2").arg(name, advice));
     if (!isMistake)
@@ -233,9 +240,36 @@ void PageSet::takeFolder(const QString& folder, const QString& prefix, FileImpor
     const QStringList names = QDir(folder).entryList({QStringLiteral("*.qml")}, QDir::Files);
     for (const QString& name : names) {
         const QString type = name.chopped(4);
+        if (!type.at(0).isUpper())
+            continue;
         imports->types.insert(prefix + type);
         imports->ownTypes.insert(prefix + type);
         imports->files.insert(prefix + type, inFolder(folder, name));
+    }
+    takeResources(folder, prefix, imports);
+}
+
+/// A program whose resources are listed here may have files of other folders beside the page.
+void PageSet::takeResources(const QString& folder, const QString& prefix, FileImports* imports)
+{
+    const QStringList lists = QDir(folder).entryList({QStringLiteral("*.qrc")}, QDir::Files);
+    for (const QString& list : lists) {
+        QFile file(inFolder(folder, list));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        QXmlStreamReader xml(&file);
+        while (!xml.atEnd()) {
+            if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != QLatin1String("file"))
+                continue;
+            const QString alias = xml.attributes().value(QLatin1String("alias")).toString();
+            const QString name = xml.readElementText(QXmlStreamReader::SkipChildElements);
+            const QString type = prefix + QFileInfo(alias.isEmpty() ? name : alias).completeBaseName();
+            if (!name.endsWith(QLatin1String(".qml")) || imports->types.contains(type))
+                continue;
+            imports->types.insert(type);
+            imports->ownTypes.insert(type);
+            imports->files.insert(type, inFolder(folder, name));
+        }
     }
 }
 
@@ -247,6 +281,9 @@ void PageSet::readUses(const PageFile& file, FileImports* imports)
         const QString component = imports->files.value(type.name);
         if (!component.isEmpty())
             enqueue(component);
+        const bool isMissing = imports->isComplete && !imports->types.contains(type.name);
+        if (isMissing && !type.name.contains(QLatin1Char('.')) && !imports->homes.contains(type.name))
+            imports->homes.insert(type.name, m_modules.moduleWith(type.name));
     }
     for (const UseReader::Use& use : qAsConst(reader.files)) {
         const QString path = inFolder(file.folder(), use.name);

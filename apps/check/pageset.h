@@ -37,6 +37,7 @@ private:
     void readFileImport(const PageFile& file, const QQmlJS::AST::UiImport& import, FileImports* imports);
     void takeModule(const QmlModule& module, const QString& prefix, FileImports* imports);
     void takeFolder(const QString& folder, const QString& prefix, FileImports* imports);
+    void takeResources(const QString& folder, const QString& prefix, FileImports* imports);
     void readUses(const PageFile& file, FileImports* imports);
     void reportModule(const PageFile& file, const QQmlJS::AST::UiImport& import, const QString& name);
 
@@ -48,6 +49,7 @@ private:
     QStringList m_waiting;
     /// As the file system knows them, so that a link is no second file.
     QSet<QString> m_known;
+    QSet<QString> m_missingModules;
 };
 
 } // namespace uiutils::check

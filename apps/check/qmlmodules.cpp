@@ -11,6 +11,9 @@
 #include <QLibraryInfo>
 #include <QVector>
 
+#include <algorithm>
+#include <tuple>
+
 namespace uiutils::check {
 
 using namespace QQmlJS::AST;
@@ -33,6 +36,12 @@ protected:
         return true;
     }
     void endVisit(UiObjectDefinition*) override { m_objects.removeLast(); }
+    /// Of types that are QML files.
+    bool visit(UiPublicMember* member) override
+    {
+        m_module->properties.insert(member->name.toString());
+        return true;
+    }
     bool visit(UiScriptBinding* binding) override
     {
         const QString property = toText(binding->qualifiedId);
@@ -114,7 +123,10 @@ const QSet<QString>& builtInTypes()
 {
     static const QSet<QString> types {QStringLiteral("QtObject"), QStringLiteral("Component"),
             QStringLiteral("Connections"), QStringLiteral("Binding"), QStringLiteral("Timer"),
-            QStringLiteral("Instantiator"), QStringLiteral("LoggingCategory")};
+            QStringLiteral("Instantiator"), QStringLiteral("LoggingCategory"), QStringLiteral("ListModel"),
+            QStringLiteral("ListElement"), QStringLiteral("ObjectModel"), QStringLiteral("DelegateModel"),
+            QStringLiteral("DelegateModelGroup"), QStringLiteral("ItemSelectionModel"), QStringLiteral("Package"),
+            QStringLiteral("WorkerScript")};
     return types;
 }
 
@@ -178,20 +190,40 @@ std::unique_ptr<QmlModule> QmlModules::read(const QString& folder)
     if (isLibrary && descriptions.isEmpty())
         descriptions += usual;
     for (const QString& description : qAsConst(descriptions))
-        readDescription(folder + QLatin1Char('/') + description, module.get());
+        module->isComplete &= readTypes(folder + QLatin1Char('/') + description, module.get());
+    for (const QString& file : qAsConst(module->files))
+        readTypes(file, module.get());
+    // What the library of the kit adds is for the kit itself.
+    const bool isKit = folder.startsWith(qmlImportPath() + QLatin1Char('/')) && !module->files.isEmpty();
+    module->isComplete |= isKit;
     return module;
 }
 
-void QmlModules::readDescription(const QString& file, QmlModule* module)
+bool QmlModules::readTypes(const QString& file, QmlModule* module)
 {
     QVector<Finding> ignored;
-    const std::unique_ptr<PageFile> description = PageFile::read(file, &ignored);
-    if (!description || !description->page()) {
-        module->isComplete = false;
-        return;
-    }
+    const std::unique_ptr<PageFile> types = PageFile::read(file, &ignored);
+    if (!types || !types->page())
+        return false;
     DescriptionReader reader(module);
-    description->page()->accept(&reader);
+    types->page()->accept(&reader);
+    return true;
+}
+
+QString QmlModules::moduleWith(const QString& type)
+{
+    // The latest version of Qt's; the shortest name is the one that pages import.
+    QStringList names = this->names();
+    std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
+        return std::make_tuple(a.count(QLatin1Char('.')), a.size(), a)
+                < std::make_tuple(b.count(QLatin1Char('.')), b.size(), b);
+    });
+    for (const QString& name : qAsConst(names)) {
+        const QmlModule* const module = find(name, QStringLiteral("2.15"));
+        if (module && module->types.contains(type))
+            return name;
+    }
+    return QString();
 }
 
 const QStringList& QmlModules::names()

@@ -38,12 +38,15 @@ public:
     const QmlModule* find(const QString& name, const QString& version);
     /// The names of all modules that the folders have.
     const QStringList& names();
+    /// The name of a module that has a type; empty where none is known.
+    QString moduleWith(const QString& type);
     /// Where modules are searched, in this order.
     QStringList folders() const { return m_folders; }
 
 private:
     std::unique_ptr<QmlModule> read(const QString& folder);
-    void readDescription(const QString& file, QmlModule* module);
+    /// Reads a description of types, or a type that is a QML file. False if it cannot be read.
+    bool readTypes(const QString& file, QmlModule* module);
 
     const int m_foldersOfUser;
     QStringList m_folders;

@@ -2,6 +2,9 @@
 
 #include "check/expressions.h"
 #include "check/pagefile.h"
+#include "check/wording.h"
+
+#include <algorithm>
 
 namespace uiutils::check {
 
@@ -27,11 +30,16 @@ void TypeRules::judge(const UiQualifiedId* type)
     const bool isOwn = m_scope.imports.types.contains(name) || m_scope.names.isDeclared(lastName(type));
     if (isGroup || isOwn || !m_scope.imports.isComplete)
         return;
-    const QStringList known = m_scope.imports.types.values();
-    const QString proposed = proposal(name, known);
-    m_findings->append(m_scope.file.at(type->identifierToken,
-            QStringLiteral("No import of this file has a type %1.%2")
-                    .arg(name, proposed.isEmpty() ? QStringLiteral(" Is an import missing?") : proposed)));
+    QStringList near = m_scope.imports.types.values();
+    near.erase(std::remove_if(near.begin(), near.end(), [&name](const QString& known) { return !isSlip(name, known); }),
+            near.end());
+    const QString home = m_scope.imports.homes.value(name);
+    QString advice = proposal(near);
+    if (advice.isEmpty())
+        advice = home.isEmpty() ? QStringLiteral(" Is an import missing?")
+                                : QStringLiteral(" The module %1 has it: import that.").arg(home);
+    m_findings->append(m_scope.file.at(
+            type->identifierToken, QStringLiteral("No import of this file has a type %1.%2").arg(name, advice)));
 }
 
 } // namespace uiutils::check

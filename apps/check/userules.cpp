@@ -2,6 +2,7 @@
 
 #include "check/expressions.h"
 #include "check/pagefile.h"
+#include "check/wording.h"
 
 #include <algorithm>
 

@@ -1,6 +1,8 @@
 #include "options.h"
 #include "page.h"
 #include "pageaudit.h"
+#include "pagejudge.h"
+#include "pagelog.h"
 #include "pagemodules.h"
 #include "pagereload.h"
 #include "pagetest.h"
@@ -14,9 +16,9 @@
 #include "common/complaint.h"
 #include "common/displaysetup.h"
 #include "inspector/inspectorpanel.h"
+#include "languages/languages.h"
 #include "service/kivdata.h"
 #include "service/manifest.h"
-#include "languages/languages.h"
 #include "ui_host/describedservices_p.h"
 #include "ui_host/host.h"
 
@@ -24,7 +26,9 @@
 #include <QLoggingCategory>
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -36,10 +40,11 @@ using apps::exitFailed;
 using inspector::InspectorPanel;
 using qmltool::Options;
 using qmltool::Page;
+using qmltool::PageLog;
 using qmltool::PageModules;
 using qmltool::PageReload;
-using qmltool::Translations;
 using qmltool::PageWindow;
+using qmltool::Translations;
 
 namespace {
 
@@ -63,6 +68,20 @@ void finish(const QString& problem)
     QCoreApplication::exit(problem.isEmpty() ? exitDone : complain(problem));
 }
 
+/// The page is drawn, and what it had to say then is said; what it does later is its own matter.
+void finishCheck()
+{
+    constexpr int settlingMs = 200;
+    QTimer::singleShot(settlingMs, qApp, [] { QCoreApplication::exit(exitDone); });
+}
+
+int grabbed(int exitCode, const PageLog& log)
+{
+    if (exitCode != exitDone || !log.hasErrors())
+        return exitCode;
+    return complain(qmltool::Texts::tr("The picture was written, but the page reported what is wrong, see above."));
+}
+
 int audit(QQmlEngine* engine, QQuickWindow* window, const Options& options)
 {
     const QStringList complaints = qmltool::auditPage(engine, window, options.screen.dotsPerInch);
@@ -82,6 +101,8 @@ void work(QQmlEngine* engine, QQuickWindow* window, const Surroundings& around, 
 {
     if (around.time)
         QCoreApplication::exit(qmltool::testPage(window, around.desk->player(), around.time.get(), options));
+    else if (options.isCheck)
+        finishCheck();
     else if (options.isAudit)
         QCoreApplication::exit(audit(engine, window, options));
     else
@@ -103,13 +124,22 @@ std::unique_ptr<QQmlEngine> makeEngine(Host& host, PageModules& modules, const O
     return engine;
 }
 
-std::unique_ptr<Page> loadPage(Host& host, PageModules& modules, const Options& options)
+std::unique_ptr<Page> loadOnce(Host& host, PageModules& modules, PageLog* log, const Options& options)
 {
-    auto page = std::make_unique<Page>(makeEngine(host, modules, options), options.page);
+    std::unique_ptr<QQmlEngine> engine = makeEngine(host, modules, options);
+    if (options.isCheck || !options.picture.isEmpty())
+        log->follow(engine.get(), options.isCheck);
+    return std::make_unique<Page>(std::move(engine), options.page);
+}
+
+std::unique_ptr<Page> loadPage(Host& host, PageModules& modules, PageLog* log, const Options& options)
+{
+    std::unique_ptr<Page> page = loadOnce(host, modules, log, options);
     if (!modules.help(page->error()))
         return page;
     page.reset();
-    return std::make_unique<Page>(makeEngine(host, modules, options), options.page);
+    log->clear();
+    return loadOnce(host, modules, log, options);
 }
 
 /// Null, after an error message, when the panel could not be made.
@@ -124,31 +154,57 @@ std::unique_ptr<InspectorPanel> makePanel(Host& host, const Options& options)
     return nullptr;
 }
 
-int show(Host& host, const Surroundings& around, const Options& options)
+/// Whether somebody works with the page, so that it follows its files.
+bool isUsed(const Options& options, const Surroundings& around)
+{
+    return !options.isAudit && !options.isCheck && options.picture.isEmpty() && !around.time;
+}
+
+/// What has to be done before the first window.
+void prepare(const Options& options)
 {
     if (apps::DisplaySetup::isOffScreen())
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
     if (options.isAudit)
         audit::ScreenAudit::prepare();
+}
+
+/// What is told at the end of a page that nobody works with. The page may end the program itself, before it is drawn.
+int ended(int exitCode, const QVector<check::Finding>& before, const PageLog& log, const Options& options)
+{
+    if (options.isCheck)
+        return std::max(exitCode, qmltool::tell(before, log.findings(), options));
+    return options.picture.isEmpty() ? exitCode : grabbed(exitCode, log);
+}
+
+int show(Host& host, const Surroundings& around, const Options& options)
+{
+    prepare(options);
+    const QVector<check::Finding> before = options.isCheck ? qmltool::judgePage(options) : QVector<check::Finding>();
     // It outlives the window that it is shown in.
     const std::unique_ptr<InspectorPanel> panel = options.isInspected ? makePanel(host, options) : nullptr;
     if (options.isInspected && !panel)
         return exitFailed;
+    PageLog log(options.page);
     PageModules modules;
     PageWindow window(options.screen.size);
     if (panel)
         window.setPanel(panel->item());
-    const bool isUsed = !options.isAudit && options.picture.isEmpty() && !around.time;
     std::optional<PageReload> reload;
     // Before the page is read, so that no change is missed.
-    if (isUsed)
+    if (isUsed(options, around))
         reload.emplace(&host, &window, options.page, options.importFolders,
-                [&host, &modules, &options] { return loadPage(host, modules, options); });
-    auto page = loadPage(host, modules, options);
+                [&host, &modules, &log, &options] { return loadPage(host, modules, &log, options); });
+    auto page = loadPage(host, modules, &log, options);
+    if (!page->root() && options.isCheck) {
+        log.add(page->errors());
+        log.addProblem(page->errors().isEmpty() ? page->error() : QString());
+        return qmltool::tell(before, log.findings(), options);
+    }
     if (!page->root())
         return complain(page->error());
     window.show(std::move(page));
-    if (!isUsed) {
+    if (!reload) {
         qmltool::whenDrawn(window.window(), [&](const QString& problem) {
             if (problem.isEmpty())
                 work(window.page()->engine(), window.window(), around, options);
@@ -158,7 +214,7 @@ int show(Host& host, const Surroundings& around, const Options& options)
     } else if (around.desk) {
         around.desk->play(options);
     }
-    return QCoreApplication::exec();
+    return ended(QCoreApplication::exec(), before, log, options);
 }
 
 void complainOf(const Translations& translations)
@@ -201,8 +257,8 @@ int main(int argc, char** argv)
     // The library's notes for developers do not concern users, who may enable them by QT_LOGGING_RULES.
     QLoggingCategory::setFilterRules(
             QStringLiteral("default.debug=false\nqt.virtualkeyboard.hunspell=false\nqml.debug=true"));
-    // What a test sees does not depend on anybody's screen.
-    if (!options.moments.isEmpty())
+    // What a test or a check sees does not depend on anybody's screen.
+    if (!options.moments.isEmpty() || options.isCheck)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const apps::DisplaySetup display;
     apps::DisplaySetup::offerScreenKeyboard();

@@ -42,6 +42,8 @@ Options chosen(const QCommandLineParser& parser, const apps::ServiceOptions& ser
     options.language = parser.value(QStringLiteral("language"));
     options.picture = parser.value(QStringLiteral("grab"));
     options.isAudit = parser.isSet(QStringLiteral("audit"));
+    options.isCheck = parser.isSet(QStringLiteral("check"));
+    options.isJson = parser.isSet(QStringLiteral("json"));
     options.isInspected = parser.isSet(QStringLiteral("inspect"));
     return options;
 }
@@ -59,7 +61,9 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption imports({QStringLiteral("I"), QStringLiteral("import")},
             Texts::tr("Look for further QML modules in <folder>; may be given more than once."), Texts::tr("folder"));
     const QCommandLineOption picture(QStringLiteral("grab"),
-            Texts::tr("Write a picture of the page to <file> (PNG) and quit."), Texts::tr("file"));
+            Texts::tr("Write a picture of the page to <file> (PNG) and quit. Exit status 1, with the picture, if the "
+                      "page reported an error."),
+            Texts::tr("file"));
     const QCommandLineOption screen
             = apps::screenOption(Texts::tr("the size of the page, at the density of this screen"));
     const QCommandLineOption audit(QStringLiteral("audit"),
@@ -73,9 +77,15 @@ Options readOptions(const QStringList& arguments)
     const QCommandLineOption inspect(QStringLiteral("inspect"),
             Texts::tr("Show the services and their items beside the page: what they are now, what has changed, and "
                       "what can be done to them by hand."));
+    const QCommandLineOption check(QStringLiteral("check"),
+            Texts::tr("List what is wrong with the page and the files that it uses, and quit: names that no service "
+                      "has, entries that do not suit an item, writes without effect, and what the page reports while "
+                      "it is shown off screen. Exit status 1 if there is an error."));
+    const QCommandLineOption json(QStringLiteral("json"), Texts::tr("With --check: print JSON, for other programs."));
     const QCommandLineOption language = languageOption();
     const ReplayOptions replay;
-    parser.addOptions(services.all() << imports << language << picture << screen << inspect << audit << list);
+    parser.addOptions(
+            services.all() << imports << language << picture << screen << inspect << audit << check << json << list);
     parser.addOptions(replay.all());
 
     const apps::CommandLine line = apps::parse(parser, arguments);
@@ -91,6 +101,11 @@ Options readOptions(const QStringList& arguments)
 
     if (parser.isSet(inspect) && (parser.isSet(audit) || parser.isSet(list)))
         return misused(Texts::tr("--inspect is for a page that is used, not for --audit or --list."));
+    if (parser.isSet(check)
+            && (parser.isSet(audit) || parser.isSet(list) || parser.isSet(inspect) || parser.isSet(picture)))
+        return misused(Texts::tr("--check allows neither --audit, --grab, --inspect nor --list."));
+    if (parser.isSet(json) && !parser.isSet(check))
+        return misused(Texts::tr("--json needs --check."));
 
     Options options = chosen(parser, services);
     if (parser.isSet(screen)) {

@@ -24,6 +24,10 @@ struct Options : apps::CommandLine
     QString picture;
     /// Whether the page is judged instead of used.
     bool isAudit = false;
+    /// Whether the page is checked: its files, then what it says while it is shown off screen.
+    bool isCheck = false;
+    /// Whether findings are printed for programs.
+    bool isJson = false;
     /// Whether the inspector is shown beside the page.
     bool isInspected = false;
     /// The screen to imitate; without a size the page has its own.

@@ -22,6 +22,8 @@ public:
     QQmlEngine* engine() const { return m_engine.get(); }
     /// One line for each mistake, with file, line and column where there is one.
     QString error() const { return m_error; }
+    /// The mistakes in files; empty also if the page is nothing that can be shown.
+    QList<QQmlError> errors() const { return m_component.errors(); }
 
 private:
     const std::unique_ptr<QQmlEngine> m_engine;

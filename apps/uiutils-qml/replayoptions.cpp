@@ -91,8 +91,9 @@ QString ReplayOptions::read(const QCommandLineParser& parser, bool areServicesGi
         return Texts::tr("--grab-at needs numbers of seconds in ascending order, separated by commas.");
     if (!options->moments.isEmpty() && options->moments.constFirst() < options->fromMs)
         return Texts::tr("--grab-at needs moments that --from does not leave out.");
-    if (!options->moments.isEmpty() && (options->isAudit || !options->picture.isEmpty() || options->page.isEmpty()))
-        return Texts::tr("--grab-at needs a page, and neither --grab nor --audit.");
+    const bool isOther = options->isAudit || options->isCheck || !options->picture.isEmpty();
+    if (!options->moments.isEmpty() && (isOther || options->page.isEmpty()))
+        return Texts::tr("--grab-at needs a page, and neither --grab nor --audit nor --check.");
     return QString();
 }
 

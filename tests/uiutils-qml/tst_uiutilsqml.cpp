@@ -2,6 +2,9 @@
 #include "files.h"
 
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLibraryInfo>
 #include <QStandardPaths>
 
@@ -56,6 +59,9 @@ private Q_SLOTS:
         for (const char* speed : {"0", "-1", "nan", "inf", "x"})
             QTest::newRow(qPrintable(QString("speed ") + speed)) << replayed + QStringList {"--speed", speed} << 2 << "--speed needs a number";
         QTest::newRow("inspector of an audit") << QStringList {"--inspect", "--audit", "a.qml"} << 2 << "--inspect is for a page that is used";
+        QTest::newRow("check and picture") << QStringList {"--check", "--grab", "a.png", "a.qml"} << 2 << "--check allows neither";
+        QTest::newRow("findings of nothing") << QStringList {"--json", "a.qml"} << 2 << "--json needs --check";
+        QTest::newRow("moments and a check") << replayed + QStringList {"--grab-at", "1", "--expect", "a", "--check"} << 2 << "nor --check";
         QTest::newRow("no such folder") << QStringList {"--services", "/nowhere", "--list"} << 1 << "/nowhere";
     }
     void commandLines()
@@ -134,6 +140,57 @@ private Q_SLOTS:
         const QImage image(picture);
         QCOMPARE(image.size(), QSize(60, 40));
         QCOMPARE(image.pixelColor(30, 20), QColor(Qt::blue));
+    }
+
+    /// The picture shows what there is; the exit status says that it is not all.
+    void aPictureOfAPageWithErrors()
+    {
+        const QString picture = m_folder.filePath("faulty.png");
+        const QStringList options {"--services", m_services, "--grab", picture};
+        const Outcome wrong = run(QStringList {page("Item { width: 60; height: 40; Text { text: missing.name } }")} + options);
+        QCOMPARE(wrong.exitCode, 1);
+        QVERIFY2(wrong.errors.contains("page.qml:3: ReferenceError: missing is not defined"), qPrintable(wrong.errors));
+        QCOMPARE(QImage(picture).size(), QSize(60, 40));
+        // What a program or the library notes is no error of the page.
+        const Outcome noted = run(QStringList {page("Item { Component.onCompleted: console.error('mine')\n"
+                                                    "Timer { onTriggered: {} } Connections { target: field_cfg_on; onValueChanged: {} } }")} + options);
+        QVERIFY2(noted.exitCode == 0 && noted.errors.contains("deprecated"), qPrintable(noted.errors));
+    }
+
+    void checksAPage_data()
+    {
+        addColumns<QByteArray, int, QStringList>();
+        QTest::newRow("nothing wrong") << QByteArray("Text { text: field_res_loss.valueString }") << 0 << QStringList {};
+        // What the files tell stands instead of what the engine says of the same line.
+        QTest::newRow("before it runs") << QByteArray("Text { text: field_res_lossy.label }") << 1
+                                        << QStringList {":3:14: error: No item has the name field_res_lossy. Did you mean field_res_loss?"};
+        QTest::newRow("while it runs") << QByteArray("Item { id: a; property var none: null\nwidth: height + 1; height: width\nx: none.size }") << 1
+                                       << QStringList {":3:1: error: When the page runs: QML Item: Binding loop detected for property \"width\"",
+                                              ":5: error: When the page runs: TypeError: Cannot read property 'size' of null"};
+        QTest::newRow("not loaded") << QByteArray("Item { colour: 'red' }") << 1
+                                    << QStringList {":3:8: error: When the page runs: Cannot assign to non-existent property \"colour\""};
+        QTest::newRow("no page") << QByteArray("QtObject {}") << 1 << QStringList {": error: The page is neither an item nor a window."};
+        QTest::newRow("ends by itself") << QByteArray("Item { Component.onCompleted: { Qt.quit(); missing() } }") << 1
+                                        << QStringList {":3: error: When the page runs: ReferenceError: missing is not defined"};
+        QTest::newRow("old form") << QByteArray("Connections { target: field_cfg_on; onValueChanged: {} }") << 1
+                                  << QStringList {": error: The page is neither an item nor a window.",
+                                         ":3:1: warning: When the page runs: QML Connections: Implicitly defined onFoo properties in Connections are deprecated. "
+                                         "Use this syntax instead: function onFoo(<arguments>) { ... }"};
+        QTest::newRow("module of a service") << QByteArray("import Instrument.Field 1.0\nText { text: Field.res_loss.label + Field.res_los.label }") << 1
+                                             << QStringList {":4:43: error: The service \"field\" has no item res_los. Did you mean res_loss?"};
+    }
+
+    void checksAPage()
+    {
+        const auto [body, exitCode, expected] = currentRow<QByteArray, int, QStringList>();
+        const QString file = page(body);
+        const QStringList arguments {file, "--services", m_services, "--check"};
+        const Outcome outcome = run(arguments);
+        QCOMPARE(QString(outcome.output).remove(file).split('\n', Qt::SkipEmptyParts), expected);
+        QCOMPARE(outcome.exitCode, exitCode);
+        const QJsonObject told = QJsonDocument::fromJson(run(arguments + QStringList {"--json"}).output).object();
+        QCOMPARE(told["findings"].toArray().size(), expected.size());
+        QCOMPARE(told["errors"].toInt() > 0, exitCode == 1);
     }
 
     /// The time of the page is that of the recording, whenever the machine gets to it: animations and timers too.

@@ -1,0 +1,8 @@
+.pragma library
+
+function note() {
+    return services.optical.start()
+}
+
+function broken( {
+}

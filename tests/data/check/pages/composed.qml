@@ -1,0 +1,5 @@
+import QtQuick 2.15
+
+Column {
+    ComposedPart { item: optical_res_loss }
+}
