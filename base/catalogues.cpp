@@ -40,6 +40,15 @@ constexpr qint64 largestCatalogue = 64 * 1024 * 1024;
 class HeldTranslator : public QTranslator
 {
 public:
+    HeldTranslator() = default;
+    /// Other threads request texts too: the catalogue goes after nobody can find it.
+    ~HeldTranslator() override
+    {
+        if (QCoreApplication::instance())
+            QCoreApplication::removeTranslator(this);
+    }
+    Q_DISABLE_COPY_MOVE(HeldTranslator)
+
     bool read(const QString& file)
     {
         QFile source(file);

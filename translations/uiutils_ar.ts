@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>Changes</name>
-    <message>
-        <source>%1 %2</source>
-        <translation>‏%1 %2</translation>
-    </message>
-</context>
-<context>
     <name>CommandLine</name>
     <message>
         <source>The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. Name another folder.</source>
@@ -1858,6 +1851,60 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
 </context>
 <context>
+    <name>PendingChangeRow</name>
+    <message>
+        <source>Changed meanwhile</source>
+        <translation>تغيّر في هذه الأثناء</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>الآن: %1</translation>
+    </message>
+    <message>
+        <source>You have set: %1</source>
+        <translation>القيمة التي ضبطتها: %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>تجاهل</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>Dismiss %1</source>
+        <translation>تجاهل %1</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>التراجع عن %1</translation>
+    </message>
+    <message>
+        <source>Set again</source>
+        <translation>ضبط مجددًا</translation>
+    </message>
+    <message>
+        <source>Set %1 again</source>
+        <translation>ضبط %1 مجددًا</translation>
+    </message>
+</context>
+<context>
+    <name>PendingChangesView</name>
+    <message>
+        <source>Nothing waits</source>
+        <translation>لا شيء قيد الانتظار</translation>
+    </message>
+    <message>
+        <source>Settings that you change are listed here until they are applied.</source>
+        <translation>تظهر هنا الإعدادات التي تغيّرها إلى أن تُطبَّق.</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>التغييرات قيد الانتظار</translation>
+    </message>
+</context>
+<context>
     <name>PeoplePage</name>
     <message>
         <source>People</source>
@@ -2513,10 +2560,6 @@ Folder: %2</source>
         <source>Apply</source>
         <translation>تطبيق</translation>
     </message>
-    <message>
-        <source>%1 → %2</source>
-        <translation>‏⁨%1⁩ ← ⁨%2⁩</translation>
-    </message>
 </context>
 <context>
     <name>RunPage</name>
@@ -2738,6 +2781,10 @@ Folder: %2</source>
         <source>The service %1 was withdrawn before it could answer.</source>
         <translation>سُحبت الخدمة %1 قبل أن تتمكن من الإجابة.</translation>
     </message>
+    <message>
+        <source>The service %1 answered something that the interface does not know.</source>
+        <translation>أجابت الخدمة %1 بما لا تعرفه الواجهة.</translation>
+    </message>
 </context>
 <context>
     <name>ServiceCard</name>
@@ -2807,6 +2854,10 @@ Folder: %2</source>
     <message>
         <source>Nothing is changed yet.</source>
         <translation>لم يتغير شيء بعد.</translation>
+    </message>
+    <message>
+        <source>Pending changes</source>
+        <translation>التغييرات قيد الانتظار</translation>
     </message>
 </context>
 <context>
@@ -3686,6 +3737,17 @@ Folder: %2</source>
         <source>Run</source>
         <translation>القياس</translation>
     </message>
+    <message numerus="yes">
+        <source>%n settings were changed meanwhile.</source>
+        <translation>
+            <numerusform>لم يتغيّر أي إعداد (%n).</numerusform>
+            <numerusform>تغيّر إعداد واحد في هذه الأثناء (%n).</numerusform>
+            <numerusform>تغيّر إعدادان في هذه الأثناء (%n).</numerusform>
+            <numerusform>تغيّرت %n إعدادات في هذه الأثناء.</numerusform>
+            <numerusform>تغيّر %n إعدادًا في هذه الأثناء.</numerusform>
+            <numerusform>تغيّر %n إعداد في هذه الأثناء.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Sheet</name>
@@ -4150,6 +4212,17 @@ Folder: %2</source>
     <message>
         <source>At least %1 characters; this text has %2</source>
         <translation>‏%1 محرفًا على الأقل؛ في هذا النص %2</translation>
+    </message>
+</context>
+<context>
+    <name>uiutils::PendingChanges</name>
+    <message>
+        <source>The service %1 cannot be reached. The change waits until it returns.</source>
+        <translation>تعذّر الوصول إلى الخدمة %1. ينتظر التغيير عودتها.</translation>
+    </message>
+    <message>
+        <source>The entry was rejected.</source>
+        <translation>رُفض الإدخال.</translation>
     </message>
 </context>
 <context>

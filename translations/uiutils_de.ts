@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>Changes</name>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
-    </message>
-</context>
-<context>
     <name>CommandLine</name>
     <message>
         <source>The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. Name another folder.</source>
@@ -1838,6 +1831,60 @@ Exit-Status: 0 fertig, 1 die Datei konnte nicht gezeigt werden, 2 falsche Befehl
     </message>
 </context>
 <context>
+    <name>PendingChangeRow</name>
+    <message>
+        <source>Changed meanwhile</source>
+        <translation>Inzwischen geändert</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Jetzt: %1</translation>
+    </message>
+    <message>
+        <source>You have set: %1</source>
+        <translation>Sie haben eingestellt: %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Dismiss %1</source>
+        <translation>%1 verwerfen</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>%1 rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Set again</source>
+        <translation>Erneut setzen</translation>
+    </message>
+    <message>
+        <source>Set %1 again</source>
+        <translation>%1 erneut setzen</translation>
+    </message>
+</context>
+<context>
+    <name>PendingChangesView</name>
+    <message>
+        <source>Nothing waits</source>
+        <translation>Nichts steht aus</translation>
+    </message>
+    <message>
+        <source>Settings that you change are listed here until they are applied.</source>
+        <translation>Einstellungen, die Sie ändern, stehen hier, bis sie angewendet sind.</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Ausstehende Änderungen</translation>
+    </message>
+</context>
+<context>
     <name>PeoplePage</name>
     <message>
         <source>People</source>
@@ -2489,10 +2536,6 @@ Ordner: %2</translation>
         <source>Apply</source>
         <translation>Übernehmen</translation>
     </message>
-    <message>
-        <source>%1 → %2</source>
-        <translation>%1 → %2</translation>
-    </message>
 </context>
 <context>
     <name>RunPage</name>
@@ -2714,6 +2757,10 @@ Ordner: %2</translation>
         <source>The service %1 was withdrawn before it could answer.</source>
         <translation>Der Dienst %1 wurde zurückgezogen, bevor er antworten konnte.</translation>
     </message>
+    <message>
+        <source>The service %1 answered something that the interface does not know.</source>
+        <translation>Der Dienst %1 hat etwas geantwortet, das die Schnittstelle nicht kennt.</translation>
+    </message>
 </context>
 <context>
     <name>ServiceCard</name>
@@ -2779,6 +2826,10 @@ Ordner: %2</translation>
     <message>
         <source>Nothing is changed yet.</source>
         <translation>Noch ist nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Pending changes</source>
+        <translation>Ausstehende Änderungen</translation>
     </message>
 </context>
 <context>
@@ -3654,6 +3705,13 @@ Ordner: %2</translation>
         <source>Run</source>
         <translation>Messung</translation>
     </message>
+    <message numerus="yes">
+        <source>%n settings were changed meanwhile.</source>
+        <translation>
+            <numerusform>%n Einstellung wurde inzwischen geändert.</numerusform>
+            <numerusform>%n Einstellungen wurden inzwischen geändert.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Sheet</name>
@@ -4118,6 +4176,17 @@ Ordner: %2</translation>
     <message>
         <source>At least %1 characters; this text has %2</source>
         <translation>Mindestens %1 Zeichen; dieser Text hat %2</translation>
+    </message>
+</context>
+<context>
+    <name>uiutils::PendingChanges</name>
+    <message>
+        <source>The service %1 cannot be reached. The change waits until it returns.</source>
+        <translation>Der Dienst %1 ist nicht erreichbar. Die Änderung wartet, bis er zurückkehrt.</translation>
+    </message>
+    <message>
+        <source>The entry was rejected.</source>
+        <translation>Die Eingabe wurde abgelehnt.</translation>
     </message>
 </context>
 <context>

@@ -74,5 +74,12 @@
             <numerusform>%n changes are not applied yet.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n settings were changed meanwhile.</source>
+        <translation>
+            <numerusform>%n setting was changed meanwhile.</numerusform>
+            <numerusform>%n settings were changed meanwhile.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

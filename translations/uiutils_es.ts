@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>Changes</name>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
-    </message>
-</context>
-<context>
     <name>CommandLine</name>
     <message>
         <source>The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. Name another folder.</source>
@@ -1838,6 +1831,60 @@ Código de salida: 0 hecho, 1 no se pudo mostrar el archivo, 2 línea de órdene
     </message>
 </context>
 <context>
+    <name>PendingChangeRow</name>
+    <message>
+        <source>Changed meanwhile</source>
+        <translation>Cambiado entretanto</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Ahora: %1</translation>
+    </message>
+    <message>
+        <source>You have set: %1</source>
+        <translation>Ha ajustado: %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Revertir</translation>
+    </message>
+    <message>
+        <source>Dismiss %1</source>
+        <translation>Descartar %1</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>Revertir %1</translation>
+    </message>
+    <message>
+        <source>Set again</source>
+        <translation>Ajustar de nuevo</translation>
+    </message>
+    <message>
+        <source>Set %1 again</source>
+        <translation>Ajustar %1 de nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>PendingChangesView</name>
+    <message>
+        <source>Nothing waits</source>
+        <translation>No hay nada pendiente</translation>
+    </message>
+    <message>
+        <source>Settings that you change are listed here until they are applied.</source>
+        <translation>Los ajustes que cambie aparecen aquí hasta que se apliquen.</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Cambios pendientes</translation>
+    </message>
+</context>
+<context>
     <name>PeoplePage</name>
     <message>
         <source>People</source>
@@ -2489,10 +2536,6 @@ Carpeta: %2</translation>
         <source>Apply</source>
         <translation>Aplicar</translation>
     </message>
-    <message>
-        <source>%1 → %2</source>
-        <translation>%1 → %2</translation>
-    </message>
 </context>
 <context>
     <name>RunPage</name>
@@ -2714,6 +2757,10 @@ Carpeta: %2</translation>
         <source>The service %1 was withdrawn before it could answer.</source>
         <translation>El servicio %1 se retiró antes de poder responder.</translation>
     </message>
+    <message>
+        <source>The service %1 answered something that the interface does not know.</source>
+        <translation>El servicio %1 ha respondido algo que la interfaz no conoce.</translation>
+    </message>
 </context>
 <context>
     <name>ServiceCard</name>
@@ -2779,6 +2826,10 @@ Carpeta: %2</translation>
     <message>
         <source>Nothing is changed yet.</source>
         <translation>Aún no ha cambiado nada.</translation>
+    </message>
+    <message>
+        <source>Pending changes</source>
+        <translation>Cambios pendientes</translation>
     </message>
 </context>
 <context>
@@ -3654,6 +3705,13 @@ Carpeta: %2</translation>
         <source>Run</source>
         <translation>Medición</translation>
     </message>
+    <message numerus="yes">
+        <source>%n settings were changed meanwhile.</source>
+        <translation>
+            <numerusform>%n ajuste ha cambiado entretanto.</numerusform>
+            <numerusform>%n ajustes han cambiado entretanto.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Sheet</name>
@@ -4118,6 +4176,17 @@ Carpeta: %2</translation>
     <message>
         <source>At least %1 characters; this text has %2</source>
         <translation>Mínimo %1 caracteres; este texto tiene %2</translation>
+    </message>
+</context>
+<context>
+    <name>uiutils::PendingChanges</name>
+    <message>
+        <source>The service %1 cannot be reached. The change waits until it returns.</source>
+        <translation>No se puede acceder al servicio %1. El cambio espera a que vuelva.</translation>
+    </message>
+    <message>
+        <source>The entry was rejected.</source>
+        <translation>Se ha rechazado la entrada.</translation>
     </message>
 </context>
 <context>

@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>Changes</name>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
-    </message>
-</context>
-<context>
     <name>CommandLine</name>
     <message>
         <source>The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. Name another folder.</source>
@@ -59,11 +52,11 @@
     </message>
     <message>
         <source>--from needs a number of seconds.</source>
-        <translation>--from demande un nombre de secondes.</translation>
+        <translation>--from exige un nombre de secondes.</translation>
     </message>
     <message>
         <source>--speed needs a number from 0.001 to 1000000.</source>
-        <translation>--speed demande un nombre de 0.001 à 1000000.</translation>
+        <translation>--speed exige un nombre de 0.001 à 1000000.</translation>
     </message>
 </context>
 <context>
@@ -1838,6 +1831,60 @@ Code de sortie&#xa0;: 0 terminé, 1 le fichier n’a pas pu être affiché, 2 li
     </message>
 </context>
 <context>
+    <name>PendingChangeRow</name>
+    <message>
+        <source>Changed meanwhile</source>
+        <translation>Modifié entre-temps</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Maintenant : %1</translation>
+    </message>
+    <message>
+        <source>You have set: %1</source>
+        <translation>Vous avez réglé : %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ignorer</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Dismiss %1</source>
+        <translation>Ignorer %1</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>Annuler %1</translation>
+    </message>
+    <message>
+        <source>Set again</source>
+        <translation>Régler à nouveau</translation>
+    </message>
+    <message>
+        <source>Set %1 again</source>
+        <translation>Régler %1 à nouveau</translation>
+    </message>
+</context>
+<context>
+    <name>PendingChangesView</name>
+    <message>
+        <source>Nothing waits</source>
+        <translation>Rien n’est en attente</translation>
+    </message>
+    <message>
+        <source>Settings that you change are listed here until they are applied.</source>
+        <translation>Les réglages que vous modifiez figurent ici jusqu’à leur application.</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Modifications en attente</translation>
+    </message>
+</context>
+<context>
     <name>PeoplePage</name>
     <message>
         <source>People</source>
@@ -2489,10 +2536,6 @@ Dossier&#xa0;: %2</translation>
         <source>Apply</source>
         <translation>Appliquer</translation>
     </message>
-    <message>
-        <source>%1 → %2</source>
-        <translation>%1 → %2</translation>
-    </message>
 </context>
 <context>
     <name>RunPage</name>
@@ -2714,6 +2757,10 @@ Dossier&#xa0;: %2</translation>
         <source>The service %1 was withdrawn before it could answer.</source>
         <translation>Le service %1 a été retiré avant de pouvoir répondre.</translation>
     </message>
+    <message>
+        <source>The service %1 answered something that the interface does not know.</source>
+        <translation>Le service %1 a répondu quelque chose que l’interface ne connaît pas.</translation>
+    </message>
 </context>
 <context>
     <name>ServiceCard</name>
@@ -2779,6 +2826,10 @@ Dossier&#xa0;: %2</translation>
     <message>
         <source>Nothing is changed yet.</source>
         <translation>Rien n’est encore modifié.</translation>
+    </message>
+    <message>
+        <source>Pending changes</source>
+        <translation>Modifications en attente</translation>
     </message>
 </context>
 <context>
@@ -3654,6 +3705,13 @@ Dossier&#xa0;: %2</translation>
         <source>Run</source>
         <translation>Mesure</translation>
     </message>
+    <message numerus="yes">
+        <source>%n settings were changed meanwhile.</source>
+        <translation>
+            <numerusform>%n réglage a été modifié entre-temps.</numerusform>
+            <numerusform>%n réglages ont été modifiés entre-temps.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Sheet</name>
@@ -4118,6 +4176,17 @@ Dossier&#xa0;: %2</translation>
     <message>
         <source>At least %1 characters; this text has %2</source>
         <translation>%1 caractères au moins&#xa0;; ce texte en a %2</translation>
+    </message>
+</context>
+<context>
+    <name>uiutils::PendingChanges</name>
+    <message>
+        <source>The service %1 cannot be reached. The change waits until it returns.</source>
+        <translation>Le service %1 est injoignable. La modification attend son retour.</translation>
+    </message>
+    <message>
+        <source>The entry was rejected.</source>
+        <translation>La saisie a été refusée.</translation>
     </message>
 </context>
 <context>

@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>Changes</name>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
-    </message>
-</context>
-<context>
     <name>CommandLine</name>
     <message>
         <source>The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. Name another folder.</source>
@@ -1833,6 +1826,60 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
 </context>
 <context>
+    <name>PendingChangeRow</name>
+    <message>
+        <source>Changed meanwhile</source>
+        <translation>その間に変更されました</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>現在: %1</translation>
+    </message>
+    <message>
+        <source>You have set: %1</source>
+        <translation>設定した値: %1</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Dismiss %1</source>
+        <translation>%1 を閉じる</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>%1 を元に戻す</translation>
+    </message>
+    <message>
+        <source>Set again</source>
+        <translation>再設定</translation>
+    </message>
+    <message>
+        <source>Set %1 again</source>
+        <translation>%1 を再設定</translation>
+    </message>
+</context>
+<context>
+    <name>PendingChangesView</name>
+    <message>
+        <source>Nothing waits</source>
+        <translation>保留中の変更はありません</translation>
+    </message>
+    <message>
+        <source>Settings that you change are listed here until they are applied.</source>
+        <translation>変更した設定は、適用されるまでここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>保留中の変更</translation>
+    </message>
+</context>
+<context>
     <name>PeoplePage</name>
     <message>
         <source>People</source>
@@ -2483,10 +2530,6 @@ Folder: %2</source>
         <source>Apply</source>
         <translation>適用</translation>
     </message>
-    <message>
-        <source>%1 → %2</source>
-        <translation>%1 → %2</translation>
-    </message>
 </context>
 <context>
     <name>RunPage</name>
@@ -2708,6 +2751,10 @@ Folder: %2</source>
         <source>The service %1 was withdrawn before it could answer.</source>
         <translation>サービス %1 は応答する前に取り下げられました。</translation>
     </message>
+    <message>
+        <source>The service %1 answered something that the interface does not know.</source>
+        <translation>サービス %1 が、インターフェイスにない応答を返しました。</translation>
+    </message>
 </context>
 <context>
     <name>ServiceCard</name>
@@ -2772,6 +2819,10 @@ Folder: %2</source>
     <message>
         <source>Nothing is changed yet.</source>
         <translation>まだ何も変更されていません。</translation>
+    </message>
+    <message>
+        <source>Pending changes</source>
+        <translation>保留中の変更</translation>
     </message>
 </context>
 <context>
@@ -3646,6 +3697,12 @@ Folder: %2</source>
         <source>Run</source>
         <translation>測定</translation>
     </message>
+    <message numerus="yes">
+        <source>%n settings were changed meanwhile.</source>
+        <translation>
+            <numerusform>その間に %n 件の設定が変更されました。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Sheet</name>
@@ -4110,6 +4167,17 @@ Folder: %2</source>
     <message>
         <source>At least %1 characters; this text has %2</source>
         <translation>最小 %1 文字です。このテキストは %2 文字です</translation>
+    </message>
+</context>
+<context>
+    <name>uiutils::PendingChanges</name>
+    <message>
+        <source>The service %1 cannot be reached. The change waits until it returns.</source>
+        <translation>サービス %1 に接続できません。変更は、サービスが復帰するまで保留されます。</translation>
+    </message>
+    <message>
+        <source>The entry was rejected.</source>
+        <translation>入力は拒否されました。</translation>
     </message>
 </context>
 <context>

@@ -13,13 +13,6 @@
     </message>
 </context>
 <context>
-    <name>Changes</name>
-    <message>
-        <source>%1 %2</source>
-        <translation>%1 %2</translation>
-    </message>
-</context>
-<context>
     <name>CommandLine</name>
     <message>
         <source>The name of the folder %1, given by --root or UIUTILS_ROOT, is not written in the encoding of file names. Name another folder.</source>
@@ -1838,6 +1831,60 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
     </message>
 </context>
 <context>
+    <name>PendingChangeRow</name>
+    <message>
+        <source>Changed meanwhile</source>
+        <translation>[Çĥåñĝéđ méåñŵĥîļé ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>[Ñöŵ: %1 ~]</translation>
+    </message>
+    <message>
+        <source>You have set: %1</source>
+        <translation>[Ýöû ĥåvé šéţ: %1 ~ ~]</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>[Ðîšmîšš ~]</translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>[Ŕévéŕţ ~]</translation>
+    </message>
+    <message>
+        <source>Dismiss %1</source>
+        <translation>[Ðîšmîšš %1 ~]</translation>
+    </message>
+    <message>
+        <source>Revert %1</source>
+        <translation>[Ŕévéŕţ %1 ~]</translation>
+    </message>
+    <message>
+        <source>Set again</source>
+        <translation>[Šéţ åĝåîñ ~]</translation>
+    </message>
+    <message>
+        <source>Set %1 again</source>
+        <translation>[Šéţ %1 åĝåîñ ~ ~]</translation>
+    </message>
+</context>
+<context>
+    <name>PendingChangesView</name>
+    <message>
+        <source>Nothing waits</source>
+        <translation>[Ñöţĥîñĝ ŵåîţš ~ ~]</translation>
+    </message>
+    <message>
+        <source>Settings that you change are listed here until they are applied.</source>
+        <translation>[Šéţţîñĝš ţĥåţ ýöû çĥåñĝé åŕé ļîšţéđ ĥéŕé ûñţîļ ţĥéý åŕé åppļîéđ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>[Çĥåñĝéš ţĥåţ ŵåîţ ~ ~ ~]</translation>
+    </message>
+</context>
+<context>
     <name>PeoplePage</name>
     <message>
         <source>People</source>
@@ -2489,10 +2536,6 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>Apply</source>
         <translation>[Åppļý ~]</translation>
     </message>
-    <message>
-        <source>%1 → %2</source>
-        <translation>%1 → %2</translation>
-    </message>
 </context>
 <context>
     <name>RunPage</name>
@@ -2714,6 +2757,10 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>The service %1 was withdrawn before it could answer.</source>
         <translation>[Ţĥé šéŕvîçé %1 ŵåš ŵîţĥđŕåŵñ béföŕé îţ çöûļđ åñšŵéŕ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>The service %1 answered something that the interface does not know.</source>
+        <translation>[Ţĥé šéŕvîçé %1 åñšŵéŕéđ šöméţĥîñĝ ţĥåţ ţĥé îñţéŕfåçé đöéš ñöţ ķñöŵ. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>ServiceCard</name>
@@ -2779,6 +2826,10 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
     <message>
         <source>Nothing is changed yet.</source>
         <translation>[Ñöţĥîñĝ îš çĥåñĝéđ ýéţ. ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Pending changes</source>
+        <translation>[Péñđîñĝ çĥåñĝéš ~ ~]</translation>
     </message>
 </context>
 <context>
@@ -3654,6 +3705,13 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>Run</source>
         <translation>[Ŕûñ ~]</translation>
     </message>
+    <message numerus="yes">
+        <source>%n settings were changed meanwhile.</source>
+        <translation>
+            <numerusform>[%n šéţţîñĝš ŵéŕé çĥåñĝéđ méåñŵĥîļé. ~ ~ ~ ~ ~ ~]</numerusform>
+            <numerusform>[%n šéţţîñĝš ŵéŕé çĥåñĝéđ méåñŵĥîļé. ~ ~ ~ ~ ~ ~]</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Sheet</name>
@@ -4118,6 +4176,17 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
     <message>
         <source>At least %1 characters; this text has %2</source>
         <translation>[Åţ ļéåšţ %1 çĥåŕåçţéŕš; ţĥîš ţéxţ ĥåš %2 ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+</context>
+<context>
+    <name>uiutils::PendingChanges</name>
+    <message>
+        <source>The service %1 cannot be reached. The change waits until it returns.</source>
+        <translation>[Ţĥé šéŕvîçé %1 çåññöţ bé ŕéåçĥéđ. Ţĥé çĥåñĝé ŵåîţš ûñţîļ îţ ŕéţûŕñš. ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>The entry was rejected.</source>
+        <translation>[Ţĥé éñţŕý ŵåš ŕéĵéçţéđ. ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,6 @@
 #include "check/applicabilitycheck.h"
 
-#include "check/schemawords.h"
+#include "check/jsonwords.h"
 
 #include "service/applicability_p.h"
 

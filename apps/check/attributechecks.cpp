@@ -1,6 +1,6 @@
 #include "check/attributechecks.h"
 
-#include "check/schemawords.h"
+#include "check/jsonwords.h"
 
 #include "embedded/itemtypes_p.h"
 #include "formatters/formatters_p.h"

@@ -23,8 +23,9 @@ public:
     void error(const JsonNode& node, const QString& message) { error(node.offset, message); }
     void warn(int offset, const QString& message) { add(Finding::Warning, offset, message); }
     void warn(const JsonNode& node, const QString& message) { warn(node.offset, message); }
-    /// Of the file as a whole.
+    // Of the file as a whole.
     void errorOfFile(const QString& message) { add(Finding::Error, -1, message); }
+    void warnOfFile(const QString& message) { add(Finding::Warning, -1, message); }
 
     bool hasErrors() const { return m_errors > 0; }
     /// Whether an error was found between two places.

@@ -1,7 +1,7 @@
 #include "check/itemchecks.h"
 
 #include "check/attributechecks.h"
-#include "check/schemawords.h"
+#include "check/jsonwords.h"
 #include "check/valuewords.h"
 
 #include "embedded/descriptioncheck_p.h"

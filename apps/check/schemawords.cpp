@@ -1,7 +1,6 @@
 #include "check/schemawords.h"
 
-#include "check/wording.h"
-#include "common/nearest.h"
+#include "check/jsonwords.h"
 
 #include <QHash>
 #include <QRegularExpression>
@@ -85,6 +84,42 @@ QString inQuotes(const QStringList& words)
     return list.join(QLatin1String(", "));
 }
 
+/// How messages call a value. Words are made when something is wrong, which is rare.
+struct Name
+{
+    /// A key, or what stands for one.
+    QString text;
+    bool isKey = true;
+    /// From 1, of an element of the list that is called so.
+    int element = 0;
+
+    QString words() const
+    {
+        const QString name = isKey ? quoted(text) : text;
+        return element > 0 ? QStringLiteral("Element %1 of %2").arg(QString::number(element), name) : name;
+    }
+};
+
+/// The value beside it with which a rule holds; null where it always does.
+struct Condition
+{
+    const JsonNode* value = nullptr;
+
+    QString words() const
+    {
+        return value ? QStringLiteral(" where %1 is %2").arg(quoted(value->key), asWritten(*value)) : QString();
+    }
+};
+
+/// Whether the value is the one, or one of those, that a condition names.
+bool isNamed(const JsonNode& rule, const JsonNode& value)
+{
+    const JsonNode* only = rule.member("const");
+    const JsonNode* any = rule.member("enum");
+    const auto isIt = [&value](const JsonNode& one) { return isSame(one, value); };
+    return only ? isIt(*only) : any && std::any_of(any->children.cbegin(), any->children.cend(), isIt);
+}
+
 /// Walks schema and document together.
 class Walk
 {
@@ -94,8 +129,7 @@ public:
     {
     }
 
-    /// `name` is how the value is called, `condition` when the rule holds: " where "type" is "int"".
-    void check(const JsonNode& rule, const JsonNode& value, const QString& name, const QString& condition);
+    void check(const JsonNode& rule, const JsonNode& value, const Name& name, const Condition& condition);
     QVector<Violation> take() { return m_violations; }
 
 private:
@@ -103,13 +137,14 @@ private:
     void checkEnum(const JsonNode& allowed, const JsonNode& value);
     void checkNumber(const JsonNode& rule, const JsonNode& value);
     void checkText(const JsonNode& rule, const JsonNode& value);
+    bool hasForm(const QString& text, const JsonNode& pattern);
     void checkSize(const JsonNode& rule, const JsonNode& value);
-    void checkList(const JsonNode& rule, const JsonNode& value, const QString& condition);
-    void checkObject(const JsonNode& rule, const JsonNode& value, const QString& condition);
+    void checkList(const JsonNode& rule, const JsonNode& value, const Condition& condition);
+    void checkObject(const JsonNode& rule, const JsonNode& value, const Condition& condition);
     void checkKeys(const JsonNode& rule, const JsonNode& value);
     void checkDependencies(const JsonNode& dependencies, const JsonNode& value);
-    void checkCondition(const JsonNode& rule, const JsonNode& value, const QString& name);
-    void checkOneOf(const JsonNode& branches, const JsonNode& value, const QString& name, const QString& condition);
+    void checkCondition(const JsonNode& rule, const JsonNode& value, const Name& name);
+    void checkOneOf(const JsonNode& branches, const JsonNode& value, const Name& name, const Condition& condition);
     void checkNot(const JsonNode& rule, const JsonNode& value);
     const JsonNode& resolved(const JsonNode& rule) const;
     QString placeFor(const QString& key, const JsonNode& properties) const;
@@ -118,9 +153,11 @@ private:
 
     const JsonNode& m_root;
     /// Of the value that is looked at.
-    QString m_name;
-    QString m_condition;
+    Name m_name;
+    Condition m_condition;
     QString m_meaning;
+    /// By the rule that has them.
+    QHash<const JsonNode*, QRegularExpression> m_forms;
     QVector<Violation> m_violations;
 };
 
@@ -139,10 +176,11 @@ void Walk::mustBe(const JsonNode& value, const QString& what)
 {
     const QString meaning = m_meaning.isEmpty() ? QString() : QStringLiteral(" Meaning: ") + m_meaning;
     tell(value.offset,
-            QStringLiteral("%1 must %2%3, but is %4.").arg(m_name, what, m_condition, shownValue(value)) + meaning);
+            QStringLiteral("%1 must %2%3, but is %4.").arg(m_name.words(), what, m_condition.words(), shownValue(value))
+                    + meaning);
 }
 
-void Walk::check(const JsonNode& written, const JsonNode& value, const QString& name, const QString& condition)
+void Walk::check(const JsonNode& written, const JsonNode& value, const Name& name, const Condition& condition)
 {
     const JsonNode& rule = resolved(written);
     m_name = name;
@@ -228,54 +266,63 @@ void Walk::checkNumber(const JsonNode& rule, const JsonNode& value)
         mustBe(value, QStringLiteral("be greater than ") + shownNumber(above->number));
 }
 
+bool Walk::hasForm(const QString& text, const JsonNode& pattern)
+{
+    auto form = m_forms.find(&pattern);
+    if (form == m_forms.end())
+        form = m_forms.insert(&pattern, QRegularExpression(pattern.text));
+    return form->match(text).hasMatch();
+}
+
 void Walk::checkText(const JsonNode& rule, const JsonNode& value)
 {
     if (!value.isText())
         return;
-    const int length = value.text.toUcs4().size();
     const JsonNode* least = rule.member("minLength");
     const JsonNode* most = rule.member("maxLength");
     const JsonNode* pattern = rule.member("pattern");
+    const int length = least || most ? value.text.toUcs4().size() : 0;
     if (least && length < least->number)
-        tell(value.offset, m_name + QStringLiteral(" must not be empty."));
+        tell(value.offset, m_name.words() + QStringLiteral(" must not be empty."));
     if (most && length > most->number)
         tell(value.offset,
                 QStringLiteral("%1 must have at most %2 characters, but has %3.")
-                        .arg(m_name, shownNumber(most->number), QString::number(length)));
-    if (pattern && !QRegularExpression(pattern->text).match(value.text).hasMatch())
+                        .arg(m_name.words(), shownNumber(most->number), QString::number(length)));
+    if (pattern && !hasForm(value.text, *pattern))
         mustBe(value, patternWords(pattern->text));
 }
 
 void Walk::checkSize(const JsonNode& rule, const JsonNode& value)
 {
-    const QString size = QString::number(value.children.size());
     const JsonNode* least = rule.member(value.isList() ? "minItems" : "minProperties");
     const JsonNode* most = rule.member("maxItems");
     if (least && (value.isList() || value.isObject()) && double(value.children.size()) < least->number)
         tell(value.offset,
                 QStringLiteral("%1 is empty%2: write something into it, or remove it.")
-                        .arg(m_name,
+                        .arg(m_name.words(),
                                 value.isObject() ? QStringLiteral(" (it may have %1)")
                                                            .arg(inQuotes(keysOf(rule.member("properties"))))
                                                  : QString()));
     if (most && value.isList() && double(value.children.size()) > most->number)
         tell(value.offset,
                 QStringLiteral("%1 must have at most %2 elements, but has %3.")
-                        .arg(m_name, shownNumber(most->number), size));
+                        .arg(m_name.words(), shownNumber(most->number), QString::number(value.children.size())));
 }
 
-void Walk::checkList(const JsonNode& rule, const JsonNode& value, const QString& condition)
+void Walk::checkList(const JsonNode& rule, const JsonNode& value, const Condition& condition)
 {
     const JsonNode* elements = rule.member("items");
     if (!elements || !value.isList())
         return;
-    const QString list = m_name;
-    int number = 0;
-    for (const JsonNode& element : value.children)
-        check(*elements, element, QStringLiteral("Element %1 of %2").arg(QString::number(++number), list), condition);
+    Name name = m_name;
+    name.element = 0;
+    for (const JsonNode& element : value.children) {
+        ++name.element;
+        check(*elements, element, name, condition);
+    }
 }
 
-void Walk::checkObject(const JsonNode& rule, const JsonNode& value, const QString& condition)
+void Walk::checkObject(const JsonNode& rule, const JsonNode& value, const Condition& condition)
 {
     if (!value.isObject())
         return;
@@ -289,7 +336,7 @@ void Walk::checkObject(const JsonNode& rule, const JsonNode& value, const QStrin
     for (const JsonNode& property : properties->children) {
         // Of several with one key the last one counts.
         if (const JsonNode* member = value.member(property.key))
-            check(property, *member, quoted(property.key), condition);
+            check(property, *member, {property.key}, condition);
     }
     m_meaning = meaning;
 }
@@ -320,7 +367,7 @@ void Walk::checkKeys(const JsonNode& rule, const JsonNode& value)
             const JsonNode* property = properties ? properties->member(key.text) : nullptr;
             const QString meaning = property ? property->textOf("description") : QString();
             tell(value.offset,
-                    QStringLiteral("The key %1 is missing in this object%2.").arg(quoted(key.text), m_condition)
+                    QStringLiteral("The key %1 is missing in this object%2.").arg(quoted(key.text), m_condition.words())
                             + (meaning.isEmpty() ? QString() : QStringLiteral(" Meaning: ") + meaning));
         }
     }
@@ -354,28 +401,24 @@ void Walk::checkDependencies(const JsonNode& dependencies, const JsonNode& value
 }
 
 /// The conditions are about values that the schema requires: without them that is told, and nothing else.
-void Walk::checkCondition(const JsonNode& rule, const JsonNode& value, const QString& name)
+void Walk::checkCondition(const JsonNode& rule, const JsonNode& value, const Name& name)
 {
     const JsonNode* condition = rule.member("if");
     const JsonNode* then = rule.member("then");
     const JsonNode* properties = condition ? condition->member("properties") : nullptr;
     if (!properties || !then || !value.isObject())
         return;
-    QStringList when;
+    Condition when;
     for (const JsonNode& property : properties->children) {
-        const JsonNode* member = value.member(property.key);
-        Walk part(m_root);
-        if (member)
-            part.check(property, *member, QString(), QString());
-        if (!member || !part.m_violations.isEmpty())
+        when.value = value.member(property.key);
+        if (!when.value || !isNamed(property, *when.value))
             return;
-        when += quoted(property.key) + QLatin1String(" is ") + asWritten(*member);
     }
-    check(*then, value, name, QStringLiteral(" where ") + when.join(QLatin1String(" and ")));
+    check(*then, value, name, when);
 }
 
 /// The branch is that of the value's kind.
-void Walk::checkOneOf(const JsonNode& branches, const JsonNode& value, const QString& name, const QString& condition)
+void Walk::checkOneOf(const JsonNode& branches, const JsonNode& value, const Name& name, const Condition& condition)
 {
     QStringList kinds;
     for (const JsonNode& branch : branches.children) {
@@ -395,105 +438,16 @@ void Walk::checkNot(const JsonNode& rule, const JsonNode& value)
     for (const JsonNode& key : required->children) {
         if (const JsonNode* member = value.member(key.text))
             tell(member->keyOffset,
-                    QStringLiteral("%1 has no meaning%2: remove it.").arg(quoted(key.text), m_condition));
+                    QStringLiteral("%1 has no meaning%2: remove it.").arg(quoted(key.text), m_condition.words()));
     }
-}
-
-/// The word of an id, or of a name in an expression, that tells it from others.
-QString lastWord(const QString& name)
-{
-    static const QRegularExpression separators(QStringLiteral("[:.]+"));
-    const QStringList words = name.split(separators, Qt::SkipEmptyParts);
-    return words.value(words.size() - 1).toLower();
-}
-
-/// Whether two thirds of the letters are the same.
-bool isAlike(const QString& a, const QString& b)
-{
-    QString rest = a;
-    int common = 0;
-    for (const QChar character : b) {
-        const int at = rest.indexOf(character);
-        common += at >= 0 ? 1 : 0;
-        if (at >= 0)
-            rest.remove(at, 1);
-    }
-    return 3 * common > 2 * std::max(a.size(), b.size()) || (a.size() > 5 && b.contains(a));
-}
-
-/// The same word with other capitals, after another one, or cut, is likelier than all others.
-QStringList likely(const QString& wanted, const QStringList& known)
-{
-    constexpr int shortest = 3;
-    QStringList same;
-    QStringList cut;
-    for (const QString& name : known) {
-        if (name.compare(wanted, Qt::CaseInsensitive) == 0 || lastWord(name) == lastWord(wanted))
-            same += name;
-        else if (std::min(name.size(), wanted.size()) >= shortest
-                && (name.startsWith(wanted, Qt::CaseInsensitive) || wanted.startsWith(name, Qt::CaseInsensitive)))
-            cut += name;
-    }
-    if (!same.isEmpty() || !cut.isEmpty())
-        return (same.isEmpty() ? cut : same).mid(0, shortest);
-    QStringList names;
-    const QString word = lastWord(wanted);
-    for (const QString& name : apps::nearest(wanted, known)) {
-        if (isAlike(word, lastWord(name)))
-            names += name;
-    }
-    return names;
 }
 
 } // namespace
 
-QString quoted(const QString& text)
-{
-    constexpr int longest = 100;
-    QString shown = text.size() > longest ? text.left(longest) + QChar(0x2026) : text;
-    for (QChar& character : shown) {
-        if (!character.isPrint() && !character.isSurrogate())
-            character = QLatin1Char(' ');
-    }
-    return QLatin1Char('"') + shown + QLatin1Char('"');
-}
-
-QString shownNumber(double number)
-{
-    return QString::number(number, 'g', 15);
-}
-
-QString shownValue(const JsonNode& value)
-{
-    switch (value.kind) {
-    case JsonNode::Null:
-        return QStringLiteral("null");
-    case JsonNode::Boolean:
-        return value.boolean ? QStringLiteral("true") : QStringLiteral("false");
-    case JsonNode::Number:
-        return shownNumber(value.number);
-    case JsonNode::Text:
-        return QStringLiteral("the text ") + quoted(value.text);
-    case JsonNode::List:
-        return QStringLiteral("a list");
-    case JsonNode::Object:
-        return QStringLiteral("an object");
-    }
-    return QString();
-}
-
-QString didYouMean(const QString& wanted, const QStringList& known)
-{
-    QStringList names;
-    for (const QString& name : likely(wanted, known))
-        names += quoted(name);
-    return proposal(names);
-}
-
 QVector<Violation> violations(const JsonNode& schema, const JsonNode& document)
 {
     Walk walk(schema);
-    walk.check(schema, document, QStringLiteral("The document"), QString());
+    walk.check(schema, document, {QStringLiteral("The document"), false}, {});
     return walk.take();
 }
 

@@ -20,16 +20,4 @@ struct Violation
 /// service-file.schema.json uses.
 QVector<Violation> violations(const JsonNode& schema, const JsonNode& document);
 
-/// A value as a message shows it: "the text "5"", "the number 2.5", "a list".
-QString shownValue(const JsonNode& value);
-
-/// A text in quotation marks, cut if it is long.
-QString quoted(const QString& text);
-
-/// A number as it is written in JSON.
-QString shownNumber(double number);
-
-/// " Did you mean "x" or "y"?" for the known words that are nearest; empty without one.
-QString didYouMean(const QString& wanted, const QStringList& known);
-
 } // namespace uiutils::check

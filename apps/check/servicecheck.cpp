@@ -2,7 +2,6 @@
 
 #include "check/applicabilitycheck.h"
 #include "check/itemchecks.h"
-#include "check/schemawords.h"
 #include "check/servicenames.h"
 #include "check/simulationchecks.h"
 

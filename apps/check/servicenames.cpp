@@ -1,7 +1,8 @@
 #include "check/servicenames.h"
 
-#include "check/schemawords.h"
+#include "check/jsonwords.h"
 
+#include "core/dynamicobject_p.h"
 #include "service/applicability_p.h"
 
 #include <QSet>
@@ -95,7 +96,13 @@ void checkItem(ServiceDocument* document, const ServiceItem& item, const Service
                 QStringLiteral(
                         "No page can name this item, because %1 is no part of a name in QML. Use letters, digits and underscores in the last word of the id.")
                         .arg(quoted(item.facts.name)));
+    const NamedItem owner = names.itemOfId(item.description.id);
     const NamedItem first = names.item(item.facts.contextName());
+    if (owner.document && owner.document != document && first.item == &item)
+        return document->findings.error(place,
+                QStringLiteral("The service %1 in %2 has an item with this id too: pages know only one item of an id. "
+                               "Write the service's own name into the id.")
+                        .arg(quoted(owner.document->description.service), owner.document->path));
     if (!first.item || first.item == &item)
         return;
     const bool isSameFile = first.document == document;
@@ -122,6 +129,8 @@ ServiceNames::ServiceNames(const Documents& documents)
             m_tags.insert(tag, document.get());
         for (const ServiceItem& item : qAsConst(document->items)) {
             const QString name = item.facts.contextName();
+            if (hasName(item) && !m_ids.contains(item.description.id))
+                m_ids.insert(item.description.id, {document.get(), &item});
             if (!hasName(item) || m_items.contains(name))
                 continue;
             m_items.insert(name, {document.get(), &item});
@@ -162,6 +171,11 @@ void checkNames(const Documents& documents, const ServiceNames& names)
 {
     QHash<QString, ServiceDocument*> services;
     QHash<QString, ServiceDocument*> tags;
+    if (!documents.empty() && names.all().size() > DynamicObject::maximumProperties)
+        documents.back()->findings.warnOfFile(
+                QStringLiteral("With this file the services have %1 items with names, but pages can know only %2.")
+                        .arg(names.all().size())
+                        .arg(DynamicObject::maximumProperties));
     for (const auto& document : documents) {
         const QString service = document->description.service;
         const QString tag = names::tagOf(service);

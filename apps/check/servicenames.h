@@ -28,6 +28,8 @@ public:
 
     /// The item that has the name first; without one, null.
     NamedItem item(const QString& contextName) const { return m_items.value(contextName); }
+    /// The item that has the id first, of all files.
+    NamedItem itemOfId(const QString& id) const { return m_ids.value(id); }
     bool hasTag(const QString& tag) const { return m_tags.contains(tag); }
     /// " Did you mean …?" for names that pages know; empty without any. `shorten` writes those of the tag as
     /// expressions do: "cfg.mode".
@@ -36,6 +38,7 @@ public:
 
 private:
     QHash<QString, NamedItem> m_items;
+    QHash<QString, NamedItem> m_ids;
     QHash<QString, ServiceDocument*> m_tags;
     QStringList m_all;
     mutable int m_proposals = 0;

@@ -1,6 +1,6 @@
 #include "check/simulationchecks.h"
 
-#include "check/schemawords.h"
+#include "check/jsonwords.h"
 #include "check/valuewords.h"
 
 #include "simulation/motionreader_p.h"

@@ -1,6 +1,6 @@
 #include "check/valuewords.h"
 
-#include "check/schemawords.h"
+#include "check/jsonwords.h"
 
 #include "embedded/itemtypes_p.h"
 #include "embedded/valueconversion_p.h"

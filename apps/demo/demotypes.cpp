@@ -3,7 +3,6 @@
 #include "desk.h"
 #include "loopbackmeasurement.h"
 #include "loopbackreport.h"
-#include "pendingitem.h"
 #include "picturefiles.h"
 #include "samplemodel.h"
 #include "screencamera.h"
@@ -19,7 +18,6 @@ void registerDemoTypes()
     qmlRegisterType<Desk>(uri, 1, 0, "Desk");
     qmlRegisterType<LoopbackMeasurement>(uri, 1, 0, "LoopbackMeasurement");
     qmlRegisterType<LoopbackReport>(uri, 1, 0, "LoopbackReport");
-    qmlRegisterType<PendingItem>(uri, 1, 0, "PendingItem");
     qmlRegisterType<PictureFiles>(uri, 1, 0, "PictureFiles");
     qmlRegisterType<ScreenCamera>(uri, 1, 0, "ScreenCamera");
     qmlRegisterType<UsbStick>(uri, 1, 0, "UsbStick");

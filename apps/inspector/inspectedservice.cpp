@@ -1,6 +1,5 @@
 #include "inspectedservice.h"
 
-#include "itemtext.h"
 #include "service/kivdata.h"
 #include "service/manifest.h"
 #include "texts.h"
@@ -41,6 +40,7 @@ InspectedService::InspectedService(Manifest* manifest, const OwnSide& ownSide, Q
     , m_name(manifest->getServiceName())
     , m_ownSide(ownSide)
 {
+    m_pending.setManifests({QVariant::fromValue<QObject*>(manifest)});
     connect(manifest, &Manifest::isAvailableChanged, this, &InspectedService::changed);
     if (manifest->client())
         connect(manifest->client(), &KIVClientInterface::itemsChanged, this, &InspectedService::changed);
@@ -122,35 +122,9 @@ void InspectedService::setAway(bool isAway)
         Q_EMIT changed();
 }
 
-void InspectedService::lookForChanges()
+QString InspectedService::nameOf(KivData* item) const
 {
-    const bool isChanging = m_manifest && m_manifest->isChanging();
-    // A change that was rejected stays pending after its transaction.
-    const QVariantList pending = isChanging || !m_pending.isEmpty() ? findPending() : QVariantList();
-    if (isChanging == m_isChanging && pending == m_pending)
-        return;
-    m_isChanging = isChanging;
-    m_pending = pending;
-    Q_EMIT pendingChanged();
-}
-
-/// What the pages hold is compared with what the service has reported.
-QVariantList InspectedService::findPending() const
-{
-    QVariantList found;
-    const KIVClientInterface* const client = isAvailable() ? m_manifest->client() : nullptr;
-    const QStringList ids = client ? client->getItemIds(settings) : QStringList();
-    for (const QString& id : ids) {
-        const KivData* const held = Manifest::getKivData(id);
-        const KIVClientItem* const reported = client->getItem(id);
-        // An aggregate shows what the service has reported until the service reports another.
-        if (!held || !reported || reported->getType() == KIVClientItem::TypeAggregate
-                || held->getValue() == reported->getValue())
-            continue;
-        found += QVariantMap {{QStringLiteral("name"), held->getQmlTag()},
-                {QStringLiteral("from"), shortText(*reported)}, {QStringLiteral("to"), held->getValue().toString()}};
-    }
-    return found;
+    return item ? item->getQmlTag() : QString();
 }
 
 bool InspectedService::setQuality(const QString& id, int quality)

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "service/pendingchanges.h"
+
 #include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <QString>
 #include <QVariant>
-#include <QVariantList>
 
 #include <functional>
 
@@ -31,10 +32,8 @@ class InspectedService : public QObject
     Q_PROPERTY(bool isSlow READ isSlow WRITE setSlow NOTIFY changed)
     Q_PROPERTY(bool isRefusing READ isRefusing WRITE setRefusing NOTIFY changed)
     Q_PROPERTY(bool isAway READ isAway WRITE setAway NOTIFY changed)
-    /// Whether a transaction runs, and the settings whose values have not been sent or were rejected: objects with
-    /// `name`, `from` and `to`. Nobody announces a transaction, so both are as they were at the last lookForChanges().
-    Q_PROPERTY(bool isChanging READ isChanging NOTIFY pendingChanged)
-    Q_PROPERTY(QVariantList pending READ pending NOTIFY pendingChanged)
+    /// The settings whose values have not been sent, were rejected or were overtaken.
+    Q_PROPERTY(uiutils::PendingChanges* pending READ pending CONSTANT)
 
 public:
     /// Below the time that pages wait for an answer.
@@ -57,10 +56,10 @@ public:
     void setRefusing(bool isRefusing);
     bool isAway() const;
     void setAway(bool isAway);
-    bool isChanging() const { return m_isChanging; }
-    QVariantList pending() const { return m_pending; }
+    PendingChanges* pending() { return &m_pending; }
 
-    Q_INVOKABLE void lookForChanges();
+    /// The name under which pages know an item; empty for null and while the item is away.
+    Q_INVOKABLE QString nameOf(KivData* item) const;
 
     /// These return false, and change nothing, when the service does not live here or has no such item.
     Q_INVOKABLE bool setQuality(const QString& id, int quality);
@@ -74,11 +73,9 @@ public:
 
 Q_SIGNALS:
     void changed();
-    void pendingChanged();
 
 private:
     kiv::embedded::EmbeddedService* own() const { return m_ownSide(); }
-    QVariantList findPending() const;
 
     const QPointer<Manifest> m_manifest;
     const QString m_name;
@@ -89,8 +86,7 @@ private:
     QPointer<kiv::embedded::EmbeddedService> m_takenAway;
     int m_delayBefore = 0;
     QHash<QString, QString> m_refusalsBefore;
-    bool m_isChanging = false;
-    QVariantList m_pending;
+    PendingChanges m_pending;
 };
 
 } // namespace uiutils::inspector

@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QPointer>
+#include <QSet>
 
 #include <systemd/sd-daemon.h>
 
@@ -68,10 +69,11 @@ void complainOf(const kiv::bus::BusPublisher& publisher, const QStringList& name
                 last = reason;
             });
     QObject::connect(&publisher, &kiv::bus::BusPublisher::nameTaken, &publisher,
-            [names, taken = 0](const QString& name) mutable {
+            [names, taken = QSet<QString>()](const QString& name) mutable {
                 // The bus starts a program for every name that is asked for while none is taken; one is enough.
                 if (isStartedByBus()) {
-                    if (++taken == names.size())
+                    taken += name;
+                    if (taken.size() == names.size())
                         QCoreApplication::exit(exitDone);
                     return;
                 }

@@ -115,9 +115,10 @@ Plan plan(const QVector<ItemFacts>& items)
         // On a disk that does not distinguish capitals, one would replace the other.
         const QString place = module.name.toLower();
         if (byName.contains(place)) {
-            plan.problems += QStringLiteral("%1: Its module would be %2, as that of \"%3\" is. Give one of these "
-                                            "services another name.")
-                                     .arg(services, module.name, byName.value(place).tag);
+            const Module& other = byName[place];
+            plan.problems += QStringLiteral("%1: Its module would be called %2, and that of \"%3\" is called %4. Give "
+                                            "one of these services another name.")
+                                     .arg(services, module.name, other.tag, other.name);
             continue;
         }
         plan.notes += notesOf(it.key(), *it);

@@ -98,18 +98,9 @@ QStringList documentationOf(const ItemFacts& item)
     return lines;
 }
 
-QString wrapperType(const ItemFacts& item)
-{
-    switch (item.kind) {
-    case ItemFacts::Aggregate:
-        return QStringLiteral("KivAggregateData");
-    case ItemFacts::Table:
-        return QStringLiteral("KivListAggregateData");
-    case ItemFacts::Value:
-        break;
-    }
-    return QStringLiteral("KivData");
-}
+/// Also of aggregates and tables, whose classes have nothing to add: qmllint crashes over members of a value whose type
+/// it does not know, where a class inherits the value.
+const QLatin1String wrapperType("KivData");
 
 QString marked(const char* comment)
 {
@@ -143,7 +134,7 @@ QByteArray singletonText(const Module& module)
         for (const QString& line : lines)
             text += QStringLiteral("    /// ") + line + QLatin1Char('\n');
         text += QStringLiteral("    readonly property %1 %2: null\n")
-                        .arg(wrapperType(member.facts), member.facts.memberName);
+                        .arg(wrapperType, member.facts.memberName);
         for (const Constant& constant : member.constants)
             text += QStringLiteral("    readonly property int %1: %2 // %3\n")
                             .arg(constant.name, QString::number(constant.value), plain(constant.label));
@@ -171,7 +162,7 @@ QByteArray typesText(const Module& module, const QString& import)
                                            "isPointer: true }\n");
     const QString number = QStringLiteral("        Property { name: \"%1\"; type: \"int\"; isReadonly: true }\n");
     for (const Member& member : module.members) {
-        text += pointer.arg(member.facts.memberName, wrapperType(member.facts));
+        text += pointer.arg(member.facts.memberName, wrapperType);
         for (const Constant& constant : member.constants)
             text += number.arg(constant.name);
     }

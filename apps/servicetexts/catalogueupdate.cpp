@@ -65,8 +65,8 @@ QByteArray sourceOf(const ServiceTexts& texts, const QVector<Told>& toldApart)
 {
     QByteArray source;
     const auto add = [&source](const QString& text, const QString& id) {
-        source += "const char* text[] = QT_TRANSLATE_NOOP3(\"" + QByteArray(serviceContext) + "\", " + literal(text) + ", "
-                + literal(id) + ");\n";
+        source += "const char* text[] = QT_TRANSLATE_NOOP3(\"" + QByteArray(serviceContext) + "\", " + literal(text)
+                + ", " + literal(id) + ");\n";
     };
     for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
         source += "//: " + note(*it) + '\n';
@@ -118,18 +118,18 @@ bool readCatalogue(const QString& path, QVector<Told>* toldApart, QString* probl
     }
     if (isCatalogue && !xml.hasError())
         return true;
-    *problem = xml.hasError()
-            ? QStringLiteral("%1:%2:%3: the catalogue cannot be read and stays as it is: %4")
-                      .arg(path)
-                      .arg(xml.lineNumber())
-                      .arg(xml.columnNumber() + 1)
-                      .arg(xml.errorString())
-            : QStringLiteral("%1 is no catalogue of translators and stays as it is.").arg(path);
+    *problem = xml.hasError() ? QStringLiteral("%1:%2:%3: the catalogue cannot be read and stays as it is: %4")
+                                        .arg(path)
+                                        .arg(xml.lineNumber())
+                                        .arg(xml.columnNumber() + 1)
+                                        .arg(xml.errorString())
+                              : QStringLiteral("%1 is no catalogue of translators and stays as it is.").arg(path);
     return false;
 }
 
 /// Runs lupdate over a copy, so that a failure leaves the catalogue as it was.
-bool update(const QString& program, const QString& catalogue, const QByteArray& source, QString* summary, QString* problem)
+bool update(
+        const QString& program, const QString& catalogue, const QByteArray& source, QString* summary, QString* problem)
 {
     const QTemporaryDir folder;
     const QString copy = folder.filePath(QFileInfo(catalogue).fileName());
@@ -141,8 +141,9 @@ bool update(const QString& program, const QString& catalogue, const QByteArray& 
     }
     QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
     QProcess lupdate;
-    lupdate.start(program, {QStringLiteral("-locations"), QStringLiteral("none"), QStringLiteral("-source-language"),
-                                   QStringLiteral("en"), texts, QStringLiteral("-ts"), copy});
+    lupdate.start(program,
+            {QStringLiteral("-locations"), QStringLiteral("none"), QStringLiteral("-source-language"),
+                    QStringLiteral("en"), texts, QStringLiteral("-ts"), copy});
     QFile result(copy);
     const bool isDone = lupdate.waitForFinished(-1) && lupdate.exitStatus() == QProcess::NormalExit
             && lupdate.exitCode() == 0 && result.open(QIODevice::ReadOnly);

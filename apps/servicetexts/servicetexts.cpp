@@ -135,8 +135,9 @@ ServiceTexts textsOf(const QStringList& files, QStringList* problems)
         if (document.isObject())
             Collector(&texts).take(document.object());
         else
-            *problems += QStringLiteral("%1 is no service file: %2.")
-                                 .arg(name, document.isArray() ? QStringLiteral("it holds a list") : error.errorString());
+            *problems
+                    += QStringLiteral("%1 is no service file: %2.")
+                               .arg(name, document.isArray() ? QStringLiteral("it holds a list") : error.errorString());
     }
     return texts;
 }

@@ -42,7 +42,8 @@ int updateCatalogues(const Options& options)
     const QStringList files = servicetexts::serviceFilesIn(options.services);
     QStringList problems;
     if (files.isEmpty())
-        problems += QStringLiteral("There is no service file in %1. Name a folder that has some, or a file, with --services.")
+        problems += QStringLiteral(
+                "There is no service file in %1. Name a folder that has some, or a file, with --services.")
                             .arg(options.services.join(QStringLiteral(", ")));
     const servicetexts::ServiceTexts texts = servicetexts::textsOf(files, &problems);
     // The texts of a file that cannot be read would count as vanished.

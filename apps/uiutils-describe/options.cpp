@@ -114,8 +114,9 @@ Options readOptions(const QStringList& arguments)
         return misused(problem);
     const bool areCatalogues = parser.isSet(catalogues);
     if (areCatalogues && (parser.isSet(output) || parser.isSet(resources) || parser.isSet(bus)))
-        return misused(QStringLiteral("--ts reads service files and writes no modules: leave out --output, --resource and "
-                                      "--bus."));
+        return misused(
+                QStringLiteral("--ts reads service files and writes no modules: leave out --output, --resource and "
+                               "--bus."));
     if (areCatalogues && parser.positionalArguments().isEmpty())
         return misused(QStringLiteral("Name a catalogue after --ts, such as translations/optical_de.ts."));
     if (!areCatalogues && !parser.isSet(output))

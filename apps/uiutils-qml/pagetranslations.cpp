@@ -39,7 +39,8 @@ QStringList thatExist(const QStringList& folders)
 Translations::Translations(const QStringList& folders)
     : m_sources(folders)
 {
-    if (std::any_of(folders.cbegin(), folders.cend(), [](const QString& folder) { return !sourcesIn(folder).isEmpty(); }))
+    if (std::any_of(
+                folders.cbegin(), folders.cend(), [](const QString& folder) { return !sourcesIn(folder).isEmpty(); }))
         compile();
 }
 
@@ -90,7 +91,8 @@ void Translations::compile()
         QDir().mkdir(folder);
         const QFileInfoList files = sourcesIn(m_sources.at(i));
         for (const QFileInfo& file : files)
-            compile(program, file.filePath(), folder + QLatin1Char('/') + file.completeBaseName() + QStringLiteral(".qm"));
+            compile(program, file.filePath(),
+                    folder + QLatin1Char('/') + file.completeBaseName() + QStringLiteral(".qm"));
     }
 }
 
@@ -109,7 +111,8 @@ QStringList translationsOfPage(const QString& page)
     if (page.isEmpty())
         return QStringList();
     const QDir place = QFileInfo(page).absoluteDir();
-    return thatExist({place.filePath(QStringLiteral("../translations")), place.filePath(QStringLiteral("translations"))});
+    return thatExist(
+            {place.filePath(QStringLiteral("../translations")), place.filePath(QStringLiteral("translations"))});
 }
 
 QStringList translationsOfServices(const QStringList& folders)

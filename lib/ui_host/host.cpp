@@ -141,8 +141,7 @@ void Host::followServiceFiles()
         return;
     d->platform->followFiles();
     d->translationWatch = std::make_unique<FolderWatch>(d->translationFolders, QStringList(QStringLiteral("*.qm")),
-            FolderWatch::ThisFolder,
-            [](const QStringList&, bool) { Languages::instance()->readAgain(); });
+            FolderWatch::ThisFolder, [](const QStringList&, bool) { Languages::instance()->readAgain(); });
 }
 
 QStringList Host::problems() const

@@ -4,9 +4,12 @@
 #include <bus/busbackend.h>
 #include <kiv/kivclientinterface.h>
 #include <kiv/kivclientitem.h>
+#include <kiv/kivrejectedsettings.h>
 
 #include <QRegularExpression>
+#include <QSemaphore>
 #include <QSignalSpy>
+#include <QThread>
 
 #include <systemd/sd-bus.h>
 
@@ -71,6 +74,8 @@ public:
         sd_bus_message_append(message, "(usa{sv})", 2, ":result:fake:two:", 2, "type", "s", "int", "value", "i", 2);
     };
     std::function<void(const Message& call)> getItems = [this](const Message& call) { answerPage(call, 0); };
+    /// What it answers to SendBatch; to SendAction it says no.
+    std::function<void(sd_bus_message*)> batchAnswer;
 
 private:
     void answer(const Message& call)
@@ -89,11 +94,18 @@ private:
         } else if (call.member() == "Subscribe") {
             sd_bus_message_append(reply.raw(), "t", generation);
             connection.send(reply);
+        } else if (call.member() == "SendAction") {
+            connection.reject(call, errorRejected, "No.");
+        } else if (call.member() == "SendBatch") {
+            batchAnswer(reply.raw());
+            connection.send(reply);
         }
     }
 };
 
 } // namespace
+
+Q_DECLARE_METATYPE(std::function<void(sd_bus_message*)>)
 
 class BusHostileTest : public QObject
 {
@@ -152,6 +164,56 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not say which version"));
         connectClient();
         QVERIFY(!m_client->isValid());
+    }
+
+    /// A service that is older has one reason for all, and one that answers nonsense has none.
+    void batches_data()
+    {
+        using Answer = std::function<void(sd_bus_message*)>;
+        QTest::addColumn<QByteArray>("version");
+        QTest::addColumn<Answer>("answer");
+        QTest::addColumn<QString>("error");
+        QTest::addColumn<QString>("reason");
+        const Answer named = [](sd_bus_message* m) {
+            sd_bus_message_append(m, "bsa{ss}", 0, "Not all.", 2, "one", "Too much.", "two", "Too little.");
+        };
+        QTest::newRow("older") << QByteArray("1.0") << named << "No." << "";
+        QTest::newRow("now") << QByteArray("1.1") << named << "Not all." << "Too much.";
+        QTest::newRow("later") << QByteArray("1.12") << named << "Not all." << "Too much.";
+        QTest::newRow("accepted") << QByteArray("1.1")
+                                  << Answer([](sd_bus_message* m) { sd_bus_message_append(m, "bsa{ss}", 1, "Done.", 0); }) << "" << "";
+        QTest::newRow("nonsense") << QByteArray("1.1")
+                                  << Answer([](sd_bus_message* m) { sd_bus_message_append(m, "ia{ss}", 0, 1, "one", "x"); })
+                                  << "The service fake answered something that the interface does not know." << "";
+    }
+    void batches()
+    {
+        QFETCH(const QByteArray, version);
+        QFETCH(const std::function<void(sd_bus_message*)>, answer);
+        m_fake.reset();
+        // A call waits for its answer, which therefore has to come from another thread.
+        QSemaphore isThere;
+        const std::unique_ptr<QThread> thread(QThread::create([&] {
+            FakeService fake;
+            fake.version = version;
+            fake.batchAnswer = answer;
+            isThere.release();
+            QEventLoop().exec();
+        }));
+        thread->start();
+        isThere.acquire();
+        connectClient();
+        QString reply;
+        QTEST(m_client->sendAction(":action:fake:applyconfig:", "{}", &reply, patience) ? QString() : m_client->getLastError(),
+                "error");
+        QTEST(qobject_cast<KIVRejectedSettings*>(m_client)->rejectedSettings().value("one"), "reason");
+        QCOMPARE(reply, QString(m_client->getLastError().isEmpty() ? "Done." : ""));
+        // Other actions go the old way.
+        QVERIFY(!m_client->sendAction(":action:fake:start:", "", nullptr, patience));
+        QCOMPARE(m_client->getLastError(), QString("No."));
+        m_backend.reset();
+        thread->quit();
+        thread->wait();
     }
 
     /// Items that could stand in no service file are left out; the others are there.

@@ -106,7 +106,9 @@ private Q_SLOTS:
         press("rttSamples/moreButton");
         QCOMPARE(served(roundTripLimit), QVariant(1.0));
         press("reviewButton");
-        QTRY_VERIFY(isShown(QString::fromUtf8("1.000 ms \u2192 3.000 ms")) && isShown(QString::fromUtf8("40 \u2192 50")));
+        QTRY_VERIFY(isShown("1.000 ms") && isShown("3.000 ms") && isShown("40") && isShown("50"));
+        press("revert Maximum Round-Trip Time");
+        QTRY_VERIFY(!isShown("3.000 ms") && isShown("40") && isShown("50"));
         press("revertAllButton");
         QTRY_VERIFY(isOff("reviewButton"));
 
@@ -123,6 +125,16 @@ private Q_SLOTS:
         press("applyButton");
         QCOMPARE(served(roundTripSamples), QVariant(50u));
         QCOMPARE(served(roundTripLimit), QVariant(5.0));
+        // What the service has changed meanwhile is to be looked at, and may be set again.
+        QTRY_VERIFY(isShown("Now: 5.000 ms") && isShown("You have set: 2.000 ms") && isOff("applyButton"));
+        press("setAgain Maximum Round-Trip Time");
+        QTRY_VERIFY(isShown("5.000 ms") && isShown("2.000 ms"));
+        QCOMPARE(served(roundTripLimit), QVariant(5.0));
+        service(roundTripLimit)->setValue(roundTripLimit, 6);
+        QTRY_VERIFY(isShown("Now: 6.000 ms"));
+        press("dismiss Maximum Round-Trip Time");
+        QTRY_VERIFY(isShown("Nothing waits"));
+        open("setup");
         QTRY_VERIFY(isOff("reviewButton"));
     }
 

@@ -118,7 +118,9 @@ private Q_SLOTS:
         addColumns<QByteArray, QString>();
         QTest::newRow("item") << QByteArray("Bench.cfg_mod.value") << "Property \"cfg_mod\" not found on type \"Bench\"";
         QTest::newRow("property of an item") << QByteArray("Bench.cfg_mode.vlaue") << "Property \"vlaue\" not found on type \"KivData\"";
-        QTest::newRow("property of a table") << QByteArray("Bench.res_events.valeu") << "Property \"valeu\" not found on type \"KivListAggregateData\"";
+        QTest::newRow("property of a table") << QByteArray("Bench.res_events.valeu") << "Property \"valeu\" not found on type \"KivData\"";
+        // Right, but no crash, which would hide everything else.
+        QTest::newRow("member of a row") << QByteArray("Bench.res_events.value.rowCount()") << "Type \"QVariant\" of member \"value\" not found";
         QTest::newRow("choice") << QByteArray("Bench.cfg_mode_Manul") << "Property \"cfg_mode_Manul\" not found";
         QTest::newRow("manifest") << QByteArray("Bench.service.startChagnes()") << "Property \"startChagnes\" not found on type \"Manifest\"";
         QTest::newRow("module") << QByteArray("Bnech.cfg_mode") << "unqualified access";

@@ -11,6 +11,7 @@
 #include "service/manifest.h"
 
 using namespace uiutils::inspector;
+using uiutils::PendingChanges;
 using kiv::embedded::EmbeddedService;
 using kiv::embedded::ItemDescription;
 
@@ -399,34 +400,31 @@ private Q_SLOTS:
     {
         QObject parent;
         InspectedService* const service = inspected(&parent);
+        const PendingChanges& pending = *service->pending();
         KivData* const range = Manifest::getKivData(rangeId);
-        service->lookForChanges();
-        QVERIFY(!service->isChanging());
+        QVERIFY(!pending.isChanging());
         manifest()->startChanges();
-        service->lookForChanges();
-        QVERIFY(service->isChanging() && service->pending().isEmpty());
+        QVERIFY(pending.isChanging() && pending.count() == 0);
         range->setValue(42);
-        service->lookForChanges();
-        const QVariantList expected {QVariantMap {{"name", "meter_cfg_range"}, {"from", "7"}, {"to", "42"}}};
-        QCOMPARE(service->pending(), expected);
+        QCOMPARE(pending.count(), 1);
+        const QModelIndex row = pending.index(0);
+        QCOMPARE(service->nameOf(row.data(PendingChanges::ItemRole).value<KivData*>()), QString("meter_cfg_range"));
+        QCOMPARE(row.data(PendingChanges::OldValueRole), QVariant(7));
+        QCOMPARE(row.data(PendingChanges::NewValueRole), QVariant(42));
         QCOMPARE(m_stand->client->getItem(rangeId)->getValue(), QVariant(7));
         manifest()->revertChanges();
-        service->lookForChanges();
-        QVERIFY(!service->isChanging() && service->pending().isEmpty());
+        QVERIFY(!pending.isChanging() && pending.count() == 0);
 
-        // What the service rejected stays pending.
+        // What the service rejected stays pending, with the reason.
         manifest()->startChanges();
         range->setValue(42);
-        service->lookForChanges();
         m_stand->meter->setRefusal(rangeId, "No");
         manifest()->applyChanges();
-        service->lookForChanges();
-        QVERIFY(!service->isChanging());
-        QCOMPARE(service->pending(), expected);
+        QVERIFY(!pending.isChanging());
+        QCOMPARE(pending.index(0).data(PendingChanges::ProblemRole), QVariant("No"));
         m_stand->meter->setRefusal(rangeId, "");
         manifest()->applyChanges();
-        service->lookForChanges();
-        QCOMPARE(service->pending(), QVariantList());
+        QCOMPARE(pending.count(), 0);
         QCOMPARE(m_stand->client->getItem(rangeId)->getValue(), QVariant(42));
     }
 };

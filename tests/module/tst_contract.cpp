@@ -20,7 +20,9 @@
 #include "service/manifest.h"
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
+#include "service/pendingchanges.h"
 #include "service/rowfilter.h"
+#include "service/serviceitems.h"
 #include "templ2xmlwriter/templatetoxmlwriter.h"
 #include "ui_host/host.h"
 #include "writers/html/htmlstreamwriter.h"
@@ -171,7 +173,7 @@ const QVector<Face>& faces()
             face<UiDataContainer, QObject>(), face<ReportTemplate, QObject>(), face<uiutils::TableRows, QObject>(), face<PDFFile, QObject>(),
             face<FileUtils, QObject>(), face<Screenshot, QObject>(), face<KivAggregateData, KivData>(),
             face<KivListAggregateData, KivData>(), face<QMLListAggregate, QAbstractListModel>(), face<StringUiData, UiData>(),
-            face<uiutils::PageReport, Report>(), face<uiutils::ReportPreview, QAbstractListModel>(), face<uiutils::SavedReports, QAbstractListModel>(), face<uiutils::RowFilter, QSortFilterProxyModel>(), face<BoolUiData, UiData>(), face<EnumUiData, UiData>(), face<UserData>(), face<uiutils::Languages>(), face<uiutils::Status>(), face<uiutils::Alignment>(), face<KIVClientInterface>(),
+            face<uiutils::PageReport, Report>(), face<uiutils::ReportPreview, QAbstractListModel>(), face<uiutils::SavedReports, QAbstractListModel>(), face<uiutils::RowFilter, QSortFilterProxyModel>(), face<uiutils::PendingChanges, QAbstractListModel>(), face<uiutils::ServiceItems>(), face<BoolUiData, UiData>(), face<EnumUiData, UiData>(), face<UserData>(), face<uiutils::Languages>(), face<uiutils::Status>(), face<uiutils::Alignment>(), face<KIVClientInterface>(),
             face<BaseFormatter>(), face<KIVNotification>(), face<KIVNotificationModelManager>(),
             face<Validator, QRegularExpressionValidator>({operation("validate", validate)}),
             face<UiDataEnums, QObject>(declaredOperations<UiDataEnums>()),

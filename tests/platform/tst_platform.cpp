@@ -8,6 +8,7 @@
 #include <kiv/kivclientitem.h>
 #include <kiv/kivenumclientitem.h>
 #include <kiv/kivitemsnapshot.h>
+#include <kiv/kivrejectedsettings.h>
 #include <kiv/kivvecclientitem.h>
 #include <kiv/system.h>
 
@@ -496,6 +497,30 @@ private Q_SLOTS:
         QTRY_COMPARE(valueOf(levelId), set.value(levelId, level));
         QCOMPARE(changes.size(), set.contains(levelId) ? 1 : 0);
         QVERIFY(!KIVClientInterface::getSessionBusClient("kinds")->invokeAction(":action:kinds:applyconfig:"));
+    }
+
+    /// A rejected batch names the settings as the batch did, and gives the reason that each would have had alone.
+    void rejectedSettings()
+    {
+        const auto* report = qobject_cast<KIVRejectedSettings*>(station());
+        QVERIFY(report);
+        const QString argument = json({{"level:3", 4}, {"mode", 7}, {"levle", 1}, {":config:station:setup:on:", "maybe"}});
+        QVERIFY(!station()->sendAction(applyId, argument, nullptr, 1000));
+        const QMap<QString, QString> rejected = report->rejectedSettings();
+        QCOMPARE(rejected.keys(), (QStringList {":config:station:setup:on:", "levle", "mode"}));
+        for (const QString& reason : rejected)
+            QVERIFY2(station()->getLastError().contains(reason), qPrintable(reason));
+        QVERIFY(!station()->setItem(modeId, 7));
+        QCOMPARE(station()->getLastError(), rejected.value("mode"));
+        QVERIFY(report->rejectedSettings().isEmpty());
+        // Nothing is named where nothing could be read, and after a success.
+        const QStringList others {"{", json({{"level_3", 4}})};
+        for (const QString& other : others) {
+            station()->sendAction(applyId, json({{"mode", 7}}), nullptr, 1000);
+            QCOMPARE(report->rejectedSettings().size(), 1);
+            station()->sendAction(applyId, other, nullptr, 1000);
+            QVERIFY(report->rejectedSettings().isEmpty());
+        }
     }
 
     void itemsComeAndGo()

@@ -25,6 +25,7 @@ const QByteArray module(R"(
         readonly property KivListAggregateData res_events: null
         readonly property int cfg_mode_Auto: 1
         property string seen: cfg_mode ? cfg_mode.label + " " + cfg_mode.value : "none"
+        property string label: cfg_mode ? cfg_mode.label : "none"
         property int told: 0
         onCfg_modeChanged: ++told
     }
@@ -107,10 +108,14 @@ private Q_SLOTS:
         m_client->add(":result:rec:test:power:", 1.5);
         m_client->add<RecordedList>(":result:rec:test:events:");
         const Manifest manifest(m_client.get(), "rec", "com.example.rec");
-        // The names of this service begin with the same letters.
-        RecordedClient longer;
-        longer.add(":config:other:power:");
-        const Manifest other(&longer, "rec_cfg", "com.example.rec_cfg");
+        // A service of a name as long, and one whose names begin with the same letters.
+        RecordedClient others;
+        others.add(":config:xyz:setup:mode:", 4);
+        others.add(":result:xyz:test:power:", 2.5);
+        const Manifest other(&others, "xyz", "com.example.xyz");
+        RecordedClient cfg;
+        cfg.add(":config:abc:power:", 4);
+        const Manifest longer(&cfg, "rec_cfg", "com.example.rec_cfg");
         knowNames();
         const auto object = made();
         for (const char* name : {"cfg_mode", "res_power", "res_events"}) {
@@ -122,6 +127,10 @@ private Q_SLOTS:
         QCOMPARE(object->property("service").value<Manifest*>()->getServiceName(), QString("com.example.rec"));
         QCOMPARE(object->property("seen"), QVariant("Mode 3"));
         QCOMPARE(object->property("cfg_mode_Auto"), QVariant(1));
+        object->setProperty("tag", "xyz");
+        QCOMPARE(object->property("seen"), QVariant(" 4"));
+        object->setProperty("tag", "rec");
+        QCOMPARE(object->property("seen"), QVariant("Mode 3"));
         // Nobody else can write them.
         QVERIFY(!object->setProperty("cfg_mode", QVariant::fromValue<QObject*>(nullptr)));
         QVERIFY(wrapperAt(object, "cfg_mode"));
@@ -172,6 +181,7 @@ private Q_SLOTS:
         Q_EMIT m_client->itemsChanged();
         QCOMPARE(wrapperAt(object, "cfg_mode"), wrapper);
         QCOMPARE(object->property("seen"), QVariant("Way 4"));
+        QCOMPARE(object->property("label"), QVariant("Way"));
     }
 
     void ofSeveralWrappersTheOneWithTheEntryCounts()

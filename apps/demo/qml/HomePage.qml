@@ -108,8 +108,8 @@ KitPage {
 
         Repeater {
             model: [
-                { page: "setup", icon: "settings", title: qsTr("Set-up"), marked: page.session.setup.pending.length > 0,
-                  text: page.session.setup.pending.length > 0 ? qsTr("Not applied yet") : qsTr("Applied") },
+                { page: "setup", icon: "settings", title: qsTr("Set-up"), marked: page.session.setup.waiting > 0,
+                  text: page.session.setup.waiting > 0 ? qsTr("Not applied yet") : qsTr("Applied") },
                 { page: "run", icon: "run", title: qsTr("Run"), text: page.measurement.stateText },
                 { page: "results", icon: "results", title: qsTr("Results"), status: page.measurement.status,
                   text: page.session.hasResults ? qsTr("%1 samples").arg(page.measurement.roundTrip.count + page.measurement.throughput.count)

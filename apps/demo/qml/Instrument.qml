@@ -58,7 +58,7 @@ FocusScope {
         navigation: true
         model: [
             { name: "home", icon: "home", text: qsTr("Home") },
-            { name: "setup", icon: "settings", text: qsTr("Set-up"), marked: session.setup.pending.length > 0 },
+            { name: "setup", icon: "settings", text: qsTr("Set-up"), marked: session.setup.waiting > 0 },
             { name: "run", icon: "run", text: qsTr("Run") },
             { name: "results", icon: "results", text: qsTr("Results") },
             { name: "report", icon: "report", text: qsTr("Report"), marked: session.hasResults && !session.isSaved },

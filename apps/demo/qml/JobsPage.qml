@@ -12,7 +12,7 @@ KitPage {
     readonly property bool isServed: services.jobs !== undefined && services.basemgr !== undefined
 
     function choose(job) {
-        if (session.setup.pending.length > 0)
+        if (session.setup.waiting > 0)
             session.jobs.problem = qsTr("Apply or revert the set-up first: it would be applied with the job.")
         else if (session.jobs.open(job))
             session.pageWanted("home")

@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
+import UiUtils 1.0
 import UiUtils.Controls 1.0
 
 // What the set-up will change, before it is applied.
@@ -7,45 +8,44 @@ KitPage {
     id: page
 
     property Session session
-    readonly property Changes changes: session.setup
+    readonly property PendingChanges changes: session.setup
 
     title: qsTr("Review")
     subtitle: qsTr("All of it is applied together, or nothing.")
+    scrolls: false
     footer: [
-        InlineProblem {
-            Layout.fillWidth: true
-            text: page.changes.refusal
-            keepsRoom: true
-            lines: 2
-        },
+        Item { Layout.fillWidth: true },
         TouchButton {
             objectName: "revertAllButton"
             text: qsTr("Revert all")
+            enabled: page.changes.waiting > 0
             onClicked: {
-                page.changes.revert()
-                page.stack.pop()
+                page.changes.revertAll()
+                page.leave()
             }
         },
         TouchButton {
             objectName: "applyButton"
             filled: true
-            enabled: page.changes.pending.length > 0
+            enabled: page.changes.waiting > 0
             text: qsTr("Apply")
             onClicked: {
                 if (page.changes.apply())
-                    page.stack.pop()
+                    page.leave()
             }
         }
     ]
 
-    Repeater {
-        model: page.changes.pending
+    // What the service has changed meanwhile is still to be looked at.
+    function leave() {
+        if (changes.count === 0)
+            stack.pop()
+    }
 
-        ListRow {
-            Layout.fillWidth: true
-            title: modelData.label
-            value: qsTr("%1 \u2192 %2").arg(page.session.isolated(modelData.before)).arg(page.session.isolated(modelData.after))
-            enabled: true
-        }
+    PendingChangesView {
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        focus: true
+        changes: page.changes
     }
 }

@@ -68,12 +68,7 @@ QtObject {
     }
     readonly property ScreenCamera camera: ScreenCamera {}
     readonly property JobChoice jobs: JobChoice { technician: session.user }
-    readonly property Changes setup: Changes {
-        manifests: services.loopback === undefined ? [] : [services.loopback]
-        items: services.loopback === undefined ? []
-             : [loopback_cfg_rttSamples, loopback_cfg_throughputSamples, loopback_cfg_messageSize,
-                loopback_cfg_maximumRtt, loopback_cfg_minimumThroughput]
-    }
+    readonly property PendingChanges setup: PendingChanges { manifests: [services.loopback] }
     readonly property Connections results: Connections {
         target: session.measurement
         function onFinished() {

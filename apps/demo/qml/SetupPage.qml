@@ -8,27 +8,28 @@ KitPage {
     id: page
 
     property Session session
-    readonly property Changes changes: session.setup
+    readonly property PendingChanges changes: session.setup
 
     Accessible.name: qsTr("Set-up")
     service: "loopback"
     footer: [
         BodyText {
             Layout.fillWidth: true
-            text: page.changes.pending.length === 0 ? qsTr("Everything is applied.")
-                                                    : qsTr("%n changes are not applied yet.", "", page.changes.pending.length)
-            muted: page.changes.pending.length === 0
+            text: page.changes.waiting > 0 ? qsTr("%n changes are not applied yet.", "", page.changes.waiting)
+                : page.changes.overtaken > 0 ? qsTr("%n settings were changed meanwhile.", "", page.changes.overtaken)
+                                             : qsTr("Everything is applied.")
+            muted: page.changes.count === 0
             Accessible.role: Accessible.AlertMessage
         },
         TouchButton {
             objectName: "revertButton"
-            enabled: page.changes.pending.length > 0
+            enabled: page.changes.waiting > 0
             text: qsTr("Revert")
-            onClicked: page.changes.revert()
+            onClicked: page.changes.revertAll()
         },
         TouchButton {
             objectName: "reviewButton"
-            enabled: page.changes.pending.length > 0
+            enabled: page.changes.count > 0
             filled: true
             text: qsTr("Review")
             onClicked: page.stack.push("ReviewPage.qml", { session: page.session })

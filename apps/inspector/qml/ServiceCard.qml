@@ -1,5 +1,6 @@
 import QtQuick 2.15
 import QtQuick.Layouts 1.15
+import UiUtils 1.0
 import UiUtils.Controls 1.0
 import UiUtils.Inspector 1.0
 
@@ -51,27 +52,30 @@ Card {
     ColumnLayout {
         objectName: "pendingChanges"
         Layout.fillWidth: true
-        visible: card.service.isChanging || card.service.pending.length > 0
+        visible: card.service.pending.isChanging || card.service.pending.count > 0
         spacing: 0
 
         HeadingText {
             Layout.fillWidth: true
-            text: card.service.isChanging ? qsTr("A transaction runs") : qsTr("Not sent")
+            text: card.service.pending.isChanging ? qsTr("A transaction runs") : qsTr("Not sent")
         }
-        Repeater {
+        ListArea {
+            Layout.fillWidth: true
+            Layout.preferredHeight: Math.min(contentHeight, ControlsStyle.mm(60))
+            visible: count > 0
+            name: qsTr("Pending changes")
             model: card.service.pending
 
-            ListRow {
-                required property var modelData
-                Layout.fillWidth: true
-                title: modelData.name
-                subtitle: qsTr("Now: %1").arg(modelData.from)
-                value: modelData.to
+            delegate: ListRow {
+                title: card.service.nameOf(model.item) || model.label
+                subtitle: qsTr("Now: %1").arg(model.oldText) + (model.problem === "" ? "" : "\n" + model.problem)
+                value: model.newText
+                iconName: model.state === PendingChanges.Waiting ? "" : "warning"
             }
         }
         BodyText {
             Layout.fillWidth: true
-            visible: card.service.pending.length === 0
+            visible: card.service.pending.count === 0
             text: qsTr("Nothing is changed yet.")
             muted: true
         }

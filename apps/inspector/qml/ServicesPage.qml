@@ -27,12 +27,4 @@ ScrollArea {
         title: qsTr("No services yet")
         text: qsTr("They are shown when they come.")
     }
-    // Nobody announces that a transaction begins.
-    Timer {
-        interval: 300
-        repeat: true
-        running: page.visible
-        triggeredOnStart: true
-        onTriggered: page.inspector.services.forEach(service => service.lookForChanges())
-    }
 }

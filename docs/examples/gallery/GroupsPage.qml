@@ -13,6 +13,7 @@ KitPage {
         { file: "NumbersPage.qml", icon: "settings", title: qsTr("Choices and numbers"), note: qsTr("Segments, steppers and sliders that keep an item's limits") },
         { file: "DatesPage.qml", icon: "calendar", title: qsTr("Date and time"), note: qsTr("Typed as the locale writes them, or picked") },
         { file: "StatusPage.qml", icon: "bell", title: qsTr("Status and messages"), note: qsTr("Verdicts, progress, problems and services that are away") },
+        { file: "ChangesPage.qml", icon: "sync", title: qsTr("Changes that wait"), note: qsTr("What is applied together, each change with what became of it") },
         { file: "PagesPage.qml", icon: "files", title: qsTr("Pages"), note: qsTr("The stack of pages, tabs and the line at the top") }
     ]
 

@@ -116,6 +116,33 @@
     </message>
 </context>
 <context>
+    <name>ChangesPage</name>
+    <message>
+        <source>Changes that wait</source>
+        <translation>التغييرات قيد الانتظار</translation>
+    </message>
+    <message>
+        <source>Nothing is sent before Apply</source>
+        <translation>لا يُرسَل شيء قبل «تطبيق»</translation>
+    </message>
+    <message>
+        <source>Revert all</source>
+        <translation>التراجع عن الكل</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>تطبيق</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>المراجعة</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>
@@ -257,6 +284,14 @@
     <message>
         <source>Components</source>
         <translation>المكونات</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>التغييرات قيد الانتظار</translation>
+    </message>
+    <message>
+        <source>What is applied together, each change with what became of it</source>
+        <translation>ما يُطبَّق معًا، وحالة كل تغيير</translation>
     </message>
 </context>
 <context>

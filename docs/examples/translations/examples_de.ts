@@ -116,6 +116,33 @@
     </message>
 </context>
 <context>
+    <name>ChangesPage</name>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Ausstehende Änderungen</translation>
+    </message>
+    <message>
+        <source>Nothing is sent before Apply</source>
+        <translation>Vor „Anwenden“ wird nichts gesendet</translation>
+    </message>
+    <message>
+        <source>Revert all</source>
+        <translation>Alles rückgängig</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>Prüfen</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>
@@ -257,6 +284,14 @@
     <message>
         <source>Components</source>
         <translation>Komponenten</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Ausstehende Änderungen</translation>
+    </message>
+    <message>
+        <source>What is applied together, each change with what became of it</source>
+        <translation>Was zusammen angewendet wird: jede Änderung und was aus ihr wurde</translation>
     </message>
 </context>
 <context>

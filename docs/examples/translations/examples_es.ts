@@ -116,6 +116,33 @@
     </message>
 </context>
 <context>
+    <name>ChangesPage</name>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Cambios pendientes</translation>
+    </message>
+    <message>
+        <source>Nothing is sent before Apply</source>
+        <translation>No se envía nada antes de «Aplicar»</translation>
+    </message>
+    <message>
+        <source>Revert all</source>
+        <translation>Revertir todo</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>Revisión</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>
@@ -257,6 +284,14 @@
     <message>
         <source>Components</source>
         <translation>Componentes</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Cambios pendientes</translation>
+    </message>
+    <message>
+        <source>What is applied together, each change with what became of it</source>
+        <translation>Lo que se aplica junto, cada cambio con su estado</translation>
     </message>
 </context>
 <context>

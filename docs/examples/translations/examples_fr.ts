@@ -116,6 +116,33 @@
     </message>
 </context>
 <context>
+    <name>ChangesPage</name>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Modifications en attente</translation>
+    </message>
+    <message>
+        <source>Nothing is sent before Apply</source>
+        <translation>Rien n’est envoyé avant « Appliquer »</translation>
+    </message>
+    <message>
+        <source>Revert all</source>
+        <translation>Tout annuler</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>Vérification</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>
@@ -257,6 +284,14 @@
     <message>
         <source>Components</source>
         <translation>Composants</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>Modifications en attente</translation>
+    </message>
+    <message>
+        <source>What is applied together, each change with what became of it</source>
+        <translation>Ce qui est appliqué ensemble, chaque modification avec son état</translation>
     </message>
 </context>
 <context>

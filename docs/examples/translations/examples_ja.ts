@@ -116,6 +116,33 @@
     </message>
 </context>
 <context>
+    <name>ChangesPage</name>
+    <message>
+        <source>Changes that wait</source>
+        <translation>保留中の変更</translation>
+    </message>
+    <message>
+        <source>Nothing is sent before Apply</source>
+        <translation>「適用」まで何も送信されません</translation>
+    </message>
+    <message>
+        <source>Revert all</source>
+        <translation>すべて元に戻す</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>確認</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>
@@ -257,6 +284,14 @@
     <message>
         <source>Components</source>
         <translation>部品</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>保留中の変更</translation>
+    </message>
+    <message>
+        <source>What is applied together, each change with what became of it</source>
+        <translation>まとめて適用される変更と、それぞれの状態</translation>
     </message>
 </context>
 <context>

@@ -116,6 +116,33 @@
     </message>
 </context>
 <context>
+    <name>ChangesPage</name>
+    <message>
+        <source>Changes that wait</source>
+        <translation>[Çĥåñĝéš ţĥåţ ŵåîţ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Nothing is sent before Apply</source>
+        <translation>[Ñöţĥîñĝ îš šéñţ béföŕé Åppļý ~ ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>Revert all</source>
+        <translation>[Ŕévéŕţ åļļ ~]</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>[Åppļý ~]</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>[Šéţţîñĝš ~]</translation>
+    </message>
+    <message>
+        <source>Review</source>
+        <translation>[Ŕévîéŵ ~]</translation>
+    </message>
+</context>
+<context>
     <name>DatesPage</name>
     <message>
         <source>Date and time</source>
@@ -257,6 +284,14 @@
     <message>
         <source>Components</source>
         <translation>[Çömpöñéñţš ~]</translation>
+    </message>
+    <message>
+        <source>Changes that wait</source>
+        <translation>[Çĥåñĝéš ţĥåţ ŵåîţ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>What is applied together, each change with what became of it</source>
+        <translation>[Ŵĥåţ îš åppļîéđ ţöĝéţĥéŕ, éåçĥ çĥåñĝé ŵîţĥ ŵĥåţ béçåmé öf îţ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
     </message>
 </context>
 <context>

@@ -57,10 +57,10 @@ public:
     /// Ends what open() has begun: removes the translations and restores the default QLocale. Emits as open() does.
     void close();
 
-    /// The folders with catalogues of services. They translate the labels, choices, units and errors of service items and
-    /// nothing else; an application's own catalogues have precedence. They bring no language to offer. Host::start()
-    /// names the folders "translations" beside the service files; close() forgets all. While the languages are open,
-    /// this reads the catalogues again.
+    /// The folders with catalogues of services. They translate the labels, choices, units and errors of service items
+    /// and nothing else; an application's own catalogues have precedence. They bring no language to offer.
+    /// Host::start() names the folders "translations" beside the service files; close() forgets all. While the
+    /// languages are open, this reads the catalogues again.
     void setServiceFolders(const QStringList& folders);
     /// Reads all catalogues again, after some have been changed. Emits as open() does. The language stays; without a
     /// catalogue that can be read it becomes English.

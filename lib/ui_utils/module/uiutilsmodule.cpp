@@ -19,10 +19,11 @@
 #include "service/kivlistaggregatedata.h"
 #include "service/kivsignal.h"
 #include "service/manifest.h"
+#include "service/pendingchanges.h"
 #include "service/qmlaggregate.h"
 #include "service/qmllistaggregate.h"
 #include "service/rowfilter.h"
-#include "service/serviceitems_p.h"
+#include "service/serviceitems.h"
 #include "writers/pdffile/pdffile.h"
 
 #include <kiv/kivnotificationmodelmanager.h>
@@ -80,6 +81,7 @@ void registerServiceTypes(const char* uri)
     qmlRegisterUncreatableType<BaseFormatter>(
             uri, 1, 0, "BaseFormatter", QStringLiteral("Formatters come from the platform."));
     qmlRegisterType<KIVSignal>(uri, 1, 0, "KIVSignal");
+    qmlRegisterType<PendingChanges>(uri, 1, 0, "PendingChanges");
     qmlRegisterType<RowFilter>(uri, 1, 0, "RowFilter");
     qmlRegisterType<ServiceItems>(uri, 1, 0, "ServiceItems");
     qmlRegisterType<ForgivingValidator>(uri, 1, 0, "ForgivingValidator");

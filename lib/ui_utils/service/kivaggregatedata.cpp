@@ -1,6 +1,7 @@
 #include "service/kivaggregatedata.h"
 
 #include "core/plainvalue_p.h"
+#include "service/changewatch_p.h"
 #include "service/kivdata_p.h"
 #include "service/qmlaggregate.h"
 
@@ -91,4 +92,5 @@ void KivAggregateData::slotValueChanged()
         holdReport(source->getAggregate().toVariant());
     // Bindings are notified of each member while the map is filled, and may write at that moment.
     announce({static_cast<void (KivData::*)()>(&KivAggregateData::updateQmlMapFromItem), &KivData::valueChanged});
+    uiutils::ChangeWatch::flush();
 }

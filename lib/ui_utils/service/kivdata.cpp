@@ -4,6 +4,7 @@
 #include "core/plainvalue_p.h"
 #include "core/status.h"
 #include "service/announcement_p.h"
+#include "service/changewatch_p.h"
 #include "service/enumnames_p.h"
 #include "service/inputrange_p.h"
 #include "service/inputvalidator_p.h"
@@ -58,6 +59,12 @@ KivData::~KivData()
     if (d->announcing)
         d->announcing->abandon();
     uiutils::itemregistry::forget(d->id, this);
+    uiutils::ChangeWatch* watch = uiutils::ChangeWatch::current();
+    if (!watch || !watch->noteEnd(this))
+        return;
+    // Whoever hears of it may delete the parent.
+    setParent(nullptr);
+    uiutils::ChangeWatch::flush();
 }
 
 // --- The item ------------------------------------------------------------------------------------
@@ -92,6 +99,8 @@ void KivDataPrivate::bindItem(KIVClientItem* other)
         q->updateValidator();
         connectItem();
     }
+    if (ChangeWatch* watch = ChangeWatch::current())
+        watch->noteItem(q);
     announceItem();
 }
 
@@ -341,8 +350,11 @@ QString KivData::getError() const
 void KivData::settleReport()
 {
     const bool isPendingOrSent = d->isChanged || d->isSent;
-    if (isPendingOrSent && d->id.startsWith(QLatin1String(":config")))
-        d->endChange();
+    if (!isPendingOrSent || !d->id.startsWith(QLatin1String(":config")))
+        return;
+    uiutils::ChangeWatch* watch = uiutils::ChangeWatch::current();
+    if (d->endChange() && watch)
+        watch->noteReport(this, d->value);
 }
 
 void KivData::slotValueChanged()
@@ -352,6 +364,7 @@ void KivData::slotValueChanged()
         return;
     holdReport(d->item->getValue());
     d->announceValue();
+    uiutils::ChangeWatch::flush();
 }
 
 void KivData::slotUnitsChanged()

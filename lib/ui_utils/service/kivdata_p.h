@@ -35,6 +35,12 @@ public:
     bool isPending() const { return isChanged && !isSent; }
     /// Forgets a change. Returns whether it was pending.
     bool endChange();
+    /// Notes that a pending change began, has another value or has ended.
+    void noteChange();
+    /// Forgets the pending change: the wrapper holds what the service has.
+    void withdraw();
+    /// Makes revert() give what the service has, however often the value was written.
+    void revertToReported();
     void announceValue();
     bool isAnnouncing() const;
     bool isKnownToChain() const;

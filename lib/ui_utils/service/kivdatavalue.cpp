@@ -4,6 +4,7 @@
 
 #include "core/plainvalue_p.h"
 #include "service/announcement_p.h"
+#include "service/changewatch_p.h"
 #include "service/enumnames_p.h"
 #include "service/manifeststate_p.h"
 #include "service/valuetext_p.h"
@@ -72,7 +73,10 @@ bool KivData::writeValue(QVariant value)
         d->isChanged = true;
         d->isSent = false;
         d->previous = d->value;
-        setValueInternal(value);
+        holdValue(value);
+        d->noteChange();
+        d->announceValue();
+        uiutils::ChangeWatch::flush();
         return true;
     }
     const QPointer<KivData> self(this);
@@ -227,6 +231,24 @@ bool KivDataPrivate::endChange()
     return wasPending;
 }
 
+void KivDataPrivate::noteChange()
+{
+    if (ChangeWatch* watch = ChangeWatch::current())
+        watch->noteChange(q);
+}
+
+void KivDataPrivate::revertToReported()
+{
+    if (isPending())
+        previous = reportedValue();
+}
+
+void KivDataPrivate::withdraw()
+{
+    revertToReported();
+    q->revert();
+}
+
 void KivData::apply()
 {
     if (!d->endChange())
@@ -241,10 +263,15 @@ void KivData::apply()
         return;
     // A rejected change stays pending, so that it can be corrected or undone.
     d->isChanged = isRejected && d->reports == reports;
+    d->noteChange();
+    uiutils::ChangeWatch* watch = uiutils::ChangeWatch::current();
+    if (d->isChanged && watch)
+        watch->noteRejection(this, error);
     if (d->reports == reports)
         setValueInternal(value);
     if (self && isRejected)
         reject(error);
+    uiutils::ChangeWatch::flush();
 }
 
 void KivData::revert()
@@ -252,7 +279,10 @@ void KivData::revert()
     if (!d->endChange())
         return;
     QVariant previous = d->previous;
-    setValueInternal(previous);
+    holdValue(previous);
+    d->noteChange();
+    d->announceValue();
+    uiutils::ChangeWatch::flush();
 }
 
 void KivData::checkAppError()

@@ -1,5 +1,6 @@
 #include "service/kivlistaggregatedata.h"
 
+#include "service/changewatch_p.h"
 #include "service/kivdata_p.h"
 #include "service/qmllistaggregate.h"
 
@@ -44,4 +45,5 @@ void KivListAggregateData::slotValueChanged()
         if (const auto* source = qobject_cast<KivListAggregateClientItem*>(item()))
             d->list = source->getListAggregate();
     });
+    uiutils::ChangeWatch::flush();
 }

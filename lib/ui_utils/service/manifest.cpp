@@ -2,6 +2,7 @@
 
 #include "base/batchname_p.h"
 #include "core/itemids_p.h"
+#include "service/changewatch_p.h"
 #include "service/itemregistry_p.h"
 #include "service/kivaggregatedata.h"
 #include "service/kivcontextobject_p.h"
@@ -10,6 +11,10 @@
 #include "service/manifeststate_p.h"
 
 #include <kiv/kivaggregateclientitem.h>
+#if __has_include(<kiv/kivrejectedsettings.h>)
+#include <kiv/kivrejectedsettings.h>
+#define UIUTILS_HAS_REJECTED_SETTINGS
+#endif
 
 #include <QDebug>
 #include <QJsonDocument>
@@ -33,7 +38,12 @@ public:
     {
     }
 
-    static const ManifestState* of(const Manifest* manifest) { return manifest->d.get(); }
+    /// The wrappers that send their changes, by the names in the batch.
+    using Senders = QMap<QString, QPointer<KivData>>;
+
+    static ManifestPrivate* of(const Manifest* manifest) { return manifest->d.get(); }
+    static QVector<Manifest*>& all();
+    static void noteManifests();
 
     QVector<QPointer<KivData>> wrappers() const;
     bool registerItems();
@@ -42,6 +52,8 @@ public:
     void noteAvailability();
     QString actionId(QLatin1String action) const;
     bool send(const QString& actionId, const QString& argument);
+    bool sendBatch(const Senders& senders);
+    static void reject(const Senders& senders, const QString& reason, const QMap<QString, QString>& rejected);
 
     QString name;
     QString manifestId;
@@ -80,6 +92,24 @@ bool canTravel(const KivData* wrapper)
     return isPending(wrapper) && KivDataPrivate::of(wrapper)->item;
 }
 
+/// The latest wrapper of the id with a change that can be sent; null without one.
+KivData* senderOf(const QString& id)
+{
+    const QVector<QPointer<KivData>> wrappers = wrappersOf(id, itemregistry::find(id));
+    const auto sender = std::find_if(wrappers.cbegin(), wrappers.cend(), canTravel);
+    return sender == wrappers.cend() ? nullptr : sender->data();
+}
+
+/// Which settings the client's service has rejected, by the names in the batch; empty if it does not say.
+QMap<QString, QString> rejectedSettings(KIVClientInterface* client)
+{
+#ifdef UIUTILS_HAS_REJECTED_SETTINGS
+    if (const auto* report = qobject_cast<KIVRejectedSettings*>(client))
+        return report->rejectedSettings();
+#endif
+    return {};
+}
+
 } // namespace
 
 const uiutils::ManifestState* uiutils::manifestState(const QObject* parent)
@@ -98,6 +128,50 @@ QObject* uiutils::toObject(Manifest* manifest)
     return manifest;
 }
 
+const QVector<Manifest*>& uiutils::allManifests()
+{
+    return ManifestPrivate::all();
+}
+
+void uiutils::setChanging(Manifest* manifest, bool isChanging)
+{
+    ManifestPrivate::of(manifest)->isChanging = isChanging;
+    ManifestPrivate::noteManifests();
+}
+
+bool uiutils::sendChanges(Manifest* manifest, const QVector<QPointer<KivData>>& wrappers)
+{
+    ManifestPrivate* parts = ManifestPrivate::of(manifest);
+    const QPointer<Manifest> self(manifest);
+    ManifestPrivate::Senders senders;
+    QVector<QPointer<KivData>> namesakes;
+    for (const QPointer<KivData>& wrapper : wrappers) {
+        const QPointer<KivData> sender = wrapper ? senderOf(wrapper->getId()) : nullptr;
+        const QString name = sender ? toBatchName(sender->getName()) : QString();
+        if (sender && !senders.contains(name))
+            senders.insert(name, sender);
+        else if (sender && senders.value(name) != sender)
+            namesakes.append(sender);
+    }
+    if (senders.isEmpty())
+        return true;
+    return parts->client && parts->sendBatch(senders) && self && sendChanges(manifest, namesakes);
+}
+
+/// Never destroyed, because manifests may outlive every other static object.
+QVector<Manifest*>& ManifestPrivate::all()
+{
+    static auto& manifests = *new QVector<Manifest*>;
+    return manifests;
+}
+
+void ManifestPrivate::noteManifests()
+{
+    if (ChangeWatch* watch = ChangeWatch::current())
+        watch->noteManifests();
+    ChangeWatch::flush();
+}
+
 Manifest::Manifest(KIVClientInterface* client, QString const& qmlTag, QString const& name, QObject* parent)
     : QObject(parent)
     , d(std::make_unique<ManifestPrivate>(this))
@@ -105,6 +179,7 @@ Manifest::Manifest(KIVClientInterface* client, QString const& qmlTag, QString co
     d->client = client;
     d->name = name;
     d->qmlTag = qmlTag.isEmpty() ? name : qmlTag;
+    ManifestPrivate::all().append(this);
     if (!client)
         return;
     connect(client, &KIVClientInterface::itemsChanged, this, [this] { d->bindItems(); });
@@ -114,6 +189,8 @@ Manifest::Manifest(KIVClientInterface* client, QString const& qmlTag, QString co
 
 Manifest::~Manifest()
 {
+    ManifestPrivate::all().removeOne(this);
+    uiutils::setChanging(this, false);
     if (!itemregistry::hasDisplaced())
         return;
     // After these have been deleted, pages continue with the wrappers that have their entries back.
@@ -201,6 +278,7 @@ void ManifestPrivate::bindItems()
 {
     const QVector<QPointer<KivData>> own = wrappers();
     const QPointer<Manifest> self(q);
+    const ChangeBatch batch;
     bool hasReturned = false;
     for (const QPointer<KivData>& wrapper : own) {
         if (!self || !client)
@@ -239,23 +317,30 @@ void ManifestPrivate::noteAvailability()
 
 void Manifest::startChanges()
 {
-    d->isChanging = true;
+    uiutils::setChanging(this, true);
 }
 
 void Manifest::applyChanges()
 {
-    d->isChanging = false;
+    const uiutils::ChangeBatch batch;
+    uiutils::setChanging(this, false);
     if (!d->client)
         return;
     // By name: of settings with one name, the batch has the last one, and the others stay pending.
-    QMap<QString, QPointer<KivData>> senders;
+    ManifestPrivate::Senders senders;
     const QStringList ids = m_items.keys();
     for (const QString& id : ids) {
-        const QVector<QPointer<KivData>> wrappers = wrappersOf(id, m_items.value(id));
-        const auto sender = std::find_if(wrappers.cbegin(), wrappers.cend(), canTravel);
-        if (sender != wrappers.cend())
-            senders.insert(uiutils::toBatchName((*sender)->getName()), *sender);
+        if (KivData* sender = senderOf(id))
+            senders.insert(uiutils::toBatchName(sender->getName()), sender);
     }
+    d->sendBatch(senders);
+}
+
+/// Returns whether the service has accepted the batch.
+bool ManifestPrivate::sendBatch(const Senders& senders)
+{
+    const ChangeBatch batch;
+    const auto& entries = itemregistry::entries();
     QVariantMap changes;
     QVector<QPointer<KivData>> outdone;
     for (auto it = senders.cbegin(); it != senders.cend(); ++it) {
@@ -263,35 +348,50 @@ void Manifest::applyChanges()
         changes.insert(it.key(), parts->value);
         parts->isSent = true;
         // Another wrapper's change of the same item would be sent later and replace this one.
-        const QVector<QPointer<KivData>> wrappers = wrappersOf(parts->id, m_items.value(parts->id));
+        const QVector<QPointer<KivData>> wrappers = wrappersOf(parts->id, entries.value(parts->id));
         std::copy_if(wrappers.cbegin(), wrappers.cend(), std::back_inserter(outdone), isPending);
     }
 
     // The service reads the text as bytes. What it reports meanwhile may delete the manifest.
     const QByteArray json = QJsonDocument(QJsonObject::fromVariantMap(changes)).toJson();
-    const QPointer<KIVClientInterface> client = d->client;
-    if (d->send(d->actionId(itemids::applyConfig), QString::fromLatin1(json.constData()))) {
-        for (const QPointer<KivData>& wrapper : qAsConst(outdone)) {
-            if (wrapper)
-                wrapper->revert();
-        }
-        return;
+    const QPointer<KIVClientInterface> asked = client;
+    if (!send(actionId(itemids::applyConfig), QString::fromLatin1(json.constData()))) {
+        // This service has answered for the settings of other services too.
+        reject(senders, asked ? asked->getLastError() : QString(), rejectedSettings(asked));
+        return false;
     }
-    // This service has answered for the settings of other services too.
-    const QString error = client ? client->getLastError() : QString();
-    for (const QPointer<KivData>& wrapper : qAsConst(senders)) {
+    for (const QPointer<KivData>& wrapper : senders) {
         if (wrapper)
-            KivDataPrivate::of(wrapper)->isSent = false;
+            KivDataPrivate::of(wrapper)->noteChange();
     }
-    for (const QPointer<KivData>& wrapper : qAsConst(senders)) {
+    for (const QPointer<KivData>& wrapper : qAsConst(outdone)) {
         if (wrapper)
-            KivDataPrivate::of(wrapper)->reject(error);
+            wrapper->revert();
+    }
+    return true;
+}
+
+void ManifestPrivate::reject(const Senders& senders, const QString& reason, const QMap<QString, QString>& rejected)
+{
+    QMap<QString, KivData*> batch;
+    for (auto it = senders.cbegin(); it != senders.cend(); ++it) {
+        if (!*it)
+            continue;
+        KivDataPrivate::of(*it)->isSent = false;
+        batch.insert(it.key(), *it);
+    }
+    if (ChangeWatch* watch = ChangeWatch::current())
+        watch->noteBatch(batch, reason, rejected);
+    for (const QPointer<KivData>& wrapper : senders) {
+        if (wrapper)
+            KivDataPrivate::of(wrapper)->reject(reason);
     }
 }
 
 void Manifest::revertChanges()
 {
-    d->isChanging = false;
+    const uiutils::ChangeBatch batch;
+    uiutils::setChanging(this, false);
     const QStringList ids = m_items.keys();
     for (const QString& id : ids) {
         const QVector<QPointer<KivData>> wrappers = wrappersOf(id, m_items.value(id));

@@ -5,7 +5,9 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QVector>
 
+class KivData;
 class Manifest;
 
 namespace uiutils {
@@ -27,5 +29,13 @@ struct ManifestState
 const ManifestState* manifestState(const QObject* parent);
 Manifest* toManifest(QObject* parent);
 QObject* toObject(Manifest* manifest);
+
+/// All manifests of the process, in the order of their construction.
+const QVector<Manifest*>& allManifests();
+/// Begins or ends a transaction, and leaves all changes as they are.
+void setChanging(Manifest* manifest, bool isChanging);
+/// Sends the pending ones of these changes to the service of the manifest, as Manifest::applyChanges() does with all of
+/// the process. False if the service rejects them; then they are still pending.
+bool sendChanges(Manifest* manifest, const QVector<QPointer<KivData>>& wrappers);
 
 } // namespace uiutils

@@ -1,4 +1,4 @@
-#include "service/serviceitems_p.h"
+#include "service/serviceitems.h"
 
 #include "service/itemregistry_p.h"
 #include "service/kivdata_p.h"
@@ -22,6 +22,9 @@ struct Property
     const QMetaObject* kind = nullptr;
     QPointer<KivData> wrapper;
 };
+
+/// Whoever is told of one may delete others.
+using Wrappers = QHash<QString, QPointer<KivData>>;
 
 /// The class of wrappers that a property takes; null for a property of anything else.
 const QMetaObject* wrapperKind(const QMetaProperty& property)
@@ -49,7 +52,7 @@ struct ServiceItems::Private final : itemregistry::NameUser
 
     void look(itemregistry::Told told) override;
     void readProperties();
-    QHash<QString, KivData*> wrappersByName(Manifest** manifest) const;
+    Wrappers wrappersByName(QPointer<Manifest>* manifest) const;
     bool put(Property* property, KivData* wrapper, itemregistry::Told told);
     void warnOf(const QStringList& missing, const QStringList& others);
 
@@ -72,9 +75,9 @@ void ServiceItems::Private::readProperties()
 }
 
 /// By their names behind the tag. As in the context, of equal names the last in the order of ids counts.
-QHash<QString, KivData*> ServiceItems::Private::wrappersByName(Manifest** manifest) const
+Wrappers ServiceItems::Private::wrappersByName(QPointer<Manifest>* manifest) const
 {
-    QHash<QString, KivData*> found;
+    Wrappers found;
     const QMap<QString, KivData*>& entries = itemregistry::entries();
     for (KivData* wrapper : entries) {
         const ManifestState* const state = wrapper ? manifestState(wrapper->parent()) : nullptr;
@@ -122,8 +125,8 @@ void ServiceItems::Private::look(itemregistry::Told told)
 {
     if (!isComplete)
         return;
-    Manifest* manifest = nullptr;
-    const QHash<QString, KivData*> wrappers = wrappersByName(&manifest);
+    QPointer<Manifest> manifest;
+    const Wrappers wrappers = wrappersByName(&manifest);
     const bool isOther = service != manifest;
     service = manifest;
     QStringList missing;
@@ -161,7 +164,13 @@ QString ServiceItems::tag() const
 
 void ServiceItems::setTag(const QString& tag)
 {
+    if (d->tag == tag)
+        return;
+    const QPointer<ServiceItems> self(this);
     d->tag = tag;
+    Q_EMIT tagChanged();
+    if (self)
+        d->look(itemregistry::Told::Changes);
 }
 
 Manifest* ServiceItems::service() const

@@ -23,18 +23,16 @@ bool isOwn(const Message& error)
 /// The end of the id of the action that sets a batch of settings.
 const QLatin1String batchEnd(":applyconfig:");
 
-embedded::Outcome readOutcome(const Message& reply)
+/// The answer to SendBatch.
+embedded::Outcome readOutcome(const Message& reply, const QString& service)
 {
+    if (reply.signature() != "bsa{ss}")
+        return {false, BusTexts::tr("The service %1 answered something that the interface does not know.").arg(service)};
     Reader reader(reply);
-    embedded::Outcome outcome {true, QString()};
-    const QByteArray signature = reply.signature();
-    if (signature == "s") {
-        outcome.text = reader.text();
-    } else if (signature == "bsa{ss}") {
-        outcome.isDone = reader.boolean();
-        outcome.text = reader.text();
-        outcome.rejected = readTexts(reader);
-    }
+    embedded::Outcome outcome;
+    outcome.isDone = reader.boolean();
+    outcome.text = reader.text();
+    outcome.rejected = readTexts(reader);
     return outcome;
 }
 
@@ -89,10 +87,10 @@ Outcome ServiceCalls::sendAction(const QString& id, const QString& argument, int
     Writer writer(message);
     writer.text(id);
     writer.text(argument);
-    return writer.isGood() ? call(message, timeoutMs) : gone();
+    return writer.isGood() ? call(message, timeoutMs, isBatch) : gone();
 }
 
-Outcome ServiceCalls::call(const Message& message, int timeoutMs)
+Outcome ServiceCalls::call(const Message& message, int timeoutMs, bool isBatch)
 {
     if (m_isStalled)
         return {false,
@@ -100,7 +98,8 @@ Outcome ServiceCalls::call(const Message& message, int timeoutMs)
                         .arg(m_name)};
     const Message reply = m_connection->callBlocking(message, timeoutMs);
     if (!reply.isError())
-        return readOutcome(reply);
+        return isBatch ? readOutcome(reply, m_name)
+                       : Outcome {true, reply.signature() == "s" ? Reader(reply).text() : QString()};
     if (Connection::isLoss(reply))
         return {false, BusTexts::tr("The service %1 ended before it answered. Try again when it runs.").arg(m_name)};
     if (!Connection::isTimeout(reply))

@@ -30,7 +30,7 @@ public:
     embedded::Outcome gone() const;
 
 private:
-    embedded::Outcome call(const Message& message, int timeoutMs);
+    embedded::Outcome call(const Message& message, int timeoutMs, bool isBatch = false);
     void onTimeout();
 
     const QString m_name;

@@ -90,7 +90,8 @@ QString sourceText(const KIVClientItem& item, const QString& name, const QString
 
 QuietFacts quietFacts(const KIVClientItem& item, const QStringList& attributes)
 {
-    QuietFacts facts {sourceText(item, QStringLiteral("sourceLabel"), item.getLabel()), item.getMinRange(), item.getMaxRange(), {}};
+    QuietFacts facts {sourceText(item, QStringLiteral("sourceLabel"), item.getLabel()), item.getMinRange(),
+            item.getMaxRange(), {}};
     for (const QString& name : attributes) {
         const QVariant value = item.getAttribute(name);
         if (value.isValid())

@@ -62,8 +62,9 @@ AxisScale::Kind xScaleKind(const KIVClientItem& item)
 QString sourceUnit(const KIVClientItem& item)
 {
     const QString own = item.getAttribute(QStringLiteral("sourceUnit")).toString();
-    const QString named = own.isEmpty() ? item.getAttribute(QStringLiteral("formatter")).toString().section(QLatin1Char(':'), 1)
-                                        : own;
+    const QString named = own.isEmpty()
+            ? item.getAttribute(QStringLiteral("formatter")).toString().section(QLatin1Char(':'), 1)
+            : own;
     return named.isEmpty() ? item.getUnitString() : named;
 }
 

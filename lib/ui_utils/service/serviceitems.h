@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/uiutils_export.h"
 #include "service/manifest.h"
 
 #include <QObject>
@@ -10,8 +11,7 @@
 
 namespace uiutils {
 
-/// The items of one service as properties: the root of the modules that uiutils-describe writes, so that editors and
-/// checks know the items before a page runs.
+/// The items of one service as properties: the root of the modules that uiutils-describe writes.
 ///
 /// A document with this root declares a property for each item, named like the item in QML without the service's tag,
 /// of the type KivData, KivAggregateData or KivListAggregateData:
@@ -26,12 +26,12 @@ namespace uiutils {
 /// after the wrapper was replaced. Properties of other types are left alone. An item that is of another kind than its
 /// property says stays null, and one warning says so; another one names items that a service that is there does not
 /// have.
-class ServiceItems : public QObject, public QQmlParserStatus
+class UIUTILS_EXPORT ServiceItems : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
-    /// What the names of the items in the context begin with, for example "optical". Set once, in the document.
-    Q_PROPERTY(QString tag READ tag WRITE setTag CONSTANT)
+    /// What the names of the items in the context begin with, for example "optical".
+    Q_PROPERTY(QString tag READ tag WRITE setTag NOTIFY tagChanged)
     /// The manifest of the service, for transactions; null until the service is there.
     Q_PROPERTY(Manifest* service READ service NOTIFY serviceChanged)
 
@@ -47,6 +47,7 @@ public:
     void componentComplete() override;
 
 Q_SIGNALS:
+    void tagChanged();
     void serviceChanged();
 
 private:

@@ -1,0 +1,137 @@
+#include "service/pendingchange_p.h"
+
+#include "core/itemids_p.h"
+#include "core/plainvalue_p.h"
+#include "service/kivdata_p.h"
+#include "service/manifest.h"
+#include "service/manifeststate_p.h"
+#include "service/valuetext_p.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <tuple>
+
+namespace uiutils {
+
+namespace {
+
+bool isNumber(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Float:
+    case QMetaType::Double:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// A number as the type that the service uses: pages set 3 where the service means 3.000.
+QVariant asTypeOf(const QVariant& value, const QVariant& served)
+{
+    QVariant converted = value;
+    return isNumber(value) && isNumber(served) && converted.convert(served.userType()) && meansSame(converted, value)
+            ? converted
+            : value;
+}
+
+bool isList(const QVariant& value)
+{
+    return value.userType() == QMetaType::QVariantList || value.userType() == QMetaType::QStringList;
+}
+
+QString plainText(const QVariant& value, int precision)
+{
+    const QLocale locale;
+    if (value.userType() == QMetaType::Double) {
+        return precision < 0 ? locale.toString(value.toDouble(), 'g', QLocale::FloatingPointShortest)
+                             : locale.toString(value.toDouble(), 'f', precision);
+    }
+    if (isNumber(value) && value.userType() != QMetaType::Bool)
+        return locale.toString(value.toLongLong());
+    if (!isList(value) && value.userType() != QMetaType::QVariantMap)
+        return value.toString();
+    QStringList texts;
+    const QVariantList elements = isList(value) ? value.toList() : QVariantList(value.toMap().values());
+    for (const QVariant& element : elements)
+        texts += plainText(element, precision);
+    return texts.join(QLatin1String(", "));
+}
+
+/// A formatter that scales has another unit for another value, so its own units are shown, unless the service names one.
+QString textOfFormatter(BaseFormatter& formatter, const KivData& item, const QVariant& value)
+{
+    const QVariant held = formatter.getValue();
+    formatter.setValue(KivDataPrivate::of(&item)->reportedValue());
+    const QString unit = item.getUnitString();
+    const bool hasOwnUnit = unit == formatter.getUnitString();
+    formatter.setValue(held);
+    const QString text = formattedText(formatter, value, hasOwnUnit);
+    return hasOwnUnit || unit.isEmpty() ? text : text + QLatin1Char(' ') + unit;
+}
+
+} // namespace
+
+bool meansSame(const QVariant& a, const QVariant& b)
+{
+    if (isSameValue(a, b))
+        return true;
+    if (isNumber(a) && isNumber(b))
+        return a.toDouble() == b.toDouble();
+    if (isList(a) && isList(b)) {
+        const QVariantList as = a.toList();
+        const QVariantList bs = b.toList();
+        return std::equal(as.cbegin(), as.cend(), bs.cbegin(), bs.cend(), meansSame);
+    }
+    if (a.userType() != QMetaType::QVariantMap || b.userType() != QMetaType::QVariantMap)
+        return false;
+    const QVariantMap as = a.toMap();
+    const QVariantMap bs = b.toMap();
+    return as.keys() == bs.keys() && meansSame(as.values(), bs.values());
+}
+
+QString settingText(KivData& item, const QVariant& value)
+{
+    const QString choice = item.getEnumCount() > 0 ? item.enumLabelForValue(value.toInt()) : QString();
+    if (!choice.isEmpty())
+        return choice;
+    if (BaseFormatter* formatter = item.getBaseFormatter())
+        return textOfFormatter(*formatter, item, value);
+    const QVariant precision = item.getAttr(QStringLiteral("precision"));
+    const QString text = plainText(value, precision.isNull() ? -1 : precision.toInt());
+    const QString unit = item.getUnitString();
+    return unit.isEmpty() ? text : text + QLatin1Char(' ') + unit;
+}
+
+bool renew(PendingChange& change)
+{
+    if (!change.item)
+        return false;
+    const auto known = [&change] { return std::tie(change.oldText, change.newText, change.label, change.service); };
+    const std::tuple<QString, QString, QString, QString> before = known();
+    const QVariant oldBefore = change.oldValue;
+    KivData& item = *change.item;
+    const KivDataPrivate* parts = KivDataPrivate::of(&item);
+    change.oldValue = parts->reportedValue();
+    if (const Manifest* manifest = toManifest(item.parent()))
+        change.service = manifest->getServiceName();
+    if (parts->item) {
+        change.label = item.getLabel().isEmpty() ? item.getName() : item.getLabel();
+        change.oldText = settingText(item, change.oldValue);
+        change.newText = settingText(item, asTypeOf(change.newValue, change.oldValue));
+    } else if (change.label.isEmpty()) {
+        // It was made while the service was away.
+        change.label = itemids::nameOf(change.id);
+        change.oldText = plainText(change.oldValue, -1);
+        change.newText = plainText(change.newValue, -1);
+    }
+    return known() != before || !isSameValue(change.oldValue, oldBefore);
+}
+
+} // namespace uiutils
