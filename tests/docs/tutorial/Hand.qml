@@ -16,11 +16,13 @@ Item {
     }
     // Every text that is shown, as an eye finds them.
     function texts() {
+        all(page).filter(item => item.forceLayout !== undefined).forEach(item => item.forceLayout())
         return all(page).filter(item => item.visible && item.opacity > 0 && typeof item.text === "string" && item.font !== undefined
                                         && item.clicked === undefined && item.text !== "").map(item => item.text)
     }
+    // Of several, the one at the lower edge.
     function button(text) {
-        return all(page).find(item => item.clicked !== undefined && item.text === text)
+        return all(page).filter(item => item.clicked !== undefined && item.text === text).pop()
     }
     function entry(label) {
         return all(page).find(item => item.storeWith !== undefined && item.label === label)

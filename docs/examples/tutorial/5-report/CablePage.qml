@@ -5,18 +5,18 @@ import UiUtils.Controls 1.0
 
 KitPage {
     title: qsTr("Cable test")
-    Component.onCompleted: services.cable.startChanges()
-
     footer: [
-        BodyText { Layout.fillWidth: true; text: cable_cfg_length.error },
+        Item { Layout.fillWidth: true },
         TouchButton {
             text: qsTr("Revert")
-            onClicked: { services.cable.revertChanges(); services.cable.startChanges() }
+            enabled: pending.count > 0
+            onClicked: { pending.revertAll(); pending.begin() }
         },
         TouchButton {
             text: qsTr("Apply")
             filled: true
-            onClicked: { services.cable.applyChanges(); services.cable.startChanges() }
+            enabled: pending.waiting > 0
+            onClicked: { pending.apply(); pending.begin() }
         }
     ]
 
@@ -31,6 +31,17 @@ KitPage {
 
         ItemEntry { Layout.fillWidth: true; item: cable_cfg_site }
         ItemEntry { Layout.fillWidth: true; item: cable_cfg_length }
+    }
+    PendingChanges {
+        id: pending
+        Component.onCompleted: begin()
+    }
+    Card {
+        Layout.fillWidth: true
+        title: qsTr("Changes")
+        visible: pending.count > 0
+
+        PendingChangesView { Layout.fillWidth: true; changes: pending }
     }
     Card {
         Layout.fillWidth: true
