@@ -75,6 +75,7 @@ exform      examples/form                   LIBRARY contract host
 exreport    examples/report                 LIBRARY contract host
 exservice   examples/service                contract embedded bus host
 explatform  examples/platform               contract host
+extutorial  docs/examples/tutorial/9-program host
 benchmarks  benchmarks                      LIBRARY podofo base contract embedded liveplot
 startbench  benchmarks/start                -
 openbench   benchmarks/inspector            LIBRARY base contract embedded replay host inspector
