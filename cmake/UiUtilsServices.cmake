@@ -1,5 +1,5 @@
 # uiutils_add_services(<target> [FILES <file>...] [FOLDER <folder>...] [IMPORT_NAME <name>] [OUTPUT <folder>]
-#                      [DESTINATION <folder>])
+#                      [DESTINATION <folder>] [CHECK] [PAGES <page>...])
 #
 # Makes a QML module of every service that the service files describe, and builds the modules into the target, so that
 # its pages import them wherever it runs:
@@ -13,11 +13,13 @@
 #     target's property UIUTILS_IMPORT_PATH, and is added to the variable QML_IMPORT_PATH of the cache, which Qt Creator
 #     reads.
 # DESTINATION: an import path in which the modules are installed as files too, for other programs.
+# CHECK, PAGES: what uiutils-check says of the service files, and of these pages over them, stands in the output of the
+#     build; an error ends it.
 #
 # Of a static library, pages find the modules after Q_INIT_RESOURCE(<target>_services), with "_" in the place of every
 # character that C does not allow in names.
 function(uiutils_add_services target)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "IMPORT_NAME;OUTPUT;DESTINATION" "FILES;FOLDER")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "CHECK" "IMPORT_NAME;OUTPUT;DESTINATION" "FILES;FOLDER;PAGES")
     if(NOT TARGET "${target}")
         message(FATAL_ERROR "uiutils_add_services: There is no target \"${target}\". Add it first.")
     endif()
@@ -25,7 +27,7 @@ function(uiutils_add_services target)
         message(FATAL_ERROR "uiutils_add_services(${target}): Unknown argument \"${arg_UNPARSED_ARGUMENTS}\".")
     endif()
     uiutils_service_files(files "${target}" "${arg_FILES}" "${arg_FOLDER}")
-    uiutils_describe_program(program)
+    uiutils_tool(program uiutils-describe UIUTILS_DESCRIBE)
     if(NOT arg_IMPORT_NAME)
         set(arg_IMPORT_NAME Instrument)
     endif()
@@ -39,12 +41,32 @@ function(uiutils_add_services target)
     set(collection "${CMAKE_CURRENT_BINARY_DIR}/${name}.qrc")
     set(source "${CMAKE_CURRENT_BINARY_DIR}/qrc_${name}.cpp")
     list(TRANSFORM files PREPEND "--services=" OUTPUT_VARIABLE options)
+    # Its words about a file are better than those of whoever cannot use the file, so it comes first.
+    set(check_files "")
+    set(check_pages "")
+    set(checker "")
+    if(arg_CHECK OR arg_PAGES)
+        uiutils_tool(checker uiutils-check UIUTILS_CHECK)
+        set(check_files COMMAND "${checker}" ${files})
+    endif()
+    set(pages "")
+    foreach(page IN LISTS arg_PAGES)
+        get_filename_component(page "${page}" ABSOLUTE)
+        list(APPEND pages "${page}")
+    endforeach()
+    if(pages)
+        # Warnings about service files come with those about pages.
+        list(INSERT check_files 2 --quiet)
+        set(check_pages COMMAND "${checker}" "--import=${output}" ${files} ${pages})
+    endif()
     add_custom_command(OUTPUT "${source}" BYPRODUCTS "${collection}"
+        ${check_files}
         # A service that is no longer described has no module.
         COMMAND "${CMAKE_COMMAND}" -E rm -rf "${modules}"
         COMMAND "${program}" ${options} "--output=${output}" "--import-name=${arg_IMPORT_NAME}" "--resource=${collection}"
+        ${check_pages}
         COMMAND Qt5::rcc --name "${name}" --output "${source}" "${collection}"
-        DEPENDS ${files} "${program}"
+        DEPENDS ${files} ${pages} "${program}" ${checker}
         COMMENT "Describing the services of ${target}"
         VERBATIM)
     set_source_files_properties("${source}" PROPERTIES SKIP_AUTOGEN ON)
@@ -83,20 +105,20 @@ function(uiutils_service_files result target files folders)
     set(${result} "${all}" PARENT_SCOPE)
 endfunction()
 
-# The program that makes modules: that of this build, or an installed one, which runs on the machine that builds.
-function(uiutils_describe_program result)
-    if(TARGET uiutils-describe AND NOT CMAKE_CROSSCOMPILING)
-        set(${result} uiutils-describe PARENT_SCOPE)
+# The program of that name: that of this build, or an installed one, which runs on the machine that builds.
+function(uiutils_tool result name variable)
+    if(TARGET ${name} AND NOT CMAKE_CROSSCOMPILING)
+        set(${result} ${name} PARENT_SCOPE)
         return()
     endif()
     set(hints "")
     if(NOT CMAKE_CROSSCOMPILING)
         set(hints HINTS "${UiUtils_PREFIX}/bin")
     endif()
-    find_program(UIUTILS_DESCRIBE uiutils-describe ${hints} DOC "The program that makes QML modules of services")
-    if(NOT UIUTILS_DESCRIBE)
-        message(FATAL_ERROR "uiutils_add_services() needs the program uiutils-describe, and did not find it. Debian has "
-            "it in the package uiutils-tools. If it is installed elsewhere, name it with -DUIUTILS_DESCRIBE=PATH.")
+    find_program(${variable} ${name} ${hints} DOC "The program ${name} of uiutils")
+    if(NOT ${variable})
+        message(FATAL_ERROR "uiutils_add_services() needs the program ${name}, and did not find it. Debian has it in the "
+            "package uiutils-tools. If it is installed elsewhere, name it with -D${variable}=PATH.")
     endif()
-    set(${result} "${UIUTILS_DESCRIBE}" PARENT_SCOPE)
+    set(${result} "${${variable}}" PARENT_SCOPE)
 endfunction()

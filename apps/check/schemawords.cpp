@@ -137,6 +137,7 @@ private:
     void checkEnum(const JsonNode& allowed, const JsonNode& value);
     void checkNumber(const JsonNode& rule, const JsonNode& value);
     void checkText(const JsonNode& rule, const JsonNode& value);
+    bool hasForm(const QString& text, const JsonNode& pattern);
     void checkSize(const JsonNode& rule, const JsonNode& value);
     void checkList(const JsonNode& rule, const JsonNode& value, const Condition& condition);
     void checkObject(const JsonNode& rule, const JsonNode& value, const Condition& condition);
@@ -155,6 +156,8 @@ private:
     Name m_name;
     Condition m_condition;
     QString m_meaning;
+    /// By the rule that has them.
+    QHash<const JsonNode*, QRegularExpression> m_forms;
     QVector<Violation> m_violations;
 };
 
@@ -263,21 +266,29 @@ void Walk::checkNumber(const JsonNode& rule, const JsonNode& value)
         mustBe(value, QStringLiteral("be greater than ") + shownNumber(above->number));
 }
 
+bool Walk::hasForm(const QString& text, const JsonNode& pattern)
+{
+    auto form = m_forms.find(&pattern);
+    if (form == m_forms.end())
+        form = m_forms.insert(&pattern, QRegularExpression(pattern.text));
+    return form->match(text).hasMatch();
+}
+
 void Walk::checkText(const JsonNode& rule, const JsonNode& value)
 {
     if (!value.isText())
         return;
-    const int length = value.text.toUcs4().size();
     const JsonNode* least = rule.member("minLength");
     const JsonNode* most = rule.member("maxLength");
     const JsonNode* pattern = rule.member("pattern");
+    const int length = least || most ? value.text.toUcs4().size() : 0;
     if (least && length < least->number)
         tell(value.offset, m_name.words() + QStringLiteral(" must not be empty."));
     if (most && length > most->number)
         tell(value.offset,
                 QStringLiteral("%1 must have at most %2 characters, but has %3.")
                         .arg(m_name.words(), shownNumber(most->number), QString::number(length)));
-    if (pattern && !QRegularExpression(pattern->text).match(value.text).hasMatch())
+    if (pattern && !hasForm(value.text, *pattern))
         mustBe(value, patternWords(pattern->text));
 }
 

@@ -75,7 +75,7 @@ exform      examples/form                   LIBRARY contract host
 exreport    examples/report                 LIBRARY contract host
 exservice   examples/service                contract embedded bus host
 explatform  examples/platform               contract host
-extutorial  docs/examples/tutorial/9-program host
+extutorial  docs/examples/tutorial/9-program  host
 benchmarks  benchmarks                      LIBRARY podofo base contract embedded liveplot
 startbench  benchmarks/start                -
 openbench   benchmarks/inspector            LIBRARY base contract embedded replay host inspector
@@ -102,7 +102,7 @@ LINKED_AGAIN = {"liveplot": "lib/ui_utils/writers/plots/",
                 # What reads a file wrongly in a program must read it in the same way when it is checked.
                 "check": ("lib/ui_utils/service/applicability_p.h", "platform/reference/embedded/", "platform/reference/formatters/",
                           "platform/reference/simulation/")}
-GUESTS = {"demo", "expage", "exform", "exreport", "exservice", "explatform"}
+GUESTS = {"demo", "expage", "exform", "exreport", "exservice", "explatform", "extutorial"}
 # The libraries of the tree that the demo may link besides installed ones: its own parts, and what programs share.
 DEMO_LINKS = {"uiutils_demo_parts", "uiutils_apps_common", "uiutils_inspector"}
 LARGEST_CIRCLE = 3

@@ -1,3 +1,0 @@
-import QtQuick 2.15
-
-Text { text: "Grüße" }
