@@ -25,18 +25,24 @@ PLANTED = [
     (1, [(PAGE, "double\t40.0 m", "double\t41.0 m")], "prints\ncable_cfg_length\tdouble\t40.0 m"),
     (1, [(PAGE, "<!-- hand:", "<!-- foot:")], "prints"),
     (1, [(name, '"precision": 2 }', '"precision": 2, "unti": "dB" }') for name in (PAGE, STEPS + "1-service/cable.service.json")],
-     "uiutils-check says"),
+     "uiutils-check . says"),
     (2, [(PAGE, "uiutils-qml CablePage.qml", "uiutils-qml CablesPage.qml")], "ends with 1"),
     (7, [(STEPS + "7-test/golden/CablePage@2s.txt", "Fail", "Pass")], "CablePage@2s.txt differs"),
     (7, [(PAGE, "kivctl record", "kivctl recall")], "ends with 2"),
     # The pages.
     (3, [(name, "item: cable_cfg_length }", "item: cable_cfg_site }") for name in (PAGE, STEPS + "3-form/CablePage.qml")],
      "look.qml prints"),
+    (3, [(name, "item: cable_cfg_site }", "item: cable_cfg_site; Component.onCompleted: write() }")
+         for name in (PAGE, STEPS + "3-form/CablePage.qml")], "--check says"),
     (4, [(name, "pending.apply(); ", "") for name in (PAGE, STEPS + "4-changes/CablePage.qml")], "changes.qml prints"),
     (5, [(name, 'qsTr("Save");', 'qsTr("Save"); implicitHeight: 20;') for name in (PAGE, STEPS + "5-report/CablePage.qml")],
      "the audit says"),
     (5, [(name, "[cable_cfg_length, cable_res_loss]", "[cable_cfg_length]") for name in (PAGE, STEPS + "5-report/CablePage.qml")],
      "one.pdf lacks Loss"),
+    (6, [(name, '"refuse": "The tester is locked."', '"ready": false') for name in (PAGE, STEPS + "6-bad-state/cable.service.json")],
+     "refused.qml prints"),
+    (8, [(PAGE, "sed -i 's/cable_/", "sed -n 's/cable_/")], "nobody is told to type into CablePage.qml: label: Cable.res_loss.label"),
+    (9, [(name, "    host.showTo(&engine);\n", "") for name in (PAGE, STEPS + "9-program/main.cpp")], "ends with 1"),
 ]
 
 

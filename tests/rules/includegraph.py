@@ -34,7 +34,7 @@ def read_tree(root):
         folders[:] = sorted(name for name in folders if not name.startswith(".") and (here, name) not in ((".", "build"), ("tests", "data")))
         for name in names:
             if name.endswith(SOURCES + (".qml",)) or name == "CMakeLists.txt":
-                with open(os.path.join(folder, name), encoding="utf-8") as file:
+                with open(os.path.join(folder, name), encoding="utf-8", errors="replace") as file:
                     texts[os.path.normpath(os.path.join(here, name))] = file.read()
     return texts
 

@@ -100,7 +100,8 @@ SHARED_WITH_PROGRAMS = ("base/", "platform/reference/replay/", "lib/ui_host/")
 # Parts of libraries that hold no state, which these rooms link once more because the libraries hide them.
 LINKED_AGAIN = {"liveplot": "lib/ui_utils/writers/plots/",
                 # What reads a file wrongly in a program must read it in the same way when it is checked.
-                "check": ("lib/ui_utils/service/applicability_p.h", "platform/reference/embedded/", "platform/reference/formatters/",
+                "check": ("lib/ui_utils/core/dynamicobject_p.h", "lib/ui_utils/service/applicability_p.h",
+                          "platform/reference/embedded/", "platform/reference/formatters/",
                           "platform/reference/simulation/")}
 GUESTS = {"demo", "expage", "exform", "exreport", "exservice", "explatform", "extutorial"}
 # The libraries of the tree that the demo may link besides installed ones: its own parts, and what programs share.

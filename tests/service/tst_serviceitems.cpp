@@ -11,6 +11,7 @@
 #include <QQmlExpression>
 #include <QtTest>
 
+#include <functional>
 #include <memory>
 
 namespace {
@@ -45,16 +46,16 @@ void keep(QtMsgType type, const QMessageLogContext&, const QString& text)
 
 } // namespace
 
-/// Deletes its target when it is told.
+/// Does what a page may do when it is told.
 class Ender : public QObject
 {
     Q_OBJECT
 
 public:
-    std::unique_ptr<QObject> target;
+    std::function<void()> act;
 
 public Q_SLOTS:
-    void end() { target.reset(); }
+    void end() { act(); }
 };
 
 /// The root of the modules that describe services: its properties are what the context has under the complete names.
@@ -226,13 +227,32 @@ private Q_SLOTS:
         m_client->add(modeId, 3);
         knowNames();
         const auto other = made();
+        auto object = made();
         Ender ender;
-        ender.target = made();
-        connect(ender.target.get(), SIGNAL(cfg_modeChanged()), &ender, SLOT(end()));
+        ender.act = [&object] { object.reset(); };
+        connect(object.get(), SIGNAL(cfg_modeChanged()), &ender, SLOT(end()));
         const Manifest manifest(m_client.get(), "rec", "rec");
         knowNames();
-        QVERIFY(!ender.target);
+        QVERIFY(!object);
         QVERIFY(wrapperAt(other, "cfg_mode"));
+    }
+
+    void whoIsToldMayDeleteItems()
+    {
+        m_client->add(modeId, 3);
+        m_client->add(":result:rec:test:power:", 1.5);
+        m_client->add<RecordedList>(":result:rec:test:events:");
+        knowNames();
+        const auto object = made();
+        auto manifest = std::make_unique<Manifest>(m_client.get(), "rec", "rec");
+        Ender ender;
+        ender.act = [&manifest] { manifest.reset(); };
+        connect(object.get(), SIGNAL(cfg_modeChanged()), &ender, SLOT(end()));
+        knowNames();
+        QVERIFY(!manifest);
+        for (const char* name : {"cfg_mode", "res_power", "res_events", "service"})
+            QVERIFY(!object->property(name).value<QObject*>());
+        QCOMPARE(warnings(), QStringList());
     }
 };
 

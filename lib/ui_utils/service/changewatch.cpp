@@ -12,9 +12,9 @@ ChangeBatch* s_batch = nullptr;
 
 ChangeWatch* ChangeWatch::s_current = nullptr;
 
-void ChangeWatch::flush()
+void ChangeWatch::flushCurrent()
 {
-    if (s_current && !ChangeBatch::isGathering())
+    if (!ChangeBatch::isGathering())
         s_current->announce();
 }
 

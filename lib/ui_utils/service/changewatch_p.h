@@ -42,13 +42,19 @@ public:
     virtual void announce() = 0;
 
     /// Announces what was noted, unless a ChangeBatch gathers it.
-    static void flush();
+    static void flush()
+    {
+        if (s_current)
+            flushCurrent();
+    }
 
 protected:
     ~ChangeWatch() = default;
     static void setCurrent(ChangeWatch* watch) { s_current = watch; }
 
 private:
+    static void flushCurrent();
+
     static ChangeWatch* s_current;
 };
 
