@@ -1,4 +1,4 @@
-#include "check/pagecheck.h"
+#include "check/pages/pagecheck.h"
 #include "columns.h"
 #include "golden.h"
 
