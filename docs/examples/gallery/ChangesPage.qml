@@ -9,7 +9,6 @@ KitPage {
 
     title: qsTr("Changes that wait")
     subtitle: qsTr("Nothing is sent before Apply")
-    scrolls: false
     footer: [
         Item { Layout.fillWidth: true },
         TouchButton {
@@ -46,7 +45,7 @@ KitPage {
             Layout.preferredWidth: 3
             title: qsTr("Review")
 
-            PendingChangesView { Layout.fillWidth: true; Layout.fillHeight: true; changes: pending }
+            PendingChangesView { Layout.fillWidth: true; changes: pending }
         }
     }
 }
