@@ -61,9 +61,8 @@ function(uiutils_add_services target)
     endif()
     add_custom_command(OUTPUT "${source}" BYPRODUCTS "${collection}"
         ${check_files}
-        # A service that is no longer described has no module.
-        COMMAND "${CMAKE_COMMAND}" -E rm -rf "${modules}"
         COMMAND "${program}" ${options} "--output=${output}" "--import-name=${arg_IMPORT_NAME}" "--resource=${collection}"
+        COMMAND "${CMAKE_COMMAND}" "-DCOLLECTION=${collection}" -P "${CMAKE_CURRENT_FUNCTION_LIST_FILE}"
         ${check_pages}
         COMMAND Qt5::rcc --name "${name}" --output "${source}" "${collection}"
         DEPENDS ${files} ${pages} "${program}" ${checker}
@@ -122,3 +121,30 @@ function(uiutils_tool result name variable)
     endif()
     set(${result} "${${variable}}" PARENT_SCOPE)
 endfunction()
+
+# As a script, within a build: a service that is no longer described has no module. Only what an earlier build of the
+# same target has made is removed, and only after the services could be described: the folder may hold other modules.
+if(CMAKE_SCRIPT_MODE_FILE AND CMAKE_SCRIPT_MODE_FILE STREQUAL CMAKE_CURRENT_LIST_FILE)
+    cmake_policy(VERSION 3.25)
+    set(made "")
+    set(former "")
+    file(STRINGS "${COLLECTION}" lines ENCODING UTF-8 REGEX "<file ")
+    foreach(line IN LISTS lines)
+        string(REGEX REPLACE ".*<file alias=\"[^\"]*\">(.*)</file>.*" "\\1" file "${line}")
+        string(REPLACE "&lt;" "<" file "${file}")
+        string(REPLACE "&gt;" ">" file "${file}")
+        string(REPLACE "&quot;" "\"" file "${file}")
+        string(REPLACE "&amp;" "&" file "${file}")
+        list(APPEND made "${file}")
+    endforeach()
+    if(EXISTS "${COLLECTION}.made")
+        file(STRINGS "${COLLECTION}.made" former ENCODING UTF-8)
+    endif()
+    foreach(file IN LISTS former)
+        if(NOT file IN_LIST made)
+            file(REMOVE "${file}")
+        endif()
+    endforeach()
+    list(JOIN made "\n" text)
+    file(WRITE "${COLLECTION}.made" "${text}\n")
+endif()
