@@ -415,9 +415,16 @@ private Q_SLOTS:
         QTest::newRow("any decimals") << "double" << none << QVariant(1.5) << QVariant(0.125) << "1,5 dB>0,125 dB";
         QTest::newRow("list") << "std::vector<double>" << none << QVariant(QVariantList {1.5}) << QVariant(QVariantList {1.5, 2.0})
                               << "1,5 dB>1,5, 2 dB";
+        QTest::newRow("list of whole numbers") << "std::vector<double>" << QVariantMap {{"precision", 2}} << QVariant(QVariantList {1.5})
+                                               << QVariant(QVariantList {1, 2}) << "1,50 dB>1,00, 2,00 dB";
+        QTest::newRow("empty list") << "std::vector<double>" << none << QVariant(QVariantList {1.5}) << QVariant(QVariantList {}) << "1,5 dB>";
+        QTest::newRow("digits that a double has not") << "int" << none << QVariant(9'007'199'254'740'992LL) << QVariant(9'007'199'254'740'993LL)
+                                                      << "9.007.199.254.740.992 dB>9.007.199.254.740.993 dB";
         // Its own unit follows its own value; "stale" would be the one of the value before.
         QTest::newRow("formatter") << "double" << QVariantMap {{"formatter", "scaling"}} << QVariant(900.0) << QVariant(1500.0)
                                    << "900 Hz>1.5 kHz";
+        QTest::newRow("formatter of a list") << "std::vector<double>" << QVariantMap {{"formatter", "scaling"}} << QVariant(QVariantList {900.0})
+                                             << QVariant(QVariantList {1500.0, 2.0}) << "900 Hz>1.5 kHz, 2 Hz";
     }
 
     void values()

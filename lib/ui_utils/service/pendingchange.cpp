@@ -32,18 +32,30 @@ bool isNumber(const QVariant& value)
     }
 }
 
-/// A number as the type that the service uses: pages set 3 where the service means 3.000.
-QVariant asTypeOf(const QVariant& value, const QVariant& served)
+bool isReal(const QVariant& value)
 {
-    QVariant converted = value;
-    return isNumber(value) && isNumber(served) && converted.convert(served.userType()) && meansSame(converted, value)
-            ? converted
-            : value;
+    return value.userType() == QMetaType::Double || value.userType() == QMetaType::Float;
 }
 
 bool isList(const QVariant& value)
 {
     return value.userType() == QMetaType::QVariantList || value.userType() == QMetaType::QStringList;
+}
+
+/// Numbers as the type that the service uses: pages set 3 where the service means 3.000.
+QVariant asTypeOf(const QVariant& value, const QVariant& served)
+{
+    if (isList(value) && isList(served)) {
+        const QVariant servedElement = served.toList().value(0);
+        QVariantList elements = value.toList();
+        for (QVariant& element : elements)
+            element = asTypeOf(element, servedElement);
+        return elements;
+    }
+    QVariant converted = value;
+    return isNumber(value) && isNumber(served) && converted.convert(served.userType()) && meansSame(converted, value)
+            ? converted
+            : value;
 }
 
 QString plainText(const QVariant& value, int precision)
@@ -64,6 +76,23 @@ QString plainText(const QVariant& value, int precision)
     return texts.join(QLatin1String(", "));
 }
 
+QString withUnit(const QString& text, const QString& unit)
+{
+    return text.isEmpty() || unit.isEmpty() ? text : text + QLatin1Char(' ') + unit;
+}
+
+/// A formatter knows single values.
+QString formattedElements(BaseFormatter& formatter, const QVariant& value, bool showUnits)
+{
+    if (!isList(value))
+        return formattedText(formatter, value, showUnits);
+    QStringList texts;
+    const QVariantList elements = value.toList();
+    for (const QVariant& element : elements)
+        texts += formattedText(formatter, element, showUnits);
+    return texts.join(QLatin1String(", "));
+}
+
 /// A formatter that scales has another unit for another value, so its own units are shown, unless the service names one.
 QString textOfFormatter(BaseFormatter& formatter, const KivData& item, const QVariant& value)
 {
@@ -72,8 +101,8 @@ QString textOfFormatter(BaseFormatter& formatter, const KivData& item, const QVa
     const QString unit = item.getUnitString();
     const bool hasOwnUnit = unit == formatter.getUnitString();
     formatter.setValue(held);
-    const QString text = formattedText(formatter, value, hasOwnUnit);
-    return hasOwnUnit || unit.isEmpty() ? text : text + QLatin1Char(' ') + unit;
+    const QString text = formattedElements(formatter, value, hasOwnUnit);
+    return hasOwnUnit ? text : withUnit(text, unit);
 }
 
 } // namespace
@@ -82,8 +111,11 @@ bool meansSame(const QVariant& a, const QVariant& b)
 {
     if (isSameValue(a, b))
         return true;
-    if (isNumber(a) && isNumber(b))
-        return a.toDouble() == b.toDouble();
+    if (isNumber(a) && isNumber(b)) {
+        // A double does not have all digits of a large whole number.
+        const bool areEqual = a.toDouble() == b.toDouble();
+        return isReal(a) || isReal(b) ? areEqual : areEqual && a.toLongLong() == b.toLongLong();
+    }
     if (isList(a) && isList(b)) {
         const QVariantList as = a.toList();
         const QVariantList bs = b.toList();
@@ -104,9 +136,7 @@ QString settingText(KivData& item, const QVariant& value)
     if (BaseFormatter* formatter = item.getBaseFormatter())
         return textOfFormatter(*formatter, item, value);
     const QVariant precision = item.getAttr(QStringLiteral("precision"));
-    const QString text = plainText(value, precision.isNull() ? -1 : precision.toInt());
-    const QString unit = item.getUnitString();
-    return unit.isEmpty() ? text : text + QLatin1Char(' ') + unit;
+    return withUnit(plainText(value, precision.isNull() ? -1 : precision.toInt()), item.getUnitString());
 }
 
 bool renew(PendingChange& change)
