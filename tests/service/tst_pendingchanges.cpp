@@ -12,6 +12,7 @@
 #include <QRandomGenerator>
 #include <QtTest>
 
+#include <array>
 #include <memory>
 
 using uiutils::PendingChanges;
@@ -243,6 +244,7 @@ private Q_SLOTS:
     void aRejectedSettingSaysWhy()
     {
         m_changes->begin();
+        const Service idle("idle");
         m_rec->item("a")->setValue(7);
         m_rec->item("b")->setValue(8);
         m_rec->client.refusal = "Nothing was set.";
@@ -250,8 +252,8 @@ private Q_SLOTS:
         QVERIFY(!m_changes->apply());
         QCOMPARE(rowsOf(*m_changes), (Rows {"a 5>7 waiting", "b 5>8 refused 8 is too much."}));
         QVERIFY(m_changes->waiting() == 2 && m_changes->problem().isEmpty());
-        // What is corrected now has to wait.
-        QVERIFY(m_changes->isChanging());
+        // What is corrected now has to wait. A service that has nothing to do with it goes on taking what is set.
+        QVERIFY(m_changes->isChanging() && !idle.manifest->isChanging());
         m_rec->item("b")->setValue(6);
         QCOMPARE(rowsOf(*m_changes), (Rows {"a 5>7 waiting", "b 5>6 waiting"}));
         m_rec->client.rejected = {{"a", "No."}};
@@ -348,6 +350,15 @@ private Q_SLOTS:
         QCOMPARE(states.size(), 3);
         ofRec.setManifests({QVariant()});
         QVERIFY(rowsOf(ofRec).isEmpty());
+        // Another one may be made where one was.
+        alignas(Manifest) std::array<unsigned char, sizeof(Manifest)> place {};
+        for (int times = 0; times < 2; ++times) {
+            auto* const manifest = new (place.data()) Manifest(&idle.client, "idle", "idle");
+            ofRec.setManifests({QVariant::fromValue(manifest)});
+            ofRec.begin();
+            QVERIFY(manifest->isChanging());
+            manifest->~Manifest();
+        }
         ofRec.setManifests({});
         QCOMPARE(rowsOf(ofRec), Rows {"b 5>2 waiting"});
     }
@@ -624,6 +635,8 @@ private Q_SLOTS:
                 [](PendingChanges&, Service& rec) { rec.manifest->applyChanges(); },
                 [](PendingChanges&, Service& rec) { rec.client.remove(rec.id("a")); },
                 [](PendingChanges&, Service& rec) { delete rec.item("a"); },
+                [](PendingChanges&, Service& rec) { rec.manifest.reset(); },
+                [](PendingChanges& changes, Service&) { changes.setManifests({QVariant()}); },
         };
         for (const Step& step : steps) {
             m_tester.reset();
@@ -655,6 +668,7 @@ private Q_SLOTS:
                 dialog.exec();
             };
             PendingChanges* const model = changes.get();
+            connect(model, &PendingChanges::modelAboutToBeReset, &context, act);
             connect(model, &PendingChanges::dataChanged, &context, act);
             connect(model, &PendingChanges::rowsInserted, &context, act);
             connect(model, &PendingChanges::rowsRemoved, &context, act);
