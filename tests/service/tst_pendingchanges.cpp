@@ -297,6 +297,11 @@ private Q_SLOTS:
         };
         QVERIFY(!m_changes->apply());
         QCOMPARE(rowsOf(*m_changes), Rows {"a 6>7 overtaken"});
+        // One that is sent alone.
+        m_rec->item("c")->setValue(9);
+        m_rec->client.onSet = [this](const QVariant&) { m_rec->report("c", 1); };
+        m_rec->item("c")->apply();
+        QCOMPARE(rowsOf(*m_changes), (Rows {"a 6>7 overtaken", "c 1>9 overtaken"}));
     }
 
     void eachServiceGetsItsOwn()
@@ -573,6 +578,15 @@ private Q_SLOTS:
         QCOMPARE(changes.waiting(), 10'000);
         removals.clear();
         large.manifest->revertChanges();
+        QCOMPARE(changes.count(), 0);
+        QCOMPARE(removals.size(), 1);
+
+        // They go with their manifest.
+        changes.begin();
+        for (const QString& name : qAsConst(names))
+            large.item(name)->setValue(8);
+        removals.clear();
+        large.manifest.reset();
         QCOMPARE(changes.count(), 0);
         QCOMPARE(removals.size(), 1);
     }
