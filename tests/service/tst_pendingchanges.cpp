@@ -9,6 +9,7 @@
 #include <QAbstractItemModelTester>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QQmlPropertyMap>
 #include <QRandomGenerator>
 #include <QtTest>
 
@@ -495,6 +496,42 @@ private Q_SLOTS:
         QVERIFY(!m_changes->setAgain(0));
         QCOMPARE(rowsOf(*m_changes), Rows {"mode dritte>2 overtaken Invalid enum value 2"});
         QVERIFY(m_changes->dismiss(0));
+    }
+
+    /// A member that is set changes its aggregate, whose members are shown in their own order.
+    void aggregates()
+    {
+        auto* const source = m_rec->client.add<RecordedAggregate>(m_rec->id("limits"));
+        const auto says = [source](int low, int high) {
+            source->aggregate = KivAggregate({{"low", low}, {"high", high}});
+            source->state->value = source->aggregate.toVariant();
+            Q_EMIT source->valueChanged();
+        };
+        says(1, 9);
+        Q_EMIT m_rec->client.itemsChanged();
+        m_changes->begin();
+        auto* const map = m_rec->item("limits")->getValue().value<QQmlPropertyMap*>();
+        const auto write = [map](const QString& member, const QVariant& value) { map->setProperty(qPrintable(member), value); };
+        write("low", 2);
+        QCOMPARE(m_changes->index(0).data(PendingChanges::OldTextRole), QVariant("1, 9"));
+        QCOMPARE(m_changes->index(0).data(PendingChanges::NewTextRole), QVariant("2, 9"));
+        says(3, 9);
+        QCOMPARE(m_changes->overtaken(), 1);
+        QVERIFY(m_changes->setAgain(0));
+        QVERIFY(m_changes->apply());
+        QCOMPARE(m_rec->batches(), QStringList {R"({"limits":{"high":9,"low":2}})"});
+        QCOMPARE(m_changes->count(), 0);
+        says(2, 9);
+        // Numbers of the other type mean the same.
+        m_changes->begin();
+        write("low", 2.0);
+        QCOMPARE(m_changes->count(), 0);
+        write("low", 4);
+        QVERIFY(m_changes->revert(0));
+        QCOMPARE(m_changes->enter(m_rec->item("limits"), QVariantMap {{"low", 0}, {"high", 7}}), QString());
+        QCOMPARE(m_changes->index(0).data(PendingChanges::NewTextRole), QVariant("0, 7"));
+        says(0, 7);
+        QCOMPARE(m_changes->count(), 0);
     }
 
     void enter()

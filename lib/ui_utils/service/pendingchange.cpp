@@ -7,6 +7,8 @@
 #include "service/manifeststate_p.h"
 #include "service/valuetext_p.h"
 
+#include <kiv/kivaggregateclientitem.h>
+
 #include <QLocale>
 
 #include <algorithm>
@@ -81,6 +83,20 @@ QString withUnit(const QString& text, const QString& unit)
     return text.isEmpty() || unit.isEmpty() ? text : text + QLatin1Char(' ') + unit;
 }
 
+/// The members of an aggregate in the order in which its service has them.
+QVariant inOrder(const KIVClientItem* source, const QVariant& value)
+{
+    const auto* aggregate = qobject_cast<const KivAggregateClientItem*>(source);
+    if (!aggregate || value.userType() != QMetaType::QVariantMap)
+        return value;
+    const QVariantMap map = value.toMap();
+    QVariantList members;
+    const QList<QByteArray> names = aggregate->getAggregate().getPropertyNames();
+    for (const QByteArray& name : names)
+        members.append(map.value(QString::fromUtf8(name)));
+    return members;
+}
+
 /// A formatter knows single values.
 QString formattedElements(BaseFormatter& formatter, const QVariant& value, bool showUnits)
 {
@@ -136,7 +152,8 @@ QString settingText(KivData& item, const QVariant& value)
     if (BaseFormatter* formatter = item.getBaseFormatter())
         return textOfFormatter(*formatter, item, value);
     const QVariant precision = item.getAttr(QStringLiteral("precision"));
-    return withUnit(plainText(value, precision.isNull() ? -1 : precision.toInt()), item.getUnitString());
+    const QVariant shown = inOrder(KivDataPrivate::of(&item)->item, value);
+    return withUnit(plainText(shown, precision.isNull() ? -1 : precision.toInt()), item.getUnitString());
 }
 
 bool renew(PendingChange& change)
