@@ -482,9 +482,11 @@ private Q_SLOTS:
         auto* source = m_rec->client.add<RecordedEnum>(m_rec->id("mode"), 1);
         source->state->type = "int";
         source->choices.choices = {{1, "One", "first"}, {2, "Two", "second"}};
+        source->state->unit = "gear";
         Q_EMIT m_rec->client.itemsChanged();
         QCOMPARE(m_changes->enter(m_rec->item("mode"), 2), QString());
-        QCOMPARE(rowsOf(*m_changes), Rows {"mode first>second waiting"});
+        QCOMPARE(rowsOf(*m_changes), Rows {"mode first gear>second gear waiting"});
+        source->state->unit.clear();
         QCOMPARE(m_changes->enter(m_rec->item("mode"), 7), QString("Invalid enum value 7"));
         // Labels may change, and a choice may vanish while its change is overtaken.
         source->choices.choices = {{1, "One", "erste"}, {2, "Two", "zweite"}, {3, "Three", "dritte"}};

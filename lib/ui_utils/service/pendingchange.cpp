@@ -148,7 +148,7 @@ QString settingText(KivData& item, const QVariant& value)
 {
     const QString choice = item.getEnumCount() > 0 ? item.enumLabelForValue(value.toInt()) : QString();
     if (!choice.isEmpty())
-        return choice;
+        return withUnit(choice, item.getUnitString());
     if (BaseFormatter* formatter = item.getBaseFormatter())
         return textOfFormatter(*formatter, item, value);
     const QVariant precision = item.getAttr(QStringLiteral("precision"));
