@@ -552,6 +552,11 @@ private Q_SLOTS:
         m_rec->manifest->applyChanges();
         QCOMPARE(m_rec->batches(), QStringList {"{}"});
         QCOMPARE(m_changes->enter(nullptr, 1), QString());
+        // What cannot be set does not take an entry, and holds nothing back.
+        m_rec->client.add(":result:rec:power:", 5);
+        Q_EMIT m_rec->client.itemsChanged();
+        QCOMPARE(m_changes->enter(Manifest::getKivData(":result:rec:power:"), 1), QString("The entry was rejected."));
+        QVERIFY(!m_changes->isChanging());
         // The item of another manifest has to wait too.
         Service other("other");
         m_changes->setManifests({QVariant::fromValue(m_rec->manifest.get())});

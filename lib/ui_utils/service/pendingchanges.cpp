@@ -490,6 +490,8 @@ QString PendingChanges::enter(KivData* item, const QVariant& value)
 {
     if (!item)
         return QString();
+    if (item->isReadOnly() && toManifest(item->parent()))
+        return tr("The entry was rejected.");
     const ChangeBatch batch;
     begin();
     return d->set(item, value);
