@@ -1,7 +1,7 @@
 #include "options.h"
 
-#include "check/pagecheck.h"
-#include "check/servicecheck.h"
+#include "check/pages/pagecheck.h"
+#include "check/services/servicecheck.h"
 #include "common/complaint.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "pagejudge.h"
 
-#include "check/pagecheck.h"
+#include "check/pages/pagecheck.h"
 #include "common/complaint.h"
 #include "names/itemfacts.h"
 

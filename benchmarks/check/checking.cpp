@@ -1,6 +1,6 @@
 #include "benchmarks/rooms.h"
 #include "benchmarks/timing.h"
-#include "check/servicecheck.h"
+#include "check/services/servicecheck.h"
 
 #include <embedded/embeddedbackend.h>
 #include <simulation/simulation_p.h>

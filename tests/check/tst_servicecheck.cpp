@@ -2,9 +2,9 @@
 #include "files.h"
 #include "golden.h"
 
-#include "check/jsontree.h"
-#include "check/regexcheck.h"
-#include "check/servicecheck.h"
+#include "check/services/jsontree.h"
+#include "check/services/regexcheck.h"
+#include "check/services/servicecheck.h"
 
 #include <embedded/embeddedbackend.h>
 #include <simulation/simulation_p.h>

@@ -1,8 +1,8 @@
 #include "files.h"
 #include "jsonschema_p.h"
 
-#include "check/schemawords.h"
-#include "check/servicecheck.h"
+#include "check/services/schemawords.h"
+#include "check/services/servicecheck.h"
 
 #include <embedded/embeddedbackend.h>
 #include <simulation/simulation_p.h>

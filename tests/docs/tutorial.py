@@ -176,7 +176,8 @@ class Desk:
 
 
 # Ends a program that shows the page, with 0 if the page has the value of the file.
-LAST_LINE = "    Timer { running: true; interval: 0; onTriggered: Qt.exit(cable_res_loss.valueString === '2.50 dB' ? 0 : 1) }"
+LAST_LINE = ("    Timer { running: true; interval: 0; onTriggered: "
+             "Qt.exit(typeof cable_res_loss === 'object' && cable_res_loss.valueString === '2.50 dB' ? 0 : 1) }")
 
 
 def ended(command):

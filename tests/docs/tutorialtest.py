@@ -39,6 +39,10 @@ PLANTED = [
      "the audit says"),
     (5, [(name, "[cable_cfg_length, cable_res_loss]", "[cable_cfg_length]") for name in (PAGE, STEPS + "5-report/CablePage.qml")],
      "one.pdf lacks Loss"),
+    (6, [(name, '"refuse": "The tester is locked."', '"ready": false') for name in (PAGE, STEPS + "6-bad-state/cable.service.json")],
+     "refused.qml prints"),
+    (8, [(PAGE, "sed -i 's/cable_/", "sed -n 's/cable_/")], "nobody is told to type into CablePage.qml: label: Cable.res_loss.label"),
+    (9, [(name, "    host.showTo(&engine);\n", "") for name in (PAGE, STEPS + "9-program/main.cpp")], "ends with 1"),
 ]
 
 

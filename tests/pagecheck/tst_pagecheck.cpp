@@ -1,4 +1,4 @@
-#include "check/pagecheck.h"
+#include "check/pages/pagecheck.h"
 #include "columns.h"
 #include "golden.h"
 
@@ -188,7 +188,10 @@ private Q_SLOTS:
         QVERIFY(!pages.isEmpty());
         QVector<Finding> findings = check::checkPages(pages, {{}, factsIn(services)});
         findings.erase(std::remove_if(findings.begin(), findings.end(),
-                           [](const Finding& finding) { return finding.message.contains("that the program itself brings along"); }),
+                           [](const Finding& finding) {
+                               // Debian's qmllint crashes over some of them, which is no fault of theirs.
+                               return finding.message.contains("that the program itself brings along") || finding.message.contains("qmllint crashed");
+                           }),
             findings.end());
         QCOMPARE(lines(findings), QByteArray());
     }

@@ -56,8 +56,10 @@ kit         qml/UiUtils/Controls            scene
 liveplot    qml/UiUtils/Plot                base contract core languages document service plots
 common      apps/common                     LIBRARY base contract embedded bus host
 names       apps/names                      LIBRARY contract
-check       apps/check                      LIBRARY base contract formatters embedded simulation common names
-checktool   apps/uiutils-check              check common names
+check       apps/check                      common
+servicecheck apps/check/services            LIBRARY base contract formatters embedded simulation common names check
+pagecheck   apps/check/pages                LIBRARY base contract common names check
+checktool   apps/uiutils-check              check servicecheck pagecheck common names
 modules     apps/modules                    base names
 audit       apps/audit                      -
 servicetexts apps/servicetexts              base contract embedded
@@ -67,7 +69,7 @@ kivctl      apps/kivctl                     base contract embedded bus replay co
 viewer      apps/pdf_viewer                 base common scene
 demo        apps/demo                       LIBRARY base contract embedded replay common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
-qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common names modules audit host inspector check
+qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common names modules audit host inspector check pagecheck
 describe    apps/uiutils-describe           LIBRARY base contract embedded bus common host names modules servicetexts
 inspecttool apps/uiutils-inspector          LIBRARY base contract embedded replay common host inspector
 expage      examples/page                   host
@@ -79,7 +81,7 @@ extutorial  docs/examples/tutorial/9-program  host
 benchmarks  benchmarks                      LIBRARY podofo base contract embedded liveplot
 startbench  benchmarks/start                -
 openbench   benchmarks/inspector            LIBRARY base contract embedded replay host inspector
-checkbench  benchmarks/check                base contract embedded simulation benchmarks check names
+checkbench  benchmarks/check                base contract embedded simulation benchmarks check servicecheck names
 busbench    benchmarks/bus                  LIBRARY base contract embedded bus replay benchmarks
 """
 GROUPS = {"WRITERS": "emitter plots pdffile pages text modern csv html xml",
@@ -100,7 +102,7 @@ SHARED_WITH_PROGRAMS = ("base/", "platform/reference/replay/", "lib/ui_host/")
 # Parts of libraries that hold no state, which these rooms link once more because the libraries hide them.
 LINKED_AGAIN = {"liveplot": "lib/ui_utils/writers/plots/",
                 # What reads a file wrongly in a program must read it in the same way when it is checked.
-                "check": ("lib/ui_utils/core/dynamicobject_p.h", "lib/ui_utils/service/applicability_p.h",
+                "servicecheck": ("lib/ui_utils/core/dynamicobject_p.h", "lib/ui_utils/service/applicability_p.h",
                           "platform/reference/embedded/", "platform/reference/formatters/",
                           "platform/reference/simulation/")}
 GUESTS = {"demo", "expage", "exform", "exreport", "exservice", "explatform", "extutorial"}

@@ -114,6 +114,10 @@
         <source>Saved: %1</source>
         <translation>تم الحفظ: %1</translation>
     </message>
+    <message>
+        <source>Changes</source>
+        <translation>التغييرات</translation>
+    </message>
 </context>
 <context>
     <name>ChangesPage</name>

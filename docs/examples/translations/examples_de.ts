@@ -114,6 +114,10 @@
         <source>Saved: %1</source>
         <translation>Gespeichert: %1</translation>
     </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
 </context>
 <context>
     <name>ChangesPage</name>

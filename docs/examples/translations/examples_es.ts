@@ -114,6 +114,10 @@
         <source>Saved: %1</source>
         <translation>Guardado: %1</translation>
     </message>
+    <message>
+        <source>Changes</source>
+        <translation>Cambios</translation>
+    </message>
 </context>
 <context>
     <name>ChangesPage</name>

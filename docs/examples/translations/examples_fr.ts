@@ -114,6 +114,10 @@
         <source>Saved: %1</source>
         <translation>Enregistré : %1</translation>
     </message>
+    <message>
+        <source>Changes</source>
+        <translation>Modifications</translation>
+    </message>
 </context>
 <context>
     <name>ChangesPage</name>

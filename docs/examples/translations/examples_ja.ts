@@ -114,6 +114,10 @@
         <source>Saved: %1</source>
         <translation>保存済み: %1</translation>
     </message>
+    <message>
+        <source>Changes</source>
+        <translation>変更</translation>
+    </message>
 </context>
 <context>
     <name>ChangesPage</name>

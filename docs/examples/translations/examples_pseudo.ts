@@ -114,6 +114,10 @@
         <source>Saved: %1</source>
         <translation>[Šåvéđ: %1 ~]</translation>
     </message>
+    <message>
+        <source>Changes</source>
+        <translation>[Çĥåñĝéš ~]</translation>
+    </message>
 </context>
 <context>
     <name>ChangesPage</name>

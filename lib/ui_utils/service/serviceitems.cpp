@@ -47,9 +47,11 @@ QString listed(QStringList names)
 
 } // namespace
 
-struct ServiceItems::Private final : itemregistry::NameUser
+/// What the object knows of its properties and of the items behind them.
+class ServiceItemsPrivate final : public itemregistry::NameUser
 {
-    explicit Private(ServiceItems* owner)
+public:
+    explicit ServiceItemsPrivate(ServiceItems* owner)
         : q(owner)
     {
     }
@@ -71,7 +73,7 @@ struct ServiceItems::Private final : itemregistry::NameUser
     unsigned looks = 0;
 };
 
-void ServiceItems::Private::readProperties()
+void ServiceItemsPrivate::readProperties()
 {
     const QMetaObject* const meta = q->metaObject();
     for (int i = ServiceItems::staticMetaObject.propertyCount(); i < meta->propertyCount(); ++i) {
@@ -82,7 +84,7 @@ void ServiceItems::Private::readProperties()
 }
 
 /// By their names behind the tag. As in the context, of equal names the last in the order of ids counts.
-Wrappers ServiceItems::Private::wrappersByName(QPointer<Manifest>* manifest) const
+Wrappers ServiceItemsPrivate::wrappersByName(QPointer<Manifest>* manifest) const
 {
     Wrappers found;
     const QMap<QString, KivData*>& entries = itemregistry::entries();
@@ -97,7 +99,7 @@ Wrappers ServiceItems::Private::wrappersByName(QPointer<Manifest>* manifest) con
 }
 
 /// Returns false when this object was deleted by whoever was told.
-bool ServiceItems::Private::put(Property* property, KivData* wrapper)
+bool ServiceItemsPrivate::put(Property* property, KivData* wrapper)
 {
     const QPointer<ServiceItems> self(q);
     const bool isDue = std::exchange(property->isDue, false);
@@ -115,7 +117,7 @@ bool ServiceItems::Private::put(Property* property, KivData* wrapper)
     return self;
 }
 
-void ServiceItems::Private::warnOf(const QStringList& missing, const QStringList& others)
+void ServiceItemsPrivate::warnOf(const QStringList& missing, const QStringList& others)
 {
     if (hasWarned || (missing.isEmpty() && others.isEmpty()))
         return;
@@ -129,7 +131,7 @@ void ServiceItems::Private::warnOf(const QStringList& missing, const QStringList
                 qUtf8Printable(listed(others)), qUtf8Printable(advice));
 }
 
-void ServiceItems::Private::look(itemregistry::Told told)
+void ServiceItemsPrivate::look(itemregistry::Told told)
 {
     if (!isComplete)
         return;
@@ -162,7 +164,7 @@ void ServiceItems::Private::look(itemregistry::Told told)
 
 ServiceItems::ServiceItems(QObject* parent)
     : QObject(parent)
-    , d(std::make_unique<Private>(this))
+    , d(std::make_unique<ServiceItemsPrivate>(this))
 {
 }
 

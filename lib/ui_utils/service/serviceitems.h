@@ -11,6 +11,8 @@
 
 namespace uiutils {
 
+class ServiceItemsPrivate;
+
 /// The items of one service as properties: the root of the modules that uiutils-describe writes.
 ///
 /// A document with this root declares a property for each item, named like the item in QML without the service's tag,
@@ -51,8 +53,7 @@ Q_SIGNALS:
     void serviceChanged();
 
 private:
-    struct Private;
-    const std::unique_ptr<Private> d;
+    const std::unique_ptr<ServiceItemsPrivate> d;
 };
 
 } // namespace uiutils
