@@ -1873,20 +1873,8 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <translation>تراجع</translation>
     </message>
     <message>
-        <source>Dismiss %1</source>
-        <translation>تجاهل %1</translation>
-    </message>
-    <message>
-        <source>Revert %1</source>
-        <translation>التراجع عن %1</translation>
-    </message>
-    <message>
         <source>Set again</source>
         <translation>ضبط مجددًا</translation>
-    </message>
-    <message>
-        <source>Set %1 again</source>
-        <translation>ضبط %1 مجددًا</translation>
     </message>
 </context>
 <context>
@@ -4223,6 +4211,14 @@ Folder: %2</source>
     <message>
         <source>The entry was rejected.</source>
         <translation>رُفض الإدخال.</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>إيقاف</translation>
     </message>
 </context>
 <context>

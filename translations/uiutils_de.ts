@@ -1853,20 +1853,8 @@ Exit-Status: 0 fertig, 1 die Datei konnte nicht gezeigt werden, 2 falsche Befehl
         <translation>Rückgängig</translation>
     </message>
     <message>
-        <source>Dismiss %1</source>
-        <translation>%1 verwerfen</translation>
-    </message>
-    <message>
-        <source>Revert %1</source>
-        <translation>%1 rückgängig machen</translation>
-    </message>
-    <message>
         <source>Set again</source>
         <translation>Erneut setzen</translation>
-    </message>
-    <message>
-        <source>Set %1 again</source>
-        <translation>%1 erneut setzen</translation>
     </message>
 </context>
 <context>
@@ -4187,6 +4175,14 @@ Ordner: %2</translation>
     <message>
         <source>The entry was rejected.</source>
         <translation>Die Eingabe wurde abgelehnt.</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
     </message>
 </context>
 <context>

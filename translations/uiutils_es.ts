@@ -1853,20 +1853,8 @@ Código de salida: 0 hecho, 1 no se pudo mostrar el archivo, 2 línea de órdene
         <translation>Revertir</translation>
     </message>
     <message>
-        <source>Dismiss %1</source>
-        <translation>Descartar %1</translation>
-    </message>
-    <message>
-        <source>Revert %1</source>
-        <translation>Revertir %1</translation>
-    </message>
-    <message>
         <source>Set again</source>
         <translation>Ajustar de nuevo</translation>
-    </message>
-    <message>
-        <source>Set %1 again</source>
-        <translation>Ajustar %1 de nuevo</translation>
     </message>
 </context>
 <context>
@@ -4187,6 +4175,14 @@ Carpeta: %2</translation>
     <message>
         <source>The entry was rejected.</source>
         <translation>Se ha rechazado la entrada.</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
     </message>
 </context>
 <context>

@@ -1853,20 +1853,8 @@ Code de sortie&#xa0;: 0 terminé, 1 le fichier n’a pas pu être affiché, 2 li
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>Dismiss %1</source>
-        <translation>Ignorer %1</translation>
-    </message>
-    <message>
-        <source>Revert %1</source>
-        <translation>Annuler %1</translation>
-    </message>
-    <message>
         <source>Set again</source>
         <translation>Régler à nouveau</translation>
-    </message>
-    <message>
-        <source>Set %1 again</source>
-        <translation>Régler %1 à nouveau</translation>
     </message>
 </context>
 <context>
@@ -4187,6 +4175,14 @@ Dossier&#xa0;: %2</translation>
     <message>
         <source>The entry was rejected.</source>
         <translation>La saisie a été refusée.</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
     </message>
 </context>
 <context>

@@ -1848,20 +1848,8 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <translation>元に戻す</translation>
     </message>
     <message>
-        <source>Dismiss %1</source>
-        <translation>%1 を閉じる</translation>
-    </message>
-    <message>
-        <source>Revert %1</source>
-        <translation>%1 を元に戻す</translation>
-    </message>
-    <message>
         <source>Set again</source>
         <translation>再設定</translation>
-    </message>
-    <message>
-        <source>Set %1 again</source>
-        <translation>%1 を再設定</translation>
     </message>
 </context>
 <context>
@@ -4178,6 +4166,14 @@ Folder: %2</source>
     <message>
         <source>The entry was rejected.</source>
         <translation>入力は拒否されました。</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
     </message>
 </context>
 <context>

@@ -1853,20 +1853,8 @@ Exit status: 0 done, 1 the file could not be shown, 2 wrong command line.</sourc
         <translation>[Ŕévéŕţ ~]</translation>
     </message>
     <message>
-        <source>Dismiss %1</source>
-        <translation>[Ðîšmîšš %1 ~]</translation>
-    </message>
-    <message>
-        <source>Revert %1</source>
-        <translation>[Ŕévéŕţ %1 ~]</translation>
-    </message>
-    <message>
         <source>Set again</source>
         <translation>[Šéţ åĝåîñ ~]</translation>
-    </message>
-    <message>
-        <source>Set %1 again</source>
-        <translation>[Šéţ %1 åĝåîñ ~ ~]</translation>
     </message>
 </context>
 <context>
@@ -4187,6 +4175,14 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
     <message>
         <source>The entry was rejected.</source>
         <translation>[Ţĥé éñţŕý ŵåš ŕéĵéçţéđ. ~ ~ ~ ~]</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>[Öñ ~]</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>[Öff ~]</translation>
     </message>
 </context>
 <context>

@@ -165,7 +165,7 @@ private:
     void change()
     {
         run("session.setup.enter(loopback_cfg_maximumRtt, loopback_cfg_maximumRtt.value + 1)");
-        QTRY_COMPARE(run("session.setup.pending.length").toInt(), 1);
+        QTRY_COMPARE(run("session.setup.count").toInt(), 1);
     }
 
     void preview()

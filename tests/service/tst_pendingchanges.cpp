@@ -410,6 +410,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("texts");
         const QVariantMap none;
         QTest::newRow("text") << "std::string" << none << QVariant("A") << QVariant("B") << "A>B";
+        QTest::newRow("switch") << "bool" << none << QVariant(false) << QVariant(true) << "Off>On";
         QTest::newRow("number") << "int" << none << QVariant(1000) << QVariant(-2000) << "1.000 dB>-2.000 dB";
         QTest::newRow("decimals") << "double" << QVariantMap {{"precision", 2}} << QVariant(1.5) << QVariant(2) << "1,50 dB>2,00 dB";
         QTest::newRow("any decimals") << "double" << none << QVariant(1.5) << QVariant(0.125) << "1,5 dB>0,125 dB";
@@ -446,7 +447,7 @@ private Q_SLOTS:
         RecordedState* const state = m_rec->client.add(m_rec->id("d"), served)->state;
         state->type = type;
         state->attributes = attributes;
-        state->unit = attributes.contains("formatter") ? "Hz" : type == "std::string" ? "" : "dB";
+        state->unit = attributes.contains("formatter") ? "Hz" : type == "std::string" || type == "bool" ? "" : "dB";
         Q_EMIT m_rec->client.itemsChanged();
         m_changes->begin();
         m_rec->item("d")->setValue(wanted);

@@ -9,7 +9,6 @@ KitPage {
 
     title: qsTr("Changes that wait")
     subtitle: qsTr("Nothing is sent before Apply")
-    scrolls: false
     footer: [
         Item { Layout.fillWidth: true },
         TouchButton {
@@ -34,7 +33,7 @@ KitPage {
         Card {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            Layout.preferredWidth: 2
+            Layout.preferredWidth: 1
             title: qsTr("Settings")
 
             SegmentedChoice { Layout.fillWidth: true; item: optical_cfg_mode; storeWith: value => pending.enter(item, value) }
@@ -43,10 +42,10 @@ KitPage {
         Card {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            Layout.preferredWidth: 3
+            Layout.preferredWidth: 1
             title: qsTr("Review")
 
-            PendingChangesView { Layout.fillWidth: true; Layout.fillHeight: true; changes: pending }
+            PendingChangesView { Layout.fillWidth: true; changes: pending }
         }
     }
 }

@@ -7,6 +7,7 @@
 #include "service/manifeststate_p.h"
 #include "service/valuetext_p.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 #include <algorithm>
@@ -15,6 +16,11 @@
 namespace uiutils {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(uiutils::PendingChanges)
+};
 
 bool isNumber(const QVariant& value)
 {
@@ -53,7 +59,9 @@ QString plainText(const QVariant& value, int precision)
         return precision < 0 ? locale.toString(value.toDouble(), 'g', QLocale::FloatingPointShortest)
                              : locale.toString(value.toDouble(), 'f', precision);
     }
-    if (isNumber(value) && value.userType() != QMetaType::Bool)
+    if (value.userType() == QMetaType::Bool)
+        return value.toBool() ? Texts::tr("On") : Texts::tr("Off");
+    if (isNumber(value))
         return locale.toString(value.toLongLong());
     if (!isList(value) && value.userType() != QMetaType::QVariantMap)
         return value.toString();

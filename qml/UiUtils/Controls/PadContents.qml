@@ -45,6 +45,9 @@ FocusScope {
 
     Text {
         id: label
+        // The field beside the pad has all of it.
+        readonly property bool mayElide: true
+
         x: ControlsStyle.mirrored ? contents.width - width : 0
         width: contents.half
         height: contents.smallLine

@@ -24,7 +24,8 @@ FocusScope {
     implicitHeight: Math.max(ControlsStyle.touch + ControlsStyle.touchGap,
                              2 * ControlsStyle.gap + (isNarrow ? texts.height + ControlsStyle.gap + buttons.height
                                                                : Math.max(texts.height, buttons.height)))
-    Accessible.role: Accessible.ListItem
+    // A row is read; its buttons are pressed.
+    Accessible.role: Accessible.Grouping
     Accessible.name: label
     Accessible.description: [service, isOvertaken ? qsTr("Changed meanwhile") : "", qsTr("Now: %1").arg(oldText),
                              qsTr("You have set: %1").arg(newText), problem].filter(part => part !== "").join(", ")
@@ -75,7 +76,7 @@ FocusScope {
             quiet: true
             focusPolicy: Qt.ClickFocus
             text: row.isOvertaken ? qsTr("Dismiss") : qsTr("Revert")
-            Accessible.name: (row.isOvertaken ? qsTr("Dismiss %1") : qsTr("Revert %1")).arg(row.label)
+            Accessible.name: text + ": " + row.label
             KeyNavigation.right: row.isOvertaken ? second : null
             onClicked: row.isOvertaken ? row.dismissed() : row.reverted()
         }
@@ -85,7 +86,7 @@ FocusScope {
             visible: row.isOvertaken
             focusPolicy: Qt.ClickFocus
             text: qsTr("Set again")
-            Accessible.name: qsTr("Set %1 again").arg(row.label)
+            Accessible.name: text + ": " + row.label
             KeyNavigation.left: first
             onClicked: row.setAgain()
         }

@@ -16,6 +16,13 @@ FocusScope {
     property string emptyTitle: qsTr("Nothing waits")
     property string emptyText: qsTr("Settings that you change are listed here until they are applied.")
 
+    // Of all rows. Later than the list knows it: a list that is given the height of its rows makes rows meanwhile.
+    property real rowsHeight: 0
+
+    function measure() {
+        rowsHeight = list.contentHeight
+    }
+
     implicitWidth: ControlsStyle.mm(90)
     implicitHeight: column.implicitHeight
 
@@ -36,7 +43,8 @@ FocusScope {
             objectName: "pendingList"
             Layout.fillWidth: true
             Layout.fillHeight: true
-            implicitHeight: contentHeight
+            implicitHeight: view.rowsHeight
+            onContentHeightChanged: Qt.callLater(view.measure)
             visible: count > 0
             focus: true
             name: qsTr("Changes that wait")
