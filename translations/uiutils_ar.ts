@@ -4212,6 +4212,14 @@ Folder: %2</source>
         <source>The entry was rejected.</source>
         <translation>رُفض الإدخال.</translation>
     </message>
+    <message>
+        <source>On</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>إيقاف</translation>
+    </message>
 </context>
 <context>
     <name>uiutils::ReportDraft</name>

@@ -4176,6 +4176,14 @@ Ordner: %2</translation>
         <source>The entry was rejected.</source>
         <translation>Die Eingabe wurde abgelehnt.</translation>
     </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
 </context>
 <context>
     <name>uiutils::ReportDraft</name>

@@ -4176,6 +4176,14 @@ Carpeta: %2</translation>
         <source>The entry was rejected.</source>
         <translation>Se ha rechazado la entrada.</translation>
     </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
 </context>
 <context>
     <name>uiutils::ReportDraft</name>

@@ -4176,6 +4176,14 @@ Dossier&#xa0;: %2</translation>
         <source>The entry was rejected.</source>
         <translation>La saisie a été refusée.</translation>
     </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
 </context>
 <context>
     <name>uiutils::ReportDraft</name>

@@ -4167,6 +4167,14 @@ Folder: %2</source>
         <source>The entry was rejected.</source>
         <translation>入力は拒否されました。</translation>
     </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
 </context>
 <context>
     <name>uiutils::ReportDraft</name>

@@ -4176,6 +4176,14 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>The entry was rejected.</source>
         <translation>[Ţĥé éñţŕý ŵåš ŕéĵéçţéđ. ~ ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>On</source>
+        <translation>[Öñ ~]</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>[Öff ~]</translation>
+    </message>
 </context>
 <context>
     <name>uiutils::ReportDraft</name>

@@ -46,7 +46,12 @@ QString toLine(const Finding& finding)
     if (finding.line > 0 && finding.column > 0)
         line += QLatin1Char(':') + QString::number(finding.column);
     line += QLatin1String(": ") + weightName(finding.weight) + QLatin1String(": ") + finding.message;
-    return finding.item.isEmpty() ? line : line + QLatin1String(" [") + finding.item + QLatin1Char(']');
+    if (!finding.item.isEmpty())
+        line += QLatin1String(" [") + finding.item + QLatin1Char(']');
+    // Names of files and what stands in them come from strangers: a finding is one line and moves no cursor.
+    std::replace_if(
+            line.begin(), line.end(), [](QChar c) { return !c.isPrint() && !c.isSurrogate(); }, QLatin1Char(' '));
+    return line;
 }
 
 QByteArray toJson(const QVector<Finding>& findings)

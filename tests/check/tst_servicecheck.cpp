@@ -194,6 +194,28 @@ private Q_SLOTS:
         QCOMPARE(findings.at(0).weight, Finding::Error);
     }
 
+    /// Every proposal compares with all names: of many wrong ones only the first get one.
+    void manyProposals()
+    {
+        constexpr int count = 3000;
+        QByteArray items;
+        for (int i = 0; i < count; ++i)
+            items += QString("%1{ \"id\": \":config:bench:item%2:\", \"type\": \"bool\", \"applicable\": \"cfg.itme%2\" }")
+                             .arg(i > 0 ? "," : "").arg(i).toUtf8();
+        const QVector<Finding> findings = findingsIn(serviceWith(items));
+        const auto isProposed = [](const Finding& finding) { return finding.message.contains("Did you mean"); };
+        const auto proposed = std::count_if(findings.cbegin(), findings.cend(), isProposed);
+        QCOMPARE(findings.size(), 1001);
+        QVERIFY2(proposed > 0 && proposed * count < 210000, qPrintable(QString::number(proposed)));
+    }
+
+    /// Whoever names files and items writes nothing else on the screen of a reader.
+    void foreignText()
+    {
+        const QString line = toLine({Finding::Error, "a\n\x1b[2J.qml", 1, 2, "\u202e:x:", "No \x1b]0;x\x07 here…"});
+        QCOMPARE(line, QString("a  [2J.qml:1:2: error: No  ]0;x  here… [ :x:]"));
+    }
+
     /// What pages cannot see of a large file.
     void manyNames()
     {

@@ -117,6 +117,16 @@ private Q_SLOTS:
                           "property var kept: optical_res_loss; ListView { model: optical_res_events.value } }");
         QTest::newRow("types of all origins")
             << QByteArray("Column { component Own: Text {} Own {} Timer {} ListModel { id: rows } Repeater { model: rows } }");
+        QTest::newRow("one id in two components")
+            << QByteArray("Column { Component { Text { id: a } } Component { Text { id: a } }\n"
+                          "Repeater { model: 2; Text { id: a } } Text { id: b; x: a.x } }");
+        QTest::newRow("two values of one property")
+            << QByteArray("Item { width: 5; Behavior on width { NumberAnimation {} } NumberAnimation on x { id: n; to: 3 } x: 2\n"
+                          "states: [ State { name: \"a\"; PropertyChanges { target: n; to: 4 } }, State { name: \"b\" } ]\n"
+                          "anchors.left: parent.left; anchors.right: parent.right; Keys.onUpPressed: {} Keys.onDownPressed: {} }");
+        QTest::newRow("names like those of properties")
+            << QByteArray("Item { property int colour: 1; ListModel { ListElement { titel: \"a\"; txt: \"b\" } }\n"
+                          "Item { property alias itme: t.text; Timer { interval: 5 } Text { id: t; font { bold: true; weight: Font.Bold } } } }");
         QTest::newRow("inside a property of a group") << QByteArray("Rectangle { border { width: 2; color: \"red\" } }");
     }
 
@@ -266,6 +276,18 @@ private Q_SLOTS:
         QVERIFY2(actual.contains("\n99003:14: error: No item has the name optical_res_los."), actual.left(500).constData());
         QVERIFY2(actual.startsWith(" warning: qmllint was not asked"), actual.left(500).constData());
         QCOMPARE(actual.count('\n'), 2);
+    }
+
+    /// Every proposal compares with all names: a page for other services is still checked soon.
+    void manyWrongNames()
+    {
+        QByteArray body = "Column {\n";
+        for (int i = 0; i < 5000; ++i)
+            body += "Text { text: optical_res_los" + QByteArray::number(i) + ".label }\n";
+        const QByteArray actual = told(body + "}\n");
+        const int proposed = actual.count("Did you mean");
+        QCOMPARE(actual.count("No item has the name"), 5000);
+        QVERIFY2(proposed > 0 && proposed < 5000 && proposed * m_items.size() < 300000, qPrintable(QString::number(proposed)));
     }
 
     /// Without services, names of items are not judged.

@@ -69,7 +69,7 @@ bool NameRules::visit(IdentifierExpression* expression)
             [&tag](const QString& service) { return names::tagOf(service) == tag; });
     if (m_scope.items.hasTag(tag))
         report(expression->identifierToken,
-                QStringLiteral("No item has the name %1.%2").arg(name, proposal(name, m_scope.items.contextNames())));
+                QStringLiteral("No item has the name %1.%2").arg(name, nearName(name, m_scope.items.contextNames())));
     else if (!isGuarded)
         report(expression->identifierToken,
                 QStringLiteral("No item has the name %1, because there is no service \"%2\".%3")
@@ -94,6 +94,16 @@ bool NameRules::visit(ArrayMemberExpression* element)
     if (!service.isEmpty() && !m_scope.names.isDeclared(QStringLiteral("services")))
         judgeService(element->expression->firstSourceLocation(), service);
     return true;
+}
+
+QString NameRules::nearName(const QString& name, const QStringList& known)
+{
+    // Some seconds: a page with more wrong names than that was made by a program, or for other services.
+    constexpr int mostComparisons = 200000;
+    if (m_comparisons > mostComparisons)
+        return QString();
+    m_comparisons += known.size();
+    return proposal(name, known);
 }
 
 void NameRules::judgeService(const QQmlJS::SourceLocation& place, const QString& name)
@@ -127,7 +137,7 @@ void NameRules::judgeMember(const Meaning& base, FieldMemberExpression* field)
     else if (base.kind == Meaning::Singleton && !m_scope.items.hasMember(base.member, name))
         report(place,
                 QStringLiteral("The service \"%1\" has no item %2.%3")
-                        .arg(base.member, name, proposal(name, m_scope.items.memberNames(base.member))));
+                        .arg(base.member, name, nearName(name, m_scope.items.memberNames(base.member))));
 }
 
 } // namespace uiutils::check

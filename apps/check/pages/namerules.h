@@ -26,6 +26,7 @@ protected:
     bool visit(QQmlJS::AST::BinaryExpression* pair) override;
 
 private:
+    QString nearName(const QString& name, const QStringList& known);
     void judgeService(const QQmlJS::SourceLocation& place, const QString& name);
     void judgeMember(const Meaning& base, QQmlJS::AST::FieldMemberExpression* field);
     void report(const QQmlJS::SourceLocation& place, const QString& message, const QString& item = {});
@@ -34,6 +35,7 @@ private:
     QVector<Finding>* const m_findings;
     /// What the page only asks for.
     QSet<const QQmlJS::AST::Node*> m_asked;
+    int m_comparisons = 0;
 };
 
 } // namespace uiutils::check

@@ -3,7 +3,10 @@
 #include "check/pages/entryfit.h"
 #include "check/pages/expressions.h"
 #include "check/pages/pagefile.h"
+#include "check/pages/qmlmodules.h"
 #include "check/wording.h"
+
+#include <QHash>
 
 namespace uiutils::check {
 
@@ -73,12 +76,74 @@ bool ObjectRules::visit(UiObjectBinding* object)
 
 void ObjectRules::judge(const Object& object)
 {
+    judgeCopies(object);
     if (object.type == QLatin1String("Connections"))
         judgeConnections(object);
     else if (object.type == QLatin1String("KIVSignal"))
         judgeSignal(object);
     else
         judgeEntry(object);
+}
+
+void ObjectRules::judgeCopies(const Object& object)
+{
+    // By what is there once: the line of the first.
+    QHash<QString, int> lines;
+    const auto enter = [&](const QString& key, const QQmlJS::SourceLocation& place, const QString& words) {
+        const int first = lines.value(key);
+        if (first > 0)
+            report(place, Finding::Error, words.arg(key.section(QLatin1Char(' '), -1), QString::number(first)), {});
+        else
+            lines.insert(key, int(place.startLine));
+    };
+    for (UiObjectMemberList* members = object.members; members; members = members->next) {
+        const auto* const bound = cast<UiScriptBinding*>(members->member);
+        const auto* const child = cast<UiObjectDefinition*>(members->member);
+        const auto* const declared = cast<UiPublicMember*>(members->member);
+        if (bound) {
+            enter(QLatin1String("set ") + toText(bound->qualifiedId), bound->qualifiedId->identifierToken,
+                    QStringLiteral("\"%1\" of this object has a value in line %2 already. Remove one."));
+            judgeProperty(object, bound->qualifiedId);
+        } else if (declared) {
+            enter(QLatin1String("declared ") + declared->name, declared->identifierToken,
+                    QStringLiteral("\"%1\" is declared in line %2 already. Remove one."));
+        }
+        const auto* const id = child && child->initializer
+                ? cast<IdentifierExpression*>(valueOf(child->initializer->members, QStringLiteral("id")))
+                : nullptr;
+        if (id)
+            enter(QLatin1String("id ") + id->name, id->identifierToken,
+                    QStringLiteral("The object in line %2 has the id \"%1\" too. Each needs its own."));
+    }
+    const auto* const own = cast<IdentifierExpression*>(valueOf(object.members, QStringLiteral("id")));
+    if (own && own->name.at(0).isUpper())
+        report(own->identifierToken, Finding::Error,
+                QStringLiteral("An id begins with a small letter: \"%1\" does not.").arg(own->name));
+}
+
+/// Only a slip in a name that no type has: the properties of a single type are not known with certainty.
+void ObjectRules::judgeProperty(const Object& object, UiQualifiedId* name)
+{
+    constexpr int shortest = 3;
+    const QString property = name->name.toString();
+    // Groups have properties of values, elements of a list have roles.
+    const bool isFree = object.type.isEmpty() || !object.type.section(QLatin1Char('.'), -1).at(0).isUpper()
+            || object.type == QLatin1String("ListElement");
+    if (isFree || !m_scope.imports.isComplete || property.size() < shortest || property.at(0).isUpper()
+            || isHandler(property) || m_scope.imports.properties.contains(property)
+            || builtInProperties().contains(property) || m_scope.names.isDeclared(property)
+            || property == QLatin1String("id"))
+        return;
+    QStringList near;
+    const QSet<QString> known = m_scope.imports.properties + builtInProperties();
+    for (const QString& other : known) {
+        if (other.size() >= shortest && isSlip(property, other))
+            near += other;
+    }
+    near.sort();
+    if (!near.isEmpty())
+        report(name->identifierToken, Finding::Error,
+                QStringLiteral("No object has a property \"%1\".%2").arg(property, proposal(near.mid(0, shortest))));
 }
 
 void ObjectRules::judgeEntry(const Object& object)

@@ -31,6 +31,9 @@ private:
     };
     void judge(const Object& object);
     void judgeEntry(const Object& object);
+    /// What a copied line leaves behind: the engine loads no page with it.
+    void judgeCopies(const Object& object);
+    void judgeProperty(const Object& object, QQmlJS::AST::UiQualifiedId* name);
     void judgeConnections(const Object& object);
     void judgeHandler(const Meaning& target, const QQmlJS::SourceLocation& place, const QString& handler);
     void judgeSignal(const Object& object);

@@ -146,6 +146,16 @@ void PageSet::readModule(const PageFile& file, const UiImport& import, FileImpor
 {
     const QString name = toText(import.importUri);
     const QString prefix = prefixOf(import);
+    if (!import.version) {
+        imports->isComplete = false;
+        m_findings->append(file.at(import.importUri->identifierToken,
+                QStringLiteral("The import needs a version, as in \"import %1 %2\".")
+                        .arg(name,
+                                name == QLatin1String("QtQuick") || name.startsWith(QLatin1String("QtQuick.Controls"))
+                                        ? QStringLiteral("2.15")
+                                        : QStringLiteral("1.0"))));
+        return;
+    }
     const QString last = name.section(QLatin1Char('.'), -1);
     const QString tag = m_items.tagOfModule(last);
     const QmlModule* const module = m_modules.find(name, versionOf(import));
@@ -155,7 +165,11 @@ void PageSet::readModule(const PageFile& file, const UiImport& import, FileImpor
         imports->hasKit = true;
         imports->kitPrefix = prefix;
     }
-    if (module) {
+    const QString major = QString::number(import.version->majorVersion);
+    if (module && !module->versions.isEmpty() && !module->versions.contains(major)) {
+        imports->isComplete = false;
+        reportVersion(file, import, name, module->versions.values());
+    } else if (module) {
         takeModule(*module, prefix, imports);
         // A file of the module itself uses what the module keeps to itself.
         if (module->files.contains(QFileInfo(file.path()).completeBaseName()))
@@ -166,6 +180,17 @@ void PageSet::readModule(const PageFile& file, const UiImport& import, FileImpor
         imports->isComplete = false;
         reportModule(file, import, name);
     }
+}
+
+void PageSet::reportVersion(
+        const PageFile& file, const UiImport& import, const QString& name, const QStringList& versions)
+{
+    m_findings->append(file.at(import.importUri->identifierToken,
+            QStringLiteral("The module %1 has no version %2.%3")
+                    .arg(name, versionOf(import),
+                            versions.isEmpty()
+                                    ? QString()
+                                    : QStringLiteral(" Its versions begin with %1.").arg(enumeration(versions)))));
 }
 
 void PageSet::reportModule(const PageFile& file, const UiImport& import, const QString& name)
@@ -184,8 +209,11 @@ void PageSet::reportModule(const PageFile& file, const UiImport& import, const Q
         return;
     }
     const QStringList& known = m_modules.names();
-    const bool isMistake
-            = std::any_of(known.cbegin(), known.cend(), [&name](const QString& other) { return isSlip(name, other); });
+    if (known.contains(name))
+        return reportVersion(file, import, name, {});
+    const bool isMistake = std::any_of(known.cbegin(), known.cend(), [&name](const QString& other) {
+        return isSlip(name, other) || name.compare(other, Qt::CaseInsensitive) == 0;
+    });
     const QString advice = isMistake
             ? proposal(name, known)
             : QStringLiteral(" Name the folder above it with --import, or install it. A module that the program itself "

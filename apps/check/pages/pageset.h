@@ -40,6 +40,8 @@ private:
     void takeResources(const QString& folder, const QString& prefix, FileImports* imports);
     void readUses(const PageFile& file, FileImports* imports);
     void reportModule(const PageFile& file, const QQmlJS::AST::UiImport& import, const QString& name);
+    void reportVersion(const PageFile& file, const QQmlJS::AST::UiImport& import, const QString& name,
+            const QStringList& versions);
 
     const PageItems& m_items;
     QVector<Finding>* const m_findings;

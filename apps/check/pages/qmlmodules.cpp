@@ -70,9 +70,11 @@ private:
     {
         for (PatternElementList* element = list ? list->elements : nullptr; element; element = element->next) {
             const auto* const text = element->element ? cast<StringLiteral*>(element->element->initializer) : nullptr;
-            if (text)
-                m_module->types.insert(
-                        text->value.toString().section(QLatin1Char('/'), -1).section(QLatin1Char(' '), 0, 0));
+            if (!text)
+                continue;
+            const QString type = text->value.toString().section(QLatin1Char('/'), -1);
+            m_module->types.insert(type.section(QLatin1Char(' '), 0, 0));
+            m_module->versions.insert(type.section(QLatin1Char(' '), 1).section(QLatin1Char('.'), 0, 0));
         }
     }
 
@@ -130,6 +132,21 @@ const QSet<QString>& builtInTypes()
     return types;
 }
 
+const QSet<QString>& builtInProperties()
+{
+    static const QSet<QString> names {QStringLiteral("objectName"), QStringLiteral("target"), QStringLiteral("enabled"),
+            QStringLiteral("ignoreUnknownSignals"), QStringLiteral("property"), QStringLiteral("value"),
+            QStringLiteral("when"), QStringLiteral("delayed"), QStringLiteral("restoreMode"),
+            QStringLiteral("interval"), QStringLiteral("repeat"), QStringLiteral("running"),
+            QStringLiteral("triggeredOnStart"), QStringLiteral("active"), QStringLiteral("asynchronous"),
+            QStringLiteral("model"), QStringLiteral("count"), QStringLiteral("delegate"), QStringLiteral("object"),
+            QStringLiteral("name"), QStringLiteral("defaultLogLevel"), QStringLiteral("dynamicRoles"),
+            QStringLiteral("children"), QStringLiteral("rootIndex"), QStringLiteral("items"),
+            QStringLiteral("persistedItems"), QStringLiteral("groups"), QStringLiteral("filterOnGroup"),
+            QStringLiteral("parts"), QStringLiteral("includeByDefault"), QStringLiteral("source")};
+    return names;
+}
+
 QmlModules::QmlModules(const QStringList& importFolders)
     : m_foldersOfUser(importFolders.size())
     , m_folders(importFolders)
@@ -181,6 +198,8 @@ std::unique_ptr<QmlModule> QmlModules::read(const QString& folder)
             const bool isMarked = first == QLatin1String("singleton") || first == QLatin1String("internal");
             const QString type = words.at(isMarked ? 1 : 0);
             module->types.insert(type);
+            if (first != QLatin1String("internal"))
+                module->versions.insert(words.at(words.size() - 2).section(QLatin1Char('.'), 0, 0));
             module->files.insert(type, folder + QLatin1Char('/') + words.constLast());
             if (first == QLatin1String("singleton"))
                 module->singletons.insert(type);

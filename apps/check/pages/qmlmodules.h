@@ -20,6 +20,8 @@ struct QmlModule
     QSet<QString> singletons;
     /// Names of properties, and of parameters of signals, of all types.
     QSet<QString> properties;
+    /// The first parts of the versions in which it has types.
+    QSet<QString> versions;
     /// Whether these are all types. A module that is a library can have types of which no file tells.
     bool isComplete = true;
     /// Whether it is below one of the user's folders.
@@ -57,5 +59,8 @@ private:
 
 /// The types that every page has.
 const QSet<QString>& builtInTypes();
+
+/// The properties of these types, of which no file tells.
+const QSet<QString>& builtInProperties();
 
 } // namespace uiutils::check

@@ -228,6 +228,8 @@ bool Reader::readMember(JsonNode* node, int depth)
     if (!isAt('"')) {
         if (m_at >= m_text.size())
             return fail(node->offset, QStringLiteral("The object that begins here has no end: '}' is missing."));
+        if (isDigit(current()) && m_at > 1 && m_text.at(m_at - 1) == ',' && isDigit(m_text.at(m_at - 2)))
+            return fail(m_at - 1, QStringLiteral("A number has a decimal point, not a comma: write 1.5, not 1,5."));
         if (isAt('\'') || isWordCharacter(current()))
             return fail(m_at, QStringLiteral("A key is written in double quotation marks, such as \"id\"."));
         return fail(m_at,

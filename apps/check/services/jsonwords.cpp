@@ -37,10 +37,11 @@ bool isAlike(const QString& a, const QString& b)
 QStringList likely(const QString& wanted, const QStringList& known)
 {
     constexpr int shortest = 3;
+    const QString word = lastWord(wanted);
     QStringList same;
     QStringList cut;
     for (const QString& name : known) {
-        if (name.compare(wanted, Qt::CaseInsensitive) == 0 || lastWord(name) == lastWord(wanted))
+        if (name.compare(wanted, Qt::CaseInsensitive) == 0 || lastWord(name) == word)
             same += name;
         else if (std::min(name.size(), wanted.size()) >= shortest
                 && (name.startsWith(wanted, Qt::CaseInsensitive) || wanted.startsWith(name, Qt::CaseInsensitive)))
@@ -49,7 +50,6 @@ QStringList likely(const QString& wanted, const QStringList& known)
     if (!same.isEmpty() || !cut.isEmpty())
         return (same.isEmpty() ? cut : same).mid(0, shortest);
     QStringList names;
-    const QString word = lastWord(wanted);
     for (const QString& name : apps::nearest(wanted, known)) {
         if (isAlike(word, lastWord(name)))
             names += name;

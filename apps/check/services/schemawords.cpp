@@ -362,7 +362,13 @@ void Walk::checkKeys(const JsonNode& rule, const JsonNode& value)
     const JsonNode* properties = rule.member("properties");
     if (const JsonNode* required = rule.member("required")) {
         for (const JsonNode& key : required->children) {
-            if (value.member(key.text))
+            // A slip in the key is told where it is.
+            const bool isMisspelt = std::any_of(
+                    value.children.cbegin(), value.children.cend(), [properties, &key](const JsonNode& member) {
+                        return properties && !properties->member(member.key)
+                                && !didYouMean(member.key, {key.text}).isEmpty();
+                    });
+            if (value.member(key.text) || isMisspelt)
                 continue;
             const JsonNode* property = properties ? properties->member(key.text) : nullptr;
             const QString meaning = property ? property->textOf("description") : QString();

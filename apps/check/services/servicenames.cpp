@@ -11,8 +11,8 @@ namespace uiutils::check {
 
 namespace {
 
-/// Every proposal compares with all names.
-constexpr int mostProposals = 200;
+/// Every proposal compares with all names, at some microseconds each.
+constexpr int mostComparisons = 200000;
 
 /// What every object in QML has already.
 bool isTaken(const QString& name)
@@ -141,8 +141,9 @@ ServiceNames::ServiceNames(const Documents& documents)
 
 QString ServiceNames::proposalFor(const QString& contextName, const QString& ownTag) const
 {
-    if (++m_proposals > mostProposals)
+    if (m_comparisons > mostComparisons)
         return QString();
+    m_comparisons += m_all.size();
     // The same item of another service is what was meant most likely.
     QString ending = contextName;
     QStringList sameElsewhere;

@@ -41,7 +41,7 @@ private:
     QHash<QString, NamedItem> m_ids;
     QHash<QString, ServiceDocument*> m_tags;
     QStringList m_all;
-    mutable int m_proposals = 0;
+    mutable int m_comparisons = 0;
 };
 
 /// What is wrong with the names of services and items: those that QML cannot spell, and those that several have.

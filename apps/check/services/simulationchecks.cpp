@@ -20,8 +20,8 @@ namespace {
 constexpr unsigned numbers = KIVClientItem::TypeInt | KIVClientItem::TypeUInt | KIVClientItem::TypeDouble;
 constexpr unsigned judgeable = numbers | KIVClientItem::TypeBool;
 
-/// Every proposal compares with all ids.
-constexpr int mostProposals = 200;
+/// Every proposal compares with all ids, at some microseconds each.
+constexpr int mostComparisons = 200000;
 
 Range rangeOf(const JsonNode& node)
 {
@@ -89,7 +89,7 @@ private:
     ServiceDocument& m_document;
     FileFindings& m_findings;
     RegexCheck* const m_regexes;
-    int m_proposals = 0;
+    int m_comparisons = 0;
 };
 
 bool hasValue(const ServiceItem& item)
@@ -130,8 +130,9 @@ void SimulationCheck::run()
 
 QString SimulationCheck::nearestId(const QString& id, bool (*suits)(const ServiceItem&))
 {
-    if (++m_proposals > mostProposals)
+    if (m_comparisons > mostComparisons)
         return QString();
+    m_comparisons += m_document.items.size();
     QStringList known;
     for (const ServiceItem& item : qAsConst(m_document.items)) {
         if (suits(item))
@@ -152,10 +153,15 @@ void SimulationCheck::checkMoves(const ServiceItem& item, const JsonNode& moves)
     const QJsonObject object = items.at(int(index)).toObject().value(QLatin1String("moves")).toObject();
     const auto reading = kiv::simulation::readMotion(item.description, object, QFileInfo(m_document.path).dir());
     if (!reading.problem.isEmpty()) {
-        const JsonNode* place = item.node->at(reading.problem.section(QLatin1String(": "), 0, 0));
+        const QString pointer = reading.problem.section(QLatin1String(": "), 0, 0);
+        const JsonNode* place = item.node->at(pointer);
+        const QString what = !place->key.isEmpty()
+                ? quoted(place->key)
+                : QStringLiteral("Element %1 of %2")
+                          .arg(QString::number(pointer.section(QLatin1Char('/'), -1).toInt() + 1),
+                                  quoted(pointer.section(QLatin1Char('/'), -2, -2)));
         m_findings.error(*place,
-                QStringLiteral("%1 in \"moves\": %2.")
-                        .arg(quoted(place->key), reading.problem.section(QLatin1String(": "), 1)));
+                QStringLiteral("%1 in \"moves\": %2.").arg(what, reading.problem.section(QLatin1String(": "), 1)));
     } else if (!reading.hasValues) {
         m_findings.error(moves.member("file") ? *moves.member("file") : moves, reading.note);
     } else if (!reading.note.isEmpty()) {

@@ -33,7 +33,7 @@ KitPage {
         Card {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            Layout.preferredWidth: 2
+            Layout.preferredWidth: 1
             title: qsTr("Settings")
 
             SegmentedChoice { Layout.fillWidth: true; item: optical_cfg_mode; storeWith: value => pending.enter(item, value) }
@@ -42,7 +42,7 @@ KitPage {
         Card {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            Layout.preferredWidth: 3
+            Layout.preferredWidth: 1
             title: qsTr("Review")
 
             PendingChangesView { Layout.fillWidth: true; changes: pending }
