@@ -127,6 +127,9 @@ private Q_SLOTS:
         QTest::newRow("names like those of properties")
             << QByteArray("Item { property int colour: 1; ListModel { ListElement { titel: \"a\"; txt: \"b\" } }\n"
                           "Item { property alias itme: t.text; Timer { interval: 5 } Text { id: t; font { bold: true; weight: Font.Bold } } } }");
+        QTest::newRow("built-in types behind the name of an import")
+            << QByteArray("import QtQuick 2.15 as Q\nQ.Item { Q.Timer { interval: 5 } Q.Connections { target: null }\n"
+                          "Q.ListModel { Q.ListElement { colour: \"red\" } } Q.Component { Q.Item {} } }");
         QTest::newRow("inside a property of a group") << QByteArray("Rectangle { border { width: 2; color: \"red\" } }");
     }
 
