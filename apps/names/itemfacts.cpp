@@ -80,7 +80,8 @@ ItemFacts factsOf(const QString& id, KivData& wrapper)
         facts.tag = manifest->getQmlTag();
     }
     facts.id = id;
-    facts.name = wrapper.getName();
+    facts.isThere = !wrapper.getQmlTag().isEmpty();
+    facts.name = facts.isThere ? wrapper.getName() : nameOf(id);
     facts.memberName = memberNameOf(id, facts.name);
     facts.kind = kindOf(wrapper);
     facts.type = wrapper.getType();

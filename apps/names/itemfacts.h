@@ -51,6 +51,8 @@ struct ItemFacts
     bool isEnumeration = false;
     /// A KivData::InputType.
     unsigned inputType = 0;
+    /// Of an item that is away, with its service or alone, only the id and what follows from it are known.
+    bool isThere = true;
 
     /// The name in the context of pages, for example "optical_cfg_mode".
     QString contextName() const { return tag + QLatin1Char('_') + memberName; }
@@ -62,7 +64,7 @@ struct ItemFacts
 /// names contain no points.
 QString tagOf(const QString& service);
 
-/// All items that the manifests of this process have, in the order of their ids.
+/// All items that the manifests of this process have, or had, in the order of their ids.
 QVector<ItemFacts> factsOfManifests();
 
 /// The items of a service file, in its order, as far as it says anything of them: the document may be wrong.

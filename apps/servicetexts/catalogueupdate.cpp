@@ -154,6 +154,8 @@ bool update(
     }
     static const QRegularExpression counts(QStringLiteral("Found .*"));
     *summary = counts.match(QString::fromLocal8Bit(lupdate.readAllStandardOutput())).captured();
+    // "translations" beside new service files. If it cannot be created, writing says why.
+    makeFolderDurably(QFileInfo(catalogue).absolutePath());
     const QString linked = QFileInfo(catalogue).canonicalFilePath();
     return writeFileDurably(linked.isEmpty() ? catalogue : linked, result.readAll(), problem);
 }

@@ -113,6 +113,35 @@ private Q_SLOTS:
         QVERIFY(shown(page("Unknown", "import Instrument.Bnech 1.0\nItem { }")).contains("module \"Instrument.Bnech\" is not installed"));
     }
 
+    /// While a service is away, its items say nothing of themselves: a page that is loaded again in that time has the names that it had.
+    void aServiceIsAwayWhenThePageIsLoaded()
+    {
+        QJsonObject bench = QJsonDocument::fromJson(contentsOf(m_folder.filePath("services/bench.service.json"))).object();
+        bench.insert("happens", QJsonArray {QJsonObject {{"after", 300}, {"vanish", true}}});
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir("services") && QDir(folder.path()).mkdir("pages"));
+        writeFile(folder.filePath("services/bench.service.json"), QJsonDocument(bench).toJson());
+        const QByteArray body = "import QtQuick 2.15\nimport UiUtils 1.0\nimport Instrument.Bench 1.0\nItem {\n"
+                                "Component.onCompleted: console.log('shown', Bench.cfg_mode.isReady ? 'on' : 'off', Bench.cfg_mode_Manual)\n"
+                                "Connections { target: Bench.cfg_mode; function onIsReadyChanged() { console.log('gone') } }\n}\n";
+        const QString path = writeFile(folder.filePath("pages/Page.qml"), body);
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove("KIV_SIMULATION");
+        process.setProcessEnvironment(environment);
+        process.start(UIUTILS_QML_PROGRAM, {path, "--services", folder.filePath("services"), "--root", folder.filePath("root")});
+        QByteArray log;
+        const auto says = [&](const QByteArray& words) {
+            return QTest::qWaitFor([&] { return (log += process.readAllStandardError()).contains(words); }, 30000);
+        };
+        QVERIFY2(says("shown on 7\n") && says("gone"), log);
+        writeFile(path, body + "// saved\n");
+        QVERIFY2(says("shown off 7\n"), log);
+        QVERIFY2(!log.contains("TypeError") && !log.contains("Describe"), log);
+        process.terminate();
+        QVERIFY(process.waitForFinished());
+    }
+
     void qmllintFindsWrongNames_data()
     {
         addColumns<QByteArray, QString>();

@@ -9,9 +9,11 @@
 #include <QAbstractItemModelTester>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QQmlPropertyMap>
 #include <QRandomGenerator>
 #include <QtTest>
 
+#include <array>
 #include <memory>
 
 using uiutils::PendingChanges;
@@ -243,6 +245,7 @@ private Q_SLOTS:
     void aRejectedSettingSaysWhy()
     {
         m_changes->begin();
+        const Service idle("idle");
         m_rec->item("a")->setValue(7);
         m_rec->item("b")->setValue(8);
         m_rec->client.refusal = "Nothing was set.";
@@ -250,8 +253,8 @@ private Q_SLOTS:
         QVERIFY(!m_changes->apply());
         QCOMPARE(rowsOf(*m_changes), (Rows {"a 5>7 waiting", "b 5>8 refused 8 is too much."}));
         QVERIFY(m_changes->waiting() == 2 && m_changes->problem().isEmpty());
-        // What is corrected now has to wait.
-        QVERIFY(m_changes->isChanging());
+        // What is corrected now has to wait. A service that has nothing to do with it goes on taking what is set.
+        QVERIFY(m_changes->isChanging() && !idle.manifest->isChanging());
         m_rec->item("b")->setValue(6);
         QCOMPARE(rowsOf(*m_changes), (Rows {"a 5>7 waiting", "b 5>6 waiting"}));
         m_rec->client.rejected = {{"a", "No."}};
@@ -295,6 +298,11 @@ private Q_SLOTS:
         };
         QVERIFY(!m_changes->apply());
         QCOMPARE(rowsOf(*m_changes), Rows {"a 6>7 overtaken"});
+        // One that is sent alone.
+        m_rec->item("c")->setValue(9);
+        m_rec->client.onSet = [this](const QVariant&) { m_rec->report("c", 1); };
+        m_rec->item("c")->apply();
+        QCOMPARE(rowsOf(*m_changes), (Rows {"a 6>7 overtaken", "c 1>9 overtaken"}));
     }
 
     void eachServiceGetsItsOwn()
@@ -348,6 +356,15 @@ private Q_SLOTS:
         QCOMPARE(states.size(), 3);
         ofRec.setManifests({QVariant()});
         QVERIFY(rowsOf(ofRec).isEmpty());
+        // Another one may be made where one was.
+        alignas(Manifest) std::array<unsigned char, sizeof(Manifest)> place {};
+        for (int times = 0; times < 2; ++times) {
+            auto* const manifest = new (place.data()) Manifest(&idle.client, "idle", "idle");
+            ofRec.setManifests({QVariant::fromValue(manifest)});
+            ofRec.begin();
+            QVERIFY(manifest->isChanging());
+            manifest->~Manifest();
+        }
         ofRec.setManifests({});
         QCOMPARE(rowsOf(ofRec), Rows {"b 5>2 waiting"});
     }
@@ -416,9 +433,16 @@ private Q_SLOTS:
         QTest::newRow("any decimals") << "double" << none << QVariant(1.5) << QVariant(0.125) << "1,5 dB>0,125 dB";
         QTest::newRow("list") << "std::vector<double>" << none << QVariant(QVariantList {1.5}) << QVariant(QVariantList {1.5, 2.0})
                               << "1,5 dB>1,5, 2 dB";
+        QTest::newRow("list of whole numbers") << "std::vector<double>" << QVariantMap {{"precision", 2}} << QVariant(QVariantList {1.5})
+                                               << QVariant(QVariantList {1, 2}) << "1,50 dB>1,00, 2,00 dB";
+        QTest::newRow("empty list") << "std::vector<double>" << none << QVariant(QVariantList {1.5}) << QVariant(QVariantList {}) << "1,5 dB>";
+        QTest::newRow("digits that a double has not") << "int" << none << QVariant(9'007'199'254'740'992LL) << QVariant(9'007'199'254'740'993LL)
+                                                      << "9.007.199.254.740.992 dB>9.007.199.254.740.993 dB";
         // Its own unit follows its own value; "stale" would be the one of the value before.
         QTest::newRow("formatter") << "double" << QVariantMap {{"formatter", "scaling"}} << QVariant(900.0) << QVariant(1500.0)
                                    << "900 Hz>1.5 kHz";
+        QTest::newRow("formatter of a list") << "std::vector<double>" << QVariantMap {{"formatter", "scaling"}} << QVariant(QVariantList {900.0})
+                                             << QVariant(QVariantList {1500.0, 2.0}) << "900 Hz>1.5 kHz, 2 Hz";
     }
 
     void values()
@@ -459,9 +483,11 @@ private Q_SLOTS:
         auto* source = m_rec->client.add<RecordedEnum>(m_rec->id("mode"), 1);
         source->state->type = "int";
         source->choices.choices = {{1, "One", "first"}, {2, "Two", "second"}};
+        source->state->unit = "gear";
         Q_EMIT m_rec->client.itemsChanged();
         QCOMPARE(m_changes->enter(m_rec->item("mode"), 2), QString());
-        QCOMPARE(rowsOf(*m_changes), Rows {"mode first>second waiting"});
+        QCOMPARE(rowsOf(*m_changes), Rows {"mode first gear>second gear waiting"});
+        source->state->unit.clear();
         QCOMPARE(m_changes->enter(m_rec->item("mode"), 7), QString("Invalid enum value 7"));
         // Labels may change, and a choice may vanish while its change is overtaken.
         source->choices.choices = {{1, "One", "erste"}, {2, "Two", "zweite"}, {3, "Three", "dritte"}};
@@ -473,6 +499,42 @@ private Q_SLOTS:
         QVERIFY(!m_changes->setAgain(0));
         QCOMPARE(rowsOf(*m_changes), Rows {"mode dritte>2 overtaken Invalid enum value 2"});
         QVERIFY(m_changes->dismiss(0));
+    }
+
+    /// A member that is set changes its aggregate, whose members are shown in their own order.
+    void aggregates()
+    {
+        auto* const source = m_rec->client.add<RecordedAggregate>(m_rec->id("limits"));
+        const auto says = [source](int low, int high) {
+            source->aggregate = KivAggregate({{"low", low}, {"high", high}});
+            source->state->value = source->aggregate.toVariant();
+            Q_EMIT source->valueChanged();
+        };
+        says(1, 9);
+        Q_EMIT m_rec->client.itemsChanged();
+        m_changes->begin();
+        auto* const map = m_rec->item("limits")->getValue().value<QQmlPropertyMap*>();
+        const auto write = [map](const QString& member, const QVariant& value) { map->setProperty(qPrintable(member), value); };
+        write("low", 2);
+        QCOMPARE(m_changes->index(0).data(PendingChanges::OldTextRole), QVariant("1, 9"));
+        QCOMPARE(m_changes->index(0).data(PendingChanges::NewTextRole), QVariant("2, 9"));
+        says(3, 9);
+        QCOMPARE(m_changes->overtaken(), 1);
+        QVERIFY(m_changes->setAgain(0));
+        QVERIFY(m_changes->apply());
+        QCOMPARE(m_rec->batches(), QStringList {R"({"limits":{"high":9,"low":2}})"});
+        QCOMPARE(m_changes->count(), 0);
+        says(2, 9);
+        // Numbers of the other type mean the same.
+        m_changes->begin();
+        write("low", 2.0);
+        QCOMPARE(m_changes->count(), 0);
+        write("low", 4);
+        QVERIFY(m_changes->revert(0));
+        QCOMPARE(m_changes->enter(m_rec->item("limits"), QVariantMap {{"low", 0}, {"high", 7}}), QString());
+        QCOMPARE(m_changes->index(0).data(PendingChanges::NewTextRole), QVariant("0, 7"));
+        says(0, 7);
+        QCOMPARE(m_changes->count(), 0);
     }
 
     void enter()
@@ -491,6 +553,11 @@ private Q_SLOTS:
         m_rec->manifest->applyChanges();
         QCOMPARE(m_rec->batches(), QStringList {"{}"});
         QCOMPARE(m_changes->enter(nullptr, 1), QString());
+        // What cannot be set does not take an entry, and holds nothing back.
+        m_rec->client.add(":result:rec:power:", 5);
+        Q_EMIT m_rec->client.itemsChanged();
+        QCOMPARE(m_changes->enter(Manifest::getKivData(":result:rec:power:"), 1), QString("The entry was rejected."));
+        QVERIFY(!m_changes->isChanging());
         // The item of another manifest has to wait too.
         Service other("other");
         m_changes->setManifests({QVariant::fromValue(m_rec->manifest.get())});
@@ -558,6 +625,15 @@ private Q_SLOTS:
         large.manifest->revertChanges();
         QCOMPARE(changes.count(), 0);
         QCOMPARE(removals.size(), 1);
+
+        // They go with their manifest.
+        changes.begin();
+        for (const QString& name : qAsConst(names))
+            large.item(name)->setValue(8);
+        removals.clear();
+        large.manifest.reset();
+        QCOMPARE(changes.count(), 0);
+        QCOMPARE(removals.size(), 1);
     }
 
     /// What a slot does while rows change is listed after that, each change once.
@@ -618,6 +694,8 @@ private Q_SLOTS:
                 [](PendingChanges&, Service& rec) { rec.manifest->applyChanges(); },
                 [](PendingChanges&, Service& rec) { rec.client.remove(rec.id("a")); },
                 [](PendingChanges&, Service& rec) { delete rec.item("a"); },
+                [](PendingChanges&, Service& rec) { rec.manifest.reset(); },
+                [](PendingChanges& changes, Service&) { changes.setManifests({QVariant()}); },
         };
         for (const Step& step : steps) {
             m_tester.reset();
@@ -649,6 +727,7 @@ private Q_SLOTS:
                 dialog.exec();
             };
             PendingChanges* const model = changes.get();
+            connect(model, &PendingChanges::modelAboutToBeReset, &context, act);
             connect(model, &PendingChanges::dataChanged, &context, act);
             connect(model, &PendingChanges::rowsInserted, &context, act);
             connect(model, &PendingChanges::rowsRemoved, &context, act);

@@ -254,6 +254,30 @@ private Q_SLOTS:
             QVERIFY(!object->property(name).value<QObject*>());
         QCOMPARE(warnings(), QStringList());
     }
+
+    /// What is told last is what holds, also when a page changes the service while it is told of the one before.
+    void whoIsToldMayNameAnotherService()
+    {
+        m_client->add(modeId, 3);
+        m_client->add(":result:rec:test:power:", 1.5);
+        m_client->add<RecordedList>(":result:rec:test:events:");
+        RecordedClient others;
+        others.add(":config:xyz:setup:mode:", 4);
+        others.add(":result:xyz:test:power:", 2.5);
+        others.add<RecordedList>(":result:xyz:test:events:");
+        knowNames();
+        const auto object = made();
+        Ender ender;
+        ender.act = [&object] { object->setProperty("tag", "xyz"); };
+        connect(object.get(), SIGNAL(cfg_modeChanged()), &ender, SLOT(end()));
+        const Manifest manifest(m_client.get(), "rec", "rec");
+        const Manifest other(&others, "xyz", "xyz");
+        knowNames();
+        QCOMPARE(wrapperAt(object, "cfg_mode")->getId(), QString(":config:xyz:setup:mode:"));
+        QCOMPARE(wrapperAt(object, "res_power")->getId(), QString(":result:xyz:test:power:"));
+        QCOMPARE(object->property("service").value<Manifest*>(), const_cast<Manifest*>(&other));
+        QCOMPARE(warnings(), QStringList());
+    }
 };
 
 QTEST_GUILESS_MAIN(ServiceItemsTest)

@@ -150,13 +150,14 @@ private Q_SLOTS:
         QTest::newRow("another form") << "other_de.ts" << QByteArray("<html/>") << "is no catalogue of translators";
         QTest::newRow("no language") << "mine.ts" << QByteArray() << "does not say its language";
         QTest::newRow("another ending") << "mine_de.json" << QByteArray() << "does not say its language";
-        QTest::newRow("no folder") << "none/mine_de.ts" << QByteArray() << "none/mine_de.ts";
+        QTest::newRow("no folder") << "file/mine_de.ts" << QByteArray() << "file/mine_de.ts";
     }
     void wrongFiles()
     {
         QFETCH(const QString, name);
         QFETCH(const QByteArray, contents);
         QFETCH(const QString, problem);
+        writeFile(path("file"), "");
         if (!contents.isEmpty())
             writeFile(path(name), contents);
         QStringList problems;
@@ -176,6 +177,10 @@ private Q_SLOTS:
         const QString made = run(wanted);
         QVERIFY2(made.startsWith(path("a_de.ts") + ": Found 12 source text(s) (12 new and 0 already existing)\n" + path("a_ja.ts")), qPrintable(made));
         QVERIFY(contentsOf(path("a_ja.ts")).contains("language=\"ja"));
+        // As the first command of the guide does, beside services that were never translated.
+        const QString first = path("services/translations/a_de.ts");
+        const QString begun = run({"--services", path("services"), "--ts", first});
+        QVERIFY2(begun.startsWith(first + ": Found 12") && QFileInfo::exists(first), qPrintable(begun));
         const QByteArray before = contentsOf(path("a_de.ts"));
         writeFile(path("services/b.service.json"), "{");
         const QString refused = run(wanted);

@@ -263,8 +263,11 @@ void KivData::apply()
         return;
     // A rejected change stays pending, so that it can be corrected or undone.
     d->isChanged = isRejected && d->reports == reports;
-    d->noteChange();
     uiutils::ChangeWatch* watch = uiutils::ChangeWatch::current();
+    if (isRejected && !d->isChanged && watch)
+        watch->noteReport(this, value);
+    else
+        d->noteChange();
     if (d->isChanged && watch)
         watch->noteRejection(this, error);
     if (d->reports == reports)

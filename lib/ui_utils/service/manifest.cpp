@@ -53,6 +53,7 @@ public:
     QString actionId(QLatin1String action) const;
     bool send(const QString& actionId, const QString& argument);
     bool sendBatch(const Senders& senders);
+    void endChanges();
     static void reject(const Senders& senders, const QString& reason, const QMap<QString, QString>& rejected);
 
     QString name;
@@ -190,7 +191,7 @@ Manifest::Manifest(KIVClientInterface* client, QString const& qmlTag, QString co
 Manifest::~Manifest()
 {
     ManifestPrivate::all().removeOne(this);
-    uiutils::setChanging(this, false);
+    d->endChanges();
     if (!itemregistry::hasDisplaced())
         return;
     // After these have been deleted, pages continue with the wrappers that have their entries back.
@@ -369,6 +370,16 @@ bool ManifestPrivate::sendBatch(const Senders& senders)
             wrapper->revert();
     }
     return true;
+}
+
+/// Ends the transaction and all changes before the wrappers are deleted one by one.
+void ManifestPrivate::endChanges()
+{
+    const ChangeBatch batch;
+    uiutils::setChanging(q, false);
+    const QVector<QPointer<KivData>> own = ChangeWatch::current() ? wrappers() : QVector<QPointer<KivData>>();
+    for (const QPointer<KivData>& wrapper : own)
+        ChangeWatch::current()->noteEnd(wrapper);
 }
 
 void ManifestPrivate::reject(const Senders& senders, const QString& reason, const QMap<QString, QString>& rejected)

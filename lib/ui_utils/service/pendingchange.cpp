@@ -7,6 +7,8 @@
 #include "service/manifeststate_p.h"
 #include "service/valuetext_p.h"
 
+#include <kiv/kivaggregateclientitem.h>
+
 #include <QCoreApplication>
 #include <QLocale>
 
@@ -38,18 +40,30 @@ bool isNumber(const QVariant& value)
     }
 }
 
-/// A number as the type that the service uses: pages set 3 where the service means 3.000.
-QVariant asTypeOf(const QVariant& value, const QVariant& served)
+bool isReal(const QVariant& value)
 {
-    QVariant converted = value;
-    return isNumber(value) && isNumber(served) && converted.convert(served.userType()) && meansSame(converted, value)
-            ? converted
-            : value;
+    return value.userType() == QMetaType::Double || value.userType() == QMetaType::Float;
 }
 
 bool isList(const QVariant& value)
 {
     return value.userType() == QMetaType::QVariantList || value.userType() == QMetaType::QStringList;
+}
+
+/// Numbers as the type that the service uses: pages set 3 where the service means 3.000.
+QVariant asTypeOf(const QVariant& value, const QVariant& served)
+{
+    if (isList(value) && isList(served)) {
+        const QVariant servedElement = served.toList().value(0);
+        QVariantList elements = value.toList();
+        for (QVariant& element : elements)
+            element = asTypeOf(element, servedElement);
+        return elements;
+    }
+    QVariant converted = value;
+    return isNumber(value) && isNumber(served) && converted.convert(served.userType()) && meansSame(converted, value)
+            ? converted
+            : value;
 }
 
 QString plainText(const QVariant& value, int precision)
@@ -72,6 +86,37 @@ QString plainText(const QVariant& value, int precision)
     return texts.join(QLatin1String(", "));
 }
 
+QString withUnit(const QString& text, const QString& unit)
+{
+    return text.isEmpty() || unit.isEmpty() ? text : text + QLatin1Char(' ') + unit;
+}
+
+/// The members of an aggregate in the order in which its service has them.
+QVariant inOrder(const KIVClientItem* source, const QVariant& value)
+{
+    const auto* aggregate = qobject_cast<const KivAggregateClientItem*>(source);
+    if (!aggregate || value.userType() != QMetaType::QVariantMap)
+        return value;
+    const QVariantMap map = value.toMap();
+    QVariantList members;
+    const QList<QByteArray> names = aggregate->getAggregate().getPropertyNames();
+    for (const QByteArray& name : names)
+        members.append(map.value(QString::fromUtf8(name)));
+    return members;
+}
+
+/// A formatter knows single values.
+QString formattedElements(BaseFormatter& formatter, const QVariant& value, bool showUnits)
+{
+    if (!isList(value))
+        return formattedText(formatter, value, showUnits);
+    QStringList texts;
+    const QVariantList elements = value.toList();
+    for (const QVariant& element : elements)
+        texts += formattedText(formatter, element, showUnits);
+    return texts.join(QLatin1String(", "));
+}
+
 /// A formatter that scales has another unit for another value, so its own units are shown, unless the service names one.
 QString textOfFormatter(BaseFormatter& formatter, const KivData& item, const QVariant& value)
 {
@@ -80,8 +125,8 @@ QString textOfFormatter(BaseFormatter& formatter, const KivData& item, const QVa
     const QString unit = item.getUnitString();
     const bool hasOwnUnit = unit == formatter.getUnitString();
     formatter.setValue(held);
-    const QString text = formattedText(formatter, value, hasOwnUnit);
-    return hasOwnUnit || unit.isEmpty() ? text : text + QLatin1Char(' ') + unit;
+    const QString text = formattedElements(formatter, value, hasOwnUnit);
+    return hasOwnUnit ? text : withUnit(text, unit);
 }
 
 } // namespace
@@ -90,8 +135,11 @@ bool meansSame(const QVariant& a, const QVariant& b)
 {
     if (isSameValue(a, b))
         return true;
-    if (isNumber(a) && isNumber(b))
-        return a.toDouble() == b.toDouble();
+    if (isNumber(a) && isNumber(b)) {
+        // A double does not have all digits of a large whole number.
+        const bool areEqual = a.toDouble() == b.toDouble();
+        return isReal(a) || isReal(b) ? areEqual : areEqual && a.toLongLong() == b.toLongLong();
+    }
     if (isList(a) && isList(b)) {
         const QVariantList as = a.toList();
         const QVariantList bs = b.toList();
@@ -108,13 +156,12 @@ QString settingText(KivData& item, const QVariant& value)
 {
     const QString choice = item.getEnumCount() > 0 ? item.enumLabelForValue(value.toInt()) : QString();
     if (!choice.isEmpty())
-        return choice;
+        return withUnit(choice, item.getUnitString());
     if (BaseFormatter* formatter = item.getBaseFormatter())
         return textOfFormatter(*formatter, item, value);
     const QVariant precision = item.getAttr(QStringLiteral("precision"));
-    const QString text = plainText(value, precision.isNull() ? -1 : precision.toInt());
-    const QString unit = item.getUnitString();
-    return unit.isEmpty() ? text : text + QLatin1Char(' ') + unit;
+    const QVariant shown = inOrder(KivDataPrivate::of(&item)->item, value);
+    return withUnit(plainText(shown, precision.isNull() ? -1 : precision.toInt()), item.getUnitString());
 }
 
 bool renew(PendingChange& change)

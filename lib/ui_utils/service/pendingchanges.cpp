@@ -167,7 +167,10 @@ void PendingChangesPrivate::update()
 
 void PendingChangesPrivate::reset()
 {
+    const QPointer<PendingChanges> self(q);
     q->beginResetModel();
+    if (!self)
+        return;
     m_rows.clear();
     m_overtaken = 0;
     const QVector<PendingChangePtr> changes = ledger->changes();
@@ -299,12 +302,14 @@ QVariantList PendingChanges::manifests() const
 
 void PendingChanges::setManifests(const QVariantList& manifests)
 {
-    if (manifests == d->manifests)
+    QVector<QPointer<Manifest>> listed;
+    for (const QVariant& manifest : manifests)
+        listed.append(qobject_cast<Manifest*>(plainValue(manifest).value<QObject*>()));
+    // A manifest may have the address of one that has gone.
+    if (manifests == d->manifests && listed == d->listed)
         return;
     d->manifests = manifests;
-    d->listed.clear();
-    for (const QVariant& manifest : manifests)
-        d->listed.append(qobject_cast<Manifest*>(plainValue(manifest).value<QObject*>()));
+    d->listed = listed;
     const QPointer<PendingChanges> self(this);
     d->requestReset();
     if (self)
@@ -394,8 +399,13 @@ bool PendingChanges::apply()
     const QPointer<PendingChanges> self(this);
     const ChangeBatch batch;
     const QVector<QPointer<Manifest>> scope = d->scope();
-    bool isAccepted = true;
+    QVector<QPointer<Manifest>> concerned;
     for (const QPointer<Manifest>& manifest : scope) {
+        if (manifest && (manifest->isChanging() || !d->waitingItems(manifest).isEmpty()))
+            concerned.append(manifest);
+    }
+    bool isAccepted = true;
+    for (const QPointer<Manifest>& manifest : qAsConst(concerned)) {
         if (!self || !isAccepted)
             break;
         if (!manifest)
@@ -404,7 +414,7 @@ bool PendingChanges::apply()
         isAccepted = d->send(manifest);
     }
     // What is corrected now has to wait too.
-    for (const QPointer<Manifest>& manifest : scope) {
+    for (const QPointer<Manifest>& manifest : qAsConst(concerned)) {
         if (manifest && !isAccepted)
             setChanging(manifest, true);
     }
@@ -480,6 +490,8 @@ QString PendingChanges::enter(KivData* item, const QVariant& value)
 {
     if (!item)
         return QString();
+    if (item->isReadOnly() && toManifest(item->parent()))
+        return tr("The entry was rejected.");
     const ChangeBatch batch;
     begin();
     return d->set(item, value);

@@ -9,6 +9,8 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <utility>
+
 namespace uiutils {
 
 namespace {
@@ -21,6 +23,8 @@ struct Property
     /// The class that the property's type points to.
     const QMetaObject* kind = nullptr;
     QPointer<KivData> wrapper;
+    /// Its notifier is to be emitted, also with the same wrapper.
+    bool isDue = false;
 };
 
 /// Whoever is told of one may delete others.
@@ -55,7 +59,7 @@ public:
     void look(itemregistry::Told told) override;
     void readProperties();
     Wrappers wrappersByName(QPointer<Manifest>* manifest) const;
-    bool put(Property* property, KivData* wrapper, itemregistry::Told told);
+    bool put(Property* property, KivData* wrapper);
     void warnOf(const QStringList& missing, const QStringList& others);
 
     ServiceItems* q;
@@ -64,6 +68,9 @@ public:
     QVector<Property> properties;
     bool isComplete = false;
     bool hasWarned = false;
+    bool isServiceDue = false;
+    /// Counts the looks: whoever is told of one may cause the next one.
+    unsigned looks = 0;
 };
 
 void ServiceItemsPrivate::readProperties()
@@ -92,9 +99,10 @@ Wrappers ServiceItemsPrivate::wrappersByName(QPointer<Manifest>* manifest) const
 }
 
 /// Returns false when this object was deleted by whoever was told.
-bool ServiceItemsPrivate::put(Property* property, KivData* wrapper, itemregistry::Told told)
+bool ServiceItemsPrivate::put(Property* property, KivData* wrapper)
 {
     const QPointer<ServiceItems> self(q);
+    const bool isDue = std::exchange(property->isDue, false);
     if (property->wrapper != wrapper) {
         property->wrapper = wrapper;
         // Nobody else may write it, so the property says that it cannot be written.
@@ -103,7 +111,7 @@ bool ServiceItemsPrivate::put(Property* property, KivData* wrapper, itemregistry
         int flags = 0;
         void* arguments[] = {&value, nullptr, &status, &flags};
         QMetaObject::metacall(q, QMetaObject::WriteProperty, property->meta.propertyIndex(), arguments);
-    } else if (wrapper && told == itemregistry::Told::All) {
+    } else if (wrapper && isDue) {
         property->meta.notifySignal().invoke(q, Qt::DirectConnection);
     }
     return self;
@@ -129,8 +137,11 @@ void ServiceItemsPrivate::look(itemregistry::Told told)
         return;
     QPointer<Manifest> manifest;
     const Wrappers wrappers = wrappersByName(&manifest);
-    const bool isOther = service != manifest;
+    const unsigned thisLook = ++looks;
+    isServiceDue = isServiceDue || service != manifest;
     service = manifest;
+    for (Property& property : properties)
+        property.isDue = property.isDue || told == itemregistry::Told::All;
     QStringList missing;
     QStringList others;
     for (Property& property : properties) {
@@ -142,12 +153,12 @@ void ServiceItemsPrivate::look(itemregistry::Told told)
             others.append(name);
             wrapper = nullptr;
         }
-        if (!put(&property, wrapper, told))
+        if (!put(&property, wrapper) || thisLook != looks)
             return;
     }
     if (manifest)
         warnOf(missing, others);
-    if (isOther)
+    if (std::exchange(isServiceDue, false))
         Q_EMIT q->serviceChanged();
 }
 
