@@ -152,6 +152,8 @@ private Q_SLOTS:
                                                              << QByteArray("No item has the name optical_res_los.");
         QTest::newRow("a name in brackets") << QByteArray("Item { visible: services[\"optcal\"].isAvailable }")
                                             << QByteArray("There is no service \"optcal\".");
+        QTest::newRow("the beginning of a name") << QByteArray("Text { text: optical_res_loss.unit }")
+                                                 << QByteArray("An item has no \"unit\". Did you mean unitString?");
         QTest::newRow("a step") << QByteArray("Item { function f() { ++optical_res_progress.value } }")
                                 << QByteArray("optical_res_progress is a result");
         QTest::newRow("a limit") << QByteArray("Item { function f() { optical_cfg_backscatter.value = -100.5 } }")
