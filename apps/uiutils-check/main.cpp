@@ -27,9 +27,10 @@ int countOf(Finding::Weight weight, const QVector<Finding>& findings)
             findings.cbegin(), findings.cend(), [weight](const Finding& finding) { return finding.weight == weight; }));
 }
 
-void print(const QByteArray& text)
+bool print(const QByteArray& text)
 {
-    std::fwrite(text.constData(), 1, size_t(text.size()), stdout);
+    return std::fwrite(text.constData(), 1, size_t(text.size()), stdout) == size_t(text.size())
+            && std::fflush(stdout) == 0;
 }
 
 /// A line for each.
@@ -63,7 +64,8 @@ int main(int argc, char** argv)
 
     const QVector<Finding> findings = findingsFor(options);
     const QVector<Finding> shown = shownOf(findings, options.isQuiet);
-    print(options.asJson ? check::toJson(shown) : listOf(shown));
+    if (!print(options.asJson ? check::toJson(shown) : listOf(shown)))
+        return apps::complain(QStringLiteral("The findings could not be written."), apps::exitFailed);
     const int errors = countOf(Finding::Error, findings);
     const int warnings = countOf(Finding::Warning, findings);
     return errors > 0 || (options.isStrict && warnings > 0) ? apps::exitFailed : apps::exitDone;

@@ -49,6 +49,15 @@ private Q_SLOTS:
         QCOMPARE(outcome.errors.isEmpty(), exitCode != 2);
     }
 
+    /// Nobody takes an empty list on a full disk for a right file.
+    void fullDisk()
+    {
+        QProcess process;
+        process.setStandardOutputFile("/dev/full");
+        process.start(UIUTILS_CHECK_PROGRAM, {"--json", services});
+        QCOMPARE(ended(process).exitCode, 1);
+    }
+
     void json()
     {
         const Outcome outcome = run({"--json", wrong});

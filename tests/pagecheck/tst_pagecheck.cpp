@@ -127,6 +127,9 @@ private Q_SLOTS:
         QTest::newRow("names like those of properties")
             << QByteArray("Item { property int colour: 1; ListModel { ListElement { titel: \"a\"; txt: \"b\" } }\n"
                           "Item { property alias itme: t.text; Timer { interval: 5 } Text { id: t; font { bold: true; weight: Font.Bold } } } }");
+        QTest::newRow("built-in types behind the name of an import")
+            << QByteArray("import QtQuick 2.15 as Q\nQ.Item { Q.Timer { interval: 5 } Q.Connections { target: null }\n"
+                          "Q.ListModel { Q.ListElement { colour: \"red\" } } Q.Component { Q.Item {} } }");
         QTest::newRow("inside a property of a group") << QByteArray("Rectangle { border { width: 2; color: \"red\" } }");
     }
 
@@ -149,6 +152,8 @@ private Q_SLOTS:
                                                              << QByteArray("No item has the name optical_res_los.");
         QTest::newRow("a name in brackets") << QByteArray("Item { visible: services[\"optcal\"].isAvailable }")
                                             << QByteArray("There is no service \"optcal\".");
+        QTest::newRow("the beginning of a name") << QByteArray("Text { text: optical_res_loss.unit }")
+                                                 << QByteArray("An item has no \"unit\". Did you mean unitString?");
         QTest::newRow("a step") << QByteArray("Item { function f() { ++optical_res_progress.value } }")
                                 << QByteArray("optical_res_progress is a result");
         QTest::newRow("a limit") << QByteArray("Item { function f() { optical_cfg_backscatter.value = -100.5 } }")

@@ -4,6 +4,9 @@
 #include "check/pages/pagefile.h"
 #include "check/wording.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace uiutils::check {
 
 using namespace QQmlJS::AST;
@@ -12,7 +15,16 @@ namespace {
 
 QString unknownMember(const names::ItemFacts& item, const QString& name)
 {
-    const QString proposed = proposal(name, membersOf(item));
+    const QStringList members = membersOf(item);
+    // "unit" for "unitString" is likelier than any other name of two letters.
+    QStringList longer;
+    std::copy_if(members.cbegin(), members.cend(), std::back_inserter(longer), [&](const QString& member) {
+        return member.startsWith(name, Qt::CaseInsensitive) && name.size() > 2
+                && memberOf(item, member).kind == Member::Property;
+    });
+    const QString proposed = longer.isEmpty() || members.contains(name, Qt::CaseInsensitive)
+            ? proposal(name, members)
+            : proposal(longer.mid(0, 3));
     return QStringLiteral("An item has no \"%1\".%2")
             .arg(name,
                     proposed.isEmpty() ? QStringLiteral(" It has value, valueString, label, unitString, isReady, "

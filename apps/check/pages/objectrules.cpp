@@ -128,7 +128,7 @@ void ObjectRules::judgeProperty(const Object& object, UiQualifiedId* name)
     const QString property = name->name.toString();
     // Groups have properties of values, elements of a list have roles.
     const bool isFree = object.type.isEmpty() || !object.type.section(QLatin1Char('.'), -1).at(0).isUpper()
-            || object.type == QLatin1String("ListElement");
+            || object.type.section(QLatin1Char('.'), -1) == QLatin1String("ListElement");
     if (isFree || !m_scope.imports.isComplete || property.size() < shortest || property.at(0).isUpper()
             || isHandler(property) || m_scope.imports.properties.contains(property)
             || builtInProperties().contains(property) || m_scope.names.isDeclared(property)

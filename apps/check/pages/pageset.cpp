@@ -161,6 +161,11 @@ void PageSet::readModule(const PageFile& file, const UiImport& import, FileImpor
     const QmlModule* const module = m_modules.find(name, versionOf(import));
     if (!tag.isEmpty() && (module ? module->singletons.contains(last) : name.contains(QLatin1Char('.'))))
         imports->singletons.insert(prefix + last, tag);
+    if (!prefix.isEmpty()
+            && (name == QLatin1String("QtQuick") || name.section(QLatin1Char('.'), 0, 0) == QLatin1String("QtQml"))) {
+        for (const QString& type : builtInTypes())
+            imports->types.insert(prefix + type);
+    }
     if (name == QLatin1String("UiUtils.Controls")) {
         imports->hasKit = true;
         imports->kitPrefix = prefix;
