@@ -73,6 +73,7 @@ Item {
 
         function test_byKeys() {
             const view = review(700)
+            waitForRendering(view)
             view.forceActiveFocus()
             keyClick(Qt.Key_Down)
             keyClick(Qt.Key_Space)
@@ -93,7 +94,7 @@ Item {
             const first = rows(view)[0]
             compare(first.Accessible.name, entry_cfg_count.label)
             verify(first.Accessible.description.includes(first.oldText) && first.Accessible.description.includes(first.newText))
-            compare(findChild(first, "revert " + first.label).Accessible.name, "Revert " + first.label)
+            compare(findChild(first, "revert " + first.label).Accessible.name, "Revert: " + first.label)
             driver.report(":config:entry:count:", 9)
             verify(rows(view)[0].Accessible.description.startsWith("Changed meanwhile, Now: 9"))
             view.changes.dismiss(0)
