@@ -150,7 +150,11 @@ void ItemCheck::checkValue()
     const ValueProblem problem = unsuitableValue(m_item, *value, m_regexes);
     if (problem.message.isEmpty())
         return;
-    if (isSetting() || m_description.isEnumeration)
+    // What users have not entered yet is loaded like this, and is no text that they could have entered.
+    if (isSetting() && value->isText() && value->text.isEmpty())
+        m_findings.warn(*problem.place,
+                problem.message + QLatin1String(" For a setting that nobody has entered yet, leave \"value\" out."));
+    else if (isSetting() || m_description.isEnumeration)
         m_findings.error(*problem.place, problem.message);
     else
         m_findings.warn(*problem.place, problem.message);
