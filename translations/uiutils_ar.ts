@@ -2962,6 +2962,10 @@ Folder: %2</source>
         <source>not of the type %1</source>
         <translation>ليس من النوع %1</translation>
     </message>
+    <message>
+        <source>a service file may not say this here; uiutils-check tells what it may</source>
+        <translation>لا يجوز أن يرد هذا هنا في ملف خدمة؛ يبيّن uiutils-check ما يجوز</translation>
+    </message>
 </context>
 <context>
     <name>ServiceItem</name>

@@ -2934,6 +2934,10 @@ Ordner: %2</translation>
         <source>not of the type %1</source>
         <translation>nicht vom Typ %1</translation>
     </message>
+    <message>
+        <source>a service file may not say this here; uiutils-check tells what it may</source>
+        <translation>das darf eine Dienstdatei hier nicht sagen; uiutils-check sagt, was sie darf</translation>
+    </message>
 </context>
 <context>
     <name>ServiceItem</name>

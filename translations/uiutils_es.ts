@@ -2934,6 +2934,10 @@ Carpeta: %2</translation>
         <source>not of the type %1</source>
         <translation>no es del tipo %1</translation>
     </message>
+    <message>
+        <source>a service file may not say this here; uiutils-check tells what it may</source>
+        <translation>un archivo de servicio no puede decir esto aquí; uiutils-check indica lo que puede decir</translation>
+    </message>
 </context>
 <context>
     <name>ServiceItem</name>

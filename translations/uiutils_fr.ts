@@ -2934,6 +2934,10 @@ Dossier&#xa0;: %2</translation>
         <source>not of the type %1</source>
         <translation>pas du type %1</translation>
     </message>
+    <message>
+        <source>a service file may not say this here; uiutils-check tells what it may</source>
+        <translation>un fichier de service ne peut pas dire cela ici&#xa0;; uiutils-check dit ce qu’il peut dire</translation>
+    </message>
 </context>
 <context>
     <name>ServiceItem</name>

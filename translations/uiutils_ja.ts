@@ -2927,6 +2927,10 @@ Folder: %2</source>
         <source>not of the type %1</source>
         <translation>型 %1 ではありません</translation>
     </message>
+    <message>
+        <source>a service file may not say this here; uiutils-check tells what it may</source>
+        <translation>サービスファイルのこの場所には書けない内容です。書ける内容は uiutils-check で確認できます</translation>
+    </message>
 </context>
 <context>
     <name>ServiceItem</name>

@@ -2934,6 +2934,10 @@ Föļđéŕ: %2 ~ ~ ~ ~]</translation>
         <source>not of the type %1</source>
         <translation>[ñöţ öf ţĥé ţýpé %1 ~ ~ ~]</translation>
     </message>
+    <message>
+        <source>a service file may not say this here; uiutils-check tells what it may</source>
+        <translation>[å šéŕvîçé fîļé måý ñöţ šåý ţĥîš ĥéŕé; ûîûţîļš-çĥéçķ ţéļļš ŵĥåţ îţ måý ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~ ~]</translation>
+    </message>
 </context>
 <context>
     <name>ServiceItem</name>

@@ -114,6 +114,20 @@ private Q_SLOTS:
         QCOMPARE(backend.serviceNames(), QStringList {"good"});
     }
 
+    /// The place, the item and where to ask, and nothing that a terminal would obey.
+    void whatContradictsTheSchema()
+    {
+        const auto problemOf = [](const QByteArray& id) {
+            QTemporaryDir dir;
+            const QString path = writeFile(dir.filePath("bad.service.json"),
+                    "{\"service\": \"s\", \"items\": [{\"id\": \"" + id + "\", \"type\": \"int\", \"label\": 5}]}");
+            return EmbeddedBackend().loadFolders({dir.path()}).value(0).remove(path);
+        };
+        const QString words = ": a service file may not say this here; uiutils-check tells what it may";
+        QCOMPARE(problemOf(":config:s:a:"), ": /items/0/label" + words + " [:config:s:a:]");
+        QCOMPARE(problemOf(":config:s:\\u001b[2J:"), ": /items/0/label" + words);
+    }
+
     void folders()
     {
         QTemporaryDir dir;

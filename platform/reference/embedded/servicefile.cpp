@@ -3,6 +3,7 @@
 #include "descriptioncheck_p.h"
 #include "filedescription_p.h"
 #include "jsonschema_p.h"
+#include "texts_p.h"
 
 #include <kiv/plovjsondocument.h>
 
@@ -10,6 +11,8 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+
+#include <algorithm>
 
 // Resources of a static library must be initialized explicitly.
 static void initResources()
@@ -21,6 +24,9 @@ static void initResources()
 namespace kiv::embedded {
 
 namespace {
+
+/// More characters are none that anybody would recognize.
+constexpr int maximumShownId = 255;
 
 QJsonObject resource(const QString& path)
 {
@@ -40,6 +46,27 @@ const QJsonObject& serviceFileSchema()
 bool isShipped(const QString& path, const QJsonObject& document)
 {
     return document == resource(QStringLiteral(":/uiutils/services/") + QFileInfo(path).fileName());
+}
+
+/// Where the document contradicts the schema: the place, and the id of the item. The validator's own words speak of the
+/// schema, which nobody has read who writes a service file; a program of its own says what is allowed.
+QString schemaProblem(const QJsonObject& file)
+{
+    const QString violation = schemaViolation(serviceFileSchema(), file);
+    if (violation.isEmpty())
+        return QString();
+    const QString place = violation.section(QLatin1String(": "), 0, 0);
+    const QString problem = place + QLatin1String(": ")
+            + ServiceFileTexts::tr("a service file may not say this here; uiutils-check tells what it may");
+    if (!place.startsWith(QLatin1String("/items/")))
+        return problem;
+    const QJsonValue item
+            = file.value(QLatin1String("items")).toArray().at(place.section(QLatin1Char('/'), 2, 2).toInt());
+    const QString id = item.toObject().value(QLatin1String("id")).toString();
+    // The sentence goes to terminals, which obey control characters.
+    const bool isShown = !id.isEmpty() && id.size() <= maximumShownId
+            && std::all_of(id.cbegin(), id.cend(), [](QChar c) { return c.isPrint(); });
+    return isShown ? problem + QLatin1String(" [") + id + QLatin1Char(']') : problem;
 }
 
 /// What is wrong in what the file describes; empty if nothing is.
@@ -66,7 +93,7 @@ std::optional<ServiceFile> readServiceFile(const QString& path, QString* problem
     }
     QString violation;
     if (!isShipped(path, document.object()))
-        violation = schemaViolation(serviceFileSchema(), document.object());
+        violation = schemaProblem(document.object());
     ServiceDescription service;
     if (violation.isEmpty()) {
         service = describedService(document.object());
