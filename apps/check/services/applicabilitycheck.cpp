@@ -159,7 +159,8 @@ void ApplicabilityCheck::checkComparisons(
         const bool isKnown = std::any_of(choices.cbegin(), choices.cend(),
                 [&constant](const auto& choice) { return QString::number(choice.value) == constant; });
         QStringList words;
-        for (const auto& choice : choices.mid(0, 8))
+        const auto named = choices.mid(0, 8);
+        for (const auto& choice : named)
             words += QStringLiteral("%1 (%2)").arg(choice.value).arg(choice.name);
         if (!isKnown)
             document->findings.warn(expression,

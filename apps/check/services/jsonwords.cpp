@@ -50,7 +50,8 @@ QStringList likely(const QString& wanted, const QStringList& known)
     if (!same.isEmpty() || !cut.isEmpty())
         return (same.isEmpty() ? cut : same).mid(0, shortest);
     QStringList names;
-    for (const QString& name : apps::nearest(wanted, known)) {
+    const QStringList near = apps::nearest(wanted, known);
+    for (const QString& name : near) {
         if (isAlike(word, lastWord(name)))
             names += name;
     }
@@ -97,7 +98,8 @@ QString shownValue(const JsonNode& value)
 QString didYouMean(const QString& wanted, const QStringList& known)
 {
     QStringList names;
-    for (const QString& name : likely(wanted, known))
+    const QStringList near = likely(wanted, known);
+    for (const QString& name : near)
         names += quoted(name);
     return proposal(names);
 }

@@ -19,7 +19,8 @@ QString choiceWords(const ServiceItem& item)
 {
     constexpr int mostShown = 8;
     QStringList words;
-    for (const ChoiceDescription& choice : item.description.choices.mid(0, mostShown))
+    const QVector<ChoiceDescription> shown = item.description.choices.mid(0, mostShown);
+    for (const ChoiceDescription& choice : shown)
         words += QStringLiteral("%1 (%2)").arg(choice.value).arg(choice.name.left(30));
     if (item.description.choices.size() > mostShown)
         words += QString(QChar(0x2026));

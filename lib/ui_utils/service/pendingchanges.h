@@ -110,6 +110,8 @@ public:
     Q_INVOKABLE bool apply();
     /// Gives the settings that wait the values that their services have, and ends the transactions.
     Q_INVOKABLE void revertAll();
+    /// That of every model, which does nothing here.
+    using QAbstractListModel::revert;
     /// Gives the setting of a row the value that its service has, however often it was set. False for a row that does
     /// not wait.
     Q_INVOKABLE bool revert(int row);
