@@ -97,11 +97,6 @@ ItemFacts factsOf(const QString& id, KivData& wrapper)
 
 } // namespace
 
-QString tagOf(const QString& service)
-{
-    return service.section(QLatin1Char('.'), -1);
-}
-
 QVector<ItemFacts> factsOfManifests()
 {
     QVector<ItemFacts> all;

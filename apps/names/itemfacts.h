@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/servicetag_p.h"
+
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
@@ -60,9 +62,7 @@ struct ItemFacts
     bool isAction() const { return id.startsWith(QLatin1String(":action:")); }
 };
 
-/// The beginning of the names of a service's items: the last part of a name such as "com.example.test", because QML
-/// names contain no points.
-QString tagOf(const QString& service);
+using uiutils::tagOf;
 
 /// All items that the manifests of this process have, or had, in the order of their ids.
 QVector<ItemFacts> factsOfManifests();

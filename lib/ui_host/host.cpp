@@ -2,6 +2,7 @@
 
 #include "base/folderwatch_p.h"
 #include "base/root_p.h"
+#include "base/servicetag_p.h"
 #include "languages/languages.h"
 #include "module/modulepath.h"
 #include "service/manifest.h"
@@ -43,13 +44,6 @@ class ServicesByName final : public QQmlPropertyMap
 {
     QVariant updateValue(const QString& key, const QVariant&) override { return value(key); }
 };
-
-/// The beginning of the names of a service's items: the last part of a name such as "com.example.test", because QML
-/// names contain no points.
-QString tagOf(const QString& service)
-{
-    return service.section(QLatin1Char('.'), -1);
-}
 
 } // namespace
 

@@ -55,11 +55,11 @@ preview     qml/UiUtils/Preview             LIBRARY base contract scene
 kit         qml/UiUtils/Controls            scene
 liveplot    qml/UiUtils/Plot                base contract core languages document service plots
 common      apps/common                     LIBRARY base contract embedded bus host
-names       apps/names                      LIBRARY contract
+names       apps/names                      LIBRARY base contract
 check       apps/check                      common
 servicecheck apps/check/services            LIBRARY base contract formatters embedded simulation common names check
 pagecheck   apps/check/pages                LIBRARY base contract common names check
-checktool   apps/uiutils-check              check servicecheck pagecheck common names
+checktool   apps/uiutils-check              base check servicecheck pagecheck common names
 modules     apps/modules                    base names
 audit       apps/audit                      -
 servicetexts apps/servicetexts              base contract embedded
