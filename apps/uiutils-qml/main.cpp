@@ -177,10 +177,19 @@ int ended(int exitCode, const QVector<check::Finding>& before, const PageLog& lo
     return options.picture.isEmpty() ? exitCode : grabbed(exitCode, log);
 }
 
+/// Where the service files are that the services come from; empty if they come from elsewhere.
+QStringList describingFolders(const Options& options)
+{
+    if (!options.recording.isEmpty() || qEnvironmentVariable("KIV_PLATFORM") == QLatin1String("bus"))
+        return {};
+    return options.serviceFolders.isEmpty() ? defaultServiceFolders() : options.serviceFolders;
+}
+
 int show(Host& host, const Surroundings& around, const Options& options)
 {
     prepare(options);
-    const QVector<check::Finding> before = options.isCheck ? qmltool::judgePage(options) : QVector<check::Finding>();
+    const QVector<check::Finding> before
+            = options.isCheck ? qmltool::judgePage(options, describingFolders(options)) : QVector<check::Finding>();
     // It outlives the window that it is shown in.
     const std::unique_ptr<InspectorPanel> panel = options.isInspected ? makePanel(host, options) : nullptr;
     if (options.isInspected && !panel)

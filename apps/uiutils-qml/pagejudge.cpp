@@ -1,6 +1,7 @@
 #include "pagejudge.h"
 
 #include "check/pages/pagecheck.h"
+#include "check/services/servicecheck.h"
 #include "common/complaint.h"
 #include "names/itemfacts.h"
 
@@ -11,9 +12,12 @@ namespace uiutils::qmltool {
 
 using check::Finding;
 
-QVector<Finding> judgePage(const Options& options)
+QVector<Finding> judgePage(const Options& options, const QStringList& serviceFolders)
 {
-    return check::checkPages({options.page}, {options.importFolders, names::factsOfManifests()});
+    QVector<Finding> findings = check::checkPages({options.page}, {options.importFolders, names::factsOfManifests()});
+    if (!serviceFolders.isEmpty())
+        findings += check::checkServices(serviceFolders, nullptr);
+    return findings;
 }
 
 int tell(QVector<Finding> before, const QVector<Finding>& running, const Options& options)

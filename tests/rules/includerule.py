@@ -69,7 +69,7 @@ kivctl      apps/kivctl                     base contract embedded bus replay co
 viewer      apps/pdf_viewer                 base common scene
 demo        apps/demo                       LIBRARY base contract embedded replay common host inspector
 convert     apps/reportconvert              LIBRARY base contract embedded common host
-qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common names modules audit host inspector check pagecheck
+qmlviewer   apps/uiutils-qml                LIBRARY base contract embedded replay common names modules audit host inspector check pagecheck servicecheck
 describe    apps/uiutils-describe           LIBRARY base contract embedded bus common host names modules servicetexts
 inspecttool apps/uiutils-inspector          LIBRARY base contract embedded replay common host inspector
 expage      examples/page                   host

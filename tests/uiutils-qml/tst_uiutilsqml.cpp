@@ -184,13 +184,31 @@ private Q_SLOTS:
     {
         const auto [body, exitCode, expected] = currentRow<QByteArray, int, QStringList>();
         const QString file = page(body);
-        const QStringList arguments {file, "--services", m_services, "--check"};
+        writeFile(m_folder.filePath("checked/field.service.json"), R"({ "service": "field", "items": [
+            { "id": ":config:field:setup:on:", "type": "bool", "label": "On", "value": true },
+            { "id": ":result:field:test:loss:", "type": "double", "label": "Loss", "value": 1.5 } ] })");
+        const QStringList arguments {file, "--services", m_folder.filePath("checked"), "--check"};
         const Outcome outcome = run(arguments);
         QCOMPARE(QString(outcome.output).remove(file).split('\n', Qt::SkipEmptyParts), expected);
         QCOMPARE(outcome.exitCode, exitCode);
         const QJsonObject told = QJsonDocument::fromJson(run(arguments + QStringList {"--json"}).output).object();
         QCOMPARE(told["findings"].toArray().size(), expected.size());
         QCOMPARE(told["errors"].toInt() > 0, exitCode == 1);
+    }
+
+    /// The services of the page count too, even if the page needs none of them.
+    void checksTheServicesOfAPage()
+    {
+        const Outcome outcome = run({page("Item {}"), "--services", m_services, "--check"});
+        QCOMPARE(outcome.exitCode, 0);
+        QVERIFY2(outcome.output.contains("warning: The number has no"), qPrintable(outcome.output));
+        const QString folder = m_folder.filePath("wrong");
+        writeFile(folder + "/a.service.json", R"({ "service": "a", "items": [
+            { "id": ":config:a:x:", "type": "int", "value": 9, "minimum": 0, "maximum": 5 } ] })");
+        const Outcome wrong = run({page("Item {}"), "--services", folder, "--check"});
+        QCOMPARE(wrong.exitCode, 1);
+        QVERIFY2(wrong.output.contains("a.service.json:2:61: error: 9 is outside the limits 0 to 5. [:config:a:x:]"),
+                qPrintable(wrong.output));
     }
 
     /// The time of the page is that of the recording, whenever the machine gets to it: animations and timers too.
